@@ -1,0 +1,34 @@
+# SPDX-License-Identifier: MIT
+# What every target of the house shares: the warnings, the sanitizers, and how a folder becomes a library.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+  set(CMAKE_OBJCXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+if(ZELK_SANITIZE)
+  add_compile_options(-fsanitize=${ZELK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${ZELK_SANITIZE})
+endif()
+
+if(ZELK_FUZZERS)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+add_library(zelk_options INTERFACE)
+target_compile_options(zelk_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+target_include_directories(zelk_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+
+# zelk_folder(NAME [LINKS lib...]): a library `zelk_NAME` of every source in the current folder (not its subfolders).
+function(zelk_folder name)
+  cmake_parse_arguments(ARG "" "" "LINKS;SOURCES" ${ARGN})
+  if(NOT ARG_SOURCES)
+    file(GLOB ARG_SOURCES CONFIGURE_DEPENDS *.cpp *.h)
+  endif()
+  add_library(zelk_${name} STATIC ${ARG_SOURCES})
+  set_target_properties(zelk_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_libraries(zelk_${name} PUBLIC zelk_options Threads::Threads ${ARG_LINKS})
+endfunction()

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "reclaim/ReclaimCatalogue.h"
+#include "scan/FSNode.h"
+
+namespace zelk {
+
+class FileManager;
+
+/// Turns a finished tree into the list of what can be reclaimed: one ordered chain of tests on a node and the home
+/// path, the first hit wins. No minimum size and no age limit: those belong to the review. Of the live file system it
+/// asks one thing, whether a Cargo.toml stands beside a folder called "target". Usable from any thread.
+class ReclaimClassifier {
+public:
+    struct Match {
+        const ReclaimCategory* category = nullptr;
+        ReclaimMethod method;
+        TimePoint ageDate = 0;  ///< the date from which the item's age counts
+    };
+
+    explicit ReclaimClassifier(FileManager& files) : files_(files) {}
+
+    std::optional<Match> classify(const FSNode& node, const std::string& home) const;
+
+    /// Walks the tree in pre-order, appends an item per match and marks the node with its category. Any depth.
+    void collect(FSNode& top, const std::string& home, std::vector<Reclaimable>& items) const;
+
+private:
+    FileManager& files_;
+};
+
+}  // namespace zelk

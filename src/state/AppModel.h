@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/Platform.h"
+#include "reclaim/ReclaimCatalogue.h"
+#include "scan/ScanUpdate.h"
+#include "scan/UpdateQueue.h"
+#include "state/Screen.h"
+#include "state/SurveyHistory.h"
+
+namespace zelk {
+
+/// The state of the application: one instance for the whole run, shared with every screen. It starts and cancels
+/// surveys, folds their updates into plain fields, keeps what the last one found and mirrors the Trash.
+///
+/// Main thread only. Every field has a signal that is emitted after a write that changed its value.
+class AppModel : public QObject {
+    Q_OBJECT
+
+public:
+    enum class ScanPhase { idle, scanning, finished };
+    enum class Audience { normal, developer };
+    enum class Appearance { system, light, dark };
+    Q_ENUM(ScanPhase)
+
+    /// The services must outlive the model and, if a scan is under way when it goes, the scan's threads.
+    explicit AppModel(Platform platform, QObject* parent = nullptr);
+    ~AppModel() override;
+
+    // What the user chose; back to the defaults at every launch.
+    Appearance appearance() const { return appearance_; }
+    void setAppearance(Appearance appearance);
+    Audience audience() const { return audience_; }
+    void setAudience(Audience audience);
+    Screen selection() const { return selection_; }
+    void setSelection(Screen screen);
+    const std::vector<std::string>& scanRoots() const { return scanRoots_; }
+    /// Equal paths are taken once.
+    void setScanRoots(std::vector<std::string> roots);
+    std::int64_t ageFilterDays() const { return ageFilterDays_; }
+    void setAgeFilterDays(std::int64_t days);
+    bool hardDeleteEnabled() const { return hardDeleteEnabled_; }
+    void setHardDeleteEnabled(bool enabled);
+
+    // The survey.
+    ScanPhase scanPhase() const { return scanPhase_; }
+    std::int64_t itemsScanned() const { return itemsScanned_; }
+    std::int64_t bytesScanned() const { return bytesScanned_; }
+    const std::string& currentPath() const { return currentPath_; }
+    std::int64_t blockedPaths() const { return blockedPaths_; }
+    const NodeRef& root() const { return root_; }
+    const std::optional<ScanStats>& stats() const { return stats_; }
+    const std::vector<Reclaimable>& reclaimables() const { return reclaimables_; }
+    const ScanInsights& insights() const { return insights_; }
+    const std::optional<VolumeInfo>& volume() const { return volume_; }
+    /// For a screen that finds no volume and reads one itself.
+    void setVolume(std::optional<VolumeInfo> volume);
+    const std::vector<SurveyRecord>& history() const { return history_; }
+
+    // The Trash.
+    std::int64_t trashBytes() const { return trashBytes_; }
+    bool trashAccessible() const { return trashAccessible_; }
+    bool trashLoading() const { return trashLoading_; }
+    bool emptyingTrash() const { return emptyingTrash_; }
+
+    const std::string& home() const { return home_; }
+    const DeviceInfo& device() const { return device_; }
+
+    // Derived at each call, never stored.
+    std::int64_t reclaimableBytes() const;
+    std::vector<Reclaimable> safeItems() const;
+    std::int64_t safeBytes() const;
+    std::int64_t freeBytes() const;
+    /// "1,234 items · 5.6 GB" in the user's locale.
+    std::string progressLine() const;
+    /// Bytes per category of the catalogue, largest first.
+    std::vector<std::pair<const ReclaimCategory*, std::int64_t>> reclaimTotals() const;
+    /// By bytes, largest first.
+    std::vector<std::pair<FileType, TypeTally>> sortedTypeTotals() const;
+    /// The first meaningful level (below the only root, or the roots), largest first; empty without a tree.
+    std::vector<NodeRef> topFolders() const;
+    std::optional<std::int64_t> daysUntilFull() const;
+    std::optional<FolderChanges> folderChanges() const;
+
+public slots:
+    /// Does nothing while a survey runs.
+    void startScan();
+    void cancelScan();
+    void refreshTrash();
+
+public:
+    /// Takes a directory out of the results after it was moved away.
+    void removeFromTree(FSNode& node);
+
+signals:
+    void appearanceChanged();
+    void audienceChanged();
+    void selectionChanged();
+    void scanRootsChanged();
+    void ageFilterDaysChanged();
+    void hardDeleteEnabledChanged();
+    void scanPhaseChanged();
+    void itemsScannedChanged();
+    void bytesScannedChanged();
+    void currentPathChanged();
+    void blockedPathsChanged();
+    void rootChanged();  ///< another tree, or removeFromTree took something out of this one
+    void statsChanged();
+    void reclaimablesChanged();
+    void insightsChanged();
+    void volumeChanged();
+    void historyChanged();
+    void trashBytesChanged();
+    void trashAccessibleChanged();
+    void trashLoadingChanged();
+    void emptyingTrashChanged();
+
+private:
+    struct ScanTask;
+
+    void consumeUpdates(const std::shared_ptr<ScanTask>& task);
+    void finish(const std::shared_ptr<ScanTask>& task, update::Finished finished);
+    void recordSurvey(std::int64_t total, const FSNode& tree);
+    void settleTrash();
+    void takeTrashMeasure(std::optional<std::uint64_t> bytes);
+    void releaseTree(NodeRef tree);
+
+    template <class T>
+    bool assign(T& field, T value, void (AppModel::*changed)());
+
+    Platform platform_;
+    SurveyHistory historyFile_;
+
+    Appearance appearance_ = Appearance::dark;
+    Audience audience_ = Audience::normal;
+    Screen selection_ = Screen::survey;
+    ScanPhase scanPhase_ = ScanPhase::idle;
+    std::int64_t itemsScanned_ = 0;
+    std::int64_t bytesScanned_ = 0;
+    std::string currentPath_;
+    std::int64_t blockedPaths_ = 0;
+    NodeRef root_;
+    std::optional<ScanStats> stats_;
+    std::vector<Reclaimable> reclaimables_;
+    ScanInsights insights_;
+    std::optional<VolumeInfo> volume_;
+    std::int64_t trashBytes_ = 0;
+    bool trashAccessible_ = true;
+    bool trashLoading_ = false;
+    bool emptyingTrash_ = false;
+    std::vector<SurveyRecord> history_;
+    std::vector<std::string> scanRoots_;
+    std::int64_t ageFilterDays_ = 14;
+    bool hardDeleteEnabled_ = false;
+    std::string home_;
+    DeviceInfo device_;
+    std::shared_ptr<ScanTask> scanTask_;
+};
+
+}  // namespace zelk

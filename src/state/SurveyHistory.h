@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/FileManager.h"
+#include "platform/Locations.h"
+#include "state/SurveyRecord.h"
+
+namespace zelk {
+
+/// The JSON of "history.json": an array of records, oldest first, as the default encoder of the Mac's language writes
+/// them and reads them. Absent unless every record has every required key with its type.
+std::optional<std::vector<SurveyRecord>> decodeHistory(std::string_view json);
+std::string encodeHistory(const std::vector<SurveyRecord>& records);
+
+/// The last surveys, kept in one small file. The file is the source of truth: every append reads it afresh. All its
+/// failures are silent: an unreadable file is an empty history.
+class SurveyHistory {
+public:
+    static constexpr std::size_t maximumRecords = 60;
+
+    SurveyHistory(FileManager& files, Locations& locations) : files_(files), locations_(locations) {}
+
+    /// "Zelk/history.json" in the application support folder, the folder made; absent if the system names none.
+    std::optional<std::string> location() const;
+    std::vector<SurveyRecord> load() const;
+    /// Adds `record`, drops the oldest above the maximum, writes, and gives the whole list whether or not the write
+    /// succeeded.
+    std::vector<SurveyRecord> append(const SurveyRecord& record) const;
+
+private:
+    FileManager& files_;
+    Locations& locations_;
+};
+
+}  // namespace zelk
