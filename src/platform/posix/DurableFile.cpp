@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/DurableFile.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <random>
+#include <vector>
+
+#include "platform/posix/Descriptor.h"
+
+namespace zelk {
+namespace {
+
+constexpr std::string_view temporaryPrefix = ".zelk-write-";
+constexpr std::string_view hexDigits = "0123456789abcdef";
+constexpr std::size_t randomDigits = 16;
+constexpr int maximumLinks = 40;  // what the kernel itself follows
+constexpr off_t maximumRead = off_t{256} << 20;
+constexpr std::size_t maximumWrite = std::size_t{1} << 30;  // macOS refuses 2 GiB at once
+
+struct Place {
+    std::string folder;
+    std::string name;
+};
+
+Place split(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos) return {".", path};
+    return {path.substr(0, slash + 1), path.substr(slash + 1)};
+}
+
+bool isPlainName(std::string_view name) {
+    return !name.empty() && name != "." && name != "..";
+}
+
+std::optional<std::string> linkTarget(const std::string& path) {
+    std::vector<char> buffer(256);
+    for (;;) {
+        const ssize_t length = ::readlink(path.c_str(), buffer.data(), buffer.size());
+        if (length < 0) return std::nullopt;
+        if (static_cast<std::size_t>(length) < buffer.size()) return std::string(buffer.data(), length);
+        buffer.resize(buffer.size() * 2);
+    }
+}
+
+/// Where the file itself lies, or would lie, behind the links at the end of `path`.
+std::optional<Place> resolve(std::string path) {
+    for (int links = 0; links <= maximumLinks; ++links) {
+        struct stat status {};
+        Place place = split(path);
+        if (!isPlainName(place.name)) return std::nullopt;
+        if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return place;
+        const std::optional<std::string> target = linkTarget(path);
+        if (!target) return std::nullopt;
+        path = target->starts_with('/') ? *target : place.folder + "/" + *target;
+    }
+    return std::nullopt;
+}
+
+std::string temporaryName() {
+    std::string name(temporaryPrefix);
+    std::random_device random;
+    for (std::size_t digit = 0; digit < randomDigits; ++digit) name += hexDigits[random() % hexDigits.size()];
+    return name;
+}
+
+bool isTemporaryName(std::string_view name) {
+    return name.size() == temporaryPrefix.size() + randomDigits && name.starts_with(temporaryPrefix) &&
+           name.find_first_not_of(hexDigits, temporaryPrefix.size()) == std::string_view::npos;
+}
+
+/// Removes what killed writers left in `folder`; called when nobody is writing there.
+void sweep(const Descriptor& folder) {
+    const int listing = ::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR* stream = listing < 0 ? nullptr : ::fdopendir(listing);
+    if (stream == nullptr) {
+        if (listing >= 0) ::close(listing);
+        return;
+    }
+    std::vector<std::string> stale;
+    while (const dirent* entry = ::readdir(stream)) {
+        if (isTemporaryName(entry->d_name)) stale.emplace_back(entry->d_name);
+    }
+    ::closedir(stream);
+    for (const std::string& name : stale) ::unlinkat(folder.get(), name.c_str(), 0);
+}
+
+/// Every writer holds the folder's shared lock while its temporary file is there, so whoever gets the exclusive one
+/// knows that no temporary file in sight has a living writer. The lock goes with the descriptor, also when the process
+/// is killed. Where locks end (another machine on a network volume) the worst is that a writer finds its file swept and
+/// fails, the old content in place: names are random, so it never renames a file that another is still writing.
+void joinWriters(const Descriptor& folder) {
+    if (::flock(folder.get(), LOCK_EX | LOCK_NB) == 0) sweep(folder);
+    uninterrupted([&] { return ::flock(folder.get(), LOCK_SH); });
+}
+
+bool writeAll(const Descriptor& file, std::string_view content) {
+    while (!content.empty()) {
+        const std::size_t part = std::min(content.size(), maximumWrite);
+        const ssize_t written = uninterrupted([&] { return ::write(file.get(), content.data(), part); });
+        if (written <= 0) return false;
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+bool flush(const Descriptor& file) {
+#ifdef F_FULLFSYNC
+    // fsync() there leaves the data in the drive's own cache; not every volume knows the stronger call.
+    if (uninterrupted([&] { return ::fcntl(file.get(), F_FULLFSYNC); }) == 0) return true;
+#endif
+    return uninterrupted([&] { return ::fsync(file.get()); }) == 0;
+}
+
+Descriptor openFolder(const std::string& path) {
+    return Descriptor(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+}
+
+bool fill(Descriptor file, std::string_view content, std::optional<mode_t> mode) {
+    // Not every volume has permissions to set; the content counts for more, and 0600 shows it to nobody else.
+    if (mode) static_cast<void>(::fchmod(file.get(), *mode));
+    return writeAll(file, content) && flush(file) && file.close();
+}
+
+bool isDirectory(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+}  // namespace
+
+bool replaceFileDurably(const std::string& path, std::string_view content) {
+    const std::optional<Place> place = resolve(path);
+    if (!place) return false;
+    const Descriptor folder = openFolder(place->folder);
+    if (!folder) return false;
+
+    struct stat old {};
+    const bool exists = ::fstatat(folder.get(), place->name.c_str(), &old, AT_SYMLINK_NOFOLLOW) == 0;
+    if (exists ? !S_ISREG(old.st_mode) : errno != ENOENT) return false;
+    const std::optional<mode_t> mode = exists ? std::optional<mode_t>(old.st_mode & 0777) : std::nullopt;
+
+    joinWriters(folder);
+    const std::string temporary = temporaryName();
+    const int fd = uninterrupted([&] {
+        return ::openat(folder.get(), temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+    });
+    if (fd < 0) return false;
+    if (!fill(Descriptor(fd), content, mode) ||
+        ::renameat(folder.get(), temporary.c_str(), folder.get(), place->name.c_str()) != 0) {
+        ::unlinkat(folder.get(), temporary.c_str(), 0);
+        return false;
+    }
+    flush(folder);
+    return true;
+}
+
+std::optional<std::string> readWholeFile(const std::string& path) {
+    const Descriptor file(
+        uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY); }));
+    struct stat status {};
+    if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > maximumRead) {
+        return std::nullopt;
+    }
+    std::string content;
+    std::size_t length = 0;
+    for (;;) {
+        // One byte more than is expected, so that the end is met without growing again.
+        if (length == content.size()) content.resize(std::max<std::size_t>(status.st_size + 1, length * 2 + 4096));
+        const ssize_t got =
+            uninterrupted([&] { return ::read(file.get(), content.data() + length, content.size() - length); });
+        if (got < 0) return std::nullopt;
+        if (got == 0) break;
+        length += static_cast<std::size_t>(got);
+    }
+    content.resize(length);
+    return content;
+}
+
+bool createDirectoryTree(const std::string& path) {
+    if (path.empty()) return false;
+    std::vector<std::string> missing;
+    std::string current = path;
+    while (!isDirectory(current)) {
+        missing.push_back(current);
+        const std::size_t last = current.find_last_not_of('/');
+        const std::size_t slash = last == std::string::npos ? last : current.rfind('/', last);
+        if (slash == std::string::npos) {
+            current = ".";
+            break;
+        }
+        current.resize(slash + 1);
+    }
+    for (; !missing.empty(); missing.pop_back()) {
+        if (::mkdir(missing.back().c_str(), 0700) != 0 && !isDirectory(missing.back())) return false;
+        if (const Descriptor above = openFolder(current)) flush(above);  // the new entry, as far as the volume can
+        current = missing.back();
+    }
+    return isDirectory(path);
+}
+
+}  // namespace zelk
