@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+// A file system in memory for the walker: a test builds it, then lets a scan walk it, and may hold the walk at a chosen
+// directory to act in the middle of it.
+#pragma once
+
+#include <condition_variable>
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/DirectoryReader.h"
+
+namespace zelk::fake {
+
+/// Build it before a scan starts; only hold(), waitUntilHeld(), release() and timesRead() are for the time while one
+/// runs. Paths are absolute. Threads of a scan must have ended before it goes.
+class DirectoryService : public zelk::DirectoryService {
+public:
+    /// Makes `path` and what is missing above it; "/" is always there.
+    void directory(const std::string& path, TimePoint modified = 0) { make(path).modified = modified; }
+
+    void file(const std::string& path, std::uint64_t bytes, TimePoint modified = 0) {
+        newEntry(path, regularType, modified).content = newContent(bytes);
+    }
+
+    /// A link: a file of its own small size, never entered below a root. As a root it leads to `target`, where given.
+    void symbolicLink(const std::string& path, std::uint64_t bytes, const std::string& target = {}) {
+        Node& link = newEntry(path, linkType, 0);
+        link.content = newContent(bytes);
+        if (!target.empty()) link.target = &existing(target);
+    }
+
+    /// Another name for the file `existingPath`.
+    void hardLink(const std::string& path, const std::string& existingPath) {
+        Content* content = existing(existingPath).content;
+        newEntry(path, regularType, existing(existingPath).modified).content = content;
+        ++content->links;
+    }
+
+    /// A chain of `depth` folders called `name`, each in the last, in `path`. Returns nothing: at such depths the path
+    /// itself would be the greater part of the work.
+    void chain(const std::string& path, std::string_view name, int depth, std::uint64_t bytesInEach = 0) {
+        Node* at = &make(path);
+        for (int level = 0; level < depth; ++level) {
+            at = &newChild(*at, std::string(name), directoryObjectType, 0);
+            if (bytesInEach != 0) newChild(*at, "file", regularType, 0).content = newContent(bytesInEach);
+        }
+    }
+
+    /// It and what is made below it afterwards lie on another device, like a mount point.
+    void device(const std::string& path, std::int32_t device) { make(path).device = device; }
+
+    /// It cannot be listed, though it can be looked at from above.
+    void unreadable(const std::string& path) { make(path).readable = false; }
+    /// It cannot even be looked at: status() gives nothing.
+    void invisible(const std::string& path) { make(path).visible = false; }
+
+    /// The thread that comes to list `path` waits there until release(). More than one path may be held.
+    void hold(const std::string& path) {
+        const std::lock_guard lock(gate_);
+        held_.insert(&existing(path));
+    }
+
+    /// Returns as soon as a thread waits at `path`, which must be held.
+    void waitUntilHeld(const std::string& path) {
+        const Node* node = &existing(path);
+        std::unique_lock lock(gate_);
+        gateMoved_.wait(lock, [&] { return waiting_.count(node) != 0; });
+    }
+
+    /// Lets everybody through, now and later.
+    void release() {
+        const std::lock_guard lock(gate_);
+        held_.clear();
+        gateMoved_.notify_all();
+    }
+
+    /// How often `path` was listed, or tried to be.
+    int timesRead(const std::string& path) {
+        const std::lock_guard lock(gate_);
+        return reads_[&existing(path)];
+    }
+
+    std::optional<RootStatus> status(const std::string& path) override {
+        const Node* node = find(path);
+        if (node == nullptr || !node->visible) return std::nullopt;
+        node = followed(node);
+        return RootStatus{node->device, static_cast<TimePoint>(static_cast<std::int64_t>(node->modified))};
+    }
+
+    std::shared_ptr<const DirectoryRoot> openRoot(const std::string& path) override {
+        const Node* node = find(path);
+        if (node == nullptr || !node->visible) return nullptr;
+        node = followed(node);
+        if (node->type != directoryObjectType || !node->readable) return nullptr;
+        return std::make_shared<Root>(node);
+    }
+
+    std::unique_ptr<DirectoryReader> makeReader() override { return std::make_unique<Reader>(*this); }
+
+private:
+    static constexpr std::uint32_t regularType = 1;
+    static constexpr std::uint32_t linkType = 5;
+
+    struct Content {
+        std::uint64_t fileID;
+        std::uint64_t bytes;
+        std::uint32_t links = 1;
+    };
+
+    struct Node {
+        std::string name;
+        std::uint32_t type;
+        std::int32_t device;
+        TimePoint modified;
+        std::uint64_t fileID;
+        Content* content = nullptr;  // of a file or link
+        const Node* target = nullptr;
+        bool readable = true;
+        bool visible = true;
+        std::vector<Node*> children{};  // in the order in which they were made, which is the order of delivery
+        std::map<std::string, Node*, std::less<>> byName{};
+    };
+
+    struct Root : DirectoryRoot {
+        explicit Root(const Node* top) : node(top) {}
+        const Node* node;
+    };
+
+    class Reader : public DirectoryReader {
+    public:
+        explicit Reader(DirectoryService& service) : service_(service) {}
+
+        const Entries* open(const DirectoryRoot& root, const std::string& below) override {
+            standing_ = {service_.walk(static_cast<const Root&>(root).node, below)};
+            return listing();
+        }
+        const Entries* descend(std::string_view name) override {
+            const Node* from = standing_.empty() ? nullptr : standing_.back();
+            standing_.push_back(from == nullptr ? nullptr : service_.child(from, name));
+            return listing();
+        }
+        void ascend() override {
+            if (standing_.empty()) throw std::logic_error("ascend() without a descend()");
+            standing_.pop_back();
+        }
+
+    private:
+        const Entries* listing() {
+            entries_.clear();
+            const Node* node = standing_.back();
+            if (node == nullptr) return nullptr;
+            service_.arriveAt(node);
+            if (node->type != directoryObjectType || !node->readable) return nullptr;
+            for (const Node* child : node->children) {
+                const Content* content = child->content;
+                entries_.push_back({child->name, child->type, content != nullptr ? content->fileID : child->fileID,
+                                    content != nullptr ? content->links : 0, content != nullptr ? content->bytes : 0,
+                                    child->device, child->modified});
+            }
+            return &entries_;
+        }
+
+        DirectoryService& service_;
+        std::vector<const Node*> standing_;  // nullptr: a level that is not there
+        Entries entries_;
+    };
+
+    static const Node* followed(const Node* node) { return node->target != nullptr ? node->target : node; }
+
+    static const Node* child(const Node* node, std::string_view name) {
+        const auto found = node->byName.find(name);
+        return found == node->byName.end() ? nullptr : found->second;
+    }
+
+    /// Slashes at the ends and doubled ones mean nothing.
+    static const Node* walk(const Node* node, std::string_view below) {
+        while (node != nullptr && !below.empty()) {
+            const std::size_t slash = below.find('/');
+            const std::string_view name = below.substr(0, slash);
+            below.remove_prefix(slash == std::string_view::npos ? below.size() : slash + 1);
+            if (!name.empty()) node = child(node, name);
+        }
+        return node;
+    }
+
+    const Node* find(std::string_view path) const { return walk(top_, path); }
+
+    Node& existing(const std::string& path) {
+        const Node* node = find(path);
+        if (node == nullptr) throw std::logic_error("not in the fake file system: " + path);
+        return const_cast<Node&>(*node);
+    }
+
+    Node& make(const std::string& path) {
+        if (const Node* node = find(path)) return const_cast<Node&>(*node);
+        return newEntry(path, directoryObjectType, 0);
+    }
+
+    Node& newEntry(const std::string& path, std::uint32_t type, TimePoint modified) {
+        const std::size_t slash = path.rfind('/');
+        if (path.empty() || path.front() != '/' || find(path) != nullptr)
+            throw std::logic_error("not a new absolute path: " + path);
+        return newChild(make(slash == 0 ? "/" : path.substr(0, slash)), path.substr(slash + 1), type, modified);
+    }
+
+    Node& newChild(Node& parent, std::string name, std::uint32_t type, TimePoint modified) {
+        Node& node = nodes_.emplace_back(Node{std::move(name), type, parent.device, modified, ++lastFileID_});
+        parent.children.push_back(&node);
+        parent.byName.emplace(node.name, &node);
+        return node;
+    }
+
+    Content* newContent(std::uint64_t bytes) { return &contents_.emplace_back(Content{++lastFileID_, bytes}); }
+
+    void arriveAt(const Node* node) {
+        std::unique_lock lock(gate_);
+        ++reads_[node];
+        if (held_.count(node) == 0) return;
+        waiting_.insert(node);
+        gateMoved_.notify_all();
+        gateMoved_.wait(lock, [&] { return held_.count(node) == 0; });
+        waiting_.erase(node);
+    }
+
+    // Flat, so that a tree of any depth is released without recursion.
+    std::deque<Node> nodes_;
+    std::deque<Content> contents_;
+    std::uint64_t lastFileID_ = 2;
+    Node* top_ = &nodes_.emplace_back(Node{"/", directoryObjectType, 1, 0, 2});
+
+    std::mutex gate_;
+    std::condition_variable gateMoved_;
+    std::set<const Node*> held_;
+    std::multiset<const Node*> waiting_;
+    std::map<const Node*, int> reads_;
+};
+
+}  // namespace zelk::fake
