@@ -13,4 +13,7 @@ namespace zelk {
 /// `decimalSeparator` is that of the user's locale.
 std::string byteText(std::int64_t count, std::string_view decimalSeparator = ".");
 
+/// The size of a machine's memory, which is sold in binary gigabytes: whole units of 2^30, halves up ("16 GB").
+std::string memoryText(std::uint64_t bytes);
+
 }  // namespace zelk
