@@ -39,12 +39,16 @@ public:
     bool operator==(const FSNode* node) const { return node_ == node; }
 
 private:
+    friend class FSNode;
+
     FSNode* node_ = nullptr;
 };
 
 /// A directory. It is written by one thread at a time: by the worker that visits it, and when the walk is over by
 /// whoever owns the tree. A node owns its children; its parent pointer does not own and is cleared when the parent
-/// goes. The name stands in the node's own allocation, behind the fields: a hundred thousand of them are one survey.
+/// goes. A reference to a node keeps what is below it but not what is above: who asks for paths while another thread
+/// may release the tree holds on to the top as well. The name stands in the node's own allocation, behind the fields: a
+/// hundred thousand of them are one survey.
 class FSNode {
 public:
     static NodeRef make(std::string_view name, TimePoint lastModified, bool isDirectory = true);
@@ -66,7 +70,7 @@ public:
     /// The same into a buffer that the caller reuses.
     void fullPath(std::string& path) const;
 
-    std::int64_t size = 0;  ///< allocated bytes of this and everything below; 0 until the roll-up
+    std::int64_t size = 0;          ///< allocated bytes of this and everything below; 0 until the roll-up
     std::vector<NodeRef> children;  ///< subdirectories in the order in which they were met; add with append()
     const ReclaimCategory* reclaimCategory = nullptr;  ///< set by the classifier; a row of the catalogue
     TimePoint lastModified;

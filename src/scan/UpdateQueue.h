@@ -23,7 +23,8 @@ public:
     void yield(ScanUpdate update);
     /// The writers' end: the reader still takes what was yielded before.
     void finish();
-    /// The reader's end: drops what has not been taken. Further calls, also behind finish(), change nothing more.
+    /// The reader's end: drops what has not been taken, and wakes nobody any more. Any number of times, also behind
+    /// finish().
     void terminate();
 
     struct Batch {
@@ -34,14 +35,15 @@ public:
     Batch takeAll();
 
 private:
-    bool endLocked(std::function<void()>& handler);
+    // Both under the lock; what they give is called without it.
+    std::function<void()> end();
+    std::function<void()> wakeOnce();
 
     std::mutex mutex_;
     std::vector<ScanUpdate> updates_;
     std::function<void()> terminationHandler_;
     std::function<void()> wakeReader_;
     bool ended_ = false;
-    bool terminated_ = false;
     bool woken_ = false;
 };
 

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxDirectoryReader.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+
+#include "platform/linux/StatxEntry.h"
+#include "platform/posix/DirectoryLadder.h"
+#include "platform/posix/OpenDirectory.h"
+#include "platform/posix/PosixRoot.h"
+
+namespace zelk {
+
+namespace {
+
+/// How much a call of getdents64 may deliver. An ordinary folder fits whole.
+constexpr std::size_t readBytes = 64 * 1024;
+
+/// What a reader keeps between folders. A folder of hundreds of thousands of entries needs far more for a moment, and
+/// that is given back, or every thread would end up holding as much.
+constexpr std::size_t keptBytes = 1024 * 1024;
+
+/// The kernel's record (getdents64(2)), with the name behind it.
+struct KernelEntry {
+    std::uint64_t inode;
+    std::int64_t offset;
+    std::uint16_t length;
+    std::uint8_t type;
+};
+constexpr std::size_t nameOffset = offsetof(KernelEntry, type) + 1;
+
+bool isDotOrDotDot(const char* name) {
+    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
+}
+
+/// Tells a folder whose entries may not be looked at (which is then unreadable as a whole) from a single subfolder that
+/// does not answer: a mount point whose file system is dead or another user's. That one lies on another device and
+/// would be left out in any case; it must not cost the folder that holds it.
+bool canLookInto(int directory) {
+    DirEntry entry;
+    return statxEntry(directory, ".", entry) == StatxOutcome::ok;
+}
+
+class LinuxDirectoryReader : public DirectoryReader {
+public:
+    const Entries* open(const DirectoryRoot& root, const std::string& below) override {
+        ladder_.open(static_cast<const PosixRoot&>(root).descriptor(), below);
+        return read();
+    }
+
+    const Entries* descend(std::string_view name) override {
+        ladder_.descend(name);
+        return read();
+    }
+
+    void ascend() override { ladder_.ascend(); }
+
+private:
+    const Entries* read() {
+        const int directory = ladder_.current();
+        giveBackExcess();
+        entries_.clear();
+        if (directory < 0 || !readNames(directory)) return nullptr;
+        return statEntries(directory) ? &entries_ : nullptr;
+    }
+
+    /// All records of the directory, one behind the other, into names_.
+    bool readNames(int directory) {
+        used_ = 0;
+        while (true) {
+            if (names_.size() < used_ + readBytes) names_.resize(used_ == 0 ? readBytes : used_ * 2 + readBytes);
+            const long got = syscall(SYS_getdents64, directory, names_.data() + used_, names_.size() - used_);
+            if (got == 0) return true;
+            if (got < 0) {
+                if (errno == EINTR) continue;
+                return false;
+            }
+            used_ += static_cast<std::size_t>(got);
+        }
+    }
+
+    bool statEntries(int directory) {
+        for (std::size_t at = 0; at < used_;) {
+            KernelEntry record;
+            std::memcpy(&record, names_.data() + at, sizeof record);
+            const char* name = names_.data() + at + nameOffset;
+            at += record.length;
+            if (isDotOrDotDot(name)) continue;
+            DirEntry entry;
+            switch (statxEntry(directory, name, entry)) {
+                case StatxOutcome::ok:
+                    entries_.push_back(entry);
+                    break;
+                case StatxOutcome::gone:
+                    break;  // deleted since it was listed: it is not there, and that is no failure
+                case StatxOutcome::failed:
+                    if (record.type == DT_DIR && canLookInto(directory)) break;
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    void giveBackExcess() {
+        if (names_.capacity() > keptBytes) std::vector<char>().swap(names_);
+        if (entries_.capacity() * sizeof(DirEntry) > keptBytes) Entries().swap(entries_);
+    }
+
+    DirectoryLadder ladder_;
+    std::vector<char> names_;
+    std::size_t used_ = 0;
+    Entries entries_;
+};
+
+}  // namespace
+
+std::optional<RootStatus> LinuxDirectoryService::status(const std::string& path) {
+    return posixRootStatus(path);
+}
+
+std::shared_ptr<const DirectoryRoot> LinuxDirectoryService::openRoot(const std::string& path) {
+    return openPosixRoot(path);
+}
+
+std::unique_ptr<DirectoryReader> LinuxDirectoryService::makeReader() {
+    return std::make_unique<LinuxDirectoryReader>();
+}
+
+}  // namespace zelk

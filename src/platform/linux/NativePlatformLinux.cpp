@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include <string>
+
+#include "platform/NativePlatform.h"
+#include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/linux/LinuxFileManager.h"
+#include "platform/linux/LinuxLocations.h"
+#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/LinuxVitals.h"
+#include "platform/posix/DescriptorLimit.h"
+#include "platform/posix/PosixClock.h"
+#include "platform/posix/PosixTasks.h"
+#include "platform/posix/ThreadCount.h"
+
+namespace zelk {
+
+struct NativePlatform::Services {
+    explicit Services(const std::string& home) : locations(home), trash(home) {}
+
+    PosixClock clock;
+    ThreadTasks tasks;
+    LinuxDirectoryService directories;
+    LinuxFileManager files;
+    LinuxVitals vitals;
+    LinuxLocations locations;
+    LinuxTrash trash;
+    Platform record{clock, directories, files, trash, vitals, locations, tasks};
+};
+
+NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {
+    raiseDescriptorLimit();
+}
+
+NativePlatform::~NativePlatform() = default;
+
+Platform& NativePlatform::platform() {
+    return services_->record;
+}
+
+bool NativePlatform::drain(double seconds) {
+    return drainThreads(seconds);
+}
+
+}  // namespace zelk

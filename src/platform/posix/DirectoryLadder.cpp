@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/DirectoryLadder.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/posix/OpenDirectory.h"
+
+namespace zelk {
+
+bool DirectoryLadder::open(int rootFd, const std::string& below) {
+    clear();
+    return push(openDirectoryBeneath(rootFd, below));
+}
+
+bool DirectoryLadder::descend(std::string_view name) {
+    const int above = current();
+    if (rungs_.size() - firstOpen_ >= maximumOpen) setOldestAside();
+    return push(above < 0 ? -1 : openSubdirectory(above, name));
+}
+
+void DirectoryLadder::ascend() {
+    if (rungs_.empty()) return;
+    const Rung left = rungs_.back();
+    rungs_.pop_back();
+    if (!rungs_.empty() && rungs_.back().set) {
+        Rung& above = rungs_.back();
+        above.set = false;
+        firstOpen_ = rungs_.size() - 1;
+        if (left.fd >= 0) {
+            const int fd = openat(left.fd, "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+            struct stat status;
+            // A directory that was moved meanwhile has another one above it; that one is none of ours.
+            if (fd >= 0 && fstat(fd, &status) == 0 && status.st_dev == above.device && status.st_ino == above.inode)
+                above.fd = fd;
+            else if (fd >= 0)
+                close(fd);
+        }
+    }
+    if (left.fd >= 0) close(left.fd);
+    if (firstOpen_ > rungs_.size()) firstOpen_ = rungs_.size();
+}
+
+void DirectoryLadder::clear() {
+    for (const Rung& rung : rungs_)
+        if (rung.fd >= 0) close(rung.fd);
+    rungs_.clear();
+    firstOpen_ = 0;
+}
+
+bool DirectoryLadder::push(int fd) {
+    rungs_.push_back({.fd = fd});
+    return fd >= 0;
+}
+
+void DirectoryLadder::setOldestAside() {
+    Rung& rung = rungs_[firstOpen_++];
+    if (rung.fd < 0) return;
+    struct stat status;
+    if (fstat(rung.fd, &status) == 0) {
+        rung.set = true;
+        rung.device = status.st_dev;
+        rung.inode = status.st_ino;
+    }
+    close(rung.fd);
+    rung.fd = -1;
+}
+
+}  // namespace zelk

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zelk {
+
+/// The open directories between a scan root and where a reader stands: each is opened relative to the one above, so
+/// that neither the length of a path nor a swapped component matters. Of a very deep chain only the lowest
+/// `maximumOpen` are kept open; the others are found again through ".." on the way back, and taken only if they are
+/// still the same directory. One thread; owns its descriptors.
+class DirectoryLadder {
+public:
+    /// Below the usual limit of 256 (macOS) or 1024 (Linux) descriptors a process, with eight threads and more.
+    static constexpr std::size_t maximumOpen = 16;
+
+    DirectoryLadder() = default;
+    DirectoryLadder(const DirectoryLadder&) = delete;
+    DirectoryLadder& operator=(const DirectoryLadder&) = delete;
+    ~DirectoryLadder() { clear(); }
+
+    /// Leaves everything and stands at `below` under `rootFd` (not owned). False if it could not be opened.
+    bool open(int rootFd, const std::string& below);
+    /// One level down; also when it gives false it has gone down.
+    bool descend(std::string_view name);
+    void ascend();
+    /// The descriptor where it stands, owned by the ladder; -1 where it could not be opened.
+    int current() const { return rungs_.empty() ? -1 : rungs_.back().fd; }
+
+private:
+    struct Rung {
+        int fd = -1;
+        bool set = false;  ///< closed to save descriptors: `device` and `inode` tell it again
+        dev_t device = 0;
+        ino_t inode = 0;
+    };
+
+    void clear();
+    bool push(int fd);
+    void setOldestAside();
+
+    std::vector<Rung> rungs_;
+    std::size_t firstOpen_ = 0;  ///< rungs below this index are closed or were never open
+};
+
+}  // namespace zelk

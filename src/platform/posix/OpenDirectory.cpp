@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/OpenDirectory.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+
+#ifdef __linux__
+#include <linux/openat2.h>
+#include <sys/syscall.h>
+
+#include <atomic>
+#endif
+
+namespace zelk {
+
+namespace {
+
+// O_DIRECTORY also keeps the open of a pipe, which would wait for a writer, from ever starting.
+constexpr int directoryFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+int openAt(int parent, const char* path, int flags) {
+    int fd;
+    do {
+        fd = openat(parent, path, flags);
+    } while (fd < 0 && errno == EINTR);
+    return fd;
+}
+
+/// One component after the other, each relative to the last and none a link.
+int openByComponents(int rootFd, std::string_view below) {
+    int at = openAt(rootFd, ".", directoryFlags);
+    while (at >= 0 && !below.empty()) {
+        const std::size_t slash = below.find('/');
+        const std::string component(below.substr(0, slash));
+        below = slash == std::string_view::npos ? std::string_view() : below.substr(slash + 1);
+        const int next = openAt(at, component.c_str(), directoryFlags | O_NOFOLLOW);
+        const int error = errno;
+        close(at);
+        errno = error;
+        at = next;
+    }
+    return at;
+}
+
+/// `path` in pieces that the kernel takes, `openPiece(parent, piece)` for each. Gives the last descriptor.
+template <class OpenPiece>
+int openInPieces(int start, std::string_view path, const OpenPiece& openPiece) {
+    constexpr std::size_t longest = PATH_MAX - 1;
+    int at = start;
+    while (true) {
+        std::size_t length = path.size();
+        if (length > longest) {
+            length = path.rfind('/', longest);
+            if (length == std::string_view::npos || length == 0) {
+                if (at != start) close(at);
+                errno = ENAMETOOLONG;
+                return -1;
+            }
+        }
+        const int next = openPiece(at, std::string(path.substr(0, length)).c_str());
+        const int error = errno;
+        if (at != start) close(at);
+        errno = error;
+        if (next < 0 || length == path.size()) return next;
+        at = next;
+        path.remove_prefix(length);
+        while (path.starts_with('/')) path.remove_prefix(1);
+        if (path.empty()) return at;
+    }
+}
+
+#ifdef __linux__
+
+// One call for the whole path where the kernel has it (5.6) and no filter forbids it.
+int openWithoutLinks(int parent, const char* path) {
+    open_how how{};
+    how.flags = directoryFlags | O_NOFOLLOW;
+    how.resolve = RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
+    long fd;
+    do {
+        fd = syscall(SYS_openat2, parent, path, &how, sizeof how);
+    } while (fd < 0 && (errno == EINTR || errno == EAGAIN));
+    return static_cast<int>(fd);
+}
+
+std::atomic<bool> openat2Missing{false};
+
+#endif
+
+}  // namespace
+
+int openRootDirectory(const std::string& path) {
+    if (path.size() < PATH_MAX) return openAt(AT_FDCWD, path.c_str(), directoryFlags);
+    return openInPieces(AT_FDCWD, path, [](int at, const char* piece) { return openAt(at, piece, directoryFlags); });
+}
+
+int openDirectoryBeneath(int rootFd, std::string_view below) {
+    if (below.empty()) return openAt(rootFd, ".", directoryFlags);
+#ifdef __linux__
+    if (!openat2Missing.load(std::memory_order_relaxed)) {
+        const int fd = openInPieces(rootFd, below, openWithoutLinks);
+        if (fd >= 0 || (errno != ENOSYS && errno != EPERM)) return fd;
+        // EPERM: some container filters refuse what they do not know. It is tried again the slow way; a directory that
+        // is itself forbidden fails there too.
+        if (errno == ENOSYS) openat2Missing.store(true, std::memory_order_relaxed);
+    }
+#endif
+    return openByComponents(rootFd, below);
+}
+
+int openSubdirectory(int parentFd, std::string_view name) {
+    return openAt(parentFd, std::string(name).c_str(), directoryFlags | O_NOFOLLOW);
+}
+
+}  // namespace zelk

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Thread.h"
+
+#include <pthread.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <system_error>
+
+#include "platform/posix/ThreadCount.h"
+
+namespace zelk {
+
+namespace {
+
+struct Start {
+    std::string name;
+    std::function<void()> body;
+};
+
+thread_local std::string threadName;
+
+// Detached threads cannot be joined, so the running ones are counted: who closes the process waits for them here.
+// Never destroyed, since a thread may outlive main().
+struct Running {
+    std::mutex mutex;
+    std::condition_variable none;
+    std::size_t count = 0;
+};
+
+Running& running() {
+    static auto* instance = new Running;
+    return *instance;
+}
+
+void countDown() {
+    Running& all = running();
+    const std::lock_guard lock(all.mutex);
+    if (--all.count == 0) all.none.notify_all();
+}
+
+void setKernelName(const std::string& name) {
+#ifdef __APPLE__
+    pthread_setname_np(name.c_str());
+#else
+    // Linux refuses a name over 15 characters instead of cutting it.
+    pthread_setname_np(pthread_self(), name.substr(0, 15).c_str());
+#endif
+}
+
+void* threadMain(void* argument) {
+    {
+        const std::unique_ptr<Start> start(static_cast<Start*>(argument));
+        threadName = start->name;
+        setKernelName(threadName);
+        start->body();
+    }  // what the body owned is gone before the thread counts as ended
+    countDown();
+    return nullptr;
+}
+
+}  // namespace
+
+void startThread(std::string name, std::size_t stackBytes, std::function<void()> body) {
+    auto start = std::make_unique<Start>(Start{std::move(name), std::move(body)});
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    pthread_attr_setdetachstate(&attributes, PTHREAD_CREATE_DETACHED);
+    pthread_attr_setstacksize(&attributes, stackBytes);
+    {
+        const std::lock_guard lock(running().mutex);
+        ++running().count;
+    }
+    pthread_t thread;
+    const int error = pthread_create(&thread, &attributes, threadMain, start.get());
+    pthread_attr_destroy(&attributes);
+    if (error != 0) {
+        countDown();
+        throw std::system_error(error, std::generic_category(), "starting a thread");
+    }
+    static_cast<void>(start.release());  // the new thread owns it
+}
+
+const std::string& currentThreadName() {
+    return threadName;
+}
+
+bool drainThreads(double seconds) {
+    Running& all = running();
+    std::unique_lock lock(all.mutex);
+    return all.none.wait_for(lock, std::chrono::duration<double>(seconds), [&] { return all.count == 0; });
+}
+
+}  // namespace zelk

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "scan/ScanEngine.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <string_view>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "platform/Thread.h"
+#include "scan/ParallelWalker.h"
+
+namespace zelk {
+
+namespace {
+
+std::vector<LargeFile> largestFirst(std::vector<LargeFile> files) {
+    std::stable_sort(files.begin(), files.end(),
+                     [](const LargeFile& a, const LargeFile& b) { return a.size > b.size; });
+    return files;
+}
+
+/// A node and an item of work for every root that is there.
+std::vector<ParallelWalker::Work> seed(DirectoryService& directories, const std::vector<std::string>& roots,
+                                       const CancelFlag& cancel, FSNode& top) {
+    std::vector<ParallelWalker::Work> seeds;
+    for (const std::string& path : roots) {
+        if (cancel.isSet()) break;
+        const std::optional<RootStatus> status = directories.status(path);
+        if (!status) continue;
+        const NodeRef node = FSNode::make(path, status->modified);
+        top.append(node);
+        seeds.push_back({node, directories.openRoot(path), path.size(), 0, status->device});
+    }
+    return seeds;
+}
+
+ScanPhases scanBody(DirectoryService& directories, Clock& clock, const std::shared_ptr<CancelFlag>& cancel,
+                    const std::shared_ptr<UpdateQueue>& queue, std::vector<std::string> roots) {
+    const double start = clock.monotonic();
+    ScanCollectors collectors;
+    const NodeRef top = FSNode::make("", clock.now());
+    const auto walker =
+        std::make_shared<ParallelWalker>(directories, ScanEngine::resolveWorkerCount(), collectors, cancel, queue);
+    walker->run(seed(directories, roots, *cancel, *top));
+    const double walked = clock.monotonic();
+    rollUpSizes(*top);
+    const double rolledUp = clock.monotonic();
+
+    const ScanCounters::Counts counts = collectors.counters.counts();
+    ScanStats stats{counts.files,     counts.dirs,      top->size,      counts.blocked,
+                    rolledUp - start, std::move(roots), cancel->isSet()};
+    if (counts.blocked > 0) queue->yield(update::Blocked{counts.blocked});
+    queue->yield(update::Insights{{largestFirst(collectors.topFiles.items()), collectors.types.totals(),
+                                   largestFirst(collectors.diskImages.items())}});
+    queue->yield(update::Finished{top, std::move(stats)});
+    queue->finish();
+    return {walked - start, rolledUp - walked};
+}
+
+std::shared_ptr<CancelFlag> cancelledBy(UpdateQueue& queue) {
+    auto cancel = std::make_shared<CancelFlag>();
+    queue.setTerminationHandler([cancel] { cancel->set(); });
+    return cancel;
+}
+
+}  // namespace
+
+void ScanEngine::start(std::shared_ptr<UpdateQueue> queue, std::vector<std::string> roots) {
+    const std::shared_ptr<CancelFlag> cancel = cancelledBy(*queue);
+    auto body = [&directories = directories_, &clock = clock_, cancel, queue, roots = std::move(roots)] {
+        scanBody(directories, clock, cancel, queue, roots);
+    };
+    startThread("zelk.scan", ParallelWalker::stackBytes, std::move(body));
+}
+
+ScanPhases ScanEngine::runHere(const std::shared_ptr<UpdateQueue>& queue, std::vector<std::string> roots) {
+    return scanBody(directories_, clock_, cancelledBy(*queue), queue, std::move(roots));
+}
+
+std::int64_t ScanEngine::resolveWorkerCount() {
+    return workerCountFor(std::getenv("ZELK_WORKERS"), static_cast<std::int64_t>(std::thread::hardware_concurrency()));
+}
+
+std::int64_t ScanEngine::workerCountFor(const char* setting, std::int64_t activeProcessors) {
+    if (setting != nullptr) {
+        std::string_view text = setting;
+        // from_chars takes a minus but no plus.
+        if (text.starts_with('+')) {
+            text.remove_prefix(1);
+            if (text.starts_with('-')) text = {};
+        }
+        std::int64_t wanted = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), wanted);
+        if (error == std::errc() && end == text.data() + text.size() && wanted > 0) return wanted;
+    }
+    return std::max<std::int64_t>(4, static_cast<std::int64_t>(static_cast<double>(activeProcessors) * 1.5));
+}
+
+std::int64_t rollUpSizes(FSNode& top) {
+    struct Level {
+        FSNode* node;
+        std::size_t nextChild;
+    };
+    std::vector<Level> levels{{&top, 0}};
+    top.size = top.ownFileBytes;
+    while (true) {
+        Level& level = levels.back();
+        if (level.nextChild < level.node->children.size()) {
+            FSNode& child = *level.node->children[level.nextChild++];
+            child.size = child.ownFileBytes;
+            if (!child.children.empty())
+                levels.push_back({&child, 0});
+            else
+                level.node->size += child.size;
+            continue;
+        }
+        const std::int64_t sum = level.node->size;
+        levels.pop_back();
+        if (levels.empty()) return sum;
+        levels.back().node->size += sum;
+    }
+}
+
+}  // namespace zelk
