@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "platform/macos/BulkDirectoryReader.h"
+
+#include <sys/attr.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+
+#include "platform/macos/BulkRecords.h"
+#include "platform/posix/DirectoryLadder.h"
+#include "platform/posix/PosixRoot.h"
+
+namespace zelk {
+
+namespace {
+
+/// What a reader keeps from one directory to the next, beside its buffer. A directory of hundreds of thousands of
+/// entries needs more for a moment; that is given back, or every thread would end up holding as much.
+constexpr std::size_t keptBytes = 1024 * 1024;
+
+/// What decodeBulkRecords() expects to find. The records have room for every attribute that was asked for, also where
+/// it does not apply; those of a directory end before the file attributes all the same.
+attrlist attributeRequest() {
+    attrlist request{};
+    request.bitmapcount = ATTR_BIT_MAP_COUNT;
+    request.commonattr = ATTR_CMN_RETURNED_ATTRS | ATTR_CMN_NAME | ATTR_CMN_DEVID | ATTR_CMN_OBJTYPE |
+                         ATTR_CMN_MODTIME | ATTR_CMN_FILEID;
+    request.fileattr = ATTR_FILE_LINKCOUNT | ATTR_FILE_ALLOCSIZE;
+    return request;
+}
+constexpr std::uint64_t readOptions = FSOPT_NOFOLLOW | FSOPT_PACK_INVAL_ATTRS;
+
+#ifdef __APPLE__
+// The sizes that the decoder's offsets are made of.
+static_assert(sizeof(attribute_set_t) == 20 && sizeof(attrreference_t) == 8 && sizeof(dev_t) == 4 &&
+              sizeof(fsobj_type_t) == 4 && sizeof(timespec) == 16 && sizeof(off_t) == 8);
+#endif
+
+class BulkDirectoryReader : public DirectoryReader {
+public:
+    explicit BulkDirectoryReader(std::size_t bufferBytes) : buffer_(bufferBytes) {}
+
+    const Entries* open(const DirectoryRoot& root, const std::string& below) override {
+        return ladder_.open(static_cast<const PosixRoot&>(root).descriptor(), below) ? read() : nullptr;
+    }
+
+    const Entries* descend(std::string_view name) override { return ladder_.descend(name) ? read() : nullptr; }
+
+    void ascend() override { ladder_.ascend(); }
+
+private:
+    const Entries* read() {
+        giveBackExcess();
+        entries_.clear();
+        names_.clear();
+        attrlist request = attributeRequest();
+        while (true) {
+            errno = 0;
+            const int count = getattrlistbulk(ladder_.current(), &request, buffer_.data(), buffer_.size(), readOptions);
+            // A failure that names no error is the end too; what was read by then is whole.
+            if (count == 0 || (count < 0 && errno == 0)) break;
+            if (count < 0 || !take(static_cast<std::size_t>(count))) return nullptr;
+        }
+        placeNames();
+        return &entries_;
+    }
+
+    /// The next call overwrites the buffer, so the names are set aside.
+    bool take(std::size_t count) {
+        const std::size_t known = entries_.size();
+        if (!decodeBulkRecords(buffer_, count, entries_)) return false;
+        for (std::size_t i = known; i < entries_.size(); ++i) names_.append(entries_[i].name);
+        return true;
+    }
+
+    /// Only when all names are there do they stay where they are.
+    void placeNames() {
+        const char* name = names_.data();
+        for (DirEntry& entry : entries_) {
+            entry.name = std::string_view(name, entry.name.size());
+            name += entry.name.size();
+        }
+    }
+
+    void giveBackExcess() {
+        if (names_.capacity() > keptBytes) std::string().swap(names_);
+        if (entries_.capacity() * sizeof(DirEntry) > keptBytes) Entries().swap(entries_);
+    }
+
+    DirectoryLadder ladder_;
+    std::vector<std::byte> buffer_;
+    Entries entries_;
+    std::string names_;  ///< of all entries, one behind the other
+};
+
+}  // namespace
+
+std::optional<RootStatus> BulkDirectoryService::status(const std::string& path) {
+    return posixRootStatus(path);
+}
+
+std::shared_ptr<const DirectoryRoot> BulkDirectoryService::openRoot(const std::string& path) {
+    return openPosixRoot(path);
+}
+
+std::unique_ptr<DirectoryReader> BulkDirectoryService::makeReader() {
+    return std::make_unique<BulkDirectoryReader>(bufferBytes_);
+}
+
+}  // namespace zelk

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// What a test can make the stand-in for getattrlistbulk do, and what it saw. One per thread.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "standin/sys/attr.h"
+
+namespace zelk {
+
+struct BulkStandIn {
+    struct Call {
+        attrlist request;
+        std::size_t size;
+        std::uint64_t options;
+        int result;
+    };
+
+    /// What the call with this number (from 0) is to answer in place of the truth: -1, with errno set to it. 0 is the
+    /// failure that names no error.
+    std::function<std::optional<int>(std::size_t call)> failure;
+    /// May change what a call leaves in the buffer.
+    std::function<void(std::size_t call, void* buffer, int count)> afterwards;
+
+    std::vector<Call> calls;
+
+    /// The calling thread's, which getattrlistbulk() looks at.
+    static BulkStandIn& here();
+};
+
+}  // namespace zelk
