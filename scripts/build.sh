@@ -1,0 +1,17 @@
+# SPDX-License-Identifier: MIT
+# Builds a preset of CMakePresets.json. Sourced after common.sh, from the root folder.
+
+# build_preset PRESET [TARGET...]: configures the preset and builds these targets, or all, into build/PRESET.
+build_preset() {
+    preset=$1
+    shift
+    have cmake || fail "cmake is missing; scripts/packages.txt names all that is needed."
+    say "Building ($preset, into build/$preset)"
+    if on_mac && have brew; then
+        CMAKE_PREFIX_PATH=$(brew --prefix)${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}
+        export CMAKE_PREFIX_PATH
+    fi
+    cmake --preset "$preset" ||
+        fail "configuring failed; the reason stands above. If it speaks of an old cache, remove build/$preset and run this again."
+    cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build failed; the first error above says where."
+}

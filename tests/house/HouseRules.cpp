@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "HouseRules.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <optional>
+#include <regex>
+
+namespace zelk::house {
+namespace {
+
+constexpr std::array<std::string_view, 7> kLayers = {"platform", "scan", "reclaim", "system", "state", "ui", "app"};
+constexpr std::array<std::string_view, 3> kSystems = {"linux", "macos", "posix"};
+constexpr int kMaxLines = 500;
+constexpr int kMaxQmlLines = 300;
+
+std::string folderOf(const std::string& path) {
+    return std::filesystem::path(path).parent_path().string();
+}
+
+/// The place of the layer that a path from src/ lies in; none for a header that is not the house's.
+std::optional<std::size_t> layerOf(std::string_view path) {
+    const auto found = std::find(kLayers.begin(), kLayers.end(), path.substr(0, path.find('/')));
+    if (found == kLayers.end() || path.find('/') == std::string_view::npos) return std::nullopt;
+    return static_cast<std::size_t>(found - kLayers.begin());
+}
+
+/// The path of a source from src/, or nothing for a file elsewhere.
+std::optional<std::string> inSource(const std::string& path) {
+    if (!path.starts_with("src/")) return std::nullopt;
+    return path.substr(4);
+}
+
+/// "linux", "macos" or "posix" for a path in that folder of platform/, otherwise empty.
+std::string_view systemOf(std::string_view path) {
+    for (std::string_view system : kSystems) {
+        const std::string folder = "platform/" + std::string(system) + "/";
+        if (path.starts_with(folder)) return system;
+    }
+    return {};
+}
+
+bool isModel(const std::string& path) {
+    return std::filesystem::path(path).stem().string().ends_with("Model");
+}
+
+/// Whether the file at this path from src/ is an algorithm or an interface of the standard library alone.
+bool isQtFree(const std::string& path) {
+    if (path.starts_with("scan/")) return true;
+    if (path.starts_with("platform/")) return systemOf(path).empty();
+    if (path.starts_with("reclaim/") || path.starts_with("system/")) return !isModel(path);
+    return false;
+}
+
+bool isQtHeader(const std::string& target) {
+    static const std::regex qt(R"((Qt[A-Z]\w*/.*)|(Q[A-Z]\w*)|(q[a-z0-9_]+\.h))");
+    return std::regex_match(target, qt);
+}
+
+bool isQtQuickHeader(const std::string& target) {
+    return target.starts_with("QtQuick") || target.starts_with("QQuick");
+}
+
+int countLines(std::string_view text) {
+    const auto breaks = static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+    return text.empty() || text.back() == '\n' ? breaks : breaks + 1;
+}
+
+}  // namespace
+
+std::string withoutComments(std::string_view text) {
+    std::string out;
+    for (std::size_t i = 0; i < text.size();) {
+        const std::string_view rest = text.substr(i);
+        if (rest.starts_with("//")) {
+            i = std::min(text.find('\n', i), text.size());
+        } else if (rest.starts_with("/*")) {
+            const std::size_t close = text.find("*/", i + 2);
+            const std::size_t end = close == std::string_view::npos ? text.size() : close + 2;
+            const std::string_view comment = text.substr(i, end - i);
+            out.append(static_cast<std::size_t>(std::count(comment.begin(), comment.end(), '\n')), '\n');
+            i = end;
+        } else if (text[i] == '"') {
+            std::size_t end = i + 1;
+            while (end < text.size() && text[end] != '"' && text[end] != '\n') end += text[end] == '\\' ? 2 : 1;
+            end = std::min(end + 1, text.size());
+            out.append(text.substr(i, end - i));
+            i = end;
+        } else {
+            out.push_back(text[i++]);
+        }
+    }
+    return out;
+}
+
+std::vector<Include> includesOf(const SourceFile& file) {
+    static const std::regex directive(R"rx(\s*#\s*(?:include|import)\s*[<"]([^>"]+)[>"].*)rx");
+    const std::string text = withoutComments(file.text);
+    std::vector<Include> includes;
+    int line = 0;
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find('\n', start), text.size());
+        ++line;
+        std::smatch match;
+        const std::string row = text.substr(start, end - start);
+        if (std::regex_match(row, match, directive)) {
+            std::string target = std::filesystem::path(match[1].str()).lexically_normal().string();
+            // Not from src/ and not a system header: relative to the file itself.
+            const bool quoted = row.find('"') != std::string::npos;
+            if (const auto own = inSource(file.path); quoted && own && !layerOf(target)) {
+                const auto resolved = (std::filesystem::path(folderOf(*own)) / target).lexically_normal().string();
+                if (layerOf(resolved) && !isQtHeader(target)) target = resolved;
+            }
+            includes.push_back({target, line});
+        }
+        start = end + 1;
+    }
+    return includes;
+}
+
+std::vector<Violation> checkLayers(const SourceFile& file) {
+    const auto own = inSource(file.path);
+    const auto layer = own ? layerOf(*own) : std::nullopt;
+    if (!layer) return {};
+
+    std::vector<Violation> found;
+    for (const Include& include : includesOf(file)) {
+        const auto target = layerOf(include.target);
+        if (!target) continue;
+        if (*target > *layer) {
+            found.push_back(
+                {file.path, include.line,
+                 std::string(kLayers[*layer]) + " includes " + include.target + ", which stands to its right"});
+        }
+        const std::string_view system = systemOf(include.target);
+        if (system.empty() || kLayers[*layer] == "app") continue;
+        const std::string_view ownSystem = systemOf(*own);
+        // What both share may look at one system's, under a condition of the preprocessor.
+        const bool shares = !ownSystem.empty() && (system == "posix" || ownSystem == "posix");
+        const bool allowed = ownSystem == system || shares;
+        if (!allowed) {
+            found.push_back({file.path, include.line,
+                             "includes " + include.target + ", which only that system's own folder and app may"});
+        }
+    }
+    return found;
+}
+
+std::vector<Violation> checkQt(const SourceFile& file) {
+    const auto own = inSource(file.path);
+    if (!own) return {};
+    const bool quickAllowed = own->starts_with("ui/") || own->starts_with("app/");
+
+    std::vector<Violation> found;
+    for (const Include& include : includesOf(file)) {
+        if (isQtFree(*own)) {
+            const bool viaHouse = layerOf(include.target) && !isQtFree(include.target);
+            if (isQtHeader(include.target) || viaHouse) {
+                found.push_back({file.path, include.line,
+                                 "has to do without Qt but includes " + include.target +
+                                     (viaHouse ? ", which may include it" : "")});
+            }
+        } else if (!quickAllowed && isQtQuickHeader(include.target)) {
+            found.push_back({file.path, include.line, "includes " + include.target + ", but only ui knows Qt Quick"});
+        }
+    }
+    return found;
+}
+
+std::vector<Violation> checkCompositionRoot(const SourceFile& file) {
+    const auto own = inSource(file.path);
+    if (!own || own->starts_with("app/") || own->starts_with("platform/")) return {};
+    static const std::regex name(R"(\bNativePlatform\b)");
+    const std::string text = withoutComments(file.text);
+    std::smatch match;
+    if (!std::regex_search(text, match, name)) return {};
+    const auto line = 1 + static_cast<int>(std::count(text.begin(), text.begin() + match.position(), '\n'));
+    return {{file.path, line, "names NativePlatform; only app, bench, tools and tests may"}};
+}
+
+std::vector<Violation> checkForm(const SourceFile& file) {
+    std::vector<Violation> found;
+
+    // The first line, or the second under a "#!".
+    std::string_view head = file.text;
+    if (head.starts_with("#!")) head.remove_prefix(std::min(head.find('\n'), head.size() - 1) + 1);
+    head = head.substr(0, head.find('\n'));
+    const bool slashes = file.path.ends_with(".h") || file.path.ends_with(".cpp") || file.path.ends_with(".mm") ||
+                         file.path.ends_with(".qml") || file.path.ends_with(".js") || file.path.ends_with(".mjs");
+    const std::string_view licence = slashes ? "// SPDX-License-Identifier: MIT" : "# SPDX-License-Identifier: MIT";
+    if (head != licence) found.push_back({file.path, 1, "does not begin with \"" + std::string(licence) + "\""});
+
+    const int limit = file.path.ends_with(".qml") ? kMaxQmlLines : kMaxLines;
+    if (const int lines = countLines(file.text); lines > limit) {
+        found.push_back(
+            {file.path, 0, "has " + std::to_string(lines) + " lines; " + std::to_string(limit) + " are the most"});
+    }
+    return found;
+}
+
+}  // namespace zelk::house
