@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-
 #include <utility>
 
 namespace zelk {
@@ -23,6 +22,7 @@ public:
 
     explicit operator bool() const { return fd_ >= 0; }
     int get() const { return fd_; }
+    int release() { return std::exchange(fd_, -1); }
 
     /// False if the system reports an error, such as a write that it had put off. Closed either way, never twice: after
     /// EINTR the number may already be another thread's.

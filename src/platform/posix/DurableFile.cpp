@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/DurableFile.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <climits>
 #include <cstddef>
-#include <cstdint>
 #include <random>
 #include <vector>
 
 #include "platform/posix/Descriptor.h"
+#include "platform/posix/DirectoryNames.h"
 
 namespace zelk {
 namespace {
@@ -25,13 +25,13 @@ constexpr off_t maximumRead = off_t{256} << 20;
 constexpr std::size_t maximumWrite = std::size_t{1} << 30;  // macOS refuses 2 GiB at once
 
 struct Place {
-    std::string folder;
+    std::string folder;  // with the slash at its end
     std::string name;
 };
 
 Place split(const std::string& path) {
     const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos) return {".", path};
+    if (slash == std::string::npos) return {"./", path};
     return {path.substr(0, slash + 1), path.substr(slash + 1)};
 }
 
@@ -58,7 +58,7 @@ std::optional<Place> resolve(std::string path) {
         if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return place;
         const std::optional<std::string> target = linkTarget(path);
         if (!target) return std::nullopt;
-        path = target->starts_with('/') ? *target : place.folder + "/" + *target;
+        path = target->starts_with('/') ? *target : place.folder + *target;
     }
     return std::nullopt;
 }
@@ -77,18 +77,11 @@ bool isTemporaryName(std::string_view name) {
 
 /// Removes what killed writers left in `folder`; called when nobody is writing there.
 void sweep(const Descriptor& folder) {
-    const int listing = ::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    DIR* stream = listing < 0 ? nullptr : ::fdopendir(listing);
-    if (stream == nullptr) {
-        if (listing >= 0) ::close(listing);
-        return;
+    const auto names = directoryNames(Descriptor(::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
+    if (!names) return;
+    for (const std::string& name : *names) {
+        if (isTemporaryName(name)) ::unlinkat(folder.get(), name.c_str(), 0);
     }
-    std::vector<std::string> stale;
-    while (const dirent* entry = ::readdir(stream)) {
-        if (isTemporaryName(entry->d_name)) stale.emplace_back(entry->d_name);
-    }
-    ::closedir(stream);
-    for (const std::string& name : stale) ::unlinkat(folder.get(), name.c_str(), 0);
 }
 
 /// Every writer holds the folder's shared lock while its temporary file is there, so whoever gets the exclusive one
@@ -184,7 +177,7 @@ std::optional<std::string> readWholeFile(const std::string& path) {
 }
 
 bool createDirectoryTree(const std::string& path) {
-    if (path.empty()) return false;
+    if (path.empty() || path.size() >= PATH_MAX) return false;
     std::vector<std::string> missing;
     std::string current = path;
     while (!isDirectory(current)) {

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxFileManager.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <climits>
+#include <cstddef>
+
+#include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/posix/Descriptor.h"
+#include "platform/posix/DirectoryNames.h"
+#include "platform/posix/DurableFile.h"
+#include "platform/posix/OpenDirectory.h"
+
+namespace zelk {
+namespace {
+
+constexpr std::uint64_t blockBytes = 512;  // the unit of st_blocks, whatever the volume's own block is
+
+bool statusOf(const std::string& path, int flags, struct stat& status) {
+    if (path.size() < PATH_MAX) return ::fstatat(AT_FDCWD, path.c_str(), &status, flags) == 0;
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos) return false;
+    const Descriptor folder(openRootDirectory(path.substr(0, slash)));
+    return folder && ::fstatat(folder.get(), path.c_str() + slash + 1, &status, flags) == 0;
+}
+
+/// What a walk still has to do below where it stands: the subdirectories of each level, the deepest level last. One
+/// list for all levels and its own stack: neither the depth nor the number of a stranger's folders may end the process.
+class PendingFolders {
+public:
+    /// Goes down a level and takes its folders in.
+    void enter(const DirectoryReader::Entries* entries) {
+        starts_.push_back(names_.size());
+        if (entries == nullptr) return;
+        for (const DirEntry& entry : *entries) {
+            if (entry.objType == directoryObjectType && !isHidden(entry)) names_.emplace_back(entry.name);
+        }
+    }
+    bool done() const { return starts_.empty(); }
+    bool levelDone() const { return names_.size() == starts_.back(); }
+    void leave() { starts_.pop_back(); }
+    std::string take() {
+        std::string name = std::move(names_.back());
+        names_.pop_back();
+        return name;
+    }
+
+    static bool isHidden(const DirEntry& entry) { return entry.name.starts_with('.'); }
+
+private:
+    std::vector<std::string> names_;
+    std::vector<std::size_t> starts_;
+};
+
+std::uint64_t allocatedByFiles(const DirectoryReader::Entries* entries) {
+    std::uint64_t bytes = 0;
+    if (entries == nullptr) return bytes;
+    for (const DirEntry& entry : *entries) {
+        if (entry.objType != directoryObjectType && !PendingFolders::isHidden(entry)) bytes += entry.allocSize;
+    }
+    return bytes;
+}
+
+}  // namespace
+
+bool LinuxFileManager::exists(const std::string& path) {
+    struct stat status {};
+    return statusOf(path, 0, status);
+}
+
+std::optional<FileProperties> LinuxFileManager::properties(const std::string& path) {
+    struct stat status {};
+    if (!statusOf(path, AT_SYMLINK_NOFOLLOW, status)) return std::nullopt;
+    if (S_ISDIR(status.st_mode)) return FileProperties{true, 0};
+    return FileProperties{false, static_cast<std::uint64_t>(status.st_blocks) * blockBytes};
+}
+
+std::optional<std::vector<std::string>> LinuxFileManager::list(const std::string& path) {
+    return directoryNames(Descriptor(openRootDirectory(path)));
+}
+
+std::uint64_t LinuxFileManager::allocatedSizeBelow(const std::string& path) {
+    LinuxDirectoryService service;
+    const std::shared_ptr<const DirectoryRoot> root = service.openRoot(path);
+    if (!root) return 0;
+    const std::unique_ptr<DirectoryReader> reader = service.makeReader();
+    PendingFolders pending;
+    const DirectoryReader::Entries* entries = reader->open(*root, "");
+    std::uint64_t bytes = allocatedByFiles(entries);
+    for (pending.enter(entries); !pending.done();) {
+        if (pending.levelDone()) {
+            pending.leave();
+            reader->ascend();
+            continue;
+        }
+        entries = reader->descend(pending.take());
+        bytes += allocatedByFiles(entries);
+        pending.enter(entries);
+    }
+    return bytes;
+}
+
+std::optional<std::string> LinuxFileManager::read(const std::string& path) {
+    return readWholeFile(path);
+}
+
+bool LinuxFileManager::replaceDurably(const std::string& path, std::string_view content) {
+    return replaceFileDurably(path, content);
+}
+
+bool LinuxFileManager::createDirectories(const std::string& path) {
+    return createDirectoryTree(path);
+}
+
+}  // namespace zelk

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/FileManager.h"
+
+namespace zelk {
+
+/// Files through the system calls themselves. Paths may be longer than PATH_MAX wherever only looking is asked for.
+class LinuxFileManager : public FileManager {
+public:
+    bool exists(const std::string& path) override;
+    std::optional<FileProperties> properties(const std::string& path) override;
+    std::optional<std::vector<std::string>> list(const std::string& path) override;
+    std::uint64_t allocatedSizeBelow(const std::string& path) override;
+    std::optional<std::string> read(const std::string& path) override;
+    bool replaceDurably(const std::string& path, std::string_view content) override;
+    bool createDirectories(const std::string& path) override;
+};
+
+}  // namespace zelk

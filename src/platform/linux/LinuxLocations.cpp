@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxLocations.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <string_view>
+#include <vector>
+
+namespace zelk {
+namespace {
+
+/// "/" alone stays: it is the home of users that have none.
+std::string withoutTrailingSlash(std::string path) {
+    while (path.size() > 1 && path.ends_with('/')) path.pop_back();
+    return path;
+}
+
+std::string below(const std::string& folder, std::string_view name) {
+    return (folder == "/" ? std::string() : folder) + "/" + std::string(name);
+}
+
+std::optional<std::string> absolutePathFromEnvironment(const char* variable) {
+    const char* value = std::getenv(variable);
+    if (value == nullptr || *value != '/') return std::nullopt;
+    return value;
+}
+
+std::optional<std::string> homeFromUserDatabase() {
+    std::vector<char> buffer(1024);
+    passwd entry{};
+    passwd* found = nullptr;
+    int error;
+    while ((error = ::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found)) == ERANGE ||
+           error == EINTR) {
+        if (error == ERANGE) buffer.resize(buffer.size() * 2);
+    }
+    if (found == nullptr || found->pw_dir == nullptr || *found->pw_dir != '/') return std::nullopt;
+    return found->pw_dir;
+}
+
+}  // namespace
+
+LinuxLocations::LinuxLocations(const std::string& home) {
+    std::optional<std::string> dataHome;
+    if (!home.empty()) {
+        home_ = home;
+    } else {
+        std::optional<std::string> own = absolutePathFromEnvironment("HOME");
+        if (!own) own = homeFromUserDatabase();
+        home_ = own.value_or("/");
+        dataHome = absolutePathFromEnvironment("XDG_DATA_HOME");
+    }
+    home_ = withoutTrailingSlash(home_);
+    dataHome_ = dataHome ? withoutTrailingSlash(*dataHome) : below(home_, ".local/share");
+}
+
+}  // namespace zelk

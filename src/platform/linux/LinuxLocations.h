@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Locations.h"
+
+namespace zelk {
+
+/// $HOME, else the user database; application support is the XDG data home ($XDG_DATA_HOME, else "~/.local/share").
+/// Values of the environment that are not absolute paths are ignored. The environment is read once.
+class LinuxLocations : public Locations {
+public:
+    /// With `home`, everything lies below it and the environment is not asked; empty takes the user's own.
+    explicit LinuxLocations(const std::string& home = {});
+
+    std::string home() override { return home_; }
+    std::optional<std::string> applicationSupport() override { return dataHome_; }
+
+private:
+    std::string home_;
+    std::string dataHome_;
+};
+
+}  // namespace zelk

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "state/SurveyHistory.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "state/HistoryKey.h"
+
+namespace zelk {
+namespace {
+
+/// 2001-01-01 00:00:00 UTC, from which the file counts its seconds.
+constexpr TimePoint fileEpoch = 978307200;
+
+/// The number that the file holds for `date`. Subtracting rounds far away from the present, so of the neighbours the
+/// one is taken that is read back as `date`. A date that is no number would cost the whole file: it is written as 0.
+double fileSeconds(TimePoint date) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    if (!std::isfinite(date)) return 0;
+    const double near = date - fileEpoch;
+    for (const double candidate : {near, std::nextafter(near, -infinity), std::nextafter(near, infinity)}) {
+        if (candidate + fileEpoch == date) return candidate;
+    }
+    return near;
+}
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// "5.0" becomes "5", strings left alone. JSON knows one kind of number and other writers use it; read as a floating
+/// point number, a size above 2^53 would lose its last digits.
+QByteArray withoutEmptyFractions(std::string_view json) {
+    QByteArray out;
+    out.reserve(static_cast<qsizetype>(json.size()));
+    bool inString = false;
+    for (std::size_t at = 0; at < json.size(); ++at) {
+        const char c = json[at];
+        if (c == '"') inString = !inString;
+        if (c == '.' && !inString) {
+            const std::size_t end = std::min(json.find_first_not_of('0', at + 1), json.size());
+            const char next = end < json.size() ? json[end] : ' ';
+            const bool empty = end > at + 1 && !isDigit(next) && next != '.' && next != 'e' && next != 'E';
+            if (empty && at > 0 && isDigit(json[at - 1])) {
+                at = end - 1;
+                continue;
+            }
+        }
+        out += c;
+        if (c == '\\' && inString && at + 1 < json.size()) out += json[++at];
+    }
+    return out;
+}
+
+std::optional<std::int64_t> integer(const QJsonValue& value) {
+    // Anything but a 64-bit integer gives the default, whichever it is.
+    const qint64 read = value.toInteger(0);
+    if (!value.isDouble() || read != value.toInteger(1)) return std::nullopt;
+    return read;
+}
+
+/// Takes `object[key]` over; false if it is missing or no integer.
+bool take(std::int64_t& field, const QJsonObject& object, QLatin1StringView key) {
+    const std::optional<std::int64_t> value = integer(object.value(key));
+    field = value.value_or(0);
+    return value.has_value();
+}
+
+std::optional<SizeByPath> sizes(const QJsonValue& value) {
+    if (!value.isObject()) return std::nullopt;
+    const QJsonObject object = value.toObject();
+    SizeByPath map;
+    for (auto entry = object.begin(); entry != object.end(); ++entry) {
+        const std::optional<std::int64_t> size = integer(entry.value());
+        if (!size) return std::nullopt;
+        map.emplace(pathOfHistoryKey(entry.key()), *size);
+    }
+    return map;
+}
+
+QJsonObject objectOf(const SizeByPath& map) {
+    QJsonObject object;
+    for (const auto& [key, size] : map) object.insert(historyKey(key), QJsonValue(qint64{size}));
+    return object;
+}
+
+std::optional<SurveyRecord> decodeRecord(const QJsonValue& value) {
+    const QJsonObject object = value.toObject();
+    SurveyRecord record;
+    const QJsonValue date = object.value(QLatin1StringView("date"));
+    if (!date.isDouble()) return std::nullopt;
+    record.date = date.toDouble() + fileEpoch;
+    if (!take(record.totalScanned, object, QLatin1StringView("totalScanned")) ||
+        !take(record.used, object, QLatin1StringView("used")) ||
+        !take(record.free, object, QLatin1StringView("free")) ||
+        !take(record.reclaimable, object, QLatin1StringView("reclaimable"))) {
+        return std::nullopt;
+    }
+    std::optional<SizeByPath> types = sizes(object.value(QLatin1StringView("types")));
+    if (!types) return std::nullopt;
+    record.types = std::move(*types);
+    const QJsonValue folders = object.value(QLatin1StringView("folders"));
+    if (!folders.isUndefined() && !folders.isNull()) {
+        record.folders = sizes(folders);
+        if (!record.folders) return std::nullopt;
+    }
+    return record;
+}
+
+QJsonObject encodeRecord(const SurveyRecord& record) {
+    QJsonObject object{
+        {"date", fileSeconds(record.date)},
+        {"totalScanned", qint64{record.totalScanned}},
+        {"used", qint64{record.used}},
+        {"free", qint64{record.free}},
+        {"reclaimable", qint64{record.reclaimable}},
+        {"types", objectOf(record.types)},
+    };
+    if (record.folders) object.insert("folders", objectOf(*record.folders));
+    return object;
+}
+
+}  // namespace
+
+std::optional<std::vector<SurveyRecord>> decodeHistory(std::string_view json) {
+    const QJsonDocument document = QJsonDocument::fromJson(withoutEmptyFractions(json));
+    if (!document.isArray()) return std::nullopt;
+    std::vector<SurveyRecord> records;
+    for (const QJsonValue& value : document.array()) {
+        std::optional<SurveyRecord> record = decodeRecord(value);
+        if (!record) return std::nullopt;
+        records.push_back(std::move(*record));
+    }
+    return records;
+}
+
+std::string encodeHistory(const std::vector<SurveyRecord>& records) {
+    QJsonArray array;
+    for (const SurveyRecord& record : records) array.append(encodeRecord(record));
+    return QJsonDocument(array).toJson(QJsonDocument::Compact).toStdString();
+}
+
+std::optional<std::string> SurveyHistory::location() const {
+    const std::optional<std::string> support = locations_.applicationSupport();
+    if (!support) return std::nullopt;
+    const std::string folder = *support + "/Zelk";
+    files_.createDirectories(folder);  // without the folder, reading and writing fail by themselves
+    return folder + "/history.json";
+}
+
+std::vector<SurveyRecord> SurveyHistory::load() const {
+    const std::optional<std::string> path = location();
+    const std::optional<std::string> json = path ? files_.read(*path) : std::nullopt;
+    return json ? decodeHistory(*json).value_or(std::vector<SurveyRecord>()) : std::vector<SurveyRecord>();
+}
+
+std::vector<SurveyRecord> SurveyHistory::append(const SurveyRecord& record) const {
+    std::vector<SurveyRecord> records = load();
+    records.push_back(record);
+    if (records.size() > maximumRecords) records.erase(records.begin(), records.end() - maximumRecords);
+    if (const std::optional<std::string> path = location()) files_.replaceDurably(*path, encodeHistory(records));
+    return records;
+}
+
+}  // namespace zelk
