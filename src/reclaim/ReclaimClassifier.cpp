@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "reclaim/ReclaimClassifier.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+#include "platform/FileManager.h"
+#include "reclaim/WalkedPath.h"
+
+namespace zelk {
+
+namespace {
+
+/// A folder known by where it lies below the home folder. Its age is its own.
+struct PathRule {
+    std::string_view belowHome;
+    std::string_view categoryID;
+};
+
+constexpr std::array pathRules{
+    PathRule{"/Library/Developer/Xcode/DerivedData", "derived_data"},
+    PathRule{"/Library/Developer/Xcode/iOS DeviceSupport", "ios_device_support"},
+    PathRule{"/Library/Developer/CoreSimulator/Devices", "core_simulator"},
+    PathRule{"/Library/Android/sdk/system-images", "android_system_images"},
+    PathRule{"/Library/pnpm", "pnpm_store"},
+    PathRule{"/.local/share/pnpm/store", "pnpm_store"},
+    PathRule{"/.npm/_cacache", "npm_cache"},
+    PathRule{"/Library/Caches/Yarn", "yarn_cache"},
+    PathRule{"/Library/Caches/CocoaPods", "cocoapods_cache"},
+    PathRule{"/.gradle/caches", "gradle"},
+    PathRule{"/Library/Application Support/MobileSync/Backup", "ios_backups"},
+    PathRule{"/Library/Developer/Xcode/Archives", "xcode_archives"},
+    PathRule{"/Library/Containers/com.apple.mail/Data/Library/Mail Downloads", "mail_downloads"},
+    PathRule{"/Library/Caches/com.apple.Music", "music_cache"},
+    PathRule{"/Library/Caches/com.apple.podcasts", "music_cache"},
+    PathRule{"/Library/Caches/com.apple.Photos", "photos_cache"},
+};
+
+/// Whose date tells how long something has lain unused. Every tool run rewrites a build folder, so the age of what a
+/// project holds is that of the folder around it.
+enum class Age : std::uint8_t { own, project };
+
+/// What must hold besides the name.
+enum class Condition : std::uint8_t {
+    none,
+    cargoManifestBeside,
+    insideUserOfApplicationSupport,
+    insideApplicationSupport,
+    directlyInServiceWorkerOfApplicationSupport,
+};
+
+/// A folder known by its name, anywhere. No name stands in two rules, so a condition that fails ends the chain.
+struct NameRule {
+    std::string_view name;
+    std::string_view categoryID;
+    Age age;
+    Condition condition = Condition::none;
+};
+
+constexpr std::array nameRules{
+    NameRule{"node_modules", "node_modules", Age::project},
+    NameRule{".expo", "expo", Age::project},
+    NameRule{".expo-shared", "expo", Age::project},
+    NameRule{".gradle", "gradle", Age::project},
+    NameRule{".next", "next_turbo", Age::project},
+    NameRule{".turbo", "next_turbo", Age::project},
+    NameRule{".vercel", "next_turbo", Age::project},
+    NameRule{"__pycache__", "python_pycache", Age::own},
+    NameRule{".venv", "python_venv", Age::project},
+    NameRule{"venv", "python_venv", Age::project},
+    NameRule{"target", "rust_target", Age::project, Condition::cargoManifestBeside},
+    NameRule{"workspaceStorage", "electron_workspace", Age::own, Condition::insideUserOfApplicationSupport},
+    NameRule{"Cache", "electron_cache", Age::own, Condition::insideApplicationSupport},
+    NameRule{"Code Cache", "electron_cache", Age::own, Condition::insideApplicationSupport},
+    NameRule{"GPUCache", "electron_cache", Age::own, Condition::insideApplicationSupport},
+    NameRule{"CacheStorage", "electron_cache", Age::own, Condition::directlyInServiceWorkerOfApplicationSupport},
+};
+
+ReclaimMethod methodOf(std::string_view categoryID) {
+    if (categoryID == "core_simulator")
+        return ReclaimMethod::command("/usr/bin/xcrun", {"simctl", "delete", "unavailable"});
+    if (categoryID == "pnpm_store") return ReclaimMethod::command("/usr/bin/env", {"pnpm", "store", "prune"});
+    if (categoryID == "npm_cache") return ReclaimMethod::command("/usr/bin/env", {"npm", "cache", "clean", "--force"});
+    if (categoryID == "rust_target") return ReclaimMethod::command("/usr/bin/env", {"cargo", "clean"});
+    return ReclaimMethod::trash();
+}
+
+/// `home` without slashes at its end, so that a path rule follows it directly.
+std::string_view trimmed(std::string_view home) {
+    while (home.ends_with('/')) home.remove_suffix(1);
+    return home;
+}
+
+const PathRule* pathRuleFor(std::string_view path, std::string_view home) {
+    if (!path.starts_with(home)) return nullptr;
+    path.remove_prefix(home.size());
+    const auto rule = std::find_if(pathRules.begin(), pathRules.end(),
+                                   [path](const PathRule& each) { return each.belowHome == path; });
+    return rule == pathRules.end() ? nullptr : &*rule;
+}
+
+const NameRule* nameRuleFor(std::string_view name) {
+    const auto rule =
+        std::find_if(nameRules.begin(), nameRules.end(), [name](const NameRule& each) { return each.name == name; });
+    return rule == nameRules.end() ? nullptr : &*rule;
+}
+
+bool holds(Condition condition, const FSNode& node, WalkedPath& path, FileManager& files) {
+    switch (condition) {
+        case Condition::none:
+            return true;
+        case Condition::cargoManifestBeside:
+            return node.parent() && path.hasBeside("Cargo.toml", node.name(), files);
+        case Condition::insideUserOfApplicationSupport:
+            return path.isInsideUser() && path.isInsideApplicationSupport();
+        case Condition::insideApplicationSupport:
+            return path.isInsideApplicationSupport();
+        case Condition::directlyInServiceWorkerOfApplicationSupport:
+            return node.parent() && node.parent()->name() == "Service Worker" && path.isInsideApplicationSupport();
+    }
+    return false;
+}
+
+ReclaimClassifier::Match match(std::string_view categoryID, TimePoint ageDate) {
+    return {reclaimCategoryByID().at(categoryID), methodOf(categoryID), ageDate};
+}
+
+/// The chain. `path` stands at `node` and does so afterwards.
+std::optional<ReclaimClassifier::Match> classifyAt(const FSNode& node, WalkedPath& path, std::string_view home,
+                                                   FileManager& files) {
+    if (const PathRule* rule = pathRuleFor(path.text(), home)) return match(rule->categoryID, node.lastModified);
+    const NameRule* rule = nameRuleFor(node.name());
+    if (!rule || !holds(rule->condition, node, path, files)) return std::nullopt;
+    const FSNode* dated = rule->age == Age::project && node.parent() ? node.parent() : &node;
+    return match(rule->categoryID, dated->lastModified);
+}
+
+}  // namespace
+
+std::optional<ReclaimClassifier::Match> ReclaimClassifier::classify(const FSNode& node, const std::string& home) const {
+    WalkedPath path(node);
+    return classifyAt(node, path, trimmed(home), files_);
+}
+
+void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vector<Reclaimable>& items) const {
+    struct Standing {
+        FSNode* node;
+        std::size_t nextChild;
+        std::size_t pathLength;
+    };
+    const std::string_view homePath = trimmed(home);
+    WalkedPath path(top);
+    // True if the walk is to go on into the node.
+    const auto visit = [&](FSNode& node) {
+        std::optional<Match> found = classifyAt(node, path, homePath, files_);
+        if (!found) return true;
+        node.reclaimCategory = found->category;
+        items.push_back({path.text(), path.text(), static_cast<std::uint64_t>(std::max<std::int64_t>(node.size, 0)),
+                         std::string(found->category->id), found->category->safety, std::move(found->method),
+                         found->ageDate});
+        return !found->category->stopRecursion;
+    };
+
+    // A list of its own stands for the stack: how deep folders go is decided by strangers.
+    std::vector<Standing> above;
+    if (visit(top)) above.push_back({&top, 0, path.text().size()});
+    while (!above.empty()) {
+        Standing& at = above.back();
+        if (at.nextChild == at.node->children.size()) {
+            above.pop_back();
+            continue;
+        }
+        FSNode& child = *at.node->children[at.nextChild++];
+        path.leaveTo(at.pathLength);
+        path.enter(child.name());
+        if (visit(child)) above.push_back({&child, 0, path.text().size()});
+    }
+}
+
+}  // namespace zelk

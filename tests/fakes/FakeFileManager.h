@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+// Files in memory. Every call is written down, and any of them can be made to fail.
+#pragma once
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/FileManager.h"
+
+namespace zelk::fakes {
+
+/// Paths are absolute, with single slashes and none at the end ("/" itself excepted). Safe from any thread.
+class FakeFileManager : public FileManager {
+public:
+    struct Call {
+        std::string operation;  ///< the name of the member function
+        std::string path;
+
+        bool operator==(const Call&) const = default;
+        friend std::ostream& operator<<(std::ostream& out, const Call& call) {
+            return out << call.operation << "(" << call.path << ")";
+        }
+    };
+
+    // What there is. Missing folders above are made too.
+
+    void addFolder(const std::string& path) {
+        const std::lock_guard lock(mutex_);
+        makeFolders(path);
+    }
+    /// `allocatedSize` is that of the content rounded up to blocks of 4096 if absent.
+    void addFile(const std::string& path, std::string content = {},
+                 std::optional<std::uint64_t> allocatedSize = std::nullopt) {
+        const std::lock_guard lock(mutex_);
+        makeFolders(parentOf(path));
+        const std::uint64_t blocks = (content.size() + 4095) / 4096 * 4096;
+        entries_[path] = {Kind::file, std::move(content), allocatedSize.value_or(blocks)};
+    }
+    /// `target` is an absolute path, which need not exist.
+    void addLink(const std::string& path, std::string target) {
+        const std::lock_guard lock(mutex_);
+        makeFolders(parentOf(path));
+        entries_[path] = {Kind::link, std::move(target), 0};
+    }
+    /// Takes away `path` and everything below it.
+    void erase(const std::string& path) {
+        const std::lock_guard lock(mutex_);
+        entries_.erase(path);
+        const std::string below = path == "/" ? path : path + "/";
+        std::erase_if(entries_, [&](const auto& entry) { return entry.first.starts_with(below); });
+    }
+
+    // What goes wrong.
+
+    /// The calls for which this says true fail as the operation fails. Asked with no lock held, so that a test may also
+    /// change the files at that moment; set it before other threads come.
+    std::function<bool(const Call&)> failing;
+
+    // What was asked.
+
+    std::vector<Call> calls() const {
+        const std::lock_guard lock(mutex_);
+        return calls_;
+    }
+    /// The paths that `operation` was called with, in order.
+    std::vector<std::string> pathsOf(std::string_view operation) const {
+        std::vector<std::string> paths;
+        for (Call& call : calls())
+            if (call.operation == operation) paths.push_back(std::move(call.path));
+        return paths;
+    }
+    void forgetCalls() {
+        const std::lock_guard lock(mutex_);
+        calls_.clear();
+    }
+    /// The content of a file as it is now; absent if there is none. Not written down as a call.
+    std::optional<std::string> content(const std::string& path) const {
+        const std::lock_guard lock(mutex_);
+        const auto entry = resolve(path);
+        if (entry == entries_.end() || entry->second.kind != Kind::file) return std::nullopt;
+        return entry->second.text;
+    }
+
+    // FileManager
+
+    bool exists(const std::string& path) override {
+        if (fails("exists", path)) return false;
+        const std::lock_guard lock(mutex_);
+        return resolve(path) != entries_.end();
+    }
+
+    std::optional<FileProperties> properties(const std::string& path) override {
+        if (fails("properties", path)) return std::nullopt;
+        const std::lock_guard lock(mutex_);
+        const auto entry = entries_.find(path);
+        if (entry == entries_.end()) return std::nullopt;
+        return FileProperties{entry->second.kind == Kind::folder, entry->second.allocatedSize};
+    }
+
+    std::optional<std::vector<std::string>> list(const std::string& path) override {
+        if (fails("list", path)) return std::nullopt;
+        const std::lock_guard lock(mutex_);
+        const auto folder = resolve(path);
+        if (folder == entries_.end() || folder->second.kind != Kind::folder) return std::nullopt;
+        std::vector<std::string> names;
+        forEachBelow(folder->first, [&](std::string_view below, const Entry&) {
+            if (below.find('/') == std::string_view::npos) names.emplace_back(below);
+        });
+        return names;
+    }
+
+    std::uint64_t allocatedSizeBelow(const std::string& path) override {
+        if (fails("allocatedSizeBelow", path)) return 0;
+        const std::lock_guard lock(mutex_);
+        std::uint64_t size = 0;
+        forEachBelow(path, [&](std::string_view below, const Entry& entry) {
+            const bool hidden = below.front() == '.' || below.find("/.") != std::string_view::npos;
+            if (!hidden) size += entry.allocatedSize;
+        });
+        return size;
+    }
+
+    std::optional<std::string> read(const std::string& path) override {
+        if (fails("read", path)) return std::nullopt;
+        return content(path);
+    }
+
+    bool replaceDurably(const std::string& path, std::string_view content) override {
+        if (fails("replaceDurably", path)) return false;
+        const std::lock_guard lock(mutex_);
+        const auto folder = resolve(parentOf(path));
+        if (folder == entries_.end() || folder->second.kind != Kind::folder) return false;
+        const auto old = entries_.find(path);
+        if (old != entries_.end() && old->second.kind == Kind::folder) return false;
+        entries_[path] = {Kind::file, std::string(content), (content.size() + 4095) / 4096 * 4096};
+        return true;
+    }
+
+    bool createDirectories(const std::string& path) override {
+        if (fails("createDirectories", path)) return false;
+        const std::lock_guard lock(mutex_);
+        return makeFolders(path);
+    }
+
+private:
+    enum class Kind { file, folder, link };
+    struct Entry {
+        Kind kind = Kind::folder;
+        std::string text;  ///< a file's content, a link's target
+        std::uint64_t allocatedSize = 0;
+    };
+    using Entries = std::map<std::string, Entry>;
+
+    static std::string parentOf(const std::string& path) {
+        const std::size_t slash = path.rfind('/');
+        if (slash == std::string::npos) return {};
+        return slash == 0 ? "/" : path.substr(0, slash);
+    }
+
+    bool fails(const char* operation, const std::string& path) {
+        Call call{operation, path};
+        {
+            const std::lock_guard lock(mutex_);
+            calls_.push_back(call);
+        }
+        return failing && failing(call);
+    }
+
+    /// False if something else than a folder is in the way.
+    bool makeFolders(std::string path) {
+        std::vector<std::string> missing;
+        while (!path.empty() && !entries_.contains(path)) {
+            missing.push_back(path);
+            path = parentOf(path);
+        }
+        if (!path.empty()) {
+            const auto entry = resolve(path);
+            if (entry == entries_.end() || entry->second.kind != Kind::folder) return false;
+        }
+        for (std::string& each : missing) entries_.emplace(std::move(each), Entry{});
+        return true;
+    }
+
+    /// The entry at the end of a chain of links. Links in the middle of a path are not followed.
+    Entries::const_iterator resolve(std::string path) const {
+        for (int hops = 0; hops < 40; ++hops) {
+            const auto entry = entries_.find(path);
+            if (entry == entries_.end() || entry->second.kind != Kind::link) return entry;
+            path = entry->second.text;
+        }
+        return entries_.end();
+    }
+
+    void forEachBelow(const std::string& path,
+                      const std::function<void(std::string_view below, const Entry&)>& visit) const {
+        const std::string prefix = path == "/" ? path : path + "/";
+        for (auto entry = entries_.lower_bound(prefix); entry != entries_.end() && entry->first.starts_with(prefix);
+             ++entry)
+            if (entry->first.size() > prefix.size())
+                visit(std::string_view(entry->first).substr(prefix.size()), entry->second);
+    }
+
+    mutable std::mutex mutex_;
+    Entries entries_{{"/", Entry{}}};
+    std::vector<Call> calls_;
+};
+
+}  // namespace zelk::fakes

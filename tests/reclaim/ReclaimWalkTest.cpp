@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: MIT
+// The walk against a second classifier, written plainly and with whole paths, on random trees and on very deep ones.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "fakes/FakeFileManager.h"
+#include "reclaim/ReclaimClassifier.h"
+#include "reclaim/WalkedPath.h"
+
+namespace zelk {
+namespace {
+
+const std::string home = "/h";
+
+bool contains(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+struct Verdict {
+    std::string category;
+    bool datedByParent = false;
+};
+
+/// `parent` is nullptr for a node with nothing above it.
+Verdict plainVerdict(const std::string& path, const std::string& name, const std::string* parent,
+                     const std::string& parentPath, fakes::FakeFileManager& files) {
+    static const std::map<std::string, std::string> byPath{
+        {home + "/Library/Developer/Xcode/DerivedData", "derived_data"},
+        {home + "/Library/Developer/Xcode/iOS DeviceSupport", "ios_device_support"},
+        {home + "/Library/Developer/Xcode/Archives", "xcode_archives"},
+        {home + "/Library/pnpm", "pnpm_store"},
+        {home + "/.npm/_cacache", "npm_cache"},
+        {home + "/Library/Caches/Yarn", "yarn_cache"},
+        {home + "/.gradle/caches", "gradle"},
+    };
+    if (const auto found = byPath.find(path); found != byPath.end()) return {found->second};
+    const bool inSupport = contains(path, "/Application Support/");
+    if (name == "node_modules") return {"node_modules", true};
+    if (name == ".gradle") return {"gradle", true};
+    if (name == "__pycache__") return {"python_pycache"};
+    if (name == "venv") return {"python_venv", true};
+    if (name == "target" && parent && files.exists(parentPath + "/Cargo.toml")) return {"rust_target", true};
+    if (name == "workspaceStorage" && contains(path, "/User/") && inSupport) return {"electron_workspace"};
+    if ((name == "Cache" || name == "GPUCache") && inSupport) return {"electron_cache"};
+    if (name == "CacheStorage" && parent && *parent == "Service Worker" && inSupport) return {"electron_cache"};
+    return {};
+}
+
+/// A random tree of names that matter, and the items expected of it, found by recursion with whole paths.
+class RandomTree {
+public:
+    explicit RandomTree(unsigned seed) : random_(seed), top(FSNode::make("", date())) {
+        for (const char* root : {"/h", "/", "/h/.gradle", "/x/Application Support", "/User/y"}) {
+            if (random_() % 2 != 0) continue;
+            grow(top->append(FSNode::make(root, date())), root, 0);
+        }
+        expect(*top, "", nullptr, "");
+    }
+
+    fakes::FakeFileManager files;
+    std::vector<Reclaimable> expected;
+    std::vector<const FSNode*> all;
+
+private:
+    double date() { return static_cast<double>(random_() % 1000000); }
+
+    void grow(FSNode& node, const std::string& path, int depth) {
+        static const std::vector<std::string> names{"Library",
+                                                    "Developer",
+                                                    "Xcode",
+                                                    "DerivedData",
+                                                    "Archives",
+                                                    "Caches",
+                                                    "Yarn",
+                                                    "pnpm",
+                                                    ".npm",
+                                                    "_cacache",
+                                                    ".gradle",
+                                                    "caches",
+                                                    "User",
+                                                    "h",
+                                                    "node_modules",
+                                                    "venv",
+                                                    "__pycache__",
+                                                    "workspaceStorage",
+                                                    "Cache",
+                                                    "GPUCache",
+                                                    "target",
+                                                    "CacheStorage",
+                                                    "a",
+                                                    "b",
+                                                    "Service Worker",
+                                                    "Application Support",
+                                                    "iOS DeviceSupport"};
+        static const std::vector<std::string> belowHome{"Library/Developer/Xcode/DerivedData",
+                                                        "Library/Developer/Xcode/Archives", "Library/pnpm",
+                                                        ".npm/_cacache", "Library/Caches/Yarn/v6"};
+        if (depth == 9) return;
+        if (path == home)  // what chance alone would hardly ever spell
+            for (const std::string& below : belowHome)
+                if (random_() % 3 == 0) plant(node, below);
+        if (random_() % 8 == 0) files.addFile((path == "/" ? "" : path) + "/Cargo.toml");
+        const unsigned count = random_() % (depth < 2 ? 6 : 4);
+        for (unsigned i = 0; i < count; ++i) {
+            const std::string& name = names[random_() % names.size()];
+            FSNode& child = node.append(FSNode::make(name, date()));
+            child.size = static_cast<std::int64_t>(random_() % 1000);
+            grow(child, path == "/" ? path + name : path + "/" + name, depth + 1);
+        }
+    }
+
+    void plant(FSNode& node, const std::string& below) {
+        FSNode* at = &node;
+        std::istringstream names(below);
+        for (std::string name; std::getline(names, name, '/');) at = &at->append(FSNode::make(name, date()));
+    }
+
+    void expect(FSNode& node, const std::string& above, const FSNode* parent, const std::string& parentPath) {
+        const std::string name(node.name());
+        const std::string path = above + name;
+        const std::string parentName = parent ? std::string(parent->name()) : "";
+        const Verdict verdict =
+            plainVerdict(path, name, parent ? &parentName : nullptr, parentPath == "/" ? "" : parentPath, files);
+        all.push_back(&node);
+        if (!verdict.category.empty()) {
+            const ReclaimCategory& category = *reclaimCategoryByID().at(verdict.category);
+            expected.push_back({path,
+                                path,
+                                static_cast<std::uint64_t>(node.size),
+                                verdict.category,
+                                category.safety,
+                                {},
+                                verdict.datedByParent && parent ? parent->lastModified : node.lastModified});
+            return;
+        }
+        for (const NodeRef& child : node.children)
+            expect(*child, path.empty() || path.back() == '/' ? path : path + "/", &node, path);
+    }
+
+    std::mt19937 random_;
+
+public:
+    NodeRef top;
+};
+
+TEST(ReclaimWalk, agreesWithAPlainClassifierOnRandomTrees) {
+    std::map<std::string, int> met;
+    for (unsigned seed = 0; seed < 400; ++seed) {
+        RandomTree tree(seed);
+        std::vector<Reclaimable> items;
+        ReclaimClassifier(tree.files).collect(*tree.top, home, items);
+        ASSERT_EQ(items.size(), tree.expected.size()) << seed;
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            ASSERT_EQ(items[i].path, tree.expected[i].path) << seed;
+            ASSERT_EQ(items[i].id, tree.expected[i].id) << seed;
+            ASSERT_EQ(items[i].size, tree.expected[i].size) << seed;
+            ASSERT_EQ(items[i].categoryID, tree.expected[i].categoryID) << seed << " " << items[i].path;
+            ASSERT_EQ(items[i].safety, tree.expected[i].safety) << seed;
+            ASSERT_EQ(items[i].lastModified, tree.expected[i].lastModified) << seed << " " << items[i].path;
+            ++met[items[i].categoryID];
+        }
+    }
+    for (const char* category :
+         {"derived_data", "xcode_archives", "pnpm_store", "npm_cache", "yarn_cache", "gradle", "node_modules",
+          "python_pycache", "python_venv", "rust_target", "electron_workspace", "electron_cache"})
+        EXPECT_GT(met[category], 0) << category << " was not met: the trees do not reach it";
+}
+
+TEST(ReclaimWalk, agreesWithTheClassifierOfOneNodeForEveryNode) {
+    for (unsigned seed = 1000; seed < 1200; ++seed) {
+        RandomTree tree(seed);
+        const ReclaimClassifier classifier(tree.files);
+        std::vector<Reclaimable> items;
+        classifier.collect(*tree.top, home + "/", items);
+        std::size_t next = 0;
+        for (const FSNode* node : tree.all) {
+            const auto match = classifier.classify(*node, home + "/");
+            ASSERT_EQ(match ? match->category : nullptr, node->reclaimCategory) << node->fullPath();
+            if (!match) continue;
+            ASSERT_LT(next, items.size());
+            ASSERT_EQ(items[next].path, node->fullPath());
+            ASSERT_EQ(items[next].method, match->method);
+            ASSERT_EQ(items[next].lastModified, match->ageDate);
+            ++next;
+        }
+        ASSERT_EQ(next, items.size());
+    }
+}
+
+/// A chain of folders, each called by `name` of its depth.
+NodeRef chain(std::size_t depth, const std::function<std::string(std::size_t)>& name) {
+    NodeRef top = FSNode::make("", 0);
+    FSNode* at = &top->append(FSNode::make("/h", 1));
+    for (std::size_t i = 0; i < depth; ++i) at = &at->append(FSNode::make(name(i), 1));
+    return top;
+}
+
+constexpr std::size_t veryDeep = 50000;
+
+TEST(ReclaimWalk, aChainOfFiftyThousandFoldersIsWalkedToItsEnd) {
+    const NodeRef top =
+        chain(veryDeep, [](std::size_t i) { return i + 1 == veryDeep ? std::string("node_modules") : "d"; });
+    fakes::FakeFileManager files;
+    std::vector<Reclaimable> items;
+    ReclaimClassifier(files).collect(*top, home, items);
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0].path.size(), home.size() + 2 * (veryDeep - 1) + std::string("/node_modules").size());
+}
+
+TEST(ReclaimWalk, aDeepChainOfNamesThatAskForTheirPathIsWalkedToItsEnd) {
+    const NodeRef top = chain(veryDeep, [](std::size_t i) {
+        if (i + 2 == veryDeep) return "Application Support";
+        return i % 2 == 0 ? "Cache" : "workspaceStorage";
+    });
+    fakes::FakeFileManager files;
+    std::vector<Reclaimable> items;
+    ReclaimClassifier(files).collect(*top, home, items);
+    EXPECT_TRUE(items.empty()) << "the last folder is a workspaceStorage outside any User folder";
+}
+
+TEST(ReclaimWalk, aDeepChainKnowsTheApplicationSupportAtItsTop) {
+    const NodeRef top = chain(veryDeep, [](std::size_t i) {
+        if (i == 0) return "Application Support";
+        return i + 1 == veryDeep ? "Cache" : "workspaceStorage";
+    });
+    fakes::FakeFileManager files;
+    std::vector<Reclaimable> items;
+    ReclaimClassifier(files).collect(*top, home, items);
+    EXPECT_EQ(items.size(), 1U);
+}
+
+TEST(ContainedText, agreesWithAPlainSearchWhileTheTextGrowsAndShrinks) {
+    std::mt19937 random(7);
+    int found = 0;
+    for (int round = 0; round < 200; ++round) {
+        ContainedText watched("/ab/");
+        std::string text;
+        for (int step = 0; step < 300; ++step) {
+            if (random() % 3 == 0) {
+                text.resize(text.size() - random() % (text.size() + 1));
+                watched.cutTo(text.size());
+            } else {
+                for (unsigned n = random() % 4; n > 0; --n) text += "/ab/c"[random() % 5];
+            }
+            if (random() % 2 != 0) continue;
+            ASSERT_EQ(watched.isIn(text), contains(text, "/ab/")) << text;
+            found += contains(text, "/ab/") ? 1 : 0;
+        }
+    }
+    EXPECT_GT(found, 100) << "too few of the texts hold what is looked for";
+}
+
+TEST(WalkedPath, isTheNodesFullPathAndStaysSoWhenASiblingIsLookedUp) {
+    const NodeRef top = chain(3, [](std::size_t i) { return std::string(1, static_cast<char>('a' + i)); });
+    const FSNode& node = *top->children[0]->children[0]->children[0];
+    fakes::FakeFileManager files;
+    files.addFile("/h/a/sibling");
+    WalkedPath path(node);
+    EXPECT_EQ(path.text(), node.fullPath());
+    EXPECT_TRUE(path.hasBeside("sibling", "b", files));
+    EXPECT_FALSE(path.hasBeside("stranger", "b", files));
+    EXPECT_EQ(path.text(), "/h/a/b");
+    path.enter("c");
+    EXPECT_EQ(path.text(), "/h/a/b/c");
+    path.leaveTo(2);
+    path.enter("z");
+    EXPECT_EQ(path.text(), "/h/z");
+}
+
+}  // namespace
+}  // namespace zelk
