@@ -6,7 +6,6 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <climits>
 #include <cstddef>
 #include <random>
 #include <vector>
@@ -177,25 +176,16 @@ std::optional<std::string> readWholeFile(const std::string& path) {
 }
 
 bool createDirectoryTree(const std::string& path) {
-    if (path.empty() || path.size() >= PATH_MAX) return false;
-    std::vector<std::string> missing;
-    std::string current = path;
-    while (!isDirectory(current)) {
-        missing.push_back(current);
-        const std::size_t last = current.find_last_not_of('/');
-        const std::size_t slash = last == std::string::npos ? last : current.rfind('/', last);
-        if (slash == std::string::npos) {
-            current = ".";
-            break;
-        }
-        current.resize(slash + 1);
+    if (path.empty()) return false;
+    for (std::size_t end = 0; end != std::string::npos;) {
+        end = path.find('/', end + 1);
+        const std::string folder = path.substr(0, end);
+        if (isDirectory(folder)) continue;
+        // Another process may have been quicker.
+        if (::mkdir(folder.c_str(), 0700) != 0 && !isDirectory(folder)) return false;
+        if (const Descriptor above = openFolder(split(folder).folder)) flush(above);
     }
-    for (; !missing.empty(); missing.pop_back()) {
-        if (::mkdir(missing.back().c_str(), 0700) != 0 && !isDirectory(missing.back())) return false;
-        if (const Descriptor above = openFolder(current)) flush(above);  // the new entry, as far as the volume can
-        current = missing.back();
-    }
-    return isDirectory(path);
+    return true;
 }
 
 }  // namespace zelk
