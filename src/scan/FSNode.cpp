@@ -33,6 +33,12 @@ FSNode& FSNode::append(NodeRef child) {
     return *children.emplace_back(std::move(child));
 }
 
+void FSNode::remove(FSNode& child) {
+    // Without its parent pointer: who still holds the child must not be led to a parent that is gone by then.
+    const NodeRef held(&child);
+    if (std::erase(children, held) != 0) child.parent_ = nullptr;
+}
+
 // A drive may hold folders to any depth, so neither path nor release may recurse.
 
 void FSNode::fullPath(std::string& path) const {

@@ -64,6 +64,8 @@ public:
 
     /// Takes `child` in at the end of `children` and becomes its parent.
     FSNode& append(NodeRef child);
+    /// Takes every occurrence of `child` out of `children`, and with the last of them its parent from it.
+    void remove(FSNode& child);
 
     /// The path in bytes, built on demand: the name, behind the parent's path where there is one.
     std::string fullPath() const;

@@ -6,8 +6,14 @@
 namespace zelk {
 
 void UpdateQueue::setTerminationHandler(std::function<void()> handler) {
-    const std::lock_guard lock(mutex_);
-    terminationHandler_ = std::move(handler);
+    {
+        const std::lock_guard lock(mutex_);
+        if (!ended_) {
+            terminationHandler_ = std::move(handler);
+            return;
+        }
+    }
+    if (handler) handler();  // the end came first
 }
 
 void UpdateQueue::setWakeReader(std::function<void()> wake) {
@@ -39,9 +45,9 @@ void UpdateQueue::finish() {
     if (wake) wake();
 }
 
-void UpdateQueue::terminate() {
+std::vector<ScanUpdate> UpdateQueue::terminate() {
     std::function<void()> handler;
-    std::vector<ScanUpdate> dropped;  // a tree may be among them: it is released outside the lock
+    std::vector<ScanUpdate> dropped;
     {
         const std::lock_guard lock(mutex_);
         dropped.swap(updates_);
@@ -49,6 +55,7 @@ void UpdateQueue::terminate() {
         if (!ended_) handler = end();
     }
     if (handler) handler();
+    return dropped;
 }
 
 UpdateQueue::Batch UpdateQueue::takeAll() {

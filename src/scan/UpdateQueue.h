@@ -13,8 +13,8 @@ namespace zelk {
 /// what is yielded afterwards is dropped. Shared by shared_ptr between both sides.
 class UpdateQueue {
 public:
-    /// Runs once, on the thread that ends the queue, whichever side that is and without the lock. Set it before both
-    /// sides start.
+    /// Runs once, on the thread that ends the queue, whichever side that is and without the lock; at once if the queue
+    /// has ended already.
     void setTerminationHandler(std::function<void()> handler);
     /// Called on a writer's thread, without the lock, when there is something to take (or the end has come) and the
     /// reader was not yet woken for it: once per batch.
@@ -23,9 +23,9 @@ public:
     void yield(ScanUpdate update);
     /// The writers' end: the reader still takes what was yielded before.
     void finish();
-    /// The reader's end: drops what has not been taken, and wakes nobody any more. Any number of times, also behind
-    /// finish().
-    void terminate();
+    /// The reader's end: gives back what has not been taken, and wakes nobody any more. Any number of times, also
+    /// behind finish(). What comes back may hold a whole tree: the reader chooses on which thread it is released.
+    std::vector<ScanUpdate> terminate();
 
     struct Batch {
         std::vector<ScanUpdate> updates;

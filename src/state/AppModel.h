@@ -6,13 +6,14 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 #include "platform/Platform.h"
 #include "reclaim/ReclaimCatalogue.h"
 #include "scan/ScanUpdate.h"
-#include "scan/UpdateQueue.h"
+#include "state/MainThreadCalls.h"
 #include "state/Screen.h"
 #include "state/SurveyHistory.h"
 
@@ -21,17 +22,32 @@ namespace zelk {
 /// The state of the application: one instance for the whole run, shared with every screen. It starts and cancels
 /// surveys, folds their updates into plain fields, keeps what the last one found and mirrors the Trash.
 ///
-/// Main thread only. Every field has a signal that is emitted after a write that changed its value.
+/// Main thread only. Every field has a signal that is emitted after a write that changed its value. A handler of a
+/// signal may call anything here, but must not delete the model other than by deleteLater().
 class AppModel : public QObject {
     Q_OBJECT
+    Q_PROPERTY(Appearance appearance READ appearance WRITE setAppearance NOTIFY appearanceChanged)
+    Q_PROPERTY(Audience audience READ audience WRITE setAudience NOTIFY audienceChanged)
+    Q_PROPERTY(ScanPhase scanPhase READ scanPhase NOTIFY scanPhaseChanged)
+    Q_PROPERTY(qint64 itemsScanned READ itemsScanned NOTIFY itemsScannedChanged)
+    Q_PROPERTY(qint64 bytesScanned READ bytesScanned NOTIFY bytesScannedChanged)
+    Q_PROPERTY(qint64 blockedPaths READ blockedPaths NOTIFY blockedPathsChanged)
+    Q_PROPERTY(qint64 trashBytes READ trashBytes NOTIFY trashBytesChanged)
+    Q_PROPERTY(bool trashAccessible READ trashAccessible NOTIFY trashAccessibleChanged)
+    Q_PROPERTY(bool trashLoading READ trashLoading NOTIFY trashLoadingChanged)
+    Q_PROPERTY(bool emptyingTrash READ emptyingTrash NOTIFY emptyingTrashChanged)
+    Q_PROPERTY(qint64 ageFilterDays READ ageFilterDays WRITE setAgeFilterDays NOTIFY ageFilterDaysChanged)
+    Q_PROPERTY(bool hardDeleteEnabled READ hardDeleteEnabled WRITE setHardDeleteEnabled NOTIFY hardDeleteEnabledChanged)
 
 public:
     enum class ScanPhase { idle, scanning, finished };
     enum class Audience { normal, developer };
     enum class Appearance { system, light, dark };
     Q_ENUM(ScanPhase)
+    Q_ENUM(Audience)
+    Q_ENUM(Appearance)
 
-    /// The services must outlive the model and, if a scan is under way when it goes, the scan's threads.
+    /// The services must outlive the model and, where a scan or a background task is under way when it goes, these too.
     explicit AppModel(Platform platform, QObject* parent = nullptr);
     ~AppModel() override;
 
@@ -97,7 +113,9 @@ public slots:
     void refreshTrash();
 
 public:
-    /// Takes a directory out of the results after it was moved away.
+    /// Takes a directory out of the results after it was moved away: its size off all above it, and with it the items
+    /// and large files at and below its path. What tells of the survey as it ran stays. While the classifier reads the
+    /// tree this waits for its end. The node may be gone afterwards, unless the caller holds a reference.
     void removeFromTree(FSNode& node);
 
 signals:
@@ -127,14 +145,26 @@ private:
     struct ScanTask;
 
     void consumeUpdates(const std::shared_ptr<ScanTask>& task);
+    void take(const std::shared_ptr<ScanTask>& task, ScanUpdate update);
     void finish(const std::shared_ptr<ScanTask>& task, update::Finished finished);
+    void classify(const std::shared_ptr<ScanTask>& task);
+    void completeFinish(const std::shared_ptr<ScanTask>& task, std::vector<Reclaimable> items);
+    void withdraw(ScanTask& task);
     void recordSurvey(std::int64_t total, const FSNode& tree);
     void settleTrash();
-    void takeTrashMeasure(std::optional<std::uint64_t> bytes);
-    void releaseTree(NodeRef tree);
+    void takeTrashMeasure(std::uint64_t number, std::optional<std::uint64_t> bytes);
+    void setReclaimables(std::vector<Reclaimable> items);
+    /// The path of the first scan root: the place that the volume and the first line of progress speak of.
+    const std::string& firstPlace() const { return scanRoots_.empty() ? home_ : scanRoots_.front(); }
+    void releaseElsewhere(NodeRef tree);
+    void releaseElsewhere(std::vector<ScanUpdate> updates);
 
     template <class T>
-    bool assign(T& field, T value, void (AppModel::*changed)());
+    void assign(T& field, std::type_identity_t<T> value, void (AppModel::*changed)()) {
+        if (field == value) return;
+        field = std::move(value);
+        emit(this->*changed)();
+    }
 
     Platform platform_;
     SurveyHistory historyFile_;
@@ -162,7 +192,10 @@ private:
     bool hardDeleteEnabled_ = false;
     std::string home_;
     DeviceInfo device_;
-    std::shared_ptr<ScanTask> scanTask_;
+    std::shared_ptr<ScanTask> scanTask_;   // ended or not; absent after a cancel
+    std::uint64_t trashMeasures_ = 0;      // begun so far
+    std::uint64_t trashMeasureShown_ = 0;  // the number of the one that the Trash fields come from
+    MainThreadCalls calls_;
 };
 
 }  // namespace zelk

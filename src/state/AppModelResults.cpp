@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// What the last survey found: the figures that screens ask for, and the one way in which it changes afterwards.
+#include <QLocale>
+#include <algorithm>
+#include <iterator>
+#include <map>
+
+#include "platform/ByteFormat.h"
+#include "state/AppModel.h"
+#include "state/ScanTask.h"
+
+namespace zelk {
+
+namespace {
+
+std::int64_t totalSize(const std::vector<Reclaimable>& items) {
+    std::uint64_t bytes = 0;
+    for (const Reclaimable& item : items) bytes += item.size;
+    return static_cast<std::int64_t>(bytes);
+}
+
+/// Items are equal by their path alone, which does not tell whether anything changed.
+bool sameInAll(const Reclaimable& a, const Reclaimable& b) {
+    return a.id == b.id && a.path == b.path && a.size == b.size && a.categoryID == b.categoryID &&
+           a.safety == b.safety && a.method == b.method && a.lastModified == b.lastModified;
+}
+
+const FSNode& topOf(const FSNode& node) {
+    const FSNode* top = &node;
+    while (top->parent() != nullptr) top = top->parent();
+    return *top;
+}
+
+/// True if something was removed.
+template <class Item>
+bool removeAtAndBelow(std::vector<Item>& items, const std::string& path) {
+    const std::string below = path + "/";
+    return std::erase_if(items, [&](const Item& item) { return item.path == path || item.path.starts_with(below); }) !=
+           0;
+}
+
+}  // namespace
+
+void AppModel::setReclaimables(std::vector<Reclaimable> items) {
+    if (std::equal(items.begin(), items.end(), reclaimables_.begin(), reclaimables_.end(), sameInAll)) return;
+    reclaimables_ = std::move(items);
+    emit reclaimablesChanged();
+}
+
+std::int64_t AppModel::reclaimableBytes() const {
+    return totalSize(reclaimables_);
+}
+
+std::vector<Reclaimable> AppModel::safeItems() const {
+    std::vector<Reclaimable> items;
+    std::copy_if(reclaimables_.begin(), reclaimables_.end(), std::back_inserter(items),
+                 [](const Reclaimable& item) { return item.safety == ReclaimSafety::safe; });
+    return items;
+}
+
+std::int64_t AppModel::safeBytes() const {
+    return totalSize(safeItems());
+}
+
+std::int64_t AppModel::freeBytes() const {
+    if (volume_) return volume_->available;
+    const std::optional<VolumeInfo> read = platform_.vitals.volume(firstPlace());
+    return read ? read->available : 0;
+}
+
+std::string AppModel::progressLine() const {
+    const QLocale locale;
+    const std::string items = locale.toString(static_cast<qlonglong>(itemsScanned_)).toStdString();
+    return items + " items · " + byteText(bytesScanned_, locale.decimalPoint().toStdString());
+}
+
+std::vector<std::pair<const ReclaimCategory*, std::int64_t>> AppModel::reclaimTotals() const {
+    std::map<std::string_view, std::int64_t> bytesByID;
+    for (const Reclaimable& item : reclaimables_) bytesByID[item.categoryID] += static_cast<std::int64_t>(item.size);
+    std::vector<std::pair<const ReclaimCategory*, std::int64_t>> totals;
+    for (const ReclaimCategory& category : reclaimCatalogue())
+        if (const auto found = bytesByID.find(category.id); found != bytesByID.end())
+            totals.emplace_back(&category, found->second);
+    std::stable_sort(totals.begin(), totals.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
+    return totals;
+}
+
+std::vector<std::pair<FileType, TypeTally>> AppModel::sortedTypeTotals() const {
+    std::vector<std::pair<FileType, TypeTally>> totals;
+    for (const FileType type : allFileTypes)
+        if (insights_.typeTotals.contains(type)) totals.emplace_back(type, insights_.typeTotals[type]);
+    std::stable_sort(totals.begin(), totals.end(),
+                     [](const auto& a, const auto& b) { return a.second.bytes > b.second.bytes; });
+    return totals;
+}
+
+std::vector<NodeRef> AppModel::topFolders() const {
+    if (!root_) return {};
+    const FSNode& level = root_->children.size() == 1 ? *root_->children.front() : *root_;
+    std::vector<NodeRef> folders = level.children;
+    std::stable_sort(folders.begin(), folders.end(),
+                     [](const NodeRef& a, const NodeRef& b) { return a->size > b->size; });
+    return folders;
+}
+
+std::optional<std::int64_t> AppModel::daysUntilFull() const {
+    return zelk::daysUntilFull(history_);
+}
+
+std::optional<FolderChanges> AppModel::folderChanges() const {
+    return zelk::folderChanges(history_);
+}
+
+void AppModel::removeFromTree(FSNode& node) {
+    FSNode* parent = node.parent();
+    if (parent == nullptr) return;
+    const FSNode& top = topOf(node);
+    const bool classifying = scanTask_ != nullptr && scanTask_->before;
+    if (classifying && root_ == &top) {
+        scanTask_->removals.emplace_back(&node);
+        return;
+    }
+    const std::string path = node.fullPath();
+    // A screen may still hold a node of a tree that has been replaced. Its folder is gone from the disk all the same,
+    // but that tree is shown nowhere any more, and the classifier of a cancelled survey may be reading it.
+    if (root_ == &top || (classifying && scanTask_->before->root == &top)) {
+        NodeRef removed(&node);
+        for (FSNode* above = parent; above != nullptr; above = above->parent()) above->size -= node.size;
+        parent->remove(node);
+        releaseElsewhere(std::move(removed));
+        emit rootChanged();
+    }
+    if (removeAtAndBelow(reclaimables_, path)) emit reclaimablesChanged();
+    if (removeAtAndBelow(insights_.topFiles, path)) emit insightsChanged();
+}
+
+}  // namespace zelk

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+// The life of a survey: from the button through the updates and the finish to the record in the history. Every signal
+// may run a handler that cancels or starts another survey, so after signals the task at hand is looked at again.
+#include <algorithm>
+#include <variant>
+
+#include "reclaim/ReclaimClassifier.h"
+#include "scan/ScanEngine.h"
+#include "state/AppModel.h"
+#include "state/ScanTask.h"
+
+namespace zelk {
+
+void AppModel::startScan() {
+    if (scanPhase_ == ScanPhase::scanning) return;
+    const auto task = std::make_shared<ScanTask>();
+    scanTask_ = task;
+    assign(scanPhase_, ScanPhase::scanning, &AppModel::scanPhaseChanged);
+    if (scanTask_ != task) return;
+
+    // The tree, its figures and the history of the survey before stay readable until this one has finished.
+    assign(itemsScanned_, 0, &AppModel::itemsScannedChanged);
+    assign(bytesScanned_, 0, &AppModel::bytesScannedChanged);
+    assign(blockedPaths_, 0, &AppModel::blockedPathsChanged);
+    setReclaimables({});
+    assign(insights_, {}, &AppModel::insightsChanged);
+    assign(currentPath_, firstPlace(), &AppModel::currentPathChanged);
+    setVolume(platform_.vitals.volume(firstPlace()));
+    if (scanTask_ != task) return;
+
+    task->queue->setWakeReader([this, sender = calls_.sender(), reading = std::weak_ptr(task)] {
+        sender.post([this, reading] {
+            if (const auto awaited = reading.lock()) consumeUpdates(awaited);
+        });
+    });
+    ScanEngine(platform_.directories, platform_.clock).start(task->queue, scanRoots_);
+}
+
+void AppModel::cancelScan() {
+    if (const auto task = std::exchange(scanTask_, nullptr)) {
+        releaseElsewhere(task->queue->terminate());
+        if (scanPhase_ == ScanPhase::scanning && !task->counts) withdraw(*task);
+    }
+    assign(scanPhase_, ScanPhase::idle, &AppModel::scanPhaseChanged);
+}
+
+/// After a cancel nothing is left of the survey, and what was there before it is there again.
+void AppModel::withdraw(ScanTask& task) {
+    if (const auto before = std::exchange(task.before, std::nullopt)) {
+        releaseElsewhere(std::exchange(root_, before->root));
+        emit rootChanged();
+        assign(stats_, before->stats, &AppModel::statsChanged);
+    }
+    setReclaimables({});
+    assign(insights_, {}, &AppModel::insightsChanged);
+}
+
+void AppModel::consumeUpdates(const std::shared_ptr<ScanTask>& task) {
+    // A handler with an event loop of its own must not let a later batch overtake this one.
+    if (std::exchange(task->reading, true)) return;
+    while (scanTask_ == task) {
+        std::vector<ScanUpdate> updates = task->queue->takeAll().updates;
+        if (updates.empty()) break;
+        // Of the progress in one batch only the last would ever be seen.
+        const auto isProgress = [](const ScanUpdate& one) { return std::holds_alternative<update::Progress>(one); };
+        const auto lastProgress = std::find_if(updates.rbegin(), updates.rend(), isProgress);
+        for (ScanUpdate& one : updates) {
+            if (scanTask_ != task) break;
+            if (!isProgress(one) || &one == &*lastProgress) take(task, std::move(one));
+        }
+        if (scanTask_ != task) releaseElsewhere(std::move(updates));
+    }
+    task->reading = false;
+}
+
+void AppModel::take(const std::shared_ptr<ScanTask>& task, ScanUpdate update) {
+    if (auto* progress = std::get_if<update::Progress>(&update)) {
+        assign(itemsScanned_, progress->scanned, &AppModel::itemsScannedChanged);
+        assign(bytesScanned_, progress->bytes, &AppModel::bytesScannedChanged);
+        assign(currentPath_, std::move(progress->currentPath), &AppModel::currentPathChanged);
+    } else if (auto* found = std::get_if<update::Insights>(&update)) {
+        assign(insights_, std::move(found->insights), &AppModel::insightsChanged);
+    } else if (const auto* blocked = std::get_if<update::Blocked>(&update)) {
+        assign(blockedPaths_, blocked->count, &AppModel::blockedPathsChanged);
+    } else if (auto* finished = std::get_if<update::Finished>(&update)) {
+        finish(task, std::move(*finished));
+    }
+}
+
+void AppModel::finish(const std::shared_ptr<ScanTask>& task, update::Finished finished) {
+    const ScanStats& stats = finished.stats;
+    const std::int64_t size = finished.root->size;
+    task->before = {std::exchange(root_, std::move(finished.root)), std::exchange(stats_, stats)};
+    emit rootChanged();
+    if (scanTask_ == task && task->before->stats != stats_) emit statsChanged();
+    if (scanTask_ != task) return;
+    assign(bytesScanned_, size, &AppModel::bytesScannedChanged);
+    assign(itemsScanned_, stats.filesScanned + stats.dirsScanned, &AppModel::itemsScannedChanged);
+    assign(blockedPaths_, stats.blockedPaths, &AppModel::blockedPathsChanged);
+    if (scanTask_ == task) classify(task);
+}
+
+void AppModel::classify(const std::shared_ptr<ScanTask>& task) {
+    auto work = [this, sender = calls_.sender(), waiting = std::weak_ptr(task), tree = root_, home = home_,
+                 classifier = ReclaimClassifier(platform_.files)] {
+        std::vector<Reclaimable> items;
+        classifier.collect(*tree, home, items);
+        sender.post([this, waiting, items = std::move(items)]() mutable {
+            if (const auto awaited = waiting.lock()) completeFinish(awaited, std::move(items));
+        });
+    };
+    platform_.tasks.run(TaskPriority::standard, std::move(work));
+}
+
+void AppModel::completeFinish(const std::shared_ptr<ScanTask>& task, std::vector<Reclaimable> items) {
+    if (scanTask_ != task) return;
+    setReclaimables(std::move(items));
+    if (scanTask_ != task) return;
+    task->counts = true;
+    releaseElsewhere(std::exchange(task->before, std::nullopt)->root);
+    for (NodeRef& node : std::exchange(task->removals, {})) {
+        removeFromTree(*node);
+        releaseElsewhere(std::move(node));
+    }
+    if (scanTask_ != task) return;
+    recordSurvey(root_->size, *root_);
+    if (scanTask_ != task) return;
+    settleTrash();
+    if (scanTask_ != task) return;
+    assign(scanPhase_, ScanPhase::finished, &AppModel::scanPhaseChanged);
+}
+
+void AppModel::recordSurvey(std::int64_t total, const FSNode& tree) {
+    SurveyRecord record;
+    record.date = platform_.clock.now();
+    record.totalScanned = total;
+    if (volume_) {
+        record.used = std::max<std::int64_t>(0, volume_->total - volume_->available);
+        record.free = volume_->available;
+    }
+    record.reclaimable = reclaimableBytes();
+    for (const FileType type : allFileTypes)
+        if (insights_.typeTotals.contains(type)) record.types.emplace(rawValue(type), insights_.typeTotals[type].bytes);
+    record.folders = bigFolders(tree, 20'000'000, 400);
+    assign(history_, historyFile_.append(record), &AppModel::historyChanged);
+}
+
+}  // namespace zelk

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "scan/UpdateQueue.h"
+#include "state/AppModel.h"
+
+namespace zelk {
+
+/// The reading of one survey. The model holds the one at hand; a call that comes back for another one is late and means
+/// nothing.
+///
+///     updates arrive ──Finished──> `before` is set: the classifier reads the new tree
+///                    ──its items──> `before` is empty, `counts` is true: the survey can no longer be withdrawn
+struct AppModel::ScanTask {
+    /// What the survey before left, for a cancel to put back.
+    struct Before {
+        NodeRef root;
+        std::optional<ScanStats> stats;
+    };
+
+    std::shared_ptr<UpdateQueue> queue = std::make_shared<UpdateQueue>();
+    bool reading = false;  ///< a batch is being worked through, perhaps under an event loop inside a handler
+    std::optional<Before> before;
+    bool counts = false;
+    std::vector<NodeRef> removals;  ///< taken out of the tree as soon as the classifier has left it
+};
+
+}  // namespace zelk
