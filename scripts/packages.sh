@@ -34,6 +34,9 @@ apt_choose() {
     return 1
 }
 
+# readable ENTRY...: the same for a person: the packages' names alone.
+readable() { echo "$*" | sed 's/command:[^ |]*|//g; s/|/ or /g; s/^ *//'; }
+
 # Root needs no sudo; without a terminal sudo must not wait for a password that nobody can type.
 as_root() {
     if [ "$(id -u)" = 0 ]; then
@@ -61,23 +64,26 @@ install_with_apt() {
     fi
 
     if [ "$(id -u)" != 0 ]; then
-        have sudo || fail "packages are missing and there is no sudo; as root, run: apt-get install$missing"
+        have sudo || fail "packages are missing and there is no sudo; let an administrator install:" \
+            "$(readable "$missing")"
         note "Installing needs sudo, which may want your password."
     fi
     mkdir -p build
     : >build/packages.log
     note "Reading the package lists (the details go to build/packages.log)."
-    apt_get update || fail "apt-get update failed; is there a network? The reason stands at the end of build/packages.log."
+    apt_get update || note "Not every list could be read; going on with those that are here."
     chosen=
     for entry in $missing; do
-        name=$(apt_choose "$entry") || fail "this release of $(. /etc/os-release && echo "$PRETTY_NAME") has no package" \
-            "for \"$entry\"; Zelk is known to build on Debian 12 and Ubuntu 24.04."
+        name=$(apt_choose "$entry") || fail "no package list here offers $(readable "$entry"). Is there a network?" \
+            "Zelk is made for Debian 12 and Ubuntu 24.04; this is $(. /etc/os-release && echo "$PRETTY_NAME")."
         chosen="$chosen $name"
     done
     note "Installing$chosen; a first time takes a few minutes."
     # shellcheck disable=SC2086  # a list of names
-    apt_get install --no-install-recommends $chosen ||
-        fail "apt-get could not install these; the reason stands at the end of build/packages.log."
+    if ! apt_get install --no-install-recommends $chosen; then
+        tail -n 5 build/packages.log >&2
+        fail "apt-get could not install these; its last words stand above, all of them in build/packages.log."
+    fi
 }
 
 install_with_brew() {
