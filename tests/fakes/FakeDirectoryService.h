@@ -19,11 +19,11 @@
 
 #include "platform/DirectoryReader.h"
 
-namespace zelk::fake {
+namespace zelk::fakes {
 
 /// Build it before a scan starts; only hold(), waitUntilHeld(), release() and timesRead() are for the time while one
 /// runs. Paths are absolute. Threads of a scan must have ended before it goes.
-class DirectoryService : public zelk::DirectoryService {
+class FakeDirectoryService : public DirectoryService {
 public:
     /// Makes `path` and what is missing above it; "/" is always there.
     void directory(const std::string& path, TimePoint modified = 0) { make(path).modified = modified; }
@@ -138,7 +138,7 @@ private:
 
     class Reader : public DirectoryReader {
     public:
-        explicit Reader(DirectoryService& service) : service_(service) {}
+        explicit Reader(FakeDirectoryService& service) : service_(service) {}
 
         const Entries* open(const DirectoryRoot& root, const std::string& below) override {
             standing_ = {service_.walk(static_cast<const Root&>(root).node, below)};
@@ -170,7 +170,7 @@ private:
             return &entries_;
         }
 
-        DirectoryService& service_;
+        FakeDirectoryService& service_;
         std::vector<const Node*> standing_;  // nullptr: a level that is not there
         Entries entries_;
     };
@@ -245,4 +245,4 @@ private:
     std::map<const Node*, int> reads_;
 };
 
-}  // namespace zelk::fake
+}  // namespace zelk::fakes

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+// A whole machine in memory: every service of the platform as a fake that a test fills, drives and asks what was done.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "fakes/FakeDirectoryService.h"
+#include "fakes/FakeFileManager.h"
+#include "platform/Platform.h"
+#include "platform/posix/ThreadCount.h"
+
+namespace zelk::fakes {
+
+/// Stands still until a test moves it.
+class FakeClock : public Clock {
+public:
+    TimePoint now() override {
+        const std::lock_guard lock(mutex_);
+        return now_;
+    }
+    double monotonic() override {
+        const std::lock_guard lock(mutex_);
+        return monotonic_;
+    }
+    void advance(double seconds) {
+        const std::lock_guard lock(mutex_);
+        now_ += seconds;
+        monotonic_ += seconds;
+    }
+
+private:
+    std::mutex mutex_;
+    TimePoint now_ = 1'750'000'000;
+    double monotonic_ = 1000;
+};
+
+/// Runs every task on a thread of its own, as the real ones are, and joins it: at once, or when a test says so.
+class FakeTasks : public BackgroundTasks {
+public:
+    /// From now on tasks wait to be told.
+    void hold() {
+        const std::lock_guard lock(mutex_);
+        holding_ = true;
+    }
+    /// Runs what waits, in order, and from now on again everything at once.
+    void release() {
+        {
+            const std::lock_guard lock(mutex_);
+            holding_ = false;
+        }
+        while (runNext()) {
+        }
+    }
+    /// Runs the oldest waiting task to its end; false if none waits.
+    bool runNext() { return runAt(0); }
+    /// The same for the task at `index`, counted from the oldest.
+    bool runAt(std::size_t index) {
+        std::function<void()> task;
+        {
+            const std::lock_guard lock(mutex_);
+            if (index >= waiting_.size()) return false;
+            const auto at = waiting_.begin() + static_cast<std::ptrdiff_t>(index);
+            task = std::move(at->task);
+            waiting_.erase(at);
+        }
+        runOnThread(std::move(task));
+        return true;
+    }
+    /// The urgencies of the tasks that wait, oldest first.
+    std::vector<TaskPriority> waiting() const {
+        const std::lock_guard lock(mutex_);
+        std::vector<TaskPriority> priorities;
+        for (const Waiting& one : waiting_) priorities.push_back(one.priority);
+        return priorities;
+    }
+
+    void run(TaskPriority priority, std::function<void()> task) override {
+        {
+            const std::lock_guard lock(mutex_);
+            if (holding_) {
+                waiting_.push_back({priority, std::move(task)});
+                return;
+            }
+        }
+        runOnThread(std::move(task));
+    }
+
+private:
+    struct Waiting {
+        TaskPriority priority;
+        std::function<void()> task;
+    };
+
+    static void runOnThread(std::function<void()> task) { std::thread(std::move(task)).join(); }
+
+    mutable std::mutex mutex_;
+    bool holding_ = false;
+    std::deque<Waiting> waiting_;
+};
+
+/// Fill the fields before anything runs.
+class FakeVitals : public Vitals {
+public:
+    DeviceInfo deviceInfo{"Test machine", "Test chip", 8, 16'000'000'000, "TestOS 1.0", "Test1,1"};
+    MemoryStats memoryStats{16'000'000'000, 8'000'000'000, 8'000'000'000, 2'000'000'000, 0};
+    std::optional<CPUTicks> cpuTicks = CPUTicks{};
+    PowerInfo powerInfo;
+    double uptimeSeconds = 3600;
+
+    /// Absent makes the volume of `path` unreadable, as it is of all paths that are not set.
+    void setVolume(const std::string& path, std::optional<VolumeInfo> info) {
+        const std::lock_guard lock(mutex_);
+        volumes_[path] = info;
+    }
+    /// The paths whose volume was read, in order.
+    std::vector<std::string> volumeReads() const {
+        const std::lock_guard lock(mutex_);
+        return volumeReads_;
+    }
+
+    DeviceInfo device() override { return deviceInfo; }
+    MemoryStats memory() override { return memoryStats; }
+    std::optional<CPUTicks> ticks() override { return cpuTicks; }
+    PowerInfo power() override { return powerInfo; }
+    std::optional<VolumeInfo> volume(const std::string& path) override {
+        const std::lock_guard lock(mutex_);
+        volumeReads_.push_back(path);
+        const auto found = volumes_.find(path);
+        return found == volumes_.end() ? std::nullopt : found->second;
+    }
+    double uptime() override { return uptimeSeconds; }
+
+private:
+    mutable std::mutex mutex_;
+    std::map<std::string, std::optional<VolumeInfo>> volumes_;
+    std::vector<std::string> volumeReads_;
+};
+
+/// Fill the fields before anything runs.
+class FakeLocations : public Locations {
+public:
+    std::string homePath = "/home/me";
+    std::optional<std::string> applicationSupportPath = "/home/me/support";
+
+    std::string home() override { return homePath; }
+    std::optional<std::string> applicationSupport() override { return applicationSupportPath; }
+};
+
+/// A folder "/home/me/.Trash" whose entries are in the file manager.
+class FakeTrash : public Trash {
+public:
+    explicit FakeTrash(FakeFileManager& files) : files_(files) { files_.addFolder(path); }
+
+    const std::string path = "/home/me/.Trash";
+
+    void put(const std::string& name, std::uint64_t bytes) { files_.addFile(path + "/" + name, {}, bytes); }
+    /// Whether it may be looked into.
+    void setAccessible(bool accessible) {
+        const std::lock_guard lock(mutex_);
+        accessible_ = accessible;
+    }
+
+    std::string location() override { return path; }
+    std::optional<std::vector<std::string>> list() override {
+        {
+            const std::lock_guard lock(mutex_);
+            if (!accessible_) return std::nullopt;
+        }
+        std::optional<std::vector<std::string>> entries = files_.list(path);
+        if (entries)
+            for (std::string& entry : *entries) entry = path + "/" + entry;
+        return entries;
+    }
+
+private:
+    FakeFileManager& files_;
+    std::mutex mutex_;
+    bool accessible_ = true;
+};
+
+/// The services together. It goes only when the threads of all scans have ended: a walk that is still held hangs it.
+class FakePlatform {
+public:
+    FakeClock clock;
+    FakeDirectoryService directories;
+    FakeFileManager files;
+    FakeTrash trash{files};
+    FakeVitals vitals;
+    FakeLocations locations;
+    FakeTasks tasks;
+
+    FakePlatform() = default;
+    FakePlatform(const FakePlatform&) = delete;
+    FakePlatform& operator=(const FakePlatform&) = delete;
+    ~FakePlatform() { waitForThreads(); }
+
+    Platform platform() { return {clock, directories, files, trash, vitals, locations, tasks}; }
+
+    /// Until every thread of every scan has ended.
+    static void waitForThreads() {
+        while (!drainThreads(1)) {
+        }
+    }
+};
+
+}  // namespace zelk::fakes
