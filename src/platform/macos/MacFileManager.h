@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/FileManager.h"
+
+namespace zelk {
+
+/// Sizes are Foundation's, which knows of a file's metadata and of files hidden by more than a dot. Names come from the
+/// system calls, since Foundation gives them in another normal form than the one on the disk.
+class MacFileManager : public FileManager {
+public:
+    bool exists(const std::string& path) override;
+    std::optional<FileProperties> properties(const std::string& path) override;
+    std::optional<std::vector<std::string>> list(const std::string& path) override;
+    std::uint64_t allocatedSizeBelow(const std::string& path) override;
+    std::optional<std::string> read(const std::string& path) override;
+    bool replaceDurably(const std::string& path, std::string_view content) override;
+    bool createDirectories(const std::string& path) override;
+};
+
+}  // namespace zelk

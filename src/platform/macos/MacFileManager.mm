@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "platform/macos/MacFileManager.h"
+
+#import <Foundation/Foundation.h>
+
+#include <sys/stat.h>
+
+#include "platform/macos/FoundationPaths.h"
+#include "platform/posix/DirectoryNames.h"
+#include "platform/posix/DurableFile.h"
+#include "platform/posix/OpenDirectory.h"
+
+namespace zelk {
+
+namespace {
+
+/// 0 where there is no such value, as on a folder.
+std::uint64_t allocatedSizeOf(NSURL* url) {
+    NSNumber* bytes = nil;
+    if (![url getResourceValue:&bytes forKey:NSURLTotalFileAllocatedSizeKey error:nil]) return 0;
+    return [bytes unsignedLongLongValue];
+}
+
+}  // namespace
+
+bool MacFileManager::exists(const std::string& path) {
+    struct stat status;
+    return stat(path.c_str(), &status) == 0;
+}
+
+std::optional<FileProperties> MacFileManager::properties(const std::string& path) {
+    struct stat status;
+    if (lstat(path.c_str(), &status) != 0) return std::nullopt;
+    if (S_ISDIR(status.st_mode)) return FileProperties{.isDirectory = true, .allocatedSize = 0};
+    @autoreleasepool {
+        return FileProperties{.isDirectory = false, .allocatedSize = allocatedSizeOf(fileURL(path, false))};
+    }
+}
+
+std::optional<std::vector<std::string>> MacFileManager::list(const std::string& path) {
+    return directoryNames(Descriptor(openRootDirectory(path)));
+}
+
+std::uint64_t MacFileManager::allocatedSizeBelow(const std::string& path) {
+    std::uint64_t bytes = 0;
+    @autoreleasepool {
+        // Without an error handler the enumerator goes on behind what it cannot read.
+        NSDirectoryEnumerator<NSURL*>* below =
+            [[NSFileManager defaultManager] enumeratorAtURL:fileURL(path, true)
+                                 includingPropertiesForKeys:@[ NSURLTotalFileAllocatedSizeKey ]
+                                                    options:NSDirectoryEnumerationSkipsHiddenFiles
+                                               errorHandler:nil];
+        for (bool more = true; more;) {
+            @autoreleasepool {  // a folder may hold millions
+                NSURL* entry = [below nextObject];
+                more = entry != nil;
+                if (more) bytes += allocatedSizeOf(entry);
+            }
+        }
+    }
+    return bytes;
+}
+
+std::optional<std::string> MacFileManager::read(const std::string& path) {
+    return readWholeFile(path);
+}
+
+bool MacFileManager::replaceDurably(const std::string& path, std::string_view content) {
+    return replaceFileDurably(path, content);
+}
+
+bool MacFileManager::createDirectories(const std::string& path) {
+    return createDirectoryTree(path);
+}
+
+}  // namespace zelk

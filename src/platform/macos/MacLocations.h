@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Locations.h"
+
+namespace zelk {
+
+class MacLocations : public Locations {
+public:
+    /// `home` replaces the user's own with all that belongs to it; empty takes the real one.
+    explicit MacLocations(const std::string& home);
+
+    std::string home() override { return home_; }
+    std::optional<std::string> applicationSupport() override { return applicationSupport_; }
+
+private:
+    std::string home_;
+    std::optional<std::string> applicationSupport_;
+};
+
+}  // namespace zelk

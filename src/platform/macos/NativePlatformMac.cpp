@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include <string>
+
+#include "platform/NativePlatform.h"
+#include "platform/macos/BulkDirectoryReader.h"
+#include "platform/macos/MacFileManager.h"
+#include "platform/macos/MacLocations.h"
+#include "platform/macos/MacTrash.h"
+#include "platform/macos/MacVitals.h"
+#include "platform/posix/DescriptorLimit.h"
+#include "platform/posix/PosixClock.h"
+#include "platform/posix/PosixTasks.h"
+#include "platform/posix/ThreadCount.h"
+
+namespace zelk {
+
+struct NativePlatform::Services {
+    explicit Services(const std::string& home) : locations(home), trash(locations.home()) {}
+
+    PosixClock clock;
+    ThreadTasks tasks;
+    BulkDirectoryService directories;
+    MacFileManager files;
+    MacVitals vitals;
+    MacLocations locations;
+    MacTrash trash;
+    Platform record{clock, directories, files, trash, vitals, locations, tasks};
+};
+
+NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {
+    raiseDescriptorLimit();
+}
+
+NativePlatform::~NativePlatform() = default;
+
+Platform& NativePlatform::platform() {
+    return services_->record;
+}
+
+bool NativePlatform::drain(double seconds) {
+    return drainThreads(seconds);
+}
+
+}  // namespace zelk
