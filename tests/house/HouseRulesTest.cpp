@@ -150,6 +150,8 @@ TEST(FormRule, countsTheLastLineWithAndWithoutItsBreak) {
     EXPECT_THAT(checkForm({"src/scan/A.cpp", lines(500) + "x"}), SizeIs(1));
     EXPECT_THAT(checkForm({"src/ui/A.qml", lines(300)}), IsEmpty());
     EXPECT_THAT(checkForm({"src/ui/A.qml", lines(301)}), SizeIs(1));
+    EXPECT_THAT(checkForm({"src/app/main.cpp", lines(100)}), IsEmpty());
+    EXPECT_THAT(checkForm({"src/app/main.cpp", lines(101)}), SizeIs(1));
 }
 
 TEST(Comments, goAndLeaveLinesAndStringsInPlace) {
