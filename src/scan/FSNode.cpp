@@ -34,9 +34,10 @@ FSNode& FSNode::append(NodeRef child) {
 }
 
 void FSNode::remove(FSNode& child) {
-    // Without its parent pointer: who still holds the child must not be led to a parent that is gone by then.
     const NodeRef held(&child);
-    if (std::erase(children, held) != 0) child.parent_ = nullptr;
+    if (std::erase(children, held) == 0) return;
+    child.keepsParent_ = true;
+    references_.fetch_add(1, std::memory_order_relaxed);
 }
 
 // A drive may hold folders to any depth, so neither path nor release may recurse.
@@ -67,6 +68,11 @@ std::string FSNode::fullPath() const {
 }
 
 void FSNode::release(FSNode* node) {
+    NodeRef keptParent;
+    if (node->keepsParent_) {
+        keptParent = NodeRef(node->parent_);
+        node->parent_->references_.fetch_sub(1, std::memory_order_relaxed);  // never the last: keptParent holds one
+    }
     // Nodes that nobody refers to any more, chained through their own parent pointers: no memory is needed to free.
     node->parent_ = nullptr;
     while (node != nullptr) {

@@ -64,7 +64,8 @@ public:
 
     /// Takes `child` in at the end of `children` and becomes its parent.
     FSNode& append(NodeRef child);
-    /// Takes every occurrence of `child` out of `children`, and with the last of them its parent from it.
+    /// Takes `child` out of `children`. Its parent pointer still holds, and from here on keeps this node alive: whoever
+    /// removed a folder may go on to name what was in it.
     void remove(FSNode& child);
 
     /// The path in bytes, built on demand: the name, behind the parent's path where there is one.
@@ -73,7 +74,7 @@ public:
     void fullPath(std::string& path) const;
 
     std::int64_t size = 0;          ///< allocated bytes of this and everything below; 0 until the roll-up
-    std::vector<NodeRef> children;  ///< subdirectories in the order in which they were met; add with append()
+    std::vector<NodeRef> children;  ///< subdirectories in the order in which they were met; see append(), remove()
     const ReclaimCategory* reclaimCategory = nullptr;  ///< set by the classifier; a row of the catalogue
     TimePoint lastModified;
     std::int64_t ownFileBytes = 0;  ///< allocated bytes of the files directly in it, further hard links as 0
@@ -82,14 +83,15 @@ public:
 private:
     friend class NodeRef;
     FSNode(std::uint32_t nameLength, TimePoint modified, bool isDirectory)
-        : lastModified(modified), nameLength_(nameLength), isDirectory_(isDirectory) {}
+        : lastModified(modified), nameLength_(nameLength), isDirectory_(isDirectory), keepsParent_(false) {}
     ~FSNode() = default;
     static void release(FSNode* node);
 
     FSNode* parent_ = nullptr;
     std::atomic<std::uint32_t> references_{0};
-    std::uint32_t nameLength_ : 31;
+    std::uint32_t nameLength_ : 30;
     std::uint32_t isDirectory_ : 1;
+    std::uint32_t keepsParent_ : 1;  ///< taken out of its parent's children, which it now keeps alive
 };
 
 }  // namespace zelk

@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: MIT
+#include "scan/ParallelWalker.h"
+
+#include <mutex>
+#include <set>
+
+#include "ScanFixture.h"
+#include "platform/Thread.h"
+
+namespace zelk {
+namespace {
+
+using ParallelWalkerTest = ScanFixture;
+
+constexpr std::int64_t mb = 1'000'000;
+
+TEST_F(ParallelWalkerTest, everyDirectoryHoldsTheSumOfItsFiles) {
+    disk.file("/r/a.txt", 10);
+    disk.file("/r/d/b.mp4", 20, 7.5);
+    disk.file("/r/d/c", 30);
+    disk.directory("/r/e", 99.25);
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.stats.filesScanned, 3);
+    EXPECT_EQ(result.stats.dirsScanned, 3);
+    EXPECT_EQ(result.stats.totalBytes, 60);
+    EXPECT_EQ(at(result, "/r")->ownFileBytes, 10);
+    EXPECT_EQ(at(result, "/r")->fileCount, 1);
+    EXPECT_EQ(at(result, "/r")->size, 60);
+    EXPECT_EQ(at(result, "/r/d")->ownFileBytes, 50);
+    EXPECT_EQ(at(result, "/r/d")->fileCount, 2);
+    EXPECT_EQ(at(result, "/r/e")->lastModified, 99.25);
+    EXPECT_EQ(result.insights.typeTotals[FileType::video], (TypeTally{20, 1}));
+    EXPECT_EQ(result.insights.typeTotals[FileType::document], (TypeTally{10, 1}));
+}
+
+TEST_F(ParallelWalkerTest, childrenStandInTheOrderOfDelivery) {
+    for (const char* name : {"m", "a", "z", "b"}) disk.directory(std::string("/r/") + name);
+    const ScanResult result = scan({"/r"});
+    std::string names;
+    for (const NodeRef& child : at(result, "/r")->children) names += child->name();
+    EXPECT_EQ(names, "mazb");
+}
+
+TEST_F(ParallelWalkerTest, aRootWithATrailingSlashGivesPathsWithOne) {
+    disk.file("/top.dmg", 60 * mb);
+    disk.file("/d/in.dmg", 70 * mb);
+    const ScanResult result = scan({"/"});
+    EXPECT_NE(at(result, "/d"), nullptr);
+    ASSERT_EQ(result.insights.diskImages.size(), 2U);
+    EXPECT_EQ(result.insights.diskImages[0].path, "/d/in.dmg");
+    EXPECT_EQ(result.insights.diskImages[1].path, "/top.dmg");
+    EXPECT_EQ(scan({"/d/"}).insights.topFiles[0].path, "/d/in.dmg");
+}
+
+// A directory at depth 5 is still taken from the stack; what is below it is walked by the thread that took it. Holding
+// two siblings at once shows which: only those that go through the stack can be visited by two threads.
+TEST_F(ParallelWalkerTest, directoriesDownToDepthFiveAreSharedOut) {
+    disk.directory("/r/1/2/3/4/a");
+    disk.directory("/r/1/2/3/4/b");
+    disk.hold("/r/1/2/3/4/a");
+    disk.hold("/r/1/2/3/4/b");
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r/1/2/3/4/a");
+    disk.waitUntilHeld("/r/1/2/3/4/b");
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 7);
+}
+
+TEST_F(ParallelWalkerTest, directoriesFromDepthSixStayWithTheirThread) {
+    disk.directory("/r/1/2/3/4/5/a");
+    disk.directory("/r/1/2/3/4/5/b/c");
+    disk.hold("/r/1/2/3/4/5/a");
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r/1/2/3/4/5/a");
+    EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5"), 1);
+    EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5/b"), 0);
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 9);
+}
+
+TEST_F(ParallelWalkerTest, aHardLinkCountsItsBytesOnceAndItsNameEveryTime) {
+    disk.file("/r/a/x.iso", 10 * mb);
+    disk.directory("/r/b");
+    disk.hardLink("/r/b/x.iso", "/r/a/x.iso");
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.stats.totalBytes, 10 * mb);
+    EXPECT_EQ(result.stats.filesScanned, 2);
+    const FSNode* a = at(result, "/r/a");
+    const FSNode* b = at(result, "/r/b");
+    EXPECT_EQ(a->fileCount, 1);
+    EXPECT_EQ(b->fileCount, 1);
+    EXPECT_EQ(a->ownFileBytes + b->ownFileBytes, 10 * mb);
+    EXPECT_TRUE(a->ownFileBytes == 0 || b->ownFileBytes == 0);
+    EXPECT_EQ(result.insights.topFiles.size(), 1U);
+    EXPECT_EQ(result.insights.typeTotals[FileType::diskImage], (TypeTally{10 * mb, 2}));
+}
+
+TEST_F(ParallelWalkerTest, aLinkToADirectoryIsASmallFileAndNotEntered) {
+    disk.file("/outside/big", 500);
+    disk.symbolicLink("/r/link", 1, "/outside");
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.stats.totalBytes, 1);
+    EXPECT_EQ(result.stats.dirsScanned, 1);
+    EXPECT_EQ(disk.timesRead("/outside"), 0);
+}
+
+TEST_F(ParallelWalkerTest, aMountPointIsLeftOutWithoutATrace) {
+    disk.file("/r/f", 5);
+    disk.device("/r/mount", 2);
+    disk.file("/r/mount/f", 100);
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.stats.totalBytes, 5);
+    EXPECT_EQ(result.stats.dirsScanned, 1);
+    EXPECT_EQ(result.stats.blockedPaths, 0);
+    EXPECT_TRUE(at(result, "/r")->children.empty());
+    EXPECT_EQ(disk.timesRead("/r/mount"), 0);
+}
+
+TEST_F(ParallelWalkerTest, aRootOnAnotherVolumeIsWalkedUnderItsOwnDevice) {
+    disk.device("/r/mount", 2);
+    disk.file("/r/mount/d/f", 100);
+    const ScanResult result = scan({"/r", "/r/mount"});
+    EXPECT_EQ(result.stats.totalBytes, 100);
+    EXPECT_EQ(at(result, "/r/mount/d")->size, 100);
+}
+
+TEST_F(ParallelWalkerTest, anUnreadableDirectoryIsCountedOnceAndStaysEmpty) {
+    disk.file("/r/f", 5);
+    disk.file("/r/shut/f", 100);
+    disk.unreadable("/r/shut");
+    disk.file("/r/1/2/3/4/5/6/shut/f", 100);
+    disk.unreadable("/r/1/2/3/4/5/6/shut");
+    disk.file("/r/1/2/3/4/5/6/open/f", 7);
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.stats.blockedPaths, 2);
+    EXPECT_EQ(result.stats.totalBytes, 12);
+    EXPECT_EQ(result.stats.dirsScanned, 8) << "a blocked directory is no scanned one";
+    const FSNode* shut = at(result, "/r/shut");
+    ASSERT_NE(shut, nullptr);
+    EXPECT_EQ(shut->size, 0);
+    EXPECT_EQ(shut->fileCount, 0);
+    EXPECT_TRUE(shut->children.empty());
+}
+
+TEST_F(ParallelWalkerTest, allSeedsUnreadable) {
+    disk.directory("/a");
+    disk.directory("/b");
+    disk.unreadable("/a");
+    disk.unreadable("/b");
+    const ScanResult result = scan({"/a", "/b"});
+    EXPECT_EQ(result.stats.blockedPaths, 2);
+    EXPECT_EQ(result.stats.dirsScanned, 0);
+    ASSERT_EQ(result.top->children.size(), 2U);
+    EXPECT_TRUE(result.top->children[0]->children.empty());
+}
+
+TEST_F(ParallelWalkerTest, oneWorkerFindsWhatManyFind) {
+    for (int i = 0; i < 200; ++i) {
+        const std::string folder = "/r/" + std::to_string(i % 7) + "/" + std::to_string(i % 13) + "/deep/er/and/deeper";
+        disk.file(folder + "/f" + std::to_string(i) + ".mp3", static_cast<std::uint64_t>(i));
+    }
+    workers(1);
+    const ScanResult one = scan({"/r"});
+    workers(8);
+    const ScanResult eight = scan({"/r"});
+    EXPECT_EQ(one.stats.totalBytes, eight.stats.totalBytes);
+    EXPECT_EQ(one.stats.totalBytes, 199 * 200 / 2);
+    EXPECT_EQ(one.stats.filesScanned, eight.stats.filesScanned);
+    EXPECT_EQ(one.stats.dirsScanned, eight.stats.dirsScanned);
+    EXPECT_EQ(one.insights.typeTotals, eight.insights.typeTotals);
+    EXPECT_EQ(one.insights.topFiles.size(), eight.insights.topFiles.size());
+}
+
+TEST_F(ParallelWalkerTest, emptyFilesReachNoList) {
+    disk.file("/r/a.dmg", 0);
+    disk.file("/r/b", 1);
+    const ScanResult result = scan({"/r"});
+    ASSERT_EQ(result.insights.topFiles.size(), 1U);
+    EXPECT_EQ(result.insights.topFiles[0].path, "/r/b");
+    EXPECT_EQ(result.stats.filesScanned, 2);
+}
+
+TEST_F(ParallelWalkerTest, aRawImageIsAPhotoInTheTalliesAndADiskImageInTheList) {
+    disk.file("/r/photo.raw", 60 * mb, 3.5);
+    disk.file("/r/small.dmg", 50 * mb - 1);
+    disk.file("/r/just.dmg", 50 * mb);
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.insights.typeTotals[FileType::image], (TypeTally{60 * mb, 1}));
+    ASSERT_EQ(result.insights.diskImages.size(), 2U);
+    EXPECT_EQ(result.insights.diskImages[0], (LargeFile{"/r/photo.raw", 60 * mb, 3.5, FileType::diskImage}));
+    EXPECT_EQ(result.insights.diskImages[1].path, "/r/just.dmg");
+    EXPECT_EQ(result.insights.topFiles[0].type, FileType::image);
+}
+
+TEST_F(ParallelWalkerTest, namesAreBytes) {
+    disk.file("/r/\xFF\xFE/\n\x01.png", 9);
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.insights.topFiles[0].path, "/r/\xFF\xFE/\n\x01.png");
+}
+
+TEST_F(ParallelWalkerTest, aChainOfFiftyThousandFoldersIsWalkedWhole) {
+    disk.chain("/r", "d", 50'000, 2);
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.stats.dirsScanned, 50'001);
+    EXPECT_EQ(result.stats.filesScanned, 50'000);
+    EXPECT_EQ(result.stats.totalBytes, 100'000);
+    EXPECT_EQ(result.stats.blockedPaths, 0);
+}
+
+TEST_F(ParallelWalkerTest, progressComesEveryTwentyThousandItems) {
+    for (int d = 0; d < 5; ++d)
+        for (int f = 0; f < 9'999; ++f) disk.file("/r/" + std::to_string(d) + "/" + std::to_string(f), 1);
+    workers(1);
+    const ScanResult result = scan({"/r"});
+    // 1 item for the root, then 10,000 a folder: due behind the second and the fourth.
+    ASSERT_EQ(result.progress.size(), 2U);
+    EXPECT_EQ(result.progress[0].scanned, 20'001);
+    EXPECT_EQ(result.progress[0].bytes, 19'998);
+    EXPECT_EQ(result.progress[1].scanned, 40'001);
+    EXPECT_TRUE(result.progress[1].currentPath.starts_with("/r/")) << result.progress[1].currentPath;
+}
+
+/// Notes which threads ask for a reader.
+class NotingService : public fakes::FakeDirectoryService {
+public:
+    std::unique_ptr<DirectoryReader> makeReader() override {
+        {
+            const std::lock_guard lock(mutex_);
+            names_.insert(currentThreadName());
+        }
+        return fakes::FakeDirectoryService::makeReader();
+    }
+    std::set<std::string> names() {
+        const std::lock_guard lock(mutex_);
+        return names_;
+    }
+
+private:
+    std::mutex mutex_;
+    std::set<std::string> names_;
+};
+
+TEST(ParallelWalkerThreads, areNamedByTheirNumber) {
+    setenv("ZELK_WORKERS", "3", 1);
+    NotingService disk;
+    disk.directory("/r/a");
+    disk.hold("/r/a");
+    PosixClock clock;
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r/a");
+    while (disk.names().size() < 3) std::this_thread::yield();
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(disk.names(), (std::set<std::string>{"zelk.scan.worker.0", "zelk.scan.worker.1", "zelk.scan.worker.2"}));
+    unsetenv("ZELK_WORKERS");
+}
+
+}  // namespace
+}  // namespace zelk

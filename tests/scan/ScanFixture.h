@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "fakes/FakeDirectoryService.h"
+#include "platform/posix/PosixClock.h"
+#include "platform/posix/ThreadCount.h"
+#include "scan/ScanEngine.h"
+
+namespace zelk {
+
+/// One finished scan, taken apart.
+struct ScanResult {
+    std::vector<update::Progress> progress;
+    std::optional<update::Blocked> blocked;
+    ScanInsights insights;
+    NodeRef top;
+    ScanStats stats;
+    std::string order;  ///< one letter an update: p, b, i, f
+
+    explicit ScanResult(std::vector<ScanUpdate> updates) {
+        for (ScanUpdate& update : updates) {
+            if (auto* p = std::get_if<update::Progress>(&update)) progress.push_back(*p), order += 'p';
+            if (auto* b = std::get_if<update::Blocked>(&update)) blocked = *b, order += 'b';
+            if (auto* i = std::get_if<update::Insights>(&update)) insights = i->insights, order += 'i';
+            if (auto* f = std::get_if<update::Finished>(&update)) top = f->root, stats = f->stats, order += 'f';
+        }
+    }
+};
+
+/// Walks a made-up file system with a given number of threads.
+class ScanFixture : public testing::Test {
+protected:
+    ScanFixture() { workers(4); }
+    ~ScanFixture() override {
+        EXPECT_TRUE(drainThreads(60)) << "a thread of the scan is still running";
+        unsetenv("ZELK_WORKERS");
+    }
+
+    static void workers(int count) { setenv("ZELK_WORKERS", std::to_string(count).c_str(), 1); }
+
+    ScanResult scan(std::vector<std::string> roots) {
+        const auto queue = std::make_shared<UpdateQueue>();
+        ScanEngine(disk, clock).runHere(queue, std::move(roots));
+        auto batch = queue->takeAll();
+        EXPECT_TRUE(batch.ended);
+        return ScanResult(std::move(batch.updates));
+    }
+
+    /// The node at a path below the only root; null if it is not in the tree.
+    static FSNode* at(const ScanResult& result, const std::string& path) {
+        std::vector<FSNode*> open{result.top.get()};
+        while (!open.empty()) {
+            FSNode* node = open.back();
+            open.pop_back();
+            if (node->fullPath() == path) return node;
+            for (const NodeRef& child : node->children) open.push_back(child.get());
+        }
+        return nullptr;
+    }
+
+    fakes::FakeDirectoryService disk;
+    PosixClock clock;
+};
+
+}  // namespace zelk
