@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <filesystem>
 #include <optional>
-#include <regex>
 
 namespace zelk::house {
 namespace {
@@ -54,9 +54,19 @@ bool isQtFree(const std::string& path) {
     return false;
 }
 
+bool isUpper(char c) {
+    return std::isupper(static_cast<unsigned char>(c)) != 0;
+}
+bool isWord(char c) {
+    return c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;
+}
+
+/// <QString>, <QtCore/...>, and <qobject.h> or the like, which no other library has at its top.
 bool isQtHeader(const std::string& target) {
-    static const std::regex qt(R"((Qt[A-Z]\w*/.*)|(Q[A-Z]\w*)|(q[a-z0-9_]+\.h))");
-    return std::regex_match(target, qt);
+    const bool folder = target.find('/') != std::string::npos;
+    if (target.starts_with("Qt") && target.size() > 2 && isUpper(target[2])) return true;
+    if (target.starts_with("Q") && target.size() > 1 && isUpper(target[1])) return !folder;
+    return target.starts_with("q") && target.ends_with(".h") && !folder;
 }
 
 bool isQtQuickHeader(const std::string& target) {
@@ -66,6 +76,41 @@ bool isQtQuickHeader(const std::string& target) {
 int countLines(std::string_view text) {
     const auto breaks = static_cast<int>(std::count(text.begin(), text.end(), '\n'));
     return text.empty() || text.back() == '\n' ? breaks : breaks + 1;
+}
+
+std::string_view skipBlanks(std::string_view text) {
+    return text.substr(std::min(text.find_first_not_of(" \t"), text.size()));
+}
+
+/// What this line, which is free of comments, includes into the file at `path`; see includesOf.
+std::optional<std::string> includeIn(std::string_view line, const std::string& path) {
+    line = skipBlanks(line);
+    if (!line.starts_with('#')) return std::nullopt;
+    line = skipBlanks(line.substr(1));
+    if (!line.starts_with("include") && !line.starts_with("import")) return std::nullopt;
+    const std::size_t open = line.find_first_of("<\"");
+    if (open == std::string_view::npos) return std::nullopt;
+    const bool quoted = line[open] == '"';
+    const std::size_t close = line.find(quoted ? '"' : '>', open + 1);
+    if (close == std::string_view::npos) return std::nullopt;
+
+    std::filesystem::path target(line.substr(open + 1, close - open - 1));
+    target = target.lexically_normal();
+    // Not from src/ and not a system header: relative to the file itself.
+    if (const auto own = inSource(path); quoted && own && !layerOf(target.string()) && !isQtHeader(target.string())) {
+        const auto resolved = (std::filesystem::path(folderOf(*own)) / target).lexically_normal();
+        if (layerOf(resolved.string())) return resolved.string();
+    }
+    return target.string();
+}
+
+/// Where `word` first stands in `text` as a whole word.
+std::size_t findWord(std::string_view text, std::string_view word) {
+    for (std::size_t at = text.find(word); at != std::string_view::npos; at = text.find(word, at + 1)) {
+        const std::size_t after = at + word.size();
+        if ((at == 0 || !isWord(text[at - 1])) && (after == text.size() || !isWord(text[after]))) return at;
+    }
+    return std::string_view::npos;
 }
 
 }  // namespace
@@ -96,24 +141,14 @@ std::string withoutComments(std::string_view text) {
 }
 
 std::vector<Include> includesOf(const SourceFile& file) {
-    static const std::regex directive(R"rx(\s*#\s*(?:include|import)\s*[<"]([^>"]+)[>"].*)rx");
     const std::string text = withoutComments(file.text);
     std::vector<Include> includes;
     int line = 0;
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = std::min(text.find('\n', start), text.size());
         ++line;
-        std::smatch match;
-        const std::string row = text.substr(start, end - start);
-        if (std::regex_match(row, match, directive)) {
-            std::string target = std::filesystem::path(match[1].str()).lexically_normal().string();
-            // Not from src/ and not a system header: relative to the file itself.
-            const bool quoted = row.find('"') != std::string::npos;
-            if (const auto own = inSource(file.path); quoted && own && !layerOf(target)) {
-                const auto resolved = (std::filesystem::path(folderOf(*own)) / target).lexically_normal().string();
-                if (layerOf(resolved) && !isQtHeader(target)) target = resolved;
-            }
-            includes.push_back({target, line});
+        if (const auto target = includeIn(std::string_view(text).substr(start, end - start), file.path)) {
+            includes.push_back({*target, line});
         }
         start = end + 1;
     }
@@ -172,11 +207,11 @@ std::vector<Violation> checkQt(const SourceFile& file) {
 std::vector<Violation> checkCompositionRoot(const SourceFile& file) {
     const auto own = inSource(file.path);
     if (!own || own->starts_with("app/") || own->starts_with("platform/")) return {};
-    static const std::regex name(R"(\bNativePlatform\b)");
     const std::string text = withoutComments(file.text);
-    std::smatch match;
-    if (!std::regex_search(text, match, name)) return {};
-    const auto line = 1 + static_cast<int>(std::count(text.begin(), text.begin() + match.position(), '\n'));
+    const std::size_t at = findWord(text, "NativePlatform");
+    if (at == std::string::npos) return {};
+    const auto breaks = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n');
+    const int line = 1 + static_cast<int>(breaks);
     return {{file.path, line, "names NativePlatform; only app, bench, tools and tests may"}};
 }
 
