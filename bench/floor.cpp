@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+// floor ROOT...: the system calls of a survey and nothing else, the limit to hold the survey against.
+//
+// The same number of threads, the same shared stack down to the same depth, and per folder the same open, getdents64,
+// statx and close with the same buffer, mask and flags as LinuxDirectoryReader and its ladder. No tree, no tallies, no
+// names kept but those of folders that are still to be entered. Prints {"seconds":…,"entries":…}.
+#include <fcntl.h>
+#include <linux/openat2.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "scan/ScanEngine.h"
+
+namespace {
+
+constexpr std::size_t readBytes = 64 * 1024;
+constexpr int parallelDepth = 6;  // folders above this depth are shared between the threads
+constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+constexpr int statFlags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC;
+constexpr unsigned statMask = STATX_TYPE | STATX_NLINK | STATX_INO | STATX_BLOCKS | STATX_MTIME;
+
+struct KernelEntry {
+    std::uint64_t inode;
+    std::int64_t offset;
+    std::uint16_t length;
+    std::uint8_t type;
+};
+constexpr std::size_t nameOffset = offsetof(KernelEntry, type) + 1;
+
+struct Device {
+    std::uint32_t major;
+    std::uint32_t minor;
+    bool operator==(const Device&) const = default;
+};
+
+struct Root {
+    int fd;
+    Device device;
+};
+
+struct Work {
+    const Root* root;
+    std::string below;
+    int depth;
+};
+
+/// The folders that wait for a thread: last in, first out.
+class Stack {
+public:
+    void push(std::vector<Work>& items) {
+        std::size_t wake;
+        {
+            const std::lock_guard lock(mutex_);
+            for (Work& item : items) work_.push_back(std::move(item));
+            outstanding_ += items.size();
+            wake = std::min(waiting_, items.size());
+        }
+        items.clear();
+        for (; wake > 0; --wake) changed_.notify_one();
+    }
+
+    /// False when the walk is over. `finishedOne`: the item taken before is done with.
+    bool take(Work& work, bool finishedOne) {
+        std::unique_lock lock(mutex_);
+        if (finishedOne && --outstanding_ == 0) changed_.notify_all();
+        while (work_.empty() && outstanding_ > 0) {
+            ++waiting_;
+            changed_.wait(lock);
+            --waiting_;
+        }
+        if (work_.empty()) return false;
+        work = std::move(work_.back());
+        work_.pop_back();
+        return true;
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::vector<Work> work_;
+    std::size_t outstanding_ = 0;
+    std::size_t waiting_ = 0;
+};
+
+class Reader {
+public:
+    explicit Reader(Stack& stack) : stack_(stack), buffer_(static_cast<char*>(std::malloc(readBytes))) {}
+    Reader(const Reader&) = delete;
+    Reader& operator=(const Reader&) = delete;
+    ~Reader() { std::free(buffer_); }
+
+    std::uint64_t entries() const { return entries_; }
+
+    void visit(const Work& work) {
+        const int fd = openBelow(*work.root, work.below);
+        if (fd < 0) return;
+        const std::size_t firstFolder = folders_.size();
+        readFolder(fd, work.root->device);
+        const std::size_t end = folders_.size();
+        for (std::size_t at = firstFolder; at < end;) {
+            const std::string_view name(folders_.data() + at);
+            at += name.size() + 1;
+            if (work.depth + 1 < parallelDepth) {
+                std::string below = work.below.empty() ? std::string() : work.below + '/';
+                children_.push_back({work.root, below.append(name), work.depth + 1});
+            } else {
+                walkDown(fd, std::string(name), work.root->device);
+            }
+        }
+        folders_.resize(firstFolder);
+        if (!children_.empty()) stack_.push(children_);
+        close(fd);
+    }
+
+private:
+    struct Level {
+        int fd;
+        std::size_t first;  ///< where the names of its folders begin in folders_
+        std::size_t next;
+    };
+
+    static int openBelow(const Root& root, const std::string& below) {
+        if (below.empty()) return openat(root.fd, ".", folderFlags);
+        open_how how{};
+        how.flags = folderFlags | O_NOFOLLOW;
+        how.resolve = RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
+        return static_cast<int>(syscall(SYS_openat2, root.fd, below.c_str(), &how, sizeof how));
+    }
+
+    /// All below `name`, on this thread alone.
+    void walkDown(int parent, const std::string& name, const Device& device) {
+        enter(parent, name.c_str(), device);
+        while (!levels_.empty()) {
+            Level& level = levels_.back();
+            if (level.next == folders_.size()) {
+                close(level.fd);
+                folders_.resize(level.first);
+                levels_.pop_back();
+                continue;
+            }
+            const char* const child = folders_.data() + level.next;
+            level.next += std::strlen(child) + 1;
+            enter(level.fd, child, device);
+        }
+    }
+
+    void enter(int parent, const char* name, const Device& device) {
+        const int fd = openat(parent, name, folderFlags | O_NOFOLLOW);
+        if (fd < 0) return;
+        const std::size_t first = folders_.size();
+        readFolder(fd, device);
+        levels_.push_back({fd, first, first});
+    }
+
+    /// Lists the folder whole, then asks for each entry; appends the names of its folders to folders_.
+    void readFolder(int fd, const Device& device) {
+        std::size_t used = 0;
+        while (true) {
+            if (capacity_ < used + readBytes) {
+                capacity_ = used * 2 + readBytes;
+                buffer_ = static_cast<char*>(std::realloc(buffer_, capacity_));
+            }
+            const long got = syscall(SYS_getdents64, fd, buffer_ + used, capacity_ - used);
+            if (got < 0) return;
+            if (got == 0) break;
+            used += static_cast<std::size_t>(got);
+        }
+        for (std::size_t at = 0; at < used;) {
+            KernelEntry record;
+            std::memcpy(&record, buffer_ + at, sizeof record);
+            const char* const name = buffer_ + at + nameOffset;
+            at += record.length;
+            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'))) continue;
+            struct statx status;
+            if (statx(fd, name, statFlags, statMask, &status) != 0) continue;
+            ++entries_;
+            if (S_ISDIR(status.stx_mode) && Device{status.stx_dev_major, status.stx_dev_minor} == device)
+                folders_.insert(folders_.end(), name, name + std::strlen(name) + 1);
+        }
+    }
+
+    Stack& stack_;
+    char* buffer_;
+    std::size_t capacity_ = readBytes;
+    std::uint64_t entries_ = 0;
+    std::vector<char> folders_;
+    std::vector<Level> levels_;
+    std::vector<Work> children_;
+};
+
+/// A folder inside another stays open until all below it is done, so a deep tree needs many.
+void raiseDescriptorLimit() {
+    rlimit limit;
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+    limit.rlim_cur = limit.rlim_max;
+    setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    if (count < 2) {
+        std::fprintf(stderr, "usage: floor ROOT...\n");
+        return 2;
+    }
+    raiseDescriptorLimit();
+    const auto start = std::chrono::steady_clock::now();
+    Stack stack;
+    std::vector<Root> roots;
+    std::vector<Work> seeds;
+    roots.reserve(static_cast<std::size_t>(count));
+    for (int root = 1; root < count; ++root) {
+        const int fd = open(words[root], folderFlags);
+        struct statx status;
+        if (fd < 0 || statx(fd, "", AT_EMPTY_PATH, STATX_TYPE, &status) != 0) continue;
+        roots.push_back({fd, {status.stx_dev_major, status.stx_dev_minor}});
+        seeds.push_back({&roots.back(), {}, 0});
+    }
+
+    stack.push(seeds);
+
+    std::atomic<std::uint64_t> entries{0};
+    std::vector<std::thread> threads;
+    for (std::int64_t worker = roots.empty() ? 0 : zelk::ScanEngine::resolveWorkerCount(); worker > 0; --worker) {
+        threads.emplace_back([&] {
+            Reader reader(stack);
+            Work work;
+            for (bool finishedOne = false; stack.take(work, finishedOne); finishedOne = true) reader.visit(work);
+            entries += reader.entries();
+        });
+    }
+    for (std::thread& thread : threads) thread.join();
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+    std::printf("{\"seconds\":%.6f,\"entries\":%llu}\n", seconds.count(),
+                static_cast<unsigned long long>(entries.load()));
+    return 0;
+}
