@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxFileManager.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <string>
+
+#include "fakes/InChild.h"
+#include "fakes/TestFiles.h"
+#include "platform/posix/Descriptor.h"
+#include "zoo/TempFolder.h"
+#include "zoo/Zoo.h"
+
+namespace zelk {
+namespace {
+
+using fakes::asOrdinaryUser;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Optional;
+using testing::UnorderedElementsAre;
+using zoo::TempFolder;
+
+LinuxFileManager files;
+
+std::uint64_t allocated(const std::string& path) {
+    struct stat status {};
+    EXPECT_EQ(::lstat(path.c_str(), &status), 0) << path;
+    return static_cast<std::uint64_t>(status.st_blocks) * 512;
+}
+
+/// `depth` folders of one name, one inside the other, and a file "end" of 8192 bytes in the last; gives its path.
+std::string makeChain(const std::string& top, const std::string& name, int depth) {
+    std::string path = top;
+    Descriptor at(::open(top.c_str(), O_RDONLY | O_DIRECTORY));
+    for (; depth > 0; --depth) {
+        EXPECT_EQ(::mkdirat(at.get(), name.c_str(), 0755), 0);
+        at = Descriptor(::openat(at.get(), name.c_str(), O_RDONLY | O_DIRECTORY));
+        path += "/" + name;
+    }
+    const Descriptor file(::openat(at.get(), "end", O_WRONLY | O_CREAT, 0644));
+    EXPECT_EQ(::write(file.get(), std::string(8192, 'x').data(), 8192), 8192);
+    return path;
+}
+
+TEST(LinuxFileManager, existenceFollowsLinks) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "file");
+    ASSERT_EQ(::symlink("file", (folder / "link").c_str()), 0);
+    ASSERT_EQ(::symlink("nothing", (folder / "dangling").c_str()), 0);
+    EXPECT_TRUE(files.exists(folder.path()));
+    EXPECT_TRUE(files.exists(folder / "file"));
+    EXPECT_TRUE(files.exists(folder / "link"));
+    EXPECT_FALSE(files.exists(folder / "dangling"));
+    EXPECT_FALSE(files.exists(folder / "missing"));
+    EXPECT_FALSE(files.exists(""));
+}
+
+TEST(LinuxFileManager, propertiesAreThoseOfTheEntryItself) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "file", 10000);
+    zoo::makeFolder(folder / "folder");
+    ASSERT_EQ(::symlink("folder", (folder / "link").c_str()), 0);
+
+    const auto file = files.properties(folder / "file");
+    ASSERT_TRUE(file);
+    EXPECT_FALSE(file->isDirectory);
+    EXPECT_EQ(file->allocatedSize, allocated(folder / "file"));
+    EXPECT_GE(file->allocatedSize, 10000u);
+
+    const auto directory = files.properties(folder / "folder");
+    ASSERT_TRUE(directory);
+    EXPECT_TRUE(directory->isDirectory);
+    EXPECT_EQ(directory->allocatedSize, 0u);
+
+    const auto link = files.properties(folder / "link");
+    ASSERT_TRUE(link);
+    EXPECT_FALSE(link->isDirectory);
+
+    EXPECT_FALSE(files.properties(folder / "missing"));
+}
+
+TEST(LinuxFileManager, aHoleIsNotAllocated) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "sparse");
+    ASSERT_EQ(::truncate((folder / "sparse").c_str(), 1 << 30), 0);
+    EXPECT_LT(files.properties(folder / "sparse")->allocatedSize, 1u << 20);
+    EXPECT_LT(files.allocatedSizeBelow(folder.path()), 1u << 20);
+}
+
+TEST(LinuxFileManager, aListHoldsAllNamesWithoutTheDots) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "file");
+    zoo::makeFile(folder / ".hidden");
+    zoo::makeFile(folder / "line\nbreak");
+    zoo::makeFile(folder / "no text \xff");
+    zoo::makeFolder(folder / "folder");
+    EXPECT_THAT(files.list(folder.path()),
+                Optional(UnorderedElementsAre("file", ".hidden", "line\nbreak", "no text \xff", "folder")));
+    EXPECT_THAT(files.list(folder / "folder"), Optional(IsEmpty()));
+}
+
+TEST(LinuxFileManager, aListOfNoFolderIsAbsent) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "file");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0644), 0);
+    EXPECT_FALSE(files.list(folder / "file"));
+    EXPECT_FALSE(files.list(folder / "pipe"));
+    EXPECT_FALSE(files.list(folder / "missing"));
+    zoo::makeFolder(folder / "locked");
+    ::chmod((folder / "locked").c_str(), 0);
+    EXPECT_TRUE(asOrdinaryUser([&] { return !files.list(folder / "locked"); }));
+}
+
+TEST(LinuxFileManager, pathsLongerThanTheSystemTakesAreLookedAt) {
+    const TempFolder folder;
+    const std::string path = makeChain(folder.path(), std::string(200, 'd'), 60);
+    EXPECT_TRUE(files.exists(path));
+    EXPECT_TRUE(files.exists(path + "/end"));
+    EXPECT_FALSE(files.exists(path + "/missing"));
+    EXPECT_TRUE(files.properties(path)->isDirectory);
+    EXPECT_GE(files.properties(path + "/end")->allocatedSize, 8192u);
+    EXPECT_THAT(files.list(path), Optional(ElementsAre("end")));
+    EXPECT_EQ(files.allocatedSizeBelow(path), files.properties(path + "/end")->allocatedSize);
+    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), files.properties(path + "/end")->allocatedSize);
+    EXPECT_FALSE(files.exists(std::string(5000, 'n')));
+}
+
+TEST(LinuxFileManager, theSizeBelowIsThatOfEveryFileAndOfNoFolder) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "a", 5000);
+    zoo::makeFile(folder / "one/b", 70000);
+    zoo::makeFile(folder / "one/two/c", 1);
+    zoo::makeFile(folder / "three/d", 300000);
+    zoo::makeFolder(folder / "empty/emptier");
+    std::uint64_t expected = 0;
+    for (const char* name : {"a", "one/b", "one/two/c", "three/d"}) expected += allocated(folder / name);
+    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), expected);
+    EXPECT_EQ(files.allocatedSizeBelow(folder / "empty"), 0u);
+}
+
+TEST(LinuxFileManager, theSizeBelowLeavesHiddenEntriesOutWithAllTheyHold) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "seen", 5000);
+    zoo::makeFile(folder / ".hidden", 50000);
+    zoo::makeFile(folder / ".folder/seen", 50000);
+    zoo::makeFile(folder / "one/.hidden", 50000);
+    zoo::makeFile(folder / "one/.folder/two/seen", 50000);
+    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), allocated(folder / "seen"));
+    EXPECT_EQ(files.allocatedSizeBelow(folder / ".folder"), allocated(folder / ".folder/seen"));
+}
+
+TEST(LinuxFileManager, theSizeBelowGoesIntoPackages) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "Some.app/Contents/MacOS/some", 50000);
+    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), allocated(folder / "Some.app/Contents/MacOS/some"));
+}
+
+TEST(LinuxFileManager, theSizeBelowCountsALinkAndNotItsTarget) {
+    const TempFolder folder;
+    const TempFolder outside;
+    zoo::makeFile(outside / "large", 1000000);
+    ASSERT_EQ(::symlink(outside.path().c_str(), (folder / "away").c_str()), 0);
+    ASSERT_EQ(::symlink((outside / "large").c_str(), (folder / "file").c_str()), 0);
+    ASSERT_EQ(::symlink(".", (folder / "circle").c_str()), 0);
+    const std::string longTarget(200, 't');  // stored in a block of its own on many volumes
+    ASSERT_EQ(::symlink(longTarget.c_str(), (folder / "long").c_str()), 0);
+    std::uint64_t expected = 0;
+    for (const char* name : {"away", "file", "circle", "long"}) expected += allocated(folder / name);
+    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), expected);
+}
+
+TEST(LinuxFileManager, theSizeBelowCountsAHardLinkEachTime) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "a", 50000);
+    zoo::makeFolder(folder / "one");
+    ASSERT_EQ(::link((folder / "a").c_str(), (folder / "b").c_str()), 0);
+    ASSERT_EQ(::link((folder / "a").c_str(), (folder / "one/c").c_str()), 0);
+    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), 3 * allocated(folder / "a"));
+}
+
+TEST(LinuxFileManager, theSizeBelowWhatCannotBeReadIsNothing) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "locked/file", 50000);
+    zoo::makeFile(folder / "open/file", 50000);
+    const std::uint64_t readable = allocated(folder / "open/file");
+    ::chmod((folder / "locked").c_str(), 0);
+    EXPECT_TRUE(asOrdinaryUser([&] {
+        return files.allocatedSizeBelow(folder.path()) == readable && files.allocatedSizeBelow(folder / "locked") == 0;
+    }));
+    EXPECT_EQ(files.allocatedSizeBelow(folder / "missing"), 0u);
+    EXPECT_EQ(files.allocatedSizeBelow(folder / "open/file"), 0u);
+}
+
+TEST(LinuxFileManager, theSizeBelowKnowsNamesThatAreNoText) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "\xff\xfe/\n/file", 50000);
+    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), allocated(folder / "\xff\xfe/\n/file"));
+}
+
+TEST(LinuxFileManager, theSizeBelowReachesTheEndOfFiftyThousandFolders) {
+    const TempFolder folder(TempFolder::Medium::memory);
+    makeChain(folder.path(), "d", 50000);
+    zoo::makeFile(folder / "d/d/top", 8192);
+    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), 2 * allocated(folder / "d/d/top"));
+}
+
+TEST(LinuxFileManager, filesAreReadAndReplacedInFoldersMadeForThem) {
+    const TempFolder folder;
+    EXPECT_FALSE(files.replaceDurably(folder / "a/b/file", "content"));
+    EXPECT_TRUE(files.createDirectories(folder / "a/b"));
+    EXPECT_TRUE(files.replaceDurably(folder / "a/b/file", "content"));
+    EXPECT_THAT(files.read(folder / "a/b/file"), Optional(std::string("content")));
+    EXPECT_FALSE(files.read(folder / "a/b"));
+}
+
+}  // namespace
+}  // namespace zelk

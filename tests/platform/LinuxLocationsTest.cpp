@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxLocations.h"
+
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
+
+#include "fakes/Environment.h"
+
+namespace zelk {
+namespace {
+
+using fakes::EnvironmentVariable;
+
+TEST(LinuxLocations, homeIsTheOneOfTheEnvironment) {
+    const EnvironmentVariable home("HOME", "/home/some one");
+    const EnvironmentVariable data("XDG_DATA_HOME", std::nullopt);
+    LinuxLocations locations;
+    EXPECT_EQ(locations.home(), "/home/some one");
+    EXPECT_EQ(locations.applicationSupport(), "/home/some one/.local/share");
+}
+
+TEST(LinuxLocations, homeWithoutAnEnvironmentIsTheOneOfTheUserDatabase) {
+    const passwd* entry = ::getpwuid(::getuid());
+    const std::string expected = entry != nullptr ? entry->pw_dir : "/";
+    for (const std::optional<std::string>& value :
+         {std::optional<std::string>(), std::optional<std::string>(""), std::optional<std::string>("relative/home")}) {
+        const EnvironmentVariable home("HOME", value);
+        EXPECT_EQ(LinuxLocations().home(), expected) << value.value_or("unset");
+    }
+}
+
+TEST(LinuxLocations, homeHasNoSlashAtItsEnd) {
+    const EnvironmentVariable home("HOME", "/home/me//");
+    const EnvironmentVariable data("XDG_DATA_HOME", "/data///");
+    LinuxLocations locations;
+    EXPECT_EQ(locations.home(), "/home/me");
+    EXPECT_EQ(locations.applicationSupport(), "/data");
+    EXPECT_EQ(LinuxLocations("/given/").home(), "/given");
+}
+
+TEST(LinuxLocations, theRootAsHomeStaysOneSlash) {
+    const EnvironmentVariable home("HOME", "/");
+    const EnvironmentVariable data("XDG_DATA_HOME", std::nullopt);
+    LinuxLocations locations;
+    EXPECT_EQ(locations.home(), "/");
+    EXPECT_EQ(locations.applicationSupport(), "/.local/share");
+}
+
+TEST(LinuxLocations, applicationSupportIsTheDataHome) {
+    const EnvironmentVariable home("HOME", "/home/me");
+    const EnvironmentVariable data("XDG_DATA_HOME", "/else/where");
+    EXPECT_EQ(LinuxLocations().applicationSupport(), "/else/where");
+}
+
+TEST(LinuxLocations, aDataHomeThatIsNotAbsoluteIsIgnored) {
+    const EnvironmentVariable home("HOME", "/home/me");
+    for (const char* value : {"", "relative", "./relative", "~/data"}) {
+        const EnvironmentVariable data("XDG_DATA_HOME", value);
+        EXPECT_EQ(LinuxLocations().applicationSupport(), "/home/me/.local/share") << value;
+    }
+}
+
+TEST(LinuxLocations, aGivenHomeTakesEverythingWithIt) {
+    const EnvironmentVariable home("HOME", "/home/me");
+    const EnvironmentVariable data("XDG_DATA_HOME", "/else/where");
+    LinuxLocations locations("/given");
+    EXPECT_EQ(locations.home(), "/given");
+    EXPECT_EQ(locations.applicationSupport(), "/given/.local/share");
+}
+
+TEST(LinuxLocations, theEnvironmentIsReadOnce) {
+    const EnvironmentVariable home("HOME", "/home/me");
+    const EnvironmentVariable data("XDG_DATA_HOME", "/data");
+    LinuxLocations locations;
+    const EnvironmentVariable otherHome("HOME", "/home/you");
+    const EnvironmentVariable otherData("XDG_DATA_HOME", "/other");
+    EXPECT_EQ(locations.home(), "/home/me");
+    EXPECT_EQ(locations.applicationSupport(), "/data");
+}
+
+TEST(LinuxLocations, aHomeThatIsNoTextIsKeptAsBytes) {
+    const EnvironmentVariable home("HOME", "/home/\xff");
+    EXPECT_EQ(LinuxLocations().home(), "/home/\xff");
+}
+
+}  // namespace
+}  // namespace zelk
