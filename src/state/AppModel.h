@@ -14,6 +14,7 @@
 #include "reclaim/ReclaimCatalogue.h"
 #include "scan/ScanUpdate.h"
 #include "state/MainThreadCalls.h"
+#include "state/ReclaimTotals.h"
 #include "state/Screen.h"
 #include "state/SurveyHistory.h"
 
@@ -98,7 +99,7 @@ public:
     /// "1,234 items · 5.6 GB" in the user's locale.
     std::string progressLine() const;
     /// Bytes per category of the catalogue, largest first.
-    std::vector<std::pair<const ReclaimCategory*, std::int64_t>> reclaimTotals() const;
+    ReclaimTotals reclaimTotals() const;
     /// By bytes, largest first.
     std::vector<std::pair<FileType, TypeTally>> sortedTypeTotals() const;
     /// The first meaningful level (below the only root, or the roots), largest first; empty without a tree.

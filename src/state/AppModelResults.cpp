@@ -3,7 +3,6 @@
 #include <QLocale>
 #include <algorithm>
 #include <iterator>
-#include <map>
 
 #include "platform/ByteFormat.h"
 #include "state/AppModel.h"
@@ -13,21 +12,21 @@ namespace zelk {
 
 namespace {
 
-std::int64_t totalSize(const std::vector<Reclaimable>& items) {
-    std::uint64_t bytes = 0;
-    for (const Reclaimable& item : items) bytes += item.size;
-    return static_cast<std::int64_t>(bytes);
-}
-
 /// Items are equal by their path alone, which does not tell whether anything changed.
 bool sameInAll(const Reclaimable& a, const Reclaimable& b) {
     return a.id == b.id && a.path == b.path && a.size == b.size && a.categoryID == b.categoryID &&
            a.safety == b.safety && a.method == b.method && a.lastModified == b.lastModified;
 }
 
+/// The top of the tree that `node` hangs in. A folder that was removed goes on to name its parent but is no child of
+/// it: it is a top of its own.
 const FSNode& topOf(const FSNode& node) {
     const FSNode* top = &node;
-    while (top->parent() != nullptr) top = top->parent();
+    while (const FSNode* parent = top->parent()) {
+        const auto isTop = [top](const NodeRef& child) { return child == top; };
+        if (std::none_of(parent->children.begin(), parent->children.end(), isTop)) break;
+        top = parent;
+    }
     return *top;
 }
 
@@ -74,15 +73,8 @@ std::string AppModel::progressLine() const {
     return items + " items · " + byteText(bytesScanned_, locale.decimalPoint().toStdString());
 }
 
-std::vector<std::pair<const ReclaimCategory*, std::int64_t>> AppModel::reclaimTotals() const {
-    std::map<std::string_view, std::int64_t> bytesByID;
-    for (const Reclaimable& item : reclaimables_) bytesByID[item.categoryID] += static_cast<std::int64_t>(item.size);
-    std::vector<std::pair<const ReclaimCategory*, std::int64_t>> totals;
-    for (const ReclaimCategory& category : reclaimCatalogue())
-        if (const auto found = bytesByID.find(category.id); found != bytesByID.end())
-            totals.emplace_back(&category, found->second);
-    std::stable_sort(totals.begin(), totals.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
-    return totals;
+ReclaimTotals AppModel::reclaimTotals() const {
+    return totalsByCategory(reclaimables_);
 }
 
 std::vector<std::pair<FileType, TypeTally>> AppModel::sortedTypeTotals() const {

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// The end of a survey: what is set, in which order, and what goes into the history.
+#include <thread>
+
+#include "AppModelFixture.h"
+
+namespace zelk {
+namespace {
+
+using AppModelFinishTest = AppModelFixture;
+using Strings = std::vector<std::string>;
+
+TEST_F(AppModelFinishTest, setsEverythingInItsOrderAndThePhaseLast) {
+    fillHome();
+    machine.directories.unreadable(home + "/secret");
+    machine.tasks.hold();
+    model().startScan();
+    EXPECT_EQ(takeSignals(), (Strings{"scanPhase", "currentPath", "volume"}));
+    runUntil([&] { return static_cast<bool>(model().root()); });
+    EXPECT_EQ(takeSignals(), (Strings{"blockedPaths", "insights", "root", "stats", "bytesScanned", "itemsScanned"}));
+    machine.tasks.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(takeSignals(), (Strings{"reclaimables", "history", "trashBytes", "scanPhase"}));
+}
+
+TEST_F(AppModelFinishTest, thePhaseTurnsWhenAllThatResultsNeedIsInPlace) {
+    fillHome();
+    bool checked = false;
+    QObject::connect(&model(), &AppModel::scanPhaseChanged, &model(), [&] {
+        if (model().scanPhase() != Phase::finished) return;
+        checked = true;
+        EXPECT_EQ(model().root()->size, 3'127'000'000);
+        EXPECT_EQ(model().stats()->totalBytes, 3'127'000'000);
+        EXPECT_EQ(model().reclaimables().size(), 2U);
+        EXPECT_EQ(model().history().size(), 1U);
+        EXPECT_EQ(model().trashBytes(), 7'000'000);
+    });
+    survey();
+    EXPECT_TRUE(checked);
+}
+
+TEST_F(AppModelFinishTest, theFinalFiguresComeFromTheTreeAndTheStats) {
+    fillHome();
+    survey();
+    EXPECT_EQ(model().bytesScanned(), 3'127'000'000);
+    EXPECT_EQ(model().stats()->filesScanned, 5);
+    EXPECT_EQ(model().stats()->dirsScanned, 8);
+    EXPECT_EQ(model().itemsScanned(), 13);
+    EXPECT_EQ(model().insights().topFiles.front().path, home + "/projects/film.mov");
+    EXPECT_EQ(model().insights().diskImages.size(), 1U);
+}
+
+TEST_F(AppModelFinishTest, theClassifierRunsOffTheMainThreadAndMarksTheTree) {
+    std::thread::id asked;
+    machine.directories.directory(home + "/rust/target");
+    machine.files.addFile(home + "/rust/Cargo.toml");
+    machine.files.failing = [&](const fakes::FakeFileManager::Call& call) {
+        if (call.operation == "exists") asked = std::this_thread::get_id();
+        return false;
+    };
+    survey();
+    EXPECT_NE(asked, std::thread::id());
+    EXPECT_NE(asked, std::this_thread::get_id());
+    ASSERT_EQ(model().reclaimables().size(), 1U);
+    const NodeRef target = folderAt(model().root(), home + "/rust/target");
+    ASSERT_TRUE(target && target->reclaimCategory != nullptr);
+    EXPECT_EQ(target->reclaimCategory->id, "rust_target");
+}
+
+TEST_F(AppModelFinishTest, theTreeBeforeIsReleasedOnATask) {
+    survey();
+    machine.tasks.hold();
+    model().startScan();
+    const NodeRef before = model().root();
+    runUntil([&] { return !(model().root() == before); });
+    machine.tasks.runNext();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    // The old tree, then the measure of the Trash.
+    EXPECT_EQ(machine.tasks.waiting(), (std::vector{TaskPriority::utility, TaskPriority::utility}));
+    machine.tasks.release();
+}
+
+TEST_F(AppModelFinishTest, theRecordHoldsTheFiguresOfTheSurvey) {
+    fillHome();
+    machine.vitals.setVolume(home, VolumeInfo{500'000, 200'000, 300'000});
+    survey();
+    ASSERT_EQ(model().history().size(), 1U);
+    const SurveyRecord& record = model().history().front();
+    EXPECT_EQ(record.date, machine.clock.now());
+    EXPECT_EQ(record.totalScanned, 3'127'000'000);
+    EXPECT_EQ(record.used, 300'000);
+    EXPECT_EQ(record.free, 200'000);
+    EXPECT_EQ(record.reclaimable, 60'000'000);
+    EXPECT_EQ(record.types,
+              (std::map<std::string, std::int64_t>{
+                  {"video", 3'000'000'000}, {"diskImage", 60'000'000}, {"archive", 7'000'000}, {"other", 60'000'000}}));
+    EXPECT_EQ(record.folders, (SizeByPath{{home, 3'127'000'000},
+                                          {home + "/projects", 3'070'000'000},
+                                          {home + "/Library", 50'000'000},
+                                          {home + "/Library/Caches", 50'000'000},
+                                          {home + "/Library/Caches/Yarn", 50'000'000}}));
+    ASSERT_TRUE(historyFile());
+    EXPECT_EQ(decodeHistory(*historyFile()), model().history());
+}
+
+TEST_F(AppModelFinishTest, aVolumeThatCannotBeReadIsRecordedAsZero) {
+    machine.vitals.setVolume(home, std::nullopt);
+    survey();
+    EXPECT_EQ(model().history().front().used, 0);
+    EXPECT_EQ(model().history().front().free, 0);
+}
+
+TEST_F(AppModelFinishTest, aVolumeWithMoreAvailableThanItHasIsUsedByNothing) {
+    machine.vitals.setVolume(home, VolumeInfo{100, 150, 150});
+    survey();
+    EXPECT_EQ(model().history().front().used, 0);
+    EXPECT_EQ(model().history().front().free, 150);
+}
+
+TEST_F(AppModelFinishTest, theFileIsTheSourceOfTheHistory) {
+    survey();
+    SurveyRecord other;
+    other.date = 1'600'000'000;
+    other.totalScanned = 5;
+    machine.files.addFile("/home/me/support/Zelk/history.json", encodeHistory({other}));
+    survey();
+    ASSERT_EQ(model().history().size(), 2U);
+    EXPECT_EQ(model().history().front(), other);
+}
+
+TEST_F(AppModelFinishTest, theHistoryGrowsInMemoryWhenItCannotBeWritten) {
+    machine.files.failing = [](const fakes::FakeFileManager::Call& call) { return call.operation == "replaceDurably"; };
+    survey();
+    EXPECT_EQ(model().history().size(), 1U);
+    EXPECT_FALSE(historyFile());
+}
+
+TEST_F(AppModelFinishTest, theProjectionAndTheChangesSpeakOfTheModelsHistory) {
+    EXPECT_FALSE(model().daysUntilFull());
+    EXPECT_FALSE(model().folderChanges());
+    machine.vitals.setVolume(home, VolumeInfo{1'000, 900, 900});
+    survey();
+    machine.clock.advance(5 * 3600);
+    machine.directories.file(home + "/films/new.mov", 80'000'000);
+    machine.vitals.setVolume(home, VolumeInfo{1'000, 400, 400});
+    survey();
+    EXPECT_EQ(model().daysUntilFull(), 0);  // 400 bytes at 2,400 a day
+    ASSERT_TRUE(model().folderChanges());
+    EXPECT_EQ(model().folderChanges()->appeared.size(), 2U);
+}
+
+}  // namespace
+}  // namespace zelk
