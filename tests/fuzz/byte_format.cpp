@@ -14,7 +14,7 @@
 
 namespace {
 
-using Wide = __int128;
+__extension__ typedef __int128 Wide;  // a keyword that the standard lacks and both compilers have
 
 [[noreturn]] void fail(std::int64_t count, const std::string& text, const char* why) {
     std::fprintf(stderr, "%lld -> \"%s\": %s\n", static_cast<long long>(count), text.c_str(), why);
