@@ -41,8 +41,9 @@ int openOrThrow(const std::string& path) {
     return fd;
 }
 
-/// Works with the names d0 to d3, up to ten levels deep, on whatever stands there. All steps from the root down are
-/// made one component at a time and through no link, and every act is on a name in an open folder.
+/// Works with the names d0 and d1 on whatever stands there, down to where a walker no longer keeps all the folders
+/// above it open. All steps from the root down are made one component at a time and through no link, and every act is
+/// on a name in an open folder.
 template <class Shared>
 class Vandal {
 public:
@@ -72,21 +73,21 @@ public:
                 replaceByLink(folder, name);
                 break;
             default:
-                moveAwayAndBack(folder, name);
+                moveAwayOrBack(folder, name);
                 break;
         }
         close(folder);
         // What was created must not pile up over a long run.
-        if (++acts_ % 2000 == 0) removeBelow(root_);
+        if (++acts_ % 500 == 0) removeBelow(root_);
     }
 
 private:
-    std::string someName() { return "d" + std::to_string(random_() % 4); }
+    std::string someName() { return "d" + std::to_string(random_() % 2); }
 
     /// A random walk from the root as far as there are folders.
     int somewhere() {
         int at = dup(root_);
-        for (std::uint64_t depth = random_() % 10; depth > 0; --depth) {
+        for (std::uint64_t depth = random_() % 48; depth > 0; --depth) {
             const int next = openat(at, someName().c_str(), folderFlags);
             if (next < 0) break;
             close(at);
@@ -97,7 +98,7 @@ private:
 
     void build(int folder) {
         int at = dup(folder);
-        for (std::uint64_t depth = 1 + random_() % 6; depth > 0; --depth) {
+        for (std::uint64_t depth = 1 + random_() % 30; depth > 0; --depth) {
             const std::string name = someName();
             if (mkdirat(at, name.c_str(), 0755) == 0) ++done_.created;
             const int next = openat(at, name.c_str(), folderFlags);
@@ -158,18 +159,22 @@ private:
         if (unlinkat(limbo_, away.c_str(), 0) != 0) removeTreeAt(limbo_, away);
     }
 
-    /// Where a walker is inside meanwhile, the folder above it is suddenly one that is none of its business.
-    void moveAwayAndBack(int folder, const std::string& name) {
-        const std::string away = nextAway();
-        if (renameat(folder, name.c_str(), limbo_, away.c_str()) != 0) return;
-        ++done_.movedAway;
-        const int target = somewhere();
-        if (renameat(limbo_, away.c_str(), target, someName().c_str()) == 0) {
-            ++done_.renamed;
-        } else if (unlinkat(limbo_, away.c_str(), 0) != 0) {
-            removeTreeAt(limbo_, away);
+    /// Away now, and back at another time: for a walker that is inside meanwhile, the folder above is suddenly one that
+    /// is none of its business.
+    void moveAwayOrBack(int folder, const std::string& name) {
+        if (gone_.empty()) {
+            const std::string away = nextAway();
+            if (renameat(folder, name.c_str(), limbo_, away.c_str()) != 0) return;
+            gone_ = away;
+            ++done_.movedAway;
+        } else {
+            if (renameat(limbo_, gone_.c_str(), folder, name.c_str()) == 0) {
+                ++done_.renamed;
+            } else if (unlinkat(limbo_, gone_.c_str(), 0) != 0) {
+                removeTreeAt(limbo_, gone_);
+            }
+            gone_.clear();
         }
-        close(target);
     }
 
     std::string nextAway() {
@@ -183,6 +188,7 @@ private:
     Shared& done_;
     std::uint64_t acts_ = 0;
     std::uint64_t away_ = 0;
+    std::string gone_;  ///< what is away, by its name there
 };
 
 }  // namespace

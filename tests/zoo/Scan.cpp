@@ -12,13 +12,14 @@
 #include <utility>
 #include <variant>
 
+#include "fakes/Environment.h"
 #include "platform/NativePlatform.h"
 #include "scan/ScanEngine.h"
 
 namespace zelk::zoo {
 
 Scan scan(const std::vector<std::string>& roots, int workers) {
-    setenv("ZELK_WORKERS", std::to_string(workers).c_str(), 1);
+    const fakes::EnvironmentVariable setting("ZELK_WORKERS", std::to_string(workers));
     NativePlatform native;
     const auto queue = std::make_shared<UpdateQueue>();
     ScanEngine(native.platform().directories, native.platform().clock).runHere(queue, roots);
