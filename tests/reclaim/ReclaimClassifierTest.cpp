@@ -355,6 +355,14 @@ TEST_F(Classifier, aMatchedFolderOfZeroBytesIsAnItem) {
     EXPECT_EQ(items[0].size, 0U);
 }
 
+TEST_F(Classifier, aSizeBelowZeroIsNoEnormousItem) {
+    Tree tree;
+    tree.add("p/node_modules").size = -1;
+    const auto items = itemsOf(tree);
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0].size, 0U);
+}
+
 TEST_F(Classifier, itemsComeInPreOrderBehindWhatTheListHeld) {
     Tree tree;
     for (const char* below : {"b/node_modules", "a/x/__pycache__", "a/venv", "c/.next"}) tree.add(below);
