@@ -28,10 +28,6 @@ double fileSeconds(TimePoint date) {
     return near;
 }
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// "5.0" becomes "5", strings left alone. JSON knows one kind of number and other writers use it; read as a floating
 /// point number, a size above 2^53 would lose its last digits.
 QByteArray withoutEmptyFractions(std::string_view json) {
@@ -42,13 +38,12 @@ QByteArray withoutEmptyFractions(std::string_view json) {
         const char c = json[at];
         if (c == '"') inString = !inString;
         if (c == '.' && !inString) {
-            const std::size_t end = std::min(json.find_first_not_of('0', at + 1), json.size());
-            const char next = end < json.size() ? json[end] : ' ';
-            const bool empty = end > at + 1 && !isDigit(next) && next != '.' && next != 'e' && next != 'E';
-            if (empty && at > 0 && isDigit(json[at - 1])) {
-                at = end - 1;
-                continue;
-            }
+            const std::size_t end = std::min(json.find_first_not_of("0123456789.eE+-", at), json.size());
+            const std::string_view fraction = json.substr(at, end - at);
+            const bool empty = fraction.size() > 1 && fraction.find_first_not_of('0', 1) == std::string_view::npos;
+            if (!empty) out.append(fraction.data(), static_cast<qsizetype>(fraction.size()));
+            at = end - 1;
+            continue;
         }
         out += c;
         if (c == '\\' && inString && at + 1 < json.size()) out += json[++at];
