@@ -79,4 +79,20 @@ void AppModel::setVolume(std::optional<VolumeInfo> volume) {
     assign(volume_, volume, &AppModel::volumeChanged);
 }
 
+std::string_view rawValue(AppModel::Audience audience) {
+    return audience == AppModel::Audience::developer ? "Developer" : "Normal";
+}
+
+std::string_view rawValue(AppModel::Appearance appearance) {
+    switch (appearance) {
+        case AppModel::Appearance::system:
+            return "system";
+        case AppModel::Appearance::light:
+            return "light";
+        case AppModel::Appearance::dark:
+            return "dark";
+    }
+    return {};
+}
+
 }  // namespace zelk

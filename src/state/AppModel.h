@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -198,5 +199,10 @@ private:
     std::uint64_t trashMeasureShown_ = 0;  // the number of the one that the Trash fields come from
     MainThreadCalls calls_;
 };
+
+/// "Normal", "Developer".
+std::string_view rawValue(AppModel::Audience audience);
+/// "system", "light", "dark".
+std::string_view rawValue(AppModel::Appearance appearance);
 
 }  // namespace zelk

@@ -98,6 +98,14 @@ TEST_F(AppModelTest, theSelectionIsNotTouchedByAScan) {
     EXPECT_EQ(model().selection(), Screen::clutter);
 }
 
+TEST_F(AppModelTest, itsEnumerationsHaveStableTexts) {
+    EXPECT_EQ(rawValue(AppModel::Audience::normal), "Normal");
+    EXPECT_EQ(rawValue(AppModel::Audience::developer), "Developer");
+    EXPECT_EQ(rawValue(AppModel::Appearance::system), "system");
+    EXPECT_EQ(rawValue(AppModel::Appearance::light), "light");
+    EXPECT_EQ(rawValue(AppModel::Appearance::dark), "dark");
+}
+
 TEST_F(AppModelTest, tellsQmlItsFieldsAndEnumerations) {
     const QMetaObject* meta = model().metaObject();
     model().setAgeFilterDays(21);
