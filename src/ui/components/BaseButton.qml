@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// What every button of the house is: reached and pressed from the keyboard, named to a screen reader, and with a hand
+// under the pointer. How one looks is its own affair.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+
+T.AbstractButton {
+    id: button
+
+    // The name; a button that shows it writes it itself.
+    required text
+
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+
+    Accessible.role: Accessible.Button
+    Accessible.name: button.text
+    Accessible.onPressAction: button.clicked()
+
+    // A held key presses once.
+    Keys.onReturnPressed: event => {
+        if (!event.isAutoRepeat)
+            button.clicked();
+    }
+    Keys.onEnterPressed: event => {
+        if (!event.isAutoRepeat)
+            button.clicked();
+    }
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+}

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "ui/components/FigureText.h"
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace zelk {
+
+std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    double cell = 0;
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit) cell = std::max(cell, metrics.horizontalAdvance(QChar(digit)));
+
+    std::vector<FigurePiece> pieces;
+    double x = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        qsizetype end = at + 1;
+        const bool digit = text.at(at).isDigit();
+        while (!digit && end < text.size() && !text.at(end).isDigit()) ++end;
+        const QString piece = text.mid(at, end - at);
+        const double width = digit ? cell : metrics.horizontalAdvance(piece);
+        pieces.push_back({piece, x, width});
+        x += width;
+        at = end;
+    }
+    return pieces;
+}
+
+FigureText::FigureText(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    layOut();
+}
+
+void FigureText::setText(const QString& text) {
+    if (text == text_) return;
+    text_ = text;
+    layOut();
+    emit textChanged();
+}
+
+void FigureText::setColor(const QColor& color) {
+    if (color == color_) return;
+    color_ = color;
+    update();
+    emit colorChanged();
+}
+
+void FigureText::setPixelSize(int pixelSize) {
+    if (pixelSize == pixelSize_) return;
+    pixelSize_ = pixelSize;
+    layOut();
+    emit pixelSizeChanged();
+}
+
+void FigureText::setBold(bool bold) {
+    if (bold == bold_) return;
+    bold_ = bold;
+    layOut();
+    emit boldChanged();
+}
+
+QFont FigureText::font() const {
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(pixelSize_);
+    font.setWeight(bold_ ? QFont::Bold : QFont::Medium);
+    // Large and bold, the face wants its letters a little closer.
+    if (bold_) font.setLetterSpacing(QFont::AbsoluteSpacing, -0.02 * pixelSize_);
+    return font;
+}
+
+void FigureText::layOut() {
+    pieces_ = layOutFigure(text_, font());
+    const double width = pieces_.empty() ? 0 : pieces_.back().x + pieces_.back().width;
+    setImplicitSize(std::ceil(width), std::ceil(QFontMetricsF(font()).height()));
+    update();
+}
+
+void FigureText::paint(QPainter* painter) {
+    painter->setRenderHint(QPainter::TextAntialiasing);
+    painter->setFont(font());
+    painter->setPen(color_);
+    const QFontMetricsF metrics(font());
+    for (const FigurePiece& piece : pieces_) {
+        const double inset = (piece.width - metrics.horizontalAdvance(piece.text)) / 2;
+        painter->drawText(QPointF(piece.x + inset, metrics.ascent()), piece.text);
+    }
+}
+
+}  // namespace zelk

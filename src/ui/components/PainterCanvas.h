@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/components/Canvas.h"
+
+class QPainter;
+
+namespace zelk {
+
+/// Draws with a QPainter, anti-aliased. The painter must outlive it.
+class PainterCanvas : public Canvas {
+public:
+    explicit PainterCanvas(QPainter& painter);
+
+    void disc(QPointF center, double radius, const Paint& paint) override;
+    void ring(QPointF center, double radius, double width, const Paint& paint) override;
+    void arc(QPointF center, double radius, double width, double start, double span, const Paint& paint) override;
+
+private:
+    QPainter& painter_;
+};
+
+}  // namespace zelk

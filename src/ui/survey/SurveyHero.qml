@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+// The scan button and, under it, what its phase has to say. The three texts share one place, as high as the highest of
+// them, so that nothing moves when the phase does.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Survey
+import Zelk.Theme
+
+FocusScope {
+    id: hero
+
+    required property SurveyScreenModel survey
+
+    implicitHeight: column.implicitHeight
+
+    // A control that vanishes with its phase leaves the keyboard where the person goes on: at the button.
+    Connections {
+        target: hero.survey
+        function onPhaseChanged() {
+            scanButton.focus = true;
+        }
+    }
+
+    Column {
+        id: column
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        spacing: 16
+
+        ScanButton {
+            id: scanButton
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            objectName: "scanButton"
+            focus: true
+            text: hero.survey.buttonName
+            idleFace: hero.survey.idleFace
+            scanningFace: hero.survey.scanningFace
+            finishedFace: hero.survey.finishedFace
+            idle: hero.survey.idle
+            scanning: hero.survey.scanning
+            finished: hero.survey.finished
+            onClicked: hero.survey.pressScan()
+        }
+
+        Item {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            implicitHeight: Math.max(idle.implicitHeight, progress.implicitHeight, done.implicitHeight)
+
+            HeroPhase {
+                id: idle
+
+                shown: hero.survey.idle
+                spacing: 20
+
+                HeroText {
+                    text: hero.survey.idleLine
+                    font.pixelSize: 14
+                }
+
+                FlowRow {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.min(implicitWidth, idle.width)
+                    spacing: 10
+
+                    Repeater {
+                        model: hero.survey.features
+
+                        PillButton {
+                            required property int index
+                            required property string label
+
+                            text: label
+                            onClicked: hero.survey.pressFeature(index)
+                        }
+                    }
+                }
+            }
+
+            HeroPhase {
+                id: progress
+
+                shown: hero.survey.scanning
+                spacing: 4
+
+                FigureText {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: hero.survey.itemsLine
+                    color: Theme.ink
+                    pixelSize: 13
+                }
+
+                HeroText {
+                    width: Math.min(420, progress.width)
+                    text: hero.survey.pathLine
+                    font.pixelSize: 11
+                    elide: Text.ElideMiddle
+                    maximumLineCount: 1
+                }
+
+                Item {
+                    width: 1
+                    height: 8
+                }
+
+                PlainButton {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    objectName: "cancelButton"
+                    text: hero.survey.cancelLabel
+                    onClicked: hero.survey.cancel()
+                }
+            }
+
+            HeroPhase {
+                id: done
+
+                shown: hero.survey.finished
+                spacing: 0
+
+                HeroText {
+                    text: hero.survey.finishedLine
+                    font.pixelSize: 11
+                }
+            }
+        }
+    }
+}

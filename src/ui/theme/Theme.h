@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QColor>
+#include <QObject>
+#include <QPointer>
+
+#include "ui/theme/ZelkTheme.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// The theme in use, as QML reads it: one per engine. It swaps between the two fixed instances when the model's
+/// appearance changes, or the desktop's where the model says to follow it. Main thread.
+class Theme : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool isDark READ isDark NOTIFY changed FINAL)
+    Q_PROPERTY(QColor ground READ ground NOTIFY changed FINAL)
+    Q_PROPERTY(QColor groundHi READ groundHi NOTIFY changed FINAL)
+    Q_PROPERTY(QColor surface READ surface NOTIFY changed FINAL)
+    Q_PROPERTY(QColor surfaceHi READ surfaceHi NOTIFY changed FINAL)
+    Q_PROPERTY(QColor ink READ ink NOTIFY changed FINAL)
+    Q_PROPERTY(QColor inkSoft READ inkSoft NOTIFY changed FINAL)
+    Q_PROPERTY(QColor hairline READ hairline NOTIFY changed FINAL)
+    Q_PROPERTY(QColor accent READ accent NOTIFY changed FINAL)
+    Q_PROPERTY(QColor accentSoft READ accentSoft NOTIFY changed FINAL)
+    Q_PROPERTY(QColor alert READ alert NOTIFY changed FINAL)
+    Q_PROPERTY(QColor accentInk READ accentInk CONSTANT FINAL)
+
+public:
+    explicit Theme(QObject* parent = nullptr);
+
+    /// From now on `model` chooses. Until then, and when it has gone, the dark instance or the last one stays.
+    void follow(AppModel& model);
+
+    const ZelkTheme& current() const { return *current_; }
+
+    bool isDark() const { return current_->isDark; }
+    QColor ground() const { return current_->ground; }
+    QColor groundHi() const { return current_->groundHi; }
+    QColor surface() const { return current_->surface; }
+    QColor surfaceHi() const { return current_->surfaceHi; }
+    QColor ink() const { return current_->ink; }
+    QColor inkSoft() const { return current_->inkSoft; }
+    QColor hairline() const { return current_->hairline; }
+    QColor accent() const { return current_->accent; }
+    QColor accentSoft() const { return current_->accentSoft; }
+    QColor alert() const { return current_->alert; }
+    QColor accentInk() const { return AccentGradient::ink(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    void changed();
+
+private:
+    void choose();
+
+    QPointer<AppModel> model_;
+    const ZelkTheme* current_ = &ZelkTheme::dark();
+};
+
+}  // namespace zelk

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "Camera.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QTest>
+
+namespace zelk::tour {
+
+namespace {
+
+QQuickItem* findBelow(QQuickItem& item, const QString& name) {
+    if (!item.isVisible()) return nullptr;
+    if (item.objectName() == name) return &item;
+    for (QQuickItem* child : item.childItems())
+        if (QQuickItem* found = findBelow(*child, name)) return found;
+    return nullptr;
+}
+
+bool isBlank(const QImage& picture) {
+    if (picture.isNull()) return true;
+    const QRgb first = picture.pixel(0, 0);
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixel(x, y) != first) return false;
+    return true;
+}
+
+}  // namespace
+
+void waitUntil(const std::function<bool()>& done) {
+    while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+}
+
+QQuickItem* findControl(QQuickWindow& window, const QString& name) {
+    return findBelow(*window.contentItem(), name);
+}
+
+bool clickOn(QQuickWindow& window, const QString& name) {
+    QQuickItem* item = findControl(window, name);
+    if (item == nullptr) return false;
+    const QPointF middle = item->mapToScene(item->boundingRect().center());
+    QTest::mouseMove(&window, middle.toPoint());
+    QTest::mouseClick(&window, Qt::LeftButton, {}, middle.toPoint());
+    return true;
+}
+
+void restPointer(QQuickWindow& window) {
+    QTest::mouseMove(&window, QPoint(1, 1));
+}
+
+void pressKey(QQuickWindow& window, Qt::Key key) {
+    QTest::keyClick(&window, key);
+}
+
+bool photograph(QQuickWindow& window, const QString& file) {
+    const QImage picture = window.grabWindow();
+    return !isBlank(picture) && picture.save(file, "PNG");
+}
+
+}  // namespace zelk::tour

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// tour --out DIR --root PATH [--size WxH]: runs the real window on the real file system without a display, presses its
+// buttons, and leaves one picture per phase and theme in DIR. Fails if a phase was missed. The user's own history is
+// left alone: that of the tour goes to a folder that is thrown away.
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <cstdlib>
+
+#include "PausingDirectories.h"
+#include "Tour.h"
+#include "platform/NativePlatform.h"
+#include "ui/shell/Application.h"
+
+namespace {
+
+class TourLocations : public zelk::Locations {
+public:
+    TourLocations(zelk::Locations& real, std::string support) : real_(real), support_(std::move(support)) {}
+    std::string home() override { return real_.home(); }
+    std::optional<std::string> applicationSupport() override { return support_; }
+
+private:
+    zelk::Locations& real_;
+    std::string support_;
+};
+
+QSize sizeFrom(const QString& text) {
+    const QStringList sides = text.split(u'x');
+    return sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QGuiApplication application(argc, argv);
+    zelk::dressApplication();
+
+    QCommandLineParser options;
+    options.setApplicationDescription(QStringLiteral("Takes pictures of every phase of a survey in both themes."));
+    options.addHelpOption();
+    options.addOption({QStringLiteral("out"), QStringLiteral("Folder for the pictures."), QStringLiteral("DIR")});
+    options.addOption({QStringLiteral("root"), QStringLiteral("What to survey."), QStringLiteral("PATH")});
+    options.addOption({QStringLiteral("size"), QStringLiteral("Size of the window."), QStringLiteral("WxH"),
+                       QStringLiteral("1120x720")});
+    options.process(application);
+    const QSize size = sizeFrom(options.value(QStringLiteral("size")));
+    const QString folder = options.value(QStringLiteral("out"));
+    const QString root = options.value(QStringLiteral("root"));
+    if (folder.isEmpty() || root.isEmpty() || size.isEmpty()) options.showHelp(2);
+    if (!QDir().mkpath(folder)) {
+        std::fprintf(stderr, "tour: cannot make %s\n", qPrintable(folder));
+        return EXIT_FAILURE;
+    }
+
+    const QTemporaryDir support;
+    zelk::NativePlatform native;
+    const zelk::Platform& real = native.platform();
+    zelk::tour::PausingDirectories directories(real.directories);
+    TourLocations locations(real.locations, support.path().toStdString());
+    const zelk::Platform platform{real.clock, directories, real.files, real.trash, real.vitals, locations, real.tasks};
+
+    bool complete = false;
+    {
+        zelk::AppModel app(platform);
+        app.setScanRoots({QDir(root).absolutePath().toStdString()});
+        complete = zelk::tour::Tour(app, directories, folder, size).run();
+    }
+    directories.resume();
+    const int status = complete ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (!native.drain(10)) std::_Exit(status);
+    return status;
+}
