@@ -76,6 +76,16 @@ def output(*command):
     return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout
 
 
+def du(root):
+    if sys.platform == "linux":
+        return int(output("du", "-s", "-D", "--block-size=1", "-x", root).split()[0])
+    return int(output("du", "-skxH", root).split()[0]) * 1024
+
+
+def find(root, *test):
+    return output("find", "-H", root, "-xdev", *test, "-print0").count(b"\0")
+
+
 def main():
     root = sys.argv[1]
     count = Count()
@@ -85,9 +95,9 @@ def main():
         "files": count.files,
         "folders": count.folders,
         "blocked": count.blocked,
-        "duBytes": int(output("du", "-s", "-D", "--block-size=1", "-x", root).split()[0]) - count.folder_bytes,
-        "findFiles": len(output("find", "-H", root, "-xdev", "!", "-type", "d", "-printf", "x")),
-        "findFolders": len(output("find", "-H", root, "-xdev", "-type", "d", "-printf", "x")),
+        "duBytes": du(root) - count.folder_bytes,
+        "findFiles": find(root, "!", "-type", "d"),
+        "findFolders": find(root, "-type", "d"),
     }))
 
 
