@@ -32,12 +32,13 @@ protected:
         runWhatIsThere();
     }
 
-    std::unique_ptr<AppModel> model_;
-
 private:
-    ThreadTasks tasks_;
     std::promise<void> working_;
     std::promise<void> letGo_;
+    ThreadTasks tasks_;  // used by the model to its end
+
+protected:
+    std::unique_ptr<AppModel> model_;
 };
 
 TEST_F(AppModelClassifierTest, theModelMayGo) {

@@ -127,8 +127,8 @@ private:
         note(&AppModel::emptyingTrashChanged, "emptyingTrash");
     }
 
-    std::unique_ptr<AppModel> model_;
     std::vector<std::string> signals_;
+    std::unique_ptr<AppModel> model_;
 };
 
 /// The folder at `path` in a tree; absent if it is not there.
