@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+// See Foundation/Foundation.h.
+#pragma once
+
+typedef const void* CFTypeRef;
+typedef const struct __attribute__((objc_bridge(NSArray))) __CFArray* CFArrayRef;
+typedef const struct __attribute__((objc_bridge(NSDictionary))) __CFDictionary* CFDictionaryRef;

