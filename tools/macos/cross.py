@@ -56,6 +56,8 @@ class Unit:
 
     @property
     def object(self):
+        if not self.source.is_relative_to(ROOT):
+            return self.source.with_suffix(".o")
         return CACHE / "objects" / (self.name.replace("/", "+") + ".o")
 
     def command(self):
