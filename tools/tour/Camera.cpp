@@ -36,12 +36,15 @@ QQuickItem* findControl(QQuickWindow& window, const QString& name) {
     return findBelow(*window.contentItem(), name);
 }
 
+void clickAt(QQuickWindow& window, QPointF point) {
+    QTest::mouseMove(&window, point.toPoint());
+    QTest::mouseClick(&window, Qt::LeftButton, {}, point.toPoint());
+}
+
 bool clickOn(QQuickWindow& window, const QString& name) {
     QQuickItem* item = findControl(window, name);
     if (item == nullptr) return false;
-    const QPointF middle = item->mapToScene(item->boundingRect().center());
-    QTest::mouseMove(&window, middle.toPoint());
-    QTest::mouseClick(&window, Qt::LeftButton, {}, middle.toPoint());
+    clickAt(window, item->mapToScene(item->boundingRect().center()));
     return true;
 }
 

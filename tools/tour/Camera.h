@@ -15,6 +15,9 @@ void waitUntil(const std::function<bool()>& done);
 /// The visible item with this object name, anywhere in the window; nullptr if there is none.
 QQuickItem* findControl(QQuickWindow& window, const QString& name);
 
+/// A press with the mouse at a point of the window.
+void clickAt(QQuickWindow& window, QPointF point);
+
 /// A press with the mouse in the middle of the control. False if it is not there.
 bool clickOn(QQuickWindow& window, const QString& name);
 

@@ -11,22 +11,12 @@
 #include <cstdlib>
 
 #include "PausingDirectories.h"
+#include "ScratchLocations.h"
 #include "Tour.h"
 #include "platform/NativePlatform.h"
 #include "ui/shell/Application.h"
 
 namespace {
-
-class TourLocations : public zelk::Locations {
-public:
-    TourLocations(zelk::Locations& real, std::string support) : real_(real), support_(std::move(support)) {}
-    std::string home() override { return real_.home(); }
-    std::optional<std::string> applicationSupport() override { return support_; }
-
-private:
-    zelk::Locations& real_;
-    std::string support_;
-};
 
 QSize sizeFrom(const QString& text) {
     const QStringList sides = text.split(u'x');
@@ -62,7 +52,7 @@ int main(int argc, char** argv) {
     zelk::NativePlatform native;
     const zelk::Platform& real = native.platform();
     zelk::tour::PausingDirectories directories(real.directories);
-    TourLocations locations(real.locations, support.path().toStdString());
+    zelk::tour::ScratchLocations locations(real.locations, support.path().toStdString());
     const zelk::Platform platform{real.clock, directories, real.files, real.trash, real.vitals, locations, real.tasks};
 
     bool complete = false;

@@ -12,7 +12,7 @@ namespace zelk {
 std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font) {
     const QFontMetricsF metrics(font);
     double cell = 0;
-    for (char16_t digit = u'0'; digit <= u'9'; ++digit) cell = std::max(cell, metrics.horizontalAdvance(QChar(digit)));
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit) cell += metrics.horizontalAdvance(QChar(digit)) / 10;
 
     std::vector<FigurePiece> pieces;
     double x = 0;

@@ -19,8 +19,8 @@ struct FigurePiece {
     bool operator==(const FigurePiece&) const = default;
 };
 
-/// Cuts a text into pieces that give every digit the width of the widest, so that a running figure stands still. (The
-/// fonts have such digits as a feature, which the older versions of the toolkit cannot switch on.)
+/// Cuts a text into pieces that give every digit the same width, the mean of all ten, so that a running figure stands
+/// still. (The fonts have such digits as a feature, which the older versions of the toolkit cannot switch on.)
 std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font);
 
 /// A line of text whose figures change while one looks. Its implicit size is that of the text.

@@ -39,6 +39,7 @@ BaseButton {
         ScanButtonLayer {
             id: comet
 
+            objectName: "comet"
             anchors.centerIn: parent
             kind: ScanButtonLayer.Comet
             color: Theme.accent

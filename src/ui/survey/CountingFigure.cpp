@@ -20,6 +20,7 @@ void CountingFigure::aim(std::int64_t target, double now, double duration) {
 
 std::int64_t CountingFigure::at(double now) const {
     if (settled(now)) return target_;
+    if (now <= start_) return origin_;
     const double left = (end_ - now) / (end_ - start_);
     const double way = static_cast<double>(target_) - static_cast<double>(origin_);
     return target_ - std::llround(way * left * left * left);

@@ -6,7 +6,8 @@
 #include <optional>
 
 #ifdef Q_OS_LINUX
-#include <QDBusVariant>
+Q_MOC_INCLUDE(<QDBusVariant>)
+class QDBusVariant;
 #endif
 
 namespace zelk {

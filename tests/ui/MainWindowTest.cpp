@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: MIT
+#include "ui/shell/MainWindow.h"
+
+#include <QAccessible>
+#include <QImage>
+#include <set>
+
+#include "Camera.h"
+#include "state/AppModelFixture.h"
+#include "ui/survey/SurveyScreenModel.h"
+#include "ui/theme/Motion.h"
+#include "ui/theme/ZelkTheme.h"
+
+namespace zelk {
+
+namespace {
+
+using tour::findControl;
+using tour::pressKey;
+
+class Window : public AppModelFixture {
+protected:
+    Window() {
+        fillHome();
+        addWideFolder(home + "/wide");
+    }
+    ~Window() override {
+        machine.directories.release();
+        shown_.reset();
+    }
+
+    MainWindow& shown() {
+        if (!shown_) {
+            shown_ = std::make_unique<MainWindow>(model());
+            shown_->motion().setReduced(true);
+            shown_->show();
+            runUntil([&] { return window().isExposed() && window().isActive(); });
+        }
+        return *shown_;
+    }
+    QQuickWindow& window() { return shown_->window(); }
+
+    void scanAndHold() {
+        machine.directories.hold(home + "/wide/inner");
+        model().startScan();
+        runUntil([&] { return model().itemsScanned() > 0; });
+    }
+    void finish() {
+        machine.directories.release();
+        if (model().scanPhase() != Phase::scanning) model().startScan();
+        runUntil([&] { return model().scanPhase() == Phase::finished; });
+    }
+
+    /// The names of what the Tab key comes to, in its order, from one control round to the same again.
+    std::vector<std::string> tabOrder() {
+        std::vector<std::string> names;
+        QQuickItem* first = window().activeFocusItem();
+        do {
+            names.push_back(focusName());
+            pressKey(window(), Qt::Key_Tab);
+        } while (window().activeFocusItem() != first && names.size() < 20);
+        return names;
+    }
+
+    std::string focusName() {
+        QAccessibleInterface* control = QAccessible::queryAccessibleInterface(window().activeFocusItem());
+        return control == nullptr ? std::string() : control->text(QAccessible::Name).toStdString();
+    }
+
+    void expectAllControlsNamed() {
+        int controls = 0;
+        std::vector<QQuickItem*> pending{window().contentItem()};
+        while (!pending.empty()) {
+            QQuickItem* item = pending.back();
+            pending.pop_back();
+            for (QQuickItem* child : item->childItems()) pending.push_back(child);
+            if (!item->activeFocusOnTab() || !item->isVisible()) continue;
+            ++controls;
+            QAccessibleInterface* control = QAccessible::queryAccessibleInterface(item);
+            ASSERT_NE(control, nullptr) << item->metaObject()->className();
+            EXPECT_FALSE(control->text(QAccessible::Name).isEmpty()) << item->metaObject()->className();
+            EXPECT_EQ(control->role(), QAccessible::Button) << item->metaObject()->className();
+            EXPECT_TRUE(control->state().focusable) << item->metaObject()->className();
+        }
+        EXPECT_GT(controls, 0);
+    }
+
+    /// How many different colours there are: a blank picture has one.
+    std::size_t colours() {
+        const QImage picture = window().grabWindow();
+        std::set<QRgb> seen;
+        for (int y = 0; y < picture.height(); y += 4)
+            for (int x = 0; x < picture.width(); x += 4) seen.insert(picture.pixel(x, y));
+        return seen.size();
+    }
+
+private:
+    std::unique_ptr<MainWindow> shown_;
+};
+
+}  // namespace
+
+TEST_F(Window, isCalledZelkAndHasItsLeastSize) {
+    EXPECT_EQ(shown().window().title(), QStringLiteral("Zelk"));
+    EXPECT_EQ(window().minimumWidth(), 960);
+    EXPECT_EQ(window().minimumHeight(), 620);
+    EXPECT_GE(window().width(), 960);
+    EXPECT_GE(window().height(), 620);
+}
+
+TEST_F(Window, startsNoSurveyByItself) {
+    shown();
+    runWhatIsThere();
+    EXPECT_EQ(model().scanPhase(), Phase::idle);
+}
+
+TEST_F(Window, givesTheScanButtonTheKeyboard) {
+    shown();
+    ASSERT_NE(window().activeFocusItem(), nullptr);
+    EXPECT_EQ(window().activeFocusItem()->objectName(), QStringLiteral("scanButton"));
+}
+
+TEST_F(Window, tabGoesFromTheButtonToTheFeatures) {
+    shown();
+    EXPECT_EQ(tabOrder(), (std::vector<std::string>{"Scan your whole Mac", "Reclaim junk", "Find duplicates",
+                                                    "Largest files", "Visual map"}));
+}
+
+TEST_F(Window, tabGoesFromTheButtonToCancelDuringASurvey) {
+    shown();
+    scanAndHold();
+    EXPECT_EQ(tabOrder(), (std::vector<std::string>{"scanning…", "cancel"}));
+}
+
+TEST_F(Window, namesAllItsControlsInEveryPhase) {
+    shown();
+    expectAllControlsNamed();
+    scanAndHold();
+    expectAllControlsNamed();
+    finish();
+    expectAllControlsNamed();
+}
+
+TEST_F(Window, showsWhereTheKeyboardIs) {
+    shown();
+    pressKey(window(), Qt::Key_Tab);
+    QQuickItem* pill = window().activeFocusItem();
+    ASSERT_NE(pill, nullptr);
+    EXPECT_TRUE(pill->property("visualFocus").toBool());
+    bool ringed = false;
+    std::vector<QQuickItem*> pending{pill};
+    while (!pending.empty()) {
+        QQuickItem* item = pending.back();
+        pending.pop_back();
+        for (QQuickItem* child : item->childItems()) pending.push_back(child);
+        if (QByteArray(item->metaObject()->className()).startsWith("FocusRing")) ringed |= item->isVisible();
+    }
+    EXPECT_TRUE(ringed);
+}
+
+TEST_F(Window, keepsTheKeyboardOnTheButtonWhenTheFocusedControlGoes) {
+    shown();
+    scanAndHold();
+    pressKey(window(), Qt::Key_Tab);
+    EXPECT_EQ(focusName(), "cancel");
+    pressKey(window(), Qt::Key_Space);
+    EXPECT_EQ(model().scanPhase(), Phase::idle);
+    EXPECT_EQ(focusName(), "Scan your whole Mac");
+}
+
+TEST_F(Window, pressesAFeatureWithTheKeyboard) {
+    shown();
+    pressKey(window(), Qt::Key_Tab);
+    pressKey(window(), Qt::Key_Tab);
+    pressKey(window(), Qt::Key_Return);
+    EXPECT_EQ(model().selection(), Screen::duplicates);
+}
+
+TEST_F(Window, hasSomethingToShowInEveryPhaseAndTheme) {
+    shown();
+    for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
+        model().setAppearance(appearance);
+        model().cancelScan();
+        EXPECT_GT(colours(), 100U);
+        scanAndHold();
+        EXPECT_GT(colours(), 100U);
+        finish();
+        EXPECT_GT(colours(), 100U);
+    }
+}
+
+TEST_F(Window, hasTheThemesGroundBehindEverything) {
+    shown();
+    const auto bottomLeft = [&] {
+        const QImage picture = window().grabWindow();
+        return picture.pixelColor(0, picture.height() - 1);
+    };
+    EXPECT_NEAR(bottomLeft().lightness(), ZelkTheme::dark().ground.lightness(), 2);
+    model().setAppearance(AppModel::Appearance::light);
+    EXPECT_NEAR(bottomLeft().lightness(), ZelkTheme::light().ground.lightness(), 2);
+}
+
+TEST_F(Window, movesNothingButTheCometFromPhaseToPhase) {
+    shown();
+    const QPointF before = findControl(window(), QStringLiteral("scanButton"))->mapToScene({});
+    scanAndHold();
+    EXPECT_EQ(findControl(window(), QStringLiteral("scanButton"))->mapToScene({}), before);
+    finish();
+    window().grabWindow();
+    EXPECT_EQ(findControl(window(), QStringLiteral("scanButton"))->mapToScene({}), before);
+}
+
+TEST_F(Window, keepsEverythingInSightAtItsLeastSize) {
+    shown();
+    window().resize(960, 620);
+    window().grabWindow();
+    std::vector<QQuickItem*> pending{window().contentItem()};
+    const QRectF bounds(0, 0, 960, 620);
+    while (!pending.empty()) {
+        QQuickItem* item = pending.back();
+        pending.pop_back();
+        for (QQuickItem* child : item->childItems()) pending.push_back(child);
+        if (item->activeFocusOnTab() && item->isVisible()) {
+            EXPECT_TRUE(bounds.contains(item->mapRectToScene(item->boundingRect()))) << focusName();
+        }
+    }
+}
+
+TEST_F(Window, turnsTheCometOnlyWhereMotionIsWanted) {
+    shown();
+    scanAndHold();
+    // An animator moves what is drawn and not the item: look at the top of the ring, where the comet's head rests.
+    const QQuickItem* comet = findControl(window(), QStringLiteral("comet"));
+    ASSERT_NE(comet, nullptr);
+    const QRect top = comet->mapRectToScene(QRectF(comet->width() / 2 - 6, 0, 12, 14)).toRect();
+    const auto drawn = [&] { return window().grabWindow().copy(top); };
+    const QImage atRest = drawn();
+    runWhatIsThere();
+    EXPECT_EQ(drawn(), atRest);
+    shown().motion().setReduced(false);
+    runUntil([&] { return drawn() != atRest; });
+}
+
+}  // namespace zelk

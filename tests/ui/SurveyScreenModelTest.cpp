@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "ui/survey/SurveyScreenModel.h"
+
+#include <QElapsedTimer>
+#include <array>
+
+#include "state/AppModelFixture.h"
+
+namespace zelk {
+
+namespace {
+
+class SurveyScreen : public AppModelFixture {
+protected:
+    ~SurveyScreen() override {
+        machine.directories.release();
+        screen_.reset();
+    }
+
+    SurveyScreenModel& screen() {
+        if (!screen_) {
+            screen_ = std::make_unique<SurveyScreenModel>(model());
+            screen_->setCounting(false);
+        }
+        return *screen_;
+    }
+
+    /// A survey that stands still behind its first report of progress.
+    void beginAndHold() {
+        addWideFolder(home + "/wide");
+        machine.directories.hold(home + "/wide/inner");
+        screen().pressScan();
+        runUntil([&] { return model().itemsScanned() > 0; });
+    }
+
+    void finishSurvey() {
+        screen().pressScan();
+        runUntil([&] { return model().scanPhase() == Phase::finished; });
+    }
+
+    std::string item(int row, const char* role) {
+        FeatureList& list = *screen().features();
+        return list.data(list.index(row), list.roleNames().key(role)).toString().toStdString();
+    }
+
+private:
+    std::unique_ptr<SurveyScreenModel> screen_;
+};
+
+}  // namespace
+
+TEST_F(SurveyScreen, idleInvitesToScan) {
+    EXPECT_TRUE(screen().idle());
+    EXPECT_FALSE(screen().scanning());
+    EXPECT_FALSE(screen().finished());
+    EXPECT_EQ(screen().idleFace(), ScanFace::idle());
+    EXPECT_EQ(screen().idleLine(), QStringLiteral("Scan every corner of your drive in seconds."));
+    EXPECT_EQ(screen().buttonName(), QStringLiteral("Scan your whole Mac"));
+}
+
+TEST_F(SurveyScreen, offersTheFourFeaturesInOrder) {
+    ASSERT_EQ(screen().features()->rowCount(), 4);
+    EXPECT_EQ(item(0, "symbol"), "sparkles");
+    EXPECT_EQ(item(0, "label"), "Reclaim junk");
+    EXPECT_EQ(item(1, "symbol"), "doc.on.doc");
+    EXPECT_EQ(item(1, "label"), "Find duplicates");
+    EXPECT_EQ(item(2, "symbol"), "tray.full");
+    EXPECT_EQ(item(2, "label"), "Largest files");
+    EXPECT_EQ(item(3, "symbol"), "circle.hexagongrid");
+    EXPECT_EQ(item(3, "label"), "Visual map");
+}
+
+TEST_F(SurveyScreen, aFeatureLeadsToItsModule) {
+    const std::array expected{Screen::reclaim, Screen::duplicates, Screen::clutter, Screen::lens};
+    for (int row = 0; row < 4; ++row) {
+        screen().pressFeature(row);
+        EXPECT_EQ(model().selection(), expected[static_cast<std::size_t>(row)]);
+    }
+    screen().pressFeature(4);
+    screen().pressFeature(-1);
+    EXPECT_EQ(model().selection(), Screen::lens) << "there is no fifth feature";
+}
+
+TEST_F(SurveyScreen, scanningShowsItemsBytesAndThePath) {
+    beginAndHold();
+    runUntil([&] { return screen().itemsLine() != QStringLiteral("0 items"); });
+    EXPECT_TRUE(screen().scanning());
+    EXPECT_EQ(screen().itemsLine(), groupedFigure(model().itemsScanned()) + QStringLiteral(" items"));
+    EXPECT_TRUE(screen().itemsLine().startsWith(QStringLiteral("20,0"))) << screen().itemsLine().toStdString();
+    EXPECT_EQ(screen().scanningFace(), ScanFace::scanning(model().bytesScanned()));
+    EXPECT_EQ(screen().pathLine(), QStringLiteral("/home/me/wide"));
+    EXPECT_EQ(screen().cancelLabel(), QStringLiteral("cancel"));
+    EXPECT_EQ(screen().buttonName(), QStringLiteral("scanning…"));
+}
+
+TEST_F(SurveyScreen, beginsWithThePathOfTheRootAndNoItems) {
+    machine.directories.hold(home);
+    screen().pressScan();
+    EXPECT_TRUE(screen().scanning());
+    EXPECT_EQ(screen().itemsLine(), QStringLiteral("0 items"));
+    EXPECT_EQ(screen().scanningFace().title, QStringLiteral("0 bytes"));
+    EXPECT_EQ(screen().pathLine(), QStringLiteral("/home/me"));
+}
+
+TEST_F(SurveyScreen, beginsAgainAtNothingAfterASurvey) {
+    fillHome();
+    finishSurvey();
+    machine.directories.hold(home);
+    std::vector<QString> lines;
+    QObject::connect(&screen(), &SurveyScreenModel::figuresChanged, &screen(),
+                     [&] { lines.push_back(screen().itemsLine()); });
+    screen().pressScan();
+    for (const QString& line : lines) EXPECT_EQ(line, QStringLiteral("0 items"));
+    EXPECT_FALSE(lines.empty());
+}
+
+TEST_F(SurveyScreen, shortensALongPathAndShowsWhatCannotBeRead) {
+    const std::string folder = home + "/\xFF-" + std::string(70, 'x');
+    addWideFolder(folder);
+    machine.directories.hold(folder + "/inner");
+    screen().pressScan();
+    runUntil([&] { return model().itemsScanned() > 0; });
+    runUntil([&] { return screen().pathLine().startsWith(u'…'); });
+    EXPECT_EQ(screen().pathLine(), QStringLiteral("…") + QString(55, u'x'));
+}
+
+TEST_F(SurveyScreen, finishedShowsWhatIsRecoverable) {
+    fillHome();
+    finishSurvey();
+    EXPECT_TRUE(screen().finished());
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("60 MB"));
+    EXPECT_EQ(screen().finishedLine(), QStringLiteral("Tap to scan again · details below"));
+    EXPECT_EQ(screen().buttonName(), QStringLiteral("60 MB recoverable, re-run"));
+}
+
+TEST_F(SurveyScreen, finishedWithNothingToReclaimShowsZeroBytes) {
+    finishSurvey();
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("0 bytes"));
+}
+
+TEST_F(SurveyScreen, countsUpToWhatIsRecoverableButNamesItAtOnce) {
+    fillHome();
+    screen().setCounting(true);
+    QString firstTitle;
+    QObject::connect(&screen(), &SurveyScreenModel::phaseChanged, &screen(), [&] {
+        if (screen().finished()) firstTitle = screen().finishedFace().title;
+    });
+    finishSurvey();
+    EXPECT_EQ(screen().buttonName(), QStringLiteral("60 MB recoverable, re-run"));
+    EXPECT_NE(firstTitle, QStringLiteral("60 MB"));
+    runUntil([&] { return screen().finishedFace().title == QStringLiteral("60 MB"); });
+}
+
+TEST_F(SurveyScreen, countsUpToTheItemsThatWereScanned) {
+    screen().setCounting(true);
+    beginAndHold();
+    const QString line = groupedFigure(model().itemsScanned()) + QStringLiteral(" items");
+    EXPECT_NE(screen().itemsLine(), line);
+    runUntil([&] { return screen().itemsLine() == line; });
+}
+
+TEST_F(SurveyScreen, followsWhatBecomesOfTheResults) {
+    fillHome();
+    finishSurvey();
+    const NodeRef modules = folderAt(model().root(), home + "/projects/app/node_modules");
+    ASSERT_TRUE(modules);
+    model().removeFromTree(*modules);
+    runUntil([&] { return screen().finishedFace().title == QStringLiteral("50 MB"); });
+}
+
+TEST_F(SurveyScreen, changesItsTextsAFewTimesASecondHoweverOftenASurveyReports) {
+    for (int folder = 0; folder < 40; ++folder) addWideFolder(home + "/" + std::to_string(folder));
+    int changes = 0;
+    QObject::connect(&screen(), &SurveyScreenModel::figuresChanged, &screen(), [&] { ++changes; });
+    QElapsedTimer clock;
+    clock.start();
+    finishSurvey();
+    // Two at the change of each phase, one at the first report after a rest, and then one to a tick.
+    const auto allowed = 6 + clock.elapsed() / 80;
+    EXPECT_LE(changes, allowed);
+}
+
+TEST_F(SurveyScreen, pressingScanDuringASurveyDoesNothing) {
+    beginAndHold();
+    const std::int64_t items = model().itemsScanned();
+    screen().pressScan();
+    EXPECT_TRUE(screen().scanning());
+    EXPECT_EQ(model().itemsScanned(), items);
+}
+
+TEST_F(SurveyScreen, cancelGoesBackToIdle) {
+    beginAndHold();
+    screen().cancel();
+    EXPECT_TRUE(screen().idle());
+    EXPECT_EQ(screen().buttonName(), QStringLiteral("Scan your whole Mac"));
+}
+
+TEST_F(SurveyScreen, shownInMidSurveyHasItsFigures) {
+    beginAndHold();
+    SurveyScreenModel late(model());
+    late.setCounting(false);
+    EXPECT_TRUE(late.scanning());
+    const QString line = groupedFigure(model().itemsScanned()) + QStringLiteral(" items");
+    runUntil([&] { return late.itemsLine() == line; });
+    EXPECT_EQ(late.pathLine(), QStringLiteral("/home/me/wide"));
+}
+
+}  // namespace zelk
