@@ -65,6 +65,11 @@ struct Position {
     }
 };
 
+/// Not one of the sanitizers' own, which write into pipes to learn whether memory is there.
+bool writesTheHistory(const Position& position) {
+    return position.call == "write" && position.line.find("\"[{") != std::string::npos;
+}
+
 class HistoryDurability : public testing::Test {
 protected:
     /// Puts `old` into an otherwise empty folder.
@@ -136,7 +141,8 @@ TEST_F(HistoryDurability, anAddedRecordIsFlushedWithItsFolder) {
     EXPECT_EQ(stored(), added);
     std::string order;
     for (const Position& position : all) {
-        for (const char* call : {"write", "fsync", "rename"}) {
+        if (writesTheHistory(position)) order += "write ";
+        for (const char* call : {"fsync", "rename"}) {
             if (position.call.starts_with(call)) order += std::string(call) + " ";
         }
     }
@@ -164,7 +170,7 @@ TEST_F(HistoryDurability, anErrorOfAnyCallLeavesTheOldOrTheNewHistory) {
 
 TEST_F(HistoryDurability, aFailedWriteOrFlushLeavesTheOldHistory) {
     for (const Position& position : positions()) {
-        const bool ofTheFile = position.line.find("zelk-write") != std::string::npos || position.call == "write";
+        const bool ofTheFile = position.line.find("zelk-write") != std::string::npos || writesTheHistory(position);
         if (!ofTheFile) continue;
         SCOPED_TRACE(position.line);
         prepare();
@@ -214,7 +220,7 @@ TEST_F(HistoryDurability, aTemporaryFileThatCannotBeRemovedIsSweptByTheNextRecor
         prepare();
         std::string write;
         for (const Position& position : positions()) {
-            if (position.call == "write") write = position.injection("error=ENOSPC");
+            if (writesTheHistory(position)) write = position.injection("error=ENOSPC");
         }
         prepare();
         runTraced({write, "inject=unlinkat:" + std::string(then)});
