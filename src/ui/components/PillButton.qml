@@ -12,7 +12,7 @@ BaseButton {
     required property string symbol
     required property color tint
 
-    implicitWidth: content.implicitWidth + leftPadding + rightPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 36
     leftPadding: 14
     rightPadding: 16
@@ -41,15 +41,10 @@ BaseButton {
         }
     }
 
-    contentItem: Item {
-        id: content
-
-        implicitWidth: symbolItem.width + 8 + label.implicitWidth
-        implicitHeight: label.implicitHeight
+    contentItem: Row {
+        spacing: 8
 
         SymbolItem {
-            id: symbolItem
-
             anchors.verticalCenter: parent.verticalCenter
             name: pill.symbol
             color: pill.tint
@@ -57,9 +52,6 @@ BaseButton {
         }
 
         Text {
-            id: label
-
-            anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             text: pill.text
             color: Theme.ink

@@ -8,7 +8,7 @@ import Zelk.Theme
 BaseButton {
     id: plain
 
-    implicitWidth: label.implicitWidth + leftPadding + rightPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 32
     leftPadding: 16
     rightPadding: 16
@@ -33,8 +33,6 @@ BaseButton {
     }
 
     contentItem: Text {
-        id: label
-
         text: plain.text
         color: plain.hovered || plain.visualFocus ? Theme.ink : Theme.inkSoft
         font.pixelSize: 12

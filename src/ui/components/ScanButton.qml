@@ -20,96 +20,94 @@ BaseButton {
     implicitHeight: glow.implicitHeight
     containmentMask: glow
 
-    contentItem: Item {
-        ScanButtonLayer {
-            id: glow
+    ScanButtonLayer {
+        id: glow
 
-            anchors.centerIn: parent
-            kind: ScanButtonLayer.Glow
-            color: Theme.accent
-            scale: button.hovered && !button.scanning ? 1.05 : 1
-            Behavior on scale {
-                NumberAnimation {
-                    duration: Motion.gentle
-                    easing.type: Easing.OutCubic
-                }
+        anchors.centerIn: parent
+        kind: ScanButtonLayer.Glow
+        color: Theme.accent
+        scale: button.hovered && !button.scanning ? 1.05 : 1
+        Behavior on scale {
+            NumberAnimation {
+                duration: Motion.gentle
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+
+    ScanButtonLayer {
+        id: comet
+
+        objectName: "comet"
+        anchors.centerIn: parent
+        kind: ScanButtonLayer.Comet
+        color: Theme.accent
+        opacity: button.scanning ? 1 : 0
+        visible: opacity > 0
+        Behavior on opacity {
+            NumberAnimation {
+                duration: Motion.gentle
+            }
+        }
+
+        RotationAnimator on rotation {
+            from: 0
+            to: 360
+            duration: Motion.turn
+            loops: Animation.Infinite
+            running: comet.visible && !Motion.reduced
+        }
+    }
+
+    Item {
+        anchors.fill: parent
+        scale: button.down && !button.scanning ? 0.97 : 1
+        Behavior on scale {
+            NumberAnimation {
+                duration: Motion.quick
             }
         }
 
         ScanButtonLayer {
-            id: comet
+            id: disc
 
-            objectName: "comet"
             anchors.centerIn: parent
-            kind: ScanButtonLayer.Comet
-            color: Theme.accent
-            opacity: button.scanning ? 1 : 0
-            visible: opacity > 0
+            kind: ScanButtonLayer.Disc
+        }
+
+        ScanButtonLayer {
+            anchors.centerIn: parent
+            kind: ScanButtonLayer.Sheen
+            opacity: button.hovered && !button.scanning ? 1 : 0
             Behavior on opacity {
-                NumberAnimation {
-                    duration: Motion.gentle
-                }
-            }
-
-            RotationAnimator on rotation {
-                from: 0
-                to: 360
-                duration: Motion.turn
-                loops: Animation.Infinite
-                running: comet.visible && !Motion.reduced
-            }
-        }
-
-        Item {
-            anchors.fill: parent
-            scale: button.down && !button.scanning ? 0.97 : 1
-            Behavior on scale {
                 NumberAnimation {
                     duration: Motion.quick
                 }
             }
-
-            ScanButtonLayer {
-                id: disc
-
-                anchors.centerIn: parent
-                kind: ScanButtonLayer.Disc
-            }
-
-            ScanButtonLayer {
-                anchors.centerIn: parent
-                kind: ScanButtonLayer.Sheen
-                opacity: button.hovered && !button.scanning ? 1 : 0
-                Behavior on opacity {
-                    NumberAnimation {
-                        duration: Motion.quick
-                    }
-                }
-            }
-
-            ScanButtonFace {
-                face: button.idleFace
-                shown: button.idle
-            }
-            ScanButtonFace {
-                face: button.scanningFace
-                shown: button.scanning
-            }
-            ScanButtonFace {
-                face: button.finishedFace
-                shown: button.finished
-            }
         }
 
-        Item {
-            anchors.centerIn: parent
-            width: disc.width
-            height: disc.height
+        ScanButtonFace {
+            face: button.idleFace
+            shown: button.idle
+        }
+        ScanButtonFace {
+            face: button.scanningFace
+            shown: button.scanning
+        }
+        ScanButtonFace {
+            face: button.finishedFace
+            shown: button.finished
+        }
+    }
 
-            FocusRing {
-                shown: button.visualFocus
-                corner: disc.height / 2
-            }
+    Item {
+        anchors.centerIn: parent
+        width: disc.width
+        height: disc.height
+
+        FocusRing {
+            shown: button.visualFocus
+            corner: disc.height / 2
         }
     }
 }

@@ -48,7 +48,7 @@ FocusScope {
     }
 
     Shortcut {
-        sequences: [StandardKey.Cancel]
+        sequence: "Escape"
         enabled: view.survey.scanning
         onActivated: view.survey.cancel()
     }
