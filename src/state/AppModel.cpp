@@ -23,8 +23,8 @@ void releaseOn(BackgroundTasks& tasks, T value) {
 AppModel::AppModel(Platform platform, QObject* parent)
     : QObject(parent),
       platform_(platform),
-      historyFile_(platform.files, platform.locations),
-      history_(historyFile_.load()),
+      historyFile_(std::make_shared<SurveyHistory>(platform.files, platform.locations)),
+      history_(historyFile_->load()),
       home_(platform.locations.home()),
       device_(platform.vitals.device()) {
     scanRoots_ = {home_};

@@ -151,8 +151,11 @@ private:
     void finish(const std::shared_ptr<ScanTask>& task, update::Finished finished);
     void classify(const std::shared_ptr<ScanTask>& task);
     void completeFinish(const std::shared_ptr<ScanTask>& task, std::vector<Reclaimable> items);
+    void removeWhatWaited(ScanTask& task);
     void withdraw(ScanTask& task);
-    void recordSurvey(std::int64_t total, const FSNode& tree);
+    void recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t total, const NodeRef& tree);
+    void forgetSurvey(SurveyRecord record);
+    void conclude(const std::shared_ptr<ScanTask>& task, std::vector<SurveyRecord> history);
     void settleTrash();
     void takeTrashMeasure(std::uint64_t number, std::optional<std::uint64_t> bytes);
     void setReclaimables(std::vector<Reclaimable> items);
@@ -169,7 +172,7 @@ private:
     }
 
     Platform platform_;
-    SurveyHistory historyFile_;
+    std::shared_ptr<SurveyHistory> historyFile_;  // shared with the task that writes it
 
     Appearance appearance_ = Appearance::dark;
     Audience audience_ = Audience::normal;

@@ -107,15 +107,14 @@ void AppModel::removeFromTree(FSNode& node) {
     FSNode* parent = node.parent();
     if (parent == nullptr) return;
     const FSNode& top = topOf(node);
-    const bool classifying = scanTask_ != nullptr && scanTask_->before;
-    if (classifying && root_ == &top) {
+    if (scanTask_ != nullptr && scanTask_->treeIsRead && root_ == &top) {
         scanTask_->removals.emplace_back(&node);
         return;
     }
     const std::string path = node.fullPath();
     // A screen may still hold a node of a tree that has been replaced. Its folder is gone from the disk all the same,
     // but that tree is shown nowhere any more, and the classifier of a cancelled survey may be reading it.
-    if (root_ == &top || (classifying && scanTask_->before->root == &top)) {
+    if (root_ == &top || (scanTask_ != nullptr && scanTask_->before && scanTask_->before->root == &top)) {
         NodeRef removed(&node);
         for (FSNode* above = parent; above != nullptr; above = above->parent()) above->size -= node.size;
         parent->remove(node);

@@ -46,6 +46,7 @@ void AppModel::cancelScan() {
 
 /// After a cancel nothing is left of the survey, and what was there before it is there again.
 void AppModel::withdraw(ScanTask& task) {
+    task.cancelled->set();
     if (const auto before = std::exchange(task.before, std::nullopt)) {
         releaseElsewhere(std::exchange(root_, before->root));
         emit rootChanged();
@@ -109,6 +110,7 @@ void AppModel::classify(const std::shared_ptr<ScanTask>& task) {
             if (const auto awaited = waiting.lock()) completeFinish(awaited, std::move(items));
         });
     };
+    task->treeIsRead = true;
     platform_.tasks.run(TaskPriority::standard, std::move(work));
 }
 
@@ -116,21 +118,22 @@ void AppModel::completeFinish(const std::shared_ptr<ScanTask>& task, std::vector
     if (scanTask_ != task) return;
     setReclaimables(std::move(items));
     if (scanTask_ != task) return;
-    task->counts = true;
-    releaseElsewhere(std::exchange(task->before, std::nullopt)->root);
-    for (NodeRef& node : std::exchange(task->removals, {})) {
+    removeWhatWaited(*task);
+    if (scanTask_ == task) recordSurvey(task, root_->size, root_);
+}
+
+/// No other thread reads the tree any more.
+void AppModel::removeWhatWaited(ScanTask& task) {
+    task.treeIsRead = false;
+    for (NodeRef& node : std::exchange(task.removals, {})) {
         removeFromTree(*node);
         releaseElsewhere(std::move(node));
     }
-    if (scanTask_ != task) return;
-    recordSurvey(root_->size, *root_);
-    if (scanTask_ != task) return;
-    settleTrash();
-    if (scanTask_ != task) return;
-    assign(scanPhase_, ScanPhase::finished, &AppModel::scanPhaseChanged);
 }
 
-void AppModel::recordSurvey(std::int64_t total, const FSNode& tree) {
+/// The record is made here and kept elsewhere: reading and encoding a full history and flushing it to the disk take
+/// long enough to be seen as a jerk in the last frame of a survey.
+void AppModel::recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t total, const NodeRef& tree) {
     SurveyRecord record;
     record.date = platform_.clock.now();
     record.totalScanned = total;
@@ -141,8 +144,39 @@ void AppModel::recordSurvey(std::int64_t total, const FSNode& tree) {
     record.reclaimable = reclaimableBytes();
     for (const FileType type : allFileTypes)
         if (insights_.typeTotals.contains(type)) record.types.emplace(rawValue(type), insights_.typeTotals[type].bytes);
-    record.folders = bigFolders(tree, 20'000'000, 400);
-    assign(history_, historyFile_.append(record), &AppModel::historyChanged);
+
+    auto work = [this, sender = calls_.sender(), waiting = std::weak_ptr(task), cancelled = task->cancelled,
+                 file = historyFile_, tree, record]() mutable {
+        record.folders = bigFolders(*tree, 20'000'000, 400);
+        auto history = file->appendIf([&] { return !cancelled->isSet(); }, record);
+        if (!history) return;
+        sender.post([this, waiting, cancelled, record = std::move(record), history = std::move(*history)]() mutable {
+            if (cancelled->isSet())
+                forgetSurvey(std::move(record));
+            else if (const auto awaited = waiting.lock())
+                conclude(awaited, std::move(history));
+        });
+    };
+    task->treeIsRead = true;
+    platform_.tasks.run(TaskPriority::standard, std::move(work));
+}
+
+/// A cancel that came while the record was being written leaves none all the same.
+void AppModel::forgetSurvey(SurveyRecord record) {
+    platform_.tasks.run(TaskPriority::utility,
+                        [file = historyFile_, record = std::move(record)] { file->remove(record); });
+}
+
+void AppModel::conclude(const std::shared_ptr<ScanTask>& task, std::vector<SurveyRecord> history) {
+    if (scanTask_ != task) return;
+    task->counts = true;
+    assign(history_, std::move(history), &AppModel::historyChanged);
+    releaseElsewhere(std::exchange(task->before, std::nullopt)->root);
+    removeWhatWaited(*task);
+    if (scanTask_ != task) return;
+    settleTrash();
+    if (scanTask_ != task) return;
+    assign(scanPhase_, ScanPhase::finished, &AppModel::scanPhaseChanged);
 }
 
 }  // namespace zelk

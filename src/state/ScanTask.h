@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "scan/CancelFlag.h"
 #include "scan/UpdateQueue.h"
 #include "state/AppModel.h"
 
@@ -14,7 +15,8 @@ namespace zelk {
 /// nothing.
 ///
 ///     updates arrive ──Finished──> `before` is set: the classifier reads the new tree
-///                    ──its items──> `before` is empty, `counts` is true: the survey can no longer be withdrawn
+///                    ──its items──> the record is being kept, the tree still read
+///                    ──history──> `before` is empty, `counts` is true: the survey can no longer be withdrawn
 struct AppModel::ScanTask {
     /// What the survey before left, for a cancel to put back.
     struct Before {
@@ -26,7 +28,10 @@ struct AppModel::ScanTask {
     bool reading = false;  ///< a batch is being worked through, perhaps under an event loop inside a handler
     std::optional<Before> before;
     bool counts = false;
-    std::vector<NodeRef> removals;  ///< taken out of the tree as soon as the classifier has left it
+    /// Shared with the task that keeps the record, which may be at it when the survey is withdrawn.
+    std::shared_ptr<CancelFlag> cancelled = std::make_shared<CancelFlag>();
+    bool treeIsRead = false;  ///< by the classifier, or for the record
+    std::vector<NodeRef> removals;  ///< taken out of the tree as soon as no other thread reads it
 };
 
 }  // namespace zelk

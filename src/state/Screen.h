@@ -21,8 +21,8 @@ enum class Screen {
     settings,
 };
 
-inline constexpr std::array allScreens{Screen::survey,     Screen::reclaim, Screen::privacy, Screen::tune,
-                                       Screen::apps,       Screen::clutter, Screen::duplicates, Screen::lens,
-                                       Screen::health,     Screen::system,  Screen::tools,   Screen::settings};
+inline constexpr std::array allScreens{Screen::survey, Screen::reclaim, Screen::privacy,    Screen::tune,
+                                       Screen::apps,   Screen::clutter, Screen::duplicates, Screen::lens,
+                                       Screen::health, Screen::system,  Screen::tools,      Screen::settings};
 
 }  // namespace zelk

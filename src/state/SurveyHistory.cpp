@@ -154,11 +154,27 @@ std::vector<SurveyRecord> SurveyHistory::load() const {
 }
 
 std::vector<SurveyRecord> SurveyHistory::append(const SurveyRecord& record) const {
+    return *appendIf([] { return true; }, record);
+}
+
+std::optional<std::vector<SurveyRecord>> SurveyHistory::appendIf(const std::function<bool()>& stillWanted,
+                                                                 const SurveyRecord& record) const {
+    const std::lock_guard lock(writing_);
     std::vector<SurveyRecord> records = load();
     records.push_back(record);
     if (records.size() > maximumRecords) records.erase(records.begin(), records.end() - maximumRecords);
-    if (const std::optional<std::string> path = location()) files_.replaceDurably(*path, encodeHistory(records));
+    const std::string json = encodeHistory(records);
+    const std::optional<std::string> path = location();
+    if (!stillWanted()) return std::nullopt;
+    if (path) files_.replaceDurably(*path, json);
     return records;
+}
+
+void SurveyHistory::remove(const SurveyRecord& record) const {
+    const std::lock_guard lock(writing_);
+    std::vector<SurveyRecord> records = load();
+    const std::optional<std::string> path = location();
+    if (path && std::erase(records, record) != 0) files_.replaceDurably(*path, encodeHistory(records));
 }
 
 }  // namespace zelk

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,7 +21,7 @@ std::optional<std::vector<SurveyRecord>> decodeHistory(std::string_view json);
 std::string encodeHistory(const std::vector<SurveyRecord>& records);
 
 /// The last surveys, kept in one small file. The file is the source of truth: every append reads it afresh. All its
-/// failures are silent: an unreadable file is an empty history.
+/// failures are silent: an unreadable file is an empty history. Safe from any thread.
 class SurveyHistory {
 public:
     static constexpr std::size_t maximumRecords = 60;
@@ -32,10 +34,16 @@ public:
     /// Adds `record`, drops the oldest above the maximum, writes, and gives the whole list whether or not the write
     /// succeeded.
     std::vector<SurveyRecord> append(const SurveyRecord& record) const;
+    /// The same, but asks at the last moment before the write; if not, nothing is written nor given.
+    std::optional<std::vector<SurveyRecord>> appendIf(const std::function<bool()>& stillWanted,
+                                                      const SurveyRecord& record) const;
+    /// Takes one record out again. Of a full history the oldest one, which made room for it, does not come back.
+    void remove(const SurveyRecord& record) const;
 
 private:
     FileManager& files_;
     Locations& locations_;
+    mutable std::mutex writing_;  // held from the reading of the file to the end of its writing
 };
 
 }  // namespace zelk

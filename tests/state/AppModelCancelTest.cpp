@@ -137,6 +137,41 @@ TEST_F(AppModelCancelTest, whenTheItemsHaveJustArrived) {
     cancelInHandler(&AppModel::reclaimablesChanged, [&] { return !model().reclaimables().empty(); });
 }
 
+TEST_F(AppModelCancelTest, beforeTheRecordIsWritten) {
+    surveyBefore();
+    surveyUpToClassification();
+    classifyUpToTheRecord();
+    model().cancelScan();
+    expectNothingLeftForGood();
+}
+
+TEST_F(AppModelCancelTest, whileTheRecordIsBeingWritten) {
+    surveyBefore();
+    surveyUpToClassification();
+    classifyUpToTheRecord();
+    bool cancelled = false;
+    machine.files.failing = [&](const fakes::FakeFileManager::Call& call) {
+        if (call.operation == "replaceDurably" && !std::exchange(cancelled, true)) model().cancelScan();
+        return false;
+    };
+    machine.tasks.runNext();
+    EXPECT_TRUE(cancelled);
+    machine.tasks.release();
+    letScansDrain();
+    expectNothingLeft();
+}
+
+TEST_F(AppModelCancelTest, withTheHistoryOnItsWay) {
+    surveyBefore();
+    surveyUpToClassification();
+    classifyUpToTheRecord();
+    machine.tasks.runNext();
+    model().cancelScan();
+    machine.tasks.release();
+    letScansDrain();
+    expectNothingLeft();
+}
+
 TEST_F(AppModelCancelTest, atTheVeryStart) {
     cancelInHandler(&AppModel::scanPhaseChanged, [&] { return model().scanPhase() == Phase::scanning; });
 }

@@ -67,7 +67,7 @@ TEST_F(AppModelClassifierTest, aRemovalTouchesTheTreeOnlyAfterwards) {
     model_->removeFromTree(*films);
     EXPECT_EQ(model_->root()->size, 9'000);
     letTheClassifierGo();
-    EXPECT_EQ(model_->scanPhase(), Phase::finished);
+    runUntil([&] { return model_->scanPhase() == Phase::finished; });
     EXPECT_EQ(model_->root()->size, 0);
 }
 

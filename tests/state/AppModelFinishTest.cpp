@@ -69,14 +69,25 @@ TEST_F(AppModelFinishTest, theClassifierRunsOffTheMainThreadAndMarksTheTree) {
 
 TEST_F(AppModelFinishTest, theTreeBeforeIsReleasedOnATask) {
     survey();
-    machine.tasks.hold();
-    model().startScan();
-    const NodeRef before = model().root();
-    runUntil([&] { return !(model().root() == before); });
+    surveyUpToClassification();
+    classifyUpToTheRecord();
     machine.tasks.runNext();
     runUntil([&] { return model().scanPhase() == Phase::finished; });
     // The old tree, then the measure of the Trash.
     EXPECT_EQ(machine.tasks.waiting(), (std::vector{TaskPriority::utility, TaskPriority::utility}));
+    machine.tasks.release();
+}
+
+TEST_F(AppModelFinishTest, theRecordIsKeptOffTheMainThreadAndThePhaseWaitsForIt) {
+    surveyUpToClassification();
+    classifyUpToTheRecord();
+    EXPECT_FALSE(historyFile());
+    EXPECT_TRUE(model().history().empty());
+    EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    machine.tasks.runNext();
+    EXPECT_TRUE(historyFile());
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(model().history().size(), 1U);
     machine.tasks.release();
 }
 

@@ -80,6 +80,12 @@ protected:
         runUntil([&] { return !(model().root() == before); });
     }
 
+    /// From there on: the classifier has done its work, and the record is to be kept by a task that has not begun.
+    void classifyUpToTheRecord() {
+        machine.tasks.runNext();
+        runUntil([&] { return !machine.tasks.waiting().empty(); });
+    }
+
     /// Everything that a cancelled scan may still send has been sent and taken up.
     void letScansDrain() {
         machine.directories.release();

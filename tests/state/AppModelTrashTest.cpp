@@ -66,6 +66,7 @@ TEST_F(AppModelTrashTest, theSurveyDoesNotWaitForTheMeasure) {
     machine.tasks.hold();
     model().startScan();
     runUntil([&] { return static_cast<bool>(model().root()); });
+    classifyUpToTheRecord();
     machine.tasks.runNext();
     runUntil([&] { return model().scanPhase() == Phase::finished; });
     EXPECT_TRUE(model().trashLoading());
