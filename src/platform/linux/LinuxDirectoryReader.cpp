@@ -86,7 +86,20 @@ private:
         }
     }
 
+    std::size_t countRecords() const {
+        std::size_t count = 0;
+        for (std::size_t at = 0; at < used_; ++count) {
+            std::uint16_t length;
+            std::memcpy(&length, names_.data() + at + offsetof(KernelEntry, length), sizeof length);
+            at += length;
+        }
+        return count;
+    }
+
     bool statEntries(int directory) {
+        // Exact, because a list that grows by doubling is for a moment there twice, and in a folder of hundreds of
+        // thousands of entries that is the peak of the whole scan.
+        entries_.reserve(countRecords());
         for (std::size_t at = 0; at < used_;) {
             KernelEntry record;
             std::memcpy(&record, names_.data() + at, sizeof record);
