@@ -141,7 +141,7 @@ private:
         if (below.empty()) return openat(root.fd, ".", folderFlags);
         open_how how{};
         how.flags = folderFlags | O_NOFOLLOW;
-        how.resolve = RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
+        how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
         return static_cast<int>(syscall(SYS_openat2, root.fd, below.c_str(), &how, sizeof how));
     }
 
