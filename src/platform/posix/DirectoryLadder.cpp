@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/posix/Descriptor.h"
 #include "platform/posix/OpenDirectory.h"
 
 namespace zelk {
@@ -16,8 +17,11 @@ bool DirectoryLadder::open(int rootFd, const std::string& below) {
 
 bool DirectoryLadder::descend(std::string_view name) {
     const int above = current();
+    // Nothing is opened below what could not be opened, so no descriptor is closed for it either: it might be the very
+    // one that the way back ends at, and no ".." leads there from here.
+    if (above < 0) return push(-1);
     if (rungs_.size() - firstOpen_ >= maximumOpen) setOldestAside();
-    return push(above < 0 ? -1 : openSubdirectory(above, name));
+    return push(openSubdirectory(above, name));
 }
 
 void DirectoryLadder::ascend() {
@@ -29,7 +33,7 @@ void DirectoryLadder::ascend() {
         above.set = false;
         firstOpen_ = rungs_.size() - 1;
         if (left.fd >= 0) {
-            const int fd = openat(left.fd, "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+            const int fd = uninterrupted([&] { return openat(left.fd, "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
             struct stat status;
             // A directory that was moved meanwhile has another one above it; that one is none of ours.
             if (fd >= 0 && fstat(fd, &status) == 0 && status.st_dev == above.device && status.st_ino == above.inode)
