@@ -36,8 +36,9 @@ int openByComponents(int rootFd, std::string_view below) {
         const std::size_t slash = below.find('/');
         const std::string component(below.substr(0, slash));
         below = slash == std::string_view::npos ? std::string_view() : below.substr(slash + 1);
-        const int next = openAt(at, component.c_str(), directoryFlags | O_NOFOLLOW);
-        const int error = errno;
+        const bool upwards = component == "..";
+        const int next = upwards ? -1 : openAt(at, component.c_str(), directoryFlags | O_NOFOLLOW);
+        const int error = upwards ? EXDEV : errno;
         close(at);
         errno = error;
         at = next;
@@ -78,7 +79,7 @@ int openInPieces(int start, std::string_view path, const OpenPiece& openPiece) {
 int openWithoutLinks(int parent, const char* path) {
     open_how how{};
     how.flags = directoryFlags | O_NOFOLLOW;
-    how.resolve = RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
+    how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
     long fd;
     do {
         fd = syscall(SYS_openat2, parent, path, &how, sizeof how);
