@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#ifdef __linux__
+
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <functional>
+#include <future>
+#include <iterator>
+#include <system_error>
+#include <thread>
+
+namespace zelk::fakes {
+
+/// From now on, until the calling thread ends, the kernel does `action` for the system call `number`: SECCOMP_RET_ERRNO
+/// with an error fails it. Give it to a child process or a thread of its own. -1 if the kernel refuses.
+inline long filterCalls(int number, unsigned action, unsigned flags = 0) {
+    sock_filter steps[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(number), 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, action),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+    };
+    const sock_fprog program{std::size(steps), steps};
+    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+    return ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, flags, &program);
+}
+
+/// Asked before each gated call, on another thread than the one that calls and waits: `call` counts from 0. Gives 0 to
+/// let the call pass, or the error that it fails with.
+using SystemCallRule = std::function<int(unsigned call)>;
+
+/// Runs `body` on a thread of its own whose calls of the system call `number` meet `rule`: what a disk or another
+/// program does at a bad moment, at just that moment.
+inline void behindGate(int number, const SystemCallRule& rule, const std::function<void()>& body) {
+    std::promise<int> listenerMade;
+    std::future<int> listener = listenerMade.get_future();
+    std::thread gated([&] {
+        const long fd = filterCalls(number, SECCOMP_RET_USER_NOTIF, SECCOMP_FILTER_FLAG_NEW_LISTENER);
+        if (fd < 0) {
+            listenerMade.set_exception(std::make_exception_ptr(std::system_error(errno, std::generic_category())));
+            return;
+        }
+        listenerMade.set_value(static_cast<int>(fd));
+        body();
+    });
+    listener.wait();
+    try {
+        const int fd = listener.get();
+        pollfd waiting{fd, POLLIN, 0};
+        // It hangs up when the thread has ended.
+        for (unsigned call = 0; ::poll(&waiting, 1, -1) > 0 && (waiting.revents & POLLIN) != 0;) {
+            seccomp_notif asked{};
+            if (::ioctl(fd, SECCOMP_IOCTL_NOTIF_RECV, &asked) != 0) continue;
+            seccomp_notif_resp answer{};
+            answer.id = asked.id;
+            answer.error = -rule(call++);
+            if (answer.error == 0) answer.flags = SECCOMP_USER_NOTIF_FLAG_CONTINUE;
+            ::ioctl(fd, SECCOMP_IOCTL_NOTIF_SEND, &answer);
+        }
+        gated.join();
+        ::close(fd);
+    } catch (...) {
+        gated.join();
+        throw;
+    }
+}
+
+}  // namespace zelk::fakes
+
+#endif
