@@ -3,6 +3,7 @@
 
 #include <pthread.h>
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
 #include <memory>
@@ -88,9 +89,11 @@ const std::string& currentThreadName() {
 }
 
 bool drainThreads(double seconds) {
+    constexpr double longest = 1e9;  // a clock's point in time more than 292 years ahead would overflow: no wait at all
     Running& all = running();
     std::unique_lock lock(all.mutex);
-    return all.none.wait_for(lock, std::chrono::duration<double>(seconds), [&] { return all.count == 0; });
+    const std::chrono::duration<double> limit(std::min(seconds, longest));
+    return all.none.wait_for(lock, limit, [&] { return all.count == 0; });
 }
 
 }  // namespace zelk
