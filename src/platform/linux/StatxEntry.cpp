@@ -6,6 +6,8 @@
 
 #include <cerrno>
 
+#include "platform/posix/Descriptor.h"
+
 namespace zelk {
 
 namespace {
@@ -42,7 +44,7 @@ StatxOutcome statxEntry(int directory, const char* name, DirEntry& entry) {
     constexpr int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC;
     constexpr unsigned mask = STATX_TYPE | STATX_NLINK | STATX_INO | STATX_BLOCKS | STATX_MTIME;
     struct statx status;
-    if (statx(directory, name, flags, mask, &status) != 0)
+    if (uninterrupted([&] { return statx(directory, name, flags, mask, &status); }) != 0)
         return errno == ENOENT ? StatxOutcome::gone : StatxOutcome::failed;
     const bool isDirectory = S_ISDIR(status.stx_mode);
     entry.name = name;
