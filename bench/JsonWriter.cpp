@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "JsonWriter.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdio>
@@ -81,17 +82,19 @@ JsonWriter& JsonWriter::key(std::string_view name) {
 
 JsonWriter& JsonWriter::text(std::string_view utf8) {
     raw("\"");
-    for (const char byte : utf8) {
-        const auto value = static_cast<unsigned char>(byte);
-        if (byte == '"' || byte == '\\') {
-            json_.append({'\\', byte});
-        } else if (value < 0x20) {
-            std::array<char, 8> escape;
-            std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(value));
-            json_ += escape.data();
+    const auto isSpecial = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\'; };
+    while (true) {
+        const auto special = std::find_if(utf8.begin(), utf8.end(), isSpecial);
+        json_.append(utf8.begin(), special);
+        if (special == utf8.end()) break;
+        if (*special == '"' || *special == '\\') {
+            json_.append({'\\', *special});
         } else {
-            json_ += byte;
+            std::array<char, 8> escape;
+            std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(*special));
+            json_ += escape.data();
         }
+        utf8.remove_prefix(static_cast<std::size_t>(special - utf8.begin()) + 1);
     }
     json_ += '"';
     return *this;

@@ -106,17 +106,16 @@ private:
             const char* name = names_.data() + at + nameOffset;
             at += record.length;
             if (isDotOrDotDot(name)) continue;
-            DirEntry entry;
-            switch (statxEntry(directory, name, entry)) {
+            switch (statxEntry(directory, name, entries_.emplace_back())) {
                 case StatxOutcome::ok:
-                    entries_.push_back(entry);
-                    break;
+                    continue;
                 case StatxOutcome::gone:
                     break;  // deleted since it was listed: it is not there, and that is no failure
                 case StatxOutcome::failed:
                     if (record.type == DT_DIR && canLookInto(directory)) break;
                     return false;
             }
+            entries_.pop_back();
         }
         return true;
     }
