@@ -145,7 +145,7 @@ TEST_F(DirectoryReaderFaults, systemWithoutTheNewestCallsIsReadAllTheSame) {
     zoo::makeFolder(temp / "root/folder/below");
     fs::create_directory_symlink("folder", temp / "root/link");
     open(temp / "root");
-    for (const unsigned error : {ENOSYS, EPERM}) {
+    for (const unsigned error : {unsigned{ENOSYS}, unsigned{EPERM}}) {
         EXPECT_TRUE(fakes::inChild([&] {
             if (fakes::filterCalls(SYS_openat2, SECCOMP_RET_ERRNO | error) != 0) return false;
             const auto opens = [&](const char* below) { return reader->open(*root, below) != nullptr; };

@@ -95,6 +95,8 @@ TEST(ThreadTasks, whatATaskHoldsGoesOnItsOwnThread) {
     struct Witness {
         std::atomic<int>& onCaller;
         std::thread::id caller = std::this_thread::get_id();
+        explicit Witness(std::atomic<int>& counter) : onCaller(counter) {}
+        Witness(const Witness&) = delete;
         ~Witness() { onCaller += std::this_thread::get_id() == caller ? 1 : 0; }
     };
     ThreadTasks tasks;

@@ -37,6 +37,8 @@ auto onThread(const std::string& name, std::size_t stack, Body body) {
 struct SlowToGo {
     std::latch& mayGo;
     std::atomic<bool>& gone;
+    SlowToGo(std::latch& permission, std::atomic<bool>& flag) : mayGo(permission), gone(flag) {}
+    SlowToGo(const SlowToGo&) = delete;
     ~SlowToGo() {
         mayGo.wait();
         gone = true;

@@ -10,8 +10,9 @@ namespace zelk {
 /// Opens the scan root `path`, of any length. Links are followed: a root that is a link is the folder behind it.
 int openRootDirectory(const std::string& path);
 
-/// Opens the directory `below` (relative, of any length; empty is `rootFd`'s own directory) under `rootFd`. No component
-/// may be a symbolic link and none may lead up, so neither a tree that changes meanwhile nor ".." leads outside.
+/// Opens the directory `below` (relative, of any length; empty is `rootFd`'s own directory) under `rootFd`. No
+/// component may be a symbolic link and none may lead up, so neither a tree that changes meanwhile nor ".." leads
+/// outside.
 int openDirectoryBeneath(int rootFd, std::string_view below);
 
 /// Opens the subdirectory `name` of `parentFd`, which must not be a link.
