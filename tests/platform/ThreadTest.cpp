@@ -11,6 +11,7 @@
 #include <memory>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #include "fakes/TestFiles.h"
 #include "platform/posix/ThreadCount.h"
@@ -154,7 +155,7 @@ TEST(DrainThreads, waitsUntilWhatTheBodyHeldIsGoneToo) {
     std::atomic<bool> gone = false;
     {
         auto held = std::make_shared<SlowToGo>(mayGo, gone);
-        startThread("holding", stackBytes, [&ran, held] { ran.count_down(); });
+        startThread("holding", stackBytes, [&ran, own = std::move(held)] { ran.count_down(); });
     }
     ran.wait();
     EXPECT_FALSE(drainThreads(0.001));
