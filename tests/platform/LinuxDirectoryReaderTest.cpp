@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#ifdef __linux__
-
 #include "platform/linux/LinuxDirectoryReader.h"
 
 #include <fcntl.h>
@@ -457,5 +455,3 @@ TEST(DeviceNumber, keepsTwelveBitsOfTheMajorAndTwentyOfTheMinor) {
 
 }  // namespace
 }  // namespace zelk
-
-#endif

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#ifdef __linux__
-
 #include "platform/linux/LinuxVitals.h"
 
 #include <gtest/gtest.h>
@@ -240,5 +238,3 @@ TEST(LinuxVitals, theRealMachineIsAlive) {
 
 }  // namespace
 }  // namespace zelk
-
-#endif

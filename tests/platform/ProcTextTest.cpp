@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#ifdef __linux__
-
 #include "platform/linux/ProcText.h"
 
 #include <gtest/gtest.h>
@@ -287,5 +285,3 @@ TEST(VolumeOfBlocks, aVolumeBeyondSignedCountsIsCutOff) {
 
 }  // namespace
 }  // namespace zelk
-
-#endif
