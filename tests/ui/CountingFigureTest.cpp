@@ -48,6 +48,15 @@ TEST(CountingFigure, goesOnWhenAimedWhereItGoes) {
     EXPECT_TRUE(figure.settled(1));
 }
 
+TEST(CountingFigure, stopsWhereItIs) {
+    CountingFigure figure;
+    figure.aim(1000, 0, 1);
+    figure.stop(0.5);
+    EXPECT_EQ(figure.at(0.5), 875);
+    EXPECT_EQ(figure.target(), 875);
+    EXPECT_TRUE(figure.settled(0.5));
+}
+
 TEST(CountingFigure, jumps) {
     CountingFigure figure;
     figure.aim(1000, 0, 1);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/survey/SurveyScreenModel.h"
 
+#include <gmock/gmock.h>
+
 #include <QElapsedTimer>
 #include <array>
 
@@ -19,7 +21,7 @@ protected:
 
     SurveyScreenModel& screen() {
         if (!screen_) {
-            screen_ = std::make_unique<SurveyScreenModel>(model());
+            screen_ = std::make_unique<SurveyScreenModel>(model(), [this] { return time; });
             screen_->setCounting(false);
         }
         return *screen_;
@@ -37,6 +39,18 @@ protected:
         screen().pressScan();
         runUntil([&] { return model().scanPhase() == Phase::finished; });
     }
+
+    /// Until the texts have changed once more.
+    void awaitChange() {
+        bool changed = false;
+        const auto connection =
+            QObject::connect(&screen(), &SurveyScreenModel::figuresChanged, &screen(), [&] { changed = true; });
+        runUntil([&] { return changed; });
+        QObject::disconnect(connection);
+    }
+
+    /// By which the figures run: it stands still until a test moves it.
+    double time = 100;
 
     std::string item(int row, const char* role) {
         FeatureList& list = *screen().features();
@@ -99,19 +113,60 @@ TEST_F(SurveyScreen, beginsWithThePathOfTheRootAndNoItems) {
     EXPECT_TRUE(screen().scanning());
     EXPECT_EQ(screen().itemsLine(), QStringLiteral("0 items"));
     EXPECT_EQ(screen().scanningFace().title, QStringLiteral("0 bytes"));
+    EXPECT_EQ(screen().pathLine(), QString());
+    awaitChange();
+    EXPECT_EQ(screen().itemsLine(), QStringLiteral("0 items"));
     EXPECT_EQ(screen().pathLine(), QStringLiteral("/home/me"));
 }
 
 TEST_F(SurveyScreen, beginsAgainAtNothingAfterASurvey) {
     fillHome();
+    model().setScanRoots({home + "/projects"});
+    finishSurvey();
+    model().setScanRoots({home});
+    machine.directories.hold(home);
+    int changes = 0;
+    QObject::connect(&screen(), &SurveyScreenModel::figuresChanged, &screen(), [&] {
+        ++changes;
+        EXPECT_EQ(screen().itemsLine(), QStringLiteral("0 items"));
+        EXPECT_EQ(screen().scanningFace().title, QStringLiteral("0 bytes"));
+        EXPECT_THAT(screen().pathLine(), testing::AnyOf(QString(), QStringLiteral("/home/me")));
+    });
+    screen().pressScan();
+    EXPECT_GT(changes, 0);
+    awaitChange();
+    EXPECT_EQ(screen().pathLine(), QStringLiteral("/home/me"));
+}
+
+TEST_F(SurveyScreen, showsAReportWithAllThatIsInIt) {
+    int reports = 0;
+    QObject::connect(&screen(), &SurveyScreenModel::figuresChanged, &screen(), [&] {
+        if (screen().itemsLine() == QStringLiteral("0 items")) return;
+        ++reports;
+        EXPECT_EQ(screen().scanningFace(), ScanFace::scanning(model().bytesScanned()));
+        EXPECT_EQ(screen().pathLine(), QStringLiteral("/home/me/wide"));
+    });
+    beginAndHold();
+    runUntil([&] { return reports > 0; });
+}
+
+TEST_F(SurveyScreen, theFaceThatLeavesKeepsItsFigure) {
+    fillHome();
     finishSurvey();
     machine.directories.hold(home);
-    std::vector<QString> lines;
-    QObject::connect(&screen(), &SurveyScreenModel::figuresChanged, &screen(),
-                     [&] { lines.push_back(screen().itemsLine()); });
     screen().pressScan();
-    for (const QString& line : lines) EXPECT_EQ(line, QStringLiteral("0 items"));
-    EXPECT_FALSE(lines.empty());
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("60 MB"));
+    awaitChange();
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("60 MB"));
+}
+
+TEST_F(SurveyScreen, theFaceThatIsCancelledKeepsItsFigure) {
+    beginAndHold();
+    runUntil([&] { return screen().itemsLine() != QStringLiteral("0 items"); });
+    const QString title = screen().scanningFace().title;
+    EXPECT_NE(title, QStringLiteral("0 bytes"));
+    screen().cancel();
+    EXPECT_EQ(screen().scanningFace().title, title);
 }
 
 TEST_F(SurveyScreen, shortensALongPathAndShowsWhatCannotBeRead) {
@@ -141,22 +196,36 @@ TEST_F(SurveyScreen, finishedWithNothingToReclaimShowsZeroBytes) {
 TEST_F(SurveyScreen, countsUpToWhatIsRecoverableButNamesItAtOnce) {
     fillHome();
     screen().setCounting(true);
-    QString firstTitle;
-    QObject::connect(&screen(), &SurveyScreenModel::phaseChanged, &screen(), [&] {
-        if (screen().finished()) firstTitle = screen().finishedFace().title;
-    });
     finishSurvey();
     EXPECT_EQ(screen().buttonName(), QStringLiteral("60 MB recoverable, re-run"));
-    EXPECT_NE(firstTitle, QStringLiteral("60 MB"));
-    runUntil([&] { return screen().finishedFace().title == QStringLiteral("60 MB"); });
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("0 bytes"));
+    time += 0.45;
+    awaitChange();
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("52.5 MB"));
+    time += 0.45;
+    awaitChange();
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("60 MB"));
+}
+
+TEST_F(SurveyScreen, aFigureOnItsWayIsThereWhenCountingIsSwitchedOff) {
+    fillHome();
+    screen().setCounting(true);
+    finishSurvey();
+    awaitChange();
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("0 bytes"));
+    screen().setCounting(false);
+    awaitChange();
+    EXPECT_EQ(screen().finishedFace().title, QStringLiteral("60 MB"));
 }
 
 TEST_F(SurveyScreen, countsUpToTheItemsThatWereScanned) {
     screen().setCounting(true);
     beginAndHold();
-    const QString line = groupedFigure(model().itemsScanned()) + QStringLiteral(" items");
-    EXPECT_NE(screen().itemsLine(), line);
-    runUntil([&] { return screen().itemsLine() == line; });
+    awaitChange();
+    EXPECT_EQ(screen().itemsLine(), QStringLiteral("0 items"));
+    time += 0.25;
+    awaitChange();
+    EXPECT_EQ(screen().itemsLine(), groupedFigure(model().itemsScanned()) + QStringLiteral(" items"));
 }
 
 TEST_F(SurveyScreen, followsWhatBecomesOfTheResults) {

@@ -9,6 +9,8 @@ namespace zelk {
 class CountingFigure {
 public:
     void jump(std::int64_t value);
+    /// Stays at what it shows at `now`.
+    void stop(double now) { jump(at(now)); }
     /// Runs from what it shows at `now`, fast at first, and is there after `duration`.
     void aim(std::int64_t target, double now, double duration);
 

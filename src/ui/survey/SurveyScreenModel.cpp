@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/survey/SurveyScreenModel.h"
 
+#include <chrono>
+#include <utility>
+
 #include "state/AppModel.h"
 #include "ui/text/DisplayText.h"
 
@@ -15,17 +18,17 @@ constexpr double recoverableDuration = 0.9;  // seconds
 
 }  // namespace
 
-SurveyScreenModel::SurveyScreenModel(AppModel& app, QObject* parent) : QObject(parent), app_(app) {
-    clock_.start();
+SurveyScreenModel::SurveyScreenModel(AppModel& app, std::function<double()> now) : app_(app), now_(std::move(now)) {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &SurveyScreenModel::tick);
     connect(&app, &AppModel::scanPhaseChanged, this, &SurveyScreenModel::enterPhase);
-    connect(&app, &AppModel::itemsScannedChanged, this, &SurveyScreenModel::aimFigures);
-    connect(&app, &AppModel::bytesScannedChanged, this, &SurveyScreenModel::aimFigures);
-    connect(&app, &AppModel::currentPathChanged, this, &SurveyScreenModel::aimFigures);
+    connect(&app, &AppModel::itemsScannedChanged, this, &SurveyScreenModel::aimItems);
+    connect(&app, &AppModel::bytesScannedChanged, this, &SurveyScreenModel::aimBytes);
+    connect(&app, &AppModel::currentPathChanged, this, &SurveyScreenModel::followPath);
     connect(&app, &AppModel::reclaimablesChanged, this, &SurveyScreenModel::aimRecoverable);
     enterPhase();
-    aimFigures();  // of a survey that is under way already
+    aimItems();  // of a survey that is under way already
+    aimBytes();
 }
 
 bool SurveyScreenModel::idle() const {
@@ -57,6 +60,9 @@ QString SurveyScreenModel::finishedLine() const {
 
 void SurveyScreenModel::setCounting(bool counting) {
     counting_ = counting;
+    if (counting) return;
+    for (CountingFigure* figure : {&items_, &bytes_, &recoverable_}) figure->jump(figure->target());
+    if (stale_) timer_.start(0);
 }
 
 void SurveyScreenModel::pressScan() {
@@ -72,24 +78,44 @@ void SurveyScreenModel::pressFeature(int row) {
     app_.setSelection(features[static_cast<std::size_t>(row)].screen);
 }
 
-/// A new face is complete when it appears: its texts change before the phase does.
+/// A new face is complete when it appears: its texts change before the phase does. The one that fades away keeps its
+/// own for as long as it can be seen.
 void SurveyScreenModel::enterPhase() {
+    const double time = now_();
+    for (CountingFigure* figure : {&items_, &bytes_, &recoverable_}) figure->stop(time);
+    if (scanning()) {
+        // The model still holds the figures and the path of the survey before: they change right after the phase.
+        items_.jump(0);
+        bytes_.jump(0);
+        pathLine_.clear();
+    } else if (finished()) {
+        recoverable_.jump(0);
+        aim(recoverable_, app_.reclaimableBytes(), recoverableDuration);
+    }
     timer_.stop();
-    items_.jump(0);  // the model still holds the figures of the survey before when a new one begins
-    bytes_.jump(0);
-    recoverable_.jump(0);
-    if (finished()) aim(recoverable_, app_.reclaimableBytes(), recoverableDuration);
     refresh();
-    if (stale_) startTimer();
+    if (scanning())
+        refreshSoon();
+    else if (stale_)
+        startTimer();
     emit phaseChanged();
     emit buttonNameChanged();
 }
 
-void SurveyScreenModel::aimFigures() {
+void SurveyScreenModel::aimItems() {
     if (!scanning()) return;
     aim(items_, app_.itemsScanned(), progressDuration);
+    refreshSoon();
+}
+
+void SurveyScreenModel::aimBytes() {
+    if (!scanning()) return;
     aim(bytes_, app_.bytesScanned(), progressDuration);
     refreshSoon();
+}
+
+void SurveyScreenModel::followPath() {
+    if (scanning()) refreshSoon();
 }
 
 void SurveyScreenModel::aimRecoverable() {
@@ -101,19 +127,15 @@ void SurveyScreenModel::aimRecoverable() {
 
 void SurveyScreenModel::aim(CountingFigure& figure, std::int64_t target, double duration) {
     if (counting_)
-        figure.aim(target, now(), duration);
+        figure.aim(target, now_(), duration);
     else
         figure.jump(target);
 }
 
-/// At once after a rest, else with the next tick.
+/// With the next tick, which comes at once after a rest, yet never between two signals of one report.
 void SurveyScreenModel::refreshSoon() {
-    if (timer_.isActive()) {
-        stale_ = true;
-        return;
-    }
-    refresh();
-    startTimer();
+    stale_ = true;
+    if (!timer_.isActive()) timer_.start(0);
 }
 
 void SurveyScreenModel::startTimer() {
@@ -122,22 +144,22 @@ void SurveyScreenModel::startTimer() {
 
 void SurveyScreenModel::tick() {
     if (!stale_) return;
+    pathLine_ = shortenedPath(displayText(app_.currentPath()));
     refresh();
     startTimer();
 }
 
 void SurveyScreenModel::refresh() {
-    const double time = now();
+    const double time = now_();
     scanningFace_ = ScanFace::scanning(bytes_.at(time));
     finishedFace_ = ScanFace::finished(recoverable_.at(time));
     itemsLine_ = QStringLiteral("%1 items").arg(groupedFigure(items_.at(time)));
-    pathLine_ = shortenedPath(displayText(app_.currentPath()));
     stale_ = !(items_.settled(time) && bytes_.settled(time) && recoverable_.settled(time));
     emit figuresChanged();
 }
 
-double SurveyScreenModel::now() const {
-    return static_cast<double>(clock_.nsecsElapsed()) * 1e-9;
+double SurveyScreenModel::steadySeconds() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
 }  // namespace zelk

@@ -2,10 +2,10 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <functional>
 
 #include "ui/components/ScanFace.h"
 #include "ui/survey/CountingFigure.h"
@@ -36,8 +36,8 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(zelk::FeatureList* features READ features CONSTANT FINAL)
 
 public:
-    /// `app` must outlive it.
-    explicit SurveyScreenModel(AppModel& app, QObject* parent = nullptr);
+    /// `app` must outlive it. `now` is a steady clock in seconds, by which figures run.
+    explicit SurveyScreenModel(AppModel& app, std::function<double()> now = steadySeconds);
 
     bool idle() const;
     bool scanning() const;
@@ -56,7 +56,7 @@ public:
     QString finishedLine() const;
     FeatureList* features() { return &features_; }
 
-    /// Whether figures run to a new value or jump there. They run by default.
+    /// Whether figures run to a new value or jump there, those that are on their way too. They run by default.
     void setCounting(bool counting);
 
 public slots:
@@ -73,18 +73,20 @@ signals:
 
 private:
     void enterPhase();
-    void aimFigures();
+    void aimItems();
+    void aimBytes();
     void aimRecoverable();
+    void followPath();
     void aim(CountingFigure& figure, std::int64_t target, double duration);
     void refreshSoon();
     void startTimer();
     void tick();
     void refresh();
-    double now() const;
+    static double steadySeconds();
 
     AppModel& app_;
     FeatureList features_;
-    QElapsedTimer clock_;
+    std::function<double()> now_;
     QTimer timer_;
     bool counting_ = true;
     bool stale_ = false;  ///< what is shown is not yet what is
