@@ -37,6 +37,16 @@ std::optional<bool> DesktopMotion::reducedFrom(const QString& nameSpace, const Q
     return std::nullopt;
 }
 
+void DesktopMotion::hear(const QString& nameSpace, const QString& key, const QVariant& value) {
+    const std::optional<bool> wish = reducedFrom(nameSpace, key, value);
+    if (!wish) return;
+    (key == enableAnimations ? withoutAnimations_ : reducedMotion_) = *wish;
+    const bool reduced = withoutAnimations_ || reducedMotion_;
+    if (reduced == reduced_) return;
+    reduced_ = reduced;
+    emit reducedChanged(reduced);
+}
+
 #if defined(Q_OS_LINUX)
 
 void DesktopMotion::start() {
@@ -64,7 +74,7 @@ void DesktopMotion::settingChanged(const QString& nameSpace, const QString& key,
     QVariant content = value.variant();
     // Reading wraps the value in one variant more than the signal does.
     if (content.canConvert<QDBusVariant>()) content = content.value<QDBusVariant>().variant();
-    if (const std::optional<bool> reduced = reducedFrom(nameSpace, key, content)) emit reducedChanged(*reduced);
+    hear(nameSpace, key, content);
 }
 
 #elif defined(Q_OS_MACOS)

@@ -26,8 +26,16 @@ public:
     /// older setting and says the opposite of "reduced-motion".
     static std::optional<bool> reducedFrom(const QString& nameSpace, const QString& key, const QVariant& value);
 
+    /// A setting of the portal has this value. The two are independent wishes for the same: either is enough.
+    void hear(const QString& nameSpace, const QString& key, const QVariant& value);
+
 signals:
     void reducedChanged(bool reduced);
+
+private:
+    bool withoutAnimations_ = false;
+    bool reducedMotion_ = false;
+    bool reduced_ = false;
 
 #ifdef Q_OS_LINUX
 private slots:

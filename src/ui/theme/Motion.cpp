@@ -5,13 +5,17 @@
 
 namespace zelk {
 
-Motion::Motion(QObject* parent) : QObject(parent) {
-    auto* desktop = new DesktopMotion(this);
-    connect(desktop, &DesktopMotion::reducedChanged, this, &Motion::setReduced);
-    desktop->start();
+Motion::Motion(QObject* parent) : QObject(parent), desktop_(new DesktopMotion(this)) {
+    connect(desktop_, &DesktopMotion::reducedChanged, this, &Motion::apply);
+    desktop_->start();
 }
 
 void Motion::setReduced(bool reduced) {
+    disconnect(desktop_, nullptr, this, nullptr);  // its answer may still be on the way
+    apply(reduced);
+}
+
+void Motion::apply(bool reduced) {
     if (reduced == reduced_) return;
     reduced_ = reduced;
     emit changed();

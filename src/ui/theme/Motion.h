@@ -6,8 +6,10 @@
 
 namespace zelk {
 
+class DesktopMotion;
+
 /// Whether things move, and for how long, as QML reads it: one per engine. With reduced motion every duration is 0 and
-/// nothing repeats. It starts with the desktop's setting and follows it. Main thread.
+/// nothing repeats. It starts with the desktop's setting and follows it until somebody says otherwise. Main thread.
 class Motion : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,6 +23,7 @@ public:
     explicit Motion(QObject* parent = nullptr);
 
     bool reduced() const { return reduced_; }
+    /// From now on the desktop is not asked any more.
     void setReduced(bool reduced);
 
     /// Milliseconds. For what answers the hand: hover, press, focus.
@@ -34,6 +37,9 @@ signals:
     void changed();
 
 private:
+    void apply(bool reduced);
+
+    DesktopMotion* desktop_;
     bool reduced_ = false;
 };
 
