@@ -10,6 +10,13 @@ namespace zelk {
 
 namespace {
 
+QPalette paletteOf(const QColor& window, const QColor& text) {
+    QPalette palette;
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, text);
+    return palette;
+}
+
 class ThemeFollowing : public AppModelFixture {
 protected:
     ThemeFollowing() {
@@ -18,10 +25,7 @@ protected:
     ~ThemeFollowing() override { QGuiApplication::setPalette(QPalette()); }
 
     static void setDesktop(const QColor& window, const QColor& text) {
-        QPalette palette;
-        palette.setColor(QPalette::Window, window);
-        palette.setColor(QPalette::WindowText, text);
-        QGuiApplication::setPalette(palette);
+        QGuiApplication::setPalette(paletteOf(window, text));
         QCoreApplication::processEvents();
     }
 
@@ -59,6 +63,16 @@ TEST_F(ThemeFollowing, followsTheDesktopsPaletteWhereItIsToldTo) {
     EXPECT_EQ(theme.current(), ZelkTheme::dark());
 }
 #endif
+
+TEST(DesktopScheme, isBelievedWhateverThePalette) {
+    EXPECT_TRUE(desktopIsDark(DesktopScheme::dark, paletteOf(Qt::white, Qt::black)));
+    EXPECT_FALSE(desktopIsDark(DesktopScheme::light, paletteOf(Qt::black, Qt::white)));
+}
+
+TEST(DesktopScheme, isReadFromThePaletteWhereItIsNotTold) {
+    EXPECT_TRUE(desktopIsDark(DesktopScheme::untold, paletteOf(Qt::black, Qt::white)));
+    EXPECT_FALSE(desktopIsDark(DesktopScheme::untold, paletteOf(Qt::white, Qt::black)));
+}
 
 TEST_F(ThemeFollowing, outlivesItsModel) {
     theme.follow(model());

@@ -3,7 +3,6 @@
 
 #include <QEvent>
 #include <QGuiApplication>
-#include <QPalette>
 #include <QStyleHints>
 
 #include "state/AppModel.h"
@@ -12,17 +11,26 @@ namespace zelk {
 
 namespace {
 
-bool desktopIsDark() {
+DesktopScheme desktopScheme() {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
-    const Qt::ColorScheme scheme = QGuiApplication::styleHints()->colorScheme();
-    if (scheme != Qt::ColorScheme::Unknown) return scheme == Qt::ColorScheme::Dark;
+    switch (QGuiApplication::styleHints()->colorScheme()) {
+        case Qt::ColorScheme::Dark:
+            return DesktopScheme::dark;
+        case Qt::ColorScheme::Light:
+            return DesktopScheme::light;
+        case Qt::ColorScheme::Unknown:
+            break;
+    }
 #endif
-    // An older Qt tells no scheme, but its palette follows the desktop's: dark is where the text is the lighter.
-    const QPalette palette = QGuiApplication::palette();
-    return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+    return DesktopScheme::untold;
 }
 
 }  // namespace
+
+bool desktopIsDark(DesktopScheme scheme, const QPalette& palette) {
+    if (scheme != DesktopScheme::untold) return scheme == DesktopScheme::dark;
+    return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+}
 
 Theme::Theme(QObject* parent) : QObject(parent) {
     // The palette has no signal of its own that outlives Qt 6.0; the application gets an event.
@@ -38,8 +46,9 @@ void Theme::follow(AppModel& model) {
 void Theme::choose() {
     if (model_.isNull()) return;
     const AppModel::Appearance appearance = model_->appearance();
-    const bool dark =
-        appearance == AppModel::Appearance::dark || (appearance == AppModel::Appearance::system && desktopIsDark());
+    const bool dark = appearance == AppModel::Appearance::system
+                          ? desktopIsDark(desktopScheme(), QGuiApplication::palette())
+                          : appearance == AppModel::Appearance::dark;
     const ZelkTheme* chosen = dark ? &ZelkTheme::dark() : &ZelkTheme::light();
     if (chosen == current_) return;
     current_ = chosen;

@@ -4,6 +4,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QObject>
+#include <QPalette>
 #include <QPointer>
 
 #include "ui/theme/ZelkTheme.h"
@@ -11,6 +12,12 @@
 namespace zelk {
 
 class AppModel;
+
+/// What the desktop says of itself; one whose toolkit is older than 6.5 says nothing.
+enum class DesktopScheme { untold, light, dark };
+
+/// Where it says nothing, its palette still follows it: dark is where the text is lighter than what it stands on.
+bool desktopIsDark(DesktopScheme scheme, const QPalette& palette);
 
 /// The theme in use, as QML reads it: one per engine. It swaps between the two fixed instances when the model's
 /// appearance changes, or the desktop's where the model says to follow it. Main thread.
