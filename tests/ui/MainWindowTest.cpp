@@ -3,7 +3,7 @@
 
 #include <QAccessible>
 #include <QImage>
-#include <set>
+#include <QSignalSpy>
 
 #include "Camera.h"
 #include "state/AppModelFixture.h"
@@ -67,31 +67,72 @@ protected:
         return control == nullptr ? std::string() : control->text(QAccessible::Name).toStdString();
     }
 
-    void expectAllControlsNamed() {
-        int controls = 0;
+    /// What is shown: the controls, and the texts that are no part of one.
+    struct Shown {
+        std::vector<QQuickItem*> controls;
+        std::vector<QQuickItem*> texts;
+    };
+    Shown whatIsShown() {
+        Shown found;
         std::vector<QQuickItem*> pending{window().contentItem()};
         while (!pending.empty()) {
             QQuickItem* item = pending.back();
             pending.pop_back();
+            if (!item->isVisible()) continue;
+            if (item->activeFocusOnTab()) {
+                found.controls.push_back(item);
+                continue;
+            }
+            if (item->property("text").isValid()) found.texts.push_back(item);
             for (QQuickItem* child : item->childItems()) pending.push_back(child);
-            if (!item->activeFocusOnTab() || !item->isVisible()) continue;
-            ++controls;
+        }
+        return found;
+    }
+
+    void expectEverythingNamed() {
+        const Shown all = whatIsShown();
+        EXPECT_FALSE(all.controls.empty());
+        EXPECT_FALSE(all.texts.empty());
+        for (QQuickItem* item : all.controls) {
             QAccessibleInterface* control = QAccessible::queryAccessibleInterface(item);
             ASSERT_NE(control, nullptr) << item->metaObject()->className();
             EXPECT_FALSE(control->text(QAccessible::Name).isEmpty()) << item->metaObject()->className();
             EXPECT_EQ(control->role(), QAccessible::Button) << item->metaObject()->className();
             EXPECT_TRUE(control->state().focusable) << item->metaObject()->className();
         }
-        EXPECT_GT(controls, 0);
+        for (QQuickItem* item : all.texts) {
+            const QString text = item->property("text").toString();
+            QAccessibleInterface* label = QAccessible::queryAccessibleInterface(item);
+            ASSERT_NE(label, nullptr) << text.toStdString();
+            EXPECT_EQ(label->role(), QAccessible::StaticText) << text.toStdString();
+            EXPECT_EQ(label->text(QAccessible::Name), text);
+        }
     }
 
-    /// How many different colours there are: a blank picture has one.
-    std::size_t colours() {
-        const QImage picture = window().grabWindow();
-        std::set<QRgb> seen;
-        for (int y = 0; y < picture.height(); y += 4)
-            for (int x = 0; x < picture.width(); x += 4) seen.insert(picture.pixel(x, y));
-        return seen.size();
+    void expectEverythingInSight() {
+        window().grabWindow();  // lays out what the phase brought
+        const QRectF bounds(0, 0, window().width(), window().height());
+        const Shown all = whatIsShown();
+        EXPECT_FALSE(all.controls.empty());
+        EXPECT_FALSE(all.texts.empty());
+        for (const std::vector<QQuickItem*>& items : {all.controls, all.texts})
+            for (QQuickItem* item : items) {
+                EXPECT_TRUE(bounds.contains(item->mapRectToScene(item->boundingRect())))
+                    << item->property("text").toString().toStdString();
+            }
+    }
+
+    QAccessibleInterface& scanButton() {
+        QQuickItem* button = findControl(window(), QStringLiteral("scanButton"));
+        return *QAccessible::queryAccessibleInterface(button);
+    }
+
+    /// The middle of the scan button, where its phase is written.
+    QImage face() {
+        const QQuickItem* button = findControl(window(), QStringLiteral("scanButton"));
+        const QRectF all = button->mapRectToScene(button->boundingRect());
+        const double side = all.width() / 3;
+        return window().grabWindow().copy(QRectF(all.center() - QPointF(side, side) / 2, QSizeF(side, side)).toRect());
     }
 
 private:
@@ -132,13 +173,13 @@ TEST_F(Window, tabGoesFromTheButtonToCancelDuringASurvey) {
     EXPECT_EQ(tabOrder(), (std::vector<std::string>{"scanning…", "cancel"}));
 }
 
-TEST_F(Window, namesAllItsControlsInEveryPhase) {
+TEST_F(Window, namesAllItsControlsAndTextsInEveryPhase) {
     shown();
-    expectAllControlsNamed();
+    expectEverythingNamed();
     scanAndHold();
-    expectAllControlsNamed();
+    expectEverythingNamed();
     finish();
-    expectAllControlsNamed();
+    expectEverythingNamed();
 }
 
 TEST_F(Window, showsWhereTheKeyboardIs) {
@@ -166,6 +207,32 @@ TEST_F(Window, keepsTheKeyboardOnTheButtonWhenTheFocusedControlGoes) {
     pressKey(window(), Qt::Key_Space);
     EXPECT_EQ(model().scanPhase(), Phase::idle);
     EXPECT_EQ(focusName(), "Scan your whole Mac");
+    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool()) << "the keyboard must stay in sight";
+}
+
+TEST_F(Window, showsNoRingToWhoUsesTheMouse) {
+    shown();
+    machine.directories.hold(home + "/wide/inner");
+    ASSERT_TRUE(tour::clickOn(window(), QStringLiteral("scanButton")));
+    runUntil([&] { return model().itemsScanned() > 0; });
+    window().grabWindow();  // lays out what the phase brought
+    ASSERT_TRUE(tour::clickOn(window(), QStringLiteral("cancelButton")));
+    EXPECT_EQ(model().scanPhase(), Phase::idle);
+    EXPECT_EQ(focusName(), "Scan your whole Mac");
+    EXPECT_FALSE(window().activeFocusItem()->property("visualFocus").toBool());
+}
+
+TEST_F(Window, isPressedOnceByAScreenReader) {
+    shown();
+    machine.directories.hold(home);
+    QSignalSpy clicks(findControl(window(), QStringLiteral("scanButton")), SIGNAL(clicked()));
+    QAccessibleActionInterface* actions = scanButton().actionInterface();
+    ASSERT_NE(actions, nullptr);
+    EXPECT_TRUE(actions->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(clicks.count(), 1);
+    EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    EXPECT_EQ(timesSignalled("scanPhase"), 1);
 }
 
 TEST_F(Window, pressesAFeatureWithTheKeyboard) {
@@ -176,16 +243,19 @@ TEST_F(Window, pressesAFeatureWithTheKeyboard) {
     EXPECT_EQ(model().selection(), Screen::duplicates);
 }
 
-TEST_F(Window, hasSomethingToShowInEveryPhaseAndTheme) {
+TEST_F(Window, hasAFaceOfItsOwnForEveryPhaseInBothThemes) {
     shown();
     for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
         model().setAppearance(appearance);
         model().cancelScan();
-        EXPECT_GT(colours(), 100U);
+        const QImage idle = face();
         scanAndHold();
-        EXPECT_GT(colours(), 100U);
+        const QImage scanning = face();
         finish();
-        EXPECT_GT(colours(), 100U);
+        const QImage finished = face();
+        EXPECT_NE(idle, scanning);
+        EXPECT_NE(scanning, finished);
+        EXPECT_NE(finished, idle);
     }
 }
 
@@ -213,17 +283,12 @@ TEST_F(Window, movesNothingButTheCometFromPhaseToPhase) {
 TEST_F(Window, keepsEverythingInSightAtItsLeastSize) {
     shown();
     window().resize(960, 620);
-    window().grabWindow();
-    std::vector<QQuickItem*> pending{window().contentItem()};
-    const QRectF bounds(0, 0, 960, 620);
-    while (!pending.empty()) {
-        QQuickItem* item = pending.back();
-        pending.pop_back();
-        for (QQuickItem* child : item->childItems()) pending.push_back(child);
-        if (item->activeFocusOnTab() && item->isVisible()) {
-            EXPECT_TRUE(bounds.contains(item->mapRectToScene(item->boundingRect()))) << focusName();
-        }
-    }
+    expectEverythingInSight();
+    scanAndHold();
+    runUntil([&] { return !shown().survey().pathLine().isEmpty(); });
+    expectEverythingInSight();
+    finish();
+    expectEverythingInSight();
 }
 
 TEST_F(Window, turnsTheCometOnlyWhereMotionIsWanted) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where the keyboard is: a line around the control, a little off it.
+// Where the keyboard is: a line around the control, a little off it. In the colour of the text, which stands out from
+// the ground in both themes and from every control, the accent's own too.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -19,6 +20,6 @@ Rectangle {
     radius: ring.corner + ring.offset
     color: "transparent"
     border.width: 2
-    border.color: Theme.accent
+    border.color: Theme.ink
     visible: ring.shown
 }

@@ -15,11 +15,13 @@ FocusScope {
 
     implicitHeight: column.implicitHeight
 
-    // A control that vanishes with its phase leaves the keyboard where the person goes on: at the button.
+    // A control that vanishes with its phase leaves the keyboard where the person goes on: at the button, and with the
+    // ring around it if that is what the person steers by.
     Connections {
         target: hero.survey
         function onPhaseChanged() {
-            scanButton.focus = true;
+            const ringed = (hero.Window.activeFocusItem as BaseButton)?.visualFocus ?? false;
+            scanButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
         }
     }
 
@@ -92,6 +94,8 @@ FocusScope {
                     text: hero.survey.itemsLine
                     color: Theme.ink
                     pixelSize: 13
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                 }
 
                 HeroText {
