@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QImage>
 #include <QTest>
+#include <QTimer>
 
 namespace zelk::tour {
 
@@ -29,7 +30,10 @@ bool isBlank(const QImage& picture) {
 }  // namespace
 
 void waitUntil(const std::function<bool()>& done) {
-    while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    // What is awaited may change without an event. (With a time of its own the loop would not wait at all.)
+    QTimer wake;
+    wake.start(20);
+    while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 QQuickItem* findControl(QQuickWindow& window, const QString& name) {

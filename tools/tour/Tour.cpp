@@ -17,6 +17,12 @@ constexpr std::int64_t midScanEntries = 60'000;
 
 const QString scanButton = QStringLiteral("scanButton");
 
+/// Always false.
+bool missed(const QString& theme, const char* phase) {
+    std::fprintf(stderr, "tour: missed %s in the %s theme\n", phase, qPrintable(theme));
+    return false;
+}
+
 }  // namespace
 
 Tour::Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize size)
@@ -30,13 +36,32 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize
 
 bool Tour::run() {
     for (const bool dark : {true, false}) {
-        app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
-        const QString theme = dark ? QStringLiteral("dark") : QStringLiteral("light");
-        app_.cancelScan();  // from the results of the last survey back to the start
-        if (app_.scanPhase() != AppModel::ScanPhase::idle || !picture(theme + QStringLiteral("-idle"))) return false;
+        const QString theme = dress(dark);
+        if (!idle(theme) || !picture(theme + QStringLiteral("-idle"))) return false;
         if (!survey(theme, !dark)) return false;
     }
-    return true;
+    return focus(dress(true)) && focus(dress(false));
+}
+
+QString Tour::dress(bool dark) {
+    app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
+    return dark ? QStringLiteral("dark") : QStringLiteral("light");
+}
+
+/// From the results of the last survey back to the start.
+bool Tour::idle(const QString& theme) {
+    app_.cancelScan();
+    return app_.scanPhase() == AppModel::ScanPhase::idle || missed(theme, "the start");
+}
+
+/// Where the keyboard is: around the button, which is where a ring stands out least.
+bool Tour::focus(const QString& theme) {
+    if (!idle(theme)) return false;
+    pressKey(window_.window(), Qt::Key_Tab);
+    pressKey(window_.window(), Qt::Key_Backtab);
+    const QQuickItem* focused = window_.window().activeFocusItem();
+    if (focused == nullptr || focused->objectName() != scanButton) return missed(theme, "the button's focus");
+    return picture(theme + QStringLiteral("-focus"));
 }
 
 bool Tour::survey(const QString& theme, bool withKeyboard) {
@@ -47,9 +72,10 @@ bool Tour::survey(const QString& theme, bool withKeyboard) {
     if (withKeyboard)
         pressKey(window_.window(), Qt::Key_Return);
     else if (!clickOn(window_.window(), scanButton))
-        return false;
+        return missed(theme, "the scan button");
     waitUntil(stoppedOrOver);
-    if (!scanning() || !picture(theme + QStringLiteral("-scanning"))) return false;
+    if (!scanning()) return missed(theme, "the beginning of a survey");
+    if (!picture(theme + QStringLiteral("-scanning"))) return false;
 
     // On a tree of some size there is a better moment.
     directories_.pauseAfter(midScanEntries);
@@ -61,7 +87,8 @@ bool Tour::survey(const QString& theme, bool withKeyboard) {
     directories_.resume();
 
     waitUntil([&] { return !scanning(); });
-    return app_.scanPhase() == AppModel::ScanPhase::finished && picture(theme + QStringLiteral("-finished"));
+    if (app_.scanPhase() != AppModel::ScanPhase::finished) return missed(theme, "the end of a survey");
+    return picture(theme + QStringLiteral("-finished"));
 }
 
 bool Tour::picture(const QString& name) {

@@ -14,11 +14,14 @@ class Tour {
 public:
     Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize size);
 
-    /// All phases in both themes. False if a phase was missed or a picture could not be taken.
+    /// All phases in both themes, and the keyboard's place. False if one was missed or a picture could not be taken.
     bool run();
 
 private:
+    QString dress(bool dark);
+    bool idle(const QString& theme);
     bool survey(const QString& theme, bool withKeyboard);
+    bool focus(const QString& theme);
     bool picture(const QString& name);
 
     AppModel& app_;
