@@ -6,10 +6,9 @@
 //   platform/    what the rest needs of the operating system, one interface per service (Platform.h holds them all);
 //                linux/, macos/ and posix/ are the services, NativePlatform makes those of this system
 //   scan/        FSNode is the tree; ParallelWalker fills it; ScanEngine turns roots into a stream of ScanUpdates,
-//   which
-//                an UpdateQueue carries to the main thread
+//                which an UpdateQueue carries to the main thread
 //   reclaim/     ReclaimCatalogue is the closed table of what may go; ReclaimClassifier finds it in a tree
-//   system/      what the machine knows that a scan cannot see: the score, snapshots, levers
+//   system/      holds its place: what the machine knows that a scan cannot see will stand here
 //   state/       AppModel is the one state that every screen shows; SurveyHistory is the one file that Zelk writes
 //   ui/text/     bytes into what a person reads
 //   ui/theme/    ZelkTheme's two instances; Theme and Motion hand them to QML
