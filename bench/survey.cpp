@@ -4,6 +4,7 @@
 // goes by; ZELK_WORKERS sets the number of threads.
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -122,6 +123,7 @@ int main(int count, char** words) {
     NativePlatform native(home);
     const std::string json = jsonOf(surveyOf(native.platform(), std::move(roots)));
     const bool printed = std::fwrite(json.data(), 1, json.size(), stdout) == json.size() && std::puts("") >= 0;
-    native.drain(1.0);
-    return printed ? 0 : 1;
+    const int status = std::fflush(stdout) == 0 && printed ? 0 : 1;
+    if (!native.drain(1.0)) std::_Exit(status);  // a thread that still uses the services: they must not go
+    return status;
 }

@@ -12,7 +12,7 @@ enum class TaskPriority { userInitiated, standard, utility };
 class BackgroundTasks {
 public:
     virtual ~BackgroundTasks() = default;
-    /// Runs `task` on a thread of its own, once, soon.
+    /// Runs `task` once, soon, on a thread of its own; on the caller's if the machine can make no more threads.
     virtual void run(TaskPriority priority, std::function<void()> task) = 0;
 };
 

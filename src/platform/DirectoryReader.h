@@ -3,7 +3,8 @@
 //
 // A DirectoryRoot is a scan root held open for the length of a scan. A DirectoryReader belongs to one thread; it stands
 // at one directory at a time, and goes to another with open(), descend() and ascend(). No step ever follows a symbolic
-// link below the root, so a tree that is changed under a walk cannot lead it outside.
+// link below the root, so a tree that is changed under a walk cannot lead it outside. (A folder that is
+// moved away while a reader stands in it is read to its end where it is.)
 #pragma once
 
 #include <cstdint>

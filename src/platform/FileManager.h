@@ -21,13 +21,14 @@ class FileManager {
 public:
     virtual ~FileManager() = default;
 
-    /// Follows links, so a dangling one does not exist.
+    /// Follows links, so a dangling one does not exist; nor does what lies beyond the longest path of the system.
     virtual bool exists(const std::string& path) = 0;
     virtual std::optional<FileProperties> properties(const std::string& path) = 0;
     /// The names in a directory, without "." and "..", unsorted; absent if it cannot be listed.
     virtual std::optional<std::vector<std::string>> list(const std::string& path) = 0;
-    /// The bytes allocated by everything below the directory `path`, packages gone into, links not followed, entries
-    /// with a leading dot left out with all they hold. What cannot be read counts 0.
+    /// The bytes allocated by everything below the directory `path`, packages gone into, links not followed, what the
+    /// system hides (a leading dot; on macOS also a flag) left out with all it holds, and other volumes not gone into.
+    /// What cannot be read counts 0.
     virtual std::uint64_t allocatedSizeBelow(const std::string& path) = 0;
 
     /// The whole content; absent on any failure.

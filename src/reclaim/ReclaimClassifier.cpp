@@ -88,9 +88,10 @@ ReclaimMethod methodOf(std::string_view categoryID) {
     return ReclaimMethod::trash();
 }
 
-/// `home` without slashes at its end, so that a path rule follows it directly.
+/// `home` without slashes at its end, so that a path rule follows it directly. "/" stays: it is the home of a user
+/// without one, whose "/Library" is the system's.
 std::string_view trimmed(std::string_view home) {
-    while (home.ends_with('/')) home.remove_suffix(1);
+    while (home.size() > 1 && home.ends_with('/')) home.remove_suffix(1);
     return home;
 }
 

@@ -59,7 +59,7 @@ void ParallelWalker::run(std::vector<Work> seeds) {
     }
     startWorkers();
     std::unique_lock lock(mutex_);
-    cond_.wait(lock, [this] { return done_; });
+    finished_.wait(lock, [this] { return done_; });
     // The threads may still be on their way out, but none is in a visit: nobody touches the collectors or the tree.
 }
 
@@ -89,6 +89,7 @@ bool ParallelWalker::take(Work& work, bool finishedOne) {
     if (finishedOne && --outstanding_ == 0) {
         done_ = true;
         cond_.notify_all();
+        finished_.notify_all();
     }
     while (stack_.empty() && !done_) {
         ++waiting_;

@@ -76,14 +76,15 @@ private:
     const std::shared_ptr<CancelFlag> cancel_;
     const std::shared_ptr<UpdateQueue> queue_;
 
-    // The lock guards the four fields below it and nothing else. It is never held across the file system or another
+    // The lock guards the four fields at the end and nothing else. It is never held across the file system or another
     // lock.
     std::mutex mutex_;
-    std::condition_variable cond_;
-    std::vector<Work> stack_;       ///< last in, first out
-    std::int64_t outstanding_ = 0;  ///< pushed and not yet finished, those being visited included
-    std::int64_t waiting_ = 0;      ///< threads that wait for work
-    bool done_ = false;             ///< set once, when nothing is outstanding any more
+    std::condition_variable cond_;      // of the workers alone, so that no signal for one of them goes elsewhere
+    std::condition_variable finished_;  // of run()
+    std::vector<Work> stack_;           ///< last in, first out
+    std::int64_t outstanding_ = 0;      ///< pushed and not yet finished, those being visited included
+    std::int64_t waiting_ = 0;          ///< threads that wait for work
+    bool done_ = false;                 ///< set once, when nothing is outstanding any more
 };
 
 }  // namespace zelk

@@ -70,10 +70,18 @@ std::shared_ptr<CancelFlag> cancelledBy(UpdateQueue& queue) {
 
 void ScanEngine::start(std::shared_ptr<UpdateQueue> queue, std::vector<std::string> roots) {
     const std::shared_ptr<CancelFlag> cancel = cancelledBy(*queue);
+    std::vector<std::string> named = roots;
     auto body = [&directories = directories_, &clock = clock_, cancel, queue, roots = std::move(roots)] {
         scanBody(directories, clock, cancel, queue, roots);
     };
-    startThread("zelk.scan", ParallelWalker::stackBytes, std::move(body));
+    try {
+        startThread("zelk.scan", ParallelWalker::stackBytes, std::move(body));
+    } catch (const std::system_error&) {
+        // The machine can make no more threads: a survey that found nothing, told in the usual order.
+        queue->yield(update::Insights{});
+        queue->yield(update::Finished{FSNode::make("", clock_.now()), {.roots = std::move(named)}});
+        queue->finish();
+    }
 }
 
 ScanPhases ScanEngine::runHere(const std::shared_ptr<UpdateQueue>& queue, std::vector<std::string> roots) {

@@ -44,6 +44,10 @@ void AppModel::releaseElsewhere(NodeRef tree) {
     if (tree) releaseOn(platform_.tasks, std::move(tree));
 }
 
+void AppModel::releaseElsewhere(std::vector<Reclaimable> items) {
+    if (!items.empty()) releaseOn(platform_.tasks, std::move(items));
+}
+
 void AppModel::releaseElsewhere(std::vector<ScanUpdate> updates) {
     if (!updates.empty()) releaseOn(platform_.tasks, std::move(updates));
 }

@@ -154,7 +154,6 @@ private:
     void removeWhatWaited(ScanTask& task);
     void withdraw(ScanTask& task);
     void recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t total, const NodeRef& tree);
-    void forgetSurvey(SurveyRecord record);
     void conclude(const std::shared_ptr<ScanTask>& task, std::vector<SurveyRecord> history);
     void settleTrash();
     void takeTrashMeasure(std::uint64_t number, std::optional<std::uint64_t> bytes);
@@ -163,6 +162,7 @@ private:
     const std::string& firstPlace() const { return scanRoots_.empty() ? home_ : scanRoots_.front(); }
     void releaseElsewhere(NodeRef tree);
     void releaseElsewhere(std::vector<ScanUpdate> updates);
+    void releaseElsewhere(std::vector<Reclaimable> items);
 
     template <class T>
     void assign(T& field, std::type_identity_t<T> value, void (AppModel::*changed)()) {

@@ -42,7 +42,7 @@ bool removeAtAndBelow(std::vector<Item>& items, const std::string& path) {
 
 void AppModel::setReclaimables(std::vector<Reclaimable> items) {
     if (std::equal(items.begin(), items.end(), reclaimables_.begin(), reclaimables_.end(), sameInAll)) return;
-    reclaimables_ = std::move(items);
+    releaseElsewhere(std::exchange(reclaimables_, std::move(items)));
     emit reclaimablesChanged();
 }
 
@@ -58,7 +58,10 @@ std::vector<Reclaimable> AppModel::safeItems() const {
 }
 
 std::int64_t AppModel::safeBytes() const {
-    return totalSize(safeItems());
+    std::int64_t bytes = 0;
+    for (const Reclaimable& item : reclaimables_)
+        if (item.safety == ReclaimSafety::safe) bytes += static_cast<std::int64_t>(item.size);
+    return bytes;
 }
 
 std::int64_t AppModel::freeBytes() const {

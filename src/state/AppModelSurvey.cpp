@@ -148,23 +148,20 @@ void AppModel::recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t 
     auto work = [this, sender = calls_.sender(), waiting = std::weak_ptr(task), cancelled = task->cancelled,
                  file = historyFile_, tree, record]() mutable {
         record.folders = bigFolders(*tree, 20'000'000, 400);
-        auto history = file->appendIf([&] { return !cancelled->isSet(); }, record);
+        auto history = file->appendIf([cancelled] { return !cancelled->isSet(); }, record);
         if (!history) return;
-        sender.post([this, waiting, cancelled, record = std::move(record), history = std::move(*history)]() mutable {
+        // A cancel that came while the file was being written, or comes before the survey counts, leaves no record all
+        // the same.
+        if (cancelled->isSet()) return file->settle();
+        sender.post([this, waiting, cancelled, file, history = std::move(*history)]() mutable {
             if (cancelled->isSet())
-                forgetSurvey(std::move(record));
+                platform_.tasks.run(TaskPriority::standard, [file] { file->settle(); });
             else if (const auto awaited = waiting.lock())
                 conclude(awaited, std::move(history));
         });
     };
     task->treeIsRead = true;
     platform_.tasks.run(TaskPriority::standard, std::move(work));
-}
-
-/// A cancel that came while the record was being written leaves none all the same.
-void AppModel::forgetSurvey(SurveyRecord record) {
-    platform_.tasks.run(TaskPriority::utility,
-                        [file = historyFile_, record = std::move(record)] { file->remove(record); });
 }
 
 void AppModel::conclude(const std::shared_ptr<ScanTask>& task, std::vector<SurveyRecord> history) {

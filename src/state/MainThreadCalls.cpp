@@ -4,24 +4,27 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QObject>
+#include <deque>
 #include <mutex>
 #include <utility>
-#include <vector>
 
 namespace zelk {
 
 // The closures stand in a list of our own behind our own lock; Qt carries only the bare wake-up event. So what passes
-// between threads is ordered by a lock that a thread checker sees, and one event serves any number of closures.
+// between threads is ordered by a lock that a thread checker sees. An event for each: a closure with an event loop of
+// its own then holds up none of those behind it.
 struct MainThreadCalls::Sender::Line {
     std::mutex mutex;
-    std::vector<Call> calls;
+    std::deque<Call> calls;
     QObject* receiver = nullptr;  // cleared on the main thread when it closes
-    bool woken = false;
 
-    std::vector<Call> take() {
+    /// The oldest; empty if there is none.
+    Call take() {
         const std::lock_guard lock(mutex);
-        woken = false;
-        return std::exchange(calls, {});
+        if (calls.empty()) return nullptr;
+        Call oldest = std::move(calls.front());
+        calls.pop_front();
+        return oldest;
     }
 };
 
@@ -30,7 +33,6 @@ void MainThreadCalls::Sender::post(Call call) const {
     const std::lock_guard lock(line_->mutex);
     if (line_->receiver == nullptr) return;
     line_->calls.push_back(std::move(call));
-    if (std::exchange(line_->woken, true)) return;
     QCoreApplication::postEvent(line_->receiver, new QEvent(QEvent::User));
 }
 
@@ -40,7 +42,8 @@ public:
 
     bool event(QEvent* event) override {
         // The lock is taken before the event is looked at, as it was held when the event was made.
-        for (const Call& call : line_->take()) call();
+        const Call call = line_->take();
+        if (call) call();
         return event->type() == QEvent::User || QObject::event(event);
     }
 
@@ -59,7 +62,7 @@ MainThreadCalls::~MainThreadCalls() {
 }
 
 void MainThreadCalls::close() {
-    std::vector<Call> dropped;
+    std::deque<Call> dropped;
     const std::lock_guard lock(sender_.line_->mutex);
     sender_.line_->receiver = nullptr;
     dropped.swap(sender_.line_->calls);

@@ -153,28 +153,42 @@ std::vector<SurveyRecord> SurveyHistory::load() const {
     return json ? decodeHistory(*json).value_or(std::vector<SurveyRecord>()) : std::vector<SurveyRecord>();
 }
 
-std::vector<SurveyRecord> SurveyHistory::append(const SurveyRecord& record) const {
+std::vector<SurveyRecord> SurveyHistory::append(const SurveyRecord& record) {
     return *appendIf([] { return true; }, record);
 }
 
-std::optional<std::vector<SurveyRecord>> SurveyHistory::appendIf(const std::function<bool()>& stillWanted,
-                                                                 const SurveyRecord& record) const {
+std::optional<std::vector<SurveyRecord>> SurveyHistory::appendIf(std::function<bool()> stillWanted,
+                                                                 const SurveyRecord& record) {
     const std::lock_guard lock(writing_);
     std::vector<SurveyRecord> records = load();
+    withdrawUnwanted(records);
     records.push_back(record);
-    if (records.size() > maximumRecords) records.erase(records.begin(), records.end() - maximumRecords);
+    const std::size_t excess = records.size() - std::min(records.size(), maximumRecords);
+    const auto kept = records.begin() + static_cast<std::ptrdiff_t>(excess);
+    Last last{std::move(stillWanted), record, {records.begin(), kept}};
+    records.erase(records.begin(), kept);
     const std::string json = encodeHistory(records);
     const std::optional<std::string> path = location();
-    if (!stillWanted()) return std::nullopt;
+    if (!last.stillWanted()) return std::nullopt;
     if (path) files_.replaceDurably(*path, json);
+    last_ = std::move(last);
     return records;
 }
 
-void SurveyHistory::remove(const SurveyRecord& record) const {
+void SurveyHistory::settle() {
     const std::lock_guard lock(writing_);
     std::vector<SurveyRecord> records = load();
     const std::optional<std::string> path = location();
-    if (path && std::erase(records, record) != 0) files_.replaceDurably(*path, encodeHistory(records));
+    if (withdrawUnwanted(records) && path) files_.replaceDurably(*path, encodeHistory(records));
+}
+
+bool SurveyHistory::withdrawUnwanted(std::vector<SurveyRecord>& records) {
+    if (!last_ || last_->stillWanted()) return false;
+    const Last last = std::move(*last_);
+    last_.reset();
+    if (std::erase(records, last.record) == 0) return false;
+    records.insert(records.begin(), last.dropped.begin(), last.dropped.end());
+    return true;
 }
 
 }  // namespace zelk

@@ -33,17 +33,26 @@ public:
     std::vector<SurveyRecord> load() const;
     /// Adds `record`, drops the oldest above the maximum, writes, and gives the whole list whether or not the write
     /// succeeded.
-    std::vector<SurveyRecord> append(const SurveyRecord& record) const;
-    /// The same, but asks at the last moment before the write; if not, nothing is written nor given.
-    std::optional<std::vector<SurveyRecord>> appendIf(const std::function<bool()>& stillWanted,
-                                                      const SurveyRecord& record) const;
-    /// Takes one record out again. Of a full history the oldest one, which made room for it, does not come back.
-    void remove(const SurveyRecord& record) const;
+    std::vector<SurveyRecord> append(const SurveyRecord& record);
+    /// The same for a record that may turn out to be unwanted, before, during or after the write: then nothing is
+    /// written nor given, or the next settle() or append takes it out again. `stillWanted` must not lock.
+    std::optional<std::vector<SurveyRecord>> appendIf(std::function<bool()> stillWanted, const SurveyRecord& record);
+    /// Takes the last record out of the file, and puts back what made room for it, if it is not wanted any more.
+    void settle();
 
 private:
+    struct Last {
+        std::function<bool()> stillWanted;
+        SurveyRecord record;
+        std::vector<SurveyRecord> dropped;  ///< the oldest, which made room for it
+    };
+
+    bool withdrawUnwanted(std::vector<SurveyRecord>& records);
+
     FileManager& files_;
     Locations& locations_;
-    mutable std::mutex writing_;  // held from the reading of the file to the end of its writing
+    std::mutex writing_;  // held from the reading of the file to the end of its writing
+    std::optional<Last> last_;
 };
 
 }  // namespace zelk

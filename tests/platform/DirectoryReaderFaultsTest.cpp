@@ -84,6 +84,16 @@ TEST_F(DirectoryReaderFaults, mountPointThatDoesNotAnswerIsLeftOut) {
     EXPECT_EQ(count(), 5u);
 }
 
+// A damaged folder is one like any other until it is opened, and is found unreadable then.
+TEST_F(DirectoryReaderFaults, damagedFolderIsStillAnEntry) {
+    zoo::makeWide(temp / "few", 0, 5);
+    open(temp / "few");
+    for (const int error : {EIO, ESTALE, EUCLEAN}) {
+        EXPECT_EQ(countBehind(SYS_statx, [&](unsigned call) { return call == 2 ? error : 0; }), 5u) << error;
+        EXPECT_EQ(countBehind(SYS_statx, [&](unsigned call) { return call >= 2 ? error : 0; }), unreadable) << error;
+    }
+}
+
 TEST_F(DirectoryReaderFaults, entryRemovedBetweenListingAndAskingIsLeftOut) {
     for (const unsigned at : {0u, 2u, 4u}) {
         const std::string folder = temp / std::to_string(at);

@@ -40,12 +40,19 @@ bool isDotOrDotDot(const char* name) {
     return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
 
-/// Tells a folder whose entries may not be looked at (which is then unreadable as a whole) from a single subfolder that
-/// does not answer: a mount point whose file system is dead or another user's. That one lies on another device and
-/// would be left out in any case; it must not cost the folder that holds it.
-bool canLookInto(int directory) {
-    DirEntry entry;
-    return statxEntry(directory, ".", entry) == StatxOutcome::ok;
+enum class Unanswering {
+    all,         ///< no entry of the directory may be looked at: it is unreadable as a whole
+    mountPoint,  ///< of a dead file system, or of another user's: on another device, and left out in any case
+    folder,      ///< damaged, say: an entry like any other, and found unreadable when it is opened
+};
+
+/// What it means that a subfolder of `directory` did not answer a statx. One of them must not cost the folder that
+/// holds it. For a folder `entry` is filled, but for its name.
+Unanswering unansweringFolder(int directory, int error, DirEntry& entry) {
+    if (statxEntry(directory, ".", entry) != StatxOutcome::ok) return Unanswering::all;
+    entry.fileID = 0;
+    const bool isMount = error == EACCES || error == ENOTCONN || error == EHOSTDOWN || error == ETIMEDOUT;
+    return isMount ? Unanswering::mountPoint : Unanswering::folder;
 }
 
 class LinuxDirectoryReader : public DirectoryReader {
@@ -112,8 +119,17 @@ private:
                 case StatxOutcome::gone:
                     break;  // deleted since it was listed: it is not there, and that is no failure
                 case StatxOutcome::failed:
-                    if (record.type == DT_DIR && canLookInto(directory)) break;
-                    return false;
+                    if (record.type != DT_DIR) return false;
+                    switch (unansweringFolder(directory, errno, entries_.back())) {
+                        case Unanswering::mountPoint:
+                            break;
+                        case Unanswering::folder:
+                            entries_.back().name = name;
+                            continue;
+                        case Unanswering::all:
+                            return false;
+                    }
+                    break;
             }
             entries_.pop_back();
         }

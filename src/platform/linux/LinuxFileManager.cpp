@@ -30,12 +30,15 @@ bool statusOf(const std::string& path, int flags, struct stat& status) {
 /// list for all levels and its own stack: neither the depth nor the number of a stranger's folders may end the process.
 class PendingFolders {
 public:
+    explicit PendingFolders(std::int32_t device) : device_(device) {}
+
     /// Goes down a level and takes its folders in.
     void enter(const DirectoryReader::Entries* entries) {
         starts_.push_back(names_.size());
         if (entries == nullptr) return;
         for (const DirEntry& entry : *entries) {
-            if (entry.objType == directoryObjectType && !isHidden(entry)) names_.emplace_back(entry.name);
+            if (entry.objType == directoryObjectType && entry.deviceID == device_ && !isHidden(entry))
+                names_.emplace_back(entry.name);
         }
     }
     bool done() const { return starts_.empty(); }
@@ -50,6 +53,7 @@ public:
     static bool isHidden(const DirEntry& entry) { return entry.name.starts_with('.'); }
 
 private:
+    std::int32_t device_;
     std::vector<std::string> names_;
     std::vector<std::size_t> starts_;
 };
@@ -66,8 +70,10 @@ std::uint64_t allocatedByFiles(const DirectoryReader::Entries* entries) {
 }  // namespace
 
 bool LinuxFileManager::exists(const std::string& path) {
+    // Beyond PATH_MAX every question would be an opening from the top in pieces, and a chain of folders that are each
+    // asked about could keep a classification busy for minutes. Nothing there is reached by its path in any case.
     struct stat status {};
-    return statusOf(path, 0, status);
+    return path.size() < PATH_MAX && ::stat(path.c_str(), &status) == 0;
 }
 
 std::optional<FileProperties> LinuxFileManager::properties(const std::string& path) {
@@ -83,10 +89,11 @@ std::optional<std::vector<std::string>> LinuxFileManager::list(const std::string
 
 std::uint64_t LinuxFileManager::allocatedSizeBelow(const std::string& path) {
     LinuxDirectoryService service;
+    const std::optional<RootStatus> status = service.status(path);
     const std::shared_ptr<const DirectoryRoot> root = service.openRoot(path);
-    if (!root) return 0;
+    if (!status || !root) return 0;
     const std::unique_ptr<DirectoryReader> reader = service.makeReader();
-    PendingFolders pending;
+    PendingFolders pending(status->device);
     const DirectoryReader::Entries* entries = reader->open(*root, "");
     std::uint64_t bytes = allocatedByFiles(entries);
     for (pending.enter(entries); !pending.done();) {

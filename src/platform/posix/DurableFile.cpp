@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <time.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -89,7 +90,12 @@ void sweep(const Descriptor& folder) {
 /// fails, the old content in place: names are random, so it never renames a file that another is still writing.
 void joinWriters(const Descriptor& folder) {
     if (::flock(folder.get(), LOCK_EX | LOCK_NB) == 0) sweep(folder);
-    uninterrupted([&] { return ::flock(folder.get(), LOCK_SH); });
+    // A sweep is over in a moment. Whoever holds the lock for longer is no writer of ours, and is not waited for.
+    constexpr timespec pause{0, 5'000'000};
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        if (::flock(folder.get(), LOCK_SH | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
+        ::nanosleep(&pause, nullptr);
+    }
 }
 
 bool writeAll(const Descriptor& file, std::string_view content) {
@@ -114,9 +120,9 @@ Descriptor openFolder(const std::string& path) {
     return Descriptor(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
 }
 
-bool fill(Descriptor file, std::string_view content, std::optional<mode_t> mode) {
+bool fill(Descriptor file, std::string_view content, mode_t mode) {
     // Not every volume has permissions to set; the content counts for more, and 0600 shows it to nobody else.
-    if (mode) static_cast<void>(::fchmod(file.get(), *mode));
+    static_cast<void>(::fchmod(file.get(), mode));
     return writeAll(file, content) && flush(file) && file.close();
 }
 
@@ -136,7 +142,7 @@ bool replaceFileDurably(const std::string& path, std::string_view content) {
     struct stat old {};
     const bool exists = ::fstatat(folder.get(), place->name.c_str(), &old, AT_SYMLINK_NOFOLLOW) == 0;
     if (exists ? !S_ISREG(old.st_mode) : errno != ENOENT) return false;
-    const std::optional<mode_t> mode = exists ? std::optional<mode_t>(old.st_mode & 0777) : std::nullopt;
+    const mode_t mode = exists ? old.st_mode & 0777 : 0600;
 
     joinWriters(folder);
     const std::string temporary = temporaryName();
@@ -170,6 +176,7 @@ std::optional<std::string> readWholeFile(const std::string& path) {
         if (got < 0) return std::nullopt;
         if (got == 0) break;
         length += static_cast<std::size_t>(got);
+        if (length > static_cast<std::size_t>(maximumRead)) return std::nullopt;  // it grows while it is read
     }
     content.resize(length);
     return content;
