@@ -9,6 +9,7 @@ namespace {
 
 std::vector<QSizeF> sizesOf(const std::vector<QQuickItem*>& items) {
     std::vector<QSizeF> sizes;
+    sizes.reserve(static_cast<std::size_t>(items.size()));
     for (const QQuickItem* item : items) sizes.emplace_back(item->width(), item->height());
     return sizes;
 }
