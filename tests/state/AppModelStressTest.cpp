@@ -79,9 +79,12 @@ TEST(AppModelStress, cancellingAtAHundredMomentsLeavesNothing) {
         EXPECT_EQ(model.history().size(), std::min<std::size_t>(finished, SurveyHistory::maximumRecords));
     }
 
-    while (!native.drain(1)) {
+    // What comes back from the last scan may be a record to take back, which is a task of its own.
+    for (int turn = 0; turn < 2; ++turn) {
+        while (!native.drain(1)) {
+        }
+        runWhatIsThere();
     }
-    runWhatIsThere();
     EXPECT_EQ(model.scanPhase(), AppModel::ScanPhase::idle);
     EXPECT_EQ(SurveyHistory(native.platform().files, native.platform().locations).load().size(),
               std::min<std::size_t>(finished, SurveyHistory::maximumRecords));
