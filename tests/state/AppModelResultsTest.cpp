@@ -146,26 +146,26 @@ TEST_F(AppModelResultsTest, topFoldersOfNoRootsAreNone) {
 // Removal.
 
 TEST_F(AppModelResultsTest, removalTakesTheSizeOffEveryFolderAbove) {
-    machine.directories.file(home + "/work/big/film.mov", 10'000'000'000);
-    machine.directories.file(home + "/work/small", 5'000);
-    machine.directories.file(home + "/work/big/disk.iso", 90'000'000);
-    machine.directories.file(home + "/work/big/app/node_modules/m", 1'000'000);
+    machine.directories.file(home + "/jobs/big/film.mov", 10'000'000'000);
+    machine.directories.file(home + "/jobs/small", 5'000);
+    machine.directories.file(home + "/jobs/big/disk.iso", 90'000'000);
+    machine.directories.file(home + "/jobs/big/app/node_modules/m", 1'000'000);
     survey();
     const std::int64_t scanned = model().bytesScanned();
     const std::int64_t items = model().itemsScanned();
     const std::optional<ScanStats> stats = model().stats();
     const TypeTotals types = model().insights().typeTotals;
-    const NodeRef work = folderAt(model().root(), home + "/work");
+    const NodeRef work = folderAt(model().root(), home + "/jobs");
     ASSERT_EQ(model().reclaimables().size(), 1U);
     takeSignals();
 
-    remove(home + "/work/big");
+    remove(home + "/jobs/big");
     EXPECT_EQ(model().root()->size, 5'000);
     EXPECT_EQ(model().root()->children.front()->size, 5'000);
     EXPECT_EQ(work->size, 5'000);
     EXPECT_TRUE(work->children.empty());
     EXPECT_EQ(reclaimablePaths(), Strings{});
-    EXPECT_EQ(topFilePaths(), Strings{home + "/work/small"});
+    EXPECT_EQ(topFilePaths(), Strings{home + "/jobs/small"});
     EXPECT_EQ(takeSignals(), (Strings{"root", "reclaimables", "insights"}));
 
     // What tells of the survey as it ran stays.
@@ -174,7 +174,7 @@ TEST_F(AppModelResultsTest, removalTakesTheSizeOffEveryFolderAbove) {
     EXPECT_EQ(model().stats(), stats);
     EXPECT_EQ(model().insights().typeTotals, types);
     ASSERT_EQ(model().insights().diskImages.size(), 1U);
-    EXPECT_EQ(model().insights().diskImages.front().path, home + "/work/big/disk.iso");
+    EXPECT_EQ(model().insights().diskImages.front().path, home + "/jobs/big/disk.iso");
 }
 
 TEST_F(AppModelResultsTest, removalMatchesWholeNamesOnly) {
