@@ -89,8 +89,8 @@ int main(int argc, char** argv) {
     zelk::NativePlatform native;
     const zelk::Platform& real = native.platform();
     zelk::tour::ScratchLocations locations(real.locations, support.path().toStdString());
-    const zelk::Platform platform{real.clock,  real.directories, real.files, real.trash,
-                                  real.vitals, locations,        real.tasks};
+    const zelk::Platform platform{real.clock, real.directories, real.files,     real.trash,    real.vitals,
+                                  locations,  real.tasks,       real.processes, real.workspace};
     {
         zelk::AppModel app(platform);
         app.setScanRoots({std::filesystem::absolute(argv[1]).string()});

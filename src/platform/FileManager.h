@@ -2,11 +2,13 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/Failure.h"
+#include "platform/ItemPath.h"
 
 namespace zelk {
 
@@ -39,6 +41,13 @@ public:
     virtual bool replaceDurably(const std::string& path, std::string_view content) = 0;
     /// Creates `path` and what is missing above it. True if it is a directory afterwards.
     virtual bool createDirectories(const std::string& path) = 0;
+
+    /// Opens `path` for reading and closes it again: 0, or the errno of the opening.
+    virtual int tryOpen(const std::string& path) = 0;
+    /// Removes `item` for good, a folder with everything below it, a link without looking at its target; never what is
+    /// mounted below it, nor anything that was put in place of a part of the path while it works. On a failure some of
+    /// it may be gone.
+    virtual Failure remove(const ItemPath& item) = 0;
 };
 
 }  // namespace zelk

@@ -3,12 +3,14 @@
 #pragma once
 
 #include "platform/BackgroundTasks.h"
+#include "platform/ChildProcess.h"
 #include "platform/DirectoryReader.h"
 #include "platform/FileManager.h"
 #include "platform/Locations.h"
 #include "platform/Time.h"
 #include "platform/Trash.h"
 #include "platform/Vitals.h"
+#include "platform/Workspace.h"
 
 namespace zelk {
 
@@ -21,6 +23,8 @@ struct Platform {
     Vitals& vitals;
     Locations& locations;
     BackgroundTasks& tasks;
+    ChildProcess& processes;
+    Workspace& workspace;
 };
 
 }  // namespace zelk

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cerrno>
 #include <functional>
 #include <map>
 #include <mutex>
@@ -53,9 +54,16 @@ public:
     /// Takes away `path` and everything below it.
     void erase(const std::string& path) {
         const std::lock_guard lock(mutex_);
-        entries_.erase(path);
-        const std::string below = path == "/" ? path : path + "/";
-        std::erase_if(entries_, [&](const auto& entry) { return entry.first.starts_with(below); });
+        eraseBelow(path);
+    }
+    /// Gives `path` and everything below it another name. Not written down as a call.
+    void move(const std::string& path, const std::string& newPath) {
+        const std::lock_guard lock(mutex_);
+        Entries moved;
+        for (const auto& [old, entry] : entries_)
+            if (old == path || old.starts_with(path + "/")) moved.emplace(newPath + old.substr(path.size()), entry);
+        eraseBelow(path);
+        entries_.merge(moved);
     }
 
     // What goes wrong.
@@ -150,6 +158,21 @@ public:
         return makeFolders(path);
     }
 
+    /// EACCES where it is made to fail.
+    int tryOpen(const std::string& path) override {
+        if (fails("tryOpen", path)) return EACCES;
+        const std::lock_guard lock(mutex_);
+        return resolve(path) == entries_.end() ? ENOENT : 0;
+    }
+
+    Failure remove(const ItemPath& item) override {
+        if (fails("remove", item.text())) return item.text() + " would not go";
+        const std::lock_guard lock(mutex_);
+        if (!entries_.contains(item.text())) return item.text() + " does not exist";
+        eraseBelow(item.text());
+        return std::nullopt;
+    }
+
 private:
     enum class Kind { file, folder, link };
     struct Entry {
@@ -163,6 +186,12 @@ private:
         const std::size_t slash = path.rfind('/');
         if (slash == std::string::npos) return {};
         return slash == 0 ? "/" : path.substr(0, slash);
+    }
+
+    void eraseBelow(const std::string& path) {
+        entries_.erase(path);
+        const std::string below = path == "/" ? path : path + "/";
+        std::erase_if(entries_, [&](const auto& entry) { return entry.first.starts_with(below); });
     }
 
     bool fails(const char* operation, const std::string& path) {

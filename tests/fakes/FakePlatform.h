@@ -15,6 +15,7 @@
 #include "fakes/FakeDirectoryService.h"
 #include "fakes/FakeFileManager.h"
 #include "platform/Platform.h"
+#include "platform/Preferences.h"
 #include "platform/posix/ThreadCount.h"
 
 namespace zelk::fakes {
@@ -180,10 +181,92 @@ public:
         return entries;
     }
 
+    /// Fails where the file manager's `failing` says so of the operation "trash".
+    Failure trash(const ItemPath& item) override {
+        if (files_.failing && files_.failing({"trash", item.text()})) return item.text() + " would not go to the Trash";
+        if (!files_.properties(item.text())) return item.text() + " does not exist";
+        files_.move(item.text(), path + "/" + std::string(item.name()));
+        const std::lock_guard lock(mutex_);
+        trashed_.push_back(item.text());
+        return std::nullopt;
+    }
+    std::size_t empty() override {
+        std::size_t removed = 0;
+        for (const std::string& entry : list().value_or(std::vector<std::string>()))
+            if (!files_.remove(*ItemPath::from(entry))) ++removed;
+        return removed;
+    }
+    /// What was moved there, by the paths that it had, in order.
+    std::vector<std::string> trashed() const {
+        const std::lock_guard lock(mutex_);
+        return trashed_;
+    }
+
 private:
     FakeFileManager& files_;
-    std::mutex mutex_;
+    mutable std::mutex mutex_;
     bool accessible_ = true;
+    std::vector<std::string> trashed_;
+};
+
+/// Every program ends well and says nothing, until a test sets the outcome.
+class FakeProcesses : public ChildProcess {
+public:
+    struct Call {
+        std::string executable;
+        std::vector<std::string> arguments;
+
+        bool operator==(const Call&) const = default;
+    };
+
+    /// Set it before other threads come.
+    std::function<ChildOutcome(const Call&)> outcome = [](const Call&) { return ChildOutcome{}; };
+
+    std::vector<Call> calls() const {
+        const std::lock_guard lock(mutex_);
+        return calls_;
+    }
+
+    ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments) override {
+        const Call call{executable, arguments};
+        {
+            const std::lock_guard lock(mutex_);
+            calls_.push_back(call);
+        }
+        return outcome(call);
+    }
+
+private:
+    mutable std::mutex mutex_;
+    std::vector<Call> calls_;
+};
+
+/// Main thread.
+class FakeWorkspace : public Workspace {
+public:
+    std::vector<std::string> running;
+    int runningReads = 0;
+    std::vector<std::vector<std::string>> revealed;
+    std::vector<std::string> opened;
+
+    std::vector<std::string> runningApplications() override {
+        ++runningReads;
+        return running;
+    }
+    void reveal(const std::vector<std::string>& paths) override { revealed.push_back(paths); }
+    void openURL(const std::string& url) override { opened.push_back(url); }
+};
+
+/// In memory.
+class FakePreferences : public Preferences {
+public:
+    std::map<std::string, bool> flags;
+
+    bool flag(const std::string& key) override {
+        const auto found = flags.find(key);
+        return found != flags.end() && found->second;
+    }
+    void setFlag(const std::string& key, bool value) override { flags[key] = value; }
 };
 
 /// The services together. It goes only when the threads of all scans have ended: a walk that is still held hangs it.
@@ -196,13 +279,15 @@ public:
     FakeVitals vitals;
     FakeLocations locations;
     FakeTasks tasks;
+    FakeProcesses processes;
+    FakeWorkspace workspace;
 
     FakePlatform() = default;
     FakePlatform(const FakePlatform&) = delete;
     FakePlatform& operator=(const FakePlatform&) = delete;
     ~FakePlatform() { waitForThreads(); }
 
-    Platform platform() { return {clock, directories, files, trash, vitals, locations, tasks}; }
+    Platform platform() { return {clock, directories, files, trash, vitals, locations, tasks, processes, workspace}; }
 
     /// Until every thread of every scan has ended.
     static void waitForThreads() {

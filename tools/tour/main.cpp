@@ -53,7 +53,8 @@ int main(int argc, char** argv) {
     const zelk::Platform& real = native.platform();
     zelk::tour::PausingDirectories directories(real.directories);
     zelk::tour::ScratchLocations locations(real.locations, support.path().toStdString());
-    const zelk::Platform platform{real.clock, directories, real.files, real.trash, real.vitals, locations, real.tasks};
+    const zelk::Platform platform{real.clock, directories, real.files,     real.trash,    real.vitals,
+                                  locations,  real.tasks,  real.processes, real.workspace};
 
     bool complete = false;
     {

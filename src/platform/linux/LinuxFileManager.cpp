@@ -121,4 +121,13 @@ bool LinuxFileManager::createDirectories(const std::string& path) {
     return createDirectoryTree(path);
 }
 
+int LinuxFileManager::tryOpen(const std::string& path) {
+    const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
+    return file ? 0 : errno;
+}
+
+Failure LinuxFileManager::remove(const ItemPath& item) {
+    return item.text() + " cannot be removed yet";
+}
+
 }  // namespace zelk

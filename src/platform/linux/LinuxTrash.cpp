@@ -23,4 +23,12 @@ std::optional<std::vector<std::string>> LinuxTrash::list() {
     return entries;
 }
 
+Failure LinuxTrash::trash(const ItemPath& item) {
+    return item.text() + " cannot be moved to the Trash yet";
+}
+
+std::size_t LinuxTrash::empty() {
+    return 0;
+}
+
 }  // namespace zelk

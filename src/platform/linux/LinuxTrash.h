@@ -13,6 +13,8 @@ public:
 
     std::string location() override { return location_; }
     std::optional<std::vector<std::string>> list() override;
+    Failure trash(const ItemPath& item) override;
+    std::size_t empty() override;
 
 private:
     std::string location_;

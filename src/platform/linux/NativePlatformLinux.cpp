@@ -7,7 +7,9 @@
 #include "platform/linux/LinuxLocations.h"
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/LinuxVitals.h"
+#include "platform/linux/LinuxWorkspace.h"
 #include "platform/posix/DescriptorLimit.h"
+#include "platform/posix/PosixChildProcess.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixTasks.h"
 #include "platform/posix/ThreadCount.h"
@@ -24,7 +26,9 @@ struct NativePlatform::Services {
     LinuxVitals vitals;
     LinuxLocations locations;
     LinuxTrash trash;
-    Platform record{clock, directories, files, trash, vitals, locations, tasks};
+    PosixChildProcess processes;
+    LinuxWorkspace workspace;
+    Platform record{clock, directories, files, trash, vitals, locations, tasks, processes, workspace};
 };
 
 NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {
