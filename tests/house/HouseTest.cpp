@@ -3,8 +3,10 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "HouseRules.h"
+#include "SymbolNames.h"
 
 namespace zelk::house {
 namespace {
@@ -54,6 +56,18 @@ TEST(House, onlyTheOutermostProgramsMakeThePlatform) {
 
 TEST(House, everySourceHasItsLicenceAndIsShort) {
     EXPECT_EQ(broken(checkForm), "");
+}
+
+TEST(House, everySymbolThatIsNamedIsDrawn) {
+    const auto uses = symbolsNamedIn(sources());
+    EXPECT_TRUE(std::ranges::any_of(uses, [](const auto& use) { return use.name == "sparkles"; }));
+    const std::filesystem::path drawings = std::filesystem::path(ZELK_SOURCE_DIR) / "src/ui/symbols";
+    std::vector<Violation> missing;
+    for (const SymbolUse& use : uses) {
+        if (std::filesystem::exists(drawings / (use.name + ".svg"))) continue;
+        missing.push_back({use.path, use.line, "src/ui/symbols has no " + use.name + ".svg"});
+    }
+    EXPECT_EQ(listed(missing), "");
 }
 
 }  // namespace

@@ -3,6 +3,10 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <cmath>
+#include <vector>
 
 #include "ui/components/ScanFace.h"
 #include "ui/shell/Application.h"
@@ -19,6 +23,35 @@ std::vector<QString> symbolsInUse() {
     return names;
 }
 
+/// The names of all drawings there are.
+std::vector<QString> drawnSymbols() {
+    std::vector<QString> names;
+    for (QDirIterator files(QStringLiteral(":/Zelk/Symbols"), {QStringLiteral("*.svg")}); files.hasNext();) {
+        names.push_back(QFileInfo(files.next()).completeBaseName());
+    }
+    EXPECT_GE(names.size(), 60u);
+    return names;
+}
+
+/// The smallest rectangle round every point that is not wholly transparent.
+QRect inkOf(const QImage& image) {
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(image.pixel(x, y)) != 0) ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+int covered(const QImage& image) {
+    int sum = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) sum += qAlpha(image.pixel(x, y));
+    }
+    return sum;
+}
+
 }  // namespace
 
 TEST(Symbols, existForAllThatIsShown) {
@@ -27,16 +60,60 @@ TEST(Symbols, existForAllThatIsShown) {
 }
 
 TEST(Symbols, shareOneGridAndOneStrokeWidth) {
-    int found = 0;
-    for (QDirIterator files(QStringLiteral(":/Zelk/Symbols"), {QStringLiteral("*.svg")}); files.hasNext(); ++found) {
-        QFile file(files.next());
+    for (const QString& name : drawnSymbols()) {
+        QFile file(symbolFile(name));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const QByteArray text = file.readAll();
-        EXPECT_TRUE(text.contains("viewBox=\"0 0 24 24\"")) << file.fileName().toStdString();
-        EXPECT_EQ(text.count("stroke-width"), 1) << file.fileName().toStdString();
-        EXPECT_TRUE(text.contains("stroke-width=\"1.75\"")) << file.fileName().toStdString();
+        EXPECT_TRUE(text.contains("viewBox=\"0 0 24 24\"")) << name.toStdString();
+        const bool filled = name.endsWith(QStringLiteral(".fill"));
+        EXPECT_EQ(text.count("stroke-width"), filled ? 0 : 1) << name.toStdString();
+        EXPECT_EQ(text.count("stroke-width=\"1.75\""), filled ? 0 : 1) << name.toStdString();
+        EXPECT_EQ(text.contains("stroke=\"#000\""), !filled) << name.toStdString();
     }
-    EXPECT_GE(found, 6);
+}
+
+TEST(Symbols, areSeenAndKeepOffTheEdgeOfTheirGrid) {
+    constexpr int kScale = 20;
+    const QRect inside(kScale, kScale, 22 * kScale, 22 * kScale);
+    for (const QString& name : drawnSymbols()) {
+        const QImage image = tintedSymbol(name, Qt::black, 24 * kScale);
+        const QRect ink = inkOf(image);
+        EXPECT_GE(std::max(ink.width(), ink.height()), 12 * kScale) << name.toStdString() << " is blank or small";
+        EXPECT_TRUE(inside.contains(ink)) << name.toStdString() << " reaches the edge";
+        const QPointF off = QRectF(ink).center() - QRectF(image.rect()).center();
+        EXPECT_LE(std::max(std::abs(off.x()), std::abs(off.y())), 1.5 * kScale)
+            << name.toStdString() << " is not in the middle";
+    }
+}
+
+TEST(Symbols, ofTheFilledWeightAreHeavierThanTheirOutlines) {
+    int pairs = 0;
+    const std::vector<QString> names = drawnSymbols();
+    for (const QString& name : names) {
+        const QString filled = name + QStringLiteral(".fill");
+        if (std::find(names.begin(), names.end(), filled) == names.end()) continue;
+        ++pairs;
+        EXPECT_GT(covered(tintedSymbol(filled, Qt::black, 96)), covered(tintedSymbol(name, Qt::black, 96)))
+            << name.toStdString();
+    }
+    EXPECT_GE(pairs, 6);
+}
+
+TEST(Symbols, askedForAgainAreTheSamePicture) {
+    const QString name = QStringLiteral("gearshape");
+    const QImage first = tintedSymbol(name, Qt::red, 33);
+    EXPECT_EQ(tintedSymbol(name, Qt::red, 33).cacheKey(), first.cacheKey());
+    EXPECT_NE(tintedSymbol(name, Qt::blue, 33).pixelColor(3, 16), Qt::red);
+    EXPECT_NE(tintedSymbol(name, Qt::blue, 33).cacheKey(), first.cacheKey());
+    EXPECT_EQ(tintedSymbol(name, Qt::red, 34).width(), 34);
+    EXPECT_NE(tintedSymbol(QStringLiteral("scope"), Qt::red, 33), first);
+}
+
+TEST(Symbols, areTintedWithAColourThatIsSeenThrough) {
+    const QImage image = tintedSymbol(QStringLiteral("app"), QColor(0, 0, 255, 128), 48);
+    int most = 0;
+    for (int x = 0; x < image.width(); ++x) most = std::max(most, image.pixelColor(x, 24).alpha());
+    EXPECT_EQ(most, 128);
 }
 
 TEST(Symbols, areTintedAllOver) {

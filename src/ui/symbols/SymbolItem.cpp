@@ -1,26 +1,70 @@
 // SPDX-License-Identifier: MIT
 #include "ui/symbols/SymbolItem.h"
 
+#include <QCache>
+#include <QHash>
+#include <QMutex>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <cmath>
 
 namespace zelk {
 
+namespace {
+
+/// What makes one picture.
+struct Tinting {
+    QString name;
+    QRgb color;
+    int pixels;
+
+    bool operator==(const Tinting&) const = default;
+};
+
+size_t qHash(const Tinting& tinting, size_t seed = 0) {
+    return qHashMulti(seed, tinting.name, tinting.color, tinting.pixels);
+}
+
+constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
+
+/// The pictures drawn last, so that a list whose every row has the same symbol reads its file once.
+class DrawnSymbols {
+public:
+    template <typename Draw>
+    QImage take(const Tinting& tinting, Draw draw) {
+        const QMutexLocker lock(&mutex_);  // items paint on the threads that render their windows
+        if (const QImage* image = images_.object(tinting)) return *image;
+        const QImage image = draw(tinting);
+        if (!image.isNull()) images_.insert(tinting, new QImage(image), image.sizeInBytes());
+        return image;
+    }
+
+private:
+    QMutex mutex_;
+    QCache<Tinting, QImage> images_{kKeptBytes};
+};
+
+QImage drawTinted(const Tinting& tinting) {
+    QSvgRenderer renderer(symbolFile(tinting.name));
+    if (!renderer.isValid() || tinting.pixels < 1) return {};
+    QImage image(tinting.pixels, tinting.pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), QColor::fromRgba(tinting.color));
+    return image;
+}
+
+}  // namespace
+
 QString symbolFile(const QString& name) {
     return QStringLiteral(":/Zelk/Symbols/%1.svg").arg(name);
 }
 
 QImage tintedSymbol(const QString& name, const QColor& color, int pixels) {
-    QSvgRenderer renderer(symbolFile(name));
-    if (!renderer.isValid() || pixels < 1) return {};
-    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    renderer.render(&painter);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(image.rect(), color);
-    return image;
+    static DrawnSymbols drawn;
+    return drawn.take({name, color.rgba(), pixels}, drawTinted);
 }
 
 SymbolItem::SymbolItem(QQuickItem* parent) : QQuickPaintedItem(parent) {}

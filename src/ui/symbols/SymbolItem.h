@@ -12,7 +12,8 @@ namespace zelk {
 /// The SVG resource of a symbol; it exists for every name that a screen uses.
 QString symbolFile(const QString& name);
 
-/// The symbol in `pixels` x `pixels`, every covered point in `color`; a null image if there is no such symbol.
+/// The symbol in `pixels` x `pixels`, every covered point in `color`; a null image if there is no such symbol. The
+/// last pictures are kept, so that asking again costs nothing. From any thread.
 QImage tintedSymbol(const QString& name, const QColor& color, int pixels);
 
 /// A symbol on screen, square, tinted here and not by a shader, so that it looks the same in every renderer. It says
