@@ -1,7 +1,92 @@
 // SPDX-License-Identifier: MIT
 #include "reclaim/Cleaner.h"
 
+#include <memory>
+#include <mutex>
+#include <utility>
+
+#include "platform/Utf8.h"
+
 namespace zelk {
+
+namespace {
+
+/// What the tasks of one cleaning share.
+class Gathering {
+public:
+    Gathering(std::size_t expected, std::function<void(std::vector<Cleaner::Result>)> done)
+        : expected_(expected), done_(std::move(done)) {
+        results_.reserve(expected);
+    }
+
+    /// Safe from any thread. The last one tells the asker.
+    void add(Cleaner::Result result) {
+        {
+            const std::lock_guard lock(mutex_);
+            results_.push_back(std::move(result));
+            if (results_.size() < expected_) return;
+        }
+        done_(std::move(results_));
+    }
+
+private:
+    const std::size_t expected_;
+    const std::function<void(std::vector<Cleaner::Result>)> done_;
+    std::mutex mutex_;
+    std::vector<Cleaner::Result> results_;
+};
+
+Cleaner::Status remove(const std::string& path, bool hardDelete, const Platform& platform) {
+    const std::optional<ItemPath> item = ItemPath::from(path);
+    if (!item) return Cleaner::Failed{"“" + path + "” is not the path of anything that can be removed."};
+    Failure failure = hardDelete ? platform.files.remove(*item) : platform.trash.trash(*item);
+    if (failure) return Cleaner::Failed{std::move(*failure)};
+    return Cleaner::Trashed{};
+}
+
+Cleaner::Status statusOf(ChildOutcome outcome) {
+    if (outcome.launchFailure) return Cleaner::Failed{std::move(*outcome.launchFailure)};
+    std::string output = isUtf8(outcome.output) ? std::move(outcome.output) : std::string();
+    if (outcome.exitStatus != 0) return Cleaner::Failed{"exit " + std::to_string(outcome.exitStatus) + ": " + output};
+    return Cleaner::RanCommand{std::move(output)};
+}
+
+}  // namespace
+
+void Cleaner::cleanAll(std::vector<Reclaimable> items, bool hardDelete, const Platform& platform,
+                       std::function<void(std::vector<Result>)> done) {
+    if (items.empty()) return done({});
+    // The tasks are started from a task: to make two thousand threads takes longer than a frame, and where the machine
+    // has no more of them, an item is cleaned on the thread that starts it.
+    auto start = [items = std::move(items), hardDelete, platform, done = std::move(done)]() mutable {
+        const auto gathering = std::make_shared<Gathering>(items.size(), std::move(done));
+        for (Reclaimable& item : items) {
+            platform.tasks.run(TaskPriority::userInitiated, [gathering, item = std::move(item), hardDelete, platform] {
+                gathering->add(cleanOne(item, hardDelete, platform));
+            });
+        }
+    };
+    platform.tasks.run(TaskPriority::userInitiated, std::move(start));
+}
+
+Cleaner::Result Cleaner::cleanOne(const Reclaimable& item, bool hardDelete, const Platform& platform) {
+    if (item.method.kind == ReclaimMethod::Kind::command)
+        return runTool(item.method.tool, item.method.args, item, platform.processes);
+    return {item.id, item, remove(item.path, hardDelete, platform)};
+}
+
+Cleaner::Result Cleaner::runTool(const std::string& tool, const std::vector<std::string>& args, const Reclaimable& item,
+                                 ChildProcess& processes) {
+    return {item.id, item, statusOf(processes.run(tool, args))};
+}
+
+std::optional<std::string> Cleaner::runningConflict(const Reclaimable& item, Workspace& workspace) {
+    const auto category = reclaimCategoryByID().find(item.categoryID);
+    if (category == reclaimCategoryByID().end() || !category->second->appScoped) return std::nullopt;
+    for (std::string& name : workspace.runningApplications())
+        if (!name.empty() && item.path.find("/" + name + "/") != std::string::npos) return std::move(name);
+    return std::nullopt;
+}
 
 std::uint64_t Cleaner::allocatedSize(FileManager& files, const std::string& path) {
     const std::optional<FileProperties> properties = files.properties(path);
@@ -15,6 +100,10 @@ std::optional<std::uint64_t> Cleaner::measureTrash(FileManager& files, Trash& tr
     std::uint64_t bytes = 0;
     for (const std::string& entry : *entries) bytes += allocatedSize(files, entry);
     return bytes;
+}
+
+std::size_t Cleaner::emptyTrashContents(Trash& trash) {
+    return trash.empty();
 }
 
 }  // namespace zelk

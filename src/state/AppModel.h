@@ -112,9 +112,18 @@ public slots:
     /// Does nothing while a survey runs.
     void startScan();
     void cancelScan();
+    /// Measures the Trash again. Measures and emptyings may overlap: the last to end is what the fields tell.
     void refreshTrash();
+    /// Removes for good what the Trash holds, measures what is left and reads the volume again. Does nothing while it
+    /// does so already.
+    void emptyTrash();
+    /// Moves `safeItems()` to the Trash (or lets their tools run) without a review, then starts a survey.
+    void cleanSafeCaches();
 
 public:
+    /// Moves a directory to the Trash and, once it is there, takes it out of the results by removeFromTree(). If it
+    /// cannot be moved, nothing changes.
+    void trashAndRemove(FSNode& node);
     /// Takes a directory out of the results after it was moved away: its size off all above it, and with it the items
     /// and large files at and below its path. What tells of the survey as it ran stays. While the classifier reads the
     /// tree this waits for its end. The node may be gone afterwards, unless the caller holds a reference.
@@ -156,7 +165,7 @@ private:
     void recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t total, const NodeRef& tree);
     void conclude(const std::shared_ptr<ScanTask>& task, std::vector<SurveyRecord> history);
     void settleTrash();
-    void takeTrashMeasure(std::uint64_t number, std::optional<std::uint64_t> bytes);
+    void takeTrashMeasure(std::optional<std::uint64_t> bytes);
     void setReclaimables(std::vector<Reclaimable> items);
     /// The path of the first scan root: the place that the volume and the first line of progress speak of.
     const std::string& firstPlace() const { return scanRoots_.empty() ? home_ : scanRoots_.front(); }
@@ -197,9 +206,7 @@ private:
     bool hardDeleteEnabled_ = false;
     std::string home_;
     DeviceInfo device_;
-    std::shared_ptr<ScanTask> scanTask_;   // ended or not; absent after a cancel
-    std::uint64_t trashMeasures_ = 0;      // begun so far
-    std::uint64_t trashMeasureShown_ = 0;  // the number of the one that the Trash fields come from
+    std::shared_ptr<ScanTask> scanTask_;  // ended or not; absent after a cancel
     MainThreadCalls calls_;
 };
 

@@ -30,23 +30,34 @@ void AppModel::settleTrash() {
         refreshTrash();
         return;
     }
-    takeTrashMeasure(++trashMeasures_, static_cast<std::uint64_t>(trash->size));
+    takeTrashMeasure(static_cast<std::uint64_t>(trash->size));
 }
 
 void AppModel::refreshTrash() {
     // With a known figure on screen there is no spinner; it is replaced in silence.
     if (trashBytes_ == 0) assign(trashLoading_, true, &AppModel::trashLoadingChanged);
-    auto work = [this, sender = calls_.sender(), number = ++trashMeasures_, &files = platform_.files,
-                 &trash = platform_.trash] {
-        sender.post([this, number, bytes = Cleaner::measureTrash(files, trash)] { takeTrashMeasure(number, bytes); });
+    auto work = [this, sender = calls_.sender(), &files = platform_.files, &trash = platform_.trash] {
+        sender.post([this, bytes = Cleaner::measureTrash(files, trash)] { takeTrashMeasure(bytes); });
     };
     platform_.tasks.run(TaskPriority::utility, std::move(work));
 }
 
-void AppModel::takeTrashMeasure(std::uint64_t number, std::optional<std::uint64_t> bytes) {
-    // Measures run side by side; one that was begun earlier must not overwrite a later one.
-    if (number < trashMeasureShown_) return;
-    trashMeasureShown_ = number;
+void AppModel::emptyTrash() {
+    if (emptyingTrash_) return;
+    assign(emptyingTrash_, true, &AppModel::emptyingTrashChanged);
+    auto work = [this, sender = calls_.sender(), &files = platform_.files, &trash = platform_.trash] {
+        Cleaner::emptyTrashContents(trash);
+        sender.post([this, bytes = Cleaner::measureTrash(files, trash)] {
+            takeTrashMeasure(bytes);
+            assign(emptyingTrash_, false, &AppModel::emptyingTrashChanged);
+            if (auto volume = platform_.vitals.volume(firstPlace())) setVolume(std::move(volume));
+        });
+    };
+    platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
+}
+
+/// Measures and emptyings run side by side, and the last to end is what is shown.
+void AppModel::takeTrashMeasure(std::optional<std::uint64_t> bytes) {
     if (bytes) assign(trashBytes_, static_cast<std::int64_t>(*bytes), &AppModel::trashBytesChanged);
     assign(trashAccessible_, bytes.has_value(), &AppModel::trashAccessibleChanged);
     assign(trashLoading_, false, &AppModel::trashLoadingChanged);

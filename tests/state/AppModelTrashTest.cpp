@@ -134,18 +134,35 @@ TEST_F(AppModelTrashTest, anEmptyTrashIsZeroAndAccessible) {
     EXPECT_TRUE(model().trashAccessible());
 }
 
-TEST_F(AppModelTrashTest, anEarlierMeasureDoesNotOverwriteALaterOne) {
+TEST_F(AppModelTrashTest, ofTwoMeasuresTheLastToEndIsShown) {
     machine.trash.put("a", 11);
     machine.tasks.hold();
     model().refreshTrash();
     model().refreshTrash();
     machine.tasks.runAt(1);
     runUntil([&] { return model().trashBytes() == 11; });
+    EXPECT_FALSE(model().trashLoading());
     machine.trash.put("b", 9);
     machine.tasks.runAt(0);
     runWhatIsThere();
+    EXPECT_EQ(model().trashBytes(), 20);
+}
+
+TEST_F(AppModelTrashTest, aMeasureThatEndsAfterTheSurveyOverwritesTheTreesFigure) {
+    fillHome();
+    machine.trash.put("a", 11);
+    machine.tasks.hold();
+    model().refreshTrash();
+    model().startScan();
+    runUntil([&] { return machine.tasks.waiting().size() == 2; });
+    machine.tasks.runAt(1);  // the classifier
+    runUntil([&] { return machine.tasks.waiting().size() == 2; });
+    machine.tasks.runAt(1);  // the record
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    ASSERT_EQ(model().trashBytes(), 7'000'000);
+    machine.tasks.release();
+    runWhatIsThere();
     EXPECT_EQ(model().trashBytes(), 11);
-    EXPECT_FALSE(model().trashLoading());
 }
 
 TEST_F(AppModelTrashTest, theModelMayGoWhileTheTrashIsMeasured) {
@@ -155,6 +172,139 @@ TEST_F(AppModelTrashTest, theModelMayGoWhileTheTrashIsMeasured) {
     machine.tasks.release();
     runWhatIsThere();
     EXPECT_TRUE(wasMeasured());
+}
+
+// Emptying.
+
+TEST_F(AppModelTrashTest, emptyingRemovesAllThatItHolds) {
+    machine.trash.put("a", 11);
+    machine.trash.put("folder/.hidden", 30);
+    machine.tasks.hold();
+    model().emptyTrash();
+    EXPECT_TRUE(model().emptyingTrash());
+    EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::userInitiated});
+    EXPECT_TRUE(machine.files.pathsOf("remove").empty());
+    machine.tasks.release();
+    EXPECT_TRUE(model().emptyingTrash());
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(machine.trash.list(), Strings());
+    EXPECT_EQ(model().trashBytes(), 0);
+    EXPECT_TRUE(model().trashAccessible());
+}
+
+TEST_F(AppModelTrashTest, emptyingTellsTheFigureBeforeItsEnd) {
+    machine.trash.put("a", 11);
+    model().refreshTrash();
+    runUntil([&] { return model().trashBytes() == 11; });
+    takeSignals();
+    model().emptyTrash();
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(takeSignals(), (Strings{"emptyingTrash", "trashBytes", "emptyingTrash", "volume"}));
+}
+
+TEST_F(AppModelTrashTest, isEmptiedOnceAtATime) {
+    machine.trash.put("a", 11);
+    machine.tasks.hold();
+    model().emptyTrash();
+    model().emptyTrash();
+    EXPECT_EQ(machine.tasks.waiting().size(), 1U);
+    machine.tasks.release();
+    runUntil([&] { return !model().emptyingTrash(); });
+    machine.trash.put("b", 9);
+    model().emptyTrash();
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(machine.trash.list(), Strings());
+}
+
+TEST_F(AppModelTrashTest, whatCannotBeRemovedStaysAndIsTold) {
+    machine.trash.put("a", 11);
+    machine.trash.put("kept", 9);
+    machine.trash.put("z", 30);
+    machine.files.failing = [](const auto& call) { return call.operation == "remove" && call.path.ends_with("/kept"); };
+    model().emptyTrash();
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(machine.trash.list(), Strings{machine.trash.path + "/kept"});
+    EXPECT_EQ(model().trashBytes(), 9);
+    EXPECT_TRUE(model().trashAccessible());
+}
+
+TEST_F(AppModelTrashTest, emptyingWhatIsInaccessibleRemovesNothingAndKeepsTheLastFigure) {
+    machine.trash.put("a", 11);
+    model().refreshTrash();
+    runUntil([&] { return model().trashBytes() == 11; });
+    machine.trash.setAccessible(false);
+    model().emptyTrash();
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_TRUE(machine.files.pathsOf("remove").empty());
+    EXPECT_EQ(model().trashBytes(), 11);
+    EXPECT_FALSE(model().trashAccessible());
+}
+
+TEST_F(AppModelTrashTest, theVolumeIsReadAgainAfterEmptying) {
+    survey();
+    machine.vitals.setVolume(home, VolumeInfo{1'000, 800, 850});
+    model().emptyTrash();
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(model().volume(), (VolumeInfo{1'000, 800, 850}));
+}
+
+TEST_F(AppModelTrashTest, theVolumeReadAfterEmptyingIsThatOfTheFirstRoot) {
+    model().setScanRoots({"/data", home});
+    machine.vitals.setVolume("/data", VolumeInfo{5'000, 1, 2});
+    model().emptyTrash();
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(model().volume(), (VolumeInfo{5'000, 1, 2}));
+
+    model().setScanRoots({});
+    model().emptyTrash();
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(machine.vitals.volumeReads(), (Strings{"/data", home}));
+}
+
+TEST_F(AppModelTrashTest, aVolumeThatCannotBeReadAfterEmptyingKeepsTheOldOne) {
+    survey();
+    machine.vitals.setVolume(home, std::nullopt);
+    model().emptyTrash();
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(model().volume(), (VolumeInfo{1'000, 400, 450}));
+}
+
+TEST_F(AppModelTrashTest, aRefreshThatEndsAfterAnEmptyingWins) {
+    machine.trash.put("a", 11);
+    machine.tasks.hold();
+    model().refreshTrash();
+    model().emptyTrash();
+    machine.tasks.runAt(1);
+    runUntil([&] { return !model().emptyingTrash(); });
+    ASSERT_EQ(model().trashBytes(), 0);
+    machine.trash.put("new", 5);
+    machine.tasks.runAt(0);
+    runUntil([&] { return model().trashBytes() != 0; });
+    EXPECT_EQ(model().trashBytes(), 5);
+}
+
+TEST_F(AppModelTrashTest, anEmptyingThatEndsAfterARefreshWins) {
+    machine.trash.put("a", 11);
+    machine.tasks.hold();
+    model().emptyTrash();
+    model().refreshTrash();
+    machine.tasks.runAt(1);
+    runUntil([&] { return model().trashBytes() == 11; });
+    EXPECT_FALSE(model().trashLoading());
+    EXPECT_TRUE(model().emptyingTrash());
+    machine.tasks.runAt(0);
+    runUntil([&] { return !model().emptyingTrash(); });
+    EXPECT_EQ(model().trashBytes(), 0);
+}
+
+TEST_F(AppModelTrashTest, theModelMayGoWhileTheTrashIsEmptied) {
+    machine.trash.put("a", 11);
+    machine.tasks.hold();
+    model().emptyTrash();
+    destroyModel();
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.list(), Strings());
 }
 
 }  // namespace

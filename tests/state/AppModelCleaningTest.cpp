@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+// What the model takes away itself: a folder that a person picked, and the safe caches in one go.
+#include "AppModelFixture.h"
+
+namespace zelk {
+namespace {
+
+using Strings = std::vector<std::string>;
+
+class AppModelCleaningTest : public AppModelFixture {
+protected:
+    /// A survey of the home of fillHome(), whose folders and files can also be moved to the Trash.
+    void surveyHome() {
+        fillHome();
+        for (const char* file : {"/Library/Caches/Yarn/v6", "/projects/app/node_modules/a.js", "/projects/film.mov",
+                                 "/projects/system.iso"})
+            machine.files.addFile(home + file);
+        survey();
+    }
+
+    NodeRef folder(const std::string& below) { return folderAt(model().root(), home + below); }
+
+    /// Everything that was told to the main thread has arrived there.
+    void trashAndRemove(FSNode& node) {
+        model().trashAndRemove(node);
+        runWhatIsThere();
+    }
+
+    static std::int64_t reclaimableCount(const AppModel& model) {
+        return static_cast<std::int64_t>(model.reclaimables().size());
+    }
+
+    const std::string cache = home + "/Library/Caches/Yarn";
+};
+
+// A folder that was picked.
+
+TEST_F(AppModelCleaningTest, theFolderGoesToTheTrashAndOutOfTheTree) {
+    surveyHome();
+    const std::int64_t before = model().root()->size;
+    const std::int64_t scanned = model().bytesScanned();
+    trashAndRemove(*folder("/projects"));
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
+    EXPECT_TRUE(machine.files.exists(machine.trash.path + "/projects/film.mov"));
+    EXPECT_FALSE(folder("/projects"));
+    EXPECT_EQ(model().root()->size, before - 3'070'000'000);
+    EXPECT_EQ(model().bytesScanned(), scanned);
+    EXPECT_EQ(reclaimableCount(model()), 1);
+    EXPECT_TRUE(model().insights().topFiles.empty() ||
+                !model().insights().topFiles.front().path.starts_with(home + "/projects/"));
+    EXPECT_EQ(model().insights().diskImages.size(), 1U);
+}
+
+TEST_F(AppModelCleaningTest, aFolderThatDoesNotGoToTheTrashStaysInTheTree) {
+    surveyHome();
+    machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
+    const std::int64_t before = model().root()->size;
+    takeSignals();
+    trashAndRemove(*folder("/projects"));
+    EXPECT_TRUE(folder("/projects"));
+    EXPECT_EQ(model().root()->size, before);
+    EXPECT_EQ(takeSignals(), Strings());
+}
+
+TEST_F(AppModelCleaningTest, theMainThreadDoesNotWaitForTheTrash) {
+    surveyHome();
+    machine.tasks.hold();
+    model().trashAndRemove(*folder("/projects"));
+    EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::userInitiated});
+    EXPECT_TRUE(machine.trash.trashed().empty());
+    EXPECT_TRUE(folder("/projects"));
+    machine.tasks.runNext();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
+    EXPECT_TRUE(folder("/projects"));
+    runUntil([&] { return !folder("/projects"); });
+    machine.tasks.release();
+}
+
+TEST_F(AppModelCleaningTest, whatHasNoPathIsNotTouched) {
+    surveyHome();
+    machine.tasks.hold();
+    model().trashAndRemove(*model().root());
+    EXPECT_TRUE(machine.tasks.waiting().empty());
+    machine.tasks.release();
+    EXPECT_TRUE(model().root());
+}
+
+TEST_F(AppModelCleaningTest, theFileSystemAsARootIsNotTouched) {
+    machine.directories.directory("/data");
+    model().setScanRoots({"/"});
+    survey();
+    machine.tasks.hold();
+    model().trashAndRemove(*model().root()->children.front());
+    EXPECT_TRUE(machine.tasks.waiting().empty());
+    machine.tasks.release();
+    EXPECT_EQ(model().root()->children.size(), 1U);
+}
+
+TEST_F(AppModelCleaningTest, theSameFolderTwiceIsTakenOutOnce) {
+    surveyHome();
+    const std::int64_t before = model().root()->size;
+    machine.tasks.hold();
+    const NodeRef projects = folder("/projects");
+    model().trashAndRemove(*projects);
+    model().trashAndRemove(*projects);
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
+    EXPECT_EQ(model().root()->size, before - 3'070'000'000);
+}
+
+TEST_F(AppModelCleaningTest, theFolderIsHeldUntilItHasGone) {
+    surveyHome();
+    machine.tasks.hold();
+    model().trashAndRemove(*folder("/projects/app"));
+    model().removeFromTree(*folder("/projects"));
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/app"});
+    EXPECT_FALSE(folder("/projects"));
+}
+
+TEST_F(AppModelCleaningTest, anotherSurveyMayReplaceTheTreeMeanwhile) {
+    surveyHome();
+    machine.tasks.hold();
+    model().trashAndRemove(*folder("/projects"));
+    model().startScan();
+    const FSNode* old = model().root().get();  // not held: only what is under way may keep it
+    runUntil([&] { return !(model().root() == old); });
+    const std::int64_t size = model().root()->size;
+    while (machine.tasks.waiting().size() > 1) machine.tasks.runAt(1);
+    machine.tasks.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
+    EXPECT_EQ(model().root()->size, size);
+}
+
+TEST_F(AppModelCleaningTest, theModelMayGoWhileAFolderIsTrashed) {
+    surveyHome();
+    machine.tasks.hold();
+    model().trashAndRemove(*folder("/projects"));
+    destroyModel();
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
+}
+
+TEST_F(AppModelCleaningTest, theModelMayGoBeforeItHearsOfTheTrashedFolder) {
+    surveyHome();
+    machine.tasks.hold();
+    model().trashAndRemove(*folder("/projects"));
+    machine.tasks.runNext();
+    destroyModel();
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
+}
+
+// The safe caches in one go.
+
+TEST_F(AppModelCleaningTest, safeCachesAloneGoToTheTrashAndASurveyFollows) {
+    surveyHome();
+    model().cleanSafeCaches();
+    runUntil([&] { return model().scanPhase() == Phase::scanning; });
+    EXPECT_EQ(machine.trash.trashed(), Strings{cache});
+    EXPECT_TRUE(machine.files.exists(home + "/projects/app/node_modules/a.js"));
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(AppModelCleaningTest, withoutSafeItemsNothingHappens) {
+    machine.directories.file(home + "/projects/app/node_modules/a.js", 10'000'000, 2'000);
+    survey();
+    ASSERT_EQ(reclaimableCount(model()), 1);
+    machine.tasks.hold();
+    model().cleanSafeCaches();
+    EXPECT_TRUE(machine.tasks.waiting().empty());
+    runWhatIsThere();
+    EXPECT_EQ(model().scanPhase(), Phase::finished);
+    machine.tasks.release();
+}
+
+TEST_F(AppModelCleaningTest, safeCachesOfARunningApplicationAreCleanedAllTheSame) {
+    const std::string inUse = home + "/Library/Application Support/Cursor/Cache";
+    machine.directories.file(inUse + "/data", 1'000, 1'000);
+    machine.files.addFile(inUse + "/data");
+    machine.workspace.running = {"Cursor"};
+    survey();
+    ASSERT_EQ(model().safeItems().size(), 1U);
+    model().cleanSafeCaches();
+    runUntil([&] { return model().scanPhase() == Phase::scanning; });
+    EXPECT_EQ(machine.trash.trashed(), Strings{inUse});
+    EXPECT_EQ(machine.workspace.runningReads, 0);
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(AppModelCleaningTest, theAgeFilterDoesNotKeepSafeCaches) {
+    surveyHome();
+    model().setAgeFilterDays(365);
+    EXPECT_EQ(model().safeBytes(), 50'000'000);
+    model().cleanSafeCaches();
+    runUntil([&] { return model().scanPhase() == Phase::scanning; });
+    EXPECT_EQ(machine.trash.trashed(), Strings{cache});
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(AppModelCleaningTest, safeCachesGoToTheTrashEvenIfDeletingIsPreferred) {
+    surveyHome();
+    model().setHardDeleteEnabled(true);
+    model().cleanSafeCaches();
+    runUntil([&] { return model().scanPhase() == Phase::scanning; });
+    EXPECT_EQ(machine.trash.trashed(), Strings{cache});
+    EXPECT_TRUE(machine.files.pathsOf("remove").empty());
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(AppModelCleaningTest, safeCachesThatStayAreFollowedByASurveyToo) {
+    surveyHome();
+    machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
+    model().cleanSafeCaches();
+    runUntil([&] { return model().scanPhase() == Phase::scanning; });
+    EXPECT_TRUE(machine.trash.trashed().empty());
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(model().safeBytes(), 50'000'000);
+}
+
+TEST_F(AppModelCleaningTest, theSurveyFollowsTheLastOfTheSafeCaches) {
+    surveyHome();
+    machine.tasks.hold();
+    model().cleanSafeCaches();
+    EXPECT_EQ(machine.tasks.waiting().size(), 1U);
+    runWhatIsThere();
+    EXPECT_EQ(model().scanPhase(), Phase::finished);
+    machine.tasks.release();
+    EXPECT_EQ(model().scanPhase(), Phase::finished);
+    runUntil([&] { return model().scanPhase() == Phase::scanning; });
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(AppModelCleaningTest, aSurveyThatRunsIsNotStartedAgain) {
+    surveyHome();
+    machine.tasks.hold();
+    model().cleanSafeCaches();
+    machine.directories.hold(home);
+    model().startScan();
+    machine.directories.waitUntilHeld(home);
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.directories.timesRead(home), 2);
+    machine.directories.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(machine.directories.timesRead(home), 2);
+}
+
+TEST_F(AppModelCleaningTest, theModelMayGoWhileSafeCachesAreCleaned) {
+    surveyHome();
+    machine.tasks.hold();
+    model().cleanSafeCaches();
+    destroyModel();
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), Strings{cache});
+}
+
+}  // namespace
+}  // namespace zelk
