@@ -10,7 +10,7 @@ namespace zelk {
 
 struct ChildOutcome {
     Failure launchFailure;  ///< set if no process came to be; the rest is then empty
-    int exitStatus = 0;     ///< what it ended with; of one that a signal ended, the signal's number
+    int exitStatus = 0;     ///< what it ended with; of one that a signal ended, the signal's number; -1 if unknown
     std::string output;     ///< the bytes of its standard output and standard error, in one
 };
 

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/PosixChildProcess.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <system_error>
+
+#include "platform/posix/Descriptor.h"
+
+extern "C" char** environ;
+
+namespace zelk {
+
+namespace {
+
+/// The two ends, or errno in `error`. No child that is started meanwhile on another thread gets them.
+struct Pipe {
+    Pipe() {
+        int ends[2];
+#ifdef __APPLE__
+        // There is no call that does both; children get no descriptor but those they are given.
+        error = ::pipe(ends) == 0 ? 0 : errno;
+        if (error == 0)
+            for (const int end : ends) ::fcntl(end, F_SETFD, FD_CLOEXEC);
+#else
+        error = ::pipe2(ends, O_CLOEXEC) == 0 ? 0 : errno;
+#endif
+        if (error != 0) return;
+        reading = Descriptor(ends[0]);
+        writing = Descriptor(ends[1]);
+    }
+
+    int error = 0;
+    Descriptor reading;
+    Descriptor writing;
+};
+
+/// What a child is to find open.
+class Outputs {
+public:
+    explicit Outputs(int descriptor) {
+        ::posix_spawn_file_actions_init(&actions_);
+        ::posix_spawnattr_init(&attributes_);
+#ifdef __APPLE__
+        ::posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_CLOEXEC_DEFAULT);
+        if (::fcntl(STDIN_FILENO, F_GETFD) != -1) ::posix_spawn_file_actions_addinherit_np(&actions_, STDIN_FILENO);
+#endif
+        ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDOUT_FILENO);
+        ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDERR_FILENO);
+#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 34)
+        // Ours close themselves; these are what this process was itself given by whoever started it.
+        ::posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
+#endif
+    }
+    Outputs(const Outputs&) = delete;
+    Outputs& operator=(const Outputs&) = delete;
+    ~Outputs() {
+        ::posix_spawnattr_destroy(&attributes_);
+        ::posix_spawn_file_actions_destroy(&actions_);
+    }
+
+    const posix_spawn_file_actions_t* actions() const {
+        return &actions_;
+    }
+    const posix_spawnattr_t* attributes() const {
+        return &attributes_;
+    }
+
+private:
+    posix_spawn_file_actions_t actions_;
+    posix_spawnattr_t attributes_;
+};
+
+ChildOutcome notLaunched(int error) {
+    return {std::generic_category().message(error), 0, {}};
+}
+
+/// 0, or the error.
+int spawn(const std::string& executable, const std::vector<std::string>& arguments, const Pipe& pipe, pid_t& child) {
+    std::vector<char*> words{const_cast<char*>(executable.c_str())};
+    for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
+    words.push_back(nullptr);
+    const Outputs outputs(pipe.writing.get());
+    return ::posix_spawn(&child, executable.c_str(), outputs.actions(), outputs.attributes(), words.data(), environ);
+}
+
+int waitForExit(pid_t child) {
+    int status = 0;
+    // Whoever started this process may have told the system to forget its children: then nobody knows.
+    if (uninterrupted([&] { return ::waitpid(child, &status, 0); }) < 0) return -1;
+    return WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status);
+}
+
+std::string readToEnd(const Descriptor& file) {
+    std::string content;
+    std::array<char, 64 * 1024> buffer;
+    for (;;) {
+        const ssize_t got = uninterrupted([&] { return ::read(file.get(), buffer.data(), buffer.size()); });
+        if (got <= 0) return content;
+        content.append(buffer.data(), static_cast<std::size_t>(got));
+    }
+}
+
+}  // namespace
+
+ChildOutcome PosixChildProcess::run(const std::string& executable, const std::vector<std::string>& arguments) {
+    Pipe pipe;
+    if (pipe.error != 0) return notLaunched(pipe.error);
+    pid_t child = 0;
+    if (const int error = spawn(executable, arguments, pipe, child)) return notLaunched(error);
+    pipe.writing.close();
+    const int status = waitForExit(child);
+    return {std::nullopt, status, readToEnd(pipe.reading)};
+}
+
+}  // namespace zelk
