@@ -72,6 +72,9 @@ public:
     /// change the files at that moment; set it before other threads come.
     std::function<bool(const Call&)> failing;
 
+    /// The errors with which the opening of these paths fails; 0 is none. Set them before other threads come.
+    std::map<std::string, int> openErrors;
+
     // What was asked.
 
     std::vector<Call> calls() const {
@@ -161,6 +164,7 @@ public:
     /// EACCES where it is made to fail.
     int tryOpen(const std::string& path) override {
         if (fails("tryOpen", path)) return EACCES;
+        if (const auto error = openErrors.find(path); error != openErrors.end()) return error->second;
         const std::lock_guard lock(mutex_);
         return resolve(path) == entries_.end() ? ENOENT : 0;
     }

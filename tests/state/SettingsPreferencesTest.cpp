@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "state/SettingsPreferences.h"
+
+#include <gtest/gtest.h>
+
+#include "fakes/TestFiles.h"
+#include "zoo/TempFolder.h"
+
+namespace zelk {
+namespace {
+
+class SettingsPreferencesTest : public testing::Test {
+protected:
+    QString file() const { return QString::fromStdString(folder / "preferences.conf"); }
+
+    const zoo::TempFolder folder;
+};
+
+TEST_F(SettingsPreferencesTest, aFlagThatWasNeverSetIsFalse) {
+    EXPECT_FALSE(SettingsPreferences(file()).flag(didOnboardKey));
+}
+
+TEST_F(SettingsPreferencesTest, aFlagOutlivesTheRunThatSetIt) {
+    SettingsPreferences(file()).setFlag(didOnboardKey, true);
+    EXPECT_TRUE(SettingsPreferences(file()).flag(didOnboardKey));
+    EXPECT_FALSE(SettingsPreferences(file()).flag("zelk/another"));
+}
+
+TEST_F(SettingsPreferencesTest, aFlagIsKeptAtOnce) {
+    SettingsPreferences setting(file());
+    setting.setFlag(didOnboardKey, true);
+    EXPECT_EQ(fakes::fileContent(folder / "preferences.conf"), "[zelk]\ndidOnboard=true\n");
+}
+
+TEST_F(SettingsPreferencesTest, aFlagCanBeTakenBack) {
+    SettingsPreferences preferences(file());
+    preferences.setFlag(didOnboardKey, true);
+    preferences.setFlag(didOnboardKey, false);
+    EXPECT_FALSE(preferences.flag(didOnboardKey));
+    EXPECT_FALSE(SettingsPreferences(file()).flag(didOnboardKey));
+}
+
+TEST_F(SettingsPreferencesTest, aFileThatCannotBeReadIsAnEmptyOne) {
+    fakes::writeFile(folder / "preferences.conf", "[zelk\n\xff\xfe%zz=\n");
+    EXPECT_FALSE(SettingsPreferences(file()).flag(didOnboardKey));
+}
+
+TEST_F(SettingsPreferencesTest, aWriteThatFailsIsSilent) {
+    SettingsPreferences preferences(QStringLiteral("/dev/null/preferences.conf"));
+    preferences.setFlag(didOnboardKey, true);
+    EXPECT_FALSE(SettingsPreferences(QStringLiteral("/dev/null/preferences.conf")).flag(didOnboardKey));
+}
+
+#ifdef __linux__
+TEST_F(SettingsPreferencesTest, theUsersOwnLieInTheConfigurationFolder) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(folder.path()));
+    SettingsPreferences().setFlag(didOnboardKey, true);
+    EXPECT_EQ(fakes::fileContent(folder / "Zelk/Zelk.conf"), "[zelk]\ndidOnboard=true\n");
+    EXPECT_TRUE(SettingsPreferences().flag(didOnboardKey));
+}
+#endif
+
+}  // namespace
+}  // namespace zelk
