@@ -46,9 +46,12 @@ TEST_F(SettingsPreferencesTest, aFileThatCannotBeReadIsAnEmptyOne) {
 }
 
 TEST_F(SettingsPreferencesTest, aWriteThatFailsIsSilent) {
-    SettingsPreferences preferences(QStringLiteral("/dev/null/preferences.conf"));
+    fakes::writeFile(folder / "file", "in the way of a folder");
+    SettingsPreferences preferences(QString::fromStdString(folder / "file/preferences.conf"));
     preferences.setFlag(didOnboardKey, true);
-    EXPECT_FALSE(SettingsPreferences(QStringLiteral("/dev/null/preferences.conf")).flag(didOnboardKey));
+    EXPECT_TRUE(preferences.flag(didOnboardKey));  // as far as this run goes
+    EXPECT_EQ(fakes::namesIn(folder.path()), std::set<std::string>{"file"});
+    EXPECT_EQ(fakes::fileContent(folder / "file"), "in the way of a folder");
 }
 
 #ifdef __linux__
