@@ -4,14 +4,18 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <climits>
 #include <cstddef>
 
 #include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/linux/RemoveEntry.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
+#include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/TryOpenFile.h"
 
 namespace zelk {
 namespace {
@@ -122,12 +126,13 @@ bool LinuxFileManager::createDirectories(const std::string& path) {
 }
 
 int LinuxFileManager::tryOpen(const std::string& path) {
-    const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
-    return file ? 0 : errno;
+    return tryOpenFile(path);
 }
 
 Failure LinuxFileManager::remove(const ItemPath& item) {
-    return item.text() + " cannot be removed yet";
+    const Descriptor parent(openForLookups(item.parent()));
+    if (!parent) return failureText(item.name(), "couldn’t be removed", systemText(errno));
+    return removeEntry(parent.get(), std::string(item.name()));
 }
 
 }  // namespace zelk

@@ -2,33 +2,115 @@
 #include "platform/linux/LinuxTrash.h"
 
 #include <cerrno>
+#include <string_view>
+#include <vector>
 
+#include "platform/linux/EmptyTrash.h"
+#include "platform/linux/FileStatus.h"
 #include "platform/linux/LinuxLocations.h"
+#include "platform/linux/MountTable.h"
+#include "platform/linux/TrashFolder.h"
+#include "platform/linux/TrashMove.h"
 #include "platform/posix/DirectoryNames.h"
+#include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
 
 namespace zelk {
+namespace {
 
-LinuxTrash::LinuxTrash(const std::string& home)
-    : location_(LinuxLocations(home).applicationSupport().value() + "/Trash/files") {}
+/// Whether the home trash is, or would come to be, on the volume of `folder`: that of the nearest folder above `path`
+/// that is there.
+bool isOnVolumeOf(const FileStatus& folder, const std::string& path) {
+    for (std::size_t end = path.size(); end != std::string::npos; end = end == 0 ? end - 1 : path.rfind('/', end - 1)) {
+        const Descriptor nearest(openForLookups(end == 0 ? "/" : path.substr(0, end)));
+        if (!nearest) continue;
+        const std::optional<FileStatus> status = fileStatus(nearest.get());
+        return status && status->isOnVolumeOf(folder);
+    }
+    return false;
+}
+
+/// The way from the folder `top` to what is below it, without a slash at the front; absent if it is not.
+std::optional<std::string> relativePath(std::string_view path, std::string_view top) {
+    while (top.ends_with('/')) top.remove_suffix(1);
+    if (path.size() <= top.size() + 1 || !path.starts_with(top) || path[top.size()] != '/') return std::nullopt;
+    return std::string(path.substr(top.size() + 1));
+}
+
+}  // namespace
+
+LinuxTrash::LinuxTrash(const std::string& home) : dataHome_(LinuxLocations(home).applicationSupport().value()) {}
+
+std::string LinuxTrash::location() {
+    return pathIn(dataHome_, "Trash/files");
+}
 
 std::optional<std::vector<std::string>> LinuxTrash::list() {
-    Descriptor folder(openRootDirectory(location_));
+    Descriptor folder(openRootDirectory(location()));
     // The folder is made by whoever trashes something first.
     if (!folder && errno == ENOENT) return std::vector<std::string>();
     std::optional<std::vector<std::string>> entries = directoryNames(std::move(folder));
     if (entries) {
-        for (std::string& entry : *entries) entry.insert(0, location_ + "/");
+        for (std::string& entry : *entries) entry.insert(0, location() + "/");
     }
     return entries;
 }
 
 Failure LinuxTrash::trash(const ItemPath& item) {
-    return item.text() + " cannot be moved to the Trash yet";
+    const Failure reason = move(item);
+    if (!reason) return std::nullopt;
+    return failureText(item.name(), "couldn’t be moved to the Trash", *reason);
+}
+
+Failure LinuxTrash::move(const ItemPath& item) {
+    const Descriptor parent(openForLookups(item.parent()));
+    const Place from{parent.get(), std::string(item.name())};
+    const std::optional<FileStatus> above = parent ? fileStatus(parent.get()) : std::nullopt;
+    const std::optional<FileStatus> status = above ? fileStatus(parent.get(), from.name) : std::nullopt;
+    if (!status) return systemText(errno);
+    if (status->mount != above->mount) return "another volume is mounted there";
+
+    // The system cannot tell a path that is longer than it would take; then the one it was reached by has to do.
+    const std::string path = pathIn(pathOfDirectory(parent.get()).value_or(item.parent()), from.name);
+    const std::vector<Mount> mounts = parseMountTable(mountTableText());
+    if (status->isDirectory() && isMountedBelow(mounts, path)) return "another volume is mounted in it";
+
+    std::string reason;
+    std::string original = item.text();
+    std::optional<TrashFolder> trash;
+    if (isOnVolumeOf(*above, location())) {
+        trash = openHomeTrash(dataHome_, IfMissing::create, reason);
+    } else {
+        const std::optional<std::string> top = mountPointOf(mounts, above->mount);
+        const std::optional<std::string> relative = top ? relativePath(path, *top) : std::nullopt;
+        if (!relative) return "its volume has no place for a Trash";
+        original = *relative;
+        trash = openVolumeTrash(*top, *above, reason);
+    }
+    if (!trash) return reason;
+    const std::optional<FileStatus> itself = fileStatus(trash->itself.get());
+    if (!itself || itself->isSameFile(*above)) return "it is part of the Trash itself";
+
+    const std::string key = std::to_string(itself->device) + ":" + std::to_string(itself->inode) + "/" + from.name;
+    return moveIntoTrash(from, original, *trash, [&] { return numbers_.next(key); });
 }
 
 std::size_t LinuxTrash::empty() {
-    return 0;
+    std::string reason;
+    const std::optional<TrashFolder> trash = openHomeTrash(dataHome_, IfMissing::fail, reason);
+    if (!trash) return 0;
+    numbers_.forget();
+    return emptyTrash(*trash);
+}
+
+std::size_t LinuxTrash::Numbers::next(const std::string& key) {
+    const std::lock_guard lock(mutex_);
+    return ++last_.try_emplace(key, 1).first->second;
+}
+
+void LinuxTrash::Numbers::forget() {
+    const std::lock_guard lock(mutex_);
+    last_.clear();
 }
 
 }  // namespace zelk

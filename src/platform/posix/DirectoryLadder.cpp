@@ -5,14 +5,21 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
+
 #include "platform/posix/Descriptor.h"
-#include "platform/posix/OpenDirectory.h"
 
 namespace zelk {
 
 bool DirectoryLadder::open(int rootFd, const std::string& below) {
+    return start(openDirectoryBeneath(rootFd, below));
+}
+
+bool DirectoryLadder::start(int directory) {
+    const int error = errno;
     clear();
-    return push(openDirectoryBeneath(rootFd, below));
+    errno = error;
+    return push(directory);
 }
 
 bool DirectoryLadder::descend(std::string_view name) {
@@ -21,7 +28,7 @@ bool DirectoryLadder::descend(std::string_view name) {
     // one that the way back ends at, and no ".." leads there from here.
     if (above < 0) return push(-1);
     if (rungs_.size() - firstOpen_ >= maximumOpen) setOldestAside();
-    return push(openSubdirectory(above, name));
+    return push(opener_(above, name));
 }
 
 void DirectoryLadder::ascend() {
@@ -54,7 +61,9 @@ void DirectoryLadder::clear() {
 }
 
 bool DirectoryLadder::push(int fd) {
+    const int error = errno;  // why it could not be opened
     rungs_.push_back({.fd = fd});
+    errno = error;
     return fd >= 0;
 }
 

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/posix/OpenDirectory.h"
+
 namespace zelk {
 
 /// The open directories between a scan root and where a reader stands: each is opened relative to the one above, so
@@ -19,14 +21,19 @@ public:
     /// Below the usual limit of 256 (macOS) or 1024 (Linux) descriptors a process, with eight threads and more.
     static constexpr std::size_t maximumOpen = 16;
 
-    DirectoryLadder() = default;
+    /// How one level down is opened: the directory `name` in `parent`, -1 with errno set on a failure.
+    using Opener = int (*)(int parent, std::string_view name);
+
+    explicit DirectoryLadder(Opener opener = openSubdirectory) : opener_(opener) {}
     DirectoryLadder(const DirectoryLadder&) = delete;
     DirectoryLadder& operator=(const DirectoryLadder&) = delete;
     ~DirectoryLadder() { clear(); }
 
     /// Leaves everything and stands at `below` under `rootFd` (not owned). False if it could not be opened.
     bool open(int rootFd, const std::string& below);
-    /// One level down; also when it gives false it has gone down.
+    /// Leaves everything and stands at `directory`, which it takes over; -1 is one that could not be opened.
+    bool start(int directory);
+    /// One level down; also when it gives false, with errno set, it has gone down.
     bool descend(std::string_view name);
     void ascend();
     /// The descriptor where it stands, owned by the ladder; -1 where it could not be opened.
@@ -44,6 +51,7 @@ private:
     bool push(int fd);
     void setOldestAside();
 
+    Opener opener_;
     std::vector<Rung> rungs_;
     std::size_t firstOpen_ = 0;  ///< rungs below this index are closed or were never open
 };

@@ -73,6 +73,11 @@ int openInPieces(int start, std::string_view path, const OpenPiece& openPiece) {
     }
 }
 
+int openFollowing(const std::string& path, int flags) {
+    if (path.size() < PATH_MAX) return openAt(AT_FDCWD, path.c_str(), flags);
+    return openInPieces(AT_FDCWD, path, [flags](int at, const char* piece) { return openAt(at, piece, flags); });
+}
+
 #ifdef __linux__
 
 // One call for the whole path where the kernel has it (5.6) and no filter forbids it.
@@ -94,9 +99,16 @@ std::atomic<bool> openat2Missing{false};
 }  // namespace
 
 int openRootDirectory(const std::string& path) {
-    if (path.size() < PATH_MAX) return openAt(AT_FDCWD, path.c_str(), directoryFlags);
-    return openInPieces(AT_FDCWD, path, [](int at, const char* piece) { return openAt(at, piece, directoryFlags); });
+    return openFollowing(path, directoryFlags);
 }
+
+#ifdef __linux__
+
+int openForLookups(const std::string& path) {
+    return openFollowing(path, O_PATH | O_DIRECTORY | O_CLOEXEC);
+}
+
+#endif
 
 int openDirectoryBeneath(int rootFd, std::string_view below) {
     if (below.empty()) return openAt(rootFd, ".", directoryFlags);

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// What a file is and on which mount it lies: two mounts of one device have the same device number, so the mount's own
+// number is what tells whether a step leads into another one.
+#pragma once
+
+#include <sys/stat.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zelk {
+
+struct FileStatus {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    std::uint64_t mount = 0;  ///< unique among the mounts of the moment
+    mode_t mode = 0;
+    uid_t owner = 0;
+
+    bool isDirectory() const { return S_ISDIR(mode); }
+    bool isSameFile(const FileStatus& other) const { return device == other.device && inode == other.inode; }
+    /// Whether what lies in one directory can be moved into the other.
+    bool isOnVolumeOf(const FileStatus& other) const { return device == other.device && mount == other.mount; }
+};
+
+/// Of what the descriptor is open on. Absent, with errno set, on a failure.
+std::optional<FileStatus> fileStatus(int descriptor);
+/// Of `name` in the directory `folder`, its own self where it is a link. No mount is woken by asking.
+std::optional<FileStatus> fileStatus(int folder, const std::string& name);
+
+/// Opens the subdirectory `name` of `parent`, which must be neither a link nor on another mount (errno EXDEV). -1, with
+/// errno set, on a failure.
+int openSubdirectoryOnMount(int parent, std::string_view name);
+
+/// The path, without links, that leads to the directory now; absent if it is longer than the system can tell.
+std::optional<std::string> pathOfDirectory(int descriptor);
+
+/// The table of mounts as it is; empty where there is no /proc.
+std::string mountTableText();
+
+}  // namespace zelk

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// What /proc/self/mountinfo says. Pure functions: any text in, what can be understood of it out.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zelk {
+
+struct Mount {
+    std::uint64_t id = 0;
+    std::string point;  ///< absolute, without a slash at its end but for "/"
+
+    bool operator==(const Mount&) const = default;
+};
+
+/// One mount a line; lines of another form are passed over.
+std::vector<Mount> parseMountTable(std::string_view mountinfo);
+
+/// Where the mount `id` is mounted; absent if the table does not have it.
+std::optional<std::string> mountPointOf(const std::vector<Mount>& table, std::uint64_t id);
+
+/// Whether something is mounted below the folder `path` (absolute, no links in it). `path` itself does not count.
+bool isMountedBelow(const std::vector<Mount>& table, std::string_view path);
+
+/// `name` in the folder `folder`, which may be "/".
+std::string pathIn(std::string_view folder, std::string_view name);
+
+}  // namespace zelk

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/RemoveEntry.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "platform/linux/FileStatus.h"
+#include "platform/linux/MountTable.h"
+#include "platform/posix/Descriptor.h"
+#include "platform/posix/DirectoryLadder.h"
+#include "platform/posix/FailureText.h"
+
+namespace zelk {
+namespace {
+
+constexpr std::string_view what = "couldn’t be removed";
+
+/// How often a folder may turn out not to be what it was when it was listed: filled again, or swapped for something
+/// else. Whoever is still writing there wins in the end.
+constexpr int maximumSurprises = 100;
+
+bool unlinkFile(int folder, const char* name) {
+    return ::unlinkat(folder, name, 0) == 0 || errno == ENOENT;
+}
+
+bool unlinkFolder(int folder, const char* name) {
+    return ::unlinkat(folder, name, AT_REMOVEDIR) == 0 || errno == ENOENT;
+}
+
+/// What a refused unlink of `name` means: Linux says so of a folder, other systems' volumes forbid it.
+bool isFolderAfter(int error, int folder, const std::string& name) {
+    if (error == EISDIR) return true;
+    if (error != EPERM) return false;
+    const std::optional<FileStatus> status = fileStatus(folder, name);
+    return status && status->isDirectory();
+}
+
+std::string reasonOf(int error) {
+    return error == EXDEV ? "another volume is mounted there" : systemText(error);
+}
+
+/// Goes through a tree with its own stack: the folders of each level that are still to be removed, the deepest level
+/// last. A folder stays on the list while it is being emptied, so the last name of a level is the way down from it.
+class TreeRemover {
+public:
+    TreeRemover(int parent, const std::string& name) : parent_(parent), names_{name}, starts_{0} {}
+
+    Failure run() {
+        while (!starts_.empty()) {
+            const bool good = names_.size() > starts_.back() ? enterLast() : leave();
+            if (!good) return failure_;
+        }
+        return std::nullopt;
+    }
+
+private:
+    /// The directory it stands in; -1 if it was lost on the way back.
+    int current() const { return starts_.size() == 1 ? parent_ : ladder_.current(); }
+
+    bool descend(const std::string& name) {
+        return starts_.size() == 1 ? ladder_.start(openSubdirectoryOnMount(parent_, name)) : ladder_.descend(name);
+    }
+
+    bool enterLast() {
+        const std::string name = names_.back();
+        if (descend(name)) {
+            starts_.push_back(names_.size());
+            return unlinkFilesHere();
+        }
+        const int error = errno;
+        ladder_.ascend();
+        switch (error) {
+            case ENOENT:
+                break;
+            case EACCES:  // one that may not be listed may still be empty
+            case EPERM:
+                if (!unlinkFolder(current(), name.c_str())) return failOnLast(error);
+                break;
+            case ENOTDIR:
+            case ELOOP:  // swapped for something else since it was listed
+                if (!unlinkFile(current(), name.c_str())) return errno == EISDIR ? surprise(error) : failOnLast(errno);
+                break;
+            default:
+                return failOnLast(error);
+        }
+        names_.pop_back();
+        return true;
+    }
+
+    /// Up from a folder of which nothing is left that it knows of.
+    bool leave() {
+        starts_.pop_back();
+        if (starts_.empty()) return true;
+        ladder_.ascend();
+        const std::string name = names_.back();
+        if (current() < 0) return failOnLast(ESTALE);
+        if (unlinkFolder(current(), name.c_str())) {
+            names_.pop_back();
+            return true;
+        }
+        // It stays on the list, and is gone into or removed as what it now is.
+        const bool changed = errno == ENOTEMPTY || errno == EEXIST || errno == ENOTDIR;
+        return changed ? surprise(errno) : failOnLast(errno);
+    }
+
+    bool unlinkFilesHere() {
+        const int folder = current();
+        const std::string own = names_.back();
+        const bool isItem = names_.size() == 1;
+        const auto close = [](DIR* stream) { ::closedir(stream); };
+        Descriptor copy(::fcntl(folder, F_DUPFD_CLOEXEC, 0));
+        const std::unique_ptr<DIR, decltype(close)> stream(copy ? ::fdopendir(copy.get()) : nullptr, close);
+        if (!stream) return fail(own, isItem, errno);
+        copy.release();
+        for (;;) {
+            errno = 0;
+            const dirent* const entry = ::readdir(stream.get());
+            if (entry == nullptr) return errno == 0 || errno == ENOENT || fail(own, isItem, errno);
+            const std::string name(entry->d_name);
+            if (name == "." || name == "..") continue;
+            if (entry->d_type == DT_DIR) {
+                names_.push_back(name);
+            } else if (!unlinkFile(folder, name.c_str())) {
+                const int error = errno;
+                if (!isFolderAfter(error, folder, name)) return fail(name, false, error);
+                names_.push_back(name);
+            }
+        }
+    }
+
+    bool surprise(int error) { return ++surprises_ <= maximumSurprises || failOnLast(error); }
+
+    /// The folder that it wanted to enter or to remove.
+    bool failOnLast(int error) { return fail(names_.back(), names_.size() == 1, error); }
+
+    bool fail(const std::string& name, bool isItem, int error) {
+        const std::string within = isItem ? "" : "in “" + readableName(names_.front()) + "” ";
+        failure_ = failureText(name, within + std::string(what), reasonOf(error));
+        return false;
+    }
+
+    int parent_;
+    DirectoryLadder ladder_{openSubdirectoryOnMount};
+    std::vector<std::string> names_;
+    std::vector<std::size_t> starts_;  ///< where in names_ each level begins; the first is the parent's
+    int surprises_ = 0;
+    Failure failure_;
+};
+
+}  // namespace
+
+Failure removeEntry(int parent, const std::string& name) {
+    const auto failed = [&](std::string_view reason) { return failureText(name, what, reason); };
+    const std::optional<FileStatus> above = fileStatus(parent);
+    const std::optional<FileStatus> item = fileStatus(parent, name);
+    if (!above || !item) return failed(systemText(errno));
+    if (item->mount != above->mount) return failed("another volume is mounted there");
+    if (!item->isDirectory()) {
+        if (::unlinkat(parent, name.c_str(), 0) == 0) return std::nullopt;
+        return failed(systemText(errno));
+    }
+    const std::optional<std::string> folder = pathOfDirectory(parent);
+    if (folder && isMountedBelow(parseMountTable(mountTableText()), pathIn(*folder, name)))
+        return failed("another volume is mounted in it");
+    return TreeRemover(parent, name).run();
+}
+
+}  // namespace zelk

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "platform/Failure.h"
+
+namespace zelk {
+
+/// Removes `name` from the directory `parent` for good, a folder with everything below it, and stops at the first thing
+/// that cannot be removed.
+///
+/// - All of it by descriptors, each opened in the one above: neither the depth of a tree nor the length of its paths
+///   matters, and nothing that is put in place of a folder meanwhile leads elsewhere.
+/// - Links are removed and not followed.
+/// - What is mounted, from another volume or from elsewhere on this one, stays. A folder with a mount below it is
+///   refused before anything of it is gone.
+/// - No permission is changed to make removing possible.
+/// - What somebody else removes meanwhile is well removed; only `name` itself has to be there at the start.
+Failure removeEntry(int parent, const std::string& name);
+
+}  // namespace zelk

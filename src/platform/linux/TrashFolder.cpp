@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/TrashFolder.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <string_view>
+
+#include "platform/linux/MountTable.h"
+#include "platform/posix/DurableFile.h"
+#include "platform/posix/FailureText.h"
+#include "platform/posix/OpenDirectory.h"
+
+namespace zelk {
+namespace {
+
+std::string reasonText(const std::string& path, std::string_view why) {
+    return "“" + readableName(path) + "” " + std::string(why);
+}
+
+/// Opens folders one below the other, each a real folder of this user's.
+class OwnFolders {
+public:
+    OwnFolders(IfMissing ifMissing, std::string& reason) : ifMissing_(ifMissing), reason_(reason) {}
+
+    Descriptor open(int parent, const std::string& above, const char* name) {
+        const std::string path = pathIn(above, name);
+        if (ifMissing_ == IfMissing::create && ::mkdirat(parent, name, 0700) != 0 && errno != EEXIST)
+            return refuse(path, "couldn’t be created: " + systemText(errno));
+        Descriptor folder(openSubdirectoryOnMount(parent, name));
+        if (!folder) return refuse(path, whyNotOpened(parent, name));
+        const std::optional<FileStatus> status = fileStatus(folder.get());
+        if (!status) return refuse(path, "couldn’t be opened: " + systemText(errno));
+        if (status->owner != ::geteuid()) return refuse(path, "belongs to another user");
+        return folder;
+    }
+
+    std::optional<TrashFolder> openTrash(int parent, const std::string& above, const char* name) {
+        TrashFolder trash;
+        const std::string path = pathIn(above, name);
+        trash.itself = open(parent, above, name);
+        if (trash.itself) trash.files = open(trash.itself.get(), path, "files");
+        if (trash.files) trash.info = open(trash.itself.get(), path, "info");
+        if (!trash.info) return std::nullopt;
+        return trash;
+    }
+
+private:
+    static std::string whyNotOpened(int parent, const char* name) {
+        const int error = errno;
+        const std::optional<FileStatus> status = fileStatus(parent, name);
+        if (status && S_ISLNK(status->mode)) return "is a link";
+        if (status && !status->isDirectory()) return "is not a folder";
+        if (error == EXDEV) return "is another volume";
+        return "couldn’t be opened: " + systemText(error);
+    }
+
+    Descriptor refuse(const std::string& path, std::string_view why) {
+        reason_ = reasonText(path, why);
+        return {};
+    }
+
+    IfMissing ifMissing_;
+    std::string& reason_;
+};
+
+/// The ".Trash" that an administrator made for all users of a volume: in a sticky folder nobody can take away what is
+/// another's, but for the folder's own owner.
+Descriptor openSharedTrash(int top) {
+    Descriptor shared(openSubdirectoryOnMount(top, ".Trash"));
+    if (!shared) return {};
+    const std::optional<FileStatus> status = fileStatus(shared.get());
+    const bool trusted =
+        status && (status->mode & S_ISVTX) != 0 && (status->owner == 0 || status->owner == ::geteuid());
+    if (!trusted) return {};
+    return shared;
+}
+
+}  // namespace
+
+std::optional<TrashFolder> openHomeTrash(const std::string& dataHome, IfMissing ifMissing, std::string& reason) {
+    if (ifMissing == IfMissing::create && !createDirectoryTree(dataHome)) {
+        reason = reasonText(dataHome, "couldn’t be created: " + systemText(errno));
+        return std::nullopt;
+    }
+    const Descriptor folder(openForLookups(dataHome));
+    if (!folder) {
+        reason = reasonText(dataHome, "couldn’t be opened: " + systemText(errno));
+        return std::nullopt;
+    }
+    return OwnFolders(ifMissing, reason).openTrash(folder.get(), dataHome, "Trash");
+}
+
+std::optional<TrashFolder> openVolumeTrash(const std::string& top, const FileStatus& volume, std::string& reason) {
+    const Descriptor folder(openForLookups(top));
+    const std::optional<FileStatus> status = folder ? fileStatus(folder.get()) : std::nullopt;
+    if (!status || !status->isOnVolumeOf(volume)) {
+        reason = reasonText(top, "couldn’t be opened: " + systemText(status ? EXDEV : errno));
+        return std::nullopt;
+    }
+    OwnFolders own(IfMissing::create, reason);
+    const std::string user = std::to_string(::geteuid());
+    if (const Descriptor shared = openSharedTrash(folder.get())) {
+        if (auto trash = own.openTrash(shared.get(), pathIn(top, ".Trash"), user.c_str())) return trash;
+    }
+    return own.openTrash(folder.get(), top, (".Trash-" + user).c_str());
+}
+
+}  // namespace zelk

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/linux/FileStatus.h"
+#include "platform/posix/Descriptor.h"
+
+namespace zelk {
+
+/// One of the user's trash folders, open: the folder itself, and its "files" and "info". All three are real folders of
+/// this user, no links, on one volume: nobody else can have put them there, or can read or take what is put in.
+struct TrashFolder {
+    Descriptor itself;
+    Descriptor files;
+    Descriptor info;
+};
+
+enum class IfMissing { fail, create };
+
+/// The home trash in the folder `dataHome`, created for the user alone (0700) with what is missing above it. Absent,
+/// with the reason for a person in `reason`, if there is none or it is not to be trusted.
+std::optional<TrashFolder> openHomeTrash(const std::string& dataHome, IfMissing ifMissing, std::string& reason);
+
+/// The trash of the volume whose top folder is `top`, created likewise: ".Trash/UID" where somebody with power over the
+/// volume has made a ".Trash" that is a real folder and sticky, else ".Trash-UID".
+std::optional<TrashFolder> openVolumeTrash(const std::string& top, const FileStatus& volume, std::string& reason);
+
+}  // namespace zelk

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/TrashInfo.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zelk {
+namespace {
+
+/// Longer ones are no extensions but names that happen to have a dot in them.
+constexpr std::size_t longestExtension = 32;
+
+bool isPlain(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+           std::string_view("-_.~/").find(c) != std::string_view::npos;
+}
+
+/// With its dot; empty if there is none, as in a name that only begins with a dot.
+std::string_view extensionOf(std::string_view name) {
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string_view::npos || dot == 0 || name.size() - dot > longestExtension) return {};
+    return name.substr(dot);
+}
+
+std::string_view cutTo(std::string_view name, std::size_t bytes) {
+    if (name.size() <= bytes) return name;
+    const auto continues = [name](std::size_t at) { return (static_cast<unsigned char>(name[at]) & 0xC0U) == 0x80; };
+    std::size_t end = bytes;
+    while (end > 0 && bytes - end < 3 && continues(end)) --end;
+    // What goes on for longer is no UTF-8, and may be cut anywhere.
+    return name.substr(0, end == 0 || continues(end) ? bytes : end);
+}
+
+}  // namespace
+
+std::string trashInfoText(std::string_view path, const std::tm& deleted) {
+    constexpr std::string_view hex = "0123456789ABCDEF";
+    std::string text = "[Trash Info]\nPath=";
+    for (const char c : path) {
+        if (isPlain(c)) {
+            text += c;
+        } else {
+            const auto byte = static_cast<unsigned char>(c);
+            text += {'%', hex[byte >> 4], hex[byte & 15]};
+        }
+    }
+    std::array<char, 64> date{};
+    const std::size_t length = std::strftime(date.data(), date.size(), "%Y-%m-%dT%H:%M:%S", &deleted);
+    return text.append("\nDeletionDate=").append(date.data(), length).append("\n");
+}
+
+std::string trashName(std::string_view name, std::size_t number, std::size_t limit) {
+    const std::string suffix = number == 1 ? "" : "." + std::to_string(number);
+    if (number == 1 && name.size() <= limit) return std::string(name);
+    std::string_view extension = extensionOf(name);
+    if (suffix.size() + extension.size() >= limit) extension = {};
+    const std::size_t room = limit - std::min(limit, suffix.size() + extension.size());
+    const std::string_view stem = cutTo(name.substr(0, name.size() - extension.size()), room);
+    return std::string(stem).append(suffix).append(extension);
+}
+
+}  // namespace zelk

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/TrashMove.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <ctime>
+#include <string_view>
+
+#include "platform/linux/TrashInfo.h"
+#include "platform/posix/FailureText.h"
+
+namespace zelk {
+namespace {
+
+/// Of one name in the Trash; by then something else is wrong.
+constexpr int maximumTries = 1000000;
+
+std::size_t longestName(int folder) {
+    constexpr long usual = 255;
+    const long told = ::fpathconf(folder, _PC_NAME_MAX);
+    const auto bytes = static_cast<std::size_t>(told > 0 ? std::min(told, usual) : usual);
+    return bytes - std::min(bytes, trashInfoSuffix.size());
+}
+
+std::tm localTime() {
+    const std::time_t now = ::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    return local;
+}
+
+bool writeAll(int file, std::string_view content) {
+    while (!content.empty()) {
+        const ssize_t written = uninterrupted([&] { return ::write(file, content.data(), content.size()); });
+        if (written <= 0) return false;
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+/// 0, or the errno; EEXIST if there is such a file already. On any error there is none of ours.
+int createInfo(const Place& info, std::string_view content) {
+    Descriptor file(uninterrupted([&] {
+        constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+        return ::openat(info.folder, info.name.c_str(), flags, 0600);
+    }));
+    if (!file) return errno;
+    const bool written = writeAll(file.get(), content) && uninterrupted([&] { return ::fsync(file.get()); }) == 0;
+    const int error = errno;
+    if (written && file.close()) {
+        // Its name too; most systems have written it with the file, and those that cannot flush a folder say so.
+        static_cast<void>(::fsync(info.folder));
+        return 0;
+    }
+    const int closing = written ? errno : error;
+    ::unlinkat(info.folder, info.name.c_str(), 0);
+    return closing == 0 ? EIO : closing;
+}
+
+bool isTaken(const Place& place) {
+    return ::faccessat(place.folder, place.name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+int moveWithInfo(const Place& item, const Place& content, const Place& info, std::string_view text) {
+    // Content that lost its info is no reason to write one and to take it back.
+    if (isTaken(content)) return EEXIST;
+    if (const int error = createInfo(info, text); error != 0) return error;
+    const int error = moveWithoutReplacing(item, content);
+    if (error != 0) ::unlinkat(info.folder, info.name.c_str(), 0);
+    return error;
+}
+
+std::string reasonOf(int error) {
+    switch (error) {
+        case EXDEV:
+            return "it is not on the same volume as its Trash";
+        case EINVAL:
+            return "the Trash is in it";
+        default:
+            return systemText(error);
+    }
+}
+
+Descriptor lockedInfo(int info, int operation) {
+    Descriptor folder(uninterrupted([&] { return ::openat(info, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    if (!folder || uninterrupted([&] { return ::flock(folder.get(), operation); }) != 0) return {};
+    return folder;
+}
+
+}  // namespace
+
+Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next) {
+    // Where a volume knows no locks there is nobody to wait for: see holdTrash().
+    const Descriptor lock = lockedInfo(trash.info.get(), LOCK_SH);
+    const std::string text = trashInfoText(path, localTime());
+    const std::size_t limit = longestName(trash.files.get());
+    int error = EEXIST;
+    for (int tried = 0; error == EEXIST && tried < maximumTries; ++tried) {
+        const std::string name = trashName(item.name, tried == 0 ? 1 : next(), limit);
+        const Place info{trash.info.get(), name + std::string(trashInfoSuffix)};
+        error = moveWithInfo(item, {trash.files.get(), name}, info, text);
+    }
+    if (error == 0) return std::nullopt;
+    return reasonOf(error);
+}
+
+Descriptor holdTrash(int info) {
+    return lockedInfo(info, LOCK_EX | LOCK_NB);
+}
+
+}  // namespace zelk

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ItemPath.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+namespace zelk {
+namespace {
+
+using namespace std::string_view_literals;
+
+std::string textOf(std::string_view path) {
+    const std::optional<ItemPath> item = ItemPath::from(path);
+    return item ? item->text() : "<none>";
+}
+
+TEST(ItemPath, anEmptyPathIsNone) {
+    EXPECT_FALSE(ItemPath::from(""));
+}
+
+TEST(ItemPath, aRelativePathIsNone) {
+    for (const char* path : {"a", "a/b", "./a", "../a", " /a", "~", "~/a"}) EXPECT_FALSE(ItemPath::from(path)) << path;
+}
+
+TEST(ItemPath, theRootIsNoneHoweverManySlashesItHas) {
+    for (const char* path : {"/", "//", "///", "////////"}) EXPECT_FALSE(ItemPath::from(path)) << path;
+}
+
+TEST(ItemPath, aDotAnywhereIsNone) {
+    for (const char* path : {".", "/.", "/./", "/./a", "/a/.", "/a/./", "/a/./b"})
+        EXPECT_FALSE(ItemPath::from(path)) << path;
+}
+
+TEST(ItemPath, twoDotsAnywhereAreNone) {
+    for (const char* path : {"..", "/..", "/../", "/../a", "/a/..", "/a/../", "/a/../b"})
+        EXPECT_FALSE(ItemPath::from(path)) << path;
+}
+
+TEST(ItemPath, dotsInANameAreAName) {
+    for (const char* path : {"/...", "/.a", "/a.", "/..a", "/a..", "/.../b"}) EXPECT_EQ(textOf(path), path);
+}
+
+TEST(ItemPath, aZeroByteIsNone) {
+    EXPECT_FALSE(ItemPath::from("\0"sv));
+    EXPECT_FALSE(ItemPath::from("/a\0"sv));
+    EXPECT_FALSE(ItemPath::from("/\0"sv));
+    EXPECT_FALSE(ItemPath::from("/a\0/b"sv));
+}
+
+TEST(ItemPath, slashesAtTheEndAndBesideEachOtherAreDropped) {
+    EXPECT_EQ(textOf("/a/"), "/a");
+    EXPECT_EQ(textOf("/a///"), "/a");
+    EXPECT_EQ(textOf("//a//b//"), "/a/b");
+}
+
+TEST(ItemPath, bytesThatAreNoTextStay) {
+    EXPECT_EQ(textOf("/\xff\xfe/\n/\xc3"), "/\xff\xfe/\n/\xc3");
+}
+
+TEST(ItemPath, isAFolderAndAName) {
+    const std::optional<ItemPath> deep = ItemPath::from("/a/b c//d/");
+    ASSERT_TRUE(deep);
+    EXPECT_EQ(deep->parent(), "/a/b c");
+    EXPECT_EQ(deep->name(), "d");
+    const std::optional<ItemPath> shallow = ItemPath::from("//a/");
+    ASSERT_TRUE(shallow);
+    EXPECT_EQ(shallow->parent(), "/");
+    EXPECT_EQ(shallow->name(), "a");
+}
+
+TEST(ItemPath, isTheSameHoweverItWasWritten) {
+    EXPECT_EQ(ItemPath::from("/a/b"), ItemPath::from("//a/b/"));
+    EXPECT_NE(ItemPath::from("/a/b"), ItemPath::from("/a/B"));
+}
+
+}  // namespace
+}  // namespace zelk

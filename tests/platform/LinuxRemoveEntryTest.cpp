@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+
+#include "fakes/InChild.h"
+#include "fakes/OpenDescriptors.h"
+#include "fakes/SystemCallGate.h"
+#include "fakes/TestFiles.h"
+#include "platform/linux/LinuxFileManager.h"
+#include "zoo/TempFolder.h"
+#include "zoo/Zoo.h"
+
+namespace zelk {
+namespace {
+
+namespace fs = std::filesystem;
+
+using fakes::asOrdinaryUser;
+using fakes::behindGate;
+using fakes::namesIn;
+using testing::ElementsAre;
+using testing::Optional;
+using zoo::TempFolder;
+
+Failure removed(const std::string& path) {
+    return LinuxFileManager().remove(ItemPath::from(path).value());
+}
+
+/// Where the kernel has no openat2, as in containers that know too few calls. In a child: it holds for good.
+template <class Check>
+bool withoutTheNewestCall(Check check) {
+    return fakes::inChild([&] { return fakes::filterCalls(SYS_openat2, SECCOMP_RET_ERRNO | ENOSYS) == 0 && check(); });
+}
+
+class Remover : public testing::Test {
+protected:
+    /// Everything but `victim`, which is to be left alone.
+    void expectOutsideUntouched() const {
+        EXPECT_EQ(namesIn(outside), (std::set<std::string>{"file", "folder"}));
+        EXPECT_EQ(namesIn(outside + "/folder"), (std::set<std::string>{"below"}));
+    }
+
+    void SetUp() override {
+        zoo::makeFile(outside + "/file", 10);
+        zoo::makeFile(outside + "/folder/below", 10);
+    }
+
+    const TempFolder temp{TempFolder::Medium::memory};
+    const std::string outside = temp / "outside";
+    const std::string victim = temp / "victim";
+};
+
+TEST_F(Remover, takesAFile) {
+    zoo::makeFile(victim, 10);
+    EXPECT_EQ(removed(victim), std::nullopt);
+    EXPECT_THAT(namesIn(temp.path()), ElementsAre("outside"));
+}
+
+TEST_F(Remover, takesAnEmptyFolder) {
+    zoo::makeFolder(victim);
+    EXPECT_EQ(removed(victim), std::nullopt);
+    EXPECT_THAT(namesIn(temp.path()), ElementsAre("outside"));
+}
+
+TEST_F(Remover, takesALinkAndNotItsTarget) {
+    for (const std::string& target : {outside, outside + "/file", std::string("/nowhere"), victim}) {
+        fs::create_symlink(target, victim);
+        EXPECT_EQ(removed(victim + "/"), std::nullopt);
+        EXPECT_THAT(namesIn(temp.path()), ElementsAre("outside"));
+        expectOutsideUntouched();
+    }
+}
+
+TEST_F(Remover, takesAStrangersWholeTree) {
+    zoo::makeFolder(temp / "linked");
+    zoo::makeZoo(victim, temp / "linked", 60);
+    fs::create_directory_symlink(outside, victim + "/away");
+    fs::create_symlink(outside + "/file", victim + "/file away");
+    EXPECT_EQ(removed(victim), std::nullopt);
+    EXPECT_FALSE(fs::exists(fs::symlink_status(victim)));
+    expectOutsideUntouched();
+}
+
+TEST_F(Remover, takesAStrangersWholeTreeWithoutTheNewestCall) {
+    zoo::makeFolder(temp / "linked");
+    zoo::makeZoo(victim, temp / "linked", 60);
+    fs::create_directory_symlink(outside, victim + "/away");
+    EXPECT_TRUE(withoutTheNewestCall([&] { return !removed(victim); }));
+    EXPECT_FALSE(fs::exists(fs::symlink_status(victim)));
+    expectOutsideUntouched();
+}
+
+TEST_F(Remover, takesFiftyThousandFoldersOneInTheOtherWithFewDescriptors) {
+    zoo::makeChain(victim, 50000, 1);
+    EXPECT_TRUE(fakes::inChild([&] {
+        const rlimit few{40, 40};
+        return ::setrlimit(RLIMIT_NOFILE, &few) == 0 && !removed(victim);
+    }));
+    EXPECT_FALSE(fs::exists(victim));
+}
+
+TEST_F(Remover, takesWhatLiesDeeperThanAPathCanSay) {
+    zoo::makeChain(victim, 100, 200);
+    EXPECT_EQ(removed(victim), std::nullopt);
+    EXPECT_FALSE(fs::exists(victim));
+}
+
+TEST_F(Remover, takesAnItemWhosePathIsTooLong) {
+    zoo::makeChain(victim, 60, 100);
+    std::string name = *namesIn(victim).begin();
+    for (const std::string& entry : namesIn(victim)) {
+        if (entry.size() == 100) name = entry;
+    }
+    std::string deep = victim;
+    for (int level = 0; level < 50; ++level) deep += "/" + name;
+    ASSERT_GT(deep.size(), 4096u);
+    LinuxFileManager files;
+    ASSERT_TRUE(files.list(deep));
+    EXPECT_EQ(removed(deep), std::nullopt);
+    EXPECT_FALSE(files.list(deep));
+    EXPECT_TRUE(files.list(deep.substr(0, deep.size() - 101)));
+}
+
+TEST_F(Remover, takesNamesThatAreNoText) {
+    zoo::makeNames(victim);
+    EXPECT_EQ(removed(victim), std::nullopt);
+    EXPECT_FALSE(fs::exists(victim));
+}
+
+TEST_F(Remover, saysThatAnItemIsMissing) {
+    EXPECT_THAT(removed(victim), Optional(std::string("“victim” couldn’t be removed: No such file or directory")));
+    EXPECT_THAT(removed(victim + "/below"),
+                Optional(std::string("“below” couldn’t be removed: No such file or directory")));
+    EXPECT_THAT(removed(outside + "/file/below"),
+                Optional(std::string("“below” couldn’t be removed: Not a directory")));
+}
+
+TEST_F(Remover, saysWhichFileCouldNotBeRemovedAndStops) {
+    zoo::makeFile(victim + "/locked/file");
+    ASSERT_EQ(::chown(victim.c_str(), 65534, 65534), 0);
+    EXPECT_TRUE(
+        asOrdinaryUser([&] { return removed(victim) == "“file” in “victim” couldn’t be removed: Permission denied"; }));
+    EXPECT_TRUE(fs::exists(victim + "/locked/file"));
+    EXPECT_EQ(fs::status(victim + "/locked").permissions(), fs::perms(0755));
+}
+
+TEST_F(Remover, changesNoPermissionToRemoveAFolderThatForbidsIt) {
+    for (const mode_t mode : {0000, 0300, 0500, 0600}) {
+        fs::remove_all(victim);
+        zoo::makeFile(victim + "/locked/file");
+        ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
+        for (const char* path : {"", "/locked", "/locked/file"})
+            ASSERT_EQ(::chown((victim + path).c_str(), 65534, 65534), 0);
+        ASSERT_EQ(::chmod((victim + "/locked").c_str(), mode), 0);
+        EXPECT_TRUE(asOrdinaryUser([&] {
+            const Failure failure = removed(victim);
+            return failure && failure->ends_with("couldn’t be removed: Permission denied") &&
+                   fs::status(victim + "/locked").permissions() == fs::perms(mode);
+        })) << mode;
+        EXPECT_TRUE(fs::exists(victim + "/locked/file"));
+    }
+}
+
+TEST_F(Remover, takesAnEmptyFolderThatMayNotBeLookedInto) {
+    zoo::makeFolder(victim + "/locked");
+    ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
+    for (const char* path : {"", "/locked"}) ASSERT_EQ(::chown((victim + path).c_str(), 65534, 65534), 0);
+    ASSERT_EQ(::chmod((victim + "/locked").c_str(), 0), 0);
+    EXPECT_TRUE(asOrdinaryUser([&] { return !removed(victim); }));
+    EXPECT_FALSE(fs::exists(victim));
+}
+
+TEST_F(Remover, needsNoPermissionToListTheFolderThatHoldsTheItem) {
+    zoo::makeFile(victim + "/item/below/file");
+    for (const char* path : {"", "/item", "/item/below", "/item/below/file"})
+        ASSERT_EQ(::chown((victim + path).c_str(), 65534, 65534), 0);
+    ASSERT_EQ(::chmod(victim.c_str(), 0300), 0);
+    EXPECT_TRUE(asOrdinaryUser([&] { return !removed(victim + "/item"); }));
+    EXPECT_TRUE(namesIn(victim).empty());
+}
+
+TEST_F(Remover, takesWhatSomebodyElseRemovesMeanwhileAsRemoved) {
+    for (const long call : {SYS_unlinkat, SYS_openat2, SYS_getdents64}) {
+        for (unsigned at = 0; at < 8; ++at) {
+            for (const char* name : {"a", "b", "c"}) zoo::makeFile(victim + "/" + name + "/file");
+            Failure failure = "not run";
+            behindGate(
+                static_cast<int>(call),
+                [&](unsigned number) {
+                    if (number == at) {
+                        for (const char* name : {"a", "b", "c"}) fs::remove_all(victim + "/" + name);
+                    }
+                    return 0;
+                },
+                [&] { failure = removed(victim); });
+            EXPECT_EQ(failure, std::nullopt) << call << " " << at;
+            EXPECT_FALSE(fs::exists(victim));
+        }
+    }
+}
+
+TEST_F(Remover, takesWhatIsAddedWhileItRemoves) {
+    zoo::makeFile(victim + "/folder/file");
+    Failure failure = "not run";
+    behindGate(
+        SYS_unlinkat,
+        [&](unsigned number) {
+            // After the only file is gone, and when the folder is to go.
+            if (number == 1) zoo::makeFile(victim + "/folder/late/file");
+            return 0;
+        },
+        [&] { failure = removed(victim); });
+    EXPECT_EQ(failure, std::nullopt);
+    EXPECT_FALSE(fs::exists(victim));
+}
+
+TEST_F(Remover, givesUpOnAFolderThatIsFilledAgainForEver) {
+    zoo::makeFile(victim + "/folder/file");
+    Failure failure;
+    behindGate(
+        SYS_unlinkat,
+        [&](unsigned number) {
+            zoo::makeFile(victim + "/folder/late" + std::to_string(number));
+            return 0;
+        },
+        [&] { failure = removed(victim); });
+    EXPECT_THAT(failure, Optional(std::string("“folder” in “victim” couldn’t be removed: Directory not empty")));
+}
+
+TEST_F(Remover, removesALinkThatWasPutInPlaceOfAFolder) {
+    for (const long call : {SYS_openat2, SYS_unlinkat}) {
+        for (unsigned at = 0; at < 4; ++at) {
+            fs::remove_all(victim);
+            fs::remove_all(temp / "aside");
+            zoo::makeFile(victim + "/folder/file");
+            bool swapped = false;
+            Failure failure = "not run";
+            behindGate(
+                static_cast<int>(call),
+                [&](unsigned number) {
+                    if (number == at && fs::exists(victim + "/folder")) {
+                        fs::rename(victim + "/folder", temp / "aside");
+                        fs::create_directory_symlink(outside, victim + "/folder");
+                        swapped = true;
+                    }
+                    return 0;
+                },
+                [&] { failure = removed(victim); });
+            EXPECT_TRUE(swapped || at > 0);
+            EXPECT_FALSE(fs::exists(fs::symlink_status(victim))) << failure.value_or("");
+            expectOutsideUntouched();
+        }
+    }
+}
+
+TEST_F(Remover, anErrorOfAnyCallIsTold) {
+    for (const long call : {SYS_openat2, SYS_getdents64, SYS_unlinkat, SYS_statx, SYS_fcntl}) {
+        unsigned calls = 0;
+        zoo::makeFile(victim + "/a/b/file");
+        behindGate(
+            static_cast<int>(call), [&](unsigned) { return ++calls, 0; },
+            [&] { EXPECT_EQ(removed(victim), std::nullopt); });
+        ASSERT_GT(calls, 0u) << call;
+        const std::ptrdiff_t before = fakes::openDescriptors();
+        for (unsigned failing = 0; failing < calls; ++failing) {
+            fs::remove_all(victim);
+            zoo::makeFile(victim + "/a/b/file");
+            Failure failure;
+            behindGate(
+                static_cast<int>(call), [&](unsigned number) { return number == failing ? EIO : 0; },
+                [&] { failure = removed(victim); });
+            ASSERT_TRUE(failure) << call << " " << failing;
+            EXPECT_TRUE(failure->ends_with("couldn’t be removed: Input/output error")) << *failure;
+            EXPECT_TRUE(fs::exists(victim));
+        }
+        EXPECT_EQ(fakes::openDescriptors(), before);
+        EXPECT_EQ(removed(victim), std::nullopt);
+    }
+}
+
+}  // namespace
+}  // namespace zelk

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+// Removing where other volumes are mounted, and while another thread swaps folders for links.
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <stdio.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <filesystem>
+#include <thread>
+
+#include "fakes/Mounts.h"
+#include "fakes/SystemCallGate.h"
+#include "fakes/TestFiles.h"
+#include "platform/linux/LinuxFileManager.h"
+#include "zoo/TempFolder.h"
+#include "zoo/Zoo.h"
+
+namespace zelk {
+namespace {
+
+namespace fs = std::filesystem;
+
+using fakes::behindGate;
+using fakes::namesIn;
+using testing::Optional;
+
+Failure removed(const std::string& path) {
+    return LinuxFileManager().remove(ItemPath::from(path).value());
+}
+
+class RemoverAndMounts : public testing::Test {
+protected:
+    void SetUp() override {
+        if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
+        zoo::makeFile(victim + "/a/file");
+        zoo::makeFile(victim + "/z/file");
+        zoo::makeFile(elsewhere + "/kept");
+        zoo::makeFolder(victim + "/m/mounted");
+    }
+
+    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
+    const std::string victim = temp / "victim";
+    const std::string elsewhere = temp / "elsewhere";
+    const std::string refused = "“victim” couldn’t be removed: another volume is mounted in it";
+    fakes::Mounts mounts;
+};
+
+TEST_F(RemoverAndMounts, aBindMountInTheFolderIsRefusedAndNothingIsGone) {
+    mounts.again(elsewhere, victim + "/m/mounted");
+    EXPECT_THAT(removed(victim), Optional(refused));
+    EXPECT_TRUE(fs::exists(victim + "/a/file") && fs::exists(victim + "/z/file"));
+    EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
+}
+
+TEST_F(RemoverAndMounts, anotherVolumeInTheFolderIsRefusedAndNothingIsGone) {
+    mounts.memory(victim + "/m/mounted");
+    zoo::makeFile(victim + "/m/mounted/kept");
+    EXPECT_THAT(removed(victim), Optional(refused));
+    EXPECT_TRUE(fs::exists(victim + "/a/file") && fs::exists(victim + "/m/mounted/kept"));
+}
+
+TEST_F(RemoverAndMounts, theFolderReachedThroughALinkIsRefusedToo) {
+    mounts.again(elsewhere, victim + "/m/mounted");
+    fs::create_directory_symlink(temp.path(), temp / "link");
+    EXPECT_THAT(removed(temp / "link/victim"), Optional(refused));
+    EXPECT_TRUE(fs::exists(victim + "/a/file"));
+}
+
+TEST_F(RemoverAndMounts, theMountPointItselfIsRefused) {
+    mounts.again(elsewhere, victim + "/m/mounted");
+    EXPECT_THAT(removed(victim + "/m/mounted"),
+                Optional(std::string("“mounted” couldn’t be removed: another volume is mounted there")));
+    EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
+}
+
+TEST_F(RemoverAndMounts, aFileMountedOverAnotherIsRefused) {
+    mounts.again(elsewhere + "/kept", victim + "/a/file");
+    EXPECT_THAT(removed(victim + "/a/file"),
+                Optional(std::string("“file” couldn’t be removed: another volume is mounted there")));
+    EXPECT_THAT(removed(victim), Optional(refused));
+    EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
+}
+
+TEST_F(RemoverAndMounts, whatIsMountedCanBeEmptiedFromWithin) {
+    mounts.again(elsewhere, victim + "/m/mounted");
+    EXPECT_EQ(removed(victim + "/m/mounted/kept"), std::nullopt);
+    EXPECT_TRUE(namesIn(elsewhere).empty());
+}
+
+// Nothing of the table of mounts, and then of the newest call, is needed to stop at a mount.
+class RemoverWithoutMountTable : public RemoverAndMounts, public testing::WithParamInterface<bool> {};
+
+TEST_P(RemoverWithoutMountTable, stopsAtAMount) {
+    mounts.again(elsewhere, victim + "/m/mounted");
+    if (GetParam()) {
+        Failure failure;
+        behindGate(
+            SYS_openat2, [](unsigned) { return ENOSYS; },
+            [&] {
+                // No link of /proc can be read by this thread, so that no path is known to look up in the table.
+                ASSERT_EQ(fakes::filterCalls(SYS_readlink, SECCOMP_RET_ERRNO | ENOENT), 0);
+                failure = removed(victim);
+            });
+        EXPECT_THAT(
+            failure,
+            Optional(std::string("“mounted” in “victim” couldn’t be removed: another volume is mounted there")));
+    } else {
+        Failure failure;
+        behindGate(
+            SYS_readlink, [](unsigned) { return ENOENT; }, [&] { failure = removed(victim); });
+        EXPECT_THAT(
+            failure,
+            Optional(std::string("“mounted” in “victim” couldn’t be removed: another volume is mounted there")));
+    }
+    EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
+}
+
+INSTANTIATE_TEST_SUITE_P(OpenAt2, RemoverWithoutMountTable, testing::Bool());
+
+TEST(RemoverAndSwaps, aThousandRunsTouchNothingOutside) {
+    const zoo::TempFolder temp(zoo::TempFolder::Medium::memory);
+    const std::string outside = temp / "outside";
+    const std::string victim = temp / "victim";
+    const std::string spare = temp / "spare";
+    for (const char* name : {"file", "a/file", "b/c/file", "kept/file"}) zoo::makeFile(outside + "/" + name);
+    fs::create_directory_symlink(outside, spare);
+
+    std::atomic<bool> done{false};
+    std::atomic<std::size_t> swaps{0};
+    std::thread swapper([&] {
+        const std::string folder = victim + "/a/b/folder";
+        const std::string upper = victim + "/a/b";
+        while (!done) {
+            // The folder and the link change places in one step, and the one above it too.
+            for (const std::string& place : {folder, upper})
+                swaps += ::renameat2(AT_FDCWD, place.c_str(), AT_FDCWD, spare.c_str(), RENAME_EXCHANGE) == 0;
+        }
+    });
+    std::size_t complete = 0;
+    for (int run = 0; run < 1000; ++run) {
+        for (const char* name : {"/a/b/folder/file", "/a/b/c/file", "/a/b/folder/a/file", "/a/b/folder/b/c/file"}) try {
+                zoo::makeFile(victim + name);
+            } catch (const std::system_error&) {  // swapped under the making; what there is will do
+            }
+        complete += !removed(victim);
+    }
+    done = true;
+    swapper.join();
+    for (const char* name : {"file", "a/file", "b/c/file", "kept/file"})
+        EXPECT_TRUE(fs::exists(outside + "/" + name)) << name;
+    EXPECT_GT(complete, 0u);
+    EXPECT_GT(swaps, 0u);
+}
+
+}  // namespace
+}  // namespace zelk
