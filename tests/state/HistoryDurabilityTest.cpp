@@ -2,17 +2,14 @@
 // Every system call of adding a record, failed and killed in turn: what is left is the old or the new history, whole.
 #ifdef __linux__
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <map>
-#include <sstream>
 #include <vector>
 
 #include "fakes/TestFiles.h"
+#include "fakes/TracedProgram.h"
 #include "platform/linux/LinuxFileManager.h"
 #include "platform/linux/LinuxLocations.h"
 #include "state/SurveyHistory.h"
@@ -21,49 +18,22 @@
 namespace zelk {
 namespace {
 
+using fakes::Arguments;
 using fakes::fileContent;
 using fakes::namesIn;
+using fakes::runProgram;
 using testing::AnyOf;
 using testing::ElementsAre;
 
-using Arguments = std::vector<std::string>;
+using Position = fakes::CallPosition;
 using History = std::vector<SurveyRecord>;
 
 /// What reading and writing a file is made of; "?" passes over those that this machine does not have.
-const std::string traced =
+const std::string tracedCalls =
     "?access,?faccessat,?faccessat2,?open,openat,?mkdir,mkdirat,?stat,?lstat,?fstat,?newfstatat,?statx,?readlink,"
     "readlinkat,read,write,?writev,?pwrite64,fsync,fdatasync,ftruncate,close,?rename,renameat,?renameat2,?unlink,"
     "unlinkat,"
     "fchmod,flock,fcntl,?getdents64";
-
-/// The exit status, or -1 if a signal ended it.
-int run(const Arguments& arguments) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        std::vector<char*> pointers;
-        for (const std::string& argument : arguments) pointers.push_back(const_cast<char*>(argument.c_str()));
-        pointers.push_back(nullptr);
-        const int quiet = ::open("/dev/null", O_WRONLY);
-        ::dup2(quiet, STDERR_FILENO);
-        ::execvp(pointers[0], pointers.data());
-        ::_exit(127);
-    }
-    int status = 0;
-    while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
-    }
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-/// One call of the program: strace counts each by its name, from 1.
-struct Position {
-    std::string call;
-    int number;
-    std::string line;
-
-    std::string injection(const std::string& what) const {
-        return "inject=" + call + ":" + what + ":when=" + std::to_string(number);
-    }
-};
 
 /// Not one of the sanitizers' own, which write into pipes to learn whether memory is there.
 bool writesTheHistory(const Position& position) {
@@ -83,29 +53,14 @@ protected:
 
     /// Adds the record 3 under strace.
     int runTraced(const Arguments& injections) {
-        ::unlink(log.c_str());
-        Arguments arguments{"strace", "-qq", "-o", log, "-e", "trace=" + traced};
-        for (const std::string& injection : injections) arguments.insert(arguments.end(), {"-e", injection});
-        arguments.insert(arguments.end(), {ZELK_HISTORY_WRITER, home.path(), "3"});
-        return run(arguments);
+        return traced.run({ZELK_HISTORY_WRITER, home.path(), "3"}, injections);
     }
 
     /// The calls between the beginning and the end of adding a record.
     std::vector<Position> positions() {
         EXPECT_EQ(runTraced({}), 0);
-        std::vector<Position> found;
-        std::map<std::string, int> counts;
-        bool begun = false;
-        std::istringstream lines(fileContent(log));
-        for (std::string line; std::getline(lines, line);) {
-            const std::string call = line.substr(0, line.find('('));
-            const int number = ++counts[call];
-            if (begun) found.push_back({call, number, line});
-            begun = begun || line.find("/history-writer-begins") != std::string::npos;
-        }
-        EXPECT_FALSE(found.empty()) << "strace cannot trace a program here. This test needs the package strace and "
-                                       "the permission to trace one's own children (ptrace).";
-        return found;
+        EXPECT_FALSE(traced.positions().empty()) << "strace cannot trace a program here";
+        return traced.positions();
     }
 
     /// The first call of the write, behind those of the reading before it.
@@ -128,7 +83,7 @@ protected:
     const zoo::TempFolder home;
     const std::string folder = home / ".local/share/Zelk";
     const std::string file = folder + "/history.json";
-    const std::string log = home / "log";
+    const fakes::TracedProgram traced{tracedCalls, home / "log", "/history-writer-begins"};
     LinuxFileManager files;
     const History old{record(1), record(2)};
     const History added{record(1), record(2), record(3)};
@@ -157,7 +112,7 @@ TEST_F(HistoryDurability, anErrorOfAnyCallLeavesTheOldOrTheNewHistory) {
             SCOPED_TRACE(std::string(error) + " in " + all[i].line);
             prepare();
             EXPECT_EQ(runTraced({all[i].injection("error=" + std::string(error))}), 0);
-            EXPECT_NE(fileContent(log).find("(INJECTED)"), std::string::npos);
+            EXPECT_TRUE(traced.injected());
             if (i < begin) {
                 EXPECT_THAT(stored(), AnyOf(old, added, fresh));
             } else {
@@ -187,7 +142,7 @@ TEST_F(HistoryDurability, aKillAtAnyCallLeavesTheOldOrTheNewHistoryAndTheNextRec
         EXPECT_EQ(runTraced({position.injection("signal=KILL")}), -1);
         const auto left = stored();
         ASSERT_THAT(left, AnyOf(old, added));
-        EXPECT_EQ(run({ZELK_HISTORY_WRITER, home.path(), "4"}), 0);
+        EXPECT_EQ(runProgram({ZELK_HISTORY_WRITER, home.path(), "4"}), 0);
         History next = *left;
         next.push_back(record(4));
         EXPECT_EQ(stored(), next);
@@ -226,7 +181,7 @@ TEST_F(HistoryDurability, aTemporaryFileThatCannotBeRemovedIsSweptByTheNextRecor
         runTraced({write, "inject=unlinkat:" + std::string(then)});
         EXPECT_EQ(stored(), old);
         EXPECT_TRUE(leftovers());
-        EXPECT_EQ(run({ZELK_HISTORY_WRITER, home.path(), "3"}), 0);
+        EXPECT_EQ(runProgram({ZELK_HISTORY_WRITER, home.path(), "3"}), 0);
         EXPECT_EQ(stored(), added);
         EXPECT_FALSE(leftovers());
     }

@@ -19,15 +19,16 @@ namespace zelk {
 namespace {
 
 /// Whether the home trash is, or would come to be, on the volume of `folder`: that of the nearest folder above `path`
-/// that is there.
-bool isOnVolumeOf(const FileStatus& folder, const std::string& path) {
+/// that is there. Absent, with errno set, if that does not say.
+std::optional<bool> isOnVolumeOf(const FileStatus& folder, const std::string& path) {
     for (std::size_t end = path.size(); end != std::string::npos; end = end == 0 ? end - 1 : path.rfind('/', end - 1)) {
         const Descriptor nearest(openForLookups(end == 0 ? "/" : path.substr(0, end)));
         if (!nearest) continue;
         const std::optional<FileStatus> status = fileStatus(nearest.get());
-        return status && status->isOnVolumeOf(folder);
+        if (!status) return std::nullopt;
+        return status->isOnVolumeOf(folder);
     }
-    return false;
+    return std::nullopt;
 }
 
 /// The way from the folder `top` to what is below it, without a slash at the front; absent if it is not.
@@ -78,7 +79,9 @@ Failure LinuxTrash::move(const ItemPath& item) {
     std::string reason;
     std::string original = item.text();
     std::optional<TrashFolder> trash;
-    if (isOnVolumeOf(*above, location())) {
+    const std::optional<bool> atHome = isOnVolumeOf(*above, location());
+    if (!atHome) return systemText(errno);
+    if (*atHome) {
         trash = openHomeTrash(dataHome_, IfMissing::create, reason);
     } else {
         const std::optional<std::string> top = mountPointOf(mounts, above->mount);

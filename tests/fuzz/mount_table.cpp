@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// Any text as the table of mounts: what is taken from it are absolute paths, and every place that the kernel can write
+// is read back as it was.
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/linux/MountTable.h"
+
+namespace {
+
+void require(bool condition) {
+    if (!condition) std::abort();
+}
+
+/// As the kernel writes it.
+std::string lineOf(const zelk::Mount& mount) {
+    std::string line = std::to_string(mount.id) + " 1 8:1 / ";
+    for (const char c : mount.point) {
+        std::array<char, 8> escaped{c, '\0'};
+        if (std::string_view(" \t\n\\#").find(c) != std::string_view::npos)
+            std::snprintf(escaped.data(), escaped.size(), "\\%03o", static_cast<unsigned char>(c));
+        line += escaped.data();
+    }
+    return line + " rw,relatime shared:1 - ext4 /dev/sda1 rw\n";
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    const std::vector<zelk::Mount> table = zelk::parseMountTable(text);
+    std::string written;
+    for (const zelk::Mount& mount : table) {
+        require(mount.point.starts_with('/') && mount.point.find('\0') == std::string::npos);
+        require(mount.point == "/" || !mount.point.ends_with('/'));
+        require(zelk::mountPointOf(table, mount.id).has_value());
+        require(!zelk::isMountedBelow({mount}, mount.point));
+        require(mount.point == "/" || zelk::isMountedBelow(table, "/"));
+        require(zelk::isMountedBelow(table, mount.point) ==
+                zelk::isMountedBelow(table, mount.point == "/" ? "" : mount.point + "/"));
+        written += lineOf(mount);
+    }
+    require(zelk::parseMountTable(written) == table);
+    return 0;
+}

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+// Every system call of trashing and of emptying, failed and killed in turn: an item is where it was or can be put back,
+// whole, and nothing is said to be in the Trash that is not.
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "fakes/TestFiles.h"
+#include "fakes/TracedProgram.h"
+#include "fakes/TrashContent.h"
+#include "zoo/TempFolder.h"
+#include "zoo/Zoo.h"
+
+namespace zelk {
+namespace {
+
+namespace fs = std::filesystem;
+
+using fakes::CallPosition;
+using fakes::fileContent;
+using fakes::namesIn;
+using fakes::restorable;
+using fakes::writeFile;
+
+/// What the Trash is made of; "?" passes over those that this machine does not have.
+const std::string tracedCalls =
+    "?access,?faccessat,?faccessat2,?open,openat,?openat2,?mkdir,mkdirat,?stat,?lstat,?fstat,?newfstatat,?statx,"
+    "?readlink,readlinkat,read,write,fsync,close,?rename,renameat,?renameat2,?unlink,unlinkat,?rmdir,flock,fcntl,"
+    "?getdents64,?lseek,?statfs,?fstatfs";
+
+class TrashDurability : public testing::Test {
+protected:
+    /// An item, and a Trash in which its name is taken. Nothing else.
+    void prepare() {
+        for (const std::string& folder : {home, items}) fs::remove_all(folder);
+        zoo::makeFolder(items);
+        for (const char* name : {"/files/item.txt", "/files/folder/a/file", "/files/folder/b/file"})
+            zoo::makeFile(trash + name);
+        zoo::makeFolder(trash + "/info");
+        for (const char* name : {"item.txt", "folder"})
+            writeFile(trash + "/info/" + name + ".trashinfo", infoOf("/old/" + std::string(name)));
+        writeFile(item, "content");
+    }
+
+    static std::string infoOf(const std::string& path) {
+        return "[Trash Info]\nPath=" + path + "\nDeletionDate=2026-01-01T00:00:00\n";
+    }
+
+    int trashItem(const fakes::Arguments& injections) {
+        return program.run({ZELK_TRASH_WRITER, "trash", home, item}, injections);
+    }
+    int emptyTrash(const fakes::Arguments& injections) {
+        return program.run({ZELK_TRASH_WRITER, "empty", home}, injections);
+    }
+
+    bool isInPlace() const { return fileContent(item) == "content"; }
+    bool isInTrash() const {
+        const auto found = restorable(trash);
+        return found.contains(item) && fileContent(found.at(item)) == "content";
+    }
+    bool oldOnesAreThere() const {
+        const auto found = restorable(trash);
+        return found.contains("/old/item.txt") && found.contains("/old/folder") &&
+               fs::exists(found.at("/old/folder") + "/a/file") && fs::exists(found.at("/old/folder") + "/b/file");
+    }
+
+    std::vector<CallPosition> positions() const {
+        const std::vector<CallPosition> all = program.positions();
+        EXPECT_FALSE(all.empty()) << "strace cannot trace a program here";
+        return all;
+    }
+
+    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
+    const std::string home = temp / "home";
+    const std::string trash = home + "/.local/share/Trash";
+    const std::string items = temp / "items";
+    const std::string item = items + "/item.txt";
+    const fakes::TracedProgram program{tracedCalls, temp / "log", "/trash-writer-begins"};
+};
+
+TEST_F(TrashDurability, theInfoIsFlushedBeforeTheItemMoves) {
+    prepare();
+    ASSERT_EQ(trashItem({}), 0);
+    std::string order;
+    for (const CallPosition& position : positions()) {
+        const bool ofInfo = position.line.find(".trashinfo") != std::string::npos && position.call == "openat" &&
+                            position.line.find("EEXIST") == std::string::npos;
+        if (ofInfo) order += "create ";
+        if (position.call == "write" && position.line.find("[Trash Info]") != std::string::npos) order += "write ";
+        if (position.call == "fsync") order += "fsync ";
+        if (position.call.starts_with("rename")) order += "rename ";
+    }
+    EXPECT_EQ(order, "create write fsync fsync rename ");
+    EXPECT_TRUE(isInTrash() && oldOnesAreThere());
+}
+
+TEST_F(TrashDurability, anErrorOfAnyCallLeavesTheItemOrBringsItIntoTheTrashAndSaysWhich) {
+    prepare();
+    ASSERT_EQ(trashItem({}), 0);
+    for (const CallPosition& position : positions()) {
+        for (const char* error : {"EIO", "ENOSPC", "EPERM"}) {
+            SCOPED_TRACE(std::string(error) + " in " + position.line);
+            prepare();
+            const int status = trashItem({position.injection("error=" + std::string(error))});
+            EXPECT_TRUE(program.injected());
+            EXPECT_TRUE(status == 0 ? isInTrash() && !isInPlace() : status == 1 && isInPlace() && !isInTrash())
+                << status;
+            EXPECT_TRUE(oldOnesAreThere());
+            // Each file of info has its content.
+            EXPECT_EQ(namesIn(trash + "/info").size(), namesIn(trash + "/files").size());
+        }
+    }
+}
+
+TEST_F(TrashDurability, aFirstItemsErrorOfAnyCallIsSaidToo) {
+    prepare();
+    fs::remove_all(home);
+    ASSERT_EQ(trashItem({}), 0);
+    for (const CallPosition& position : positions()) {
+        SCOPED_TRACE(position.line);
+        prepare();
+        fs::remove_all(home);
+        const int status = trashItem({position.injection("error=EACCES")});
+        EXPECT_TRUE(status == 0 ? isInTrash() && !isInPlace() : status == 1 && isInPlace() && !isInTrash()) << status;
+    }
+}
+
+TEST_F(TrashDurability, aKillAtAnyCallLeavesTheItemOrBringsItIntoTheTrash) {
+    prepare();
+    ASSERT_EQ(trashItem({}), 0);
+    bool killedInPlace = false;
+    bool killedInTrash = false;
+    for (const CallPosition& position : positions()) {
+        SCOPED_TRACE("killed at " + position.line);
+        prepare();
+        EXPECT_EQ(trashItem({position.injection("signal=KILL")}), -1);
+        EXPECT_TRUE(isInPlace() != isInTrash());
+        EXPECT_TRUE(oldOnesAreThere());
+        (isInPlace() ? killedInPlace : killedInTrash) = true;
+        // And what was left is in nobody's way.
+        if (isInPlace()) {
+            EXPECT_EQ(trashItem({}), 0);
+        }
+        EXPECT_TRUE(isInTrash() && !isInPlace());
+    }
+    EXPECT_TRUE(killedInPlace && killedInTrash);
+}
+
+TEST_F(TrashDurability, aKillOnAVolumeThatCannotPromiseToReplaceNothingLosesNothingEither) {
+    const std::string without = "inject=renameat2:error=EINVAL";
+    prepare();
+    ASSERT_EQ(trashItem({without}), 0);
+    ASSERT_TRUE(isInTrash());
+    for (const CallPosition& position : positions()) {
+        if (position.call == "renameat2") continue;
+        SCOPED_TRACE("killed at " + position.line);
+        prepare();
+        EXPECT_EQ(trashItem({without, position.injection("signal=KILL")}), -1);
+        EXPECT_TRUE(isInPlace() != isInTrash());
+        EXPECT_TRUE(oldOnesAreThere());
+    }
+}
+
+TEST_F(TrashDurability, anErrorOfAnyCallOfEmptyingLeavesNoContentWithoutInfo) {
+    prepare();
+    ASSERT_EQ(emptyTrash({}), 2);
+    for (const CallPosition& position : positions()) {
+        SCOPED_TRACE(position.line);
+        prepare();
+        const int removed = emptyTrash({position.injection("error=EIO")});
+        EXPECT_TRUE(program.injected());
+        const std::size_t left = namesIn(trash + "/files").size();
+        EXPECT_EQ(removed, 2 - static_cast<int>(left));
+        EXPECT_EQ(restorable(trash).size(), left);
+        EXPECT_TRUE(isInPlace());
+    }
+}
+
+TEST_F(TrashDurability, aKillAtAnyCallOfEmptyingLeavesNoContentWithoutInfo) {
+    prepare();
+    ASSERT_EQ(emptyTrash({}), 2);
+    for (const CallPosition& position : positions()) {
+        SCOPED_TRACE("killed at " + position.line);
+        prepare();
+        EXPECT_EQ(emptyTrash({position.injection("signal=KILL")}), -1);
+        const std::size_t left = namesIn(trash + "/files").size();
+        EXPECT_EQ(restorable(trash).size(), left);
+        EXPECT_TRUE(isInPlace());
+        EXPECT_EQ(emptyTrash({}), static_cast<int>(left));
+        EXPECT_TRUE(namesIn(trash + "/files").empty());
+    }
+}
+
+}  // namespace
+}  // namespace zelk

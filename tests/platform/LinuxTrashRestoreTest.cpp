@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+// What is trashed comes back byte for byte with the tools that people have for that.
+#include <gmock/gmock.h>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+
+#include "fakes/Mounts.h"
+#include "fakes/TestFiles.h"
+#include "fakes/TracedProgram.h"
+#include "platform/linux/LinuxTrash.h"
+#include "zoo/TempFolder.h"
+#include "zoo/Zoo.h"
+
+namespace zelk {
+namespace {
+
+namespace fs = std::filesystem;
+
+using fakes::fileContent;
+using fakes::namesIn;
+using fakes::runProgram;
+using fakes::writeFile;
+
+std::string longName() {
+    std::string name;
+    while (name.size() < 240) name += "文";
+    return name + ".with.txt";
+}
+
+/// On the disk: one of the tools does not look for a Trash elsewhere.
+class RestoringTrash : public testing::Test {
+protected:
+    void SetUp() override {
+        zoo::makeFolder(home);
+        zoo::makeFolder(items);
+        zoo::makeFolder(temp / "run");
+        ::chmod((temp / "run").c_str(), 0700);
+    }
+
+    void trashAll(const std::vector<std::string>& names) {
+        for (const std::string& name : names) {
+            const std::string path = items + "/" + name;
+            writeFile(path, "content of " + name);
+            ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(path).value()), std::nullopt) << name;
+        }
+        ASSERT_TRUE(namesIn(items).empty());
+    }
+
+    void expectBack(const std::vector<std::string>& names) {
+        EXPECT_EQ(namesIn(items), std::set<std::string>(names.begin(), names.end()));
+        for (const std::string& name : names) EXPECT_EQ(fileContent(items + "/" + name), "content of " + name);
+        EXPECT_TRUE(namesIn(home + "/.local/share/Trash/files").empty());
+        EXPECT_TRUE(namesIn(home + "/.local/share/Trash/info").empty());
+    }
+
+    /// Runs `line` in the shell, as the owner of the home folder, and waits for all that it has started: what a session
+    /// leaves behind writes into the home folder until its end.
+    int shell(const std::string& line) {
+        ::prctl(PR_SET_CHILD_SUBREAPER, 1);
+        const int status = runProgram({"env", "-u", "XDG_DATA_HOME", "-u", "DBUS_SESSION_BUS_ADDRESS", "HOME=" + home,
+                                       "XDG_RUNTIME_DIR=" + (temp / "run"), "LC_ALL=C.UTF-8",
+                                       "PYTHONIOENCODING=utf-8:surrogateescape", "sh", "-c", line});
+        while (::wait(nullptr) > 0 || errno == EINTR) {
+        }
+        return status;
+    }
+
+    /// Of what was below `folder`, in the tool's own order; one alone is 0.
+    int restoreBelow(const std::string& folder, const std::string& numbers = "0") {
+        return shell("cd / && echo " + numbers + " | trash-restore '" + folder + "' >/dev/null");
+    }
+
+    const zoo::TempFolder temp;
+    const std::string home = temp / "home";
+    const std::string items = temp / "items";
+};
+
+// But for names that are no UTF-8: it brings those back under a name of replacement characters.
+TEST_F(RestoringTrash, trashRestoreBringsBackEveryName) {
+    const std::vector<std::string> names{
+        "plain.txt",           "a b", "100%25", "%", "new\nline", "new\nPath=passwd", "ü文", ".hidden", longName(),
+        std::string(250, 'n'), "\x01"};
+    trashAll(names);
+    EXPECT_EQ(restoreBelow(items, "0-" + std::to_string(names.size() - 1)), 0);
+    expectBack(names);
+}
+
+TEST_F(RestoringTrash, trashRestoreBringsBackFoldersAndLinks) {
+    zoo::makeNames(items + "/folder");
+    const auto names = namesIn(items + "/folder");
+    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/folder").value()), std::nullopt);
+    EXPECT_EQ(restoreBelow(items), 0);
+    EXPECT_EQ(namesIn(items + "/folder"), names);
+    fs::create_symlink("/nowhere", items + "/link");
+    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/link").value()), std::nullopt);
+    EXPECT_EQ(restoreBelow(items), 0);
+    EXPECT_EQ(fs::read_symlink(items + "/link"), "/nowhere");
+}
+
+TEST_F(RestoringTrash, trashRestoreBringsBackWhatIsInAVolumesTrash) {
+    fakes::Mounts mounts;
+    if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
+    mounts.memory(temp / "stick");
+    zoo::makeFolder(temp / "stick/folder");
+    const std::string item = temp / "stick/folder/a %";
+    writeFile(item, "content");
+    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(item).value()), std::nullopt);
+    EXPECT_FALSE(fs::exists(item));
+    EXPECT_EQ(restoreBelow(temp / "stick"), 0);
+    EXPECT_EQ(fileContent(item), "content");
+}
+
+// It restores names that are not printable under an escaped form of the name, so those are left to the other tool.
+TEST_F(RestoringTrash, gioBringsBackWhatItLists) {
+    const std::vector<std::string> names{"plain.txt", "a b", "100%25", "%", ".hidden", "a.b.c", std::string(250, 'n')};
+    trashAll(names);
+    EXPECT_EQ(shell("dbus-run-session -- sh -c 'gio trash --list | cut -f 1 | while IFS= read -r item; do "
+                    "gio trash --restore \"$item\" || exit 1; done'"),
+              0);
+    expectBack(names);
+}
+
+TEST_F(RestoringTrash, gioBringsBackTheSecondOfAName) {
+    for (const char* content : {"first", "second"}) {
+        writeFile(items + "/same.txt", content);
+        ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/same.txt").value()), std::nullopt);
+    }
+    EXPECT_EQ(shell("dbus-run-session -- gio trash --restore trash:///same.2.txt"), 0);
+    EXPECT_EQ(fileContent(items + "/same.txt"), "second");
+}
+
+}  // namespace
+}  // namespace zelk
