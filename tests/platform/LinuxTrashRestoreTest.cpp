@@ -70,9 +70,9 @@ protected:
         return status;
     }
 
-    /// Of what was below `folder`, in the tool's own order; one alone is 0.
-    int restoreBelow(const std::string& folder, const std::string& numbers = "0") {
-        return shell("cd / && echo " + numbers + " | trash-restore '" + folder + "' >/dev/null");
+    /// Of what was below `folder`, in the tool's own order.
+    int restoreFirstBelow(const std::string& folder) {
+        return shell("cd / && echo 0 | trash-restore '" + folder + "' >/dev/null");
     }
 
     const zoo::TempFolder temp;
@@ -82,11 +82,9 @@ protected:
 
 // But for names that are no UTF-8: it brings those back under a name of replacement characters.
 TEST_F(RestoringTrash, trashRestoreBringsBackEveryName) {
-    const std::vector<std::string> names{
-        "plain.txt",           "a b", "100%25", "%", "new\nline", "new\nPath=passwd", "ü文", ".hidden", longName(),
-        std::string(250, 'n'), "\x01"};
+    const std::vector<std::string> names{"100%25 %", "new\nPath=passwd", "\x01\tü文", ".hidden", longName()};
     trashAll(names);
-    EXPECT_EQ(restoreBelow(items, "0-" + std::to_string(names.size() - 1)), 0);
+    for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(restoreFirstBelow(items), 0);
     expectBack(names);
 }
 
@@ -94,11 +92,11 @@ TEST_F(RestoringTrash, trashRestoreBringsBackFoldersAndLinks) {
     zoo::makeNames(items + "/folder");
     const auto names = namesIn(items + "/folder");
     ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/folder").value()), std::nullopt);
-    EXPECT_EQ(restoreBelow(items), 0);
+    EXPECT_EQ(restoreFirstBelow(items), 0);
     EXPECT_EQ(namesIn(items + "/folder"), names);
     fs::create_symlink("/nowhere", items + "/link");
     ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/link").value()), std::nullopt);
-    EXPECT_EQ(restoreBelow(items), 0);
+    EXPECT_EQ(restoreFirstBelow(items), 0);
     EXPECT_EQ(fs::read_symlink(items + "/link"), "/nowhere");
 }
 
@@ -111,7 +109,7 @@ TEST_F(RestoringTrash, trashRestoreBringsBackWhatIsInAVolumesTrash) {
     writeFile(item, "content");
     ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(item).value()), std::nullopt);
     EXPECT_FALSE(fs::exists(item));
-    EXPECT_EQ(restoreBelow(temp / "stick"), 0);
+    EXPECT_EQ(restoreFirstBelow(temp / "stick"), 0);
     EXPECT_EQ(fileContent(item), "content");
 }
 
