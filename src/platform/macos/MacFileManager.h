@@ -16,6 +16,8 @@ public:
     std::optional<std::string> read(const std::string& path) override;
     bool replaceDurably(const std::string& path, std::string_view content) override;
     bool createDirectories(const std::string& path) override;
+    int tryOpen(const std::string& path) override;
+    Failure remove(const ItemPath& item) override;
 };
 
 }  // namespace zelk

@@ -5,10 +5,12 @@
 
 #include <sys/stat.h>
 
+#include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/TryOpenFile.h"
 
 namespace zelk {
 
@@ -71,6 +73,19 @@ bool MacFileManager::replaceDurably(const std::string& path, std::string_view co
 
 bool MacFileManager::createDirectories(const std::string& path) {
     return createDirectoryTree(path);
+}
+
+int MacFileManager::tryOpen(const std::string& path) {
+    return tryOpenFile(path);
+}
+
+Failure MacFileManager::remove(const ItemPath& item) {
+    @autoreleasepool {
+        NSError* error = nil;
+        if ([[NSFileManager defaultManager] removeItemAtURL:fileURL(item.text(), false) error:&error])
+            return std::nullopt;
+        return failureOf(error);
+    }
 }
 
 }  // namespace zelk

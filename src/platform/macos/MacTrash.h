@@ -14,6 +14,8 @@ public:
     /// Absent also if there is no such folder: the system makes it with the account and guards it, so whoever cannot
     /// find it has not been let in.
     std::optional<std::vector<std::string>> list() override;
+    Failure trash(const ItemPath& item) override;
+    std::size_t empty() override;
 
 private:
     std::string location_;

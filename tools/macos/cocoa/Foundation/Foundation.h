@@ -82,6 +82,10 @@ NSString* NSHomeDirectory(void);
 @interface NSDirectoryEnumerator<ObjectType> : NSEnumerator <ObjectType>
 @end
 
+@interface NSError : NSObject
+@property(readonly) NSString* localizedDescription;
+@end
+
 @interface NSURL : NSObject
 @property(readonly) const char* fileSystemRepresentation;
 + (NSURL*)fileURLWithFileSystemRepresentation:(const char*)path
@@ -99,6 +103,12 @@ NSString* NSHomeDirectory(void);
                        includingPropertiesForKeys:(NSArray<NSURLResourceKey>*)keys
                                           options:(NSDirectoryEnumerationOptions)options
                                      errorHandler:(BOOL (^)(NSURL*, NSError*))handler;
+- (NSArray<NSURL*>*)contentsOfDirectoryAtURL:(NSURL*)url
+                  includingPropertiesForKeys:(NSArray<NSURLResourceKey>*)keys
+                                     options:(NSDirectoryEnumerationOptions)options
+                                       error:(out NSError**)error;
+- (BOOL)removeItemAtURL:(NSURL*)url error:(out NSError**)error;
+- (BOOL)trashItemAtURL:(NSURL*)url resultingItemURL:(out NSURL**)result error:(out NSError**)error;
 @end
 
 @interface NSHost : NSObject
