@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "reclaim/PathExplanation.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
+
+namespace zelk {
+
+namespace {
+
+/// A row of a table. An empty title stands for the name of what is explained.
+struct Note {
+    std::string_view key;
+    std::string_view title;
+    std::string_view detail;
+    ReclaimSafety safety;
+    bool regenerates;
+};
+
+constexpr auto safe = ReclaimSafety::safe;
+constexpr auto rebuilt = ReclaimSafety::regenerates;
+constexpr auto review = ReclaimSafety::review;
+
+constexpr std::string_view webCache =
+    "Build cache for a Next.js / Turbo / Vercel project. Regenerated on your next dev or build run.";
+constexpr std::string_view mobileCache =
+    "Build cache for a Gradle / Expo project. Re-downloaded or rebuilt automatically next time.";
+constexpr std::string_view pythonEnvironment =
+    "An isolated set of Python packages for a project. Recreate with python -m venv if you delete it.";
+constexpr std::string_view cloud =
+    "Files synced with iCloud Drive. Removing local copies frees space; they stay in the cloud and re-download on "
+    "demand.";
+
+// By the name itself.
+constexpr std::array names{
+    Note{"node_modules", "",
+         "Installed JavaScript packages for a project. Safe to delete — reinstall with npm/pnpm/yarn install when you "
+         "next work on it.",
+         rebuilt, true},
+    Note{"DerivedData", "Xcode DerivedData",
+         "Xcode's build intermediates and indexes. Safe to delete; Xcode rebuilds them on the next build (the first "
+         "build will be slower).",
+         safe, true},
+    Note{".next", "", webCache, rebuilt, true},
+    Note{".turbo", "", webCache, rebuilt, true},
+    Note{".vercel", "", webCache, rebuilt, true},
+    Note{".gradle", "", mobileCache, rebuilt, true},
+    Note{".expo", "", mobileCache, rebuilt, true},
+    Note{".expo-shared", "", mobileCache, rebuilt, true},
+    Note{"__pycache__", "Python __pycache__",
+         "Compiled Python bytecode. Regenerated automatically when you run the code.", safe, true},
+    Note{".venv", "Python virtual environment", pythonEnvironment, review, true},
+    Note{"venv", "Python virtual environment", pythonEnvironment, review, true},
+    Note{"target", "Rust target",
+         "Compiled Rust build output. Rebuilds with cargo build; the first rebuild will be slower.", rebuilt, true},
+    Note{".git", "Git repository",
+         "The full history of a Git project. Deleting it loses your version history — keep unless you know you don't "
+         "need it.",
+         review, false},
+};
+
+// By what the lower-cased path contains.
+constexpr std::array places{
+    Note{"/library/caches/", "App cache",
+         "Temporary files an app keeps to load faster. Safe to clear — the app rebuilds what it needs.", safe, true},
+    Note{"/mobilesync/backup", "iOS device backup",
+         "A local backup of an iPhone or iPad. Only delete if you have another backup (iCloud or elsewhere).", review,
+         false},
+    Note{"/library/developer/coresimulator", "iOS Simulators",
+         "Simulator runtimes and device data for Xcode. Unavailable ones are safe to remove via xcrun simctl delete "
+         "unavailable.",
+         safe, true},
+    Note{"/library/containers/", "Sandboxed app data",
+         "A sandboxed app's private data (often including its caches and saved state). Some is regenerated; some is "
+         "real user data — review before deleting.",
+         review, false},
+    Note{"/library/application support/", "App support files",
+         "Data an app stores to work — settings, databases, downloaded assets. May include real user data; review "
+         "before deleting.",
+         review, false},
+    Note{"/library/mobile documents", "iCloud Drive", cloud, review, true},
+    Note{"clouddocs", "iCloud Drive", cloud, review, true},
+    Note{"/library/logs", "Logs", "Diagnostic logs. Safe to clear.", safe, true},
+};
+
+constexpr Note diskImage{"", "Disk image / VM",
+                         "A disk image or virtual-machine disk. Often very large; safe to delete if you no longer "
+                         "need its contents.",
+                         review, false};
+constexpr Note archive{"", "Archive",
+                       "A compressed archive or installer. Usually safe to delete once you've extracted or installed "
+                       "what you needed.",
+                       review, false};
+constexpr std::array<std::string_view, 9> diskImageExtensions{"dmg",   "iso",  "sparseimage", "sparsebundle", "img",
+                                                              "qcow2", "vmdk", "vdi",         "raw"};
+constexpr std::array<std::string_view, 8> archiveExtensions{"zip", "tar", "gz", "tgz", "7z", "rar", "pkg", "xip"};
+
+// By what follows the home folder.
+constexpr std::array homeFolders{
+    Note{"/Downloads", "", "Files you've downloaded. Often safe to clean out, but check for anything you want to keep.",
+         review, false},
+    Note{"/Desktop", "", "Files on your Desktop — including screenshots, which pile up.", review, false},
+    Note{"/Movies", "", "Your videos. Large files live here; review before deleting.", review, false},
+    Note{"/Music", "", "Your music and audio.", review, false},
+    Note{"/Pictures", "", "Your photos and the Photos library.", review, false},
+    Note{"/Documents", "", "Your documents.", review, false},
+};
+
+constexpr Note unknown{"", "",
+                       "Zelk doesn't have a specific note for this location. Check what's inside before deleting, and "
+                       "prefer moving to Trash.",
+                       review, false};
+
+char lowered(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+std::string lowerCased(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(), lowered);
+    return lower;
+}
+
+/// The slashes at the end of a path are no part of its last component.
+std::string_view lastComponent(std::string_view path) {
+    const std::size_t end = path.find_last_not_of('/');
+    if (end == std::string_view::npos) return path.empty() ? path : path.substr(0, 1);
+    path = path.substr(0, end + 1);
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string_view::npos ? path : path.substr(slash + 1);
+}
+
+/// Lower-cased, without its dot; a dot in first place begins no extension.
+std::string extensionOf(std::string_view name) {
+    const std::size_t dot = name.rfind('.');
+    if (dot == std::string_view::npos || dot == 0) return {};
+    return lowerCased(name.substr(dot + 1));
+}
+
+template <class Matches>
+const Note* firstOf(std::span<const Note> notes, Matches matches) {
+    const auto found = std::find_if(notes.begin(), notes.end(), matches);
+    return found == notes.end() ? nullptr : &*found;
+}
+
+bool isOneOf(std::span<const std::string_view> all, std::string_view one) {
+    return std::find(all.begin(), all.end(), one) != all.end();
+}
+
+const Note& noteOn(std::string_view path, std::string_view name, std::string_view home) {
+    const auto named = [&](const Note& note) { return name == note.key; };
+    if (const Note* note = firstOf(names, named)) return *note;
+    const std::string lower = lowerCased(path);
+    const auto within = [&](const Note& note) { return lower.find(note.key) != std::string::npos; };
+    if (const Note* note = firstOf(places, within)) return *note;
+    const std::string extension = extensionOf(name);
+    if (isOneOf(diskImageExtensions, extension)) return diskImage;
+    if (isOneOf(archiveExtensions, extension)) return archive;
+    const auto ofHome = [&](const Note& note) {
+        return path.starts_with(home) && path.substr(home.size()) == note.key;
+    };
+    if (const Note* note = firstOf(homeFolders, ofHome)) return *note;
+    return unknown;
+}
+
+}  // namespace
+
+PathExplanation explain(std::string_view path, std::string_view home) {
+    const std::string_view name = lastComponent(path);
+    const Note& note = noteOn(path, name, home);
+    std::string title(note.title.empty() ? name : note.title);
+    if (title.empty()) title = "This item";
+    return {std::move(title), note.detail, note.safety, note.regenerates};
+}
+
+std::string_view diskImageAdvice(std::string_view path) {
+    const std::string lower = lowerCased(path);
+    const auto contains = [&](std::string_view part) { return lower.find(part) != std::string::npos; };
+    const std::string_view name = lastComponent(lower);
+    const std::string extension = extensionOf(name);
+    if (contains("com.docker") || name == "docker.raw")
+        return "Docker's disk. Reclaim in Docker Desktop → Settings → Resources, or run: docker system prune";
+    if (contains("/avd/") || contains(".android"))
+        return "Android emulator disk. Remove unused AVDs in Android Studio's Device Manager.";
+    if (extension == "qcow2") return "VM disk. Shut the VM down and compact it from your VM tool (UTM/QEMU).";
+    if (extension == "vmdk" || extension == "vdi")
+        return "VM disk. Power off the VM, then compact from VMware/VirtualBox.";
+    if (extension == "sparseimage") return "Sparse disk image. Compact with: hdiutil compact <path>";
+    if (extension == "dmg" || extension == "iso")
+        return "Installer / disk image. Delete if you no longer need its contents.";
+    return "Large disk image. Delete if unneeded, or compact it from the tool that created it.";
+}
+
+}  // namespace zelk
