@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "ui/lens/LensWalk.h"
+
+#include <gmock/gmock.h>
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+NodeRef folder(std::string_view name, std::int64_t size) {
+    NodeRef node = FSNode::make(name, 0);
+    node->size = size;
+    return node;
+}
+
+std::vector<std::string> namesOf(const std::vector<NodeRef>& nodes) {
+    std::vector<std::string> names;
+    for (const NodeRef& node : nodes) names.emplace_back(node->name());
+    return names;
+}
+
+/// "/home/me" with "small" (1), "large" (30, which holds "inner" of 20), "empty" (0) and "middle" (5).
+class LensWalkTest : public testing::Test {
+protected:
+    LensWalkTest() {
+        home->append(folder("small", 1));
+        home->append(large);
+        home->append(folder("empty", 0));
+        home->append(folder("middle", 5));
+        large->append(inner);
+        top->append(home);
+        walk.setRoot(top);
+    }
+
+    NodeRef top = folder("", 36);
+    NodeRef home = folder("/home/me", 36);
+    NodeRef large = folder("large", 30);
+    NodeRef inner = folder("inner", 20);
+    LensWalk walk;
+};
+
+}  // namespace
+
+TEST_F(LensWalkTest, aRootWithASingleChildStartsInThatChild) {
+    EXPECT_EQ(walk.mapRoot(), home);
+    EXPECT_EQ(walk.currentNode(), home);
+}
+
+TEST_F(LensWalkTest, severalScanRootsAreShownSideBySide) {
+    top->append(folder("/mnt/disk", 7));
+    EXPECT_EQ(walk.mapRoot(), top);
+    EXPECT_THAT(namesOf(walk.visibleChildren()), ElementsAre("/home/me", "/mnt/disk"));
+}
+
+TEST_F(LensWalkTest, withoutATreeThereIsNothing) {
+    walk.setRoot(nullptr);
+    EXPECT_FALSE(walk.currentNode());
+    EXPECT_THAT(walk.visibleChildren(), IsEmpty());
+}
+
+TEST_F(LensWalkTest, showsWhatHoldsBytesLargestFirst) {
+    EXPECT_THAT(namesOf(walk.visibleChildren()), ElementsAre("large", "middle", "small"));
+}
+
+TEST_F(LensWalkTest, aFolderOfEmptyFoldersShowsNothing) {
+    inner->append(folder("a", 0));
+    walk.enter(inner);
+    EXPECT_THAT(walk.visibleChildren(), IsEmpty());
+    EXPECT_EQ(walk.currentNode()->children.size(), 1U);
+}
+
+TEST_F(LensWalkTest, entersAndGoesBack) {
+    EXPECT_FALSE(walk.canGoBack());
+    walk.enter(large);
+    EXPECT_EQ(walk.currentNode(), large);
+    EXPECT_TRUE(walk.canGoBack());
+    walk.back();
+    EXPECT_EQ(walk.currentNode(), home);
+    walk.back();
+    EXPECT_EQ(walk.currentNode(), home);
+}
+
+TEST_F(LensWalkTest, startingOverReturnsToTheSingleChildWithNothingTicked) {
+    walk.enter(large);
+    walk.enter(inner);
+    walk.select(inner);
+    walk.startOver();
+    EXPECT_EQ(walk.currentNode(), home);
+    EXPECT_THAT(walk.selected(), IsEmpty());
+}
+
+TEST_F(LensWalkTest, theSelectionSpansFolders) {
+    walk.select(home->children[0]);
+    walk.enter(large);
+    walk.select(inner);
+    EXPECT_TRUE(walk.isSelected("/home/me/small"));
+    EXPECT_TRUE(walk.isSelected("/home/me/large/inner"));
+    EXPECT_EQ(walk.selectedBytes(), 21);
+    walk.unselect("/home/me/small");
+    EXPECT_EQ(walk.selectedBytes(), 20);
+}
+
+TEST_F(LensWalkTest, aNewTreeDoesNotMoveWhoStandsInTheOld) {
+    walk.enter(large);
+    walk.setRoot(folder("", 1));
+    EXPECT_EQ(walk.currentNode(), large);
+}
+
+}  // namespace zelk
