@@ -13,9 +13,9 @@
 
 #include "platform/Platform.h"
 #include "reclaim/ReclaimCatalogue.h"
+#include "reclaim/ReclaimTotals.h"
 #include "scan/ScanUpdate.h"
 #include "state/MainThreadCalls.h"
-#include "state/ReclaimTotals.h"
 #include "state/Screen.h"
 #include "state/SurveyHistory.h"
 

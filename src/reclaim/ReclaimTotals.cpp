@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "state/ReclaimTotals.h"
+#include "reclaim/ReclaimTotals.h"
 
 #include <algorithm>
 #include <map>
