@@ -12,10 +12,10 @@
 #include <vector>
 
 #include "platform/Platform.h"
+#include "reclaim/MainThreadCalls.h"
 #include "reclaim/ReclaimCatalogue.h"
 #include "reclaim/ReclaimTotals.h"
 #include "scan/ScanUpdate.h"
-#include "state/MainThreadCalls.h"
 #include "state/Screen.h"
 #include "state/SurveyHistory.h"
 

@@ -42,8 +42,10 @@ std::string_view systemOf(std::string_view path) {
     return {};
 }
 
+/// Or what carries other threads' words to the models.
 bool isModel(const std::string& path) {
-    return std::filesystem::path(path).stem().string().ends_with("Model");
+    const std::string stem = std::filesystem::path(path).stem().string();
+    return stem.ends_with("Model") || stem == "MainThreadCalls";
 }
 
 /// Whether the file at this path from src/ is an algorithm or an interface of the standard library alone.

@@ -3,29 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QEventLoop>
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "fakes/EventLoop.h"
 #include "fakes/FakePlatform.h"
 #include "state/AppModel.h"
 
 namespace zelk {
-
-/// Runs the event loop of the main thread until `condition` holds.
-template <class Condition>
-void runUntil(Condition condition) {
-    while (!condition()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-}
-
-/// What has come to the main thread by now, and nothing that has yet to come.
-inline void runWhatIsThere() {
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents();
-}
 
 /// A model on a machine in memory, whose home is "/home/me", and a note of every signal of the model.
 class AppModelFixture : public testing::Test {

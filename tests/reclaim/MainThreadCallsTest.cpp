@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "state/MainThreadCalls.h"
+#include "reclaim/MainThreadCalls.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "AppModelFixture.h"
+#include "fakes/EventLoop.h"
 
 namespace zelk {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "state/MainThreadCalls.h"
+#include "reclaim/MainThreadCalls.h"
 
 #include <QCoreApplication>
 #include <QEvent>

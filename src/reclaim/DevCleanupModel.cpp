@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "reclaim/DevCleanupModel.h"
+
+#include <utility>
+
+namespace zelk {
+
+namespace {
+
+/// The running applications as they were at the first question: reading them anew for each of thousands of items would
+/// take seconds and could contradict itself.
+class WorkspaceAtOnce : public Workspace {
+public:
+    explicit WorkspaceAtOnce(Workspace& real) : real_(real) {}
+
+    std::vector<std::string> runningApplications() override {
+        if (!names_) names_ = real_.runningApplications();
+        return *names_;
+    }
+    void reveal(const std::vector<std::string>& paths) override { real_.reveal(paths); }
+    void openURL(const std::string& url) override { real_.openURL(url); }
+
+private:
+    Workspace& real_;
+    std::optional<std::vector<std::string>> names_;
+};
+
+}  // namespace
+
+DevCleanupModel::DevCleanupModel(const Platform& platform, QObject* parent) : QObject(parent), platform_(platform) {}
+
+void DevCleanupModel::setAgeDays(std::int64_t days) {
+    if (days == ageDays_) return;
+    ageDays_ = days;
+    emit ageDaysChanged();
+}
+
+void DevCleanupModel::setShowDryRun(bool show) {
+    if (show == showDryRun_) return;
+    showDryRun_ = show;
+    emit showDryRunChanged();
+}
+
+DevCleanupModel::Items DevCleanupModel::shown(const Items& reclaimables) const {
+    return ageFiltered(reclaimables, ageDays_, platform_.clock.now());
+}
+
+std::vector<CleanupGroup> DevCleanupModel::groups(const Items& reclaimables) const {
+    return cleanupGroups(shown(reclaimables));
+}
+
+void DevCleanupModel::seed(const Items& reclaimables) {
+    if (reclaimables.size() == selection_.seededFor()) return;
+    WorkspaceAtOnce workspace(platform_.workspace);
+    selection_.seed(reclaimables, [&](const Reclaimable& item) { return Cleaner::runningConflict(item, workspace); });
+    emit selectionChanged();
+}
+
+void DevCleanupModel::toggle(const Reclaimable& item) {
+    selection_.toggle(item);
+    emit selectionChanged();
+}
+
+void DevCleanupModel::setAll(const CleanupGroup& group, bool on) {
+    selection_.setAll(group, on);
+    emit selectionChanged();
+}
+
+void DevCleanupModel::selectOnly(const Items& items) {
+    selection_.selectOnly(items);
+    emit selectionChanged();
+}
+
+void DevCleanupModel::clean(Items items, bool hardDelete) {
+    if (isCleaning_) return;
+    isCleaning_ = true;
+    emit isCleaningChanged();
+    Cleaner::cleanAll(std::move(items), hardDelete, platform_,
+                      [this, sender = calls_.sender()](std::vector<Cleaner::Result> results) {
+                          sender.post([this, results = std::move(results)]() mutable { finish(std::move(results)); });
+                      });
+}
+
+void DevCleanupModel::finish(std::vector<Cleaner::Result> results) {
+    lastResults_ = std::move(results);
+    emit lastResultsChanged();
+    isCleaning_ = false;
+    emit isCleaningChanged();
+}
+
+std::int64_t DevCleanupModel::reclaimedBytes() const {
+    std::int64_t bytes = 0;
+    for (const Cleaner::Result& result : lastResults_)
+        if (tookAway(result)) bytes += static_cast<std::int64_t>(result.item.size);
+    return bytes;
+}
+
+bool tookAway(const Cleaner::Result& result) {
+    return std::holds_alternative<Cleaner::RanCommand>(result.status) ||
+           std::holds_alternative<Cleaner::Trashed>(result.status);
+}
+
+}  // namespace zelk
