@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <string>
 
 #include "fakes/InChild.h"
@@ -214,6 +215,20 @@ TEST(LinuxFileManager, filesAreReadAndReplacedInFoldersMadeForThem) {
     EXPECT_TRUE(files.replaceDurably(folder / "a/b/file", "content"));
     EXPECT_THAT(files.read(folder / "a/b/file"), Optional(std::string("content")));
     EXPECT_FALSE(files.read(folder / "a/b"));
+}
+
+TEST(LinuxFileManager, tryingToOpenSaysWhyItCannotBe) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "file");
+    zoo::makeFile(folder / "locked");
+    ASSERT_EQ(::chmod((folder / "locked").c_str(), 0), 0);
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(files.tryOpen(folder / "file"), 0);
+    EXPECT_EQ(files.tryOpen(folder.path()), 0);
+    EXPECT_EQ(files.tryOpen(folder / "pipe"), 0);  // without a writer to wait for
+    EXPECT_EQ(files.tryOpen(folder / "missing"), ENOENT);
+    EXPECT_EQ(files.tryOpen(folder / "file/below"), ENOTDIR);
+    EXPECT_TRUE(asOrdinaryUser([&] { return files.tryOpen(folder / "locked") == EACCES; }));
 }
 
 }  // namespace

@@ -260,6 +260,23 @@ TEST_F(Remover, removesALinkThatWasPutInPlaceOfAFolder) {
     }
 }
 
+TEST_F(Remover, takesWhatItFoundWhateverIsPutInPlaceOfTheFolderAbove) {
+    zoo::makeFile(temp / "above/victim/folder/file");
+    zoo::makeFile(temp / "other/victim/folder/file");
+    behindGate(
+        SYS_openat2,
+        [&](unsigned number) {
+            if (number == 0) {
+                fs::rename(temp / "above", temp / "aside");
+                fs::create_directory_symlink(temp / "other", temp / "above");
+            }
+            return 0;
+        },
+        [&] { EXPECT_EQ(removed(temp / "above/victim"), std::nullopt); });
+    EXPECT_TRUE(fs::exists(temp / "other/victim/folder/file"));
+    EXPECT_TRUE(namesIn(temp / "aside").empty());
+}
+
 TEST_F(Remover, anErrorOfAnyCallIsTold) {
     for (const long call : {SYS_openat2, SYS_getdents64, SYS_unlinkat, SYS_statx, SYS_fcntl}) {
         unsigned calls = 0;

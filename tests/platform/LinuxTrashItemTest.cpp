@@ -260,6 +260,30 @@ TEST_F(TrashItem, thatCannotBeRenamedAtAllStaysAndLeavesNothingInTheTrash) {
     expectTrashUntouched();
 }
 
+TEST_F(TrashItem, isTheOneThatWasFoundWhateverIsPutInPlaceOfItsFolder) {
+    for (const long call : {SYS_mkdirat, SYS_fsync, SYS_renameat2}) {
+        for (const std::string& path : {home, items, temp / "aside", temp / "other"}) fs::remove_all(path);
+        fs::create_directory(items);
+        fs::create_directory(temp / "other");
+        writeFile(item, "content");
+        writeFile(temp / "other/item.txt", "another");
+        Failure failure = "not run";
+        behindGate(
+            static_cast<int>(call),
+            [&](unsigned number) {
+                if (number == 0) {
+                    fs::rename(items, temp / "aside");
+                    fs::create_directory_symlink(temp / "other", items);
+                }
+                return 0;
+            },
+            [&] { failure = trashed(item); });
+        EXPECT_EQ(failure, std::nullopt);
+        EXPECT_EQ(fileContent(restorable(trash).at(item)), "content");
+        EXPECT_EQ(fileContent(temp / "other/item.txt"), "another");
+    }
+}
+
 TEST_F(TrashItem, onAnotherVolumeIsRefusedAndNeverCopied) {
     writeFile(item, "content");
     Failure failure;

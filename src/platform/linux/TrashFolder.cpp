@@ -94,8 +94,13 @@ std::optional<TrashFolder> openHomeTrash(const std::string& dataHome, IfMissing 
 std::optional<TrashFolder> openVolumeTrash(const std::string& top, const FileStatus& volume, std::string& reason) {
     const Descriptor folder(openForLookups(top));
     const std::optional<FileStatus> status = folder ? fileStatus(folder.get()) : std::nullopt;
-    if (!status || !status->isOnVolumeOf(volume)) {
-        reason = reasonText(top, "couldn’t be opened: " + systemText(status ? EXDEV : errno));
+    if (!status) {
+        reason = reasonText(top, "couldn’t be opened: " + systemText(errno));
+        return std::nullopt;
+    }
+    // A part of a volume may be a volume of its own without being mounted on its own; nothing can be moved out of it.
+    if (!status->isOnVolumeOf(volume)) {
+        reason = "its volume has no place for a Trash";
         return std::nullopt;
     }
     OwnFolders own(IfMissing::create, reason);
