@@ -6,6 +6,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 namespace zelk::fakes {
 
@@ -22,16 +25,30 @@ bool inChild(Check check) {
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
+inline constexpr unsigned ordinaryUser = 65534;  ///< "nobody", whom asOrdinaryUser() makes of the superuser
+
 /// The same as a user whom permissions bind: the superuser passes all of them, so root becomes "nobody" for it.
 template <class Check>
 bool asOrdinaryUser(Check check) {
     return inChild([&] {
-        constexpr unsigned nobody = 65534;
-        if (::geteuid() == 0 && (::setgroups(0, nullptr) != 0 || ::setgid(nobody) != 0 || ::setuid(nobody) != 0)) {
+        if (::geteuid() == 0 &&
+            (::setgroups(0, nullptr) != 0 || ::setgid(ordinaryUser) != 0 || ::setuid(ordinaryUser) != 0)) {
             return false;
         }
         return check();
     });
+}
+
+/// Makes `path` and all below it belong to the user that asOrdinaryUser() runs as.
+inline void giveToOrdinaryUser(const std::string& path) {
+    if (::geteuid() != 0) return;
+    const auto give = [](const std::string& entry) {
+        if (::lchown(entry.c_str(), ordinaryUser, ordinaryUser) != 0)
+            throw std::system_error(errno, std::generic_category(), entry);
+    };
+    give(path);
+    if (!std::filesystem::is_directory(std::filesystem::symlink_status(path))) return;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(path)) give(entry.path().string());
 }
 
 }  // namespace zelk::fakes

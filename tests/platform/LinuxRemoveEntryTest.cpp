@@ -47,6 +47,20 @@ protected:
         EXPECT_EQ(namesIn(outside + "/folder"), (std::set<std::string>{"below"}));
     }
 
+    /// Whatever a stranger's disk may hold and its owner may remove.
+    void makeTree() const {
+        const std::string linked = temp / "linked";
+        zoo::makeHardLinks(victim + "/hard links", linked);
+        zoo::makeLinks(victim + "/links", linked);
+        zoo::makeNames(victim + "/names");
+        zoo::makeUnequalSizes(victim + "/sizes");
+        zoo::makeSpecialFiles(victim + "/special");
+        zoo::makeChain(victim + "/chain", 60, 200);
+        zoo::makeWide(victim + "/wide", 3000, 300);
+        fs::create_directory_symlink(outside, victim + "/away");
+        fs::create_symlink(outside + "/file", victim + "/file away");
+    }
+
     void SetUp() override {
         zoo::makeFile(outside + "/file", 10);
         zoo::makeFile(outside + "/folder/below", 10);
@@ -79,19 +93,14 @@ TEST_F(Remover, takesALinkAndNotItsTarget) {
 }
 
 TEST_F(Remover, takesAStrangersWholeTree) {
-    zoo::makeFolder(temp / "linked");
-    zoo::makeZoo(victim, temp / "linked", 60);
-    fs::create_directory_symlink(outside, victim + "/away");
-    fs::create_symlink(outside + "/file", victim + "/file away");
+    makeTree();
     EXPECT_EQ(removed(victim), std::nullopt);
     EXPECT_FALSE(fs::exists(fs::symlink_status(victim)));
     expectOutsideUntouched();
 }
 
 TEST_F(Remover, takesAStrangersWholeTreeWithoutTheNewestCall) {
-    zoo::makeFolder(temp / "linked");
-    zoo::makeZoo(victim, temp / "linked", 60);
-    fs::create_directory_symlink(outside, victim + "/away");
+    makeTree();
     EXPECT_TRUE(withoutTheNewestCall([&] { return !removed(victim); }));
     EXPECT_FALSE(fs::exists(fs::symlink_status(victim)));
     expectOutsideUntouched();
@@ -144,11 +153,11 @@ TEST_F(Remover, saysThatAnItemIsMissing) {
 
 TEST_F(Remover, saysWhichFileCouldNotBeRemovedAndStops) {
     zoo::makeFile(victim + "/locked/file");
-    ASSERT_EQ(::chown(victim.c_str(), 65534, 65534), 0);
+    fakes::giveToOrdinaryUser(victim);
+    ASSERT_EQ(::chmod((victim + "/locked").c_str(), 0500), 0);
     EXPECT_TRUE(
         asOrdinaryUser([&] { return removed(victim) == "“file” in “victim” couldn’t be removed: Permission denied"; }));
     EXPECT_TRUE(fs::exists(victim + "/locked/file"));
-    EXPECT_EQ(fs::status(victim + "/locked").permissions(), fs::perms(0755));
 }
 
 TEST_F(Remover, changesNoPermissionToRemoveAFolderThatForbidsIt) {
@@ -156,14 +165,14 @@ TEST_F(Remover, changesNoPermissionToRemoveAFolderThatForbidsIt) {
         fs::remove_all(victim);
         zoo::makeFile(victim + "/locked/file");
         ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
-        for (const char* path : {"", "/locked", "/locked/file"})
-            ASSERT_EQ(::chown((victim + path).c_str(), 65534, 65534), 0);
+        fakes::giveToOrdinaryUser(victim);
         ASSERT_EQ(::chmod((victim + "/locked").c_str(), mode), 0);
         EXPECT_TRUE(asOrdinaryUser([&] {
             const Failure failure = removed(victim);
             return failure && failure->ends_with("couldn’t be removed: Permission denied") &&
                    fs::status(victim + "/locked").permissions() == fs::perms(mode);
         })) << mode;
+        ASSERT_EQ(::chmod((victim + "/locked").c_str(), 0700), 0);
         EXPECT_TRUE(fs::exists(victim + "/locked/file"));
     }
 }
@@ -171,7 +180,7 @@ TEST_F(Remover, changesNoPermissionToRemoveAFolderThatForbidsIt) {
 TEST_F(Remover, takesAnEmptyFolderThatMayNotBeLookedInto) {
     zoo::makeFolder(victim + "/locked");
     ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
-    for (const char* path : {"", "/locked"}) ASSERT_EQ(::chown((victim + path).c_str(), 65534, 65534), 0);
+    fakes::giveToOrdinaryUser(victim);
     ASSERT_EQ(::chmod((victim + "/locked").c_str(), 0), 0);
     EXPECT_TRUE(asOrdinaryUser([&] { return !removed(victim); }));
     EXPECT_FALSE(fs::exists(victim));
@@ -179,10 +188,10 @@ TEST_F(Remover, takesAnEmptyFolderThatMayNotBeLookedInto) {
 
 TEST_F(Remover, needsNoPermissionToListTheFolderThatHoldsTheItem) {
     zoo::makeFile(victim + "/item/below/file");
-    for (const char* path : {"", "/item", "/item/below", "/item/below/file"})
-        ASSERT_EQ(::chown((victim + path).c_str(), 65534, 65534), 0);
+    fakes::giveToOrdinaryUser(victim);
     ASSERT_EQ(::chmod(victim.c_str(), 0300), 0);
     EXPECT_TRUE(asOrdinaryUser([&] { return !removed(victim + "/item"); }));
+    ASSERT_EQ(::chmod(victim.c_str(), 0700), 0);
     EXPECT_TRUE(namesIn(victim).empty());
 }
 

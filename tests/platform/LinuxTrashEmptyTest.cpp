@@ -138,8 +138,8 @@ TEST_F(EmptyingTrash, leavesWhatCannotBeRemovedWithItsInfoAndGoesOn) {
     for (const char* name : {"a", "z"}) add(name);
     zoo::makeFile(files + "/locked/file");
     addInfo("locked");
-    for (const auto& entry : fs::recursive_directory_iterator(home)) ::chown(entry.path().c_str(), 65534, 65534);
-    ::chown((files + "/locked").c_str(), 0, 0);
+    fakes::giveToOrdinaryUser(home);
+    ASSERT_EQ(::chmod((files + "/locked").c_str(), 0500), 0);
     EXPECT_TRUE(asOrdinaryUser([&] { return itsTrash.empty() == 2; }));
     EXPECT_THAT(namesIn(files), ElementsAre("locked"));
     EXPECT_THAT(namesIn(info), ElementsAre("locked.trashinfo"));

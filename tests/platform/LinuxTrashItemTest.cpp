@@ -322,9 +322,7 @@ TEST_F(TrashItem, staysWhereNoInfoCanBeWritten) {
     zoo::makeFolder(trash + "/files");
     zoo::makeFolder(trash + "/info");
     writeFile(item, "content");
-    for (const std::string& path :
-         {home, home + "/.local", home + "/.local/share", trash, trash + "/files", trash + "/info", items, item})
-        ASSERT_EQ(::chown(path.c_str(), 65534, 65534), 0);
+    for (const std::string& path : {home, items}) fakes::giveToOrdinaryUser(path);
     ASSERT_EQ(::chmod((trash + "/info").c_str(), 0500), 0);
     EXPECT_TRUE(asOrdinaryUser(
         [&] { return trashed(item) == "“item.txt” couldn’t be moved to the Trash: Permission denied"; }));
@@ -334,9 +332,9 @@ TEST_F(TrashItem, staysWhereNoInfoCanBeWritten) {
 
 TEST_F(TrashItem, staysWhereItsFolderMayNotBeChanged) {
     writeFile(item, "content");
+    ASSERT_EQ(::chmod(items.c_str(), 0555), 0);
     EXPECT_TRUE(asOrdinaryUser([&] {
-        LinuxTrash own(items + "/nowhere");
-        const Failure failure = own.trash(ItemPath::from(item).value());
+        const Failure failure = LinuxTrash(items + "/nowhere").trash(ItemPath::from(item).value());
         return failure && failure->starts_with("“item.txt” couldn’t be moved to the Trash: “" + items +
                                                "/nowhere/.local/share” couldn’t be created");
     }));
@@ -350,9 +348,10 @@ TEST_F(TrashItem, staysWhereItsFolderMayNotBeChanged) {
 TEST_F(TrashItem, needsNoPermissionToListItsFolder) {
     ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
     writeFile(item, "content");
-    for (const std::string& path : {items, item}) ASSERT_EQ(::chown(path.c_str(), 65534, 65534), 0);
+    fakes::giveToOrdinaryUser(items);
     ASSERT_EQ(::chmod(items.c_str(), 0300), 0);
     EXPECT_TRUE(asOrdinaryUser([&] { return !trashed(item); }));
+    ASSERT_EQ(::chmod(items.c_str(), 0700), 0);
     expectOnlyItem(item, "content");
 }
 
@@ -379,10 +378,11 @@ TEST_P(HostileHomeTrash, isRefusedAsAFile) {
 }
 
 TEST_P(HostileHomeTrash, isRefusedAsAnotherUsers) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
     writeFile(item, "content");
     zoo::makeFolder(trash + "/files");
     zoo::makeFolder(trash + "/info");
-    ASSERT_EQ(::chown((trash + GetParam()).c_str(), 65534, 65534), 0);
+    ASSERT_EQ(::chown((trash + GetParam()).c_str(), fakes::ordinaryUser, fakes::ordinaryUser), 0);
     EXPECT_THAT(trashed(item), Optional("“item.txt” couldn’t be moved to the Trash: “" + trash + GetParam() +
                                         "” belongs to another user"));
     EXPECT_EQ(fileContent(item), "content");
