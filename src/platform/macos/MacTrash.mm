@@ -36,7 +36,7 @@ std::size_t MacTrash::empty() {
         NSFileManager* manager = [NSFileManager defaultManager];
         NSArray<NSURL*>* entries = [manager contentsOfDirectoryAtURL:fileURL(location_, true)
                                           includingPropertiesForKeys:@[]
-                                                             options:NSDirectoryEnumerationOptions{}
+                                                             options:NSDirectoryEnumerationOptions {}
                                                                error:nil];
         for (NSUInteger index = 0; index < [entries count]; ++index) {
             @autoreleasepool {
