@@ -1,15 +1,46 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
 #include "platform/Workspace.h"
+#include "platform/linux/LinuxApplications.h"
+
+class QDBusConnection;
 
 namespace zelk {
 
+/// The desktop by its common interfaces: desktop entries, the file manager on the session bus, xdg-open.
 class LinuxWorkspace : public Workspace {
 public:
-    std::vector<std::string> runningApplications() override { return {}; }
-    void reveal(const std::vector<std::string>&) override {}
-    void openURL(const std::string&) override {}
+    /// Starts a program and comes back at once.
+    using Launcher = std::function<void(std::vector<std::string> command)>;
+    using Bus = std::function<QDBusConnection()>;
+
+    /// `dataHome` is the user's data folder, `trash` the folder of the home trash.
+    LinuxWorkspace(const std::string& dataHome, std::string trash);
+    /// Another launcher and another bus than the session's.
+    LinuxWorkspace(const std::string& dataHome, std::string trash, Launcher launcher, Bus bus);
+    ~LinuxWorkspace() override;
+
+    /// Up to a second old: whoever asks asks once for each of many items.
+    std::vector<std::string> runningApplications() override;
+    void reveal(const std::vector<std::string>& paths) override;
+    void openURL(const std::string& url) override;
+
+private:
+    class Reveals;
+
+    ApplicationPlaces places_;
+    std::string trash_;
+    Launcher launcher_;
+    Bus bus_;
+    std::unique_ptr<Reveals> reveals_;
+    std::vector<std::string> running_;
+    std::optional<std::chrono::steady_clock::time_point> runningSince_;
 };
 
 }  // namespace zelk

@@ -17,7 +17,8 @@
 namespace zelk {
 
 struct NativePlatform::Services {
-    explicit Services(const std::string& home) : locations(home), trash(home) {}
+    explicit Services(const std::string& home)
+        : locations(home), trash(home), workspace(*locations.applicationSupport(), trash.location()) {}
 
     PosixClock clock;
     ThreadTasks tasks;

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxApplications.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "platform/linux/DesktopEntry.h"
+#include "platform/posix/DirectoryNames.h"
+#include "platform/posix/DurableFile.h"
+#include "platform/posix/OpenDirectory.h"
+
+namespace zelk {
+
+namespace {
+
+constexpr std::string_view entrySuffix = ".desktop";
+constexpr int deepestFolder = 8;  // links may lead round in circles
+constexpr off_t largestEntry = 1 << 20;
+
+std::string environment(const char* variable, const char* otherwise) {
+    const char* value = std::getenv(variable);
+    return value == nullptr || *value == '\0' ? otherwise : value;
+}
+
+/// The absolute folders of a list as the environment has them.
+std::vector<std::string> foldersIn(std::string_view list) {
+    std::vector<std::string> folders;
+    while (!list.empty()) {
+        const std::size_t end = std::min(list.find(':'), list.size());
+        if (list.starts_with('/')) folders.emplace_back(list.substr(0, end));
+        list.remove_prefix(std::min(end + 1, list.size()));
+    }
+    return folders;
+}
+
+bool isProgram(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && ::access(path.c_str(), X_OK) == 0;
+}
+
+/// The path of what `word` names; absent if there is no such program.
+std::optional<std::string> findProgram(const std::string& word, const std::vector<std::string>& folders) {
+    if (word.find('/') != std::string::npos)
+        return word.starts_with('/') && isProgram(word) ? std::optional(word) : std::nullopt;
+    for (const std::string& folder : folders)
+        if (std::string path = folder + "/" + word; !word.empty() && isProgram(path)) return path;
+    return std::nullopt;
+}
+
+std::string resolved(const std::string& path) {
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
+    return real ? real.get() : "";
+}
+
+std::string_view lastComponent(std::string_view path) {
+    return path.substr(path.rfind('/') + 1);
+}
+
+/// Whether the program runs what others have written, so that its running says nothing of any of them.
+bool runsManyApplications(std::string_view program) {
+    constexpr std::array names{
+        "bash",         "dash",  "dbus-launch", "dbus-send",   "electron",  "env",      "flatpak", "fish",
+        "gapplication", "gjs",   "gtk-launch",  "java",        "kioclient", "kstart",   "ksh",     "lua",
+        "mono",         "node",  "nodejs",      "perl",        "pkexec",    "python",   "ruby",    "sh",
+        "snap",         "steam", "sudo",        "systemd-run", "wine",      "xdg-open", "zsh"};
+    std::string name(lastComponent(program));
+    // "python3.11", "lua5.4", "perl5.36.0"
+    while (!name.empty() && (std::isdigit(static_cast<unsigned char>(name.back())) != 0 || name.back() == '.'))
+        name.pop_back();
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// The words of the line that names a script's interpreter; empty if the file is no script.
+std::vector<std::string> interpreterLine(const std::string& path) {
+    constexpr std::size_t longest = 256;  // the kernel's own limit
+    const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
+    if (!file) return {};
+    std::string line(longest, '\0');
+    const ssize_t got = uninterrupted([&] { return ::read(file.get(), line.data(), line.size()); });
+    line.resize(got < 0 ? 0 : static_cast<std::size_t>(got));
+    if (!line.starts_with("#!")) return {};
+    line = line.substr(2, line.find('\n') - 2);
+    std::vector<std::string> words;
+    for (std::size_t at = 0; (at = line.find_first_not_of(" \t\r", at)) != std::string::npos;) {
+        const std::size_t end = std::min(line.find_first_of(" \t\r", at), line.size());
+        words.push_back(line.substr(at, end - at));
+        at = end;
+    }
+    return words;
+}
+
+/// The words without what goes before the program in "env A=B program".
+std::vector<std::string> withoutEnv(std::vector<std::string> words) {
+    if (words.empty() || lastComponent(words.front()) != "env") return words;
+    const auto program = std::find_if(words.begin() + 1, words.end(), [](const std::string& word) {
+        return word != "-S" && word.find('=') == std::string::npos;
+    });
+    words.erase(words.begin(), program);
+    return words;
+}
+
+/// Fills in what the application runs; nothing where it is not its own.
+void findOwnProgram(InstalledApplication& application, const std::vector<std::string>& command,
+                    const std::vector<std::string>& folders) {
+    const std::vector<std::string> words = withoutEnv(command);
+    if (words.empty()) return;
+    const std::optional<std::string> program = findProgram(words.front(), folders);
+    if (!program) return;
+    const std::string real = resolved(*program);
+    if (runsManyApplications(*program) || runsManyApplications(real)) {
+        const auto script = std::find_if(words.begin() + 1, words.end(),
+                                         [](const std::string& word) { return !word.starts_with('-'); });
+        if (script == words.end() || !script->starts_with('/') || resolved(*script).empty()) return;
+        application.programAsNamed = *script;
+        application.program = resolved(*script);
+        application.interpreter = real;
+        return;
+    }
+    application.programAsNamed = *program;
+    application.program = real;
+    const std::vector<std::string> line = withoutEnv(interpreterLine(real));
+    if (line.empty()) return;
+    if (const auto interpreter = findProgram(line.front(), folders)) application.interpreter = resolved(*interpreter);
+}
+
+class Collection {
+public:
+    explicit Collection(const ApplicationPlaces& places) : places_(places) {}
+
+    /// `prefix` is what the folder adds to the ids of what is in it.
+    void addFolder(const std::string& folder, const std::string& prefix, int depth) {
+        std::vector<std::string> names =
+            directoryNames(Descriptor(openRootDirectory(folder))).value_or(std::vector<std::string>());
+        std::sort(names.begin(), names.end());
+        for (const std::string& name : names) {
+            const std::string path = folder + "/" + name;
+            struct stat status {};
+            if (::stat(path.c_str(), &status) != 0) continue;
+            if (S_ISDIR(status.st_mode)) {
+                if (depth < deepestFolder) addFolder(path, prefix + name + "-", depth + 1);
+            } else if (name.ends_with(entrySuffix) && status.st_size <= largestEntry) {
+                addEntry(path, prefix + name.substr(0, name.size() - entrySuffix.size()));
+            }
+        }
+    }
+
+    std::vector<InstalledApplication> take() { return std::move(applications_); }
+
+private:
+    void addEntry(const std::string& path, const std::string& id) {
+        if (!ids_.insert(id).second) return;  // even one that hides the application stands for all that follow
+        const auto entry = parseDesktopEntry(readWholeFile(path).value_or(""), places_.locales);
+        if (!entry || !entry->isApplication || entry->hidden || entry->noDisplay || entry->name.empty()) return;
+        if (!entry->tryExec.empty() && !findProgram(entry->tryExec, places_.programs)) return;
+        InstalledApplication application{id, entry->name, {}, {}, {}};
+        findOwnProgram(application, entry->command, places_.programs);
+        applications_.push_back(std::move(application));
+    }
+
+    const ApplicationPlaces& places_;
+    std::set<std::string> ids_;
+    std::vector<InstalledApplication> applications_;
+};
+
+/// An interpreter's options stand before the script.
+bool runsScript(const RunningProcess& process, const InstalledApplication& application) {
+    if (process.arguments.empty()) return false;
+    const auto script = std::find_if(process.arguments.begin() + 1, process.arguments.end(),
+                                     [](const std::string& argument) { return !argument.starts_with('-'); });
+    return script != process.arguments.end() &&
+           (*script == application.programAsNamed || *script == application.program);
+}
+
+bool belongsTo(const RunningProcess& process, const InstalledApplication& application) {
+    const std::vector<std::string>& ids = process.applications;
+    if (std::find(ids.begin(), ids.end(), application.id) != ids.end()) return true;
+    if (application.program.empty()) return false;
+    if (application.interpreter.empty()) return process.executable == application.program;
+    // A script that ends by becoming another program may hand its own path on to it as its name.
+    if (!process.arguments.empty() &&
+        (process.arguments.front() == application.programAsNamed || process.arguments.front() == application.program))
+        return true;
+    return process.executable == application.interpreter && runsScript(process, application);
+}
+
+}  // namespace
+
+ApplicationPlaces ApplicationPlaces::ofEnvironment(const std::string& dataHome) {
+    ApplicationPlaces places;
+    std::vector<std::string> data = foldersIn(environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"));
+    data.insert(data.begin(), dataHome);
+    for (const std::string& folder : data) places.entries.push_back(folder + "/applications");
+    places.programs = foldersIn(environment("PATH", "/usr/local/bin:/usr/bin:/bin"));
+    places.locales =
+        localesOf(environment("LC_ALL", environment("LC_MESSAGES", environment("LANG", "C").c_str()).c_str()));
+    return places;
+}
+
+std::vector<InstalledApplication> installedApplications(const ApplicationPlaces& places) {
+    Collection collection(places);
+    for (const std::string& folder : places.entries) collection.addFolder(folder, "", 0);
+    return collection.take();
+}
+
+std::vector<std::string> runningApplicationNames(const std::vector<InstalledApplication>& applications,
+                                                 const std::vector<RunningProcess>& processes) {
+    std::vector<std::string> names;
+    for (const RunningProcess& process : processes)
+        for (const InstalledApplication& application : applications)
+            if (belongsTo(process, application) &&
+                std::find(names.begin(), names.end(), application.name) == names.end())
+                names.push_back(application.name);
+    return names;
+}
+
+}  // namespace zelk

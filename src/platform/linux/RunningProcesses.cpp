@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/RunningProcesses.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <climits>
+#include <optional>
+#include <utility>
+
+#include "platform/linux/ProcText.h"
+#include "platform/posix/DirectoryNames.h"
+#include "platform/posix/DurableFile.h"
+#include "platform/posix/OpenDirectory.h"
+
+namespace zelk {
+
+namespace {
+
+std::vector<std::string_view> split(std::string_view text, char separator) {
+    std::vector<std::string_view> parts;
+    for (std::size_t start = 0; start <= text.size();) {
+        const std::size_t end = std::min(text.find(separator, start), text.size());
+        parts.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    return parts;
+}
+
+bool takeSuffix(std::string_view& text, std::string_view suffix) {
+    if (!text.ends_with(suffix)) return false;
+    text.remove_suffix(suffix.size());
+    return true;
+}
+
+/// Units write what would part their names as "\x2d".
+std::string unescapedUnit(std::string_view text) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string name;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const bool escape = text.substr(at).starts_with("\\x") && at + 3 < text.size();
+        const std::size_t high = escape ? digits.find(text[at + 2]) : std::string_view::npos;
+        const std::size_t low = escape ? digits.find(text[at + 3]) : std::string_view::npos;
+        if (high == std::string_view::npos || low == std::string_view::npos) {
+            name += text[at];
+        } else {
+            name += static_cast<char>(high * 16 + low);
+            at += 3;
+        }
+    }
+    return name;
+}
+
+/// "snap.NAME.APPLICATION-UUID", with a dot before the UUID in older versions.
+std::vector<std::string> applicationsOfSnap(std::string_view unit) {
+    constexpr std::size_t uuidLength = 36;
+    const std::size_t dot = unit.find('.');
+    if (dot == std::string_view::npos) return {};
+    std::string_view application = unit.substr(dot + 1);
+    if (application.size() > uuidLength + 1) application.remove_suffix(uuidLength + 1);
+    return {unescapedUnit(unit.substr(0, dot)) + "_" + unescapedUnit(application)};
+}
+
+std::vector<std::string> applicationsOfUnit(std::string_view unit) {
+    const bool scope = takeSuffix(unit, ".scope");
+    if (!scope && !takeSuffix(unit, ".service")) return {};
+    if (unit.starts_with("snap.")) return applicationsOfSnap(unit.substr(5));
+    if (!unit.starts_with("app-")) return {};
+    const std::string_view whole = unit;
+    unit = unit.substr(0, unit.find('@'));
+    const std::vector<std::string_view> parts = split(unit, '-');
+    std::vector<std::string> ids;
+    // A scope ends with a number; a service may, where it has no instance.
+    if (!scope) ids.push_back(unescapedUnit(parts.back()));
+    if (parts.size() > 2 && unit.size() == whole.size()) ids.push_back(unescapedUnit(parts[parts.size() - 2]));
+    return ids;
+}
+
+std::string linkTarget(const std::string& path) {
+    std::string target(PATH_MAX, '\0');
+    const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+    target.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
+    return target;
+}
+
+std::vector<std::string> argumentsOf(std::string_view commandLine) {
+    if (commandLine.ends_with('\0')) commandLine.remove_suffix(1);
+    if (commandLine.empty()) return {};
+    const std::vector<std::string_view> parts = split(commandLine, '\0');
+    return {parts.begin(), parts.end()};
+}
+
+bool isOwn(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && status.st_uid == ::getuid();
+}
+
+RunningProcess read(const std::string& folder) {
+    RunningProcess process;
+    process.executable = linkTarget(folder + "/exe");
+    // An update has replaced the program since.
+    if (std::string_view executable = process.executable; takeSuffix(executable, " (deleted)"))
+        process.executable.resize(executable.size());
+    process.arguments = argumentsOf(readWholeFile(folder + "/cmdline").value_or(""));
+    process.applications = applicationsOfControlGroup(readWholeFile(folder + "/cgroup").value_or(""));
+    return process;
+}
+
+}  // namespace
+
+std::vector<std::string> applicationsOfControlGroup(std::string_view text) {
+    std::vector<std::string> found;
+    for (const std::string_view line : split(text, '\n')) {
+        // "0::/user.slice/…/app.slice/UNIT/…": an application may have groups of its own below.
+        for (const std::string_view part : split(line, '/'))
+            if (auto ids = applicationsOfUnit(part); !ids.empty()) found = std::move(ids);
+    }
+    return found;
+}
+
+std::vector<RunningProcess> runningProcesses(const std::string& processes) {
+    std::vector<std::int64_t> numbers;
+    for (const std::string& name :
+         directoryNames(Descriptor(openRootDirectory(processes))).value_or(std::vector<std::string>()))
+        if (const auto number = wholeNumber(name)) numbers.push_back(*number);
+    std::sort(numbers.begin(), numbers.end());
+    std::vector<RunningProcess> all;
+    for (const std::int64_t number : numbers) {
+        const std::string folder = processes + "/" + std::to_string(number);
+        if (isOwn(folder)) all.push_back(read(folder));
+    }
+    return all;
+}
+
+}  // namespace zelk

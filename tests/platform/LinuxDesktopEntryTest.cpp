@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include "platform/linux/DesktopEntry.h"
+
+namespace zelk {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+DesktopEntry parsed(const std::string& lines, const std::vector<std::string>& locales = {}) {
+    const auto entry = parseDesktopEntry("[Desktop Entry]\n" + lines, locales);
+    EXPECT_TRUE(entry);
+    return entry.value_or(DesktopEntry());
+}
+
+TEST(DesktopEntryText, ofAnApplicationIsReadWhole) {
+    const DesktopEntry entry = parsed(
+        "Type=Application\nName=Maps\nComment=Where things are\nExec=gnome-maps --gapplication-service %U\n"
+        "TryExec=gnome-maps\nIcon=maps\nNoDisplay=false\n");
+    EXPECT_TRUE(entry.isApplication);
+    EXPECT_EQ(entry.name, "Maps");
+    EXPECT_THAT(entry.command, ElementsAre("gnome-maps", "--gapplication-service", "%U"));
+    EXPECT_EQ(entry.tryExec, "gnome-maps");
+    EXPECT_FALSE(entry.hidden);
+    EXPECT_FALSE(entry.noDisplay);
+}
+
+TEST(DesktopEntryText, mustBeginWithItsGroup) {
+    EXPECT_FALSE(parseDesktopEntry("", {}));
+    EXPECT_FALSE(parseDesktopEntry("\n# only a comment\n", {}));
+    EXPECT_FALSE(parseDesktopEntry("Name=Maps\n[Desktop Entry]\n", {}));
+    EXPECT_FALSE(parseDesktopEntry("[Other]\nName=Maps\n[Desktop Entry]\nName=Maps\n", {}));
+    EXPECT_TRUE(parseDesktopEntry("# Maps\n\n[Desktop Entry]", {}));
+}
+
+TEST(DesktopEntryText, endsWithItsGroup) {
+    EXPECT_EQ(parsed("Name=Maps\n[Desktop Action new]\nName=New window\n[Desktop Entry]\nName=Again\n").name, "Maps");
+}
+
+TEST(DesktopEntryText, blanksAroundTheEqualsSignAndLineEndsOfOtherSystemsMeanNothing) {
+    const DesktopEntry entry = parsed("  Name = Maps \r\nType\t=\tApplication\r\n# Name=No\nno equals sign\n=no key\n");
+    EXPECT_EQ(entry.name, "Maps");
+    EXPECT_TRUE(entry.isApplication);
+}
+
+TEST(DesktopEntryText, keysAreExact) {
+    const DesktopEntry entry = parsed("name=Maps\nNames=Maps\nName-X=Maps\nGenericName=Maps\nType=application\n");
+    EXPECT_EQ(entry.name, "");
+    EXPECT_FALSE(entry.isApplication);
+}
+
+TEST(DesktopEntryText, linksAndFoldersAreNoApplications) {
+    EXPECT_FALSE(parsed("Type=Link\nName=Home\nURL=https://example.org\n").isApplication);
+    EXPECT_FALSE(parsed("Name=Maps\n").isApplication);
+}
+
+TEST(DesktopEntryText, ofAKeyThatStandsTwiceTheLastCounts) {
+    EXPECT_EQ(parsed("Name=A\nName=B\n").name, "B");
+    EXPECT_TRUE(parsed("Hidden=false\nHidden=true\n").hidden);
+}
+
+TEST(DesktopEntryText, hiddenAndNotDisplayedAreTold) {
+    EXPECT_TRUE(parsed("Hidden=true\n").hidden);
+    EXPECT_TRUE(parsed("NoDisplay=true\n").noDisplay);
+    EXPECT_TRUE(parsed("NoDisplay=1\n").noDisplay);
+    EXPECT_FALSE(parsed("NoDisplay=True\n").noDisplay);
+}
+
+TEST(DesktopEntryText, nameIsInTheBestLanguageThereIs) {
+    const std::string names = "Name[de]=Karten\nName=Maps\nName[de_AT]=Plan\nName[fr]=Cartes\n";
+    EXPECT_EQ(parsed(names, {"de_AT", "de"}).name, "Plan");
+    EXPECT_EQ(parsed(names, {"de_CH", "de"}).name, "Karten");
+    EXPECT_EQ(parsed(names, {"nl"}).name, "Maps");
+    EXPECT_EQ(parsed(names).name, "Maps");
+}
+
+TEST(DesktopEntryText, nameForNobodyInParticularMayBeMissing) {
+    EXPECT_EQ(parsed("Name[fr]=Cartes\n", {"fr"}).name, "Cartes");
+    EXPECT_EQ(parsed("Name[fr]=Cartes\n", {"de"}).name, "");
+}
+
+TEST(DesktopEntryText, nameThatIsNoTextDoesNotCount) {
+    EXPECT_EQ(parsed("Name=Maps\nName[de]=Stra\xdf"
+                     "e\n",
+                     {"de"})
+                  .name,
+              "Maps");
+    EXPECT_EQ(parsed("Name=\xff\n").name, "");
+}
+
+TEST(DesktopEntryText, escapesAreResolved) {
+    EXPECT_EQ(parsed(R"(Name=\sa\tb\\c\xd\)"
+                     "\n")
+                  .name,
+              " a\tb\\c\\xd\\");
+}
+
+TEST(DesktopEntryText, wordsOfACommandAreUnquoted) {
+    EXPECT_THAT(parsed(R"(Exec="/opt/My App/run" --name="a b"  "" %f)"
+                       "\n")
+                    .command,
+                ElementsAre("/opt/My App/run", "--name=a b", "", "%f"));
+    // Two backslashes in the file are one, which then keeps the quote.
+    EXPECT_THAT(parsed(R"(Exec="a\\"b" c)"
+                       "\n")
+                    .command,
+                ElementsAre("a\"b", "c"));
+    EXPECT_THAT(parsed("Exec=\"open to the end\n").command, ElementsAre("open to the end"));
+    EXPECT_THAT(parsed("Exec=\n").command, IsEmpty());
+}
+
+TEST(DesktopEntryText, localesGoFromTheNarrowestToTheWidest) {
+    EXPECT_THAT(localesOf("de_AT.UTF-8@euro"), ElementsAre("de_AT@euro", "de_AT", "de@euro", "de"));
+    EXPECT_THAT(localesOf("de_AT.UTF-8"), ElementsAre("de_AT", "de"));
+    EXPECT_THAT(localesOf("sr@latin"), ElementsAre("sr@latin", "sr"));
+    EXPECT_THAT(localesOf("de"), ElementsAre("de"));
+    for (const char* nobody : {"", "C", "POSIX", "C.UTF-8", "@euro", ".UTF-8"})
+        EXPECT_THAT(localesOf(nobody), IsEmpty());
+}
+
+}  // namespace
+}  // namespace zelk

@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/LinuxWorkspace.h"
+
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QStringList>
+#include <array>
+#include <filesystem>
+
+#include "fakes/Environment.h"
+#include "fakes/TestFiles.h"
+#include "platform/linux/DetachedProgram.h"
+#include "platform/linux/FileUri.h"
+#include "platform/posix/ThreadCount.h"
+#include "zoo/TempFolder.h"
+
+namespace zelk {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Command = std::vector<std::string>;
+
+TEST(FileUri, leavesPlainPathsAndEncodesAllElse) {
+    EXPECT_EQ(fileUri("/home/me/a-b_c.d~1"), "file:///home/me/a-b_c.d~1");
+    EXPECT_EQ(fileUri("/a b/100%/#?;"), "file:///a%20b/100%25/%23%3F%3B");
+    EXPECT_EQ(fileUri("/\xc3\xa9/\xff\n"), "file:///%C3%A9/%FF%0A");
+    EXPECT_EQ(fileUri("/"), "file:///");
+}
+
+/// A session bus of the test's own.
+class SessionBus {
+public:
+    SessionBus() {
+        std::array<int, 2> ends{};
+        if (::pipe(ends.data()) != 0) return;
+        const std::string descriptor = std::to_string(ends[1]);
+        std::string program = "dbus-daemon";
+        std::string options = "--session";
+        std::string address = "--print-address=" + descriptor;
+        std::string foreground = "--nofork";
+        std::array<char*, 5> words{program.data(), options.data(), address.data(), foreground.data(), nullptr};
+        const int error = ::posix_spawnp(&process_, words[0], nullptr, nullptr, words.data(), environ);
+        ::close(ends[1]);
+        char c = 0;
+        while (error == 0 && ::read(ends[0], &c, 1) == 1 && c != '\n') address_ += c;
+        ::close(ends[0]);
+    }
+    SessionBus(const SessionBus&) = delete;
+    SessionBus& operator=(const SessionBus&) = delete;
+    ~SessionBus() {
+        if (process_ == 0) return;
+        ::kill(process_, SIGTERM);
+        ::waitpid(process_, nullptr, 0);
+    }
+
+    QDBusConnection connect(const char* name) const {
+        return QDBusConnection::connectToBus(QString::fromStdString(address_), QString::fromLatin1(name));
+    }
+
+private:
+    pid_t process_ = 0;
+    std::string address_;
+};
+
+/// Notes what it is asked to show.
+class FileManagerService : public QDBusVirtualObject {
+public:
+    bool refuses = false;
+    QList<QVariantList> asked;
+
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        if (message.interface() != QStringLiteral("org.freedesktop.FileManager1") ||
+            message.member() != QStringLiteral("ShowItems"))
+            return false;
+        asked.append(message.arguments());
+        connection.send(refuses ? message.createErrorReply(QDBusError::Failed, QStringLiteral("not today"))
+                                : message.createReply());
+        return true;
+    }
+};
+
+class LinuxWorkspaceTest : public testing::Test {
+protected:
+    ~LinuxWorkspaceTest() override {
+        for (const char* name : {"zelk", "files"}) QDBusConnection::disconnectFromBus(QString::fromLatin1(name));
+    }
+
+    void offerFileManager() {
+        QDBusConnection connection = session.connect("files");
+        ASSERT_TRUE(connection.isConnected());
+        ASSERT_TRUE(connection.registerVirtualObject(QStringLiteral("/org/freedesktop/FileManager1"), &service));
+        ASSERT_TRUE(connection.registerService(QStringLiteral("org.freedesktop.FileManager1")));
+    }
+
+    template <class Condition>
+    static void runUntil(Condition condition) {
+        while (!condition()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
+    int count = 1;
+    char ownName[5] = "test";
+    char* names[2] = {ownName, nullptr};
+    QCoreApplication application{count, names};
+    SessionBus session;
+    FileManagerService service;
+    std::vector<Command> launched;
+    LinuxWorkspace workspace{"/home/me/.local/share", "/home/me/.local/share/Trash/files",
+                             [this](Command command) { launched.push_back(std::move(command)); },
+                             [this] { return session.connect("zelk"); }};
+};
+
+TEST_F(LinuxWorkspaceTest, asksTheFileManagerToShowTheItems) {
+    offerFileManager();
+    workspace.reveal({"/home/me/a b.txt", "/home/me/\xff"});
+    EXPECT_THAT(service.asked, IsEmpty());
+    runUntil([&] { return !service.asked.empty(); });
+    EXPECT_EQ(service.asked.front(),
+              (QVariantList{QStringList{"file:///home/me/a%20b.txt", "file:///home/me/%FF"}, ""}));
+    EXPECT_THAT(launched, IsEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, opensTheFoldersOnceEachIfThereIsNoFileManagerOnTheBus) {
+    workspace.reveal({"/home/me/b", "/home/me/a", "/top", "/home/me/folder/c"});
+    EXPECT_THAT(launched, IsEmpty());
+    runUntil([&] { return launched.size() == 3; });
+    EXPECT_THAT(launched, ElementsAre(Command{"xdg-open", "/home/me"}, Command{"xdg-open", "/"},
+                                      Command{"xdg-open", "/home/me/folder"}));
+}
+
+TEST_F(LinuxWorkspaceTest, opensTheFolderIfTheFileManagerRefuses) {
+    offerFileManager();
+    service.refuses = true;
+    workspace.reveal({"/home/me/a"});
+    runUntil([&] { return !launched.empty(); });
+    EXPECT_THAT(launched, ElementsAre(Command{"xdg-open", "/home/me"}));
+}
+
+TEST_F(LinuxWorkspaceTest, opensTheFolderIfThereIsNoBus) {
+    std::vector<Command> opened;
+    LinuxWorkspace alone(
+        "/data", "/data/Trash/files", [&](Command command) { opened.push_back(std::move(command)); },
+        [] { return QDBusConnection(QStringLiteral("never connected")); });
+    alone.reveal({"/home/me/a"});
+    EXPECT_THAT(opened, ElementsAre(Command{"xdg-open", "/home/me"}));
+}
+
+TEST_F(LinuxWorkspaceTest, revealsNothingOfNothing) {
+    workspace.reveal({});
+    workspace.reveal({"no path"});
+    QCoreApplication::processEvents();
+    EXPECT_THAT(launched, IsEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, mayGoWhileTheFileManagerIsAsked) {
+    bool launchedLate = false;
+    {
+        LinuxWorkspace brief(
+            "/data", "/data/Trash/files", [&](const Command&) { launchedLate = true; },
+            [this] { return session.connect("zelk"); });
+        brief.reveal({"/home/me/a"});
+    }
+    workspace.reveal({"/home/me/b"});  // answered behind the other
+    runUntil([&] { return !launched.empty(); });
+    EXPECT_FALSE(launchedLate);
+}
+
+TEST_F(LinuxWorkspaceTest, handsURLsToTheDesktop) {
+    workspace.openURL("https://example.org/a?b=c");
+    EXPECT_THAT(launched, ElementsAre(Command{"xdg-open", "https://example.org/a?b=c"}));
+}
+
+TEST_F(LinuxWorkspaceTest, showsTheTrashWhereAccessWouldBeGranted) {
+    offerFileManager();
+    workspace.openURL(accessSettingsURL);
+    runUntil([&] { return !service.asked.empty(); });
+    EXPECT_EQ(service.asked.front().front(), QVariant(QStringList{"file:///home/me/.local/share/Trash/files"}));
+    EXPECT_THAT(launched, IsEmpty());
+}
+
+TEST_F(LinuxWorkspaceTest, namesTheApplicationsThatRun) {
+    const zoo::TempFolder data;
+    std::filesystem::create_directory(data / "applications");
+    const std::string own = std::filesystem::read_symlink("/proc/self/exe").string();
+    fakes::writeFile(data / "applications/test.desktop",
+                     "[Desktop Entry]\nType=Application\nName=The tests\nExec=\"" + own + "\"\n");
+    const fakes::EnvironmentVariable others("XDG_DATA_DIRS", data / "nowhere");
+    LinuxWorkspace here(
+        data.path(), "/trash", [](const Command&) {}, [this] { return session.connect("zelk"); });
+    EXPECT_THAT(here.runningApplications(), ElementsAre("The tests"));
+    EXPECT_THAT(here.runningApplications(), ElementsAre("The tests"));
+}
+
+// Programs on their own.
+
+TEST(DetachedProgram, isNoChildOfThisProcess) {
+    const zoo::TempFolder folder;
+    const std::string fifo = folder / "fifo";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    startDetached({"sh", "-c", "echo \"$1\" > \"$2\"", "sh", "a  'b\" $c", fifo});
+    EXPECT_EQ(fakes::fileContent(fifo), "a  'b\" $c\n");
+    while (!drainThreads(1)) {
+    }
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+}
+
+TEST(DetachedProgram, isNotWaitedFor) {
+    const zoo::TempFolder folder;
+    const std::string fifo = folder / "fifo";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    startDetached({"sh", "-c", "read line < " + fifo + "; echo $line > " + (folder / "done") + "; echo > " + fifo});
+    while (!drainThreads(1)) {
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder / "done"));
+    fakes::writeFile(fifo, "go\n");
+    EXPECT_EQ(fakes::fileContent(fifo), "\n");
+    EXPECT_EQ(fakes::fileContent(folder / "done"), "go\n");
+}
+
+TEST(DetachedProgram, thatIsNotThereIsSilent) {
+    startDetached({"zelk-has-no-such-program"});
+    startDetached({});
+    while (!drainThreads(1)) {
+    }
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+}
+
+}  // namespace
+}  // namespace zelk
