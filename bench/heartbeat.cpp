@@ -1,77 +1,72 @@
 // SPDX-License-Identifier: MIT
-// heartbeat ROOT: surveys ROOT in the real window, drawn by the processor alone, and measures how long the main thread
-// keeps a timer waiting meanwhile. Prints one JSON object: milliseconds by which the beats came late, when the worst of
-// them came, and the most processor time that the main thread took between two beats. The last is the window's own
-// doing; a stall beyond it is that of a busy machine, or of a wait that should not be there.
+// How long the main thread keeps a timer waiting while the application works, in the real window, drawn by the
+// processor alone. Prints one JSON object: milliseconds by which the beats came late, when the worst of them came, and
+// the most processor time that the main thread took between two beats. The last is the window's own doing; a stall
+// beyond it is that of a busy machine, or of a wait that should not be there.
+//
+//     heartbeat ROOT           a survey of ROOT
+//     heartbeat --clean COUNT  COUNT items made in a folder below $TMPDIR (or /tmp) go to a Trash there, all at once
 
-#include <time.h>
-
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
+#include "Heart.h"
 #include "ScratchLocations.h"
 #include "platform/NativePlatform.h"
+#include "reclaim/Cleaner.h"
+#include "reclaim/MainThreadCalls.h"
 #include "state/AppModel.h"
 #include "ui/shell/Application.h"
 #include "ui/shell/MainWindow.h"
 
 namespace {
 
-constexpr int beat = 1;  // milliseconds
+using namespace zelk;
 
-double threadMilliseconds() {
-    timespec time{};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+void surveyInto(bench::Heart& heart, AppModel& app, const std::string& root) {
+    app.setScanRoots({root});
+    heart.start();
+    app.startScan();
+    heart.beatUntil([&] { return app.scanPhase() != AppModel::ScanPhase::scanning; });
+    std::printf("{\"items\":%lld,", static_cast<long long>(app.itemsScanned()));
 }
 
-/// Notes every beat of the main thread.
-class Heart {
-public:
-    void start() {
-        whole_.start();
-        sinceBeat_.start();
-        processor_ = threadMilliseconds();
+std::vector<Reclaimable> makeItems(const std::filesystem::path& folder, int count) {
+    std::vector<Reclaimable> items;
+    for (int number = 0; number < count; ++number) {
+        const std::filesystem::path item = folder / std::to_string(number) / "__pycache__";
+        std::filesystem::create_directories(item);
+        for (const char* file : {"a.pyc", "b.pyc", "c.pyc"}) std::ofstream(item / file) << std::string(1000, 'x');
+        Reclaimable& one = items.emplace_back();
+        one.id = one.path = item.string();
+        one.categoryID = "pycache";
     }
+    return items;
+}
 
-    void beatNow() {
-        const double late = std::max(0.0, static_cast<double>(sinceBeat_.nsecsElapsed()) / 1e6 - beat);
-        if (late > worst) {
-            worst = late;
-            worstAt = seconds();
-        }
-        stalls_.push_back(late);
-        const double processor = threadMilliseconds();
-        worstBusy = std::max(worstBusy, processor - std::exchange(processor_, processor));
-        sinceBeat_.restart();
-    }
-
-    double seconds() const { return static_cast<double>(whole_.nsecsElapsed()) / 1e9; }
-    std::size_t beats() const { return stalls_.size(); }
-    /// The stall that `share` of all do not exceed.
-    double quantile(double share) {
-        std::sort(stalls_.begin(), stalls_.end());
-        return stalls_[static_cast<std::size_t>(share * static_cast<double>(stalls_.size() - 1))];
-    }
-
-    double worst = 0;
-    double worstAt = 0;  ///< seconds
-    double worstBusy = 0;
-
-private:
-    QElapsedTimer whole_;
-    QElapsedTimer sinceBeat_;
-    double processor_ = 0;
-    std::vector<double> stalls_;
-};
+void cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclaimable> items) {
+    MainThreadCalls calls;
+    std::optional<std::vector<Cleaner::Result>> ended;
+    heart.start();
+    Cleaner::cleanAll(std::move(items), false, platform, [&, sender = calls.sender()](auto results) {
+        sender.post([&ended, results = std::move(results)]() mutable { ended = std::move(results); });
+    });
+    heart.beatUntil([&] { return ended.has_value(); });
+    const auto failed = std::count_if(ended->begin(), ended->end(), [](const Cleaner::Result& result) {
+        return std::holds_alternative<Cleaner::Failed>(result.status);
+    });
+    std::printf("{\"items\":%zu,\"failed\":%td,", ended->size(), failed);
+}
 
 }  // namespace
 
@@ -79,43 +74,37 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication application(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: heartbeat ROOT\n");
+    const bool cleans = argc == 3 && std::string(argv[1]) == "--clean";
+    if (argc != 2 && !cleans) {
+        std::fprintf(stderr, "usage: heartbeat ROOT\n       heartbeat --clean COUNT\n");
         return 2;
     }
-    zelk::dressApplication();
+    dressApplication();
 
-    const QTemporaryDir support;
-    zelk::NativePlatform native;
-    const zelk::Platform& real = native.platform();
-    zelk::tour::ScratchLocations locations(real.locations, support.path().toStdString());
-    const zelk::Platform platform{real.clock, real.directories, real.files,     real.trash,    real.vitals,
-                                  locations,  real.tasks,       real.processes, real.workspace};
+    const QTemporaryDir scratch;
+    const std::string folder = scratch.path().toStdString();
+    NativePlatform native(cleans ? folder : std::string());
+    const Platform& real = native.platform();
+    tour::ScratchLocations locations(real.locations, folder);
+    const Platform platform{real.clock, real.directories, real.files,     real.trash,    real.vitals,
+                            locations,  real.tasks,       real.processes, real.workspace};
     {
-        zelk::AppModel app(platform);
-        app.setScanRoots({std::filesystem::absolute(argv[1]).string()});
-        zelk::MainWindow window(app);
+        AppModel app(platform);
+        MainWindow window(app);
         window.show();
         while (!window.window().isExposed()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        window.window().grabWindow();  // what a first frame costs is no part of a survey
+        window.window().grabWindow();  // what a first frame costs is no part of it
 
-        Heart heart;
-        QTimer timer;
-        timer.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&timer, &QTimer::timeout, &timer, [&heart] { heart.beatNow(); });
-        heart.start();
-        timer.start(beat);
-        app.startScan();
-        while (app.scanPhase() == zelk::AppModel::ScanPhase::scanning)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        heart.beatNow();
-
-        std::printf(
-            "{\"items\":%lld,\"seconds\":%.3f,\"beats\":%zu,\"medianStallMs\":%.3f,\"p99StallMs\":%.3f,"
-            "\"worstStallMs\":%.3f,\"worstStallAtSeconds\":%.3f,\"worstBusyMs\":%.3f}\n",
-            static_cast<long long>(app.itemsScanned()), heart.seconds(), heart.beats(), heart.quantile(0.5),
-            heart.quantile(0.99), heart.worst, heart.worstAt, heart.worstBusy);
+        bench::Heart heart;
+        if (cleans) {
+            cleanInto(heart, platform, makeItems(std::filesystem::path(folder) / "work", std::atoi(argv[2])));
+        } else {
+            surveyInto(heart, app, std::filesystem::absolute(argv[1]).string());
+        }
+        heart.print();
+        std::printf("}\n");
     }
+    std::fflush(stdout);
     if (!native.drain(10)) std::_Exit(EXIT_SUCCESS);
     return EXIT_SUCCESS;
 }

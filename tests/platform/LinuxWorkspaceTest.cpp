@@ -17,6 +17,7 @@
 #include <filesystem>
 
 #include "fakes/Environment.h"
+#include "fakes/InChild.h"
 #include "fakes/TestFiles.h"
 #include "platform/linux/DetachedProgram.h"
 #include "platform/linux/FileUri.h"
@@ -204,16 +205,25 @@ TEST_F(LinuxWorkspaceTest, namesTheApplicationsThatRun) {
 
 // Programs on their own.
 
+void waitForThreads() {
+    while (!drainThreads(1)) {
+    }
+}
+
+/// In a process that has had none.
+bool hasNoChild() {
+    return ::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD;
+}
+
 TEST(DetachedProgram, isNoChildOfThisProcess) {
     const zoo::TempFolder folder;
     const std::string fifo = folder / "fifo";
     ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
-    startDetached({"sh", "-c", "echo \"$1\" > \"$2\"", "sh", "a  'b\" $c", fifo});
-    EXPECT_EQ(fakes::fileContent(fifo), "a  'b\" $c\n");
-    while (!drainThreads(1)) {
-    }
-    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
-    EXPECT_EQ(errno, ECHILD);
+    EXPECT_TRUE(fakes::inChild([&] {
+        startDetached({"sh", "-c", "echo \"$1\" > \"$2\"", "sh", "a  'b\" $c", fifo});
+        waitForThreads();
+        return hasNoChild() && fakes::fileContent(fifo) == "a  'b\" $c\n";
+    }));
 }
 
 TEST(DetachedProgram, isNotWaitedFor) {
@@ -221,8 +231,7 @@ TEST(DetachedProgram, isNotWaitedFor) {
     const std::string fifo = folder / "fifo";
     ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
     startDetached({"sh", "-c", "read line < " + fifo + "; echo $line > " + (folder / "done") + "; echo > " + fifo});
-    while (!drainThreads(1)) {
-    }
+    waitForThreads();
     EXPECT_FALSE(std::filesystem::exists(folder / "done"));
     fakes::writeFile(fifo, "go\n");
     EXPECT_EQ(fakes::fileContent(fifo), "\n");
@@ -230,11 +239,12 @@ TEST(DetachedProgram, isNotWaitedFor) {
 }
 
 TEST(DetachedProgram, thatIsNotThereIsSilent) {
-    startDetached({"zelk-has-no-such-program"});
-    startDetached({});
-    while (!drainThreads(1)) {
-    }
-    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_TRUE(fakes::inChild([] {
+        startDetached({"zelk-has-no-such-program"});
+        startDetached({});
+        waitForThreads();
+        return hasNoChild();
+    }));
 }
 
 }  // namespace

@@ -7,7 +7,9 @@
 #include "platform/macos/MacLocations.h"
 #include "platform/macos/MacTrash.h"
 #include "platform/macos/MacVitals.h"
+#include "platform/macos/MacWorkspace.h"
 #include "platform/posix/DescriptorLimit.h"
+#include "platform/posix/PosixChildProcess.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixTasks.h"
 #include "platform/posix/ThreadCount.h"
@@ -24,7 +26,9 @@ struct NativePlatform::Services {
     MacVitals vitals;
     MacLocations locations;
     MacTrash trash;
-    Platform record{clock, directories, files, trash, vitals, locations, tasks};
+    PosixChildProcess processes;
+    MacWorkspace workspace;
+    Platform record{clock, directories, files, trash, vitals, locations, tasks, processes, workspace};
 };
 
 NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {

@@ -55,6 +55,7 @@ NSString* NSHomeDirectory(void);
 @interface NSString : NSObject
 @property(readonly) const char* UTF8String;
 @property(readonly) const char* fileSystemRepresentation;
++ (instancetype)stringWithUTF8String:(const char*)text;
 @end
 
 @interface NSNumber : NSObject
@@ -69,6 +70,11 @@ NSString* NSHomeDirectory(void);
 @property(readonly) ObjectType firstObject;
 - (ObjectType)objectAtIndex:(NSUInteger)index;
 + (instancetype)arrayWithObjects:(const ObjectType[])objects count:(NSUInteger)count;
+@end
+
+@interface NSMutableArray<ObjectType> : NSArray <ObjectType>
++ (instancetype)arrayWithCapacity:(NSUInteger)capacity;
+- (void)addObject:(ObjectType)object;
 @end
 
 @interface NSDictionary<KeyType, ObjectType> : NSObject
@@ -91,6 +97,7 @@ NSString* NSHomeDirectory(void);
 + (NSURL*)fileURLWithFileSystemRepresentation:(const char*)path
                                   isDirectory:(BOOL)isDirectory
                                 relativeToURL:(NSURL*)base;
++ (instancetype)URLWithString:(NSString*)text;
 - (BOOL)getResourceValue:(out id*)value forKey:(NSURLResourceKey)key error:(out NSError**)error;
 - (NSDictionary<NSURLResourceKey, id>*)resourceValuesForKeys:(NSArray<NSURLResourceKey>*)keys
                                                        error:(out NSError**)error;

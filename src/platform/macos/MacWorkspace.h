@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Workspace.h"
+
+namespace zelk {
+
+/// The desktop by NSWorkspace.
+class MacWorkspace : public Workspace {
+public:
+    std::vector<std::string> runningApplications() override;
+    void reveal(const std::vector<std::string>& paths) override;
+    void openURL(const std::string& url) override;
+};
+
+}  // namespace zelk

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// The calls of AppKit that Zelk makes; see ../Foundation/Foundation.h.
+#pragma once
+
+#if __has_include(<AppKit/NSWorkspace.h>)
+#error "the system's own headers are here: use them"
+#endif
+
+#include <Foundation/Foundation.h>
+
+@interface NSRunningApplication : NSObject
+@property(readonly) NSString* localizedName;
+@end
+
+@interface NSWorkspace : NSObject
+@property(class, readonly) NSWorkspace* sharedWorkspace;
+@property(readonly) NSArray<NSRunningApplication*>* runningApplications;
+- (BOOL)openURL:(NSURL*)url;
+- (void)activateFileViewerSelectingURLs:(NSArray<NSURL*>*)urls;
+@end
