@@ -57,11 +57,12 @@ void Cleaner::cleanAll(std::vector<Reclaimable> items, bool hardDelete, const Pl
                        std::function<void(std::vector<Result>)> done) {
     if (items.empty()) return done({});
     // The tasks are started from a task: to make two thousand threads takes longer than a frame, and where the machine
-    // has no more of them, an item is cleaned on the thread that starts it.
+    // has no more of them, an item is cleaned on the thread that starts it. So many at once must not keep the window
+    // from its turn, so each is less urgent than the person who waits for all of them.
     auto start = [items = std::move(items), hardDelete, platform, done = std::move(done)]() mutable {
         const auto gathering = std::make_shared<Gathering>(items.size(), std::move(done));
         for (Reclaimable& item : items) {
-            platform.tasks.run(TaskPriority::userInitiated, [gathering, item = std::move(item), hardDelete, platform] {
+            platform.tasks.run(TaskPriority::utility, [gathering, item = std::move(item), hardDelete, platform] {
                 gathering->add(cleanOne(item, hardDelete, platform));
             });
         }
