@@ -50,7 +50,7 @@ void AppModel::emptyTrash() {
         sender.post([this, bytes = Cleaner::measureTrash(files, trash)] {
             takeTrashMeasure(bytes);
             assign(emptyingTrash_, false, &AppModel::emptyingTrashChanged);
-            if (auto volume = platform_.vitals.volume(firstPlace())) setVolume(std::move(volume));
+            if (const auto volume = platform_.vitals.volume(firstPlace())) setVolume(volume);
         });
     };
     platform_.tasks.run(TaskPriority::userInitiated, std::move(work));

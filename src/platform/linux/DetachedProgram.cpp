@@ -22,6 +22,7 @@ void startThroughShell(const std::vector<std::string>& command) {
     std::vector<std::string> words{"/bin/sh", "-c", "\"$@\" </dev/null >/dev/null 2>&1 &", "sh"};
     words.insert(words.end(), command.begin(), command.end());
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
 
