@@ -116,7 +116,7 @@ TEST(DesktopEntryText, localesGoFromTheNarrowestToTheWidest) {
     EXPECT_THAT(localesOf("de_AT.UTF-8"), ElementsAre("de_AT", "de"));
     EXPECT_THAT(localesOf("sr@latin"), ElementsAre("sr@latin", "sr"));
     EXPECT_THAT(localesOf("de"), ElementsAre("de"));
-    for (const char* nobody : {"", "C", "POSIX", "C.UTF-8", "@euro", ".UTF-8"})
+    for (const char* nobody : {"", "C", "POSIX", "C.UTF-8", "@euro", ".UTF-8", "_", "_AT@euro"})
         EXPECT_THAT(localesOf(nobody), IsEmpty());
 }
 

@@ -143,7 +143,7 @@ std::vector<std::string> localesOf(std::string_view locale) {
         locale = locale.substr(0, at);
     }
     locale = locale.substr(0, locale.find('.'));
-    if (locale.empty() || locale == "C" || locale == "POSIX") return {};
+    if (locale.empty() || locale.front() == '_' || locale == "C" || locale == "POSIX") return {};
     std::vector<std::string> locales;
     const auto add = [&](std::string_view language) {
         if (!modifier.empty()) locales.push_back(std::string(language) + modifier);

@@ -50,9 +50,11 @@ public:
 #endif
         ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDOUT_FILENO);
         ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDERR_FILENO);
-#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 34)
+#ifdef __GLIBC__
+#if __GLIBC_PREREQ(2, 34)
         // Ours close themselves; these are what this process was itself given by whoever started it.
         ::posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
+#endif
 #endif
     }
     Outputs(const Outputs&) = delete;
