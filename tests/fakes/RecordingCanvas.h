@@ -9,15 +9,19 @@ namespace zelk::fakes {
 
 /// One call of a Canvas; what a shape does not have is 0.
 struct DrawnShape {
-    enum class Kind { disc, ring, arc };
+    enum class Kind { disc, ring, arc, roundArc, bar, area, line };
 
     Kind kind;
     QPointF center;
-    double radius;
+    double radius = 0;
     double width = 0;
     double start = 0;
     double span = 0;
     Paint paint;
+    QRectF rect = {};  ///< of a bar
+    double leftCorner = 0;
+    double rightCorner = 0;
+    std::vector<QPointF> points = {};  ///< of an area or a line
 };
 
 /// Draws nothing and remembers everything.
@@ -31,6 +35,18 @@ public:
     }
     void arc(QPointF center, double radius, double width, double start, double span, const Paint& paint) override {
         shapes.push_back({DrawnShape::Kind::arc, center, radius, width, start, span, paint});
+    }
+    void roundArc(QPointF center, double radius, double width, double start, double span, const Paint& paint) override {
+        shapes.push_back({DrawnShape::Kind::roundArc, center, radius, width, start, span, paint});
+    }
+    void bar(const QRectF& rect, double leftCorner, double rightCorner, const Paint& paint) override {
+        shapes.push_back({DrawnShape::Kind::bar, {}, 0, 0, 0, 0, paint, rect, leftCorner, rightCorner});
+    }
+    void area(const std::vector<QPointF>& corners, const Paint& paint) override {
+        shapes.push_back({DrawnShape::Kind::area, {}, 0, 0, 0, 0, paint, {}, 0, 0, corners});
+    }
+    void line(const std::vector<QPointF>& points, double width, const Paint& paint) override {
+        shapes.push_back({DrawnShape::Kind::line, {}, 0, width, 0, 0, paint, {}, 0, 0, points});
     }
 
     std::vector<DrawnShape> shapes;

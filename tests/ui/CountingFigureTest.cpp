@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/survey/CountingFigure.h"
+#include "ui/components/CountingFigure.h"
 
 #include <gtest/gtest.h>
 

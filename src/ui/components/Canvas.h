@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QPointF>
+#include <QRectF>
 #include <vector>
 
 namespace zelk {
@@ -44,6 +45,16 @@ public:
     virtual void ring(QPointF center, double radius, double width, const Paint& paint) = 0;
     /// A part of such a line, with flat ends.
     virtual void arc(QPointF center, double radius, double width, double start, double span, const Paint& paint) = 0;
+    /// The same with round ends, which reach half the width further.
+    virtual void roundArc(QPointF center, double radius, double width, double start, double span,
+                          const Paint& paint) = 0;
+    /// A filled rectangle whose two left corners have one radius and its two right corners another, in points; a radius
+    /// that the sides have no room for becomes as large as they have.
+    virtual void bar(const QRectF& rect, double leftCorner, double rightCorner, const Paint& paint) = 0;
+    /// The filled inside of a closed line through `corners`.
+    virtual void area(const std::vector<QPointF>& corners, const Paint& paint) = 0;
+    /// An open line through `points` with round ends and corners.
+    virtual void line(const std::vector<QPointF>& points, double width, const Paint& paint) = 0;
 };
 
 }  // namespace zelk

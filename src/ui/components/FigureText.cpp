@@ -4,8 +4,12 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QQmlEngine>
 #include <algorithm>
 #include <cmath>
+
+#include "ui/components/FigureRun.h"
+#include "ui/theme/TextScale.h"
 
 namespace zelk {
 
@@ -30,14 +34,53 @@ std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font) {
 }
 
 FigureText::FigureText(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    run_.setStartValue(0.0);
+    run_.setEndValue(1.0);
+    run_.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&run_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& share) { show(figureBetween(origin_, text_, share.toDouble())); });
+    layOut();
+}
+
+void FigureText::componentComplete() {
+    QQuickPaintedItem::componentComplete();
+    QQmlEngine* engine = qmlEngine(this);
+    if (engine == nullptr) return;
+    auto* scale = engine->singletonInstance<TextScale*>(qmlTypeId("Zelk.Theme", 1, 0, "TextScale"));
+    if (scale == nullptr) return;
+    scale_ = scale;
+    connect(scale, &TextScale::factorChanged, this, &FigureText::layOut);
     layOut();
 }
 
 void FigureText::setText(const QString& text) {
     if (text == text_) return;
     text_ = text;
-    layOut();
+    run_.stop();
+    if (duration_ > 0 && isComponentComplete() && isVisible()) {
+        origin_ = shown_;
+        run_.setDuration(duration_);
+        run_.start();
+    } else {
+        show(text_);
+    }
     emit textChanged();
+}
+
+void FigureText::setDuration(int duration) {
+    if (duration == duration_) return;
+    duration_ = duration;
+    if (duration == 0) {
+        run_.stop();
+        show(text_);
+    }
+    emit durationChanged();
+}
+
+void FigureText::show(const QString& text) {
+    if (text == shown_) return;
+    shown_ = text;
+    layOut();
 }
 
 void FigureText::setColor(const QColor& color) {
@@ -63,15 +106,16 @@ void FigureText::setBold(bool bold) {
 
 QFont FigureText::font() const {
     QFont font = QGuiApplication::font();
-    font.setPixelSize(pixelSize_);
+    const int pixels = std::max(1, static_cast<int>(std::lround(pixelSize_ * (scale_ ? scale_->factor() : 1.0))));
+    font.setPixelSize(pixels);
     font.setWeight(bold_ ? QFont::Bold : QFont::Medium);
     // Large and bold, the face wants its letters a little closer.
-    if (bold_) font.setLetterSpacing(QFont::AbsoluteSpacing, -0.02 * pixelSize_);
+    if (bold_) font.setLetterSpacing(QFont::AbsoluteSpacing, -0.02 * pixels);
     return font;
 }
 
 void FigureText::layOut() {
-    pieces_ = layOutFigure(text_, font());
+    pieces_ = layOutFigure(shown_, font());
     const double width = pieces_.empty() ? 0 : pieces_.back().x + pieces_.back().width;
     setImplicitSize(std::ceil(width), std::ceil(QFontMetricsF(font()).height()));
     update();

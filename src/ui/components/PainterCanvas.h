@@ -15,8 +15,14 @@ public:
     void disc(QPointF center, double radius, const Paint& paint) override;
     void ring(QPointF center, double radius, double width, const Paint& paint) override;
     void arc(QPointF center, double radius, double width, double start, double span, const Paint& paint) override;
+    void roundArc(QPointF center, double radius, double width, double start, double span, const Paint& paint) override;
+    void bar(const QRectF& rect, double leftCorner, double rightCorner, const Paint& paint) override;
+    void area(const std::vector<QPointF>& corners, const Paint& paint) override;
+    void line(const std::vector<QPointF>& points, double width, const Paint& paint) override;
 
 private:
+    void strokeArc(QPointF center, double radius, double start, double span);
+
     QPainter& painter_;
 };
 

@@ -3,7 +3,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Symbols
 import Zelk.Theme
 
 BaseButton {
@@ -13,10 +12,12 @@ BaseButton {
     required property color tint
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: 36
+    implicitHeight: Math.max(36, implicitContentHeight + topPadding + bottomPadding)
     leftPadding: 14
     rightPadding: 16
+    verticalPadding: 8
 
+    opacity: pill.enabled ? 1 : 0.45
     scale: pill.down ? 0.97 : 1
     Behavior on scale {
         NumberAnimation {
@@ -26,13 +27,14 @@ BaseButton {
 
     background: Rectangle {
         radius: height / 2
-        color: pill.hovered || pill.visualFocus ? Theme.surfaceHi : Theme.surface
+        color: Theme.surface
         border.width: 1
         border.color: Theme.hairline
-        Behavior on color {
-            ColorAnimation {
-                duration: Motion.quick
-            }
+
+        Wash {
+            anchors.fill: parent
+            radius: height / 2
+            control: pill
         }
 
         FocusRing {
@@ -41,23 +43,10 @@ BaseButton {
         }
     }
 
-    contentItem: Row {
-        spacing: 8
-
-        SymbolItem {
-            anchors.verticalCenter: parent.verticalCenter
-            name: pill.symbol
-            color: pill.tint
-            size: 12
-        }
-
-        Text {
-            anchors.verticalCenter: parent.verticalCenter
-            text: pill.text
-            color: Theme.ink
-            font.pixelSize: 12
-            font.weight: Font.Medium
-            Accessible.ignored: true
-        }
+    contentItem: ButtonLabel {
+        text: pill.text
+        symbol: pill.symbol
+        symbolColor: pill.tint
+        color: Theme.ink
     }
 }

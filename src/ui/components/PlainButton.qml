@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A button that is only its word until the pointer or the keyboard comes to it.
+// A button that steps back until the pointer or the keyboard comes to it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,21 +9,22 @@ BaseButton {
     id: plain
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: 32
-    leftPadding: 16
-    rightPadding: 16
+    implicitHeight: Math.max(32, implicitContentHeight + topPadding + bottomPadding)
+    horizontalPadding: 16
+    verticalPadding: 6
 
-    opacity: plain.down ? 0.7 : 1
+    opacity: plain.enabled ? 1 : 0.45
 
     background: Rectangle {
         radius: height / 2
-        color: plain.hovered || plain.visualFocus ? Theme.surfaceHi : "transparent"
+        color: "transparent"
         border.width: 1
         border.color: Theme.hairline
-        Behavior on color {
-            ColorAnimation {
-                duration: Motion.quick
-            }
+
+        Wash {
+            anchors.fill: parent
+            radius: height / 2
+            control: plain
         }
 
         FocusRing {
@@ -32,13 +33,8 @@ BaseButton {
         }
     }
 
-    contentItem: Text {
+    contentItem: ButtonLabel {
         text: plain.text
         color: plain.hovered || plain.visualFocus ? Theme.ink : Theme.inkSoft
-        font.pixelSize: 12
-        font.weight: Font.Medium
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-        Accessible.ignored: true
     }
 }

@@ -53,7 +53,7 @@ Column {
         text: lines.face.caption
         color: Theme.accentInk
         opacity: 0.8
-        font.pixelSize: lines.face.captionSize
+        font.pixelSize: Math.round(lines.face.captionSize * TextScale.factor)
         font.weight: Font.Medium
         Accessible.ignored: true
     }
@@ -64,7 +64,7 @@ Column {
         text: lines.face.hint
         color: Theme.accentInk
         opacity: 0.7
-        font.pixelSize: lines.face.hintSize
+        font.pixelSize: Math.round(lines.face.hintSize * TextScale.factor)
         font.weight: Font.DemiBold
         visible: text !== ""
         Accessible.ignored: true

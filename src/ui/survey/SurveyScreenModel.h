@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "ui/components/ScanFace.h"
-#include "ui/survey/CountingFigure.h"
+#include "ui/components/CountingFigure.h"
 #include "ui/survey/FeatureList.h"
 
 namespace zelk {

@@ -17,6 +17,7 @@ class Motion : public QObject {
     Q_PROPERTY(bool reduced READ reduced WRITE setReduced NOTIFY changed FINAL)
     Q_PROPERTY(int quick READ quick NOTIFY changed FINAL)
     Q_PROPERTY(int gentle READ gentle NOTIFY changed FINAL)
+    Q_PROPERTY(int count READ count NOTIFY changed FINAL)
     Q_PROPERTY(int turn READ turn CONSTANT FINAL)
 
 public:
@@ -30,6 +31,8 @@ public:
     int quick() const { return reduced_ ? 0 : 120; }
     /// Milliseconds. For one face that takes the place of another.
     int gentle() const { return reduced_ ? 0 : 260; }
+    /// Milliseconds. For a figure that runs to its next value.
+    int count() const { return reduced_ ? 0 : 500; }
     /// Milliseconds of one turn of the scan button's decoration, which stands still with reduced motion.
     int turn() const { return 1400; }
 

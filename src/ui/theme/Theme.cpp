@@ -49,10 +49,18 @@ void Theme::choose() {
     const bool dark = appearance == AppModel::Appearance::system
                           ? desktopIsDark(desktopScheme(), QGuiApplication::palette())
                           : appearance == AppModel::Appearance::dark;
-    const ZelkTheme* chosen = dark ? &ZelkTheme::dark() : &ZelkTheme::light();
-    if (chosen == current_) return;
-    current_ = chosen;
+    show(dark ? ZelkTheme::dark() : ZelkTheme::light());
+}
+
+void Theme::show(const ZelkTheme& theme) {
+    if (&theme == current_) return;
+    current_ = &theme;
     emit changed();
+}
+
+QColor Theme::textOf(const QColor& color) const {
+    // What is hardest to read on: the darkest ground of the light theme, the lightest of the dark one.
+    return readable(color, current_->isDark ? current_->surfaceHi : current_->ground, current_->ink);
 }
 
 bool Theme::eventFilter(QObject* watched, QEvent* event) {

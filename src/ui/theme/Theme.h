@@ -37,12 +37,19 @@ class Theme : public QObject {
     Q_PROPERTY(QColor accentSoft READ accentSoft NOTIFY changed FINAL)
     Q_PROPERTY(QColor alert READ alert NOTIFY changed FINAL)
     Q_PROPERTY(QColor accentInk READ accentInk CONSTANT FINAL)
+    Q_PROPERTY(QColor accentText READ accentText NOTIFY changed FINAL)
+    Q_PROPERTY(QColor alertText READ alertText NOTIFY changed FINAL)
+    Q_PROPERTY(QColor hoverWash READ hoverWash NOTIFY changed FINAL)
+    Q_PROPERTY(QColor pressWash READ pressWash NOTIFY changed FINAL)
 
 public:
     explicit Theme(QObject* parent = nullptr);
 
     /// From now on `model` chooses. Until then, and when it has gone, the dark instance or the last one stays.
     void follow(AppModel& model);
+
+    /// For programs without a model.
+    void show(const ZelkTheme& theme);
 
     const ZelkTheme& current() const { return *current_; }
 
@@ -58,6 +65,14 @@ public:
     QColor accentSoft() const { return current_->accentSoft; }
     QColor alert() const { return current_->alert; }
     QColor accentInk() const { return AccentGradient::ink(); }
+    /// The accent and the alert as texts, dark enough to be read on the ground and on whatever lies on it.
+    QColor accentText() const { return textOf(current_->accent); }
+    QColor alertText() const { return textOf(current_->alert); }
+    /// What lies over a thing under the pointer, and over a pressed one.
+    QColor hoverWash() const { return withOpacity(current_->ink, 0.07); }
+    QColor pressWash() const { return withOpacity(current_->ink, 0.13); }
+    /// Any colour as a text.
+    Q_INVOKABLE QColor textOf(const QColor& color) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -2,8 +2,20 @@
 #include "ui/theme/ZelkTheme.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace zelk {
+
+namespace {
+
+double luminance(const QColor& color) {
+    const auto linear = [](double channel) {
+        return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+}  // namespace
 
 const ZelkTheme& ZelkTheme::dark() {
     static const ZelkTheme theme{
@@ -63,6 +75,22 @@ QColor withOpacity(const QColor& color, double opacity) {
     QColor result = color;
     result.setAlphaF(static_cast<float>(opacity));
     return result;
+}
+
+double contrast(const QColor& one, const QColor& other) {
+    const double a = luminance(one);
+    const double b = luminance(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor readable(const QColor& color, const QColor& ground, const QColor& ink) {
+    constexpr double enough = 4.5;
+    constexpr int steps = 32;
+    for (int step = 0; step < steps; ++step) {
+        const QColor moved = mix(color, ink, static_cast<double>(step) / steps);
+        if (contrast(moved, ground) >= enough) return moved;
+    }
+    return ink;
 }
 
 }  // namespace zelk

@@ -40,4 +40,10 @@ QColor mix(const QColor& base, const QColor& other, double t);
 /// `color` at `opacity` (0 to 1) in place of its own.
 QColor withOpacity(const QColor& color, double opacity);
 
+/// The contrast of two opaque colours as the accessibility guidelines count it: 1 (none) to 21.
+double contrast(const QColor& one, const QColor& other);
+
+/// `color` moved towards `ink` by no more than it takes to be read as text on `ground`: a contrast of 4.5.
+QColor readable(const QColor& color, const QColor& ground, const QColor& ink);
+
 }  // namespace zelk

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "ui/components/Drawn.h"
+
+#include "ui/components/PainterCanvas.h"
+
+namespace zelk {
+
+Drawn::Drawn(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    setAntialiasing(true);
+}
+
+void Drawn::paint(QPainter* painter) {
+    PainterCanvas canvas(*painter);
+    draw(canvas);
+}
+
+}  // namespace zelk

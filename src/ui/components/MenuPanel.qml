@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// A menu of rows.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Theme
+
+T.Menu {
+    id: menu
+
+    implicitWidth: Math.max(160, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    padding: 5
+    margins: 8
+    overlap: 1
+
+    delegate: MenuRow {}
+
+    enter: Transition {
+        NumberAnimation {
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Motion.quick
+        }
+    }
+
+    background: Rectangle {
+        radius: 10
+        color: Theme.surfaceHi
+        border.width: 1
+        border.color: Theme.hairline
+    }
+
+    contentItem: ListView {
+        implicitWidth: contentItem.childrenRect.width
+        implicitHeight: contentHeight
+        model: menu.contentModel
+        interactive: Window.window ? contentHeight + menu.topPadding + menu.bottomPadding > Window.window.height : false
+        clip: true
+        currentIndex: menu.currentIndex
+
+        T.ScrollBar.vertical: ThinScrollBar {}
+    }
+}

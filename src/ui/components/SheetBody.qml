@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// The inside of a sheet: what it shows, scrolling where it is too high, and the keys that mean something everywhere.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+
+FocusScope {
+    id: page
+
+    required property string title
+    required property Item body
+    required property real bodyWidth
+    required property T.AbstractButton primary
+    // The scroll bar stands in the padding, not on the content.
+    required property real barMargin
+
+    signal escaped
+
+    focus: true
+    Accessible.role: Accessible.Dialog
+    Accessible.name: page.title
+
+    Keys.onEscapePressed: page.escaped()
+    Keys.onReturnPressed: event => page.press(event.isAutoRepeat)
+    Keys.onEnterPressed: event => page.press(event.isAutoRepeat)
+
+    function press(again: bool) {
+        if (!again && page.primary?.enabled)
+            page.primary.clicked();
+    }
+
+    ScrollArea {
+        anchors.fill: parent
+        anchors.rightMargin: page.barMargin
+        contentHeight: holder.height
+
+        Item {
+            id: holder
+
+            width: page.bodyWidth
+            height: Math.max(page.height, page.body?.implicitHeight ?? 0)
+        }
+    }
+
+    Binding {
+        target: page.body
+        property: "parent"
+        value: holder
+    }
+    Binding {
+        target: page.body
+        property: "width"
+        value: holder.width
+    }
+    Binding {
+        target: page.body
+        property: "height"
+        value: holder.height
+    }
+}

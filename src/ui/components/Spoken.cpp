@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#include "ui/components/Spoken.h"
+
+namespace zelk {
+
+QString Spoken::joined(QStringList texts) {
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(", "));
+}
+
+}  // namespace zelk

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+// A number with its name before it and a button at either side; the arrow keys step it too.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Symbols
+import Zelk.Theme
+
+T.SpinBox {
+    id: stepper
+
+    required property string label
+    property alias step: stepper.stepSize
+    // How the number is written, where it is more than a number.
+    property string valueText: stepper.displayText
+    property real size: 12
+
+    signal moved(int value)
+
+    readonly property StepperFace face: contentItem as StepperFace
+    readonly property int corner: 8
+    readonly property real buttonSide: Math.round(26 * TextScale.factor)
+    readonly property real boxWidth: 2 * stepper.buttonSide + Math.max(36 * TextScale.factor, (stepper.face?.numberWidth ?? 0) + 16)
+
+    implicitWidth: (stepper.face?.nameWidth ?? 0) + 12 + stepper.boxWidth
+    implicitHeight: Math.max(stepper.buttonSide + 4, implicitContentHeight)
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    opacity: stepper.enabled ? 1 : 0.45
+
+    Accessible.name: stepper.label
+    onValueModified: stepper.moved(stepper.value)
+
+    component StepFace: Item {
+        id: step
+
+        required property string symbol
+        required property bool down
+        required property bool hovered
+
+        // There is no further step.
+        opacity: step.enabled ? 1 : 0.35
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 2
+            radius: 6
+            color: step.down ? Theme.pressWash : step.hovered && step.enabled ? Theme.hoverWash : "transparent"
+        }
+
+        SymbolItem {
+            anchors.centerIn: parent
+            name: step.symbol
+            color: Theme.ink
+            size: Math.round(10 * TextScale.factor)
+        }
+    }
+
+    down.indicator: StepFace {
+        x: stepper.width - stepper.boxWidth
+        y: Math.round((stepper.height - height) / 2)
+        width: stepper.buttonSide
+        height: stepper.buttonSide
+        enabled: stepper.value > stepper.from
+        symbol: "minus"
+        down: stepper.down.pressed
+        hovered: stepper.down.hovered
+    }
+
+    up.indicator: StepFace {
+        x: stepper.width - width
+        y: Math.round((stepper.height - height) / 2)
+        width: stepper.buttonSide
+        height: stepper.buttonSide
+        enabled: stepper.value < stepper.to
+        symbol: "plus"
+        down: stepper.up.pressed
+        hovered: stepper.up.hovered
+    }
+
+    background: Item {
+        Rectangle {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            width: stepper.boxWidth
+            height: stepper.buttonSide
+            radius: stepper.corner
+            color: Theme.surfaceHi
+            border.width: 1
+            border.color: Theme.hairline
+
+            FocusRing {
+                shown: stepper.visualFocus
+                corner: stepper.corner
+            }
+        }
+    }
+
+    contentItem: StepperFace {
+        label: stepper.label
+        number: stepper.valueText
+        size: stepper.size
+        boxWidth: stepper.boxWidth
+    }
+}

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// A symbol on a rounded tile of its own colour.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Symbols
+
+Rectangle {
+    id: tile
+
+    required property string symbol
+    required property color tint
+    property real side: 34
+    property real symbolSize: 15
+    property real corner: 10
+
+    implicitWidth: tile.side
+    implicitHeight: tile.side
+    radius: tile.corner
+    color: Qt.alpha(tile.tint, 0.16)
+
+    SymbolItem {
+        anchors.centerIn: parent
+        name: tile.symbol
+        color: tile.tint
+        size: tile.symbolSize
+    }
+}

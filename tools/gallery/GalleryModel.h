@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QList>
+#include <QObject>
+
+#include "ui/components/DeviceFace.h"
+#include "ui/components/RibbonPicture.h"
+#include "ui/components/ScanFace.h"
+
+namespace zelk {
+
+/// What the components of the gallery show.
+class GalleryModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(zelk::DeviceFace device READ device CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments CONSTANT FINAL)
+    Q_PROPERTY(qint64 freeBytes READ freeBytes CONSTANT FINAL)
+    Q_PROPERTY(QList<qreal> history READ history CONSTANT FINAL)
+    Q_PROPERTY(zelk::ScanFace idleFace READ idleFace CONSTANT FINAL)
+    Q_PROPERTY(zelk::ScanFace scanningFace READ scanningFace CONSTANT FINAL)
+    Q_PROPERTY(zelk::ScanFace finishedFace READ finishedFace CONSTANT FINAL)
+
+public:
+    using QObject::QObject;
+
+    DeviceFace device() const;
+    QList<RibbonSegment> segments() const;
+    qint64 freeBytes() const { return 212'400'000'000; }
+    QList<qreal> history() const { return {3, 5, 4, 7, 7.5, 10, 9, 12, 15, 14.5, 17, 19, 18.5, 22}; }
+    ScanFace idleFace() const { return ScanFace::idle(); }
+    ScanFace scanningFace() const { return ScanFace::scanning(41'860'000'000); }
+    ScanFace finishedFace() const { return ScanFace::finished(41'860'000'000); }
+};
+
+}  // namespace zelk
