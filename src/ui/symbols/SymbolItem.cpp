@@ -45,8 +45,9 @@ private:
 };
 
 QImage drawTinted(const Tinting& tinting) {
+    if (tinting.name.isEmpty() || tinting.pixels < 1) return {};
     QSvgRenderer renderer(symbolFile(tinting.name));
-    if (!renderer.isValid() || tinting.pixels < 1) return {};
+    if (!renderer.isValid()) return {};
     QImage image(tinting.pixels, tinting.pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
