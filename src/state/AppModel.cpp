@@ -83,6 +83,16 @@ void AppModel::setVolume(std::optional<VolumeInfo> volume) {
     assign(volume_, volume, &AppModel::volumeChanged);
 }
 
+void AppModel::readAbsentVolume() {
+    if (volume_) return;
+    auto work = [this, sender = calls_.sender(), &vitals = platform_.vitals, home = home_] {
+        sender.post([this, volume = vitals.volume(home)] {
+            if (!volume_) setVolume(volume);
+        });
+    };
+    platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
+}
+
 std::string_view rawValue(AppModel::Audience audience) {
     return audience == AppModel::Audience::developer ? "Developer" : "Normal";
 }

@@ -79,8 +79,10 @@ public:
     const std::vector<Reclaimable>& reclaimables() const { return reclaimables_; }
     const ScanInsights& insights() const { return insights_; }
     const std::optional<VolumeInfo>& volume() const { return volume_; }
-    /// For a screen that finds no volume and reads one itself.
     void setVolume(std::optional<VolumeInfo> volume);
+    /// Reads that of the home folder where there is none yet, in a task: a volume that does not answer must not hold
+    /// the first frame.
+    void readAbsentVolume();
     const std::vector<SurveyRecord>& history() const { return history_; }
 
     // The Trash.
@@ -89,6 +91,8 @@ public:
     bool trashLoading() const { return trashLoading_; }
     bool emptyingTrash() const { return emptyingTrash_; }
 
+    /// The desktop around the application, for screens that show things in it.
+    Workspace& workspace() const { return platform_.workspace; }
     const std::string& home() const { return home_; }
     const DeviceInfo& device() const { return device_; }
 

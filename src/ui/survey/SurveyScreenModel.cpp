@@ -18,7 +18,8 @@ constexpr double recoverableDuration = 0.9;  // seconds
 
 }  // namespace
 
-SurveyScreenModel::SurveyScreenModel(AppModel& app, std::function<double()> now) : app_(app), now_(std::move(now)) {
+SurveyScreenModel::SurveyScreenModel(AppModel& app, std::function<double()> now)
+    : app_(app), findings_(app), trash_(app, app.workspace(), true), trends_(app), now_(std::move(now)) {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &SurveyScreenModel::tick);
     connect(&app, &AppModel::scanPhaseChanged, this, &SurveyScreenModel::enterPhase);
@@ -26,6 +27,7 @@ SurveyScreenModel::SurveyScreenModel(AppModel& app, std::function<double()> now)
     connect(&app, &AppModel::bytesScannedChanged, this, &SurveyScreenModel::aimBytes);
     connect(&app, &AppModel::currentPathChanged, this, &SurveyScreenModel::followPath);
     connect(&app, &AppModel::reclaimablesChanged, this, &SurveyScreenModel::aimRecoverable);
+    connect(&app, &AppModel::volumeChanged, this, &SurveyScreenModel::deviceChanged);
     enterPhase();
     aimItems();  // of a survey that is under way already
     aimBytes();
@@ -56,6 +58,23 @@ QString SurveyScreenModel::cancelLabel() const {
 }
 QString SurveyScreenModel::finishedLine() const {
     return QStringLiteral("Tap to scan again · details below");
+}
+
+DeviceFace SurveyScreenModel::device() const {
+    return DeviceFace::of(app_.device(), app_.volume());
+}
+
+void SurveyScreenModel::setDark(bool dark) {
+    if (dark == dark_) return;
+    dark_ = dark;
+    const ZelkTheme& theme = dark ? ZelkTheme::dark() : ZelkTheme::light();
+    findings_.setTheme(theme);
+    trends_.setTheme(theme);
+    emit darkChanged();
+}
+
+void SurveyScreenModel::appear() {
+    app_.readAbsentVolume();
 }
 
 void SurveyScreenModel::setCounting(bool counting) {

@@ -7,9 +7,13 @@
 #include <QTimer>
 #include <functional>
 
-#include "ui/components/ScanFace.h"
 #include "ui/components/CountingFigure.h"
+#include "ui/components/DeviceFace.h"
+#include "ui/components/ScanFace.h"
 #include "ui/survey/FeatureList.h"
+#include "ui/survey/FindingsModel.h"
+#include "ui/survey/TrashBannerModel.h"
+#include "ui/survey/TrendsModel.h"
 
 namespace zelk {
 
@@ -34,6 +38,11 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT FINAL)
     Q_PROPERTY(QString finishedLine READ finishedLine CONSTANT FINAL)
     Q_PROPERTY(zelk::FeatureList* features READ features CONSTANT FINAL)
+    Q_PROPERTY(zelk::DeviceFace device READ device NOTIFY deviceChanged FINAL)
+    Q_PROPERTY(zelk::FindingsModel* findings READ findings CONSTANT FINAL)
+    Q_PROPERTY(zelk::TrashBannerModel* trash READ trash CONSTANT FINAL)
+    Q_PROPERTY(zelk::TrendsModel* trends READ trends CONSTANT FINAL)
+    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
 
 public:
     /// `app` must outlive it. `now` is a steady clock in seconds, by which figures run.
@@ -55,6 +64,14 @@ public:
     QString cancelLabel() const;
     QString finishedLine() const;
     FeatureList* features() { return &features_; }
+    DeviceFace device() const;
+    FindingsModel* findings() { return &findings_; }
+    TrashBannerModel* trash() { return &trash_; }
+    TrendsModel* trends() { return &trends_; }
+
+    /// Which of the two themes the colours of its figures are chosen for.
+    bool dark() const { return dark_; }
+    void setDark(bool dark);
 
     /// Whether figures run to a new value or jump there, those that are on their way too. They run by default.
     void setCounting(bool counting);
@@ -65,11 +82,15 @@ public slots:
     void cancel();
     /// Goes to the module of a feature.
     void pressFeature(int row);
+    /// The screen is there: what it shows of the machine is read where nobody has yet.
+    void appear();
 
 signals:
     void phaseChanged();
     void figuresChanged();
     void buttonNameChanged();
+    void deviceChanged();
+    void darkChanged();
 
 private:
     void enterPhase();
@@ -86,6 +107,10 @@ private:
 
     AppModel& app_;
     FeatureList features_;
+    FindingsModel findings_;
+    TrashBannerModel trash_;
+    TrendsModel trends_;
+    bool dark_ = true;
     std::function<double()> now_;
     QTimer timer_;
     bool counting_ = true;

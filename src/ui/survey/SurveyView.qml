@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The home screen: the hero in the middle of the room that there is, scrolling where there is too little of it.
+// The home screen: the machine, the hero in the middle of the room that there is and, once a survey has ended, what it
+// found. It scrolls where there is too little room.
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.Components
 import Zelk.Survey
 import Zelk.Theme
 
@@ -10,6 +12,22 @@ FocusScope {
     id: view
 
     required property SurveyScreenModel survey
+
+    Component.onCompleted: view.survey.appear()
+
+    Binding {
+        target: view.survey
+        property: "dark"
+        value: Theme.isDark
+    }
+
+    Connections {
+        target: view.survey
+        function onPhaseChanged() {
+            if (view.survey.scanning)
+                scroll.contentY = 0;
+        }
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -25,25 +43,61 @@ FocusScope {
         }
     }
 
-    Flickable {
+    ScrollArea {
         id: scroll
 
         readonly property int paddingAcross: 26
         readonly property int paddingDown: 28
 
+        objectName: "surveyScroll"
         anchors.fill: parent
-        contentWidth: width
-        contentHeight: Math.max(height, hero.implicitHeight + 2 * paddingDown)
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
+        contentHeight: page.height
+        focus: true
 
-        SurveyHero {
-            id: hero
+        Item {
+            id: page
 
-            anchors.centerIn: parent
-            width: scroll.width - 2 * scroll.paddingAcross
-            survey: view.survey
-            focus: true
+            readonly property real heroTop: device.y + device.height + 12
+            readonly property real heroRoom: scroll.height - scroll.paddingDown - page.heroTop
+            readonly property real used: findings.visible ? findings.y + findings.implicitHeight : hero.y + hero.implicitHeight
+
+            width: scroll.width
+            height: Math.max(scroll.height, page.used + scroll.paddingDown)
+
+            DeviceHeader {
+                id: device
+
+                x: scroll.paddingAcross
+                y: scroll.paddingDown
+                width: page.width - 2 * scroll.paddingAcross
+                device: view.survey.device
+            }
+
+            SurveyHero {
+                id: hero
+
+                x: scroll.paddingAcross
+                y: page.heroTop + (view.survey.finished ? 0 : Math.max(0, (page.heroRoom - hero.implicitHeight) / 2))
+                width: page.width - 2 * scroll.paddingAcross
+                survey: view.survey
+                focus: true
+
+                Behavior on y {
+                    NumberAnimation {
+                        duration: Motion.gentle
+                        easing.type: Easing.OutCubic
+                    }
+                }
+            }
+
+            FindingsBlock {
+                id: findings
+
+                x: scroll.paddingAcross
+                y: page.heroTop + hero.implicitHeight + 22
+                width: page.width - 2 * scroll.paddingAcross
+                survey: view.survey
+            }
         }
     }
 

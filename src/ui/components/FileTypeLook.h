@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+#include "scan/FileType.h"
+#include "ui/theme/ZelkTheme.h"
+
+namespace zelk {
+
+/// How a type of files presents itself. Only the colour of what is of no other type follows the theme.
+struct FileTypeLook {
+    QString name;
+    QColor color;
+    QString symbol;
+};
+
+FileTypeLook lookOf(FileType type, const ZelkTheme& theme);
+
+}  // namespace zelk

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "ui/survey/ChangesModel.h"
+
+#include <algorithm>
+
+#include "ui/text/DisplayText.h"
+
+namespace zelk {
+
+void ChangesModel::show(const FolderChanges& changes) {
+    beginResetModel();
+    rows_.clear();
+    add(Kind::grew, changes.grew);
+    add(Kind::appeared, changes.appeared);
+    add(Kind::gone, changes.gone);
+    endResetModel();
+    emit emptyChanged();
+}
+
+void ChangesModel::add(Kind kind, const std::vector<FolderChange>& changes) {
+    for (const FolderChange& change : changes) rows_.push_back({kind, change});
+}
+
+void ChangesModel::setTheme(const ZelkTheme& theme) {
+    theme_ = &theme;
+    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tintRole});
+}
+
+QString ChangesModel::title() const {
+    return QStringLiteral("What changed");
+}
+QString ChangesModel::subtitle() const {
+    return QStringLiteral("since your previous survey");
+}
+QString ChangesModel::doneLabel() const {
+    return QStringLiteral("Done");
+}
+QString ChangesModel::emptyLine() const {
+    return QStringLiteral("No notable folder changes since the last survey.");
+}
+
+QString ChangesModel::heading(Kind kind) const {
+    static const QString names[] = {QStringLiteral("Grew"), QStringLiteral("Appeared"), QStringLiteral("Vanished")};
+    const auto count = std::count_if(rows_.begin(), rows_.end(), [kind](const Row& row) { return row.kind == kind; });
+    return QStringLiteral("%1 (%2)").arg(names[static_cast<int>(kind)]).arg(count);
+}
+
+QColor ChangesModel::color(Kind kind) const {
+    switch (kind) {
+        case Kind::grew:
+            return {62, 155, 255};
+        case Kind::appeared:
+            return {50, 199, 123};
+        case Kind::gone:
+            return theme_->inkSoft;
+    }
+    return {};
+}
+
+QColor ChangesModel::sectionColor(const QString& heading) const {
+    for (const Kind kind : {Kind::grew, Kind::appeared, Kind::gone})
+        if (this->heading(kind) == heading) return color(kind);
+    return theme_->inkSoft;
+}
+
+QString ChangesModel::sizeText(const Row& row) {
+    const FolderChange& change = row.change;
+    switch (row.kind) {
+        case Kind::grew:
+            return QStringLiteral("%1  +%2").arg(byteFigure(change.newSize),
+                                                 byteFigure(change.newSize - change.oldSize));
+        case Kind::appeared:
+            return byteFigure(change.newSize);
+        case Kind::gone:
+            return byteFigure(change.oldSize);
+    }
+    return {};
+}
+
+int ChangesModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant ChangesModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    const std::string_view path = row.change.path;
+    switch (role) {
+        case sectionRole:
+            return heading(row.kind);
+        case tintRole:
+            return color(row.kind);
+        case Qt::DisplayRole:
+        case nameRole:
+            return displayText(path.substr(path.rfind('/') + 1));
+        case pathRole:
+            return displayText(path);
+        case sizeRole:
+            return sizeText(row);
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> ChangesModel::roleNames() const {
+    return {{sectionRole, "section"}, {tintRole, "tint"}, {nameRole, "name"}, {pathRole, "path"}, {sizeRole, "size"}};
+}
+
+}  // namespace zelk

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
+#include <QColor>
+#include <QString>
+#include <vector>
+
+#include "state/SurveyRecord.h"
+#include "ui/theme/ZelkTheme.h"
+
+namespace zelk {
+
+/// The folders that grew, appeared or went between the last two surveys, in three sections of which an empty one is not
+/// there. Main thread.
+class ChangesModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of TrendsModel")
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(QString subtitle READ subtitle CONSTANT FINAL)
+    Q_PROPERTY(QString doneLabel READ doneLabel CONSTANT FINAL)
+    Q_PROPERTY(QString emptyLine READ emptyLine CONSTANT FINAL)
+    Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
+
+public:
+    /// Every row names the heading of its section.
+    enum Role { sectionRole = Qt::UserRole, tintRole, nameRole, pathRole, sizeRole };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    void show(const FolderChanges& changes);
+    void setTheme(const ZelkTheme& theme);
+
+    QString title() const;
+    QString subtitle() const;
+    QString doneLabel() const;
+    QString emptyLine() const;
+    bool empty() const { return rows_.empty(); }
+    /// The colour of the section with this heading.
+    Q_INVOKABLE QColor sectionColor(const QString& heading) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+signals:
+    void emptyChanged();
+
+private:
+    enum class Kind { grew, appeared, gone };
+    struct Row {
+        Kind kind;
+        FolderChange change;
+    };
+
+    void add(Kind kind, const std::vector<FolderChange>& changes);
+    QString heading(Kind kind) const;
+    QColor color(Kind kind) const;
+    static QString sizeText(const Row& row);
+
+    std::vector<Row> rows_;
+    const ZelkTheme* theme_ = &ZelkTheme::dark();
+};
+
+}  // namespace zelk

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// All that a finished survey found. It goes at once when another survey begins, so that nothing stale can be pressed,
+// and fades in when it has ended.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Survey
+import Zelk.Theme
+
+Column {
+    id: block
+
+    required property SurveyScreenModel survey
+
+    objectName: "findings"
+    spacing: 22
+    visible: block.survey.finished
+    opacity: block.survey.finished ? 1 : 0
+
+    Behavior on opacity {
+        enabled: block.survey.finished
+        NumberAnimation {
+            duration: Motion.gentle
+            easing.type: Easing.OutCubic
+        }
+    }
+
+    Headline {
+        width: parent.width
+        findings: block.survey.findings
+    }
+
+    Eyebrow {
+        text: block.survey.findings.heading
+        Accessible.role: Accessible.Heading
+    }
+
+    StorageCard {
+        width: parent.width
+        findings: block.survey.findings
+        trash: block.survey.trash
+    }
+
+    CardGrid {
+        width: parent.width
+        cards: block.survey.findings.cards
+    }
+
+    LargestCard {
+        width: parent.width
+        visible: block.survey.findings.hasLargest
+        findings: block.survey.findings
+    }
+
+    TrendsCard {
+        width: parent.width
+        visible: block.survey.trends.shown
+        trends: block.survey.trends
+    }
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include "ui/components/RibbonPicture.h"
+#include "ui/survey/FindingCards.h"
+#include "ui/survey/LargestFiles.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// What a finished survey says at once: how much could be taken back, what the bytes are, what to look at next. While
+/// another survey runs it keeps what it said. Main thread.
+class FindingsModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of SurveyScreenModel")
+    Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
+    Q_PROPERTY(QString figure READ figure NOTIFY changed FINAL)
+    Q_PROPERTY(QString line READ line NOTIFY changed FINAL)
+    Q_PROPERTY(bool reviewable READ reviewable NOTIFY changed FINAL)
+    Q_PROPERTY(QString reviewLabel READ reviewLabel CONSTANT FINAL)
+    Q_PROPERTY(QString heading READ heading CONSTANT FINAL)
+    Q_PROPERTY(QString storageHeading READ storageHeading CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments NOTIFY changed FINAL)
+    Q_PROPERTY(qint64 freeBytes READ freeBytes NOTIFY changed FINAL)
+    Q_PROPERTY(QString largestHeading READ largestHeading CONSTANT FINAL)
+    Q_PROPERTY(QString seeAllLabel READ seeAllLabel CONSTANT FINAL)
+    Q_PROPERTY(bool hasLargest READ hasLargest NOTIFY changed FINAL)
+    Q_PROPERTY(zelk::FindingCards* cards READ cards CONSTANT FINAL)
+    Q_PROPERTY(zelk::LargestFiles* largest READ largest CONSTANT FINAL)
+
+public:
+    /// `app` must outlive it.
+    explicit FindingsModel(AppModel& app, QObject* parent = nullptr);
+
+    void setTheme(const ZelkTheme& theme);
+
+    const QString& title() const { return title_; }
+    /// The big figure; empty where there is nothing to take back.
+    const QString& figure() const { return figure_; }
+    const QString& line() const { return line_; }
+    /// Whether there is anything to review.
+    bool reviewable() const { return reviewable_; }
+    QString reviewLabel() const;
+    QString heading() const;
+    QString storageHeading() const;
+    /// By type, the largest first.
+    const QList<RibbonSegment>& segments() const { return segments_; }
+    qint64 freeBytes() const { return freeBytes_; }
+    QString largestHeading() const;
+    QString seeAllLabel() const;
+    bool hasLargest() const { return largest_.rowCount() > 0; }
+    FindingCards* cards() { return &cards_; }
+    LargestFiles* largest() { return &largest_; }
+
+public slots:
+    void review();
+    void seeAll();
+
+signals:
+    void changed();
+
+private:
+    void refresh();
+    void headline();
+    QList<RibbonSegment> readSegments() const;
+
+    AppModel& app_;
+    const ZelkTheme* theme_ = &ZelkTheme::dark();
+    FindingCards cards_;
+    LargestFiles largest_;
+    QString title_;
+    QString figure_;
+    QString line_;
+    bool reviewable_ = false;
+    QList<RibbonSegment> segments_;
+    qint64 freeBytes_ = 0;
+};
+
+}  // namespace zelk

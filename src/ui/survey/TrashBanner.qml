@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// The Trash in one row.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Survey
+import Zelk.Theme
+
+Item {
+    id: banner
+
+    required property TrashBannerModel trash
+
+    implicitHeight: Math.max(tile.height, words.implicitHeight, button.implicitHeight)
+    visible: banner.trash.shown
+
+    // Whenever it comes on screen what it tells is read anew.
+    onVisibleChanged: {
+        if (visible)
+            banner.trash.appear();
+    }
+
+    Tile {
+        id: tile
+
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: "trash.fill"
+        tint: Theme.inkSoft
+    }
+
+    Column {
+        id: words
+
+        anchors.left: tile.right
+        anchors.leftMargin: 12
+        anchors.right: right.left
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Words {
+            width: parent.width
+            text: banner.trash.title
+            size: 13
+            font.weight: Font.DemiBold
+        }
+
+        Words {
+            width: parent.width
+            text: banner.trash.subtitle
+            size: 11
+            soft: true
+        }
+    }
+
+    Row {
+        id: right
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 14
+
+        Spinner {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: banner.trash.busy
+            side: 16
+        }
+
+        CountingText {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
+            text: banner.trash.figure
+            bold: true
+        }
+
+        SecondaryButton {
+            id: button
+
+            objectName: "trashButton"
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
+            text: banner.trash.action
+            onClicked: banner.trash.act()
+        }
+    }
+}

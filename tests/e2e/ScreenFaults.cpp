@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "ScreenFaults.h"
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <cmath>
+
+namespace zelk {
+
+namespace {
+
+// A name as long as this is one that any width may have to shorten.
+constexpr qsizetype longName = 30;
+// Fonts round: what is no more than this is nobody's fault.
+constexpr qreal tolerance = 1.5;
+// Fainter than this is a face on its way out, or not there yet.
+constexpr qreal faint = 0.2;
+
+struct ShownItem {
+    QQuickItem* item;
+    qreal opacity;  ///< of it and all that holds it
+    bool focusable;
+};
+
+void collect(QQuickItem& item, qreal opacity, std::vector<ShownItem>& found) {
+    if (!item.isVisible()) return;
+    const qreal own = opacity * item.opacity();
+    if (own < faint) return;
+    found.push_back({&item, own, item.activeFocusOnTab() && item.isEnabled()});
+    for (QQuickItem* child : item.childItems()) collect(*child, own, found);
+}
+
+std::vector<ShownItem> shownItems(QQuickWindow& window) {
+    std::vector<ShownItem> found;
+    collect(*window.contentItem(), 1, found);
+    return found;
+}
+
+bool isText(const QQuickItem& item) {
+    return item.inherits("QQuickText") || item.inherits("zelk::FigureText");
+}
+
+QString textOf(const QQuickItem& item) {
+    return item.property("text").toString();
+}
+
+/// Where the ink of a text is, in the window.
+QRectF inkOf(const QQuickItem& item) {
+    QRectF ink = item.boundingRect();
+    if (item.inherits("QQuickText")) {
+        const qreal width = item.property("contentWidth").toReal();
+        const qreal height = item.property("contentHeight").toReal();
+        const int across = item.property("effectiveHorizontalAlignment").toInt();
+        const int down = item.property("verticalAlignment").toInt();
+        const qreal left = across & Qt::AlignRight     ? item.width() - width
+                           : across & Qt::AlignHCenter ? (item.width() - width) / 2
+                                                       : 0;
+        const qreal top = down & Qt::AlignBottom    ? item.height() - height
+                          : down & Qt::AlignVCenter ? (item.height() - height) / 2
+                                                    : item.property("topPadding").toReal();
+        ink = QRectF(left, top, width, height);
+    }
+    return item.mapRectToScene(ink);
+}
+
+std::string say(const QRectF& rect) {
+    const auto number = [](qreal value) { return std::to_string(std::lround(value)); };
+    return "(" + number(rect.x()) + ", " + number(rect.y()) + ", " + number(rect.width()) + " x " +
+           number(rect.height()) + ")";
+}
+
+bool holds(const QRectF& outer, const QRectF& inner, bool across, bool down) {
+    const bool fitsAcross = inner.left() >= outer.left() - tolerance && inner.right() <= outer.right() + tolerance;
+    const bool fitsDown = inner.top() >= outer.top() - tolerance && inner.bottom() <= outer.bottom() + tolerance;
+    return (!across || fitsAcross) && (!down || fitsDown);
+}
+
+/// What is scrolled out of sight is no fault, so a text must fit into what scrolls it only where it cannot scroll.
+std::string sticksOut(const QQuickItem& text, const QRectF& ink) {
+    for (const QQuickItem* above = text.parentItem(); above != nullptr; above = above->parentItem()) {
+        const bool control = above->inherits("QQuickAbstractButton");
+        const bool scrolls = above->inherits("QQuickFlickable");
+        if (!control && !scrolls && !above->clip()) continue;
+        bool across = true;
+        bool down = true;
+        if (scrolls) {
+            across = above->property("contentWidth").toReal() <= above->width() + tolerance;
+            down = above->property("contentHeight").toReal() <= above->height() + tolerance;
+        }
+        const QRectF frame = above->mapRectToScene(above->boundingRect());
+        if (!holds(frame, ink, across, down)) return std::string(above->metaObject()->className()) + " " + say(frame);
+        if (scrolls) return {};  // beyond it everything depends on where it is scrolled to
+    }
+    return {};
+}
+
+/// The part of a rectangle that can be seen through all that clips it.
+QRectF visiblePart(const QQuickItem& item, QRectF rect) {
+    for (const QQuickItem* above = item.parentItem(); above != nullptr; above = above->parentItem())
+        if (above->clip()) rect &= above->mapRectToScene(above->boundingRect());
+    return rect;
+}
+
+/// A sheet covers what is below it on purpose.
+const QQuickItem* popupOf(const QQuickItem& item) {
+    for (const QQuickItem* above = &item; above != nullptr; above = above->parentItem())
+        if (above->inherits("QQuickPopupItem")) return above;
+    return nullptr;
+}
+
+}  // namespace
+
+std::vector<std::string> layoutFaults(QQuickWindow& window) {
+    struct Placed {
+        QString text;
+        QRectF ink;
+        const QQuickItem* popup;
+    };
+    std::vector<std::string> faults;
+    std::vector<Placed> placed;
+    const QRectF whole = window.contentItem()->boundingRect();
+    for (const ShownItem& shown : shownItems(window)) {
+        const QQuickItem& item = *shown.item;
+        const QString text = isText(item) ? textOf(item) : QString();
+        if (text.isEmpty() || item.width() <= 0) continue;
+        const QRectF ink = inkOf(item);
+        if (item.property("truncated").toBool() && text.size() < longName)
+            faults.push_back("\"" + text.toStdString() + "\" is cut short at " + say(ink));
+        if (const std::string frame = sticksOut(item, ink); !frame.empty())
+            faults.push_back("\"" + text.toStdString() + "\" " + say(ink) + " sticks out of " + frame);
+        const QRectF seen = visiblePart(item, ink).intersected(whole);
+        if (!seen.isEmpty()) placed.push_back({text, seen, popupOf(item)});
+    }
+    for (std::size_t one = 0; one < placed.size(); ++one)
+        for (std::size_t other = one + 1; other < placed.size(); ++other) {
+            if (placed[one].popup != placed[other].popup) continue;
+            const QRectF both = placed[one].ink & placed[other].ink;
+            if (both.width() > tolerance && both.height() > 2 * tolerance)
+                faults.push_back("\"" + placed[one].text.toStdString() + "\" and \"" +
+                                 placed[other].text.toStdString() + "\" lie on each other at " + say(both));
+        }
+    return faults;
+}
+
+std::vector<std::string> accessibilityFaults(QQuickWindow& window) {
+    std::vector<std::string> faults;
+    for (const ShownItem& shown : shownItems(window)) {
+        if (!shown.focusable) continue;
+        QAccessibleInterface* control = QAccessible::queryAccessibleInterface(shown.item);
+        const std::string place = std::string(shown.item->metaObject()->className()) + " " +
+                                  say(shown.item->mapRectToScene(shown.item->boundingRect()));
+        if (control == nullptr) {
+            faults.push_back(place + " is nothing to a screen reader");
+            continue;
+        }
+        if (control->text(QAccessible::Name).isEmpty()) faults.push_back(place + " has no name");
+        if (control->role() == QAccessible::NoRole || control->role() == QAccessible::Client)
+            faults.push_back(place + " has no role");
+        if (shown.item->width() < 1 || shown.item->height() < 1) faults.push_back(place + " has no size");
+    }
+    return faults;
+}
+
+std::vector<std::string> focusableNames(QQuickWindow& window) {
+    std::vector<std::string> names;
+    for (const ShownItem& shown : shownItems(window)) {
+        if (!shown.focusable) continue;
+        QAccessibleInterface* control = QAccessible::queryAccessibleInterface(shown.item);
+        names.push_back(control == nullptr ? std::string() : control->text(QAccessible::Name).toStdString());
+    }
+    return names;
+}
+
+}  // namespace zelk

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// What is wrong with a screen and can be seen without eyes: looked for in the scene of a real window, whatever screen
+// it shows.
+#pragma once
+
+#include <QQuickWindow>
+#include <string>
+#include <vector>
+
+namespace zelk {
+
+/// Texts that are cut short though they are no long names, that stick out of the control that they stand on or out of
+/// what clips them, and texts that lie on each other. One line per fault.
+std::vector<std::string> layoutFaults(QQuickWindow& window);
+
+/// Controls that the keyboard can come to and that have no name, no role or no size. One line per fault.
+std::vector<std::string> accessibilityFaults(QQuickWindow& window);
+
+/// The names of the controls that the keyboard can come to, in no order.
+std::vector<std::string> focusableNames(QQuickWindow& window);
+
+}  // namespace zelk
