@@ -11,22 +11,28 @@
 //   system/      holds its place: what the machine knows that a scan cannot see will stand here
 //   state/       AppModel is the one state that every screen shows; SurveyHistory is the one file that Zelk writes
 //   ui/text/     bytes into what a person reads
-//   ui/theme/    ZelkTheme's two instances; Theme and Motion hand them to QML
+//   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand the desktop's wishes to QML
 //   ui/symbols/  the symbols, one SVG each, and SymbolItem, which tints them
 //   ui/components/  the base controls; ScanButton and the Canvas on which it is drawn
+//   ui/navigation/  Sidebar and its model; ModuleScaffold, the three faces of every module that looks for something
 //   ui/survey/   the home screen: SurveyScreenModel says everything, SurveyView places it
-//   ui/shell/    MainWindow: the engine, the window and its models
-//   app/         this file: makes the platform, the model and the window, and nothing else
+//   ui/tools/, ui/settings/, ui/help/, ui/welcome/  the screens of fixed texts, and the first run
+//   ui/shell/    Shell: the main window and those beside it, the menus (AppCommands), the status item (StatusMenu)
+//   app/         this file: makes the platform, the model and the shell, and nothing else
 //
 // Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures.
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <cstdlib>
 
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
+#include "state/SettingsPreferences.h"
+#include "system/AccessProbe.h"
 #include "ui/shell/Application.h"
-#include "ui/shell/MainWindow.h"
+#include "ui/shell/FolderPicker.h"
+#include "ui/shell/NativeApplication.h"
+#include "ui/shell/Shell.h"
 
 namespace {
 
@@ -36,16 +42,26 @@ constexpr double drainSeconds = 1.5;
 }  // namespace
 
 int main(int argc, char** argv) {
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
     zelk::dressApplication();
+    zelk::refuseWindowTabs();
     zelk::NativePlatform native;
+    zelk::SettingsPreferences preferences;
 
     int status = 0;
     {
-        zelk::AppModel model(native.platform());
-        zelk::MainWindow window(model);
-        window.show();
-        status = QGuiApplication::exec();
+        const zelk::Platform& platform = native.platform();
+        zelk::AppModel model(platform);
+        zelk::WindowServices services;
+        services.preferences = &preferences;
+        services.workspace = &platform.workspace;
+        services.accessGranted = [&] { return zelk::hasFullDiskAccess(platform.files, model.home()); };
+        services.pickFolder = zelk::pickFolder;
+        services.quit = &QCoreApplication::quit;
+        services.bundle = zelk::applicationBundle();
+        zelk::Shell shell(model, services);
+        shell.start();
+        status = QApplication::exec();
     }
 
     // A thread that hangs on a dead network volume still holds the services: leave them to it.

@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <QAccessible>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QLocale>
 #include <QStringList>
 
@@ -42,7 +42,7 @@ private:
 inline int runWindowTests(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     dressApplication();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QAccessible::setActive(true);

@@ -150,6 +150,8 @@ TEST(HelpModel, saysEveryTopicToTheLetter) {
         const Topic& expected = topics()[static_cast<std::size_t>(row)];
         help.select(row);
         EXPECT_EQ(help.title().toStdString(), expected.title);
+        EXPECT_EQ(help.symbol().toStdString(), expected.symbol);
+        EXPECT_EQ(help.tint(), expected.tint);
         EXPECT_EQ(help.lead().toStdString(), expected.lead);
         EXPECT_EQ(bytes(help.paragraphs()), expected.paragraphs);
     }

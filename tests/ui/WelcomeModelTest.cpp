@@ -152,6 +152,23 @@ TEST(WelcomeModel, skipEndsItFromAnyPage) {
     EXPECT_EQ(finished.count(), 2);
 }
 
+TEST(WelcomeModel, turnsOnASpringThatRespondsInHalfASecondWithoutOvershoot) {
+    const WelcomeModel welcome;
+    const QEasingCurve course = welcome.turnEasing();
+    // One turn of a critically damped spring: 1 - (1 + 2 pi t / 0.5) exp(-2 pi t / 0.5), t in seconds.
+    const auto at = [&](double seconds) { return course.valueForProgress(seconds * 1'000 / welcome.turnTime()); };
+    EXPECT_NEAR(at(0.05), 0.1313, 0.001);
+    EXPECT_NEAR(at(0.1), 0.3577, 0.001);
+    EXPECT_NEAR(at(0.25), 0.8210, 0.001);
+    EXPECT_NEAR(at(0.5), 0.9864, 0.001);
+    double before = 0;
+    for (int step = 0; step <= 100; ++step) {
+        EXPECT_GE(course.valueForProgress(step / 100.0), before);
+        before = course.valueForProgress(step / 100.0);
+    }
+    EXPECT_EQ(before, 1);
+}
+
 TEST(WelcomeModel, hasNothingOutsideItsRowsAndRoles) {
     const WelcomeModel welcome;
     EXPECT_FALSE(welcome.data(welcome.index(4), WelcomeModel::titleRole).isValid());

@@ -3,9 +3,9 @@
 // buttons, and leaves one picture per phase and theme in DIR. Fails if a phase was missed. The user's own history is
 // left alone: that of the tour goes to a folder that is thrown away.
 
+#include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
@@ -28,7 +28,7 @@ QSize sizeFrom(const QString& text) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
     zelk::dressApplication();
 
     QCommandLineParser options;

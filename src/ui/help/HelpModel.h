@@ -3,6 +3,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
+#include <QColor>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -17,6 +18,8 @@ class HelpModel : public QAbstractListModel {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the shell")
     Q_PROPERTY(int current READ current NOTIFY currentChanged FINAL)
+    Q_PROPERTY(QString symbol READ symbol NOTIFY currentChanged FINAL)
+    Q_PROPERTY(QColor tint READ tint NOTIFY currentChanged FINAL)
     Q_PROPERTY(QString title READ title NOTIFY currentChanged FINAL)
     Q_PROPERTY(QString lead READ lead NOTIFY currentChanged FINAL)
     Q_PROPERTY(QStringList paragraphs READ paragraphs NOTIFY currentChanged FINAL)
@@ -32,6 +35,8 @@ public:
 
     /// The row of the topic that is shown: the chosen one, else the first.
     int current() const { return selection_.value_or(0); }
+    QString symbol() const { return topic().symbol(); }
+    QColor tint() const { return topic().color(); }
     QString title() const { return topic().title; }
     QString lead() const { return topic().lead; }
     QStringList paragraphs() const { return topic().paragraphs; }

@@ -3,10 +3,10 @@
 
 #include <QFont>
 #include <QGuiApplication>
-#include <QLinearGradient>
 #include <QPainter>
 #include <QPixmap>
 
+#include "ui/navigation/HouseTile.h"
 #include "ui/symbols/SymbolItem.h"
 #include "ui/theme/ZelkTheme.h"
 
@@ -14,7 +14,13 @@
 void qml_register_types_Zelk_Theme();
 void qml_register_types_Zelk_Symbols();
 void qml_register_types_Zelk_Components();
+void qml_register_types_Zelk_Navigation();
 void qml_register_types_Zelk_Survey();
+void qml_register_types_Zelk_Tools();
+void qml_register_types_Zelk_Settings();
+void qml_register_types_Zelk_Help();
+void qml_register_types_Zelk_Welcome();
+void qml_register_types_Zelk_Shell();
 
 namespace zelk {
 
@@ -33,14 +39,7 @@ QIcon applicationIcon() {
         QPixmap pixmap(side, side);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        QLinearGradient gradient(0, 0, side, side);
-        gradient.setColorAt(0, AccentGradient::from());
-        gradient.setColorAt(1, AccentGradient::to());
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(gradient);
-        const double corner = side * 0.24;
-        painter.drawRoundedRect(QRectF(0, 0, side, side), corner, corner);
+        paintHouseTile(painter, side);
         const int drawn = side * 5 / 8;
         painter.drawImage(QPointF(side - drawn, side - drawn) / 2,
                           tintedSymbol(QStringLiteral("internaldrive"), AccentGradient::ink(), drawn));
@@ -50,11 +49,26 @@ QIcon applicationIcon() {
     return icon;
 }
 
+QIcon statusIcon() {
+    // Light enough for a dark panel and dark enough for a light one; the system tints it where it can.
+    QIcon icon;
+    for (const int side : {22, 44})
+        icon.addPixmap(QPixmap::fromImage(tintedSymbol(QStringLiteral("internaldrive"), QColor(152, 146, 168), side)));
+    icon.setIsMask(true);
+    return icon;
+}
+
 void registerInterface() {
     qml_register_types_Zelk_Theme();
     qml_register_types_Zelk_Symbols();
     qml_register_types_Zelk_Components();
+    qml_register_types_Zelk_Navigation();
     qml_register_types_Zelk_Survey();
+    qml_register_types_Zelk_Tools();
+    qml_register_types_Zelk_Settings();
+    qml_register_types_Zelk_Help();
+    qml_register_types_Zelk_Welcome();
+    qml_register_types_Zelk_Shell();
 }
 
 }  // namespace zelk

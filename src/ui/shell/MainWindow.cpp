@@ -1,13 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/MainWindow.h"
 
-#include <QQmlComponent>
-#include <QVariantMap>
+#include <QGuiApplication>
+#include <utility>
 
+#include "state/AppModel.h"
+#include "ui/help/HelpModel.h"
+#include "ui/navigation/ModuleScreenModel.h"
+#include "ui/navigation/SidebarModel.h"
+#include "ui/navigation/UnbuiltModules.h"
+#include "ui/settings/SettingsScreenModel.h"
+#include "ui/shell/AboutModel.h"
+#include "ui/shell/AppCommands.h"
 #include "ui/shell/Application.h"
+#include "ui/shell/DetailPages.h"
+#include "ui/shell/RootModel.h"
 #include "ui/survey/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/Theme.h"
+#include "ui/tools/ToolsScreenModel.h"
+#include "ui/welcome/FirstRunModel.h"
 
 namespace zelk {
 
@@ -20,9 +32,29 @@ T* singleton(QQmlEngine& engine, const char* uri, const char* name) {
     return instance;
 }
 
+/// The model where a view has its name for it.
+template <class T>
+QVariantMap as(const char* name, T* model) {
+    return {{QString::fromLatin1(name), QVariant::fromValue(model)}};
+}
+
+template <class T, class... Arguments>
+T& madeOnce(std::unique_ptr<T>& model, Arguments&&... arguments) {
+    if (!model) model = std::make_unique<T>(std::forward<Arguments>(arguments)...);
+    return *model;
+}
+
+QUrl view(const char* path) {
+    return QUrl(QStringLiteral("qrc:/Zelk/%1.qml").arg(QLatin1String(path)));
+}
+
 }  // namespace
 
-MainWindow::MainWindow(AppModel& app) : survey_(std::make_unique<SurveyScreenModel>(app)) {
+MainWindow::MainWindow(AppModel& app, WindowServices services)
+    : app_(app),
+      services_(std::move(services)),
+      survey_(std::make_unique<SurveyScreenModel>(app)),
+      sidebar_(std::make_unique<SidebarModel>(app)) {
     registerInterface();
     engine_.addImportPath(QStringLiteral("qrc:/"));
 
@@ -33,14 +65,74 @@ MainWindow::MainWindow(AppModel& app) : survey_(std::make_unique<SurveyScreenMod
     QObject::connect(motion_, &Motion::changed, survey_.get(), followMotion);
     followMotion();
 
-    QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/Zelk/Shell/MainWindow.qml")));
-    if (!component.isReady()) qFatal("%s", qPrintable(component.errorString()));
-    const QVariantMap given{{QStringLiteral("survey"), QVariant::fromValue(survey_.get())}};
-    window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(given)));
-    if (!window_) qFatal("the main window is no window: %s", qPrintable(component.errorString()));
-    window_->setIcon(applicationIcon());
+    secondary_ = std::make_unique<SecondaryWindows>(engine_, [this](WindowId id) { return givenTo(id); });
+    commands_ = std::make_unique<AppCommands>(
+        app, [this](WindowId id) { secondary_->open(id); }, services_.quit,
+        [this] { return window_ && isCovered(*window_); });
+    pages_ = std::make_unique<DetailPages>(app, makePages());
+    if (services_.preferences != nullptr && services_.workspace != nullptr)
+        firstRun_ =
+            std::make_unique<FirstRunModel>(*services_.preferences, services_.accessGranted, *services_.workspace);
+    root_ = std::make_unique<RootModel>(*sidebar_, *pages_, *commands_, firstRun_.get());
+    window_ = makeWindow(engine_, QStringLiteral("MainWindow"), as("root", root_.get()));
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::show() {
+    window_->show();
+    if (firstRun_ && !std::exchange(begun_, true)) firstRun_->start();
+}
+
+int MainWindow::bringAllForward() {
+    int brought = 0;
+    const auto bring = [&](QQuickWindow* window) {
+        if (window == nullptr || !window->isVisible()) return;
+        bringForward(*window);
+        ++brought;
+    };
+    for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) bring(secondary_->find(id));
+    bring(window_.get());
+    return brought;
+}
+
+std::vector<DetailPages::Page> MainWindow::makePages() {
+    std::vector<DetailPages::Page> pages;
+    for (const Screen screen : allScreens) {
+        switch (screen) {
+            case Screen::survey:
+                pages.push_back({view("Survey/SurveyView"), [this] { return as("survey", survey_.get()); }});
+                break;
+            case Screen::tools:
+                pages.push_back({view("Tools/ToolsView"), [this] { return as("tools", &madeOnce(tools_, app_)); }});
+                break;
+            case Screen::settings:
+                pages.push_back({view("Settings/SettingsView"), [this] { return as("settings", &settings()); }});
+                break;
+            default:
+                pages.push_back({view("Navigation/ModuleView"), [this, screen] {
+                                     modules_.push_back(makeUnbuiltModule(app_, screen));
+                                     return as("module", modules_.back().get());
+                                 }});
+        }
+    }
+    return pages;
+}
+
+QVariantMap MainWindow::givenTo(WindowId id) {
+    switch (id) {
+        case WindowId::about:
+            return as("about", &madeOnce(about_, services_.bundle, app_.device()));
+        case WindowId::help:
+            return as("help", &madeOnce(help_));
+        case WindowId::settings:
+            return as("settings", &settings());
+    }
+    return {};
+}
+
+SettingsScreenModel& MainWindow::settings() {
+    return madeOnce(settings_, app_, services_.pickFolder);
+}
 
 }  // namespace zelk

@@ -3,35 +3,93 @@
 
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ui/shell/BundleInfo.h"
+#include "ui/shell/DetailPages.h"
+#include "ui/shell/SecondaryWindows.h"
+#include "ui/shell/WindowId.h"
 
 namespace zelk {
 
+class AboutModel;
+class AppCommands;
 class AppModel;
+class FirstRunModel;
+class HelpModel;
+class ModuleScreenModel;
 class Motion;
+class Preferences;
+class RootModel;
+class SettingsScreenModel;
+class SidebarModel;
 class SurveyScreenModel;
+class ToolsScreenModel;
+class Workspace;
 
-/// The main window of an AppModel with all that it shows, not yet visible. The model must outlive it; a survey may be
-/// under way when it goes. Main thread.
+/// What the windows ask of the system beside the AppModel. Where there are no preferences or no desktop, no first run
+/// is told.
+struct WindowServices {
+    Preferences* preferences = nullptr;
+    Workspace* workspace = nullptr;
+    std::function<bool()> accessGranted;  ///< whether the whole drive may be read
+    std::function<std::optional<std::string>()> pickFolder = [] { return std::nullopt; };
+    std::function<void()> quit = [] {};
+    BundleInfo bundle;
+};
+
+/// The main window of an AppModel with all that it shows and the windows beside it, not yet visible. The model and the
+/// services must outlive it; a survey may be under way when it goes. Main thread.
 class MainWindow {
 public:
-    explicit MainWindow(AppModel& app);
+    explicit MainWindow(AppModel& app, WindowServices services = {});
     ~MainWindow();
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
 
-    void show() { window_->show(); }
+    /// Shows it; the first time, the first run begins.
+    void show();
+
+    /// Every window that is there comes to the front, the main one last; one that was closed stays so. Gives their
+    /// number.
+    int bringAllForward();
+    QQuickWindow& openWindow(WindowId id) { return secondary_->open(id); }
+    SecondaryWindows& secondary() { return *secondary_; }
 
     QQuickWindow& window() { return *window_; }
     SurveyScreenModel& survey() { return *survey_; }
+    SidebarModel& sidebar() { return *sidebar_; }
+    AppCommands& commands() { return *commands_; }
     Motion& motion() { return *motion_; }
 
 private:
-    // In this order: the window reads the models, and goes first.
+    std::vector<DetailPages::Page> makePages();
+    QVariantMap givenTo(WindowId id);
+    SettingsScreenModel& settings();
+
+    AppModel& app_;
+    WindowServices services_;
+    // In this order: the windows read the models, and go first.
     std::unique_ptr<SurveyScreenModel> survey_;
+    std::unique_ptr<SidebarModel> sidebar_;
+    std::unique_ptr<ToolsScreenModel> tools_;
+    std::unique_ptr<SettingsScreenModel> settings_;
+    std::unique_ptr<HelpModel> help_;
+    std::unique_ptr<AboutModel> about_;
+    std::unique_ptr<FirstRunModel> firstRun_;
+    std::vector<std::unique_ptr<ModuleScreenModel>> modules_;
+    std::unique_ptr<DetailPages> pages_;
+    std::unique_ptr<AppCommands> commands_;
+    std::unique_ptr<RootModel> root_;
     QQmlEngine engine_;
     Motion* motion_ = nullptr;  // the engine's
+    std::unique_ptr<SecondaryWindows> secondary_;
     std::unique_ptr<QQuickWindow> window_;
+    bool begun_ = false;
 };
 
 }  // namespace zelk

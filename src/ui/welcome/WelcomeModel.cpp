@@ -3,7 +3,15 @@
 
 #include <utility>
 
+#include "ui/components/Spring.h"
+
 namespace zelk {
+
+namespace {
+
+constexpr double turnResponse = 0.5;  // seconds
+
+}  // namespace
 
 const std::vector<WelcomeModel::Page>& WelcomeModel::pages() {
     static const std::vector<Page> all{
@@ -44,6 +52,13 @@ QString WelcomeModel::title() const {
 }
 QString WelcomeModel::position() const {
     return QStringLiteral("Page %1 of %2").arg(page_ + 1).arg(rowCount());
+}
+
+int WelcomeModel::turnTime() const {
+    return static_cast<int>(1'000 * springRest(turnResponse));
+}
+QEasingCurve WelcomeModel::turnEasing() const {
+    return springEasing();
 }
 
 int WelcomeModel::rowCount(const QModelIndex& parent) const {

@@ -4,6 +4,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 #include <QColor>
+#include <QEasingCurve>
 #include <QString>
 #include <vector>
 
@@ -21,6 +22,8 @@ class WelcomeModel : public QAbstractListModel {
     Q_PROPERTY(QString backLabel READ backLabel CONSTANT FINAL)
     Q_PROPERTY(QString primaryLabel READ primaryLabel NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString title READ title NOTIFY pageChanged FINAL)
+    Q_PROPERTY(int turnTime READ turnTime CONSTANT FINAL)
+    Q_PROPERTY(QEasingCurve turnEasing READ turnEasing CONSTANT FINAL)
     Q_PROPERTY(QString position READ position NOTIFY pageChanged FINAL)
 
 public:
@@ -47,6 +50,9 @@ public:
     QString title() const;
     /// "Page 1 of 4", which the dots say to the eye.
     QString position() const;
+    /// Milliseconds, and the course, of the way from one page to the next: a spring without overshoot.
+    int turnTime() const;
+    QEasingCurve turnEasing() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// The three faces of a module that looks for something. A module gives its model and what stands under the header of
+// its results; that is built with the first results and kept.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Navigation
+import Zelk.Theme
+
+FocusScope {
+    id: scaffold
+
+    required property ModuleScreenModel module
+    required property Component content
+    property Component trailing: null
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+
+    ModuleFace {
+        shown: scaffold.module.idle
+
+        ModuleHero {
+            anchors.fill: parent
+            module: scaffold.module
+            focus: true
+        }
+    }
+
+    ModuleFace {
+        id: progress
+
+        shown: scaffold.module.scanning
+
+        ModuleScanning {
+            anchors.fill: parent
+            module: scaffold.module
+        }
+    }
+
+    ModuleFace {
+        shown: scaffold.module.results
+
+        ModuleHeader {
+            id: header
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            symbol: scaffold.module.symbol
+            tint: scaffold.module.tint
+            title: scaffold.module.title
+            subtitle: scaffold.module.subtitle
+            trailing: scaffold.trailing
+        }
+
+        Loader {
+            id: results
+
+            property bool wanted: false
+
+            anchors.top: header.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            active: results.wanted || scaffold.module.results
+            sourceComponent: scaffold.content
+            focus: true
+            onLoaded: results.wanted = true
+        }
+    }
+}

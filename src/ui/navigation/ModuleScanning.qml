@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// The face of a module at work.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Navigation
+import Zelk.Theme
+
+Item {
+    id: progress
+
+    required property ModuleScreenModel module
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 2 * 26
+
+        ModuleOrb {
+            anchors.horizontalCenter: parent.horizontalCenter
+            symbol: progress.module.symbol
+            tint: progress.module.tint
+            pulsing: true
+        }
+
+        Words {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: Math.min(implicitWidth, parent.width)
+            topPadding: 20
+            text: progress.module.scanningLabel
+            size: 15
+            font.weight: Font.DemiBold
+        }
+
+        FigureText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            objectName: "moduleScanDetail"
+            text: progress.module.scanDetail
+            color: Theme.inkSoft
+            pixelSize: Math.round(12 * TextScale.factor)
+            visible: progress.module.detailed
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+
+        Item {
+            width: 1
+            height: 20
+        }
+
+        ModuleProgressBar {
+            anchors.horizontalCenter: parent.horizontalCenter
+            objectName: "moduleProgressBar"
+            tint: progress.module.tint
+        }
+    }
+}

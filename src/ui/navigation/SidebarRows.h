@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
+#include <QString>
+#include <span>
+#include <vector>
+
+#include "state/Screen.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// Modules with a title over them, which the first group has none of.
+struct SidebarGroup {
+    QString title;
+    std::vector<Screen> screens;
+};
+
+/// The modules of the sidebar in their order, without those at its foot.
+const std::vector<SidebarGroup>& sidebarGroups();
+
+/// A run of rows in the sidebar, one per module. A group's title stands on its first row. Main thread.
+class SidebarRows : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of SidebarModel")
+
+public:
+    enum Role { headingRole = Qt::UserRole, titleRole, symbolRole, tintRole, selectedRole, nameRole };
+
+    /// `app` must outlive it.
+    SidebarRows(AppModel& app, std::span<const SidebarGroup> groups);
+
+    Screen screenAt(int row) const { return rows_[static_cast<std::size_t>(row)].screen; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+public slots:
+    /// Goes to the module of a row; a row that is not there is no module.
+    void press(int row);
+
+private:
+    struct Row {
+        QString heading;  ///< empty on all but the first row of a titled group
+        Screen screen;
+    };
+
+    void followSelection();
+
+    AppModel& app_;
+    std::vector<Row> rows_;
+    Screen selected_;
+};
+
+}  // namespace zelk

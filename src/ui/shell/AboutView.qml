@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// The mark, the name, and what runs here on what.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Navigation
+import Zelk.Shell
+import Zelk.Symbols
+import Zelk.Theme
+
+Item {
+    id: view
+
+    required property AboutModel about
+
+    implicitWidth: Math.max(300, column.implicitWidth + 2 * 32)
+    implicitHeight: column.implicitHeight + 2 * 32
+
+    Column {
+        id: column
+
+        anchors.centerIn: parent
+
+        PaintedLayer {
+            anchors.horizontalCenter: parent.horizontalCenter
+            kind: PaintedLayer.Mark
+            color: Theme.accent
+
+            SymbolItem {
+                anchors.centerIn: parent
+                name: view.about.symbol
+                color: Theme.accentInk
+                size: 36
+            }
+        }
+
+        Words {
+            anchors.horizontalCenter: parent.horizontalCenter
+            topPadding: 12
+            bottomPadding: 16
+            text: view.about.name
+            size: 22
+            font.weight: Font.Bold
+            font.letterSpacing: -0.4
+            Accessible.role: Accessible.Heading
+        }
+
+        Repeater {
+            model: view.about
+
+            Row {
+                id: row
+
+                required property string label
+                required property string value
+
+                anchors.horizontalCenter: parent?.horizontalCenter
+                bottomPadding: 4
+                spacing: 8
+
+                Words {
+                    text: row.label
+                    size: 12
+                    soft: true
+                }
+                Words {
+                    text: row.value
+                    size: 12
+                    font.weight: Font.Medium
+                }
+            }
+        }
+    }
+}

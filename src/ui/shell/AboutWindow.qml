@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Shell
+
+SecondaryWindow {
+    id: window
+
+    required property AboutModel about
+
+    title: "About Zelk"
+    width: view.implicitWidth
+    height: view.implicitHeight
+    minimumWidth: view.implicitWidth
+    maximumWidth: view.implicitWidth
+    minimumHeight: view.implicitHeight
+    maximumHeight: view.implicitHeight
+
+    AboutView {
+        id: view
+
+        anchors.fill: parent
+        about: window.about
+    }
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "ui/shell/AppCommands.h"
+
+#include <utility>
+
+#include "state/AppModel.h"
+#include "ui/components/ScreenLook.h"
+
+namespace zelk {
+
+namespace {
+
+/// The digits that go with Control run out after nine.
+constexpr int digitKeys = 9;
+
+std::vector<Command> goCommands(AppModel& app) {
+    std::vector<Command> commands;
+    for (const Screen screen : allScreens) {
+        if (screen == Screen::settings) continue;  // a window of its own
+        const int place = static_cast<int>(commands.size());
+        const QKeySequence shortcut =
+            place < digitKeys ? QKeySequence(QStringLiteral("Ctrl+%1").arg(place + 1)) : QKeySequence();
+        commands.push_back({lookOf(screen).title, shortcut, [&app, screen] { app.setSelection(screen); }});
+    }
+    return commands;
+}
+
+}  // namespace
+
+AppCommands::AppCommands(AppModel& app, std::function<void(WindowId)> openWindow, std::function<void()> quit,
+                         std::function<bool()> busy)
+    : busy_(std::move(busy)) {
+    const auto opens = [&](WindowId window) { return [openWindow, window] { openWindow(window); }; };
+    const auto add = [&](const QString& title, std::vector<Command> commands) {
+        menus_.push_back(std::make_unique<CommandMenu>(title, std::move(commands)));
+    };
+    add(QStringLiteral("Zelk"), {{QStringLiteral("About Zelk"), {}, opens(WindowId::about), Command::Part::about},
+                                 {QStringLiteral("Settings…"), QKeySequence(QStringLiteral("Ctrl+,")),
+                                  opens(WindowId::settings), Command::Part::settings, true},
+                                 {QStringLiteral("Quit Zelk"), QKeySequence(QStringLiteral("Ctrl+Q")), std::move(quit),
+                                  Command::Part::quit, true}});
+    add(QStringLiteral("File"),
+        {{QStringLiteral("Run Survey"), QKeySequence(QStringLiteral("Ctrl+R")), [&app] { app.startScan(); }}});
+    add(QStringLiteral("Go"), goCommands(app));
+    add(QStringLiteral("Help"),
+        {{QStringLiteral("Zelk Help"), QKeySequence(QStringLiteral("Ctrl+?")), opens(WindowId::help)}});
+}
+
+AppCommands::~AppCommands() = default;
+
+QList<CommandMenu*> AppCommands::menus() const {
+    QList<CommandMenu*> menus;
+    for (const auto& menu : menus_) menus.append(menu.get());
+    return menus;
+}
+
+QStringList AppCommands::shortcuts() const {
+    QStringList shortcuts;
+    for (const Command* command : withShortcut()) shortcuts.append(command->shortcut.toString());
+    return shortcuts;
+}
+
+void AppCommands::run(const Command& command) const {
+    if (command.part == Command::Part::quit || !busy_()) command.run();
+}
+
+void AppCommands::runShortcut(int place) {
+    const std::vector<const Command*> commands = withShortcut();
+    if (place >= 0 && static_cast<std::size_t>(place) < commands.size())
+        run(*commands[static_cast<std::size_t>(place)]);
+}
+
+std::vector<const Command*> AppCommands::withShortcut() const {
+    std::vector<const Command*> commands;
+    for (const auto& menu : menus_)
+        for (const Command& command : menu->commands())
+            if (!command.shortcut.isEmpty()) commands.push_back(&command);
+    return commands;
+}
+
+QString AppCommands::barName() const {
+    return QStringLiteral("Menu bar");
+}
+
+}  // namespace zelk

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
+#include <QKeySequence>
+#include <QString>
+#include <functional>
+#include <vector>
+
+namespace zelk {
+
+/// One entry of a menu. What a system with a menu bar of its own wants to know about it is its part.
+struct Command {
+    enum class Part { ordinary, about, settings, quit };
+
+    QString title;
+    QKeySequence shortcut;  ///< Control stands for Command on macOS; may be empty
+    std::function<void()> run;
+    Part part = Part::ordinary;
+    bool startsGroup = false;  ///< a divider stands before it
+};
+
+/// A menu of the menu bar, as a list of its entries. Main thread.
+class CommandMenu : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of AppCommands")
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+
+public:
+    enum Role { titleRole = Qt::UserRole, shortcutTextRole, startsGroupRole, nameRole };
+
+    CommandMenu(QString title, std::vector<Command> commands);
+
+    const QString& title() const { return title_; }
+    const std::vector<Command>& commands() const { return commands_; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+public slots:
+    /// A row that is not there does nothing.
+    void run(int row);
+
+private:
+    QString title_;
+    std::vector<Command> commands_;
+};
+
+}  // namespace zelk

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Help
+
+SecondaryWindow {
+    id: window
+
+    required property HelpModel help
+
+    title: "Zelk Help"
+    width: 760
+    height: 520
+    minimumWidth: 520
+    minimumHeight: 360
+    flags: Qt.Window
+
+    HelpView {
+        anchors.fill: parent
+        help: window.help
+        focus: true
+    }
+}

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// An entry of a menu with its key at the right, and the divider over it where it starts a group.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Components
+import Zelk.Theme
+
+T.MenuItem {
+    id: entry
+
+    required property int index
+    required property string title
+    required property string shortcutText
+    required property bool startsGroup
+    required property string name
+
+    objectName: entry.name
+    text: entry.title
+    width: parent?.width ?? 0
+    implicitHeight: Math.max(28, label.implicitHeight + 10) + topPadding
+    topPadding: entry.startsGroup ? 9 : 0
+    hoverEnabled: true
+    Accessible.name: entry.title
+
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            anchors.topMargin: entry.topPadding
+            radius: 6
+            color: entry.highlighted ? Theme.surfaceHi : "transparent"
+        }
+
+        Rectangle {
+            y: 4
+            width: parent.width
+            height: 1
+            color: Theme.hairline
+            visible: entry.startsGroup
+        }
+    }
+
+    contentItem: Item {
+        Words {
+            id: label
+
+            anchors.left: parent.left
+            anchors.leftMargin: 10
+            anchors.right: key.left
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            text: entry.title
+            size: 13
+            mute: true
+        }
+
+        Words {
+            id: key
+
+            anchors.right: parent.right
+            anchors.rightMargin: 10
+            anchors.verticalCenter: parent.verticalCenter
+            text: entry.shortcutText
+            size: 12
+            soft: true
+            mute: true
+        }
+    }
+}

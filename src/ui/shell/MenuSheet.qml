@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// One opened menu.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import QtQml.Models
+import Zelk.Shell
+import Zelk.Theme
+
+T.Menu {
+    id: menu
+
+    required property CommandMenu commands
+
+    title: menu.commands.title
+    width: Math.round(220 * TextScale.factor)
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    padding: 6
+    margins: 4
+    overlap: 0
+
+    background: Rectangle {
+        radius: 10
+        color: Theme.surface
+        border.width: 1
+        border.color: Theme.hairline
+    }
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: menu.contentModel
+        interactive: contentHeight > height
+        clip: true
+        currentIndex: menu.currentIndex
+    }
+
+    Instantiator {
+        model: menu.commands
+
+        delegate: MenuEntry {
+            onTriggered: menu.commands.run(index)
+        }
+        onObjectAdded: (index, object) => menu.insertItem(index, object as MenuEntry)
+    }
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Components
+import Zelk.Theme
+
+T.MenuBarItem {
+    id: item
+
+    // The toolkit's mark for the key that goes with Alt.
+    readonly property string plainText: item.menu?.title ?? ""
+
+    objectName: "menuTitle" + item.plainText
+    text: "&" + item.plainText
+    implicitWidth: label.implicitWidth + 20
+    implicitHeight: Math.max(24, label.implicitHeight + 6)
+    Accessible.name: item.plainText
+
+    background: Rectangle {
+        radius: 6
+        color: item.highlighted || item.down ? Theme.surfaceHi : "transparent"
+
+        FocusRing {
+            shown: item.visualFocus
+            corner: 6
+        }
+    }
+
+    contentItem: Item {
+        Words {
+            id: label
+
+            anchors.centerIn: parent
+            text: item.plainText
+            size: 12
+            mute: true
+            font.weight: Font.Medium
+        }
+    }
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "ui/shell/NativeMenuBar.h"
+
+#include "ui/shell/AppCommands.h"
+
+namespace zelk {
+
+namespace {
+
+/// The system moves entries of a role to its own application menu. Left alone it would guess from the words.
+QAction::MenuRole roleOf(Command::Part part) {
+    switch (part) {
+        case Command::Part::about:
+            return QAction::AboutRole;
+        case Command::Part::settings:
+            return QAction::PreferencesRole;
+        case Command::Part::quit:
+            return QAction::QuitRole;
+        case Command::Part::ordinary:
+            return QAction::NoRole;
+    }
+    return QAction::NoRole;
+}
+
+}  // namespace
+
+std::unique_ptr<QMenuBar> makeNativeMenuBar(AppCommands& commands) {
+    auto bar = std::make_unique<QMenuBar>();
+    for (const CommandMenu* menu : commands.menus()) {
+        QMenu* shown = bar->addMenu(menu->title());
+        for (const Command& command : menu->commands()) {
+            if (command.startsGroup) shown->addSeparator();
+            QAction* action = shown->addAction(command.title);
+            action->setShortcut(command.shortcut);
+            action->setMenuRole(roleOf(command.part));
+            QObject::connect(action, &QAction::triggered, &commands, [&commands, &command] { commands.run(command); });
+        }
+    }
+    return bar;
+}
+
+}  // namespace zelk

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Settings
+
+SecondaryWindow {
+    id: window
+
+    required property SettingsScreenModel settings
+
+    title: window.settings.title
+    width: 460
+    height: 360
+    minimumWidth: 460
+    maximumWidth: 460
+    minimumHeight: 360
+    maximumHeight: 360
+
+    SettingsView {
+        anchors.fill: parent
+        settings: window.settings
+        focus: true
+    }
+}

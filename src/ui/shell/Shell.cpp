@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "ui/shell/Shell.h"
+
+#include <QGuiApplication>
+
+#include "ui/shell/NativeApplication.h"
+#include "ui/shell/NativeMenuBar.h"
+#include "ui/shell/RootModel.h"
+
+namespace zelk {
+
+Shell::Shell(AppModel& app, const WindowServices& services)
+    : quit_(services.quit),
+      main_(app, services),
+      statusMenu_(
+          app, [this] { main_.bringAllForward(); }, services.quit),
+      statusItem_(statusMenu_) {
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+#ifdef Q_OS_MACOS
+    menuBar_ = makeNativeMenuBar(main_.commands());
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &Shell::followApplicationState);
+#endif
+    connect(&main_.window(), &QWindow::visibleChanged, this, &Shell::followMainWindow);
+    // The first frame is the person's; asking the desktop for a tray comes behind it.
+    connect(
+        &main_.window(), &QQuickWindow::frameSwapped, this, [this] { statusItem_.start(); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+Shell::~Shell() = default;
+
+void Shell::start() {
+    main_.show();
+    removeServicesMenu();
+}
+
+/// A press on the icon in the dock while every window is closed.
+void Shell::followApplicationState(Qt::ApplicationState state) {
+    if (state == Qt::ApplicationActive && main_.bringAllForward() == 0) main_.show();
+}
+
+void Shell::followMainWindow(bool visible) {
+    if (!visible && !statusItem_.present()) quit_();
+}
+
+}  // namespace zelk

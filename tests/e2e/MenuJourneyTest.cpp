@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+// A person at the menus, with the mouse, with the keyboard and by their keys.
+#include "ShellFixture.h"
+
+namespace zelk {
+
+namespace {
+
+class Menus : public ShellFixture {
+protected:
+    Menus() { shell(); }
+};
+
+}  // namespace
+
+TEST_F(Menus, controlAndADigitGoToTheFirstNineScreens) {
+    for (int place = 8; place >= 0; --place) {
+        press(static_cast<Qt::Key>(Qt::Key_1 + place), Qt::ControlModifier);
+        EXPECT_EQ(model().selection(), allScreens[static_cast<std::size_t>(place)]);
+    }
+}
+
+TEST_F(Menus, controlRSurveysWhereverTheKeyboardIs) {
+    click("sidebarTools");
+    press(Qt::Key_R, Qt::ControlModifier);
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(model().history().size(), 1U);
+}
+
+TEST_F(Menus, controlRDuringASurveyDoesNothing) {
+    machine.directories.hold(home + "/wide/inner");
+    press(Qt::Key_R, Qt::ControlModifier);
+    runUntil([&] { return model().itemsScanned() > 0; });
+    const std::int64_t items = model().itemsScanned();
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    EXPECT_EQ(model().itemsScanned(), items);
+}
+
+TEST_F(Menus, controlAndAQuestionMarkOpensTheHelp) {
+    press(Qt::Key_Question, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_NE(main().secondary().find(WindowId::help), nullptr);
+}
+
+TEST_F(Menus, controlAndACommaOpensTheSettings) {
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_NE(main().secondary().find(WindowId::settings), nullptr);
+}
+
+TEST_F(Menus, controlQQuits) {
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(Menus, theKeysHoldInTheOtherWindowsToo) {
+    QQuickWindow& about = main().openWindow(WindowId::about);
+    runUntil([&] { return about.isActive(); });
+    press(about, Qt::Key_4, Qt::ControlModifier);
+    EXPECT_EQ(model().selection(), Screen::tune);
+}
+
+TEST_F(Menus, theMouseOpensAMenuAndChoosesAnEntry) {
+    click("menuTitleGo");
+    runUntil([&] { return find("menuSystem") != nullptr; });
+    click("menuSystem");
+    EXPECT_EQ(model().selection(), Screen::system);
+    runUntil([&] { return find("menuSystem") == nullptr; });
+}
+
+TEST_F(Menus, theKeyboardAloneOpensAMenuAndChoosesAnEntry) {
+    press(Qt::Key_F10);
+    EXPECT_EQ(focusName(), QStringLiteral("menuTitleZelk"));
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    press(Qt::Key_Down);
+    runUntil([&] { return find("menuOverview") != nullptr; });
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(model().selection(), Screen::reclaim);
+}
+
+TEST_F(Menus, altAndALetterOpensItsMenu) {
+    press(Qt::Key_H, Qt::AltModifier);
+    runUntil([&] { return find("menuZelk Help") != nullptr; });
+}
+
+TEST_F(Menus, escapeClosesAMenuAndGivesTheKeyboardBack) {
+    QQuickItem* before = window().activeFocusItem();
+    click("menuTitleGo");
+    runUntil([&] { return find("menuSystem") != nullptr; });
+    press(Qt::Key_Escape);
+    runUntil([&] { return find("menuSystem") == nullptr; });
+    EXPECT_EQ(window().activeFocusItem(), before);
+}
+
+}  // namespace zelk

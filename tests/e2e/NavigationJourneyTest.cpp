@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+// A person at the sidebar.
+#include <QAccessible>
+
+#include "ShellFixture.h"
+#include "ui/components/ScreenLook.h"
+
+namespace zelk {
+
+namespace {
+
+class Navigation : public ShellFixture {
+protected:
+    Navigation() { shell(); }
+
+    static std::string rowOf(Screen screen) { return "sidebar" + lookOf(screen).title.toStdString(); }
+    double sidebarWidth() { return find("sidebar")->width(); }
+
+    /// Whether this text is to be seen anywhere.
+    bool shows(const QString& text) {
+        window().grabWindow();
+        std::vector<QQuickItem*> pending{window().contentItem()};
+        while (!pending.empty()) {
+            QQuickItem* item = pending.back();
+            pending.pop_back();
+            if (!item->isVisible()) continue;
+            if (item->property("text").toString() == text) return true;
+            for (QQuickItem* child : item->childItems()) pending.push_back(child);
+        }
+        return false;
+    }
+};
+
+}  // namespace
+
+TEST_F(Navigation, aPressOnARowGoesToItsModule) {
+    for (const Screen screen : allScreens) {
+        click(rowOf(screen).c_str());
+        EXPECT_EQ(model().selection(), screen);
+        const QAccessible::State state = QAccessible::queryAccessibleInterface(find(rowOf(screen).c_str()))->state();
+        EXPECT_TRUE(state.selected) << rowOf(screen);
+    }
+}
+
+TEST_F(Navigation, everyRowHasANameARoleAndAPlaceForTheKeyboard) {
+    for (const Screen screen : allScreens) {
+        QAccessibleInterface* row = QAccessible::queryAccessibleInterface(find(rowOf(screen).c_str()));
+        ASSERT_NE(row, nullptr);
+        EXPECT_EQ(row->text(QAccessible::Name), lookOf(screen).title);
+        EXPECT_EQ(row->role(), QAccessible::PageTab);
+        EXPECT_TRUE(row->state().selectable);
+        EXPECT_TRUE(row->state().focusable);
+        EXPECT_EQ(row->state().selected, screen == Screen::survey);
+    }
+}
+
+TEST_F(Navigation, theArrowsGoThroughAllRowsAndStopAtTheEnds) {
+    click("sidebarOverview");
+    press(Qt::Key_Up);
+    EXPECT_EQ(focusName(), QStringLiteral("sidebarOverview"));
+    for (std::size_t row = 1; row < allScreens.size(); ++row) {
+        press(Qt::Key_Down);
+        EXPECT_EQ(focusName().toStdString(), rowOf(allScreens[row]));
+    }
+    press(Qt::Key_Down);
+    EXPECT_EQ(focusName(), QStringLiteral("sidebarSettings"));
+    press(Qt::Key_Up);
+    press(Qt::Key_Up);
+    EXPECT_EQ(focusName(), QStringLiteral("sidebarSystem"));
+    EXPECT_EQ(model().selection(), Screen::survey) << "moving is not choosing";
+}
+
+TEST_F(Navigation, returnAndSpaceChoose) {
+    click("sidebarOverview");
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(model().selection(), Screen::reclaim);
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+    EXPECT_EQ(model().selection(), Screen::privacy);
+    EXPECT_EQ(focusName(), QStringLiteral("sidebarPrivacy")) << "the keyboard stays in the sidebar";
+}
+
+TEST_F(Navigation, tabComesToEveryRow) {
+    std::vector<std::string> wanted;
+    for (const Screen screen : allScreens) wanted.push_back(rowOf(screen));
+    std::vector<std::string> seen;
+    QQuickItem* first = window().activeFocusItem();
+    do {
+        const std::string name = focusName().toStdString();
+        if (name.starts_with("sidebar")) seen.push_back(name);
+        press(Qt::Key_Tab);
+    } while (window().activeFocusItem() != first);
+    EXPECT_EQ(seen, wanted);
+}
+
+TEST_F(Navigation, aCollapsedSidebarKeepsAllRowsWithTheirSymbolsAndNoGroupTitles) {
+    EXPECT_EQ(sidebarWidth(), 234);
+    EXPECT_TRUE(shows(QStringLiteral("Explore")));
+    click("collapseButton");
+    EXPECT_EQ(sidebarWidth(), 60);
+    for (const char* group : {"Clean", "Manage", "Explore"}) EXPECT_FALSE(shows(QString::fromLatin1(group))) << group;
+    for (const Screen screen : allScreens) {
+        QQuickItem* row = find(rowOf(screen).c_str());
+        ASSERT_NE(row, nullptr);
+        EXPECT_GT(row->height(), 0);
+        EXPECT_LE(row->mapRectToScene(row->boundingRect()).right(), 60);
+        click(rowOf(screen).c_str());
+        EXPECT_EQ(model().selection(), screen);
+    }
+    click("collapseButton");
+    EXPECT_EQ(sidebarWidth(), 234);
+    EXPECT_TRUE(shows(QStringLiteral("Explore")));
+}
+
+TEST_F(Navigation, theCollapseAnimatesWhereMotionIsWanted) {
+    main().motion().setReduced(false);
+    click("collapseButton");
+    EXPECT_GT(sidebarWidth(), 60);
+    runUntil([&] { return sidebarWidth() == 60; });
+}
+
+TEST_F(Navigation, theSwitchTurnsTheDeveloperViewOnAndOff) {
+    click("developerSwitch");
+    EXPECT_EQ(model().audience(), AppModel::Audience::developer);
+    press(Qt::Key_Space);
+    EXPECT_EQ(model().audience(), AppModel::Audience::normal);
+}
+
+TEST_F(Navigation, theSwitchFollowsTheModel) {
+    model().setAudience(AppModel::Audience::developer);
+    EXPECT_TRUE(find("developerSwitch")->property("checked").toBool());
+    click("developerSwitch");
+    model().setAudience(AppModel::Audience::developer);
+    EXPECT_TRUE(find("developerSwitch")->property("checked").toBool()) << "a press must not cut it off from the model";
+}
+
+TEST_F(Navigation, aScreenIsBuiltWhenItIsGoneToAndKept) {
+    EXPECT_EQ(find("moduleScanButton"), nullptr);
+    click("sidebarLens");
+    QQuickItem* button = find("moduleScanButton");
+    ASSERT_NE(button, nullptr);
+    click("sidebarOverview");
+    EXPECT_EQ(find("moduleScanButton"), nullptr);
+    click("sidebarLens");
+    EXPECT_EQ(find("moduleScanButton"), button);
+}
+
+TEST_F(Navigation, theSelectionOutlivesTheWindow) {
+    click("sidebarLens");
+    MainWindow another(model());
+    another.show();
+    EXPECT_NE(tour::findControl(another.window(), QStringLiteral("moduleScanButton")), nullptr);
+}
+
+TEST_F(Navigation, aModuleSurveysFromItsButtonAndShowsTheProgress) {
+    click("sidebarLens");
+    machine.directories.hold(home + "/wide/inner");
+    click("moduleScanButton");
+    EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    EXPECT_NE(find("moduleProgressBar"), nullptr);
+    EXPECT_EQ(find("moduleScanButton"), nullptr);
+    runUntil([&] { return model().itemsScanned() > 0 && shows(QString::fromStdString(model().progressLine())); });
+    press(Qt::Key_Escape);
+    EXPECT_EQ(model().scanPhase(), Phase::idle);
+    EXPECT_NE(find("moduleScanButton"), nullptr);
+}
+
+TEST_F(Navigation, aModuleWithoutADetailStillShowsTheOrbAndTheBar) {
+    click("sidebarLens");
+    machine.directories.hold(home);
+    model().startScan();
+    EXPECT_NE(find("moduleProgressBar"), nullptr);
+    EXPECT_NE(find("orbRing"), nullptr);
+}
+
+TEST_F(Navigation, afterASurveyAModuleShowsItsHeaderAndAWord) {
+    click("sidebarLens");
+    survey();
+    EXPECT_TRUE(shows(QStringLiteral("Explore where your space went — a list and a live bubble map, side by side.")));
+    EXPECT_TRUE(shows(QStringLiteral("Your survey is ready")));
+}
+
+TEST_F(Navigation, theOrbPulsesOnlyWhereMotionIsWantedAndOnlyInSight) {
+    click("sidebarLens");
+    machine.directories.hold(home);
+    model().startScan();
+    QQuickItem* ring = find("orbRing");
+    ASSERT_NE(ring, nullptr);
+    runWhatIsThere();
+    EXPECT_EQ(ring->scale(), 1);
+    main().motion().setReduced(false);
+    runUntil([&] { return ring->scale() > 1; });
+    main().motion().setReduced(true);
+    EXPECT_EQ(ring->scale(), 1);
+    main().motion().setReduced(false);
+    click("sidebarOverview");
+    EXPECT_EQ(ring->scale(), 1);
+}
+
+}  // namespace zelk

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTest>
+
+#include "Camera.h"
+#include "state/AppModelFixture.h"
+#include "ui/navigation/SidebarModel.h"
+#include "ui/shell/Shell.h"
+#include "ui/theme/Motion.h"
+
+namespace zelk {
+
+/// The running application on a machine in memory, driven by the mouse and the keyboard.
+class ShellFixture : public AppModelFixture {
+protected:
+    ShellFixture() {
+        fillHome();
+        addWideFolder(home + "/wide");
+    }
+    ~ShellFixture() override {
+        machine.directories.release();
+        shell_.reset();
+    }
+
+    Shell& shell() {
+        if (!shell_) {
+            services.quit = [this] { ++quits; };
+            shell_ = std::make_unique<Shell>(model(), services);
+            shell_->main().motion().setReduced(true);
+            shell_->start();
+            runUntil([&] { return window().isExposed() && window().isActive(); });
+        }
+        return *shell_;
+    }
+    MainWindow& main() { return shell().main(); }
+    QQuickWindow& window() { return shell_->main().window(); }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { press(window(), key, modifiers); }
+    void press(QWindow& where, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&where, key, modifiers);
+    }
+    void click(const char* name) {
+        window().grabWindow();  // lays out what is new
+        EXPECT_TRUE(tour::clickOn(window(), QString::fromLatin1(name))) << name;
+    }
+    QQuickItem* find(const char* name) { return tour::findControl(window(), QString::fromLatin1(name)); }
+    QString focusName() { return window().activeFocusItem()->objectName(); }
+
+    WindowServices services;
+    int quits = 0;
+
+private:
+    std::unique_ptr<Shell> shell_;
+};
+
+}  // namespace zelk

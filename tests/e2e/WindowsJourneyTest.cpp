@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// The windows of the application: how many, how large, and what closing one does.
+#include "ShellFixture.h"
+
+namespace zelk {
+
+namespace {
+
+class Windows : public ShellFixture {
+protected:
+    Windows() { shell(); }
+};
+
+}  // namespace
+
+TEST_F(Windows, theMainOneIsNeverSmallerThan960By620) {
+    EXPECT_EQ(window().minimumWidth(), 960);
+    EXPECT_EQ(window().minimumHeight(), 620);
+    EXPECT_GE(window().width(), 960);
+    EXPECT_GE(window().height(), 620);
+}
+
+TEST_F(Windows, theOthersHaveTheirTitlesAndSizes) {
+    QQuickWindow& about = main().openWindow(WindowId::about);
+    EXPECT_EQ(about.title(), QStringLiteral("About Zelk"));
+    EXPECT_EQ(about.minimumSize(), about.maximumSize());
+    EXPECT_EQ(about.size(), about.minimumSize());
+    const QRect screen = about.screen()->availableGeometry();
+    EXPECT_LE((about.geometry().center() - screen.center()).manhattanLength(), 2);
+
+    QQuickWindow& help = main().openWindow(WindowId::help);
+    EXPECT_EQ(help.title(), QStringLiteral("Zelk Help"));
+    EXPECT_EQ(help.size(), QSize(760, 520));
+
+    QQuickWindow& settings = main().openWindow(WindowId::settings);
+    EXPECT_EQ(settings.minimumSize(), QSize(460, 360));
+    EXPECT_EQ(settings.maximumSize(), QSize(460, 360));
+}
+
+TEST_F(Windows, openingOneTwiceBringsTheSameForward) {
+    for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) {
+        QQuickWindow& first = main().openWindow(id);
+        window().requestActivate();
+        runUntil([&] { return window().isActive(); });
+        QQuickWindow& second = main().openWindow(id);
+        EXPECT_EQ(&first, &second);
+        runUntil([&] { return first.isActive(); });
+    }
+}
+
+TEST_F(Windows, escapeAndControlWCloseTheOthers) {
+    for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) {
+        QQuickWindow& other = main().openWindow(id);
+        runUntil([&] { return other.isActive(); });
+        press(other, Qt::Key_Escape);
+        EXPECT_FALSE(other.isVisible());
+        main().openWindow(id);
+        runUntil([&] { return other.isActive(); });
+        press(other, Qt::Key_W, Qt::ControlModifier);
+        EXPECT_FALSE(other.isVisible());
+        EXPECT_TRUE(window().isVisible());
+    }
+    EXPECT_EQ(quits, 0);
+}
+
+TEST_F(Windows, closingTheMainOneEndsWhatCouldNotBeReachedAnyMore) {
+    ASSERT_FALSE(shell().statusItem().present()) << "there is no tray here";
+    window().close();
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(Windows, openZelkWithTheMainOneClosedShowsNone) {
+    window().close();
+    EXPECT_EQ(main().bringAllForward(), 0);
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(Windows, openZelkBringsEachForwardTheMainOneLast) {
+    main().openWindow(WindowId::help);
+    EXPECT_EQ(main().bringAllForward(), 2);
+    runUntil([&] { return window().isActive(); });
+}
+
+TEST_F(Windows, oneSurveyShowsInEveryPartOfTheApplication) {
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    EXPECT_EQ(find("cancelButton") != nullptr, true);
+    click("sidebarLens");
+    EXPECT_NE(find("moduleProgressBar"), nullptr);
+    const QMenu& menu = shell().statusItem().menu();
+    runUntil([&] { return menu.actions()[3]->text().startsWith(QStringLiteral("Surveying… ")); });
+}
+
+}  // namespace zelk

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "ViewFixture.h"
+#include "ui/welcome/FirstRunModel.h"
+
+namespace zelk {
+
+namespace {
+
+class FirstRunWindow : public ViewFixture {
+protected:
+    ~FirstRunWindow() override { close(); }
+
+    void open(QSize size = {960, 620}) {
+        show(QStringLiteral("Zelk.Welcome"), QStringLiteral("FirstRunSheets"), "firstRun", &firstRun, size);
+        firstRun.start();
+        settle();
+    }
+    void openAtPanel() {
+        preferences.flags[didOnboardKey] = true;
+        granted = false;
+        open();
+    }
+
+    fakes::FakePreferences preferences;
+    bool granted = true;
+    FirstRunModel firstRun{preferences, [this] { return granted; }, machine.workspace, std::chrono::milliseconds(0)};
+};
+
+}  // namespace
+
+TEST_F(FirstRunWindow, showsNothingWhereThereIsNothingToAsk) {
+    preferences.flags[didOnboardKey] = true;
+    open();
+    EXPECT_TRUE(seenTexts().empty());
+}
+
+TEST_F(FirstRunWindow, theFirstPageHasTheKeyboardOnNextAndNoBack) {
+    open();
+    EXPECT_EQ(focusName(), "Next");
+    EXPECT_EQ(tabOrder(), (std::vector<std::string>{"Next", "Skip"}));
+    EXPECT_EQ(find("backButton"), nullptr);
+}
+
+TEST_F(FirstRunWindow, onlyTheCurrentPageIsSeen) {
+    open();
+    for (const char* title : {"Welcome to Zelk", "See your storage", "Reclaim space safely", "Private by design"}) {
+        const std::vector<std::string> texts = seenTexts();
+        EXPECT_EQ(std::count(texts.begin(), texts.end(), title), 1) << title;
+        EXPECT_EQ(std::count(texts.begin(), texts.end(), "Welcome to Zelk"), std::string(title) == "Welcome to Zelk");
+        press(Qt::Key_Right);
+    }
+}
+
+TEST_F(FirstRunWindow, theLastPageHidesSkipAndGetsStarted) {
+    open();
+    for (int page = 0; page < 3; ++page) press(Qt::Key_Return);
+    EXPECT_EQ(focusName(), "Get Started");
+    EXPECT_EQ(tabOrder(), (std::vector<std::string>{"Get Started", "Back"}));
+    press(Qt::Key_Return);
+    EXPECT_FALSE(firstRun.showWelcome());
+    EXPECT_TRUE(preferences.flags[didOnboardKey]);
+    EXPECT_TRUE(seenTexts().empty());
+}
+
+TEST_F(FirstRunWindow, theArrowsTurnThePages) {
+    open();
+    press(Qt::Key_Left);
+    EXPECT_EQ(firstRun.welcome()->page(), 0);
+    for (int turn = 0; turn < 5; ++turn) press(Qt::Key_Right);
+    EXPECT_EQ(firstRun.welcome()->page(), 3);
+    EXPECT_TRUE(firstRun.showWelcome());
+    press(Qt::Key_Left);
+    EXPECT_EQ(firstRun.welcome()->page(), 2);
+}
+
+TEST_F(FirstRunWindow, aButtonThatGoesWithItsPageLeavesTheKeyboardInSight) {
+    open();
+    press(Qt::Key_Right);
+    while (focusName() != "Back") press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    EXPECT_EQ(firstRun.welcome()->page(), 0);
+    EXPECT_EQ(focusName(), "Next");
+    EXPECT_TRUE(focusIsRinged());
+    while (focusName() != "Skip") press(Qt::Key_Tab);
+    for (int turn = 0; turn < 3; ++turn) press(Qt::Key_Right);
+    EXPECT_EQ(focusName(), "Get Started");
+    EXPECT_TRUE(focusIsRinged());
+}
+
+TEST_F(FirstRunWindow, escapeSkipsTheWelcome) {
+    open();
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(firstRun.showWelcome());
+    EXPECT_TRUE(preferences.flags[didOnboardKey]);
+}
+
+TEST_F(FirstRunWindow, skipIsClickedAway) {
+    open();
+    click("skipButton");
+    EXPECT_FALSE(firstRun.showWelcome());
+}
+
+TEST_F(FirstRunWindow, thePageSlidesOnASpringThatEndsAtItsPlace) {
+    singleton<Motion>("Motion").setReduced(false);
+    open();
+    QQuickItem* pages = find("welcomePages");
+    ASSERT_NE(pages, nullptr);
+    const qreal stage = pages->parentItem()->width();
+    firstRun.welcome()->next();
+    EXPECT_EQ(pages->x(), 0) << "it moves, and does not jump";
+    qreal furthest = 0;
+    tour::waitUntil([&] {
+        furthest = std::min(furthest, pages->x());
+        return pages->x() == -stage;
+    });
+    EXPECT_GE(furthest, -stage - 0.5) << "no overshoot";
+}
+
+TEST_F(FirstRunWindow, thePanelAsksWithAllItsTexts) {
+    openAtPanel();
+    const std::vector<std::string> texts = seenTexts();
+    for (const char* text :
+         {"Zelk needs Full Disk Access", "to survey your whole drive.", "Open Settings → drag Zelk in → come back.",
+          "Open Settings", "waiting for access…", "Continue without it"})
+        EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
+    EXPECT_TRUE(firstRun.access()->polling());
+    expectAllControlsNamed();
+}
+
+TEST_F(FirstRunWindow, thePanelIsWalkedWithTheKeyboard) {
+    openAtPanel();
+    EXPECT_EQ(tabOrder(), (std::vector<std::string>{"Open Settings", "Continue without it"}));
+    press(Qt::Key_Return);
+    EXPECT_EQ(machine.workspace.opened, std::vector<std::string>{accessSettingsURL});
+    EXPECT_TRUE(firstRun.showOnboarding());
+    press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    EXPECT_FALSE(firstRun.showOnboarding());
+    EXPECT_FALSE(firstRun.access()->polling());
+    EXPECT_TRUE(seenTexts().empty());
+}
+
+TEST_F(FirstRunWindow, escapeContinuesWithoutAccess) {
+    openAtPanel();
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(firstRun.showOnboarding());
+}
+
+TEST_F(FirstRunWindow, thePanelClosesByItselfWhenAccessComes) {
+    openAtPanel();
+    granted = true;
+    runUntil([&] { return !firstRun.showOnboarding(); });
+    EXPECT_FALSE(firstRun.access()->polling());
+}
+
+TEST_F(FirstRunWindow, looksNoMoreWhileTheWindowIsClosed) {
+    openAtPanel();
+    window().hide();
+    runWhatIsThere();
+    EXPECT_FALSE(firstRun.access()->polling());
+    window().show();
+    runUntil([&] { return firstRun.access()->polling(); });
+}
+
+TEST_F(FirstRunWindow, looksNoMoreWhenTheViewIsGone) {
+    openAtPanel();
+    close();
+    EXPECT_FALSE(firstRun.access()->polling());
+}
+
+TEST_F(FirstRunWindow, theWelcomeIsFollowedByThePanel) {
+    granted = false;
+    open();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(focusName(), "Open Settings");
+}
+
+TEST_F(FirstRunWindow, clipsNothingWhereTextIsLarge) {
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    granted = false;
+    open();
+    for (int page = 0; page < 4; ++page) {
+        expectNoTextClipped();
+        press(Qt::Key_Right);
+    }
+    firstRun.welcome()->skip();
+    settle();
+    expectNoTextClipped();
+}
+
+}  // namespace zelk

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "ui/navigation/ModuleScreenModel.h"
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+
+#include "state/AppModelFixture.h"
+#include "ui/components/ScreenLook.h"
+#include "ui/navigation/UnbuiltModules.h"
+
+namespace zelk {
+
+namespace {
+
+class Modules : public AppModelFixture {
+protected:
+    Modules() {
+        machine.vitals.deviceInfo.osVersion = "Debian GNU/Linux 12 (bookworm)";
+        fillHome();
+        addWideFolder(home + "/wide");
+    }
+    ~Modules() override { machine.directories.release(); }
+
+    std::unique_ptr<ModuleScreenModel> module(Screen screen) { return makeUnbuiltModule(model(), screen); }
+};
+
+}  // namespace
+
+TEST(ModuleScreenModel, takesItsScreensTitleWhereItIsGivenNone) {
+    const ModuleScreenModel untitled(Screen::clutter, {});
+    EXPECT_EQ(untitled.title(), QStringLiteral("Clutter"));
+    ModuleTexts texts;
+    texts.title = QStringLiteral("Mac health");
+    const ModuleScreenModel titled(Screen::health, texts);
+    EXPECT_EQ(titled.title(), QStringLiteral("Mac health"));
+    EXPECT_EQ(titled.symbol(), lookOf(Screen::health).symbol);
+    EXPECT_EQ(titled.tint(), lookOf(Screen::health).color);
+}
+
+TEST(ModuleScreenModel, hasOneFaceAtATime) {
+    ModuleScreenModel module(Screen::apps, {});
+    QSignalSpy changes(&module, &ModuleScreenModel::phaseChanged);
+    const auto faces = [&] { return std::vector<bool>{module.idle(), module.scanning(), module.results()}; };
+    EXPECT_EQ(faces(), (std::vector<bool>{true, false, false}));
+    module.setPhase(ModulePhase::scanning);
+    EXPECT_EQ(faces(), (std::vector<bool>{false, true, false}));
+    module.setPhase(ModulePhase::scanning);
+    module.setPhase(ModulePhase::results);
+    EXPECT_EQ(faces(), (std::vector<bool>{false, false, true}));
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST(ModuleScreenModel, itsButtonRunsWhatTheModuleGave) {
+    int runs = 0;
+    ModuleTexts texts;
+    texts.scanLabel = QStringLiteral("Find duplicates");
+    ModuleScreenModel module(Screen::duplicates, texts, [&] { ++runs; });
+    EXPECT_TRUE(module.scannable());
+    module.scan();
+    EXPECT_EQ(runs, 1);
+    ModuleScreenModel idle(Screen::duplicates, {});
+    EXPECT_FALSE(idle.scannable());
+    idle.scan();
+}
+
+TEST(ModuleScreenModel, anEmptyDetailTakesNoPlace) {
+    ModuleScreenModel module(Screen::apps, {});
+    module.setPhase(ModulePhase::scanning);
+    EXPECT_FALSE(module.detailed());
+    module.setScanDetail(QStringLiteral("3 of 9"));
+    EXPECT_TRUE(module.detailed());
+}
+
+TEST_F(Modules, saysWhatEachIsFor) {
+    const auto expect = [&](Screen screen, const char* title, const char* subtitle) {
+        EXPECT_EQ(module(screen)->title().toStdString(), title);
+        EXPECT_EQ(module(screen)->subtitle().toStdString(), subtitle);
+    };
+    expect(Screen::reclaim, "Reclaim", "Clear caches, logs, and developer junk — safely, to the Trash.");
+    expect(Screen::privacy, "Privacy",
+           "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that needs a "
+           "signature database).");
+    expect(Screen::tune, "Tune", "startup & memory");
+    expect(Screen::apps, "Apps",
+           "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, preferences, "
+           "and support files.");
+    expect(Screen::clutter, "Clutter",
+           "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.");
+    expect(Screen::duplicates, "Duplicates",
+           "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.");
+    expect(Screen::lens, "Lens", "Explore where your space went — a list and a live bubble map, side by side.");
+    expect(Screen::health, "Mac health", "Debian GNU/Linux 12 (bookworm)");
+    expect(Screen::system, "System & snapshots", "what the treemap can't show");
+}
+
+TEST_F(Modules, thatLiveFromTheSurveyOfferOne) {
+    const auto expect = [&](Screen screen, const char* scanLabel, const char* scanningLabel) {
+        EXPECT_EQ(module(screen)->scanLabel().toStdString(), scanLabel);
+        EXPECT_EQ(module(screen)->scanningLabel().toStdString(), scanningLabel);
+        EXPECT_FALSE(module(screen)->noted());
+    };
+    expect(Screen::reclaim, "Scan for junk", "Looking for reclaimable junk…");
+    expect(Screen::clutter, "Find large files", "Hunting for heavy files…");
+    expect(Screen::lens, "Run survey", "Surveying your drive…");
+}
+
+TEST_F(Modules, thatAreNotThereYetSaySoAndOfferNothing) {
+    for (const Screen screen :
+         {Screen::privacy, Screen::tune, Screen::apps, Screen::duplicates, Screen::health, Screen::system}) {
+        const auto unbuilt = module(screen);
+        EXPECT_FALSE(unbuilt->scannable());
+        EXPECT_EQ(unbuilt->note(), lookOf(screen).title + QStringLiteral(" is not in this version yet."));
+        unbuilt->scan();
+        EXPECT_EQ(model().scanPhase(), Phase::idle);
+        EXPECT_TRUE(unbuilt->idle());
+    }
+}
+
+TEST_F(Modules, followTheSurveyThatTheirButtonBegins) {
+    const auto lens = module(Screen::lens);
+    EXPECT_TRUE(lens->idle());
+    machine.directories.hold(home + "/wide/inner");
+    lens->scan();
+    EXPECT_TRUE(lens->scanning());
+    runUntil([&] { return model().itemsScanned() > 0 && lens->scanDetail().toStdString() == model().progressLine(); });
+    EXPECT_TRUE(lens->scanDetail().contains(QStringLiteral(" items · ")));
+    model().cancelScan();
+    EXPECT_TRUE(lens->idle());
+    machine.directories.release();
+    survey();
+    EXPECT_TRUE(lens->results());
+    EXPECT_FALSE(lens->resultTitle().isEmpty());
+    EXPECT_FALSE(lens->resultNote().isEmpty());
+}
+
+TEST_F(Modules, joinASurveyThatIsUnderWay) {
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    EXPECT_TRUE(module(Screen::clutter)->scanning());
+}
+
+}  // namespace zelk

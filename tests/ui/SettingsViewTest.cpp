@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "ViewFixture.h"
+#include "ui/settings/SettingsScreenModel.h"
+
+namespace zelk {
+
+namespace {
+
+using Roots = std::vector<std::string>;
+
+class SettingsWindow : public ViewFixture {
+protected:
+    ~SettingsWindow() override {
+        machine.directories.release();
+        close();
+    }
+    void open(QSize size = {460, 360}) {
+        show(QStringLiteral("Zelk.Settings"), QStringLiteral("SettingsView"), "settings", &settings, size);
+    }
+    /// Goes on with the Tab key to the control of this name.
+    void tabTo(const std::string& name) {
+        for (int stop = 0; stop < 40 && focusName() != name; ++stop) press(Qt::Key_Tab);
+        ASSERT_EQ(focusName(), name);
+    }
+    bool shows(const std::string& text) {
+        const std::vector<std::string> texts = seenTexts();
+        return std::find(texts.begin(), texts.end(), text) != texts.end();
+    }
+
+    std::optional<std::string> chosen;
+    SettingsScreenModel settings{model(), [this] { return chosen; }};
+};
+
+}  // namespace
+
+TEST_F(SettingsWindow, showsEveryTextInItsOrder) {
+    open({640, 900});
+    for (const char* text :
+         {"/home/me", "Add folder…", "Age filter default: 14 days", "Delete permanently by default",
+          "Off keeps cleanup reversible (moves to Trash).", "Theme", "System", "Light", "Dark", "Re-scan now"})
+        EXPECT_TRUE(shows(text)) << text;
+}
+
+TEST_F(SettingsWindow, tabGoesFromTheTopToTheBottomInBothSizes) {
+    open();
+    const std::vector<std::string> order = tabOrder();
+    const auto place = [&](const std::string& name) {
+        return std::find(order.begin(), order.end(), name) - order.begin();
+    };
+    EXPECT_LT(place("Remove /home/me"), place("Add folder…"));
+    EXPECT_LT(place("Add folder…"), place("Delete permanently by default"));
+    EXPECT_LT(place("Delete permanently by default"), place("Re-scan now"));
+    EXPECT_LT(place("Re-scan now"), static_cast<std::ptrdiff_t>(order.size()));
+}
+
+TEST_F(SettingsWindow, scrollsToWhatHasTheKeyboard) {
+    open();
+    for (int stop = 0; stop < 10; ++stop) {
+        expectFocusInSight();
+        press(Qt::Key_Tab);
+    }
+    tabTo("Re-scan now");
+    expectFocusInSight();
+}
+
+TEST_F(SettingsWindow, namesAllItsControls) {
+    open({640, 900});
+    expectAllControlsNamed();
+}
+
+TEST_F(SettingsWindow, aFolderIsAddedFromTheKeyboard) {
+    machine.directories.directory("/data");
+    chosen = "/data";
+    open();
+    tabTo("Add folder…");
+    press(Qt::Key_Return);
+    EXPECT_EQ(model().scanRoots(), (Roots{home, "/data"}));
+    EXPECT_TRUE(shows("/data"));
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(SettingsWindow, removingFromTheKeyboardLeavesItInTheList) {
+    model().setScanRoots({"/a", "/b", "/c"});
+    open();
+    tabTo("Remove /b");
+    press(Qt::Key_Space);
+    EXPECT_EQ(model().scanRoots(), (Roots{"/a", "/c"}));
+    EXPECT_EQ(focusName(), "Remove /c");
+    EXPECT_TRUE(focusIsRinged());
+    press(Qt::Key_Space);
+    EXPECT_EQ(focusName(), "Remove /a");
+    press(Qt::Key_Space);
+    EXPECT_EQ(focusName(), "Add folder…");
+    EXPECT_TRUE(shows(settings.noRootsLine().toStdString())) << "an empty list says so";
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(SettingsWindow, theAgeIsSteppedFromTheKeyboardAndStopsAtZero) {
+    open();
+    tabTo("Age filter default: 14 days");
+    press(Qt::Key_Up);
+    EXPECT_EQ(model().ageFilterDays(), 15);
+    EXPECT_TRUE(shows("Age filter default: 15 days"));
+    for (int step = 0; step < 20; ++step) press(Qt::Key_Down);
+    EXPECT_EQ(model().ageFilterDays(), 0);
+    EXPECT_TRUE(shows("Age filter default: all"));
+}
+
+TEST_F(SettingsWindow, theToggleIsSwitchedFromTheKeyboardAndFollowsTheModel) {
+    open();
+    tabTo("Delete permanently by default");
+    press(Qt::Key_Space);
+    EXPECT_TRUE(model().hardDeleteEnabled());
+    press(Qt::Key_Space);
+    EXPECT_FALSE(model().hardDeleteEnabled());
+    model().setHardDeleteEnabled(true);
+    EXPECT_TRUE(window().activeFocusItem()->property("checked").toBool());
+}
+
+TEST_F(SettingsWindow, theThemeIsPickedFromTheKeyboard) {
+    open();
+    tabTo("Dark");
+    press(Qt::Key_Left);
+    EXPECT_EQ(model().appearance(), AppModel::Appearance::light);
+    press(Qt::Key_Left);
+    EXPECT_EQ(model().appearance(), AppModel::Appearance::system);
+    press(Qt::Key_Right);
+    EXPECT_EQ(model().appearance(), AppModel::Appearance::light);
+}
+
+TEST_F(SettingsWindow, rescansFromTheKeyboard) {
+    open();
+    tabTo("Re-scan now");
+    press(Qt::Key_Return);
+    EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(SettingsWindow, aLongPathLosesItsMiddleAndIsToldWhole) {
+    const std::string path = "/beginning/" + std::string(200, 'n') + "/end";
+    model().setScanRoots({path});
+    open();
+    const QQuickItem* words = find("rootPath");
+    ASSERT_NE(words, nullptr);
+    EXPECT_TRUE(words->property("truncated").toBool());
+    EXPECT_LE(words->mapRectToScene(words->boundingRect()).right(), window().width());
+    EXPECT_EQ(words->property("elide").toInt(), static_cast<int>(Qt::ElideMiddle));
+    EXPECT_EQ(nameOf(find("rootPath")), path);
+}
+
+TEST_F(SettingsWindow, aNameThatIsNoTextIsRemovedLikeAnyOther) {
+    model().setScanRoots({home, "/data/caf\xe9"});
+    open();
+    tabTo("Remove /data/caf\xef\xbf\xbd");
+    press(Qt::Key_Space);
+    EXPECT_EQ(model().scanRoots(), Roots{home});
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(SettingsWindow, clipsNothingWhereTextIsLarge) {
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    open();
+    expectNoTextClipped();
+}
+
+}  // namespace zelk

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "ui/shell/StatusMenu.h"
+
+#include <gmock/gmock.h>
+
+#include <QMenu>
+
+#include "state/AppModelFixture.h"
+#include "ui/shell/StatusItem.h"
+#include "ui/text/DisplayText.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+
+class Status : public AppModelFixture {
+protected:
+    Status() {
+        machine.vitals.setVolume(home, VolumeInfo{1'000'000'000'000, 212'400'000'000, 212'400'000'000});
+        fillHome();
+        addWideFolder(home + "/wide");
+    }
+    ~Status() override { machine.directories.release(); }
+
+    /// A divider is "-", a line that does nothing stands in brackets.
+    std::vector<std::string> texts() {
+        std::vector<std::string> texts;
+        for (const StatusEntry& entry : menu.entries()) {
+            const std::string text = entry.text.toStdString();
+            texts.push_back(entry.isDivider() ? "-" : entry.run ? text : "[" + text + "]");
+        }
+        return texts;
+    }
+    void press(const std::string& start) {
+        for (const StatusEntry& entry : menu.entries())
+            if (entry.text.toStdString().starts_with(start)) return entry.run();
+        FAIL() << "no entry " << start;
+    }
+
+    int opens = 0;
+    int quits = 0;
+    StatusMenu menu{model(), [this] { ++opens; }, [this] { ++quits; }};
+};
+
+}  // namespace
+
+TEST_F(Status, offersASurveyAtTheStart) {
+    EXPECT_THAT(texts(), ElementsAre("[Free space: " + byteFigure(model().freeBytes()).toStdString() + "]", "-",
+                                     "Open Zelk", "Run survey", "-", "Quit Zelk"));
+}
+
+TEST_F(Status, tellsTheFreeSpaceOfTheVolume) {
+    survey();
+    EXPECT_EQ(texts().front(), "[Free space: 212.4 GB]");
+}
+
+TEST_F(Status, tellsHowMuchIsSurveyedInPlaceOfTheOffer) {
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    EXPECT_EQ(texts()[3], "[Surveying… 0 bytes]");
+    runUntil([&] { return model().bytesScanned() > 0; });
+    EXPECT_EQ(texts()[3], "[Surveying… " + byteFigure(model().bytesScanned()).toStdString() + "]");
+}
+
+TEST_F(Status, offersToCleanTheSafeCachesOnlyAfterAFinishedSurvey) {
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    EXPECT_EQ(texts().size(), 6U);
+    machine.directories.release();
+    survey();
+    EXPECT_THAT(texts(), ElementsAre("[Free space: 212.4 GB]", "-", "Open Zelk", "Run survey",
+                                     "Clean safe caches (50 MB)", "-", "Quit Zelk"));
+    model().cancelScan();
+    EXPECT_EQ(texts().size(), 6U);
+}
+
+TEST_F(Status, offersNothingToCleanWhereNothingIsSafe) {
+    machine.directories.directory("/home/me/empty");
+    model().setScanRoots({"/home/me/empty"});
+    survey();
+    EXPECT_EQ(texts().size(), 6U);
+}
+
+TEST_F(Status, cleansTheSafeCachesThroughTheModel) {
+    survey();
+    const int phases = timesSignalled("scanPhase");
+    press("Clean safe caches (");
+    runUntil([&] { return timesSignalled("scanPhase") > phases; });  // the survey that follows every cleaning
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(Status, runSurveyGoesToTheOverviewStartsOneAndOpensZelk) {
+    machine.directories.hold(home);
+    model().setSelection(Screen::lens);
+    press("Run survey");
+    EXPECT_EQ(model().selection(), Screen::survey);
+    EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    EXPECT_EQ(opens, 1);
+}
+
+TEST_F(Status, opensAndQuits) {
+    press("Open Zelk");
+    EXPECT_EQ(opens, 1);
+    press("Quit Zelk");
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(Status, saysThatItChangedAFewTimesASecondAndNoMore) {
+    int changes = 0;
+    QObject::connect(&menu, &StatusMenu::changed, &menu, [&] { ++changes; });
+    survey();
+    EXPECT_EQ(changes, 0) << "nothing is told in the midst of a report";
+    runUntil([&] { return changes == 1; });
+}
+
+TEST_F(Status, isShownAsAMenuThatKeepsItsEntriesWhileTheirTextsChange) {
+    StatusItem item(menu);
+    EXPECT_FALSE(item.present());
+    const QList<QAction*> before = item.menu().actions();
+    ASSERT_EQ(before.size(), 6);
+    EXPECT_FALSE(before[0]->isEnabled());
+    EXPECT_TRUE(before[1]->isSeparator());
+    emit menu.changed();
+    EXPECT_EQ(item.menu().actions(), before);
+    before[2]->trigger();
+    EXPECT_EQ(opens, 1);
+    survey();
+    runUntil([&] { return item.menu().actions().size() == 7; });
+    EXPECT_EQ(item.menu().actions()[4]->text(), QStringLiteral("Clean safe caches (50 MB)"));
+}
+
+TEST_F(Status, aDesktopWithoutATrayShowsNoneAndNothingBreaks) {
+    StatusItem item(menu);
+    item.start();
+    EXPECT_FALSE(item.present());
+}
+
+}  // namespace zelk

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "ViewFixture.h"
+#include "ui/tools/ToolsScreenModel.h"
+
+namespace zelk {
+
+namespace {
+
+class ToolsWindow : public ViewFixture {
+protected:
+    ~ToolsWindow() override { close(); }
+
+    void open(QSize size = {800, 620}) {
+        show(QStringLiteral("Zelk.Tools"), QStringLiteral("ToolsView"), "tools", &tools_, size);
+    }
+
+    static constexpr const char* first =
+        "Overview. Scan your whole Mac and see space by type, the biggest files, and "
+        "how it changes over time.";
+
+private:
+    ToolsScreenModel tools_{model()};
+};
+
+}  // namespace
+
+TEST_F(ToolsWindow, showsItsHeaderAndEveryTextOfEveryRow) {
+    open({800, 1400});
+    const std::vector<std::string> texts = seenTexts();
+    for (const char* text : {"Tools", "everything Zelk can do", "Duplicates",
+                             "Find byte-identical files across your folders.", "keep one copy, trash the rest"})
+        EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
+    EXPECT_EQ(texts.size(), 2U + 10U + 10U + 4U) << "a row without a cleanup leaves no empty line";
+}
+
+TEST_F(ToolsWindow, tabGoesThroughAllRowsFromTheFirst) {
+    open();
+    EXPECT_EQ(focusName(), first);
+    const std::vector<std::string> order = tabOrder();
+    ASSERT_EQ(order.size(), 10U);
+    EXPECT_EQ(order[2].rfind("Lens. ", 0), 0U) << order[2];
+    EXPECT_EQ(order[9].rfind("System. ", 0), 0U) << order[9];
+}
+
+TEST_F(ToolsWindow, keepsTheRowWithTheKeyboardInSight) {
+    open();
+    for (int row = 0; row < 10; ++row) {
+        expectFocusInSight();
+        press(Qt::Key_Tab);
+    }
+    expectFocusInSight();
+}
+
+TEST_F(ToolsWindow, aRowIsPressedFromTheKeyboard) {
+    open();
+    model().setSelection(Screen::tools);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(focusIsRinged());
+    press(Qt::Key_Return);
+    EXPECT_EQ(model().selection(), Screen::reclaim);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    EXPECT_EQ(model().selection(), Screen::lens);
+}
+
+TEST_F(ToolsWindow, aRowIsPressedAnywhereOnIt) {
+    open({800, 1400});
+    for (QQuickItem* item : seen()) {
+        if (!item->inherits("QQuickText") || item->property("text").toString() != QStringLiteral("Health")) continue;
+        const QPointF title = item->mapToScene(item->boundingRect().center());
+        tour::clickAt(window(), QPointF(window().width() - 60, title.y() + 20));
+    }
+    EXPECT_EQ(model().selection(), Screen::health);
+}
+
+TEST_F(ToolsWindow, namesEveryRow) {
+    open({800, 1400});
+    expectAllControlsNamed();
+}
+
+TEST_F(ToolsWindow, clipsNothingWhereTextIsLarge) {
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    open({726, 620});
+    expectNoTextClipped();
+}
+
+}  // namespace zelk
