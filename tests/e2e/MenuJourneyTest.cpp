@@ -38,7 +38,7 @@ TEST_F(Menus, controlRDuringASurveyDoesNothing) {
 }
 
 TEST_F(Menus, controlAndAQuestionMarkOpensTheHelp) {
-    press(Qt::Key_Question, Qt::ControlModifier | Qt::ShiftModifier);
+    press(Qt::Key_Question, Qt::ControlModifier);
     EXPECT_NE(main().secondary().find(WindowId::help), nullptr);
 }
 
@@ -69,10 +69,9 @@ TEST_F(Menus, theMouseOpensAMenuAndChoosesAnEntry) {
 
 TEST_F(Menus, theKeyboardAloneOpensAMenuAndChoosesAnEntry) {
     press(Qt::Key_F10);
-    EXPECT_EQ(focusName(), QStringLiteral("menuTitleZelk"));
+    runUntil([&] { return find("menuAbout Zelk") != nullptr; });
     press(Qt::Key_Right);
     press(Qt::Key_Right);
-    press(Qt::Key_Down);
     runUntil([&] { return find("menuOverview") != nullptr; });
     press(Qt::Key_Down);
     press(Qt::Key_Down);
@@ -91,7 +90,7 @@ TEST_F(Menus, escapeClosesAMenuAndGivesTheKeyboardBack) {
     runUntil([&] { return find("menuSystem") != nullptr; });
     press(Qt::Key_Escape);
     runUntil([&] { return find("menuSystem") == nullptr; });
-    EXPECT_EQ(window().activeFocusItem(), before);
+    EXPECT_EQ(window().activeFocusItem(), before) << focusName().toStdString();
 }
 
 }  // namespace zelk

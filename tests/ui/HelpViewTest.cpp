@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
 #include "ViewFixture.h"
 #include "ui/help/HelpModel.h"
 
@@ -89,7 +91,8 @@ TEST_F(HelpWindow, theListIsAListToAScreenReader) {
     open();
     QAccessibleInterface* row = QAccessible::queryAccessibleInterface(window().activeFocusItem());
     ASSERT_NE(row, nullptr);
-    EXPECT_EQ(row->role(), QAccessible::ListItem);
+    // To Qt 6.4 whatever can be pressed is a button.
+    EXPECT_THAT(row->role(), testing::AnyOf(QAccessible::ListItem, QAccessible::Button));
     EXPECT_TRUE(row->state().selected);
     expectAllControlsNamed();
 }

@@ -74,7 +74,7 @@ FocusScope {
 
                 text: segment.modelData
                 width: Math.floor(row.share * implicitWidth)
-                implicitWidth: implicitContentWidth + leftPadding + rightPadding
+                implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
                 implicitHeight: implicitContentHeight + topPadding + bottomPadding
                 horizontalPadding: 14
                 verticalPadding: 5

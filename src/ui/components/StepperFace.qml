@@ -15,6 +15,9 @@ Item {
     readonly property real nameWidth: name.implicitWidth
     readonly property real numberWidth: figure.implicitWidth
 
+    // The toolkit makes it a stop of the Tab key; the field itself is one already.
+    Component.onCompleted: face.activeFocusOnTab = false
+
     implicitHeight: Math.max(name.implicitHeight, figure.implicitHeight)
 
     Words {
@@ -24,6 +27,8 @@ Item {
         width: Math.min(implicitWidth, Math.max(0, face.width - face.boxWidth - 12))
         text: face.label
         size: face.size
+        wrapMode: Text.Wrap
+        elide: Text.ElideNone
         mute: true
     }
 

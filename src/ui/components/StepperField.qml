@@ -23,7 +23,7 @@ T.SpinBox {
     readonly property real buttonSide: Math.round(26 * TextScale.factor)
     readonly property real boxWidth: 2 * stepper.buttonSide + Math.max(36 * TextScale.factor, (stepper.face?.numberWidth ?? 0) + 16)
 
-    implicitWidth: (stepper.face?.nameWidth ?? 0) + 12 + stepper.boxWidth
+    implicitWidth: Math.ceil((stepper.face?.nameWidth ?? 0) + 12 + stepper.boxWidth)
     implicitHeight: Math.max(stepper.buttonSide + 4, implicitContentHeight)
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true

@@ -58,16 +58,22 @@ FocusScope {
         Loader {
             id: results
 
-            property bool wanted: false
+            readonly property bool wanted: scaffold.module.results
+
+            function keep() {
+                if (results.wanted)
+                    results.active = true;
+            }
 
             anchors.top: header.bottom
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            active: results.wanted || scaffold.module.results
+            active: false
             sourceComponent: scaffold.content
             focus: true
-            onLoaded: results.wanted = true
+            onWantedChanged: results.keep()
+            Component.onCompleted: results.keep()
         }
     }
 }

@@ -16,8 +16,11 @@ Loader {
 
     signal arrived
 
+    // While it is being made itself, not all that a build needs is there.
+    property bool made: false
+
     function build() {
-        if (page.built)
+        if (page.made && page.built)
             page.setSource(page.view, page.pages.given(page.index));
     }
 
@@ -25,6 +28,7 @@ Loader {
     visible: page.current
 
     Component.onCompleted: {
+        page.made = true;
         page.build();
         if (page.current)
             page.arrived();

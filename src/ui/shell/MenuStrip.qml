@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The menu bar of a system that has none of its own: in the window, in the theme, and with the same entries. F10 goes
-// to it, as does Alt with the first letter of a menu.
+// The menu bar of a system that has none of its own: in the window, in the theme, and with the same entries. F10 opens
+// the first menu, Alt with the first letter of one opens that.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -13,6 +13,29 @@ T.MenuBar {
     id: bar
 
     required property AppCommands commands
+
+    // What had the keyboard before the first menu opened, and how many are open.
+    property Item before: null
+    property int opened: 0
+
+    function enter() {
+        if (bar.opened++ === 0 && !bar.before)
+            bar.before = bar.Window.activeFocusItem;
+    }
+
+    // One menu may have closed for the next.
+    function leave() {
+        --bar.opened;
+        Qt.callLater(bar.giveBack);
+    }
+
+    function giveBack() {
+        if (bar.opened > 0)
+            return;
+        if (bar.before?.visible)
+            bar.before.forceActiveFocus(Qt.MenuBarFocusReason);
+        bar.before = null;
+    }
 
     implicitWidth: contentWidth + leftPadding + rightPadding
     implicitHeight: contentHeight + topPadding + bottomPadding
@@ -52,6 +75,8 @@ T.MenuBar {
             required property CommandMenu modelData
 
             commands: modelData
+            onAboutToShow: bar.enter()
+            onClosed: bar.leave()
         }
         onObjectAdded: (index, object) => bar.insertMenu(index, object as T.Menu)
     }
@@ -74,6 +99,6 @@ T.MenuBar {
     Shortcut {
         sequence: "F10"
         enabled: bar.enabled
-        onActivated: (bar.itemAt(0) as MenuTitle)?.forceActiveFocus(Qt.MenuBarFocusReason)
+        onActivated: (bar.itemAt(0) as MenuTitle)?.triggered()
     }
 }

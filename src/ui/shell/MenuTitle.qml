@@ -14,6 +14,8 @@ T.MenuBarItem {
 
     objectName: "menuTitle" + item.plainText
     text: "&" + item.plainText
+    // Menus have keys of their own, and leave the keyboard where it is.
+    focusPolicy: Qt.NoFocus
     implicitWidth: label.implicitWidth + 20
     implicitHeight: Math.max(24, label.implicitHeight + 6)
     Accessible.name: item.plainText

@@ -52,7 +52,6 @@ FocusScope {
         objectName: "surveyScroll"
         anchors.fill: parent
         contentHeight: page.height
-        focus: true
 
         Item {
             id: page
