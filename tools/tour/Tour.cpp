@@ -3,10 +3,16 @@
 
 #include <QDir>
 #include <cstdio>
+#include <map>
 
 #include "Camera.h"
+#include "platform/Preferences.h"
+#include "platform/Workspace.h"
+#include "ui/components/ScreenLook.h"
+#include "ui/navigation/SidebarModel.h"
 #include "ui/survey/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
+#include "ui/theme/TextScale.h"
 
 namespace zelk::tour {
 
@@ -14,19 +20,39 @@ namespace {
 
 // Behind the second report of a survey's progress, so that the picture has figures.
 constexpr std::int64_t midScanEntries = 60'000;
+constexpr double largeText = 1.5;
+constexpr QSize leastSize(960, 620);
 
 const QString scanButton = QStringLiteral("scanButton");
 
-/// Always false.
-bool missed(const QString& theme, const char* phase) {
-    std::fprintf(stderr, "tour: missed %s in the %s theme\n", phase, qPrintable(theme));
-    return false;
+/// As at the first start of all. What is answered is forgotten with it.
+class NothingAnswered : public Preferences {
+public:
+    bool flag(const std::string& key) override { return flags_[key]; }
+    void setFlag(const std::string& key, bool value) override { flags_[key] = value; }
+
+private:
+    std::map<std::string, bool> flags_;
+};
+
+/// For pictures only: nothing is opened from here.
+class QuietWorkspace : public Workspace {
+public:
+    std::vector<std::string> runningApplications() override { return {}; }
+    void reveal(const std::vector<std::string>&) override {}
+    void openURL(const std::string&) override {}
+};
+
+bool appears(QQuickWindow& window, const char* name) {
+    // What a model brings is laid out with the next frame.
+    window.grabWindow();
+    return findControl(window, QString::fromLatin1(name)) != nullptr;
 }
 
 }  // namespace
 
 Tour::Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize size)
-    : app_(app), directories_(directories), folder_(std::move(folder)), window_(app) {
+    : app_(app), directories_(directories), folder_(std::move(folder)), size_(size), window_(app) {
     // A picture shows where things come to rest, not a moment on their way.
     window_.motion().setReduced(true);
     window_.window().resize(size);
@@ -35,66 +61,169 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize
 }
 
 bool Tour::run() {
-    for (const bool dark : {true, false}) {
-        const QString theme = dress(dark);
-        if (!idle(theme) || !picture(theme + QStringLiteral("-idle"))) return false;
-        if (!survey(theme, !dark)) return false;
-    }
-    return focus(dress(true)) && focus(dress(false));
+    return inTheme(true) && inTheme(false);
 }
 
-QString Tour::dress(bool dark) {
+bool Tour::inTheme(bool dark) {
     app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
-    return dark ? QStringLiteral("dark") : QStringLiteral("light");
+    theme_ = dark ? QStringLiteral("dark") : QStringLiteral("light");
+    return idle() && heroes() && survey(!dark) && findings() && changes() && sidebarAndMenus() && windows() &&
+           firstRun() && smallAndLarge() && focus();
 }
 
 /// From the results of the last survey back to the start.
-bool Tour::idle(const QString& theme) {
+bool Tour::idle() {
+    if (!go(Screen::survey)) return false;
     app_.cancelScan();
-    return app_.scanPhase() == AppModel::ScanPhase::idle || missed(theme, "the start");
+    return app_.scanPhase() == AppModel::ScanPhase::idle ? picture(QStringLiteral("survey-idle")) : missed("the start");
 }
 
-/// Where the keyboard is: around the button, which is where a ring stands out least.
-bool Tour::focus(const QString& theme) {
-    if (!idle(theme)) return false;
-    pressKey(window_.window(), Qt::Key_Tab);
-    pressKey(window_.window(), Qt::Key_Backtab);
-    const QQuickItem* focused = window_.window().activeFocusItem();
-    if (focused == nullptr || focused->objectName() != scanButton) return missed(theme, "the button's focus");
-    return picture(theme + QStringLiteral("-focus"));
+bool Tour::heroes() {
+    for (const Screen screen : allScreens) {
+        if (screen == Screen::survey) continue;
+        if (!go(screen) || !picture(lookOf(screen).title.toLower())) return false;
+    }
+    return go(Screen::survey);
 }
 
-bool Tour::survey(const QString& theme, bool withKeyboard) {
+bool Tour::survey(bool withKeyboard) {
     const auto scanning = [this] { return app_.scanPhase() == AppModel::ScanPhase::scanning; };
     const auto stoppedOrOver = [&] { return directories_.paused() || !scanning(); };
 
     directories_.pauseAfter(0);
-    if (withKeyboard)
+    if (withKeyboard) {
+        findControl(window_.window(), scanButton)->forceActiveFocus();
         pressKey(window_.window(), Qt::Key_Return);
-    else if (!clickOn(window_.window(), scanButton))
-        return missed(theme, "the scan button");
+    } else if (!clickOn(window_.window(), scanButton)) {
+        return missed("the scan button");
+    }
     waitUntil(stoppedOrOver);
-    if (!scanning()) return missed(theme, "the beginning of a survey");
-    if (!picture(theme + QStringLiteral("-scanning"))) return false;
+    if (!scanning()) return missed("the beginning of a survey");
+    if (!picture(QStringLiteral("survey-beginning"))) return false;
 
     // On a tree of some size there is a better moment.
     directories_.pauseAfter(midScanEntries);
     waitUntil([&] { return !scanning() || (directories_.paused() && app_.itemsScanned() > 0); });
     if (scanning()) {
         waitUntil([&] { return !scanning() || window_.survey().itemsLine() != QStringLiteral("0 items"); });
-        if (!picture(theme + QStringLiteral("-scanning"))) return false;
+        if (!picture(QStringLiteral("survey-scanning"))) return false;
+        if (!go(Screen::lens) || !picture(QStringLiteral("lens-scanning")) || !go(Screen::survey)) return false;
     }
     directories_.resume();
 
     waitUntil([&] { return !scanning(); });
-    if (app_.scanPhase() != AppModel::ScanPhase::finished) return missed(theme, "the end of a survey");
-    return picture(theme + QStringLiteral("-finished"));
+    return app_.scanPhase() == AppModel::ScanPhase::finished || missed("the end of a survey");
 }
 
-bool Tour::picture(const QString& name) {
-    restPointer(window_.window());
-    const QString file = QDir(folder_).filePath(QStringLiteral("survey-%1.png").arg(name));
-    if (!photograph(window_.window(), file)) {
+/// What was found, from the top to the foot, and what another module says then.
+bool Tour::findings() {
+    window_.survey().appear();
+    waitUntil([this] { return !app_.trashLoading(); });
+    if (!picture(QStringLiteral("survey-finished"))) return false;
+    QQuickItem* scroll = findControl(window_.window(), QStringLiteral("surveyScroll"));
+    if (scroll == nullptr) return missed("what the survey found");
+    for (const QString& part : {QStringLiteral("findings"), QStringLiteral("foot")}) {
+        const double end = scroll->property("contentHeight").toReal() - scroll->height();
+        scroll->setProperty("contentY", std::min(end, scroll->property("contentY").toReal() + 0.85 * scroll->height()));
+        if (!picture(QStringLiteral("survey-") + part)) return false;
+    }
+    scroll->setProperty("contentY", 0);
+    return go(Screen::lens) && picture(QStringLiteral("lens-after-survey")) && go(Screen::survey);
+}
+
+/// Where the survey before this one found other sizes.
+bool Tour::changes() {
+    TrendsModel& trends = *window_.survey().trends();
+    if (!trends.hasChanges()) return true;
+    trends.openChanges();
+    if (!appears(window_.window(), "changesDone")) return missed("the sheet of changes");
+    const bool taken = picture(QStringLiteral("survey-changes"));
+    pressKey(window_.window(), Qt::Key_Escape);
+    return taken && (!trends.showChanges() || missed("the end of the sheet"));
+}
+
+bool Tour::windows() {
+    for (const auto& [id, name] : {std::pair(WindowId::about, "window-about"), std::pair(WindowId::help, "window-help"),
+                                   std::pair(WindowId::settings, "window-settings")}) {
+        QQuickWindow& window = window_.openWindow(id);
+        waitUntil([&] { return window.isExposed(); });
+        if (!picture(window, QString::fromLatin1(name))) return false;
+        window.close();
+    }
+    return true;
+}
+
+bool Tour::sidebarAndMenus() {
+    window_.sidebar().setCollapsed(true);
+    if (!picture(QStringLiteral("sidebar-collapsed"))) return false;
+    window_.sidebar().setCollapsed(false);
+    if (!clickOn(window_.window(), QStringLiteral("menuTitleGo")) || !appears(window_.window(), "menuOverview"))
+        return missed("the menu");
+    const bool taken = picture(QStringLiteral("menu"));
+    pressKey(window_.window(), Qt::Key_Escape);
+    return taken;
+}
+
+bool Tour::firstRun() {
+    NothingAnswered preferences;
+    QuietWorkspace workspace;
+    WindowServices services;
+    services.preferences = &preferences;
+    services.workspace = &workspace;
+    services.accessGranted = [] { return false; };
+    MainWindow first(app_, services);
+    first.motion().setReduced(true);
+    first.window().resize(size_);
+    first.show();
+    waitUntil([&] { return first.window().isExposed() && first.window().isActive(); });
+    for (int page = 1; appears(first.window(), "primaryButton"); ++page) {
+        if (!picture(first.window(), QStringLiteral("welcome-%1").arg(page))) return false;
+        if (!clickOn(first.window(), QStringLiteral("primaryButton"))) return missed("a page of the welcome");
+    }
+    if (!appears(first.window(), "continueButton")) return missed("the question for access");
+    return picture(first.window(), QStringLiteral("welcome-access"));
+}
+
+bool Tour::smallAndLarge() {
+    QQmlEngine& engine = *qmlEngine(findControl(window_.window(), scanButton));
+    auto& text = *engine.singletonInstance<TextScale*>(qmlTypeId("Zelk.Theme", 1, 0, "TextScale"));
+    bool taken = true;
+    const auto resize = [this](QSize size) {
+        window_.window().resize(size);
+        waitUntil([&] { return window_.window().contentItem()->size() == QSizeF(size); });
+    };
+    resize(leastSize);
+    text.setFactor(largeText);
+    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::tools, Screen::settings})
+        taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
+    text.setFactor(1);
+    resize(size_);
+    return taken && go(Screen::survey);
+}
+
+/// Where the keyboard is: around the button, which is where a ring stands out least.
+bool Tour::focus() {
+    app_.cancelScan();
+    findControl(window_.window(), scanButton)->forceActiveFocus(Qt::TabFocusReason);
+    return picture(QStringLiteral("survey-focus"));
+}
+
+bool Tour::go(Screen screen) {
+    const QString row = QStringLiteral("sidebar") + lookOf(screen).title;
+    window_.window().grabWindow();
+    return (clickOn(window_.window(), row) && app_.selection() == screen) || missed(qPrintable(row));
+}
+
+/// Always false.
+bool Tour::missed(const char* what) const {
+    std::fprintf(stderr, "tour: missed %s in the %s theme\n", what, qPrintable(theme_));
+    return false;
+}
+
+bool Tour::picture(QQuickWindow& window, const QString& name) {
+    restPointer(window);
+    const QString file = QDir(folder_).filePath(QStringLiteral("%1-%2.png").arg(name, theme_));
+    if (!photograph(window, file)) {
         std::fprintf(stderr, "tour: no picture at %s\n", qPrintable(file));
         return false;
     }

@@ -9,24 +9,38 @@
 
 namespace zelk::tour {
 
-/// One walk through the window with its pictures in `folder`. It prints each picture's path.
+/// One walk through the application with its pictures in `folder`. It prints each picture's path.
 class Tour {
 public:
     Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize size);
 
-    /// All phases in both themes, and the keyboard's place. False if one was missed or a picture could not be taken.
+    /// Every screen, window and sheet in both themes, every phase of a survey, large text and little room. False if
+    /// something was missed or a picture could not be taken.
     bool run();
 
 private:
-    QString dress(bool dark);
-    bool idle(const QString& theme);
-    bool survey(const QString& theme, bool withKeyboard);
-    bool focus(const QString& theme);
-    bool picture(const QString& name);
+    bool inTheme(bool dark);
+    bool idle();
+    bool heroes();
+    bool survey(bool withKeyboard);
+    bool findings();
+    bool changes();
+    bool windows();
+    bool sidebarAndMenus();
+    bool firstRun();
+    bool smallAndLarge();
+    bool focus();
+
+    bool go(Screen screen);
+    bool missed(const char* what) const;
+    bool picture(const QString& name) { return picture(window_.window(), name); }
+    bool picture(QQuickWindow& window, const QString& name);
 
     AppModel& app_;
     PausingDirectories& directories_;
     QString folder_;
+    QSize size_;
+    QString theme_;
     MainWindow window_;
 };
 

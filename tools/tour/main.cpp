@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// tour --out DIR --root PATH [--size WxH]: runs the real window on the real file system without a display, presses its
-// buttons, and leaves one picture per phase and theme in DIR. Fails if a phase was missed. The user's own history is
-// left alone: that of the tour goes to a folder that is thrown away.
+// tour --out DIR --root PATH [--home DIR] [--size WxH]: runs the real window on the real file system without a display,
+// presses its buttons, and leaves a picture of every screen and state in both themes in DIR. Fails if one was missed.
+// The user's own history is left alone: that of the tour goes to a folder that is thrown away. With --home all of it,
+// records and Trash too, is that of a home made by tools/sample_home.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -9,6 +10,7 @@
 #include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include "PausingDirectories.h"
 #include "ScratchLocations.h"
@@ -28,14 +30,22 @@ QSize sizeFrom(const QString& text) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
+    // What tells where the user's things are must be in place before anything asks.
+    for (int i = 1; i + 1 < argc; ++i) {
+        if (std::strcmp(argv[i], "--home") != 0) continue;
+        qputenv("HOME", QDir(QString::fromLocal8Bit(argv[i + 1])).absolutePath().toLocal8Bit());
+        qunsetenv("XDG_DATA_HOME");
+    }
     QApplication application(argc, argv);
     zelk::dressApplication();
 
     QCommandLineParser options;
-    options.setApplicationDescription(QStringLiteral("Takes pictures of every phase of a survey in both themes."));
+    options.setApplicationDescription(QStringLiteral("Takes pictures of every screen in both themes."));
     options.addHelpOption();
     options.addOption({QStringLiteral("out"), QStringLiteral("Folder for the pictures."), QStringLiteral("DIR")});
     options.addOption({QStringLiteral("root"), QStringLiteral("What to survey."), QStringLiteral("PATH")});
+    options.addOption(
+        {QStringLiteral("home"), QStringLiteral("Whose records and Trash are shown."), QStringLiteral("DIR")});
     options.addOption({QStringLiteral("size"), QStringLiteral("Size of the window."), QStringLiteral("WxH"),
                        QStringLiteral("1120x720")});
     options.process(application);
@@ -53,8 +63,9 @@ int main(int argc, char** argv) {
     const zelk::Platform& real = native.platform();
     zelk::tour::PausingDirectories directories(real.directories);
     zelk::tour::ScratchLocations locations(real.locations, support.path().toStdString());
+    zelk::Locations& places = options.isSet(QStringLiteral("home")) ? real.locations : locations;
     const zelk::Platform platform{real.clock, directories, real.files,     real.trash,    real.vitals,
-                                  locations,  real.tasks,  real.processes, real.workspace};
+                                  places,     real.tasks,  real.processes, real.workspace};
 
     bool complete = false;
     {

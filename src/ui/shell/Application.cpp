@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
+#include <utility>
 
 #include "ui/navigation/HouseTile.h"
 #include "ui/symbols/SymbolItem.h"
@@ -59,6 +60,9 @@ QIcon statusIcon() {
 }
 
 void registerInterface() {
+    // A type registered again is another type: an engine would have every singleton twice.
+    static bool registered = false;
+    if (std::exchange(registered, true)) return;
     qml_register_types_Zelk_Theme();
     qml_register_types_Zelk_Symbols();
     qml_register_types_Zelk_Components();

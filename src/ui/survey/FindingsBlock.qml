@@ -32,6 +32,7 @@ Column {
     }
 
     Eyebrow {
+        bottomPadding: -8
         text: block.survey.findings.heading
         Accessible.role: Accessible.Heading
     }

@@ -3,13 +3,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Theme
+import Zelk.Components
 
-Text {
+Words {
     anchors.horizontalCenter: parent?.horizontalCenter
-    color: Theme.inkSoft
+    soft: true
     horizontalAlignment: Text.AlignHCenter
-    textFormat: Text.PlainText
-    Accessible.role: Accessible.StaticText
-    Accessible.name: text
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The scan button and, under it, what its phase has to say. The three texts share one place, as high as the highest of
-// them, so that nothing moves when the phase does.
+// The scan button and, under it, what its phase has to say. The texts share one place, and as long as nothing has been
+// found it is as high as the highest of them, so that nothing moves when the phase does.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -51,7 +51,8 @@ FocusScope {
         Item {
             anchors.left: parent.left
             anchors.right: parent.right
-            implicitHeight: Math.max(idle.implicitHeight, progress.implicitHeight, done.implicitHeight)
+            // What was found follows close by.
+            implicitHeight: hero.survey.finished ? done.implicitHeight : Math.max(idle.implicitHeight, progress.implicitHeight)
 
             HeroPhase {
                 id: idle
@@ -61,7 +62,7 @@ FocusScope {
 
                 HeroText {
                     text: hero.survey.idleLine
-                    font.pixelSize: 14
+                    size: 14
                 }
 
                 FlowRow {
@@ -101,7 +102,7 @@ FocusScope {
                 HeroText {
                     width: Math.min(420, progress.width)
                     text: hero.survey.pathLine
-                    font.pixelSize: 11
+                    size: 11
                     elide: Text.ElideMiddle
                     maximumLineCount: 1
                 }
@@ -127,7 +128,7 @@ FocusScope {
 
                 HeroText {
                     text: hero.survey.finishedLine
-                    font.pixelSize: 11
+                    size: 11
                 }
             }
         }
