@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "ui/components/Spoken.h"
+
+#include <gtest/gtest.h>
+
+namespace zelk {
+
+TEST(Spoken, saysTextsOneAfterTheOtherWithPauses) {
+    EXPECT_EQ(Spoken::joined({QStringLiteral("Large Files"), QStringLiteral("12 GB"), QStringLiteral("40 items")}),
+              QStringLiteral("Large Files, 12 GB, 40 items"));
+}
+
+TEST(Spoken, makesNoPauseForWhatIsEmpty) {
+    EXPECT_EQ(Spoken::joined({QStringLiteral(""), QStringLiteral("12 GB"), QString(), QStringLiteral("40 items"),
+                              QStringLiteral("")}),
+              QStringLiteral("12 GB, 40 items"));
+}
+
+TEST(Spoken, ofNothingSaysNothing) {
+    EXPECT_EQ(Spoken::joined({}), QString());
+    EXPECT_EQ(Spoken::joined({QStringLiteral(""), QStringLiteral("")}), QString());
+}
+
+}  // namespace zelk
