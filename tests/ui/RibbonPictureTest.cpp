@@ -126,17 +126,18 @@ TEST(StorageRibbon, neverLosesAHairOfASection) {
     EXPECT_GT(bars[0].rect.width(), 0);
 }
 
-TEST(StorageRibbon, takesTheFreeSpaceOfTheLargestDrive) {
+TEST(StorageRibbon, paintsTheFreeSpaceOfAThousandTerabytes) {
     RibbonPicture picture;
-    picture.setFreeBytes(static_cast<double>(std::numeric_limits<std::int64_t>::max()));
-    picture.setSegments(segmentsOf({5}));
     picture.setSize({400, 22});
+    picture.setSegments(segmentsOf({1'000'000'000'000'000}));
+    picture.setFreeBytes(1e15);
+    picture.setFreeColor(Qt::green);
     QImage shown(400, 22, QImage::Format_ARGB32_Premultiplied);
     shown.fill(Qt::black);
     QPainter painter(&shown);
-    picture.setFreeColor(Qt::green);
     picture.paint(&painter);
-    EXPECT_EQ(shown.pixelColor(200, 11), QColor(Qt::green));
+    EXPECT_EQ(shown.pixelColor(190, 11), colors[0]);
+    EXPECT_EQ(shown.pixelColor(210, 11), QColor(Qt::green));
 }
 
 }  // namespace zelk

@@ -81,8 +81,18 @@ TEST(RingPicture, isThereAtOnceWhereItStandsStill) {
     EXPECT_EQ(ring.shown(), 1);
 }
 
+TEST(RingPicture, springsFromWhereItIs) {
+    RingPicture ring;
+    ring.setValue(0.6);
+    EXPECT_EQ(ring.value(), 0.6);
+    EXPECT_EQ(ring.shown(), 0.001);
+    ring.setStill(true);
+    EXPECT_EQ(ring.shown(), 0.6) << "what stands still does not go on springing";
+}
+
 TEST(RingPicture, startsWhereItsFirstValueIs) {
     RingPicture ring;
+    static_cast<QQmlParserStatus&>(ring).classBegin();
     ring.setValue(0.6);
     EXPECT_EQ(ring.shown(), 0.6) << "what is not yet on screen has nowhere to spring from";
 }

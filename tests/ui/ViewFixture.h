@@ -50,14 +50,17 @@ protected:
 
     /// Shows the view of a module that takes `model` as its `property`, filling a window of this size.
     void show(const QString& module, const QString& type, const char* property, QObject* model, QSize size) {
+        show(QStringLiteral("import QtQuick\nimport %1\n%2 { focus: true }").arg(module, type), size,
+             {{QString::fromLatin1(property), QVariant::fromValue(model)}});
+    }
+    /// Shows what this text tells, filling a window of this size.
+    void show(const QString& source, QSize size, const QVariantMap& properties = {}) {
         QQmlComponent component(&engine_);
-        component.setData(QStringLiteral("import QtQuick\nimport %1\n%2 { focus: true }").arg(module, type).toUtf8(),
-                          QUrl(QStringLiteral("qrc:/test.qml")));
+        component.setData(source.toUtf8(), QUrl(QStringLiteral("qrc:/test.qml")));
         ASSERT_TRUE(component.isReady()) << component.errorString().toStdString();
         window_ = std::make_unique<QQuickWindow>();
         window_->resize(size);
-        view_.reset(qobject_cast<QQuickItem*>(
-            component.createWithInitialProperties({{QString::fromLatin1(property), QVariant::fromValue(model)}})));
+        view_.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
         ASSERT_NE(view_, nullptr) << component.errorString().toStdString();
         view_->setParentItem(window_->contentItem());
         view_->setSize(size);

@@ -17,9 +17,15 @@ T.AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: button.text
-    Accessible.onPressAction: button.clicked()
+    // Also asked of a button that is not to be pressed now.
+    Accessible.onPressAction: {
+        if (button.enabled)
+            button.clicked();
+    }
 
-    // A held key presses once.
+    // A held key presses once: what it repeats, on some systems with releases in between, is swallowed.
+    Keys.onSpacePressed: event => event.accepted = event.isAutoRepeat
+    Keys.onReleased: event => event.accepted = event.isAutoRepeat
     Keys.onReturnPressed: event => {
         if (!event.isAutoRepeat)
             button.clicked();

@@ -31,6 +31,8 @@ T.SpinBox {
 
     Accessible.name: stepper.label
     onValueModified: stepper.moved(stepper.value)
+    // The template makes its face a stop of its own for the Tab key, which no key works on and nobody could name.
+    Component.onCompleted: contentItem.activeFocusOnTab = false
 
     component StepFace: Item {
         id: step

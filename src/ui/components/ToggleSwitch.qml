@@ -24,15 +24,24 @@ T.Switch {
     opacity: toggle.enabled ? 1 : 0.45
 
     Accessible.name: toggle.text
+    Accessible.checkable: true
+    Accessible.checked: toggle.checked
+    Accessible.onPressAction: toggle.flip(false)
+    Accessible.onToggleAction: toggle.flip(false)
 
-    Keys.onReturnPressed: event => {
-        if (!event.isAutoRepeat)
-            toggle.click();
+    // As a finger does it, and once for a key that is held.
+    function flip(again: bool) {
+        if (again || !toggle.enabled)
+            return;
+        toggle.toggle();
+        toggle.toggled();
+        toggle.clicked();
     }
-    Keys.onEnterPressed: event => {
-        if (!event.isAutoRepeat)
-            toggle.click();
-    }
+
+    Keys.onSpacePressed: event => event.accepted = event.isAutoRepeat
+    Keys.onReleased: event => event.accepted = event.isAutoRepeat
+    Keys.onReturnPressed: event => toggle.flip(event.isAutoRepeat)
+    Keys.onEnterPressed: event => toggle.flip(event.isAutoRepeat)
 
     HoverHandler {
         cursorShape: Qt.PointingHandCursor
