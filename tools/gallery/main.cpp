@@ -83,6 +83,11 @@ int main(int argc, char** argv) {
     const auto dark = wall(zelk::ZelkTheme::dark(), textScale, !file.isEmpty());
     const auto light = wall(zelk::ZelkTheme::light(), textScale, !file.isEmpty());
     if (file.isEmpty()) return QGuiApplication::exec();
+    for (QQuickView* view : {dark.get(), light.get()}) {
+        // The first frame lays out what the height depends on.
+        view->grabWindow();
+        view->resize(view->width(), static_cast<int>(view->rootObject()->implicitHeight()));
+    }
     QCoreApplication::processEvents();
     if (photograph({dark.get(), light.get()}, file)) return EXIT_SUCCESS;
     std::fprintf(stderr, "gallery: cannot write %s\n", qPrintable(file));

@@ -59,6 +59,7 @@ Item {
             width: parent.width
             text: header.device.detail
             size: 11
+            wrapMode: Text.Wrap
             soft: true
         }
     }

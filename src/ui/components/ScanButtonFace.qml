@@ -13,10 +13,14 @@ Column {
     required property scanFace face
     required property bool shown
 
+    // What the disc holds across: a longer line, or a larger text, makes all of them smaller.
+    readonly property real room: 152
+    readonly property real fit: Math.min(1, lines.room / Math.max(1, lines.implicitWidth))
+
     anchors.centerIn: parent
     spacing: 2
     opacity: lines.shown ? 1 : 0
-    scale: lines.shown ? 1 : 0.9
+    scale: lines.fit * (lines.shown ? 1 : 0.9)
     visible: opacity > 0
 
     Behavior on opacity {
