@@ -7,6 +7,15 @@
 
 namespace zelk {
 
+namespace {
+
+/// The whole drive has no name but its slash.
+std::string_view lastComponent(std::string_view path) {
+    return path == "/" ? path : path.substr(path.rfind('/') + 1);
+}
+
+}  // namespace
+
 void ChangesModel::show(const FolderChanges& changes) {
     beginResetModel();
     rows_.clear();
@@ -92,7 +101,7 @@ QVariant ChangesModel::data(const QModelIndex& index, int role) const {
             return color(row.kind);
         case Qt::DisplayRole:
         case nameRole:
-            return displayText(path.substr(path.rfind('/') + 1));
+            return displayText(lastComponent(path));
         case pathRole:
             return displayText(path);
         case sizeRole:

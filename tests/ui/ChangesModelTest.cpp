@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "ui/survey/ChangesModel.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+
+std::string text(const ChangesModel& changes, int row, const char* role) {
+    return changes.data(changes.index(row), changes.roleNames().key(role)).toString().toStdString();
+}
+
+std::vector<std::string> texts(const ChangesModel& changes, const char* role) {
+    std::vector<std::string> all;
+    for (int row = 0; row < changes.rowCount(); ++row) all.push_back(text(changes, row, role));
+    return all;
+}
+
+QColor tint(const ChangesModel& changes, int row) {
+    return changes.data(changes.index(row), ChangesModel::tintRole).value<QColor>();
+}
+
+FolderChanges threeKinds() {
+    FolderChanges changes;
+    changes.grew = {{"/home/me/Films", 1'000'000'000, 3'000'000'000}, {"/home/me/Music", 100'000'000, 200'000'000}};
+    changes.appeared = {{"/home/me/New", 0, 400'000'000}};
+    changes.gone = {{"/home/me/Old", 600'000'000, 0}};
+    return changes;
+}
+
+}  // namespace
+
+TEST(Changes, theFixedTextsAreExact) {
+    const ChangesModel changes;
+    const std::pair<QString, const char*> table[] = {
+        {changes.title(), "What changed"},
+        {changes.subtitle(), "since your previous survey"},
+        {changes.doneLabel(), "Done"},
+        {changes.emptyLine(), "No notable folder changes since the last survey."},
+    };
+    for (const auto& [said, expected] : table) EXPECT_EQ(said.toStdString(), expected);
+}
+
+TEST(Changes, threeSectionsInOrderEachWithItsCount) {
+    ChangesModel changes;
+    changes.show(threeKinds());
+    EXPECT_FALSE(changes.empty());
+    EXPECT_THAT(texts(changes, "section"), ElementsAre("Grew (2)", "Grew (2)", "Appeared (1)", "Vanished (1)"));
+}
+
+TEST(Changes, aSectionWithoutRowsIsNotThere) {
+    ChangesModel changes;
+    FolderChanges some = threeKinds();
+    some.appeared.clear();
+    changes.show(some);
+    EXPECT_THAT(texts(changes, "section"), ElementsAre("Grew (2)", "Grew (2)", "Vanished (1)"));
+    some.grew.clear();
+    changes.show(some);
+    EXPECT_THAT(texts(changes, "section"), ElementsAre("Vanished (1)"));
+}
+
+TEST(Changes, theSectionsHaveTheirColours) {
+    ChangesModel changes;
+    changes.show(threeKinds());
+    EXPECT_EQ(tint(changes, 0), QColor(62, 155, 255));
+    EXPECT_EQ(tint(changes, 2), QColor(50, 199, 123));
+    EXPECT_EQ(tint(changes, 3), ZelkTheme::dark().inkSoft);
+    EXPECT_EQ(changes.sectionColor(QStringLiteral("Grew (2)")), QColor(62, 155, 255));
+    EXPECT_EQ(changes.sectionColor(QStringLiteral("Appeared (1)")), QColor(50, 199, 123));
+    EXPECT_EQ(changes.sectionColor(QStringLiteral("Vanished (1)")), ZelkTheme::dark().inkSoft);
+    changes.setTheme(ZelkTheme::light());
+    EXPECT_EQ(tint(changes, 0), QColor(62, 155, 255));
+    EXPECT_EQ(tint(changes, 3), ZelkTheme::light().inkSoft);
+}
+
+TEST(Changes, aRowHasTheLastComponentOverThePath) {
+    ChangesModel changes;
+    changes.show(threeKinds());
+    EXPECT_THAT(texts(changes, "name"), ElementsAre("Films", "Music", "New", "Old"));
+    EXPECT_THAT(texts(changes, "path"),
+                ElementsAre("/home/me/Films", "/home/me/Music", "/home/me/New", "/home/me/Old"));
+}
+
+TEST(Changes, theWholeDriveIsNamedByItsSlash) {
+    ChangesModel changes;
+    FolderChanges drive;
+    drive.grew = {{"/", 1'000'000'000, 2'000'000'000}};
+    changes.show(drive);
+    EXPECT_EQ(text(changes, 0, "name"), "/");
+    EXPECT_EQ(text(changes, 0, "path"), "/");
+}
+
+TEST(Changes, theSizeTextTellsTheNewSizeAndTheGrowthOrTheOneSizeThereIs) {
+    ChangesModel changes;
+    changes.show(threeKinds());
+    const std::string grown = text(changes, 0, "size");
+    EXPECT_THAT(grown, testing::StartsWith("3 GB"));
+    EXPECT_THAT(grown, testing::EndsWith("+2 GB"));
+    EXPECT_EQ(text(changes, 2, "size"), "400 MB");
+    EXPECT_EQ(text(changes, 3, "size"), "600 MB");
+}
+
+TEST(Changes, withoutAnyItIsEmpty) {
+    ChangesModel changes;
+    EXPECT_TRUE(changes.empty());
+    changes.show(threeKinds());
+    changes.show({});
+    EXPECT_TRUE(changes.empty());
+    EXPECT_EQ(changes.rowCount(), 0);
+}
+
+TEST(Changes, keepsTheOrderOfEachList) {
+    ChangesModel changes;
+    FolderChanges gone;
+    gone.gone = {{"/c", 3, 0}, {"/b", 2, 0}, {"/a", 1, 0}};
+    changes.show(gone);
+    EXPECT_THAT(texts(changes, "name"), ElementsAre("c", "b", "a"));
+}
+
+}  // namespace zelk
