@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <limits>
 #include <string>
 
 namespace zelk {
@@ -103,6 +104,15 @@ TEST(Changes, theSizeTextTellsTheNewSizeAndTheGrowthOrTheOneSizeThereIs) {
     EXPECT_THAT(grown, testing::EndsWith("+2 GB"));
     EXPECT_EQ(text(changes, 2, "size"), "400 MB");
     EXPECT_EQ(text(changes, 3, "size"), "600 MB");
+}
+
+TEST(Changes, aGrowthThatNoIntegerTellsDoesNotOverflow) {
+    constexpr auto most = std::numeric_limits<std::int64_t>::max();
+    ChangesModel changes;
+    FolderChanges grown;
+    grown.grew = {{"/a", -most, most}, {"/b", 0, most}};
+    changes.show(grown);
+    EXPECT_EQ(text(changes, 0, "size"), text(changes, 1, "size"));
 }
 
 TEST(Changes, withoutAnyItIsEmpty) {

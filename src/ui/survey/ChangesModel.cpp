@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "ui/survey/Growth.h"
 #include "ui/text/DisplayText.h"
 
 namespace zelk {
@@ -77,7 +78,7 @@ QString ChangesModel::sizeText(const Row& row) {
     switch (row.kind) {
         case Kind::grew:
             return QStringLiteral("%1  +%2").arg(byteFigure(change.newSize),
-                                                 byteFigure(change.newSize - change.oldSize));
+                                                 byteFigure(growth(change.oldSize, change.newSize)));
         case Kind::appeared:
             return byteFigure(change.newSize);
         case Kind::gone:

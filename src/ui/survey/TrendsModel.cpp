@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/survey/TrendsModel.h"
 
-#include <cstdlib>
-
 #include "state/AppModel.h"
+#include "ui/survey/Growth.h"
 #include "ui/text/DisplayText.h"
 
 namespace zelk {
@@ -30,7 +29,7 @@ void TrendsModel::setTheme(const ZelkTheme& theme) {
 void TrendsModel::refresh() {
     const std::vector<SurveyRecord>& history = app_.history();
     shown_ = history.size() >= 2;
-    delta_ = shown_ ? history.back().totalScanned - history[history.size() - 2].totalScanned : 0;
+    delta_ = shown_ ? growth(history[history.size() - 2].totalScanned, history.back().totalScanned) : 0;
     tracked_ = static_cast<qsizetype>(history.size());
     totals_.clear();
     for (const SurveyRecord& record : history) totals_.append(static_cast<qreal>(record.totalScanned));
@@ -55,10 +54,11 @@ QColor TrendsModel::arrowColor() const {
     return delta_ > 0 ? theme_->alert : shrunkColor;
 }
 QString TrendsModel::arrowName() const {
+    if (delta_ == 0) return QStringLiteral("unchanged");
     return delta_ > 0 ? QStringLiteral("grew") : QStringLiteral("shrank");
 }
 QString TrendsModel::delta() const {
-    return byteFigure(std::abs(delta_));
+    return byteFigure(delta_ < 0 ? -delta_ : delta_);
 }
 QString TrendsModel::deltaLine() const {
     return QStringLiteral("since your last scan · %1 tracked").arg(tracked_);

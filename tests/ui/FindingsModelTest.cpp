@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+#include "ui/survey/FindingsModel.h"
+
+#include <gmock/gmock.h>
+
+#include <QSignalSpy>
+
+#include "state/AppModelFixture.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+
+const QColor red(255, 59, 48);
+
+class Findings : public AppModelFixture {
+protected:
+    ~Findings() override { machine.directories.release(); }
+
+    FindingsModel& findings() {
+        if (!findings_) findings_ = std::make_unique<FindingsModel>(model());
+        return *findings_;
+    }
+    /// With what stands directly in the home folder, by name.
+    void surveyOf(const std::vector<std::pair<std::string, std::uint64_t>>& files) {
+        for (const auto& [name, bytes] : files) machine.directories.file(home + "/" + name, bytes);
+        findings();
+        survey();
+    }
+    std::vector<std::string> labels() {
+        std::vector<std::string> all;
+        for (const RibbonSegment& segment : findings().segments()) all.push_back(segment.label.toStdString());
+        return all;
+    }
+    std::vector<QColor> colors() {
+        std::vector<QColor> all;
+        for (const RibbonSegment& segment : findings().segments()) all.push_back(segment.color);
+        return all;
+    }
+
+private:
+    std::unique_ptr<FindingsModel> findings_;
+};
+
+}  // namespace
+
+TEST_F(Findings, theFixedTextsAreExact) {
+    const std::pair<QString, const char*> table[] = {
+        {findings().heading(), "Findings"},
+        {findings().reviewLabel(), "Review  →"},
+        {findings().storageHeading(), "Scanned storage"},
+        {findings().largestHeading(), "Largest files"},
+        {findings().seeAllLabel(), "See all"},
+    };
+    for (const auto& [said, expected] : table) EXPECT_EQ(said.toStdString(), expected);
+}
+
+TEST_F(Findings, theHeadlineTellsWhatCanBeReclaimed) {
+    fillHome();
+    surveyOf({});
+    EXPECT_EQ(findings().title(), QStringLiteral("You can reclaim"));
+    EXPECT_EQ(findings().figure(), QStringLiteral("60 MB"));
+    EXPECT_EQ(findings().line(), QStringLiteral("across 2 items · most space: Video"));
+    EXPECT_TRUE(findings().reviewable());
+}
+
+TEST_F(Findings, theHeadlineNamesWhateverTypeIsTheBiggest) {
+    const std::pair<const char*, const char*> table[] = {
+        {"a.mp3", "Audio"},       {"a.jpg", "Photos"},    {"a.zip", "Archives"},
+        {"a.dmg", "Disk images"}, {"a.pdf", "Documents"}, {"a.unheard-of", "Other"},
+    };
+    std::uint64_t bytes = 2'000'000'000;
+    fillHome();
+    for (const auto& [name, type] : table) {
+        bytes *= 2;
+        surveyOf({{name, bytes}});
+        EXPECT_EQ(findings().line().toStdString(), std::string("across 2 items · most space: ") + type);
+    }
+}
+
+TEST_F(Findings, aDriveWithNothingToReclaimIsCleanAndHasNoReview) {
+    surveyOf({{"letter.txt", 5'000'000}});
+    EXPECT_EQ(findings().title(), QStringLiteral("Clean drive"));
+    EXPECT_EQ(findings().figure(), QString());
+    EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 5 MB."));
+    EXPECT_FALSE(findings().reviewable());
+    EXPECT_EQ(findings().cards()->cards().front().value, QStringLiteral("0 bytes"));
+}
+
+TEST_F(Findings, aCleanDriveOfSeveralRootsTellsThemAll) {
+    machine.directories.file(home + "/letter.txt", 5'000'000);
+    machine.directories.file("/data/letter.txt", 2'000'000);
+    model().setScanRoots({home, "/data"});
+    surveyOf({});
+    EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 7 MB."));
+}
+
+TEST_F(Findings, reviewLeadsToReclaimAndSeeAllToClutter) {
+    findings().review();
+    EXPECT_EQ(model().selection(), Screen::reclaim);
+    findings().seeAll();
+    EXPECT_EQ(model().selection(), Screen::clutter);
+}
+
+TEST_F(Findings, theSegmentsAreTheTypesLargestFirst) {
+    surveyOf({{"a.mov", 1'000'000},
+              {"b.mp3", 2'000'000},
+              {"c.jpg", 7'000'000},
+              {"d.zip", 4'000'000},
+              {"e.dmg", 5'000'000},
+              {"f.pdf", 6'000'000},
+              {"g.unheard-of", 3'000'000}});
+    EXPECT_THAT(labels(), ElementsAre("Photos", "Documents", "Disk images", "Archives", "Other", "Audio", "Video"));
+    EXPECT_THAT(colors(),
+                ElementsAre(red, QColor(50, 199, 123), QColor(255, 107, 94), QColor(245, 166, 35),
+                            withOpacity(ZelkTheme::dark().inkSoft, 0.5), QColor(167, 123, 255), QColor(232, 91, 196)));
+    EXPECT_EQ(findings().segments().front().bytes, 7'000'000);
+    EXPECT_EQ(findings().segments().front().bytesText, QStringLiteral("7 MB"));
+}
+
+TEST_F(Findings, twoTypesWithTheSameLargestBytesAreBothRed) {
+    surveyOf({{"a.mov", 2'000'000}, {"b.mp3", 2'000'000}, {"c.jpg", 1'999'999}});
+    EXPECT_THAT(labels(), testing::UnorderedElementsAre("Video", "Audio", "Photos"));
+    EXPECT_THAT(colors(), ElementsAre(red, red, QColor(86, 194, 245)));
+}
+
+TEST_F(Findings, aTypeOfNoBytesHasNoSegment) {
+    surveyOf({{"a.mov", 1}, {"b.mp3", 0}});
+    EXPECT_THAT(labels(), ElementsAre("Video"));
+}
+
+TEST_F(Findings, whereNothingHasBytesThereAreNoSegments) {
+    surveyOf({{"b.mp3", 0}});
+    EXPECT_TRUE(findings().segments().isEmpty());
+}
+
+TEST_F(Findings, aSegmentFollowsTheTheme) {
+    surveyOf({{"a.mov", 2}, {"b.unheard-of", 1}});
+    EXPECT_THAT(colors(), ElementsAre(red, withOpacity(ZelkTheme::dark().inkSoft, 0.5)));
+    findings().setTheme(ZelkTheme::light());
+    EXPECT_THAT(colors(), ElementsAre(red, withOpacity(ZelkTheme::light().inkSoft, 0.5)));
+}
+
+TEST_F(Findings, theFreeBytesAreWhatTheVolumeHasAvailable) {
+    surveyOf({{"a.mov", 1}});
+    EXPECT_EQ(findings().freeBytes(), 400);
+}
+
+TEST_F(Findings, withoutAVolumeThereAreNoFreeBytes) {
+    surveyOf({{"a.mov", 1}});
+    model().setVolume(std::nullopt);
+    EXPECT_EQ(findings().freeBytes(), 0);
+    EXPECT_EQ(findings().cards()->cards().back().value, QStringLiteral("0 bytes"));
+}
+
+TEST_F(Findings, theLargestFilesAreTheFirstFive) {
+    surveyOf({{"1.mov", 600'000'000},
+              {"2.mov", 500'000'000},
+              {"3.mov", 400'000'000},
+              {"4.mov", 300'000'000},
+              {"5.mov", 200'000'000},
+              {"6.mov", 100'000'000}});
+    EXPECT_TRUE(findings().hasLargest());
+    ASSERT_EQ(findings().largest()->rowCount(), 5);
+    EXPECT_EQ(findings().largest()->index(0).data(LargestFiles::nameRole).toString(), QStringLiteral("1.mov"));
+    EXPECT_EQ(findings().largest()->index(4).data(LargestFiles::nameRole).toString(), QStringLiteral("5.mov"));
+}
+
+TEST_F(Findings, withoutLargeFilesThereAreNoRows) {
+    surveyOf({});
+    EXPECT_FALSE(findings().hasLargest());
+}
+
+TEST_F(Findings, areThereAtOnceForASurveyThatHasFinished) {
+    fillHome();
+    survey();
+    EXPECT_EQ(findings().figure(), QStringLiteral("60 MB"));
+}
+
+TEST_F(Findings, keepWhatTheySaidWhileAnotherSurveyRuns) {
+    fillHome();
+    surveyOf({});
+    machine.directories.hold(home);
+    model().startScan();
+    machine.directories.waitUntilHeld(home);
+    EXPECT_EQ(findings().figure(), QStringLiteral("60 MB"));
+    EXPECT_FALSE(findings().segments().isEmpty());
+    EXPECT_TRUE(findings().hasLargest());
+}
+
+TEST_F(Findings, followWhatIsTakenAway) {
+    fillHome();
+    surveyOf({});
+    QSignalSpy changes(&findings(), &FindingsModel::changed);
+    const NodeRef modules = folderAt(model().root(), home + "/projects/app/node_modules");
+    ASSERT_TRUE(modules);
+    model().removeFromTree(*modules);
+    EXPECT_FALSE(changes.isEmpty());
+    EXPECT_EQ(findings().figure(), QStringLiteral("50 MB"));
+    EXPECT_EQ(findings().line(), QStringLiteral("across 1 items · most space: Video"));
+    EXPECT_EQ(findings().cards()->cards().front().value, QStringLiteral("50 MB"));
+    EXPECT_EQ(findings().cards()->cards().front().detail, QStringLiteral("1 items of junk"));
+}
+
+TEST_F(Findings, becomeACleanDriveWhenAllIsTakenAway) {
+    machine.directories.file(home + "/projects/app/node_modules/a.js", 10'000'000, 2'000);
+    surveyOf({{"letter.txt", 5'000'000}});
+    ASSERT_TRUE(findings().reviewable());
+    const NodeRef modules = folderAt(model().root(), home + "/projects/app/node_modules");
+    ASSERT_TRUE(modules);
+    model().removeFromTree(*modules);
+    EXPECT_FALSE(findings().reviewable());
+    EXPECT_EQ(findings().title(), QStringLiteral("Clean drive"));
+    EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 5 MB."));
+}
+
+}  // namespace zelk
