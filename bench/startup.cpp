@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+// What starting Zelk costs beside the least window that Qt Quick Controls can show: the time from the start of the
+// process to the first painted frame, and the memory once the window has come to rest. The real window on the real
+// platform, without a survey and without the first run, drawn by the processor to no screen.
+//
+//     startup [--rounds N]
+//
+// Every figure is the median of N processes of each kind, started in turn so that a busy moment falls on both. The
+// memory is what is resident, each page counted whole: a share by the number of its users, which is the other measure
+// there is, would change with whatever else on the machine has Qt loaded.
+
+#include <sys/wait.h>
+#include <time.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QTimer>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/NativePlatform.h"
+#include "state/AppModel.h"
+#include "system/AccessProbe.h"
+#include "ui/shell/Application.h"
+#include "ui/shell/Shell.h"
+
+namespace {
+
+constexpr double mostTimes = 1.3;  // the empty window's time
+constexpr double mostAbove = 40;   // MiB, the empty window's memory
+constexpr int restMilliseconds = 1000;
+
+struct Cost {
+    double milliseconds = 0;
+    double mebibytes = 0;
+};
+
+/// Nanoseconds of a clock that all processes share.
+long long now() {
+    timespec time{};
+    ::clock_gettime(CLOCK_MONOTONIC, &time);
+    return time.tv_sec * 1'000'000'000LL + time.tv_nsec;
+}
+
+double residentMebibytes() {
+    std::ifstream rollup("/proc/self/smaps_rollup");
+    for (std::string word; rollup >> word;) {
+        double kibibytes = 0;
+        if (word == "Rss:" && rollup >> kibibytes) return kibibytes / 1024;
+    }
+    return std::numeric_limits<double>::quiet_NaN();
+}
+
+/// Runs the event loop until the window has painted and come to rest, and prints what it took.
+void reportOf(QQuickWindow& window, long long started) {
+    long long painted = 0;
+    QObject::connect(
+        &window, &QQuickWindow::frameSwapped, &window,
+        [&] {
+            painted = now();
+            QTimer::singleShot(restMilliseconds, qApp, &QCoreApplication::quit);
+        },
+        Qt::SingleShotConnection);
+    QGuiApplication::exec();
+    std::printf("%.3f %.3f\n", static_cast<double>(painted - started) / 1e6, residentMebibytes());
+    std::fflush(stdout);
+}
+
+void showZelk(int argc, char** argv, long long started) {
+    QApplication application(argc, argv);
+    zelk::dressApplication();
+    zelk::NativePlatform native;
+    const zelk::Platform& platform = native.platform();
+    zelk::AppModel app(platform);
+    zelk::WindowServices services;
+    services.workspace = &platform.workspace;
+    services.accessGranted = [&] { return zelk::hasFullDiskAccess(platform.files, app.home()); };
+    zelk::Shell shell(app, services);
+    shell.start();
+    reportOf(shell.main().window(), started);
+    std::_Exit(EXIT_SUCCESS);  // the end is not measured
+}
+
+void showEmpty(int argc, char** argv, long long started) {
+    QGuiApplication application(argc, argv);
+    QQmlApplicationEngine engine;
+    engine.loadData("import QtQuick.Controls\nApplicationWindow { width: 1200; height: 780; visible: true }\n");
+    if (engine.rootObjects().isEmpty()) std::_Exit(EXIT_FAILURE);
+    reportOf(*qobject_cast<QQuickWindow*>(engine.rootObjects().first()), started);
+    std::_Exit(EXIT_SUCCESS);
+}
+
+/// This very program again, as the process that shows `what`.
+std::optional<Cost> costOf(const char* what) {
+    int ends[2];
+    if (::pipe(ends) != 0) return std::nullopt;
+    const std::string started = std::to_string(now());
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::dup2(ends[1], STDOUT_FILENO);
+        ::close(ends[0]);
+        ::close(ends[1]);
+        ::execl("/proc/self/exe", "startup", "--child", what, started.c_str(), nullptr);
+        ::_exit(127);
+    }
+    ::close(ends[1]);
+    std::FILE* said = ::fdopen(ends[0], "r");
+    Cost cost;
+    const bool complete = std::fscanf(said, "%lf %lf", &cost.milliseconds, &cost.mebibytes) == 2;
+    std::fclose(said);
+    int status = 0;
+    if (child < 0 || ::waitpid(child, &status, 0) != child || status != 0 || !complete) return std::nullopt;
+    return cost;
+}
+
+double median(const std::vector<Cost>& costs, double Cost::*figure) {
+    std::vector<double> figures;
+    for (const Cost& cost : costs) figures.push_back(cost.*figure);
+    std::sort(figures.begin(), figures.end());
+    const std::size_t half = figures.size() / 2;
+    return figures.size() % 2 == 1 ? figures[half] : (figures[half - 1] + figures[half]) / 2;
+}
+
+int compare(int rounds) {
+    std::vector<Cost> zelk;
+    std::vector<Cost> empty;
+    for (int round = -1; round < rounds; ++round) {
+        const std::optional<Cost> ofEmpty = costOf("empty");
+        const std::optional<Cost> ofZelk = costOf("zelk");
+        if (!ofEmpty || !ofZelk) {
+            std::fprintf(stderr, "startup: the %s window did not come up\n", ofEmpty ? "real" : "empty");
+            return 1;
+        }
+        if (round < 0) continue;  // brings the files into the kernel's cache
+        empty.push_back(*ofEmpty);
+        zelk.push_back(*ofZelk);
+    }
+    const double time = median(zelk, &Cost::milliseconds);
+    const double leastTime = median(empty, &Cost::milliseconds);
+    const double memory = median(zelk, &Cost::mebibytes);
+    const double leastMemory = median(empty, &Cost::mebibytes);
+    std::printf("first frame  %6.1f ms   empty window %6.1f ms   ratio %.2f, at most %.1f wanted\n", time, leastTime,
+                time / leastTime, mostTimes);
+    std::printf("idle memory  %6.1f MiB  empty window %6.1f MiB  above %.1f MiB, at most %.0f MiB wanted\n", memory,
+                leastMemory, memory - leastMemory, mostAbove);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    ::setenv("QT_QUICK_BACKEND", "software", 1);
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    if (words.size() == 3 && words[0] == "--child") {
+        const long long started = std::atoll(words[2].c_str());
+        if (words[1] == "zelk") showZelk(argc, argv, started);
+        if (words[1] == "empty") showEmpty(argc, argv, started);
+        return 2;
+    }
+    const bool given = words.size() == 2 && words[0] == "--rounds";
+    const int rounds = given ? std::atoi(words[1].c_str()) : 9;
+    if (rounds < 1 || (!words.empty() && !given)) {
+        std::fprintf(stderr, "usage: startup [--rounds N]\n");
+        return 2;
+    }
+    return compare(rounds);
+}
