@@ -2,134 +2,15 @@
 // The controls of the house under the mouse, the keyboard and a screen reader.
 #include <gmock/gmock.h>
 
-#include <QKeyEvent>
 #include <QTest>
-#include <algorithm>
 
-#include "ViewFixture.h"
+#include "ControlsFixture.h"
 
 namespace zelk {
 
 namespace {
 
 using Names = std::vector<std::string>;
-
-const char* const board = R"(
-import QtQuick
-import Zelk.Components
-
-FocusScope {
-    id: board
-
-    property string told
-    property int picked: 1
-    property bool able: true
-
-    function tell(what) { board.told += what + " "; }
-
-    focus: true
-
-    Column {
-        x: 20
-        y: 20
-        spacing: 16
-
-        Item {
-            objectName: "start"
-            width: 20
-            height: 20
-            focus: true
-            activeFocusOnTab: true
-            Accessible.role: Accessible.Pane
-            Accessible.name: "Start"
-        }
-        PrimaryButton {
-            objectName: "primary"
-            text: "Clean"
-            enabled: board.able
-            onClicked: board.tell("primary")
-        }
-        SecondaryButton {
-            objectName: "secondary"
-            text: "Later"
-            enabled: board.able
-            onClicked: board.tell("secondary")
-        }
-        IconButton {
-            objectName: "icon"
-            text: "Refresh"
-            symbol: "gearshape"
-            help: "Reads it again"
-            enabled: board.able
-            onClicked: board.tell("icon")
-        }
-        LinkButton {
-            objectName: "link"
-            text: "Show all"
-            enabled: board.able
-            onClicked: board.tell("link")
-        }
-        ModuleCard {
-            objectName: "card"
-            symbol: "gearshape"
-            title: "Large Files"
-            value: "12 GB"
-            detail: "40 items"
-            tint: "#123456"
-            enabled: board.able
-            onClicked: board.tell("card")
-        }
-        ToggleSwitch {
-            objectName: "toggle"
-            text: "Delete permanently"
-            onToggled: board.tell("toggle")
-        }
-        StepperField {
-            objectName: "stepper"
-            label: "Days"
-            from: 0
-            to: 3
-            value: 1
-            onMoved: value => board.tell(value)
-        }
-        SegmentedPicker {
-            objectName: "picker"
-            label: "Theme"
-            options: ["System", "Light", "Dark"]
-            current: board.picked
-            onPicked: index => {
-                board.picked = index;
-                board.tell("picked" + index);
-            }
-        }
-    }
-
-    Sheet {
-        objectName: "sheet"
-        title: "Move to Trash"
-        primary: go
-        onDismissed: board.tell("dismissed")
-
-        Column {
-            spacing: 8
-
-            SecondaryButton {
-                objectName: "cancel"
-                text: "Cancel"
-                onClicked: board.tell("cancel")
-            }
-            PrimaryButton {
-                id: go
-
-                objectName: "go"
-                text: "Move"
-                enabled: board.able
-                onClicked: board.tell("go")
-            }
-        }
-    }
-}
-)";
 
 struct Pressable {
     const char* object;
@@ -141,63 +22,7 @@ constexpr Pressable buttons[] = {{"primary", "Clean"},
                                  {"link", "Show all"},
                                  {"card", "Large Files, 12 GB, 40 items"}};
 
-class ControlsWindow : public ViewFixture {
-protected:
-    ControlsWindow() {
-        show(QString::fromUtf8(board), {560, 760});
-        find("start")->forceActiveFocus();
-    }
-
-    /// What was told since the last call.
-    std::string told() {
-        const std::string text = view().property("told").toString().trimmed().toStdString();
-        view().setProperty("told", QString());
-        return text;
-    }
-    void give(const char* object) {
-        find(object)->forceActiveFocus(Qt::TabFocusReason);
-        settle();
-    }
-    /// The rings that are seen.
-    std::ptrdiff_t rings() {
-        const std::vector<QQuickItem*> items = seen();
-        return std::count_if(items.begin(), items.end(), [](const QQuickItem* item) {
-            return QString::fromLatin1(item->metaObject()->className()).startsWith(QStringLiteral("FocusRing"));
-        });
-    }
-    void sendKey(QEvent::Type type, Qt::Key key, bool repeated) {
-        QKeyEvent event(type, key, Qt::NoModifier, {}, repeated);
-        QCoreApplication::sendEvent(&window(), &event);
-    }
-    /// Holds a key down until it has repeated itself three times, as the system tells it.
-    void hold(Qt::Key key) {
-        sendKey(QEvent::KeyPress, key, false);
-        for (int repeat = 0; repeat < 3; ++repeat) {
-            sendKey(QEvent::KeyRelease, key, true);
-            sendKey(QEvent::KeyPress, key, true);
-        }
-        sendKey(QEvent::KeyRelease, key, false);
-        settle();
-    }
-    QAccessible::Role roleOf(const char* object) { return QAccessible::queryAccessibleInterface(find(object))->role(); }
-    QAccessible::State stateOf(QQuickItem* item) { return QAccessible::queryAccessibleInterface(item)->state(); }
-    void openSheet() {
-        QMetaObject::invokeMethod(sheet(), "open");
-        settle();
-        ASSERT_NE(find("cancel"), nullptr);
-    }
-    QObject* sheet() { return view().findChild<QObject*>(QStringLiteral("sheet")); }
-    QQuickItem* segment(const char* name) {
-        for (QQuickItem* item : seen())
-            if (item->activeFocusOnTab() || item->property("chosen").isValid())
-                if (nameOf(item) == name) return item;
-        return nullptr;
-    }
-    void clickItem(const QQuickItem* item) {
-        tour::clickAt(window(), item->mapToScene(item->boundingRect().center()));
-        settle();
-    }
-};
+class ControlsWindow : public ControlsFixture {};
 
 }  // namespace
 
@@ -418,92 +243,6 @@ TEST_F(ControlsWindow, aCardRisesUnderThePointer) {
     tour::restPointer(window());
     EXPECT_EQ(shadow(), std::pair(0.06, 6.0));
     EXPECT_EQ(ground->property("outline").value<QColor>(), resting);
-}
-
-TEST_F(ControlsWindow, theSheetIsADialogWithItsTitle) {
-    openSheet();
-    QQuickItem* inside = sheet()->property("contentItem").value<QQuickItem*>();
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(inside)->role(), QAccessible::Dialog);
-    EXPECT_EQ(nameOf(inside), "Move to Trash");
-}
-
-TEST_F(ControlsWindow, escapeDismissesTheSheetOnce) {
-    openSheet();
-    press(Qt::Key_Escape);
-    EXPECT_EQ(told(), "dismissed");
-    EXPECT_TRUE(sheet()->property("opened").toBool()) << "who shows it decides when it goes";
-    give("cancel");
-    press(Qt::Key_Escape);
-    EXPECT_EQ(told(), "dismissed");
-}
-
-TEST_F(ControlsWindow, escapeDoesNothingToASheetThatCannotBeClosed) {
-    sheet()->setProperty("closable", false);
-    openSheet();
-    press(Qt::Key_Escape);
-    EXPECT_EQ(told(), "");
-}
-
-TEST_F(ControlsWindow, enterPressesTheSheetsPrimary) {
-    openSheet();
-    press(Qt::Key_Return);
-    EXPECT_EQ(told(), "go");
-    press(Qt::Key_Enter);
-    EXPECT_EQ(told(), "go");
-    hold(Qt::Key_Return);
-    EXPECT_EQ(told(), "go");
-    view().setProperty("able", false);
-    press(Qt::Key_Return);
-    EXPECT_EQ(told(), "") << "it is not to be pressed";
-}
-
-TEST_F(ControlsWindow, aButtonOfTheSheetThatHasTheKeyboardIsThePressedOne) {
-    openSheet();
-    give("cancel");
-    press(Qt::Key_Return);
-    EXPECT_EQ(told(), "cancel");
-    press(Qt::Key_Space);
-    EXPECT_EQ(told(), "cancel");
-}
-
-TEST_F(ControlsWindow, theKeyboardStaysInsideTheSheet) {
-    openSheet();
-    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
-        Names reached;
-        for (int stop = 0; stop < 8; ++stop) {
-            press(key);
-            reached.push_back(focusName());
-            EXPECT_TRUE(focusName() == "Cancel" || focusName() == "Move" || focusName() == "Move to Trash")
-                << focusName();
-        }
-        for (const char* name : {"Cancel", "Move"}) EXPECT_GT(std::count(reached.begin(), reached.end(), name), 0);
-    }
-}
-
-TEST_F(ControlsWindow, theMouseStaysInsideTheSheet) {
-    openSheet();
-    click("primary");
-    EXPECT_EQ(told(), "");
-    EXPECT_TRUE(sheet()->property("opened").toBool());
-    click("go");
-    EXPECT_EQ(told(), "go");
-}
-
-TEST_F(ControlsWindow, theKeyboardGoesBackWhereItWas) {
-    give("link");
-    openSheet();
-    EXPECT_NE(focusName(), "Show all");
-    QMetaObject::invokeMethod(sheet(), "close");
-    settle();
-    EXPECT_EQ(focusName(), "Show all");
-    EXPECT_EQ(rings(), 1);
-
-    click("secondary");
-    openSheet();
-    QMetaObject::invokeMethod(sheet(), "close");
-    settle();
-    EXPECT_EQ(focusName(), "Later");
-    EXPECT_EQ(rings(), 0) << "the mouse had pressed it";
 }
 
 }  // namespace zelk

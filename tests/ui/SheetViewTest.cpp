@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// A sheet over a window: what its keys do, and where the keyboard is.
+#include "ControlsFixture.h"
+
+namespace zelk {
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class SheetWindow : public ControlsFixture {};
+
+}  // namespace
+
+TEST_F(SheetWindow, theSheetIsADialogWithItsTitle) {
+    openSheet();
+    QQuickItem* inside = sheet()->property("contentItem").value<QQuickItem*>();
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(inside)->role(), QAccessible::Dialog);
+    EXPECT_EQ(nameOf(inside), "Move to Trash");
+}
+
+TEST_F(SheetWindow, escapeDismissesTheSheetOnce) {
+    openSheet();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(told(), "dismissed");
+    EXPECT_TRUE(sheet()->property("opened").toBool()) << "who shows it decides when it goes";
+    give("cancel");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(told(), "dismissed");
+}
+
+TEST_F(SheetWindow, escapeDoesNothingToASheetThatCannotBeClosed) {
+    sheet()->setProperty("closable", false);
+    openSheet();
+    press(Qt::Key_Escape);
+    EXPECT_EQ(told(), "");
+}
+
+TEST_F(SheetWindow, enterPressesTheSheetsPrimary) {
+    openSheet();
+    press(Qt::Key_Return);
+    EXPECT_EQ(told(), "go");
+    press(Qt::Key_Enter);
+    EXPECT_EQ(told(), "go");
+    hold(Qt::Key_Return);
+    EXPECT_EQ(told(), "go");
+    view().setProperty("able", false);
+    press(Qt::Key_Return);
+    EXPECT_EQ(told(), "") << "it is not to be pressed";
+}
+
+TEST_F(SheetWindow, aButtonOfTheSheetThatHasTheKeyboardIsThePressedOne) {
+    openSheet();
+    give("cancel");
+    press(Qt::Key_Return);
+    EXPECT_EQ(told(), "cancel");
+    press(Qt::Key_Space);
+    EXPECT_EQ(told(), "cancel");
+}
+
+TEST_F(SheetWindow, theKeyboardStaysInsideTheSheet) {
+    openSheet();
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
+        Names reached;
+        for (int stop = 0; stop < 8; ++stop) {
+            press(key);
+            reached.push_back(focusName());
+            EXPECT_TRUE(focusName() == "Cancel" || focusName() == "Move" || focusName() == "Move to Trash")
+                << focusName();
+        }
+        for (const char* name : {"Cancel", "Move"}) EXPECT_GT(std::count(reached.begin(), reached.end(), name), 0);
+    }
+}
+
+TEST_F(SheetWindow, theMouseStaysInsideTheSheet) {
+    openSheet();
+    click("primary");
+    EXPECT_EQ(told(), "");
+    EXPECT_TRUE(sheet()->property("opened").toBool());
+    click("go");
+    EXPECT_EQ(told(), "go");
+}
+
+TEST_F(SheetWindow, theKeyboardGoesBackWhereItWas) {
+    give("link");
+    openSheet();
+    EXPECT_NE(focusName(), "Show all");
+    QMetaObject::invokeMethod(sheet(), "close");
+    settle();
+    EXPECT_EQ(focusName(), "Show all");
+    EXPECT_EQ(rings(), 1);
+
+    click("secondary");
+    openSheet();
+    QMetaObject::invokeMethod(sheet(), "close");
+    settle();
+    EXPECT_EQ(focusName(), "Later");
+    EXPECT_EQ(rings(), 0) << "the mouse had pressed it";
+}
+
+}  // namespace zelk
