@@ -15,9 +15,6 @@ Item {
     readonly property real nameWidth: name.implicitWidth
     readonly property real numberWidth: figure.implicitWidth
 
-    // The toolkit makes it a stop of the Tab key; the field itself is one already.
-    Component.onCompleted: face.activeFocusOnTab = false
-
     implicitHeight: Math.max(name.implicitHeight, figure.implicitHeight)
 
     Words {

@@ -20,9 +20,23 @@ FocusScope {
     Connections {
         target: hero.survey
         function onPhaseChanged() {
-            const ringed = (hero.Window.activeFocusItem as BaseButton)?.visualFocus ?? false;
+            const focused = hero.Window.activeFocusItem;
+            const ours = hero.visible && (!focused || hero.isIn(focused, hero) || hero.isIn(hero, focused));
+            if (!ours) {
+                // Somebody is elsewhere, and stays there.
+                scanButton.focus = true;
+                return;
+            }
+            const ringed = (focused as BaseButton)?.visualFocus ?? false;
             scanButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
         }
+    }
+
+    function isIn(item: Item, outer: Item): bool {
+        for (let above = item; above; above = above.parent)
+            if (above === outer)
+                return true;
+        return false;
     }
 
     Column {

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+// A person with a drive that changes: what the home screen tells of it, and what can be done from there.
+#include <gmock/gmock.h>
+
+#include "ShellFixture.h"
+#include "ui/survey/SurveyScreenModel.h"
+
+namespace zelk {
+
+namespace {
+
+class Overview : public ShellFixture {
+protected:
+    Overview() {
+        services.pickFolder = [this] { return picked; };
+    }
+
+    bool shows(const QString& text) {
+        window().grabWindow();
+        std::vector<QQuickItem*> pending{window().contentItem()};
+        while (!pending.empty()) {
+            QQuickItem* item = pending.back();
+            pending.pop_back();
+            if (!item->isVisible()) continue;
+            if (item->property("text").toString() == text) return true;
+            for (QQuickItem* child : item->childItems()) pending.push_back(child);
+        }
+        return false;
+    }
+
+    void surveyFromTheButton() {
+        click("scanButton");
+        runUntil([&] { return model().scanPhase() == Phase::finished; });
+        runUntil([&] { return !model().trashLoading(); });
+    }
+
+    /// A control below the fold is pressed where it stands once it has been scrolled to.
+    void scrollToAndClick(const char* name) {
+        window().grabWindow();
+        QQuickItem* item = find(name);
+        ASSERT_NE(item, nullptr) << name;
+        QQuickItem* scroll = find("surveyScroll");
+        const double below = item->mapToItem(scroll, QPointF(0, item->height())).y() + 20 - scroll->height();
+        if (below > 0) scroll->setProperty("contentY", scroll->property("contentY").toReal() + below);
+        click(name);
+    }
+
+    std::optional<std::string> picked;
+};
+
+}  // namespace
+
+TEST_F(Overview, tellsWhatASurveyFoundAndGoesToReclaim) {
+    shell();
+    surveyFromTheButton();
+    EXPECT_TRUE(shows(QStringLiteral("You can reclaim")));
+    EXPECT_TRUE(shows(QStringLiteral("film.mov")));
+    scrollToAndClick("reviewButton");
+    EXPECT_EQ(model().selection(), Screen::reclaim);
+}
+
+TEST_F(Overview, aSecondSurveyShowsTheTrendAndTheChanges) {
+    shell();
+    surveyFromTheButton();
+    EXPECT_EQ(find("changesButton"), nullptr);
+    machine.directories.file(home + "/projects/another film.mov", 2'000'000'000, 3'000);
+    surveyFromTheButton();
+    scrollToAndClick("changesButton");
+    window().grabWindow();
+    EXPECT_NE(find("changesDone"), nullptr);
+    EXPECT_TRUE(shows(QStringLiteral("projects")));
+    press(Qt::Key_Escape);
+    runUntil([&] { return find("changesDone") == nullptr; });
+    EXPECT_EQ(focusName(), QStringLiteral("changesButton"));
+    // And with Enter, which presses the primary button.
+    scrollToAndClick("changesButton");
+    window().grabWindow();
+    press(Qt::Key_Return);
+    runUntil([&] { return find("changesDone") == nullptr; });
+}
+
+TEST_F(Overview, theTrashIsEmptiedFromItsBanner) {
+    machine.trash.put("old.zip", 7'000'000);
+    shell();
+    surveyFromTheButton();
+    ASSERT_GT(model().trashBytes(), 0);
+    scrollToAndClick("trashButton");
+    runUntil([&] { return !model().emptyingTrash() && model().trashBytes() == 0; });
+    EXPECT_THAT(machine.trash.list(), testing::Optional(testing::IsEmpty()));
+}
+
+TEST_F(Overview, aCardGoesToItsModule) {
+    shell();
+    surveyFromTheButton();
+    scrollToAndClick("findingCard1");
+    EXPECT_EQ(model().selection(), Screen::clutter);
+}
+
+TEST_F(Overview, aFolderIsAddedAndTakenOutInTheSettings) {
+    shell();
+    click("sidebarSettings");
+    const std::vector<std::string> before = model().scanRoots();
+    picked = "/data";
+    click("addFolderButton");
+    EXPECT_THAT(model().scanRoots(), testing::Contains("/data"));
+    ASSERT_TRUE(shows(QStringLiteral("/data")));
+    picked = std::nullopt;
+    click("addFolderButton");
+    EXPECT_EQ(model().scanRoots().size(), before.size() + 1);
+    // The last row's button, by the keyboard: it is one stop before "Add folder...".
+    find("addFolderButton")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    const QString stop = window().activeFocusItem()->property("text").toString();
+    press(Qt::Key_Space);
+    EXPECT_EQ(model().scanRoots(), before) << stop.toStdString();
+}
+
+TEST_F(Overview, aSurveyThatEndsLeavesTheKeyboardWhereItIs) {
+    shell();
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    click("sidebarTools");
+    const QQuickItem* before = window().activeFocusItem();
+    ASSERT_NE(before, nullptr);
+    machine.directories.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    runWhatIsThere();
+    EXPECT_EQ(window().activeFocusItem(), before);
+}
+
+TEST_F(Overview, theThemeIsChangedInTheSettings) {
+    shell();
+    model().setAppearance(AppModel::Appearance::dark);
+    click("sidebarSettings");
+    const QColor dark = window().grabWindow().pixelColor(600, 600);
+    std::vector<QQuickItem*> pending{window().contentItem()};
+    QQuickItem* light = nullptr;
+    while (!pending.empty() && light == nullptr) {
+        QQuickItem* item = pending.back();
+        pending.pop_back();
+        if (item->inherits("QQuickAbstractButton") && item->property("text").toString() == QStringLiteral("Light"))
+            light = item;
+        for (QQuickItem* child : item->childItems()) pending.push_back(child);
+    }
+    ASSERT_NE(light, nullptr);
+    tour::clickAt(window(), light->mapToScene(light->boundingRect().center()));
+    EXPECT_EQ(model().appearance(), AppModel::Appearance::light);
+    EXPECT_GT(window().grabWindow().pixelColor(600, 600).lightness(), dark.lightness() + 100);
+}
+
+TEST_F(Overview, theWelcomeIsShownOnceOnly) {
+    fakes::FakePreferences preferences;
+    services.preferences = &preferences;
+    services.workspace = &machine.workspace;
+    services.accessGranted = [] { return true; };
+    shell();
+    for (int page = 0; page < 4; ++page) {
+        window().grabWindow();
+        ASSERT_NE(find("primaryButton"), nullptr) << page;
+        press(Qt::Key_Return);
+        runWhatIsThere();
+    }
+    runUntil([&] { return find("primaryButton") == nullptr; });
+    EXPECT_TRUE(preferences.flag(didOnboardKey));
+
+    MainWindow second(model(), services);
+    second.show();
+    runUntil([&] { return second.window().isExposed(); });
+    second.window().grabWindow();
+    EXPECT_EQ(tour::findControl(second.window(), QStringLiteral("primaryButton")), nullptr);
+}
+
+}  // namespace zelk
