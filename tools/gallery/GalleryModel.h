@@ -17,7 +17,7 @@ class GalleryModel : public QObject {
     QML_ELEMENT
     Q_PROPERTY(zelk::DeviceFace device READ device CONSTANT FINAL)
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments CONSTANT FINAL)
-    Q_PROPERTY(qint64 freeBytes READ freeBytes CONSTANT FINAL)
+    Q_PROPERTY(double freeBytes READ freeBytes CONSTANT FINAL)
     Q_PROPERTY(QList<qreal> history READ history CONSTANT FINAL)
     Q_PROPERTY(zelk::ScanFace idleFace READ idleFace CONSTANT FINAL)
     Q_PROPERTY(zelk::ScanFace scanningFace READ scanningFace CONSTANT FINAL)

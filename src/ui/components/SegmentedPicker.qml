@@ -10,7 +10,7 @@ FocusScope {
 
     // Said of the whole.
     required property string label
-    required property list<string> options
+    required property var options
     required property int current
     property real size: 12
 

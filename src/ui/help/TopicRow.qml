@@ -5,7 +5,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zelk.Components
 import Zelk.Symbols
-import Zelk.Theme
 
 BaseButton {
     id: row
@@ -23,7 +22,7 @@ BaseButton {
     rightPadding: 12
     topPadding: 8
     bottomPadding: 8
-    implicitHeight: row.implicitContentHeight + row.topPadding + row.bottomPadding
+    implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
 
     Accessible.role: Accessible.ListItem
     Accessible.selectable: true
@@ -45,7 +44,13 @@ BaseButton {
         }
     }
 
-    contentItem: Item {
+    Item {
+        id: content
+
+        x: row.leftPadding
+        y: row.topPadding
+        width: row.availableWidth
+        height: row.availableHeight
         implicitHeight: Math.max(symbol.height, label.height)
 
         SymbolItem {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The three faces of a module that looks for something. A module gives its model and what stands under the header of
-// its results; that is built with the first results and kept.
+// its results, which has a property for the model too; that is built with the first results and kept.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -74,6 +74,13 @@ FocusScope {
             focus: true
             onWantedChanged: results.keep()
             Component.onCompleted: results.keep()
+        }
+
+        Binding {
+            target: results.item
+            property: "module"
+            value: scaffold.module
+            when: results.item
         }
     }
 }

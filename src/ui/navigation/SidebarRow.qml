@@ -83,7 +83,14 @@ Column {
             }
         }
 
-        contentItem: Item {
+        Item {
+            id: content
+
+            x: row.leftPadding
+            y: row.topPadding
+            width: row.availableWidth
+            height: row.availableHeight
+
             SymbolItem {
                 x: 10
                 anchors.verticalCenter: parent.verticalCenter

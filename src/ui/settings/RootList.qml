@@ -5,7 +5,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zelk.Components
 import Zelk.Settings
-import Zelk.Theme
 
 Column {
     id: list

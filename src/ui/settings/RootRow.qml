@@ -22,10 +22,16 @@ T.Control {
         remove.forceActiveFocus(reason);
     }
 
-    implicitHeight: implicitContentHeight
+    implicitHeight: content.implicitHeight
     hoverEnabled: true
 
-    contentItem: Item {
+    Item {
+        id: content
+
+        x: row.leftPadding
+        y: row.topPadding
+        width: row.availableWidth
+        height: row.availableHeight
         implicitHeight: Math.max(words.implicitHeight, remove.implicitHeight)
 
         SymbolItem {

@@ -54,6 +54,12 @@ QList<CommandMenu*> AppCommands::menus() const {
     return menus;
 }
 
+QVariantList AppCommands::menusForViews() const {
+    QVariantList menus;
+    for (const auto& menu : menus_) menus.append(QVariant::fromValue(menu.get()));
+    return menus;
+}
+
 QStringList AppCommands::shortcuts() const {
     QStringList shortcuts;
     for (const Command* command : withShortcut()) shortcuts.append(command->shortcut.toString());

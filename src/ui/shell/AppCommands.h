@@ -5,6 +5,7 @@
 #include <QList>
 #include <QObject>
 #include <QStringList>
+#include <QVariantList>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -22,7 +23,7 @@ class AppCommands : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
-    Q_PROPERTY(QList<zelk::CommandMenu*> menus READ menus CONSTANT FINAL)
+    Q_PROPERTY(QVariantList menus READ menusForViews CONSTANT FINAL)
     Q_PROPERTY(QStringList shortcuts READ shortcuts CONSTANT FINAL)
     Q_PROPERTY(QString barName READ barName CONSTANT FINAL)
 
@@ -36,6 +37,7 @@ public:
 
     /// From the left; owned here.
     QList<CommandMenu*> menus() const;
+    QVariantList menusForViews() const;
     /// The keys of all entries that have one, as the toolkit writes them.
     QStringList shortcuts() const;
     void run(const Command& command) const;

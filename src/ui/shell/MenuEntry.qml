@@ -41,7 +41,14 @@ T.MenuItem {
         }
     }
 
-    contentItem: Item {
+    Item {
+        id: content
+
+        x: entry.leftPadding
+        y: entry.topPadding
+        width: entry.availableWidth
+        height: entry.availableHeight
+
         Words {
             id: label
 

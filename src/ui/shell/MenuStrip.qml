@@ -26,7 +26,7 @@ T.MenuBar {
     // One menu may have closed for the next.
     function leave() {
         --bar.opened;
-        Qt.callLater(bar.giveBack);
+        back.restart();
     }
 
     function giveBack() {
@@ -94,6 +94,13 @@ T.MenuBar {
             enabled: bar.enabled
             onActivated: bar.commands.runShortcut(index)
         }
+    }
+
+    Timer {
+        id: back
+
+        interval: 0
+        onTriggered: bar.giveBack()
     }
 
     Shortcut {

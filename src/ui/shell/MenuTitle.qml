@@ -30,7 +30,14 @@ T.MenuBarItem {
         }
     }
 
-    contentItem: Item {
+    Item {
+        id: content
+
+        x: item.leftPadding
+        y: item.topPadding
+        width: item.availableWidth
+        height: item.availableHeight
+
         Words {
             id: label
 

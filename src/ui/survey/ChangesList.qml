@@ -7,7 +7,6 @@ import QtQuick.Templates as T
 import Zelk.Components
 import Zelk.Survey
 import Zelk.Symbols
-import Zelk.Theme
 
 ListView {
     id: list

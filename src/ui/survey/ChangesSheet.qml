@@ -5,7 +5,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zelk.Components
 import Zelk.Survey
-import Zelk.Theme
 
 Sheet {
     id: sheet

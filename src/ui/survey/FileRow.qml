@@ -30,7 +30,14 @@ T.Control {
         }
     }
 
-    contentItem: Item {
+    Item {
+        id: content
+
+        x: row.leftPadding
+        y: row.topPadding
+        width: row.availableWidth
+        height: row.availableHeight
+
         SymbolItem {
             id: icon
 

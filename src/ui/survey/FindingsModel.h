@@ -28,7 +28,7 @@ class FindingsModel : public QObject {
     Q_PROPERTY(QString heading READ heading CONSTANT FINAL)
     Q_PROPERTY(QString storageHeading READ storageHeading CONSTANT FINAL)
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments NOTIFY changed FINAL)
-    Q_PROPERTY(qint64 freeBytes READ freeBytes NOTIFY changed FINAL)
+    Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed FINAL)
     Q_PROPERTY(QString largestHeading READ largestHeading CONSTANT FINAL)
     Q_PROPERTY(QString seeAllLabel READ seeAllLabel CONSTANT FINAL)
     Q_PROPERTY(bool hasLargest READ hasLargest NOTIFY changed FINAL)

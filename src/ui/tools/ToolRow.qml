@@ -21,7 +21,7 @@ BaseButton {
 
     text: row.spoken
     padding: 16
-    implicitHeight: row.implicitContentHeight + row.topPadding + row.bottomPadding
+    implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
 
     background: Rectangle {
         radius: 14
@@ -46,7 +46,13 @@ BaseButton {
         }
     }
 
-    contentItem: Item {
+    Item {
+        id: content
+
+        x: row.leftPadding
+        y: row.topPadding
+        width: row.availableWidth
+        height: row.availableHeight
         implicitHeight: Math.max(tile.height, words.height)
 
         Tile {
