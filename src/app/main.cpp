@@ -7,8 +7,9 @@
 //                linux/, macos/ and posix/ are the services, NativePlatform makes those of this system
 //   scan/        FSNode is the tree; ParallelWalker fills it; ScanEngine turns roots into a stream of ScanUpdates,
 //                which an UpdateQueue carries to the main thread
-//   reclaim/     ReclaimCatalogue is the closed table of what may go; ReclaimClassifier finds it in a tree
-//   system/      holds its place: what the machine knows that a scan cannot see will stand here
+//   reclaim/     ReclaimCatalogue is the closed table of what may go; ReclaimClassifier finds it in a tree; Cleaner
+//                removes it
+//   system/      what the machine knows that a scan cannot see: AccessProbe
 //   state/       AppModel is the one state that every screen shows; SurveyHistory is the one file that Zelk writes
 //   ui/text/     bytes into what a person reads
 //   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand the desktop's wishes to QML
@@ -16,6 +17,7 @@
 //   ui/components/  the base controls; ScanButton and the Canvas on which it is drawn
 //   ui/navigation/  Sidebar and its model; ModuleScaffold, the three faces of every module that looks for something
 //   ui/survey/   the home screen: SurveyScreenModel says everything, SurveyView places it
+//   ui/bubbles/, ui/lens/, ui/clutter/  what the views of these modules will compute
 //   ui/tools/, ui/settings/, ui/help/, ui/welcome/  the screens of fixed texts, and the first run
 //   ui/shell/    Shell: the main window and those beside it, the menus (AppCommands), the status item (StatusMenu)
 //   app/         this file: makes the platform, the model and the shell, and nothing else
