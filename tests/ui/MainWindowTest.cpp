@@ -93,7 +93,7 @@ protected:
                 found.controls.push_back(item);
                 continue;
             }
-            if (item->property("text").isValid()) found.texts.push_back(item);
+            if (item->property("text").isValid() && !item->inherits("QQuickLoader")) found.texts.push_back(item);
             for (QQuickItem* child : item->childItems()) pending.push_back(child);
         }
         return found;

@@ -1,50 +1,29 @@
 // SPDX-License-Identifier: MIT
-// A line of help at a control, shown while the pointer rests on it or the keyboard is there.
+// A line of help at a control, shown while the pointer rests on it or the keyboard is there, and only then built.
 pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import Zelk.Theme
 
-T.ToolTip {
+Loader {
     id: tip
 
+    required property string text
     required property T.Control control
 
-    readonly property real widest: 280 * TextScale.factor
-
-    visible: tip.text !== "" && (tip.control.hovered || tip.control.visualFocus) && !pressing
     readonly property bool pressing: (tip.control as T.AbstractButton)?.down ?? false
+    readonly property bool shown: tip.text !== "" && (tip.control.hovered || tip.control.visualFocus) && !tip.pressing
 
-    delay: 600
-    x: Math.round((tip.control.width - width) / 2)
-    y: tip.control.height + 6
-    margins: 8
-    horizontalPadding: 10
-    verticalPadding: 6
-    implicitWidth: Math.min(tip.widest, implicitContentWidth + leftPadding + rightPadding)
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    closePolicy: T.Popup.CloseOnPressOutsideParent
-
-    enter: Transition {
-        NumberAnimation {
-            property: "opacity"
-            from: 0
-            to: 1
-            duration: Motion.quick
-        }
+    function build() {
+        if (tip.shown)
+            tip.setSource("HelpBubble.qml", {
+                control: tip.control,
+                text: tip.text
+            });
+        else
+            tip.source = "";
     }
 
-    background: Rectangle {
-        radius: 8
-        color: Theme.surfaceHi
-        border.width: 1
-        border.color: Theme.hairline
-    }
-
-    contentItem: Words {
-        text: tip.text
-        size: 11
-        wrapMode: Text.Wrap
-    }
+    onShownChanged: tip.build()
+    onTextChanged: tip.build()
 }

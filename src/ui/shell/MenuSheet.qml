@@ -12,6 +12,7 @@ T.Menu {
     id: menu
 
     required property CommandMenu commands
+    required property bool ready
 
     title: menu.commands.title
     width: Math.round(220 * TextScale.factor)
@@ -36,6 +37,7 @@ T.Menu {
     }
 
     Instantiator {
+        active: menu.ready
         model: menu.commands
 
         delegate: MenuEntry {

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-// All that a finished survey found. It goes at once when another survey begins, so that nothing stale can be pressed,
-// and fades in when it has ended.
+// All that a finished survey found. It goes at once when another survey begins, so that nothing stale can be pressed.
 pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.Components
 import Zelk.Survey
-import Zelk.Theme
 
 Column {
     id: block
@@ -16,15 +14,6 @@ Column {
     objectName: "findings"
     spacing: 22
     visible: block.survey.finished
-    opacity: block.survey.finished ? 1 : 0
-
-    Behavior on opacity {
-        enabled: block.survey.finished
-        NumberAnimation {
-            duration: Motion.gentle
-            easing.type: Easing.OutCubic
-        }
-    }
 
     Headline {
         width: parent.width

@@ -58,7 +58,7 @@ FocusScope {
 
             readonly property real heroTop: device.y + device.height + 12
             readonly property real heroRoom: scroll.height - scroll.paddingDown - page.heroTop
-            readonly property real used: findings.visible ? findings.y + findings.implicitHeight : hero.y + hero.implicitHeight
+            readonly property real used: view.survey.finished ? findings.y + findings.implicitHeight : hero.y + hero.implicitHeight
 
             width: scroll.width
             height: Math.max(scroll.height, page.used + scroll.paddingDown)
@@ -89,13 +89,33 @@ FocusScope {
                 }
             }
 
-            FindingsBlock {
+            // Built with the first results, and kept. It fades in.
+            Loader {
                 id: findings
+
+                readonly property bool wanted: view.survey.finished
+
+                function build() {
+                    if (findings.wanted && findings.status === Loader.Null)
+                        findings.setSource("FindingsBlock.qml", {
+                            survey: view.survey
+                        });
+                }
 
                 x: scroll.paddingAcross
                 y: page.heroTop + hero.implicitHeight + 22
                 width: page.width - 2 * scroll.paddingAcross
-                survey: view.survey
+                opacity: findings.wanted ? 1 : 0
+                onWantedChanged: findings.build()
+                Component.onCompleted: findings.build()
+
+                Behavior on opacity {
+                    enabled: findings.wanted
+                    NumberAnimation {
+                        duration: Motion.gentle
+                        easing.type: Easing.OutCubic
+                    }
+                }
             }
         }
     }
