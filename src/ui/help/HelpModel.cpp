@@ -33,6 +33,10 @@ QHash<int, QByteArray> HelpModel::roleNames() const {
     return {{symbolRole, "symbol"}, {tintRole, "tint"}, {titleRole, "title"}, {currentRole, "current"}};
 }
 
+int HelpModel::current() const {
+    return selection_.value_or(0);
+}
+
 void HelpModel::select(int row) {
     if (row < 0 || row >= rowCount()) return;
     const int before = current();

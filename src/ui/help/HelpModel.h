@@ -34,7 +34,7 @@ public:
     std::optional<int> selection() const { return selection_; }
 
     /// The row of the topic that is shown: the chosen one, else the first.
-    int current() const { return selection_.value_or(0); }
+    int current() const;
     QString symbol() const { return topic().symbol(); }
     QColor tint() const { return topic().color(); }
     QString title() const { return topic().title; }

@@ -11,14 +11,20 @@ void refuseWindowTabs() {
 
 /// The toolkit has put it into the application's menu, where it would stand empty.
 void removeServicesMenu() {
-    NSMenu* services = NSApp.servicesMenu;
-    NSApp.servicesMenu = nil;
-    for (NSMenuItem* top in NSApp.mainMenu.itemArray)
-        for (NSMenuItem* item in top.submenu.itemArray)
-            if (services != nil && item.submenu == services) {
-                [top.submenu removeItem:item];
-                return;
-            }
+    NSApplication* application = NSApplication.sharedApplication;
+    NSMenu* services = application.servicesMenu;
+    if (services == nil) return;
+    application.servicesMenu = nil;
+    NSMenu* bar = application.mainMenu;
+    for (NSInteger menu = 0; menu < bar.numberOfItems; ++menu) {
+        NSMenu* entries = [bar itemAtIndex:menu].submenu;
+        for (NSInteger entry = 0; entry < entries.numberOfItems; ++entry) {
+            NSMenuItem* item = [entries itemAtIndex:entry];
+            if (item.submenu != services) continue;
+            [entries removeItem:item];
+            return;
+        }
+    }
 }
 
 }  // namespace zelk

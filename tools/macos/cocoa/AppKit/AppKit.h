@@ -18,3 +18,25 @@
 - (BOOL)openURL:(NSURL*)url;
 - (void)activateFileViewerSelectingURLs:(NSArray<NSURL*>*)urls;
 @end
+
+@class NSMenu;
+
+@interface NSMenuItem : NSObject
+@property(readonly) NSMenu* submenu;
+@end
+
+@interface NSMenu : NSObject
+@property(readonly) NSInteger numberOfItems;
+- (NSMenuItem*)itemAtIndex:(NSInteger)index;
+- (void)removeItem:(NSMenuItem*)item;
+@end
+
+@interface NSApplication : NSObject
+@property(class, readonly) NSApplication* sharedApplication;
+@property(readonly) NSMenu* mainMenu;
+@property(strong) NSMenu* servicesMenu;
+@end
+
+@interface NSWindow : NSObject
+@property(class) BOOL allowsAutomaticWindowTabbing;
+@end

@@ -118,6 +118,11 @@ NSString* NSHomeDirectory(void);
 - (BOOL)trashItemAtURL:(NSURL*)url resultingItemURL:(out NSURL**)result error:(out NSError**)error;
 @end
 
+@interface NSBundle : NSObject
+@property(class, readonly) NSBundle* mainBundle;
+- (id)objectForInfoDictionaryKey:(NSString*)key;
+@end
+
 @interface NSHost : NSObject
 @property(readonly) NSString* localizedName;
 + (instancetype)currentHost;
