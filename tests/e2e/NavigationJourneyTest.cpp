@@ -17,20 +17,6 @@ protected:
 
     static std::string rowOf(Screen screen) { return "sidebar" + lookOf(screen).title.toStdString(); }
     double sidebarWidth() { return find("sidebar")->width(); }
-
-    /// Whether this text is to be seen anywhere.
-    bool shows(const QString& text) {
-        window().grabWindow();
-        std::vector<QQuickItem*> pending{window().contentItem()};
-        while (!pending.empty()) {
-            QQuickItem* item = pending.back();
-            pending.pop_back();
-            if (!item->isVisible()) continue;
-            if (item->property("text").toString() == text) return true;
-            for (QQuickItem* child : item->childItems()) pending.push_back(child);
-        }
-        return false;
-    }
 };
 
 }  // namespace

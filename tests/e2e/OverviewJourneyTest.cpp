@@ -15,19 +15,6 @@ protected:
         services.pickFolder = [this] { return picked; };
     }
 
-    bool shows(const QString& text) {
-        window().grabWindow();
-        std::vector<QQuickItem*> pending{window().contentItem()};
-        while (!pending.empty()) {
-            QQuickItem* item = pending.back();
-            pending.pop_back();
-            if (!item->isVisible()) continue;
-            if (item->property("text").toString() == text) return true;
-            for (QQuickItem* child : item->childItems()) pending.push_back(child);
-        }
-        return false;
-    }
-
     void surveyFromTheButton() {
         click("scanButton");
         runUntil([&] { return model().scanPhase() == Phase::finished; });
@@ -133,15 +120,7 @@ TEST_F(Overview, theThemeIsChangedInTheSettings) {
     model().setAppearance(AppModel::Appearance::dark);
     click("sidebarSettings");
     const QColor dark = window().grabWindow().pixelColor(600, 600);
-    std::vector<QQuickItem*> pending{window().contentItem()};
-    QQuickItem* light = nullptr;
-    while (!pending.empty() && light == nullptr) {
-        QQuickItem* item = pending.back();
-        pending.pop_back();
-        if (item->inherits("QQuickAbstractButton") && item->property("text").toString() == QStringLiteral("Light"))
-            light = item;
-        for (QQuickItem* child : item->childItems()) pending.push_back(child);
-    }
+    QQuickItem* light = showing(QStringLiteral("Light"));
     ASSERT_NE(light, nullptr);
     tour::clickAt(window(), light->mapToScene(light->boundingRect().center()));
     EXPECT_EQ(model().appearance(), AppModel::Appearance::light);

@@ -79,8 +79,7 @@ protected:
 TEST_P(ScreenWalk, showsNoFaultInAnySizeThemeAndTextSize) {
     shell();
     if (GetParam() != Content::none) survey();
-    auto& text = *qmlEngine(window().contentItem()->childItems().front())
-                      ->singletonInstance<TextScale*>(qmlTypeId("Zelk.Theme", 1, 0, "TextScale"));
+    TextScale& text = main().textScale();
     for (const QSize size : {leastSize, amplySized}) {
         window().resize(size);
         runUntil([&] { return window().contentItem()->size() == QSizeF(size); });

@@ -45,6 +45,20 @@ protected:
         EXPECT_TRUE(tour::clickOn(window(), QString::fromLatin1(name))) << name;
     }
     QQuickItem* find(const char* name) { return tour::findControl(window(), QString::fromLatin1(name)); }
+    /// The outermost item in sight with this text; nullptr if there is none.
+    QQuickItem* showing(const QString& text) {
+        window().grabWindow();  // lays out what is new
+        std::vector<QQuickItem*> pending{window().contentItem()};
+        while (!pending.empty()) {
+            QQuickItem* item = pending.back();
+            pending.pop_back();
+            if (!item->isVisible()) continue;
+            if (item->property("text").toString() == text) return item;
+            for (QQuickItem* child : item->childItems()) pending.push_back(child);
+        }
+        return nullptr;
+    }
+    bool shows(const QString& text) { return showing(text) != nullptr; }
     QString focusName() { return window().activeFocusItem()->objectName(); }
 
     WindowServices services;

@@ -185,8 +185,7 @@ bool Tour::firstRun() {
 }
 
 bool Tour::smallAndLarge() {
-    QQmlEngine& engine = *qmlEngine(findControl(window_.window(), scanButton));
-    auto& text = *engine.singletonInstance<TextScale*>(qmlTypeId("Zelk.Theme", 1, 0, "TextScale"));
+    TextScale& text = window_.textScale();
     bool taken = true;
     const auto resize = [this](QSize size) {
         window_.window().resize(size);

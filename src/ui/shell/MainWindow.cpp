@@ -17,6 +17,7 @@
 #include "ui/shell/RootModel.h"
 #include "ui/survey/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
+#include "ui/theme/TextScale.h"
 #include "ui/theme/Theme.h"
 #include "ui/tools/ToolsScreenModel.h"
 #include "ui/welcome/FirstRunModel.h"
@@ -61,6 +62,7 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
     // Before the first frame, so that no window ever flashes in the wrong theme.
     singleton<Theme>(engine_, "Zelk.Theme", "Theme")->follow(app);
     motion_ = singleton<Motion>(engine_, "Zelk.Theme", "Motion");
+    textScale_ = singleton<TextScale>(engine_, "Zelk.Theme", "TextScale");
     const auto followMotion = [this] { survey_->setCounting(!motion_->reduced()); };
     QObject::connect(motion_, &Motion::changed, survey_.get(), followMotion);
     followMotion();

@@ -28,6 +28,7 @@ class RootModel;
 class SettingsScreenModel;
 class SidebarModel;
 class SurveyScreenModel;
+class TextScale;
 class ToolsScreenModel;
 class Workspace;
 
@@ -65,6 +66,7 @@ public:
     SidebarModel& sidebar() { return *sidebar_; }
     AppCommands& commands() { return *commands_; }
     Motion& motion() { return *motion_; }
+    TextScale& textScale() { return *textScale_; }
 
 private:
     std::vector<DetailPages::Page> makePages();
@@ -86,7 +88,8 @@ private:
     std::unique_ptr<AppCommands> commands_;
     std::unique_ptr<RootModel> root_;
     QQmlEngine engine_;
-    Motion* motion_ = nullptr;  // the engine's
+    Motion* motion_ = nullptr;        // the engine's
+    TextScale* textScale_ = nullptr;  // the engine's
     std::unique_ptr<SecondaryWindows> secondary_;
     std::unique_ptr<QQuickWindow> window_;
     bool begun_ = false;

@@ -27,7 +27,10 @@ Shell::Shell(AppModel& app, const WindowServices& services)
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
-Shell::~Shell() = default;
+/// The window hides once more as it is destroyed, when the parts that would be asked are gone already.
+Shell::~Shell() {
+    main_.window().disconnect(this);
+}
 
 void Shell::start() {
     main_.show();
