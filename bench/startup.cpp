@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What starting Zelk costs beside the least window that Qt Quick Controls can show: the time from the start of the
-// process to the first painted frame, and the memory once the window has come to rest. The real window on the real
-// platform, without a survey and without the first run, drawn by the processor to no screen.
+// process to the first painted frame and to the first with all that the window holds, and the memory once the window
+// has come to rest. The real window on the real platform, without a survey and without the first run, drawn by the
+// processor to no screen.
 //
 //     startup [--rounds N]
 //
@@ -21,9 +22,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/NativePlatform.h"
@@ -40,6 +43,7 @@ constexpr int restMilliseconds = 1000;
 
 struct Cost {
     double milliseconds = 0;
+    double millisecondsToAll = 0;
     double mebibytes = 0;
 };
 
@@ -60,17 +64,19 @@ double residentMebibytes() {
 }
 
 /// Runs the event loop until the window has painted and come to rest, and prints what it took.
-void reportOf(QQuickWindow& window, long long started) {
-    long long painted = 0;
-    QObject::connect(
-        &window, &QQuickWindow::frameSwapped, &window,
-        [&] {
-            painted = now();
-            QTimer::singleShot(restMilliseconds, qApp, &QCoreApplication::quit);
-        },
-        Qt::SingleShotConnection);
+void reportOf(QQuickWindow& window, long long started, const std::function<bool()>& complete) {
+    long long first = 0;
+    long long all = 0;
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&] {
+        if (complete()) return;
+        all = now();
+        if (first != 0) return;
+        first = all;
+        QTimer::singleShot(restMilliseconds, qApp, &QCoreApplication::quit);
+    });
     QGuiApplication::exec();
-    std::printf("%.3f %.3f\n", static_cast<double>(painted - started) / 1e6, residentMebibytes());
+    const auto since = [&](long long moment) { return static_cast<double>(moment - started) / 1e6; };
+    std::printf("%.3f %.3f %.3f\n", since(first), since(all), residentMebibytes());
     std::fflush(stdout);
 }
 
@@ -85,7 +91,7 @@ void showZelk(int argc, char** argv, long long started) {
     services.accessGranted = [&] { return zelk::hasFullDiskAccess(platform.files, app.home()); };
     zelk::Shell shell(app, services);
     shell.start();
-    reportOf(shell.main().window(), started);
+    reportOf(shell.main().window(), started, [&] { return shell.main().isUp(); });
     std::_Exit(EXIT_SUCCESS);  // the end is not measured
 }
 
@@ -94,7 +100,9 @@ void showEmpty(int argc, char** argv, long long started) {
     QQmlApplicationEngine engine;
     engine.loadData("import QtQuick.Controls\nApplicationWindow { width: 1200; height: 780; visible: true }\n");
     if (engine.rootObjects().isEmpty()) std::_Exit(EXIT_FAILURE);
-    reportOf(*qobject_cast<QQuickWindow*>(engine.rootObjects().first()), started);
+    bool shown = false;
+    reportOf(*qobject_cast<QQuickWindow*>(engine.rootObjects().first()), started,
+             [&] { return std::exchange(shown, true); });
     std::_Exit(EXIT_SUCCESS);
 }
 
@@ -114,7 +122,8 @@ std::optional<Cost> costOf(const char* what) {
     ::close(ends[1]);
     std::FILE* said = ::fdopen(ends[0], "r");
     Cost cost;
-    const bool complete = std::fscanf(said, "%lf %lf", &cost.milliseconds, &cost.mebibytes) == 2;
+    const bool complete =
+        std::fscanf(said, "%lf %lf %lf", &cost.milliseconds, &cost.millisecondsToAll, &cost.mebibytes) == 3;
     std::fclose(said);
     int status = 0;
     if (child < 0 || ::waitpid(child, &status, 0) != child || status != 0 || !complete) return std::nullopt;
@@ -145,10 +154,13 @@ int compare(int rounds) {
     }
     const double time = median(zelk, &Cost::milliseconds);
     const double leastTime = median(empty, &Cost::milliseconds);
+    const double timeToAll = median(zelk, &Cost::millisecondsToAll);
     const double memory = median(zelk, &Cost::mebibytes);
     const double leastMemory = median(empty, &Cost::mebibytes);
     std::printf("first frame  %6.1f ms   empty window %6.1f ms   ratio %.2f, at most %.1f wanted\n", time, leastTime,
                 time / leastTime, mostTimes);
+    std::printf("all in it    %6.1f ms   empty window %6.1f ms   ratio %.2f\n", timeToAll, leastTime,
+                timeToAll / leastTime);
     std::printf("idle memory  %6.1f MiB  empty window %6.1f MiB  above %.1f MiB, at most %.0f MiB wanted\n", memory,
                 leastMemory, memory - leastMemory, mostAbove);
     return 0;

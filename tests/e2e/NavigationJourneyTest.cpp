@@ -138,6 +138,7 @@ TEST_F(Navigation, theSelectionOutlivesTheWindow) {
     click("sidebarLens");
     MainWindow another(model());
     another.show();
+    runUntil([&] { return another.isUp(); });
     EXPECT_NE(tour::findControl(another.window(), QStringLiteral("moduleScanButton")), nullptr);
 }
 

@@ -144,7 +144,7 @@ TEST_F(Overview, theWelcomeIsShownOnceOnly) {
 
     MainWindow second(model(), services);
     second.show();
-    runUntil([&] { return second.window().isExposed(); });
+    runUntil([&] { return second.isUp(); });
     second.window().grabWindow();
     EXPECT_EQ(tour::findControl(second.window(), QStringLiteral("primaryButton")), nullptr);
 }

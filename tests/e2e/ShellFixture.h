@@ -29,7 +29,7 @@ protected:
             shell_ = std::make_unique<Shell>(model(), services);
             shell_->main().motion().setReduced(true);
             shell_->start();
-            runUntil([&] { return window().isExposed() && window().isActive(); });
+            runUntil([&] { return shell_->main().isUp(); });
         }
         return *shell_;
     }

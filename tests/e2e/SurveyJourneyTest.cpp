@@ -36,7 +36,7 @@ protected:
         if (!main_) {
             main_ = std::make_unique<MainWindow>(model());
             main_->show();
-            runUntil([&] { return main_->window().isExposed() && main_->window().isActive(); });
+            runUntil([&] { return main_->isUp(); });
         }
         return main_->window();
     }
@@ -173,7 +173,7 @@ TEST(RealJourney, aRealFolderIsSurveyedThroughTheWindow) {
         AppModel model(native.platform());
         MainWindow main(model);
         main.show();
-        runUntil([&] { return main.window().isExposed() && main.window().isActive(); });
+        runUntil([&] { return main.isUp(); });
         pressKey(main.window(), Qt::Key_Return);
         runUntil([&] { return model.scanPhase() == AppModel::ScanPhase::finished; });
         EXPECT_GE(model.reclaimableBytes(), 100'000);

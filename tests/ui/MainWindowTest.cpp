@@ -36,7 +36,7 @@ protected:
             shown_ = std::make_unique<MainWindow>(model());
             shown_->motion().setReduced(true);
             shown_->show();
-            runUntil([&] { return window().isExposed() && window().isActive(); });
+            runUntil([&] { return shown_->isUp(); });
         }
         return *shown_;
     }

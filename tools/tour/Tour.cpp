@@ -57,7 +57,7 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize
     window_.motion().setReduced(true);
     window_.window().resize(size);
     window_.show();
-    waitUntil([this] { return window_.window().isExposed() && window_.window().isActive(); });
+    waitUntil([this] { return window_.isUp(); });
 }
 
 bool Tour::run() {
@@ -175,7 +175,7 @@ bool Tour::firstRun() {
     first.motion().setReduced(true);
     first.window().resize(size_);
     first.show();
-    waitUntil([&] { return first.window().isExposed() && first.window().isActive(); });
+    waitUntil([&] { return first.isUp(); });
     for (int page = 1; appears(first.window(), "primaryButton"); ++page) {
         if (!picture(first.window(), QStringLiteral("welcome-%1").arg(page))) return false;
         if (!clickOn(first.window(), QStringLiteral("primaryButton"))) return missed("a page of the welcome");

@@ -77,9 +77,25 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
             std::make_unique<FirstRunModel>(*services_.preferences, services_.accessGranted, *services_.workspace);
     root_ = std::make_unique<RootModel>(*sidebar_, *pages_, *commands_, firstRun_.get());
     window_ = makeWindow(engine_, QStringLiteral("MainWindow"), as("root", root_.get()));
+    afterNextFrame([this] {
+        root_->fill();
+        afterNextFrame([this] {
+            complete_ = true;
+            if (whenComplete_) std::exchange(whenComplete_, {})();
+        });
+    });
 }
 
 MainWindow::~MainWindow() = default;
+
+bool MainWindow::isUp() const {
+    return window_->isExposed() && window_->isActive() && complete_;
+}
+
+void MainWindow::afterNextFrame(const std::function<void()>& act) {
+    QObject::connect(window_.get(), &QQuickWindow::frameSwapped, root_.get(), act,
+                     static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
 
 void MainWindow::show() {
     window_->show();

@@ -52,8 +52,12 @@ public:
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
 
-    /// Shows it; the first time, the first run begins.
+    /// Shows it; the first time, the first run begins. Its contents follow its first frame.
     void show();
+    /// Whether it is on the screen with its contents and has the keyboard.
+    bool isUp() const;
+    /// What the first moments can do without: called once, when the contents have been painted.
+    void whenComplete(std::function<void()> act) { whenComplete_ = std::move(act); }
 
     /// Every window that is there comes to the front, the main one last; one that was closed stays so. Gives their
     /// number.
@@ -72,6 +76,7 @@ private:
     std::vector<DetailPages::Page> makePages();
     QVariantMap givenTo(WindowId id);
     SettingsScreenModel& settings();
+    void afterNextFrame(const std::function<void()>& act);
 
     AppModel& app_;
     WindowServices services_;
@@ -92,6 +97,8 @@ private:
     TextScale* textScale_ = nullptr;  // the engine's
     std::unique_ptr<SecondaryWindows> secondary_;
     std::unique_ptr<QQuickWindow> window_;
+    std::function<void()> whenComplete_;
+    bool complete_ = false;
     bool begun_ = false;
 };
 

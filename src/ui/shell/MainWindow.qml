@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+// The frame of the application. It is on the screen with its grounds at once; what it holds is built behind the first
+// frame, a moment later.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -17,25 +19,26 @@ Window {
     height: 780
     color: Theme.ground
 
-    MenuStrip {
-        id: menus
+    Rectangle {
+        width: window.root.sidebar.width
+        height: parent.height
+        color: Theme.groundHi
+        visible: !window.root.filled
 
-        anchors.left: parent.left
-        anchors.right: parent.right
-        height: visible ? implicitHeight : 0
-        commands: window.root.commands
-        visible: window.root.menusInWindow
-        enabled: visible
+        Rectangle {
+            anchors.right: parent.right
+            width: 1
+            height: parent.height
+            color: Theme.hairline
+        }
     }
 
-    RootView {
-        id: rootView
-
-        anchors.top: menus.bottom
-        anchors.bottom: parent.bottom
-        anchors.left: parent.left
-        anchors.right: parent.right
-        root: window.root
+    Loader {
+        anchors.fill: parent
+        active: window.root.filled
         focus: true
+        Component.onCompleted: setSource("MainContents.qml", {
+            "root": window.root
+        })
     }
 }

@@ -12,7 +12,6 @@ T.Menu {
     id: menu
 
     required property CommandMenu commands
-    required property bool ready
 
     title: menu.commands.title
     width: Math.round(220 * TextScale.factor)
@@ -37,7 +36,6 @@ T.Menu {
     }
 
     Instantiator {
-        active: menu.ready
         model: menu.commands
 
         delegate: MenuEntry {

@@ -14,17 +14,6 @@ T.MenuBar {
 
     required property AppCommands commands
 
-    // The entries are built behind the first frame.
-    property bool ready: false
-
-    Connections {
-        target: bar.Window.window
-        enabled: !bar.ready
-        function onFrameSwapped() {
-            bar.ready = true;
-        }
-    }
-
     // What had the keyboard before the first menu opened, and how many are open.
     property Item before: null
     property int opened: 0
@@ -86,7 +75,6 @@ T.MenuBar {
             required property CommandMenu modelData
 
             commands: modelData
-            ready: bar.ready
             onAboutToShow: bar.enter()
             onClosed: bar.leave()
         }

@@ -24,6 +24,12 @@ bool RootModel::menusInWindow() const {
 #endif
 }
 
+void RootModel::fill() {
+    if (filled_) return;
+    filled_ = true;
+    emit filledChanged();
+}
+
 QUrl RootModel::firstRunView() const {
     return QUrl(QStringLiteral("qrc:/Zelk/Welcome/FirstRunSheets.qml"));
 }

@@ -24,6 +24,7 @@ class RootModel : public QObject {
     Q_PROPERTY(zelk::DetailPages* pages READ pages CONSTANT FINAL)
     Q_PROPERTY(zelk::AppCommands* commands READ commands CONSTANT FINAL)
     Q_PROPERTY(bool menusInWindow READ menusInWindow CONSTANT FINAL)
+    Q_PROPERTY(bool filled READ filled NOTIFY filledChanged FINAL)
     Q_PROPERTY(bool firstRun READ firstRun NOTIFY firstRunChanged FINAL)
     Q_PROPERTY(QUrl firstRunView READ firstRunView CONSTANT FINAL)
 
@@ -38,12 +39,17 @@ public:
     /// Where the system has no menu bar of its own.
     bool menusInWindow() const;
 
+    /// Whether the window has shown its first frame and has its contents.
+    bool filled() const { return filled_; }
+    void fill();
+
     /// Whether a sheet of the first run has been asked for.
     bool firstRun() const { return firstRunShown_; }
     QUrl firstRunView() const;
     Q_INVOKABLE QVariantMap firstRunGiven() const;
 
 signals:
+    void filledChanged();
     void firstRunChanged();
 
 private:
@@ -53,6 +59,7 @@ private:
     DetailPages& pages_;
     AppCommands& commands_;
     FirstRunModel* firstRun_;
+    bool filled_ = false;
     bool firstRunShown_ = false;
 };
 

@@ -6,8 +6,6 @@
 #include <QScreen>
 #include <utility>
 
-#include "ui/shell/Application.h"
-
 namespace zelk {
 
 namespace {
@@ -31,11 +29,6 @@ std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& file
     if (!component.isReady()) qFatal("%s", qPrintable(component.errorString()));
     std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(given)));
     if (!window) qFatal("%s is no window: %s", qPrintable(file), qPrintable(component.errorString()));
-    // The first frame is the person's; to draw the icon comes behind it.
-    QObject::connect(
-        window.get(), &QQuickWindow::frameSwapped, window.get(),
-        [shown = window.get()] { shown->setIcon(applicationIcon()); },
-        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     if (const QScreen* screen = window->screen()) {
         const QRect room = screen->availableGeometry();
         QRect place(QPoint(), window->size().boundedTo(room.size()).expandedTo(window->minimumSize()));

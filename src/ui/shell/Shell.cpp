@@ -3,6 +3,7 @@
 
 #include <QGuiApplication>
 
+#include "ui/shell/Application.h"
 #include "ui/shell/NativeApplication.h"
 #include "ui/shell/NativeMenuBar.h"
 #include "ui/shell/RootModel.h"
@@ -21,10 +22,13 @@ Shell::Shell(AppModel& app, const WindowServices& services)
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &Shell::followApplicationState);
 #endif
     connect(&main_.window(), &QWindow::visibleChanged, this, &Shell::followMainWindow);
-    // The first frame is the person's; asking the desktop for a tray comes behind it.
-    connect(
-        &main_.window(), &QQuickWindow::frameSwapped, this, [this] { statusItem_.start(); },
-        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    // The first frames are the person's; to draw the icon and to ask the desktop for a tray come behind them.
+    main_.whenComplete([this] {
+#ifndef Q_OS_MACOS  // where it is the bundle's
+        QGuiApplication::setWindowIcon(applicationIcon());
+#endif
+        statusItem_.start();
+    });
 }
 
 /// The window hides once more as it is destroyed, when the parts that would be asked are gone already.
