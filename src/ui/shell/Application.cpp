@@ -15,6 +15,7 @@
 void qml_register_types_Zelk_Theme();
 void qml_register_types_Zelk_Symbols();
 void qml_register_types_Zelk_Components();
+void qml_register_types_Zelk_Bubbles();
 void qml_register_types_Zelk_Navigation();
 void qml_register_types_Zelk_Survey();
 void qml_register_types_Zelk_Tools();
@@ -66,6 +67,7 @@ void registerInterface() {
     qml_register_types_Zelk_Theme();
     qml_register_types_Zelk_Symbols();
     qml_register_types_Zelk_Components();
+    qml_register_types_Zelk_Bubbles();
     qml_register_types_Zelk_Navigation();
     qml_register_types_Zelk_Survey();
     qml_register_types_Zelk_Tools();

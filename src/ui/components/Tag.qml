@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// A word in its colour, on a breath of the same colour.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+Rectangle {
+    id: tag
+
+    required property string text
+    required property color ink
+    property real tint: 0.2
+
+    implicitWidth: word.implicitWidth + 2 * 8
+    implicitHeight: word.implicitHeight + 2 * 3
+    radius: 6
+    color: Qt.alpha(tag.ink, tag.tint)
+
+    Words {
+        id: word
+
+        anchors.centerIn: parent
+        text: tag.text
+        size: 11
+        color: tag.ink
+    }
+}
