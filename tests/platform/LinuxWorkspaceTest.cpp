@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/LinuxWorkspace.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <spawn.h>
@@ -51,7 +52,12 @@ public:
         std::string address = "--print-address=" + descriptor;
         std::string foreground = "--nofork";
         std::array<char*, 5> words{program.data(), options.data(), address.data(), foreground.data(), nullptr};
-        const int error = ::posix_spawnp(&process_, words[0], nullptr, nullptr, words.data(), environ);
+        // Were this process to crash, whoever waits for its output would wait for the bus too.
+        posix_spawn_file_actions_t actions;
+        ::posix_spawn_file_actions_init(&actions);
+        for (const int output : {1, 2}) ::posix_spawn_file_actions_addopen(&actions, output, "/dev/null", O_WRONLY, 0);
+        const int error = ::posix_spawnp(&process_, words[0], &actions, nullptr, words.data(), environ);
+        ::posix_spawn_file_actions_destroy(&actions);
         ::close(ends[1]);
         char c = 0;
         while (error == 0 && ::read(ends[0], &c, 1) == 1 && c != '\n') address_ += c;
