@@ -7,12 +7,14 @@
 
 namespace zelk {
 
+bool isOldEnough(const Reclaimable& item, std::int64_t days, TimePoint now) {
+    return days < 1 || item.lastModified < now - static_cast<double>(days) * secondsPerDay;
+}
+
 std::vector<Reclaimable> ageFiltered(const std::vector<Reclaimable>& items, std::int64_t days, TimePoint now) {
-    if (days < 1) return items;
-    const TimePoint cutOff = now - static_cast<double>(days) * secondsPerDay;
     std::vector<Reclaimable> old;
     std::copy_if(items.begin(), items.end(), std::back_inserter(old),
-                 [cutOff](const Reclaimable& item) { return item.lastModified < cutOff; });
+                 [=](const Reclaimable& item) { return isOldEnough(item, days, now); });
     return old;
 }
 
@@ -88,7 +90,7 @@ CleanupSelection::Counts CleanupSelection::counts(const CleanupGroup& group) con
 std::vector<Reclaimable> CleanupSelection::chosen(const std::vector<Reclaimable>& shown) const {
     std::vector<Reclaimable> items;
     std::copy_if(shown.begin(), shown.end(), std::back_inserter(items),
-                 [this](const Reclaimable& item) { return contains(item) && !inUse(item); });
+                 [this](const Reclaimable& item) { return takes(item); });
     return items;
 }
 

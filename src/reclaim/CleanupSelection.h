@@ -17,6 +17,9 @@
 
 namespace zelk {
 
+/// Whether an item was last modified more than `days` before `now`; any is for `days` below 1.
+bool isOldEnough(const Reclaimable& item, std::int64_t days, TimePoint now);
+
 /// The items that were last modified more than `days` before `now`, in their order; all of them for `days` below 1.
 std::vector<Reclaimable> ageFiltered(const std::vector<Reclaimable>& items, std::int64_t days, TimePoint now);
 
@@ -57,6 +60,8 @@ public:
     void setAll(const CleanupGroup& group, bool on);
 
     bool contains(const Reclaimable& item) const { return selected_.contains(item.id); }
+    /// Whether it would be cleaned: it is ticked and not in use.
+    bool takes(const Reclaimable& item) const { return contains(item) && !inUse(item); }
     /// The application that uses it; empty if none does.
     const std::string& conflictOf(const Reclaimable& item) const;
     Counts counts(const CleanupGroup& group) const;

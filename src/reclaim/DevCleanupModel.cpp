@@ -49,6 +49,17 @@ std::vector<CleanupGroup> DevCleanupModel::groups(const Items& reclaimables) con
     return cleanupGroups(shown(reclaimables));
 }
 
+DevCleanupModel::Tallies DevCleanupModel::tallies(const Items& reclaimables) const {
+    const TimePoint now = platform_.clock.now();
+    Tallies tallies;
+    for (const Reclaimable& item : reclaimables) {
+        if (!isOldEnough(item, ageDays_, now)) continue;
+        tallies.shown.add(item);
+        if (selection_.takes(item)) tallies.selected.add(item);
+    }
+    return tallies;
+}
+
 void DevCleanupModel::seed(const Items& reclaimables) {
     if (reclaimables.size() == selection_.seededFor()) return;
     WorkspaceAtOnce workspace(platform_.workspace);

@@ -35,6 +35,18 @@ public:
     void setShowDryRun(bool show);
     const CleanupSelection& selection() const { return selection_; }
 
+    /// So many items of so many bytes.
+    struct Tally {
+        std::size_t items = 0;
+        std::int64_t bytes = 0;
+
+        void add(const Reclaimable& item) {
+            ++items;
+            bytes += static_cast<std::int64_t>(item.size);
+        }
+        bool operator==(const Tally&) const = default;
+    };
+
     /// The items that the age filter lets through.
     Items shown(const Items& reclaimables) const;
     std::vector<CleanupGroup> groups(const Items& reclaimables) const;
@@ -48,6 +60,13 @@ public:
     /// What would be cleaned now.
     Items selectedItems(const Items& reclaimables) const { return selection_.chosen(shown(reclaimables)); }
     std::int64_t selectedBytes(const Items& reclaimables) const { return totalSize(selectedItems(reclaimables)); }
+
+    /// The same as a count, and of all that the age filter lets through.
+    struct Tallies {
+        Tally shown;
+        Tally selected;
+    };
+    Tallies tallies(const Items& reclaimables) const;
 
     /// Comes back at once; isCleaning() until the results are there.
     void clean(Items items, bool hardDelete);

@@ -91,6 +91,8 @@ public:
     bool trashLoading() const { return trashLoading_; }
     bool emptyingTrash() const { return emptyingTrash_; }
 
+    /// The services, for the models of screens that do things of their own.
+    const Platform& platform() const { return platform_; }
     /// The desktop around the application, for screens that show things in it.
     Workspace& workspace() const { return platform_.workspace; }
     const std::string& home() const { return home_; }

@@ -9,6 +9,7 @@
 #include "state/AppModelFixture.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/survey/SurveyScreenModel.h"
+#include "ui/theme/Motion.h"
 
 namespace zelk {
 
@@ -35,6 +36,7 @@ protected:
     QQuickWindow& window() {
         if (!main_) {
             main_ = std::make_unique<MainWindow>(model());
+            main_->motion().setReduced(true);  // a pressed button is where it was aimed at
             main_->show();
             runUntil([&] { return main_->isUp(); });
         }

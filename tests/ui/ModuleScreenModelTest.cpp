@@ -77,7 +77,6 @@ TEST_F(Modules, saysWhatEachIsFor) {
         EXPECT_EQ(module(screen)->title().toStdString(), title);
         EXPECT_EQ(module(screen)->subtitle().toStdString(), subtitle);
     };
-    expect(Screen::reclaim, "Reclaim", "Clear caches, logs, and developer junk — safely, to the Trash.");
     expect(Screen::privacy, "Privacy",
            "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that needs a "
            "signature database).");
@@ -100,7 +99,6 @@ TEST_F(Modules, thatLiveFromTheSurveyOfferOne) {
         EXPECT_EQ(module(screen)->scanningLabel().toStdString(), scanningLabel);
         EXPECT_FALSE(module(screen)->noted());
     };
-    expect(Screen::reclaim, "Scan for junk", "Looking for reclaimable junk…");
     expect(Screen::clutter, "Find large files", "Hunting for heavy files…");
     expect(Screen::lens, "Run survey", "Surveying your drive…");
 }

@@ -12,6 +12,8 @@ BaseButton {
     // Of the text, in points.
     property real size: 13
     property string symbol: ""
+    // What it does cannot be undone.
+    property bool alarming: false
     // What is written on it.
     property color textColor: Theme.accentInk
 
@@ -32,6 +34,13 @@ BaseButton {
 
     background: AccentFill {
         corner: primary.corner
+
+        Rectangle {
+            anchors.fill: parent
+            radius: primary.corner
+            color: Theme.alert
+            visible: primary.alarming
+        }
 
         // Light under the pointer, shade under the finger, on either theme.
         Rectangle {

@@ -35,9 +35,6 @@ ModuleTexts surveyed(Screen screen, const QString& subtitle, const QString& scan
 
 ModuleTexts textsOf(const AppModel& app, Screen screen) {
     switch (screen) {
-        case Screen::reclaim:
-            return surveyed(screen, "Clear caches, logs, and developer junk — safely, to the Trash.", "Scan for junk",
-                            "Looking for reclaimable junk…");
         case Screen::clutter:
             return surveyed(screen,
                             "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.",

@@ -17,6 +17,7 @@ void qml_register_types_Zelk_Symbols();
 void qml_register_types_Zelk_Components();
 void qml_register_types_Zelk_Bubbles();
 void qml_register_types_Zelk_Navigation();
+void qml_register_types_Zelk_Reclaim();
 void qml_register_types_Zelk_Survey();
 void qml_register_types_Zelk_Tools();
 void qml_register_types_Zelk_Settings();
@@ -69,6 +70,7 @@ void registerInterface() {
     qml_register_types_Zelk_Components();
     qml_register_types_Zelk_Bubbles();
     qml_register_types_Zelk_Navigation();
+    qml_register_types_Zelk_Reclaim();
     qml_register_types_Zelk_Survey();
     qml_register_types_Zelk_Tools();
     qml_register_types_Zelk_Settings();

@@ -9,6 +9,7 @@
 #include "ui/navigation/ModuleScreenModel.h"
 #include "ui/navigation/SidebarModel.h"
 #include "ui/navigation/UnbuiltModules.h"
+#include "ui/reclaim/ReclaimScreenModel.h"
 #include "ui/settings/SettingsScreenModel.h"
 #include "ui/shell/AboutModel.h"
 #include "ui/shell/AppCommands.h"
@@ -120,6 +121,10 @@ std::vector<DetailPages::Page> MainWindow::makePages() {
         switch (screen) {
             case Screen::survey:
                 pages.push_back({view("Survey/SurveyView"), [this] { return as("survey", survey_.get()); }});
+                break;
+            case Screen::reclaim:
+                pages.push_back({view("Reclaim/ReclaimView"),
+                                 [this] { return as<ModuleScreenModel>("module", &madeOnce(reclaim_, app_)); }});
                 break;
             case Screen::tools:
                 pages.push_back({view("Tools/ToolsView"), [this] { return as("tools", &madeOnce(tools_, app_)); }});

@@ -24,6 +24,7 @@ class HelpModel;
 class ModuleScreenModel;
 class Motion;
 class Preferences;
+class ReclaimScreenModel;
 class RootModel;
 class SettingsScreenModel;
 class SidebarModel;
@@ -83,6 +84,7 @@ private:
     // In this order: the windows read the models, and go first.
     std::unique_ptr<SurveyScreenModel> survey_;
     std::unique_ptr<SidebarModel> sidebar_;
+    std::unique_ptr<ReclaimScreenModel> reclaim_;
     std::unique_ptr<ToolsScreenModel> tools_;
     std::unique_ptr<SettingsScreenModel> settings_;
     std::unique_ptr<HelpModel> help_;

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+// A word that opens a menu under it. Its rows are its children.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Components
+import Zelk.Theme
+
+BaseButton {
+    id: button
+
+    // What the word means, where it stands beside it.
+    property string said: ""
+    property real size: 11
+    default property alias rows: panel.contentData
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    horizontalPadding: 8
+    verticalPadding: 4
+
+    Accessible.name: Spoken.joined([button.said, button.text])
+    Accessible.role: Accessible.ButtonMenu
+
+    onClicked: panel.visible ? panel.close() : panel.popup(button, 0, button.height + 4)
+    Keys.onDownPressed: button.clicked()
+
+    background: Wash {
+        radius: 6
+        control: button
+
+        FocusRing {
+            shown: button.visualFocus
+            corner: 6
+        }
+    }
+
+    contentItem: ButtonLabel {
+        text: button.text
+        size: button.size
+        color: Theme.ink
+        symbol: "chevron.down"
+        symbolColor: Theme.inkSoft
+    }
+
+    MenuPanel {
+        id: panel
+
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+        onClosed: button.forceActiveFocus(Qt.PopupFocusReason)
+    }
+}

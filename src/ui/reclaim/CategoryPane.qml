@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// The categories as a list, and beside it as a map of the same; either ticks them.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Reclaim
+import Zelk.Theme
+
+FocusScope {
+    id: pane
+
+    required property CategoryList categories
+
+    Item {
+        id: left
+
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.bottom: footer.top
+        width: Math.min(340 * TextScale.factor, pane.width * 0.6)
+
+        CategoryHead {
+            id: head
+
+            width: parent.width
+            categories: pane.categories
+        }
+
+        Divider {
+            id: rule
+
+            anchors.top: head.bottom
+            width: parent.width
+        }
+
+        RowList {
+            id: list
+
+            objectName: "categoryList"
+            anchors.top: rule.bottom
+            anchors.bottom: parent.bottom
+            width: parent.width
+            topMargin: 8
+            bottomMargin: 8
+            focus: true
+            name: pane.categories.name
+            model: pane.categories
+
+            Keys.onSpacePressed: event => list.press(event.isAutoRepeat)
+            Keys.onReturnPressed: event => list.press(event.isAutoRepeat)
+            Keys.onEnterPressed: event => list.press(event.isAutoRepeat)
+
+            function press(again: bool) {
+                if (!again)
+                    pane.categories.toggle(list.currentIndex);
+            }
+
+            delegate: CategoryRow {
+                ringed: list.ringed && ListView.isCurrentItem
+                onPressed: row => {
+                    list.take(row);
+                    pane.categories.toggle(row);
+                }
+            }
+        }
+    }
+
+    Rectangle {
+        id: edge
+
+        anchors.left: left.right
+        anchors.top: parent.top
+        anchors.bottom: footer.top
+        width: 1
+        color: Theme.hairline
+    }
+
+    CleanFooter {
+        id: footer
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        line: pane.categories.footer
+        action: pane.categories.reviewLabel
+        ready: pane.categories.reviewable
+        onPressed: pane.categories.review()
+    }
+}

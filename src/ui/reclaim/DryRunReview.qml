@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+// What would go, item by item, and how.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Reclaim
+import Zelk.Theme
+
+FocusScope {
+    id: page
+
+    required property DryRunModel dryRun
+    readonly property alias confirm: confirmButton
+
+    implicitHeight: heading.implicitHeight + 120 + permanent.implicitHeight + buttons.implicitHeight + 3 * 14
+
+    Column {
+        id: heading
+
+        width: parent.width
+        spacing: 2
+
+        Words {
+            width: parent.width
+            text: page.dryRun.title
+            size: 17
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+
+        Words {
+            width: parent.width
+            text: page.dryRun.line
+            size: 12
+            soft: true
+            wrapMode: Text.WordWrap
+        }
+    }
+
+    Rectangle {
+        anchors.top: heading.bottom
+        anchors.topMargin: 14
+        anchors.bottom: permanent.top
+        anchors.bottomMargin: 14
+        width: parent.width
+        radius: 12
+        color: Theme.ground
+        border.width: 1
+        border.color: Theme.hairline
+
+        RowList {
+            id: list
+
+            objectName: "dryRunList"
+            anchors.fill: parent
+            anchors.margins: 1
+            topMargin: 6
+            bottomMargin: 6
+            name: page.dryRun.listName
+            model: page.dryRun.rows
+            delegate: DryRunRow {
+                ringed: list.ringed && ListView.isCurrentItem
+                onPressed: list.take(index)
+            }
+        }
+    }
+
+    PermanentSwitch {
+        id: permanent
+
+        anchors.bottom: buttons.top
+        anchors.bottomMargin: 14
+        width: parent.width
+        dryRun: page.dryRun
+    }
+
+    Row {
+        id: buttons
+
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        spacing: 10
+
+        Spinner {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: page.dryRun.cleaning
+        }
+
+        SecondaryButton {
+            objectName: "cancelCleanup"
+            anchors.verticalCenter: parent.verticalCenter
+            text: page.dryRun.cancelLabel
+            enabled: !page.dryRun.cleaning
+            onClicked: page.dryRun.cancel()
+        }
+
+        PrimaryButton {
+            id: confirmButton
+
+            objectName: "confirmCleanup"
+            focus: true
+            horizontalPadding: 20
+            verticalPadding: 10
+            text: page.dryRun.cleaning ? page.dryRun.cleaningLabel : page.dryRun.confirmLabel
+            alarming: page.dryRun.hardDelete
+            enabled: page.dryRun.confirmable
+            onClicked: page.dryRun.confirm()
+        }
+    }
+}

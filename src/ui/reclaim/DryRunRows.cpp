@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "ui/reclaim/DryRunRows.h"
+
+#include <utility>
+
+#include "ui/components/Spoken.h"
+#include "ui/reclaim/ItemTexts.h"
+#include "ui/text/DisplayText.h"
+
+namespace zelk {
+
+DryRunRows::DryRunRows(std::vector<Reclaimable> items, QObject* parent)
+    : QAbstractListModel(parent), items_(std::move(items)) {}
+
+int DryRunRows::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(items_.size());
+}
+
+QVariant DryRunRows::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Reclaimable& item = items_[static_cast<std::size_t>(index.row())];
+    const auto size = [&] { return byteFigure(static_cast<std::int64_t>(item.size)); };
+    const auto method = [&] { return displayText(methodSummary(item.method)); };
+    switch (role) {
+        case symbolRole:
+            return item.method.kind == ReclaimMethod::Kind::command ? QStringLiteral("terminal")
+                                                                    : QStringLiteral("trash");
+        case Qt::DisplayRole:
+        case nameRole:
+            return nameOf(item);
+        case folderRole:
+            return folderOf(item);
+        case sizeRole:
+            return size();
+        case methodRole:
+            return method();
+        case spokenRole:
+            return Spoken::joined({nameOf(item), size(), method(), folderOf(item)});
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> DryRunRows::roleNames() const {
+    return {{symbolRole, "symbol"}, {nameRole, "name"},     {folderRole, "folder"},
+            {sizeRole, "figure"},   {methodRole, "method"}, {spokenRole, "spoken"}};
+}
+
+}  // namespace zelk
