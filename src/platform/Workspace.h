@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +11,15 @@ namespace zelk {
 /// Where a person grants access to protected folders.
 inline constexpr const char* accessSettingsURL =
     "x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles";
+
+/// A picture of `side` x `side` pixels, row by row from the top left, each 0xAARRGGBB with its colours multiplied by
+/// its opacity.
+struct IconPixels {
+    int side = 0;
+    std::vector<std::uint32_t> argb;
+
+    bool operator==(const IconPixels&) const = default;
+};
 
 /// The desktop around the application. Main thread.
 class Workspace {
@@ -24,6 +35,12 @@ public:
     /// Hands `url` to the desktop. Comes back at once; failures are silent. On Linux `accessSettingsURL`, which no
     /// desktop there knows, shows the home trash in the file manager: its permissions are what keeps it unread.
     virtual void openURL(const std::string& url) = 0;
+    /// The picture by which the desktop shows the file or folder `path`, `side` pixels wide and high (at least 1);
+    /// absent where it has none. On Linux it goes by the name alone and the disk is not asked about it.
+    /// A desktop is not bound to have any.
+    virtual std::optional<IconPixels> icon(const std::string& /*path*/, bool /*isDirectory*/, int /*side*/) {
+        return std::nullopt;
+    }
 };
 
 }  // namespace zelk

@@ -19,6 +19,9 @@ public:
     }
     void reveal(const std::vector<std::string>& paths) override { real_.reveal(paths); }
     void openURL(const std::string& url) override { real_.openURL(url); }
+    std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override {
+        return real_.icon(path, isDirectory, side);
+    }
 
 private:
     Workspace& real_;

@@ -248,6 +248,10 @@ public:
     int runningReads = 0;
     std::vector<std::vector<std::string>> revealed;
     std::vector<std::string> opened;
+    /// The desktop's pictures by path; it has none of any other.
+    std::map<std::string, IconPixels> icons;
+    /// The paths whose picture was asked for, in order.
+    std::vector<std::string> iconReads;
 
     std::vector<std::string> runningApplications() override {
         ++runningReads;
@@ -255,6 +259,11 @@ public:
     }
     void reveal(const std::vector<std::string>& paths) override { revealed.push_back(paths); }
     void openURL(const std::string& url) override { opened.push_back(url); }
+    std::optional<IconPixels> icon(const std::string& path, bool, int) override {
+        iconReads.push_back(path);
+        const auto found = icons.find(path);
+        return found == icons.end() ? std::nullopt : std::optional(found->second);
+    }
 };
 
 /// In memory.

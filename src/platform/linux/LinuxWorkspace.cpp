@@ -82,4 +82,8 @@ void LinuxWorkspace::openURL(const std::string& url) {
     launcher_({"xdg-open", url});
 }
 
+std::optional<IconPixels> LinuxWorkspace::icon(const std::string& path, bool isDirectory, int side) {
+    return icons_.icon(path, isDirectory, side);
+}
+
 }  // namespace zelk

@@ -8,6 +8,7 @@
 
 #include "platform/Workspace.h"
 #include "platform/linux/LinuxApplications.h"
+#include "platform/linux/ThemeIcons.h"
 
 class QDBusConnection;
 
@@ -30,6 +31,7 @@ public:
     std::vector<std::string> runningApplications() override;
     void reveal(const std::vector<std::string>& paths) override;
     void openURL(const std::string& url) override;
+    std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override;
 
 private:
     class Reveals;
@@ -38,6 +40,7 @@ private:
     std::string trash_;
     Launcher launcher_;
     Bus bus_;
+    ThemeIcons icons_;
     std::unique_ptr<Reveals> reveals_;
     std::vector<std::string> running_;
     std::optional<std::chrono::steady_clock::time_point> runningSince_;

@@ -11,6 +11,7 @@ public:
     std::vector<std::string> runningApplications() override;
     void reveal(const std::vector<std::string>& paths) override;
     void openURL(const std::string& url) override;
+    std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override;
 };
 
 }  // namespace zelk

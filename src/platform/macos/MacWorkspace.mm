@@ -36,4 +36,41 @@ void MacWorkspace::openURL(const std::string& url) {
     }
 }
 
+std::optional<IconPixels> MacWorkspace::icon(const std::string& path, bool /*isDirectory*/, int side) {
+    @autoreleasepool {
+        NSString* text = [NSString stringWithUTF8String:path.c_str()];
+        NSImage* image = text != nil ? [[NSWorkspace sharedWorkspace] iconForFile:text] : nil;
+        if (image == nil || side < 1) return std::nullopt;
+
+        const auto length = static_cast<std::size_t>(side);
+        std::vector<unsigned char> bytes(length * length * 4);  // of each pixel red, green, blue, opacity
+        unsigned char* planes[] = {bytes.data()};
+        NSBitmapImageRep* bitmap = [[NSBitmapImageRep alloc] initWithBitmapDataPlanes:planes
+                                                                           pixelsWide:side
+                                                                           pixelsHigh:side
+                                                                        bitsPerSample:8
+                                                                      samplesPerPixel:4
+                                                                             hasAlpha:YES
+                                                                             isPlanar:NO
+                                                                       colorSpaceName:NSDeviceRGBColorSpace
+                                                                          bytesPerRow:side * 4
+                                                                         bitsPerPixel:32];
+        NSGraphicsContext* context = [NSGraphicsContext graphicsContextWithBitmapImageRep:bitmap];
+        if (context == nil) return std::nullopt;
+        [NSGraphicsContext saveGraphicsState];
+        [NSGraphicsContext setCurrentContext:context];
+        const auto edge = static_cast<CGFloat>(side);
+        [image drawInRect:CGRect{{0, 0}, {edge, edge}}];
+        [NSGraphicsContext restoreGraphicsState];
+
+        IconPixels pixels{side, std::vector<std::uint32_t>(length * length)};
+        for (std::size_t i = 0; i < pixels.argb.size(); ++i) {
+            const unsigned char* rgba = &bytes[i * 4];
+            pixels.argb[i] = std::uint32_t{rgba[3]} << 24 | std::uint32_t{rgba[0]} << 16 | std::uint32_t{rgba[1]} << 8 |
+                             std::uint32_t{rgba[2]};
+        }
+        return pixels;
+    }
+}
+
 }  // namespace zelk

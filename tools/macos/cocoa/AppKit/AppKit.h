@@ -12,10 +12,42 @@
 @property(readonly) NSString* localizedName;
 @end
 
+@interface NSImage : NSObject
+- (void)drawInRect:(CGRect)rect;
+@end
+
+typedef NSString* NSColorSpaceName;
+
+extern "C" {
+
+extern NSColorSpaceName const NSDeviceRGBColorSpace;
+}
+
+@interface NSBitmapImageRep : NSObject
+- (instancetype)initWithBitmapDataPlanes:(unsigned char**)planes
+                              pixelsWide:(NSInteger)width
+                              pixelsHigh:(NSInteger)height
+                           bitsPerSample:(NSInteger)bitsPerSample
+                         samplesPerPixel:(NSInteger)samplesPerPixel
+                                hasAlpha:(BOOL)alpha
+                                isPlanar:(BOOL)planar
+                          colorSpaceName:(NSColorSpaceName)colorSpaceName
+                             bytesPerRow:(NSInteger)bytesPerRow
+                            bitsPerPixel:(NSInteger)bitsPerPixel;
+@end
+
+@interface NSGraphicsContext : NSObject
+@property(class, strong) NSGraphicsContext* currentContext;
++ (NSGraphicsContext*)graphicsContextWithBitmapImageRep:(NSBitmapImageRep*)bitmap;
++ (void)saveGraphicsState;
++ (void)restoreGraphicsState;
+@end
+
 @interface NSWorkspace : NSObject
 @property(class, readonly) NSWorkspace* sharedWorkspace;
 @property(readonly) NSArray<NSRunningApplication*>* runningApplications;
 - (BOOL)openURL:(NSURL*)url;
+- (NSImage*)iconForFile:(NSString*)path;
 - (void)activateFileViewerSelectingURLs:(NSArray<NSURL*>*)urls;
 @end
 

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/ThemeIcons.h"
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QImage>
+#include <QMimeDatabase>
+#include <QPainter>
+#include <QPixmap>
+
+namespace zelk {
+
+namespace {
+
+/// Of the most telling name that is known of the file's ending; never by its content, which may lie on a slow disk.
+QMimeType typeOf(const std::string& path) {
+    const QMimeDatabase types;
+    const QString name = QString::fromStdString(path.substr(path.rfind('/') + 1));
+    const QList<QMimeType> found = types.mimeTypesForFileName(name);
+    return found.isEmpty() ? types.mimeTypeForName(QStringLiteral("application/octet-stream")) : found.first();
+}
+
+QIcon themed(const QString& name, const QString& otherwise) {
+    const QIcon icon = QIcon::fromTheme(name);
+    return icon.isNull() ? QIcon::fromTheme(otherwise) : icon;
+}
+
+/// In the middle of a square, never larger than it.
+std::optional<IconPixels> pixelsOf(const QIcon& icon, int side) {
+    const QPixmap found = icon.pixmap(QSize(side, side), 1);
+    if (found.isNull()) return std::nullopt;
+    QImage square(side, side, QImage::Format_ARGB32_Premultiplied);
+    square.fill(Qt::transparent);
+    QPainter painter(&square);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    QRect place(QPoint(), found.size().scaled(square.size(), Qt::KeepAspectRatio));
+    place.moveCenter(square.rect().center());
+    painter.drawPixmap(place, found);
+    painter.end();
+
+    IconPixels pixels{side, {}};
+    pixels.argb.reserve(static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
+    for (int y = 0; y < side; ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(square.constScanLine(y));
+        pixels.argb.insert(pixels.argb.end(), line, line + side);
+    }
+    return pixels;
+}
+
+}  // namespace
+
+std::optional<IconPixels> ThemeIcons::icon(const std::string& path, bool isDirectory, int side) {
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr || side < 1) return std::nullopt;
+    QString name = QStringLiteral("folder");
+    QString otherwise = name;
+    if (!isDirectory) {
+        const QMimeType type = typeOf(path);
+        name = type.iconName();
+        otherwise = type.genericIconName();
+    }
+    const auto [known, isNew] = known_.try_emplace({name.toStdString(), side});
+    if (isNew) known->second = pixelsOf(themed(name, otherwise), side);
+    return known->second;
+}
+
+}  // namespace zelk
