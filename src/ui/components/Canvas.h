@@ -4,8 +4,10 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QPointF>
 #include <QRectF>
+#include <QString>
 #include <vector>
 
 namespace zelk {
@@ -37,10 +39,35 @@ struct Paint {
     bool operator==(const Paint&) const = default;
 };
 
+/// What a shape throws: itself in one colour, moved by `offset` and blurred over `blur` to either side of its edge.
+struct Shadow {
+    QColor color;
+    double blur = 0;
+    QPointF offset;
+
+    bool operator==(const Shadow&) const = default;
+};
+
+/// How a text is written, in the system's font. Sizes are in the canvas's units; a canvas may write a size that falls
+/// between two whole ones as the nearer of them, and measures it so too.
+struct Lettering {
+    enum class Weight { medium, semibold };
+
+    double size = 0;
+    Weight weight = Weight::medium;
+    bool rounded = false;  ///< in the system's face with round ends, where it has one
+
+    bool operator==(const Lettering&) const = default;
+};
+
 class Canvas {
 public:
     virtual ~Canvas() = default;
     virtual void disc(QPointF center, double radius, const Paint& paint) = 0;
+    /// An opaque disc and, below it, its shadow.
+    virtual void shadowedDisc(QPointF center, double radius, const Paint& paint, const Shadow& shadow) = 0;
+    /// The filled ellipse in this rectangle.
+    virtual void ellipse(const QRectF& rect, const Paint& paint) = 0;
     /// A circle's line, `width` wide, its middle at `radius`.
     virtual void ring(QPointF center, double radius, double width, const Paint& paint) = 0;
     /// A part of such a line, with flat ends.
@@ -55,6 +82,12 @@ public:
     virtual void area(const std::vector<QPointF>& corners, const Paint& paint) = 0;
     /// An open line through `points` with round ends and corners.
     virtual void line(const std::vector<QPointF>& points, double width, const Paint& paint) = 0;
+    /// The whole image, stretched or shrunk to this rectangle.
+    virtual void image(const QRectF& rect, const QImage& image) = 0;
+    /// One line of text with its middle at `center`.
+    virtual void text(QPointF center, const QString& text, const Lettering& lettering, const QColor& color) = 0;
+    /// How wide that would be.
+    virtual double textWidth(const QString& text, const Lettering& lettering) const = 0;
 };
 
 }  // namespace zelk

@@ -3,6 +3,9 @@
 
 #include <QBrush>
 #include <QConicalGradient>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -11,6 +14,8 @@
 #include <QRectF>
 #include <algorithm>
 #include <cmath>
+
+#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
@@ -60,19 +65,89 @@ QPainterPath barPath(const QRectF& rect, double leftCorner, double rightCorner) 
     return path;
 }
 
+QFont fontOf(const Lettering& lettering) {
+    QFont font = QGuiApplication::font();
+#ifdef Q_OS_MACOS
+    if (lettering.rounded) font.setFamilies({QStringLiteral("SF Pro Rounded"), font.family()});
+#endif
+    // Whole sizes: each other one would be a font of its own, and a chart that grows would make dozens a second.
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(lettering.size))));
+    font.setWeight(lettering.weight == Lettering::Weight::semibold ? QFont::DemiBold : QFont::Medium);
+    return font;
+}
+
+/// A disc blurred by a Gauss curve, as a gradient from its middle: without a pass over pixels, so that a chart that is
+/// resized can have new ones with every frame. It reaches three deviations further than the disc.
+class BlurredDisc {
+public:
+    BlurredDisc(double radius, double blur, const QColor& color)
+        : radius_(radius), deviation_(std::max(blur / 2, 0.01)), reach_(radius + 3 * deviation_), color_(color) {}
+
+    double reach() const { return reach_; }
+
+    QBrush at(QPointF center) const {
+        QRadialGradient gradient(center, reach_);
+        gradient.setColorAt(0, covered(0));
+        constexpr int steps = 16;
+        const double inner = std::max(0.0, radius_ - 3 * deviation_);
+        for (int step = 0; step <= steps; ++step) {
+            const double distance = inner + (reach_ - inner) * step / steps;
+            gradient.setColorAt(distance / reach_, covered(distance));
+        }
+        gradient.setColorAt(1, withOpacity(color_, 0));
+        return QBrush(gradient);
+    }
+
+private:
+    /// What is left of the colour at this distance from the middle: the curve across a straight edge, less what a
+    /// disc not much larger than the blur loses even in its middle.
+    QColor covered(double distance) const {
+        const double edge = 0.5 * std::erfc((distance - radius_) / (std::sqrt(2.0) * deviation_));
+        const double middle = 1 - std::exp(-radius_ * radius_ / (2 * deviation_ * deviation_));
+        return withOpacity(color_, color_.alphaF() * edge * middle);
+    }
+
+    double radius_;
+    double deviation_;
+    double reach_;
+    QColor color_;
+};
+
 }  // namespace
 
 PainterCanvas::PainterCanvas(QPainter& painter) : painter_(painter) {
-    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
 }
 
 void PainterCanvas::disc(QPointF center, double radius, const Paint& paint) {
+    if (radius <= 0) return;
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(brushOf(paint));
     painter_.drawEllipse(center, radius, radius);
 }
 
+void PainterCanvas::shadowedDisc(QPointF center, double radius, const Paint& paint, const Shadow& shadow) {
+    if (radius <= 0) return;
+    const BlurredDisc blurred(radius, shadow.blur, shadow.color);
+    const QPointF below = center + shadow.offset;
+    QPainterPath seen;  // what the disc will not cover, and a little more for its smooth edge
+    seen.addEllipse(below, blurred.reach(), blurred.reach());
+    seen.addEllipse(center, std::max(0.0, radius - 1), std::max(0.0, radius - 1));
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(blurred.at(below));
+    painter_.drawPath(seen);
+    disc(center, radius, paint);
+}
+
+void PainterCanvas::ellipse(const QRectF& rect, const Paint& paint) {
+    if (rect.isEmpty()) return;
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(brushOf(paint));
+    painter_.drawEllipse(rect);
+}
+
 void PainterCanvas::ring(QPointF center, double radius, double width, const Paint& paint) {
+    if (radius <= 0) return;
     painter_.setPen(penOf(paint, width));
     painter_.setBrush(Qt::NoBrush);
     painter_.drawEllipse(center, radius, radius);
@@ -112,6 +187,23 @@ void PainterCanvas::line(const std::vector<QPointF>& points, double width, const
     painter_.setPen(roundPenOf(paint, width));
     painter_.setBrush(Qt::NoBrush);
     painter_.drawPolyline(points.data(), static_cast<int>(points.size()));
+}
+
+void PainterCanvas::image(const QRectF& rect, const QImage& image) {
+    painter_.drawImage(rect, image);
+}
+
+void PainterCanvas::text(QPointF center, const QString& text, const Lettering& lettering, const QColor& color) {
+    const QFont font = fontOf(lettering);
+    const QFontMetricsF metrics(font);
+    painter_.setFont(font);
+    painter_.setPen(color);
+    painter_.drawText(
+        center + QPointF(-metrics.horizontalAdvance(text) / 2, (metrics.ascent() - metrics.descent()) / 2), text);
+}
+
+double PainterCanvas::textWidth(const QString& text, const Lettering& lettering) const {
+    return QFontMetricsF(fontOf(lettering)).horizontalAdvance(text);
 }
 
 }  // namespace zelk

@@ -7,18 +7,23 @@ class QPainter;
 
 namespace zelk {
 
-/// Draws with a QPainter, anti-aliased. The painter must outlive it.
+/// Draws with a QPainter, anti-aliased; a circle without a positive radius is nothing. The painter must outlive it.
 class PainterCanvas : public Canvas {
 public:
     explicit PainterCanvas(QPainter& painter);
 
     void disc(QPointF center, double radius, const Paint& paint) override;
+    void shadowedDisc(QPointF center, double radius, const Paint& paint, const Shadow& shadow) override;
+    void ellipse(const QRectF& rect, const Paint& paint) override;
     void ring(QPointF center, double radius, double width, const Paint& paint) override;
     void arc(QPointF center, double radius, double width, double start, double span, const Paint& paint) override;
     void roundArc(QPointF center, double radius, double width, double start, double span, const Paint& paint) override;
     void bar(const QRectF& rect, double leftCorner, double rightCorner, const Paint& paint) override;
     void area(const std::vector<QPointF>& corners, const Paint& paint) override;
     void line(const std::vector<QPointF>& points, double width, const Paint& paint) override;
+    void image(const QRectF& rect, const QImage& image) override;
+    void text(QPointF center, const QString& text, const Lettering& lettering, const QColor& color) override;
+    double textWidth(const QString& text, const Lettering& lettering) const override;
 
 private:
     void strokeArc(QPointF center, double radius, double start, double span);
