@@ -21,12 +21,14 @@ BubbleSlice sliceOf(const char* id, std::int64_t bytes) {
 class BubbleChart : public ViewFixture {
 protected:
     BubbleChart() {
-        bubbles.setSlices({sliceOf("large", 1'200'000'000), sliceOf("middle", 600'000'000), sliceOf("small", 5'000'000)});
+        bubbles.setSlices(
+            {sliceOf("large", 1'200'000'000), sliceOf("middle", 600'000'000), sliceOf("small", 5'000'000)});
         show(QStringLiteral("Zelk.Bubbles"), QStringLiteral("BubbleChart"), {600, 400});
     }
     void show(const QString& module, const QString& type, QSize size) {
-        ViewFixture::show(QStringLiteral("import QtQuick\nimport %1\n%2 { name: \"Map\"; focus: true }").arg(module, type), size,
-                          {{QStringLiteral("model"), QVariant::fromValue(&bubbles)}});
+        ViewFixture::show(
+            QStringLiteral("import QtQuick\nimport %1\n%2 { name: \"Map\"; focus: true }").arg(module, type), size,
+            {{QStringLiteral("model"), QVariant::fromValue(&bubbles)}});
     }
     ~BubbleChart() override { close(); }
 
@@ -42,7 +44,8 @@ protected:
 
 TEST_F(BubbleChart, packsWhenItAppears) {
     ASSERT_EQ(chart().packed().size(), 3U);
-    EXPECT_EQ(chart().packed(), pack({{"large", 1'200'000'000}, {"middle", 600'000'000}, {"small", 5'000'000}}, 600, 400));
+    EXPECT_EQ(chart().packed(),
+              pack({{"large", 1'200'000'000}, {"middle", 600'000'000}, {"small", 5'000'000}}, 600, 400));
 }
 
 }  // namespace zelk

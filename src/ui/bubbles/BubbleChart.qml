@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.Bubbles
 import Zelk.Components
 import Zelk.Theme
 

@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.Bubbles
 import Zelk.Components
 import Zelk.Theme
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/theme/Typeface.h"
+#include "ui/components/Typeface.h"
 
 #include <QFontDatabase>
 
