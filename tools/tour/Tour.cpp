@@ -67,8 +67,8 @@ bool Tour::run() {
 bool Tour::inTheme(bool dark) {
     app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
     theme_ = dark ? QStringLiteral("dark") : QStringLiteral("light");
-    return idle() && heroes() && survey(!dark) && findings() && changes() && sidebarAndMenus() && windows() &&
-           firstRun() && smallAndLarge() && focus();
+    return idle() && heroes() && survey(!dark) && findings() && changes() && reclaim() && sidebarAndMenus() &&
+           windows() && firstRun() && smallAndLarge() && focus();
 }
 
 /// From the results of the last survey back to the start.
@@ -140,6 +140,48 @@ bool Tour::changes() {
     const bool taken = picture(QStringLiteral("survey-changes"));
     pressKey(window_.window(), Qt::Key_Escape);
     return taken && (!trends.showChanges() || missed("the end of the sheet"));
+}
+
+/// Both ways to look at what can be taken back, and a clean-up of it.
+bool Tour::reclaim() {
+    if (!go(Screen::reclaim) || !picture(QStringLiteral("reclaim-categories"))) return false;
+    if (app_.reclaimables().empty()) return go(Screen::survey);  // nothing to show on this disk
+    if (!clickOn(window_.window(), QStringLiteral("selectMenu"))) return missed("the menu of the categories");
+    if (!picture(QStringLiteral("reclaim-menu"))) return false;
+    pressKey(window_.window(), Qt::Key_Down);
+    pressKey(window_.window(), Qt::Key_Return);  // all of them
+    if (!cleanUp(QStringLiteral("categories"))) return false;
+
+    app_.setAudience(AppModel::Audience::developer);
+    if (!appears(window_.window(), "itemList")) return missed("the items");
+    if (!picture(QStringLiteral("reclaim-items"))) return false;
+    findControl(window_.window(), QStringLiteral("itemList"))->forceActiveFocus(Qt::TabFocusReason);
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Right}) pressKey(window_.window(), key);
+    if (!picture(QStringLiteral("reclaim-items-open"))) return false;
+    if (!clickOn(window_.window(), QStringLiteral("safetyInfo"))) return missed("what the grades mean");
+    if (!picture(QStringLiteral("reclaim-grades"))) return false;
+    pressKey(window_.window(), Qt::Key_Escape);
+    app_.setAudience(AppModel::Audience::normal);
+    return go(Screen::survey);
+}
+
+bool Tour::cleanUp(const QString& from) {
+    const QString name = QStringLiteral("clean-up-%1-").arg(from);
+    if (!clickOn(window_.window(), QStringLiteral("reviewButton")) || !appears(window_.window(), "confirmCleanup"))
+        return missed("the review");
+    if (!picture(name + QStringLiteral("review"))) return false;
+    if (!clickOn(window_.window(), QStringLiteral("permanentSwitch"))) return missed("the switch");
+    if (!picture(name + QStringLiteral("permanent"))) return false;
+    clickOn(window_.window(), QStringLiteral("permanentSwitch"));
+    if (!clickOn(window_.window(), QStringLiteral("confirmCleanup"))) return missed("the confirmation");
+    waitUntil([this] { return appears(window_.window(), "keepInTrash"); });
+    if (!picture(name + QStringLiteral("done"))) return false;
+    if (!clickOn(window_.window(), QStringLiteral("emptyTrash"))) return missed("the emptying");
+    waitUntil([this] { return appears(window_.window(), "cleanupDone"); });
+    if (!picture(name + QStringLiteral("emptied"))) return false;
+    clickOn(window_.window(), QStringLiteral("cleanupDone"));
+    waitUntil([this] { return app_.scanPhase() == AppModel::ScanPhase::finished; });
+    return true;
 }
 
 bool Tour::windows() {

@@ -25,6 +25,8 @@ private:
     bool survey(bool withKeyboard);
     bool findings();
     bool changes();
+    bool reclaim();
+    bool cleanUp(const QString& from);
     bool windows();
     bool sidebarAndMenus();
     bool firstRun();

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // tour --out DIR --root PATH [--home DIR] [--size WxH]: runs the real window on the real file system without a display,
 // presses its buttons, and leaves a picture of every screen and state in both themes in DIR. Fails if one was missed.
-// The user's own history is left alone: that of the tour goes to a folder that is thrown away. With --home all of it,
-// records and Trash too, is that of a home made by tools/sample_home.
+// Nothing is taken away: what the pressed buttons ask for is only said to be done. The user's own history is left
+// alone: that of the tour goes to a folder that is thrown away. With --home all of it, records and Trash too, is that
+// of a home made by tools/sample_home.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -13,6 +14,7 @@
 #include <cstring>
 
 #include "PausingDirectories.h"
+#include "PretendingServices.h"
 #include "ScratchLocations.h"
 #include "Tour.h"
 #include "platform/NativePlatform.h"
@@ -64,8 +66,11 @@ int main(int argc, char** argv) {
     zelk::tour::PausingDirectories directories(real.directories);
     zelk::tour::ScratchLocations locations(real.locations, support.path().toStdString());
     zelk::Locations& places = options.isSet(QStringLiteral("home")) ? real.locations : locations;
-    const zelk::Platform platform{real.clock, directories, real.files,     real.trash,    real.vitals,
-                                  places,     real.tasks,  real.processes, real.workspace};
+    zelk::tour::PretendingTrash trash(real.trash);
+    zelk::tour::PretendingFiles files(real.files);
+    zelk::tour::PretendingProcesses processes;
+    const zelk::Platform platform{real.clock, directories, files,     trash,         real.vitals,
+                                  places,     real.tasks,  processes, real.workspace};
 
     bool complete = false;
     {

@@ -5,6 +5,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Zelk.Components
+import Zelk.Symbols
 import Zelk.Theme
 
 BaseButton {
@@ -36,12 +37,23 @@ BaseButton {
         }
     }
 
-    contentItem: ButtonLabel {
-        text: button.text
-        size: button.size
-        color: Theme.ink
-        symbol: "chevron.down"
-        symbolColor: Theme.inkSoft
+    contentItem: Row {
+        spacing: 6
+
+        Words {
+            anchors.verticalCenter: parent.verticalCenter
+            text: button.text
+            size: button.size
+            font.weight: Font.Medium
+            mute: true
+        }
+
+        SymbolItem {
+            anchors.verticalCenter: parent.verticalCenter
+            name: "chevron.down"
+            color: Theme.inkSoft
+            size: Math.round(9 * TextScale.factor)
+        }
     }
 
     MenuPanel {

@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.Bubbles
 import Zelk.Components
 import Zelk.Reclaim
 import Zelk.Theme
@@ -74,6 +75,16 @@ FocusScope {
         anchors.bottom: footer.top
         width: 1
         color: Theme.hairline
+    }
+
+    BubbleChart {
+        anchors.left: edge.right
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: footer.top
+        anchors.margins: 8
+        name: pane.categories.mapName
+        model: pane.categories.bubbles
     }
 
     CleanFooter {
