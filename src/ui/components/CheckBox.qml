@@ -26,8 +26,6 @@ BaseButton {
 
     background: Item {
         Rectangle {
-            id: square
-
             anchors.centerIn: parent
             width: Math.round(box.side * TextScale.factor)
             height: width
@@ -58,7 +56,7 @@ BaseButton {
 
             FocusRing {
                 shown: box.visualFocus
-                corner: square.radius
+                corner: 5
             }
         }
     }

@@ -13,6 +13,8 @@ class AppModel;
 /// survey's progress, a dozen times a second and no more. Main thread.
 class SurveyedModule : public ModuleScreenModel {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the main window")
 
 public:
     /// `app` must outlive it.

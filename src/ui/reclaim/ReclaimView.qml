@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // What can be taken back. (A bound component could not be built in the scaffold.)
-
 import QtQuick
 import Zelk.Navigation
 import Zelk.Reclaim
@@ -8,12 +7,15 @@ import Zelk.Reclaim
 ModuleScaffold {
     id: view
 
+    required property ReclaimScreenModel reclaim
+
+    module: view.reclaim
     content: Component {
         ReclaimResults {}
     }
 
     Binding {
-        target: view.module as ReclaimScreenModel
+        target: view.reclaim
         property: "onScreen"
         value: view.visible
     }

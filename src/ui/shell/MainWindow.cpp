@@ -123,8 +123,8 @@ std::vector<DetailPages::Page> MainWindow::makePages() {
                 pages.push_back({view("Survey/SurveyView"), [this] { return as("survey", survey_.get()); }});
                 break;
             case Screen::reclaim:
-                pages.push_back({view("Reclaim/ReclaimView"),
-                                 [this] { return as<ModuleScreenModel>("module", &madeOnce(reclaim_, app_)); }});
+                pages.push_back(
+                    {view("Reclaim/ReclaimView"), [this] { return as("reclaim", &madeOnce(reclaim_, app_)); }});
                 break;
             case Screen::tools:
                 pages.push_back({view("Tools/ToolsView"), [this] { return as("tools", &madeOnce(tools_, app_)); }});
