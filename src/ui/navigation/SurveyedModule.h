@@ -11,7 +11,7 @@ class AppModel;
 
 /// A module that lives from the survey: its phase is the survey's, its button begins one, and its detail is the
 /// survey's progress, a dozen times a second and no more. Main thread.
-class SurveyedModule : public ModuleScreenModel {
+class SurveyedModule : public zelk::ModuleScreenModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")

@@ -15,7 +15,7 @@ namespace zelk {
 
 /// What can be taken back, by category for everybody and by item for developers, and the review that either passes
 /// through. Main thread.
-class ReclaimScreenModel : public SurveyedModule {
+class ReclaimScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
