@@ -67,10 +67,10 @@ int ItemList::rowCount(const QModelIndex& parent) const {
 QVariant ItemList::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
     const Row& row = rows_[static_cast<std::size_t>(index.row())];
-    return row.item == nullptr ? groupData(*row.group, role) : itemData(*row.item, role);
+    return row.item == nullptr ? dataOfGroup(*row.group, role) : dataOfItem(*row.item, role);
 }
 
-QVariant ItemList::groupData(const Group& group, int role) const {
+QVariant ItemList::dataOfGroup(const Group& group, int role) const {
     const ReclaimCategory& category = *group.content.category;
     const auto figure = [&] {
         return QStringLiteral("%1 · ").arg(group.content.items.size()) + byteFigure(group.content.bytes());
@@ -105,7 +105,7 @@ QVariant ItemList::groupData(const Group& group, int role) const {
     }
 }
 
-QVariant ItemList::itemData(const Reclaimable& item, int role) const {
+QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
     switch (role) {
         case groupRole:
         case openRole:

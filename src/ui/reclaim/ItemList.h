@@ -108,8 +108,8 @@ private:
     Groups readGroups() const;
     static std::vector<Row> rowsOf(const Groups& groups);
     static std::vector<std::string_view> keysOf(const std::vector<Row>& rows);
-    QVariant groupData(const Group& group, int role) const;
-    QVariant itemData(const Reclaimable& item, int role) const;
+    QVariant dataOfGroup(const Group& group, int role) const;
+    QVariant dataOfItem(const Reclaimable& item, int role) const;
     QString lineOf(const Reclaimable& item) const;
     QString ageOf(const Reclaimable& item) const;
     void tickChanged(int row);
