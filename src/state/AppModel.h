@@ -3,8 +3,10 @@
 
 #include <QObject>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -129,11 +131,17 @@ public slots:
 public:
     /// Moves a directory to the Trash and, once it is there, takes it out of the results by removeFromTree(). If it
     /// cannot be moved, nothing changes.
-    void trashAndRemove(FSNode& node);
+    void trashAndRemove(FSNode& node) { trashAndRemove({NodeRef(&node)}, {}); }
+    /// The same for several, one after the other in this order. When the last one has been tried, `done` hears which
+    /// of them are in the Trash; never, if the model has gone by then.
+    void trashAndRemove(const std::vector<NodeRef>& nodes, std::function<void(const std::vector<NodeRef>&)> done);
     /// Takes a directory out of the results after it was moved away: its size off all above it, and with it the items
     /// and large files at and below its path. What tells of the survey as it ran stays. While the classifier reads the
-    /// tree this waits for its end. The node may be gone afterwards, unless the caller holds a reference.
+    /// tree this waits for its end. The node may be gone afterwards, unless the caller holds a reference. A node of an
+    /// older tree leaves that one, which is told by no signal.
     void removeFromTree(FSNode& node);
+    /// Drops a reference on another thread: the last one to a tree takes milliseconds to go.
+    void releaseElsewhere(NodeRef tree);
 
 signals:
     void appearanceChanged();
@@ -175,7 +183,6 @@ private:
     void setReclaimables(std::vector<Reclaimable> items);
     /// The path of the first scan root: the place that the volume and the first line of progress speak of.
     const std::string& firstPlace() const { return scanRoots_.empty() ? home_ : scanRoots_.front(); }
-    void releaseElsewhere(NodeRef tree);
     void releaseElsewhere(std::vector<ScanUpdate> updates);
     void releaseElsewhere(std::vector<Reclaimable> items);
 
@@ -213,6 +220,9 @@ private:
     std::string home_;
     DeviceInfo device_;
     std::shared_ptr<ScanTask> scanTask_;  // ended or not; absent after a cancel
+    // The tops of trees that a cancel withdrew while another thread read them: not to be changed, if they are there at
+    // all.
+    std::set<const FSNode*> withdrawn_;
     MainThreadCalls calls_;
 };
 

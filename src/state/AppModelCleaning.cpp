@@ -15,20 +15,46 @@ void AppModel::cleanSafeCaches() {
                       [this, sender = calls_.sender()](const auto&) { sender.post([this] { startScan(); }); });
 }
 
-void AppModel::trashAndRemove(FSNode& node) {
-    const std::optional<ItemPath> item = ItemPath::from(node.fullPath());
-    if (!item) return;
-    // The node's place is asked for again when it has gone, and by then another survey may have taken this tree's
-    // place: its top is what keeps the way to it.
-    FSNode* top = &node;
-    while (FSNode* parent = top->parent()) top = parent;
-    auto work = [this, sender = calls_.sender(), &trash = platform_.trash, item = *item, held = NodeRef(&node),
-                 tree = NodeRef(top)]() mutable {
-        if (trash.trash(item)) return;
-        sender.post([this, held = std::move(held), tree = std::move(tree)]() mutable {
-            removeFromTree(*held);
-            releaseElsewhere(std::move(held));
-            releaseElsewhere(std::move(tree));
+namespace {
+
+/// What is on its way to the Trash. Each node's place is asked for again when it has gone, and by then another survey
+/// may have taken its tree's place: the tops are what keeps the way to it.
+struct Leaving {
+    std::vector<std::pair<NodeRef, ItemPath>> items;
+    std::vector<NodeRef> tops;
+    std::vector<NodeRef> gone;  // main thread
+
+    void add(const NodeRef& node) {
+        const std::optional<ItemPath> item = ItemPath::from(node->fullPath());
+        if (!item) return;
+        FSNode* top = node.get();
+        while (FSNode* parent = top->parent()) top = parent;
+        if (tops.empty() || !(tops.back() == top)) tops.emplace_back(top);
+        items.emplace_back(node, *item);
+    }
+};
+
+}  // namespace
+
+void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
+                              std::function<void(const std::vector<NodeRef>&)> done) {
+    const auto leaving = std::make_shared<Leaving>();
+    for (const NodeRef& node : nodes) leaving->add(node);
+    if (leaving->items.empty()) {
+        if (done) calls_.sender().post([done = std::move(done)] { done({}); });
+        return;
+    }
+    auto work = [this, sender = calls_.sender(), &trash = platform_.trash, leaving, done = std::move(done)]() mutable {
+        for (const auto& [node, item] : leaving->items) {
+            if (trash.trash(item)) continue;
+            sender.post([this, leaving, node = node] {
+                removeFromTree(*node);
+                leaving->gone.push_back(node);
+            });
+        }
+        sender.post([this, leaving, done = std::move(done)] {
+            if (done) done(leaving->gone);
+            platform_.tasks.run(TaskPriority::utility, [leaving] { *leaving = Leaving(); });
         });
     };
     platform_.tasks.run(TaskPriority::userInitiated, std::move(work));

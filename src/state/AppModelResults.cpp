@@ -115,14 +115,18 @@ void AppModel::removeFromTree(FSNode& node) {
         return;
     }
     const std::string path = node.fullPath();
-    // A screen may still hold a node of a tree that has been replaced. Its folder is gone from the disk all the same,
-    // but that tree is shown nowhere any more, and the classifier of a cancelled survey may be reading it.
-    if (root_ == &top || (scanTask_ != nullptr && scanTask_->before && scanTask_->before->root == &top)) {
+    // A screen may still hold a node of a tree that has been replaced, and go on to show that tree. Only one that a
+    // cancel withdrew is shown nowhere, and the classifier may be reading it.
+    if (&top != &node && !withdrawn_.contains(&top)) {
         NodeRef removed(&node);
-        for (FSNode* above = parent; above != nullptr; above = above->parent()) above->size -= node.size;
+        for (FSNode* above = parent;; above = above->parent()) {
+            above->size -= node.size;
+            if (above == &top) break;
+        }
         parent->remove(node);
         releaseElsewhere(std::move(removed));
-        emit rootChanged();
+        if (root_ == &top || (scanTask_ != nullptr && scanTask_->before && scanTask_->before->root == &top))
+            emit rootChanged();
     }
     if (removeAtAndBelow(reclaimables_, path)) emit reclaimablesChanged();
     if (removeAtAndBelow(insights_.topFiles, path)) emit insightsChanged();

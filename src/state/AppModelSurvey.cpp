@@ -48,6 +48,7 @@ void AppModel::cancelScan() {
 void AppModel::withdraw(ScanTask& task) {
     task.cancelled->set();
     if (const auto before = std::exchange(task.before, std::nullopt)) {
+        withdrawn_.insert(root_.get());
         releaseElsewhere(std::exchange(root_, before->root));
         emit rootChanged();
         assign(stats_, before->stats, &AppModel::statsChanged);
@@ -92,6 +93,7 @@ void AppModel::finish(const std::shared_ptr<ScanTask>& task, update::Finished fi
     const ScanStats& stats = finished.stats;
     const std::int64_t size = finished.root->size;
     task->before = {std::exchange(root_, std::move(finished.root)), std::exchange(stats_, stats)};
+    withdrawn_.erase(root_.get());  // one that was there has gone, and left its place in the memory to this one
     emit rootChanged();
     if (scanTask_ == task && task->before->stats != stats_) emit statsChanged();
     if (scanTask_ != task) return;

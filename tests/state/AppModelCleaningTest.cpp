@@ -157,6 +157,48 @@ TEST_F(AppModelCleaningTest, theModelMayGoBeforeItHearsOfTheTrashedFolder) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
 }
 
+TEST_F(AppModelCleaningTest, severalFoldersGoOneAfterTheOtherInOneTask) {
+    surveyHome();
+    machine.tasks.hold();
+    std::vector<std::string> gone;
+    model().trashAndRemove({folder("/projects"), folder("/projects/app"), folder("/Library")},
+                           [&](const std::vector<NodeRef>& nodes) {
+                               for (const NodeRef& node : nodes) gone.push_back(node->fullPath());
+                           });
+    EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::userInitiated});
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), (Strings{home + "/projects", home + "/Library"}))
+        << "the one inside had left with the one around it";
+    EXPECT_EQ(gone, machine.trash.trashed());
+    EXPECT_EQ(model().root()->size, 7'000'000);
+}
+
+TEST_F(AppModelCleaningTest, ofSeveralFoldersOneThatFailsDoesNotKeepTheRest) {
+    surveyHome();
+    machine.files.failing = [&](const auto& call) {
+        return call.operation == "trash" && call.path == home + "/Library";
+    };
+    bool done = false;
+    model().trashAndRemove({folder("/Library"), folder("/projects")}, [&](const std::vector<NodeRef>& nodes) {
+        done = true;
+        ASSERT_EQ(nodes.size(), 1U);
+        EXPECT_EQ(nodes.front()->fullPath(), home + "/projects");
+    });
+    runUntil([&] { return done; });
+    EXPECT_TRUE(folder("/Library"));
+    EXPECT_FALSE(folder("/projects"));
+}
+
+TEST_F(AppModelCleaningTest, ofNoFoldersNoneGoes) {
+    surveyHome();
+    bool done = false;
+    model().trashAndRemove({model().root()}, [&](const std::vector<NodeRef>& nodes) { done = nodes.empty(); });
+    EXPECT_FALSE(done) << "never before it comes back";
+    runUntil([&] { return done; });
+    EXPECT_TRUE(machine.trash.trashed().empty());
+}
+
 // The safe caches in one go.
 
 TEST_F(AppModelCleaningTest, safeCachesAloneGoToTheTrashAndASurveyFollows) {

@@ -278,6 +278,28 @@ TEST_F(AppModelResultsTest, aNodeOfAReplacedTreeTakesItsPathsOutOfTheNewResults)
     EXPECT_EQ(takeSignals(), (Strings{"reclaimables", "insights"}));
 }
 
+TEST_F(AppModelResultsTest, aNodeOfAReplacedTreeLeavesThatTree) {
+    fillHome();
+    survey();
+    const NodeRef old = model().root();
+    survey();
+    model().removeFromTree(*folderAt(old, home + "/projects/app"));
+    EXPECT_FALSE(folderAt(old, home + "/projects/app"));
+    EXPECT_EQ(old->size, 3'117'000'000);
+    EXPECT_EQ(model().root()->size, 3'127'000'000);
+}
+
+TEST_F(AppModelResultsTest, aTreeThatACancelWithdrewIsNotChanged) {
+    fillHome();
+    surveyUpToClassification();
+    const NodeRef withdrawn = model().root();
+    model().cancelScan();
+    model().removeFromTree(*folderAt(withdrawn, home + "/projects"));
+    EXPECT_TRUE(folderAt(withdrawn, home + "/projects"));
+    machine.tasks.release();
+    letScansDrain();
+}
+
 TEST_F(AppModelResultsTest, whatIsRemovedIsReleasedOnATask) {
     fillHome();
     survey();
