@@ -109,4 +109,57 @@ TEST_F(LensWalkTest, aNewTreeDoesNotMoveWhoStandsInTheOld) {
     EXPECT_EQ(walk.currentNode(), large);
 }
 
+TEST_F(LensWalkTest, thePathsOfAnOldTreeHoldWhileOneStandsInIt) {
+    walk.enter(large);
+    walk.select(home->children[0]);
+    walk.setRoot(folder("", 1));
+    large = inner = home = top = nullptr;
+    EXPECT_EQ(walk.currentNode()->fullPath(), "/home/me/large");
+    EXPECT_THAT(walk.takeLeftTrees(), IsEmpty());
+    walk.back();
+    EXPECT_EQ(walk.selected().begin()->second->fullPath(), "/home/me/small");
+    EXPECT_THAT(walk.takeLeftTrees(), IsEmpty());
+    walk.clearSelection();
+    EXPECT_THAT(walk.takeLeftTrees(), testing::SizeIs(1));
+    EXPECT_THAT(walk.takeLeftTrees(), IsEmpty());
+}
+
+TEST_F(LensWalkTest, anOldTreeThatNobodyIsInIsLeftAtOnce) {
+    walk.setRoot(folder("", 1));
+    EXPECT_THAT(walk.takeLeftTrees(), ElementsAre(top));
+}
+
+TEST_F(LensWalkTest, whatHasGoneIsUntickedWithAllThatWasInIt) {
+    home->append(folder("large one", 2));
+    for (const NodeRef& node : home->children) walk.select(node);
+    walk.select(inner);
+    walk.unselectAtAndBelow("/home/me/large");
+    EXPECT_FALSE(walk.isSelected("/home/me/large"));
+    EXPECT_FALSE(walk.isSelected("/home/me/large/inner"));
+    EXPECT_TRUE(walk.isSelected("/home/me/large one"));
+    EXPECT_TRUE(walk.isSelected("/home/me/middle"));
+}
+
+TEST_F(LensWalkTest, findsAFolderByItsPath) {
+    home->append(folder("lar", 2));
+    EXPECT_EQ(walk.find("/home/me"), home);
+    EXPECT_EQ(walk.find("/home/me/large/inner"), inner);
+    EXPECT_EQ(walk.find("/home/me/lar")->size, 2);
+    for (const char* path : {"/home", "/home/me/large/inne", "/home/me/large/inner/x", "/home/mel", ""})
+        EXPECT_FALSE(walk.find(path)) << path;
+    const NodeRef slash = folder("/", 1);
+    slash->append(folder("data", 1));
+    top = folder("", 1);
+    top->append(slash);
+    walk.setRoot(top);
+    EXPECT_EQ(walk.find("/"), slash);
+    EXPECT_EQ(walk.find("/data"), slash->children[0]);
+}
+
+TEST_F(LensWalkTest, theLastComponentNamesAPlace) {
+    EXPECT_EQ(lastComponent("/home/me"), "me");
+    EXPECT_EQ(lastComponent("/"), "/");
+    EXPECT_EQ(lastComponent(""), "");
+}
+
 }  // namespace zelk

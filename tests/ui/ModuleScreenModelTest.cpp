@@ -7,6 +7,7 @@
 
 #include "state/AppModelFixture.h"
 #include "ui/components/ScreenLook.h"
+#include "ui/navigation/SurveyedModule.h"
 #include "ui/navigation/UnbuiltModules.h"
 
 namespace zelk {
@@ -88,7 +89,6 @@ TEST_F(Modules, saysWhatEachIsFor) {
            "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.");
     expect(Screen::duplicates, "Duplicates",
            "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.");
-    expect(Screen::lens, "Lens", "Explore where your space went — a list and a live bubble map, side by side.");
     expect(Screen::health, "Mac health", "Debian GNU/Linux 12 (bookworm)");
     expect(Screen::system, "System & snapshots", "what the treemap can't show");
 }
@@ -100,7 +100,6 @@ TEST_F(Modules, thatLiveFromTheSurveyOfferOne) {
         EXPECT_FALSE(module(screen)->noted());
     };
     expect(Screen::clutter, "Find large files", "Hunting for heavy files…");
-    expect(Screen::lens, "Run survey", "Surveying your drive…");
 }
 
 TEST_F(Modules, thatAreNotThereYetSaySoAndOfferNothing) {
@@ -116,26 +115,27 @@ TEST_F(Modules, thatAreNotThereYetSaySoAndOfferNothing) {
 }
 
 TEST_F(Modules, followTheSurveyThatTheirButtonBegins) {
-    const auto lens = module(Screen::lens);
-    EXPECT_TRUE(lens->idle());
+    ModuleTexts texts;
+    texts.scanLabel = QStringLiteral("Look");
+    const auto looking = std::make_unique<SurveyedModule>(model(), Screen::lens, texts);
+    EXPECT_TRUE(looking->idle());
     machine.directories.hold(home + "/wide/inner");
-    lens->scan();
-    EXPECT_TRUE(lens->scanning());
-    runUntil([&] { return model().itemsScanned() > 0 && lens->scanDetail().toStdString() == model().progressLine(); });
-    EXPECT_TRUE(lens->scanDetail().contains(QStringLiteral(" items · ")));
+    looking->scan();
+    EXPECT_TRUE(looking->scanning());
+    runUntil(
+        [&] { return model().itemsScanned() > 0 && looking->scanDetail().toStdString() == model().progressLine(); });
+    EXPECT_TRUE(looking->scanDetail().contains(QStringLiteral(" items · ")));
     model().cancelScan();
-    EXPECT_TRUE(lens->idle());
+    EXPECT_TRUE(looking->idle());
     machine.directories.release();
     survey();
-    EXPECT_TRUE(lens->results());
-    EXPECT_FALSE(lens->resultTitle().isEmpty());
-    EXPECT_FALSE(lens->resultNote().isEmpty());
+    EXPECT_TRUE(looking->results());
 }
 
 TEST_F(Modules, joinASurveyThatIsUnderWay) {
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
-    EXPECT_TRUE(module(Screen::clutter)->scanning());
+    EXPECT_TRUE(SurveyedModule(model(), Screen::lens, {}).scanning());
 }
 
 }  // namespace zelk

@@ -3,8 +3,26 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
+#include <utility>
 
 namespace zelk {
+
+namespace {
+
+const FSNode* topOf(const NodeRef& node) {
+    const FSNode* top = node.get();
+    while (top->parent() != nullptr) top = top->parent();
+    return top;
+}
+
+}  // namespace
+
+void LensWalk::setRoot(NodeRef root) {
+    if (root == root_) return;
+    if (root_) earlier_.push_back(std::move(root_));
+    root_ = std::move(root);
+}
 
 NodeRef LensWalk::mapRoot() const {
     const bool single = root_ && root_->children.size() == 1;
@@ -40,10 +58,50 @@ void LensWalk::select(NodeRef node) {
     selected_.insert_or_assign(std::move(path), std::move(node));
 }
 
+void LensWalk::unselectAtAndBelow(const std::string& path) {
+    selected_.erase(path);
+    const std::string below = path + '/';
+    auto end = selected_.lower_bound(below);
+    while (end != selected_.end() && end->first.starts_with(below)) end = selected_.erase(end);
+}
+
 std::int64_t LensWalk::selectedBytes() const {
     std::int64_t bytes = 0;
     for (const auto& [path, node] : selected_) bytes += node->size;
     return bytes;
+}
+
+NodeRef LensWalk::find(const std::string& path) const {
+    NodeRef node = root_;
+    std::string reached;
+    const auto leadsThere = [&](const NodeRef& child) {
+        child->fullPath(reached);
+        return path == reached || (path.starts_with(reached) && (reached.back() == '/' || path[reached.size()] == '/'));
+    };
+    while (node) {
+        const auto next = std::find_if(node->children.begin(), node->children.end(), leadsThere);
+        if (next == node->children.end()) return nullptr;
+        node = *next;
+        if (path == reached) return node;
+    }
+    return nullptr;
+}
+
+std::vector<NodeRef> LensWalk::takeLeftTrees() {
+    if (earlier_.empty()) return {};
+    std::set<const FSNode*> needed;
+    for (const NodeRef& node : stack_) needed.insert(topOf(node));
+    for (const auto& [path, node] : selected_) needed.insert(topOf(node));
+    const auto left = std::stable_partition(earlier_.begin(), earlier_.end(),
+                                            [&](const NodeRef& tree) { return needed.contains(tree.get()); });
+    std::vector<NodeRef> trees(std::make_move_iterator(left), std::make_move_iterator(earlier_.end()));
+    earlier_.erase(left, earlier_.end());
+    return trees;
+}
+
+std::string_view lastComponent(std::string_view path) {
+    const std::string_view last = path.substr(path.rfind('/') + 1);
+    return last.empty() ? path : last;
 }
 
 }  // namespace zelk

@@ -39,9 +39,6 @@ ModuleTexts textsOf(const AppModel& app, Screen screen) {
             return surveyed(screen,
                             "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.",
                             "Find large files", "Hunting for heavy files…");
-        case Screen::lens:
-            return surveyed(screen, "Explore where your space went — a list and a live bubble map, side by side.",
-                            "Run survey", "Surveying your drive…");
         case Screen::privacy:
             return introduced(screen, "Privacy",
                               "Clear browsing traces across your browsers — caches, histories, cookies. No malware "

@@ -18,6 +18,8 @@ void qml_register_types_Zelk_Components();
 void qml_register_types_Zelk_Bubbles();
 void qml_register_types_Zelk_Navigation();
 void qml_register_types_Zelk_Reclaim();
+void qml_register_types_Zelk_Explanation();
+void qml_register_types_Zelk_Lens();
 void qml_register_types_Zelk_Survey();
 void qml_register_types_Zelk_Tools();
 void qml_register_types_Zelk_Settings();
@@ -71,6 +73,8 @@ void registerInterface() {
     qml_register_types_Zelk_Bubbles();
     qml_register_types_Zelk_Navigation();
     qml_register_types_Zelk_Reclaim();
+    qml_register_types_Zelk_Explanation();
+    qml_register_types_Zelk_Lens();
     qml_register_types_Zelk_Survey();
     qml_register_types_Zelk_Tools();
     qml_register_types_Zelk_Settings();

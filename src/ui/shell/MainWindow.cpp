@@ -6,6 +6,7 @@
 
 #include "state/AppModel.h"
 #include "ui/help/HelpModel.h"
+#include "ui/lens/LensScreenModel.h"
 #include "ui/navigation/ModuleScreenModel.h"
 #include "ui/navigation/SidebarModel.h"
 #include "ui/navigation/UnbuiltModules.h"
@@ -125,6 +126,9 @@ std::vector<DetailPages::Page> MainWindow::makePages() {
             case Screen::reclaim:
                 pages.push_back(
                     {view("Reclaim/ReclaimView"), [this] { return as("reclaim", &madeOnce(reclaim_, app_)); }});
+                break;
+            case Screen::lens:
+                pages.push_back({view("Lens/LensView"), [this] { return as("lens", &madeOnce(lens_, app_)); }});
                 break;
             case Screen::tools:
                 pages.push_back({view("Tools/ToolsView"), [this] { return as("tools", &madeOnce(tools_, app_)); }});

@@ -21,6 +21,7 @@ class AppCommands;
 class AppModel;
 class FirstRunModel;
 class HelpModel;
+class LensScreenModel;
 class ModuleScreenModel;
 class Motion;
 class Preferences;
@@ -85,6 +86,7 @@ private:
     std::unique_ptr<SurveyScreenModel> survey_;
     std::unique_ptr<SidebarModel> sidebar_;
     std::unique_ptr<ReclaimScreenModel> reclaim_;
+    std::unique_ptr<LensScreenModel> lens_;
     std::unique_ptr<ToolsScreenModel> tools_;
     std::unique_ptr<SettingsScreenModel> settings_;
     std::unique_ptr<HelpModel> help_;

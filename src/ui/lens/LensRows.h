@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <QImage>
+
+#include "scan/FSNode.h"
+
+namespace zelk {
+
+class LensWalk;
+
+/// The folders in the folder at hand, a row for each that holds bytes, largest first. There may be tens of thousands:
+/// what a row shows is made when it is asked for, and what changes is told row by row. Main thread.
+class LensRows : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of LensScreenModel")
+
+public:
+    enum Role { nameRole = Qt::UserRole, sizeRole, iconRole, tickedRole, drillableRole, spokenRole, infoRole };
+
+    /// The picture of a folder, by its path.
+    using IconOf = std::function<QImage(const std::string& path)>;
+
+    /// `walk` must outlive it.
+    LensRows(const LensWalk& walk, IconOf iconOf);
+
+    /// Another folder is at hand.
+    void show();
+    /// The same folder, of which something may have gone or become smaller.
+    void follow();
+    void tellTicked(int row);
+    void tellAllTicked();
+
+    /// The node of a row; absent if there is no such row.
+    NodeRef node(int row) const;
+    /// The row of a node; -1 if it has none.
+    int rowOf(const NodeRef& node) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+private:
+    struct Row {
+        NodeRef node;
+        std::int64_t bytes = 0;  ///< as they are shown
+    };
+
+    void replaceBy(const std::vector<NodeRef>& nodes);
+    bool turnInto(const std::vector<NodeRef>& nodes);
+    void tellSizes();
+
+    const LensWalk& walk_;
+    IconOf iconOf_;
+    std::vector<Row> rows_;
+};
+
+}  // namespace zelk

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// The note on a place as the screen has it: its texts and the colour of its grade.
+#include "ui/explanation/ExplanationModel.h"
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+
+namespace zelk {
+
+namespace {
+
+const std::string home = "/home/me";
+
+class Explanation : public testing::Test {
+protected:
+    ExplanationModel note{home};
+};
+
+}  // namespace
+
+TEST_F(Explanation, isClosedUntilItIsAskedFor) {
+    EXPECT_FALSE(note.shown());
+    QSignalSpy changed(&note, &ExplanationModel::changed);
+    note.open("/x/node_modules");
+    EXPECT_TRUE(note.shown());
+    EXPECT_EQ(changed.size(), 1);
+    note.close();
+    EXPECT_FALSE(note.shown());
+    EXPECT_EQ(note.title(), QStringLiteral("node_modules")) << "it is still read while the sheet goes";
+    note.close();
+    EXPECT_EQ(changed.size(), 2);
+}
+
+TEST_F(Explanation, tellsWhatAPlaceIs) {
+    note.open(home + "/work/site/node_modules");
+    EXPECT_EQ(note.symbol(), QStringLiteral("questionmark.circle.fill"));
+    EXPECT_EQ(note.title(), QStringLiteral("node_modules"));
+    EXPECT_EQ(note.path(), QStringLiteral("/home/me/work/site/node_modules"));
+    EXPECT_EQ(note.badge(), QStringLiteral("regenerates"));
+    EXPECT_TRUE(note.regenerates());
+    EXPECT_EQ(note.regeneratesLabel(), QStringLiteral("regenerates"));
+    EXPECT_EQ(note.detail(), QStringLiteral("Installed JavaScript packages for a project. Safe to delete — reinstall "
+                                            "with npm/pnpm/yarn install when you next work on it."));
+    EXPECT_EQ(note.doneLabel(), QStringLiteral("Done"));
+}
+
+TEST_F(Explanation, aGradeHasItsWordAndItsColourInBothThemes) {
+    struct Case {
+        const char* path;
+        const char* badge;
+        QColor dark;
+        QColor light;
+    };
+    for (const auto& [path, badge, dark, light] : {Case{"/x/__pycache__", "safe", {50, 199, 123}, {50, 199, 123}},
+                                                   Case{"/x/target", "regenerates", {245, 166, 35}, {224, 133, 26}},
+                                                   Case{"/x/.git", "review", {255, 90, 77}, {216, 64, 46}}}) {
+        note.open(path);
+        EXPECT_EQ(note.badge().toStdString(), badge);
+        note.setTheme(ZelkTheme::dark());
+        EXPECT_EQ(note.tint(), dark) << path;
+        note.setTheme(ZelkTheme::light());
+        EXPECT_EQ(note.tint(), light) << path;
+    }
+}
+
+TEST_F(Explanation, theThemeIsToldOnce) {
+    QSignalSpy changed(&note, &ExplanationModel::changed);
+    note.setTheme(ZelkTheme::dark());
+    EXPECT_EQ(changed.size(), 0);
+    note.setTheme(ZelkTheme::light());
+    EXPECT_EQ(changed.size(), 1);
+}
+
+TEST_F(Explanation, aSafePlaceMayRegenerateToo) {
+    note.open("/x/__pycache__");
+    EXPECT_EQ(note.title(), QStringLiteral("Python __pycache__"));
+    EXPECT_TRUE(note.regenerates());
+    note.open("/x/.git");
+    EXPECT_FALSE(note.regenerates());
+}
+
+TEST_F(Explanation, knowsThePersonsOwnFolders) {
+    note.open(home + "/Downloads");
+    EXPECT_EQ(note.title(), QStringLiteral("Downloads"));
+    EXPECT_EQ(note.detail(), QStringLiteral("Files you've downloaded. Often safe to clean out, but check for anything "
+                                            "you want to keep."));
+    note.open("/home/you/Downloads");
+    EXPECT_EQ(note.detail(), QStringLiteral("Zelk doesn't have a specific note for this location. Check what's inside "
+                                            "before deleting, and prefer moving to Trash."));
+}
+
+TEST_F(Explanation, aPathThatNobodyCouldReadIsShownAllTheSame) {
+    note.open("/x/odd\n\xff");
+    EXPECT_EQ(note.title(), QStringLiteral("odd\u240a\ufffd"));
+    EXPECT_EQ(note.path(), QStringLiteral("/x/odd\u240a\ufffd"));
+}
+
+TEST_F(Explanation, noPathIsThisItem) {
+    note.open("");
+    EXPECT_EQ(note.title(), QStringLiteral("This item"));
+    EXPECT_EQ(note.path(), QString());
+}
+
+}  // namespace zelk

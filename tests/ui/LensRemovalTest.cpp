@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: MIT
+// What is ticked goes to the Trash and out of the results, and nothing else does.
+#include "LensFixture.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class LensRemoval : public LensFixture {
+protected:
+    std::vector<std::string> trashed() const { return machine.trash.trashed(); }
+};
+
+}  // namespace
+
+TEST_F(LensRemoval, whatIsTickedGoesInTheOrderOfItsPaths) {
+    fill();
+    survey();
+    toggle("music");
+    toggle("projects");
+    drill("Library");
+    toggle("Caches");
+    QSignalSpy rebuilt(lens().bubbles(), &BubbleModel::rebuilt);
+    removeSelected();
+    EXPECT_THAT(trashed(), ElementsAre(home + "/Library/Caches", home + "/music", home + "/projects"));
+    EXPECT_EQ(lens().version(), 1);
+    EXPECT_EQ(rebuilt.size(), 1);
+    EXPECT_EQ(caption(), "No items selected");
+    EXPECT_THAT(names(), IsEmpty());
+    lens().back();
+    EXPECT_THAT(names(), IsEmpty()) << "what is left holds no bytes";
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("0 bytes · 1 folders"));
+}
+
+TEST_F(LensRemoval, theTotalsFollow) {
+    fill();
+    survey();
+    drill("projects");
+    toggle("app");
+    removeSelected();
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("80 MB · 0 folders"));
+    EXPECT_EQ(model().root()->size, 138'000'000);
+    EXPECT_EQ(model().topFolders().front()->size, 80'000'000);
+    EXPECT_EQ(model().bytesScanned(), 148'000'000) << "that is the survey as it ran";
+    lens().back();
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("138 MB · 3 folders"));
+    EXPECT_THAT(column(LensRows::sizeRole), ElementsAre("80 MB", "50 MB", "8 MB"));
+    EXPECT_EQ(slices().front().bytes, 80'000'000);
+}
+
+TEST_F(LensRemoval, whatCouldNotGoStaysUnticked) {
+    fill();
+    survey();
+    machine.files.failing = [&](const auto& call) { return call.operation == "trash" && call.path == home + "/music"; };
+    lens().selectAll();
+    removeSelected();
+    EXPECT_THAT(trashed(), ElementsAre(home + "/Library", home + "/projects"));
+    EXPECT_THAT(names(), ElementsAre("music"));
+    EXPECT_FALSE(ticked("music"));
+    EXPECT_EQ(caption(), "No items selected");
+    EXPECT_EQ(lens().version(), 1);
+}
+
+TEST_F(LensRemoval, whatHasVanishedFromTheDiskStays) {
+    fill();
+    survey();
+    ASSERT_FALSE(machine.files.remove(*ItemPath::from(home + "/music")));
+    toggle("music");
+    removeSelected();
+    EXPECT_THAT(trashed(), IsEmpty());
+    EXPECT_THAT(names(), ElementsAre("projects", "Library", "music"));
+    EXPECT_FALSE(lens().removable());
+}
+
+TEST_F(LensRemoval, theMainThreadDoesNotWaitForTheDisk) {
+    fill();
+    survey();
+    lens();
+    machine.tasks.hold();
+    lens().selectAll();
+    lens().removeSelected();
+    EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::userInitiated});
+    EXPECT_THAT(trashed(), IsEmpty());
+    EXPECT_FALSE(lens().removable()) << "it cannot be pressed twice";
+    machine.tasks.release();
+    runUntilRemoved(0);
+    EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(LensRemoval, aFolderInsideAnotherGoesWithIt) {
+    fill();
+    survey();
+    toggle("projects");
+    drill("projects");
+    toggle("app");
+    EXPECT_EQ(caption(), "2 selected · 100 MB");
+    removeSelected();
+    EXPECT_THAT(trashed(), ElementsAre(home + "/projects"));
+    EXPECT_EQ(model().root()->size, 58'000'000);
+}
+
+TEST_F(LensRemoval, aFolderWhoseNameOnlyBeginsAlikeStays) {
+    fill();
+    put("/music box/tune", 1'000);
+    survey();
+    toggle("music");
+    removeSelected();
+    EXPECT_THAT(names(), ElementsAre("projects", "Library", "music box"));
+    EXPECT_TRUE(machine.files.exists(home + "/music box/tune"));
+}
+
+TEST_F(LensRemoval, whoStandsInAFolderThatGoesStaysThere) {
+    fill();
+    survey();
+    toggle("projects");
+    drill("projects");
+    removeSelected();
+    EXPECT_EQ(place(), "projects");
+    EXPECT_THAT(names(), ElementsAre("app"));
+    EXPECT_EQ(lens().walk().currentNode()->fullPath(), home + "/projects");
+    toggle("app");
+    removeSelected();
+    EXPECT_THAT(trashed(), ElementsAre(home + "/projects")) << "it is not there any more";
+    EXPECT_EQ(model().root()->size, 58'000'000);
+    lens().back();
+    EXPECT_THAT(names(), ElementsAre("Library", "music"));
+}
+
+TEST_F(LensRemoval, fromAnOlderTreeIsSeenThereAndInTheNewOne) {
+    fill();
+    survey();
+    drill("projects");
+    toggle("app");
+    survey();
+    removeSelected();
+    EXPECT_THAT(trashed(), ElementsAre(home + "/projects/app"));
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("80 MB · 0 folders"));
+    lens().startOver();
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("138 MB · 3 folders"));
+    EXPECT_EQ(model().root()->size, 138'000'000);
+}
+
+TEST_F(LensRemoval, aSurveyMayBeginBeforeItHasGone) {
+    fill();
+    survey();
+    toggle("music");
+    machine.tasks.hold();
+    lens().removeSelected();
+    machine.directories.hold(home);
+    model().startScan();
+    machine.directories.waitUntilHeld(home);
+    machine.tasks.release();
+    runUntilRemoved(0);
+    EXPECT_EQ(model().root()->size, 140'000'000);
+    machine.directories.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(lens().walk().root(), model().root());
+    EXPECT_EQ(lens().version(), 1);
+}
+
+TEST_F(LensRemoval, aSurveyMayEndBeforeItHasGone) {
+    fill();
+    survey();
+    drill("projects");
+    toggle("app");
+    machine.tasks.hold();
+    lens().removeSelected();
+    model().startScan();
+    const NodeRef old = model().root();
+    runUntil([&] { return !(model().root() == old); });
+    while (machine.tasks.waiting().size() > 1) machine.tasks.runAt(1);
+    machine.tasks.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished && lens().version() == 1; });
+    EXPECT_THAT(trashed(), ElementsAre(home + "/projects/app"));
+    EXPECT_EQ(place(), "projects");
+    EXPECT_THAT(names(), IsEmpty()) << "the folder on the screen is of the survey before";
+}
+
+TEST_F(LensRemoval, whatIsTickedWhileOthersGoStaysTicked) {
+    fill();
+    survey();
+    machine.tasks.hold();
+    toggle("music");
+    lens().removeSelected();
+    toggle("Library");
+    toggle("music");
+    machine.tasks.release();
+    runUntilRemoved(0);
+    EXPECT_TRUE(ticked("Library"));
+    EXPECT_EQ(caption(), "1 selected · 50 MB") << "what has gone is not ticked";
+}
+
+TEST_F(LensRemoval, theScreenMayGoWhileThingsLeave) {
+    fill();
+    survey();
+    toggle("music");
+    machine.tasks.hold();
+    lens().removeSelected();
+    destroyLens();
+    machine.tasks.release();
+    runUntil([&] { return model().root()->size == 140'000'000; });
+    EXPECT_THAT(trashed(), ElementsAre(home + "/music"));
+}
+
+TEST_F(LensRemoval, reclaimablesInWhatHasGoneGoToo) {
+    fill();
+    survey();
+    ASSERT_EQ(model().reclaimables().size(), 2U);
+    toggle("projects");
+    removeSelected();
+    ASSERT_EQ(model().reclaimables().size(), 1U);
+    EXPECT_EQ(model().reclaimables().front().path, home + "/Library/Caches/Yarn");
+}
+
+}  // namespace zelk

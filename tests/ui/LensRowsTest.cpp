@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+// The list of the folders in a folder, and how its changes are told.
+#include "ui/lens/LensRows.h"
+
+#include <gmock/gmock.h>
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include "ui/lens/LensWalk.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+
+/// A folder "/home" with "a" of 100 bytes, "b" of 90 (with a folder in it), "c" of 80 … "z" of fewer, as many as asked.
+class LensRowsTest : public testing::Test {
+protected:
+    void fill(int count) {
+        for (int at = 0; at < count; ++at) {
+            NodeRef node =
+                FSNode::make(count <= 26 ? std::string(1, static_cast<char>('a' + at)) : std::to_string(at), 0);
+            node->size = count * 10 - at * 10;
+            home->append(node);
+        }
+        walk.setRoot(top);
+        rows.show();
+    }
+    NodeRef child(std::size_t at) { return home->children[at]; }
+
+    std::string names() {
+        std::string all;
+        for (int row = 0; row < rows.rowCount(); ++row) all += text(row, LensRows::nameRole);
+        return all;
+    }
+    std::string text(int row, int role) { return rows.index(row).data(role).toString().toStdString(); }
+    bool ticked(int row) { return rows.index(row).data(LensRows::tickedRole).toBool(); }
+
+    /// What the rows tell, one letter for each time: reset, removal, move, change.
+    void listen() {
+        QObject::connect(&rows, &QAbstractItemModel::modelReset, &rows, [this] { told += '!'; });
+        QObject::connect(&rows, &QAbstractItemModel::rowsRemoved, &rows, [this] { told += '-'; });
+        QObject::connect(&rows, &QAbstractItemModel::rowsMoved, &rows, [this] { told += '>'; });
+        QObject::connect(&rows, &QAbstractItemModel::dataChanged, &rows, [this] { told += '='; });
+    }
+
+    NodeRef home = FSNode::make("/home", 0);
+    NodeRef top = [this] {
+        NodeRef node = FSNode::make("", 0);
+        node->append(home);
+        return node;
+    }();
+    LensWalk walk;
+    int icons = 0;
+    LensRows rows{walk, [this](const std::string&) {
+                      ++icons;
+                      return QImage(4, 4, QImage::Format_ARGB32);
+                  }};
+    QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
+    std::string told;
+};
+
+}  // namespace
+
+TEST_F(LensRowsTest, aRowTellsOfItsFolder) {
+    fill(3);
+    child(0)->append(FSNode::make("inside", 0));
+    EXPECT_EQ(text(0, LensRows::nameRole), "a");
+    EXPECT_EQ(text(0, LensRows::sizeRole), "30 bytes");
+    EXPECT_EQ(text(0, LensRows::spokenRole), "a, 30 bytes, folder");
+    EXPECT_EQ(text(0, LensRows::infoRole), "What is a?");
+    EXPECT_TRUE(rows.index(0).data(LensRows::drillableRole).toBool());
+    EXPECT_FALSE(rows.index(1).data(LensRows::drillableRole).toBool());
+    EXPECT_EQ(rows.index(1).data(LensRows::iconRole).value<QImage>().width(), 4);
+    EXPECT_FALSE(rows.index(1).data(Qt::DisplayRole).isValid());
+    EXPECT_FALSE(rows.data({}, LensRows::nameRole).isValid());
+}
+
+TEST_F(LensRowsTest, aNameThatNobodyCouldReadIsShownAllTheSame) {
+    NodeRef odd = FSNode::make("line\nbreak\xff", 0);
+    odd->size = 5;
+    home->append(odd);
+    fill(1);
+    EXPECT_EQ(rows.index(1).data(LensRows::nameRole).toString(), QStringLiteral("line\u240abreak\ufffd"));
+    walk.select(odd);
+    EXPECT_TRUE(ticked(1));
+}
+
+TEST_F(LensRowsTest, aTickIsTheChangeOfOneRow) {
+    fill(5);
+    QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+    listen();
+    walk.select(child(2));
+    rows.tellTicked(2);
+    EXPECT_EQ(told, "=");
+    EXPECT_EQ(changed.front()[0].toModelIndex().row(), 2);
+    EXPECT_EQ(changed.front()[1].toModelIndex().row(), 2);
+    EXPECT_TRUE(ticked(2));
+    EXPECT_EQ(text(2, LensRows::spokenRole), "c, 30 bytes, folder, ticked");
+    EXPECT_FALSE(ticked(1));
+    rows.tellTicked(-1);
+    rows.tellTicked(5);
+    EXPECT_EQ(told, "=");
+}
+
+TEST_F(LensRowsTest, allTicksAreOneChange) {
+    fill(5);
+    QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+    rows.tellAllTicked();
+    ASSERT_EQ(changed.size(), 1);
+    EXPECT_EQ(changed.front()[0].toModelIndex().row(), 0);
+    EXPECT_EQ(changed.front()[1].toModelIndex().row(), 4);
+    walk.setRoot(nullptr);
+    rows.show();
+    rows.tellAllTicked();
+    EXPECT_EQ(changed.size(), 1) << "there is no row";
+}
+
+TEST_F(LensRowsTest, whatHasGoneIsTakenOutByItself) {
+    fill(8);
+    listen();
+    for (const std::size_t at : {6U, 3U, 2U}) home->remove(*child(at));
+    rows.follow();
+    EXPECT_EQ(names(), "abefh");
+    EXPECT_EQ(told, "--") << "two rows that stand together go together";
+}
+
+TEST_F(LensRowsTest, theFirstAndTheLastRowMayGo) {
+    fill(4);
+    listen();
+    home->remove(*child(3));
+    home->remove(*child(0));
+    rows.follow();
+    EXPECT_EQ(names(), "bc");
+    home->remove(*child(1));
+    home->remove(*child(0));
+    rows.follow();
+    EXPECT_EQ(names(), "");
+    EXPECT_EQ(told, "---");
+}
+
+TEST_F(LensRowsTest, whatHasBecomeSmallerMovesToItsPlace) {
+    fill(6);
+    listen();
+    child(1)->size = 25;
+    rows.follow();
+    EXPECT_EQ(names(), "acdbef");
+    EXPECT_EQ(told, ">=");
+    child(0)->size = 5;
+    child(2)->size = 15;
+    rows.follow();
+    EXPECT_EQ(names(), "dbecfa");
+    EXPECT_EQ(told.find('!'), std::string::npos);
+}
+
+TEST_F(LensRowsTest, whatHoldsNothingAnyMoreGoes) {
+    fill(3);
+    listen();
+    child(1)->size = 0;
+    rows.follow();
+    EXPECT_EQ(names(), "ac");
+    EXPECT_EQ(told, "-");
+}
+
+TEST_F(LensRowsTest, nothingNewIsNotTold) {
+    fill(6);
+    listen();
+    rows.follow();
+    EXPECT_EQ(told, "");
+}
+
+TEST_F(LensRowsTest, whatNobodyTookOutIsToldAsANewList) {
+    fill(3);
+    listen();
+    NodeRef come = FSNode::make("n", 0);
+    come->size = 25;
+    home->append(come);
+    rows.follow();
+    EXPECT_EQ(names(), "anbc");
+    EXPECT_EQ(told.back(), '!');
+}
+
+TEST_F(LensRowsTest, whatHasBecomeLargerIsFoundAllTheSame) {
+    fill(6);
+    child(5)->size = 1'000;
+    child(3)->size = 900;
+    rows.follow();
+    EXPECT_EQ(names(), "fdabce");
+}
+
+TEST_F(LensRowsTest, aGreatChangeIsToldAsANewList) {
+    fill(1'000);
+    listen();
+    for (std::size_t at = 0; at < 500; ++at) home->remove(*child(at));
+    rows.follow();
+    EXPECT_EQ(rows.rowCount(), 500);
+    EXPECT_EQ(told.back(), '!');
+    for (int row = 0; row < 500; ++row) EXPECT_EQ(text(row, LensRows::nameRole), std::to_string(2 * row + 1));
+}
+
+TEST_F(LensRowsTest, aFolderOfFiftyThousandMakesNothingThatIsNotAskedFor) {
+    fill(50'000);
+    EXPECT_EQ(rows.rowCount(), 50'000);
+    EXPECT_EQ(icons, 0);
+    EXPECT_EQ(text(49'999, LensRows::nameRole), "49999");
+    rows.index(7).data(LensRows::iconRole);
+    EXPECT_EQ(icons, 1);
+}
+
+TEST_F(LensRowsTest, findsTheRowOfANode) {
+    fill(3);
+    EXPECT_EQ(rows.rowOf(child(2)), 2);
+    EXPECT_EQ(rows.rowOf(top), -1);
+    EXPECT_EQ(rows.rowOf(nullptr), -1);
+    EXPECT_EQ(rows.node(1), child(1));
+    EXPECT_FALSE(rows.node(3));
+    EXPECT_FALSE(rows.node(-1));
+}
+
+}  // namespace zelk

@@ -1,0 +1,385 @@
+// SPDX-License-Identifier: MIT
+// The walk through a survey: where one is, what is ticked, and what the map is given.
+#include "ui/lens/LensScreenModel.h"
+
+#include "LensFixture.h"
+#include "ui/lens/LensSlices.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class LensScreen : public LensFixture {
+protected:
+    void tap(const std::string& label) { lens().bubbles()->tap(slice(label)); }
+    void tick(const std::string& label) { lens().bubbles()->tick(slice(label)); }
+};
+
+}  // namespace
+
+TEST_F(LensScreen, saysWhatItIs) {
+    EXPECT_EQ(lens().title(), QStringLiteral("Lens"));
+    EXPECT_EQ(lens().subtitle(),
+              QStringLiteral("Explore where your space went — a list and a live bubble map, side by side."));
+    EXPECT_EQ(lens().scanLabel(), QStringLiteral("Run survey"));
+    EXPECT_EQ(lens().scanningLabel(), QStringLiteral("Surveying your drive…"));
+    EXPECT_EQ(lens().symbol(), QStringLiteral("circle.hexagongrid"));
+    EXPECT_EQ(lens().emptyTitle(), QStringLiteral("Nothing to map"));
+    EXPECT_EQ(lens().emptySymbol(), QStringLiteral("circle.hexagongrid"));
+    EXPECT_EQ(lens().startOverLabel(), QStringLiteral("Start Over"));
+    EXPECT_EQ(lens().selectLabel(), QStringLiteral("Select:"));
+    EXPECT_EQ(lens().allLabel(), QStringLiteral("All"));
+    EXPECT_EQ(lens().noneLabel(), QStringLiteral("None"));
+    EXPECT_EQ(lens().removeLabel(), QStringLiteral("Review and Remove"));
+}
+
+TEST_F(LensScreen, followsTheSurveyThatItsButtonBegins) {
+    fill();
+    addWideFolder(home + "/wide");
+    EXPECT_TRUE(lens().idle());
+    machine.directories.hold(home + "/wide/inner");
+    lens().scan();
+    EXPECT_TRUE(lens().scanning());
+    runUntil([&] { return model().itemsScanned() > 0 && lens().scanDetail().toStdString() == model().progressLine(); });
+    machine.directories.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_TRUE(lens().results());
+    EXPECT_EQ(place(), "me");
+}
+
+TEST_F(LensScreen, withoutATreeThereIsNothingToMap) {
+    EXPECT_FALSE(lens().mapped());
+    EXPECT_EQ(place(), "—");
+    EXPECT_EQ(lens().placeLine(), QString());
+    EXPECT_TRUE(lens().placeIcon().isNull());
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_THAT(slices(), IsEmpty());
+}
+
+TEST_F(LensScreen, isThereWhenTheSurveyWasBeforeIt) {
+    fill();
+    survey();
+    EXPECT_TRUE(lens().mapped());
+    EXPECT_THAT(names(), ElementsAre("projects", "Library", "music"));
+}
+
+TEST_F(LensScreen, aRootWithASingleChildStartsThereAndStartOverReturnsThere) {
+    fill();
+    survey();
+    EXPECT_EQ(place(), "me");
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("148 MB · 3 folders"));
+    EXPECT_FALSE(lens().canGoBack());
+    drill("projects");
+    drill("app");
+    toggle("node_modules");
+    EXPECT_EQ(place(), "app");
+    lens().startOver();
+    EXPECT_EQ(place(), "me");
+    EXPECT_FALSE(lens().canGoBack());
+    EXPECT_FALSE(lens().removable());
+}
+
+TEST_F(LensScreen, severalRootsStandSideBySide) {
+    fill();
+    model().setScanRoots({home + "/projects", home + "/music"});
+    survey();
+    EXPECT_EQ(place(), "");
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("98 MB · 2 folders"));
+    EXPECT_THAT(names(), ElementsAre(home + "/projects", home + "/music"));
+    drill(home + "/projects");
+    EXPECT_EQ(place(), "projects");
+}
+
+TEST_F(LensScreen, theWholeDriveIsCalledByItsSlash) {
+    machine.directories.file("/data/file", 1'000);
+    model().setScanRoots({"/"});
+    survey();
+    EXPECT_EQ(place(), "/");
+}
+
+TEST_F(LensScreen, theCountKeepsItsWordForOneFolder) {
+    fill();
+    survey();
+    drill("projects");
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("90 MB · 1 folders"));
+}
+
+TEST_F(LensScreen, backLeadsToTheRowThatOneCameFrom) {
+    fill();
+    survey();
+    QSignalSpy arrived(&lens(), &LensScreenModel::arrived);
+    drill("Library");
+    EXPECT_EQ(arrived.takeFirst().front().toInt(), 0);
+    lens().back();
+    EXPECT_EQ(place(), "me");
+    EXPECT_EQ(arrived.takeFirst().front().toInt(), 1);
+    lens().back();
+    EXPECT_EQ(arrived.size(), 0) << "there is nothing above";
+}
+
+TEST_F(LensScreen, aFolderWithoutFoldersIsNotEntered) {
+    fill();
+    survey();
+    drill("music");
+    EXPECT_EQ(place(), "me");
+    lens().drill(77);
+    lens().drill(-1);
+    lens().toggle(77);
+    lens().explain(-1);
+    EXPECT_EQ(place(), "me");
+    EXPECT_FALSE(lens().removable());
+    EXPECT_FALSE(lens().explanation()->shown());
+}
+
+TEST_F(LensScreen, enteringTakesItsTime) {
+    fill();
+    survey();
+    QSignalSpy drilled(&lens(), &LensScreenModel::drilled);
+    drill("Library");
+    EXPECT_EQ(drilled.takeFirst().front().toInt(), 180);
+    lens().back();
+    EXPECT_EQ(drilled.size(), 0);
+    tap("Library");
+    EXPECT_EQ(drilled.takeFirst().front().toInt(), 200);
+}
+
+TEST_F(LensScreen, aFolderOfEmptyFoldersShowsNothingButCountsThemAll) {
+    machine.directories.directory(home + "/hollow/a");
+    machine.directories.directory(home + "/hollow/b");
+    put("/hollow/file", 1'000);
+    put("/music/song.flac", 1'000);
+    survey();
+    drill("hollow");
+    EXPECT_EQ(lens().placeLine(), QStringLiteral("1 KB · 2 folders"));
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_THAT(slices(), IsEmpty());
+}
+
+// The map.
+
+TEST_F(LensScreen, sixteenFoldersAreSixteenBubbles) {
+    addMany("", 16);
+    survey();
+    EXPECT_EQ(slices().size(), 16U);
+    EXPECT_EQ(slices().back().label, QStringLiteral("folder 15"));
+}
+
+TEST_F(LensScreen, theSeventeenthFolderIsFolded) {
+    addMany("", 17);
+    survey();
+    ASSERT_EQ(slices().size(), 17U);
+    const BubbleSlice& rest = slices().back();
+    EXPECT_EQ(rest.id, "__other__");
+    EXPECT_EQ(rest.label, QStringLiteral("Other (1)"));
+    EXPECT_EQ(rest.bytes, 1'000'000);
+    EXPECT_FALSE(rest.reclaimable || rest.drillable || rest.selected);
+    EXPECT_TRUE(rest.icon.isNull());
+    EXPECT_EQ(rest.color, ZelkTheme::dark().inkSoft);
+    lens().setDark(false);
+    EXPECT_EQ(slices().back().color, ZelkTheme::light().inkSoft);
+    EXPECT_EQ(lens().rows()->rowCount(), 17) << "the list is not folded";
+}
+
+TEST_F(LensScreen, theFoldedBubbleDoesNothingAndItsFoldersAreInTheList) {
+    addMany("", 28);
+    survey();
+    EXPECT_EQ(slices().back().bytes, 78'000'000);
+    tap("Other (12)");
+    tick("Other (12)");
+    EXPECT_EQ(place(), "me");
+    EXPECT_FALSE(lens().removable());
+    toggle("folder 27");
+    EXPECT_EQ(caption(), "1 selected · 1 MB");
+}
+
+TEST_F(LensScreen, aBubbleTellsOfItsFolder) {
+    fill();
+    survey();
+    const BubbleSlice& projects = slices().front();
+    EXPECT_EQ(projects.id, home + "/projects");
+    EXPECT_EQ(projects.label, QStringLiteral("projects"));
+    EXPECT_EQ(projects.bytes, 90'000'000);
+    EXPECT_EQ(projects.color, QColor(124, 92, 255));
+    EXPECT_FALSE(projects.reclaimable);
+    EXPECT_TRUE(projects.drillable);
+    EXPECT_FALSE(projects.icon.isNull());
+    EXPECT_FALSE(slice("music").drillable);
+    drill("projects");
+    drill("app");
+    EXPECT_TRUE(slice("node_modules").reclaimable) << "the classifier was done before the screen looked";
+}
+
+TEST_F(LensScreen, aTapEntersAFolderWithFoldersAndTicksOneWithout) {
+    fill();
+    survey();
+    tap("music");
+    EXPECT_TRUE(ticked("music"));
+    tap("music");
+    EXPECT_FALSE(ticked("music"));
+    tap("projects");
+    EXPECT_EQ(place(), "projects");
+    EXPECT_FALSE(lens().removable());
+    lens().bubbles()->leave();
+    EXPECT_EQ(place(), "me");
+}
+
+TEST_F(LensScreen, theSpaceBarTicksAnyBubble) {
+    fill();
+    survey();
+    tick("projects");
+    EXPECT_EQ(place(), "me");
+    EXPECT_TRUE(ticked("projects"));
+    tick("projects");
+    EXPECT_FALSE(ticked("projects"));
+}
+
+TEST_F(LensScreen, whatIsTickedInTheListIsRingedOnTheMapAndTheReverse) {
+    fill();
+    survey();
+    toggle("Library");
+    EXPECT_TRUE(slice("Library").selected);
+    EXPECT_FALSE(slice("music").selected);
+    tap("music");
+    EXPECT_TRUE(ticked("music"));
+    toggle("Library");
+    EXPECT_FALSE(slice("Library").selected);
+}
+
+TEST_F(LensScreen, aBubbleThatIsThereNoMoreDoesNothing) {
+    fill();
+    survey();
+    const BubbleSlice gone = slice("Library");
+    drill("projects");
+    lens().bubbles()->tap(gone);
+    lens().bubbles()->tick(gone);
+    EXPECT_EQ(place(), "projects");
+    EXPECT_FALSE(lens().removable());
+}
+
+// What is ticked.
+
+TEST_F(LensScreen, allIsAddedToWhatIsTickedElsewhere) {
+    fill();
+    survey();
+    EXPECT_EQ(lens().selectTitle(), QStringLiteral("None"));
+    lens().selectAll();
+    EXPECT_EQ(lens().selectTitle(), QStringLiteral("3"));
+    EXPECT_EQ(caption(), "3 selected · 148 MB");
+    drill("projects");
+    lens().selectAll();
+    EXPECT_EQ(lens().selectTitle(), QStringLiteral("4"));
+    EXPECT_EQ(caption(), "4 selected · 158 MB");
+    lens().selectNone();
+    EXPECT_EQ(lens().selectTitle(), QStringLiteral("None"));
+    lens().back();
+    EXPECT_FALSE(ticked("music"));
+}
+
+TEST_F(LensScreen, withNothingTickedThereIsNothingToRemove) {
+    fill();
+    survey();
+    EXPECT_EQ(caption(), "No items selected");
+    EXPECT_FALSE(lens().removable());
+    lens().removeSelected();
+    runWhatIsThere();
+    EXPECT_EQ(lens().version(), 0);
+    toggle("music");
+    EXPECT_EQ(caption(), "1 selected · 8 MB");
+    EXPECT_TRUE(lens().removable());
+}
+
+TEST_F(LensScreen, anotherSurveyMovesNobodyAndUnticksNothing) {
+    fill();
+    survey();
+    drill("projects");
+    toggle("app");
+    survey();
+    EXPECT_EQ(place(), "projects");
+    EXPECT_TRUE(ticked("app"));
+    EXPECT_EQ(column(LensRows::sizeRole).front(), "10 MB");
+    EXPECT_EQ(lens().walk().selected().begin()->first, home + "/projects/app")
+        << "its path, though its tree is not the model's any more";
+    EXPECT_EQ(lens().walk().currentNode()->fullPath(), home + "/projects");
+    lens().startOver();
+    EXPECT_EQ(lens().walk().currentNode(), model().root()->children.front());
+}
+
+TEST_F(LensScreen, aNewSurveyIsShownWhereOneHasNotGoneAnywhere) {
+    fill();
+    survey();
+    EXPECT_EQ(lens().rows()->rowCount(), 3);
+    put("/novels/one.txt", 1'000'000'000);
+    survey();
+    EXPECT_THAT(names(), ElementsAre("novels", "projects", "Library", "music"));
+    EXPECT_EQ(slices().front().label, QStringLiteral("novels"));
+}
+
+TEST_F(LensScreen, whileASurveyEndsTheTreeBeforeItIsShown) {
+    fill();
+    survey();
+    lens();
+    const NodeRef before = model().root();
+    surveyUpToClassification();
+    runWhatIsThere();
+    EXPECT_EQ(lens().walk().root(), before);
+    machine.tasks.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(lens().walk().root(), model().root());
+}
+
+TEST_F(LensScreen, anOldTreeIsLeftWhenNothingIsInItAnyMore) {
+    fill();
+    survey();
+    drill("projects");
+    survey();
+    const FSNode* old = lens().walk().currentNode()->parent();
+    ASSERT_NE(old, nullptr);
+    machine.tasks.hold();
+    lens().back();
+    EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::utility}) << "on another thread";
+    machine.tasks.release();
+}
+
+// The drive.
+
+TEST_F(LensScreen, tellsHowFullTheDriveIs) {
+    machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
+    fill();
+    EXPECT_FALSE(lens().volumed());
+    EXPECT_EQ(lens().volumeLine(), QString());
+    QSignalSpy changed(&lens(), &LensScreenModel::volumeChanged);
+    survey();
+    EXPECT_GT(changed.size(), 0);
+    EXPECT_TRUE(lens().volumed());
+    EXPECT_EQ(lens().volumeLine(), QStringLiteral("782.2 GB of 994.66 GB used"));
+    EXPECT_NEAR(lens().usedShare(), 0.7864, 0.0001);
+}
+
+TEST_F(LensScreen, aDriveOfNoSizeIsNotUsed) {
+    model().setVolume(VolumeInfo{0, 0, 0});
+    EXPECT_EQ(lens().usedShare(), 0);
+    EXPECT_EQ(lens().volumeLine(), QStringLiteral("0 bytes of 0 bytes used"));
+    model().setVolume(VolumeInfo{100, 300, 0});
+    EXPECT_EQ(lens().usedShare(), 0);
+    EXPECT_EQ(lens().volumeLine(), QStringLiteral("0 bytes of 100 bytes used"));
+}
+
+// What a folder is.
+
+TEST_F(LensScreen, explainsTheFolderOfARow) {
+    fill();
+    survey();
+    drill("projects");
+    drill("app");
+    lens().explain(0);
+    EXPECT_TRUE(lens().explanation()->shown());
+    EXPECT_EQ(lens().explanation()->title(), QStringLiteral("node_modules"));
+    EXPECT_EQ(lens().explanation()->path().toStdString(), home + "/projects/app/node_modules");
+    lens().explanation()->close();
+    EXPECT_FALSE(lens().explanation()->shown());
+}
+
+}  // namespace zelk

@@ -1,0 +1,330 @@
+// SPDX-License-Identifier: MIT
+// The screen with its two panes: what it shows, and what the mouse and the keyboard do to it.
+#include "LensFixture.h"
+#include "ViewFixture.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+class LensWindow : public LensFixtureOn<ViewFixture> {
+protected:
+    ~LensWindow() override { close(); }
+
+    void open(QSize size = {1046, 800}) {
+        show(QStringLiteral("Zelk.Lens"), QStringLiteral("LensView"), "lens", &lens(), size);
+    }
+    /// Surveyed, with the keyboard on the first row.
+    void openOn() {
+        fill();
+        survey();
+        open();
+        giveList();
+    }
+    void giveList() {
+        find("lensList")->forceActiveFocus(Qt::TabFocusReason);
+        settle();
+    }
+
+    /// The rows that exist, as they are said.
+    std::vector<std::string> rowNames() {
+        std::vector<std::pair<double, std::string>> rows;
+        for (QQuickItem* item : seen())
+            if (item->property("spoken").isValid()) rows.emplace_back(item->mapToScene({}).y(), nameOf(item));
+        std::sort(rows.begin(), rows.end());
+        std::vector<std::string> names;
+        for (auto& [y, name] : rows) names.push_back(std::move(name));
+        return names;
+    }
+    QQuickItem* row(const std::string& name) {
+        for (QQuickItem* item : seen())
+            if (item->property("spoken").isValid() && item->property("name").toString().toStdString() == name)
+                return item;
+        return nullptr;
+    }
+    /// The part of a row with this object name.
+    QQuickItem* part(const std::string& rowName, const char* name) {
+        return row(rowName)->findChild<QQuickItem*>(QString::fromLatin1(name));
+    }
+    void clickItem(QQuickItem* item) {
+        tour::clickAt(window(), item->mapToScene(QPointF(item->width() / 2, item->height() / 2)));
+        settle();
+    }
+    std::string text(const char* name) { return find(name)->property("text").toString().toStdString(); }
+    bool keyboardIsInTheList() { return find("lensList")->hasActiveFocus(); }
+};
+
+}  // namespace
+
+TEST_F(LensWindow, introducesItselfBeforeASurvey) {
+    open();
+    EXPECT_THAT(seenTexts(), Contains("Run survey"));
+    EXPECT_EQ(find("lensList"), nullptr);
+}
+
+TEST_F(LensWindow, aPlaceholderStandsWhereThereIsNothing) {
+    show(QStringLiteral("Zelk.Lens"), QStringLiteral("LensPanes"), "lens", &lens(), {700, 500});
+    EXPECT_THAT(seenTexts(), ElementsAre("Nothing to map"));
+}
+
+TEST_F(LensWindow, showsTheFolderAtHand) {
+    machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
+    openOn();
+    EXPECT_EQ(text("lensPlace"), "me");
+    EXPECT_EQ(text("lensName"), "me");
+    EXPECT_EQ(text("lensPlaceLine"), "148 MB · 3 folders");
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+    EXPECT_EQ(text("lensVolume"), "782.2 GB of 994.66 GB used");
+    EXPECT_NEAR(find("lensVolumeBar")->width(), 220 * 0.7864, 0.1);
+    EXPECT_EQ(find("lensVolumeBar")->height(), 6);
+    EXPECT_EQ(find("lensList")->width(), 340);
+    EXPECT_THAT(rowNames(), ElementsAre("projects, 90 MB, folder", "Library, 50 MB, folder", "music, 8 MB, folder"));
+    EXPECT_FALSE(find("lensRemove")->isEnabled());
+    EXPECT_FALSE(find("lensBack")->isEnabled());
+    expectNoTextClipped();
+    expectAllControlsNamed();
+}
+
+TEST_F(LensWindow, withoutAVolumeTheBarIsNotThere) {
+    openOn();
+    model().setVolume(std::nullopt);
+    settle();
+    EXPECT_EQ(find("lensVolume"), nullptr);
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+}
+
+// The mouse.
+
+TEST_F(LensWindow, aPressOnARowGoesIn) {
+    openOn();
+    clickItem(row("projects"));
+    EXPECT_EQ(text("lensPlace"), "projects");
+    clickItem(row("app"));
+    EXPECT_EQ(text("lensPlace"), "app");
+    clickItem(row("node_modules"));
+    EXPECT_EQ(text("lensPlace"), "app") << "there is nothing inside";
+    click("lensBack");
+    EXPECT_EQ(text("lensPlace"), "projects");
+    click("lensStartOver");
+    EXPECT_EQ(text("lensPlace"), "me");
+}
+
+TEST_F(LensWindow, aPressOnTheBoxTicks) {
+    openOn();
+    clickItem(part("Library", "lensTick"));
+    EXPECT_EQ(text("lensPlace"), "me");
+    EXPECT_EQ(text("lensCaption"), "1 selected · 50 MB");
+    EXPECT_TRUE(find("lensRemove")->isEnabled());
+    EXPECT_THAT(rowNames(), Contains("Library, 50 MB, folder, ticked"));
+    clickItem(part("Library", "lensTick"));
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+}
+
+TEST_F(LensWindow, theMenuTicksAllAndNone) {
+    openOn();
+    EXPECT_EQ(nameOf(find("lensSelect")), "Select:, None");
+    click("lensSelect");
+    click("lensSelectAll");
+    EXPECT_EQ(text("lensSelect"), "3");
+    EXPECT_EQ(text("lensCaption"), "3 selected · 148 MB");
+    click("lensSelect");
+    click("lensSelectNone");
+    EXPECT_EQ(text("lensSelect"), "None");
+}
+
+TEST_F(LensWindow, theInfoButtonExplains) {
+    openOn();
+    clickItem(part("Library", "lensInfo"));
+    EXPECT_EQ(text("explanationTitle"), "Library");
+    EXPECT_EQ(text("lensPlace"), "me");
+    click("explanationDone");
+    EXPECT_EQ(find("explanationDone"), nullptr);
+}
+
+TEST_F(LensWindow, whatIsRemovedLeavesTheList) {
+    openOn();
+    clickItem(part("Library", "lensTick"));
+    click("lensRemove");
+    runUntilRemoved(0);
+    settle();
+    EXPECT_THAT(rowNames(), ElementsAre("projects, 90 MB, folder", "music, 8 MB, folder"));
+    EXPECT_EQ(text("lensPlaceLine"), "98 MB · 2 folders");
+    EXPECT_TRUE(keyboardIsInTheList());
+}
+
+// The keyboard.
+
+TEST_F(LensWindow, theTabKeyGoesFromTheBarThroughTheListAndTheMapToTheFoot) {
+    openOn();
+    press(Qt::Key_Return);
+    press(Qt::Key_Space);
+    const std::vector<std::string> order = tabOrder();
+    EXPECT_THAT(order, ElementsAre("app, 10 MB, folder, ticked", "What is app?", HasSubstr("Map of projects"),
+                                   "Review and Remove", "Start Over", "Back", "Select:, 1"));
+}
+
+TEST_F(LensWindow, theTabKeyGoesBackTheSameWay) {
+    openOn();
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focusName(), "What is projects?");
+    press(Qt::Key_Tab);
+    EXPECT_THAT(focusName(), HasSubstr("Map of me"));
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focusName(), "What is projects?");
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focusName(), "projects, 90 MB, folder");
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focusName(), "Select:, None");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focusName(), "projects, 90 MB, folder");
+}
+
+TEST_F(LensWindow, theArrowsGoThroughTheRows) {
+    openOn();
+    EXPECT_EQ(focusName(), "projects, 90 MB, folder");
+    press(Qt::Key_Down);
+    EXPECT_EQ(focusName(), "Library, 50 MB, folder");
+    press(Qt::Key_End);
+    EXPECT_EQ(focusName(), "music, 8 MB, folder");
+    press(Qt::Key_Down);
+    EXPECT_EQ(focusName(), "music, 8 MB, folder");
+    press(Qt::Key_Home);
+    EXPECT_EQ(focusName(), "projects, 90 MB, folder");
+}
+
+TEST_F(LensWindow, spaceTicksTheCurrentRow) {
+    openOn();
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+    EXPECT_EQ(text("lensCaption"), "1 selected · 50 MB");
+    EXPECT_EQ(focusName(), "Library, 50 MB, folder, ticked");
+    press(Qt::Key_Space);
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+}
+
+TEST_F(LensWindow, returnAndTheArrowsGoInAndOut) {
+    openOn();
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("lensPlace"), "Library");
+    EXPECT_EQ(focusName(), "Caches, 50 MB, folder");
+    press(Qt::Key_Right);
+    EXPECT_EQ(text("lensPlace"), "Caches");
+    press(Qt::Key_Right);
+    EXPECT_EQ(text("lensPlace"), "Caches") << "there is nothing inside";
+    press(Qt::Key_Left);
+    EXPECT_EQ(text("lensPlace"), "Library");
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(text("lensPlace"), "me");
+    EXPECT_EQ(focusName(), "Library, 50 MB, folder") << "the row that one came from";
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(text("lensPlace"), "me");
+    EXPECT_TRUE(keyboardIsInTheList());
+}
+
+TEST_F(LensWindow, theKeyboardAsksWhatAFolderIs) {
+    openOn();
+    press(Qt::Key_I);
+    EXPECT_EQ(text("explanationTitle"), "projects");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(focusName(), "projects, 90 MB, folder");
+    press(Qt::Key_Tab);
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+        EXPECT_EQ(focusName(), "What is projects?");
+        press(key);
+        ASSERT_NE(find("explanationTitle"), nullptr);
+        press(Qt::Key_Escape);
+        EXPECT_EQ(find("explanationTitle"), nullptr);
+    }
+    press(Qt::Key_Down);
+    EXPECT_EQ(focusName(), "Library, 50 MB, folder");
+}
+
+TEST_F(LensWindow, aButtonThatLeadsNoFurtherHandsTheKeyboardOn) {
+    openOn();
+    press(Qt::Key_Return);
+    find("lensBack")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Space);
+    EXPECT_EQ(text("lensPlace"), "me");
+    EXPECT_EQ(focusName(), "projects, 90 MB, folder");
+    press(Qt::Key_Space);
+    find("lensRemove")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Space);
+    runUntilRemoved(0);
+    settle();
+    EXPECT_EQ(focusName(), "Library, 50 MB, folder");
+}
+
+TEST_F(LensWindow, theMenuWorksFromTheKeyboard) {
+    openOn();
+    find("lensSelect")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Space);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("lensCaption"), "3 selected · 148 MB");
+    EXPECT_EQ(focusName(), "Select:, 3");
+}
+
+// Room.
+
+TEST_F(LensWindow, nothingIsClippedInLargeTextAndLittleRoom) {
+    machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    fill();
+    survey();
+    open({726, 580});
+    giveList();
+    EXPECT_GT(find("lensList")->width(), 340);
+    lens().selectAll();
+    settle();
+    expectNoTextClipped();
+    for (int stop = 0; stop < 8; ++stop) {
+        expectFocusInSight();
+        press(Qt::Key_Tab);
+    }
+}
+
+TEST_F(LensWindow, aLongNameKeepsEverythingInItsPlace) {
+    const std::string name(200, 'w');
+    put("/" + name + "/inner/file", 5'000'000);
+    put("/other/file", 1'000'000);
+    survey();
+    open({726, 580});
+    giveList();
+    QQuickItem* label = nullptr;
+    for (QQuickItem* item : seen()) {
+        const QRectF box = item->mapRectToScene(item->boundingRect());
+        if (!item->inherits("QQuickText")) continue;
+        EXPECT_LE(box.right(), 726) << item->property("text").toString().toStdString();
+        label = item;
+    }
+    EXPECT_NE(label, nullptr);
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("lensPlace"), name);
+    EXPECT_TRUE(find("lensPlace")->property("truncated").toBool());
+    EXPECT_LE(find("lensName")->mapRectToScene(find("lensName")->boundingRect()).right(), 340);
+}
+
+TEST_F(LensWindow, ofFiftyThousandFoldersOnlyThoseInSightAreMade) {
+    for (int at = 0; at < 50'000; ++at)
+        machine.directories.file(home + "/many/" + std::to_string(at) + "/file", 1'000 * (at + 1));
+    survey();
+    open();
+    giveList();
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("lensPlaceLine"), "1.25 TB · 50000 folders");
+    EXPECT_LT(rowNames().size(), 40U);
+    press(Qt::Key_End);
+    EXPECT_EQ(focusName(), "0, 1 KB, folder");
+    EXPECT_LT(rowNames().size(), 40U);
+    expectFocusInSight();
+}
+
+}  // namespace zelk
