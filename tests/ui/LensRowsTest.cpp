@@ -75,7 +75,6 @@ TEST_F(LensRowsTest, aRowTellsOfItsFolder) {
     EXPECT_FALSE(rows.index(1).data(LensRows::drillableRole).toBool());
     EXPECT_EQ(rows.index(1).data(LensRows::iconRole).value<QImage>().width(), 4);
     EXPECT_FALSE(rows.index(1).data(Qt::DisplayRole).isValid());
-    EXPECT_FALSE(rows.data({}, LensRows::nameRole).isValid());
 }
 
 TEST_F(LensRowsTest, aNameThatNobodyCouldReadIsShownAllTheSame) {

@@ -29,6 +29,10 @@ Item {
 
     readonly property bool current: ListView.isCurrentItem
 
+    // One that waits to be used again would still be said to a screen reader.
+    ListView.onPooled: row.visible = false
+    ListView.onReused: row.visible = true
+
     implicitHeight: Math.max(content.implicitHeight, label.implicitHeight) + 2 * 8
 
     Accessible.role: Accessible.Button
@@ -96,13 +100,18 @@ Item {
             anchors.left: box.right
             anchors.leftMargin: 2
             anchors.verticalCenter: parent.verticalCenter
-            focusPolicy: row.current ? Qt.TabFocus : Qt.NoFocus
+            focusPolicy: row.current || ask.activeFocus ? Qt.TabFocus : Qt.NoFocus
             symbol: "info.circle"
             size: 12
             side: 24
             text: row.info
             help: row.help
             onClicked: row.asked()
+            // The list is come to again at the row, not inside it.
+            onActiveFocusChanged: {
+                if (!ask.activeFocus && row.current)
+                    row.focus = true;
+            }
             Keys.onBacktabPressed: row.forceActiveFocus(Qt.BacktabFocusReason)
         }
 

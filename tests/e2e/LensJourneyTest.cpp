@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+// A person takes space back in the Lens: first with the mouse, then with the keyboard alone, then on a real disk.
+#include <QTemporaryDir>
+#include <filesystem>
+
+#include "ShellFixture.h"
+#include "fakes/TrashContent.h"
+#include "platform/NativePlatform.h"
+#include "ui/survey/SurveyScreenModel.h"
+
+namespace zelk {
+
+namespace {
+
+using Strings = std::vector<std::string>;
+
+class LensJourney : public ShellFixture {
+protected:
+    LensJourney() {
+        for (const char* file : {"/Library/Caches/Yarn/v6", "/projects/app/node_modules/a.js", "/projects/film.mov",
+                                 "/projects/system.iso", "/.Trash/old.zip", "/wide/1"})
+            machine.files.addFile(home + file);
+        shell();
+    }
+
+    void surveyWith(const std::function<void()>& begin) {
+        begin();
+        runUntil([&] { return model().scanPhase() == Phase::finished; });
+        runWhatIsThere();
+        window().grabWindow();
+    }
+    /// The row of the list with this name; nullptr if it is not in sight.
+    QQuickItem* row(const QString& name) {
+        window().grabWindow();
+        for (QQuickItem* item : find("lensList")->property("contentItem").value<QQuickItem*>()->childItems())
+            if (item->isVisible() && item->property("name").toString() == name) return item;
+        return nullptr;
+    }
+    void clickPart(const QString& name, const char* part) {
+        QQuickItem* item = row(name)->findChild<QQuickItem*>(QString::fromLatin1(part));
+        tour::clickAt(window(), item->mapToScene(QPointF(item->width() / 2, item->height() / 2)));
+    }
+    void clickRow(const QString& name) {
+        QQuickItem* item = row(name);
+        tour::clickAt(window(), item->mapToScene(QPointF(item->width() / 2, item->height() / 2)));
+    }
+    QString text(const char* name) {
+        window().grabWindow();
+        QQuickItem* item = find(name);
+        return item == nullptr ? QString() : item->property("text").toString();
+    }
+    QString focusedRow() { return window().activeFocusItem()->property("name").toString(); }
+    void untilTrashed(std::size_t count) {
+        runUntil([&] { return machine.trash.trashed().size() == count; });
+        runWhatIsThere();
+    }
+};
+
+}  // namespace
+
+TEST_F(LensJourney, withTheMouse) {
+    click("sidebarLens");
+    EXPECT_TRUE(shows("Explore where your space went — a list and a live bubble map, side by side."));
+    surveyWith([&] { click("moduleScanButton"); });
+    EXPECT_EQ(text("lensPlace"), "me");
+    EXPECT_EQ(text("lensPlaceLine"), "3.15 GB · 4 folders");
+
+    clickRow("projects");
+    EXPECT_EQ(text("lensPlace"), "projects");
+    clickPart("app", "lensTick");
+    click("lensBack");
+    clickPart("Library", "lensTick");
+    EXPECT_EQ(text("lensCaption"), "2 selected · 60 MB");
+
+    clickPart("Library", "lensInfo");
+    EXPECT_EQ(text("explanationTitle"), "Library");
+    click("explanationDone");
+    EXPECT_EQ(text("lensCaption"), "2 selected · 60 MB");
+
+    click("lensRemove");
+    untilTrashed(2);
+    EXPECT_EQ(machine.trash.trashed(), (Strings{home + "/Library", home + "/projects/app"}));
+    EXPECT_TRUE(machine.files.exists(home + "/projects/film.mov"));
+    EXPECT_EQ(row("Library"), nullptr);
+    EXPECT_EQ(text("lensPlaceLine"), "3.09 GB · 3 folders");
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+
+    // The Overview tells the same.
+    click("sidebarOverview");
+    EXPECT_EQ(model().root()->size, 3'087'000'000);
+    EXPECT_EQ(model().reclaimableBytes(), 0);
+    runUntil([&] { return main().survey().finishedFace() == ScanFace::finished(0); });
+}
+
+TEST_F(LensJourney, withTheKeyboardAlone) {
+    press(Qt::Key_8, Qt::ControlModifier);
+    ASSERT_EQ(model().selection(), Screen::lens);
+    window().grabWindow();
+    surveyWith([&] { press(Qt::Key_Return); });
+
+    // The keyboard is where the button was: in the list.
+    EXPECT_EQ(focusedRow(), "projects");
+    press(Qt::Key_Right);
+    EXPECT_EQ(text("lensPlace"), "projects");
+    EXPECT_EQ(focusedRow(), "app");
+    press(Qt::Key_Space);
+    press(Qt::Key_I);
+    EXPECT_EQ(text("explanationTitle"), "app");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(text("explanationTitle"), QString());
+    press(Qt::Key_Left);
+    EXPECT_EQ(focusedRow(), "projects");
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+    EXPECT_EQ(text("lensCaption"), "2 selected · 60 MB");
+
+    for (int stop = 0; stop < 12 && focusName() != "lensRemove"; ++stop) press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    untilTrashed(2);
+    EXPECT_EQ(machine.trash.trashed(), (Strings{home + "/Library", home + "/projects/app"}));
+    EXPECT_EQ(text("lensPlaceLine"), "3.09 GB · 3 folders");
+    press(Qt::Key_Down);
+    EXPECT_TRUE(find("lensList")->hasActiveFocus());
+}
+
+TEST_F(LensJourney, throughTheMapWithTheKeyboard) {
+    press(Qt::Key_8, Qt::ControlModifier);
+    window().grabWindow();
+    surveyWith([&] { press(Qt::Key_Return); });
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("lensPlace"), "projects") << "the largest bubble is the first";
+    press(Qt::Key_Space);
+    EXPECT_EQ(text("lensCaption"), "1 selected · 10 MB");
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(text("lensPlace"), "me");
+    press(Qt::Key_Space);
+    EXPECT_EQ(text("lensCaption"), "2 selected · 3.08 GB");
+}
+
+TEST_F(LensJourney, whatDoesNotGoStaysUnticked) {
+    machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
+    click("sidebarLens");
+    surveyWith([&] { click("moduleScanButton"); });
+    clickPart("Library", "lensTick");
+    click("lensRemove");
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+    machine.tasks.release();
+    runWhatIsThere();
+    ASSERT_NE(row("Library"), nullptr);
+    EXPECT_FALSE(row("Library")->property("ticked").toBool());
+    EXPECT_EQ(text("lensPlaceLine"), "3.15 GB · 4 folders");
+}
+
+#ifndef Q_OS_MACOS
+namespace {
+
+/// Every entry below a folder, by its path and what it is, without what the application keeps there itself.
+std::set<std::string> treeOf(const std::string& folder) {
+    std::set<std::string> entries;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        const std::string path = entry.path().string().substr(folder.size());
+        if (path.starts_with("/.local")) continue;
+        entries.insert(path + (entry.is_symlink() ? "@" : entry.is_directory() ? "/" : ""));
+    }
+    return entries;
+}
+
+}  // namespace
+
+/// Between the survey and the button the world has changed: one folder is gone, one is a link to a place outside.
+TEST(RealLensJourney, takesWhatIsTickedFromTheDiskAndNothingElse) {
+    const QTemporaryDir folder;
+    const QTemporaryDir outside;
+    const std::string home = folder.path().toStdString();
+    const std::string other = outside.path().toStdString();
+    for (const char* name : {"/keep/in", "/ticked/in", "/ticked too", "/gone", "/replaced/in"}) {
+        std::filesystem::create_directories(home + name);
+        fakes::writeFile(home + name + "/file", std::string(50'000, 'x'));
+    }
+    fakes::writeFile(other + "/precious", "gold");
+
+    NativePlatform native(home);
+    {
+        AppModel model(native.platform());
+        model.setSelection(Screen::lens);
+        MainWindow main(model);
+        main.motion().setReduced(true);
+        main.show();
+        runUntil([&] { return main.isUp(); });
+        tour::pressKey(main.window(), Qt::Key_Return);
+        runUntil([&] { return model.scanPhase() == AppModel::ScanPhase::finished; });
+        main.window().grabWindow();
+
+        // All rows but "keep", and the one inside a folder that is ticked as well.
+        QQuickItem* list = tour::findControl(main.window(), QStringLiteral("lensList"));
+        ASSERT_NE(list, nullptr);
+        const auto name = [&] { return main.window().activeFocusItem()->property("name").toString(); };
+        list->forceActiveFocus(Qt::TabFocusReason);
+        tour::pressKey(main.window(), Qt::Key_Home);
+        for (int row = 0; row < list->property("count").toInt(); ++row) {
+            if (name() != QStringLiteral("keep") && name() != QStringLiteral(".local"))
+                tour::pressKey(main.window(), Qt::Key_Space);
+            if (name() == QStringLiteral("ticked")) {
+                tour::pressKey(main.window(), Qt::Key_Right);
+                tour::pressKey(main.window(), Qt::Key_Space);
+                tour::pressKey(main.window(), Qt::Key_Left);
+            }
+            tour::pressKey(main.window(), Qt::Key_Down);
+        }
+        EXPECT_TRUE(tour::findControl(main.window(), QStringLiteral("lensCaption"))
+                        ->property("text")
+                        .toString()
+                        .startsWith(QStringLiteral("5 selected · ")));
+
+        std::filesystem::remove_all(home + "/gone");
+        std::filesystem::remove_all(home + "/replaced");
+        std::filesystem::create_directory_symlink(other, home + "/replaced");
+        std::set<std::string> expected = treeOf(home);
+        std::erase_if(expected, [](const std::string& path) {
+            return path.starts_with("/ticked/") || path.starts_with("/ticked too/") || path == "/replaced@";
+        });
+
+        const std::int64_t before = model.root()->size;
+        ASSERT_TRUE(tour::clickOn(main.window(), QStringLiteral("lensRemove")));
+        const std::string trash = home + "/.local/share/Trash";
+        runUntil([&] { return fakes::restorable(trash).size() == 3; });
+        runUntil([&] { return model.root()->size < before - 140'000; });
+        EXPECT_EQ(treeOf(home), expected);
+        const auto restorable = fakes::restorable(trash);
+        EXPECT_TRUE(restorable.contains(home + "/ticked"));
+        EXPECT_TRUE(restorable.contains(home + "/ticked too"));
+        EXPECT_TRUE(std::filesystem::is_symlink(restorable.at(home + "/replaced")));
+        EXPECT_EQ(fakes::fileContent(other + "/precious"), "gold");
+        EXPECT_TRUE(folderAt(model.root(), home + "/gone")) << "what was not there to take is still listed";
+    }
+    EXPECT_TRUE(native.drain(60));
+}
+#endif
+
+}  // namespace zelk
