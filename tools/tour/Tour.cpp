@@ -67,7 +67,7 @@ bool Tour::run() {
 bool Tour::inTheme(bool dark) {
     app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
     theme_ = dark ? QStringLiteral("dark") : QStringLiteral("light");
-    return idle() && heroes() && survey(!dark) && findings() && changes() && reclaim() && sidebarAndMenus() &&
+    return idle() && heroes() && survey(!dark) && findings() && lens() && changes() && reclaim() && sidebarAndMenus() &&
            windows() && firstRun() && smallAndLarge() && focus();
 }
 
@@ -115,7 +115,7 @@ bool Tour::survey(bool withKeyboard) {
     return app_.scanPhase() == AppModel::ScanPhase::finished || missed("the end of a survey");
 }
 
-/// What was found, from the top to the foot, and what another module says then.
+/// What was found, from the top to the foot.
 bool Tour::findings() {
     window_.survey().appear();
     waitUntil([this] { return !app_.trashLoading(); });
@@ -128,7 +128,30 @@ bool Tour::findings() {
         if (!picture(QStringLiteral("survey-") + part)) return false;
     }
     scroll->setProperty("contentY", 0);
-    return go(Screen::lens) && picture(QStringLiteral("lens-after-survey")) && go(Screen::survey);
+    return true;
+}
+
+/// The walk into the largest folder, what is ticked on the way, and what a folder is.
+bool Tour::lens() {
+    if (!go(Screen::lens) || !appears(window_.window(), "lensList")) return missed("the folders");
+    QQuickWindow& window = window_.window();
+    const auto pressAll = [&](std::initializer_list<Qt::Key> keys) {
+        for (const Qt::Key key : keys) pressKey(window, key);
+    };
+    if (!clickOn(window, QStringLiteral("lensStartOver")) || !picture(QStringLiteral("lens-results"))) return false;
+    findControl(window, QStringLiteral("lensList"))->forceActiveFocus(Qt::TabFocusReason);
+    pressAll({Qt::Key_Home, Qt::Key_Return});
+    if (!picture(QStringLiteral("lens-drilled"))) return false;
+    pressAll({Qt::Key_Space, Qt::Key_Left, Qt::Key_Down, Qt::Key_Space, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space});
+    if (!picture(QStringLiteral("lens-ticked"))) return false;
+    pressKey(window, Qt::Key_I);
+    if (!appears(window, "explanationDone") || !picture(QStringLiteral("lens-explanation")))
+        return missed("the explanation of a folder");
+    pressKey(window, Qt::Key_Escape);
+    if (!clickOn(window, QStringLiteral("lensSelect")) || !appears(window, "lensSelectAll")) return missed("the ticks");
+    const bool taken = picture(QStringLiteral("lens-menu"));
+    pressKey(window, Qt::Key_Escape);
+    return taken && clickOn(window, QStringLiteral("lensStartOver")) && go(Screen::survey);
 }
 
 /// Where the survey before this one found other sizes.
@@ -235,7 +258,7 @@ bool Tour::smallAndLarge() {
     };
     resize(leastSize);
     text.setFactor(largeText);
-    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::tools, Screen::settings})
+    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::lens, Screen::tools, Screen::settings})
         taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
     text.setFactor(1);
     resize(size_);

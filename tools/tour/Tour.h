@@ -24,6 +24,7 @@ private:
     bool heroes();
     bool survey(bool withKeyboard);
     bool findings();
+    bool lens();
     bool changes();
     bool reclaim();
     bool cleanUp(const QString& from);
