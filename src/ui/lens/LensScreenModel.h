@@ -23,7 +23,7 @@ class AppModel;
 
 /// The screen that walks through what a survey found, folder by folder, and takes away what is ticked. It shows the
 /// survey's tree whenever none is running: while one runs, other threads write into the tree that comes. Main thread.
-class LensScreenModel : public SurveyedModule {
+class LensScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
