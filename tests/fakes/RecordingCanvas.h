@@ -31,6 +31,7 @@ struct DrawnShape {
 /// Draws nothing and remembers everything.
 class RecordingCanvas : public Canvas {
 public:
+    bool shows(const QRectF& rect) const override { return seen.isNull() || seen.intersects(rect); }
     void disc(QPointF center, double radius, const Paint& paint) override {
         shapes.push_back({DrawnShape::Kind::disc, center, radius, 0, 0, 0, paint});
     }
@@ -77,6 +78,7 @@ public:
         return static_cast<double>(text.size()) * lettering.size;
     }
 
+    QRectF seen;  ///< all there is, if null
     std::vector<DrawnShape> shapes;
     mutable int measured = 0;  ///< how often a text was
 

@@ -10,7 +10,7 @@ Rectangle {
     id: gallery
 
     implicitWidth: 980
-    implicitHeight: Math.min(column.height + 48, 1700)
+    implicitHeight: Math.min(column.height + 48, 2400)
     color: Theme.ground
 
     GalleryModel {
@@ -48,6 +48,12 @@ Rectangle {
                         freeBytes: figures.freeBytes
                     }
                 }
+            }
+
+            GalleryBubbles {
+                width: parent.width
+                model: figures.bubbles
+                plain: figures.plainBubbles
             }
 
             GalleryCards {

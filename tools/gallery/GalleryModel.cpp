@@ -1,7 +1,74 @@
 // SPDX-License-Identifier: MIT
 #include "GalleryModel.h"
 
+#include <utility>
+#include <vector>
+
+#include "ui/symbols/SymbolItem.h"
+#include "ui/text/DisplayText.h"
+
 namespace zelk {
+
+namespace {
+
+BubbleSlice bubble(const char* label, std::int64_t bytes, const QColor& color, const char* symbol) {
+    BubbleSlice slice;
+    slice.id = label;
+    slice.label = displayText(label);
+    slice.bytes = bytes;
+    slice.color = color;
+    if (*symbol != 0) slice.icon = tintedSymbol(QString::fromLatin1(symbol), QColor(94, 171, 247), 192);
+    return slice;
+}
+
+std::vector<BubbleSlice> folders() {
+    const QColor violet(124, 92, 255);
+    const char* folder = "folder.fill";
+    std::vector<BubbleSlice> all{
+        bubble("Developer", 46'200'000'000, violet, folder),
+        bubble("Application Support", 31'900'000'000, violet, folder),
+        bubble("Caches", 17'400'000'000, violet, folder),
+        bubble("Containers", 11'600'000'000, violet, folder),
+        bubble("Mobile Documents", 4'210'000'000, violet, folder),
+        bubble("Messages", 2'870'000'000, violet, folder),
+        bubble("14 more", 1'900'000'000, QColor(120, 118, 130), ""),
+        bubble("Logs", 1'420'000'000, violet, folder),
+        bubble("Fonts", 912'400'000, violet, folder),
+        bubble("Mail", 688'000'000, violet, folder),
+        bubble("Group Containers", 512'300'000, violet, folder),
+    };
+    for (const std::size_t ticked : {2U, 7U}) all[ticked].selected = true;
+    for (const std::size_t spare : {2U, 3U}) all[spare].reclaimable = true;
+    return all;
+}
+
+std::vector<BubbleSlice> kinds() {
+    return {
+        bubble("node_modules", 18'600'000'000, QColor(50, 199, 123), ""),
+        bubble("Build products", 12'100'000'000, QColor(245, 166, 35), ""),
+        bubble("Simulators", 7'400'000'000, QColor(86, 194, 245), ""),
+        bubble("Package caches", 3'900'000'000, QColor(255, 90, 77), ""),
+        bubble("Logs", 900'000'000, QColor(167, 123, 255), ""),
+        bubble("Images", 300'000'000, QColor(152, 146, 168), ""),
+    };
+}
+
+}  // namespace
+
+GalleryModel::GalleryModel(QObject* parent)
+    : QObject(parent),
+      bubbles_({[this](const BubbleSlice& slice) { toggle(bubbles_, slice.id); }, {}, {}}),
+      plainBubbles_({[this](const BubbleSlice& slice) { toggle(plainBubbles_, slice.id); }, {}, {}}) {
+    bubbles_.setSlices(folders());
+    plainBubbles_.setSlices(kinds());
+}
+
+void GalleryModel::toggle(BubbleModel& model, const std::string& id) {
+    std::vector<BubbleSlice> slices = model.slices();
+    for (BubbleSlice& slice : slices)
+        if (slice.id == id) slice.selected = !slice.selected;
+    model.setSlices(std::move(slices));
+}
 
 DeviceFace GalleryModel::device() const {
     const DeviceInfo device{.computerName = "Studio Mac",

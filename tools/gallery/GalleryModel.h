@@ -5,6 +5,7 @@
 #include <QList>
 #include <QObject>
 
+#include "ui/bubbles/BubbleModel.h"
 #include "ui/components/DeviceFace.h"
 #include "ui/components/RibbonPicture.h"
 #include "ui/components/ScanFace.h"
@@ -19,13 +20,18 @@ class GalleryModel : public QObject {
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments CONSTANT FINAL)
     Q_PROPERTY(double freeBytes READ freeBytes CONSTANT FINAL)
     Q_PROPERTY(QList<qreal> history READ history CONSTANT FINAL)
+    Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
+    Q_PROPERTY(zelk::BubbleModel* plainBubbles READ plainBubbles CONSTANT FINAL)
     Q_PROPERTY(zelk::ScanFace idleFace READ idleFace CONSTANT FINAL)
     Q_PROPERTY(zelk::ScanFace scanningFace READ scanningFace CONSTANT FINAL)
     Q_PROPERTY(zelk::ScanFace finishedFace READ finishedFace CONSTANT FINAL)
 
 public:
-    using QObject::QObject;
+    explicit GalleryModel(QObject* parent = nullptr);
 
+    BubbleModel* bubbles() { return &bubbles_; }
+    /// Without icons.
+    BubbleModel* plainBubbles() { return &plainBubbles_; }
     DeviceFace device() const;
     QList<RibbonSegment> segments() const;
     qint64 freeBytes() const { return 212'400'000'000; }
@@ -33,6 +39,12 @@ public:
     ScanFace idleFace() const { return ScanFace::idle(); }
     ScanFace scanningFace() const { return ScanFace::scanning(41'860'000'000); }
     ScanFace finishedFace() const { return ScanFace::finished(41'860'000'000); }
+
+private:
+    static void toggle(BubbleModel& model, const std::string& id);
+
+    BubbleModel bubbles_;
+    BubbleModel plainBubbles_;
 };
 
 }  // namespace zelk

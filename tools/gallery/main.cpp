@@ -4,8 +4,10 @@
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QQuickView>
 #include <cstdio>
 #include <cstdlib>
@@ -37,6 +39,15 @@ std::unique_ptr<QQuickView> wall(const zelk::ZelkTheme& theme, double textScale,
     if (view->rootObject() == nullptr) std::exit(EXIT_FAILURE);
     view->show();
     return view;
+}
+
+/// The pointer on a bubble of one map, and the keyboard at the other.
+void pointAtBubbles(QQuickView& view) {
+    const auto* map = view.rootObject()->findChild<QQuickItem*>(QStringLiteral("bubbles"));
+    const QPointF point = map->mapToScene({map->width() * 0.46, map->height() * 0.5});
+    QMouseEvent move(QEvent::MouseMove, point, view.mapToGlobal(point), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view, &move);
+    view.rootObject()->findChild<QQuickItem*>(QStringLiteral("plainBubbles"))->forceActiveFocus(Qt::TabFocusReason);
 }
 
 bool photograph(const std::vector<QQuickWindow*>& walls, const QString& file) {
@@ -89,6 +100,7 @@ int main(int argc, char** argv) {
         view->resize(view->width(), static_cast<int>(view->rootObject()->implicitHeight()));
     }
     QCoreApplication::processEvents();
+    for (QQuickView* view : {dark.get(), light.get()}) pointAtBubbles(*view);
     if (photograph({dark.get(), light.get()}, file)) return EXIT_SUCCESS;
     std::fprintf(stderr, "gallery: cannot write %s\n", qPrintable(file));
     return EXIT_FAILURE;

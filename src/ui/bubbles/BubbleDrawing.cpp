@@ -110,7 +110,8 @@ void drawBubbles(Canvas& canvas, const std::vector<PackedCircle>& circles, const
                  const std::optional<std::string>& hoveredID, const BubbleLook& look) {
     for (const PackedCircle& circle : circles) {
         const auto slice = slices.find(circle.id);
-        if (slice != slices.end()) Ball(canvas, circle, *slice->second, look).draw(circle.id == hoveredID);
+        if (slice != slices.end() && canvas.shows(bubbleBox(circle)))
+            Ball(canvas, circle, *slice->second, look).draw(circle.id == hoveredID);
     }
 }
 
@@ -121,10 +122,12 @@ void drawBubbleFocus(Canvas& canvas, const PackedCircle& circle, const QColor& l
     canvas.ring(center, radius, focusWidth, Paint::solid(line));
 }
 
-double bubbleReach(double radius) {
-    // A blur fades out at one and a half times its own length.
+QRectF bubbleBox(const PackedCircle& circle) {
+    const double radius = std::max(circle.radius, 0.0);
     const Shadow shadow = shadowOf(radius, true);
-    return std::max(1.5 * shadow.blur + shadow.offset.y(), focusOffset + focusWidth) + 2;
+    // A blur fades out at one and a half times its own length.
+    const double reach = radius + std::max(1.5 * shadow.blur + shadow.offset.y(), focusOffset + focusWidth) + 2;
+    return {circle.center.x - reach, circle.center.y - reach, 2 * reach, 2 * reach};
 }
 
 }  // namespace zelk

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QRectF>
 #include <map>
 #include <optional>
 #include <string>
@@ -32,7 +33,7 @@ void drawBubbles(Canvas& canvas, const std::vector<PackedCircle>& circles, const
 /// Where the keyboard is: a line around the ball, set off from whatever lies below it.
 void drawBubbleFocus(Canvas& canvas, const PackedCircle& circle, const QColor& line, const QColor& ground);
 
-/// How far from the edge of its circle a bubble draws: its shadow, or the line around it.
-double bubbleReach(double radius);
+/// What a bubble draws in, with its shadow and the line around it.
+QRectF bubbleBox(const PackedCircle& circle);
 
 }  // namespace zelk

@@ -126,10 +126,7 @@ std::optional<std::size_t> BubblePicture::indexOf(const std::optional<std::strin
 
 /// One bubble of the map, with all that surrounds it: what else there is stays as it is on screen.
 void BubblePicture::updateBubble(const std::optional<std::size_t>& index) {
-    if (!index) return;
-    const PackedCircle& circle = packed_[*index];
-    const double reach = std::max(circle.radius, 0.0) + bubbleReach(circle.radius);
-    update(QRectF(circle.center.x - reach, circle.center.y - reach, 2 * reach, 2 * reach).toAlignedRect());
+    if (index) update(bubbleBox(packed_[*index]).toAlignedRect());
 }
 
 void BubblePicture::draw(Canvas& canvas) const {

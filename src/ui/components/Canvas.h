@@ -63,6 +63,8 @@ struct Lettering {
 class Canvas {
 public:
     virtual ~Canvas() = default;
+    /// False if nothing in this rectangle will be seen, so that a drawing can leave out what lies there.
+    virtual bool shows(const QRectF& rect) const = 0;
     virtual void disc(QPointF center, double radius, const Paint& paint) = 0;
     /// An opaque disc and, below it, its shadow.
     virtual void shadowedDisc(QPointF center, double radius, const Paint& paint, const Shadow& shadow) = 0;

@@ -3,7 +3,6 @@
 
 #include <QBrush>
 #include <QConicalGradient>
-#include <QFont>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QLinearGradient>
@@ -65,17 +64,6 @@ QPainterPath barPath(const QRectF& rect, double leftCorner, double rightCorner) 
     return path;
 }
 
-QFont fontOf(const Lettering& lettering) {
-    QFont font = QGuiApplication::font();
-#ifdef Q_OS_MACOS
-    if (lettering.rounded) font.setFamilies({QStringLiteral("SF Pro Rounded"), font.family()});
-#endif
-    // Whole sizes: each other one would be a font of its own, and a chart that grows would make dozens a second.
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(lettering.size))));
-    font.setWeight(lettering.weight == Lettering::Weight::semibold ? QFont::DemiBold : QFont::Medium);
-    return font;
-}
-
 /// A disc blurred by a Gauss curve, as a gradient from its middle: without a pass over pixels, so that a chart that is
 /// resized can have new ones with every frame. It reaches three deviations further than the disc.
 class BlurredDisc {
@@ -117,6 +105,10 @@ private:
 
 PainterCanvas::PainterCanvas(QPainter& painter) : painter_(painter) {
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+}
+
+bool PainterCanvas::shows(const QRectF& rect) const {
+    return !painter_.hasClipping() || painter_.clipBoundingRect().intersects(rect);
 }
 
 void PainterCanvas::disc(QPointF center, double radius, const Paint& paint) {
@@ -193,8 +185,24 @@ void PainterCanvas::image(const QRectF& rect, const QImage& image) {
     painter_.drawImage(rect, image);
 }
 
+const QFont& PainterCanvas::fontOf(const Lettering& lettering) const {
+    // Whole sizes: each other one would be a font of its own, and a chart that grows would make dozens a second.
+    Lettering whole = lettering;
+    whole.size = std::max(1.0, std::round(lettering.size));
+    for (const auto& [known, font] : fonts_)
+        if (known == whole) return font;
+
+    QFont font = QGuiApplication::font();
+#ifdef Q_OS_MACOS
+    if (whole.rounded) font.setFamilies({QStringLiteral("SF Pro Rounded"), font.family()});
+#endif
+    font.setPixelSize(static_cast<int>(whole.size));
+    font.setWeight(whole.weight == Lettering::Weight::semibold ? QFont::DemiBold : QFont::Medium);
+    return fonts_.emplace_back(whole, font).second;
+}
+
 void PainterCanvas::text(QPointF center, const QString& text, const Lettering& lettering, const QColor& color) {
-    const QFont font = fontOf(lettering);
+    const QFont& font = fontOf(lettering);
     const QFontMetricsF metrics(font);
     painter_.setFont(font);
     painter_.setPen(color);

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFont>
+#include <utility>
+#include <vector>
+
 #include "ui/components/Canvas.h"
 
 class QPainter;
@@ -12,6 +16,7 @@ class PainterCanvas : public Canvas {
 public:
     explicit PainterCanvas(QPainter& painter);
 
+    bool shows(const QRectF& rect) const override;
     void disc(QPointF center, double radius, const Paint& paint) override;
     void shadowedDisc(QPointF center, double radius, const Paint& paint, const Shadow& shadow) override;
     void ellipse(const QRectF& rect, const Paint& paint) override;
@@ -26,9 +31,11 @@ public:
     double textWidth(const QString& text, const Lettering& lettering) const override;
 
 private:
+    const QFont& fontOf(const Lettering& lettering) const;
     void strokeArc(QPointF center, double radius, double start, double span);
 
     QPainter& painter_;
+    mutable std::vector<std::pair<Lettering, QFont>> fonts_;  // that were asked for: finding one anew takes long
 };
 
 }  // namespace zelk

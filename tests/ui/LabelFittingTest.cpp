@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "ui/bubbles/LabelFitting.h"
+
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QTextBoundaryFinder>
+#include <algorithm>
+#include <functional>
+#include <random>
+#include <vector>
+
+namespace zelk {
+
+namespace {
+
+/// Every unit of text is one wide.
+double units(const QString& text) {
+    return static_cast<double>(text.size());
+}
+
+QString fitted(const QString& label, double room) {
+    return fittedLabel(label, room, 1, units);
+}
+
+/// One after the other, from the longest.
+QString fittedPlainly(const QString& label, double room, const std::function<double(const QString&)>& widthOf) {
+    if (label.isEmpty() || widthOf(label) <= room) return label;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, label);
+    finder.toEnd();
+    for (auto at = finder.toPreviousBoundary(); at > 0; at = finder.toPreviousBoundary())
+        if (QString text = label.left(at) + QStringLiteral("…"); widthOf(text) <= room) return text;
+    return {};
+}
+
+}  // namespace
+
+TEST(LabelFitting, whatFitsStaysWhole) {
+    EXPECT_EQ(fitted(QStringLiteral("Caches"), 6), QStringLiteral("Caches"));
+    EXPECT_EQ(fitted(QStringLiteral("Caches"), 100), QStringLiteral("Caches"));
+}
+
+TEST(LabelFitting, whatDoesNotFitEndsInAnEllipsisThatFits) {
+    EXPECT_EQ(fitted(QStringLiteral("Caches"), 5.9), QStringLiteral("Cach…"));
+    EXPECT_EQ(fitted(QStringLiteral("Caches"), 5), QStringLiteral("Cach…"));
+    EXPECT_EQ(fitted(QStringLiteral("Caches"), 2), QStringLiteral("C…"));
+}
+
+TEST(LabelFitting, anEmptyLabelStaysEmpty) {
+    EXPECT_EQ(fitted({}, 5), QString());
+    EXPECT_EQ(fitted({}, -5), QString());
+}
+
+TEST(LabelFitting, aLabelOfOneCharacterIsWholeOrNotThere) {
+    EXPECT_EQ(fitted(QStringLiteral("C"), 1), QStringLiteral("C"));
+    EXPECT_EQ(fitted(QStringLiteral("C"), 0.5), QString());
+}
+
+TEST(LabelFitting, nothingIsLeftWhereNotEvenOneCharacterFits) {
+    EXPECT_EQ(fitted(QStringLiteral("Caches"), 1.5), QString());
+}
+
+TEST(LabelFitting, noAccentAndNoEmojiIsCutInTwo) {
+    const QString accent = QStringLiteral("e\u0301");             // two units
+    const QString family = QStringLiteral("👨‍👩‍👧");  // eight
+    EXPECT_EQ(fitted(accent + accent + accent, 4), accent + QStringLiteral("…"));
+    EXPECT_EQ(fitted(family + family, 9), family + QStringLiteral("…"));
+    EXPECT_EQ(fitted(family + family, 8), QString());
+}
+
+TEST(LabelFitting, aLongLabelIsMeasuredAFewTimesOnly) {
+    int measured = 0;
+    qsizetype mostUnits = 0;
+    const QString label(200, u'n');
+    const QString text = fittedLabel(label, 20, 1, [&](const QString& part) {
+        ++measured;
+        if (part.size() < label.size()) mostUnits = std::max(mostUnits, part.size());
+        return units(part);
+    });
+    EXPECT_EQ(text, QString(19, u'n') + QStringLiteral("…"));
+    EXPECT_LE(measured, 14);
+    EXPECT_LE(mostUnits, 40);
+}
+
+TEST(LabelFitting, findsWhatTryingThemAllWouldInTheRealFace) {
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(13);
+    const QFontMetricsF metrics(font);
+    const auto widthOf = [&](const QString& text) { return metrics.horizontalAdvance(text); };
+    // Letters that join, accents, emoji, wide and narrow ones.
+    const std::vector<QString> letters{QStringLiteral("i"), QStringLiteral("W"),      QStringLiteral("A"),
+                                       QStringLiteral("V"), QStringLiteral("T"),      QStringLiteral("ل"),
+                                       QStringLiteral("ا"), QStringLiteral("م"),      QStringLiteral("e\u0301"),
+                                       QStringLiteral("ﬁ"), QStringLiteral("日"),     QStringLiteral("🙂"),
+                                       QStringLiteral(" "), QStringLiteral("\u200b"), QStringLiteral("क्ष")};
+    std::mt19937 random(5);
+    for (int round = 0; round < 400; ++round) {
+        QString label;
+        for (auto count = random() % 40; count > 0; --count) label += letters[random() % letters.size()];
+        const double room = static_cast<double>(random() % 2000) / 10;
+        EXPECT_EQ(fittedLabel(label, room, 13, widthOf), fittedPlainly(label, room, widthOf)) << label.toStdString();
+    }
+}
+
+}  // namespace zelk
