@@ -1,51 +1,227 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ViewFixture.h"
-#include "ui/bubbles/BubbleModel.h"
-#include "ui/bubbles/BubblePicture.h"
+#include <memory>
+
+#include "BubbleChartFixture.h"
 
 namespace zelk {
 
 namespace {
 
-BubbleSlice sliceOf(const char* id, std::int64_t bytes) {
-    BubbleSlice slice;
-    slice.id = id;
-    slice.label = QString::fromUtf8(id);
-    slice.bytes = bytes;
-    slice.color = QColor(124, 92, 255);
-    return slice;
-}
+using testing::ElementsAre;
+using testing::IsEmpty;
 
-class BubbleChart : public ViewFixture {
-protected:
-    BubbleChart() {
-        bubbles.setSlices(
-            {sliceOf("large", 1'200'000'000), sliceOf("middle", 600'000'000), sliceOf("small", 5'000'000)});
-        show(QStringLiteral("Zelk.Bubbles"), QStringLiteral("BubbleChart"), {600, 400});
-    }
-    void show(const QString& module, const QString& type, QSize size) {
-        ViewFixture::show(
-            QStringLiteral("import QtQuick\nimport %1\n%2 { name: \"Map\"; focus: true }").arg(module, type), size,
-            {{QStringLiteral("model"), QVariant::fromValue(&bubbles)}});
-    }
-    ~BubbleChart() override { close(); }
-
-    BubblePicture& chart() { return dynamic_cast<BubblePicture&>(view()); }
-
-    std::vector<std::string> told;
-    BubbleModel bubbles{{[this](const BubbleSlice& slice) { told.push_back("tap " + slice.id); },
-                         [this](const BubbleSlice& slice) { told.push_back("tick " + slice.id); },
-                         [this] { told.emplace_back("leave"); }}};
-};
+class BubbleChart : public BubbleChartFixture {};
 
 }  // namespace
 
+// When it packs
+
 TEST_F(BubbleChart, packsWhenItAppears) {
-    ASSERT_EQ(chart().packed().size(), 3U);
-    EXPECT_EQ(chart().packed(),
-              pack({{"large", 1'200'000'000}, {"middle", 600'000'000}, {"small", 5'000'000}}, 600, 400));
+    EXPECT_EQ(chart().packed(), pack(itemsOf(first), 600, 400));
+    EXPECT_EQ(chart().packed().size(), 4U) << "what has no bytes has no circle";
+}
+
+TEST_F(BubbleChart, packsWhenItsSizeChanges) {
+    view().setSize({500, 380});
+    EXPECT_EQ(chart().packed(), pack(itemsOf(first), 500, 380));
+    view().setX(7);
+    EXPECT_EQ(chart().packed(), pack(itemsOf(first), 500, 380)) << "a move is no change of size";
+}
+
+TEST_F(BubbleChart, packsWhenTheIdsChange) {
+    auto next = first;
+    next.push_back(sliceOf("more", 50'000'000));
+    bubbles.setSlices(next);
+    EXPECT_EQ(chart().packed(), pack(itemsOf(next), 600, 400));
+    std::swap(next[0], next[1]);
+    bubbles.setSlices(next);
+    EXPECT_EQ(chart().packed(), pack(itemsOf(next), 600, 400)) << "another order is another map";
+}
+
+TEST_F(BubbleChart, newBytesAndColoursUnderTheSameIdsDoNotMoveTheBubbles) {
+    const auto before = chart().packed();
+    bubbles.setSlices(slicesWith([](auto& slices) {
+        slices[0].bytes = 5;
+        slices[1].color = Qt::red;
+        slices[3].bytes = 900'000'000;
+    }));
+    EXPECT_EQ(chart().packed(), before);
+    pointAt(middleOf("node_modules"));
+    EXPECT_EQ(tipText(), "node_modules|5 bytes") << "what is said is the new one";
+}
+
+TEST_F(BubbleChart, packsAnewWhenItsModelIsRebuilt) {
+    const auto next = slicesWith([](auto& slices) { slices[2].bytes = 2'000'000'000; });
+    bubbles.setSlices(next);
+    ASSERT_NE(chart().packed(), pack(itemsOf(next), 600, 400));
+    pointAt(middleOf("Caches"));
+    bubbles.rebuild();
+    EXPECT_EQ(chart().packed(), pack(itemsOf(next), 600, 400));
+    EXPECT_EQ(chart().hoveredID(), std::nullopt);
+    EXPECT_EQ(currentID(), "Logs") << "the largest";
+}
+
+TEST_F(BubbleChart, packsOnlyInMoreThanOnePoint) {
+    const auto before = chart().packed();
+    for (const QSizeF size : {QSizeF(1, 400), QSizeF(600, 1), QSizeF(0, 0)}) {
+        view().setSize(size);
+        EXPECT_EQ(chart().packed(), before) << size.width();
+    }
+    view().setSize({1.5, 1.5});
+    EXPECT_EQ(chart().packed(), pack(itemsOf(first), 1.5, 1.5));
+}
+
+TEST_F(BubbleChart, packsInLessThanItsMarginsWithoutComplaint) {
+    view().setSize({40, 30});
+    ASSERT_EQ(chart().packed().size(), 4U);
+    EXPECT_LT(chart().packed()[0].radius, 0);
+    settle();
+    clickAt({20, 15});
+    EXPECT_THAT(told, IsEmpty()) << "such a circle has no inside";
+}
+
+TEST_F(BubbleChart, ofNothingPaintsNothingAndBearsEveryKeyAndClick) {
+    for (const auto& none : {std::vector<BubbleSlice>(), std::vector{sliceOf("a", 0), sliceOf("b", -3)}}) {
+        bubbles.setSlices(none);
+        EXPECT_THAT(chart().packed(), IsEmpty());
+        clickAt({300, 200});
+        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Home, Qt::Key_End, Qt::Key_Return, Qt::Key_Space}) press(key);
+        EXPECT_THAT(told, IsEmpty());
+        EXPECT_THAT(nodes(), IsEmpty());
+    }
+    press(Qt::Key_Backspace);
+    EXPECT_THAT(told, ElementsAre("leave"));
+}
+
+// The pointer
+
+TEST_F(BubbleChart, knowsTheBubbleUnderThePointer) {
+    pointAt(middleOf("Caches"));
+    EXPECT_EQ(chart().hoveredID(), "Caches");
+    EXPECT_EQ(chart().hoverPoint(), QPointF(middleOf("Caches")));
+    pointAt(nowhere);
+    EXPECT_EQ(chart().hoveredID(), std::nullopt);
+    EXPECT_EQ(chart().hoverPoint(), QPointF(nowhere));
+}
+
+TEST_F(BubbleChart, forgetsTheBubbleButNotThePointWhenThePointerLeaves) {
+    const QPoint point = middleOf("Caches");
+    pointAt(point);
+    QHoverEvent leave(QEvent::HoverLeave, QPointF(-1, -1), QPointF(-1, -1), QPointF(point), Qt::NoModifier);
+    QCoreApplication::sendEvent(&chart(), &leave);
+    EXPECT_EQ(chart().hoveredID(), std::nullopt);
+    EXPECT_EQ(chart().hoverPoint(), QPointF(point));
+    EXPECT_EQ(tipText(), "");
+}
+
+TEST_F(BubbleChart, aBubbleThatIsGoneUnderThePointerIsSaidNoMore) {
+    pointAt(middleOf("Caches"));
+    bubbles.setSlices({sliceOf("other", 5)});
+    EXPECT_EQ(chart().hoveredID(), "Caches");
+    EXPECT_EQ(tipText(), "");
+    settle();
+}
+
+TEST_F(BubbleChart, aClickTapsTheBubbleUnderIt) {
+    clickAt(middleOf("Logs"));
+    clickAt(nowhere);
+    EXPECT_THAT(told, ElementsAre("tap Logs"));
+    EXPECT_EQ(currentID(), "Logs");
+    EXPECT_EQ(window().activeFocusItem(), &chart());
+    EXPECT_FALSE(chart().visualFocus()) << "nobody goes by the keyboard";
+}
+
+TEST_F(BubbleChart, everyClickIsATap) {
+    QTest::mouseDClick(&window(), Qt::LeftButton, {}, middleOf("Logs"));
+    EXPECT_THAT(told, ElementsAre("tap Logs", "tap Logs"));
+}
+
+TEST_F(BubbleChart, draggingAndTheOtherButtonsAreNoTaps) {
+    const QPoint point = middleOf("node_modules");
+    QTest::mousePress(&window(), Qt::LeftButton, {}, point);
+    QTest::mouseMove(&window(), point + QPoint(30, 0));
+    QTest::mouseRelease(&window(), Qt::LeftButton, {}, point + QPoint(30, 0));
+    QTest::mouseClick(&window(), Qt::RightButton, {}, point);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(BubbleChart, aTapMayShowAnotherMap) {
+    BubbleModel drilling({[&](const BubbleSlice& slice) {
+                              drilling.setSlices({sliceOf(slice.id + "/inside", 7)});
+                              told.push_back("into " + slice.id);
+                          },
+                          {},
+                          {}});
+    drilling.setSlices(first);
+    chart().setModel(&drilling);
+    clickAt(middleOf("Caches"));
+    EXPECT_THAT(told, ElementsAre("into Caches"));
+    EXPECT_EQ(currentID(), "Caches/inside");
+    chart().setModel(&bubbles);
+}
+
+TEST_F(BubbleChart, outlivesItsModel) {
+    auto brief = std::make_unique<BubbleModel>(BubbleModel::Actions{});
+    brief->setSlices(first);
+    chart().setModel(brief.get());
+    ASSERT_FALSE(chart().isEmpty());
+    brief.reset();
+    clickAt({300, 200});
+    press(Qt::Key_Return);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(tipText(), "");
+}
+
+// The tip
+
+TEST_F(BubbleChart, theTipSaysTheLabelAndTheSize) {
+    auto slices = first;
+    slices[1].reclaimable = true;
+    bubbles.setSlices(slices);
+    pointAt(middleOf("node_modules"));
+    EXPECT_EQ(tipText(), "node_modules|1.2 GB");
+    EXPECT_FALSE(chart().tip().reclaimable);
+    pointAt(middleOf("Caches"));
+    EXPECT_EQ(tipText(), "Caches|600 MB · reclaimable");
+    EXPECT_TRUE(chart().tip().reclaimable);
+    EXPECT_THAT(seenTexts(), testing::IsSupersetOf({"Caches", "600 MB · reclaimable"}));
+}
+
+TEST_F(BubbleChart, theTipTakesNoClicks) {
+    const QPoint point = middleOf("node_modules");
+    pointAt(point);
+    const QPointF corner = chart().tip().corner;
+    tour::clickAt(window(), point);
+    QTest::mouseClick(&window(), Qt::LeftButton, {}, corner.toPoint() + QPoint(2, 2));
+    EXPECT_EQ(told.size(), 2U);
+}
+
+TEST(BubbleTip, standsBesideThePointerAndInsideTheChart) {
+    const BubbleSlice slice = sliceOf("a", 5);
+    EXPECT_EQ(BubbleTip::of(slice, {100, 50}, {600, 400}, 1).corner, QPointF(112, 62));
+    EXPECT_EQ(BubbleTip::of(slice, {500, 390}, {600, 400}, 1).corner, QPointF(380, 344));
+    EXPECT_EQ(BubbleTip::of(slice, {500, 390}, {200, 40}, 1).corner, QPointF(0, 0));
+    EXPECT_EQ(BubbleTip::of(slice, {500, 390}, {600, 400}, 1.5).corner, QPointF(270, 316)) << "larger texts take more";
+}
+
+TEST_F(BubbleChart, theTipOfALongNameStaysInTheChart) {
+    for (const double scale : {1.0, 1.5}) {
+        singleton<TextScale>("TextScale").setFactor(scale);
+        bubbles.setSlices({sliceOf(std::string(200, 'n'), 5'000'000'000)});
+        for (const QPoint point : {QPoint(300, 200), QPoint(420, 300), QPoint(180, 120)}) {
+            pointAt(point);
+            ASSERT_TRUE(chart().tip().shown);
+            for (QQuickItem* item : seen()) {
+                if (!QString::fromLatin1(item->metaObject()->className()).startsWith(QStringLiteral("BubbleTipCard")))
+                    continue;
+                const QRectF box = item->mapRectToScene(item->boundingRect());
+                EXPECT_TRUE(QRectF(0, 0, 600, 400).contains(box)) << box.right() << ' ' << box.bottom();
+            }
+        }
+    }
 }
 
 }  // namespace zelk

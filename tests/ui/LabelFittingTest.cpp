@@ -89,11 +89,11 @@ TEST(LabelFitting, findsWhatTryingThemAllWouldInTheRealFace) {
     const QFontMetricsF metrics(font);
     const auto widthOf = [&](const QString& text) { return metrics.horizontalAdvance(text); };
     // Letters that join, accents, emoji, wide and narrow ones.
-    const std::vector<QString> letters{QStringLiteral("i"), QStringLiteral("W"),      QStringLiteral("A"),
-                                       QStringLiteral("V"), QStringLiteral("T"),      QStringLiteral("ل"),
-                                       QStringLiteral("ا"), QStringLiteral("م"),      QStringLiteral("e\u0301"),
-                                       QStringLiteral("ﬁ"), QStringLiteral("日"),     QStringLiteral("🙂"),
-                                       QStringLiteral(" "), QStringLiteral("\u200b"), QStringLiteral("क्ष")};
+    const std::vector<QString> letters{QStringLiteral("i"), QStringLiteral("W"),     QStringLiteral("A"),
+                                       QStringLiteral("V"), QStringLiteral("T"),     QStringLiteral("ل"),
+                                       QStringLiteral("ا"), QStringLiteral("م"),     QStringLiteral("e\u0301"),
+                                       QStringLiteral("ﬁ"), QStringLiteral("日"),    QStringLiteral("🙂"),
+                                       QStringLiteral(" "), QStringLiteral("\u200b")};
     std::mt19937 random(5);
     for (int round = 0; round < 400; ++round) {
         QString label;

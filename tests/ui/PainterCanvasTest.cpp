@@ -66,4 +66,79 @@ TEST_F(Painted, edgesAreSmooth) {
     EXPECT_GT(partly, 0);
 }
 
+TEST_F(Painted, aShadowIsDarkestBelowTheDiscAndFadesOut) {
+    PainterCanvas(painter).shadowedDisc(middle, 20, Paint::solid(Qt::red), {QColor(0, 0, 0, 128), 10, {0, 6}});
+    EXPECT_EQ(at(50, 50), QColor(Qt::red));
+    EXPECT_EQ(at(50, 68), QColor(Qt::red)) << "the disc covers it";
+    int last = at(50, 72).alpha();
+    EXPECT_GT(last, 60);
+    EXPECT_GT(last, at(50, 28).alpha()) << "it falls downwards";
+    for (int y = 73; y < 96; ++y) {
+        EXPECT_LE(at(50, y).alpha(), last) << y;
+        EXPECT_LT(last - at(50, y).alpha(), 16) << "without an edge";
+        last = at(50, y).alpha();
+    }
+    EXPECT_EQ(last, 0);
+}
+
+TEST_F(Painted, aShadowThatIsMoreBlurredThanItsDiscIsLargeIsFaint) {
+    PainterCanvas(painter).shadowedDisc(middle, 3, Paint::solid(Qt::red), {Qt::black, 20, {0, 30}});
+    EXPECT_LT(at(50, 80).alpha(), 30);
+    EXPECT_GT(at(50, 80).alpha(), 0);
+}
+
+TEST_F(Painted, anEllipseFillsItsRectangle) {
+    PainterCanvas canvas(painter);
+    canvas.ellipse({20, 40, 60, 20}, Paint::solid(Qt::red));
+    EXPECT_EQ(at(22, 50), QColor(Qt::red));
+    EXPECT_EQ(at(50, 42), QColor(Qt::red));
+    EXPECT_EQ(at(22, 42).alpha(), 0);
+    canvas.ellipse({60, 80, -20, -10}, Paint::solid(Qt::red));
+    EXPECT_EQ(at(50, 75).alpha(), 0) << "what has no extent is nothing";
+}
+
+TEST_F(Painted, anImageFillsItsRectangle) {
+    QImage picture(4, 4, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::blue);
+    PainterCanvas(painter).image({30, 30, 20, 20}, picture);
+    EXPECT_EQ(at(31, 31), QColor(Qt::blue));
+    EXPECT_EQ(at(48, 48), QColor(Qt::blue));
+    EXPECT_EQ(at(51, 51).alpha(), 0);
+}
+
+TEST_F(Painted, aTextStandsAroundItsMiddleAsWideAsItMeasures) {
+    PainterCanvas canvas(painter);
+    const Lettering lettering{20, Lettering::Weight::semibold, false};
+    canvas.text(middle, QStringLiteral("HH"), lettering, Qt::red);
+    QRect inked;
+    for (int y = 0; y < 100; ++y)
+        for (int x = 0; x < 100; ++x)
+            if (at(x, y).alpha() > 60) inked |= QRect(x, y, 1, 1);
+    EXPECT_NEAR(inked.center().x(), 50, 1);
+    EXPECT_NEAR(inked.center().y(), 50, 3);
+    const double width = canvas.textWidth(QStringLiteral("HH"), lettering);
+    EXPECT_NEAR(inked.width(), width, 6);
+    EXPECT_GT(canvas.textWidth(QStringLiteral("HHH"), lettering), width);
+    EXPECT_LT(canvas.textWidth(QStringLiteral("HH"), {10, Lettering::Weight::semibold, false}), width);
+}
+
+TEST_F(Painted, showsWhatItsClipLeaves) {
+    PainterCanvas canvas(painter);
+    EXPECT_TRUE(canvas.shows({500, 500, 10, 10})) << "without one it does not say";
+    painter.setClipRect(10, 10, 20, 20);
+    EXPECT_TRUE(canvas.shows({25, 25, 40, 40}));
+    EXPECT_FALSE(canvas.shows({40, 10, 20, 20}));
+}
+
+TEST_F(Painted, aCircleWithoutARadiusIsNothing) {
+    PainterCanvas canvas(painter);
+    const QImage before = image;
+    for (const double radius : {0.0, -20.0}) {
+        canvas.disc(middle, radius, Paint::solid(Qt::red));
+        canvas.ring(middle, radius, 4, Paint::solid(Qt::red));
+        canvas.shadowedDisc(middle, radius, Paint::solid(Qt::red), {Qt::black, 6, {0, 2}});
+    }
+    EXPECT_EQ(image, before);
+}
+
 }  // namespace zelk

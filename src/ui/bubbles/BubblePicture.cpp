@@ -145,10 +145,10 @@ void BubblePicture::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 void BubblePicture::hover(QPointF point) {
-    hoverPoint_ = point;
+    // The toolkit also tells where the pointer is when something has moved below it.
+    if (point != std::exchange(hoverPoint_, point)) tipFollowsKeys_ = false;
     const auto hit = hitTest(packed_, {point.x(), point.y()});
     const std::optional<std::string> id = hit ? std::optional(packed_[*hit].id) : std::nullopt;
-    tipFollowsKeys_ = false;
     if (id != hoveredID_) {
         updateBubble(indexOf(hoveredID_));
         updateBubble(indexOf(id));
