@@ -112,7 +112,7 @@ TEST_F(LensJourney, withTheKeyboardAlone) {
     EXPECT_EQ(focusedRow(), "projects");
     press(Qt::Key_Down);
     press(Qt::Key_Space);
-    EXPECT_EQ(text("lensCaption"), "2 selected · 60 MB");
+    ASSERT_EQ(text("lensCaption"), "2 selected · 60 MB");
 
     for (int stop = 0; stop < 12 && focusName() != "lensRemove"; ++stop) press(Qt::Key_Tab);
     press(Qt::Key_Return);

@@ -108,7 +108,7 @@ void LensScreenModel::leaveTrees() {
 void LensScreenModel::showSlices() {
     const ZelkTheme& theme = dark_ ? ZelkTheme::dark() : ZelkTheme::light();
     bubbles_.setSlices(
-        slicesOf(walk_, theme.inkSoft, [this](const std::string& path) { return icon(path, bubbleIconSide); }));
+        slicesOf(rows_, walk_, theme.inkSoft, [this](const std::string& path) { return icon(path, bubbleIconSide); }));
 }
 
 QImage LensScreenModel::icon(const std::string& path, int side) const {

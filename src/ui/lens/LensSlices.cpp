@@ -7,13 +7,12 @@
 
 namespace zelk {
 
-std::vector<BubbleSlice> slicesOf(const LensWalk& walk, const QColor& folded,
+std::vector<BubbleSlice> slicesOf(const LensRows& rows, const LensWalk& walk, const QColor& folded,
                                   const std::function<QImage(const std::string&)>& iconOf) {
-    const std::vector<NodeRef> visible = walk.visibleChildren();
-    const std::size_t alone = std::min(visible.size(), LensWalk::topCount);
+    const int alone = std::min(rows.rowCount(), static_cast<int>(LensWalk::topCount));
     std::vector<BubbleSlice> slices;
-    for (std::size_t at = 0; at < alone; ++at) {
-        const FSNode& node = *visible[at];
+    for (int row = 0; row < alone; ++row) {
+        const FSNode& node = *rows.node(row);
         BubbleSlice slice;
         slice.id = node.fullPath();
         slice.label = displayText(node.name());
@@ -25,11 +24,11 @@ std::vector<BubbleSlice> slicesOf(const LensWalk& walk, const QColor& folded,
         slice.selected = walk.isSelected(slice.id);
         slices.push_back(std::move(slice));
     }
-    if (alone == visible.size()) return slices;
+    if (alone == rows.rowCount()) return slices;
     BubbleSlice rest;
     rest.id = foldedSlice;
-    rest.label = QStringLiteral("Other (%1)").arg(visible.size() - alone);
-    for (std::size_t at = alone; at < visible.size(); ++at) rest.bytes += visible[at]->size;
+    rest.label = QStringLiteral("Other (%1)").arg(rows.rowCount() - alone);
+    for (int row = alone; row < rows.rowCount(); ++row) rest.bytes += rows.node(row)->size;
     rest.color = folded;
     slices.push_back(std::move(rest));
     return slices;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "ui/bubbles/BubbleSlice.h"
+#include "ui/lens/LensRows.h"
 #include "ui/lens/LensWalk.h"
 
 namespace zelk {
@@ -15,9 +16,9 @@ namespace zelk {
 /// The name of the one bubble that holds all that the map does not show by itself. No path is called so.
 inline constexpr std::string_view foldedSlice = "__other__";
 
-/// A slice for each of the largest in the folder at hand, with its path as its name, and one in the colour `folded` for
-/// the rest, if there is any. `iconOf` gives the picture of the folder at a path.
-std::vector<BubbleSlice> slicesOf(const LensWalk& walk, const QColor& folded,
+/// A slice for each of the first rows, with its path as its name, and one in the colour `folded` for the rest, if there
+/// is any. `iconOf` gives the picture of the folder at a path.
+std::vector<BubbleSlice> slicesOf(const LensRows& rows, const LensWalk& walk, const QColor& folded,
                                   const std::function<QImage(const std::string&)>& iconOf);
 
 }  // namespace zelk

@@ -13,6 +13,7 @@ ModuleScaffold {
     content: Component {
         LensPanes {
             lens: view.lens
+            focus: true
         }
     }
 }

@@ -36,11 +36,15 @@ NodeRef LensWalk::currentNode() const {
 std::vector<NodeRef> LensWalk::visibleChildren() const {
     const NodeRef current = currentNode();
     if (!current) return {};
+    // The sizes beside one another: of tens of thousands, no comparison should go and look for them.
+    std::vector<std::pair<std::int64_t, const NodeRef*>> sizes;
+    sizes.reserve(current->children.size());
+    for (const NodeRef& child : current->children)
+        if (child->size > 0) sizes.emplace_back(child->size, &child);
+    std::stable_sort(sizes.begin(), sizes.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
     std::vector<NodeRef> children;
-    std::copy_if(current->children.begin(), current->children.end(), std::back_inserter(children),
-                 [](const NodeRef& child) { return child->size > 0; });
-    std::stable_sort(children.begin(), children.end(),
-                     [](const NodeRef& a, const NodeRef& b) { return a->size > b->size; });
+    children.reserve(sizes.size());
+    for (const auto& [size, child] : sizes) children.push_back(*child);
     return children;
 }
 
