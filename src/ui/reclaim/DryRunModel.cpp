@@ -101,18 +101,20 @@ QString DryRunModel::doneLabel() const {
 }
 
 void DryRunModel::cancel() {
-    if (isReview()) actions_.dismiss();
+    if (!isReview() || std::exchange(left_, true)) return;
+    const Actions actions = actions_;  // dismissing may end this
+    actions.dismiss();
 }
 
 void DryRunModel::confirm() {
-    if (!confirmable() || model_.isCleaning()) return;
+    if (!confirmable() || left_ || model_.isCleaning()) return;
     phase_ = Phase::cleaning;
     emit phaseChanged();
     model_.clean(rows_.items(), hardDelete_);
 }
 
 void DryRunModel::emptyTrash() {
-    if (!emptyable() || emptyingTrash_) return;
+    if (!emptyable() || emptyingTrash_ || left_) return;
     emptyingTrash_ = true;
     emit phaseChanged();
     auto empty = [this, sender = calls_.sender(), &trash = platform_.trash] {
@@ -127,15 +129,14 @@ void DryRunModel::emptyTrash() {
 }
 
 void DryRunModel::finish() {
-    if (!isDone() || emptyingTrash_) return;
+    if (!isDone() || emptyingTrash_ || std::exchange(left_, true)) return;
     const Actions actions = actions_;  // dismissing may end this
     actions.dismiss();
     actions.rescan();
 }
 
 void DryRunModel::close() {
-    cancel();
-    finish();
+    isReview() ? cancel() : finish();
 }
 
 }  // namespace zelk

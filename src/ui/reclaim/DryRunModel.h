@@ -90,6 +90,8 @@ public:
     QString doneLabel() const;
 
 public slots:
+    // None does anything once it was left.
+
     /// Leaves without doing anything.
     void cancel();
     void confirm();
@@ -112,6 +114,7 @@ private:
     bool hardDelete_ = false;
     bool emptyingTrash_ = false;
     bool trashEmptied_ = false;
+    bool left_ = false;  // on its way out, a sheet still takes presses
     MainThreadCalls calls_;
 };
 

@@ -128,8 +128,8 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
         case freeRole:
             return cleanup_.selection().conflictOf(item).empty();
         case spokenRole:
-            return Spoken::joined(
-                {name(), byteFigure(static_cast<std::int64_t>(item.size)), ageOf(item), lineOf(item), folderOf(item)});
+            return Spoken::joined({nameOf(item), byteFigure(static_cast<std::int64_t>(item.size)), ageOf(item),
+                                   lineOf(item), folderOf(item)});
         default:
             return QString();
     }
@@ -228,7 +228,7 @@ void ItemList::clean() {
 void ItemList::followSelection() {
     if (ticking_) return;
     count();
-    changed(0, rowCount() - 1, {chosenRole, freeRole, lineRole});
+    changed(0, rowCount() - 1, {chosenRole, freeRole, lineRole, spokenRole});
     emit footerChanged();
 }
 
