@@ -1,0 +1,397 @@
+// SPDX-License-Identifier: MIT
+#include "ui/reclaim/ReclaimScreenModel.h"
+
+#include <gmock/gmock.h>
+
+#include "ui/ReclaimFixture.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Audience = AppModel::Audience;
+
+class ReclaimScreen : public ReclaimFixture {
+protected:
+    const CleanupSelection& selection() { return screen().cleanup().selection(); }
+    DryRunModel& sheet() { return *screen().dryRun(); }
+    std::set<std::string> inSheet() {
+        std::set<std::string> ids;
+        for (const Reclaimable& item : sheet().rows()->items()) ids.insert(item.id);
+        return ids;
+    }
+    std::string face() {
+        std::string faces;
+        if (screen().idle()) faces += "idle ";
+        if (screen().scanning()) faces += "scanning ";
+        if (screen().nothing()) faces += "nothing ";
+        if (screen().byCategory()) faces += "byCategory ";
+        if (screen().byItem()) faces += "byItem ";
+        return faces;
+    }
+    void cleanNow() {
+        sheet().confirm();
+        runUntil([&] { return sheet().isDone(); });
+    }
+};
+
+}  // namespace
+
+TEST_F(ReclaimScreen, itsFixedTexts) {
+    EXPECT_EQ(screen().title().toStdString(), "Reclaim");
+    EXPECT_EQ(screen().subtitle().toStdString(), "Clear caches, logs, and developer junk — safely, to the Trash.");
+    EXPECT_EQ(screen().scanLabel().toStdString(), "Scan for junk");
+    EXPECT_EQ(screen().scanningLabel().toStdString(), "Looking for reclaimable junk…");
+    EXPECT_EQ(screen().symbol().toStdString(), "sparkles");
+    EXPECT_EQ(screen().tint(), QColor(50, 199, 123));
+    EXPECT_EQ(screen().nothingTitle().toStdString(), "Clean drive");
+    EXPECT_EQ(screen().nothingSymbol().toStdString(), "checkmark.seal");
+    EXPECT_EQ(screen().nothingNote().toStdString(), "Nothing to reclaim right now.");
+}
+
+TEST_F(ReclaimScreen, theGuideTellsTheThreeGrades) {
+    SafetyGuide& guide = *screen().guide();
+    struct Row {
+        std::string grade;
+        QColor tint;
+        std::string meaning;
+    };
+    const std::vector<Row> rows{
+        {"safe", {50, 199, 123}, "Pure caches and logs. Zero risk — the app simply rebuilds them as needed."},
+        {"regenerates",
+         {245, 166, 35},
+         "Build output like node_modules and build caches. Safe to delete; recreated automatically on your next build "
+         "or install (the first one is slower)."},
+        {"review",
+         {255, 107, 94},
+         "May include things you chose to keep — device backups, virtual environments, saved state. Review before "
+         "removing; left unchecked by default."},
+    };
+    EXPECT_EQ(guide.title().toStdString(), "What's safe to remove?");
+    EXPECT_EQ(guide.closing().toStdString(),
+              "Everything moves to the Trash, so any removal is reversible until you empty it.");
+    ASSERT_EQ(guide.rowCount(), 3);
+    for (int row = 0; row < 3; ++row) {
+        const Row& expected = rows[static_cast<std::size_t>(row)];
+        EXPECT_EQ(text(guide, row, SafetyGuide::gradeRole), expected.grade);
+        EXPECT_EQ(guide.data(guide.index(row), SafetyGuide::tintRole).value<QColor>(), expected.tint);
+        EXPECT_EQ(text(guide, row, SafetyGuide::meaningRole), expected.meaning);
+        EXPECT_TRUE(guide.spoken().contains(QString::fromStdString(expected.meaning)));
+    }
+}
+
+TEST_F(ReclaimScreen, hasOneFaceAtATime) {
+    fillJunk();
+    std::vector<std::string> faces;
+    QObject::connect(&screen(), &ReclaimScreenModel::faceChanged, &screen(), [&] {
+        if (faces.empty() || faces.back() != face()) faces.push_back(face());
+    });
+    EXPECT_EQ(face(), "idle ");
+    surveyFor(Audience::normal);
+    model().setAudience(Audience::developer);
+    survey();
+    // Never the empty one between two that are not.
+    EXPECT_THAT(faces, ElementsAre("scanning ", "byCategory ", "byItem ", "scanning ", "byItem "));
+}
+
+TEST_F(ReclaimScreen, aCleanDriveSaysSoToBothAudiences) {
+    machine.directories.file(home + "/letter.txt", 10);
+    surveyFor(Audience::normal);
+    EXPECT_EQ(face(), "nothing ");
+    model().setAudience(Audience::developer);
+    EXPECT_EQ(face(), "nothing ");
+}
+
+TEST_F(ReclaimScreen, theButtonBeginsASurvey) {
+    fillJunk();
+    screen().scan();
+    EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    EXPECT_EQ(face(), "scanning ");
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(face(), "byCategory ");
+}
+
+TEST_F(ReclaimScreen, aCancelledSurveyLeadsBackToTheBeginning) {
+    fillJunk();
+    surveyFor(Audience::developer);
+    EXPECT_EQ(selection().selected().size(), 6U);
+    machine.directories.hold(home + "/projects");
+    model().startScan();
+    model().cancelScan();
+    letScansDrain();
+    EXPECT_EQ(face(), "idle ");
+    EXPECT_THAT(selection().selected(), IsEmpty());
+}
+
+// Which ticks are set, and when.
+
+TEST_F(ReclaimScreen, theItemViewSeedsWhenItComesOnScreen) {
+    fillJunk();
+    model().setAudience(Audience::developer);
+    screen();
+    survey();
+    EXPECT_THAT(selection().selected(), IsEmpty());
+    EXPECT_EQ(machine.workspace.runningReads, 0);
+    screen().setOnScreen(true);
+    EXPECT_THAT(selection().selected(), ElementsAre(npm, cursorCache, slackCache, yarn, appModules, webModules));
+    EXPECT_EQ(selection().seededFor(), 7U);
+}
+
+TEST_F(ReclaimScreen, aChangeToDevelopersSeedsTooWhileItIsShown) {
+    fillJunk();
+    screen();
+    survey();
+    screen().setOnScreen(true);
+    EXPECT_EQ(selection().seededFor(), 0U);  // the category view has not asked for it
+    model().setAudience(Audience::developer);
+    EXPECT_EQ(selection().seededFor(), 7U);
+}
+
+TEST_F(ReclaimScreen, aChangeOfAudienceElsewhereSeedsNothing) {
+    fillJunk();
+    screen();
+    survey();
+    model().setAudience(Audience::developer);
+    EXPECT_EQ(selection().seededFor(), 0U);
+}
+
+TEST_F(ReclaimScreen, aSurveyThatIsWatchedSeedsForBothAudiences) {
+    fillJunk();
+    for (const Audience audience : {Audience::normal, Audience::developer}) {
+        ReclaimScreenModel watched(model());
+        model().setAudience(audience);
+        watched.setOnScreen(true);
+        survey();
+        EXPECT_EQ(watched.cleanup().selection().selected().size(), 6U);
+    }
+}
+
+TEST_F(ReclaimScreen, aSurveyThatNobodyWatchesSeedsForNeither) {
+    fillJunk();
+    for (const Audience audience : {Audience::normal, Audience::developer}) {
+        model().setAudience(audience);
+        screen();
+        survey();
+        EXPECT_EQ(selection().seededFor(), 0U);
+    }
+}
+
+TEST_F(ReclaimScreen, aSurveyElsewhereWithAsManyItemsKeepsTheChoiceAndTheConflicts) {
+    fillJunk();
+    machine.workspace.running = {"Cursor"};
+    surveyFor(Audience::developer);
+    screen().items()->setAgeDays(0);
+    screen().items()->toggle(0);  // not Yarn
+    screen().setOnScreen(false);
+    machine.workspace.running = {"Slack"};
+    survey();
+    screen().setOnScreen(true);
+    EXPECT_FALSE(selection().selected().contains(yarn));
+    EXPECT_EQ(selection().runningConflicts(), (std::map<std::string, std::string>{{cursorCache, "Cursor"}}));
+    EXPECT_EQ(machine.workspace.runningReads, 1);
+}
+
+TEST_F(ReclaimScreen, aSurveyElsewhereWithOtherItemsIsSeededOnComingBack) {
+    fillJunk();
+    surveyFor(Audience::developer);
+    screen().items()->toggle(0);
+    screen().setOnScreen(false);
+    put(home + "/Library/Caches/CocoaPods", megabyte);
+    survey();
+    EXPECT_EQ(selection().seededFor(), 7U);
+    screen().setOnScreen(true);
+    EXPECT_EQ(selection().seededFor(), 8U);
+    EXPECT_TRUE(selection().selected().contains(yarn));
+}
+
+TEST_F(ReclaimScreen, aWatchedListThatShrinksToNothingEmptiesTheSelection) {
+    fillJunk();
+    surveyFor(Audience::developer);
+    machine.tasks.hold();
+    model().startScan();
+    EXPECT_EQ(selection().seededFor(), 0U);
+    EXPECT_THAT(selection().selected(), IsEmpty());
+    machine.tasks.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(selection().selected().size(), 6U);
+}
+
+TEST_F(ReclaimScreen, anItemThatGoesWhileItIsWatchedSeedsAnewForBothAudiences) {
+    fillJunk();
+    surveyFor(Audience::normal);
+    EXPECT_EQ(selection().seededFor(), 0U);
+    loseItem(yarn);
+    EXPECT_EQ(selection().seededFor(), 6U);
+    model().setAudience(Audience::developer);
+    loseItem(npm);
+    EXPECT_EQ(selection().seededFor(), 5U);
+    screen().setOnScreen(false);
+    loseItem(webModules);
+    EXPECT_EQ(selection().seededFor(), 5U);
+}
+
+// The review.
+
+TEST_F(ReclaimScreen, reviewAndCleanTakesExactlyTheChosenCategories) {
+    fillJunk();
+    surveyFor(Audience::normal);
+    screen().categories()->review();
+    EXPECT_TRUE(screen().reviewing());
+    EXPECT_THAT(inSheet(), ElementsAre(npm, cursorCache, slackCache, yarn));
+    EXPECT_EQ(selection().selected(), inSheet());
+    EXPECT_EQ(sheet().line().toStdString(), "3 to Trash · 1 via command · 87 MB to recover");
+}
+
+TEST_F(ReclaimScreen, reviewAndCleanLeavesNoAgeFilterBehind) {
+    fillJunk();
+    surveyFor(Audience::normal);
+    screen().categories()->review();
+    sheet().cancel();
+    EXPECT_FALSE(screen().reviewing());
+    EXPECT_EQ(screen().cleanup().ageDays(), 0);
+    model().setAudience(Audience::developer);
+    EXPECT_EQ(screen().items()->ageText().toStdString(), "all");
+    EXPECT_EQ(screen().items()->shownText().toStdString(), "7 of 7 shown");
+}
+
+TEST_F(ReclaimScreen, reviewAndCleanWithoutACategoryDoesNothing) {
+    fillJunk();
+    surveyFor(Audience::normal);
+    screen().categories()->chooseNone();
+    screen().categories()->review();
+    EXPECT_FALSE(screen().reviewing());
+    EXPECT_EQ(screen().dryRun(), nullptr);
+    EXPECT_EQ(screen().cleanup().ageDays(), 14);
+}
+
+TEST_F(ReclaimScreen, theReviewOfCategoriesReadsNoConflictsOfItsOwn) {
+    fillJunk();
+    screen();
+    survey();
+    machine.workspace.running = {"Cursor"};
+    screen().setOnScreen(true);
+    screen().categories()->review();
+    EXPECT_TRUE(inSheet().contains(cursorCache));  // nothing has looked who is running
+    EXPECT_EQ(machine.workspace.runningReads, 0);
+}
+
+TEST_F(ReclaimScreen, theReviewOfCategoriesLeavesOutWhatASeedFoundInUse) {
+    fillJunk();
+    machine.workspace.running = {"Cursor"};
+    screen().setOnScreen(true);
+    survey();  // is watched
+    machine.workspace.running = {};
+    screen().categories()->review();
+    EXPECT_THAT(inSheet(), ElementsAre(npm, slackCache, yarn));
+    EXPECT_TRUE(selection().selected().contains(cursorCache));
+}
+
+TEST_F(ReclaimScreen, aReviewOfNothingButWhatIsInUseOpensEmpty) {
+    fillJunk();
+    machine.workspace.running = {"Cursor", "Slack"};
+    screen().setOnScreen(true);
+    survey();
+    screen().categories()->chooseNone();
+    screen().categories()->toggle(4);
+    EXPECT_TRUE(screen().categories()->reviewable());
+    screen().categories()->review();
+    EXPECT_TRUE(screen().reviewing());
+    EXPECT_THAT(inSheet(), IsEmpty());
+    EXPECT_EQ(sheet().line().toStdString(), "0 to Trash · 0 via command · 0 bytes to recover");
+    EXPECT_FALSE(sheet().confirmable());
+}
+
+TEST_F(ReclaimScreen, theReviewKeepsItsItemsWhateverASurveyFindsMeanwhile) {
+    fillJunk();
+    surveyFor(Audience::normal);
+    screen().categories()->review();
+    const std::set<std::string> before = inSheet();
+    survey();
+    loseItem(yarn);
+    EXPECT_TRUE(screen().reviewing());
+    EXPECT_EQ(inSheet(), before);
+}
+
+TEST_F(ReclaimScreen, aSecondReviewBeginsAnew) {
+    fillJunk();
+    surveyFor(Audience::developer);
+    screen().items()->clean();
+    sheet().setHardDelete(true);
+    sheet().cancel();
+    screen().items()->toggle(0);
+    screen().items()->clean();
+    EXPECT_FALSE(sheet().hardDelete());
+    EXPECT_EQ(inSheet().size(), 3U);
+}
+
+TEST_F(ReclaimScreen, aCleaningEndsInOneNewSurvey) {
+    fillJunk();
+    surveyFor(Audience::normal);
+    screen().categories()->review();
+    takeSignals();
+    cleanNow();
+    EXPECT_EQ(timesSignalled("scanPhase"), 0);
+    sheet().finish();
+    EXPECT_FALSE(screen().reviewing());
+    EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_EQ(timesSignalled("scanPhase"), 2);
+    EXPECT_EQ(machine.trash.trashed().size(), 3U);
+}
+
+TEST_F(ReclaimScreen, aCancelledReviewEndsInNoSurvey) {
+    fillJunk();
+    surveyFor(Audience::normal);
+    screen().categories()->review();
+    takeSignals();
+    sheet().close();
+    EXPECT_FALSE(screen().reviewing());
+    EXPECT_EQ(timesSignalled("scanPhase"), 0);
+}
+
+TEST_F(ReclaimScreen, emptyingFromTheReviewLeavesTheTrashFieldsAlone) {
+    fillJunk();
+    machine.trash.put("old.zip", 7'000'000);
+    surveyFor(Audience::normal);
+    const std::int64_t before = model().trashBytes();
+    screen().categories()->review();
+    cleanNow();
+    takeSignals();
+    sheet().emptyTrash();
+    runUntil([&] { return sheet().trashEmptied(); });
+    EXPECT_EQ(model().trashBytes(), before);
+    EXPECT_FALSE(model().emptyingTrash());
+    EXPECT_THAT(takeSignals(), IsEmpty());
+}
+
+TEST_F(ReclaimScreen, theOneClickPathTakesWhatTheReviewWouldNot) {
+    put(cursorCache, 5 * megabyte, 1);
+    machine.workspace.running = {"Cursor"};
+    surveyFor(Audience::developer);
+    screen().items()->setAgeDays(0);
+    EXPECT_FALSE(screen().items()->cleanable());
+    const int reads = machine.workspace.runningReads;
+    model().cleanSafeCaches();
+    runUntil([&] { return model().scanPhase() == Phase::scanning; });
+    EXPECT_THAT(machine.trash.trashed(), ElementsAre(cursorCache));
+    EXPECT_FALSE(screen().reviewing());
+    EXPECT_EQ(machine.workspace.runningReads, reads);
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(ReclaimScreen, itMayGoWhileItCleans) {
+    fillJunk();
+    surveyFor(Audience::normal);
+    screen().categories()->review();
+    machine.tasks.hold();
+    sheet().confirm();
+    destroyScreen();
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed().size(), 3U);
+    EXPECT_EQ(model().scanPhase(), Phase::finished);
+}
+
+}  // namespace zelk
