@@ -54,7 +54,7 @@ TEST_F(LensScreen, withoutATreeThereIsNothingToMap) {
     EXPECT_FALSE(lens().mapped());
     EXPECT_EQ(place(), "—");
     EXPECT_EQ(lens().placeLine(), QString());
-    EXPECT_TRUE(lens().placeIcon().isNull());
+    EXPECT_TRUE(lens().placeIcon().value<QImage>().isNull());
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_THAT(slices(), IsEmpty());
 }

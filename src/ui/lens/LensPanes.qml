@@ -8,15 +8,12 @@ import Zelk.Bubbles
 import Zelk.Components
 import Zelk.Explanation
 import Zelk.Lens
-import Zelk.Navigation
 import Zelk.Theme
 
 FocusScope {
     id: panes
 
     required property LensScreenModel lens
-    // Given by the scaffold; the same.
-    property ModuleScreenModel module: null
 
     readonly property real listWidth: Math.max(340, Math.min(Math.round(340 * TextScale.factor), Math.round(0.56 * width)))
 

@@ -36,7 +36,7 @@ class LensScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString place READ place NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString placeLine READ placeLine NOTIFY placeChanged FINAL)
-    Q_PROPERTY(QImage placeIcon READ placeIcon NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QVariant placeIcon READ placeIcon NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString selectLabel READ selectLabel CONSTANT FINAL)
     Q_PROPERTY(QString selectTitle READ selectTitle NOTIFY selectionChanged FINAL)
     Q_PROPERTY(QString allLabel READ allLabel CONSTANT FINAL)
@@ -71,7 +71,8 @@ public:
     /// The name of the folder at hand, or a dash.
     QString place() const;
     QString placeLine() const;
-    QImage placeIcon() const;
+    /// A QImage; an empty one where there is no folder.
+    QVariant placeIcon() const;
     QString selectLabel() const;
     QString selectTitle() const;
     QString allLabel() const;

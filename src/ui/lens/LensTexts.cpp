@@ -43,7 +43,7 @@ QString LensScreenModel::placeLine() const {
     return QStringLiteral("%1 · %2 folders").arg(byteFigure(node->size)).arg(node->children.size());
 }
 
-QImage LensScreenModel::placeIcon() const {
+QVariant LensScreenModel::placeIcon() const {
     const NodeRef node = walk_.currentNode();
     return node ? icon(node->fullPath(), placeIconSide) : QImage();
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The module that walks through what a survey found, folder by folder.
+// The module that walks through what a survey found, folder by folder. (A bound component could not be built in the
+// scaffold.)
 import QtQuick
 import Zelk.Lens
 import Zelk.Navigation
@@ -11,9 +12,6 @@ ModuleScaffold {
 
     module: view.lens
     content: Component {
-        LensPanes {
-            lens: view.lens
-            focus: true
-        }
+        LensResults {}
     }
 }

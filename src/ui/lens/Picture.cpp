@@ -2,14 +2,16 @@
 #include "ui/lens/Picture.h"
 
 #include <QPainter>
+#include <utility>
 
 namespace zelk {
 
 Picture::Picture(QQuickItem* parent) : QQuickPaintedItem(parent) {}
 
-void Picture::setImage(const QImage& image) {
-    if (image == image_) return;
-    image_ = image;
+void Picture::setImage(const QVariant& image) {
+    QImage picture = image.value<QImage>();
+    if (picture == image_) return;
+    image_ = std::move(picture);
     update();
     emit imageChanged();
 }

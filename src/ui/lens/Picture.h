@@ -4,6 +4,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QImage>
 #include <QQuickPaintedItem>
+#include <QVariant>
 
 namespace zelk {
 
@@ -12,13 +13,14 @@ namespace zelk {
 class Picture : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged FINAL REQUIRED)
+    Q_PROPERTY(QVariant image READ image WRITE setImage NOTIFY imageChanged FINAL REQUIRED)
 
 public:
     explicit Picture(QQuickItem* parent = nullptr);
 
-    QImage image() const { return image_; }
-    void setImage(const QImage& image);
+    /// A QImage, for which QML has no name; anything else is an empty one.
+    QVariant image() const { return image_; }
+    void setImage(const QVariant& image);
 
     void paint(QPainter* painter) override;
 
