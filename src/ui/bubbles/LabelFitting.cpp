@@ -21,7 +21,10 @@ std::vector<qsizetype> characterEnds(const QString& text) {
 
 QString fittedLabel(const QString& label, double room, double slack,
                     const std::function<double(const QString&)>& widthOf) {
-    if (label.isEmpty() || widthOf(label) <= room) return label;
+    // Measuring hundreds of characters takes long, and most that many are wider already where they begin.
+    constexpr qsizetype aLot = 48;
+    const bool tooLong = label.size() > aLot && widthOf(label.left(aLot)) > room + slack;
+    if (label.isEmpty() || (!tooLong && widthOf(label) <= room)) return label;
 
     const std::vector<qsizetype> ends = characterEnds(label);
     const auto beginning = [&](std::size_t count) { return label.left(ends[count - 1]) + QStringLiteral("…"); };
