@@ -21,6 +21,17 @@ std::optional<ItemPath> ItemPath::from(std::string_view path) {
     return ItemPath(std::move(text));
 }
 
+std::optional<ItemPath> ItemPath::below(std::string_view root, std::string_view path) {
+    std::optional<ItemPath> item = from(path);
+    if (!item) return item;
+    const std::optional<ItemPath> start = from(root);
+    const bool isTop = !root.empty() && root.find_first_not_of('/') == std::string_view::npos;
+    if (!start && !isTop) return item;
+    const std::string above = start ? start->text_ : std::string();
+    if (item->text_.starts_with(above + "/")) item->rootLength_ = above.size();
+    return item;
+}
+
 std::string ItemPath::parent() const {
     const std::size_t slash = text_.rfind('/');
     return slash == 0 ? "/" : text_.substr(0, slash);
@@ -28,6 +39,16 @@ std::string ItemPath::parent() const {
 
 std::string_view ItemPath::name() const {
     return std::string_view(text_).substr(text_.rfind('/') + 1);
+}
+
+std::string ItemPath::root() const {
+    return rootLength_ == 0 ? "/" : text_.substr(0, rootLength_);
+}
+
+std::string_view ItemPath::way() const {
+    const std::size_t slash = text_.rfind('/');
+    if (slash == rootLength_) return {};
+    return std::string_view(text_).substr(rootLength_ + 1, slash - rootLength_ - 1);
 }
 
 }  // namespace zelk

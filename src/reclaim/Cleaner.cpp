@@ -36,8 +36,9 @@ private:
     std::vector<Cleaner::Result> results_;
 };
 
-Cleaner::Status remove(const std::string& path, bool hardDelete, const Platform& platform) {
-    const std::optional<ItemPath> item = ItemPath::from(path);
+Cleaner::Status remove(const Reclaimable& reclaimable, bool hardDelete, const Platform& platform) {
+    const std::string& path = reclaimable.path;
+    const std::optional<ItemPath> item = ItemPath::below(path.substr(0, reclaimable.rootLength), path);
     if (!item) return Cleaner::Failed{"“" + path + "” is not the path of anything that can be removed."};
     Failure failure = hardDelete ? platform.files.remove(*item) : platform.trash.trash(*item);
     if (failure) return Cleaner::Failed{std::move(*failure)};
@@ -73,7 +74,7 @@ void Cleaner::cleanAll(std::vector<Reclaimable> items, bool hardDelete, const Pl
 Cleaner::Result Cleaner::cleanOne(const Reclaimable& item, bool hardDelete, const Platform& platform) {
     if (item.method.kind == ReclaimMethod::Kind::command)
         return runTool(item.method.tool, item.method.args, item, platform.processes);
-    return {item.id, item, remove(item.path, hardDelete, platform)};
+    return {item.id, item, remove(item, hardDelete, platform)};
 }
 
 Cleaner::Result Cleaner::runTool(const std::string& tool, const std::vector<std::string>& args, const Reclaimable& item,

@@ -65,6 +65,7 @@ struct Reclaimable {
     ReclaimSafety safety = ReclaimSafety::review;
     ReclaimMethod method;
     TimePoint lastModified = 0;  ///< the date its age counts from, not always its own
+    std::size_t rootLength = 0;  ///< of the scan root at the front of `path`; 0 if it is not known
 
     bool operator==(const Reclaimable& other) const { return id == other.id; }
 };

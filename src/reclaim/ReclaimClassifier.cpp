@@ -154,14 +154,16 @@ void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vecto
     };
     const std::string_view homePath = trimmed(home);
     WalkedPath path(top);
+    std::size_t rootLength = 0;
     // True if the walk is to go on into the node.
     const auto visit = [&](FSNode& node) {
+        if (!node.parent() || node.parent()->name().empty()) rootLength = path.text().size();
         std::optional<Match> found = classifyAt(node, path, homePath, files_);
         if (!found) return true;
         node.reclaimCategory = found->category;
         items.push_back({path.text(), path.text(), static_cast<std::uint64_t>(std::max<std::int64_t>(node.size, 0)),
                          std::string(found->category->id), found->category->safety, std::move(found->method),
-                         found->ageDate});
+                         found->ageDate, rootLength});
         return !found->category->stopRecursion;
     };
 

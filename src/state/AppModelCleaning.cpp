@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the model itself takes away, without the review that every other cleaning passes.
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "reclaim/Cleaner.h"
@@ -25,10 +26,14 @@ struct Leaving {
     std::vector<NodeRef> gone;  // main thread
 
     void add(const NodeRef& node) {
-        const std::optional<ItemPath> item = ItemPath::from(node->fullPath());
-        if (!item) return;
         FSNode* top = node.get();
-        while (FSNode* parent = top->parent()) top = parent;
+        std::string root(top->name());
+        while (FSNode* parent = top->parent()) {
+            if (!parent->name().empty()) root = parent->name();
+            top = parent;
+        }
+        const std::optional<ItemPath> item = ItemPath::below(root, node->fullPath());
+        if (!item) return;
         if (tops.empty() || !(tops.back() == top)) tops.emplace_back(top);
         items.emplace_back(node, *item);
     }

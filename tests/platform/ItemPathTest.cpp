@@ -75,5 +75,29 @@ TEST(ItemPath, isTheSameHoweverItWasWritten) {
     EXPECT_NE(ItemPath::from("/a/b"), ItemPath::from("/a/B"));
 }
 
+TEST(ItemPath, belowARootKnowsTheWayThatWasWalked) {
+    const auto parts = [](std::string_view root, std::string_view path) {
+        const std::optional<ItemPath> item = ItemPath::below(root, path);
+        return item ? item->root() + "|" + std::string(item->way()) + "|" + std::string(item->name()) : "<none>";
+    };
+    EXPECT_EQ(parts("/home/me", "/home/me/a/b/c"), "/home/me|a/b|c");
+    EXPECT_EQ(parts("/home/me//", "/home/me/a/b"), "/home/me|a|b");
+    EXPECT_EQ(parts("/home/me", "/home/me/a"), "/home/me||a");
+    EXPECT_EQ(parts("/", "/a/b/c"), "/|a/b|c");
+    EXPECT_EQ(parts("/", "/a"), "/||a");
+}
+
+TEST(ItemPath, thatIsNotBelowItsRootIsAsIfNoneWereKnown) {
+    for (const std::string_view root : {"/home/me/a/b", "/home/you", "/home/m", "home/me", "", "/home/../home/me"}) {
+        const std::optional<ItemPath> item = ItemPath::below(root, "/home/me/a/b");
+        ASSERT_TRUE(item);
+        EXPECT_EQ(item->root(), "/home/me/a") << root;
+        EXPECT_EQ(item->way(), "") << root;
+        EXPECT_EQ(*item, *ItemPath::from("/home/me/a/b"));
+    }
+    EXPECT_FALSE(ItemPath::below("/home/me", "/home/me/../you"));
+    EXPECT_FALSE(ItemPath::below("/home/me", ""));
+}
+
 }  // namespace
 }  // namespace zelk

@@ -143,6 +143,17 @@ TEST_F(Remover, takesNamesThatAreNoText) {
     EXPECT_FALSE(fs::exists(victim));
 }
 
+TEST_F(Remover, takesNothingThroughALinkThatWasPutInTheWaySinceTheItemWasFound) {
+    fs::create_directory_symlink(outside, victim);
+    const auto refuses = [&] {
+        return LinuxFileManager().remove(ItemPath::below(temp.path(), victim + "/folder/below").value()) &&
+               LinuxFileManager().remove(ItemPath::below(temp.path(), victim + "/file").value());
+    };
+    EXPECT_TRUE(refuses());
+    EXPECT_TRUE(withoutTheNewestCall(refuses));
+    expectOutsideUntouched();
+}
+
 TEST_F(Remover, saysThatAnItemIsMissing) {
     EXPECT_THAT(removed(victim), Optional(std::string("“victim” couldn’t be removed: No such file or directory")));
     EXPECT_THAT(removed(victim + "/below"),

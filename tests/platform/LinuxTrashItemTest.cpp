@@ -170,6 +170,30 @@ TEST_F(TrashItem, reachedThroughALinkIsNamedAsItWasReached) {
     expectOnlyItem(temp / "link/item.txt", "content");
 }
 
+TEST_F(TrashItem, whoseFolderWasSwappedForALinkSinceItWasFoundIsNotTakenFromElsewhere) {
+    fs::create_directories(temp / "other/deep");
+    writeFile(temp / "other/item.txt", "another");
+    writeFile(temp / "other/deep/item.txt", "another");
+    fs::remove_all(items);
+    fs::create_directory_symlink(temp / "other", items);
+    for (const char* path : {"/item.txt", "/deep/item.txt"}) {
+        EXPECT_THAT(itsTrash.trash(ItemPath::below(temp.path(), items + path).value()),
+                    Optional(std::string("“item.txt” couldn’t be moved to the Trash: "
+                                         "the folder that it was found in is no longer there")));
+    }
+    EXPECT_EQ(fileContent(temp / "other/item.txt"), "another");
+    EXPECT_EQ(fileContent(temp / "other/deep/item.txt"), "another");
+    expectTrashUntouched();
+}
+
+TEST_F(TrashItem, belowARootThatIsALinkIsThatOfTheFolderBehindIt) {
+    fs::create_directory(items + "/folder");
+    writeFile(items + "/folder/item.txt", "content");
+    fs::create_directory_symlink(items, temp / "link");
+    EXPECT_EQ(itsTrash.trash(ItemPath::below(temp / "link", temp / "link/folder/item.txt").value()), std::nullopt);
+    expectOnlyItem(temp / "link/folder/item.txt", "content");
+}
+
 TEST_F(TrashItem, isMissing) {
     EXPECT_THAT(trashed(item),
                 Optional(std::string("“item.txt” couldn’t be moved to the Trash: No such file or directory")));

@@ -15,6 +15,7 @@
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/OpenParent.h"
 #include "platform/posix/TryOpenFile.h"
 
 namespace zelk {
@@ -130,8 +131,8 @@ int LinuxFileManager::tryOpen(const std::string& path) {
 }
 
 Failure LinuxFileManager::remove(const ItemPath& item) {
-    const Descriptor parent(openForLookups(item.parent()));
-    if (!parent) return failureText(item.name(), "couldn’t be removed", systemText(errno));
+    const Descriptor parent = openParent(item);
+    if (!parent) return failureText(item.name(), "couldn’t be removed", reasonOfParent(item, errno));
     return removeEntry(parent.get(), std::string(item.name()));
 }
 

@@ -14,6 +14,7 @@
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/OpenParent.h"
 
 namespace zelk {
 namespace {
@@ -64,9 +65,10 @@ Failure LinuxTrash::trash(const ItemPath& item) {
 }
 
 Failure LinuxTrash::move(const ItemPath& item) {
-    const Descriptor parent(openForLookups(item.parent()));
+    const Descriptor parent = openParent(item);
+    if (!parent) return reasonOfParent(item, errno);
     const Place from{parent.get(), std::string(item.name())};
-    const std::optional<FileStatus> above = parent ? fileStatus(parent.get()) : std::nullopt;
+    const std::optional<FileStatus> above = fileStatus(parent.get());
     const std::optional<FileStatus> status = above ? fileStatus(parent.get(), from.name) : std::nullopt;
     if (!status) return systemText(errno);
     if (status->mount != above->mount) return "another volume is mounted there";

@@ -9,7 +9,9 @@
 #include "platform/macos/FoundationPaths.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
+#include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/OpenParent.h"
 #include "platform/posix/TryOpenFile.h"
 
 namespace zelk {
@@ -80,6 +82,7 @@ int MacFileManager::tryOpen(const std::string& path) {
 }
 
 Failure MacFileManager::remove(const ItemPath& item) {
+    if (const int error = errorOnWay(item)) return failureText(item.name(), "couldn’t be removed", reasonOfParent(item, error));
     @autoreleasepool {
         NSError* error = nil;
         if ([[NSFileManager defaultManager] removeItemAtURL:fileURL(item.text(), false) error:&error])

@@ -6,7 +6,9 @@
 #include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
 #include "platform/posix/DirectoryNames.h"
+#include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/OpenParent.h"
 
 namespace zelk {
 
@@ -19,6 +21,7 @@ std::optional<std::vector<std::string>> MacTrash::list() {
 }
 
 Failure MacTrash::trash(const ItemPath& item) {
+    if (const int error = errorOnWay(item)) return failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error));
     @autoreleasepool {
         NSError* error = nil;
         // No slash at the end of the URL whatever the item is: of a link the link itself is meant.

@@ -20,6 +20,9 @@ namespace {
 
 // O_DIRECTORY also keeps the open of a pipe, which would wait for a writer, from ever starting.
 constexpr int directoryFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+#ifdef __linux__
+constexpr int lookupFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
+#endif
 
 int openAt(int parent, const char* path, int flags) {
     int fd;
@@ -30,14 +33,14 @@ int openAt(int parent, const char* path, int flags) {
 }
 
 /// One component after the other, each relative to the last and none a link.
-int openByComponents(int rootFd, std::string_view below) {
-    int at = openAt(rootFd, ".", directoryFlags);
+int openByComponents(int rootFd, std::string_view below, int flags) {
+    int at = openAt(rootFd, ".", flags);
     while (at >= 0 && !below.empty()) {
         const std::size_t slash = below.find('/');
         const std::string component(below.substr(0, slash));
         below = slash == std::string_view::npos ? std::string_view() : below.substr(slash + 1);
         const bool upwards = component == "..";
-        const int next = upwards ? -1 : openAt(at, component.c_str(), directoryFlags | O_NOFOLLOW);
+        const int next = upwards ? -1 : openAt(at, component.c_str(), flags | O_NOFOLLOW);
         const int error = upwards ? EXDEV : errno;
         close(at);
         errno = error;
@@ -81,9 +84,9 @@ int openFollowing(const std::string& path, int flags) {
 #ifdef __linux__
 
 // One call for the whole path where the kernel has it (5.6) and no filter forbids it.
-int openWithoutLinks(int parent, const char* path) {
+int openWithoutLinks(int parent, const char* path, int flags) {
     open_how how{};
-    how.flags = directoryFlags | O_NOFOLLOW;
+    how.flags = static_cast<unsigned>(flags | O_NOFOLLOW);
     how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
     long fd;
     do {
@@ -96,6 +99,21 @@ std::atomic<bool> openat2Missing{false};
 
 #endif
 
+int openBeneath(int rootFd, std::string_view below, int flags) {
+    if (below.empty()) return openAt(rootFd, ".", flags);
+#ifdef __linux__
+    if (!openat2Missing.load(std::memory_order_relaxed)) {
+        const int fd = openInPieces(rootFd, below,
+                                    [flags](int at, const char* piece) { return openWithoutLinks(at, piece, flags); });
+        if (fd >= 0 || (errno != ENOSYS && errno != EPERM)) return fd;
+        // EPERM: some container filters refuse what they do not know. It is tried again the slow way; a directory that
+        // is itself forbidden fails there too.
+        if (errno == ENOSYS) openat2Missing.store(true, std::memory_order_relaxed);
+    }
+#endif
+    return openByComponents(rootFd, below, flags);
+}
+
 }  // namespace
 
 int openRootDirectory(const std::string& path) {
@@ -105,23 +123,17 @@ int openRootDirectory(const std::string& path) {
 #ifdef __linux__
 
 int openForLookups(const std::string& path) {
-    return openFollowing(path, O_PATH | O_DIRECTORY | O_CLOEXEC);
+    return openFollowing(path, lookupFlags);
+}
+
+int openForLookupsBeneath(int rootFd, std::string_view below) {
+    return openBeneath(rootFd, below, lookupFlags);
 }
 
 #endif
 
 int openDirectoryBeneath(int rootFd, std::string_view below) {
-    if (below.empty()) return openAt(rootFd, ".", directoryFlags);
-#ifdef __linux__
-    if (!openat2Missing.load(std::memory_order_relaxed)) {
-        const int fd = openInPieces(rootFd, below, openWithoutLinks);
-        if (fd >= 0 || (errno != ENOSYS && errno != EPERM)) return fd;
-        // EPERM: some container filters refuse what they do not know. It is tried again the slow way; a directory that
-        // is itself forbidden fails there too.
-        if (errno == ENOSYS) openat2Missing.store(true, std::memory_order_relaxed);
-    }
-#endif
-    return openByComponents(rootFd, below);
+    return openBeneath(rootFd, below, directoryFlags);
 }
 
 int openSubdirectory(int parentFd, std::string_view name) {

@@ -20,6 +20,11 @@ int openForLookups(const std::string& path);
 /// outside.
 int openDirectoryBeneath(int rootFd, std::string_view below);
 
+#ifdef __linux__
+/// The same for a directory in which only names are to be looked up.
+int openForLookupsBeneath(int rootFd, std::string_view below);
+#endif
+
 /// Opens the subdirectory `name` of `parentFd`, which must not be a link.
 int openSubdirectory(int parentFd, std::string_view name);
 

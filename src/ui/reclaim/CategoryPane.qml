@@ -78,6 +78,7 @@ FocusScope {
     }
 
     BubbleChart {
+        objectName: "categoryMap"
         anchors.left: edge.right
         anchors.right: parent.right
         anchors.top: parent.top

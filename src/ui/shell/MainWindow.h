@@ -69,6 +69,7 @@ public:
 
     QQuickWindow& window() { return *window_; }
     SurveyScreenModel& survey() { return *survey_; }
+    ReclaimScreenModel& reclaim() { return *reclaim_; }
     SidebarModel& sidebar() { return *sidebar_; }
     AppCommands& commands() { return *commands_; }
     Motion& motion() { return *motion_; }

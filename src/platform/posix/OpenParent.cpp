@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/OpenParent.h"
+
+#include <cerrno>
+
+#include "platform/posix/FailureText.h"
+#include "platform/posix/OpenDirectory.h"
+
+namespace zelk {
+
+Descriptor openParent(const ItemPath& item) {
+#ifdef __linux__
+    Descriptor root(openForLookups(item.root()));
+    if (!root || item.way().empty()) return root;
+    return Descriptor(openForLookupsBeneath(root.get(), item.way()));
+#else
+    Descriptor root(openRootDirectory(item.root()));
+    if (!root || item.way().empty()) return root;
+    return Descriptor(openDirectoryBeneath(root.get(), item.way()));
+#endif
+}
+
+int errorOnWay(const ItemPath& item) {
+    return item.way().empty() || openParent(item) ? 0 : errno;
+}
+
+std::string reasonOfParent(const ItemPath& item, int error) {
+    const bool swapped = !item.way().empty() && (error == ELOOP || error == ENOTDIR);
+    return swapped ? "the folder that it was found in is no longer there" : systemText(error);
+}
+
+}  // namespace zelk

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+// Hands and eyes for the lists and the map of a real window.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModel>
+#include <QTest>
+#include <string>
+#include <vector>
+
+#include "Camera.h"
+#include "fakes/EventLoop.h"
+#include "ui/bubbles/BubblePicture.h"
+
+namespace zelk {
+
+/// The visible item that `wanted` says yes to; nullptr if there is none.
+template <class Wanted>
+QQuickItem* findVisible(QQuickWindow& window, Wanted wanted) {
+    window.grabWindow();  // lays out what is new
+    std::vector<QQuickItem*> pending{window.contentItem()};
+    while (!pending.empty()) {
+        QQuickItem* item = pending.back();
+        pending.pop_back();
+        if (!item->isVisible()) continue;
+        if (wanted(*item)) return item;
+        for (QQuickItem* child : item->childItems()) pending.push_back(child);
+    }
+    return nullptr;
+}
+
+inline void clickMiddle(QQuickWindow& window, const QQuickItem* item) {
+    ASSERT_NE(item, nullptr);
+    tour::clickAt(window, item->mapToScene(item->boundingRect().center()));
+}
+
+/// A press on a control, once the window has laid out what is new.
+inline void clickControl(QQuickWindow& window, const char* name) {
+    window.grabWindow();
+    EXPECT_TRUE(tour::clickOn(window, QString::fromLatin1(name))) << name;
+}
+
+inline QQuickItem* control(QQuickWindow& window, const char* name) {
+    window.grabWindow();
+    return tour::findControl(window, QString::fromLatin1(name));
+}
+
+inline std::string textOf(QQuickWindow& window, const char* name) {
+    const QQuickItem* item = control(window, name);
+    return item == nullptr ? "<none>" : item->property("text").toString().toStdString();
+}
+
+/// The entry of an open menu.
+inline QQuickItem* menuEntry(QQuickWindow& window, const char* text) {
+    return findVisible(window, [text](const QQuickItem& item) {
+        return item.inherits("QQuickMenuItem") && item.property("text").toString() == QString::fromUtf8(text);
+    });
+}
+
+/// What the rows of a list say of themselves under this role, those out of sight too.
+inline std::vector<QVariant> column(QQuickWindow& window, const char* list, const char* role) {
+    std::vector<QVariant> cells;
+    const QQuickItem* item = control(window, list);
+    const auto* rows =
+        item == nullptr ? nullptr : qobject_cast<QAbstractItemModel*>(item->property("model").value<QObject*>());
+    EXPECT_NE(rows, nullptr) << list;
+    if (rows == nullptr) return cells;
+    const int key = rows->roleNames().key(role, -1);
+    EXPECT_NE(key, -1) << role;
+    for (int row = 0; row < rows->rowCount(); ++row) cells.push_back(rows->index(row, 0).data(key));
+    return cells;
+}
+
+inline std::vector<std::string> texts(QQuickWindow& window, const char* list, const char* role) {
+    std::vector<std::string> texts;
+    for (const QVariant& cell : column(window, list, role)) texts.push_back(cell.toString().toStdString());
+    return texts;
+}
+
+/// The row that says `text` under `role`; -1 if none does.
+inline int rowOf(QQuickWindow& window, const char* list, const char* role, const std::string& text) {
+    const std::vector<std::string> all = texts(window, list, role);
+    const auto found = std::find(all.begin(), all.end(), text);
+    return found == all.end() ? -1 : static_cast<int>(found - all.begin());
+}
+
+/// A press on a bubble by the id of its slice.
+inline void clickBubble(QQuickWindow& window, const char* map, const std::string& id) {
+    const auto* chart = qobject_cast<BubblePicture*>(control(window, map));
+    ASSERT_NE(chart, nullptr);
+    for (const PackedCircle& circle : chart->packed())
+        if (circle.id == id) return tour::clickAt(window, chart->mapToScene({circle.center.x, circle.center.y}));
+    FAIL() << "no bubble " << id;
+}
+
+/// Goes there by the Tab key, as somebody without a mouse would.
+inline void tabTo(QQuickWindow& window, const char* name) {
+    window.grabWindow();
+    for (int stop = 0; stop < 100; ++stop) {
+        const QQuickItem* at = window.activeFocusItem();
+        if (at != nullptr && at->objectName() == QLatin1String(name)) return;
+        QTest::keyClick(&window, Qt::Key_Tab);
+    }
+    FAIL() << "the Tab key does not come to " << name;
+}
+
+/// In a list that has the keyboard: from its first row down to `row`.
+inline void arrowTo(QQuickWindow& window, int row) {
+    ASSERT_GE(row, 0);
+    QTest::keyClick(&window, Qt::Key_Home);
+    for (int at = 0; at < row; ++at) QTest::keyClick(&window, Qt::Key_Down);
+}
+
+}  // namespace zelk

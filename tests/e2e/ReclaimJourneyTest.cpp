@@ -1,0 +1,427 @@
+// SPDX-License-Identifier: MIT
+// A person who takes space back: with the mouse, and with the keyboard alone.
+#include <gmock/gmock.h>
+
+#include <QAction>
+
+#include "ReclaimHands.h"
+#include "ShellFixture.h"
+#include "ui/reclaim/ReclaimScreenModel.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+class Reclaiming : public ShellFixture {
+protected:
+    Reclaiming() {
+        // What the fixture's home holds, and more of it.
+        machine.files.addFile(yarn + "/v6");
+        machine.files.addFile(modules + "/a.js");
+        junk(backups + "/phone", 30'000'000);
+        junk(youngModules + "/a.js", 2'000'000);
+        machine.directories.directory(home + "/young", machine.clock.now() - 3 * secondsPerDay);
+        junk(npm + "/index", 5'000'000);
+        junk(cursor + "/data", 4'000'000);
+        machine.workspace.running = {"Cursor"};
+        machine.trash.put("old.zip", 7'000'000);
+    }
+
+    void junk(const std::string& path, std::uint64_t bytes) {
+        machine.directories.file(path, bytes, 1'000);
+        machine.files.addFile(path, {}, bytes);
+    }
+
+    void untilSurveyed(std::size_t surveys) {
+        runUntil([&] { return model().history().size() == surveys && model().scanPhase() == Phase::finished; });
+    }
+    void surveyByMouse() {
+        click("scanButton");
+        untilSurveyed(1);
+        click("sidebarReclaim");
+    }
+    void surveyByKeys() {
+        shell();
+        press(Qt::Key_Return);
+        untilSurveyed(1);
+        tabTo(window(), "sidebarReclaim");
+        press(Qt::Key_Return);
+    }
+
+    std::vector<std::string> cells(const char* list, const char* role) { return texts(window(), list, role); }
+    /// The ids of the categories that are ticked, or the names of the items.
+    std::vector<std::string> ticked(const char* list, const char* role) {
+        std::vector<std::string> chosen;
+        const std::vector<std::string> names = cells(list, role);
+        const std::vector<QVariant> ticks = column(window(), list, "chosen");
+        for (std::size_t row = 0; row < names.size(); ++row)
+            if (ticks[row].toBool()) chosen.push_back(names[row]);
+        return chosen;
+    }
+    std::vector<std::string> chosen() { return ticked("categoryList", "identity"); }
+    std::vector<std::string> reviewed() {
+        const std::vector<std::string> folders = cells("dryRunList", "folder");
+        std::vector<std::string> paths = cells("dryRunList", "name");
+        for (std::size_t row = 0; row < paths.size(); ++row) paths[row] = folders[row] + "/" + paths[row];
+        return paths;
+    }
+    void clickText(const char* text) { clickMiddle(window(), showing(QString::fromUtf8(text))); }
+    void chooseInMenu(const char* entry) {
+        click("selectMenu");
+        runUntil([&] { return menuEntry(window(), entry) != nullptr; });
+        clickMiddle(window(), menuEntry(window(), entry));
+        runUntil([&] { return menuEntry(window(), entry) == nullptr; });
+    }
+    void untilReviewed() {
+        runUntil([&] { return control(window(), "confirmCleanup") != nullptr; });
+    }
+    void untilDone() {
+        runUntil([&] { return control(window(), "cleanupResult") != nullptr; });
+    }
+    void untilClosed() {
+        runUntil([&] { return control(window(), "dryRunList") == nullptr; });
+        runUntil([&] { return control(window(), "cleanupResult") == nullptr; });
+    }
+    void expectNothingHappened() {
+        EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+        EXPECT_THAT(machine.files.pathsOf("remove"), IsEmpty());
+        EXPECT_THAT(machine.processes.calls(), IsEmpty());
+        EXPECT_EQ(model().history().size(), 1U) << "nothing was cleaned, so nothing is surveyed anew";
+    }
+    int itemRow(const char* name) { return rowOf(window(), "itemList", "name", name); }
+    std::string item(int row, const char* role) { return cells("itemList", role)[static_cast<std::size_t>(row)]; }
+
+    const std::string yarn = home + "/Library/Caches/Yarn";
+    const std::string modules = home + "/projects/app/node_modules";
+    const std::string youngModules = home + "/young/node_modules";
+    const std::string backups = home + "/Library/Application Support/MobileSync/Backup";
+    const std::string npm = home + "/.npm/_cacache";
+    const std::string cursor = home + "/Library/Application Support/Cursor/Cache";
+};
+
+const std::vector<std::string> safeOnes{"yarn_cache", "npm_cache", "electron_cache"};
+
+}  // namespace
+
+TEST_F(Reclaiming, byCategoryBeginsWithTheSafeOnesAndTicksByRowByBubbleAndByMenu) {
+    surveyByMouse();
+    EXPECT_THAT(cells("categoryList", "identity"),
+                ElementsAre("yarn_cache", "ios_backups", "node_modules", "npm_cache", "electron_cache"));
+    EXPECT_EQ(chosen(), safeOnes);
+    EXPECT_TRUE(shows(QStringLiteral("3 items · 59 MB")));
+
+    clickText("node_modules");
+    EXPECT_THAT(chosen(), ElementsAre("yarn_cache", "node_modules", "npm_cache", "electron_cache"));
+    EXPECT_TRUE(shows(QStringLiteral("5 items · 71 MB")));
+    clickBubble(window(), "categoryMap", "yarn_cache");
+    EXPECT_THAT(chosen(), ElementsAre("node_modules", "npm_cache", "electron_cache"));
+    clickBubble(window(), "categoryMap", "yarn_cache");
+    EXPECT_EQ(textOf(window(), "selectMenu"), "4");
+
+    chooseInMenu("All");
+    EXPECT_EQ(chosen().size(), 5U);
+    chooseInMenu("None");
+    EXPECT_THAT(chosen(), IsEmpty());
+    EXPECT_TRUE(shows(QStringLiteral("No categories selected")));
+    EXPECT_EQ(textOf(window(), "selectMenu"), "None");
+    click("reviewButton");
+    EXPECT_EQ(control(window(), "dryRunList"), nullptr) << "there is nothing to review";
+    chooseInMenu("Safe only");
+    EXPECT_EQ(chosen(), safeOnes);
+}
+
+TEST_F(Reclaiming, theReviewListsWhatWasChosenAndMovesItToTheTrash) {
+    surveyByMouse();
+    clickText("Yarn cache");
+    clickText("node_modules");
+    click("reviewButton");
+    untilReviewed();
+    EXPECT_THAT(reviewed(), UnorderedElementsAre(modules, youngModules, npm, cursor));
+    EXPECT_TRUE(shows(QStringLiteral("3 to Trash · 1 via command · 21 MB to recover")));
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move 21 MB to Trash");
+    click("permanentSwitch");
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Delete 21 MB permanently");
+    click("permanentSwitch");
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move 21 MB to Trash");
+    expectNothingHappened();
+
+    click("confirmCleanup");
+    untilDone();
+    EXPECT_TRUE(shows(QStringLiteral("Moved to the Trash")));
+    EXPECT_EQ(textOf(window(), "cleanupResult"), "21 MB · 4 items");
+    EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre(modules, youngModules, cursor));
+    EXPECT_THAT(machine.files.pathsOf("remove"), IsEmpty());
+    EXPECT_THAT(machine.processes.calls(),
+                ElementsAre(fakes::FakeProcesses::Call{"/usr/bin/env", {"npm", "cache", "clean", "--force"}}));
+    EXPECT_EQ(model().history().size(), 1U);
+
+    click("keepInTrash");
+    untilClosed();
+    untilSurveyed(2);
+    EXPECT_THAT(machine.trash.list()->size(), 4U) << "three of now, and what was there before";
+}
+
+TEST_F(Reclaiming, theTrashIsEmptiedFromTheResult) {
+    surveyByMouse();
+    click("reviewButton");
+    untilReviewed();
+    click("confirmCleanup");
+    untilDone();
+    click("emptyTrash");
+    runUntil([&] { return control(window(), "cleanupDone") != nullptr; });
+    EXPECT_TRUE(shows(QStringLiteral("Space reclaimed")));
+    EXPECT_TRUE(shows(QStringLiteral("The Trash was emptied. Your free space is now updated.")));
+    EXPECT_THAT(machine.trash.list(), testing::Optional(IsEmpty()));
+    EXPECT_EQ(control(window(), "keepInTrash"), nullptr);
+    EXPECT_EQ(model().history().size(), 1U);
+    click("cleanupDone");
+    untilClosed();
+    untilSurveyed(2);
+}
+
+TEST_F(Reclaiming, permanentlyLeavesTheTrashAsItIs) {
+    surveyByMouse();
+    click("reviewButton");
+    untilReviewed();
+    click("permanentSwitch");
+    press(Qt::Key_Return);  // the switch has the keyboard, and Enter does no more than turn it
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move 59 MB to Trash");
+    press(Qt::Key_Return);
+    click("confirmCleanup");
+    untilDone();
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+    EXPECT_THAT(machine.files.pathsOf("remove"), UnorderedElementsAre(yarn, cursor));
+    EXPECT_EQ(textOf(window(), "cleanupResult"), "59 MB · 3 items");
+    press(Qt::Key_Return);
+    untilClosed();
+    untilSurveyed(2);
+}
+
+TEST_F(Reclaiming, cancelAndEscapeLeaveEverything) {
+    surveyByMouse();
+    click("reviewButton");
+    untilReviewed();
+    click("permanentSwitch");
+    click("cancelCleanup");
+    untilClosed();
+    expectNothingHappened();
+    EXPECT_EQ(chosen(), safeOnes);
+    click("reviewButton");
+    untilReviewed();
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move 59 MB to Trash") << "each review begins with the Trash";
+    press(Qt::Key_Escape);
+    untilClosed();
+    expectNothingHappened();
+    EXPECT_EQ(focusName(), QStringLiteral("reviewButton"));
+}
+
+TEST_F(Reclaiming, whatFailsIsCountedAsSkipped) {
+    surveyByMouse();
+    machine.processes.outcome = [](const auto&) { return ChildOutcome{std::nullopt, 127, "env: npm: not found"}; };
+    machine.files.failing = [this](const auto& call) { return call.operation == "trash" && call.path == yarn; };
+    click("reviewButton");
+    untilReviewed();
+    click("confirmCleanup");
+    untilDone();
+    EXPECT_EQ(textOf(window(), "cleanupResult"), "4 MB · 1 item · 2 skipped");
+    click("keepInTrash");
+    untilSurveyed(2);
+}
+
+TEST_F(Reclaiming, theSheetCannotBeLeftWhileItCleans) {
+    surveyByMouse();
+    click("reviewButton");
+    untilReviewed();
+    machine.tasks.hold();
+    click("confirmCleanup");
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Cleaning…");
+    for (const char* name : {"confirmCleanup", "cancelCleanup", "permanentSwitch"})
+        EXPECT_FALSE(control(window(), name)->isEnabled()) << name;
+    press(Qt::Key_Escape);
+    click("cancelCleanup");
+    click("confirmCleanup");
+    EXPECT_NE(control(window(), "dryRunList"), nullptr);
+    machine.tasks.release();
+    untilDone();
+    EXPECT_EQ(machine.trash.trashed().size(), 2U) << "once, and both";
+    press(Qt::Key_Escape);
+    untilClosed();
+    untilSurveyed(2);
+}
+
+TEST_F(Reclaiming, byCategoryWithTheKeyboardAlone) {
+    surveyByKeys();
+    tabTo(window(), "categoryList");
+    arrowTo(window(), 2);
+    press(Qt::Key_Space);
+    EXPECT_THAT(chosen(), ElementsAre("yarn_cache", "node_modules", "npm_cache", "electron_cache"));
+    tabTo(window(), "categoryMap");
+    press(Qt::Key_Home);
+    press(Qt::Key_Return);
+    EXPECT_THAT(chosen(), ElementsAre("node_modules", "npm_cache", "electron_cache"));
+    press(Qt::Key_Space);
+    EXPECT_EQ(chosen().size(), 4U);
+
+    tabTo(window(), "selectMenu");
+    press(Qt::Key_Space);
+    runUntil([&] { return menuEntry(window(), "None") != nullptr; });
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    runUntil([&] { return menuEntry(window(), "None") == nullptr; });
+    EXPECT_EQ(chosen(), safeOnes);
+    EXPECT_EQ(focusName(), QStringLiteral("selectMenu"));
+
+    tabTo(window(), "reviewButton");
+    press(Qt::Key_Space);
+    untilReviewed();
+    EXPECT_EQ(focusName(), QStringLiteral("confirmCleanup"));
+    press(Qt::Key_Escape);
+    untilClosed();
+    expectNothingHappened();
+    press(Qt::Key_Return);
+    untilReviewed();
+    tabTo(window(), "permanentSwitch");
+    press(Qt::Key_Space);
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Delete 59 MB permanently");
+    tabTo(window(), "dryRunList");
+    press(Qt::Key_End);
+    press(Qt::Key_Return);
+    EXPECT_NE(control(window(), "confirmCleanup"), nullptr)
+        << "what cannot be undone is pressed on its own button only";
+    expectNothingHappened();
+    tabTo(window(), "permanentSwitch");
+    press(Qt::Key_Space);
+    tabTo(window(), "dryRunList");
+    press(Qt::Key_Return);
+    untilDone();
+    EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre(yarn, cursor));
+    EXPECT_EQ(focusName(), QStringLiteral("keepInTrash"));
+    tabTo(window(), "emptyTrash");
+    press(Qt::Key_Return);
+    runUntil([&] { return control(window(), "cleanupDone") != nullptr; });
+    EXPECT_EQ(focusName(), QStringLiteral("cleanupDone"));
+    press(Qt::Key_Return);
+    untilClosed();
+    untilSurveyed(2);
+    EXPECT_THAT(machine.trash.list(), testing::Optional(IsEmpty()));
+}
+
+TEST_F(Reclaiming, byItemLeavesOutWhatARunningApplicationUses) {
+    model().setAudience(AppModel::Audience::developer);
+    surveyByMouse();
+    EXPECT_TRUE(shows(QStringLiteral("14 days")));
+    EXPECT_TRUE(shows(QStringLiteral("5 of 6 shown")));
+    EXPECT_TRUE(shows(QStringLiteral("3 items selected"))) << "not the backup, nor what is young or in use";
+
+    const int group = itemRow("App caches (Electron)");
+    clickText("App caches (Electron)");
+    EXPECT_EQ(item(group + 1, "name"), "Cache");
+    EXPECT_EQ(item(group + 1, "line"), "quit Cursor to clear");
+    EXPECT_EQ(item(group + 1, "chosen"), "false");
+    EXPECT_TRUE(shows(QStringLiteral("quit Cursor to clear")));
+    clickText("quit Cursor to clear");
+    clickText("Cache");
+    EXPECT_EQ(item(group + 1, "chosen"), "false") << "it cannot be ticked";
+    EXPECT_TRUE(shows(QStringLiteral("3 items selected")));
+
+    clickText("iOS device backups");
+    clickText("Backup");
+    EXPECT_TRUE(shows(QStringLiteral("4 items selected")));
+    clickText("Backup");
+    click("reviewButton");
+    untilReviewed();
+    EXPECT_THAT(reviewed(), UnorderedElementsAre(yarn, modules, npm));
+    click("confirmCleanup");
+    untilDone();
+    EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre(yarn, modules));
+    click("keepInTrash");
+    untilSurveyed(2);
+}
+
+TEST_F(Reclaiming, anItemIsSaidWithItsName) {
+    model().setAudience(AppModel::Audience::developer);
+    surveyByMouse();
+    clickText("Yarn cache");
+    const std::string spoken = item(itemRow("Yarn cache") + 1, "spoken");
+    EXPECT_THAT(spoken, testing::StartsWith("Yarn"));
+    EXPECT_THAT(spoken, testing::HasSubstr("50 MB"));
+}
+
+TEST_F(Reclaiming, byItemWithTheKeyboardAlone) {
+    model().setAudience(AppModel::Audience::developer);
+    surveyByKeys();
+    tabTo(window(), "safetyInfo");
+    press(Qt::Key_Space);
+    runUntil([&] { return shows(QStringLiteral("What's safe to remove?")); });
+    press(Qt::Key_Escape);
+    runUntil([&] { return !shows(QStringLiteral("What's safe to remove?")); });
+    EXPECT_EQ(focusName(), QStringLiteral("safetyInfo"));
+
+    tabTo(window(), "ageSlider");
+    press(Qt::Key_Right);
+    EXPECT_TRUE(shows(QStringLiteral("15 days")));
+    for (int day = 15; day > 0; --day) press(Qt::Key_Left);
+    EXPECT_TRUE(shows(QStringLiteral("all")));
+    EXPECT_TRUE(shows(QStringLiteral("6 of 6 shown")));
+    EXPECT_TRUE(shows(QStringLiteral("4 items selected")));
+    for (int day = 0; day < 4; ++day) press(Qt::Key_Right);
+    EXPECT_TRUE(shows(QStringLiteral("4 days")));
+    EXPECT_TRUE(shows(QStringLiteral("3 items selected")));
+    for (int day = 4; day > 0; --day) press(Qt::Key_Left);
+
+    tabTo(window(), "itemList");
+    const int group = itemRow("node_modules");
+    arrowTo(window(), group);
+    press(Qt::Key_Right);
+    EXPECT_EQ(item(group, "open"), "true");
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+    EXPECT_THAT(ticked("itemList", "place"), testing::Not(testing::Contains(home + "/young")));
+    EXPECT_EQ(item(group, "chosen"), "false") << "not all of the group";
+    press(Qt::Key_Left);
+    EXPECT_EQ(item(group, "open"), "false");
+    press(Qt::Key_Space);
+    EXPECT_EQ(item(group, "chosen"), "true");
+    press(Qt::Key_Space);
+    EXPECT_EQ(item(group, "chosen"), "false");
+    press(Qt::Key_Return);
+    EXPECT_EQ(item(group, "open"), "true");
+    press(Qt::Key_Down);
+    press(Qt::Key_Space);
+
+    tabTo(window(), "reviewButton");
+    press(Qt::Key_Return);
+    untilReviewed();
+    EXPECT_THAT(reviewed(), UnorderedElementsAre(yarn, modules, npm));
+    press(Qt::Key_Return);
+    untilDone();
+    EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre(yarn, modules));
+    press(Qt::Key_Space);
+    untilClosed();
+    untilSurveyed(2);
+}
+
+TEST_F(Reclaiming, theStatusItemCleansAllThatIsSafeAtOnceAlsoWhatIsInUse) {
+    surveyByMouse();
+    const auto isClean = [](const QAction* entry) {
+        return entry->text() == QStringLiteral("Clean safe caches (59 MB)");
+    };
+    QList<QAction*> entries;
+    runUntil([&] {
+        entries = shell().statusItem().menu().actions();
+        return std::any_of(entries.begin(), entries.end(), isClean);
+    });
+    (*std::find_if(entries.begin(), entries.end(), isClean))->trigger();
+    untilSurveyed(2);
+    EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre(yarn, cursor));
+    EXPECT_EQ(machine.processes.calls().size(), 1U);
+    EXPECT_EQ(control(window(), "dryRunList"), nullptr) << "without a review";
+}
+
+}  // namespace zelk
