@@ -270,9 +270,10 @@ TEST_P(WholeCleanup, takesWhatTheReviewListedAndNothingElse) {
         }
         ++unwell;
         ASSERT_NE(failure, nullptr) << item << " by " << tool;
-        if (tool == "/usr/bin/env pnpm store prune") EXPECT_EQ(failure->error, "exit 3: pnpm is unwell\n");
-        if (tool == "/usr/bin/env cargo clean") EXPECT_THAT(failure->error, StartsWith("exit 127: "));
-        if (tool.starts_with("/usr/bin/xcrun")) EXPECT_EQ(failure->error, "No such file or directory");
+        const char* wanted = tool == "/usr/bin/env pnpm store prune"  ? "exit 3: pnpm is unwell\n"
+                             : tool.starts_with("/usr/bin/env cargo") ? "exit 127: "
+                                                                      : "No such file or directory";
+        EXPECT_THAT(failure->error, StartsWith(wanted)) << tool;
     }
     EXPECT_GT(unwell, 1U);
     EXPECT_EQ(failed, unwell);

@@ -397,10 +397,10 @@ TEST_F(Classifier, anItemKnowsHowMuchOfItsPathIsTheScanRoot) {
     Tree tree(home);
     tree.add("a/node_modules");
     tree.top->append(FSNode::make("/data/b", 0)).append(FSNode::make("node_modules", 0));
-    tree.top->append(FSNode::make("/other/node_modules", 0));
+    tree.top->append(FSNode::make(home + "/.npm/_cacache", 0));
     std::vector<std::string> roots;
     for (const Reclaimable& item : itemsOf(tree)) roots.push_back(item.path.substr(0, item.rootLength));
-    EXPECT_EQ(roots, (std::vector<std::string>{home, "/data/b", "/other/node_modules"}));
+    EXPECT_EQ(roots, (std::vector<std::string>{home, "/data/b", home + "/.npm/_cacache"}));
 }
 
 }  // namespace
