@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <cstdlib>
 
 namespace zelk {
 
@@ -79,6 +80,18 @@ TEST_F(Painted, aShadowIsDarkestBelowTheDiscAndFadesOut) {
         last = at(50, y).alpha();
     }
     EXPECT_EQ(last, 0);
+}
+
+TEST_F(Painted, aShadowHasNoSeamsOnAScaledScreen) {
+    painter.scale(1.25, 1.25);
+    PainterCanvas(painter).shadowedDisc({40, 36}, 20.3, Paint::solid(Qt::red), {QColor(0, 0, 0, 128), 10, {0, 3}});
+    for (int y = 72; y < 99; ++y) {
+        for (int x = 2; x < 98; ++x) {
+            const bool shadowOnly = at(x, y).red() == 0 && at(x + 1, y).red() == 0;
+            const int step = std::abs(at(x, y).alpha() - at(x + 1, y).alpha());
+            EXPECT_TRUE(!shadowOnly || step <= 16) << x << ' ' << y << ": " << step;
+        }
+    }
 }
 
 TEST_F(Painted, aShadowThatIsMoreBlurredThanItsDiscIsLargeIsFaint) {

@@ -11,6 +11,7 @@
 #include <QPen>
 #include <QRadialGradient>
 #include <QRectF>
+#include <QRegion>
 #include <algorithm>
 #include <cmath>
 
@@ -41,6 +42,13 @@ QBrush brushOf(const Paint& paint) {
 
 QRectF around(QPointF center, double radius) {
     return {center.x() - radius, center.y() - radius, 2 * radius, 2 * radius};
+}
+
+/// The whole points inside.
+QRect innerRect(const QRectF& rect) {
+    const QPoint topLeft(static_cast<int>(std::ceil(rect.left())), static_cast<int>(std::ceil(rect.top())));
+    const QPoint end(static_cast<int>(std::floor(rect.right())), static_cast<int>(std::floor(rect.bottom())));
+    return {topLeft, end - QPoint(1, 1)};
 }
 
 QPen penOf(const Paint& paint, double width) {
@@ -122,12 +130,15 @@ void PainterCanvas::shadowedDisc(QPointF center, double radius, const Paint& pai
     if (radius <= 0) return;
     const BlurredDisc blurred(radius, shadow.blur, shadow.color);
     const QPointF below = center + shadow.offset;
-    QPainterPath seen;  // what the disc will not cover, and a little more for its smooth edge
-    seen.addEllipse(below, blurred.reach(), blurred.reach());
-    seen.addEllipse(center, std::max(0.0, radius - 1), std::max(0.0, radius - 1));
-    painter_.setPen(Qt::NoPen);
-    painter_.setBrush(blurred.at(below));
-    painter_.drawPath(seen);
+    const QBrush brush = blurred.at(below);
+    // Whole rectangles around what the disc covers for certain: the gradient has faded out at their outer sides, and
+    // filling them takes a fraction of what a smooth circle would.
+    const QRect outer = around(below, blurred.reach()).toAlignedRect();
+    const double half = radius / std::sqrt(2.0) - 2;
+    const QRect inner = half > 0 ? innerRect(around(center, half)) : QRect();
+    painter_.setRenderHint(QPainter::Antialiasing, false);  // on a scaled screen their seams would show
+    for (const QRect& rect : QRegion(outer) - QRegion(inner)) painter_.fillRect(rect, brush);
+    painter_.setRenderHint(QPainter::Antialiasing);
     disc(center, radius, paint);
 }
 
