@@ -82,7 +82,8 @@ int MacFileManager::tryOpen(const std::string& path) {
 }
 
 Failure MacFileManager::remove(const ItemPath& item) {
-    if (const int error = errorOnWay(item)) return failureText(item.name(), "couldn’t be removed", reasonOfParent(item, error));
+    if (const int error = errorOnWay(item))
+        return failureText(item.name(), "couldn’t be removed", reasonOfParent(item, error));
     @autoreleasepool {
         NSError* error = nil;
         if ([[NSFileManager defaultManager] removeItemAtURL:fileURL(item.text(), false) error:&error])

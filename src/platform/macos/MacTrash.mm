@@ -21,7 +21,8 @@ std::optional<std::vector<std::string>> MacTrash::list() {
 }
 
 Failure MacTrash::trash(const ItemPath& item) {
-    if (const int error = errorOnWay(item)) return failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error));
+    if (const int error = errorOnWay(item))
+        return failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error));
     @autoreleasepool {
         NSError* error = nil;
         // No slash at the end of the URL whatever the item is: of a link the link itself is meant.
