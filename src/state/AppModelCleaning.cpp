@@ -52,9 +52,9 @@ void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
     auto work = [this, sender = calls_.sender(), &trash = platform_.trash, leaving, done = std::move(done)]() mutable {
         for (const auto& [node, item] : leaving->items) {
             if (trash.trash(item)) continue;
-            sender.post([this, leaving, node = node] {
-                removeFromTree(*node);
-                leaving->gone.push_back(node);
+            sender.post([this, leaving, gone = node] {
+                removeFromTree(*gone);
+                leaving->gone.push_back(gone);
             });
         }
         sender.post([this, leaving, done = std::move(done)] {
