@@ -94,12 +94,18 @@ inline void clickBubble(QQuickWindow& window, const char* map, const std::string
     FAIL() << "no bubble " << id;
 }
 
+/// Whether the keyboard is at a control, or at what a list shows.
+inline bool hasKeyboard(QQuickWindow& window, const char* name) {
+    for (const QQuickItem* at = window.activeFocusItem(); at != nullptr; at = at->parentItem())
+        if (at->objectName() == QLatin1String(name)) return true;
+    return false;
+}
+
 /// Goes there by the Tab key, as somebody without a mouse would.
 inline void tabTo(QQuickWindow& window, const char* name) {
     window.grabWindow();
     for (int stop = 0; stop < 100; ++stop) {
-        const QQuickItem* at = window.activeFocusItem();
-        if (at != nullptr && at->objectName() == QLatin1String(name)) return;
+        if (hasKeyboard(window, name)) return;
         QTest::keyClick(&window, Qt::Key_Tab);
     }
     FAIL() << "the Tab key does not come to " << name;

@@ -68,6 +68,7 @@ Item {
 
                     guide: head.guide
                     y: info.height + 6
+                    onClosed: info.forceActiveFocus(Qt.PopupFocusReason)
                 }
             }
         }

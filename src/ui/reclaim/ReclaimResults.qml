@@ -27,12 +27,15 @@ FocusScope {
                 "items": results.module.items,
                 "guide": results.module.guide
             });
-        if (results.reviewing)
+        const shown = sheet.item as DryRunSheet;
+        if (results.reviewing) {
+            sheet.source = "";
             sheet.setSource("DryRunSheet.qml", {
                 "dryRun": results.module.dryRun
             });
-        else
-            sheet.source = "";
+        } else if (shown) {
+            shown.close();
+        }
     }
 
     onByCategoryChanged: results.build()
@@ -68,5 +71,15 @@ FocusScope {
 
     Loader {
         id: sheet
+    }
+
+    // Not before it has closed, which is when it gives the keyboard back.
+    Connections {
+        target: sheet.item
+        ignoreUnknownSignals: true
+
+        function onClosed() {
+            sheet.source = "";
+        }
     }
 }

@@ -17,6 +17,7 @@ T.Popup {
     height: page.implicitHeight + topPadding + bottomPadding
     margins: 8
     padding: 18
+    focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
     background: Rectangle {
