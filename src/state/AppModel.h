@@ -135,6 +135,10 @@ public:
     /// The same for several, one after the other in this order. When the last one has been tried, `done` hears which
     /// of them are in the Trash; never, if the model has gone by then.
     void trashAndRemove(const std::vector<NodeRef>& nodes, std::function<void(const std::vector<NodeRef>&)> done);
+    /// Moves the file at `path` to the Trash; of a link that has taken its place the link itself. Once it is there,
+    /// every entry with that path leaves the large files, also those that a survey under way goes on to report; all
+    /// other results keep counting it. If it cannot be moved, nothing changes.
+    void trashLargeFile(const std::string& path);
     /// Takes a directory out of the results after it was moved away: its size off all above it, and with it the items
     /// and large files at and below its path. What tells of the survey as it ran stays. While the classifier reads the
     /// tree this waits for its end. The node may be gone afterwards, unless the caller holds a reference. A node of an
@@ -176,6 +180,7 @@ private:
     void completeFinish(const std::shared_ptr<ScanTask>& task, std::vector<Reclaimable> items);
     void removeWhatWaited(ScanTask& task);
     void withdraw(ScanTask& task);
+    void dropLargeFile(const std::string& path);
     void recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t total, const NodeRef& tree);
     void conclude(const std::shared_ptr<ScanTask>& task, std::vector<SurveyRecord> history);
     void settleTrash();

@@ -6,6 +6,7 @@
 
 #include "reclaim/Cleaner.h"
 #include "state/AppModel.h"
+#include "state/ScanTask.h"
 
 namespace zelk {
 
@@ -63,6 +64,23 @@ void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
         });
     };
     platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
+}
+
+void AppModel::trashLargeFile(const std::string& path) {
+    const std::optional<ItemPath> item = ItemPath::from(path);
+    if (!item) return;
+    auto work = [this, sender = calls_.sender(), &trash = platform_.trash, item = *item, path] {
+        if (trash.trash(item)) return;
+        sender.post([this, path] { dropLargeFile(path); });
+    };
+    platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
+}
+
+void AppModel::dropLargeFile(const std::string& path) {
+    // A walk that is not over may have come by before the file went.
+    if (scanTask_ != nullptr && scanPhase_ == ScanPhase::scanning) scanTask_->trashedFiles.insert(path);
+    const auto isIt = [&](const LargeFile& file) { return file.path == path; };
+    if (std::erase_if(insights_.topFiles, isIt) != 0) emit insightsChanged();
 }
 
 }  // namespace zelk

@@ -81,6 +81,8 @@ void AppModel::take(const std::shared_ptr<ScanTask>& task, ScanUpdate update) {
         assign(bytesScanned_, progress->bytes, &AppModel::bytesScannedChanged);
         assign(currentPath_, std::move(progress->currentPath), &AppModel::currentPathChanged);
     } else if (auto* found = std::get_if<update::Insights>(&update)) {
+        std::erase_if(found->insights.topFiles,
+                      [&](const LargeFile& file) { return task->trashedFiles.contains(file.path); });
         assign(insights_, std::move(found->insights), &AppModel::insightsChanged);
     } else if (const auto* blocked = std::get_if<update::Blocked>(&update)) {
         assign(blockedPaths_, blocked->count, &AppModel::blockedPathsChanged);

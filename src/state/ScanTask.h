@@ -3,6 +3,8 @@
 
 #include <memory>
 #include <optional>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "scan/CancelFlag.h"
@@ -30,8 +32,9 @@ struct AppModel::ScanTask {
     bool counts = false;
     /// Shared with the task that keeps the record, which may be at it when the survey is withdrawn.
     std::shared_ptr<CancelFlag> cancelled = std::make_shared<CancelFlag>();
-    bool treeIsRead = false;        ///< by the classifier, or for the record
-    std::vector<NodeRef> removals;  ///< taken out of the tree as soon as no other thread reads it
+    bool treeIsRead = false;             ///< by the classifier, or for the record
+    std::vector<NodeRef> removals;       ///< taken out of the tree as soon as no other thread reads it
+    std::set<std::string> trashedFiles;  ///< while it ran: its list of large files may still name them
 };
 
 }  // namespace zelk

@@ -85,8 +85,6 @@ TEST_F(Modules, saysWhatEachIsFor) {
     expect(Screen::apps, "Apps",
            "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, preferences, "
            "and support files.");
-    expect(Screen::clutter, "Clutter",
-           "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.");
     expect(Screen::duplicates, "Duplicates",
            "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.");
     expect(Screen::health, "Mac health", "Debian GNU/Linux 12 (bookworm)");
@@ -99,7 +97,6 @@ TEST_F(Modules, thatLiveFromTheSurveyOfferOne) {
         EXPECT_EQ(module(screen)->scanningLabel().toStdString(), scanningLabel);
         EXPECT_FALSE(module(screen)->noted());
     };
-    expect(Screen::clutter, "Find large files", "Hunting for heavy files…");
 }
 
 TEST_F(Modules, thatAreNotThereYetSaySoAndOfferNothing) {

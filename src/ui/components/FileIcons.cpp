@@ -12,6 +12,9 @@ namespace {
 
 constexpr qsizetype keptBytes = 8 * 1024 * 1024;
 
+/// As desktops paint folders; seen on either ground, and on a bubble.
+const QColor folderColor(90, 172, 245);
+
 QImage imageOf(const IconPixels& pixels) {
     QImage image(pixels.side, pixels.side, QImage::Format_ARGB32_Premultiplied);
     const auto side = static_cast<std::size_t>(pixels.side);
@@ -28,7 +31,7 @@ FileIcons::FileIcons(Workspace& workspace, const ZelkTheme& theme)
 QImage FileIcons::image(const std::string& path, bool isDirectory, int side) {
     const QImage desktops = desktopImage(path, isDirectory, side);
     if (!desktops.isNull()) return desktops;
-    return isDirectory ? tintedSymbol(QStringLiteral("folder.fill"), theme_->accent, side)
+    return isDirectory ? tintedSymbol(QStringLiteral("folder.fill"), folderColor, side)
                        : tintedSymbol(QStringLiteral("doc"), theme_->inkSoft, side);
 }
 

@@ -17,7 +17,7 @@ public:
     /// Both outlive this.
     explicit FileIcons(Workspace& workspace, const ZelkTheme& theme = ZelkTheme::dark());
 
-    /// Our own symbols are in the colours of `theme`, which outlives this.
+    /// Our own symbol of a file is in a colour of `theme`, which outlives this.
     void setTheme(const ZelkTheme& theme) { theme_ = &theme; }
 
     /// `side` x `side` pixels, at least 1; never null.

@@ -11,6 +11,8 @@ T.MenuItem {
     id: row
 
     property string symbol: ""
+    // What it does takes something away.
+    property bool alarming: false
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -32,12 +34,13 @@ T.MenuItem {
             visible: row.symbol !== "" || row.checkable
             opacity: row.checkable && !row.checked ? 0 : 1
             name: row.checkable ? "checkmark" : row.symbol
-            color: Theme.inkSoft
+            color: row.alarming ? Theme.alertText : Theme.inkSoft
             size: Math.round(12 * TextScale.factor)
         }
 
         Words {
             text: row.text
+            color: row.alarming ? Theme.alertText : Theme.ink
             size: 12
             mute: true
         }

@@ -35,10 +35,6 @@ ModuleTexts surveyed(Screen screen, const QString& subtitle, const QString& scan
 
 ModuleTexts textsOf(const AppModel& app, Screen screen) {
     switch (screen) {
-        case Screen::clutter:
-            return surveyed(screen,
-                            "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.",
-                            "Find large files", "Hunting for heavy files…");
         case Screen::privacy:
             return introduced(screen, "Privacy",
                               "Clear browsing traces across your browsers — caches, histories, cookies. No malware "

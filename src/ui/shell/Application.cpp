@@ -16,6 +16,7 @@ void qml_register_types_Zelk_Theme();
 void qml_register_types_Zelk_Symbols();
 void qml_register_types_Zelk_Components();
 void qml_register_types_Zelk_Bubbles();
+void qml_register_types_Zelk_Clutter();
 void qml_register_types_Zelk_Navigation();
 void qml_register_types_Zelk_Reclaim();
 void qml_register_types_Zelk_Explanation();
@@ -71,6 +72,7 @@ void registerInterface() {
     qml_register_types_Zelk_Symbols();
     qml_register_types_Zelk_Components();
     qml_register_types_Zelk_Bubbles();
+    qml_register_types_Zelk_Clutter();
     qml_register_types_Zelk_Navigation();
     qml_register_types_Zelk_Reclaim();
     qml_register_types_Zelk_Explanation();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
+#include "ui/clutter/ClutterScreenModel.h"
 #include "ui/help/HelpModel.h"
 #include "ui/lens/LensScreenModel.h"
 #include "ui/navigation/ModuleScreenModel.h"
@@ -129,6 +130,10 @@ std::vector<DetailPages::Page> MainWindow::makePages() {
                 break;
             case Screen::lens:
                 pages.push_back({view("Lens/LensView"), [this] { return as("lens", &madeOnce(lens_, app_)); }});
+                break;
+            case Screen::clutter:
+                pages.push_back({view("Clutter/ClutterView"),
+                                 [this] { return as<ModuleScreenModel>("module", &madeOnce(clutter_, app_)); }});
                 break;
             case Screen::tools:
                 pages.push_back({view("Tools/ToolsView"), [this] { return as("tools", &madeOnce(tools_, app_)); }});

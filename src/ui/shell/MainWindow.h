@@ -19,6 +19,7 @@ namespace zelk {
 class AboutModel;
 class AppCommands;
 class AppModel;
+class ClutterScreenModel;
 class FirstRunModel;
 class HelpModel;
 class LensScreenModel;
@@ -88,6 +89,7 @@ private:
     std::unique_ptr<SidebarModel> sidebar_;
     std::unique_ptr<ReclaimScreenModel> reclaim_;
     std::unique_ptr<LensScreenModel> lens_;
+    std::unique_ptr<ClutterScreenModel> clutter_;
     std::unique_ptr<ToolsScreenModel> tools_;
     std::unique_ptr<SettingsScreenModel> settings_;
     std::unique_ptr<HelpModel> help_;

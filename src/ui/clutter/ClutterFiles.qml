@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+// The list of the heaviest files under its head, and the one menu of all its rows. Enter and the menu key open the menu
+// of the current row, the Delete key moves its file to the Trash.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Clutter
+import Zelk.Components
+
+FocusScope {
+    id: files
+
+    required property ClutterScreenModel clutter
+
+    onVisibleChanged: menu.close()
+
+    ClutterHead {
+        id: head
+
+        width: parent.width
+        clutter: files.clutter
+    }
+
+    Divider {
+        id: rule
+
+        anchors.top: head.bottom
+        width: parent.width
+    }
+
+    RowList {
+        id: list
+
+        objectName: "clutterList"
+        anchors.top: rule.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        topMargin: 8
+        bottomMargin: 16
+        focus: true
+        name: files.clutter.rowsName
+        model: files.clutter.rows
+
+        function openMenu(row: int, at: point) {
+            files.clutter.pick(row);
+            menu.popup(list, at.x, at.y);
+        }
+
+        function openMenuOfCurrent() {
+            list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+            const row = list.currentItem as ClutterRow;
+            if (!row)
+                return;
+            list.byKey = true;
+            list.openMenu(list.currentIndex, row.mapToItem(list, row.menuPlace));
+            menu.currentIndex = 0;
+        }
+
+        Keys.onReturnPressed: event => {
+            if (!event.isAutoRepeat)
+                list.openMenuOfCurrent();
+        }
+        Keys.onEnterPressed: event => {
+            if (!event.isAutoRepeat)
+                list.openMenuOfCurrent();
+        }
+        Keys.onMenuPressed: event => {
+            if (!event.isAutoRepeat)
+                list.openMenuOfCurrent();
+        }
+        // A held key takes one file away and not all that move up.
+        Keys.onDeletePressed: event => {
+            if (event.isAutoRepeat)
+                return;
+            list.byKey = true;
+            files.clutter.pick(list.currentIndex);
+            files.clutter.moveToTrash();
+        }
+
+        delegate: ClutterRow {
+            ringed: list.ringed && ListView.isCurrentItem
+            onTaken: list.take(index)
+            onAsked: at => list.openMenu(index, mapToItem(list, at))
+        }
+
+        Connections {
+            target: files.clutter
+            function onRearranged() {
+                list.currentIndex = Math.min(0, list.count - 1);
+                list.positionViewAtBeginning();
+            }
+        }
+    }
+
+    // The list lets go of what it does not know.
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier && list.activeFocus;
+        if (event.accepted)
+            list.openMenuOfCurrent();
+    }
+
+    FileMenu {
+        id: menu
+
+        clutter: files.clutter
+        onClosed: {
+            if (files.visible)
+                list.forceActiveFocus(Qt.PopupFocusReason);
+        }
+    }
+}

@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: MIT
+#include "ui/clutter/ClutterScreenModel.h"
+
+#include <gmock/gmock.h>
+
+#include <QSignalSpy>
+#include <utility>
+
+#include "fakes/ClutterHome.h"
+#include "state/AppModelFixture.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Strings = std::vector<std::string>;
+
+class Clutter : public AppModelFixture {
+protected:
+    void surveyClutter() {
+        fakes::fillWithClutter(machine, home);
+        survey();
+    }
+    ClutterScreenModel& screen() {
+        if (!screen_) screen_ = std::make_unique<ClutterScreenModel>(model());
+        return *screen_;
+    }
+
+    template <class Rows>
+    static Strings texts(const Rows& rows, const char* role = "name") {
+        Strings all;
+        for (int row = 0; row < rows.rowCount(); ++row)
+            all.push_back(rows.data(rows.index(row), rows.roleNames().key(role)).toString().toStdString());
+        return all;
+    }
+    Strings names() { return texts(*screen().rows()); }
+    Strings pills() { return texts(*screen().pills()); }
+    /// The names of the pills that are `role`.
+    Strings pillsThatAre(const char* role) {
+        Strings found;
+        const TypePills& all = *screen().pills();
+        for (int row = 0; row < all.rowCount(); ++row)
+            if (all.data(all.index(row), all.roleNames().key(role)).toBool())
+                found.push_back(pills()[static_cast<std::size_t>(row)]);
+        return found;
+    }
+    void filter(const std::string& pill) {
+        const Strings all = pills();
+        screen().filter(static_cast<int>(std::find(all.begin(), all.end(), pill) - all.begin()));
+    }
+    void trash(const std::string& name) {
+        const Strings all = names();
+        screen().pick(static_cast<int>(std::find(all.begin(), all.end(), name) - all.begin()));
+        screen().moveToTrash();
+        runWhatIsThere();
+    }
+
+private:
+    std::unique_ptr<ClutterScreenModel> screen_;
+};
+
+constexpr int largest = 0;
+constexpr int oldest = 1;
+
+}  // namespace
+
+TEST_F(Clutter, saysAllItsTexts) {
+    const ClutterScreenModel& clutter = screen();
+    const std::pair<QString, const char*> expected[] = {
+        {clutter.title(), "Clutter"},
+        {clutter.subtitle(),
+         "Find your largest and oldest files — videos, downloads, disk images, forgotten archives."},
+        {clutter.scanLabel(), "Find large files"},
+        {clutter.scanningLabel(), "Hunting for heavy files…"},
+        {clutter.nothingTitle(), "Nothing heavy"},
+        {clutter.nothingSymbol(), "tray"},
+        {clutter.nothingNote(), "No large files turned up in this survey."},
+        {clutter.heading(), "Clutter"},
+        {clutter.line(), "the heaviest files in your survey"},
+        {clutter.revealLabel(), "Reveal in Finder"},
+        {clutter.trashLabel(), "Move to Trash"},
+        {clutter.orders().join('|'), "Largest|Oldest"},
+    };
+    for (const auto& [said, text] : expected) EXPECT_EQ(said.toStdString(), text);
+    EXPECT_EQ(clutter.screen(), Screen::clutter);
+    EXPECT_FALSE(clutter.noted());
+}
+
+TEST_F(Clutter, followsTheSurveyThatItsButtonBegins) {
+    fakes::fillWithClutter(machine, home);
+    addWideFolder(home + "/wide");
+    machine.directories.hold(home + "/wide/inner");
+    EXPECT_TRUE(screen().idle());
+    screen().scan();
+    EXPECT_TRUE(screen().scanning());
+    runUntil(
+        [&] { return model().itemsScanned() > 0 && screen().scanDetail().toStdString() == model().progressLine(); });
+    machine.directories.release();
+    runUntil([&] { return screen().results(); });
+    EXPECT_EQ(names().front(), "film.mov");
+}
+
+TEST_F(Clutter, showsASurveyThatWasThereBefore) {
+    surveyClutter();
+    EXPECT_TRUE(screen().results());
+    EXPECT_FALSE(screen().nothing());
+    EXPECT_EQ(names().size(), 5U);
+}
+
+TEST_F(Clutter, aSurveyWithoutAnyFileHasNothingHeavy) {
+    survey();
+    EXPECT_TRUE(screen().nothing());
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_THAT(pills(), ElementsAre("All"));
+}
+
+TEST_F(Clutter, theLargestComeFirst) {
+    surveyClutter();
+    EXPECT_FALSE(screen().sortByAge());
+    EXPECT_THAT(names(), ElementsAre("film.mov", "system.iso", "backup.zip", "old.mp4", "notes.pdf"));
+    EXPECT_THAT(texts(*screen().rows(), "size"), ElementsAre("3 GB", "2 GB", "900 MB", "800 MB", "700 MB"));
+}
+
+TEST_F(Clutter, orTheOldest) {
+    surveyClutter();
+    const QSignalSpy rearranged(&screen(), &ClutterScreenModel::rearranged);
+    screen().sort(oldest);
+    EXPECT_TRUE(screen().sortByAge());
+    EXPECT_EQ(screen().order(), oldest);
+    EXPECT_THAT(names(), ElementsAre("old.mp4", "backup.zip", "notes.pdf", "film.mov", "system.iso"));
+    EXPECT_THAT(texts(*screen().rows(), "age"), ElementsAre("3y ago", "2mo ago", "2d ago", "1d ago", "today"));
+    EXPECT_EQ(rearranged.size(), 1);
+    screen().sort(oldest);
+    EXPECT_EQ(rearranged.size(), 1);
+    screen().sort(largest);
+    EXPECT_EQ(names().front(), "film.mov");
+}
+
+TEST_F(Clutter, ofTheSameAgeTheLargestComeFirst) {
+    for (const int size : {1, 3, 2})
+        machine.directories.file(home + "/" + std::to_string(size), static_cast<std::uint64_t>(size) * 1'000'000,
+                                 5'000);
+    survey();
+    screen().sort(oldest);
+    EXPECT_THAT(names(), ElementsAre("3", "2", "1"));
+}
+
+TEST_F(Clutter, aPillStandsForEveryTypeWithFilesTheLargestTotalFirst) {
+    surveyClutter();
+    EXPECT_THAT(pills(), ElementsAre("All", "Video", "Disk images", "Archives", "Documents"));
+    EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("All"));
+    EXPECT_THAT(pillsThatAre("reached"), ElementsAre("All"));
+    EXPECT_THAT(texts(*screen().pills(), "symbol"),
+                ElementsAre("tray.full", "film", "opticaldiscdrive", "doc.zipper", "doc.text"));
+}
+
+TEST_F(Clutter, aPillNarrowsTheListToItsType) {
+    surveyClutter();
+    const QSignalSpy rearranged(&screen(), &ClutterScreenModel::rearranged);
+    filter("Video");
+    EXPECT_EQ(screen().typeFilter(), FileType::video);
+    EXPECT_THAT(names(), ElementsAre("film.mov", "old.mp4"));
+    EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("Video"));
+    screen().sort(oldest);
+    EXPECT_THAT(names(), ElementsAre("old.mp4", "film.mov"));
+    filter("Documents");
+    EXPECT_THAT(names(), ElementsAre("notes.pdf"));
+    filter("All");
+    EXPECT_EQ(screen().typeFilter(), std::nullopt);
+    EXPECT_EQ(names().size(), 5U);
+    EXPECT_EQ(rearranged.size(), 4);
+    screen().filter(99);
+    screen().filter(-1);
+    EXPECT_EQ(rearranged.size(), 4);
+}
+
+TEST_F(Clutter, agesAtTheEdgesOfTheirUnits) {
+    const TimePoint now = machine.clock.now();
+    int size = 9;
+    for (const double days : {30.0, 364.0, 365.0, -3.0})
+        machine.directories.file(home + "/" + std::to_string(days), static_cast<std::uint64_t>(size--) * 1'000'000,
+                                 now - days * secondsPerDay);
+    survey();
+    EXPECT_THAT(texts(*screen().rows(), "age"), ElementsAre("1mo ago", "12mo ago", "1y ago", "today"));
+}
+
+TEST_F(Clutter, agesAreThoseOfWhenTheScreenIsLookedAt) {
+    surveyClutter();
+    screen().setOnScreen(true);
+    screen().setOnScreen(false);
+    machine.clock.advance(3 * secondsPerDay);
+    screen().setOnScreen(true);
+    EXPECT_EQ(texts(*screen().rows(), "age").front(), "4d ago");
+}
+
+TEST_F(Clutter, aFileIsRevealedInItsFolder) {
+    surveyClutter();
+    screen().pick(2);
+    screen().reveal();
+    EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/backup.zip"}));
+}
+
+TEST_F(Clutter, withoutARowNothingIsDone) {
+    surveyClutter();
+    machine.tasks.hold();
+    for (const int row : {-1, 5}) {
+        screen().pick(row);
+        screen().reveal();
+        screen().moveToTrash();
+    }
+    EXPECT_THAT(machine.workspace.revealed, IsEmpty());
+    EXPECT_TRUE(machine.tasks.waiting().empty());
+    machine.tasks.release();
+}
+
+TEST_F(Clutter, aFileGoesToTheTrashWithoutAQuestion) {
+    surveyClutter();
+    trash("system.iso");
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/system.iso"});
+    EXPECT_THAT(names(), ElementsAre("film.mov", "backup.zip", "old.mp4", "notes.pdf"));
+}
+
+TEST_F(Clutter, aFileThatDoesNotGoStaysInItsRowWithoutAMessage) {
+    surveyClutter();
+    machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
+    const QSignalSpy removed(screen().rows(), &QAbstractItemModel::rowsRemoved);
+    trash("system.iso");
+    EXPECT_EQ(names().size(), 5U);
+    EXPECT_EQ(removed.size(), 0);
+}
+
+TEST_F(Clutter, theTotalsGoOnCountingAFileThatWent) {
+    surveyClutter();
+    const auto before = model().sortedTypeTotals();
+    trash("film.mov");
+    trash("backup.zip");
+    EXPECT_EQ(model().sortedTypeTotals(), before);
+    EXPECT_THAT(pills(), ElementsAre("All", "Video", "Disk images", "Archives", "Documents"));
+}
+
+TEST_F(Clutter, theLastFileOfATypeLeavesAnEmptyListAndNotThePlaceholder) {
+    surveyClutter();
+    filter("Archives");
+    trash("backup.zip");
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_FALSE(screen().nothing());
+    filter("All");
+    EXPECT_EQ(names().size(), 4U);
+}
+
+TEST_F(Clutter, theLastFileOfAllLeavesThePlaceholder) {
+    machine.directories.file(home + "/only.mov", 1'000'000, 0);
+    machine.files.addFile(home + "/only.mov");
+    survey();
+    ASSERT_FALSE(screen().nothing());
+    trash("only.mov");
+    EXPECT_TRUE(screen().nothing());
+}
+
+TEST_F(Clutter, aTypeThatTheNextSurveyDoesNotFindHasNoPillAndAllBringsTheListBack) {
+    surveyClutter();
+    filter("Video");
+    model().setScanRoots({home + "/papers"});
+    survey();
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_FALSE(screen().nothing());
+    EXPECT_THAT(pills(), ElementsAre("All", "Documents"));
+    EXPECT_THAT(pillsThatAre("chosen"), IsEmpty());
+    EXPECT_THAT(pillsThatAre("reached"), ElementsAre("All"));
+    filter("All");
+    EXPECT_THAT(names(), ElementsAre("notes.pdf"));
+}
+
+TEST_F(Clutter, orderAndFilterLastFromSurveyToSurvey) {
+    surveyClutter();
+    screen().sort(oldest);
+    filter("Video");
+    survey();
+    EXPECT_THAT(names(), ElementsAre("old.mp4", "film.mov"));
+    EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("Video"));
+}
+
+TEST_F(Clutter, whatWasPickedIsMeantAlsoWhenRowsComeAndGo) {
+    surveyClutter();
+    screen().pick(2);
+    model().trashLargeFile(home + "/projects/film.mov");
+    runWhatIsThere();
+    screen().sort(oldest);
+    screen().moveToTrash();
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), (Strings{home + "/projects/film.mov", home + "/backup.zip"}));
+}
+
+TEST_F(Clutter, keepsItsRowsWhileAnotherSurveyRuns) {
+    surveyClutter();
+    ASSERT_EQ(names().size(), 5U);
+    addWideFolder(home + "/wide");
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    EXPECT_EQ(names().size(), 5U);
+    EXPECT_FALSE(screen().nothing());
+    machine.directories.release();
+    runUntil([&] { return screen().results(); });
+}
+
+TEST_F(Clutter, rowsStayThroughASurveyThatFindsTheSame) {
+    surveyClutter();
+    screen();
+    const QSignalSpy removed(screen().rows(), &QAbstractItemModel::rowsRemoved);
+    const QSignalSpy inserted(screen().rows(), &QAbstractItemModel::rowsInserted);
+    const QSignalSpy pillsRemoved(screen().pills(), &QAbstractItemModel::rowsRemoved);
+    survey();
+    EXPECT_EQ(removed.size() + inserted.size() + pillsRemoved.size(), 0);
+}
+
+TEST_F(Clutter, followsTheTheme) {
+    machine.directories.file(home + "/thing", 1'000'000, 0);
+    survey();
+    const auto tint = [&](const QAbstractItemModel& rows, int row, int role) {
+        return rows.data(rows.index(row, 0), role).value<QColor>();
+    };
+    EXPECT_TRUE(screen().dark());
+    const QColor row = tint(*screen().rows(), 0, ClutterRows::tintRole);
+    const QColor pill = tint(*screen().pills(), 1, TypePills::tintRole);
+    screen().setDark(false);
+    EXPECT_NE(tint(*screen().rows(), 0, ClutterRows::tintRole), row);
+    EXPECT_NE(tint(*screen().pills(), 1, TypePills::tintRole), pill);
+}
+
+}  // namespace zelk

@@ -1,0 +1,342 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <QTest>
+
+#include "ViewFixture.h"
+#include "fakes/ClutterHome.h"
+#include "ui/clutter/ClutterScreenModel.h"
+
+namespace zelk {
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+using Strings = std::vector<std::string>;
+
+class ClutterWindow : public ViewFixture {
+protected:
+    ~ClutterWindow() override { close(); }
+
+    void open(QSize size = {900, 620}) {
+        if (model().scanPhase() != Phase::finished) {
+            fakes::fillWithClutter(machine, home);
+            survey();
+        }
+        show(QStringLiteral("Zelk.Clutter"), QStringLiteral("ClutterView"), "module",
+             static_cast<ModuleScreenModel*>(&clutter), size);
+    }
+    QQuickItem& list() { return *find("clutterList"); }
+    int current() { return list().property("currentIndex").toInt(); }
+    std::string currentName() { return pathOf(current()); }
+    std::string pathOf(int row) { return clutter.rows()->pathAt(row); }
+    void tabToTheList() {
+        for (int stop = 0; stop < 5 && focusName() != "Files"; ++stop) press(Qt::Key_Tab);
+        ASSERT_EQ(focusName(), "Files");
+    }
+    bool menuIsOpen() { return find("trashFile") != nullptr; }
+    void openMenuByKey() {
+        press(Qt::Key_Return);
+        ASSERT_TRUE(menuIsOpen());
+    }
+    /// In the middle of a row that is in sight.
+    QPoint middleOf(int row) {
+        QQuickItem* button = find(("fileMenu" + std::to_string(row)).c_str());
+        return button->mapToScene(QPointF(-300, button->height() / 2)).toPoint();
+    }
+    QQuickItem* words(const std::string& text) {
+        for (QQuickItem* item : seen())
+            if (item->inherits("QQuickText") && item->property("text").toString().toStdString() == text) return item;
+        return nullptr;
+    }
+    void largeText(double factor) {
+        singleton<TextScale>("TextScale").setFactor(factor);
+        settle();
+    }
+
+    ClutterScreenModel clutter{model()};
+};
+
+}  // namespace
+
+TEST_F(ClutterWindow, showsItsHeadAndEveryTextOfEveryRow) {
+    open();
+    const Strings texts = seenTexts();
+    EXPECT_EQ(std::count(texts.begin(), texts.end(), "Clutter"), 2);
+    for (const char* text : {"Find your largest and oldest files — videos, downloads, disk images, forgotten archives.",
+                             "the heaviest files in your survey", "Largest", "Oldest", "All", "Video", "Disk images",
+                             "Archives", "Documents", "film.mov", "3 GB", "1d ago", "old.mp4", "3y ago", "800 MB"})
+        EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
+    EXPECT_EQ(std::count(texts.begin(), texts.end(), "/home/me/projects"), 2);
+    EXPECT_THAT(texts, Not(Contains("Nothing heavy")));
+}
+
+TEST_F(ClutterWindow, saysThatNothingIsHeavyWhereThereIsNoFile) {
+    survey();
+    open();
+    EXPECT_THAT(seenTexts(), Contains("Nothing heavy"));
+    EXPECT_THAT(seenTexts(), Contains("No large files turned up in this survey."));
+    EXPECT_EQ(find("clutterList"), nullptr);
+    expectNoTextClipped();
+}
+
+TEST_F(ClutterWindow, ageAndSizeHaveTheirColumns) {
+    open();
+    EXPECT_EQ(words("1d ago")->width(), 90);
+    EXPECT_EQ(words("3 GB")->width(), 86);
+    largeText(1.5);
+    EXPECT_EQ(words("1d ago")->width(), 135);
+    EXPECT_EQ(words("3 GB")->width(), 129);
+    largeText(1);
+}
+
+TEST_F(ClutterWindow, clipsNoTextInLargePrintAndALittleWindow) {
+    open({726, 592});
+    expectNoTextClipped();
+    largeText(1.5);
+    expectNoTextClipped();
+    largeText(1);
+}
+
+TEST_F(ClutterWindow, aLongNameIsShortenedInTheMiddleAndLeavesTheColumnsAlone) {
+    machine.directories.file(home + "/" + std::string(200, 'n') + "/" + std::string(200, 'm') + ".mov", 4'000'000'000,
+                             static_cast<TimePoint>(machine.clock.now() - 400 * secondsPerDay));
+    open({726, 592});
+    ASSERT_NE(words("4 GB"), nullptr);
+    EXPECT_FALSE(words("4 GB")->property("truncated").toBool());
+    EXPECT_FALSE(words("1y ago")->property("truncated").toBool());
+    QQuickItem* name = words(std::string(200, 'm') + ".mov");
+    ASSERT_NE(name, nullptr);
+    EXPECT_TRUE(name->property("truncated").toBool());
+    EXPECT_EQ(name->property("lineCount").toInt(), 1);
+    EXPECT_LE(name->mapToScene(QPointF(name->width(), 0)).x(), words("1y ago")->mapToScene(QPointF()).x());
+}
+
+TEST_F(ClutterWindow, hasThreeStopsForTheTabKeyAndBeginsInTheList) {
+    open();
+    EXPECT_EQ(focusName(), "Files");
+    EXPECT_THAT(tabOrder(), ElementsAre("Files", "Largest", "All"));
+}
+
+TEST_F(ClutterWindow, namesAllItsControlsAndItsRows) {
+    open();
+    expectAllControlsNamed();
+    Strings named;
+    for (QQuickItem* item : seen()) named.push_back(nameOf(item));
+    for (const char* name : {"film.mov, /home/me/projects, 1d ago, 3 GB", "old.mp4, /home/me, 3y ago, 800 MB",
+                             "Actions for film.mov", "Order", "Type of files"})
+        EXPECT_THAT(named, Contains(name));
+}
+
+TEST_F(ClutterWindow, theKeysGoThroughTheRows) {
+    open();
+    tabToTheList();
+    EXPECT_EQ(current(), 0);
+    const std::pair<Qt::Key, int> keys[] = {{Qt::Key_Down, 1}, {Qt::Key_Down, 2},     {Qt::Key_Up, 1},
+                                            {Qt::Key_End, 4},  {Qt::Key_Down, 4},     {Qt::Key_Home, 0},
+                                            {Qt::Key_Up, 0},   {Qt::Key_PageDown, 4}, {Qt::Key_PageUp, 0}};
+    for (const auto& [key, row] : keys) {
+        press(key);
+        EXPECT_EQ(current(), row) << key;
+        EXPECT_EQ(focusName(), "Files");
+        EXPECT_TRUE(list().property("ringed").toBool());
+    }
+}
+
+TEST_F(ClutterWindow, theCurrentRowStaysInSight) {
+    for (int file = 0; file < 60; ++file)
+        machine.directories.file(home + "/" + std::to_string(file) + ".bin", 1'000'000U + static_cast<unsigned>(file));
+    open();
+    tabToTheList();
+    press(Qt::Key_End);
+    auto* row = list().property("currentItem").value<QQuickItem*>();
+    ASSERT_NE(row, nullptr);
+    EXPECT_LE(row->mapToItem(&list(), QPointF(0, row->height())).y(), list().height());
+    press(Qt::Key_Home);
+    row = list().property("currentItem").value<QQuickItem*>();
+    EXPECT_GE(row->mapToItem(&list(), QPointF()).y(), 0);
+}
+
+TEST_F(ClutterWindow, anotherOrderBeginsAtTheTop) {
+    for (int file = 0; file < 60; ++file)
+        machine.directories.file(home + "/" + std::to_string(file) + ".bin", 1'000'000U + static_cast<unsigned>(file));
+    open();
+    tabToTheList();
+    press(Qt::Key_End);
+    clutter.sort(1);
+    settle();
+    EXPECT_EQ(current(), 0);
+    EXPECT_LE(list().property("contentY").toReal(), 0);
+}
+
+TEST_F(ClutterWindow, enterOpensTheMenuOfTheRow) {
+    open();
+    tabToTheList();
+    press(Qt::Key_Down);
+    openMenuByKey();
+    EXPECT_THAT(seenTexts(), Contains("Reveal in Finder"));
+    EXPECT_THAT(seenTexts(), Contains("Move to Trash"));
+    EXPECT_EQ(words("Move to Trash")->property("color").value<QColor>(), singleton<Theme>("Theme").alertText());
+    press(Qt::Key_Return);
+    EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/projects/system.iso"}));
+    EXPECT_FALSE(menuIsOpen());
+    EXPECT_EQ(focusName(), "Files");
+    EXPECT_EQ(current(), 1);
+}
+
+TEST_F(ClutterWindow, soDoTheMenuKeyAndItsStandIn) {
+    open();
+    tabToTheList();
+    press(Qt::Key_Menu);
+    EXPECT_TRUE(menuIsOpen());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(menuIsOpen());
+    EXPECT_EQ(focusName(), "Files");
+    QTest::keyClick(&window(), Qt::Key_F10, Qt::ShiftModifier);
+    settle();
+    EXPECT_TRUE(menuIsOpen());
+    press(Qt::Key_Escape);
+    press(Qt::Key_F10);
+    EXPECT_FALSE(menuIsOpen());
+    EXPECT_TRUE(list().property("ringed").toBool());
+}
+
+TEST_F(ClutterWindow, theMenuMovesItsFileToTheTrashAndTheKeyboardStaysInTheList) {
+    open();
+    tabToTheList();
+    press(Qt::Key_Down);
+    openMenuByKey();
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/system.iso"});
+    EXPECT_EQ(focusName(), "Files");
+    EXPECT_EQ(currentName(), home + "/backup.zip");
+    EXPECT_TRUE(list().property("ringed").toBool());
+}
+
+TEST_F(ClutterWindow, theDeleteKeyMovesTheFileToTheTrashAndGoesOnToTheNext) {
+    open();
+    tabToTheList();
+    press(Qt::Key_Down);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/system.iso"});
+    EXPECT_EQ(currentName(), home + "/backup.zip");
+    EXPECT_EQ(focusName(), "Files");
+    press(Qt::Key_End);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(currentName(), home + "/old.mp4");
+    EXPECT_TRUE(list().property("ringed").toBool());
+}
+
+TEST_F(ClutterWindow, aHeldDeleteKeyTakesOneFile) {
+    open();
+    tabToTheList();
+    press(Qt::Key_Delete);
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(&window(), &again);
+    settle();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/film.mov"});
+}
+
+TEST_F(ClutterWindow, aRowThatDoesNotGoKeepsTheKeyboard) {
+    open();
+    machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
+    tabToTheList();
+    press(Qt::Key_Down);
+    const Strings before = seenTexts();
+    press(Qt::Key_Delete);
+    EXPECT_EQ(seenTexts(), before);
+    EXPECT_EQ(current(), 1);
+    EXPECT_EQ(focusName(), "Files");
+}
+
+TEST_F(ClutterWindow, theRightButtonOpensTheMenuOfTheRowUnderIt) {
+    open();
+    QTest::mouseClick(&window(), Qt::RightButton, {}, middleOf(2));
+    settle();
+    ASSERT_TRUE(menuIsOpen());
+    EXPECT_EQ(current(), 2);
+    click("trashFile");
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/backup.zip"});
+    EXPECT_FALSE(menuIsOpen());
+}
+
+TEST_F(ClutterWindow, soDoesTheButtonOfTheRow) {
+    open();
+    click("fileMenu3");
+    ASSERT_TRUE(menuIsOpen());
+    click("revealFile");
+    EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/old.mp4"}));
+    EXPECT_FALSE(list().property("ringed").toBool());
+}
+
+TEST_F(ClutterWindow, aPressTakesTheRow) {
+    open();
+    tour::clickAt(window(), middleOf(3));
+    settle();
+    EXPECT_EQ(current(), 3);
+    EXPECT_EQ(focusName(), "Files");
+    EXPECT_FALSE(list().property("ringed").toBool());
+    press(Qt::Key_Up);
+    EXPECT_EQ(current(), 2);
+    EXPECT_TRUE(list().property("ringed").toBool());
+}
+
+TEST_F(ClutterWindow, theArrowsChooseAmongPillsAndOrders) {
+    open();
+    for (int stop = 0; stop < 5 && focusName() != "All"; ++stop) press(Qt::Key_Tab);
+    press(Qt::Key_Right);
+    EXPECT_EQ(clutter.typeFilter(), FileType::video);
+    EXPECT_EQ(focusName(), "Video");
+    EXPECT_TRUE(focusIsRinged());
+    press(Qt::Key_Left);
+    press(Qt::Key_Left);
+    EXPECT_EQ(clutter.typeFilter(), std::nullopt);
+    for (int stop = 0; stop < 5 && focusName() != "Largest"; ++stop) press(Qt::Key_Tab);
+    press(Qt::Key_Right);
+    EXPECT_TRUE(clutter.sortByAge());
+    EXPECT_EQ(focusName(), "Oldest");
+}
+
+TEST_F(ClutterWindow, aPillIsPressed) {
+    open();
+    click("typePill3");
+    EXPECT_EQ(clutter.typeFilter(), FileType::archive);
+    EXPECT_THAT(seenTexts(), Not(Contains("film.mov")));
+    click("typePill0");
+    EXPECT_THAT(seenTexts(), Contains("film.mov"));
+}
+
+TEST_F(ClutterWindow, theLastFileOfATypeLeavesAnEmptyListUnderTheHead) {
+    open();
+    click("typePill3");
+    tabToTheList();
+    press(Qt::Key_Delete);
+    EXPECT_EQ(list().property("count").toInt(), 0);
+    EXPECT_THAT(seenTexts(), Not(Contains("Nothing heavy")));
+    EXPECT_THAT(seenTexts(), Contains("the heaviest files in your survey"));
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_Delete, Qt::Key_Menu, Qt::Key_End}) press(key);
+    EXPECT_FALSE(menuIsOpen());
+    EXPECT_EQ(machine.trash.trashed().size(), 1U);
+    click("typePill0");
+    EXPECT_THAT(seenTexts(), Contains("film.mov"));
+}
+
+TEST_F(ClutterWindow, theMenuClosesWhenItsListGoes) {
+    open();
+    click("fileMenu0");
+    ASSERT_TRUE(menuIsOpen());
+    addWideFolder(home + "/wide");
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    settle();
+    EXPECT_FALSE(menuIsOpen());
+    machine.directories.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+}  // namespace zelk
