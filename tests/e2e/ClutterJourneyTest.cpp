@@ -15,14 +15,25 @@ using Strings = std::vector<std::string>;
 
 class ClutterJourney : public ShellFixture {
 protected:
-    ClutterJourney() { fakes::fillWithClutter(machine, home); }
+    ClutterJourney() {
+        fakes::fillWithClutter(machine, home);
+        for (const char* file : {"/projects/film.mov", "/projects/system.iso"}) machine.files.addFile(home + file);
+    }
 
     void waitForTheSurvey() {
         runUntil([&] { return model().scanPhase() == Phase::finished; });
         runUntil([&] { return !model().trashLoading(); });
         window().grabWindow();
     }
-    std::string focusSaid() { return window().activeFocusItem()->property("name").toString().toStdString(); }
+    void clickWord(const char* word) {
+        QQuickItem* item = showing(QString::fromLatin1(word));
+        ASSERT_NE(item, nullptr) << word;
+        tour::clickAt(window(), item->mapToScene(item->boundingRect().center()));
+    }
+    bool listHasKeyboard() {
+        const QQuickItem* list = find("clutterList");
+        return list != nullptr && list->hasActiveFocus();
+    }
     std::vector<std::string> typesOnTheOverview() {
         std::vector<std::string> figures;
         for (const auto& [type, tally] : model().sortedTypeTotals())
@@ -40,13 +51,11 @@ TEST_F(ClutterJourney, withTheMouse) {
         QStringLiteral("Find your largest and oldest files — videos, downloads, disk images, forgotten archives.")));
     click("moduleScanButton");
     waitForTheSurvey();
-    ASSERT_TRUE(shows(QStringLiteral("film.mov")));
+    ASSERT_TRUE(shows(QStringLiteral("concert.mov")));
     const auto types = typesOnTheOverview();
 
     // The oldest video.
-    QQuickItem* byAge = showing(QStringLiteral("Oldest"));
-    ASSERT_NE(byAge, nullptr);
-    tour::clickAt(window(), byAge->mapToScene(byAge->boundingRect().center()));
+    clickWord("Oldest");
     click("typePill1");
     EXPECT_FALSE(shows(QStringLiteral("backup.zip")));
     click("fileMenu0");
@@ -61,6 +70,7 @@ TEST_F(ClutterJourney, withTheMouse) {
 
     // Everything else is still there.
     click("typePill0");
+    clickWord("Largest");
     EXPECT_TRUE(shows(QStringLiteral("backup.zip")));
     const std::string gone = machine.trash.trashed().front();
     EXPECT_FALSE(shows(QString::fromStdString(gone.substr(gone.rfind('/') + 1))));
@@ -77,9 +87,8 @@ TEST_F(ClutterJourney, withTheKeyboardAlone) {
     ASSERT_EQ(focusName(), QStringLiteral("moduleScanButton"));
     press(Qt::Key_Return);
     waitForTheSurvey();
-    for (int stop = 0; stop < 40 && focusName() != QStringLiteral("clutterList"); ++stop) press(Qt::Key_Tab);
-    ASSERT_EQ(focusName(), QStringLiteral("clutterList"));
-    EXPECT_EQ(focusSaid(), "Files");
+    for (int stop = 0; stop < 40 && !listHasKeyboard(); ++stop) press(Qt::Key_Tab);
+    ASSERT_TRUE(listHasKeyboard());
 
     // The second row's menu, and what it does.
     const std::vector<LargeFile> files = model().insights().topFiles;
@@ -90,14 +99,14 @@ TEST_F(ClutterJourney, withTheKeyboardAlone) {
     press(Qt::Key_Return);
     EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{files[1].path}));
     runWhatIsThere();
-    ASSERT_EQ(focusName(), QStringLiteral("clutterList"));
+    ASSERT_TRUE(listHasKeyboard());
     press(Qt::Key_Return);
     window().grabWindow();
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     runUntil([&] { return machine.trash.trashed().size() == 1; });
     runWhatIsThere();
-    ASSERT_EQ(focusName(), QStringLiteral("clutterList"));
+    ASSERT_TRUE(listHasKeyboard());
     press(Qt::Key_Delete);
     runUntil([&] { return machine.trash.trashed().size() == 2; });
     runWhatIsThere();

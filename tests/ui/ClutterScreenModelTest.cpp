@@ -100,7 +100,7 @@ TEST_F(Clutter, followsTheSurveyThatItsButtonBegins) {
         [&] { return model().itemsScanned() > 0 && screen().scanDetail().toStdString() == model().progressLine(); });
     machine.directories.release();
     runUntil([&] { return screen().results(); });
-    EXPECT_EQ(names().front(), "film.mov");
+    EXPECT_EQ(names().front(), "concert.mov");
 }
 
 TEST_F(Clutter, showsASurveyThatWasThereBefore) {
@@ -120,8 +120,8 @@ TEST_F(Clutter, aSurveyWithoutAnyFileHasNothingHeavy) {
 TEST_F(Clutter, theLargestComeFirst) {
     surveyClutter();
     EXPECT_FALSE(screen().sortByAge());
-    EXPECT_THAT(names(), ElementsAre("film.mov", "system.iso", "backup.zip", "old.mp4", "notes.pdf"));
-    EXPECT_THAT(texts(*screen().rows(), "size"), ElementsAre("3 GB", "2 GB", "900 MB", "800 MB", "700 MB"));
+    EXPECT_THAT(names(), ElementsAre("concert.mov", "setup.iso", "backup.zip", "old.mp4", "notes.pdf"));
+    EXPECT_THAT(texts(*screen().rows(), "size"), ElementsAre("4 GB", "2 GB", "900 MB", "800 MB", "700 MB"));
 }
 
 TEST_F(Clutter, orTheOldest) {
@@ -130,13 +130,13 @@ TEST_F(Clutter, orTheOldest) {
     screen().sort(oldest);
     EXPECT_TRUE(screen().sortByAge());
     EXPECT_EQ(screen().order(), oldest);
-    EXPECT_THAT(names(), ElementsAre("old.mp4", "backup.zip", "notes.pdf", "film.mov", "system.iso"));
+    EXPECT_THAT(names(), ElementsAre("old.mp4", "backup.zip", "notes.pdf", "concert.mov", "setup.iso"));
     EXPECT_THAT(texts(*screen().rows(), "age"), ElementsAre("3y ago", "2mo ago", "2d ago", "1d ago", "today"));
     EXPECT_EQ(rearranged.size(), 1);
     screen().sort(oldest);
     EXPECT_EQ(rearranged.size(), 1);
     screen().sort(largest);
-    EXPECT_EQ(names().front(), "film.mov");
+    EXPECT_EQ(names().front(), "concert.mov");
 }
 
 TEST_F(Clutter, ofTheSameAgeTheLargestComeFirst) {
@@ -162,10 +162,10 @@ TEST_F(Clutter, aPillNarrowsTheListToItsType) {
     const QSignalSpy rearranged(&screen(), &ClutterScreenModel::rearranged);
     filter("Video");
     EXPECT_EQ(screen().typeFilter(), FileType::video);
-    EXPECT_THAT(names(), ElementsAre("film.mov", "old.mp4"));
+    EXPECT_THAT(names(), ElementsAre("concert.mov", "old.mp4"));
     EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("Video"));
     screen().sort(oldest);
-    EXPECT_THAT(names(), ElementsAre("old.mp4", "film.mov"));
+    EXPECT_THAT(names(), ElementsAre("old.mp4", "concert.mov"));
     filter("Documents");
     EXPECT_THAT(names(), ElementsAre("notes.pdf"));
     filter("All");
@@ -218,16 +218,16 @@ TEST_F(Clutter, withoutARowNothingIsDone) {
 
 TEST_F(Clutter, aFileGoesToTheTrashWithoutAQuestion) {
     surveyClutter();
-    trash("system.iso");
-    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/system.iso"});
-    EXPECT_THAT(names(), ElementsAre("film.mov", "backup.zip", "old.mp4", "notes.pdf"));
+    trash("setup.iso");
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/setup.iso"});
+    EXPECT_THAT(names(), ElementsAre("concert.mov", "backup.zip", "old.mp4", "notes.pdf"));
 }
 
 TEST_F(Clutter, aFileThatDoesNotGoStaysInItsRowWithoutAMessage) {
     surveyClutter();
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     const QSignalSpy removed(screen().rows(), &QAbstractItemModel::rowsRemoved);
-    trash("system.iso");
+    trash("setup.iso");
     EXPECT_EQ(names().size(), 5U);
     EXPECT_EQ(removed.size(), 0);
 }
@@ -235,7 +235,7 @@ TEST_F(Clutter, aFileThatDoesNotGoStaysInItsRowWithoutAMessage) {
 TEST_F(Clutter, theTotalsGoOnCountingAFileThatWent) {
     surveyClutter();
     const auto before = model().sortedTypeTotals();
-    trash("film.mov");
+    trash("concert.mov");
     trash("backup.zip");
     EXPECT_EQ(model().sortedTypeTotals(), before);
     EXPECT_THAT(pills(), ElementsAre("All", "Video", "Disk images", "Archives", "Documents"));
@@ -279,19 +279,19 @@ TEST_F(Clutter, orderAndFilterLastFromSurveyToSurvey) {
     screen().sort(oldest);
     filter("Video");
     survey();
-    EXPECT_THAT(names(), ElementsAre("old.mp4", "film.mov"));
+    EXPECT_THAT(names(), ElementsAre("old.mp4", "concert.mov"));
     EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("Video"));
 }
 
 TEST_F(Clutter, whatWasPickedIsMeantAlsoWhenRowsComeAndGo) {
     surveyClutter();
     screen().pick(2);
-    model().trashLargeFile(home + "/projects/film.mov");
+    model().trashLargeFile(home + "/media/concert.mov");
     runWhatIsThere();
     screen().sort(oldest);
     screen().moveToTrash();
     runWhatIsThere();
-    EXPECT_EQ(machine.trash.trashed(), (Strings{home + "/projects/film.mov", home + "/backup.zip"}));
+    EXPECT_EQ(machine.trash.trashed(), (Strings{home + "/media/concert.mov", home + "/backup.zip"}));
 }
 
 TEST_F(Clutter, keepsItsRowsWhileAnotherSurveyRuns) {

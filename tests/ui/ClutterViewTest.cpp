@@ -31,12 +31,13 @@ protected:
              static_cast<ModuleScreenModel*>(&clutter), size);
     }
     QQuickItem& list() { return *find("clutterList"); }
+    bool listHasKeyboard() { return list().hasActiveFocus(); }
     int current() { return list().property("currentIndex").toInt(); }
     std::string currentName() { return pathOf(current()); }
     std::string pathOf(int row) { return clutter.rows()->pathAt(row); }
     void tabToTheList() {
-        for (int stop = 0; stop < 5 && focusName() != "Files"; ++stop) press(Qt::Key_Tab);
-        ASSERT_EQ(focusName(), "Files");
+        for (int stop = 0; stop < 5 && !listHasKeyboard(); ++stop) press(Qt::Key_Tab);
+        ASSERT_TRUE(listHasKeyboard());
     }
     bool menuIsOpen() { return find("trashFile") != nullptr; }
     void openMenuByKey() {
@@ -69,9 +70,9 @@ TEST_F(ClutterWindow, showsItsHeadAndEveryTextOfEveryRow) {
     EXPECT_EQ(std::count(texts.begin(), texts.end(), "Clutter"), 2);
     for (const char* text : {"Find your largest and oldest files — videos, downloads, disk images, forgotten archives.",
                              "the heaviest files in your survey", "Largest", "Oldest", "All", "Video", "Disk images",
-                             "Archives", "Documents", "film.mov", "3 GB", "1d ago", "old.mp4", "3y ago", "800 MB"})
+                             "Archives", "Documents", "concert.mov", "4 GB", "1d ago", "old.mp4", "3y ago", "800 MB"})
         EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
-    EXPECT_EQ(std::count(texts.begin(), texts.end(), "/home/me/projects"), 2);
+    EXPECT_EQ(std::count(texts.begin(), texts.end(), "/home/me/media"), 2);
     EXPECT_THAT(texts, Not(Contains("Nothing heavy")));
 }
 
@@ -87,10 +88,10 @@ TEST_F(ClutterWindow, saysThatNothingIsHeavyWhereThereIsNoFile) {
 TEST_F(ClutterWindow, ageAndSizeHaveTheirColumns) {
     open();
     EXPECT_EQ(words("1d ago")->width(), 90);
-    EXPECT_EQ(words("3 GB")->width(), 86);
+    EXPECT_EQ(words("4 GB")->width(), 86);
     largeText(1.5);
     EXPECT_EQ(words("1d ago")->width(), 135);
-    EXPECT_EQ(words("3 GB")->width(), 129);
+    EXPECT_EQ(words("4 GB")->width(), 129);
     largeText(1);
 }
 
@@ -103,11 +104,11 @@ TEST_F(ClutterWindow, clipsNoTextInLargePrintAndALittleWindow) {
 }
 
 TEST_F(ClutterWindow, aLongNameIsShortenedInTheMiddleAndLeavesTheColumnsAlone) {
-    machine.directories.file(home + "/" + std::string(200, 'n') + "/" + std::string(200, 'm') + ".mov", 4'000'000'000,
+    machine.directories.file(home + "/" + std::string(200, 'n') + "/" + std::string(200, 'm') + ".mov", 5'000'000'000,
                              static_cast<TimePoint>(machine.clock.now() - 400 * secondsPerDay));
     open({726, 592});
-    ASSERT_NE(words("4 GB"), nullptr);
-    EXPECT_FALSE(words("4 GB")->property("truncated").toBool());
+    ASSERT_NE(words("5 GB"), nullptr);
+    EXPECT_FALSE(words("5 GB")->property("truncated").toBool());
     EXPECT_FALSE(words("1y ago")->property("truncated").toBool());
     QQuickItem* name = words(std::string(200, 'm') + ".mov");
     ASSERT_NE(name, nullptr);
@@ -118,8 +119,9 @@ TEST_F(ClutterWindow, aLongNameIsShortenedInTheMiddleAndLeavesTheColumnsAlone) {
 
 TEST_F(ClutterWindow, hasThreeStopsForTheTabKeyAndBeginsInTheList) {
     open();
-    EXPECT_EQ(focusName(), "Files");
-    EXPECT_THAT(tabOrder(), ElementsAre("Files", "Largest", "All"));
+    EXPECT_TRUE(listHasKeyboard());
+    const std::string row = "concert.mov, /home/me/media, 1d ago, 4 GB";
+    EXPECT_THAT(tabOrder(), ElementsAre(row, "Largest", "All"));
 }
 
 TEST_F(ClutterWindow, namesAllItsControlsAndItsRows) {
@@ -127,8 +129,8 @@ TEST_F(ClutterWindow, namesAllItsControlsAndItsRows) {
     expectAllControlsNamed();
     Strings named;
     for (QQuickItem* item : seen()) named.push_back(nameOf(item));
-    for (const char* name : {"film.mov, /home/me/projects, 1d ago, 3 GB", "old.mp4, /home/me, 3y ago, 800 MB",
-                             "Actions for film.mov", "Order", "Type of files"})
+    for (const char* name : {"concert.mov, /home/me/media, 1d ago, 4 GB", "old.mp4, /home/me, 3y ago, 800 MB",
+                             "Actions for concert.mov", "Order", "Type of files"})
         EXPECT_THAT(named, Contains(name));
 }
 
@@ -142,7 +144,7 @@ TEST_F(ClutterWindow, theKeysGoThroughTheRows) {
     for (const auto& [key, row] : keys) {
         press(key);
         EXPECT_EQ(current(), row) << key;
-        EXPECT_EQ(focusName(), "Files");
+        EXPECT_TRUE(listHasKeyboard());
         EXPECT_TRUE(list().property("ringed").toBool());
     }
 }
@@ -170,7 +172,7 @@ TEST_F(ClutterWindow, anotherOrderBeginsAtTheTop) {
     clutter.sort(1);
     settle();
     EXPECT_EQ(current(), 0);
-    EXPECT_LE(list().property("contentY").toReal(), 0);
+    EXPECT_TRUE(list().property("atYBeginning").toBool());
 }
 
 TEST_F(ClutterWindow, enterOpensTheMenuOfTheRow) {
@@ -182,9 +184,9 @@ TEST_F(ClutterWindow, enterOpensTheMenuOfTheRow) {
     EXPECT_THAT(seenTexts(), Contains("Move to Trash"));
     EXPECT_EQ(words("Move to Trash")->property("color").value<QColor>(), singleton<Theme>("Theme").alertText());
     press(Qt::Key_Return);
-    EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/projects/system.iso"}));
+    EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/media/setup.iso"}));
     EXPECT_FALSE(menuIsOpen());
-    EXPECT_EQ(focusName(), "Files");
+    EXPECT_TRUE(listHasKeyboard());
     EXPECT_EQ(current(), 1);
 }
 
@@ -195,7 +197,7 @@ TEST_F(ClutterWindow, soDoTheMenuKeyAndItsStandIn) {
     EXPECT_TRUE(menuIsOpen());
     press(Qt::Key_Escape);
     EXPECT_FALSE(menuIsOpen());
-    EXPECT_EQ(focusName(), "Files");
+    EXPECT_TRUE(listHasKeyboard());
     QTest::keyClick(&window(), Qt::Key_F10, Qt::ShiftModifier);
     settle();
     EXPECT_TRUE(menuIsOpen());
@@ -212,8 +214,8 @@ TEST_F(ClutterWindow, theMenuMovesItsFileToTheTrashAndTheKeyboardStaysInTheList)
     openMenuByKey();
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/system.iso"});
-    EXPECT_EQ(focusName(), "Files");
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/setup.iso"});
+    EXPECT_TRUE(listHasKeyboard());
     EXPECT_EQ(currentName(), home + "/backup.zip");
     EXPECT_TRUE(list().property("ringed").toBool());
 }
@@ -223,9 +225,9 @@ TEST_F(ClutterWindow, theDeleteKeyMovesTheFileToTheTrashAndGoesOnToTheNext) {
     tabToTheList();
     press(Qt::Key_Down);
     press(Qt::Key_Delete);
-    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/system.iso"});
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/setup.iso"});
     EXPECT_EQ(currentName(), home + "/backup.zip");
-    EXPECT_EQ(focusName(), "Files");
+    EXPECT_TRUE(listHasKeyboard());
     press(Qt::Key_End);
     press(Qt::Key_Delete);
     EXPECT_EQ(currentName(), home + "/old.mp4");
@@ -239,7 +241,7 @@ TEST_F(ClutterWindow, aHeldDeleteKeyTakesOneFile) {
     QKeyEvent again(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(), true);
     QCoreApplication::sendEvent(&window(), &again);
     settle();
-    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/film.mov"});
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/concert.mov"});
 }
 
 TEST_F(ClutterWindow, aRowThatDoesNotGoKeepsTheKeyboard) {
@@ -251,7 +253,7 @@ TEST_F(ClutterWindow, aRowThatDoesNotGoKeepsTheKeyboard) {
     press(Qt::Key_Delete);
     EXPECT_EQ(seenTexts(), before);
     EXPECT_EQ(current(), 1);
-    EXPECT_EQ(focusName(), "Files");
+    EXPECT_TRUE(listHasKeyboard());
 }
 
 TEST_F(ClutterWindow, theRightButtonOpensTheMenuOfTheRowUnderIt) {
@@ -279,7 +281,7 @@ TEST_F(ClutterWindow, aPressTakesTheRow) {
     tour::clickAt(window(), middleOf(3));
     settle();
     EXPECT_EQ(current(), 3);
-    EXPECT_EQ(focusName(), "Files");
+    EXPECT_TRUE(listHasKeyboard());
     EXPECT_FALSE(list().property("ringed").toBool());
     press(Qt::Key_Up);
     EXPECT_EQ(current(), 2);
@@ -306,9 +308,9 @@ TEST_F(ClutterWindow, aPillIsPressed) {
     open();
     click("typePill3");
     EXPECT_EQ(clutter.typeFilter(), FileType::archive);
-    EXPECT_THAT(seenTexts(), Not(Contains("film.mov")));
+    EXPECT_THAT(seenTexts(), Not(Contains("concert.mov")));
     click("typePill0");
-    EXPECT_THAT(seenTexts(), Contains("film.mov"));
+    EXPECT_THAT(seenTexts(), Contains("concert.mov"));
 }
 
 TEST_F(ClutterWindow, theLastFileOfATypeLeavesAnEmptyListUnderTheHead) {
@@ -323,7 +325,7 @@ TEST_F(ClutterWindow, theLastFileOfATypeLeavesAnEmptyListUnderTheHead) {
     EXPECT_FALSE(menuIsOpen());
     EXPECT_EQ(machine.trash.trashed().size(), 1U);
     click("typePill0");
-    EXPECT_THAT(seenTexts(), Contains("film.mov"));
+    EXPECT_THAT(seenTexts(), Contains("concert.mov"));
 }
 
 TEST_F(ClutterWindow, theMenuClosesWhenItsListGoes) {

@@ -86,8 +86,9 @@ FocusScope {
         Connections {
             target: files.clutter
             function onRearranged() {
+                list.forceLayout();
                 list.currentIndex = Math.min(0, list.count - 1);
-                list.positionViewAtBeginning();
+                list.contentY = list.originY - list.topMargin;
             }
         }
     }

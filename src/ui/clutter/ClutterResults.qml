@@ -9,6 +9,8 @@ import Zelk.Components
 FocusScope {
     id: results
 
+    focus: true
+
     // Given by the scaffold.
     property ClutterScreenModel module: null
 
@@ -39,5 +41,6 @@ FocusScope {
         visible: !results.nothing
         enabled: visible
         focus: true
+        onLoaded: files.item.focus = true
     }
 }

@@ -27,7 +27,11 @@ Item {
     signal taken
     signal asked(point at)
 
-    width: ListView.view.width
+    // One that waits to be another row is none to a screen reader.
+    ListView.onPooled: row.visible = false
+    ListView.onReused: row.visible = true
+
+    width: ListView.view?.width ?? 0
     implicitHeight: Math.max(tile.height, texts.implicitHeight) + 2 * 10
 
     Accessible.role: Accessible.ListItem

@@ -59,6 +59,7 @@ Item {
             text: header.subtitle
             size: 11
             soft: true
+            wrapMode: Text.WordWrap
             visible: text !== ""
         }
     }
