@@ -27,8 +27,7 @@ protected:
             fakes::fillWithClutter(machine, home);
             survey();
         }
-        show(QStringLiteral("Zelk.Clutter"), QStringLiteral("ClutterView"), "module",
-             static_cast<ModuleScreenModel*>(&clutter), size);
+        show(QStringLiteral("Zelk.Clutter"), QStringLiteral("ClutterView"), "clutter", &clutter, size);
     }
     QQuickItem& list() { return *find("clutterList"); }
     bool listHasKeyboard() { return list().hasActiveFocus(); }

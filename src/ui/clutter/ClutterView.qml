@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The heaviest files. (A bound component could not be built in the scaffold.)
-
 import QtQuick
 import Zelk.Clutter
 import Zelk.Navigation
@@ -9,18 +8,21 @@ import Zelk.Theme
 ModuleScaffold {
     id: view
 
+    required property ClutterScreenModel clutter
+
+    module: view.clutter
     content: Component {
         ClutterResults {}
     }
 
     Binding {
-        target: view.module as ClutterScreenModel
+        target: view.clutter
         property: "onScreen"
         value: view.visible
     }
 
     Binding {
-        target: view.module as ClutterScreenModel
+        target: view.clutter
         property: "dark"
         value: Theme.isDark
     }

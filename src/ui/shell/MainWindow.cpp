@@ -132,8 +132,8 @@ std::vector<DetailPages::Page> MainWindow::makePages() {
                 pages.push_back({view("Lens/LensView"), [this] { return as("lens", &madeOnce(lens_, app_)); }});
                 break;
             case Screen::clutter:
-                pages.push_back({view("Clutter/ClutterView"),
-                                 [this] { return as<ModuleScreenModel>("module", &madeOnce(clutter_, app_)); }});
+                pages.push_back(
+                    {view("Clutter/ClutterView"), [this] { return as("clutter", &madeOnce(clutter_, app_)); }});
                 break;
             case Screen::tools:
                 pages.push_back({view("Tools/ToolsView"), [this] { return as("tools", &madeOnce(tools_, app_)); }});
