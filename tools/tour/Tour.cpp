@@ -67,8 +67,8 @@ bool Tour::run() {
 bool Tour::inTheme(bool dark) {
     app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
     theme_ = dark ? QStringLiteral("dark") : QStringLiteral("light");
-    return idle() && heroes() && survey(!dark) && findings() && lens() && changes() && reclaim() && sidebarAndMenus() &&
-           windows() && firstRun() && smallAndLarge() && focus();
+    return idle() && heroes() && survey(!dark) && findings() && lens() && changes() && reclaim() && clutter() &&
+           sidebarAndMenus() && windows() && firstRun() && smallAndLarge() && focus();
 }
 
 /// From the results of the last survey back to the start.
@@ -207,6 +207,30 @@ bool Tour::cleanUp(const QString& from) {
     return true;
 }
 
+/// The heaviest files in either order, those of one type, and what can be done to one.
+bool Tour::clutter() {
+    if (!go(Screen::clutter) || !appears(window_.window(), "clutterList")) return missed("the heaviest files");
+    if (!picture(QStringLiteral("clutter-largest"))) return false;
+    findControl(window_.window(), QStringLiteral("clutterList"))->forceActiveFocus();
+    pressKey(window_.window(), Qt::Key_Home);
+    pressKey(window_.window(), Qt::Key_Down);
+    pressKey(window_.window(), Qt::Key_Return);
+    if (!appears(window_.window(), "trashFile")) return missed("the menu of a file");
+    if (!picture(QStringLiteral("clutter-menu"))) return false;
+    pressKey(window_.window(), Qt::Key_Escape);
+    if (!picture(QStringLiteral("clutter-focus"))) return false;
+    const QQuickItem* order = findControl(window_.window(), QStringLiteral("orderPicker"));
+    const auto pressOrder = [&](double share) {
+        clickAt(window_.window(), order->mapToScene(QPointF(share * order->width(), order->height() / 2)));
+    };
+    pressOrder(0.75);
+    if (!picture(QStringLiteral("clutter-oldest"))) return false;
+    pressOrder(0.25);
+    if (!clickOn(window_.window(), QStringLiteral("typePill1"))) return missed("a type of files");
+    return picture(QStringLiteral("clutter-type")) && clickOn(window_.window(), QStringLiteral("typePill0")) &&
+           go(Screen::survey);
+}
+
 bool Tour::windows() {
     for (const auto& [id, name] : {std::pair(WindowId::about, "window-about"), std::pair(WindowId::help, "window-help"),
                                    std::pair(WindowId::settings, "window-settings")}) {
@@ -258,7 +282,8 @@ bool Tour::smallAndLarge() {
     };
     resize(leastSize);
     text.setFactor(largeText);
-    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::lens, Screen::tools, Screen::settings})
+    for (const Screen screen :
+         {Screen::survey, Screen::reclaim, Screen::clutter, Screen::lens, Screen::tools, Screen::settings})
         taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
     text.setFactor(1);
     resize(size_);

@@ -28,6 +28,7 @@ private:
     bool changes();
     bool reclaim();
     bool cleanUp(const QString& from);
+    bool clutter();
     bool windows();
     bool sidebarAndMenus();
     bool firstRun();

@@ -13,7 +13,7 @@ namespace zelk {
 
 /// The heaviest files of the last survey: narrowed to a type, the largest or the oldest first, and what can be done to
 /// one. While another survey runs it keeps what it showed. Main thread.
-class ClutterScreenModel : public SurveyedModule {
+class ClutterScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
