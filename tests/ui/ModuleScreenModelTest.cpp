@@ -91,14 +91,6 @@ TEST_F(Modules, saysWhatEachIsFor) {
     expect(Screen::system, "System & snapshots", "what the treemap can't show");
 }
 
-TEST_F(Modules, thatLiveFromTheSurveyOfferOne) {
-    const auto expect = [&](Screen screen, const char* scanLabel, const char* scanningLabel) {
-        EXPECT_EQ(module(screen)->scanLabel().toStdString(), scanLabel);
-        EXPECT_EQ(module(screen)->scanningLabel().toStdString(), scanningLabel);
-        EXPECT_FALSE(module(screen)->noted());
-    };
-}
-
 TEST_F(Modules, thatAreNotThereYetSaySoAndOfferNothing) {
     for (const Screen screen :
          {Screen::privacy, Screen::tune, Screen::apps, Screen::duplicates, Screen::health, Screen::system}) {

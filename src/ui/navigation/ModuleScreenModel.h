@@ -30,8 +30,6 @@ class ModuleScreenModel : public QObject {
     Q_PROPERTY(QString scanningLabel READ scanningLabel CONSTANT FINAL)
     Q_PROPERTY(QString note READ note CONSTANT FINAL)
     Q_PROPERTY(bool noted READ noted CONSTANT FINAL)
-    Q_PROPERTY(QString resultTitle READ resultTitle CONSTANT FINAL)
-    Q_PROPERTY(QString resultNote READ resultNote CONSTANT FINAL)
     Q_PROPERTY(bool idle READ idle NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool results READ results NOTIFY phaseChanged FINAL)
@@ -52,8 +50,6 @@ public:
     QString scanningLabel() const { return texts_.scanningLabel; }
     QString note() const { return texts_.note; }
     bool noted() const { return !texts_.note.isEmpty(); }
-    QString resultTitle() const { return texts_.resultTitle; }
-    QString resultNote() const { return texts_.resultNote; }
 
     ModulePhase phase() const { return phase_; }
     bool idle() const { return phase_ == ModulePhase::idle; }

@@ -12,8 +12,6 @@ struct ModuleTexts {
     QString scanLabel;      ///< of the button of the first face; without one there is no button
     QString scanningLabel;  ///< while it works
     QString note;           ///< a quiet line under the first face
-    QString resultTitle;    ///< where there is nothing to show under the header of the results
-    QString resultNote;     ///< under that
 
     bool operator==(const ModuleTexts&) const = default;
 };

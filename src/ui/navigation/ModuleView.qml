@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
-// A module whose view is not in this version: its hero, its progress, and after that a word on where to look.
+// A module whose view is not in this version: its hero, which says so. It never comes to results.
 import QtQuick
 import Zelk.Navigation
 
 ModuleScaffold {
-    content: Component {
-        ModuleWord {}
-    }
+    content: null
 }

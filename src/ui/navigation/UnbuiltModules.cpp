@@ -3,33 +3,19 @@
 
 #include "state/AppModel.h"
 #include "ui/components/ScreenLook.h"
-#include "ui/navigation/SurveyedModule.h"
+#include "ui/navigation/ModuleScreenModel.h"
 #include "ui/text/DisplayText.h"
 
 namespace zelk {
 
 namespace {
 
-/// Of a module that looks for things of its own, which nothing does yet: no button.
+/// Without a button: there is nothing yet that would look.
 ModuleTexts introduced(Screen screen, const QString& title, const QString& subtitle) {
     ModuleTexts texts;
     texts.title = title;
     texts.subtitle = subtitle;
     texts.note = lookOf(screen).title + QStringLiteral(" is not in this version yet.");
-    return texts;
-}
-
-/// Of a module that shows what a survey found.
-ModuleTexts surveyed(Screen screen, const QString& subtitle, const QString& scanLabel, const QString& scanningLabel) {
-    ModuleTexts texts;
-    texts.title = lookOf(screen).title;
-    texts.subtitle = subtitle;
-    texts.scanLabel = scanLabel;
-    texts.scanningLabel = scanningLabel;
-    texts.resultTitle = QStringLiteral("Your survey is ready");
-    texts.resultNote =
-        QStringLiteral("Its findings are in the Overview. The %1 view of them is not in this version yet.")
-            .arg(lookOf(screen).title);
     return texts;
 }
 
@@ -60,10 +46,8 @@ ModuleTexts textsOf(const AppModel& app, Screen screen) {
 
 }  // namespace
 
-std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(AppModel& app, Screen screen) {
-    ModuleTexts texts = textsOf(app, screen);
-    if (texts.scanLabel.isEmpty()) return std::make_unique<ModuleScreenModel>(screen, std::move(texts));
-    return std::make_unique<SurveyedModule>(app, screen, std::move(texts));
+std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen) {
+    return std::make_unique<ModuleScreenModel>(screen, textsOf(app, screen));
 }
 
 }  // namespace zelk

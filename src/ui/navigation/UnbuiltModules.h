@@ -10,8 +10,8 @@ namespace zelk {
 class AppModel;
 class ModuleScreenModel;
 
-/// The screen of a module whose view is not in this version: it introduces the module and says so. Those that live
-/// from the survey run one all the same. `screen` is none of those that have a view; `app` must outlive the result.
-std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(AppModel& app, Screen screen);
+/// The screen of a module whose view is not in this version: it introduces the module and says so. `screen` is none of
+/// those that have a view.
+std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen);
 
 }  // namespace zelk
