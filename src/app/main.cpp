@@ -17,7 +17,11 @@
 //   ui/components/  the base controls; ScanButton and the Canvas on which it is drawn
 //   ui/navigation/  Sidebar and its model; ModuleScaffold, the three faces of every module that looks for something
 //   ui/survey/   the home screen: SurveyScreenModel says everything, SurveyView places it
-//   ui/bubbles/, ui/lens/, ui/clutter/  what the views of these modules will compute
+//   ui/bubbles/  CirclePacking, and the map of circles over it: BubbleModel, BubbleChart
+//   ui/reclaim/  CategoryList and ItemList, the two ways to choose what goes; DryRunModel, the sheet before it goes
+//   ui/lens/     the map of every folder, and what is marked in it
+//   ui/clutter/  the heaviest files
+//   ui/explanation/  what a path is, and whether it may go
 //   ui/tools/, ui/settings/, ui/help/, ui/welcome/  the screens of fixed texts, and the first run
 //   ui/shell/    Shell: the main window and those beside it, the menus (AppCommands), the status item (StatusMenu)
 //   app/         this file: makes the platform, the model and the shell, and nothing else

@@ -40,7 +40,6 @@ protected:
         runUntil([&] { return model().history().size() == surveys && model().scanPhase() == Phase::finished; });
     }
     void surveyByMouse() {
-        shell();
         click("scanButton");
         untilSurveyed(1);
         click("sidebarReclaim");

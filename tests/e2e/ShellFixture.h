@@ -34,7 +34,7 @@ protected:
         return *shell_;
     }
     MainWindow& main() { return shell().main(); }
-    QQuickWindow& window() { return shell_->main().window(); }
+    QQuickWindow& window() { return main().window(); }
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { press(window(), key, modifiers); }
     void press(QWindow& where, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {

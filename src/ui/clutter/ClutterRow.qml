@@ -7,7 +7,7 @@ import QtQuick
 import Zelk.Components
 import Zelk.Theme
 
-Item {
+ListRow {
     id: row
 
     required property int index
@@ -27,11 +27,6 @@ Item {
     signal taken
     signal asked(point at)
 
-    // One that waits to be another row is none to a screen reader.
-    ListView.onPooled: row.visible = false
-    ListView.onReused: row.visible = true
-
-    width: ListView.view?.width ?? 0
     implicitHeight: Math.max(tile.height, texts.implicitHeight) + 2 * 10
 
     Accessible.role: Accessible.ListItem

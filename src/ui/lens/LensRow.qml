@@ -8,7 +8,7 @@ import Zelk.Lens
 import Zelk.Symbols
 import Zelk.Theme
 
-Item {
+ListRow {
     id: row
 
     required property int index
@@ -28,10 +28,6 @@ Item {
     signal asked
 
     readonly property bool current: ListView.isCurrentItem
-
-    // One that waits to be used again would still be said to a screen reader.
-    ListView.onPooled: row.visible = false
-    ListView.onReused: row.visible = true
 
     implicitHeight: Math.max(content.implicitHeight, label.implicitHeight) + 2 * 8
 

@@ -6,7 +6,7 @@ import QtQuick
 import Zelk.Components
 import Zelk.Theme
 
-Item {
+ListRow {
     id: row
 
     required property int index
@@ -21,7 +21,6 @@ Item {
 
     signal pressed(int row)
 
-    width: ListView.view.width
     implicitHeight: Math.max(texts.implicitHeight, figures.implicitHeight) + 2 * 10
 
     Accessible.role: Accessible.CheckBox

@@ -7,7 +7,7 @@ import Zelk.Components
 import Zelk.Symbols
 import Zelk.Theme
 
-Item {
+ListRow {
     id: row
 
     required property int index
@@ -21,7 +21,6 @@ Item {
 
     signal pressed
 
-    width: ListView.view.width
     implicitHeight: Math.max(texts.implicitHeight, right.implicitHeight) + 2 * 6
 
     Accessible.role: Accessible.ListItem

@@ -8,7 +8,7 @@ import Zelk.Components
 import Zelk.Symbols
 import Zelk.Theme
 
-Item {
+ListRow {
     id: row
 
     required property int index
@@ -43,7 +43,6 @@ Item {
         row.activate();
     }
 
-    width: ListView.view.width
     implicitHeight: Math.max(texts.implicitHeight, box.implicitHeight) + 2 * (row.group ? 14 : 7)
 
     Accessible.role: Accessible.CheckBox
