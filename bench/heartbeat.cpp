@@ -49,7 +49,7 @@ std::vector<Reclaimable> makeItems(const std::filesystem::path& folder, int coun
         for (const char* file : {"a.pyc", "b.pyc", "c.pyc"}) std::ofstream(item / file) << std::string(1000, 'x');
         Reclaimable& one = items.emplace_back();
         one.id = one.path = item.string();
-        one.categoryID = "pycache";
+        one.categoryID = "python_pycache";
     }
     return items;
 }

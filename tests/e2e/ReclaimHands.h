@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemModel>
+#include <QAccessible>
 #include <QTest>
 #include <string>
 #include <vector>
@@ -99,6 +100,26 @@ inline bool hasKeyboard(QQuickWindow& window, const char* name) {
     for (const QQuickItem* at = window.activeFocusItem(); at != nullptr; at = at->parentItem())
         if (at->objectName() == QLatin1String(name)) return true;
     return false;
+}
+
+/// The check box of the row that says `text`.
+inline QQuickItem* boxOf(QQuickWindow& window, const char* text) {
+    return findVisible(window, [text](const QQuickItem& item) {
+        return QString::fromLatin1(item.metaObject()->className()).startsWith(QLatin1String("CheckBox")) &&
+               item.property("text").toString() == QString::fromUtf8(text);
+    });
+}
+
+/// What a screen reader takes for the place of the keyboard, of the rows in sight.
+inline std::vector<std::string> spokenFocus(QQuickWindow& window, const char* list) {
+    std::vector<std::string> said;
+    QAccessibleInterface* rows = QAccessible::queryAccessibleInterface(control(window, list));
+    EXPECT_NE(rows, nullptr);
+    for (int row = 0; rows != nullptr && row < rows->childCount(); ++row) {
+        const QAccessibleInterface* child = rows->child(row);
+        if (child->state().focused) said.push_back(child->text(QAccessible::Name).toStdString());
+    }
+    return said;
 }
 
 /// Goes there by the Tab key, as somebody without a mouse would.

@@ -165,6 +165,24 @@ TEST_F(Reclaiming, theReviewListsWhatWasChosenAndMovesItToTheTrash) {
     EXPECT_THAT(machine.trash.list(), testing::Optional(testing::Contains(machine.trash.path + "/old.zip")));
 }
 
+TEST_F(Reclaiming, anOpenReviewStaysAsItIsThroughASurvey) {
+    surveyByMouse();
+    click("reviewButton");
+    untilReviewed();
+    click("permanentSwitch");
+    const QQuickItem* list = control(window(), "dryRunList");
+    model().startScan();  // as the status item can
+    untilSurveyed(2);
+    EXPECT_EQ(control(window(), "dryRunList"), list);
+    EXPECT_EQ(focusName(), QStringLiteral("permanentSwitch"));
+    press(Qt::Key_Space);
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move 59 MB to Trash");
+    EXPECT_THAT(machine.files.pathsOf("remove"), IsEmpty());
+    press(Qt::Key_Escape);
+    untilClosed();
+    EXPECT_EQ(focusName(), QStringLiteral("reviewButton"));
+}
+
 TEST_F(Reclaiming, theTrashIsEmptiedFromTheResult) {
     surveyByMouse();
     click("reviewButton");
@@ -257,6 +275,7 @@ TEST_F(Reclaiming, byCategoryWithTheKeyboardAlone) {
     surveyByKeys();
     tabTo(window(), "categoryList");
     arrowTo(window(), 2);
+    EXPECT_THAT(spokenFocus(window(), "categoryList"), ElementsAre(cells("categoryList", "spoken")[2]));
     press(Qt::Key_Space);
     EXPECT_THAT(chosen(), ElementsAre("yarn_cache", "node_modules", "npm_cache", "electron_cache"));
     tabTo(window(), "categoryMap");
@@ -343,6 +362,33 @@ TEST_F(Reclaiming, byItemLeavesOutWhatARunningApplicationUses) {
     untilSurveyed(2);
 }
 
+TEST_F(Reclaiming, byItemWithTheMouse) {
+    surveyByMouse();
+    click("developerSwitch");
+    click("safetyInfo");
+    const QString closing = main().reclaim().guide()->closing();
+    runUntil([&] { return shows(closing); });
+    click("safetyInfo");
+    runUntil([&] { return !shows(closing); });
+
+    QQuickItem* slider = control(window(), "ageSlider");
+    tour::clickAt(window(), slider->mapToScene({1, slider->height() / 2}));
+    EXPECT_TRUE(shows(QStringLiteral("all")));
+    EXPECT_TRUE(shows(QStringLiteral("6 of 6 shown")));
+
+    clickMiddle(window(), boxOf(window(), "node_modules"));
+    EXPECT_EQ(item(itemRow("node_modules"), "chosen"), "false");
+    EXPECT_EQ(item(itemRow("node_modules"), "open"), "false") << "the box ticks and does not unfold";
+    clickMiddle(window(), boxOf(window(), "node_modules"));
+    EXPECT_EQ(item(itemRow("node_modules"), "chosen"), "true");
+    clickText("iOS device backups");
+    clickMiddle(window(), boxOf(window(), "Backup"));
+    EXPECT_EQ(item(itemRow("Backup"), "chosen"), "true");
+    clickMiddle(window(), boxOf(window(), "Backup"));
+    EXPECT_EQ(item(itemRow("Backup"), "chosen"), "false");
+    expectNothingHappened();
+}
+
 TEST_F(Reclaiming, anItemIsSaidWithItsName) {
     surveyByMouse();
     click("developerSwitch");
@@ -380,6 +426,7 @@ TEST_F(Reclaiming, byItemWithTheKeyboardAlone) {
     tabTo(window(), "itemList");
     const int group = itemRow("node_modules");
     arrowTo(window(), group);
+    EXPECT_THAT(spokenFocus(window(), "itemList"), ElementsAre(item(group, "spoken")));
     press(Qt::Key_Right);
     EXPECT_EQ(item(group, "open"), "true");
     press(Qt::Key_Down);

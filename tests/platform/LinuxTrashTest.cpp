@@ -5,16 +5,23 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <filesystem>
+
 #include "fakes/Environment.h"
 #include "fakes/InChild.h"
+#include "fakes/TestFiles.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 
 namespace zelk {
 namespace {
 
+namespace fs = std::filesystem;
+
 using fakes::asOrdinaryUser;
 using fakes::EnvironmentVariable;
+using fakes::fileContent;
+using fakes::writeFile;
 using testing::IsEmpty;
 using testing::Optional;
 using testing::UnorderedElementsAre;
@@ -57,6 +64,27 @@ TEST(LinuxTrash, behindALinkIsListedUnderItsOwnPath) {
     zoo::makeFolder(home / ".local/share");
     ASSERT_EQ(::symlink((home / "elsewhere").c_str(), (home / ".local/share/Trash").c_str()), 0);
     EXPECT_THAT(LinuxTrash(home.path()).list(), Optional(UnorderedElementsAre(home / ".local/share/Trash/files/file")));
+}
+
+TEST(LinuxTrash, keepsWhatIsInItAlreadyKnownByThePlaceItCameFrom) {
+    const zoo::TempFolder temp;
+    const std::string items = temp / "items";
+    const std::string trash = temp / "home/.local/share/Trash";
+    LinuxTrash itsTrash(temp / "home");
+    const auto trashed = [&](const std::string& path) { return itsTrash.trash(ItemPath::from(path).value()); };
+    const std::string project = items + "/project";
+    zoo::makeFolder(project + "/cache/deep");
+    writeFile(project + "/cache/deep/file", "content");
+    EXPECT_EQ(trashed(project), std::nullopt);
+    const std::string info = fileContent(trash + "/info/project.trashinfo");
+    const std::string inside = trash + "/files/project";
+    fs::create_directory_symlink(inside, items + "/way");
+    for (const std::string& part : {inside, inside + "/cache", inside + "/cache/deep/file", items + "/way/cache",
+                                    trash + "/info/project.trashinfo"})
+        EXPECT_THAT(trashed(part), Optional(testing::EndsWith(": it is in the Trash already"))) << part;
+    EXPECT_EQ(fileContent(inside + "/cache/deep/file"), "content");
+    EXPECT_EQ(fileContent(trash + "/info/project.trashinfo"), info);
+    EXPECT_EQ(trashed(items + "/way"), std::nullopt) << "the link itself lies outside";
 }
 
 TEST(LinuxTrash, isAbsentWhereItMayNotBeLookedInto) {

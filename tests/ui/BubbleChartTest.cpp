@@ -207,6 +207,15 @@ TEST(BubbleTip, standsBesideThePointerAndInsideTheChart) {
     EXPECT_EQ(BubbleTip::of(slice, {500, 390}, {600, 400}, 1.5).corner, QPointF(270, 316)) << "larger texts take more";
 }
 
+TEST(BubbleTip, isNeverWiderThanItsChart) {
+    const BubbleSlice slice = sliceOf(std::string(200, 'n'), 5'000'000'000);
+    for (const double width : {40.0, 275.0, 600.0}) {
+        const BubbleTip tip = BubbleTip::of(slice, {width / 2, 100}, {width, 400}, 1.5);
+        EXPECT_LE(tip.corner.x() + tip.widest, width);
+        EXPECT_GE(tip.corner.x(), 0);
+    }
+}
+
 TEST_F(BubbleChart, theTipOfALongNameStaysInTheChart) {
     for (const double scale : {1.0, 1.5}) {
         singleton<TextScale>("TextScale").setFactor(scale);

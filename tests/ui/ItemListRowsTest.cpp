@@ -48,6 +48,35 @@ TEST_F(ItemRows, aTickChangesItsRowAndItsHeader) {
     mirror().expectFresh();
 }
 
+TEST_F(ItemRows, anItemThatIsListedTwiceIsTickedAndCountedTwice) {
+    fillJunk();
+    model().setScanRoots({home, home + "/projects"});
+    show();
+    unfoldAll();
+    const int web = inFolder(home + "/projects/web");
+    const QString before = list().footer() + list().footerBytes();
+    const auto ticks = [&] {
+        int set = 0;
+        for (int row = 0; row < list().rowCount(); ++row)
+            if (text(list(), row, ItemList::placeRole) == home + "/projects/web" &&
+                flag(list(), row, ItemList::chosenRole))
+                ++set;
+        return set;
+    };
+    ASSERT_EQ(ticks(), 2);
+    list().toggle(web);
+    EXPECT_EQ(ticks(), 0);
+    mirror().expectFresh();
+    const QString after = list().footer() + list().footerBytes();
+    list().toggle(web);
+    EXPECT_EQ(list().footer() + list().footerBytes(), before);
+    EXPECT_NE(after, before);
+    for (int row = 0; row < list().rowCount(); ++row)
+        if (flag(list(), row, ItemList::groupRole) && flag(list(), row, ItemList::chosenRole)) list().toggle(row);
+    EXPECT_FALSE(list().cleanable()) << list().footer().toStdString();
+    mirror().expectFresh();
+}
+
 TEST_F(ItemRows, aTickThatIsRefusedChangesNone) {
     fillJunk();
     machine.workspace.running = {"Cursor"};

@@ -121,6 +121,13 @@ TEST_F(Items, aWholeRowIsSaidToAScreenReader) {
     EXPECT_THAT(text(inFolder(home + "/projects/py"), ItemList::spokenRole), StartsWith(".venv"));
 }
 
+TEST_F(Items, aCategorySaysWhetherItIsUnfolded) {
+    surveyFor(Audience::developer);
+    EXPECT_THAT(text(0, ItemList::spokenRole), HasSubstr("collapsed"));
+    list().setOpen(0, true);
+    EXPECT_THAT(text(0, ItemList::spokenRole), HasSubstr("expanded"));
+}
+
 TEST_F(Items, whatAToolCleansNamesTheTool) {
     surveyWhileRunning({});
     const int row = inFolder(home + "/.npm");

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/LinuxTrash.h"
 
+#include <fcntl.h>
+
 #include <cerrno>
 #include <string_view>
 #include <vector>
@@ -37,6 +39,21 @@ std::optional<std::string> relativePath(std::string_view path, std::string_view 
     while (top.ends_with('/')) top.remove_suffix(1);
     if (path.size() <= top.size() + 1 || !path.starts_with(top) || path[top.size()] != '/') return std::nullopt;
     return std::string(path.substr(top.size() + 1));
+}
+
+/// Whether the way up from the folder leads through `other`, by whatever path it was reached. Absent, with errno set,
+/// if that cannot be told.
+std::optional<bool> isInside(int folder, const FileStatus& other) {
+    std::optional<FileStatus> status = fileStatus(folder);
+    Descriptor here;
+    while (status && !status->isSameFile(other)) {
+        here = Descriptor(::openat(here ? here.get() : folder, "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
+        const std::optional<FileStatus> above = here ? fileStatus(here.get()) : std::nullopt;
+        if (above && above->isSameFile(*status) && above->mount == status->mount) return false;  // the root
+        status = above;
+    }
+    if (!status) return std::nullopt;
+    return true;
 }
 
 }  // namespace
@@ -95,6 +112,10 @@ Failure LinuxTrash::move(const ItemPath& item) {
     if (!trash) return reason;
     const std::optional<FileStatus> itself = fileStatus(trash->itself.get());
     if (!itself || itself->isSameFile(*above)) return "it is part of the Trash itself";
+    // Moved again, it would only be known to have come from the Trash.
+    const std::optional<bool> inside = isInside(parent.get(), *itself);
+    if (!inside) return systemText(errno);
+    if (*inside) return "it is in the Trash already";
 
     const std::string key = std::to_string(itself->device) + ":" + std::to_string(itself->inode) + "/" + from.name;
     return moveIntoTrash(from, original, *trash, [&] { return numbers_.next(key); });

@@ -20,7 +20,7 @@ BubbleTip BubbleTip::of(const BubbleSlice& slice, QPointF point, QSizeF chart, d
     tip.reclaimable = slice.reclaimable;
     tip.corner = {std::min(point.x() + offset, std::max(chart.width() - width, 0.0)),
                   std::min(point.y() + offset, std::max(chart.height() - roomHigh * textScale, 0.0))};
-    tip.widest = std::max(chart.width() - tip.corner.x(), width);
+    tip.widest = std::min(std::max(chart.width() - tip.corner.x(), width), chart.width());
     return tip;
 }
 

@@ -19,7 +19,6 @@ ListRow {
     required property string size
     required property string spoken
     required property string actions
-    property bool ringed: false
 
     // Where the menu opens that is not asked for by the pointer.
     readonly property point menuPlace: Qt.point(more.x, more.y + more.height + 4)

@@ -19,7 +19,6 @@ ListRow {
     required property bool drillable
     required property string spoken
     required property string info
-    required property bool ringed
     required property string help
 
     signal pressed

@@ -17,7 +17,6 @@ ListRow {
     required property string itemCount
     required property bool chosen
     required property string spoken
-    property bool ringed: false
 
     signal pressed(int row)
 

@@ -17,7 +17,6 @@ ListRow {
     required property string figure
     required property string method
     required property string spoken
-    property bool ringed: false
 
     signal pressed
 

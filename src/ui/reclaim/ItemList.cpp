@@ -98,8 +98,9 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
         case symbolRole:
             return group.open ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
         case spokenRole:
-            return Spoken::joined(
-                {displayText(category.displayName), figure(), wordOf(category.safety), displayText(category.note)});
+            return Spoken::joined({displayText(category.displayName), figure(), wordOf(category.safety),
+                                   group.open ? QStringLiteral("expanded") : QStringLiteral("collapsed"),
+                                   displayText(category.note)});
         default:
             return QString();
     }
@@ -166,6 +167,11 @@ void ItemList::toggle(int row) {
     tickChanged(row);
 }
 
+bool ItemList::isTwin(const Group& group, const Reclaimable& item) {
+    const std::vector<Reclaimable>& items = group.content.items;
+    return std::count_if(items.begin(), items.end(), [&](const Reclaimable& one) { return one.id == item.id; }) > 1;
+}
+
 /// The rows whose ticks changed by a press on this one, and the sums.
 void ItemList::tickChanged(int row) {
     const auto [group, item] = rows_[static_cast<std::size_t>(row)];
@@ -175,6 +181,8 @@ void ItemList::tickChanged(int row) {
         if (group->open) changed(header + 1, header + static_cast<int>(group->content.items.size()), {chosenRole});
     } else {
         if (!cleanup_.selection().conflictOf(*item).empty()) return;
+        // Of two surveyed folders one in the other, what the inner one holds is listed twice and ticked as one.
+        if (isTwin(*group, *item)) return followSelection();
         DevCleanupModel::Tally& sum = tallies_.selected;
         const auto size = static_cast<std::int64_t>(item->size);
         if (cleanup_.selection().contains(*item)) {
@@ -214,7 +222,7 @@ void ItemList::setOpen(int row, bool open) {
         rows_.erase(rows_.begin() + first, rows_.begin() + last + 1);
         endRemoveRows();
     }
-    changed(row, row, {openRole, symbolRole});
+    changed(row, row, {openRole, symbolRole, spokenRole});
 }
 
 int ItemList::groupRow(int row) const {

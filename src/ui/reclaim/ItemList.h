@@ -113,6 +113,7 @@ private:
     QString lineOf(const Reclaimable& item) const;
     QString ageOf(const Reclaimable& item) const;
     void tickChanged(int row);
+    static bool isTwin(const Group& group, const Reclaimable& item);
     int headerOf(const Group* group) const;
     void changed(int first, int last, const QList<int>& roles);
 

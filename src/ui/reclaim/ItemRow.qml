@@ -25,7 +25,6 @@ ListRow {
     required property bool open
     required property string symbol
     required property string spoken
-    property bool ringed: false
 
     signal taken
     signal ticked

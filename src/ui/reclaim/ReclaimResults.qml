@@ -27,6 +27,10 @@ FocusScope {
                 "items": results.module.items,
                 "guide": results.module.guide
             });
+    }
+
+    // A survey may begin or end under the open sheet, which stays as it is.
+    function review() {
         const shown = sheet.item as DryRunSheet;
         if (results.reviewing) {
             sheet.source = "";
@@ -40,8 +44,11 @@ FocusScope {
 
     onByCategoryChanged: results.build()
     onByItemChanged: results.build()
-    onReviewingChanged: results.build()
-    Component.onCompleted: results.build()
+    onReviewingChanged: results.review()
+    Component.onCompleted: {
+        results.build();
+        results.review();
+    }
 
     EmptyState {
         anchors.fill: parent

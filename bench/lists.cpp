@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+// How long the list of items keeps the main thread from the press to the frame that shows it, in the real window drawn
+// by the processor alone, where there are as many items as one home may hold. Prints milliseconds, the mean and the
+// worst.
+//
+//     lists [--items N]
+//
+// The items are caches in folders below $TMPDIR (or /tmp), found by a real survey. Nothing of it is removed but at the
+// end, by this program.
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "Camera.h"
+#include "platform/NativePlatform.h"
+#include "state/AppModel.h"
+#include "ui/reclaim/DryRunModel.h"
+#include "ui/reclaim/ReclaimScreenModel.h"
+#include "ui/shell/Application.h"
+#include "ui/shell/MainWindow.h"
+#include "ui/theme/Motion.h"
+
+namespace {
+
+using namespace zelk;
+
+void makeItems(const std::filesystem::path& home, int count) {
+    for (int number = 0; number < count; ++number) {
+        const std::filesystem::path item = home / "work" / ("project " + std::to_string(number)) / "__pycache__";
+        std::filesystem::create_directories(item);
+        std::ofstream(item / "a.pyc") << std::string(1000, 'x');
+    }
+}
+
+class Bench {
+public:
+    explicit Bench(MainWindow& window) : window_(window) {}
+
+    /// `deed` so many times, each with the frame that it leads to.
+    void measure(const char* what, int rounds, const std::function<void(int)>& deed) {
+        double sum = 0;
+        double worst = 0;
+        for (int round = 0; round < rounds; ++round) {
+            QElapsedTimer time;
+            time.start();
+            deed(round);
+            QCoreApplication::processEvents();
+            window_.window().grabWindow();
+            const double took = static_cast<double>(time.nsecsElapsed()) / 1e6;
+            sum += took;
+            worst = std::max(worst, took);
+        }
+        std::printf("%-28s %8.2f ms, at worst %8.2f ms\n", what, sum / rounds, worst);
+    }
+
+private:
+    MainWindow& window_;
+};
+
+void run(AppModel& app, MainWindow& window) {
+    app.startScan();
+    tour::waitUntil([&] { return app.scanPhase() == AppModel::ScanPhase::finished; });
+    app.setAudience(AppModel::Audience::developer);
+    tour::clickOn(window.window(), QStringLiteral("sidebarReclaim"));
+    ItemList& items = *window.reclaim().items();
+    items.setAgeDays(0);
+    window.window().grabWindow();
+    std::printf("%zu items\n", app.reclaimables().size());
+
+    Bench bench(window);
+    bench.measure("a frame alone", 20, [](int) {});
+    bench.measure("the age, folded up", 20, [&](int round) { items.setAgeDays(round % 2); });
+    items.setAgeDays(0);
+    bench.measure("a category unfolded", 1, [&](int) { items.setOpen(0, true); });
+    bench.measure("the age, unfolded", 20, [&](int round) { items.setAgeDays(round % 2); });
+    items.setAgeDays(0);
+    const int last = items.rowCount() - 1;
+    bench.measure("an item's tick", 50, [&](int round) { items.toggle(1 + round * 37 % last); });
+    bench.measure("a category's tick", 20, [&](int) { items.toggle(0); });
+    bench.measure("a category folded", 1, [&](int) { items.setOpen(0, false); });
+    bench.measure("the review of all", 1, [&](int) { items.clean(); });
+    bench.measure("the review left", 1, [&](int) { window.reclaim().dryRun()->close(); });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QGuiApplication application(argc, argv);
+    const bool counted = argc == 3 && std::string_view(argv[1]) == "--items";
+    const int count = counted ? std::atoi(argv[2]) : 20'000;
+    if ((argc != 1 && !counted) || count < 1) {
+        std::fprintf(stderr, "usage: lists [--items N]\n");
+        return 2;
+    }
+    dressApplication();
+
+    const QTemporaryDir home;
+    makeItems(home.path().toStdString(), count);
+    NativePlatform native(home.path().toStdString());
+    {
+        AppModel app(native.platform());
+        MainWindow window(app);
+        window.motion().setReduced(true);
+        window.show();
+        tour::waitUntil([&] { return window.isUp(); });
+        run(app, window);
+    }
+    std::fflush(stdout);
+    if (!native.drain(10)) std::_Exit(EXIT_SUCCESS);
+    return EXIT_SUCCESS;
+}
