@@ -2,6 +2,8 @@
 // What a program hands to the application that presses every button and may change nothing: these say that it was done.
 #pragma once
 
+#include <condition_variable>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,17 +14,51 @@
 
 namespace zelk::tour {
 
+/// How the pretended deeds go: they wait for as long as somebody wants a picture of them under way, and fail where one
+/// of a failure is wanted. From any thread.
+class Pretence {
+public:
+    void hold() { set(held_, true); }
+    void release() { set(held_, false); }
+    void fail(bool failing) { set(failing_, failing); }
+
+    /// Whether the deed went well.
+    bool pass() {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return !held_; });
+        return !failing_;
+    }
+
+private:
+    void set(bool& what, bool value) {
+        const std::lock_guard lock(mutex_);
+        what = value;
+        changed_.notify_all();
+    }
+
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    bool held_ = false;
+    bool failing_ = false;
+};
+
 class PretendingTrash : public Trash {
 public:
-    explicit PretendingTrash(Trash& real) : real_(real) {}
+    PretendingTrash(Trash& real, Pretence& pretence) : real_(real), pretence_(pretence) {}
 
     std::string location() override { return real_.location(); }
     std::optional<std::vector<std::string>> list() override { return real_.list(); }
-    Failure trash(const ItemPath&) override { return std::nullopt; }
-    std::size_t empty() override { return 0; }
+    Failure trash(const ItemPath&) override {
+        return pretence_.pass() ? std::nullopt : Failure("It is only a picture.");
+    }
+    std::size_t empty() override {
+        pretence_.pass();
+        return 0;
+    }
 
 private:
     Trash& real_;
+    Pretence& pretence_;
 };
 
 class PretendingFiles : public FileManager {

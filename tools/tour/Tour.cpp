@@ -2,6 +2,7 @@
 #include "Tour.h"
 
 #include <QDir>
+#include <QTemporaryDir>
 #include <cstdio>
 #include <map>
 
@@ -10,6 +11,7 @@
 #include "platform/Workspace.h"
 #include "ui/components/ScreenLook.h"
 #include "ui/navigation/SidebarModel.h"
+#include "ui/reclaim/ReclaimScreenModel.h"
 #include "ui/survey/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/TextScale.h"
@@ -22,6 +24,10 @@ namespace {
 constexpr std::int64_t midScanEntries = 60'000;
 constexpr double largeText = 1.5;
 constexpr QSize leastSize(960, 620);
+
+// The entries of the menu of the categories.
+constexpr int allOfThem = 0;
+constexpr int noneOfThem = 2;
 
 const QString scanButton = QStringLiteral("scanButton");
 
@@ -51,8 +57,8 @@ bool appears(QQuickWindow& window, const char* name) {
 
 }  // namespace
 
-Tour::Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize size)
-    : app_(app), directories_(directories), folder_(std::move(folder)), size_(size), window_(app) {
+Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, QString folder, QSize size)
+    : app_(app), directories_(directories), pretence_(pretence), folder_(std::move(folder)), size_(size), window_(app) {
     // A picture shows where things come to rest, not a moment on their way.
     window_.motion().setReduced(true);
     window_.window().resize(size);
@@ -61,7 +67,7 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize
 }
 
 bool Tour::run() {
-    return inTheme(true) && inTheme(false);
+    return inTheme(true) && inTheme(false) && nothingFound();
 }
 
 bool Tour::inTheme(bool dark) {
@@ -171,39 +177,89 @@ bool Tour::reclaim() {
     if (app_.reclaimables().empty()) return go(Screen::survey);  // nothing to show on this disk
     if (!clickOn(window_.window(), QStringLiteral("selectMenu"))) return missed("the menu of the categories");
     if (!picture(QStringLiteral("reclaim-menu"))) return false;
-    pressKey(window_.window(), Qt::Key_Down);
-    pressKey(window_.window(), Qt::Key_Return);  // all of them
-    if (!cleanUp(QStringLiteral("categories"))) return false;
-
-    app_.setAudience(AppModel::Audience::developer);
-    if (!appears(window_.window(), "itemList")) return missed("the items");
-    if (!picture(QStringLiteral("reclaim-items"))) return false;
-    findControl(window_.window(), QStringLiteral("itemList"))->forceActiveFocus(Qt::TabFocusReason);
-    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Right}) pressKey(window_.window(), key);
-    if (!picture(QStringLiteral("reclaim-items-open"))) return false;
-    if (!clickOn(window_.window(), QStringLiteral("safetyInfo"))) return missed("what the grades mean");
-    if (!picture(QStringLiteral("reclaim-grades"))) return false;
     pressKey(window_.window(), Qt::Key_Escape);
-    app_.setAudience(AppModel::Audience::normal);
-    return go(Screen::survey);
+    if (!chooseInMenu(noneOfThem) || !picture(QStringLiteral("reclaim-none"))) return false;
+    return chooseInMenu(allOfThem) && cleanUp() && items() && go(Screen::survey);
 }
 
-bool Tour::cleanUp(const QString& from) {
-    const QString name = QStringLiteral("clean-up-%1-").arg(from);
-    if (!clickOn(window_.window(), QStringLiteral("reviewButton")) || !appears(window_.window(), "confirmCleanup"))
-        return missed("the review");
-    if (!picture(name + QStringLiteral("review"))) return false;
-    if (!clickOn(window_.window(), QStringLiteral("permanentSwitch"))) return missed("the switch");
-    if (!picture(name + QStringLiteral("permanent"))) return false;
-    clickOn(window_.window(), QStringLiteral("permanentSwitch"));
-    if (!clickOn(window_.window(), QStringLiteral("confirmCleanup"))) return missed("the confirmation");
-    waitUntil([this] { return appears(window_.window(), "keepInTrash"); });
-    if (!picture(name + QStringLiteral("done"))) return false;
-    if (!clickOn(window_.window(), QStringLiteral("emptyTrash"))) return missed("the emptying");
-    waitUntil([this] { return appears(window_.window(), "cleanupDone"); });
-    if (!picture(name + QStringLiteral("emptied"))) return false;
-    clickOn(window_.window(), QStringLiteral("cleanupDone"));
-    waitUntil([this] { return app_.scanPhase() == AppModel::ScanPhase::finished; });
+bool Tour::chooseInMenu(int entry) {
+    if (!appears(window_.window(), "selectMenu") || !clickOn(window_.window(), QStringLiteral("selectMenu")))
+        return missed("the menu of the categories");
+    for (int at = 0; at <= entry; ++at) pressKey(window_.window(), Qt::Key_Down);
+    pressKey(window_.window(), Qt::Key_Return);
+    return true;
+}
+
+bool Tour::items() {
+    QQuickWindow& window = window_.window();
+    app_.setAudience(AppModel::Audience::developer);
+    if (!appears(window, "itemList")) return missed("the items");
+    if (!picture(QStringLiteral("reclaim-items"))) return false;
+    findControl(window, QStringLiteral("itemList"))->forceActiveFocus(Qt::TabFocusReason);
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Right}) pressKey(window, key);
+    if (!picture(QStringLiteral("reclaim-items-open"))) return false;
+    if (!clickOn(window, QStringLiteral("safetyInfo"))) return missed("what the grades mean");
+    if (!picture(QStringLiteral("reclaim-grades"))) return false;
+    pressKey(window, Qt::Key_Escape);
+    ItemList& list = *window_.reclaim().items();
+    const int age = list.ageDays();
+    list.setAgeDays(list.mostAgeDays());
+    const bool taken = picture(QStringLiteral("reclaim-items-old"));
+    list.setAgeDays(age);
+    app_.setAudience(AppModel::Audience::normal);
+    return taken;
+}
+
+/// The sheet in all its phases: of a clean-up where everything fails, and of one where all goes well.
+bool Tour::cleanUp() {
+    QQuickWindow& window = window_.window();
+    const auto open = [&] {
+        return (clickOn(window, QStringLiteral("reviewButton")) && appears(window, "confirmCleanup")) ||
+               missed("the review");
+    };
+    const auto leave = [&](const char* button) {
+        clickOn(window, QString::fromLatin1(button));
+        waitUntil([this] { return app_.scanPhase() == AppModel::ScanPhase::finished; });
+    };
+    if (!open() || !picture(QStringLiteral("clean-up-review"))) return false;
+    if (!clickOn(window, QStringLiteral("permanentSwitch"))) return missed("the switch");
+    if (!picture(QStringLiteral("clean-up-permanent"))) return false;
+    clickOn(window, QStringLiteral("permanentSwitch"));
+    pretence_.hold();
+    pretence_.fail(true);
+    if (!clickOn(window, QStringLiteral("confirmCleanup"))) return missed("the confirmation");
+    const bool cleaning = picture(QStringLiteral("clean-up-cleaning"));
+    pretence_.release();
+    waitUntil([&] { return appears(window, "keepInTrash"); });
+    if (!cleaning || !picture(QStringLiteral("clean-up-skipped"))) return false;
+    leave("keepInTrash");
+
+    pretence_.fail(false);
+    if (!chooseInMenu(allOfThem) || !open() || !clickOn(window, QStringLiteral("confirmCleanup"))) return false;
+    waitUntil([&] { return appears(window, "keepInTrash"); });
+    if (!picture(QStringLiteral("clean-up-done"))) return false;
+    pretence_.hold();
+    if (!clickOn(window, QStringLiteral("emptyTrash"))) return missed("the emptying");
+    const bool emptying = picture(QStringLiteral("clean-up-emptying"));
+    pretence_.release();
+    waitUntil([&] { return appears(window, "cleanupDone"); });
+    if (!emptying || !picture(QStringLiteral("clean-up-emptied"))) return false;
+    leave("cleanupDone");
+    return true;
+}
+
+/// A survey of a folder in which there is nothing.
+bool Tour::nothingFound() {
+    const QTemporaryDir empty;
+    app_.setScanRoots({empty.path().toStdString()});
+    app_.startScan();
+    waitUntil([this] { return app_.scanPhase() != AppModel::ScanPhase::scanning; });
+    for (const bool dark : {true, false}) {
+        app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
+        theme_ = dark ? QStringLiteral("dark") : QStringLiteral("light");
+        for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::clutter, Screen::lens})
+            if (!go(screen) || !picture(QStringLiteral("nothing-") + lookOf(screen).title.toLower())) return false;
+    }
     return true;
 }
 

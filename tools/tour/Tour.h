@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "PausingDirectories.h"
+#include "PretendingServices.h"
 #include "state/AppModel.h"
 #include "ui/shell/MainWindow.h"
 
@@ -12,7 +13,7 @@ namespace zelk::tour {
 /// One walk through the application with its pictures in `folder`. It prints each picture's path.
 class Tour {
 public:
-    Tour(AppModel& app, PausingDirectories& directories, QString folder, QSize size);
+    Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, QString folder, QSize size);
 
     /// Every screen, window and sheet in both themes, every phase of a survey, large text and little room. False if
     /// something was missed or a picture could not be taken.
@@ -27,7 +28,10 @@ private:
     bool lens();
     bool changes();
     bool reclaim();
-    bool cleanUp(const QString& from);
+    bool cleanUp();
+    bool items();
+    bool nothingFound();
+    bool chooseInMenu(int entry);
     bool clutter();
     bool windows();
     bool sidebarAndMenus();
@@ -42,6 +46,7 @@ private:
 
     AppModel& app_;
     PausingDirectories& directories_;
+    Pretence& pretence_;
     QString folder_;
     QSize size_;
     QString theme_;

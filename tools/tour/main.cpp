@@ -66,7 +66,8 @@ int main(int argc, char** argv) {
     zelk::tour::PausingDirectories directories(real.directories);
     zelk::tour::ScratchLocations locations(real.locations, support.path().toStdString());
     zelk::Locations& places = options.isSet(QStringLiteral("home")) ? real.locations : locations;
-    zelk::tour::PretendingTrash trash(real.trash);
+    zelk::tour::Pretence pretence;
+    zelk::tour::PretendingTrash trash(real.trash, pretence);
     zelk::tour::PretendingFiles files(real.files);
     zelk::tour::PretendingProcesses processes;
     const zelk::Platform platform{real.clock, directories, files,     trash,         real.vitals,
@@ -76,7 +77,7 @@ int main(int argc, char** argv) {
     {
         zelk::AppModel app(platform);
         app.setScanRoots({QDir(root).absolutePath().toStdString()});
-        complete = zelk::tour::Tour(app, directories, folder, size).run();
+        complete = zelk::tour::Tour(app, directories, pretence, folder, size).run();
     }
     directories.resume();
     const int status = complete ? EXIT_SUCCESS : EXIT_FAILURE;
