@@ -110,7 +110,7 @@ int LensRows::rowCount(const QModelIndex& parent) const {
 QVariant LensRows::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
     const auto& [node, bytes] = rows_[static_cast<std::size_t>(index.row())];
-    const auto ticked = [&node = node, this] { return walk_.isSelected(node->fullPath()); };
+    const auto ticked = [&folder = *node, this] { return walk_.isSelected(folder.fullPath()); };
     switch (role) {
         case nameRole:
             return displayText(node->name());
