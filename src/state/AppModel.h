@@ -133,11 +133,13 @@ public:
     /// cannot be moved, nothing changes.
     void trashAndRemove(FSNode& node) { trashAndRemove({NodeRef(&node)}, {}); }
     /// The same for several, one after the other in this order. When the last one has been tried, `done` hears which
-    /// of them are in the Trash; never, if the model has gone by then.
+    /// of them are in the Trash; never, if the model has gone by then. What stands at the same path in the results at
+    /// hand goes too where that is another tree, and in those of a survey under way when it ends.
     void trashAndRemove(const std::vector<NodeRef>& nodes, std::function<void(const std::vector<NodeRef>&)> done);
-    /// Moves the file at `path` to the Trash; of a link that has taken its place the link itself. Once it is there,
-    /// every entry with that path leaves the large files, also those that a survey under way goes on to report; all
-    /// other results keep counting it. If it cannot be moved, nothing changes.
+    /// Moves the file at `path`, below a root of the survey at hand, to the Trash; of a link that has taken its place
+    /// the link itself. Once it is there, every entry with that path leaves the large files, also those that a survey
+    /// under way goes on to report; all other results keep counting it. If it cannot be moved, or a link has taken the
+    /// place of a folder on the way to it, nothing changes.
     void trashLargeFile(const std::string& path);
     /// Takes a directory out of the results after it was moved away: its size off all above it, and with it the items
     /// and large files at and below its path. What tells of the survey as it ran stays. While the classifier reads the
@@ -181,6 +183,8 @@ private:
     void removeWhatWaited(ScanTask& task);
     void withdraw(ScanTask& task);
     void dropLargeFile(const std::string& path);
+    std::vector<NodeRef> treesAtHand() const;
+    std::string_view rootAbove(std::string_view path) const;
     void recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t total, const NodeRef& tree);
     void conclude(const std::shared_ptr<ScanTask>& task, std::vector<SurveyRecord> history);
     void settleTrash();

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // What the model itself takes away, without the review that every other cleaning passes.
 #include <algorithm>
+#include <set>
 #include <string>
 #include <utility>
 
 #include "reclaim/Cleaner.h"
+#include "scan/FoldersAt.h"
 #include "state/AppModel.h"
 #include "state/ScanTask.h"
 
@@ -20,11 +22,23 @@ void AppModel::cleanSafeCaches() {
 namespace {
 
 /// What is on its way to the Trash. Each node's place is asked for again when it has gone, and by then another survey
-/// may have taken its tree's place: the tops are what keeps the way to it.
+/// may have taken its tree's place: the top is what keeps the way to it.
 struct Leaving {
-    std::vector<std::pair<NodeRef, ItemPath>> items;
-    std::vector<NodeRef> tops;
-    std::vector<NodeRef> gone;  // main thread
+    struct Item {
+        NodeRef node;
+        NodeRef top;
+        ItemPath place;
+    };
+    struct Tree {
+        NodeRef top;
+        std::set<std::string> paths;
+    };
+
+    std::vector<Item> items;
+    // Main thread.
+    std::vector<NodeRef> gone;
+    std::vector<Tree> otherTrees;  // that name what has gone as well, and where
+    std::vector<NodeRef> others;   // what stood there
 
     void add(const NodeRef& node) {
         FSNode* top = node.get();
@@ -35,8 +49,13 @@ struct Leaving {
         }
         const std::optional<ItemPath> item = ItemPath::below(root, node->fullPath());
         if (!item) return;
-        if (tops.empty() || !(tops.back() == top)) tops.emplace_back(top);
-        items.emplace_back(node, *item);
+        items.push_back({node, NodeRef(top), *item});
+    }
+    void noteIn(const NodeRef& tree, const std::string& path) {
+        const auto isIt = [&](const Tree& other) { return other.top == tree; };
+        auto at = std::find_if(otherTrees.begin(), otherTrees.end(), isIt);
+        if (at == otherTrees.end()) at = otherTrees.insert(at, {tree, {}});
+        at->paths.insert(path);
     }
 };
 
@@ -51,14 +70,23 @@ void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
         return;
     }
     auto work = [this, sender = calls_.sender(), &trash = platform_.trash, leaving, done = std::move(done)]() mutable {
-        for (const auto& [node, item] : leaving->items) {
-            if (trash.trash(item)) continue;
-            sender.post([this, leaving, gone = node] {
-                removeFromTree(*gone);
-                leaving->gone.push_back(gone);
+        for (const Leaving::Item& item : leaving->items) {
+            if (trash.trash(item.place)) continue;
+            sender.post([this, leaving, &item] {
+                const std::string path = item.node->fullPath();
+                if (scanTask_ != nullptr && scanPhase_ == ScanPhase::scanning) scanTask_->trashedFolders.insert(path);
+                for (const NodeRef& tree : treesAtHand())
+                    if (!(tree == item.top)) leaving->noteIn(tree, path);
+                removeFromTree(*item.node);
+                leaving->gone.push_back(item.node);
             });
         }
         sender.post([this, leaving, done = std::move(done)] {
+            for (const Leaving::Tree& tree : leaving->otherTrees) {
+                const std::vector<NodeRef> others = foldersAt(*tree.top, tree.paths);
+                leaving->others.insert(leaving->others.end(), others.begin(), others.end());
+            }
+            for (const NodeRef& node : leaving->others) removeFromTree(*node);
             if (done) done(leaving->gone);
             platform_.tasks.run(TaskPriority::utility, [leaving] { *leaving = Leaving(); });
         });
@@ -66,8 +94,28 @@ void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
     platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
 }
 
+/// The trees that results are read from, or will be again after a cancel.
+std::vector<NodeRef> AppModel::treesAtHand() const {
+    std::vector<NodeRef> trees;
+    if (root_) trees.push_back(root_);
+    if (scanTask_ != nullptr && scanTask_->before && scanTask_->before->root) trees.push_back(scanTask_->before->root);
+    return trees;
+}
+
+/// Of the roots of the survey at hand the one nearest above `path`, from which the walk came to it; empty if none is.
+std::string_view AppModel::rootAbove(std::string_view path) const {
+    std::string_view nearest;
+    if (!root_) return nearest;
+    for (const NodeRef& root : root_->children) {
+        const std::optional<std::string_view> rest = behindRoot(root->name(), path);
+        if (rest && !rest->empty() && root->name().size() > nearest.size()) nearest = root->name();
+    }
+    return nearest;
+}
+
 void AppModel::trashLargeFile(const std::string& path) {
-    const std::optional<ItemPath> item = ItemPath::from(path);
+    const std::string_view root = rootAbove(path);
+    const std::optional<ItemPath> item = root.empty() ? std::nullopt : ItemPath::below(root, path);
     if (!item) return;
     auto work = [this, sender = calls_.sender(), &trash = platform_.trash, item = *item, path] {
         if (trash.trash(item)) return;

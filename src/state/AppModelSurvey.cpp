@@ -2,14 +2,29 @@
 // The life of a survey: from the button through the updates and the finish to the record in the history. Every signal
 // may run a handler that cancels or starts another survey, so after signals the task at hand is looked at again.
 #include <algorithm>
+#include <iterator>
 #include <variant>
 
 #include "reclaim/ReclaimClassifier.h"
+#include "scan/FoldersAt.h"
 #include "scan/ScanEngine.h"
 #include "state/AppModel.h"
 #include "state/ScanTask.h"
 
 namespace zelk {
+
+namespace {
+
+/// True if one of `folders` holds `path`, however far above it.
+bool isBelow(const std::set<std::string>& folders, const std::string& path) {
+    if (folders.empty()) return false;
+    for (std::size_t slash = path.rfind('/'); slash != 0 && slash != std::string::npos;
+         slash = path.rfind('/', slash - 1))
+        if (folders.contains(path.substr(0, slash))) return true;
+    return false;
+}
+
+}  // namespace
 
 void AppModel::startScan() {
     if (scanPhase_ == ScanPhase::scanning) return;
@@ -81,8 +96,9 @@ void AppModel::take(const std::shared_ptr<ScanTask>& task, ScanUpdate update) {
         assign(bytesScanned_, progress->bytes, &AppModel::bytesScannedChanged);
         assign(currentPath_, std::move(progress->currentPath), &AppModel::currentPathChanged);
     } else if (auto* found = std::get_if<update::Insights>(&update)) {
-        std::erase_if(found->insights.topFiles,
-                      [&](const LargeFile& file) { return task->trashedFiles.contains(file.path); });
+        std::erase_if(found->insights.topFiles, [&](const LargeFile& file) {
+            return task->trashedFiles.contains(file.path) || isBelow(task->trashedFolders, file.path);
+        });
         assign(insights_, std::move(found->insights), &AppModel::insightsChanged);
     } else if (const auto* blocked = std::get_if<update::Blocked>(&update)) {
         assign(blockedPaths_, blocked->count, &AppModel::blockedPathsChanged);
@@ -129,7 +145,10 @@ void AppModel::completeFinish(const std::shared_ptr<ScanTask>& task, std::vector
 /// No other thread reads the tree any more.
 void AppModel::removeWhatWaited(ScanTask& task) {
     task.treeIsRead = false;
-    for (NodeRef& node : std::exchange(task.removals, {})) {
+    std::vector<NodeRef> removals = foldersAt(*root_, std::exchange(task.trashedFolders, {}));
+    std::move(task.removals.begin(), task.removals.end(), std::back_inserter(removals));
+    task.removals.clear();
+    for (NodeRef& node : removals) {
         removeFromTree(*node);
         releaseElsewhere(std::move(node));
     }

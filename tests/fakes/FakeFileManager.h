@@ -60,8 +60,10 @@ public:
     void move(const std::string& path, const std::string& newPath) {
         const std::lock_guard lock(mutex_);
         Entries moved;
-        for (const auto& [old, entry] : entries_)
-            if (old == path || old.starts_with(path + "/")) moved.emplace(newPath + old.substr(path.size()), entry);
+        if (const auto entry = entries_.find(path); entry != entries_.end()) moved.emplace(newPath, entry->second);
+        forEachBelow(path, [&](std::string_view below, const Entry& entry) {
+            moved.emplace(newPath + "/" + std::string(below), entry);
+        });
         eraseBelow(path);
         entries_.merge(moved);
     }
@@ -195,7 +197,8 @@ private:
     void eraseBelow(const std::string& path) {
         entries_.erase(path);
         const std::string below = path == "/" ? path : path + "/";
-        std::erase_if(entries_, [&](const auto& entry) { return entry.first.starts_with(below); });
+        auto entry = entries_.lower_bound(below);
+        while (entry != entries_.end() && entry->first.starts_with(below)) entry = entries_.erase(entry);
     }
 
     bool fails(const char* operation, const std::string& path) {

@@ -26,6 +26,15 @@ protected:
         runWhatIsThere();
     }
 
+    /// Neither the tree nor the items nor the large files.
+    void expectResultsWithoutProjects() {
+        const auto isInIt = [&](const auto& one) { return one.path.starts_with(home + "/projects/"); };
+        EXPECT_FALSE(folder("/projects"));
+        EXPECT_TRUE(std::none_of(model().reclaimables().begin(), model().reclaimables().end(), isInIt));
+        EXPECT_TRUE(std::none_of(model().insights().topFiles.begin(), model().insights().topFiles.end(), isInIt));
+        EXPECT_FALSE(model().reclaimables().empty());
+    }
+
     static std::int64_t reclaimableCount(const AppModel& model) {
         return static_cast<std::int64_t>(model.reclaimables().size());
     }
@@ -133,7 +142,93 @@ TEST_F(AppModelCleaningTest, anotherSurveyMayReplaceTheTreeMeanwhile) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
     runWhatIsThere();
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
-    EXPECT_EQ(model().root()->size, size);
+    expectResultsWithoutProjects();
+    EXPECT_EQ(model().root()->size, size - 3'070'000'000);
+}
+
+// A survey under way may have come by before a folder went.
+
+TEST_F(AppModelCleaningTest, aSurveyThatCameByBeforeDoesNotTellOfTheFolder) {
+    machine.directories.file(home + "/projects too/film.mov", 5'000'000, 1'000);
+    surveyHome();
+    addWideFolder(home + "/wide");
+    machine.directories.hold(home + "/wide/inner");
+    machine.tasks.hold();
+    model().trashAndRemove(*folder("/projects"));
+    model().startScan();
+    runUntil([&] { return model().itemsScanned() > 0; });
+    machine.tasks.release();
+    runWhatIsThere();
+    ASSERT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
+    ASSERT_EQ(model().scanPhase(), Phase::scanning);
+    EXPECT_FALSE(folder("/projects")) << "the results before lose it as well";
+    machine.directories.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    expectResultsWithoutProjects();
+    EXPECT_TRUE(folder("/projects too"));
+    EXPECT_EQ(model().history().back().totalScanned, model().root()->size);
+    EXPECT_EQ(model().bytesScanned(), model().root()->size + 3'070'000'000) << "that is the survey as it ran";
+    // The one after that believes the disk.
+    survey();
+    EXPECT_TRUE(folder("/projects"));
+}
+
+TEST_F(AppModelCleaningTest, theFolderGoesWhenNoOtherThreadReadsTheNewTree) {
+    surveyHome();
+    machine.tasks.hold();
+    model().trashAndRemove(*folder("/projects"));
+    model().startScan();
+    const NodeRef old = model().root();
+    runUntil([&] { return !(model().root() == old); });
+    machine.tasks.runNext();
+    runWhatIsThere();
+    ASSERT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
+    EXPECT_FALSE(folderAt(old, home + "/projects"));
+    EXPECT_TRUE(folder("/projects"));
+    machine.tasks.release();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    expectResultsWithoutProjects();
+    EXPECT_EQ(model().history().back().totalScanned, model().root()->size);
+}
+
+TEST_F(AppModelCleaningTest, aCancelDoesNotBringTheFolderBack) {
+    surveyHome();
+    const NodeRef oldest = model().root();
+    survey();
+    const NodeRef before = model().root();
+    machine.tasks.hold();
+    model().trashAndRemove(*folderAt(oldest, home + "/projects"));
+    model().startScan();
+    runUntil([&] { return !(model().root() == before); });
+    machine.tasks.runNext();
+    runWhatIsThere();
+    model().cancelScan();
+    ASSERT_EQ(model().root(), before);
+    EXPECT_FALSE(folder("/projects"));
+    EXPECT_FALSE(folderAt(oldest, home + "/projects"));
+    machine.tasks.release();
+    runWhatIsThere();
+}
+
+TEST_F(AppModelCleaningTest, aFolderOfAnOlderTreeLeavesTheResultsAtHand) {
+    surveyHome();
+    const NodeRef old = model().root();
+    survey();
+    trashAndRemove(*folderAt(old, home + "/projects"));
+    EXPECT_FALSE(folderAt(old, home + "/projects"));
+    expectResultsWithoutProjects();
+}
+
+TEST_F(AppModelCleaningTest, aFolderThatIsMadeAgainStaysInTheSurveyThatFindsIt) {
+    surveyHome();
+    const NodeRef old = model().root();
+    survey();
+    machine.tasks.hold();
+    model().trashAndRemove({folderAt(old, home + "/projects")}, {});
+    machine.tasks.release();
+    runWhatIsThere();
+    survey();
+    EXPECT_TRUE(folder("/projects"));
 }
 
 TEST_F(AppModelCleaningTest, theModelMayGoWhileAFolderIsTrashed) {

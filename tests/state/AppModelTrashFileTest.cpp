@@ -136,6 +136,18 @@ TEST_F(AppModelTrashFileTest, whatIsNoPathOfAnItemIsNotTouched) {
     machine.tasks.release();
 }
 
+TEST_F(AppModelTrashFileTest, whatNoSurveyCameByIsNotTouched) {
+    machine.files.addFile("/elsewhere/dear.mov");
+    machine.files.addFile(home + "2/dear.mov");
+    machine.tasks.hold();
+    model().trashLargeFile("/elsewhere/dear.mov");
+    machine.tasks.release();
+    surveyHome();
+    trash("/elsewhere/dear.mov");
+    trash(home + "2/dear.mov");
+    EXPECT_EQ(machine.trash.trashed(), Strings());
+}
+
 TEST_F(AppModelTrashFileTest, aNeighbourWithALongerNameStays) {
     const std::string neighbour = film + ".part";
     add(neighbour);

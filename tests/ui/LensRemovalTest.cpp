@@ -144,6 +144,33 @@ TEST_F(LensRemoval, fromAnOlderTreeIsSeenThereAndInTheNewOne) {
     EXPECT_EQ(model().root()->size, 138'000'000);
 }
 
+TEST_F(LensRemoval, whatWasTickedBeforeTheSurveyGoesAlsoWhereNothingElseHoldsItsTree) {
+    fill();
+    survey();
+    toggle("music");
+    survey();
+    EXPECT_TRUE(ticked("music"));
+    removeSelected();
+    EXPECT_THAT(trashed(), ElementsAre(home + "/music"));
+    EXPECT_THAT(names(), ElementsAre("projects", "Library"));
+    EXPECT_EQ(model().root()->size, 140'000'000);
+}
+
+TEST_F(LensRemoval, tensOfThousandsOfAnOlderTreeGoLikeOne) {
+    constexpr int count = 20'000;
+    addMany("/many", count);
+    put("/music/song.flac", 8'000'000);
+    survey();
+    drill("many");
+    lens().selectAll();
+    survey();
+    removeSelected();
+    EXPECT_EQ(trashed().size(), std::size_t{count});
+    lens().startOver();
+    EXPECT_EQ(model().root()->size, 8'000'000);
+    EXPECT_THAT(names(), ElementsAre("music"));
+}
+
 TEST_F(LensRemoval, aSurveyMayBeginBeforeItHasGone) {
     fill();
     survey();
@@ -160,6 +187,8 @@ TEST_F(LensRemoval, aSurveyMayBeginBeforeItHasGone) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
     EXPECT_EQ(lens().walk().root(), model().root());
     EXPECT_EQ(lens().version(), 1);
+    EXPECT_THAT(names(), ElementsAre("projects", "Library")) << "the walk may have come by before";
+    EXPECT_EQ(model().root()->size, 140'000'000);
 }
 
 TEST_F(LensRemoval, aSurveyMayEndBeforeItHasGone) {
@@ -178,6 +207,11 @@ TEST_F(LensRemoval, aSurveyMayEndBeforeItHasGone) {
     EXPECT_THAT(trashed(), ElementsAre(home + "/projects/app"));
     EXPECT_EQ(place(), "projects");
     EXPECT_THAT(names(), IsEmpty()) << "the folder on the screen is of the survey before";
+    lens().startOver();
+    EXPECT_EQ(model().root()->size, 138'000'000);
+    drill("projects");
+    EXPECT_EQ(place(), "me") << "there is nothing inside in the new tree either";
+    EXPECT_EQ(model().reclaimables().size(), 1U);
 }
 
 TEST_F(LensRemoval, whatIsTickedWhileOthersGoStaysTicked) {

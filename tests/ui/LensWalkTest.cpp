@@ -140,22 +140,6 @@ TEST_F(LensWalkTest, whatHasGoneIsUntickedWithAllThatWasInIt) {
     EXPECT_TRUE(walk.isSelected("/home/me/middle"));
 }
 
-TEST_F(LensWalkTest, findsAFolderByItsPath) {
-    home->append(folder("lar", 2));
-    EXPECT_EQ(walk.find("/home/me"), home);
-    EXPECT_EQ(walk.find("/home/me/large/inner"), inner);
-    EXPECT_EQ(walk.find("/home/me/lar")->size, 2);
-    for (const char* path : {"/home", "/home/me/large/inne", "/home/me/large/inner/x", "/home/mel", ""})
-        EXPECT_FALSE(walk.find(path)) << path;
-    const NodeRef slash = folder("/", 1);
-    slash->append(folder("data", 1));
-    top = folder("", 1);
-    top->append(slash);
-    walk.setRoot(top);
-    EXPECT_EQ(walk.find("/"), slash);
-    EXPECT_EQ(walk.find("/data"), slash->children[0]);
-}
-
 TEST_F(LensWalkTest, theLastComponentNamesAPlace) {
     EXPECT_EQ(lastComponent("/home/me"), "me");
     EXPECT_EQ(lastComponent("/"), "/");

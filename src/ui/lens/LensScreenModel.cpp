@@ -186,25 +186,17 @@ void LensScreenModel::explain(int row) {
 void LensScreenModel::removeSelected() {
     if (!removable()) return;
     std::vector<NodeRef> leaving;
-    // What was ticked in an older tree may stand in the one at hand as well, ticked before the same eyes.
-    std::map<const FSNode*, NodeRef> sameNow;
-    for (const auto& [path, node] : walk_.selected()) {
-        leaving.push_back(node);
-        const NodeRef now = walk_.find(path);
-        if (now && !(now == node)) sameNow.emplace(node.get(), now);
-    }
+    for (const auto& [path, node] : walk_.selected()) leaving.push_back(node);
+    // First of all: with the last tick in an older tree goes what keeps that tree, and the paths in it.
+    app_.trashAndRemove(leaving, [self = QPointer(this)](const auto& gone) {
+        if (self) self->endRemoval(gone);
+    });
     // Not ticked from here on: what is pressed while they leave is another removal.
     selectNone();
-    app_.trashAndRemove(leaving, [self = QPointer(this), sameNow = std::move(sameNow)](const auto& gone) {
-        if (self) self->endRemoval(gone, sameNow);
-    });
 }
 
-void LensScreenModel::endRemoval(const std::vector<NodeRef>& gone, const std::map<const FSNode*, NodeRef>& sameNow) {
-    for (const NodeRef& node : gone) {
-        walk_.unselectAtAndBelow(node->fullPath());
-        if (const auto now = sameNow.find(node.get()); now != sameNow.end()) app_.removeFromTree(*now->second);
-    }
+void LensScreenModel::endRemoval(const std::vector<NodeRef>& gone) {
+    for (const NodeRef& node : gone) walk_.unselectAtAndBelow(node->fullPath());
     ++version_;
     followTree();
     bubbles_.rebuild();

@@ -6,7 +6,6 @@
 #include <QString>
 #include <QTimer>
 #include <cstdint>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -123,7 +122,7 @@ private:
     void toggle(const NodeRef& node);
     void arrive(const NodeRef& from = nullptr);
     void tellSelection();
-    void endRemoval(const std::vector<NodeRef>& gone, const std::map<const FSNode*, NodeRef>& sameNow);
+    void endRemoval(const std::vector<NodeRef>& gone);
     NodeRef bubbled(const std::string& path) const;
     void showSlices();
     QImage icon(const std::string& path, int side) const;

@@ -75,22 +75,6 @@ std::int64_t LensWalk::selectedBytes() const {
     return bytes;
 }
 
-NodeRef LensWalk::find(const std::string& path) const {
-    NodeRef node = root_;
-    std::string reached;
-    const auto leadsThere = [&](const NodeRef& child) {
-        child->fullPath(reached);
-        return path == reached || (path.starts_with(reached) && (reached.back() == '/' || path[reached.size()] == '/'));
-    };
-    while (node) {
-        const auto next = std::find_if(node->children.begin(), node->children.end(), leadsThere);
-        if (next == node->children.end()) return nullptr;
-        node = *next;
-        if (path == reached) return node;
-    }
-    return nullptr;
-}
-
 std::vector<NodeRef> LensWalk::takeLeftTrees() {
     if (earlier_.empty()) return {};
     std::set<const FSNode*> needed;

@@ -46,8 +46,6 @@ public:
     void clearSelection() { selected_.clear(); }
     std::int64_t selectedBytes() const;
 
-    /// The folder of the tree at hand at `path`; absent if there is none.
-    NodeRef find(const std::string& path) const;
     /// Trees of earlier surveys that nothing here is in any more. Whoever takes them lets go of them where that holds
     /// up no screen.
     std::vector<NodeRef> takeLeftTrees();

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "scan/FoldersAt.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace zelk {
+
+namespace {
+
+/// The folders of a tree by their names, level by level. The tree must stay as it is.
+class Levels {
+public:
+    /// Null if `folder` has none of that name.
+    const NodeRef* child(const FSNode& folder, std::string_view name) {
+        const auto [level, isNew] = levels_.try_emplace(&folder);
+        if (isNew) {
+            level->second.reserve(folder.children.size());
+            for (const NodeRef& child : folder.children) level->second.emplace(child->name(), &child);
+        }
+        const auto found = level->second.find(name);
+        return found == level->second.end() ? nullptr : found->second;
+    }
+
+private:
+    std::unordered_map<const FSNode*, std::unordered_map<std::string_view, const NodeRef*>> levels_;
+};
+
+}  // namespace
+
+std::optional<std::string_view> behindRoot(std::string_view root, std::string_view path) {
+    if (root.empty() || !path.starts_with(root)) return std::nullopt;
+    path.remove_prefix(root.size());
+    if (path.empty() || root.ends_with('/')) return path;
+    if (!path.starts_with('/')) return std::nullopt;
+    return path.substr(1);
+}
+
+std::vector<NodeRef> foldersAt(const FSNode& top, const std::set<std::string>& paths) {
+    std::vector<NodeRef> folders;
+    Levels levels;
+    for (const std::string& path : paths) {
+        for (const NodeRef& root : top.children) {
+            std::optional<std::string_view> rest = behindRoot(root->name(), path);
+            if (!rest) continue;
+            const NodeRef* at = &root;
+            while (at != nullptr && !rest->empty()) {
+                const std::size_t end = std::min(rest->find('/'), rest->size());
+                at = levels.child(**at, rest->substr(0, end));
+                rest->remove_prefix(std::min(end + 1, rest->size()));
+            }
+            if (at != nullptr) folders.push_back(*at);
+        }
+    }
+    return folders;
+}
+
+}  // namespace zelk
