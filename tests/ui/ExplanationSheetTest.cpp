@@ -72,6 +72,14 @@ TEST_F(ExplanationWindow, aLongPathIsOneLineCutInTheMiddle) {
     EXPECT_TRUE(QRectF(0, 0, 960, 620).contains(done));
 }
 
+TEST_F(ExplanationWindow, itsPartsStandTenApart) {
+    open("/home/me/site/.next");
+    const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
+    EXPECT_EQ(box("explanationBadge").top() - box("explanationPath").bottom(), 10);
+    EXPECT_EQ(box("explanationDetail").top() - box("explanationBadge").bottom(), 10);
+    EXPECT_EQ(box("explanationDone").top() - box("explanationDetail").bottom(), 10);
+}
+
 TEST_F(ExplanationWindow, nothingIsClippedInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     open("/home/me/Library/Containers/app");

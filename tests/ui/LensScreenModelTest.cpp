@@ -87,10 +87,14 @@ TEST_F(LensScreen, severalRootsStandSideBySide) {
     model().setScanRoots({home + "/projects", home + "/music"});
     survey();
     EXPECT_EQ(place(), "");
+    EXPECT_EQ(lens().listName(), QStringLiteral("Surveyed folders"));
+    EXPECT_EQ(lens().mapName(), QStringLiteral("Map of the surveyed folders"));
     EXPECT_EQ(lens().placeLine(), QStringLiteral("98 MB · 2 folders"));
     EXPECT_THAT(names(), ElementsAre(home + "/projects", home + "/music"));
     drill(home + "/projects");
     EXPECT_EQ(place(), "projects");
+    EXPECT_EQ(lens().listName(), QStringLiteral("Folders in projects"));
+    EXPECT_EQ(lens().mapName(), QStringLiteral("Map of projects"));
 }
 
 TEST_F(LensScreen, theWholeDriveIsCalledByItsSlash) {

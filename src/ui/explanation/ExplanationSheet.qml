@@ -95,7 +95,7 @@ Sheet {
 
             Item {
                 width: parent.width
-                implicitHeight: done.implicitHeight + 6
+                implicitHeight: done.implicitHeight
 
                 PrimaryButton {
                     id: done

@@ -27,7 +27,7 @@ Rectangle {
         id: volume
 
         anchors.left: parent.left
-        anchors.leftMargin: 26
+        anchors.leftMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         spacing: 4
         visible: foot.lens.volumed
@@ -59,7 +59,7 @@ Rectangle {
 
         objectName: "lensCaption"
         anchors.left: volume.visible ? volume.right : parent.left
-        anchors.leftMargin: volume.visible ? 16 : 26
+        anchors.leftMargin: 16
         anchors.right: remove.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter

@@ -63,11 +63,14 @@ QString LensScreenModel::noneLabel() const {
 QString LensScreenModel::infoHelp() const {
     return QStringLiteral("What is this? (I)");
 }
+/// What several scan roots hang in has no name of its own.
 QString LensScreenModel::listName() const {
-    return QStringLiteral("Folders in %1").arg(place());
+    const QString name = place();
+    return name.isEmpty() ? QStringLiteral("Surveyed folders") : QStringLiteral("Folders in %1").arg(name);
 }
 QString LensScreenModel::mapName() const {
-    return QStringLiteral("Map of %1").arg(place());
+    const QString name = place();
+    return name.isEmpty() ? QStringLiteral("Map of the surveyed folders") : QStringLiteral("Map of %1").arg(name);
 }
 
 bool LensScreenModel::volumed() const {
