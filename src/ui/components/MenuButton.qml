@@ -24,6 +24,7 @@ BaseButton {
     Accessible.name: Spoken.joined([button.said, button.text])
     Accessible.role: Accessible.ButtonMenu
 
+    onVisibleChanged: panel.close()
     onClicked: panel.visible ? panel.close() : panel.popup(button, 0, button.height + 4)
     Keys.onDownPressed: button.clicked()
 
@@ -59,7 +60,11 @@ BaseButton {
     MenuPanel {
         id: panel
 
-        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-        onClosed: button.forceActiveFocus(Qt.PopupFocusReason)
+        // A press on the button is the button's own: it closes what it opened.
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+        onClosed: {
+            if (button.visible && button.enabled)
+                button.forceActiveFocus(Qt.PopupFocusReason);
+        }
     }
 }
