@@ -46,4 +46,17 @@ TEST(FigureText, hasTheSizeOfItsText) {
     EXPECT_DOUBLE_EQ(item.implicitWidth(), wide);
 }
 
+TEST(FigureText, thatGoesOutOfSightDoesNotRunOn) {
+    FigureText item;
+    item.setText(QStringLiteral("10 KB"));
+    item.setDuration(1'000'000);
+    item.setText(QStringLiteral("90 KB"));
+    EXPECT_NE(item.shown(), QStringLiteral("90 KB"));
+    item.setVisible(false);
+    EXPECT_EQ(item.shown(), QStringLiteral("90 KB"));
+    item.setText(QStringLiteral("20 KB"));
+    item.setVisible(true);
+    EXPECT_EQ(item.shown(), QStringLiteral("20 KB"));
+}
+
 }  // namespace zelk

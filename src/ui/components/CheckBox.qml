@@ -34,7 +34,9 @@ BaseButton {
             border.width: box.on ? 0 : 1
             border.color: box.hovered && box.enabled ? Theme.inkSoft : Qt.alpha(Theme.inkSoft, 0.6)
 
+            // One that comes into sight, perhaps in a row that showed something else, is as it is.
             Behavior on color {
+                enabled: box.visible
                 ColorAnimation {
                     duration: Motion.quick
                 }

@@ -53,16 +53,22 @@ void FigureText::componentComplete() {
     layOut();
 }
 
+/// What comes into sight again, perhaps in a row that shows something else by then, does not run to its end there.
+void FigureText::itemChange(ItemChange change, const ItemChangeData& value) {
+    QQuickPaintedItem::itemChange(change, value);
+    if (change == ItemVisibleHasChanged && !value.boolValue) settle();
+}
+
 void FigureText::setText(const QString& text) {
     if (text == text_) return;
     text_ = text;
-    run_.stop();
     if (duration_ > 0 && isComponentComplete() && isVisible()) {
+        run_.stop();
         origin_ = shown_;
         run_.setDuration(duration_);
         run_.start();
     } else {
-        show(text_);
+        settle();
     }
     emit textChanged();
 }
@@ -70,11 +76,13 @@ void FigureText::setText(const QString& text) {
 void FigureText::setDuration(int duration) {
     if (duration == duration_) return;
     duration_ = duration;
-    if (duration == 0) {
-        run_.stop();
-        show(text_);
-    }
+    if (duration == 0) settle();
     emit durationChanged();
+}
+
+void FigureText::settle() {
+    run_.stop();
+    show(text_);
 }
 
 void FigureText::show(const QString& text) {

@@ -27,7 +27,7 @@ struct FigurePiece {
 std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font);
 
 /// A line of text whose figures change while one looks. Its implicit size is that of what it shows. Where it is given
-/// time for it, a figure runs to its next value; `text` is the last one at once.
+/// time for it, a figure in sight runs to its next value; `text` is the last one at once.
 class FigureText : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -67,8 +67,10 @@ signals:
 
 protected:
     void componentComplete() override;
+    void itemChange(ItemChange change, const ItemChangeData& value) override;
 
 private:
+    void settle();
     void show(const QString& text);
     void layOut();
     QFont font() const;

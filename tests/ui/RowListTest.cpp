@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// Rows that are used again for other data.
+#include <gmock/gmock.h>
+
+#include "ViewFixture.h"
+#include "ui/components/FigureText.h"
+
+namespace zelk {
+
+namespace {
+
+/// A hundred rows with a tick, a figure that runs and their number; the first half are ticked.
+constexpr const char* listBoard = R"(
+import QtQuick
+import Zelk.Components
+
+RowList {
+    objectName: "list"
+    name: "Numbers"
+    model: 100
+    delegate: ListRow {
+        id: row
+
+        required property int index
+
+        implicitHeight: 40
+
+        CheckBox {
+            objectName: "tick"
+            text: row.index
+            on: row.index < 50
+        }
+        CountingText {
+            objectName: "figure"
+            x: 100
+            text: row.index + " KB"
+        }
+    }
+}
+)";
+
+class RowListWindow : public ViewFixture {
+protected:
+    RowListWindow() {
+        singleton<Motion>("Motion").setReduced(false);
+        show(QString::fromUtf8(listBoard), {300, 400});
+    }
+
+    /// What the rows in sight show of themselves, from the top down.
+    std::vector<std::string> figures() {
+        std::map<double, std::string> byPlace;
+        for (QQuickItem* item : seen())
+            if (const auto* figure = qobject_cast<FigureText*>(item))
+                byPlace.emplace(item->mapToScene({}).y(), figure->shown().toStdString());
+        std::vector<std::string> texts;
+        for (auto& [y, text] : byPlace) texts.push_back(std::move(text));
+        return texts;
+    }
+    /// The grounds of the ticks in sight.
+    std::set<std::string> grounds() {
+        std::set<std::string> colors;
+        for (QQuickItem* item : seen()) {
+            if (item->objectName() != QStringLiteral("tick")) continue;
+            const auto* ground = item->property("background").value<QQuickItem*>()->childItems().constFirst();
+            colors.insert(ground->property("color").value<QColor>().name(QColor::HexArgb).toStdString());
+        }
+        return colors;
+    }
+    std::string themes(const char* name) {
+        return singleton<Theme>("Theme").property(name).value<QColor>().name(QColor::HexArgb).toStdString();
+    }
+};
+
+}  // namespace
+
+TEST_F(RowListWindow, aRowThatIsUsedAgainShowsItsOwnDataAtOnce) {
+    ASSERT_EQ(figures().front(), "0 KB");
+    ASSERT_THAT(grounds(), testing::ElementsAre(themes("accent")));
+    std::set<QQuickItem*> before;
+    for (QQuickItem* item : seen())
+        if (item->objectName() == QStringLiteral("tick")) before.insert(item);
+
+    find("list")->setProperty("contentY", 100 * 40 - 400);
+    window().grabWindow();
+    std::vector<std::string> expected;
+    for (int at = 90; at < 100; ++at) expected.push_back(std::to_string(at) + " KB");
+    EXPECT_EQ(figures(), expected);
+    EXPECT_THAT(grounds(), testing::ElementsAre(themes("surfaceHi")));
+    const std::vector<QQuickItem*> now = seen();
+    EXPECT_TRUE(std::any_of(now.begin(), now.end(), [&](QQuickItem* item) { return before.contains(item); }))
+        << "no row was used again";
+}
+
+}  // namespace zelk
