@@ -92,6 +92,18 @@ TEST_F(LensWindow, showsTheFolderAtHand) {
     expectAllControlsNamed();
 }
 
+TEST_F(LensWindow, theFootKeepsItsDistanceFromEveryEdge) {
+    machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
+    openOn();
+    const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
+    EXPECT_EQ(box("lensVolume").left(), 16);
+    EXPECT_EQ(box("lensRemove").right(), 1046 - 16);
+    EXPECT_EQ(box("lensRemove").bottom(), 800 - 16);
+    model().setVolume(std::nullopt);
+    settle();
+    EXPECT_EQ(box("lensCaption").left(), 16);
+}
+
 TEST_F(LensWindow, withoutAVolumeTheBarIsNotThere) {
     openOn();
     model().setVolume(std::nullopt);
@@ -270,6 +282,24 @@ TEST_F(LensWindow, theMenuWorksFromTheKeyboard) {
     press(Qt::Key_Return);
     EXPECT_EQ(text("lensCaption"), "3 selected · 148 MB");
     EXPECT_EQ(focusName(), "Select:, 3");
+}
+
+TEST_F(LensWindow, whereTheLastRowsHaveGoneTheKeyboardIsAtTheLastThatIsLeft) {
+    addMany("", 200);
+    survey();
+    open();
+    giveList();
+    press(Qt::Key_End);
+    ASSERT_EQ(find("lensList")->property("currentIndex").toInt(), 199);
+    // Every other one: more than would be told one by one.
+    const std::vector<NodeRef> folders = lens().walk().visibleChildren();
+    for (std::size_t at = 0; at < folders.size(); at += 2) model().removeFromTree(*folders[at]);
+    runUntil([&] { return lens().rows()->rowCount() == 100; });
+    settle();
+    EXPECT_EQ(find("lensList")->property("currentIndex").toInt(), 99);
+    EXPECT_EQ(focusName(), "folder 199, 1 MB, folder");
+    press(Qt::Key_Space);
+    EXPECT_EQ(text("lensCaption"), "1 selected · 1 MB");
 }
 
 // Room.

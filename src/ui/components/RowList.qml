@@ -49,6 +49,12 @@ ListView {
             list.currentIndex = 0;
     }
 
+    // A new list of rows leaves the place where it is, also where it has no row any more.
+    onCountChanged: {
+        if (list.count > 0 && list.currentIndex >= list.count)
+            list.currentIndex = list.count - 1;
+    }
+
     Keys.onPressed: event => {
         event.accepted = true;
         if (event.key === Qt.Key_Up)
