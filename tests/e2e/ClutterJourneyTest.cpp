@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: MIT
-// A person whose drive is full of heavy files, in the real window: with the mouse, then with the keyboard alone.
+// A person whose drive is full of heavy files, in the real window: with the mouse, then with the keyboard alone, then
+// on a real disk.
 #include <gmock/gmock.h>
+
+#include <QTemporaryDir>
+#include <filesystem>
 
 #include "ShellFixture.h"
 #include "fakes/ClutterHome.h"
+#include "fakes/TrashContent.h"
+#include "platform/NativePlatform.h"
 
 namespace zelk {
 
@@ -112,5 +118,88 @@ TEST_F(ClutterJourney, withTheKeyboardAlone) {
     runWhatIsThere();
     EXPECT_EQ(machine.trash.trashed(), (Strings{files[1].path, files[2].path}));
 }
+
+#ifndef Q_OS_MACOS
+/// A home on a real disk, and a place outside of it.
+class RealClutterJourney : public testing::Test {
+protected:
+    void put(const std::string& path, std::size_t bytes) const {
+        std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+        fakes::writeFile(path, std::string(bytes, 'x'));
+    }
+    static bool lists(const AppModel& model, const std::string& path) {
+        const std::vector<LargeFile>& files = model.insights().topFiles;
+        return std::any_of(files.begin(), files.end(), [&](const LargeFile& file) { return file.path == path; });
+    }
+
+    const QTemporaryDir folder;
+    const QTemporaryDir outside;
+    const std::string home = folder.path().toStdString();
+    const std::string other = outside.path().toStdString();
+    const std::string trash = home + "/.local/share/Trash";
+};
+
+/// Between the survey and the key a folder on the way has become a link to a place outside.
+TEST_F(RealClutterJourney, movesAFileAndNothingBehindALinkOnTheWayToIt) {
+    const std::string swapped = home + "/films/old/first.mov";
+    const std::string plain = home + "/kept/second.mov";
+    put(swapped, 90'000);
+    put(plain, 60'000);
+    put(other + "/old/first.mov", 3);
+    NativePlatform native(home);
+    {
+        AppModel model(native.platform());
+        model.setSelection(Screen::clutter);
+        MainWindow main(model);
+        main.motion().setReduced(true);
+        main.show();
+        runUntil([&] { return main.isUp(); });
+        ASSERT_TRUE(tour::clickOn(main.window(), QStringLiteral("moduleScanButton")));
+        runUntil([&] { return model.scanPhase() == AppModel::ScanPhase::finished; });
+        main.window().grabWindow();
+        ASSERT_TRUE(lists(model, swapped));
+        std::filesystem::rename(home + "/films", home + "/aside");
+        std::filesystem::create_directory_symlink(other, home + "/films");
+
+        QQuickItem* list = tour::findControl(main.window(), QStringLiteral("clutterList"));
+        ASSERT_NE(list, nullptr);
+        const auto name = [&] { return main.window().activeFocusItem()->property("name").toString(); };
+        list->forceActiveFocus(Qt::TabFocusReason);
+        tour::pressKey(main.window(), Qt::Key_Home);
+        ASSERT_EQ(name(), QStringLiteral("first.mov"));
+        tour::pressKey(main.window(), Qt::Key_Delete);
+        tour::pressKey(main.window(), Qt::Key_Down);
+        ASSERT_EQ(name(), QStringLiteral("second.mov"));
+        tour::pressKey(main.window(), Qt::Key_Delete);
+        runUntil([&] { return !lists(model, plain); });
+    }
+    ASSERT_TRUE(native.drain(60));
+    const auto inTrash = fakes::restorable(trash);
+    ASSERT_EQ(inTrash.size(), 1U);
+    EXPECT_EQ(std::filesystem::file_size(inTrash.at(plain)), 60'000U);
+    EXPECT_TRUE(std::filesystem::exists(other + "/old/first.mov"));
+    EXPECT_TRUE(std::filesystem::exists(home + "/aside/old/first.mov"));
+}
+
+/// Links are followed up to the root that the walk began in, also where that lies below another one.
+TEST_F(RealClutterJourney, movesAFileBelowAScanRootThatIsALinkItself) {
+    put(other + "/film.mov", 90'000);
+    put(home + "/second.mov", 60'000);
+    const std::string linked = home + "/linked";
+    std::filesystem::create_directory_symlink(other, linked);
+    NativePlatform native(home);
+    {
+        AppModel model(native.platform());
+        model.setScanRoots({home, linked});
+        model.startScan();
+        runUntil([&] { return model.scanPhase() == AppModel::ScanPhase::finished; });
+        ASSERT_TRUE(lists(model, linked + "/film.mov"));
+        model.trashLargeFile(linked + "/film.mov");
+        runUntil([&] { return !lists(model, linked + "/film.mov"); });
+        EXPECT_FALSE(std::filesystem::exists(other + "/film.mov"));
+    }
+    EXPECT_TRUE(native.drain(60));
+}
+#endif
 
 }  // namespace zelk

@@ -169,13 +169,15 @@ std::set<std::string> treeOf(const std::string& folder) {
 
 }  // namespace
 
-/// Between the survey and the button the world has changed: one folder is gone, one is a link to a place outside.
+/// Between the survey and the button the world has changed: one folder is gone, one is a link to a place outside, one
+/// is a file, and what holds another is called otherwise.
 TEST(RealLensJourney, takesWhatIsTickedFromTheDiskAndNothingElse) {
     const QTemporaryDir folder;
     const QTemporaryDir outside;
     const std::string home = folder.path().toStdString();
     const std::string other = outside.path().toStdString();
-    for (const char* name : {"/keep/in", "/ticked/in", "/ticked too", "/gone", "/replaced/in"}) {
+    for (const char* name :
+         {"/keep/in", "/ticked/in", "/ticked too", "/gone", "/replaced/in", "/filed/in", "/before/in"}) {
         std::filesystem::create_directories(home + name);
         fakes::writeFile(home + name + "/file", std::string(50'000, 'x'));
     }
@@ -193,16 +195,17 @@ TEST(RealLensJourney, takesWhatIsTickedFromTheDiskAndNothingElse) {
         runUntil([&] { return model.scanPhase() == AppModel::ScanPhase::finished; });
         main.window().grabWindow();
 
-        // All rows but "keep", and the one inside a folder that is ticked as well.
+        // All rows but "keep", the one inside a folder that is ticked as well, and one inside a folder that is not.
         QQuickItem* list = tour::findControl(main.window(), QStringLiteral("lensList"));
         ASSERT_NE(list, nullptr);
         const auto name = [&] { return main.window().activeFocusItem()->property("name").toString(); };
         list->forceActiveFocus(Qt::TabFocusReason);
         tour::pressKey(main.window(), Qt::Key_Home);
         for (int row = 0; row < list->property("count").toInt(); ++row) {
-            if (name() != QStringLiteral("keep") && name() != QStringLiteral(".local"))
+            const bool around = name() == QStringLiteral("before");
+            if (name() != QStringLiteral("keep") && name() != QStringLiteral(".local") && !around)
                 tour::pressKey(main.window(), Qt::Key_Space);
-            if (name() == QStringLiteral("ticked")) {
+            if (name() == QStringLiteral("ticked") || around) {
                 tour::pressKey(main.window(), Qt::Key_Right);
                 tour::pressKey(main.window(), Qt::Key_Space);
                 tour::pressKey(main.window(), Qt::Key_Left);
@@ -212,28 +215,36 @@ TEST(RealLensJourney, takesWhatIsTickedFromTheDiskAndNothingElse) {
         EXPECT_TRUE(tour::findControl(main.window(), QStringLiteral("lensCaption"))
                         ->property("text")
                         .toString()
-                        .startsWith(QStringLiteral("5 selected · ")));
+                        .startsWith(QStringLiteral("7 selected · ")));
 
         std::filesystem::remove_all(home + "/gone");
         std::filesystem::remove_all(home + "/replaced");
         std::filesystem::create_directory_symlink(other, home + "/replaced");
+        std::filesystem::remove_all(home + "/filed");
+        fakes::writeFile(home + "/filed", "a file");
+        std::filesystem::rename(home + "/before", home + "/after");
         std::set<std::string> expected = treeOf(home);
         std::erase_if(expected, [](const std::string& path) {
-            return path.starts_with("/ticked/") || path.starts_with("/ticked too/") || path == "/replaced@";
+            return path.starts_with("/ticked/") || path.starts_with("/ticked too/") || path == "/replaced@" ||
+                   path == "/filed";
         });
 
         const std::int64_t before = model.root()->size;
         ASSERT_TRUE(tour::clickOn(main.window(), QStringLiteral("lensRemove")));
         const std::string trash = home + "/.local/share/Trash";
-        runUntil([&] { return fakes::restorable(trash).size() == 3; });
-        runUntil([&] { return model.root()->size < before - 140'000; });
+        runUntil([&] { return fakes::restorable(trash).size() == 4; });
+        runUntil([&] { return model.root()->size < before - 190'000; });
         EXPECT_EQ(treeOf(home), expected);
         const auto restorable = fakes::restorable(trash);
         EXPECT_TRUE(restorable.contains(home + "/ticked"));
         EXPECT_TRUE(restorable.contains(home + "/ticked too"));
         EXPECT_TRUE(std::filesystem::is_symlink(restorable.at(home + "/replaced")));
         EXPECT_EQ(fakes::fileContent(other + "/precious"), "gold");
-        EXPECT_TRUE(folderAt(model.root(), home + "/gone")) << "what was not there to take is still listed";
+        EXPECT_EQ(fakes::fileContent(restorable.at(home + "/filed")), "a file");
+        EXPECT_FALSE(folderAt(model.root(), home + "/filed"));
+        EXPECT_TRUE(std::filesystem::exists(home + "/after/in/file"));
+        for (const char* name : {"/gone", "/before/in"})
+            EXPECT_TRUE(folderAt(model.root(), home + name)) << "what was not there to take is still listed";
     }
     EXPECT_TRUE(native.drain(60));
 }

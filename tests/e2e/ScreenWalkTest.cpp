@@ -38,11 +38,16 @@ protected:
                     std::string words;
                     while (words.size() < length) words += "long ";
                     disk.file(home + "/" + words + ".iso", 3'500'000'000, 1'000);
+                    for (const std::string& name : {std::string(length, 'f'), words})
+                        for (const char* inner : {"/", "/inner/"})
+                            disk.file(home + "/" + name + inner + name.substr(0, 40) + "/file", 5'000'000'000, 1'000);
                 }
                 break;
             case Content::hugeFigures:
                 for (const char* kind : {"mov", "iso", "zip", "jpg", "mp3", "pdf", "bin"})
                     disk.file(home + "/huge." + kind, 1'000'000'000'000'000, 1'000);
+                for (const char* place : {"/huge/inner/file", "/huge/other/file", "/as huge/file", "/third/file"})
+                    disk.file(home + place, 999'990'000'000'000, 1'000);
                 machine.vitals.setVolume(home, VolumeInfo{2'000'000'000'000'000, 999'999'999'999'999, 0});
                 break;
         }
@@ -57,11 +62,25 @@ protected:
         EXPECT_FALSE(focusableNames(window()).empty()) << where;
     }
 
+    /// The walk through the folders, with the first of them ticked and inside it.
+    void walkInside(const std::string& where) {
+        QQuickItem* list = find("lensList");
+        if (list == nullptr) return;
+        list->forceActiveFocus(Qt::TabFocusReason);
+        press(Qt::Key_Home);
+        press(Qt::Key_Space);
+        press(Qt::Key_Right);
+        expectNoFaults(where + ", inside the first folder");
+        press(Qt::Key_Left);
+        press(Qt::Key_Space);
+    }
+
     void walk(const std::string& state) {
         for (const Screen screen : allScreens) {
             model().setSelection(screen);
             const std::string name = lookOf(screen).title.toStdString();
             expectNoFaults(state + ", " + name);
+            if (screen == Screen::lens) walkInside(state + ", " + name);
             QQuickItem* scroll = screen == Screen::survey ? find("surveyScroll") : nullptr;
             if (scroll == nullptr) continue;
             const double end = scroll->property("contentHeight").toReal() - scroll->height();
