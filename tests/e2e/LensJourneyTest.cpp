@@ -139,6 +139,20 @@ TEST_F(LensJourney, throughTheMapWithTheKeyboard) {
     EXPECT_EQ(text("lensCaption"), "2 selected · 3.08 GB");
 }
 
+TEST_F(LensJourney, anOpenMenuGoesWithTheScreen) {
+    click("sidebarLens");
+    surveyWith([&] { click("moduleScanButton"); });
+    click("lensSelect");
+    ASSERT_NE(find("lensSelectAll"), nullptr);
+    press(Qt::Key_1, Qt::ControlModifier);
+    window().grabWindow();
+    ASSERT_EQ(model().selection(), Screen::survey);
+    EXPECT_EQ(find("lensSelectAll"), nullptr);
+    EXPECT_TRUE(window().activeFocusItem()->isVisible());
+    press(Qt::Key_8, Qt::ControlModifier);
+    EXPECT_EQ(find("lensSelectAll"), nullptr);
+}
+
 TEST_F(LensJourney, whatDoesNotGoStaysUnticked) {
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     click("sidebarLens");
