@@ -257,8 +257,8 @@ TEST(RealLensJourney, takesWhatIsTickedFromTheDiskAndNothingElse) {
         EXPECT_EQ(fakes::fileContent(restorable.at(home + "/filed")), "a file");
         EXPECT_FALSE(folderAt(model.root(), home + "/filed"));
         EXPECT_TRUE(std::filesystem::exists(home + "/after/in/file"));
-        for (const char* name : {"/gone", "/before/in"})
-            EXPECT_TRUE(folderAt(model.root(), home + name)) << "what was not there to take is still listed";
+        for (const char* kept : {"/gone", "/before/in"})
+            EXPECT_TRUE(folderAt(model.root(), home + kept)) << "what was not there to take is still listed";
     }
     EXPECT_TRUE(native.drain(60));
 }

@@ -101,7 +101,7 @@ TEST_F(LensWindow, theFootKeepsItsDistanceFromEveryEdge) {
     EXPECT_EQ(box("lensRemove").bottom(), 800 - 16);
     model().setVolume(std::nullopt);
     settle();
-    EXPECT_EQ(box("lensCaption").left(), 16);
+    EXPECT_EQ(find("lensCaption")->mapToScene({}).x(), 16);
 }
 
 TEST_F(LensWindow, withoutAVolumeTheBarIsNotThere) {

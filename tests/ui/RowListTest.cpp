@@ -2,6 +2,9 @@
 // Rows that are used again for other data.
 #include <gmock/gmock.h>
 
+#include <map>
+#include <set>
+
 #include "ViewFixture.h"
 #include "ui/components/FigureText.h"
 
@@ -46,11 +49,13 @@ protected:
         show(QString::fromUtf8(listBoard), {300, 400});
     }
 
+    /// The list keeps its current row also where that is scrolled away.
+    static bool isInTheWindow(const QQuickItem* item) { return item->mapToScene({}).y() >= 0; }
     /// What the rows in sight show of themselves, from the top down.
     std::vector<std::string> figures() {
         std::map<double, std::string> byPlace;
         for (QQuickItem* item : seen())
-            if (const auto* figure = qobject_cast<FigureText*>(item))
+            if (const auto* figure = qobject_cast<FigureText*>(item); figure != nullptr && isInTheWindow(item))
                 byPlace.emplace(item->mapToScene({}).y(), figure->shown().toStdString());
         std::vector<std::string> texts;
         for (auto& [y, text] : byPlace) texts.push_back(std::move(text));
@@ -60,7 +65,7 @@ protected:
     std::set<std::string> grounds() {
         std::set<std::string> colors;
         for (QQuickItem* item : seen()) {
-            if (item->objectName() != QStringLiteral("tick")) continue;
+            if (item->objectName() != QStringLiteral("tick") || !isInTheWindow(item)) continue;
             const auto* ground = item->property("background").value<QQuickItem*>()->childItems().constFirst();
             colors.insert(ground->property("color").value<QColor>().name(QColor::HexArgb).toStdString());
         }
@@ -87,8 +92,9 @@ TEST_F(RowListWindow, aRowThatIsUsedAgainShowsItsOwnDataAtOnce) {
     EXPECT_EQ(figures(), expected);
     EXPECT_THAT(grounds(), testing::ElementsAre(themes("surfaceHi")));
     const std::vector<QQuickItem*> now = seen();
-    EXPECT_TRUE(std::any_of(now.begin(), now.end(), [&](QQuickItem* item) { return before.contains(item); }))
-        << "no row was used again";
+    EXPECT_TRUE(std::any_of(now.begin(), now.end(), [&](QQuickItem* item) {
+        return before.contains(item) && isInTheWindow(item);
+    })) << "no row was used again";
 }
 
 }  // namespace zelk
