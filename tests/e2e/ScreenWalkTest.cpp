@@ -70,6 +70,7 @@ protected:
         press(Qt::Key_Home);
         press(Qt::Key_Space);
         press(Qt::Key_Right);
+        EXPECT_TRUE(find("lensBack")->isEnabled()) << "not inside";
         expectNoFaults(where + ", inside the first folder");
         press(Qt::Key_Left);
         press(Qt::Key_Space);
