@@ -12,7 +12,7 @@
 //   system/      what the machine knows that a scan cannot see: AccessProbe
 //   state/       AppModel is the one state that every screen shows; SurveyHistory is the one file that Zelk writes
 //   ui/text/     bytes into what a person reads
-//   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand the desktop's wishes to QML
+//   ui/theme/    ZelkTheme's two instances; DesktopSettings, and Theme, Motion and TextScale, which hand it to QML
 //   ui/symbols/  the symbols, one SVG each, and SymbolItem, which tints them
 //   ui/components/  the base controls; ScanButton and the Canvas on which it is drawn
 //   ui/navigation/  Sidebar and its model; ModuleScaffold, the three faces of every module that looks for something

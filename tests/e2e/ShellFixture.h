@@ -8,6 +8,7 @@
 #include "ui/navigation/SidebarModel.h"
 #include "ui/shell/Shell.h"
 #include "ui/theme/Motion.h"
+#include "ui/theme/TextScale.h"
 
 namespace zelk {
 
@@ -28,6 +29,7 @@ protected:
             services.quit = [this] { ++quits; };
             shell_ = std::make_unique<Shell>(model(), services);
             shell_->main().motion().setReduced(true);
+            shell_->main().textScale().setFactor(1);  // whatever the desktop says
             shell_->start();
             runUntil([&] { return shell_->main().isUp(); });
         }

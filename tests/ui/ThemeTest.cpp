@@ -29,7 +29,8 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    Theme theme;
+    DesktopSettings desktop;
+    Theme theme{desktop};
     int changes = 0;
 };
 
@@ -63,6 +64,22 @@ TEST_F(ThemeFollowing, followsTheDesktopsPaletteWhereItIsToldTo) {
     EXPECT_EQ(theme.current(), ZelkTheme::dark());
 }
 #endif
+
+TEST_F(ThemeFollowing, believesWhatTheDesktopSaysBeforeAnyPalette) {
+    const DesktopKey key{QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme")};
+    theme.follow(model());
+    setDesktop(Qt::white, Qt::black);
+    desktop.hear(key, 2U);
+    EXPECT_EQ(theme.current(), ZelkTheme::dark()) << "not told to";
+    desktop.hear(key, 1U);
+    model().setAppearance(AppModel::Appearance::system);
+    EXPECT_EQ(theme.current(), ZelkTheme::dark()) << "though the palette is light";
+    desktop.hear(key, 2U);
+    EXPECT_EQ(theme.current(), ZelkTheme::light()) << "at once";
+    desktop.hear(key, 1U);
+    model().setAppearance(AppModel::Appearance::light);
+    EXPECT_EQ(theme.current(), ZelkTheme::light());
+}
 
 TEST(DesktopScheme, isBelievedWhateverThePalette) {
     EXPECT_TRUE(desktopIsDark(DesktopScheme::dark, paletteOf(Qt::white, Qt::black)));

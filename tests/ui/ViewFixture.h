@@ -40,6 +40,7 @@ protected:
         engine_.addImportPath(QStringLiteral("qrc:/"));
         singleton<Theme>("Theme").follow(model());
         singleton<Motion>("Motion").setReduced(true);
+        singleton<TextScale>("TextScale").setFactor(1);  // whatever the desktop says
     }
     ~ViewFixture() override { close(); }
 

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "ui/theme/Motion.h"
 
-#include "ui/theme/DesktopMotion.h"
+#include "ui/theme/DesktopSettings.h"
 
 namespace zelk {
 
-Motion::Motion(QObject* parent) : QObject(parent), desktop_(new DesktopMotion(this)) {
-    connect(desktop_, &DesktopMotion::reducedChanged, this, &Motion::apply);
-    desktop_->start();
+Motion::Motion(QObject* parent) : Motion(DesktopSettings::ofApplication(), parent) {}
+
+Motion::Motion(const DesktopSettings& desktop, QObject* parent)
+    : QObject(parent), desktop_(desktop), reduced_(desktop.reducedMotion()) {
+    connect(&desktop, &DesktopSettings::reducedMotionChanged, this, [this] { apply(desktop_.reducedMotion()); });
 }
 
 void Motion::setReduced(bool reduced) {
-    disconnect(desktop_, nullptr, this, nullptr);  // its answer may still be on the way
+    disconnect(&desktop_, nullptr, this, nullptr);  // its answer may still be on the way
     apply(reduced);
 }
 

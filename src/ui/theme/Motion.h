@@ -6,7 +6,7 @@
 
 namespace zelk {
 
-class DesktopMotion;
+class DesktopSettings;
 
 /// Whether things move, and for how long, as QML reads it: one per engine. With reduced motion every duration is 0 and
 /// nothing repeats. It starts with the desktop's setting and follows it until somebody says otherwise. Main thread.
@@ -22,6 +22,8 @@ class Motion : public QObject {
 
 public:
     explicit Motion(QObject* parent = nullptr);
+    /// `desktop` must outlive it.
+    explicit Motion(const DesktopSettings& desktop, QObject* parent = nullptr);
 
     bool reduced() const { return reduced_; }
     /// From now on the desktop is not asked any more.
@@ -42,7 +44,7 @@ signals:
 private:
     void apply(bool reduced);
 
-    DesktopMotion* desktop_;
+    const DesktopSettings& desktop_;
     bool reduced_ = false;
 };
 

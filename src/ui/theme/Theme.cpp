@@ -11,7 +11,8 @@ namespace zelk {
 
 namespace {
 
-DesktopScheme desktopScheme() {
+/// What the toolkit knows of it; one that is older than 6.5 knows nothing.
+DesktopScheme toolkitScheme() {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     switch (QGuiApplication::styleHints()->colorScheme()) {
         case Qt::ColorScheme::Dark:
@@ -32,7 +33,10 @@ bool desktopIsDark(DesktopScheme scheme, const QPalette& palette) {
     return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
 }
 
-Theme::Theme(QObject* parent) : QObject(parent) {
+Theme::Theme(QObject* parent) : Theme(DesktopSettings::ofApplication(), parent) {}
+
+Theme::Theme(const DesktopSettings& desktop, QObject* parent) : QObject(parent), desktop_(desktop) {
+    connect(&desktop, &DesktopSettings::schemeChanged, this, &Theme::choose);
     // The palette has no signal of its own that outlives Qt 6.0; the application gets an event.
     QCoreApplication::instance()->installEventFilter(this);
 }
@@ -46,9 +50,9 @@ void Theme::follow(AppModel& model) {
 void Theme::choose() {
     if (model_.isNull()) return;
     const AppModel::Appearance appearance = model_->appearance();
-    const bool dark = appearance == AppModel::Appearance::system
-                          ? desktopIsDark(desktopScheme(), QGuiApplication::palette())
-                          : appearance == AppModel::Appearance::dark;
+    const DesktopScheme told = desktop_.scheme() != DesktopScheme::untold ? desktop_.scheme() : toolkitScheme();
+    const bool dark = appearance == AppModel::Appearance::system ? desktopIsDark(told, QGuiApplication::palette())
+                                                                 : appearance == AppModel::Appearance::dark;
     show(dark ? ZelkTheme::dark() : ZelkTheme::light());
 }
 

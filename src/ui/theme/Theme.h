@@ -7,16 +7,15 @@
 #include <QPalette>
 #include <QPointer>
 
+#include "ui/theme/DesktopSettings.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
 class AppModel;
 
-/// What the desktop says of itself; one whose toolkit is older than 6.5 says nothing.
-enum class DesktopScheme { untold, light, dark };
-
-/// Where it says nothing, its palette still follows it: dark is where the text is lighter than what it stands on.
+/// Where the desktop says nothing, its palette still follows it: dark is where the text is lighter than what it stands
+/// on.
 bool desktopIsDark(DesktopScheme scheme, const QPalette& palette);
 
 /// The theme in use, as QML reads it: one per engine. It swaps between the two fixed instances when the model's
@@ -44,6 +43,8 @@ class Theme : public QObject {
 
 public:
     explicit Theme(QObject* parent = nullptr);
+    /// `desktop` must outlive it.
+    explicit Theme(const DesktopSettings& desktop, QObject* parent = nullptr);
 
     /// From now on `model` chooses. Until then, and when it has gone, the dark instance or the last one stays.
     void follow(AppModel& model);
@@ -82,6 +83,7 @@ signals:
 private:
     void choose();
 
+    const DesktopSettings& desktop_;
     QPointer<AppModel> model_;
     const ZelkTheme* current_ = &ZelkTheme::dark();
 };
