@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // What the last survey found: the figures that screens ask for, and the one way in which it changes afterwards.
-#include <QLocale>
 #include <algorithm>
 #include <iterator>
 
 #include "platform/ByteFormat.h"
 #include "state/AppModel.h"
 #include "state/ScanTask.h"
+#include "state/UserLocale.h"
 
 namespace zelk {
 
@@ -71,7 +71,7 @@ std::int64_t AppModel::freeBytes() const {
 }
 
 std::string AppModel::progressLine() const {
-    const QLocale locale;
+    const QLocale locale = userLocale();
     const std::string items = locale.toString(static_cast<qlonglong>(itemsScanned_)).toStdString();
     return items + " items · " + byteText(bytesScanned_, locale.decimalPoint().toStdString());
 }

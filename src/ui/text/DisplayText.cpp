@@ -39,11 +39,6 @@ QString displayText(std::string_view bytes) {
     return text;
 }
 
-QLocale userLocale() {
-    const QLocale locale;
-    return locale == QLocale::c() ? QLocale(QLocale::English, QLocale::UnitedStates) : locale;
-}
-
 QString byteFigure(std::int64_t bytes, const QLocale& locale) {
     return QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString()));
 }

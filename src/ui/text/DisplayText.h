@@ -7,14 +7,13 @@
 #include <cstdint>
 #include <string_view>
 
+#include "state/UserLocale.h"
+
 namespace zelk {
 
 /// Names and paths for the screen: invalid UTF-8 is repaired with U+FFFD, and characters that would break a line, ring
 /// a bell or turn the direction of what follows become visible marks, so that a name cannot pretend to be another.
 QString displayText(std::string_view bytes);
-
-/// The user's locale. The plain C locale is nobody's language and reads as American English, with its digit groups.
-QLocale userLocale();
 
 /// The byte format with the decimal separator of `locale`; a count below 0 is 0.
 QString byteFigure(std::int64_t bytes, const QLocale& locale = userLocale());

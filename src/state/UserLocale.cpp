@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#include "state/UserLocale.h"
+
+namespace zelk {
+
+QLocale userLocale() {
+    const QLocale locale;
+    return locale == QLocale::c() ? QLocale(QLocale::English, QLocale::UnitedStates) : locale;
+}
+
+}  // namespace zelk
