@@ -191,7 +191,7 @@ void AppModel::conclude(const std::shared_ptr<ScanTask>& task, std::vector<Surve
     if (scanTask_ != task) return;
     task->counts = true;
     assign(history_, std::move(history), &AppModel::historyChanged);
-    releaseElsewhere(std::exchange(task->before, std::nullopt)->root);
+    releaseElsewhere(std::move(std::exchange(task->before, std::nullopt)->root));
     removeWhatWaited(*task);
     if (scanTask_ != task) return;
     settleTrash();

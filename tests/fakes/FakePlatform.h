@@ -83,6 +83,9 @@ public:
         return priorities;
     }
 
+    /// Called on the thread that gave a task when the task has been run at once. Set before anything runs.
+    std::function<void()> afterOne = [] {};
+
     void run(TaskPriority priority, std::function<void()> task) override {
         {
             const std::lock_guard lock(mutex_);
@@ -92,6 +95,7 @@ public:
             }
         }
         runOnThread(std::move(task));
+        afterOne();
     }
 
 private:

@@ -85,6 +85,8 @@ TEST_F(AppModelResultsTest, theProgressLineFollowsTheLocale) {
     EXPECT_EQ(model().progressLine(), "20,004 items · 1.22 GB");
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(model().progressLine(), "20.004 items · 1,22 GB");
+    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(model().progressLine(), "20,004 items · 1.22 GB") << "as every other figure";
     QLocale::setDefault(before);
 }
 
@@ -298,6 +300,17 @@ TEST_F(AppModelResultsTest, aTreeThatACancelWithdrewIsNotChanged) {
     EXPECT_TRUE(folderAt(withdrawn, home + "/projects"));
     machine.tasks.release();
     letScansDrain();
+}
+
+TEST_F(AppModelResultsTest, theTreeOfTheSurveyBeforeIsReleasedOnATask) {
+    fillHome();
+    survey();
+    const NodeRef left = model().root()->children.front();  // tells whether what is above it is still there
+    bool gone = false;
+    machine.tasks.afterOne = [&] { gone = left->parent() == nullptr; };
+    survey();
+    EXPECT_TRUE(gone) << "the main thread held on to it, and was the last to";
+    machine.tasks.afterOne = [] {};
 }
 
 TEST_F(AppModelResultsTest, whatIsRemovedIsReleasedOnATask) {
