@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What macOS adds to every application by itself and Zelk does without. Nothing to do elsewhere. Main thread.
+// What macOS adds to every application by itself and Zelk does without, and how an application comes forward there.
+// Nothing to do elsewhere. Main thread.
 #pragma once
 
 namespace zelk {
@@ -9,5 +10,8 @@ void refuseWindowTabs();
 
 /// Nothing here is for another application to work on. Behind the menu bar.
 void removeServicesMenu();
+
+/// Puts this application before all others, whether or not it has a window to show. Elsewhere its windows do that.
+void activateApplication();
 
 }  // namespace zelk

@@ -14,7 +14,7 @@ Shell::Shell(AppModel& app, const WindowServices& services)
     : quit_(services.quit),
       main_(app, services),
       statusMenu_(
-          app, [this] { main_.bringAllForward(); }, services.quit),
+          app, [this] { openZelk(); }, services.quit),
       statusItem_(statusMenu_) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
 #ifdef Q_OS_MACOS
@@ -41,9 +41,16 @@ void Shell::start() {
     removeServicesMenu();
 }
 
+/// The application comes forward with the windows that it has: one that was closed stays so.
+void Shell::openZelk() {
+    reopening_.activating(QGuiApplication::applicationState());
+    activateApplication();
+    main_.bringAllForward();
+}
+
 /// A press on the icon in the dock while every window is closed.
 void Shell::followApplicationState(Qt::ApplicationState state) {
-    if (state == Qt::ApplicationActive && main_.bringAllForward() == 0) main_.show();
+    if (reopening_.asksForWindow(state) && main_.bringAllForward() == 0) main_.show();
 }
 
 void Shell::followMainWindow(bool visible) {

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "ui/shell/MainWindow.h"
+#include "ui/shell/Reopening.h"
 #include "ui/shell/StatusItem.h"
 #include "ui/shell/StatusMenu.h"
 
@@ -28,10 +29,12 @@ public:
     StatusItem& statusItem() { return statusItem_; }
 
 private:
+    void openZelk();
     void followApplicationState(Qt::ApplicationState state);
     void followMainWindow(bool visible);
 
     std::function<void()> quit_;
+    Reopening reopening_;
     MainWindow main_;
     StatusMenu statusMenu_;
     StatusItem statusItem_;

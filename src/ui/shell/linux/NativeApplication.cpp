@@ -7,4 +7,6 @@ void refuseWindowTabs() {}
 
 void removeServicesMenu() {}
 
+void activateApplication() {}
+
 }  // namespace zelk

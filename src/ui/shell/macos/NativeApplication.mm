@@ -27,4 +27,8 @@ void removeServicesMenu() {
     }
 }
 
+void activateApplication() {
+    [NSApplication.sharedApplication activateIgnoringOtherApps:YES];
+}
+
 }  // namespace zelk

@@ -67,6 +67,7 @@ extern NSColorSpaceName const NSDeviceRGBColorSpace;
 @property(class, readonly) NSApplication* sharedApplication;
 @property(readonly) NSMenu* mainMenu;
 @property(strong) NSMenu* servicesMenu;
+- (void)activateIgnoringOtherApps:(BOOL)flag;
 @end
 
 @interface NSWindow : NSObject
