@@ -52,7 +52,7 @@ protected:
     std::string sectionOf(int row) {
         return trends()
             .changes()
-            ->data(trends().changes()->index(row), ChangesModel::sectionRole)
+            ->data(trends().changes()->index(row), ChangesModel::headingRole)
             .toString()
             .toStdString();
     }
@@ -213,7 +213,7 @@ TEST_F(Trends, oneEntryInAnyListIsAChange) {
         TrendsModel one(model());
         EXPECT_TRUE(one.hasChanges()) << section;
         ASSERT_EQ(one.changes()->rowCount(), 1);
-        EXPECT_EQ(one.changes()->data(one.changes()->index(0), ChangesModel::sectionRole).toString().toStdString(),
+        EXPECT_EQ(one.changes()->data(one.changes()->index(0), ChangesModel::headingRole).toString().toStdString(),
                   section);
     }
 }

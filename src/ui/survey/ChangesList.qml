@@ -7,6 +7,7 @@ import QtQuick.Templates as T
 import Zelk.Components
 import Zelk.Survey
 import Zelk.Symbols
+import Zelk.Theme
 
 ListView {
     id: list
@@ -34,81 +35,82 @@ ListView {
 
     T.ScrollBar.vertical: ThinScrollBar {}
 
-    section.property: "section"
-    section.delegate: Words {
-        id: heading
+    delegate: Column {
+        id: place
 
-        required property string section
-
-        width: ListView.view.width
-        topPadding: 14
-        bottomPadding: 6
-        text: heading.section
-        size: 12
-        font.weight: Font.DemiBold
-        color: list.changes.sectionColor(heading.section)
-        Accessible.role: Accessible.Heading
-    }
-
-    delegate: Item {
-        id: row
-
+        required property string heading
         required property color tint
         required property string name
         required property string path
         required property string size
 
         width: ListView.view.width
-        implicitHeight: Math.max(44, words.implicitHeight + 14)
 
-        Accessible.role: Accessible.ListItem
-        Accessible.name: Spoken.joined([row.name, row.path, row.size])
-
-        SymbolItem {
-            id: icon
-
-            anchors.verticalCenter: parent.verticalCenter
-            name: "folder.fill"
-            color: row.tint
+        Words {
+            width: parent.width
+            topPadding: 14
+            bottomPadding: 6
+            text: place.heading
             size: 12
+            font.weight: Font.DemiBold
+            color: place.tint
+            visible: text !== ""
+            Accessible.role: Accessible.Heading
         }
 
-        Column {
-            id: words
+        Item {
+            width: parent.width
+            implicitHeight: Math.max(44, words.implicitHeight + 14)
 
-            anchors.left: icon.right
-            anchors.leftMargin: 12
-            anchors.right: figure.left
-            anchors.rightMargin: 16
-            anchors.verticalCenter: parent.verticalCenter
-            spacing: 2
+            Accessible.role: Accessible.ListItem
+            Accessible.name: Spoken.joined([place.name, place.path, place.size])
 
-            Words {
-                width: parent.width
-                text: row.name
-                elide: Text.ElideMiddle
-                mute: true
+            SymbolItem {
+                id: icon
+
+                anchors.verticalCenter: parent.verticalCenter
+                name: "folder.fill"
+                color: place.tint
+                points: 12 * TextScale.factor
             }
 
-            Words {
-                width: parent.width
-                text: row.path
-                size: 9
-                soft: true
-                elide: Text.ElideMiddle
+            Column {
+                id: words
+
+                anchors.left: icon.right
+                anchors.leftMargin: 12
+                anchors.right: figure.left
+                anchors.rightMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 2
+
+                Words {
+                    width: parent.width
+                    text: place.name
+                    elide: Text.ElideMiddle
+                    mute: true
+                }
+
+                Words {
+                    width: parent.width
+                    text: place.path
+                    size: 9
+                    soft: true
+                    elide: Text.ElideMiddle
+                    mute: true
+                }
+            }
+
+            CountingText {
+                id: figure
+
+                anchors.right: parent.right
+                anchors.rightMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                text: place.size
+                pixelSize: 12
                 mute: true
             }
-        }
-
-        CountingText {
-            id: figure
-
-            anchors.right: parent.right
-            anchors.rightMargin: 12
-            anchors.verticalCenter: parent.verticalCenter
-            text: row.size
-            pixelSize: 12
-            mute: true
         }
     }
 

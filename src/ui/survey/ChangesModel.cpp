@@ -55,6 +55,11 @@ QString ChangesModel::heading(Kind kind) const {
     return QStringLiteral("%1 (%2)").arg(names[static_cast<int>(kind)]).arg(count);
 }
 
+bool ChangesModel::isFirst(int row) const {
+    const auto at = static_cast<std::size_t>(row);
+    return at == 0 || rows_[at - 1].kind != rows_[at].kind;
+}
+
 QColor ChangesModel::color(Kind kind) const {
     switch (kind) {
         case Kind::grew:
@@ -65,12 +70,6 @@ QColor ChangesModel::color(Kind kind) const {
             return theme_->inkSoft;
     }
     return {};
-}
-
-QColor ChangesModel::sectionColor(const QString& heading) const {
-    for (const Kind kind : {Kind::grew, Kind::appeared, Kind::gone})
-        if (this->heading(kind) == heading) return color(kind);
-    return theme_->inkSoft;
 }
 
 QString ChangesModel::sizeText(const Row& row) {
@@ -96,8 +95,8 @@ QVariant ChangesModel::data(const QModelIndex& index, int role) const {
     const Row& row = rows_[static_cast<std::size_t>(index.row())];
     const std::string_view path = row.change.path;
     switch (role) {
-        case sectionRole:
-            return heading(row.kind);
+        case headingRole:
+            return isFirst(index.row()) ? heading(row.kind) : QString();
         case tintRole:
             return color(row.kind);
         case Qt::DisplayRole:
@@ -113,7 +112,7 @@ QVariant ChangesModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ChangesModel::roleNames() const {
-    return {{sectionRole, "section"}, {tintRole, "tint"}, {nameRole, "name"}, {pathRole, "path"}, {sizeRole, "size"}};
+    return {{headingRole, "heading"}, {tintRole, "tint"}, {nameRole, "name"}, {pathRole, "path"}, {sizeRole, "size"}};
 }
 
 }  // namespace zelk

@@ -25,8 +25,8 @@ class ChangesModel : public QAbstractListModel {
     Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
 
 public:
-    /// Every row names the heading of its section.
-    enum Role { sectionRole = Qt::UserRole, tintRole, nameRole, pathRole, sizeRole };
+    /// The first row of a section has its heading, in the colour of its tint.
+    enum Role { headingRole = Qt::UserRole, tintRole, nameRole, pathRole, sizeRole };
 
     using QAbstractListModel::QAbstractListModel;
 
@@ -38,8 +38,6 @@ public:
     QString doneLabel() const;
     QString emptyLine() const;
     bool empty() const { return rows_.empty(); }
-    /// The colour of the section with this heading.
-    Q_INVOKABLE QColor sectionColor(const QString& heading) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -57,6 +55,7 @@ private:
 
     void add(Kind kind, const std::vector<FolderChange>& changes);
     QString heading(Kind kind) const;
+    bool isFirst(int row) const;
     QColor color(Kind kind) const;
     static QString sizeText(const Row& row);
 
