@@ -155,6 +155,38 @@ TEST_F(Navigation, aModuleSurveysFromItsButtonAndShowsTheProgress) {
     EXPECT_NE(find("moduleScanButton"), nullptr);
 }
 
+TEST_F(Navigation, escapeCallsASurveyOffWhereItIsSeenAndNowhereElse) {
+    machine.directories.hold(home + "/wide/inner");
+    for (const char* seen : {"sidebarOverview", "sidebarReclaim", "sidebarClutter", "sidebarLens"}) {
+        // Built before, so that each has its key.
+        click(seen);
+        for (const char* elsewhere : {"sidebarTools", "sidebarSettings", "sidebarApps"}) {
+            click(elsewhere);
+            model().startScan();
+            press(Qt::Key_Escape);
+            EXPECT_EQ(model().scanPhase(), Phase::scanning) << elsewhere;
+        }
+        click(seen);
+        press(Qt::Key_Escape);
+        EXPECT_EQ(model().scanPhase(), Phase::idle) << seen;
+    }
+}
+
+TEST_F(Navigation, theProgressOfAModuleIsAsLargeAsOthersOfItsSizeAndRuns) {
+    main().textScale().setFactor(1.5);
+    click("sidebarLens");
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    runUntil([&] { return find("moduleScanDetail") != nullptr; });
+    QQuickItem* detail = find("moduleScanDetail");
+    EXPECT_EQ(detail->property("pixelSize").toInt(), 12) << "it is the figure that knows how large the person reads";
+    main().motion().setReduced(false);
+    EXPECT_EQ(detail->property("duration").toInt(), main().motion().count());
+    main().motion().setReduced(true);
+    detail->setProperty("text", QString(400, u'8'));
+    EXPECT_LE(detail->width(), detail->parentItem()->width());
+}
+
 TEST_F(Navigation, aModuleWithoutADetailStillShowsTheOrbAndTheBar) {
     click("sidebarLens");
     machine.directories.hold(home);

@@ -37,6 +37,20 @@ TEST_F(Windows, theOthersHaveTheirTitlesAndSizes) {
     EXPECT_EQ(settings.maximumSize(), QSize(460, 360));
 }
 
+TEST_F(Windows, theSettingsSayTheirNameOnce) {
+    QQuickWindow& settings = main().openWindow(WindowId::settings);
+    EXPECT_EQ(settings.title(), QStringLiteral("Settings"));
+    settings.grabWindow();
+    std::vector<QQuickItem*> pending{settings.contentItem()};
+    while (!pending.empty()) {
+        const QQuickItem* item = pending.back();
+        pending.pop_back();
+        if (!item->isVisible()) continue;
+        EXPECT_NE(item->property("text").toString(), settings.title()) << "its title bar says so";
+        for (QQuickItem* child : item->childItems()) pending.push_back(child);
+    }
+}
+
 TEST_F(Windows, openingOneTwiceBringsTheSameForward) {
     for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) {
         QQuickWindow& first = main().openWindow(id);

@@ -114,11 +114,14 @@ TEST_F(Modules, followTheSurveyThatTheirButtonBegins) {
     runUntil(
         [&] { return model().itemsScanned() > 0 && looking->scanDetail().toStdString() == model().progressLine(); });
     EXPECT_TRUE(looking->scanDetail().contains(QStringLiteral(" items · ")));
-    model().cancelScan();
+    looking->cancel();
+    EXPECT_EQ(model().scanPhase(), Phase::idle);
     EXPECT_TRUE(looking->idle());
     machine.directories.release();
     survey();
     EXPECT_TRUE(looking->results());
+    looking->cancel();
+    EXPECT_EQ(model().scanPhase(), Phase::finished) << "there is nothing to call off";
 }
 
 TEST_F(Modules, joinASurveyThatIsUnderWay) {

@@ -135,6 +135,18 @@ TEST(Symbols, ofAnUnknownNameAreNothing) {
     EXPECT_TRUE(tintedSymbol(QStringLiteral("scope"), Qt::red, 0).isNull());
 }
 
+TEST(Symbols, besideATextLookAsLargeAsIt) {
+    SymbolItem symbol;
+    symbol.setPoints(14);
+    EXPECT_EQ(symbol.implicitWidth(), 17);
+    double most = 0;
+    for (const char* name : {"scope", "sparkles", "gearshape", "tray.full", "internaldrive"}) {
+        const QRect ink = inkOf(tintedSymbol(QString::fromLatin1(name), Qt::black, 10 * 17));
+        most = std::max<double>(most, std::max(ink.width(), ink.height()));
+    }
+    EXPECT_NEAR(most, 10 * 14, 20);
+}
+
 TEST(ApplicationIcon, isTheDriveOnTheAccent) {
     const QImage icon = applicationIcon().pixmap(256, 256).toImage();
     ASSERT_FALSE(icon.isNull());

@@ -33,7 +33,7 @@ Item {
             visible: label.symbol !== ""
             name: label.symbol
             color: label.symbolColor
-            size: Math.round((label.size + 1) * TextScale.factor)
+            points: label.size * TextScale.factor
         }
 
         Words {

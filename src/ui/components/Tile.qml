@@ -23,6 +23,6 @@ Rectangle {
         anchors.centerIn: parent
         name: tile.symbol
         color: tile.tint
-        size: tile.symbolSize
+        points: tile.symbolSize
     }
 }

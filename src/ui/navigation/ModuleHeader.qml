@@ -33,7 +33,7 @@ Item {
             anchors.centerIn: parent
             name: header.symbol
             color: header.tint
-            size: 17
+            points: 17
         }
     }
 

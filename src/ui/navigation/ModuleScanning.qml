@@ -32,15 +32,14 @@ Item {
             font.weight: Font.DemiBold
         }
 
-        FigureText {
+        CountingText {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "moduleScanDetail"
+            width: Math.min(implicitWidth, parent.width)
             text: progress.module.scanDetail
             color: Theme.inkSoft
-            pixelSize: Math.round(12 * TextScale.factor)
+            pixelSize: 12
             visible: progress.module.detailed
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
 
         Item {
@@ -53,5 +52,11 @@ Item {
             objectName: "moduleProgressBar"
             tint: progress.module.tint
         }
+    }
+
+    Shortcut {
+        sequence: "Escape"
+        enabled: progress.visible && progress.module.scanning
+        onActivated: progress.module.cancel()
     }
 }

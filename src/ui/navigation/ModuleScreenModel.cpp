@@ -7,8 +7,9 @@
 
 namespace zelk {
 
-ModuleScreenModel::ModuleScreenModel(Screen screen, ModuleTexts texts, std::function<void()> onScan)
-    : screen_(screen), texts_(std::move(texts)), onScan_(std::move(onScan)) {
+ModuleScreenModel::ModuleScreenModel(Screen screen, ModuleTexts texts, std::function<void()> onScan,
+                                     std::function<void()> onCancel)
+    : screen_(screen), texts_(std::move(texts)), onScan_(std::move(onScan)), onCancel_(std::move(onCancel)) {
     if (texts_.title.isEmpty()) texts_.title = lookOf(screen).title;
 }
 
@@ -33,6 +34,10 @@ void ModuleScreenModel::setScanDetail(const QString& detail) {
 
 void ModuleScreenModel::scan() {
     if (onScan_) onScan_();
+}
+
+void ModuleScreenModel::cancel() {
+    if (onCancel_ && scanning()) onCancel_();
 }
 
 }  // namespace zelk

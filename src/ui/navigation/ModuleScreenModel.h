@@ -38,7 +38,8 @@ class ModuleScreenModel : public QObject {
 
 public:
     /// A text without a title takes the screen's.
-    ModuleScreenModel(Screen screen, ModuleTexts texts, std::function<void()> onScan = {});
+    ModuleScreenModel(Screen screen, ModuleTexts texts, std::function<void()> onScan = {},
+                      std::function<void()> onCancel = {});
 
     Screen screen() const { return screen_; }
     QString title() const { return texts_.title; }
@@ -65,6 +66,8 @@ public:
 public slots:
     /// The button of the first face.
     void scan();
+    /// The key that calls it off while it is looking.
+    void cancel();
 
 signals:
     void phaseChanged();
@@ -74,6 +77,7 @@ private:
     Screen screen_;
     ModuleTexts texts_;
     std::function<void()> onScan_;
+    std::function<void()> onCancel_;
     ModulePhase phase_ = ModulePhase::idle;
     QString scanDetail_;
 };

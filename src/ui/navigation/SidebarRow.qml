@@ -96,7 +96,7 @@ Column {
                 anchors.verticalCenter: parent.verticalCenter
                 name: place.symbol
                 color: place.selected ? place.tint : Theme.inkSoft
-                size: 18
+                points: 14
             }
 
             Words {

@@ -27,7 +27,9 @@ ModulePhase phaseOf(AppModel::ScanPhase phase) {
 }  // namespace
 
 SurveyedModule::SurveyedModule(AppModel& app, Screen screen, ModuleTexts texts)
-    : ModuleScreenModel(screen, std::move(texts), [&app] { app.startScan(); }), app_(app) {
+    : ModuleScreenModel(
+          screen, std::move(texts), [&app] { app.startScan(); }, [&app] { app.cancelScan(); }),
+      app_(app) {
     timer_.setSingleShot(true);
     timer_.setInterval(progressInterval);
     connect(&timer_, &QTimer::timeout, this, [this] { setScanDetail(displayText(app_.progressLine())); });

@@ -20,6 +20,7 @@ SecondaryWindow {
     SettingsView {
         anchors.fill: parent
         settings: window.settings
+        headed: false
         focus: true
     }
 }

@@ -79,6 +79,7 @@ FocusScope {
                 y: page.heroTop + (view.survey.finished ? 0 : Math.max(0, (page.heroRoom - hero.implicitHeight) / 2))
                 width: page.width - 2 * scroll.paddingAcross
                 survey: view.survey
+                findings: findings
                 focus: true
 
                 Behavior on y {
@@ -122,7 +123,7 @@ FocusScope {
 
     Shortcut {
         sequence: "Escape"
-        enabled: view.survey.scanning
+        enabled: view.visible && view.survey.scanning
         onActivated: view.survey.cancel()
     }
 }
