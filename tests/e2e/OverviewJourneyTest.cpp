@@ -76,6 +76,36 @@ TEST_F(Overview, theTrashIsEmptiedFromItsBanner) {
     EXPECT_THAT(machine.trash.list(), testing::Optional(testing::IsEmpty()));
 }
 
+TEST_F(Overview, aSurveyThatBeginsTakesTheKeyboardOffTheFindingsThatGo) {
+    machine.trash.put("old.zip", 7'000'000);
+    shell();
+    surveyFromTheButton();
+    QQuickItem* empty = find("trashButton");
+    ASSERT_NE(empty, nullptr);
+    empty->forceActiveFocus(Qt::TabFocusReason);
+    machine.directories.hold(home + "/wide/inner");
+    press(Qt::Key_R, Qt::ControlModifier);
+    ASSERT_EQ(model().scanPhase(), Phase::scanning);
+    press(Qt::Key_Space);
+    runWhatIsThere();
+    EXPECT_FALSE(model().emptyingTrash());
+    EXPECT_THAT(machine.trash.list(), testing::Optional(testing::Not(testing::IsEmpty()))) << "nobody saw it go";
+    EXPECT_FALSE(empty->hasActiveFocus());
+    EXPECT_EQ(focusName(), QStringLiteral("scanButton"));
+    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool()) << "the person steers by the ring";
+}
+
+TEST_F(Overview, theLargestFilesHaveTheirHeaderWithoutAnyFile) {
+    model().setScanRoots({"/data"});
+    machine.directories.directory("/data");
+    shell();
+    surveyFromTheButton();
+    ASSERT_TRUE(model().insights().topFiles.empty());
+    EXPECT_TRUE(shows(QStringLiteral("Largest files")));
+    scrollToAndClick("seeAllButton");
+    EXPECT_EQ(model().selection(), Screen::clutter);
+}
+
 TEST_F(Overview, aCardGoesToItsModule) {
     shell();
     surveyFromTheButton();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// All that a finished survey found. It goes at once when another survey begins, so that nothing stale can be pressed.
+// All that a finished survey found. It goes at once when another survey begins, so that nothing stale can be pressed:
+// disabled too, for an item that is hidden keeps the keyboard.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -14,6 +15,7 @@ Column {
     objectName: "findings"
     spacing: 22
     visible: block.survey.finished
+    enabled: block.survey.finished
 
     Headline {
         width: parent.width
@@ -39,7 +41,6 @@ Column {
 
     LargestCard {
         width: parent.width
-        visible: block.survey.findings.hasLargest
         findings: block.survey.findings
     }
 

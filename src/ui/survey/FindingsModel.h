@@ -31,7 +31,6 @@ class FindingsModel : public QObject {
     Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed FINAL)
     Q_PROPERTY(QString largestHeading READ largestHeading CONSTANT FINAL)
     Q_PROPERTY(QString seeAllLabel READ seeAllLabel CONSTANT FINAL)
-    Q_PROPERTY(bool hasLargest READ hasLargest NOTIFY changed FINAL)
     Q_PROPERTY(zelk::FindingCards* cards READ cards CONSTANT FINAL)
     Q_PROPERTY(zelk::LargestFiles* largest READ largest CONSTANT FINAL)
 
@@ -55,7 +54,6 @@ public:
     qint64 freeBytes() const { return freeBytes_; }
     QString largestHeading() const;
     QString seeAllLabel() const;
-    bool hasLargest() const { return largest_.rowCount() > 0; }
     FindingCards* cards() { return &cards_; }
     LargestFiles* largest() { return &largest_; }
 

@@ -12,6 +12,8 @@ FocusScope {
     id: hero
 
     required property SurveyScreenModel survey
+    // What holds the findings, which go when another survey begins.
+    required property Item findings
 
     implicitHeight: column.implicitHeight
 
@@ -21,7 +23,7 @@ FocusScope {
         target: hero.survey
         function onPhaseChanged() {
             const focused = hero.Window.activeFocusItem;
-            const ours = hero.visible && (!focused || hero.isIn(focused, hero) || hero.isIn(hero, focused));
+            const ours = hero.visible && (!focused || [hero, hero.findings].some(part => hero.isIn(focused, part)) || hero.isIn(hero, focused));
             if (!ours) {
                 // Somebody is elsewhere, and stays there.
                 scanButton.focus = true;

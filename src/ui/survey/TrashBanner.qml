@@ -15,11 +15,14 @@ Item {
     implicitHeight: Math.max(tile.height, words.implicitHeight, button.implicitHeight)
     visible: banner.trash.shown
 
-    // Whenever it comes on screen what it tells is read anew.
-    onVisibleChanged: {
-        if (visible)
+    // Whenever it comes on screen what it tells is read anew. One that is built in sight has no change to tell of.
+    function appear() {
+        if (banner.visible)
             banner.trash.appear();
     }
+
+    onVisibleChanged: banner.appear()
+    Component.onCompleted: banner.appear()
 
     Tile {
         id: tile
