@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+// The states that a screen comes to only when something is done: looked over, as the screens at rest are, for what is
+// cut off, lies on something else or has no name.
+#include <gmock/gmock.h>
+
+#include "ReclaimHands.h"
+#include "ScreenFaults.h"
+#include "ShellFixture.h"
+#include "ui/components/ScreenLook.h"
+#include "ui/reclaim/ReclaimScreenModel.h"
+
+namespace zelk {
+
+namespace {
+
+constexpr std::int64_t huge = 1'000'000'000'000'000;
+
+class StateWalk : public ShellFixture {
+protected:
+    /// A name of 200 characters with words to break at.
+    static std::string longName() {
+        std::string name;
+        while (name.size() < 200) name += "long ";
+        return name;
+    }
+
+    void expectNoFaults(QQuickWindow& where, const std::string& state) {
+        where.grabWindow();  // lays out what is new
+        runWhatIsThere();
+        where.grabWindow();
+        EXPECT_THAT(layoutFaults(where), testing::IsEmpty()) << state;
+        EXPECT_THAT(accessibilityFaults(where), testing::IsEmpty()) << state;
+    }
+
+    /// In the least and in an ample window, with small and large texts, in one theme or the other: does `look` in each.
+    void inEverySize(const std::string& state, const std::function<void(const std::string&)>& look) {
+        for (const QSize size : {QSize(960, 620), QSize(1600, 1000)}) {
+            window().resize(size);
+            runUntil([&] { return window().contentItem()->size() == QSizeF(size); });
+            for (const double factor : {1.0, 1.5}) {
+                main().textScale().setFactor(factor);
+                model().setAppearance(factor > 1 ? AppModel::Appearance::light : AppModel::Appearance::dark);
+                look(state + ", " + std::to_string(size.width()) + " wide, texts by " + std::to_string(factor));
+            }
+        }
+        main().textScale().setFactor(1);
+    }
+    void inEverySize(const std::string& state) {
+        inEverySize(state, [this](const std::string& where) { expectNoFaults(window(), where); });
+    }
+    /// The home screen from its top to its end.
+    void scrollThrough(const std::string& state) {
+        QQuickItem* scroll = find("surveyScroll");
+        ASSERT_NE(scroll, nullptr) << state;
+        window().grabWindow();
+        const double end = scroll->property("contentHeight").toReal() - scroll->height();
+        for (double y = 0;; y = std::min(end, y + 0.8 * scroll->height())) {
+            scroll->setProperty("contentY", y);
+            expectNoFaults(window(), state + " from " + std::to_string(std::lround(y)));
+            if (y >= end) break;
+        }
+        scroll->setProperty("contentY", 0);
+    }
+    void scrollToAndClick(const char* name) {
+        window().grabWindow();
+        QQuickItem* scroll = find("surveyScroll");
+        scroll->setProperty("contentY", scroll->property("contentHeight").toReal() - scroll->height());
+        click(name);
+        window().grabWindow();
+    }
+};
+
+class ReclaimWalk : public StateWalk {
+protected:
+    ReclaimWalk() {
+        for (const std::string& folder : {std::string("/a"), "/" + longName(), "/" + std::string(200, 'n')})
+            junk(home + folder + "/node_modules/a.js", 20'000'000);
+        junk(home + "/huge/node_modules/a.js", huge);
+        junk(home + "/Library/Application Support/Cursor/Cache/data", 4'000'000);
+        machine.workspace.running = {"Cursor"};
+        machine.trash.put("old.zip", 7'000'000);
+        model().setAudience(AppModel::Audience::developer);
+        shell();
+        survey();
+        click("sidebarReclaim");
+        // Each category with its items.
+        ItemList& items = *main().reclaim().items();
+        for (int row = 0; row < items.rowCount(); ++row) items.setOpen(row, true);
+    }
+
+    void junk(const std::string& path, std::int64_t bytes) {
+        machine.directories.file(path, static_cast<std::uint64_t>(bytes), 1'000);
+        machine.files.addFile(path, {}, static_cast<std::uint64_t>(bytes));
+    }
+};
+
+}  // namespace
+
+TEST_F(StateWalk, aSurveyUnderWay) {
+    machine.directories.directory(home + "/" + longName() + "/" + longName());
+    machine.directories.file(home + "/wide/inner/huge", huge);
+    shell();
+    // Each is built before, so that none is met half made.
+    for (const Screen screen : {Screen::reclaim, Screen::lens, Screen::clutter, Screen::survey})
+        model().setSelection(screen);
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();
+    runUntil([&] { return model().itemsScanned() > 0; });
+    inEverySize("at work", [&](const std::string& where) {
+        for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::lens, Screen::clutter}) {
+            model().setSelection(screen);
+            runUntil([&] { return screen == Screen::survey || shows(QString::fromStdString(model().progressLine())); });
+            expectNoFaults(window(), where + ", " + lookOf(screen).title.toStdString());
+        }
+    });
+}
+
+TEST_F(StateWalk, aSurveyOfNothing) {
+    machine.directories.directory("/nothing");
+    model().setScanRoots({"/nothing"});
+    shell();
+    survey();
+    ASSERT_EQ(model().bytesScanned(), 0);
+    inEverySize("nothing found", [&](const std::string& where) {
+        for (const Screen screen : {Screen::reclaim, Screen::lens, Screen::clutter}) {
+            model().setSelection(screen);
+            expectNoFaults(window(), where + ", " + lookOf(screen).title.toStdString());
+        }
+        model().setSelection(Screen::survey);
+        scrollThrough(where);
+    });
+}
+
+TEST_F(StateWalk, theTrendsAndTheSheetOfChanges) {
+    model().setScanRoots({home, "/going"});
+    machine.directories.file("/going/" + std::string(200, 'g') + "/old.mov", 4'000'000'000);
+    shell();
+    survey();
+    model().setScanRoots({home});
+    machine.directories.file(home + "/projects/grown.mov", static_cast<std::uint64_t>(huge));
+    machine.directories.file(home + "/" + longName() + "/new.mov", 3'000'000'000);
+    machine.directories.file(home + "/" + std::string(200, 'n') + "/new.mov", 3'000'000'000);
+    survey();
+    ASSERT_EQ(model().history().size(), 2U);
+    inEverySize("with trends", [this](const std::string& where) { scrollThrough(where); });
+
+    scrollToAndClick("changesButton");
+    for (const char* text : {"What changed", "Grew (2)", "Appeared (2)", "Vanished (2)"})
+        EXPECT_TRUE(shows(QString::fromUtf8(text))) << text;
+    inEverySize("the changes");
+}
+
+TEST_F(StateWalk, theTrashAtItsLargest) {
+    machine.files.addFile(home + "/.Trash/huge", {}, static_cast<std::uint64_t>(huge));
+    machine.directories.file(home + "/.Trash/huge", static_cast<std::uint64_t>(huge));
+    shell();
+    survey();
+    ASSERT_GE(model().trashBytes(), huge);
+    inEverySize("a full Trash", [this](const std::string& where) { scrollThrough(where); });
+}
+
+TEST_F(StateWalk, theFoldedSidebar) {
+    shell();
+    click("collapseButton");
+    ASSERT_TRUE(main().sidebar().collapsed());
+    inEverySize("folded", [this](const std::string& where) {
+        for (const Screen screen : allScreens) {
+            model().setSelection(screen);
+            expectNoFaults(window(), where + ", " + lookOf(screen).title.toStdString());
+        }
+    });
+    std::size_t rows = 0;
+    for (const std::string& name : focusableNames(window()))
+        for (const Screen screen : allScreens) rows += lookOf(screen).title.toStdString() == name;
+    EXPECT_GE(rows, allScreens.size()) << "a row that shows no title still has its name";
+}
+
+TEST_F(StateWalk, theOtherWindows) {
+    shell();
+    for (const double factor : {1.0, 1.5}) {
+        main().textScale().setFactor(factor);
+        for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) {
+            QQuickWindow& other = main().openWindow(id);
+            runUntil([&] { return other.isExposed(); });
+            runWhatIsThere();
+            expectNoFaults(other, other.title().toStdString() + ", texts by " + std::to_string(factor));
+        }
+    }
+}
+
+TEST_F(ReclaimWalk, theItems) {
+    ASSERT_NE(find("itemList"), nullptr);
+    inEverySize("the items");
+}
+
+TEST_F(ReclaimWalk, whatTheGradesMean) {
+    click("safetyInfo");
+    ASSERT_TRUE(shows(main().reclaim().guide()->closing()));
+    inEverySize("what the grades mean");
+}
+
+TEST_F(ReclaimWalk, theLastLookAndWhatBecameOfIt) {
+    click("reviewButton");
+    runUntil([&] { return find("confirmCleanup") != nullptr && find("confirmCleanup")->isEnabled(); });
+    inEverySize("the last look");
+    // One that does not go, for the lines of what was left.
+    machine.files.failing = [this](const auto& call) { return call.path == home + "/a/node_modules"; };
+    click("confirmCleanup");
+    runUntil([&] { return find("cleanupResult") != nullptr; });
+    inEverySize("what became of it");
+}
+
+}  // namespace zelk
