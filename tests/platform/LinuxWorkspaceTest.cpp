@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/LinuxWorkspace.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <signal.h>
-#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -14,7 +11,6 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QStringList>
-#include <array>
 #include <filesystem>
 
 #include "fakes/Environment.h"
