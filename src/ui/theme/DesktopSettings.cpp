@@ -92,6 +92,8 @@ void DesktopSettings::start() {
 
 void DesktopSettings::follow(QDBusConnection& bus) {
     if (!bus.isConnected()) return;
+    // The slot's types are looked up by name, and nobody may have named this one before.
+    qRegisterMetaType<QDBusVariant>();
     bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
     for (const DesktopKey& key : {enableAnimations, reducedMotionKey, colorScheme, textScalingFactor}) ask(bus, key);
