@@ -15,6 +15,7 @@ namespace {
 
 std::vector<std::string_view> keysOf(const std::vector<TypePills::Filter>& pills) {
     std::vector<std::string_view> keys;
+    keys.reserve(pills.size());
     for (const TypePills::Filter& type : pills) keys.push_back(type ? rawValue(*type) : std::string_view());
     return keys;
 }
