@@ -6,48 +6,14 @@
 
 #include "ui/clutter/AgeText.h"
 #include "ui/components/FileTypeLook.h"
-#include "ui/components/RowEdits.h"
 #include "ui/components/Spoken.h"
 #include "ui/text/DisplayText.h"
 
 namespace zelk {
 
-namespace {
-
-std::vector<std::string_view> pathsOf(const std::vector<LargeFile>& files) {
-    std::vector<std::string_view> paths;
-    paths.reserve(files.size());
-    for (const LargeFile& file : files) paths.emplace_back(file.path);
-    return paths;
-}
-
-QString nameOf(const LargeFile& file) {
-    return displayText(std::string_view(file.path).substr(file.path.rfind('/') + 1));
-}
-
-/// The path without its last component; that of what lies at the top is "/".
-QString folderOf(const LargeFile& file) {
-    const std::size_t slash = file.path.rfind('/');
-    return displayText(std::string_view(file.path).substr(0, slash == 0 ? 1 : slash));
-}
-
-}  // namespace
-
 void ClutterRows::show(std::vector<LargeFile> files, TimePoint now) {
-    const RowEdits edits = rowEdits(pathsOf(files_), pathsOf(files));
-    const auto at = [](auto& list, std::size_t row) { return list.begin() + static_cast<std::ptrdiff_t>(row); };
-    for (const auto& [first, count] : edits.removals) {
-        beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
-        files_.erase(at(files_, first), at(files_, first + count));
-        endRemoveRows();
-    }
-    for (const auto& [first, count] : edits.insertions) {
-        beginInsertRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
-        files_.insert(at(files_, first), at(files, first), at(files, first + count));
-        endInsertRows();
-    }
+    edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
     // What stayed may have another size than in the survey before, and all have another age.
-    files_ = std::move(files);
     now_ = now;
     if (!files_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {ageRole, sizeRole, spokenRole});
 }
@@ -75,17 +41,18 @@ QVariant ClutterRows::data(const QModelIndex& index, int role) const {
             return lookOf(file.type, *theme_).color;
         case Qt::DisplayRole:
         case nameRole:
-            return nameOf(file);
+            return nameText(file.path);
         case folderRole:
-            return folderOf(file);
+            return folderText(file.path);
         case ageRole:
             return ageText(file.modified, now_);
         case sizeRole:
             return byteFigure(file.size);
         case spokenRole:
-            return Spoken::joined({nameOf(file), folderOf(file), ageText(file.modified, now_), byteFigure(file.size)});
+            return Spoken::joined(
+                {nameText(file.path), folderText(file.path), ageText(file.modified, now_), byteFigure(file.size)});
         case actionsRole:
-            return QStringLiteral("Actions for %1").arg(nameOf(file));
+            return QStringLiteral("Actions for %1").arg(nameText(file.path));
         default:
             return {};
     }

@@ -2,17 +2,17 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <string>
 #include <vector>
 
 #include "scan/ScanInsights.h"
+#include "ui/components/EditedList.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
 /// Files with what a row tells of each. Main thread.
-class ClutterRows : public QAbstractListModel {
+class ClutterRows : public zelk::EditedList {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ClutterScreenModel")
@@ -20,7 +20,7 @@ class ClutterRows : public QAbstractListModel {
 public:
     enum Role { symbolRole = Qt::UserRole, tintRole, nameRole, folderRole, ageRole, sizeRole, spokenRole, actionsRole };
 
-    using QAbstractListModel::QAbstractListModel;
+    using EditedList::EditedList;
 
     /// From here on the rows are these, in this order, and their ages those at `now`: rows that stay are not made anew.
     void show(std::vector<LargeFile> files, TimePoint now);

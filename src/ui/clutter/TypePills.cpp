@@ -6,37 +6,14 @@
 #include <utility>
 
 #include "ui/components/FileTypeLook.h"
-#include "ui/components/RowEdits.h"
 #include "ui/components/ScreenLook.h"
 
 namespace zelk {
 
-namespace {
-
-std::vector<std::string_view> keysOf(const std::vector<TypePills::Filter>& pills) {
-    std::vector<std::string_view> keys;
-    keys.reserve(pills.size());
-    for (const TypePills::Filter& type : pills) keys.push_back(type ? rawValue(*type) : std::string_view());
-    return keys;
-}
-
-}  // namespace
-
 void TypePills::show(const std::vector<FileType>& types) {
     std::vector<Filter> pills{Filter()};
     pills.insert(pills.end(), types.begin(), types.end());
-    const RowEdits edits = rowEdits(keysOf(pills_), keysOf(pills));
-    const auto at = [](auto& list, std::size_t row) { return list.begin() + static_cast<std::ptrdiff_t>(row); };
-    for (const auto& [first, count] : edits.removals) {
-        beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
-        pills_.erase(at(pills_, first), at(pills_, first + count));
-        endRemoveRows();
-    }
-    for (const auto& [first, count] : edits.insertions) {
-        beginInsertRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
-        pills_.insert(at(pills_, first), at(pills, first), at(pills, first + count));
-        endInsertRows();
-    }
+    edit(pills_, std::move(pills), [](const Filter& type) { return type ? rawValue(*type) : std::string_view(); });
     emit dataChanged(index(0), index(rowCount() - 1), {reachedRole});
 }
 

@@ -2,17 +2,17 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <optional>
 #include <vector>
 
 #include "scan/FileType.h"
+#include "ui/components/EditedList.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
 /// The types of files that a list can be narrowed to, after "All". Main thread.
-class TypePills : public QAbstractListModel {
+class TypePills : public zelk::EditedList {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ClutterScreenModel")
@@ -23,7 +23,7 @@ public:
 
     using Filter = std::optional<FileType>;  ///< none: all files
 
-    using QAbstractListModel::QAbstractListModel;
+    using EditedList::EditedList;
 
     /// From here on the pills are "All" and these; pills that stay are not made anew.
     void show(const std::vector<FileType>& types);

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/components/RowEdits.h"
 #include "ui/components/SafetyLook.h"
 #include "ui/components/Spoken.h"
 #include "ui/text/DisplayText.h"
@@ -22,7 +21,7 @@ QString countText(std::int64_t items) {
 }  // namespace
 
 CategoryList::CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review, QObject* parent)
-    : QAbstractListModel(parent),
+    : EditedList(parent),
       app_(app),
       review_(std::move(review)),
       bubbles_({[this](const BubbleSlice& slice) {
@@ -148,27 +147,8 @@ void CategoryList::refresh() {
     std::unordered_map<std::string_view, std::int64_t> counts;
     for (const Reclaimable& item : app_.reclaimables()) ++counts[item.categoryID];
     std::vector<Row> rows;
-    std::vector<std::string_view> keys;
-    for (const auto& [category, bytes] : app_.reclaimTotals()) {
-        rows.push_back({category, bytes, counts[category->id]});
-        keys.push_back(category->id);
-    }
-    std::vector<std::string_view> before;
-    for (const Row& row : rows_) before.push_back(row.category->id);
-
-    const RowEdits edits = rowEdits(before, keys);
-    const auto at = [](auto& list, std::size_t row) { return list.begin() + static_cast<std::ptrdiff_t>(row); };
-    for (const auto& [first, count] : edits.removals) {
-        beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
-        rows_.erase(at(rows_, first), at(rows_, first + count));
-        endRemoveRows();
-    }
-    for (const auto& [first, count] : edits.insertions) {
-        beginInsertRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
-        rows_.insert(at(rows_, first), at(rows, first), at(rows, first + count));
-        endInsertRows();
-    }
-    rows_ = std::move(rows);
+    for (const auto& [category, bytes] : app_.reclaimTotals()) rows.push_back({category, bytes, counts[category->id]});
+    edit(rows_, std::move(rows), [](const Row& row) { return row.category->id; });
     if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1));
     announce();
 }

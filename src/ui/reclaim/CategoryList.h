@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QString>
 #include <functional>
 #include <set>
@@ -11,6 +10,7 @@
 
 #include "reclaim/ReclaimCatalogue.h"
 #include "ui/bubbles/BubbleModel.h"
+#include "ui/components/EditedList.h"
 
 namespace zelk {
 
@@ -18,7 +18,7 @@ class AppModel;
 
 /// What a survey found to reclaim, by category, the largest first, and which categories a person chose: as a list and
 /// as a bubble map. At first the safe ones are chosen, once and for as long as the screen lives. Main thread.
-class CategoryList : public QAbstractListModel {
+class CategoryList : public zelk::EditedList {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "ui/components/Spoken.h"
-#include "ui/reclaim/ItemTexts.h"
 #include "ui/text/DisplayText.h"
 
 namespace zelk {
@@ -27,15 +26,15 @@ QVariant DryRunRows::data(const QModelIndex& index, int role) const {
                                                                     : QStringLiteral("trash");
         case Qt::DisplayRole:
         case nameRole:
-            return nameOf(item);
+            return nameText(item.path);
         case folderRole:
-            return folderOf(item);
+            return folderText(item.path);
         case sizeRole:
             return size();
         case methodRole:
             return method();
         case spokenRole:
-            return Spoken::joined({nameOf(item), size(), method(), folderOf(item)});
+            return Spoken::joined({nameText(item.path), size(), method(), folderText(item.path)});
         default:
             return {};
     }

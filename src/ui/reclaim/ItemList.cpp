@@ -5,16 +5,14 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/components/RowEdits.h"
 #include "ui/components/SafetyLook.h"
 #include "ui/components/Spoken.h"
-#include "ui/reclaim/ItemTexts.h"
 #include "ui/text/DisplayText.h"
 
 namespace zelk {
 
 ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent)
-    : QAbstractListModel(parent), app_(app), cleanup_(cleanup) {
+    : EditedList(parent), app_(app), cleanup_(cleanup) {
     connect(&app, &AppModel::reclaimablesChanged, this, &ItemList::refresh);
     connect(&cleanup, &DevCleanupModel::ageDaysChanged, this, [this] {
         emit ageChanged();
@@ -113,9 +111,9 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
             return false;
         case Qt::DisplayRole:
         case nameRole:
-            return nameOf(item);
+            return nameText(item.path);
         case placeRole:
-            return folderOf(item);
+            return folderText(item.path);
         case lineRole:
             return lineOf(item);
         case figureRole:
@@ -129,8 +127,8 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
         case freeRole:
             return cleanup_.selection().conflictOf(item).empty();
         case spokenRole:
-            return Spoken::joined({nameOf(item), byteFigure(static_cast<std::int64_t>(item.size)), ageOf(item),
-                                   lineOf(item), folderOf(item)});
+            return Spoken::joined({nameText(item.path), byteFigure(static_cast<std::int64_t>(item.size)), ageOf(item),
+                                   lineOf(item), folderText(item.path)});
         default:
             return QString();
     }
@@ -244,20 +242,7 @@ void ItemList::refresh() {
     // The rows that go point into the groups as they were.
     const Groups former = std::exchange(groups_, readGroups());
     count();
-    std::vector<Row> rows = rowsOf(groups_);
-    const RowEdits edits = rowEdits(keysOf(rows_), keysOf(rows));
-    const auto at = [](auto& list, std::size_t row) { return list.begin() + static_cast<std::ptrdiff_t>(row); };
-    for (const auto& [first, rowsOut] : edits.removals) {
-        beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + rowsOut) - 1);
-        rows_.erase(at(rows_, first), at(rows_, first + rowsOut));
-        endRemoveRows();
-    }
-    for (const auto& [first, rowsIn] : edits.insertions) {
-        beginInsertRows({}, static_cast<int>(first), static_cast<int>(first + rowsIn) - 1);
-        rows_.insert(at(rows_, first), at(rows, first), at(rows, first + rowsIn));
-        endInsertRows();
-    }
-    rows_ = std::move(rows);
+    edit(rows_, rowsOf(groups_), keyOf);
     changed(0, rowCount() - 1, {});
     emit footerChanged();
 }
@@ -282,12 +267,8 @@ std::vector<ItemList::Row> ItemList::rowsOf(const Groups& groups) {
 }
 
 /// A path begins with a slash and the id of a category does not.
-std::vector<std::string_view> ItemList::keysOf(const std::vector<Row>& rows) {
-    std::vector<std::string_view> keys;
-    keys.reserve(rows.size());
-    for (const auto& [group, item] : rows)
-        keys.push_back(item == nullptr ? group->content.category->id : std::string_view(item->id));
-    return keys;
+std::string_view ItemList::keyOf(const Row& row) {
+    return row.item == nullptr ? row.group->content.category->id : std::string_view(row.item->id);
 }
 
 void ItemList::count() {

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QString>
 #include <memory>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "reclaim/DevCleanupModel.h"
+#include "ui/components/EditedList.h"
 
 namespace zelk {
 
@@ -18,7 +19,7 @@ class AppModel;
 /// The items of a survey for somebody who knows them: a row per category and, where that is unfolded, a row per item.
 /// Twenty thousand of them are possible: a tick changes its rows and no other, and the sums are kept up by what
 /// changed. Main thread.
-class ItemList : public QAbstractListModel {
+class ItemList : public zelk::EditedList {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")
@@ -107,7 +108,7 @@ private:
     void count();
     Groups readGroups() const;
     static std::vector<Row> rowsOf(const Groups& groups);
-    static std::vector<std::string_view> keysOf(const std::vector<Row>& rows);
+    static std::string_view keyOf(const Row& row);
     QVariant dataOfGroup(const Group& group, int role) const;
     QVariant dataOfItem(const Reclaimable& item, int role) const;
     QString lineOf(const Reclaimable& item) const;

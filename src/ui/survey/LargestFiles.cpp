@@ -9,27 +9,10 @@
 namespace zelk {
 
 void LargestFiles::show(const std::vector<LargeFile>& files) {
-    const std::size_t wanted = std::min(files.size(), mostRows);
-    // What went first: a file that was taken away leaves the others where they are.
-    for (std::size_t row = files_.size(); row-- > 0;) {
-        if (std::find(files.begin(), files.begin() + static_cast<std::ptrdiff_t>(wanted), files_[row]) !=
-            files.begin() + static_cast<std::ptrdiff_t>(wanted))
-            continue;
-        beginRemoveRows({}, static_cast<int>(row), static_cast<int>(row));
-        files_.erase(files_.begin() + static_cast<std::ptrdiff_t>(row));
-        endRemoveRows();
-    }
-    for (std::size_t row = 0; row < wanted; ++row) {
-        if (row < files_.size() && files_[row] == files[row]) continue;
-        beginInsertRows({}, static_cast<int>(row), static_cast<int>(row));
-        files_.insert(files_.begin() + static_cast<std::ptrdiff_t>(row), files[row]);
-        endInsertRows();
-    }
-    if (files_.size() > wanted) {
-        beginRemoveRows({}, static_cast<int>(wanted), static_cast<int>(files_.size()) - 1);
-        files_.resize(wanted);
-        endRemoveRows();
-    }
+    const auto end = files.begin() + static_cast<std::ptrdiff_t>(std::min(files.size(), mostRows));
+    edit(files_, std::vector<LargeFile>(files.begin(), end),
+         [](const LargeFile& file) { return std::string_view(file.path); });
+    if (!files_.empty()) emit dataChanged(index(0), index(rowCount() - 1));
 }
 
 void LargestFiles::setTheme(const ZelkTheme& theme) {
@@ -51,7 +34,7 @@ QVariant LargestFiles::data(const QModelIndex& index, int role) const {
             return lookOf(file.type, *theme_).color;
         case Qt::DisplayRole:
         case nameRole:
-            return displayText(std::string_view(file.path).substr(file.path.rfind('/') + 1));
+            return nameText(file.path);
         case pathRole:
             return displayText(file.path);
         case sizeRole:

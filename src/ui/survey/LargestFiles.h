@@ -2,16 +2,16 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <vector>
 
 #include "scan/ScanInsights.h"
+#include "ui/components/EditedList.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
 /// The first few of a survey's largest files. Main thread.
-class LargestFiles : public QAbstractListModel {
+class LargestFiles : public zelk::EditedList {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of FindingsModel")
@@ -21,7 +21,7 @@ public:
 
     enum Role { symbolRole = Qt::UserRole, tintRole, nameRole, pathRole, sizeRole };
 
-    using QAbstractListModel::QAbstractListModel;
+    using EditedList::EditedList;
 
     /// From here on the rows are the first of these: rows that stay are neither moved nor made anew.
     void show(const std::vector<LargeFile>& files);

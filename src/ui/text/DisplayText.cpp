@@ -39,6 +39,15 @@ QString displayText(std::string_view bytes) {
     return text;
 }
 
+QString nameText(std::string_view path) {
+    return displayText(path.substr(path.rfind('/') + 1));
+}
+
+QString folderText(std::string_view path) {
+    const std::size_t slash = path.rfind('/');
+    return displayText(path.substr(0, slash == 0 ? 1 : slash == std::string_view::npos ? 0 : slash));
+}
+
 QString byteFigure(std::int64_t bytes, const QLocale& locale) {
     return QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString()));
 }

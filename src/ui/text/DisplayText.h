@@ -15,6 +15,12 @@ namespace zelk {
 /// a bell or turn the direction of what follows become visible marks, so that a name cannot pretend to be another.
 QString displayText(std::string_view bytes);
 
+/// The last component of a path, for the screen.
+QString nameText(std::string_view path);
+
+/// The path without its last component, for the screen: that of what lies at the top is "/".
+QString folderText(std::string_view path);
+
 /// The byte format with the decimal separator of `locale`; a count below 0 is 0.
 QString byteFigure(std::int64_t bytes, const QLocale& locale = userLocale());
 
