@@ -12,8 +12,6 @@ FocusScope {
 
     required property ClutterScreenModel clutter
 
-    onVisibleChanged: menu.close()
-
     ClutterHead {
         id: head
 
@@ -104,9 +102,10 @@ FocusScope {
         id: menu
 
         clutter: files.clutter
-        onClosed: {
-            if (files.visible)
-                list.forceActiveFocus(Qt.PopupFocusReason);
-        }
+    }
+
+    PopupHome {
+        home: list
+        popup: menu
     }
 }

@@ -24,7 +24,6 @@ BaseButton {
     Accessible.name: Spoken.joined([button.said, button.text])
     Accessible.role: Accessible.ButtonMenu
 
-    onVisibleChanged: panel.close()
     onClicked: panel.visible ? panel.close() : panel.popup(button, 0, button.height + 4)
     Keys.onDownPressed: button.clicked()
 
@@ -62,9 +61,10 @@ BaseButton {
 
         // A press on the button is the button's own: it closes what it opened.
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
-        onClosed: {
-            if (button.visible && button.enabled)
-                button.forceActiveFocus(Qt.PopupFocusReason);
-        }
+    }
+
+    PopupHome {
+        home: button
+        popup: panel
     }
 }

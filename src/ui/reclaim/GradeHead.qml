@@ -68,7 +68,11 @@ Item {
 
                     guide: head.guide
                     y: info.height + 6
-                    onClosed: info.forceActiveFocus(Qt.PopupFocusReason)
+                }
+
+                PopupHome {
+                    home: info
+                    popup: popover
                 }
             }
         }

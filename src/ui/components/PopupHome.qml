@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// Where a popup belongs: it closes when its home goes out of sight, and gives its home the keyboard back.
+pragma ComponentBehavior: Bound
+
+import QtQml
+import QtQuick
+import QtQuick.Templates as T
+
+QtObject {
+    id: place
+
+    required property Item home
+    required property T.Popup popup
+
+    readonly property bool inSight: place.home.visible
+    onInSightChanged: place.popup.close()
+
+    readonly property Connections _end: Connections {
+        target: place.popup
+
+        function onClosed() {
+            if (place.inSight && place.home.enabled)
+                place.home.forceActiveFocus(Qt.PopupFocusReason);
+        }
+    }
+}
