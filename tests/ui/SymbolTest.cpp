@@ -8,6 +8,7 @@
 #include <cmath>
 #include <vector>
 
+#include "ViewFixture.h"
 #include "ui/components/ScanFace.h"
 #include "ui/shell/Application.h"
 #include "ui/survey/FeatureList.h"
@@ -16,6 +17,8 @@
 namespace zelk {
 
 namespace {
+
+class TextSymbol : public ViewFixture {};
 
 std::vector<QString> symbolsInUse() {
     std::vector<QString> names{ScanFace::idle().symbol, QStringLiteral("internaldrive")};
@@ -135,10 +138,11 @@ TEST(Symbols, ofAnUnknownNameAreNothing) {
     EXPECT_TRUE(tintedSymbol(QStringLiteral("scope"), Qt::red, 0).isNull());
 }
 
-TEST(Symbols, besideATextLookAsLargeAsIt) {
-    SymbolItem symbol;
-    symbol.setPoints(14);
-    EXPECT_EQ(symbol.implicitWidth(), 17);
+TEST_F(TextSymbol, looksAsLargeAsTheTextBesideIt) {
+    show(QStringLiteral("import QtQuick\nimport Zelk.Components\n"
+                        "Item { TextSymbol { objectName: 'symbol'; name: 'scope'; color: 'black'; points: 14 } }"),
+         {40, 40});
+    EXPECT_EQ(find("symbol")->implicitWidth(), 17);
     double most = 0;
     for (const char* name : {"scope", "sparkles", "gearshape", "tray.full", "internaldrive"}) {
         const QRect ink = inkOf(tintedSymbol(QString::fromLatin1(name), Qt::black, 10 * 17));

@@ -3,7 +3,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Symbols
 import Zelk.Theme
 
 Item {
@@ -26,7 +25,7 @@ Item {
         anchors.centerIn: parent
         spacing: 8
 
-        SymbolItem {
+        TextSymbol {
             id: picture
 
             anchors.verticalCenter: parent.verticalCenter

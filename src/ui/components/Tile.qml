@@ -3,7 +3,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Symbols
 
 Rectangle {
     id: tile
@@ -19,7 +18,7 @@ Rectangle {
     radius: tile.corner
     color: Qt.alpha(tile.tint, 0.16)
 
-    SymbolItem {
+    TextSymbol {
         anchors.centerIn: parent
         name: tile.symbol
         color: tile.tint

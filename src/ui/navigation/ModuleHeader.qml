@@ -4,7 +4,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.Components
-import Zelk.Symbols
 import Zelk.Theme
 
 Item {
@@ -29,7 +28,7 @@ Item {
         radius: 10
         color: Qt.alpha(header.tint, 0.16)
 
-        SymbolItem {
+        TextSymbol {
             anchors.centerIn: parent
             name: header.symbol
             color: header.tint

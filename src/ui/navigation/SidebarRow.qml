@@ -5,7 +5,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.Components
-import Zelk.Symbols
 import Zelk.Theme
 
 Column {
@@ -91,7 +90,7 @@ Column {
             width: row.availableWidth
             height: row.availableHeight
 
-            SymbolItem {
+            TextSymbol {
                 x: 10
                 anchors.verticalCenter: parent.verticalCenter
                 name: place.symbol

@@ -6,7 +6,6 @@ import QtQuick
 import QtQuick.Templates as T
 import Zelk.Components
 import Zelk.Survey
-import Zelk.Symbols
 import Zelk.Theme
 
 ListView {
@@ -65,7 +64,7 @@ ListView {
             Accessible.role: Accessible.ListItem
             Accessible.name: Spoken.joined([place.name, place.path, place.size])
 
-            SymbolItem {
+            TextSymbol {
                 id: icon
 
                 anchors.verticalCenter: parent.verticalCenter

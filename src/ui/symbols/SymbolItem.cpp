@@ -25,8 +25,6 @@ size_t qHash(const Tinting& tinting, size_t seed = 0) {
     return qHashMulti(seed, tinting.name, tinting.color, tinting.pixels);
 }
 
-// Of the 24 units of the grid the ink takes about 20.
-constexpr qreal gridPerPoint = 1.2;
 constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
 
 /// The pictures drawn last, so that a list whose every row has the same symbol reads its file once.
@@ -91,11 +89,6 @@ void SymbolItem::setSize(qreal size) {
     size_ = size;
     setImplicitSize(size, size);
     emit sizeChanged();
-}
-
-void SymbolItem::setPoints(qreal points) {
-    points_ = points;
-    setSize(std::round(points * gridPerPoint));
 }
 
 void SymbolItem::paint(QPainter* painter) {

@@ -23,8 +23,7 @@ class SymbolItem : public QQuickPaintedItem {
     QML_ELEMENT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL REQUIRED)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL REQUIRED)
-    Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY sizeChanged FINAL)
-    Q_PROPERTY(qreal points READ points WRITE setPoints NOTIFY sizeChanged FINAL)
+    Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY sizeChanged FINAL REQUIRED)
 
 public:
     explicit SymbolItem(QQuickItem* parent = nullptr);
@@ -36,9 +35,6 @@ public:
     /// The side of its grid, of which the symbols leave a rim free.
     qreal size() const { return size_; }
     void setSize(qreal size);
-    /// The size of the text that it looks as large as: its grid is larger by that rim, in whole points.
-    qreal points() const { return points_; }
-    void setPoints(qreal points);
 
     void paint(QPainter* painter) override;
 
@@ -51,7 +47,6 @@ private:
     QString name_;
     QColor color_;
     qreal size_ = 0;
-    qreal points_ = 0;
 };
 
 }  // namespace zelk
