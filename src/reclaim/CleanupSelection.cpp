@@ -18,19 +18,27 @@ std::vector<Reclaimable> ageFiltered(const std::vector<Reclaimable>& items, std:
     return old;
 }
 
-std::vector<CleanupGroup> cleanupGroups(const std::vector<Reclaimable>& items) {
+std::vector<CleanupGroup> cleanupGroups(std::vector<Reclaimable> items) {
     std::vector<CleanupGroup> groups;
+    std::vector<std::vector<std::size_t>> members;  // of each group, as places: an item itself moves once
     std::unordered_map<std::string_view, std::size_t> places;
-    for (const Reclaimable& item : items) {
-        const auto row = reclaimCategoryByID().find(item.categoryID);
+    for (std::size_t at = 0; at < items.size(); ++at) {
+        const auto row = reclaimCategoryByID().find(items[at].categoryID);
         if (row == reclaimCategoryByID().end()) continue;
         const auto [place, isNew] = places.try_emplace(row->first, groups.size());
-        if (isNew) groups.push_back({row->second, {}});
-        groups[place->second].items.push_back(item);
+        if (isNew) {
+            groups.push_back({row->second, {}});
+            members.emplace_back();
+        }
+        members[place->second].push_back(at);
     }
-    for (CleanupGroup& group : groups)
-        std::stable_sort(group.items.begin(), group.items.end(),
-                         [](const Reclaimable& a, const Reclaimable& b) { return a.size > b.size; });
+    for (std::size_t group = 0; group < groups.size(); ++group) {
+        std::vector<std::size_t>& sorted = members[group];
+        std::stable_sort(sorted.begin(), sorted.end(),
+                         [&](std::size_t a, std::size_t b) { return items[a].size > items[b].size; });
+        groups[group].items.reserve(sorted.size());
+        for (const std::size_t at : sorted) groups[group].items.push_back(std::move(items[at]));
+    }
     std::vector<std::pair<std::int64_t, CleanupGroup>> weighed;
     weighed.reserve(groups.size());
     for (CleanupGroup& group : groups) weighed.emplace_back(group.bytes(), std::move(group));

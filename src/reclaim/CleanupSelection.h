@@ -32,7 +32,7 @@ struct CleanupGroup {
 };
 
 /// By category, the group with the most bytes first; what has no row in the catalogue is dropped.
-std::vector<CleanupGroup> cleanupGroups(const std::vector<Reclaimable>& items);
+std::vector<CleanupGroup> cleanupGroups(std::vector<Reclaimable> items);
 
 /// The ticks of a person, and the items that a running application still uses. An item that is in use is never part of
 /// what is cleaned, ticked or not.
