@@ -183,6 +183,7 @@ private:
     void removeWhatWaited(ScanTask& task);
     void withdraw(ScanTask& task);
     void dropLargeFile(const std::string& path);
+    ScanTask* walkUnderWay() const;  // null without one
     std::vector<NodeRef> treesAtHand() const;
     std::string_view rootAbove(std::string_view path) const;
     void recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t total, const NodeRef& tree);

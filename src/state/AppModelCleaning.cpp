@@ -74,7 +74,7 @@ void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
             if (trash.trash(item.place)) continue;
             sender.post([this, leaving, &item] {
                 const std::string path = item.node->fullPath();
-                if (scanTask_ != nullptr && scanPhase_ == ScanPhase::scanning) scanTask_->trashedFolders.insert(path);
+                if (ScanTask* walk = walkUnderWay()) walk->trashedFolders.insert(path);
                 for (const NodeRef& tree : treesAtHand())
                     if (!(tree == item.top)) leaving->noteIn(tree, path);
                 removeFromTree(*item.node);
@@ -95,6 +95,10 @@ void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
 }
 
 /// The trees that results are read from, or will be again after a cancel.
+AppModel::ScanTask* AppModel::walkUnderWay() const {
+    return scanPhase_ == ScanPhase::scanning ? scanTask_.get() : nullptr;
+}
+
 std::vector<NodeRef> AppModel::treesAtHand() const {
     std::vector<NodeRef> trees;
     if (root_) trees.push_back(root_);
@@ -126,7 +130,7 @@ void AppModel::trashLargeFile(const std::string& path) {
 
 void AppModel::dropLargeFile(const std::string& path) {
     // A walk that is not over may have come by before the file went.
-    if (scanTask_ != nullptr && scanPhase_ == ScanPhase::scanning) scanTask_->trashedFiles.insert(path);
+    if (ScanTask* walk = walkUnderWay()) walk->trashedFiles.insert(path);
     const auto isIt = [&](const LargeFile& file) { return file.path == path; };
     if (std::erase_if(insights_.topFiles, isIt) != 0) emit insightsChanged();
 }
