@@ -14,6 +14,7 @@
 #include <filesystem>
 
 #include "fakes/Environment.h"
+#include "fakes/EventLoop.h"
 #include "fakes/InChild.h"
 #include "fakes/SessionBus.h"
 #include "fakes/TestFiles.h"
@@ -66,11 +67,6 @@ protected:
         ASSERT_TRUE(connection.isConnected());
         ASSERT_TRUE(connection.registerVirtualObject(QStringLiteral("/org/freedesktop/FileManager1"), &service));
         ASSERT_TRUE(connection.registerService(QStringLiteral("org.freedesktop.FileManager1")));
-    }
-
-    template <class Condition>
-    static void runUntil(Condition condition) {
-        while (!condition()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 
     int count = 1;

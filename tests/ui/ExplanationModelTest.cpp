@@ -33,10 +33,10 @@ TEST_F(Explanation, isClosedUntilItIsAskedFor) {
 }
 
 TEST_F(Explanation, tellsWhatAPlaceIs) {
-    note.open(home + "/work/site/node_modules");
+    note.open(home + "/projects/site/node_modules");
     EXPECT_EQ(note.symbol(), QStringLiteral("questionmark.circle.fill"));
     EXPECT_EQ(note.title(), QStringLiteral("node_modules"));
-    EXPECT_EQ(note.path(), QStringLiteral("/home/me/work/site/node_modules"));
+    EXPECT_EQ(note.path(), QStringLiteral("/home/me/projects/site/node_modules"));
     EXPECT_EQ(note.badge(), QStringLiteral("regenerates"));
     EXPECT_TRUE(note.regenerates());
     EXPECT_EQ(note.regeneratesLabel(), QStringLiteral("regenerates"));

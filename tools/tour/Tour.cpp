@@ -70,9 +70,13 @@ bool Tour::run() {
     return inTheme(true) && inTheme(false) && nothingFound();
 }
 
-bool Tour::inTheme(bool dark) {
+void Tour::setTheme(bool dark) {
     app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
     theme_ = dark ? QStringLiteral("dark") : QStringLiteral("light");
+}
+
+bool Tour::inTheme(bool dark) {
+    setTheme(dark);
     return idle() && heroes() && survey(!dark) && findings() && lens() && changes() && reclaim() && clutter() &&
            sidebarAndMenus() && windows() && firstRun() && smallAndLarge() && focus();
 }
@@ -255,8 +259,7 @@ bool Tour::nothingFound() {
     app_.startScan();
     waitUntil([this] { return app_.scanPhase() != AppModel::ScanPhase::scanning; });
     for (const bool dark : {true, false}) {
-        app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
-        theme_ = dark ? QStringLiteral("dark") : QStringLiteral("light");
+        setTheme(dark);
         for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::clutter, Screen::lens})
             if (!go(screen) || !picture(QStringLiteral("nothing-") + lookOf(screen).title.toLower())) return false;
     }

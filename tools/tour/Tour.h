@@ -20,6 +20,7 @@ public:
     bool run();
 
 private:
+    void setTheme(bool dark);
     bool inTheme(bool dark);
     bool idle();
     bool heroes();

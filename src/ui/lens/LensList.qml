@@ -58,7 +58,6 @@ RowList {
     }
 
     delegate: LensRow {
-        width: ListView.view.width
         ringed: list.ringed && ListView.isCurrentItem
         help: list.lens.infoHelp
         onPressed: list.take(index)
