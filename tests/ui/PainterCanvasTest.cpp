@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <cmath>
 #include <cstdlib>
 
 namespace zelk {
@@ -39,6 +40,42 @@ TEST_F(Painted, ringLeavesItsInsideFree) {
     EXPECT_EQ(at(50, 50).alpha(), 0);
     EXPECT_EQ(at(20, 50), QColor(Qt::red));
     EXPECT_EQ(at(25, 50).alpha(), 0);
+}
+
+TEST_F(Painted, aRingCoversEachPixelAsFarAsItLiesInIt) {
+    const QPointF center(50.3, 49.8);
+    constexpr double radius = 30.4;
+    const auto isIn = [&](QPointF point, double width) {
+        const QPointF away = point - center;
+        return std::abs(std::hypot(away.x(), away.y()) - radius) <= width / 2;
+    };
+    for (const double scale : {1.0, 1.25, 2.0}) {
+        for (const double width : {0.4, 1.0, 1.5, 6.0}) {
+            QImage drawn(210, 210, QImage::Format_ARGB32_Premultiplied);
+            drawn.fill(Qt::transparent);
+            QPainter on(&drawn);
+            on.scale(scale, scale);
+            PainterCanvas(on).ring(center, radius, width, Paint::solid(Qt::red));
+            on.end();
+            double ink = 0;
+            double wanted = 0;
+            for (int y = 0; y < drawn.height(); ++y) {
+                for (int x = 0; x < drawn.width(); ++x) {
+                    constexpr int grid = 5;
+                    int inside = 0;
+                    for (int part = 0; part < grid * grid; ++part)
+                        inside += isIn(QPointF(x + (part % grid + 0.5) / grid, y + (part / grid + 0.5) / grid) / scale,
+                                       width);
+                    const double covered = static_cast<double>(inside) / (grid * grid);
+                    const double alpha = drawn.pixelColor(x, y).alphaF();
+                    ASSERT_NEAR(alpha, covered, 0.2) << scale << ' ' << width << ": " << x << ' ' << y;
+                    ink += alpha;
+                    wanted += covered;
+                }
+            }
+            EXPECT_NEAR(ink / wanted, 1, 0.03) << scale << ' ' << width;
+        }
+    }
 }
 
 TEST_F(Painted, arcRunsAgainstTheClockFromThreeOClock) {

@@ -10,7 +10,7 @@ Drawn::Drawn(QQuickItem* parent) : QQuickPaintedItem(parent) {
 }
 
 void Drawn::paint(QPainter* painter) {
-    PainterCanvas canvas(*painter);
+    PainterCanvas canvas(*painter, typesetter_);
     draw(canvas);
 }
 

@@ -4,6 +4,8 @@
 #include <QtQml/qqmlregistration.h>
 #include <QQuickPaintedItem>
 
+#include "ui/components/Typesetter.h"
+
 namespace zelk {
 
 class Canvas;
@@ -30,6 +32,9 @@ protected:
         update();
         return true;
     }
+
+private:
+    Typesetter typesetter_;  // as long as it: with every frame it writes much the same
 };
 
 }  // namespace zelk

@@ -3,18 +3,16 @@
 
 #include <QBrush>
 #include <QConicalGradient>
-#include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPen>
 #include <QRadialGradient>
 #include <QRectF>
-#include <QRegion>
 #include <algorithm>
 #include <cmath>
 
+#include "ui/components/Typesetter.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
@@ -42,13 +40,6 @@ QBrush brushOf(const Paint& paint) {
 
 QRectF around(QPointF center, double radius) {
     return {center.x() - radius, center.y() - radius, 2 * radius, 2 * radius};
-}
-
-/// The whole points inside.
-QRect innerRect(const QRectF& rect) {
-    const QPoint topLeft(static_cast<int>(std::ceil(rect.left())), static_cast<int>(std::ceil(rect.top())));
-    const QPoint end(static_cast<int>(std::floor(rect.right())), static_cast<int>(std::floor(rect.bottom())));
-    return {topLeft, end - QPoint(1, 1)};
 }
 
 QPen penOf(const Paint& paint, double width) {
@@ -109,9 +100,57 @@ private:
     QColor color_;
 };
 
+/// A circle's line as a gradient from its middle with edges one pixel wide: the toolkit's own line takes six times as
+/// long.
+class SmoothRing {
+public:
+    /// Of the reach in pixels: a gradient has 1024 steps from its middle on, and an edge needs two of them.
+    static constexpr double finest = 512;
+
+    /// `scale` is pixels to the point.
+    SmoothRing(double radius, double width, double scale, const QColor& color)
+        : radius_(radius), half_(width / 2), edge_(0.5 / scale), color_(color) {}
+
+    double reach() const { return radius_ + half_ + edge_; }
+    double hole() const { return std::max(0.0, radius_ - half_ - edge_); }
+
+    QBrush at(QPointF center) const {
+        // A line thinner than a pixel covers a part of it.
+        const double flat = std::abs(half_ - edge_);
+        const QColor clear = withOpacity(color_, 0);
+        const QColor full = withOpacity(color_, color_.alphaF() * std::min(1.0, half_ / edge_));
+        QRadialGradient gradient(center, reach());
+        const auto put = [&](double distance, const QColor& color) {
+            gradient.setColorAt(std::clamp(distance / reach(), 0.0, 1.0), color);
+        };
+        put(hole(), clear);
+        put(radius_ - flat, full);
+        put(radius_ + flat, full);
+        put(reach(), clear);
+        return QBrush(gradient);
+    }
+
+private:
+    double radius_;
+    double half_;
+    double edge_;
+    QColor color_;
+};
+
 }  // namespace
 
-PainterCanvas::PainterCanvas(QPainter& painter) : painter_(painter) {
+PainterCanvas::PainterCanvas(QPainter& painter)
+    : painter_(painter), own_(std::make_unique<Typesetter>()), typesetter_(*own_) {
+    prepare();
+}
+
+PainterCanvas::PainterCanvas(QPainter& painter, Typesetter& typesetter) : painter_(painter), typesetter_(typesetter) {
+    prepare();
+}
+
+PainterCanvas::~PainterCanvas() = default;
+
+void PainterCanvas::prepare() {
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
 }
 
@@ -130,16 +169,37 @@ void PainterCanvas::shadowedDisc(QPointF center, double radius, const Paint& pai
     if (radius <= 0) return;
     const BlurredDisc blurred(radius, shadow.blur, shadow.color);
     const QPointF below = center + shadow.offset;
-    const QBrush brush = blurred.at(below);
-    // Whole rectangles around what the disc covers for certain: the gradient has faded out at their outer sides, and
-    // filling them takes a fraction of what a smooth circle would.
-    const QRect outer = around(below, blurred.reach()).toAlignedRect();
-    const double half = radius / std::sqrt(2.0) - 2;
-    const QRect inner = half > 0 ? innerRect(around(center, half)) : QRect();
-    painter_.setRenderHint(QPainter::Antialiasing, false);  // on a scaled screen their seams would show
-    for (const QRect& rect : QRegion(outer) - QRegion(inner)) painter_.fillRect(rect, brush);
-    painter_.setRenderHint(QPainter::Antialiasing);
+    // What the disc covers for certain may be left out: around its own middle, which is not the shadow's.
+    const double covered = radius - std::hypot(shadow.offset.x(), shadow.offset.y()) - 2;
+    fillBetween(below, std::max(0.0, covered), blurred.reach(), blurred.at(below));
     disc(center, radius, paint);
+}
+
+/// Fills at least what lies between two circles, in bands: the gradient has faded out at both, and rectangles without
+/// smooth edges take a fraction of what circles would. On a scaled screen smooth ones would show their seams.
+void PainterCanvas::fillBetween(QPointF center, double inner, double outer, const QBrush& brush) {
+    constexpr int band = 4;
+    const int bottom = static_cast<int>(std::ceil(center.y() + outer));
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+    for (int top = static_cast<int>(std::floor(center.y() - outer)); top < bottom; top += band) {
+        const double above = center.y() - top;
+        const double below = top + band - center.y();
+        const double nearest = std::max({0.0, -above, -below});
+        const double farthest = std::max(above, below);
+        const double reach = std::sqrt(std::max(0.0, outer * outer - nearest * nearest));
+        const double hole = farthest < inner ? std::sqrt(inner * inner - farthest * farthest) : 0;
+        const int left = static_cast<int>(std::floor(center.x() - reach));
+        const int right = static_cast<int>(std::ceil(center.x() + reach));
+        const int holeLeft = static_cast<int>(std::ceil(center.x() - hole));
+        const int holeRight = static_cast<int>(std::floor(center.x() + hole));
+        if (holeLeft < holeRight) {
+            painter_.fillRect(left, top, holeLeft - left, band, brush);
+            painter_.fillRect(holeRight, top, right - holeRight, band, brush);
+        } else {
+            painter_.fillRect(left, top, right - left, band, brush);
+        }
+    }
+    painter_.setRenderHint(QPainter::Antialiasing);
 }
 
 void PainterCanvas::ellipse(const QRectF& rect, const Paint& paint) {
@@ -151,6 +211,12 @@ void PainterCanvas::ellipse(const QRectF& rect, const Paint& paint) {
 
 void PainterCanvas::ring(QPointF center, double radius, double width, const Paint& paint) {
     if (radius <= 0) return;
+    const double scale = painter_.transform().m11();
+    const SmoothRing soft(radius, width, scale, paint.stops.front().color);
+    if (paint.kind == Paint::Kind::solid && soft.reach() * scale < SmoothRing::finest) {
+        fillBetween(center, soft.hole(), soft.reach(), soft.at(center));
+        return;
+    }
     painter_.setPen(penOf(paint, width));
     painter_.setBrush(Qt::NoBrush);
     painter_.drawEllipse(center, radius, radius);
@@ -196,33 +262,12 @@ void PainterCanvas::image(const QRectF& rect, const QImage& image) {
     painter_.drawImage(rect, image);
 }
 
-const QFont& PainterCanvas::fontOf(const Lettering& lettering) const {
-    // Whole sizes: each other one would be a font of its own, and a chart that grows would make dozens a second.
-    Lettering whole = lettering;
-    whole.size = std::max(1.0, std::round(lettering.size));
-    for (const auto& [known, font] : fonts_)
-        if (known == whole) return font;
-
-    QFont font = QGuiApplication::font();
-#ifdef Q_OS_MACOS
-    if (whole.rounded) font.setFamilies({QStringLiteral("SF Pro Rounded"), font.family()});
-#endif
-    font.setPixelSize(static_cast<int>(whole.size));
-    font.setWeight(whole.weight == Lettering::Weight::semibold ? QFont::DemiBold : QFont::Medium);
-    return fonts_.emplace_back(whole, font).second;
-}
-
 void PainterCanvas::text(QPointF center, const QString& text, const Lettering& lettering, const QColor& color) {
-    const QFont& font = fontOf(lettering);
-    const QFontMetricsF metrics(font);
-    painter_.setFont(font);
-    painter_.setPen(color);
-    painter_.drawText(
-        center + QPointF(-metrics.horizontalAdvance(text) / 2, (metrics.ascent() - metrics.descent()) / 2), text);
+    typesetter_.write(painter_, center, text, lettering, color);
 }
 
 double PainterCanvas::textWidth(const QString& text, const Lettering& lettering) const {
-    return QFontMetricsF(fontOf(lettering)).horizontalAdvance(text);
+    return typesetter_.width(text, lettering);
 }
 
 }  // namespace zelk

@@ -1,20 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFont>
-#include <utility>
+#include <memory>
 #include <vector>
 
 #include "ui/components/Canvas.h"
 
+class QBrush;
 class QPainter;
 
 namespace zelk {
 
-/// Draws with a QPainter, anti-aliased; a circle without a positive radius is nothing. The painter must outlive it.
+class Typesetter;
+
+/// Draws with a QPainter, anti-aliased; a circle without a positive radius is nothing. Both must outlive it.
 class PainterCanvas : public Canvas {
 public:
     explicit PainterCanvas(QPainter& painter);
+    /// Writes with what a canvas before it has shaped.
+    PainterCanvas(QPainter& painter, Typesetter& typesetter);
+    ~PainterCanvas() override;
 
     bool shows(const QRectF& rect) const override;
     void disc(QPointF center, double radius, const Paint& paint) override;
@@ -31,11 +36,13 @@ public:
     double textWidth(const QString& text, const Lettering& lettering) const override;
 
 private:
-    const QFont& fontOf(const Lettering& lettering) const;
+    void prepare();
+    void fillBetween(QPointF center, double inner, double outer, const QBrush& brush);
     void strokeArc(QPointF center, double radius, double start, double span);
 
     QPainter& painter_;
-    mutable std::vector<std::pair<Lettering, QFont>> fonts_;  // that were asked for: finding one anew takes long
+    std::unique_ptr<Typesetter> own_;
+    Typesetter& typesetter_;
 };
 
 }  // namespace zelk
