@@ -124,6 +124,22 @@ TEST_F(LensScreen, backLeadsToTheRowThatOneCameFrom) {
     EXPECT_EQ(arrived.size(), 0) << "there is nothing above";
 }
 
+TEST_F(LensScreen, aFolderWithNothingToListSaysSo) {
+    EXPECT_FALSE(lens().bare()) << "there is no folder at hand";
+    put("/a file", 5'000'000);
+    survey();
+    EXPECT_TRUE(lens().mapped());
+    EXPECT_TRUE(lens().bare());
+    EXPECT_EQ(lens().bareTitle(), QStringLiteral("No folders that take up space"));
+    EXPECT_EQ(lens().bareNote(),
+              QStringLiteral("Files that lie directly in this folder are counted with it and not listed one by one."));
+    fill();
+    QSignalSpy told(&lens(), &LensScreenModel::placeChanged);
+    survey();
+    EXPECT_FALSE(lens().bare());
+    EXPECT_GE(told.size(), 1);
+}
+
 TEST_F(LensScreen, aFolderWithoutFoldersIsNotEntered) {
     fill();
     survey();

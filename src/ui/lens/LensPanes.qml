@@ -112,6 +112,16 @@ FocusScope {
                 model: panes.lens.bubbles
                 name: panes.lens.mapName
             }
+
+            EmptyState {
+                anchors.left: border.right
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                visible: panes.lens.bare
+                symbol: panes.lens.emptySymbol
+                title: panes.lens.bareTitle
+                note: panes.lens.bareNote
+            }
         }
 
         LensFoot {

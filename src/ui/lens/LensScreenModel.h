@@ -30,6 +30,9 @@ class LensScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(bool mapped READ mapped NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT FINAL)
     Q_PROPERTY(QString emptySymbol READ emptySymbol CONSTANT FINAL)
+    Q_PROPERTY(bool bare READ bare NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QString bareTitle READ bareTitle CONSTANT FINAL)
+    Q_PROPERTY(QString bareNote READ bareNote CONSTANT FINAL)
     Q_PROPERTY(QString startOverLabel READ startOverLabel CONSTANT FINAL)
     Q_PROPERTY(QString backLabel READ backLabel CONSTANT FINAL)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY placeChanged FINAL)
@@ -64,6 +67,10 @@ public:
     bool mapped() const { return static_cast<bool>(walk_.currentNode()); }
     QString emptyTitle() const;
     QString emptySymbol() const;
+    /// There is a folder at hand, and nothing in it to list or to map.
+    bool bare() const { return mapped() && rows_.rowCount() == 0; }
+    QString bareTitle() const;
+    QString bareNote() const;
     QString startOverLabel() const;
     QString backLabel() const;
     bool canGoBack() const { return walk_.canGoBack(); }

@@ -24,6 +24,12 @@ QString LensScreenModel::emptyTitle() const {
 QString LensScreenModel::emptySymbol() const {
     return QStringLiteral("circle.hexagongrid");
 }
+QString LensScreenModel::bareTitle() const {
+    return QStringLiteral("No folders that take up space");
+}
+QString LensScreenModel::bareNote() const {
+    return QStringLiteral("Files that lie directly in this folder are counted with it and not listed one by one.");
+}
 QString LensScreenModel::startOverLabel() const {
     return QStringLiteral("Start Over");
 }
