@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The windows of the application: how many, how large, and what closing one does.
 #include "ShellFixture.h"
+#include "fakes/FakeTray.h"
 
 namespace zelk {
 
@@ -9,6 +10,22 @@ namespace {
 class Windows : public ShellFixture {
 protected:
     Windows() { shell(); }
+};
+
+class WindowsWithTray : public ShellFixture {
+protected:
+    WindowsWithTray() {
+        services.tray = [this] {
+            auto made = std::make_unique<fakes::FakeTray>();
+            tray = made.get();
+            tray->come(true);
+            return made;
+        };
+        shell();
+        runUntil([&] { return shell().statusItem().present(); });
+    }
+
+    fakes::FakeTray* tray = nullptr;
 };
 
 }  // namespace
@@ -83,10 +100,33 @@ TEST_F(Windows, closingTheMainOneEndsWhatCouldNotBeReachedAnyMore) {
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(Windows, openZelkWithTheMainOneClosedShowsNone) {
+TEST_F(WindowsWithTray, closingTheMainOneEndsNothing) {
     window().close();
-    EXPECT_EQ(main().bringAllForward(), 0);
+    runWhatIsThere();
     EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(quits, 0);
+}
+
+TEST_F(WindowsWithTray, theMainOneComesBackWhenTheTrayGoes) {
+    tray->come(false);
+    EXPECT_TRUE(window().isVisible());
+    tray->come(true);
+    window().close();
+    tray->come(false);
+    EXPECT_TRUE(window().isVisible()) << "nothing else leads to it any more";
+    EXPECT_EQ(quits, 0);
+    window().close();
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(WindowsWithTray, openZelkWithTheMainOneClosedShowsNone) {
+    window().close();
+    QAction* entry = shell().statusItem().menu().actions().at(2);
+    ASSERT_EQ(entry->text(), QStringLiteral("Open Zelk"));
+    entry->trigger();
+    runWhatIsThere();
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(quits, 0);
 }
 
 TEST_F(Windows, openZelkBringsEachForwardTheMainOneLast) {

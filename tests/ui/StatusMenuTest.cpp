@@ -5,6 +5,7 @@
 
 #include <QMenu>
 
+#include "fakes/FakeTray.h"
 #include "state/AppModelFixture.h"
 #include "ui/shell/StatusItem.h"
 #include "ui/text/DisplayText.h"
@@ -116,7 +117,7 @@ TEST_F(Status, saysThatItChangedAFewTimesASecondAndNoMore) {
 }
 
 TEST_F(Status, isShownAsAMenuThatKeepsItsEntriesWhileTheirTextsChange) {
-    StatusItem item(menu);
+    StatusItem item(menu, std::make_unique<fakes::FakeTray>());
     EXPECT_FALSE(item.present());
     const QList<QAction*> before = item.menu().actions();
     ASSERT_EQ(before.size(), 6);
@@ -132,7 +133,7 @@ TEST_F(Status, isShownAsAMenuThatKeepsItsEntriesWhileTheirTextsChange) {
 }
 
 TEST_F(Status, aDesktopWithoutATrayShowsNoneAndNothingBreaks) {
-    StatusItem item(menu);
+    StatusItem item(menu, std::make_unique<fakes::FakeTray>());
     item.start();
     EXPECT_FALSE(item.present());
 }

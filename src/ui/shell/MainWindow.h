@@ -12,6 +12,7 @@
 #include "ui/shell/BundleInfo.h"
 #include "ui/shell/DetailPages.h"
 #include "ui/shell/SecondaryWindows.h"
+#include "ui/shell/Tray.h"
 #include "ui/shell/WindowId.h"
 
 namespace zelk {
@@ -44,6 +45,7 @@ struct WindowServices {
     std::function<std::optional<std::string>()> pickFolder = [] { return std::nullopt; };
     std::function<void()> quit = [] {};
     BundleInfo bundle;
+    std::function<std::unique_ptr<Tray>()> tray = desktopTray;
 };
 
 /// The main window of an AppModel with all that it shows and the windows beside it, not yet visible. The model and the

@@ -15,13 +15,14 @@ Shell::Shell(AppModel& app, const WindowServices& services)
       main_(app, services),
       statusMenu_(
           app, [this] { openZelk(); }, services.quit),
-      statusItem_(statusMenu_) {
+      statusItem_(statusMenu_, services.tray()) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
 #ifdef Q_OS_MACOS
     menuBar_ = makeNativeMenuBar(main_.commands());
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &Shell::followApplicationState);
 #endif
     connect(&main_.window(), &QWindow::visibleChanged, this, &Shell::followMainWindow);
+    connect(&statusItem_, &StatusItem::presentChanged, this, &Shell::followStatusItem);
     // The first frames are the person's; to draw the icon and to ask the desktop for a tray come behind them.
     main_.whenComplete([this] {
 #ifndef Q_OS_MACOS  // where it is the bundle's
@@ -55,6 +56,11 @@ void Shell::followApplicationState(Qt::ApplicationState state) {
 
 void Shell::followMainWindow(bool visible) {
     if (!visible && !statusItem_.present()) quit_();
+}
+
+/// A status item that goes leaves nobody without a way in: then the main window comes back.
+void Shell::followStatusItem() {
+    if (!statusItem_.present() && !main_.window().isVisible()) main_.show();
 }
 
 }  // namespace zelk

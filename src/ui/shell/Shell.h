@@ -32,6 +32,7 @@ private:
     void openZelk();
     void followApplicationState(Qt::ApplicationState state);
     void followMainWindow(bool visible);
+    void followStatusItem();
 
     std::function<void()> quit_;
     Reopening reopening_;

@@ -1,51 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/StatusItem.h"
 
-#include <QGuiApplication>
+#include <utility>
 
 #include "ui/shell/Application.h"
 #include "ui/shell/StatusMenu.h"
 
-#ifdef Q_OS_LINUX
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QDBusServiceWatcher>
-#endif
-
 namespace zelk {
 
-StatusItem::StatusItem(StatusMenu& menu) : menu_(menu) {
+StatusItem::StatusItem(StatusMenu& menu, std::unique_ptr<Tray> tray) : menu_(menu), tray_(std::move(tray)) {
     connect(&menu, &StatusMenu::changed, this, &StatusItem::follow);
+    connect(tray_.get(), &Tray::changed, this, &StatusItem::followTray);
     follow();
 }
 
 StatusItem::~StatusItem() {
-    if (tray_ != nullptr) tray_->hide();
+    if (icon_ != nullptr) icon_->hide();
 }
 
-void StatusItem::start() {
-#ifdef Q_OS_LINUX
-    // The toolkit asks for the tray once and remembers the answer: ask when there is one to find. X11 has a second
-    // kind of tray, which nobody announces.
-    const QString watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    const bool announced = bus.isConnected() && bus.interface()->isServiceRegistered(watcher);
-    if (bus.isConnected() && !announced && QGuiApplication::platformName() != QStringLiteral("xcb")) {
-        auto* watch = new QDBusServiceWatcher(watcher, bus, QDBusServiceWatcher::WatchForRegistration, this);
-        connect(watch, &QDBusServiceWatcher::serviceRegistered, this, &StatusItem::appear);
-        return;
+/// A tray that comes back finds the icon by itself: the toolkit announces it anew.
+void StatusItem::followTray() {
+    if (tray_->isThere() && icon_ == nullptr) {
+        icon_ = new QSystemTrayIcon(statusIcon(), this);
+        icon_->setToolTip(QStringLiteral("Zelk"));
+        icon_->setContextMenu(&shown_);
+        connect(&shown_, &QMenu::aboutToShow, this, &StatusItem::follow);
+        icon_->show();
     }
-#endif
-    appear();
-}
-
-void StatusItem::appear() {
-    if (tray_ != nullptr || !QSystemTrayIcon::isSystemTrayAvailable()) return;
-    tray_ = new QSystemTrayIcon(statusIcon(), this);
-    tray_->setToolTip(QStringLiteral("Zelk"));
-    tray_->setContextMenu(&shown_);
-    connect(&shown_, &QMenu::aboutToShow, this, &StatusItem::follow);
-    tray_->show();
+    emit presentChanged();
 }
 
 /// Entries keep their place while only their texts change, so that a menu that is open does not jump.
