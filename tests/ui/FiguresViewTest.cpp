@@ -64,7 +64,7 @@ TEST_F(FiguresWindow, aStatBlockIsItsNameOverItsValue) {
     EXPECT_EQ(colorOf("Files"), themes("inkSoft"));
     EXPECT_EQ(colorOf("1,234"), themes("ink"));
     one().setProperty("accent", true);
-    EXPECT_NE(colorOf("1,234"), themes("ink"));
+    EXPECT_EQ(colorOf("1,234"), themes("accent"));
 }
 
 TEST_F(FiguresWindow, anEyebrowIsUpperCasedAndSpaced) {

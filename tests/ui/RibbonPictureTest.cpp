@@ -93,8 +93,8 @@ TEST(StorageRibbon, hasASectionForEachSegmentAndLastTheFreeSpace) {
     const auto bars = ribbon({100, 200}, 100);
     ASSERT_EQ(bars.size(), 3U);
     expectInOrder(bars);
-    EXPECT_EQ(bars[0].rect.left(), 0);
-    EXPECT_EQ(bars[1].rect.left(), 100);
+    EXPECT_EQ(bars[0].rect, QRectF(0, 0, 100, 22));
+    EXPECT_EQ(bars[1].rect, QRectF(100, 0, 200, 22));
     EXPECT_EQ(bars[2].rect, QRectF(300, 0, 100, 22));
     EXPECT_EQ(bars[0].paint, Paint::solid(colors[0]));
     EXPECT_EQ(bars[1].paint, Paint::solid(colors[1]));

@@ -28,7 +28,6 @@ void drawRibbon(Canvas& canvas, QSizeF size, const QList<RibbonSegment>& segment
                 const QColor& freeColor) {
     constexpr double outerCorner = 6;
     constexpr double innerCorner = 1.5;
-    constexpr double gap = 1;  // taken from a section that has it to spare
     std::vector<std::int64_t> bytes;
     for (const RibbonSegment& segment : segments) bytes.push_back(segment.bytes);
     const std::vector<double> widths = ribbonWidths(bytes, freeBytes, size.width());
@@ -37,10 +36,9 @@ void drawRibbon(Canvas& canvas, QSizeF size, const QList<RibbonSegment>& segment
     for (std::size_t i = 0; i < widths.size(); ++i) {
         const double right = left + widths[i];
         const bool last = right > size.width() - 0.5;
-        const double drawn = last || widths[i] < 3 * gap ? widths[i] : widths[i] - gap;
         const QColor& color = i < bytes.size() ? segments.at(static_cast<qsizetype>(i)).color : freeColor;
-        if (drawn > 0)
-            canvas.bar({left, 0, drawn, size.height()}, left == 0 ? outerCorner : innerCorner,
+        if (widths[i] > 0)
+            canvas.bar({left, 0, widths[i], size.height()}, left == 0 ? outerCorner : innerCorner,
                        last ? outerCorner : innerCorner, Paint::solid(color));
         left = right;
     }

@@ -24,6 +24,6 @@ Column {
         text: block.value
         pixelSize: 18
         bold: true
-        color: block.accent ? Theme.accentText : Theme.ink
+        color: block.accent ? Theme.accent : Theme.ink
     }
 }
