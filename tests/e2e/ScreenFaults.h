@@ -9,14 +9,15 @@
 
 namespace zelk {
 
-/// Texts that are cut short though they are no long names, that stick out of the control that they stand on or out of
-/// what clips them, and texts that lie on each other. One line per fault.
+/// Texts that are cut short though no long name is in them, that stick out of the control that they stand on or out of
+/// what clips them, and texts that lie on each other or on a control that is not theirs. One line per fault.
 std::vector<std::string> layoutFaults(QQuickWindow& window);
 
-/// Controls that the keyboard can come to and that have no name, no role or no size. One line per fault.
+/// Controls that can be pressed or that the keyboard can come to and that have no name, no role or no size. One line
+/// per fault.
 std::vector<std::string> accessibilityFaults(QQuickWindow& window);
 
-/// The names of the controls that the keyboard can come to, in no order.
+/// The names of the controls that the Tab key comes to, in no order.
 std::vector<std::string> focusableNames(QQuickWindow& window);
 
 }  // namespace zelk

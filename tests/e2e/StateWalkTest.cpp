@@ -32,15 +32,18 @@ protected:
         EXPECT_THAT(accessibilityFaults(where), testing::IsEmpty()) << state;
     }
 
-    /// In the least and in an ample window, with small and large texts, in one theme or the other: does `look` in each.
+    /// In the least and in an ample window, with small and large texts, in either theme: does `look` in each.
     void inEverySize(const std::string& state, const std::function<void(const std::string&)>& look) {
         for (const QSize size : {QSize(960, 620), QSize(1600, 1000)}) {
             window().resize(size);
             runUntil([&] { return window().contentItem()->size() == QSizeF(size); });
             for (const double factor : {1.0, 1.5}) {
                 main().textScale().setFactor(factor);
-                model().setAppearance(factor > 1 ? AppModel::Appearance::light : AppModel::Appearance::dark);
-                look(state + ", " + std::to_string(size.width()) + " wide, texts by " + std::to_string(factor));
+                for (const auto theme : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
+                    model().setAppearance(theme);
+                    look(state + ", " + std::to_string(size.width()) + " wide, texts by " + std::to_string(factor) +
+                         (theme == AppModel::Appearance::dark ? ", dark" : ", light"));
+                }
             }
         }
         main().textScale().setFactor(1);
@@ -157,6 +160,32 @@ TEST_F(StateWalk, theTrashAtItsLargest) {
     survey();
     ASSERT_GE(model().trashBytes(), huge);
     inEverySize("a full Trash", [this](const std::string& where) { scrollThrough(where); });
+}
+
+TEST_F(StateWalk, theTrashThatMayNotBeRead) {
+    machine.trash.setAccessible(false);
+    shell();
+    survey();
+    runUntil([&] { return !model().trashAccessible(); });
+    ASSERT_TRUE(shows(QStringLiteral("Full Disk Access needed to read the Trash")));
+    inEverySize("the Trash without access", [this](const std::string& where) { scrollThrough(where); });
+}
+
+TEST_F(StateWalk, theFirstRun) {
+    fakes::FakePreferences preferences;
+    services.preferences = &preferences;
+    services.workspace = &machine.workspace;
+    services.accessGranted = [] { return false; };
+    shell();
+    for (const char* page : {"the first page", "the second page", "the third page", "the last page"}) {
+        window().grabWindow();
+        ASSERT_NE(find("primaryButton"), nullptr) << page;
+        inEverySize(page);
+        press(Qt::Key_Return);
+        runWhatIsThere();
+    }
+    runUntil([&] { return find("openSettingsButton") != nullptr; });
+    inEverySize("the panel that asks for access");
 }
 
 TEST_F(StateWalk, theFoldedSidebar) {
