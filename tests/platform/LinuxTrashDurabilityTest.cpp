@@ -3,9 +3,11 @@
 // whole, and nothing is said to be in the Trash that is not.
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 
+#include "fakes/Mounts.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TracedProgram.h"
 #include "fakes/TrashContent.h"
@@ -123,6 +125,63 @@ TEST_F(TrashDurability, aFirstItemsErrorOfAnyCallIsSaidToo) {
         fs::remove_all(home);
         const int status = trashItem({position.injection("error=EACCES")});
         EXPECT_TRUE(status == 0 ? isInTrash() && !isInPlace() : status == 1 && isInPlace() && !isInTrash()) << status;
+    }
+}
+
+TEST_F(TrashDurability, aKillAtAnyCallOfTheFirstItemLeavesItOrBringsItIntoTheTrash) {
+    prepare();
+    fs::remove_all(home);
+    ASSERT_EQ(trashItem({}), 0);
+    for (const CallPosition& position : positions()) {
+        SCOPED_TRACE("killed at " + position.line);
+        prepare();
+        fs::remove_all(home);
+        EXPECT_EQ(trashItem({position.injection("signal=KILL")}), -1);
+        EXPECT_TRUE(isInPlace() != isInTrash());
+        // A Trash that is half made is in nobody's way.
+        if (isInPlace()) {
+            EXPECT_EQ(trashItem({}), 0);
+        }
+        EXPECT_TRUE(isInTrash() && !isInPlace());
+    }
+}
+
+TEST_F(TrashDurability, anErrorOrAKillAtAnyCallOnAStickLeavesTheItemOrBringsItIntoItsTrash) {
+    fakes::Mounts mounts;
+    if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
+    const std::string stick = temp / "stick";
+    mounts.memory(stick);
+    const std::string onStick = stick + "/item.txt";
+    const std::string ownTrash = stick + "/.Trash-" + std::to_string(::geteuid());
+    const auto trashIt = [&](const fakes::Arguments& injections) {
+        return program.run({ZELK_TRASH_WRITER, "trash", home, onStick}, injections);
+    };
+    const auto isOnStick = [&] { return fileContent(onStick) == "content"; };
+    const auto isInItsTrash = [&] {
+        const auto found = restorable(ownTrash);
+        return found.contains("item.txt") && fileContent(found.at("item.txt")) == "content";
+    };
+    for (const bool first : {true, false}) {
+        const auto start = [&] {
+            fs::remove_all(ownTrash);
+            if (!first)
+                for (const char* folder : {"/files", "/info"}) zoo::makeFolder(ownTrash + folder);
+            if (!first) fs::permissions(ownTrash, fs::perms::owner_all);
+            writeFile(onStick, "content");
+        };
+        start();
+        ASSERT_EQ(trashIt({}), 0);
+        ASSERT_TRUE(isInItsTrash());
+        for (const CallPosition& position : positions()) {
+            SCOPED_TRACE((first ? "the first, at " : "at ") + position.line);
+            start();
+            EXPECT_EQ(trashIt({position.injection("signal=KILL")}), -1);
+            EXPECT_TRUE(isOnStick() != isInItsTrash());
+            start();
+            const int status = trashIt({position.injection("error=EIO")});
+            EXPECT_TRUE(status == 0 ? isInItsTrash() && !isOnStick() : status == 1 && isOnStick() && !isInItsTrash())
+                << status;
+        }
     }
 }
 

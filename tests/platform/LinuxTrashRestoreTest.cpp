@@ -123,6 +123,19 @@ TEST_F(RestoringTrash, gioBringsBackWhatItLists) {
     expectBack(names);
 }
 
+TEST_F(RestoringTrash, gioBringsBackAFolderAndALink) {
+    for (const char* name : {"/folder/a", "/folder/b/c"}) zoo::makeFile(items + name);
+    fs::create_symlink("/nowhere", items + "/link");
+    for (const char* name : {"/folder", "/link"})
+        ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + name).value()), std::nullopt);
+    EXPECT_FALSE(fs::exists(items + "/folder"));
+    EXPECT_EQ(shell("dbus-run-session -- sh -c 'gio trash --restore trash:///folder && "
+                    "gio trash --restore trash:///link'"),
+              0);
+    EXPECT_TRUE(fs::exists(items + "/folder/a") && fs::exists(items + "/folder/b/c"));
+    EXPECT_EQ(fs::read_symlink(items + "/link"), "/nowhere");
+}
+
 TEST_F(RestoringTrash, gioBringsBackTheSecondOfAName) {
     for (const char* content : {"first", "second"}) {
         writeFile(items + "/same.txt", content);
