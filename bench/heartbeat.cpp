@@ -54,7 +54,8 @@ std::vector<Reclaimable> makeItems(const std::filesystem::path& folder, int coun
     return items;
 }
 
-void cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclaimable> items) {
+/// Whether all went.
+bool cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclaimable> items) {
     MainThreadCalls calls;
     std::optional<std::vector<Cleaner::Result>> ended;
     heart.start();
@@ -66,6 +67,7 @@ void cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclai
         return std::holds_alternative<Cleaner::Failed>(result.status);
     });
     std::printf("{\"items\":%zu,\"failed\":%td,", ended->size(), failed);
+    return failed == 0;
 }
 
 }  // namespace
@@ -88,6 +90,7 @@ int main(int argc, char** argv) {
     tour::ScratchLocations locations(real.locations, folder);
     const Platform platform{real.clock, real.directories, real.files,     real.trash,    real.vitals,
                             locations,  real.tasks,       real.processes, real.workspace};
+    bool done = true;
     {
         AppModel app(platform);
         MainWindow window(app);
@@ -97,7 +100,7 @@ int main(int argc, char** argv) {
 
         bench::Heart heart;
         if (cleans) {
-            cleanInto(heart, platform, makeItems(std::filesystem::path(folder) / "work", std::atoi(argv[2])));
+            done = cleanInto(heart, platform, makeItems(std::filesystem::path(folder) / "work", std::atoi(argv[2])));
         } else {
             surveyInto(heart, app, std::filesystem::absolute(argv[1]).string());
         }
@@ -105,6 +108,7 @@ int main(int argc, char** argv) {
         std::printf("}\n");
     }
     std::fflush(stdout);
-    if (!native.drain(10)) std::_Exit(EXIT_SUCCESS);
-    return EXIT_SUCCESS;
+    const int status = done ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (!native.drain(10)) std::_Exit(status);
+    return status;
 }

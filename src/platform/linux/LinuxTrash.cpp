@@ -17,6 +17,7 @@
 #include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
+#include "platform/posix/RemovalTurn.h"
 
 namespace zelk {
 namespace {
@@ -76,6 +77,7 @@ std::optional<std::vector<std::string>> LinuxTrash::list() {
 }
 
 Failure LinuxTrash::trash(const ItemPath& item) {
+    const RemovalTurn turn;
     const Failure reason = move(item);
     if (!reason) return std::nullopt;
     return failureText(item.name(), "couldn’t be moved to the Trash", *reason);

@@ -85,10 +85,20 @@ std::string reasonOf(int error) {
     }
 }
 
+/// Absent, with the reason in errno, if it cannot be had.
 Descriptor lockedInfo(int info, int operation) {
     Descriptor folder(uninterrupted([&] { return ::openat(info, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
-    if (!folder || uninterrupted([&] { return ::flock(folder.get(), operation); }) != 0) return {};
-    return folder;
+    if (!folder) return {};
+    if (uninterrupted([&] { return ::flock(folder.get(), operation); }) == 0) return folder;
+    const int error = errno;
+    folder = Descriptor();
+    errno = error;
+    return {};
+}
+
+/// Whether an error says that a volume has no locks at all.
+bool knowsNoLocks(int error) {
+    return error == ENOTSUP || error == EOPNOTSUPP || error == ENOSYS || error == ENOLCK || error == EINVAL;
 }
 
 }  // namespace
@@ -96,6 +106,7 @@ Descriptor lockedInfo(int info, int operation) {
 Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next) {
     // Where a volume knows no locks there is nobody to wait for: see holdTrash().
     const Descriptor lock = lockedInfo(trash.info.get(), LOCK_SH);
+    if (!lock && !knowsNoLocks(errno)) return systemText(errno);
     const std::string text = trashInfoText(path, localTime());
     const std::size_t limit = longestName(trash.files.get());
     int error = EEXIST;

@@ -12,6 +12,7 @@
 #include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
+#include "platform/posix/RemovalTurn.h"
 #include "platform/posix/TryOpenFile.h"
 
 namespace zelk {
@@ -82,6 +83,7 @@ int MacFileManager::tryOpen(const std::string& path) {
 }
 
 Failure MacFileManager::remove(const ItemPath& item) {
+    const RemovalTurn turn;
     if (const int error = errorOnWay(item))
         return failureText(item.name(), "couldn’t be removed", reasonOfParent(item, error));
     @autoreleasepool {

@@ -9,6 +9,7 @@
 #include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
+#include "platform/posix/RemovalTurn.h"
 
 namespace zelk {
 
@@ -21,6 +22,7 @@ std::optional<std::vector<std::string>> MacTrash::list() {
 }
 
 Failure MacTrash::trash(const ItemPath& item) {
+    const RemovalTurn turn;
     if (const int error = errorOnWay(item))
         return failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error));
     @autoreleasepool {

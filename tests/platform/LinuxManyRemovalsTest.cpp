@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// Thousands of removals that begin at once, in a process that may have few descriptors: none fails for that.
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <atomic>
+#include <filesystem>
+#include <functional>
+#include <thread>
+#include <vector>
+
+#include "fakes/InChild.h"
+#include "fakes/TestFiles.h"
+#include "platform/linux/LinuxFileManager.h"
+#include "platform/linux/LinuxTrash.h"
+#include "zoo/TempFolder.h"
+#include "zoo/Zoo.h"
+
+namespace zelk {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class ManyRemovals : public testing::Test {
+protected:
+    static constexpr int many = 1'000;
+
+    ManyRemovals() {
+        for (int item = 0; item < many; ++item) zoo::makeFile(pathOf(item) + "/a/b/c/d/file");
+    }
+
+    std::string pathOf(int item) const { return temp / "items/" + std::to_string(item); }
+
+    /// How many of all items fail, each in a thread of its own.
+    static int failures(const std::function<Failure(int)>& take) {
+        std::atomic<int> failed = 0;
+        std::vector<std::thread> threads;
+        threads.reserve(many);
+        for (int item = 0; item < many; ++item) threads.emplace_back([&, item] { failed += take(item) ? 1 : 0; });
+        for (std::thread& thread : threads) thread.join();
+        return failed;
+    }
+
+    static bool withFewDescriptors(const std::function<bool()>& check) {
+        return fakes::inChild([&] {
+            const rlimit few{128, 128};
+            return setrlimit(RLIMIT_NOFILE, &few) == 0 && check();
+        });
+    }
+
+    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
+};
+
+}  // namespace
+
+TEST_F(ManyRemovals, allGoToTheTrash) {
+    const std::string home = temp / "home";
+    EXPECT_TRUE(withFewDescriptors([&] {
+        LinuxTrash trash(home);
+        return failures([&](int item) { return trash.trash(ItemPath::from(pathOf(item)).value()); }) == 0;
+    }));
+    EXPECT_TRUE(fs::is_empty(temp / "items"));
+    EXPECT_EQ(fakes::namesIn(home + "/.local/share/Trash/files").size(), many);
+}
+
+TEST_F(ManyRemovals, allGoForGood) {
+    EXPECT_TRUE(withFewDescriptors([&] {
+        LinuxFileManager files;
+        return failures([&](int item) { return files.remove(ItemPath::from(pathOf(item)).value()); }) == 0;
+    }));
+    EXPECT_TRUE(fs::is_empty(temp / "items"));
+}
+
+}  // namespace zelk
