@@ -119,6 +119,9 @@ public:
 public slots:
     /// Does nothing while a survey runs.
     void startScan();
+    /// After a cleaning: a new survey, which begins when the one that runs has finished, as that one came by before. A
+    /// cancel of it ends both.
+    void scanAnew();
     void cancelScan();
     /// Measures the Trash again. Measures and emptyings may overlap: the last to end is what the fields tell.
     void refreshTrash();

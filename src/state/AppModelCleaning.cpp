@@ -16,7 +16,7 @@ void AppModel::cleanSafeCaches() {
     std::vector<Reclaimable> items = safeItems();
     if (items.empty()) return;
     Cleaner::cleanAll(std::move(items), false, platform_,
-                      [this, sender = calls_.sender()](const auto&) { sender.post([this] { startScan(); }); });
+                      [this, sender = calls_.sender()](const auto&) { sender.post([this] { scanAnew(); }); });
 }
 
 namespace {

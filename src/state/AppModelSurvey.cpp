@@ -51,6 +51,13 @@ void AppModel::startScan() {
     ScanEngine(platform_.directories, platform_.clock).start(task->queue, scanRoots_);
 }
 
+void AppModel::scanAnew() {
+    if (ScanTask* walk = walkUnderWay())
+        walk->again = true;
+    else
+        startScan();
+}
+
 void AppModel::cancelScan() {
     if (const auto task = std::exchange(scanTask_, nullptr)) {
         releaseElsewhere(task->queue->terminate());
@@ -197,6 +204,7 @@ void AppModel::conclude(const std::shared_ptr<ScanTask>& task, std::vector<Surve
     settleTrash();
     if (scanTask_ != task) return;
     assign(scanPhase_, ScanPhase::finished, &AppModel::scanPhaseChanged);
+    if (task->again && scanTask_ == task) startScan();
 }
 
 }  // namespace zelk

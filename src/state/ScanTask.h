@@ -32,6 +32,7 @@ struct AppModel::ScanTask {
     bool counts = false;
     /// Shared with the task that keeps the record, which may be at it when the survey is withdrawn.
     std::shared_ptr<CancelFlag> cancelled = std::make_shared<CancelFlag>();
+    bool again = false;             ///< another one follows it
     bool treeIsRead = false;        ///< by the classifier, or for the record
     std::vector<NodeRef> removals;  ///< taken out of the tree as soon as no other thread reads it
     // What went to the Trash while it ran: the walk may have come by before. A folder is forgotten here when it has

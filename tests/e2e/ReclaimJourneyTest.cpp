@@ -183,6 +183,22 @@ TEST_F(Reclaiming, anOpenReviewStaysAsItIsThroughASurvey) {
     EXPECT_EQ(focusName(), QStringLiteral("reviewButton"));
 }
 
+TEST_F(Reclaiming, aCleanUpDuringASurveyIsFollowedByAnother) {
+    surveyByMouse();
+    click("reviewButton");
+    untilReviewed();
+    machine.directories.hold(home + "/wide/inner");
+    model().startScan();  // as the status item can
+    click("confirmCleanup");
+    untilDone();
+    click("keepInTrash");
+    untilClosed();
+    EXPECT_EQ(model().scanPhase(), AppModel::ScanPhase::scanning);
+    EXPECT_EQ(model().history().size(), 1U);
+    machine.directories.release();
+    untilSurveyed(3);
+}
+
 TEST_F(Reclaiming, theTrashIsEmptiedFromTheResult) {
     surveyByMouse();
     click("reviewButton");

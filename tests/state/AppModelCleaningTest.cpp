@@ -374,7 +374,7 @@ TEST_F(AppModelCleaningTest, theSurveyFollowsTheLastOfTheSafeCaches) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(AppModelCleaningTest, aSurveyThatRunsIsNotStartedAgain) {
+TEST_F(AppModelCleaningTest, aSurveyThatRunsEndsFirstAndAnotherOneFollows) {
     surveyHome();
     machine.tasks.hold();
     model().cleanSafeCaches();
@@ -385,8 +385,26 @@ TEST_F(AppModelCleaningTest, aSurveyThatRunsIsNotStartedAgain) {
     runWhatIsThere();
     EXPECT_EQ(machine.directories.timesRead(home), 2);
     machine.directories.release();
+    runUntil([&] { return machine.directories.timesRead(home) == 3 && model().scanPhase() == Phase::finished; });
+    runWhatIsThere();
+    EXPECT_EQ(machine.directories.timesRead(home), 3);
+    EXPECT_EQ(model().scanPhase(), Phase::finished) << "and no other";
+}
+
+TEST_F(AppModelCleaningTest, aCancelOfTheSurveyThatRunsEndsTheOneAfterItToo) {
+    surveyHome();
+    machine.directories.hold(home);
+    model().startScan();
+    machine.directories.waitUntilHeld(home);
+    model().scanAnew();
+    model().cancelScan();
+    machine.directories.release();
+    runWhatIsThere();
+    EXPECT_EQ(model().scanPhase(), Phase::idle);
+    model().startScan();
     runUntil([&] { return model().scanPhase() == Phase::finished; });
-    EXPECT_EQ(machine.directories.timesRead(home), 2);
+    runWhatIsThere();
+    EXPECT_EQ(machine.directories.timesRead(home), 3) << "the cancelled one is forgotten";
 }
 
 TEST_F(AppModelCleaningTest, theModelMayGoWhileSafeCachesAreCleaned) {

@@ -85,7 +85,7 @@ void ReclaimScreenModel::openOrClose() {
     if (cleanup_.showDryRun()) {
         dryRun_ = std::make_unique<DryRunModel>(
             cleanup_, cleanup_.selectedItems(app_.reclaimables()), app_.platform(),
-            DryRunModel::Actions{[this] { cleanup_.setShowDryRun(false); }, [this] { app_.startScan(); }});
+            DryRunModel::Actions{[this] { cleanup_.setShowDryRun(false); }, [this] { app_.scanAnew(); }});
         emit dryRunChanged();
     }
     emit reviewingChanged();
