@@ -44,7 +44,7 @@ Rectangle {
             size: 11
             font.weight: Font.Medium
             font.family: Typeface.fixed
-            color: card.tip.reclaimable ? Theme.accentText : Theme.ink
+            color: card.tip.reclaimable ? Theme.accent : Theme.ink
             mute: true
         }
     }
