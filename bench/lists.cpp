@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// How long the list of items keeps the main thread from the press to the frame that shows it, in the real window drawn
-// by the processor alone, where there are as many items as one home may hold. Prints milliseconds, the mean and the
-// worst.
+// How long the list of items and that of a folder's folders keep the main thread from the press to the frame that shows
+// it, in the real window drawn by the processor alone, where there are as many of them as one home may hold. Prints
+// milliseconds, the mean and the worst.
 //
 //     lists [--items N]
 //
@@ -23,6 +23,7 @@
 #include "Camera.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
+#include "ui/lens/LensScreenModel.h"
 #include "ui/reclaim/DryRunModel.h"
 #include "ui/reclaim/ReclaimScreenModel.h"
 #include "ui/shell/Application.h"
@@ -66,7 +67,7 @@ private:
     MainWindow& window_;
 };
 
-void run(AppModel& app, MainWindow& window) {
+void runItems(AppModel& app, MainWindow& window) {
     app.startScan();
     tour::waitUntil([&] { return app.scanPhase() == AppModel::ScanPhase::finished; });
     app.setAudience(AppModel::Audience::developer);
@@ -93,6 +94,29 @@ void run(AppModel& app, MainWindow& window) {
     bench.measure("the review left", 1, [&](int) { window.reclaim().dryRun()->close(); });
 }
 
+/// All items lie in folders of their own in one.
+void runFolders(MainWindow& window) {
+    tour::clickOn(window.window(), QStringLiteral("sidebarLens"));
+    tour::waitUntil([&] { return tour::findControl(window.window(), QStringLiteral("lensList")) != nullptr; });
+    QQuickItem* list = tour::findControl(window.window(), QStringLiteral("lensList"));
+    LensScreenModel& lens = *list->property("lens").value<LensScreenModel*>();
+    lens.back();
+    window.window().grabWindow();
+
+    Bench bench(window);
+    bench.measure("a folder entered", 1, [&](int) { lens.drill(0); });
+    std::printf("%d folders\n", lens.rows()->rowCount());
+    bench.measure("a page of it scrolled", 100,
+                  [&](int) { list->setProperty("contentY", list->property("contentY").toDouble() + list->height()); });
+    bench.measure("to its end", 1, [&](int) {
+        list->setProperty("contentY", list->property("contentHeight").toDouble() - list->height());
+    });
+    bench.measure("a folder's tick", 50, [&](int round) { lens.toggle(round * 37 % lens.rows()->rowCount()); });
+    bench.measure("all ticked", 1, [&](int) { lens.selectAll(); });
+    bench.measure("none ticked", 1, [&](int) { lens.selectNone(); });
+    bench.measure("the folder left", 1, [&](int) { lens.back(); });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -116,7 +140,8 @@ int main(int argc, char** argv) {
         window.motion().setReduced(true);
         window.show();
         tour::waitUntil([&] { return window.isUp(); });
-        run(app, window);
+        runItems(app, window);
+        runFolders(window);
     }
     std::fflush(stdout);
     if (!native.drain(10)) std::_Exit(EXIT_SUCCESS);

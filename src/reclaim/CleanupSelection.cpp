@@ -95,11 +95,9 @@ CleanupSelection::Counts CleanupSelection::counts(const CleanupGroup& group) con
     return counts;
 }
 
-std::vector<Reclaimable> CleanupSelection::chosen(const std::vector<Reclaimable>& shown) const {
-    std::vector<Reclaimable> items;
-    std::copy_if(shown.begin(), shown.end(), std::back_inserter(items),
-                 [this](const Reclaimable& item) { return takes(item); });
-    return items;
+std::vector<Reclaimable> CleanupSelection::chosen(std::vector<Reclaimable> shown) const {
+    std::erase_if(shown, [this](const Reclaimable& item) { return !takes(item); });
+    return shown;
 }
 
 }  // namespace zelk

@@ -281,7 +281,7 @@ TEST_F(Items, aCategoryThatIsAllInUseHasNothingToTick) {
     const int header = named("App caches (Electron)");
     EXPECT_FALSE(flag(header, ItemList::chosenRole));
     EXPECT_FALSE(flag(header, ItemList::freeRole));
-    const std::set<std::string> before = screen().cleanup().selection().selected();
+    const auto before = screen().cleanup().selection().selected();
     list().toggle(header);
     EXPECT_FALSE(flag(header, ItemList::chosenRole));
     EXPECT_EQ(screen().cleanup().selection().selected(), before);

@@ -11,14 +11,15 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 using Audience = AppModel::Audience;
 
 class ReclaimScreen : public ReclaimFixture {
 protected:
     const CleanupSelection& selection() { return screen().cleanup().selection(); }
     DryRunModel& sheet() { return *screen().dryRun(); }
-    std::set<std::string> inSheet() {
-        std::set<std::string> ids;
+    std::unordered_set<std::string> inSheet() {
+        std::unordered_set<std::string> ids;
         for (const Reclaimable& item : sheet().rows()->items()) ids.insert(item.id);
         return ids;
     }
@@ -135,7 +136,7 @@ TEST_F(ReclaimScreen, theItemViewSeedsWhenItComesOnScreen) {
     EXPECT_THAT(selection().selected(), IsEmpty());
     EXPECT_EQ(machine.workspace.runningReads, 0);
     screen().setOnScreen(true);
-    EXPECT_THAT(selection().selected(), ElementsAre(npm, cursorCache, slackCache, yarn, appModules, webModules));
+    EXPECT_THAT(selection().selected(), UnorderedElementsAre(npm, cursorCache, slackCache, yarn, appModules, webModules));
     EXPECT_EQ(selection().seededFor(), 7U);
 }
 
@@ -189,7 +190,7 @@ TEST_F(ReclaimScreen, aSurveyElsewhereWithAsManyItemsKeepsTheChoiceAndTheConflic
     survey();
     screen().setOnScreen(true);
     EXPECT_FALSE(selection().selected().contains(yarn));
-    EXPECT_EQ(selection().runningConflicts(), (std::map<std::string, std::string>{{cursorCache, "Cursor"}}));
+    EXPECT_THAT(selection().runningConflicts(), ElementsAre(testing::Pair(cursorCache, "Cursor")));
     EXPECT_EQ(machine.workspace.runningReads, 1);
 }
 
@@ -239,7 +240,7 @@ TEST_F(ReclaimScreen, reviewAndCleanTakesExactlyTheChosenCategories) {
     surveyFor(Audience::normal);
     screen().categories()->review();
     EXPECT_TRUE(screen().reviewing());
-    EXPECT_THAT(inSheet(), ElementsAre(npm, cursorCache, slackCache, yarn));
+    EXPECT_THAT(inSheet(), UnorderedElementsAre(npm, cursorCache, slackCache, yarn));
     EXPECT_EQ(selection().selected(), inSheet());
     EXPECT_EQ(sheet().line().toStdString(), "3 to Trash · 1 via command · 87 MB to recover");
 }
@@ -284,7 +285,7 @@ TEST_F(ReclaimScreen, theReviewOfCategoriesLeavesOutWhatASeedFoundInUse) {
     survey();  // is watched
     machine.workspace.running = {};
     screen().categories()->review();
-    EXPECT_THAT(inSheet(), ElementsAre(npm, slackCache, yarn));
+    EXPECT_THAT(inSheet(), UnorderedElementsAre(npm, slackCache, yarn));
     EXPECT_TRUE(selection().selected().contains(cursorCache));
 }
 
@@ -307,7 +308,7 @@ TEST_F(ReclaimScreen, theReviewKeepsItsItemsWhateverASurveyFindsMeanwhile) {
     fillJunk();
     surveyFor(Audience::normal);
     screen().categories()->review();
-    const std::set<std::string> before = inSheet();
+    const auto before = inSheet();
     survey();
     loseItem(yarn);
     EXPECT_TRUE(screen().reviewing());
