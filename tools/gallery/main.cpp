@@ -4,68 +4,28 @@
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickView>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
-#include "GalleryModel.h"
 #include "ui/shell/Application.h"
-#include "ui/theme/Motion.h"
-#include "ui/theme/TextScale.h"
-#include "ui/theme/Theme.h"
-
-void qml_register_types_Zelk_Gallery();
+#include "wall/Wall.h"
 
 namespace {
 
-template <class T>
-T& singleton(QQmlEngine& engine, const char* name) {
-    return *engine.singletonInstance<T*>(qmlTypeId("Zelk.Theme", 1, 0, name));
-}
-
-std::unique_ptr<QQuickView> wall(const zelk::ZelkTheme& theme, double textScale, bool still) {
-    auto view = std::make_unique<QQuickView>();
-    view->engine()->addImportPath(QStringLiteral("qrc:/"));
-    singleton<zelk::Theme>(*view->engine(), "Theme").show(theme);
-    singleton<zelk::TextScale>(*view->engine(), "TextScale").setFactor(textScale);
-    singleton<zelk::Motion>(*view->engine(), "Motion").setReduced(still);
-    view->setTitle(QStringLiteral("Zelk gallery"));
-    view->setSource(QUrl(QStringLiteral("qrc:/Zelk/Gallery/Gallery.qml")));
-    if (view->rootObject() == nullptr) std::exit(EXIT_FAILURE);
-    view->show();
-    return view;
-}
-
-/// The pointer on a bubble of one map, and the keyboard at the other.
-void pointAtBubbles(QQuickView& view) {
-    const auto* map = view.rootObject()->findChild<QQuickItem*>(QStringLiteral("bubbles"));
-    const QPointF point = map->mapToScene({map->width() * 0.46, map->height() * 0.5});
-    QMouseEvent move(QEvent::MouseMove, point, view.mapToGlobal(point), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&view, &move);
-    view.rootObject()->findChild<QQuickItem*>(QStringLiteral("plainBubbles"))->forceActiveFocus(Qt::TabFocusReason);
-}
-
-bool photograph(const std::vector<QQuickWindow*>& walls, const QString& file) {
-    std::vector<QImage> pictures;
-    QSize size;
-    for (QQuickWindow* window : walls) {
-        pictures.push_back(window->grabWindow());
-        size = QSize(size.width() + pictures.back().width(), std::max(size.height(), pictures.back().height()));
-    }
-    QImage all(size, QImage::Format_RGB32);
-    QPainter painter(&all);
-    int left = 0;
-    for (const QImage& picture : pictures) {
-        painter.drawImage(left, 0, picture);
-        left += picture.width();
-    }
+bool photograph(zelk::GalleryWall& left, zelk::GalleryWall& right, const QString& file) {
+    const QImage first = left.photograph();
+    const QImage second = right.photograph();
+    if (first.isNull() || second.isNull()) return false;
+    QImage both(first.width() + second.width(), std::max(first.height(), second.height()), QImage::Format_RGB32);
+    QPainter painter(&both);
+    painter.drawImage(0, 0, first);
+    painter.drawImage(first.width(), 0, second);
     painter.end();
-    return all.save(file, "PNG");
+    if (both.save(file, "PNG")) return true;
+    std::fprintf(stderr, "gallery: cannot write %s\n", qPrintable(file));
+    return false;
 }
 
 }  // namespace
@@ -78,8 +38,6 @@ int main(int argc, char** argv) {
     }
     QGuiApplication application(argc, argv);
     zelk::dressApplication();
-    zelk::registerInterface();
-    qml_register_types_Zelk_Gallery();
 
     QCommandLineParser options;
     options.setApplicationDescription(QStringLiteral("Shows every component of the interface in both themes."));
@@ -91,17 +49,10 @@ int main(int argc, char** argv) {
     const QString file = options.value(QStringLiteral("out"));
     const double textScale = options.value(QStringLiteral("text-scale")).toDouble();
 
-    const auto dark = wall(zelk::ZelkTheme::dark(), textScale, !file.isEmpty());
-    const auto light = wall(zelk::ZelkTheme::light(), textScale, !file.isEmpty());
-    if (file.isEmpty()) return QGuiApplication::exec();
-    for (QQuickView* view : {dark.get(), light.get()}) {
-        // The first frame lays out what the height depends on.
-        view->grabWindow();
-        view->resize(view->width(), static_cast<int>(view->rootObject()->implicitHeight()));
-    }
-    QCoreApplication::processEvents();
-    for (QQuickView* view : {dark.get(), light.get()}) pointAtBubbles(*view);
-    if (photograph({dark.get(), light.get()}, file)) return EXIT_SUCCESS;
-    std::fprintf(stderr, "gallery: cannot write %s\n", qPrintable(file));
-    return EXIT_FAILURE;
+    zelk::GalleryWall dark(zelk::ZelkTheme::dark(), textScale);
+    zelk::GalleryWall light(zelk::ZelkTheme::light(), textScale);
+    if (!file.isEmpty()) return photograph(dark, light, file) ? EXIT_SUCCESS : EXIT_FAILURE;
+    dark.show();
+    light.show();
+    return QGuiApplication::exec();
 }

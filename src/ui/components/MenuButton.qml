@@ -20,6 +20,7 @@ BaseButton {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     horizontalPadding: 8
     verticalPadding: 4
+    opacity: button.enabled ? 1 : 0.45
 
     Accessible.name: Spoken.joined([button.said, button.text])
     Accessible.role: Accessible.ButtonMenu

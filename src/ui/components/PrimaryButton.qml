@@ -32,8 +32,12 @@ BaseButton {
         }
     }
 
-    background: AccentFill {
-        corner: primary.corner
+    background: Item {
+        AccentFill {
+            anchors.fill: parent
+            corner: primary.corner
+            visible: !primary.alarming
+        }
 
         Rectangle {
             anchors.fill: parent

@@ -15,7 +15,8 @@ T.Switch {
     property real size: 12
     property bool soft: false
 
-    implicitWidth: indicator.implicitWidth + (toggle.labelled ? implicitContentWidth + spacing : 0) + leftPadding + rightPadding
+    // The word keeps the room of the indicator free at its right.
+    implicitWidth: (toggle.labelled ? implicitContentWidth : indicator.implicitWidth) + leftPadding + rightPadding
     implicitHeight: Math.max(indicator.implicitHeight, toggle.labelled ? implicitContentHeight : 0) + topPadding + bottomPadding
     spacing: 12
     verticalPadding: 4

@@ -9,6 +9,7 @@
 #include "ui/components/DeviceFace.h"
 #include "ui/components/RibbonPicture.h"
 #include "ui/components/ScanFace.h"
+#include "ui/navigation/ModuleScreenModel.h"
 
 namespace zelk {
 
@@ -16,15 +17,21 @@ namespace zelk {
 class GalleryModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
+    Q_PROPERTY(QString longText READ longText CONSTANT FINAL)
     Q_PROPERTY(zelk::DeviceFace device READ device CONSTANT FINAL)
+    Q_PROPERTY(zelk::DeviceFace longDevice READ longDevice CONSTANT FINAL)
+    Q_PROPERTY(zelk::DeviceFace bareDevice READ bareDevice CONSTANT FINAL)
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments CONSTANT FINAL)
     Q_PROPERTY(double freeBytes READ freeBytes CONSTANT FINAL)
     Q_PROPERTY(QList<qreal> history READ history CONSTANT FINAL)
     Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
     Q_PROPERTY(zelk::BubbleModel* plainBubbles READ plainBubbles CONSTANT FINAL)
+    Q_PROPERTY(zelk::BubbleModel* noBubbles READ noBubbles CONSTANT FINAL)
     Q_PROPERTY(zelk::ScanFace idleFace READ idleFace CONSTANT FINAL)
     Q_PROPERTY(zelk::ScanFace scanningFace READ scanningFace CONSTANT FINAL)
     Q_PROPERTY(zelk::ScanFace finishedFace READ finishedFace CONSTANT FINAL)
+    Q_PROPERTY(zelk::ModuleScreenModel* module READ module CONSTANT FINAL)
+    Q_PROPERTY(zelk::ModuleScreenModel* silentModule READ silentModule CONSTANT FINAL)
 
 public:
     explicit GalleryModel(QObject* parent = nullptr);
@@ -32,7 +39,16 @@ public:
     BubbleModel* bubbles() { return &bubbles_; }
     /// Without icons.
     BubbleModel* plainBubbles() { return &plainBubbles_; }
+    BubbleModel* noBubbles() { return &noBubbles_; }
+    /// A name as long as some are.
+    QString longText() const;
     DeviceFace device() const;
+    DeviceFace longDevice() const;
+    /// Without what is known of its drive.
+    DeviceFace bareDevice() const;
+    ModuleScreenModel* module() { return &module_; }
+    /// With a note in the place of the button.
+    ModuleScreenModel* silentModule() { return &silentModule_; }
     QList<RibbonSegment> segments() const;
     qint64 freeBytes() const { return 212'400'000'000; }
     QList<qreal> history() const { return {3, 5, 4, 7, 7.5, 10, 9, 12, 15, 14.5, 17, 19, 18.5, 22}; }
@@ -45,6 +61,9 @@ private:
 
     BubbleModel bubbles_;
     BubbleModel plainBubbles_;
+    BubbleModel noBubbles_{{}};
+    ModuleScreenModel module_;
+    ModuleScreenModel silentModule_;
 };
 
 }  // namespace zelk

@@ -53,12 +53,30 @@ std::vector<BubbleSlice> kinds() {
     };
 }
 
+ModuleTexts textsOf(const QString& scanLabel, const QString& note) {
+    ModuleTexts texts;
+    texts.subtitle = QStringLiteral("What this module is for, in as many words as it takes two lines to write.");
+    texts.scanLabel = scanLabel;
+    texts.note = note;
+    return texts;
+}
+
+const DeviceInfo machine{.computerName = "Studio Mac",
+                         .chip = "Zephyr 3 Pro",
+                         .cores = 12,
+                         .memoryBytes = std::uint64_t{36} << 30,
+                         .osVersion = "Version 15.4",
+                         .modelIdentifier = ""};
+const VolumeInfo volume{994'660'000'000, 212'400'000'000, 230'000'000'000};
+
 }  // namespace
 
 GalleryModel::GalleryModel(QObject* parent)
     : QObject(parent),
       bubbles_({[this](const BubbleSlice& slice) { toggle(bubbles_, slice.id); }, {}, {}}),
-      plainBubbles_({[this](const BubbleSlice& slice) { toggle(plainBubbles_, slice.id); }, {}, {}}) {
+      plainBubbles_({[this](const BubbleSlice& slice) { toggle(plainBubbles_, slice.id); }, {}, {}}),
+      module_(Screen::reclaim, textsOf(QStringLiteral("Look for junk"), {})),
+      silentModule_(Screen::clutter, textsOf({}, QStringLiteral("There is nothing to look at yet."))) {
     bubbles_.setSlices(folders());
     plainBubbles_.setSlices(kinds());
 }
@@ -71,13 +89,22 @@ void GalleryModel::toggle(BubbleModel& model, const std::string& id) {
 }
 
 DeviceFace GalleryModel::device() const {
-    const DeviceInfo device{.computerName = "Studio Mac",
-                            .chip = "Zephyr 3 Pro",
-                            .cores = 12,
-                            .memoryBytes = std::uint64_t{36} << 30,
-                            .osVersion = "Version 15.4",
-                            .modelIdentifier = ""};
-    return DeviceFace::of(device, VolumeInfo{994'660'000'000, 212'400'000'000, 230'000'000'000});
+    return DeviceFace::of(machine, volume);
+}
+
+DeviceFace GalleryModel::longDevice() const {
+    DeviceInfo longer = machine;
+    longer.computerName = std::string(200, 'M');
+    longer.chip = longText().toStdString();
+    return DeviceFace::of(longer, volume);
+}
+
+DeviceFace GalleryModel::bareDevice() const {
+    return DeviceFace::of(machine, std::nullopt);
+}
+
+QString GalleryModel::longText() const {
+    return QStringLiteral("A name that goes on and on, further than there is room for it anywhere on the wall");
 }
 
 QList<RibbonSegment> GalleryModel::segments() const {

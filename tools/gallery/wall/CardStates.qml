@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+
+Section {
+    id: cards
+
+    required property string longText
+
+    title: "Cards"
+
+    StateRow {
+        name: "ModuleCard"
+        filling: true
+
+        ModuleCard {
+            symbol: "sparkles"
+            title: "Reclaim"
+            value: "41.86 GB"
+            detail: "318 items"
+            tint: "#32c77b"
+        }
+    }
+    StateRow {
+        name: "ModuleCard, long text, nothing"
+        filling: true
+        all: ["normal", "focused"]
+
+        ModuleCard {
+            symbol: "arrow.down.circle"
+            title: cards.longText
+            value: "0 bytes"
+            detail: cards.longText
+            tint: "#56c2f5"
+        }
+    }
+    Card {
+        width: parent.width
+
+        Words {
+            text: "Card"
+        }
+    }
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Gallery
+import Zelk.Navigation
+import Zelk.Theme
+
+Section {
+    id: section
+
+    required property GalleryModel figures
+
+    title: "Navigation"
+
+    component Place: SidebarRow {
+        heading: ""
+        title: "Clutter"
+        symbol: "tray.full"
+        tint: "#22c3c9"
+        selected: false
+        name: ""
+    }
+
+    StateRow {
+        name: "SidebarRow"
+        filling: true
+        all: ["normal", "hovered", "pressed", "focused"]
+
+        Place {}
+    }
+    StateRow {
+        name: "SidebarRow, selected"
+        filling: true
+        all: ["normal", "hovered", "pressed", "focused"]
+
+        Place {
+            selected: true
+        }
+    }
+    StateRow {
+        name: "SidebarRow, first of a group, long text"
+        filling: true
+        all: ["normal", "focused"]
+
+        Place {
+            heading: "Clean"
+            title: section.figures.longText
+        }
+    }
+    StateRow {
+        name: "SidebarRow, folded up"
+        all: ["normal", "hovered", "focused"]
+
+        Place {
+            width: 44
+            collapsed: true
+        }
+    }
+
+    SampleHeader {
+        width: parent.width
+    }
+    ModuleHeader {
+        width: parent.width
+        symbol: "tray.full"
+        tint: "#22c3c9"
+        title: section.figures.longText
+        subtitle: ""
+    }
+
+    Row {
+        width: parent.width
+        height: 400
+
+        ModuleHero {
+            width: parent.width / 2
+            height: parent.height
+            module: section.figures.module
+        }
+        ModuleHero {
+            width: parent.width / 2
+            height: parent.height
+            module: section.figures.silentModule
+        }
+    }
+
+    Row {
+        spacing: 24
+
+        Repeater {
+            model: [false, true]
+
+            ModuleOrb {
+                required property bool modelData
+
+                symbol: "sparkles"
+                tint: Theme.accent
+                pulsing: modelData
+            }
+        }
+    }
+}

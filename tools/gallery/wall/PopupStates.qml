@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+
+Section {
+    id: section
+
+    required property string longText
+
+    title: "What opens"
+
+    Row {
+        spacing: 24
+
+        Stage {
+            id: menuStage
+
+            width: 340
+            height: 320
+            popup: menu
+
+            SecondaryButton {
+                text: "Show a menu"
+                onClicked: menu.open()
+            }
+
+            MenuPanel {
+                id: menu
+
+                parent: menuStage
+                y: 44
+
+                MenuRow {
+                    text: "Show in Folder"
+                    symbol: "folder"
+                }
+                MenuRow {
+                    text: "Under the pointer"
+                    symbol: "folder"
+                    highlighted: true
+                }
+                MenuRow {
+                    text: "Pressed"
+                    symbol: "folder"
+                    down: true
+                }
+                MenuRow {
+                    text: "Disabled"
+                    symbol: "folder"
+                    enabled: false
+                }
+                MenuRow {
+                    text: "Move to Trash"
+                    symbol: "trash"
+                    alarming: true
+                }
+                MenuRow {
+                    text: "Ticked"
+                    checkable: true
+                    checked: true
+                }
+                MenuRow {
+                    text: "Not ticked"
+                    checkable: true
+                }
+                MenuRow {
+                    text: "Without a symbol"
+                }
+            }
+        }
+
+        Stage {
+            width: 300
+            height: 96
+            popup: shortTip
+
+            IconButton {
+                id: told
+
+                x: 110
+                text: "Reload"
+                symbol: "arrow.clockwise"
+            }
+            HelpBubble {
+                id: shortTip
+
+                visible: false
+                delay: 0
+                control: told
+                text: "Look again"
+            }
+        }
+
+        Stage {
+            width: 320
+            height: 160
+            popup: longTip
+
+            IconButton {
+                id: toldMore
+
+                x: 140
+                text: "Reload"
+                symbol: "arrow.clockwise"
+                help: section.longText
+            }
+            HelpBubble {
+                id: longTip
+
+                visible: false
+                delay: 0
+                control: toldMore
+                text: section.longText
+            }
+        }
+    }
+
+    SecondaryButton {
+        text: "Show a sheet"
+        onClicked: sheet.open()
+    }
+
+    Stage {
+        id: sheetStage
+
+        width: parent.width
+        height: 280
+        popup: sheet
+
+        Sheet {
+            id: sheet
+
+            parent: sheetStage
+            title: "Clean safe caches?"
+            primary: confirm
+            onDismissed: sheet.close()
+
+            Column {
+                spacing: 16
+
+                Words {
+                    width: parent.width
+                    text: sheet.title
+                    size: 17
+                    font.weight: Font.DemiBold
+                }
+                Words {
+                    width: parent.width
+                    text: "Caches come back when a program needs them. Nothing that you made is taken away."
+                    soft: true
+                    wrapMode: Text.Wrap
+                }
+                Row {
+                    anchors.right: parent.right
+                    spacing: 12
+
+                    PlainButton {
+                        text: "Cancel"
+                        onClicked: sheet.close()
+                    }
+                    PrimaryButton {
+                        id: confirm
+
+                        text: "Clean"
+                        horizontalPadding: 18
+                        verticalPadding: 9
+                        onClicked: sheet.close()
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Gallery
+
+Section {
+    id: section
+
+    required property GalleryModel figures
+
+    title: "ScanButton: idle, hovered, pressed, focused, scanning, finished"
+
+    component Face: ScanButton {
+        text: "Scan"
+        idleFace: section.figures.idleFace
+        scanningFace: section.figures.scanningFace
+        finishedFace: section.figures.finishedFace
+        idle: !scanning && !finished
+        scanning: false
+        finished: false
+    }
+
+    FlowRow {
+        width: parent.width
+
+        Face {}
+        Face {
+            objectName: "hovered"
+        }
+        Face {
+            objectName: "pressed"
+        }
+        Face {
+            objectName: "focused"
+        }
+        Face {
+            scanning: true
+        }
+        Face {
+            finished: true
+        }
+    }
+}

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// A part of the wall: its heading, and its components one below the other.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+
+Card {
+    id: section
+
+    required property string title
+    default property alias shown: column.data
+
+    Column {
+        width: parent.width
+        spacing: 20
+
+        Eyebrow {
+            text: section.title
+        }
+        Column {
+            id: column
+
+            width: parent.width
+            spacing: 20
+        }
+    }
+}
