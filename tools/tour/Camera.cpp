@@ -2,7 +2,6 @@
 #include "Camera.h"
 
 #include <QCoreApplication>
-#include <QImage>
 #include <QTest>
 #include <QTimer>
 
@@ -40,6 +39,11 @@ QQuickItem* findControl(QQuickWindow& window, const QString& name) {
     return findBelow(*window.contentItem(), name);
 }
 
+bool appears(QQuickWindow& window, const char* name) {
+    window.grabWindow();
+    return findControl(window, QString::fromLatin1(name)) != nullptr;
+}
+
 void clickAt(QQuickWindow& window, QPointF point) {
     QTest::mouseMove(&window, point.toPoint());
     QTest::mouseClick(&window, Qt::LeftButton, {}, point.toPoint());
@@ -60,8 +64,7 @@ void pressKey(QQuickWindow& window, Qt::Key key) {
     QTest::keyClick(&window, key);
 }
 
-bool photograph(QQuickWindow& window, const QString& file) {
-    const QImage picture = window.grabWindow();
+bool save(const QImage& picture, const QString& file) {
     return !isBlank(picture) && picture.save(file, "PNG");
 }
 

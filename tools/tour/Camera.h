@@ -2,6 +2,7 @@
 // Hands and eyes for the real window: presses as the system would send them, and pictures of what is shown.
 #pragma once
 
+#include <QImage>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QString>
@@ -15,6 +16,9 @@ void waitUntil(const std::function<bool()>& done);
 /// The visible item with this object name, anywhere in the window; nullptr if there is none.
 QQuickItem* findControl(QQuickWindow& window, const QString& name);
 
+/// Whether there is one in the next frame, which lays out what a model brings.
+bool appears(QQuickWindow& window, const char* name);
+
 /// A press with the mouse at a point of the window.
 void clickAt(QQuickWindow& window, QPointF point);
 
@@ -26,7 +30,7 @@ void restPointer(QQuickWindow& window);
 
 void pressKey(QQuickWindow& window, Qt::Key key);
 
-/// Writes what the window shows as a PNG. False if it cannot be written or if all of it has one colour.
-bool photograph(QQuickWindow& window, const QString& file);
+/// Writes a PNG. False if it cannot be written or if all of it has one colour.
+bool save(const QImage& picture, const QString& file);
 
 }  // namespace zelk::tour

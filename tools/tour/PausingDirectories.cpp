@@ -5,6 +5,13 @@
 
 namespace zelk::tour {
 
+namespace {
+
+constexpr std::uint32_t fileObjectType = 1;
+constexpr DirEntry emptyFile{"empty", fileObjectType, 0, 1, 0, 0, 0};
+
+}  // namespace
+
 class PausingDirectories::Reader : public DirectoryReader {
 public:
     Reader(PausingDirectories& gate, std::unique_ptr<DirectoryReader> real) : gate_(gate), real_(std::move(real)) {}
@@ -17,12 +24,18 @@ public:
 
 private:
     const Entries* through(const Entries* entries) {
+        if (const std::size_t more = gate_.crowd_; entries != nullptr && more > 0) {
+            crowded_ = *entries;
+            crowded_.resize(entries->size() + more, emptyFile);
+            entries = &crowded_;
+        }
         gate_.pass(entries == nullptr ? 0 : static_cast<std::int64_t>(entries->size()));
         return entries;
     }
 
     PausingDirectories& gate_;
     std::unique_ptr<DirectoryReader> real_;
+    Entries crowded_;
 };
 
 void PausingDirectories::pauseAfter(std::int64_t entries) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <atomic>
 #include <condition_variable>
 #include <cstdint>
 #include <mutex>
@@ -18,6 +19,8 @@ public:
     /// From now on the readers stop when `entries` more have been delivered; those that stand at the gate go on.
     void pauseAfter(std::int64_t entries);
     void resume();
+    /// From now on each folder has `files` empty ones more: a small home becomes one whose survey takes its time.
+    void crowd(std::size_t files) { crowd_ = files; }
     /// Whether a reader stands at the gate.
     bool paused();
 
@@ -30,6 +33,7 @@ private:
     void pass(std::int64_t entries);
 
     DirectoryService& real_;
+    std::atomic<std::size_t> crowd_ = 0;
     std::mutex mutex_;
     std::condition_variable resumed_;
     bool armed_ = false;

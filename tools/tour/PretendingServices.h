@@ -10,9 +10,14 @@
 
 #include "platform/ChildProcess.h"
 #include "platform/FileManager.h"
+#include "platform/Time.h"
 #include "platform/Trash.h"
+#include "platform/Workspace.h"
 
 namespace zelk::tour {
+
+/// What the Trash is said to hold.
+enum class TrashContents { real, none, locked };
 
 /// How the pretended deeds go: they wait for as long as somebody wants a picture of them under way, and fail where one
 /// of a failure is wanted. From any thread.
@@ -21,6 +26,9 @@ public:
     void hold() { set(held_, true); }
     void release() { set(held_, false); }
     void fail(bool failing) { set(failing_, failing); }
+    void setTrash(TrashContents contents) { set(trash_, contents); }
+    /// The clock goes back by so many days.
+    void goBack(double days) { set(daysBack_, days); }
 
     /// Whether the deed went well.
     bool pass() {
@@ -29,8 +37,17 @@ public:
         return !failing_;
     }
 
+    TrashContents trash() { return get(trash_); }
+    double daysBack() { return get(daysBack_); }
+
 private:
-    void set(bool& what, bool value) {
+    template <class T>
+    T get(const T& what) {
+        const std::lock_guard lock(mutex_);
+        return what;
+    }
+    template <class T>
+    void set(T& what, T value) {
         const std::lock_guard lock(mutex_);
         what = value;
         changed_.notify_all();
@@ -40,6 +57,8 @@ private:
     std::condition_variable changed_;
     bool held_ = false;
     bool failing_ = false;
+    TrashContents trash_ = TrashContents::real;
+    double daysBack_ = 0;
 };
 
 class PretendingTrash : public Trash {
@@ -47,7 +66,18 @@ public:
     PretendingTrash(Trash& real, Pretence& pretence) : real_(real), pretence_(pretence) {}
 
     std::string location() override { return real_.location(); }
-    std::optional<std::vector<std::string>> list() override { return real_.list(); }
+    std::optional<std::vector<std::string>> list() override {
+        pretence_.pass();
+        switch (pretence_.trash()) {
+            case TrashContents::none:
+                return std::vector<std::string>();
+            case TrashContents::locked:
+                return std::nullopt;
+            case TrashContents::real:
+                break;
+        }
+        return real_.list();
+    }
     Failure trash(const ItemPath&) override {
         return pretence_.pass() ? std::nullopt : Failure("It is only a picture.");
     }
@@ -79,6 +109,34 @@ public:
 
 private:
     FileManager& real_;
+};
+
+class PretendingClock : public Clock {
+public:
+    PretendingClock(Clock& real, Pretence& pretence) : real_(real), pretence_(pretence) {}
+
+    TimePoint now() override { return real_.now() - pretence_.daysBack() * secondsPerDay; }
+    double monotonic() override { return real_.monotonic(); }
+
+private:
+    Clock& real_;
+    Pretence& pretence_;
+};
+
+/// An application runs whose caches the sample homes have. Nothing is opened from here.
+class PretendingWorkspace : public Workspace {
+public:
+    explicit PretendingWorkspace(Workspace& real) : real_(real) {}
+
+    std::vector<std::string> runningApplications() override { return {"Code"}; }
+    void reveal(const std::vector<std::string>&) override {}
+    void openURL(const std::string&) override {}
+    std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override {
+        return real_.icon(path, isDirectory, side);
+    }
+
+private:
+    Workspace& real_;
 };
 
 class PretendingProcesses : public ChildProcess {

@@ -1,25 +1,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <string>
-#include <utility>
 
 #include "platform/Locations.h"
 
 namespace zelk::tour {
 
-/// The user's real home, and a folder of our own to write to: a program that only looks leaves no survey in the user's
-/// history.
+/// The user's real home, and a folder of our own to write to, which is thrown away: a program that only looks leaves no
+/// survey in the user's history. With `withRecords` what the history holds is in it at the start.
 class ScratchLocations : public Locations {
 public:
-    ScratchLocations(Locations& real, std::string support) : real_(real), support_(std::move(support)) {}
+    ScratchLocations(Locations& real, bool withRecords) : real_(real) {
+        const std::optional<std::string> records = real.applicationSupport();
+        if (!withRecords || !records || !QDir(support_.path()).mkdir(QStringLiteral("Zelk"))) return;
+        const QString file = QStringLiteral("/Zelk/history.json");
+        QFile::copy(QString::fromStdString(*records) + file, support_.path() + file);
+    }
 
     std::string home() override { return real_.home(); }
-    std::optional<std::string> applicationSupport() override { return support_; }
+    std::optional<std::string> applicationSupport() override { return support_.path().toStdString(); }
 
 private:
     Locations& real_;
-    std::string support_;
+    QTemporaryDir support_;
 };
 
 }  // namespace zelk::tour

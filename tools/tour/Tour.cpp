@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <cstdio>
+#include <functional>
 #include <map>
 
 #include "Camera.h"
@@ -11,10 +12,10 @@
 #include "platform/Workspace.h"
 #include "ui/components/ScreenLook.h"
 #include "ui/navigation/SidebarModel.h"
-#include "ui/reclaim/ReclaimScreenModel.h"
 #include "ui/survey/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/TextScale.h"
+#include "wall/Wall.h"
 
 namespace zelk::tour {
 
@@ -22,12 +23,11 @@ namespace {
 
 // Behind the second report of a survey's progress, so that the picture has figures.
 constexpr std::int64_t midScanEntries = 60'000;
+// A sample home has some hundred folders.
+constexpr std::size_t crowdOfSample = 200;
+constexpr int topicsFurther = 4;
 constexpr double largeText = 1.5;
 constexpr QSize leastSize(960, 620);
-
-// The entries of the menu of the categories.
-constexpr int allOfThem = 0;
-constexpr int noneOfThem = 2;
 
 const QString scanButton = QStringLiteral("scanButton");
 
@@ -49,36 +49,33 @@ public:
     void openURL(const std::string&) override {}
 };
 
-bool appears(QQuickWindow& window, const char* name) {
-    // What a model brings is laid out with the next frame.
-    window.grabWindow();
-    return findControl(window, QString::fromLatin1(name)) != nullptr;
-}
-
 }  // namespace
 
-Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, QString folder, QSize size)
-    : app_(app), directories_(directories), pretence_(pretence), folder_(std::move(folder)), size_(size), window_(app) {
+Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, TourPlan plan)
+    : app_(app), directories_(directories), pretence_(pretence), plan_(std::move(plan)), window_(app) {
+    app_.setAppearance(plan_.dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
     // A picture shows where things come to rest, not a moment on their way.
     window_.motion().setReduced(true);
-    window_.window().resize(size);
+    window_.window().resize(plan_.size);
     window_.show();
     waitUntil([this] { return window_.isUp(); });
 }
 
 bool Tour::run() {
-    return inTheme(true) && inTheme(false) && nothingFound();
+    return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
+           clutter() && roots() && sidebarAndMenus() && windows() && firstRun() && smallAndLarge() && focus() &&
+           keptItem() && nothingFound();
 }
 
-void Tour::setTheme(bool dark) {
-    app_.setAppearance(dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
-    theme_ = dark ? QStringLiteral("dark") : QStringLiteral("light");
-}
-
-bool Tour::inTheme(bool dark) {
-    setTheme(dark);
-    return idle() && heroes() && survey(!dark) && findings() && lens() && changes() && reclaim() && clutter() &&
-           sidebarAndMenus() && windows() && firstRun() && smallAndLarge() && focus();
+bool Tour::gallery() {
+    bool taken = false;
+    {
+        GalleryWall wall(plan_.dark ? ZelkTheme::dark() : ZelkTheme::light(), 1);
+        taken = keep(wall.photograph(), QStringLiteral("gallery"));
+    }
+    window_.window().requestActivate();
+    waitUntil([this] { return window_.window().isActive(); });
+    return taken;
 }
 
 /// From the results of the last survey back to the start.
@@ -96,33 +93,45 @@ bool Tour::heroes() {
     return go(Screen::survey);
 }
 
-bool Tour::survey(bool withKeyboard) {
-    const auto scanning = [this] { return app_.scanPhase() == AppModel::ScanPhase::scanning; };
-    const auto stoppedOrOver = [&] { return directories_.paused() || !scanning(); };
-
+/// Its beginning, a moment on the way, called off, and one to the end: in one theme by the pointer, in the other by the
+/// keyboard.
+bool Tour::survey() {
     directories_.pauseAfter(0);
-    if (withKeyboard) {
-        findControl(window_.window(), scanButton)->forceActiveFocus();
-        pressKey(window_.window(), Qt::Key_Return);
-    } else if (!clickOn(window_.window(), scanButton)) {
-        return missed("the scan button");
-    }
-    waitUntil(stoppedOrOver);
+    if (!pressScan(plan_.dark)) return missed("the scan button");
+    waitUntil([this] { return directories_.paused() || !scanning(); });
     if (!scanning()) return missed("the beginning of a survey");
-    if (!picture(QStringLiteral("survey-beginning"))) return false;
+    if (!picture(QStringLiteral("survey-beginning")) || !underWay()) return false;
 
-    // On a tree of some size there is a better moment.
-    directories_.pauseAfter(midScanEntries);
-    waitUntil([&] { return !scanning() || (directories_.paused() && app_.itemsScanned() > 0); });
-    if (scanning()) {
-        waitUntil([&] { return !scanning() || window_.survey().itemsLine() != QStringLiteral("0 items"); });
-        if (!picture(QStringLiteral("survey-scanning"))) return false;
-        if (!go(Screen::lens) || !picture(QStringLiteral("lens-scanning")) || !go(Screen::survey)) return false;
-    }
-    directories_.resume();
-
-    waitUntil([&] { return !scanning(); });
+    app_.cancelScan();
+    if (!pressScan(plan_.dark)) return missed("the scan button");
+    waitUntil([this] { return !scanning(); });
     return app_.scanPhase() == AppModel::ScanPhase::finished || missed("the end of a survey");
+}
+
+bool Tour::pressScan(bool withKeyboard) {
+    if (!appears(window_.window(), "scanButton")) return false;
+    if (!withKeyboard) return clickOn(window_.window(), scanButton);
+    findControl(window_.window(), scanButton)->forceActiveFocus();
+    pressKey(window_.window(), Qt::Key_Return);
+    return true;
+}
+
+/// With figures, for which there must be a tree of some size.
+bool Tour::underWay() {
+    if (plan_.complete) directories_.crowd(crowdOfSample);
+    directories_.pauseAfter(midScanEntries);
+    waitUntil([this] { return !scanning() || (directories_.paused() && app_.itemsScanned() > 0); });
+    bool taken = true;
+    if (scanning()) {
+        waitUntil([this] { return window_.survey().itemsLine() != QStringLiteral("0 items"); });
+        taken = picture(QStringLiteral("survey-scanning")) && go(Screen::lens) &&
+                picture(QStringLiteral("lens-scanning")) && go(Screen::survey);
+    } else {
+        taken = missing("a survey under way");
+    }
+    directories_.crowd(0);
+    directories_.resume();
+    return taken;
 }
 
 /// What was found, from the top to the foot.
@@ -139,6 +148,38 @@ bool Tour::findings() {
     }
     scroll->setProperty("contentY", 0);
     return true;
+}
+
+/// What the overview says of the Trash.
+bool Tour::trash() {
+    const auto measure = [this](TrashContents contents, const std::function<bool()>& seen) {
+        pretence_.setTrash(contents);
+        app_.refreshTrash();
+        waitUntil(seen);
+    };
+    measure(TrashContents::locked, [this] { return !app_.trashAccessible(); });
+    // Its row may be below the window's edge, where the keyboard brings it into sight.
+    if (!appears(window_.window(), "trashButton")) return missed("the row of the Trash");
+    findControl(window_.window(), QStringLiteral("trashButton"))->forceActiveFocus(Qt::OtherFocusReason);
+    if (!picture(QStringLiteral("trash-locked"))) return false;
+    measure(TrashContents::none, [this] { return app_.trashAccessible() && app_.trashBytes() == 0; });
+    if (!picture(QStringLiteral("trash-empty"))) return false;
+
+    pretence_.hold();
+    measure(TrashContents::real, [this] { return app_.trashLoading(); });
+    const bool reading = picture(QStringLiteral("trash-reading"));
+    pretence_.release();
+    waitUntil([this] { return !app_.trashLoading(); });
+    if (!reading) return false;
+    if (app_.trashBytes() == 0) return missing("something in the Trash");
+
+    pretence_.hold();
+    const bool pressed = clickOn(window_.window(), QStringLiteral("trashButton")) && app_.emptyingTrash();
+    const bool emptying = pressed && picture(QStringLiteral("trash-emptying"));
+    pretence_.release();
+    waitUntil([this] { return !app_.emptyingTrash(); });
+    findControl(window_.window(), QStringLiteral("surveyScroll"))->setProperty("contentY", 0);
+    return emptying || missed("the emptying of the Trash");
 }
 
 /// The walk into the largest folder, what is ticked on the way, and what a folder is.
@@ -167,103 +208,12 @@ bool Tour::lens() {
 /// Where the survey before this one found other sizes.
 bool Tour::changes() {
     TrendsModel& trends = *window_.survey().trends();
-    if (!trends.hasChanges()) return true;
+    if (!trends.hasChanges()) return missing("what changed since the last survey");
     trends.openChanges();
     if (!appears(window_.window(), "changesDone")) return missed("the sheet of changes");
     const bool taken = picture(QStringLiteral("survey-changes"));
     pressKey(window_.window(), Qt::Key_Escape);
     return taken && (!trends.showChanges() || missed("the end of the sheet"));
-}
-
-/// Both ways to look at what can be taken back, and a clean-up of it.
-bool Tour::reclaim() {
-    if (!go(Screen::reclaim) || !picture(QStringLiteral("reclaim-categories"))) return false;
-    if (app_.reclaimables().empty()) return go(Screen::survey);  // nothing to show on this disk
-    if (!clickOn(window_.window(), QStringLiteral("selectMenu"))) return missed("the menu of the categories");
-    if (!picture(QStringLiteral("reclaim-menu"))) return false;
-    pressKey(window_.window(), Qt::Key_Escape);
-    if (!chooseInMenu(noneOfThem) || !picture(QStringLiteral("reclaim-none"))) return false;
-    return chooseInMenu(allOfThem) && cleanUp() && items() && go(Screen::survey);
-}
-
-bool Tour::chooseInMenu(int entry) {
-    if (!appears(window_.window(), "selectMenu") || !clickOn(window_.window(), QStringLiteral("selectMenu")))
-        return missed("the menu of the categories");
-    for (int at = 0; at <= entry; ++at) pressKey(window_.window(), Qt::Key_Down);
-    pressKey(window_.window(), Qt::Key_Return);
-    return true;
-}
-
-bool Tour::items() {
-    QQuickWindow& window = window_.window();
-    app_.setAudience(AppModel::Audience::developer);
-    if (!appears(window, "itemList")) return missed("the items");
-    if (!picture(QStringLiteral("reclaim-items"))) return false;
-    findControl(window, QStringLiteral("itemList"))->forceActiveFocus(Qt::TabFocusReason);
-    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Right}) pressKey(window, key);
-    if (!picture(QStringLiteral("reclaim-items-open"))) return false;
-    if (!clickOn(window, QStringLiteral("safetyInfo"))) return missed("what the grades mean");
-    if (!picture(QStringLiteral("reclaim-grades"))) return false;
-    pressKey(window, Qt::Key_Escape);
-    ItemList& list = *window_.reclaim().items();
-    const int age = list.ageDays();
-    list.setAgeDays(list.mostAgeDays());
-    const bool taken = picture(QStringLiteral("reclaim-items-old"));
-    list.setAgeDays(age);
-    app_.setAudience(AppModel::Audience::normal);
-    return taken;
-}
-
-/// The sheet in all its phases: of a clean-up where everything fails, and of one where all goes well.
-bool Tour::cleanUp() {
-    QQuickWindow& window = window_.window();
-    const auto open = [&] {
-        return (clickOn(window, QStringLiteral("reviewButton")) && appears(window, "confirmCleanup")) ||
-               missed("the review");
-    };
-    const auto leave = [&](const char* button) {
-        clickOn(window, QString::fromLatin1(button));
-        waitUntil([this] { return app_.scanPhase() == AppModel::ScanPhase::finished; });
-    };
-    if (!open() || !picture(QStringLiteral("clean-up-review"))) return false;
-    if (!clickOn(window, QStringLiteral("permanentSwitch"))) return missed("the switch");
-    if (!picture(QStringLiteral("clean-up-permanent"))) return false;
-    clickOn(window, QStringLiteral("permanentSwitch"));
-    pretence_.hold();
-    pretence_.fail(true);
-    if (!clickOn(window, QStringLiteral("confirmCleanup"))) return missed("the confirmation");
-    const bool cleaning = picture(QStringLiteral("clean-up-cleaning"));
-    pretence_.release();
-    waitUntil([&] { return appears(window, "keepInTrash"); });
-    if (!cleaning || !picture(QStringLiteral("clean-up-skipped"))) return false;
-    leave("keepInTrash");
-
-    pretence_.fail(false);
-    if (!chooseInMenu(allOfThem) || !open() || !clickOn(window, QStringLiteral("confirmCleanup"))) return false;
-    waitUntil([&] { return appears(window, "keepInTrash"); });
-    if (!picture(QStringLiteral("clean-up-done"))) return false;
-    pretence_.hold();
-    if (!clickOn(window, QStringLiteral("emptyTrash"))) return missed("the emptying");
-    const bool emptying = picture(QStringLiteral("clean-up-emptying"));
-    pretence_.release();
-    waitUntil([&] { return appears(window, "cleanupDone"); });
-    if (!emptying || !picture(QStringLiteral("clean-up-emptied"))) return false;
-    leave("cleanupDone");
-    return true;
-}
-
-/// A survey of a folder in which there is nothing.
-bool Tour::nothingFound() {
-    const QTemporaryDir empty;
-    app_.setScanRoots({empty.path().toStdString()});
-    app_.startScan();
-    waitUntil([this] { return app_.scanPhase() != AppModel::ScanPhase::scanning; });
-    for (const bool dark : {true, false}) {
-        setTheme(dark);
-        for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::clutter, Screen::lens})
-            if (!go(screen) || !picture(QStringLiteral("nothing-") + lookOf(screen).title.toLower())) return false;
-    }
-    return true;
 }
 
 /// The heaviest files in either order, those of one type, and what can be done to one.
@@ -290,12 +240,32 @@ bool Tour::clutter() {
            go(Screen::survey);
 }
 
+/// Several folders to survey, one with a name of some length, and none chosen.
+bool Tour::roots() {
+    const std::vector<std::string> before = app_.scanRoots();
+    std::vector<std::string> several = before;
+    several.push_back(before.front() + "/Pictures");
+    several.push_back("/mnt/A drive with a name as long as some drives have it/" + std::string(120, 'x') + "/Archive");
+    app_.setScanRoots(several);
+    bool taken = go(Screen::settings) && picture(QStringLiteral("settings-roots"));
+    app_.setScanRoots({});
+    taken = taken && picture(QStringLiteral("settings-no-roots"));
+    app_.setScanRoots(before);
+    return taken && go(Screen::survey);
+}
+
 bool Tour::windows() {
     for (const auto& [id, name] : {std::pair(WindowId::about, "window-about"), std::pair(WindowId::help, "window-help"),
                                    std::pair(WindowId::settings, "window-settings")}) {
         QQuickWindow& window = window_.openWindow(id);
-        waitUntil([&] { return window.isExposed(); });
+        waitUntil([&] { return window.isExposed() && window.isActive(); });
         if (!picture(window, QString::fromLatin1(name))) return false;
+        if (id == WindowId::help) {
+            const QImage first = window.grabWindow();
+            for (int topic = 0; topic < topicsFurther; ++topic) pressKey(window, Qt::Key_Down);
+            if (window.grabWindow() == first) return missed("another topic of the manual");
+            if (!picture(window, QStringLiteral("window-help-topic"))) return false;
+        }
         window.close();
     }
     return true;
@@ -321,7 +291,7 @@ bool Tour::firstRun() {
     services.accessGranted = [] { return false; };
     MainWindow first(app_, services);
     first.motion().setReduced(true);
-    first.window().resize(size_);
+    first.window().resize(plan_.size);
     first.show();
     waitUntil([&] { return first.isUp(); });
     for (int page = 1; appears(first.window(), "primaryButton"); ++page) {
@@ -345,7 +315,7 @@ bool Tour::smallAndLarge() {
          {Screen::survey, Screen::reclaim, Screen::clutter, Screen::lens, Screen::tools, Screen::settings})
         taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
     text.setFactor(1);
-    resize(size_);
+    resize(plan_.size);
     return taken && go(Screen::survey);
 }
 
@@ -356,6 +326,21 @@ bool Tour::focus() {
     return picture(QStringLiteral("survey-focus"));
 }
 
+/// A survey of a folder in which there is nothing.
+bool Tour::nothingFound() {
+    const QTemporaryDir empty;
+    surveyOnly(empty.path());
+    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::clutter, Screen::lens})
+        if (!go(screen) || !picture(QStringLiteral("nothing-") + lookOf(screen).title.toLower())) return false;
+    return true;
+}
+
+void Tour::surveyOnly(const QString& folder) {
+    app_.setScanRoots({folder.toStdString()});
+    app_.startScan();
+    waitUntil([this] { return !scanning(); });
+}
+
 bool Tour::go(Screen screen) {
     const QString row = QStringLiteral("sidebar") + lookOf(screen).title;
     window_.window().grabWindow();
@@ -364,14 +349,24 @@ bool Tour::go(Screen screen) {
 
 /// Always false.
 bool Tour::missed(const char* what) const {
-    std::fprintf(stderr, "tour: missed %s in the %s theme\n", what, qPrintable(theme_));
+    std::fprintf(stderr, "tour: missed %s in the %s theme\n", what, plan_.dark ? "dark" : "light");
     return false;
+}
+
+/// What not every disk has: missed only where it must be there.
+bool Tour::missing(const char* what) const {
+    return !plan_.complete || missed(what);
 }
 
 bool Tour::picture(QQuickWindow& window, const QString& name) {
     restPointer(window);
-    const QString file = QDir(folder_).filePath(QStringLiteral("%1-%2.png").arg(name, theme_));
-    if (!photograph(window, file)) {
+    return keep(window.grabWindow(), name);
+}
+
+bool Tour::keep(const QImage& picture, const QString& name) const {
+    const QString theme = plan_.dark ? QStringLiteral("dark") : QStringLiteral("light");
+    const QString file = QDir(plan_.folder).filePath(QStringLiteral("%1-%2.png").arg(name, theme));
+    if (!save(picture, file)) {
         std::fprintf(stderr, "tour: no picture at %s\n", qPrintable(file));
         return false;
     }

@@ -6,51 +6,69 @@
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
 #include "state/AppModel.h"
+#include "ui/reclaim/ItemList.h"
 #include "ui/shell/MainWindow.h"
 
 namespace zelk::tour {
 
-/// One walk through the application with its pictures in `folder`. It prints each picture's path.
+/// Where a tour's pictures go, and what it is a tour of.
+struct TourPlan {
+    QString folder;
+    QSize size;     ///< of the window
+    bool dark;      ///< the theme
+    bool complete;  ///< there is something for every state: one that does not come is missed
+};
+
+/// One walk through the application with its pictures. It prints each picture's path.
 class Tour {
 public:
-    Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, QString folder, QSize size);
+    /// Everything must outlive it.
+    Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, TourPlan plan);
 
-    /// Every screen, window and sheet in both themes, every phase of a survey, large text and little room. False if
-    /// something was missed or a picture could not be taken.
+    /// Every screen, window and sheet, every phase of a survey, large text and little room, and every component. False
+    /// if something was missed or a picture could not be taken.
     bool run();
 
 private:
-    void setTheme(bool dark);
-    bool inTheme(bool dark);
+    bool gallery();
     bool idle();
     bool heroes();
-    bool survey(bool withKeyboard);
+    bool survey();
+    bool pressScan(bool withKeyboard);
+    bool underWay();
     bool findings();
+    bool trash();
     bool lens();
     bool changes();
-    bool reclaim();
-    bool cleanUp();
-    bool items();
-    bool nothingFound();
-    bool chooseInMenu(int entry);
     bool clutter();
+    bool roots();
     bool windows();
     bool sidebarAndMenus();
     bool firstRun();
     bool smallAndLarge();
     bool focus();
+    bool nothingFound();
+
+    bool reclaim();
+    bool chooseInMenu(int entry);
+    bool items();
+    bool youngItems(ItemList& list);
+    bool keptItem();
+    bool cleanUp();
 
     bool go(Screen screen);
+    void surveyOnly(const QString& folder);
     bool missed(const char* what) const;
+    bool missing(const char* what) const;
     bool picture(const QString& name) { return picture(window_.window(), name); }
     bool picture(QQuickWindow& window, const QString& name);
+    bool keep(const QImage& picture, const QString& name) const;
+    bool scanning() const { return app_.scanPhase() == AppModel::ScanPhase::scanning; }
 
     AppModel& app_;
     PausingDirectories& directories_;
     Pretence& pretence_;
-    QString folder_;
-    QSize size_;
-    QString theme_;
+    TourPlan plan_;
     MainWindow window_;
 };
 

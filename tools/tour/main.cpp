@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 // tour --out DIR --root PATH [--home DIR] [--size WxH]: runs the real window on the real file system without a display,
-// presses its buttons, and leaves a picture of every screen and state in both themes in DIR. Fails if one was missed.
-// Nothing is taken away: what the pressed buttons ask for is only said to be done. The user's own history is left
-// alone: that of the tour goes to a folder that is thrown away. With --home all of it, records and Trash too, is that
-// of a home made by tools/sample_home.
+// presses its buttons, and leaves a picture of every screen and state in both themes in DIR, and of the gallery of the
+// components. Nothing is taken away: what the pressed buttons ask for is only said to be done. The history is left
+// alone: that of the tour goes to a folder that is thrown away. With --home records and Trash are those of a home made
+// by `tools/sample_home --history`. There is something for every state in it, so there the tour fails if it misses one;
+// elsewhere it passes over what the disk does not have.
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -60,24 +60,27 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
 
-    const QTemporaryDir support;
+    const bool sample = options.isSet(QStringLiteral("home"));
     zelk::NativePlatform native;
     const zelk::Platform& real = native.platform();
-    zelk::tour::PausingDirectories directories(real.directories);
-    zelk::tour::ScratchLocations locations(real.locations, support.path().toStdString());
-    zelk::Locations& places = options.isSet(QStringLiteral("home")) ? real.locations : locations;
     zelk::tour::Pretence pretence;
+    zelk::tour::PausingDirectories directories(real.directories);
+    zelk::tour::PretendingClock clock(real.clock, pretence);
     zelk::tour::PretendingTrash trash(real.trash, pretence);
     zelk::tour::PretendingFiles files(real.files);
     zelk::tour::PretendingProcesses processes;
-    const zelk::Platform platform{real.clock, directories, files,     trash,         real.vitals,
-                                  places,     real.tasks,  processes, real.workspace};
+    zelk::tour::PretendingWorkspace workspace(real.workspace);
+    // Each theme has the records as they were found, so that its survey has the same to tell.
+    zelk::tour::ScratchLocations forDark(real.locations, sample);
+    zelk::tour::ScratchLocations forLight(real.locations, sample);
 
-    bool complete = false;
-    {
+    bool complete = true;
+    for (const bool dark : {true, false}) {
+        const zelk::Platform platform{clock,      directories, files,    trash, real.vitals, dark ? forDark : forLight,
+                                      real.tasks, processes,   workspace};
         zelk::AppModel app(platform);
         app.setScanRoots({QDir(root).absolutePath().toStdString()});
-        complete = zelk::tour::Tour(app, directories, pretence, folder, size).run();
+        complete = complete && zelk::tour::Tour(app, directories, pretence, {folder, size, dark, sample}).run();
     }
     directories.resume();
     const int status = complete ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
 import Zelk.Gallery
 import Zelk.Navigation
 import Zelk.Theme
