@@ -9,7 +9,15 @@ import Zelk.Theme
 T.Menu {
     id: menu
 
-    implicitWidth: Math.max(160, contentItem.implicitWidth + leftPadding + rightPadding)
+    // Of its rows as they would be by themselves: here they are all as wide as the menu.
+    readonly property real widest: {
+        let most = 0;
+        for (let i = 0; i < menu.count; ++i)
+            most = Math.max(most, menu.itemAt(i)?.implicitWidth ?? 0);
+        return most;
+    }
+
+    implicitWidth: Math.max(160, menu.widest + leftPadding + rightPadding)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     padding: 5
     margins: 8
@@ -34,7 +42,6 @@ T.Menu {
     }
 
     contentItem: ListView {
-        implicitWidth: contentItem.childrenRect.width
         implicitHeight: contentHeight
         model: menu.contentModel
         interactive: Window.window ? contentHeight + menu.topPadding + menu.bottomPadding > Window.window.height : false

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.Components
+import Zelk.Theme
 
 Section {
     id: controls
@@ -63,7 +64,7 @@ Section {
         all: ["normal"]
 
         StepperField {
-            width: 360
+            width: 360 * TextScale.factor
             label: controls.longText
             from: 0
             to: 365
@@ -109,7 +110,7 @@ Section {
         all: ["normal"]
 
         SegmentedPicker {
-            width: 220
+            width: 220 * TextScale.factor
             label: "Theme"
             options: ["As the desktop has it", "Light", "Dark"]
             current: -1

@@ -71,7 +71,7 @@ Section {
 
     Row {
         width: parent.width
-        height: 400
+        height: 400 * TextScale.factor
 
         ModuleHero {
             width: parent.width / 2

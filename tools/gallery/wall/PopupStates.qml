@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.Components
+import Zelk.Theme
 
 Section {
     id: section
@@ -17,8 +18,8 @@ Section {
         Stage {
             id: menuStage
 
-            width: 340
-            height: 320
+            width: 540 * TextScale.factor
+            height: 290 * TextScale.factor
             popup: menu
 
             SecondaryButton {
@@ -30,7 +31,7 @@ Section {
                 id: menu
 
                 parent: menuStage
-                y: 44
+                y: 44 * TextScale.factor
 
                 MenuRow {
                     text: "Show in Folder"
@@ -66,20 +67,20 @@ Section {
                     checkable: true
                 }
                 MenuRow {
-                    text: "Without a symbol"
+                    text: section.longText
                 }
             }
         }
 
         Stage {
-            width: 300
-            height: 96
+            width: 140 * TextScale.factor
+            height: 96 * TextScale.factor
             popup: shortTip
 
             IconButton {
                 id: told
 
-                x: 110
+                anchors.horizontalCenter: parent.horizontalCenter
                 text: "Reload"
                 symbol: "arrow.clockwise"
             }
@@ -94,14 +95,14 @@ Section {
         }
 
         Stage {
-            width: 320
-            height: 160
+            width: 330 * TextScale.factor
+            height: 160 * TextScale.factor
             popup: longTip
 
             IconButton {
                 id: toldMore
 
-                x: 140
+                anchors.horizontalCenter: parent.horizontalCenter
                 text: "Reload"
                 symbol: "arrow.clockwise"
                 help: section.longText
@@ -126,7 +127,7 @@ Section {
         id: sheetStage
 
         width: parent.width
-        height: 280
+        height: 280 * TextScale.factor
         popup: sheet
 
         Sheet {

@@ -4,6 +4,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.Components
+import Zelk.Theme
 
 RowList {
     id: list
@@ -11,7 +12,7 @@ RowList {
     required property string longText
 
     name: "Rows"
-    height: 148
+    height: 148 * TextScale.factor
 
     delegate: ListRow {
         id: row
