@@ -40,6 +40,10 @@ Item {
                 text: "All"
                 onTriggered: board.chosen += 1
             }
+            MenuRow {
+                objectName: "wide"
+                text: "Those that nobody has used"
+            }
         }
     }
 
@@ -92,6 +96,14 @@ TEST_F(MenuButtonWindow, itsRowsArePressed) {
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(view().property("chosen").toInt(), 1);
     EXPECT_TRUE(buttonHasKeyboard());
+}
+
+TEST_F(MenuButtonWindow, isAsWideAsItsWidestRow) {
+    click("button");
+    ASSERT_TRUE(isOpen());
+    EXPECT_GT(find("wide")->implicitWidth(), 160);
+    EXPECT_GE(find("wide")->width(), find("wide")->implicitWidth());
+    EXPECT_EQ(find("all")->width(), find("wide")->width());
 }
 
 TEST_F(MenuButtonWindow, goesWithItsScreenAndLeavesTheKeyboardToTheNext) {
