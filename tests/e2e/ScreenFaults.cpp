@@ -189,6 +189,20 @@ std::vector<std::string> accessibilityFaults(QQuickWindow& window) {
     return faults;
 }
 
+std::vector<std::string> ringFaults(QQuickWindow& window) {
+    std::vector<std::string> faults;
+    const QRectF whole = window.contentItem()->boundingRect();
+    for (const ShownItem& shown : shownItems(window)) {
+        const QQuickItem& item = *shown.item;
+        if (!QString::fromLatin1(item.metaObject()->className()).startsWith(QStringLiteral("FocusRing"))) continue;
+        const QRectF ring = item.mapRectToScene(item.boundingRect());
+        if (!holds(visiblePart(item, ring) & whole, ring, true, true))
+            faults.push_back("the ring " + say(ring) + " of \"" + textOf(*window.activeFocusItem()).toStdString() +
+                             "\" is cut off to " + say(visiblePart(item, ring) & whole));
+    }
+    return faults;
+}
+
 std::vector<std::string> focusableNames(QQuickWindow& window) {
     std::vector<std::string> names;
     for (const ShownItem& shown : shownItems(window)) {

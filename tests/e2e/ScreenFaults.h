@@ -17,6 +17,9 @@ std::vector<std::string> layoutFaults(QQuickWindow& window);
 /// per fault.
 std::vector<std::string> accessibilityFaults(QQuickWindow& window);
 
+/// Rings of the keyboard that something cuts off. One line per fault.
+std::vector<std::string> ringFaults(QQuickWindow& window);
+
 /// The names of the controls that the Tab key comes to, in no order.
 std::vector<std::string> focusableNames(QQuickWindow& window);
 

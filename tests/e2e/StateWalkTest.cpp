@@ -3,6 +3,8 @@
 // cut off, lies on something else or has no name.
 #include <gmock/gmock.h>
 
+#include <set>
+
 #include "ReclaimHands.h"
 #include "ScreenFaults.h"
 #include "ShellFixture.h"
@@ -202,6 +204,28 @@ TEST_F(StateWalk, theFoldedSidebar) {
     for (const std::string& name : focusableNames(window()))
         for (const Screen screen : allScreens) rows += lookOf(screen).title.toStdString() == name;
     EXPECT_GE(rows, allScreens.size()) << "a row that shows no title still has its name";
+}
+
+TEST_F(StateWalk, theRingOfTheKeyboardWhereverItComes) {
+    shell();
+    survey();
+    for (const QSize size : {QSize(960, 620), QSize(1600, 1000)}) {
+        window().resize(size);
+        runUntil([&] { return window().contentItem()->size() == QSizeF(size); });
+        for (const Screen screen : allScreens) {
+            model().setSelection(screen);
+            window().grabWindow();
+            std::set<const QQuickItem*> seen;
+            for (;;) {
+                press(Qt::Key_Tab);
+                if (!seen.insert(window().activeFocusItem()).second) break;
+                window().grabWindow();
+                EXPECT_THAT(ringFaults(window()), testing::IsEmpty())
+                    << lookOf(screen).title.toStdString() << ", " << size.width() << " wide";
+            }
+            EXPECT_GT(seen.size(), allScreens.size()) << "the sidebar alone has as many";
+        }
+    }
 }
 
 TEST_F(StateWalk, theOtherWindows) {

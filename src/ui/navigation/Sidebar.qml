@@ -55,16 +55,22 @@ FocusScope {
     ScrollArea {
         id: scroll
 
+        // The rings of the first row and the last need a little more than the rows do.
+        readonly property real rim: 4
+
         anchors.top: head.bottom
+        anchors.topMargin: -scroll.rim
         anchors.bottom: footer.top
+        anchors.bottomMargin: -scroll.rim
         anchors.left: parent.left
         anchors.right: parent.right
-        contentHeight: column.implicitHeight
+        contentHeight: column.implicitHeight + 2 * scroll.rim
 
         Column {
             id: column
 
             x: 12
+            y: scroll.rim
             width: scroll.width - 24
             spacing: bar.tight ? 0 : 2
 
