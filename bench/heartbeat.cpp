@@ -87,7 +87,7 @@ int main(int argc, char** argv) {
     const std::string folder = scratch.path().toStdString();
     NativePlatform native(cleans ? folder : std::string());
     const Platform& real = native.platform();
-    tour::ScratchLocations locations(real.locations, folder);
+    tour::ScratchLocations locations(real.locations, false);
     const Platform platform{real.clock, real.directories, real.files,     real.trash,    real.vitals,
                             locations,  real.tasks,       real.processes, real.workspace};
     bool done = true;
