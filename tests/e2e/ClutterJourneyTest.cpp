@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <filesystem>
 
+#include "ReclaimHands.h"
 #include "ShellFixture.h"
 #include "fakes/ClutterHome.h"
 #include "fakes/TrashContent.h"
@@ -40,6 +41,7 @@ protected:
         const QQuickItem* list = find("clutterList");
         return list != nullptr && list->hasActiveFocus();
     }
+    std::vector<std::string> names() { return texts(window(), "clutterList", "name"); }
     std::vector<std::string> typesOnTheOverview() {
         std::vector<std::string> figures;
         for (const auto& [type, tally] : model().sortedTypeTotals())
@@ -117,6 +119,69 @@ TEST_F(ClutterJourney, withTheKeyboardAlone) {
     runUntil([&] { return machine.trash.trashed().size() == 2; });
     runWhatIsThere();
     EXPECT_EQ(machine.trash.trashed(), (Strings{files[1].path, files[2].path}));
+}
+
+TEST_F(ClutterJourney, theOrderAndTheTypesWithTheKeyboardAlone) {
+    shell();
+    press(Qt::Key_6, Qt::ControlModifier);
+    tabTo(window(), "moduleScanButton");
+    press(Qt::Key_Return);
+    waitForTheSurvey();
+    ASSERT_EQ(names().front(), "concert.mov");
+
+    tabTo(window(), "orderPicker");
+    press(Qt::Key_Right);
+    const auto rowOf = [this](const char* name) { return zelk::rowOf(window(), "clutterList", "name", name); };
+    EXPECT_LT(rowOf("old.mp4"), rowOf("backup.zip"));
+    EXPECT_LT(rowOf("backup.zip"), rowOf("concert.mov"));
+    tabTo(window(), "typePill0");
+    press(Qt::Key_Right);
+    EXPECT_EQ(focusName(), "typePill1");
+    EXPECT_THAT(names(), ElementsAre("film.mov", "old.mp4", "concert.mov"));
+    press(Qt::Key_Right);
+    EXPECT_THAT(names(), ElementsAre("system.iso", "setup.iso"));
+    press(Qt::Key_Left);
+    EXPECT_EQ(focusName(), "typePill1");
+
+    tabTo(window(), "orderPicker");
+    press(Qt::Key_Left);
+    EXPECT_THAT(names(), ElementsAre("concert.mov", "film.mov", "old.mp4"));
+    tabTo(window(), "clutterList");
+    press(Qt::Key_Delete);
+    runUntil([&] { return machine.trash.trashed().size() == 1; });
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/concert.mov"});
+    EXPECT_THAT(names(), ElementsAre("film.mov", "old.mp4"));
+}
+
+TEST_F(ClutterJourney, theRightButtonOpensTheMenuWhereItIsPressed) {
+    shell();
+    click("sidebarClutter");
+    click("moduleScanButton");
+    waitForTheSurvey();
+    const auto openAt = [&](const char* name) {
+        const QQuickItem* words = showing(QString::fromLatin1(name));
+        const QPointF pressed = words->mapToScene(words->boundingRect().center());
+        rightClickMiddle(window(), words);
+        runUntil([&] { return menuEntry(window(), "Reveal in Finder") != nullptr; });
+        const QPointF menu = menuEntry(window(), "Reveal in Finder")->mapToScene({});
+        EXPECT_NEAR(menu.x(), pressed.x(), 16) << name;
+        EXPECT_NEAR(menu.y(), pressed.y(), 16) << name;
+    };
+    const auto untilClosed = [&] { runUntil([&] { return menuEntry(window(), "Reveal in Finder") == nullptr; }); };
+    openAt("backup.zip");
+    press(Qt::Key_Escape);
+    untilClosed();
+    openAt("setup.iso");
+    clickMiddle(window(), menuEntry(window(), "Reveal in Finder"));
+    untilClosed();
+    EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/media/setup.iso"}));
+    openAt("backup.zip");
+    clickMiddle(window(), menuEntry(window(), "Move to Trash"));
+    runUntil([&] { return machine.trash.trashed().size() == 1; });
+    runWhatIsThere();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/backup.zip"});
+    EXPECT_FALSE(shows(QStringLiteral("backup.zip")));
 }
 
 #ifndef Q_OS_MACOS

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <filesystem>
 
+#include "ReclaimHands.h"
 #include "ShellFixture.h"
 #include "fakes/TrashContent.h"
 #include "platform/NativePlatform.h"
@@ -50,6 +51,27 @@ protected:
         return item == nullptr ? QString() : item->property("text").toString();
     }
     QString focusedRow() { return window().activeFocusItem()->property("name").toString(); }
+    /// A folder of so many that the map shows two of them as one: "0" of 18 MB to "17" of 1 MB.
+    void addMany() {
+        for (int at = 0; at < 18; ++at) {
+            const std::string file = home + "/many/" + std::to_string(at) + "/file";
+            machine.directories.file(file, static_cast<std::uint64_t>(18 - at) * 1'000'000, 1'000);
+            machine.files.addFile(file);
+        }
+    }
+    std::string lastBubble() { return chart(window(), "lensMap")->model()->slices().back().label.toStdString(); }
+    void untilMenuOpens() {
+        runUntil([&] { return menuEntry(window(), "All") != nullptr; });
+    }
+    void untilMenuCloses() {
+        runUntil([&] { return menuEntry(window(), "All") == nullptr; });
+    }
+    void chooseInMenu(const char* entry) {
+        click("lensSelect");
+        untilMenuOpens();
+        clickMiddle(window(), menuEntry(window(), entry));
+        untilMenuCloses();
+    }
     void untilTrashed(std::size_t count) {
         runUntil([&] { return machine.trash.trashed().size() == count; });
         runWhatIsThere();
@@ -137,6 +159,109 @@ TEST_F(LensJourney, throughTheMapWithTheKeyboard) {
     EXPECT_EQ(text("lensPlace"), "me");
     press(Qt::Key_Space);
     EXPECT_EQ(text("lensCaption"), "2 selected · 3.08 GB");
+}
+
+TEST_F(LensJourney, throughTheMapWithTheArrowKeys) {
+    press(Qt::Key_8, Qt::ControlModifier);
+    window().grabWindow();
+    surveyWith([&] { press(Qt::Key_Return); });
+    tabTo(window(), "lensMap");
+    for (const char* folder : {"/Library", "/.Trash", "/wide", "/projects"}) {
+        arrowToBubble(window(), "lensMap", home + folder);
+        press(Qt::Key_Space);
+        EXPECT_TRUE(row(QString::fromLatin1(folder).mid(1))->property("ticked").toBool()) << folder;
+    }
+    EXPECT_EQ(text("lensCaption"), "4 selected · 3.15 GB");
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("lensPlace"), "projects");
+}
+
+TEST_F(LensJourney, throughTheMapWithTheMouse) {
+    addMany();
+    click("sidebarLens");
+    surveyWith([&] { click("moduleScanButton"); });
+    clickBubble(window(), "lensMap", home + "/many");
+    EXPECT_EQ(text("lensPlace"), "many");
+    clickBubble(window(), "lensMap", home + "/many/0");
+    EXPECT_EQ(text("lensPlace"), "many") << "there is nothing to go into";
+    EXPECT_EQ(text("lensCaption"), "1 selected · 18 MB");
+    EXPECT_TRUE(row("0")->property("ticked").toBool());
+
+    ASSERT_EQ(lastBubble(), "Other (2)");
+    clickBubble(window(), "lensMap", "__other__");
+    EXPECT_EQ(text("lensPlace"), "many");
+    EXPECT_EQ(text("lensCaption"), "1 selected · 18 MB");
+
+    clickBubble(window(), "lensMap", home + "/many/1");
+    clickBubble(window(), "lensMap", home + "/many/0");
+    EXPECT_FALSE(row("0")->property("ticked").toBool());
+    EXPECT_EQ(text("lensCaption"), "1 selected · 17 MB");
+    click("lensRemove");
+    untilTrashed(1);
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/many/1"});
+    EXPECT_EQ(lastBubble(), "Other (1)");
+    click("lensBack");
+    EXPECT_EQ(text("lensPlace"), "me");
+}
+
+TEST_F(LensJourney, theMenuAndStartOverWithTheMouse) {
+    click("sidebarLens");
+    surveyWith([&] { click("moduleScanButton"); });
+    EXPECT_EQ(text("lensSelect"), "None");
+    chooseInMenu("All");
+    EXPECT_EQ(text("lensSelect"), "4");
+    EXPECT_EQ(text("lensCaption"), "4 selected · 3.15 GB");
+    for (const char* folder : {"projects", "Library", "wide", ".Trash"})
+        EXPECT_TRUE(row(QString::fromLatin1(folder))->property("ticked").toBool()) << folder;
+    chooseInMenu("None");
+    EXPECT_EQ(text("lensSelect"), "None");
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+    EXPECT_FALSE(row("projects")->property("ticked").toBool());
+
+    // What is ticked elsewhere stays, until all begins anew.
+    clickPart("Library", "lensTick");
+    clickRow("projects");
+    chooseInMenu("All");
+    EXPECT_EQ(text("lensCaption"), "2 selected · 60 MB");
+    click("lensStartOver");
+    ASSERT_EQ(text("lensPlace"), "me");
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+    EXPECT_FALSE(row("Library")->property("ticked").toBool());
+    EXPECT_FALSE(find("lensBack")->isEnabled());
+    EXPECT_EQ(machine.trash.trashed(), Strings{});
+}
+
+TEST_F(LensJourney, theMenuAndStartOverWithTheKeyboardAlone) {
+    press(Qt::Key_8, Qt::ControlModifier);
+    window().grabWindow();
+    surveyWith([&] { press(Qt::Key_Return); });
+    press(Qt::Key_Right);
+    ASSERT_EQ(text("lensPlace"), "projects");
+    tabTo(window(), "lensSelect");
+    press(Qt::Key_Space);
+    untilMenuOpens();
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    untilMenuCloses();
+    EXPECT_EQ(focusName(), "lensSelect");
+    EXPECT_EQ(text("lensCaption"), "1 selected · 10 MB");
+    press(Qt::Key_Space);
+    untilMenuOpens();
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    untilMenuCloses();
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+
+    tabTo(window(), "lensList");
+    press(Qt::Key_Space);
+    EXPECT_EQ(text("lensCaption"), "1 selected · 10 MB");
+    tabTo(window(), "lensStartOver");
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("lensPlace"), "me");
+    EXPECT_EQ(text("lensCaption"), "No items selected");
+    EXPECT_EQ(focusName(), "lensStartOver") << "which is still there";
+    EXPECT_EQ(machine.trash.trashed(), Strings{});
 }
 
 TEST_F(LensJourney, anOpenMenuGoesWithTheScreen) {

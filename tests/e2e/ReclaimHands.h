@@ -7,6 +7,8 @@
 #include <QAbstractItemModel>
 #include <QAccessible>
 #include <QTest>
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -34,6 +36,14 @@ QQuickItem* findVisible(QQuickWindow& window, Wanted wanted) {
 inline void clickMiddle(QQuickWindow& window, const QQuickItem* item) {
     ASSERT_NE(item, nullptr);
     tour::clickAt(window, item->mapToScene(item->boundingRect().center()));
+}
+
+/// A press with the right button in the middle of an item.
+inline void rightClickMiddle(QQuickWindow& window, const QQuickItem* item) {
+    ASSERT_NE(item, nullptr);
+    const QPoint point = item->mapToScene(item->boundingRect().center()).toPoint();
+    QTest::mouseMove(&window, point);
+    QTest::mouseClick(&window, Qt::RightButton, {}, point);
 }
 
 /// A press on a control, once the window has laid out what is new.
@@ -86,13 +96,38 @@ inline int rowOf(QQuickWindow& window, const char* list, const char* role, const
     return found == all.end() ? -1 : static_cast<int>(found - all.begin());
 }
 
+inline BubblePicture* chart(QQuickWindow& window, const char* map) {
+    return qobject_cast<BubblePicture*>(control(window, map));
+}
+
 /// A press on a bubble by the id of its slice.
 inline void clickBubble(QQuickWindow& window, const char* map, const std::string& id) {
-    const auto* chart = qobject_cast<BubblePicture*>(control(window, map));
+    const BubblePicture* chart = zelk::chart(window, map);
     ASSERT_NE(chart, nullptr);
     for (const PackedCircle& circle : chart->packed())
         if (circle.id == id) return tour::clickAt(window, chart->mapToScene({circle.center.x, circle.center.y}));
     FAIL() << "no bubble " << id;
+}
+
+/// In a map that has the keyboard: by the arrow keys to the bubble of this id, as somebody who sees where it lies.
+inline void arrowToBubble(QQuickWindow& window, const char* map, const std::string& id) {
+    const BubblePicture* chart = zelk::chart(window, map);
+    ASSERT_NE(chart, nullptr);
+    const std::vector<PackedCircle>& circles = chart->packed();
+    const auto wanted =
+        std::find_if(circles.begin(), circles.end(), [&](const auto& circle) { return circle.id == id; });
+    ASSERT_NE(wanted, circles.end()) << "no bubble " << id;
+    for (std::size_t step = 0; step < circles.size(); ++step) {
+        const PackedCircle& here = circles.at(chart->current().value());
+        if (here.id == id) return;
+        const double across = wanted->center.x - here.center.x;
+        const double down = wanted->center.y - here.center.y;
+        if (std::abs(across) > std::abs(down))
+            QTest::keyClick(&window, across < 0 ? Qt::Key_Left : Qt::Key_Right);
+        else
+            QTest::keyClick(&window, down < 0 ? Qt::Key_Up : Qt::Key_Down);
+    }
+    EXPECT_EQ(circles.at(chart->current().value()).id, id) << "the arrow keys do not come there";
 }
 
 /// Whether the keyboard is at a control, or at what a list shows.

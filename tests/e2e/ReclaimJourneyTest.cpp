@@ -346,6 +346,18 @@ TEST_F(Reclaiming, byCategoryWithTheKeyboardAlone) {
     EXPECT_THAT(machine.trash.list(), testing::Optional(IsEmpty()));
 }
 
+TEST_F(Reclaiming, throughTheMapWithTheArrowKeys) {
+    surveyByKeys();
+    tabTo(window(), "categoryMap");
+    for (const char* category : {"ios_backups", "electron_cache", "node_modules", "npm_cache", "yarn_cache"}) {
+        const bool before = std::count(safeOnes.begin(), safeOnes.end(), category) > 0;
+        arrowToBubble(window(), "categoryMap", category);
+        press(Qt::Key_Space);
+        EXPECT_EQ(testing::Value(chosen(), testing::Contains(category)), !before) << category;
+    }
+    EXPECT_THAT(chosen(), ElementsAre("ios_backups", "node_modules"));
+}
+
 TEST_F(Reclaiming, byItemLeavesOutWhatARunningApplicationUses) {
     surveyByMouse();
     click("developerSwitch");
