@@ -16,6 +16,7 @@
 #include "state/AppModel.h"
 #include "ui/reclaim/ReclaimScreenModel.h"
 #include "ui/shell/MainWindow.h"
+#include "ui/text/DisplayText.h"
 #include "ui/theme/Motion.h"
 #include "zoo/TempFolder.h"
 
@@ -108,12 +109,21 @@ protected:
     }
     void confirm(bool permanently) {
         if (permanently) clickControl(window(), "permanentSwitch");
+        confirm();
+    }
+    void confirm() {
         clickControl(window(), "confirmCleanup");
         runUntil([&] { return control(window(), "cleanupResult") != nullptr; });
     }
     void keep() {
         clickControl(window(), "keepInTrash");
         untilSurveyed(2);
+    }
+
+    bool shows(const std::string& text) {
+        return findVisible(window(), [&](const QQuickItem& item) {
+                   return item.property("text").toString() == QString::fromStdString(text);
+               }) != nullptr;
     }
 
     QQuickWindow& window() { return main_->window(); }
@@ -168,6 +178,9 @@ private:
     std::unique_ptr<AppModel> model_;
     std::unique_ptr<MainWindow> main_;
 };
+
+/// The command of the one tool that does its work.
+constexpr const char* wellTool = "/usr/bin/env npm cache clean --force";
 
 struct Way {
     const char* system;
@@ -227,11 +240,36 @@ TEST_P(WholeCleanup, takesWhatTheReviewListedAndNothingElse) {
     ASSERT_GT(byTool.size(), 2U);
 
     const Tree before = tree();
+    const auto bytesOf = [&before](const std::string& item) {
+        std::uint64_t bytes = 0;
+        for (const auto& [entryPath, entry] : before)
+            if (isAtOrBelow(entryPath, item)) bytes += entry.allocated;
+        return bytes;
+    };
     std::uint64_t listed = 0;
-    for (const auto& [entryPath, entry] : before)
-        for (const std::string& item : toTrash)
-            if (isAtOrBelow(entryPath, item)) listed += entry.allocated;
-    confirm(permanently);
+    std::size_t gone = 0;
+    for (const std::string& item : toTrash) {
+        listed += bytesOf(item);
+        if (bytesOf(item) > 0) ++gone;  // nothing is gained by what takes up nothing
+    }
+    std::uint64_t all = listed;
+    std::uint64_t recovered = listed;
+    for (const auto& [item, tool] : byTool) {
+        all += bytesOf(item);
+        if (tool != wellTool) continue;
+        recovered += bytesOf(item);
+        ++gone;
+    }
+    ASSERT_GT(recovered, listed);
+    const std::string total = byteFigure(static_cast<std::int64_t>(all)).toStdString();
+    EXPECT_TRUE(shows(std::to_string(toTrash.size()) + " to Trash · " + std::to_string(byTool.size()) +
+                      " via command · " + total + " to recover"));
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move " + total + " to Trash");
+    if (permanently) {
+        clickControl(window(), "permanentSwitch");
+        EXPECT_EQ(textOf(window(), "confirmCleanup"), "Delete " + total + " permanently");
+    }
+    confirm();
     const Tree after = tree();
     EXPECT_THAT(differences(without(before, toTrash, permanently), after), IsEmpty());
 
@@ -259,12 +297,12 @@ TEST_P(WholeCleanup, takesWhatTheReviewListedAndNothingElse) {
     }
 
     // Tools run for real, and fail with what they say.
-    const auto all = statuses();
+    const auto ended = statuses();
     std::size_t unwell = 0;
     for (const auto& [item, tool] : byTool) {
-        const Cleaner::Status& status = all.at(item);
+        const Cleaner::Status& status = ended.at(item);
         const auto* failure = std::get_if<Cleaner::Failed>(&status);
-        if (tool == "/usr/bin/env npm cache clean --force") {
+        if (tool == wellTool) {
             EXPECT_EQ(status, Cleaner::Status(Cleaner::RanCommand{"npm was told: cache clean --force\n"}));
             continue;
         }
@@ -277,7 +315,9 @@ TEST_P(WholeCleanup, takesWhatTheReviewListedAndNothingElse) {
     }
     EXPECT_GT(unwell, 1U);
     EXPECT_EQ(failed, unwell);
-    EXPECT_THAT(textOf(window(), "cleanupResult"), testing::EndsWith(" · " + std::to_string(unwell) + " skipped"));
+    EXPECT_EQ(textOf(window(), "cleanupResult"), byteFigure(static_cast<std::int64_t>(recovered)).toStdString() +
+                                                     " · " + std::to_string(gone) + " items · " +
+                                                     std::to_string(unwell) + " skipped");
 
     keep();
     EXPECT_THAT(differences(after, tree()), IsEmpty()) << "the survey that follows only looks";
