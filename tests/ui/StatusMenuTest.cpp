@@ -85,11 +85,16 @@ TEST_F(Status, offersNothingToCleanWhereNothingIsSafe) {
 }
 
 TEST_F(Status, cleansTheSafeCachesThroughTheModel) {
+    machine.files.addFile(home + "/Library/Caches/Yarn/v6");
+    machine.files.addFile(home + "/projects/app/node_modules/a.js");
     survey();
     const int phases = timesSignalled("scanPhase");
     press("Clean safe caches (");
     runUntil([&] { return timesSignalled("scanPhase") > phases; });  // the survey that follows every cleaning
     runUntil([&] { return model().scanPhase() == Phase::finished; });
+    EXPECT_THAT(machine.trash.trashed(), ElementsAre(home + "/Library/Caches/Yarn")) << "the modules are not safe";
+    EXPECT_FALSE(machine.files.exists(home + "/Library/Caches/Yarn/v6"));
+    EXPECT_TRUE(machine.files.exists(home + "/projects/app/node_modules/a.js"));
 }
 
 TEST_F(Status, runSurveyGoesToTheOverviewStartsOneAndOpensZelk) {
