@@ -66,6 +66,32 @@ TEST_F(Overview, aSecondSurveyShowsTheTrendAndTheChanges) {
     runUntil([&] { return find("changesDone") == nullptr; });
 }
 
+TEST_F(Overview, theTabKeyReadsTheFindingsInTheirOrder) {
+    machine.trash.put("old.zip", 7'000'000);
+    shell();
+    surveyFromTheButton();
+    machine.directories.file(home + "/projects/another film.mov", 2'000'000'000, 3'000);
+    surveyFromTheButton();
+    find("scanButton")->forceActiveFocus(Qt::TabFocusReason);
+    std::vector<std::string> order{"scanButton"};
+    double above = 0;
+    while (order.back() != "changesButton") {
+        press(Qt::Key_Tab);
+        window().grabWindow();
+        const QQuickItem* item = window().activeFocusItem();
+        order.push_back(focusName().toStdString());
+        ASSERT_TRUE(find("findings")->isAncestorOf(item)) << order.back() << ": the findings are left too early";
+        const QQuickItem* scroll = find("surveyScroll");
+        EXPECT_TRUE(scroll->boundingRect().contains(item->mapRectToItem(scroll, item->boundingRect())))
+            << order.back() << " is not scrolled to";
+        const double bottom = item->mapToItem(find("findings"), QPointF(0, item->height())).y();
+        EXPECT_GE(bottom, above) << order.back() << " stands above what comes before it";
+        above = bottom;
+    }
+    EXPECT_THAT(order, testing::ElementsAre("scanButton", "reviewButton", "trashButton", "findingCard0", "findingCard1",
+                                            "findingCard2", "findingCard3", "seeAllButton", "changesButton"));
+}
+
 TEST_F(Overview, theTrashIsEmptiedFromItsBanner) {
     machine.trash.put("old.zip", 7'000'000);
     shell();
