@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The windows of the application: how many, how large, and what closing one does.
+#include "ReclaimHands.h"
 #include "ShellFixture.h"
 #include "fakes/FakeTray.h"
 
@@ -52,6 +53,20 @@ TEST_F(Windows, theOthersHaveTheirTitlesAndSizes) {
     QQuickWindow& settings = main().openWindow(WindowId::settings);
     EXPECT_EQ(settings.minimumSize(), QSize(460, 360));
     EXPECT_EQ(settings.maximumSize(), QSize(460, 360));
+}
+
+TEST_F(Windows, theMarkOfAboutIsTheDriveInItsMiddle) {
+    QQuickWindow& about = main().openWindow(WindowId::about);
+    runUntil([&] { return about.isExposed(); });
+    const QQuickItem* drive = findVisible(about, [](const QQuickItem& item) {
+        return item.inherits("zelk::SymbolItem") && item.property("name").toString() == QStringLiteral("internaldrive");
+    });
+    ASSERT_NE(drive, nullptr);
+    const QQuickItem* mark = drive->parentItem();
+    EXPECT_EQ(mark->size(), QSizeF(96, 96)) << "with its glow";
+    EXPECT_EQ(drive->mapToItem(mark, drive->boundingRect().center()), QPointF(48, 48));
+    EXPECT_LE(drive->width() * std::sqrt(2), 78) << "inside the disc";
+    EXPECT_NEAR(mark->mapToScene({48, 0}).x(), about.width() / 2.0, 1);
 }
 
 TEST_F(Windows, theSettingsSayTheirNameOnce) {

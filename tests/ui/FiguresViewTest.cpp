@@ -26,20 +26,7 @@ protected:
              {640, 400});
     }
     QQuickItem& one() { return *find("one"); }
-    /// The item that shows this text.
-    QQuickItem* showing(const char* text) {
-        for (QQuickItem* item : seen())
-            if (item->property("text").toString() == QString::fromUtf8(text) && item->property("color").isValid())
-                return item;
-        return nullptr;
-    }
     double top(const QQuickItem* item) { return item->mapToScene({}).y(); }
-    double sizeOf(const char* text) {
-        const QQuickItem* item = showing(text);
-        if (item == nullptr) return 0;
-        const QVariant own = item->property("pixelSize");
-        return own.isValid() ? own.toDouble() : item->property("font").value<QFont>().pixelSize();
-    }
     QColor colorOf(const char* text) { return showing(text)->property("color").value<QColor>(); }
     template <class T>
     T* only() {
@@ -49,6 +36,10 @@ protected:
         return found;
     }
     Theme& theme() { return singleton<Theme>("Theme"); }
+    static QColor withAlpha(QColor color, double alpha) {
+        color.setAlphaF(static_cast<float>(alpha));
+        return color;
+    }
     QColor themes(const char* name) { return theme().property(name).value<QColor>(); }
 };
 
@@ -133,6 +124,37 @@ TEST_F(FiguresWindow, aProgressBarRunsWithMotion) {
     runUntil([&] { return one().property("seconds").toDouble() != before; });
 }
 
+TEST_F(FiguresWindow, aModuleCardHasItsTileItsTextsAndTheWayOn) {
+    showOne(
+        QStringLiteral("ModuleCard { objectName: 'one'; symbol: 'tray.full'; title: 'Clutter'; value: '3 GB'; "
+                       "detail: '12 large files'; tint: 'red' }"));
+    EXPECT_GE(one().width(), 140);
+    EXPECT_EQ(one().property("padding").toDouble(), 16);
+    const SymbolItem* tray = symbol("tray.full");
+    ASSERT_NE(tray, nullptr);
+    EXPECT_EQ(tray->size(), sideBesideText(15));
+    EXPECT_EQ(tray->color(), QColor(Qt::red));
+    const QQuickItem* tile = tray->parentItem();
+    EXPECT_EQ(tile->size(), QSizeF(34, 34));
+    EXPECT_EQ(tile->property("color").value<QColor>(), withAlpha(Qt::red, 0.16));
+    EXPECT_EQ(tile->mapToItem(&one(), QPointF()), QPointF(16, 16));
+    EXPECT_EQ(sizeOf("Clutter"), 11);
+    EXPECT_EQ(sizeOf("3 GB"), 23);
+    EXPECT_EQ(sizeOf("12 large files"), 11);
+    EXPECT_LT(top(showing("Clutter")), top(showing("3 GB")));
+    EXPECT_EQ(top(showing("12 large files")), top(showing("3 GB")) + showing("3 GB")->height() + 2);
+    const SymbolItem* on = symbol("chevron.right");
+    ASSERT_NE(on, nullptr);
+    EXPECT_EQ(on->mapRectToItem(&one(), on->boundingRect()).right(), one().width() - 16);
+}
+
+TEST_F(FiguresWindow, aModuleCardIsNeverNarrowerThan140) {
+    showOne(
+        QStringLiteral("ModuleCard { objectName: 'one'; symbol: 'tray.full'; title: ''; value: '0'; detail: ''; "
+                       "tint: 'red' }"));
+    EXPECT_EQ(one().width(), 140);
+}
+
 TEST_F(FiguresWindow, aRibbonIs22HighOverALegendOfAllSegments) {
     showOne(
         QStringLiteral("StorageRibbon { objectName: 'one'; width: 600; freeBytes: 100; segments: board.segments }"));
@@ -179,6 +201,14 @@ TEST_F(FiguresWindow, aDeviceHeaderTellsTheMachineAndItsVolume) {
     EXPECT_LT(top(showing("1 KB free")), top(showing("of 2 KB")));
     const QQuickItem* total = showing("of 2 KB");
     EXPECT_EQ(total->mapRectToScene(total->boundingRect()).right(), 600);
+    const SymbolItem* laptop = symbol("laptopcomputer");
+    ASSERT_NE(laptop, nullptr);
+    EXPECT_EQ(laptop->size(), 22);
+    EXPECT_EQ(laptop->color(), themes("accent"));
+    const QQuickItem* box = laptop->parentItem();
+    EXPECT_EQ(box->size(), QSizeF(22 + 2 * 12, 22 + 2 * 12));
+    EXPECT_EQ(box->property("color").value<QColor>(), withAlpha(themes("accent"), 0.15));
+    EXPECT_LT(box->mapToScene({}).x(), showing("Studio")->mapToScene({}).x());
 }
 
 TEST_F(FiguresWindow, aDeviceHeaderWithoutAVolumeGivesItsRoomToTheName) {

@@ -51,6 +51,22 @@ TEST_F(FirstRunWindow, onlyTheCurrentPageIsSeen) {
     }
 }
 
+TEST_F(FirstRunWindow, aPageIsItsDiscItsTitleAndItsBody) {
+    open();
+    const SymbolItem* drive = symbol("internaldrive.fill");
+    ASSERT_NE(drive, nullptr);
+    EXPECT_EQ(drive->size(), 44);
+    EXPECT_EQ(drive->color(), QColor(Qt::white));
+    const QQuickItem* disc = drive->parentItem();
+    EXPECT_EQ(disc->size(), QSizeF(108, 108));
+    EXPECT_EQ(disc->property("radius").toDouble(), 54);
+    EXPECT_EQ(sizeOf("Welcome to Zelk"), 26);
+    EXPECT_EQ(sizeOf("A fast, private way to understand and clean your Mac."), 14);
+    EXPECT_EQ(sizeOf("Skip"), 13);
+    for (const char* text : {"Welcome to Zelk", "A fast, private way to understand and clean your Mac."})
+        EXPECT_EQ(showing(text)->property("horizontalAlignment").toInt(), static_cast<int>(Qt::AlignHCenter)) << text;
+}
+
 TEST_F(FirstRunWindow, theLastPageHidesSkipAndGetsStarted) {
     open();
     for (int page = 0; page < 3; ++page) press(Qt::Key_Return);
@@ -125,6 +141,23 @@ TEST_F(FirstRunWindow, thePanelAsksWithAllItsTexts) {
         EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
     EXPECT_TRUE(firstRun.access()->polling());
     expectAllControlsNamed();
+}
+
+TEST_F(FirstRunWindow, thePanelIs460By420AndInItsOrder) {
+    openAtPanel();
+    const QQuickItem* dialog = find("openSettingsButton");
+    ASSERT_NE(dialog, nullptr);
+    while (!dialog->inherits("QQuickPopupItem")) ASSERT_NE(dialog = dialog->parentItem(), nullptr);
+    EXPECT_EQ(dialog->size(), QSizeF(460, 420));
+    ASSERT_NE(symbol("lock.open.display"), nullptr);
+    double above = symbol("lock.open.display")->mapToScene({}).y();
+    for (const char* text :
+         {"Zelk needs Full Disk Access", "to survey your whole drive.", "Open Settings → drag Zelk in → come back.",
+          "Open Settings", "waiting for access…", "Continue without it"}) {
+        ASSERT_NE(showing(text), nullptr) << text;
+        EXPECT_GT(showing(text)->mapToScene({}).y(), above) << text;
+        above = showing(text)->mapToScene({}).y();
+    }
 }
 
 TEST_F(FirstRunWindow, thePanelIsWalkedWithTheKeyboard) {

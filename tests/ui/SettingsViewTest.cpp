@@ -136,6 +136,22 @@ TEST_F(SettingsWindow, rescansFromTheKeyboard) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
+TEST_F(SettingsWindow, aRowHasTheSymbolsOfAFolderAndOfTakingItOff) {
+    open();
+    const SymbolItem* folder = symbol("folder.fill");
+    const SymbolItem* remove = symbol("minus.circle");
+    ASSERT_NE(folder, nullptr);
+    ASSERT_NE(remove, nullptr);
+    const QQuickItem* path = find("rootPath");
+    EXPECT_LT(folder->mapToScene({}).x(), path->mapToScene({}).x());
+    EXPECT_GE(remove->mapToScene({}).x(), path->mapToScene({path->width(), 0}).x());
+    tour::clickAt(window(), remove->mapToScene(remove->boundingRect().center()));
+    settle();
+    EXPECT_EQ(model().scanRoots(), Roots{});
+    EXPECT_EQ(symbol("minus.circle"), nullptr);
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
 TEST_F(SettingsWindow, aLongPathLosesItsMiddleAndIsToldWhole) {
     const std::string path = "/beginning/" + std::string(200, 'n') + "/end";
     model().setScanRoots({path});

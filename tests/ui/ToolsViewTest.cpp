@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ViewFixture.h"
+#include "ui/components/ScreenLook.h"
 #include "ui/tools/ToolsScreenModel.h"
 
 namespace zelk {
@@ -31,6 +32,24 @@ TEST_F(ToolsWindow, showsItsHeaderAndEveryTextOfEveryRow) {
                              "Find byte-identical files across your folders.", "keep one copy, trash the rest"})
         EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
     EXPECT_EQ(texts.size(), 2U + 10U + 10U + 4U) << "a row without a cleanup leaves no empty line";
+}
+
+TEST_F(ToolsWindow, aRowHasItsTileAndItsThreeTexts) {
+    open({800, 1400});
+    EXPECT_EQ(sizeOf("Duplicates"), 17);
+    EXPECT_EQ(sizeOf("Find byte-identical files across your folders."), 14);
+    EXPECT_EQ(sizeOf("keep one copy, trash the rest"), 12);
+    const Theme& theme = singleton<Theme>("Theme");
+    EXPECT_EQ(showing("Find byte-identical files across your folders.")->property("color").value<QColor>(),
+              theme.inkSoft());
+    const SymbolItem* copies = symbol("doc.on.doc");
+    ASSERT_NE(copies, nullptr);
+    const QColor tint = lookOf(Screen::duplicates).color;
+    EXPECT_EQ(copies->color(), tint);
+    EXPECT_EQ(copies->parentItem()->size(), QSizeF(40, 40));
+    QColor soft = tint;
+    soft.setAlphaF(0.16F);
+    EXPECT_EQ(copies->parentItem()->property("color").value<QColor>(), soft);
 }
 
 TEST_F(ToolsWindow, tabGoesThroughAllRowsFromTheFirst) {

@@ -38,4 +38,12 @@ TEST_F(TrashBannerWindow, readsItAgainWheneverItComesBack) {
     machine.tasks.release();
 }
 
+TEST_F(TrashBannerWindow, hasItsSymbolBeforeItsTexts) {
+    show(QStringLiteral("Zelk.Survey"), QStringLiteral("TrashBanner"), "trash", &banner, {640, 80});
+    const SymbolItem* trash = symbol("trash.fill");
+    ASSERT_NE(trash, nullptr);
+    ASSERT_NE(showing("Trash"), nullptr);
+    EXPECT_LT(trash->mapToScene({}).x() + trash->width(), showing("Trash")->mapToScene({}).x());
+}
+
 }  // namespace zelk

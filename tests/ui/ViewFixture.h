@@ -9,6 +9,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <cmath>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@
 #include "Camera.h"
 #include "state/AppModelFixture.h"
 #include "ui/shell/Application.h"
+#include "ui/symbols/SymbolItem.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/TextScale.h"
 #include "ui/theme/Theme.h"
@@ -134,6 +136,35 @@ protected:
             if (item->inherits("QQuickText")) texts.push_back(item->property("text").toString().toStdString());
         return texts;
     }
+
+    /// The item that shows this text itself; nullptr if none is seen.
+    QQuickItem* showing(const char* text) {
+        for (QQuickItem* item : seen())
+            if (item->property("text").toString() == QString::fromUtf8(text) &&
+                (item->inherits("QQuickText") || item->inherits("zelk::FigureText")))
+                return item;
+        return nullptr;
+    }
+    /// In points at the normal text size; 0 if the text is not seen.
+    double sizeOf(const char* text) {
+        const QQuickItem* item = showing(text);
+        if (item == nullptr) return 0;
+        const QVariant own = item->property("pixelSize");
+        return own.isValid() ? own.toDouble() : item->property("font").value<QFont>().pixelSize();
+    }
+    /// The symbol of this name that is seen; nullptr if there is none, or more than one.
+    SymbolItem* symbol(const char* name) {
+        SymbolItem* found = nullptr;
+        for (QQuickItem* item : seen()) {
+            auto* symbol = qobject_cast<SymbolItem*>(item);
+            if (symbol == nullptr || symbol->name() != QLatin1String(name)) continue;
+            if (found != nullptr) return nullptr;
+            found = symbol;
+        }
+        return found;
+    }
+    /// The side of a symbol that looks as large as a text of this size.
+    static int sideBesideText(double points) { return static_cast<int>(std::lround(points * 1.2)); }
 
     void expectAllControlsNamed() {
         int controls = 0;
