@@ -136,7 +136,8 @@ TEST_F(ReclaimScreen, theItemViewSeedsWhenItComesOnScreen) {
     EXPECT_THAT(selection().selected(), IsEmpty());
     EXPECT_EQ(machine.workspace.runningReads, 0);
     screen().setOnScreen(true);
-    EXPECT_THAT(selection().selected(), UnorderedElementsAre(npm, cursorCache, slackCache, yarn, appModules, webModules));
+    EXPECT_THAT(selection().selected(),
+                UnorderedElementsAre(npm, cursorCache, slackCache, yarn, appModules, webModules));
     EXPECT_EQ(selection().seededFor(), 7U);
 }
 

@@ -83,7 +83,8 @@ def units(build: Path):
     entries = json.loads((build / "compile_commands.json").read_text())
     found = [Unit(Path(entry["file"]), kept_flags(entry["command"])) for entry in entries]
     # What QML is translated to is the same on every system, and half of all units.
-    found = [unit for unit in found if not any(part in str(unit.source) for part in (*LINUX_ONLY, "/qmlcache/"))]
+    found = [unit for unit in found if not any(part in str(unit.source).removeprefix(str(ROOT))
+                                             for part in (*LINUX_ONLY, "/qmlcache/"))]
     known = {unit.source for unit in found}
     for source in sorted((ROOT / "src").rglob("macos/*")):
         if source.suffix in (".cpp", ".mm") and source not in known:

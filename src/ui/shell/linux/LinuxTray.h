@@ -13,8 +13,6 @@ namespace zelk {
 /// `usable`, which asks it, is called when there is one to find, or at once where there may be one that nobody
 /// announces.
 class LinuxTray : public Tray {
-    Q_OBJECT
-
 public:
     LinuxTray(const QDBusConnection& bus, bool mayBeUnannounced, std::function<bool()> usable);
 
