@@ -63,8 +63,8 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, T
 
 bool Tour::run() {
     return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
-           clutter() && roots() && sidebarAndMenus() && windows() && firstRun() && smallAndLarge() && focus() &&
-           keptItem() && nothingFound();
+           clutter() && roots() && sidebarAndMenus() && windows() && firstRun() && smallAndLarge() && taking() &&
+           focus() && keptItem() && nothingFound();
 }
 
 bool Tour::gallery() {
@@ -124,8 +124,10 @@ bool Tour::underWay() {
     bool taken = true;
     if (scanning()) {
         waitUntil([this] { return window_.survey().itemsLine() != QStringLiteral("0 items"); });
-        taken = picture(QStringLiteral("survey-scanning")) && go(Screen::lens) &&
-                picture(QStringLiteral("lens-scanning")) && go(Screen::survey);
+        taken = picture(QStringLiteral("survey-scanning"));
+        for (const Screen screen : {Screen::reclaim, Screen::lens, Screen::clutter})
+            taken = taken && go(screen) && picture(lookOf(screen).title.toLower() + QStringLiteral("-scanning"));
+        taken = taken && go(Screen::survey);
     } else {
         taken = missing("a survey under way");
     }
@@ -202,7 +204,7 @@ bool Tour::lens() {
     if (!clickOn(window, QStringLiteral("lensSelect")) || !appears(window, "lensSelectAll")) return missed("the ticks");
     const bool taken = picture(QStringLiteral("lens-menu"));
     pressKey(window, Qt::Key_Escape);
-    return taken && clickOn(window, QStringLiteral("lensStartOver")) && go(Screen::survey);
+    return taken && clickOn(window, QStringLiteral("lensStartOver")) && lensMap() && go(Screen::survey);
 }
 
 /// Where the survey before this one found other sizes.

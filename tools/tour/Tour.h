@@ -39,6 +39,8 @@ private:
     bool findings();
     bool trash();
     bool lens();
+    bool lensMap();
+    bool taking();
     bool changes();
     bool clutter();
     bool roots();
