@@ -192,7 +192,9 @@ bool Tour::lens() {
         for (const Qt::Key key : keys) pressKey(window, key);
     };
     if (!clickOn(window, QStringLiteral("lensStartOver")) || !picture(QStringLiteral("lens-results"))) return false;
-    findControl(window, QStringLiteral("lensList"))->forceActiveFocus(Qt::TabFocusReason);
+    QQuickItem* folders = findControl(window, QStringLiteral("lensList"));
+    if (folders->property("count").toInt() == 0) return missing("a folder to go into") && go(Screen::survey);
+    folders->forceActiveFocus(Qt::TabFocusReason);
     pressAll({Qt::Key_Home, Qt::Key_Return});
     if (!picture(QStringLiteral("lens-drilled"))) return false;
     pressAll({Qt::Key_Space, Qt::Key_Left, Qt::Key_Down, Qt::Key_Space, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space});

@@ -84,6 +84,7 @@ bool Tour::keptItem() {
     app_.setAudience(AppModel::Audience::developer);
     if (!go(Screen::reclaim) || !appears(window_.window(), "itemList")) return missed("the caches");
     ItemList& list = *window_.reclaim().items();
+    list.setAgeDays(0);  // they are new
     list.setOpen(0, true);
     const auto isKept = [&list](int row) {
         return list.data(list.index(row), ItemList::lineRole).toString().startsWith(QStringLiteral("quit "));

@@ -24,8 +24,10 @@ bool Tour::lensMap() {
 bool Tour::taking() {
     QQuickWindow& window = window_.window();
     if (!go(Screen::lens) || !appears(window, "lensList")) return missed("the folders");
+    QQuickItem* folders = findControl(window, QStringLiteral("lensList"));
+    if (folders->property("count").toInt() == 0) return missing("a folder to remove") && go(Screen::survey);
     const QQuickItem* remove = findControl(window, QStringLiteral("lensRemove"));
-    findControl(window, QStringLiteral("lensList"))->forceActiveFocus(Qt::TabFocusReason);
+    folders->forceActiveFocus(Qt::TabFocusReason);
     for (const Qt::Key key : {Qt::Key_End, Qt::Key_Space}) pressKey(window, key);
     if (!remove->isEnabled() || !clickOn(window, QStringLiteral("lensRemove"))) return missed("what is to be removed");
     waitUntil([&] { return !remove->isEnabled(); });

@@ -6,12 +6,11 @@
 #include <QMouseEvent>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QTimer>
 #include <cstdio>
-#include <functional>
 #include <utility>
 #include <vector>
 
+#include "Camera.h"
 #include "ui/shell/Application.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/TextScale.h"
@@ -22,6 +21,8 @@ void qml_register_types_Zelk_Gallery();
 namespace zelk {
 
 namespace {
+
+using tour::waitUntil;
 
 // Around what is shown: a ring stands off its control.
 constexpr int rim = 6;
@@ -64,12 +65,6 @@ QQuickItem* controlOf(QQuickItem& item) {
 QPointF pointIn(const QQuickItem& item) {
     const QVariant share = item.property("pointAt");
     return item.mapToScene({item.width() * (share.isValid() ? share.toReal() : 0.5), item.height() / 2});
-}
-
-void waitUntil(const std::function<bool()>& done) {
-    QTimer wake;
-    wake.start(10);
-    while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 }  // namespace
