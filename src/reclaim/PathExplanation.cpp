@@ -19,9 +19,7 @@ struct Note {
     bool regenerates;
 };
 
-constexpr auto safe = ReclaimSafety::safe;
-constexpr auto rebuilt = ReclaimSafety::regenerates;
-constexpr auto review = ReclaimSafety::review;
+using enum ReclaimSafety;
 
 constexpr std::string_view webCache =
     "Build cache for a Next.js / Turbo / Vercel project. Regenerated on your next dev or build run.";
@@ -38,23 +36,23 @@ constexpr std::array names{
     Note{"node_modules", "",
          "Installed JavaScript packages for a project. Safe to delete — reinstall with npm/pnpm/yarn install when you "
          "next work on it.",
-         rebuilt, true},
+         regenerates, true},
     Note{"DerivedData", "Xcode DerivedData",
          "Xcode's build intermediates and indexes. Safe to delete; Xcode rebuilds them on the next build (the first "
          "build will be slower).",
          safe, true},
-    Note{".next", "", webCache, rebuilt, true},
-    Note{".turbo", "", webCache, rebuilt, true},
-    Note{".vercel", "", webCache, rebuilt, true},
-    Note{".gradle", "", mobileCache, rebuilt, true},
-    Note{".expo", "", mobileCache, rebuilt, true},
-    Note{".expo-shared", "", mobileCache, rebuilt, true},
+    Note{".next", "", webCache, regenerates, true},
+    Note{".turbo", "", webCache, regenerates, true},
+    Note{".vercel", "", webCache, regenerates, true},
+    Note{".gradle", "", mobileCache, regenerates, true},
+    Note{".expo", "", mobileCache, regenerates, true},
+    Note{".expo-shared", "", mobileCache, regenerates, true},
     Note{"__pycache__", "Python __pycache__",
          "Compiled Python bytecode. Regenerated automatically when you run the code.", safe, true},
     Note{".venv", "Python virtual environment", pythonEnvironment, review, true},
     Note{"venv", "Python virtual environment", pythonEnvironment, review, true},
     Note{"target", "Rust target",
-         "Compiled Rust build output. Rebuilds with cargo build; the first rebuild will be slower.", rebuilt, true},
+         "Compiled Rust build output. Rebuilds with cargo build; the first rebuild will be slower.", regenerates, true},
     Note{".git", "Git repository",
          "The full history of a Git project. Deleting it loses your version history — keep unless you know you don't "
          "need it.",

@@ -59,9 +59,6 @@ bool isQtFree(const std::string& path) {
 bool isUpper(char c) {
     return std::isupper(static_cast<unsigned char>(c)) != 0;
 }
-bool isWord(char c) {
-    return c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;
-}
 
 /// <QString>, <QtCore/...>, and <qobject.h> or the like, which no other library has at its top.
 bool isQtHeader(const std::string& target) {
@@ -116,6 +113,10 @@ std::size_t findWord(std::string_view text, std::string_view word) {
 }
 
 }  // namespace
+
+bool isWord(char c) {
+    return c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;
+}
 
 std::string withoutComments(std::string_view text) {
     std::string out;

@@ -25,6 +25,9 @@ struct Include {
     int line;
 };
 
+/// Whether the character may stand in a name of C++ or QML.
+bool isWord(char c);
+
 /// `text` without comments; line breaks stay, so that line numbers do too. String literals are kept.
 std::string withoutComments(std::string_view text);
 

@@ -2,10 +2,14 @@
 // The rules of the house, held against every source of this repository.
 #include <gmock/gmock.h>
 
+#include <QDirIterator>
+#include <QFile>
+#include <QLibraryInfo>
 #include <algorithm>
 #include <filesystem>
 
 #include "HouseRules.h"
+#include "QmlNames.h"
 #include "SymbolNames.h"
 
 namespace zelk::house {
@@ -56,6 +60,22 @@ TEST(House, onlyTheOutermostProgramsMakeThePlatform) {
 
 TEST(House, everySourceHasItsLicenceAndIsShort) {
     EXPECT_EQ(broken(checkForm), "");
+}
+
+TEST(House, noIdIsShadowedByAProperty) {
+    std::vector<std::string> descriptions;
+    for (QDirIterator at(QLibraryInfo::path(QLibraryInfo::QmlImportsPath), {QStringLiteral("*.qmltypes")}, QDir::Files,
+                         QDirIterator::Subdirectories);
+         at.hasNext();) {
+        QFile file(at.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+        descriptions.push_back(file.readAll().toStdString());
+    }
+    EXPECT_EQ(listed(checkIds(sources(), descriptions)), "");
+}
+
+TEST(House, noCastIsToAQmlTypeOfOurs) {
+    EXPECT_EQ(listed(checkCasts(sources())), "");
 }
 
 TEST(House, everySymbolThatIsNamedIsDrawn) {

@@ -80,10 +80,6 @@ constexpr std::array<std::string_view, 60> kBeginnings = {"archivebox",
                                                           "tray",
                                                           "xmark"};
 
-bool isWord(char c) {
-    return c == '_' || std::isalnum(static_cast<unsigned char>(c)) != 0;
-}
-
 Tokens tokensOf(const std::string& source) {
     const std::string text = withoutComments(source);
     Tokens tokens;

@@ -42,7 +42,7 @@ bool isFolderAfter(int error, int folder, const std::string& name) {
     return status && status->isDirectory();
 }
 
-std::string reasonOf(int error) {
+std::string reasonOfRemoval(int error) {
     return error == EXDEV ? "another volume is mounted there" : systemText(error);
 }
 
@@ -142,7 +142,7 @@ private:
 
     bool fail(const std::string& name, bool isItem, int error) {
         const std::string within = isItem ? "" : "in “" + readableName(names_.front()) + "” ";
-        failure_ = failureText(name, within + std::string(what), reasonOf(error));
+        failure_ = failureText(name, within + std::string(what), reasonOfRemoval(error));
         return false;
     }
 

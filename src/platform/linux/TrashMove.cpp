@@ -74,7 +74,7 @@ int moveWithInfo(const Place& item, const Place& content, const Place& info, std
     return error;
 }
 
-std::string reasonOf(int error) {
+std::string reasonOfMove(int error) {
     switch (error) {
         case EXDEV:
             return "it is not on the same volume as its Trash";
@@ -116,7 +116,7 @@ Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFol
         error = moveWithInfo(item, {trash.files.get(), name}, info, text);
     }
     if (error == 0) return std::nullopt;
-    return reasonOf(error);
+    return reasonOfMove(error);
 }
 
 Descriptor holdTrash(int info) {

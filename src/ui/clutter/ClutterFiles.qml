@@ -44,27 +44,27 @@ FocusScope {
             menu.popup(list, at.x, at.y);
         }
 
-        function openMenuOfCurrent() {
+        // Of the row, which must be in sight for it.
+        signal menuOfCurrentWanted
+
+        function openMenuByKey() {
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
-            const row = list.currentItem as ClutterRow;
-            if (!row)
-                return;
             list.byKey = true;
-            list.openMenu(list.currentIndex, row.mapToItem(list, row.menuPlace));
+            list.menuOfCurrentWanted();
             menu.currentIndex = 0;
         }
 
         Keys.onReturnPressed: event => {
             if (!event.isAutoRepeat)
-                list.openMenuOfCurrent();
+                list.openMenuByKey();
         }
         Keys.onEnterPressed: event => {
             if (!event.isAutoRepeat)
-                list.openMenuOfCurrent();
+                list.openMenuByKey();
         }
         Keys.onMenuPressed: event => {
             if (!event.isAutoRepeat)
-                list.openMenuOfCurrent();
+                list.openMenuByKey();
         }
         // A held key takes one file away and not all that move up.
         Keys.onDeletePressed: event => {
@@ -76,9 +76,19 @@ FocusScope {
         }
 
         delegate: ClutterRow {
+            id: fileRow
+
             ringed: list.ringed && ListView.isCurrentItem
             onTaken: list.take(index)
             onAsked: at => list.openMenu(index, mapToItem(list, at))
+
+            Connections {
+                target: list
+                enabled: fileRow.ListView.isCurrentItem
+                function onMenuOfCurrentWanted() {
+                    fileRow.asked(fileRow.menuPlace);
+                }
+            }
         }
 
         Connections {
@@ -95,7 +105,7 @@ FocusScope {
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier && list.activeFocus;
         if (event.accepted)
-            list.openMenuOfCurrent();
+            list.openMenuByKey();
     }
 
     FileMenu {

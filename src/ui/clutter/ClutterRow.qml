@@ -82,7 +82,7 @@ ListRow {
 
         anchors.left: tile.right
         anchors.leftMargin: 14
-        anchors.right: age.left
+        anchors.right: ageText.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
@@ -107,9 +107,9 @@ ListRow {
     }
 
     Words {
-        id: age
+        id: ageText
 
-        anchors.right: size.left
+        anchors.right: sizeText.left
         anchors.verticalCenter: parent.verticalCenter
         width: Math.round(90 * TextScale.factor)
         horizontalAlignment: Text.AlignRight
@@ -120,7 +120,7 @@ ListRow {
     }
 
     Words {
-        id: size
+        id: sizeText
 
         anchors.right: more.left
         anchors.rightMargin: 12

@@ -8,7 +8,7 @@ import Zelk.Clutter
 import Zelk.Components
 
 MenuPanel {
-    id: menu
+    id: fileMenu
 
     required property ClutterScreenModel clutter
 
@@ -16,16 +16,16 @@ MenuPanel {
 
     MenuRow {
         objectName: "revealFile"
-        text: menu.clutter.revealLabel
+        text: fileMenu.clutter.revealLabel
         symbol: "folder"
-        onTriggered: menu.clutter.reveal()
+        onTriggered: fileMenu.clutter.reveal()
     }
 
     MenuRow {
         objectName: "trashFile"
-        text: menu.clutter.trashLabel
+        text: fileMenu.clutter.trashLabel
         symbol: "trash"
         alarming: true
-        onTriggered: menu.clutter.moveToTrash()
+        onTriggered: fileMenu.clutter.moveToTrash()
     }
 }

@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.Clutter
 import Zelk.Components
 
@@ -17,7 +18,7 @@ FocusScope {
     Accessible.name: choice.clutter.pillsName
 
     function choose(row: int) {
-        const next = pills.itemAt(row) as PillButton;
+        const next = pills.itemAt(row) as T.AbstractButton;
         if (!next)
             return;
         next.forceActiveFocus(Qt.TabFocusReason);

@@ -12,7 +12,7 @@ Item {
 
     required property deviceFace device
 
-    implicitWidth: box.width + Math.max(name.implicitWidth, detail.implicitWidth) + volume.width + 40
+    implicitWidth: box.width + Math.max(nameText.implicitWidth, detail.implicitWidth) + volume.width + 40
     implicitHeight: Math.max(box.height, names.height, volume.height)
 
     Rectangle {
@@ -45,7 +45,7 @@ Item {
         spacing: 3
 
         Words {
-            id: name
+            id: nameText
 
             width: parent.width
             text: header.device.name

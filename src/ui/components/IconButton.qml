@@ -7,7 +7,7 @@ import Zelk.Symbols
 import Zelk.Theme
 
 BaseButton {
-    id: icon
+    id: button
 
     required property string symbol
     property string help: ""
@@ -17,33 +17,33 @@ BaseButton {
 
     readonly property real corner: 8
 
-    implicitWidth: Math.round(icon.side * TextScale.factor)
-    implicitHeight: Math.round(icon.side * TextScale.factor)
-    opacity: icon.enabled ? 1 : 0.45
+    implicitWidth: Math.round(button.side * TextScale.factor)
+    implicitHeight: Math.round(button.side * TextScale.factor)
+    opacity: button.enabled ? 1 : 0.45
 
-    Accessible.description: icon.help
+    Accessible.description: button.help
 
     background: Wash {
-        radius: icon.corner
-        control: icon
+        radius: button.corner
+        control: button
 
         FocusRing {
-            shown: icon.visualFocus
-            corner: icon.corner
+            shown: button.visualFocus
+            corner: button.corner
         }
     }
 
     contentItem: Item {
         SymbolItem {
             anchors.centerIn: parent
-            name: icon.symbol
-            color: icon.hovered && icon.enabled ? Theme.ink : icon.tint
-            size: Math.round(icon.size * TextScale.factor)
+            name: button.symbol
+            color: button.hovered && button.enabled ? Theme.ink : button.tint
+            size: Math.round(button.size * TextScale.factor)
         }
     }
 
     HelpTip {
-        text: icon.help
-        control: icon
+        text: button.help
+        control: button
     }
 }

@@ -7,17 +7,17 @@ import QtQuick.Templates as T
 import Zelk.Theme
 
 T.Menu {
-    id: menu
+    id: panel
 
     // Of its rows as they would be by themselves: here they are all as wide as the menu.
     readonly property real widest: {
         let most = 0;
-        for (let i = 0; i < menu.count; ++i)
-            most = Math.max(most, menu.itemAt(i)?.implicitWidth ?? 0);
+        for (let i = 0; i < panel.count; ++i)
+            most = Math.max(most, panel.itemAt(i)?.implicitWidth ?? 0);
         return most;
     }
 
-    implicitWidth: Math.max(160, menu.widest + leftPadding + rightPadding)
+    implicitWidth: Math.max(160, panel.widest + leftPadding + rightPadding)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     padding: 5
     margins: 8
@@ -43,10 +43,10 @@ T.Menu {
 
     contentItem: ListView {
         implicitHeight: contentHeight
-        model: menu.contentModel
-        interactive: Window.window ? contentHeight + menu.topPadding + menu.bottomPadding > Window.window.height : false
+        model: panel.contentModel
+        interactive: Window.window ? contentHeight + panel.topPadding + panel.bottomPadding > Window.window.height : false
         clip: true
-        currentIndex: menu.currentIndex
+        currentIndex: panel.currentIndex
 
         T.ScrollBar.vertical: ThinScrollBar {}
     }

@@ -17,8 +17,8 @@ Column {
 
     Item {
         width: parent.width
-        implicitWidth: tile.width + name.implicitWidth + chevron.width + 20
-        implicitHeight: Math.max(tile.height, name.implicitHeight)
+        implicitWidth: tile.width + nameText.implicitWidth + chevron.width + 20
+        implicitHeight: Math.max(tile.height, nameText.implicitHeight)
 
         Tile {
             id: tile
@@ -29,7 +29,7 @@ Column {
         }
 
         Words {
-            id: name
+            id: nameText
 
             anchors.left: tile.right
             anchors.leftMargin: 10

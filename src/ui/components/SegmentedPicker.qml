@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.Theme
 
 FocusScope {
@@ -27,7 +28,7 @@ FocusScope {
     Accessible.name: picker.label
 
     function pick(index: int) {
-        const next = segments.itemAt(index) as BaseButton;
+        const next = segments.itemAt(index) as T.AbstractButton;
         if (!next)
             return;
         next.forceActiveFocus(Qt.TabFocusReason);

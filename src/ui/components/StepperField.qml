@@ -18,12 +18,11 @@ T.SpinBox {
 
     signal moved(int value)
 
-    readonly property StepperFace face: contentItem as StepperFace
     readonly property int corner: 8
     readonly property real buttonSide: Math.round(26 * TextScale.factor)
-    readonly property real boxWidth: 2 * stepper.buttonSide + Math.max(36 * TextScale.factor, (stepper.face?.numberWidth ?? 0) + 16)
+    readonly property real boxWidth: 2 * stepper.buttonSide + Math.max(36 * TextScale.factor, face.numberWidth + 16)
 
-    implicitWidth: Math.ceil((stepper.face?.nameWidth ?? 0) + 12 + stepper.boxWidth)
+    implicitWidth: Math.ceil(face.nameWidth + 12 + stepper.boxWidth)
     implicitHeight: Math.max(stepper.buttonSide + 4, implicitContentHeight)
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
@@ -35,25 +34,25 @@ T.SpinBox {
     Component.onCompleted: contentItem.activeFocusOnTab = false
 
     component StepFace: Item {
-        id: step
+        id: stepButton
 
         required property string symbol
         required property bool down
         required property bool hovered
 
         // There is no further step.
-        opacity: step.enabled ? 1 : 0.35
+        opacity: stepButton.enabled ? 1 : 0.35
 
         Rectangle {
             anchors.fill: parent
             anchors.margins: 2
             radius: 6
-            color: step.down ? Theme.pressWash : step.hovered && step.enabled ? Theme.hoverWash : "transparent"
+            color: stepButton.down ? Theme.pressWash : stepButton.hovered && stepButton.enabled ? Theme.hoverWash : "transparent"
         }
 
         SymbolItem {
             anchors.centerIn: parent
-            name: step.symbol
+            name: stepButton.symbol
             color: Theme.ink
             size: Math.round(10 * TextScale.factor)
         }
@@ -100,6 +99,8 @@ T.SpinBox {
     }
 
     contentItem: StepperFace {
+        id: face
+
         label: stepper.label
         number: stepper.valueText
         size: stepper.size

@@ -30,10 +30,10 @@ Sheet {
 
             Item {
                 width: parent.width
-                implicitHeight: Math.max(symbol.height, headline.implicitHeight)
+                implicitHeight: Math.max(symbolItem.height, headline.implicitHeight)
 
                 SymbolItem {
-                    id: symbol
+                    id: symbolItem
 
                     anchors.verticalCenter: parent.verticalCenter
                     name: sheet.explanation.symbol
@@ -45,7 +45,7 @@ Sheet {
                     id: headline
 
                     objectName: "explanationTitle"
-                    anchors.left: symbol.right
+                    anchors.left: symbolItem.right
                     anchors.leftMargin: 10
                     anchors.right: parent.right
                     anchors.verticalCenter: parent.verticalCenter

@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.Help
 
 FocusScope {
@@ -15,7 +16,7 @@ FocusScope {
 
     // The row that is read was chosen with the keyboard, and it must stay in sight.
     function followKeyboard() {
-        const row = topics.itemAt(list.help.current) as TopicRow;
+        const row = topics.itemAt(list.help.current) as T.AbstractButton;
         row.forceActiveFocus(Qt.TabFocusReason);
         row.focusReason = Qt.TabFocusReason;
     }

@@ -51,10 +51,10 @@ BaseButton {
         y: row.topPadding
         width: row.availableWidth
         height: row.availableHeight
-        implicitHeight: Math.max(symbol.height, label.height)
+        implicitHeight: Math.max(symbolItem.height, label.height)
 
         SymbolItem {
-            id: symbol
+            id: symbolItem
 
             anchors.verticalCenter: parent.verticalCenter
             name: row.symbol
@@ -65,7 +65,7 @@ BaseButton {
         Words {
             id: label
 
-            anchors.left: symbol.right
+            anchors.left: symbolItem.right
             anchors.leftMargin: 12
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter

@@ -16,7 +16,7 @@ Item {
     // The way back that was pressed leads no further.
     signal stepped(bool byKey)
 
-    implicitHeight: Math.max(52, startOver.implicitHeight + 16, name.implicitHeight + 16)
+    implicitHeight: Math.max(52, startOver.implicitHeight + 16, nameText.implicitHeight + 16)
 
     LinkButton {
         id: startOver
@@ -73,7 +73,7 @@ Item {
     }
 
     Words {
-        id: name
+        id: nameText
 
         objectName: "lensPlace"
         anchors.left: drive.right

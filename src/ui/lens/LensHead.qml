@@ -25,10 +25,10 @@ Item {
 
         Item {
             width: parent.width
-            implicitHeight: Math.max(icon.height, texts.implicitHeight)
+            implicitHeight: Math.max(iconItem.height, texts.implicitHeight)
 
             Picture {
-                id: icon
+                id: iconItem
 
                 anchors.verticalCenter: parent.verticalCenter
                 width: 34
@@ -39,7 +39,7 @@ Item {
             Column {
                 id: texts
 
-                anchors.left: icon.right
+                anchors.left: iconItem.right
                 anchors.leftMargin: 12
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter

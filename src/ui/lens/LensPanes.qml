@@ -94,7 +94,7 @@ FocusScope {
             }
 
             Divider {
-                id: border
+                id: divider
 
                 anchors.left: head.right
                 anchors.top: parent.top
@@ -104,7 +104,7 @@ FocusScope {
 
             BubbleChart {
                 objectName: "lensMap"
-                anchors.left: border.right
+                anchors.left: divider.right
                 anchors.right: parent.right
                 anchors.top: parent.top
                 anchors.bottom: parent.bottom
@@ -114,7 +114,7 @@ FocusScope {
             }
 
             EmptyState {
-                anchors.left: border.right
+                anchors.left: divider.right
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 visible: panes.lens.bare

@@ -30,7 +30,7 @@ FocusScope {
     }
 
     ModuleFace {
-        id: progress
+        id: progressArea
 
         shown: scaffold.module.scanning
 

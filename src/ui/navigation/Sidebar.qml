@@ -30,11 +30,12 @@ FocusScope {
         }
     }
 
+    // The keyboard, to a row.
+    signal handed(place: int, reason: int)
+
     // The rows of both lists are one column for the arrow keys.
     function step(place: int, by: int) {
-        const next = place + by;
-        const row = (next < modules.count ? modules.itemAt(next) : foot.itemAt(next - modules.count)) as SidebarRow;
-        row?.takeFocus(by < 0 ? Qt.BacktabFocusReason : Qt.TabFocusReason);
+        bar.handed(place + by, by < 0 ? Qt.BacktabFocusReason : Qt.TabFocusReason);
     }
 
     Rectangle {
@@ -80,11 +81,21 @@ FocusScope {
                 model: bar.sidebar.modules
 
                 SidebarRow {
+                    id: moduleRow
+
                     width: column.width
                     collapsed: bar.sidebar.collapsed
                     tight: bar.tight
                     onPressed: index => bar.sidebar.modules.press(index)
                     onStepped: (index, by) => bar.step(index, by)
+
+                    Connections {
+                        target: bar
+                        function onHanded(place: int, reason: int) {
+                            if (place === moduleRow.index)
+                                moduleRow.takeFocus(reason);
+                        }
+                    }
                 }
             }
         }
@@ -108,11 +119,21 @@ FocusScope {
             model: bar.sidebar.foot
 
             SidebarRow {
+                id: footRow
+
                 width: footer.width - 24
                 collapsed: bar.sidebar.collapsed
                 tight: bar.tight
                 onPressed: index => bar.sidebar.foot.press(index)
                 onStepped: (index, by) => bar.step(modules.count + index, by)
+
+                Connections {
+                    target: bar
+                    function onHanded(place: int, reason: int) {
+                        if (place === modules.count + footRow.index)
+                            footRow.takeFocus(reason);
+                    }
+                }
             }
         }
 

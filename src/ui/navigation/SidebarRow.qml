@@ -31,12 +31,12 @@ Column {
     // A group stands off from the one above it, folded up too.
     Item {
         width: parent.width
-        height: heading.text === "" ? 0 : place.collapsed ? (place.tight ? 8 : 16) : heading.implicitHeight
+        height: headingText.text === "" ? 0 : place.collapsed ? (place.tight ? 8 : 16) : headingText.implicitHeight
         visible: height > 0
         clip: true
 
         Words {
-            id: heading
+            id: headingText
 
             width: parent.width
             topPadding: place.tight ? 8 : 20

@@ -14,11 +14,11 @@ FocusScope {
     required property CategoryList categories
 
     Item {
-        id: left
+        id: mapSide
 
         anchors.left: parent.left
         anchors.top: parent.top
-        anchors.bottom: footer.top
+        anchors.bottom: cleanFooter.top
         width: Math.min(340 * TextScale.factor, pane.width * 0.6)
 
         CategoryHead {
@@ -70,9 +70,9 @@ FocusScope {
     Rectangle {
         id: edge
 
-        anchors.left: left.right
+        anchors.left: mapSide.right
         anchors.top: parent.top
-        anchors.bottom: footer.top
+        anchors.bottom: cleanFooter.top
         width: 1
         color: Theme.hairline
     }
@@ -82,14 +82,14 @@ FocusScope {
         anchors.left: edge.right
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.bottom: footer.top
+        anchors.bottom: cleanFooter.top
         anchors.margins: 8
         name: pane.categories.mapName
         model: pane.categories.bubbles
     }
 
     CleanFooter {
-        id: footer
+        id: cleanFooter
 
         anchors.left: parent.left
         anchors.right: parent.right

@@ -8,7 +8,7 @@ import Zelk.Reclaim
 import Zelk.Theme
 
 FocusScope {
-    id: page
+    id: review
 
     required property DryRunModel dryRun
     readonly property alias confirm: confirmButton
@@ -23,7 +23,7 @@ FocusScope {
 
         Words {
             width: parent.width
-            text: page.dryRun.title
+            text: review.dryRun.title
             size: 17
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
@@ -31,7 +31,7 @@ FocusScope {
 
         Words {
             width: parent.width
-            text: page.dryRun.line
+            text: review.dryRun.line
             size: 12
             soft: true
             wrapMode: Text.WordWrap
@@ -57,8 +57,8 @@ FocusScope {
             anchors.margins: 1
             topMargin: 6
             bottomMargin: 6
-            name: page.dryRun.listName
-            model: page.dryRun.rows
+            name: review.dryRun.listName
+            model: review.dryRun.rows
             delegate: DryRunRow {
                 ringed: list.ringed && ListView.isCurrentItem
                 onPressed: list.take(index)
@@ -72,7 +72,7 @@ FocusScope {
         anchors.bottom: buttons.top
         anchors.bottomMargin: 14
         width: parent.width
-        dryRun: page.dryRun
+        dryRun: review.dryRun
     }
 
     Row {
@@ -84,15 +84,15 @@ FocusScope {
 
         Spinner {
             anchors.verticalCenter: parent.verticalCenter
-            visible: page.dryRun.cleaning
+            visible: review.dryRun.cleaning
         }
 
         SecondaryButton {
             objectName: "cancelCleanup"
             anchors.verticalCenter: parent.verticalCenter
-            text: page.dryRun.cancelLabel
-            enabled: !page.dryRun.cleaning
-            onClicked: page.dryRun.cancel()
+            text: review.dryRun.cancelLabel
+            enabled: !review.dryRun.cleaning
+            onClicked: review.dryRun.cancel()
         }
 
         PrimaryButton {
@@ -102,10 +102,10 @@ FocusScope {
             focus: true
             horizontalPadding: 20
             verticalPadding: 10
-            text: page.dryRun.cleaning ? page.dryRun.cleaningLabel : page.dryRun.confirmLabel
-            alarming: page.dryRun.hardDelete
-            enabled: page.dryRun.confirmable
-            onClicked: page.dryRun.confirm()
+            text: review.dryRun.cleaning ? review.dryRun.cleaningLabel : review.dryRun.confirmLabel
+            alarming: review.dryRun.hardDelete
+            enabled: review.dryRun.confirmable
+            onClicked: review.dryRun.confirm()
         }
     }
 }

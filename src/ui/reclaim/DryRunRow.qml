@@ -20,7 +20,7 @@ ListRow {
 
     signal pressed
 
-    implicitHeight: Math.max(texts.implicitHeight, right.implicitHeight) + 2 * 6
+    implicitHeight: Math.max(texts.implicitHeight, trailing.implicitHeight) + 2 * 6
 
     Accessible.role: Accessible.ListItem
     Accessible.name: row.spoken
@@ -49,7 +49,7 @@ ListRow {
 
         anchors.left: icon.right
         anchors.leftMargin: 12
-        anchors.right: right.left
+        anchors.right: trailing.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         spacing: 1
@@ -73,7 +73,7 @@ ListRow {
     }
 
     Column {
-        id: right
+        id: trailing
 
         anchors.right: parent.right
         anchors.rightMargin: 16

@@ -31,7 +31,7 @@ Item {
                 model: head.guide
 
                 Row {
-                    id: grade
+                    id: gradeTag
 
                     required property string grade
                     required property color tint
@@ -44,11 +44,11 @@ Item {
                         width: 8
                         height: 8
                         radius: 4
-                        color: grade.tint
+                        color: gradeTag.tint
                     }
 
                     Words {
-                        text: grade.grade
+                        text: gradeTag.grade
                         size: 12
                     }
                 }

@@ -198,6 +198,15 @@ void ItemList::tickChanged(int row) {
     emit footerChanged();
 }
 
+void ItemList::press(int row) {
+    if (row < 0 || row >= rowCount()) return;
+    const auto [group, item] = rows_[static_cast<std::size_t>(row)];
+    if (item == nullptr)
+        setOpen(row, !group->open);
+    else
+        toggle(row);
+}
+
 void ItemList::setOpen(int row, bool open) {
     if (row < 0 || row >= rowCount()) return;
     const auto [group, item] = rows_[static_cast<std::size_t>(row)];

@@ -80,6 +80,8 @@ public:
 public slots:
     /// Of an item its tick, of a category those of all its items.
     void toggle(int row);
+    /// Of an item its tick; a category is unfolded or folded up.
+    void press(int row);
     /// Unfolds a category or folds it up; an item's row has nothing to unfold.
     void setOpen(int row, bool open);
     /// The row of the category that a row belongs to.

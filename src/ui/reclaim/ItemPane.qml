@@ -30,7 +30,7 @@ FocusScope {
 
     EmptyState {
         anchors.top: rule.bottom
-        anchors.bottom: footer.top
+        anchors.bottom: cleanFooter.top
         width: parent.width
         visible: pane.items.allYoung
         symbol: "clock.arrow.circlepath"
@@ -43,7 +43,7 @@ FocusScope {
 
         objectName: "itemList"
         anchors.top: rule.bottom
-        anchors.bottom: footer.top
+        anchors.bottom: cleanFooter.top
         width: parent.width
         topMargin: 8
         bottomMargin: 8
@@ -67,9 +67,8 @@ FocusScope {
         }
 
         function press(again: bool) {
-            const row = list.currentItem as ItemRow;
-            if (!again && row)
-                row.activate();
+            if (!again)
+                pane.items.press(list.currentIndex);
         }
 
         function unfold(row: int) {
@@ -78,14 +77,17 @@ FocusScope {
 
         delegate: ItemRow {
             ringed: list.ringed && ListView.isCurrentItem
-            onTaken: list.take(index)
             onTicked: pane.items.toggle(index)
-            onOpened: wanted => pane.items.setOpen(index, wanted)
+            onTaken: list.take(index)
+            onPressed: {
+                list.take(index);
+                pane.items.press(index);
+            }
         }
     }
 
     CleanFooter {
-        id: footer
+        id: cleanFooter
 
         anchors.left: parent.left
         anchors.right: parent.right

@@ -27,20 +27,8 @@ ListRow {
     required property string spoken
 
     signal taken
+    signal pressed
     signal ticked
-    signal opened(bool wanted)
-
-    function activate() {
-        if (row.group)
-            row.opened(!row.open);
-        else
-            row.ticked();
-    }
-
-    function press() {
-        row.taken();
-        row.activate();
-    }
 
     implicitHeight: Math.max(texts.implicitHeight, box.implicitHeight) + 2 * (row.group ? 14 : 7)
 
@@ -48,7 +36,7 @@ ListRow {
     Accessible.name: row.spoken
     Accessible.checkable: row.free
     Accessible.checked: row.chosen
-    Accessible.onPressAction: row.press()
+    Accessible.onPressAction: row.pressed()
     Accessible.onToggleAction: row.ticked()
 
     Rectangle {
@@ -83,7 +71,7 @@ ListRow {
     }
 
     TapHandler {
-        onTapped: row.press()
+        onTapped: row.pressed()
     }
 
     CheckBox {
@@ -119,7 +107,7 @@ ListRow {
 
         anchors.left: chevron.right
         anchors.leftMargin: row.group ? 10 : -6
-        anchors.right: right.left
+        anchors.right: trailing.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
@@ -154,7 +142,7 @@ ListRow {
     }
 
     Row {
-        id: right
+        id: trailing
 
         anchors.right: ground.right
         anchors.rightMargin: 16

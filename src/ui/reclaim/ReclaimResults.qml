@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.Components
 import Zelk.Reclaim
 
@@ -31,7 +32,7 @@ FocusScope {
 
     // A survey may begin or end under the open sheet, which stays as it is.
     function review() {
-        const shown = sheet.item as DryRunSheet;
+        const shown = sheet.item as T.Popup;
         if (results.reviewing) {
             sheet.source = "";
             sheet.setSource("DryRunSheet.qml", {

@@ -11,16 +11,18 @@ Column {
 
     required property SettingsScreenModel settings
 
+    // The keyboard, to a row.
+    signal handed(row: int, reason: int)
+
     // The row that goes takes the button with it that has the keyboard: the row that follows gets it, or the button
     // below the list.
     function remove(row, ringed) {
         const reason = ringed ? Qt.TabFocusReason : Qt.OtherFocusReason;
         list.settings.removeFolder(row);
-        const next = rows.itemAt(Math.min(row, rows.count - 1)) as RootRow;
-        if (next)
-            next.takeKeyboard(reason);
+        if (rows.count > 0)
+            list.handed(Math.min(row, rows.count - 1), reason);
         else
-            add.forceActiveFocus(reason);
+            addButton.forceActiveFocus(reason);
     }
 
     spacing: 12
@@ -45,14 +47,24 @@ Column {
             model: list.settings.roots
 
             RootRow {
+                id: rootRow
+
                 width: list.width
                 onRemoveClicked: ringed => list.remove(index, ringed)
+
+                Connections {
+                    target: list
+                    function onHanded(row: int, reason: int) {
+                        if (row === rootRow.index)
+                            rootRow.takeKeyboard(reason);
+                    }
+                }
             }
         }
     }
 
     SecondaryButton {
-        id: add
+        id: addButton
 
         objectName: "addFolderButton"
         symbol: "plus"

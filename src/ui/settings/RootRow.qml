@@ -35,7 +35,7 @@ T.Control {
         implicitHeight: Math.max(words.implicitHeight, remove.implicitHeight)
 
         SymbolItem {
-            id: symbol
+            id: symbolItem
 
             anchors.verticalCenter: parent.verticalCenter
             name: "folder.fill"
@@ -47,7 +47,7 @@ T.Control {
             id: words
 
             objectName: "rootPath"
-            anchors.left: symbol.right
+            anchors.left: symbolItem.right
             anchors.leftMargin: 12
             anchors.right: remove.left
             anchors.rightMargin: 12

@@ -9,7 +9,7 @@ Column {
     id: section
 
     required property string title
-    default property alias content: inside.data
+    default property alias content: body.data
 
     spacing: 8
 
@@ -23,7 +23,7 @@ Column {
         padding: 16
 
         Column {
-            id: inside
+            id: body
 
             width: section.width - 2 * 16
             spacing: 12

@@ -13,7 +13,7 @@ FocusScope {
     focus: true
 
     MenuStrip {
-        id: menus
+        id: menuStrip
 
         anchors.left: parent.left
         anchors.right: parent.right
@@ -24,7 +24,7 @@ FocusScope {
     }
 
     RootView {
-        anchors.top: menus.bottom
+        anchors.top: menuStrip.bottom
         anchors.bottom: parent.bottom
         anchors.left: parent.left
         anchors.right: parent.right

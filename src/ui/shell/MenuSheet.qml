@@ -9,11 +9,11 @@ import Zelk.Shell
 import Zelk.Theme
 
 T.Menu {
-    id: menu
+    id: menuSheet
 
     required property CommandMenu commands
 
-    title: menu.commands.title
+    title: menuSheet.commands.title
     width: Math.round(220 * TextScale.factor)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     padding: 6
@@ -29,18 +29,18 @@ T.Menu {
 
     contentItem: ListView {
         implicitHeight: contentHeight
-        model: menu.contentModel
+        model: menuSheet.contentModel
         interactive: contentHeight > height
         clip: true
-        currentIndex: menu.currentIndex
+        currentIndex: menuSheet.currentIndex
     }
 
     Instantiator {
-        model: menu.commands
+        model: menuSheet.commands
 
         delegate: MenuEntry {
-            onTriggered: menu.commands.run(index)
+            onTriggered: menuSheet.commands.run(index)
         }
-        onObjectAdded: (index, object) => menu.insertItem(index, object as MenuEntry)
+        onObjectAdded: (index, object) => menuSheet.insertItem(index, object as T.MenuItem)
     }
 }

@@ -106,6 +106,6 @@ T.MenuBar {
     Shortcut {
         sequence: "F10"
         enabled: bar.enabled
-        onActivated: (bar.itemAt(0) as MenuTitle)?.triggered()
+        onActivated: (bar.itemAt(0) as T.MenuBarItem)?.triggered()
     }
 }

@@ -7,31 +7,31 @@ import Zelk.Navigation
 import Zelk.Shell
 
 FocusScope {
-    id: view
+    id: rootView
 
     required property RootModel root
 
     Sidebar {
-        id: sidebar
+        id: sidePanel
 
         height: parent.height
-        sidebar: view.root.sidebar
+        sidebar: rootView.root.sidebar
     }
 
     FocusScope {
         id: detail
 
-        anchors.left: sidebar.right
+        anchors.left: sidePanel.right
         anchors.right: parent.right
         height: parent.height
         clip: true
         focus: true
 
         Repeater {
-            model: view.root.pages
+            model: rootView.root.pages
 
             DetailPage {
-                pages: view.root.pages
+                pages: rootView.root.pages
                 // Where the keyboard is in a screen that goes, it follows to the one that comes.
                 onArrived: focus = true
             }
@@ -42,7 +42,7 @@ FocusScope {
         id: sheets
 
         anchors.fill: parent
-        active: view.root.firstRun
-        Component.onCompleted: setSource(view.root.firstRunView, view.root.firstRunGiven())
+        active: rootView.root.firstRun
+        Component.onCompleted: setSource(rootView.root.firstRunView, rootView.root.firstRunGiven())
     }
 }

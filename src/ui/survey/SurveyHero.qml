@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.Components
 import Zelk.Survey
 import Zelk.Theme
@@ -29,7 +30,7 @@ FocusScope {
                 scanButton.focus = true;
                 return;
             }
-            const ringed = (focused as BaseButton)?.visualFocus ?? false;
+            const ringed = (focused as T.AbstractButton)?.visualFocus ?? false;
             scanButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
         }
     }
@@ -68,10 +69,10 @@ FocusScope {
             anchors.left: parent.left
             anchors.right: parent.right
             // What was found follows close by.
-            implicitHeight: hero.survey.finished ? done.implicitHeight : Math.max(idle.implicitHeight, progress.implicitHeight)
+            implicitHeight: hero.survey.finished ? done.implicitHeight : Math.max(idleBlock.implicitHeight, progress.implicitHeight)
 
             HeroPhase {
-                id: idle
+                id: idleBlock
 
                 shown: hero.survey.idle
                 spacing: 20
@@ -83,7 +84,7 @@ FocusScope {
 
                 FlowRow {
                     anchors.horizontalCenter: parent.horizontalCenter
-                    width: Math.min(implicitWidth, idle.width)
+                    width: Math.min(implicitWidth, idleBlock.width)
                     spacing: 10
 
                     Repeater {

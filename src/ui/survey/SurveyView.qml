@@ -56,15 +56,15 @@ FocusScope {
         Item {
             id: page
 
-            readonly property real heroTop: device.y + device.height + 12
+            readonly property real heroTop: deviceHeader.y + deviceHeader.height + 12
             readonly property real heroRoom: scroll.height - scroll.paddingDown - page.heroTop
-            readonly property real used: view.survey.finished ? findings.y + findings.implicitHeight : hero.y + hero.implicitHeight
+            readonly property real used: view.survey.finished ? findingsLoader.y + findingsLoader.implicitHeight : hero.y + hero.implicitHeight
 
             width: scroll.width
             height: Math.max(scroll.height, page.used + scroll.paddingDown)
 
             DeviceHeader {
-                id: device
+                id: deviceHeader
 
                 x: scroll.paddingAcross
                 y: scroll.paddingDown
@@ -79,7 +79,7 @@ FocusScope {
                 y: page.heroTop + (view.survey.finished ? 0 : Math.max(0, (page.heroRoom - hero.implicitHeight) / 2))
                 width: page.width - 2 * scroll.paddingAcross
                 survey: view.survey
-                findings: findings
+                findings: findingsLoader
                 focus: true
 
                 Behavior on y {
@@ -92,13 +92,13 @@ FocusScope {
 
             // Built with the first results, and kept. It fades in.
             Loader {
-                id: findings
+                id: findingsLoader
 
                 readonly property bool wanted: view.survey.finished
 
                 function build() {
-                    if (findings.wanted && findings.status === Loader.Null)
-                        findings.setSource("FindingsBlock.qml", {
+                    if (findingsLoader.wanted && findingsLoader.status === Loader.Null)
+                        findingsLoader.setSource("FindingsBlock.qml", {
                             survey: view.survey
                         });
                 }
@@ -106,12 +106,12 @@ FocusScope {
                 x: scroll.paddingAcross
                 y: page.heroTop + hero.implicitHeight + 22
                 width: page.width - 2 * scroll.paddingAcross
-                opacity: findings.wanted ? 1 : 0
-                onWantedChanged: findings.build()
-                Component.onCompleted: findings.build()
+                opacity: findingsLoader.wanted ? 1 : 0
+                onWantedChanged: findingsLoader.build()
+                Component.onCompleted: findingsLoader.build()
 
                 Behavior on opacity {
-                    enabled: findings.wanted
+                    enabled: findingsLoader.wanted
                     NumberAnimation {
                         duration: Motion.gentle
                         easing.type: Easing.OutCubic

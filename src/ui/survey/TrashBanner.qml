@@ -37,7 +37,7 @@ Item {
 
         anchors.left: tile.right
         anchors.leftMargin: 12
-        anchors.right: right.left
+        anchors.right: trailing.left
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
@@ -58,7 +58,7 @@ Item {
     }
 
     Row {
-        id: right
+        id: trailing
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter

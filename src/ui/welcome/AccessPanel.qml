@@ -14,7 +14,7 @@ FocusScope {
 
     implicitHeight: column.implicitHeight
 
-    readonly property alias primary: primary
+    readonly property alias primary: primaryButton
 
     Column {
         id: column
@@ -63,7 +63,7 @@ FocusScope {
         }
 
         PrimaryButton {
-            id: primary
+            id: primaryButton
 
             objectName: "openSettingsButton"
             anchors.horizontalCenter: parent.horizontalCenter

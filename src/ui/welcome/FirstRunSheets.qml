@@ -25,11 +25,11 @@ Item {
         title: sheets.firstRun.welcome.title
         visible: sheets.firstRun.showWelcome
         sheetWidth: Math.round(480 * TextScale.factor)
-        primary: welcome.primary
+        primary: welcomePanel.primary
         onDismissed: sheets.firstRun.welcome.skip()
 
         WelcomePanel {
-            id: welcome
+            id: welcomePanel
 
             welcome: sheets.firstRun.welcome
             focus: true
@@ -37,7 +37,7 @@ Item {
     }
 
     Sheet {
-        id: access
+        id: accessSheet
 
         title: sheets.firstRun.access.title
         visible: sheets.firstRun.showOnboarding && first.gone
@@ -58,7 +58,7 @@ Item {
     Binding {
         target: sheets.firstRun.access
         property: "shown"
-        value: access.visible && (sheets.Window.window?.visible ?? false)
+        value: accessSheet.visible && (sheets.Window.window?.visible ?? false)
     }
     Component.onDestruction: sheets.firstRun.access.shown = false
 }

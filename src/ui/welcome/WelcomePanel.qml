@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.Components
 import Zelk.Theme
 import Zelk.Welcome
@@ -12,16 +13,16 @@ FocusScope {
 
     required property WelcomeModel welcome
 
-    readonly property alias primary: primary
+    readonly property alias primary: primaryButton
 
     // A button that goes with its page leaves the keyboard at the one that is always there, and with the ring around it
     // if that is what the person steers by.
     function turn(page) {
-        const ringed = (panel.Window.activeFocusItem as BaseButton)?.visualFocus ?? false;
+        const ringed = (panel.Window.activeFocusItem as T.AbstractButton)?.visualFocus ?? false;
         page();
         const stays = back.activeFocus && panel.welcome.backShown || skip.activeFocus && panel.welcome.skipShown;
         if (!stays)
-            primary.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
+            primaryButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
     }
 
     implicitHeight: column.implicitHeight + 2 * 8
@@ -98,7 +99,7 @@ FocusScope {
         Item {
             anchors.left: parent.left
             anchors.right: parent.right
-            implicitHeight: primary.implicitHeight
+            implicitHeight: primaryButton.implicitHeight
 
             LinkButton {
                 id: skip
@@ -118,7 +119,7 @@ FocusScope {
                 id: back
 
                 objectName: "backButton"
-                anchors.right: primary.left
+                anchors.right: primaryButton.left
                 anchors.rightMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
                 text: panel.welcome.backLabel
@@ -128,7 +129,7 @@ FocusScope {
             }
 
             PrimaryButton {
-                id: primary
+                id: primaryButton
 
                 objectName: "primaryButton"
                 anchors.right: parent.right

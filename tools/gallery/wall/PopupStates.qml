@@ -20,15 +20,15 @@ Section {
 
             width: 540 * TextScale.factor
             height: 290 * TextScale.factor
-            popup: menu
+            popup: menuPanel
 
             SecondaryButton {
                 text: "Show a menu"
-                onClicked: menu.open()
+                onClicked: menuPanel.open()
             }
 
             MenuPanel {
-                id: menu
+                id: menuPanel
 
                 parent: menuStage
                 y: 44 * TextScale.factor
