@@ -7,35 +7,19 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLocale>
-#include <QStringList>
+#include <QLoggingCategory>
+#include <cstdlib>
 
+#include "QtMessages.h"
 #include "ui/shell/Application.h"
 
 namespace zelk::fakes {
 
-/// Complaints of the QML engine, which it prints and goes on: each fails the test in which it comes.
-class QmlComplaints : public testing::EmptyTestEventListener {
+/// What Qt and the QML engine complain about fails the test in which it comes.
+class FailOnQtMessages : public testing::EmptyTestEventListener {
 public:
-    static void listen() {
-        passOn() = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& text) {
-            if (type != QtDebugMsg && type != QtInfoMsg && text.contains(QStringLiteral("qrc:"))) noted().append(text);
-            passOn()(type, context, text);
-        });
-        testing::UnitTest::GetInstance()->listeners().Append(new QmlComplaints);
-    }
-
     void OnTestEnd(const testing::TestInfo&) override {
-        for (const QString& text : std::exchange(noted(), {})) ADD_FAILURE() << text.toStdString();
-    }
-
-private:
-    static QStringList& noted() {
-        static QStringList texts;
-        return texts;
-    }
-    static QtMessageHandler& passOn() {
-        static QtMessageHandler handler = nullptr;
-        return handler;
+        for (const QString& text : tour::takeQtMessages()) ADD_FAILURE() << text.toStdString();
     }
 };
 
@@ -47,8 +31,13 @@ inline int runWindowTests(int argc, char** argv) {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QAccessible::setActive(true);
     testing::InitGoogleMock(&argc, argv);
-    QmlComplaints::listen();
-    return RUN_ALL_TESTS();
+    // Models are asked on purpose for rows that are not there.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.core.qabstractitemmodel.checkindex=false"));
+    tour::keepQtMessages();
+    testing::UnitTest::GetInstance()->listeners().Append(new FailOnQtMessages);
+    const int status = RUN_ALL_TESTS();
+    // What was said after the last test.
+    return tour::takeQtMessages().isEmpty() ? status : EXIT_FAILURE;
 }
 
 }  // namespace zelk::fakes

@@ -312,6 +312,7 @@ TEST_F(Items, aPressBesideTheRowsDoesNothing) {
     for (const int row : {-1, 5, 100}) {
         list().toggle(row);
         list().setOpen(row, true);
+        list().press(row);
         EXPECT_FALSE(list().data(list().index(row), ItemList::nameRole).isValid());
     }
     EXPECT_EQ(list().rowCount(), 5);
@@ -320,6 +321,19 @@ TEST_F(Items, aPressBesideTheRowsDoesNothing) {
     list().setOpen(1, true);  // an item
     EXPECT_EQ(list().rowCount(), 6);
     EXPECT_EQ(list().rowCount(list().index(0)), 0);
+}
+
+TEST_F(Items, aPressUnfoldsACategoryAndTicksAnItem) {
+    surveyFor(Audience::developer);
+    list().press(0);
+    EXPECT_EQ(list().rowCount(), 6);
+    EXPECT_EQ(footer(), "4 items selected / 110 MB");
+    const bool chosen = list().data(list().index(1), ItemList::chosenRole).toBool();
+    list().press(1);
+    EXPECT_NE(list().data(list().index(1), ItemList::chosenRole).toBool(), chosen);
+    EXPECT_EQ(list().rowCount(), 6);
+    list().press(0);
+    EXPECT_EQ(list().rowCount(), 5);
 }
 
 }  // namespace zelk

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <vector>
 
+#include "QtMessages.h"
 #include "ViewFixture.h"
 #include "ui/components/ScanFace.h"
 #include "ui/shell/Application.h"
@@ -135,6 +136,9 @@ TEST(Symbols, areTintedAllOver) {
 
 TEST(Symbols, ofAnUnknownNameAreNothing) {
     EXPECT_TRUE(tintedSymbol(QStringLiteral("no.such.symbol"), Qt::red, 24).isNull());
+    const QStringList messages = tour::takeQtMessages();
+    ASSERT_EQ(messages.size(), 1);
+    EXPECT_TRUE(messages[0].contains(QStringLiteral("no.such.symbol.svg")));
     EXPECT_TRUE(tintedSymbol(QStringLiteral("scope"), Qt::red, 0).isNull());
 }
 

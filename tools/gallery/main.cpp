@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // gallery [--out FILE] [--text-scale FACTOR]: every component of the interface in every state, the dark theme in one
-// window and the light one in another. With --out it needs no display and leaves a picture of both side by side.
+// window and the light one in another. With --out it needs no display and leaves a picture of both side by side; it
+// then fails where Qt or the QML engine has anything to warn of.
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
@@ -9,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "QtMessages.h"
 #include "ui/shell/Application.h"
 #include "wall/Wall.h"
 
@@ -36,6 +38,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_QUICK_BACKEND", "software");
     }
+    zelk::tour::keepQtMessages();
     QGuiApplication application(argc, argv);
     zelk::dressApplication();
 
@@ -51,7 +54,13 @@ int main(int argc, char** argv) {
 
     zelk::GalleryWall dark(zelk::ZelkTheme::dark(), textScale);
     zelk::GalleryWall light(zelk::ZelkTheme::light(), textScale);
-    if (!file.isEmpty()) return photograph(dark, light, file) ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (!file.isEmpty()) {
+        const bool taken = photograph(dark, light, file);
+        const QStringList messages = zelk::tour::takeQtMessages();
+        for (const QString& message : messages)
+            std::fprintf(stderr, "gallery: a message of Qt: %s\n", qPrintable(message));
+        return taken && messages.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
     dark.show();
     light.show();
     return QGuiApplication::exec();

@@ -4,17 +4,20 @@
 // components. Nothing is taken away: what the pressed buttons ask for is only said to be done. The history is left
 // alone: that of the tour goes to a folder that is thrown away. With --home records and Trash are those of a home made
 // by `tools/sample_home --history`. There is something for every state in it, so there the tour fails if it misses one;
-// elsewhere it passes over what the disk does not have.
+// elsewhere it passes over what the disk does not have. It fails too where Qt or the QML engine has anything to warn
+// of.
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
+#include "QtMessages.h"
 #include "ScratchLocations.h"
 #include "Tour.h"
 #include "platform/NativePlatform.h"
@@ -38,6 +41,10 @@ int main(int argc, char** argv) {
         qputenv("HOME", QDir(QString::fromLocal8Bit(argv[i + 1])).absolutePath().toLocal8Bit());
         qunsetenv("XDG_DATA_HOME");
     }
+    // Nobody is logged in where there is no display, and Qt warns of what a login brings.
+    const QTemporaryDir runtime;
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
+    zelk::tour::keepQtMessages();
     QApplication application(argc, argv);
     zelk::dressApplication();
 
@@ -83,6 +90,10 @@ int main(int argc, char** argv) {
         complete = complete && zelk::tour::Tour(app, directories, pretence, {folder, size, dark, sample}).run();
     }
     directories.resume();
+    for (const QString& message : zelk::tour::takeQtMessages()) {
+        std::fprintf(stderr, "tour: a message of Qt: %s\n", qPrintable(message));
+        complete = false;
+    }
     const int status = complete ? EXIT_SUCCESS : EXIT_FAILURE;
     if (!native.drain(10)) std::_Exit(status);
     return status;
