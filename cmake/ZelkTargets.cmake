@@ -19,9 +19,17 @@ if(ZELK_FUZZERS)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(ZELK_UNITY)
+  set(CMAKE_UNITY_BUILD ON)
+  set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
+  # It looks for one class of the same name in two sources; these are one source here.
+  add_compile_options(-Wno-subobject-linkage)
+endif()
+
 add_library(zelk_options INTERFACE)
 target_compile_options(zelk_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough
+  $<$<BOOL:${ZELK_WERROR}>:-Werror>)
 target_include_directories(zelk_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
 # zelk_folder(NAME [LINKS lib...]): a library `zelk_NAME` of every source in the current folder (not its subfolders).

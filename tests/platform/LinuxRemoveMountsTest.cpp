@@ -27,7 +27,7 @@ using fakes::behindGate;
 using fakes::namesIn;
 using testing::Optional;
 
-Failure removed(const std::string& path) {
+Failure removedEntry(const std::string& path) {
     return LinuxFileManager().remove(ItemPath::from(path).value());
 }
 
@@ -50,7 +50,7 @@ protected:
 
 TEST_F(RemoverAndMounts, aBindMountInTheFolderIsRefusedAndNothingIsGone) {
     mounts.again(elsewhere, victim + "/m/mounted");
-    EXPECT_THAT(removed(victim), Optional(refused));
+    EXPECT_THAT(removedEntry(victim), Optional(refused));
     EXPECT_TRUE(fs::exists(victim + "/a/file") && fs::exists(victim + "/z/file"));
     EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
 }
@@ -58,35 +58,35 @@ TEST_F(RemoverAndMounts, aBindMountInTheFolderIsRefusedAndNothingIsGone) {
 TEST_F(RemoverAndMounts, anotherVolumeInTheFolderIsRefusedAndNothingIsGone) {
     mounts.memory(victim + "/m/mounted");
     zoo::makeFile(victim + "/m/mounted/kept");
-    EXPECT_THAT(removed(victim), Optional(refused));
+    EXPECT_THAT(removedEntry(victim), Optional(refused));
     EXPECT_TRUE(fs::exists(victim + "/a/file") && fs::exists(victim + "/m/mounted/kept"));
 }
 
 TEST_F(RemoverAndMounts, theFolderReachedThroughALinkIsRefusedToo) {
     mounts.again(elsewhere, victim + "/m/mounted");
     fs::create_directory_symlink(temp.path(), temp / "link");
-    EXPECT_THAT(removed(temp / "link/victim"), Optional(refused));
+    EXPECT_THAT(removedEntry(temp / "link/victim"), Optional(refused));
     EXPECT_TRUE(fs::exists(victim + "/a/file"));
 }
 
 TEST_F(RemoverAndMounts, theMountPointItselfIsRefused) {
     mounts.again(elsewhere, victim + "/m/mounted");
-    EXPECT_THAT(removed(victim + "/m/mounted"),
+    EXPECT_THAT(removedEntry(victim + "/m/mounted"),
                 Optional(std::string("“mounted” couldn’t be removed: another volume is mounted there")));
     EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
 }
 
 TEST_F(RemoverAndMounts, aFileMountedOverAnotherIsRefused) {
     mounts.again(elsewhere + "/kept", victim + "/a/file");
-    EXPECT_THAT(removed(victim + "/a/file"),
+    EXPECT_THAT(removedEntry(victim + "/a/file"),
                 Optional(std::string("“file” couldn’t be removed: another volume is mounted there")));
-    EXPECT_THAT(removed(victim), Optional(refused));
+    EXPECT_THAT(removedEntry(victim), Optional(refused));
     EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
 }
 
 TEST_F(RemoverAndMounts, whatIsMountedCanBeEmptiedFromWithin) {
     mounts.again(elsewhere, victim + "/m/mounted");
-    EXPECT_EQ(removed(victim + "/m/mounted/kept"), std::nullopt);
+    EXPECT_EQ(removedEntry(victim + "/m/mounted/kept"), std::nullopt);
     EXPECT_TRUE(namesIn(elsewhere).empty());
 }
 
@@ -102,7 +102,7 @@ TEST_P(RemoverWithoutMountTable, stopsAtAMount) {
             [&] {
                 // No link of /proc can be read by this thread, so that no path is known to look up in the table.
                 ASSERT_EQ(fakes::filterCalls(SYS_readlink, SECCOMP_RET_ERRNO | ENOENT), 0);
-                failure = removed(victim);
+                failure = removedEntry(victim);
             });
         EXPECT_THAT(
             failure,
@@ -110,7 +110,7 @@ TEST_P(RemoverWithoutMountTable, stopsAtAMount) {
     } else {
         Failure failure;
         behindGate(
-            SYS_readlink, [](unsigned) { return ENOENT; }, [&] { failure = removed(victim); });
+            SYS_readlink, [](unsigned) { return ENOENT; }, [&] { failure = removedEntry(victim); });
         EXPECT_THAT(
             failure,
             Optional(std::string("“mounted” in “victim” couldn’t be removed: another volume is mounted there")));
@@ -145,7 +145,7 @@ TEST(RemoverAndSwaps, aThousandRunsTouchNothingOutside) {
                 zoo::makeFile(victim + name);
             } catch (const std::system_error&) {  // swapped under the making; what there is will do
             }
-        complete += !removed(victim);
+        complete += !removedEntry(victim);
     }
     done = true;
     swapper.join();

@@ -20,7 +20,7 @@ namespace zelk {
 namespace {
 
 constexpr std::size_t stackBytes = 8 << 20;
-constexpr double longEnough = 1e6;
+constexpr double drainSeconds = 1e6;
 
 /// Runs `body` on a started thread, and waits for its answer.
 template <class Body>
@@ -30,7 +30,7 @@ auto onThread(const std::string& name, std::size_t stack, Body body) {
     std::future<Answer> answer = promise.get_future();
     startThread(name, stack, [&] { promise.set_value(body()); });
     const Answer given = answer.get();
-    EXPECT_TRUE(drainThreads(longEnough));
+    EXPECT_TRUE(drainThreads(drainSeconds));
     return given;
 }
 

@@ -28,14 +28,14 @@ namespace {
 
 using Results = std::vector<Cleaner::Result>;
 
-Reclaimable toTrash(const std::string& path) {
+Reclaimable itemToTrash(const std::string& path) {
     Reclaimable item;
     item.id = item.path = path;
     return item;
 }
 
 Reclaimable byShell(const std::string& id, const std::string& line) {
-    Reclaimable item = toTrash(id);
+    Reclaimable item = itemToTrash(id);
     item.method = ReclaimMethod::command("/bin/sh", {"-c", line});
     return item;
 }
@@ -68,7 +68,7 @@ std::vector<Reclaimable> manyItems(fakes::FakeFileManager& files) {
     for (std::size_t number = 0; number < many; ++number) {
         const std::string path = "/cache/" + std::to_string(number);
         files.addFile(path + "/file");
-        items.push_back(toTrash(path));
+        items.push_back(itemToTrash(path));
     }
     return items;
 }
@@ -97,7 +97,7 @@ TEST_F(CleanerThreads, allItemsAreCleanedAtTheSameTime) {
     std::vector<Reclaimable> items;
     for (const char* path : {"/a", "/b", "/c", "/d", "/e", "/f", "/g", "/h", "/i", "/j", "/k", "/l"}) {
         machine.files.addFolder(path);
-        items.push_back(toTrash(path));
+        items.push_back(itemToTrash(path));
     }
     std::latch all(static_cast<std::ptrdiff_t>(items.size()));
     machine.files.failing = [&](const auto& call) {
@@ -110,7 +110,7 @@ TEST_F(CleanerThreads, allItemsAreCleanedAtTheSameTime) {
 TEST_F(CleanerThreads, theResultsComeOnABackgroundThread) {
     machine.files.addFolder("/a");
     std::promise<std::thread::id> thread;
-    Cleaner::cleanAll({toTrash("/a")}, false, platform(),
+    Cleaner::cleanAll({itemToTrash("/a")}, false, platform(),
                       [&](const Results&) { thread.set_value(std::this_thread::get_id()); });
     EXPECT_NE(thread.get_future().get(), std::this_thread::get_id());
 }
@@ -148,7 +148,7 @@ TEST_F(CleanerThreads, aRealToolsOutputThatIsNoTextIsEmpty) {
 }
 
 TEST_F(CleanerThreads, aToolThatIsNotInstalledFailsWithTheStatusOfEnv) {
-    Reclaimable item = toTrash("/target");
+    Reclaimable item = itemToTrash("/target");
     item.method = ReclaimMethod::command("/usr/bin/env", {"zelk-has-no-such-tool", "clean"});
     const Cleaner::Status status = Cleaner::cleanOne(item, false, platform()).status;
     ASSERT_TRUE(std::holds_alternative<Cleaner::Failed>(status));
@@ -156,7 +156,7 @@ TEST_F(CleanerThreads, aToolThatIsNotInstalledFailsWithTheStatusOfEnv) {
 }
 
 TEST_F(CleanerThreads, aToolThatDoesNotExistFailsWithTheSystemsText) {
-    Reclaimable item = toTrash("/target");
+    Reclaimable item = itemToTrash("/target");
     item.method = ReclaimMethod::command("/nowhere/tool", {});
     EXPECT_EQ(Cleaner::cleanOne(item, false, platform()).status,
               Cleaner::Status(Cleaner::Failed{std::strerror(ENOENT)}));

@@ -9,10 +9,10 @@ namespace zelk {
 
 namespace {
 
-const std::string home = "/Users/x";
+const std::string explainedHome = "/Users/x";
 
 PathExplanation of(std::string_view path) {
-    return explain(path, home);
+    return explain(path, explainedHome);
 }
 
 struct Told {
@@ -106,13 +106,15 @@ TEST(PathExplanation, tellsWhatItKnowsToTheLetter) {
         {"/a/x.rar", "Archive", archive, review, false},
         {"/a/x.pkg", "Archive", archive, review, false},
         {"/a/x.xip", "Archive", archive, review, false},
-        {home + "/Downloads", "Downloads",
+        {explainedHome + "/Downloads", "Downloads",
          "Files you've downloaded. Often safe to clean out, but check for anything you want to keep.", review, false},
-        {home + "/Desktop", "Desktop", "Files on your Desktop — including screenshots, which pile up.", review, false},
-        {home + "/Movies", "Movies", "Your videos. Large files live here; review before deleting.", review, false},
-        {home + "/Music", "Music", "Your music and audio.", review, false},
-        {home + "/Pictures", "Pictures", "Your photos and the Photos library.", review, false},
-        {home + "/Documents", "Documents", "Your documents.", review, false},
+        {explainedHome + "/Desktop", "Desktop", "Files on your Desktop — including screenshots, which pile up.", review,
+         false},
+        {explainedHome + "/Movies", "Movies", "Your videos. Large files live here; review before deleting.", review,
+         false},
+        {explainedHome + "/Music", "Music", "Your music and audio.", review, false},
+        {explainedHome + "/Pictures", "Pictures", "Your photos and the Photos library.", review, false},
+        {explainedHome + "/Documents", "Documents", "Your documents.", review, false},
         {"/a/whatever", "whatever",
          "Zelk doesn't have a specific note for this location. Check what's inside before deleting, and prefer moving "
          "to Trash.",

@@ -16,7 +16,7 @@
 namespace zelk {
 namespace {
 
-const std::string home = "/h";
+const std::string walkedHome = "/h";
 
 bool contains(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
@@ -31,13 +31,13 @@ struct Verdict {
 Verdict plainVerdict(const std::string& path, const std::string& name, const std::string* parent,
                      const std::string& parentPath, fakes::FakeFileManager& files) {
     static const std::map<std::string, std::string> byPath{
-        {home + "/Library/Developer/Xcode/DerivedData", "derived_data"},
-        {home + "/Library/Developer/Xcode/iOS DeviceSupport", "ios_device_support"},
-        {home + "/Library/Developer/Xcode/Archives", "xcode_archives"},
-        {home + "/Library/pnpm", "pnpm_store"},
-        {home + "/.npm/_cacache", "npm_cache"},
-        {home + "/Library/Caches/Yarn", "yarn_cache"},
-        {home + "/.gradle/caches", "gradle"},
+        {walkedHome + "/Library/Developer/Xcode/DerivedData", "derived_data"},
+        {walkedHome + "/Library/Developer/Xcode/iOS DeviceSupport", "ios_device_support"},
+        {walkedHome + "/Library/Developer/Xcode/Archives", "xcode_archives"},
+        {walkedHome + "/Library/pnpm", "pnpm_store"},
+        {walkedHome + "/.npm/_cacache", "npm_cache"},
+        {walkedHome + "/Library/Caches/Yarn", "yarn_cache"},
+        {walkedHome + "/.gradle/caches", "gradle"},
     };
     if (const auto found = byPath.find(path); found != byPath.end()) return {found->second};
     const bool inSupport = contains(path, "/Application Support/");
@@ -102,7 +102,7 @@ private:
                                                         "Library/Developer/Xcode/Archives", "Library/pnpm",
                                                         ".npm/_cacache", "Library/Caches/Yarn/v6"};
         if (depth == 9) return;
-        if (path == home)  // what chance alone would hardly ever spell
+        if (path == walkedHome)  // what chance alone would hardly ever spell
             for (const std::string& below : belowHome)
                 if (random_() % 3 == 0) plant(node, below);
         if (random_() % 8 == 0) files.addFile((path == "/" ? "" : path) + "/Cargo.toml");
@@ -154,7 +154,7 @@ TEST(ReclaimWalk, agreesWithAPlainClassifierOnRandomTrees) {
     for (unsigned seed = 0; seed < 120; ++seed) {
         RandomTree tree(seed);
         std::vector<Reclaimable> items;
-        ReclaimClassifier(tree.files).collect(*tree.top, home, items);
+        ReclaimClassifier(tree.files).collect(*tree.top, walkedHome, items);
         ASSERT_EQ(items.size(), tree.expected.size()) << seed;
         for (std::size_t i = 0; i < items.size(); ++i) {
             ASSERT_EQ(items[i].path, tree.expected[i].path) << seed;
@@ -177,10 +177,10 @@ TEST(ReclaimWalk, agreesWithTheClassifierOfOneNodeForEveryNode) {
         RandomTree tree(seed);
         const ReclaimClassifier classifier(tree.files);
         std::vector<Reclaimable> items;
-        classifier.collect(*tree.top, home + "/", items);
+        classifier.collect(*tree.top, walkedHome + "/", items);
         std::size_t next = 0;
         for (const FSNode* node : tree.all) {
-            const auto match = classifier.classify(*node, home + "/");
+            const auto match = classifier.classify(*node, walkedHome + "/");
             ASSERT_EQ(match ? match->category : nullptr, node->reclaimCategory) << node->fullPath();
             if (!match) continue;
             ASSERT_LT(next, items.size());
@@ -208,9 +208,9 @@ TEST(ReclaimWalk, aChainOfFiftyThousandFoldersIsWalkedToItsEnd) {
         chain(veryDeep, [](std::size_t i) { return i + 1 == veryDeep ? std::string("node_modules") : "d"; });
     fakes::FakeFileManager files;
     std::vector<Reclaimable> items;
-    ReclaimClassifier(files).collect(*top, home, items);
+    ReclaimClassifier(files).collect(*top, walkedHome, items);
     ASSERT_EQ(items.size(), 1U);
-    EXPECT_EQ(items[0].path.size(), home.size() + 2 * (veryDeep - 1) + std::string("/node_modules").size());
+    EXPECT_EQ(items[0].path.size(), walkedHome.size() + 2 * (veryDeep - 1) + std::string("/node_modules").size());
 }
 
 TEST(ReclaimWalk, aDeepChainOfNamesThatAskForTheirPathIsWalkedToItsEnd) {
@@ -220,7 +220,7 @@ TEST(ReclaimWalk, aDeepChainOfNamesThatAskForTheirPathIsWalkedToItsEnd) {
     });
     fakes::FakeFileManager files;
     std::vector<Reclaimable> items;
-    ReclaimClassifier(files).collect(*top, home, items);
+    ReclaimClassifier(files).collect(*top, walkedHome, items);
     EXPECT_TRUE(items.empty()) << "the last folder is a workspaceStorage outside any User folder";
 }
 
@@ -231,7 +231,7 @@ TEST(ReclaimWalk, aDeepChainKnowsTheApplicationSupportAtItsTop) {
     });
     fakes::FakeFileManager files;
     std::vector<Reclaimable> items;
-    ReclaimClassifier(files).collect(*top, home, items);
+    ReclaimClassifier(files).collect(*top, walkedHome, items);
     EXPECT_EQ(items.size(), 1U);
 }
 

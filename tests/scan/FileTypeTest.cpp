@@ -10,7 +10,7 @@
 namespace zelk {
 namespace {
 
-const std::map<FileType, std::vector<std::string>> expected{
+const std::map<FileType, std::vector<std::string>> extensionsOfTypes{
     {FileType::video, {"mp4", "mov", "m4v", "avi", "mkv", "webm", "flv", "wmv", "mpg", "mpeg", "3gp", "m2ts", "ts"}},
     {FileType::audio, {"mp3", "m4a", "wav", "aac", "flac", "aiff", "aif", "ogg", "wma", "caf"}},
     {FileType::image,
@@ -30,7 +30,7 @@ std::string upperCase(std::string text) {
 
 TEST(FileType, knowsEveryExtensionInEitherCase) {
     std::size_t rows = 0;
-    for (const auto& [type, extensions] : expected) {
+    for (const auto& [type, extensions] : extensionsOfTypes) {
         for (const std::string& extension : extensions) {
             EXPECT_EQ(classifyName("a." + extension).type, type) << extension;
             EXPECT_EQ(classifyName("a.b." + upperCase(extension)).type, type) << extension;
@@ -78,7 +78,7 @@ TEST(FileType, listsOfDiskImagesAndOfTheirTypeDifferOnPurpose) {
         EXPECT_TRUE(classifyName("a." + extension).canBeDiskImage) << extension;
         EXPECT_TRUE(classifyName("a." + upperCase(extension)).canBeDiskImage) << extension;
     }
-    for (const auto& [type, extensions] : expected) {
+    for (const auto& [type, extensions] : extensionsOfTypes) {
         for (const std::string& extension : extensions) {
             EXPECT_EQ(classifyName("a." + extension).canBeDiskImage, listed.contains(extension)) << extension;
         }

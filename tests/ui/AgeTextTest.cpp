@@ -7,10 +7,10 @@ namespace zelk {
 
 namespace {
 
-constexpr TimePoint now = 1'750'000'000;
+constexpr TimePoint today = 1'750'000'000;
 
 std::string ageOf(double days) {
-    return ageText(now - days * secondsPerDay, now).toStdString();
+    return ageText(today - days * secondsPerDay, today).toStdString();
 }
 
 }  // namespace

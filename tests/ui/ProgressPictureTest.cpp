@@ -12,12 +12,12 @@ namespace {
 using Kind = fakes::DrawnShape::Kind;
 
 constexpr QSizeF size(200, 6);
-const QColor track(255, 255, 255, 20);
-const QColor amber(245, 166, 35);
+const QColor barTrack(255, 255, 255, 20);
+const QColor barAmber(245, 166, 35);
 
 std::vector<fakes::DrawnShape> barAt(double seconds) {
     fakes::RecordingCanvas canvas;
-    drawProgress(canvas, size, seconds, track, amber);
+    drawProgress(canvas, size, seconds, barTrack, barAmber);
     return canvas.shapes;
 }
 
@@ -45,7 +45,7 @@ TEST(ModuleProgressBar, isACapsuleOnACapsule) {
     ASSERT_EQ(shapes.size(), 2U);
     EXPECT_EQ(shapes[0].kind, Kind::bar);
     EXPECT_EQ(shapes[0].rect, QRectF(0, 0, 200, 6));
-    EXPECT_EQ(shapes[0].paint, Paint::solid(track));
+    EXPECT_EQ(shapes[0].paint, Paint::solid(barTrack));
     EXPECT_EQ(shapes[1].kind, Kind::bar);
     EXPECT_EQ(shapes[1].rect, QRectF(66, 0, 68, 6));
     for (const auto& shape : shapes) {
@@ -55,7 +55,7 @@ TEST(ModuleProgressBar, isACapsuleOnACapsule) {
     EXPECT_EQ(shapes[1].paint.kind, Paint::Kind::linear);
     EXPECT_EQ(shapes[1].paint.from, QPointF(66, 0));
     EXPECT_EQ(shapes[1].paint.to, QPointF(134, 0));
-    for (const GradientStop& stop : shapes[1].paint.stops) EXPECT_EQ(stop.color.rgb(), amber.rgb());
+    for (const GradientStop& stop : shapes[1].paint.stops) EXPECT_EQ(stop.color.rgb(), barAmber.rgb());
 }
 
 TEST(ModuleProgressBar, showsOfItsSliverWhatLiesOnTheTrack) {
@@ -72,7 +72,7 @@ TEST(ModuleProgressBar, showsOfItsSliverWhatLiesOnTheTrack) {
 
 TEST(ModuleProgressBar, withoutRoomDrawsNoSliver) {
     fakes::RecordingCanvas canvas;
-    drawProgress(canvas, {0, 6}, 0.75, track, amber);
+    drawProgress(canvas, {0, 6}, 0.75, barTrack, barAmber);
     EXPECT_EQ(canvas.shapes.size(), 1U);
 }
 

@@ -17,12 +17,12 @@ using Widths = std::vector<double>;
 using Kind = fakes::DrawnShape::Kind;
 
 const QColor freeColor(255, 255, 255, 20);
-const QColor colors[] = {QColor(10, 20, 30), QColor(40, 50, 60), QColor(70, 80, 90)};
+const QColor segmentColors[] = {QColor(10, 20, 30), QColor(40, 50, 60), QColor(70, 80, 90)};
 
 QList<RibbonSegment> segmentsOf(const std::vector<std::int64_t>& bytes) {
     QList<RibbonSegment> segments;
     for (const std::int64_t count : bytes)
-        segments.append({QStringLiteral("Type"), count, QStringLiteral("1 GB"), colors[segments.size()]});
+        segments.append({QStringLiteral("Type"), count, QStringLiteral("1 GB"), segmentColors[segments.size()]});
     return segments;
 }
 
@@ -96,8 +96,8 @@ TEST(StorageRibbon, hasASectionForEachSegmentAndLastTheFreeSpace) {
     EXPECT_EQ(bars[0].rect, QRectF(0, 0, 100, 22));
     EXPECT_EQ(bars[1].rect, QRectF(100, 0, 200, 22));
     EXPECT_EQ(bars[2].rect, QRectF(300, 0, 100, 22));
-    EXPECT_EQ(bars[0].paint, Paint::solid(colors[0]));
-    EXPECT_EQ(bars[1].paint, Paint::solid(colors[1]));
+    EXPECT_EQ(bars[0].paint, Paint::solid(segmentColors[0]));
+    EXPECT_EQ(bars[1].paint, Paint::solid(segmentColors[1]));
     EXPECT_EQ(bars[2].paint, Paint::solid(freeColor));
 }
 
@@ -114,7 +114,7 @@ TEST(StorageRibbon, leavesOutWhatHasNoBytesAndRoundsItsNeighbour) {
     const auto bars = ribbon({0, 100, 0}, 0);
     ASSERT_EQ(bars.size(), 1U);
     EXPECT_EQ(bars[0].rect, QRectF(0, 0, 400, 22));
-    EXPECT_EQ(bars[0].paint, Paint::solid(colors[1]));
+    EXPECT_EQ(bars[0].paint, Paint::solid(segmentColors[1]));
     EXPECT_GT(bars[0].leftCorner, 2);
     EXPECT_EQ(bars[0].leftCorner, bars[0].rightCorner);
 }
@@ -136,7 +136,7 @@ TEST(StorageRibbon, paintsTheFreeSpaceOfAThousandTerabytes) {
     shown.fill(Qt::black);
     QPainter painter(&shown);
     picture.paint(&painter);
-    EXPECT_EQ(shown.pixelColor(190, 11), colors[0]);
+    EXPECT_EQ(shown.pixelColor(190, 11), segmentColors[0]);
     EXPECT_EQ(shown.pixelColor(210, 11), QColor(Qt::green));
 }
 

@@ -13,12 +13,12 @@ namespace {
 
 using Kind = fakes::DrawnShape::Kind;
 
-const QColor track(255, 255, 255, 20);
-const QColor amber(245, 166, 35);
+const QColor ringTrack(255, 255, 255, 20);
+const QColor ringAmber(245, 166, 35);
 
 double spanOf(double value) {
     fakes::RecordingCanvas canvas;
-    drawRing(canvas, 108, value, track, amber);
+    drawRing(canvas, 108, value, ringTrack, ringAmber);
     return canvas.shapes.back().span;
 }
 
@@ -26,14 +26,14 @@ double spanOf(double value) {
 
 TEST(RingGauge, isAnArcOverAFullTrackInsideItsSquare) {
     fakes::RecordingCanvas canvas;
-    drawRing(canvas, 108, 0.25, track, amber);
+    drawRing(canvas, 108, 0.25, ringTrack, ringAmber);
     ASSERT_EQ(canvas.shapes.size(), 2U);
     const auto& below = canvas.shapes[0];
     EXPECT_EQ(below.kind, Kind::ring);
-    EXPECT_EQ(below.paint, Paint::solid(track));
+    EXPECT_EQ(below.paint, Paint::solid(ringTrack));
     const auto& arc = canvas.shapes[1];
     EXPECT_EQ(arc.kind, Kind::roundArc);
-    EXPECT_EQ(arc.paint, Paint::solid(amber));
+    EXPECT_EQ(arc.paint, Paint::solid(ringAmber));
     for (const auto& shape : canvas.shapes) {
         EXPECT_EQ(shape.center, QPointF(54, 54));
         EXPECT_EQ(shape.width, 10);
@@ -43,7 +43,7 @@ TEST(RingGauge, isAnArcOverAFullTrackInsideItsSquare) {
 
 TEST(RingGauge, goesFromNoonWithTheClock) {
     fakes::RecordingCanvas canvas;
-    drawRing(canvas, 108, 0.25, track, amber);
+    drawRing(canvas, 108, 0.25, ringTrack, ringAmber);
     EXPECT_EQ(canvas.shapes.back().start, 90);
     EXPECT_EQ(canvas.shapes.back().span, -90);
 }

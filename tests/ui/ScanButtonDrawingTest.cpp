@@ -14,7 +14,7 @@ using fakes::DrawnShape;
 using fakes::RecordingCanvas;
 using Kind = DrawnShape::Kind;
 
-const QPointF center(132, 132);
+const QPointF buttonCenter(132, 132);
 const QColor accent(245, 166, 35);
 
 /// The opacity of a paint where it starts, in hundredths; -1 if it is not of the accent.
@@ -27,12 +27,12 @@ int opacityAtStart(const Paint& paint) {
 
 TEST(ScanGlow, hasThreeLayersOfTheAccent) {
     RecordingCanvas canvas;
-    drawScanGlow(canvas, center, accent);
+    drawScanGlow(canvas, buttonCenter, accent);
     ASSERT_EQ(canvas.shapes.size(), 3U);
 
     const DrawnShape& near = canvas.shapes[0];
     EXPECT_EQ(near.kind, Kind::disc);
-    EXPECT_EQ(near.center, center);
+    EXPECT_EQ(near.center, buttonCenter);
     EXPECT_DOUBLE_EQ(near.radius, 112);
     EXPECT_EQ(opacityAtStart(near.paint), 55);
 
@@ -43,7 +43,7 @@ TEST(ScanGlow, hasThreeLayersOfTheAccent) {
 
     const DrawnShape& ring = canvas.shapes[2];
     EXPECT_EQ(ring.kind, Kind::ring);
-    EXPECT_EQ(ring.center, center);
+    EXPECT_EQ(ring.center, buttonCenter);
     EXPECT_DOUBLE_EQ(ring.radius, 108);
     EXPECT_DOUBLE_EQ(ring.width, 1.25);
     EXPECT_EQ(opacityAtStart(ring.paint), 42);
@@ -51,11 +51,11 @@ TEST(ScanGlow, hasThreeLayersOfTheAccent) {
 
 TEST(ScanGlow, fadesToNothingAtItsEdge) {
     RecordingCanvas canvas;
-    drawScanGlow(canvas, center, accent);
+    drawScanGlow(canvas, buttonCenter, accent);
     for (const std::size_t layer : {0U, 1U}) {
         const DrawnShape& halo = canvas.shapes[layer];
         EXPECT_EQ(halo.paint.kind, Paint::Kind::radial);
-        EXPECT_EQ(halo.paint.from, center);
+        EXPECT_EQ(halo.paint.from, buttonCenter);
         EXPECT_DOUBLE_EQ(halo.paint.radius, halo.radius);
         ASSERT_EQ(halo.paint.stops.size(), 5U);
         EXPECT_DOUBLE_EQ(halo.paint.stops.back().at, 1);
@@ -68,14 +68,14 @@ TEST(ScanGlow, fadesToNothingAtItsEdge) {
 
 TEST(ScanGlow, staysInItsFrame) {
     RecordingCanvas canvas;
-    drawScanGlow(canvas, center, accent);
+    drawScanGlow(canvas, buttonCenter, accent);
     for (const DrawnShape& shape : canvas.shapes)
         EXPECT_LE(2 * (shape.radius + shape.width / 2), ScanButtonShape::frame);
 }
 
 TEST(ScanDisc, isFilledByTheAccentGradientFromTopLeftToBottomRight) {
     RecordingCanvas canvas;
-    drawScanDisc(canvas, center);
+    drawScanDisc(canvas, buttonCenter);
     ASSERT_EQ(canvas.shapes.size(), 3U);
     const DrawnShape& disc = canvas.shapes[0];
     EXPECT_EQ(disc.kind, Kind::disc);
@@ -85,7 +85,7 @@ TEST(ScanDisc, isFilledByTheAccentGradientFromTopLeftToBottomRight) {
 
 TEST(ScanDisc, hasItsLightWithinItself) {
     RecordingCanvas canvas;
-    drawScanDisc(canvas, center);
+    drawScanDisc(canvas, buttonCenter);
     ASSERT_EQ(canvas.shapes.size(), 3U);
     EXPECT_EQ(canvas.shapes[1].paint.kind, Paint::Kind::radial);
     EXPECT_DOUBLE_EQ(canvas.shapes[1].radius, 92);
@@ -95,14 +95,14 @@ TEST(ScanDisc, hasItsLightWithinItself) {
 
 TEST(ScanSheen, coversTheDisc) {
     RecordingCanvas canvas;
-    drawScanSheen(canvas, center);
+    drawScanSheen(canvas, buttonCenter);
     ASSERT_EQ(canvas.shapes.size(), 1U);
     EXPECT_DOUBLE_EQ(canvas.shapes[0].radius, 92);
 }
 
 TEST(ScanComet, trailsFromNoonAgainstTheClock) {
     RecordingCanvas canvas;
-    drawScanComet(canvas, center, accent);
+    drawScanComet(canvas, buttonCenter, accent);
     ASSERT_EQ(canvas.shapes.size(), 2U);
 
     const DrawnShape& tail = canvas.shapes[0];
@@ -124,7 +124,7 @@ TEST(ScanComet, trailsFromNoonAgainstTheClock) {
 
 TEST(ScanComet, staysInItsFrameAllTheWayRound) {
     RecordingCanvas canvas;
-    drawScanComet(canvas, center, accent);
+    drawScanComet(canvas, buttonCenter, accent);
     const double reach = ScanButtonShape::ringRadius + canvas.shapes[1].radius;
     EXPECT_LE(2 * reach, ScanButtonShape::turningFrame);
 }

@@ -33,10 +33,10 @@ struct Mutator::Shared {
 
 namespace {
 
-constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int openFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 int openOrThrow(const std::string& path) {
-    const int fd = open(path.c_str(), folderFlags);
+    const int fd = open(path.c_str(), openFlags);
     if (fd < 0) throw std::runtime_error("the mutator needs " + path);
     return fd;
 }
@@ -88,7 +88,7 @@ private:
     int somewhere() {
         int at = dup(root_);
         for (std::uint64_t depth = random_() % 48; depth > 0; --depth) {
-            const int next = openat(at, someName().c_str(), folderFlags);
+            const int next = openat(at, someName().c_str(), openFlags);
             if (next < 0) break;
             close(at);
             at = next;
@@ -101,7 +101,7 @@ private:
         for (std::uint64_t depth = 1 + random_() % 30; depth > 0; --depth) {
             const std::string name = someName();
             if (mkdirat(at, name.c_str(), 0755) == 0) ++done_.created;
-            const int next = openat(at, name.c_str(), folderFlags);
+            const int next = openat(at, name.c_str(), openFlags);
             if (next < 0) break;
             close(at);
             at = next;

@@ -20,7 +20,7 @@ constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 int openFolder(int parent, const char* name) {
     const int fd = openat(parent, name, folderFlags);
     if (fd >= 0 || errno != EACCES) return fd;
-    fchmodat(parent, name, S_IRWXU, 0);
+    if (fchmodat(parent, name, S_IRWXU, 0) != 0) return -1;
     return openat(parent, name, folderFlags);
 }
 
