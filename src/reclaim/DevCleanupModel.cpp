@@ -115,3 +115,5 @@ bool tookAway(const Cleaner::Result& result) {
 }
 
 }  // namespace zelk
+
+#include "moc_DevCleanupModel.cpp"

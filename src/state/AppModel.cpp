@@ -110,3 +110,5 @@ std::string_view rawValue(AppModel::Appearance appearance) {
 }
 
 }  // namespace zelk
+
+#include "moc_AppModel.cpp"

@@ -21,6 +21,7 @@ ALWAYS = [str(ZIG), "c++", "-target", TARGET, "-O0", "-fno-sanitize=undefined", 
 OBJECTIVE_CXX = ["-fobjc-arc", "-Werror=objc-method-access", "-Werror=unguarded-availability-new",
                  "-Wno-unused-command-line-argument", "-isystem", str(HERE / "cocoa")]
 # What only a Linux build has: CMake leaves it out on a Mac.
+JOINED_AT_MOST = 12
 LINUX_ONLY = ("/linux/", "/bench/floor.cpp")
 
 
@@ -49,9 +50,13 @@ def environment():
 class Unit:
     source: Path
     flags: list
+    # Where it joins sources: which folder's.
+    folder: str = ""
 
     @property
     def name(self):
+        if self.folder:
+            return f"{self.folder}/{self.source.name}"
         return str(self.source.relative_to(ROOT)) if self.source.is_relative_to(ROOT) else str(self.source)
 
     @property
@@ -92,6 +97,32 @@ def units(build: Path):
             beside = next(unit for unit in found if unit.source.is_relative_to(source.parents[1]))
             found.append(Unit(source, beside.flags))
     return found
+
+
+def joined(found):
+    """The same with the sources of a folder in units of some, which parse the same headers once. What only a Mac has
+    stays by itself: no build joins it."""
+    groups, others = {}, []
+    for unit in found:
+        ours = unit.source.is_relative_to(ROOT) and not unit.source.is_relative_to(ROOT / "build")
+        if ours and unit.source.suffix == ".cpp" and unit.source.parent.name != "macos":
+            groups.setdefault((unit.source.parent, tuple(unit.flags)), []).append(unit)
+        else:
+            others.append(unit)
+    (CACHE / "joined").mkdir(parents=True, exist_ok=True)
+    units = []
+    for number, ((folder, flags), members) in enumerate(groups.items()):
+        for first in range(0, len(members), JOINED_AT_MOST):
+            part = members[first:first + JOINED_AT_MOST]
+            if len(part) == 1:
+                units += part
+                continue
+            source = CACHE / "joined" / f"joined_{number}_{first}.cpp"
+            text = "".join(f'#include "{unit.source}"\n' for unit in part)
+            if not source.exists() or source.read_text() != text:
+                source.write_text(text)
+            units.append(Unit(source, list(flags), str(folder.relative_to(ROOT))))
+    return units + others
 
 
 def generate(build: Path, found):

@@ -30,3 +30,5 @@ void BubbleModel::leave() const {
 }
 
 }  // namespace zelk
+
+#include "moc_BubbleModel.cpp"

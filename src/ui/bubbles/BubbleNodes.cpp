@@ -105,3 +105,5 @@ QHash<int, QByteArray> BubbleNodes::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_BubbleNodes.cpp"

@@ -312,3 +312,5 @@ void BubblePicture::retip() {
 }
 
 }  // namespace zelk
+
+#include "moc_BubblePicture.cpp"

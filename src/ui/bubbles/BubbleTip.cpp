@@ -25,3 +25,5 @@ BubbleTip BubbleTip::of(const BubbleSlice& slice, QPointF point, QSizeF chart, d
 }
 
 }  // namespace zelk
+
+#include "moc_BubbleTip.cpp"

@@ -64,3 +64,5 @@ QHash<int, QByteArray> ClutterRows::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_ClutterRows.cpp"

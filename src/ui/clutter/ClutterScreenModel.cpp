@@ -132,3 +132,5 @@ std::vector<LargeFile> ClutterScreenModel::shownFiles() const {
 }
 
 }  // namespace zelk
+
+#include "moc_ClutterScreenModel.cpp"

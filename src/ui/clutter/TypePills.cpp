@@ -66,3 +66,5 @@ QHash<int, QByteArray> TypePills::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_TypePills.cpp"

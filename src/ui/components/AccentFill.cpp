@@ -21,3 +21,5 @@ void AccentFill::draw(Canvas& canvas) const {
 }
 
 }  // namespace zelk
+
+#include "moc_AccentFill.cpp"

@@ -23,3 +23,5 @@ DeviceFace DeviceFace::of(const DeviceInfo& device, const std::optional<VolumeIn
 }
 
 }  // namespace zelk
+
+#include "moc_DeviceFace.cpp"

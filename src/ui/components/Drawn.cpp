@@ -15,3 +15,5 @@ void Drawn::paint(QPainter* painter) {
 }
 
 }  // namespace zelk
+
+#include "moc_Drawn.cpp"

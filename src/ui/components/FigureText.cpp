@@ -141,3 +141,5 @@ void FigureText::paint(QPainter* painter) {
 }
 
 }  // namespace zelk
+
+#include "moc_FigureText.cpp"

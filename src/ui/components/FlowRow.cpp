@@ -71,3 +71,5 @@ void FlowRow::updatePolish() {
 }
 
 }  // namespace zelk
+
+#include "moc_FlowRow.cpp"

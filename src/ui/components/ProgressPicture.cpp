@@ -46,3 +46,5 @@ void ProgressPicture::draw(Canvas& canvas) const {
 }
 
 }  // namespace zelk
+
+#include "moc_ProgressPicture.cpp"

@@ -61,3 +61,5 @@ void RibbonPicture::draw(Canvas& canvas) const {
 }
 
 }  // namespace zelk
+
+#include "moc_RibbonPicture.cpp"

@@ -71,3 +71,5 @@ void RingPicture::draw(Canvas& canvas) const {
 }
 
 }  // namespace zelk
+
+#include "moc_RingPicture.cpp"

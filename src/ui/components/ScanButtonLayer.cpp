@@ -110,3 +110,5 @@ void ScanButtonLayer::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 }  // namespace zelk
+
+#include "moc_ScanButtonLayer.cpp"

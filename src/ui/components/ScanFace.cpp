@@ -35,3 +35,5 @@ ScanFace ScanFace::finished(std::int64_t recoverable, const QLocale& locale) {
 }
 
 }  // namespace zelk
+
+#include "moc_ScanFace.cpp"

@@ -28,3 +28,5 @@ void SoftShadow::draw(Canvas& canvas) const {
 }
 
 }  // namespace zelk
+
+#include "moc_SoftShadow.cpp"

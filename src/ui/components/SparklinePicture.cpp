@@ -32,3 +32,5 @@ void SparklinePicture::draw(Canvas& canvas) const {
 }
 
 }  // namespace zelk
+
+#include "moc_SparklinePicture.cpp"

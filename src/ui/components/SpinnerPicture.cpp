@@ -34,3 +34,5 @@ void SpinnerPicture::draw(Canvas& canvas) const {
 }
 
 }  // namespace zelk
+
+#include "moc_SpinnerPicture.cpp"

@@ -9,3 +9,5 @@ QString Spoken::joined(QStringList texts) {
 }
 
 }  // namespace zelk
+
+#include "moc_Spoken.cpp"

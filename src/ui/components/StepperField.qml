@@ -18,11 +18,15 @@ T.SpinBox {
 
     signal moved(int value)
 
+    // What its face measures. (An id of the face would make the template build it at once.)
+    property real nameWidth: 0
+    property real numberWidth: 0
+
     readonly property int corner: 8
     readonly property real buttonSide: Math.round(26 * TextScale.factor)
-    readonly property real boxWidth: 2 * stepper.buttonSide + Math.max(36 * TextScale.factor, face.numberWidth + 16)
+    readonly property real boxWidth: 2 * stepper.buttonSide + Math.max(36 * TextScale.factor, stepper.numberWidth + 16)
 
-    implicitWidth: Math.ceil(face.nameWidth + 12 + stepper.boxWidth)
+    implicitWidth: Math.ceil(stepper.nameWidth + 12 + stepper.boxWidth)
     implicitHeight: Math.max(stepper.buttonSide + 4, implicitContentHeight)
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
@@ -99,11 +103,11 @@ T.SpinBox {
     }
 
     contentItem: StepperFace {
-        id: face
-
         label: stepper.label
         number: stepper.valueText
         size: stepper.size
         boxWidth: stepper.boxWidth
+        onNameWidthChanged: stepper.nameWidth = nameWidth
+        onNumberWidthChanged: stepper.numberWidth = numberWidth
     }
 }

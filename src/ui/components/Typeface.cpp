@@ -10,3 +10,5 @@ QString Typeface::fixed() const {
 }
 
 }  // namespace zelk
+
+#include "moc_Typeface.cpp"

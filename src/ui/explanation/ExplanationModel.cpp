@@ -61,3 +61,5 @@ QString ExplanationModel::doneLabel() const {
 }
 
 }  // namespace zelk
+
+#include "moc_ExplanationModel.cpp"

@@ -47,3 +47,5 @@ void HelpModel::select(int row) {
 }
 
 }  // namespace zelk
+
+#include "moc_HelpModel.cpp"

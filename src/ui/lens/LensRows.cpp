@@ -138,3 +138,5 @@ QHash<int, QByteArray> LensRows::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_LensRows.cpp"

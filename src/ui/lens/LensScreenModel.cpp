@@ -203,3 +203,5 @@ void LensScreenModel::endRemoval(const std::vector<NodeRef>& gone) {
 }
 
 }  // namespace zelk
+
+#include "moc_LensScreenModel.cpp"

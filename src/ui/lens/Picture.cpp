@@ -22,3 +22,5 @@ void Picture::paint(QPainter* painter) {
 }
 
 }  // namespace zelk
+
+#include "moc_Picture.cpp"

@@ -41,3 +41,5 @@ void ModuleScreenModel::cancel() {
 }
 
 }  // namespace zelk
+
+#include "moc_ModuleScreenModel.cpp"

@@ -77,3 +77,5 @@ void PaintedLayer::paint(QPainter* painter) {
 }
 
 }  // namespace zelk
+
+#include "moc_PaintedLayer.cpp"

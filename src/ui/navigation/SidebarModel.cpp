@@ -55,3 +55,5 @@ void SidebarModel::setDeveloper(bool developer) {
 }
 
 }  // namespace zelk
+
+#include "moc_SidebarModel.cpp"

@@ -68,3 +68,5 @@ void SidebarRows::followSelection() {
 }
 
 }  // namespace zelk
+
+#include "moc_SidebarRows.cpp"

@@ -50,3 +50,5 @@ void SurveyedModule::followProgress() {
 }
 
 }  // namespace zelk
+
+#include "moc_SurveyedModule.cpp"

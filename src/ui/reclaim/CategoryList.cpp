@@ -189,3 +189,5 @@ void CategoryList::showBubbles() {
 }
 
 }  // namespace zelk
+
+#include "moc_CategoryList.cpp"

@@ -140,3 +140,5 @@ void DryRunModel::close() {
 }
 
 }  // namespace zelk
+
+#include "moc_DryRunModel.cpp"

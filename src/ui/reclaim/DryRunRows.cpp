@@ -46,3 +46,5 @@ QHash<int, QByteArray> DryRunRows::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_DryRunRows.cpp"

@@ -295,3 +295,5 @@ void ItemList::changed(int first, int last, const QList<int>& roles) {
 }
 
 }  // namespace zelk
+
+#include "moc_ItemList.cpp"

@@ -92,3 +92,5 @@ void ReclaimScreenModel::openOrClose() {
 }
 
 }  // namespace zelk
+
+#include "moc_ReclaimScreenModel.cpp"

@@ -67,3 +67,5 @@ QHash<int, QByteArray> SafetyGuide::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_SafetyGuide.cpp"

@@ -61,3 +61,5 @@ void ScanRootList::follow() {
 }
 
 }  // namespace zelk
+
+#include "moc_ScanRootList.cpp"

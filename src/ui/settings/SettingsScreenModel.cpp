@@ -119,3 +119,5 @@ void SettingsScreenModel::rescan() {
 }
 
 }  // namespace zelk
+
+#include "moc_SettingsScreenModel.cpp"

@@ -41,3 +41,5 @@ QHash<int, QByteArray> AboutModel::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_AboutModel.cpp"

@@ -89,3 +89,5 @@ QString AppCommands::barName() const {
 }
 
 }  // namespace zelk
+
+#include "moc_AppCommands.cpp"

@@ -40,3 +40,5 @@ void CommandMenu::run(int row) {
 }
 
 }  // namespace zelk
+
+#include "moc_CommandMenu.cpp"

@@ -49,3 +49,5 @@ void DetailPages::followSelection() {
 }
 
 }  // namespace zelk
+
+#include "moc_DetailPages.cpp"

@@ -46,3 +46,5 @@ void RootModel::followFirstRun() {
 }
 
 }  // namespace zelk
+
+#include "moc_RootModel.cpp"

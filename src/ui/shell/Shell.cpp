@@ -64,3 +64,5 @@ void Shell::followStatusItem() {
 }
 
 }  // namespace zelk
+
+#include "moc_Shell.cpp"

@@ -54,3 +54,5 @@ void StatusItem::follow() {
 }
 
 }  // namespace zelk
+
+#include "moc_StatusItem.cpp"

@@ -54,3 +54,5 @@ void StatusMenu::runSurvey() const {
 }
 
 }  // namespace zelk
+
+#include "moc_StatusMenu.cpp"

@@ -116,3 +116,5 @@ QHash<int, QByteArray> ChangesModel::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_ChangesModel.cpp"

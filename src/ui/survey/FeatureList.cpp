@@ -40,3 +40,5 @@ QHash<int, QByteArray> FeatureList::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_FeatureList.cpp"

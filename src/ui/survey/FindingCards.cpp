@@ -91,3 +91,5 @@ void FindingCards::press(int row) {
 }
 
 }  // namespace zelk
+
+#include "moc_FindingCards.cpp"

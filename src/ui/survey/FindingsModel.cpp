@@ -97,3 +97,5 @@ QList<RibbonSegment> FindingsModel::readSegments() const {
 }
 
 }  // namespace zelk
+
+#include "moc_FindingsModel.cpp"

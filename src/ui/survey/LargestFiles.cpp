@@ -49,3 +49,5 @@ QHash<int, QByteArray> LargestFiles::roleNames() const {
 }
 
 }  // namespace zelk
+
+#include "moc_LargestFiles.cpp"

@@ -182,3 +182,5 @@ double SurveyScreenModel::steadySeconds() {
 }
 
 }  // namespace zelk
+
+#include "moc_SurveyScreenModel.cpp"

@@ -57,3 +57,5 @@ void TrashBannerModel::act() {
 }
 
 }  // namespace zelk
+
+#include "moc_TrashBannerModel.cpp"

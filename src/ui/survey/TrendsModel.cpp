@@ -84,3 +84,5 @@ void TrendsModel::setShowChanges(bool show) {
 }
 
 }  // namespace zelk
+
+#include "moc_TrendsModel.cpp"

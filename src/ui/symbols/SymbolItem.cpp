@@ -98,3 +98,5 @@ void SymbolItem::paint(QPainter* painter) {
 }
 
 }  // namespace zelk
+
+#include "moc_SymbolItem.cpp"

@@ -132,3 +132,5 @@ void DesktopSettings::start() {}
 #endif
 
 }  // namespace zelk
+
+#include "moc_DesktopSettings.cpp"

@@ -24,3 +24,5 @@ void Motion::apply(bool reduced) {
 }
 
 }  // namespace zelk
+
+#include "moc_Motion.cpp"

@@ -33,3 +33,5 @@ void TextScale::apply(qreal factor) {
 }
 
 }  // namespace zelk
+
+#include "moc_TextScale.cpp"

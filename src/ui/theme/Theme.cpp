@@ -75,3 +75,5 @@ bool Theme::eventFilter(QObject* watched, QEvent* event) {
 }
 
 }  // namespace zelk
+
+#include "moc_Theme.cpp"

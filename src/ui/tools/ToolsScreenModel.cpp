@@ -95,3 +95,5 @@ void ToolsScreenModel::press(int row) {
 }
 
 }  // namespace zelk
+
+#include "moc_ToolsScreenModel.cpp"

@@ -61,3 +61,5 @@ void AccessPanelModel::finish() {
 }
 
 }  // namespace zelk
+
+#include "moc_AccessPanelModel.cpp"

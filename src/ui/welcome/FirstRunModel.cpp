@@ -38,3 +38,5 @@ void FirstRunModel::show(bool welcome, bool onboarding) {
 }
 
 }  // namespace zelk
+
+#include "moc_FirstRunModel.cpp"

@@ -112,3 +112,5 @@ void WelcomeModel::show(int page) {
 }
 
 }  // namespace zelk
+
+#include "moc_WelcomeModel.cpp"

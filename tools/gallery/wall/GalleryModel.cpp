@@ -128,3 +128,5 @@ QList<RibbonSegment> GalleryModel::segments() const {
 }
 
 }  // namespace zelk
+
+#include "moc_GalleryModel.cpp"
