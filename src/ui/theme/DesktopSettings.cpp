@@ -21,11 +21,11 @@ namespace zelk {
 namespace {
 
 const QString gnomeInterface = QStringLiteral("org.gnome.desktop.interface");
-const QString appearance = QStringLiteral("org.freedesktop.appearance");
+const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 
 const DesktopKey enableAnimations{gnomeInterface, QStringLiteral("enable-animations")};
-const DesktopKey reducedMotionKey{appearance, QStringLiteral("reduced-motion")};
-const DesktopKey colorScheme{appearance, QStringLiteral("color-scheme")};
+const DesktopKey reducedMotionKey{appearanceGroup, QStringLiteral("reduced-motion")};
+const DesktopKey colorScheme{appearanceGroup, QStringLiteral("color-scheme")};
 const DesktopKey textScalingFactor{gnomeInterface, QStringLiteral("text-scaling-factor")};
 
 #ifdef Q_OS_LINUX
