@@ -154,9 +154,13 @@ class FakeLocations : public Locations {
 public:
     std::string homePath = "/home/me";
     std::optional<std::string> applicationSupportPath = "/home/me/support";
+    std::optional<std::string> xdgDataHomePath;
+    TrashPlaces thrownAway;
 
     std::string home() override { return homePath; }
     std::optional<std::string> applicationSupport() override { return applicationSupportPath; }
+    std::optional<std::string> xdgDataHome() override { return xdgDataHomePath; }
+    TrashPlaces trashPlaces() override { return thrownAway; }
 };
 
 /// A folder "/home/me/.Trash" whose entries are in the file manager.

@@ -5,7 +5,11 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <filesystem>
+
 #include "fakes/Environment.h"
+#include "platform/linux/LinuxTrash.h"
+#include "zoo/TempFolder.h"
 
 namespace zelk {
 namespace {
@@ -67,6 +71,46 @@ TEST(LinuxLocations, aGivenHomeTakesEverythingWithIt) {
     LinuxLocations locations("/given");
     EXPECT_EQ(locations.home(), "/given");
     EXPECT_EQ(locations.applicationSupport(), "/given/.local/share");
+}
+
+TEST(LinuxLocations, theHomeIsLaidOutByTheRulesOfFreedesktop) {
+    const EnvironmentVariable home("HOME", "/home/me");
+    const EnvironmentVariable data("XDG_DATA_HOME", "/else/where/");
+    EXPECT_EQ(LinuxLocations().xdgDataHome(), "/else/where");
+    EXPECT_EQ(LinuxLocations("/given").xdgDataHome(), "/given/.local/share");
+}
+
+TEST(LinuxLocations, whatWasThrownAwayLiesWhereTheTrashPutsIt) {
+    const EnvironmentVariable home("HOME", "/home/me");
+    for (const std::optional<std::string>& value :
+         {std::optional<std::string>(), std::optional<std::string>("/data")}) {
+        const EnvironmentVariable data("XDG_DATA_HOME", value);
+        const TrashPlaces places = LinuxLocations().trashPlaces();
+        EXPECT_TRUE(places.areAt(LinuxTrash().location())) << value.value_or("unset");
+        EXPECT_EQ(places.areAt("/data/Trash/files"), value.has_value());
+        EXPECT_FALSE(places.areAt("/home/you/.local/share/Trash/files"));
+    }
+    EXPECT_TRUE(LinuxLocations("/given").trashPlaces().areAt(LinuxTrash("/given").location()));
+}
+
+TEST(LinuxLocations, whatWasThrownAwayOnAVolumeLiesInTheTrashOfThisUser) {
+    const TrashPlaces places = LinuxLocations("/given").trashPlaces();
+    const std::string user = std::to_string(::geteuid());
+    for (const std::string& top : {std::string(), std::string("/media/stick"), std::string("/mnt/a b")}) {
+        EXPECT_TRUE(places.areAt(top + "/.Trash-" + user + "/files")) << top;
+        EXPECT_TRUE(places.areAt(top + "/.Trash/" + user + "/files")) << top;
+        EXPECT_FALSE(places.areAt(top + "/.Trash-" + user + "1/files")) << top;
+        EXPECT_FALSE(places.areAt(top + "/.Trash/1" + user + "/files")) << top;
+    }
+}
+
+TEST(LinuxLocations, whatWasThrownAwayIsFoundByThePathBehindALinkToo) {
+    const zoo::TempFolder temp;
+    std::filesystem::create_directories(temp / "real/me");
+    std::filesystem::create_directory_symlink(temp / "real", temp / "link");
+    const TrashPlaces places = LinuxLocations(temp / "link/me").trashPlaces();
+    EXPECT_TRUE(places.areAt(temp / "link/me/.local/share/Trash/files"));
+    EXPECT_TRUE(places.areAt(temp / "real/me/.local/share/Trash/files"));
 }
 
 TEST(LinuxLocations, theEnvironmentIsReadOnce) {

@@ -12,6 +12,7 @@
 #include "fakes/Mounts.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
+#include "platform/linux/LinuxLocations.h"
 #include "platform/linux/LinuxTrash.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
@@ -49,6 +50,7 @@ protected:
         const auto found = restorable(trash);
         ASSERT_THAT(found, ElementsAre(Pair("folder/item 1", testing::_)));
         EXPECT_EQ(fileContent(found.begin()->second), "content");
+        EXPECT_TRUE(LinuxLocations(home).trashPlaces().hold(found.begin()->second)) << found.begin()->second;
         EXPECT_THAT(namesIn(stick + "/folder"), IsEmpty());
     }
 

@@ -23,6 +23,8 @@ public:
 
     std::string home() override { return real_.home(); }
     std::optional<std::string> applicationSupport() override { return support_.path().toStdString(); }
+    std::optional<std::string> xdgDataHome() override { return real_.xdgDataHome(); }
+    TrashPlaces trashPlaces() override { return real_.trashPlaces(); }
 
 private:
     Locations& real_;

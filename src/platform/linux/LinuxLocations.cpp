@@ -6,7 +6,10 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <filesystem>
 #include <string_view>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 namespace zelk {
@@ -41,6 +44,17 @@ std::optional<std::string> homeFromUserDatabase() {
     return found->pw_dir;
 }
 
+/// A survey that begins above the home folder comes to the Trash by the path behind all links.
+TrashPlaces trashPlacesOf(const std::string& dataHome) {
+    const std::string_view files = "Trash/files";
+    std::vector<std::string> folders{below(dataHome, files)};
+    std::error_code error;
+    const std::string real = std::filesystem::weakly_canonical(dataHome, error).string();
+    if (!error && real != dataHome) folders.push_back(below(real, files));
+    const std::string user = std::to_string(::geteuid());
+    return {std::move(folders), {"/.Trash/" + user + "/files", "/.Trash-" + user + "/files"}};
+}
+
 }  // namespace
 
 LinuxLocations::LinuxLocations(const std::string& home) {
@@ -55,6 +69,7 @@ LinuxLocations::LinuxLocations(const std::string& home) {
     }
     home_ = withoutTrailingSlash(home_);
     dataHome_ = dataHome ? withoutTrailingSlash(*dataHome) : below(home_, ".local/share");
+    trashPlaces_ = trashPlacesOf(dataHome_);
 }
 
 }  // namespace zelk

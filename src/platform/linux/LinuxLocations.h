@@ -6,7 +6,8 @@
 namespace zelk {
 
 /// $HOME, else the user database; application support is the XDG data home ($XDG_DATA_HOME, else "~/.local/share").
-/// Values of the environment that are not absolute paths are ignored. The environment is read once.
+/// Values of the environment that are not absolute paths are ignored. The environment is read once, and where links
+/// lead is looked up once.
 class LinuxLocations : public Locations {
 public:
     /// With `home`, everything lies below it and the environment is not asked; empty takes the user's own.
@@ -14,10 +15,14 @@ public:
 
     std::string home() override { return home_; }
     std::optional<std::string> applicationSupport() override { return dataHome_; }
+    std::optional<std::string> xdgDataHome() override { return dataHome_; }
+    /// The "files" of the home trash, and of this user's trash on any volume.
+    TrashPlaces trashPlaces() override { return trashPlaces_; }
 
 private:
     std::string home_;
     std::string dataHome_;
+    TrashPlaces trashPlaces_;
 };
 
 }  // namespace zelk

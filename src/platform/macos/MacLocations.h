@@ -12,6 +12,8 @@ public:
 
     std::string home() override { return home_; }
     std::optional<std::string> applicationSupport() override { return applicationSupport_; }
+    std::optional<std::string> xdgDataHome() override { return std::nullopt; }
+    TrashPlaces trashPlaces() override { return {}; }
 
 private:
     std::string home_;
