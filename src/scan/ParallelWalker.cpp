@@ -34,19 +34,23 @@ struct ParallelWalker::Worker {
         FSNode* node;
         std::size_t nextChild;
         std::size_t pathLength;
+        bool inTrash;
     };
 
     std::unique_ptr<DirectoryReader> reader;
-    std::string path;   ///< of the directory being visited
-    std::string below;  ///< the same relative to its root
+    std::string path;      ///< of the directory being visited
+    std::string below;     ///< the same relative to its root
+    bool inTrash = false;  ///< the directory being visited holds what was thrown away
     std::vector<Level> levels;
 };
 
 ParallelWalker::ParallelWalker(DirectoryService& directories, std::int64_t workerCount, ScanCollectors& collectors,
-                               std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue)
+                               TrashPlaces trash, std::shared_ptr<CancelFlag> cancel,
+                               std::shared_ptr<UpdateQueue> queue)
     : directories_(directories),
       workerCount_(workerCount),
       collectors_(collectors),
+      trash_(std::move(trash)),
       cancel_(std::move(cancel)),
       queue_(std::move(queue)) {}
 
@@ -78,7 +82,7 @@ void ParallelWalker::startWorkers() {
 }
 
 void ParallelWalker::workerLoop() {
-    Worker worker{directories_.makeReader(), {}, {}, {}};
+    Worker worker{directories_.makeReader(), {}, {}, false, {}};
     Work work;
     for (bool finishedOne = false; take(work, finishedOne); finishedOne = true) visit(worker, work);
 }
@@ -105,6 +109,7 @@ bool ParallelWalker::take(Work& work, bool finishedOne) {
 void ParallelWalker::visit(Worker& worker, const Work& work) {
     if (cancel_->isSet()) return;  // a cancelled stack drains through here, and done_ follows from the counting
     work.node->fullPath(worker.path);
+    worker.inTrash = work.inTrash || trash_.areAt(worker.path);
     std::size_t start = work.rootLength;
     while (start < worker.path.size() && worker.path[start] == '/') ++start;
     worker.below.assign(worker.path, std::min(start, worker.path.size()));
@@ -115,7 +120,7 @@ void ParallelWalker::visit(Worker& worker, const Work& work) {
     }
     fill(worker, *work.node, *entries, work.rootDev);
     if (work.depth + 1 < parallelDepth)
-        pushChildren(work);
+        pushChildren(work, worker.inTrash);
     else
         visitInline(worker, *work.node, work.rootDev);
 }
@@ -125,7 +130,7 @@ void ParallelWalker::visit(Worker& worker, const Work& work) {
 void ParallelWalker::visitInline(Worker& worker, FSNode& top, std::int32_t rootDev) {
     std::vector<Worker::Level>& levels = worker.levels;
     levels.clear();
-    levels.push_back({&top, 0, worker.path.size()});
+    levels.push_back({&top, 0, worker.path.size(), worker.inTrash});
     while (true) {
         Worker::Level& level = levels.back();
         worker.path.resize(level.pathLength);
@@ -138,18 +143,19 @@ void ParallelWalker::visitInline(Worker& worker, FSNode& top, std::int32_t rootD
         if (cancel_->isSet()) return;
         FSNode& child = *level.node->children[level.nextChild++];
         appendComponent(worker.path, child.name());
+        worker.inTrash = level.inTrash || trash_.areAt(worker.path);
         const DirectoryReader::Entries* entries = worker.reader->descend(child.name());
         if (entries != nullptr) {
             fill(worker, child, *entries, rootDev);
         } else {
             collectors_.counters.recordBlocked();
         }
-        levels.push_back({&child, 0, worker.path.size()});
+        levels.push_back({&child, 0, worker.path.size(), worker.inTrash});
     }
 }
 
 void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::Entries& entries, std::int32_t rootDev) {
-    const auto [bytes, count] = ingestFiles(entries, worker.path);
+    const auto [bytes, count] = ingestFiles(entries, worker);
     node.ownFileBytes = bytes;
     node.fileCount = count;
     reportProgress(count, bytes, worker.path);
@@ -164,14 +170,14 @@ void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::E
     }
 }
 
-void ParallelWalker::pushChildren(const Work& work) {
+void ParallelWalker::pushChildren(const Work& work, bool inTrash) {
     const std::vector<NodeRef>& children = work.node->children;
     if (children.empty()) return;
     std::int64_t wake;
     {
         const std::lock_guard lock(mutex_);
         for (const NodeRef& child : children)
-            stack_.push_back({child, work.root, work.rootLength, work.depth + 1, work.rootDev});
+            stack_.push_back({child, work.root, work.rootLength, work.depth + 1, work.rootDev, inTrash});
         outstanding_ += static_cast<std::int64_t>(children.size());
         wake = std::min(waiting_, static_cast<std::int64_t>(children.size()));
     }
@@ -179,7 +185,8 @@ void ParallelWalker::pushChildren(const Work& work) {
 }
 
 std::pair<std::int64_t, std::int64_t> ParallelWalker::ingestFiles(const DirectoryReader::Entries& entries,
-                                                                  const std::string& path) {
+                                                                  const Worker& worker) {
+    const std::string& path = worker.path;
     TypeTotals tallies;
     std::int64_t bytes = 0;
     std::int64_t count = 0;
@@ -193,7 +200,7 @@ std::pair<std::int64_t, std::int64_t> ParallelWalker::ingestFiles(const Director
         tallies[name.type].bytes += size;
         tallies[name.type].count += 1;
         if (size < 1) continue;
-        if (collectors_.topFiles.mayTake(size)) {
+        if (!worker.inTrash && collectors_.topFiles.mayTake(size)) {
             collectors_.topFiles.offer([&] { return joined(path, entry.name); }, size, entry.modTime, name.type);
         }
         if (size >= diskImageMinSize && name.canBeDiskImage) {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/DirectoryReader.h"
+#include "platform/TrashPlaces.h"
 #include "scan/CancelFlag.h"
 #include "scan/DiskImageCollector.h"
 #include "scan/FSNode.h"
@@ -48,11 +49,13 @@ public:
         std::size_t rootLength;                     ///< of the root's own path
         std::int64_t depth;
         std::int32_t rootDev;
+        bool inTrash;  ///< a folder above it holds what was thrown away; of a root the root itself may be it
     };
 
-    /// `cancel` and `queue` are shared with whoever may end the scan; the walker yields only Progress.
+    /// What lies in `trash` is counted, but is none of the large files. `cancel` and `queue` are shared with whoever
+    /// may end the scan; the walker yields only Progress.
     ParallelWalker(DirectoryService& directories, std::int64_t workerCount, ScanCollectors& collectors,
-                   std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue);
+                   TrashPlaces trash, std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue);
 
     /// Blocks until the whole walk is over. Call once.
     void run(std::vector<Work> seeds);
@@ -66,13 +69,14 @@ private:
     void visit(Worker& worker, const Work& work);
     void visitInline(Worker& worker, FSNode& top, std::int32_t rootDev);
     void fill(Worker& worker, FSNode& node, const DirectoryReader::Entries& entries, std::int32_t rootDev);
-    void pushChildren(const Work& work);
-    std::pair<std::int64_t, std::int64_t> ingestFiles(const DirectoryReader::Entries& entries, const std::string& path);
+    void pushChildren(const Work& work, bool inTrash);
+    std::pair<std::int64_t, std::int64_t> ingestFiles(const DirectoryReader::Entries& entries, const Worker& worker);
     void reportProgress(std::int64_t count, std::int64_t bytes, const std::string& path);
 
     DirectoryService& directories_;
     const std::int64_t workerCount_;
     ScanCollectors& collectors_;
+    const TrashPlaces trash_;
     const std::shared_ptr<CancelFlag> cancel_;
     const std::shared_ptr<UpdateQueue> queue_;
 

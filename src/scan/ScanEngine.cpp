@@ -24,7 +24,7 @@ std::vector<LargeFile> largestFirst(std::vector<LargeFile> files) {
 
 /// A node and an item of work for every root that is there.
 std::vector<ParallelWalker::Work> seed(DirectoryService& directories, const std::vector<std::string>& roots,
-                                       const CancelFlag& cancel, FSNode& top) {
+                                       const TrashPlaces& trash, const CancelFlag& cancel, FSNode& top) {
     std::vector<ParallelWalker::Work> seeds;
     for (const std::string& path : roots) {
         if (cancel.isSet()) break;
@@ -32,19 +32,20 @@ std::vector<ParallelWalker::Work> seed(DirectoryService& directories, const std:
         if (!status) continue;
         const NodeRef node = FSNode::make(path, status->modified);
         top.append(node);
-        seeds.push_back({node, directories.openRoot(path), path.size(), 0, status->device});
+        seeds.push_back({node, directories.openRoot(path), path.size(), 0, status->device, trash.hold(path)});
     }
     return seeds;
 }
 
-ScanPhases scanBody(DirectoryService& directories, Clock& clock, const std::shared_ptr<CancelFlag>& cancel,
-                    const std::shared_ptr<UpdateQueue>& queue, std::vector<std::string> roots) {
+ScanPhases scanBody(DirectoryService& directories, Clock& clock, const TrashPlaces& trash,
+                    const std::shared_ptr<CancelFlag>& cancel, const std::shared_ptr<UpdateQueue>& queue,
+                    std::vector<std::string> roots) {
     const double start = clock.monotonic();
     ScanCollectors collectors;
     const NodeRef top = FSNode::make("", clock.now());
-    const auto walker =
-        std::make_shared<ParallelWalker>(directories, ScanEngine::resolveWorkerCount(), collectors, cancel, queue);
-    walker->run(seed(directories, roots, *cancel, *top));
+    const auto walker = std::make_shared<ParallelWalker>(directories, ScanEngine::resolveWorkerCount(), collectors,
+                                                         trash, cancel, queue);
+    walker->run(seed(directories, roots, trash, *cancel, *top));
     const double walked = clock.monotonic();
     rollUpSizes(*top);
     const double rolledUp = clock.monotonic();
@@ -71,9 +72,8 @@ std::shared_ptr<CancelFlag> cancelledBy(UpdateQueue& queue) {
 void ScanEngine::start(std::shared_ptr<UpdateQueue> queue, std::vector<std::string> roots) {
     const std::shared_ptr<CancelFlag> cancel = cancelledBy(*queue);
     std::vector<std::string> named = roots;
-    auto body = [&directories = directories_, &clock = clock_, cancel, queue, roots = std::move(roots)] {
-        scanBody(directories, clock, cancel, queue, roots);
-    };
+    auto body = [&directories = directories_, &clock = clock_, trash = trash_, cancel, queue,
+                 roots = std::move(roots)] { scanBody(directories, clock, trash, cancel, queue, roots); };
     try {
         startThread("zelk.scan", ParallelWalker::stackBytes, std::move(body));
     } catch (const std::system_error&) {
@@ -85,7 +85,7 @@ void ScanEngine::start(std::shared_ptr<UpdateQueue> queue, std::vector<std::stri
 }
 
 ScanPhases ScanEngine::runHere(const std::shared_ptr<UpdateQueue>& queue, std::vector<std::string> roots) {
-    return scanBody(directories_, clock_, cancelledBy(*queue), queue, std::move(roots));
+    return scanBody(directories_, clock_, trash_, cancelledBy(*queue), queue, std::move(roots));
 }
 
 std::int64_t ScanEngine::resolveWorkerCount() {

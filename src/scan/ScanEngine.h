@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/DirectoryReader.h"
+#include "platform/TrashPlaces.h"
 #include "scan/UpdateQueue.h"
 
 namespace zelk {
@@ -21,8 +23,10 @@ struct ScanPhases {
 /// lives in its body, so the engine may go at once, and a cancelled scan drains while a new one runs.
 class ScanEngine {
 public:
-    /// The services are used until the scan's threads have ended.
-    ScanEngine(DirectoryService& directories, Clock& clock) : directories_(directories), clock_(clock) {}
+    /// The services are used until the scan's threads have ended. What lies in `trash` is counted like all else, but
+    /// is none of the largest files.
+    ScanEngine(DirectoryService& directories, Clock& clock, TrashPlaces trash = {})
+        : directories_(directories), clock_(clock), trash_(std::move(trash)) {}
 
     /// Returns at once. Ending `queue` from the reader's side cancels the scan.
     void start(std::shared_ptr<UpdateQueue> queue, std::vector<std::string> roots);
@@ -38,6 +42,7 @@ public:
 private:
     DirectoryService& directories_;
     Clock& clock_;
+    TrashPlaces trash_;
 };
 
 /// Sums ownFileBytes up the tree into `size`; returns the top's. Any depth.

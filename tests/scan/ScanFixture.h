@@ -48,7 +48,7 @@ protected:
 
     ScanResult scan(std::vector<std::string> roots) {
         const auto queue = std::make_shared<UpdateQueue>();
-        ScanEngine(disk, clock).runHere(queue, std::move(roots));
+        ScanEngine(disk, clock, trash).runHere(queue, std::move(roots));
         auto batch = queue->takeAll();
         EXPECT_TRUE(batch.ended);
         return ScanResult(std::move(batch.updates));
@@ -68,6 +68,7 @@ protected:
 
     fakes::FakeDirectoryService disk;
     PosixClock clock;
+    TrashPlaces trash;
 };
 
 }  // namespace zelk
