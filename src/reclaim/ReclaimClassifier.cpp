@@ -4,19 +4,21 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <span>
 #include <string_view>
 #include <utility>
 
 #include "platform/FileManager.h"
+#include "platform/Locations.h"
 #include "reclaim/WalkedPath.h"
 
 namespace zelk {
 
 namespace {
 
-/// A folder known by where it lies below the home folder. Its age is its own.
+/// A folder known by where it lies below the home folder, or below another that a table stands for. Its age is its own.
 struct PathRule {
-    std::string_view belowHome;
+    std::string_view below;
     std::string_view categoryID;
 };
 
@@ -37,6 +39,16 @@ constexpr std::array pathRules{
     PathRule{"/Library/Caches/com.apple.Music", "music_cache"},
     PathRule{"/Library/Caches/com.apple.podcasts", "music_cache"},
     PathRule{"/Library/Caches/com.apple.Photos", "photos_cache"},
+};
+
+// Where Linux keeps the same, for the rows that have a place there.
+constexpr std::array linuxPathRules{
+    PathRule{"/Android/Sdk/system-images", "android_system_images"},
+    PathRule{"/.cache/yarn", "yarn_cache"},
+};
+
+constexpr std::array xdgDataPathRules{
+    PathRule{"/pnpm/store", "pnpm_store"},
 };
 
 /// Whose date tells how long something has lain unused. Every tool run rewrites a build folder, so the age of what a
@@ -95,12 +107,20 @@ std::string_view trimmed(std::string_view home) {
     return home;
 }
 
-const PathRule* pathRuleFor(std::string_view path, std::string_view home) {
-    if (!path.starts_with(home)) return nullptr;
-    path.remove_prefix(home.size());
-    const auto rule = std::find_if(pathRules.begin(), pathRules.end(),
-                                   [path](const PathRule& each) { return each.belowHome == path; });
-    return rule == pathRules.end() ? nullptr : &*rule;
+const PathRule* ruleIn(std::span<const PathRule> rules, std::string_view path, std::string_view folder) {
+    if (!path.starts_with(folder)) return nullptr;
+    path.remove_prefix(folder.size());
+    const auto rule =
+        std::find_if(rules.begin(), rules.end(), [path](const PathRule& each) { return each.below == path; });
+    return rule == rules.end() ? nullptr : &*rule;
+}
+
+const PathRule* pathRuleFor(std::string_view path, std::string_view home, const ReclaimPlaces& known) {
+    const PathRule* rule = ruleIn(pathRules, path, home);
+    if (!known.xdgDataHome) return rule;
+    if (!rule) rule = ruleIn(linuxPathRules, path, home);
+    if (!rule) rule = ruleIn(xdgDataPathRules, path, *known.xdgDataHome);
+    return rule;
 }
 
 const NameRule* nameRuleFor(std::string_view name) {
@@ -109,18 +129,23 @@ const NameRule* nameRuleFor(std::string_view name) {
     return rule == nameRules.end() ? nullptr : &*rule;
 }
 
-bool holds(Condition condition, const FSNode& node, WalkedPath& path, FileManager& files) {
+/// Whether the path lies where applications keep what is theirs: the conditions' "ApplicationSupport".
+bool isInsideApplicationData(WalkedPath& path, const ReclaimPlaces& known) {
+    return path.isInsideApplicationSupport() || (known.xdgDataHome && path.isInsideConfigOrCache());
+}
+
+bool holds(Condition condition, const FSNode& node, WalkedPath& path, FileManager& files, const ReclaimPlaces& known) {
     switch (condition) {
         case Condition::none:
             return true;
         case Condition::cargoManifestBeside:
             return node.parent() && path.hasBeside("Cargo.toml", node.name(), files);
         case Condition::insideUserOfApplicationSupport:
-            return path.isInsideUser() && path.isInsideApplicationSupport();
+            return path.isInsideUser() && isInsideApplicationData(path, known);
         case Condition::insideApplicationSupport:
-            return path.isInsideApplicationSupport();
+            return isInsideApplicationData(path, known);
         case Condition::directlyInServiceWorkerOfApplicationSupport:
-            return node.parent() && node.parent()->name() == "Service Worker" && path.isInsideApplicationSupport();
+            return node.parent() && node.parent()->name() == "Service Worker" && isInsideApplicationData(path, known);
     }
     return false;
 }
@@ -131,19 +156,24 @@ ReclaimClassifier::Match match(std::string_view categoryID, TimePoint ageDate) {
 
 /// The chain. `path` stands at `node` and does so afterwards.
 std::optional<ReclaimClassifier::Match> classifyAt(const FSNode& node, WalkedPath& path, std::string_view home,
-                                                   FileManager& files) {
-    if (const PathRule* rule = pathRuleFor(path.text(), home)) return match(rule->categoryID, node.lastModified);
+                                                   FileManager& files, const ReclaimPlaces& known) {
+    if (const PathRule* rule = pathRuleFor(path.text(), home, known)) return match(rule->categoryID, node.lastModified);
     const NameRule* rule = nameRuleFor(node.name());
-    if (!rule || !holds(rule->condition, node, path, files)) return std::nullopt;
+    if (!rule || !holds(rule->condition, node, path, files, known)) return std::nullopt;
     const FSNode* dated = rule->age == Age::project && node.parent() ? node.parent() : &node;
     return match(rule->categoryID, dated->lastModified);
 }
 
 }  // namespace
 
+ReclaimPlaces ReclaimPlaces::of(Locations& locations) {
+    return {locations.xdgDataHome(), locations.trashPlaces()};
+}
+
 std::optional<ReclaimClassifier::Match> ReclaimClassifier::classify(const FSNode& node, const std::string& home) const {
     WalkedPath path(node);
-    return classifyAt(node, path, trimmed(home), files_);
+    if (places_.trash.hold(path.text())) return std::nullopt;
+    return classifyAt(node, path, trimmed(home), files_, places_);
 }
 
 void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vector<Reclaimable>& items) const {
@@ -157,8 +187,12 @@ void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vecto
     std::size_t rootLength = 0;
     // True if the walk is to go on into the node.
     const auto visit = [&](FSNode& node) {
-        if (!node.parent() || node.parent()->name().empty()) rootLength = path.text().size();
-        std::optional<Match> found = classifyAt(node, path, homePath, files_);
+        const bool isRoot = !node.parent() || node.parent()->name().empty();
+        if (isRoot) rootLength = path.text().size();
+        // Only where the walk begins can there be a Trash further up.
+        const bool begins = isRoot || &node == &top;
+        if (begins ? places_.trash.hold(path.text()) : places_.trash.areAt(path.text())) return false;
+        std::optional<Match> found = classifyAt(node, path, homePath, files_, places_);
         if (!found) return true;
         node.reclaimCategory = found->category;
         items.push_back({path.text(), path.text(), static_cast<std::uint64_t>(std::max<std::int64_t>(node.size, 0)),

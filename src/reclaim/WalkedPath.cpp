@@ -53,6 +53,8 @@ void WalkedPath::append(std::string_view name) {
 void WalkedPath::cutTo(std::size_t length) {
     text_.resize(length);
     applicationSupport_.cutTo(length);
+    config_.cutTo(length);
+    cache_.cutTo(length);
     user_.cutTo(length);
 }
 

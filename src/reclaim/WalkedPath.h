@@ -43,6 +43,8 @@ public:
     void leaveTo(std::size_t length);
 
     bool isInsideApplicationSupport() { return applicationSupport_.isIn(text_); }
+    /// In a folder called ".config" or ".cache", where applications on Linux keep what is theirs.
+    bool isInsideConfigOrCache() { return config_.isIn(text_) || cache_.isIn(text_); }
     bool isInsideUser() { return user_.isIn(text_); }
     /// Whether something called `sibling` stands beside the node on disk. `name` is the node's own.
     bool hasBeside(std::string_view sibling, std::string_view name, FileManager& files);
@@ -54,6 +56,8 @@ private:
     std::string text_;
     std::size_t parentLength_ = 0;
     ContainedText applicationSupport_{"/Application Support/"};
+    ContainedText config_{"/.config/"};
+    ContainedText cache_{"/.cache/"};
     ContainedText user_{"/User/"};
 };
 

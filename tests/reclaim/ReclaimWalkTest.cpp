@@ -27,9 +27,19 @@ struct Verdict {
     bool datedByParent = false;
 };
 
+/// What is known of a machine with Linux, whose Trash is met by chance too.
+ReclaimPlaces ofLinux() {
+    return {walkedHome + "/data", TrashPlaces({walkedHome + "/data/Trash/files"}, {"/.Trash-7/files"})};
+}
+
 /// `parent` is nullptr for a node with nothing above it.
 Verdict plainVerdict(const std::string& path, const std::string& name, const std::string* parent,
-                     const std::string& parentPath, fakes::FakeFileManager& files) {
+                     const std::string& parentPath, fakes::FakeFileManager& files, bool onLinux) {
+    static const std::map<std::string, std::string> byLinuxPath{
+        {walkedHome + "/.cache/yarn", "yarn_cache"},
+        {walkedHome + "/Android/Sdk/system-images", "android_system_images"},
+        {walkedHome + "/data/pnpm/store", "pnpm_store"},
+    };
     static const std::map<std::string, std::string> byPath{
         {walkedHome + "/Library/Developer/Xcode/DerivedData", "derived_data"},
         {walkedHome + "/Library/Developer/Xcode/iOS DeviceSupport", "ios_device_support"},
@@ -40,7 +50,9 @@ Verdict plainVerdict(const std::string& path, const std::string& name, const std
         {walkedHome + "/.gradle/caches", "gradle"},
     };
     if (const auto found = byPath.find(path); found != byPath.end()) return {found->second};
-    const bool inSupport = contains(path, "/Application Support/");
+    if (const auto found = byLinuxPath.find(path); onLinux && found != byLinuxPath.end()) return {found->second};
+    const bool inSupport = contains(path, "/Application Support/") ||
+                           (onLinux && (contains(path, "/.config/") || contains(path, "/.cache/")));
     if (name == "node_modules") return {"node_modules", true};
     if (name == ".gradle") return {"gradle", true};
     if (name == "__pycache__") return {"python_pycache"};
@@ -55,8 +67,11 @@ Verdict plainVerdict(const std::string& path, const std::string& name, const std
 /// A random tree of names that matter, and the items expected of it, found by recursion with whole paths.
 class RandomTree {
 public:
-    explicit RandomTree(unsigned seed) : random_(seed), top(FSNode::make("", date())) {
-        for (const char* root : {"/h", "/", "/h/.gradle", "/x/Application Support", "/User/y"}) {
+    explicit RandomTree(unsigned seed, bool onLinux = false)
+        : onLinux_(onLinux), random_(seed), top(FSNode::make("", date())) {
+        std::vector<std::string> roots{"/h", "/", "/h/.gradle", "/x/Application Support", "/User/y"};
+        if (onLinux) roots.insert(roots.end(), {"/x/.config", "/y/.Trash-7/files", "/h/data/Trash/files/app"});
+        for (const std::string& root : roots) {
             if (random_() % 2 != 0) continue;
             grow(top->append(FSNode::make(root, date())), root, 0);
         }
@@ -66,6 +81,7 @@ public:
     fakes::FakeFileManager files;
     std::vector<Reclaimable> expected;
     std::vector<const FSNode*> all;
+    std::vector<const FSNode*> thrownAway;  ///< the tops of what is, which `all` leaves out with what is below them
 
 private:
     double date() { return static_cast<double>(random_() % 1000000); }
@@ -101,14 +117,22 @@ private:
         static const std::vector<std::string> belowHome{"Library/Developer/Xcode/DerivedData",
                                                         "Library/Developer/Xcode/Archives", "Library/pnpm",
                                                         ".npm/_cacache", "Library/Caches/Yarn/v6"};
+        static const std::vector<std::string> linuxNames{".config", ".cache", ".Trash-7", "files"};
+        static const std::vector<std::string> linuxBelowHome{".cache/yarn/v6", "Android/Sdk/system-images",
+                                                             "data/pnpm/store/v3", ".config/app/GPUCache",
+                                                             "data/Trash/files/app/node_modules"};
         if (depth == 9) return;
         if (path == walkedHome)  // what chance alone would hardly ever spell
             for (const std::string& below : belowHome)
                 if (random_() % 3 == 0) plant(node, below);
+        if (path == walkedHome && onLinux_)
+            for (const std::string& below : linuxBelowHome)
+                if (random_() % 3 == 0) plant(node, below);
         if (random_() % 8 == 0) files.addFile((path == "/" ? "" : path) + "/Cargo.toml");
         const unsigned count = random_() % (depth < 2 ? 6 : 4);
         for (unsigned i = 0; i < count; ++i) {
-            const std::string& name = names[random_() % names.size()];
+            const std::vector<std::string>& from = onLinux_ && random_() % 3 == 0 ? linuxNames : names;
+            const std::string& name = from[random_() % from.size()];
             FSNode& child = node.append(FSNode::make(name, date()));
             child.size = static_cast<std::int64_t>(random_() % 1000);
             grow(child, path == "/" ? path + name : path + "/" + name, depth + 1);
@@ -125,8 +149,16 @@ private:
         const std::string name(node.name());
         const std::string path = above + name;
         const std::string parentName = parent ? std::string(parent->name()) : "";
-        const Verdict verdict =
-            plainVerdict(path, name, parent ? &parentName : nullptr, parentPath == "/" ? "" : parentPath, files);
+        const Verdict verdict = plainVerdict(path, name, parent ? &parentName : nullptr,
+                                             parentPath == "/" ? "" : parentPath, files, onLinux_);
+        const bool begins = !parent || parentPath.empty();
+        const auto isTrash = [](const std::string& text) {
+            return text == walkedHome + "/data/Trash/files" || text.ends_with("/.Trash-7/files");
+        };
+        if (onLinux_ && (isTrash(path) || (begins && path == walkedHome + "/data/Trash/files/app"))) {
+            thrownAway.push_back(&node);
+            return;
+        }
         all.push_back(&node);
         if (!verdict.category.empty()) {
             const ReclaimCategory& category = *reclaimCategoryByID().at(verdict.category);
@@ -143,18 +175,20 @@ private:
             expect(*child, path.empty() || path.back() == '/' ? path : path + "/", &node, path);
     }
 
+    bool onLinux_;
     std::mt19937 random_;
 
 public:
     NodeRef top;
 };
 
-TEST(ReclaimWalk, agreesWithAPlainClassifierOnRandomTrees) {
-    std::map<std::string, int> met;
+/// Adds to `met` how often each category came up.
+void compareOnRandomTrees(bool onLinux, std::map<std::string, int>& met) {
+    const ReclaimPlaces known = onLinux ? ofLinux() : ReclaimPlaces();
     for (unsigned seed = 0; seed < 120; ++seed) {
-        RandomTree tree(seed);
+        RandomTree tree(seed, onLinux);
         std::vector<Reclaimable> items;
-        ReclaimClassifier(tree.files).collect(*tree.top, walkedHome, items);
+        ReclaimClassifier(tree.files, known).collect(*tree.top, walkedHome, items);
         ASSERT_EQ(items.size(), tree.expected.size()) << seed;
         for (std::size_t i = 0; i < items.size(); ++i) {
             ASSERT_EQ(items[i].path, tree.expected[i].path) << seed;
@@ -166,16 +200,30 @@ TEST(ReclaimWalk, agreesWithAPlainClassifierOnRandomTrees) {
             ++met[items[i].categoryID];
         }
     }
+}
+
+TEST(ReclaimWalk, agreesWithAPlainClassifierOnRandomTrees) {
+    std::map<std::string, int> met;
+    compareOnRandomTrees(false, met);
     for (const char* category :
          {"derived_data", "xcode_archives", "pnpm_store", "npm_cache", "yarn_cache", "gradle", "node_modules",
           "python_pycache", "python_venv", "rust_target", "electron_workspace", "electron_cache"})
         EXPECT_GT(met[category], 0) << category << " was not met: the trees do not reach it";
 }
 
-TEST(ReclaimWalk, agreesWithTheClassifierOfOneNodeForEveryNode) {
+TEST(ReclaimWalk, agreesWithAPlainClassifierThatKnowsLinux) {
+    std::map<std::string, int> met;
+    compareOnRandomTrees(true, met);
+    for (const char* category :
+         {"android_system_images", "pnpm_store", "yarn_cache", "node_modules", "electron_workspace", "electron_cache"})
+        EXPECT_GT(met[category], 0) << category << " was not met: the trees do not reach it";
+}
+
+void compareNodeByNode(bool onLinux) {
+    std::size_t thrownAway = 0;
     for (unsigned seed = 1000; seed < 1060; ++seed) {
-        RandomTree tree(seed);
-        const ReclaimClassifier classifier(tree.files);
+        RandomTree tree(seed, onLinux);
+        const ReclaimClassifier classifier(tree.files, onLinux ? ofLinux() : ReclaimPlaces());
         std::vector<Reclaimable> items;
         classifier.collect(*tree.top, walkedHome + "/", items);
         std::size_t next = 0;
@@ -190,7 +238,24 @@ TEST(ReclaimWalk, agreesWithTheClassifierOfOneNodeForEveryNode) {
             ++next;
         }
         ASSERT_EQ(next, items.size());
+        for (const FSNode* folder : tree.thrownAway) {
+            EXPECT_FALSE(classifier.classify(*folder, walkedHome));
+            for (const NodeRef& child : folder->children) {
+                EXPECT_FALSE(classifier.classify(*child, walkedHome));
+                EXPECT_EQ(child->reclaimCategory, nullptr);
+            }
+        }
+        thrownAway += tree.thrownAway.size();
     }
+    EXPECT_EQ(thrownAway > 0, onLinux) << "the trees do not reach what was thrown away";
+}
+
+TEST(ReclaimWalk, agreesWithTheClassifierOfOneNodeForEveryNode) {
+    compareNodeByNode(false);
+}
+
+TEST(ReclaimWalk, agreesWithTheClassifierOfOneNodeThatKnowsLinux) {
+    compareNodeByNode(true);
 }
 
 /// A chain of folders, each called by `name` of its depth.
