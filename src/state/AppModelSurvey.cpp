@@ -48,7 +48,8 @@ void AppModel::startScan() {
             if (const auto awaited = reading.lock()) consumeUpdates(awaited);
         });
     });
-    ScanEngine(platform_.directories, platform_.clock).start(task->queue, scanRoots_);
+    ScanEngine(platform_.directories, platform_.clock, platform_.locations.trashPlaces())
+        .start(task->queue, scanRoots_);
 }
 
 void AppModel::scanAnew() {
@@ -130,7 +131,7 @@ void AppModel::finish(const std::shared_ptr<ScanTask>& task, update::Finished fi
 
 void AppModel::classify(const std::shared_ptr<ScanTask>& task) {
     auto work = [this, sender = calls_.sender(), waiting = std::weak_ptr(task), tree = root_, home = home_,
-                 classifier = ReclaimClassifier(platform_.files)] {
+                 classifier = ReclaimClassifier(platform_.files, ReclaimPlaces::of(platform_.locations))] {
         std::vector<Reclaimable> items;
         classifier.collect(*tree, home, items);
         sender.post([this, waiting, items = std::move(items)]() mutable {
