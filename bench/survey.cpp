@@ -33,7 +33,8 @@ struct Survey {
 Survey surveyOf(Platform& platform, std::vector<std::string> roots) {
     Survey survey;
     const auto queue = std::make_shared<UpdateQueue>();
-    survey.phases = ScanEngine(platform.directories, platform.clock).runHere(queue, std::move(roots));
+    survey.phases = ScanEngine(platform.directories, platform.clock, platform.locations.trashPlaces())
+                        .runHere(queue, std::move(roots));
     for (ScanUpdate& update : queue->takeAll().updates) {
         if (auto* const insights = std::get_if<update::Insights>(&update)) {
             survey.insights = std::move(insights->insights);
@@ -43,7 +44,8 @@ Survey surveyOf(Platform& platform, std::vector<std::string> roots) {
         }
     }
     const auto start = std::chrono::steady_clock::now();
-    ReclaimClassifier(platform.files).collect(*survey.root, platform.locations.home(), survey.reclaimables);
+    ReclaimClassifier(platform.files, ReclaimPlaces::of(platform.locations))
+        .collect(*survey.root, platform.locations.home(), survey.reclaimables);
     survey.classify = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     return survey;
 }

@@ -18,7 +18,8 @@ namespace {
 void classify(const Scan& its) {
     NativePlatform native;
     std::vector<Reclaimable> items;
-    ReclaimClassifier(native.platform().files).collect(*its.root, native.platform().locations.home(), items);
+    ReclaimClassifier(native.platform().files, ReclaimPlaces::of(native.platform().locations))
+        .collect(*its.root, native.platform().locations.home(), items);
     EXPECT_TRUE(items.empty());
 }
 

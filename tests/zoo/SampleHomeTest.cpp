@@ -54,9 +54,10 @@ std::string madeIn(const TempFolder& temp, const std::string& options) {
 }
 
 std::vector<Reclaimable> reclaimablesIn(const Scan& its, const std::string& home) {
-    NativePlatform native;
+    NativePlatform native(home);
     std::vector<Reclaimable> items;
-    ReclaimClassifier(native.platform().files).collect(*its.root, home, items);
+    ReclaimClassifier(native.platform().files, ReclaimPlaces::of(native.platform().locations))
+        .collect(*its.root, home, items);
     return items;
 }
 
@@ -97,8 +98,19 @@ TEST(SampleHome, ofAMacHoldsEveryCategory) {
 
 TEST(SampleHome, ofLinuxHoldsEveryCategoryThatIsMadeThere) {
     const TempFolder temp;
-    const std::set<std::string> made{"expo",       "gradle",         "next_turbo",  "node_modules", "npm_cache",
-                                     "pnpm_store", "python_pycache", "python_venv", "rust_target"};
+    const std::set<std::string> made{"android_system_images",
+                                     "electron_cache",
+                                     "electron_workspace",
+                                     "expo",
+                                     "gradle",
+                                     "next_turbo",
+                                     "node_modules",
+                                     "npm_cache",
+                                     "pnpm_store",
+                                     "python_pycache",
+                                     "python_venv",
+                                     "rust_target",
+                                     "yarn_cache"};
     EXPECT_EQ(categoriesIn(madeIn(temp, "--system linux")), made);
 }
 

@@ -1,11 +1,12 @@
 # SPDX-License-Identifier: MIT
 """The home of a Linux desktop."""
+import os
 import time
 from urllib.parse import quote
 
 from . import common
 
-SHARE = 0.78  # brings the megabytes below, which come to 8 GB, to about 6 GB
+SHARE = 0.75  # brings the megabytes below, which come to 8 GB, to about 6 GB
 
 BROWSERS = (
     (".cache/mozilla/firefox/k3x9.default-release/cache2/entries", ".mozilla/firefox/k3x9.default-release",
@@ -25,6 +26,8 @@ APPLICATIONS = (("Inkwell", "inkwell", 2, 46, 30), ("Sonata", "sonata", 1, 24, 6
 def browsers(plan):
     for cache, profile, databases, megabytes in BROWSERS:
         plan.many(cache, 16, megabytes, lambda n: f"{n * 7919:016X}", (0, 40))
+        if cache.endswith("/Cache/Cache_Data"):
+            plan.cleanable(os.path.dirname(cache))
         for name in databases:
             plan.file(f"{profile}/{name}", 6, 1)
     plan.text(".mozilla/firefox/profiles.ini",
@@ -46,6 +49,10 @@ def applications(plan):
     plan.many(".var/app/org.sample.Orrery/cache", 6, 22, lambda n: f"tile-{n}", (2, 80))
     plan.many(".config/Code/CachedData", 5, 48, lambda n: f"{n}.code", (3, 30))
     plan.many(".config/Code/User/workspaceStorage", 5, 9, lambda n: f"{n:08x}/state.vscdb", (3, 300))
+    plan.cleanable(".config/Code/User/workspaceStorage")
+    for folder, megabytes in (("Cache", 26), ("Code Cache", 14), ("GPUCache", 2), ("Service Worker/CacheStorage", 18)):
+        plan.many(f".config/Code/{folder}", 6, megabytes, lambda n: f"data_{n}", (0, 30))
+        plan.cleanable(f".config/Code/{folder}")
     plan.text(".config/autostart/org.sample.Sonata.desktop",
               "[Desktop Entry]\nType=Application\nName=Sonata\nExec=/opt/sonata/bin/sonata --hidden\n", 300)
     plan.text(".config/systemd/user/tidepool-sync.service",
@@ -89,6 +96,10 @@ def fill(plan):
         plan.hard_link(f"Projects/field-notes-app/node_modules/.pnpm/shared-{number}/index.js", path)
     plan.cleanable("Projects/field-notes-app/node_modules")
     plan.many(".cache/thumbnails/large", 40, 16, lambda n: f"{n * 6151:032x}.png", (1, 300))
+    plan.many(".cache/yarn/v6", 12, 70, lambda n: f"npm-{n * 311:08x}/package.tgz", (5, 300))
+    plan.cleanable(".cache/yarn")
+    plan.many("Android/Sdk/system-images/android-34/default/x86_64", 4, 160, lambda n: f"part{n}.img", (90, 200))
+    plan.cleanable("Android/Sdk/system-images")
     plan.many(".cache/pip/http-v2", 12, 60, lambda n: f"{n:02x}/{n * 53:08x}.body", (10, 300))
     browsers(plan)
     applications(plan)
