@@ -25,7 +25,7 @@ using testing::Optional;
 using testing::UnorderedElementsAre;
 using zoo::TempFolder;
 
-LinuxFileManager files;
+LinuxFileManager manager;
 
 std::uint64_t allocated(const std::string& path) {
     struct stat status {};
@@ -52,12 +52,12 @@ TEST(LinuxFileManager, existenceFollowsLinks) {
     zoo::makeFile(folder / "file");
     ASSERT_EQ(::symlink("file", (folder / "link").c_str()), 0);
     ASSERT_EQ(::symlink("nothing", (folder / "dangling").c_str()), 0);
-    EXPECT_TRUE(files.exists(folder.path()));
-    EXPECT_TRUE(files.exists(folder / "file"));
-    EXPECT_TRUE(files.exists(folder / "link"));
-    EXPECT_FALSE(files.exists(folder / "dangling"));
-    EXPECT_FALSE(files.exists(folder / "missing"));
-    EXPECT_FALSE(files.exists(""));
+    EXPECT_TRUE(manager.exists(folder.path()));
+    EXPECT_TRUE(manager.exists(folder / "file"));
+    EXPECT_TRUE(manager.exists(folder / "link"));
+    EXPECT_FALSE(manager.exists(folder / "dangling"));
+    EXPECT_FALSE(manager.exists(folder / "missing"));
+    EXPECT_FALSE(manager.exists(""));
 }
 
 TEST(LinuxFileManager, propertiesAreThoseOfTheEntryItself) {
@@ -66,30 +66,30 @@ TEST(LinuxFileManager, propertiesAreThoseOfTheEntryItself) {
     zoo::makeFolder(folder / "folder");
     ASSERT_EQ(::symlink("folder", (folder / "link").c_str()), 0);
 
-    const auto file = files.properties(folder / "file");
+    const auto file = manager.properties(folder / "file");
     ASSERT_TRUE(file);
     EXPECT_FALSE(file->isDirectory);
     EXPECT_EQ(file->allocatedSize, allocated(folder / "file"));
     EXPECT_GE(file->allocatedSize, 10000u);
 
-    const auto directory = files.properties(folder / "folder");
+    const auto directory = manager.properties(folder / "folder");
     ASSERT_TRUE(directory);
     EXPECT_TRUE(directory->isDirectory);
     EXPECT_EQ(directory->allocatedSize, 0u);
 
-    const auto link = files.properties(folder / "link");
+    const auto link = manager.properties(folder / "link");
     ASSERT_TRUE(link);
     EXPECT_FALSE(link->isDirectory);
 
-    EXPECT_FALSE(files.properties(folder / "missing"));
+    EXPECT_FALSE(manager.properties(folder / "missing"));
 }
 
 TEST(LinuxFileManager, aHoleIsNotAllocated) {
     const TempFolder folder;
     zoo::makeFile(folder / "sparse");
     ASSERT_EQ(::truncate((folder / "sparse").c_str(), 1 << 30), 0);
-    EXPECT_LT(files.properties(folder / "sparse")->allocatedSize, 1u << 20);
-    EXPECT_LT(files.allocatedSizeBelow(folder.path()), 1u << 20);
+    EXPECT_LT(manager.properties(folder / "sparse")->allocatedSize, 1u << 20);
+    EXPECT_LT(manager.allocatedSizeBelow(folder.path()), 1u << 20);
 }
 
 TEST(LinuxFileManager, aListHoldsAllNamesWithoutTheDots) {
@@ -99,34 +99,34 @@ TEST(LinuxFileManager, aListHoldsAllNamesWithoutTheDots) {
     zoo::makeFile(folder / "line\nbreak");
     zoo::makeFile(folder / "no text \xff");
     zoo::makeFolder(folder / "folder");
-    EXPECT_THAT(files.list(folder.path()),
+    EXPECT_THAT(manager.list(folder.path()),
                 Optional(UnorderedElementsAre("file", ".hidden", "line\nbreak", "no text \xff", "folder")));
-    EXPECT_THAT(files.list(folder / "folder"), Optional(IsEmpty()));
+    EXPECT_THAT(manager.list(folder / "folder"), Optional(IsEmpty()));
 }
 
 TEST(LinuxFileManager, aListOfNoFolderIsAbsent) {
     const TempFolder folder;
     zoo::makeFile(folder / "file");
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0644), 0);
-    EXPECT_FALSE(files.list(folder / "file"));
-    EXPECT_FALSE(files.list(folder / "pipe"));
-    EXPECT_FALSE(files.list(folder / "missing"));
+    EXPECT_FALSE(manager.list(folder / "file"));
+    EXPECT_FALSE(manager.list(folder / "pipe"));
+    EXPECT_FALSE(manager.list(folder / "missing"));
     zoo::makeFolder(folder / "locked");
     ::chmod((folder / "locked").c_str(), 0);
-    EXPECT_TRUE(asOrdinaryUser([&] { return !files.list(folder / "locked"); }));
+    EXPECT_TRUE(asOrdinaryUser([&] { return !manager.list(folder / "locked"); }));
 }
 
 TEST(LinuxFileManager, pathsLongerThanTheSystemTakesAreLookedAt) {
     const TempFolder folder;
     const std::string path = makeChain(folder.path(), std::string(200, 'd'), 60);
-    EXPECT_FALSE(files.exists(path)) << "what no program reaches by its path is not asked for by its path";
-    EXPECT_FALSE(files.exists(path + "/missing"));
-    EXPECT_TRUE(files.properties(path)->isDirectory);
-    EXPECT_GE(files.properties(path + "/end")->allocatedSize, 8192u);
-    EXPECT_THAT(files.list(path), Optional(ElementsAre("end")));
-    EXPECT_EQ(files.allocatedSizeBelow(path), files.properties(path + "/end")->allocatedSize);
-    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), files.properties(path + "/end")->allocatedSize);
-    EXPECT_FALSE(files.exists(std::string(5000, 'n')));
+    EXPECT_FALSE(manager.exists(path)) << "what no program reaches by its path is not asked for by its path";
+    EXPECT_FALSE(manager.exists(path + "/missing"));
+    EXPECT_TRUE(manager.properties(path)->isDirectory);
+    EXPECT_GE(manager.properties(path + "/end")->allocatedSize, 8192u);
+    EXPECT_THAT(manager.list(path), Optional(ElementsAre("end")));
+    EXPECT_EQ(manager.allocatedSizeBelow(path), manager.properties(path + "/end")->allocatedSize);
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), manager.properties(path + "/end")->allocatedSize);
+    EXPECT_FALSE(manager.exists(std::string(5000, 'n')));
 }
 
 TEST(LinuxFileManager, theSizeBelowIsThatOfEveryFileAndOfNoFolder) {
@@ -138,8 +138,8 @@ TEST(LinuxFileManager, theSizeBelowIsThatOfEveryFileAndOfNoFolder) {
     zoo::makeFolder(folder / "empty/emptier");
     std::uint64_t expected = 0;
     for (const char* name : {"a", "one/b", "one/two/c", "three/d"}) expected += allocated(folder / name);
-    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), expected);
-    EXPECT_EQ(files.allocatedSizeBelow(folder / "empty"), 0u);
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), expected);
+    EXPECT_EQ(manager.allocatedSizeBelow(folder / "empty"), 0u);
 }
 
 TEST(LinuxFileManager, theSizeBelowLeavesHiddenEntriesOutWithAllTheyHold) {
@@ -149,14 +149,14 @@ TEST(LinuxFileManager, theSizeBelowLeavesHiddenEntriesOutWithAllTheyHold) {
     zoo::makeFile(folder / ".folder/seen", 50000);
     zoo::makeFile(folder / "one/.hidden", 50000);
     zoo::makeFile(folder / "one/.folder/two/seen", 50000);
-    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), allocated(folder / "seen"));
-    EXPECT_EQ(files.allocatedSizeBelow(folder / ".folder"), allocated(folder / ".folder/seen"));
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), allocated(folder / "seen"));
+    EXPECT_EQ(manager.allocatedSizeBelow(folder / ".folder"), allocated(folder / ".folder/seen"));
 }
 
 TEST(LinuxFileManager, theSizeBelowGoesIntoPackages) {
     const TempFolder folder;
     zoo::makeFile(folder / "Some.app/Contents/MacOS/some", 50000);
-    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), allocated(folder / "Some.app/Contents/MacOS/some"));
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), allocated(folder / "Some.app/Contents/MacOS/some"));
 }
 
 TEST(LinuxFileManager, theSizeBelowCountsALinkAndNotItsTarget) {
@@ -170,7 +170,7 @@ TEST(LinuxFileManager, theSizeBelowCountsALinkAndNotItsTarget) {
     ASSERT_EQ(::symlink(longTarget.c_str(), (folder / "long").c_str()), 0);
     std::uint64_t expected = 0;
     for (const char* name : {"away", "file", "circle", "long"}) expected += allocated(folder / name);
-    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), expected);
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), expected);
 }
 
 TEST(LinuxFileManager, theSizeBelowCountsAHardLinkEachTime) {
@@ -179,7 +179,7 @@ TEST(LinuxFileManager, theSizeBelowCountsAHardLinkEachTime) {
     zoo::makeFolder(folder / "one");
     ASSERT_EQ(::link((folder / "a").c_str(), (folder / "b").c_str()), 0);
     ASSERT_EQ(::link((folder / "a").c_str(), (folder / "one/c").c_str()), 0);
-    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), 3 * allocated(folder / "a"));
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), 3 * allocated(folder / "a"));
 }
 
 TEST(LinuxFileManager, theSizeBelowWhatCannotBeReadIsNothing) {
@@ -189,32 +189,33 @@ TEST(LinuxFileManager, theSizeBelowWhatCannotBeReadIsNothing) {
     const std::uint64_t readable = allocated(folder / "open/file");
     ::chmod((folder / "locked").c_str(), 0);
     EXPECT_TRUE(asOrdinaryUser([&] {
-        return files.allocatedSizeBelow(folder.path()) == readable && files.allocatedSizeBelow(folder / "locked") == 0;
+        return manager.allocatedSizeBelow(folder.path()) == readable &&
+               manager.allocatedSizeBelow(folder / "locked") == 0;
     }));
-    EXPECT_EQ(files.allocatedSizeBelow(folder / "missing"), 0u);
-    EXPECT_EQ(files.allocatedSizeBelow(folder / "open/file"), 0u);
+    EXPECT_EQ(manager.allocatedSizeBelow(folder / "missing"), 0u);
+    EXPECT_EQ(manager.allocatedSizeBelow(folder / "open/file"), 0u);
 }
 
 TEST(LinuxFileManager, theSizeBelowKnowsNamesThatAreNoText) {
     const TempFolder folder;
     zoo::makeFile(folder / "\xff\xfe/\n/file", 50000);
-    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), allocated(folder / "\xff\xfe/\n/file"));
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), allocated(folder / "\xff\xfe/\n/file"));
 }
 
 TEST(LinuxFileManager, theSizeBelowReachesTheEndOfFiftyThousandFolders) {
     const TempFolder folder(TempFolder::Medium::memory);
     makeChain(folder.path(), "d", 50000);
     zoo::makeFile(folder / "d/d/top", 8192);
-    EXPECT_EQ(files.allocatedSizeBelow(folder.path()), 2 * allocated(folder / "d/d/top"));
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), 2 * allocated(folder / "d/d/top"));
 }
 
 TEST(LinuxFileManager, filesAreReadAndReplacedInFoldersMadeForThem) {
     const TempFolder folder;
-    EXPECT_FALSE(files.replaceDurably(folder / "a/b/file", "content"));
-    EXPECT_TRUE(files.createDirectories(folder / "a/b"));
-    EXPECT_TRUE(files.replaceDurably(folder / "a/b/file", "content"));
-    EXPECT_THAT(files.read(folder / "a/b/file"), Optional(std::string("content")));
-    EXPECT_FALSE(files.read(folder / "a/b"));
+    EXPECT_FALSE(manager.replaceDurably(folder / "a/b/file", "content"));
+    EXPECT_TRUE(manager.createDirectories(folder / "a/b"));
+    EXPECT_TRUE(manager.replaceDurably(folder / "a/b/file", "content"));
+    EXPECT_THAT(manager.read(folder / "a/b/file"), Optional(std::string("content")));
+    EXPECT_FALSE(manager.read(folder / "a/b"));
 }
 
 TEST(LinuxFileManager, tryingToOpenSaysWhyItCannotBe) {
@@ -223,12 +224,12 @@ TEST(LinuxFileManager, tryingToOpenSaysWhyItCannotBe) {
     zoo::makeFile(folder / "locked");
     ASSERT_EQ(::chmod((folder / "locked").c_str(), 0), 0);
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-    EXPECT_EQ(files.tryOpen(folder / "file"), 0);
-    EXPECT_EQ(files.tryOpen(folder.path()), 0);
-    EXPECT_EQ(files.tryOpen(folder / "pipe"), 0);  // without a writer to wait for
-    EXPECT_EQ(files.tryOpen(folder / "missing"), ENOENT);
-    EXPECT_EQ(files.tryOpen(folder / "file/below"), ENOTDIR);
-    EXPECT_TRUE(asOrdinaryUser([&] { return files.tryOpen(folder / "locked") == EACCES; }));
+    EXPECT_EQ(manager.tryOpen(folder / "file"), 0);
+    EXPECT_EQ(manager.tryOpen(folder.path()), 0);
+    EXPECT_EQ(manager.tryOpen(folder / "pipe"), 0);  // without a writer to wait for
+    EXPECT_EQ(manager.tryOpen(folder / "missing"), ENOENT);
+    EXPECT_EQ(manager.tryOpen(folder / "file/below"), ENOTDIR);
+    EXPECT_TRUE(asOrdinaryUser([&] { return manager.tryOpen(folder / "locked") == EACCES; }));
 }
 
 }  // namespace

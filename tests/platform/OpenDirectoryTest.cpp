@@ -53,7 +53,7 @@ Identity subdirectory(int parentFd, std::string_view name) {
     return fd ? identityOf(fd.get()) : Identity{};
 }
 
-const Identity none{};
+const Identity nobody{};
 
 class OpenDirectory : public testing::Test {
 protected:
@@ -173,7 +173,7 @@ TEST_F(OpenDirectory, linkInAnyPlaceOfALongPathIsFollowedInARootAndNeverBeneathI
         // To the very folder that stood there: nothing but the link itself is a reason to refuse.
         ASSERT_EQ(::renameat(at.get(), name.c_str(), at.get(), "moved"), 0);
         ASSERT_EQ(::symlinkat("moved", at.get(), name.c_str()), 0);
-        EXPECT_EQ(beneath(top.get(), below), none) << level;
+        EXPECT_EQ(beneath(top.get(), below), nobody) << level;
         EXPECT_EQ(root(temp / "root/" + below), wanted) << level;
         ASSERT_EQ(::unlinkat(at.get(), name.c_str(), 0), 0);
         ASSERT_EQ(::renameat(at.get(), "moved", at.get(), name.c_str()), 0);
@@ -208,10 +208,10 @@ TEST_F(OpenDirectory, linkBeneathIsRefusedWhereverItLeads) {
     fs::create_directory_symlink(".", temp / "root/a/here");
     for (const char* const below : {"absolute", "absolute/b", "outside", "outside/b", "inside", "inside/b", "a/here",
                                     "a/here/b", "a/here/here/b"}) {
-        EXPECT_EQ(beneath(top.get(), below), none) << below;
+        EXPECT_EQ(beneath(top.get(), below), nobody) << below;
     }
     for (const char* const name : {"absolute", "outside", "inside"})
-        EXPECT_EQ(subdirectory(top.get(), name), none) << name;
+        EXPECT_EQ(subdirectory(top.get(), name), nobody) << name;
 }
 
 TEST_F(OpenDirectory, wayOutBeneathIsRefused) {
@@ -219,7 +219,7 @@ TEST_F(OpenDirectory, wayOutBeneathIsRefused) {
         "..", "../outside", "a/../../outside", "a/..", "/", "/tmp", "a/" + repeated(3000, "../") + "outside"};
     for (const std::string& below : ways) {
         const Identity found = beneath(top.get(), below);
-        EXPECT_TRUE(found == none || found == identityAt(temp / "root")) << below;
+        EXPECT_TRUE(found == nobody || found == identityAt(temp / "root")) << below;
     }
 }
 
@@ -277,9 +277,9 @@ TEST_F(OpenDirectory, linkOfTheProcFileSystemIsRefusedToo) {
     const Descriptor self(::open("/proc/self", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     for (const std::string& below : {std::string("root"), std::string("cwd"), std::string("root/tmp"),
                                      "fd/" + std::to_string(top.get()), "fd/" + std::to_string(top.get()) + "/a"}) {
-        EXPECT_EQ(beneath(self.get(), below), none) << below;
+        EXPECT_EQ(beneath(self.get(), below), nobody) << below;
     }
-    EXPECT_EQ(subdirectory(self.get(), "root"), none);
+    EXPECT_EQ(subdirectory(self.get(), "root"), nobody);
 }
 
 #endif

@@ -15,8 +15,8 @@ using testing::Pair;
 
 constexpr std::int64_t megabyte = 1'000'000;
 constexpr double hour = 3600;
-constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
-constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t leastNumber = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t greatestNumber = std::numeric_limits<std::int64_t>::max();
 
 FSNode& add(FSNode& parent, std::string_view name, std::int64_t size) {
     FSNode& node = parent.append(FSNode::make(name, 0));
@@ -183,14 +183,15 @@ TEST(DaysUntilFull, areNotTheAnswerOfAClockThatWentBack) {
 }
 
 TEST(DaysUntilFull, surviveTheLargestFigures) {
-    EXPECT_EQ(daysUntilFull({survey(0, smallest, 0), survey(secondsPerDay, largest, largest)}), 0);
-    EXPECT_EQ(daysUntilFull({survey(0, largest, 0), survey(secondsPerDay, smallest, largest)}), std::nullopt);
-    EXPECT_EQ(daysUntilFull({survey(0, 0, 0), survey(secondsPerDay, 1, largest - 1023)}), largest - 1023);
+    EXPECT_EQ(daysUntilFull({survey(0, leastNumber, 0), survey(secondsPerDay, greatestNumber, greatestNumber)}), 0);
+    EXPECT_EQ(daysUntilFull({survey(0, greatestNumber, 0), survey(secondsPerDay, leastNumber, greatestNumber)}),
+              std::nullopt);
+    EXPECT_EQ(daysUntilFull({survey(0, 0, 0), survey(secondsPerDay, 1, greatestNumber - 1023)}), greatestNumber - 1023);
 }
 
 TEST(DaysUntilFull, beyondWhatAnIntegerTellsAreNoAnswer) {
-    EXPECT_EQ(daysUntilFull({survey(0, 0, 0), survey(secondsPerDay, 1, largest)}), std::nullopt);
-    EXPECT_EQ(daysUntilFull({survey(0, 0, 0), survey(1e300, 1, largest)}), std::nullopt);
+    EXPECT_EQ(daysUntilFull({survey(0, 0, 0), survey(secondsPerDay, 1, greatestNumber)}), std::nullopt);
+    EXPECT_EQ(daysUntilFull({survey(0, 0, 0), survey(1e300, 1, greatestNumber)}), std::nullopt);
 }
 
 TEST(DaysUntilFull, surviveDatesThatAreNone) {
@@ -271,9 +272,10 @@ TEST(ChangedFolders, ofOneSizeStandByTheirPath) {
 }
 
 TEST(ChangedFolders, surviveTheLargestFigures) {
-    const FolderChanges found = changes({{"/down", largest}, {"/half", -1}, {"/up", smallest}},
-                                        {{"/down", smallest}, {"/half", largest}, {"/up", largest}});
-    EXPECT_THAT(found.grew, ElementsAre(FolderChange{"/up", smallest, largest}, FolderChange{"/half", -1, largest}));
+    const FolderChanges found = changes({{"/down", greatestNumber}, {"/half", -1}, {"/up", leastNumber}},
+                                        {{"/down", leastNumber}, {"/half", greatestNumber}, {"/up", greatestNumber}});
+    EXPECT_THAT(found.grew, ElementsAre(FolderChange{"/up", leastNumber, greatestNumber},
+                                        FolderChange{"/half", -1, greatestNumber}));
 }
 
 }  // namespace

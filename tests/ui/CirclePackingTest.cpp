@@ -16,7 +16,7 @@ namespace zelk {
 
 namespace {
 
-std::vector<PackItem> itemsOf(const std::vector<std::int64_t>& weights) {
+std::vector<PackItem> packItemsOf(const std::vector<std::int64_t>& weights) {
     std::vector<PackItem> items;
     for (std::size_t at = 0; at < weights.size(); ++at) items.push_back({std::to_string(at), weights[at]});
     return items;
@@ -53,17 +53,17 @@ double separation(const PackedCircle& a, const PackedCircle& b) {
 
 TEST(CirclePacking, nothingWithAWeightPacksToNothing) {
     EXPECT_TRUE(pack({}, 400, 300).empty());
-    EXPECT_TRUE(pack(itemsOf({0, -1, 0}), 400, 300).empty());
+    EXPECT_TRUE(pack(packItemsOf({0, -1, 0}), 400, 300).empty());
 }
 
 TEST(CirclePacking, aRectangleWithoutAnAreaPacksToNothing) {
     for (const auto& [width, height] : {std::pair{0.0, 300.0}, {400.0, 0.0}, {-1.0, 300.0}, {400.0, -5.0}})
-        EXPECT_TRUE(pack(itemsOf({5}), width, height).empty());
-    EXPECT_TRUE(pack(itemsOf({5}), std::nan(""), 300).empty());
+        EXPECT_TRUE(pack(packItemsOf({5}), width, height).empty());
+    EXPECT_TRUE(pack(packItemsOf({5}), std::nan(""), 300).empty());
 }
 
 TEST(CirclePacking, aSingleItemTouchesTheMarginOfTheTighterAxis) {
-    const auto circles = pack(itemsOf({1'000'000}), 500, 300);
+    const auto circles = pack(packItemsOf({1'000'000}), 500, 300);
     ASSERT_EQ(circles.size(), 1U);
     EXPECT_DOUBLE_EQ(circles[0].radius, (300 - 48) / 2.0);
     EXPECT_DOUBLE_EQ(circles[0].center.x, 250);
@@ -71,7 +71,7 @@ TEST(CirclePacking, aSingleItemTouchesTheMarginOfTheTighterAxis) {
 }
 
 TEST(CirclePacking, whatHasNoWeightIsLeftOutAndTheOrderStays) {
-    const auto circles = pack(itemsOf({4, 0, 9, -2, 1}), 400, 300);
+    const auto circles = pack(packItemsOf({4, 0, 9, -2, 1}), 400, 300);
     ASSERT_EQ(circles.size(), 3U);
     EXPECT_EQ(circles[0].id, "0");
     EXPECT_EQ(circles[1].id, "2");
@@ -79,21 +79,21 @@ TEST(CirclePacking, whatHasNoWeightIsLeftOutAndTheOrderStays) {
 }
 
 TEST(CirclePacking, areasAreAsTheBytes) {
-    const auto circles = pack(itemsOf({400, 100}), 400, 300);
+    const auto circles = pack(packItemsOf({400, 100}), 400, 300);
     EXPECT_DOUBLE_EQ(circles[0].radius, 2 * circles[1].radius);
 }
 
 TEST(CirclePacking, aRectangleSmallerThanItsMarginsIsPackedWithoutComplaint) {
-    const auto flat = pack(itemsOf({4, 2}), 400, 48);
+    const auto flat = pack(packItemsOf({4, 2}), 400, 48);
     ASSERT_EQ(flat.size(), 2U);
     EXPECT_EQ(flat[0].radius, 0);
-    const auto less = pack(itemsOf({4, 2}), 10, 300);
+    const auto less = pack(packItemsOf({4, 2}), 10, 300);
     ASSERT_EQ(less.size(), 2U);
     EXPECT_LT(less[0].radius, 0);
 }
 
 TEST(CirclePacking, theLargestWeightsThereAreStayFinite) {
-    const auto circles = pack(itemsOf({INT64_MAX, 1, INT64_MAX}), 400, 300);
+    const auto circles = pack(packItemsOf({INT64_MAX, 1, INT64_MAX}), 400, 300);
     ASSERT_EQ(circles.size(), 3U);
     for (const PackedCircle& circle : circles) EXPECT_TRUE(std::isfinite(circle.center.x + circle.radius));
 }
@@ -121,7 +121,7 @@ TEST(CirclePacking, agreesWithAnIndependentModelAndNothingOverlaps) {
 
     std::ifstream in(answered);
     for (const Case& one : all) {
-        const auto circles = pack(itemsOf(one.weights), one.width, one.height);
+        const auto circles = pack(packItemsOf(one.weights), one.width, one.height);
         std::string line;
         ASSERT_TRUE(std::getline(in, line));
         std::istringstream model(line);

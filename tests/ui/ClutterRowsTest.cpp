@@ -13,11 +13,11 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr TimePoint now = 1'750'000'000;
+constexpr TimePoint rowsNow = 1'750'000'000;
 
 LargeFile file(const std::string& path, std::int64_t size = 1'000'000, double days = 0,
                FileType type = FileType::other) {
-    return {path, size, now - days * secondsPerDay, type};
+    return {path, size, rowsNow - days * secondsPerDay, type};
 }
 
 std::string text(const ClutterRows& rows, int row, const char* role) {
@@ -34,7 +34,7 @@ std::vector<std::string> all(const ClutterRows& rows, const char* role) {
 
 TEST(ClutterRows, aRowTellsWhatAFileIsWhereItLiesHowOldAndHowLargeItIs) {
     ClutterRows rows;
-    rows.show({file("/home/me/a film.mov", 3'000'000'000, 400, FileType::video)}, now);
+    rows.show({file("/home/me/a film.mov", 3'000'000'000, 400, FileType::video)}, rowsNow);
     EXPECT_EQ(text(rows, 0, "symbol"), "film");
     EXPECT_EQ(rows.data(rows.index(0), ClutterRows::tintRole).value<QColor>(), QColor(232, 91, 196));
     EXPECT_EQ(text(rows, 0, "name"), "a film.mov");
@@ -49,7 +49,7 @@ TEST(ClutterRows, everyTypeHasItsSymbol) {
     ClutterRows rows;
     std::vector<LargeFile> files;
     for (const FileType type : allFileTypes) files.push_back(file("/" + std::string(rawValue(type)), 1, 0, type));
-    rows.show(files, now);
+    rows.show(files, rowsNow);
     EXPECT_THAT(all(rows, "symbol"),
                 ElementsAre("film", "music.note", "photo", "doc.zipper", "opticaldiscdrive", "doc.text", "doc"));
 }
@@ -58,19 +58,19 @@ TEST(ClutterRows, agesAreWholeDaysMonthsAndYears) {
     ClutterRows rows;
     rows.show({file("/a", 1, 0.5), file("/b", 1, 1), file("/c", 1, 29.9), file("/d", 1, 30), file("/e", 1, 364),
                file("/f", 1, 365), file("/g", 1, 730)},
-              now);
+              rowsNow);
     EXPECT_THAT(all(rows, "age"), ElementsAre("today", "1d ago", "29d ago", "1mo ago", "12mo ago", "1y ago", "2y ago"));
 }
 
 TEST(ClutterRows, aFileOfTheFutureIsOfToday) {
     ClutterRows rows;
-    rows.show({file("/a", 1, -0.5), file("/b", 1, -1000)}, now);
+    rows.show({file("/a", 1, -0.5), file("/b", 1, -1000)}, rowsNow);
     EXPECT_THAT(all(rows, "age"), ElementsAre("today", "today"));
 }
 
 TEST(ClutterRows, theFolderOfWhatLiesAtTheTopIsTheTop) {
     ClutterRows rows;
-    rows.show({file("/swap")}, now);
+    rows.show({file("/swap")}, rowsNow);
     EXPECT_EQ(text(rows, 0, "name"), "swap");
     EXPECT_EQ(text(rows, 0, "folder"), "/");
 }
@@ -78,7 +78,7 @@ TEST(ClutterRows, theFolderOfWhatLiesAtTheTopIsTheTop) {
 TEST(ClutterRows, namesThatAreNoTextAreRepairedOnScreenAloneAndStayInOneLine) {
     ClutterRows rows;
     const std::string path = "/home/\xff/a\nb\xc3.mov";
-    rows.show({file(path)}, now);
+    rows.show({file(path)}, rowsNow);
     EXPECT_EQ(text(rows, 0, "folder"), "/home/\xef\xbf\xbd");
     EXPECT_EQ(text(rows, 0, "name").find('\n'), std::string::npos);
     EXPECT_EQ(rows.pathAt(0), path);
@@ -86,14 +86,14 @@ TEST(ClutterRows, namesThatAreNoTextAreRepairedOnScreenAloneAndStayInOneLine) {
 
 TEST(ClutterRows, thereIsNoPathBesideTheRows) {
     ClutterRows rows;
-    rows.show({file("/a")}, now);
+    rows.show({file("/a")}, rowsNow);
     EXPECT_EQ(rows.pathAt(-1), "");
     EXPECT_EQ(rows.pathAt(1), "");
 }
 
 TEST(ClutterRows, onlyWhatIsOfNoTypeFollowsTheTheme) {
     ClutterRows rows;
-    rows.show({file("/a"), file("/b.mov", 1, 0, FileType::video)}, now);
+    rows.show({file("/a"), file("/b.mov", 1, 0, FileType::video)}, rowsNow);
     const auto tint = [&](int row) { return rows.data(rows.index(row), ClutterRows::tintRole).value<QColor>(); };
     const QColor dark = tint(0);
     rows.setTheme(ZelkTheme::light());
@@ -103,11 +103,11 @@ TEST(ClutterRows, onlyWhatIsOfNoTypeFollowsTheTheme) {
 
 TEST(ClutterRows, aFileThatGoesTakesItsRowAloneWithIt) {
     ClutterRows rows;
-    rows.show({file("/a"), file("/b"), file("/c")}, now);
+    rows.show({file("/a"), file("/b"), file("/c")}, rowsNow);
     const QSignalSpy removed(&rows, &QAbstractItemModel::rowsRemoved);
     const QSignalSpy inserted(&rows, &QAbstractItemModel::rowsInserted);
     const QSignalSpy reset(&rows, &QAbstractItemModel::modelReset);
-    rows.show({file("/a"), file("/c")}, now);
+    rows.show({file("/a"), file("/c")}, rowsNow);
     ASSERT_EQ(removed.size(), 1);
     EXPECT_EQ(removed.front().at(1).toInt(), 1);
     EXPECT_EQ(removed.front().at(2).toInt(), 1);
@@ -117,28 +117,28 @@ TEST(ClutterRows, aFileThatGoesTakesItsRowAloneWithIt) {
 
 TEST(ClutterRows, anotherOrderMovesRowsAndResetsNothing) {
     ClutterRows rows;
-    rows.show({file("/a"), file("/b"), file("/c"), file("/d")}, now);
+    rows.show({file("/a"), file("/b"), file("/c"), file("/d")}, rowsNow);
     const QSignalSpy reset(&rows, &QAbstractItemModel::modelReset);
-    rows.show({file("/d"), file("/b"), file("/c"), file("/a")}, now);
+    rows.show({file("/d"), file("/b"), file("/c"), file("/a")}, rowsNow);
     EXPECT_EQ(reset.size(), 0);
     EXPECT_THAT(all(rows, "name"), ElementsAre("d", "b", "c", "a"));
 }
 
 TEST(ClutterRows, aFileThatIsListedTwiceHasTwoRows) {
     ClutterRows rows;
-    rows.show({file("/a"), file("/a"), file("/b")}, now);
+    rows.show({file("/a"), file("/a"), file("/b")}, rowsNow);
     EXPECT_THAT(all(rows, "name"), ElementsAre("a", "a", "b"));
-    rows.show({file("/b"), file("/a"), file("/a")}, now);
+    rows.show({file("/b"), file("/a"), file("/a")}, rowsNow);
     EXPECT_THAT(all(rows, "name"), ElementsAre("b", "a", "a"));
-    rows.show({file("/b")}, now);
+    rows.show({file("/b")}, rowsNow);
     EXPECT_THAT(all(rows, "name"), ElementsAre("b"));
 }
 
 TEST(ClutterRows, aFileThatGrewOrAgedIsToldAnew) {
     ClutterRows rows;
-    rows.show({file("/a", 1'000'000)}, now);
+    rows.show({file("/a", 1'000'000)}, rowsNow);
     const QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
-    rows.show({file("/a", 2'000'000)}, now + 40 * secondsPerDay);
+    rows.show({file("/a", 2'000'000)}, rowsNow + 40 * secondsPerDay);
     EXPECT_EQ(text(rows, 0, "size"), "2 MB");
     EXPECT_EQ(text(rows, 0, "age"), "1mo ago");
     EXPECT_EQ(changed.size(), 1);

@@ -11,7 +11,7 @@ namespace zelk {
 
 namespace {
 
-enum Row { reclaim, clutter, downloads, system };
+enum CardRow { reclaim, clutter, downloads, system };
 
 class FindingCardsTest : public AppModelFixture {
 protected:

@@ -12,13 +12,13 @@ namespace {
 
 using testing::ElementsAre;
 
-LargeFile file(const std::string& path, std::int64_t size, FileType type = FileType::other) {
+LargeFile largeFile(const std::string& path, std::int64_t size, FileType type = FileType::other) {
     return {path, size, 0, type};
 }
 
 std::vector<LargeFile> someFiles(int count) {
     std::vector<LargeFile> files;
-    for (int at = 0; at < count; ++at) files.push_back(file("/f/" + std::to_string(at), 1'000 - at));
+    for (int at = 0; at < count; ++at) files.push_back(largeFile("/f/" + std::to_string(at), 1'000 - at));
     return files;
 }
 
@@ -51,8 +51,8 @@ TEST(LargestFiles, showsFewerWhereThereAreFewer) {
 
 TEST(LargestFiles, aRowHasTheSymbolOfItsTypeItsNameAndItsSize) {
     LargestFiles list;
-    list.show({file("/home/me/a film.mov", 3'000'000'000, FileType::video),
-               file("/home/me/disk/system.iso", 60'000'000, FileType::diskImage)});
+    list.show({largeFile("/home/me/a film.mov", 3'000'000'000, FileType::video),
+               largeFile("/home/me/disk/system.iso", 60'000'000, FileType::diskImage)});
     EXPECT_EQ(text(list, 0, "symbol"), "film");
     EXPECT_EQ(text(list, 0, "name"), "a film.mov");
     EXPECT_EQ(text(list, 0, "path"), "/home/me/a film.mov");
@@ -64,7 +64,7 @@ TEST(LargestFiles, aRowHasTheSymbolOfItsTypeItsNameAndItsSize) {
 
 TEST(LargestFiles, theTintFollowsTheTheme) {
     LargestFiles list;
-    list.show({file("/a", 1)});
+    list.show({largeFile("/a", 1)});
     const auto tint = [&] { return list.data(list.index(0), LargestFiles::tintRole).value<QColor>(); };
     EXPECT_EQ(tint(), withOpacity(ZelkTheme::dark().inkSoft, 0.5));
     QSignalSpy changes(&list, &LargestFiles::dataChanged);
@@ -100,16 +100,16 @@ TEST(LargestFiles, takesOverAnotherOrder) {
 
 TEST(LargestFiles, twoFilesThatAreAlikeInAllAreTwoRows) {
     LargestFiles list;
-    list.show({file("/a", 5), file("/a", 5), file("/b", 4)});
+    list.show({largeFile("/a", 5), largeFile("/a", 5), largeFile("/b", 4)});
     EXPECT_THAT(names(list), ElementsAre("a", "a", "b"));
-    list.show({file("/a", 5), file("/b", 4)});
+    list.show({largeFile("/a", 5), largeFile("/b", 4)});
     EXPECT_THAT(names(list), ElementsAre("a", "b"));
 }
 
 TEST(LargestFiles, aFileThatGrewShowsItsNewSize) {
     LargestFiles list;
-    list.show({file("/a", 1'000'000)});
-    list.show({file("/a", 2'000'000)});
+    list.show({largeFile("/a", 1'000'000)});
+    list.show({largeFile("/a", 2'000'000)});
     ASSERT_EQ(list.rowCount(), 1);
     EXPECT_EQ(text(list, 0, "size"), "2 MB");
 }

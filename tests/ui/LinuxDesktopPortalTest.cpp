@@ -18,8 +18,8 @@ namespace {
 
 const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
-const QString gnome = QStringLiteral("org.gnome.desktop.interface");
-const QString common = QStringLiteral("org.freedesktop.appearance");
+const QString gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
+const QString commonGroup = QStringLiteral("org.freedesktop.appearance");
 
 /// Answers as the portal does: a value in a variant in a variant.
 class Portal : public QDBusVirtualObject {
@@ -82,9 +82,9 @@ TEST_F(DesktopPortal, isHeardWhenSomethingChanges) {
     offer();
     desktop.follow(ours);
     runUntil([&] { return desktop.textFactor() == 1.25; });
-    tell(common, QStringLiteral("color-scheme"), 2U);
+    tell(commonGroup, QStringLiteral("color-scheme"), 2U);
     runUntil([&] { return desktop.scheme() == DesktopScheme::light; });
-    tell(gnome, QStringLiteral("text-scaling-factor"), 1.5);
+    tell(gnomeGroup, QStringLiteral("text-scaling-factor"), 1.5);
     runUntil([&] { return desktop.textFactor() == 1.5; });
 }
 

@@ -11,13 +11,13 @@ namespace {
 
 using Kind = fakes::DrawnShape::Kind;
 
-constexpr QSizeF size(200, 6);
+constexpr QSizeF barSize(200, 6);
 const QColor barTrack(255, 255, 255, 20);
 const QColor barAmber(245, 166, 35);
 
 std::vector<fakes::DrawnShape> barAt(double seconds) {
     fakes::RecordingCanvas canvas;
-    drawProgress(canvas, size, seconds, barTrack, barAmber);
+    drawProgress(canvas, barSize, seconds, barTrack, barAmber);
     return canvas.shapes;
 }
 

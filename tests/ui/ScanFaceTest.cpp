@@ -7,7 +7,7 @@ namespace zelk {
 
 namespace {
 
-const QLocale american(QLocale::English, QLocale::UnitedStates);
+const QLocale unitedStates(QLocale::English, QLocale::UnitedStates);
 
 }  // namespace
 
@@ -23,7 +23,7 @@ TEST(ScanFace, idleAsksToScan) {
 }
 
 TEST(ScanFace, scanningShowsTheBytes) {
-    const ScanFace face = ScanFace::scanning(1'300'000, american);
+    const ScanFace face = ScanFace::scanning(1'300'000, unitedStates);
     EXPECT_TRUE(face.symbol.isEmpty());
     EXPECT_EQ(face.title, QStringLiteral("1.3 MB"));
     EXPECT_EQ(face.titleSize, 26);
@@ -33,7 +33,7 @@ TEST(ScanFace, scanningShowsTheBytes) {
 }
 
 TEST(ScanFace, finishedShowsWhatIsRecoverable) {
-    const ScanFace face = ScanFace::finished(41'860'000'000, american);
+    const ScanFace face = ScanFace::finished(41'860'000'000, unitedStates);
     EXPECT_TRUE(face.symbol.isEmpty());
     EXPECT_EQ(face.title, QStringLiteral("41.86 GB"));
     EXPECT_EQ(face.titleSize, 28);
@@ -44,8 +44,8 @@ TEST(ScanFace, finishedShowsWhatIsRecoverable) {
 }
 
 TEST(ScanFace, ofZeroBytesShowsANumberAndAUnit) {
-    EXPECT_EQ(ScanFace::scanning(0, american).title, QStringLiteral("0 bytes"));
-    EXPECT_EQ(ScanFace::finished(0, american).title, QStringLiteral("0 bytes"));
+    EXPECT_EQ(ScanFace::scanning(0, unitedStates).title, QStringLiteral("0 bytes"));
+    EXPECT_EQ(ScanFace::finished(0, unitedStates).title, QStringLiteral("0 bytes"));
 }
 
 }  // namespace zelk

@@ -23,7 +23,7 @@ private:
     std::unique_ptr<ToolsScreenModel> tools_;
 };
 
-struct Row {
+struct ToolRow {
     Screen screen;
     std::string title;
     std::string symbol;
@@ -32,8 +32,8 @@ struct Row {
     std::string cleanup;
 };
 
-const std::vector<Row>& rows() {
-    static const std::vector<Row> all{
+const std::vector<ToolRow>& toolRows() {
+    static const std::vector<ToolRow> all{
         {Screen::survey,
          "Overview",
          "scope",
@@ -110,7 +110,7 @@ TEST_F(ToolsScreen, saysWhatItIs) {
 TEST_F(ToolsScreen, listsTheTenToolsInOrder) {
     ASSERT_EQ(tools().rowCount(), 10);
     for (int row = 0; row < 10; ++row) {
-        const Row& expected = rows()[static_cast<std::size_t>(row)];
+        const ToolRow& expected = toolRows()[static_cast<std::size_t>(row)];
         EXPECT_EQ(text(row, "title"), expected.title);
         EXPECT_EQ(text(row, "symbol"), expected.symbol);
         EXPECT_EQ(at(row, "tint").value<QColor>(), expected.tint) << expected.title;
@@ -129,7 +129,7 @@ TEST_F(ToolsScreen, saysAWholeRowToAScreenReader) {
 TEST_F(ToolsScreen, selectsTheModuleOfThePressedRow) {
     for (int row = 0; row < 10; ++row) {
         tools().press(row);
-        EXPECT_EQ(model().selection(), rows()[static_cast<std::size_t>(row)].screen);
+        EXPECT_EQ(model().selection(), toolRows()[static_cast<std::size_t>(row)].screen);
     }
 }
 

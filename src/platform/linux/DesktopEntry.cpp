@@ -5,29 +5,14 @@
 #include <cstddef>
 
 #include "platform/Utf8.h"
+#include "platform/linux/Text.h"
 
 namespace zelk {
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r";
-
-std::string_view trimmed(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    text.remove_suffix(text.size() - (text.find_last_not_of(blanks) + 1));
-    return text;
-}
-
-/// The next line, which is taken off `text`.
-std::string_view takeLine(std::string_view& text) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return line;
-}
-
 /// Every value is written with these escapes; a backslash before anything else stays.
-std::string unescaped(std::string_view value) {
+std::string withoutEscapes(std::string_view value) {
     constexpr std::string_view letters = "sntr\\";
     constexpr std::string_view meanings = " \n\t\r\\";
     std::string text;
@@ -88,8 +73,8 @@ public:
     void take(const Key& key, std::string_view value) {
         if (key.name == "Name") return takeName(key.locale, value);
         if (key.locale) return;
-        if (key.name == "Exec") entry.command = wordsOf(unescaped(value));
-        if (key.name == "TryExec") entry.tryExec = unescaped(value);
+        if (key.name == "Exec") entry.command = wordsOf(withoutEscapes(value));
+        if (key.name == "TryExec") entry.tryExec = withoutEscapes(value);
         if (key.name == "Type") entry.isApplication = value == "Application";
         if (key.name == "Hidden") entry.hidden = isTrue(value);
         if (key.name == "NoDisplay") entry.noDisplay = isTrue(value);
@@ -106,7 +91,7 @@ private:
         const auto rank = static_cast<std::size_t>(found - locales_.begin());
         if (rank > nameRank_ || !isUtf8(value)) return;
         nameRank_ = rank;
-        entry.name = unescaped(value);
+        entry.name = withoutEscapes(value);
     }
 
     const std::vector<std::string>& locales_;

@@ -6,28 +6,14 @@
 #include <charconv>
 #include <limits>
 
+#include "platform/linux/Text.h"
+
 namespace zelk {
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n";
-
 bool isBlankOrControl(char c) {
     return static_cast<unsigned char>(c) <= ' ' || c == 0x7F;
-}
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-/// Takes the first line, without its end, off `text`.
-std::string_view takeLine(std::string_view& text) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return line;
 }
 
 /// Takes the first word off `text`; empty at its end.
