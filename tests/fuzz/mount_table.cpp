@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/MountTable.h"
+#include "platform/posix/MountTable.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/MountTable.h"
+#include "platform/posix/MountTable.h"
 
 #include <gmock/gmock.h>
 

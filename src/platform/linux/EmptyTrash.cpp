@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/RemoveEntry.h"
 #include "platform/linux/TrashInfo.h"
 #include "platform/linux/TrashMove.h"
 #include "platform/posix/DirectoryNames.h"
+#include "platform/posix/RemoveEntry.h"
 
 namespace zelk {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/FileStatus.h"
+#include "platform/posix/FileStatus.h"
 
 #include <fcntl.h>
 #include <linux/openat2.h>

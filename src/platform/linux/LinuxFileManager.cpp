@@ -9,7 +9,6 @@
 #include <cstddef>
 
 #include "platform/linux/LinuxDirectoryReader.h"
-#include "platform/linux/RemoveEntry.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
@@ -17,6 +16,7 @@
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
 #include "platform/posix/RemovalTurn.h"
+#include "platform/posix/RemoveEntry.h"
 #include "platform/posix/TryOpenFile.h"
 
 namespace zelk {

@@ -8,13 +8,13 @@
 #include <vector>
 
 #include "platform/linux/EmptyTrash.h"
-#include "platform/linux/FileStatus.h"
 #include "platform/linux/LinuxLocations.h"
-#include "platform/linux/MountTable.h"
 #include "platform/linux/TrashFolder.h"
 #include "platform/linux/TrashMove.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FailureText.h"
+#include "platform/posix/FileStatus.h"
+#include "platform/posix/MountTable.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
 #include "platform/posix/RemovalTurn.h"

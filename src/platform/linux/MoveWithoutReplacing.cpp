@@ -8,8 +8,8 @@
 
 #include <cerrno>
 
-#include "platform/linux/FileStatus.h"
 #include "platform/posix/Descriptor.h"
+#include "platform/posix/FileStatus.h"
 
 namespace zelk {
 namespace {

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/FileStatus.h"
 #include "platform/posix/Descriptor.h"
+#include "platform/posix/FileStatus.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/RemoveEntry.h"
+#include "platform/posix/RemoveEntry.h"
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -11,11 +11,11 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/FileStatus.h"
-#include "platform/linux/MountTable.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryLadder.h"
 #include "platform/posix/FailureText.h"
+#include "platform/posix/FileStatus.h"
+#include "platform/posix/MountTable.h"
 
 namespace zelk {
 namespace {
