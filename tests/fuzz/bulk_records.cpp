@@ -23,7 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t count = data[0];
     const std::span<const std::byte> buffer(reinterpret_cast<const std::byte*>(data + 1), size - 1);
     std::vector<zelk::DirEntry> entries;
-    const bool whole = zelk::decodeBulkRecords(buffer, count, entries);
+    constexpr zelk::ListedDirectory listed{.device = 77, .modified = 1};
+    const bool whole = zelk::decodeBulkRecords(buffer, count, listed, entries);
     require(entries.size() <= count);
     require(whole || count > 0);
 

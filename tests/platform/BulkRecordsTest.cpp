@@ -13,6 +13,13 @@ namespace zelk {
 namespace {
 
 constexpr std::uint32_t regularFile = 1;
+constexpr ListedDirectory listed{.device = 77, .modified = 1234.5};
+
+// What a record says it has: everything that is asked for, or only the name.
+constexpr std::uint32_t allCommon = 0x8200040B;
+constexpr std::uint32_t onlyName = 0x80000001;
+constexpr std::uint32_t errorToo = 0x20000000;
+constexpr std::uint32_t allOfAFile = 5;
 
 /// Writes records field by field, so that each can be wrong on its own.
 class Records {
@@ -26,6 +33,7 @@ public:
         std::uint64_t fileID = 42;
         std::uint32_t linkCount = 1;
         std::uint64_t allocatedSize = 4096;
+        std::uint32_t common = allCommon;
     };
 
     /// Gives where the record starts.
@@ -35,6 +43,8 @@ public:
         const std::size_t nameAt = isDirectory ? 64 : 76;
         bytes_.resize(start + (nameAt + fields.name.size() + 1 + 7) / 8 * 8);
         set(start, static_cast<std::uint32_t>(bytes_.size() - start));
+        set(start + 4, fields.common);
+        set(start + 16, isDirectory ? 0 : allOfAFile);
         set(start + 24, static_cast<std::int32_t>(nameAt - 24));
         set(start + 28, static_cast<std::uint32_t>(fields.name.size() + 1));
         set(start + 32, fields.device);
@@ -47,6 +57,19 @@ public:
             set(start + 68, fields.allocatedSize);
         }
         std::memcpy(bytes_.data() + start + nameAt, fields.name.data(), fields.name.size());
+        ++count_;
+        return start;
+    }
+
+    /// What the kernel makes of an entry that it could not ask: the name, behind `fixedPart` bytes of nothing.
+    std::size_t addUnasked(const std::string& name, std::size_t fixedPart, std::uint32_t common = onlyName) {
+        const std::size_t start = bytes_.size();
+        bytes_.resize(start + (fixedPart + name.size() + 1 + 7) / 8 * 8);
+        set(start, static_cast<std::uint32_t>(bytes_.size() - start));
+        set(start + 4, common);
+        set(start + 24, static_cast<std::int32_t>(fixedPart - 24));
+        set(start + 28, static_cast<std::uint32_t>(name.size() + 1));
+        std::memcpy(bytes_.data() + start + fixedPart, name.data(), name.size());
         ++count_;
         return start;
     }
@@ -65,7 +88,7 @@ public:
         // A copy of the exact size, so that the address sanitizer sees a read behind the end.
         exact_.assign(bytes_.begin(), bytes_.end());
         exact_.shrink_to_fit();
-        return decodeBulkRecords(exact_, count, entries);
+        return decodeBulkRecords(exact_, count, listed, entries);
     }
 
     std::vector<DirEntry> entries;
@@ -134,6 +157,151 @@ TEST(BulkRecords, theLastRecordNeedNotBeRoundedUp) {
     EXPECT_EQ(records.entries[1].name, "b");
 }
 
+/// An entry of which nothing but the name is known.
+void expectUnasked(const DirEntry& entry, std::string_view name) {
+    EXPECT_EQ(entry.name, name);
+    EXPECT_EQ(entry.objType, directoryObjectType) << "only opening it can tell";
+    EXPECT_EQ(entry.deviceID, listed.device) << "or it would pass for a mount point";
+    EXPECT_EQ(entry.fileID, 0U);
+    EXPECT_EQ(entry.linkCount, 0U);
+    EXPECT_EQ(entry.allocSize, 0U);
+    EXPECT_EQ(entry.modTime, listed.modified) << "or it would pass for ancient";
+}
+
+TEST(BulkRecords, entryThatCouldNotBeAskedHasNoSizeHoweverItsNameReads) {
+    for (const std::size_t fixedPart : {32, 64, 76}) {
+        Records records;
+        records.add({.name = "before"});
+        records.addUnasked("Documents", fixedPart);
+        records.addUnasked("a film whose name stands where figures stand.mov", fixedPart);
+        records.add({.name = "behind"});
+        ASSERT_TRUE(records.decodes()) << fixedPart;
+        ASSERT_EQ(records.entries.size(), 4U);
+        expectUnasked(records.entries[1], "Documents");
+        expectUnasked(records.entries[2], "a film whose name stands where figures stand.mov");
+        EXPECT_EQ(records.entries[0].allocSize, 4096U);
+        EXPECT_EQ(records.entries[3].allocSize, 4096U);
+    }
+}
+
+TEST(BulkRecords, entryWithAnErrorIsUnaskedWhateverElseItSays) {
+    Records records;
+    records.add({.name = "film.mov", .common = allCommon | errorToo});
+    ASSERT_TRUE(records.decodes());
+    expectUnasked(records.entries[0], "film.mov");
+}
+
+TEST(BulkRecords, entryWithoutATypeIsUnaskedWhateverElseItSays) {
+    Records records;
+    records.add({.name = "film.mov", .common = allCommon & ~8U});
+    ASSERT_TRUE(records.decodes());
+    expectUnasked(records.entries[0], "film.mov");
+}
+
+TEST(BulkRecords, errorNumberBeforeTheNameIsPassedOver) {
+    for (const std::int32_t error : {1, 13, 36, 40, 60}) {
+        Records records;
+        const std::size_t start = records.addUnasked("Documents", 36, onlyName | errorToo);
+        records.set(start + 24, error);
+        records.set(start + 28, std::int32_t{36 - 28});
+        records.set(start + 32, std::uint32_t{10});
+        ASSERT_TRUE(records.decodes()) << error;
+        expectUnasked(records.entries[0], "Documents");
+    }
+}
+
+TEST(BulkRecords, errorThatIsOnlyMentionedLeavesTheNameInItsPlace) {
+    for (const std::size_t fixedPart : {32, 64}) {
+        Records records;
+        records.addUnasked("Documents", fixedPart, onlyName | errorToo);
+        ASSERT_TRUE(records.decodes()) << fixedPart;
+        expectUnasked(records.entries[0], "Documents");
+    }
+}
+
+TEST(BulkRecords, shortestRecordIsOneOfAName) {
+    for (const std::uint32_t common : {onlyName, onlyName | errorToo}) {
+        Records records;
+        const std::size_t start = records.addUnasked("n", 32, common);
+        records.set(start, std::uint32_t{34});
+        records.cutTo(34);
+        ASSERT_TRUE(records.decodes());
+        expectUnasked(records.entries[0], "n");
+    }
+}
+
+TEST(BulkRecords, recordWithoutANameFails) {
+    Records records;
+    records.addUnasked("Documents", 64, 0x80000000);
+    EXPECT_FALSE(records.decodes());
+}
+
+TEST(BulkRecords, fileWithoutASizeCountsAsNothingAndIsNotReadBehindItsFixedPart) {
+    for (const std::uint32_t file : {0U, 1U}) {
+        Records records;
+        const std::size_t start = records.add({.name = "film.mov", .linkCount = 7});
+        records.set(start + 16, file);
+        ASSERT_TRUE(records.decodes());
+        EXPECT_EQ(records.entries[0].objType, regularFile);
+        EXPECT_EQ(records.entries[0].fileID, 42U);
+        EXPECT_EQ(records.entries[0].deviceID, 16777220);
+        EXPECT_EQ(records.entries[0].modTime, 1700000000);
+        EXPECT_EQ(records.entries[0].linkCount, 0U);
+        EXPECT_EQ(records.entries[0].allocSize, 0U);
+    }
+    Records ends;
+    const std::size_t start = ends.addUnasked("f", 64, allCommon);
+    ends.set(start + 36, regularFile);
+    ends.set(start, std::uint32_t{66});
+    ends.cutTo(66);
+    ASSERT_TRUE(ends.decodes());
+    EXPECT_EQ(ends.entries[0].objType, regularFile);
+    EXPECT_EQ(ends.entries[0].allocSize, 0U);
+}
+
+TEST(BulkRecords, directoryThatClaimsASizeHasNone) {
+    Records records;
+    const std::size_t start = records.add({.name = "a name longer than figures", .type = directoryObjectType});
+    records.set(start + 16, allOfAFile);
+    ASSERT_TRUE(records.decodes());
+    EXPECT_EQ(records.entries[0].allocSize, 0U);
+    EXPECT_EQ(records.entries[0].linkCount, 0U);
+}
+
+TEST(BulkRecords, entryWithoutADeviceLiesWhereItsDirectoryLies) {
+    Records records;
+    records.add({.device = 0, .common = allCommon & ~2U});
+    ASSERT_TRUE(records.decodes());
+    EXPECT_EQ(records.entries[0].deviceID, listed.device);
+    EXPECT_EQ(records.entries[0].allocSize, 4096U);
+}
+
+TEST(BulkRecords, recordTooShortForWhatItSaysFails) {
+    for (const std::uint32_t length : {34U, 40U, 63U}) {
+        Records records;
+        const std::size_t start = records.addUnasked("n", 32, allCommon);
+        records.add({});
+        records.set(start, length);
+        EXPECT_FALSE(records.decodes(1)) << length;
+    }
+    for (const std::uint32_t length : {66U, 75U}) {
+        Records records;
+        const std::size_t start = records.addUnasked("f", 64, allCommon);
+        records.set(start + 16, allOfAFile);
+        records.set(start + 36, regularFile);
+        records.add({});
+        records.set(start, length);
+        EXPECT_FALSE(records.decodes(1)) << length;
+    }
+    for (std::uint32_t length = 0; length < 34; ++length) {
+        Records records;
+        const std::size_t start = records.addUnasked("n", 32);
+        records.set(start, length);
+        records.cutTo(length);
+        EXPECT_FALSE(records.decodes(1)) << length;
+    }
+}
+
 TEST(BulkRecords, aLinkKeepsItsOwnTypeAndSize) {
     Records records;
     records.add({.name = "link", .type = 5, .allocatedSize = 0});
@@ -164,7 +332,7 @@ TEST(BulkRecords, theOrderOfDeliveryIsKeptAndWhatWasThereStays) {
     EXPECT_EQ(records.entries[2].name, "m");
 
     std::vector<DirEntry> entries{records.entries[2]};
-    EXPECT_TRUE(decodeBulkRecords({}, 0, entries));
+    EXPECT_TRUE(decodeBulkRecords({}, 0, listed, entries));
     EXPECT_EQ(entries.size(), 1U);
 }
 

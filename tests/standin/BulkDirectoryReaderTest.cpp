@@ -34,9 +34,11 @@ protected:
         std::string pattern = fs::temp_directory_path() / "zelk-bulk-XXXXXX";
         top_ = mkdtemp(pattern.data());
         BulkStandIn::here() = {};
+        BulkStandIn::unasked().clear();
     }
     ~BulkDirectoryReaderTest() override {
         BulkStandIn::here() = {};
+        BulkStandIn::unasked().clear();
         fs::remove_all(top_);
     }
 
@@ -164,6 +166,34 @@ TEST_P(BulkDirectoryReaderTest, theSystemsOwnFoldersAreAsTheLinuxReaderReadsThem
                 << folder << '/' << a.name;
         }
     }
+}
+
+TEST_P(BulkDirectoryReaderTest, entriesThatCannotBeAskedHaveNoSizeAndCostTheOthersNothing) {
+    makeFile("film.mov", 5000);
+    makeFile("other", 5000);
+    fs::create_directories(path("Documents"));
+    makeFile("Documents/letter", 100);
+    BulkStandIn::unasked() = {"film.mov", "Documents"};
+    timespec modified[2] = {{0, UTIME_OMIT}, {1700000000, 0}};
+    ASSERT_EQ(utimensat(AT_FDCWD, top_.c_str(), modified, 0), 0);
+    const auto* entries = read(GetParam());
+    ASSERT_NE(entries, nullptr);
+    ASSERT_EQ(entries->size(), 3U);
+    struct stat status;
+    ASSERT_EQ(lstat(top_.c_str(), &status), 0);
+    for (const DirEntry& entry : *entries) {
+        const bool asked = entry.name == "other";
+        EXPECT_EQ(entry.objType, asked ? 1U : directoryObjectType) << entry.name;
+        EXPECT_EQ(entry.allocSize > 0, asked) << entry.name;
+        EXPECT_EQ(entry.linkCount, asked ? 1U : 0U) << entry.name;
+        EXPECT_EQ(entry.deviceID, deviceNumber(major(status.st_dev), minor(status.st_dev))) << entry.name;
+        EXPECT_EQ(entry.modTime == 1700000000, !asked) << entry.name;
+    }
+    EXPECT_EQ(reader_->descend("film.mov"), nullptr) << "unreadable";
+    reader_->ascend();
+    entries = reader_->descend("Documents");
+    ASSERT_NE(entries, nullptr) << "it can be opened after all";
+    expectEqualToLstat(*entries, path("Documents"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Buffers, BulkDirectoryReaderTest, testing::Values(usual, 4096, 300),

@@ -23,6 +23,11 @@ BulkStandIn& BulkStandIn::here() {
     return instance;
 }
 
+std::set<std::string>& BulkStandIn::unasked() {
+    static std::set<std::string> names;
+    return names;
+}
+
 namespace {
 
 std::uint32_t objectType(mode_t mode) {
@@ -73,6 +78,20 @@ std::vector<char> packed(std::string_view name, const struct stat& status) {
     return record;
 }
 
+/// The record of an entry that could not be asked: all its fields are there and empty, but for the name.
+std::vector<char> packedUnasked(std::string_view name, bool isDirectory) {
+    std::vector<char> record(isDirectory ? 64 : 76);
+    const std::uint32_t returned = 0x80000001U;
+    const auto nameOffset = static_cast<std::int32_t>(record.size() - 24);
+    const auto nameLength = static_cast<std::uint32_t>(name.size() + 1);
+    std::memcpy(record.data() + 4, &returned, sizeof returned);
+    std::memcpy(record.data() + 24, &nameOffset, sizeof nameOffset);
+    std::memcpy(record.data() + 28, &nameLength, sizeof nameLength);
+    record.insert(record.end(), name.begin(), name.end());
+    record.push_back('\0');
+    return record;
+}
+
 /// Fills the buffer from where the descriptor stands and leaves it at the first entry that did not fit.
 int fill(int directory, char* buffer, std::size_t size) {
     std::array<char, 32768> listing;
@@ -90,7 +109,9 @@ int fill(int directory, char* buffer, std::size_t size) {
             at += entry.d_reclen;
             struct stat status;
             if (fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) != 0) return -1;
-            const std::vector<char> record = packed(name, status);
+            const std::vector<char> record = BulkStandIn::unasked().contains(name)
+                                                 ? packedUnasked(name, S_ISDIR(status.st_mode))
+                                                 : packed(name, status);
             if (record.size() > size - used) {
                 lseek(directory, position, SEEK_SET);
                 if (count == 0) errno = ERANGE;

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "standin/sys/attr.h"
@@ -27,6 +29,10 @@ struct BulkStandIn {
     std::function<void(std::size_t call, void* buffer, int count)> afterwards;
 
     std::vector<Call> calls;
+
+    /// The names of entries that cannot be asked, as where a call that the file system lacks is made up by the kernel:
+    /// such a record has the name and nothing else. For all threads; not to be changed while any reads.
+    static std::set<std::string>& unasked();
 
     /// The calling thread's, which getattrlistbulk() looks at.
     static BulkStandIn& here();

@@ -2,13 +2,17 @@
 // A whole survey through macOS's reader.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
+#include <string>
 #include <variant>
 
 #include "platform/linux/LinuxDirectoryReader.h"
 #include "platform/macos/BulkDirectoryReader.h"
 #include "platform/posix/PosixClock.h"
 #include "scan/ScanEngine.h"
+#include "standin/BulkStandIn.h"
 
 namespace zelk {
 namespace {
@@ -36,6 +40,26 @@ TEST(BulkSurvey, countsWhatTheLinuxReaderCounts) {
     EXPECT_EQ(got.stats.blockedPaths, expected.stats.blockedPaths);
     ASSERT_TRUE(got.root && expected.root);
     EXPECT_EQ(got.root->size, expected.root->size);
+}
+
+TEST(BulkSurvey, entryThatCouldNotBeAskedIsBlockedAndTheRestCounts) {
+    namespace fs = std::filesystem;
+    std::string top = fs::temp_directory_path() / "zelk-survey-XXXXXX";
+    ASSERT_NE(mkdtemp(top.data()), nullptr);
+    fs::create_directories(top + "/Documents");
+    for (const char* name : {"/film.mov", "/other", "/Documents/letter"}) std::ofstream(top + name) << "content";
+    LinuxDirectoryService own;
+    BulkDirectoryService bulk;
+    const update::Finished expected = survey(own, top);
+    BulkStandIn::unasked() = {"film.mov", "Documents"};
+    const update::Finished got = survey(bulk, top);
+    BulkStandIn::unasked().clear();
+    EXPECT_EQ(expected.stats.blockedPaths, 0);
+    EXPECT_EQ(got.stats.blockedPaths, 1) << "the film, of which nothing is known";
+    EXPECT_EQ(got.stats.filesScanned, expected.stats.filesScanned - 1);
+    EXPECT_LE(got.stats.totalBytes, expected.stats.totalBytes);
+    EXPECT_GE(got.stats.totalBytes, 0);
+    fs::remove_all(top);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "platform/macos/BulkDirectoryReader.h"
 
 #include <sys/attr.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -54,22 +55,25 @@ private:
         giveBackExcess();
         entries_.clear();
         names_.clear();
+        struct stat status;
+        if (fstat(ladder_.current(), &status) != 0) return nullptr;
+        const ListedDirectory listed{deviceOf(status), static_cast<TimePoint>(status.st_mtime)};
         attrlist request = attributeRequest();
         while (true) {
             errno = 0;
             const int count = getattrlistbulk(ladder_.current(), &request, buffer_.data(), buffer_.size(), readOptions);
             // A failure that names no error is the end too; what was read by then is whole.
             if (count == 0 || (count < 0 && errno == 0)) break;
-            if (count < 0 || !take(static_cast<std::size_t>(count))) return nullptr;
+            if (count < 0 || !take(static_cast<std::size_t>(count), listed)) return nullptr;
         }
         placeNames();
         return &entries_;
     }
 
     /// The next call overwrites the buffer, so the names are set aside.
-    bool take(std::size_t count) {
+    bool take(std::size_t count, const ListedDirectory& listed) {
         const std::size_t known = entries_.size();
-        if (!decodeBulkRecords(buffer_, count, entries_)) return false;
+        if (!decodeBulkRecords(buffer_, count, listed, entries_)) return false;
         for (std::size_t i = known; i < entries_.size(); ++i) names_.append(entries_[i].name);
         return true;
     }

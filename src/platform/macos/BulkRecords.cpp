@@ -11,10 +11,13 @@ namespace zelk {
 namespace {
 
 // Where the fields of a record stand. They are packed without padding, hence the odd places behind the link count. A
-// directory's record has no file attributes: its fixed part ends where the link count of any other begins, and what
-// stands there are bytes of its name.
+// record without file attributes, such as a directory's, ends its fixed part where the link count of any other begins,
+// and what stands there are bytes of its name. One of an entry that could not be asked may have nothing but the name.
 constexpr std::size_t lengthAt = 0;
+constexpr std::size_t returnedCommonAt = 4;
+constexpr std::size_t returnedFileAt = 16;
 constexpr std::size_t nameReferenceAt = 24;
+constexpr std::size_t nameReferenceBehindErrorAt = 28;
 constexpr std::size_t deviceAt = 32;
 constexpr std::size_t typeAt = 36;
 constexpr std::size_t secondsAt = 40;
@@ -22,12 +25,19 @@ constexpr std::size_t nanosecondsAt = 48;
 constexpr std::size_t fileIDAt = 56;
 constexpr std::size_t linkCountAt = 64;
 constexpr std::size_t allocatedSizeAt = 68;
-constexpr std::size_t directoryFixedPart = 64;
+constexpr std::size_t nameReferenceSize = 8;
+constexpr std::size_t returnedSetEnd = 24;
+constexpr std::size_t commonFixedPart = 64;
 constexpr std::size_t fileFixedPart = 76;
 
-// The kernel's own constant stands in a header that only its extensions may include.
+// The kernel's own constants, by its names for them; the first stands in a header that only its extensions may include.
 constexpr std::uint32_t VDIR = 2;
 static_assert(VDIR == directoryObjectType);
+constexpr std::uint32_t returnedName = 0x00000001;       // ATTR_CMN_NAME
+constexpr std::uint32_t returnedDevice = 0x00000002;     // ATTR_CMN_DEVID
+constexpr std::uint32_t returnedType = 0x00000008;       // ATTR_CMN_OBJTYPE
+constexpr std::uint32_t returnedError = 0x20000000;      // ATTR_CMN_ERROR
+constexpr std::uint32_t returnedAllocated = 0x00000004;  // ATTR_FILE_ALLOCSIZE
 
 template <typename Value>
 Value valueAt(std::span<const std::byte> record, std::size_t offset) {
@@ -36,11 +46,17 @@ Value valueAt(std::span<const std::byte> record, std::size_t offset) {
     return value;
 }
 
-/// The name, if its reference and its end lie within the record and it is one that a file can have. A slash in it (from
-/// a broken file system) would make a path of it, which could lead out of the tree.
-std::optional<std::string_view> nameOf(std::span<const std::byte> record) {
-    const std::int64_t start =
-        static_cast<std::int64_t>(nameReferenceAt) + valueAt<std::int32_t>(record, nameReferenceAt);
+/// A name and how many bytes its reference says that it has, its end included.
+struct ReferredName {
+    std::string_view name;
+    std::uint32_t length;
+};
+
+/// What the reference at `place` leads to, if it and the name's end lie within the record and the name is one that a
+/// file can have. A slash in it (from a broken file system) would make a path of it, which could lead out of the tree.
+std::optional<ReferredName> nameBy(std::span<const std::byte> record, std::size_t place) {
+    if (record.size() < place + nameReferenceSize) return std::nullopt;
+    const std::int64_t start = static_cast<std::int64_t>(place) + valueAt<std::int32_t>(record, place);
     if (start < 0 || start >= static_cast<std::int64_t>(record.size())) return std::nullopt;
     const std::span<const std::byte> rest = record.subspan(static_cast<std::size_t>(start));
     const void* end = std::memchr(rest.data(), 0, rest.size());
@@ -48,22 +64,61 @@ std::optional<std::string_view> nameOf(std::span<const std::byte> record) {
     const auto length = static_cast<std::size_t>(static_cast<const std::byte*>(end) - rest.data());
     const std::string_view name(reinterpret_cast<const char*>(rest.data()), length);
     if (name.empty() || name.find('/') != std::string_view::npos) return std::nullopt;
-    return name;
+    return ReferredName{name, valueAt<std::uint32_t>(record, place + 4)};
 }
 
-/// The bytes of the record that `rest` begins with, if there is one with its whole fixed part.
+std::optional<std::string_view> nameOf(std::span<const std::byte> record) {
+    const auto common = valueAt<std::uint32_t>(record, returnedCommonAt);
+    if ((common & returnedName) == 0) return std::nullopt;
+    if ((common & returnedError) != 0) {
+        // The number of an error has its place before the name. Nobody asked for it, so it may be left out all the
+        // same: the reference is taken for one only if it agrees with what it leads to.
+        const auto behind = nameBy(record, nameReferenceBehindErrorAt);
+        if (behind && behind->length == behind->name.size() + 1) return behind->name;
+    }
+    const auto referred = nameBy(record, nameReferenceAt);
+    return referred ? std::optional(referred->name) : std::nullopt;
+}
+
+/// The bytes of the record that `rest` begins with, if there is one that says what it has.
 std::optional<std::span<const std::byte>> firstRecord(std::span<const std::byte> rest) {
-    if (rest.size() < directoryFixedPart) return std::nullopt;
+    if (rest.size() < returnedSetEnd) return std::nullopt;
     const auto length = valueAt<std::uint32_t>(rest, lengthAt);
-    if (length < directoryFixedPart || length > rest.size()) return std::nullopt;
-    const std::span<const std::byte> record = rest.first(length);
-    if (valueAt<std::uint32_t>(record, typeAt) != VDIR && length < fileFixedPart) return std::nullopt;
-    return record;
+    if (length < returnedSetEnd || length > rest.size()) return std::nullopt;
+    return rest.first(length);
+}
+
+/// What `record` says of the entry `name`, if it is long enough for what it says to hold.
+std::optional<DirEntry> entryOf(std::span<const std::byte> record, std::string_view name,
+                                const ListedDirectory& listed) {
+    DirEntry entry{.name = name,
+                   .objType = directoryObjectType,
+                   .fileID = 0,
+                   .linkCount = 0,
+                   .allocSize = 0,
+                   .deviceID = listed.device,
+                   .modTime = listed.modified};
+    const auto common = valueAt<std::uint32_t>(record, returnedCommonAt);
+    if ((common & returnedType) == 0 || (common & returnedError) != 0) return entry;
+    if (record.size() < commonFixedPart) return std::nullopt;
+    entry.objType = valueAt<std::uint32_t>(record, typeAt);
+    entry.fileID = valueAt<std::uint64_t>(record, fileIDAt);
+    if ((common & returnedDevice) != 0) entry.deviceID = valueAt<std::int32_t>(record, deviceAt);
+    entry.modTime = static_cast<double>(valueAt<std::int64_t>(record, secondsAt)) +
+                    static_cast<double>(valueAt<std::int64_t>(record, nanosecondsAt)) / 1e9;
+
+    const auto file = valueAt<std::uint32_t>(record, returnedFileAt);
+    if (entry.objType == VDIR || (file & returnedAllocated) == 0) return entry;
+    if (record.size() < fileFixedPart) return std::nullopt;
+    entry.linkCount = valueAt<std::uint32_t>(record, linkCountAt);
+    entry.allocSize = valueAt<std::uint64_t>(record, allocatedSizeAt);
+    return entry;
 }
 
 }  // namespace
 
-bool decodeBulkRecords(std::span<const std::byte> buffer, std::size_t count, std::vector<DirEntry>& entries) {
+bool decodeBulkRecords(std::span<const std::byte> buffer, std::size_t count, const ListedDirectory& listed,
+                       std::vector<DirEntry>& entries) {
     for (; count > 0; --count) {
         const auto record = firstRecord(buffer);
         if (!record) return false;
@@ -71,17 +126,9 @@ bool decodeBulkRecords(std::span<const std::byte> buffer, std::size_t count, std
         if (!name) return false;
         buffer = buffer.subspan(record->size());
         if (*name == "." || *name == "..") continue;
-
-        const auto type = valueAt<std::uint32_t>(*record, typeAt);
-        const bool isFile = type != VDIR;
-        entries.push_back({.name = *name,
-                           .objType = type,
-                           .fileID = valueAt<std::uint64_t>(*record, fileIDAt),
-                           .linkCount = isFile ? valueAt<std::uint32_t>(*record, linkCountAt) : 0,
-                           .allocSize = isFile ? valueAt<std::uint64_t>(*record, allocatedSizeAt) : 0,
-                           .deviceID = valueAt<std::int32_t>(*record, deviceAt),
-                           .modTime = static_cast<double>(valueAt<std::int64_t>(*record, secondsAt)) +
-                                      static_cast<double>(valueAt<std::int64_t>(*record, nanosecondsAt)) / 1e9});
+        const auto entry = entryOf(*record, *name, listed);
+        if (!entry) return false;
+        entries.push_back(*entry);
     }
     return true;
 }

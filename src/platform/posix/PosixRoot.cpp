@@ -18,15 +18,6 @@ namespace zelk {
 
 namespace {
 
-// Both sides of "is it on the root's device" must come out of the same arithmetic as the reader's entries.
-std::int32_t device32(const struct stat& status) {
-#ifdef __linux__
-    return deviceNumber(major(status.st_dev), minor(status.st_dev));
-#else
-    return static_cast<std::int32_t>(status.st_dev);
-#endif
-}
-
 bool statFollowing(const std::string& path, struct stat& status) {
     if (stat(path.c_str(), &status) == 0) return true;
     if (errno != ENAMETOOLONG) return false;
@@ -39,10 +30,18 @@ bool statFollowing(const std::string& path, struct stat& status) {
 
 }  // namespace
 
+std::int32_t deviceOf(const struct stat& status) {
+#ifdef __linux__
+    return deviceNumber(major(status.st_dev), minor(status.st_dev));
+#else
+    return static_cast<std::int32_t>(status.st_dev);
+#endif
+}
+
 std::optional<RootStatus> posixRootStatus(const std::string& path) {
     struct stat status;
     if (!statFollowing(path, status)) return std::nullopt;
-    return RootStatus{device32(status), static_cast<TimePoint>(status.st_mtime)};
+    return RootStatus{deviceOf(status), static_cast<TimePoint>(status.st_mtime)};
 }
 
 std::shared_ptr<const DirectoryRoot> openPosixRoot(const std::string& path) {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,6 +27,9 @@ public:
 private:
     int descriptor_;
 };
+
+/// The device of what was asked about, by the same arithmetic as the readers' entries have theirs.
+std::int32_t deviceOf(const struct stat& status);
 
 std::optional<RootStatus> posixRootStatus(const std::string& path);
 std::shared_ptr<const DirectoryRoot> openPosixRoot(const std::string& path);
