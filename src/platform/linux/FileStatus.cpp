@@ -54,25 +54,6 @@ int openOnMount(int parent, const char* name) {
     return static_cast<int>(fd);
 }
 
-/// For kernels and filters without openat2: looked at before it is opened, so that what is mounted is never woken, and
-/// after, because it may have been swapped.
-int openAndCompare(int parent, const std::string& name) {
-    const std::optional<FileStatus> above = fileStatus(parent);
-    const std::optional<FileStatus> before = fileStatus(parent, name);
-    if (!above || !before) return -1;
-    if (before->mount != above->mount) {
-        errno = EXDEV;
-        return -1;
-    }
-    constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    Descriptor folder(uninterrupted([&] { return ::openat(parent, name.c_str(), flags); }));
-    if (!folder) return -1;
-    const std::optional<FileStatus> own = fileStatus(folder.get());
-    if (own && own->mount == above->mount) return folder.release();
-    errno = own ? EXDEV : errno;
-    return -1;
-}
-
 }  // namespace
 
 std::optional<FileStatus> fileStatus(int folder, const std::string& name) {
@@ -103,7 +84,7 @@ int openSubdirectoryOnMount(int parent, std::string_view name) {
     const std::string terminated(name);
     const int fd = openOnMount(parent, terminated.c_str());
     // EPERM: some container filters refuse what they do not know.
-    return fd < 0 && (errno == ENOSYS || errno == EPERM) ? openAndCompare(parent, terminated) : fd;
+    return fd < 0 && (errno == ENOSYS || errno == EPERM) ? openAndCompareMounts(parent, terminated) : fd;
 }
 
 std::optional<std::string> pathOfDirectory(int descriptor) {
@@ -113,8 +94,8 @@ std::optional<std::string> pathOfDirectory(int descriptor) {
     return std::string(path, static_cast<std::size_t>(length));
 }
 
-std::string mountTableText() {
-    return readWholeFile("/proc/thread-self/mountinfo").value_or("");
+std::vector<Mount> mountTable() {
+    return parseMountTable(readWholeFile("/proc/thread-self/mountinfo").value_or(""));
 }
 
 }  // namespace zelk

@@ -12,10 +12,7 @@
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
-#include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
-#include "platform/posix/OpenParent.h"
-#include "platform/posix/RemovalTurn.h"
 #include "platform/posix/RemoveEntry.h"
 #include "platform/posix/TryOpenFile.h"
 
@@ -132,10 +129,7 @@ int LinuxFileManager::tryOpen(const std::string& path) {
 }
 
 Failure LinuxFileManager::remove(const ItemPath& item) {
-    const RemovalTurn turn;
-    const Descriptor parent = openParent(item);
-    if (!parent) return failureText(item.name(), "couldn’t be removed", reasonOfParent(item, errno));
-    return removeEntry(parent.get(), std::string(item.name()));
+    return removeItem(item);
 }
 
 }  // namespace zelk

@@ -94,7 +94,7 @@ Failure LinuxTrash::move(const ItemPath& item) {
 
     // The system cannot tell a path that is longer than it would take; then the one it was reached by has to do.
     const std::string path = pathIn(pathOfDirectory(parent.get()).value_or(item.parent()), from.name);
-    const std::vector<Mount> mounts = parseMountTable(mountTableText());
+    const std::vector<Mount> mounts = mountTable();
     if (status->isDirectory() && isMountedBelow(mounts, path)) return "another volume is mounted in it";
 
     std::string reason;

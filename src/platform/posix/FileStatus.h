@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What a file is and on which mount it lies: two mounts of one device have the same device number, so the mount's own
-// number is what tells whether a step leads into another one.
+// What a file is and on which mount it lies: on Linux two mounts of one device have the same device number, so the
+// mount's own number is what tells whether a step leads into another one. macOS has no such mounts and no such number;
+// there it is the device's.
 #pragma once
 
 #include <sys/stat.h>
@@ -9,6 +10,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "platform/posix/MountTable.h"
 
 namespace zelk {
 
@@ -27,17 +31,20 @@ struct FileStatus {
 
 /// Of what the descriptor is open on. Absent, with errno set, on a failure.
 std::optional<FileStatus> fileStatus(int descriptor);
-/// Of `name` in the directory `folder`, its own self where it is a link. No mount is woken by asking.
+/// Of `name` in the directory `folder`, its own self where it is a link. On Linux no mount is woken by asking.
 std::optional<FileStatus> fileStatus(int folder, const std::string& name);
 
 /// Opens the subdirectory `name` of `parent`, which must be neither a link nor on another mount (errno EXDEV). -1, with
 /// errno set, on a failure.
 int openSubdirectoryOnMount(int parent, std::string_view name);
+/// The same where no call of the system does it at once: looked at before it is opened, so that what is mounted is
+/// never woken, and after, because it may have been swapped.
+int openAndCompareMounts(int parent, const std::string& name);
 
 /// The path, without links, that leads to the directory now; absent if it is longer than the system can tell.
 std::optional<std::string> pathOfDirectory(int descriptor);
 
-/// The table of mounts as it is; empty where there is no /proc.
-std::string mountTableText();
+/// What is mounted; empty where the system does not tell.
+std::vector<Mount> mountTable();
 
 }  // namespace zelk

@@ -22,6 +22,8 @@ namespace {
 constexpr int directoryFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 #ifdef __linux__
 constexpr int lookupFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
+#else
+constexpr int lookupFlags = O_SEARCH | O_CLOEXEC;  // says O_DIRECTORY too
 #endif
 
 int openAt(int parent, const char* path, int flags) {
@@ -120,8 +122,6 @@ int openRootDirectory(const std::string& path) {
     return openFollowing(path, directoryFlags);
 }
 
-#ifdef __linux__
-
 int openForLookups(const std::string& path) {
     return openFollowing(path, lookupFlags);
 }
@@ -129,8 +129,6 @@ int openForLookups(const std::string& path) {
 int openForLookupsBeneath(int rootFd, std::string_view below) {
     return openBeneath(rootFd, below, lookupFlags);
 }
-
-#endif
 
 int openDirectoryBeneath(int rootFd, std::string_view below) {
     return openBeneath(rootFd, below, directoryFlags);

@@ -9,15 +9,9 @@
 namespace zelk {
 
 Descriptor openParent(const ItemPath& item) {
-#ifdef __linux__
     Descriptor root(openForLookups(item.root()));
     if (!root || item.way().empty()) return root;
     return Descriptor(openForLookupsBeneath(root.get(), item.way()));
-#else
-    Descriptor root(openRootDirectory(item.root()));
-    if (!root || item.way().empty()) return root;
-    return Descriptor(openDirectoryBeneath(root.get(), item.way()));
-#endif
 }
 
 int errorOnWay(const ItemPath& item) {

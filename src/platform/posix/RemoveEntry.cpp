@@ -16,6 +16,8 @@
 #include "platform/posix/FailureText.h"
 #include "platform/posix/FileStatus.h"
 #include "platform/posix/MountTable.h"
+#include "platform/posix/OpenParent.h"
+#include "platform/posix/RemovalTurn.h"
 
 namespace zelk {
 namespace {
@@ -167,9 +169,15 @@ Failure removeEntry(int parent, const std::string& name) {
         return failed(systemText(errno));
     }
     const std::optional<std::string> folder = pathOfDirectory(parent);
-    if (folder && isMountedBelow(parseMountTable(mountTableText()), pathIn(*folder, name)))
-        return failed("another volume is mounted in it");
+    if (folder && isMountedBelow(mountTable(), pathIn(*folder, name))) return failed("another volume is mounted in it");
     return TreeRemover(parent, name).run();
+}
+
+Failure removeItem(const ItemPath& item) {
+    const RemovalTurn turn;
+    const Descriptor parent = openParent(item);
+    if (!parent) return failureText(item.name(), what, reasonOfParent(item, errno));
+    return removeEntry(parent.get(), std::string(item.name()));
 }
 
 }  // namespace zelk

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/Failure.h"
+#include "platform/ItemPath.h"
 
 namespace zelk {
 
@@ -18,5 +19,8 @@ namespace zelk {
 /// - No permission is changed to make removing possible.
 /// - What somebody else removes meanwhile is well removed; only `name` itself has to be there at the start.
 Failure removeEntry(int parent, const std::string& name);
+
+/// The same for an item of a survey, which is reached by the way that it was found. Waits for its turn.
+Failure removeItem(const ItemPath& item);
 
 }  // namespace zelk
