@@ -14,12 +14,22 @@ namespace {
 /// What the tasks of one cleaning share.
 class Gathering {
 public:
-    Gathering(std::size_t expected, std::function<void(std::vector<Cleaner::Result>)> done)
-        : expected_(expected), done_(std::move(done)) {
+    Gathering(std::size_t expected, std::function<void(std::vector<Cleaner::Result>)> done,
+              std::shared_ptr<Removal> removal)
+        : expected_(expected), done_(std::move(done)), removal_(std::move(removal)) {
         results_.reserve(expected);
     }
 
     /// Safe from any thread. The last one tells the asker.
+    void clean(const Reclaimable& item, bool hardDelete, const Platform& platform) {
+        const bool skipped = removal_ != nullptr && !removal_->mayBegin();
+        add(skipped ? Cleaner::Result{item.id, item, Cleaner::Skipped{"The clean-up was stopped before its turn."}}
+                    : Cleaner::cleanOne(item, hardDelete, platform));
+        // Behind the result: whoever hears that the removal has ended finds all of them told.
+        if (removal_ != nullptr) skipped ? removal_->noteSkipped() : removal_->noteDone();
+    }
+
+private:
     void add(Cleaner::Result result) {
         {
             const std::lock_guard lock(mutex_);
@@ -29,9 +39,9 @@ public:
         done_(std::move(results_));
     }
 
-private:
     const std::size_t expected_;
     const std::function<void(std::vector<Cleaner::Result>)> done_;
+    const std::shared_ptr<Removal> removal_;
     std::mutex mutex_;
     std::vector<Cleaner::Result> results_;
 };
@@ -55,16 +65,17 @@ Cleaner::Status statusOf(ChildOutcome outcome) {
 }  // namespace
 
 void Cleaner::cleanAll(std::vector<Reclaimable> items, bool hardDelete, const Platform& platform,
-                       std::function<void(std::vector<Result>)> done) {
+                       std::function<void(std::vector<Result>)> done, std::shared_ptr<Removal> removal) {
     if (items.empty()) return done({});
     // The tasks are started from a task: to make two thousand threads takes longer than a frame, and where the machine
     // has no more of them, an item is cleaned on the thread that starts it. So many at once must not keep the window
     // from its turn, so each is less urgent than the person who waits for all of them.
-    auto start = [items = std::move(items), hardDelete, platform, done = std::move(done)]() mutable {
-        const auto gathering = std::make_shared<Gathering>(items.size(), std::move(done));
+    auto start = [items = std::move(items), hardDelete, platform, done = std::move(done),
+                  removal = std::move(removal)]() mutable {
+        const auto gathering = std::make_shared<Gathering>(items.size(), std::move(done), std::move(removal));
         for (Reclaimable& item : items) {
             platform.tasks.run(TaskPriority::utility, [gathering, item = std::move(item), hardDelete, platform] {
-                gathering->add(cleanOne(item, hardDelete, platform));
+                gathering->clean(item, hardDelete, platform);
             });
         }
     };

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
@@ -11,6 +12,7 @@
 
 #include "platform/Platform.h"
 #include "reclaim/ReclaimCatalogue.h"
+#include "reclaim/Removal.h"
 
 namespace zelk {
 
@@ -25,7 +27,7 @@ public:
         std::string output;  ///< what it printed, UTF-8; empty if it is none
         bool operator==(const RanCommand&) const = default;
     };
-    /// Left alone. Nothing here does; callers and screens have a word for it.
+    /// Left alone: it had not begun when a stop was asked for.
     struct Skipped {
         std::string reason;
         bool operator==(const Skipped&) const = default;
@@ -48,9 +50,10 @@ public:
 
     /// Cleans all items at the same time, each in a task of its own, and comes back at once. `done` is called once,
     /// from a background thread, with a result per item in the order in which they ended; without items at once, on the
-    /// caller's thread. The services must stay until then.
+    /// caller's thread. The services must stay until then. With a `removal` of as many items each is noted there,
+    /// behind its result; once that is to stop, what has not begun is skipped.
     static void cleanAll(std::vector<Reclaimable> items, bool hardDelete, const Platform& platform,
-                         std::function<void(std::vector<Result>)> done);
+                         std::function<void(std::vector<Result>)> done, std::shared_ptr<Removal> removal = nullptr);
     /// By the item's own method. `hardDelete` removes for good what would go to the Trash; a tool runs either way.
     static Result cleanOne(const Reclaimable& item, bool hardDelete, const Platform& platform);
     /// The item's path is not passed on: the tool finds its own data.

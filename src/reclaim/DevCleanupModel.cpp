@@ -30,7 +30,12 @@ private:
 
 }  // namespace
 
-DevCleanupModel::DevCleanupModel(const Platform& platform, QObject* parent) : QObject(parent), platform_(platform) {}
+DevCleanupModel::DevCleanupModel(const Platform& platform, Removals& removals, QObject* parent)
+    : QObject(parent), platform_(platform), removals_(removals) {
+    connect(&removals, &Removals::progressChanged, this, [this] {
+        if (isCleaning_) emit progressChanged();
+    });
+}
 
 void DevCleanupModel::setAgeDays(std::int64_t days) {
     if (days == ageDays_) return;
@@ -88,11 +93,19 @@ void DevCleanupModel::selectOnly(const Items& items) {
 void DevCleanupModel::clean(Items items, bool hardDelete) {
     if (isCleaning_) return;
     isCleaning_ = true;
+    const std::shared_ptr<Removal> removal = removals_.begin(items.size());
+    removal_ = removal;
     emit isCleaningChanged();
-    Cleaner::cleanAll(std::move(items), hardDelete, platform_,
-                      [this, sender = calls_.sender()](std::vector<Cleaner::Result> results) {
-                          sender.post([this, results = std::move(results)]() mutable { finish(std::move(results)); });
-                      });
+    Cleaner::cleanAll(
+        std::move(items), hardDelete, platform_,
+        [this, sender = calls_.sender()](std::vector<Cleaner::Result> results) {
+            sender.post([this, results = std::move(results)]() mutable { finish(std::move(results)); });
+        },
+        removal);
+}
+
+Removals::Progress DevCleanupModel::progress() const {
+    return removal_ ? Removals::Progress{removal_->done(), removal_->items()} : Removals::Progress();
 }
 
 void DevCleanupModel::finish(std::vector<Cleaner::Result> results) {

@@ -3,12 +3,14 @@
 
 #include <QObject>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "platform/Platform.h"
 #include "reclaim/Cleaner.h"
 #include "reclaim/CleanupSelection.h"
 #include "reclaim/MainThreadCalls.h"
+#include "reclaim/Removals.h"
 
 namespace zelk {
 
@@ -23,8 +25,8 @@ class DevCleanupModel : public QObject {
 public:
     using Items = std::vector<Reclaimable>;
 
-    /// The services must outlive it and a cleaning that is under way when it goes.
-    explicit DevCleanupModel(const Platform& platform, QObject* parent = nullptr);
+    /// The services must outlive it and a cleaning that is under way when it goes; `removals` must outlive it.
+    DevCleanupModel(const Platform& platform, Removals& removals, QObject* parent = nullptr);
 
     /// Only what was left alone for more than this many days is shown; 0 and below show all.
     std::int64_t ageDays() const { return ageDays_; }
@@ -70,6 +72,9 @@ public:
 
     /// Comes back at once; isCleaning() until the results are there.
     void clean(Items items, bool hardDelete);
+    /// Of the cleaning under way, or else of the last one.
+    Removals::Progress progress() const;
+    Removals& removals() const { return removals_; }
     /// The sizes of what the last cleaning took away. A tool may have freed less than its item's size.
     std::int64_t reclaimedBytes() const;
 
@@ -77,6 +82,8 @@ signals:
     void ageDaysChanged();
     void selectionChanged();
     void isCleaningChanged();
+    /// Now and then while it cleans.
+    void progressChanged();
     void lastResultsChanged();
     void showDryRunChanged();
 
@@ -84,6 +91,8 @@ private:
     void finish(std::vector<Cleaner::Result> results);
 
     Platform platform_;
+    Removals& removals_;
+    std::shared_ptr<const Removal> removal_;  // null before the first
     std::int64_t ageDays_ = 14;
     CleanupSelection selection_;
     bool isCleaning_ = false;

@@ -15,8 +15,10 @@ namespace zelk {
 void AppModel::cleanSafeCaches() {
     std::vector<Reclaimable> items = safeItems();
     if (items.empty()) return;
-    Cleaner::cleanAll(std::move(items), false, platform_,
-                      [this, sender = calls_.sender()](const auto&) { sender.post([this] { scanAnew(); }); });
+    const std::shared_ptr<Removal> removal = removals_.begin(items.size());
+    Cleaner::cleanAll(
+        std::move(items), false, platform_,
+        [this, sender = calls_.sender()](const auto&) { sender.post([this] { scanAnew(); }); }, removal);
 }
 
 namespace {
@@ -69,9 +71,16 @@ void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
         if (done) calls_.sender().post([done = std::move(done)] { done({}); });
         return;
     }
-    auto work = [this, sender = calls_.sender(), &trash = platform_.trash, leaving, done = std::move(done)]() mutable {
+    auto work = [this, sender = calls_.sender(), &trash = platform_.trash, leaving, done = std::move(done),
+                 removal = removals_.begin(leaving->items.size())]() mutable {
         for (const Leaving::Item& item : leaving->items) {
-            if (trash.trash(item.place)) continue;
+            if (!removal->mayBegin()) {
+                removal->noteSkipped();
+                continue;
+            }
+            const bool stays = trash.trash(item.place).has_value();
+            removal->noteDone();
+            if (stays) continue;
             sender.post([this, leaving, &item] {
                 const std::string path = item.node->fullPath();
                 if (ScanTask* walk = walkUnderWay()) walk->trashedFolders.insert(path);
@@ -121,8 +130,12 @@ void AppModel::trashLargeFile(const std::string& path) {
     const std::string_view root = rootAbove(path);
     const std::optional<ItemPath> item = root.empty() ? std::nullopt : ItemPath::below(root, path);
     if (!item) return;
-    auto work = [this, sender = calls_.sender(), &trash = platform_.trash, item = *item, path] {
-        if (trash.trash(item)) return;
+    auto work = [this, sender = calls_.sender(), &trash = platform_.trash, item = *item, path,
+                 removal = removals_.begin(1)] {
+        if (!removal->mayBegin()) return removal->noteSkipped();
+        const bool stays = trash.trash(item).has_value();
+        removal->noteDone();
+        if (stays) return;
         sender.post([this, path] { dropLargeFile(path); });
     };
     platform_.tasks.run(TaskPriority::userInitiated, std::move(work));

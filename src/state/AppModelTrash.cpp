@@ -45,8 +45,10 @@ void AppModel::refreshTrash() {
 void AppModel::emptyTrash() {
     if (emptyingTrash_) return;
     assign(emptyingTrash_, true, &AppModel::emptyingTrashChanged);
-    auto work = [this, sender = calls_.sender(), &files = platform_.files, &trash = platform_.trash] {
-        Cleaner::emptyTrashContents(trash);
+    auto work = [this, sender = calls_.sender(), &files = platform_.files, &trash = platform_.trash,
+                 removal = removals_.begin(1)] {
+        if (removal->mayBegin()) Cleaner::emptyTrashContents(trash);
+        removal->noteDone();
         sender.post([this, bytes = Cleaner::measureTrash(files, trash)] {
             takeTrashMeasure(bytes);
             assign(emptyingTrash_, false, &AppModel::emptyingTrashChanged);

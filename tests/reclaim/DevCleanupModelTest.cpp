@@ -37,7 +37,8 @@ protected:
     }
 
     fakes::FakePlatform machine;
-    DevCleanupModel model{machine.platform()};
+    Removals removals;
+    DevCleanupModel model{machine.platform(), removals};
 };
 
 }  // namespace
@@ -102,13 +103,60 @@ TEST_F(Cleanup, aSecondCleaningWaitsForNobodyAndDoesNothing) {
 }
 
 TEST_F(Cleanup, theModelMayGoWhileItCleans) {
-    auto other = std::make_unique<DevCleanupModel>(machine.platform());
+    auto other = std::make_unique<DevCleanupModel>(machine.platform(), removals);
     machine.tasks.hold();
     other->clean({item("/home/me/a", 10)}, false);
     other.reset();
     machine.tasks.release();
     runWhatIsThere();
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a"));
+}
+
+TEST_F(Cleanup, isUnderWayAmongTheRemovalsWhileItCleans) {
+    machine.tasks.hold();
+    model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
+    EXPECT_TRUE(removals.underWay());
+    EXPECT_EQ(model.progress(), (Removals::Progress{0, 2}));
+    machine.tasks.runNext();
+    machine.tasks.runNext();
+    EXPECT_EQ(model.progress(), (Removals::Progress{1, 2}));
+    machine.tasks.release();
+    runUntil([&] { return !removals.underWay(); });
+    EXPECT_FALSE(model.isCleaning()) << "the results come first";
+    EXPECT_EQ(model.progress(), (Removals::Progress{2, 2}));
+}
+
+TEST_F(Cleanup, tellsOfItsOwnProgressOnly) {
+    int told = 0;
+    QObject::connect(&model, &DevCleanupModel::progressChanged, &model, [&] { ++told; });
+    int all = 0;
+    QObject::connect(&removals, &Removals::progressChanged, &removals, [&] { ++all; });
+    const auto other = removals.begin(2);
+    other->noteDone();
+    runUntil([&] { return all == 1; });
+    EXPECT_EQ(told, 0);
+    EXPECT_EQ(model.progress(), Removals::Progress());
+    machine.tasks.hold();
+    model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
+    machine.tasks.runNext();
+    machine.tasks.runNext();
+    runUntil([&] { return all == 2; });
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(model.progress(), (Removals::Progress{1, 2}));
+    machine.tasks.release();
+}
+
+TEST_F(Cleanup, aStoppedOneTellsWhatStayed) {
+    machine.tasks.hold();
+    model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
+    machine.tasks.runNext();
+    machine.tasks.runNext();
+    removals.stop();
+    machine.tasks.release();
+    runUntil([&] { return !model.isCleaning(); });
+    EXPECT_EQ(model.reclaimedBytes(), 10);
+    ASSERT_EQ(model.lastResults().size(), 2U);
+    EXPECT_TRUE(std::holds_alternative<Cleaner::Skipped>(model.lastResults()[1].status));
 }
 
 }  // namespace zelk

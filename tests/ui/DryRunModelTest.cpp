@@ -56,7 +56,8 @@ protected:
     }
 
     fakes::FakePlatform machine;
-    DevCleanupModel cleanup{machine.platform()};
+    Removals removals;
+    DevCleanupModel cleanup{machine.platform(), removals};
     std::vector<std::string> events;
 
 private:
@@ -437,6 +438,30 @@ TEST_F(DryRun, hostileNamesAreShownRepaired) {
     EXPECT_THAT(text(0, DryRunRows::nameRole), HasSubstr("\xEF\xBF\xBD"));
     cleanNow();
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a\nb/c\xFF"));
+}
+
+TEST_F(DryRun, theTrashIsAmongTheRemovalsWhileItIsEmptied) {
+    open(three());
+    cleanNow();
+    runUntil([&] { return !removals.underWay(); });
+    machine.tasks.hold();
+    sheet().emptyTrash();
+    EXPECT_TRUE(removals.underWay());
+    machine.tasks.release();
+    runUntil([&] { return !removals.underWay(); });
+}
+
+TEST_F(DryRun, aTrashThatIsStoppedInTimeIsNotEmptied) {
+    machine.trash.put("old.zip", 7);
+    open({item("/home/me/a/yarn", 5)});
+    cleanNow();
+    runUntil([&] { return !removals.underWay(); });
+    machine.tasks.hold();
+    sheet().emptyTrash();
+    removals.stop();
+    machine.tasks.release();
+    runUntil([&] { return !sheet().emptyingTrash(); });
+    EXPECT_THAT(machine.trash.list(), testing::Optional(Contains(machine.trash.path + "/old.zip")));
 }
 
 }  // namespace zelk

@@ -117,8 +117,9 @@ void DryRunModel::emptyTrash() {
     if (!emptyable() || emptyingTrash_ || left_) return;
     emptyingTrash_ = true;
     emit phaseChanged();
-    auto empty = [this, sender = calls_.sender(), &trash = platform_.trash] {
-        Cleaner::emptyTrashContents(trash);
+    auto empty = [this, sender = calls_.sender(), &trash = platform_.trash, removal = model_.removals().begin(1)] {
+        if (removal->mayBegin()) Cleaner::emptyTrashContents(trash);
+        removal->noteDone();
         sender.post([this] {
             emptyingTrash_ = false;
             trashEmptied_ = true;

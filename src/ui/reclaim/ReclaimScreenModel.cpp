@@ -23,7 +23,7 @@ ModuleTexts texts() {
 ReclaimScreenModel::ReclaimScreenModel(AppModel& app)
     : SurveyedModule(app, Screen::reclaim, texts()),
       app_(app),
-      cleanup_(app.platform()),
+      cleanup_(app.platform(), app.removals()),
       categories_(app, [this](const std::vector<Reclaimable>& items) { reviewCategories(items); }),
       items_(app, cleanup_) {
     connect(&app, &AppModel::reclaimablesChanged, this, [this] {

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "reclaim/Removals.h"
+
+#include <algorithm>
+
+namespace zelk {
+
+namespace {
+
+constexpr int calmInterval = 500;  // milliseconds
+
+}  // namespace
+
+Removals::Removals() {
+    timer_.setInterval(calmInterval);
+    connect(&timer_, &QTimer::timeout, this, &Removals::tellProgress);
+}
+
+std::shared_ptr<Removal> Removals::begin(std::size_t items) {
+    auto removal = std::make_shared<Removal>(items, [this, sender = calls_.sender()](const Removal& ended) {
+        sender.post([this, &ended] { end(ended); });  // it is kept here until then
+    });
+    if (stopping_) removal->stop();
+    if (items == 0) return removal;
+    running_.push_back(removal);
+    if (running_.size() > 1) return removal;
+    told_ = {};
+    timer_.start();
+    emit underWayChanged();
+    return removal;
+}
+
+Removals::Progress Removals::progress() const {
+    Progress all;
+    for (const std::shared_ptr<Removal>& removal : running_) {
+        all.done += removal->done();
+        all.items += removal->items();
+    }
+    return all;
+}
+
+void Removals::stop() {
+    if (!underWay()) return;
+    stopping_ = true;
+    for (const std::shared_ptr<Removal>& removal : running_) removal->stop();
+}
+
+void Removals::end(const Removal& removal) {
+    std::erase_if(running_, [&](const std::shared_ptr<Removal>& one) { return one.get() == &removal; });
+    if (underWay()) return;
+    stopping_ = false;
+    timer_.stop();
+    emit underWayChanged();
+}
+
+void Removals::tellProgress() {
+    const Progress now = progress();
+    if (now == told_) return;
+    told_ = now;
+    emit progressChanged();
+}
+
+}  // namespace zelk

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "reclaim/Removals.h"
+
+#include <gtest/gtest.h>
+
+#include <QTimer>
+#include <thread>
+
+#include "fakes/EventLoop.h"
+
+namespace zelk {
+
+namespace {
+
+using Progress = Removals::Progress;
+
+class RemovalsUnderWay : public testing::Test {
+protected:
+    RemovalsUnderWay() {
+        QObject::connect(&removals, &Removals::underWayChanged, &removals, [this] { ++turns; });
+        QObject::connect(&removals, &Removals::progressChanged, &removals, [this] { ++told; });
+    }
+
+    static void noteAll(Removal& removal) {
+        for (std::size_t item = 0; item < removal.items(); ++item) removal.noteDone();
+        runWhatIsThere();
+    }
+
+    /// For as long as it takes to look at the progress twice.
+    void lookAgain() {
+        bool later = false;
+        QTimer::singleShot(1'200, &removals, [&] { later = true; });
+        runUntil([&] { return later; });
+    }
+
+    Removals removals;
+    int turns = 0;
+    int told = 0;
+};
+
+}  // namespace
+
+TEST_F(RemovalsUnderWay, noneIsAtFirst) {
+    EXPECT_FALSE(removals.underWay());
+    EXPECT_FALSE(removals.stopping());
+    EXPECT_EQ(removals.progress(), (Progress{0, 0}));
+}
+
+TEST_F(RemovalsUnderWay, oneIsUntilEachOfItsItemsWasNoted) {
+    const auto removal = removals.begin(2);
+    EXPECT_TRUE(removals.underWay());
+    EXPECT_EQ(turns, 1);
+    removal->noteDone();
+    runWhatIsThere();
+    EXPECT_TRUE(removals.underWay());
+    removal->noteSkipped();
+    runWhatIsThere();
+    EXPECT_FALSE(removals.underWay());
+    EXPECT_EQ(turns, 2);
+}
+
+TEST_F(RemovalsUnderWay, theEndComesToTheMainThread) {
+    const auto removal = removals.begin(1);
+    std::thread([&] { removal->noteDone(); }).join();
+    EXPECT_TRUE(removals.underWay());
+    runWhatIsThere();
+    EXPECT_FALSE(removals.underWay());
+}
+
+TEST_F(RemovalsUnderWay, severalAreUntilTheLastHasEnded) {
+    const auto first = removals.begin(3);
+    const auto second = removals.begin(1);
+    noteAll(*first);
+    EXPECT_TRUE(removals.underWay());
+    EXPECT_EQ(removals.progress(), (Progress{0, 1})) << "what has ended is no longer counted";
+    noteAll(*second);
+    EXPECT_FALSE(removals.underWay());
+    EXPECT_EQ(turns, 2);
+}
+
+TEST_F(RemovalsUnderWay, oneOfNothingNeverIs) {
+    removals.begin(0);
+    EXPECT_FALSE(removals.underWay());
+    EXPECT_EQ(turns, 0);
+}
+
+TEST_F(RemovalsUnderWay, theirProgressIsThatOfAllTogether) {
+    const auto first = removals.begin(3);
+    const auto second = removals.begin(5);
+    first->noteDone();
+    second->noteDone();
+    second->noteDone();
+    EXPECT_EQ(removals.progress(), (Progress{3, 8}));
+}
+
+TEST_F(RemovalsUnderWay, whatIsSkippedIsNotDone) {
+    const auto removal = removals.begin(3);
+    removal->noteSkipped();
+    removal->noteDone();
+    EXPECT_EQ(removal->done(), 1U);
+    EXPECT_EQ(removals.progress(), (Progress{1, 3}));
+}
+
+TEST_F(RemovalsUnderWay, aThousandItemsAtOnceAreToldOnce) {
+    const auto removal = removals.begin(2'000);
+    for (int item = 0; item < 1'000; ++item) removal->noteDone();
+    EXPECT_EQ(told, 0);
+    runUntil([&] { return told > 0; });
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(removals.progress(), (Progress{1'000, 2'000}));
+    lookAgain();
+    EXPECT_EQ(told, 1) << "nothing new is not told again";
+    removal->noteDone();
+    runUntil([&] { return told > 1; });
+}
+
+TEST_F(RemovalsUnderWay, theNextIsToldFromItsBeginningOn) {
+    for (int time = 1; time <= 2; ++time) {
+        const auto removal = removals.begin(2);
+        removal->noteDone();
+        runUntil([&] { return told == time; });
+        removal->noteDone();
+        runUntil([&] { return !removals.underWay(); });
+    }
+    lookAgain();
+    EXPECT_EQ(told, 2) << "there is nothing to tell of any more";
+}
+
+TEST_F(RemovalsUnderWay, aStopLetsNoFurtherItemBegin) {
+    const auto first = removals.begin(1);
+    const auto second = removals.begin(1);
+    EXPECT_TRUE(first->mayBegin());
+    removals.stop();
+    EXPECT_TRUE(removals.stopping());
+    EXPECT_FALSE(first->mayBegin());
+    EXPECT_FALSE(second->mayBegin());
+    EXPECT_TRUE(removals.underWay()) << "what has begun goes on";
+}
+
+TEST_F(RemovalsUnderWay, whatBeginsBehindAStopIsStoppedUntilAllHasEnded) {
+    const auto first = removals.begin(1);
+    removals.stop();
+    const auto second = removals.begin(1);
+    EXPECT_FALSE(second->mayBegin());
+    noteAll(*first);
+    EXPECT_TRUE(removals.stopping());
+    noteAll(*second);
+    EXPECT_FALSE(removals.stopping());
+    EXPECT_TRUE(removals.begin(1)->mayBegin());
+}
+
+TEST_F(RemovalsUnderWay, aStopOfNothingIsNotKept) {
+    removals.stop();
+    EXPECT_FALSE(removals.stopping());
+    EXPECT_TRUE(removals.begin(1)->mayBegin());
+}
+
+TEST_F(RemovalsUnderWay, theListMayGoBeforeThem) {
+    auto list = std::make_unique<Removals>();
+    const auto removal = list->begin(1);
+    list.reset();
+    noteAll(*removal);
+    EXPECT_EQ(removal->done(), 1U);
+}
+
+}  // namespace zelk
