@@ -440,6 +440,26 @@ TEST_F(DryRun, hostileNamesAreShownRepaired) {
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a\nb/c\xFF"));
 }
 
+TEST_F(DryRun, tellsHowManyOfHowManyAreDone) {
+    DryRunModel& sheet = open(three());
+    EXPECT_EQ(sheet.share(), 0);
+    EXPECT_EQ(sheet.progress(), QString());
+    int told = 0;
+    QObject::connect(&sheet, &DryRunModel::progressChanged, &sheet, [&] { ++told; });
+    machine.tasks.hold();
+    sheet.confirm();
+    EXPECT_EQ(told, 1) << "what was told of an earlier one is over";
+    EXPECT_EQ(sheet.share(), 0);
+    EXPECT_EQ(sheet.progress(), QStringLiteral("0 of 3"));
+    for (int run = 0; run < 3; ++run) machine.tasks.runNext();
+    runUntil([&] { return told == 2; });
+    EXPECT_DOUBLE_EQ(sheet.share(), 2 / 3.0);
+    EXPECT_EQ(sheet.progress(), QStringLiteral("2 of 3"));
+    machine.tasks.release();
+    runUntil([&] { return sheet.isDone(); });
+    EXPECT_EQ(sheet.progress(), QString());
+}
+
 TEST_F(DryRun, theTrashIsAmongTheRemovalsWhileItIsEmptied) {
     open(three());
     cleanNow();

@@ -17,6 +17,7 @@ DryRunModel::DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items,
         phase_ = Phase::done;
         emit phaseChanged();
     });
+    connect(&model, &DevCleanupModel::progressChanged, this, &DryRunModel::progressChanged);
 }
 
 QString DryRunModel::title() const {
@@ -58,6 +59,18 @@ QString DryRunModel::confirmLabel() const {
 
 QString DryRunModel::cleaningLabel() const {
     return QStringLiteral("Cleaning…");
+}
+
+double DryRunModel::share() const {
+    if (!isCleaning()) return 0;
+    const Removals::Progress now = model_.progress();
+    return now.items == 0 ? 0 : static_cast<double>(now.done) / static_cast<double>(now.items);
+}
+
+QString DryRunModel::progress() const {
+    if (!isCleaning()) return {};
+    const Removals::Progress now = model_.progress();
+    return QStringLiteral("%1 of %2").arg(now.done).arg(now.items);
 }
 
 QColor DryRunModel::resultTint() const {
@@ -111,6 +124,7 @@ void DryRunModel::confirm() {
     phase_ = Phase::cleaning;
     emit phaseChanged();
     model_.clean(rows_.items(), hardDelete_);
+    emit progressChanged();
 }
 
 void DryRunModel::emptyTrash() {

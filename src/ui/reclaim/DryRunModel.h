@@ -34,6 +34,8 @@ class DryRunModel : public QObject {
     Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT FINAL)
     Q_PROPERTY(QString confirmLabel READ confirmLabel NOTIFY hardDeleteChanged FINAL)
     Q_PROPERTY(QString cleaningLabel READ cleaningLabel CONSTANT FINAL)
+    Q_PROPERTY(double share READ share NOTIFY progressChanged FINAL)
+    Q_PROPERTY(QString progress READ progress NOTIFY progressChanged FINAL)
     Q_PROPERTY(bool confirmable READ confirmable NOTIFY phaseChanged FINAL)
     Q_PROPERTY(QColor resultTint READ resultTint CONSTANT FINAL)
     Q_PROPERTY(QString heading READ heading NOTIFY phaseChanged FINAL)
@@ -75,6 +77,10 @@ public:
     QString cancelLabel() const;
     QString confirmLabel() const;
     QString cleaningLabel() const;
+    /// How much of it is done, from 0 to 1.
+    double share() const;
+    /// The same as a screen reader says it: "12 of 40".
+    QString progress() const;
     bool confirmable() const { return isReview() && !rows_.items().empty(); }
 
     QColor resultTint() const;
@@ -104,6 +110,8 @@ public slots:
 signals:
     void phaseChanged();
     void hardDeleteChanged();
+    /// At a rate that can be read out.
+    void progressChanged();
 
 private:
     DevCleanupModel& model_;

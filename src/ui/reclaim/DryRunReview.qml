@@ -75,6 +75,18 @@ FocusScope {
         dryRun: review.dryRun
     }
 
+    ShareBar {
+        objectName: "cleaningBar"
+        anchors.left: parent.left
+        anchors.right: buttons.left
+        anchors.rightMargin: 20
+        anchors.verticalCenter: buttons.verticalCenter
+        visible: review.dryRun.cleaning
+        value: review.dryRun.share
+        name: review.dryRun.cleaningLabel
+        progress: review.dryRun.progress
+    }
+
     Row {
         id: buttons
 

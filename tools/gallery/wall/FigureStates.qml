@@ -117,6 +117,21 @@ Section {
         ModuleProgressBar {
             tint: "#e85bc4"
         }
+        ShareBar {
+            name: "Cleaning…"
+            value: 0
+            progress: "0 of 40"
+        }
+        ShareBar {
+            name: "Cleaning…"
+            value: 0.3
+            progress: "12 of 40"
+        }
+        ShareBar {
+            name: "Cleaning…"
+            value: 1
+            progress: "40 of 40"
+        }
         CountingText {
             text: "178.12 GB"
         }
