@@ -23,7 +23,8 @@
 //   ui/clutter/  the heaviest files
 //   ui/explanation/  what a path is, and whether it may go
 //   ui/tools/, ui/settings/, ui/help/, ui/welcome/  the screens of fixed texts, and the first run
-//   ui/shell/    Shell: the main window and those beside it, the menus (AppCommands), the status item (StatusMenu)
+//   ui/shell/    Shell: the main window and those beside it, the menus (AppCommands), the status item (StatusMenu), the
+//                question before an end that comes too soon (QuitQuestion)
 //   app/         this file: makes the platform, the model and the shell, and nothing else
 //
 // Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures.
@@ -36,8 +37,10 @@
 #include "state/SettingsPreferences.h"
 #include "system/AccessProbe.h"
 #include "ui/shell/Application.h"
+#include "ui/shell/EndSignals.h"
 #include "ui/shell/FolderPicker.h"
 #include "ui/shell/NativeApplication.h"
+#include "ui/shell/QuitQuestion.h"
 #include "ui/shell/Shell.h"
 
 namespace {
@@ -66,6 +69,7 @@ int main(int argc, char** argv) {
         services.quit = &QCoreApplication::quit;
         services.bundle = zelk::applicationBundle();
         zelk::Shell shell(model, services);
+        const zelk::EndSignals signals([&] { shell.main().quitQuestion().quitUnasked(); });
         shell.start();
         status = QApplication::exec();
     }

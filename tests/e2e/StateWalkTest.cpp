@@ -263,4 +263,23 @@ TEST_F(ReclaimWalk, theLastLookAndWhatBecameOfIt) {
     inEverySize("what became of it");
 }
 
+TEST_F(ReclaimWalk, aCleanUpUnderWayAndTheQuestionBeforeTheEnd) {
+    click("reviewButton");
+    runUntil([&] { return find("confirmCleanup") != nullptr && find("confirmCleanup")->isEnabled(); });
+    machine.tasks.hold();
+    click("confirmCleanup");
+    machine.tasks.runNext();
+    machine.tasks.runNext();
+    window().grabWindow();
+    ASSERT_NE(find("cleaningBar"), nullptr);
+    inEverySize("at work");
+    press(Qt::Key_Q, Qt::ControlModifier);
+    runUntil([&] { return find("finishFirst") != nullptr; });
+    inEverySize("the question");
+    click("stopNow");
+    inEverySize("stopping");
+    machine.tasks.release();
+    runUntil([&] { return quits == 1; });
+}
+
 }  // namespace zelk

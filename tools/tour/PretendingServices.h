@@ -3,6 +3,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <cstddef>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -23,7 +24,12 @@ enum class TrashContents { real, none, locked };
 /// of a failure is wanted. From any thread.
 class Pretence {
 public:
-    void hold() { set(held_, true); }
+    /// After so many more have passed.
+    void hold(std::size_t passing = 0) {
+        const std::lock_guard lock(mutex_);
+        held_ = true;
+        passing_ = passing;
+    }
     void release() { set(held_, false); }
     void fail(bool failing) { set(failing_, failing); }
     void setTrash(TrashContents contents) { set(trash_, contents); }
@@ -33,7 +39,8 @@ public:
     /// Whether the deed went well.
     bool pass() {
         std::unique_lock lock(mutex_);
-        changed_.wait(lock, [this] { return !held_; });
+        changed_.wait(lock, [this] { return !held_ || passing_ > 0; });
+        if (passing_ > 0) --passing_;
         return !failing_;
     }
 
@@ -56,6 +63,7 @@ private:
     std::mutex mutex_;
     std::condition_variable changed_;
     bool held_ = false;
+    std::size_t passing_ = 0;
     bool failing_ = false;
     TrashContents trash_ = TrashContents::real;
     double daysBack_ = 0;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <QDir>
 #include <QFile>
+#include <QQuickItem>
 #include <QTemporaryDir>
 
 #include "Camera.h"
 #include "Tour.h"
 #include "ui/reclaim/ReclaimScreenModel.h"
+#include "ui/shell/QuitQuestion.h"
 
 namespace zelk::tour {
 
@@ -112,10 +114,18 @@ bool Tour::cleanUp() {
     if (!clickOn(window, QStringLiteral("permanentSwitch"))) return missed("the switch");
     if (!picture(QStringLiteral("clean-up-permanent"))) return false;
     clickOn(window, QStringLiteral("permanentSwitch"));
-    pretence_.hold();
+    // Half of it is done while the pictures are taken.
+    const std::size_t half = window_.reclaim().dryRun()->rows()->items().size() / 2;
+    pretence_.hold(half);
     pretence_.fail(true);
     if (!clickOn(window, QStringLiteral("confirmCleanup"))) return missed("the confirmation");
-    const bool cleaning = picture(QStringLiteral("clean-up-cleaning"));
+    const QQuickItem* bar = findControl(window, QStringLiteral("cleaningBar"));
+    waitUntil([&] { return half == 0 || bar->property("value").toDouble() > 0; });
+    bool cleaning = picture(QStringLiteral("clean-up-cleaning"));
+    window_.quitQuestion().quit();
+    if (!appears(window, "finishFirst")) return missed("the question before the end");
+    cleaning = cleaning && picture(QStringLiteral("clean-up-quit"));
+    pressKey(window, Qt::Key_Escape);
     pretence_.release();
     waitUntil([&] { return appears(window, "keepInTrash"); });
     if (!cleaning || !picture(QStringLiteral("clean-up-skipped"))) return false;
@@ -127,7 +137,10 @@ bool Tour::cleanUp() {
     if (!picture(QStringLiteral("clean-up-done"))) return false;
     pretence_.hold();
     if (!clickOn(window, QStringLiteral("emptyTrash"))) return missed("the emptying");
-    const bool emptying = picture(QStringLiteral("clean-up-emptying"));
+    bool emptying = picture(QStringLiteral("clean-up-emptying"));
+    window_.quitQuestion().quit();
+    if (!appears(window, "stopNow") || !clickOn(window, QStringLiteral("stopNow"))) return missed("the stop");
+    emptying = emptying && picture(QStringLiteral("clean-up-stopping"));
     pretence_.release();
     waitUntil([&] { return appears(window, "cleanupDone"); });
     if (!emptying || !picture(QStringLiteral("clean-up-emptied"))) return false;

@@ -17,6 +17,7 @@
 #include "ui/shell/AppCommands.h"
 #include "ui/shell/Application.h"
 #include "ui/shell/DetailPages.h"
+#include "ui/shell/QuitQuestion.h"
 #include "ui/shell/RootModel.h"
 #include "ui/survey/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
@@ -71,15 +72,20 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
     followMotion();
 
     secondary_ = std::make_unique<SecondaryWindows>(engine_, [this](WindowId id) { return givenTo(id); });
+    quitQuestion_ = std::make_unique<QuitQuestion>(app.removals(), services_.quit);
     commands_ = std::make_unique<AppCommands>(
-        app, [this](WindowId id) { secondary_->open(id); }, services_.quit,
+        app, [this](WindowId id) { secondary_->open(id); }, [this] { quitQuestion_->quit(); },
         [this] { return window_ && isCovered(*window_); });
     pages_ = std::make_unique<DetailPages>(app, makePages());
     if (services_.preferences != nullptr && services_.workspace != nullptr)
         firstRun_ =
             std::make_unique<FirstRunModel>(*services_.preferences, services_.accessGranted, *services_.workspace);
-    root_ = std::make_unique<RootModel>(*sidebar_, *pages_, *commands_, firstRun_.get());
+    root_ = std::make_unique<RootModel>(*sidebar_, *pages_, *commands_, *quitQuestion_, firstRun_.get());
     window_ = makeWindow(engine_, QStringLiteral("MainWindow"), as("root", root_.get()));
+    // It may be closed or folded away while somebody quits by the status item.
+    QObject::connect(quitQuestion_.get(), &QuitQuestion::changed, root_.get(), [this] {
+        if (quitQuestion_->asking()) bringForward(*window_);
+    });
     afterNextFrame([this] {
         root_->fill();
         afterNextFrame([this] {

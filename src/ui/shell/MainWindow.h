@@ -27,6 +27,7 @@ class LensScreenModel;
 class ModuleScreenModel;
 class Motion;
 class Preferences;
+class QuitQuestion;
 class ReclaimScreenModel;
 class RootModel;
 class SettingsScreenModel;
@@ -75,6 +76,8 @@ public:
     ReclaimScreenModel& reclaim() { return *reclaim_; }
     SidebarModel& sidebar() { return *sidebar_; }
     AppCommands& commands() { return *commands_; }
+    /// By which every way out goes.
+    QuitQuestion& quitQuestion() { return *quitQuestion_; }
     Motion& motion() { return *motion_; }
     TextScale& textScale() { return *textScale_; }
 
@@ -98,6 +101,7 @@ private:
     std::unique_ptr<AboutModel> about_;
     std::unique_ptr<FirstRunModel> firstRun_;
     std::vector<std::unique_ptr<ModuleScreenModel>> modules_;
+    std::unique_ptr<QuitQuestion> quitQuestion_;
     std::unique_ptr<DetailPages> pages_;
     std::unique_ptr<AppCommands> commands_;
     std::unique_ptr<RootModel> root_;

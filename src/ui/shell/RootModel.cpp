@@ -5,8 +5,9 @@
 
 namespace zelk {
 
-RootModel::RootModel(SidebarModel& sidebar, DetailPages& pages, AppCommands& commands, FirstRunModel* firstRun)
-    : sidebar_(sidebar), pages_(pages), commands_(commands), firstRun_(firstRun) {
+RootModel::RootModel(SidebarModel& sidebar, DetailPages& pages, AppCommands& commands, QuitQuestion& quitQuestion,
+                     FirstRunModel* firstRun)
+    : sidebar_(sidebar), pages_(pages), commands_(commands), quitQuestion_(quitQuestion), firstRun_(firstRun) {
     if (firstRun_ == nullptr) return;
     connect(firstRun_, &FirstRunModel::changed, this, &RootModel::followFirstRun);
     followFirstRun();

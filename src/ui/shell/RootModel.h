@@ -9,6 +9,7 @@
 #include "ui/navigation/SidebarModel.h"
 #include "ui/shell/AppCommands.h"
 #include "ui/shell/DetailPages.h"
+#include "ui/shell/QuitQuestion.h"
 
 namespace zelk {
 
@@ -23,6 +24,7 @@ class RootModel : public QObject {
     Q_PROPERTY(zelk::SidebarModel* sidebar READ sidebar CONSTANT FINAL)
     Q_PROPERTY(zelk::DetailPages* pages READ pages CONSTANT FINAL)
     Q_PROPERTY(zelk::AppCommands* commands READ commands CONSTANT FINAL)
+    Q_PROPERTY(zelk::QuitQuestion* quitQuestion READ quitQuestion CONSTANT FINAL)
     Q_PROPERTY(bool menusInWindow READ menusInWindow CONSTANT FINAL)
     Q_PROPERTY(bool filled READ filled NOTIFY filledChanged FINAL)
     Q_PROPERTY(bool firstRun READ firstRun NOTIFY firstRunChanged FINAL)
@@ -30,12 +32,14 @@ class RootModel : public QObject {
 
 public:
     /// All must outlive it; `firstRun` may be absent, and then nothing stands before the window.
-    RootModel(SidebarModel& sidebar, DetailPages& pages, AppCommands& commands, FirstRunModel* firstRun);
+    RootModel(SidebarModel& sidebar, DetailPages& pages, AppCommands& commands, QuitQuestion& quitQuestion,
+              FirstRunModel* firstRun);
 
     QString title() const;
     SidebarModel* sidebar() { return &sidebar_; }
     DetailPages* pages() { return &pages_; }
     AppCommands* commands() { return &commands_; }
+    QuitQuestion* quitQuestion() { return &quitQuestion_; }
     /// Where the system has no menu bar of its own.
     bool menusInWindow() const;
 
@@ -58,6 +62,7 @@ private:
     SidebarModel& sidebar_;
     DetailPages& pages_;
     AppCommands& commands_;
+    QuitQuestion& quitQuestion_;
     FirstRunModel* firstRun_;
     bool filled_ = false;
     bool firstRunShown_ = false;

@@ -45,4 +45,11 @@ FocusScope {
         active: rootView.root.firstRun
         Component.onCompleted: setSource(rootView.root.firstRunView, rootView.root.firstRunGiven())
     }
+
+    Loader {
+        active: rootView.root.quitQuestion.asked
+        Component.onCompleted: setSource("QuitSheet.qml", {
+            "question": rootView.root.quitQuestion
+        })
+    }
 }

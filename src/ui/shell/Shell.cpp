@@ -1,26 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/Shell.h"
 
+#include <QEvent>
 #include <QGuiApplication>
+#include <QSessionManager>
 
 #include "ui/shell/Application.h"
 #include "ui/shell/NativeApplication.h"
 #include "ui/shell/NativeMenuBar.h"
+#include "ui/shell/QuitQuestion.h"
 #include "ui/shell/RootModel.h"
 
 namespace zelk {
 
 Shell::Shell(AppModel& app, const WindowServices& services)
-    : quit_(services.quit),
-      main_(app, services),
+    : main_(app, services),
       statusMenu_(
-          app, [this] { openZelk(); }, services.quit),
+          app, [this] { openZelk(); }, [this] { main_.quitQuestion().quit(); }),
       statusItem_(statusMenu_, services.tray()) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
 #ifdef Q_OS_MACOS
     menuBar_ = makeNativeMenuBar(main_.commands());
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &Shell::followApplicationState);
 #endif
+    qGuiApp->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
+        QuitQuestion& question = main_.quitQuestion();
+        if (question.holds() && question.endSession(session.allowsInteraction())) session.cancel();
+    });
     connect(&main_.window(), &QWindow::visibleChanged, this, &Shell::followMainWindow);
     connect(&statusItem_, &StatusItem::presentChanged, this, &Shell::followStatusItem);
     // The first frames are the person's; to draw the icon and to ask the desktop for a tray come behind them.
@@ -34,6 +41,7 @@ Shell::Shell(AppModel& app, const WindowServices& services)
 
 /// The window hides once more as it is destroyed, when the parts that would be asked are gone already.
 Shell::~Shell() {
+    qGuiApp->removeEventFilter(this);
     main_.window().disconnect(this);
 }
 
@@ -55,7 +63,19 @@ void Shell::followApplicationState(Qt::ApplicationState state) {
 }
 
 void Shell::followMainWindow(bool visible) {
-    if (!visible && !statusItem_.present()) quit_();
+    if (!visible && !statusItem_.present()) main_.quitQuestion().quit();
+}
+
+/// What the system or the desktop wants to end, and the press that closes the main window where that is the end: held
+/// back until the person has said how.
+bool Shell::eventFilter(QObject* watched, QEvent* event) {
+    const bool ends = event->type() == QEvent::Quit
+                          ? watched == qGuiApp
+                          : event->type() == QEvent::Close && watched == &main_.window() && !statusItem_.present();
+    if (!ends || !main_.quitQuestion().holds()) return QObject::eventFilter(watched, event);
+    event->ignore();
+    main_.quitQuestion().quit();
+    return true;
 }
 
 /// A status item that goes leaves nobody without a way in: then the main window comes back.

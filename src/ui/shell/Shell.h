@@ -13,8 +13,8 @@
 namespace zelk {
 
 /// The running application: its windows, its status item, and when it ends. A window that is closed ends nothing as
-/// long as the status item is there to reach the application by; without one, the main window's end is the end. Main
-/// thread, with a QApplication.
+/// long as the status item is there to reach the application by; without one, the main window's end is the end. Before
+/// every end that would come while something is being removed, the main window asks. Main thread, with a QApplication.
 class Shell : public QObject {
     Q_OBJECT
 
@@ -28,13 +28,15 @@ public:
     MainWindow& main() { return main_; }
     StatusItem& statusItem() { return statusItem_; }
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void openZelk();
     void followApplicationState(Qt::ApplicationState state);
     void followMainWindow(bool visible);
     void followStatusItem();
 
-    std::function<void()> quit_;
     Reopening reopening_;
     MainWindow main_;
     StatusMenu statusMenu_;

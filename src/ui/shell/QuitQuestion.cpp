@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "ui/shell/QuitQuestion.h"
+
+#include <utility>
+
+#include "reclaim/Removals.h"
+
+namespace zelk {
+
+QuitQuestion::QuitQuestion(Removals& removals, std::function<void()> quit)
+    : removals_(removals), quit_(std::move(quit)) {
+    connect(&removals, &Removals::underWayChanged, this, &QuitQuestion::follow);
+}
+
+bool QuitQuestion::holds() const {
+    return removals_.underWay();
+}
+
+void QuitQuestion::quit() {
+    if (!holds()) return quit_();
+    if (!stopping()) go(Way::asking);
+}
+
+void QuitQuestion::quitUnasked() {
+    if (!holds()) return quit_();
+    removals_.stop();
+    go(Way::stopping);
+}
+
+bool QuitQuestion::endSession(bool mayAsk) {
+    if (!holds()) return false;
+    mayAsk ? quit() : quitUnasked();
+    return mayAsk;
+}
+
+QString QuitQuestion::title() const {
+    return QStringLiteral("Something is still being removed");
+}
+
+QString QuitQuestion::note() const {
+    return stopping() ? QStringLiteral("Nothing more begins. Zelk quits as soon as what has begun is finished.")
+                      : QStringLiteral(
+                            "Finish first, and Zelk quits by itself when everything is removed. Stop now, and what "
+                            "has begun is finished while the rest stays where it is.");
+}
+
+QString QuitQuestion::cancelLabel() const {
+    return QStringLiteral("Cancel");
+}
+
+QString QuitQuestion::stopLabel() const {
+    return QStringLiteral("Stop now");
+}
+
+QString QuitQuestion::finishLabel() const {
+    return QStringLiteral("Finish first");
+}
+
+void QuitQuestion::cancel() {
+    if (asking()) go(Way::none);
+}
+
+void QuitQuestion::finishFirst() {
+    if (asking()) go(Way::finishing);
+}
+
+void QuitQuestion::stopNow() {
+    if (!asking()) return;
+    removals_.stop();
+    go(Way::stopping);
+}
+
+void QuitQuestion::follow() {
+    if (holds()) return;
+    const bool leaving = way_ == Way::finishing || stopping();
+    go(Way::none);
+    if (leaving) quit_();
+}
+
+void QuitQuestion::go(Way way) {
+    if (way == way_) return;
+    way_ = way;
+    asked_ = asked_ || shown();
+    emit changed();
+}
+
+}  // namespace zelk

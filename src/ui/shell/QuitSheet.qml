@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// Asked before the application ends while something is being removed. Escape goes back to it.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Components
+import Zelk.Shell
+import Zelk.Theme
+
+Sheet {
+    id: sheet
+
+    required property QuitQuestion question
+
+    title: sheet.question.title
+    primary: finishButton
+    closable: sheet.question.asking
+    sheetWidth: Math.round(460 * TextScale.factor)
+    visible: sheet.question.shown
+    onDismissed: sheet.question.cancel()
+
+    FocusScope {
+        implicitHeight: page.implicitHeight
+        focus: true
+
+        Column {
+            id: page
+
+            width: parent.width
+            spacing: 8
+
+            Words {
+                width: parent.width
+                text: sheet.question.title
+                size: 17
+                font.weight: Font.DemiBold
+                wrapMode: Text.WordWrap
+                Accessible.role: Accessible.Heading
+            }
+
+            Words {
+                objectName: "quitNote"
+                width: parent.width
+                text: sheet.question.note
+                size: 12
+                soft: true
+                wrapMode: Text.WordWrap
+                lineHeight: 1.25
+            }
+
+            Item {
+                width: 1
+                height: 8
+            }
+
+            Row {
+                anchors.right: parent.right
+                spacing: 10
+
+                Spinner {
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: sheet.question.stopping
+                }
+
+                SecondaryButton {
+                    objectName: "cancelQuit"
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: sheet.question.cancelLabel
+                    enabled: sheet.question.asking
+                    onClicked: sheet.question.cancel()
+                }
+
+                SecondaryButton {
+                    objectName: "stopNow"
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: sheet.question.stopLabel
+                    enabled: sheet.question.asking
+                    onClicked: sheet.question.stopNow()
+                }
+
+                PrimaryButton {
+                    id: finishButton
+
+                    objectName: "finishFirst"
+                    horizontalPadding: 20
+                    verticalPadding: 10
+                    focus: true
+                    text: sheet.question.finishLabel
+                    enabled: sheet.question.asking
+                    onClicked: sheet.question.finishFirst()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+// The question before the application ends while something is being removed.
+#include "ViewFixture.h"
+#include "ui/shell/QuitQuestion.h"
+
+namespace zelk {
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class QuitWindow : public ViewFixture {
+protected:
+    ~QuitWindow() override { close(); }
+
+    /// A button has the keyboard when the question comes.
+    void ask(QSize size = {960, 620}) {
+        show(QStringLiteral("import QtQuick\nimport Zelk.Components\nimport Zelk.Shell\n"
+                            "FocusScope { id: top; required property QuitQuestion quitting; focus: true\n"
+                            "PrimaryButton { objectName: \"below\"; text: \"Below\"; focus: true }\n"
+                            "QuitSheet { question: top.quitting } }"),
+             size, {{QStringLiteral("quitting"), QVariant::fromValue(&question)}});
+        removal = model().removals().begin(1);
+        question.quit();
+        settle();
+    }
+    void endRemoval() {
+        removal->noteDone();
+        settle();
+    }
+
+    int quits = 0;
+    QuitQuestion question{model().removals(), [this] { ++quits; }};
+    std::shared_ptr<Removal> removal;
+};
+
+}  // namespace
+
+TEST_F(QuitWindow, isADialogWithItsTitleItsNoteAndItsAnswers) {
+    ask();
+    const auto texts = seenTexts();
+    for (const char* text : {"Something is still being removed", "Cancel", "Stop now", "Finish first"})
+        EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
+    EXPECT_EQ(find("quitNote")->property("text").toString(), question.note());
+    QQuickItem* inside = window().activeFocusItem();
+    bool dialog = false;
+    for (; inside != nullptr && !dialog; inside = inside->parentItem()) {
+        QAccessibleInterface* said = QAccessible::queryAccessibleInterface(inside);
+        dialog =
+            said != nullptr && said->role() == QAccessible::Dialog && said->text(QAccessible::Name) == question.title();
+    }
+    EXPECT_TRUE(dialog);
+    expectAllControlsNamed();
+}
+
+TEST_F(QuitWindow, theKeyboardIsOnFinishFirstAndGoesRound) {
+    ask();
+    EXPECT_EQ(focusName(), "Finish first");
+    const Names order = tabOrder();
+    for (const char* name : {"Finish first", "Cancel", "Stop now"})
+        EXPECT_EQ(std::count(order.begin(), order.end(), name), 1) << name;
+    EXPECT_EQ(std::count(order.begin(), order.end(), "Below"), 0);
+}
+
+TEST_F(QuitWindow, enterFinishesFirst) {
+    ask();
+    press(Qt::Key_Return);
+    EXPECT_FALSE(question.shown());
+    EXPECT_TRUE(removal->mayBegin());
+    EXPECT_EQ(find("finishFirst"), nullptr);
+    endRemoval();
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(QuitWindow, escapeAndCancelGoBackAndGiveTheKeyboardBack) {
+    ask();
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(question.shown());
+    EXPECT_TRUE(removal->mayBegin());
+    EXPECT_EQ(find("finishFirst"), nullptr);
+    EXPECT_EQ(focusName(), "Below");
+    question.quit();
+    settle();
+    click("cancelQuit");
+    EXPECT_FALSE(question.shown());
+    EXPECT_EQ(focusName(), "Below");
+    endRemoval();
+    EXPECT_EQ(quits, 0);
+}
+
+TEST_F(QuitWindow, stopNowStaysUntilTheLastItemHasEnded) {
+    ask();
+    click("stopNow");
+    EXPECT_FALSE(removal->mayBegin());
+    for (const char* button : {"cancelQuit", "stopNow", "finishFirst"}) EXPECT_FALSE(find(button)->isEnabled());
+    EXPECT_EQ(find("quitNote")->property("text").toString(), question.note());
+    press(Qt::Key_Escape);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(question.stopping());
+    EXPECT_NE(find("finishFirst"), nullptr);
+    endRemoval();
+    EXPECT_EQ(quits, 1);
+    EXPECT_EQ(find("finishFirst"), nullptr);
+}
+
+TEST_F(QuitWindow, goesByItselfWhenTheRemovalEnds) {
+    ask();
+    endRemoval();
+    EXPECT_EQ(find("finishFirst"), nullptr);
+    EXPECT_EQ(focusName(), "Below");
+    EXPECT_EQ(quits, 0);
+}
+
+TEST_F(QuitWindow, nothingIsClippedInLargeText) {
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    ask();
+    for (const bool stopping : {false, true}) {
+        if (stopping) click("stopNow");
+        QQuickItem* note = find("quitNote");
+        EXPECT_LE(note->property("contentHeight").toReal(), note->height() + 0.5);
+        for (const char* name : {"cancelQuit", "stopNow", "finishFirst"}) {
+            const QQuickItem* button = find(name);
+            EXPECT_TRUE(QRectF(0, 0, 960, 620).contains(button->mapRectToScene(button->boundingRect()))) << name;
+            EXPECT_GE(button->mapRectToScene(button->boundingRect()).left(),
+                      note->mapRectToScene(note->boundingRect()).left())
+                << name;
+        }
+    }
+}
+
+}  // namespace zelk
