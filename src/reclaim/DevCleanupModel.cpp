@@ -30,9 +30,9 @@ private:
 
 }  // namespace
 
-DevCleanupModel::DevCleanupModel(const Platform& platform, Removals& removals, QObject* parent)
+DevCleanupModel::DevCleanupModel(const Platform& platform, RemovalsModel& removals, QObject* parent)
     : QObject(parent), platform_(platform), removals_(removals) {
-    connect(&removals, &Removals::progressChanged, this, [this] {
+    connect(&removals, &RemovalsModel::progressChanged, this, [this] {
         if (isCleaning_) emit progressChanged();
     });
 }
@@ -104,8 +104,8 @@ void DevCleanupModel::clean(Items items, bool hardDelete) {
         removal);
 }
 
-Removals::Progress DevCleanupModel::progress() const {
-    return removal_ ? Removals::Progress{removal_->done(), removal_->items()} : Removals::Progress();
+RemovalsModel::Progress DevCleanupModel::progress() const {
+    return removal_ ? RemovalsModel::Progress{removal_->done(), removal_->items()} : RemovalsModel::Progress();
 }
 
 void DevCleanupModel::finish(std::vector<Cleaner::Result> results) {

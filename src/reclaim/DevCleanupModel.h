@@ -10,7 +10,7 @@
 #include "reclaim/Cleaner.h"
 #include "reclaim/CleanupSelection.h"
 #include "reclaim/MainThreadCalls.h"
-#include "reclaim/Removals.h"
+#include "reclaim/RemovalsModel.h"
 
 namespace zelk {
 
@@ -26,7 +26,7 @@ public:
     using Items = std::vector<Reclaimable>;
 
     /// The services must outlive it and a cleaning that is under way when it goes; `removals` must outlive it.
-    DevCleanupModel(const Platform& platform, Removals& removals, QObject* parent = nullptr);
+    DevCleanupModel(const Platform& platform, RemovalsModel& removals, QObject* parent = nullptr);
 
     /// Only what was left alone for more than this many days is shown; 0 and below show all.
     std::int64_t ageDays() const { return ageDays_; }
@@ -73,8 +73,8 @@ public:
     /// Comes back at once; isCleaning() until the results are there.
     void clean(Items items, bool hardDelete);
     /// Of the cleaning under way, or else of the last one.
-    Removals::Progress progress() const;
-    Removals& removals() const { return removals_; }
+    RemovalsModel::Progress progress() const;
+    RemovalsModel& removals() const { return removals_; }
     /// The sizes of what the last cleaning took away. A tool may have freed less than its item's size.
     std::int64_t reclaimedBytes() const;
 
@@ -91,7 +91,7 @@ private:
     void finish(std::vector<Cleaner::Result> results);
 
     Platform platform_;
-    Removals& removals_;
+    RemovalsModel& removals_;
     std::shared_ptr<const Removal> removal_;  // null before the first
     std::int64_t ageDays_ = 14;
     CleanupSelection selection_;

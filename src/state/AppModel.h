@@ -17,7 +17,7 @@
 #include "reclaim/MainThreadCalls.h"
 #include "reclaim/ReclaimCatalogue.h"
 #include "reclaim/ReclaimTotals.h"
-#include "reclaim/Removals.h"
+#include "reclaim/RemovalsModel.h"
 #include "scan/ScanUpdate.h"
 #include "state/Screen.h"
 #include "state/SurveyHistory.h"
@@ -95,7 +95,7 @@ public:
     bool emptyingTrash() const { return emptyingTrash_; }
 
     /// What is being taken away, here and by the models of screens.
-    Removals& removals() { return removals_; }
+    RemovalsModel& removals() { return removals_; }
     /// The services, for the models of screens that do things of their own.
     const Platform& platform() const { return platform_; }
     /// The desktop around the application, for screens that show things in it.
@@ -239,7 +239,7 @@ private:
     // The tops of trees that a cancel withdrew while another thread read them: not to be changed, if they are there at
     // all.
     std::set<const FSNode*> withdrawn_;
-    Removals removals_;
+    RemovalsModel removals_;
     MainThreadCalls calls_;
 };
 

@@ -37,7 +37,7 @@ protected:
     }
 
     fakes::FakePlatform machine;
-    Removals removals;
+    RemovalsModel removals;
     DevCleanupModel model{machine.platform(), removals};
 };
 
@@ -116,33 +116,33 @@ TEST_F(Cleanup, isUnderWayAmongTheRemovalsWhileItCleans) {
     machine.tasks.hold();
     model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
     EXPECT_TRUE(removals.underWay());
-    EXPECT_EQ(model.progress(), (Removals::Progress{0, 2}));
+    EXPECT_EQ(model.progress(), (RemovalsModel::Progress{0, 2}));
     machine.tasks.runNext();
     machine.tasks.runNext();
-    EXPECT_EQ(model.progress(), (Removals::Progress{1, 2}));
+    EXPECT_EQ(model.progress(), (RemovalsModel::Progress{1, 2}));
     machine.tasks.release();
     runUntil([&] { return !removals.underWay(); });
     EXPECT_FALSE(model.isCleaning()) << "the results come first";
-    EXPECT_EQ(model.progress(), (Removals::Progress{2, 2}));
+    EXPECT_EQ(model.progress(), (RemovalsModel::Progress{2, 2}));
 }
 
 TEST_F(Cleanup, tellsOfItsOwnProgressOnly) {
     int told = 0;
     QObject::connect(&model, &DevCleanupModel::progressChanged, &model, [&] { ++told; });
     int all = 0;
-    QObject::connect(&removals, &Removals::progressChanged, &removals, [&] { ++all; });
+    QObject::connect(&removals, &RemovalsModel::progressChanged, &removals, [&] { ++all; });
     const auto other = removals.begin(2);
     other->noteDone();
     runUntil([&] { return all == 1; });
     EXPECT_EQ(told, 0);
-    EXPECT_EQ(model.progress(), Removals::Progress());
+    EXPECT_EQ(model.progress(), RemovalsModel::Progress());
     machine.tasks.hold();
     model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
     machine.tasks.runNext();
     machine.tasks.runNext();
     runUntil([&] { return all == 2; });
     EXPECT_EQ(told, 1);
-    EXPECT_EQ(model.progress(), (Removals::Progress{1, 2}));
+    EXPECT_EQ(model.progress(), (RemovalsModel::Progress{1, 2}));
     machine.tasks.release();
 }
 

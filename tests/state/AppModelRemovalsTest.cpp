@@ -5,7 +5,7 @@
 namespace zelk {
 namespace {
 
-using Progress = Removals::Progress;
+using Progress = RemovalsModel::Progress;
 using Strings = std::vector<std::string>;
 
 class AppModelRemovals : public AppModelFixture {
@@ -21,7 +21,7 @@ protected:
         machine.tasks.hold();
     }
     NodeRef folder(const std::string& below) { return folderAt(model().root(), home + below); }
-    Removals& removals() { return model().removals(); }
+    RemovalsModel& removals() { return model().removals(); }
     void endAll() {
         machine.tasks.release();
         runUntil([&] { return !removals().underWay(); });

@@ -56,7 +56,7 @@ protected:
     }
 
     fakes::FakePlatform machine;
-    Removals removals;
+    RemovalsModel removals;
     DevCleanupModel cleanup{machine.platform(), removals};
     std::vector<std::string> events;
 

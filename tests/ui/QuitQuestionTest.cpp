@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/EventLoop.h"
-#include "reclaim/Removals.h"
+#include "reclaim/RemovalsModel.h"
 
 namespace zelk {
 
@@ -27,7 +27,7 @@ protected:
         EXPECT_FALSE(question.stopping());
     }
 
-    Removals removals;
+    RemovalsModel removals;
     int quits = 0;
     QuitQuestion question{removals, [this] { ++quits; }};
     std::shared_ptr<Removal> removal;

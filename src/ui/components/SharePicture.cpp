@@ -32,3 +32,5 @@ void SharePicture::draw(Canvas& canvas) const {
 }
 
 }  // namespace zelk
+
+#include "moc_SharePicture.cpp"

@@ -63,13 +63,13 @@ QString DryRunModel::cleaningLabel() const {
 
 double DryRunModel::share() const {
     if (!isCleaning()) return 0;
-    const Removals::Progress now = model_.progress();
+    const RemovalsModel::Progress now = model_.progress();
     return now.items == 0 ? 0 : static_cast<double>(now.done) / static_cast<double>(now.items);
 }
 
 QString DryRunModel::progress() const {
     if (!isCleaning()) return {};
-    const Removals::Progress now = model_.progress();
+    const RemovalsModel::Progress now = model_.progress();
     return QStringLiteral("%1 of %2").arg(now.done).arg(now.items);
 }
 

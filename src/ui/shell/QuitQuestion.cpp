@@ -3,13 +3,13 @@
 
 #include <utility>
 
-#include "reclaim/Removals.h"
+#include "reclaim/RemovalsModel.h"
 
 namespace zelk {
 
-QuitQuestion::QuitQuestion(Removals& removals, std::function<void()> quit)
+QuitQuestion::QuitQuestion(RemovalsModel& removals, std::function<void()> quit)
     : removals_(removals), quit_(std::move(quit)) {
-    connect(&removals, &Removals::underWayChanged, this, &QuitQuestion::follow);
+    connect(&removals, &RemovalsModel::underWayChanged, this, &QuitQuestion::follow);
 }
 
 bool QuitQuestion::holds() const {
@@ -85,3 +85,5 @@ void QuitQuestion::go(Way way) {
 }
 
 }  // namespace zelk
+
+#include "moc_QuitQuestion.cpp"

@@ -8,7 +8,7 @@
 
 namespace zelk {
 
-class Removals;
+class RemovalsModel;
 
 /// The one way out of the application: at once where nothing is being removed, and else by a question, so that nothing
 /// is left half done without a word. The question goes by itself when there is nothing to wait for any more. Main
@@ -29,7 +29,7 @@ class QuitQuestion : public QObject {
 
 public:
     /// `removals` must outlive it; `quit` ends the application.
-    QuitQuestion(Removals& removals, std::function<void()> quit);
+    QuitQuestion(RemovalsModel& removals, std::function<void()> quit);
 
     /// Whether something is being removed, so that ending has to wait.
     bool holds() const;
@@ -71,7 +71,7 @@ private:
     void follow();
     void go(Way way);
 
-    Removals& removals_;
+    RemovalsModel& removals_;
     std::function<void()> quit_;
     Way way_ = Way::none;
     bool asked_ = false;

@@ -14,7 +14,7 @@ namespace zelk {
 
 /// All that is being taken away at the moment, by whatever part of the application: who wants to end it asks here
 /// first, and here is where a stop is asked for. Main thread.
-class Removals : public QObject {
+class RemovalsModel : public QObject {
     Q_OBJECT
 
 public:
@@ -24,7 +24,7 @@ public:
         bool operator==(const Progress&) const = default;
     };
 
-    Removals();
+    RemovalsModel();
 
     /// A removal of so many items, which is under way until each of them has been noted. Without items it never is.
     std::shared_ptr<Removal> begin(std::size_t items);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reclaim/Removals.h"
+#include "reclaim/RemovalsModel.h"
 
 #include <gtest/gtest.h>
 
@@ -12,13 +12,13 @@ namespace zelk {
 
 namespace {
 
-using Progress = Removals::Progress;
+using Progress = RemovalsModel::Progress;
 
 class RemovalsUnderWay : public testing::Test {
 protected:
     RemovalsUnderWay() {
-        QObject::connect(&removals, &Removals::underWayChanged, &removals, [this] { ++turns; });
-        QObject::connect(&removals, &Removals::progressChanged, &removals, [this] { ++told; });
+        QObject::connect(&removals, &RemovalsModel::underWayChanged, &removals, [this] { ++turns; });
+        QObject::connect(&removals, &RemovalsModel::progressChanged, &removals, [this] { ++told; });
     }
 
     static void noteAll(Removal& removal) {
@@ -33,7 +33,7 @@ protected:
         runUntil([&] { return later; });
     }
 
-    Removals removals;
+    RemovalsModel removals;
     int turns = 0;
     int told = 0;
 };
@@ -156,7 +156,7 @@ TEST_F(RemovalsUnderWay, aStopOfNothingIsNotKept) {
 }
 
 TEST_F(RemovalsUnderWay, theListMayGoBeforeThem) {
-    auto list = std::make_unique<Removals>();
+    auto list = std::make_unique<RemovalsModel>();
     const auto removal = list->begin(1);
     list.reset();
     noteAll(*removal);

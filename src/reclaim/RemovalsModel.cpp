@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reclaim/Removals.h"
+#include "reclaim/RemovalsModel.h"
 
 #include <algorithm>
 
@@ -11,12 +11,12 @@ constexpr int calmInterval = 500;  // milliseconds
 
 }  // namespace
 
-Removals::Removals() {
+RemovalsModel::RemovalsModel() {
     timer_.setInterval(calmInterval);
-    connect(&timer_, &QTimer::timeout, this, &Removals::tellProgress);
+    connect(&timer_, &QTimer::timeout, this, &RemovalsModel::tellProgress);
 }
 
-std::shared_ptr<Removal> Removals::begin(std::size_t items) {
+std::shared_ptr<Removal> RemovalsModel::begin(std::size_t items) {
     auto removal = std::make_shared<Removal>(items, [this, sender = calls_.sender()](const Removal& ended) {
         sender.post([this, &ended] { end(ended); });  // it is kept here until then
     });
@@ -30,7 +30,7 @@ std::shared_ptr<Removal> Removals::begin(std::size_t items) {
     return removal;
 }
 
-Removals::Progress Removals::progress() const {
+RemovalsModel::Progress RemovalsModel::progress() const {
     Progress all;
     for (const std::shared_ptr<Removal>& removal : running_) {
         all.done += removal->done();
@@ -39,13 +39,13 @@ Removals::Progress Removals::progress() const {
     return all;
 }
 
-void Removals::stop() {
+void RemovalsModel::stop() {
     if (!underWay()) return;
     stopping_ = true;
     for (const std::shared_ptr<Removal>& removal : running_) removal->stop();
 }
 
-void Removals::end(const Removal& removal) {
+void RemovalsModel::end(const Removal& removal) {
     std::erase_if(running_, [&](const std::shared_ptr<Removal>& one) { return one.get() == &removal; });
     if (underWay()) return;
     stopping_ = false;
@@ -53,7 +53,7 @@ void Removals::end(const Removal& removal) {
     emit underWayChanged();
 }
 
-void Removals::tellProgress() {
+void RemovalsModel::tellProgress() {
     const Progress now = progress();
     if (now == told_) return;
     told_ = now;
@@ -61,3 +61,5 @@ void Removals::tellProgress() {
 }
 
 }  // namespace zelk
+
+#include "moc_RemovalsModel.cpp"
