@@ -226,6 +226,19 @@ TEST_F(Remover, takesWhatSomebodyElseRemovesMeanwhileAsRemoved) {
     }
 }
 
+TEST_F(Remover, removesNothingOfAFolderThatCannotBeListedToItsEnd) {
+    zoo::makeWide(victim, 5000, 0);
+    unsigned calls = 0;
+    Failure failure;
+    behindGate(
+        SYS_getdents64, [&](unsigned number) { return ++calls, number == 1 ? EIO : 0; },
+        [&] { failure = removed(victim); });
+    ASSERT_EQ(calls, 2u) << "the folder takes more than one call to list";
+    EXPECT_THAT(failure, Optional(std::string("“victim” couldn’t be removed: Input/output error")));
+    EXPECT_EQ(namesIn(victim).size(), 5000u);
+    EXPECT_EQ(removed(victim), std::nullopt);
+}
+
 TEST_F(Remover, takesWhatIsAddedWhileItRemoves) {
     zoo::makeFile(victim + "/folder/file");
     Failure failure = "not run";

@@ -121,20 +121,24 @@ private:
         const std::unique_ptr<DIR, decltype(close)> stream(copy ? ::fdopendir(copy.get()) : nullptr, close);
         if (!stream) return fail(own, isItem, errno);
         copy.release();
+        // The listing comes first: some systems pass over entries where others are removed meanwhile.
+        std::vector<std::string> files;
         for (;;) {
             errno = 0;
             const dirent* const entry = ::readdir(stream.get());
-            if (entry == nullptr) return errno == 0 || errno == ENOENT || fail(own, isItem, errno);
+            if (entry == nullptr) break;
             const std::string name(entry->d_name);
             if (name == "." || name == "..") continue;
-            if (entry->d_type == DT_DIR) {
-                names_.push_back(name);
-            } else if (!unlinkFile(folder, name.c_str())) {
-                const int error = errno;
-                if (!isFolderAfter(error, folder, name)) return fail(name, false, error);
-                names_.push_back(name);
-            }
+            (entry->d_type == DT_DIR ? names_ : files).push_back(name);
         }
+        if (errno != 0 && errno != ENOENT) return fail(own, isItem, errno);
+        for (const std::string& name : files) {
+            if (unlinkFile(folder, name.c_str())) continue;
+            const int error = errno;
+            if (!isFolderAfter(error, folder, name)) return fail(name, false, error);
+            names_.push_back(name);
+        }
+        return true;
     }
 
     bool surprise(int error) { return ++surprises_ <= maximumSurprises || failOnLast(error); }
