@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
@@ -15,6 +16,7 @@
 #include <fstream>
 #include <map>
 #include <string>
+#include <thread>
 
 #include "platform/linux/LinuxDirectoryReader.h"
 #include "platform/linux/StatxEntry.h"
@@ -277,6 +279,25 @@ TEST_F(BulkDirectoryReaderOnceTest, aReaderGoesOnAfterADirectoryThatFailed) {
     const auto* entries = reader_->open(*root_, "");
     ASSERT_NE(entries, nullptr);
     expectEqualToLstat(*entries, top_);
+}
+
+TEST_F(BulkDirectoryReaderOnceTest, theReadersThreadFetchesNoFolderWhileItLives) {
+    for (const int before : {IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT, IOPOL_MATERIALIZE_DATALESS_FILES_ON}) {
+        BulkStandIn::here() = {};
+        BulkStandIn::materialising() = before;
+        ASSERT_NE(read(), nullptr);
+        for (const BulkStandIn::Call& call : BulkStandIn::here().calls)
+            EXPECT_EQ(call.materialising, IOPOL_MATERIALIZE_DATALESS_FILES_OFF);
+        int elsewhere = -1;
+        std::thread([&] { elsewhere = BulkStandIn::materialising(); }).join();
+        EXPECT_EQ(elsewhere, IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT);
+        reader_.reset();
+        EXPECT_EQ(BulkStandIn::materialising(), before);
+    }
+    BulkStandIn::materialising() = -1;
+    ASSERT_NE(read(), nullptr);
+    reader_.reset();
+    EXPECT_EQ(BulkStandIn::materialising(), IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT);
 }
 
 TEST_F(BulkDirectoryReaderOnceTest, goesDownAndUpAndFollowsNoLink) {

@@ -3,6 +3,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/sysmacros.h>
@@ -21,6 +22,11 @@ namespace zelk {
 BulkStandIn& BulkStandIn::here() {
     thread_local BulkStandIn instance;
     return instance;
+}
+
+int& BulkStandIn::materialising() {
+    thread_local int policy = IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT;
+    return policy;
 }
 
 std::set<std::string>& BulkStandIn::unasked() {
@@ -94,6 +100,8 @@ std::vector<char> packedUnasked(std::string_view name, bool isDirectory) {
 
 /// Fills the buffer from where the descriptor stands and leaves it at the first entry that did not fit.
 int fill(int directory, char* buffer, std::size_t size) {
+    struct stat own;
+    if (fstat(directory, &own) != 0) return -1;
     std::array<char, 32768> listing;
     std::size_t used = 0;
     int count = 0;
@@ -109,6 +117,11 @@ int fill(int directory, char* buffer, std::size_t size) {
             at += entry.d_reclen;
             struct stat status;
             if (fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) != 0) return -1;
+            // The kernel looks entries up without going into mounts: it shows the folder beneath.
+            if (S_ISDIR(status.st_mode) && status.st_dev != own.st_dev) {
+                status = own;
+                status.st_ino = entry.d_ino;
+            }
             const std::vector<char> record = BulkStandIn::unasked().contains(name)
                                                  ? packedUnasked(name, S_ISDIR(status.st_mode))
                                                  : packed(name, status);
@@ -134,6 +147,18 @@ int fill(int directory, char* buffer, std::size_t size) {
 
 }  // namespace zelk
 
+int getiopolicy_np(int type, int scope) {
+    const bool known = type == IOPOL_TYPE_VFS_MATERIALIZE_DATALESS_FILES && scope == IOPOL_SCOPE_THREAD;
+    return known ? zelk::BulkStandIn::materialising() : -1;
+}
+
+int setiopolicy_np(int type, int scope, int policy) {
+    const bool known = type == IOPOL_TYPE_VFS_MATERIALIZE_DATALESS_FILES && scope == IOPOL_SCOPE_THREAD;
+    if (!known || policy < 0) return -1;
+    zelk::BulkStandIn::materialising() = policy;
+    return 0;
+}
+
 int getattrlistbulk(int directory, void* request, void* buffer, std::size_t size, std::uint64_t options) {
     using namespace zelk;
     BulkStandIn& standIn = BulkStandIn::here();
@@ -146,6 +171,7 @@ int getattrlistbulk(int directory, void* request, void* buffer, std::size_t size
         result = fill(directory, static_cast<char*>(buffer), size);
         if (result > 0 && standIn.afterwards) standIn.afterwards(call, buffer, result);
     }
-    standIn.calls.push_back({*static_cast<const attrlist*>(request), size, options, result});
+    standIn.calls.push_back(
+        {*static_cast<const attrlist*>(request), size, options, result, BulkStandIn::materialising()});
     return result;
 }

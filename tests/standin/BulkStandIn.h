@@ -20,6 +20,7 @@ struct BulkStandIn {
         std::size_t size;
         std::uint64_t options;
         int result;
+        int materialising;  ///< the thread's policy at the moment
     };
 
     /// What the call with this number (from 0) is to answer in place of the truth: -1, with errno set to it. 0 is the
@@ -29,6 +30,9 @@ struct BulkStandIn {
     std::function<void(std::size_t call, void* buffer, int count)> afterwards;
 
     std::vector<Call> calls;
+
+    /// The calling thread's policy for folders that are not on the disk. -1: the system knows of none.
+    static int& materialising();
 
     /// The names of entries that cannot be asked, as where a call that the file system lacks is made up by the kernel:
     /// such a record has the name and nothing else. For all threads; not to be changed while any reads.

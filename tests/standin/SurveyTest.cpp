@@ -4,35 +4,21 @@
 
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <string>
-#include <variant>
 
 #include "platform/linux/LinuxDirectoryReader.h"
 #include "platform/macos/BulkDirectoryReader.h"
-#include "platform/posix/PosixClock.h"
-#include "scan/ScanEngine.h"
 #include "standin/BulkStandIn.h"
+#include "standin/Surveyed.h"
 
 namespace zelk {
 namespace {
 
-update::Finished survey(DirectoryService& directories, const std::string& root) {
-    PosixClock clock;
-    const auto queue = std::make_shared<UpdateQueue>();
-    ScanEngine(directories, clock).runHere(queue, {root});
-    for (const ScanUpdate& update : queue->takeAll().updates) {
-        if (const auto* finished = std::get_if<update::Finished>(&update)) return *finished;
-    }
-    ADD_FAILURE() << "the survey has no end";
-    return {};
-}
-
 TEST(BulkSurvey, countsWhatTheLinuxReaderCounts) {
     BulkDirectoryService bulk;
     LinuxDirectoryService own;
-    const update::Finished got = survey(bulk, "/usr/include");
-    const update::Finished expected = survey(own, "/usr/include");
+    const update::Finished got = surveyed(bulk, "/usr/include");
+    const update::Finished expected = surveyed(own, "/usr/include");
     ASSERT_GT(expected.stats.filesScanned, 0);
     EXPECT_EQ(got.stats.filesScanned, expected.stats.filesScanned);
     EXPECT_EQ(got.stats.dirsScanned, expected.stats.dirsScanned);
@@ -50,9 +36,9 @@ TEST(BulkSurvey, entryThatCouldNotBeAskedIsBlockedAndTheRestCounts) {
     for (const char* name : {"/film.mov", "/other", "/Documents/letter"}) std::ofstream(top + name) << "content";
     LinuxDirectoryService own;
     BulkDirectoryService bulk;
-    const update::Finished expected = survey(own, top);
+    const update::Finished expected = surveyed(own, top);
     BulkStandIn::unasked() = {"film.mov", "Documents"};
-    const update::Finished got = survey(bulk, top);
+    const update::Finished got = surveyed(bulk, top);
     BulkStandIn::unasked().clear();
     EXPECT_EQ(expected.stats.blockedPaths, 0);
     EXPECT_EQ(got.stats.blockedPaths, 1) << "the film, of which nothing is known";

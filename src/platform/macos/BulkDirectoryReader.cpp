@@ -9,7 +9,11 @@
 #include <cstdint>
 
 #include "platform/macos/BulkRecords.h"
+#include "platform/macos/CoveredFolders.h"
+#include "platform/macos/DatalessFolders.h"
 #include "platform/posix/DirectoryLadder.h"
+#include "platform/posix/FileStatus.h"
+#include "platform/posix/OpenDirectory.h"
 #include "platform/posix/PosixRoot.h"
 
 namespace zelk {
@@ -38,12 +42,33 @@ static_assert(sizeof(attribute_set_t) == 20 && sizeof(attrreference_t) == 8 && s
               sizeof(fsobj_type_t) == 4 && sizeof(timespec) == 16 && sizeof(off_t) == 8);
 #endif
 
+/// A root that knows what is mounted below it.
+class BulkRoot : public PosixRoot {
+public:
+    explicit BulkRoot(int descriptor) : PosixRoot(descriptor) {
+        struct stat status;
+        if (fstat(descriptor, &status) == 0) device_ = status.st_dev;
+        if (const auto path = pathOfDirectory(descriptor))
+            covered_ = std::make_shared<const CoveredFolders>(*path, mountTable());
+    }
+
+    dev_t device() const { return device_; }
+    const std::shared_ptr<const CoveredFolders>& covered() const { return covered_; }
+
+private:
+    dev_t device_ = 0;
+    std::shared_ptr<const CoveredFolders> covered_ = std::make_shared<const CoveredFolders>();
+};
+
 class BulkDirectoryReader : public DirectoryReader {
 public:
     explicit BulkDirectoryReader(std::size_t bufferBytes) : buffer_(bufferBytes) {}
 
     const Entries* open(const DirectoryRoot& root, const std::string& below) override {
-        return ladder_.open(static_cast<const PosixRoot&>(root).descriptor(), below) ? read() : nullptr;
+        const auto& own = static_cast<const BulkRoot&>(root);
+        covered_ = own.covered();
+        device_ = own.device();
+        return ladder_.open(own.descriptor(), below) ? read() : nullptr;
     }
 
     const Entries* descend(std::string_view name) override { return ladder_.descend(name) ? read() : nullptr; }
@@ -57,6 +82,8 @@ private:
         names_.clear();
         struct stat status;
         if (fstat(ladder_.current(), &status) != 0) return nullptr;
+        // Mounted since the root was opened: what lies in there is another volume's.
+        if (status.st_dev != device_) return nullptr;
         const ListedDirectory listed{deviceOf(status), static_cast<TimePoint>(status.st_mtime)};
         attrlist request = attributeRequest();
         while (true) {
@@ -67,6 +94,7 @@ private:
             if (count < 0 || !take(static_cast<std::size_t>(count), listed)) return nullptr;
         }
         placeNames();
+        if (const CoveredFolders::Names* names = covered_->in(status)) tellMountPoints(*names);
         return &entries_;
     }
 
@@ -87,12 +115,22 @@ private:
         }
     }
 
+    /// Their records have the device of the folders beneath the mounts. Which device is mounted nobody asks, only
+    /// whether it is this one.
+    void tellMountPoints(const CoveredFolders::Names& names) {
+        for (DirEntry& entry : entries_)
+            if (entry.objType == directoryObjectType && names.contains(entry.name)) entry.deviceID = ~entry.deviceID;
+    }
+
     void giveBackExcess() {
         if (names_.capacity() > keptBytes) std::string().swap(names_);
         if (entries_.capacity() * sizeof(DirEntry) > keptBytes) Entries().swap(entries_);
     }
 
+    DatalessFoldersStay dataless_;
     DirectoryLadder ladder_;
+    std::shared_ptr<const CoveredFolders> covered_;  ///< of the root below which it stands
+    dev_t device_ = 0;                               ///< the root's
     std::vector<std::byte> buffer_;
     Entries entries_;
     std::string names_;  ///< of all entries, one behind the other
@@ -105,7 +143,8 @@ std::optional<RootStatus> BulkDirectoryService::status(const std::string& path) 
 }
 
 std::shared_ptr<const DirectoryRoot> BulkDirectoryService::openRoot(const std::string& path) {
-    return openPosixRoot(path);
+    const int directory = openRootDirectory(path);
+    return directory < 0 ? nullptr : std::make_shared<BulkRoot>(directory);
 }
 
 std::unique_ptr<DirectoryReader> BulkDirectoryService::makeReader() {

@@ -7,7 +7,10 @@
 
 namespace zelk {
 
-/// getattrlistbulk: the entries and all that is asked of them by one call per buffer full, and no call per entry.
+/// getattrlistbulk: the entries and all that is asked of them by one call per buffer full, and no call per entry. What
+/// is mounted below a root when it is opened has another device than the folder that holds it, as everywhere; what is
+/// mounted there later cannot be read. A reader is made, used and destroyed on one thread, which fetches no folder of
+/// cloud storage that is not on the disk meanwhile.
 class BulkDirectoryService : public DirectoryService {
 public:
     /// Nearly every directory fits into 256 KiB and is then read by one call. Each reader has a buffer of its own; it

@@ -49,13 +49,18 @@ std::vector<Mount> mountTable() {
     std::vector<struct statfs> told(static_cast<std::size_t>(count) + 8);  // room for what is mounted meanwhile
     const int got = ::getfsstat(told.data(), static_cast<int>(told.size() * sizeof told[0]), MNT_NOWAIT);
     std::vector<Mount> table;
+    const auto add = [&](const struct statfs& one, std::string_view point) {
+        Mount mount;
+        mount.id = static_cast<std::uint64_t>(one.f_fsid.val[0]);
+        mount.point = point;
+        table.push_back(std::move(mount));
+    };
     for (int i = 0; i < got; ++i) {
         const struct statfs& one = told[static_cast<std::size_t>(i)];
-        const auto id = static_cast<std::uint64_t>(one.f_fsid.val[0]);
         const std::string_view point = one.f_mntonname;
-        table.push_back({id, std::string(point)});
+        add(one, point);
         if (point.starts_with(dataVolume) && point.substr(dataVolume.size()).starts_with('/'))
-            table.push_back({id, std::string(point.substr(dataVolume.size()))});
+            add(one, point.substr(dataVolume.size()));
     }
     return table;
 }

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "platform/macos/DatalessFolders.h"
+
+#include <sys/resource.h>
+
+namespace zelk {
+
+namespace {
+
+constexpr int policy = IOPOL_TYPE_VFS_MATERIALIZE_DATALESS_FILES;
+
+}  // namespace
+
+DatalessFoldersStay::DatalessFoldersStay() : before_(getiopolicy_np(policy, IOPOL_SCOPE_THREAD)) {
+    // A system that refuses fetches as it always did; the survey is none the worse for it.
+    setiopolicy_np(policy, IOPOL_SCOPE_THREAD, IOPOL_MATERIALIZE_DATALESS_FILES_OFF);
+}
+
+DatalessFoldersStay::~DatalessFoldersStay() {
+    setiopolicy_np(policy, IOPOL_SCOPE_THREAD, before_ < 0 ? IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT : before_);
+}
+
+}  // namespace zelk
