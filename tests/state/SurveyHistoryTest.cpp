@@ -17,8 +17,8 @@ using testing::Not;
 using testing::Optional;
 using testing::Pair;
 
-constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
-constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t leastInteger = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t greatestInteger = std::numeric_limits<std::int64_t>::max();
 constexpr double yearTwoThousandOne = 978307200;
 
 SurveyRecord sample() {
@@ -123,8 +123,8 @@ TEST(HistoryFile, keepsZerosAfterADotInsideStrings) {
 }
 
 TEST(HistoryFile, holdsEveryIntegerExactly) {
-    for (const std::int64_t value : {std::int64_t{9007199254740993}, std::int64_t{-9007199254740993}, largest,
-                                     largest - 1, smallest, std::int64_t{0}, std::int64_t{-1}}) {
+    for (const std::int64_t value : {std::int64_t{9007199254740993}, std::int64_t{-9007199254740993}, greatestInteger,
+                                     greatestInteger - 1, leastInteger, std::int64_t{0}, std::int64_t{-1}}) {
         SurveyRecord record = sample();
         record.totalScanned = record.used = record.free = record.reclaimable = value;
         record.types = {{"video", value}};
