@@ -20,8 +20,9 @@ TEST(TrashPlaces, areOnAnyVolumeWhereTheEndOfTheirPathSays) {
     EXPECT_TRUE(trashes.areAt("/.Trash-7/files"));
     EXPECT_TRUE(trashes.areAt("/media/me/my stick/.Trash-7/files"));
     EXPECT_TRUE(trashes.areAt("/media/me/my stick/.Trash/7/files"));
-    for (const char* path : {"/media/.Trash-7", "/media/.Trash-7/info", "/media/.Trash-77/files",
-                             "/media/a.Trash-7/files", "/media/.Trash/files", "/media/.Trash/8/files"})
+    for (const char* path :
+         {"/media/.Trash-7", "/media/.Trash-7/files/a", "/media/.Trash-7/info", "/media/.Trash-77/files",
+          "/media/a.Trash-7/files", "/media/.Trash/files", "/media/.Trash/8/files"})
         EXPECT_FALSE(trashes.areAt(path)) << path;
 }
 

@@ -105,7 +105,7 @@ TEST_F(PlacesOfLinux, areComparedWholeAndExactly) {
           "/home/me/x/Android/Sdk/system-images", "/home/me/.config/Code/cache", "/home/me/.config/Code/Cache2",
           "/home/me/.config/Code/CacheStorage", "/home/me/.config/Code/workspaceStorage",
           "/home/me/.configs/Code/Cache", "/home/me/.caches/x/GPUCache", "/home/me/config/x/Cache",
-          "/home/me/my.cache/x/Cache"})
+          "/home/me/my.cache/x/Cache", "/home/me/my.config/x/Cache"})
         EXPECT_EQ(categoryOf(path), "") << path;
 }
 
