@@ -46,6 +46,13 @@ public:
         ++content->links;
     }
 
+    /// The system names the file `path` by this number, and says that it has so many links.
+    void numbers(const std::string& path, std::uint64_t fileID, std::uint32_t links) {
+        Content* content = existing(path).content;
+        content->fileID = fileID;
+        content->links = links;
+    }
+
     /// A chain of `depth` folders called `name`, each in the last, in `path`. Returns nothing: at such depths the path
     /// itself would be the greater part of the work.
     void chain(const std::string& path, std::string_view name, int depth, std::uint64_t bytesInEach = 0) {

@@ -13,6 +13,7 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <future>
 #include <iterator>
@@ -33,6 +34,24 @@ inline long filterCalls(int number, unsigned action, unsigned flags = 0) {
     const sock_fprog program{std::size(steps), steps};
     ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     return ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, flags, &program);
+}
+
+/// From now on, until the calling thread ends, the system call `number` fails with `error` unless its argument
+/// `argument` (from 0) has all `bits`. -1 if the kernel refuses. Little-endian machines only.
+inline long requireBits(int number, unsigned argument, unsigned bits, unsigned error) {
+    const auto place = static_cast<unsigned>(offsetof(seccomp_data, args) + argument * sizeof(std::uint64_t));
+    const sock_filter steps[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(number), 0, 3),  // to where all are allowed
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, place),
+        BPF_STMT(BPF_ALU | BPF_AND | BPF_K, bits),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, bits, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | error),
+    };
+    const sock_fprog program{std::size(steps), const_cast<sock_filter*>(steps)};
+    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+    return ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, 0, &program);
 }
 
 /// Asked before each gated call, on another thread than the one that calls and waits: `call` counts from 0. Gives 0 to

@@ -6,6 +6,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/statfs.h>
+#include <sys/syscall.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
 
@@ -16,8 +17,10 @@
 #include <thread>
 #include <vector>
 
+#include "fakes/HeapInUse.h"
 #include "fakes/InChild.h"
 #include "fakes/OpenDescriptors.h"
+#include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
 #include "platform/linux/StatxEntry.h"
 #include "platform/posix/Descriptor.h"
@@ -288,6 +291,21 @@ TEST_F(LinuxDirectoryReaderTest, oneReaderReadsManyFoldersOneAfterTheOther) {
     EXPECT_EQ(openDescriptors(), before);
 }
 
+TEST_F(LinuxDirectoryReaderTest, whatALargeFolderTookIsGivenBackAtTheNext) {
+    constexpr std::ptrdiff_t quarter = 256 * 1024;
+    zoo::makeFile(memory / "small/file");
+    for (int number = 0; number < 22000; ++number)
+        zoo::makeFile(memory / "large/" + std::to_string(number) + std::string(200, 'n'));
+    ASSERT_EQ(read(memory / "small")->size(), 1u);
+    const auto before = static_cast<std::ptrdiff_t>(fakes::heapInUse());
+    ASSERT_EQ(read(memory / "large")->size(), 22000u);
+    EXPECT_GT(static_cast<std::ptrdiff_t>(fakes::heapInUse()) - before, 20 * quarter);
+    const Entries* const entries = read(memory / "small");
+    ASSERT_EQ(entries->size(), 1u);
+    EXPECT_LT(static_cast<std::ptrdiff_t>(fakes::heapInUse()) - before, quarter);
+    EXPECT_LT(entries->capacity() * sizeof(DirEntry), static_cast<std::size_t>(quarter));
+}
+
 // What a walk does with the names that it is given: they lie in the memory that the next step overwrites.
 TEST_F(LinuxDirectoryReaderTest, nameOfTheListItselfMayBeDescendedInto) {
     const std::string name(255, 'd');
@@ -440,6 +458,23 @@ TEST(StatxEntry, tellsWhatIsGoneFromWhatCannotBeAsked) {
     EXPECT_EQ(statxEntry(-1, "file", entry), StatxOutcome::failed);
     EXPECT_EQ(statxEntry(folder.get(), std::string(256, 'x').c_str(), entry), StatxOutcome::failed);
     EXPECT_TRUE(fakes::asOrdinaryUser([&] { return statxEntry(closed.get(), "file", entry) == StatxOutcome::failed; }));
+}
+
+// The one would wake what is only mounted on use, the other ask a server about every file.
+TEST(StatxEntry, wakesNoMountAndWaitsForNoServer) {
+    const zoo::TempFolder temp;
+    zoo::makeFile(temp / "folder/file");
+    for (const unsigned flag : {AT_NO_AUTOMOUNT, AT_STATX_DONT_SYNC, AT_SYMLINK_NOFOLLOW}) {
+        EXPECT_TRUE(fakes::inChild([&] {
+            const Descriptor folder(::open((temp / "folder").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+            struct statx status;
+            if (fakes::requireBits(SYS_statx, 2, flag, EIO) != 0) return false;
+            const unsigned others = (AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC | AT_SYMLINK_NOFOLLOW) & ~flag;
+            const bool refused = ::statx(folder.get(), "file", static_cast<int>(others), STATX_TYPE, &status) != 0;
+            DirEntry entry{};
+            return refused && statxEntry(folder.get(), "file", entry) == StatxOutcome::ok;
+        })) << flag;
+    }
 }
 
 TEST(DeviceNumber, keepsTwelveBitsOfTheMajorAndTwentyOfTheMinor) {

@@ -99,6 +99,27 @@ TEST_F(ParallelWalkerTest, aHardLinkCountsItsBytesOnceAndItsNameEveryTime) {
     EXPECT_EQ(result.insights.typeTotals[FileType::diskImage], (TypeTally{10 * mb, 2}));
 }
 
+TEST_F(ParallelWalkerTest, filesOfTwoDevicesAreTwoWhateverTheirNumbers) {
+    disk.device("/other", 7);
+    for (const char* root : {"/own", "/other"}) {
+        const std::string first = std::string(root) + "/first";
+        disk.file(first, 10);
+        disk.hardLink(std::string(root) + "/second", first);
+        disk.numbers(first, 4711, 2);
+    }
+    const ScanResult result = scan({"/own", "/other"});
+    EXPECT_EQ(result.stats.totalBytes, 20) << "each device's once";
+    EXPECT_EQ(result.stats.filesScanned, 4);
+}
+
+TEST_F(ParallelWalkerTest, filesOfNoLinksAreFilesOfTheirOwn) {
+    for (const char* name : {"/r/a", "/r/b", "/r/c"}) {
+        disk.file(name, 10);
+        disk.numbers(name, 0, 0);
+    }
+    EXPECT_EQ(scan({"/r"}).stats.totalBytes, 30) << "a system that does not count links says 0";
+}
+
 TEST_F(ParallelWalkerTest, aLinkToADirectoryIsASmallFileAndNotEntered) {
     disk.file("/outside/big", 500);
     disk.symbolicLink("/r/link", 1, "/outside");

@@ -18,6 +18,7 @@
 #include <string>
 #include <thread>
 
+#include "fakes/HeapInUse.h"
 #include "platform/linux/LinuxDirectoryReader.h"
 #include "platform/linux/StatxEntry.h"
 #include "standin/BulkStandIn.h"
@@ -298,6 +299,26 @@ TEST_F(BulkDirectoryReaderOnceTest, theReadersThreadFetchesNoFolderWhileItLives)
     ASSERT_NE(read(), nullptr);
     reader_.reset();
     EXPECT_EQ(BulkStandIn::materialising(), IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT);
+}
+
+TEST_F(BulkDirectoryReaderOnceTest, whatALargeFolderTookIsGivenBackAtTheNext) {
+    constexpr std::ptrdiff_t quarter = 256 * 1024;
+    fs::create_directory(path("small"));
+    makeFile("small/file");
+    fs::create_directory(path("large"));
+    for (int number = 0; number < 22000; ++number) makeFile("large/" + std::to_string(number) + std::string(200, 'n'));
+    BulkDirectoryService service;
+    const auto root = service.openRoot(top_);
+    const auto reader = service.makeReader();
+    BulkStandIn::here().calls.reserve(1000);
+    ASSERT_EQ(reader->open(*root, "small")->size(), 1U);
+    const auto before = static_cast<std::ptrdiff_t>(fakes::heapInUse());
+    ASSERT_EQ(reader->open(*root, "large")->size(), 22000U);
+    EXPECT_GT(static_cast<std::ptrdiff_t>(fakes::heapInUse()) - before, 20 * quarter);
+    const auto* entries = reader->open(*root, "small");
+    ASSERT_EQ(entries->size(), 1U);
+    EXPECT_LT(static_cast<std::ptrdiff_t>(fakes::heapInUse()) - before, quarter);
+    EXPECT_LT(entries->capacity() * sizeof(DirEntry), static_cast<std::size_t>(quarter));
 }
 
 TEST_F(BulkDirectoryReaderOnceTest, goesDownAndUpAndFollowsNoLink) {
