@@ -22,7 +22,8 @@ public:
     /// yet is empty.
     virtual std::optional<std::vector<std::string>> list() = 0;
     /// Moves `item` there, restorable by the system's own tools; of a link the link itself. On a failure it is where it
-    /// was.
+    /// was. On Linux nothing that is put in place of a part of the path meanwhile leads elsewhere. On macOS the system
+    /// takes a path: what is put there between our look at the way and its move does.
     virtual Failure trash(const ItemPath& item) = 0;
     /// Removes for good what it holds, each entry on its own: one that cannot be removed stays, and the next goes on.
     /// The number of entries removed.

@@ -14,6 +14,8 @@
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
 #include "platform/linux/LinuxFileManager.h"
+#include "platform/posix/OpenDirectory.h"
+#include "platform/posix/RemoveEntry.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 
@@ -333,6 +335,29 @@ TEST_F(Remover, anErrorOfAnyCallIsTold) {
         EXPECT_EQ(fakes::openDescriptors(), before);
         EXPECT_EQ(removed(victim), std::nullopt);
     }
+}
+
+TEST_F(Remover, emptiesAFolderEntryByEntryAndLeavesTheFolder) {
+    zoo::makeFile(victim + "/file");
+    zoo::makeFile(victim + "/.hidden/deep/file");
+    zoo::makeFile(victim + "/stays/file");
+    fs::create_directory_symlink(outside, victim + "/away");
+    fakes::giveToOrdinaryUser(temp.path());
+    ASSERT_EQ(::chmod((victim + "/stays").c_str(), 0500), 0);
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown((victim + "/stays").c_str(), 0, 0), 0);
+        ASSERT_EQ(::chmod((victim + "/stays").c_str(), 0755), 0);
+    }
+    EXPECT_TRUE(fakes::asOrdinaryUser([&] {
+        const Descriptor folder(openRootDirectory(victim));
+        return removeEntriesOf(folder) == 3 && removeEntriesOf(folder) == 0;
+    }));
+    EXPECT_EQ(namesIn(victim), std::set<std::string>{"stays"});
+    expectOutsideUntouched();
+    ASSERT_EQ(::chmod((victim + "/stays").c_str(), 0700), 0);
+    EXPECT_EQ(removeEntriesOf(Descriptor()), 0u);
+    EXPECT_EQ(removeEntriesOf(Descriptor(openRootDirectory(victim))), 1u);
+    EXPECT_TRUE(namesIn(victim).empty());
 }
 
 }  // namespace

@@ -9,10 +9,8 @@
 #include "platform/macos/FoundationPaths.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
-#include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
-#include "platform/posix/OpenParent.h"
-#include "platform/posix/RemovalTurn.h"
+#include "platform/posix/RemoveEntry.h"
 #include "platform/posix/TryOpenFile.h"
 
 namespace zelk {
@@ -24,6 +22,22 @@ std::uint64_t allocatedSizeOf(NSURL* url) {
     NSNumber* bytes = nil;
     if (![url getResourceValue:&bytes forKey:NSURLTotalFileAllocatedSizeKey error:nil]) return 0;
     return [bytes unsignedLongLongValue];
+}
+
+void addAllocatedSizesBelow(const std::string& path, std::uint64_t& bytes) {
+    // Without an error handler the enumerator goes on behind what it cannot read.
+    NSDirectoryEnumerator<NSURL*>* below =
+        [[NSFileManager defaultManager] enumeratorAtURL:fileURL(path, true)
+                             includingPropertiesForKeys:@[ NSURLTotalFileAllocatedSizeKey ]
+                                                options:NSDirectoryEnumerationSkipsHiddenFiles
+                                           errorHandler:nil];
+    for (bool more = true; more;) {
+        @autoreleasepool {  // a folder may hold millions
+            NSURL* entry = [below nextObject];
+            more = entry != nil;
+            if (more) bytes += allocatedSizeOf(entry);
+        }
+    }
 }
 
 }  // namespace
@@ -38,7 +52,9 @@ std::optional<FileProperties> MacFileManager::properties(const std::string& path
     if (lstat(path.c_str(), &status) != 0) return std::nullopt;
     if (S_ISDIR(status.st_mode)) return FileProperties{.isDirectory = true, .allocatedSize = 0};
     @autoreleasepool {
-        return FileProperties{.isDirectory = false, .allocatedSize = allocatedSizeOf(fileURL(path, false))};
+        const std::uint64_t bytes = unlessThrown([&] { return allocatedSizeOf(fileURL(path, false)); },
+                                                 [](NSException*) { return std::uint64_t{0}; });
+        return FileProperties{.isDirectory = false, .allocatedSize = bytes};
     }
 }
 
@@ -49,19 +65,7 @@ std::optional<std::vector<std::string>> MacFileManager::list(const std::string& 
 std::uint64_t MacFileManager::allocatedSizeBelow(const std::string& path) {
     std::uint64_t bytes = 0;
     @autoreleasepool {
-        // Without an error handler the enumerator goes on behind what it cannot read.
-        NSDirectoryEnumerator<NSURL*>* below =
-            [[NSFileManager defaultManager] enumeratorAtURL:fileURL(path, true)
-                                 includingPropertiesForKeys:@[ NSURLTotalFileAllocatedSizeKey ]
-                                                    options:NSDirectoryEnumerationSkipsHiddenFiles
-                                               errorHandler:nil];
-        for (bool more = true; more;) {
-            @autoreleasepool {  // a folder may hold millions
-                NSURL* entry = [below nextObject];
-                more = entry != nil;
-                if (more) bytes += allocatedSizeOf(entry);
-            }
-        }
+        unlessThrown([&] { addAllocatedSizesBelow(path, bytes); }, [](NSException*) {});  // as far as it came
     }
     return bytes;
 }
@@ -83,15 +87,7 @@ int MacFileManager::tryOpen(const std::string& path) {
 }
 
 Failure MacFileManager::remove(const ItemPath& item) {
-    const RemovalTurn turn;
-    if (const int error = errorOnWay(item))
-        return failureText(item.name(), "couldn’t be removed", reasonOfParent(item, error));
-    @autoreleasepool {
-        NSError* error = nil;
-        if ([[NSFileManager defaultManager] removeItemAtURL:fileURL(item.text(), false) error:&error])
-            return std::nullopt;
-        return failureOf(error);
-    }
+    return removeItem(item);
 }
 
 }  // namespace zelk

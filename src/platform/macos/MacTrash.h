@@ -5,10 +5,13 @@
 
 namespace zelk {
 
+/// The system's own. It moves an item by its path: the way that the item was found is looked at just before, but what
+/// is put in place of a folder on it in the moment between is followed, and what then lies in the Trash is something
+/// else. Emptying goes by descriptors, like every removal.
 class MacTrash : public Trash {
 public:
     /// `home` without a slash at its end.
-    explicit MacTrash(const std::string& home) : location_(home + "/.Trash") {}
+    explicit MacTrash(const std::string& home) : home_(home), location_(home + "/.Trash") {}
 
     std::string location() override { return location_; }
     /// Absent also if there is no such folder: the system makes it with the account and guards it, so whoever cannot
@@ -18,6 +21,7 @@ public:
     std::size_t empty() override;
 
 private:
+    std::string home_;
     std::string location_;
 };
 

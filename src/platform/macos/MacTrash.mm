@@ -10,6 +10,7 @@
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
 #include "platform/posix/RemovalTurn.h"
+#include "platform/posix/RemoveEntry.h"
 
 namespace zelk {
 
@@ -26,31 +27,23 @@ Failure MacTrash::trash(const ItemPath& item) {
     if (const int error = errorOnWay(item))
         return failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error));
     @autoreleasepool {
-        NSError* error = nil;
-        // No slash at the end of the URL whatever the item is: of a link the link itself is meant.
-        if ([[NSFileManager defaultManager] trashItemAtURL:fileURL(item.text(), false)
-                                          resultingItemURL:nil
-                                                     error:&error])
-            return std::nullopt;
-        return failureOf(error);
+        return unlessThrown(
+            [&]() -> Failure {
+                NSError* error = nil;
+                // No slash at the end of the URL whatever the item is: of a link the link itself is meant.
+                if ([[NSFileManager defaultManager] trashItemAtURL:fileURL(item.text(), false)
+                                                  resultingItemURL:nil
+                                                             error:&error])
+                    return std::nullopt;
+                return failureOf(error);
+            },
+            [](NSException* exception) { return failureOf(exception); });
     }
 }
 
 std::size_t MacTrash::empty() {
-    std::size_t removed = 0;
-    @autoreleasepool {
-        NSFileManager* manager = [NSFileManager defaultManager];
-        NSArray<NSURL*>* entries = [manager contentsOfDirectoryAtURL:fileURL(location_, true)
-                                          includingPropertiesForKeys:@[]
-                                                             options:NSDirectoryEnumerationOptions {}
-                                                               error:nil];
-        for (NSUInteger index = 0; index < [entries count]; ++index) {
-            @autoreleasepool {
-                if ([manager removeItemAtURL:[entries objectAtIndex:index] error:nil]) ++removed;
-            }
-        }
-    }
-    return removed;
+    const Descriptor home(openForLookups(home_));
+    return home ? removeEntriesOf(Descriptor(openDirectoryBeneath(home.get(), ".Trash"))) : 0;
 }
 
 }  // namespace zelk

@@ -5,6 +5,7 @@
 #import <IOKit/ps/IOPowerSources.h>
 
 #include "platform/VitalsArithmetic.h"
+#include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
 #include "platform/macos/KernelFigures.h"
 
@@ -84,7 +85,9 @@ std::optional<VolumeInfo> MacVitals::volume(const std::string& path) {
             NSURLVolumeTotalCapacityKey, NSURLVolumeAvailableCapacityKey,
             NSURLVolumeAvailableCapacityForImportantUsageKey
         ];
-        NSDictionary<NSURLResourceKey, id>* values = [fileURL(path, false) resourceValuesForKeys:keys error:nil];
+        NSDictionary<NSURLResourceKey, id>* values =
+            unlessThrown([&] { return [fileURL(path, false) resourceValuesForKeys:keys error:nil]; },
+                         [](NSException*) -> NSDictionary<NSURLResourceKey, id>* { return nil; });
         if (values == nil) return std::nullopt;
         const auto bytes = [&](NSURLResourceKey key) { return integer([values objectForKey:key]).value_or(0); };
         return VolumeInfo{.total = bytes(NSURLVolumeTotalCapacityKey),

@@ -3,6 +3,7 @@
 
 #import <AppKit/AppKit.h>
 
+#include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
 
 namespace zelk {
@@ -21,25 +22,33 @@ std::vector<std::string> MacWorkspace::runningApplications() {
 
 void MacWorkspace::reveal(const std::vector<std::string>& paths) {
     @autoreleasepool {
-        NSMutableArray<NSURL*>* urls = [NSMutableArray arrayWithCapacity:paths.size()];
-        for (const std::string& path : paths)
-            if (NSURL* url = fileURL(path, false)) [urls addObject:url];
-        if ([urls count] > 0) [[NSWorkspace sharedWorkspace] activateFileViewerSelectingURLs:urls];
+        const auto show = [&] {
+            NSMutableArray<NSURL*>* urls = [NSMutableArray arrayWithCapacity:paths.size()];
+            for (const std::string& path : paths)
+                if (NSURL* url = fileURL(path, false)) [urls addObject:url];
+            if ([urls count] > 0) [[NSWorkspace sharedWorkspace] activateFileViewerSelectingURLs:urls];
+        };
+        unlessThrown(show, [](NSException*) {});
     }
 }
 
 void MacWorkspace::openURL(const std::string& url) {
     @autoreleasepool {
-        NSString* text = [NSString stringWithUTF8String:url.c_str()];
-        NSURL* address = text != nil ? [NSURL URLWithString:text] : nil;
-        if (address != nil) [[NSWorkspace sharedWorkspace] openURL:address];
+        const auto open = [&] {
+            NSString* text = [NSString stringWithUTF8String:url.c_str()];
+            NSURL* address = text != nil ? [NSURL URLWithString:text] : nil;
+            if (address != nil) [[NSWorkspace sharedWorkspace] openURL:address];
+        };
+        unlessThrown(open, [](NSException*) {});
     }
 }
 
 std::optional<IconPixels> MacWorkspace::icon(const std::string& path, bool /*isDirectory*/, int side) {
     @autoreleasepool {
         NSString* text = [NSString stringWithUTF8String:path.c_str()];
-        NSImage* image = text != nil ? [[NSWorkspace sharedWorkspace] iconForFile:text] : nil;
+        NSImage* image = text == nil ? nil
+                                     : unlessThrown([&] { return [[NSWorkspace sharedWorkspace] iconForFile:text]; },
+                                                    [](NSException*) -> NSImage* { return nil; });
         if (image == nil || side < 1) return std::nullopt;
 
         const auto length = static_cast<std::size_t>(side);

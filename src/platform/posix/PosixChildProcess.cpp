@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 
 #include <array>
+#include <mutex>
 #include <system_error>
 
 #include "platform/posix/Descriptor.h"
@@ -16,12 +17,21 @@ namespace zelk {
 
 namespace {
 
+#ifdef __APPLE__
+// No call there makes a pipe that closes itself in a child from the first moment. Whoever makes one or starts a child
+// holds this lock.
+std::mutex& startingChildren() {
+    static std::mutex lock;
+    return lock;
+}
+#endif
+
 /// The two ends, or errno in `error`. No child that is started meanwhile on another thread gets them.
 struct Pipe {
     Pipe() {
         int ends[2];
 #ifdef __APPLE__
-        // There is no call that does both; children get no descriptor but those they are given.
+        const std::lock_guard lock(startingChildren());
         error = ::pipe(ends) == 0 ? 0 : errno;
         if (error == 0)
             for (const int end : ends) ::fcntl(end, F_SETFD, FD_CLOEXEC);
@@ -86,6 +96,9 @@ int spawn(const std::string& executable, const std::vector<std::string>& argumen
     for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
     words.push_back(nullptr);
     const Outputs outputs(pipe.writing.get());
+#ifdef __APPLE__
+    const std::lock_guard lock(startingChildren());
+#endif
     return ::posix_spawn(&child, executable.c_str(), outputs.actions(), outputs.attributes(), words.data(), environ);
 }
 

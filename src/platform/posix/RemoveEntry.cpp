@@ -13,9 +13,11 @@
 
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryLadder.h"
+#include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/FileStatus.h"
 #include "platform/posix/MountTable.h"
+#include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
 #include "platform/posix/RemovalTurn.h"
 
@@ -182,6 +184,18 @@ Failure removeItem(const ItemPath& item) {
     const Descriptor parent = openParent(item);
     if (!parent) return failureText(item.name(), what, reasonOfParent(item, errno));
     return removeEntry(parent.get(), std::string(item.name()));
+}
+
+std::size_t removeEntriesOf(const Descriptor& folder) {
+    if (!folder) return 0;
+    const auto names = directoryNames(Descriptor(openDirectoryBeneath(folder.get(), "")));
+    if (!names) return 0;
+    std::size_t removed = 0;
+    for (const std::string& name : *names) {
+        const RemovalTurn turn;
+        if (!removeEntry(folder.get(), name)) ++removed;
+    }
+    return removed;
 }
 
 }  // namespace zelk

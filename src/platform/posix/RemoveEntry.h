@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "platform/Failure.h"
 #include "platform/ItemPath.h"
+#include "platform/posix/Descriptor.h"
 
 namespace zelk {
 
@@ -22,5 +24,9 @@ Failure removeEntry(int parent, const std::string& name);
 
 /// The same for an item of a survey, which is reached by the way that it was found. Waits for its turn.
 Failure removeItem(const ItemPath& item);
+
+/// Removes what `folder` holds, each entry on its own and in its turn: one that cannot be removed stays, and the next
+/// goes on. The number of entries removed.
+std::size_t removeEntriesOf(const Descriptor& folder);
 
 }  // namespace zelk

@@ -92,6 +92,10 @@ NSString* NSHomeDirectory(void);
 @property(readonly) NSString* localizedDescription;
 @end
 
+@interface NSException : NSObject
+@property(readonly) NSString* reason;
+@end
+
 @interface NSURL : NSObject
 @property(readonly) const char* fileSystemRepresentation;
 + (NSURL*)fileURLWithFileSystemRepresentation:(const char*)path
@@ -110,11 +114,6 @@ NSString* NSHomeDirectory(void);
                        includingPropertiesForKeys:(NSArray<NSURLResourceKey>*)keys
                                           options:(NSDirectoryEnumerationOptions)options
                                      errorHandler:(BOOL (^)(NSURL*, NSError*))handler;
-- (NSArray<NSURL*>*)contentsOfDirectoryAtURL:(NSURL*)url
-                  includingPropertiesForKeys:(NSArray<NSURLResourceKey>*)keys
-                                     options:(NSDirectoryEnumerationOptions)options
-                                       error:(out NSError**)error;
-- (BOOL)removeItemAtURL:(NSURL*)url error:(out NSError**)error;
 - (BOOL)trashItemAtURL:(NSURL*)url resultingItemURL:(out NSURL**)result error:(out NSError**)error;
 @end
 
