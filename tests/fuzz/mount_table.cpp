@@ -17,16 +17,21 @@ void require(bool condition) {
     if (!condition) std::abort();
 }
 
-/// As the kernel writes it.
-std::string lineOf(const zelk::Mount& mount) {
-    std::string line = std::to_string(mount.id) + " 1 8:1 / ";
-    for (const char c : mount.point) {
-        std::array<char, 8> escaped{c, '\0'};
+/// As the kernel writes a path.
+std::string escaped(const std::string& path) {
+    std::string text;
+    for (const char c : path) {
+        std::array<char, 8> bytes{c, '\0'};
         if (std::string_view(" \t\n\\#").find(c) != std::string_view::npos)
-            std::snprintf(escaped.data(), escaped.size(), "\\%03o", static_cast<unsigned char>(c));
-        line += escaped.data();
+            std::snprintf(bytes.data(), bytes.size(), "\\%03o", static_cast<unsigned char>(c));
+        text += bytes.data();
     }
-    return line + " rw,relatime shared:1 - ext4 /dev/sda1 rw\n";
+    return text;
+}
+
+std::string lineOf(const zelk::Mount& mount) {
+    return std::to_string(mount.id) + " " + std::to_string(mount.parent) + " " + mount.device + " " +
+           escaped(mount.root) + " " + escaped(mount.point) + " rw,relatime shared:1 - ext4 /dev/sda1 rw\n";
 }
 
 }  // namespace
@@ -43,6 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(mount.point == "/" || zelk::isMountedBelow(table, "/"));
         require(zelk::isMountedBelow(table, mount.point) ==
                 zelk::isMountedBelow(table, mount.point == "/" ? "" : mount.point + "/"));
+        require(zelk::isMountedAnywhereIn(table, mount.id, mount.point) || !zelk::isMountedBelow(table, mount.point));
         written += lineOf(mount);
     }
     require(zelk::parseMountTable(written) == table);

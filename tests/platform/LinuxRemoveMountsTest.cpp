@@ -90,6 +90,35 @@ TEST_F(RemoverAndMounts, whatIsMountedCanBeEmptiedFromWithin) {
     EXPECT_TRUE(namesIn(elsewhere).empty());
 }
 
+// The same folder is reached by two paths, and what is mounted below one of them holds the folder under it in place for
+// both, though below the other there is no mount to be seen.
+TEST_F(RemoverAndMounts, aMountBelowAnotherPathOfTheSameFolderIsRefusedAndNothingIsGone) {
+    zoo::makeFolder(temp / "alias");
+    mounts.again(temp.path(), temp / "alias");
+    mounts.memory(victim + "/m/mounted");
+    EXPECT_THAT(removedEntry(temp / "alias/victim"), Optional(refused));
+    EXPECT_THAT(removedEntry(temp / "alias/victim/m/mounted"),
+                Optional(std::string("“mounted” couldn’t be removed: another volume is mounted in it")));
+    for (const char* kept : {"/a/file", "/z/file", "/m/mounted"}) EXPECT_TRUE(fs::exists(victim + kept)) << kept;
+    EXPECT_EQ(removedEntry(temp / "alias/victim/a"), std::nullopt);
+}
+
+TEST_F(RemoverAndMounts, aMountBelowTheFolderThatIsSeenThroughAnAliasOfAPartOfItIsRefusedToo) {
+    zoo::makeFolder(temp / "alias");
+    mounts.again(victim, temp / "alias");
+    mounts.memory(temp / "alias/m/mounted");
+    EXPECT_THAT(removedEntry(victim), Optional(refused));
+    EXPECT_TRUE(fs::exists(victim + "/a/file") && fs::exists(victim + "/z/file"));
+}
+
+TEST_F(RemoverAndMounts, aFileMountedOverUnderAnotherPathIsRefusedAndNothingIsGone) {
+    zoo::makeFolder(temp / "alias");
+    mounts.again(temp.path(), temp / "alias");
+    mounts.again(elsewhere + "/kept", victim + "/z/file");
+    EXPECT_THAT(removedEntry(temp / "alias/victim"), Optional(refused));
+    EXPECT_TRUE(fs::exists(victim + "/a/file"));
+}
+
 // Nothing of the table of mounts, and then of the newest call, is needed to stop at a mount.
 class RemoverWithoutMountTable : public RemoverAndMounts, public testing::WithParamInterface<bool> {};
 

@@ -36,6 +36,37 @@ std::string unescaped(std::string_view text) {
     return plain;
 }
 
+bool takeNumber(std::string_view& text, std::uint64_t& number) {
+    const std::string_view digits = take(text, ' ');
+    const auto [stop, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return !digits.empty() && error == std::errc{} && stop == digits.data() + digits.size();
+}
+
+const Mount* findMount(const std::vector<Mount>& table, std::uint64_t id) {
+    const auto found = std::find_if(table.begin(), table.end(), [id](const Mount& mount) { return mount.id == id; });
+    return found == table.end() ? nullptr : &*found;
+}
+
+/// Where `path`, which is `folder` or below it, goes on behind it; absent if it is neither. With its slash at the
+/// front.
+std::optional<std::string_view> pathBehind(std::string_view folder, std::string_view path) {
+    while (folder.ends_with('/')) folder.remove_suffix(1);
+    while (path.ends_with('/')) path.remove_suffix(1);
+    if (!path.starts_with(folder)) return std::nullopt;
+    path.remove_prefix(folder.size());
+    if (!path.empty() && path.front() != '/') return std::nullopt;
+    return path;
+}
+
+/// Where on the device of `mount` that is which has the path `path` there; absent if it is not on that mount.
+std::optional<std::string> pathOnDevice(const Mount& mount, std::string_view path) {
+    const std::optional<std::string_view> behind = pathBehind(mount.point, path);
+    if (!behind) return std::nullopt;
+    std::string_view root = mount.root;
+    while (root.ends_with('/')) root.remove_suffix(1);
+    return std::string(root).append(*behind);
+}
+
 }  // namespace
 
 std::vector<Mount> parseMountTable(std::string_view mountinfo) {
@@ -43,12 +74,14 @@ std::vector<Mount> parseMountTable(std::string_view mountinfo) {
     while (!mountinfo.empty()) {
         std::string_view line = take(mountinfo, '\n');
         // 36 35 98:0 /root/of/the/mount /mount/point options...
-        const std::string_view id = take(line, ' ');
-        for (int passed = 0; passed < 3; ++passed) take(line, ' ');
-        Mount mount{0, unescaped(take(line, ' '))};
-        const auto [stop, error] = std::from_chars(id.data(), id.data() + id.size(), mount.id);
-        if (id.empty() || error != std::errc{} || stop != id.data() + id.size()) continue;
-        if (!mount.point.starts_with('/') || mount.point.find('\0') != std::string::npos) continue;
+        Mount mount;
+        bool good = takeNumber(line, mount.id);
+        good = takeNumber(line, mount.parent) && good;
+        mount.device = take(line, ' ');
+        mount.root = unescaped(take(line, ' '));
+        mount.point = unescaped(take(line, ' '));
+        if (!good || !mount.point.starts_with('/')) continue;
+        if ((mount.root + mount.point).find('\0') != std::string::npos) continue;
         while (mount.point.size() > 1 && mount.point.ends_with('/')) mount.point.pop_back();
         table.push_back(std::move(mount));
     }
@@ -56,16 +89,26 @@ std::vector<Mount> parseMountTable(std::string_view mountinfo) {
 }
 
 std::optional<std::string> mountPointOf(const std::vector<Mount>& table, std::uint64_t id) {
-    const auto found = std::find_if(table.begin(), table.end(), [id](const Mount& mount) { return mount.id == id; });
-    if (found == table.end()) return std::nullopt;
+    const Mount* const found = findMount(table, id);
+    if (found == nullptr) return std::nullopt;
     return found->point;
 }
 
 bool isMountedBelow(const std::vector<Mount>& table, std::string_view path) {
-    while (path.ends_with('/')) path.remove_suffix(1);
-    return std::any_of(table.begin(), table.end(), [path](const Mount& mount) {
-        const std::string_view point = mount.point;
-        return point.size() > path.size() + 1 && point.starts_with(path) && point[path.size()] == '/';
+    return std::any_of(table.begin(), table.end(),
+                       [path](const Mount& mount) { return !pathBehind(path, mount.point).value_or("").empty(); });
+}
+
+bool isMountedAnywhereIn(const std::vector<Mount>& table, std::uint64_t mount, std::string_view path) {
+    if (isMountedBelow(table, path)) return true;
+    const Mount* const own = findMount(table, mount);
+    const std::optional<std::string> place = own != nullptr ? pathOnDevice(*own, path) : std::nullopt;
+    if (!place) return false;
+    return std::any_of(table.begin(), table.end(), [&](const Mount& other) {
+        const Mount* const parent = findMount(table, other.parent);
+        if (parent == nullptr || parent->device != own->device) return false;
+        const std::optional<std::string> covered = pathOnDevice(*parent, other.point);
+        return covered && pathBehind(*place, *covered);
     });
 }
 

@@ -175,7 +175,8 @@ Failure removeEntry(int parent, const std::string& name) {
         return failed(systemText(errno));
     }
     const std::optional<std::string> folder = pathOfDirectory(parent);
-    if (folder && isMountedBelow(mountTable(), pathIn(*folder, name))) return failed("another volume is mounted in it");
+    if (folder && isMountedAnywhereIn(mountTable(), item->mount, pathIn(*folder, name)))
+        return failed("another volume is mounted in it");
     return TreeRemover(parent, name).run();
 }
 
