@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <vector>
 
 #include "fakes/InChild.h"
 #include "fakes/OpenDescriptors.h"
@@ -164,30 +165,81 @@ TEST_F(Remover, saysThatAnItemIsMissing) {
                 Optional(std::string("“below” couldn’t be removed: Not a directory")));
 }
 
-TEST_F(Remover, saysWhichFileCouldNotBeRemovedAndStops) {
-    zoo::makeFile(victim + "/locked/file");
-    fakes::giveToOrdinaryUser(victim);
-    ASSERT_EQ(::chmod((victim + "/locked").c_str(), 0500), 0);
-    EXPECT_TRUE(
-        asOrdinaryUser([&] { return removed(victim) == "“file” in “victim” couldn’t be removed: Permission denied"; }));
-    EXPECT_TRUE(fs::exists(victim + "/locked/file"));
-}
-
-TEST_F(Remover, changesNoPermissionToRemoveAFolderThatForbidsIt) {
-    for (const mode_t mode : {0000, 0300, 0500, 0600}) {
+TEST_F(Remover, saysWhichFolderOfAnotherUsersForbidsItAndStops) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
+    for (const mode_t mode : {0555, 0700}) {
         fs::remove_all(victim);
         zoo::makeFile(victim + "/locked/file");
+        fakes::giveToOrdinaryUser(victim);
+        ASSERT_EQ(::chown((victim + "/locked").c_str(), 0, 0), 0);
+        ASSERT_EQ(::chmod((victim + "/locked").c_str(), mode), 0);
+        const std::string name = mode == 0555 ? "file" : "locked";
+        EXPECT_TRUE(asOrdinaryUser([&] {
+            return removed(victim) == "“" + name + "” in “victim” couldn’t be removed: Permission denied";
+        })) << mode;
+        EXPECT_TRUE(fs::exists(victim + "/locked/file"));
+        EXPECT_EQ(fs::status(victim + "/locked").permissions(), fs::perms(mode));
+    }
+}
+
+TEST_F(Remover, takesFoldersThatTheirOwnerMayNotChangeOrRead) {
+    for (const mode_t mode : {0000, 0100, 0200, 0300, 0400, 0500, 0600}) {
+        for (const char* name : {"/file", "/below/file", "/below/deeper/file"})
+            zoo::makeFile(victim + "/locked" + name);
+        zoo::makeFolder(victim + "/locked/empty");
         ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
         fakes::giveToOrdinaryUser(victim);
-        ASSERT_EQ(::chmod((victim + "/locked").c_str(), mode), 0);
-        EXPECT_TRUE(asOrdinaryUser([&] {
-            const Failure failure = removed(victim);
-            return failure && failure->ends_with("couldn’t be removed: Permission denied") &&
-                   fs::status(victim + "/locked").permissions() == fs::perms(mode);
-        })) << mode;
-        ASSERT_EQ(::chmod((victim + "/locked").c_str(), 0700), 0);
-        EXPECT_TRUE(fs::exists(victim + "/locked/file"));
+        for (const char* folder : {"/locked/below/deeper", "/locked/below", "/locked/empty", "/locked", ""})
+            ASSERT_EQ(::chmod((victim + folder).c_str(), mode), 0);
+        EXPECT_TRUE(asOrdinaryUser([&] { return !removed(victim); })) << mode;
+        EXPECT_FALSE(fs::exists(victim)) << mode;
+        fs::remove_all(victim);
     }
+}
+
+TEST_F(Remover, takesFoldersThatMayNotBeChangedWithoutTheNewestCall) {
+    for (const mode_t mode : {0000, 0500}) {
+        zoo::makeFile(victim + "/locked/below/file");
+        ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
+        fakes::giveToOrdinaryUser(victim);
+        for (const char* folder : {"/locked/below", "/locked"}) ASSERT_EQ(::chmod((victim + folder).c_str(), mode), 0);
+        EXPECT_TRUE(asOrdinaryUser([&] { return withoutTheNewestCall([&] { return !removed(victim); }); })) << mode;
+        EXPECT_FALSE(fs::exists(victim)) << mode;
+    }
+}
+
+TEST_F(Remover, takesADeepTreeOfFoldersThatMayNotBeChanged) {
+    zoo::makeChain(victim, 60, 4);
+    ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
+    fakes::giveToOrdinaryUser(victim);
+    std::vector<std::string> folders{victim};
+    for (const auto& entry : fs::recursive_directory_iterator(victim)) {
+        if (entry.is_directory()) folders.push_back(entry.path().string());
+    }
+    for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder)
+        ASSERT_EQ(::chmod(folder->c_str(), 0500), 0);
+    EXPECT_TRUE(asOrdinaryUser([&] { return !removed(victim); }));
+    EXPECT_FALSE(fs::exists(victim));
+}
+
+TEST_F(Remover, changesNoPermissionOfTheFolderThatHoldsTheItem) {
+    zoo::makeFile(victim + "/item/file");
+    fakes::giveToOrdinaryUser(victim);
+    ASSERT_EQ(::chmod(victim.c_str(), 0500), 0);
+    EXPECT_TRUE(
+        asOrdinaryUser([&] { return removed(victim + "/item") == "“item” couldn’t be removed: Permission denied"; }));
+    EXPECT_EQ(fs::status(victim).permissions(), fs::perms(0500));
+}
+
+TEST_F(Remover, changesNoPermissionOfWhatALinkLeadsTo) {
+    zoo::makeFolder(victim);
+    ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
+    fakes::giveToOrdinaryUser(temp.path());
+    ASSERT_EQ(::chmod(outside.c_str(), 0500), 0);
+    fs::create_directory_symlink(outside, victim + "/away");
+    EXPECT_TRUE(asOrdinaryUser([&] { return !removed(victim); }));
+    EXPECT_EQ(fs::status(outside).permissions(), fs::perms(0500));
+    expectOutsideUntouched();
 }
 
 TEST_F(Remover, takesAnEmptyFolderThatMayNotBeLookedInto) {

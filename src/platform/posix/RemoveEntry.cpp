@@ -19,6 +19,7 @@
 #include "platform/posix/MountTable.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
+#include "platform/posix/OwnerAccess.h"
 #include "platform/posix/RemovalTurn.h"
 
 namespace zelk {
@@ -72,6 +73,23 @@ private:
         return starts_.size() == 1 ? ladder_.start(openSubdirectoryOnMount(parent_, name)) : ladder_.descend(name);
     }
 
+    /// Does `call` in the directory it stands in, and again once its owner may change it. The folder that holds the
+    /// item is not part of what is to go, and stays as it is.
+    template <class Call>
+    bool inFolder(Call call) {
+        if (call()) return true;
+        const int error = errno;
+        if (error == EACCES && starts_.size() > 1 && giveOwnerAccess(ladder_.current())) return call();
+        errno = error;
+        return false;
+    }
+
+    /// After it could not go into `name`: true if it may by now.
+    bool openToOwner(const std::string& name) {
+        const bool here = starts_.size() > 1 && giveOwnerAccess(ladder_.current());
+        return giveOwnerAccess(current(), name) || here;
+    }
+
     bool enterLast() {
         const std::string name = names_.back();
         if (descend(name)) {
@@ -83,8 +101,10 @@ private:
         switch (error) {
             case ENOENT:
                 break;
-            case EACCES:  // one that may not be listed may still be empty
-            case EPERM:
+            case EACCES:
+                if (openToOwner(name)) return true;  // it stays on the list
+                [[fallthrough]];
+            case EPERM:  // one that may not be listed may still be empty
                 if (!unlinkFolder(current(), name.c_str())) return failOnLast(error);
                 break;
             case ENOTDIR:
@@ -105,7 +125,7 @@ private:
         ladder_.ascend();
         const std::string name = names_.back();
         if (current() < 0) return failOnLast(ESTALE);
-        if (unlinkFolder(current(), name.c_str())) {
+        if (inFolder([&] { return unlinkFolder(current(), name.c_str()); })) {
             names_.pop_back();
             return true;
         }
@@ -135,7 +155,7 @@ private:
         }
         if (errno != 0 && errno != ENOENT) return fail(own, isItem, errno);
         for (const std::string& name : files) {
-            if (unlinkFile(folder, name.c_str())) continue;
+            if (inFolder([&] { return unlinkFile(folder, name.c_str()); })) continue;
             const int error = errno;
             if (!isFolderAfter(error, folder, name)) return fail(name, false, error);
             names_.push_back(name);

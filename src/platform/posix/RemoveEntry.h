@@ -17,8 +17,9 @@ namespace zelk {
 ///   matters, and nothing that is put in place of a folder meanwhile leads elsewhere.
 /// - Links are removed and not followed.
 /// - What is mounted, from another volume or from elsewhere on this one, stays. A folder with a mount below it is
-///   refused before anything of it is gone.
-/// - No permission is changed to make removing possible.
+///   refused before anything of it is gone, also where the mount is at another path of the same folder.
+/// - A folder below `name`, and `name` itself, that its owner may not read or change is opened to the owner, where that
+///   is this user: the person wants it gone, and half of it gone would be the worst. No other permission is changed.
 /// - What somebody else removes meanwhile is well removed; only `name` itself has to be there at the start.
 Failure removeEntry(int parent, const std::string& name);
 
