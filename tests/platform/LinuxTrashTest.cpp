@@ -96,6 +96,39 @@ TEST(LinuxTrash, isAbsentWhereItMayNotBeLookedInto) {
     EXPECT_TRUE(asOrdinaryUser([&] { return !LinuxTrash(home.path()).list(); }));
 }
 
+TEST(LinuxTrash, isAbsentWhereALinkOnTheWayToItLeadsNowhere) {
+    for (const char* place : {".local/share/Trash/files", ".local/share/Trash", ".local/share", ".local"}) {
+        const TempFolder home;
+        zoo::makeFolder(fs::path(home / place).parent_path().string());
+        fs::create_directory_symlink(home / "nowhere", home / place);
+        EXPECT_FALSE(LinuxTrash(home.path()).list()) << place;
+        zoo::makeFolder(home / "nowhere");
+        EXPECT_THAT(LinuxTrash(home.path()).list(), Optional(IsEmpty())) << place;
+    }
+}
+
+TEST(LinuxTrash, refusesFoldersOfItsOwnThatOthersMayChange) {
+    for (const char* folder : {"", "/files", "/info"}) {
+        for (const mode_t mode : {0777, 0702, 0720, 01777}) {
+            const TempFolder temp;
+            const std::string trash = temp / "home/.local/share/Trash";
+            for (const char* made : {"/files", "/info"}) zoo::makeFolder(trash + made);
+            writeFile(temp / "item", "content");
+            LinuxTrash itsTrash(temp / "home");
+            const auto trashed = [&] { return itsTrash.trash(ItemPath::from(temp / "item").value()); };
+            ASSERT_EQ(::chmod((trash + folder).c_str(), mode), 0);
+            EXPECT_THAT(trashed(), Optional("“item” couldn’t be moved to the Trash: “" + trash + folder +
+                                            "” may be changed by others"));
+            EXPECT_EQ(fileContent(temp / "item"), "content");
+            zoo::makeFile(trash + "/files/kept");
+            EXPECT_EQ(itsTrash.empty(), 0u);
+            EXPECT_TRUE(fs::exists(trash + "/files/kept"));
+            ASSERT_EQ(::chmod((trash + folder).c_str(), 0755), 0);
+            EXPECT_EQ(trashed(), std::nullopt);
+        }
+    }
+}
+
 TEST(LinuxTrash, isAbsentWhereItIsNoFolder) {
     const TempFolder home;
     zoo::makeFile(home / ".local/share/Trash/files");

@@ -148,6 +148,23 @@ TEST_F(VolumeTrash, isRefusedIfAnotherUserMadeIt) {
     EXPECT_THAT(namesIn(own), IsEmpty());
 }
 
+TEST_F(VolumeTrash, isRefusedIfOthersMayChangeIt) {
+    zoo::makeFolder(own);
+    ASSERT_EQ(::chmod(own.c_str(), 0777), 0);
+    for (const mode_t top : {0755, 01777}) {
+        ASSERT_EQ(::chmod(stick.c_str(), top), 0);
+        expectRefused("“" + own + "” may be changed by others");
+        EXPECT_THAT(namesIn(own), IsEmpty());
+    }
+}
+
+TEST_F(VolumeTrash, isOpenToAllWhereTheWholeVolumeIs) {
+    zoo::makeFolder(own);
+    ASSERT_EQ(::chmod(own.c_str(), 0777), 0);
+    ASSERT_EQ(::chmod(stick.c_str(), 0777), 0);
+    expectTrashedIn(own);
+}
+
 TEST_F(VolumeTrash, isRefusedIfItIsALink) {
     zoo::makeFolder(stick + "/elsewhere");
     fs::create_directory_symlink("elsewhere", own);

@@ -2,6 +2,7 @@
 #include "platform/linux/LinuxTrash.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <cerrno>
 #include <string_view>
@@ -58,6 +59,15 @@ std::optional<bool> isInside(int folder, const FileStatus& other) {
 }
 
 }  // namespace
+/// Whether the nearest there is of `path`, which could not be found, is a link that leads nowhere: then what it should
+/// lead to is missing, such as a volume, and not a folder that was never made.
+bool endsInADeadLink(std::string path) {
+    struct stat status {};
+    while (::lstat(path.c_str(), &status) != 0 && errno == ENOENT && path.find('/') != std::string::npos)
+        path.resize(path.rfind('/'));
+    return S_ISLNK(status.st_mode) && ::stat(path.c_str(), &status) != 0;
+}
+
 
 LinuxTrash::LinuxTrash(const std::string& home) : dataHome_(LinuxLocations(home).applicationSupport().value()) {}
 
@@ -68,7 +78,7 @@ std::string LinuxTrash::location() {
 std::optional<std::vector<std::string>> LinuxTrash::list() {
     Descriptor folder(openRootDirectory(location()));
     // The folder is made by whoever trashes something first.
-    if (!folder && errno == ENOENT) return std::vector<std::string>();
+    if (!folder && errno == ENOENT && !endsInADeadLink(location())) return std::vector<std::string>();
     std::optional<std::vector<std::string>> entries = directoryNames(std::move(folder));
     if (entries) {
         for (std::string& entry : *entries) entry.insert(0, location() + "/");

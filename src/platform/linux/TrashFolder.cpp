@@ -21,7 +21,9 @@ std::string reasonText(const std::string& path, std::string_view why) {
 /// Opens folders one below the other, each a real folder of this user's.
 class OwnFolders {
 public:
-    OwnFolders(IfMissing ifMissing, std::string& reason) : ifMissing_(ifMissing), reason_(reason) {}
+    /// `openToAll` are the bits of a mode that keep nobody out here.
+    OwnFolders(IfMissing ifMissing, std::string& reason, mode_t openToAll = 0)
+        : ifMissing_(ifMissing), forbidden_((S_IWGRP | S_IWOTH) & ~openToAll), reason_(reason) {}
 
     Descriptor open(int parent, const std::string& above, const char* name) {
         const std::string path = pathIn(above, name);
@@ -32,6 +34,7 @@ public:
         const std::optional<FileStatus> status = fileStatus(folder.get());
         if (!status) return refuse(path, "couldn’t be opened: " + systemText(errno));
         if (status->owner != ::geteuid()) return refuse(path, "belongs to another user");
+        if ((status->mode & forbidden_) != 0) return refuse(path, "may be changed by others");
         return folder;
     }
 
@@ -61,6 +64,7 @@ private:
     }
 
     IfMissing ifMissing_;
+    mode_t forbidden_;
     std::string& reason_;
 };
 
@@ -103,7 +107,9 @@ std::optional<TrashFolder> openVolumeTrash(const std::string& top, const FileSta
         reason = "its volume has no place for a Trash";
         return std::nullopt;
     }
-    OwnFolders own(IfMissing::create, reason);
+    // Some volumes keep no permissions, and whoever may change the top folder could take the whole trash from it
+    // anyway.
+    OwnFolders own(IfMissing::create, reason, (status->mode & S_ISVTX) != 0 ? 0 : status->mode);
     const std::string user = std::to_string(::geteuid());
     if (const Descriptor shared = openSharedTrash(folder.get())) {
         if (auto trash = own.openTrash(shared.get(), pathIn(top, ".Trash"), user.c_str())) return trash;

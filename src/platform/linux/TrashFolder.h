@@ -10,7 +10,8 @@
 namespace zelk {
 
 /// One of the user's trash folders, open: the folder itself, and its "files" and "info". All three are real folders of
-/// this user, no links, on one volume: nobody else can have put them there, or can read or take what is put in.
+/// this user, no links, on one volume, and others may not change them: nobody else can have put them there, or can take
+/// what is put in.
 struct TrashFolder {
     Descriptor itself;
     Descriptor files;
@@ -24,7 +25,8 @@ enum class IfMissing { fail, create };
 std::optional<TrashFolder> openHomeTrash(const std::string& dataHome, IfMissing ifMissing, std::string& reason);
 
 /// The trash of the volume whose top folder is `top`, created likewise: ".Trash/UID" where somebody with power over the
-/// volume has made a ".Trash" that is a real folder and sticky, else ".Trash-UID".
+/// volume has made a ".Trash" that is a real folder and sticky, else ".Trash-UID". Where all
+/// may change the top folder, as on volumes that keep no permissions, its trash is not refused for being open to them.
 std::optional<TrashFolder> openVolumeTrash(const std::string& top, const FileStatus& volume, std::string& reason);
 
 }  // namespace zelk
