@@ -24,12 +24,12 @@ constexpr int maximumLinks = 40;  // what the kernel itself follows
 constexpr off_t maximumRead = off_t{256} << 20;
 constexpr std::size_t maximumWrite = std::size_t{1} << 30;  // macOS refuses 2 GiB at once
 
-struct Place {
+struct ResolvedFile {
     std::string folder;  // with the slash at its end
     std::string name;
 };
 
-Place split(const std::string& path) {
+ResolvedFile split(const std::string& path) {
     const std::size_t slash = path.rfind('/');
     if (slash == std::string::npos) return {"./", path};
     return {path.substr(0, slash + 1), path.substr(slash + 1)};
@@ -50,10 +50,10 @@ std::optional<std::string> linkTarget(const std::string& path) {
 }
 
 /// Where the file itself lies, or would lie, behind the links at the end of `path`.
-std::optional<Place> resolve(std::string path) {
+std::optional<ResolvedFile> resolve(std::string path) {
     for (int links = 0; links <= maximumLinks; ++links) {
         struct stat status {};
-        Place place = split(path);
+        ResolvedFile place = split(path);
         if (!isPlainName(place.name)) return std::nullopt;
         if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return place;
         const std::optional<std::string> target = linkTarget(path);
@@ -134,7 +134,7 @@ bool isDirectory(const std::string& path) {
 }  // namespace
 
 bool replaceFileDurably(const std::string& path, std::string_view content) {
-    const std::optional<Place> place = resolve(path);
+    const std::optional<ResolvedFile> place = resolve(path);
     if (!place) return false;
     const Descriptor folder = openFolder(place->folder);
     if (!folder) return false;
