@@ -77,6 +77,15 @@ TEST_F(BulkMounts, whatIsMountedAfterTheRootWasOpenedIsNotRead) {
     });
 }
 
+TEST_F(BulkMounts, fileThatSomethingIsMountedOnIsAFileLikeAnyOther) {
+    expectIn([&](fakes::Mounts& mounts) {
+        mounts.again(top + "/mounted2/file", top + "/before/file");
+        const auto root = service.openRoot(top);
+        const auto reader = service.makeReader();
+        return deviceOf(reader->open(*root, "before"), "file") == service.status(top)->device;
+    });
+}
+
 TEST_F(BulkMounts, mountedFolderAsARootIsRead) {
     expectIn([&](fakes::Mounts& mounts) {
         mounts.memory(top + "/mounted");
