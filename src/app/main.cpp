@@ -69,7 +69,7 @@ int main(int argc, char** argv) {
         services.quit = &QCoreApplication::quit;
         services.bundle = zelk::applicationBundle();
         zelk::Shell shell(model, services);
-        const zelk::EndSignals signals([&] { shell.main().quitQuestion().quitUnasked(); });
+        const zelk::EndSignals endSignals([&] { shell.main().quitQuestion().quitUnasked(); });
         shell.start();
         status = QApplication::exec();
     }

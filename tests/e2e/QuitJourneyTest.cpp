@@ -6,6 +6,7 @@
 
 #include "ReclaimingFixture.h"
 #include "fakes/FakeTray.h"
+#include "ui/shell/AppCommands.h"
 #include "ui/shell/QuitQuestion.h"
 
 namespace zelk {

@@ -22,7 +22,7 @@ bool hasDefault(int signal) {
 TEST(EndSignals, areToldOnceEachFromTheEventLoop) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         int asked = 0;
-        const EndSignals signals([&] { ++asked; });
+        const EndSignals heard([&] { ++asked; });
         ::raise(signal);
         EXPECT_EQ(asked, 0);
         runUntil([&] { return asked > 0; });
@@ -35,7 +35,7 @@ TEST(EndSignals, areToldOnceEachFromTheEventLoop) {
 TEST(EndSignals, areLeftAsTheyWereFound) {
     const auto open = fakes::openDescriptors();
     {
-        const EndSignals signals([] {});
+        const EndSignals heard([] {});
         for (const int signal : {SIGTERM, SIGINT, SIGHUP}) EXPECT_FALSE(hasDefault(signal));
     }
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) EXPECT_TRUE(hasDefault(signal));
