@@ -26,7 +26,8 @@ public:
     /// takes a path: what is put there between our look at the way and its move does.
     virtual Failure trash(const ItemPath& item) = 0;
     /// Removes for good what it holds, each entry on its own: one that cannot be removed stays, and the next goes on.
-    /// The number of entries removed.
+    /// What is trashed meanwhile is left alone, and another emptying, of another process of this application too, waits
+    /// for its end. The number of entries removed.
     virtual std::size_t empty() = 0;
 };
 

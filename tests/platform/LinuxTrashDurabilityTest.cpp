@@ -29,7 +29,7 @@ using fakes::writeFile;
 const std::string tracedCalls =
     "?access,?faccessat,?faccessat2,?open,openat,?openat2,?mkdir,mkdirat,?stat,?lstat,?fstat,?newfstatat,?statx,"
     "?readlink,readlinkat,read,write,fsync,close,?rename,renameat,?renameat2,?unlink,unlinkat,?rmdir,flock,fcntl,"
-    "?getdents64,?lseek,?statfs,?fstatfs";
+    "?getdents64,?lseek,?statfs,?fstatfs,?link,linkat,?chmod,?fchmod";
 
 class TrashDurability : public testing::Test {
 protected:
@@ -40,13 +40,23 @@ protected:
         for (const char* name : {"/files/item.txt", "/files/folder/a/file", "/files/folder/b/file"})
             zoo::makeFile(trash + name);
         zoo::makeFolder(trash + "/info");
-        for (const char* name : {"item.txt", "folder"})
-            writeFile(trash + "/info/" + name + ".trashinfo", infoOf("/old/" + std::string(name)));
+        for (const char* name : {"item.txt", "folder"}) addInfo(name);
         writeFile(item, "content");
     }
 
-    static std::string infoOf(const std::string& path) {
-        return "[Trash Info]\nPath=" + path + "\nDeletionDate=2026-01-01T00:00:00\n";
+    /// As one of this application's own, whose orphans are swept.
+    void addInfo(const std::string& name) const {
+        const std::string path = trash + "/info/" + name + ".trashinfo";
+        writeFile(path, "[Trash Info]\nPath=/old/" + name + "\nDeletionDate=2026-01-01T00:00:00\n");
+        ASSERT_EQ(::chmod(path.c_str(), 01600), 0);
+    }
+
+    /// The next run trashes one item, and has swept what the last one left by then.
+    void expectNoOrphanAfterTheNextItem() const {
+        const std::string next = items + "/next";
+        writeFile(next, "next");
+        EXPECT_EQ(program.run({ZELK_TRASH_WRITER, "trash", home, next}, {}), 0);
+        EXPECT_EQ(namesIn(trash + "/info").size(), namesIn(trash + "/files").size());
     }
 
     int trashItem(const fakes::Arguments& injections) {
@@ -197,11 +207,14 @@ TEST_F(TrashDurability, aKillAtAnyCallLeavesTheItemOrBringsItIntoTheTrash) {
         EXPECT_TRUE(isInPlace() != isInTrash());
         EXPECT_TRUE(oldOnesAreThere());
         (isInPlace() ? killedInPlace : killedInTrash) = true;
+        expectNoOrphanAfterTheNextItem();
+        EXPECT_TRUE(isInPlace() != isInTrash());
         // And what was left is in nobody's way.
         if (isInPlace()) {
             EXPECT_EQ(trashItem({}), 0);
         }
         EXPECT_TRUE(isInTrash() && !isInPlace());
+        EXPECT_TRUE(oldOnesAreThere());
     }
     EXPECT_TRUE(killedInPlace && killedInTrash);
 }
@@ -246,7 +259,8 @@ TEST_F(TrashDurability, aKillAtAnyCallOfEmptyingLeavesNoContentWithoutInfo) {
         const std::size_t left = namesIn(trash + "/files").size();
         EXPECT_EQ(restorable(trash).size(), left);
         EXPECT_TRUE(isInPlace());
-        EXPECT_EQ(emptyTrash({}), static_cast<int>(left));
+        expectNoOrphanAfterTheNextItem();
+        EXPECT_EQ(emptyTrash({}), static_cast<int>(left) + 1);
         EXPECT_TRUE(namesIn(trash + "/files").empty());
     }
 }

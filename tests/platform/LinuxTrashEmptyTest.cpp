@@ -6,7 +6,13 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <cerrno>
 #include <filesystem>
+#include <future>
+#include <mutex>
+#include <thread>
+#include <utility>
 
 #include "fakes/InChild.h"
 #include "fakes/SystemCallGate.h"
@@ -47,6 +53,34 @@ protected:
     void add(const std::string& name) {
         addInfo(name);
         zoo::makeFile(files + "/" + name, 10);
+    }
+
+    /// A folder of the ordinary user's, with one in it that is another user's.
+    void addLocked() {
+        zoo::makeFile(files + "/locked/theirs/file");
+        addInfo("locked");
+        fakes::giveToOrdinaryUser(home);
+        if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
+        ASSERT_EQ(::chown((files + "/locked/theirs").c_str(), 0, 0), 0);
+    }
+
+    void trashNewcomer() {
+        writeFile(temp / "same", "newcomer");
+        EXPECT_EQ(LinuxTrash(home).trash(ItemPath::from(temp / "same").value()), std::nullopt);
+    }
+
+    /// Where it is in the Trash; empty if it could not be put back.
+    std::string newcomer() {
+        const auto found = restorable(trash);
+        const auto at = found.find(temp / "same");
+        return at == found.end() ? "" : at->second;
+    }
+
+    void expectNewcomerAlone() {
+        EXPECT_EQ(namesIn(files).size(), 1u);
+        EXPECT_EQ(namesIn(info).size(), 1u);
+        EXPECT_EQ(fakes::fileContent(newcomer()), "newcomer");
+        EXPECT_EQ(itsTrash.empty(), 1u);
     }
 
     const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
@@ -134,34 +168,220 @@ TEST_F(EmptyingTrash, dropsTheSizesThatOthersKept) {
     EXPECT_FALSE(fs::exists(trash + "/directorysizes"));
 }
 
-TEST_F(EmptyingTrash, leavesWhatCannotBeRemovedWithItsInfoAndGoesOn) {
-    for (const char* name : {"a", "z"}) add(name);
-    zoo::makeFile(files + "/locked/file");
+TEST_F(EmptyingTrash, takesAFolderInWhichItsOwnerMayChangeNothing) {
+    for (const char* folder : {"locked", "locked/below"}) zoo::makeFile(files + "/" + folder + "/file");
     addInfo("locked");
     fakes::giveToOrdinaryUser(home);
-    ASSERT_EQ(::chmod((files + "/locked").c_str(), 0500), 0);
+    for (const char* folder : {"locked/below", "locked"}) ASSERT_EQ(::chmod((files + "/" + folder).c_str(), 0500), 0);
+    EXPECT_TRUE(asOrdinaryUser([&] { return itsTrash.empty() == 1; }));
+    EXPECT_THAT(namesIn(files), IsEmpty());
+    EXPECT_THAT(namesIn(info), IsEmpty());
+}
+
+TEST_F(EmptyingTrash, leavesWhatCannotBeRemovedWithItsInfoAndGoesOn) {
+    for (const char* name : {"a", "z"}) add(name);
+    addLocked();
     EXPECT_TRUE(asOrdinaryUser([&] { return itsTrash.empty() == 2; }));
     EXPECT_THAT(namesIn(files), ElementsAre("locked"));
     EXPECT_THAT(namesIn(info), ElementsAre("locked.trashinfo"));
-    EXPECT_TRUE(fs::exists(files + "/locked/file"));
+    EXPECT_TRUE(fs::exists(files + "/locked/theirs/file"));
+}
+
+TEST_F(EmptyingTrash, leavesWhatCannotBeRemovedAlsoWhereNoFileHasASecondName) {
+    add("file");
+    addLocked();
+    const auto emptied = [&] {
+        std::size_t removed = 0;
+        fakes::behindGate(
+            SYS_linkat, [](unsigned) { return EPERM; }, [&] { removed = itsTrash.empty(); });
+        return removed == 1;
+    };
+    EXPECT_TRUE(asOrdinaryUser(emptied));
+    EXPECT_THAT(namesIn(files), ElementsAre("locked"));
+    EXPECT_THAT(namesIn(info), ElementsAre("locked.trashinfo"));
+}
+
+TEST_F(EmptyingTrash, whatCannotBeRemovedGivesWayToANewcomerOfItsName) {
+    addLocked();
+    zoo::makeFolder(temp / "mine");
+    writeFile(temp / "mine/locked", "newcomer");
+    fakes::giveToOrdinaryUser(temp / "mine");
+    const auto emptied = [&] {
+        const auto rule = [&](unsigned call) {
+            // The entry has another name by now, and none of it could be removed yet.
+            return call == 1 && LinuxTrash(home).trash(ItemPath::from(temp / "mine/locked").value()) ? EIO : 0;
+        };
+        std::size_t removed = 1;
+        fakes::behindGate(SYS_unlinkat, rule, [&] { removed = itsTrash.empty(); });
+        return removed == 0;
+    };
+    EXPECT_TRUE(asOrdinaryUser(emptied));
+    const auto found = restorable(trash);
+    EXPECT_EQ(found.size(), namesIn(files).size());
+    ASSERT_EQ(found.count(temp / "mine/locked"), 1u);
+    EXPECT_EQ(fakes::fileContent(found.at(temp / "mine/locked")), "newcomer");
+    ASSERT_EQ(found.count("/was/here"), 1u);
+    EXPECT_TRUE(fs::exists(found.at("/was/here") + "/theirs/file"));
 }
 
 TEST_F(EmptyingTrash, meetsWhatIsTrashedMeanwhile) {
-    add("same");
-    writeFile(temp / "same", "newcomer");
+    for (unsigned at = 0; at < 3; ++at) {
+        add("same");
+        fakes::behindGate(
+            SYS_unlinkat,
+            [&](unsigned call) {
+                if (call == at) trashNewcomer();
+                return 0;
+            },
+            [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
+        expectNewcomerAlone();
+    }
+}
+
+TEST_F(EmptyingTrash, leavesTheInfoOfANewcomerThatTakesTheNameOfContentWithoutInfo) {
+    for (unsigned at = 0; at < 2; ++at) {
+        zoo::makeFile(files + "/same");
+        fakes::behindGate(
+            SYS_unlinkat,
+            [&](unsigned call) {
+                // Content without info has its name for as long as it is there, and not a moment longer.
+                if (call == at) trashNewcomer();
+                return 0;
+            },
+            [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
+        expectNewcomerAlone();
+    }
+}
+
+// Another program, which waits for nobody, empties the Trash in the middle of it, and something new gets the name.
+TEST_F(EmptyingTrash, takesNoNewcomerForWhatItHasListed) {
+    for (const long call : {SYS_statx, SYS_linkat, SYS_renameat2}) {
+        unsigned calls = 0;
+        add("same");
+        fakes::behindGate(
+            static_cast<int>(call), [&](unsigned) { return ++calls, 0; }, [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
+        ASSERT_GT(calls, 0u);
+        unsigned kept = 0;
+        for (unsigned at = 0; at < calls; ++at) {
+            add("same");
+            fakes::behindGate(
+                static_cast<int>(call),
+                [&](unsigned number) {
+                    if (number != at) return 0;
+                    for (const std::string& folder : {files, info})
+                        for (const std::string& name : namesIn(folder)) fs::remove_all(folder + "/" + name);
+                    trashNewcomer();
+                    return 0;
+                },
+                [&] { itsTrash.empty(); });
+            EXPECT_EQ(restorable(trash).size(), namesIn(files).size()) << call << " " << at;
+            const bool isKept = fs::exists(newcomer());
+            EXPECT_TRUE(isKept || kept == 0) << call << " " << at << ": it came after the listing";
+            if (isKept) ++kept;
+            itsTrash.empty();
+        }
+        EXPECT_EQ(kept, call == SYS_statx ? kept : calls) << call;
+        EXPECT_GT(kept, 0u) << call;
+    }
+}
+
+TEST_F(EmptyingTrash, waitsForAnotherEmptyingAndRemovesNothingByAnOldName) {
+    for (unsigned at = 0; at < 3; ++at) {
+        add("same");
+        std::promise<void> first;
+        std::promise<void> second;
+        std::once_flag told;
+        std::shared_future<void> firstEnded = first.get_future().share();
+        std::thread other;
+        const auto beSecond = [&] {
+            fakes::behindGate(
+                SYS_flock,
+                [&](unsigned) {
+                    std::call_once(told, [&] { second.set_value(); });
+                    firstEnded.wait();
+                    return 0;
+                },
+                [&] { LinuxTrash(home).empty(); });
+            std::call_once(told, [&] { second.set_value(); });
+        };
+        fakes::behindGate(
+            SYS_unlinkat,
+            [&](unsigned call) {
+                if (call != at) return 0;
+                other = std::thread(beSecond);
+                second.get_future().wait();
+                trashNewcomer();
+                return 0;
+            },
+            [&] { itsTrash.empty(); });
+        EXPECT_EQ(fakes::fileContent(newcomer()), "newcomer") << at;
+        first.set_value();
+        other.join();
+        EXPECT_EQ(restorable(trash).size(), namesIn(files).size()) << at;
+        EXPECT_EQ(itsTrash.empty(), namesIn(files).size());
+    }
+}
+
+TEST_F(EmptyingTrash, twoAtOnceTakeTurns) {
+    const Descriptor others(::open(files.c_str(), O_RDONLY | O_DIRECTORY));
+    ASSERT_EQ(::flock(others.get(), LOCK_EX), 0);
+    add("file");
+    std::thread emptier;
+    std::promise<void> waits;
+    std::atomic<bool> ended{false};
+    emptier = std::thread([&] {
+        bool first = true;
+        fakes::behindGate(
+            SYS_flock,
+            [&](unsigned) {
+                if (std::exchange(first, false)) waits.set_value();
+                return 0;
+            },
+            [&] { itsTrash.empty(); });
+        ended = true;
+    });
+    waits.get_future().wait();
+    EXPECT_FALSE(ended);
+    EXPECT_THAT(namesIn(files), ElementsAre("file"));
+    ASSERT_EQ(::flock(others.get(), LOCK_UN), 0);
+    emptier.join();
+    EXPECT_THAT(namesIn(files), IsEmpty());
+}
+
+TEST_F(EmptyingTrash, needsNoLocksWhereThereAreNone) {
+    for (const int error : {EOPNOTSUPP, ENOLCK, ENOSYS, EINVAL}) {
+        add("file");
+        fakes::behindGate(
+            SYS_flock, [&](unsigned) { return error; }, [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
+        EXPECT_THAT(namesIn(info), IsEmpty());
+    }
+    add("file");
     fakes::behindGate(
-        SYS_unlinkat,
-        [&](unsigned call) {
-            // Its content is gone and its info is about to go: the name is not free yet.
-            if (call == 1) {
-                EXPECT_EQ(LinuxTrash(home).trash(ItemPath::from(temp / "same").value()), std::nullopt);
-            }
-            return 0;
-        },
-        [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
-    const auto found = restorable(trash);
-    ASSERT_EQ(found.size(), 1u);
-    EXPECT_EQ(fakes::fileContent(found.at(temp / "same")), "newcomer");
+        SYS_flock, [&](unsigned) { return EIO; }, [&] { EXPECT_EQ(itsTrash.empty(), 0u); });
+    EXPECT_EQ(restorable(trash).size(), 1u);
+}
+
+TEST_F(EmptyingTrash, worksWhereNoFileHasASecondName) {
+    for (const int error : {EPERM, EOPNOTSUPP, ENOSYS, EMLINK}) {
+        add("file");
+        zoo::makeFile(files + "/orphan");
+        fakes::behindGate(
+            SYS_linkat, [&](unsigned) { return error; }, [&] { EXPECT_EQ(itsTrash.empty(), 2u); });
+        EXPECT_THAT(namesIn(files), IsEmpty());
+        EXPECT_THAT(namesIn(info), IsEmpty());
+    }
+}
+
+TEST_F(EmptyingTrash, takesWhatAnEmptyingThatWasKilledHasLeft) {
+    const std::string own = "emptying." + std::to_string(::getpid()) + ".";
+    for (const char* number : {"0", "1"}) add(own + number);
+    zoo::makeFile(files + "/" + own + "2");
+    addInfo(own + "3");
+    add("file");
+    zoo::makeFile(files + "/orphan");
+    EXPECT_EQ(itsTrash.empty(), 5u);
+    EXPECT_THAT(namesIn(files), IsEmpty());
+    EXPECT_THAT(namesIn(info), IsEmpty());
 }
 
 TEST_F(EmptyingTrash, numbersBeginAgainAfterwards) {

@@ -2,69 +2,124 @@
 #include "platform/linux/EmptyTrash.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <ctime>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/linux/MoveWithoutReplacing.h"
 #include "platform/linux/TrashInfo.h"
-#include "platform/linux/TrashMove.h"
+#include "platform/linux/TrashOrphans.h"
 #include "platform/posix/DirectoryNames.h"
+#include "platform/posix/FolderLock.h"
 #include "platform/posix/RemoveEntry.h"
 
 namespace zelk {
 namespace {
 
-/// Other programs hold no lock between writing an info file and moving its content, but are not that slow.
-constexpr std::time_t youngSeconds = 60;
+/// An entry as it was when the Trash was listed. Its name may be another's by now.
+struct Entry {
+    std::string name;
+    FileStatus content;
+};
 
-/// By a descriptor of its own: a listing begins where the last one with the same descriptor ended.
-std::vector<std::string> namesIn(const Descriptor& folder) {
-    return directoryNames(Descriptor(::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)))
-        .value_or(std::vector<std::string>());
-}
-
-bool isMissing(const Descriptor& folder, const std::string& name) {
-    struct stat status {};
-    return ::fstatat(folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 && errno == ENOENT;
-}
-
-bool isYoung(const Descriptor& folder, const std::string& name) {
-    struct stat status {};
-    if (::fstatat(folder.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) return true;
-    const std::time_t now = ::time(nullptr);
-    return status.st_mtime > now - youngSeconds && status.st_mtime <= now;
-}
-
-void sweepInfos(const TrashFolder& trash, const std::vector<std::string>& infos) {
-    const Descriptor held = holdTrash(trash.info.get());
-    if (!held) return;
-    for (const std::string& info : infos) {
-        if (!info.ends_with(trashInfoSuffix) || isYoung(trash.info, info)) continue;
-        const std::string content = info.substr(0, info.size() - trashInfoSuffix.size());
-        if (content.empty() || isMissing(trash.files, content)) ::unlinkat(trash.info.get(), info.c_str(), 0);
+std::vector<Entry> entriesOf(const TrashFolder& trash) {
+    std::vector<Entry> entries;
+    for (std::string& name : directoryNames(openAnew(trash.files)).value_or(std::vector<std::string>())) {
+        if (const auto status = fileStatus(trash.files.get(), name)) entries.push_back({std::move(name), *status});
     }
+    return entries;
+}
+
+bool isAt(const Place& place, const FileStatus& file) {
+    const std::optional<FileStatus> there = fileStatus(place.folder, place.name);
+    return there && there->isSameFile(file);
+}
+
+Place infoOf(const TrashFolder& trash, const std::string& name) {
+    return {trash.info.get(), name + std::string(trashInfoSuffix)};
+}
+
+/// Gives the info at `from` the name `to` too; where the volume knows no second names, instead. 0 also if there is
+/// none.
+int nameInfo(const Place& from, const Place& to) {
+    if (::linkat(from.folder, from.name.c_str(), to.folder, to.name.c_str(), 0) == 0) return 0;
+    const bool noSecondNames = errno == EPERM || errno == ENOSYS || errno == EOPNOTSUPP || errno == EMLINK;
+    const int error = noSecondNames ? moveWithoutReplacing(from, to) : errno;
+    if (error != ENOENT) return error;
+    return fileStatus(to.folder, to.name) ? EEXIST : 0;
+}
+
+void takeInfoBack(const Place& from, const Place& to) {
+    const int error = moveWithoutReplacing(to, from);
+    if (error == 0 || error == EEXIST) ::unlinkat(to.folder, to.name.c_str(), 0);
+}
+
+/// Renames an entry within `trash`, so that its content has info all the time, if it had. 0, or the errno: EEXIST if
+/// the name `to` is taken. On any error the entry is where it was, or what has its name now.
+int renameEntry(const TrashFolder& trash, const Entry& entry, const std::string& to) {
+    const Place content{trash.files.get(), entry.name};
+    const Place newContent{trash.files.get(), to};
+    const Place info = infoOf(trash, entry.name);
+    const Place newInfo = infoOf(trash, to);
+    if (const int error = nameInfo(info, newInfo); error != 0) return error;
+    int error = moveWithoutReplacing(content, newContent);
+    if (error == 0 && !isAt(newContent, entry.content)) {
+        error = ESTALE;
+        // Where the name is taken once more, the newcomer keeps the name that it came to, and its info there.
+        if (moveWithoutReplacing(newContent, content) != 0) return error;
+    }
+    if (error != 0) {
+        takeInfoBack(info, newInfo);
+        return error;
+    }
+    // What is there by now may belong to a newcomer.
+    const std::optional<FileStatus> own = fileStatus(newInfo.folder, newInfo.name);
+    if (own && isAt(info, *own)) ::unlinkat(info.folder, info.name.c_str(), 0);
+    return 0;
+}
+
+/// Gives the entry a name that nobody has, and takes for anything else. Absent if it keeps its own.
+std::optional<std::string> setAside(const TrashFolder& trash, const Entry& entry) {
+    constexpr int maximumTries = 1000;
+    Descriptor moving;  // its info is without content for a moment, which is no orphan
+    if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return std::nullopt;
+    for (int tried = 0; tried < maximumTries; ++tried) {
+        std::string own = "emptying." + std::to_string(::getpid()) + "." + std::to_string(tried);
+        const int error = renameEntry(trash, entry, own);
+        if (error == 0) return own;
+        if (error != EEXIST) return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+/// If its name has been taken it stays where it is, whole and with its info.
+void putBack(const TrashFolder& trash, const std::string& own, const Entry& entry) {
+    Descriptor moving;
+    if (lockFolder(trash.info.get(), LOCK_SH, moving)) renameEntry(trash, {own, entry.content}, entry.name);
 }
 
 }  // namespace
 
 std::size_t emptyTrash(const TrashFolder& trash) {
-    const std::vector<std::string> infos = namesIn(trash.info);
+    Descriptor turn;
+    if (!lockFolder(trash.files.get(), LOCK_EX, turn)) return 0;
     std::size_t removed = 0;
-    for (const std::string& name : namesIn(trash.files)) {
-        const std::string info = name + std::string(trashInfoSuffix);
-        // A name is taken for as long as there is info, so this info is the content's own. Where there is none, what
-        // turns up later belongs to a newcomer of the same name.
-        const bool hasInfo = !isMissing(trash.info, info);
-        if (removeEntry(trash.files.get(), name)) continue;
+    for (const Entry& entry : entriesOf(trash)) {
+        const std::optional<std::string> own = setAside(trash, entry);
+        if (!own) continue;
+        if (removeEntry(trash.files.get(), *own)) {
+            putBack(trash, *own, entry);
+            continue;
+        }
         ++removed;
-        if (hasInfo) ::unlinkat(trash.info.get(), info.c_str(), 0);
+        const Place info = infoOf(trash, *own);
+        ::unlinkat(info.folder, info.name.c_str(), 0);
     }
-    sweepInfos(trash, infos);
+    sweepOrphans(trash, Orphans::anybody);
     // Sizes that other programs keep so that they need not count again.
     if (removed > 0) ::unlinkat(trash.itself.get(), "directorysizes", 0);
     return removed;

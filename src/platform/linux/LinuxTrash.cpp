@@ -12,6 +12,7 @@
 #include "platform/linux/LinuxLocations.h"
 #include "platform/linux/TrashFolder.h"
 #include "platform/linux/TrashMove.h"
+#include "platform/linux/TrashOrphans.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/FileStatus.h"
@@ -58,7 +59,6 @@ std::optional<bool> isInside(int folder, const FileStatus& other) {
     return true;
 }
 
-}  // namespace
 /// Whether the nearest there is of `path`, which could not be found, is a link that leads nowhere: then what it should
 /// lead to is missing, such as a volume, and not a folder that was never made.
 bool endsInADeadLink(std::string path) {
@@ -68,6 +68,7 @@ bool endsInADeadLink(std::string path) {
     return S_ISLNK(status.st_mode) && ::stat(path.c_str(), &status) != 0;
 }
 
+}  // namespace
 
 LinuxTrash::LinuxTrash(const std::string& home) : dataHome_(LinuxLocations(home).applicationSupport().value()) {}
 
@@ -129,8 +130,16 @@ Failure LinuxTrash::move(const ItemPath& item) {
     if (!inside) return systemText(errno);
     if (*inside) return "it is in the Trash already";
 
+    sweepAtFirst(*trash, *itself);
     const std::string key = std::to_string(itself->device) + ":" + std::to_string(itself->inode) + "/" + from.name;
     return moveIntoTrash(from, original, *trash, [&] { return numbers_.next(key); });
+}
+
+/// Whoever comes meanwhile waits: none of this process is then between the two steps of a move, which would put it off.
+void LinuxTrash::sweepAtFirst(const TrashFolder& trash, const FileStatus& itself) {
+    const std::lock_guard lock(sweeping_);
+    const std::pair key(itself.device, itself.inode);
+    if (!swept_.contains(key) && sweepOrphans(trash, Orphans::own)) swept_.insert(key);
 }
 
 std::size_t LinuxTrash::empty() {

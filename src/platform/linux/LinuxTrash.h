@@ -2,12 +2,18 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <mutex>
+#include <set>
+#include <utility>
 
 #include "platform/Trash.h"
 
 namespace zelk {
+
+struct FileStatus;
+struct TrashFolder;
 
 /// The Trash of freedesktop.org. What lies on the volume of the home trash ("Trash" in the XDG data home) goes there,
 /// anything else to the trash at the top of its own volume. An item is only ever renamed, never copied.
@@ -34,11 +40,15 @@ private:
         std::map<std::string, std::size_t> last_;
     };
 
+    /// Once in a run and trash: what a run that was killed has left there.
+    void sweepAtFirst(const TrashFolder& trash, const FileStatus& itself);
     /// The reason for a person if it could not be moved.
     Failure move(const ItemPath& item);
 
     std::string dataHome_;
     Numbers numbers_;
+    std::mutex sweeping_;
+    std::set<std::pair<std::uint64_t, std::uint64_t>> swept_;  ///< the trashes by device and inode
 };
 
 }  // namespace zelk

@@ -82,6 +82,10 @@ Descriptor openSharedTrash(int top) {
 
 }  // namespace
 
+Descriptor openAnew(const Descriptor& folder) {
+    return Descriptor(::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
 std::optional<TrashFolder> openHomeTrash(const std::string& dataHome, IfMissing ifMissing, std::string& reason) {
     if (ifMissing == IfMissing::create && !createDirectoryTree(dataHome)) {
         reason = reasonText(dataHome, "couldn’t be created: " + systemText(errno));

@@ -18,6 +18,10 @@ struct TrashFolder {
     Descriptor info;
 };
 
+/// Another descriptor of the open directory `folder`: a listing begins where the last one with the same descriptor
+/// ended.
+Descriptor openAnew(const Descriptor& folder);
+
 enum class IfMissing { fail, create };
 
 /// The home trash in the folder `dataHome`, created for the user alone (0700) with what is missing above it. Absent,

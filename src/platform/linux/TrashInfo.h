@@ -2,6 +2,8 @@
 // The texts of the freedesktop.org Trash. Pure functions.
 #pragma once
 
+#include <sys/types.h>
+
 #include <cstddef>
 #include <ctime>
 #include <string>
@@ -10,6 +12,11 @@
 namespace zelk {
 
 inline constexpr std::string_view trashInfoSuffix = ".trashinfo";
+
+/// Set in the mode of the info files that this application writes: the sticky bit, which means nothing on a file. One
+/// that lost its content is known by it as our own, and need not be left for a while lest somebody else's is on its
+/// way.
+inline constexpr mode_t ownInfoMark = 01000;
 
 /// The content of an info file: where an item was (bytes: absolute, or relative to the top of its volume) and when, in
 /// local time, it was trashed.

@@ -12,6 +12,7 @@
 
 #include "platform/linux/TrashInfo.h"
 #include "platform/posix/FailureText.h"
+#include "platform/posix/FolderLock.h"
 
 namespace zelk {
 namespace {
@@ -44,10 +45,12 @@ bool writeAll(int file, std::string_view content) {
 
 /// 0, or the errno; EEXIST if there is such a file already. On any error there is none of ours.
 int createInfo(const Place& info, std::string_view content) {
-    Descriptor file(uninterrupted([&] {
+    const auto create = [&info](mode_t mode) {
         constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-        return ::openat(info.folder, info.name.c_str(), flags, 0600);
-    }));
+        return uninterrupted([&] { return ::openat(info.folder, info.name.c_str(), flags, mode); });
+    };
+    Descriptor file(create(0600 | ownInfoMark));
+    if (!file && (errno == EPERM || errno == EINVAL)) file = Descriptor(create(0600));  // no volume for such a mark
     if (!file) return errno;
     const bool written = writeAll(file.get(), content) && uninterrupted([&] { return ::fsync(file.get()); }) == 0;
     const int error = errno;
@@ -85,28 +88,11 @@ std::string reasonOfMove(int error) {
     }
 }
 
-/// Absent, with the reason in errno, if it cannot be had.
-Descriptor lockedInfo(int info, int operation) {
-    Descriptor folder(uninterrupted([&] { return ::openat(info, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
-    if (!folder) return {};
-    if (uninterrupted([&] { return ::flock(folder.get(), operation); }) == 0) return folder;
-    const int error = errno;
-    folder = Descriptor();
-    errno = error;
-    return {};
-}
-
-/// Whether an error says that a volume has no locks at all.
-bool knowsNoLocks(int error) {
-    return error == ENOTSUP || error == EOPNOTSUPP || error == ENOSYS || error == ENOLCK || error == EINVAL;
-}
-
 }  // namespace
 
 Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next) {
-    // Where a volume knows no locks there is nobody to wait for: see holdTrash().
-    const Descriptor lock = lockedInfo(trash.info.get(), LOCK_SH);
-    if (!lock && !knowsNoLocks(errno)) return systemText(errno);
+    Descriptor moving;  // its info is without content for a moment, which is no orphan
+    if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return systemText(errno);
     const std::string text = trashInfoText(path, localTime());
     const std::size_t limit = longestName(trash.files.get());
     int error = EEXIST;
@@ -117,10 +103,6 @@ Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFol
     }
     if (error == 0) return std::nullopt;
     return reasonOfMove(error);
-}
-
-Descriptor holdTrash(int info) {
-    return lockedInfo(info, LOCK_EX | LOCK_NB);
 }
 
 }  // namespace zelk

@@ -19,8 +19,4 @@ using NextNumber = std::function<std::size_t()>;
 /// it was and no info file is left. Nothing in the Trash is ever written over, such as content that lost its info.
 Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next);
 
-/// Keeps moveIntoTrash(), in any process of this application, from being between its two steps for as long as the
-/// descriptor is open. None if somebody is. `info` is the trash's folder of info files.
-Descriptor holdTrash(int info);
-
 }  // namespace zelk

@@ -2,11 +2,13 @@
 #include "platform/macos/MacTrash.h"
 
 #import <Foundation/Foundation.h>
+#include <sys/file.h>
 
 #include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FailureText.h"
+#include "platform/posix/FolderLock.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
 #include "platform/posix/RemovalTurn.h"
@@ -43,7 +45,11 @@ Failure MacTrash::trash(const ItemPath& item) {
 
 std::size_t MacTrash::empty() {
     const Descriptor home(openForLookups(home_));
-    return home ? removeEntriesOf(Descriptor(openDirectoryBeneath(home.get(), ".Trash"))) : 0;
+    if (!home) return 0;
+    const Descriptor trash(openDirectoryBeneath(home.get(), ".Trash"));
+    Descriptor turn;
+    if (!trash || !lockFolder(trash.get(), LOCK_EX, turn)) return 0;
+    return removeEntriesOf(trash);
 }
 
 }  // namespace zelk
