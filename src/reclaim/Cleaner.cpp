@@ -119,4 +119,13 @@ std::size_t Cleaner::emptyTrashContents(Trash& trash) {
     return trash.empty();
 }
 
+void Cleaner::emptyTrash(const Platform& platform, std::function<void()> done, std::shared_ptr<Removal> removal) {
+    platform.tasks.run(TaskPriority::userInitiated,
+                       [&trash = platform.trash, done = std::move(done), removal = std::move(removal)] {
+                           if (removal == nullptr || removal->mayBegin()) emptyTrashContents(trash);
+                           if (removal != nullptr) removal->noteDone();
+                           done();
+                       });
+}
+
 }  // namespace zelk

@@ -71,8 +71,14 @@ public:
     /// The bytes that the entries of the Trash allocate. A hidden entry of the Trash counts, hidden ones inside a
     /// trashed folder do not. Absent if the Trash may not be looked into.
     static std::optional<std::uint64_t> measureTrash(FileManager& files, Trash& trash);
-    /// Removes for good what the Trash holds; the number of entries removed, which may be fewer than there were.
+    /// Removes for good what the Trash holds, after any other emptying that is under way; the number of entries
+    /// removed, which may be fewer than there were.
     static std::size_t emptyTrashContents(Trash& trash);
+    /// The same in a task, for all who have a button for it, and comes back at once. `done` is called on the task's
+    /// thread. The services must stay until then. With a `removal` of one item it is noted there, and not begun once that
+    /// is to stop.
+    static void emptyTrash(const Platform& platform, std::function<void()> done,
+                           std::shared_ptr<Removal> removal = nullptr);
 };
 
 }  // namespace zelk

@@ -45,17 +45,14 @@ void AppModel::refreshTrash() {
 void AppModel::emptyTrash() {
     if (emptyingTrash_) return;
     assign(emptyingTrash_, true, &AppModel::emptyingTrashChanged);
-    auto work = [this, sender = calls_.sender(), &files = platform_.files, &trash = platform_.trash,
-                 removal = removals_.begin(1)] {
-        if (removal->mayBegin()) Cleaner::emptyTrashContents(trash);
-        removal->noteDone();
+    auto told = [this, sender = calls_.sender(), &files = platform_.files, &trash = platform_.trash] {
         sender.post([this, bytes = Cleaner::measureTrash(files, trash)] {
             takeTrashMeasure(bytes);
             assign(emptyingTrash_, false, &AppModel::emptyingTrashChanged);
             if (const auto volume = platform_.vitals.volume(firstPlace())) setVolume(volume);
         });
     };
-    platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
+    Cleaner::emptyTrash(platform_, std::move(told), removals_.begin(1));
 }
 
 /// Measures and emptyings run side by side, and the last to end is what is shown.

@@ -131,16 +131,14 @@ void DryRunModel::emptyTrash() {
     if (!emptyable() || emptyingTrash_ || left_) return;
     emptyingTrash_ = true;
     emit phaseChanged();
-    auto empty = [this, sender = calls_.sender(), &trash = platform_.trash, removal = model_.removals().begin(1)] {
-        if (removal->mayBegin()) Cleaner::emptyTrashContents(trash);
-        removal->noteDone();
+    auto told = [this, sender = calls_.sender()] {
         sender.post([this] {
             emptyingTrash_ = false;
             trashEmptied_ = true;
             emit phaseChanged();
         });
     };
-    platform_.tasks.run(TaskPriority::userInitiated, std::move(empty));
+    Cleaner::emptyTrash(platform_, std::move(told), model_.removals().begin(1));
 }
 
 void DryRunModel::finish() {
