@@ -64,8 +64,10 @@ public:
     /// every descend() is paired with one ascend().
     virtual const Entries* descend(std::string_view name) = 0;
 
-    /// Back to the directory above. It is not listed again.
-    virtual void ascend() = 0;
+    /// Back to the directory above. It is not listed again. False if it stands nowhere now: above what was opened last,
+    /// or deep in a tree that was changed meanwhile, the way back may be lost. Then every descend() gives nullptr until
+    /// open() finds the place again by its path.
+    virtual bool ascend() = 0;
 };
 
 /// Makes roots and readers. Safe from any thread.

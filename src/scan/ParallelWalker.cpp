@@ -110,10 +110,7 @@ void ParallelWalker::visit(Worker& worker, const Work& work) {
     if (cancel_->isSet()) return;  // a cancelled stack drains through here, and done_ follows from the counting
     work.node->fullPath(worker.path);
     worker.inTrash = work.inTrash || trash_.areAt(worker.path);
-    std::size_t start = work.rootLength;
-    while (start < worker.path.size() && worker.path[start] == '/') ++start;
-    worker.below.assign(worker.path, std::min(start, worker.path.size()));
-    const DirectoryReader::Entries* entries = work.root ? worker.reader->open(*work.root, worker.below) : nullptr;
+    const DirectoryReader::Entries* entries = work.root ? openAt(worker, work) : nullptr;
     if (entries == nullptr) {
         collectors_.counters.recordBlocked();
         return;
@@ -122,31 +119,43 @@ void ParallelWalker::visit(Worker& worker, const Work& work) {
     if (work.depth + 1 < parallelDepth)
         pushChildren(work, worker.inTrash);
     else
-        visitInline(worker, *work.node, work.rootDev);
+        visitInline(worker, work);
 }
 
-/// Everything below `top`, where the reader stands, on this thread. The way back is kept in a list and not on the
-/// thread's stack: how deep a drive's folders go is not for us to say.
-void ParallelWalker::visitInline(Worker& worker, FSNode& top, std::int32_t rootDev) {
+/// Stands at the worker's path, by the way from the root.
+const DirectoryReader::Entries* ParallelWalker::openAt(Worker& worker, const Work& work) {
+    std::size_t start = work.rootLength;
+    while (start < worker.path.size() && worker.path[start] == '/') ++start;
+    worker.below.assign(worker.path, std::min(start, worker.path.size()));
+    return worker.reader->open(*work.root, worker.below);
+}
+
+/// Everything below the directory of `work`, where the reader stands, on this thread. The way back is kept in a list
+/// and not on the thread's stack: how deep a drive's folders go is not for us to say.
+void ParallelWalker::visitInline(Worker& worker, const Work& work) {
     std::vector<Worker::Level>& levels = worker.levels;
     levels.clear();
-    levels.push_back({&top, 0, worker.path.size(), worker.inTrash});
+    levels.push_back({work.node.get(), 0, worker.path.size(), worker.inTrash});
+    bool isLost = false;
     while (true) {
         Worker::Level& level = levels.back();
         worker.path.resize(level.pathLength);
         if (level.nextChild == level.node->children.size()) {
             levels.pop_back();
             if (levels.empty()) return;
-            worker.reader->ascend();
+            isLost = !worker.reader->ascend();
             continue;
         }
         if (cancel_->isSet()) return;
+        // What is still to be visited here is not unreadable because the way back to it was lost. It is listed a second
+        // time for that, which is not looked at.
+        if (std::exchange(isLost, false)) openAt(worker, work);
         FSNode& child = *level.node->children[level.nextChild++];
         appendComponent(worker.path, child.name());
         worker.inTrash = level.inTrash || trash_.areAt(worker.path);
         const DirectoryReader::Entries* entries = worker.reader->descend(child.name());
         if (entries != nullptr) {
-            fill(worker, child, *entries, rootDev);
+            fill(worker, child, *entries, work.rootDev);
         } else {
             collectors_.counters.recordBlocked();
         }

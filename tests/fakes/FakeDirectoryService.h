@@ -68,6 +68,8 @@ public:
 
     /// It cannot be listed, though it can be looked at from above.
     void unreadable(const std::string& path) { make(path).readable = false; }
+    /// A reader that comes back to it from below does not find it again, as where it was moved meanwhile.
+    void lostOnTheWayBack(const std::string& path) { make(path).lostOnTheWayBack = true; }
     /// It cannot even be looked at: status() gives nothing.
     void invisible(const std::string& path) { make(path).visible = false; }
 
@@ -134,6 +136,7 @@ private:
         const Node* target = nullptr;
         bool readable = true;
         bool visible = true;
+        bool lostOnTheWayBack = false;
         std::vector<Node*> children{};  // in the order in which they were made, which is the order of delivery
         std::map<std::string, Node*, std::less<>> byName{};
     };
@@ -156,9 +159,12 @@ private:
             standing_.push_back(from == nullptr ? nullptr : service_.child(from, name));
             return listing();
         }
-        void ascend() override {
-            if (standing_.empty()) throw std::logic_error("ascend() without a descend()");
+        bool ascend() override {
+            if (standing_.empty()) return false;  // where it was opened anew below what was opened first
             standing_.pop_back();
+            if (!standing_.empty() && standing_.back() != nullptr && standing_.back()->lostOnTheWayBack)
+                standing_.back() = nullptr;
+            return !standing_.empty() && standing_.back() != nullptr;
         }
 
     private:

@@ -346,11 +346,12 @@ TEST_F(LinuxDirectoryReaderTest, chainFarPastAPathsLengthIsReadAtEveryLevelOnBot
         below += (below.empty() ? "" : "/") + name;
     }
     for (int level = levels - 1; level >= 1; --level) {
-        reader->ascend();
+        ASSERT_TRUE(reader->ascend()) << level;
         ASSERT_EQ(reader->descend("file"), nullptr) << level;
-        reader->ascend();
+        ASSERT_TRUE(reader->ascend()) << level;
     }
     EXPECT_EQ(namesOf(reader->open(*root, below)), Names{"file"});
+    EXPECT_FALSE(reader->ascend()) << "it was opened there, and knows nothing above";
 }
 
 TEST_F(LinuxDirectoryReaderTest, folderWithoutPermissionToListIsUnreadable) {

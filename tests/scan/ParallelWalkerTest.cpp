@@ -232,6 +232,21 @@ TEST_F(ParallelWalkerTest, aChainOfFiftyThousandFoldersIsWalkedWhole) {
     EXPECT_EQ(result.stats.blockedPaths, 0);
 }
 
+TEST_F(ParallelWalkerTest, whatIsLostOnTheWayBackIsOpenedAnewFromTheRoot) {
+    const std::string deep = "/root/1/2/3/4/5/6/7";
+    for (const char* name : {"/a/b", "/c", "/d"}) disk.file(deep + name + "/file", 100);
+    for (const char* name : {"/8/e", "/8/f/g", "/8/h"}) disk.file(deep + name + "/file", 1'000);
+    disk.file("/root/1/2/3/4/5/6/z/file", 10'000);
+    for (const std::string& lost : {deep, deep + "/8", deep + "/8/f"}) disk.lostOnTheWayBack(lost);
+    for (const char* root : {"/root", "/root/"}) {
+        const ScanResult result = scan({root});
+        EXPECT_FALSE(result.blocked);
+        EXPECT_EQ(result.stats.blockedPaths, 0);
+        EXPECT_EQ(result.stats.filesScanned, 7);
+        EXPECT_EQ(result.top->size, 13'300);
+    }
+}
+
 TEST_F(ParallelWalkerTest, progressComesEveryTwentyThousandItems) {
     for (int d = 0; d < 5; ++d)
         for (int f = 0; f < 9'999; ++f) disk.file("/r/" + std::to_string(d) + "/" + std::to_string(f), 1);

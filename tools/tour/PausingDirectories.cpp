@@ -20,7 +20,7 @@ public:
         return through(real_->open(root, below));
     }
     const Entries* descend(std::string_view name) override { return through(real_->descend(name)); }
-    void ascend() override { real_->ascend(); }
+    bool ascend() override { return real_->ascend(); }
 
 private:
     const Entries* through(const Entries* entries) {

@@ -67,7 +67,7 @@ public:
         return read();
     }
 
-    void ascend() override { ladder_.ascend(); }
+    bool ascend() override { return ladder_.ascend(); }
 
 private:
     const Entries* read() {

@@ -73,7 +73,7 @@ public:
 
     const Entries* descend(std::string_view name) override { return ladder_.descend(name) ? read() : nullptr; }
 
-    void ascend() override { ladder_.ascend(); }
+    bool ascend() override { return ladder_.ascend(); }
 
 private:
     const Entries* read() {

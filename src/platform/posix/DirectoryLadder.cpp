@@ -31,8 +31,8 @@ bool DirectoryLadder::descend(std::string_view name) {
     return push(opener_(above, name));
 }
 
-void DirectoryLadder::ascend() {
-    if (rungs_.empty()) return;
+bool DirectoryLadder::ascend() {
+    if (rungs_.empty()) return false;
     const Rung left = rungs_.back();
     rungs_.pop_back();
     if (!rungs_.empty() && rungs_.back().set) {
@@ -51,6 +51,7 @@ void DirectoryLadder::ascend() {
     }
     if (left.fd >= 0) close(left.fd);
     if (firstOpen_ > rungs_.size()) firstOpen_ = rungs_.size();
+    return current() >= 0;
 }
 
 void DirectoryLadder::clear() {

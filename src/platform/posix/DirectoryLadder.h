@@ -35,7 +35,8 @@ public:
     bool start(int directory);
     /// One level down; also when it gives false, with errno set, it has gone down.
     bool descend(std::string_view name);
-    void ascend();
+    /// One level up. False if it stands nowhere now, as where the directory above was not found again.
+    bool ascend();
     /// The descriptor where it stands, owned by the ladder; -1 where it could not be opened.
     int current() const { return rungs_.empty() ? -1 : rungs_.back().fd; }
 
