@@ -14,12 +14,12 @@ protected:
     ~QuitWindow() override { close(); }
 
     /// A button has the keyboard when the question comes.
-    void ask(QSize size = {960, 620}) {
+    void ask() {
         show(QStringLiteral("import QtQuick\nimport Zelk.Components\nimport Zelk.Shell\n"
                             "FocusScope { id: top; required property QuitQuestion quitting; focus: true\n"
                             "PrimaryButton { objectName: \"below\"; text: \"Below\"; focus: true }\n"
                             "QuitSheet { question: top.quitting } }"),
-             size, {{QStringLiteral("quitting"), QVariant::fromValue(&question)}});
+             QSize(960, 620), {{QStringLiteral("quitting"), QVariant::fromValue(&question)}});
         removal = model().removals().begin(1);
         question.quit();
         settle();
