@@ -12,8 +12,8 @@ class AppModelRemovals : public AppModelFixture {
 protected:
     void surveyHome() {
         fillHome();
-        machine.directories.file(home + "/Library/Caches/Homebrew/a", 1'000'000, 1'000);
-        for (const char* file : {"/Library/Caches/Yarn/v6", "/Library/Caches/Homebrew/a",
+        machine.directories.file(home + "/Library/Developer/Xcode/DerivedData/a", 1'000'000, 1'000);
+        for (const char* file : {"/Library/Caches/Yarn/v6", "/Library/Developer/Xcode/DerivedData/a",
                                  "/projects/app/node_modules/a.js", "/projects/film.mov"})
             machine.files.addFile(home + file);
         survey();
