@@ -4,7 +4,9 @@
 #include <sys/resource.h>
 
 #include <algorithm>
-#include <semaphore>
+#include <condition_variable>
+#include <cstddef>
+#include <mutex>
 
 namespace zelk {
 
@@ -20,19 +22,35 @@ std::ptrdiff_t turnCount() {
     return static_cast<std::ptrdiff_t>(std::clamp<rlim_t>(limit.rlim_cur / descriptorsEach, 2, most));
 }
 
-std::counting_semaphore<>& turns() {
-    static std::counting_semaphore<> free(turnCount());
-    return free;
+// Not the library's semaphore: g++'s wakes all that wait for each turn that comes free, and thousands of items then
+// cost their number squared. Never destroyed, since a thread may outlive main().
+struct Turns {
+    std::mutex mutex;
+    std::condition_variable free;
+    std::ptrdiff_t count = turnCount();
+};
+
+Turns& turns() {
+    static auto* instance = new Turns;
+    return *instance;
 }
 
 }  // namespace
 
 RemovalTurn::RemovalTurn() {
-    turns().acquire();
+    Turns& all = turns();
+    std::unique_lock lock(all.mutex);
+    all.free.wait(lock, [&] { return all.count > 0; });
+    --all.count;
 }
 
 RemovalTurn::~RemovalTurn() {
-    turns().release();
+    Turns& all = turns();
+    {
+        const std::lock_guard lock(all.mutex);
+        ++all.count;
+    }
+    all.free.notify_one();
 }
 
 }  // namespace zelk

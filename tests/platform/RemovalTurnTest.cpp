@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/RemovalTurn.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <atomic>
+#include <latch>
+#include <thread>
+#include <vector>
+
+#include "fakes/InChild.h"
+
+namespace zelk {
+namespace {
+
+/// In a process with `descriptors`: what `check` says.
+template <class Check>
+bool withDescriptors(rlim_t descriptors, Check check) {
+    return fakes::inChild([&] {
+        const rlimit limit{descriptors, descriptors};
+        return ::setrlimit(RLIMIT_NOFILE, &limit) == 0 && check();
+    });
+}
+
+void letOthersRun() {
+    for (int times = 0; times < 1000; ++times) std::this_thread::yield();
+}
+
+/// Whether so many turns are to be had at the same time, and no more.
+bool areExactly(int wanted) {
+    std::latch all(wanted);
+    std::latch mayGo(1);
+    std::atomic<bool> oneMore = false;
+    std::atomic<bool> leaving = false;
+    std::atomic<bool> tooEarly = false;
+    std::vector<std::thread> threads;
+    for (int number = 0; number < wanted; ++number) {
+        threads.emplace_back([&] {
+            const RemovalTurn turn;
+            all.arrive_and_wait();
+            mayGo.wait();
+            leaving = true;
+        });
+    }
+    all.wait();
+    threads.emplace_back([&] {
+        oneMore = true;
+        const RemovalTurn turn;
+        tooEarly = !leaving;
+    });
+    while (!oneMore) std::this_thread::yield();
+    letOthersRun();
+    mayGo.count_down();
+    for (std::thread& thread : threads) thread.join();
+    return !tooEarly;
+}
+
+TEST(RemovalTurn, thereIsOneForEveryThirtyTwoDescriptorsAndTwoAtLeastAndSixtyFourAtMost) {
+    EXPECT_TRUE(withDescriptors(16, [] { return areExactly(2); }));
+    EXPECT_TRUE(withDescriptors(32 * 7, [] { return areExactly(7); }));
+    EXPECT_TRUE(withDescriptors(4096, [] { return areExactly(64); }));
+}
+
+// Were each to wake all that wait, the threads would fall asleep again some eighty thousand times.
+TEST(RemovalTurn, thatIsGivenBackWakesOneOfThoseThatWait) {
+    constexpr int waiting = 400;
+    EXPECT_TRUE(withDescriptors(64, [] {
+        std::latch all(waiting + 1);
+        std::vector<std::thread> threads;
+        {
+            const RemovalTurn one;
+            std::thread other([&] {
+                const RemovalTurn second;
+                all.wait();
+                letOthersRun();
+            });
+            for (int number = 0; number < waiting; ++number) {
+                threads.emplace_back([&] {
+                    all.count_down();
+                    const RemovalTurn turn;
+                    letOthersRun();
+                });
+            }
+            all.arrive_and_wait();
+            other.join();
+        }
+        for (std::thread& thread : threads) thread.join();
+        rusage used{};
+        ::getrusage(RUSAGE_SELF, &used);
+        return used.ru_nvcsw < 30 * waiting;
+    }));
+}
+
+}  // namespace
+}  // namespace zelk
