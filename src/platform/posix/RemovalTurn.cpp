@@ -27,7 +27,7 @@ std::ptrdiff_t turnCount() {
 struct Turns {
     std::mutex mutex;
     std::condition_variable free;
-    std::ptrdiff_t count = turnCount();
+    std::ptrdiff_t taken = 0;
 };
 
 Turns& turns() {
@@ -40,15 +40,16 @@ Turns& turns() {
 RemovalTurn::RemovalTurn() {
     Turns& all = turns();
     std::unique_lock lock(all.mutex);
-    all.free.wait(lock, [&] { return all.count > 0; });
-    --all.count;
+    // Asked each time: the limit may have been changed since the last one.
+    all.free.wait(lock, [&] { return all.taken < turnCount(); });
+    ++all.taken;
 }
 
 RemovalTurn::~RemovalTurn() {
     Turns& all = turns();
     {
         const std::lock_guard lock(all.mutex);
-        ++all.count;
+        --all.taken;
     }
     all.free.notify_one();
 }
