@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 #include "state/HistoryKey.h"
@@ -170,8 +171,8 @@ std::optional<std::vector<SurveyRecord>> SurveyHistory::appendIf(std::function<b
     const std::string json = encodeHistory(records);
     const std::optional<std::string> path = location();
     if (!last.stillWanted()) return std::nullopt;
-    if (path) files_.replaceDurably(*path, json);
-    last_ = std::move(last);
+    // As long as the file is not written, what is to be taken out of it is the record before this one.
+    if (path && files_.replaceDurably(*path, json)) last_ = std::move(last);
     return records;
 }
 
@@ -182,12 +183,12 @@ void SurveyHistory::settle() {
     if (withdrawUnwanted(records) && path) files_.replaceDurably(*path, encodeHistory(records));
 }
 
-bool SurveyHistory::withdrawUnwanted(std::vector<SurveyRecord>& records) {
+bool SurveyHistory::withdrawUnwanted(std::vector<SurveyRecord>& records) const {
     if (!last_ || last_->stillWanted()) return false;
-    const Last last = std::move(*last_);
-    last_.reset();
-    if (std::erase(records, last.record) == 0) return false;
-    records.insert(records.begin(), last.dropped.begin(), last.dropped.end());
+    const auto found = std::find(records.rbegin(), records.rend(), last_->record);
+    if (found == records.rend()) return false;
+    records.erase(std::next(found).base());
+    records.insert(records.begin(), last_->dropped.begin(), last_->dropped.end());
     return true;
 }
 

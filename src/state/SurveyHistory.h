@@ -47,12 +47,13 @@ private:
         std::vector<SurveyRecord> dropped;  ///< the oldest, which made room for it
     };
 
-    bool withdrawUnwanted(std::vector<SurveyRecord>& records);
+    /// Takes the last record out of the list if it is not wanted any more; true if it was in it. The file still has it.
+    bool withdrawUnwanted(std::vector<SurveyRecord>& records) const;
 
     FileManager& files_;
     Locations& locations_;
-    std::mutex writing_;  // held from the reading of the file to the end of its writing
-    std::optional<Last> last_;
+    std::mutex writing_;        // held from the reading of the file to the end of its writing
+    std::optional<Last> last_;  // the last one written; looked for again at every turn, since a write may fail
 };
 
 }  // namespace zelk
