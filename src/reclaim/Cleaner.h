@@ -75,8 +75,8 @@ public:
     /// removed, which may be fewer than there were.
     static std::size_t emptyTrashContents(Trash& trash);
     /// The same in a task, for all who have a button for it, and comes back at once. `done` is called on the task's
-    /// thread. The services must stay until then. With a `removal` of one item it is noted there, and not begun once that
-    /// is to stop.
+    /// thread. The services must stay until then. With a `removal` of one item it is noted there, and not begun once
+    /// that is to stop.
     static void emptyTrash(const Platform& platform, std::function<void()> done,
                            std::shared_ptr<Removal> removal = nullptr);
 };
