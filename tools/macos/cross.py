@@ -2,6 +2,7 @@
 """The compiler for macOS that runs on Linux, and the units of the project as it takes them."""
 import json
 import os
+import re
 import shlex
 import shutil
 import subprocess
@@ -20,8 +21,9 @@ TARGET = "aarch64-macos.13.0"
 ALWAYS = [str(ZIG), "c++", "-target", TARGET, "-O0", "-fno-sanitize=undefined", "-isystem", str(HERE / "opengl")]
 OBJECTIVE_CXX = ["-fobjc-arc", "-Werror=objc-method-access", "-Werror=unguarded-availability-new",
                  "-Wno-unused-command-line-argument", "-isystem", str(HERE / "cocoa")]
-# What only a Linux build has: CMake leaves it out on a Mac.
 JOINED_AT_MOST = 12
+PROGRAM = re.compile(r"^int main\(", re.MULTILINE)
+# What only a Linux build has: CMake leaves it out on a Mac.
 LINUX_ONLY = ("/linux/", "/bench/floor.cpp")
 
 
@@ -101,11 +103,12 @@ def units(build: Path):
 
 def joined(found):
     """The same with the sources of a folder in units of some, which parse the same headers once. What only a Mac has
-    stays by itself: no build joins it."""
+    stays by itself, since no build joins it, and so does what is a program of its own."""
     groups, others = {}, []
     for unit in found:
         ours = unit.source.is_relative_to(ROOT) and not unit.source.is_relative_to(ROOT / "build")
-        if ours and unit.source.suffix == ".cpp" and unit.source.parent.name != "macos":
+        joins = ours and unit.source.suffix == ".cpp" and unit.source.parent.name != "macos"
+        if joins and not PROGRAM.search(unit.source.read_text()):
             groups.setdefault((unit.source.parent, tuple(unit.flags)), []).append(unit)
         else:
             others.append(unit)
