@@ -22,8 +22,8 @@ endif()
 if(ZELK_UNITY)
   set(CMAKE_UNITY_BUILD ON)
   set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
-  # It looks for one class of the same name in two sources; these are one source here.
-  add_compile_options(-Wno-subobject-linkage)
+  # It looks for one class of the same name in two sources; these are one source here. Of g++ alone.
+  add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endif()
 
 add_library(zelk_options INTERFACE)
