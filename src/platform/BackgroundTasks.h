@@ -12,8 +12,12 @@ enum class TaskPriority { userInitiated, standard, utility };
 class BackgroundTasks {
 public:
     virtual ~BackgroundTasks() = default;
-    /// Runs `task` once, soon, on a thread of its own; on the caller's if the machine can make no more threads.
+    /// Runs `task` once, soon, beside others; on the caller's thread if the machine can make none. However many tasks
+    /// there are, only some dozens run at the same time: what may stall for good goes to runApart(), and a task must
+    /// not wait for one that another thread has yet to give.
     virtual void run(TaskPriority priority, std::function<void()> task) = 0;
+    /// The same on a thread of its own, so that a task that stalls, on another program say, holds up nothing else.
+    virtual void runApart(TaskPriority priority, std::function<void()> task) = 0;
 };
 
 }  // namespace zelk

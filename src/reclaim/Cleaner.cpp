@@ -67,16 +67,21 @@ Cleaner::Status statusOf(ChildOutcome outcome) {
 void Cleaner::cleanAll(std::vector<Reclaimable> items, bool hardDelete, const Platform& platform,
                        std::function<void(std::vector<Result>)> done, std::shared_ptr<Removal> removal) {
     if (items.empty()) return done({});
-    // The tasks are started from a task: to make two thousand threads takes longer than a frame, and where the machine
-    // has no more of them, an item is cleaned on the thread that starts it. So many at once must not keep the window
-    // from its turn, so each is less urgent than the person who waits for all of them.
+    // The tasks are given from a task: where the machine has no more threads, an item is cleaned on the one that gives
+    // it. So many at once must not keep the window from its turn, so each is less urgent than the person who waits for
+    // all of them. A tool may stall for good, and has a thread of its own.
     auto start = [items = std::move(items), hardDelete, platform, done = std::move(done),
                   removal = std::move(removal)]() mutable {
         const auto gathering = std::make_shared<Gathering>(items.size(), std::move(done), std::move(removal));
         for (Reclaimable& item : items) {
-            platform.tasks.run(TaskPriority::utility, [gathering, item = std::move(item), hardDelete, platform] {
+            const bool mayStall = item.method.kind == ReclaimMethod::Kind::command;
+            auto task = [gathering, item = std::move(item), hardDelete, platform] {
                 gathering->clean(item, hardDelete, platform);
-            });
+            };
+            if (mayStall)
+                platform.tasks.runApart(TaskPriority::utility, std::move(task));
+            else
+                platform.tasks.run(TaskPriority::utility, std::move(task));
         }
     };
     platform.tasks.run(TaskPriority::userInitiated, std::move(start));

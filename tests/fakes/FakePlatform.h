@@ -97,6 +97,7 @@ public:
         runOnThread(std::move(task));
         afterOne();
     }
+    void runApart(TaskPriority priority, std::function<void()> task) override { run(priority, std::move(task)); }
 
 private:
     struct Waiting {

@@ -6,9 +6,19 @@
 #include <atomic>
 #include <latch>
 #include <memory>
+#include <mutex>
 #include <set>
+#include <string>
 #include <thread>
 #include <vector>
+
+#ifdef __linux__
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+#endif
 
 #include "fakes/SystemCallGate.h"
 #include "platform/posix/ThreadCount.h"
@@ -29,7 +39,7 @@ TEST(ThreadTasks, everyTaskRunsOnce) {
 }
 
 // Each waits for all the others: on fewer threads it would never end.
-TEST(ThreadTasks, everyTaskHasAThreadOfItsOwn) {
+TEST(ThreadTasks, tasksRunAtTheSameTimeEachOnAThreadOfItsOwn) {
     ThreadTasks tasks;
     std::latch all(12);
     std::vector<std::thread::id> threads(12);
@@ -43,6 +53,33 @@ TEST(ThreadTasks, everyTaskHasAThreadOfItsOwn) {
     const std::set<std::thread::id> different(threads.begin(), threads.end());
     EXPECT_EQ(different.size(), threads.size());
     EXPECT_FALSE(different.contains(std::this_thread::get_id()));
+}
+
+// The tools stall until an item has been done that was given after all of them.
+TEST(ThreadTasks, tasksApartThatStallHoldUpNothing) {
+    ThreadTasks tasks;
+    constexpr int stalling = 150;
+    std::latch allStall(stalling);
+    std::latch done(3);
+    for (int number = 0; number < stalling; ++number) {
+        tasks.runApart(priorities[number % 3], [&] {
+            allStall.count_down();
+            done.wait();
+        });
+    }
+    allStall.wait();
+    for (const TaskPriority priority : priorities) tasks.run(priority, [&] { done.count_down(); });
+    EXPECT_TRUE(drainThreads(longEnough));
+}
+
+TEST(ThreadTasks, whatATaskApartHoldsGoesOnItsOwnThreadAndOnlyOnce) {
+    ThreadTasks tasks;
+    std::atomic<int> runs = 0;
+    const auto held = std::make_shared<int>(1);
+    for (int number = 0; number < 50; ++number) tasks.runApart(TaskPriority::standard, [&runs, held] { ++runs; });
+    EXPECT_TRUE(drainThreads(longEnough));
+    EXPECT_EQ(runs, 50);
+    EXPECT_EQ(held.use_count(), 1);
 }
 
 TEST(ThreadTasks, taskOutlivesWhatStartedIt) {
@@ -124,6 +161,93 @@ TEST(ThreadTasks, taskMayStartOthers) {
 
 #ifdef __linux__
 
+/// The tasks of the process, but for the calling thread's own.
+std::ptrdiff_t otherThreads() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {}) - 1;
+}
+
+// Only as many as there are threads run at the same time, and however many wait, what is urgent is not held up by them.
+TEST(ThreadTasks, tenThousandTasksMakeAtMostSixtyFourThreadsAndHoldUpNoUrgentOne) {
+    ThreadTasks tasks;
+    static_assert(ThreadTasks::mostUrgentThreads + ThreadTasks::mostPatientThreads == 64);
+    const std::ptrdiff_t before = otherThreads();
+    std::latch mayGo(1);
+    std::latch allTaken(ThreadTasks::mostPatientThreads);
+    std::atomic<std::size_t> begun = 0;
+    for (int number = 0; number < 10'000; ++number) {
+        tasks.run(TaskPriority::utility, [&] {
+            if (++begun <= ThreadTasks::mostPatientThreads) allTaken.count_down();
+            mayGo.wait();
+        });
+    }
+    allTaken.wait();
+    EXPECT_EQ(begun, ThreadTasks::mostPatientThreads);
+    std::latch urgent(20);
+    for (int number = 0; number < 20; ++number) tasks.run(priorities[number % 2], [&] { urgent.arrive_and_wait(); });
+    urgent.wait();
+    EXPECT_LE(otherThreads() - before, 64);
+    mayGo.count_down();
+    ASSERT_TRUE(drainThreads(longEnough));
+    EXPECT_EQ(begun, 10'000U);
+}
+
+TEST(ThreadTasks, whatTheUserWaitsForGoesAheadOfTheRest) {
+    ThreadTasks tasks;
+    std::latch allTaken(ThreadTasks::mostUrgentThreads);
+    std::latch mayGo(1);
+    std::latch tasksEnd(1);
+    std::mutex mutex;
+    std::string order;
+    for (std::size_t number = 0; number < ThreadTasks::mostUrgentThreads; ++number) {
+        // One thread goes on, and the others stay where they are.
+        tasks.run(TaskPriority::standard, [&, number] {
+            allTaken.count_down();
+            number == 0 ? mayGo.wait() : tasksEnd.wait();
+        });
+    }
+    allTaken.wait();
+    for (const TaskPriority priority : {TaskPriority::standard, TaskPriority::userInitiated}) {
+        tasks.run(priority, [&, priority] {
+            const std::lock_guard lock(mutex);
+            order += priority == TaskPriority::userInitiated ? 'u' : 's';
+            if (order.size() == 2) tasksEnd.count_down();
+        });
+    }
+    mayGo.count_down();
+    EXPECT_TRUE(drainThreads(longEnough));
+    EXPECT_EQ(order, "us");
+}
+
+TEST(ThreadTasks, onlyWhatCanWaitIsNicedAndOfThatEverything) {
+    ThreadTasks tasks;
+    const int own = ::getpriority(PRIO_PROCESS, 0);
+    const int niced = std::max(own, 10);
+    std::atomic<int> wrong = 0;
+    for (int number = 0; number < 300; ++number) {
+        const TaskPriority priority = priorities[number % 3];
+        const auto check = [&wrong, expected = priority == TaskPriority::utility ? niced : own] {
+            wrong += ::getpriority(PRIO_PROCESS, 0) == expected ? 0 : 1;
+        };
+        tasks.run(priority, check);
+        if (number % 10 == 0) tasks.runApart(priority, check);
+    }
+    EXPECT_TRUE(drainThreads(longEnough));
+    EXPECT_EQ(wrong, 0);
+}
+
+TEST(ThreadTasks, itsThreadsGoWithIt) {
+    const std::ptrdiff_t before = otherThreads();
+    {
+        ThreadTasks tasks;
+        std::latch all(12);
+        for (int number = 0; number < 12; ++number) tasks.run(priorities[number % 3], [&] { all.arrive_and_wait(); });
+        EXPECT_TRUE(drainThreads(longEnough));
+    }
+    EXPECT_TRUE(drainThreads(longEnough));
+    // Counted as ended a moment before the kernel has let go of them.
+    while (otherThreads() > before) std::this_thread::yield();
+}
+
 TEST(ThreadTasks, machineWithoutMoreThreadsRunsTheTaskOnTheCallers) {
     ThreadTasks tasks;
     int runs = 0;
@@ -133,13 +257,15 @@ TEST(ThreadTasks, machineWithoutMoreThreadsRunsTheTaskOnTheCallers) {
         SYS_clone3, [&](unsigned) { return ++refused, EAGAIN; },
         [&] {
             for (const TaskPriority priority : priorities) {
-                tasks.run(priority, [&runs, held, caller = std::this_thread::get_id()] {
+                const auto task = [&runs, held, caller = std::this_thread::get_id()] {
                     runs += std::this_thread::get_id() == caller ? 1 : 0;
-                });
+                };
+                tasks.run(priority, task);
+                tasks.runApart(priority, task);
             }
         });
-    EXPECT_EQ(refused, 3u);
-    EXPECT_EQ(runs, 3);
+    EXPECT_EQ(refused, 9u);  // a task apart asks for a thread of its own, and then for one of the pool's
+    EXPECT_EQ(runs, 6);
     EXPECT_EQ(held.use_count(), 1);
     EXPECT_TRUE(drainThreads(0));
 }

@@ -67,7 +67,7 @@ TEST(Thread, nameIsOfThatThreadOnly) {
         both.arrive_and_wait();
         other = currentThreadName();
     });
-    ASSERT_TRUE(drainThreads(longEnough));
+    ASSERT_TRUE(drainThreads(drainSeconds));
     EXPECT_EQ(other, "other");
     EXPECT_EQ(unnamed, "");
     EXPECT_EQ(currentThreadName(), "");
@@ -145,7 +145,7 @@ TEST(DrainThreads, isFalseWhileAThreadRunsAndTrueOnceItHasEnded) {
     EXPECT_FALSE(drainThreads(-1));
     EXPECT_FALSE(drainThreads(0.001));
     go.count_down();
-    EXPECT_TRUE(drainThreads(longEnough));
+    EXPECT_TRUE(drainThreads(drainSeconds));
     EXPECT_TRUE(drainThreads(0));
 }
 
@@ -160,7 +160,7 @@ TEST(DrainThreads, waitsUntilWhatTheBodyHeldIsGoneToo) {
     ran.wait();
     EXPECT_FALSE(drainThreads(0.001));
     mayGo.count_down();
-    EXPECT_TRUE(drainThreads(longEnough));
+    EXPECT_TRUE(drainThreads(drainSeconds));
     EXPECT_TRUE(gone);
 }
 
@@ -171,7 +171,7 @@ TEST(DrainThreads, waitsForThreadsThatThreadsStart) {
         ++ended;
     };
     chain(50);
-    EXPECT_TRUE(drainThreads(longEnough));
+    EXPECT_TRUE(drainThreads(drainSeconds));
     EXPECT_EQ(ended, 51);
 }
 
@@ -184,14 +184,14 @@ TEST(DrainThreads, waitsHoweverLongTheTimeGiven) {
         });
         EXPECT_TRUE(drainThreads(seconds)) << seconds;
         EXPECT_TRUE(ended) << seconds;
-        EXPECT_TRUE(drainThreads(longEnough));
+        EXPECT_TRUE(drainThreads(drainSeconds));
     }
 }
 
 TEST(DrainThreads, manyThreadsAreAllWaitedFor) {
     std::atomic<int> ended = 0;
     for (int number = 0; number < 200; ++number) startThread("one of many", 1 << 18, [&] { ++ended; });
-    EXPECT_TRUE(drainThreads(longEnough));
+    EXPECT_TRUE(drainThreads(drainSeconds));
     EXPECT_EQ(ended, 200);
 }
 

@@ -92,7 +92,7 @@ TEST_F(CleanerThreads, twoThousandItemsGiveAResultEachAndOneThatFailsStopsNone) 
     EXPECT_TRUE(machine.files.exists("/cache/1000/file"));
 }
 
-// Each waits for all the others: with a limit on their number it would never end.
+// Each waits for all the others: one after the other they would never end.
 TEST_F(CleanerThreads, allItemsAreCleanedAtTheSameTime) {
     std::vector<Reclaimable> items;
     for (const char* path : {"/a", "/b", "/c", "/d", "/e", "/f", "/g", "/h", "/i", "/j", "/k", "/l"}) {
@@ -105,6 +105,31 @@ TEST_F(CleanerThreads, allItemsAreCleanedAtTheSameTime) {
         return false;
     };
     EXPECT_EQ(countOf(cleanAll(items), false), items.size());
+}
+
+// More tools than a pool has threads, and each stalls until the item behind them all has gone.
+TEST_F(CleanerThreads, toolsThatStallHoldUpNoOtherItem) {
+    constexpr std::size_t stalling = 150;
+    std::vector<Reclaimable> items;
+    for (std::size_t number = 0; number < stalling; ++number)
+        items.push_back(byShell("/tool/" + std::to_string(number), "true"));
+    machine.files.addFolder("/last");
+    items.push_back(itemToTrash("/last"));
+    std::latch gone(1);
+    machine.processes.outcome = [&](const auto&) {
+        gone.wait();
+        return ChildOutcome{};
+    };
+    machine.files.failing = [&](const auto& call) {
+        if (call.operation == "trash") gone.count_down();
+        return false;
+    };
+    const Platform stalled{machine.clock, machine.directories, machine.files,
+                           machine.trash, machine.vitals,      machine.locations,
+                           tasks,         machine.processes,   machine.workspace};
+    std::promise<Results> ended;
+    Cleaner::cleanAll(items, false, stalled, [&](Results all) { ended.set_value(std::move(all)); });
+    EXPECT_EQ(countOf(ended.get_future().get(), false), stalling + 1);
 }
 
 TEST_F(CleanerThreads, theResultsComeOnABackgroundThread) {

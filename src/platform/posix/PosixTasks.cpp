@@ -2,51 +2,94 @@
 #include "platform/posix/PosixTasks.h"
 
 #ifdef __APPLE__
+#include <dispatch/dispatch.h>
 #include <pthread.h>
-#else
-#include <sys/resource.h>
 #endif
 
-#include <memory>
 #include <system_error>
 #include <utility>
 
 #include "platform/Thread.h"
+#include "platform/posix/ThreadCount.h"
+
+#ifndef __APPLE__
+#include "platform/linux/TaskPool.h"
+#endif
 
 namespace zelk {
 
 namespace {
 
-constexpr std::size_t taskStackBytes = 1024 * 1024;
+using Task = std::function<void()>;
 
-// The names show in debuggers and in top; the order of TaskPriority.
-constexpr const char* taskNames[] = {"zelk.task.user", "zelk.task", "zelk.task.util"};
+constexpr std::size_t apartStackBytes = 1024 * 1024;
 
-/// Tells the system how urgent the calling thread is.
-void takePriority(TaskPriority priority) {
 #ifdef __APPLE__
-    constexpr qos_class_t classes[] = {QOS_CLASS_USER_INITIATED, QOS_CLASS_DEFAULT, QOS_CLASS_UTILITY};
+
+// The order of TaskPriority.
+constexpr qos_class_t classes[] = {QOS_CLASS_USER_INITIATED, QOS_CLASS_DEFAULT, QOS_CLASS_UTILITY};
+
+void takePriority(TaskPriority priority) {
     pthread_set_qos_class_self_np(classes[static_cast<int>(priority)], 0);
-#else
-    // On Linux a niceness is a thread's own. It cannot be lowered again, so only what can wait is touched.
-    if (priority == TaskPriority::utility) setpriority(PRIO_PROCESS, 0, 10);
-#endif
 }
+
+void runBoxed(void* box) {
+    auto* task = static_cast<Task*>(box);
+    (*task)();
+    delete task;  // with all that it held, before it counts as done
+    endWork();
+}
+
+#else
+
+constexpr int patientNiceness = 10;
+
+void takePriority(TaskPriority priority) {
+    if (priority == TaskPriority::utility) giveWay(patientNiceness);
+}
+
+#endif
 
 }  // namespace
 
-void ThreadTasks::run(TaskPriority priority, std::function<void()> task) {
-    // Handed over, not copied: a copy on this side might be the last to go, and with it a large tree would be released
-    // on the caller's thread.
-    const auto box = std::make_shared<std::function<void()>>(std::move(task));
-    const auto runOnce = [](std::function<void()>& boxed) { std::exchange(boxed, nullptr)(); };
+#ifdef __APPLE__
+
+ThreadTasks::ThreadTasks() = default;
+ThreadTasks::~ThreadTasks() = default;
+
+void ThreadTasks::run(TaskPriority priority, Task task) {
+    beginWork();
+    dispatch_async_f(dispatch_get_global_queue(classes[static_cast<int>(priority)], 0), new Task(std::move(task)),
+                     runBoxed);
+}
+
+#else
+
+ThreadTasks::ThreadTasks()
+    : urgent_(std::make_shared<TaskPool>(TaskPool::Form{"zelk.task", mostUrgentThreads})),
+      patient_(std::make_shared<TaskPool>(TaskPool::Form{"zelk.task.util", mostPatientThreads, patientNiceness})) {}
+
+ThreadTasks::~ThreadTasks() {
+    urgent_->close();
+    patient_->close();
+}
+
+void ThreadTasks::run(TaskPriority priority, Task task) {
+    TaskPool& pool = priority == TaskPriority::utility ? *patient_ : *urgent_;
+    pool.run(priority == TaskPriority::standard ? 1 : 0, std::move(task));
+}
+
+#endif
+
+void ThreadTasks::runApart(TaskPriority priority, Task task) {
+    const auto box = std::make_shared<Task>(std::move(task));
     try {
-        startThread(taskNames[static_cast<int>(priority)], taskStackBytes, [box, runOnce, priority] {
+        startThread("zelk.task.apart", apartStackBytes, [box, priority] {
             takePriority(priority);
-            runOnce(*box);
+            std::exchange(*box, nullptr)();
         });
     } catch (const std::system_error&) {
-        runOnce(*box);
+        run(priority, std::move(*box));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <pthread.h>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <memory>
@@ -23,23 +24,18 @@ struct Start {
 
 thread_local std::string threadName;
 
-// Detached threads cannot be joined, so the running ones are counted: who closes the process waits for them here.
+// Detached threads cannot be joined, so the running ones are counted, and with them what runs on the system's own: who
+// closes the process waits for them here.
 // Never destroyed, since a thread may outlive main().
 struct Running {
     std::mutex mutex;
     std::condition_variable none;
-    std::size_t count = 0;
+    std::atomic<std::size_t> count = 0;
 };
 
 Running& running() {
     static auto* instance = new Running;
     return *instance;
-}
-
-void countDown() {
-    Running& all = running();
-    const std::lock_guard lock(all.mutex);
-    if (--all.count == 0) all.none.notify_all();
 }
 
 void setKernelName(const std::string& name) {
@@ -58,7 +54,7 @@ void* threadMain(void* argument) {
         setKernelName(threadName);
         start->body();
     }  // what the body owned is gone before the thread counts as ended
-    countDown();
+    endWork();
     return nullptr;
 }
 
@@ -70,15 +66,12 @@ void startThread(std::string name, std::size_t stackBytes, std::function<void()>
     pthread_attr_init(&attributes);
     pthread_attr_setdetachstate(&attributes, PTHREAD_CREATE_DETACHED);
     pthread_attr_setstacksize(&attributes, stackBytes);
-    {
-        const std::lock_guard lock(running().mutex);
-        ++running().count;
-    }
+    beginWork();
     pthread_t thread;
     const int error = pthread_create(&thread, &attributes, threadMain, start.get());
     pthread_attr_destroy(&attributes);
     if (error != 0) {
-        countDown();
+        endWork();
         throw std::system_error(error, std::generic_category(), "starting a thread");
     }
     static_cast<void>(start.release());  // the new thread owns it
@@ -86,6 +79,17 @@ void startThread(std::string name, std::size_t stackBytes, std::function<void()>
 
 const std::string& currentThreadName() {
     return threadName;
+}
+
+void beginWork() {
+    ++running().count;
+}
+
+void endWork() {
+    Running& all = running();
+    if (--all.count != 0) return;
+    const std::lock_guard lock(all.mutex);  // who waits has either seen the zero or sleeps by now
+    all.none.notify_all();
 }
 
 bool drainThreads(double seconds) {

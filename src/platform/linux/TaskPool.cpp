@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/TaskPool.h"
+
+#include <sys/resource.h>
+
+#include <system_error>
+#include <utility>
+
+#include "platform/Thread.h"
+#include "platform/posix/ThreadCount.h"
+
+namespace zelk {
+
+namespace {
+
+/// The pool that the calling thread belongs to.
+thread_local const TaskPool* ownPool = nullptr;
+
+/// The task is gone, with all that it held, before it counts as done.
+void runCounted(std::function<void()> task) {
+    task();
+    task = nullptr;
+    endWork();
+}
+
+}  // namespace
+
+void giveWay(int niceness) {
+    if (::getpriority(PRIO_PROCESS, 0) < niceness) ::setpriority(PRIO_PROCESS, 0, niceness);
+}
+
+void TaskPool::run(std::size_t rank, Task task) {
+    beginWork();
+    Way way = take(rank, task);
+    if (way == Way::newThread) {
+        // Handed over, not copied: a copy on this side might be the last to go, and with it a large tree would be
+        // released on the caller's thread.
+        const auto box = std::make_shared<Task>(std::move(task));
+        try {
+            startThread(form_.threadName, stackBytes,
+                        [self = shared_from_this(), box] { self->work(std::exchange(*box, nullptr)); });
+        } catch (const std::system_error&) {
+            task = std::move(*box);
+            way = takeWithoutThread(rank, task);
+        }
+    }
+    if (way != Way::here) return;
+    runCounted(std::move(task));
+    workOffQueue();
+}
+
+TaskPool::Way TaskPool::take(std::size_t rank, Task& task) {
+    const std::lock_guard lock(mutex_);
+    const bool findsIdleThread = queued_ < idle_;
+    if (!findsIdleThread && threads_ < form_.mostThreads) {
+        ++threads_;
+        return Way::newThread;
+    }
+    if (!findsIdleThread && ownPool == this) return Way::here;
+    enqueue(rank, task);
+    return Way::queued;
+}
+
+/// The same once a thread could not be made.
+TaskPool::Way TaskPool::takeWithoutThread(std::size_t rank, Task& task) {
+    const std::lock_guard lock(mutex_);
+    if (--threads_ == 0 || ownPool == this) return Way::here;
+    enqueue(rank, task);
+    return Way::queued;
+}
+
+void TaskPool::enqueue(std::size_t rank, Task& task) {
+    queues_.at(rank).push_back(std::move(task));
+    ++queued_;
+    given_.notify_one();
+}
+
+/// Where the last thread could not be made, others may have relied on it.
+void TaskPool::workOffQueue() {
+    Task task;
+    while (true) {
+        {
+            const std::lock_guard lock(mutex_);
+            if (threads_ > 0 || !dequeue(task)) return;
+        }
+        runCounted(std::move(task));
+    }
+}
+
+void TaskPool::work(Task task) {
+    if (form_.niceness != 0) giveWay(form_.niceness);
+    ownPool = this;
+    endWork();  // the thread's own count: what counts is its tasks
+    do runCounted(std::move(task));
+    while (next(task));
+}
+
+/// Waits for a task; false when the thread is to end, which then counts again until it has.
+bool TaskPool::next(Task& task) {
+    std::unique_lock lock(mutex_);
+    ++idle_;
+    given_.wait_for(lock, form_.keep, [this] { return queued_ > 0 || closed_; });
+    --idle_;
+    if (dequeue(task)) return true;
+    --threads_;
+    if (!closed_) beginWork();
+    return false;
+}
+
+bool TaskPool::dequeue(Task& task) {
+    for (std::deque<Task>& queue : queues_) {
+        if (queue.empty()) continue;
+        task = std::move(queue.front());
+        queue.pop_front();
+        --queued_;
+        return true;
+    }
+    return false;
+}
+
+void TaskPool::close() {
+    const std::lock_guard lock(mutex_);
+    closed_ = true;
+    for (std::size_t thread = 0; thread < threads_; ++thread) beginWork();
+    given_.notify_all();
+}
+
+std::size_t TaskPool::threadCount() const {
+    const std::lock_guard lock(mutex_);
+    return threads_;
+}
+
+std::size_t TaskPool::idleCount() const {
+    const std::lock_guard lock(mutex_);
+    return idle_;
+}
+
+}  // namespace zelk
