@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -17,6 +18,9 @@ namespace zelk::bench {
 /// A timer of the main thread that notes how late each of its beats comes.
 class Heart {
 public:
+    /// Called at every beat.
+    std::function<void()> atBeat = [] {};
+
     /// Beats from now on until `ended` says so, in the event loop of the main thread.
     template <class Ended>
     void beatUntil(Ended ended) {
@@ -61,6 +65,7 @@ private:
         stalls_.push_back(late);
         const double processor = threadMilliseconds();
         worstBusy_ = std::max(worstBusy_, processor - std::exchange(processor_, processor));
+        atBeat();
         sinceBeat_.restart();
     }
 

@@ -5,7 +5,10 @@
 // beyond it is that of a busy machine, or of a wait that should not be there.
 //
 //     heartbeat ROOT           a survey of ROOT
-//     heartbeat --clean COUNT  COUNT items made in a folder below $TMPDIR (or /tmp) go to a Trash there, all at once
+//     heartbeat --clean COUNT  COUNT items made in a folder below $TMPDIR (or /tmp) go to a Trash there, all at once;
+//                              before them 1,000, twice, and the second time is what the COUNT are compared with
+
+#include <sys/resource.h>
 
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -14,8 +17,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -54,20 +59,72 @@ std::vector<Reclaimable> makeItems(const std::filesystem::path& folder, int coun
     return items;
 }
 
-/// Whether all went.
-bool cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclaimable> items) {
+/// What a cleaning took of the machine.
+struct Cost {
+    std::size_t items = 0;
+    std::ptrdiff_t failed = 0;
+    std::ptrdiff_t peakThreads = 0;  // of the whole process, the window's included
+    double processorMs = 0;          // of all threads
+
+    double perItem() const { return processorMs / static_cast<double>(items); }
+    void print() const {
+        std::printf("\"items\":%zu,\"failed\":%td,\"peakThreads\":%td,\"processorMsPerItem\":%.4f", items, failed,
+                    peakThreads, perItem());
+    }
+};
+
+double processorMilliseconds() {
+    rusage used{};
+    ::getrusage(RUSAGE_SELF, &used);
+    const auto milliseconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+    };
+    return milliseconds(used.ru_utime) + milliseconds(used.ru_stime);
+}
+
+/// 0 where the system has no such list.
+std::ptrdiff_t threadCount() {
+    std::error_code none;
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task", none), {});
+}
+
+Cost cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclaimable> items) {
     MainThreadCalls calls;
     std::optional<std::vector<Cleaner::Result>> ended;
+    Cost cost;
+    int beats = 0;
+    heart.atBeat = [&] {
+        if (beats++ % 20 == 0) cost.peakThreads = std::max(cost.peakThreads, threadCount());
+    };
     heart.start();
+    const double before = processorMilliseconds();
     Cleaner::cleanAll(std::move(items), false, platform, [&, sender = calls.sender()](auto results) {
         sender.post([&ended, results = std::move(results)]() mutable { ended = std::move(results); });
     });
     heart.beatUntil([&] { return ended.has_value(); });
-    const auto failed = std::count_if(ended->begin(), ended->end(), [](const Cleaner::Result& result) {
+    cost.processorMs = processorMilliseconds() - before;
+    cost.items = ended->size();
+    cost.failed = std::count_if(ended->begin(), ended->end(), [](const Cleaner::Result& result) {
         return std::holds_alternative<Cleaner::Failed>(result.status);
     });
-    std::printf("{\"items\":%zu,\"failed\":%td,", ended->size(), failed);
-    return failed == 0;
+    cost.peakThreads = std::max(cost.peakThreads, threadCount());
+    heart.atBeat = [] {};
+    return cost;
+}
+
+/// Whether all went.
+bool compareCleanings(bench::Heart& heart, const Platform& platform, const std::filesystem::path& folder, int count) {
+    constexpr int few = 1000;
+    bench::Heart unnoted;
+    cleanInto(unnoted, platform, makeItems(folder / "first", few));  // the first makes threads and a Trash
+    const Cost ofFew = cleanInto(unnoted, platform, makeItems(folder / "few", few));
+    const Cost ofAll = cleanInto(heart, platform, makeItems(folder / "all", count));
+    std::printf("{");
+    ofAll.print();
+    std::printf(",\"few\":{");
+    ofFew.print();
+    std::printf("},\"processorPerItemToFew\":%.3f,", ofAll.perItem() / ofFew.perItem());
+    return ofAll.failed == 0 && ofFew.failed == 0;
 }
 
 }  // namespace
@@ -100,7 +157,7 @@ int main(int argc, char** argv) {
 
         bench::Heart heart;
         if (cleans) {
-            done = cleanInto(heart, platform, makeItems(std::filesystem::path(folder) / "work", std::atoi(argv[2])));
+            done = compareCleanings(heart, platform, std::filesystem::path(folder) / "work", std::atoi(argv[2]));
         } else {
             surveyInto(heart, app, std::filesystem::absolute(argv[1]).string());
         }
