@@ -29,7 +29,8 @@ struct DirEntry {
     std::uint64_t fileID;     ///< inode number
     std::uint32_t linkCount;  ///< hard links; 0 on a directory
     std::uint64_t allocSize;  ///< bytes allocated on disk, not the length; 0 on a directory
-    std::int32_t deviceID;    ///< the device that the entry lies on: a mount point has another one than its parent
+    std::int32_t deviceID;    ///< the device that the entry lies on: a mount point has another one than its root. A
+                              ///< folder that is a volume of its own without a mount (btrfs) has its root's.
     TimePoint modTime;
 };
 

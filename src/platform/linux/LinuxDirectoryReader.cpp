@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "platform/linux/ScanVolume.h"
 #include "platform/linux/StatxEntry.h"
 #include "platform/posix/DirectoryLadder.h"
 #include "platform/posix/OpenDirectory.h"
@@ -58,7 +59,9 @@ Unanswering unansweringFolder(int directory, int error, DirEntry& entry) {
 class LinuxDirectoryReader : public DirectoryReader {
 public:
     const Entries* open(const DirectoryRoot& root, const std::string& below) override {
-        ladder_.open(static_cast<const PosixRoot&>(root).descriptor(), below);
+        const auto& own = static_cast<const LinuxRoot&>(root);
+        volume_ = own.volume;
+        ladder_.open(own.descriptor(), below);
         return read();
     }
 
@@ -113,18 +116,22 @@ private:
             const char* name = names_.data() + at + nameOffset;
             at += record.length;
             if (isDotOrDotDot(name)) continue;
-            switch (statxEntry(directory, name, entries_.emplace_back())) {
+            DirEntry& entry = entries_.emplace_back();
+            std::uint64_t mount = 0;
+            switch (statxEntry(directory, name, entry, &mount)) {
                 case StatxOutcome::ok:
+                    if (entry.objType == directoryObjectType) volume_.claim(directory, name, mount, entry);
                     continue;
                 case StatxOutcome::gone:
                     break;  // deleted since it was listed: it is not there, and that is no failure
                 case StatxOutcome::failed:
                     if (record.type != DT_DIR) return false;
-                    switch (unansweringFolder(directory, errno, entries_.back())) {
+                    switch (unansweringFolder(directory, errno, entry)) {
                         case Unanswering::mountPoint:
                             break;
                         case Unanswering::folder:
-                            entries_.back().name = name;
+                            entry.name = name;
+                            volume_.claimOwn(entry);
                             continue;
                         case Unanswering::all:
                             return false;
@@ -142,6 +149,7 @@ private:
     }
 
     DirectoryLadder ladder_;
+    ScanVolume volume_;
     std::vector<char> names_;
     std::size_t used_ = 0;
     Entries entries_;
@@ -154,7 +162,8 @@ std::optional<RootStatus> LinuxDirectoryService::status(const std::string& path)
 }
 
 std::shared_ptr<const DirectoryRoot> LinuxDirectoryService::openRoot(const std::string& path) {
-    return openPosixRoot(path);
+    const int fd = openRootDirectory(path);
+    return fd < 0 ? nullptr : std::make_shared<LinuxRoot>(fd);
 }
 
 std::unique_ptr<DirectoryReader> LinuxDirectoryService::makeReader() {
