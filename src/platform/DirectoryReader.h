@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -80,6 +81,9 @@ public:
     /// Follows links; nullptr if `path` is not a directory or cannot be opened.
     virtual std::shared_ptr<const DirectoryRoot> openRoot(const std::string& path) = 0;
     virtual std::unique_ptr<DirectoryReader> makeReader() = 0;
+    /// How many readers may be at work at the same time, 1 or more. With others beside them the process would run out
+    /// of descriptors, and folders would be found unreadable for no fault of theirs.
+    virtual std::int64_t maximumReaders() { return std::numeric_limits<std::int64_t>::max(); }
 };
 
 }  // namespace zelk

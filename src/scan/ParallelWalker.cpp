@@ -68,7 +68,8 @@ void ParallelWalker::run(std::vector<Work> seeds) {
 }
 
 void ParallelWalker::startWorkers() {
-    for (std::int64_t i = 0; i < workerCount_; ++i) {
+    const std::int64_t count = std::min(workerCount_, directories_.maximumReaders());
+    for (std::int64_t i = 0; i < count; ++i) {
         try {
             startThread("zelk.scan.worker." + std::to_string(i), stackBytes, [weak = weak_from_this()] {
                 if (const auto walker = weak.lock()) walker->workerLoop();

@@ -4,7 +4,14 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include <utility>
+
 #include "fakes/InChild.h"
+#include "platform/posix/DirectoryLadder.h"
+
+#ifdef __linux__
+#include "platform/linux/LinuxDirectoryReader.h"
+#endif
 
 namespace zelk {
 namespace {
@@ -28,6 +35,27 @@ TEST(DescriptorLimit, isRaisedToWhatIsAllowed) {
 TEST(DescriptorLimit, isNeverLowered) {
     EXPECT_TRUE(fakes::inChild([] { return raisedFrom(9000, 20000) == 9000; }));
 }
+
+// A reader holds sixteen and a few for a moment; 128 are left for all else.
+TEST(DescriptorLimit, givesEveryReaderTwentyAndOneReaderAtLeast) {
+    const std::pair<rlim_t, std::int64_t> rows[] = {{16, 1}, {128, 1}, {167, 1}, {168, 2}, {1024, 44}, {8192, 403}};
+    for (const auto& [descriptors, readers] : rows) {
+        EXPECT_TRUE(fakes::inChild([descriptors = descriptors, readers = readers] {
+            const rlimit limit{descriptors, descriptors};
+            return ::setrlimit(RLIMIT_NOFILE, &limit) == 0 && readersWithinDescriptorLimit() == readers;
+        })) << descriptors;
+    }
+    EXPECT_GE(20U, DirectoryLadder::maximumOpen + 4);
+}
+
+#ifdef __linux__
+TEST(DescriptorLimit, isWhatTheDirectoryServiceTellsAScan) {
+    EXPECT_TRUE(fakes::inChild([] {
+        const rlimit limit{328, 328};
+        return ::setrlimit(RLIMIT_NOFILE, &limit) == 0 && LinuxDirectoryService().maximumReaders() == 10;
+    }));
+}
+#endif
 
 }  // namespace
 }  // namespace zelk

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "scan/ParallelWalker.h"
 
+#include <pthread.h>
+
+#include <atomic>
 #include <mutex>
 #include <set>
 
@@ -280,6 +283,25 @@ private:
     std::set<std::string> names_;
 };
 
+TEST(ParallelWalkerThreads, areNoMoreThanTheFileSystemHasReadersFor) {
+    class ThreeReaders : public NotingService {
+    public:
+        std::int64_t maximumReaders() override { return 3; }
+    };
+    setenv("ZELK_WORKERS", "50", 1);
+    ThreeReaders disk;
+    for (int i = 0; i < 50; ++i) disk.file("/r/" + std::to_string(i) + "/f", 1);
+    PosixClock clock;
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.filesScanned, 50);
+    for (const std::string& name : disk.names())
+        EXPECT_TRUE(name == "zelk.scan.worker.0" || name == "zelk.scan.worker.1" || name == "zelk.scan.worker.2")
+            << name;
+    unsetenv("ZELK_WORKERS");
+}
+
 TEST(ParallelWalkerThreads, areNamedByTheirNumber) {
     setenv("ZELK_WORKERS", "3", 1);
     NotingService disk;
@@ -295,6 +317,50 @@ TEST(ParallelWalkerThreads, areNamedByTheirNumber) {
     EXPECT_EQ(disk.names(), (std::set<std::string>{"zelk.scan.worker.0", "zelk.scan.worker.1", "zelk.scan.worker.2"}));
     unsetenv("ZELK_WORKERS");
 }
+
+#ifdef __linux__
+
+/// Notes the stacks of the threads that walk.
+class StackService : public fakes::FakeDirectoryService {
+public:
+    std::unique_ptr<DirectoryReader> makeReader() override {
+        note(inWorker);
+        return fakes::FakeDirectoryService::makeReader();
+    }
+    std::optional<RootStatus> status(const std::string& path) override {
+        note(inBody);
+        return fakes::FakeDirectoryService::status(path);
+    }
+    std::atomic<std::size_t> inWorker = 0;
+    std::atomic<std::size_t> inBody = 0;
+
+private:
+    static void note(std::atomic<std::size_t>& bytes) {
+        std::size_t size = 0;
+        pthread_attr_t attributes;
+        if (::pthread_getattr_np(::pthread_self(), &attributes) != 0) return;
+        ::pthread_attr_getstacksize(&attributes, &size);
+        ::pthread_attr_destroy(&attributes);
+        bytes = size;
+    }
+};
+
+TEST(ParallelWalkerThreads, haveStacksOfEightMebibytesAndSoHasTheScans) {
+    static_assert(ParallelWalker::stackBytes == 8 << 20);
+    setenv("ZELK_WORKERS", "1", 1);
+    StackService disk;
+    disk.directory("/r");
+    PosixClock clock;
+    ScanEngine(disk, clock).start(std::make_shared<UpdateQueue>(), {"/r"});
+    ASSERT_TRUE(drainThreads(60));
+    for (const std::size_t bytes : {disk.inWorker.load(), disk.inBody.load()}) {
+        EXPECT_GE(bytes, std::size_t{8} << 20);
+        EXPECT_LT(bytes, std::size_t{9} << 20);
+    }
+    unsetenv("ZELK_WORKERS");
+}
+
+#endif
 
 }  // namespace
 }  // namespace zelk

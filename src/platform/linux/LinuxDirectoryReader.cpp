@@ -13,6 +13,7 @@
 
 #include "platform/linux/ScanVolume.h"
 #include "platform/linux/StatxEntry.h"
+#include "platform/posix/DescriptorLimit.h"
 #include "platform/posix/DirectoryLadder.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/PosixRoot.h"
@@ -168,6 +169,10 @@ std::shared_ptr<const DirectoryRoot> LinuxDirectoryService::openRoot(const std::
 
 std::unique_ptr<DirectoryReader> LinuxDirectoryService::makeReader() {
     return std::make_unique<LinuxDirectoryReader>();
+}
+
+std::int64_t LinuxDirectoryService::maximumReaders() {
+    return readersWithinDescriptorLimit();
 }
 
 }  // namespace zelk

@@ -11,6 +11,7 @@
 #include "platform/macos/BulkRecords.h"
 #include "platform/macos/CoveredFolders.h"
 #include "platform/macos/DatalessFolders.h"
+#include "platform/posix/DescriptorLimit.h"
 #include "platform/posix/DirectoryLadder.h"
 #include "platform/posix/FileStatus.h"
 #include "platform/posix/OpenDirectory.h"
@@ -149,6 +150,10 @@ std::shared_ptr<const DirectoryRoot> BulkDirectoryService::openRoot(const std::s
 
 std::unique_ptr<DirectoryReader> BulkDirectoryService::makeReader() {
     return std::make_unique<BulkDirectoryReader>(bufferBytes_);
+}
+
+std::int64_t BulkDirectoryService::maximumReaders() {
+    return readersWithinDescriptorLimit();
 }
 
 }  // namespace zelk

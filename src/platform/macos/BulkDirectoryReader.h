@@ -20,6 +20,7 @@ public:
     std::optional<RootStatus> status(const std::string& path) override;
     std::shared_ptr<const DirectoryRoot> openRoot(const std::string& path) override;
     std::unique_ptr<DirectoryReader> makeReader() override;
+    std::int64_t maximumReaders() override;
 
 private:
     std::size_t bufferBytes_;

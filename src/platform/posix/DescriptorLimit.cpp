@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "platform/posix/DirectoryLadder.h"
+
 namespace zelk {
 
 void raiseDescriptorLimit() {
@@ -13,6 +15,15 @@ void raiseDescriptorLimit() {
     if (getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= wanted) return;
     limit.rlim_cur = std::min(wanted, limit.rlim_max);
     setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+std::int64_t readersWithinDescriptorLimit() {
+    constexpr rlim_t each = DirectoryLadder::maximumOpen + 4;  // and what is open for a moment on the way up or down
+    constexpr rlim_t others = 128;
+    rlimit limit;
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return 1;
+    const rlim_t left = limit.rlim_cur - std::min(limit.rlim_cur, others);
+    return static_cast<std::int64_t>(std::clamp<rlim_t>(left / each, 1, 1'000'000));
 }
 
 }  // namespace zelk
