@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "scan/ScanEngine.h"
 
+#include <atomic>
+#include <fstream>
+#include <thread>
+
 #include "ScanFixture.h"
+#include "fakes/Mounts.h"
+#include "fakes/SystemCallGate.h"
+#include "zoo/TempFolder.h"
 
 namespace zelk {
 namespace {
@@ -96,6 +103,38 @@ TEST_F(ScanEngineTest, theLargestFilesComeFirst) {
         EXPECT_EQ(result.insights.topFiles[i].size, 300 - static_cast<std::int64_t>(i));
 }
 
+TEST_F(ScanEngineTest, filesOfOneSizeStandInTheOrderInWhichTheyWereFound) {
+    for (int i = 0; i < 60; ++i) {
+        disk.file("/r/" + std::to_string(i), static_cast<std::uint64_t>(i < 30 ? 70'000'000 : 80'000'000));
+        disk.file("/r/" + std::to_string(i) + ".dmg", static_cast<std::uint64_t>(i < 30 ? 70'000'000 : 80'000'000));
+    }
+    workers(1);
+    const ScanResult result = scan({"/r"});
+    ASSERT_EQ(result.insights.topFiles.size(), 120U);
+    ASSERT_EQ(result.insights.diskImages.size(), 60U);
+    for (std::size_t at = 0; at < 60; ++at) {
+        const std::string number = "/r/" + std::to_string((at + 30) % 60);
+        EXPECT_EQ(result.insights.topFiles[2 * at].path, number);
+        EXPECT_EQ(result.insights.topFiles[2 * at + 1].path, number + ".dmg");
+        EXPECT_EQ(result.insights.diskImages[at].path, number + ".dmg");
+    }
+}
+
+/// Shows a time of its own.
+class FixedClock : public Clock {
+public:
+    TimePoint now() override { return 1'234'567.5; }
+    double monotonic() override { return 1; }
+};
+
+TEST_F(ScanEngineTest, theTopHasTheDateOfTheScan) {
+    disk.directory("/r", 77);
+    FixedClock fixed;
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, fixed).runHere(queue, {"/r"});
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).top->lastModified, 1'234'567.5);
+}
+
 TEST_F(ScanEngineTest, endingTheQueueCancelsTheWalkAndDeliversNothing) {
     for (int i = 0; i < 50; ++i) disk.file("/r/" + std::to_string(i) + "/f", 1);
     disk.directory("/r/0/held");
@@ -122,6 +161,44 @@ TEST_F(ScanEngineTest, aCancelledWalkReadsNoFurtherDirectory) {
     disk.release();
     ASSERT_TRUE(drainThreads(60));
     EXPECT_EQ(disk.timesRead("/r/first"), 0);
+}
+
+TEST_F(ScanEngineTest, aCancelledWalkReadsNoFurtherDirectoryBelowTheSharedOnes) {
+    disk.directory("/r/1/2/3/4/5/6/first");
+    disk.directory("/r/1/2/3/4/5/6/last/below");
+    disk.hold("/r/1/2/3/4/5/6/first");
+    workers(1);
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r/1/2/3/4/5/6/first");
+    queue->terminate();
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5/6/last"), 0);
+}
+
+/// Counts what is asked of the roots.
+class RootCounter : public fakes::FakeDirectoryService {
+public:
+    std::optional<RootStatus> status(const std::string& path) override {
+        ++asked;
+        return fakes::FakeDirectoryService::status(path);
+    }
+    std::atomic<int> asked = 0;
+};
+
+TEST(ScanEngineRoots, areNotAskedForOnceTheScanIsCancelled) {
+    RootCounter disk;
+    disk.directory("/a");
+    disk.directory("/b");
+    PosixClock clock;
+    const auto cancelled = std::make_shared<UpdateQueue>();
+    cancelled->terminate();
+    ScanEngine(disk, clock).runHere(cancelled, {"/a", "/b"});
+    EXPECT_EQ(disk.asked, 0);
+    ScanEngine(disk, clock).runHere(std::make_shared<UpdateQueue>(), {"/a", "/b"});
+    EXPECT_EQ(disk.asked, 2);
+    EXPECT_TRUE(drainThreads(60));
 }
 
 TEST_F(ScanEngineTest, aCancelBeforeTheFirstRootWalksNothing) {
@@ -160,6 +237,52 @@ TEST(WorkerCount, isReadFromTheEnvironmentAtEachScan) {
     unsetenv("ZELK_WORKERS");
     EXPECT_GE(ScanEngine::resolveWorkerCount(), 4);
 }
+
+#ifdef __linux__
+
+TEST_F(ScanEngineTest, aMachineWithoutThreadsGivesASurveyThatFoundNothing) {
+    disk.file("/r/f", 5);
+    FixedClock fixed;
+    const auto queue = std::make_shared<UpdateQueue>();
+    fakes::behindGate(
+        SYS_clone3, [](unsigned) { return EAGAIN; }, [&] { ScanEngine(disk, fixed).start(queue, {"/r"}); });
+    auto batch = queue->takeAll();
+    EXPECT_TRUE(batch.ended);
+    const ScanResult result(std::move(batch.updates));
+    EXPECT_EQ(result.order, "if");
+    EXPECT_EQ(result.stats.roots, std::vector<std::string>{"/r"});
+    EXPECT_EQ(result.stats.filesScanned, 0);
+    EXPECT_TRUE(result.top->children.empty());
+    EXPECT_EQ(result.top->lastModified, 1'234'567.5);
+    EXPECT_EQ(disk.timesRead("/r"), 0);
+}
+
+TEST_F(ScanEngineTest, aMachineThatMakesNoOrFewWorkersIsSurveyedWholeAllTheSame) {
+    for (int i = 0; i < 50; ++i) disk.file("/r/" + std::to_string(i % 5) + "/" + std::to_string(i) + "/f", 1);
+    for (const unsigned made : {0U, 2U}) {
+        const auto queue = std::make_shared<UpdateQueue>();
+        unsigned asked = 0;
+        workers(4);
+        fakes::behindGate(
+            SYS_clone3, [&](unsigned call) { return asked = call + 1, call < made ? 0 : EAGAIN; },
+            [&] { ScanEngine(disk, clock).runHere(queue, {"/r"}); });
+        EXPECT_EQ(asked, made + 1) << "one refusal is enough";
+        EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.filesScanned, 50);
+        EXPECT_TRUE(drainThreads(60));
+    }
+}
+
+TEST(WorkerCount, isThatOfTheProcessorsWhichAreOnNow) {
+    const zoo::TempFolder temp;
+    fakes::Mounts mounts;
+    if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
+    std::ofstream(temp / "online") << "0-20\n";
+    mounts.again(temp / "online", "/sys/devices/system/cpu/online");
+    if (std::thread::hardware_concurrency() != 21) GTEST_SKIP() << "the processors are counted elsewhere";
+    EXPECT_EQ(ScanEngine::resolveWorkerCount(), 31);
+}
+
+#endif
 
 }  // namespace
 }  // namespace zelk

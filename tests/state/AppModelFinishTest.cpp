@@ -114,6 +114,25 @@ TEST_F(AppModelFinishTest, theRecordHoldsTheFiguresOfTheSurvey) {
     EXPECT_EQ(decodeHistory(*historyFile()), model().history());
 }
 
+TEST_F(AppModelFinishTest, foldersOfTwentyMillionBytesAreRecordedAndSmallerOnesAreNot) {
+    machine.directories.file(home + "/enough/file", 20'000'000);
+    machine.directories.file(home + "/short/file", 19'999'999);
+    survey();
+    EXPECT_EQ(model().history().front().folders, (SizeByPath{{home, 39'999'999}, {home + "/enough", 20'000'000}}));
+}
+
+TEST_F(AppModelFinishTest, theFourHundredLargestFoldersAreRecorded) {
+    for (int number = 0; number < 401; ++number)
+        machine.directories.file(home + "/" + std::to_string(number) + "/file",
+                                 static_cast<std::uint64_t>(20'000'000 + number));
+    survey();
+    const SizeByPath folders = model().history().front().folders.value();
+    EXPECT_EQ(folders.size(), 400U);
+    EXPECT_FALSE(folders.contains(home + "/0"));
+    EXPECT_FALSE(folders.contains(home + "/1"));
+    EXPECT_TRUE(folders.contains(home + "/2"));
+}
+
 TEST_F(AppModelFinishTest, aVolumeThatCannotBeReadIsRecordedAsZero) {
     machine.vitals.setVolume(home, std::nullopt);
     survey();
