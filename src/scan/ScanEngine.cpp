@@ -51,8 +51,7 @@ ScanPhases scanBody(DirectoryService& directories, Clock& clock, const TrashPlac
     const double rolledUp = clock.monotonic();
 
     const ScanCounters::Counts counts = collectors.counters.counts();
-    ScanStats stats{counts.files,     counts.dirs,      top->size,      counts.blocked,
-                    rolledUp - start, std::move(roots), cancel->isSet()};
+    ScanStats stats = statsOf(counts, top->size, rolledUp - start, std::move(roots), *cancel);
     if (counts.blocked > 0) queue->yield(update::Blocked{counts.blocked});
     queue->yield(update::Insights{{largestFirst(collectors.topFiles.items()), collectors.types.totals(),
                                    largestFirst(collectors.diskImages.items())}});
@@ -105,6 +104,11 @@ std::int64_t ScanEngine::workerCountFor(const char* setting, std::int64_t active
         if (error == std::errc() && end == text.data() + text.size() && wanted > 0) return wanted;
     }
     return std::max<std::int64_t>(4, static_cast<std::int64_t>(static_cast<double>(activeProcessors) * 1.5));
+}
+
+ScanStats statsOf(const ScanCounters::Counts& counts, std::int64_t totalBytes, double seconds,
+                  std::vector<std::string> roots, const CancelFlag& cancel) {
+    return {counts.files, counts.dirs, totalBytes, counts.blocked, seconds, std::move(roots), cancel.isSet()};
 }
 
 std::int64_t rollUpSizes(FSNode& top) {

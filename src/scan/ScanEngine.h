@@ -9,6 +9,8 @@
 
 #include "platform/DirectoryReader.h"
 #include "platform/TrashPlaces.h"
+#include "scan/CancelFlag.h"
+#include "scan/ScanCounters.h"
 #include "scan/UpdateQueue.h"
 
 namespace zelk {
@@ -44,6 +46,10 @@ private:
     Clock& clock_;
     TrashPlaces trash_;
 };
+
+/// What a scan that has ended says of itself. `seconds` are those from its beginning to its last sum.
+ScanStats statsOf(const ScanCounters::Counts& counts, std::int64_t totalBytes, double seconds,
+                  std::vector<std::string> roots, const CancelFlag& cancel);
 
 /// Sums ownFileBytes up the tree into `size`; returns the top's. Any depth.
 std::int64_t rollUpSizes(FSNode& top);

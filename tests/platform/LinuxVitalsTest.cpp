@@ -218,6 +218,30 @@ TEST_F(MadeMachine, aVolumeThatIsNotThereIsAbsent) {
     EXPECT_FALSE(vitals().volume("").has_value());
 }
 
+/// A volume whose every field tells another story.
+struct statvfs volumeRecord() {
+    struct statvfs record {};
+    record.f_bsize = 1'048'576;
+    record.f_frsize = 4'096;
+    record.f_blocks = 1'000;
+    record.f_bfree = 500;
+    record.f_bavail = 250;
+    record.f_files = 70;
+    record.f_ffree = 60;
+    record.f_favail = 50;
+    return record;
+}
+
+TEST(VolumeOfRecord, countsBlocksInTheUnitOfTheVolumeAndLeavesOutWhatIsTheSuperusers) {
+    EXPECT_EQ(volumeOfRecord(volumeRecord()), (VolumeInfo{4'096'000, 1'024'000, 1'024'000}));
+}
+
+TEST(VolumeOfRecord, withoutAUnitCountsInBlocks) {
+    struct statvfs record = volumeRecord();
+    record.f_frsize = 0;
+    EXPECT_EQ(volumeOfRecord(record), (VolumeInfo{1'048'576'000, 262'144'000, 262'144'000}));
+}
+
 TEST(LinuxVitals, theRealMachineIsAlive) {
     LinuxVitals vitals;
     const DeviceInfo device = vitals.device();

@@ -23,6 +23,44 @@ TEST_F(ScanEngineTest, closesWithInsightsThenFinished) {
     EXPECT_GE(result.stats.duration, 0);
 }
 
+/// A second passes whenever it is asked for.
+class MovingClock : public Clock {
+public:
+    TimePoint now() override { return 0; }
+    double monotonic() override { return seconds_++; }
+
+private:
+    double seconds_ = 1000;
+};
+
+TEST_F(ScanEngineTest, theDurationReachesFromTheBeginningToTheLastSum) {
+    disk.file("/r/f", 1);
+    MovingClock moving;
+    const auto queue = std::make_shared<UpdateQueue>();
+    const ScanPhases phases = ScanEngine(disk, moving).runHere(queue, {"/r"});
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.duration, 2);
+    EXPECT_EQ(phases.walk, 1);
+    EXPECT_EQ(phases.rollUp, 1);
+}
+
+TEST_F(ScanEngineTest, theStatsTellWhetherTheScanWasCancelled) {
+    CancelFlag cancel;
+    EXPECT_FALSE(statsOf({}, 0, 0, {}, cancel).wasCancelled);
+    cancel.set();
+    EXPECT_TRUE(statsOf({}, 0, 0, {}, cancel).wasCancelled);
+}
+
+TEST_F(ScanEngineTest, theStatsHoldEveryFigureInItsPlace) {
+    const ScanCounters::Counts counts{.files = 1, .dirs = 2, .blocked = 3};
+    const ScanStats stats = statsOf(counts, 4, 5, {"/r"}, CancelFlag());
+    EXPECT_EQ(stats.filesScanned, 1);
+    EXPECT_EQ(stats.dirsScanned, 2);
+    EXPECT_EQ(stats.blockedPaths, 3);
+    EXPECT_EQ(stats.totalBytes, 4);
+    EXPECT_EQ(stats.duration, 5);
+    EXPECT_EQ(stats.roots, std::vector<std::string>{"/r"});
+}
+
 TEST_F(ScanEngineTest, blockedComesFirstAndOnlyWhenThereIsSome) {
     disk.directory("/r/shut");
     disk.unreadable("/r/shut");

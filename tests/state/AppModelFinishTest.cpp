@@ -55,7 +55,7 @@ TEST_F(AppModelFinishTest, theClassifierRunsOffTheMainThreadAndMarksTheTree) {
     machine.directories.directory(home + "/rust/target");
     machine.files.addFile(home + "/rust/Cargo.toml");
     machine.files.failing = [&](const fakes::FakeFileManager::Call& call) {
-        if (call.operation == "exists") asked = std::this_thread::get_id();
+        if (call.operation == "exists" && call.path.ends_with("/Cargo.toml")) asked = std::this_thread::get_id();
         return false;
     };
     survey();
@@ -88,6 +88,19 @@ TEST_F(AppModelFinishTest, theRecordIsKeptOffTheMainThreadAndThePhaseWaitsForIt)
     EXPECT_TRUE(historyFile());
     runUntil([&] { return model().scanPhase() == Phase::finished; });
     EXPECT_EQ(model().history().size(), 1U);
+    machine.tasks.release();
+}
+
+TEST_F(AppModelFinishTest, theRecordIsDatedWhenTheClassificationHasEnded) {
+    surveyUpToClassification();
+    machine.clock.advance(60);
+    classifyUpToTheRecord();
+    const TimePoint classified = machine.clock.now();
+    machine.clock.advance(60);
+    machine.tasks.runNext();
+    runUntil([&] { return model().scanPhase() == Phase::finished; });
+    ASSERT_EQ(model().history().size(), 1U);
+    EXPECT_EQ(model().history().front().date, classified);
     machine.tasks.release();
 }
 

@@ -2,7 +2,6 @@
 #include "platform/linux/LinuxVitals.h"
 
 #include <fcntl.h>
-#include <sys/statvfs.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -28,6 +27,10 @@ bool isPlaceholder(const std::string& model) {
 }
 
 }  // namespace
+
+VolumeInfo volumeOfRecord(const struct statvfs& record) {
+    return volumeOfBlocks(record.f_frsize != 0 ? record.f_frsize : record.f_bsize, record.f_blocks, record.f_bavail);
+}
 
 DeviceInfo LinuxVitals::device() {
     DeviceInfo device;
@@ -59,7 +62,7 @@ PowerInfo LinuxVitals::power() {
 std::optional<VolumeInfo> LinuxVitals::volume(const std::string& path) {
     struct statvfs volume {};
     if (uninterrupted([&] { return ::statvfs(path.c_str(), &volume); }) != 0) return std::nullopt;
-    return volumeOfBlocks(volume.f_frsize != 0 ? volume.f_frsize : volume.f_bsize, volume.f_blocks, volume.f_bavail);
+    return volumeOfRecord(volume);
 }
 
 double LinuxVitals::uptime() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <sys/statvfs.h>
+
 #include <string>
 #include <vector>
 
@@ -8,6 +10,10 @@
 #include "platform/linux/PowerSupply.h"
 
 namespace zelk {
+
+/// A volume by the system's record. Blocks are counted in the smallest unit of the volume, not in the size that is best
+/// for reading; what only the superuser may take is not available.
+VolumeInfo volumeOfRecord(const struct statvfs& record);
 
 /// The vitals out of /proc, /sys and /etc. Keeps nothing between two reads. Texts are the system's bytes, which need
 /// not be UTF-8.
