@@ -92,6 +92,19 @@ TEST_F(Overview, theTabKeyReadsTheFindingsInTheirOrder) {
                                             "findingCard2", "findingCard3", "seeAllButton", "changesButton"));
 }
 
+TEST_F(Overview, foldersThatCouldNotBeReadAreToldBelowTheHeadline) {
+    shell();
+    surveyFromTheButton();
+    ASSERT_NE(find("unreadLine"), nullptr);
+    EXPECT_FALSE(find("unreadLine")->isVisible());
+    machine.directories.unreadable(home + "/projects");
+    surveyFromTheButton();
+    window().grabWindow();
+    EXPECT_TRUE(find("unreadLine")->isVisible());
+    EXPECT_EQ(find("unreadLine")->property("text").toString(), QStringLiteral("1 folder could not be read."));
+    EXPECT_GT(find("unreadLine")->height(), 0);
+}
+
 TEST_F(Overview, theTrashIsEmptiedFromItsBanner) {
     machine.trash.put("old.zip", 7'000'000);
     shell();

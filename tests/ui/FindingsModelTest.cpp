@@ -97,6 +97,41 @@ TEST_F(Findings, aCleanDriveOfSeveralRootsTellsThemAll) {
     EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 7 MB."));
 }
 
+TEST_F(Findings, aHomeThatNobodyCouldReadIsToldAsUnread) {
+    machine.directories.unreadable(home);
+    surveyOf({});
+    EXPECT_EQ(findings().title(), QStringLiteral("Clean drive"));
+    EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 0 bytes."));
+    EXPECT_EQ(findings().unreadLine(), QStringLiteral("1 folder could not be read."));
+}
+
+TEST_F(Findings, theFoldersThatCouldNotBeReadAreCounted) {
+    for (int folder = 0; folder < 1'234; ++folder) machine.directories.unreadable(home + "/" + std::to_string(folder));
+    fillHome();
+    surveyOf({});
+    EXPECT_EQ(findings().title(), QStringLiteral("You can reclaim"));
+    EXPECT_EQ(findings().unreadLine(), QStringLiteral("1,234 folders could not be read."));
+}
+
+TEST_F(Findings, nothingIsSaidOfUnreadFoldersWhereAllWereRead) {
+    machine.directories.unreadable(home + "/secret");
+    surveyOf({{"letter.txt", 5'000'000}});
+    EXPECT_NE(findings().unreadLine(), QString());
+    model().setScanRoots({"/data"});
+    machine.directories.file("/data/letter.txt", 5'000'000);
+    survey();
+    EXPECT_EQ(findings().unreadLine(), QString());
+}
+
+TEST_F(Findings, whileAnotherSurveyRunsTheUnreadFoldersStay) {
+    machine.directories.unreadable(home + "/secret");
+    surveyOf({});
+    machine.directories.hold(home);
+    model().startScan();
+    EXPECT_EQ(model().blockedPaths(), 0);
+    EXPECT_EQ(findings().unreadLine(), QStringLiteral("1 folder could not be read."));
+}
+
 TEST_F(Findings, reviewLeadsToReclaimAndSeeAllToClutter) {
     findings().review();
     EXPECT_EQ(model().selection(), Screen::reclaim);

@@ -18,6 +18,12 @@ std::int64_t scannedBytes(const AppModel& app) {
     return root->children.size() == 1 ? root->children.front()->size : root->size;
 }
 
+QString unreadText(std::int64_t folders) {
+    if (folders < 1) return {};
+    if (folders == 1) return QStringLiteral("1 folder could not be read.");
+    return QStringLiteral("%1 folders could not be read.").arg(groupedFigure(folders));
+}
+
 }  // namespace
 
 FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app), cards_(app) {
@@ -60,6 +66,7 @@ void FindingsModel::seeAll() {
 void FindingsModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
     headline();
+    unreadLine_ = unreadText(app_.blockedPaths());
     segments_ = readSegments();
     freeBytes_ = app_.volume() ? app_.volume()->available : 0;
     cards_.refresh();

@@ -23,6 +23,7 @@ class FindingsModel : public QObject {
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
     Q_PROPERTY(QString figure READ figure NOTIFY changed FINAL)
     Q_PROPERTY(QString line READ line NOTIFY changed FINAL)
+    Q_PROPERTY(QString unreadLine READ unreadLine NOTIFY changed FINAL)
     Q_PROPERTY(bool reviewable READ reviewable NOTIFY changed FINAL)
     Q_PROPERTY(QString reviewLabel READ reviewLabel CONSTANT FINAL)
     Q_PROPERTY(QString heading READ heading CONSTANT FINAL)
@@ -44,6 +45,8 @@ public:
     /// The big figure; empty where there is nothing to take back.
     const QString& figure() const { return figure_; }
     const QString& line() const { return line_; }
+    /// How many folders could not be read, so that nobody takes what is unknown for clean; empty where all could.
+    const QString& unreadLine() const { return unreadLine_; }
     /// Whether there is anything to review.
     bool reviewable() const { return reviewable_; }
     QString reviewLabel() const;
@@ -76,6 +79,7 @@ private:
     QString title_;
     QString figure_;
     QString line_;
+    QString unreadLine_;
     bool reviewable_ = false;
     QList<RibbonSegment> segments_;
     qint64 freeBytes_ = 0;

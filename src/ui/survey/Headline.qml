@@ -45,6 +45,16 @@ Item {
             soft: true
             wrapMode: Text.Wrap
         }
+
+        Words {
+            objectName: "unreadLine"
+            width: parent.width
+            text: headline.findings.unreadLine
+            visible: text !== ""
+            size: 12
+            soft: true
+            wrapMode: Text.Wrap
+        }
     }
 
     PrimaryButton {

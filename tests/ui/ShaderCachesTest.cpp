@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "ui/shell/ShaderCaches.h"
+
+#include <gmock/gmock.h>
+
+#include <QCoreApplication>
+#include <map>
+
+#include "fakes/Environment.h"
+#include "fakes/InChild.h"
+#include "fakes/Mounts.h"
+#include "fakes/TestFiles.h"
+#include "zoo/TempFolder.h"
+
+namespace zelk {
+
+namespace {
+
+using fakes::EnvironmentVariable;
+using testing::Contains;
+using testing::ElementsAre;
+
+using Rooms = std::map<std::string, std::optional<std::int64_t>>;
+
+bool haveRoom(const Rooms& rooms) {
+    std::vector<std::string> folders;
+    for (const auto& [folder, room] : rooms) folders.push_back(folder);
+    return shaderCachesHaveRoom(folders, [&](const std::string& folder) { return rooms.at(folder); });
+}
+
+/// The environment of a user with this home and nothing else set.
+struct Surroundings {
+    explicit Surroundings(const std::string& folder) : home("HOME", folder) {}
+
+    EnvironmentVariable home;
+    EnvironmentVariable cache{"XDG_CACHE_HOME", std::nullopt};
+    EnvironmentVariable mesa{"MESA_SHADER_CACHE_DIR", std::nullopt};
+    EnvironmentVariable oldMesa{"MESA_GLSL_CACHE_DIR", std::nullopt};
+    EnvironmentVariable nvidia{"__GL_SHADER_DISK_CACHE_PATH", std::nullopt};
+};
+
+}  // namespace
+
+TEST(ShaderCaches, haveRoomFromSixtyFourMegabytesOn) {
+    EXPECT_TRUE(haveRoom({{"/home/me", 64'000'000}}));
+    EXPECT_FALSE(haveRoom({{"/home/me", 63'999'999}}));
+    EXPECT_FALSE(haveRoom({{"/home/me", 0}}));
+}
+
+TEST(ShaderCaches, haveNoneWhereOneOfTheirFoldersHasNone) {
+    EXPECT_TRUE(haveRoom({{"/a", 64'000'000}, {"/b", 64'000'000}}));
+    EXPECT_FALSE(haveRoom({{"/a", 0}, {"/b", 64'000'000}}));
+    EXPECT_FALSE(haveRoom({{"/a", 64'000'000}, {"/b", 0}}));
+}
+
+TEST(ShaderCaches, haveNoneWhereTheRoomCannotBeTold) {
+    EXPECT_FALSE(haveRoom({{"/home/me", std::nullopt}}));
+}
+
+#ifdef __linux__
+TEST(ShaderCaches, lieInTheHomeAndItsCacheFolder) {
+    const Surroundings user("/home/me");
+    EXPECT_THAT(shaderCacheFolders(), ElementsAre("/home/me", "/home/me/.cache"));
+}
+
+TEST(ShaderCaches, lieWhereTheEnvironmentSays) {
+    const Surroundings user("/home/me");
+    const EnvironmentVariable cache("XDG_CACHE_HOME", "/caches");
+    const EnvironmentVariable mesa("MESA_SHADER_CACHE_DIR", "/mesa");
+    const EnvironmentVariable oldMesa("MESA_GLSL_CACHE_DIR", "/old");
+    const EnvironmentVariable nvidia("__GL_SHADER_DISK_CACHE_PATH", "/nvidia");
+    EXPECT_THAT(shaderCacheFolders(), ElementsAre("/home/me", "/caches", "/mesa", "/old", "/nvidia"));
+}
+#endif
+
+TEST(ShaderCaches, theirRoomIsThatOfTheNearestFolderThatIsThere) {
+    const zoo::TempFolder folder;
+    const std::optional<std::int64_t> room = roomForCacheIn(folder / "not/yet/there");
+    ASSERT_TRUE(room.has_value());
+    EXPECT_GT(*room, 0);
+}
+
+TEST(ShaderCaches, aHomeThatDoesNotExistHasNoRoomForThem) {
+    const zoo::TempFolder folder;
+    const Surroundings user(folder / "home");
+    EXPECT_EQ(roomForCacheIn(folder / "home"), 0);
+    EXPECT_TRUE(fakes::inChild([] { return switchOffShaderCachesWhereRoomIsShort(); }));
+    EXPECT_TRUE(fakes::namesIn(folder.path()).empty());
+}
+
+#ifdef __linux__
+TEST(ShaderCaches, areSwitchedOffOnASmallVolumeAndStayOnALargerOne) {
+    const zoo::TempFolder folder;
+    const Surroundings user(folder / "home");
+    const auto switchedOffWith = [&](const char* options, bool expected) {
+        return fakes::inChild([&] {
+            fakes::Mounts mounts;
+            if (!mounts.allowed()) return true;
+            mounts.memory(folder / "home", options);
+            return switchOffShaderCachesWhereRoomIsShort() == expected &&
+                   QCoreApplication::testAttribute(Qt::AA_DisableShaderDiskCache) == expected &&
+                   qgetenv("MESA_SHADER_CACHE_DISABLE").isEmpty() != expected;
+        });
+    };
+    EXPECT_TRUE(switchedOffWith("size=1m", true));
+    EXPECT_TRUE(switchedOffWith("size=100m", false));
+}
+#endif
+
+TEST(ShaderCaches, areSwitchedOffWithEveryDriverAndInQt) {
+    const zoo::TempFolder folder;
+    const Surroundings user(folder / "home");
+    EXPECT_TRUE(fakes::inChild([] {
+        switchOffShaderCachesWhereRoomIsShort();
+        return qgetenv("MESA_SHADER_CACHE_DISABLE") == "true" && qgetenv("MESA_GLSL_CACHE_DISABLE") == "true" &&
+               qgetenv("__GL_SHADER_DISK_CACHE") == "0" && qgetenv("QSG_RHI_DISABLE_DISK_CACHE") == "1" &&
+               QCoreApplication::testAttribute(Qt::AA_DisableShaderDiskCache);
+    }));
+}
+
+}  // namespace zelk
