@@ -41,6 +41,7 @@
 #include "ui/shell/FolderPicker.h"
 #include "ui/shell/NativeApplication.h"
 #include "ui/shell/QuitQuestion.h"
+#include "ui/shell/ShaderCaches.h"
 #include "ui/shell/Shell.h"
 
 namespace {
@@ -51,6 +52,7 @@ constexpr double drainSeconds = 1.5;
 }  // namespace
 
 int main(int argc, char** argv) {
+    zelk::switchOffShaderCachesWhereRoomIsShort();
     QApplication application(argc, argv);
     zelk::dressApplication();
     zelk::refuseWindowTabs();
@@ -65,7 +67,7 @@ int main(int argc, char** argv) {
         services.preferences = &preferences;
         services.workspace = &platform.workspace;
         services.accessGranted = [&] { return zelk::hasFullDiskAccess(platform.files, model.home()); };
-        services.pickFolder = zelk::pickFolder;
+        services.pickFolder = [&] { return zelk::pickFolder(platform.files); };
         services.quit = &QCoreApplication::quit;
         services.bundle = zelk::applicationBundle();
         zelk::Shell shell(model, services);

@@ -12,7 +12,7 @@ namespace zelk {
 class Locations {
 public:
     virtual ~Locations() = default;
-    /// The home folder, without a slash at its end, but "/" for a user without one.
+    /// The home folder, a normal folder; "/" for a user without one.
     virtual std::string home() = 0;
     /// The user's application support folder ("~/Library/Application Support"; the XDG data home on Linux). It may not
     /// exist yet. Absent if the system names none.

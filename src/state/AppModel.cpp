@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "platform/FolderPath.h"
 #include "state/ScanTask.h"
 
 namespace zelk {
@@ -64,10 +65,12 @@ void AppModel::setSelection(Screen screen) {
     assign(selection_, screen, &AppModel::selectionChanged);
 }
 
-void AppModel::setScanRoots(std::vector<std::string> roots) {
+void AppModel::setScanRoots(const std::vector<std::string>& roots) {
     std::vector<std::string> once;
-    for (std::string& root : roots)
-        if (std::find(once.begin(), once.end(), root) == once.end()) once.push_back(std::move(root));
+    for (const std::string& root : roots) {
+        std::string normal = normalFolder(root);
+        if (std::find(once.begin(), once.end(), normal) == once.end()) once.push_back(std::move(normal));
+    }
     assign(scanRoots_, std::move(once), &AppModel::scanRootsChanged);
 }
 

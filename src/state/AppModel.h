@@ -64,8 +64,8 @@ public:
     Screen selection() const { return selection_; }
     void setSelection(Screen screen);
     const std::vector<std::string>& scanRoots() const { return scanRoots_; }
-    /// Equal paths are taken once.
-    void setScanRoots(std::vector<std::string> roots);
+    /// Normal folders, each once: one that is surveyed under two spellings would count twice.
+    void setScanRoots(const std::vector<std::string>& roots);
     std::int64_t ageFilterDays() const { return ageFilterDays_; }
     void setAgeFilterDays(std::int64_t days);
     bool hardDeleteEnabled() const { return hardDeleteEnabled_; }

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <limits>
 
+#include "platform/FolderPath.h"
 #include "state/HistoryKey.h"
 
 namespace zelk {
@@ -144,7 +145,10 @@ std::optional<std::string> SurveyHistory::location() const {
     const std::optional<std::string> support = locations_.applicationSupport();
     if (!support) return std::nullopt;
     const std::string folder = *support + "/Zelk";
-    files_.createDirectories(folder);  // without the folder, reading and writing fail by themselves
+    // Without the folder, reading and writing fail by themselves. A home folder that is not there (yet, on a volume
+    // that comes later) is not ours to make.
+    const std::string home = locations_.home();
+    if (!isInFolder(folder, home) || files_.exists(home)) files_.createDirectories(folder);
     return folder + "/history.json";
 }
 

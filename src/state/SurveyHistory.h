@@ -28,7 +28,8 @@ public:
 
     SurveyHistory(FileManager& files, Locations& locations) : files_(files), locations_(locations) {}
 
-    /// "Zelk/history.json" in the application support folder, the folder made; absent if the system names none.
+    /// "Zelk/history.json" in the application support folder, the folder made, but never the home folder; absent if the
+    /// system names none.
     std::optional<std::string> location() const;
     std::vector<SurveyRecord> load() const;
     /// Adds `record`, drops the oldest above the maximum, writes, and gives the whole list whether or not the write

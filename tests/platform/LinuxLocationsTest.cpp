@@ -43,6 +43,11 @@ TEST(LinuxLocations, homeHasNoSlashAtItsEnd) {
     EXPECT_EQ(LinuxLocations("/given/").home(), "/given");
 }
 
+TEST(LinuxLocations, homeHasNoDotComponents) {
+    EXPECT_EQ(LinuxLocations("/given/./home//.").home(), "/given/home");
+    EXPECT_EQ(LinuxLocations("/given/./home").applicationSupport(), "/given/home/.local/share");
+}
+
 TEST(LinuxLocations, theRootAsHomeStaysOneSlash) {
     const EnvironmentVariable home("HOME", "/");
     const EnvironmentVariable data("XDG_DATA_HOME", std::nullopt);

@@ -56,6 +56,7 @@ protected:
 
 TEST_F(ManyRemovals, allGoToTheTrash) {
     const std::string home = temp / "home";
+    zoo::makeFolder(home);
     EXPECT_TRUE(withFewDescriptors([&] {
         LinuxTrash trash(home);
         return failures([&](int item) { return trash.trash(ItemPath::from(pathOf(item)).value()); }) == 0;

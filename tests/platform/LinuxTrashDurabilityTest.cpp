@@ -128,11 +128,13 @@ TEST_F(TrashDurability, anErrorOfAnyCallLeavesTheItemOrBringsItIntoTheTrashAndSa
 TEST_F(TrashDurability, aFirstItemsErrorOfAnyCallIsSaidToo) {
     prepare();
     fs::remove_all(home);
+    zoo::makeFolder(home);
     ASSERT_EQ(trashItem({}), 0);
     for (const CallPosition& position : positions()) {
         SCOPED_TRACE(position.line);
         prepare();
         fs::remove_all(home);
+        zoo::makeFolder(home);
         const int status = trashItem({position.injection("error=EACCES")});
         EXPECT_TRUE(status == 0 ? isInTrash() && !isInPlace() : status == 1 && isInPlace() && !isInTrash()) << status;
     }
@@ -141,11 +143,13 @@ TEST_F(TrashDurability, aFirstItemsErrorOfAnyCallIsSaidToo) {
 TEST_F(TrashDurability, aKillAtAnyCallOfTheFirstItemLeavesItOrBringsItIntoTheTrash) {
     prepare();
     fs::remove_all(home);
+    zoo::makeFolder(home);
     ASSERT_EQ(trashItem({}), 0);
     for (const CallPosition& position : positions()) {
         SCOPED_TRACE("killed at " + position.line);
         prepare();
         fs::remove_all(home);
+        zoo::makeFolder(home);
         EXPECT_EQ(trashItem({position.injection("signal=KILL")}), -1);
         EXPECT_TRUE(isInPlace() != isInTrash());
         // A Trash that is half made is in nobody's way.

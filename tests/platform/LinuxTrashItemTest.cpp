@@ -57,7 +57,11 @@ protected:
         EXPECT_FALSE(fs::exists(fs::symlink_status(path)));
     }
 
-    void SetUp() override { zoo::makeFolder(temp / "items"); }
+    void SetUp() override {
+        zoo::makeFolder(temp / "items");
+        zoo::makeFolder(home);
+        fs::permissions(home, fs::perms::all);  // for whoever a test runs as
+    }
 
     const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
     const std::string home = temp / "home";
@@ -287,8 +291,7 @@ TEST_F(TrashItem, thatCannotBeRenamedAtAllStaysAndLeavesNothingInTheTrash) {
 TEST_F(TrashItem, isTheOneThatWasFoundWhateverIsPutInPlaceOfItsFolder) {
     for (const long call : {SYS_mkdirat, SYS_fsync, SYS_renameat2}) {
         for (const std::string& path : {home, items, temp / "aside", temp / "other"}) fs::remove_all(path);
-        fs::create_directory(items);
-        fs::create_directory(temp / "other");
+        for (const std::string& path : {home, items, temp / "other"}) fs::create_directory(path);
         writeFile(item, "content");
         writeFile(temp / "other/item.txt", "another");
         Failure failure = "not run";
@@ -356,6 +359,8 @@ TEST_F(TrashItem, staysWhereNoInfoCanBeWritten) {
 
 TEST_F(TrashItem, staysWhereItsFolderMayNotBeChanged) {
     writeFile(item, "content");
+    zoo::makeFolder(items + "/nowhere");
+    ASSERT_EQ(::chmod((items + "/nowhere").c_str(), 0555), 0);
     ASSERT_EQ(::chmod(items.c_str(), 0555), 0);
     EXPECT_TRUE(asOrdinaryUser([&] {
         const Failure failure = LinuxTrash(items + "/nowhere").trash(ItemPath::from(item).value());

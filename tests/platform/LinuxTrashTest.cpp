@@ -46,6 +46,26 @@ TEST(LinuxTrash, isEmptyUntilSomebodyUsesIt) {
     EXPECT_THAT(LinuxTrash(home.path()).list(), Optional(IsEmpty()));
 }
 
+TEST(LinuxTrash, makesNoHomeThatDoesNotExist) {
+    const TempFolder temp;
+    zoo::makeFile(temp / "file");
+    LinuxTrash trash(temp / "missing/home");
+    const Failure failure = trash.trash(*ItemPath::from(temp / "file"));
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_NE(failure->find("missing/home"), std::string::npos) << *failure;
+    EXPECT_EQ(trash.empty(), 0U);
+    EXPECT_EQ(fakes::namesIn(temp.path()), std::set<std::string>{"file"});
+}
+
+TEST(LinuxTrash, besideAHomeThatDoesNotExistTakesItems) {
+    const TempFolder temp;
+    const EnvironmentVariable home("HOME", temp / "missing");
+    const EnvironmentVariable data("XDG_DATA_HOME", temp / "data");
+    zoo::makeFile(temp / "file");
+    EXPECT_EQ(LinuxTrash().trash(*ItemPath::from(temp / "file")), std::nullopt);
+    EXPECT_EQ(fakes::namesIn(temp.path()), std::set<std::string>{"data"});
+}
+
 TEST(LinuxTrash, listsWhatIsInItHiddenEntriesToo) {
     const TempFolder home;
     const std::string files = home / ".local/share/Trash/files/";
@@ -70,6 +90,7 @@ TEST(LinuxTrash, keepsWhatIsInItAlreadyKnownByThePlaceItCameFrom) {
     const zoo::TempFolder temp;
     const std::string items = temp / "items";
     const std::string trash = temp / "home/.local/share/Trash";
+    zoo::makeFolder(temp / "home");
     LinuxTrash itsTrash(temp / "home");
     const auto trashed = [&](const std::string& path) { return itsTrash.trash(ItemPath::from(path).value()); };
     const std::string project = items + "/project";

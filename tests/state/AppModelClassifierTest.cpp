@@ -14,7 +14,7 @@ protected:
     void surveyIntoTheClassifier() {
         machine.directories.directory(home + "/rust/target");
         machine.files.failing = [this](const fakes::FakeFileManager::Call& call) {
-            if (call.operation != "exists") return false;
+            if (call != fakes::FakeFileManager::Call{"exists", home + "/rust/Cargo.toml"}) return false;
             working_.set_value();
             letGo_.get_future().wait();
             return false;

@@ -88,8 +88,21 @@ TEST_F(AppModelTest, choosingWhatIsChosenSignalsNothing) {
 }
 
 TEST_F(AppModelTest, equalScanRootsAreTakenOnceInTheirOrder) {
-    model().setScanRoots({"/b", "/a", "/b", "/a/", "/a"});
-    EXPECT_EQ(model().scanRoots(), (Strings{"/b", "/a", "/a/"}));
+    model().setScanRoots({"/b", "/a", "/b", "/c", "/a"});
+    EXPECT_EQ(model().scanRoots(), (Strings{"/b", "/a", "/c"}));
+}
+
+TEST_F(AppModelTest, aScanRootInAnotherSpellingIsTheSameOne) {
+    model().setScanRoots({"/a/home/", "/a/home", "/a/./home", "//a/home/.", "/caf\xe9/"});
+    EXPECT_EQ(model().scanRoots(), (Strings{"/a/home", "/caf\xe9"}));
+}
+
+TEST_F(AppModelTest, theSameFolderTwiceIsSurveyedOnce) {
+    machine.directories.file("/a/home/file", 1'000'000);
+    model().setScanRoots({"/a/home/", "/a/home"});
+    survey();
+    EXPECT_EQ(model().stats()->filesScanned, 1);
+    EXPECT_EQ(model().stats()->roots, Strings{"/a/home"});
 }
 
 TEST_F(AppModelTest, theSelectionIsNotTouchedByAScan) {

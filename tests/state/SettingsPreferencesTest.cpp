@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+
+#include "fakes/Environment.h"
 #include "fakes/TestFiles.h"
 #include "zoo/TempFolder.h"
 
@@ -52,6 +55,29 @@ TEST_F(SettingsPreferencesTest, aWriteThatFailsIsSilent) {
     EXPECT_TRUE(preferences.flag(didOnboardKey));  // as far as this run goes
     EXPECT_EQ(fakes::namesIn(folder.path()), std::set<std::string>{"file"});
     EXPECT_EQ(fakes::fileContent(folder / "file"), "in the way of a folder");
+}
+
+TEST_F(SettingsPreferencesTest, aHomeThatDoesNotExistIsNotMade) {
+    const fakes::EnvironmentVariable home("HOME", folder / "home");
+    const QString kept = QString::fromStdString(folder / "home/.config/preferences.conf");
+    {
+        SettingsPreferences preferences(kept);
+        preferences.setFlag(didOnboardKey, true);
+        EXPECT_TRUE(preferences.flag(didOnboardKey));  // as far as this run goes
+    }
+    EXPECT_TRUE(fakes::namesIn(folder.path()).empty());
+    SettingsPreferences preferences(kept);
+    preferences.setFlag(didOnboardKey, false);
+    QDir().mkpath(QDir::homePath());  // one that comes later
+    preferences.setFlag(didOnboardKey, true);
+    EXPECT_TRUE(preferences.flag(didOnboardKey));
+    EXPECT_TRUE(SettingsPreferences(kept).flag(didOnboardKey));
+}
+
+TEST_F(SettingsPreferencesTest, besideAHomeThatDoesNotExistFlagsAreKept) {
+    const fakes::EnvironmentVariable home("HOME", folder / "home");
+    SettingsPreferences(file()).setFlag(didOnboardKey, true);
+    EXPECT_TRUE(SettingsPreferences(file()).flag(didOnboardKey));
 }
 
 #ifdef __linux__

@@ -288,7 +288,10 @@ TEST(HistoryPaths, thatOnlyLookLikeFileURLsOfOursAreTakenAsTheyStand) {
 
 class StoredHistory : public testing::Test {
 protected:
-    StoredHistory() { locations.applicationSupportPath = "/home/me/support"; }
+    StoredHistory() {
+        locations.applicationSupportPath = "/home/me/support";
+        files.addFolder("/home/me");
+    }
 
     static SurveyRecord numbered(int number) {
         SurveyRecord record = sample();
@@ -305,6 +308,25 @@ protected:
 TEST_F(StoredHistory, liesInTheApplicationSupportFolderWhichIsMade) {
     EXPECT_EQ(history.location(), path);
     EXPECT_TRUE(files.exists("/home/me/support/Zelk"));
+}
+
+TEST_F(StoredHistory, ofAHomeThatDoesNotExistMakesNone) {
+    files.erase("/home/me");
+    EXPECT_EQ(history.location(), path);
+    EXPECT_THAT(history.append(sample()), ElementsAre(sample()));
+    EXPECT_FALSE(files.exists("/home/me"));
+    EXPECT_THAT(history.load(), IsEmpty());
+    files.addFolder("/home/me");
+    history.append(sample());
+    EXPECT_THAT(history.load(), ElementsAre(sample()));
+}
+
+TEST_F(StoredHistory, besideAHomeThatDoesNotExistIsKept) {
+    files.erase("/home/me");
+    locations.applicationSupportPath = "/data/support";
+    history.append(sample());
+    EXPECT_FALSE(files.exists("/home/me"));
+    EXPECT_THAT(history.load(), ElementsAre(sample()));
 }
 
 TEST_F(StoredHistory, withoutAFolderThatCanBeMadeStillHasItsPlace) {

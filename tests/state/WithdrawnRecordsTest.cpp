@@ -15,7 +15,10 @@ using testing::Optional;
 
 class WithdrawnRecords : public testing::Test {
 protected:
-    WithdrawnRecords() { locations.applicationSupportPath = "/home/me/support"; }
+    WithdrawnRecords() {
+        locations.applicationSupportPath = "/home/me/support";
+        files.addFolder("/home/me");
+    }
 
     static SurveyRecord numbered(int number) {
         SurveyRecord record;

@@ -102,6 +102,17 @@ TEST_F(SettingsScreen, addingTheSameFolderTwiceLeavesOneRowAndSurveysOnce) {
     EXPECT_EQ(timesSignalled("scanPhase"), phases) << "no change, no survey";
 }
 
+TEST_F(SettingsScreen, addingTheSameFolderInAnotherSpellingChangesNothing) {
+    machine.directories.directory("/data");
+    choose("/data/");
+    EXPECT_EQ(path(1), "/data");
+    finishScan();
+    const int phases = timesSignalled("scanPhase");
+    for (const char* spelling : {"/data", "/data/", "/data/."}) choose(spelling);
+    EXPECT_EQ(model().scanRoots(), (Roots{home, "/data"}));
+    EXPECT_EQ(timesSignalled("scanPhase"), phases) << "no change, no survey";
+}
+
 TEST_F(SettingsScreen, noChoiceMeansNoChange) {
     for (const std::optional<std::string>& none : {std::optional<std::string>(), std::optional<std::string>("")}) {
         chosen = none;

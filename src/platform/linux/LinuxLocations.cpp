@@ -12,14 +12,10 @@
 #include <utility>
 #include <vector>
 
+#include "platform/FolderPath.h"
+
 namespace zelk {
 namespace {
-
-/// "/" alone stays: it is the home of users that have none.
-std::string withoutTrailingSlash(std::string path) {
-    while (path.size() > 1 && path.ends_with('/')) path.pop_back();
-    return path;
-}
 
 std::string below(const std::string& folder, std::string_view name) {
     return (folder == "/" ? std::string() : folder) + "/" + std::string(name);
@@ -67,8 +63,8 @@ LinuxLocations::LinuxLocations(const std::string& home) {
         home_ = own.value_or("/");
         dataHome = absolutePathFromEnvironment("XDG_DATA_HOME");
     }
-    home_ = withoutTrailingSlash(home_);
-    dataHome_ = dataHome ? withoutTrailingSlash(*dataHome) : below(home_, ".local/share");
+    home_ = normalFolder(home_);
+    dataHome_ = dataHome ? normalFolder(*dataHome) : below(home_, ".local/share");
     trashPlaces_ = trashPlacesOf(dataHome_);
 }
 

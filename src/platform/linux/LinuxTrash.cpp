@@ -3,11 +3,13 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <string_view>
 #include <vector>
 
+#include "platform/FolderPath.h"
 #include "platform/linux/EmptyTrash.h"
 #include "platform/linux/LinuxLocations.h"
 #include "platform/linux/TrashFolder.h"
@@ -70,7 +72,8 @@ bool endsInADeadLink(std::string path) {
 
 }  // namespace
 
-LinuxTrash::LinuxTrash(const std::string& home) : dataHome_(LinuxLocations(home).applicationSupport().value()) {}
+LinuxTrash::LinuxTrash(const std::string& home)
+    : home_(LinuxLocations(home).home()), dataHome_(LinuxLocations(home).applicationSupport().value()) {}
 
 std::string LinuxTrash::location() {
     return pathIn(dataHome_, "Trash/files");
@@ -114,6 +117,9 @@ Failure LinuxTrash::move(const ItemPath& item) {
     const std::optional<bool> atHome = isOnVolumeOf(*above, location());
     if (!atHome) return systemText(errno);
     if (*atHome) {
+        // A home folder that is not there is not ours to make.
+        if (isInFolder(dataHome_, home_) && ::access(home_.c_str(), F_OK) != 0 && errno == ENOENT)
+            return "“" + readableName(home_) + "” couldn’t be opened: " + systemText(ENOENT);
         trash = openHomeTrash(dataHome_, IfMissing::create, reason);
     } else {
         const std::optional<std::string> top = mountPointOf(mounts, above->mount);

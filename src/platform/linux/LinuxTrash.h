@@ -45,6 +45,7 @@ private:
     /// The reason for a person if it could not be moved.
     Failure move(const ItemPath& item);
 
+    std::string home_;
     std::string dataHome_;
     Numbers numbers_;
     std::mutex sweeping_;

@@ -98,11 +98,11 @@ QString SettingsScreenModel::rescanLabel() const {
 void SettingsScreenModel::addFolder() {
     const std::optional<std::string> folder = pickFolder_();
     if (!folder || folder->empty()) return;
-    std::vector<std::string> roots = app_.scanRoots();
-    if (std::find(roots.begin(), roots.end(), *folder) != roots.end()) return;
+    const std::vector<std::string> before = app_.scanRoots();
+    std::vector<std::string> roots = before;
     roots.push_back(*folder);
-    app_.setScanRoots(std::move(roots));
-    app_.startScan();
+    app_.setScanRoots(roots);
+    if (app_.scanRoots() != before) app_.startScan();
 }
 
 void SettingsScreenModel::removeFolder(int row) {
@@ -110,7 +110,7 @@ void SettingsScreenModel::removeFolder(int row) {
     if (row < 0 || row >= static_cast<int>(roots.size())) return;
     const std::string folder = roots[static_cast<std::size_t>(row)];
     std::erase(roots, folder);
-    app_.setScanRoots(std::move(roots));
+    app_.setScanRoots(roots);
     app_.startScan();
 }
 

@@ -1,15 +1,65 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/FolderPicker.h"
 
-#include <QFile>
+#include <QByteArray>
 #include <QFileDialog>
+#include <QString>
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/FolderPath.h"
 
 namespace zelk {
 
-std::optional<std::string> pickFolder() {
-    const QString folder = QFileDialog::getExistingDirectory();
-    if (folder.isEmpty()) return std::nullopt;
-    return QFile::encodeName(folder).toStdString();
+namespace {
+
+constexpr std::string_view replacement = "\xef\xbf\xbd";  // U+FFFD
+
+std::string entryPath(const std::string& folder, const std::string& name) {
+    return folder.ends_with('/') ? folder + name : folder + "/" + name;
+}
+
+/// The only entry of `folder` whose name reads as `name`; absent if there is none or more than one.
+std::optional<std::string> onlyEntryThatReads(const std::string& name, const std::string& folder, FileManager& files) {
+    const QString wanted = QString::fromStdString(name);
+    std::optional<std::string> found;
+    for (std::string& entry : files.list(folder).value_or(std::vector<std::string>())) {
+        if (QString::fromStdString(entry) != wanted) continue;
+        if (found) return std::nullopt;
+        found = std::move(entry);
+    }
+    return found;
+}
+
+}  // namespace
+
+std::optional<std::string> pickFolder(FileManager& files) {
+    const QUrl url =
+        QFileDialog::getExistingDirectoryUrl(nullptr, {}, {}, QFileDialog::ShowDirsOnly, {QStringLiteral("file")});
+    return chosenFolder(url, files);
+}
+
+std::optional<std::string> chosenFolder(const QUrl& url, FileManager& files) {
+    if (!url.isLocalFile() || !url.host().isEmpty()) return std::nullopt;
+    const std::string path =
+        normalFolder(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()).toStdString());
+    if (!path.starts_with('/')) return std::nullopt;
+    std::string folder = "/";
+    for (std::size_t at = 1; at < path.size();) {
+        const std::size_t end = std::min(path.find('/', at), path.size());
+        std::string name = path.substr(at, end - at);
+        at = end + 1;
+        if (name.find(replacement) != std::string::npos && !files.exists(entryPath(folder, name))) {
+            std::optional<std::string> meant = onlyEntryThatReads(name, folder, files);
+            if (!meant) return std::nullopt;
+            name = std::move(*meant);
+        }
+        folder = entryPath(folder, name);
+    }
+    return folder;
 }
 
 }  // namespace zelk

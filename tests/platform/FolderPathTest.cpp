@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "platform/FolderPath.h"
+
+#include <gtest/gtest.h>
+
+namespace zelk {
+
+TEST(FolderPath, dropsSlashesAtTheEnd) {
+    EXPECT_EQ(normalFolder("/a/home/"), "/a/home");
+    EXPECT_EQ(normalFolder("/a/home///"), "/a/home");
+    EXPECT_EQ(normalFolder("a/"), "a");
+}
+
+TEST(FolderPath, keepsOneSlashBetweenTheParts) {
+    EXPECT_EQ(normalFolder("//a///home"), "/a/home");
+}
+
+TEST(FolderPath, dropsDotComponents) {
+    EXPECT_EQ(normalFolder("/./a/./home/."), "/a/home");
+    EXPECT_EQ(normalFolder("/a/./."), "/a");
+    EXPECT_EQ(normalFolder("./a"), "a");
+}
+
+TEST(FolderPath, keepsDotsThatArePartOfAName) {
+    for (const char* path : {"/a/.home", "/a/home.", "/.../a", "/a/..b"}) EXPECT_EQ(normalFolder(path), path);
+}
+
+TEST(FolderPath, leavesTheWayUpAlone) {
+    EXPECT_EQ(normalFolder("/a/link/../b/"), "/a/link/../b");
+    EXPECT_EQ(normalFolder("../a"), "../a");
+}
+
+TEST(FolderPath, theTopStaysOneSlash) {
+    for (const char* path : {"/", "//", "/.", "/./"}) EXPECT_EQ(normalFolder(path), "/");
+}
+
+TEST(FolderPath, theWorkingFolderStaysADot) {
+    for (const char* path : {".", "./", "././."}) EXPECT_EQ(normalFolder(path), ".");
+}
+
+TEST(FolderPath, nothingStaysNothing) {
+    EXPECT_EQ(normalFolder(""), "");
+}
+
+TEST(FolderPath, keepsTheBytesOfNames) {
+    EXPECT_EQ(normalFolder("/caf\xe9/./\n /"), "/caf\xe9/\n ");
+    EXPECT_EQ(normalFolder(std::string("/a\0b/", 5)), std::string("/a\0b", 4));
+}
+
+TEST(FolderPath, tellsWhatLiesInAFolder) {
+    EXPECT_TRUE(isInFolder("/home/me", "/home/me"));
+    EXPECT_TRUE(isInFolder("/home/me/.local/share", "/home/me"));
+    EXPECT_TRUE(isInFolder("/home", "/"));
+    EXPECT_TRUE(isInFolder("/", "/"));
+    EXPECT_FALSE(isInFolder("/home/meadow", "/home/me"));
+    EXPECT_FALSE(isInFolder("/home", "/home/me"));
+    EXPECT_FALSE(isInFolder("/data/home/me", "/home/me"));
+}
+
+}  // namespace zelk

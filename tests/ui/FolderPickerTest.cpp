@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+// The folder that a person chose, by the bytes of its name.
+#include "ui/shell/FolderPicker.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QTimer>
+
+#include "fakes/FakeFileManager.h"
+#include "zoo/TempFolder.h"
+
+namespace zelk {
+
+namespace {
+
+using Chosen = std::optional<std::string>;
+
+class FolderPicker : public testing::Test {
+protected:
+    Chosen chosen(const char* url) { return chosenFolder(QUrl(QString::fromUtf8(url)), files); }
+    /// What a dialog answers that knows texts only.
+    Chosen chosenAsText(const std::string& path) {
+        return chosenFolder(QUrl::fromLocalFile(QString::fromStdString(path)), files);
+    }
+
+    fakes::FakeFileManager files;
+};
+
+}  // namespace
+
+TEST_F(FolderPicker, givesThePathOfTheURL) {
+    EXPECT_EQ(chosen("file:///data/My%20films"), "/data/My films");
+    EXPECT_EQ(chosen("file:///data/caf%C3%A9"), "/data/caf\xc3\xa9");
+    EXPECT_EQ(chosen("file:///100%25%23%3F"), "/100%#?");
+    EXPECT_EQ(chosen("file:///"), "/");
+}
+
+TEST_F(FolderPicker, keepsBytesThatAreNoText) {
+    EXPECT_EQ(chosen("file:///data/caf%E9/%FF"), "/data/caf\xe9/\xff");
+}
+
+TEST_F(FolderPicker, normalisesTheFolder) {
+    EXPECT_EQ(chosen("file:///data/"), "/data");
+    EXPECT_EQ(chosen("file:///data/./films//"), "/data/films");
+}
+
+TEST_F(FolderPicker, takesNothingThatIsNotOnThisMachine) {
+    for (const char* url : {"", "https:///data", "file://other/data", "data", "file:"})
+        EXPECT_EQ(chosen(url), Chosen());
+}
+
+TEST_F(FolderPicker, findsTheFolderBehindARepairedName) {
+    files.addFolder("/data/caf\xe9/\xff");
+    files.addFolder("/data/caf");
+    EXPECT_EQ(chosenAsText("/data/caf\xef\xbf\xbd"), "/data/caf\xe9");
+    EXPECT_EQ(chosenAsText("/data/caf\xef\xbf\xbd/\xef\xbf\xbd"), "/data/caf\xe9/\xff");
+}
+
+TEST_F(FolderPicker, findsTheFolderBehindARepairedNameAtTheTop) {
+    files.addFolder("/\xff");
+    EXPECT_EQ(chosenAsText("/\xef\xbf\xbd"), "/\xff");
+}
+
+TEST_F(FolderPicker, prefersTheFolderThatReallyHasTheName) {
+    files.addFolder("/data/\xe9");
+    files.addFolder("/data/\xef\xbf\xbd");
+    EXPECT_EQ(chosenAsText("/data/\xef\xbf\xbd"), "/data/\xef\xbf\xbd");
+}
+
+TEST_F(FolderPicker, takesNoneOfSeveralThatReadTheSame) {
+    files.addFolder("/data/caf\xe8");
+    files.addFolder("/data/caf\xe9");
+    EXPECT_EQ(chosenAsText("/data/caf\xef\xbf\xbd"), Chosen());
+}
+
+TEST_F(FolderPicker, takesNoneWhenNoneReadsSo) {
+    files.addFolder("/data/tea");
+    EXPECT_EQ(chosenAsText("/data/caf\xef\xbf\xbd"), Chosen());
+    EXPECT_EQ(chosenAsText("/missing/caf\xef\xbf\xbd"), Chosen());
+}
+
+TEST_F(FolderPicker, asksAndGivesTheFolder) {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const zoo::TempFolder folder;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) return;
+        answer.stop();
+        dialog->setDirectory(QString::fromStdString(folder.path()));
+        dialog->QDialog::done(QDialog::Accepted);
+    });
+    answer.start(0);
+    EXPECT_EQ(pickFolder(files), folder.path());
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+}
+
+TEST_F(FolderPicker, asksAndGivesNothingWhenRefused) {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) return;
+        answer.stop();
+        dialog->reject();
+    });
+    answer.start(0);
+    EXPECT_EQ(pickFolder(files), Chosen());
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+}
+
+}  // namespace zelk
