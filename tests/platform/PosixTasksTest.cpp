@@ -249,6 +249,7 @@ TEST(ThreadTasks, itsThreadsGoWithIt) {
 }
 
 TEST(ThreadTasks, machineWithoutMoreThreadsRunsTheTaskOnTheCallers) {
+    ASSERT_TRUE(drainThreads(longEnough));  // of the tests before
     ThreadTasks tasks;
     int runs = 0;
     unsigned refused = 0;

@@ -55,6 +55,7 @@ class Place {
 public:
     Place() : path_((fs::temp_directory_path() / "zelk-rounds-XXXXXX").string()) {
         if (::mkdtemp(path_.data()) == nullptr) throw std::system_error(errno, std::generic_category(), path_);
+        fs::create_directory(home());
     }
     ~Place() { fs::remove_all(path_); }
     Place(const Place&) = delete;
