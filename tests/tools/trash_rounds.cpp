@@ -99,7 +99,7 @@ bool isWhole(const std::string& there, const std::string& path) {
 
 /// What is in the Trash can be put back, whole, and nothing is said to be in it that is not.
 void requireGoodTrash(const Place& place, const std::string& when) {
-    if (!fs::exists(place.trash())) return;
+    if (!fs::exists(place.trash() + "/files")) return;  // it was killed before it had one
     const auto found = restorable(place.trash());
     for (const std::string& name : namesIn(place.trash() + "/files")) {
         const std::string info = place.trash() + "/info/" + name + ".trashinfo";
