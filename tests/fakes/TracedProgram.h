@@ -9,6 +9,7 @@
 
 #include <cerrno>
 #include <map>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -80,6 +81,7 @@ public:
             const int number = ++counts[call];
             // To a pipe the program writes nothing, but a sanitizer in it does, to see whether memory may be read.
             const bool bySanitizer = call == "write" && line.find("<pipe:[") != std::string::npos;
+            line = withoutDescriptorPaths(std::move(line));
             if (begun && !bySanitizer) found.push_back({call, number, line});
             begun = begun || line.find(begin_) != std::string::npos;
         }
@@ -87,6 +89,12 @@ public:
     }
 
 private:
+    /// "write(5</tmp/file>, …" as "write(5, …".
+    static std::string withoutDescriptorPaths(std::string line) {
+        static const std::regex path("([0-9])<[^>]*>");
+        return std::regex_replace(line, path, "$1");
+    }
+
     std::string calls_;
     std::string log_;
     std::string begin_;
