@@ -6,10 +6,14 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QSettings>
 #include <QTimer>
 
+#include "fakes/Environment.h"
 #include "fakes/FakeFileManager.h"
 #include "zoo/TempFolder.h"
+#include "zoo/Zoo.h"
 
 namespace zelk {
 
@@ -23,6 +27,25 @@ protected:
     /// What a dialog answers that knows texts only.
     Chosen chosenAsText(const std::string& path) {
         return chosenFolder(QUrl::fromLocalFile(QString::fromStdString(path)), files);
+    }
+
+    /// What the dialog gives when it is closed without a choice.
+    Chosen refused() {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QTimer answer;
+        QObject::connect(&answer, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            answer.stop();
+            dialog->reject();
+        });
+        answer.start(0);
+        Chosen folder = pickFolder(files);
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+        return folder;
+    }
+    static QString placeOfSettings() {
+        return QFileInfo(QSettings(QSettings::UserScope, QStringLiteral("Zelk")).fileName()).path();
     }
 
     fakes::FakeFileManager files;
@@ -98,17 +121,26 @@ TEST_F(FolderPicker, asksAndGivesTheFolder) {
 }
 
 TEST_F(FolderPicker, asksAndGivesNothingWhenRefused) {
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QTimer answer;
-    QObject::connect(&answer, &QTimer::timeout, [&] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr) return;
-        answer.stop();
-        dialog->reject();
-    });
-    answer.start(0);
-    EXPECT_EQ(pickFolder(files), Chosen());
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+    EXPECT_EQ(refused(), Chosen());
 }
+
+#ifdef __linux__
+// The dialog keeps settings of its own there.
+TEST_F(FolderPicker, makesNoHomeThatDoesNotExist) {
+    const zoo::TempFolder folder;
+    const QString before = placeOfSettings();
+    for (const char* home : {"missing", "there"}) {
+        const fakes::EnvironmentVariable variable("HOME", folder / home);
+        const QString place = QString::fromStdString(folder / home + "/.config");
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, place);
+        if (home == std::string("there")) zoo::makeFolder(folder / home);
+        refused();
+        EXPECT_EQ(placeOfSettings(), place);
+    }
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, before);
+    EXPECT_FALSE(QFileInfo::exists(QString::fromStdString(folder / "missing")));
+    EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(folder / "there/.config")));
+}
+#endif
 
 }  // namespace zelk

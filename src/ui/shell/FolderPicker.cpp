@@ -2,7 +2,10 @@
 #include "ui/shell/FolderPicker.h"
 
 #include <QByteArray>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QSettings>
 #include <QString>
 #include <algorithm>
 #include <cstddef>
@@ -15,6 +18,25 @@
 namespace zelk {
 
 namespace {
+
+/// A dialog keeps settings of its own when it goes, and would make a home folder that is not there. While this lives,
+/// such settings are not kept.
+class HomeStaysAway {
+public:
+    HomeStaysAway() {
+        if (!QFileInfo::exists(QDir::homePath())) keepIn(QStringLiteral("/dev/null"));
+    }
+    HomeStaysAway(const HomeStaysAway&) = delete;
+    HomeStaysAway& operator=(const HomeStaysAway&) = delete;
+    ~HomeStaysAway() { keepIn(folder_); }
+
+private:
+    static void keepIn(const QString& folder) {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
+    }
+
+    const QString folder_ = QFileInfo(QSettings(QSettings::UserScope, QStringLiteral("Zelk")).fileName()).path();
+};
 
 constexpr std::string_view replacement = "\xef\xbf\xbd";  // U+FFFD
 
@@ -37,6 +59,7 @@ std::optional<std::string> onlyEntryThatReads(const std::string& name, const std
 }  // namespace
 
 std::optional<std::string> pickFolder(FileManager& files) {
+    const HomeStaysAway homeStaysAway;
     const QUrl url =
         QFileDialog::getExistingDirectoryUrl(nullptr, {}, {}, QFileDialog::ShowDirsOnly, {QStringLiteral("file")});
     return chosenFolder(url, files);

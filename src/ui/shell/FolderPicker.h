@@ -10,12 +10,12 @@
 namespace zelk {
 
 /// Asks the person for one folder, modally, and gives its path in the bytes that the system has for it; absent if none
-/// was chosen. Main thread, with a QApplication.
+/// was chosen. Makes no home folder that does not exist. Main thread, with a QApplication.
 std::optional<std::string> pickFolder(FileManager& files);
 
 /// The path of the folder that a dialog answered with. A URL holds any bytes; a dialog that made it of text has put
-/// U+FFFD where the name was none, and then the folder is looked for on the disk. Absent if the URL is not of this
-/// machine, or if several entries look the same, so that a wrong one is never taken.
+/// U+FFFD where the name was none, and then the folder is looked for on the disk, first by just that name. Absent if
+/// the URL is not of this machine, or if no entry has the name and several look like it.
 std::optional<std::string> chosenFolder(const QUrl& url, FileManager& files);
 
 }  // namespace zelk
