@@ -2,6 +2,8 @@
 #include "ui/shell/ShaderCaches.h"
 
 #include <gmock/gmock.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <map>
@@ -59,8 +61,15 @@ TEST(ShaderCaches, haveNoneWhereTheRoomCannotBeTold) {
 
 #ifdef __linux__
 TEST(ShaderCaches, lieInTheHomeAndItsCacheFolder) {
-    const Surroundings user("/home/me");
-    EXPECT_THAT(shaderCacheFolders(), ElementsAre("/home/me", "/home/me/.cache"));
+    const std::string home = ::getpwuid(::getuid())->pw_dir;
+    const Surroundings user(home);
+    EXPECT_THAT(shaderCacheFolders(), ElementsAre(home, home + "/.cache"));
+}
+
+TEST(ShaderCaches, lieAlsoInTheHomeOfTheUserDatabaseWhereTheEnvironmentNamesAnother) {
+    const Surroundings user("/home/another");
+    EXPECT_THAT(shaderCacheFolders(), ElementsAre("/home/another", "/home/another/.cache",
+                                                  ::getpwuid(::getuid())->pw_dir + std::string("/.cache")));
 }
 
 TEST(ShaderCaches, lieWhereTheEnvironmentSays) {
@@ -92,6 +101,7 @@ TEST(ShaderCaches, aHomeThatDoesNotExistHasNoRoomForThem) {
 TEST(ShaderCaches, areSwitchedOffOnASmallVolumeAndStayOnALargerOne) {
     const zoo::TempFolder folder;
     const Surroundings user(folder / "home");
+    const EnvironmentVariable cache("XDG_CACHE_HOME", folder / "home/.cache");  // none of this machine's own volumes
     const auto switchedOffWith = [&](const char* options, bool expected) {
         return fakes::inChild([&] {
             fakes::Mounts mounts;

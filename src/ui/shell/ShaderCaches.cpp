@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/ShaderCaches.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -35,6 +38,12 @@ std::string homeFolder() {
     return QFile::encodeName(QDir::homePath()).toStdString();
 }
 
+/// The home folder by the user database, whatever $HOME says; empty if it names none.
+std::string registeredHome() {
+    const passwd* const user = ::getpwuid(::getuid());
+    return user == nullptr || user->pw_dir == nullptr ? std::string() : user->pw_dir;
+}
+
 fs::path nearestThatIsThere(fs::path folder) {
     std::error_code ignored;
     while (folder.has_relative_path() && !fs::exists(folder, ignored)) folder = folder.parent_path();
@@ -47,6 +56,10 @@ std::vector<std::string> shaderCacheFolders() {
     std::vector<std::string> folders{homeFolder()};
     folders.push_back(
         QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)).toStdString());
+    // Mesa does not look at $HOME.
+    if (qgetenv("XDG_CACHE_HOME").isEmpty())
+        if (const std::string home = registeredHome(); !home.empty() && home != folders.front())
+            folders.push_back(home + "/.cache");
     for (const char* variable : folderVariables)
         if (std::string folder = qgetenv(variable).toStdString(); !folder.empty()) folders.push_back(std::move(folder));
     return folders;

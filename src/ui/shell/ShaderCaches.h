@@ -16,7 +16,7 @@ namespace zelk {
 inline constexpr std::int64_t leastRoomForShaderCaches = 64'000'000;
 
 /// The folders that shader caches are kept in or below, by the environment as it is: the home folder first, which is
-/// not made if it does not exist.
+/// not made if it does not exist. Before any other thread, since it asks the user database.
 std::vector<std::string> shaderCacheFolders();
 
 /// Whether every folder has that much room by `freeBytes`. What cannot be told counts as none.
