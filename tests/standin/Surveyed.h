@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "platform/posix/PosixClock.h"
+#include "platform/posix/ThreadCount.h"
 #include "scan/ScanEngine.h"
 
 namespace zelk {
@@ -17,6 +18,8 @@ inline update::Finished surveyed(DirectoryService& directories, const std::strin
     PosixClock clock;
     const auto queue = std::make_shared<UpdateQueue>();
     ScanEngine(directories, clock).runHere(queue, {root});
+    // A worker that starts late finds that there is nothing to do, but asks the services.
+    EXPECT_TRUE(drainThreads(1e6));
     for (const ScanUpdate& update : queue->takeAll().updates) {
         if (const auto* finished = std::get_if<update::Finished>(&update)) return *finished;
     }
