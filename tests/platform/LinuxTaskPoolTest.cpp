@@ -228,6 +228,25 @@ TEST_F(LinuxTaskPoolTest, taskThatGivesAnotherIsNotKeptFromItsEndByWhatIsQueued)
     EXPECT_EQ(order, "given giver queued");
 }
 
+// Whoever gives a task from the threads of another pool is not its own: nothing there waits for him.
+TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolWaitsForAThreadLikeAnyOther) {
+    TaskPool& busy = pool(1);
+    TaskPool& other = pool(1);
+    std::latch begun(1);
+    std::latch mayGo(1);
+    occupy(busy, begun, mayGo);
+    std::thread::id giver;
+    std::thread::id runner;
+    other.run(0, [&] {
+        giver = std::this_thread::get_id();
+        busy.run(0, [&] { runner = std::this_thread::get_id(); });
+        mayGo.count_down();
+    });
+    ASSERT_TRUE(drainThreads(untilDone));
+    EXPECT_NE(runner, std::thread::id());
+    EXPECT_NE(runner, giver);
+}
+
 TEST_F(LinuxTaskPoolTest, threadsHaveTheNameTheStackAndTheNicenessAskedFor) {
     constexpr int niceness = 7;
     TaskPool& threads = pool(1, forGood, niceness);
@@ -300,6 +319,30 @@ TEST_F(LinuxTaskPoolTest, taskMayWaitForTheOneThatItGivesWhereNoOtherThreadCanBe
             threads.close();  // the gate is there for as long as a thread that stands behind it
         });
     EXPECT_TRUE(waited);
+}
+
+TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolWaitsForABusyThreadWhereNoOtherCanBeMade) {
+    TaskPool& busy = pool(3);
+    TaskPool& other = pool(1);
+    std::latch begun(1);
+    std::latch mayGo(1);
+    occupy(busy, begun, mayGo);
+    begun.wait();
+    std::thread::id giver;
+    std::thread::id runner;
+    fakes::behindGate(
+        SYS_clone3, [](unsigned call) { return call == 0 ? 0 : EAGAIN; },
+        [&] {
+            other.run(0, [&] {
+                giver = std::this_thread::get_id();
+                busy.run(0, [&] { runner = std::this_thread::get_id(); });
+                mayGo.count_down();
+            });
+            EXPECT_TRUE(drainThreads(untilDone));
+            other.close();  // the gate is there for as long as a thread that stands behind it
+        });
+    EXPECT_NE(runner, std::thread::id());
+    EXPECT_NE(runner, giver);
 }
 
 // Two callers each count on the thread that the other is about to make, and neither gets one.
