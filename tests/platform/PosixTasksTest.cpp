@@ -16,6 +16,7 @@
 #include <sys/resource.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <iterator>
 #endif
@@ -238,7 +239,7 @@ TEST(ThreadTasks, onlyWhatCanWaitIsNicedAndOfThatEverything) {
 TEST(ThreadTasks, itsThreadsGoWithIt) {
     const std::ptrdiff_t before = otherThreads();
     {
-        ThreadTasks tasks;
+        ThreadTasks tasks(std::chrono::hours(24 * 365));  // on their own they would stay
         std::latch all(12);
         for (int number = 0; number < 12; ++number) tasks.run(priorities[number % 3], [&] { all.arrive_and_wait(); });
         EXPECT_TRUE(drainThreads(longEnough));

@@ -54,7 +54,7 @@ void takePriority(TaskPriority priority) {
 
 #ifdef __APPLE__
 
-ThreadTasks::ThreadTasks() = default;
+ThreadTasks::ThreadTasks(std::chrono::milliseconds) {}
 ThreadTasks::~ThreadTasks() = default;
 
 void ThreadTasks::run(TaskPriority priority, Task task) {
@@ -65,9 +65,10 @@ void ThreadTasks::run(TaskPriority priority, Task task) {
 
 #else
 
-ThreadTasks::ThreadTasks()
-    : urgent_(std::make_shared<TaskPool>(TaskPool::Form{"zelk.task", mostUrgentThreads})),
-      patient_(std::make_shared<TaskPool>(TaskPool::Form{"zelk.task.util", mostPatientThreads, patientNiceness})) {}
+ThreadTasks::ThreadTasks(std::chrono::milliseconds keep)
+    : urgent_(std::make_shared<TaskPool>(TaskPool::Form{"zelk.task", mostUrgentThreads, 0, keep})),
+      patient_(
+          std::make_shared<TaskPool>(TaskPool::Form{"zelk.task.util", mostPatientThreads, patientNiceness, keep})) {}
 
 ThreadTasks::~ThreadTasks() {
     urgent_->close();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 #include "platform/BackgroundTasks.h"
@@ -18,7 +19,8 @@ public:
     static constexpr std::size_t mostUrgentThreads = 20;
     static constexpr std::size_t mostPatientThreads = 44;
 
-    ThreadTasks();
+    /// On Linux a thread without work stays for `keep`.
+    explicit ThreadTasks(std::chrono::milliseconds keep = std::chrono::seconds(10));
     ThreadTasks(const ThreadTasks&) = delete;
     ThreadTasks& operator=(const ThreadTasks&) = delete;
     ~ThreadTasks() override;
