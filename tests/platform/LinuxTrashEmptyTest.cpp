@@ -285,6 +285,25 @@ TEST_F(EmptyingTrash, takesNoNewcomerForWhatItHasListed) {
     }
 }
 
+// Another program takes the old info, whose content has a new name by then, for an orphan.
+TEST_F(EmptyingTrash, leavesTheInfoOfANewcomerThatGetsTheNameOfWhatWasSetAside) {
+    add("same");
+    bool came = false;
+    fakes::behindGate(
+        SYS_statx,
+        [&](unsigned) {
+            if (came || fs::exists(files + "/same")) return 0;
+            came = true;
+            fs::remove(info + "/same.trashinfo");
+            trashNewcomer();
+            EXPECT_EQ(newcomer(), files + "/same");
+            return 0;
+        },
+        [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
+    ASSERT_TRUE(came);
+    expectNewcomerAlone();
+}
+
 TEST_F(EmptyingTrash, waitsForAnotherEmptyingAndRemovesNothingByAnOldName) {
     for (unsigned at = 0; at < 3; ++at) {
         add("same");
