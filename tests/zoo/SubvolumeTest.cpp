@@ -175,6 +175,17 @@ TEST_F(Subvolumes, oneThatDoesNotAnswerIsEntered) {
     EXPECT_EQ(found, "before inside inside kept sub zulu");
 }
 
+TEST_F(Subvolumes, areAskedForOnceAndNotInEachOfTheirFolders) {
+    makeSubvolume(root + "/sub");
+    for (const std::string folder : {"/a", "/b", "/b/c"}) makeFolder(root + "/sub" + folder);
+    unsigned asked = 0;
+    std::string found;
+    fakes::behindGate(
+        SYS_ioctl, [&](unsigned) { return ++asked, 0; }, [&] { found = names(scan({root}, 1)); });
+    EXPECT_EQ(found, "a b before c sub zulu");
+    EXPECT_EQ(asked, 1U);
+}
+
 }  // namespace zelk::zoo
 
 #endif
