@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QTimer>
+#include <cstdint>
 #include <thread>
 
 #include "fakes/EventLoop.h"
@@ -112,6 +114,18 @@ TEST_F(RemovalsUnderWay, aThousandItemsAtOnceAreToldOnce) {
     EXPECT_EQ(told, 1) << "nothing new is not told again";
     removal->noteDone();
     runUntil([&] { return told > 1; });
+}
+
+TEST_F(RemovalsUnderWay, areToldTwiceASecondAtMostHoweverManyItemsEnd) {
+    const std::int64_t mayBeEarly = 50;  // milliseconds, of each time: timers are no more exact than that
+    QElapsedTimer clock;
+    clock.start();
+    const auto removal = removals.begin(1'000'000'000);
+    runUntil([&] {
+        removal->noteDone();
+        return told == 2;
+    });
+    EXPECT_GE(clock.elapsed(), 2 * (500 - mayBeEarly));
 }
 
 TEST_F(RemovalsUnderWay, theNextIsToldFromItsBeginningOn) {
