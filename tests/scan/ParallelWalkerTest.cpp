@@ -2,12 +2,15 @@
 #include "scan/ParallelWalker.h"
 
 #include <pthread.h>
+#include <sys/syscall.h>
 
 #include <atomic>
+#include <cerrno>
 #include <mutex>
 #include <set>
 
 #include "ScanFixture.h"
+#include "fakes/SystemCallGate.h"
 #include "platform/Thread.h"
 
 namespace zelk {
@@ -319,6 +322,23 @@ TEST(ParallelWalkerThreads, areNamedByTheirNumber) {
 }
 
 #ifdef __linux__
+
+TEST(ParallelWalkerThreads, leaveTheWalkToThemselvesThoughNotAllCouldBeMade) {
+    setenv("ZELK_WORKERS", "3", 1);
+    NotingService disk;
+    disk.file("/r/a/f", 1);
+    PosixClock clock;
+    const auto queue = std::make_shared<UpdateQueue>();
+    fakes::behindGate(
+        SYS_clone3, [](unsigned call) { return call == 0 ? 0 : EAGAIN; },
+        [&] {
+            ScanEngine(disk, clock).runHere(queue, {"/r"});
+            EXPECT_TRUE(drainThreads(60));
+        });
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.filesScanned, 1);
+    EXPECT_EQ(disk.names(), std::set<std::string>{"zelk.scan.worker.0"});
+    unsetenv("ZELK_WORKERS");
+}
 
 /// Notes the stacks of the threads that walk.
 class StackService : public fakes::FakeDirectoryService {
