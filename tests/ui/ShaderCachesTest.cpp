@@ -6,6 +6,8 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <cstdlib>
+#include <filesystem>
 #include <map>
 
 #include "fakes/Environment.h"
@@ -98,6 +100,22 @@ TEST(ShaderCaches, aHomeThatDoesNotExistHasNoRoomForThem) {
 }
 
 #ifdef __linux__
+TEST(ShaderCaches, theirRoomIsWithoutWhatIsKeptForTheSuperuser) {
+    const zoo::TempFolder folder;
+    const std::string image = folder / "image";
+    const std::string volume = folder / "volume";
+    const auto runs = [](const std::string& line) { return std::system((line + " >/dev/null 2>&1").c_str()) == 0; };
+    if (!runs("truncate -s 64M " + image) || !runs("PATH=$PATH:/usr/sbin:/sbin mkfs.ext4 -q -m 50 " + image))
+        GTEST_SKIP() << "mkfs.ext4 is not installed";
+    EXPECT_TRUE(fakes::inChild([&] {
+        fakes::Mounts mounts;
+        if (!mounts.allowed() || !runs("mkdir " + volume + " && mount -o loop " + image + " " + volume)) return true;
+        const std::optional<std::int64_t> room = roomForCacheIn(volume);
+        const auto free = static_cast<std::int64_t>(std::filesystem::space(volume).free);
+        return runs("umount " + volume) && room && *room > 0 && *room < free - 20'000'000;
+    }));
+}
+
 TEST(ShaderCaches, areSwitchedOffOnASmallVolumeAndStayOnALargerOne) {
     const zoo::TempFolder folder;
     const Surroundings user(folder / "home");
