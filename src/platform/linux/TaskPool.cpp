@@ -39,12 +39,13 @@ void TaskPool::run(std::size_t rank, Task task) {
         try {
             startThread(form_.threadName, stackBytes,
                         [self = shared_from_this(), box] { self->work(std::exchange(*box, nullptr)); });
+            return;
         } catch (const std::system_error&) {
             task = std::move(*box);
             way = takeWithoutThread(rank, task);
         }
     }
-    if (way != Way::here) return;
+    if (way == Way::queued) return;
     runCounted(std::move(task));
     workOffQueue();
 }
