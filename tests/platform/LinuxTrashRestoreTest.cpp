@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <filesystem>
 
+#include "fakes/Environment.h"
 #include "fakes/Mounts.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TracedProgram.h"
@@ -104,6 +105,8 @@ TEST_F(RestoringTrash, trashRestoreBringsBackWhatIsInAVolumesTrash) {
     fakes::Mounts mounts;
     if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
     mounts.memory(temp / "stick");
+    // Newer versions of the tool look for volumes among disks alone.
+    const fakes::EnvironmentVariable volumes("TRASH_VOLUMES", temp / "stick");
     zoo::makeFolder(temp / "stick/folder");
     const std::string item = temp / "stick/folder/a %";
     writeFile(item, "content");
