@@ -26,4 +26,9 @@ bool isInFolder(std::string_view path, std::string_view folder) {
     return path.size() == folder.size() || folder == "/" || path[folder.size()] == '/';
 }
 
+std::string pathIn(std::string_view folder, std::string_view name) {
+    while (folder.ends_with('/')) folder.remove_suffix(1);
+    return std::string(folder).append("/").append(name);
+}
+
 }  // namespace zelk

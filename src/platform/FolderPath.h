@@ -14,4 +14,7 @@ std::string normalFolder(std::string_view path);
 /// Whether `path` is the normal folder `folder` or lies below it, by the texts alone.
 bool isInFolder(std::string_view path, std::string_view folder);
 
+/// `name` in the folder `folder`, which may be "/".
+std::string pathIn(std::string_view folder, std::string_view name);
+
 }  // namespace zelk

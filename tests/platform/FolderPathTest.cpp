@@ -57,4 +57,9 @@ TEST(FolderPath, tellsWhatLiesInAFolder) {
     EXPECT_FALSE(isInFolder("/data/home/me", "/home/me"));
 }
 
+TEST(FolderPath, joinsAFolderAndAName) {
+    EXPECT_EQ(pathIn("/", "a"), "/a");
+    EXPECT_EQ(pathIn("/a", "b"), "/a/b");
+}
+
 }  // namespace zelk

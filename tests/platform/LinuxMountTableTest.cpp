@@ -92,10 +92,5 @@ TEST(MountTable, ofAMountThatItDoesNotHaveItKnowsThePathsOnly) {
     EXPECT_FALSE(isMountedAnywhereIn(table, 50, "/elsewhere/a"));
 }
 
-TEST(MountTable, joinsAFolderAndAName) {
-    EXPECT_EQ(pathIn("/", "a"), "/a");
-    EXPECT_EQ(pathIn("/a", "b"), "/a/b");
-}
-
 }  // namespace
 }  // namespace zelk

@@ -83,6 +83,16 @@ protected:
         EXPECT_EQ(itsTrash.empty(), 1u);
     }
 
+    /// Something new of the same name is trashed just before the removal's call `at`, from 0.
+    void emptyAsANewcomerComes(unsigned at) {
+        const auto rule = [&](unsigned call) {
+            if (call == at) trashNewcomer();
+            return 0;
+        };
+        fakes::behindGate(SYS_unlinkat, rule, [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
+        expectNewcomerAlone();
+    }
+
     const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
     const std::string home = temp / "home";
     const std::string trash = home + "/.local/share/Trash";
@@ -227,29 +237,15 @@ TEST_F(EmptyingTrash, whatCannotBeRemovedGivesWayToANewcomerOfItsName) {
 TEST_F(EmptyingTrash, meetsWhatIsTrashedMeanwhile) {
     for (unsigned at = 0; at < 3; ++at) {
         add("same");
-        fakes::behindGate(
-            SYS_unlinkat,
-            [&](unsigned call) {
-                if (call == at) trashNewcomer();
-                return 0;
-            },
-            [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
-        expectNewcomerAlone();
+        emptyAsANewcomerComes(at);
     }
 }
 
 TEST_F(EmptyingTrash, leavesTheInfoOfANewcomerThatTakesTheNameOfContentWithoutInfo) {
     for (unsigned at = 0; at < 2; ++at) {
         zoo::makeFile(files + "/same");
-        fakes::behindGate(
-            SYS_unlinkat,
-            [&](unsigned call) {
-                // Content without info has its name for as long as it is there, and not a moment longer.
-                if (call == at) trashNewcomer();
-                return 0;
-            },
-            [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
-        expectNewcomerAlone();
+        // Content without info has its name for as long as it is there, and not a moment longer.
+        emptyAsANewcomerComes(at);
     }
 }
 

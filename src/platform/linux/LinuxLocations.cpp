@@ -17,10 +17,6 @@
 namespace zelk {
 namespace {
 
-std::string below(const std::string& folder, std::string_view name) {
-    return (folder == "/" ? std::string() : folder) + "/" + std::string(name);
-}
-
 std::optional<std::string> absolutePathFromEnvironment(const char* variable) {
     const char* value = std::getenv(variable);
     if (value == nullptr || *value != '/') return std::nullopt;
@@ -43,10 +39,10 @@ std::optional<std::string> homeFromUserDatabase() {
 /// A survey that begins above the home folder comes to the Trash by the path behind all links.
 TrashPlaces trashPlacesOf(const std::string& dataHome) {
     const std::string_view files = "Trash/files";
-    std::vector<std::string> folders{below(dataHome, files)};
+    std::vector<std::string> folders{pathIn(dataHome, files)};
     std::error_code error;
     const std::string real = std::filesystem::weakly_canonical(dataHome, error).string();
-    if (!error && real != dataHome) folders.push_back(below(real, files));
+    if (!error && real != dataHome) folders.push_back(pathIn(real, files));
     const std::string user = std::to_string(::geteuid());
     return {std::move(folders), {"/.Trash/" + user + "/files", "/.Trash-" + user + "/files"}};
 }
@@ -64,7 +60,7 @@ LinuxLocations::LinuxLocations(const std::string& home) {
         dataHome = absolutePathFromEnvironment("XDG_DATA_HOME");
     }
     home_ = normalFolder(home_);
-    dataHome_ = dataHome ? normalFolder(*dataHome) : below(home_, ".local/share");
+    dataHome_ = dataHome ? normalFolder(*dataHome) : pathIn(home_, ".local/share");
     trashPlaces_ = trashPlacesOf(dataHome_);
 }
 

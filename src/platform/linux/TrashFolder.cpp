@@ -6,9 +6,9 @@
 
 #include <string_view>
 
+#include "platform/FolderPath.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/FailureText.h"
-#include "platform/posix/MountTable.h"
 #include "platform/posix/OpenDirectory.h"
 
 namespace zelk {

@@ -112,9 +112,4 @@ bool isMountedAnywhereIn(const std::vector<Mount>& table, std::uint64_t mount, s
     });
 }
 
-std::string pathIn(std::string_view folder, std::string_view name) {
-    while (folder.ends_with('/')) folder.remove_suffix(1);
-    return std::string(folder).append("/").append(name);
-}
-
 }  // namespace zelk

@@ -34,7 +34,4 @@ bool isMountedBelow(const std::vector<Mount>& table, std::string_view path);
 /// mount is at another path.
 bool isMountedAnywhereIn(const std::vector<Mount>& table, std::uint64_t mount, std::string_view path);
 
-/// `name` in the folder `folder`, which may be "/".
-std::string pathIn(std::string_view folder, std::string_view name);
-
 }  // namespace zelk

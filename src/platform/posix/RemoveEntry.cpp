@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/FolderPath.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryLadder.h"
 #include "platform/posix/DirectoryNames.h"

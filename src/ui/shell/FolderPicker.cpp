@@ -40,10 +40,6 @@ private:
 
 constexpr std::string_view replacement = "\xef\xbf\xbd";  // U+FFFD
 
-std::string entryPath(const std::string& folder, const std::string& name) {
-    return folder.ends_with('/') ? folder + name : folder + "/" + name;
-}
-
 /// The only entry of `folder` whose name reads as `name`; absent if there is none or more than one.
 std::optional<std::string> onlyEntryThatReads(const std::string& name, const std::string& folder, FileManager& files) {
     const QString wanted = QString::fromStdString(name);
@@ -75,12 +71,12 @@ std::optional<std::string> chosenFolder(const QUrl& url, FileManager& files) {
         const std::size_t end = std::min(path.find('/', at), path.size());
         std::string name = path.substr(at, end - at);
         at = end + 1;
-        if (name.find(replacement) != std::string::npos && !files.exists(entryPath(folder, name))) {
+        if (name.find(replacement) != std::string::npos && !files.exists(pathIn(folder, name))) {
             std::optional<std::string> meant = onlyEntryThatReads(name, folder, files);
             if (!meant) return std::nullopt;
             name = std::move(*meant);
         }
-        folder = entryPath(folder, name);
+        folder = pathIn(folder, name);
     }
     return folder;
 }
