@@ -26,9 +26,9 @@
 #include <string>
 #include <vector>
 
-#include "ui/bubbles/BubblePicture.h"
+#include "ui/charts/BubblePicture.h"
 #include "ui/shell/Application.h"
-#include "ui/symbols/SymbolItem.h"
+#include "ui/theme/SymbolItem.h"
 
 namespace {
 
@@ -72,7 +72,7 @@ public:
         model_.setSlices(slices(longNames));
         engine_.addImportPath(QStringLiteral("qrc:/"));
         QQmlComponent component(&engine_);
-        component.setData("import Zelk.Bubbles\nBubbleChart { name: 'Map' }", QUrl(QStringLiteral("qrc:/bench.qml")));
+        component.setData("import Zelk.Charts\nBubbleChart { name: 'Map' }", QUrl(QStringLiteral("qrc:/bench.qml")));
         chart_.reset(qobject_cast<BubblePicture*>(
             component.createWithInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model_)}})));
         if (chart_ == nullptr) {

@@ -11,20 +11,14 @@
 //                removes it
 //   system/      what the machine knows that a scan cannot see: AccessProbe
 //   state/       AppModel is the one state that every screen shows; SurveyHistory is the one file that Zelk writes
-//   ui/text/     bytes into what a person reads
-//   ui/theme/    ZelkTheme's two instances; DesktopSettings, and Theme, Motion and TextScale, which hand it to QML
-//   ui/symbols/  the symbols, one SVG each, and SymbolItem, which tints them
-//   ui/components/  the base controls; ScanButton and the Canvas on which it is drawn
-//   ui/navigation/  Sidebar and its model; ModuleScaffold, the three faces of every module that looks for something
-//   ui/survey/   the home screen: SurveyScreenModel says everything, SurveyView places it
-//   ui/bubbles/  CirclePacking, and the map of circles over it: BubbleModel, BubbleChart
-//   ui/reclaim/  CategoryList and ItemList, the two ways to choose what goes; DryRunModel, the sheet before it goes
-//   ui/lens/     the map of every folder, and what is marked in it
-//   ui/clutter/  the heaviest files
-//   ui/explanation/  what a path is, and whether it may go
-//   ui/tools/, ui/settings/, ui/help/, ui/welcome/  the screens of fixed texts, and the first run
-//   ui/shell/    Shell: the main window and those beside it, the menus (AppCommands), the status item (StatusMenu), the
-//                question before an end that comes too soon (QuitQuestion)
+//   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand them to QML; DisplayText makes of bytes what
+//                a person reads; the symbols, one SVG each, and SymbolItem, which tints them
+//   ui/controls/ the base controls: role, keyboard and focus ring are solved here
+//   ui/charts/   what is painted: CirclePacking and the bubble map over it, ScanButton, ribbon, ring, sparkline
+//   ui/screens/  a folder per screen, a model and its view: overview is the home, module the three faces of every screen
+//                that looks for something
+//   ui/shell/    Shell: the main window and those beside it; ScreenPlaces, the one table of screens; the menus
+//                (AppCommands), the sidebar, the status item, the question before an end that comes too soon
 //   app/         this file: makes the platform, the model and the shell, and nothing else
 //
 // Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures.

@@ -7,7 +7,7 @@
 #include "ShellFixture.h"
 #include "fakes/TrashContent.h"
 #include "platform/NativePlatform.h"
-#include "ui/survey/SurveyScreenModel.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
 
 namespace zelk {
 

@@ -5,7 +5,7 @@
 #include <QAccessible>
 
 #include "ShellFixture.h"
-#include "ui/components/ScreenLook.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 

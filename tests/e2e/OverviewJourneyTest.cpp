@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "ShellFixture.h"
-#include "ui/survey/SurveyScreenModel.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
 
 namespace zelk {
 

@@ -14,9 +14,9 @@
 #include "fakes/TrashContent.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
-#include "ui/reclaim/ReclaimScreenModel.h"
+#include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/shell/MainWindow.h"
-#include "ui/text/DisplayText.h"
+#include "ui/theme/DisplayText.h"
 #include "ui/theme/Motion.h"
 #include "zoo/TempFolder.h"
 

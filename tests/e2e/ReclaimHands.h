@@ -14,7 +14,7 @@
 
 #include "Camera.h"
 #include "fakes/EventLoop.h"
-#include "ui/bubbles/BubblePicture.h"
+#include "ui/charts/BubblePicture.h"
 
 namespace zelk {
 

@@ -5,7 +5,7 @@
 
 #include "ReclaimHands.h"
 #include "ShellFixture.h"
-#include "ui/reclaim/ReclaimScreenModel.h"
+#include "ui/screens/reclaim/ReclaimScreenModel.h"
 
 namespace zelk {
 

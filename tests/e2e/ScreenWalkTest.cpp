@@ -5,7 +5,7 @@
 
 #include "ScreenFaults.h"
 #include "ShellFixture.h"
-#include "ui/components/ScreenLook.h"
+#include "ui/theme/ScreenLook.h"
 #include "ui/theme/TextScale.h"
 
 namespace zelk {

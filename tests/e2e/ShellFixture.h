@@ -5,8 +5,8 @@
 
 #include "Camera.h"
 #include "state/AppModelFixture.h"
-#include "ui/navigation/SidebarModel.h"
 #include "ui/shell/Shell.h"
+#include "ui/shell/SidebarModel.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/TextScale.h"
 

@@ -8,8 +8,8 @@
 #include "ReclaimHands.h"
 #include "ScreenFaults.h"
 #include "ShellFixture.h"
-#include "ui/components/ScreenLook.h"
-#include "ui/reclaim/ReclaimScreenModel.h"
+#include "ui/screens/reclaim/ReclaimScreenModel.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 

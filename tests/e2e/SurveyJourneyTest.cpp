@@ -7,8 +7,8 @@
 #include "fakes/TestFiles.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModelFixture.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/shell/MainWindow.h"
-#include "ui/survey/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
 
 namespace zelk {

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "ui/components/Canvas.h"
+#include "ui/controls/Canvas.h"
 
 namespace zelk::fakes {
 

@@ -11,6 +11,7 @@ namespace zelk::house {
 namespace {
 
 constexpr std::array<std::string_view, 7> kLayers = {"platform", "scan", "reclaim", "system", "state", "ui", "app"};
+constexpr std::array<std::string_view, 5> kRooms = {"theme", "controls", "charts", "screens", "shell"};
 constexpr std::array<std::string_view, 3> kSystems = {"linux", "macos", "posix"};
 constexpr int kMaxLines = 500;
 constexpr int kMaxQmlLines = 300;
@@ -25,6 +26,15 @@ std::optional<std::size_t> layerOf(std::string_view path) {
     const auto found = std::find(kLayers.begin(), kLayers.end(), path.substr(0, path.find('/')));
     if (found == kLayers.end() || path.find('/') == std::string_view::npos) return std::nullopt;
     return static_cast<std::size_t>(found - kLayers.begin());
+}
+
+/// The place of the room of ui/ that a path from src/ lies in.
+std::optional<std::size_t> roomOf(std::string_view path) {
+    if (!path.starts_with("ui/")) return std::nullopt;
+    path.remove_prefix(3);
+    const auto found = std::find(kRooms.begin(), kRooms.end(), path.substr(0, path.find('/')));
+    if (found == kRooms.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - kRooms.begin());
 }
 
 /// The path of a source from src/, or nothing for a file elsewhere.
@@ -171,6 +181,12 @@ std::vector<Violation> checkLayers(const SourceFile& file) {
             found.push_back(
                 {file.path, include.line,
                  std::string(kLayers[*layer]) + " includes " + include.target + ", which stands to its right"});
+        }
+        const auto room = roomOf(*own);
+        if (const auto targetRoom = roomOf(include.target); room && targetRoom && *targetRoom > *room) {
+            found.push_back(
+                {file.path, include.line,
+                 "ui/" + std::string(kRooms[*room]) + " includes " + include.target + ", which stands to its right"});
         }
         const std::string_view system = systemOf(include.target);
         if (system.empty() || kLayers[*layer] == "app") continue;

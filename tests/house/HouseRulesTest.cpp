@@ -35,6 +35,18 @@ TEST(LayerRule, forbidsEveryStepToTheRight) {
     }
 }
 
+TEST(LayerRule, keepsTheOrderOfTheRoomsOfTheInterface) {
+    const std::vector<std::string> rooms{"theme", "controls", "charts", "screens/lens", "shell"};
+    for (std::size_t from = 0; from < rooms.size(); ++from) {
+        for (std::size_t to = 0; to < rooms.size(); ++to) {
+            const auto found = checkLayers(including("src/ui/" + rooms[from] + "/A.h", "\"ui/" + rooms[to] + "/B.h\""));
+            EXPECT_THAT(found, SizeIs(to > from ? 1 : 0)) << rooms[from] << " " << rooms[to];
+        }
+    }
+    EXPECT_THAT(checkLayers(including("src/ui/theme/A.h", "\"ui/B.h\"")), IsEmpty());
+    EXPECT_THAT(checkLayers(including("src/app/main.cpp", "\"ui/shell/B.h\"")), IsEmpty());
+}
+
 TEST(LayerRule, namesTheLine) {
     const auto found = checkLayers({"src/scan/A.cpp", kLicence + "\n#include \"scan/A.h\"\n#include \"ui/B.h\"\n"});
     ASSERT_THAT(found, SizeIs(1));

@@ -81,11 +81,11 @@ TEST(House, noCastIsToAQmlTypeOfOurs) {
 TEST(House, everySymbolThatIsNamedIsDrawn) {
     const auto uses = symbolsNamedIn(sources());
     EXPECT_TRUE(std::ranges::any_of(uses, [](const auto& use) { return use.name == "sparkles"; }));
-    const std::filesystem::path drawings = std::filesystem::path(ZELK_SOURCE_DIR) / "src/ui/symbols";
+    const std::filesystem::path drawings = std::filesystem::path(ZELK_SOURCE_DIR) / "src/ui/theme/symbols";
     std::vector<Violation> missing;
     for (const SymbolUse& use : uses) {
         if (std::filesystem::exists(drawings / (use.name + ".svg"))) continue;
-        missing.push_back({use.path, use.line, "src/ui/symbols has no " + use.name + ".svg"});
+        missing.push_back({use.path, use.line, "src/ui/theme/symbols has no " + use.name + ".svg"});
     }
     EXPECT_EQ(listed(missing), "");
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/clutter/AgeText.h"
+#include "ui/screens/clutter/AgeText.h"
 
 #include <gtest/gtest.h>
 

@@ -7,8 +7,8 @@
 #include <functional>
 
 #include "ViewFixture.h"
-#include "ui/bubbles/BubbleModel.h"
-#include "ui/bubbles/BubblePicture.h"
+#include "ui/charts/BubbleModel.h"
+#include "ui/charts/BubblePicture.h"
 
 namespace zelk {
 
@@ -39,8 +39,8 @@ protected:
     void show() {
         ViewFixture::show(QStringLiteral(R"(
 import QtQuick
-import Zelk.Bubbles
-import Zelk.Components
+import Zelk.Charts
+import Zelk.Controls
 
 FocusScope {
     id: board

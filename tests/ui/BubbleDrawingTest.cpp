@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/bubbles/BubbleDrawing.h"
+#include "ui/charts/BubbleDrawing.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 #include <cstdio>
 
 #include "fakes/RecordingCanvas.h"
-#include "ui/components/PainterCanvas.h"
+#include "ui/controls/PainterCanvas.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/bubbles/BubbleWalk.h"
+#include "ui/charts/BubbleWalk.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/reclaim/CategoryList.h"
+#include "ui/screens/reclaim/CategoryList.h"
 
 #include <gmock/gmock.h>
 

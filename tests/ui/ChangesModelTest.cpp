@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/survey/ChangesModel.h"
+#include "ui/screens/overview/ChangesModel.h"
 
 #include <gmock/gmock.h>
 

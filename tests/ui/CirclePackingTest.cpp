@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/bubbles/CirclePacking.h"
+#include "ui/charts/CirclePacking.h"
 
 #include <gtest/gtest.h>
 

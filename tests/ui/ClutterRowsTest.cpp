@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "ui/clutter/ClutterRows.h"
+#include "ui/screens/clutter/ClutterRows.h"
 
 #include <gmock/gmock.h>
 
 #include <QSignalSpy>
 
-#include "ui/components/FileTypeLook.h"
+#include "ui/theme/FileTypeLook.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/clutter/ClutterScreenModel.h"
+#include "ui/screens/clutter/ClutterScreenModel.h"
 
 #include <gmock/gmock.h>
 

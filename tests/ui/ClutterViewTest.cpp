@@ -5,7 +5,7 @@
 
 #include "ViewFixture.h"
 #include "fakes/ClutterHome.h"
-#include "ui/clutter/ClutterScreenModel.h"
+#include "ui/screens/clutter/ClutterScreenModel.h"
 
 namespace zelk {
 
@@ -27,7 +27,7 @@ protected:
             fakes::fillWithClutter(machine, home);
             survey();
         }
-        show(QStringLiteral("Zelk.Clutter"), QStringLiteral("ClutterView"), "clutter", &clutter, size);
+        show(QStringLiteral("Zelk.App"), QStringLiteral("ClutterView"), "clutter", &clutter, size);
     }
     QQuickItem& list() { return *find("clutterList"); }
     bool listHasKeyboard() { return list().hasActiveFocus(); }

@@ -11,7 +11,9 @@ namespace zelk {
 
 inline constexpr const char* controlsBoard = R"(
 import QtQuick
-import Zelk.Components
+import Zelk.App
+import Zelk.Charts
+import Zelk.Controls
 
 FocusScope {
     id: board

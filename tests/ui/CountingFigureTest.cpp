@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/CountingFigure.h"
+#include "ui/screens/overview/CountingFigure.h"
 
 #include <gtest/gtest.h>
 

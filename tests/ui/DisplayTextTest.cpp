@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/text/DisplayText.h"
+#include "ui/theme/DisplayText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/reclaim/DryRunModel.h"
+#include "ui/screens/reclaim/DryRunModel.h"
 
 #include <gmock/gmock.h>
 

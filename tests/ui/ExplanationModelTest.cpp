@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The note on a place as the screen has it: its texts and the colour of its grade.
-#include "ui/explanation/ExplanationModel.h"
+#include "ui/screens/explanation/ExplanationModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The sheet with the note on a place.
 #include "ViewFixture.h"
-#include "ui/explanation/ExplanationModel.h"
+#include "ui/screens/explanation/ExplanationModel.h"
 
 namespace zelk {
 
@@ -12,7 +12,7 @@ protected:
     ~ExplanationWindow() override { close(); }
 
     void open(const std::string& path, QSize size = {960, 620}) {
-        show(QStringLiteral("import QtQuick\nimport Zelk.Explanation\nItem { id: top; required property "
+        show(QStringLiteral("import QtQuick\nimport Zelk.App\nItem { id: top; required property "
                             "ExplanationModel note; ExplanationSheet { explanation: top.note } }"),
              size, {{QStringLiteral("note"), QVariant::fromValue(&note)}});
         note.open(path);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/FigureRun.h"
+#include "ui/controls/FigureRun.h"
 
 #include <gtest/gtest.h>
 

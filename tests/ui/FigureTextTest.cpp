@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/FigureText.h"
+#include "ui/controls/FigureText.h"
 
 #include <gtest/gtest.h>
 

@@ -5,9 +5,9 @@
 #include <QTest>
 
 #include "ViewFixture.h"
-#include "ui/components/DeviceFace.h"
-#include "ui/components/RibbonPicture.h"
-#include "ui/components/RingPicture.h"
+#include "ui/charts/RibbonPicture.h"
+#include "ui/charts/RingPicture.h"
+#include "ui/screens/overview/DeviceFace.h"
 
 namespace zelk {
 
@@ -19,7 +19,7 @@ class FiguresWindow : public ViewFixture {
 protected:
     /// Shows one component, as wide as it likes, in a window that has room for it.
     void showOne(const QString& component) {
-        show(QStringLiteral("import QtQuick\nimport Zelk.Components\nimport Zelk.Theme\n"
+        show(QStringLiteral("import QtQuick\nimport Zelk.App\nimport Zelk.Charts\nimport Zelk.Controls\n"
                             "Item { property deviceFace face; property list<ribbonSegment> segments; id: board\n"
                             "%1 }")
                  .arg(component),

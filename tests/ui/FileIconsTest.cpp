@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/FileIcons.h"
+#include "ui/screens/lens/FileIcons.h"
 
 #include <gmock/gmock.h>
 
 #include "fakes/FakePlatform.h"
-#include "ui/symbols/SymbolItem.h"
+#include "ui/theme/SymbolItem.h"
 
 namespace zelk {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/FileTypeLook.h"
+#include "ui/theme/FileTypeLook.h"
 
 #include <gtest/gtest.h>
 

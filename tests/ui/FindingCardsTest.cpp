@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/survey/FindingCards.h"
+#include "ui/screens/overview/FindingCards.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/survey/FindingsModel.h"
+#include "ui/screens/overview/FindingsModel.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/welcome/FirstRunModel.h"
+#include "ui/screens/welcome/FirstRunModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ViewFixture.h"
-#include "ui/welcome/FirstRunModel.h"
+#include "ui/screens/welcome/FirstRunModel.h"
 
 namespace zelk {
 
@@ -11,7 +11,7 @@ protected:
     ~FirstRunWindow() override { close(); }
 
     void open(QSize size = {960, 620}) {
-        show(QStringLiteral("Zelk.Welcome"), QStringLiteral("FirstRunSheets"), "firstRun", &firstRun, size);
+        show(QStringLiteral("Zelk.App"), QStringLiteral("FirstRunSheets"), "firstRun", &firstRun, size);
         firstRun.start();
         settle();
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/FlowLayout.h"
+#include "ui/controls/FlowLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/help/HelpModel.h"
+#include "ui/screens/help/HelpModel.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "ViewFixture.h"
-#include "ui/help/HelpModel.h"
+#include "ui/screens/help/HelpModel.h"
 
 namespace zelk {
 
@@ -13,7 +13,7 @@ protected:
     ~HelpWindow() override { close(); }
 
     void open(QSize size = {760, 520}) {
-        show(QStringLiteral("Zelk.Help"), QStringLiteral("HelpView"), "help", &help_, size);
+        show(QStringLiteral("Zelk.App"), QStringLiteral("HelpView"), "help", &help_, size);
     }
     HelpModel& help() { return help_; }
     bool shows(const std::string& text) {

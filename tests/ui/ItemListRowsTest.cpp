@@ -4,7 +4,7 @@
 
 #include "ui/ReclaimFixture.h"
 #include "ui/RowMirror.h"
-#include "ui/reclaim/ItemList.h"
+#include "ui/screens/reclaim/ItemList.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/reclaim/ItemList.h"
+#include "ui/screens/reclaim/ItemList.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/bubbles/LabelFitting.h"
+#include "ui/charts/LabelFitting.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/survey/LargestFiles.h"
+#include "ui/screens/overview/LargestFiles.h"
 
 #include <gmock/gmock.h>
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "state/AppModelFixture.h"
-#include "ui/lens/LensScreenModel.h"
+#include "ui/screens/lens/LensScreenModel.h"
 
 namespace zelk {
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The list of the folders in a folder, and how its changes are told.
-#include "ui/lens/LensRows.h"
+#include "ui/screens/lens/LensRows.h"
 
 #include <gmock/gmock.h>
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
-#include "ui/lens/LensWalk.h"
+#include "ui/screens/lens/LensWalk.h"
 
 namespace zelk {
 

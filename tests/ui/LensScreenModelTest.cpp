@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The walk through a survey: where one is, what is ticked, and what the map is given.
-#include "ui/lens/LensScreenModel.h"
+#include "ui/screens/lens/LensScreenModel.h"
 
 #include "LensFixture.h"
-#include "ui/lens/LensSlices.h"
+#include "ui/screens/lens/LensSlices.h"
 
 namespace zelk {
 

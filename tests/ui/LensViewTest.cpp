@@ -19,7 +19,7 @@ protected:
     ~LensWindow() override { close(); }
 
     void open(QSize size = {1046, 800}) {
-        show(QStringLiteral("Zelk.Lens"), QStringLiteral("LensView"), "lens", &lens(), size);
+        show(QStringLiteral("Zelk.App"), QStringLiteral("LensView"), "lens", &lens(), size);
     }
     /// Surveyed, with the keyboard on the first row.
     void openOn() {
@@ -70,7 +70,7 @@ TEST_F(LensWindow, introducesItselfBeforeASurvey) {
 }
 
 TEST_F(LensWindow, aPlaceholderStandsWhereThereIsNothing) {
-    show(QStringLiteral("Zelk.Lens"), QStringLiteral("LensPanes"), "lens", &lens(), {700, 500});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("LensPanes"), "lens", &lens(), {700, 500});
     EXPECT_THAT(seenTexts(), ElementsAre("Nothing to map"));
 }
 

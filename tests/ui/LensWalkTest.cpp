@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/lens/LensWalk.h"
+#include "ui/screens/lens/LensWalk.h"
 
 #include <gmock/gmock.h>
 

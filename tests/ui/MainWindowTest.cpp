@@ -9,7 +9,7 @@
 
 #include "Camera.h"
 #include "state/AppModelFixture.h"
-#include "ui/survey/SurveyScreenModel.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/ZelkTheme.h"
 

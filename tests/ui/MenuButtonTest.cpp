@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* menuBoard = R"(
 import QtQuick
-import Zelk.Components
+import Zelk.Controls
 
 Item {
     id: board

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The faces that all modules share, and their rows in the sidebar: their sizes, and what stands where.
 #include "ViewFixture.h"
-#include "ui/navigation/ModuleScreenModel.h"
+#include "ui/screens/module/ModuleScreenModel.h"
 
 namespace zelk {
 
@@ -30,7 +30,7 @@ protected:
 TEST_F(ModuleFaces, theFirstIsTheOrbTheTitleTheSubtitleAndTheButton) {
     texts.subtitle = QString(20, u'w') + QString(QStringLiteral(" wide")).repeated(40);
     ModuleScreenModel module(Screen::lens, texts);
-    show(QStringLiteral("Zelk.Navigation"), QStringLiteral("ModuleHero"), "module", &module, {900, 700});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleHero"), "module", &module, {900, 700});
     const std::string subtitle = texts.subtitle.toStdString();
     EXPECT_EQ(sizeOf("Lens"), 30);
     EXPECT_EQ(sizeOf(subtitle.c_str()), 14);
@@ -61,7 +61,7 @@ TEST_F(ModuleFaces, theSecondIsTheOrbItsLabelItsDetailAndTheBar) {
     ModuleScreenModel module(Screen::lens, texts);
     module.setPhase(ModulePhase::scanning);
     module.setScanDetail(QStringLiteral("12 items · 3 MB"));
-    show(QStringLiteral("Zelk.Navigation"), QStringLiteral("ModuleScanning"), "module", &module, {900, 700});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleScanning"), "module", &module, {900, 700});
     EXPECT_EQ(sizeOf("Surveying your drive…"), 15);
     EXPECT_EQ(sizeOf("12 items · 3 MB"), 12);
     EXPECT_EQ(colorOf("12 items · 3 MB"), theme().inkSoft());
@@ -72,7 +72,7 @@ TEST_F(ModuleFaces, theSecondIsTheOrbItsLabelItsDetailAndTheBar) {
 
 TEST_F(ModuleFaces, aHeaderIsATileBesideTheTitleOverTheSubtitle) {
     show(
-        QStringLiteral("import QtQuick\nimport Zelk.Navigation\nItem { ModuleHeader { width: parent.width; "
+        QStringLiteral("import QtQuick\nimport Zelk.App\nItem { ModuleHeader { width: parent.width; "
                        "symbol: 'circle.hexagongrid'; tint: '#e85bc4'; title: 'Lens'; subtitle: 'visual map'; "
                        "trailing: Component { Item { objectName: 'end'; implicitWidth: 60; implicitHeight: 20 } } } }"),
         {700, 120});
@@ -94,7 +94,7 @@ TEST_F(ModuleFaces, aHeaderIsATileBesideTheTitleOverTheSubtitle) {
 }
 
 TEST_F(ModuleFaces, aSidebarRowIsASymbolAndATitleOf14) {
-    show(QStringLiteral("import QtQuick\nimport Zelk.Navigation\nItem { SidebarRow { objectName: 'place'; width: 210; "
+    show(QStringLiteral("import QtQuick\nimport Zelk.App\nItem { SidebarRow { objectName: 'place'; width: 210; "
                         "index: 0; heading: 'Explore'; title: 'Lens'; symbol: 'circle.hexagongrid'; tint: '#e85bc4'; "
                         "selected: true; name: 'sidebarLens' } }"),
          {234, 120});

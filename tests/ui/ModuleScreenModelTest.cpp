@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "ui/navigation/ModuleScreenModel.h"
+#include "ui/screens/module/ModuleScreenModel.h"
 
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
 
 #include "state/AppModelFixture.h"
-#include "ui/components/ScreenLook.h"
-#include "ui/navigation/SurveyedModule.h"
-#include "ui/navigation/UnbuiltModules.h"
+#include "ui/screens/module/SurveyedModule.h"
+#include "ui/screens/module/UnbuiltModules.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ui/navigation/OrbDrawing.h"
+#include "ui/charts/OrbDrawing.h"
 
 #include <gtest/gtest.h>
 
 #include "fakes/RecordingCanvas.h"
-#include "ui/navigation/PaintedLayer.h"
+#include "ui/charts/PaintedLayer.h"
 
 namespace zelk {
 

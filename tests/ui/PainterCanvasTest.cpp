@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/PainterCanvas.h"
+#include "ui/controls/PainterCanvas.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/ProgressPicture.h"
+#include "ui/controls/ProgressPicture.h"
 
 #include <gtest/gtest.h>
 

@@ -15,7 +15,7 @@ protected:
 
     /// A button has the keyboard when the question comes.
     void ask() {
-        show(QStringLiteral("import QtQuick\nimport Zelk.Components\nimport Zelk.Shell\n"
+        show(QStringLiteral("import QtQuick\nimport Zelk.Controls\nimport Zelk.App\n"
                             "FocusScope { id: top; required property QuitQuestion quitting; focus: true\n"
                             "PrimaryButton { objectName: \"below\"; text: \"Below\"; focus: true }\n"
                             "QuitSheet { question: top.quitting } }"),

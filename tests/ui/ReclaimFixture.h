@@ -4,7 +4,7 @@
 #include <string>
 
 #include "state/AppModelFixture.h"
-#include "ui/reclaim/ReclaimScreenModel.h"
+#include "ui/screens/reclaim/ReclaimScreenModel.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/reclaim/ReclaimScreenModel.h"
+#include "ui/screens/reclaim/ReclaimScreenModel.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/RibbonPicture.h"
+#include "ui/charts/RibbonPicture.h"
 
 #include <gtest/gtest.h>
 

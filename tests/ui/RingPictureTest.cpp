@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/RingPicture.h"
+#include "ui/charts/RingPicture.h"
 
 #include <gtest/gtest.h>
 

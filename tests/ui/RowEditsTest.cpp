@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/RowEdits.h"
+#include "ui/controls/RowEdits.h"
 
 #include <gmock/gmock.h>
 

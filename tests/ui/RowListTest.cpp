@@ -6,7 +6,7 @@
 #include <set>
 
 #include "ViewFixture.h"
-#include "ui/components/FigureText.h"
+#include "ui/controls/FigureText.h"
 
 namespace zelk {
 
@@ -15,7 +15,7 @@ namespace {
 /// A hundred rows with a tick, a figure that runs and their number; the first half are ticked.
 constexpr const char* listBoard = R"(
 import QtQuick
-import Zelk.Components
+import Zelk.Controls
 
 RowList {
     objectName: "list"

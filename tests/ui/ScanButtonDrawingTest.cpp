@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/ScanButtonDrawing.h"
+#include "ui/charts/ScanButtonDrawing.h"
 
 #include <gtest/gtest.h>
 

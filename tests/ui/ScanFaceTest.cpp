@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/ScanFace.h"
+#include "ui/charts/ScanFace.h"
 
 #include <gtest/gtest.h>
 

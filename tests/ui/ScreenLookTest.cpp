@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/ScreenLook.h"
+#include "ui/theme/ScreenLook.h"
 
 #include <gtest/gtest.h>
 

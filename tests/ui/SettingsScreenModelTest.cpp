@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/settings/SettingsScreenModel.h"
+#include "ui/screens/settings/SettingsScreenModel.h"
 
 #include <QSignalSpy>
 #include <optional>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ViewFixture.h"
-#include "ui/settings/SettingsScreenModel.h"
+#include "ui/screens/settings/SettingsScreenModel.h"
 
 namespace zelk {
 
@@ -15,7 +15,7 @@ protected:
         close();
     }
     void open(QSize size = {460, 360}) {
-        show(QStringLiteral("Zelk.Settings"), QStringLiteral("SettingsView"), "settings", &settings, size);
+        show(QStringLiteral("Zelk.App"), QStringLiteral("SettingsView"), "settings", &settings, size);
     }
     /// Goes on with the Tab key to the control of this name.
     void tabTo(const std::string& name) {

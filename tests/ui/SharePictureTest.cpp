@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/SharePicture.h"
+#include "ui/charts/SharePicture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "ui/navigation/SidebarModel.h"
+#include "ui/shell/SidebarModel.h"
 
 #include <gmock/gmock.h>
 
 #include <QSignalSpy>
 
 #include "state/AppModelFixture.h"
-#include "ui/components/ScreenLook.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 

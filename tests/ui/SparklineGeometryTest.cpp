@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/SparklineGeometry.h"
+#include "ui/charts/SparklineGeometry.h"
 
 #include <gtest/gtest.h>
 
 #include "fakes/RecordingCanvas.h"
-#include "ui/components/SparklinePicture.h"
+#include "ui/charts/SparklinePicture.h"
 
 namespace zelk {
 

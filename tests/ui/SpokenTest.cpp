@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/Spoken.h"
+#include "ui/controls/Spoken.h"
 
 #include <gtest/gtest.h>
 

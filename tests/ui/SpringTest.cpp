@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/Spring.h"
+#include "ui/controls/Spring.h"
 
 #include <gtest/gtest.h>
 

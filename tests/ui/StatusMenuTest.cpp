@@ -8,7 +8,7 @@
 #include "fakes/FakeTray.h"
 #include "state/AppModelFixture.h"
 #include "ui/shell/StatusItem.h"
-#include "ui/text/DisplayText.h"
+#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 

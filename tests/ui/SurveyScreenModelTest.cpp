@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/survey/SurveyScreenModel.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
 
 #include <gmock/gmock.h>
 

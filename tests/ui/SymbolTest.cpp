@@ -10,10 +10,10 @@
 
 #include "QtMessages.h"
 #include "ViewFixture.h"
-#include "ui/components/ScanFace.h"
+#include "ui/charts/ScanFace.h"
+#include "ui/screens/overview/FeatureList.h"
 #include "ui/shell/Application.h"
-#include "ui/survey/FeatureList.h"
-#include "ui/symbols/SymbolItem.h"
+#include "ui/theme/SymbolItem.h"
 
 namespace zelk {
 
@@ -30,7 +30,7 @@ std::vector<QString> symbolsInUse() {
 /// The names of all drawings there are.
 std::vector<QString> drawnSymbols() {
     std::vector<QString> names;
-    for (QDirIterator files(QStringLiteral(":/Zelk/Symbols"), {QStringLiteral("*.svg")}); files.hasNext();) {
+    for (QDirIterator files(QStringLiteral(":/Zelk/Controls/symbols"), {QStringLiteral("*.svg")}); files.hasNext();) {
         names.push_back(QFileInfo(files.next()).completeBaseName());
     }
     EXPECT_GE(names.size(), 60u);
@@ -143,7 +143,7 @@ TEST(Symbols, ofAnUnknownNameAreNothing) {
 }
 
 TEST_F(TextSymbol, looksAsLargeAsTheTextBesideIt) {
-    show(QStringLiteral("import QtQuick\nimport Zelk.Components\n"
+    show(QStringLiteral("import QtQuick\nimport Zelk.Controls\n"
                         "Item { TextSymbol { objectName: 'symbol'; name: 'scope'; color: 'black'; points: 14 } }"),
          {40, 40});
     EXPECT_EQ(find("symbol")->implicitWidth(), 17);

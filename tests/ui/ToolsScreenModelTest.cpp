@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/tools/ToolsScreenModel.h"
+#include "ui/screens/tools/ToolsScreenModel.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ViewFixture.h"
-#include "ui/components/ScreenLook.h"
-#include "ui/tools/ToolsScreenModel.h"
+#include "ui/screens/tools/ToolsScreenModel.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 
@@ -12,7 +12,7 @@ protected:
     ~ToolsWindow() override { close(); }
 
     void open(QSize size = {800, 620}) {
-        show(QStringLiteral("Zelk.Tools"), QStringLiteral("ToolsView"), "tools", &tools_, size);
+        show(QStringLiteral("Zelk.App"), QStringLiteral("ToolsView"), "tools", &tools_, size);
     }
 
     static constexpr const char* first =

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "ui/survey/TrashBannerModel.h"
+#include "ui/screens/overview/TrashBannerModel.h"
 
 #include <gmock/gmock.h>
 
 #include <QSignalSpy>
 
 #include "state/AppModelFixture.h"
-#include "ui/text/DisplayText.h"
+#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The banner on the screen: when it asks what the Trash holds.
 #include "ViewFixture.h"
-#include "ui/survey/TrashBannerModel.h"
+#include "ui/screens/overview/TrashBannerModel.h"
 
 namespace zelk {
 
@@ -15,7 +15,7 @@ protected:
     std::size_t measurings() const { return machine.tasks.waiting().size(); }
     void open() {
         machine.tasks.hold();
-        show(QStringLiteral("Zelk.Survey"), QStringLiteral("TrashBanner"), "trash", &banner, {640, 80});
+        show(QStringLiteral("Zelk.App"), QStringLiteral("TrashBanner"), "trash", &banner, {640, 80});
     }
 
     TrashBannerModel banner{model(), machine.workspace, true};
@@ -39,7 +39,7 @@ TEST_F(TrashBannerWindow, readsItAgainWheneverItComesBack) {
 }
 
 TEST_F(TrashBannerWindow, hasItsSymbolBeforeItsTexts) {
-    show(QStringLiteral("Zelk.Survey"), QStringLiteral("TrashBanner"), "trash", &banner, {640, 80});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("TrashBanner"), "trash", &banner, {640, 80});
     const SymbolItem* trash = symbol("trash.fill");
     ASSERT_NE(trash, nullptr);
     ASSERT_NE(showing("Trash"), nullptr);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/survey/TrendsModel.h"
+#include "ui/screens/overview/TrendsModel.h"
 
 #include <gmock/gmock.h>
 

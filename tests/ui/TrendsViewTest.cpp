@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The card of the trends and the sheet of what has changed: their sizes, and what stands where.
 #include "ViewFixture.h"
-#include "ui/components/SparklinePicture.h"
-#include "ui/survey/TrendsModel.h"
+#include "ui/charts/SparklinePicture.h"
+#include "ui/screens/overview/TrendsModel.h"
 
 namespace zelk {
 
@@ -28,7 +28,7 @@ protected:
         machine.directories.file(home + "/come/d", 2 * gigabyte);
         machine.directories.unreadable(home + "/left");
         survey();
-        show(QStringLiteral("import QtQuick\nimport Zelk.Survey\nItem { id: page; property TrendsModel trends\n"
+        show(QStringLiteral("import QtQuick\nimport Zelk.App\nItem { id: page; property TrendsModel trends\n"
                             "TrendsCard { objectName: 'card'; width: 700; trends: page.trends } }"),
              {700, 620}, {{QStringLiteral("trends"), QVariant::fromValue(&trends)}});
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/components/Typesetter.h"
+#include "ui/controls/Typesetter.h"
 
 #include <gtest/gtest.h>
 

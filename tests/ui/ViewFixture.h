@@ -17,16 +17,10 @@
 #include "Camera.h"
 #include "state/AppModelFixture.h"
 #include "ui/shell/Application.h"
-#include "ui/symbols/SymbolItem.h"
 #include "ui/theme/Motion.h"
+#include "ui/theme/SymbolItem.h"
 #include "ui/theme/TextScale.h"
 #include "ui/theme/Theme.h"
-
-void qml_register_types_Zelk_Navigation();
-void qml_register_types_Zelk_Tools();
-void qml_register_types_Zelk_Help();
-void qml_register_types_Zelk_Welcome();
-void qml_register_types_Zelk_Settings();
 
 namespace zelk {
 
@@ -34,11 +28,6 @@ class ViewFixture : public AppModelFixture {
 protected:
     ViewFixture() {
         registerInterface();
-        qml_register_types_Zelk_Navigation();
-        qml_register_types_Zelk_Tools();
-        qml_register_types_Zelk_Help();
-        qml_register_types_Zelk_Welcome();
-        qml_register_types_Zelk_Settings();
         engine_.addImportPath(QStringLiteral("qrc:/"));
         singleton<Theme>("Theme").follow(model());
         singleton<Motion>("Motion").setReduced(true);
@@ -48,7 +37,7 @@ protected:
 
     template <class T>
     T& singleton(const char* name) {
-        return *engine_.singletonInstance<T*>(qmlTypeId("Zelk.Theme", 1, 0, name));
+        return *engine_.singletonInstance<T*>(qmlTypeId("Zelk.Controls", 1, 0, name));
     }
 
     /// Shows the view of a module that takes `model` as its `property`, filling a window of this size.

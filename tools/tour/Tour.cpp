@@ -10,10 +10,10 @@
 #include "Camera.h"
 #include "platform/Preferences.h"
 #include "platform/Workspace.h"
-#include "ui/components/ScreenLook.h"
-#include "ui/navigation/SidebarModel.h"
-#include "ui/survey/SurveyScreenModel.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
+#include "ui/shell/SidebarModel.h"
 #include "ui/theme/Motion.h"
+#include "ui/theme/ScreenLook.h"
 #include "ui/theme/TextScale.h"
 #include "wall/Wall.h"
 

@@ -6,7 +6,7 @@
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
 #include "state/AppModel.h"
-#include "ui/reclaim/ItemList.h"
+#include "ui/screens/reclaim/ItemList.h"
 #include "ui/shell/MainWindow.h"
 
 namespace zelk::tour {

@@ -6,7 +6,7 @@
 
 #include "Camera.h"
 #include "Tour.h"
-#include "ui/reclaim/ReclaimScreenModel.h"
+#include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/shell/QuitQuestion.h"
 
 namespace zelk::tour {

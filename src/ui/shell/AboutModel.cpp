@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/AboutModel.h"
 
-#include "ui/text/DisplayText.h"
+#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 

@@ -3,11 +3,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
-import Zelk.Navigation
-import Zelk.Shell
-import Zelk.Symbols
-import Zelk.Theme
+import Zelk.App
+import Zelk.Charts
+import Zelk.Controls
 
 Item {
     id: view

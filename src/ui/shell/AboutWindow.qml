@@ -2,7 +2,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Shell
+import Zelk.App
 
 SecondaryWindow {
     id: window

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/components/ScreenLook.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 

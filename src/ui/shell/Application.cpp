@@ -7,26 +7,14 @@
 #include <QPixmap>
 #include <utility>
 
-#include "ui/navigation/HouseTile.h"
-#include "ui/symbols/SymbolItem.h"
+#include "ui/charts/HouseTile.h"
+#include "ui/theme/SymbolItem.h"
 #include "ui/theme/ZelkTheme.h"
 
 // The generated registrations. Naming them here is also what links the modules in.
-void qml_register_types_Zelk_Theme();
-void qml_register_types_Zelk_Symbols();
-void qml_register_types_Zelk_Components();
-void qml_register_types_Zelk_Bubbles();
-void qml_register_types_Zelk_Clutter();
-void qml_register_types_Zelk_Navigation();
-void qml_register_types_Zelk_Reclaim();
-void qml_register_types_Zelk_Explanation();
-void qml_register_types_Zelk_Lens();
-void qml_register_types_Zelk_Survey();
-void qml_register_types_Zelk_Tools();
-void qml_register_types_Zelk_Settings();
-void qml_register_types_Zelk_Help();
-void qml_register_types_Zelk_Welcome();
-void qml_register_types_Zelk_Shell();
+void qml_register_types_Zelk_Controls();
+void qml_register_types_Zelk_Charts();
+void qml_register_types_Zelk_App();
 
 namespace zelk {
 
@@ -68,21 +56,9 @@ void registerInterface() {
     // A type registered again is another type: an engine would have every singleton twice.
     static bool registered = false;
     if (std::exchange(registered, true)) return;
-    qml_register_types_Zelk_Theme();
-    qml_register_types_Zelk_Symbols();
-    qml_register_types_Zelk_Components();
-    qml_register_types_Zelk_Bubbles();
-    qml_register_types_Zelk_Clutter();
-    qml_register_types_Zelk_Navigation();
-    qml_register_types_Zelk_Reclaim();
-    qml_register_types_Zelk_Explanation();
-    qml_register_types_Zelk_Lens();
-    qml_register_types_Zelk_Survey();
-    qml_register_types_Zelk_Tools();
-    qml_register_types_Zelk_Settings();
-    qml_register_types_Zelk_Help();
-    qml_register_types_Zelk_Welcome();
-    qml_register_types_Zelk_Shell();
+    qml_register_types_Zelk_Controls();
+    qml_register_types_Zelk_Charts();
+    qml_register_types_Zelk_App();
 }
 
 }  // namespace zelk

@@ -3,7 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Shell
+import Zelk.App
 
 Loader {
     id: page

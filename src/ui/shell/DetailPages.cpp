@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/DetailPages.h"
 
+#include <QUrl>
 #include <utility>
 
 #include "state/AppModel.h"
 
 namespace zelk {
 
-DetailPages::DetailPages(AppModel& app, std::vector<Page> pages)
-    : app_(app), pages_(std::move(pages)), built_(pages_.size()), current_(static_cast<int>(app.selection())) {
+DetailPages::DetailPages(const ScreenContext& context)
+    : context_(context), current_(static_cast<int>(context.app.selection())) {
     built_[static_cast<std::size_t>(current_)] = true;
-    connect(&app, &AppModel::selectionChanged, this, &DetailPages::followSelection);
+    connect(&context.app, &AppModel::selectionChanged, this, &DetailPages::followSelection);
 }
 
 int DetailPages::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(pages_.size());
+    return parent.isValid() ? 0 : static_cast<int>(allScreens.size());
 }
 
 QVariant DetailPages::data(const QModelIndex& index, int role) const {
@@ -22,9 +23,9 @@ QVariant DetailPages::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
     switch (role) {
         case viewRole:
-            return pages_[row].view;
+            return QUrl(QStringLiteral("qrc:/Zelk/App/%1.qml").arg(QLatin1String(placeOf(allScreens[row]).view)));
         case builtRole:
-            return static_cast<bool>(built_[row]);
+            return built_[row];
         case currentRole:
             return index.row() == current_;
         default:
@@ -36,12 +37,19 @@ QHash<int, QByteArray> DetailPages::roleNames() const {
     return {{viewRole, "view"}, {builtRole, "built"}, {currentRole, "current"}};
 }
 
-QVariantMap DetailPages::given(int row) const {
-    return pages_[static_cast<std::size_t>(row)].given();
+QVariantMap DetailPages::given(int row) {
+    const Screen screen = allScreens[static_cast<std::size_t>(row)];
+    return {{QString::fromLatin1(placeOf(screen).property), QVariant::fromValue(modelOf(screen))}};
+}
+
+QObject* DetailPages::modelOf(Screen screen) {
+    std::unique_ptr<QObject>& model = models_[static_cast<std::size_t>(screen)];
+    if (!model) model = placeOf(screen).make(context_);
+    return model.get();
 }
 
 void DetailPages::followSelection() {
-    const int before = std::exchange(current_, static_cast<int>(app_.selection()));
+    const int before = std::exchange(current_, static_cast<int>(context_.app.selection()));
     built_[static_cast<std::size_t>(current_)] = true;
     // The new one is there before the old one goes.
     emit dataChanged(index(current_), index(current_), {builtRole, currentRole});

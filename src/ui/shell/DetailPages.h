@@ -3,19 +3,17 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
-#include <QUrl>
 #include <QVariantMap>
-#include <functional>
-#include <vector>
+#include <array>
+#include <memory>
 
 #include "state/Screen.h"
+#include "ui/shell/ScreenPlaces.h"
 
 namespace zelk {
 
-class AppModel;
-
-/// The screens of the detail, a row for each in the order of Screen. One is built when it is first gone to, and kept;
-/// the current one alone is seen. Main thread.
+/// The screens beside the sidebar, a row for each in the order of Screen, with their models. A screen is built when it
+/// is first gone to, and kept; the current one alone is seen. Main thread.
 class DetailPages : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -24,27 +22,29 @@ class DetailPages : public QAbstractListModel {
 public:
     enum Role { viewRole = Qt::UserRole, builtRole, currentRole };
 
-    struct Page {
-        QUrl view;
-        std::function<QVariantMap()> given;  ///< the view's required properties; asked for once
-    };
-
-    /// `app` must outlive it; `pages` has one for every screen.
-    DetailPages(AppModel& app, std::vector<Page> pages);
+    explicit DetailPages(const ScreenContext& context);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// What the view of this row needs.
-    Q_INVOKABLE QVariantMap given(int row) const;
+    /// The required properties of the view of this row.
+    Q_INVOKABLE QVariantMap given(int row);
+
+    /// The screen's model, made when it is first asked for. Model is the class that the table of screens makes.
+    template <class Model>
+    Model& model(Screen screen) {
+        return static_cast<Model&>(*modelOf(screen));
+    }
 
 private:
     void followSelection();
 
-    AppModel& app_;
-    std::vector<Page> pages_;
-    std::vector<bool> built_;
+    QObject* modelOf(Screen screen);
+
+    ScreenContext context_;
+    std::array<std::unique_ptr<QObject>, allScreens.size()> models_;
+    std::array<bool, allScreens.size()> built_{};
     int current_ = 0;
 };
 

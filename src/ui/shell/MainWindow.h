@@ -5,49 +5,25 @@
 #include <QQuickWindow>
 #include <functional>
 #include <memory>
-#include <optional>
-#include <string>
-#include <vector>
 
-#include "ui/shell/BundleInfo.h"
 #include "ui/shell/DetailPages.h"
 #include "ui/shell/SecondaryWindows.h"
-#include "ui/shell/Tray.h"
 #include "ui/shell/WindowId.h"
+#include "ui/shell/WindowServices.h"
 
 namespace zelk {
 
 class AboutModel;
 class AppCommands;
 class AppModel;
-class ClutterScreenModel;
 class FirstRunModel;
 class HelpModel;
-class LensScreenModel;
-class ModuleScreenModel;
 class Motion;
-class Preferences;
 class QuitQuestion;
 class ReclaimScreenModel;
-class RootModel;
-class SettingsScreenModel;
 class SidebarModel;
 class SurveyScreenModel;
 class TextScale;
-class ToolsScreenModel;
-class Workspace;
-
-/// What the windows ask of the system beside the AppModel. Where there are no preferences or no desktop, no first run
-/// is told.
-struct WindowServices {
-    Preferences* preferences = nullptr;
-    Workspace* workspace = nullptr;
-    std::function<bool()> accessGranted;  ///< whether the whole drive may be read
-    std::function<std::optional<std::string>()> pickFolder = [] { return std::nullopt; };
-    std::function<void()> quit = [] {};
-    BundleInfo bundle;
-    std::function<std::unique_ptr<Tray>()> tray = desktopTray;
-};
 
 /// The main window of an AppModel with all that it shows and the windows beside it, not yet visible. The model and the
 /// services must outlive it; a survey may be under way when it goes. Main thread.
@@ -72,8 +48,8 @@ public:
     SecondaryWindows& secondary() { return *secondary_; }
 
     QQuickWindow& window() { return *window_; }
-    SurveyScreenModel& survey() { return *survey_; }
-    ReclaimScreenModel& reclaim() { return *reclaim_; }
+    SurveyScreenModel& survey();
+    ReclaimScreenModel& reclaim();
     SidebarModel& sidebar() { return *sidebar_; }
     AppCommands& commands() { return *commands_; }
     /// By which every way out goes.
@@ -82,29 +58,19 @@ public:
     TextScale& textScale() { return *textScale_; }
 
 private:
-    std::vector<DetailPages::Page> makePages();
     QVariantMap givenTo(WindowId id);
-    SettingsScreenModel& settings();
     void afterNextFrame(const std::function<void()>& act);
 
     AppModel& app_;
     WindowServices services_;
     // In this order: the windows read the models, and go first.
-    std::unique_ptr<SurveyScreenModel> survey_;
     std::unique_ptr<SidebarModel> sidebar_;
-    std::unique_ptr<ReclaimScreenModel> reclaim_;
-    std::unique_ptr<LensScreenModel> lens_;
-    std::unique_ptr<ClutterScreenModel> clutter_;
-    std::unique_ptr<ToolsScreenModel> tools_;
-    std::unique_ptr<SettingsScreenModel> settings_;
+    std::unique_ptr<DetailPages> pages_;
     std::unique_ptr<HelpModel> help_;
     std::unique_ptr<AboutModel> about_;
     std::unique_ptr<FirstRunModel> firstRun_;
-    std::vector<std::unique_ptr<ModuleScreenModel>> modules_;
     std::unique_ptr<QuitQuestion> quitQuestion_;
-    std::unique_ptr<DetailPages> pages_;
     std::unique_ptr<AppCommands> commands_;
-    std::unique_ptr<RootModel> root_;
     QQmlEngine engine_;
     Motion* motion_ = nullptr;        // the engine's
     TextScale* textScale_ = nullptr;  // the engine's

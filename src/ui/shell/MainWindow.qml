@@ -4,15 +4,22 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Shell
-import Zelk.Theme
+import Zelk.App
+import Zelk.Controls
 
 Window {
     id: window
 
-    required property RootModel root
+    required property SidebarModel sidebar
+    required property DetailPages pages
+    required property AppCommands commands
+    required property QuitQuestion quitQuestion
+    // Null where nothing is asked before the first use.
+    required property FirstRunModel firstRun
 
-    title: window.root.title
+    property bool filled: false
+
+    title: "Zelk"
     minimumWidth: 960
     minimumHeight: 620
     width: 1200
@@ -20,10 +27,10 @@ Window {
     color: Theme.ground
 
     Rectangle {
-        width: window.root.sidebar.width
+        width: window.sidebar.width
         height: parent.height
         color: Theme.groundHi
-        visible: !window.root.filled
+        visible: !window.filled
 
         Rectangle {
             anchors.right: parent.right
@@ -35,10 +42,14 @@ Window {
 
     Loader {
         anchors.fill: parent
-        active: window.root.filled
+        active: window.filled
         focus: true
         Component.onCompleted: setSource("MainContents.qml", {
-            "root": window.root
+            "sidebar": window.sidebar,
+            "pages": window.pages,
+            "commands": window.commands,
+            "quitQuestion": window.quitQuestion,
+            "firstRun": window.firstRun
         })
     }
 }

@@ -4,8 +4,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import Zelk.Components
-import Zelk.Theme
+import Zelk.Controls
 
 T.MenuItem {
     id: entry

@@ -6,8 +6,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import QtQml.Models
-import Zelk.Shell
-import Zelk.Theme
+import Zelk.App
+import Zelk.Controls
 
 T.MenuBar {
     id: bar

@@ -3,8 +3,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import Zelk.Components
-import Zelk.Theme
+import Zelk.Controls
 
 T.MenuBarItem {
     id: item

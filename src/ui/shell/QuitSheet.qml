@@ -3,9 +3,8 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
-import Zelk.Shell
-import Zelk.Theme
+import Zelk.App
+import Zelk.Controls
 
 Sheet {
     id: sheet

@@ -3,7 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Theme
+import Zelk.Controls
 
 Window {
     id: window

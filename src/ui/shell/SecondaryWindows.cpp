@@ -25,7 +25,7 @@ QString fileOf(WindowId id) {
 }  // namespace
 
 std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& file, const QVariantMap& given) {
-    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/Zelk/Shell/%1.qml").arg(file)));
+    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/Zelk/App/%1.qml").arg(file)));
     if (!component.isReady()) qFatal("%s", qPrintable(component.errorString()));
     std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(given)));
     if (!window) qFatal("%s is no window: %s", qPrintable(file), qPrintable(component.errorString()));

@@ -2,7 +2,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Settings
+import Zelk.App
 
 SecondaryWindow {
     id: window

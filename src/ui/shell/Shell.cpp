@@ -9,7 +9,6 @@
 #include "ui/shell/NativeApplication.h"
 #include "ui/shell/NativeMenuBar.h"
 #include "ui/shell/QuitQuestion.h"
-#include "ui/shell/RootModel.h"
 
 namespace zelk {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/text/DisplayText.h"
+#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 

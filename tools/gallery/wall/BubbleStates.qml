@@ -2,7 +2,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Bubbles
+import Zelk.Charts
 import Zelk.Gallery
 
 Section {

@@ -2,7 +2,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
+import Zelk.Controls
 
 Section {
     id: buttons

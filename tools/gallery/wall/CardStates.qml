@@ -2,7 +2,8 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
+import Zelk.App
+import Zelk.Controls
 
 Section {
     id: cards

@@ -2,8 +2,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
-import Zelk.Theme
+import Zelk.Controls
 
 Section {
     id: controls

@@ -2,9 +2,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
+import Zelk.App
+import Zelk.Charts
+import Zelk.Controls
 import Zelk.Gallery
-import Zelk.Theme
 
 Section {
     id: section

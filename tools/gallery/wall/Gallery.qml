@@ -2,9 +2,8 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
+import Zelk.Controls
 import Zelk.Gallery
-import Zelk.Theme
 
 Rectangle {
     id: gallery

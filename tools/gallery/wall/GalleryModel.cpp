@@ -4,8 +4,8 @@
 #include <utility>
 #include <vector>
 
-#include "ui/symbols/SymbolItem.h"
-#include "ui/text/DisplayText.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/SymbolItem.h"
 
 namespace zelk {
 

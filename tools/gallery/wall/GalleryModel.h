@@ -5,11 +5,11 @@
 #include <QList>
 #include <QObject>
 
-#include "ui/bubbles/BubbleModel.h"
-#include "ui/components/DeviceFace.h"
-#include "ui/components/RibbonPicture.h"
-#include "ui/components/ScanFace.h"
-#include "ui/navigation/ModuleScreenModel.h"
+#include "ui/charts/BubbleModel.h"
+#include "ui/charts/RibbonPicture.h"
+#include "ui/charts/ScanFace.h"
+#include "ui/screens/module/ModuleScreenModel.h"
+#include "ui/screens/overview/DeviceFace.h"
 
 namespace zelk {
 

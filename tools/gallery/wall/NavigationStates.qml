@@ -2,9 +2,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.App
+import Zelk.Controls
 import Zelk.Gallery
-import Zelk.Navigation
-import Zelk.Theme
 
 Section {
     id: section

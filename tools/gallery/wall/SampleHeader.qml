@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A header with something at its right. (What the header makes elsewhere must not be bound to this file.)
 import QtQuick
-import Zelk.Components
-import Zelk.Navigation
+import Zelk.App
+import Zelk.Controls
 
 ModuleHeader {
     symbol: "tray.full"

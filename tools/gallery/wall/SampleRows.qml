@@ -3,8 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
-import Zelk.Theme
+import Zelk.Controls
 
 RowList {
     id: list

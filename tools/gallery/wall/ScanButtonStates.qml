@@ -2,7 +2,8 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Components
+import Zelk.Charts
+import Zelk.Controls
 import Zelk.Gallery
 
 Section {

@@ -5,8 +5,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import Zelk.Components
-import Zelk.Theme
+import Zelk.Controls
 
 Item {
     id: row

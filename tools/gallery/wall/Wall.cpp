@@ -39,7 +39,7 @@ void registerGallery() {
 
 template <class T>
 T& singleton(QQmlEngine& engine, const char* name) {
-    return *engine.singletonInstance<T*>(qmlTypeId("Zelk.Theme", 1, 0, name));
+    return *engine.singletonInstance<T*>(qmlTypeId("Zelk.Controls", 1, 0, name));
 }
 
 /// The ones that bear the name of a state, from the top down.

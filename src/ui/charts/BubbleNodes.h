@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAbstractListModel>
+#include <QRectF>
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "ui/charts/BubbleDrawing.h"
+
+namespace zelk {
+
+/// One bubble as a screen reader finds it.
+struct BubbleNode {
+    QString name;  ///< its label, size and share of the map
+    QString note;  ///< what else there is to say
+    QRectF box;    ///< in the chart's points
+    bool selected = false;
+
+    bool operator==(const BubbleNode&) const = default;
+};
+
+/// The bubbles that are on the map, in its order.
+std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, const SlicesByID& slices);
+
+/// The same as rows: a map that is laid out anew moves them and makes none. Main thread.
+class BubbleNodes : public QAbstractListModel {
+    Q_OBJECT
+
+public:
+    enum Role { nameRole = Qt::UserRole + 1, noteRole, boxRole, selectedRole, currentRole };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    void show(std::vector<BubbleNode> nodes);
+    /// Where the keyboard is.
+    void setCurrent(std::optional<std::size_t> current);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+private:
+    std::vector<BubbleNode> nodes_;
+    std::optional<std::size_t> current_;
+};
+
+}  // namespace zelk

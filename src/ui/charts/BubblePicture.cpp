@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: MIT
+#include "ui/charts/BubblePicture.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QStyleHints>
+#include <algorithm>
+#include <utility>
+
+namespace zelk {
+
+namespace {
+
+std::string keyOf(const std::vector<BubbleSlice>& slices) {
+    std::string key;
+    for (const BubbleSlice& slice : slices) {
+        if (&slice != &slices.front()) key += '|';
+        key += slice.id;
+    }
+    return key;
+}
+
+}  // namespace
+
+BubblePicture::BubblePicture(QQuickItem* parent) : Drawn(parent) {
+    setAcceptHoverEvents(true);
+    setAcceptedMouseButtons(Qt::LeftButton);
+    setActiveFocusOnTab(true);
+}
+
+void BubblePicture::setModel(BubbleModel* model) {
+    if (model == model_) return;
+    if (model_ != nullptr) disconnect(model_, nullptr, this, nullptr);
+    model_ = model;
+    if (model != nullptr) {
+        connect(model, &BubbleModel::slicesChanged, this, &BubblePicture::takeSlices);
+        connect(model, &BubbleModel::rebuilt, this, &BubblePicture::startOver);
+        connect(model, &QObject::destroyed, this, &BubblePicture::refresh);
+    }
+    startOver();
+    emit modelChanged();
+}
+
+void BubblePicture::setDark(bool dark) {
+    if (take(look_.dark, dark)) emit lookChanged();
+}
+
+void BubblePicture::setAccent(const QColor& accent) {
+    if (take(accent_, accent)) emit lookChanged();
+}
+
+void BubblePicture::setGround(const QColor& ground) {
+    if (take(ground_, ground)) emit lookChanged();
+}
+
+void BubblePicture::setTextScale(double scale) {
+    if (!take(look_.textScale, scale)) return;
+    retip();
+    emit lookChanged();
+}
+
+const std::vector<BubbleSlice>& BubblePicture::slices() const {
+    static const std::vector<BubbleSlice> none;
+    return model_ == nullptr ? none : model_->slices();
+}
+
+const BubbleSlice* BubblePicture::sliceAt(std::size_t index) const {
+    const SlicesByID found = byID(slices());
+    const auto slice = found.find(packed_.at(index).id);
+    return slice == found.end() ? nullptr : slice->second;
+}
+
+const BubbleSlice* BubblePicture::currentSlice() const {
+    return current_ ? sliceAt(*current_) : nullptr;
+}
+
+QString BubblePicture::currentName() const {
+    return current_ ? nodes_.data(nodes_.index(static_cast<int>(*current_)), BubbleNodes::nameRole).toString()
+                    : QString();
+}
+
+void BubblePicture::takeSlices() {
+    if (keyOf(slices()) == key_)
+        refresh();
+    else
+        repack();
+}
+
+void BubblePicture::startOver() {
+    packed_.clear();
+    current_.reset();
+    hoveredID_.reset();
+    hoverPoint_ = {};
+    repack();
+}
+
+void BubblePicture::repack() {
+    key_ = keyOf(slices());
+    if (isComponentComplete() && width() > 1 && height() > 1) {
+        std::vector<PackItem> items;
+        for (const BubbleSlice& slice : slices()) items.push_back({slice.id, slice.bytes});
+        const std::optional<std::string> was = current_ ? std::optional(packed_[*current_].id) : std::nullopt;
+        packed_ = pack(items, width(), height());
+        current_ = indexOf(was);
+        if (!current_) current_ = largestCircle(packed_);
+    }
+    refresh();
+    emit packedChanged();
+}
+
+/// After whatever changes what is drawn and said.
+void BubblePicture::refresh() {
+    nodes_.show(bubbleNodes(packed_, byID(slices())));
+    nodes_.setCurrent(visualFocus() ? current_ : std::nullopt);
+    retip();
+    update();
+    emit currentChanged();
+}
+
+std::optional<std::size_t> BubblePicture::indexOf(const std::optional<std::string>& id) const {
+    const auto found =
+        std::find_if(packed_.begin(), packed_.end(), [&](const PackedCircle& circle) { return circle.id == id; });
+    if (found == packed_.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - packed_.begin());
+}
+
+/// One bubble of the map, with all that surrounds it: what else there is stays as it is on screen.
+void BubblePicture::updateBubble(const std::optional<std::size_t>& index) {
+    if (index) update(bubbleBox(packed_[*index]).toAlignedRect());
+}
+
+void BubblePicture::draw(Canvas& canvas) const {
+    drawBubbles(canvas, packed_, byID(slices()), hoveredID_, look_);
+    if (visualFocus() && currentSlice() != nullptr) drawBubbleFocus(canvas, packed_[*current_], accent_, ground_);
+}
+
+void BubblePicture::componentComplete() {
+    Drawn::componentComplete();
+    repack();
+}
+
+void BubblePicture::geometryChange(const QRectF& now, const QRectF& before) {
+    Drawn::geometryChange(now, before);
+    if (now.size() != before.size()) repack();
+}
+
+void BubblePicture::hover(QPointF point) {
+    // The toolkit also tells where the pointer is when something has moved below it.
+    if (point != std::exchange(hoverPoint_, point)) tipFollowsKeys_ = false;
+    const auto hit = hitTest(packed_, {point.x(), point.y()});
+    const std::optional<std::string> id = hit ? std::optional(packed_[*hit].id) : std::nullopt;
+    if (id != hoveredID_) {
+        updateBubble(indexOf(hoveredID_));
+        updateBubble(indexOf(id));
+        hoveredID_ = id;
+        setCursor(id ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    }
+    retip();
+}
+
+void BubblePicture::endHover() {
+    updateBubble(indexOf(hoveredID_));
+    hoveredID_.reset();
+    retip();
+}
+
+void BubblePicture::hoverEnterEvent(QHoverEvent* event) {
+    hover(event->position());
+}
+
+void BubblePicture::hoverMoveEvent(QHoverEvent* event) {
+    hover(event->position());
+}
+
+void BubblePicture::hoverLeaveEvent(QHoverEvent* /*event*/) {
+    endHover();
+}
+
+void BubblePicture::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->position();
+    setByKey(false);
+    forceActiveFocus(Qt::MouseFocusReason);
+}
+
+/// Dragging is no tap.
+void BubblePicture::mouseMoveEvent(QMouseEvent* event) {
+    if (!pressed_) return;
+    const QPointF moved = event->position() - *pressed_;
+    if (moved.manhattanLength() >= QGuiApplication::styleHints()->startDragDistance()) pressed_.reset();
+}
+
+void BubblePicture::mouseReleaseEvent(QMouseEvent* event) {
+    if (std::exchange(pressed_, std::nullopt)) tapAt(event->position());
+}
+
+void BubblePicture::mouseUngrabEvent() {
+    pressed_.reset();
+}
+
+void BubblePicture::tapAt(QPointF point) {
+    const auto hit = hitTest(packed_, {point.x(), point.y()});
+    if (!hit) return;
+    setCurrent(hit);
+    tapNode(static_cast<int>(*hit));
+}
+
+void BubblePicture::tapNode(int index) {
+    const auto at = static_cast<std::size_t>(index);
+    if (index < 0 || at >= packed_.size()) return;
+    if (const BubbleSlice* slice = sliceAt(at)) model_->tap(*slice);
+}
+
+void BubblePicture::setByKey(bool byKey) {
+    tipFollowsKeys_ = byKey;
+    const bool changed = byKey != std::exchange(byKey_, byKey) && hasActiveFocus();
+    if (changed) {
+        updateBubble(current_);
+        nodes_.setCurrent(visualFocus() ? current_ : std::nullopt);
+        emit visualFocusChanged();
+    }
+    retip();
+}
+
+void BubblePicture::setCurrent(std::optional<std::size_t> current) {
+    if (current == current_) return;
+    updateBubble(std::exchange(current_, current));
+    updateBubble(current_);
+    nodes_.setCurrent(visualFocus() ? current_ : std::nullopt);
+    retip();
+    emit currentChanged();
+}
+
+void BubblePicture::walk(WalkDirection direction) {
+    if (!current_) return;
+    if (const auto next = nextInDirection(packed_, *current_, direction)) setCurrent(next);
+}
+
+/// False if it is no key of the map.
+bool BubblePicture::act(int key, bool repeated) {
+    const BubbleSlice* slice = currentSlice();
+    switch (key) {
+        case Qt::Key_Left:
+            walk(WalkDirection::left);
+            return true;
+        case Qt::Key_Right:
+            walk(WalkDirection::right);
+            return true;
+        case Qt::Key_Up:
+            walk(WalkDirection::up);
+            return true;
+        case Qt::Key_Down:
+            walk(WalkDirection::down);
+            return true;
+        case Qt::Key_Home:
+            setCurrent(largestCircle(packed_));
+            return true;
+        case Qt::Key_End:
+            setCurrent(smallestCircle(packed_));
+            return true;
+        // A held key acts once: what it repeats is swallowed.
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (slice != nullptr && !repeated) model_->tap(*slice);
+            return true;
+        case Qt::Key_Space:
+            if (slice != nullptr && !repeated) model_->tick(*slice);
+            return true;
+        case Qt::Key_Backspace:
+            if (model_ != nullptr && !repeated) model_->leave();
+            return true;
+        default:
+            return false;
+    }
+}
+
+void BubblePicture::keyPressEvent(QKeyEvent* event) {
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool ours = plain && act(event->key(), event->isAutoRepeat());
+    if (ours) setByKey(true);
+    event->setAccepted(ours);
+}
+
+void BubblePicture::focusInEvent(QFocusEvent* event) {
+    const Qt::FocusReason reason = event->reason();
+    const bool kept = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+    if (!kept)
+        byKey_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+    tipFollowsKeys_ = byKey_;
+    Drawn::focusInEvent(event);
+    refresh();
+    emit visualFocusChanged();
+}
+
+void BubblePicture::focusOutEvent(QFocusEvent* event) {
+    Drawn::focusOutEvent(event);
+    refresh();
+    emit visualFocusChanged();
+}
+
+void BubblePicture::retip() {
+    const bool atKeys = visualFocus() && tipFollowsKeys_ && current_;
+    const std::optional<std::size_t> index = atKeys ? current_ : indexOf(hoveredID_);
+    const BubbleSlice* slice = index ? sliceAt(*index) : nullptr;
+    BubbleTip tip;
+    if (slice != nullptr) {
+        const PackedPoint middle = packed_[*index].center;
+        tip = BubbleTip::of(*slice, atKeys ? QPointF(middle.x, middle.y) : hoverPoint_, size(), look_.textScale);
+    }
+    if (tip == tip_) return;
+    tip_ = tip;
+    emit tipChanged();
+}
+
+}  // namespace zelk
+
+#include "moc_BubblePicture.cpp"

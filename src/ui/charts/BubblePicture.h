@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractItemModel>
+#include <QColor>
+#include <QPointer>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ui/charts/BubbleModel.h"
+#include "ui/charts/BubbleNodes.h"
+#include "ui/charts/BubbleTip.h"
+#include "ui/charts/BubbleWalk.h"
+#include "ui/controls/Drawn.h"
+
+namespace zelk {
+
+/// The bubble map of a BubbleModel: it lays the slices out, draws them, and answers to the pointer and the keys.
+/// BubbleChart is what a screen shows.
+///
+/// Bubbles move only when the map appears, when its size changes, when the ids of the slices change, and when the model
+/// is rebuilt; new bytes or colours under the same ids stay where they are. One bubble is the current one: the arrow
+/// keys go from it to the next in their direction, Home and End to the largest and the smallest; Enter taps it, the
+/// space bar ticks it, Backspace leaves the map. A click makes the bubble under it the current one.
+class BubblePicture : public zelk::Drawn {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(zelk::BubbleModel* model READ model WRITE setModel NOTIFY modelChanged FINAL REQUIRED)
+    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY lookChanged FINAL)
+    Q_PROPERTY(QColor accent READ accent WRITE setAccent NOTIFY lookChanged FINAL)
+    Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY lookChanged FINAL)
+    Q_PROPERTY(double textScale READ textScale WRITE setTextScale NOTIFY lookChanged FINAL)
+    Q_PROPERTY(bool visualFocus READ visualFocus NOTIFY visualFocusChanged FINAL)
+    Q_PROPERTY(bool empty READ isEmpty NOTIFY packedChanged FINAL)
+    Q_PROPERTY(QString currentName READ currentName NOTIFY currentChanged FINAL)
+    Q_PROPERTY(zelk::BubbleTip tip READ tip NOTIFY tipChanged FINAL)
+    Q_PROPERTY(QAbstractItemModel* nodes READ nodes CONSTANT FINAL)
+
+public:
+    explicit BubblePicture(QQuickItem* parent = nullptr);
+
+    BubbleModel* model() const { return model_; }
+    void setModel(BubbleModel* model);
+    bool dark() const { return look_.dark; }
+    void setDark(bool dark);
+    /// Of the line around the bubble that the keyboard is at, and of what it is set off with.
+    QColor accent() const { return accent_; }
+    void setAccent(const QColor& accent);
+    QColor ground() const { return ground_; }
+    void setGround(const QColor& ground);
+    double textScale() const { return look_.textScale; }
+    void setTextScale(double scale);
+
+    const std::vector<PackedCircle>& packed() const { return packed_; }
+    bool isEmpty() const { return packed_.empty(); }
+    const std::optional<std::string>& hoveredID() const { return hoveredID_; }
+    /// Where the pointer was last.
+    QPointF hoverPoint() const { return hoverPoint_; }
+    /// Whether the person goes by the keyboard, and it is here.
+    bool visualFocus() const { return byKey_ && hasActiveFocus(); }
+    /// The current bubble: an index of packed().
+    const std::optional<std::size_t>& current() const { return current_; }
+    /// As a screen reader says it; empty if there is none.
+    QString currentName() const;
+    /// Of the bubble under the pointer, or of the current one while the person goes by the keyboard.
+    const BubbleTip& tip() const { return tip_; }
+    QAbstractItemModel* nodes() { return &nodes_; }
+
+    /// A tap on a bubble by its place in the map, as a screen reader asks for it.
+    Q_INVOKABLE void tapNode(int index);
+
+signals:
+    void modelChanged();
+    void lookChanged();
+    void visualFocusChanged();
+    void packedChanged();
+    void currentChanged();
+    void tipChanged();
+
+protected:
+    void draw(Canvas& canvas) const override;
+    void componentComplete() override;
+    void geometryChange(const QRectF& now, const QRectF& before) override;
+    void hoverEnterEvent(QHoverEvent* event) override;
+    void hoverMoveEvent(QHoverEvent* event) override;
+    void hoverLeaveEvent(QHoverEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseUngrabEvent() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    const std::vector<BubbleSlice>& slices() const;
+    const BubbleSlice* sliceAt(std::size_t index) const;
+    const BubbleSlice* currentSlice() const;
+
+    void takeSlices();
+    void startOver();
+    void repack();
+    void refresh();
+    void hover(QPointF point);
+    void endHover();
+    void tapAt(QPointF point);
+    void setByKey(bool byKey);
+    void setCurrent(std::optional<std::size_t> current);
+    bool act(int key, bool repeated);
+    void walk(WalkDirection direction);
+    void retip();
+    void updateBubble(const std::optional<std::size_t>& index);
+    std::optional<std::size_t> indexOf(const std::optional<std::string>& id) const;
+
+    QPointer<BubbleModel> model_;
+    BubbleLook look_;
+    QColor accent_;
+    QColor ground_;
+    std::vector<PackedCircle> packed_;
+    std::string key_;  // of the slices
+    std::optional<std::string> hoveredID_;
+    QPointF hoverPoint_;
+    std::optional<QPointF> pressed_;
+    std::optional<std::size_t> current_;
+    bool byKey_ = false;
+    bool tipFollowsKeys_ = false;  // until the pointer moves
+    BubbleTip tip_;
+    BubbleNodes nodes_;
+};
+
+}  // namespace zelk

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// What is said of a bubble beside the pointer. It takes no clicks, and the bubble's node says the same.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Charts
+import Zelk.Controls
+
+Rectangle {
+    id: card
+
+    required property bubbleTip tip
+
+    readonly property real room: card.tip.widest - 2 * lines.x
+
+    x: card.tip.corner.x
+    y: card.tip.corner.y
+    width: lines.width + 2 * lines.x
+    height: lines.height + 2 * lines.y
+    visible: card.tip.shown
+    radius: 6
+    color: Qt.alpha(Theme.surfaceHi, 0.94)
+    border.width: 1
+    border.color: Theme.hairline
+
+    Column {
+        id: lines
+
+        x: 8
+        y: 8
+        spacing: 2
+
+        Words {
+            width: Math.min(implicitWidth, card.room)
+            text: card.tip.label
+            size: 12
+            mute: true
+        }
+
+        Words {
+            width: Math.min(implicitWidth, card.room)
+            text: card.tip.line
+            size: 11
+            font.weight: Font.Medium
+            font.family: Typeface.fixed
+            color: card.tip.reclaimable ? Theme.accent : Theme.ink
+            mute: true
+        }
+    }
+}

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "ui/charts/CirclePacking.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zelk {
+
+namespace {
+
+// Of the largest radius.
+constexpr double gapShare = 0.012;
+constexpr double stepShare = 0.03;
+constexpr double turnPerStep = 0.25;  // radians
+constexpr int mostCandidates = 40'000;
+constexpr double margin = 24;
+
+struct Circle {
+    double x = 0;
+    double y = 0;
+    double radius = 0;
+};
+
+/// Whether a circle fits among those that are placed. A candidate is most often refused by a neighbour of the last
+/// place, so those are asked first; the answer does not depend on the order.
+bool fits(const std::vector<Circle>& placed, double x, double y, double radius, double gap) {
+    return std::all_of(placed.rbegin(), placed.rend(), [&](const Circle& other) {
+        return gap + radius + other.radius <= std::hypot(x - other.x, y - other.y);
+    });
+}
+
+/// Along an Archimedean spiral from the middle. With no place on all of it the last candidate is taken.
+Circle placeAmong(const std::vector<Circle>& placed, double radius, double gap, double step) {
+    Circle circle{0, 0, radius};
+    double angle = 0;
+    double distance = step;
+    for (int candidate = 0; candidate < mostCandidates; ++candidate) {
+        circle.x = distance * std::cos(angle);
+        circle.y = distance * std::sin(angle);
+        if (fits(placed, circle.x, circle.y, radius, gap)) break;
+        distance += step;
+        angle += turnPerStep;
+    }
+    return circle;
+}
+
+std::vector<Circle> place(const std::vector<double>& radii) {
+    const double largest = *std::max_element(radii.begin(), radii.end());
+    std::vector<Circle> placed;
+    placed.reserve(radii.size());
+    for (const double radius : radii) {
+        placed.push_back(placed.empty() ? Circle{0, 0, radius}
+                                        : placeAmong(placed, radius, largest * gapShare, largest * stepShare));
+    }
+    return placed;
+}
+
+}  // namespace
+
+std::vector<PackedCircle> pack(const std::vector<PackItem>& items, double width, double height) {
+    std::vector<const PackItem*> weighted;
+    std::vector<double> radii;
+    for (const PackItem& item : items) {
+        if (item.bytes <= 0) continue;
+        weighted.push_back(&item);
+        radii.push_back(std::sqrt(static_cast<double>(item.bytes)));
+    }
+    if (weighted.empty() || !(width > 0) || !(height > 0)) return {};
+
+    const std::vector<Circle> circles = place(radii);
+    double minX = circles.front().x - circles.front().radius;
+    double minY = circles.front().y - circles.front().radius;
+    double maxX = circles.front().x + circles.front().radius;
+    double maxY = circles.front().y + circles.front().radius;
+    for (const Circle& circle : circles) {
+        minX = std::min(minX, circle.x - circle.radius);
+        minY = std::min(minY, circle.y - circle.radius);
+        maxX = std::max(maxX, circle.x + circle.radius);
+        maxY = std::max(maxY, circle.y + circle.radius);
+    }
+    const double boxWidth = std::max(maxX - minX, 1.0);
+    const double boxHeight = std::max(maxY - minY, 1.0);
+    const double scale = std::min((height - 2 * margin) / boxHeight, (width - 2 * margin) / boxWidth);
+    const double left = (width - boxWidth * scale) * 0.5 - minX * scale;
+    const double top = (height - boxHeight * scale) * 0.5 - minY * scale;
+
+    std::vector<PackedCircle> packed;
+    packed.reserve(circles.size());
+    for (std::size_t at = 0; at < circles.size(); ++at) {
+        const Circle& circle = circles[at];
+        packed.push_back({weighted[at]->id, {left + scale * circle.x, top + scale * circle.y}, scale * circle.radius});
+    }
+    return packed;
+}
+
+std::optional<std::size_t> hitTest(const std::vector<PackedCircle>& circles, PackedPoint point) {
+    std::optional<std::size_t> hit;
+    for (std::size_t at = 0; at < circles.size(); ++at) {
+        const PackedCircle& circle = circles[at];
+        const bool inside = std::hypot(point.x - circle.center.x, point.y - circle.center.y) <= circle.radius;
+        if (inside && (!hit || circle.radius < circles[*hit].radius)) hit = at;
+    }
+    return hit;
+}
+
+}  // namespace zelk

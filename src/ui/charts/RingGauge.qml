@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// A share as a ring, with its figure and name inside and a line under it.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Charts
+import Zelk.Controls
+
+Column {
+    id: gauge
+
+    // 0 to 1, from empty to full.
+    required property real value
+    required property string center
+    required property string caption
+    required property color color
+    required property string detail
+
+    spacing: 8
+
+    RingPicture {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: 108
+        height: 108
+        value: gauge.value
+        color: gauge.color
+        track: Theme.hairline
+        still: Motion.reduced
+
+        Column {
+            id: inside
+
+            // Larger texts than the ring has room for shrink to what it has.
+            readonly property real room: 80
+
+            anchors.centerIn: parent
+            scale: Math.min(1, inside.room / Math.max(figure.implicitWidth, name.implicitWidth, 1))
+
+            CountingText {
+                id: figure
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: gauge.center
+                pixelSize: 22
+            }
+
+            Words {
+                id: name
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: gauge.caption
+                size: 10
+                soft: true
+            }
+        }
+    }
+
+    Words {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(implicitWidth, Math.max(gauge.width, 108))
+        text: gauge.detail
+        size: 10
+        soft: true
+        visible: gauge.detail !== ""
+    }
+}

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+// The one big round button. All its layers are painted once; what moves is a whole layer.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Charts
+import Zelk.Controls
+
+BaseButton {
+    id: button
+
+    required property scanFace idleFace
+    required property scanFace scanningFace
+    required property scanFace finishedFace
+    required property bool idle
+    required property bool scanning
+    required property bool finished
+
+    implicitWidth: glow.implicitWidth
+    implicitHeight: glow.implicitHeight
+    containmentMask: glow
+
+    ScanButtonLayer {
+        id: glow
+
+        anchors.centerIn: parent
+        kind: ScanButtonLayer.Glow
+        color: Theme.accent
+        scale: button.hovered && !button.scanning ? 1.05 : 1
+        Behavior on scale {
+            NumberAnimation {
+                duration: Motion.gentle
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+
+    ScanButtonLayer {
+        id: comet
+
+        objectName: "comet"
+        anchors.centerIn: parent
+        kind: ScanButtonLayer.Comet
+        color: Theme.accent
+        opacity: button.scanning ? 1 : 0
+        visible: opacity > 0
+        Behavior on opacity {
+            NumberAnimation {
+                duration: Motion.gentle
+            }
+        }
+
+        RotationAnimator on rotation {
+            from: 0
+            to: 360
+            duration: Motion.turn
+            loops: Animation.Infinite
+            running: comet.visible && !Motion.reduced
+        }
+    }
+
+    Item {
+        anchors.fill: parent
+        scale: button.down && !button.scanning ? 0.97 : 1
+        Behavior on scale {
+            NumberAnimation {
+                duration: Motion.quick
+            }
+        }
+
+        ScanButtonLayer {
+            id: disc
+
+            anchors.centerIn: parent
+            kind: ScanButtonLayer.Disc
+        }
+
+        ScanButtonLayer {
+            anchors.centerIn: parent
+            kind: ScanButtonLayer.Sheen
+            opacity: button.hovered && !button.scanning ? 1 : 0
+            Behavior on opacity {
+                NumberAnimation {
+                    duration: Motion.quick
+                }
+            }
+        }
+
+        ScanButtonFace {
+            face: button.idleFace
+            shown: button.idle
+        }
+        ScanButtonFace {
+            face: button.scanningFace
+            shown: button.scanning
+        }
+        ScanButtonFace {
+            face: button.finishedFace
+            shown: button.finished
+        }
+    }
+
+    Item {
+        anchors.centerIn: parent
+        width: disc.width
+        height: disc.height
+
+        FocusRing {
+            shown: button.visualFocus
+            corner: disc.height / 2
+        }
+    }
+}

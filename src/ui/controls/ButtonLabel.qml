@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// What stands on a button: a symbol, if there is one, and its word, in the middle and shortened where there is no room.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+Item {
+    id: label
+
+    required property string text
+    required property color color
+    property string symbol: ""
+    property color symbolColor: label.color
+    property real size: 12
+    property int weight: Font.Medium
+    property bool underlined: false
+
+    readonly property real symbolRoom: label.symbol === "" ? 0 : picture.width + (label.text === "" ? 0 : 8)
+
+    implicitWidth: word.implicitWidth + label.symbolRoom
+    implicitHeight: Math.max(word.implicitHeight, label.symbol === "" ? 0 : picture.height)
+
+    Row {
+        anchors.centerIn: parent
+        spacing: 8
+
+        TextSymbol {
+            id: picture
+
+            anchors.verticalCenter: parent.verticalCenter
+            visible: label.symbol !== ""
+            name: label.symbol
+            color: label.symbolColor
+            points: label.size * TextScale.factor
+        }
+
+        Words {
+            id: word
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, Math.max(0, label.width - label.symbolRoom))
+            text: label.text
+            size: label.size
+            color: label.color
+            font.weight: label.weight
+            font.underline: label.underlined
+            mute: true
+            visible: label.text !== ""
+        }
+    }
+}

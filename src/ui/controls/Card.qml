@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// A panel that holds what belongs together. One child gives it its size; several give it the room that they take.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Controls
+
+T.Pane {
+    id: card
+
+    padding: 18
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: inside + topPadding + bottomPadding
+
+    readonly property real inside: contentChildren.length === 1 ? implicitContentHeight : contentItem.childrenRect.height
+
+    background: Rectangle {
+        radius: 16
+        color: Theme.surface
+        border.width: 1
+        border.color: Theme.hairline
+    }
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// A hairline across, or down.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+Rectangle {
+    property bool vertical: false
+
+    implicitWidth: 1
+    implicitHeight: 1
+    color: Theme.hairline
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// The heading of a section.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+Words {
+    size: 10
+    soft: true
+    font.weight: Font.DemiBold
+    font.letterSpacing: 1.2 * TextScale.factor
+    font.capitalization: Font.AllUppercase
+}

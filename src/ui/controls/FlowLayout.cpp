@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/FlowLayout.h"
+
+#include <algorithm>
+
+namespace zelk {
+
+FlowPlacement flowLayout(const std::vector<QSizeF>& sizes, double spacing, double width) {
+    FlowPlacement placement;
+    double x = 0;
+    double y = 0;
+    double rowHeight = 0;
+    for (const QSizeF& size : sizes) {
+        if (x + size.width() > width) {
+            y += rowHeight + spacing;
+            x = 0;
+            rowHeight = 0;
+        }
+        placement.positions.emplace_back(x, y);
+        x += size.width() + spacing;
+        rowHeight = std::max(rowHeight, size.height());
+    }
+    placement.height = y + rowHeight;
+    return placement;
+}
+
+double flowIdealWidth(const std::vector<QSizeF>& sizes, double spacing) {
+    // Added up in the order of flowLayout: a row that is exactly this wide must not wrap for a rounding.
+    double x = 0;
+    double width = 0;
+    for (const QSizeF& size : sizes) {
+        width = x + size.width();
+        x += size.width() + spacing;
+    }
+    return width;
+}
+
+}  // namespace zelk

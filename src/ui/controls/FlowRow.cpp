@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/FlowRow.h"
+
+#include "ui/controls/FlowLayout.h"
+
+namespace zelk {
+
+namespace {
+
+std::vector<QSizeF> sizesOf(const std::vector<QQuickItem*>& items) {
+    std::vector<QSizeF> sizes;
+    sizes.reserve(static_cast<std::size_t>(items.size()));
+    for (const QQuickItem* item : items) sizes.emplace_back(item->width(), item->height());
+    return sizes;
+}
+
+}  // namespace
+
+FlowRow::FlowRow(QQuickItem* parent) : QQuickItem(parent) {}
+
+void FlowRow::setSpacing(qreal spacing) {
+    if (spacing == spacing_) return;
+    spacing_ = spacing;
+    measure();
+    emit spacingChanged();
+}
+
+std::vector<QQuickItem*> FlowRow::placedChildren() const {
+    std::vector<QQuickItem*> placed;
+    for (QQuickItem* child : childItems())
+        if (child->isVisible() && child->width() > 0 && child->height() > 0) placed.push_back(child);
+    return placed;
+}
+
+/// The implicit size at once, so that what lies around the row is laid out in the same frame; the children at polish.
+void FlowRow::measure() {
+    if (!isComponentComplete()) return;
+    const std::vector<QSizeF> sizes = sizesOf(placedChildren());
+    setImplicitWidth(flowIdealWidth(sizes, spacing_));
+    setImplicitHeight(flowLayout(sizes, spacing_, width()).height);
+    polish();
+}
+
+void FlowRow::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemChildAddedChange) {
+        connect(data.item, &QQuickItem::widthChanged, this, &FlowRow::measure);
+        connect(data.item, &QQuickItem::heightChanged, this, &FlowRow::measure);
+        connect(data.item, &QQuickItem::visibleChanged, this, &FlowRow::measure);
+        measure();
+    } else if (change == ItemChildRemovedChange) {
+        disconnect(data.item, nullptr, this, nullptr);
+        measure();
+    }
+    QQuickItem::itemChange(change, data);
+}
+
+void FlowRow::geometryChange(const QRectF& now, const QRectF& before) {
+    QQuickItem::geometryChange(now, before);
+    if (now.width() != before.width()) measure();
+}
+
+void FlowRow::componentComplete() {
+    QQuickItem::componentComplete();
+    measure();
+}
+
+void FlowRow::updatePolish() {
+    const std::vector<QQuickItem*> placed = placedChildren();
+    const FlowPlacement placement = flowLayout(sizesOf(placed), spacing_, width());
+    for (std::size_t i = 0; i < placed.size(); ++i) placed[i]->setPosition(placement.positions[i]);
+}
+
+}  // namespace zelk
+
+#include "moc_FlowRow.cpp"

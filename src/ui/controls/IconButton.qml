@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// A symbol that is pressed; its name is said, and its help stands beside it under the pointer or the keyboard.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+BaseButton {
+    id: button
+
+    required property string symbol
+    property string help: ""
+    property color tint: Theme.inkSoft
+    property real size: 14
+    property real side: 30
+
+    readonly property real corner: 8
+
+    implicitWidth: Math.round(button.side * TextScale.factor)
+    implicitHeight: Math.round(button.side * TextScale.factor)
+    opacity: button.enabled ? 1 : 0.45
+
+    Accessible.description: button.help
+
+    background: Wash {
+        radius: button.corner
+        control: button
+
+        FocusRing {
+            shown: button.visualFocus
+            corner: button.corner
+        }
+    }
+
+    contentItem: Item {
+        SymbolItem {
+            anchors.centerIn: parent
+            name: button.symbol
+            color: button.hovered && button.enabled ? Theme.ink : button.tint
+            size: Math.round(button.size * TextScale.factor)
+        }
+    }
+
+    HelpTip {
+        text: button.help
+        control: button
+    }
+}

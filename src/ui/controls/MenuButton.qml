@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// A word that opens a menu under it. Its rows are its children.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Controls
+
+BaseButton {
+    id: button
+
+    // What the word means, where it stands beside it.
+    property string said: ""
+    property real size: 11
+    default property alias rows: panel.contentData
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    horizontalPadding: 8
+    verticalPadding: 4
+    opacity: button.enabled ? 1 : 0.45
+
+    Accessible.name: Spoken.joined([button.said, button.text])
+    Accessible.role: Accessible.ButtonMenu
+
+    onClicked: panel.visible ? panel.close() : panel.popup(button, 0, button.height + 4)
+    Keys.onDownPressed: button.clicked()
+
+    background: Wash {
+        radius: 6
+        control: button
+
+        FocusRing {
+            shown: button.visualFocus
+            corner: 6
+        }
+    }
+
+    contentItem: Row {
+        spacing: 6
+
+        Words {
+            anchors.verticalCenter: parent.verticalCenter
+            text: button.text
+            size: button.size
+            font.weight: Font.Medium
+            mute: true
+        }
+
+        SymbolItem {
+            anchors.verticalCenter: parent.verticalCenter
+            name: "chevron.down"
+            color: Theme.inkSoft
+            size: Math.round(9 * TextScale.factor)
+        }
+    }
+
+    MenuPanel {
+        id: panel
+
+        // A press on the button is the button's own: it closes what it opened.
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+    }
+
+    PopupHome {
+        home: button
+        popup: panel
+    }
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+// A menu of rows.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Controls
+
+T.Menu {
+    id: panel
+
+    // Of its rows as they would be by themselves: here they are all as wide as the menu.
+    readonly property real widest: {
+        let most = 0;
+        for (let i = 0; i < panel.count; ++i)
+            most = Math.max(most, panel.itemAt(i)?.implicitWidth ?? 0);
+        return most;
+    }
+
+    implicitWidth: Math.max(160, panel.widest + leftPadding + rightPadding)
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    padding: 5
+    margins: 8
+    overlap: 1
+
+    delegate: MenuRow {}
+
+    enter: Transition {
+        NumberAnimation {
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Motion.quick
+        }
+    }
+
+    background: Rectangle {
+        radius: 10
+        color: Theme.surfaceHi
+        border.width: 1
+        border.color: Theme.hairline
+    }
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: panel.contentModel
+        interactive: Window.window ? contentHeight + panel.topPadding + panel.bottomPadding > Window.window.height : false
+        clip: true
+        currentIndex: panel.currentIndex
+
+        T.ScrollBar.vertical: ThinScrollBar {}
+    }
+}

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// A small capsule that leads to a module, or is one of a few choices.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+BaseButton {
+    id: pill
+
+    required property string symbol
+    required property color tint
+    // The choice that holds.
+    property bool chosen: false
+    property real least: 36
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(pill.least, implicitContentHeight + topPadding + bottomPadding)
+    leftPadding: 14
+    rightPadding: 16
+    verticalPadding: 8
+
+    opacity: pill.enabled ? 1 : 0.45
+    scale: pill.down ? 0.97 : 1
+    Behavior on scale {
+        NumberAnimation {
+            duration: Motion.quick
+        }
+    }
+
+    background: Rectangle {
+        radius: height / 2
+        color: pill.chosen ? Qt.tint(Theme.surface, Qt.alpha(pill.tint, 0.2)) : Theme.surface
+        border.width: 1
+        border.color: pill.chosen ? Qt.alpha(pill.tint, 0.7) : Theme.hairline
+
+        Wash {
+            anchors.fill: parent
+            radius: height / 2
+            control: pill
+        }
+
+        FocusRing {
+            shown: pill.visualFocus
+            corner: pill.height / 2
+        }
+    }
+
+    contentItem: ButtonLabel {
+        text: pill.text
+        symbol: pill.symbol
+        symbolColor: pill.tint
+        color: Theme.ink
+    }
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// A value on a line, moved by the pointer, the wheel and the arrow keys.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Controls
+
+T.Slider {
+    id: slider
+
+    // What it sets, and its value in words.
+    required property string label
+    required property string valueText
+
+    implicitWidth: 240
+    implicitHeight: 28
+    focusPolicy: Qt.StrongFocus
+    snapMode: T.Slider.SnapAlways
+    hoverEnabled: true
+    wheelEnabled: true
+    opacity: slider.enabled ? 1 : 0.45
+
+    Accessible.name: slider.label
+    Accessible.description: slider.valueText
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    background: Item {
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            x: slider.leftPadding
+            width: slider.availableWidth
+            height: 4
+            radius: 2
+            color: Theme.surfaceHi
+            border.width: 1
+            border.color: Theme.hairline
+
+            Rectangle {
+                width: slider.visualPosition * parent.width
+                height: parent.height
+                radius: 2
+                color: Theme.accent
+            }
+        }
+    }
+
+    handle: Rectangle {
+        x: slider.leftPadding + slider.visualPosition * (slider.availableWidth - width)
+        y: slider.topPadding + (slider.availableHeight - height) / 2
+        implicitWidth: 18
+        implicitHeight: 18
+        radius: 9
+        color: slider.pressed || slider.hovered ? Theme.accentSoft : Theme.accent
+        border.width: 2
+        border.color: Theme.ground
+
+        FocusRing {
+            shown: slider.visualFocus
+            corner: 9
+        }
+    }
+}

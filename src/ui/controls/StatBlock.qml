@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// A figure under its name.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+Column {
+    id: block
+
+    required property string label
+    required property string value
+    property bool accent: false
+
+    spacing: 4
+
+    Words {
+        text: block.label
+        size: 11
+        soft: true
+    }
+
+    CountingText {
+        text: block.value
+        pixelSize: 18
+        bold: true
+        color: block.accent ? Theme.accent : Theme.ink
+    }
+}

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+// A number with its name before it and a button at either side; the arrow keys step it too.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Controls
+
+T.SpinBox {
+    id: stepper
+
+    required property string label
+    property alias step: stepper.stepSize
+    // How the number is written, where it is more than a number.
+    property string valueText: stepper.displayText
+    property real size: 12
+
+    signal moved(int value)
+
+    // What its face measures. (An id of the face would make the template build it at once.)
+    property real nameWidth: 0
+    property real numberWidth: 0
+
+    readonly property int corner: 8
+    readonly property real buttonSide: Math.round(26 * TextScale.factor)
+    readonly property real boxWidth: 2 * stepper.buttonSide + Math.max(36 * TextScale.factor, stepper.numberWidth + 16)
+
+    implicitWidth: Math.ceil(stepper.nameWidth + 12 + stepper.boxWidth)
+    implicitHeight: Math.max(stepper.buttonSide + 4, implicitContentHeight)
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    opacity: stepper.enabled ? 1 : 0.45
+
+    Accessible.name: stepper.label
+    onValueModified: stepper.moved(stepper.value)
+    // The template makes its face a stop of its own for the Tab key, which no key works on and nobody could name.
+    Component.onCompleted: contentItem.activeFocusOnTab = false
+
+    component StepFace: Item {
+        id: stepButton
+
+        required property string symbol
+        required property bool down
+        required property bool hovered
+
+        // There is no further step.
+        opacity: stepButton.enabled ? 1 : 0.35
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 2
+            radius: 6
+            color: stepButton.down ? Theme.pressWash : stepButton.hovered && stepButton.enabled ? Theme.hoverWash : "transparent"
+        }
+
+        SymbolItem {
+            anchors.centerIn: parent
+            name: stepButton.symbol
+            color: Theme.ink
+            size: Math.round(10 * TextScale.factor)
+        }
+    }
+
+    down.indicator: StepFace {
+        x: stepper.width - stepper.boxWidth
+        y: Math.round((stepper.height - height) / 2)
+        width: stepper.buttonSide
+        height: stepper.buttonSide
+        enabled: stepper.value > stepper.from
+        symbol: "minus"
+        down: stepper.down.pressed
+        hovered: stepper.down.hovered
+    }
+
+    up.indicator: StepFace {
+        x: stepper.width - width
+        y: Math.round((stepper.height - height) / 2)
+        width: stepper.buttonSide
+        height: stepper.buttonSide
+        enabled: stepper.value < stepper.to
+        symbol: "plus"
+        down: stepper.up.pressed
+        hovered: stepper.up.hovered
+    }
+
+    background: Item {
+        Rectangle {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            width: stepper.boxWidth
+            height: stepper.buttonSide
+            radius: stepper.corner
+            color: Theme.surfaceHi
+            border.width: 1
+            border.color: Theme.hairline
+
+            FocusRing {
+                shown: stepper.visualFocus
+                corner: stepper.corner
+            }
+        }
+    }
+
+    contentItem: StepperFace {
+        label: stepper.label
+        number: stepper.valueText
+        size: stepper.size
+        boxWidth: stepper.boxWidth
+        onNameWidthChanged: stepper.nameWidth = nameWidth
+        onNumberWidthChanged: stepper.numberWidth = numberWidth
+    }
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// A switch with its word before it.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Controls
+
+T.Switch {
+    id: toggle
+
+    required text
+    // Whether the word is written beside it; it is always said.
+    property bool labelled: true
+    property real size: 12
+    property bool soft: false
+
+    // The word keeps the room of the indicator free at its right.
+    implicitWidth: (toggle.labelled ? implicitContentWidth : indicator.implicitWidth) + leftPadding + rightPadding
+    implicitHeight: Math.max(indicator.implicitHeight, toggle.labelled ? implicitContentHeight : 0) + topPadding + bottomPadding
+    spacing: 12
+    verticalPadding: 4
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    opacity: toggle.enabled ? 1 : 0.45
+
+    Accessible.name: toggle.text
+    Accessible.checkable: true
+    Accessible.checked: toggle.checked
+    Accessible.onPressAction: toggle.flip(false)
+    Accessible.onToggleAction: toggle.flip(false)
+
+    // As a finger does it, and once for a key that is held.
+    function flip(again: bool) {
+        if (again || !toggle.enabled)
+            return;
+        toggle.toggle();
+        toggle.toggled();
+        toggle.clicked();
+    }
+
+    Keys.onSpacePressed: event => event.accepted = event.isAutoRepeat
+    Keys.onReleased: event => event.accepted = event.isAutoRepeat
+    Keys.onReturnPressed: event => toggle.flip(event.isAutoRepeat)
+    Keys.onEnterPressed: event => toggle.flip(event.isAutoRepeat)
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    indicator: Rectangle {
+        x: toggle.width - width - toggle.rightPadding
+        y: Math.round((toggle.height - height) / 2)
+        implicitWidth: 34
+        implicitHeight: 20
+        radius: height / 2
+        color: toggle.checked ? Theme.accent : Theme.surfaceHi
+        border.width: toggle.checked ? 0 : 1
+        border.color: toggle.hovered ? Theme.inkSoft : Qt.alpha(Theme.inkSoft, 0.6)
+        Behavior on color {
+            ColorAnimation {
+                duration: Motion.quick
+            }
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: height / 2
+            color: toggle.down ? Theme.pressWash : toggle.hovered && toggle.enabled ? Theme.hoverWash : "transparent"
+        }
+
+        Rectangle {
+            readonly property real inset: 3
+
+            x: toggle.checked ? parent.width - width - inset : inset
+            anchors.verticalCenter: parent.verticalCenter
+            width: 14
+            height: 14
+            radius: 7
+            color: toggle.checked ? "white" : Theme.inkSoft
+            Behavior on x {
+                NumberAnimation {
+                    duration: Motion.quick
+                    easing.type: Easing.OutCubic
+                }
+            }
+        }
+
+        FocusRing {
+            shown: toggle.visualFocus
+            corner: parent.height / 2
+        }
+    }
+
+    contentItem: Words {
+        rightPadding: toggle.indicator.width + toggle.spacing
+        text: toggle.text
+        size: toggle.size
+        soft: toggle.soft
+        mute: true
+        visible: toggle.labelled
+        verticalAlignment: Text.AlignVCenter
+    }
+}

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+// The list of the heaviest files under its head, and the one menu of all its rows. Enter and the menu key open the menu
+// of the current row, the Delete key moves its file to the Trash.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+FocusScope {
+    id: files
+
+    required property ClutterScreenModel clutter
+
+    ClutterHead {
+        id: head
+
+        width: parent.width
+        clutter: files.clutter
+    }
+
+    Divider {
+        id: rule
+
+        anchors.top: head.bottom
+        width: parent.width
+    }
+
+    RowList {
+        id: list
+
+        objectName: "clutterList"
+        anchors.top: rule.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        topMargin: 8
+        bottomMargin: 16
+        focus: true
+        name: files.clutter.rowsName
+        model: files.clutter.rows
+
+        function openMenu(row: int, at: point) {
+            files.clutter.pick(row);
+            menu.popup(list, at.x, at.y);
+        }
+
+        // Of the row, which must be in sight for it.
+        signal menuOfCurrentWanted
+
+        function openMenuByKey() {
+            list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+            list.byKey = true;
+            list.menuOfCurrentWanted();
+            menu.currentIndex = 0;
+        }
+
+        Keys.onReturnPressed: event => {
+            if (!event.isAutoRepeat)
+                list.openMenuByKey();
+        }
+        Keys.onEnterPressed: event => {
+            if (!event.isAutoRepeat)
+                list.openMenuByKey();
+        }
+        Keys.onMenuPressed: event => {
+            if (!event.isAutoRepeat)
+                list.openMenuByKey();
+        }
+        // A held key takes one file away and not all that move up.
+        Keys.onDeletePressed: event => {
+            if (event.isAutoRepeat)
+                return;
+            list.byKey = true;
+            files.clutter.pick(list.currentIndex);
+            files.clutter.moveToTrash();
+        }
+
+        delegate: ClutterRow {
+            id: fileRow
+
+            ringed: list.ringed && ListView.isCurrentItem
+            onTaken: list.take(index)
+            onAsked: at => list.openMenu(index, mapToItem(list, at))
+
+            Connections {
+                target: list
+                enabled: fileRow.ListView.isCurrentItem
+                function onMenuOfCurrentWanted() {
+                    fileRow.asked(fileRow.menuPlace);
+                }
+            }
+        }
+
+        Connections {
+            target: files.clutter
+            function onRearranged() {
+                list.forceLayout();
+                list.currentIndex = Math.min(0, list.count - 1);
+                list.contentY = list.originY - list.topMargin;
+            }
+        }
+    }
+
+    // The list lets go of what it does not know.
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier && list.activeFocus;
+        if (event.accepted)
+            list.openMenuByKey();
+    }
+
+    FileMenu {
+        id: menu
+
+        clutter: files.clutter
+    }
+
+    PopupHome {
+        home: list
+        popup: menu
+    }
+}

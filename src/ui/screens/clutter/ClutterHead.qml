@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+// Over the list: what it is, its order, and the types that it can be narrowed to.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Item {
+    id: head
+
+    required property ClutterScreenModel clutter
+
+    implicitHeight: column.implicitHeight + 2 * 20
+
+    Column {
+        id: column
+
+        x: 26
+        y: 20
+        width: head.width - 2 * 26
+        spacing: 8
+
+        Item {
+            width: parent.width
+            implicitHeight: Math.max(texts.implicitHeight, order.implicitHeight)
+
+            Column {
+                id: texts
+
+                anchors.left: parent.left
+                anchors.right: order.left
+                anchors.rightMargin: 20
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 2
+
+                Words {
+                    width: parent.width
+                    text: head.clutter.heading
+                    size: 26
+                    font.weight: Font.DemiBold
+                    Accessible.role: Accessible.Heading
+                }
+
+                Words {
+                    width: parent.width
+                    text: head.clutter.line
+                    size: 11
+                    soft: true
+                }
+            }
+
+            SegmentedPicker {
+                id: order
+
+                objectName: "orderPicker"
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                label: head.clutter.orderLabel
+                options: head.clutter.orders
+                current: head.clutter.order
+                onPicked: index => head.clutter.sort(index)
+            }
+        }
+
+        TypePillRow {
+            width: parent.width
+            clutter: head.clutter
+        }
+    }
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// What a survey found: no large file, or the list of them, which is built when there is one, and kept.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+FocusScope {
+    id: results
+
+    focus: true
+
+    // Given by the scaffold.
+    property ClutterScreenModel module: null
+
+    readonly property bool nothing: results.module?.nothing ?? true
+
+    function build() {
+        if (!results.nothing && files.status === Loader.Null)
+            files.setSource("ClutterFiles.qml", {
+                clutter: results.module
+            });
+    }
+
+    onNothingChanged: results.build()
+    Component.onCompleted: results.build()
+
+    EmptyState {
+        anchors.fill: parent
+        visible: results.nothing
+        symbol: results.module?.nothingSymbol ?? ""
+        title: results.module?.nothingTitle ?? ""
+        note: results.module?.nothingNote ?? ""
+    }
+
+    Loader {
+        id: files
+
+        anchors.fill: parent
+        visible: !results.nothing
+        enabled: visible
+        focus: true
+        onLoaded: files.item.focus = true
+    }
+}

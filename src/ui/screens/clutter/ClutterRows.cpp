@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/clutter/ClutterRows.h"
+
+#include <string_view>
+#include <utility>
+
+#include "ui/controls/Spoken.h"
+#include "ui/screens/clutter/AgeText.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/FileTypeLook.h"
+
+namespace zelk {
+
+void ClutterRows::show(std::vector<LargeFile> files, TimePoint now) {
+    edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
+    // What stayed may have another size than in the survey before, and all have another age.
+    now_ = now;
+    if (!files_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {ageRole, sizeRole, spokenRole});
+}
+
+void ClutterRows::setTheme(const ZelkTheme& theme) {
+    theme_ = &theme;
+    if (!files_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tintRole});
+}
+
+std::string ClutterRows::pathAt(int row) const {
+    return row < 0 || row >= rowCount() ? std::string() : files_[static_cast<std::size_t>(row)].path;
+}
+
+int ClutterRows::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(files_.size());
+}
+
+QVariant ClutterRows::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const LargeFile& file = files_[static_cast<std::size_t>(index.row())];
+    switch (role) {
+        case symbolRole:
+            return lookOf(file.type, *theme_).symbol;
+        case tintRole:
+            return lookOf(file.type, *theme_).color;
+        case Qt::DisplayRole:
+        case nameRole:
+            return nameText(file.path);
+        case folderRole:
+            return folderText(file.path);
+        case ageRole:
+            return ageText(file.modified, now_);
+        case sizeRole:
+            return byteFigure(file.size);
+        case spokenRole:
+            return Spoken::joined(
+                {nameText(file.path), folderText(file.path), ageText(file.modified, now_), byteFigure(file.size)});
+        case actionsRole:
+            return QStringLiteral("Actions for %1").arg(nameText(file.path));
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> ClutterRows::roleNames() const {
+    return {{symbolRole, "symbol"}, {tintRole, "tint"}, {nameRole, "name"},     {folderRole, "folder"},
+            {ageRole, "age"},       {sizeRole, "size"}, {spokenRole, "spoken"}, {actionsRole, "actions"}};
+}
+
+}  // namespace zelk
+
+#include "moc_ClutterRows.cpp"

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/clutter/ClutterScreenModel.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "state/AppModel.h"
+
+namespace zelk {
+
+namespace {
+
+ModuleTexts texts() {
+    ModuleTexts texts;
+    texts.title = QStringLiteral("Clutter");
+    texts.subtitle =
+        QStringLiteral("Find your largest and oldest files — videos, downloads, disk images, forgotten archives.");
+    texts.scanLabel = QStringLiteral("Find large files");
+    texts.scanningLabel = QStringLiteral("Hunting for heavy files…");
+    return texts;
+}
+
+}  // namespace
+
+ClutterScreenModel::ClutterScreenModel(AppModel& app) : SurveyedModule(app, Screen::clutter, texts()), app_(app) {
+    connect(&app, &AppModel::insightsChanged, this, &ClutterScreenModel::refresh);
+    connect(this, &ModuleScreenModel::phaseChanged, this, &ClutterScreenModel::refresh);
+    refresh();
+}
+
+void ClutterScreenModel::setDark(bool dark) {
+    if (dark == dark_) return;
+    dark_ = dark;
+    const ZelkTheme& theme = dark ? ZelkTheme::dark() : ZelkTheme::light();
+    pills_.setTheme(theme);
+    rows_.setTheme(theme);
+    emit darkChanged();
+}
+
+void ClutterScreenModel::setOnScreen(bool onScreen) {
+    if (onScreen == onScreen_) return;
+    onScreen_ = onScreen;
+    if (onScreen) refresh();
+    emit onScreenChanged();
+}
+
+QString ClutterScreenModel::nothingTitle() const {
+    return QStringLiteral("Nothing heavy");
+}
+QString ClutterScreenModel::nothingSymbol() const {
+    return QStringLiteral("tray");
+}
+QString ClutterScreenModel::nothingNote() const {
+    return QStringLiteral("No large files turned up in this survey.");
+}
+QString ClutterScreenModel::heading() const {
+    return QStringLiteral("Clutter");
+}
+QString ClutterScreenModel::line() const {
+    return QStringLiteral("the heaviest files in your survey");
+}
+QString ClutterScreenModel::orderLabel() const {
+    return QStringLiteral("Order");
+}
+QStringList ClutterScreenModel::orders() const {
+    return {QStringLiteral("Largest"), QStringLiteral("Oldest")};
+}
+QString ClutterScreenModel::pillsName() const {
+    return QStringLiteral("Type of files");
+}
+QString ClutterScreenModel::rowsName() const {
+    return QStringLiteral("Files");
+}
+QString ClutterScreenModel::revealLabel() const {
+    return QStringLiteral("Reveal in Finder");
+}
+QString ClutterScreenModel::trashLabel() const {
+    return QStringLiteral("Move to Trash");
+}
+
+void ClutterScreenModel::sort(int order) {
+    const bool byAge = order == 1;
+    if (byAge == sortByAge_) return;
+    sortByAge_ = byAge;
+    refresh();
+    emit orderChanged();
+    emit rearranged();
+}
+
+void ClutterScreenModel::filter(int pill) {
+    if (pill < 0 || pill >= pills_.rowCount()) return;
+    const TypePills::Filter filter = pills_.filterAt(pill);
+    if (filter == typeFilter()) return;
+    pills_.choose(filter);
+    refresh();
+    emit rearranged();
+}
+
+void ClutterScreenModel::pick(int row) {
+    picked_ = rows_.pathAt(row);
+}
+
+void ClutterScreenModel::reveal() {
+    if (!picked_.empty()) app_.workspace().reveal({picked_});
+}
+
+void ClutterScreenModel::moveToTrash() {
+    if (!picked_.empty()) app_.trashLargeFile(picked_);
+}
+
+/// Of a survey under way nothing is known yet.
+void ClutterScreenModel::refresh() {
+    if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
+    std::vector<FileType> types;
+    for (const auto& [type, tally] : app_.sortedTypeTotals()) types.push_back(type);
+    pills_.show(types);
+    rows_.show(shownFiles(), app_.platform().clock.now());
+    if (std::exchange(nothing_, app_.insights().topFiles.empty()) != nothing_) emit nothingChanged();
+}
+
+std::vector<LargeFile> ClutterScreenModel::shownFiles() const {
+    std::vector<LargeFile> files = app_.insights().topFiles;
+    if (const TypePills::Filter& type = typeFilter())
+        std::erase_if(files, [&](const LargeFile& file) { return file.type != *type; });
+    if (sortByAge_)
+        std::stable_sort(files.begin(), files.end(),
+                         [](const LargeFile& a, const LargeFile& b) { return a.modified < b.modified; });
+    else
+        std::stable_sort(files.begin(), files.end(),
+                         [](const LargeFile& a, const LargeFile& b) { return a.size > b.size; });
+    return files;
+}
+
+}  // namespace zelk
+
+#include "moc_ClutterScreenModel.cpp"

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// What can be done to a file.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.App
+import Zelk.Controls
+
+MenuPanel {
+    id: fileMenu
+
+    required property ClutterScreenModel clutter
+
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+
+    MenuRow {
+        objectName: "revealFile"
+        text: fileMenu.clutter.revealLabel
+        symbol: "folder"
+        onTriggered: fileMenu.clutter.reveal()
+    }
+
+    MenuRow {
+        objectName: "trashFile"
+        text: fileMenu.clutter.trashLabel
+        symbol: "trash"
+        alarming: true
+        onTriggered: fileMenu.clutter.moveToTrash()
+    }
+}

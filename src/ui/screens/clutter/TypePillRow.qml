@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// One of the types of files, or all. The Tab key comes to the chosen one; the arrow keys choose its neighbours.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.App
+import Zelk.Controls
+
+FocusScope {
+    id: choice
+
+    required property ClutterScreenModel clutter
+
+    implicitHeight: flow.implicitHeight
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: choice.clutter.pillsName
+
+    function choose(row: int) {
+        const next = pills.itemAt(row) as T.AbstractButton;
+        if (!next)
+            return;
+        next.forceActiveFocus(Qt.TabFocusReason);
+        choice.clutter.filter(row);
+    }
+
+    FlowRow {
+        id: flow
+
+        width: parent.width
+        spacing: 8
+
+        Repeater {
+            id: pills
+
+            model: choice.clutter.pills
+
+            PillButton {
+                id: pill
+
+                required property int index
+                required property string name
+                required property bool reached
+
+                objectName: "typePill" + pill.index
+                text: pill.name
+                least: 32
+                verticalPadding: 6
+                focus: pill.reached
+                activeFocusOnTab: pill.reached
+                onClicked: choice.clutter.filter(pill.index)
+
+                required chosen
+
+                Accessible.role: Accessible.RadioButton
+                Accessible.checkable: true
+                Accessible.checked: pill.chosen
+
+                Keys.onLeftPressed: choice.choose(pill.index - 1)
+                Keys.onUpPressed: choice.choose(pill.index - 1)
+                Keys.onRightPressed: choice.choose(pill.index + 1)
+                Keys.onDownPressed: choice.choose(pill.index + 1)
+            }
+        }
+    }
+}

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <optional>
+#include <vector>
+
+#include "scan/FileType.h"
+#include "ui/controls/EditedList.h"
+#include "ui/theme/ZelkTheme.h"
+
+namespace zelk {
+
+/// The types of files that a list can be narrowed to, after "All". Main thread.
+class TypePills : public zelk::EditedList {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of ClutterScreenModel")
+
+public:
+    /// `reached` is the one that the Tab key comes to: the chosen one, or the first where the chosen one has gone.
+    enum Role { nameRole = Qt::UserRole, symbolRole, tintRole, chosenRole, reachedRole };
+
+    using Filter = std::optional<FileType>;  ///< none: all files
+
+    using EditedList::EditedList;
+
+    /// From here on the pills are "All" and these; pills that stay are not made anew.
+    void show(const std::vector<FileType>& types);
+    void choose(Filter filter);
+    void setTheme(const ZelkTheme& theme);
+
+    const Filter& chosen() const { return chosen_; }
+    /// What the pill in this row stands for.
+    Filter filterAt(int row) const { return pills_[static_cast<std::size_t>(row)]; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+private:
+    bool isReached(std::size_t row) const;
+
+    std::vector<Filter> pills_{Filter()};
+    Filter chosen_;
+    const ZelkTheme* theme_ = &ZelkTheme::dark();
+};
+
+}  // namespace zelk

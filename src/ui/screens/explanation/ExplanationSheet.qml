@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+// What a place on the disk is, before anybody removes it.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Sheet {
+    id: sheet
+
+    required property ExplanationModel explanation
+
+    title: sheet.explanation.title
+    primary: done
+    sheetWidth: Math.round(440 * TextScale.factor)
+    visible: sheet.explanation.shown
+    onDismissed: sheet.explanation.close()
+
+    Item {
+        implicitHeight: note.implicitHeight
+
+        Column {
+            id: note
+
+            width: parent.width
+            spacing: 10
+
+            Item {
+                width: parent.width
+                implicitHeight: Math.max(symbolItem.height, headline.implicitHeight)
+
+                SymbolItem {
+                    id: symbolItem
+
+                    anchors.verticalCenter: parent.verticalCenter
+                    name: sheet.explanation.symbol
+                    color: sheet.explanation.tint
+                    size: Math.round(22 * TextScale.factor)
+                }
+
+                Words {
+                    id: headline
+
+                    objectName: "explanationTitle"
+                    anchors.left: symbolItem.right
+                    anchors.leftMargin: 10
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: sheet.explanation.title
+                    size: 17
+                    font.weight: Font.DemiBold
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.Heading
+                }
+            }
+
+            Words {
+                objectName: "explanationPath"
+                width: parent.width
+                text: sheet.explanation.path
+                size: 10
+                soft: true
+                maximumLineCount: 1
+                elide: Text.ElideMiddle
+            }
+
+            Row {
+                spacing: 8
+
+                Tag {
+                    objectName: "explanationBadge"
+                    text: sheet.explanation.badge
+                    ink: sheet.explanation.tint
+                }
+
+                Tag {
+                    objectName: "explanationRegenerates"
+                    text: sheet.explanation.regeneratesLabel
+                    ink: Theme.inkSoft
+                    visible: sheet.explanation.regenerates
+                }
+            }
+
+            Words {
+                objectName: "explanationDetail"
+                width: parent.width
+                text: sheet.explanation.detail
+                size: 13
+                wrapMode: Text.Wrap
+                lineHeight: 1.25
+            }
+
+            Item {
+                width: parent.width
+                implicitHeight: done.implicitHeight
+
+                PrimaryButton {
+                    id: done
+
+                    objectName: "explanationDone"
+                    anchors.right: parent.right
+                    anchors.bottom: parent.bottom
+                    horizontalPadding: 20
+                    verticalPadding: 9
+                    focus: true
+                    text: sheet.explanation.doneLabel
+                    onClicked: sheet.explanation.close()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// The topics of the manual, one below the other. The arrow keys go from one to the next, Home and End to the ends.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.App
+
+FocusScope {
+    id: list
+
+    required property HelpModel help
+
+    // -1 up, 1 down.
+    signal pageTurned(way: int)
+
+    // The row that is read was chosen with the keyboard, and it must stay in sight.
+    function followKeyboard() {
+        const row = topics.itemAt(list.help.current) as T.AbstractButton;
+        row.forceActiveFocus(Qt.TabFocusReason);
+        row.focusReason = Qt.TabFocusReason;
+    }
+
+    implicitHeight: column.implicitHeight
+
+    Accessible.role: Accessible.List
+    Accessible.name: list.help.listName
+
+    Keys.onPressed: event => {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_PageUp:
+            return list.pageTurned(-1);
+        case Qt.Key_PageDown:
+            return list.pageTurned(1);
+        case Qt.Key_Up:
+            list.help.selectPrevious();
+            break;
+        case Qt.Key_Down:
+            list.help.selectNext();
+            break;
+        case Qt.Key_Home:
+            list.help.selectFirst();
+            break;
+        case Qt.Key_End:
+            list.help.selectLast();
+            break;
+        default:
+            event.accepted = false;
+            return;
+        }
+        list.followKeyboard();
+    }
+
+    Column {
+        id: column
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        padding: 12
+        spacing: 2
+
+        Repeater {
+            id: topics
+
+            model: list.help
+
+            TopicRow {
+                width: column.width - 2 * column.padding
+                focus: current
+                onClicked: list.help.select(index)
+            }
+        }
+    }
+}

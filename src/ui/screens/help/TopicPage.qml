@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// One topic of the manual, as wide as a line can be read.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Item {
+    id: page
+
+    required property HelpModel help
+
+    implicitHeight: column.implicitHeight + 2 * 32
+
+    Column {
+        id: column
+
+        x: 32
+        y: 32
+        width: Math.min(page.width - 2 * 32, 560 * TextScale.factor)
+        spacing: 12
+
+        Tile {
+            symbol: page.help.symbol
+            tint: page.help.tint
+            side: 40
+            symbolSize: 20
+        }
+
+        Words {
+            width: parent.width
+            topPadding: 8
+            text: page.help.title
+            size: 20
+            font.weight: Font.DemiBold
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.Heading
+        }
+
+        Words {
+            width: parent.width
+            bottomPadding: 4
+            text: page.help.lead
+            size: 15
+            soft: true
+            lineHeight: 1.3
+            wrapMode: Text.Wrap
+        }
+
+        Repeater {
+            model: page.help.paragraphs
+
+            Words {
+                required property string modelData
+
+                width: column.width
+                text: modelData
+                size: 13
+                lineHeight: 1.45
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+}

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// One topic of the manual in its list. Only the one that is read is a stop of the Tab key: the arrows go from there.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+BaseButton {
+    id: row
+
+    required property int index
+    required property string symbol
+    required property color tint
+    required property string title
+    required property bool current
+
+    text: row.title
+    // (A stop cannot cease to be one while the keyboard is still there.)
+    focusPolicy: row.current || row.activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+    leftPadding: 12
+    rightPadding: 12
+    topPadding: 8
+    bottomPadding: 8
+    implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
+
+    Accessible.role: Accessible.ListItem
+    Accessible.selectable: true
+    Accessible.selected: row.current
+
+    background: Rectangle {
+        radius: 8
+        color: row.current ? Qt.alpha(row.tint, 0.18) : "transparent"
+
+        Wash {
+            anchors.fill: parent
+            radius: parent.radius
+            control: row
+        }
+
+        FocusRing {
+            shown: row.visualFocus
+            corner: 8
+        }
+    }
+
+    Item {
+        id: content
+
+        x: row.leftPadding
+        y: row.topPadding
+        width: row.availableWidth
+        height: row.availableHeight
+        implicitHeight: Math.max(symbolItem.height, label.height)
+
+        SymbolItem {
+            id: symbolItem
+
+            anchors.verticalCenter: parent.verticalCenter
+            name: row.symbol
+            color: row.tint
+            size: 16
+        }
+
+        Words {
+            id: label
+
+            anchors.left: symbolItem.right
+            anchors.leftMargin: 12
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.title
+            size: 13
+            font.weight: row.current ? Font.DemiBold : Font.Medium
+            wrapMode: Text.Wrap
+            mute: true
+        }
+    }
+}

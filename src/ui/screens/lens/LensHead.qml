@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+// The folder at hand, and the ticks of all that is in it.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Item {
+    id: head
+
+    required property LensScreenModel lens
+
+    implicitHeight: column.implicitHeight + 16 + 8
+
+    Column {
+        id: column
+
+        anchors.left: parent.left
+        anchors.leftMargin: 26
+        anchors.right: parent.right
+        anchors.rightMargin: 16
+        y: 16
+        spacing: 8
+
+        Item {
+            width: parent.width
+            implicitHeight: Math.max(iconItem.height, texts.implicitHeight)
+
+            Picture {
+                id: iconItem
+
+                anchors.verticalCenter: parent.verticalCenter
+                width: 34
+                height: 34
+                image: head.lens.placeIcon
+            }
+
+            Column {
+                id: texts
+
+                anchors.left: iconItem.right
+                anchors.leftMargin: 12
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 2
+
+                Words {
+                    objectName: "lensName"
+                    width: parent.width
+                    text: head.lens.place
+                    size: 15
+                    font.weight: Font.DemiBold
+                    elide: Text.ElideMiddle
+                    Accessible.role: Accessible.Heading
+                }
+
+                Words {
+                    objectName: "lensPlaceLine"
+                    width: parent.width
+                    text: head.lens.placeLine
+                    size: 11
+                    soft: true
+                }
+            }
+        }
+
+        Row {
+            spacing: 0
+
+            Words {
+                anchors.verticalCenter: parent.verticalCenter
+                text: head.lens.selectLabel
+                size: 11
+                soft: true
+                mute: true
+            }
+
+            MenuButton {
+                objectName: "lensSelect"
+                anchors.verticalCenter: parent.verticalCenter
+                text: head.lens.selectTitle
+                said: head.lens.selectLabel
+
+                MenuRow {
+                    objectName: "lensSelectAll"
+                    text: head.lens.allLabel
+                    onTriggered: head.lens.selectAll()
+                }
+                MenuRow {
+                    objectName: "lensSelectNone"
+                    text: head.lens.noneLabel
+                    onTriggered: head.lens.selectNone()
+                }
+            }
+        }
+    }
+
+    Divider {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+    }
+}

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+// The list at the left and the map at the right of the same folder, between what leads through the folders and what
+// takes things away.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Charts
+import Zelk.Controls
+
+FocusScope {
+    id: panes
+
+    required property LensScreenModel lens
+
+    readonly property real listWidth: Math.max(340, Math.min(Math.round(340 * TextScale.factor), Math.round(0.56 * width)))
+
+    // What had the keyboard is not to be pressed any more: it goes on where it can.
+    function keepKeyboard(byKey: bool) {
+        list.receive(byKey);
+    }
+
+    Binding {
+        target: panes.lens
+        property: "dark"
+        value: Theme.isDark
+    }
+
+    EmptyState {
+        anchors.fill: parent
+        visible: !panes.lens.mapped
+        symbol: panes.lens.emptySymbol
+        title: panes.lens.emptyTitle
+    }
+
+    FocusScope {
+        anchors.fill: parent
+        focus: true
+        visible: panes.lens.mapped
+
+        LensBar {
+            id: bar
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            lens: panes.lens
+            onStepped: byKey => panes.keepKeyboard(byKey)
+        }
+
+        Item {
+            id: stage
+
+            anchors.top: bar.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: foot.top
+
+            NumberAnimation {
+                id: coming
+
+                target: stage
+                property: "opacity"
+                from: 0
+                to: 1
+                easing.type: Easing.OutQuad
+            }
+
+            Connections {
+                target: panes.lens
+
+                function onDrilled(duration: int) {
+                    coming.duration = Math.min(Motion.gentle, duration);
+                    coming.restart();
+                }
+            }
+
+            LensHead {
+                id: head
+
+                width: panes.listWidth
+                lens: panes.lens
+            }
+
+            LensList {
+                id: list
+
+                anchors.top: head.bottom
+                anchors.bottom: parent.bottom
+                width: panes.listWidth
+                lens: panes.lens
+                focus: true
+            }
+
+            Divider {
+                id: divider
+
+                anchors.left: head.right
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                vertical: true
+            }
+
+            BubbleChart {
+                objectName: "lensMap"
+                anchors.left: divider.right
+                anchors.right: parent.right
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
+                anchors.margins: 8
+                model: panes.lens.bubbles
+                name: panes.lens.mapName
+            }
+
+            EmptyState {
+                anchors.left: divider.right
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                visible: panes.lens.bare
+                symbol: panes.lens.emptySymbol
+                title: panes.lens.bareTitle
+                note: panes.lens.bareNote
+            }
+        }
+
+        LensFoot {
+            id: foot
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            lens: panes.lens
+            onRemoving: byKey => panes.keepKeyboard(byKey)
+        }
+    }
+
+    ExplanationSheet {
+        explanation: panes.lens.explanation
+    }
+}

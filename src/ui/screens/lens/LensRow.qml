@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+// One folder. A press on it goes in, a press on its box ticks it.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+ListRow {
+    id: row
+
+    required property int index
+    required property string name
+    required property string size
+    required property var icon
+    required property bool ticked
+    required property bool drillable
+    required property string spoken
+    required property string info
+    required property string help
+
+    signal pressed
+    signal opened
+    signal toggled
+    signal asked
+
+    readonly property bool current: ListView.isCurrentItem
+
+    implicitHeight: Math.max(content.implicitHeight, label.implicitHeight) + 2 * 8
+
+    Accessible.role: Accessible.Button
+    Accessible.name: row.spoken
+    Accessible.onPressAction: row.opened()
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: 10
+        anchors.rightMargin: 10
+        radius: 8
+        color: row.ticked ? Qt.alpha(Theme.accent, 0.1) : pointer.hovered && row.drillable ? Theme.hoverWash : "transparent"
+
+        FocusRing {
+            anchors.margins: 1
+            shown: row.ringed && !ask.visualFocus
+            corner: 4
+        }
+    }
+
+    HoverHandler {
+        id: pointer
+
+        cursorShape: row.drillable ? Qt.PointingHandCursor : Qt.ArrowCursor
+    }
+
+    TapHandler {
+        onTapped: {
+            row.pressed();
+            row.opened();
+        }
+    }
+
+    Item {
+        id: content
+
+        anchors.left: parent.left
+        anchors.leftMargin: 22
+        anchors.right: parent.right
+        anchors.rightMargin: 22
+        anchors.verticalCenter: parent.verticalCenter
+        implicitHeight: Math.max(box.implicitHeight, ask.implicitHeight, picture.height)
+
+        CheckBox {
+            id: box
+
+            objectName: "lensTick"
+            anchors.left: parent.left
+            anchors.leftMargin: -4
+            anchors.verticalCenter: parent.verticalCenter
+            focusPolicy: Qt.NoFocus
+            text: row.name
+            on: row.ticked
+            onClicked: {
+                row.pressed();
+                row.toggled();
+            }
+        }
+
+        // Of all the rows only the current one's is a stop of the Tab key.
+        IconButton {
+            id: ask
+
+            objectName: "lensInfo"
+            anchors.left: box.right
+            anchors.leftMargin: 2
+            anchors.verticalCenter: parent.verticalCenter
+            focusPolicy: row.current || ask.activeFocus ? Qt.TabFocus : Qt.NoFocus
+            symbol: "info.circle"
+            size: 12
+            side: 24
+            text: row.info
+            help: row.help
+            onClicked: row.asked()
+            // The list is come to again at the row, not inside it.
+            onActiveFocusChanged: {
+                if (!ask.activeFocus && row.current)
+                    row.focus = true;
+            }
+            Keys.onBacktabPressed: row.forceActiveFocus(Qt.BacktabFocusReason)
+        }
+
+        Picture {
+            id: picture
+
+            anchors.left: ask.right
+            anchors.leftMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            width: 22
+            height: 22
+            image: row.icon
+        }
+
+        Words {
+            id: label
+
+            anchors.left: picture.right
+            anchors.leftMargin: 8
+            anchors.right: figure.left
+            anchors.rightMargin: 8
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.name
+            size: 13
+            mute: true
+        }
+
+        FigureText {
+            id: figure
+
+            anchors.right: chevron.left
+            anchors.rightMargin: 8
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.size
+            pixelSize: 12
+            color: Theme.ink
+            Accessible.ignored: true
+        }
+
+        SymbolItem {
+            id: chevron
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            name: "chevron.right"
+            color: Theme.inkSoft
+            size: Math.round(9 * TextScale.factor)
+            visible: row.drillable
+        }
+    }
+}

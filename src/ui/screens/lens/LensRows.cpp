@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/lens/LensRows.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+#include "ui/controls/Spoken.h"
+#include "ui/screens/lens/LensWalk.h"
+#include "ui/theme/DisplayText.h"
+
+namespace zelk {
+
+namespace {
+
+/// Told one by one, more steps than these would cost more than a new list.
+constexpr int mostSteps = 64;
+
+}  // namespace
+
+LensRows::LensRows(const LensWalk& walk, IconOf iconOf) : walk_(walk), iconOf_(std::move(iconOf)) {}
+
+void LensRows::show() {
+    replaceBy(walk_.visibleChildren());
+}
+
+void LensRows::follow() {
+    const std::vector<NodeRef> nodes = walk_.visibleChildren();
+    if (turnInto(nodes))
+        tellSizes();
+    else
+        replaceBy(nodes);
+}
+
+void LensRows::replaceBy(const std::vector<NodeRef>& nodes) {
+    beginResetModel();
+    rows_.clear();
+    rows_.reserve(nodes.size());
+    for (const NodeRef& node : nodes) rows_.push_back({node, node->size});
+    endResetModel();
+}
+
+/// Takes out what is not among `nodes` and moves what has become smaller to its new place. False, with the rows
+/// somewhere on the way, if that is not all that has changed, or takes too many steps.
+bool LensRows::turnInto(const std::vector<NodeRef>& nodes) {
+    std::unordered_map<const FSNode*, int> places;
+    places.reserve(nodes.size());
+    for (const NodeRef& node : nodes) places.emplace(node.get(), static_cast<int>(places.size()));
+
+    int steps = 0;
+    const auto goes = [&](const Row& row) { return !places.contains(row.node.get()); };
+    for (auto end = rows_.end(); steps < mostSteps; ++steps) {
+        const auto last = std::find_if(std::reverse_iterator(end), rows_.rend(), goes);
+        if (last == rows_.rend()) break;
+        const auto first = std::find_if_not(last, rows_.rend(), goes);
+        const auto from = static_cast<int>(first.base() - rows_.begin());
+        beginRemoveRows({}, from, static_cast<int>(last.base() - rows_.begin()) - 1);
+        rows_.erase(first.base(), last.base());
+        endRemoveRows();
+        end = rows_.begin() + from;
+    }
+    if (steps == mostSteps || rows_.size() != nodes.size()) return false;
+
+    for (std::size_t at = 0; at < nodes.size();) {
+        if (rows_[at].node == nodes[at]) {
+            ++at;
+            continue;
+        }
+        const int from = static_cast<int>(at);
+        const int to = places.at(rows_[at].node.get());
+        if (to < from || ++steps > mostSteps) return false;
+        beginMoveRows({}, from, from, {}, to + 1);
+        std::rotate(rows_.begin() + from, rows_.begin() + from + 1, rows_.begin() + to + 1);
+        endMoveRows();
+    }
+    return true;
+}
+
+void LensRows::tellSizes() {
+    for (std::size_t at = 0; at < rows_.size(); ++at) {
+        Row& row = rows_[at];
+        if (std::exchange(row.bytes, row.node->size) == row.node->size) continue;
+        const QModelIndex place = index(static_cast<int>(at));
+        emit dataChanged(place, place, {sizeRole, spokenRole, drillableRole});
+    }
+}
+
+void LensRows::tellTicked(int row) {
+    const QModelIndex place = index(row);
+    if (place.isValid()) emit dataChanged(place, place, {tickedRole, spokenRole});
+}
+
+void LensRows::tellAllTicked() {
+    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tickedRole, spokenRole});
+}
+
+NodeRef LensRows::node(int row) const {
+    return row >= 0 && row < rowCount() ? rows_[static_cast<std::size_t>(row)].node : nullptr;
+}
+
+int LensRows::rowOf(const NodeRef& node) const {
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const Row& row) { return row.node == node; });
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+int LensRows::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant LensRows::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const auto& [node, bytes] = rows_[static_cast<std::size_t>(index.row())];
+    const auto ticked = [&folder = *node, this] { return walk_.isSelected(folder.fullPath()); };
+    switch (role) {
+        case nameRole:
+            return displayText(node->name());
+        case sizeRole:
+            return byteFigure(bytes);
+        case iconRole:
+            return iconOf_(node->fullPath());
+        case tickedRole:
+            return ticked();
+        case drillableRole:
+            return !node->children.empty();
+        case spokenRole:
+            return Spoken::joined({displayText(node->name()), byteFigure(bytes), QStringLiteral("folder"),
+                                   ticked() ? QStringLiteral("ticked") : QString()});
+        case infoRole:
+            return QStringLiteral("What is %1?").arg(displayText(node->name()));
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> LensRows::roleNames() const {
+    return {{nameRole, "name"},           {sizeRole, "size"},     {iconRole, "icon"}, {tickedRole, "ticked"},
+            {drillableRole, "drillable"}, {spokenRole, "spoken"}, {infoRole, "info"}};
+}
+
+}  // namespace zelk
+
+#include "moc_LensRows.cpp"

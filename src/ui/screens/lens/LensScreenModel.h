@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QImage>
+#include <QString>
+#include <QTimer>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ui/charts/BubbleModel.h"
+#include "ui/screens/explanation/ExplanationModel.h"
+#include "ui/screens/lens/FileIcons.h"
+#include "ui/screens/lens/LensRows.h"
+#include "ui/screens/lens/LensWalk.h"
+#include "ui/screens/module/SurveyedModule.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// The screen that walks through what a survey found, folder by folder, and takes away what is ticked. It shows the
+/// survey's tree whenever none is running: while one runs, other threads write into the tree that comes. Main thread.
+class LensScreenModel : public zelk::SurveyedModule {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the main window")
+    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
+    Q_PROPERTY(bool mapped READ mapped NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT FINAL)
+    Q_PROPERTY(QString emptySymbol READ emptySymbol CONSTANT FINAL)
+    Q_PROPERTY(bool bare READ bare NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QString bareTitle READ bareTitle CONSTANT FINAL)
+    Q_PROPERTY(QString bareNote READ bareNote CONSTANT FINAL)
+    Q_PROPERTY(QString startOverLabel READ startOverLabel CONSTANT FINAL)
+    Q_PROPERTY(QString backLabel READ backLabel CONSTANT FINAL)
+    Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QString place READ place NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QString placeLine READ placeLine NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QVariant placeIcon READ placeIcon NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QString selectLabel READ selectLabel CONSTANT FINAL)
+    Q_PROPERTY(QString selectTitle READ selectTitle NOTIFY selectionChanged FINAL)
+    Q_PROPERTY(QString allLabel READ allLabel CONSTANT FINAL)
+    Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT FINAL)
+    Q_PROPERTY(QString infoHelp READ infoHelp CONSTANT FINAL)
+    Q_PROPERTY(QString listName READ listName NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QString mapName READ mapName NOTIFY placeChanged FINAL)
+    Q_PROPERTY(zelk::LensRows* rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
+    Q_PROPERTY(zelk::ExplanationModel* explanation READ explanation CONSTANT FINAL)
+    Q_PROPERTY(bool volumed READ volumed NOTIFY volumeChanged FINAL)
+    Q_PROPERTY(QString volumeLine READ volumeLine NOTIFY volumeChanged FINAL)
+    Q_PROPERTY(double usedShare READ usedShare NOTIFY volumeChanged FINAL)
+    Q_PROPERTY(QString caption READ caption NOTIFY selectionChanged FINAL)
+    Q_PROPERTY(QString removeLabel READ removeLabel CONSTANT FINAL)
+    Q_PROPERTY(bool removable READ removable NOTIFY selectionChanged FINAL)
+
+public:
+    /// `app` must outlive it.
+    explicit LensScreenModel(AppModel& app);
+    ~LensScreenModel() override;
+
+    bool dark() const { return dark_; }
+    void setDark(bool dark);
+
+    bool mapped() const { return static_cast<bool>(walk_.currentNode()); }
+    QString emptyTitle() const;
+    QString emptySymbol() const;
+    /// There is a folder at hand, and nothing in it to list or to map.
+    bool bare() const { return mapped() && rows_.rowCount() == 0; }
+    QString bareTitle() const;
+    QString bareNote() const;
+    QString startOverLabel() const;
+    QString backLabel() const;
+    bool canGoBack() const { return walk_.canGoBack(); }
+    /// The name of the folder at hand, or a dash.
+    QString place() const;
+    QString placeLine() const;
+    /// A QImage; an empty one where there is no folder.
+    QVariant placeIcon() const;
+    QString selectLabel() const;
+    QString selectTitle() const;
+    QString allLabel() const;
+    QString noneLabel() const;
+    QString infoHelp() const;
+    QString listName() const;
+    QString mapName() const;
+    LensRows* rows() { return &rows_; }
+    BubbleModel* bubbles() { return &bubbles_; }
+    ExplanationModel* explanation() { return &explanation_; }
+    bool volumed() const;
+    QString volumeLine() const;
+    double usedShare() const;
+    QString caption() const;
+    QString removeLabel() const;
+    bool removable() const { return !walk_.selected().empty(); }
+
+    const LensWalk& walk() const { return walk_; }
+    /// How many removals have ended.
+    int version() const { return version_; }
+
+public slots:
+    void startOver();
+    void back();
+    /// A row that does not exist is passed over, here and below.
+    void drill(int row);
+    void toggle(int row);
+    void explain(int row);
+    void selectAll();
+    void selectNone();
+    /// Moves what is ticked to the Trash, in the order of the paths. What does not go there stays in the tree, and is
+    /// not ticked any more either.
+    void removeSelected();
+
+signals:
+    void darkChanged();
+    void placeChanged();
+    void selectionChanged();
+    void volumeChanged();
+    /// Another folder is at hand, and this row of it is where the keyboard belongs.
+    void arrived(int row);
+    /// Before that, where a folder was entered: how long its coming may take, in milliseconds.
+    void drilled(int duration);
+
+private:
+    void followTree();
+    void enter(const NodeRef& node, int duration);
+    void toggle(const NodeRef& node);
+    void arrive(const NodeRef& from = nullptr);
+    void tellSelection();
+    void endRemoval(const std::vector<NodeRef>& gone);
+    NodeRef bubbled(const std::string& path) const;
+    void showSlices();
+    QImage icon(const std::string& path, int side) const;
+    void leaveTrees();
+
+    AppModel& app_;
+    mutable FileIcons icons_;
+    LensWalk walk_;
+    LensRows rows_;
+    BubbleModel bubbles_;
+    ExplanationModel explanation_;
+    NodeRef shown_;
+    QTimer following_;
+    int version_ = 0;
+    bool dark_ = true;
+};
+
+}  // namespace zelk

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// What the screen says.
+#include <algorithm>
+
+#include "state/AppModel.h"
+#include "ui/screens/lens/LensScreenModel.h"
+#include "ui/theme/DisplayText.h"
+
+namespace zelk {
+
+namespace {
+
+constexpr int placeIconSide = 68;  // pixels
+
+std::int64_t usedOf(const VolumeInfo& volume) {
+    return std::max<std::int64_t>(volume.total - volume.available, 0);
+}
+
+}  // namespace
+
+QString LensScreenModel::emptyTitle() const {
+    return QStringLiteral("Nothing to map");
+}
+QString LensScreenModel::emptySymbol() const {
+    return QStringLiteral("circle.hexagongrid");
+}
+QString LensScreenModel::bareTitle() const {
+    return QStringLiteral("No folders that take up space");
+}
+QString LensScreenModel::bareNote() const {
+    return QStringLiteral("Files that lie directly in this folder are counted with it and not listed one by one.");
+}
+QString LensScreenModel::startOverLabel() const {
+    return QStringLiteral("Start Over");
+}
+QString LensScreenModel::backLabel() const {
+    return QStringLiteral("Back");
+}
+
+QString LensScreenModel::place() const {
+    const NodeRef node = walk_.currentNode();
+    return node ? displayText(lastComponent(node->fullPath())) : QStringLiteral("—");
+}
+
+/// One folder is "1 folders": the word stands for the column, not for the count.
+QString LensScreenModel::placeLine() const {
+    const NodeRef node = walk_.currentNode();
+    if (!node) return {};
+    return QStringLiteral("%1 · %2 folders").arg(byteFigure(node->size)).arg(node->children.size());
+}
+
+QVariant LensScreenModel::placeIcon() const {
+    const NodeRef node = walk_.currentNode();
+    return node ? icon(node->fullPath(), placeIconSide) : QImage();
+}
+
+QString LensScreenModel::selectLabel() const {
+    return QStringLiteral("Select:");
+}
+QString LensScreenModel::selectTitle() const {
+    return removable() ? QString::number(walk_.selected().size()) : noneLabel();
+}
+QString LensScreenModel::allLabel() const {
+    return QStringLiteral("All");
+}
+QString LensScreenModel::noneLabel() const {
+    return QStringLiteral("None");
+}
+QString LensScreenModel::infoHelp() const {
+    return QStringLiteral("What is this? (I)");
+}
+/// What several scan roots hang in has no name of its own.
+QString LensScreenModel::listName() const {
+    const QString name = place();
+    return name.isEmpty() ? QStringLiteral("Surveyed folders") : QStringLiteral("Folders in %1").arg(name);
+}
+QString LensScreenModel::mapName() const {
+    const QString name = place();
+    return name.isEmpty() ? QStringLiteral("Map of the surveyed folders") : QStringLiteral("Map of %1").arg(name);
+}
+
+bool LensScreenModel::volumed() const {
+    return app_.volume().has_value();
+}
+
+QString LensScreenModel::volumeLine() const {
+    if (!volumed()) return {};
+    return QStringLiteral("%1 of %2 used").arg(byteFigure(usedOf(*app_.volume())), byteFigure(app_.volume()->total));
+}
+
+double LensScreenModel::usedShare() const {
+    if (!volumed() || app_.volume()->total < 1) return 0;
+    return static_cast<double>(usedOf(*app_.volume())) / static_cast<double>(app_.volume()->total);
+}
+
+QString LensScreenModel::caption() const {
+    if (!removable()) return QStringLiteral("No items selected");
+    return QStringLiteral("%1 selected · %2").arg(walk_.selected().size()).arg(byteFigure(walk_.selectedBytes()));
+}
+
+QString LensScreenModel::removeLabel() const {
+    return QStringLiteral("Review and Remove");
+}
+
+}  // namespace zelk

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// The button that removes: in the accent while there is something to remove, and a quiet word otherwise.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+BaseButton {
+    id: button
+
+    readonly property real corner: 10
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    horizontalPadding: 18
+    verticalPadding: 10
+
+    scale: button.down ? 0.98 : 1
+    Behavior on scale {
+        NumberAnimation {
+            duration: Motion.quick
+        }
+    }
+
+    background: Rectangle {
+        radius: button.corner
+        color: Theme.surfaceHi
+        border.width: 1
+        border.color: Theme.hairline
+
+        AccentFill {
+            anchors.fill: parent
+            corner: button.corner
+            visible: button.enabled
+        }
+
+        Wash {
+            anchors.fill: parent
+            radius: button.corner
+            control: button
+        }
+
+        FocusRing {
+            shown: button.visualFocus
+            corner: button.corner
+        }
+    }
+
+    contentItem: ButtonLabel {
+        text: button.text
+        size: 13
+        color: button.enabled ? "white" : Theme.inkSoft
+    }
+}

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// The head of a module's results: its tile, its name and what it is for, and at the right what the module puts there.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+Item {
+    id: header
+
+    required property string symbol
+    required property color tint
+    required property string title
+    required property string subtitle
+    property Component trailing: null
+
+    implicitHeight: Math.max(38, texts.implicitHeight, trailingView.implicitHeight) + 2 * 16
+
+    Rectangle {
+        id: tile
+
+        anchors.left: parent.left
+        anchors.leftMargin: 26
+        anchors.verticalCenter: parent.verticalCenter
+        width: 38
+        height: 38
+        radius: 10
+        color: Qt.alpha(header.tint, 0.16)
+
+        TextSymbol {
+            anchors.centerIn: parent
+            name: header.symbol
+            color: header.tint
+            points: 17
+        }
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: tile.right
+        anchors.leftMargin: 12
+        anchors.right: trailingView.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Words {
+            width: parent.width
+            text: header.title
+            size: 18
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+        Words {
+            width: parent.width
+            text: header.subtitle
+            size: 11
+            soft: true
+            wrapMode: Text.WordWrap
+            visible: text !== ""
+        }
+    }
+
+    Loader {
+        id: trailingView
+
+        anchors.right: parent.right
+        anchors.rightMargin: 26
+        anchors.verticalCenter: parent.verticalCenter
+        sourceComponent: header.trailing
+    }
+
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: 1
+        color: Theme.hairline
+    }
+}

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+// The first face of a module: what it is, what it does, and the button that begins. It scrolls where there is too
+// little room.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Charts
+import Zelk.Controls
+
+FocusScope {
+    id: hero
+
+    required property ModuleScreenModel module
+
+    Item {
+        anchors.fill: parent
+        clip: true
+
+        PaintedLayer {
+            anchors.centerIn: parent
+            kind: PaintedLayer.Glow
+            color: hero.module.tint
+            dark: Theme.isDark
+        }
+    }
+
+    Flickable {
+        id: scroll
+
+        anchors.fill: parent
+        contentWidth: width
+        contentHeight: Math.max(height, column.implicitHeight + 2 * 28)
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        Column {
+            id: column
+
+            anchors.centerIn: parent
+            width: scroll.width - 2 * 26
+
+            ModuleOrb {
+                anchors.horizontalCenter: parent.horizontalCenter
+                symbol: hero.module.symbol
+                tint: hero.module.tint
+            }
+
+            Words {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, column.width)
+                topPadding: 16
+                text: hero.module.title
+                size: 30
+                font.weight: Font.Bold
+                font.letterSpacing: -0.6
+                Accessible.role: Accessible.Heading
+            }
+
+            Words {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(420, column.width)
+                topPadding: 8
+                text: hero.module.subtitle
+                size: 14
+                soft: true
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                lineHeight: 1.25
+            }
+
+            Item {
+                width: 1
+                height: 24
+            }
+
+            PrimaryButton {
+                anchors.horizontalCenter: parent.horizontalCenter
+                objectName: "moduleScanButton"
+                text: hero.module.scanLabel
+                visible: hero.module.scannable
+                focus: true
+                onClicked: hero.module.scan()
+            }
+
+            Words {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, column.width)
+                text: hero.module.note
+                size: 12
+                soft: true
+                visible: hero.module.noted
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+            }
+        }
+    }
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+// The three faces of a module that looks for something. A module gives its model and what stands under the header of
+// its results, which has a property for the model too; that is built with the first results and kept.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+FocusScope {
+    id: scaffold
+
+    required property ModuleScreenModel module
+    required property Component content
+    property Component trailing: null
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+
+    ModuleFace {
+        shown: scaffold.module.idle
+
+        ModuleHero {
+            anchors.fill: parent
+            module: scaffold.module
+            focus: true
+        }
+    }
+
+    ModuleFace {
+        id: progressArea
+
+        shown: scaffold.module.scanning
+
+        ModuleScanning {
+            anchors.fill: parent
+            module: scaffold.module
+        }
+    }
+
+    ModuleFace {
+        shown: scaffold.module.results
+
+        ModuleHeader {
+            id: header
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            symbol: scaffold.module.symbol
+            tint: scaffold.module.tint
+            title: scaffold.module.title
+            subtitle: scaffold.module.subtitle
+            trailing: scaffold.trailing
+        }
+
+        Loader {
+            id: results
+
+            readonly property bool wanted: scaffold.module.results
+
+            function keep() {
+                if (results.wanted)
+                    results.active = true;
+            }
+
+            anchors.top: header.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            active: false
+            sourceComponent: scaffold.content
+            focus: true
+            onWantedChanged: results.keep()
+            Component.onCompleted: results.keep()
+        }
+
+        Binding {
+            target: results.item
+            property: "module"
+            value: scaffold.module
+            when: results.item
+        }
+    }
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <functional>
+
+#include "state/Screen.h"
+#include "ui/screens/module/ModuleTexts.h"
+
+namespace zelk {
+
+/// The three faces of a module that looks for something.
+enum class ModulePhase { idle, scanning, results };
+
+/// What the scaffold of a module shows: its texts, its phase and how far it is. A module sets the phase and the detail
+/// as it works, and says what its button does. Main thread.
+class ModuleScreenModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the main window")
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(QString subtitle READ subtitle CONSTANT FINAL)
+    Q_PROPERTY(QString symbol READ symbol CONSTANT FINAL)
+    Q_PROPERTY(QColor tint READ tint CONSTANT FINAL)
+    Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT FINAL)
+    Q_PROPERTY(bool scannable READ scannable CONSTANT FINAL)
+    Q_PROPERTY(QString scanningLabel READ scanningLabel CONSTANT FINAL)
+    Q_PROPERTY(QString note READ note CONSTANT FINAL)
+    Q_PROPERTY(bool noted READ noted CONSTANT FINAL)
+    Q_PROPERTY(bool idle READ idle NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool results READ results NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(QString scanDetail READ scanDetail NOTIFY scanDetailChanged FINAL)
+    Q_PROPERTY(bool detailed READ detailed NOTIFY scanDetailChanged FINAL)
+
+public:
+    /// A text without a title takes the screen's.
+    ModuleScreenModel(Screen screen, ModuleTexts texts, std::function<void()> onScan = {},
+                      std::function<void()> onCancel = {});
+
+    Screen screen() const { return screen_; }
+    QString title() const { return texts_.title; }
+    QString subtitle() const { return texts_.subtitle; }
+    QString symbol() const;
+    QColor tint() const;
+    QString scanLabel() const { return texts_.scanLabel; }
+    bool scannable() const { return !texts_.scanLabel.isEmpty(); }
+    QString scanningLabel() const { return texts_.scanningLabel; }
+    QString note() const { return texts_.note; }
+    bool noted() const { return !texts_.note.isEmpty(); }
+
+    ModulePhase phase() const { return phase_; }
+    bool idle() const { return phase_ == ModulePhase::idle; }
+    bool scanning() const { return phase_ == ModulePhase::scanning; }
+    bool results() const { return phase_ == ModulePhase::results; }
+    void setPhase(ModulePhase phase);
+
+    /// How far it is, in one line; may be empty.
+    const QString& scanDetail() const { return scanDetail_; }
+    bool detailed() const { return !scanDetail_.isEmpty(); }
+    void setScanDetail(const QString& detail);
+
+public slots:
+    /// The button of the first face.
+    void scan();
+    /// The key that calls it off while it is looking.
+    void cancel();
+
+signals:
+    void phaseChanged();
+    void scanDetailChanged();
+
+private:
+    Screen screen_;
+    ModuleTexts texts_;
+    std::function<void()> onScan_;
+    std::function<void()> onCancel_;
+    ModulePhase phase_ = ModulePhase::idle;
+    QString scanDetail_;
+};
+
+}  // namespace zelk

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/module/UnbuiltModules.h"
+
+#include "state/AppModel.h"
+#include "ui/screens/module/ModuleScreenModel.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/ScreenLook.h"
+
+namespace zelk {
+
+namespace {
+
+/// Without a button: there is nothing yet that would look.
+ModuleTexts introduced(Screen screen, const QString& title, const QString& subtitle) {
+    ModuleTexts texts;
+    texts.title = title;
+    texts.subtitle = subtitle;
+    texts.note = lookOf(screen).title + QStringLiteral(" is not in this version yet.");
+    return texts;
+}
+
+ModuleTexts textsOf(const AppModel& app, Screen screen) {
+    switch (screen) {
+        case Screen::privacy:
+            return introduced(screen, "Privacy",
+                              "Clear browsing traces across your browsers — caches, histories, cookies. No malware "
+                              "scanner (that needs a signature database).");
+        case Screen::apps:
+            return introduced(screen, "Apps",
+                              "List installed apps by size and uninstall them cleanly — the app plus its leftover "
+                              "caches, preferences, and support files.");
+        case Screen::duplicates:
+            return introduced(screen, "Duplicates",
+                              "Find byte-identical files — duplicate downloads, copied media, repeated exports — and "
+                              "keep just one.");
+        case Screen::tune:
+            return introduced(screen, "Tune", "startup & memory");
+        case Screen::health:
+            return introduced(screen, "Mac health", displayText(app.device().osVersion));
+        case Screen::system:
+            return introduced(screen, "System & snapshots", "what the treemap can't show");
+        default:
+            return introduced(screen, lookOf(screen).title, lookOf(screen).subtitle);
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen) {
+    return std::make_unique<ModuleScreenModel>(screen, textsOf(app, screen));
+}
+
+}  // namespace zelk

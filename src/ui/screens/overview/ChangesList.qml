@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+// The changed folders, section by section. Hundreds of them are possible, so only those in sight are made.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.App
+import Zelk.Controls
+
+ListView {
+    id: list
+
+    required property ChangesModel changes
+
+    objectName: "changesList"
+    model: list.changes
+    clip: true
+    boundsBehavior: Flickable.StopAtBounds
+    activeFocusOnTab: true
+    currentIndex: -1
+    highlightFollowsCurrentItem: false
+
+    Accessible.role: Accessible.List
+    Accessible.name: list.changes.title
+
+    Keys.onUpPressed: list.flickBy(-48)
+    Keys.onDownPressed: list.flickBy(48)
+
+    function flickBy(distance: real) {
+        const end = Math.max(list.originY, list.originY + list.contentHeight - list.height);
+        list.contentY = Math.min(Math.max(list.contentY + distance, list.originY), end);
+    }
+
+    T.ScrollBar.vertical: ThinScrollBar {}
+
+    delegate: Column {
+        id: place
+
+        required property string heading
+        required property color tint
+        required property string name
+        required property string path
+        required property string size
+
+        width: ListView.view.width
+
+        Words {
+            width: parent.width
+            topPadding: 14
+            bottomPadding: 6
+            text: place.heading
+            size: 12
+            font.weight: Font.DemiBold
+            color: place.tint
+            visible: text !== ""
+            Accessible.role: Accessible.Heading
+        }
+
+        Item {
+            width: parent.width
+            implicitHeight: Math.max(44, words.implicitHeight + 14)
+
+            Accessible.role: Accessible.ListItem
+            Accessible.name: Spoken.joined([place.name, place.path, place.size])
+
+            TextSymbol {
+                id: icon
+
+                anchors.verticalCenter: parent.verticalCenter
+                name: "folder.fill"
+                color: place.tint
+                points: 12 * TextScale.factor
+            }
+
+            Column {
+                id: words
+
+                anchors.left: icon.right
+                anchors.leftMargin: 12
+                anchors.right: figure.left
+                anchors.rightMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 2
+
+                Words {
+                    width: parent.width
+                    text: place.name
+                    elide: Text.ElideMiddle
+                    mute: true
+                }
+
+                Words {
+                    width: parent.width
+                    text: place.path
+                    size: 9
+                    soft: true
+                    elide: Text.ElideMiddle
+                    mute: true
+                }
+            }
+
+            CountingText {
+                id: figure
+
+                anchors.right: parent.right
+                anchors.rightMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                text: place.size
+                pixelSize: 12
+                mute: true
+            }
+        }
+    }
+
+    FocusRing {
+        shown: list.activeFocus
+        corner: 8
+    }
+}

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/overview/ChangesModel.h"
+
+#include <algorithm>
+
+#include "ui/screens/overview/Growth.h"
+#include "ui/theme/DisplayText.h"
+
+namespace zelk {
+
+namespace {
+
+/// The whole drive has no name but its slash.
+std::string_view lastComponent(std::string_view path) {
+    return path == "/" ? path : path.substr(path.rfind('/') + 1);
+}
+
+}  // namespace
+
+void ChangesModel::show(const FolderChanges& changes) {
+    beginResetModel();
+    rows_.clear();
+    add(Kind::grew, changes.grew);
+    add(Kind::appeared, changes.appeared);
+    add(Kind::gone, changes.gone);
+    endResetModel();
+    emit emptyChanged();
+}
+
+void ChangesModel::add(Kind kind, const std::vector<FolderChange>& changes) {
+    for (const FolderChange& change : changes) rows_.push_back({kind, change});
+}
+
+void ChangesModel::setTheme(const ZelkTheme& theme) {
+    theme_ = &theme;
+    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tintRole});
+}
+
+QString ChangesModel::title() const {
+    return QStringLiteral("What changed");
+}
+QString ChangesModel::subtitle() const {
+    return QStringLiteral("since your previous survey");
+}
+QString ChangesModel::doneLabel() const {
+    return QStringLiteral("Done");
+}
+QString ChangesModel::emptyLine() const {
+    return QStringLiteral("No notable folder changes since the last survey.");
+}
+
+QString ChangesModel::heading(Kind kind) const {
+    static const QString names[] = {QStringLiteral("Grew"), QStringLiteral("Appeared"), QStringLiteral("Vanished")};
+    const auto count = std::count_if(rows_.begin(), rows_.end(), [kind](const Row& row) { return row.kind == kind; });
+    return QStringLiteral("%1 (%2)").arg(names[static_cast<int>(kind)]).arg(count);
+}
+
+bool ChangesModel::isFirst(int row) const {
+    const auto at = static_cast<std::size_t>(row);
+    return at == 0 || rows_[at - 1].kind != rows_[at].kind;
+}
+
+QColor ChangesModel::color(Kind kind) const {
+    switch (kind) {
+        case Kind::grew:
+            return {62, 155, 255};
+        case Kind::appeared:
+            return {50, 199, 123};
+        case Kind::gone:
+            return theme_->inkSoft;
+    }
+    return {};
+}
+
+QString ChangesModel::sizeText(const Row& row) {
+    const FolderChange& change = row.change;
+    switch (row.kind) {
+        case Kind::grew:
+            return QStringLiteral("%1  +%2").arg(byteFigure(change.newSize),
+                                                 byteFigure(growth(change.oldSize, change.newSize)));
+        case Kind::appeared:
+            return byteFigure(change.newSize);
+        case Kind::gone:
+            return byteFigure(change.oldSize);
+    }
+    return {};
+}
+
+int ChangesModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant ChangesModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    const std::string_view path = row.change.path;
+    switch (role) {
+        case headingRole:
+            return isFirst(index.row()) ? heading(row.kind) : QString();
+        case tintRole:
+            return color(row.kind);
+        case Qt::DisplayRole:
+        case nameRole:
+            return displayText(lastComponent(path));
+        case pathRole:
+            return displayText(path);
+        case sizeRole:
+            return sizeText(row);
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> ChangesModel::roleNames() const {
+    return {{headingRole, "heading"}, {tintRole, "tint"}, {nameRole, "name"}, {pathRole, "path"}, {sizeRole, "size"}};
+}
+
+}  // namespace zelk
+
+#include "moc_ChangesModel.cpp"

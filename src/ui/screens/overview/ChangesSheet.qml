@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+// Which folders grew, appeared or went since the survey before.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Sheet {
+    id: sheet
+
+    required property TrendsModel trends
+
+    title: sheet.trends.changes.title
+    primary: done
+    sheetWidth: 560
+    sheetHeight: 520
+    visible: sheet.trends.showChanges
+    onDismissed: sheet.trends.closeChanges()
+
+    Item {
+        implicitHeight: 260
+
+        Column {
+            id: heading
+
+            anchors.left: parent.left
+            anchors.right: done.left
+            anchors.rightMargin: 16
+            spacing: 2
+
+            Words {
+                width: parent.width
+                text: sheet.trends.changes.title
+                size: 17
+                font.weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
+            }
+
+            Words {
+                width: parent.width
+                text: sheet.trends.changes.subtitle
+                size: 11
+                soft: true
+            }
+        }
+
+        PrimaryButton {
+            id: done
+
+            objectName: "changesDone"
+            anchors.right: parent.right
+            anchors.verticalCenter: heading.verticalCenter
+            horizontalPadding: 20
+            verticalPadding: 9
+            focus: true
+            text: sheet.trends.changes.doneLabel
+            onClicked: sheet.trends.closeChanges()
+        }
+
+        Words {
+            anchors.centerIn: parent
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            visible: sheet.trends.changes.empty
+            text: sheet.trends.changes.emptyLine
+            size: 13
+            soft: true
+        }
+
+        ChangesList {
+            anchors.top: heading.bottom
+            anchors.topMargin: 16
+            anchors.bottom: parent.bottom
+            width: parent.width
+            visible: !sheet.trends.changes.empty
+            changes: sheet.trends.changes
+        }
+    }
+}

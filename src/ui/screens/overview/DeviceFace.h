@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QLocale>
+#include <QObject>
+#include <QString>
+#include <optional>
+
+#include "platform/Vitals.h"
+#include "ui/theme/DisplayText.h"
+
+namespace zelk {
+
+/// What is written of the machine and its drive.
+struct DeviceFace {
+    Q_GADGET
+    QML_VALUE_TYPE(deviceFace)
+    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(QString detail MEMBER detail CONSTANT FINAL)
+    Q_PROPERTY(bool hasVolume MEMBER hasVolume CONSTANT FINAL)
+    Q_PROPERTY(QString freeText MEMBER freeText CONSTANT FINAL)
+    Q_PROPERTY(QString totalText MEMBER totalText CONSTANT FINAL)
+
+public:
+    QString name;
+    QString detail;          ///< what is known of chip, cores, memory and system
+    bool hasVolume = false;  ///< else the two texts are empty
+    QString freeText;
+    QString totalText;
+
+    static DeviceFace of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume,
+                         const QLocale& locale = userLocale());
+
+    bool operator==(const DeviceFace&) const = default;
+};
+
+}  // namespace zelk

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// The machine, and how full its drive is.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Item {
+    id: header
+
+    required property deviceFace device
+
+    implicitWidth: box.width + Math.max(nameText.implicitWidth, detail.implicitWidth) + volume.width + 40
+    implicitHeight: Math.max(box.height, names.height, volume.height)
+
+    Rectangle {
+        id: box
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: laptop.width + 24
+        height: laptop.height + 24
+        radius: 12
+        color: Qt.alpha(Theme.accent, 0.15)
+
+        SymbolItem {
+            id: laptop
+
+            anchors.centerIn: parent
+            name: "laptopcomputer"
+            color: Theme.accent
+            size: 22
+        }
+    }
+
+    Column {
+        id: names
+
+        anchors.left: box.right
+        anchors.leftMargin: 14
+        anchors.right: volume.left
+        anchors.rightMargin: 20
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 3
+
+        Words {
+            id: nameText
+
+            width: parent.width
+            text: header.device.name
+            size: 17
+            font.weight: Font.DemiBold
+        }
+
+        Words {
+            id: detail
+
+            width: parent.width
+            text: header.device.detail
+            size: 11
+            wrapMode: Text.Wrap
+            soft: true
+        }
+    }
+
+    Column {
+        id: volume
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        visible: header.device.hasVolume
+        width: header.device.hasVolume ? Math.max(free.implicitWidth, total.implicitWidth) : 0
+        spacing: 3
+
+        CountingText {
+            id: free
+
+            anchors.right: parent.right
+            text: header.device.freeText
+            pixelSize: 15
+            bold: true
+        }
+
+        Words {
+            id: total
+
+            anchors.right: parent.right
+            text: header.device.totalText
+            size: 11
+            soft: true
+        }
+    }
+}

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/overview/FindingCards.h"
+
+#include <algorithm>
+
+#include "state/AppModel.h"
+#include "ui/theme/DisplayText.h"
+
+namespace zelk {
+
+namespace {
+
+std::int64_t largeFileBytes(const AppModel& app) {
+    std::int64_t bytes = 0;
+    for (const LargeFile& file : app.insights().topFiles) bytes += file.size;
+    return bytes;
+}
+
+std::int64_t downloadsBytes(const AppModel& app) {
+    for (const NodeRef& folder : app.topFolders())
+        if (folder->name() == "Downloads") return folder->size;
+    return 0;
+}
+
+/// What the system would give back by itself if an application asked for the space.
+std::int64_t purgeableBytes(const AppModel& app) {
+    const std::optional<VolumeInfo>& volume = app.volume();
+    return volume ? std::max<std::int64_t>(volume->importantAvailable - volume->available, 0) : 0;
+}
+
+std::vector<FindingCards::Card> cardsOf(const AppModel& app) {
+    return {
+        {"sparkles", "Reclaim", byteFigure(app.reclaimableBytes()),
+         QStringLiteral("%1 items of junk").arg(app.reclaimables().size()), QColor(50, 199, 123), Screen::reclaim},
+        {"tray.full", "Clutter", byteFigure(largeFileBytes(app)),
+         QStringLiteral("%1 large files").arg(app.insights().topFiles.size()), QColor(34, 195, 201), Screen::clutter},
+        {"arrow.down.circle", "Downloads", byteFigure(downloadsBytes(app)), "review what landed here",
+         QColor(86, 194, 245), Screen::clutter},
+        {"internaldrive", "System", byteFigure(purgeableBytes(app)), "purgeable & snapshots", QColor(124, 131, 255),
+         Screen::system},
+    };
+}
+
+}  // namespace
+
+FindingCards::FindingCards(AppModel& app, QObject* parent)
+    : QAbstractListModel(parent), app_(app), cards_(cardsOf(app)) {}
+
+void FindingCards::refresh() {
+    const std::vector<Card> now = cardsOf(app_);
+    for (std::size_t row = 0; row < cards_.size(); ++row) {
+        if (cards_[row] == now[row]) continue;
+        cards_[row] = now[row];
+        const QModelIndex changed = index(static_cast<int>(row));
+        emit dataChanged(changed, changed);
+    }
+}
+
+int FindingCards::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(cards_.size());
+}
+
+QVariant FindingCards::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Card& card = cards_[static_cast<std::size_t>(index.row())];
+    switch (role) {
+        case symbolRole:
+            return card.symbol;
+        case Qt::DisplayRole:
+        case titleRole:
+            return card.title;
+        case valueRole:
+            return card.value;
+        case detailRole:
+            return card.detail;
+        case tintRole:
+            return card.tint;
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> FindingCards::roleNames() const {
+    return {
+        {symbolRole, "symbol"}, {titleRole, "title"}, {valueRole, "value"}, {detailRole, "detail"}, {tintRole, "tint"}};
+}
+
+void FindingCards::press(int row) {
+    if (row >= 0 && static_cast<std::size_t>(row) < cards_.size())
+        app_.setSelection(cards_[static_cast<std::size_t>(row)].screen);
+}
+
+}  // namespace zelk
+
+#include "moc_FindingCards.cpp"

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/overview/FindingsModel.h"
+
+#include "state/AppModel.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/FileTypeLook.h"
+
+namespace zelk {
+
+namespace {
+
+const QColor largestTypeColor(255, 59, 48);
+
+/// What was surveyed as a person sees it: the folder itself where there is one alone.
+std::int64_t scannedBytes(const AppModel& app) {
+    const NodeRef& root = app.root();
+    if (!root) return app.bytesScanned();
+    return root->children.size() == 1 ? root->children.front()->size : root->size;
+}
+
+QString unreadText(std::int64_t folders) {
+    if (folders < 1) return {};
+    if (folders == 1) return QStringLiteral("1 folder could not be read.");
+    return QStringLiteral("%1 folders could not be read.").arg(groupedFigure(folders));
+}
+
+}  // namespace
+
+FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app), cards_(app) {
+    for (const auto changedField : {&AppModel::scanPhaseChanged, &AppModel::reclaimablesChanged,
+                                    &AppModel::insightsChanged, &AppModel::rootChanged, &AppModel::volumeChanged})
+        connect(&app, changedField, this, &FindingsModel::refresh);
+    refresh();
+}
+
+void FindingsModel::setTheme(const ZelkTheme& theme) {
+    theme_ = &theme;
+    largest_.setTheme(theme);
+    refresh();
+}
+
+QString FindingsModel::reviewLabel() const {
+    return QStringLiteral("Review  →");
+}
+QString FindingsModel::heading() const {
+    return QStringLiteral("Findings");
+}
+QString FindingsModel::storageHeading() const {
+    return QStringLiteral("Scanned storage");
+}
+QString FindingsModel::largestHeading() const {
+    return QStringLiteral("Largest files");
+}
+QString FindingsModel::seeAllLabel() const {
+    return QStringLiteral("See all");
+}
+
+void FindingsModel::review() {
+    app_.setSelection(Screen::reclaim);
+}
+void FindingsModel::seeAll() {
+    app_.setSelection(Screen::clutter);
+}
+
+/// Of a survey under way nothing is known yet, and its fields change many times a second.
+void FindingsModel::refresh() {
+    if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
+    headline();
+    unreadLine_ = unreadText(app_.blockedPaths());
+    segments_ = readSegments();
+    freeBytes_ = app_.volume() ? app_.volume()->available : 0;
+    cards_.refresh();
+    largest_.show(app_.insights().topFiles);
+    emit changed();
+}
+
+void FindingsModel::headline() {
+    const std::int64_t recoverable = app_.reclaimableBytes();
+    reviewable_ = recoverable >= 1;
+    if (!reviewable_) {
+        title_ = QStringLiteral("Clean drive");
+        figure_.clear();
+        line_ = QStringLiteral("Nothing to reclaim right now — you scanned %1.").arg(byteFigure(scannedBytes(app_)));
+        return;
+    }
+    title_ = QStringLiteral("You can reclaim");
+    figure_ = byteFigure(recoverable);
+    line_ = QStringLiteral("across %1 items").arg(app_.reclaimables().size());
+    const auto types = app_.sortedTypeTotals();
+    line_ += types.empty() ? QStringLiteral(".")
+                           : QStringLiteral(" · most space: ") + lookOf(types.front().first, *theme_).name;
+}
+
+QList<RibbonSegment> FindingsModel::readSegments() const {
+    QList<RibbonSegment> segments;
+    const auto types = app_.sortedTypeTotals();
+    for (const auto& [type, tally] : types) {
+        if (tally.bytes < 1) continue;
+        const FileTypeLook look = lookOf(type, *theme_);
+        const bool isLargest = tally.bytes == types.front().second.bytes;
+        segments.append({look.name, tally.bytes, byteFigure(tally.bytes), isLargest ? largestTypeColor : look.color});
+    }
+    return segments;
+}
+
+}  // namespace zelk
+
+#include "moc_FindingsModel.cpp"

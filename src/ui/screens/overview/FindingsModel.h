@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include "ui/charts/RibbonPicture.h"
+#include "ui/screens/overview/FindingCards.h"
+#include "ui/screens/overview/LargestFiles.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// What a finished survey says at once: how much could be taken back, what the bytes are, what to look at next. While
+/// another survey runs it keeps what it said. Main thread.
+class FindingsModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of SurveyScreenModel")
+    Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
+    Q_PROPERTY(QString figure READ figure NOTIFY changed FINAL)
+    Q_PROPERTY(QString line READ line NOTIFY changed FINAL)
+    Q_PROPERTY(QString unreadLine READ unreadLine NOTIFY changed FINAL)
+    Q_PROPERTY(bool reviewable READ reviewable NOTIFY changed FINAL)
+    Q_PROPERTY(QString reviewLabel READ reviewLabel CONSTANT FINAL)
+    Q_PROPERTY(QString heading READ heading CONSTANT FINAL)
+    Q_PROPERTY(QString storageHeading READ storageHeading CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments NOTIFY changed FINAL)
+    Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed FINAL)
+    Q_PROPERTY(QString largestHeading READ largestHeading CONSTANT FINAL)
+    Q_PROPERTY(QString seeAllLabel READ seeAllLabel CONSTANT FINAL)
+    Q_PROPERTY(zelk::FindingCards* cards READ cards CONSTANT FINAL)
+    Q_PROPERTY(zelk::LargestFiles* largest READ largest CONSTANT FINAL)
+
+public:
+    /// `app` must outlive it.
+    explicit FindingsModel(AppModel& app, QObject* parent = nullptr);
+
+    void setTheme(const ZelkTheme& theme);
+
+    const QString& title() const { return title_; }
+    /// The big figure; empty where there is nothing to take back.
+    const QString& figure() const { return figure_; }
+    const QString& line() const { return line_; }
+    /// How many folders could not be read, so that nobody takes what is unknown for clean; empty where all could.
+    const QString& unreadLine() const { return unreadLine_; }
+    /// Whether there is anything to review.
+    bool reviewable() const { return reviewable_; }
+    QString reviewLabel() const;
+    QString heading() const;
+    QString storageHeading() const;
+    /// By type, the largest first.
+    const QList<RibbonSegment>& segments() const { return segments_; }
+    qint64 freeBytes() const { return freeBytes_; }
+    QString largestHeading() const;
+    QString seeAllLabel() const;
+    FindingCards* cards() { return &cards_; }
+    LargestFiles* largest() { return &largest_; }
+
+public slots:
+    void review();
+    void seeAll();
+
+signals:
+    void changed();
+
+private:
+    void refresh();
+    void headline();
+    QList<RibbonSegment> readSegments() const;
+
+    AppModel& app_;
+    const ZelkTheme* theme_ = &ZelkTheme::dark();
+    FindingCards cards_;
+    LargestFiles largest_;
+    QString title_;
+    QString figure_;
+    QString line_;
+    QString unreadLine_;
+    bool reviewable_ = false;
+    QList<RibbonSegment> segments_;
+    qint64 freeBytes_ = 0;
+};
+
+}  // namespace zelk

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// How much could be taken back, in one figure, and the way there.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Item {
+    id: headline
+
+    required property FindingsModel findings
+
+    implicitHeight: Math.max(words.implicitHeight, review.visible ? review.implicitHeight : 0)
+
+    Column {
+        id: words
+
+        anchors.left: parent.left
+        anchors.right: review.visible ? review.left : parent.right
+        anchors.rightMargin: review.visible ? 16 : 0
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 4
+
+        Words {
+            width: parent.width
+            text: headline.findings.title
+            size: headline.findings.reviewable ? 13 : 26
+            soft: headline.findings.reviewable
+            font.weight: headline.findings.reviewable ? Font.Medium : Font.Bold
+            Accessible.role: Accessible.Heading
+        }
+
+        CountingText {
+            text: headline.findings.figure
+            visible: text !== ""
+            pixelSize: 34
+            bold: true
+        }
+
+        Words {
+            width: parent.width
+            text: headline.findings.line
+            size: 12
+            soft: true
+            wrapMode: Text.Wrap
+        }
+
+        Words {
+            objectName: "unreadLine"
+            width: parent.width
+            text: headline.findings.unreadLine
+            visible: text !== ""
+            size: 12
+            soft: true
+            wrapMode: Text.Wrap
+        }
+    }
+
+    PrimaryButton {
+        id: review
+
+        objectName: "reviewButton"
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        visible: headline.findings.reviewable
+        text: headline.findings.reviewLabel
+        onClicked: headline.findings.review()
+    }
+}

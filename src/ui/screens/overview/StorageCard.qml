@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// What the surveyed bytes are, and under it what the Trash still holds.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Charts
+import Zelk.Controls
+
+Card {
+    id: card
+
+    required property FindingsModel findings
+    required property TrashBannerModel trash
+
+    Column {
+        width: card.availableWidth
+        spacing: 14
+
+        Eyebrow {
+            text: card.findings.storageHeading
+            Accessible.role: Accessible.Heading
+        }
+
+        StorageRibbon {
+            width: parent.width
+            segments: card.findings.segments
+            freeBytes: card.findings.freeBytes
+        }
+
+        Divider {
+            width: parent.width
+        }
+
+        TrashBanner {
+            width: parent.width
+            trash: card.trash
+        }
+    }
+}

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// The scan button and, under it, what its phase has to say. The texts share one place, and as long as nothing has been
+// found it is as high as the highest of them, so that nothing moves when the phase does.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.App
+import Zelk.Charts
+import Zelk.Controls
+
+FocusScope {
+    id: hero
+
+    required property SurveyScreenModel survey
+    // What holds the findings, which go when another survey begins.
+    required property Item findings
+
+    implicitHeight: column.implicitHeight
+
+    // A control that vanishes with its phase leaves the keyboard where the person goes on: at the button, and with the
+    // ring around it if that is what the person steers by.
+    Connections {
+        target: hero.survey
+        function onPhaseChanged() {
+            const focused = hero.Window.activeFocusItem;
+            const ours = hero.visible && (!focused || [hero, hero.findings].some(part => hero.isIn(focused, part)) || hero.isIn(hero, focused));
+            if (!ours) {
+                // Somebody is elsewhere, and stays there.
+                scanButton.focus = true;
+                return;
+            }
+            const ringed = (focused as T.AbstractButton)?.visualFocus ?? false;
+            scanButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
+        }
+    }
+
+    function isIn(item: Item, outer: Item): bool {
+        for (let above = item; above; above = above.parent)
+            if (above === outer)
+                return true;
+        return false;
+    }
+
+    Column {
+        id: column
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        spacing: 16
+
+        ScanButton {
+            id: scanButton
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            objectName: "scanButton"
+            focus: true
+            text: hero.survey.buttonName
+            idleFace: hero.survey.idleFace
+            scanningFace: hero.survey.scanningFace
+            finishedFace: hero.survey.finishedFace
+            idle: hero.survey.idle
+            scanning: hero.survey.scanning
+            finished: hero.survey.finished
+            onClicked: hero.survey.pressScan()
+        }
+
+        Item {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            // What was found follows close by.
+            implicitHeight: hero.survey.finished ? done.implicitHeight : Math.max(idleBlock.implicitHeight, progress.implicitHeight)
+
+            HeroPhase {
+                id: idleBlock
+
+                shown: hero.survey.idle
+                spacing: 20
+
+                HeroText {
+                    text: hero.survey.idleLine
+                    size: 14
+                }
+
+                FlowRow {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    width: Math.min(implicitWidth, idleBlock.width)
+                    spacing: 10
+
+                    Repeater {
+                        model: hero.survey.features
+
+                        PillButton {
+                            required property int index
+                            required property string label
+
+                            text: label
+                            onClicked: hero.survey.pressFeature(index)
+                        }
+                    }
+                }
+            }
+
+            HeroPhase {
+                id: progress
+
+                shown: hero.survey.scanning
+                spacing: 4
+
+                FigureText {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: hero.survey.itemsLine
+                    color: Theme.ink
+                    pixelSize: 13
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
+
+                HeroText {
+                    width: Math.min(420, progress.width)
+                    text: hero.survey.pathLine
+                    size: 11
+                    elide: Text.ElideMiddle
+                    maximumLineCount: 1
+                }
+
+                Item {
+                    width: 1
+                    height: 8
+                }
+
+                PlainButton {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    objectName: "cancelButton"
+                    text: hero.survey.cancelLabel
+                    onClicked: hero.survey.cancel()
+                }
+            }
+
+            HeroPhase {
+                id: done
+
+                shown: hero.survey.finished
+                spacing: 0
+
+                HeroText {
+                    text: hero.survey.finishedLine
+                    size: 11
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <functional>
+
+#include "ui/charts/ScanFace.h"
+#include "ui/screens/overview/CountingFigure.h"
+#include "ui/screens/overview/DeviceFace.h"
+#include "ui/screens/overview/FeatureList.h"
+#include "ui/screens/overview/FindingsModel.h"
+#include "ui/screens/overview/TrashBannerModel.h"
+#include "ui/screens/overview/TrendsModel.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// All that the survey screen says. It owns no data: every text is made from the AppModel. A survey reports far more
+/// often than anyone can read, so while one runs the texts change a dozen times a second and no more. Main thread.
+class SurveyScreenModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the main window")
+    Q_PROPERTY(bool idle READ idle NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool finished READ finished NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(zelk::ScanFace idleFace READ idleFace CONSTANT FINAL)
+    Q_PROPERTY(zelk::ScanFace scanningFace READ scanningFace NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(zelk::ScanFace finishedFace READ finishedFace NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(QString buttonName READ buttonName NOTIFY buttonNameChanged FINAL)
+    Q_PROPERTY(QString idleLine READ idleLine CONSTANT FINAL)
+    Q_PROPERTY(QString itemsLine READ itemsLine NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(QString pathLine READ pathLine NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT FINAL)
+    Q_PROPERTY(QString finishedLine READ finishedLine CONSTANT FINAL)
+    Q_PROPERTY(zelk::FeatureList* features READ features CONSTANT FINAL)
+    Q_PROPERTY(zelk::DeviceFace device READ device NOTIFY deviceChanged FINAL)
+    Q_PROPERTY(zelk::FindingsModel* findings READ findings CONSTANT FINAL)
+    Q_PROPERTY(zelk::TrashBannerModel* trash READ trash CONSTANT FINAL)
+    Q_PROPERTY(zelk::TrendsModel* trends READ trends CONSTANT FINAL)
+    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
+
+public:
+    /// `app` must outlive it. `now` is a steady clock in seconds, by which figures run.
+    explicit SurveyScreenModel(AppModel& app, std::function<double()> now = steadySeconds);
+
+    bool idle() const;
+    bool scanning() const;
+    bool finished() const;
+
+    ScanFace idleFace() const { return ScanFace::idle(); }
+    const ScanFace& scanningFace() const { return scanningFace_; }
+    const ScanFace& finishedFace() const { return finishedFace_; }
+    /// What a screen reader says of the scan button: the figure itself, never one on the way to it.
+    QString buttonName() const;
+
+    QString idleLine() const;
+    const QString& itemsLine() const { return itemsLine_; }
+    const QString& pathLine() const { return pathLine_; }
+    QString cancelLabel() const;
+    QString finishedLine() const;
+    FeatureList* features() { return &features_; }
+    DeviceFace device() const;
+    FindingsModel* findings() { return &findings_; }
+    TrashBannerModel* trash() { return &trash_; }
+    TrendsModel* trends() { return &trends_; }
+
+    /// Which of the two themes the colours of its figures are chosen for.
+    bool dark() const { return dark_; }
+    void setDark(bool dark);
+
+    /// Whether figures run to a new value or jump there, those that are on their way too. They run by default.
+    void setCounting(bool counting);
+
+public slots:
+    /// The scan button: begins a survey, and does nothing while one runs.
+    void pressScan();
+    void cancel();
+    /// Goes to the module of a feature.
+    void pressFeature(int row);
+    /// The screen is there: what it shows of the machine is read where nobody has yet.
+    void appear();
+
+signals:
+    void phaseChanged();
+    void figuresChanged();
+    void buttonNameChanged();
+    void deviceChanged();
+    void darkChanged();
+
+private:
+    void enterPhase();
+    void aimItems();
+    void aimBytes();
+    void aimRecoverable();
+    void followPath();
+    void aim(CountingFigure& figure, std::int64_t target, double duration);
+    void refreshSoon();
+    void startTimer();
+    void tick();
+    void refresh();
+    static double steadySeconds();
+
+    AppModel& app_;
+    FeatureList features_;
+    FindingsModel findings_;
+    TrashBannerModel trash_;
+    TrendsModel trends_;
+    bool dark_ = true;
+    std::function<double()> now_;
+    QTimer timer_;
+    bool counting_ = true;
+    bool stale_ = false;  ///< what is shown is not yet what is
+    CountingFigure items_;
+    CountingFigure bytes_;
+    CountingFigure recoverable_;
+    ScanFace scanningFace_;
+    ScanFace finishedFace_;
+    QString itemsLine_;
+    QString pathLine_;
+};
+
+}  // namespace zelk

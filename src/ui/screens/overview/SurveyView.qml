@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// The home screen: the machine, the hero in the middle of the room that there is and, once a survey has ended, what it
+// found. It scrolls where there is too little room.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+FocusScope {
+    id: view
+
+    required property SurveyScreenModel survey
+
+    Component.onCompleted: view.survey.appear()
+
+    Binding {
+        target: view.survey
+        property: "dark"
+        value: Theme.isDark
+    }
+
+    Connections {
+        target: view.survey
+        function onPhaseChanged() {
+            if (view.survey.scanning)
+                scroll.contentY = 0;
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        gradient: Gradient {
+            GradientStop {
+                position: 0
+                color: Theme.groundHi
+            }
+            GradientStop {
+                position: 1
+                color: Theme.ground
+            }
+        }
+    }
+
+    ScrollArea {
+        id: scroll
+
+        readonly property int paddingAcross: 26
+        readonly property int paddingDown: 28
+
+        objectName: "surveyScroll"
+        anchors.fill: parent
+        contentHeight: page.height
+
+        Item {
+            id: page
+
+            readonly property real heroTop: deviceHeader.y + deviceHeader.height + 12
+            readonly property real heroRoom: scroll.height - scroll.paddingDown - page.heroTop
+            readonly property real used: view.survey.finished ? findingsLoader.y + findingsLoader.implicitHeight : hero.y + hero.implicitHeight
+
+            width: scroll.width
+            height: Math.max(scroll.height, page.used + scroll.paddingDown)
+
+            DeviceHeader {
+                id: deviceHeader
+
+                x: scroll.paddingAcross
+                y: scroll.paddingDown
+                width: page.width - 2 * scroll.paddingAcross
+                device: view.survey.device
+            }
+
+            SurveyHero {
+                id: hero
+
+                x: scroll.paddingAcross
+                y: page.heroTop + (view.survey.finished ? 0 : Math.max(0, (page.heroRoom - hero.implicitHeight) / 2))
+                width: page.width - 2 * scroll.paddingAcross
+                survey: view.survey
+                findings: findingsLoader
+                focus: true
+
+                Behavior on y {
+                    NumberAnimation {
+                        duration: Motion.gentle
+                        easing.type: Easing.OutCubic
+                    }
+                }
+            }
+
+            // Built with the first results, and kept. It fades in.
+            Loader {
+                id: findingsLoader
+
+                readonly property bool wanted: view.survey.finished
+
+                function build() {
+                    if (findingsLoader.wanted && findingsLoader.status === Loader.Null)
+                        findingsLoader.setSource("FindingsBlock.qml", {
+                            survey: view.survey
+                        });
+                }
+
+                x: scroll.paddingAcross
+                y: page.heroTop + hero.implicitHeight + 22
+                width: page.width - 2 * scroll.paddingAcross
+                opacity: findingsLoader.wanted ? 1 : 0
+                onWantedChanged: findingsLoader.build()
+                Component.onCompleted: findingsLoader.build()
+
+                Behavior on opacity {
+                    enabled: findingsLoader.wanted
+                    NumberAnimation {
+                        duration: Motion.gentle
+                        easing.type: Easing.OutCubic
+                    }
+                }
+            }
+        }
+    }
+
+    Shortcut {
+        sequence: "Escape"
+        enabled: view.visible && view.survey.scanning
+        onActivated: view.survey.cancel()
+    }
+}

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/overview/TrashBannerModel.h"
+
+#include "platform/Workspace.h"
+#include "state/AppModel.h"
+#include "ui/theme/DisplayText.h"
+
+namespace zelk {
+
+TrashBannerModel::TrashBannerModel(AppModel& app, Workspace& workspace, bool showWhenEmpty, QObject* parent)
+    : QObject(parent), app_(app), workspace_(workspace), showWhenEmpty_(showWhenEmpty) {
+    for (const auto field : {&AppModel::trashBytesChanged, &AppModel::trashAccessibleChanged,
+                             &AppModel::trashLoadingChanged, &AppModel::emptyingTrashChanged})
+        connect(&app, field, this, &TrashBannerModel::changed);
+}
+
+bool TrashBannerModel::shown() const {
+    return showWhenEmpty_ || !app_.trashAccessible() || app_.trashBytes() != 0;
+}
+
+QString TrashBannerModel::title() const {
+    return QStringLiteral("Trash");
+}
+
+QString TrashBannerModel::subtitle() const {
+    if (app_.emptyingTrash()) return QStringLiteral("emptying the Trash…");
+    if (app_.trashLoading() && app_.trashBytes() == 0 && app_.trashAccessible()) return QStringLiteral("reading…");
+    if (!app_.trashAccessible()) return QStringLiteral("Full Disk Access needed to read the Trash");
+    if (app_.trashBytes() < 1) return QStringLiteral("empty");
+    return QStringLiteral("free it by emptying the Trash");
+}
+
+bool TrashBannerModel::busy() const {
+    return app_.emptyingTrash() || app_.trashLoading();
+}
+
+QString TrashBannerModel::figure() const {
+    return busy() || !app_.trashAccessible() ? QString() : byteFigure(app_.trashBytes());
+}
+
+QString TrashBannerModel::action() const {
+    if (app_.emptyingTrash()) return {};
+    if (!app_.trashAccessible()) return QStringLiteral("Grant Access");
+    return app_.trashBytes() >= 1 ? QStringLiteral("Empty") : QString();
+}
+
+void TrashBannerModel::appear() {
+    app_.refreshTrash();
+}
+
+void TrashBannerModel::act() {
+    if (app_.emptyingTrash()) return;
+    if (!app_.trashAccessible())
+        workspace_.openURL(accessSettingsURL);
+    else if (app_.trashBytes() >= 1)
+        app_.emptyTrash();
+}
+
+}  // namespace zelk
+
+#include "moc_TrashBannerModel.cpp"

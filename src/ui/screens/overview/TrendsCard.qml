@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// How the drive changes from survey to survey.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Charts
+import Zelk.Controls
+
+Card {
+    id: card
+
+    required property TrendsModel trends
+
+    readonly property bool narrow: card.availableWidth < line.implicitWidth + curve.width + 24
+
+    padding: 18
+
+    Column {
+        width: card.availableWidth
+        spacing: 12
+
+        Eyebrow {
+            text: card.trends.heading
+            Accessible.role: Accessible.Heading
+        }
+
+        Item {
+            width: parent.width
+            implicitHeight: card.narrow ? line.implicitHeight + 12 + curve.height : Math.max(line.implicitHeight, curve.height)
+
+            Row {
+                id: line
+
+                y: card.narrow ? 0 : (parent.height - height) / 2
+                spacing: 10
+
+                SymbolItem {
+                    anchors.verticalCenter: parent.verticalCenter
+                    name: card.trends.arrow
+                    color: card.trends.arrowColor
+                    size: 13
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: card.trends.arrowName
+                }
+
+                CountingText {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: card.trends.delta
+                    pixelSize: 20
+                    bold: true
+                }
+
+                Words {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: card.trends.deltaLine
+                    size: 11
+                    soft: true
+                }
+            }
+
+            Sparkline {
+                id: curve
+
+                x: card.narrow ? 0 : parent.width - width
+                y: card.narrow ? line.implicitHeight + 12 : (parent.height - height) / 2
+                width: 200
+                height: 46
+                values: card.trends.totals
+            }
+        }
+
+        Words {
+            width: parent.width
+            visible: text !== ""
+            text: card.trends.forecast
+            size: 11
+            color: card.trends.forecastColor
+        }
+
+        SecondaryButton {
+            objectName: "changesButton"
+            visible: card.trends.hasChanges
+            symbol: "clock.arrow.circlepath"
+            text: card.trends.changesLabel
+            onClicked: card.trends.openChanges()
+        }
+    }
+
+    ChangesSheet {
+        trends: card.trends
+    }
+}

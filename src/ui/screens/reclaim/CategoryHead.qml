@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// How many categories are chosen, and the menu that chooses many at once.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Item {
+    id: head
+
+    required property CategoryList categories
+
+    implicitHeight: Math.max(40, button.implicitHeight + 8)
+
+    Words {
+        id: label
+
+        x: 26
+        anchors.verticalCenter: parent.verticalCenter
+        text: head.categories.selectLabel
+        size: 11
+        soft: true
+    }
+
+    MenuButton {
+        id: button
+
+        objectName: "selectMenu"
+        anchors.left: label.right
+        anchors.leftMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        text: head.categories.menuLabel
+        said: head.categories.selectLabel
+
+        MenuRow {
+            text: head.categories.allLabel
+            onTriggered: head.categories.chooseAll()
+        }
+        MenuRow {
+            text: head.categories.safeLabel
+            onTriggered: head.categories.chooseSafe()
+        }
+        MenuRow {
+            text: head.categories.noneLabel
+            onTriggered: head.categories.chooseNone()
+        }
+    }
+}

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/reclaim/CategoryList.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+#include "state/AppModel.h"
+#include "ui/controls/Spoken.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/SafetyLook.h"
+
+namespace zelk {
+
+namespace {
+
+QString countText(std::int64_t items) {
+    return QStringLiteral("%1 items").arg(items);
+}
+
+}  // namespace
+
+CategoryList::CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review, QObject* parent)
+    : EditedList(parent),
+      app_(app),
+      review_(std::move(review)),
+      bubbles_({[this](const BubbleSlice& slice) {
+                    for (std::size_t row = 0; row < rows_.size(); ++row)
+                        if (rows_[row].category->id == slice.id) return toggle(static_cast<int>(row));
+                },
+                {},
+                {}}) {
+    connect(&app, &AppModel::reclaimablesChanged, this, &CategoryList::refresh);
+    refresh();
+}
+
+void CategoryList::appear() {
+    if (std::exchange(seeded_, true)) return;
+    chooseSafe();
+}
+
+QString CategoryList::name() const {
+    return QStringLiteral("Categories");
+}
+
+QString CategoryList::selectLabel() const {
+    return QStringLiteral("Select:");
+}
+
+QString CategoryList::menuLabel() const {
+    return chosen_.empty() ? noneLabel() : QString::number(chosen_.size());
+}
+
+QString CategoryList::allLabel() const {
+    return QStringLiteral("All");
+}
+
+QString CategoryList::safeLabel() const {
+    return QStringLiteral("Safe only");
+}
+
+QString CategoryList::noneLabel() const {
+    return QStringLiteral("None");
+}
+
+QString CategoryList::reviewLabel() const {
+    return QStringLiteral("Review & Clean");
+}
+
+QString CategoryList::mapName() const {
+    return QStringLiteral("Map of the categories");
+}
+
+int CategoryList::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant CategoryList::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    const auto text = [](std::string_view bytes) { return displayText(bytes); };
+    switch (role) {
+        case idRole:
+            return text(row.category->id);
+        case Qt::DisplayRole:
+        case nameRole:
+            return text(row.category->displayName);
+        case noteRole:
+            return text(row.category->note);
+        case tintRole:
+            return colorOf(row.category->safety);
+        case bytesRole:
+            return byteFigure(row.bytes);
+        case countRole:
+            return countText(row.items);
+        case chosenRole:
+            return isChosen(row);
+        case spokenRole:
+            return Spoken::joined({text(row.category->displayName), wordOf(row.category->safety), byteFigure(row.bytes),
+                                   countText(row.items), text(row.category->note)});
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> CategoryList::roleNames() const {
+    return {{idRole, "identity"}, {nameRole, "name"},       {noteRole, "note"},     {tintRole, "tint"},
+            {bytesRole, "bytes"}, {countRole, "itemCount"}, {chosenRole, "chosen"}, {spokenRole, "spoken"}};
+}
+
+void CategoryList::toggle(int row) {
+    if (row < 0 || row >= rowCount()) return;
+    const std::string id(rows_[static_cast<std::size_t>(row)].category->id);
+    if (!chosen_.insert(id).second) chosen_.erase(id);
+    emit dataChanged(index(row), index(row), {chosenRole});
+    announce();
+}
+
+void CategoryList::chooseAll() {
+    choose([](const ReclaimCategory&) { return true; });
+}
+
+void CategoryList::chooseSafe() {
+    choose([](const ReclaimCategory& category) { return category.safety == ReclaimSafety::safe; });
+}
+
+void CategoryList::chooseNone() {
+    choose([](const ReclaimCategory&) { return false; });
+}
+
+void CategoryList::choose(const std::function<bool(const ReclaimCategory&)>& wanted) {
+    chosen_.clear();
+    for (const Row& row : rows_)
+        if (wanted(*row.category)) chosen_.emplace(row.category->id);
+    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {chosenRole});
+    announce();
+}
+
+void CategoryList::review() {
+    std::vector<Reclaimable> items;
+    for (const Reclaimable& item : app_.reclaimables())
+        if (chosen_.contains(item.categoryID)) items.push_back(item);
+    if (!items.empty()) review_(std::move(items));
+}
+
+void CategoryList::refresh() {
+    std::unordered_map<std::string_view, std::int64_t> counts;
+    for (const Reclaimable& item : app_.reclaimables()) ++counts[item.categoryID];
+    std::vector<Row> rows;
+    for (const auto& [category, bytes] : app_.reclaimTotals()) rows.push_back({category, bytes, counts[category->id]});
+    edit(rows_, std::move(rows), [](const Row& row) { return row.category->id; });
+    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1));
+    announce();
+}
+
+void CategoryList::announce() {
+    showFooter();
+    showBubbles();
+    emit selectionChanged();
+}
+
+void CategoryList::showFooter() {
+    // Counted by item: a category that the catalogue does not know has no row, but may have been chosen before.
+    std::int64_t bytes = 0;
+    chosenItems_ = 0;
+    for (const Reclaimable& item : app_.reclaimables()) {
+        if (!chosen_.contains(item.categoryID)) continue;
+        ++chosenItems_;
+        bytes += static_cast<std::int64_t>(item.size);
+    }
+    footer_ = chosen_.empty()
+                  ? QStringLiteral("No categories selected")
+                  : countText(static_cast<std::int64_t>(chosenItems_)) + QStringLiteral(" · ") + byteFigure(bytes);
+    emit footerChanged();
+}
+
+void CategoryList::showBubbles() {
+    std::vector<BubbleSlice> slices;
+    for (const Row& row : rows_) {
+        BubbleSlice slice;
+        slice.id = row.category->id;
+        slice.label = displayText(row.category->displayName);
+        slice.bytes = row.bytes;
+        slice.color = colorOf(row.category->safety);
+        slice.selected = isChosen(row);
+        slices.push_back(std::move(slice));
+    }
+    bubbles_.setSlices(std::move(slices));
+}
+
+}  // namespace zelk
+
+#include "moc_CategoryList.cpp"

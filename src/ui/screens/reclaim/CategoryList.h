@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QString>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "reclaim/ReclaimCatalogue.h"
+#include "ui/charts/BubbleModel.h"
+#include "ui/controls/EditedList.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// What a survey found to reclaim, by category, the largest first, and which categories a person chose: as a list and
+/// as a bubble map. At first the safe ones are chosen, once and for as long as the screen lives. Main thread.
+class CategoryList : public zelk::EditedList {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of ReclaimScreenModel")
+    Q_PROPERTY(QString name READ name CONSTANT FINAL)
+    Q_PROPERTY(QString selectLabel READ selectLabel CONSTANT FINAL)
+    Q_PROPERTY(QString menuLabel READ menuLabel NOTIFY selectionChanged FINAL)
+    Q_PROPERTY(QString allLabel READ allLabel CONSTANT FINAL)
+    Q_PROPERTY(QString safeLabel READ safeLabel CONSTANT FINAL)
+    Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT FINAL)
+    Q_PROPERTY(QString footer READ footer NOTIFY footerChanged FINAL)
+    Q_PROPERTY(QString reviewLabel READ reviewLabel CONSTANT FINAL)
+    Q_PROPERTY(bool reviewable READ reviewable NOTIFY footerChanged FINAL)
+    Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
+    Q_PROPERTY(QString mapName READ mapName CONSTANT FINAL)
+
+public:
+    enum Role { idRole = Qt::UserRole, nameRole, noteRole, tintRole, bytesRole, countRole, chosenRole, spokenRole };
+
+    /// `app` must outlive it. `review` opens the review of these items, of which there is at least one.
+    CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review, QObject* parent = nullptr);
+
+    /// The screen shows it: the first time, the safe ones are chosen.
+    void appear();
+
+    QString name() const;
+    QString selectLabel() const;
+    QString menuLabel() const;
+    QString allLabel() const;
+    QString safeLabel() const;
+    QString noneLabel() const;
+    /// What is chosen, in items and bytes.
+    const QString& footer() const { return footer_; }
+    QString reviewLabel() const;
+    bool reviewable() const { return chosenItems_ > 0; }
+    BubbleModel* bubbles() { return &bubbles_; }
+    QString mapName() const;
+
+    const std::set<std::string, std::less<>>& chosen() const { return chosen_; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+public slots:
+    void toggle(int row);
+    void chooseAll();
+    void chooseSafe();
+    void chooseNone();
+    /// Does nothing without an item.
+    void review();
+
+signals:
+    void selectionChanged();
+    void footerChanged();
+
+private:
+    struct Row {
+        const ReclaimCategory* category;
+        std::int64_t bytes;
+        std::int64_t items;
+    };
+
+    void refresh();
+    void choose(const std::function<bool(const ReclaimCategory&)>& wanted);
+    void announce();
+    void showFooter();
+    void showBubbles();
+    bool isChosen(const Row& row) const { return chosen_.contains(row.category->id); }
+
+    AppModel& app_;
+    std::function<void(std::vector<Reclaimable>)> review_;
+    std::vector<Row> rows_;
+    std::set<std::string, std::less<>> chosen_;  // ids, also of categories that a survey no longer finds
+    bool seeded_ = false;
+    std::size_t chosenItems_ = 0;
+    QString footer_;
+    BubbleModel bubbles_;
+};
+
+}  // namespace zelk

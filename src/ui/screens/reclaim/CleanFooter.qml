@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// What is chosen, and the one button that leads on.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+Item {
+    id: footer
+
+    required property string line
+    property string figure: ""
+    required property string action
+    property bool ready: true
+
+    signal pressed
+
+    implicitHeight: Math.max(texts.implicitHeight, button.implicitHeight) + 2 * 14
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.groundHi
+    }
+
+    Divider {
+        width: parent.width
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: parent.left
+        anchors.leftMargin: 26
+        anchors.right: button.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Words {
+            width: parent.width
+            text: footer.line
+            size: 13
+            font.weight: Font.DemiBold
+        }
+
+        Words {
+            width: parent.width
+            text: footer.figure
+            size: 11
+            soft: true
+            visible: text !== ""
+        }
+    }
+
+    PrimaryButton {
+        id: button
+
+        objectName: "reviewButton"
+        anchors.right: parent.right
+        anchors.rightMargin: 26
+        anchors.verticalCenter: parent.verticalCenter
+        horizontalPadding: 22
+        verticalPadding: 11
+        text: footer.action
+        enabled: footer.ready
+        onClicked: footer.pressed()
+    }
+}

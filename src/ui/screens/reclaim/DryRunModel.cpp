@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/reclaim/DryRunModel.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/SafetyLook.h"
+
+namespace zelk {
+
+DryRunModel::DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items, const Platform& platform,
+                         Actions actions)
+    : model_(model), platform_(platform), actions_(std::move(actions)), rows_(std::move(items)) {
+    connect(&model, &DevCleanupModel::isCleaningChanged, this, [this] {
+        if (!isCleaning() || model_.isCleaning()) return;
+        phase_ = Phase::done;
+        emit phaseChanged();
+    });
+    connect(&model, &DevCleanupModel::progressChanged, this, &DryRunModel::progressChanged);
+}
+
+QString DryRunModel::title() const {
+    return QStringLiteral("Review cleanup");
+}
+
+QString DryRunModel::line() const {
+    const std::vector<Reclaimable>& items = rows_.items();
+    const auto toTrash = std::count_if(items.begin(), items.end(), [](const Reclaimable& item) {
+        return item.method.kind == ReclaimMethod::Kind::trash;
+    });
+    return QStringLiteral("%1 to Trash · %2 via command · %3 to recover")
+        .arg(QString::number(toTrash), QString::number(static_cast<std::ptrdiff_t>(items.size()) - toTrash),
+             byteFigure(totalSize(items)));
+}
+
+QString DryRunModel::listName() const {
+    return QStringLiteral("What will go");
+}
+
+QString DryRunModel::permanentLabel() const {
+    return QStringLiteral("Delete permanently instead of moving to Trash — irreversible");
+}
+
+void DryRunModel::setHardDelete(bool hardDelete) {
+    if (!isReview() || hardDelete == hardDelete_) return;
+    hardDelete_ = hardDelete;
+    emit hardDeleteChanged();
+}
+
+QString DryRunModel::cancelLabel() const {
+    return QStringLiteral("Cancel");
+}
+
+QString DryRunModel::confirmLabel() const {
+    return (hardDelete_ ? QStringLiteral("Delete %1 permanently") : QStringLiteral("Move %1 to Trash"))
+        .arg(byteFigure(totalSize(rows_.items())));
+}
+
+QString DryRunModel::cleaningLabel() const {
+    return QStringLiteral("Cleaning…");
+}
+
+double DryRunModel::share() const {
+    if (!isCleaning()) return 0;
+    const RemovalsModel::Progress now = model_.progress();
+    return now.items == 0 ? 0 : static_cast<double>(now.done) / static_cast<double>(now.items);
+}
+
+QString DryRunModel::progress() const {
+    if (!isCleaning()) return {};
+    const RemovalsModel::Progress now = model_.progress();
+    return QStringLiteral("%1 of %2").arg(now.done).arg(now.items);
+}
+
+QColor DryRunModel::resultTint() const {
+    return colorOf(ReclaimSafety::safe);
+}
+
+QString DryRunModel::heading() const {
+    return trashEmptied_ ? QStringLiteral("Space reclaimed") : QStringLiteral("Moved to the Trash");
+}
+
+QString DryRunModel::result() const {
+    std::size_t gone = 0;
+    std::size_t failed = 0;
+    for (const Cleaner::Result& one : model_.lastResults()) {
+        if (tookAway(one) && one.item.size >= 1) ++gone;
+        if (std::holds_alternative<Cleaner::Failed>(one.status)) ++failed;
+    }
+    QString line = byteFigure(model_.reclaimedBytes()) + QStringLiteral(" · %1 item").arg(gone);
+    if (gone != 1) line += QLatin1Char('s');
+    if (failed > 0) line += QStringLiteral(" · %1 skipped").arg(failed);
+    return line;
+}
+
+QString DryRunModel::advice() const {
+    return trashEmptied_ ? QStringLiteral("The Trash was emptied. Your free space is now updated.")
+                         : QStringLiteral(
+                               "Items were moved to the Trash, so they're recoverable — but your free "
+                               "space won't change until the Trash is emptied.");
+}
+
+QString DryRunModel::keepLabel() const {
+    return QStringLiteral("Keep in Trash");
+}
+
+QString DryRunModel::emptyLabel() const {
+    return emptyingTrash_ ? QStringLiteral("Emptying…") : QStringLiteral("Empty Trash & free space");
+}
+
+QString DryRunModel::doneLabel() const {
+    return QStringLiteral("Done");
+}
+
+void DryRunModel::cancel() {
+    if (!isReview() || std::exchange(left_, true)) return;
+    const Actions actions = actions_;  // dismissing may end this
+    actions.dismiss();
+}
+
+void DryRunModel::confirm() {
+    if (!confirmable() || left_ || model_.isCleaning()) return;
+    phase_ = Phase::cleaning;
+    emit phaseChanged();
+    model_.clean(rows_.items(), hardDelete_);
+    emit progressChanged();
+}
+
+void DryRunModel::emptyTrash() {
+    if (!emptyable() || emptyingTrash_ || left_) return;
+    emptyingTrash_ = true;
+    emit phaseChanged();
+    auto told = [this, sender = calls_.sender()] {
+        sender.post([this] {
+            emptyingTrash_ = false;
+            trashEmptied_ = true;
+            emit phaseChanged();
+        });
+    };
+    Cleaner::emptyTrash(platform_, std::move(told), model_.removals().begin(1));
+}
+
+void DryRunModel::finish() {
+    if (!isDone() || emptyingTrash_ || std::exchange(left_, true)) return;
+    const Actions actions = actions_;  // dismissing may end this
+    actions.dismiss();
+    actions.rescan();
+}
+
+void DryRunModel::close() {
+    isReview() ? cancel() : finish();
+}
+
+}  // namespace zelk
+
+#include "moc_DryRunModel.cpp"

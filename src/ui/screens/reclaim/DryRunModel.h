@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <vector>
+
+#include "platform/Platform.h"
+#include "reclaim/DevCleanupModel.h"
+#include "reclaim/MainThreadCalls.h"
+#include "ui/screens/reclaim/DryRunRows.h"
+
+namespace zelk {
+
+/// The sheet that every reviewed clean-up passes through: what would go, the going, what went. The items are fixed when
+/// it opens, and nothing is touched before the press on the confirm button. Main thread.
+class DryRunModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by ReclaimScreenModel")
+    Q_PROPERTY(bool review READ isReview NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool cleaning READ isCleaning NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool done READ isDone NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool closable READ closable NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(QString line READ line CONSTANT FINAL)
+    Q_PROPERTY(zelk::DryRunRows* rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(QString listName READ listName CONSTANT FINAL)
+    Q_PROPERTY(QString permanentLabel READ permanentLabel CONSTANT FINAL)
+    Q_PROPERTY(bool hardDelete READ hardDelete WRITE setHardDelete NOTIFY hardDeleteChanged FINAL)
+    Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT FINAL)
+    Q_PROPERTY(QString confirmLabel READ confirmLabel NOTIFY hardDeleteChanged FINAL)
+    Q_PROPERTY(QString cleaningLabel READ cleaningLabel CONSTANT FINAL)
+    Q_PROPERTY(double share READ share NOTIFY progressChanged FINAL)
+    Q_PROPERTY(QString progress READ progress NOTIFY progressChanged FINAL)
+    Q_PROPERTY(bool confirmable READ confirmable NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(QColor resultTint READ resultTint CONSTANT FINAL)
+    Q_PROPERTY(QString heading READ heading NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(QString result READ result NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(QString advice READ advice NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool emptyable READ emptyable NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool emptying READ emptyingTrash NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(QString keepLabel READ keepLabel CONSTANT FINAL)
+    Q_PROPERTY(QString emptyLabel READ emptyLabel NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(QString doneLabel READ doneLabel CONSTANT FINAL)
+
+public:
+    enum class Phase { review, cleaning, done };
+
+    /// What becomes of the sheet: `dismiss` takes it from the screen, `rescan` follows that where a cleaning has ended.
+    struct Actions {
+        std::function<void()> dismiss;
+        std::function<void()> rescan;
+    };
+
+    /// `model` and the services must outlive it, and a Trash that is being emptied when it goes.
+    DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items, const Platform& platform, Actions actions);
+
+    Phase phase() const { return phase_; }
+    bool isReview() const { return phase_ == Phase::review; }
+    bool isCleaning() const { return phase_ == Phase::cleaning; }
+    bool isDone() const { return phase_ == Phase::done; }
+    /// Whether it may be left now.
+    bool closable() const { return !isCleaning() && !emptyingTrash_; }
+
+    QString title() const;
+    QString line() const;
+    DryRunRows* rows() { return &rows_; }
+    QString listName() const;
+    QString permanentLabel() const;
+    bool hardDelete() const { return hardDelete_; }
+    /// Only while it is reviewed.
+    void setHardDelete(bool hardDelete);
+    QString cancelLabel() const;
+    QString confirmLabel() const;
+    QString cleaningLabel() const;
+    /// How much of it is done, from 0 to 1.
+    double share() const;
+    /// The same as a screen reader says it: "12 of 40".
+    QString progress() const;
+    bool confirmable() const { return isReview() && !rows_.items().empty(); }
+
+    QColor resultTint() const;
+    QString heading() const;
+    QString result() const;
+    QString advice() const;
+    bool emptyingTrash() const { return emptyingTrash_; }
+    bool trashEmptied() const { return trashEmptied_; }
+    /// Whether the Trash is still to be kept or emptied.
+    bool emptyable() const { return isDone() && !trashEmptied_; }
+    QString keepLabel() const;
+    QString emptyLabel() const;
+    QString doneLabel() const;
+
+public slots:
+    // None does anything once it was left.
+
+    /// Leaves without doing anything.
+    void cancel();
+    void confirm();
+    void emptyTrash();
+    /// Leaves behind a cleaning.
+    void finish();
+    /// What leaves it in the phase that it is in.
+    void close();
+
+signals:
+    void phaseChanged();
+    void hardDeleteChanged();
+    /// At a rate that can be read out.
+    void progressChanged();
+
+private:
+    DevCleanupModel& model_;
+    Platform platform_;
+    Actions actions_;
+    DryRunRows rows_;
+    Phase phase_ = Phase::review;
+    bool hardDelete_ = false;
+    bool emptyingTrash_ = false;
+    bool trashEmptied_ = false;
+    bool left_ = false;  // on its way out, a sheet still takes presses
+    MainThreadCalls calls_;
+};
+
+}  // namespace zelk

@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/reclaim/ItemList.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "state/AppModel.h"
+#include "ui/controls/Spoken.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/SafetyLook.h"
+
+namespace zelk {
+
+ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent)
+    : EditedList(parent), app_(app), cleanup_(cleanup) {
+    connect(&app, &AppModel::reclaimablesChanged, this, &ItemList::refresh);
+    connect(&cleanup, &DevCleanupModel::ageDaysChanged, this, [this] {
+        emit ageChanged();
+        refresh();
+    });
+    connect(&cleanup, &DevCleanupModel::selectionChanged, this, &ItemList::followSelection);
+    refresh();
+}
+
+QString ItemList::name() const {
+    return QStringLiteral("Items");
+}
+
+QString ItemList::footer() const {
+    return QStringLiteral("%1 items selected").arg(tallies_.selected.items);
+}
+
+QString ItemList::footerBytes() const {
+    return byteFigure(tallies_.selected.bytes);
+}
+
+QString ItemList::cleanLabel() const {
+    return QStringLiteral("Clean selected");
+}
+
+QString ItemList::ageLabel() const {
+    return QStringLiteral("only inactive >");
+}
+
+QString ItemList::ageText() const {
+    return ageDays() > 0 ? QStringLiteral("%1 days").arg(ageDays()) : QStringLiteral("all");
+}
+
+QString ItemList::shownText() const {
+    return QStringLiteral("%1 of %2 shown").arg(tallies_.shown.items).arg(app_.reclaimables().size());
+}
+
+QString ItemList::youngTitle() const {
+    return QStringLiteral("Nothing that old");
+}
+
+QString ItemList::youngNote() const {
+    return QStringLiteral("Everything found was in use more recently. Move the slider to the left to see it.");
+}
+
+int ItemList::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant ItemList::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    return row.item == nullptr ? dataOfGroup(*row.group, role) : dataOfItem(*row.item, role);
+}
+
+QVariant ItemList::dataOfGroup(const Group& group, int role) const {
+    const ReclaimCategory& category = *group.content.category;
+    const auto figure = [&] {
+        return QStringLiteral("%1 · ").arg(group.content.items.size()) + byteFigure(group.content.bytes());
+    };
+    switch (role) {
+        case groupRole:
+            return true;
+        case Qt::DisplayRole:
+        case nameRole:
+            return displayText(category.displayName);
+        case placeRole:
+            return displayText(category.note);
+        case figureRole:
+            return figure();
+        case tintRole:
+            return colorOf(category.safety);
+        case gradeRole:
+            return wordOf(category.safety);
+        case chosenRole:
+            return group.counts.all();
+        case freeRole:
+            return group.counts.selectable > 0;
+        case openRole:
+            return group.open;
+        case symbolRole:
+            return group.open ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
+        case spokenRole:
+            return Spoken::joined({displayText(category.displayName), figure(), wordOf(category.safety),
+                                   group.open ? QStringLiteral("expanded") : QStringLiteral("collapsed"),
+                                   displayText(category.note)});
+        default:
+            return QString();
+    }
+}
+
+QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
+    switch (role) {
+        case groupRole:
+        case openRole:
+            return false;
+        case Qt::DisplayRole:
+        case nameRole:
+            return nameText(item.path);
+        case placeRole:
+            return folderText(item.path);
+        case lineRole:
+            return lineOf(item);
+        case figureRole:
+            return byteFigure(static_cast<std::int64_t>(item.size));
+        case ageRole:
+            return ageOf(item);
+        case tintRole:
+            return colorOf(item.safety);
+        case chosenRole:
+            return cleanup_.selection().takes(item);
+        case freeRole:
+            return cleanup_.selection().conflictOf(item).empty();
+        case spokenRole:
+            return Spoken::joined({nameText(item.path), byteFigure(static_cast<std::int64_t>(item.size)), ageOf(item),
+                                   lineOf(item), folderText(item.path)});
+        default:
+            return QString();
+    }
+}
+
+QHash<int, QByteArray> ItemList::roleNames() const {
+    return {{groupRole, "group"},   {nameRole, "name"}, {placeRole, "place"}, {lineRole, "line"},
+            {figureRole, "figure"}, {ageRole, "age"},   {tintRole, "tint"},   {gradeRole, "grade"},
+            {chosenRole, "chosen"}, {freeRole, "free"}, {openRole, "open"},   {symbolRole, "symbol"},
+            {spokenRole, "spoken"}};
+}
+
+QString ItemList::lineOf(const Reclaimable& item) const {
+    if (item.method.kind == ReclaimMethod::Kind::command) return displayText(methodSummary(item.method));
+    const std::string& application = cleanup_.selection().conflictOf(item);
+    return application.empty() ? QString()
+                               : QStringLiteral("quit ") + displayText(application) + QStringLiteral(" to clear");
+}
+
+QString ItemList::ageOf(const Reclaimable& item) const {
+    const double days = (app_.platform().clock.now() - item.lastModified) / secondsPerDay;
+    return QStringLiteral("%1d").arg(static_cast<qint64>(days));
+}
+
+void ItemList::toggle(int row) {
+    if (row < 0 || row >= rowCount()) return;
+    const auto [group, item] = rows_[static_cast<std::size_t>(row)];
+    ticking_ = true;
+    if (item == nullptr)
+        cleanup_.setAll(group->content, !group->counts.all());
+    else
+        cleanup_.toggle(*item);
+    ticking_ = false;
+    tickChanged(row);
+}
+
+bool ItemList::isTwin(const Group& group, const Reclaimable& item) {
+    const std::vector<Reclaimable>& items = group.content.items;
+    return std::count_if(items.begin(), items.end(), [&](const Reclaimable& one) { return one.id == item.id; }) > 1;
+}
+
+/// The rows whose ticks changed by a press on this one, and the sums.
+void ItemList::tickChanged(int row) {
+    const auto [group, item] = rows_[static_cast<std::size_t>(row)];
+    const int header = headerOf(group);
+    if (item == nullptr) {
+        count();
+        if (group->open) changed(header + 1, header + static_cast<int>(group->content.items.size()), {chosenRole});
+    } else {
+        if (!cleanup_.selection().conflictOf(*item).empty()) return;
+        // Of two surveyed folders one in the other, what the inner one holds is listed twice and ticked as one.
+        if (isTwin(*group, *item)) return followSelection();
+        DevCleanupModel::Tally& sum = tallies_.selected;
+        const auto size = static_cast<std::int64_t>(item->size);
+        if (cleanup_.selection().contains(*item)) {
+            ++group->counts.selected;
+            ++sum.items;
+            sum.bytes += size;
+        } else {
+            --group->counts.selected;
+            --sum.items;
+            sum.bytes -= size;
+        }
+        changed(row, row, {chosenRole});
+    }
+    changed(header, header, {chosenRole});
+    emit footerChanged();
+}
+
+void ItemList::press(int row) {
+    if (row < 0 || row >= rowCount()) return;
+    const auto [group, item] = rows_[static_cast<std::size_t>(row)];
+    if (item == nullptr)
+        setOpen(row, !group->open);
+    else
+        toggle(row);
+}
+
+void ItemList::setOpen(int row, bool open) {
+    if (row < 0 || row >= rowCount()) return;
+    const auto [group, item] = rows_[static_cast<std::size_t>(row)];
+    if (item != nullptr || group->open == open) return;
+    const std::vector<Reclaimable>& items = group->content.items;
+    const int first = row + 1;
+    const int last = row + static_cast<int>(items.size());
+    group->open = open;
+    if (open) {
+        open_.emplace(group->content.category->id);
+        std::vector<Row> unfolded;
+        unfolded.reserve(items.size());
+        for (const Reclaimable& one : items) unfolded.push_back({group, &one});
+        beginInsertRows({}, first, last);
+        rows_.insert(rows_.begin() + first, unfolded.begin(), unfolded.end());
+        endInsertRows();
+    } else {
+        open_.erase(open_.find(group->content.category->id));
+        beginRemoveRows({}, first, last);
+        rows_.erase(rows_.begin() + first, rows_.begin() + last + 1);
+        endRemoveRows();
+    }
+    changed(row, row, {openRole, symbolRole, spokenRole});
+}
+
+int ItemList::groupRow(int row) const {
+    return row < 0 || row >= rowCount() ? -1 : headerOf(rows_[static_cast<std::size_t>(row)].group);
+}
+
+void ItemList::clean() {
+    if (cleanable()) cleanup_.setShowDryRun(true);
+}
+
+void ItemList::followSelection() {
+    if (ticking_) return;
+    count();
+    changed(0, rowCount() - 1, {chosenRole, freeRole, lineRole, spokenRole});
+    emit footerChanged();
+}
+
+void ItemList::refresh() {
+    // The rows that go point into the groups as they were.
+    const Groups former = std::exchange(groups_, readGroups());
+    count();
+    edit(rows_, rowsOf(groups_), keyOf);
+    changed(0, rowCount() - 1, {});
+    emit footerChanged();
+}
+
+ItemList::Groups ItemList::readGroups() const {
+    Groups groups;
+    for (CleanupGroup& group : cleanup_.groups(app_.reclaimables())) {
+        const bool open = open_.contains(group.category->id);
+        groups.push_back(std::make_unique<Group>(Group{std::move(group), {}, open}));
+    }
+    return groups;
+}
+
+std::vector<ItemList::Row> ItemList::rowsOf(const Groups& groups) {
+    std::vector<Row> rows;
+    for (const std::unique_ptr<Group>& group : groups) {
+        rows.push_back({group.get(), nullptr});
+        if (!group->open) continue;
+        for (const Reclaimable& item : group->content.items) rows.push_back({group.get(), &item});
+    }
+    return rows;
+}
+
+/// A path begins with a slash and the id of a category does not.
+std::string_view ItemList::keyOf(const Row& row) {
+    return row.item == nullptr ? row.group->content.category->id : std::string_view(row.item->id);
+}
+
+void ItemList::count() {
+    for (const std::unique_ptr<Group>& group : groups_) group->counts = cleanup_.selectionCounts(group->content);
+    tallies_ = cleanup_.tallies(app_.reclaimables());
+}
+
+int ItemList::headerOf(const Group* group) const {
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [group](const Row& row) { return row.group == group; });
+    return static_cast<int>(found - rows_.begin());
+}
+
+void ItemList::changed(int first, int last, const QList<int>& roles) {
+    if (first <= last) emit dataChanged(index(first), index(last), roles);
+}
+
+}  // namespace zelk
+
+#include "moc_ItemList.cpp"

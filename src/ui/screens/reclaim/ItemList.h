@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QString>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "reclaim/DevCleanupModel.h"
+#include "ui/controls/EditedList.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// The items of a survey for somebody who knows them: a row per category and, where that is unfolded, a row per item.
+/// Twenty thousand of them are possible: a tick changes its rows and no other, and the sums are kept up by what
+/// changed. Main thread.
+class ItemList : public zelk::EditedList {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of ReclaimScreenModel")
+    Q_PROPERTY(QString name READ name CONSTANT FINAL)
+    Q_PROPERTY(QString footer READ footer NOTIFY footerChanged FINAL)
+    Q_PROPERTY(QString footerBytes READ footerBytes NOTIFY footerChanged FINAL)
+    Q_PROPERTY(bool cleanable READ cleanable NOTIFY footerChanged FINAL)
+    Q_PROPERTY(QString cleanLabel READ cleanLabel CONSTANT FINAL)
+    Q_PROPERTY(QString ageLabel READ ageLabel CONSTANT FINAL)
+    Q_PROPERTY(int ageDays READ ageDays WRITE setAgeDays NOTIFY ageChanged FINAL)
+    Q_PROPERTY(int mostAgeDays READ mostAgeDays CONSTANT FINAL)
+    Q_PROPERTY(QString ageText READ ageText NOTIFY ageChanged FINAL)
+    Q_PROPERTY(QString shownText READ shownText NOTIFY footerChanged FINAL)
+    Q_PROPERTY(bool allYoung READ allYoung NOTIFY footerChanged FINAL)
+    Q_PROPERTY(QString youngTitle READ youngTitle CONSTANT FINAL)
+    Q_PROPERTY(QString youngNote READ youngNote CONSTANT FINAL)
+
+public:
+    enum Role {
+        groupRole = Qt::UserRole,  ///< whether the row is a category's
+        nameRole,
+        placeRole,   ///< the note of a category, the folder of an item
+        lineRole,    ///< what cleans an item, or what keeps it; may be empty
+        figureRole,  ///< bytes, of a category behind the number of its items
+        ageRole,     ///< of an item
+        tintRole,
+        gradeRole,
+        chosenRole,
+        freeRole,  ///< whether it may be ticked
+        openRole,  ///< whether a category is unfolded
+        symbolRole,
+        spokenRole
+    };
+
+    /// Both must outlive it.
+    ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent = nullptr);
+
+    QString name() const;
+    QString footer() const;
+    QString footerBytes() const;
+    bool cleanable() const { return tallies_.selected.items > 0; }
+    QString cleanLabel() const;
+    QString ageLabel() const;
+    int ageDays() const { return static_cast<int>(cleanup_.ageDays()); }
+    void setAgeDays(int days) { cleanup_.setAgeDays(days); }
+    int mostAgeDays() const { return 180; }
+    QString ageText() const;
+    QString shownText() const;
+    /// Nothing is shown, for the age filter alone.
+    bool allYoung() const { return tallies_.shown.items == 0; }
+    QString youngTitle() const;
+    QString youngNote() const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+public slots:
+    /// Of an item its tick, of a category those of all its items.
+    void toggle(int row);
+    /// Of an item its tick; a category is unfolded or folded up.
+    void press(int row);
+    /// Unfolds a category or folds it up; an item's row has nothing to unfold.
+    void setOpen(int row, bool open);
+    /// The row of the category that a row belongs to.
+    int groupRow(int row) const;
+    /// Opens the review of what is ticked.
+    void clean();
+
+signals:
+    void footerChanged();
+    void ageChanged();
+
+private:
+    struct Group {
+        CleanupGroup content;
+        CleanupSelection::Counts counts;
+        bool open;
+    };
+    using Groups = std::vector<std::unique_ptr<Group>>;
+    struct Row {
+        Group* group;
+        const Reclaimable* item;  // null in a category's row
+    };
+
+    void refresh();
+    void followSelection();
+    void count();
+    Groups readGroups() const;
+    static std::vector<Row> rowsOf(const Groups& groups);
+    static std::string_view keyOf(const Row& row);
+    QVariant dataOfGroup(const Group& group, int role) const;
+    QVariant dataOfItem(const Reclaimable& item, int role) const;
+    QString lineOf(const Reclaimable& item) const;
+    QString ageOf(const Reclaimable& item) const;
+    void tickChanged(int row);
+    static bool isTwin(const Group& group, const Reclaimable& item);
+    int headerOf(const Group* group) const;
+    void changed(int first, int last, const QList<int>& roles);
+
+    AppModel& app_;
+    DevCleanupModel& cleanup_;
+    Groups groups_;
+    std::vector<Row> rows_;
+    std::set<std::string, std::less<>> open_;  // category ids
+    DevCleanupModel::Tallies tallies_;
+    bool ticking_ = false;  // the selection changes by what happens here
+};
+
+}  // namespace zelk

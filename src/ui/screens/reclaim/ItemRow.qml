@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+// A row of the item list: a category's card or one of its items. A press on a category unfolds it, one on an item ticks
+// it; the tick of either is its own.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+ListRow {
+    id: row
+
+    required property int index
+    required property bool group
+    required property string name
+    required property string place
+    required property string line
+    required property string figure
+    required property string age
+    required property color tint
+    required property string grade
+    required property bool chosen
+    required property bool free
+    required property bool open
+    required property string symbol
+    required property string spoken
+
+    signal taken
+    signal pressed
+    signal ticked
+
+    implicitHeight: Math.max(texts.implicitHeight, box.implicitHeight) + 2 * (row.group ? 14 : 7)
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: row.spoken
+    Accessible.checkable: row.free
+    Accessible.checked: row.chosen
+    Accessible.onPressAction: row.pressed()
+    Accessible.onToggleAction: row.ticked()
+
+    Rectangle {
+        id: ground
+
+        anchors.fill: parent
+        anchors.leftMargin: 26
+        anchors.rightMargin: 26
+        anchors.topMargin: row.group ? 4 : 1
+        anchors.bottomMargin: row.group ? 4 : 1
+        radius: row.group ? 14 : 8
+        color: row.group ? Theme.surface : "transparent"
+        border.width: row.group ? 1 : 0
+        border.color: Theme.hairline
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: hover.hovered ? Theme.hoverWash : "transparent"
+        }
+
+        FocusRing {
+            shown: row.ringed
+            corner: ground.radius
+        }
+    }
+
+    HoverHandler {
+        id: hover
+
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    TapHandler {
+        onTapped: row.pressed()
+    }
+
+    CheckBox {
+        id: box
+
+        x: row.group ? 38 : 66
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.name
+        on: row.chosen
+        enabled: row.free
+        focusPolicy: Qt.NoFocus
+        Accessible.ignored: true
+        onClicked: {
+            row.taken();
+            row.ticked();
+        }
+    }
+
+    SymbolItem {
+        id: chevron
+
+        anchors.left: box.right
+        anchors.leftMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        name: row.symbol
+        color: Theme.inkSoft
+        size: Math.round(11 * TextScale.factor)
+        visible: row.group
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: chevron.right
+        anchors.leftMargin: row.group ? 10 : -6
+        anchors.right: trailing.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Words {
+            width: parent.width
+            text: row.name
+            size: row.group ? 14 : 13
+            font.weight: row.group ? Font.DemiBold : Font.Normal
+            elide: Text.ElideMiddle
+            mute: true
+        }
+
+        Words {
+            width: parent.width
+            text: row.place
+            size: row.group ? 11 : 10
+            soft: true
+            wrapMode: row.group ? Text.WordWrap : Text.NoWrap
+            elide: row.group ? Text.ElideNone : Text.ElideMiddle
+            mute: true
+        }
+
+        Words {
+            width: parent.width
+            text: row.line
+            size: 10
+            color: row.free ? Theme.inkSoft : Theme.alertText
+            visible: text !== ""
+            mute: true
+        }
+    }
+
+    Row {
+        id: trailing
+
+        anchors.right: ground.right
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 14
+
+        Words {
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.age
+            size: 11
+            soft: true
+            visible: !row.group
+            mute: true
+        }
+
+        Words {
+            anchors.verticalCenter: parent.verticalCenter
+            width: row.group ? implicitWidth : Math.max(implicitWidth, 76 * TextScale.factor)
+            horizontalAlignment: Text.AlignRight
+            text: row.figure
+            size: 12
+            font.weight: Font.Medium
+            mute: true
+        }
+
+        Tag {
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.grade
+            ink: row.tint
+            tint: 0.22
+            visible: row.group
+        }
+    }
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// For good instead of to the Trash: in the colour of a warning while it is on.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Item {
+    id: place
+
+    required property DryRunModel dryRun
+
+    implicitHeight: Math.max(label.implicitHeight, toggle.implicitHeight)
+
+    ToggleSwitch {
+        id: toggle
+
+        objectName: "permanentSwitch"
+        anchors.verticalCenter: parent.verticalCenter
+        text: place.dryRun.permanentLabel
+        labelled: false
+        checked: place.dryRun.hardDelete
+        enabled: place.dryRun.review
+        onToggled: place.dryRun.hardDelete = checked
+    }
+
+    Words {
+        id: label
+
+        anchors.left: toggle.right
+        anchors.leftMargin: 12
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        text: place.dryRun.permanentLabel
+        size: 12
+        color: place.dryRun.hardDelete ? Theme.alertText : Theme.ink
+        opacity: toggle.enabled ? 1 : 0.45
+        wrapMode: Text.WordWrap
+        mute: true
+
+        TapHandler {
+            enabled: toggle.enabled
+            onTapped: toggle.flip(false)
+        }
+    }
+}

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// What a survey found: nothing, or one of the two ways to look at it, and the sheet that leads from either to a clean-up.
+// Each is built when it is first wanted, and kept.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.App
+import Zelk.Controls
+
+FocusScope {
+    id: results
+
+    // Given by the scaffold.
+    property ReclaimScreenModel module: null
+
+    readonly property bool byCategory: results.module?.byCategory ?? false
+    readonly property bool byItem: results.module?.byItem ?? false
+    readonly property bool reviewing: results.module?.reviewing ?? false
+
+    function build() {
+        if (results.byCategory && categories.status === Loader.Null)
+            categories.setSource("CategoryPane.qml", {
+                "categories": results.module.categories
+            });
+        if (results.byItem && items.status === Loader.Null)
+            items.setSource("ItemPane.qml", {
+                "items": results.module.items,
+                "guide": results.module.guide
+            });
+    }
+
+    // A survey may begin or end under the open sheet, which stays as it is.
+    function review() {
+        const shown = sheet.item as T.Popup;
+        if (results.reviewing) {
+            sheet.source = "";
+            sheet.setSource("DryRunSheet.qml", {
+                "dryRun": results.module.dryRun
+            });
+        } else if (shown) {
+            shown.close();
+        }
+    }
+
+    onByCategoryChanged: results.build()
+    onByItemChanged: results.build()
+    onReviewingChanged: results.review()
+    Component.onCompleted: {
+        results.build();
+        results.review();
+    }
+
+    EmptyState {
+        anchors.fill: parent
+        visible: results.module?.nothing ?? false
+        symbol: results.module?.nothingSymbol ?? ""
+        title: results.module?.nothingTitle ?? ""
+        note: results.module?.nothingNote ?? ""
+    }
+
+    Loader {
+        id: categories
+
+        anchors.fill: parent
+        visible: results.byCategory
+        enabled: visible
+        focus: visible
+    }
+
+    Loader {
+        id: items
+
+        anchors.fill: parent
+        visible: results.byItem
+        enabled: visible
+        focus: visible
+    }
+
+    Loader {
+        id: sheet
+    }
+
+    // Not before it has closed, which is when it gives the keyboard back.
+    Connections {
+        target: sheet.item
+        ignoreUnknownSignals: true
+
+        function onClosed() {
+            sheet.source = "";
+        }
+    }
+}

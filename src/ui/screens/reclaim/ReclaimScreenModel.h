@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <memory>
+
+#include "reclaim/DevCleanupModel.h"
+#include "ui/screens/module/SurveyedModule.h"
+#include "ui/screens/reclaim/CategoryList.h"
+#include "ui/screens/reclaim/DryRunModel.h"
+#include "ui/screens/reclaim/ItemList.h"
+#include "ui/screens/reclaim/SafetyGuide.h"
+
+namespace zelk {
+
+/// What can be taken back, by category for everybody and by item for developers, and the review that either passes
+/// through. Main thread.
+class ReclaimScreenModel : public zelk::SurveyedModule {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the main window")
+    Q_PROPERTY(bool nothing READ nothing NOTIFY faceChanged FINAL)
+    Q_PROPERTY(bool byCategory READ byCategory NOTIFY faceChanged FINAL)
+    Q_PROPERTY(bool byItem READ byItem NOTIFY faceChanged FINAL)
+    Q_PROPERTY(QString nothingTitle READ nothingTitle CONSTANT FINAL)
+    Q_PROPERTY(QString nothingSymbol READ nothingSymbol CONSTANT FINAL)
+    Q_PROPERTY(QString nothingNote READ nothingNote CONSTANT FINAL)
+    Q_PROPERTY(zelk::CategoryList* categories READ categories CONSTANT FINAL)
+    Q_PROPERTY(zelk::ItemList* items READ items CONSTANT FINAL)
+    Q_PROPERTY(zelk::SafetyGuide* guide READ guide CONSTANT FINAL)
+    Q_PROPERTY(bool reviewing READ reviewing NOTIFY reviewingChanged FINAL)
+    Q_PROPERTY(zelk::DryRunModel* dryRun READ dryRun NOTIFY dryRunChanged FINAL)
+    Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen NOTIFY onScreenChanged FINAL)
+
+public:
+    /// `app` must outlive it.
+    explicit ReclaimScreenModel(AppModel& app);
+
+    bool nothing() const;
+    bool byCategory() const;
+    bool byItem() const;
+    QString nothingTitle() const;
+    QString nothingSymbol() const;
+    QString nothingNote() const;
+    CategoryList* categories() { return &categories_; }
+    ItemList* items() { return &items_; }
+    SafetyGuide* guide() { return &guide_; }
+
+    /// Whether the sheet is shown.
+    bool reviewing() const { return cleanup_.showDryRun(); }
+    /// That of the review that is shown, or of the last one; null before the first.
+    DryRunModel* dryRun() const { return dryRun_.get(); }
+
+    /// Whether a person looks at this screen: what is ticked follows the surveys that end meanwhile.
+    bool onScreen() const { return onScreen_; }
+    void setOnScreen(bool onScreen);
+
+    DevCleanupModel& cleanup() { return cleanup_; }
+
+signals:
+    void faceChanged();
+    void reviewingChanged();
+    void dryRunChanged();
+    void onScreenChanged();
+
+private:
+    void follow();
+    void reviewCategories(const std::vector<Reclaimable>& items);
+    void openOrClose();
+
+    AppModel& app_;
+    DevCleanupModel cleanup_;
+    CategoryList categories_;
+    ItemList items_;
+    SafetyGuide guide_;
+    std::unique_ptr<DryRunModel> dryRun_;
+    bool onScreen_ = false;
+    std::size_t lastCount_ = 0;  // of the items when they were last looked at
+};
+
+}  // namespace zelk

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/reclaim/SafetyGuide.h"
+
+#include "reclaim/ReclaimCatalogue.h"
+#include "ui/controls/Spoken.h"
+#include "ui/theme/SafetyLook.h"
+
+namespace zelk {
+
+namespace {
+
+QString meaningOf(ReclaimSafety safety) {
+    switch (safety) {
+        case ReclaimSafety::safe:
+            return QStringLiteral("Pure caches and logs. Zero risk — the app simply rebuilds them as needed.");
+        case ReclaimSafety::regenerates:
+            return QStringLiteral(
+                "Build output like node_modules and build caches. Safe to delete; recreated automatically on your next "
+                "build or install (the first one is slower).");
+        case ReclaimSafety::review:
+            return QStringLiteral(
+                "May include things you chose to keep — device backups, virtual environments, saved state. Review "
+                "before removing; left unchecked by default.");
+    }
+    return {};
+}
+
+}  // namespace
+
+QString SafetyGuide::title() const {
+    return QStringLiteral("What's safe to remove?");
+}
+
+QString SafetyGuide::closing() const {
+    return QStringLiteral("Everything moves to the Trash, so any removal is reversible until you empty it.");
+}
+
+QString SafetyGuide::spoken() const {
+    QStringList texts{title()};
+    for (const ReclaimSafety safety : allReclaimSafeties) texts << wordOf(safety) << meaningOf(safety);
+    texts << closing();
+    return Spoken::joined(texts);
+}
+
+int SafetyGuide::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(allReclaimSafeties.size());
+}
+
+QVariant SafetyGuide::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const ReclaimSafety safety = allReclaimSafeties[static_cast<std::size_t>(index.row())];
+    switch (role) {
+        case Qt::DisplayRole:
+        case gradeRole:
+            return wordOf(safety);
+        case tintRole:
+            return colorOf(safety);
+        case meaningRole:
+            return meaningOf(safety);
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> SafetyGuide::roleNames() const {
+    return {{gradeRole, "grade"}, {tintRole, "tint"}, {meaningRole, "meaning"}};
+}
+
+}  // namespace zelk
+
+#include "moc_SafetyGuide.cpp"

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// The folders that a survey walks, or a word where there is none, and the button that adds one.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Column {
+    id: list
+
+    required property SettingsScreenModel settings
+
+    // The keyboard, to a row.
+    signal handed(row: int, reason: int)
+
+    // The row that goes takes the button with it that has the keyboard: the row that follows gets it, or the button
+    // below the list.
+    function remove(row, ringed) {
+        const reason = ringed ? Qt.TabFocusReason : Qt.OtherFocusReason;
+        list.settings.removeFolder(row);
+        if (rows.count > 0)
+            list.handed(Math.min(row, rows.count - 1), reason);
+        else
+            addButton.forceActiveFocus(reason);
+    }
+
+    spacing: 12
+
+    Words {
+        width: parent.width
+        visible: list.settings.roots.empty
+        text: list.settings.noRootsLine
+        size: 13
+        soft: true
+        wrapMode: Text.Wrap
+    }
+
+    Column {
+        width: parent.width
+        visible: !list.settings.roots.empty
+        spacing: 4
+
+        Repeater {
+            id: rows
+
+            model: list.settings.roots
+
+            RootRow {
+                id: rootRow
+
+                width: list.width
+                onRemoveClicked: ringed => list.remove(index, ringed)
+
+                Connections {
+                    target: list
+                    function onHanded(row: int, reason: int) {
+                        if (row === rootRow.index)
+                            rootRow.takeKeyboard(reason);
+                    }
+                }
+            }
+        }
+    }
+
+    SecondaryButton {
+        id: addButton
+
+        objectName: "addFolderButton"
+        symbol: "plus"
+        focus: true
+        text: list.settings.addFolderLabel
+        onClicked: list.settings.addFolder()
+    }
+}

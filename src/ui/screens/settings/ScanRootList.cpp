@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/settings/ScanRootList.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "state/AppModel.h"
+#include "ui/theme/DisplayText.h"
+
+namespace zelk {
+
+ScanRootList::ScanRootList(AppModel& app) : app_(app), roots_(app.scanRoots()) {
+    connect(&app, &AppModel::scanRootsChanged, this, &ScanRootList::follow);
+}
+
+int ScanRootList::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(roots_.size());
+}
+
+QVariant ScanRootList::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const QString path = displayText(roots_[static_cast<std::size_t>(index.row())]);
+    switch (role) {
+        case Qt::DisplayRole:
+        case pathRole:
+            return path;
+        case removeNameRole:
+            return QStringLiteral("Remove %1").arg(path);
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> ScanRootList::roleNames() const {
+    return {{pathRole, "path"}, {removeNameRole, "removeName"}};
+}
+
+/// What both lists begin and end with keeps its rows, so that one folder more or less is one row more or less.
+void ScanRootList::follow() {
+    const std::vector<std::string>& now = app_.scanRoots();
+    const bool wasEmpty = empty();
+    const auto [oldFrom, newFrom] = std::mismatch(roots_.begin(), roots_.end(), now.begin(), now.end());
+    auto oldTo = roots_.end();
+    auto newTo = now.end();
+    while (oldTo != oldFrom && newTo != newFrom && *std::prev(oldTo) == *std::prev(newTo)) {
+        --oldTo;
+        --newTo;
+    }
+    const int first = static_cast<int>(std::distance(roots_.begin(), oldFrom));
+    if (oldFrom != oldTo) {
+        beginRemoveRows({}, first, static_cast<int>(std::distance(roots_.begin(), oldTo)) - 1);
+        roots_.erase(oldFrom, oldTo);
+        endRemoveRows();
+    }
+    if (newFrom != newTo) {
+        beginInsertRows({}, first, static_cast<int>(std::distance(now.begin(), newTo)) - 1);
+        roots_.insert(roots_.begin() + first, newFrom, newTo);
+        endInsertRows();
+    }
+    if (empty() != wasEmpty) emit emptyChanged();
+}
+
+}  // namespace zelk
+
+#include "moc_ScanRootList.cpp"

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+// One tool: what it is, what it does, and what it takes away, all of it one button.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+BaseButton {
+    id: row
+
+    required property int index
+    required property string symbol
+    required property color tint
+    required property string title
+    required property string detail
+    required property string cleanup
+    required property bool cleans
+    required property string spoken
+
+    text: row.spoken
+    padding: 16
+    implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
+
+    background: Rectangle {
+        radius: 14
+        color: Theme.surface
+        border.width: 1
+        border.color: row.hovered ? Qt.alpha(row.tint, 0.5) : Theme.hairline
+        Behavior on border.color {
+            ColorAnimation {
+                duration: Motion.quick
+            }
+        }
+
+        Wash {
+            anchors.fill: parent
+            radius: parent.radius
+            control: row
+        }
+
+        FocusRing {
+            shown: row.visualFocus
+            corner: 14
+        }
+    }
+
+    Item {
+        id: content
+
+        x: row.leftPadding
+        y: row.topPadding
+        width: row.availableWidth
+        height: row.availableHeight
+        implicitHeight: Math.max(tile.height, words.height)
+
+        Tile {
+            id: tile
+
+            anchors.verticalCenter: parent.verticalCenter
+            symbol: row.symbol
+            tint: row.tint
+            side: 40
+            symbolSize: 20
+        }
+
+        Column {
+            id: words
+
+            anchors.left: tile.right
+            anchors.leftMargin: 16
+            anchors.right: chevron.left
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 4
+
+            Words {
+                width: parent.width
+                text: row.title
+                size: 17
+                font.weight: Font.DemiBold
+                wrapMode: Text.Wrap
+                mute: true
+            }
+
+            Words {
+                width: parent.width
+                text: row.detail
+                size: 14
+                soft: true
+                wrapMode: Text.Wrap
+                mute: true
+            }
+
+            Words {
+                width: parent.width
+                topPadding: 4
+                visible: row.cleans
+                text: row.cleanup
+                size: 12
+                font.weight: Font.Medium
+                wrapMode: Text.Wrap
+                mute: true
+            }
+        }
+
+        SymbolItem {
+            id: chevron
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            name: "chevron.right"
+            color: Theme.inkSoft
+            size: 12
+        }
+    }
+}

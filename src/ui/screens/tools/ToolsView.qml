@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// What the application can do, each row leading to where it is done.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+FocusScope {
+    id: view
+
+    required property ToolsScreenModel tools
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+
+    ModuleHeader {
+        id: header
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        symbol: view.tools.symbol
+        tint: view.tools.tint
+        title: view.tools.title
+        subtitle: view.tools.subtitle
+    }
+
+    ScrollArea {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        contentHeight: rows.implicitHeight
+
+        Column {
+            id: rows
+
+            width: parent.width
+            padding: 24
+            spacing: 12
+
+            Repeater {
+                model: view.tools
+
+                ToolRow {
+                    width: rows.width - 2 * rows.padding
+                    focus: index === 0
+                    onClicked: view.tools.press(index)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// One page of the welcome: its disc, its title and what it says. A page beside the current one is only seen, and never
+// heard, on its way.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+Item {
+    id: page
+
+    required property int index
+    required property string symbol
+    required property color tint
+    required property string title
+    required property string body
+    required property bool current
+
+    implicitHeight: column.implicitHeight
+
+    opacity: page.current ? 1 : 0
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Motion.gentle
+        }
+    }
+
+    Column {
+        id: column
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: page.width
+        spacing: 12
+
+        Rectangle {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 140
+            height: 140
+            radius: width / 2
+            color: Qt.alpha(page.tint, 0.16)
+
+            Rectangle {
+                anchors.centerIn: parent
+                width: 108
+                height: 108
+                radius: width / 2
+                gradient: Gradient {
+                    GradientStop {
+                        position: 0
+                        color: Qt.lighter(page.tint, 1.15)
+                    }
+                    GradientStop {
+                        position: 1
+                        color: page.tint
+                    }
+                }
+
+                SymbolItem {
+                    anchors.centerIn: parent
+                    name: page.symbol
+                    color: "white"
+                    size: 44
+                }
+            }
+        }
+
+        Words {
+            width: parent.width
+            topPadding: 16
+            text: page.title
+            size: 26
+            font.weight: Font.Bold
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            mute: !page.current
+            Accessible.role: Accessible.Heading
+        }
+
+        Words {
+            width: parent.width
+            text: page.body
+            size: 14
+            soft: true
+            lineHeight: 1.35
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            mute: !page.current
+        }
+    }
+}

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// The welcome: a page, the dots of all of them, and the buttons. Left and Right turn the pages too.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.App
+import Zelk.Controls
+
+FocusScope {
+    id: panel
+
+    required property WelcomeModel welcome
+
+    readonly property alias primary: primaryButton
+
+    // A button that goes with its page leaves the keyboard at the one that is always there, and with the ring around it
+    // if that is what the person steers by.
+    function turn(page) {
+        const ringed = (panel.Window.activeFocusItem as T.AbstractButton)?.visualFocus ?? false;
+        page();
+        const stays = back.activeFocus && panel.welcome.backShown || skip.activeFocus && panel.welcome.skipShown;
+        if (!stays)
+            primaryButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
+    }
+
+    implicitHeight: column.implicitHeight + 2 * 8
+
+    Keys.onLeftPressed: panel.turn(panel.welcome.back)
+    Keys.onRightPressed: panel.turn(panel.welcome.next)
+
+    Column {
+        id: column
+
+        y: 8
+        width: panel.width
+        spacing: 28
+
+        Item {
+            id: stage
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            implicitHeight: pages.implicitHeight
+            clip: true
+
+            Row {
+                id: pages
+
+                objectName: "welcomePages"
+                x: -panel.welcome.page * stage.width
+
+                Behavior on x {
+                    enabled: !Motion.reduced
+                    NumberAnimation {
+                        duration: panel.welcome.turnTime
+                        easing: panel.welcome.turnEasing
+                    }
+                }
+
+                Repeater {
+                    model: panel.welcome
+
+                    WelcomePage {
+                        width: stage.width
+                    }
+                }
+            }
+        }
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 8
+            Accessible.role: Accessible.Indicator
+            Accessible.name: panel.welcome.position
+
+            Repeater {
+                model: panel.welcome
+
+                Rectangle {
+                    id: dot
+
+                    required property bool current
+
+                    width: 8
+                    height: 8
+                    radius: 4
+                    color: dot.current ? Theme.accent : Theme.hairline
+                    Behavior on color {
+                        ColorAnimation {
+                            duration: Motion.gentle
+                        }
+                    }
+                }
+            }
+        }
+
+        Item {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            implicitHeight: primaryButton.implicitHeight
+
+            LinkButton {
+                id: skip
+
+                objectName: "skipButton"
+                anchors.left: parent.left
+                anchors.verticalCenter: parent.verticalCenter
+                text: panel.welcome.skipLabel
+                size: 13
+                textColor: Theme.inkSoft
+                opacity: panel.welcome.skipShown ? 1 : 0
+                enabled: panel.welcome.skipShown
+                onClicked: panel.welcome.skip()
+            }
+
+            SecondaryButton {
+                id: back
+
+                objectName: "backButton"
+                anchors.right: primaryButton.left
+                anchors.rightMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                text: panel.welcome.backLabel
+                size: 13
+                visible: panel.welcome.backShown
+                onClicked: panel.turn(panel.welcome.back)
+            }
+
+            PrimaryButton {
+                id: primaryButton
+
+                objectName: "primaryButton"
+                anchors.right: parent.right
+                text: panel.welcome.primaryLabel
+                focus: true
+                onClicked: panel.turn(panel.welcome.pressPrimary)
+            }
+        }
+    }
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// Whether the application speaks to a developer. Folded up only the switch itself is left of it.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.App
+import Zelk.Controls
+
+Item {
+    id: place
+
+    required property SidebarModel sidebar
+    required property bool tight
+
+    implicitHeight: Math.max(place.tight ? 32 : 40, label.implicitHeight + 12)
+
+    Words {
+        id: label
+
+        anchors.left: parent.left
+        anchors.leftMargin: 12
+        anchors.right: toggle.left
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        text: place.sidebar.developerLabel
+        size: 12
+        soft: true
+        mute: true
+        visible: !place.sidebar.collapsed
+    }
+
+    ToggleSwitch {
+        id: toggle
+
+        objectName: "developerSwitch"
+        x: place.sidebar.collapsed ? (place.width - width) / 2 : place.width - width - 8
+        anchors.verticalCenter: parent.verticalCenter
+        text: place.sidebar.developerLabel
+        labelled: false
+        checked: place.sidebar.developer
+        onToggled: place.sidebar.developer = checked
+
+        HelpTip {
+            text: place.sidebar.developerHelp
+            control: toggle
+        }
+    }
+}

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+// One module in the sidebar, and over the first of a group the group's title. The symbol stays where it is when the
+// sidebar folds up.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+Column {
+    id: place
+
+    required property int index
+    required property string heading
+    required property string title
+    required property string symbol
+    required property color tint
+    required property bool selected
+    required property string name
+
+    property bool collapsed: false
+    property bool tight: false
+
+    signal pressed(int index)
+    signal stepped(int index, int by)
+
+    function takeFocus(reason: int) {
+        row.forceActiveFocus(reason);
+    }
+
+    // A group stands off from the one above it, folded up too.
+    Item {
+        width: parent.width
+        height: headingText.text === "" ? 0 : place.collapsed ? (place.tight ? 8 : 16) : headingText.implicitHeight
+        visible: height > 0
+        clip: true
+
+        Words {
+            id: headingText
+
+            width: parent.width
+            topPadding: place.tight ? 8 : 20
+            bottomPadding: place.tight ? 4 : 8
+            leftPadding: 12
+            text: place.heading
+            size: 10
+            soft: true
+            font.weight: Font.DemiBold
+            visible: !place.collapsed
+            Accessible.role: Accessible.Heading
+        }
+    }
+
+    BaseButton {
+        id: row
+
+        objectName: place.name
+        text: place.title
+        width: parent.width
+        height: Math.max(place.tight ? 32 : 36, label.implicitHeight + 12)
+        onClicked: place.pressed(place.index)
+
+        Accessible.role: Accessible.PageTab
+        Accessible.selectable: true
+        Accessible.selected: place.selected
+
+        Keys.onUpPressed: place.stepped(place.index, -1)
+        Keys.onDownPressed: place.stepped(place.index, 1)
+
+        background: Rectangle {
+            radius: 8
+            color: place.selected ? Qt.alpha(place.tint, Theme.isDark ? 0.18 : 0.16) : row.hovered || row.down ? Theme.hairline : "transparent"
+            Behavior on color {
+                ColorAnimation {
+                    duration: Motion.quick
+                }
+            }
+
+            FocusRing {
+                shown: row.visualFocus
+                corner: 8
+            }
+        }
+
+        Item {
+            id: content
+
+            x: row.leftPadding
+            y: row.topPadding
+            width: row.availableWidth
+            height: row.availableHeight
+
+            TextSymbol {
+                x: 10
+                anchors.verticalCenter: parent.verticalCenter
+                name: place.symbol
+                color: place.selected ? place.tint : Theme.inkSoft
+                points: 14
+            }
+
+            Words {
+                id: label
+
+                anchors.left: parent.left
+                anchors.leftMargin: 40
+                anchors.right: parent.right
+                anchors.rightMargin: 8
+                anchors.verticalCenter: parent.verticalCenter
+                text: place.title
+                size: 14
+                mute: true
+                font.weight: place.selected ? Font.DemiBold : Font.Medium
+                opacity: place.collapsed ? 0 : place.selected ? 1 : 0.88
+                visible: opacity > 0
+                Behavior on opacity {
+                    NumberAnimation {
+                        duration: Motion.quick
+                    }
+                }
+            }
+        }
+
+        HelpTip {
+            text: place.collapsed ? place.title : ""
+            control: row
+        }
+    }
+}

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "ui/shell/SidebarRows.h"
+
+#include "state/AppModel.h"
+#include "ui/theme/ScreenLook.h"
+
+namespace zelk {
+
+const std::vector<SidebarGroup>& sidebarGroups() {
+    static const std::vector<SidebarGroup> groups{
+        {"", {Screen::survey}},
+        {"Clean", {Screen::reclaim, Screen::privacy, Screen::tune}},
+        {"Manage", {Screen::apps, Screen::clutter, Screen::duplicates}},
+        {"Explore", {Screen::lens, Screen::health, Screen::system}},
+    };
+    return groups;
+}
+
+SidebarRows::SidebarRows(AppModel& app, std::span<const SidebarGroup> groups) : app_(app), selected_(app.selection()) {
+    for (const SidebarGroup& group : groups)
+        for (const Screen screen : group.screens)
+            rows_.push_back({screen == group.screens.front() ? group.title : QString(), screen});
+    connect(&app, &AppModel::selectionChanged, this, &SidebarRows::followSelection);
+}
+
+int SidebarRows::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant SidebarRows::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    const ScreenLook& look = lookOf(row.screen);
+    switch (role) {
+        case headingRole:
+            return row.heading;
+        case Qt::DisplayRole:
+        case titleRole:
+            return look.title;
+        case symbolRole:
+            return look.symbol;
+        case tintRole:
+            return look.color;
+        case selectedRole:
+            return row.screen == selected_;
+        case nameRole:
+            return QStringLiteral("sidebar") + look.title;
+        default:
+            return {};
+    }
+}
+
+QHash<int, QByteArray> SidebarRows::roleNames() const {
+    return {{headingRole, "heading"}, {titleRole, "title"},       {symbolRole, "symbol"},
+            {tintRole, "tint"},       {selectedRole, "selected"}, {nameRole, "name"}};
+}
+
+void SidebarRows::press(int row) {
+    if (row >= 0 && row < rowCount()) app_.setSelection(screenAt(row));
+}
+
+/// Two rows change at most, and only they are drawn anew.
+void SidebarRows::followSelection() {
+    const Screen before = std::exchange(selected_, app_.selection());
+    for (int row = 0; row < rowCount(); ++row)
+        if (screenAt(row) == before || screenAt(row) == selected_)
+            emit dataChanged(index(row), index(row), {selectedRole});
+}
+
+}  // namespace zelk
+
+#include "moc_SidebarRows.cpp"

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "ui/shell/BundleInfo.h"
+#include "ui/shell/Tray.h"
+
+namespace zelk {
+
+class Preferences;
+class Workspace;
+
+/// What the windows ask of the system beside the AppModel. Without preferences or a desktop there is no first run.
+struct WindowServices {
+    Preferences* preferences = nullptr;
+    Workspace* workspace = nullptr;
+    std::function<bool()> accessGranted;  ///< whether the whole drive may be read
+    std::function<std::optional<std::string>()> pickFolder = [] { return std::nullopt; };
+    std::function<void()> quit = [] {};
+    BundleInfo bundle;
+    std::function<std::unique_ptr<Tray>()> tray = desktopTray;
+};
+
+}  // namespace zelk

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "ui/theme/DisplayText.h"
+
+#include <QList>
+#include <QTextBoundaryFinder>
+#include <string>
+
+#include "platform/ByteFormat.h"
+
+namespace zelk {
+
+namespace {
+
+constexpr char16_t controlPictures = 0x2400;  // U+2400 + n is the picture of the control character n
+constexpr char16_t deletePicture = 0x2421;
+constexpr qsizetype wholePathLimit = 57;
+constexpr qsizetype keptOfLongPath = 55;
+
+bool turnsDirection(char16_t unit) {
+    return unit == 0x061C || unit == 0x200E || unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
+           (unit >= 0x2066 && unit <= 0x2069);
+}
+
+QChar visible(QChar character) {
+    const char16_t unit = character.unicode();
+    if (unit < 0x20) return QChar(static_cast<char16_t>(controlPictures + unit));
+    if (unit == 0x7F) return QChar(deletePicture);
+    const bool laterControl = unit >= 0x80 && unit <= 0x9F;
+    const bool breaksLine = unit == 0x2028 || unit == 0x2029;
+    if (laterControl || breaksLine || turnsDirection(unit)) return QChar(QChar::ReplacementCharacter);
+    return character;
+}
+
+}  // namespace
+
+QString displayText(std::string_view bytes) {
+    QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    for (QChar& character : text) character = visible(character);
+    return text;
+}
+
+QString nameText(std::string_view path) {
+    return displayText(path.substr(path.rfind('/') + 1));
+}
+
+QString folderText(std::string_view path) {
+    const std::size_t slash = path.rfind('/');
+    return displayText(path.substr(0, slash == 0 ? 1 : slash == std::string_view::npos ? 0 : slash));
+}
+
+QString byteFigure(std::int64_t bytes, const QLocale& locale) {
+    return QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString()));
+}
+
+QString groupedFigure(std::int64_t count, const QLocale& locale) {
+    return locale.toString(static_cast<qlonglong>(count));
+}
+
+QString shortenedPath(const QString& path) {
+    if (path.size() < wholePathLimit) return path;  // no character is shorter than one unit
+
+    QList<qsizetype> starts;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, path);
+    for (qsizetype at = 0; at >= 0 && at < path.size(); at = finder.toNextBoundary()) starts.append(at);
+    if (starts.size() < wholePathLimit) return path;
+    return QStringLiteral("…") + path.mid(starts.at(starts.size() - keptOfLongPath));
+}
+
+}  // namespace zelk

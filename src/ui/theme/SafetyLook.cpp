@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "ui/theme/SafetyLook.h"
+
+namespace zelk {
+
+QColor colorOf(ReclaimSafety safety) {
+    switch (safety) {
+        case ReclaimSafety::safe:
+            return {50, 199, 123};
+        case ReclaimSafety::regenerates:
+            return {245, 166, 35};
+        case ReclaimSafety::review:
+            return {255, 107, 94};
+    }
+    return {};
+}
+
+QString wordOf(ReclaimSafety safety) {
+    const std::string_view word = rawValue(safety);
+    return QString::fromLatin1(word.data(), static_cast<qsizetype>(word.size()));
+}
+
+}  // namespace zelk

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "ui/theme/SymbolItem.h"
+
+#include <QCache>
+#include <QHash>
+#include <QMutex>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <cmath>
+
+namespace zelk {
+
+namespace {
+
+/// What makes one picture.
+struct Tinting {
+    QString name;
+    QRgb color;
+    int pixels;
+
+    bool operator==(const Tinting&) const = default;
+};
+
+size_t qHash(const Tinting& tinting, size_t seed = 0) {
+    return qHashMulti(seed, tinting.name, tinting.color, tinting.pixels);
+}
+
+constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
+
+/// The pictures drawn last, so that a list whose every row has the same symbol reads its file once.
+class DrawnSymbols {
+public:
+    template <typename Draw>
+    QImage take(const Tinting& tinting, Draw draw) {
+        const QMutexLocker lock(&mutex_);  // items paint on the threads that render their windows
+        if (const QImage* image = images_.object(tinting)) return *image;
+        const QImage image = draw(tinting);
+        if (!image.isNull()) images_.insert(tinting, new QImage(image), image.sizeInBytes());
+        return image;
+    }
+
+private:
+    QMutex mutex_;
+    QCache<Tinting, QImage> images_{kKeptBytes};
+};
+
+QImage drawTinted(const Tinting& tinting) {
+    if (tinting.name.isEmpty() || tinting.pixels < 1) return {};
+    QSvgRenderer renderer(symbolFile(tinting.name));
+    if (!renderer.isValid()) return {};
+    QImage image(tinting.pixels, tinting.pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    renderer.render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), QColor::fromRgba(tinting.color));
+    return image;
+}
+
+}  // namespace
+
+QString symbolFile(const QString& name) {
+    return QStringLiteral(":/Zelk/Controls/symbols/%1.svg").arg(name);
+}
+
+QImage tintedSymbol(const QString& name, const QColor& color, int pixels) {
+    static DrawnSymbols drawn;
+    return drawn.take({name, color.rgba(), pixels}, drawTinted);
+}
+
+SymbolItem::SymbolItem(QQuickItem* parent) : QQuickPaintedItem(parent) {}
+
+void SymbolItem::setName(const QString& name) {
+    if (name == name_) return;
+    name_ = name;
+    update();
+    emit nameChanged();
+}
+
+void SymbolItem::setColor(const QColor& color) {
+    if (color == color_) return;
+    color_ = color;
+    update();
+    emit colorChanged();
+}
+
+void SymbolItem::setSize(qreal size) {
+    if (size == size_) return;
+    size_ = size;
+    setImplicitSize(size, size);
+    emit sizeChanged();
+}
+
+void SymbolItem::paint(QPainter* painter) {
+    const qreal scale = painter->deviceTransform().m11();
+    const int pixels = static_cast<int>(std::lround(boundingRect().width() * scale));
+    painter->drawImage(boundingRect(), tintedSymbol(name_, color_, pixels));
+}
+
+}  // namespace zelk
+
+#include "moc_SymbolItem.cpp"
