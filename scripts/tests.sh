@@ -2,11 +2,11 @@
 # Runs the tests of a preset that was built. Sourced after common.sh and build.sh, from the root folder.
 
 # run_tests PRESET: gives ctest's status, which has had its say; then says how many cases there were, since one process
-# may run many.
+# may run many. Two for a core: a test waits as often as it works.
 run_tests() {
     tests_status=0
     QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software \
-        ctest --preset "$1" -j "$(getconf _NPROCESSORS_ONLN)" --test-output-size-passed 10000000 || tests_status=$?
+        ctest --preset "$1" -j "$((2 * $(getconf _NPROCESSORS_ONLN)))" --test-output-size-passed 10000000 || tests_status=$?
     log=$(preset_folder "$1")/Testing/Temporary/LastTest.log
     note "$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran\..*/\1/p' "$log" | awk '{ n += $1 } END { print n + 0 }')" \
         "test cases ran, $(grep -c '^\[  SKIPPED \] .* ms)$' "$log") of them skipped."

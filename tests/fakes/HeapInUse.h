@@ -5,7 +5,16 @@
 
 #include <cstddef>
 
+// g++ says so by macros, clang by features.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define ZELK_SANITIZERS_HEAP
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define ZELK_SANITIZERS_HEAP
+#endif
+#endif
+
+#ifdef ZELK_SANITIZERS_HEAP
 // Of the sanitizers' common interface; g++ installs no header that has it.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -14,7 +23,7 @@ namespace zelk::fakes {
 
 /// The bytes that the process has taken from the heap and not given back. Sanitizers keep a heap of their own.
 inline std::size_t heapInUse() {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef ZELK_SANITIZERS_HEAP
     return __sanitizer_get_current_allocated_bytes();
 #else
     const struct mallinfo2 heap = ::mallinfo2();

@@ -26,6 +26,7 @@ public:
 inline int runWindowTests(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
+    qputenv("QML_DISABLE_DISK_CACHE", "1");  // a build that interprets its views would keep them in the home
     const QApplication application(argc, argv);
     dressApplication();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));

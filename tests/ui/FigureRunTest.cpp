@@ -68,9 +68,9 @@ TEST(FigureRun, doesNotRunBetweenTextsThatDifferInMoreThanANumber) {
 }
 
 TEST(FigureRun, readsTheNumbersOfTheUsersLanguage) {
-    const QLocale german(QLocale::German, QLocale::Germany);
-    EXPECT_EQ(between("900 MB", "1,2 GB", 0.5, german), "1,05 GB");
-    EXPECT_EQ(between("900", "12.100", 0.5, german), "6.500");
+    const QLocale germany(QLocale::German, QLocale::Germany);
+    EXPECT_EQ(between("900 MB", "1,2 GB", 0.5, germany), "1,05 GB");
+    EXPECT_EQ(between("900", "12.100", 0.5, germany), "6.500");
 }
 
 }  // namespace zelk

@@ -129,11 +129,11 @@ TEST_F(FolderPicker, asksAndGivesNothingWhenRefused) {
 TEST_F(FolderPicker, makesNoHomeThatDoesNotExist) {
     const zoo::TempFolder folder;
     const QString before = placeOfSettings();
-    for (const char* home : {"missing", "there"}) {
-        const fakes::EnvironmentVariable variable("HOME", folder / home);
-        const QString place = QString::fromStdString(folder / home + "/.config");
+    for (const char* kind : {"missing", "there"}) {
+        const fakes::EnvironmentVariable variable("HOME", folder / kind);
+        const QString place = QString::fromStdString(folder / kind + "/.config");
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, place);
-        if (home == std::string("there")) zoo::makeFolder(folder / home);
+        if (kind == std::string("there")) zoo::makeFolder(folder / kind);
         refused();
         EXPECT_EQ(placeOfSettings(), place);
     }
