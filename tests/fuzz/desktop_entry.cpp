@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "platform/Utf8.h"
-#include "platform/linux/DesktopEntry.h"
-#include "platform/linux/RunningProcesses.h"
+#include "platform/linux/apps/DesktopEntry.h"
+#include "platform/linux/apps/RunningProcesses.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "fakes/TrashContent.h"
-#include "platform/linux/TrashInfo.h"
+#include "platform/linux/trash/TrashInfo.h"
 
 namespace {
 

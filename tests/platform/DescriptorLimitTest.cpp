@@ -10,7 +10,7 @@
 #include "platform/posix/DirectoryLadder.h"
 
 #ifdef __linux__
-#include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/linux/files/LinuxDirectoryReader.h"
 #endif
 
 namespace zelk {

@@ -14,7 +14,7 @@
 #include "fakes/InChild.h"
 #include "fakes/OpenDescriptors.h"
 #include "fakes/SystemCallGate.h"
-#include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/linux/files/LinuxDirectoryReader.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxApplications.h"
+#include "platform/linux/apps/LinuxApplications.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>

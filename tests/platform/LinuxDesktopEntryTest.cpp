@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include "platform/linux/DesktopEntry.h"
+#include "platform/linux/apps/DesktopEntry.h"
 
 namespace zelk {
 namespace {

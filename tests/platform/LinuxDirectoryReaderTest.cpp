@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/linux/files/LinuxDirectoryReader.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -22,7 +22,7 @@
 #include "fakes/OpenDescriptors.h"
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
-#include "platform/linux/StatxEntry.h"
+#include "platform/linux/files/StatxEntry.h"
 #include "platform/posix/Descriptor.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"

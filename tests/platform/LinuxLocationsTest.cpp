@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxLocations.h"
+#include "platform/linux/files/LinuxLocations.h"
 
 #include <gtest/gtest.h>
 #include <pwd.h>
@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "fakes/Environment.h"
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/trash/LinuxTrash.h"
 #include "zoo/TempFolder.h"
 
 namespace zelk {

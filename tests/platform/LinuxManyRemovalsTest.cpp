@@ -11,8 +11,8 @@
 
 #include "fakes/InChild.h"
 #include "fakes/TestFiles.h"
-#include "platform/linux/LinuxFileManager.h"
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/files/LinuxFileManager.h"
+#include "platform/linux/trash/LinuxTrash.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 

@@ -14,7 +14,7 @@
 #include "fakes/OpenDescriptors.h"
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
-#include "platform/linux/LinuxFileManager.h"
+#include "platform/linux/files/LinuxFileManager.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/RemoveEntry.h"
 #include "zoo/TempFolder.h"

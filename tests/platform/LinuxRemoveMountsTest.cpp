@@ -14,7 +14,7 @@
 #include "fakes/Mounts.h"
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
-#include "platform/linux/LinuxFileManager.h"
+#include "platform/linux/files/LinuxFileManager.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 

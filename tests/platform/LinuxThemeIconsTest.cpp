@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/ThemeIcons.h"
+#include "platform/linux/apps/ThemeIcons.h"
 
 #include <gtest/gtest.h>
 

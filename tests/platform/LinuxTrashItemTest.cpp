@@ -17,7 +17,7 @@
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/trash/LinuxTrash.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 

@@ -13,7 +13,7 @@
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/trash/LinuxTrash.h"
 #include "platform/posix/Descriptor.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"

@@ -12,7 +12,7 @@
 #include "fakes/Mounts.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TracedProgram.h"
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/trash/LinuxTrash.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 

@@ -12,8 +12,8 @@
 #include "fakes/Mounts.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
-#include "platform/linux/LinuxLocations.h"
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/files/LinuxLocations.h"
+#include "platform/linux/trash/LinuxTrash.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 

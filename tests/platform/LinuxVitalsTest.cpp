@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxVitals.h"
+#include "platform/linux/vitals/LinuxVitals.h"
 
 #include <gtest/gtest.h>
 #include <stdlib.h>

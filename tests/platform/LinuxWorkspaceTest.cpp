@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/apps/LinuxWorkspace.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -19,8 +19,8 @@
 #include "fakes/InChild.h"
 #include "fakes/SessionBus.h"
 #include "fakes/TestFiles.h"
-#include "platform/linux/DetachedProgram.h"
-#include "platform/linux/FileUri.h"
+#include "platform/linux/apps/DetachedProgram.h"
+#include "platform/linux/apps/FileUri.h"
 #include "platform/posix/ThreadCount.h"
 #include "zoo/TempFolder.h"
 

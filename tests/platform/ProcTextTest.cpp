@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/ProcText.h"
+#include "platform/linux/vitals/ProcText.h"
 
 #include <gtest/gtest.h>
 

@@ -9,8 +9,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/linux/LinuxFileManager.h"
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/files/LinuxFileManager.h"
+#include "platform/linux/trash/LinuxTrash.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 #endif

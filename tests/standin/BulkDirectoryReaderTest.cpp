@@ -19,8 +19,8 @@
 #include <thread>
 
 #include "fakes/HeapInUse.h"
-#include "platform/linux/LinuxDirectoryReader.h"
-#include "platform/linux/StatxEntry.h"
+#include "platform/linux/files/LinuxDirectoryReader.h"
+#include "platform/linux/files/StatxEntry.h"
 #include "standin/BulkStandIn.h"
 
 namespace zelk {

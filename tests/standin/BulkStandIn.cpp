@@ -15,7 +15,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "platform/linux/StatxEntry.h"
+#include "platform/linux/files/StatxEntry.h"
 
 namespace zelk {
 

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <string>
 
-#include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/linux/files/LinuxDirectoryReader.h"
 #include "platform/macos/BulkDirectoryReader.h"
 #include "standin/BulkStandIn.h"
 #include "standin/Surveyed.h"

@@ -10,8 +10,8 @@
 
 #include "fakes/TestFiles.h"
 #include "fakes/TracedProgram.h"
-#include "platform/linux/LinuxFileManager.h"
-#include "platform/linux/LinuxLocations.h"
+#include "platform/linux/files/LinuxFileManager.h"
+#include "platform/linux/files/LinuxLocations.h"
 #include "state/SurveyHistory.h"
 #include "zoo/TempFolder.h"
 

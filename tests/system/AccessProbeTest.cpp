@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 
 #include "fakes/InChild.h"
-#include "platform/linux/LinuxFileManager.h"
+#include "platform/linux/files/LinuxFileManager.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 #endif

@@ -5,8 +5,8 @@
 
 #include <cstdlib>
 
-#include "platform/linux/LinuxFileManager.h"
-#include "platform/linux/LinuxLocations.h"
+#include "platform/linux/files/LinuxFileManager.h"
+#include "platform/linux/files/LinuxLocations.h"
 #include "state/SurveyHistory.h"
 
 int main(int argc, char** argv) {

@@ -30,7 +30,7 @@
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
 #include "platform/NativePlatform.h"
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/trash/LinuxTrash.h"
 #include "reclaim/Cleaner.h"
 
 namespace {

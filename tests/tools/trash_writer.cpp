@@ -6,7 +6,7 @@
 
 #include <string_view>
 
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/trash/LinuxTrash.h"
 
 int main(int argc, char** argv) {
     if (argc < 3) return 99;

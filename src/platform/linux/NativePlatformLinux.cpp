@@ -2,12 +2,12 @@
 #include <string>
 
 #include "platform/NativePlatform.h"
-#include "platform/linux/LinuxDirectoryReader.h"
-#include "platform/linux/LinuxFileManager.h"
-#include "platform/linux/LinuxLocations.h"
-#include "platform/linux/LinuxTrash.h"
-#include "platform/linux/LinuxVitals.h"
-#include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/apps/LinuxWorkspace.h"
+#include "platform/linux/files/LinuxDirectoryReader.h"
+#include "platform/linux/files/LinuxFileManager.h"
+#include "platform/linux/files/LinuxLocations.h"
+#include "platform/linux/trash/LinuxTrash.h"
+#include "platform/linux/vitals/LinuxVitals.h"
 #include "platform/posix/DescriptorLimit.h"
 #include "platform/posix/PosixChildProcess.h"
 #include "platform/posix/PosixClock.h"

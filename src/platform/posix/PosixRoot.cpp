@@ -11,7 +11,7 @@
 #ifdef __linux__
 #include <sys/sysmacros.h>
 
-#include "platform/linux/StatxEntry.h"
+#include "platform/linux/files/StatxEntry.h"
 #endif
 
 namespace zelk {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxLocations.h"
+#include "platform/linux/files/LinuxLocations.h"
 
 #include <pwd.h>
 #include <unistd.h>

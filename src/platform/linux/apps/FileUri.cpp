@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/FileUri.h"
+#include "platform/linux/apps/FileUri.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/TrashMove.h"
+#include "platform/linux/trash/TrashMove.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -10,7 +10,7 @@
 #include <ctime>
 #include <string_view>
 
-#include "platform/linux/TrashInfo.h"
+#include "platform/linux/trash/TrashInfo.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/FolderLock.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxTrash.h"
+#include "platform/linux/trash/LinuxTrash.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -10,11 +10,11 @@
 #include <vector>
 
 #include "platform/FolderPath.h"
-#include "platform/linux/EmptyTrash.h"
-#include "platform/linux/LinuxLocations.h"
-#include "platform/linux/TrashFolder.h"
-#include "platform/linux/TrashMove.h"
-#include "platform/linux/TrashOrphans.h"
+#include "platform/linux/files/LinuxLocations.h"
+#include "platform/linux/trash/EmptyTrash.h"
+#include "platform/linux/trash/TrashFolder.h"
+#include "platform/linux/trash/TrashMove.h"
+#include "platform/linux/trash/TrashOrphans.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/FileStatus.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/DesktopEntry.h"
+#include "platform/linux/apps/DesktopEntry.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -7,8 +7,8 @@
 #include <optional>
 
 #include "platform/Workspace.h"
-#include "platform/linux/LinuxApplications.h"
-#include "platform/linux/ThemeIcons.h"
+#include "platform/linux/apps/LinuxApplications.h"
+#include "platform/linux/apps/ThemeIcons.h"
 
 class QDBusConnection;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/linux/TrashFolder.h"
+#include "platform/linux/trash/TrashFolder.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/TrashOrphans.h"
+#include "platform/linux/trash/TrashOrphans.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/TrashInfo.h"
+#include "platform/linux/trash/TrashInfo.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FolderLock.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/linux/files/LinuxDirectoryReader.h"
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -11,8 +11,8 @@
 #include <cstddef>
 #include <cstring>
 
-#include "platform/linux/ScanVolume.h"
-#include "platform/linux/StatxEntry.h"
+#include "platform/linux/files/ScanVolume.h"
+#include "platform/linux/files/StatxEntry.h"
 #include "platform/posix/DescriptorLimit.h"
 #include "platform/posix/DirectoryLadder.h"
 #include "platform/posix/OpenDirectory.h"

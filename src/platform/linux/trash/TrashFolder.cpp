@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/TrashFolder.h"
+#include "platform/linux/trash/TrashFolder.h"
 
 #include <fcntl.h>
 #include <unistd.h>

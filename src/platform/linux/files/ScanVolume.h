@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/linux/StatxEntry.h"
+#include "platform/linux/files/StatxEntry.h"
 #include "platform/posix/PosixRoot.h"
 
 namespace zelk {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/ScanVolume.h"
+#include "platform/linux/files/ScanVolume.h"
 
 #include <fcntl.h>
 #include <linux/btrfs.h>

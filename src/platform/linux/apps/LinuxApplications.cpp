@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxApplications.h"
+#include "platform/linux/apps/LinuxApplications.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,7 +15,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/linux/DesktopEntry.h"
+#include "platform/linux/apps/DesktopEntry.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/OpenDirectory.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxWorkspace.h"
+#include "platform/linux/apps/LinuxWorkspace.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/linux/DetachedProgram.h"
-#include "platform/linux/FileUri.h"
+#include "platform/linux/apps/DetachedProgram.h"
+#include "platform/linux/apps/FileUri.h"
 
 namespace zelk {
 

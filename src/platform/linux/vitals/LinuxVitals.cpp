@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxVitals.h"
+#include "platform/linux/vitals/LinuxVitals.h"
 
 #include <fcntl.h>
 #include <time.h>
@@ -9,7 +9,7 @@
 #include <array>
 
 #include "platform/VitalsArithmetic.h"
-#include "platform/linux/ProcText.h"
+#include "platform/linux/vitals/ProcText.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/EmptyTrash.h"
+#include "platform/linux/trash/EmptyTrash.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/MoveWithoutReplacing.h"
-#include "platform/linux/TrashInfo.h"
-#include "platform/linux/TrashOrphans.h"
+#include "platform/linux/files/MoveWithoutReplacing.h"
+#include "platform/linux/trash/TrashInfo.h"
+#include "platform/linux/trash/TrashOrphans.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FolderLock.h"
 #include "platform/posix/RemoveEntry.h"

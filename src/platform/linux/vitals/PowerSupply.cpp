@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/PowerSupply.h"
+#include "platform/linux/vitals/PowerSupply.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/LinuxFileManager.h"
+#include "platform/linux/files/LinuxFileManager.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -8,7 +8,7 @@
 #include <climits>
 #include <cstddef>
 
-#include "platform/linux/LinuxDirectoryReader.h"
+#include "platform/linux/files/LinuxDirectoryReader.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"

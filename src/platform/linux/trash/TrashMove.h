@@ -6,8 +6,8 @@
 #include <string>
 
 #include "platform/Failure.h"
-#include "platform/linux/MoveWithoutReplacing.h"
-#include "platform/linux/TrashFolder.h"
+#include "platform/linux/files/MoveWithoutReplacing.h"
+#include "platform/linux/trash/TrashFolder.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/StatxEntry.h"
+#include "platform/linux/files/StatxEntry.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/RunningProcesses.h"
+#include "platform/linux/apps/RunningProcesses.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/linux/ProcText.h"
+#include "platform/linux/vitals/ProcText.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/OpenDirectory.h"

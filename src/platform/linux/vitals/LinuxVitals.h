@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/Vitals.h"
-#include "platform/linux/PowerSupply.h"
+#include "platform/linux/vitals/PowerSupply.h"
 
 namespace zelk {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/RunningProcesses.h"
+#include "platform/linux/apps/RunningProcesses.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/MoveWithoutReplacing.h"
+#include "platform/linux/files/MoveWithoutReplacing.h"
 
 #include <fcntl.h>
 #include <stdio.h>

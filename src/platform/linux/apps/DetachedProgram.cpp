@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/DetachedProgram.h"
+#include "platform/linux/apps/DetachedProgram.h"
 
 #include <spawn.h>
 #include <sys/wait.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/TrashInfo.h"
+#include "platform/linux/trash/TrashInfo.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "platform/linux/TrashFolder.h"
+#include "platform/linux/trash/TrashFolder.h"
 
 namespace zelk {
 
