@@ -2,45 +2,14 @@
 #include "platform/posix/MountTable.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cstddef>
+
+#include "platform/Text.h"
 
 namespace zelk {
 namespace {
 
-/// Takes what stands before the next `end` off `text`, and the `end`.
-std::string_view take(std::string_view& text, char end) {
-    const std::size_t length = std::min(text.find(end), text.size());
-    const std::string_view part = text.substr(0, length);
-    text.remove_prefix(std::min(length + 1, text.size()));
-    return part;
-}
-
-bool isOctal(char c) {
-    return c >= '0' && c <= '7';
-}
-
-/// The kernel writes blanks, tabs, line ends and backslashes as a backslash and three octal digits.
-std::string unescaped(std::string_view text) {
-    std::string plain;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const bool escape = text[at] == '\\' && at + 3 < text.size() && text[at + 1] >= '0' && text[at + 1] <= '3' &&
-                            isOctal(text[at + 2]) && isOctal(text[at + 3]);
-        if (escape) {
-            plain += static_cast<char>((text[at + 1] - '0') << 6 | (text[at + 2] - '0') << 3 | (text[at + 3] - '0'));
-            at += 3;
-        } else {
-            plain += text[at];
-        }
-    }
-    return plain;
-}
-
-bool takeNumber(std::string_view& text, std::uint64_t& number) {
-    const std::string_view digits = take(text, ' ');
-    const auto [stop, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    return !digits.empty() && error == std::errc{} && stop == digits.data() + digits.size();
-}
+/// The kernel writes blanks, tabs, line feeds and backslashes as a backslash and three octal digits.
+constexpr EscapeForm mountEscape{"\\", "01234567", 3};
 
 const Mount* findMount(const std::vector<Mount>& table, std::uint64_t id) {
     const auto found = std::find_if(table.begin(), table.end(), [id](const Mount& mount) { return mount.id == id; });
@@ -72,15 +41,17 @@ std::optional<std::string> pathOnDevice(const Mount& mount, std::string_view pat
 std::vector<Mount> parseMountTable(std::string_view mountinfo) {
     std::vector<Mount> table;
     while (!mountinfo.empty()) {
-        std::string_view line = take(mountinfo, '\n');
+        std::string_view line = takeLine(mountinfo);
         // 36 35 98:0 /root/of/the/mount /mount/point options...
         Mount mount;
-        bool good = takeNumber(line, mount.id);
-        good = takeNumber(line, mount.parent) && good;
-        mount.device = take(line, ' ');
-        mount.root = unescaped(take(line, ' '));
-        mount.point = unescaped(take(line, ' '));
-        if (!good || !mount.point.starts_with('/')) continue;
+        const auto id = parseNumber<std::uint64_t>(takeUntil(line, ' '));
+        const auto parent = parseNumber<std::uint64_t>(takeUntil(line, ' '));
+        mount.device = takeUntil(line, ' ');
+        mount.root = unescaped(takeUntil(line, ' '), mountEscape);
+        mount.point = unescaped(takeUntil(line, ' '), mountEscape);
+        if (!id || !parent || !mount.point.starts_with('/')) continue;
+        mount.id = *id;
+        mount.parent = *parent;
         if ((mount.root + mount.point).find('\0') != std::string::npos) continue;
         while (mount.point.size() > 1 && mount.point.ends_with('/')) mount.point.pop_back();
         table.push_back(std::move(mount));

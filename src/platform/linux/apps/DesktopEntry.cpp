@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "platform/Text.h"
 #include "platform/Utf8.h"
-#include "platform/linux/Text.h"
 
 namespace zelk {
 
@@ -36,7 +36,7 @@ std::vector<std::string> wordsOf(std::string_view line) {
     bool quoted = false;
     for (std::size_t at = 0; at < line.size(); ++at) {
         const char c = line[at];
-        if (!quoted && (c == ' ' || c == '\t' || c == '\n' || c == '\r')) {
+        if (!quoted && blanks.find(c) != std::string_view::npos) {
             inWord = false;
             continue;
         }

@@ -15,6 +15,7 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/Text.h"
 #include "platform/linux/apps/DesktopEntry.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
@@ -36,11 +37,8 @@ std::string environment(const char* variable, const char* otherwise) {
 /// The absolute folders of a list as the environment has them.
 std::vector<std::string> foldersIn(std::string_view list) {
     std::vector<std::string> folders;
-    while (!list.empty()) {
-        const std::size_t end = std::min(list.find(':'), list.size());
-        if (list.starts_with('/')) folders.emplace_back(list.substr(0, end));
-        list.remove_prefix(std::min(end + 1, list.size()));
-    }
+    while (!list.empty())
+        if (const std::string_view folder = takeUntil(list, ':'); folder.starts_with('/')) folders.emplace_back(folder);
     return folders;
 }
 
@@ -90,13 +88,10 @@ std::vector<std::string> interpreterLine(const std::string& path) {
     const ssize_t got = uninterrupted([&] { return ::read(file.get(), line.data(), line.size()); });
     line.resize(got < 0 ? 0 : static_cast<std::size_t>(got));
     if (!line.starts_with("#!")) return {};
-    line = line.substr(2, line.find('\n') - 2);
+    std::string_view rest = std::string_view(line).substr(2);
+    rest = takeLine(rest);
     std::vector<std::string> words;
-    for (std::size_t at = 0; (at = line.find_first_not_of(" \t\r", at)) != std::string::npos;) {
-        const std::size_t end = std::min(line.find_first_of(" \t\r", at), line.size());
-        words.push_back(line.substr(at, end - at));
-        at = end;
-    }
+    for (std::string_view word = takeWord(rest); !word.empty(); word = takeWord(rest)) words.emplace_back(word);
     return words;
 }
 

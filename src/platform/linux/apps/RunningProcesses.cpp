@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/linux/vitals/ProcText.h"
+#include "platform/Text.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/OpenDirectory.h"
@@ -35,23 +35,8 @@ bool takeSuffix(std::string_view& text, std::string_view suffix) {
     return true;
 }
 
-/// Units write what would part their names as "\x2d".
-std::string unescapedUnit(std::string_view text) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string name;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const bool escape = text.substr(at).starts_with("\\x") && at + 3 < text.size();
-        const std::size_t high = escape ? digits.find(text[at + 2]) : std::string_view::npos;
-        const std::size_t low = escape ? digits.find(text[at + 3]) : std::string_view::npos;
-        if (high == std::string_view::npos || low == std::string_view::npos) {
-            name += text[at];
-        } else {
-            name += static_cast<char>(high * 16 + low);
-            at += 3;
-        }
-    }
-    return name;
-}
+/// Unit names write separators as "\x2d".
+constexpr EscapeForm unitEscape{"\\x", "0123456789abcdef", 2};
 
 /// "snap.NAME.APPLICATION-UUID", with a dot before the UUID in older versions.
 std::vector<std::string> applicationsOfSnap(std::string_view unit) {
@@ -60,7 +45,7 @@ std::vector<std::string> applicationsOfSnap(std::string_view unit) {
     if (dot == std::string_view::npos) return {};
     std::string_view application = unit.substr(dot + 1);
     if (application.size() > uuidLength + 1) application.remove_suffix(uuidLength + 1);
-    return {unescapedUnit(unit.substr(0, dot)) + "_" + unescapedUnit(application)};
+    return {unescaped(unit.substr(0, dot), unitEscape) + "_" + unescaped(application, unitEscape)};
 }
 
 std::vector<std::string> applicationsOfUnit(std::string_view unit) {
@@ -73,8 +58,8 @@ std::vector<std::string> applicationsOfUnit(std::string_view unit) {
     const std::vector<std::string_view> parts = split(unit, '-');
     std::vector<std::string> ids;
     // A scope ends with a number; a service may, where it has no instance.
-    if (!scope) ids.push_back(unescapedUnit(parts.back()));
-    if (parts.size() > 2 && unit.size() == whole.size()) ids.push_back(unescapedUnit(parts[parts.size() - 2]));
+    if (!scope) ids.push_back(unescaped(parts.back(), unitEscape));
+    if (parts.size() > 2 && unit.size() == whole.size()) ids.push_back(unescaped(parts[parts.size() - 2], unitEscape));
     return ids;
 }
 
@@ -124,7 +109,7 @@ std::vector<RunningProcess> runningProcesses(const std::string& processes) {
     std::vector<std::int64_t> numbers;
     for (const std::string& name :
          directoryNames(Descriptor(openRootDirectory(processes))).value_or(std::vector<std::string>()))
-        if (const auto number = wholeNumber(name)) numbers.push_back(*number);
+        if (const auto number = parseNumber<std::int64_t>(name)) numbers.push_back(*number);
     std::sort(numbers.begin(), numbers.end());
     std::vector<RunningProcess> all;
     for (const std::int64_t number : numbers) {

@@ -7,9 +7,9 @@
 #include <sys/sysmacros.h>
 #include <unistd.h>
 
-#include <charconv>
 #include <climits>
 
+#include "platform/Text.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DurableFile.h"
 
@@ -27,13 +27,10 @@ std::string processPath(const char* kind, int descriptor) {
 std::optional<std::uint64_t> mountFromProcess(int descriptor) {
     constexpr std::string_view key = "\nmnt_id:";
     const std::string text = readWholeFile(processPath("fdinfo", descriptor)).value_or("");
-    std::size_t at = text.find(key);
-    at = at == std::string::npos ? at : text.find_first_not_of(" \t", at + key.size());
-    std::uint64_t id = 0;
-    if (at == std::string::npos || std::from_chars(text.data() + at, text.data() + text.size(), id).ec != std::errc{}) {
-        errno = ENOSYS;
-        return std::nullopt;
-    }
+    const std::size_t at = text.find(key);
+    std::string_view rest = at == std::string::npos ? "" : std::string_view(text).substr(at + key.size());
+    const auto id = parseNumber<std::uint64_t>(trimmed(takeLine(rest)));
+    if (!id) errno = ENOSYS;
     return id;
 }
 

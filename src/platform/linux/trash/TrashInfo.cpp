@@ -4,16 +4,13 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/Text.h"
+
 namespace zelk {
 namespace {
 
 /// Longer ones are no extensions but names that happen to have a dot in them.
 constexpr std::size_t longestExtension = 32;
-
-bool isPlain(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-           std::string_view("-_.~/").find(c) != std::string_view::npos;
-}
 
 /// With its dot; empty if there is none, as in a name that only begins with a dot.
 std::string_view extensionOf(std::string_view name) {
@@ -34,16 +31,7 @@ std::string_view cutTo(std::string_view name, std::size_t bytes) {
 }  // namespace
 
 std::string trashInfoText(std::string_view path, const std::tm& deleted) {
-    constexpr std::string_view hex = "0123456789ABCDEF";
-    std::string text = "[Trash Info]\nPath=";
-    for (const char c : path) {
-        if (isPlain(c)) {
-            text += c;
-        } else {
-            const auto byte = static_cast<unsigned char>(c);
-            text += {'%', hex[byte >> 4], hex[byte & 15]};
-        }
-    }
+    std::string text = "[Trash Info]\nPath=" + percentEncoded(path);
     std::array<char, 64> date{};
     const std::size_t length = std::strftime(date.data(), date.size(), "%Y-%m-%dT%H:%M:%S", &deleted);
     return text.append("\nDeletionDate=").append(date.data(), length).append("\n");

@@ -3,10 +3,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <limits>
 
-#include "platform/linux/Text.h"
+#include "platform/Text.h"
 
 namespace zelk {
 
@@ -14,24 +13,6 @@ namespace {
 
 bool isBlankOrControl(char c) {
     return static_cast<unsigned char>(c) <= ' ' || c == 0x7F;
-}
-
-/// Takes the first word off `text`; empty at its end.
-std::string_view takeWord(std::string_view& text) {
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    const std::size_t end = std::min(text.find_first_of(blanks), text.size());
-    const std::string_view word = text.substr(0, end);
-    text.remove_prefix(end);
-    return word;
-}
-
-template <class Number>
-std::optional<Number> number(std::string_view digits) {
-    Number value = 0;
-    const char* const end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, value);
-    if (digits.empty() || error != std::errc{} || stop != end) return std::nullopt;
-    return value;
 }
 
 /// The text behind "key:" in the first line that has such a key and a value.
@@ -85,7 +66,7 @@ std::string tidied(std::string_view text) {
 }
 
 std::optional<std::int64_t> wholeNumber(std::string_view text) {
-    return number<std::int64_t>(trimmed(text));
+    return parseNumber<std::int64_t>(trimmed(text));
 }
 
 std::optional<std::string> assignedValue(std::string_view text, std::string_view key) {
@@ -128,7 +109,7 @@ std::string kernelVersionText(std::string_view release) {
     std::array<std::optional<std::int64_t>, 3> parts;
     for (std::optional<std::int64_t>& part : parts) {
         const std::size_t end = std::min(release.find_first_not_of("0123456789"), release.size());
-        part = number<std::int64_t>(release.substr(0, end));
+        part = parseNumber<std::int64_t>(release.substr(0, end));
         if (!part) break;
         release.remove_prefix(end);
         if (!release.starts_with('.')) break;
@@ -141,7 +122,7 @@ std::string kernelVersionText(std::string_view release) {
 std::optional<std::uint64_t> memoryField(std::string_view meminfo, std::string_view field) {
     constexpr std::uint64_t mostKibibytes = std::uint64_t{1} << 50;  // sums of fields stay far below 64 bits
     std::string_view value = valueOf(meminfo, field);
-    const auto kibibytes = number<std::uint64_t>(takeWord(value));
+    const auto kibibytes = parseNumber<std::uint64_t>(takeWord(value));
     if (!kibibytes || *kibibytes > mostKibibytes || takeWord(value) != "kB") return std::nullopt;
     return *kibibytes * 1024;
 }
@@ -164,7 +145,7 @@ std::optional<PageCounts> memoryCounts(std::string_view meminfo, std::uint64_t z
 std::uint64_t zramMemory(std::string_view mmStat) {
     takeWord(mmStat);  // the size of what is stored
     takeWord(mmStat);  // its size when compressed
-    const std::uint64_t used = number<std::uint64_t>(takeWord(mmStat)).value_or(0);
+    const std::uint64_t used = parseNumber<std::uint64_t>(takeWord(mmStat)).value_or(0);
     return used >> 60 == 0 ? used : 0;
 }
 
@@ -175,7 +156,7 @@ std::optional<CPUTicks> processorTicks(std::string_view stat) {
         if (takeWord(line) != "cpu") continue;
         std::array<double, fieldCount> ticks{};
         for (std::size_t i = 0; i < ticks.size(); ++i) {
-            const auto value = number<std::uint64_t>(takeWord(line));
+            const auto value = parseNumber<std::uint64_t>(takeWord(line));
             if (!value && i <= idle) return std::nullopt;
             if (!value) break;  // an older kernel tells fewer
             ticks[i] = static_cast<double>(*value);
@@ -189,7 +170,7 @@ std::optional<CPUTicks> processorTicks(std::string_view stat) {
 std::optional<double> uptimeSeconds(std::string_view uptime) {
     const std::string_view word = takeWord(uptime);
     const std::size_t point = std::min(word.find('.'), word.size());
-    const auto whole = number<std::uint32_t>(word.substr(0, point));
+    const auto whole = parseNumber<std::uint32_t>(word.substr(0, point));
     if (!whole) return std::nullopt;
     double seconds = *whole;
     double place = 0.1;
