@@ -99,7 +99,7 @@ private:
     std::size_t count_ = 0;
 };
 
-TEST(BulkRecords, aFileHasAllItsFields) {
+TEST(BulkRecords, decodesAllFieldsOfAFile) {
     Records records;
     records.add({.name = "film.mov",
                  .device = -7,
@@ -120,7 +120,7 @@ TEST(BulkRecords, aFileHasAllItsFields) {
     EXPECT_EQ(entry.modTime, 1234567890.5);
 }
 
-TEST(BulkRecords, aFileCalledAIsEightyBytesLongAndADirectorySeventyTwo) {
+TEST(BulkRecords, fileRecordTakesEightyBytesAndDirectoryRecordSeventyTwo) {
     Records records;
     EXPECT_EQ(records.add({.name = "a"}), 0U);
     EXPECT_EQ(records.add({.name = "a", .type = directoryObjectType}), 80U);
@@ -129,7 +129,7 @@ TEST(BulkRecords, aFileCalledAIsEightyBytesLongAndADirectorySeventyTwo) {
     EXPECT_EQ(records.entries.size(), 2U);
 }
 
-TEST(BulkRecords, aDirectoryHasNoLinksAndNoSizeWhateverItsNameLooksLike) {
+TEST(BulkRecords, directoryNameIsNotReadAsLinkCountOrSize) {
     Records records;
     records.add({.name = "a name that stands where a file has its figures", .type = directoryObjectType});
     ASSERT_TRUE(records.decodes());
@@ -138,7 +138,7 @@ TEST(BulkRecords, aDirectoryHasNoLinksAndNoSizeWhateverItsNameLooksLike) {
     EXPECT_EQ(records.entries[0].allocSize, 0U);
 }
 
-TEST(BulkRecords, aDirectoryOfSixtySixBytesIsReadWithoutTheFileAttributes) {
+TEST(BulkRecords, decodesDirectoryTooShortForFileAttributes) {
     Records records;
     records.add({.name = "a", .type = directoryObjectType});
     records.set(0, std::uint32_t{66});
@@ -147,7 +147,7 @@ TEST(BulkRecords, aDirectoryOfSixtySixBytesIsReadWithoutTheFileAttributes) {
     EXPECT_EQ(records.entries[0].name, "a");
 }
 
-TEST(BulkRecords, theLastRecordNeedNotBeRoundedUp) {
+TEST(BulkRecords, acceptsUnpaddedLastRecord) {
     Records records;
     records.add({.name = "first"});
     const std::size_t last = records.add({.name = "b"});
@@ -168,7 +168,7 @@ void expectUnasked(const DirEntry& entry, std::string_view name) {
     EXPECT_EQ(entry.modTime, listed.modified) << "or it would pass for ancient";
 }
 
-TEST(BulkRecords, entryThatCouldNotBeAskedHasNoSizeHoweverItsNameReads) {
+TEST(BulkRecords, entryWithoutAttributesHasNoSize) {
     for (const std::size_t fixedPart : {32, 64, 76}) {
         Records records;
         records.add({.name = "before"});
@@ -184,21 +184,21 @@ TEST(BulkRecords, entryThatCouldNotBeAskedHasNoSizeHoweverItsNameReads) {
     }
 }
 
-TEST(BulkRecords, entryWithAnErrorIsUnaskedWhateverElseItSays) {
+TEST(BulkRecords, errorOverridesOtherAttributes) {
     Records records;
     records.add({.name = "film.mov", .common = allCommon | errorToo});
     ASSERT_TRUE(records.decodes());
     expectUnasked(records.entries[0], "film.mov");
 }
 
-TEST(BulkRecords, entryWithoutATypeIsUnaskedWhateverElseItSays) {
+TEST(BulkRecords, missingTypeOverridesOtherAttributes) {
     Records records;
     records.add({.name = "film.mov", .common = allCommon & ~8U});
     ASSERT_TRUE(records.decodes());
     expectUnasked(records.entries[0], "film.mov");
 }
 
-TEST(BulkRecords, errorNumberBeforeTheNameIsPassedOver) {
+TEST(BulkRecords, skipsErrorNumberBeforeName) {
     for (const std::int32_t error : {1, 13, 36, 40, 60}) {
         Records records;
         const std::size_t start = records.addUnasked("Documents", 36, onlyName | errorToo);
@@ -210,7 +210,7 @@ TEST(BulkRecords, errorNumberBeforeTheNameIsPassedOver) {
     }
 }
 
-TEST(BulkRecords, errorThatIsOnlyMentionedLeavesTheNameInItsPlace) {
+TEST(BulkRecords, findsNameWhenErrorNumberIsOmitted) {
     for (const std::size_t fixedPart : {32, 64}) {
         Records records;
         records.addUnasked("Documents", fixedPart, onlyName | errorToo);
@@ -219,7 +219,7 @@ TEST(BulkRecords, errorThatIsOnlyMentionedLeavesTheNameInItsPlace) {
     }
 }
 
-TEST(BulkRecords, shortestRecordIsOneOfAName) {
+TEST(BulkRecords, acceptsRecordWithNameOnly) {
     for (const std::uint32_t common : {onlyName, onlyName | errorToo}) {
         Records records;
         const std::size_t start = records.addUnasked("n", 32, common);
@@ -230,13 +230,13 @@ TEST(BulkRecords, shortestRecordIsOneOfAName) {
     }
 }
 
-TEST(BulkRecords, recordWithoutANameFails) {
+TEST(BulkRecords, rejectsRecordWithoutName) {
     Records records;
     records.addUnasked("Documents", 64, 0x80000000);
     EXPECT_FALSE(records.decodes());
 }
 
-TEST(BulkRecords, fileWithoutASizeCountsAsNothingAndIsNotReadBehindItsFixedPart) {
+TEST(BulkRecords, fileWithoutSizeIsEmptyAndNotReadPastItsFixedPart) {
     for (const std::uint32_t file : {0U, 1U}) {
         Records records;
         const std::size_t start = records.add({.name = "film.mov", .linkCount = 7});
@@ -259,7 +259,7 @@ TEST(BulkRecords, fileWithoutASizeCountsAsNothingAndIsNotReadBehindItsFixedPart)
     EXPECT_EQ(ends.entries[0].allocSize, 0U);
 }
 
-TEST(BulkRecords, directoryThatClaimsASizeHasNone) {
+TEST(BulkRecords, ignoresSizeOfDirectory) {
     Records records;
     const std::size_t start = records.add({.name = "a name longer than figures", .type = directoryObjectType});
     records.set(start + 16, allOfAFile);
@@ -268,7 +268,7 @@ TEST(BulkRecords, directoryThatClaimsASizeHasNone) {
     EXPECT_EQ(records.entries[0].linkCount, 0U);
 }
 
-TEST(BulkRecords, entryWithoutADeviceLiesWhereItsDirectoryLies) {
+TEST(BulkRecords, missingDeviceDefaultsToTheDirectorys) {
     Records records;
     records.add({.device = 0, .common = allCommon & ~2U});
     ASSERT_TRUE(records.decodes());
@@ -276,7 +276,7 @@ TEST(BulkRecords, entryWithoutADeviceLiesWhereItsDirectoryLies) {
     EXPECT_EQ(records.entries[0].allocSize, 4096U);
 }
 
-TEST(BulkRecords, recordTooShortForWhatItSaysFails) {
+TEST(BulkRecords, rejectsRecordTooShortForItsAttributes) {
     for (const std::uint32_t length : {34U, 40U, 63U}) {
         Records records;
         const std::size_t start = records.addUnasked("n", 32, allCommon);
@@ -302,7 +302,7 @@ TEST(BulkRecords, recordTooShortForWhatItSaysFails) {
     }
 }
 
-TEST(BulkRecords, aLinkKeepsItsOwnTypeAndSize) {
+TEST(BulkRecords, linkHasItsOwnTypeAndSize) {
     Records records;
     records.add({.name = "link", .type = 5, .allocatedSize = 0});
     records.add({.name = "long link", .type = 5, .allocatedSize = 4096});
@@ -312,7 +312,7 @@ TEST(BulkRecords, aLinkKeepsItsOwnTypeAndSize) {
     EXPECT_EQ(records.entries[1].allocSize, 4096U);
 }
 
-TEST(BulkRecords, dotAndDotDotAreDroppedAndOtherDotNamesAreNot) {
+TEST(BulkRecords, dropsOnlyDotAndDotDot) {
     Records records;
     for (const char* name : {".", "..", "...", ".hidden", "..x"})
         records.add({.name = name, .type = directoryObjectType});
@@ -322,7 +322,7 @@ TEST(BulkRecords, dotAndDotDotAreDroppedAndOtherDotNamesAreNot) {
     EXPECT_THAT(names, testing::ElementsAre("...", ".hidden", "..x"));
 }
 
-TEST(BulkRecords, theOrderOfDeliveryIsKeptAndWhatWasThereStays) {
+TEST(BulkRecords, appendsInOrderOfDelivery) {
     Records records;
     for (const char* name : {"z", "a", "m"}) records.add({.name = name});
     ASSERT_TRUE(records.decodes());
@@ -336,14 +336,14 @@ TEST(BulkRecords, theOrderOfDeliveryIsKeptAndWhatWasThereStays) {
     EXPECT_EQ(entries.size(), 1U);
 }
 
-TEST(BulkRecords, namesAreBytes) {
+TEST(BulkRecords, keepsNamesThatAreNotUtf8) {
     Records records;
     records.add({.name = "\xFF\xFE\n\x01 caf\xC3\xA9"});
     ASSERT_TRUE(records.decodes());
     EXPECT_EQ(records.entries[0].name, "\xFF\xFE\n\x01 caf\xC3\xA9");
 }
 
-TEST(BulkRecords, theNameIsReadToItsEndWhateverItsLengthFieldSays) {
+TEST(BulkRecords, readsNameToItsTerminatorAndIgnoresItsLength) {
     Records records;
     records.add({.name = "name"});
     records.set(28, std::uint32_t{0xFFFFFFFF});
@@ -351,21 +351,21 @@ TEST(BulkRecords, theNameIsReadToItsEndWhateverItsLengthFieldSays) {
     EXPECT_EQ(records.entries[0].name, "name");
 }
 
-TEST(BulkRecords, aTimeBeforeNineteenSeventyIsNegative) {
+TEST(BulkRecords, timeBefore1970IsNegative) {
     Records records;
     records.add({.seconds = -2, .nanoseconds = 250000000});
     ASSERT_TRUE(records.decodes());
     EXPECT_EQ(records.entries[0].modTime, -1.75);
 }
 
-TEST(BulkRecords, moreRecordsThanTheBufferHoldsFail) {
+TEST(BulkRecords, rejectsCountLargerThanTheBuffer) {
     Records records;
     records.add({});
     EXPECT_FALSE(records.decodes(2));
     EXPECT_FALSE(Records().decodes(1));
 }
 
-TEST(BulkRecords, aLengthThatDoesNotFitFails) {
+TEST(BulkRecords, rejectsRecordLengthOutOfRange) {
     for (const std::uint32_t length : {0U, 4U, 63U, 64U, 75U, 81U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
         Records records;
         records.add({});
@@ -380,7 +380,7 @@ TEST(BulkRecords, aLengthThatDoesNotFitFails) {
     }
 }
 
-TEST(BulkRecords, aBufferThatEndsWithinARecordFails) {
+TEST(BulkRecords, rejectsTruncatedBuffer) {
     for (std::size_t size = 0; size < 80; ++size) {
         Records records;
         records.add({});
@@ -389,7 +389,7 @@ TEST(BulkRecords, aBufferThatEndsWithinARecordFails) {
     }
 }
 
-TEST(BulkRecords, aNameOutsideItsRecordFails) {
+TEST(BulkRecords, rejectsNameOutsideItsRecord) {
     for (const std::int32_t offset : {-25, 56, 57, 0x7FFFFFFF, INT32_MIN}) {
         Records records;
         records.add({});
@@ -399,7 +399,7 @@ TEST(BulkRecords, aNameOutsideItsRecordFails) {
     }
 }
 
-TEST(BulkRecords, aNameWithoutItsEndInTheRecordFails) {
+TEST(BulkRecords, rejectsUnterminatedName) {
     Records records;
     records.add({.name = "abc"});  // fills its 80 bytes
     records.add({});
@@ -407,7 +407,7 @@ TEST(BulkRecords, aNameWithoutItsEndInTheRecordFails) {
     EXPECT_FALSE(records.decodes());
 }
 
-TEST(BulkRecords, aNameThatNoFileCanHaveFails) {
+TEST(BulkRecords, rejectsEmptyNamesAndNamesWithSlash) {
     for (const char* name : {"", "/", "a/b", "../../etc"}) {
         Records records;
         records.add({.name = name, .type = directoryObjectType});
@@ -415,7 +415,7 @@ TEST(BulkRecords, aNameThatNoFileCanHaveFails) {
     }
 }
 
-TEST(BulkRecords, oneBrokenRecordFailsTheWholeBuffer) {
+TEST(BulkRecords, oneBrokenRecordRejectsTheBuffer) {
     Records records;
     records.add({.name = "good"});
     const std::size_t broken = records.add({.name = "broken"});

@@ -16,19 +16,19 @@ void expectTexts(const Rows& rows) {
     for (const auto& [count, text] : rows) EXPECT_EQ(byteText(count), text) << count;
 }
 
-TEST(ByteFormat, zeroIsANumberAndAUnitAndNotAWord) {
+TEST(ByteFormat, formatsZeroAsANumber) {
     EXPECT_EQ(byteText(0), "0 bytes");
 }
 
-TEST(ByteFormat, oneByteIsSingular) {
+TEST(ByteFormat, usesSingularForOneByte) {
     EXPECT_EQ(byteText(1), "1 byte");
 }
 
-TEST(ByteFormat, belowAThousandTheBytesAreCounted) {
+TEST(ByteFormat, countsBytesBelowAThousand) {
     expectTexts({{2, "2 bytes"}, {499, "499 bytes"}, {900, "900 bytes"}, {999, "999 bytes"}});
 }
 
-TEST(ByteFormat, kilobytesHaveNoDecimals) {
+TEST(ByteFormat, formatsKilobytesWithoutDecimals) {
     expectTexts({{1000, "1 KB"},
                  {1023, "1 KB"},
                  {1024, "1 KB"},
@@ -42,7 +42,7 @@ TEST(ByteFormat, kilobytesHaveNoDecimals) {
                  {900000, "900 KB"}});
 }
 
-TEST(ByteFormat, megabytesHaveUpToOneDecimal) {
+TEST(ByteFormat, formatsMegabytesWithUpToOneDecimal) {
     expectTexts({{1000000, "1 MB"},
                  {1048576, "1 MB"},
                  {5500000, "5.5 MB"},
@@ -54,7 +54,7 @@ TEST(ByteFormat, megabytesHaveUpToOneDecimal) {
                  {999900000, "999.9 MB"}});
 }
 
-TEST(ByteFormat, gigabytesAndAboveHaveUpToTwoDecimals) {
+TEST(ByteFormat, formatsGigabytesAndAboveWithUpToTwoDecimals) {
     expectTexts({{1000000000, "1 GB"},
                  {1234567898, "1.23 GB"},
                  {12345678987, "12.35 GB"},
@@ -64,12 +64,12 @@ TEST(ByteFormat, gigabytesAndAboveHaveUpToTwoDecimals) {
                  {std::numeric_limits<std::int64_t>::max(), "9.22 EB"}});
 }
 
-TEST(ByteFormat, trailingZerosAreDroppedAndInnerOnesKept) {
+TEST(ByteFormat, dropsTrailingZerosOnly) {
     expectTexts({{1100000000, "1.1 GB"}, {1010000000, "1.01 GB"}, {20000000, "20 MB"}, {100000000000, "100 GB"}});
 }
 
 // Nobody has seen what a Mac shows here: the rule is inferred from the rows above, and may be corrected by a machine.
-TEST(ByteFormat, inferredACountThatRoundsToAThousandTakesTheNextUnit) {
+TEST(ByteFormat, roundingToAThousandTakesTheNextUnit) {
     expectTexts({{999499, "999 KB"},
                  {999500, "1 MB"},
                  {999949999, "999.9 MB"},
@@ -79,22 +79,22 @@ TEST(ByteFormat, inferredACountThatRoundsToAThousandTakesTheNextUnit) {
 }
 
 // Inferred in the same way.
-TEST(ByteFormat, inferredHalvesGoAwayFromZero) {
+TEST(ByteFormat, roundsHalvesAwayFromZero) {
     expectTexts({{2500, "3 KB"}, {1250000, "1.3 MB"}, {1125000000, "1.13 GB"}});
 }
 
-TEST(ByteFormat, theDecimalSeparatorIsTheCallers) {
+TEST(ByteFormat, usesTheGivenDecimalSeparator) {
     EXPECT_EQ(byteText(1300000, ","), "1,3 MB");
     EXPECT_EQ(byteText(1234567898, "\u066B"), "1\u066B23 GB");
     EXPECT_EQ(byteText(1000000, ","), "1 MB");
 }
 
-TEST(ByteFormat, aNegativeCountReadsAsZero) {
+TEST(ByteFormat, formatsNegativeCountAsZero) {
     EXPECT_EQ(byteText(-1), "0 bytes");
     EXPECT_EQ(byteText(std::numeric_limits<std::int64_t>::min()), "0 bytes");
 }
 
-TEST(MemoryText, memoryIsToldInWholeBinaryGigabytes) {
+TEST(MemoryText, formatsWholeBinaryGigabytes) {
     constexpr std::uint64_t gigabyte = std::uint64_t{1} << 30;
     EXPECT_EQ(memoryText(0), "0 GB");
     EXPECT_EQ(memoryText(8 * gigabyte), "8 GB");
@@ -103,7 +103,7 @@ TEST(MemoryText, memoryIsToldInWholeBinaryGigabytes) {
     EXPECT_EQ(memoryText(std::numeric_limits<std::uint64_t>::max()), "17179869184 GB");
 }
 
-TEST(MemoryText, halfAGigabyteRoundsUp) {
+TEST(MemoryText, roundsHalfAGigabyteUp) {
     constexpr std::uint64_t half = std::uint64_t{1} << 29;
     EXPECT_EQ(memoryText(half - 1), "0 GB");
     EXPECT_EQ(memoryText(half), "1 GB");

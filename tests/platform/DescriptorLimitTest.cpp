@@ -24,11 +24,11 @@ rlim_t raisedFrom(rlim_t soft, rlim_t hard) {
     return ::getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_max == hard ? limit.rlim_cur : 0;
 }
 
-TEST(DescriptorLimit, isRaisedWithinReason) {
+TEST(DescriptorLimit, isRaisedTo8192) {
     EXPECT_TRUE(fakes::inChild([] { return raisedFrom(64, 20000) == 8192; }));
 }
 
-TEST(DescriptorLimit, isRaisedToWhatIsAllowed) {
+TEST(DescriptorLimit, isRaisedToTheHardLimitAtMost) {
     EXPECT_TRUE(fakes::asOrdinaryUser([] { return raisedFrom(64, 1000) == 1000; }));
 }
 
@@ -37,7 +37,7 @@ TEST(DescriptorLimit, isNeverLowered) {
 }
 
 // A reader holds sixteen and a few for a moment; 128 are left for all else.
-TEST(DescriptorLimit, givesEveryReaderTwentyAndOneReaderAtLeast) {
+TEST(DescriptorLimit, allowsOneReaderPerTwentyDescriptorsAndAtLeastOne) {
     const std::pair<rlim_t, std::int64_t> rows[] = {{16, 1}, {128, 1}, {167, 1}, {168, 2}, {1024, 44}, {8192, 403}};
     for (const auto& [descriptors, readers] : rows) {
         EXPECT_TRUE(fakes::inChild([descriptors = descriptors, readers = readers] {
@@ -49,7 +49,7 @@ TEST(DescriptorLimit, givesEveryReaderTwentyAndOneReaderAtLeast) {
 }
 
 #ifdef __linux__
-TEST(DescriptorLimit, isWhatTheDirectoryServiceTellsAScan) {
+TEST(DescriptorLimit, limitsReadersOfTheDirectoryService) {
     EXPECT_TRUE(fakes::inChild([] {
         const rlimit limit{328, 328};
         return ::setrlimit(RLIMIT_NOFILE, &limit) == 0 && LinuxDirectoryService().maximumReaders() == 10;

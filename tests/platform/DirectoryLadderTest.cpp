@@ -101,19 +101,19 @@ protected:
     DirectoryLadder ladder;
 };
 
-TEST_F(DirectoryLadderTest, standsNowhereBeforeItIsOpened) {
+TEST_F(DirectoryLadderTest, hasNoCurrentDirectoryBeforeOpen) {
     EXPECT_EQ(ladder.current(), -1);
 }
 
-TEST_F(DirectoryLadderTest, twoHundredLevelsAreWalkedWithFewDescriptors) {
+TEST_F(DirectoryLadderTest, walksTwoHundredLevelsWithFewDescriptors) {
     expectWalked(200);
 }
 
-TEST_F(DirectoryLadderTest, fiveThousandLevelsAreWalkedWithFewDescriptors) {
+TEST_F(DirectoryLadderTest, walksFiveThousandLevelsWithFewDescriptors) {
     expectWalked(5000);
 }
 
-TEST_F(DirectoryLadderTest, everyDepthAroundTheLimitIsWalked) {
+TEST_F(DirectoryLadderTest, walksEveryDepthAroundTheDescriptorLimit) {
     makeLevels(3 * DirectoryLadder::maximumOpen);
     for (std::size_t levels = 1; levels < rungs.size(); ++levels) {
         ASSERT_TRUE(ladder.open(top.get(), ""));
@@ -127,7 +127,7 @@ TEST_F(DirectoryLadderTest, everyDepthAroundTheLimitIsWalked) {
     }
 }
 
-TEST_F(DirectoryLadderTest, goingUpAndDownAgainKeepsNoMoreDescriptors) {
+TEST_F(DirectoryLadderTest, turningAroundOpensNoMoreDescriptors) {
     makeLevels(80);
     const std::ptrdiff_t before = openDescriptors();
     ASSERT_TRUE(ladder.open(top.get(), ""));
@@ -141,7 +141,7 @@ TEST_F(DirectoryLadderTest, goingUpAndDownAgainKeepsNoMoreDescriptors) {
     }
 }
 
-TEST_F(DirectoryLadderTest, goesOnBelowADeepPathAndBack) {
+TEST_F(DirectoryLadderTest, descendsAndAscendsBelowADeepStart) {
     makeLevels(3100);
     std::string below = "d";
     for (int level = 1; level < 3000; ++level) below += "/d";
@@ -156,7 +156,7 @@ TEST_F(DirectoryLadderTest, goesOnBelowADeepPathAndBack) {
     EXPECT_EQ(sibling(), siblings[3000]);
 }
 
-TEST_F(DirectoryLadderTest, openingAnewLeavesEverythingElse) {
+TEST_F(DirectoryLadderTest, openReplacesTheCurrentPosition) {
     makeLevels(40);
     const std::ptrdiff_t before = openDescriptors();
     for (int time = 0; time < 3; ++time) {
@@ -173,7 +173,7 @@ TEST_F(DirectoryLadderTest, openingAnewLeavesEverythingElse) {
     }
 }
 
-TEST_F(DirectoryLadderTest, closesAllItOpenedAndNotTheRoot) {
+TEST_F(DirectoryLadderTest, closesItsDescriptorsButNotTheRoot) {
     makeLevels(40);
     const std::ptrdiff_t before = openDescriptors();
     {
@@ -187,7 +187,7 @@ TEST_F(DirectoryLadderTest, closesAllItOpenedAndNotTheRoot) {
     EXPECT_EQ(identityOf(top.get()), rungs[0]);
 }
 
-TEST_F(DirectoryLadderTest, whatCannotBeOpenedIsALevelAllTheSame) {
+TEST_F(DirectoryLadderTest, failedDescendStillGoesDownALevel) {
     makeLevels(20);
     zoo::makeFile(temp / "root/file");
     fs::create_directory_symlink("d", temp / "root/link");
@@ -204,7 +204,7 @@ TEST_F(DirectoryLadderTest, whatCannotBeOpenedIsALevelAllTheSame) {
 }
 
 // More levels that cannot be opened than descriptors are kept: they take no place from those that can.
-TEST_F(DirectoryLadderTest, manyLevelsThatCannotBeOpenedLoseNothingAbove) {
+TEST_F(DirectoryLadderTest, manyFailedDescendsKeepTheWayBack) {
     makeLevels(60);
     for (const std::size_t levels : {std::size_t{3}, DirectoryLadder::maximumOpen - 1, DirectoryLadder::maximumOpen,
                                      DirectoryLadder::maximumOpen + 1, std::size_t{60}}) {
@@ -222,7 +222,7 @@ TEST_F(DirectoryLadderTest, manyLevelsThatCannotBeOpenedLoseNothingAbove) {
     }
 }
 
-TEST_F(DirectoryLadderTest, rootThatCannotBeOpenedIsNoPlace) {
+TEST_F(DirectoryLadderTest, unopenableRootIsNoPosition) {
     makeLevels(2);
     EXPECT_FALSE(ladder.open(top.get(), "d/nowhere"));
     EXPECT_EQ(ladder.current(), -1);
@@ -236,7 +236,7 @@ TEST_F(DirectoryLadderTest, rootThatCannotBeOpenedIsNoPlace) {
     EXPECT_EQ(standing(), rungs[1]);
 }
 
-TEST_F(DirectoryLadderTest, folderSwappedForALinkIsNotEntered) {
+TEST_F(DirectoryLadderTest, refusesFolderSwappedForALink) {
     makeLevels(4);
     ASSERT_TRUE(ladder.open(top.get(), "d"));
     fs::rename(temp / "root/d/d", temp / "taken");
@@ -248,7 +248,7 @@ TEST_F(DirectoryLadderTest, folderSwappedForALinkIsNotEntered) {
     EXPECT_EQ(sibling(), siblings[1]);
 }
 
-TEST_F(DirectoryLadderTest, folderMovedWhileAllAboveIsHeldOpenIsLeftForTheRightOne) {
+TEST_F(DirectoryLadderTest, ascendsByOpenDescriptorFromAMovedFolder) {
     makeLevels(10);
     ASSERT_TRUE(ladder.open(top.get(), ""));
     ASSERT_TRUE(descendAll(10));
@@ -262,7 +262,7 @@ TEST_F(DirectoryLadderTest, folderMovedWhileAllAboveIsHeldOpenIsLeftForTheRightO
 }
 
 // Above the moved folder the way back is lost, and the folder that it has come into is never taken for it.
-TEST_F(DirectoryLadderTest, folderMovedElsewhereDoesNotLeadIntoItsNewParent) {
+TEST_F(DirectoryLadderTest, ascendRejectsTheNewParentOfAMovedFolder) {
     makeLevels(60);
     ASSERT_TRUE(ladder.open(top.get(), ""));
     ASSERT_TRUE(descendAll(60));
@@ -285,7 +285,7 @@ TEST_F(DirectoryLadderTest, folderMovedElsewhereDoesNotLeadIntoItsNewParent) {
 }
 
 // The new parent is a folder of the same tree, and even one that the ladder has gone through.
-TEST_F(DirectoryLadderTest, folderMovedUpInTheSameTreeDoesNotMixTheLevels) {
+TEST_F(DirectoryLadderTest, ascendRejectsAnotherLevelOfTheSameTree) {
     makeLevels(60);
     ASSERT_TRUE(ladder.open(top.get(), ""));
     ASSERT_TRUE(descendAll(60));
@@ -301,7 +301,7 @@ TEST_F(DirectoryLadderTest, folderMovedUpInTheSameTreeDoesNotMixTheLevels) {
     }
 }
 
-TEST_F(DirectoryLadderTest, foldersRemovedUnderItAreNoReasonToFail) {
+TEST_F(DirectoryLadderTest, survivesRemovedFolders) {
     makeLevels(60);
     ASSERT_TRUE(ladder.open(top.get(), ""));
     ASSERT_TRUE(descendAll(60));
@@ -317,7 +317,7 @@ TEST_F(DirectoryLadderTest, foldersRemovedUnderItAreNoReasonToFail) {
     }
 }
 
-TEST_F(DirectoryLadderTest, permissionWithdrawnAboveIsNoReasonToFail) {
+TEST_F(DirectoryLadderTest, survivesPermissionWithdrawnAbove) {
     ASSERT_EQ(::chmod((temp / "root").c_str(), 0777), 0);
     EXPECT_TRUE(fakes::asOrdinaryUser([&] {
         makeLevels(60);
@@ -334,7 +334,7 @@ TEST_F(DirectoryLadderTest, permissionWithdrawnAboveIsNoReasonToFail) {
     }));
 }
 
-TEST_F(DirectoryLadderTest, chanceWalkStandsWhereItShould) {
+TEST_F(DirectoryLadderTest, randomWalkEndsInTheExpectedFolder) {
     struct Level {
         std::optional<std::string> path;  ///< none where it could not be opened
     };

@@ -48,7 +48,7 @@ protected:
     std::unique_ptr<DirectoryReader> reader = service.makeReader();
 };
 
-TEST_F(DirectoryReaderFaults, listingThatFailsAtAnyCallIsUnreadableAndNotPartlyRead) {
+TEST_F(DirectoryReaderFaults, failedListingIsNeverPartial) {
     zoo::makeWide(temp / "wide", 20000, 0);
     open(temp / "wide");
     unsigned calls = 0;
@@ -61,7 +61,7 @@ TEST_F(DirectoryReaderFaults, listingThatFailsAtAnyCallIsUnreadableAndNotPartlyR
     EXPECT_EQ(count(), 20000u);  // and the next reading has forgotten it
 }
 
-TEST_F(DirectoryReaderFaults, fileThatCannotBeAskedMakesTheWholeFolderUnreadable) {
+TEST_F(DirectoryReaderFaults, failedStatusOfAFileMakesTheFolderUnreadable) {
     zoo::makeWide(temp / "few", 5, 0);
     open(temp / "few");
     for (const int error : {EIO, EACCES, ESTALE, ENOMEM, ELOOP, EOVERFLOW, ENOTDIR}) {
@@ -74,7 +74,7 @@ TEST_F(DirectoryReaderFaults, fileThatCannotBeAskedMakesTheWholeFolderUnreadable
 }
 
 // A mount point whose file system is dead answers so, and the folder that holds it does answer.
-TEST_F(DirectoryReaderFaults, mountPointThatDoesNotAnswerIsLeftOut) {
+TEST_F(DirectoryReaderFaults, omitsDeadMountPoint) {
     zoo::makeWide(temp / "few", 0, 5);
     open(temp / "few");
     for (const int error : {EACCES, ENOTCONN, EHOSTDOWN, ETIMEDOUT}) {
@@ -85,7 +85,7 @@ TEST_F(DirectoryReaderFaults, mountPointThatDoesNotAnswerIsLeftOut) {
 }
 
 // A damaged folder is one like any other until it is opened, and is found unreadable then.
-TEST_F(DirectoryReaderFaults, damagedFolderIsStillAnEntry) {
+TEST_F(DirectoryReaderFaults, keepsDamagedSubfolderAsEntry) {
     zoo::makeWide(temp / "few", 0, 5);
     open(temp / "few");
     for (const int error : {EIO, ESTALE, EUCLEAN}) {
@@ -94,7 +94,7 @@ TEST_F(DirectoryReaderFaults, damagedFolderIsStillAnEntry) {
     }
 }
 
-TEST_F(DirectoryReaderFaults, entryRemovedBetweenListingAndAskingIsLeftOut) {
+TEST_F(DirectoryReaderFaults, omitsEntryRemovedAfterListing) {
     for (const unsigned at : {0u, 2u, 4u}) {
         const std::string folder = temp / std::to_string(at);
         zoo::makeWide(folder, 5, 0);
@@ -123,7 +123,7 @@ TEST_F(DirectoryReaderFaults, entryRemovedBetweenListingAndAskingIsLeftOut) {
 }
 
 // What is there when it is asked about counts, not what was listed.
-TEST_F(DirectoryReaderFaults, folderSwappedForALinkBetweenListingAndAskingIsALink) {
+TEST_F(DirectoryReaderFaults, reportsFolderSwappedForALinkAsLink) {
     zoo::makeFolder(temp / "root/folder");
     open(temp / "root");
     behindGate(
@@ -142,7 +142,7 @@ TEST_F(DirectoryReaderFaults, folderSwappedForALinkBetweenListingAndAskingIsALin
     EXPECT_EQ(reader->descend("folder"), nullptr);
 }
 
-TEST_F(DirectoryReaderFaults, signalThatInterruptsACallIsNoFailure) {
+TEST_F(DirectoryReaderFaults, retriesInterruptedCalls) {
     zoo::makeWide(temp / "few", 3, 2);
     open(temp / "few");
     for (const int number : {SYS_getdents64, SYS_statx, SYS_openat}) {
@@ -151,7 +151,7 @@ TEST_F(DirectoryReaderFaults, signalThatInterruptsACallIsNoFailure) {
 }
 
 // As in containers that know too few system calls, or forbid them. In a child, since a process remembers it.
-TEST_F(DirectoryReaderFaults, systemWithoutTheNewestCallsIsReadAllTheSame) {
+TEST_F(DirectoryReaderFaults, worksWithoutNewKernelCalls) {
     zoo::makeFolder(temp / "root/folder/below");
     fs::create_directory_symlink("folder", temp / "root/link");
     open(temp / "root");
@@ -165,7 +165,7 @@ TEST_F(DirectoryReaderFaults, systemWithoutTheNewestCallsIsReadAllTheSame) {
     }
 }
 
-TEST_F(DirectoryReaderFaults, lookupThatIsToBeTriedAgainIsTriedAgain) {
+TEST_F(DirectoryReaderFaults, retriesLookupAfterEagain) {
     zoo::makeFolder(temp / "root/folder/below");
     open(temp / "root");
     bool opened = false;
@@ -175,7 +175,7 @@ TEST_F(DirectoryReaderFaults, lookupThatIsToBeTriedAgainIsTriedAgain) {
     EXPECT_TRUE(opened);
 }
 
-TEST_F(DirectoryReaderFaults, failureLeavesNoDescriptorOpen) {
+TEST_F(DirectoryReaderFaults, failureLeaksNoDescriptor) {
     zoo::makeFile(temp / "few/folder/file");
     open(temp / "few");
     const std::ptrdiff_t before = fakes::openDescriptors();

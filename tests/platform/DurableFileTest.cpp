@@ -45,7 +45,7 @@ bool isLink(const std::string& path) {
     return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
-TEST(DurableFile, aNewFileIsForItsOwnerAlone) {
+TEST(DurableFile, newFileIsReadableByItsOwnerOnly) {
     const TempFolder folder;
     const mode_t mask = ::umask(0);
     EXPECT_TRUE(replaceFileDurably(folder / "file", "content"));
@@ -55,14 +55,14 @@ TEST(DurableFile, aNewFileIsForItsOwnerAlone) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("file"));
 }
 
-TEST(DurableFile, aLongFileIsReplacedWholeByAShortOne) {
+TEST(DurableFile, shorterContentReplacesTheWholeFile) {
     const TempFolder folder;
     writeFile(folder / "file", std::string(100000, 'x'));
     EXPECT_TRUE(replaceFileDurably(folder / "file", "short"));
     EXPECT_EQ(fileContent(folder / "file"), "short");
 }
 
-TEST(DurableFile, anyBytesAreWrittenAndRead) {
+TEST(DurableFile, writesAndReadsAnyBytes) {
     const TempFolder folder;
     const std::string zeros("\0\xff\n\0", 4);
     std::string large;
@@ -74,7 +74,7 @@ TEST(DurableFile, anyBytesAreWrittenAndRead) {
     }
 }
 
-TEST(DurableFile, anOldFileKeepsItsPermissions) {
+TEST(DurableFile, keepsPermissionsOfExistingFile) {
     const TempFolder folder;
     for (const unsigned mode : {0644u, 0640u, 0400u}) {
         writeFile(folder / "file", "old");
@@ -85,7 +85,7 @@ TEST(DurableFile, anOldFileKeepsItsPermissions) {
     }
 }
 
-TEST(DurableFile, aLinkStaysAndItsTargetIsReplaced) {
+TEST(DurableFile, replacesTargetOfLink) {
     const TempFolder folder;
     ::mkdir((folder / "dotfiles").c_str(), 0755);
     writeFile(folder / "dotfiles/file", "old");
@@ -100,7 +100,7 @@ TEST(DurableFile, aLinkStaysAndItsTargetIsReplaced) {
     EXPECT_THAT(namesIn(folder / "dotfiles"), ElementsAre("file"));
 }
 
-TEST(DurableFile, aLinkWithALongTargetIsFollowed) {
+TEST(DurableFile, followsLinkWithLongTarget) {
     const TempFolder folder;
     std::string target = folder.path();
     for (int i = 0; i < 10; ++i) {
@@ -113,7 +113,7 @@ TEST(DurableFile, aLinkWithALongTargetIsFollowed) {
     EXPECT_EQ(fileContent(target), "content");
 }
 
-TEST(DurableFile, aLinkToNothingCreatesTheFileItNames) {
+TEST(DurableFile, danglingLinkCreatesItsTarget) {
     const TempFolder folder;
     ASSERT_EQ(::symlink("real", (folder / "link").c_str()), 0);
     EXPECT_TRUE(replaceFileDurably(folder / "link", "content"));
@@ -121,14 +121,14 @@ TEST(DurableFile, aLinkToNothingCreatesTheFileItNames) {
     EXPECT_TRUE(isLink(folder / "link"));
 }
 
-TEST(DurableFile, aLinkIntoAMissingFolderIsAFailure) {
+TEST(DurableFile, linkIntoMissingFolderFails) {
     const TempFolder folder;
     ASSERT_EQ(::symlink("missing/real", (folder / "link").c_str()), 0);
     EXPECT_FALSE(replaceFileDurably(folder / "link", "content"));
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("link"));
 }
 
-TEST(DurableFile, linksInACircleAreAFailure) {
+TEST(DurableFile, linkLoopFails) {
     const TempFolder folder;
     ASSERT_EQ(::symlink("b", (folder / "a").c_str()), 0);
     ASSERT_EQ(::symlink("a", (folder / "b").c_str()), 0);
@@ -136,7 +136,7 @@ TEST(DurableFile, linksInACircleAreAFailure) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("a", "b"));
 }
 
-TEST(DurableFile, onlyARegularFileIsReplaced) {
+TEST(DurableFile, replacesRegularFilesOnly) {
     const TempFolder folder;
     ::mkdir((folder / "folder").c_str(), 0755);
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0644), 0);
@@ -151,7 +151,7 @@ TEST(DurableFile, onlyARegularFileIsReplaced) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("device", "folder", "pipe"));
 }
 
-TEST(DurableFile, aPathWithoutANameIsAFailure) {
+TEST(DurableFile, pathWithoutNameFails) {
     const TempFolder folder;
     for (const std::string& path :
          {std::string(), std::string("/"), folder.path() + "/", folder / ".", folder / ".."}) {
@@ -159,13 +159,13 @@ TEST(DurableFile, aPathWithoutANameIsAFailure) {
     }
 }
 
-TEST(DurableFile, aMissingFolderIsAFailureAndNotMade) {
+TEST(DurableFile, missingFolderFailsAndIsNotCreated) {
     const TempFolder folder;
     EXPECT_FALSE(replaceFileDurably(folder / "missing/file", "content"));
     EXPECT_THAT(namesIn(folder.path()), ElementsAre());
 }
 
-TEST(DurableFile, theLongestNameCanBeWritten) {
+TEST(DurableFile, writesFileWithLongestName) {
     const TempFolder folder;
     const std::string name(255, 'n');
     EXPECT_TRUE(replaceFileDurably(folder / name, "content"));
@@ -174,7 +174,7 @@ TEST(DurableFile, theLongestNameCanBeWritten) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre(name));
 }
 
-TEST(DurableFile, aRelativePathLiesInTheWorkingFolder) {
+TEST(DurableFile, relativePathIsInTheWorkingDirectory) {
     const TempFolder folder;
     EXPECT_TRUE(inChild([&] {
         return ::chdir(folder.path().c_str()) == 0 && replaceFileDurably("file", "content") &&
@@ -184,7 +184,7 @@ TEST(DurableFile, aRelativePathLiesInTheWorkingFolder) {
     EXPECT_EQ(fileContent(folder / "a/b/file"), "content");
 }
 
-TEST(DurableFile, aFolderWithoutPermissionKeepsTheOldFile) {
+TEST(DurableFile, unwritableFolderKeepsTheOldContent) {
     const TempFolder folder;
     writeFile(folder / "file", "old");
     ::chmod(folder.path().c_str(), 0555);
@@ -193,7 +193,7 @@ TEST(DurableFile, aFolderWithoutPermissionKeepsTheOldFile) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("file"));
 }
 
-TEST(DurableFile, aPartlyWrittenFileIsRemovedAndTheOldOneStays) {
+TEST(DurableFile, partialWriteKeepsTheOldContent) {
     const TempFolder folder;
     writeFile(folder / "file", "old");
     // The first write is cut short at the limit, the next one fails.
@@ -208,7 +208,7 @@ TEST(DurableFile, aPartlyWrittenFileIsRemovedAndTheOldOneStays) {
 }
 
 #ifdef __linux__
-TEST(DurableFile, aFullVolumeKeepsTheOldFileAndTakesTheNextOneThatFits) {
+TEST(DurableFile, fullVolumeKeepsTheOldContent) {
     const TempFolder folder;
     EXPECT_TRUE(inChild([&] {
         // A volume of 64 KiB that only this child sees.
@@ -228,7 +228,7 @@ TEST(DurableFile, aFullVolumeKeepsTheOldFileAndTakesTheNextOneThatFits) {
 }
 #endif
 
-TEST(DurableFile, whatAKilledWriterLeftIsSweptByTheNextWrite) {
+TEST(DurableFile, nextWriteRemovesTemporaryFileOfKilledWriter) {
     const TempFolder folder;
     writeFile(folder / staleName, "half");
     writeFile(folder / ".zelk-write-fedcba9876543210", "of another file");
@@ -236,7 +236,7 @@ TEST(DurableFile, whatAKilledWriterLeftIsSweptByTheNextWrite) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("file"));
 }
 
-TEST(DurableFile, whatOnlyLooksLikeATemporaryFileStays) {
+TEST(DurableFile, keepsFilesThatOnlyLookTemporary) {
     const TempFolder folder;
     const std::vector<std::string> others{
         ".zelk-write-",
@@ -251,7 +251,7 @@ TEST(DurableFile, whatOnlyLooksLikeATemporaryFileStays) {
     EXPECT_EQ(namesIn(folder.path()).size(), others.size() + 2);
 }
 
-TEST(DurableFile, nothingIsSweptWhileAnotherWrites) {
+TEST(DurableFile, sweepsNothingWhileAnotherWrites) {
     const TempFolder folder;
     writeFile(folder / staleName, "of a living writer");
     {
@@ -276,7 +276,7 @@ bool isOfOneLetter(const std::string& content) {
     return !content.empty() && content.find_first_not_of(content.front()) == std::string::npos;
 }
 
-TEST(DurableFile, processesAtOnceAllSucceedAndNeverMix) {
+TEST(DurableFile, concurrentProcessesNeverMixContent) {
     const TempFolder folder;
     const std::string file = folder / "file";
     writeFile(file, "o");
@@ -296,7 +296,7 @@ TEST(DurableFile, processesAtOnceAllSucceedAndNeverMix) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("file"));
 }
 
-TEST(DurableFile, threadsAtOnceAllSucceedAndNeverMix) {
+TEST(DurableFile, concurrentThreadsNeverMixContent) {
     const TempFolder folder;
     bool succeeded[3] = {};
     std::vector<std::thread> writers;
@@ -309,27 +309,27 @@ TEST(DurableFile, threadsAtOnceAllSucceedAndNeverMix) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("file"));
 }
 
-TEST(DurableFile, aFileThatIsNotThereIsAbsent) {
+TEST(DurableFile, readingMissingFileIsAbsent) {
     const TempFolder folder;
     EXPECT_EQ(readWholeFile(folder / "missing"), std::nullopt);
     EXPECT_EQ(readWholeFile(""), std::nullopt);
 }
 
-TEST(DurableFile, aFileWithoutPermissionIsAbsent) {
+TEST(DurableFile, readingUnreadableFileIsAbsent) {
     const TempFolder folder;
     writeFile(folder / "file", "secret");
     ::chmod((folder / "file").c_str(), 0);
     EXPECT_TRUE(asOrdinaryUser([&] { return !readWholeFile(folder / "file"); }));
 }
 
-TEST(DurableFile, aFileThatWouldFillTheMemoryIsAbsent) {
+TEST(DurableFile, readingTooLargeFileIsAbsent) {
     const TempFolder folder;
     writeFile(folder / "file", "");
     ASSERT_EQ(::truncate((folder / "file").c_str(), (off_t{256} << 20) + 1), 0);
     EXPECT_EQ(readWholeFile(folder / "file"), std::nullopt);
 }
 
-TEST(DurableFile, foldersAreMadeForTheUserAlone) {
+TEST(DurableFile, createsFoldersForTheUserOnly) {
     const TempFolder folder;
     EXPECT_TRUE(createDirectoryTree(folder / "a/b/c"));
     for (const char* name : {"a", "a/b", "a/b/c"}) EXPECT_EQ(permissions(folder / name), 0700u) << name;
@@ -338,7 +338,7 @@ TEST(DurableFile, foldersAreMadeForTheUserAlone) {
     EXPECT_EQ(permissions(folder / "a"), 0755u);
 }
 
-TEST(DurableFile, slashesTooManyMakeNoOtherFolders) {
+TEST(DurableFile, repeatedSlashesCreateNoOtherFolders) {
     const TempFolder folder;
     EXPECT_TRUE(createDirectoryTree(folder / "/a//b///"));
     EXPECT_THAT(namesIn(folder / "a"), ElementsAre("b"));
@@ -346,7 +346,7 @@ TEST(DurableFile, slashesTooManyMakeNoOtherFolders) {
     EXPECT_FALSE(createDirectoryTree(""));
 }
 
-TEST(DurableFile, aFileInTheWayOfAFolderIsAFailure) {
+TEST(DurableFile, fileInPlaceOfFolderFails) {
     const TempFolder folder;
     writeFile(folder / "file", "content");
     EXPECT_FALSE(createDirectoryTree(folder / "file"));
@@ -354,7 +354,7 @@ TEST(DurableFile, aFileInTheWayOfAFolderIsAFailure) {
     EXPECT_EQ(fileContent(folder / "file"), "content");
 }
 
-TEST(DurableFile, aLinkCountsAsTheFolderItLeadsTo) {
+TEST(DurableFile, acceptsLinkToFolder) {
     const TempFolder folder;
     ::mkdir((folder / "real").c_str(), 0755);
     ASSERT_EQ(::symlink("real", (folder / "link").c_str()), 0);
@@ -365,14 +365,14 @@ TEST(DurableFile, aLinkCountsAsTheFolderItLeadsTo) {
     EXPECT_FALSE(createDirectoryTree(folder / "dangling"));
 }
 
-TEST(DurableFile, aFolderThatMayNotBeMadeIsAFailure) {
+TEST(DurableFile, forbiddenFolderFails) {
     const TempFolder folder;
     ::chmod(folder.path().c_str(), 0555);
     EXPECT_TRUE(asOrdinaryUser([&] { return !createDirectoryTree(folder / "a/b"); }));
     EXPECT_THAT(namesIn(folder.path()), ElementsAre());
 }
 
-TEST(DurableFile, aFolderMadeByTwoAtOnceIsThereForBoth) {
+TEST(DurableFile, concurrentCreationSucceedsForBoth) {
     const TempFolder folder;
     for (int round = 0; round < 50; ++round) {
         const std::string path = folder / (std::to_string(round) + "/a/b/c");

@@ -13,17 +13,17 @@ TEST(FailureText, namesTheItemAndTheReason) {
               "“notes.txt” couldn’t be removed: Permission denied");
 }
 
-TEST(FailureText, takesTheSystemsOwnWords) {
+TEST(FailureText, usesTheSystemsMessage) {
     EXPECT_EQ(systemText(ENOENT), "No such file or directory");
     EXPECT_EQ(systemText(ENOSPC), "No space left on device");
 }
 
-TEST(ReadableName, leavesTextAsItIs) {
+TEST(ReadableName, keepsValidText) {
     for (const char* name : {"", "plain", "Grün", "文書", "😀 file", "\xf4\x8f\xbf\xbf", "a b"})
         EXPECT_EQ(readableName(name), name);
 }
 
-TEST(ReadableName, showsWhatIsNoTextAsReplacements) {
+TEST(ReadableName, replacesInvalidUtf8) {
     EXPECT_EQ(readableName("a\xff"
                            "b"),
               "a\uFFFDb");
@@ -36,12 +36,12 @@ TEST(ReadableName, showsWhatIsNoTextAsReplacements) {
     EXPECT_EQ(readableName("\xf5z"), "\uFFFDz");
 }
 
-TEST(ReadableName, showsControlCharactersAsMarks) {
+TEST(ReadableName, showsControlCharactersAsSymbols) {
     EXPECT_EQ(readableName("a\nb\tc\x7f"), "a␊b␉c␡");
     EXPECT_EQ(readableName("\xc2\x85"), "\uFFFD");
 }
 
-TEST(ReadableName, letsNoNameTurnTheTextAround) {
+TEST(ReadableName, replacesDirectionControls) {
     EXPECT_EQ(readableName("\u202Egpj.exe\u2066\u200F\u061C\u2028"), "\uFFFDgpj.exe\uFFFD\uFFFD\uFFFD\uFFFD");
 }
 

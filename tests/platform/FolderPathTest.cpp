@@ -5,13 +5,13 @@
 
 namespace zelk {
 
-TEST(FolderPath, dropsSlashesAtTheEnd) {
+TEST(FolderPath, dropsTrailingSlashes) {
     EXPECT_EQ(normalFolder("/a/home/"), "/a/home");
     EXPECT_EQ(normalFolder("/a/home///"), "/a/home");
     EXPECT_EQ(normalFolder("a/"), "a");
 }
 
-TEST(FolderPath, keepsOneSlashBetweenTheParts) {
+TEST(FolderPath, collapsesRepeatedSlashes) {
     EXPECT_EQ(normalFolder("//a///home"), "/a/home");
 }
 
@@ -21,33 +21,33 @@ TEST(FolderPath, dropsDotComponents) {
     EXPECT_EQ(normalFolder("./a"), "a");
 }
 
-TEST(FolderPath, keepsDotsThatArePartOfAName) {
+TEST(FolderPath, keepsDotsInNames) {
     for (const char* path : {"/a/.home", "/a/home.", "/.../a", "/a/..b"}) EXPECT_EQ(normalFolder(path), path);
 }
 
-TEST(FolderPath, leavesTheWayUpAlone) {
+TEST(FolderPath, keepsDotDotComponents) {
     EXPECT_EQ(normalFolder("/a/link/../b/"), "/a/link/../b");
     EXPECT_EQ(normalFolder("../a"), "../a");
 }
 
-TEST(FolderPath, theTopStaysOneSlash) {
+TEST(FolderPath, keepsRootAsOneSlash) {
     for (const char* path : {"/", "//", "/.", "/./"}) EXPECT_EQ(normalFolder(path), "/");
 }
 
-TEST(FolderPath, theWorkingFolderStaysADot) {
+TEST(FolderPath, keepsWorkingDirectoryAsDot) {
     for (const char* path : {".", "./", "././."}) EXPECT_EQ(normalFolder(path), ".");
 }
 
-TEST(FolderPath, nothingStaysNothing) {
+TEST(FolderPath, keepsEmptyPath) {
     EXPECT_EQ(normalFolder(""), "");
 }
 
-TEST(FolderPath, keepsTheBytesOfNames) {
+TEST(FolderPath, keepsNamesThatAreNotUtf8) {
     EXPECT_EQ(normalFolder("/caf\xe9/./\n /"), "/caf\xe9/\n ");
     EXPECT_EQ(normalFolder(std::string("/a\0b/", 5)), std::string("/a\0b", 4));
 }
 
-TEST(FolderPath, tellsWhatLiesInAFolder) {
+TEST(FolderPath, isInFolderComparesWholeComponents) {
     EXPECT_TRUE(isInFolder("/home/me", "/home/me"));
     EXPECT_TRUE(isInFolder("/home/me/.local/share", "/home/me"));
     EXPECT_TRUE(isInFolder("/home", "/"));
@@ -57,7 +57,7 @@ TEST(FolderPath, tellsWhatLiesInAFolder) {
     EXPECT_FALSE(isInFolder("/data/home/me", "/home/me"));
 }
 
-TEST(FolderPath, joinsAFolderAndAName) {
+TEST(FolderPath, pathInJoinsFolderAndName) {
     EXPECT_EQ(pathIn("/", "a"), "/a");
     EXPECT_EQ(pathIn("/a", "b"), "/a/b");
 }

@@ -16,50 +16,50 @@ std::string textOf(std::string_view path) {
     return item ? item->text() : "<none>";
 }
 
-TEST(ItemPath, anEmptyPathIsNone) {
+TEST(ItemPath, rejectsEmptyPath) {
     EXPECT_FALSE(ItemPath::from(""));
 }
 
-TEST(ItemPath, aRelativePathIsNone) {
+TEST(ItemPath, rejectsRelativePath) {
     for (const char* path : {"a", "a/b", "./a", "../a", " /a", "~", "~/a"}) EXPECT_FALSE(ItemPath::from(path)) << path;
 }
 
-TEST(ItemPath, theRootIsNoneHoweverManySlashesItHas) {
+TEST(ItemPath, rejectsRoot) {
     for (const char* path : {"/", "//", "///", "////////"}) EXPECT_FALSE(ItemPath::from(path)) << path;
 }
 
-TEST(ItemPath, aDotAnywhereIsNone) {
+TEST(ItemPath, rejectsDotComponents) {
     for (const char* path : {".", "/.", "/./", "/./a", "/a/.", "/a/./", "/a/./b"})
         EXPECT_FALSE(ItemPath::from(path)) << path;
 }
 
-TEST(ItemPath, twoDotsAnywhereAreNone) {
+TEST(ItemPath, rejectsDotDotComponents) {
     for (const char* path : {"..", "/..", "/../", "/../a", "/a/..", "/a/../", "/a/../b"})
         EXPECT_FALSE(ItemPath::from(path)) << path;
 }
 
-TEST(ItemPath, dotsInANameAreAName) {
+TEST(ItemPath, acceptsDotsInNames) {
     for (const char* path : {"/...", "/.a", "/a.", "/..a", "/a..", "/.../b"}) EXPECT_EQ(textOf(path), path);
 }
 
-TEST(ItemPath, aZeroByteIsNone) {
+TEST(ItemPath, rejectsZeroByte) {
     EXPECT_FALSE(ItemPath::from("\0"sv));
     EXPECT_FALSE(ItemPath::from("/a\0"sv));
     EXPECT_FALSE(ItemPath::from("/\0"sv));
     EXPECT_FALSE(ItemPath::from("/a\0/b"sv));
 }
 
-TEST(ItemPath, slashesAtTheEndAndBesideEachOtherAreDropped) {
+TEST(ItemPath, dropsRepeatedAndTrailingSlashes) {
     EXPECT_EQ(textOf("/a/"), "/a");
     EXPECT_EQ(textOf("/a///"), "/a");
     EXPECT_EQ(textOf("//a//b//"), "/a/b");
 }
 
-TEST(ItemPath, bytesThatAreNoTextStay) {
+TEST(ItemPath, keepsBytesThatAreNotUtf8) {
     EXPECT_EQ(textOf("/\xff\xfe/\n/\xc3"), "/\xff\xfe/\n/\xc3");
 }
 
-TEST(ItemPath, isAFolderAndAName) {
+TEST(ItemPath, splitsIntoParentAndName) {
     const std::optional<ItemPath> deep = ItemPath::from("/a/b c//d/");
     ASSERT_TRUE(deep);
     EXPECT_EQ(deep->parent(), "/a/b c");
@@ -70,12 +70,12 @@ TEST(ItemPath, isAFolderAndAName) {
     EXPECT_EQ(shallow->name(), "a");
 }
 
-TEST(ItemPath, isTheSameHoweverItWasWritten) {
+TEST(ItemPath, equalityIgnoresSpelling) {
     EXPECT_EQ(ItemPath::from("/a/b"), ItemPath::from("//a/b/"));
     EXPECT_NE(ItemPath::from("/a/b"), ItemPath::from("/a/B"));
 }
 
-TEST(ItemPath, belowARootKnowsTheWayThatWasWalked) {
+TEST(ItemPath, belowSplitsRootAndWay) {
     const auto parts = [](std::string_view root, std::string_view path) {
         const std::optional<ItemPath> item = ItemPath::below(root, path);
         return item ? item->root() + "|" + std::string(item->way()) + "|" + std::string(item->name()) : "<none>";
@@ -87,7 +87,7 @@ TEST(ItemPath, belowARootKnowsTheWayThatWasWalked) {
     EXPECT_EQ(parts("/", "/a"), "/||a");
 }
 
-TEST(ItemPath, thatIsNotBelowItsRootIsAsIfNoneWereKnown) {
+TEST(ItemPath, belowIgnoresUnrelatedRoot) {
     for (const std::string_view root : {"/home/me/a/b", "/home/you", "/home/m", "home/me", "", "/home/../home/me"}) {
         const std::optional<ItemPath> item = ItemPath::below(root, "/home/me/a/b");
         ASSERT_TRUE(item);

@@ -23,7 +23,7 @@ using Strings = std::vector<std::string>;
 
 // Control groups.
 
-TEST(ApplicationUnit, isNamedByDesktopsAndPackageRunners) {
+TEST(ApplicationUnit, parsesUnitsOfDesktopsAndPackages) {
     const auto of = [](const std::string& unit) {
         return applicationsOfControlGroup("0::/user.slice/user-1000.slice/user@1000.service/app.slice/" + unit + "\n");
     };
@@ -39,7 +39,7 @@ TEST(ApplicationUnit, isNamedByDesktopsAndPackageRunners) {
     EXPECT_THAT(of("app-code-77.scope/worker"), ElementsAre("code"));
 }
 
-TEST(ApplicationUnit, othersAreNone) {
+TEST(ApplicationUnit, ignoresOtherUnits) {
     for (const char* text : {"", "\n", "0::/", "0::/init.scope", "0::/system.slice/ssh.service",
                              "0::/user.slice/session-2.scope", "0::/app.slice", "0::/app-.scope", "0::/app-x.scope",
                              "0::/snap..scope", "0::/snap.scope", "0::/user.slice/app-gnome-org.gnome.Maps-4711.slice"})
@@ -63,7 +63,7 @@ protected:
     zoo::TempFolder folder;
 };
 
-TEST_F(Processes, areReadInTheOrderOfTheirNumbers) {
+TEST_F(Processes, areSortedByProcessId) {
     add(10, "/usr/bin/b", {"b", "", "--flag"});
     add(9, "/usr/bin/a", {"a"}, "0::/app-a-1.scope");
     fakes::writeFile(folder / "version", "6.1");
@@ -76,12 +76,12 @@ TEST_F(Processes, areReadInTheOrderOfTheirNumbers) {
     EXPECT_THAT(processes[1].arguments, ElementsAre("b", "", "--flag"));
 }
 
-TEST_F(Processes, programThatWasReplacedKeepsItsPath) {
+TEST_F(Processes, stripsDeletedMarkFromExecutable) {
     add(1, "/usr/bin/a (deleted)", {"a"});
     EXPECT_EQ(runningProcesses(folder.path()).at(0).executable, "/usr/bin/a");
 }
 
-TEST_F(Processes, whatCannotBeReadIsEmpty) {
+TEST_F(Processes, unreadableFieldsAreEmpty) {
     std::filesystem::create_directory(folder / "1");
     const std::vector<RunningProcess> processes = runningProcesses(folder.path());
     ASSERT_EQ(processes.size(), 1U);
@@ -91,7 +91,7 @@ TEST_F(Processes, whatCannotBeReadIsEmpty) {
 }
 
 // The first process is the superuser's.
-TEST_F(Processes, ofOtherUsersAreLeftOut) {
+TEST_F(Processes, omitsOtherUsers) {
     add(1, "/usr/bin/a", {"a"});
     ASSERT_EQ(::chmod(folder.path().c_str(), 0755), 0);
     ASSERT_EQ(runningProcesses(folder.path()).size(), 1U);
@@ -105,7 +105,7 @@ TEST_F(Processes, ofOtherUsersAreLeftOut) {
     }));
 }
 
-TEST(RealProcesses, haveThisProgramAmongThem) {
+TEST(RealProcesses, includeThisProgram) {
     const std::string own = std::filesystem::read_symlink("/proc/self/exe").string();
     const std::vector<RunningProcess> processes = runningProcesses();
     EXPECT_TRUE(std::any_of(processes.begin(), processes.end(),
@@ -155,7 +155,7 @@ protected:
     ApplicationPlaces places;
 };
 
-TEST_F(Applications, runIfTheirProgramRuns) {
+TEST_F(Applications, executableIdentifiesRunningApplication) {
     const std::string maps = program("bin/maps");
     program("bin/other");
     shared("maps", "Maps", "maps %U");
@@ -165,14 +165,14 @@ TEST_F(Applications, runIfTheirProgramRuns) {
     EXPECT_THAT(running({}), IsEmpty());
 }
 
-TEST_F(Applications, runIfTheProgramBehindALinkRuns) {
+TEST_F(Applications, executableIsComparedBehindLinks) {
     const std::string real = program("lib/maps-3.2");
     ASSERT_EQ(::symlink(real.c_str(), (folder / "bin/maps").c_str()), 0);
     shared("maps", "Maps", "maps");
     EXPECT_THAT(running({process(real)}), ElementsAre("Maps"));
 }
 
-TEST_F(Applications, comeInTheOrderOfTheProcessesAndOnceEach) {
+TEST_F(Applications, areListedOnceInProcessOrder) {
     const std::string a = program("bin/a");
     const std::string b = program("bin/b");
     shared("a", "A", "a");
@@ -181,7 +181,7 @@ TEST_F(Applications, comeInTheOrderOfTheProcessesAndOnceEach) {
     EXPECT_THAT(running({process(b), process(a), process(b)}), ElementsAre("B", "A"));
 }
 
-TEST_F(Applications, runIfTheirScriptRuns) {
+TEST_F(Applications, scriptIdentifiesRunningApplication) {
     const std::string interpreter = program("bin/python3.11");
     const std::string script = program("bin/tool", "#!" + interpreter + "\n");
     shared("tool", "Tool", "tool");
@@ -192,14 +192,14 @@ TEST_F(Applications, runIfTheirScriptRuns) {
     EXPECT_THAT(running({process(interpreter, {})}), IsEmpty());
 }
 
-TEST_F(Applications, runIfTheirScriptRunsByAnInterpreterOnThePath) {
+TEST_F(Applications, interpreterOfScriptIsFoundOnPath) {
     const std::string interpreter = program("bin/python3");
     const std::string script = program("bin/tool", "#! /usr/bin/env python3 \nprint()\n");
     shared("tool", "Tool", "tool");
     EXPECT_THAT(running({process(interpreter, {"python3", script})}), ElementsAre("Tool"));
 }
 
-TEST_F(Applications, runIfTheirScriptBecameAnotherProgramUnderItsPath) {
+TEST_F(Applications, execKeepsScriptPathAsProcessName) {
     program("bin/sh");
     const std::string script = program("bin/browser", "#!" + (folder / "bin/sh") + "\nexec -a \"$0\" /opt/browser\n");
     shared("browser", "Browser", "browser %U");
@@ -207,7 +207,7 @@ TEST_F(Applications, runIfTheirScriptBecameAnotherProgramUnderItsPath) {
     EXPECT_THAT(running({process("/opt/browser", {"browser"})}), IsEmpty());
 }
 
-TEST_F(Applications, doNotRunBecauseWhatRunsManyDoes) {
+TEST_F(Applications, sharedInterpreterIsNotTheApplication) {
     const std::string python = program("bin/python3");
     const std::string flatpak = program("bin/flatpak");
     const std::string script = program("lib/app.py", "");
@@ -217,7 +217,7 @@ TEST_F(Applications, doNotRunBecauseWhatRunsManyDoes) {
     EXPECT_THAT(running({process(python, {"python3", script})}), ElementsAre("App"));
 }
 
-TEST_F(Applications, runIfTheDesktopMadeTheirControlGroup) {
+TEST_F(Applications, controlGroupIdentifiesRunningApplication) {
     program("bin/flatpak");
     shared("org.gimp.GIMP", "GIMP", "flatpak run org.gimp.GIMP");
     entry("shared/applications/kde/kate.desktop", "Kate", "kate");
@@ -228,7 +228,7 @@ TEST_F(Applications, runIfTheDesktopMadeTheirControlGroup) {
     EXPECT_THAT(running({sandboxed}), ElementsAre("Kate"));
 }
 
-TEST_F(Applications, programBehindEnvIsTheirs) {
+TEST_F(Applications, envPrefixIsSkipped) {
     program("bin/env");
     const std::string maps = program("bin/maps");
     shared("maps", "Maps", "env LANG=C A=B maps %u");
@@ -237,7 +237,7 @@ TEST_F(Applications, programBehindEnvIsTheirs) {
     EXPECT_THAT(running({process(folder / "bin/env")}), IsEmpty());
 }
 
-TEST_F(Applications, whatIsNoneIsNotInstalled) {
+TEST_F(Applications, omitsHiddenAndIncompleteEntries) {
     shared("hidden", "Hidden", "a", "Hidden=true\n");
     shared("helper", "Helper", "a", "NoDisplay=true\n");
     shared("link", "Link", "a", "Type=Link\n");
@@ -251,7 +251,7 @@ TEST_F(Applications, whatIsNoneIsNotInstalled) {
     EXPECT_THAT(installedNames(), ElementsAre("There"));
 }
 
-TEST_F(Applications, usersOwnEntryStandsForTheSystems) {
+TEST_F(Applications, usersEntryOverridesTheSystems) {
     program("bin/a");
     shared("a", "A", "a");
     shared("b", "B", "a");
@@ -262,13 +262,13 @@ TEST_F(Applications, usersOwnEntryStandsForTheSystems) {
     EXPECT_THAT(installedNames(), ElementsAre("My A", "My C"));
 }
 
-TEST_F(Applications, namesAreInTheUsersLanguage) {
+TEST_F(Applications, nameIsLocalized) {
     shared("maps", "Maps", "maps", "Name[de]=Karten\n");
     places.locales = {"de_AT", "de"};
     EXPECT_THAT(installedNames(), ElementsAre("Karten"));
 }
 
-TEST_F(Applications, foldersThatLeadInCirclesEnd) {
+TEST_F(Applications, survivesLinkLoops) {
     program("bin/a");
     shared("a", "A", "a");
     ASSERT_EQ(::symlink((folder / "shared/applications").c_str(), (folder / "shared/applications/kde/again").c_str()),
@@ -276,7 +276,7 @@ TEST_F(Applications, foldersThatLeadInCirclesEnd) {
     EXPECT_THAT(Strings({installedNames().front()}), ElementsAre("A"));
 }
 
-TEST_F(Applications, placesAreThoseOfTheEnvironment) {
+TEST_F(Applications, placesComeFromTheEnvironment) {
     const fakes::EnvironmentVariable data("XDG_DATA_DIRS", "/one:relative::/two");
     const fakes::EnvironmentVariable path("PATH", "/bin:.:/usr/bin");
     const fakes::EnvironmentVariable all("LC_ALL", std::nullopt);

@@ -15,7 +15,7 @@ DesktopEntry parsed(const std::string& lines, const std::vector<std::string>& lo
     return entry.value_or(DesktopEntry());
 }
 
-TEST(DesktopEntryText, ofAnApplicationIsReadWhole) {
+TEST(DesktopEntryText, parsesApplication) {
     const DesktopEntry entry = parsed(
         "Type=Application\nName=Maps\nComment=Where things are\nExec=gnome-maps --gapplication-service %U\n"
         "TryExec=gnome-maps\nIcon=maps\nNoDisplay=false\n");
@@ -27,7 +27,7 @@ TEST(DesktopEntryText, ofAnApplicationIsReadWhole) {
     EXPECT_FALSE(entry.noDisplay);
 }
 
-TEST(DesktopEntryText, mustBeginWithItsGroup) {
+TEST(DesktopEntryText, rejectsTextBeforeItsGroup) {
     EXPECT_FALSE(parseDesktopEntry("", {}));
     EXPECT_FALSE(parseDesktopEntry("\n# only a comment\n", {}));
     EXPECT_FALSE(parseDesktopEntry("Name=Maps\n[Desktop Entry]\n", {}));
@@ -35,40 +35,40 @@ TEST(DesktopEntryText, mustBeginWithItsGroup) {
     EXPECT_TRUE(parseDesktopEntry("# Maps\n\n[Desktop Entry]", {}));
 }
 
-TEST(DesktopEntryText, endsWithItsGroup) {
+TEST(DesktopEntryText, stopsAtTheNextGroup) {
     EXPECT_EQ(parsed("Name=Maps\n[Desktop Action new]\nName=New window\n[Desktop Entry]\nName=Again\n").name, "Maps");
 }
 
-TEST(DesktopEntryText, blanksAroundTheEqualsSignAndLineEndsOfOtherSystemsMeanNothing) {
+TEST(DesktopEntryText, ignoresBlanksAndCarriageReturns) {
     const DesktopEntry entry = parsed("  Name = Maps \r\nType\t=\tApplication\r\n# Name=No\nno equals sign\n=no key\n");
     EXPECT_EQ(entry.name, "Maps");
     EXPECT_TRUE(entry.isApplication);
 }
 
-TEST(DesktopEntryText, keysAreExact) {
+TEST(DesktopEntryText, matchesWholeKeysOnly) {
     const DesktopEntry entry = parsed("name=Maps\nNames=Maps\nName-X=Maps\nGenericName=Maps\nType=application\n");
     EXPECT_EQ(entry.name, "");
     EXPECT_FALSE(entry.isApplication);
 }
 
-TEST(DesktopEntryText, linksAndFoldersAreNoApplications) {
+TEST(DesktopEntryText, linksAndDirectoriesAreNotApplications) {
     EXPECT_FALSE(parsed("Type=Link\nName=Home\nURL=https://example.org\n").isApplication);
     EXPECT_FALSE(parsed("Name=Maps\n").isApplication);
 }
 
-TEST(DesktopEntryText, ofAKeyThatStandsTwiceTheLastCounts) {
+TEST(DesktopEntryText, lastDuplicateKeyWins) {
     EXPECT_EQ(parsed("Name=A\nName=B\n").name, "B");
     EXPECT_TRUE(parsed("Hidden=false\nHidden=true\n").hidden);
 }
 
-TEST(DesktopEntryText, hiddenAndNotDisplayedAreTold) {
+TEST(DesktopEntryText, parsesHiddenAndNoDisplay) {
     EXPECT_TRUE(parsed("Hidden=true\n").hidden);
     EXPECT_TRUE(parsed("NoDisplay=true\n").noDisplay);
     EXPECT_TRUE(parsed("NoDisplay=1\n").noDisplay);
     EXPECT_FALSE(parsed("NoDisplay=True\n").noDisplay);
 }
 
-TEST(DesktopEntryText, nameIsInTheBestLanguageThereIs) {
+TEST(DesktopEntryText, picksNameInBestLanguage) {
     const std::string names = "Name[de]=Karten\nName=Maps\nName[de_AT]=Plan\nName[fr]=Cartes\n";
     EXPECT_EQ(parsed(names, {"de_AT", "de"}).name, "Plan");
     EXPECT_EQ(parsed(names, {"de_CH", "de"}).name, "Karten");
@@ -76,12 +76,12 @@ TEST(DesktopEntryText, nameIsInTheBestLanguageThereIs) {
     EXPECT_EQ(parsed(names).name, "Maps");
 }
 
-TEST(DesktopEntryText, nameForNobodyInParticularMayBeMissing) {
+TEST(DesktopEntryText, acceptsLocalizedNameOnly) {
     EXPECT_EQ(parsed("Name[fr]=Cartes\n", {"fr"}).name, "Cartes");
     EXPECT_EQ(parsed("Name[fr]=Cartes\n", {"de"}).name, "");
 }
 
-TEST(DesktopEntryText, nameThatIsNoTextDoesNotCount) {
+TEST(DesktopEntryText, ignoresNameThatIsNotUtf8) {
     EXPECT_EQ(parsed("Name=Maps\nName[de]=Stra\xdf"
                      "e\n",
                      {"de"})
@@ -90,14 +90,14 @@ TEST(DesktopEntryText, nameThatIsNoTextDoesNotCount) {
     EXPECT_EQ(parsed("Name=\xff\n").name, "");
 }
 
-TEST(DesktopEntryText, escapesAreResolved) {
+TEST(DesktopEntryText, decodesEscapes) {
     EXPECT_EQ(parsed(R"(Name=\sa\tb\\c\xd\)"
                      "\n")
                   .name,
               " a\tb\\c\\xd\\");
 }
 
-TEST(DesktopEntryText, wordsOfACommandAreUnquoted) {
+TEST(DesktopEntryText, splitsAndUnquotesCommand) {
     EXPECT_THAT(parsed(R"(Exec="/opt/My App/run" --name="a b"  "" %f)"
                        "\n")
                     .command,
@@ -111,7 +111,7 @@ TEST(DesktopEntryText, wordsOfACommandAreUnquoted) {
     EXPECT_THAT(parsed("Exec=\n").command, IsEmpty());
 }
 
-TEST(DesktopEntryText, localesGoFromTheNarrowestToTheWidest) {
+TEST(DesktopEntryText, ordersLocalesBySpecificity) {
     EXPECT_THAT(localesOf("de_AT.UTF-8@euro"), ElementsAre("de_AT@euro", "de_AT", "de@euro", "de"));
     EXPECT_THAT(localesOf("de_AT.UTF-8"), ElementsAre("de_AT", "de"));
     EXPECT_THAT(localesOf("sr@latin"), ElementsAre("sr@latin", "sr"));

@@ -108,7 +108,7 @@ protected:
     std::shared_ptr<const DirectoryRoot> kept;
 };
 
-TEST_F(LinuxDirectoryReaderTest, everyKindOfEntryIsAsLstatHasIt) {
+TEST_F(LinuxDirectoryReaderTest, reportsEveryKindOfEntryLikeLstat) {
     zoo::makeSpecialFiles(temp / "folder");
     zoo::makeUnequalSizes(temp / "folder");
     zoo::makeLinks(temp / "folder", temp / "outside");
@@ -134,7 +134,7 @@ TEST_F(LinuxDirectoryReaderTest, everyKindOfEntryIsAsLstatHasIt) {
     }
 }
 
-TEST_F(LinuxDirectoryReaderTest, typesAreTheNumbersOfMacOS) {
+TEST_F(LinuxDirectoryReaderTest, usesVnodeTypeNumbers) {
     zoo::makeSpecialFiles(temp.path());
     zoo::makeFile(temp / "file");
     zoo::makeFolder(temp / "folder");
@@ -147,7 +147,7 @@ TEST_F(LinuxDirectoryReaderTest, typesAreTheNumbersOfMacOS) {
     EXPECT_EQ(entry("/dev", "null").objType, 4u);
 }
 
-TEST_F(LinuxDirectoryReaderTest, linkIsItselfAndNotItsTarget) {
+TEST_F(LinuxDirectoryReaderTest, reportsLinkNotItsTarget) {
     zoo::makeFile(temp / "outside", 100000);
     fs::create_symlink(temp / "outside", temp / "link");
     fs::create_symlink(temp / "nowhere", temp / "dangling");
@@ -158,7 +158,7 @@ TEST_F(LinuxDirectoryReaderTest, linkIsItselfAndNotItsTarget) {
     EXPECT_EQ(entry(temp.path(), "long").allocSize, blocksOf(temp / "long"));
 }
 
-TEST_F(LinuxDirectoryReaderTest, sizeIsWhatIsAllocatedAndNotTheLength) {
+TEST_F(LinuxDirectoryReaderTest, reportsAllocatedSizeNotLength) {
     zoo::makeUnequalSizes(temp.path());
     EXPECT_LT(entry(temp.path(), "hole.iso").allocSize, 1u << 20);
     EXPECT_GT(entry(temp.path(), "byte").allocSize, 1u);
@@ -172,7 +172,7 @@ TEST_F(LinuxDirectoryReaderTest, sizeIsWhatIsAllocatedAndNotTheLength) {
     }
 }
 
-TEST_F(LinuxDirectoryReaderTest, hardLinksAreCountedOnEveryNameAndNeverOnAFolder) {
+TEST_F(LinuxDirectoryReaderTest, reportsLinkCountOfFilesOnly) {
     zoo::makeHardLinks(temp / "folder", temp / "outside");
     EXPECT_EQ(entry(temp / "folder/a", "first").linkCount, 3u);
     const std::uint64_t id = entry(temp / "folder/a", "second").fileID;
@@ -183,7 +183,7 @@ TEST_F(LinuxDirectoryReaderTest, hardLinksAreCountedOnEveryNameAndNeverOnAFolder
     EXPECT_EQ(folder.allocSize, 0u);
 }
 
-TEST_F(LinuxDirectoryReaderTest, timeIsKeptToItsFractionAndBefore1970) {
+TEST_F(LinuxDirectoryReaderTest, keepsFractionalAndNegativeTimes) {
     const auto withTime = [&](const char* name, timespec modified) {
         zoo::makeFile(temp / name);
         const timespec times[2] = {{1, 2}, modified};  // the access time is another
@@ -201,7 +201,7 @@ TEST_F(LinuxDirectoryReaderTest, timeIsKeptToItsFractionAndBefore1970) {
     EXPECT_EQ(entry(temp.path(), "after2038").modTime, 4294967296 + 5.25);
 }
 
-TEST_F(LinuxDirectoryReaderTest, namesAreKeptByteForByteAndOnlyTheTwoDotsAreLeftOut) {
+TEST_F(LinuxDirectoryReaderTest, keepsNamesByteForByteAndOmitsOnlyDotAndDotDot) {
     const Names names{"...",     "....",    "..a", ".hidden", ".x.",   "\xFF\xFE",
                       "caf\xE9", "a\nb",    "%s",  " ",       "-",     std::string(255, '\xA0'),
                       "1",       "22",      "333", "4444",    "55555", "666666",
@@ -210,7 +210,7 @@ TEST_F(LinuxDirectoryReaderTest, namesAreKeptByteForByteAndOnlyTheTwoDotsAreLeft
     EXPECT_THAT(namesOf(read(temp.path())), testing::UnorderedElementsAreArray(names));
 }
 
-TEST_F(LinuxDirectoryReaderTest, emptyFolderIsAnEmptyListAndNotAFailure) {
+TEST_F(LinuxDirectoryReaderTest, emptyFolderIsAnEmptyList) {
     zoo::makeFolder(temp / "empty");
     for (int time = 0; time < 2; ++time) {
         const Entries* const entries = read(temp / "empty");
@@ -219,7 +219,7 @@ TEST_F(LinuxDirectoryReaderTest, emptyFolderIsAnEmptyListAndNotAFailure) {
     }
 }
 
-TEST_F(LinuxDirectoryReaderTest, moreEntriesThanABufferHoldsAreEachThereOnce) {
+TEST_F(LinuxDirectoryReaderTest, readsMoreEntriesThanABufferHolds) {
     for (const auto& [place, entryCount] : {std::pair{memory / "wide", 20000u}, std::pair{temp / "wide", 4000u}}) {
         zoo::makeWide(place, entryCount - 500, 500);
         std::set<std::string> names;
@@ -236,21 +236,21 @@ TEST_F(LinuxDirectoryReaderTest, moreEntriesThanABufferHoldsAreEachThereOnce) {
     }
 }
 
-TEST_F(LinuxDirectoryReaderTest, longestNamesFillManyBuffers) {
+TEST_F(LinuxDirectoryReaderTest, readsBuffersOfLongestNames) {
     Names names;
     for (int number = 1000; number < 2000; ++number) names.push_back(std::to_string(number) + std::string(251, 'n'));
     for (const std::string& name : names) zoo::makeFile(memory / "long/" + name);
     EXPECT_THAT(namesOf(read(memory / "long")), testing::UnorderedElementsAreArray(names));
 }
 
-TEST_F(LinuxDirectoryReaderTest, orderIsThatOfDelivery) {
+TEST_F(LinuxDirectoryReaderTest, keepsOrderOfDelivery) {
     zoo::makeWide(temp / "wide", 500, 50);
     Names delivered;
     for (const auto& one : fs::directory_iterator(temp / "wide")) delivered.push_back(one.path().filename());
     EXPECT_EQ(namesOf(read(temp / "wide")), delivered);
 }
 
-TEST_F(LinuxDirectoryReaderTest, listIsWholeUntilTheNextStepWhateverHappensOnTheDisk) {
+TEST_F(LinuxDirectoryReaderTest, listStaysValidWhileTheDiskChanges) {
     zoo::makeWide(memory / "wide", 3000, 100);
     const Entries* const entries = read(memory / "wide");
     ASSERT_NE(entries, nullptr);
@@ -262,7 +262,7 @@ TEST_F(LinuxDirectoryReaderTest, listIsWholeUntilTheNextStepWhateverHappensOnThe
     EXPECT_EQ(namesOf(entries), before);
 }
 
-TEST_F(LinuxDirectoryReaderTest, oneReaderReadsManyFoldersOneAfterTheOther) {
+TEST_F(LinuxDirectoryReaderTest, oneReaderReadsManyFolders) {
     std::map<std::string, Names> wanted;
     for (int folder = 0; folder < 60; ++folder) {
         const std::string path = memory / "many/" + std::to_string(folder);
@@ -291,7 +291,7 @@ TEST_F(LinuxDirectoryReaderTest, oneReaderReadsManyFoldersOneAfterTheOther) {
     EXPECT_EQ(openDescriptors(), before);
 }
 
-TEST_F(LinuxDirectoryReaderTest, whatALargeFolderTookIsGivenBackAtTheNext) {
+TEST_F(LinuxDirectoryReaderTest, releasesMemoryOfALargeFolder) {
     constexpr std::ptrdiff_t quarter = 256 * 1024;
     zoo::makeFile(memory / "small/file");
     for (int number = 0; number < 22000; ++number)
@@ -307,7 +307,7 @@ TEST_F(LinuxDirectoryReaderTest, whatALargeFolderTookIsGivenBackAtTheNext) {
 }
 
 // What a walk does with the names that it is given: they lie in the memory that the next step overwrites.
-TEST_F(LinuxDirectoryReaderTest, nameOfTheListItselfMayBeDescendedInto) {
+TEST_F(LinuxDirectoryReaderTest, descendAcceptsNameFromItsOwnList) {
     const std::string name(255, 'd');
     zoo::makeFile(temp / "root/" + name + "/below/file");
     const auto root = open(temp / "root");
@@ -318,7 +318,7 @@ TEST_F(LinuxDirectoryReaderTest, nameOfTheListItselfMayBeDescendedInto) {
     EXPECT_EQ(namesOf(reader->descend(entries->front().name)), Names{"file"});
 }
 
-TEST_F(LinuxDirectoryReaderTest, everythingIsClosedAtTheEnd) {
+TEST_F(LinuxDirectoryReaderTest, closesAllDescriptors) {
     zoo::makeChain(temp / "chain", 60, 100);
     const std::ptrdiff_t before = openDescriptors();
     {
@@ -333,7 +333,7 @@ TEST_F(LinuxDirectoryReaderTest, everythingIsClosedAtTheEnd) {
     EXPECT_EQ(openDescriptors(), before);
 }
 
-TEST_F(LinuxDirectoryReaderTest, chainFarPastAPathsLengthIsReadAtEveryLevelOnBothWays) {
+TEST_F(LinuxDirectoryReaderTest, readsChainLongerThanPathMax) {
     constexpr int levels = 120;
     const std::string name(200, 'd');
     zoo::makeChain(temp / "chain", levels, name.size());
@@ -354,7 +354,7 @@ TEST_F(LinuxDirectoryReaderTest, chainFarPastAPathsLengthIsReadAtEveryLevelOnBot
     EXPECT_FALSE(reader->ascend()) << "it was opened there, and knows nothing above";
 }
 
-TEST_F(LinuxDirectoryReaderTest, folderWithoutPermissionToListIsUnreadable) {
+TEST_F(LinuxDirectoryReaderTest, forbiddenFolderIsUnreadable) {
     zoo::makeUnreadable(temp / "root");
     EXPECT_TRUE(fakes::asOrdinaryUser([&] {
         const auto root = service.openRoot(temp / "root");
@@ -371,7 +371,7 @@ TEST_F(LinuxDirectoryReaderTest, folderWithoutPermissionToListIsUnreadable) {
     }));
 }
 
-TEST_F(LinuxDirectoryReaderTest, statusFollowsLinksAndHasWholeSeconds) {
+TEST_F(LinuxDirectoryReaderTest, statusFollowsLinksAndTruncatesSeconds) {
     zoo::makeFolder(temp / "folder");
     fs::create_directory_symlink("folder", temp / "link");
     fs::create_directory_symlink("nowhere", temp / "dangling");
@@ -389,7 +389,7 @@ TEST_F(LinuxDirectoryReaderTest, statusFollowsLinksAndHasWholeSeconds) {
     EXPECT_TRUE(service.status("/dev/null"));
 }
 
-TEST_F(LinuxDirectoryReaderTest, statusOfAPathOfAnyLengthIsKnown) {
+TEST_F(LinuxDirectoryReaderTest, statusAcceptsPathOfAnyLength) {
     const std::string name(250, 'd');
     zoo::makeChain(temp / "chain", 40, name.size());
     std::string path = temp / "chain";
@@ -401,7 +401,7 @@ TEST_F(LinuxDirectoryReaderTest, statusOfAPathOfAnyLengthIsKnown) {
 }
 
 // A scan tells a mount point by this: both ways of asking must name a device alike, on every device there is.
-TEST_F(LinuxDirectoryReaderTest, deviceIsTheSameInARootsStatusAndInItsEntries) {
+TEST_F(LinuxDirectoryReaderTest, rootAndEntriesHaveTheSameDevice) {
     for (const char* const path : {"/", "/proc", "/dev", "/dev/shm", "/sys"}) {
         const auto status = service.status(path);
         ASSERT_TRUE(status) << path;
@@ -415,7 +415,7 @@ TEST_F(LinuxDirectoryReaderTest, deviceIsTheSameInARootsStatusAndInItsEntries) {
     EXPECT_EQ(entry("/", "proc").deviceID, service.status("/proc")->device);
 }
 
-TEST_F(LinuxDirectoryReaderTest, rootThatWasRemovedIsUnreadable) {
+TEST_F(LinuxDirectoryReaderTest, removedRootIsUnreadable) {
     zoo::makeFolder(temp / "gone");
     const auto root = open(temp / "gone");
     ASSERT_TRUE(fs::remove(temp / "gone"));
@@ -423,7 +423,7 @@ TEST_F(LinuxDirectoryReaderTest, rootThatWasRemovedIsUnreadable) {
     EXPECT_EQ(reader->open(*root, "below"), nullptr);
 }
 
-TEST_F(LinuxDirectoryReaderTest, oneRootServesManyReadersAtOnce) {
+TEST_F(LinuxDirectoryReaderTest, oneRootServesConcurrentReaders) {
     zoo::makeWide(memory / "wide", 2000, 20);
     const auto root = open(memory.path());
     std::vector<std::thread> threads;
@@ -444,7 +444,7 @@ TEST_F(LinuxDirectoryReaderTest, oneRootServesManyReadersAtOnce) {
     EXPECT_EQ(found, std::vector<std::size_t>(4, 20200));
 }
 
-TEST(StatxEntry, tellsWhatIsGoneFromWhatCannotBeAsked) {
+TEST(StatxEntry, distinguishesGoneFromFailed) {
     const zoo::TempFolder temp;
     zoo::makeFile(temp / "closed/file");
     ASSERT_EQ(::chmod((temp / "closed").c_str(), 0444), 0);
@@ -462,7 +462,7 @@ TEST(StatxEntry, tellsWhatIsGoneFromWhatCannotBeAsked) {
 }
 
 // The one would wake what is only mounted on use, the other ask a server about every file.
-TEST(StatxEntry, wakesNoMountAndWaitsForNoServer) {
+TEST(StatxEntry, triggersNoAutomountAndNoSync) {
     const zoo::TempFolder temp;
     zoo::makeFile(temp / "folder/file");
     for (const unsigned flag : {AT_NO_AUTOMOUNT, AT_STATX_DONT_SYNC, AT_SYMLINK_NOFOLLOW}) {
@@ -478,7 +478,7 @@ TEST(StatxEntry, wakesNoMountAndWaitsForNoServer) {
     }
 }
 
-TEST(DeviceNumber, keepsTwelveBitsOfTheMajorAndTwentyOfTheMinor) {
+TEST(DeviceNumber, packsTwelveMajorAndTwentyMinorBits) {
     EXPECT_EQ(deviceNumber(0, 0), 0);
     EXPECT_EQ(deviceNumber(0, 1), 1);
     EXPECT_EQ(deviceNumber(1, 0), 1 << 20);

@@ -60,7 +60,7 @@ TEST(LinuxFileManager, existenceFollowsLinks) {
     EXPECT_FALSE(manager.exists(""));
 }
 
-TEST(LinuxFileManager, propertiesAreThoseOfTheEntryItself) {
+TEST(LinuxFileManager, propertiesDoNotFollowLinks) {
     const TempFolder folder;
     zoo::makeFile(folder / "file", 10000);
     zoo::makeFolder(folder / "folder");
@@ -84,7 +84,7 @@ TEST(LinuxFileManager, propertiesAreThoseOfTheEntryItself) {
     EXPECT_FALSE(manager.properties(folder / "missing"));
 }
 
-TEST(LinuxFileManager, aHoleIsNotAllocated) {
+TEST(LinuxFileManager, holesCountNothing) {
     const TempFolder folder;
     zoo::makeFile(folder / "sparse");
     ASSERT_EQ(::truncate((folder / "sparse").c_str(), 1 << 30), 0);
@@ -92,7 +92,7 @@ TEST(LinuxFileManager, aHoleIsNotAllocated) {
     EXPECT_LT(manager.allocatedSizeBelow(folder.path()), 1u << 20);
 }
 
-TEST(LinuxFileManager, aListHoldsAllNamesWithoutTheDots) {
+TEST(LinuxFileManager, listHoldsAllNamesExceptDots) {
     const TempFolder folder;
     zoo::makeFile(folder / "file");
     zoo::makeFile(folder / ".hidden");
@@ -104,7 +104,7 @@ TEST(LinuxFileManager, aListHoldsAllNamesWithoutTheDots) {
     EXPECT_THAT(manager.list(folder / "folder"), Optional(IsEmpty()));
 }
 
-TEST(LinuxFileManager, aListOfNoFolderIsAbsent) {
+TEST(LinuxFileManager, listOfANonFolderIsAbsent) {
     const TempFolder folder;
     zoo::makeFile(folder / "file");
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0644), 0);
@@ -116,7 +116,7 @@ TEST(LinuxFileManager, aListOfNoFolderIsAbsent) {
     EXPECT_TRUE(asOrdinaryUser([&] { return !manager.list(folder / "locked"); }));
 }
 
-TEST(LinuxFileManager, pathsLongerThanTheSystemTakesAreLookedAt) {
+TEST(LinuxFileManager, inspectsPathsLongerThanPathMax) {
     const TempFolder folder;
     const std::string path = makeChain(folder.path(), std::string(200, 'd'), 60);
     EXPECT_FALSE(manager.exists(path)) << "what no program reaches by its path is not asked for by its path";
@@ -129,7 +129,7 @@ TEST(LinuxFileManager, pathsLongerThanTheSystemTakesAreLookedAt) {
     EXPECT_FALSE(manager.exists(std::string(5000, 'n')));
 }
 
-TEST(LinuxFileManager, theSizeBelowIsThatOfEveryFileAndOfNoFolder) {
+TEST(LinuxFileManager, sizeBelowCountsFilesNotFolders) {
     const TempFolder folder;
     zoo::makeFile(folder / "a", 5000);
     zoo::makeFile(folder / "one/b", 70000);
@@ -142,7 +142,7 @@ TEST(LinuxFileManager, theSizeBelowIsThatOfEveryFileAndOfNoFolder) {
     EXPECT_EQ(manager.allocatedSizeBelow(folder / "empty"), 0u);
 }
 
-TEST(LinuxFileManager, theSizeBelowLeavesHiddenEntriesOutWithAllTheyHold) {
+TEST(LinuxFileManager, sizeBelowOmitsHiddenEntries) {
     const TempFolder folder;
     zoo::makeFile(folder / "seen", 5000);
     zoo::makeFile(folder / ".hidden", 50000);
@@ -153,13 +153,13 @@ TEST(LinuxFileManager, theSizeBelowLeavesHiddenEntriesOutWithAllTheyHold) {
     EXPECT_EQ(manager.allocatedSizeBelow(folder / ".folder"), allocated(folder / ".folder/seen"));
 }
 
-TEST(LinuxFileManager, theSizeBelowGoesIntoPackages) {
+TEST(LinuxFileManager, sizeBelowIncludesPackages) {
     const TempFolder folder;
     zoo::makeFile(folder / "Some.app/Contents/MacOS/some", 50000);
     EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), allocated(folder / "Some.app/Contents/MacOS/some"));
 }
 
-TEST(LinuxFileManager, theSizeBelowCountsALinkAndNotItsTarget) {
+TEST(LinuxFileManager, sizeBelowDoesNotFollowLinks) {
     const TempFolder folder;
     const TempFolder outside;
     zoo::makeFile(outside / "large", 1000000);
@@ -173,7 +173,7 @@ TEST(LinuxFileManager, theSizeBelowCountsALinkAndNotItsTarget) {
     EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), expected);
 }
 
-TEST(LinuxFileManager, theSizeBelowCountsAHardLinkEachTime) {
+TEST(LinuxFileManager, sizeBelowCountsEveryHardLink) {
     const TempFolder folder;
     zoo::makeFile(folder / "a", 50000);
     zoo::makeFolder(folder / "one");
@@ -182,7 +182,7 @@ TEST(LinuxFileManager, theSizeBelowCountsAHardLinkEachTime) {
     EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), 3 * allocated(folder / "a"));
 }
 
-TEST(LinuxFileManager, theSizeBelowWhatCannotBeReadIsNothing) {
+TEST(LinuxFileManager, sizeBelowUnreadableFolderIsZero) {
     const TempFolder folder;
     zoo::makeFile(folder / "locked/file", 50000);
     zoo::makeFile(folder / "open/file", 50000);
@@ -196,20 +196,20 @@ TEST(LinuxFileManager, theSizeBelowWhatCannotBeReadIsNothing) {
     EXPECT_EQ(manager.allocatedSizeBelow(folder / "open/file"), 0u);
 }
 
-TEST(LinuxFileManager, theSizeBelowKnowsNamesThatAreNoText) {
+TEST(LinuxFileManager, sizeBelowAcceptsNamesThatAreNotUtf8) {
     const TempFolder folder;
     zoo::makeFile(folder / "\xff\xfe/\n/file", 50000);
     EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), allocated(folder / "\xff\xfe/\n/file"));
 }
 
-TEST(LinuxFileManager, theSizeBelowReachesTheEndOfFiftyThousandFolders) {
+TEST(LinuxFileManager, sizeBelowWalksFiftyThousandNestedFolders) {
     const TempFolder folder(TempFolder::Medium::memory);
     makeChain(folder.path(), "d", 50000);
     zoo::makeFile(folder / "d/d/top", 8192);
     EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), 2 * allocated(folder / "d/d/top"));
 }
 
-TEST(LinuxFileManager, filesAreReadAndReplacedInFoldersMadeForThem) {
+TEST(LinuxFileManager, createsFoldersReplacesAndReadsFiles) {
     const TempFolder folder;
     EXPECT_FALSE(manager.replaceDurably(folder / "a/b/file", "content"));
     EXPECT_TRUE(manager.createDirectories(folder / "a/b"));
@@ -218,7 +218,7 @@ TEST(LinuxFileManager, filesAreReadAndReplacedInFoldersMadeForThem) {
     EXPECT_FALSE(manager.read(folder / "a/b"));
 }
 
-TEST(LinuxFileManager, tryingToOpenSaysWhyItCannotBe) {
+TEST(LinuxFileManager, tryOpenReturnsErrno) {
     const TempFolder folder;
     zoo::makeFile(folder / "file");
     zoo::makeFile(folder / "locked");

@@ -16,7 +16,7 @@ namespace {
 
 using fakes::EnvironmentVariable;
 
-TEST(LinuxLocations, homeIsTheOneOfTheEnvironment) {
+TEST(LinuxLocations, homeComesFromTheEnvironment) {
     const EnvironmentVariable home("HOME", "/home/some one");
     const EnvironmentVariable data("XDG_DATA_HOME", std::nullopt);
     LinuxLocations locations;
@@ -24,7 +24,7 @@ TEST(LinuxLocations, homeIsTheOneOfTheEnvironment) {
     EXPECT_EQ(locations.applicationSupport(), "/home/some one/.local/share");
 }
 
-TEST(LinuxLocations, homeWithoutAnEnvironmentIsTheOneOfTheUserDatabase) {
+TEST(LinuxLocations, homeFallsBackToTheUserDatabase) {
     const passwd* entry = ::getpwuid(::getuid());
     const std::string expected = entry != nullptr ? entry->pw_dir : "/";
     for (const std::optional<std::string>& value :
@@ -34,7 +34,7 @@ TEST(LinuxLocations, homeWithoutAnEnvironmentIsTheOneOfTheUserDatabase) {
     }
 }
 
-TEST(LinuxLocations, homeHasNoSlashAtItsEnd) {
+TEST(LinuxLocations, homeHasNoTrailingSlash) {
     const EnvironmentVariable home("HOME", "/home/me//");
     const EnvironmentVariable data("XDG_DATA_HOME", "/data///");
     LinuxLocations locations;
@@ -48,7 +48,7 @@ TEST(LinuxLocations, homeHasNoDotComponents) {
     EXPECT_EQ(LinuxLocations("/given/./home").applicationSupport(), "/given/home/.local/share");
 }
 
-TEST(LinuxLocations, theRootAsHomeStaysOneSlash) {
+TEST(LinuxLocations, rootAsHomeIsOneSlash) {
     const EnvironmentVariable home("HOME", "/");
     const EnvironmentVariable data("XDG_DATA_HOME", std::nullopt);
     LinuxLocations locations;
@@ -62,7 +62,7 @@ TEST(LinuxLocations, applicationSupportIsTheDataHome) {
     EXPECT_EQ(LinuxLocations().applicationSupport(), "/else/where");
 }
 
-TEST(LinuxLocations, aDataHomeThatIsNotAbsoluteIsIgnored) {
+TEST(LinuxLocations, ignoresRelativeDataHome) {
     const EnvironmentVariable home("HOME", "/home/me");
     for (const char* value : {"", "relative", "./relative", "~/data"}) {
         const EnvironmentVariable data("XDG_DATA_HOME", value);
@@ -70,7 +70,7 @@ TEST(LinuxLocations, aDataHomeThatIsNotAbsoluteIsIgnored) {
     }
 }
 
-TEST(LinuxLocations, aGivenHomeTakesEverythingWithIt) {
+TEST(LinuxLocations, givenHomeOverridesTheEnvironment) {
     const EnvironmentVariable home("HOME", "/home/me");
     const EnvironmentVariable data("XDG_DATA_HOME", "/else/where");
     LinuxLocations locations("/given");
@@ -78,14 +78,14 @@ TEST(LinuxLocations, aGivenHomeTakesEverythingWithIt) {
     EXPECT_EQ(locations.applicationSupport(), "/given/.local/share");
 }
 
-TEST(LinuxLocations, theHomeIsLaidOutByTheRulesOfFreedesktop) {
+TEST(LinuxLocations, namesTheXdgDataHome) {
     const EnvironmentVariable home("HOME", "/home/me");
     const EnvironmentVariable data("XDG_DATA_HOME", "/else/where/");
     EXPECT_EQ(LinuxLocations().xdgDataHome(), "/else/where");
     EXPECT_EQ(LinuxLocations("/given").xdgDataHome(), "/given/.local/share");
 }
 
-TEST(LinuxLocations, whatWasThrownAwayLiesWhereTheTrashPutsIt) {
+TEST(LinuxLocations, trashPlacesIncludeTheHomeTrash) {
     const EnvironmentVariable home("HOME", "/home/me");
     for (const std::optional<std::string>& value :
          {std::optional<std::string>(), std::optional<std::string>("/data")}) {
@@ -98,7 +98,7 @@ TEST(LinuxLocations, whatWasThrownAwayLiesWhereTheTrashPutsIt) {
     EXPECT_TRUE(LinuxLocations("/given").trashPlaces().areAt(LinuxTrash("/given").location()));
 }
 
-TEST(LinuxLocations, whatWasThrownAwayOnAVolumeLiesInTheTrashOfThisUser) {
+TEST(LinuxLocations, trashPlacesIncludeThisUsersVolumeTrashes) {
     const TrashPlaces places = LinuxLocations("/given").trashPlaces();
     const std::string user = std::to_string(::geteuid());
     for (const std::string& top : {std::string(), std::string("/media/stick"), std::string("/mnt/a b")}) {
@@ -109,7 +109,7 @@ TEST(LinuxLocations, whatWasThrownAwayOnAVolumeLiesInTheTrashOfThisUser) {
     }
 }
 
-TEST(LinuxLocations, whatWasThrownAwayIsFoundByThePathBehindALinkToo) {
+TEST(LinuxLocations, trashPlacesIncludeTheResolvedDataHome) {
     const zoo::TempFolder temp;
     std::filesystem::create_directories(temp / "real/me");
     std::filesystem::create_directory_symlink(temp / "real", temp / "link");
@@ -118,7 +118,7 @@ TEST(LinuxLocations, whatWasThrownAwayIsFoundByThePathBehindALinkToo) {
     EXPECT_TRUE(places.areAt(temp / "real/me/.local/share/Trash/files"));
 }
 
-TEST(LinuxLocations, theEnvironmentIsReadOnce) {
+TEST(LinuxLocations, readsTheEnvironmentOnce) {
     const EnvironmentVariable home("HOME", "/home/me");
     const EnvironmentVariable data("XDG_DATA_HOME", "/data");
     LinuxLocations locations;
@@ -128,7 +128,7 @@ TEST(LinuxLocations, theEnvironmentIsReadOnce) {
     EXPECT_EQ(locations.applicationSupport(), "/data");
 }
 
-TEST(LinuxLocations, aHomeThatIsNoTextIsKeptAsBytes) {
+TEST(LinuxLocations, keepsHomeThatIsNotUtf8) {
     const EnvironmentVariable home("HOME", "/home/\xff");
     EXPECT_EQ(LinuxLocations().home(), "/home/\xff");
 }

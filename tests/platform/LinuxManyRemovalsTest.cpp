@@ -54,7 +54,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ManyRemovals, allGoToTheTrash) {
+TEST_F(ManyRemovals, allMoveToTheTrash) {
     const std::string home = temp / "home";
     zoo::makeFolder(home);
     EXPECT_TRUE(withFewDescriptors([&] {
@@ -65,7 +65,7 @@ TEST_F(ManyRemovals, allGoToTheTrash) {
     EXPECT_EQ(fakes::namesIn(home + "/.local/share/Trash/files").size(), many);
 }
 
-TEST_F(ManyRemovals, allGoForGood) {
+TEST_F(ManyRemovals, allAreDeleted) {
     EXPECT_TRUE(withFewDescriptors([&] {
         LinuxFileManager files;
         return failures([&](int item) { return files.remove(ItemPath::from(pathOf(item)).value()); }) == 0;

@@ -16,25 +16,25 @@ constexpr std::string_view sample =
     "40 21 8:17 / /media/me/My\\040stick rw,relatime shared:9 master:2 - vfat /dev/sdb1 rw\n"
     "41 21 253:0 /var/my\\040data /home/me/data rw - ext4 /dev/vda rw\n";
 
-TEST(MountTable, hasANumberAndAPlaceOfEachMount) {
+TEST(MountTable, parsesEachMount) {
     EXPECT_THAT(parseMountTable(sample),
                 ElementsAre(Mount{21, 1, "253:0", "/", "/"}, Mount{22, 21, "0:21", "/", "/proc"},
                             Mount{40, 21, "8:17", "/", "/media/me/My stick"},
                             Mount{41, 21, "253:0", "/var/my data", "/home/me/data"}));
 }
 
-TEST(MountTable, escapedBytesAreThemselves) {
+TEST(MountTable, decodesEscapedBytes) {
     EXPECT_THAT(parseMountTable("1 0 0:1 / /a\\040b\\011c\\012d\\134e\\377 rw - x y z\n"),
                 ElementsAre(Mount{1, 0, "0:1", "/", "/a b\tc\nd\\e\xff"}));
 }
 
-TEST(MountTable, whatIsNoEscapeStaysAsItIs) {
+TEST(MountTable, keepsInvalidEscapes) {
     EXPECT_THAT(parseMountTable("1 0 0:1 / /a\\b\\04\\489\\ rw\n"),
                 ElementsAre(Mount{1, 0, "0:1", "/", "/a\\b\\04\\489\\"}));
     EXPECT_THAT(parseMountTable("1 0 0:1 / /a\\777 rw\n"), ElementsAre(Mount{1, 0, "0:1", "/", "/a\\777"}));
 }
 
-TEST(MountTable, linesOfAnotherFormArePassedOver) {
+TEST(MountTable, skipsMalformedLines) {
     EXPECT_THAT(parseMountTable(""), IsEmpty());
     EXPECT_THAT(
         parseMountTable("\n\n 1 \n1 2 3\nx 0 0:1 / /a rw\n-1 0 0:1 / /a rw\n1x 0 0:1 / /a rw\n1 x 0:1 / /a rw\n"),
@@ -44,17 +44,17 @@ TEST(MountTable, linesOfAnotherFormArePassedOver) {
                 ElementsAre(Mount{2, 0, "0:1", "/", "/b"}));
 }
 
-TEST(MountTable, lastLineNeedsNoEnd) {
+TEST(MountTable, acceptsUnterminatedLastLine) {
     EXPECT_THAT(parseMountTable("7 0 0:1 / /last"), ElementsAre(Mount{7, 0, "0:1", "/", "/last"}));
 }
 
-TEST(MountTable, findsAMountByItsNumber) {
+TEST(MountTable, findsMountPointById) {
     const auto table = parseMountTable(sample);
     EXPECT_THAT(mountPointOf(table, 40), Optional(std::string("/media/me/My stick")));
     EXPECT_FALSE(mountPointOf(table, 39));
 }
 
-TEST(MountTable, knowsWhatIsMountedBelowAFolder) {
+TEST(MountTable, findsMountsBelowAFolder) {
     const auto table = parseMountTable(sample);
     for (const char* above : {"/", "/home", "/home/me", "/home/me/", "/media/me"})
         EXPECT_TRUE(isMountedBelow(table, above)) << above;
@@ -71,7 +71,7 @@ constexpr std::string_view aliased =
     "53 51 0:42 / /data/a/stick/inner rw - tmpfs none rw\n"
     "54 99 0:43 / /data/unknown rw - tmpfs none rw\n";
 
-TEST(MountTable, knowsWhatIsMountedThereUnderAnyOtherPath) {
+TEST(MountTable, findsMountsUnderOtherPathsOfTheSameFolder) {
     const auto table = parseMountTable(aliased);
     for (const char* folder : {"/alias", "/alias/a", "/alias/a/", "/alias/a/stick"})
         EXPECT_TRUE(isMountedAnywhereIn(table, 50, folder)) << folder;
@@ -85,7 +85,7 @@ TEST(MountTable, knowsWhatIsMountedThereUnderAnyOtherPath) {
     EXPECT_TRUE(isMountedAnywhereIn(table, 51, "/data/a/stick/inner"));
 }
 
-TEST(MountTable, ofAMountThatItDoesNotHaveItKnowsThePathsOnly) {
+TEST(MountTable, comparesOnlyPathsOfAnUnknownMount) {
     const auto table = parseMountTable(aliased);
     EXPECT_TRUE(isMountedAnywhereIn(table, 77, "/data/a"));
     EXPECT_FALSE(isMountedAnywhereIn(table, 77, "/alias/a"));

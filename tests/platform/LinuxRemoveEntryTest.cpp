@@ -74,19 +74,19 @@ protected:
     const std::string victim = temp / "victim";
 };
 
-TEST_F(Remover, takesAFile) {
+TEST_F(Remover, removesFile) {
     zoo::makeFile(victim, 10);
     EXPECT_EQ(removed(victim), std::nullopt);
     EXPECT_THAT(namesIn(temp.path()), ElementsAre("outside"));
 }
 
-TEST_F(Remover, takesAnEmptyFolder) {
+TEST_F(Remover, removesEmptyFolder) {
     zoo::makeFolder(victim);
     EXPECT_EQ(removed(victim), std::nullopt);
     EXPECT_THAT(namesIn(temp.path()), ElementsAre("outside"));
 }
 
-TEST_F(Remover, takesALinkAndNotItsTarget) {
+TEST_F(Remover, removesLinkNotItsTarget) {
     for (const std::string& target : {outside, outside + "/file", std::string("/nowhere"), victim}) {
         fs::create_symlink(target, victim);
         EXPECT_EQ(removed(victim + "/"), std::nullopt);
@@ -95,21 +95,21 @@ TEST_F(Remover, takesALinkAndNotItsTarget) {
     }
 }
 
-TEST_F(Remover, takesAStrangersWholeTree) {
+TEST_F(Remover, removesHostileTree) {
     makeTree();
     EXPECT_EQ(removed(victim), std::nullopt);
     EXPECT_FALSE(fs::exists(fs::symlink_status(victim)));
     expectOutsideUntouched();
 }
 
-TEST_F(Remover, takesAStrangersWholeTreeWithoutTheNewestCall) {
+TEST_F(Remover, removesHostileTreeWithoutOpenat2) {
     makeTree();
     EXPECT_TRUE(withoutTheNewestCall([&] { return !removed(victim); }));
     EXPECT_FALSE(fs::exists(fs::symlink_status(victim)));
     expectOutsideUntouched();
 }
 
-TEST_F(Remover, takesFiftyThousandFoldersOneInTheOtherWithFewDescriptors) {
+TEST_F(Remover, removesFiftyThousandNestedFoldersWithFewDescriptors) {
     zoo::makeChain(victim, 50000, 1);
     EXPECT_TRUE(fakes::inChild([&] {
         const rlimit few{40, 40};
@@ -118,13 +118,13 @@ TEST_F(Remover, takesFiftyThousandFoldersOneInTheOtherWithFewDescriptors) {
     EXPECT_FALSE(fs::exists(victim));
 }
 
-TEST_F(Remover, takesWhatLiesDeeperThanAPathCanSay) {
+TEST_F(Remover, removesTreeDeeperThanPathMax) {
     zoo::makeChain(victim, 100, 200);
     EXPECT_EQ(removed(victim), std::nullopt);
     EXPECT_FALSE(fs::exists(victim));
 }
 
-TEST_F(Remover, takesAnItemWhosePathIsTooLong) {
+TEST_F(Remover, removesItemWithPathLongerThanPathMax) {
     zoo::makeChain(victim, 60, 100);
     std::string name = *namesIn(victim).begin();
     for (const std::string& entry : namesIn(victim)) {
@@ -140,13 +140,13 @@ TEST_F(Remover, takesAnItemWhosePathIsTooLong) {
     EXPECT_TRUE(files.list(deep.substr(0, deep.size() - 101)));
 }
 
-TEST_F(Remover, takesNamesThatAreNoText) {
+TEST_F(Remover, removesNamesThatAreNotUtf8) {
     zoo::makeNames(victim);
     EXPECT_EQ(removed(victim), std::nullopt);
     EXPECT_FALSE(fs::exists(victim));
 }
 
-TEST_F(Remover, takesNothingThroughALinkThatWasPutInTheWaySinceTheItemWasFound) {
+TEST_F(Remover, refusesLinkSwappedIntoTheWay) {
     fs::create_directory_symlink(outside, victim);
     const auto refuses = [&] {
         return LinuxFileManager().remove(ItemPath::below(temp.path(), victim + "/folder/below").value()) &&
@@ -157,7 +157,7 @@ TEST_F(Remover, takesNothingThroughALinkThatWasPutInTheWaySinceTheItemWasFound) 
     expectOutsideUntouched();
 }
 
-TEST_F(Remover, saysThatAnItemIsMissing) {
+TEST_F(Remover, reportsMissingItem) {
     EXPECT_THAT(removed(victim), Optional(std::string("“victim” couldn’t be removed: No such file or directory")));
     EXPECT_THAT(removed(victim + "/below"),
                 Optional(std::string("“below” couldn’t be removed: No such file or directory")));
@@ -165,7 +165,7 @@ TEST_F(Remover, saysThatAnItemIsMissing) {
                 Optional(std::string("“below” couldn’t be removed: Not a directory")));
 }
 
-TEST_F(Remover, saysWhichFolderOfAnotherUsersForbidsItAndStops) {
+TEST_F(Remover, stopsAtAndNamesForbiddenFolderOfAnotherUser) {
     if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
     for (const mode_t mode : {0555, 0700}) {
         fs::remove_all(victim);
@@ -182,7 +182,7 @@ TEST_F(Remover, saysWhichFolderOfAnotherUsersForbidsItAndStops) {
     }
 }
 
-TEST_F(Remover, takesFoldersThatTheirOwnerMayNotChangeOrRead) {
+TEST_F(Remover, removesFoldersWithoutOwnerPermission) {
     for (const mode_t mode : {0000, 0100, 0200, 0300, 0400, 0500, 0600}) {
         for (const char* name : {"/file", "/below/file", "/below/deeper/file"})
             zoo::makeFile(victim + "/locked" + name);
@@ -197,7 +197,7 @@ TEST_F(Remover, takesFoldersThatTheirOwnerMayNotChangeOrRead) {
     }
 }
 
-TEST_F(Remover, takesFoldersThatMayNotBeChangedWithoutTheNewestCall) {
+TEST_F(Remover, removesReadOnlyFoldersWithoutOpenat2) {
     for (const mode_t mode : {0000, 0500}) {
         zoo::makeFile(victim + "/locked/below/file");
         ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
@@ -208,7 +208,7 @@ TEST_F(Remover, takesFoldersThatMayNotBeChangedWithoutTheNewestCall) {
     }
 }
 
-TEST_F(Remover, takesADeepTreeOfFoldersThatMayNotBeChanged) {
+TEST_F(Remover, removesDeepReadOnlyTree) {
     zoo::makeChain(victim, 60, 4);
     ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
     fakes::giveToOrdinaryUser(victim);
@@ -222,7 +222,7 @@ TEST_F(Remover, takesADeepTreeOfFoldersThatMayNotBeChanged) {
     EXPECT_FALSE(fs::exists(victim));
 }
 
-TEST_F(Remover, changesNoPermissionOfTheFolderThatHoldsTheItem) {
+TEST_F(Remover, keepsPermissionsOfTheParentFolder) {
     zoo::makeFile(victim + "/item/file");
     fakes::giveToOrdinaryUser(victim);
     ASSERT_EQ(::chmod(victim.c_str(), 0500), 0);
@@ -231,7 +231,7 @@ TEST_F(Remover, changesNoPermissionOfTheFolderThatHoldsTheItem) {
     EXPECT_EQ(fs::status(victim).permissions(), fs::perms(0500));
 }
 
-TEST_F(Remover, changesNoPermissionOfWhatALinkLeadsTo) {
+TEST_F(Remover, keepsPermissionsOfLinkTargets) {
     zoo::makeFolder(victim);
     ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
     fakes::giveToOrdinaryUser(temp.path());
@@ -242,7 +242,7 @@ TEST_F(Remover, changesNoPermissionOfWhatALinkLeadsTo) {
     expectOutsideUntouched();
 }
 
-TEST_F(Remover, takesAnEmptyFolderThatMayNotBeLookedInto) {
+TEST_F(Remover, removesUnreadableEmptyFolder) {
     zoo::makeFolder(victim + "/locked");
     ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
     fakes::giveToOrdinaryUser(victim);
@@ -251,7 +251,7 @@ TEST_F(Remover, takesAnEmptyFolderThatMayNotBeLookedInto) {
     EXPECT_FALSE(fs::exists(victim));
 }
 
-TEST_F(Remover, needsNoPermissionToListTheFolderThatHoldsTheItem) {
+TEST_F(Remover, needsNoReadPermissionOnTheParentFolder) {
     zoo::makeFile(victim + "/item/below/file");
     fakes::giveToOrdinaryUser(victim);
     ASSERT_EQ(::chmod(victim.c_str(), 0300), 0);
@@ -260,7 +260,7 @@ TEST_F(Remover, needsNoPermissionToListTheFolderThatHoldsTheItem) {
     EXPECT_TRUE(namesIn(victim).empty());
 }
 
-TEST_F(Remover, takesWhatSomebodyElseRemovesMeanwhileAsRemoved) {
+TEST_F(Remover, acceptsEntriesRemovedByOthers) {
     for (const long call : {SYS_unlinkat, SYS_openat2, SYS_getdents64}) {
         for (unsigned at = 0; at < 8; ++at) {
             for (const char* name : {"a", "b", "c"}) zoo::makeFile(victim + "/" + name + "/file");
@@ -280,7 +280,7 @@ TEST_F(Remover, takesWhatSomebodyElseRemovesMeanwhileAsRemoved) {
     }
 }
 
-TEST_F(Remover, removesNothingOfAFolderThatCannotBeListedToItsEnd) {
+TEST_F(Remover, removesNothingAfterAPartialListing) {
     zoo::makeWide(victim, 5000, 0);
     unsigned calls = 0;
     Failure failure;
@@ -293,7 +293,7 @@ TEST_F(Remover, removesNothingOfAFolderThatCannotBeListedToItsEnd) {
     EXPECT_EQ(removed(victim), std::nullopt);
 }
 
-TEST_F(Remover, takesWhatIsAddedWhileItRemoves) {
+TEST_F(Remover, removesEntriesAddedMeanwhile) {
     zoo::makeFile(victim + "/folder/file");
     Failure failure = "not run";
     behindGate(
@@ -308,7 +308,7 @@ TEST_F(Remover, takesWhatIsAddedWhileItRemoves) {
     EXPECT_FALSE(fs::exists(victim));
 }
 
-TEST_F(Remover, givesUpOnAFolderThatIsFilledAgainForEver) {
+TEST_F(Remover, givesUpOnAFolderThatKeepsRefilling) {
     zoo::makeFile(victim + "/folder/file");
     Failure failure;
     behindGate(
@@ -321,7 +321,7 @@ TEST_F(Remover, givesUpOnAFolderThatIsFilledAgainForEver) {
     EXPECT_THAT(failure, Optional(std::string("“folder” in “victim” couldn’t be removed: Directory not empty")));
 }
 
-TEST_F(Remover, removesALinkThatWasPutInPlaceOfAFolder) {
+TEST_F(Remover, removesLinkSwappedForAFolder) {
     for (const long call : {SYS_openat2, SYS_unlinkat}) {
         for (unsigned at = 0; at < 4; ++at) {
             fs::remove_all(victim);
@@ -347,7 +347,7 @@ TEST_F(Remover, removesALinkThatWasPutInPlaceOfAFolder) {
     }
 }
 
-TEST_F(Remover, takesWhatItFoundWhateverIsPutInPlaceOfTheFolderAbove) {
+TEST_F(Remover, ignoresSwappedParentFolder) {
     zoo::makeFile(temp / "above/victim/folder/file");
     zoo::makeFile(temp / "other/victim/folder/file");
     behindGate(
@@ -364,7 +364,7 @@ TEST_F(Remover, takesWhatItFoundWhateverIsPutInPlaceOfTheFolderAbove) {
     EXPECT_TRUE(namesIn(temp / "aside").empty());
 }
 
-TEST_F(Remover, anErrorOfAnyCallIsTold) {
+TEST_F(Remover, reportsErrorOfEverySyscall) {
     for (const long call : {SYS_openat2, SYS_getdents64, SYS_unlinkat, SYS_statx, SYS_fcntl}) {
         unsigned calls = 0;
         zoo::makeFile(victim + "/a/b/file");
@@ -389,7 +389,7 @@ TEST_F(Remover, anErrorOfAnyCallIsTold) {
     }
 }
 
-TEST_F(Remover, emptiesAFolderEntryByEntryAndLeavesTheFolder) {
+TEST_F(Remover, emptiesFolderButKeepsIt) {
     zoo::makeFile(victim + "/file");
     zoo::makeFile(victim + "/.hidden/deep/file");
     zoo::makeFile(victim + "/stays/file");

@@ -48,35 +48,35 @@ protected:
     fakes::Mounts mounts;
 };
 
-TEST_F(RemoverAndMounts, aBindMountInTheFolderIsRefusedAndNothingIsGone) {
+TEST_F(RemoverAndMounts, refusesFolderWithBindMount) {
     mounts.again(elsewhere, victim + "/m/mounted");
     EXPECT_THAT(removedEntry(victim), Optional(refused));
     EXPECT_TRUE(fs::exists(victim + "/a/file") && fs::exists(victim + "/z/file"));
     EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
 }
 
-TEST_F(RemoverAndMounts, anotherVolumeInTheFolderIsRefusedAndNothingIsGone) {
+TEST_F(RemoverAndMounts, refusesFolderWithAnotherVolume) {
     mounts.memory(victim + "/m/mounted");
     zoo::makeFile(victim + "/m/mounted/kept");
     EXPECT_THAT(removedEntry(victim), Optional(refused));
     EXPECT_TRUE(fs::exists(victim + "/a/file") && fs::exists(victim + "/m/mounted/kept"));
 }
 
-TEST_F(RemoverAndMounts, theFolderReachedThroughALinkIsRefusedToo) {
+TEST_F(RemoverAndMounts, refusesFolderWithMountReachedThroughALink) {
     mounts.again(elsewhere, victim + "/m/mounted");
     fs::create_directory_symlink(temp.path(), temp / "link");
     EXPECT_THAT(removedEntry(temp / "link/victim"), Optional(refused));
     EXPECT_TRUE(fs::exists(victim + "/a/file"));
 }
 
-TEST_F(RemoverAndMounts, theMountPointItselfIsRefused) {
+TEST_F(RemoverAndMounts, refusesMountPoint) {
     mounts.again(elsewhere, victim + "/m/mounted");
     EXPECT_THAT(removedEntry(victim + "/m/mounted"),
                 Optional(std::string("“mounted” couldn’t be removed: another volume is mounted there")));
     EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
 }
 
-TEST_F(RemoverAndMounts, aFileMountedOverAnotherIsRefused) {
+TEST_F(RemoverAndMounts, refusesMountedFile) {
     mounts.again(elsewhere + "/kept", victim + "/a/file");
     EXPECT_THAT(removedEntry(victim + "/a/file"),
                 Optional(std::string("“file” couldn’t be removed: another volume is mounted there")));
@@ -84,7 +84,7 @@ TEST_F(RemoverAndMounts, aFileMountedOverAnotherIsRefused) {
     EXPECT_TRUE(fs::exists(elsewhere + "/kept"));
 }
 
-TEST_F(RemoverAndMounts, whatIsMountedCanBeEmptiedFromWithin) {
+TEST_F(RemoverAndMounts, removesEntriesWithinAMount) {
     mounts.again(elsewhere, victim + "/m/mounted");
     EXPECT_EQ(removedEntry(victim + "/m/mounted/kept"), std::nullopt);
     EXPECT_TRUE(namesIn(elsewhere).empty());
@@ -92,7 +92,7 @@ TEST_F(RemoverAndMounts, whatIsMountedCanBeEmptiedFromWithin) {
 
 // The same folder is reached by two paths, and what is mounted below one of them holds the folder under it in place for
 // both, though below the other there is no mount to be seen.
-TEST_F(RemoverAndMounts, aMountBelowAnotherPathOfTheSameFolderIsRefusedAndNothingIsGone) {
+TEST_F(RemoverAndMounts, refusesFolderWithMountUnderAnotherPath) {
     zoo::makeFolder(temp / "alias");
     mounts.again(temp.path(), temp / "alias");
     mounts.memory(victim + "/m/mounted");
@@ -103,7 +103,7 @@ TEST_F(RemoverAndMounts, aMountBelowAnotherPathOfTheSameFolderIsRefusedAndNothin
     EXPECT_EQ(removedEntry(temp / "alias/victim/a"), std::nullopt);
 }
 
-TEST_F(RemoverAndMounts, aMountBelowTheFolderThatIsSeenThroughAnAliasOfAPartOfItIsRefusedToo) {
+TEST_F(RemoverAndMounts, refusesFolderWithMountUnderAnAliasOfAPart) {
     zoo::makeFolder(temp / "alias");
     mounts.again(victim, temp / "alias");
     mounts.memory(temp / "alias/m/mounted");
@@ -111,7 +111,7 @@ TEST_F(RemoverAndMounts, aMountBelowTheFolderThatIsSeenThroughAnAliasOfAPartOfIt
     EXPECT_TRUE(fs::exists(victim + "/a/file") && fs::exists(victim + "/z/file"));
 }
 
-TEST_F(RemoverAndMounts, aFileMountedOverUnderAnotherPathIsRefusedAndNothingIsGone) {
+TEST_F(RemoverAndMounts, refusesFileMountedUnderAnotherPath) {
     zoo::makeFolder(temp / "alias");
     mounts.again(temp.path(), temp / "alias");
     mounts.again(elsewhere + "/kept", victim + "/z/file");
@@ -149,7 +149,7 @@ TEST_P(RemoverWithoutMountTable, stopsAtAMount) {
 
 INSTANTIATE_TEST_SUITE_P(OpenAt2, RemoverWithoutMountTable, testing::Bool());
 
-TEST(RemoverAndSwaps, aThousandRunsTouchNothingOutside) {
+TEST(RemoverAndSwaps, racingSwapsTouchNothingOutside) {
     const zoo::TempFolder temp(zoo::TempFolder::Medium::memory);
     const std::string outside = temp / "outside";
     const std::string victim = temp / "victim";

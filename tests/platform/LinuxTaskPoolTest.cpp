@@ -55,11 +55,11 @@ void occupy(TaskPool& pool, std::latch& begun, std::latch& mayGo) {
     });
 }
 
-TEST_F(LinuxTaskPoolTest, hasNoThreadBeforeThereIsATask) {
+TEST_F(LinuxTaskPoolTest, startsNoThreadBeforeTheFirstTask) {
     EXPECT_EQ(pool(3).threadCount(), 0u);
 }
 
-TEST_F(LinuxTaskPoolTest, growsWhileTasksFindNoThreadIdleAndNoFurtherThanItsLimit) {
+TEST_F(LinuxTaskPoolTest, growsUpToItsLimitWhileNoThreadIsIdle) {
     TaskPool& threads = pool(3);
     std::latch begun(3);
     std::latch mayGo(1);
@@ -86,7 +86,7 @@ TEST_F(LinuxTaskPoolTest, growsWhileTasksFindNoThreadIdleAndNoFurtherThanItsLimi
     EXPECT_EQ(threads.threadCount(), 3u);
 }
 
-TEST_F(LinuxTaskPoolTest, threadThatHasNothingToDoTakesTheNextTask) {
+TEST_F(LinuxTaskPoolTest, idleThreadTakesTheNextTask) {
     TaskPool& threads = pool(5);
     std::set<std::thread::id> different;
     for (int task = 0; task < 50; ++task) {
@@ -99,7 +99,7 @@ TEST_F(LinuxTaskPoolTest, threadThatHasNothingToDoTakesTheNextTask) {
 }
 
 // The second must not rely on the one idle thread that the first has just been given to.
-TEST_F(LinuxTaskPoolTest, twoTasksAreNotGivenToOneIdleThread) {
+TEST_F(LinuxTaskPoolTest, oneIdleThreadDoesNotServeTwoTasks) {
     for (int round = 0; round < 100; ++round) {
         TaskPool& threads = pool(2);
         threads.run(0, [] {});
@@ -111,7 +111,7 @@ TEST_F(LinuxTaskPoolTest, twoTasksAreNotGivenToOneIdleThread) {
     }
 }
 
-TEST_F(LinuxTaskPoolTest, threadWithNothingToDoGoesAfterAWhileAndTheNextTaskGetsANewOne) {
+TEST_F(LinuxTaskPoolTest, idleThreadEndsAndIsReplaced) {
     TaskPool& threads = pool(5, milliseconds(1));
     for (int round = 0; round < 3; ++round) {
         bool ran = false;
@@ -122,7 +122,7 @@ TEST_F(LinuxTaskPoolTest, threadWithNothingToDoGoesAfterAWhileAndTheNextTaskGets
     }
 }
 
-TEST_F(LinuxTaskPoolTest, urgentTasksGoAheadOfThoseThatWaitAndEachKindInTheOrderGiven) {
+TEST_F(LinuxTaskPoolTest, urgentTasksRunFirstInOrder) {
     TaskPool& threads = pool(1);
     std::latch begun(1);
     std::latch mayGo(1);
@@ -135,7 +135,7 @@ TEST_F(LinuxTaskPoolTest, urgentTasksGoAheadOfThoseThatWaitAndEachKindInTheOrder
     EXPECT_EQ(order, "CDab");
 }
 
-TEST_F(LinuxTaskPoolTest, drainWaitsForWhatIsQueuedAndForWhatItHolds) {
+TEST_F(LinuxTaskPoolTest, drainWaitsForQueuedTasksAndTheirCaptures) {
     struct Held {
         std::atomic<int>& gone;
         explicit Held(std::atomic<int>& counter) : gone(counter) {}
@@ -158,7 +158,7 @@ TEST_F(LinuxTaskPoolTest, drainWaitsForWhatIsQueuedAndForWhatItHolds) {
     EXPECT_EQ(gone, 500);
 }
 
-TEST_F(LinuxTaskPoolTest, drainDoesNotWaitForThreadsThatIdle) {
+TEST_F(LinuxTaskPoolTest, drainIgnoresIdleThreads) {
     TaskPool& threads = pool(4);
     std::latch all(4);
     for (int task = 0; task < 4; ++task) threads.run(0, [&] { all.arrive_and_wait(); });
@@ -167,7 +167,7 @@ TEST_F(LinuxTaskPoolTest, drainDoesNotWaitForThreadsThatIdle) {
     EXPECT_TRUE(drainThreads(0));
 }
 
-TEST_F(LinuxTaskPoolTest, closedPoolDoesWhatIsQueuedAndThenHasNoThread) {
+TEST_F(LinuxTaskPoolTest, closeFinishesQueuedTasksAndEndsThreads) {
     TaskPool& threads = pool(1);
     std::latch begun(1);
     std::latch mayGo(1);
@@ -181,7 +181,7 @@ TEST_F(LinuxTaskPoolTest, closedPoolDoesWhatIsQueuedAndThenHasNoThread) {
     EXPECT_EQ(threads.threadCount(), 0u);
 }
 
-TEST_F(LinuxTaskPoolTest, goesWithItsLastThread) {
+TEST_F(LinuxTaskPoolTest, isDestroyedWithItsLastThread) {
     std::weak_ptr<TaskPool> seen;
     {
         const auto threads = std::make_shared<TaskPool>(TaskPool::Form{"zelk.test.pool", 2, 0, forGood});
@@ -194,7 +194,7 @@ TEST_F(LinuxTaskPoolTest, goesWithItsLastThread) {
 }
 
 // Each task waits for the one that it gives, three times as deep as there are threads.
-TEST_F(LinuxTaskPoolTest, taskMayWaitForTheOneThatItGivesThoughAllThreadsAreTaken) {
+TEST_F(LinuxTaskPoolTest, taskMayAwaitItsSubtaskWhenAllThreadsAreBusy) {
     TaskPool& threads = pool(4);
     std::atomic<int> ended = 0;
     std::function<void(int)> nested = [&](int depth) {
@@ -213,7 +213,7 @@ TEST_F(LinuxTaskPoolTest, taskMayWaitForTheOneThatItGivesThoughAllThreadsAreTake
     EXPECT_EQ(ended, 4 * 13);
 }
 
-TEST_F(LinuxTaskPoolTest, taskThatGivesAnotherIsNotKeptFromItsEndByWhatIsQueued) {
+TEST_F(LinuxTaskPoolTest, taskWithSubtaskIsNotDelayedByQueuedTasks) {
     TaskPool& threads = pool(1);
     std::latch mayGo(1);
     std::string order;
@@ -229,7 +229,7 @@ TEST_F(LinuxTaskPoolTest, taskThatGivesAnotherIsNotKeptFromItsEndByWhatIsQueued)
 }
 
 // Whoever gives a task from the threads of another pool is not its own: nothing there waits for him.
-TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolWaitsForAThreadLikeAnyOther) {
+TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolIsQueued) {
     TaskPool& busy = pool(1);
     TaskPool& other = pool(1);
     std::latch begun(1);
@@ -247,7 +247,7 @@ TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolWaitsForAThreadLikeAnyOther) {
     EXPECT_NE(runner, giver);
 }
 
-TEST_F(LinuxTaskPoolTest, threadsHaveTheNameTheStackAndTheNicenessAskedFor) {
+TEST_F(LinuxTaskPoolTest, threadsHaveGivenNameStackAndNiceness) {
     constexpr int niceness = 7;
     TaskPool& threads = pool(1, forGood, niceness);
     std::string name;
@@ -268,7 +268,7 @@ TEST_F(LinuxTaskPoolTest, threadsHaveTheNameTheStackAndTheNicenessAskedFor) {
     EXPECT_LT(stack, 2 * TaskPool::stackBytes);
 }
 
-TEST_F(LinuxTaskPoolTest, taskRunsOnTheCallersThreadWhereNoneCanBeMade) {
+TEST_F(LinuxTaskPoolTest, runsOnTheCallerWhenNoThreadCanStart) {
     TaskPool& threads = pool(3);
     int onCaller = 0;
     const auto held = std::make_shared<int>(1);
@@ -285,7 +285,7 @@ TEST_F(LinuxTaskPoolTest, taskRunsOnTheCallersThreadWhereNoneCanBeMade) {
     EXPECT_TRUE(drainThreads(0));
 }
 
-TEST_F(LinuxTaskPoolTest, taskWaitsForABusyThreadWhereNoOtherCanBeMade) {
+TEST_F(LinuxTaskPoolTest, queuesForABusyThreadWhenNoOtherCanStart) {
     TaskPool& threads = pool(3);
     std::latch begun(1);
     std::latch mayGo(1);
@@ -303,7 +303,7 @@ TEST_F(LinuxTaskPoolTest, taskWaitsForABusyThreadWhereNoOtherCanBeMade) {
     EXPECT_NE(runner, caller);
 }
 
-TEST_F(LinuxTaskPoolTest, taskMayWaitForTheOneThatItGivesWhereNoOtherThreadCanBeMade) {
+TEST_F(LinuxTaskPoolTest, taskMayAwaitItsSubtaskWhenNoThreadCanStart) {
     TaskPool& threads = pool(3);
     bool waited = false;
     fakes::behindGate(
@@ -321,7 +321,7 @@ TEST_F(LinuxTaskPoolTest, taskMayWaitForTheOneThatItGivesWhereNoOtherThreadCanBe
     EXPECT_TRUE(waited);
 }
 
-TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolWaitsForABusyThreadWhereNoOtherCanBeMade) {
+TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolIsQueuedWhenNoThreadCanStart) {
     TaskPool& busy = pool(3);
     TaskPool& other = pool(1);
     std::latch begun(1);
@@ -346,7 +346,7 @@ TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolWaitsForABusyThreadWhereNoOtherCanBeM
 }
 
 // Two callers each count on the thread that the other is about to make, and neither gets one.
-TEST_F(LinuxTaskPoolTest, nothingIsLeftQueuedWhenTheLastThreadCannotBeMade) {
+TEST_F(LinuxTaskPoolTest, failedLastThreadLeavesNothingQueued) {
     TaskPool& threads = pool(3);
     std::latch firstAsks(1);
     std::latch secondIsBack(1);

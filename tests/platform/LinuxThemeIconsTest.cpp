@@ -58,44 +58,44 @@ protected:
     ThemeIcons icons;
 };
 
-TEST_F(LinuxThemeIconsTest, goByTheNameOfAFileAndNotByItsContent) {
+TEST_F(LinuxThemeIconsTest, useTheFileNameNotItsContent) {
     EXPECT_TRUE(isAll(icons.icon("/not/there/holiday.mp4", false, 16), 16, green));
     EXPECT_TRUE(isAll(icons.icon("/not/there/HOLIDAY.MP4", false, 16), 16, green));
 }
 
-TEST_F(LinuxThemeIconsTest, showAFolderAsAFolderWhateverItIsCalled) {
+TEST_F(LinuxThemeIconsTest, useFolderIconWhateverTheName) {
     EXPECT_TRUE(isAll(icons.icon("/home/me/holiday.mp4", true, 16), 16, red));
     EXPECT_TRUE(isAll(icons.icon("/", true, 16), 16, red));
 }
 
-TEST_F(LinuxThemeIconsTest, takeThePictureOfTheWholeKindWhereTheTypeHasNone) {
+TEST_F(LinuxThemeIconsTest, fallBackToTheGenericIcon) {
     EXPECT_TRUE(isAll(icons.icon("/home/me/notes.txt", false, 16), 16, blue));
 }
 
-TEST_F(LinuxThemeIconsTest, areAbsentWhereTheThemeHasNeither) {
+TEST_F(LinuxThemeIconsTest, areAbsentWithoutSpecificAndGenericIcon) {
     EXPECT_EQ(icons.icon("/home/me/song.flac", false, 16), std::nullopt);
     EXPECT_EQ(icons.icon("/home/me/of no known type", false, 16), std::nullopt);
 }
 
-TEST_F(LinuxThemeIconsTest, standInTheMiddleOfALargerSquareInItsSize) {
+TEST_F(LinuxThemeIconsTest, centerSmallerIconInTheSquare) {
     EXPECT_TRUE(isAll(icons.icon("/a", true, 48), 48, red));
     EXPECT_TRUE(isAll(icons.icon("/a", true, 1), 1, red));
     EXPECT_EQ(icons.icon("/a", true, 0), std::nullopt);
 }
 
-TEST_F(LinuxThemeIconsTest, readThePictureOfATypeOnce) {
+TEST_F(LinuxThemeIconsTest, loadIconOfATypeOnce) {
     ASSERT_TRUE(isAll(icons.icon("/home/me/a.mp4", false, 16), 16, green));
     ASSERT_TRUE(QFile::remove(fileOf("video-mp4")));
     EXPECT_TRUE(isAll(icons.icon("/home/me/b.mp4", false, 16), 16, green));
 }
 
-TEST_F(LinuxThemeIconsTest, takeNamesThatAreNoText) {
+TEST_F(LinuxThemeIconsTest, acceptNamesThatAreNotUtf8) {
     EXPECT_TRUE(isAll(icons.icon("/home/\xff/\xc3.mp4", false, 16), 16, green));
     EXPECT_TRUE(isAll(icons.icon("/home/me/a\nb.mp4", false, 16), 16, green));
     EXPECT_EQ(icons.icon("", false, 16), std::nullopt);
 }
 
-TEST(LinuxThemeIconsAlone, areAbsentInAProgramWithoutWindows) {
+TEST(LinuxThemeIconsAlone, areAbsentWithoutAGuiApplication) {
     ThemeIcons icons;
     EXPECT_EQ(icons.icon("/home/me", true, 16), std::nullopt);
 }

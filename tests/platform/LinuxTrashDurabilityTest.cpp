@@ -91,7 +91,7 @@ protected:
     const fakes::TracedProgram program{tracedCalls, temp / "log", "/trash-writer-begins"};
 };
 
-TEST_F(TrashDurability, theInfoIsFlushedBeforeTheItemMoves) {
+TEST_F(TrashDurability, flushesInfoBeforeMovingTheItem) {
     prepare();
     ASSERT_EQ(trashItem({}), 0);
     std::string order;
@@ -107,7 +107,7 @@ TEST_F(TrashDurability, theInfoIsFlushedBeforeTheItemMoves) {
     EXPECT_TRUE(isInTrash() && oldOnesAreThere());
 }
 
-TEST_F(TrashDurability, anErrorOfAnyCallLeavesTheItemOrBringsItIntoTheTrashAndSaysWhich) {
+TEST_F(TrashDurability, reportsWhetherTheItemMovedOnErrorAtEverySyscall) {
     prepare();
     ASSERT_EQ(trashItem({}), 0);
     for (const CallPosition& position : positions()) {
@@ -125,7 +125,7 @@ TEST_F(TrashDurability, anErrorOfAnyCallLeavesTheItemOrBringsItIntoTheTrashAndSa
     }
 }
 
-TEST_F(TrashDurability, aFirstItemsErrorOfAnyCallIsSaidToo) {
+TEST_F(TrashDurability, firstTrashSurvivesErrorAtEverySyscall) {
     prepare();
     fs::remove_all(home);
     zoo::makeFolder(home);
@@ -140,7 +140,7 @@ TEST_F(TrashDurability, aFirstItemsErrorOfAnyCallIsSaidToo) {
     }
 }
 
-TEST_F(TrashDurability, aKillAtAnyCallOfTheFirstItemLeavesItOrBringsItIntoTheTrash) {
+TEST_F(TrashDurability, firstTrashSurvivesKillAtEverySyscall) {
     prepare();
     fs::remove_all(home);
     zoo::makeFolder(home);
@@ -160,7 +160,7 @@ TEST_F(TrashDurability, aKillAtAnyCallOfTheFirstItemLeavesItOrBringsItIntoTheTra
     }
 }
 
-TEST_F(TrashDurability, anErrorOrAKillAtAnyCallOnAStickLeavesTheItemOrBringsItIntoItsTrash) {
+TEST_F(TrashDurability, volumeTrashSurvivesErrorAndKillAtEverySyscall) {
     fakes::Mounts mounts;
     if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
     const std::string stick = temp / "stick";
@@ -199,7 +199,7 @@ TEST_F(TrashDurability, anErrorOrAKillAtAnyCallOnAStickLeavesTheItemOrBringsItIn
     }
 }
 
-TEST_F(TrashDurability, aKillAtAnyCallLeavesTheItemOrBringsItIntoTheTrash) {
+TEST_F(TrashDurability, survivesKillAtEverySyscall) {
     prepare();
     ASSERT_EQ(trashItem({}), 0);
     bool killedInPlace = false;
@@ -223,7 +223,7 @@ TEST_F(TrashDurability, aKillAtAnyCallLeavesTheItemOrBringsItIntoTheTrash) {
     EXPECT_TRUE(killedInPlace && killedInTrash);
 }
 
-TEST_F(TrashDurability, aKillOnAVolumeThatCannotPromiseToReplaceNothingLosesNothingEither) {
+TEST_F(TrashDurability, survivesKillWithoutRenameNoReplace) {
     const std::string without = "inject=renameat2:error=EINVAL";
     prepare();
     ASSERT_EQ(trashItem({without}), 0);
@@ -238,7 +238,7 @@ TEST_F(TrashDurability, aKillOnAVolumeThatCannotPromiseToReplaceNothingLosesNoth
     }
 }
 
-TEST_F(TrashDurability, anErrorOfAnyCallOfEmptyingLeavesNoContentWithoutInfo) {
+TEST_F(TrashDurability, emptyingSurvivesErrorAtEverySyscall) {
     prepare();
     ASSERT_EQ(emptyTrash({}), 2);
     for (const CallPosition& position : positions()) {
@@ -253,7 +253,7 @@ TEST_F(TrashDurability, anErrorOfAnyCallOfEmptyingLeavesNoContentWithoutInfo) {
     }
 }
 
-TEST_F(TrashDurability, aKillAtAnyCallOfEmptyingLeavesNoContentWithoutInfo) {
+TEST_F(TrashDurability, emptyingSurvivesKillAtEverySyscall) {
     prepare();
     ASSERT_EQ(emptyTrash({}), 2);
     for (const CallPosition& position : positions()) {

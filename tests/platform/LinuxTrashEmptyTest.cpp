@@ -101,7 +101,7 @@ protected:
     LinuxTrash itsTrash{home};
 };
 
-TEST_F(EmptyingTrash, takesContentAndInfo) {
+TEST_F(EmptyingTrash, removesContentAndInfo) {
     add("file");
     add(".hidden");
     add("\xff\n");
@@ -112,13 +112,13 @@ TEST_F(EmptyingTrash, takesContentAndInfo) {
     EXPECT_THAT(namesIn(info), IsEmpty());
 }
 
-TEST_F(EmptyingTrash, ofNothingIsNothing) {
+TEST_F(EmptyingTrash, removesNothingFromAnEmptyTrash) {
     EXPECT_EQ(itsTrash.empty(), 0u);
     EXPECT_EQ(LinuxTrash(temp / "missing").empty(), 0u);
     EXPECT_FALSE(fs::exists(temp / "missing"));
 }
 
-TEST_F(EmptyingTrash, followsNoLinkOut) {
+TEST_F(EmptyingTrash, doesNotFollowLinks) {
     zoo::makeFile(temp / "outside/kept");
     fs::create_directory_symlink(temp / "outside", files + "/link");
     zoo::makeFolder(files + "/folder");
@@ -128,7 +128,7 @@ TEST_F(EmptyingTrash, followsNoLinkOut) {
     EXPECT_TRUE(fs::exists(temp / "outside/kept"));
 }
 
-TEST_F(EmptyingTrash, thatIsALinkTouchesNothing) {
+TEST_F(EmptyingTrash, refusesTrashThatIsALink) {
     fs::rename(trash, temp / "elsewhere");
     zoo::makeFile(temp / "elsewhere/files/kept");
     fs::create_directory_symlink(temp / "elsewhere", trash);
@@ -136,26 +136,26 @@ TEST_F(EmptyingTrash, thatIsALinkTouchesNothing) {
     EXPECT_TRUE(fs::exists(temp / "elsewhere/files/kept"));
 }
 
-TEST_F(EmptyingTrash, takesContentThatLostItsInfo) {
+TEST_F(EmptyingTrash, removesContentWithoutInfo) {
     zoo::makeFile(files + "/orphan");
     EXPECT_EQ(itsTrash.empty(), 1u);
     EXPECT_THAT(namesIn(files), IsEmpty());
 }
 
-TEST_F(EmptyingTrash, takesInfoThatLostItsContentAndDoesNotCountIt) {
+TEST_F(EmptyingTrash, removesOrphanInfoWithoutCountingIt) {
     addInfo("orphan");
     add("file");
     EXPECT_EQ(itsTrash.empty(), 1u);
     EXPECT_THAT(namesIn(info), IsEmpty());
 }
 
-TEST_F(EmptyingTrash, leavesInfoThatIsYoungerThanAMinute) {
+TEST_F(EmptyingTrash, keepsOrphanInfoYoungerThanAMinute) {
     writeFile(info + "/coming.trashinfo", "");
     EXPECT_EQ(itsTrash.empty(), 0u);
     EXPECT_THAT(namesIn(info), ElementsAre("coming.trashinfo"));
 }
 
-TEST_F(EmptyingTrash, leavesInfoOfWhatIsBeingTrashed) {
+TEST_F(EmptyingTrash, keepsInfoOfAnItemBeingTrashed) {
     addInfo("slow");
     const Descriptor trashing(::open(info.c_str(), O_RDONLY | O_DIRECTORY));
     ASSERT_EQ(::flock(trashing.get(), LOCK_SH), 0);
@@ -163,13 +163,13 @@ TEST_F(EmptyingTrash, leavesInfoOfWhatIsBeingTrashed) {
     EXPECT_THAT(namesIn(info), ElementsAre("slow.trashinfo"));
 }
 
-TEST_F(EmptyingTrash, leavesWhatIsNoInfo) {
+TEST_F(EmptyingTrash, keepsFilesThatAreNotInfo) {
     zoo::makeFile(info + "/notes.txt");
     EXPECT_EQ(itsTrash.empty(), 0u);
     EXPECT_THAT(namesIn(info), ElementsAre("notes.txt"));
 }
 
-TEST_F(EmptyingTrash, dropsTheSizesThatOthersKept) {
+TEST_F(EmptyingTrash, removesCachedDirectorySizes) {
     writeFile(trash + "/directorysizes", "1 1 folder\n");
     EXPECT_EQ(itsTrash.empty(), 0u);
     EXPECT_TRUE(fs::exists(trash + "/directorysizes"));
@@ -178,7 +178,7 @@ TEST_F(EmptyingTrash, dropsTheSizesThatOthersKept) {
     EXPECT_FALSE(fs::exists(trash + "/directorysizes"));
 }
 
-TEST_F(EmptyingTrash, takesAFolderInWhichItsOwnerMayChangeNothing) {
+TEST_F(EmptyingTrash, removesReadOnlyFolder) {
     for (const char* folder : {"locked", "locked/below"}) zoo::makeFile(files + "/" + folder + "/file");
     addInfo("locked");
     fakes::giveToOrdinaryUser(home);
@@ -188,7 +188,7 @@ TEST_F(EmptyingTrash, takesAFolderInWhichItsOwnerMayChangeNothing) {
     EXPECT_THAT(namesIn(info), IsEmpty());
 }
 
-TEST_F(EmptyingTrash, leavesWhatCannotBeRemovedWithItsInfoAndGoesOn) {
+TEST_F(EmptyingTrash, keepsInfoOfUnremovableEntryAndContinues) {
     for (const char* name : {"a", "z"}) add(name);
     addLocked();
     EXPECT_TRUE(asOrdinaryUser([&] { return itsTrash.empty() == 2; }));
@@ -197,7 +197,7 @@ TEST_F(EmptyingTrash, leavesWhatCannotBeRemovedWithItsInfoAndGoesOn) {
     EXPECT_TRUE(fs::exists(files + "/locked/theirs/file"));
 }
 
-TEST_F(EmptyingTrash, leavesWhatCannotBeRemovedAlsoWhereNoFileHasASecondName) {
+TEST_F(EmptyingTrash, keepsUnremovableEntryWithoutHardLinks) {
     add("file");
     addLocked();
     const auto emptied = [&] {
@@ -211,7 +211,7 @@ TEST_F(EmptyingTrash, leavesWhatCannotBeRemovedAlsoWhereNoFileHasASecondName) {
     EXPECT_THAT(namesIn(info), ElementsAre("locked.trashinfo"));
 }
 
-TEST_F(EmptyingTrash, whatCannotBeRemovedGivesWayToANewcomerOfItsName) {
+TEST_F(EmptyingTrash, unremovableEntryYieldsItsNameToANewItem) {
     addLocked();
     zoo::makeFolder(temp / "mine");
     writeFile(temp / "mine/locked", "newcomer");
@@ -234,14 +234,14 @@ TEST_F(EmptyingTrash, whatCannotBeRemovedGivesWayToANewcomerOfItsName) {
     EXPECT_TRUE(fs::exists(found.at("/was/here") + "/theirs/file"));
 }
 
-TEST_F(EmptyingTrash, meetsWhatIsTrashedMeanwhile) {
+TEST_F(EmptyingTrash, concurrentTrashingKeepsContentAndInfoTogether) {
     for (unsigned at = 0; at < 3; ++at) {
         add("same");
         emptyAsANewcomerComes(at);
     }
 }
 
-TEST_F(EmptyingTrash, leavesTheInfoOfANewcomerThatTakesTheNameOfContentWithoutInfo) {
+TEST_F(EmptyingTrash, keepsInfoOfANewItemNamedLikeOrphanContent) {
     for (unsigned at = 0; at < 2; ++at) {
         zoo::makeFile(files + "/same");
         // Content without info has its name for as long as it is there, and not a moment longer.
@@ -250,7 +250,7 @@ TEST_F(EmptyingTrash, leavesTheInfoOfANewcomerThatTakesTheNameOfContentWithoutIn
 }
 
 // Another program, which waits for nobody, empties the Trash in the middle of it, and something new gets the name.
-TEST_F(EmptyingTrash, takesNoNewcomerForWhatItHasListed) {
+TEST_F(EmptyingTrash, keepsNewItemWithTheNameOfAListedEntry) {
     for (const long call : {SYS_statx, SYS_linkat, SYS_renameat2}) {
         unsigned calls = 0;
         add("same");
@@ -282,7 +282,7 @@ TEST_F(EmptyingTrash, takesNoNewcomerForWhatItHasListed) {
 }
 
 // Another program takes the old info, whose content has a new name by then, for an orphan.
-TEST_F(EmptyingTrash, leavesTheInfoOfANewcomerThatGetsTheNameOfWhatWasSetAside) {
+TEST_F(EmptyingTrash, keepsInfoOfANewItemNamedLikeARenamedEntry) {
     add("same");
     bool came = false;
     fakes::behindGate(
@@ -300,7 +300,7 @@ TEST_F(EmptyingTrash, leavesTheInfoOfANewcomerThatGetsTheNameOfWhatWasSetAside) 
     expectNewcomerAlone();
 }
 
-TEST_F(EmptyingTrash, waitsForAnotherEmptyingAndRemovesNothingByAnOldName) {
+TEST_F(EmptyingTrash, waitsForAnotherEmptyingBeforeListing) {
     for (unsigned at = 0; at < 3; ++at) {
         add("same");
         std::promise<void> first;
@@ -337,7 +337,7 @@ TEST_F(EmptyingTrash, waitsForAnotherEmptyingAndRemovesNothingByAnOldName) {
     }
 }
 
-TEST_F(EmptyingTrash, twoAtOnceTakeTurns) {
+TEST_F(EmptyingTrash, concurrentEmptyingsTakeTurns) {
     const Descriptor others(::open(files.c_str(), O_RDONLY | O_DIRECTORY));
     ASSERT_EQ(::flock(others.get(), LOCK_EX), 0);
     add("file");
@@ -363,7 +363,7 @@ TEST_F(EmptyingTrash, twoAtOnceTakeTurns) {
     EXPECT_THAT(namesIn(files), IsEmpty());
 }
 
-TEST_F(EmptyingTrash, needsNoLocksWhereThereAreNone) {
+TEST_F(EmptyingTrash, worksWithoutLocks) {
     for (const int error : {EOPNOTSUPP, ENOLCK, ENOSYS, EINVAL}) {
         add("file");
         fakes::behindGate(
@@ -376,7 +376,7 @@ TEST_F(EmptyingTrash, needsNoLocksWhereThereAreNone) {
     EXPECT_EQ(restorable(trash).size(), 1u);
 }
 
-TEST_F(EmptyingTrash, worksWhereNoFileHasASecondName) {
+TEST_F(EmptyingTrash, worksWithoutHardLinks) {
     for (const int error : {EPERM, EOPNOTSUPP, ENOSYS, EMLINK}) {
         add("file");
         zoo::makeFile(files + "/orphan");
@@ -387,7 +387,7 @@ TEST_F(EmptyingTrash, worksWhereNoFileHasASecondName) {
     }
 }
 
-TEST_F(EmptyingTrash, takesWhatAnEmptyingThatWasKilledHasLeft) {
+TEST_F(EmptyingTrash, removesLeftoversOfAKilledEmptying) {
     const std::string own = "emptying." + std::to_string(::getpid()) + ".";
     for (const char* number : {"0", "1"}) add(own + number);
     zoo::makeFile(files + "/" + own + "2");
@@ -399,7 +399,7 @@ TEST_F(EmptyingTrash, takesWhatAnEmptyingThatWasKilledHasLeft) {
     EXPECT_THAT(namesIn(info), IsEmpty());
 }
 
-TEST_F(EmptyingTrash, numbersBeginAgainAfterwards) {
+TEST_F(EmptyingTrash, restartsNumbering) {
     for (const char* round : {"one", "two"}) {
         for (const char* content : {"a", "b"}) {
             writeFile(temp / "item", content);

@@ -23,23 +23,23 @@ std::string repeated(std::string_view part, std::size_t times) {
     return text;
 }
 
-TEST(TrashInfo, saysWhereAndWhen) {
+TEST(TrashInfo, recordsPathAndDeletionDate) {
     EXPECT_EQ(trashInfoText("/home/me/notes.txt", date()),
               "[Trash Info]\nPath=/home/me/notes.txt\nDeletionDate=2026-03-05T07:08:09\n");
 }
 
-TEST(TrashInfo, leavesOnlyPlainCharactersAsTheyAre) {
+TEST(TrashInfo, percentEncodesPath) {
     EXPECT_EQ(trashInfoText("az AZ09-_.~/\n%=[];\"\xc3\xbc\xff", date()),
               "[Trash Info]\nPath=az%20AZ09-_.~/%0A%25%3D%5B%5D%3B%22%C3%BC%FF\nDeletionDate=2026-03-05T07:08:09\n");
 }
 
-TEST(TrashName, isTheItemsOwnFirst) {
+TEST(TrashName, keepsTheOriginalNameFirst) {
     EXPECT_EQ(trashName("notes.txt", 1, 245), "notes.txt");
     EXPECT_EQ(trashName(".hidden", 1, 245), ".hidden");
     EXPECT_EQ(trashName("\xff\n", 1, 245), "\xff\n");
 }
 
-TEST(TrashName, hasItsNumberBeforeTheExtension) {
+TEST(TrashName, insertsNumberBeforeTheExtension) {
     EXPECT_EQ(trashName("notes.txt", 2, 245), "notes.2.txt");
     EXPECT_EQ(trashName("a.tar.gz", 10, 245), "a.tar.10.gz");
     EXPECT_EQ(trashName("__pycache__", 2000, 245), "__pycache__.2000");
@@ -47,7 +47,7 @@ TEST(TrashName, hasItsNumberBeforeTheExtension) {
     EXPECT_EQ(trashName("dot.", 2, 245), "dot.2.");
 }
 
-TEST(TrashName, isShortenedBeforeItsExtension) {
+TEST(TrashName, shortensBeforeTheExtension) {
     EXPECT_EQ(trashName(repeated("x", 251) + ".txt", 1, 245), repeated("x", 241) + ".txt");
     EXPECT_EQ(trashName(repeated("x", 251) + ".txt", 12, 245), repeated("x", 238) + ".12.txt");
     EXPECT_EQ(trashName(repeated("x", 255), 1, 245), repeated("x", 245));
@@ -55,11 +55,11 @@ TEST(TrashName, isShortenedBeforeItsExtension) {
     EXPECT_EQ(trashName(repeated("x", 245), 2, 245), repeated("x", 243) + ".2");
 }
 
-TEST(TrashName, takesAVeryLongEndForNoExtension) {
+TEST(TrashName, ignoresVeryLongExtension) {
     EXPECT_EQ(trashName("a." + repeated("x", 253), 1, 245), "a." + repeated("x", 243));
 }
 
-TEST(TrashName, isNeverCutWithinACharacter) {
+TEST(TrashName, neverCutsACharacter) {
     for (const std::string character : {"ü", "文", "😀"}) {
         for (std::size_t limit = 200; limit < 206; ++limit) {
             const std::string name = trashName(repeated(character, 63) + repeated("x", 252), 1, limit);
@@ -70,7 +70,7 @@ TEST(TrashName, isNeverCutWithinACharacter) {
     }
 }
 
-TEST(TrashName, ofBytesThatAreNoTextIsCutAllTheSame) {
+TEST(TrashName, shortensNamesThatAreNotUtf8) {
     EXPECT_EQ(trashName(repeated("\x80", 255), 1, 245), repeated("\x80", 245));
     EXPECT_EQ(trashName(repeated("\xff", 255), 3, 245), repeated("\xff", 243) + ".3");
 }

@@ -71,7 +71,7 @@ protected:
     LinuxTrash itsTrash{home};
 };
 
-TEST_F(TrashItem, makesTheDataFolderForTheUserAloneWhereThereIsNone) {
+TEST_F(TrashItem, createsPrivateDataFolder) {
     writeFile(item, "content");
     EXPECT_EQ(trashed(item), std::nullopt);
     expectOnlyItem(item, "content");
@@ -80,7 +80,7 @@ TEST_F(TrashItem, makesTheDataFolderForTheUserAloneWhereThereIsNone) {
     EXPECT_EQ(fs::status(trash + "/info/item.txt.trashinfo").permissions() & fs::perms::all, fs::perms(0600));
 }
 
-TEST_F(TrashItem, goesToTheDataHomeOfTheEnvironmentAndNeverIntoTheWorkingFolder) {
+TEST_F(TrashItem, usesXdgDataHomeNeverTheWorkingDirectory) {
     const fakes::EnvironmentVariable itsHome("HOME", home);
     for (const std::optional<std::string>& value :
          {std::optional<std::string>(), std::optional<std::string>(""), std::optional<std::string>("relative")}) {
@@ -96,7 +96,7 @@ TEST_F(TrashItem, goesToTheDataHomeOfTheEnvironmentAndNeverIntoTheWorkingFolder)
     EXPECT_EQ(restorable(temp / "data/Trash").count(item), 1u);
 }
 
-TEST_F(TrashItem, saysWhenItWasTrashedInLocalTime) {
+TEST_F(TrashItem, recordsDeletionDateInLocalTime) {
     const fakes::EnvironmentVariable zone("TZ", "XYZ-5:30");
     ::tzset();
     writeFile(item, "content");
@@ -113,7 +113,7 @@ TEST_F(TrashItem, saysWhenItWasTrashedInLocalTime) {
     EXPECT_LE(date, text(after));
 }
 
-TEST_F(TrashItem, namesOfTwoHundredAndFiftyBytesAndMoreKeepTheirExtension) {
+TEST_F(TrashItem, longNamesKeepTheirExtension) {
     for (const std::size_t bytes : {245u, 246u, 250u, 255u}) {
         const std::string path = items + "/" + std::string(bytes - 4, 'n') + ".txt";
         writeFile(path, "content");
@@ -135,7 +135,7 @@ TEST_F(TrashItem, longNamesAreCutBetweenCharacters) {
     expectOnlyItem(items + "/" + name, "content");
 }
 
-TEST_F(TrashItem, namesThatAreNoTextComeBackByteForByte) {
+TEST_F(TrashItem, recordsPathsThatAreNotUtf8) {
     for (const char* name : {"new\nPath=passwd", "100%25", "%", "\xff\xfe", " ", "a\tb", "[Trash Info]", "ü", "\x01",
                              ".hidden", "...", "-rf"}) {
         const std::string path = items + "/" + name;
@@ -146,20 +146,20 @@ TEST_F(TrashItem, namesThatAreNoTextComeBackByteForByte) {
     }
 }
 
-TEST_F(TrashItem, aFolderGoesWithAllThatIsInIt) {
+TEST_F(TrashItem, movesFolderWithItsContent) {
     zoo::makeNames(items + "/folder");
     const auto names = namesIn(items + "/folder");
     EXPECT_EQ(trashed(items + "/folder/"), std::nullopt);
     EXPECT_EQ(namesIn(restorable(trash).at(items + "/folder")), names);
 }
 
-TEST_F(TrashItem, aDanglingLinkGoesItself) {
+TEST_F(TrashItem, movesDanglingLink) {
     fs::create_symlink("/nowhere", item);
     EXPECT_EQ(trashed(item), std::nullopt);
     EXPECT_EQ(fs::read_symlink(restorable(trash).at(item)), "/nowhere");
 }
 
-TEST_F(TrashItem, aLinkWithASlashAtItsEndGoesItselfAndNotItsTarget) {
+TEST_F(TrashItem, movesLinkNotItsTargetDespiteTrailingSlash) {
     zoo::makeFile(items + "/target/kept");
     fs::create_directory_symlink(items + "/target", item);
     EXPECT_EQ(trashed(item + "/"), std::nullopt);
@@ -167,14 +167,14 @@ TEST_F(TrashItem, aLinkWithASlashAtItsEndGoesItselfAndNotItsTarget) {
     EXPECT_TRUE(fs::exists(items + "/target/kept"));
 }
 
-TEST_F(TrashItem, reachedThroughALinkIsNamedAsItWasReached) {
+TEST_F(TrashItem, recordsPathAsGivenThroughALink) {
     writeFile(item, "content");
     fs::create_directory_symlink(items, temp / "link");
     EXPECT_EQ(trashed(temp / "link/item.txt"), std::nullopt);
     expectOnlyItem(temp / "link/item.txt", "content");
 }
 
-TEST_F(TrashItem, whoseFolderWasSwappedForALinkSinceItWasFoundIsNotTakenFromElsewhere) {
+TEST_F(TrashItem, refusesParentSwappedForALink) {
     fs::create_directories(temp / "other/deep");
     writeFile(temp / "other/item.txt", "another");
     writeFile(temp / "other/deep/item.txt", "another");
@@ -190,7 +190,7 @@ TEST_F(TrashItem, whoseFolderWasSwappedForALinkSinceItWasFoundIsNotTakenFromElse
     expectTrashUntouched();
 }
 
-TEST_F(TrashItem, belowARootThatIsALinkIsThatOfTheFolderBehindIt) {
+TEST_F(TrashItem, followsLinkThatIsTheRoot) {
     fs::create_directory(items + "/folder");
     writeFile(items + "/folder/item.txt", "content");
     fs::create_directory_symlink(items, temp / "link");
@@ -198,7 +198,7 @@ TEST_F(TrashItem, belowARootThatIsALinkIsThatOfTheFolderBehindIt) {
     expectOnlyItem(temp / "link/folder/item.txt", "content");
 }
 
-TEST_F(TrashItem, isMissing) {
+TEST_F(TrashItem, reportsMissingItem) {
     EXPECT_THAT(trashed(item),
                 Optional(std::string("“item.txt” couldn’t be moved to the Trash: No such file or directory")));
     EXPECT_THAT(trashed(item + "/below"),
@@ -206,7 +206,7 @@ TEST_F(TrashItem, isMissing) {
     expectTrashUntouched();
 }
 
-TEST_F(TrashItem, aNameThatIsTakenGetsTheNextNumber) {
+TEST_F(TrashItem, takenNameGetsTheNextNumber) {
     for (const char* content : {"first", "second", "third"}) {
         writeFile(item, content);
         EXPECT_EQ(trashed(item), std::nullopt);
@@ -216,7 +216,7 @@ TEST_F(TrashItem, aNameThatIsTakenGetsTheNextNumber) {
     EXPECT_EQ(fileContent(trash + "/files/item.3.txt"), "third");
 }
 
-TEST_F(TrashItem, contentThatLostItsInfoIsNotWrittenOver) {
+TEST_F(TrashItem, neverOverwritesOrphanContent) {
     zoo::makeFolder(trash + "/files/empty");
     zoo::makeFolder(trash + "/info");
     writeFile(trash + "/files/item.txt", "orphan");
@@ -230,7 +230,7 @@ TEST_F(TrashItem, contentThatLostItsInfoIsNotWrittenOver) {
     EXPECT_THAT(namesIn(trash + "/info"), ElementsAre("empty.2.trashinfo", "item.2.txt.trashinfo"));
 }
 
-TEST_F(TrashItem, contentThatTurnsUpAtTheLastMomentIsNotWrittenOver) {
+TEST_F(TrashItem, neverOverwritesContentThatAppearsMeanwhile) {
     // With the call that promises it, and on a volume that has no such call.
     for (const int answer : {0, EINVAL}) {
         fs::remove_all(trash);
@@ -250,7 +250,7 @@ TEST_F(TrashItem, contentThatTurnsUpAtTheLastMomentIsNotWrittenOver) {
     }
 }
 
-TEST_F(TrashItem, goesOnAVolumeThatCannotPromiseToReplaceNothing) {
+TEST_F(TrashItem, worksWithoutRenameNoReplace) {
     for (const int error : {EINVAL, ENOSYS, EPERM}) {
         fs::remove_all(trash);
         writeFile(item, "content");
@@ -270,7 +270,7 @@ TEST_F(TrashItem, goesOnAVolumeThatCannotPromiseToReplaceNothing) {
     }
 }
 
-TEST_F(TrashItem, thatCannotBeRenamedAtAllStaysAndLeavesNothingInTheTrash) {
+TEST_F(TrashItem, failedRenameLeavesNothingInTheTrash) {
     writeFile(item, "content");
     fs::create_directory(items + "/folder");
     for (const char* name : {"/item.txt", "/folder"}) {
@@ -288,7 +288,7 @@ TEST_F(TrashItem, thatCannotBeRenamedAtAllStaysAndLeavesNothingInTheTrash) {
     expectTrashUntouched();
 }
 
-TEST_F(TrashItem, isTheOneThatWasFoundWhateverIsPutInPlaceOfItsFolder) {
+TEST_F(TrashItem, ignoresSwappedParentFolder) {
     for (const long call : {SYS_mkdirat, SYS_fsync, SYS_renameat2}) {
         for (const std::string& path : {home, items, temp / "aside", temp / "other"}) fs::remove_all(path);
         for (const std::string& path : {home, items, temp / "other"}) fs::create_directory(path);
@@ -311,7 +311,7 @@ TEST_F(TrashItem, isTheOneThatWasFoundWhateverIsPutInPlaceOfItsFolder) {
     }
 }
 
-TEST_F(TrashItem, onAnotherVolumeIsRefusedAndNeverCopied) {
+TEST_F(TrashItem, neverCopiesAcrossVolumes) {
     writeFile(item, "content");
     Failure failure;
     behindGate(
@@ -322,7 +322,7 @@ TEST_F(TrashItem, onAnotherVolumeIsRefusedAndNeverCopied) {
     expectTrashUntouched();
 }
 
-TEST_F(TrashItem, thatHoldsTheTrashIsRefused) {
+TEST_F(TrashItem, refusesFolderThatHoldsTheTrash) {
     writeFile(item, "content");
     EXPECT_EQ(trashed(item), std::nullopt);
     for (const std::string& above : {home, home + "/.local", trash + "/files"}) {
@@ -336,7 +336,7 @@ TEST_F(TrashItem, thatHoldsTheTrashIsRefused) {
     EXPECT_EQ(namesIn(trash + "/info").size(), 1u);
 }
 
-TEST_F(TrashItem, thatIsAPartOfTheTrashIsRefused) {
+TEST_F(TrashItem, refusesPartOfTheTrash) {
     writeFile(item, "content");
     EXPECT_EQ(trashed(item), std::nullopt);
     for (const std::string& part : {trash + "/info", trash + "/files", trash}) EXPECT_TRUE(trashed(part)) << part;
@@ -345,7 +345,7 @@ TEST_F(TrashItem, thatIsAPartOfTheTrashIsRefused) {
     expectOnlyItem(item, "content");
 }
 
-TEST_F(TrashItem, staysWhereNoInfoCanBeWritten) {
+TEST_F(TrashItem, staysWhenInfoCannotBeWritten) {
     zoo::makeFolder(trash + "/files");
     zoo::makeFolder(trash + "/info");
     writeFile(item, "content");
@@ -357,7 +357,7 @@ TEST_F(TrashItem, staysWhereNoInfoCanBeWritten) {
     expectTrashUntouched();
 }
 
-TEST_F(TrashItem, staysWhereItsFolderMayNotBeChanged) {
+TEST_F(TrashItem, staysWhenItsFolderIsNotWritable) {
     writeFile(item, "content");
     zoo::makeFolder(items + "/nowhere");
     ASSERT_EQ(::chmod((items + "/nowhere").c_str(), 0555), 0);
@@ -374,7 +374,7 @@ TEST_F(TrashItem, staysWhereItsFolderMayNotBeChanged) {
     expectTrashUntouched();
 }
 
-TEST_F(TrashItem, needsNoPermissionToListItsFolder) {
+TEST_F(TrashItem, needsNoReadPermissionOnItsFolder) {
     ASSERT_EQ(::chmod(temp.path().c_str(), 0777), 0);
     writeFile(item, "content");
     fakes::giveToOrdinaryUser(items);
@@ -386,7 +386,7 @@ TEST_F(TrashItem, needsNoPermissionToListItsFolder) {
 
 class HostileHomeTrash : public TrashItem, public testing::WithParamInterface<const char*> {};
 
-TEST_P(HostileHomeTrash, isRefusedAsALink) {
+TEST_P(HostileHomeTrash, rejectsLink) {
     writeFile(item, "content");
     zoo::makeFolder(temp / "elsewhere/files");
     zoo::makeFolder(temp / "elsewhere/info");
@@ -398,7 +398,7 @@ TEST_P(HostileHomeTrash, isRefusedAsALink) {
     EXPECT_THAT(namesIn(temp / "elsewhere"), ElementsAre("files", "info"));
 }
 
-TEST_P(HostileHomeTrash, isRefusedAsAFile) {
+TEST_P(HostileHomeTrash, rejectsFile) {
     writeFile(item, "content");
     zoo::makeFile(trash + GetParam());
     EXPECT_THAT(trashed(item),
@@ -406,7 +406,7 @@ TEST_P(HostileHomeTrash, isRefusedAsAFile) {
     EXPECT_EQ(fileContent(item), "content");
 }
 
-TEST_P(HostileHomeTrash, isRefusedAsAnotherUsers) {
+TEST_P(HostileHomeTrash, rejectsFolderOfAnotherUser) {
     if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
     writeFile(item, "content");
     zoo::makeFolder(trash + "/files");
@@ -420,7 +420,7 @@ TEST_P(HostileHomeTrash, isRefusedAsAnotherUsers) {
 
 INSTANTIATE_TEST_SUITE_P(EachFolder, HostileHomeTrash, testing::Values("", "/files", "/info"));
 
-TEST_F(TrashItem, twoThousandOfOneNameTakeWorkInProportion) {
+TEST_F(TrashItem, twoThousandEqualNamesCostLinearWork) {
     unsigned opened = 0;
     const auto trashMany = [&](int count) {
         opened = 0;
@@ -453,7 +453,7 @@ TEST_F(TrashItem, twoThousandOfOneNameTakeWorkInProportion) {
     EXPECT_LE(lookups(), 3u);
 }
 
-TEST_F(TrashItem, manyThreadsAtOnceLoseNothing) {
+TEST_F(TrashItem, concurrentThreadsLoseNothing) {
     constexpr int threads = 8;
     constexpr int each = 25;
     std::vector<std::thread> workers;
@@ -474,7 +474,7 @@ TEST_F(TrashItem, manyThreadsAtOnceLoseNothing) {
         EXPECT_EQ(fileContent(content), path.substr(0, path.size() - std::string("/same").size()));
 }
 
-TEST_F(TrashItem, whosePathIsTooLongForTheSystemGoesAllTheSame) {
+TEST_F(TrashItem, movesItemWithPathLongerThanPathMax) {
     zoo::makeChain(items + "/chain", 30, 200);
     std::string name;
     for (const std::string& entry : namesIn(items + "/chain")) {
@@ -486,7 +486,7 @@ TEST_F(TrashItem, whosePathIsTooLongForTheSystemGoesAllTheSame) {
     EXPECT_TRUE(fs::is_directory(restorable(trash).at(deep)));
 }
 
-TEST_F(TrashItem, leavesNoDescriptorOpen) {
+TEST_F(TrashItem, leaksNoDescriptor) {
     writeFile(item, "content");
     const std::ptrdiff_t before = fakes::openDescriptors();
     EXPECT_EQ(trashed(item), std::nullopt);

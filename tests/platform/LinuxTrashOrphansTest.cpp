@@ -57,7 +57,7 @@ protected:
     const std::string info = trash + "/info";
 };
 
-TEST_F(TrashOrphans, ownOnesGoAtTheFirstMoveOfARunHoweverYoung) {
+TEST_F(TrashOrphans, firstMoveRemovesOwnOrphansOfAnyAge) {
     addOwnInfo("orphan");
     addOwnInfo("kept");
     zoo::makeFile(trash + "/files/kept");
@@ -75,7 +75,7 @@ TEST_F(TrashOrphans, ownOnesGoAtTheFirstMoveOfARunHoweverYoung) {
     EXPECT_FALSE(namesIn(info).contains("later.trashinfo"));
 }
 
-TEST_F(TrashOrphans, ofOthersStayAtAMoveHoweverOld) {
+TEST_F(TrashOrphans, moveKeepsOrphansOfOtherPrograms) {
     addInfo("others", 0600, info);
     const timespec old[2] = {{1000000000, 0}, {1000000000, 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, (info + "/others.trashinfo").c_str(), old, 0), 0);
@@ -84,7 +84,7 @@ TEST_F(TrashOrphans, ofOthersStayAtAMoveHoweverOld) {
     EXPECT_THAT(namesIn(info), UnorderedElementsAre("others.trashinfo", "item.trashinfo"));
 }
 
-TEST_F(TrashOrphans, stayWhileSomebodyTrashesAndGoAtTheNextMove) {
+TEST_F(TrashOrphans, sweepIsPostponedWhileAnotherProcessTrashes) {
     addOwnInfo("orphan");
     LinuxTrash itsTrash(home);
     {
@@ -97,7 +97,7 @@ TEST_F(TrashOrphans, stayWhileSomebodyTrashesAndGoAtTheNextMove) {
     EXPECT_FALSE(namesIn(info).contains("orphan.trashinfo"));
 }
 
-TEST_F(TrashOrphans, stayWhereTheVolumeKnowsNoLocks) {
+TEST_F(TrashOrphans, stayWithoutLocks) {
     addOwnInfo("orphan");
     LinuxTrash itsTrash(home);
     fakes::behindGate(
@@ -106,7 +106,7 @@ TEST_F(TrashOrphans, stayWhereTheVolumeKnowsNoLocks) {
     EXPECT_THAT(namesIn(info), UnorderedElementsAre("orphan.trashinfo", "item.trashinfo"));
 }
 
-TEST_F(TrashOrphans, ofAVolumesTrashGoAtTheFirstMoveThere) {
+TEST_F(TrashOrphans, firstMoveSweepsVolumeTrash) {
     fakes::Mounts mounts;
     if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
     const std::string stick = temp / "stick";
@@ -122,20 +122,20 @@ TEST_F(TrashOrphans, ofAVolumesTrashGoAtTheFirstMoveThere) {
     EXPECT_FALSE(namesIn(itsInfo).contains("orphan.trashinfo"));
 }
 
-TEST_F(TrashOrphans, youngOnesOfItsOwnGoWithAnEmptying) {
+TEST_F(TrashOrphans, emptyingRemovesOwnYoungOrphans) {
     addOwnInfo("orphan");
     addInfo("others", 0600, info);
     EXPECT_EQ(LinuxTrash(home).empty(), 0u);
     EXPECT_THAT(namesIn(info), UnorderedElementsAre("others.trashinfo"));
 }
 
-TEST_F(TrashOrphans, wouldBeKnownByTheMarkOfTheirFile) {
+TEST_F(TrashOrphans, infoFilesCarryTheOwnMark) {
     LinuxTrash itsTrash(home);
     EXPECT_EQ(trashed(itsTrash, temp / "item"), std::nullopt);
     EXPECT_EQ(modeOfInfo("item"), 01600u);
 }
 
-TEST_F(TrashOrphans, areNotMarkedWhereTheVolumeRefusesTheMark) {
+TEST_F(TrashOrphans, infoIsWrittenUnmarkedWhenTheMarkIsRefused) {
     for (const int error : {EPERM, EINVAL}) {
         bool refused = false;
         for (unsigned failing = 0; !refused && failing < 100; ++failing) {

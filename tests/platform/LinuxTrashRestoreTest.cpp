@@ -81,14 +81,14 @@ protected:
 };
 
 // But for names that are no UTF-8: it brings those back under a name of replacement characters.
-TEST_F(RestoringTrash, trashRestoreBringsBackEveryName) {
+TEST_F(RestoringTrash, trashRestoreRestoresEveryName) {
     const std::vector<std::string> names{"100%25 %", "new\nPath=passwd", "\x01\tü文", ".hidden", longName()};
     trashAll(names);
     for (std::size_t i = 0; i < names.size(); ++i) EXPECT_EQ(restoreFirstBelow(items), 0);
     expectBack(names);
 }
 
-TEST_F(RestoringTrash, trashRestoreBringsBackFoldersAndLinks) {
+TEST_F(RestoringTrash, trashRestoreRestoresFoldersAndLinks) {
     zoo::makeNames(items + "/folder");
     const auto names = namesIn(items + "/folder");
     ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/folder").value()), std::nullopt);
@@ -100,7 +100,7 @@ TEST_F(RestoringTrash, trashRestoreBringsBackFoldersAndLinks) {
     EXPECT_EQ(fs::read_symlink(items + "/link"), "/nowhere");
 }
 
-TEST_F(RestoringTrash, trashRestoreBringsBackWhatIsInAVolumesTrash) {
+TEST_F(RestoringTrash, trashRestoreRestoresFromVolumeTrash) {
     fakes::Mounts mounts;
     if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
     mounts.memory(temp / "stick");
@@ -117,7 +117,7 @@ TEST_F(RestoringTrash, trashRestoreBringsBackWhatIsInAVolumesTrash) {
 }
 
 // It restores names that are not printable under an escaped form of the name, so those are left to the other tool.
-TEST_F(RestoringTrash, gioBringsBackWhatItLists) {
+TEST_F(RestoringTrash, gioRestoresListedItems) {
     const std::vector<std::string> names{"plain.txt", "a b", "100%25", "%", ".hidden", "a.b.c", std::string(250, 'n')};
     trashAll(names);
     EXPECT_EQ(shell("dbus-run-session -- sh -c 'gio trash --list | cut -f 1 | while IFS= read -r item; do "
@@ -126,7 +126,7 @@ TEST_F(RestoringTrash, gioBringsBackWhatItLists) {
     expectBack(names);
 }
 
-TEST_F(RestoringTrash, gioBringsBackAFolderAndALink) {
+TEST_F(RestoringTrash, gioRestoresFolderAndLink) {
     for (const char* name : {"/folder/a", "/folder/b/c"}) zoo::makeFile(items + name);
     fs::create_symlink("/nowhere", items + "/link");
     for (const char* name : {"/folder", "/link"})
@@ -139,7 +139,7 @@ TEST_F(RestoringTrash, gioBringsBackAFolderAndALink) {
     EXPECT_EQ(fs::read_symlink(items + "/link"), "/nowhere");
 }
 
-TEST_F(RestoringTrash, gioBringsBackTheSecondOfAName) {
+TEST_F(RestoringTrash, gioRestoresSecondItemOfTheSameName) {
     for (const char* content : {"first", "second"}) {
         writeFile(items + "/same.txt", content);
         ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/same.txt").value()), std::nullopt);

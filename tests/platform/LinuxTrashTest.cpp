@@ -27,7 +27,7 @@ using testing::Optional;
 using testing::UnorderedElementsAre;
 using zoo::TempFolder;
 
-TEST(LinuxTrash, liesInTheDataHome) {
+TEST(LinuxTrash, isInTheDataHome) {
     const EnvironmentVariable home("HOME", "/home/me");
     {
         const EnvironmentVariable data("XDG_DATA_HOME", "/data");
@@ -38,7 +38,7 @@ TEST(LinuxTrash, liesInTheDataHome) {
     EXPECT_EQ(LinuxTrash().location(), "/home/me/.local/share/Trash/files");
 }
 
-TEST(LinuxTrash, isEmptyUntilSomebodyUsesIt) {
+TEST(LinuxTrash, missingTrashIsEmpty) {
     const TempFolder home;
     EXPECT_THAT(LinuxTrash(home.path()).list(), Optional(IsEmpty()));
     EXPECT_THAT(LinuxTrash(home / "missing").list(), Optional(IsEmpty()));
@@ -46,7 +46,7 @@ TEST(LinuxTrash, isEmptyUntilSomebodyUsesIt) {
     EXPECT_THAT(LinuxTrash(home.path()).list(), Optional(IsEmpty()));
 }
 
-TEST(LinuxTrash, makesNoHomeThatDoesNotExist) {
+TEST(LinuxTrash, doesNotCreateMissingHome) {
     const TempFolder temp;
     zoo::makeFile(temp / "file");
     LinuxTrash trash(temp / "missing/home");
@@ -57,7 +57,7 @@ TEST(LinuxTrash, makesNoHomeThatDoesNotExist) {
     EXPECT_EQ(fakes::namesIn(temp.path()), std::set<std::string>{"file"});
 }
 
-TEST(LinuxTrash, besideAHomeThatDoesNotExistTakesItems) {
+TEST(LinuxTrash, worksInDataHomeOutsideAMissingHome) {
     const TempFolder temp;
     const EnvironmentVariable home("HOME", temp / "missing");
     const EnvironmentVariable data("XDG_DATA_HOME", temp / "data");
@@ -66,7 +66,7 @@ TEST(LinuxTrash, besideAHomeThatDoesNotExistTakesItems) {
     EXPECT_EQ(fakes::namesIn(temp.path()), std::set<std::string>{"data"});
 }
 
-TEST(LinuxTrash, listsWhatIsInItHiddenEntriesToo) {
+TEST(LinuxTrash, listsAllEntriesIncludingHidden) {
     const TempFolder home;
     const std::string files = home / ".local/share/Trash/files/";
     zoo::makeFile(files + "file");
@@ -78,7 +78,7 @@ TEST(LinuxTrash, listsWhatIsInItHiddenEntriesToo) {
                 Optional(UnorderedElementsAre(files + "file", files + ".hidden", files + "\xff\n", files + "folder")));
 }
 
-TEST(LinuxTrash, behindALinkIsListedUnderItsOwnPath) {
+TEST(LinuxTrash, listsLinkedTrashUnderItsOwnPath) {
     const TempFolder home;
     zoo::makeFile(home / "elsewhere/files/file");
     zoo::makeFolder(home / ".local/share");
@@ -86,7 +86,7 @@ TEST(LinuxTrash, behindALinkIsListedUnderItsOwnPath) {
     EXPECT_THAT(LinuxTrash(home.path()).list(), Optional(UnorderedElementsAre(home / ".local/share/Trash/files/file")));
 }
 
-TEST(LinuxTrash, keepsWhatIsInItAlreadyKnownByThePlaceItCameFrom) {
+TEST(LinuxTrash, refusesItemsAlreadyInTheTrash) {
     const zoo::TempFolder temp;
     const std::string items = temp / "items";
     const std::string trash = temp / "home/.local/share/Trash";
@@ -108,7 +108,7 @@ TEST(LinuxTrash, keepsWhatIsInItAlreadyKnownByThePlaceItCameFrom) {
     EXPECT_EQ(trashed(items + "/way"), std::nullopt) << "the link itself lies outside";
 }
 
-TEST(LinuxTrash, isAbsentWhereItMayNotBeLookedInto) {
+TEST(LinuxTrash, unreadableTrashIsAbsent) {
     const TempFolder home;
     zoo::makeFolder(home / ".local/share/Trash/files");
     ::chmod((home / ".local/share/Trash/files").c_str(), 0);
@@ -117,7 +117,7 @@ TEST(LinuxTrash, isAbsentWhereItMayNotBeLookedInto) {
     EXPECT_TRUE(asOrdinaryUser([&] { return !LinuxTrash(home.path()).list(); }));
 }
 
-TEST(LinuxTrash, isAbsentWhereALinkOnTheWayToItLeadsNowhere) {
+TEST(LinuxTrash, trashBehindDanglingLinkIsAbsent) {
     for (const char* place : {".local/share/Trash/files", ".local/share/Trash", ".local/share", ".local"}) {
         const TempFolder home;
         zoo::makeFolder(fs::path(home / place).parent_path().string());
@@ -128,7 +128,7 @@ TEST(LinuxTrash, isAbsentWhereALinkOnTheWayToItLeadsNowhere) {
     }
 }
 
-TEST(LinuxTrash, refusesFoldersOfItsOwnThatOthersMayChange) {
+TEST(LinuxTrash, refusesFoldersWritableByOthers) {
     for (const char* folder : {"", "/files", "/info"}) {
         for (const mode_t mode : {0777, 0702, 0720, 01777}) {
             const TempFolder temp;
@@ -150,7 +150,7 @@ TEST(LinuxTrash, refusesFoldersOfItsOwnThatOthersMayChange) {
     }
 }
 
-TEST(LinuxTrash, isAbsentWhereItIsNoFolder) {
+TEST(LinuxTrash, trashThatIsAFileIsAbsent) {
     const TempFolder home;
     zoo::makeFile(home / ".local/share/Trash/files");
     EXPECT_FALSE(LinuxTrash(home.path()).list());

@@ -69,26 +69,26 @@ protected:
     fakes::Mounts mounts;
 };
 
-TEST_F(VolumeTrash, isMadeForTheUserAloneAndNamesThePathOnTheVolume) {
+TEST_F(VolumeTrash, createsPrivateTrashAndRecordsRelativePath) {
     expectTrashedIn(own);
     for (const char* folder : {"", "/files", "/info"})
         EXPECT_EQ(fs::status(own + folder).permissions(), fs::perms(0700)) << folder;
     EXPECT_FALSE(fs::exists(homeTrash));
 }
 
-TEST_F(VolumeTrash, takesAnItemAtTheTopOfTheVolume) {
+TEST_F(VolumeTrash, acceptsItemAtTheTopOfTheVolume) {
     writeFile(stick + "/top", "content");
     EXPECT_EQ(trashed(stick + "/top"), std::nullopt);
     EXPECT_THAT(restorable(own), ElementsAre(Pair("top", own + "/files/top")));
 }
 
-TEST_F(VolumeTrash, namesThePathOnTheVolumeWhateverLinkItWasReachedBy) {
+TEST_F(VolumeTrash, recordsPathOnTheVolumeBehindLinks) {
     fs::create_directory_symlink(stick + "/folder", temp / "link");
     EXPECT_EQ(trashed(temp / "link/item 1"), std::nullopt);
     EXPECT_THAT(restorable(own), ElementsAre(Pair("folder/item 1", testing::_)));
 }
 
-TEST_F(VolumeTrash, isThatOfTheMountWhereTheSameDeviceIsMountedTwice) {
+TEST_F(VolumeTrash, usesTheItemsOwnMountOfADevice) {
     mounts.memory(temp / "other");
     zoo::makeFolder(temp / "other/sub");
     zoo::makeFolder(temp / "again");
@@ -99,7 +99,7 @@ TEST_F(VolumeTrash, isThatOfTheMountWhereTheSameDeviceIsMountedTwice) {
     EXPECT_THAT(restorable(temp / ("again/.Trash-" + user)), ElementsAre(Pair("item", testing::_)));
 }
 
-TEST_F(VolumeTrash, isTheSharedOneWhereItMayBeTrusted) {
+TEST_F(VolumeTrash, usesTrustedSharedTrash) {
     zoo::makeFolder(stick + "/.Trash");
     ASSERT_EQ(::chmod((stick + "/.Trash").c_str(), 01777), 0);
     expectTrashedIn(stick + "/.Trash/" + user);
@@ -107,14 +107,14 @@ TEST_F(VolumeTrash, isTheSharedOneWhereItMayBeTrusted) {
     EXPECT_FALSE(fs::exists(own));
 }
 
-TEST_F(VolumeTrash, isNotTheSharedOneThatIsNotSticky) {
+TEST_F(VolumeTrash, ignoresSharedTrashThatIsNotSticky) {
     zoo::makeFolder(stick + "/.Trash");
     ASSERT_EQ(::chmod((stick + "/.Trash").c_str(), 0777), 0);
     expectTrashedIn(own);
     EXPECT_THAT(namesIn(stick + "/.Trash"), IsEmpty());
 }
 
-TEST_F(VolumeTrash, isNotTheSharedOneThatIsALink) {
+TEST_F(VolumeTrash, ignoresSharedTrashThatIsALink) {
     zoo::makeFolder(stick + "/elsewhere");
     ASSERT_EQ(::chmod((stick + "/elsewhere").c_str(), 01777), 0);
     fs::create_directory_symlink("elsewhere", stick + "/.Trash");
@@ -122,7 +122,7 @@ TEST_F(VolumeTrash, isNotTheSharedOneThatIsALink) {
     EXPECT_THAT(namesIn(stick + "/elsewhere"), IsEmpty());
 }
 
-TEST_F(VolumeTrash, isNotTheSharedOneThatAnotherUserMade) {
+TEST_F(VolumeTrash, ignoresSharedTrashOfAnotherUser) {
     if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
     zoo::makeFolder(stick + "/.Trash");
     ASSERT_EQ(::chmod((stick + "/.Trash").c_str(), 01777), 0);
@@ -131,7 +131,7 @@ TEST_F(VolumeTrash, isNotTheSharedOneThatAnotherUserMade) {
     EXPECT_THAT(namesIn(stick + "/.Trash"), IsEmpty());
 }
 
-TEST_F(VolumeTrash, isNotTheSharedOneInWhichAnotherUserLaysInWait) {
+TEST_F(VolumeTrash, ignoresSharedTrashWithAHostileSubfolder) {
     if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
     zoo::makeFolder(stick + "/.Trash/" + user);
     ASSERT_EQ(::chmod((stick + "/.Trash").c_str(), 01777), 0);
@@ -140,7 +140,7 @@ TEST_F(VolumeTrash, isNotTheSharedOneInWhichAnotherUserLaysInWait) {
     EXPECT_THAT(namesIn(stick + "/.Trash/" + user), IsEmpty());
 }
 
-TEST_F(VolumeTrash, isRefusedIfAnotherUserMadeIt) {
+TEST_F(VolumeTrash, rejectsTrashOfAnotherUser) {
     if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
     zoo::makeFolder(own);
     ASSERT_EQ(::chown(own.c_str(), fakes::ordinaryUser, fakes::ordinaryUser), 0);
@@ -148,7 +148,7 @@ TEST_F(VolumeTrash, isRefusedIfAnotherUserMadeIt) {
     EXPECT_THAT(namesIn(own), IsEmpty());
 }
 
-TEST_F(VolumeTrash, isRefusedIfOthersMayChangeIt) {
+TEST_F(VolumeTrash, rejectsTrashWritableByOthers) {
     zoo::makeFolder(own);
     ASSERT_EQ(::chmod(own.c_str(), 0777), 0);
     for (const mode_t top : {0755, 01777}) {
@@ -158,27 +158,27 @@ TEST_F(VolumeTrash, isRefusedIfOthersMayChangeIt) {
     }
 }
 
-TEST_F(VolumeTrash, isOpenToAllWhereTheWholeVolumeIs) {
+TEST_F(VolumeTrash, acceptsOpenTrashOnAnOpenVolume) {
     zoo::makeFolder(own);
     ASSERT_EQ(::chmod(own.c_str(), 0777), 0);
     ASSERT_EQ(::chmod(stick.c_str(), 0777), 0);
     expectTrashedIn(own);
 }
 
-TEST_F(VolumeTrash, isRefusedIfItIsALink) {
+TEST_F(VolumeTrash, rejectsLink) {
     zoo::makeFolder(stick + "/elsewhere");
     fs::create_directory_symlink("elsewhere", own);
     expectRefused("“" + own + "” is a link");
     EXPECT_THAT(namesIn(stick + "/elsewhere"), IsEmpty());
 }
 
-TEST_F(VolumeTrash, isRefusedIfItIsAnotherVolume) {
+TEST_F(VolumeTrash, rejectsMountPoint) {
     mounts.memory(own);
     expectRefused("“" + own + "” is another volume");
     EXPECT_THAT(namesIn(own), IsEmpty());
 }
 
-TEST_F(VolumeTrash, isRefusedWhereTheTopFolderMayNotBeChanged) {
+TEST_F(VolumeTrash, failsWhenTheTopFolderIsNotWritable) {
     if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
     ASSERT_EQ(::chown((stick + "/folder").c_str(), fakes::ordinaryUser, fakes::ordinaryUser), 0);
     EXPECT_TRUE(asOrdinaryUser([&] {
@@ -189,12 +189,12 @@ TEST_F(VolumeTrash, isRefusedWhereTheTopFolderMayNotBeChanged) {
     EXPECT_THAT(namesIn(stick), ElementsAre("folder"));
 }
 
-TEST_F(VolumeTrash, ofAVolumeThatCannotBeWrittenRefuses) {
+TEST_F(VolumeTrash, failsOnAReadOnlyVolume) {
     ASSERT_EQ(::mount(nullptr, stick.c_str(), nullptr, MS_REMOUNT | MS_BIND | MS_RDONLY, nullptr), 0) << errno;
     expectRefused("“" + own + "” couldn’t be created: Read-only file system");
 }
 
-TEST_F(VolumeTrash, aLinkToAnotherVolumeGoesItselfIntoTheHomeTrash) {
+TEST_F(VolumeTrash, movesLinkToAnotherVolumeIntoTheHomeTrash) {
     zoo::makeFolder(temp / "items");
     fs::create_symlink(item, temp / "items/link");
     fs::create_directory_symlink(stick, temp / "items/volume");
@@ -204,14 +204,14 @@ TEST_F(VolumeTrash, aLinkToAnotherVolumeGoesItselfIntoTheHomeTrash) {
     EXPECT_EQ(fileContent(item), "content");
 }
 
-TEST_F(VolumeTrash, theMountPointItselfIsRefused) {
+TEST_F(VolumeTrash, refusesMountPoint) {
     EXPECT_THAT(trashed(stick), Optional(std::string("“my stick” couldn’t be moved to the Trash: "
                                                      "another volume is mounted there")));
     EXPECT_EQ(fileContent(item), "content");
     EXPECT_FALSE(fs::exists(homeTrash));
 }
 
-TEST_F(VolumeTrash, aFolderThatHoldsAVolumeIsRefused) {
+TEST_F(VolumeTrash, refusesFolderWithMount) {
     zoo::makeFolder(temp / "items/inside/mounted");
     mounts.again(stick, temp / "items/inside/mounted");
     EXPECT_THAT(trashed(temp / "items/inside"),
@@ -219,7 +219,7 @@ TEST_F(VolumeTrash, aFolderThatHoldsAVolumeIsRefused) {
     EXPECT_TRUE(fs::exists(temp / "items/inside/mounted/folder"));
 }
 
-TEST_F(VolumeTrash, thatIsFullLeavesTheItemAndNoInfo) {
+TEST_F(VolumeTrash, fullVolumeLeavesTheItemAndNoInfo) {
     const std::string full = temp / "full";
     mounts.memory(full, "size=256k,mode=0755");
     zoo::makeFolder(full + "/home/.local/share/Trash/files");
@@ -236,7 +236,7 @@ TEST_F(VolumeTrash, thatIsFullLeavesTheItemAndNoInfo) {
     EXPECT_THAT(namesIn(full + "/home/.local/share/Trash/info"), IsEmpty());
 }
 
-TEST_F(VolumeTrash, isNotWhatEmptyingEmpties) {
+TEST_F(VolumeTrash, isNotEmptied) {
     EXPECT_EQ(trashed(item), std::nullopt);
     writeFile(temp / "other", "content");
     EXPECT_EQ(trashed(temp / "other"), std::nullopt);
@@ -245,7 +245,7 @@ TEST_F(VolumeTrash, isNotWhatEmptyingEmpties) {
     EXPECT_THAT(restorable(homeTrash), IsEmpty());
 }
 
-TEST_F(VolumeTrash, entryInWhichAVolumeIsMountedStaysWithItsInfo) {
+TEST_F(VolumeTrash, emptyingKeepsEntryWithMount) {
     zoo::makeFolder(homeTrash + "/files/entry/mounted");
     zoo::makeFile(homeTrash + "/files/entry/file");
     zoo::makeFile(homeTrash + "/files/other");

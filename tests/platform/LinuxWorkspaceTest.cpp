@@ -32,7 +32,7 @@ using testing::IsEmpty;
 
 using Command = std::vector<std::string>;
 
-TEST(FileUri, leavesPlainPathsAndEncodesAllElse) {
+TEST(FileUri, percentEncodesPath) {
     EXPECT_EQ(fileUri("/home/me/a-b_c.d~1"), "file:///home/me/a-b_c.d~1");
     EXPECT_EQ(fileUri("/a b/100%/#?;"), "file:///a%20b/100%25/%23%3F%3B");
     EXPECT_EQ(fileUri("/\xc3\xa9/\xff\n"), "file:///%C3%A9/%FF%0A");
@@ -82,7 +82,7 @@ protected:
                              [this] { return session.connect("zelk"); }};
 };
 
-TEST_F(LinuxWorkspaceTest, asksTheFileManagerToShowTheItems) {
+TEST_F(LinuxWorkspaceTest, revealAsksTheFileManager) {
     offerFileManager();
     workspace.reveal({"/home/me/a b.txt", "/home/me/\xff"});
     EXPECT_THAT(service.asked, IsEmpty());
@@ -92,7 +92,7 @@ TEST_F(LinuxWorkspaceTest, asksTheFileManagerToShowTheItems) {
     EXPECT_THAT(launched, IsEmpty());
 }
 
-TEST_F(LinuxWorkspaceTest, opensTheFoldersOnceEachIfThereIsNoFileManagerOnTheBus) {
+TEST_F(LinuxWorkspaceTest, revealOpensEachFolderOnceWithoutFileManager) {
     workspace.reveal({"/home/me/b", "/home/me/a", "/top", "/home/me/folder/c"});
     EXPECT_THAT(launched, IsEmpty());
     runUntil([&] { return launched.size() == 3; });
@@ -100,7 +100,7 @@ TEST_F(LinuxWorkspaceTest, opensTheFoldersOnceEachIfThereIsNoFileManagerOnTheBus
                                       Command{"xdg-open", "/home/me/folder"}));
 }
 
-TEST_F(LinuxWorkspaceTest, opensTheFolderIfTheFileManagerRefuses) {
+TEST_F(LinuxWorkspaceTest, revealOpensTheFolderWhenTheFileManagerRefuses) {
     offerFileManager();
     service.refuses = true;
     workspace.reveal({"/home/me/a"});
@@ -108,7 +108,7 @@ TEST_F(LinuxWorkspaceTest, opensTheFolderIfTheFileManagerRefuses) {
     EXPECT_THAT(launched, ElementsAre(Command{"xdg-open", "/home/me"}));
 }
 
-TEST_F(LinuxWorkspaceTest, opensTheFolderIfThereIsNoBus) {
+TEST_F(LinuxWorkspaceTest, revealOpensTheFolderWithoutBus) {
     std::vector<Command> opened;
     LinuxWorkspace alone(
         "/data", "/data/Trash/files", [&](Command command) { opened.push_back(std::move(command)); },
@@ -117,14 +117,14 @@ TEST_F(LinuxWorkspaceTest, opensTheFolderIfThereIsNoBus) {
     EXPECT_THAT(opened, ElementsAre(Command{"xdg-open", "/home/me"}));
 }
 
-TEST_F(LinuxWorkspaceTest, revealsNothingOfNothing) {
+TEST_F(LinuxWorkspaceTest, revealOfNothingDoesNothing) {
     workspace.reveal({});
     workspace.reveal({"no path"});
     QCoreApplication::processEvents();
     EXPECT_THAT(launched, IsEmpty());
 }
 
-TEST_F(LinuxWorkspaceTest, mayGoWhileTheFileManagerIsAsked) {
+TEST_F(LinuxWorkspaceTest, canBeDestroyedWhileRevealing) {
     bool launchedLate = false;
     {
         LinuxWorkspace brief(
@@ -137,12 +137,12 @@ TEST_F(LinuxWorkspaceTest, mayGoWhileTheFileManagerIsAsked) {
     EXPECT_FALSE(launchedLate);
 }
 
-TEST_F(LinuxWorkspaceTest, handsURLsToTheDesktop) {
+TEST_F(LinuxWorkspaceTest, opensURLsWithTheDesktop) {
     workspace.openURL("https://example.org/a?b=c");
     EXPECT_THAT(launched, ElementsAre(Command{"xdg-open", "https://example.org/a?b=c"}));
 }
 
-TEST_F(LinuxWorkspaceTest, showsTheTrashWhereAccessWouldBeGranted) {
+TEST_F(LinuxWorkspaceTest, accessSettingsRevealTheTrash) {
     offerFileManager();
     workspace.openURL(accessSettingsURL);
     runUntil([&] { return !service.asked.empty(); });
@@ -152,7 +152,7 @@ TEST_F(LinuxWorkspaceTest, showsTheTrashWhereAccessWouldBeGranted) {
 
 // A program of the test's own: after another test took this process into a mount namespace, the kernel may give the
 // path of its executable as seen from the former one.
-TEST_F(LinuxWorkspaceTest, namesTheApplicationsThatRun) {
+TEST_F(LinuxWorkspaceTest, listsRunningApplications) {
     const zoo::TempFolder data;
     const std::string program = data / "program";
     std::filesystem::copy_file("/bin/sleep", program);
@@ -183,7 +183,7 @@ bool hasNoChild() {
     return ::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD;
 }
 
-TEST(DetachedProgram, isNoChildOfThisProcess) {
+TEST(DetachedProgram, isNotAChildOfThisProcess) {
     const zoo::TempFolder folder;
     const std::string fifo = folder / "fifo";
     ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
@@ -206,7 +206,7 @@ TEST(DetachedProgram, isNotWaitedFor) {
     EXPECT_EQ(fakes::fileContent(folder / "done"), "go\n");
 }
 
-TEST(DetachedProgram, thatIsNotThereIsSilent) {
+TEST(DetachedProgram, ignoresMissingProgram) {
     EXPECT_TRUE(fakes::inChild([] {
         startDetached({"zelk-has-no-such-program"});
         startDetached({});

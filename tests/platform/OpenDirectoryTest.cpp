@@ -87,7 +87,7 @@ protected:
     Descriptor top;
 };
 
-TEST_F(OpenDirectory, rootIsFollowedThroughLinksAnywhereInItsPath) {
+TEST_F(OpenDirectory, rootFollowsLinks) {
     fs::create_directory_symlink(temp / "root", temp / "link");
     fs::create_directory_symlink("link", temp / "linkToLink");
     fs::create_directory_symlink("../../outside", temp / "root/a/link");
@@ -97,7 +97,7 @@ TEST_F(OpenDirectory, rootIsFollowedThroughLinksAnywhereInItsPath) {
     EXPECT_EQ(root("/"), identityAt("/"));
 }
 
-TEST_F(OpenDirectory, rootThatIsNoDirectoryFailsAndDoesNotHang) {
+TEST_F(OpenDirectory, rootThatIsNotADirectoryFailsWithoutBlocking) {
     ASSERT_EQ(::mkfifo((temp / "pipe").c_str(), 0644), 0);
     fs::create_symlink(temp / "pipe", temp / "pipeLink");
     fs::create_symlink("loop", temp / "loop");
@@ -119,7 +119,7 @@ TEST_F(OpenDirectory, rootThatIsNoDirectoryFailsAndDoesNotHang) {
     }
 }
 
-TEST_F(OpenDirectory, rootMayHaveAnyNumberOfSlashes) {
+TEST_F(OpenDirectory, rootAcceptsRepeatedSlashes) {
     EXPECT_EQ(root(repeated(10000, "/")), identityAt("/"));
     EXPECT_EQ(root(temp.path() + repeated(10000, "/") + "root" + repeated(10000, "/")), identityAt(temp / "root"));
     EXPECT_EQ(root(repeated(10000, "/") + (temp / "root/a").substr(1)), identityAt(temp / "root/a"));
@@ -129,7 +129,7 @@ TEST_F(OpenDirectory, rootMayHaveAnyNumberOfSlashes) {
 
 // The first name is made longer byte by byte, so that every byte of the others comes to lie where a path ends that one
 // system call takes.
-TEST_F(OpenDirectory, pathLongerThanOneCallTakesIsOpenedWhereverItIsCut) {
+TEST_F(OpenDirectory, opensPathLongerThanPathMax) {
     constexpr std::size_t levels = 34;
     const std::string below = makeLong(temp / "root/long", levels);
     const Identity wanted = lowest(levels);
@@ -147,7 +147,7 @@ TEST_F(OpenDirectory, pathLongerThanOneCallTakesIsOpenedWhereverItIsCut) {
     }
 }
 
-TEST_F(OpenDirectory, pathsAroundTheLimitOfOneCallAreOpened) {
+TEST_F(OpenDirectory, opensPathsAroundPathMax) {
     // "x/x/x/...": both the number of names and the number of bytes grow by little.
     zoo::makeChain(temp / "root/long", 2100, 1);
     Descriptor at(::openat(top.get(), "long", O_RDONLY | O_DIRECTORY));
@@ -162,7 +162,7 @@ TEST_F(OpenDirectory, pathsAroundTheLimitOfOneCallAreOpened) {
     }
 }
 
-TEST_F(OpenDirectory, linkInAnyPlaceOfALongPathIsFollowedInARootAndNeverBeneathIt) {
+TEST_F(OpenDirectory, followsLinksInLongRootsButNeverBeneath) {
     constexpr std::size_t levels = 40;
     const std::string below = "long/" + makeLong(temp / "root/long", levels);
     const Identity wanted = lowest(levels);
@@ -181,7 +181,7 @@ TEST_F(OpenDirectory, linkInAnyPlaceOfALongPathIsFollowedInARootAndNeverBeneathI
     }
 }
 
-TEST_F(OpenDirectory, failureFarBelowLeavesNoDescriptorOpen) {
+TEST_F(OpenDirectory, failureFarBelowLeaksNoDescriptor) {
     const std::string below = "long/" + makeLong(temp / "root/long", 40);
     const std::ptrdiff_t open = openDescriptors();
     for (const char* const last : {"/nowhere", "/file", "/file/nowhere"}) {
@@ -194,14 +194,14 @@ TEST_F(OpenDirectory, failureFarBelowLeavesNoDescriptorOpen) {
     EXPECT_EQ(openDescriptors(), open);
 }
 
-TEST_F(OpenDirectory, nothingBelowIsTheRootItselfUnderAnotherDescriptor) {
+TEST_F(OpenDirectory, emptyPathReopensTheRoot) {
     const Descriptor fd(openDirectoryBeneath(top.get(), ""));
     ASSERT_TRUE(fd);
     EXPECT_NE(fd.get(), top.get());
     EXPECT_EQ(identityOf(fd.get()), identityOf(top.get()));
 }
 
-TEST_F(OpenDirectory, linkBeneathIsRefusedWhereverItLeads) {
+TEST_F(OpenDirectory, refusesLinksBeneath) {
     fs::create_directory_symlink(temp / "outside", temp / "root/absolute");
     fs::create_directory_symlink("../outside", temp / "root/outside");
     fs::create_directory_symlink("a", temp / "root/inside");
@@ -214,7 +214,7 @@ TEST_F(OpenDirectory, linkBeneathIsRefusedWhereverItLeads) {
         EXPECT_EQ(subdirectory(top.get(), name), nobody) << name;
 }
 
-TEST_F(OpenDirectory, wayOutBeneathIsRefused) {
+TEST_F(OpenDirectory, refusesDotDotBeneath) {
     const std::vector<std::string> ways{
         "..", "../outside", "a/../../outside", "a/..", "/", "/tmp", "a/" + repeated(3000, "../") + "outside"};
     for (const std::string& below : ways) {
@@ -223,7 +223,7 @@ TEST_F(OpenDirectory, wayOutBeneathIsRefused) {
     }
 }
 
-TEST_F(OpenDirectory, fileOrPipeBeneathFailsAndDoesNotHang) {
+TEST_F(OpenDirectory, fileOrPipeBeneathFailsWithoutBlocking) {
     ASSERT_EQ(::mkfifo((temp / "root/pipe").c_str(), 0644), 0);
     EXPECT_EQ(openDirectoryBeneath(top.get(), "pipe"), -1);
     EXPECT_EQ(errno, ENOTDIR);
@@ -235,14 +235,14 @@ TEST_F(OpenDirectory, fileOrPipeBeneathFailsAndDoesNotHang) {
     EXPECT_EQ(errno, ENOENT);
 }
 
-TEST_F(OpenDirectory, viewIntoALongerTextEndsWhereItEnds) {
+TEST_F(OpenDirectory, acceptsUnterminatedName) {
     const std::string_view text = "a/b/nowhere";
     EXPECT_EQ(beneath(top.get(), text.substr(0, 3)), identityAt(temp / "root/a/b"));
     EXPECT_EQ(beneath(top.get(), text.substr(0, 1)), identityAt(temp / "root/a"));
     EXPECT_EQ(subdirectory(top.get(), text.substr(0, 1)), identityAt(temp / "root/a"));
 }
 
-TEST_F(OpenDirectory, namesAreBytesOfAnyKindAndLength) {
+TEST_F(OpenDirectory, acceptsNamesOfAnyBytesAndLength) {
     for (const std::string& name : {std::string(255, '\xA0'), std::string("\xFF\n\\ "), std::string("..."),
                                     std::string("..a"), std::string(".hidden"), std::string("-rf")}) {
         zoo::makeFolder(temp / "root/" + name + "/below");
@@ -253,7 +253,7 @@ TEST_F(OpenDirectory, namesAreBytesOfAnyKindAndLength) {
     }
 }
 
-TEST_F(OpenDirectory, folderThatMayNotBeReadFails) {
+TEST_F(OpenDirectory, unreadableFolderFails) {
     ASSERT_EQ(::chmod((temp / "root/a/b").c_str(), 0111), 0);
     EXPECT_TRUE(fakes::asOrdinaryUser([&] {
         const auto refused = [](int fd) { return fd == -1 && errno == EACCES; };
@@ -262,7 +262,7 @@ TEST_F(OpenDirectory, folderThatMayNotBeReadFails) {
     }));
 }
 
-TEST_F(OpenDirectory, noChildProcessInheritsADescriptor) {
+TEST_F(OpenDirectory, childProcessesInheritNoDescriptor) {
     for (const int fd : {openRootDirectory(temp / "root"), openDirectoryBeneath(top.get(), ""),
                          openDirectoryBeneath(top.get(), "a/b"), openSubdirectory(top.get(), "a")}) {
         const Descriptor owned(fd);
@@ -273,7 +273,7 @@ TEST_F(OpenDirectory, noChildProcessInheritsADescriptor) {
 #ifdef __linux__
 
 // What looks like a link to a folder in /proc is none to the file system, and leads anywhere.
-TEST_F(OpenDirectory, linkOfTheProcFileSystemIsRefusedToo) {
+TEST_F(OpenDirectory, refusesMagicLinks) {
     const Descriptor self(::open("/proc/self", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     for (const std::string& below : {std::string("root"), std::string("cwd"), std::string("root/tmp"),
                                      "fd/" + std::to_string(top.get()), "fd/" + std::to_string(top.get()) + "/a"}) {

@@ -24,32 +24,32 @@ ChildOutcome shell(const std::string& line) {
     return PosixChildProcess().run("/bin/sh", {"-c", line});
 }
 
-TEST(PosixChildProcess, bothOutputsComeAsOne) {
+TEST(PosixChildProcess, mergesBothOutputs) {
     const ChildOutcome outcome = shell("echo out; echo error >&2; echo again");
     EXPECT_EQ(outcome.launchFailure, std::nullopt);
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.output, "out\nerror\nagain\n");
 }
 
-TEST(PosixChildProcess, aSilentProgramEndsWell) {
+TEST(PosixChildProcess, acceptsSilentProgram) {
     const ChildOutcome outcome = shell(":");
     EXPECT_EQ(outcome.launchFailure, std::nullopt);
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.output, "");
 }
 
-TEST(PosixChildProcess, theExitStatusIsTheProgramsOwn) {
+TEST(PosixChildProcess, returnsExitStatus) {
     EXPECT_EQ(shell("exit 101").exitStatus, 101);
     EXPECT_EQ(shell("exit 255").exitStatus, 255);
 }
 
-TEST(PosixChildProcess, whatASignalEndedHasTheSignalsNumber) {
+TEST(PosixChildProcess, returnsSignalNumber) {
     const ChildOutcome outcome = shell("echo before; kill -TERM $$");
     EXPECT_EQ(outcome.exitStatus, SIGTERM);
     EXPECT_EQ(outcome.output, "before\n");
 }
 
-TEST(PosixChildProcess, argumentsArriveAsTheyAre) {
+TEST(PosixChildProcess, passesArgumentsUnchanged) {
     const std::vector<std::string> words{"a b", "", "*", "'\"$HOME\\", "\xff\n"};
     std::vector<std::string> arguments{"-c", "for word; do printf '<%s>' \"$word\"; done", "sh"};
     arguments.insert(arguments.end(), words.begin(), words.end());
@@ -58,24 +58,24 @@ TEST(PosixChildProcess, argumentsArriveAsTheyAre) {
     EXPECT_EQ(PosixChildProcess().run("/bin/sh", arguments).output, expected);
 }
 
-TEST(PosixChildProcess, outputIsBytes) {
+TEST(PosixChildProcess, returnsOutputThatIsNotUtf8) {
     EXPECT_EQ(shell("printf 'a\\000b\\377'").output, std::string("a\0b\xff", 4));
 }
 
-TEST(PosixChildProcess, aProgramThatIsNotThereIsNotLaunched) {
+TEST(PosixChildProcess, missingProgramFailsToLaunch) {
     const ChildOutcome outcome = PosixChildProcess().run("/nowhere/tool", {});
     EXPECT_EQ(outcome.launchFailure, std::strerror(ENOENT));
     EXPECT_EQ(outcome.output, "");
 }
 
-TEST(PosixChildProcess, aProgramThatMayNotBeRunIsNotLaunched) {
+TEST(PosixChildProcess, forbiddenProgramFailsToLaunch) {
     const zoo::TempFolder folder;
     fakes::writeFile(folder / "tool", "#!/bin/sh\n");
     EXPECT_EQ(PosixChildProcess().run(folder / "tool", {}).launchFailure, std::strerror(EACCES));
     EXPECT_EQ(PosixChildProcess().run(folder.path(), {}).launchFailure, std::strerror(EACCES));
 }
 
-TEST(PosixChildProcess, whatIsNoProgramIsNotLaunchedThroughAShell) {
+TEST(PosixChildProcess, nonProgramIsNotRunByAShell) {
     const zoo::TempFolder folder;
     fakes::writeFile(folder / "tool", "echo ran\n");
     ASSERT_EQ(::chmod((folder / "tool").c_str(), 0755), 0);
@@ -84,38 +84,38 @@ TEST(PosixChildProcess, whatIsNoProgramIsNotLaunchedThroughAShell) {
     EXPECT_EQ(outcome.output, "");
 }
 
-TEST(PosixChildProcess, theExecutableIsAPathAndNotSearchedFor) {
+TEST(PosixChildProcess, executableIsNotSearchedOnPath) {
     EXPECT_EQ(PosixChildProcess().run("sh", {"-c", ":"}).launchFailure, std::strerror(ENOENT));
 }
 
-TEST(PosixChildProcess, aMissingToolThroughEnvEndsWithAStatusOfItsOwn) {
+TEST(PosixChildProcess, missingToolBehindEnvReturns127) {
     const ChildOutcome outcome = PosixChildProcess().run("/usr/bin/env", {"zelk-has-no-such-tool", "clean"});
     EXPECT_EQ(outcome.launchFailure, std::nullopt);
     EXPECT_EQ(outcome.exitStatus, 127);
     EXPECT_NE(outcome.output.find("zelk-has-no-such-tool"), std::string::npos);
 }
 
-TEST(PosixChildProcess, environmentAndWorkingDirectoryAreInherited) {
+TEST(PosixChildProcess, inheritsEnvironmentAndWorkingDirectory) {
     const fakes::EnvironmentVariable variable("ZELK_CHILD_TEST", "as it stands");
     EXPECT_EQ(shell("printf %s \"$ZELK_CHILD_TEST\"").output, "as it stands");
     EXPECT_EQ(shell("pwd -P").output, std::filesystem::current_path().string() + "\n");
 }
 
-TEST(PosixChildProcess, theChildHasNoDescriptorsButTheThree) {
+TEST(PosixChildProcess, childHasOnlyStandardDescriptors) {
     const zoo::TempFolder folder;
     EXPECT_EQ(shell("ls /dev/fd/ > " + (folder / "list") + " 3>&-; grep -c . " + (folder / "list")).exitStatus, 0);
     // The list's own reading of the folder is the fourth.
     EXPECT_EQ(fakes::fileContent(folder / "list"), "0\n1\n2\n3\n");
 }
 
-TEST(PosixChildProcess, noDescriptorIsLeftOpen) {
+TEST(PosixChildProcess, leaksNoDescriptor) {
     const std::ptrdiff_t before = fakes::openDescriptors();
     shell("echo");
     PosixChildProcess().run("/nowhere/tool", {});
     EXPECT_EQ(fakes::openDescriptors(), before);
 }
 
-TEST(PosixChildProcess, withoutDescriptorsNothingIsLaunched) {
+TEST(PosixChildProcess, failsWithoutFreeDescriptors) {
     EXPECT_TRUE(fakes::inChild([] {
         shell(":");  // a sanitizer that meets a type for the first time needs descriptors to look at it
         while (::dup(0) >= 0) {
@@ -124,7 +124,7 @@ TEST(PosixChildProcess, withoutDescriptorsNothingIsLaunched) {
     }));
 }
 
-TEST(PosixChildProcess, closedStandardOutputsDoNotTangleThePipe) {
+TEST(PosixChildProcess, worksWithClosedStandardOutputs) {
     EXPECT_TRUE(fakes::inChild([] {
         for (int descriptor = 0; descriptor < 3; ++descriptor) ::close(descriptor);
         const ChildOutcome outcome = shell("echo out; echo error >&2");
@@ -132,7 +132,7 @@ TEST(PosixChildProcess, closedStandardOutputsDoNotTangleThePipe) {
     }));
 }
 
-TEST(PosixChildProcess, aForgottenChildHasNoKnownStatus) {
+TEST(PosixChildProcess, ignoredChildHasUnknownStatus) {
     EXPECT_TRUE(fakes::inChild([] {
         ::signal(SIGCHLD, SIG_IGN);
         const ChildOutcome outcome = shell("echo out");
@@ -140,7 +140,7 @@ TEST(PosixChildProcess, aForgottenChildHasNoKnownStatus) {
     }));
 }
 
-TEST(PosixChildProcess, aSignalWhileItWaitsChangesNothing) {
+TEST(PosixChildProcess, survivesSignalWhileWaiting) {
     EXPECT_TRUE(fakes::inChild([] {
         struct sigaction interrupting {};
         interrupting.sa_handler = [](int) {};  // without SA_RESTART
@@ -151,7 +151,7 @@ TEST(PosixChildProcess, aSignalWhileItWaitsChangesNothing) {
 }
 
 // The tool writes until the pipe takes no more, which it would do for ever if anybody read meanwhile.
-TEST(PosixChildProcess, thePipeIsReadOnlyAfterTheExit) {
+TEST(PosixChildProcess, readsOutputOnlyAfterExit) {
     const zoo::TempFolder folder;
     const std::string program =
         "import os, sys\n"
@@ -168,7 +168,7 @@ TEST(PosixChildProcess, thePipeIsReadOnlyAfterTheExit) {
     EXPECT_LE(outcome.output.size(), 1U << 16);
 }
 
-TEST(PosixChildProcess, manyRunAtTheSameTime) {
+TEST(PosixChildProcess, runsManyConcurrently) {
     std::vector<std::thread> threads;
     std::vector<ChildOutcome> outcomes(40);
     for (std::size_t number = 0; number < outcomes.size(); ++number) {

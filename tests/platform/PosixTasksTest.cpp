@@ -30,7 +30,7 @@ namespace {
 constexpr double longEnough = 1e6;
 constexpr TaskPriority priorities[] = {TaskPriority::userInitiated, TaskPriority::standard, TaskPriority::utility};
 
-TEST(ThreadTasks, everyTaskRunsOnce) {
+TEST(ThreadTasks, runsEveryTaskOnce) {
     ThreadTasks tasks;
     std::vector<std::atomic<int>> runs(300);
     for (std::size_t number = 0; number < runs.size(); ++number)
@@ -40,7 +40,7 @@ TEST(ThreadTasks, everyTaskRunsOnce) {
 }
 
 // Each waits for all the others: on fewer threads it would never end.
-TEST(ThreadTasks, tasksRunAtTheSameTimeEachOnAThreadOfItsOwn) {
+TEST(ThreadTasks, runsTasksConcurrently) {
     ThreadTasks tasks;
     std::latch all(12);
     std::vector<std::thread::id> threads(12);
@@ -57,7 +57,7 @@ TEST(ThreadTasks, tasksRunAtTheSameTimeEachOnAThreadOfItsOwn) {
 }
 
 // The tools stall until an item has been done that was given after all of them.
-TEST(ThreadTasks, tasksApartThatStallHoldUpNothing) {
+TEST(ThreadTasks, stalledApartTasksBlockNothing) {
     ThreadTasks tasks;
     constexpr int stalling = 150;
     std::latch allStall(stalling);
@@ -73,7 +73,7 @@ TEST(ThreadTasks, tasksApartThatStallHoldUpNothing) {
     EXPECT_TRUE(drainThreads(longEnough));
 }
 
-TEST(ThreadTasks, whatATaskApartHoldsGoesOnItsOwnThreadAndOnlyOnce) {
+TEST(ThreadTasks, releasesApartTaskOnceOnItsOwnThread) {
     ThreadTasks tasks;
     std::atomic<int> runs = 0;
     const auto held = std::make_shared<int>(1);
@@ -83,7 +83,7 @@ TEST(ThreadTasks, whatATaskApartHoldsGoesOnItsOwnThreadAndOnlyOnce) {
     EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST(ThreadTasks, taskOutlivesWhatStartedIt) {
+TEST(ThreadTasks, taskOutlivesThreadTasks) {
     std::latch go(1);
     std::atomic<bool> ended = false;
     {
@@ -98,7 +98,7 @@ TEST(ThreadTasks, taskOutlivesWhatStartedIt) {
     EXPECT_TRUE(ended);
 }
 
-TEST(ThreadTasks, whatATaskHoldsIsGoneOnceDrained) {
+TEST(ThreadTasks, drainWaitsForReleasedCaptures) {
     ThreadTasks tasks;
     std::vector<std::weak_ptr<int>> held;
     for (int number = 0; number < 50; ++number) {
@@ -120,7 +120,7 @@ struct CountsCopies {
 };
 
 // A second copy might be the last to go, on the thread that asked: what a task is to release there is large.
-TEST(ThreadTasks, taskIsHandedOverAndNotCopied) {
+TEST(ThreadTasks, movesTasksWithoutCopying) {
     ThreadTasks tasks;
     std::atomic<int> copies = 0;
     std::function<void()> task = CountsCopies(copies);
@@ -129,7 +129,7 @@ TEST(ThreadTasks, taskIsHandedOverAndNotCopied) {
     EXPECT_EQ(copies, 0);
 }
 
-TEST(ThreadTasks, whatATaskHoldsGoesOnItsOwnThread) {
+TEST(ThreadTasks, releasesTaskOnItsOwnThread) {
     struct Witness {
         std::atomic<int>& onCaller;
         std::thread::id caller = std::this_thread::get_id();
@@ -174,7 +174,7 @@ std::ptrdiff_t otherThreadsThatStay() {
 }
 
 // Only as many as there are threads run at the same time, and however many wait, what is urgent is not held up by them.
-TEST(ThreadTasks, tenThousandTasksMakeAtMostSixtyFourThreadsAndHoldUpNoUrgentOne) {
+TEST(ThreadTasks, tenThousandTasksUseAtMostSixtyFourThreads) {
     ThreadTasks tasks;
     static_assert(ThreadTasks::mostUrgentThreads + ThreadTasks::mostPatientThreads == 64);
     const std::ptrdiff_t before = otherThreadsThatStay();
@@ -198,7 +198,7 @@ TEST(ThreadTasks, tenThousandTasksMakeAtMostSixtyFourThreadsAndHoldUpNoUrgentOne
     EXPECT_EQ(begun, 10'000U);
 }
 
-TEST(ThreadTasks, whatTheUserWaitsForGoesAheadOfTheRest) {
+TEST(ThreadTasks, userInitiatedTasksRunFirst) {
     ThreadTasks tasks;
     std::latch allTaken(ThreadTasks::mostUrgentThreads);
     std::latch mayGo(1);
@@ -225,7 +225,7 @@ TEST(ThreadTasks, whatTheUserWaitsForGoesAheadOfTheRest) {
     EXPECT_EQ(order, "us");
 }
 
-TEST(ThreadTasks, onlyWhatCanWaitIsNicedAndOfThatEverything) {
+TEST(ThreadTasks, nicesExactlyUtilityTasks) {
     ThreadTasks tasks;
     const int own = ::getpriority(PRIO_PROCESS, 0);
     const int niced = std::max(own, 10);
@@ -242,7 +242,7 @@ TEST(ThreadTasks, onlyWhatCanWaitIsNicedAndOfThatEverything) {
     EXPECT_EQ(wrong, 0);
 }
 
-TEST(ThreadTasks, itsThreadsGoWithIt) {
+TEST(ThreadTasks, endsItsThreadsOnDestruction) {
     const std::ptrdiff_t before = otherThreadsThatStay();
     {
         ThreadTasks tasks(std::chrono::hours(24 * 365));  // on their own they would stay
@@ -255,7 +255,7 @@ TEST(ThreadTasks, itsThreadsGoWithIt) {
     while (otherThreads() > before) std::this_thread::yield();
 }
 
-TEST(ThreadTasks, machineWithoutMoreThreadsRunsTheTaskOnTheCallers) {
+TEST(ThreadTasks, runsOnTheCallerWhenNoThreadCanStart) {
     ASSERT_TRUE(drainThreads(longEnough));  // of the tests before
     ThreadTasks tasks;
     int runs = 0;

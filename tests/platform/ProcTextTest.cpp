@@ -50,7 +50,7 @@ const std::vector<std::string>& hostileTexts() {
     return texts;
 }
 
-TEST(ProcText, hostileTextsGiveSaneValuesOrNone) {
+TEST(ProcText, survivesHostileTexts) {
     for (const std::string& text : hostileTexts()) {
         for (const char c : tidied(text)) EXPECT_GE(static_cast<unsigned char>(c), ' ');
         (void)assignedValue(text, "PRETTY_NAME");
@@ -66,14 +66,14 @@ TEST(ProcText, hostileTextsGiveSaneValuesOrNone) {
     }
 }
 
-TEST(Tidied, blanksAndControlCharactersRunTogether) {
+TEST(Tidied, collapsesBlanksAndControlCharacters) {
     EXPECT_EQ(tidied("  Intel(R)   Xeon(R)\t\x01 CPU \n"), "Intel(R) Xeon(R) CPU");
     EXPECT_EQ(tidied("\n\t "), "");
     EXPECT_EQ(tidied("Raspberry Pi 4\0hidden"sv), "Raspberry Pi 4");
     EXPECT_EQ(tidied("Büro\x7F"), "Büro");
 }
 
-TEST(WholeNumber, takesADecimalNumberAndNothingElse) {
+TEST(WholeNumber, acceptsDecimalNumbersOnly) {
     EXPECT_EQ(wholeNumber("87\n"), 87);
     EXPECT_EQ(wholeNumber(" -5 "), -5);
     EXPECT_EQ(wholeNumber("9223372036854775807"), std::numeric_limits<std::int64_t>::max());
@@ -81,7 +81,7 @@ TEST(WholeNumber, takesADecimalNumberAndNothingElse) {
         EXPECT_FALSE(wholeNumber(text).has_value()) << text;
 }
 
-TEST(AssignedValue, readsPlainAndQuotedValues) {
+TEST(AssignedValue, parsesPlainAndQuotedValues) {
     EXPECT_EQ(assignedValue("ID=debian\n", "ID"), "debian");
     EXPECT_EQ(assignedValue("NAME=\"Debian GNU/Linux\"\n", "NAME"), "Debian GNU/Linux");
     EXPECT_EQ(assignedValue("NAME='Single $quoted'", "NAME"), "Single $quoted");
@@ -91,36 +91,36 @@ TEST(AssignedValue, readsPlainAndQuotedValues) {
     EXPECT_EQ(assignedValue("NAME=", "NAME"), "");
 }
 
-TEST(AssignedValue, takesTheLastAssignmentOfExactlyThatKey) {
+TEST(AssignedValue, lastAssignmentOfTheExactKeyWins) {
     const std::string text = "# NAME=comment\nXNAME=x\nNAMES=y\nname=z\n  NAME=first\r\nNAME=last\n";
     EXPECT_EQ(assignedValue(text, "NAME"), "last");
     EXPECT_FALSE(assignedValue(text, "ID").has_value());
 }
 
-TEST(ProcessorName, isThatOfTheFirstProcessorWithItsBlanksRunTogether) {
+TEST(ProcessorName, usesTheFirstProcessor) {
     EXPECT_EQ(
         processorName("processor\t: 0\nmodel\t\t: 158\nmodel name\t: Intel(R) Core(TM) i7-8700     CPU @ 3.20GHz\n\n"
                       "processor\t: 1\nmodel name\t: Another\n"),
         "Intel(R) Core(TM) i7-8700 CPU @ 3.20GHz");
 }
 
-TEST(ProcessorName, fallsBackToTheHardwareOfAnArmBoard) {
+TEST(ProcessorName, fallsBackToArmHardware) {
     EXPECT_EQ(processorName("processor\t: 0\nBogoMIPS\t: 108.00\nCPU implementer\t: 0x41\n\nHardware\t: BCM2835\n"
                             "Model\t\t: Raspberry Pi 4 Model B Rev 1.4\n"),
               "BCM2835");
 }
 
-TEST(ProcessorName, knowsTheKeysOfOtherProcessors) {
+TEST(ProcessorName, knowsKeysOfOtherArchitectures) {
     EXPECT_EQ(processorName("processor\t: 0\ncpu\t\t: POWER9, altivec supported\n"), "POWER9, altivec supported");
     EXPECT_EQ(processorName("cpu model\t\t: MIPS 74Kc V4.12\n"), "MIPS 74Kc V4.12");
 }
 
-TEST(ProcessorName, isEmptyWhereTheKernelTellsNone) {
+TEST(ProcessorName, isEmptyWithoutAKnownKey) {
     EXPECT_EQ(processorName("processor\t: 0\nBogoMIPS\t: 50.00\nCPU part\t: 0xd0c\n"), "");
     EXPECT_EQ(processorName("model name\t:\n"), "");
 }
 
-TEST(ChipOfDeviceTree, isThePartNumberOfTheLastEntry) {
+TEST(ChipOfDeviceTree, usesPartNumberOfTheLastEntry) {
     EXPECT_EQ(chipOfDeviceTree("raspberrypi,4-model-b\0brcm,bcm2711\0"sv), "bcm2711");
     EXPECT_EQ(chipOfDeviceTree("apple,j293\0apple,t8103\0apple,arm-platform\0"sv), "arm-platform");
     EXPECT_EQ(chipOfDeviceTree("linux,dummy-virt\0"sv), "dummy-virt");
@@ -128,7 +128,7 @@ TEST(ChipOfDeviceTree, isThePartNumberOfTheLastEntry) {
     EXPECT_EQ(chipOfDeviceTree("\0\0"sv), "");
 }
 
-TEST(SystemName, isThePrettyNameWithoutItsCodeName) {
+TEST(SystemName, dropsCodeNameFromPrettyName) {
     EXPECT_EQ(
         systemName("PRETTY_NAME=\"Debian GNU/Linux 12 (bookworm)\"\nNAME=\"Debian GNU/Linux\"\nVERSION_ID=\"12\"\n"),
         "Debian GNU/Linux 12");
@@ -143,7 +143,7 @@ TEST(SystemName, fallsBackToNameAndVersion) {
     EXPECT_EQ(systemName("VERSION_ID=3\n"), "");
 }
 
-TEST(KernelVersionText, showsThePatchLevelOnlyFromOneUp) {
+TEST(KernelVersionText, omitsPatchLevelZero) {
     EXPECT_EQ(kernelVersionText("6.1.5-7-amd64\n"), "Linux 6.1.5");
     EXPECT_EQ(kernelVersionText("6.1.0-18-amd64\n"), "Linux 6.1");
     EXPECT_EQ(kernelVersionText("6.18-rc1"), "Linux 6.18");
@@ -187,7 +187,7 @@ Hugetlb:            2048 kB
 DirectMap4k:       26624 kB
 )";
 
-TEST(MemoryField, isInBytesAndExactlyTheOneAskedFor) {
+TEST(MemoryField, returnsBytesOfTheExactField) {
     EXPECT_EQ(memoryField(capturedMeminfo, "MemTotal"), 24684084ULL * 1024);
     EXPECT_EQ(memoryField(capturedMeminfo, "Zswap"), 4000ULL * 1024);
     EXPECT_FALSE(memoryField(capturedMeminfo, "Mem").has_value());
@@ -197,25 +197,25 @@ TEST(MemoryField, isInBytesAndExactlyTheOneAskedFor) {
     EXPECT_FALSE(memoryField("MemTotal: 1125899906842625 kB", "MemTotal").has_value()) << "beyond any machine";
 }
 
-TEST(MemoryCounts, inactiveAnonymousMemoryIsInUse) {
+TEST(MemoryCounts, countsInactiveAnonymousMemoryAsActive) {
     const auto counts = memoryCounts(capturedMeminfo, 0);
     ASSERT_TRUE(counts.has_value());
     EXPECT_EQ(counts->active, 1076U + 1198820U);
 }
 
-TEST(MemoryCounts, whatTheKernelCannotGiveUpIsWired) {
+TEST(MemoryCounts, countsUnreclaimableKernelMemoryAsWired) {
     const auto counts = memoryCounts(capturedMeminfo, 0);
     ASSERT_TRUE(counts.has_value());
     EXPECT_EQ(counts->wired, 20100U + 2048U + 44524U + 1904U + 5640U + 8U + 664U);
 }
 
-TEST(MemoryCounts, compressedIsWhatZswapAndZramTake) {
+TEST(MemoryCounts, countsZswapAndZramAsCompressed) {
     const auto counts = memoryCounts(capturedMeminfo, 3 * 1024 * 1024);
     ASSERT_TRUE(counts.has_value());
     EXPECT_EQ(counts->compressor, 4000U + 3U * 1024U);
 }
 
-TEST(MemoryCounts, fieldsThatAnOldKernelLacksCountNothing) {
+TEST(MemoryCounts, missingFieldsCountZero) {
     const auto counts = memoryCounts("Active(anon): 5 kB\nInactive(anon): 6 kB\n", 0);
     ASSERT_TRUE(counts.has_value());
     EXPECT_EQ(counts->active, 11U);
@@ -228,13 +228,13 @@ TEST(MemoryCounts, areAbsentWithoutAnonymousMemory) {
     EXPECT_FALSE(memoryCounts("MemTotal: 5 kB\nActive(anon): 5 kB\n", 0).has_value());
 }
 
-TEST(MemoryCounts, whatCanBeHadAtOnceIsFree) {
+TEST(MemoryCounts, countsReclaimableMemoryAsFree) {
     const std::uint64_t total = *memoryField(capturedMeminfo, "MemTotal");
     const MemoryStats stats = memoryFromPages(total, meminfoUnit, memoryCounts(capturedMeminfo, 0));
     EXPECT_EQ(stats.free, total - (1076 + 1198820 + 20100 + 2048 + 44524 + 1904 + 5640 + 8 + 664 + 4000) * 1024ULL);
 }
 
-TEST(MemoryCounts, theLargestFieldsDoNotOverflow) {
+TEST(MemoryCounts, largestFieldsDoNotOverflow) {
     std::string text;
     for (const char* field : {"Active(anon)", "Inactive(anon)", "Unevictable", "Hugetlb", "SUnreclaim", "KernelStack",
                               "PageTables", "SecPageTables", "Percpu", "Zswap"})
@@ -242,30 +242,30 @@ TEST(MemoryCounts, theLargestFieldsDoNotOverflow) {
     EXPECT_EQ(memoryFromPages(1000, meminfoUnit, memoryCounts(text, 0)).used, 1000U);
 }
 
-TEST(ZramMemory, isTheThirdFigure) {
+TEST(ZramMemory, usesTheThirdColumn) {
     EXPECT_EQ(zramMemory("  40960  8192  12288  0  16384  0  0  0  0\n"), 12288U);
     EXPECT_EQ(zramMemory("1 2"), 0U);
     EXPECT_EQ(zramMemory("1 2 x"), 0U);
     EXPECT_EQ(zramMemory("1 2 18446744073709551615"), 0U);
 }
 
-TEST(ProcessorTicks, interruptsAndStolenTimeAreSystemAndWaitingIsIdle) {
+TEST(ProcessorTicks, countsInterruptsAsSystemAndIoWaitAsIdle) {
     const auto ticks = processorTicks("cpu  100 20 30 4000 500 6 7 8 9 10\ncpu0 1 2 3 4 5 6 7 8 9 10\nintr 5\n");
     EXPECT_EQ(ticks, (CPUTicks{100, 30 + 6 + 7 + 8, 4000 + 500, 20}));
 }
 
-TEST(ProcessorTicks, anOldKernelsFourFiguresAreEnough) {
+TEST(ProcessorTicks, acceptsFourColumns) {
     EXPECT_EQ(processorTicks("cpu 1 2 3 4\n"), (CPUTicks{1, 3, 4, 2}));
 }
 
-TEST(ProcessorTicks, areAbsentWithoutTheSumOfAllProcessors) {
+TEST(ProcessorTicks, areAbsentWithoutTotalLine) {
     EXPECT_FALSE(processorTicks("cpu0 1 2 3 4\n").has_value());
     EXPECT_FALSE(processorTicks("cpu 1 2 3\n").has_value());
     EXPECT_FALSE(processorTicks("cpu 1 2 -3 4\n").has_value());
     EXPECT_FALSE(processorTicks("").has_value());
 }
 
-TEST(UptimeSeconds, isTheFirstFigureWithItsFraction) {
+TEST(UptimeSeconds, parsesTheFirstNumberWithFraction) {
     EXPECT_DOUBLE_EQ(uptimeSeconds("1540.32 2357.02\n").value(), 1540.32);
     EXPECT_DOUBLE_EQ(uptimeSeconds("12\n").value(), 12);
     for (const char* text : {"", "\n", "-1.5", "a", "1.x", ".5", "99999999999.0"})
@@ -276,7 +276,7 @@ TEST(VolumeOfBlocks, multipliesBlocksByTheirSize) {
     EXPECT_EQ(volumeOfBlocks(4096, 1000, 250), (VolumeInfo{4096000, 1024000, 1024000}));
 }
 
-TEST(VolumeOfBlocks, aVolumeBeyondSignedCountsIsCutOff) {
+TEST(VolumeOfBlocks, saturatesAtTheLargestSignedCount) {
     constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
     constexpr std::uint64_t largest = std::numeric_limits<std::uint64_t>::max();
     EXPECT_EQ(volumeOfBlocks(4096, largest, 1), (VolumeInfo{most, 4096, 4096}));

@@ -46,7 +46,7 @@ struct SlowToGo {
     }
 };
 
-TEST(Thread, knowsItsFullName) {
+TEST(Thread, keepsItsFullName) {
     const auto name = [] { return currentThreadName(); };
     const std::string longer = "zelk.scan.worker.1234567890 and more\xC3\xA9";
     EXPECT_EQ(onThread("zelk.scan.worker.0", stackBytes, name), "zelk.scan.worker.0");
@@ -54,7 +54,7 @@ TEST(Thread, knowsItsFullName) {
     EXPECT_EQ(onThread("", stackBytes, name), "");
 }
 
-TEST(Thread, nameIsOfThatThreadOnly) {
+TEST(Thread, nameBelongsToOneThread) {
     EXPECT_EQ(currentThreadName(), "");
     std::latch both(2);
     std::string other;
@@ -75,7 +75,7 @@ TEST(Thread, nameIsOfThatThreadOnly) {
 
 #ifdef __linux__
 
-TEST(Thread, kernelShowsTheFirstFifteenCharacters) {
+TEST(Thread, kernelNameIsTruncatedToFifteenCharacters) {
     const auto shown = [] { return fakes::fileContent("/proc/thread-self/comm"); };
     EXPECT_EQ(onThread("zelk.scan.worker.0", stackBytes, shown), "zelk.scan.worke\n");
     EXPECT_EQ(onThread("exactly fifteen", stackBytes, shown), "exactly fifteen\n");
@@ -83,7 +83,7 @@ TEST(Thread, kernelShowsTheFirstFifteenCharacters) {
     EXPECT_EQ(onThread("short", stackBytes, shown), "short\n");
 }
 
-TEST(Thread, isDetachedAndHasTheStackThatWasAskedFor) {
+TEST(Thread, isDetachedWithTheGivenStackSize) {
     struct Attributes {
         std::size_t stack = 0;
         int detached = -1;
@@ -113,17 +113,17 @@ __attribute__((noinline)) std::size_t useStack() {
     return static_cast<std::size_t>(frame[0]) + static_cast<std::size_t>(frame[6 << 20]);
 }
 
-TEST(Thread, stackCanBeUsedWhole) {
+TEST(Thread, canUseItsWholeStack) {
     EXPECT_EQ(onThread("stack", stackBytes, useStack), 2u);
 }
 
-TEST(Thread, anyStackSizeGivesAThread) {
+TEST(Thread, acceptsAnyStackSize) {
     for (const std::size_t size : {std::size_t{0}, std::size_t{1}, stackBytes - 1, stackBytes + 1}) {
         EXPECT_TRUE(onThread("odd", size, [] { return true; })) << size;
     }
 }
 
-TEST(Thread, thatCannotBeMadeThrowsAndIsNotWaitedFor) {
+TEST(Thread, failureToStartThrowsAndIsNotDrained) {
     const auto owned = std::make_shared<int>(1);
     bool ran = false;
     EXPECT_THROW(startThread("vast", std::size_t{1} << 56, [&ran, owned] { ran = true; }), std::system_error);
@@ -133,12 +133,12 @@ TEST(Thread, thatCannotBeMadeThrowsAndIsNotWaitedFor) {
     EXPECT_EQ(currentThreadName(), "");
 }
 
-TEST(DrainThreads, withoutAnyIsTrueAtOnce) {
+TEST(DrainThreads, returnsAtOnceWithoutThreads) {
     EXPECT_TRUE(drainThreads(0));
     EXPECT_TRUE(drainThreads(-1));
 }
 
-TEST(DrainThreads, isFalseWhileAThreadRunsAndTrueOnceItHasEnded) {
+TEST(DrainThreads, returnsFalseWhileAThreadRuns) {
     std::latch go(1);
     startThread("waiting", stackBytes, [&] { go.wait(); });
     EXPECT_FALSE(drainThreads(0));
@@ -149,7 +149,7 @@ TEST(DrainThreads, isFalseWhileAThreadRunsAndTrueOnceItHasEnded) {
     EXPECT_TRUE(drainThreads(0));
 }
 
-TEST(DrainThreads, waitsUntilWhatTheBodyHeldIsGoneToo) {
+TEST(DrainThreads, waitsForReleaseOfTheBody) {
     std::latch ran(1);
     std::latch mayGo(1);
     std::atomic<bool> gone = false;
@@ -164,7 +164,7 @@ TEST(DrainThreads, waitsUntilWhatTheBodyHeldIsGoneToo) {
     EXPECT_TRUE(gone);
 }
 
-TEST(DrainThreads, waitsForThreadsThatThreadsStart) {
+TEST(DrainThreads, waitsForNestedThreads) {
     std::atomic<int> ended = 0;
     std::function<void(int)> chain = [&](int left) {
         if (left > 0) startThread("link", 1 << 20, [&chain, left] { chain(left - 1); });
@@ -175,7 +175,7 @@ TEST(DrainThreads, waitsForThreadsThatThreadsStart) {
     EXPECT_EQ(ended, 51);
 }
 
-TEST(DrainThreads, waitsHoweverLongTheTimeGiven) {
+TEST(DrainThreads, acceptsVeryLongTimeouts) {
     for (const double seconds : {1e10, 1e19, 1e300, std::numeric_limits<double>::infinity()}) {
         std::atomic<bool> ended = false;
         startThread("yielding", stackBytes, [&] {
@@ -188,7 +188,7 @@ TEST(DrainThreads, waitsHoweverLongTheTimeGiven) {
     }
 }
 
-TEST(DrainThreads, manyThreadsAreAllWaitedFor) {
+TEST(DrainThreads, waitsForManyThreads) {
     std::atomic<int> ended = 0;
     for (int number = 0; number < 200; ++number) startThread("one of many", 1 << 18, [&] { ++ended; });
     EXPECT_TRUE(drainThreads(drainSeconds));

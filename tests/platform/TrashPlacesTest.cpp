@@ -8,7 +8,7 @@ namespace {
 
 const TrashPlaces trashes({"/home/me/Trash/files", "/data/Trash/files"}, {"/.Trash/7/files", "/.Trash-7/files"});
 
-TEST(TrashPlaces, areWhereTheirPathSays) {
+TEST(TrashPlaces, matchWholePaths) {
     EXPECT_TRUE(trashes.areAt("/home/me/Trash/files"));
     EXPECT_TRUE(trashes.areAt("/data/Trash/files"));
     for (const char* path : {"", "/", "/home/me/Trash", "/home/me/Trash/files/a", "/home/me/Trash/files2",
@@ -16,7 +16,7 @@ TEST(TrashPlaces, areWhereTheirPathSays) {
         EXPECT_FALSE(trashes.areAt(path)) << path;
 }
 
-TEST(TrashPlaces, areOnAnyVolumeWhereTheEndOfTheirPathSays) {
+TEST(TrashPlaces, matchPathEndingsOnAnyVolume) {
     EXPECT_TRUE(trashes.areAt("/.Trash-7/files"));
     EXPECT_TRUE(trashes.areAt("/media/me/my stick/.Trash-7/files"));
     EXPECT_TRUE(trashes.areAt("/media/me/my stick/.Trash/7/files"));
@@ -26,7 +26,7 @@ TEST(TrashPlaces, areOnAnyVolumeWhereTheEndOfTheirPathSays) {
         EXPECT_FALSE(trashes.areAt(path)) << path;
 }
 
-TEST(TrashPlaces, holdWhatLiesInThemHoweverDeep) {
+TEST(TrashPlaces, holdDescendantsAtAnyDepth) {
     for (const char* path : {"/home/me/Trash/files", "/home/me/Trash/files/a", "/home/me/Trash/files/a/b/c",
                              "/data/Trash/files/x", "/media/.Trash-7/files/a/b", "/.Trash/7/files/files"})
         EXPECT_TRUE(trashes.hold(path)) << path;
@@ -35,13 +35,13 @@ TEST(TrashPlaces, holdWhatLiesInThemHoweverDeep) {
         EXPECT_FALSE(trashes.hold(path)) << path;
 }
 
-TEST(TrashPlaces, holdAFolderThatIsNamedWithASlashAtItsEnd) {
+TEST(TrashPlaces, holdIgnoresTrailingSlash) {
     EXPECT_TRUE(trashes.hold("/home/me/Trash/files/"));
     EXPECT_TRUE(trashes.hold("/media/.Trash-7/files//"));
     EXPECT_FALSE(trashes.hold("/home/me/Trash/"));
 }
 
-TEST(TrashPlaces, areNowhereUntilTheyAreTold) {
+TEST(TrashPlaces, defaultMatchesNothing) {
     for (const char* path : {"", "/", "/home/me/.Trash", "/home/me/.local/share/Trash/files/a"}) {
         EXPECT_FALSE(TrashPlaces().areAt(path)) << path;
         EXPECT_FALSE(TrashPlaces().hold(path)) << path;

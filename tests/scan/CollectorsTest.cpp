@@ -17,13 +17,13 @@ void offer(TopFilesCollector& collector, std::int64_t size, const std::string& p
     collector.offer([&] { return path; }, size, 0, FileType::other);
 }
 
-TEST(InodeDeduper, aFileIsNewOnce) {
+TEST(InodeDeduper, reportsEachFileAsNewOnce) {
     InodeDeduper deduper;
     EXPECT_TRUE(deduper.insertIfNew(1, 42));
     EXPECT_FALSE(deduper.insertIfNew(1, 42));
 }
 
-TEST(InodeDeduper, oneInodeOnTwoDevicesIsTwoFilesInOneShard) {
+TEST(InodeDeduper, distinguishesDevicesWithinAShard) {
     InodeDeduper deduper;
     EXPECT_TRUE(deduper.insertIfNew(1, 42));
     EXPECT_TRUE(deduper.insertIfNew(2, 42));
@@ -33,7 +33,7 @@ TEST(InodeDeduper, oneInodeOnTwoDevicesIsTwoFilesInOneShard) {
     EXPECT_EQ(InodeDeduper::shardIndex(~0ULL), 15U);
 }
 
-TEST(InodeDeduper, manyThreadsAgreeOnTheFirst) {
+TEST(InodeDeduper, concurrentThreadsAgreeOnTheFirst) {
     InodeDeduper deduper;
     std::atomic<int> first{0};
     std::vector<std::thread> threads;
@@ -46,7 +46,7 @@ TEST(InodeDeduper, manyThreadsAgreeOnTheFirst) {
     EXPECT_EQ(first, 2000);
 }
 
-TEST(TopFiles, aLargerFileTakesThePlaceOfTheEarliestSmallest) {
+TEST(TopFiles, largerFileReplacesTheEarliestSmallest) {
     TopFilesCollector collector;
     for (int i = 0; i < 250; ++i) offer(collector, 1, "small" + std::to_string(i));
     offer(collector, 2, "large");
@@ -58,7 +58,7 @@ TEST(TopFiles, aLargerFileTakesThePlaceOfTheEarliestSmallest) {
     EXPECT_EQ(collector.threshold(), 1);
 }
 
-TEST(TopFiles, anOfferEqualToTheThresholdOfAFullListIsRefused) {
+TEST(TopFiles, fullListRefusesFileEqualToTheThreshold) {
     TopFilesCollector collector;
     for (int i = 0; i < 250; ++i) offer(collector, 5);
     EXPECT_FALSE(collector.mayTake(5));
@@ -67,7 +67,7 @@ TEST(TopFiles, anOfferEqualToTheThresholdOfAFullListIsRefused) {
     EXPECT_TRUE(collector.mayTake(6));
 }
 
-TEST(TopFiles, theOfferThatFillsTheListSetsTheThreshold) {
+TEST(TopFiles, fillingTheListSetsTheThreshold) {
     TopFilesCollector collector;
     for (int i = 0; i < 249; ++i) offer(collector, 10 + i);
     EXPECT_EQ(collector.threshold(), 0);
@@ -76,7 +76,7 @@ TEST(TopFiles, theOfferThatFillsTheListSetsTheThreshold) {
     EXPECT_EQ(collector.threshold(), 7);
 }
 
-TEST(TopFiles, keepsTheLargestOfManyOffersFromManyThreads) {
+TEST(TopFiles, keepsTheLargestOffersOfConcurrentThreads) {
     TopFilesCollector collector;
     std::vector<std::thread> threads;
     for (int t = 0; t < 4; ++t) {
@@ -94,12 +94,12 @@ TEST(TopFiles, keepsTheLargestOfManyOffersFromManyThreads) {
     for (std::size_t i = 0; i < items.size(); ++i) EXPECT_EQ(items[i].size, 8000 - static_cast<std::int64_t>(i));
 }
 
-TEST(ScanCounters, theDirectoryItselfCountsTowardsAnEmission) {
+TEST(ScanCounters, directoryCountsTowardsAnUpdate) {
     EXPECT_TRUE(ScanCounters().recordDirectory(19'999, 0));
     EXPECT_FALSE(ScanCounters().recordDirectory(19'998, 0));
 }
 
-TEST(ScanCounters, aVeryLargeDirectoryCausesOneEmission) {
+TEST(ScanCounters, veryLargeDirectoryCausesOneUpdate) {
     ScanCounters counters;
     EXPECT_TRUE(counters.recordDirectory(50'000, 5));
     EXPECT_FALSE(counters.recordDirectory(19'998, 5)) << "the count starts afresh behind an emission";
@@ -109,7 +109,7 @@ TEST(ScanCounters, aVeryLargeDirectoryCausesOneEmission) {
     EXPECT_EQ(counters.counts().bytes, 10);
 }
 
-TEST(ScanCounters, aBlockedDirectoryIsCountedApart) {
+TEST(ScanCounters, countsBlockedDirectoriesSeparately) {
     ScanCounters counters;
     counters.recordBlocked();
     EXPECT_EQ(counters.counts().blocked, 1);
@@ -117,7 +117,7 @@ TEST(ScanCounters, aBlockedDirectoryIsCountedApart) {
     EXPECT_FALSE(counters.recordDirectory(19'998, 0)) << "it must not count towards an emission";
 }
 
-TEST(TypeAggregator, addsUpByType) {
+TEST(TypeAggregator, sumsByType) {
     TypeAggregator aggregator;
     TypeTotals directory;
     directory[FileType::video] = {10, 1};
@@ -130,7 +130,7 @@ TEST(TypeAggregator, addsUpByType) {
     EXPECT_FALSE(aggregator.totals().contains(FileType::audio));
 }
 
-TEST(DiskImages, keepsAllInOrderOfArrival) {
+TEST(DiskImages, keepAllInOrderOfArrival) {
     DiskImageCollector collector;
     for (int i = 0; i < 300; ++i) collector.append({std::to_string(i), i, 0, FileType::diskImage});
     ASSERT_EQ(collector.items().size(), 300U);

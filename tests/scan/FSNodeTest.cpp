@@ -17,7 +17,7 @@ struct Tree {
     explicit Tree(std::string_view rootPath) : root(FSNode::make(rootPath, 2)) { top->append(root); }
 };
 
-TEST(FSNode, holdsWhatItWasMadeWith) {
+TEST(FSNode, storesItsInitialValues) {
     const NodeRef node = FSNode::make("a name\xFF", 12.5);
     EXPECT_EQ(node->name(), "a name\xFF");
     EXPECT_EQ(node->lastModified, 12.5);
@@ -30,33 +30,33 @@ TEST(FSNode, holdsWhatItWasMadeWith) {
     EXPECT_TRUE(node->children.empty());
 }
 
-TEST(FSNode, thePathOfAScanRootIsItsName) {
+TEST(FSNode, pathOfAScanRootIsItsName) {
     EXPECT_EQ(Tree("/home/a").root->fullPath(), "/home/a");
 }
 
-TEST(FSNode, aChildOfTheRootFolderHasOneSlash) {
+TEST(FSNode, childOfSlashHasOneSlash) {
     const Tree tree("/");
     EXPECT_EQ(tree.root->append(FSNode::make("usr", 0)).fullPath(), "/usr");
     EXPECT_EQ(tree.root->children[0]->append(FSNode::make("bin", 0)).fullPath(), "/usr/bin");
 }
 
-TEST(FSNode, aRootWithASlashAtItsEndKeepsIt) {
+TEST(FSNode, rootKeepsTrailingSlash) {
     const Tree tree("/home/a/");
     EXPECT_EQ(tree.root->append(FSNode::make("b", 0)).fullPath(), "/home/a/b");
 }
 
-TEST(FSNode, thePathOfTheSyntheticTopIsEmpty) {
+TEST(FSNode, pathOfTheSyntheticTopIsEmpty) {
     EXPECT_EQ(Tree("/x").top->fullPath(), "");
 }
 
-TEST(FSNode, thePathGoesIntoAReusedBuffer) {
+TEST(FSNode, pathReusesTheBuffer) {
     const Tree tree("/home");
     std::string path = "something much longer that stood there before";
     tree.root->append(FSNode::make("a", 0)).fullPath(path);
     EXPECT_EQ(path, "/home/a");
 }
 
-TEST(FSNode, withoutItsParentThePathIsTheBareName) {
+TEST(FSNode, pathWithoutParentIsTheName) {
     NodeRef child;
     {
         const Tree tree("/home");
@@ -69,7 +69,7 @@ TEST(FSNode, withoutItsParentThePathIsTheBareName) {
     EXPECT_EQ(child->children[0]->fullPath(), "a/b");
 }
 
-TEST(FSNode, aNodeTakenOutStillKnowsItsPath) {
+TEST(FSNode, removedNodeKeepsItsPath) {
     Tree tree("/home");
     const NodeRef child(&tree.root->append(FSNode::make("a", 0)));
     const NodeRef grandchild(&child->append(FSNode::make("b", 0)));
@@ -82,7 +82,7 @@ TEST(FSNode, aNodeTakenOutStillKnowsItsPath) {
     EXPECT_EQ(child->fullPath(), "/home/a") << "it keeps the folder that it was taken from";
 }
 
-TEST(FSNode, takingOutWhatIsNotThereChangesNothing) {
+TEST(FSNode, removingAForeignNodeChangesNothing) {
     const Tree tree("/home");
     const NodeRef stranger = FSNode::make("a", 0);
     tree.root->append(FSNode::make("a", 0));
@@ -91,7 +91,7 @@ TEST(FSNode, takingOutWhatIsNotThereChangesNothing) {
     EXPECT_EQ(stranger->parent(), nullptr);
 }
 
-TEST(FSNode, aChainOfFiftyThousandIsReleasedAndNamedWithoutRecursion) {
+TEST(FSNode, releasesAndNamesFiftyThousandLevelsWithoutRecursion) {
     NodeRef top = FSNode::make("", 0);
     FSNode* at = &top->append(FSNode::make("/r", 0));
     for (int i = 0; i < 50'000; ++i) at = &at->append(FSNode::make("d", 0));
@@ -103,7 +103,7 @@ TEST(FSNode, aChainOfFiftyThousandIsReleasedAndNamedWithoutRecursion) {
     std::thread([released = std::exchange(top, nullptr)]() mutable { released = nullptr; }).join();
 }
 
-TEST(NodeRef, referencesMayBeTakenAndDroppedOnManyThreads) {
+TEST(NodeRef, countsReferencesAcrossThreads) {
     const NodeRef node = FSNode::make("shared", 0);
     std::vector<std::thread> threads;
     for (int t = 0; t < 4; ++t) {
@@ -119,7 +119,7 @@ TEST(NodeRef, referencesMayBeTakenAndDroppedOnManyThreads) {
     EXPECT_EQ(node->name(), "shared");
 }
 
-TEST(RollUp, sizeIsOwnFilesPlusTheChildren) {
+TEST(RollUp, sumsOwnFilesAndChildren) {
     const Tree tree("/r");
     tree.root->ownFileBytes = 1;
     FSNode& a = tree.root->append(FSNode::make("a", 0));
@@ -136,7 +136,7 @@ TEST(RollUp, sizeIsOwnFilesPlusTheChildren) {
     EXPECT_EQ(rollUpSizes(*tree.top), 1111) << "a second roll-up must not add to the first";
 }
 
-TEST(RollUp, anEmptyTreeIsZero) {
+TEST(RollUp, emptyTreeIsZero) {
     EXPECT_EQ(rollUpSizes(*FSNode::make("", 0)), 0);
 }
 

@@ -28,7 +28,7 @@ std::string upperCase(std::string text) {
     return text;
 }
 
-TEST(FileType, knowsEveryExtensionInEitherCase) {
+TEST(FileType, classifiesEveryExtensionInAnyCase) {
     std::size_t rows = 0;
     for (const auto& [type, extensions] : extensionsOfTypes) {
         for (const std::string& extension : extensions) {
@@ -41,7 +41,7 @@ TEST(FileType, knowsEveryExtensionInEitherCase) {
     EXPECT_EQ(rows, 75U);
 }
 
-TEST(FileType, rawValuesAreTheCaseNamesInOrder) {
+TEST(FileType, rawValuesAreTheEnumeratorNames) {
     const std::vector<std::string> names{"video", "audio", "image", "archive", "diskImage", "document", "other"};
     ASSERT_EQ(allFileTypes.size(), names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -50,29 +50,29 @@ TEST(FileType, rawValuesAreTheCaseNamesInOrder) {
     }
 }
 
-TEST(FileType, anUnknownRawValueIsNoType) {
+TEST(FileType, rejectsUnknownRawValue) {
     for (const char* text : {"", "Video", "disk image", "others"}) EXPECT_FALSE(fileTypeFromRawValue(text)) << text;
 }
 
-TEST(FileExtension, isWhatStandsBehindTheLastDotInLowerCase) {
+TEST(FileExtension, isLowerCasedAfterTheLastDot) {
     EXPECT_EQ(fileExtension("archive.tar.GZ"), "gz");
     EXPECT_EQ(fileExtension(".tar.gz"), "gz");
     EXPECT_EQ(fileExtension("a.b c"), "b c");
 }
 
-TEST(FileExtension, isEmptyWithoutADotBehindAName) {
+TEST(FileExtension, isEmptyWithoutADotAfterAName) {
     for (const char* name : {"", "name", ".zshrc", ".png", "name.", ".", "..", "a.."})
         EXPECT_EQ(fileExtension(name), "") << name;
 }
 
-TEST(FileType, aLeadingDotMakesNoExtension) {
+TEST(FileType, leadingDotIsNotAnExtension) {
     EXPECT_EQ(classifyName(".png").type, FileType::other);
     EXPECT_EQ(classifyName("a.PNG").type, FileType::image);
     EXPECT_EQ(classifyName("archive.tar.gz").type, FileType::archive);
     EXPECT_EQ(classifyName("name.").type, FileType::other);
 }
 
-TEST(FileType, listsOfDiskImagesAndOfTheirTypeDifferOnPurpose) {
+TEST(FileType, diskImageListDiffersFromDiskImageType) {
     const std::set<std::string> listed{"dmg", "iso", "img", "qcow2", "vmdk", "vdi", "raw", "sparseimage"};
     for (const std::string& extension : listed) {
         EXPECT_TRUE(classifyName("a." + extension).canBeDiskImage) << extension;
@@ -91,22 +91,22 @@ TEST(FileType, listsOfDiskImagesAndOfTheirTypeDifferOnPurpose) {
     }
 }
 
-TEST(FileType, foreignLettersAndBytesAreOther) {
+TEST(FileType, nonAsciiExtensionsAreOther) {
     for (const char* name : {"a.m\xC3\xA9", "a.\xFF\xFE", "a.p\0ng", "a.\xC4\xB0so"})
         EXPECT_EQ(classifyName(name).type, FileType::other) << name;
 }
 
-TEST(FileType, theKelvinSignIsAK) {
+TEST(FileType, kelvinSignIsK) {
     EXPECT_EQ(fileExtension("film.M\xE2\x84\xAAV"), "mkv");
     EXPECT_EQ(classifyName("film.M\xE2\x84\xAAV").type, FileType::video);
 }
 
-TEST(FileType, aVeryLongExtensionIsOther) {
+TEST(FileType, veryLongExtensionIsOther) {
     EXPECT_EQ(classifyName("a." + std::string(250, 'x')).type, FileType::other);
     EXPECT_EQ(classifyName("a." + std::string(200, '\xE2')).type, FileType::other);
 }
 
-TEST(TypeTotals, aTypeWithoutFilesIsNotInIt) {
+TEST(TypeTotals, doesNotContainTypeWithoutFiles) {
     TypeTotals totals;
     EXPECT_TRUE(totals.empty());
     totals[FileType::audio].count = 1;

@@ -22,7 +22,7 @@ std::vector<std::string> pathsOf(const std::vector<NodeRef>& nodes) {
 
 }  // namespace
 
-TEST(FoldersAt, areFoundBelowTheirScanRoot) {
+TEST(FoldersAt, findsFoldersBelowTheirScanRoot) {
     const NodeRef top = folder("");
     FSNode& home = top->append(folder("/home/me"));
     FSNode& large = home.append(folder("large"));
@@ -35,7 +35,7 @@ TEST(FoldersAt, areFoundBelowTheirScanRoot) {
         EXPECT_THAT(foldersAt(*top, {path}), IsEmpty()) << path;
 }
 
-TEST(FoldersAt, areFoundBelowTheWholeDrive) {
+TEST(FoldersAt, findsFoldersBelowTheWholeDrive) {
     const NodeRef top = folder("");
     FSNode& drive = top->append(folder("/"));
     FSNode& data = drive.append(folder("data"));
@@ -43,7 +43,7 @@ TEST(FoldersAt, areFoundBelowTheWholeDrive) {
     EXPECT_THAT(foldersAt(*top, {"/data"}), ElementsAre(NodeRef(&data)));
 }
 
-TEST(FoldersAt, areFoundInEveryScanRootThatHoldsThem) {
+TEST(FoldersAt, findsFolderInEveryScanRootThatHoldsIt) {
     const NodeRef top = folder("");
     FSNode& inHome = top->append(folder("/home/me")).append(folder("projects"));
     FSNode& itself = top->append(folder("/home/me/projects"));
@@ -53,7 +53,7 @@ TEST(FoldersAt, areFoundInEveryScanRootThatHoldsThem) {
     EXPECT_EQ(foldersAt(*top, {"/home/me/projects/app"}).size(), 2U);
 }
 
-TEST(FoldersAt, ofTensOfThousandsOfSiblingsEachIsFoundAtOnce) {
+TEST(FoldersAt, findsFoldersAmongManySiblingsWithoutScanning) {
     const NodeRef top = folder("");
     FSNode& home = top->append(folder("/home/me"));
     std::set<std::string> paths;
@@ -65,7 +65,7 @@ TEST(FoldersAt, ofTensOfThousandsOfSiblingsEachIsFoundAtOnce) {
     EXPECT_EQ(std::set<std::string>(found.begin(), found.end()), paths);
 }
 
-TEST(FoldersAt, theRestBehindARootIsToldFromANameThatBeginsAlike) {
+TEST(FoldersAt, behindRootComparesWholeComponents) {
     EXPECT_EQ(behindRoot("/home/me", "/home/me/a/b"), "a/b");
     EXPECT_EQ(behindRoot("/home/me", "/home/me"), "");
     EXPECT_EQ(behindRoot("/", "/home"), "home");

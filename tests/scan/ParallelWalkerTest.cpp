@@ -20,7 +20,7 @@ using ParallelWalkerTest = ScanFixture;
 
 constexpr std::int64_t mb = 1'000'000;
 
-TEST_F(ParallelWalkerTest, everyDirectoryHoldsTheSumOfItsFiles) {
+TEST_F(ParallelWalkerTest, sumsFilesPerDirectory) {
     disk.file("/r/a.txt", 10);
     disk.file("/r/d/b.mp4", 20, 7.5);
     disk.file("/r/d/c", 30);
@@ -39,7 +39,7 @@ TEST_F(ParallelWalkerTest, everyDirectoryHoldsTheSumOfItsFiles) {
     EXPECT_EQ(result.insights.typeTotals[FileType::document], (TypeTally{10, 1}));
 }
 
-TEST_F(ParallelWalkerTest, childrenStandInTheOrderOfDelivery) {
+TEST_F(ParallelWalkerTest, keepsChildrenInOrderOfDelivery) {
     for (const char* name : {"m", "a", "z", "b"}) disk.directory(std::string("/r/") + name);
     const ScanResult result = scan({"/r"});
     std::string names;
@@ -47,7 +47,7 @@ TEST_F(ParallelWalkerTest, childrenStandInTheOrderOfDelivery) {
     EXPECT_EQ(names, "mazb");
 }
 
-TEST_F(ParallelWalkerTest, aRootWithATrailingSlashGivesPathsWithOne) {
+TEST_F(ParallelWalkerTest, rootWithTrailingSlashGivesSingleSlashes) {
     disk.file("/top.dmg", 60 * mb);
     disk.file("/d/in.dmg", 70 * mb);
     const ScanResult result = scan({"/"});
@@ -60,7 +60,7 @@ TEST_F(ParallelWalkerTest, aRootWithATrailingSlashGivesPathsWithOne) {
 
 // A directory at depth 5 is still taken from the stack; what is below it is walked by the thread that took it. Holding
 // two siblings at once shows which: only those that go through the stack can be visited by two threads.
-TEST_F(ParallelWalkerTest, directoriesDownToDepthFiveAreSharedOut) {
+TEST_F(ParallelWalkerTest, sharesDirectoriesDownToDepthFive) {
     disk.directory("/r/1/2/3/4/a");
     disk.directory("/r/1/2/3/4/b");
     disk.hold("/r/1/2/3/4/a");
@@ -74,7 +74,7 @@ TEST_F(ParallelWalkerTest, directoriesDownToDepthFiveAreSharedOut) {
     EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 7);
 }
 
-TEST_F(ParallelWalkerTest, directoriesFromDepthSixStayWithTheirThread) {
+TEST_F(ParallelWalkerTest, walksFromDepthSixOnOneThread) {
     disk.directory("/r/1/2/3/4/5/a");
     disk.directory("/r/1/2/3/4/5/b/c");
     disk.hold("/r/1/2/3/4/5/a");
@@ -88,7 +88,7 @@ TEST_F(ParallelWalkerTest, directoriesFromDepthSixStayWithTheirThread) {
     EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 9);
 }
 
-TEST_F(ParallelWalkerTest, aHardLinkCountsItsBytesOnceAndItsNameEveryTime) {
+TEST_F(ParallelWalkerTest, countsHardLinkBytesOnceAndEveryName) {
     disk.file("/r/a/x.iso", 10 * mb);
     disk.directory("/r/b");
     disk.hardLink("/r/b/x.iso", "/r/a/x.iso");
@@ -105,7 +105,7 @@ TEST_F(ParallelWalkerTest, aHardLinkCountsItsBytesOnceAndItsNameEveryTime) {
     EXPECT_EQ(result.insights.typeTotals[FileType::diskImage], (TypeTally{10 * mb, 2}));
 }
 
-TEST_F(ParallelWalkerTest, filesOfTwoDevicesAreTwoWhateverTheirNumbers) {
+TEST_F(ParallelWalkerTest, sameInodeOnTwoDevicesIsTwoFiles) {
     disk.device("/other", 7);
     for (const char* root : {"/own", "/other"}) {
         const std::string first = std::string(root) + "/first";
@@ -118,7 +118,7 @@ TEST_F(ParallelWalkerTest, filesOfTwoDevicesAreTwoWhateverTheirNumbers) {
     EXPECT_EQ(result.stats.filesScanned, 4);
 }
 
-TEST_F(ParallelWalkerTest, filesOfNoLinksAreFilesOfTheirOwn) {
+TEST_F(ParallelWalkerTest, filesWithoutLinkCountAreNotDeduplicated) {
     for (const char* name : {"/r/a", "/r/b", "/r/c"}) {
         disk.file(name, 10);
         disk.numbers(name, 0, 0);
@@ -126,7 +126,7 @@ TEST_F(ParallelWalkerTest, filesOfNoLinksAreFilesOfTheirOwn) {
     EXPECT_EQ(scan({"/r"}).stats.totalBytes, 30) << "a system that does not count links says 0";
 }
 
-TEST_F(ParallelWalkerTest, aLinkToADirectoryIsASmallFileAndNotEntered) {
+TEST_F(ParallelWalkerTest, doesNotEnterLinkToADirectory) {
     disk.file("/outside/big", 500);
     disk.symbolicLink("/r/link", 1, "/outside");
     const ScanResult result = scan({"/r"});
@@ -135,7 +135,7 @@ TEST_F(ParallelWalkerTest, aLinkToADirectoryIsASmallFileAndNotEntered) {
     EXPECT_EQ(disk.timesRead("/outside"), 0);
 }
 
-TEST_F(ParallelWalkerTest, aMountPointIsLeftOutWithoutATrace) {
+TEST_F(ParallelWalkerTest, omitsMountPoint) {
     disk.file("/r/f", 5);
     disk.device("/r/mount", 2);
     disk.file("/r/mount/f", 100);
@@ -147,7 +147,7 @@ TEST_F(ParallelWalkerTest, aMountPointIsLeftOutWithoutATrace) {
     EXPECT_EQ(disk.timesRead("/r/mount"), 0);
 }
 
-TEST_F(ParallelWalkerTest, aRootOnAnotherVolumeIsWalkedUnderItsOwnDevice) {
+TEST_F(ParallelWalkerTest, rootOnAnotherVolumeUsesItsOwnDevice) {
     disk.device("/r/mount", 2);
     disk.file("/r/mount/d/f", 100);
     const ScanResult result = scan({"/r", "/r/mount"});
@@ -155,7 +155,7 @@ TEST_F(ParallelWalkerTest, aRootOnAnotherVolumeIsWalkedUnderItsOwnDevice) {
     EXPECT_EQ(at(result, "/r/mount/d")->size, 100);
 }
 
-TEST_F(ParallelWalkerTest, anUnreadableDirectoryIsCountedOnceAndStaysEmpty) {
+TEST_F(ParallelWalkerTest, unreadableDirectoryIsCountedOnceAndEmpty) {
     disk.file("/r/f", 5);
     disk.file("/r/shut/f", 100);
     disk.unreadable("/r/shut");
@@ -173,7 +173,7 @@ TEST_F(ParallelWalkerTest, anUnreadableDirectoryIsCountedOnceAndStaysEmpty) {
     EXPECT_TRUE(shut->children.empty());
 }
 
-TEST_F(ParallelWalkerTest, allSeedsUnreadable) {
+TEST_F(ParallelWalkerTest, endsWhenAllSeedsAreUnreadable) {
     disk.directory("/a");
     disk.directory("/b");
     disk.unreadable("/a");
@@ -185,7 +185,7 @@ TEST_F(ParallelWalkerTest, allSeedsUnreadable) {
     EXPECT_TRUE(result.top->children[0]->children.empty());
 }
 
-TEST_F(ParallelWalkerTest, oneWorkerFindsWhatManyFind) {
+TEST_F(ParallelWalkerTest, oneWorkerFindsTheSameAsMany) {
     for (int i = 0; i < 200; ++i) {
         const std::string folder = "/r/" + std::to_string(i % 7) + "/" + std::to_string(i % 13) + "/deep/er/and/deeper";
         disk.file(folder + "/f" + std::to_string(i) + ".mp3", static_cast<std::uint64_t>(i));
@@ -202,7 +202,7 @@ TEST_F(ParallelWalkerTest, oneWorkerFindsWhatManyFind) {
     EXPECT_EQ(one.insights.topFiles.size(), eight.insights.topFiles.size());
 }
 
-TEST_F(ParallelWalkerTest, emptyFilesReachNoList) {
+TEST_F(ParallelWalkerTest, listsNoEmptyFiles) {
     disk.file("/r/a.dmg", 0);
     disk.file("/r/b", 1);
     const ScanResult result = scan({"/r"});
@@ -211,7 +211,7 @@ TEST_F(ParallelWalkerTest, emptyFilesReachNoList) {
     EXPECT_EQ(result.stats.filesScanned, 2);
 }
 
-TEST_F(ParallelWalkerTest, aRawImageIsAPhotoInTheTalliesAndADiskImageInTheList) {
+TEST_F(ParallelWalkerTest, rawImageIsTalliedAsImageAndListedAsDiskImage) {
     disk.file("/r/photo.raw", 60 * mb, 3.5);
     disk.file("/r/small.dmg", 50 * mb - 1);
     disk.file("/r/just.dmg", 50 * mb);
@@ -223,13 +223,13 @@ TEST_F(ParallelWalkerTest, aRawImageIsAPhotoInTheTalliesAndADiskImageInTheList) 
     EXPECT_EQ(result.insights.topFiles[0].type, FileType::image);
 }
 
-TEST_F(ParallelWalkerTest, namesAreBytes) {
+TEST_F(ParallelWalkerTest, keepsNamesThatAreNotUtf8) {
     disk.file("/r/\xFF\xFE/\n\x01.png", 9);
     const ScanResult result = scan({"/r"});
     EXPECT_EQ(result.insights.topFiles[0].path, "/r/\xFF\xFE/\n\x01.png");
 }
 
-TEST_F(ParallelWalkerTest, aChainOfFiftyThousandFoldersIsWalkedWhole) {
+TEST_F(ParallelWalkerTest, walksFiftyThousandNestedFolders) {
     disk.chain("/r", "d", 50'000, 2);
     const ScanResult result = scan({"/r"});
     EXPECT_EQ(result.stats.dirsScanned, 50'001);
@@ -238,7 +238,7 @@ TEST_F(ParallelWalkerTest, aChainOfFiftyThousandFoldersIsWalkedWhole) {
     EXPECT_EQ(result.stats.blockedPaths, 0);
 }
 
-TEST_F(ParallelWalkerTest, whatIsLostOnTheWayBackIsOpenedAnewFromTheRoot) {
+TEST_F(ParallelWalkerTest, reopensFromTheRootWhenTheWayBackIsLost) {
     const std::string deep = "/root/1/2/3/4/5/6/7";
     for (const char* name : {"/a/b", "/c", "/d"}) disk.file(deep + name + "/file", 100);
     for (const char* name : {"/8/e", "/8/f/g", "/8/h"}) disk.file(deep + name + "/file", 1'000);
@@ -253,7 +253,7 @@ TEST_F(ParallelWalkerTest, whatIsLostOnTheWayBackIsOpenedAnewFromTheRoot) {
     }
 }
 
-TEST_F(ParallelWalkerTest, progressComesEveryTwentyThousandItems) {
+TEST_F(ParallelWalkerTest, reportsProgressEveryTwentyThousandItems) {
     for (int d = 0; d < 5; ++d)
         for (int f = 0; f < 9'999; ++f) disk.file("/r/" + std::to_string(d) + "/" + std::to_string(f), 1);
     workers(1);
@@ -286,7 +286,7 @@ private:
     std::set<std::string> names_;
 };
 
-TEST(ParallelWalkerThreads, areNoMoreThanTheFileSystemHasReadersFor) {
+TEST(ParallelWalkerThreads, areLimitedByAvailableReaders) {
     class ThreeReaders : public NotingService {
     public:
         std::int64_t maximumReaders() override { return 3; }
@@ -323,7 +323,7 @@ TEST(ParallelWalkerThreads, areNamedByTheirNumber) {
 
 #ifdef __linux__
 
-TEST(ParallelWalkerThreads, leaveTheWalkToThemselvesThoughNotAllCouldBeMade) {
+TEST(ParallelWalkerThreads, finishTheWalkWhenSomeCannotStart) {
     setenv("ZELK_WORKERS", "3", 1);
     NotingService disk;
     disk.file("/r/a/f", 1);
@@ -365,7 +365,7 @@ private:
     }
 };
 
-TEST(ParallelWalkerThreads, haveStacksOfEightMebibytesAndSoHasTheScans) {
+TEST(ParallelWalkerThreads, haveStacksOfEightMebibytes) {
     static_assert(ParallelWalker::stackBytes == 8 << 20);
     setenv("ZELK_WORKERS", "1", 1);
     StackService disk;

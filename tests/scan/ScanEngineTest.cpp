@@ -15,7 +15,7 @@ namespace {
 
 using ScanEngineTest = ScanFixture;
 
-TEST_F(ScanEngineTest, closesWithInsightsThenFinished) {
+TEST_F(ScanEngineTest, endsWithInsightsThenFinished) {
     disk.file("/r/f", 1);
     const ScanResult result = scan({"/r"});
     EXPECT_EQ(result.order, "if");
@@ -33,7 +33,7 @@ private:
     double seconds_ = 1000;
 };
 
-TEST_F(ScanEngineTest, theDurationReachesFromTheBeginningToTheLastSum) {
+TEST_F(ScanEngineTest, durationIncludesTheRollUp) {
     disk.file("/r/f", 1);
     MovingClock moving;
     const auto queue = std::make_shared<UpdateQueue>();
@@ -43,14 +43,14 @@ TEST_F(ScanEngineTest, theDurationReachesFromTheBeginningToTheLastSum) {
     EXPECT_EQ(phases.rollUp, 1);
 }
 
-TEST_F(ScanEngineTest, theStatsTellWhetherTheScanWasCancelled) {
+TEST_F(ScanEngineTest, statsReportCancellation) {
     CancelFlag cancel;
     EXPECT_FALSE(statsOf({}, 0, 0, {}, cancel).wasCancelled);
     cancel.set();
     EXPECT_TRUE(statsOf({}, 0, 0, {}, cancel).wasCancelled);
 }
 
-TEST_F(ScanEngineTest, theStatsHoldEveryFigureInItsPlace) {
+TEST_F(ScanEngineTest, statsHoldEveryCount) {
     const ScanCounters::Counts counts{.files = 1, .dirs = 2, .blocked = 3};
     const ScanStats stats = statsOf(counts, 4, 5, {"/r"}, CancelFlag());
     EXPECT_EQ(stats.filesScanned, 1);
@@ -61,7 +61,7 @@ TEST_F(ScanEngineTest, theStatsHoldEveryFigureInItsPlace) {
     EXPECT_EQ(stats.roots, std::vector<std::string>{"/r"});
 }
 
-TEST_F(ScanEngineTest, blockedComesFirstAndOnlyWhenThereIsSome) {
+TEST_F(ScanEngineTest, yieldsBlockedFirstAndOnlyIfAny) {
     disk.directory("/r/shut");
     disk.unreadable("/r/shut");
     const ScanResult result = scan({"/r"});
@@ -69,7 +69,7 @@ TEST_F(ScanEngineTest, blockedComesFirstAndOnlyWhenThereIsSome) {
     EXPECT_EQ(result.blocked->count, 1);
 }
 
-TEST_F(ScanEngineTest, noRootsFinishAtOnceWithNothing) {
+TEST_F(ScanEngineTest, noRootsFinishEmpty) {
     const ScanResult result = scan({});
     EXPECT_EQ(result.order, "if");
     EXPECT_EQ(result.stats.totalBytes, 0);
@@ -78,7 +78,7 @@ TEST_F(ScanEngineTest, noRootsFinishAtOnceWithNothing) {
     EXPECT_TRUE(result.insights.typeTotals.empty());
 }
 
-TEST_F(ScanEngineTest, aMissingRootIsPassedOverButNamed) {
+TEST_F(ScanEngineTest, skipsMissingRootButNamesIt) {
     disk.file("/r/f", 3);
     const ScanResult result = scan({"/missing", "/r"});
     EXPECT_EQ(result.stats.roots, (std::vector<std::string>{"/missing", "/r"}));
@@ -87,14 +87,14 @@ TEST_F(ScanEngineTest, aMissingRootIsPassedOverButNamed) {
     EXPECT_EQ(result.top->children.size(), 1U);
 }
 
-TEST_F(ScanEngineTest, allRootsMissing) {
+TEST_F(ScanEngineTest, finishesEmptyWhenAllRootsAreMissing) {
     const ScanResult result = scan({"/no", "/nor"});
     EXPECT_EQ(result.stats.roots.size(), 2U);
     EXPECT_EQ(result.stats.totalBytes, 0);
     EXPECT_EQ(result.order, "if");
 }
 
-TEST_F(ScanEngineTest, aPlainFileAsARootIsBlocked) {
+TEST_F(ScanEngineTest, fileAsRootIsBlocked) {
     disk.file("/f", 100);
     const ScanResult result = scan({"/f"});
     EXPECT_EQ(result.stats.blockedPaths, 1);
@@ -102,7 +102,7 @@ TEST_F(ScanEngineTest, aPlainFileAsARootIsBlocked) {
     EXPECT_EQ(result.order, "bif");
 }
 
-TEST_F(ScanEngineTest, aRootThatIsALinkIsFollowedAndKeepsItsName) {
+TEST_F(ScanEngineTest, followsLinkedRootAndKeepsItsName) {
     disk.file("/real/f", 8);
     disk.symbolicLink("/link", 1, "/real");
     const ScanResult result = scan({"/link"});
@@ -111,7 +111,7 @@ TEST_F(ScanEngineTest, aRootThatIsALinkIsFollowedAndKeepsItsName) {
     EXPECT_EQ(result.insights.topFiles[0].path, "/link/f");
 }
 
-TEST_F(ScanEngineTest, aRootInsideAnotherCountsTwiceButForHardLinks) {
+TEST_F(ScanEngineTest, nestedRootCountsTwiceExceptHardLinks) {
     disk.file("/r/in/f", 10);
     disk.file("/r/in/linked", 100);
     disk.hardLink("/r/in/again", "/r/in/linked");
@@ -121,19 +121,19 @@ TEST_F(ScanEngineTest, aRootInsideAnotherCountsTwiceButForHardLinks) {
     EXPECT_EQ(result.stats.dirsScanned, 3);
 }
 
-TEST_F(ScanEngineTest, aRootGivenTwiceIsWalkedTwice) {
+TEST_F(ScanEngineTest, walksDuplicateRootTwice) {
     disk.file("/r/f", 10);
     const ScanResult result = scan({"/r", "/r"});
     EXPECT_EQ(result.stats.totalBytes, 20);
     EXPECT_EQ(result.top->children.size(), 2U);
 }
 
-TEST_F(ScanEngineTest, aRootsDateIsInWholeSeconds) {
+TEST_F(ScanEngineTest, rootDateIsInWholeSeconds) {
     disk.directory("/r", 1234.75);
     EXPECT_EQ(scan({"/r"}).top->children[0]->lastModified, 1234.0);
 }
 
-TEST_F(ScanEngineTest, theLargestFilesComeFirst) {
+TEST_F(ScanEngineTest, sortsLargestFilesFirst) {
     for (int i = 0; i < 300; ++i) disk.file("/r/" + std::to_string(i), static_cast<std::uint64_t>(1 + (i * 7) % 300));
     const ScanResult result = scan({"/r"});
     ASSERT_EQ(result.insights.topFiles.size(), 250U);
@@ -141,7 +141,7 @@ TEST_F(ScanEngineTest, theLargestFilesComeFirst) {
         EXPECT_EQ(result.insights.topFiles[i].size, 300 - static_cast<std::int64_t>(i));
 }
 
-TEST_F(ScanEngineTest, filesOfOneSizeStandInTheOrderInWhichTheyWereFound) {
+TEST_F(ScanEngineTest, equalSizesKeepTheirOrder) {
     for (int i = 0; i < 60; ++i) {
         disk.file("/r/" + std::to_string(i), static_cast<std::uint64_t>(i < 30 ? 70'000'000 : 80'000'000));
         disk.file("/r/" + std::to_string(i) + ".dmg", static_cast<std::uint64_t>(i < 30 ? 70'000'000 : 80'000'000));
@@ -165,7 +165,7 @@ public:
     double monotonic() override { return 1; }
 };
 
-TEST_F(ScanEngineTest, theTopHasTheDateOfTheScan) {
+TEST_F(ScanEngineTest, topNodeHasTheDateOfTheScan) {
     disk.directory("/r", 77);
     FixedClock fixed;
     const auto queue = std::make_shared<UpdateQueue>();
@@ -173,7 +173,7 @@ TEST_F(ScanEngineTest, theTopHasTheDateOfTheScan) {
     EXPECT_EQ(ScanResult(queue->takeAll().updates).top->lastModified, 1'234'567.5);
 }
 
-TEST_F(ScanEngineTest, endingTheQueueCancelsTheWalkAndDeliversNothing) {
+TEST_F(ScanEngineTest, terminatingTheQueueCancelsTheScan) {
     for (int i = 0; i < 50; ++i) disk.file("/r/" + std::to_string(i) + "/f", 1);
     disk.directory("/r/0/held");
     disk.hold("/r/0/held");
@@ -187,7 +187,7 @@ TEST_F(ScanEngineTest, endingTheQueueCancelsTheWalkAndDeliversNothing) {
     EXPECT_TRUE(queue->takeAll().updates.empty());
 }
 
-TEST_F(ScanEngineTest, aCancelledWalkReadsNoFurtherDirectory) {
+TEST_F(ScanEngineTest, cancelStopsReadingDirectories) {
     disk.directory("/r/first");
     disk.directory("/r/last");  // the last is taken first
     disk.hold("/r/last");
@@ -201,7 +201,7 @@ TEST_F(ScanEngineTest, aCancelledWalkReadsNoFurtherDirectory) {
     EXPECT_EQ(disk.timesRead("/r/first"), 0);
 }
 
-TEST_F(ScanEngineTest, aCancelledWalkReadsNoFurtherDirectoryBelowTheSharedOnes) {
+TEST_F(ScanEngineTest, cancelStopsReadingBelowSharedDirectories) {
     disk.directory("/r/1/2/3/4/5/6/first");
     disk.directory("/r/1/2/3/4/5/6/last/below");
     disk.hold("/r/1/2/3/4/5/6/first");
@@ -225,7 +225,7 @@ public:
     std::atomic<int> asked = 0;
 };
 
-TEST(ScanEngineRoots, areNotAskedForOnceTheScanIsCancelled) {
+TEST(ScanEngineRoots, areNotOpenedAfterCancellation) {
     RootCounter disk;
     disk.directory("/a");
     disk.directory("/b");
@@ -239,7 +239,7 @@ TEST(ScanEngineRoots, areNotAskedForOnceTheScanIsCancelled) {
     EXPECT_TRUE(drainThreads(60));
 }
 
-TEST_F(ScanEngineTest, aCancelBeforeTheFirstRootWalksNothing) {
+TEST_F(ScanEngineTest, cancelBeforeTheFirstRootWalksNothing) {
     disk.directory("/r");
     const auto queue = std::make_shared<UpdateQueue>();
     queue->terminate();
@@ -249,7 +249,7 @@ TEST_F(ScanEngineTest, aCancelBeforeTheFirstRootWalksNothing) {
     EXPECT_TRUE(queue->takeAll().updates.empty());
 }
 
-TEST(WorkerCount, theSettingIsTakenAsItStands) {
+TEST(WorkerCount, usesTheSetting) {
     EXPECT_EQ(ScanEngine::workerCountFor("8", 2), 8);
     EXPECT_EQ(ScanEngine::workerCountFor("+8", 2), 8);
     EXPECT_EQ(ScanEngine::workerCountFor("1", 64), 1);
@@ -257,19 +257,19 @@ TEST(WorkerCount, theSettingIsTakenAsItStands) {
     EXPECT_EQ(ScanEngine::workerCountFor("9223372036854775807", 2), 9223372036854775807);
 }
 
-TEST(WorkerCount, anythingElseGivesTheDefault) {
+TEST(WorkerCount, invalidSettingGivesTheDefault) {
     for (const char* text : {"", "8 ", " 8", "0", "-3", "+-3", "-+3", "++3", "+", "-", "8.0", "eight", "0x8",
                              "9223372036854775808", "99999999999999999999"})
         EXPECT_EQ(ScanEngine::workerCountFor(text, 8), 12) << '"' << text << '"';
 }
 
-TEST(WorkerCount, theDefaultIsOneAndAHalfPerProcessorAndAtLeastFour) {
+TEST(WorkerCount, defaultsToOneAndAHalfPerProcessorAndAtLeastFour) {
     const std::pair<std::int64_t, std::int64_t> rows[] = {{0, 4}, {1, 4}, {2, 4}, {3, 4}, {4, 6}, {5, 7}, {8, 12}};
     for (const auto& [processors, expected] : rows)
         EXPECT_EQ(ScanEngine::workerCountFor(nullptr, processors), expected) << processors;
 }
 
-TEST(WorkerCount, isReadFromTheEnvironmentAtEachScan) {
+TEST(WorkerCount, readsTheEnvironmentAtEachScan) {
     setenv("ZELK_WORKERS", "17", 1);
     EXPECT_EQ(ScanEngine::resolveWorkerCount(), 17);
     unsetenv("ZELK_WORKERS");
@@ -278,7 +278,7 @@ TEST(WorkerCount, isReadFromTheEnvironmentAtEachScan) {
 
 #ifdef __linux__
 
-TEST_F(ScanEngineTest, aMachineWithoutThreadsGivesASurveyThatFoundNothing) {
+TEST_F(ScanEngineTest, failureToStartTheScanThreadFinishesEmpty) {
     disk.file("/r/f", 5);
     FixedClock fixed;
     const auto queue = std::make_shared<UpdateQueue>();
@@ -295,7 +295,7 @@ TEST_F(ScanEngineTest, aMachineWithoutThreadsGivesASurveyThatFoundNothing) {
     EXPECT_EQ(disk.timesRead("/r"), 0);
 }
 
-TEST_F(ScanEngineTest, aMachineThatMakesNoOrFewWorkersIsSurveyedWholeAllTheSame) {
+TEST_F(ScanEngineTest, completesWithFewOrNoWorkerThreads) {
     for (int i = 0; i < 50; ++i) disk.file("/r/" + std::to_string(i % 5) + "/" + std::to_string(i) + "/f", 1);
     for (const unsigned made : {0U, 2U}) {
         const auto queue = std::make_shared<UpdateQueue>();
@@ -310,7 +310,7 @@ TEST_F(ScanEngineTest, aMachineThatMakesNoOrFewWorkersIsSurveyedWholeAllTheSame)
     }
 }
 
-TEST(WorkerCount, isThatOfTheProcessorsWhichAreOnNow) {
+TEST(WorkerCount, countsActiveProcessors) {
     const zoo::TempFolder temp;
     fakes::Mounts mounts;
     if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";

@@ -18,7 +18,7 @@ protected:
 
 using Paths = std::vector<std::string>;
 
-TEST_F(TrashInSurveyTest, whatLiesInItIsCountedLikeAllElse) {
+TEST_F(TrashInSurveyTest, trashedFilesAreCounted) {
     disk.file("/r/share/Trash/files/film.mov", 900);
     disk.file("/r/share/Trash/files/a/b/song.mp3", 80);
     disk.file("/r/kept.mov", 7);
@@ -31,7 +31,7 @@ TEST_F(TrashInSurveyTest, whatLiesInItIsCountedLikeAllElse) {
     EXPECT_EQ(result.insights.typeTotals[FileType::audio], (TypeTally{80, 1}));
 }
 
-TEST_F(TrashInSurveyTest, whatLiesInItIsNoneOfTheLargestFiles) {
+TEST_F(TrashInSurveyTest, trashedFilesAreNotListedAsLargest) {
     disk.file("/r/share/Trash/files/film.mov", 900);
     disk.file("/r/share/Trash/files/a/song.mp3", 800);
     disk.file("/r/share/Trash/files/a/b/c/d/e/f/g/deep.mp3", 700);
@@ -40,7 +40,7 @@ TEST_F(TrashInSurveyTest, whatLiesInItIsNoneOfTheLargestFiles) {
 }
 
 // Folders so deep are walked by the thread that took one above them.
-TEST_F(TrashInSurveyTest, whatLiesInOneFarDownIsNoneOfTheLargestFiles) {
+TEST_F(TrashInSurveyTest, deepTrashIsNotListedAsLargest) {
     disk.file("/r/1/2/3/4/5/6/.Trash-7/files/film.mov", 900);
     disk.file("/r/1/2/3/4/5/6/.Trash-7/files/a/b/film.mov", 900);
     disk.file("/r/1/2/3/4/5/6/.Trash-7/info/kept", 9);
@@ -48,7 +48,7 @@ TEST_F(TrashInSurveyTest, whatLiesInOneFarDownIsNoneOfTheLargestFiles) {
     EXPECT_EQ(largest(scan({"/r"})), (Paths{"/r/1/2/3/4/5/6/.Trash-7/info/kept", "/r/1/2/3/4/5/6/z/kept"}));
 }
 
-TEST_F(TrashInSurveyTest, whatLiesBesideItMayBeAmongTheLargestFiles) {
+TEST_F(TrashInSurveyTest, filesBesideTheTrashAreListedAsLargest) {
     workers(1);
     disk.file("/r/share/Trash/info/a.trashinfo", 4);
     disk.file("/r/share/Trash/files2/b", 3);
@@ -59,7 +59,7 @@ TEST_F(TrashInSurveyTest, whatLiesBesideItMayBeAmongTheLargestFiles) {
                                             "/r/share/Trash/c", "/r/zzz/files/d"}));
 }
 
-TEST_F(TrashInSurveyTest, aRootThatIsOneOrLiesInOneHasNoneOfTheLargestFiles) {
+TEST_F(TrashInSurveyTest, rootWithinTheTrashListsNoLargestFiles) {
     disk.file("/r/share/Trash/files/film.mov", 900);
     disk.file("/r/share/Trash/files/a/song.mp3", 800);
     for (const char* root : {"/r/share/Trash/files", "/r/share/Trash/files/", "/r/share/Trash/files/a"}) {
@@ -70,25 +70,25 @@ TEST_F(TrashInSurveyTest, aRootThatIsOneOrLiesInOneHasNoneOfTheLargestFiles) {
     EXPECT_EQ(largest(scan({"/r/share/Trash/files/a", "/r/share"})), Paths());
 }
 
-TEST_F(TrashInSurveyTest, doesNotCrowdOutWhatIsToBeListed) {
+TEST_F(TrashInSurveyTest, trashDoesNotDisplaceOtherFiles) {
     for (int file = 0; file < 300; ++file) disk.file("/r/share/Trash/files/" + std::to_string(file), 1'000);
     for (int file = 0; file < 250; ++file) disk.file("/r/kept/" + std::to_string(file), 10);
     EXPECT_EQ(scan({"/r"}).insights.topFiles.size(), 250U);
 }
 
-TEST_F(TrashInSurveyTest, diskImagesInItAreListedAsBefore) {
+TEST_F(TrashInSurveyTest, diskImagesInTheTrashAreListed) {
     disk.file("/r/share/Trash/files/system.iso", 60'000'000);
     EXPECT_EQ(scan({"/r"}).insights.diskImages.size(), 1U);
 }
 
-TEST_F(TrashInSurveyTest, isFoundLikeAllElseWhereNoneIsTold) {
+TEST_F(TrashInSurveyTest, unknownTrashIsListedLikeAnyFolder) {
     trash = {};
     disk.file("/r/share/Trash/files/film.mov", 900);
     disk.file("/r/.Trash-7/files/film.mov", 800);
     EXPECT_EQ(largest(scan({"/r"})), (Paths{"/r/share/Trash/files/film.mov", "/r/.Trash-7/files/film.mov"}));
 }
 
-TEST_F(TrashInSurveyTest, aScanOnThreadsOfItsOwnKnowsItToo) {
+TEST_F(TrashInSurveyTest, backgroundScanExcludesTheTrash) {
     disk.file("/r/share/Trash/files/film.mov", 900);
     disk.file("/r/kept", 7);
     const auto queue = std::make_shared<UpdateQueue>();

@@ -12,7 +12,7 @@ std::int64_t scanned(const ScanUpdate& update) {
     return std::get<update::Progress>(update).scanned;
 }
 
-TEST(UpdateQueue, keepsTheOrderOfYields) {
+TEST(UpdateQueue, keepsOrderOfYields) {
     UpdateQueue queue;
     for (int i = 0; i < 5; ++i) queue.yield(update::Progress{i, 0, {}});
     const auto batch = queue.takeAll();
@@ -22,7 +22,7 @@ TEST(UpdateQueue, keepsTheOrderOfYields) {
     EXPECT_TRUE(queue.takeAll().updates.empty());
 }
 
-TEST(UpdateQueue, whatWasYieldedBeforeTheEndIsStillTaken) {
+TEST(UpdateQueue, deliversUpdatesYieldedBeforeFinish) {
     UpdateQueue queue;
     queue.yield(update::Blocked{3});
     queue.finish();
@@ -32,7 +32,7 @@ TEST(UpdateQueue, whatWasYieldedBeforeTheEndIsStillTaken) {
     EXPECT_TRUE(batch.ended);
 }
 
-TEST(UpdateQueue, theReadersEndDropsEverything) {
+TEST(UpdateQueue, terminateDropsEverything) {
     UpdateQueue queue;
     queue.yield(update::Blocked{1});
     queue.terminate();
@@ -42,7 +42,7 @@ TEST(UpdateQueue, theReadersEndDropsEverything) {
     EXPECT_TRUE(batch.ended);
 }
 
-TEST(UpdateQueue, theTerminationHandlerRunsOnceWhicheverSideEnds) {
+TEST(UpdateQueue, runsTerminationHandlerOnce) {
     for (const bool readerFirst : {true, false}) {
         UpdateQueue queue;
         int runs = 0;
@@ -55,7 +55,7 @@ TEST(UpdateQueue, theTerminationHandlerRunsOnceWhicheverSideEnds) {
     }
 }
 
-TEST(UpdateQueue, aHandlerThatComesBehindTheEndRunsAtOnce) {
+TEST(UpdateQueue, handlerSetAfterTheEndRunsAtOnce) {
     UpdateQueue queue;
     queue.terminate();
     int runs = 0;
@@ -78,7 +78,7 @@ TEST(UpdateQueue, wakesTheReaderOncePerBatch) {
     EXPECT_TRUE(queue.takeAll().ended);
 }
 
-TEST(UpdateQueue, theEndAloneWakesTheReader) {
+TEST(UpdateQueue, finishWakesTheReader) {
     UpdateQueue queue;
     int wakes = 0;
     queue.setWakeReader([&wakes] { ++wakes; });
@@ -86,7 +86,7 @@ TEST(UpdateQueue, theEndAloneWakesTheReader) {
     EXPECT_EQ(wakes, 1);
 }
 
-TEST(UpdateQueue, aReaderWhoHasLeftIsNotWoken) {
+TEST(UpdateQueue, terminatedReaderIsNotWoken) {
     UpdateQueue queue;
     int wakes = 0;
     queue.setWakeReader([&wakes] { ++wakes; });
@@ -96,7 +96,7 @@ TEST(UpdateQueue, aReaderWhoHasLeftIsNotWoken) {
     EXPECT_EQ(wakes, 0);
 }
 
-TEST(UpdateQueue, manyWritersLoseNothing) {
+TEST(UpdateQueue, concurrentWritersLoseNothing) {
     UpdateQueue queue;
     constexpr std::int64_t each = 5000;
     std::vector<std::thread> writers;
@@ -111,7 +111,7 @@ TEST(UpdateQueue, manyWritersLoseNothing) {
     EXPECT_TRUE(queue.takeAll().updates.empty());
 }
 
-TEST(UpdateQueue, releasesADroppedTreeAtOnce) {
+TEST(UpdateQueue, releasesDroppedTreeAtOnce) {
     UpdateQueue queue;
     NodeRef top = FSNode::make("", 0);
     const NodeRef child(&top->append(FSNode::make("/r", 0)));

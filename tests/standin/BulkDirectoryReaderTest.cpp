@@ -95,7 +95,7 @@ void expectEqualToLstat(const DirectoryReader::Entries& entries, const std::stri
     for (const auto& [name, status] : expected) ADD_FAILURE() << "left out: " << name;
 }
 
-TEST_P(BulkDirectoryReaderTest, everyKindOfEntryIsAsLstatHasIt) {
+TEST_P(BulkDirectoryReaderTest, reportsEveryKindOfEntryLikeLstat) {
     makeFile("empty");
     makeFile("some", 100000);
     makeFile("linked", 5000);
@@ -127,7 +127,7 @@ TEST_P(BulkDirectoryReaderTest, everyKindOfEntryIsAsLstatHasIt) {
     expectEqualToLstat(*entries, top_);
 }
 
-TEST_P(BulkDirectoryReaderTest, moreEntriesThanABufferHoldsAreOneListInTheOrderOfDelivery) {
+TEST_P(BulkDirectoryReaderTest, joinsBuffersInOrderOfDelivery) {
     constexpr int count = 3500;
     makeFiles(count);
     const auto* entries = read(GetParam());
@@ -143,13 +143,13 @@ TEST_P(BulkDirectoryReaderTest, moreEntriesThanABufferHoldsAreOneListInTheOrderO
     EXPECT_EQ(order, delivered);
 }
 
-TEST_P(BulkDirectoryReaderTest, anEmptyDirectoryIsAnEmptyList) {
+TEST_P(BulkDirectoryReaderTest, emptyDirectoryIsAnEmptyList) {
     const auto* entries = read(GetParam());
     ASSERT_NE(entries, nullptr);
     EXPECT_TRUE(entries->empty());
 }
 
-TEST_P(BulkDirectoryReaderTest, theSystemsOwnFoldersAreAsTheLinuxReaderReadsThem) {
+TEST_P(BulkDirectoryReaderTest, agreesWithTheLinuxReaderOnSystemFolders) {
     BulkDirectoryService bulk(GetParam());
     LinuxDirectoryService own;
     const auto bulkReader = bulk.makeReader();
@@ -171,7 +171,7 @@ TEST_P(BulkDirectoryReaderTest, theSystemsOwnFoldersAreAsTheLinuxReaderReadsThem
     }
 }
 
-TEST_P(BulkDirectoryReaderTest, entriesThatCannotBeAskedHaveNoSizeAndCostTheOthersNothing) {
+TEST_P(BulkDirectoryReaderTest, entriesWithErrorsHaveNoSizeAndKeepTheOthers) {
     makeFile("film.mov", 5000);
     makeFile("other", 5000);
     fs::create_directories(path("Documents"));
@@ -204,7 +204,7 @@ INSTANTIATE_TEST_SUITE_P(Buffers, BulkDirectoryReaderTest, testing::Values(usual
 
 class BulkDirectoryReaderOnceTest : public BulkDirectoryReaderTest {};
 
-TEST_F(BulkDirectoryReaderOnceTest, theRequestIsTheOneThatTheDecoderReads) {
+TEST_F(BulkDirectoryReaderOnceTest, requestMatchesTheDecoder) {
     ASSERT_NE(read(), nullptr);
     ASSERT_FALSE(BulkStandIn::here().calls.empty());
     const BulkStandIn::Call& call = BulkStandIn::here().calls.front();
@@ -218,7 +218,7 @@ TEST_F(BulkDirectoryReaderOnceTest, theRequestIsTheOneThatTheDecoderReads) {
     EXPECT_EQ(call.size, 0x40000U);
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, aFailureAtAnyCallGivesNoListHoweverMuchWasRead) {
+TEST_F(BulkDirectoryReaderOnceTest, failureAtAnyCallGivesNoList) {
     makeFiles(200);
     ASSERT_NE(read(4096), nullptr);
     const std::size_t calls = BulkStandIn::here().calls.size();
@@ -233,7 +233,7 @@ TEST_F(BulkDirectoryReaderOnceTest, aFailureAtAnyCallGivesNoListHoweverMuchWasRe
     }
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, aFailureThatNamesNoErrorIsTheEndAndKeepsWhatWasRead) {
+TEST_F(BulkDirectoryReaderOnceTest, failureWithoutErrnoEndsTheList) {
     makeFiles(200);
     BulkStandIn::here().failure = [](std::size_t call) { return call == 2 ? std::optional(0) : std::nullopt; };
     const auto* entries = read(4096);
@@ -245,7 +245,7 @@ TEST_F(BulkDirectoryReaderOnceTest, aFailureThatNamesNoErrorIsTheEndAndKeepsWhat
     EXPECT_GE(entries->size(), static_cast<std::size_t>(delivered - 2)) << "only \".\" and \"..\" may be missing";
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, anErrorLeftFromBeforeIsNotTakenForOne) {
+TEST_F(BulkDirectoryReaderOnceTest, ignoresStaleErrno) {
     BulkStandIn::here().failure = [](std::size_t) { return std::optional(0); };
     errno = EIO;
     const auto* entries = read();
@@ -253,7 +253,7 @@ TEST_F(BulkDirectoryReaderOnceTest, anErrorLeftFromBeforeIsNotTakenForOne) {
     EXPECT_TRUE(entries->empty());
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, aBrokenRecordInAnyBufferGivesNoList) {
+TEST_F(BulkDirectoryReaderOnceTest, brokenRecordInAnyBufferGivesNoList) {
     makeFiles(200);
     for (const std::size_t broken : {0, 1, 2}) {
         BulkStandIn::here() = {};
@@ -264,7 +264,7 @@ TEST_F(BulkDirectoryReaderOnceTest, aBrokenRecordInAnyBufferGivesNoList) {
     }
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, aRecordLargerThanTheBufferGivesNoList) {
+TEST_F(BulkDirectoryReaderOnceTest, recordLargerThanTheBufferGivesNoList) {
     makeFile("short");
     makeFile(std::string(255, 'n'));
     EXPECT_EQ(read(300), nullptr);
@@ -273,7 +273,7 @@ TEST_F(BulkDirectoryReaderOnceTest, aRecordLargerThanTheBufferGivesNoList) {
     expectEqualToLstat(*entries, top_);
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, aReaderGoesOnAfterADirectoryThatFailed) {
+TEST_F(BulkDirectoryReaderOnceTest, continuesAfterAFailedDirectory) {
     makeFiles(10);
     BulkStandIn::here().failure = [](std::size_t call) { return call == 0 ? std::optional(EIO) : std::nullopt; };
     ASSERT_EQ(read(), nullptr);
@@ -282,7 +282,7 @@ TEST_F(BulkDirectoryReaderOnceTest, aReaderGoesOnAfterADirectoryThatFailed) {
     expectEqualToLstat(*entries, top_);
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, theReadersThreadFetchesNoFolderWhileItLives) {
+TEST_F(BulkDirectoryReaderOnceTest, preventsFetchingDatalessFolders) {
     for (const int before : {IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT, IOPOL_MATERIALIZE_DATALESS_FILES_ON}) {
         BulkStandIn::here() = {};
         BulkStandIn::materialising() = before;
@@ -301,7 +301,7 @@ TEST_F(BulkDirectoryReaderOnceTest, theReadersThreadFetchesNoFolderWhileItLives)
     EXPECT_EQ(BulkStandIn::materialising(), IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT);
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, whatALargeFolderTookIsGivenBackAtTheNext) {
+TEST_F(BulkDirectoryReaderOnceTest, releasesMemoryOfALargeFolder) {
     constexpr std::ptrdiff_t quarter = 256 * 1024;
     fs::create_directory(path("small"));
     makeFile("small/file");
@@ -321,7 +321,7 @@ TEST_F(BulkDirectoryReaderOnceTest, whatALargeFolderTookIsGivenBackAtTheNext) {
     EXPECT_LT(entries->capacity() * sizeof(DirEntry), static_cast<std::size_t>(quarter));
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, goesDownAndUpAndFollowsNoLink) {
+TEST_F(BulkDirectoryReaderOnceTest, descendsAndAscendsWithoutFollowingLinks) {
     fs::create_directories(path("a/b/c"));
     makeFile("a/b/file", 10);
     fs::create_directory_symlink("b", path("a/link"));
@@ -351,7 +351,7 @@ TEST_F(BulkDirectoryReaderOnceTest, goesDownAndUpAndFollowsNoLink) {
     EXPECT_EQ(reader_->open(*root_, "a/link"), nullptr);
 }
 
-TEST_F(BulkDirectoryReaderOnceTest, aRootIsADirectoryOrALinkToOne) {
+TEST_F(BulkDirectoryReaderOnceTest, rootMustBeADirectoryOrALinkToOne) {
     makeFile("file");
     fs::create_directory_symlink(top_, path("link"));
     BulkDirectoryService service;

@@ -47,7 +47,7 @@ protected:
     BulkDirectoryService service;
 };
 
-TEST_F(BulkMounts, mountPointHasAnotherDeviceThanTheFolderThatHoldsIt) {
+TEST_F(BulkMounts, mountPointHasAnotherDevice) {
     expectIn([&](fakes::Mounts& mounts) {
         mounts.memory(top + "/mounted");
         mounts.memory(top + "/deep/down/mounted");
@@ -62,7 +62,7 @@ TEST_F(BulkMounts, mountPointHasAnotherDeviceThanTheFolderThatHoldsIt) {
     });
 }
 
-TEST_F(BulkMounts, whatIsMountedAfterTheRootWasOpenedIsNotRead) {
+TEST_F(BulkMounts, doesNotReadLaterMounts) {
     expectIn([&](fakes::Mounts& mounts) {
         const std::int32_t own = service.status(top)->device;
         const auto root = service.openRoot(top);
@@ -77,7 +77,7 @@ TEST_F(BulkMounts, whatIsMountedAfterTheRootWasOpenedIsNotRead) {
     });
 }
 
-TEST_F(BulkMounts, fileThatSomethingIsMountedOnIsAFileLikeAnyOther) {
+TEST_F(BulkMounts, countsBindMountedFile) {
     expectIn([&](fakes::Mounts& mounts) {
         mounts.again(top + "/mounted2/file", top + "/before/file");
         const auto root = service.openRoot(top);
@@ -86,7 +86,7 @@ TEST_F(BulkMounts, fileThatSomethingIsMountedOnIsAFileLikeAnyOther) {
     });
 }
 
-TEST_F(BulkMounts, mountedFolderAsARootIsRead) {
+TEST_F(BulkMounts, readsMountedFolderAsRoot) {
     expectIn([&](fakes::Mounts& mounts) {
         mounts.memory(top + "/mounted");
         zoo::makeFile(top + "/mounted/folder/file", 1);
@@ -97,7 +97,7 @@ TEST_F(BulkMounts, mountedFolderAsARootIsRead) {
     });
 }
 
-TEST_F(BulkMounts, surveyLeavesThemOutAsIfTheyWereNotThere) {
+TEST_F(BulkMounts, areOmittedFromASurvey) {
     expectIn([&](fakes::Mounts& mounts) {
         mounts.memory(top + "/mounted");
         mounts.memory(top + "/deep/down/mounted");

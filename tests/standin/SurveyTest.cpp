@@ -14,7 +14,7 @@
 namespace zelk {
 namespace {
 
-TEST(BulkSurvey, countsWhatTheLinuxReaderCounts) {
+TEST(BulkSurvey, matchesTheLinuxReader) {
     BulkDirectoryService bulk;
     LinuxDirectoryService own;
     const update::Finished got = surveyed(bulk, "/usr/include");
@@ -28,7 +28,7 @@ TEST(BulkSurvey, countsWhatTheLinuxReaderCounts) {
     EXPECT_EQ(got.root->size, expected.root->size);
 }
 
-TEST(BulkSurvey, entryThatCouldNotBeAskedIsBlockedAndTheRestCounts) {
+TEST(BulkSurvey, entryWithErrorIsBlockedAndTheRestCounts) {
     namespace fs = std::filesystem;
     std::string top = fs::temp_directory_path() / "zelk-survey-XXXXXX";
     ASSERT_NE(mkdtemp(top.data()), nullptr);

@@ -57,21 +57,21 @@ protected:
 
 }  // namespace
 
-TEST_F(Changed, folderThatBecameALinkIsNotOpened) {
+TEST_F(Changed, openRefusesFolderThatBecameALink) {
     ASSERT_EQ(opened("a"), (Names{"b", "sibling"}));
     swapForLink("/a/b");
     EXPECT_EQ(opened("a/b"), unreadable);
     EXPECT_EQ(opened("a/sibling"), Names{"file"});
 }
 
-TEST_F(Changed, linkInTheMiddleOfAPathIsNotGoneThrough) {
+TEST_F(Changed, openRefusesLinkWithinThePath) {
     ASSERT_EQ(opened("a/b"), Names{"c"});
     swapForLink("/a");
     EXPECT_EQ(opened("a/b/c"), unreadable);
     EXPECT_EQ(opened("a"), unreadable);
 }
 
-TEST_F(Changed, folderThatBecameALinkIsNotDescendedInto) {
+TEST_F(Changed, descendRefusesFolderThatBecameALink) {
     ASSERT_EQ(opened("a"), (Names{"b", "sibling"}));
     swapForLink("/a/b");
     EXPECT_EQ(descended("b"), unreadable);
@@ -79,7 +79,7 @@ TEST_F(Changed, folderThatBecameALinkIsNotDescendedInto) {
     EXPECT_EQ(descended("sibling"), Names{"file"});
 }
 
-TEST_F(Changed, folderThatBecameAFileOrWentIsUnreadable) {
+TEST_F(Changed, replacedOrRemovedFolderIsUnreadable) {
     ASSERT_EQ(opened("a"), (Names{"b", "sibling"}));
     fs::remove_all(temp / "root/a/b");
     EXPECT_EQ(descended("b"), unreadable);
@@ -90,7 +90,7 @@ TEST_F(Changed, folderThatBecameAFileOrWentIsUnreadable) {
     EXPECT_EQ(descended("sibling"), Names{"file"});
 }
 
-TEST_F(Changed, folderAboveThatBecameALinkDoesNotLeadTheReaderAstray) {
+TEST_F(Changed, parentSwappedForALinkIsNotFollowed) {
     ASSERT_EQ(opened("a"), (Names{"b", "sibling"}));
     ASSERT_EQ(descended("b"), Names{"c"});
     swapForLink("/a");
@@ -102,7 +102,7 @@ TEST_F(Changed, folderAboveThatBecameALinkDoesNotLeadTheReaderAstray) {
 
 // Far below, not all folders above are held open. Where the one that the reader stands in is moved away meanwhile, the
 // folder above it is another one, with names of its own that may be the same.
-TEST_F(Changed, folderThatWasMovedAwayDoesNotTakeTheReaderWithIt) {
+TEST_F(Changed, readerDoesNotFollowAMovedFolder) {
     makeFolder(temp / "root/deep/sibling");
     makeChain(temp / "root/deep/moved", 100, 1);
     makeFile(temp / "canary/sibling/canary");
@@ -115,7 +115,7 @@ TEST_F(Changed, folderThatWasMovedAwayDoesNotTakeTheReaderWithIt) {
     EXPECT_TRUE(found == unreadable || found.empty()) << *found.begin();
 }
 
-TEST_F(Changed, rootThatWasMovedIsStillTheSameRoot) {
+TEST_F(Changed, movedRootStaysUsable) {
     fs::rename(temp / "root", temp / "elsewhere");
     fs::create_symlink("canary", temp / "root");
     EXPECT_EQ(opened("a/b/c"), Names{"file"});

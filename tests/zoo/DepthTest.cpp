@@ -25,7 +25,7 @@ void classify(const Scan& its) {
 
 }  // namespace
 
-TEST(Depth, chainFarPastPathMaxIsWalkedWhole) {
+TEST(Depth, walksChainLongerThanPathMax) {
     const TempFolder temp(TempFolder::Medium::memory);
     makeChain(temp / "chain", 1500, 200);
     for (const int workers : {1, 8}) {
@@ -38,7 +38,7 @@ TEST(Depth, chainFarPastPathMaxIsWalkedWhole) {
     }
 }
 
-TEST(Depth, fiftyThousandFoldersNeitherCrashNorHang) {
+TEST(Depth, walksFiftyThousandNestedFolders) {
     const TempFolder temp(TempFolder::Medium::memory);
     makeChain(temp / "chain", 50000, 1);
     for (const int workers : {1, 8}) {
@@ -53,7 +53,7 @@ TEST(Depth, fiftyThousandFoldersNeitherCrashNorHang) {
     }
 }
 
-TEST(Depth, branchesOnTheWayBackFromADeepChainAreNotLost) {
+TEST(Depth, walksBranchesOnTheWayBack) {
     const TempFolder temp(TempFolder::Medium::memory);
     std::string at = temp / "chain";
     for (int level = 0; level < 60; ++level) {

@@ -50,7 +50,7 @@ void expectToolsAgree(const Count& count) {
 }  // namespace
 
 // On a disk for its blocks, its holes and its reservations; many folders are slow to make and to remove there.
-TEST(Exactness, ofTheZooOnADisk) {
+TEST(Exactness, zooOnDiskMatchesDu) {
     const TempFolder temp;
     makeZoo(temp / "zoo", temp / "outside", 60);
     const Count count = countedIndependently(temp / "zoo");
@@ -59,7 +59,7 @@ TEST(Exactness, ofTheZooOnADisk) {
     expectSameEveryTime(temp / "zoo", count, roundsOr(20));
 }
 
-TEST(Exactness, ofTheZooInMemory) {
+TEST(Exactness, zooInMemoryMatchesDu) {
     const TempFolder temp(TempFolder::Medium::memory);
     makeZoo(temp / "zoo", temp / "outside", 1500);
     const Count count = countedIndependently(temp / "zoo");
@@ -68,7 +68,7 @@ TEST(Exactness, ofTheZooInMemory) {
     expectSameEveryTime(temp / "zoo", count, roundsOr(20));
 }
 
-TEST(Exactness, ofRandomTrees) {
+TEST(Exactness, randomTreesMatchDu) {
     for (const std::uint64_t seed : {1, 2, 3, 4}) {
         const TempFolder temp(seed % 2 == 0 ? TempFolder::Medium::memory : TempFolder::Medium::disk);
         makeRandomTree(temp.path(), seed, 120);
@@ -79,7 +79,7 @@ TEST(Exactness, ofRandomTrees) {
     }
 }
 
-TEST(Exactness, ofTheSystemsOwnFiles) {
+TEST(Exactness, systemFilesMatchDu) {
     // Packages come and go while tests run: what is counted the same before and after did not change in between.
     const std::string root = "/usr";
     Count before = countedIndependently(root);
@@ -101,7 +101,7 @@ TEST(Exactness, ofTheSystemsOwnFiles) {
     if (std::getenv("ZELK_ZOO_ROUNDS") != nullptr) expectSameEveryTime(root, before, roundsOr(1));
 }
 
-TEST(Exactness, ofTheLargestFilesByTheirOwnPaths) {
+TEST(Exactness, largestFilesHaveTheirPathsAndSizes) {
     const TempFolder temp;
     makeZoo(temp / "zoo", temp / "outside", 30);
     const Scan its = scan({temp / "zoo"}, 8);
@@ -115,7 +115,7 @@ TEST(Exactness, ofTheLargestFilesByTheirOwnPaths) {
     }
 }
 
-TEST(Exactness, ofAWideFolder) {
+TEST(Exactness, wideFolderMatchesDu) {
     const TempFolder temp(TempFolder::Medium::memory);
     makeWide(temp / "wide", 40000, 2000);
     for (const int workers : {1, 8}) {

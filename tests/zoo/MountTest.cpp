@@ -64,7 +64,7 @@ private:
 
 }  // namespace
 
-TEST_F(Mounts, anotherDeviceIsLeftOutAsIfItWereNotThere) {
+TEST_F(Mounts, omitsAnotherDevice) {
     mountMemory(root + "/mounted");
     makeFile(root + "/mounted/inside/file", 5000);
     const Scan its = scan({root}, 2);
@@ -76,20 +76,20 @@ TEST_F(Mounts, anotherDeviceIsLeftOutAsIfItWereNotThere) {
     expectAsCounted(root);
 }
 
-TEST_F(Mounts, anotherDeviceDeepDownIsLeftOutToo) {
+TEST_F(Mounts, omitsAnotherDeviceDeepDown) {
     const std::string place = root + "/1/2/3/4/5/6/7/8/mounted";
     mountMemory(place);
     makeFile(place + "/file", 5000);
     expectAsCounted(root);
 }
 
-TEST_F(Mounts, anotherDeviceAsARootIsWalked) {
+TEST_F(Mounts, walksRootOnAnotherDevice) {
     mountMemory(root + "/mounted");
     makeFile(root + "/mounted/inside/file", 5000);
     expectAsCounted(root + "/mounted");
 }
 
-TEST_F(Mounts, rootsOnTwoDevicesAreWalkedEachOnItsOwn) {
+TEST_F(Mounts, walksRootsOnTwoDevices) {
     mountMemory(root + "/mounted");
     makeFile(root + "/mounted/inside/file", 5000);
     const Scan its = scan({root, root + "/mounted"}, 2);
@@ -99,7 +99,7 @@ TEST_F(Mounts, rootsOnTwoDevicesAreWalkedEachOnItsOwn) {
     EXPECT_EQ(its.stats.totalBytes, countedIndependently(root).bytes + countedIndependently(root + "/mounted").bytes);
 }
 
-TEST_F(Mounts, fileOfAnotherDeviceIsCountedLikeAny) {
+TEST_F(Mounts, countsBindMountedFile) {
     mountMemory(temp / "memory");
     makeFile(temp / "memory/file", 9000);
     makeFile(root + "/place");
@@ -109,7 +109,7 @@ TEST_F(Mounts, fileOfAnotherDeviceIsCountedLikeAny) {
     expectAsCounted(root);
 }
 
-TEST_F(Mounts, sameDeviceMountedAgainIsWalkedLikeAnyFolder) {
+TEST_F(Mounts, walksBindMountOfTheSameDevice) {
     makeFile(temp / "elsewhere/file", 5000);
     mountAgain(temp / "elsewhere", root + "/mounted");
     const Scan its = scan({root}, 2);
@@ -117,7 +117,7 @@ TEST_F(Mounts, sameDeviceMountedAgainIsWalkedLikeAnyFolder) {
     expectAsCounted(root);
 }
 
-TEST_F(Mounts, treeMountedInsideItselfEnds) {
+TEST_F(Mounts, endsOnATreeMountedInsideItself) {
     mountAgain(root, root + "/mounted");
     expectAsCounted(root);
 }

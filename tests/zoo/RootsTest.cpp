@@ -37,27 +37,27 @@ protected:
 
 }  // namespace
 
-TEST_F(Roots, missingOneIsPassedOverInSilence) {
+TEST_F(Roots, skipsMissingRoot) {
     const Scan its = scanned({temp / "missing"});
     EXPECT_TRUE(its.root->children.empty());
     EXPECT_EQ(its.stats.blockedPaths, 0);
     EXPECT_EQ(its.stats.dirsScanned, 0);
 }
 
-TEST_F(Roots, missingOneDoesNotKeepTheOthersFromBeingWalked) {
+TEST_F(Roots, walksOtherRootsBesideAMissingOne) {
     const Scan its = scanned({temp / "missing", root, ""});
     ASSERT_EQ(its.root->children.size(), 1U);
     EXPECT_EQ(its.stats.filesScanned, 2);
 }
 
-TEST_F(Roots, noneAtAllGivesAnEmptyTree) {
+TEST_F(Roots, noRootsGiveAnEmptyTree) {
     const Scan its = scanned({});
     EXPECT_TRUE(its.root->children.empty());
     EXPECT_EQ(its.stats.totalBytes, 0);
     EXPECT_TRUE(its.insights.typeTotals.empty());
 }
 
-TEST_F(Roots, fileIsOneBlockedPath) {
+TEST_F(Roots, fileIsBlocked) {
     const Scan its = scanned({root + "/one"});
     ASSERT_EQ(its.root->children.size(), 1U);
     EXPECT_EQ(its.root->children[0]->name(), root + "/one");
@@ -66,23 +66,23 @@ TEST_F(Roots, fileIsOneBlockedPath) {
     EXPECT_EQ(its.stats.totalBytes, 0);
 }
 
-TEST_F(Roots, pipeIsOneBlockedPathAndDoesNotHang) {
+TEST_F(Roots, pipeIsBlockedWithoutWaiting) {
     ASSERT_EQ(mkfifo((temp / "pipe").c_str(), 0644), 0);
     EXPECT_EQ(scanned({temp / "pipe"}).stats.blockedPaths, 1);
 }
 
-TEST_F(Roots, pipeInsideIsAFileAndIsNotOpened) {
+TEST_F(Roots, pipeWithinIsNotOpened) {
     ASSERT_EQ(mkfifo((root + "/below/pipe").c_str(), 0644), 0);
     const Scan its = scanned({root});
     EXPECT_EQ(its.stats.filesScanned, 3);
     EXPECT_EQ(its.stats.blockedPaths, 0);
 }
 
-TEST_F(Roots, deviceIsOneBlockedPath) {
+TEST_F(Roots, deviceIsBlocked) {
     EXPECT_EQ(scanned({"/dev/null"}).stats.blockedPaths, 1);
 }
 
-TEST_F(Roots, linkIsFollowedAndKeepsItsName) {
+TEST_F(Roots, followsLinkAndKeepsItsName) {
     ASSERT_EQ(symlink("root", (temp / "link").c_str()), 0);
     const Scan its = scanned({temp / "link"});
     ASSERT_EQ(its.root->children.size(), 1U);
@@ -92,14 +92,14 @@ TEST_F(Roots, linkIsFollowedAndKeepsItsName) {
     EXPECT_EQ(its.stats.totalBytes, countedIndependently(root).bytes);
 }
 
-TEST_F(Roots, linkToNowhereIsPassedOver) {
+TEST_F(Roots, skipsDanglingLink) {
     ASSERT_EQ(symlink("nowhere", (temp / "link").c_str()), 0);
     const Scan its = scanned({temp / "link"});
     EXPECT_TRUE(its.root->children.empty());
     EXPECT_EQ(its.stats.blockedPaths, 0);
 }
 
-TEST_F(Roots, givenTwiceIsWalkedTwice) {
+TEST_F(Roots, walksDuplicateRootTwice) {
     const Scan its = scanned({root, root});
     ASSERT_EQ(its.root->children.size(), 2U);
     EXPECT_EQ(its.stats.filesScanned, 4);
@@ -107,7 +107,7 @@ TEST_F(Roots, givenTwiceIsWalkedTwice) {
     EXPECT_EQ(its.stats.totalBytes, 2 * countedIndependently(root).bytes);
 }
 
-TEST_F(Roots, insideAnotherIsCountedTwiceExceptForHardLinks) {
+TEST_F(Roots, countsNestedRootTwiceExceptHardLinks) {
     ASSERT_EQ(link((root + "/below/two").c_str(), (root + "/below/three").c_str()), 0);
     const Scan its = scanned({root, root + "/below"});
     ASSERT_EQ(its.root->children.size(), 2U);
@@ -116,7 +116,7 @@ TEST_F(Roots, insideAnotherIsCountedTwiceExceptForHardLinks) {
     EXPECT_EQ(its.stats.totalBytes, countedIndependently(root).bytes);
 }
 
-TEST_F(Roots, trailingSlashesLeaveSinglesInThePaths) {
+TEST_F(Roots, trailingSlashesGiveSingleSlashes) {
     const Scan its = scanned({root + "/"});
     ASSERT_EQ(its.insights.topFiles.size(), 2U);
     for (const LargeFile& file : its.insights.topFiles) {
@@ -125,7 +125,7 @@ TEST_F(Roots, trailingSlashesLeaveSinglesInThePaths) {
     }
 }
 
-TEST_F(Roots, longerThanAnySingleCallTakesIsWalked) {
+TEST_F(Roots, walksRootLongerThanPathMax) {
     makeChain(temp / "chain", 40, 200);
     std::string deep = temp / "chain";
     for (int level = 0; level < 30; ++level) deep += '/' + std::string(200, 'd');

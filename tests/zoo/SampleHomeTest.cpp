@@ -89,14 +89,14 @@ SizeByPath foldersOf(const Scan& its) {
 
 }  // namespace
 
-TEST(SampleHome, ofAMacHoldsEveryCategory) {
+TEST(SampleHome, macHomeHoldsEveryCategory) {
     const TempFolder temp;
     std::set<std::string> all;
     for (const ReclaimCategory& category : reclaimCatalogue()) all.emplace(category.id);
     EXPECT_EQ(categoriesIn(madeIn(temp, "--system macos")), all);
 }
 
-TEST(SampleHome, ofLinuxHoldsEveryCategoryThatIsMadeThere) {
+TEST(SampleHome, linuxHomeHoldsEveryLinuxCategory) {
     const TempFolder temp;
     const std::set<std::string> made{"android_system_images",
                                      "electron_cache",
@@ -114,7 +114,7 @@ TEST(SampleHome, ofLinuxHoldsEveryCategoryThatIsMadeThere) {
     EXPECT_EQ(categoriesIn(madeIn(temp, "--system linux")), made);
 }
 
-TEST(SampleHome, isSurveyedAsTheToolsCountIt) {
+TEST(SampleHome, surveyMatchesDu) {
     for (const std::string system : {"linux", "macos"}) {
         SCOPED_TRACE(system);
         const TempFolder temp;
@@ -122,7 +122,7 @@ TEST(SampleHome, isSurveyedAsTheToolsCountIt) {
     }
 }
 
-TEST(SampleHome, isTheSameEachTime) {
+TEST(SampleHome, isReproducible) {
     const auto listed = [](const std::string& home) {
         std::vector<std::tuple<std::string, off_t, time_t>> all;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(home)) {
@@ -143,7 +143,7 @@ TEST(SampleHome, isTheSameEachTime) {
     EXPECT_GT(first.size(), 2000U);
 }
 
-TEST(SampleHome, isNeverMadeOverWhatIsThere) {
+TEST(SampleHome, refusesExistingFolder) {
     const TempFolder temp;
     std::filesystem::create_directories(temp / "full/child");
     int status = 0;
@@ -161,7 +161,7 @@ TEST(SampleHome, isNeverMadeOverWhatIsThere) {
     EXPECT_NE(status, 0);
 }
 
-TEST(SampleHome, isNeverTheUsersOwn) {
+TEST(SampleHome, refusesTheUsersHome) {
     const TempFolder temp;
     const std::string own = temp / "own";
     std::filesystem::create_directories(own);
@@ -174,7 +174,7 @@ TEST(SampleHome, isNeverTheUsersOwn) {
     EXPECT_TRUE(std::filesystem::is_empty(own));
 }
 
-TEST(SampleHome, growsAsASecondSurveyNotices) {
+TEST(SampleHome, growthIsVisibleInASecondSurvey) {
     const TempFolder temp;
     const std::string home = madeIn(temp, "--system linux");
     for (const std::string round : {"1", "2"}) {
@@ -196,7 +196,7 @@ TEST(SampleHome, growsAsASecondSurveyNotices) {
     }
 }
 
-TEST(SampleHome, hasAHistoryThatEndsWithWhatIsThere) {
+TEST(SampleHome, historyEndsWithTheCurrentState) {
     for (const auto& [system, support] :
          {std::pair<std::string, std::string>{"linux", "/.local/share"}, {"macos", "/Library/Application Support"}}) {
         const TempFolder temp;

@@ -89,7 +89,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Subvolumes, areEnteredLikeAnyFolderHoweverDeep) {
+TEST_F(Subvolumes, areEnteredAtAnyDepth) {
     makeSubvolume(root + "/sub");
     makeFile(root + "/sub/inside/file", 50'000);
     makeSubvolume(root + "/sub/inside/nested");
@@ -102,7 +102,7 @@ TEST_F(Subvolumes, areEnteredLikeAnyFolderHoweverDeep) {
     EXPECT_GE(scan({root}, 2).stats.totalBytes, 2 * 10'000 + 3 * 50'000);
 }
 
-TEST_F(Subvolumes, readOnlySnapshotsAreLeftOutAndWritableOnesAreNot) {
+TEST_F(Subvolumes, onlyReadOnlySnapshotsAreOmitted) {
     makeSubvolume(root + "/sub");
     makeFile(root + "/sub/inside/file", 50'000);
     makeSnapshot(root + "/sub", root + "/kept", true);
@@ -112,19 +112,19 @@ TEST_F(Subvolumes, readOnlySnapshotsAreLeftOutAndWritableOnesAreNot) {
     expectFolders(root, "before copy inside inside sub zulu", 4);
 }
 
-TEST_F(Subvolumes, aReadOnlySubvolumeThatIsNoSnapshotIsEntered) {
+TEST_F(Subvolumes, entersReadOnlySubvolumeThatIsNotASnapshot) {
     makeSubvolume(root + "/sub");
     makeFile(root + "/sub/inside/file", 50'000);
     ASSERT_TRUE(runs("btrfs property set -ts " + root + "/sub ro true"));
     expectFolders(root, "before inside sub zulu", 3);
 }
 
-TEST_F(Subvolumes, aSnapshotThatIsARootIsWalked) {
+TEST_F(Subvolumes, walksSnapshotGivenAsRoot) {
     makeSnapshot(volume, temp / "volume/kept", true);
     expectFolders(volume + "/kept/root", "before zulu", 2);
 }
 
-TEST_F(Subvolumes, filesOfTheSameNumberInTwoSubvolumesAreTwoFiles) {
+TEST_F(Subvolumes, sameInodeInTwoSubvolumesIsTwoFiles) {
     for (const std::string sub : {"/one", "/two"}) {
         makeSubvolume(root + sub);
         makeFile(root + sub + "/file", 100'000);
@@ -142,7 +142,7 @@ TEST_F(Subvolumes, filesOfTheSameNumberInTwoSubvolumesAreTwoFiles) {
                                         scan({root + "/zulu"}, 1).stats.totalBytes);
 }
 
-TEST_F(Subvolumes, mountsAmongThemAreStillLeftOut) {
+TEST_F(Subvolumes, mountsAmongThemAreOmitted) {
     makeSubvolume(root + "/sub");
     makeFolder(root + "/sub/mounted");
     makeFolder(root + "/again");
@@ -153,7 +153,7 @@ TEST_F(Subvolumes, mountsAmongThemAreStillLeftOut) {
 }
 
 // The first statx of the scan is that of the root, each other one that of a folder.
-TEST_F(Subvolumes, foldersInThemThatCannotBeLookedAtAreOpenedAllTheSame) {
+TEST_F(Subvolumes, foldersWithoutStatusAreOpened) {
     makeSubvolume(volume + "/folders/sub");
     makeFolder(volume + "/folders/sub/inside/low");
     for (unsigned failing = 1; failing <= 3; ++failing) {
@@ -165,7 +165,7 @@ TEST_F(Subvolumes, foldersInThemThatCannotBeLookedAtAreOpenedAllTheSame) {
     }
 }
 
-TEST_F(Subvolumes, oneThatDoesNotAnswerIsEntered) {
+TEST_F(Subvolumes, entersSubvolumeWhoseInfoIsRefused) {
     makeSubvolume(root + "/sub");
     makeFile(root + "/sub/inside/file", 50'000);
     makeSnapshot(root + "/sub", root + "/kept", true);
@@ -175,7 +175,7 @@ TEST_F(Subvolumes, oneThatDoesNotAnswerIsEntered) {
     EXPECT_EQ(found, "before inside inside kept sub zulu");
 }
 
-TEST_F(Subvolumes, areAskedForOnceAndNotInEachOfTheirFolders) {
+TEST_F(Subvolumes, areQueriedOnce) {
     makeSubvolume(root + "/sub");
     for (const std::string folder : {"/a", "/b", "/b/c"}) makeFolder(root + "/sub" + folder);
     unsigned asked = 0;

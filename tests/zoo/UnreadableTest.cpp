@@ -40,7 +40,7 @@ void expectWithoutPower(const std::vector<std::string>& roots, int workers, cons
 
 }  // namespace
 
-TEST(Unreadable, foldersAreCountedOnceEachAndNeverStopAWalk) {
+TEST(Unreadable, foldersAreCountedOnceAndDoNotStopTheWalk) {
     const TempFolder temp;
     const std::string root = temp / "root";
     makeUnreadable(root);
@@ -52,35 +52,35 @@ TEST(Unreadable, foldersAreCountedOnceEachAndNeverStopAWalk) {
     for (const int workers : {1, 8}) expectWithoutPower({root}, workers, {3, 16, 2 * unreadableFolders, 1});
 }
 
-TEST(Unreadable, folderOfWhichNotAllCanBeAskedIsBlockedWhole) {
+TEST(Unreadable, folderWithUnstatableEntryIsBlocked) {
     const TempFolder temp;
     makeFile(temp / "root/list/file", 1);
     ASSERT_EQ(chmod((temp / "root/list").c_str(), 0444), 0);
     expectWithoutPower({temp / "root"}, 2, {0, 1, 1, 1});
 }
 
-TEST(Unreadable, folderThatMayBeListedAndIsEmptyIsEmpty) {
+TEST(Unreadable, listableEmptyFolderIsEmpty) {
     const TempFolder temp;
     makeFolder(temp / "root/list");
     ASSERT_EQ(chmod((temp / "root/list").c_str(), 0444), 0);
     expectWithoutPower({temp / "root"}, 2, {0, 2, 0, 1});
 }
 
-TEST(Unreadable, rootIsOneBlockedPathAndKeepsItsNode) {
+TEST(Unreadable, rootIsBlockedAndKeepsItsNode) {
     const TempFolder temp;
     makeFile(temp / "root/file");
     ASSERT_EQ(chmod((temp / "root").c_str(), 0000), 0);
     expectWithoutPower({temp / "root"}, 2, {0, 0, 1, 1});
 }
 
-TEST(Unreadable, rootThatCannotEvenBeLookedAtIsPassedOver) {
+TEST(Unreadable, skipsRootWithoutStatus) {
     const TempFolder temp;
     makeFile(temp / "closed/root/file");
     ASSERT_EQ(chmod((temp / "closed").c_str(), 0000), 0);
     expectWithoutPower({temp / "closed/root"}, 2, {0, 0, 0, 0});
 }
 
-TEST(Unreadable, allRootsBlockedIsAFinishedScanAllTheSame) {
+TEST(Unreadable, scanFinishesWhenAllRootsAreBlocked) {
     const TempFolder temp;
     makeUnreadable(temp.path());
     expectWithoutPower({temp / "none", temp / "search", temp / "list"}, 2, {0, 0, 3, 3});
