@@ -5,19 +5,20 @@
 
 namespace zelk {
 
-/// How urgent a task is to the person in front of the screen.
+/// How urgently the user waits for a task.
 enum class TaskPriority { userInitiated, standard, utility };
 
-/// Work off the main thread: each task is a closure that owns all it touches. Safe from any thread.
+/// Runs closures off the main thread. Each task owns everything it touches. Safe from any thread.
 class BackgroundTasks {
 public:
     virtual ~BackgroundTasks() = default;
-    /// Runs `task` once, soon, beside others. On the caller's thread, before this returns, if the machine can make no
-    /// thread, or if the caller is such a task itself and all threads are busy: so give none while holding a lock that
-    /// it takes. However many tasks there are, only some dozens run at the same time: what may stall for good goes to
-    /// runApart(), and a task must not wait for one that another thread has yet to give.
+    /// Runs `task` once, concurrently with others. Runs it on the caller's thread, before returning, if no thread can
+    /// be started, or if the caller is itself such a task and all threads are busy; so never call this while holding a
+    /// lock that the task takes. The number of concurrent tasks is limited to some dozens: use runApart() for a task
+    /// that may block indefinitely, and never let a task wait for one that another thread has yet to submit.
     virtual void run(TaskPriority priority, std::function<void()> task) = 0;
-    /// The same on a thread of its own, so that a task that stalls, on another program say, holds up nothing else.
+    /// Like run(), but on a dedicated thread, so that a task that blocks, for example on another program, delays
+    /// nothing else.
     virtual void runApart(TaskPriority priority, std::function<void()> task) = 0;
 };
 

@@ -10,21 +10,21 @@ namespace {
 struct Unit {
     std::string_view name;
     std::int64_t bytes;
-    std::int64_t steps;  ///< how many parts of a unit are told apart: 1, 10 or 100, for 0, 1 or 2 decimals
+    std::int64_t steps;  ///< steps per unit: 1, 10 or 100, for 0, 1 or 2 decimals
 };
 
 constexpr std::int64_t thousand = 1000;
 constexpr std::int64_t million = 1000 * thousand;
 constexpr std::int64_t billion = 1000 * million;
 
-/// A signed 64-bit count ends within the exabytes.
+/// A signed 64-bit count reaches exabytes at most.
 constexpr std::array units{
     Unit{"KB", thousand, 1},           Unit{"MB", million, 10},
     Unit{"GB", billion, 100},          Unit{"TB", thousand* billion, 100},
     Unit{"PB", million* billion, 100}, Unit{"EB", billion* billion, 100},
 };
 
-/// `count` in steps of the unit, to the nearest one.
+/// `count` rounded to the nearest step of the unit.
 std::int64_t stepsOf(std::int64_t count, const Unit& unit) {
     const std::int64_t step = unit.bytes / unit.steps;  // even for every unit, so half a step is a whole number
     return count / step + (count % step >= step / 2 ? 1 : 0);
@@ -47,7 +47,7 @@ std::string byteText(std::int64_t count, std::string_view decimalSeparator) {
     if (count == 1) return "1 byte";
     if (count < thousand) return std::to_string(count) + " bytes";
 
-    // The first unit in which the rounded figure stays below 1000: rounding comes before the choice of the unit.
+    // Take the first unit in which the rounded figure stays below 1000: round before choosing the unit.
     const Unit* unit = units.data();
     std::int64_t steps = stepsOf(count, *unit);
     while (steps >= 1000 * unit->steps && unit != &units.back()) steps = stepsOf(count, *++unit);

@@ -9,18 +9,18 @@
 namespace zelk {
 
 struct ChildOutcome {
-    Failure launchFailure;  ///< set if no process came to be; the rest is then empty
-    int exitStatus = 0;     ///< what it ended with; of one that a signal ended, the signal's number; -1 if unknown
-    std::string output;     ///< the bytes of its standard output and standard error, in one
+    Failure launchFailure;  ///< set if no process could be started; the rest is then empty
+    int exitStatus = 0;     ///< exit status, or the number of the signal that killed it; -1 if unknown
+    std::string output;     ///< standard output and standard error, merged; raw bytes
 };
 
-/// Programs as children of this one. Blocking; safe from any thread.
+/// Runs programs as child processes. Blocking; safe from any thread.
 class ChildProcess {
 public:
     virtual ~ChildProcess() = default;
-    /// Starts the program at the path `executable` with `arguments` behind its name, in the working directory and the
-    /// environment of this process, both outputs into one pipe. Waits for its exit however long that takes, and only
-    /// then reads the pipe: a program that writes more than a pipe holds before it ends never ends.
+    /// Starts the program at the path `executable` (no search on PATH) with `arguments`, in this process's working
+    /// directory and environment, both outputs merged into one pipe. Waits for its exit without a timeout and only then
+    /// reads the pipe: a program that writes more than the pipe holds never exits.
     virtual ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments) = 0;
 };
 

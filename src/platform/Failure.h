@@ -6,8 +6,8 @@
 
 namespace zelk {
 
-/// What came of something that may fail: absent if it went well, otherwise why it did not, in the system's own words,
-/// for a person to read (UTF-8).
+/// The result of an operation that may fail: absent on success, otherwise the reason in the system's words, as UTF-8
+/// for display.
 using Failure = std::optional<std::string>;
 
 }  // namespace zelk

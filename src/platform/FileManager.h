@@ -12,41 +12,39 @@
 
 namespace zelk {
 
-/// What a path is, its own self and not a link's target.
+/// Properties of the entry at a path; of a link, not of its target.
 struct FileProperties {
     bool isDirectory = false;
     std::uint64_t allocatedSize = 0;  ///< bytes on disk; 0 on a directory
 };
 
-/// Files by their paths. Paths are bytes. Blocking; safe from any thread.
+/// File operations by path. Paths are bytes. Blocking; safe from any thread.
 class FileManager {
 public:
     virtual ~FileManager() = default;
 
-    /// Follows links, so a dangling one does not exist; nor does what lies beyond the longest path of the system.
+    /// Follows links, so a dangling link does not exist; nor does a path longer than the system's limit.
     virtual bool exists(const std::string& path) = 0;
     virtual std::optional<FileProperties> properties(const std::string& path) = 0;
     /// The names in a directory, without "." and "..", unsorted; absent if it cannot be listed.
     virtual std::optional<std::vector<std::string>> list(const std::string& path) = 0;
-    /// The bytes allocated by everything below the directory `path`, packages gone into, links not followed, what the
-    /// system hides (a leading dot; on macOS also a flag) left out with all it holds, and other volumes not gone into.
-    /// What cannot be read counts 0.
+    /// The bytes allocated below the directory `path`. Enters packages; does not follow links, enter other volumes or
+    /// count hidden entries (leading dot; on macOS also the hidden flag). Unreadable folders count 0.
     virtual std::uint64_t allocatedSizeBelow(const std::string& path) = 0;
 
-    /// The whole content; absent on any failure.
+    /// The whole content of a file; absent on any failure.
     virtual std::optional<std::string> read(const std::string& path) = 0;
-    /// Replaces `path` by `content` so that at every moment, a loss of power included, the old or the new content is
-    /// there, whole: temporary file beside it, checked writes, flush, rename, flush of the folder. The folder must
-    /// exist. False leaves the old content and no temporary file.
+    /// Atomically and durably replaces `path` by `content`: after a crash or power loss either the old or the new
+    /// content is there, whole. Writes a temporary file beside it, flushes, renames and flushes the folder, which must
+    /// exist. On false the old content is in place and no temporary file is left.
     virtual bool replaceDurably(const std::string& path, std::string_view content) = 0;
-    /// Creates `path` and what is missing above it. True if it is a directory afterwards.
+    /// Creates `path` and its missing parents. True if `path` is a directory afterwards.
     virtual bool createDirectories(const std::string& path) = 0;
 
-    /// Opens `path` for reading and closes it again: 0, or the errno of the opening.
+    /// Opens `path` for reading and closes it again. Returns 0 or the errno of open.
     virtual int tryOpen(const std::string& path) = 0;
-    /// Removes `item` for good, a folder with everything below it, a link without looking at its target; never what is
-    /// mounted below it, nor anything that was put in place of a part of the path while it works. On a failure some of
-    /// it may be gone.
+    /// Deletes `item` permanently: a folder with its contents, a link without touching its target. Never deletes what
+    /// is mounted below it, or what is swapped into the path meanwhile. After a failure, part of it may be gone.
     virtual Failure remove(const ItemPath& item) = 0;
 };
 

@@ -6,15 +6,15 @@
 
 namespace zelk {
 
-/// One spelling for a folder that may be spelt in several: single slashes, none at the end, no "." on the way. The
-/// bytes of the names stay as they are. ".." stays too, since only the disk knows where it leads behind a link. Of "."
-/// and its like "." is left, of "/" and its like "/", of an empty path nothing.
+/// Normalizes a folder path: single slashes, no trailing slash, no "." components. Names keep their bytes. ".." stays
+/// too, since only the disk knows where it leads behind a link. Paths equivalent to "." become ".", those equivalent to
+/// "/" become "/"; an empty path stays empty.
 std::string normalFolder(std::string_view path);
 
-/// Whether `path` is the normal folder `folder` or lies below it, by the texts alone.
+/// Whether `path` is the normalized folder `folder` or lies below it. Compares texts only.
 bool isInFolder(std::string_view path, std::string_view folder);
 
-/// `name` in the folder `folder`, which may be "/".
+/// The path of `name` in `folder`, which may be "/".
 std::string pathIn(std::string_view folder, std::string_view name);
 
 }  // namespace zelk

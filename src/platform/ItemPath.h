@@ -9,27 +9,26 @@
 
 namespace zelk {
 
-/// The path of something that may be taken away: absolute, with a name at its end, and nothing in it that leads
-/// elsewhere ("", ".", ".."). An empty path, a relative one, "/" and a path with a zero byte cannot be made into one,
-/// so nothing that removes can be handed one of them. Slashes at the end are dropped: of a link the link itself is
-/// meant.
+/// The path of an item that may be removed: absolute, ending in a name, without empty, "." or ".." components. Empty
+/// and relative paths, "/" and paths with a zero byte cannot be constructed, so no removing function can receive them.
+/// Trailing slashes are dropped, so a link always means the link itself.
 class ItemPath {
 public:
-    /// Absent if `path` is none.
+    /// Absent if `path` is not such a path.
     static std::optional<ItemPath> from(std::string_view path);
-    /// The same for what a walk found that began in `root` and followed no link behind it: whoever takes the item away
-    /// follows none either, so a folder on the way that was since swapped for a link leads nowhere. If `path` is not
-    /// below `root`, it is as if that were not known.
+    /// Like from(), for an item found by a walk that started at `root` and followed no link below it. Whoever removes
+    /// the item then follows none either, so a parent folder that was swapped for a link since then leads nowhere. A
+    /// `root` that does not contain `path` is ignored.
     static std::optional<ItemPath> below(std::string_view root, std::string_view path);
 
-    /// Begins with a slash and does not end with one; single slashes between.
+    /// Starts with a slash, has single slashes and no trailing one.
     const std::string& text() const { return text_; }
-    /// The folder that holds it: "/" or without a slash at its end.
+    /// The parent folder: "/" or a path without a trailing slash.
     std::string parent() const;
     std::string_view name() const;
-    /// The part of parent() in which links are followed.
+    /// The part of parent() in which links may be followed.
     std::string root() const;
-    /// The rest of parent(), in which none may be: relative, and empty if there is no rest.
+    /// The rest of parent(), in which links are refused: relative, possibly empty.
     std::string_view way() const;
 
     bool operator==(const ItemPath&) const = default;
@@ -38,7 +37,7 @@ private:
     explicit ItemPath(std::string text) : text_(std::move(text)), rootLength_(text_.rfind('/')) {}
 
     std::string text_;
-    std::size_t rootLength_;  ///< of "/" it is 0
+    std::size_t rootLength_;  ///< length of root(), 0 for "/"
 };
 
 }  // namespace zelk

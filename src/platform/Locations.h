@@ -8,19 +8,20 @@
 
 namespace zelk {
 
-/// Where things are for the user that runs Zelk. Fixed while it runs; safe from any thread.
+/// The folders of the user who runs Zelk. Constant while it runs; safe from any thread.
 class Locations {
 public:
     virtual ~Locations() = default;
-    /// The home folder, a normal folder; "/" for a user without one.
+    /// The home folder, normalized; "/" for a user without one.
     virtual std::string home() = 0;
-    /// The user's application support folder ("~/Library/Application Support"; the XDG data home on Linux). It may not
-    /// exist yet. Absent if the system names none.
+    /// The user's application support folder ("~/Library/Application Support"; on Linux the XDG data home), which may
+    /// not exist yet. Absent if the system defines none.
     virtual std::optional<std::string> applicationSupport() = 0;
-    /// The folder for the data of applications where the home is laid out by the rules of freedesktop.org, as on Linux;
-    /// absent on macOS. Such a home keeps caches in places of its own.
+    /// The XDG data home on systems that follow the freedesktop.org layout, as Linux does, with its own places for
+    /// caches; absent on macOS.
     virtual std::optional<std::string> xdgDataHome() = 0;
-    /// Where what was thrown away lies and is not offered again. None on macOS, where it is found like all else.
+    /// The Trash folders whose content is not offered for removal again. Empty on macOS, where the Trash is surveyed
+    /// like any folder.
     virtual TrashPlaces trashPlaces() = 0;
 };
 

@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-/// The services of the system that this build runs on, made once by app/ (and by the programs under bench/ and tools/).
+/// The platform services of this operating system, created once by app/ (and by the programs in bench/ and tools/).
 class NativePlatform {
 public:
     /// `home` replaces the user's home folder; empty takes the real one.
@@ -18,8 +18,8 @@ public:
 
     Platform& platform();
 
-    /// Waits for the background tasks and the scan threads to end, `seconds` at most. False if some are still busy (a
-    /// network volume that does not answer): they may still use the services, so the process must then end without
+    /// Waits up to `seconds` for background tasks and scan threads to end. False if some are still running (for example
+    /// on a network volume that does not answer): they may still use the services, so the process must exit without
     /// destroying anything.
     bool drain(double seconds);
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// All that the rest of the house needs of the operating system, filled once by app/ and by tests with fakes.
+// The services that the rest of the program needs from the operating system. app/ fills it once, tests fill it with
+// fakes.
 #pragma once
 
 #include "platform/BackgroundTasks.h"
@@ -14,7 +15,7 @@
 
 namespace zelk {
 
-/// References only; whoever fills it keeps the services alive for as long as anything uses them.
+/// Holds references only; its creator keeps the services alive while anything uses them.
 struct Platform {
     Clock& clock;
     DirectoryService& directories;

@@ -5,17 +5,17 @@
 
 namespace zelk {
 
-/// The few things that outlive a run, by key. Main thread.
+/// Persistent settings by key. Main thread.
 class Preferences {
 public:
     virtual ~Preferences() = default;
-    /// False if it was never set.
+    /// False if never set.
     virtual bool flag(const std::string& key) = 0;
-    /// A failed write is silent.
+    /// Ignores a failed write.
     virtual void setFlag(const std::string& key, bool value) = 0;
 };
 
-/// Whether the welcome pages have been finished: set once, never cleared by the program.
+/// Whether the welcome pages were completed; set once, never cleared by the program.
 inline constexpr const char* didOnboardKey = "zelk/didOnboard";
 
 }  // namespace zelk

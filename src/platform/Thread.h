@@ -7,11 +7,11 @@
 
 namespace zelk {
 
-/// Starts a detached thread. `name` is kept whole by the new thread itself (currentThreadName()); the kernel shows as
-/// much of it as it takes (15 characters on Linux). Throws std::system_error if no thread can be made.
+/// Starts a detached thread. The thread keeps the full `name` itself (currentThreadName()); the kernel may truncate it
+/// (15 characters on Linux). Throws std::system_error if no thread can be started.
 void startThread(std::string name, std::size_t stackBytes, std::function<void()> body);
 
-/// The full name that the calling thread was started with; empty on any other thread.
+/// The full name of the calling thread; empty if startThread() did not start it.
 const std::string& currentThreadName();
 
 }  // namespace zelk

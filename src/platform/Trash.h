@@ -11,23 +11,23 @@
 
 namespace zelk {
 
-/// The Trash. What is listed and emptied is the user's own in the home folder; an item of another volume goes to that
-/// volume's, which is not looked at afterwards. Blocking; safe from any thread.
+/// The user's Trash. list() and empty() work on the Trash in the home folder; an item on another volume goes to that
+/// volume's Trash, which they ignore. Blocking; safe from any thread.
 class Trash {
 public:
     virtual ~Trash() = default;
-    /// The folder that holds what was trashed: "~/.Trash" on macOS, "files" of the home trash on Linux.
+    /// The folder of trashed items: "~/.Trash" on macOS, "files" of the home trash on Linux.
     virtual std::string location() = 0;
-    /// The paths of what it holds, hidden ones too; absent if it may not be looked into. A Trash that nobody has used
-    /// yet is empty.
+    /// The paths of all trashed items, including hidden ones; absent if the folder cannot be read. A Trash that does
+    /// not exist yet is empty.
     virtual std::optional<std::vector<std::string>> list() = 0;
-    /// Moves `item` there, restorable by the system's own tools; of a link the link itself. On a failure it is where it
-    /// was. On Linux nothing that is put in place of a part of the path meanwhile leads elsewhere. On macOS the system
-    /// takes a path: what is put there between our look at the way and its move does.
+    /// Moves `item` to the Trash so that the system's tools can restore it; moves a link itself. On failure the item is
+    /// unchanged. On Linux, nothing that is swapped into the path meanwhile is followed. macOS takes a path, so a
+    /// folder swapped in between our check and its move is followed.
     virtual Failure trash(const ItemPath& item) = 0;
-    /// Removes for good what it holds, each entry on its own: one that cannot be removed stays, and the next goes on.
-    /// What is trashed meanwhile is left alone, and another emptying, of another process of this application too, waits
-    /// for its end. The number of entries removed.
+    /// Deletes the trashed items permanently, each on its own: continues after one that cannot be deleted. Leaves alone
+    /// what is trashed meanwhile, and waits for another emptying, including that of another process of Zelk. Returns
+    /// the number of deleted items.
     virtual std::size_t empty() = 0;
 };
 

@@ -7,20 +7,20 @@
 
 namespace zelk {
 
-/// The folders whose content was thrown away, as the "files" of a Trash. What lies in them uses space as before, but is
-/// not to be offered for removal once more. Paths are bytes; a value, safe from any thread.
+/// The folders that hold trashed items, such as the "files" of a Trash. Their contents still use space but are not
+/// offered for removal again. Paths are bytes. A value type, safe from any thread.
 class TrashPlaces {
 public:
-    /// None: nothing is known as thrown away.
+    /// Matches nothing.
     TrashPlaces() = default;
-    /// `folders` are whole paths without a slash at their end. `endings` begin with a slash and are how the path of
-    /// such a folder ends on any volume: those come and go, and where they are mounted is not for us to say.
+    /// `folders` are full paths without a trailing slash. `endings` start with a slash and match the end of a path on
+    /// any volume, since volumes may be mounted anywhere.
     TrashPlaces(std::vector<std::string> folders, std::vector<std::string> endings);
 
-    /// Whether `path`, without a slash at its end, is one of the folders. Allocates nothing: a walk asks it of every
+    /// Whether `path`, without a trailing slash, is one of the folders. Does not allocate: a walk asks this for every
     /// folder that it enters.
     bool areAt(std::string_view path) const;
-    /// Whether `path` is one of them or lies below one, however deep. A slash at its end makes no difference.
+    /// Whether `path` is one of the folders or lies below one, at any depth. Ignores a trailing slash.
     bool hold(std::string_view path) const;
 
 private:

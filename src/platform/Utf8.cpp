@@ -8,16 +8,16 @@ namespace zelk {
 
 namespace {
 
-/// How many bytes the character takes that begins with `first`; 0 if none begins so.
+/// The length of the character that starts with `first`; 0 if none starts with it.
 std::size_t lengthOf(std::uint8_t first) {
     if (first < 0x80) return 1;
-    if (first < 0xC2) return 0;  // a continuation, or two bytes for what one can say
+    if (first < 0xC2) return 0;  // a continuation byte or an overlong form
     if (first < 0xE0) return 2;
     if (first < 0xF0) return 3;
     return first < 0xF5 ? 4 : 0;
 }
 
-/// The second byte is where longer forms, surrogates and what lies beyond U+10FFFF show.
+/// Overlong forms, surrogates and values beyond U+10FFFF show in the second byte.
 bool maySecondFollow(std::uint8_t first, std::uint8_t second) {
     if (first == 0xE0) return second >= 0xA0;
     if (first == 0xED) return second < 0xA0;

@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-/// Whether all of `bytes` is UTF-8 in its shortest form, without surrogates and nothing beyond U+10FFFF.
+/// Whether `bytes` is valid UTF-8: shortest forms only, no surrogates, nothing beyond U+10FFFF.
 bool isUtf8(std::string_view bytes);
 
 }  // namespace zelk

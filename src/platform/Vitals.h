@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the operating system says of the machine. All reads are synchronous, cache nothing and fail to zeros or to
-// nothing; no probe reports an error.
+// The state of the machine. All reads are synchronous and uncached; a failed read gives zeros or nothing, never an
+// error.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 namespace zelk {
 
 struct DeviceInfo {
-    std::string computerName;  ///< "This Mac" ("This computer" on Linux) if the system gives none
+    std::string computerName;  ///< "This Mac" ("This computer" on Linux) if the system names none
     std::string chip;          ///< may be empty
     std::int64_t cores = 0;    ///< active processors
     std::uint64_t memoryBytes = 0;
@@ -20,7 +20,7 @@ struct DeviceInfo {
     bool operator==(const DeviceInfo&) const = default;
 };
 
-/// Bytes. Pages that can be had at once without loss count as free.
+/// In bytes. Pages that can be reclaimed at once without loss count as free.
 struct MemoryStats {
     std::uint64_t total = 0;
     std::uint64_t used = 0;
@@ -31,7 +31,7 @@ struct MemoryStats {
     bool operator==(const MemoryStats&) const = default;
 };
 
-/// Cumulative since the start of the system; the unit is the system's and cancels out.
+/// Cumulative since boot. The unit is the system's and cancels out.
 struct CPUTicks {
     double user = 0;
     double system = 0;
@@ -54,7 +54,7 @@ struct PowerInfo {
 struct VolumeInfo {
     std::int64_t total = 0;
     std::int64_t available = 0;
-    std::int64_t importantAvailable = 0;  ///< with what the system would purge for an important use
+    std::int64_t importantAvailable = 0;  ///< including what the system would purge for important data
 
     bool operator==(const VolumeInfo&) const = default;
 };
@@ -67,9 +67,9 @@ public:
     virtual MemoryStats memory() = 0;
     virtual std::optional<CPUTicks> ticks() = 0;
     virtual PowerInfo power() = 0;
-    /// `path` is any file or folder on the volume.
+    /// `path` may be any file or folder on the volume.
     virtual std::optional<VolumeInfo> volume(const std::string& path) = 0;
-    /// Seconds since the system started.
+    /// Seconds since boot.
     virtual double uptime() = 0;
 };
 

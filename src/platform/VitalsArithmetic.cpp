@@ -11,7 +11,7 @@ namespace zelk {
 
 namespace {
 
-/// No machine has so much memory that these overflow: going on would show a person figures that are made up.
+/// No real machine overflows these, and continuing would display invented figures.
 [[noreturn]] void impossibleMemory() {
     std::fputs("zelk: the system's memory figures overflow 64 bits\n", stderr);
     std::abort();
@@ -33,7 +33,7 @@ double busy(const CPUTicks& ticks) {
     return ticks.user + ticks.system + ticks.nice;
 }
 
-/// To the nearest whole number; a figure beyond 64 bits is cut off rather than undefined.
+/// Rounds to the nearest integer, clamped to 64 bits to avoid undefined behaviour.
 std::int64_t rounded(double value) {
     constexpr double limit = 9.2e18;
     return std::llround(std::clamp(value, -limit, limit));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The arithmetic of the probes, apart from the reading, so that both systems' sums are tested on either.
+// The calculations of the probes, separate from the reading, so that those of both systems are tested on either.
 #pragma once
 
 #include <cstdint>
@@ -18,25 +18,26 @@ struct PageCounts {
     std::uint64_t compressor = 0;
 };
 
-/// used = wired + active + compressor, capped at `total`; absent counts (a failed read) are nothing used.
+/// used = wired + active + compressor, capped at `total`. Absent counts (a failed read) mean that nothing is used.
 MemoryStats memoryFromPages(std::uint64_t total, std::uint64_t pageSize, const std::optional<PageCounts>& pages);
 
-/// The share of time not idle between two samples, 0 to 1, and the sample to keep for the next call. `nice` is busy.
+/// The share of busy time (user, system and nice) between two samples, 0 to 1, and the sample to keep for the next
+/// call.
 std::pair<double, std::optional<CPUTicks>> usageSince(const std::optional<CPUTicks>& previous,
                                                       const std::optional<CPUTicks>& current);
 
-/// The fields of one internal battery, each absent if the system does not tell it or tells it as another type.
+/// The fields of one internal battery, each absent if the system does not report it or reports another type.
 struct BatteryFields {
     std::optional<std::int64_t> currentCapacity;
     std::optional<std::int64_t> maxCapacity;
-    std::optional<std::string> powerSourceState;  ///< "AC Power" when plugged in
+    std::optional<std::string> powerSourceState;  ///< "AC Power" if plugged in
     std::optional<bool> isCharging;
 };
 
-/// No battery gives the default PowerInfo.
+/// Returns the default PowerInfo without a battery.
 PowerInfo powerFromBattery(const std::optional<BatteryFields>& battery);
 
-/// "macOS 14.5"; the patch level only from 1 up.
+/// A version such as "macOS 14.5"; a patch level of 0 is omitted.
 std::string versionText(std::string_view system, std::int64_t major, std::int64_t minor, std::int64_t patch);
 
 }  // namespace zelk

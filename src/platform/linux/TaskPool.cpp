@@ -13,10 +13,10 @@ namespace zelk {
 
 namespace {
 
-/// The pool that the calling thread belongs to.
+/// The pool of the calling thread.
 thread_local const TaskPool* ownPool = nullptr;
 
-/// The task is gone, with all that it held, before it counts as done.
+/// Destroys the task with its captures before it counts as done.
 void runCounted(std::function<void()> task) {
     task();
     task = nullptr;
@@ -33,8 +33,7 @@ void TaskPool::run(std::size_t rank, Task task) {
     beginWork();
     Way way = take(rank, task);
     if (way == Way::newThread) {
-        // Handed over, not copied: a copy on this side might be the last to go, and with it a large tree would be
-        // released on the caller's thread.
+        // Move, do not copy: a copy here might be destroyed last, releasing a large tree on the caller's thread.
         const auto box = std::make_shared<Task>(std::move(task));
         try {
             startThread(form_.threadName, stackBytes,
@@ -62,7 +61,7 @@ TaskPool::Way TaskPool::take(std::size_t rank, Task& task) {
     return Way::queued;
 }
 
-/// The same once a thread could not be made.
+/// Like take(), after starting a thread failed.
 TaskPool::Way TaskPool::takeWithoutThread(std::size_t rank, Task& task) {
     const std::lock_guard lock(mutex_);
     if (--threads_ == 0 || ownPool == this) return Way::here;
@@ -76,7 +75,7 @@ void TaskPool::enqueue(std::size_t rank, Task& task) {
     given_.notify_one();
 }
 
-/// Where the last thread could not be made, others may have relied on it.
+/// If the last thread failed to start, other callers may have relied on it.
 void TaskPool::workOffQueue() {
     Task task;
     while (true) {
@@ -91,12 +90,12 @@ void TaskPool::workOffQueue() {
 void TaskPool::work(Task task) {
     if (form_.niceness != 0) giveWay(form_.niceness);
     ownPool = this;
-    endWork();  // the thread's own count: what counts is its tasks
+    endWork();  // drop the thread's own count: only its tasks count
     do runCounted(std::move(task));
     while (next(task));
 }
 
-/// Waits for a task; false when the thread is to end, which then counts again until it has.
+/// Waits for a task. False if the thread is to end; it then counts again until it has.
 bool TaskPool::next(Task& task) {
     std::unique_lock lock(mutex_);
     ++idle_;

@@ -13,38 +13,38 @@
 
 namespace zelk {
 
-/// Makes the calling thread give way to others: its niceness is at least so much from now on. On Linux that is a
-/// thread's own, and it can never be lowered again.
+/// Raises the calling thread's niceness to at least `niceness`. On Linux this is per thread and cannot be undone.
 void giveWay(int niceness);
 
-/// Threads that are made as tasks come, up to a limit, and kept for a while when they have nothing to do. A task finds
-/// a thread of its own for as long as the limit allows; beyond it tasks wait, the urgent ones ahead of the others. Safe
-/// from any thread. Its threads hold it, so whoever made it calls close() instead of waiting for it to go.
+/// A thread pool that grows with its tasks up to a limit and keeps idle threads for a while. Beyond the limit tasks are
+/// queued, urgent ones first. Safe from any thread. Its threads keep it alive, so its owner calls close() instead of
+/// waiting for its destruction.
 class TaskPool : public std::enable_shared_from_this<TaskPool> {
 public:
-    static constexpr std::size_t ranks = 2;  ///< of urgency; 0 goes first
+    static constexpr std::size_t ranks = 2;  ///< priorities; 0 runs first
     static constexpr std::size_t stackBytes = 1024 * 1024;
 
     struct Form {
         std::string threadName;
         std::size_t mostThreads = 1;
-        int niceness = 0;  ///< of its threads, at least; 0 leaves them as they are
-        std::chrono::milliseconds keep = std::chrono::seconds(10);  ///< how long a thread without work stays
+        int niceness = 0;  ///< minimum niceness of its threads; 0 leaves it unchanged
+        std::chrono::milliseconds keep = std::chrono::seconds(10);  ///< how long an idle thread stays
     };
 
     explicit TaskPool(Form form) : form_(std::move(form)) {}
 
-    /// Runs `task` once on a thread of the pool. On the caller's where no thread can be made and there is none; and for
-    /// a task of this pool that gives another one while all threads are busy, so that it may wait for it.
+    /// Runs `task` once on a thread of the pool. Runs it on the caller's thread if the pool has no thread and none can
+    /// be started, or if the caller is a task of this pool and all threads are busy, so that a task may wait for its
+    /// subtask.
     void run(std::size_t rank, std::function<void()> task);
 
-    /// No task is given any more. Threads that have nothing to do end now, the others as soon as nothing is left;
-    /// drainThreads() waits for them, as it does for every task.
+    /// Call after the last run(). Idle threads end now, the others when no work is left; drainThreads() waits for them
+    /// as for every task.
     void close();
 
-    /// How many threads there are; those that are just being made count, too.
+    /// The number of threads, including those being started.
     std::size_t threadCount() const;
-    /// How many of them have nothing to do.
+    /// The number of idle threads.
     std::size_t idleCount() const;
 
 private:
@@ -65,7 +65,7 @@ private:
     std::condition_variable given_;
     std::array<std::deque<Task>, ranks> queues_;
     std::size_t queued_ = 0;
-    std::size_t threads_ = 0;  ///< never 0 while tasks are queued, but for the moment in which one fails to be made
+    std::size_t threads_ = 0;  ///< 0 while tasks are queued only while the last one fails to start
     std::size_t idle_ = 0;
     bool closed_ = false;
 };

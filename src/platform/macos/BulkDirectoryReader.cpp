@@ -21,12 +21,12 @@ namespace zelk {
 
 namespace {
 
-/// What a reader keeps from one directory to the next, beside its buffer. A directory of hundreds of thousands of
-/// entries needs more for a moment; that is given back, or every thread would end up holding as much.
+/// The memory that a reader keeps between directories, apart from its buffer. A directory of hundreds of thousands of
+/// entries needs more, which is released afterwards so that not every thread ends up holding it.
 constexpr std::size_t keptBytes = 1024 * 1024;
 
-/// What decodeBulkRecords() expects to find. The records have room for every attribute that was asked for, also where
-/// it does not apply; those of a directory end before the file attributes all the same.
+/// The request whose records decodeBulkRecords() decodes. Records have room for every requested attribute, even if it
+/// does not apply; only those of directories end before the file attributes.
 attrlist attributeRequest() {
     attrlist request{};
     request.bitmapcount = ATTR_BIT_MAP_COUNT;
@@ -38,12 +38,12 @@ attrlist attributeRequest() {
 constexpr std::uint64_t readOptions = FSOPT_NOFOLLOW | FSOPT_PACK_INVAL_ATTRS;
 
 #ifdef __APPLE__
-// The sizes that the decoder's offsets are made of.
+// The decoder's offsets are based on these sizes.
 static_assert(sizeof(attribute_set_t) == 20 && sizeof(attrreference_t) == 8 && sizeof(dev_t) == 4 &&
               sizeof(fsobj_type_t) == 4 && sizeof(timespec) == 16 && sizeof(off_t) == 8);
 #endif
 
-/// A root that knows what is mounted below it.
+/// A root with the mounts below it.
 class BulkRoot : public PosixRoot {
 public:
     explicit BulkRoot(int descriptor) : PosixRoot(descriptor) {
@@ -83,14 +83,14 @@ private:
         names_.clear();
         struct stat status;
         if (fstat(ladder_.current(), &status) != 0) return nullptr;
-        // Mounted since the root was opened: what lies in there is another volume's.
+        // Mounted after the root was opened: it belongs to another volume.
         if (status.st_dev != device_) return nullptr;
         const ListedDirectory listed{deviceOf(status), static_cast<TimePoint>(status.st_mtime)};
         attrlist request = attributeRequest();
         while (true) {
             errno = 0;
             const int count = getattrlistbulk(ladder_.current(), &request, buffer_.data(), buffer_.size(), readOptions);
-            // A failure that names no error is the end too; what was read by then is whole.
+            // A failure without an errno is the end too; what was read so far is complete.
             if (count == 0 || (count < 0 && errno == 0)) break;
             if (count < 0 || !take(static_cast<std::size_t>(count), listed)) return nullptr;
         }
@@ -99,7 +99,7 @@ private:
         return &entries_;
     }
 
-    /// The next call overwrites the buffer, so the names are set aside.
+    /// Copy the names: the next call overwrites the buffer.
     bool take(std::size_t count, const ListedDirectory& listed) {
         const std::size_t known = entries_.size();
         if (!decodeBulkRecords(buffer_, count, listed, entries_)) return false;
@@ -107,7 +107,7 @@ private:
         return true;
     }
 
-    /// Only when all names are there do they stay where they are.
+    /// Names stop moving only when all are there.
     void placeNames() {
         const char* name = names_.data();
         for (DirEntry& entry : entries_) {
@@ -116,8 +116,8 @@ private:
         }
     }
 
-    /// Their records have the device of the folders beneath the mounts. Which device is mounted nobody asks, only
-    /// whether it is this one.
+    /// The records of mount points have the device of the folder beneath. Only whether the device differs from the
+    /// root's matters, not which one it is.
     void tellMountPoints(const CoveredFolders::Names& names) {
         for (DirEntry& entry : entries_)
             if (entry.objType == directoryObjectType && names.contains(entry.name)) entry.deviceID = ~entry.deviceID;
@@ -130,11 +130,11 @@ private:
 
     DatalessFoldersStay dataless_;
     DirectoryLadder ladder_;
-    std::shared_ptr<const CoveredFolders> covered_;  ///< of the root below which it stands
+    std::shared_ptr<const CoveredFolders> covered_;  ///< of the current root
     dev_t device_ = 0;                               ///< the root's
     std::vector<std::byte> buffer_;
     Entries entries_;
-    std::string names_;  ///< of all entries, one behind the other
+    std::string names_;  ///< names of all entries, concatenated
 };
 
 }  // namespace

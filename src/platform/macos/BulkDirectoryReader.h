@@ -7,14 +7,14 @@
 
 namespace zelk {
 
-/// getattrlistbulk: the entries and all that is asked of them by one call per buffer full, and no call per entry. What
-/// is mounted below a root when it is opened has another device than the folder that holds it, as everywhere; what is
-/// mounted there later cannot be read. A reader is made, used and destroyed on one thread, which fetches no folder of
-/// cloud storage that is not on the disk meanwhile.
+/// Reads entries and their attributes with getattrlistbulk: one call per full buffer, none per entry. Folders below a
+/// root that were mounted when it was opened have another device than their parent, as everywhere; those mounted later
+/// cannot be read. A reader is created, used and destroyed on one thread, which meanwhile does not download folders
+/// from cloud storage.
 class BulkDirectoryService : public DirectoryService {
 public:
-    /// Nearly every directory fits into 256 KiB and is then read by one call. Each reader has a buffer of its own; it
-    /// must hold the largest record, or a directory with a longer name cannot be read.
+    /// Nearly every directory fits into 256 KiB and is read by one call. Each reader has its own buffer, which must
+    /// hold the largest record, else the directory cannot be read.
     explicit BulkDirectoryService(std::size_t bufferBytes = 256 * 1024) : bufferBytes_(bufferBytes) {}
 
     std::optional<RootStatus> status(const std::string& path) override;

@@ -10,9 +10,9 @@ namespace zelk {
 
 namespace {
 
-// Where the fields of a record stand. They are packed without padding, hence the odd places behind the link count. A
-// record without file attributes, such as a directory's, ends its fixed part where the link count of any other begins,
-// and what stands there are bytes of its name. One of an entry that could not be asked may have nothing but the name.
+// Offsets of a record's fields, which are packed without padding. A record without file attributes, such as a
+// directory's, ends its fixed part where others have the link count, followed by its name. The record of an entry with
+// an error may have nothing but the name.
 constexpr std::size_t lengthAt = 0;
 constexpr std::size_t returnedCommonAt = 4;
 constexpr std::size_t returnedFileAt = 16;
@@ -30,7 +30,7 @@ constexpr std::size_t returnedSetEnd = 24;
 constexpr std::size_t commonFixedPart = 64;
 constexpr std::size_t fileFixedPart = 76;
 
-// The kernel's own constants, by its names for them; the first stands in a header that only its extensions may include.
+// The kernel's constants, by its names; the first is in a header for kernel extensions only.
 constexpr std::uint32_t VDIR = 2;
 static_assert(VDIR == directoryObjectType);
 constexpr std::uint32_t returnedName = 0x00000001;       // ATTR_CMN_NAME
@@ -46,14 +46,14 @@ Value valueAt(std::span<const std::byte> record, std::size_t offset) {
     return value;
 }
 
-/// A name and how many bytes its reference says that it has, its end included.
+/// A name and the length that its reference states, including the terminator.
 struct ReferredName {
     std::string_view name;
     std::uint32_t length;
 };
 
-/// What the reference at `place` leads to, if it and the name's end lie within the record and the name is one that a
-/// file can have. A slash in it (from a broken file system) would make a path of it, which could lead out of the tree.
+/// Follows the reference at `place`, if it and the name's terminator are within the record and the name is a valid file
+/// name. A slash (from a damaged file system) would turn it into a path that may lead out of the tree.
 std::optional<ReferredName> nameBy(std::span<const std::byte> record, std::size_t place) {
     if (record.size() < place + nameReferenceSize) return std::nullopt;
     const std::int64_t start = static_cast<std::int64_t>(place) + valueAt<std::int32_t>(record, place);
@@ -71,8 +71,8 @@ std::optional<std::string_view> nameOf(std::span<const std::byte> record) {
     const auto common = valueAt<std::uint32_t>(record, returnedCommonAt);
     if ((common & returnedName) == 0) return std::nullopt;
     if ((common & returnedError) != 0) {
-        // The number of an error has its place before the name. Nobody asked for it, so it may be left out all the
-        // same: the reference is taken for one only if it agrees with what it leads to.
+        // An error number precedes the name. It was not requested, so it may be missing: accept the reference behind it
+        // only if its length matches the name.
         const auto behind = nameBy(record, nameReferenceBehindErrorAt);
         if (behind && behind->length == behind->name.size() + 1) return behind->name;
     }
@@ -80,7 +80,7 @@ std::optional<std::string_view> nameOf(std::span<const std::byte> record) {
     return referred ? std::optional(referred->name) : std::nullopt;
 }
 
-/// The bytes of the record that `rest` begins with, if there is one that says what it has.
+/// The first record in `rest`, if it is long enough to say what it contains.
 std::optional<std::span<const std::byte>> firstRecord(std::span<const std::byte> rest) {
     if (rest.size() < returnedSetEnd) return std::nullopt;
     const auto length = valueAt<std::uint32_t>(rest, lengthAt);
@@ -88,7 +88,7 @@ std::optional<std::span<const std::byte>> firstRecord(std::span<const std::byte>
     return rest.first(length);
 }
 
-/// What `record` says of the entry `name`, if it is long enough for what it says to hold.
+/// Decodes the entry `name`, if `record` is long enough for the attributes it claims.
 std::optional<DirEntry> entryOf(std::span<const std::byte> record, std::string_view name,
                                 const ListedDirectory& listed) {
     DirEntry entry{.name = name,

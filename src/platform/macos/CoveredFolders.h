@@ -14,19 +14,18 @@
 
 namespace zelk {
 
-/// The folders of a tree that something is mounted on. macOS's bulk call shows such a folder as it is beneath the
-/// mount, on the device of the tree; to open it is to go into the mount, and to wait where that is a dead server's.
-/// Immutable; safe from any thread.
+/// The folders of a tree that are mount points. macOS's bulk call describes the folder beneath the mount, on the device
+/// of the tree; opening it would enter the mount, and block if that is a dead server's. Immutable; safe from any
+/// thread.
 class CoveredFolders {
 public:
     using Names = std::set<std::string, std::less<>>;
 
     CoveredFolders() = default;
-    /// Those below the folder `top` (absolute, without links) by the table of the moment. Nothing that is mounted is
-    /// touched: only the folders above are looked at.
+    /// Those below the folder `top` (absolute, without links) in `table`. Accesses only the parents, never the mounts.
     CoveredFolders(std::string_view top, const std::vector<Mount>& table);
 
-    /// The covered ones among the subfolders of `folder`; null if there are none.
+    /// The mount points among the subfolders of `folder`; null if there are none.
     const Names* in(const struct stat& folder) const;
 
 private:

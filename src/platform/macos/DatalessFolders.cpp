@@ -12,7 +12,7 @@ constexpr int policy = IOPOL_TYPE_VFS_MATERIALIZE_DATALESS_FILES;
 }  // namespace
 
 DatalessFoldersStay::DatalessFoldersStay() : before_(getiopolicy_np(policy, IOPOL_SCOPE_THREAD)) {
-    // A system that refuses fetches as it always did; the survey is none the worse for it.
+    // If the system refuses, it downloads as before, which does not harm the survey.
     setiopolicy_np(policy, IOPOL_SCOPE_THREAD, IOPOL_MATERIALIZE_DATALESS_FILES_OFF);
 }
 

@@ -3,11 +3,10 @@
 
 namespace zelk {
 
-/// While this lives, nothing that the calling thread opens or lists is fetched from where a cloud service keeps it: a
-/// folder that is not on the disk cannot be read instead (EDEADLK). Made and destroyed on one thread, to which it gives
-/// back what held before.
+/// While this exists, opening and listing on this thread downloads nothing from cloud storage: a folder that is not on
+/// the disk fails with EDEADLK. Create and destroy it on one thread, whose policy it restores.
 ///
-/// This was compiled for macOS and tried against a stand-in for the call. It has not been run on a Mac.
+/// Compiled for macOS and tested with a stand-in for the call; never run on a Mac.
 class DatalessFoldersStay {
 public:
     DatalessFoldersStay();

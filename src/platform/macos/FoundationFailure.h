@@ -8,15 +8,15 @@
 
 namespace zelk {
 
-/// The system's own words for `error`. A failure that came with no error is one all the same.
+/// The system's description of `error`. A missing error is a failure too.
 inline Failure failureOf(NSError* error) {
     const char* const text = [[error localizedDescription] UTF8String];
     return text == nullptr || *text == '\0' ? "The operation couldn’t be completed." : text;
 }
 
-/// What `call` gives, or `otherwise(exception)` where Foundation throws: it answers what it takes for a programmer's
-/// mistake, such as a path that it cannot make an address of, by an exception. Of what a user has on the disk that is a
-/// failure like any other, and must not end the program.
+/// Returns `call()`, or `otherwise(exception)` if Foundation throws. It throws on what it considers programming errors,
+/// such as a path that it cannot convert; for a user's files that is an ordinary failure and must not crash the
+/// program.
 template <class Call, class Otherwise>
 auto unlessThrown(Call call, Otherwise otherwise) -> decltype(call()) {
     @try {
@@ -26,7 +26,7 @@ auto unlessThrown(Call call, Otherwise otherwise) -> decltype(call()) {
     }
 }
 
-/// The reason that `exception` was thrown for.
+/// The reason of `exception`.
 inline Failure failureOf(NSException* exception) {
     const char* const text = [[exception reason] UTF8String];
     return text == nullptr || *text == '\0' ? failureOf(static_cast<NSError*>(nil)) : text;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Between Foundation's objects and paths as bytes. Objective-C++ only.
+// Converts between Foundation objects and paths as bytes. Objective-C++ only.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -8,7 +8,7 @@
 
 namespace zelk {
 
-/// Takes the bytes as they are, which no way through an NSString promises. `path` is absolute.
+/// Keeps the bytes unchanged, which no conversion through NSString guarantees. `path` is absolute.
 inline NSURL* fileURL(const std::string& path, bool isDirectory) {
     return [NSURL fileURLWithFileSystemRepresentation:path.c_str() isDirectory:isDirectory relativeToURL:nil];
 }

@@ -8,7 +8,7 @@ namespace zelk {
 
 namespace {
 
-/// Asked for once: every mach_host_self() is one more reference that somebody would have to give back.
+/// Called once: every mach_host_self() adds a reference that would have to be released.
 mach_port_t host() {
     static const mach_port_t port = mach_host_self();
     return port;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the kernel tells of the machine by its own calls.
+// Kernel statistics.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,10 @@
 
 namespace zelk {
 
-/// The text of a sysctl, to its first zero byte; absent if there is none of that name.
+/// The text of a sysctl up to its first zero byte; absent if it does not exist.
 std::optional<std::string> sysctlText(const char* name);
 
-/// Bytes; 0 if the system does not say.
+/// In bytes; 0 if unknown.
 std::uint64_t kernelPageSize();
 
 std::optional<PageCounts> kernelPageCounts();

@@ -5,8 +5,8 @@
 
 namespace zelk {
 
-/// Sizes are Foundation's, which knows of a file's metadata and of files hidden by more than a dot. Names come from the
-/// system calls, since Foundation gives them in another normal form than the one on the disk.
+/// Sizes come from Foundation, which includes file metadata and knows hidden files without a leading dot. Names come
+/// from system calls, since Foundation changes their Unicode normalization.
 class MacFileManager : public FileManager {
 public:
     bool exists(const std::string& path) override;

@@ -17,7 +17,7 @@ namespace zelk {
 
 namespace {
 
-/// 0 where there is no such value, as on a folder.
+/// 0 without such a value, as for a folder.
 std::uint64_t allocatedSizeOf(NSURL* url) {
     NSNumber* bytes = nil;
     if (![url getResourceValue:&bytes forKey:NSURLTotalFileAllocatedSizeKey error:nil]) return 0;
@@ -25,7 +25,7 @@ std::uint64_t allocatedSizeOf(NSURL* url) {
 }
 
 void addAllocatedSizesBelow(const std::string& path, std::uint64_t& bytes) {
-    // Without an error handler the enumerator goes on behind what it cannot read.
+    // Without an error handler the enumerator skips what it cannot read.
     NSDirectoryEnumerator<NSURL*>* below =
         [[NSFileManager defaultManager] enumeratorAtURL:fileURL(path, true)
                              includingPropertiesForKeys:@[ NSURLTotalFileAllocatedSizeKey ]
@@ -65,7 +65,7 @@ std::optional<std::vector<std::string>> MacFileManager::list(const std::string& 
 std::uint64_t MacFileManager::allocatedSizeBelow(const std::string& path) {
     std::uint64_t bytes = 0;
     @autoreleasepool {
-        unlessThrown([&] { addAllocatedSizesBelow(path, bytes); }, [](NSException*) {});  // as far as it came
+        unlessThrown([&] { addAllocatedSizesBelow(path, bytes); }, [](NSException*) {});  // the sum so far
     }
     return bytes;
 }

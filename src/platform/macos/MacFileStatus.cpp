@@ -14,8 +14,7 @@ FileStatus statusFrom(const struct stat& told) {
     return {.device = device, .inode = told.st_ino, .mount = device, .mode = told.st_mode, .owner = told.st_uid};
 }
 
-/// Where the volume of everybody's files lies in full. Its folders also appear at "/" by themselves, and a path may be
-/// told in either form.
+/// The mount point of the data volume. Its folders also appear directly under "/", and a path may have either form.
 constexpr std::string_view dataVolume = "/System/Volumes/Data";
 
 }  // namespace
@@ -46,7 +45,7 @@ std::optional<std::string> pathOfDirectory(int descriptor) {
 std::vector<Mount> mountTable() {
     const int count = ::getfsstat(nullptr, 0, MNT_NOWAIT);
     if (count <= 0) return {};
-    std::vector<struct statfs> told(static_cast<std::size_t>(count) + 8);  // room for what is mounted meanwhile
+    std::vector<struct statfs> told(static_cast<std::size_t>(count) + 8);  // room for mounts added meanwhile
     const int got = ::getfsstat(told.data(), static_cast<int>(told.size() * sizeof told[0]), MNT_NOWAIT);
     std::vector<Mount> table;
     const auto add = [&](const struct statfs& one, std::string_view point) {

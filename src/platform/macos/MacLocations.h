@@ -7,7 +7,7 @@ namespace zelk {
 
 class MacLocations : public Locations {
 public:
-    /// `home` replaces the user's own with all that belongs to it; empty takes the real one.
+    /// `home` replaces the user's home and all folders below it; empty selects the real one.
     explicit MacLocations(const std::string& home);
 
     std::string home() override { return home_; }

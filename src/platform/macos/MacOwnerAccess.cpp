@@ -16,7 +16,7 @@ bool ownerMayAll(const FileStatus& status) {
     return (status.mode & S_IRWXU) == S_IRWXU;
 }
 
-/// Whether there is something to give, and it is this user's to give.
+/// Whether access is missing and this user may grant it.
 bool lacksAccess(const std::optional<FileStatus>& folder) {
     return folder && folder->isDirectory() && folder->owner == ::geteuid() && !ownerMayAll(*folder);
 }
@@ -38,7 +38,7 @@ bool giveOwnerAccess(int parent, const std::string& name) {
     const std::optional<FileStatus> above = fileStatus(parent);
     const std::optional<FileStatus> before = fileStatus(parent, name);
     if (!above || !lacksAccess(before) || before->mount != above->mount) return false;
-    // By its name, since a folder that may be neither read nor searched cannot be opened here; never through a link.
+    // By name, never through a link: a folder without read and search permission cannot be opened here.
     if (::fchmodat(parent, name.c_str(), opened(*before), AT_SYMLINK_NOFOLLOW) != 0) return false;
     const std::optional<FileStatus> after = fileStatus(parent, name);
     return after && after->isSameFile(*before) && ownerMayAll(*after);

@@ -32,7 +32,7 @@ Failure MacTrash::trash(const ItemPath& item) {
         return unlessThrown(
             [&]() -> Failure {
                 NSError* error = nil;
-                // No slash at the end of the URL whatever the item is: of a link the link itself is meant.
+                // Never a trailing slash, so that a link itself is moved.
                 if ([[NSFileManager defaultManager] trashItemAtURL:fileURL(item.text(), false)
                                                   resultingItemURL:nil
                                                              error:&error])

@@ -31,7 +31,7 @@ std::optional<std::string> text(id value) {
     return bytes != nullptr ? std::optional<std::string>(bytes) : std::nullopt;
 }
 
-/// The first power source that is built in.
+/// The first built-in power source.
 std::optional<BatteryFields> internalBattery() {
     id info = CFBridgingRelease(IOPSCopyPowerSourcesInfo());
     if (info == nil) return std::nullopt;

@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-/// The desktop by NSWorkspace.
+/// The desktop through NSWorkspace.
 class MacWorkspace : public Workspace {
 public:
     std::vector<std::string> runningApplications() override;

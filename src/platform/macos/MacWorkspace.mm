@@ -52,7 +52,7 @@ std::optional<IconPixels> MacWorkspace::icon(const std::string& path, bool /*isD
         if (image == nil || side < 1) return std::nullopt;
 
         const auto length = static_cast<std::size_t>(side);
-        std::vector<unsigned char> bytes(length * length * 4);  // of each pixel red, green, blue, opacity
+        std::vector<unsigned char> bytes(length * length * 4);  // red, green, blue and alpha of each pixel
         unsigned char* planes[] = {bytes.data()};
         NSBitmapImageRep* bitmap = [[NSBitmapImageRep alloc] initWithBitmapDataPlanes:planes
                                                                            pixelsWide:side

@@ -8,7 +8,7 @@
 
 namespace zelk {
 
-/// Owns an open file descriptor; -1 is none.
+/// Owns a file descriptor; -1 means none.
 class Descriptor {
 public:
     Descriptor() = default;
@@ -24,8 +24,8 @@ public:
     int get() const { return fd_; }
     int release() { return std::exchange(fd_, -1); }
 
-    /// False if the system reports an error, such as a write that it had put off. Closed either way, never twice: after
-    /// EINTR the number may already be another thread's.
+    /// False if close reports an error, such as a failed delayed write. The descriptor is closed either way and never
+    /// twice: after EINTR its number may already belong to another thread.
     bool close() {
         const int fd = std::exchange(fd_, -1);
         return fd < 0 || ::close(fd) == 0 || errno == EINTR;
@@ -35,7 +35,7 @@ private:
     int fd_ = -1;
 };
 
-/// Repeats a system call for as long as a signal interrupts it.
+/// Repeats a system call while it is interrupted by signals.
 template <class Call>
 auto uninterrupted(Call call) {
     auto result = call();

@@ -18,7 +18,7 @@ void raiseDescriptorLimit() {
 }
 
 std::int64_t readersWithinDescriptorLimit() {
-    constexpr rlim_t each = DirectoryLadder::maximumOpen + 4;  // and what is open for a moment on the way up or down
+    constexpr rlim_t each = DirectoryLadder::maximumOpen + 4;  // plus those open briefly while moving up or down
     constexpr rlim_t others = 128;
     rlimit limit;
     if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return 1;

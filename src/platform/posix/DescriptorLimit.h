@@ -5,11 +5,12 @@
 
 namespace zelk {
 
-/// Lets the process hold as many open descriptors as it may, within reason: the usual soft limits (256 on macOS) are
-/// fewer than the readers of a scan on a large machine keep open.
+/// Raises the process's descriptor limit, within reason: the usual soft limits (256 on macOS) are lower than the
+/// readers of a scan need on a large machine.
 void raiseDescriptorLimit();
 
-/// How many directory readers the limit as it is now allows at the same time, with some left for all else; 1 at least.
+/// How many directory readers the current limit allows concurrently, reserving some descriptors for everything else; at
+/// least 1.
 std::int64_t readersWithinDescriptorLimit();
 
 }  // namespace zelk

@@ -24,8 +24,8 @@ bool DirectoryLadder::start(int directory) {
 
 bool DirectoryLadder::descend(std::string_view name) {
     const int above = current();
-    // Nothing is opened below what could not be opened, so no descriptor is closed for it either: it might be the very
-    // one that the way back ends at, and no ".." leads there from here.
+    // Nothing can be opened below a failed level, so do not close a descriptor for it: it might be the one that the way
+    // back needs, and ".." does not lead there.
     if (above < 0) return push(-1);
     if (rungs_.size() - firstOpen_ >= maximumOpen) setOldestAside();
     return push(opener_(above, name));
@@ -42,7 +42,7 @@ bool DirectoryLadder::ascend() {
         if (left.fd >= 0) {
             const int fd = uninterrupted([&] { return openat(left.fd, "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
             struct stat status;
-            // A directory that was moved meanwhile has another one above it; that one is none of ours.
+            // A directory that was moved has another parent now, which is not ours.
             if (fd >= 0 && fstat(fd, &status) == 0 && status.st_dev == above.device && status.st_ino == above.inode)
                 above.fd = fd;
             else if (fd >= 0)
@@ -62,7 +62,7 @@ void DirectoryLadder::clear() {
 }
 
 bool DirectoryLadder::push(int fd) {
-    const int error = errno;  // why it could not be opened
+    const int error = errno;  // keep the reason of a failed open
     rungs_.push_back({.fd = fd});
     errno = error;
     return fd >= 0;

@@ -9,8 +9,8 @@
 
 namespace zelk {
 
-/// The names in `directory`, without "." and "..", unsorted, hidden ones too. Absent, with errno set, if they cannot be
-/// read to the end or `directory` is none. Takes the descriptor over and reads from where it stands.
+/// The names in `directory`, including hidden ones, without "." and "..", unsorted. Absent, with errno set, if they
+/// cannot be read completely. Takes ownership of the descriptor and reads from its current position.
 std::optional<std::vector<std::string>> directoryNames(Descriptor directory);
 
 }  // namespace zelk

@@ -20,12 +20,12 @@ namespace {
 constexpr std::string_view temporaryPrefix = ".zelk-write-";
 constexpr std::string_view hexDigits = "0123456789abcdef";
 constexpr std::size_t randomDigits = 16;
-constexpr int maximumLinks = 40;  // what the kernel itself follows
+constexpr int maximumLinks = 40;  // the kernel's own limit
 constexpr off_t maximumRead = off_t{256} << 20;
-constexpr std::size_t maximumWrite = std::size_t{1} << 30;  // macOS refuses 2 GiB at once
+constexpr std::size_t maximumWrite = std::size_t{1} << 30;  // macOS refuses 2 GiB in one call
 
 struct ResolvedFile {
-    std::string folder;  // with the slash at its end
+    std::string folder;  // with a trailing slash
     std::string name;
 };
 
@@ -49,7 +49,7 @@ std::optional<std::string> linkTarget(const std::string& path) {
     }
 }
 
-/// Where the file itself lies, or would lie, behind the links at the end of `path`.
+/// Resolves links at the end of `path` to the file, which need not exist.
 std::optional<ResolvedFile> resolve(std::string path) {
     for (int links = 0; links <= maximumLinks; ++links) {
         struct stat status {};
@@ -75,7 +75,7 @@ bool isTemporaryName(std::string_view name) {
            name.find_first_not_of(hexDigits, temporaryPrefix.size()) == std::string_view::npos;
 }
 
-/// Removes what killed writers left in `folder`; called when nobody is writing there.
+/// Removes the temporary files of killed writers from `folder`. Call it only while nobody writes there.
 void sweep(const Descriptor& folder) {
     const auto names = directoryNames(Descriptor(::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
     if (!names) return;
@@ -84,13 +84,14 @@ void sweep(const Descriptor& folder) {
     }
 }
 
-/// Every writer holds the folder's shared lock while its temporary file is there, so whoever gets the exclusive one
-/// knows that no temporary file in sight has a living writer. The lock goes with the descriptor, also when the process
-/// is killed. Where locks end (another machine on a network volume) the worst is that a writer finds its file swept and
-/// fails, the old content in place: names are random, so it never renames a file that another is still writing.
+/// Every writer holds a shared lock on the folder while its temporary file exists, so the holder of the exclusive lock
+/// knows that no temporary file has a living writer. The lock ends with the descriptor, also if the process is killed.
+/// Where locks do not reach (another machine on a network volume), the worst case is that a writer's file is swept and
+/// the write fails with the old content in place: names are random, so a writer never renames a file that another is
+/// still writing.
 void joinWriters(const Descriptor& folder) {
     if (::flock(folder.get(), LOCK_EX | LOCK_NB) == 0) sweep(folder);
-    // A sweep is over in a moment. Whoever holds the lock for longer is no writer of ours, and is not waited for.
+    // A sweep takes only a moment. Do not wait for a longer holder, which is not a writer of ours.
     constexpr timespec pause{0, 5'000'000};
     for (int attempt = 0; attempt < 100; ++attempt) {
         if (::flock(folder.get(), LOCK_SH | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
@@ -110,7 +111,7 @@ bool writeAll(const Descriptor& file, std::string_view content) {
 
 bool flush(const Descriptor& file) {
 #ifdef F_FULLFSYNC
-    // fsync() there leaves the data in the drive's own cache; not every volume knows the stronger call.
+    // On macOS, fsync() leaves the data in the drive's cache; not every volume supports the stronger call.
     if (uninterrupted([&] { return ::fcntl(file.get(), F_FULLFSYNC); }) == 0) return true;
 #endif
     return uninterrupted([&] { return ::fsync(file.get()); }) == 0;
@@ -121,7 +122,7 @@ Descriptor openFolder(const std::string& path) {
 }
 
 bool fill(Descriptor file, std::string_view content, mode_t mode) {
-    // Not every volume has permissions to set; the content counts for more, and 0600 shows it to nobody else.
+    // Ignore a failure: some volumes have no permissions, the content matters more, and 0600 is safe.
     static_cast<void>(::fchmod(file.get(), mode));
     return writeAll(file, content) && flush(file) && file.close();
 }
@@ -169,14 +170,14 @@ std::optional<std::string> readWholeFile(const std::string& path) {
     std::string content;
     std::size_t length = 0;
     for (;;) {
-        // One byte more than is expected, so that the end is met without growing again.
+        // Read one byte more than expected, to see the end without growing again.
         if (length == content.size()) content.resize(std::max<std::size_t>(status.st_size + 1, length * 2 + 4096));
         const ssize_t got =
             uninterrupted([&] { return ::read(file.get(), content.data() + length, content.size() - length); });
         if (got < 0) return std::nullopt;
         if (got == 0) break;
         length += static_cast<std::size_t>(got);
-        if (length > static_cast<std::size_t>(maximumRead)) return std::nullopt;  // it grows while it is read
+        if (length > static_cast<std::size_t>(maximumRead)) return std::nullopt;  // the file is growing
     }
     content.resize(length);
     return content;
@@ -188,7 +189,7 @@ bool createDirectoryTree(const std::string& path) {
         end = path.find('/', end + 1);
         const std::string folder = path.substr(0, end);
         if (isDirectory(folder)) continue;
-        // Another process may have been quicker.
+        // Another process may have created it first.
         if (::mkdir(folder.c_str(), 0700) != 0 && !isDirectory(folder)) return false;
         if (const Descriptor above = openFolder(split(folder).folder)) flush(above);
     }

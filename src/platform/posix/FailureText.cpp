@@ -15,7 +15,7 @@ unsigned byteAt(std::string_view text, std::size_t at) {
     return at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
 }
 
-/// Takes one character off `text`; of what is none, one byte.
+/// Removes and returns one character, or one byte of invalid UTF-8.
 char32_t takeCharacter(std::string_view& text) {
     const unsigned first = byteAt(text, 0);
     const std::size_t length = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;

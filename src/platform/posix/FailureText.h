@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a person reads when something could not be done. UTF-8.
+// Error messages for display, in UTF-8.
 #pragma once
 
 #include <string>
@@ -7,11 +7,11 @@
 
 namespace zelk {
 
-/// The bytes of a name as text: what is no UTF-8 becomes U+FFFD, and what would break the line or turn the direction of
-/// what follows becomes a visible mark.
+/// A displayable form of a name: invalid UTF-8 becomes U+FFFD; characters that break the line or change the text
+/// direction become visible marks.
 std::string readableName(std::string_view bytes);
 
-/// The system's own words for an errno, in the user's language where the locale has been set.
+/// The system's message for an errno, in the user's language if the locale is set.
 std::string systemText(int error);
 
 /// `“name” WHAT: REASON`, as in `“notes.txt” couldn’t be removed: Permission denied`.

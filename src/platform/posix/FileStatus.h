@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a file is and on which mount it lies: on Linux two mounts of one device have the same device number, so the
-// mount's own number is what tells whether a step leads into another one. macOS has no such mounts and no such number;
-// there it is the device's.
+// The identity of a file and of its mount. On Linux two mounts of one device share its device number, so only the mount
+// id shows whether a step enters another mount. macOS has no such mounts; there the mount id is the device number.
 #pragma once
 
 #include <sys/stat.h>
@@ -19,32 +18,32 @@ namespace zelk {
 struct FileStatus {
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
-    std::uint64_t mount = 0;  ///< unique among the mounts of the moment
+    std::uint64_t mount = 0;  ///< unique among the current mounts
     mode_t mode = 0;
     uid_t owner = 0;
 
     bool isDirectory() const { return S_ISDIR(mode); }
     bool isSameFile(const FileStatus& other) const { return device == other.device && inode == other.inode; }
-    /// Whether what lies in one directory can be moved into the other.
+    /// Whether entries of one directory can be renamed into the other.
     bool isOnVolumeOf(const FileStatus& other) const { return device == other.device && mount == other.mount; }
 };
 
-/// Of what the descriptor is open on. Absent, with errno set, on a failure.
+/// The status of an open file. Absent, with errno set, on failure.
 std::optional<FileStatus> fileStatus(int descriptor);
-/// Of `name` in the directory `folder`, its own self where it is a link. On Linux no mount is woken by asking.
+/// The status of `name` in `folder`, not following links. On Linux this triggers no automount.
 std::optional<FileStatus> fileStatus(int folder, const std::string& name);
 
-/// Opens the subdirectory `name` of `parent`, which must be neither a link nor on another mount (errno EXDEV). -1, with
-/// errno set, on a failure.
+/// Opens the subdirectory `name` of `parent`, which must be neither a link nor on another mount (errno EXDEV). Returns
+/// -1 with errno set on failure.
 int openSubdirectoryOnMount(int parent, std::string_view name);
-/// The same where no call of the system does it at once: looked at before it is opened, so that what is mounted is
-/// never woken, and after, because it may have been swapped.
+/// Like openSubdirectoryOnMount() without a system call for it: checks the mount before opening, so that no automount
+/// is triggered, and after, in case it was swapped.
 int openAndCompareMounts(int parent, const std::string& name);
 
-/// The path, without links, that leads to the directory now; absent if it is longer than the system can tell.
+/// The current path of an open directory, without links; absent if the system cannot return it because of its length.
 std::optional<std::string> pathOfDirectory(int descriptor);
 
-/// What is mounted; empty where the system does not tell.
+/// The mounted file systems; empty if unknown.
 std::vector<Mount> mountTable();
 
 }  // namespace zelk

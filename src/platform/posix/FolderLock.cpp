@@ -11,7 +11,7 @@ namespace zelk {
 
 bool lockFolder(int folder, int operation, Descriptor& held) {
     held = Descriptor();
-    // A descriptor of its own, because the lock belongs to that and not to the process.
+    // Open a separate descriptor: the lock belongs to it and not to the process.
     Descriptor own(uninterrupted([&] { return ::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
     if (!own) return false;
     if (uninterrupted([&] { return ::flock(own.get(), operation); }) == 0) {

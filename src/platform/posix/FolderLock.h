@@ -5,9 +5,9 @@
 
 namespace zelk {
 
-/// Locks the open directory `folder` against other processes and other threads: `operation` is that of flock(2), which
-/// may wait. The lock lasts until `held` is closed. True without `held` where the volume knows no locks, so that there
-/// is nobody to wait for; false, with errno set, if it could not be had.
+/// Locks the open directory `folder` against other processes and threads with the flock(2) `operation`, which may
+/// block. The lock lasts until `held` is closed. Returns true without `held` on volumes without locks, where nobody can
+/// hold one; false, with errno set, on failure.
 bool lockFolder(int folder, int operation, Descriptor& held);
 
 }  // namespace zelk

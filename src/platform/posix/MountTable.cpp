@@ -16,8 +16,8 @@ const Mount* findMount(const std::vector<Mount>& table, std::uint64_t id) {
     return found == table.end() ? nullptr : &*found;
 }
 
-/// Where `path`, which is `folder` or below it, goes on behind it; absent if it is neither. With its slash at the
-/// front.
+/// The rest of `path` behind `folder`, with a leading slash; empty if they are equal, absent if `path` is not in
+/// `folder`.
 std::optional<std::string_view> pathBehind(std::string_view folder, std::string_view path) {
     while (folder.ends_with('/')) folder.remove_suffix(1);
     while (path.ends_with('/')) path.remove_suffix(1);
@@ -27,7 +27,7 @@ std::optional<std::string_view> pathBehind(std::string_view folder, std::string_
     return path;
 }
 
-/// Where on the device of `mount` that is which has the path `path` there; absent if it is not on that mount.
+/// The path on the mount's device that `path` refers to; absent if it is not on that mount.
 std::optional<std::string> pathOnDevice(const Mount& mount, std::string_view path) {
     const std::optional<std::string_view> behind = pathBehind(mount.point, path);
     if (!behind) return std::nullopt;

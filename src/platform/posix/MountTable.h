@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What /proc/self/mountinfo says. Pure functions: any text in, what can be understood of it out.
+// Parses /proc/self/mountinfo. Pure functions over any text, which skip what they do not understand.
 #pragma once
 
 #include <cstdint>
@@ -12,26 +12,26 @@ namespace zelk {
 
 struct Mount {
     std::uint64_t id = 0;
-    std::uint64_t parent = 0;  ///< the mount that its point lies on
-    std::string device;        ///< the same text for all mounts of one device
-    std::string root;          ///< the folder of the device that is to be seen at the point
-    std::string point;         ///< absolute, without a slash at its end but for "/"
+    std::uint64_t parent = 0;  ///< the mount that contains its mount point
+    std::string device;        ///< equal for all mounts of one device
+    std::string root;          ///< the folder of the device that is mounted
+    std::string point;         ///< absolute mount point without a trailing slash, or "/"
 
     bool operator==(const Mount&) const = default;
 };
 
-/// One mount a line; lines of another form are passed over.
+/// Parses one mount per line and skips malformed lines.
 std::vector<Mount> parseMountTable(std::string_view mountinfo);
 
-/// Where the mount `id` is mounted; absent if the table does not have it.
+/// The mount point of the mount `id`; absent if it is not in the table.
 std::optional<std::string> mountPointOf(const std::vector<Mount>& table, std::uint64_t id);
 
-/// Whether something is mounted below the folder `path` (absolute, no links in it). `path` itself does not count.
+/// Whether anything is mounted below the folder `path` (absolute, without links), not counting `path` itself.
 bool isMountedBelow(const std::vector<Mount>& table, std::string_view path);
 
-/// The same for the folder's files and whatever other paths lead to it, by which something may be mounted in it too:
-/// what holds a mount can be removed by none of them. `mount` is that of the folder, whose own self counts where the
-/// mount is at another path.
+/// Like isMountedBelow(), but also considers other paths to the same folder and mounts over its files: a folder that
+/// holds a mount cannot be removed by any path. `mount` is the folder's mount. The folder itself counts where it is
+/// mounted on under another path.
 bool isMountedAnywhereIn(const std::vector<Mount>& table, std::uint64_t mount, std::string_view path);
 
 }  // namespace zelk

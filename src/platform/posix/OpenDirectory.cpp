@@ -18,12 +18,12 @@ namespace zelk {
 
 namespace {
 
-// O_DIRECTORY also keeps the open of a pipe, which would wait for a writer, from ever starting.
+// O_DIRECTORY also prevents opening a pipe, which would block waiting for a writer.
 constexpr int directoryFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 #ifdef __linux__
 constexpr int lookupFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
 #else
-constexpr int lookupFlags = O_SEARCH | O_CLOEXEC;  // says O_DIRECTORY too
+constexpr int lookupFlags = O_SEARCH | O_CLOEXEC;  // includes O_DIRECTORY
 #endif
 
 int openAt(int parent, const char* path, int flags) {
@@ -34,7 +34,7 @@ int openAt(int parent, const char* path, int flags) {
     return fd;
 }
 
-/// One component after the other, each relative to the last and none a link.
+/// Opens component by component, each relative to the previous one and none through a link.
 int openByComponents(int rootFd, std::string_view below, int flags) {
     int at = openAt(rootFd, ".", flags);
     while (at >= 0 && !below.empty()) {
@@ -51,7 +51,8 @@ int openByComponents(int rootFd, std::string_view below, int flags) {
     return at;
 }
 
-/// `path` in pieces that the kernel takes, `openPiece(parent, piece)` for each. Gives the last descriptor.
+/// Splits `path` into pieces within the kernel's limit and calls `openPiece(parent, piece)` for each. Returns the last
+/// descriptor.
 template <class OpenPiece>
 int openInPieces(int start, std::string_view path, const OpenPiece& openPiece) {
     constexpr std::size_t longest = PATH_MAX - 1;
@@ -85,7 +86,7 @@ int openFollowing(const std::string& path, int flags) {
 
 #ifdef __linux__
 
-// One call for the whole path where the kernel has it (5.6) and no filter forbids it.
+// Opens the whole path in one call, if the kernel has it (5.6) and no filter forbids it.
 int openWithoutLinks(int parent, const char* path, int flags) {
     open_how how{};
     how.flags = static_cast<unsigned>(flags | O_NOFOLLOW);
@@ -108,8 +109,8 @@ int openBeneath(int rootFd, std::string_view below, int flags) {
         const int fd = openInPieces(rootFd, below,
                                     [flags](int at, const char* piece) { return openWithoutLinks(at, piece, flags); });
         if (fd >= 0 || (errno != ENOSYS && errno != EPERM)) return fd;
-        // EPERM: some container filters refuse what they do not know. It is tried again the slow way; a directory that
-        // is itself forbidden fails there too.
+        // EPERM: some container filters refuse unknown system calls. Retry the slow way; a directory that is really
+        // forbidden fails there too.
         if (errno == ENOSYS) openat2Missing.store(true, std::memory_order_relaxed);
     }
 #endif

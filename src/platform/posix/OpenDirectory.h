@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Opening directories by descriptor. All functions give -1 on failure and set errno.
+// Opens directories. All functions return -1 and set errno on failure.
 #pragma once
 
 #include <string>
@@ -7,18 +7,17 @@
 
 namespace zelk {
 
-/// Opens the scan root `path`, of any length. Links are followed: a root that is a link is the folder behind it.
+/// Opens the scan root `path`, of any length, following links.
 int openRootDirectory(const std::string& path);
 
-/// The same for a directory in which only names are to be looked up: it need not be readable, and cannot be listed.
+/// Like openRootDirectory(), for lookups only: the directory need not be readable and cannot be listed.
 int openForLookups(const std::string& path);
 
-/// Opens the directory `below` (relative, of any length; empty is `rootFd`'s own directory) under `rootFd`. No
-/// component may be a symbolic link and none may lead up, so neither a tree that changes meanwhile nor ".." leads
-/// outside.
+/// Opens the directory `below` (relative, of any length; empty means `rootFd` itself) under `rootFd`. Refuses symbolic
+/// links and ".." in every component, so a tree that changes meanwhile cannot lead outside.
 int openDirectoryBeneath(int rootFd, std::string_view below);
 
-/// The same for a directory in which only names are to be looked up.
+/// Like openDirectoryBeneath(), for lookups only.
 int openForLookupsBeneath(int rootFd, std::string_view below);
 
 /// Opens the subdirectory `name` of `parentFd`, which must not be a link.

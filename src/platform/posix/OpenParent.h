@@ -8,16 +8,15 @@
 
 namespace zelk {
 
-/// Opens the folder that holds `item`, for looking names up, by the way that the item was found: where a link has been
-/// put in place of one of its folders since then, it fails instead of being led elsewhere. Without a descriptor, and
-/// with errno set, on a failure.
+/// Opens the parent folder of `item` for lookups, by the way that the item was found: fails if one of its folders was
+/// swapped for a link since then. Returns no descriptor, with errno set, on failure.
 Descriptor openParent(const ItemPath& item);
 
-/// What openParent() would fail with, and 0 where it would not or where any link may be followed: asked by those who
-/// then leave the way to the system, and take its word for all else.
+/// The errno that openParent() would fail with; 0 if it would succeed or if links may be followed anywhere. For callers
+/// that then leave the path to the system and report its errors instead.
 int errorOnWay(const ItemPath& item);
 
-/// Why openParent() failed, by its errno, for a person.
+/// The displayable reason of an openParent() failure, by its errno.
 std::string reasonOfParent(const ItemPath& item, int error);
 
 }  // namespace zelk

@@ -5,11 +5,11 @@
 
 namespace zelk {
 
-/// Lets the owner of the folder `folder`, an open one or one opened for lookups, read, change and search it. False if
-/// that changes nothing: it is another user's, its owner may do all that already, or its volume keeps no permissions.
+/// Grants the owner of the open folder `folder` (lookups suffice) read, write and search permission. False if nothing
+/// changed: it belongs to another user, the owner has all permissions already, or the volume has none.
 bool giveOwnerAccess(int folder);
 
-/// The same for the folder `name` in `parent`, which must be neither a link nor on another mount.
+/// Like giveOwnerAccess(folder), for `name` in `parent`, which must be neither a link nor on another mount.
 bool giveOwnerAccess(int parent, const std::string& name);
 
 }  // namespace zelk

@@ -18,15 +18,14 @@ namespace zelk {
 namespace {
 
 #ifdef __APPLE__
-// No call there makes a pipe that closes itself in a child from the first moment. Whoever makes one or starts a child
-// holds this lock.
+// macOS has no call that creates a close-on-exec pipe atomically. Creating a pipe and starting a child hold this lock.
 std::mutex& startingChildren() {
     static std::mutex lock;
     return lock;
 }
 #endif
 
-/// The two ends, or errno in `error`. No child that is started meanwhile on another thread gets them.
+/// The two ends of a pipe, or errno in `error`. Children started by other threads do not inherit them.
 struct Pipe {
     Pipe() {
         int ends[2];
@@ -48,7 +47,7 @@ struct Pipe {
     Descriptor writing;
 };
 
-/// What a child is to find open.
+/// The open files of a child.
 class Outputs {
 public:
     explicit Outputs(int descriptor) {
@@ -62,7 +61,7 @@ public:
         ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDERR_FILENO);
 #ifdef __GLIBC__
 #if __GLIBC_PREREQ(2, 34)
-        // Ours close themselves; these are what this process was itself given by whoever started it.
+        // Ours are close-on-exec; this closes descriptors inherited from whoever started this process.
         ::posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
 #endif
 #endif
@@ -90,7 +89,7 @@ ChildOutcome notLaunched(int error) {
     return {std::generic_category().message(error), 0, {}};
 }
 
-/// 0, or the error.
+/// Returns 0 or the error.
 int spawn(const std::string& executable, const std::vector<std::string>& arguments, const Pipe& pipe, pid_t& child) {
     std::vector<char*> words{const_cast<char*>(executable.c_str())};
     for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
@@ -104,7 +103,7 @@ int spawn(const std::string& executable, const std::vector<std::string>& argumen
 
 int waitForExit(pid_t child) {
     int status = 0;
-    // Whoever started this process may have told the system to forget its children: then nobody knows.
+    // The parent of this process may have set SIGCHLD to ignored: then the status is unknown.
     if (uninterrupted([&] { return ::waitpid(child, &status, 0); }) < 0) return -1;
     return WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status);
 }

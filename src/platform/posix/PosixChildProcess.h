@@ -5,8 +5,8 @@
 
 namespace zelk {
 
-/// Children by posix_spawn(). They inherit the environment, the working directory, the standard input and the signal
-/// mask, and no other descriptor: a child that held another's pipe open would keep that one's reader waiting.
+/// Starts children with posix_spawn(). They inherit the environment, working directory, standard input and signal mask,
+/// but no other descriptor: a child that kept another's pipe open would keep that one's reader waiting.
 class PosixChildProcess : public ChildProcess {
 public:
     ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments) override;

@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-/// The machine's own clocks.
+/// The system clocks.
 class PosixClock : public Clock {
 public:
     TimePoint now() override { return seconds(std::chrono::system_clock::now().time_since_epoch()); }

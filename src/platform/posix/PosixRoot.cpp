@@ -21,7 +21,7 @@ namespace {
 bool statFollowing(const std::string& path, struct stat& status) {
     if (stat(path.c_str(), &status) == 0) return true;
     if (errno != ENAMETOOLONG) return false;
-    const int fd = openRootDirectory(path);  // only a directory can be reached in pieces, and only one is of use
+    const int fd = openRootDirectory(path);  // only directories can be opened in pieces, and only they are useful
     if (fd < 0) return false;
     const bool known = fstat(fd, &status) == 0;
     close(fd);

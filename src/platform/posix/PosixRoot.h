@@ -16,7 +16,7 @@ namespace zelk {
 /// A scan root as an open descriptor.
 class PosixRoot : public DirectoryRoot {
 public:
-    /// Takes `descriptor` over.
+    /// Takes ownership of `descriptor`.
     explicit PosixRoot(int descriptor) : descriptor_(descriptor) {}
     PosixRoot(const PosixRoot&) = delete;
     PosixRoot& operator=(const PosixRoot&) = delete;
@@ -28,7 +28,7 @@ private:
     int descriptor_;
 };
 
-/// The device of what was asked about, by the same arithmetic as the readers' entries have theirs.
+/// The device number in the form that directory entries use.
 std::int32_t deviceOf(const struct stat& status);
 
 std::optional<RootStatus> posixRootStatus(const std::string& path);

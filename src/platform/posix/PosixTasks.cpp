@@ -36,7 +36,7 @@ void takePriority(TaskPriority priority) {
 void runBoxed(void* box) {
     auto* task = static_cast<Task*>(box);
     (*task)();
-    delete task;  // with all that it held, before it counts as done
+    delete task;  // release its captures before it counts as done
     endWork();
 }
 

@@ -10,16 +10,16 @@ namespace zelk {
 
 class TaskPool;
 
-/// On macOS the system's own queues run the tasks. On Linux two pools do: what somebody waits for has threads of its
-/// own and is not held up by ten thousand tasks that can wait, whose threads are niced and could not be made urgent
-/// again. drainThreads() waits for all tasks. Those that were given run to their end also when this has gone.
+/// On macOS the system's queues run the tasks. On Linux two pools do: urgent tasks have threads of their own, so that
+/// ten thousand patient tasks do not delay them; the threads of the latter are niced for good. drainThreads() waits for
+/// all tasks. Submitted tasks run to their end even after this is destroyed.
 class ThreadTasks : public BackgroundTasks {
 public:
-    /// Together 64: more than a disk has use for, and few enough for a desktop that does other things as well.
+    /// Together 64: more than a disk can use, and few enough to leave the desktop responsive.
     static constexpr std::size_t mostUrgentThreads = 20;
     static constexpr std::size_t mostPatientThreads = 44;
 
-    /// On Linux a thread without work stays for `keep`.
+    /// On Linux an idle thread stays for `keep`.
     explicit ThreadTasks(std::chrono::milliseconds keep = std::chrono::seconds(10));
     ThreadTasks(const ThreadTasks&) = delete;
     ThreadTasks& operator=(const ThreadTasks&) = delete;

@@ -28,8 +28,8 @@ namespace {
 
 constexpr std::string_view what = "couldn’t be removed";
 
-/// How often a folder may turn out not to be what it was when it was listed: filled again, or swapped for something
-/// else. Whoever is still writing there wins in the end.
+/// How often a folder may change after it was listed: be refilled or swapped for something else. Then a process that
+/// keeps writing there wins.
 constexpr int maximumSurprises = 100;
 
 bool unlinkFile(int folder, const char* name) {
@@ -40,7 +40,7 @@ bool unlinkFolder(int folder, const char* name) {
     return ::unlinkat(folder, name, AT_REMOVEDIR) == 0 || errno == ENOENT;
 }
 
-/// What a refused unlink of `name` means: Linux says so of a folder, other systems' volumes forbid it.
+/// Whether a refused unlink of `name` means that it is a folder: Linux returns EISDIR, other systems EPERM.
 bool isFolderAfter(int error, int folder, const std::string& name) {
     if (error == EISDIR) return true;
     if (error != EPERM) return false;
@@ -52,8 +52,8 @@ std::string reasonOfRemoval(int error) {
     return error == EXDEV ? "another volume is mounted there" : systemText(error);
 }
 
-/// Goes through a tree with its own stack: the folders of each level that are still to be removed, the deepest level
-/// last. A folder stays on the list while it is being emptied, so the last name of a level is the way down from it.
+/// Removes a tree iteratively. Keeps the folders still to be removed, level by level, deepest last. A folder stays
+/// listed while it is being emptied, so the last name of a level is the way down from it.
 class TreeRemover {
 public:
     TreeRemover(int parent, const std::string& name) : parent_(parent), names_{name}, starts_{0} {}
@@ -67,15 +67,15 @@ public:
     }
 
 private:
-    /// The directory it stands in; -1 if it was lost on the way back.
+    /// The current directory; -1 if it was lost on the way back.
     int current() const { return starts_.size() == 1 ? parent_ : ladder_.current(); }
 
     bool descend(const std::string& name) {
         return starts_.size() == 1 ? ladder_.start(openSubdirectoryOnMount(parent_, name)) : ladder_.descend(name);
     }
 
-    /// Does `call` in the directory it stands in, and again once its owner may change it. The folder that holds the
-    /// item is not part of what is to go, and stays as it is.
+    /// Runs `call` in the current directory, and again after granting its owner access. Never changes the folder that
+    /// holds the item, which is not to be removed.
     template <class Call>
     bool inFolder(Call call) {
         if (call()) return true;
@@ -85,7 +85,7 @@ private:
         return false;
     }
 
-    /// After it could not go into `name`: true if it may by now.
+    /// After entering `name` failed: grants access. True if entering may succeed now.
     bool openToOwner(const std::string& name) {
         const bool here = starts_.size() > 1 && giveOwnerAccess(ladder_.current());
         return giveOwnerAccess(current(), name) || here;
@@ -103,13 +103,13 @@ private:
             case ENOENT:
                 break;
             case EACCES:
-                if (openToOwner(name)) return true;  // it stays on the list
+                if (openToOwner(name)) return true;  // retry: it stays listed
                 [[fallthrough]];
-            case EPERM:  // one that may not be listed may still be empty
+            case EPERM:  // an unreadable folder may still be empty
                 if (!unlinkFolder(current(), name.c_str())) return failOnLast(error);
                 break;
             case ENOTDIR:
-            case ELOOP:  // swapped for something else since it was listed
+            case ELOOP:  // swapped since it was listed
                 if (!unlinkFile(current(), name.c_str())) return errno == EISDIR ? surprise(error) : failOnLast(errno);
                 break;
             default:
@@ -119,7 +119,7 @@ private:
         return true;
     }
 
-    /// Up from a folder of which nothing is left that it knows of.
+    /// Leaves a folder that is empty as far as known, and removes it.
     bool leave() {
         starts_.pop_back();
         if (starts_.empty()) return true;
@@ -130,7 +130,7 @@ private:
             names_.pop_back();
             return true;
         }
-        // It stays on the list, and is gone into or removed as what it now is.
+        // It stays listed, and is entered or removed as what it is now.
         const bool changed = errno == ENOTEMPTY || errno == EEXIST || errno == ENOTDIR;
         return changed ? surprise(errno) : failOnLast(errno);
     }
@@ -144,7 +144,7 @@ private:
         const std::unique_ptr<DIR, decltype(close)> stream(copy ? ::fdopendir(copy.get()) : nullptr, close);
         if (!stream) return fail(own, isItem, errno);
         copy.release();
-        // The listing comes first: some systems pass over entries where others are removed meanwhile.
+        // List first: some systems skip entries if others are removed meanwhile.
         std::vector<std::string> files;
         for (;;) {
             errno = 0;
@@ -166,7 +166,7 @@ private:
 
     bool surprise(int error) { return ++surprises_ <= maximumSurprises || failOnLast(error); }
 
-    /// The folder that it wanted to enter or to remove.
+    /// Fails on the folder that was to be entered or removed.
     bool failOnLast(int error) { return fail(names_.back(), names_.size() == 1, error); }
 
     bool fail(const std::string& name, bool isItem, int error) {
@@ -178,7 +178,7 @@ private:
     int parent_;
     DirectoryLadder ladder_{openSubdirectoryOnMount};
     std::vector<std::string> names_;
-    std::vector<std::size_t> starts_;  ///< where in names_ each level begins; the first is the parent's
+    std::vector<std::size_t> starts_;  ///< index in names_ of each level; the first is the parent's
     int surprises_ = 0;
     Failure failure_;
 };

@@ -10,24 +10,23 @@
 
 namespace zelk {
 
-/// Removes `name` from the directory `parent` for good, a folder with everything below it, and stops at the first thing
-/// that cannot be removed.
+/// Permanently deletes `name` from the directory `parent`, a folder with its contents. Stops at the first failure.
 ///
-/// - All of it by descriptors, each opened in the one above: neither the depth of a tree nor the length of its paths
-///   matters, and nothing that is put in place of a folder meanwhile leads elsewhere.
-/// - Links are removed and not followed.
-/// - What is mounted, from another volume or from elsewhere on this one, stays. A folder with a mount below it is
-///   refused before anything of it is gone, also where the mount is at another path of the same folder.
-/// - A folder below `name`, and `name` itself, that its owner may not read or change is opened to the owner, where that
-///   is this user: the person wants it gone, and half of it gone would be the worst. No other permission is changed.
-/// - What somebody else removes meanwhile is well removed; only `name` itself has to be there at the start.
+/// - Opens every folder relative to its parent: neither depth nor path length matters, and nothing that is swapped in
+///   meanwhile is followed.
+/// - Removes links without following them.
+/// - Never removes what is mounted, from another volume or from elsewhere on this one. Refuses a folder with a mount
+///   below it before removing anything, also if the mount is under another path of the same folder.
+/// - Grants this user access to `name` and folders below it where their permissions forbid it: half a removed item
+///   would be worse. Changes no other permission.
+/// - Ignores entries that others remove meanwhile; only `name` itself must exist at the start.
 Failure removeEntry(int parent, const std::string& name);
 
-/// The same for an item of a survey, which is reached by the way that it was found. Waits for its turn.
+/// Like removeEntry(), for an item that a scan found, reached by the way it was found. Waits for a permit.
 Failure removeItem(const ItemPath& item);
 
-/// Removes what `folder` holds, each entry on its own and in its turn: one that cannot be removed stays, and the next
-/// goes on. The number of entries removed.
+/// Permanently deletes the contents of `folder`, each entry on its own and with its own permit, and continues after
+/// failures. Returns the number of deleted entries.
 std::size_t removeEntriesOf(const Descriptor& folder);
 
 }  // namespace zelk

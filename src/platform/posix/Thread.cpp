@@ -24,9 +24,8 @@ struct Start {
 
 thread_local std::string threadName;
 
-// Detached threads cannot be joined, so the running ones are counted, and with them what runs on the system's own: who
-// closes the process waits for them here.
-// Never destroyed, since a thread may outlive main().
+// Detached threads cannot be joined, so running threads, and tasks on the system's queues, are counted for
+// drainThreads() to wait for. Never destroyed, since a thread may outlive main().
 struct Running {
     std::mutex mutex;
     std::condition_variable none;
@@ -42,7 +41,7 @@ void setKernelName(const std::string& name) {
 #ifdef __APPLE__
     pthread_setname_np(name.c_str());
 #else
-    // Linux refuses a name over 15 characters instead of cutting it.
+    // Linux refuses names longer than 15 characters instead of truncating.
     pthread_setname_np(pthread_self(), name.substr(0, 15).c_str());
 #endif
 }
@@ -53,7 +52,7 @@ void* threadMain(void* argument) {
         threadName = start->name;
         setKernelName(threadName);
         start->body();
-    }  // what the body owned is gone before the thread counts as ended
+    }  // release the body before the thread counts as ended
     endWork();
     return nullptr;
 }
@@ -74,7 +73,7 @@ void startThread(std::string name, std::size_t stackBytes, std::function<void()>
         endWork();
         throw std::system_error(error, std::generic_category(), "starting a thread");
     }
-    static_cast<void>(start.release());  // the new thread owns it
+    static_cast<void>(start.release());  // owned by the new thread
 }
 
 const std::string& currentThreadName() {
@@ -88,12 +87,12 @@ void beginWork() {
 void endWork() {
     Running& all = running();
     if (--all.count != 0) return;
-    const std::lock_guard lock(all.mutex);  // who waits has either seen the zero or sleeps by now
+    const std::lock_guard lock(all.mutex);  // a waiter has either seen zero or is asleep by now
     all.none.notify_all();
 }
 
 bool drainThreads(double seconds) {
-    constexpr double longest = 1e9;  // a clock's point in time more than 292 years ahead would overflow: no wait at all
+    constexpr double longest = 1e9;  // a deadline more than 292 years ahead would overflow
     Running& all = running();
     std::unique_lock lock(all.mutex);
     const std::chrono::duration<double> limit(std::min(seconds, longest));

@@ -3,12 +3,12 @@
 
 namespace zelk {
 
-/// Waits until every thread of startThread() has ended and all work of beginWork() is done, `seconds` at most. False if
-/// something is still under way. Call it from a thread that was not started that way.
+/// Waits up to `seconds` until every thread of startThread() has ended and all work of beginWork() is done. False if
+/// something is still running. Call it from a thread that startThread() did not start.
 bool drainThreads(double seconds);
 
-/// Work that drainThreads() waits for although it has no thread of its own. Each is paired with one endWork(), on any
-/// thread. A thread that idles between two pieces of work calls them the other way about, and counts for nothing.
+/// Announces work for drainThreads() that has no thread of its own. Pair each beginWork() with one endWork(), on any
+/// thread. A thread that idles between tasks calls them in reverse order, so that it does not count while idle.
 /// beginWork() takes no lock.
 void beginWork();
 void endWork();

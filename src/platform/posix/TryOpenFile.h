@@ -9,8 +9,8 @@
 
 namespace zelk {
 
-/// Opens `path` for reading and closes it again: 0, or the errno of the opening. Never waits on a pipe, and takes no
-/// terminal.
+/// Opens `path` for reading and closes it again. Returns 0 or the errno of open. Never blocks on a pipe or acquires a
+/// controlling terminal.
 inline int tryOpenFile(const std::string& path) {
     constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
     const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), flags); }));

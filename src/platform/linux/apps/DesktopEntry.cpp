@@ -11,7 +11,7 @@ namespace zelk {
 
 namespace {
 
-/// Every value is written with these escapes; a backslash before anything else stays.
+/// Decodes the escapes of a value; a backslash before any other character is kept.
 std::string withoutEscapes(std::string_view value) {
     constexpr std::string_view letters = "sntr\\";
     constexpr std::string_view meanings = " \n\t\r\\";
@@ -29,7 +29,7 @@ std::string withoutEscapes(std::string_view value) {
     return text;
 }
 
-/// Words are parted by blanks; in double quotes a blank is a blank, and a backslash takes the next for what it is.
+/// Splits a command at blanks. In double quotes, blanks are kept and a backslash quotes the next character.
 std::vector<std::string> wordsOf(std::string_view line) {
     std::vector<std::string> words;
     bool inWord = false;
@@ -53,7 +53,7 @@ std::vector<std::string> wordsOf(std::string_view line) {
     return words;
 }
 
-/// A key, perhaps with a language in brackets behind it.
+/// A key with an optional locale in brackets.
 struct Key {
     explicit Key(std::string_view text) : name(text) {
         const std::size_t bracket = text.find('[');
@@ -95,7 +95,7 @@ private:
     }
 
     const std::vector<std::string>& locales_;
-    std::size_t nameRank_;  ///< of the name at hand: the place of its language, behind all for everybody's
+    std::size_t nameRank_;  ///< rank of the current name's locale; the largest for the unlocalized name
 };
 
 }  // namespace
@@ -107,7 +107,7 @@ std::optional<DesktopEntry> parseDesktopEntry(std::string_view text, const std::
         const std::string_view line = trimmed(takeLine(text));
         if (line.empty() || line.front() == '#') continue;
         if (line.front() == '[') {
-            if (inGroup) break;  // actions and the like follow
+            if (inGroup) break;  // actions and other groups follow
             if (line != "[Desktop Entry]") return std::nullopt;
             inGroup = true;
             continue;

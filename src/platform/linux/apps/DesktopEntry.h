@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the desktop files of applications say. Pure functions: any bytes in.
+// Parses the desktop entries of applications. Pure functions over any bytes.
 #pragma once
 
 #include <optional>
@@ -10,21 +10,21 @@
 namespace zelk {
 
 struct DesktopEntry {
-    std::string name;                  ///< UTF-8, in the wanted language; empty if it has none
+    std::string name;                  ///< UTF-8, in the best available language; may be empty
     std::vector<std::string> command;  ///< the words of Exec, unquoted, field codes ("%U") as they stand
-    std::string tryExec;               ///< a program without which the application is not there; often empty
+    std::string tryExec;  ///< a program that must exist for the application to count as installed; often empty
     bool isApplication = false;
-    bool hidden = false;     ///< counts as deleted
-    bool noDisplay = false;  ///< is in no menu
+    bool hidden = false;     ///< treated as deleted
+    bool noDisplay = false;  ///< shown in no menu
 };
 
-/// Absent if `text` does not begin with the group "Desktop Entry". `locales` are the languages that the name may be in,
-/// the best first; without any of them it is the one for everybody. Of a key that stands twice the last counts; a name
-/// that is not UTF-8 does not count.
+/// Absent if `text` does not start with the group "Desktop Entry". `locales` are the preferred languages of the name,
+/// best first; the unlocalized name is the fallback. The last of duplicate keys wins; names that are not UTF-8 are
+/// ignored.
 std::optional<DesktopEntry> parseDesktopEntry(std::string_view text, const std::vector<std::string>& locales);
 
-/// The languages in which a user of `locale` ("de_AT.UTF-8@euro") is addressed, the best first: "de_AT@euro", "de_AT",
-/// "de@euro", "de". None for "C" and "POSIX".
+/// The locales to look up for a user of `locale` ("de_AT.UTF-8@euro"), most specific first: "de_AT@euro", "de_AT",
+/// "de@euro", "de". Empty for "C" and "POSIX".
 std::vector<std::string> localesOf(std::string_view locale);
 
 }  // namespace zelk

@@ -16,8 +16,8 @@ namespace zelk {
 
 namespace {
 
-/// The shell puts the program into the background and ends at once, so it is the init process that the program is left
-/// to. To do the same by fork() would copy the tables of a large process.
+/// The shell starts the program in the background and exits at once, so that init adopts the program. Doing the same
+/// with fork() would copy the page tables of a large process.
 void startThroughShell(const std::vector<std::string>& command) {
     std::vector<std::string> words{"/bin/sh", "-c", "\"$@\" </dev/null >/dev/null 2>&1 &", "sh"};
     words.insert(words.end(), command.begin(), command.end());

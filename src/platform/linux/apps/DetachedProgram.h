@@ -6,9 +6,9 @@
 
 namespace zelk {
 
-/// Starts a program, looked for on the PATH, that lives on its own: no child of this process, in a session of its own,
-/// so that it ends with nobody and leaves nothing to be waited for. Its output is dropped. Comes back at once; a
-/// failure is silent. `command` is the program and its arguments.
+/// Starts a program from the PATH independently of this process: not as its child, in a session of its own, so that it
+/// survives this process and leaves no zombie. Discards its output, returns at once and ignores failures. `command` is
+/// the program and its arguments.
 void startDetached(std::vector<std::string> command);
 
 }  // namespace zelk

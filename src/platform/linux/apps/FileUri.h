@@ -6,8 +6,7 @@
 
 namespace zelk {
 
-/// The "file:" URI of an absolute path: every byte but letters, digits and "-._~/" percent-encoded, so that any path is
-/// plain text in it.
+/// The "file:" URI of an absolute path, every byte except unreserved characters percent-encoded.
 std::string fileUri(std::string_view path);
 
 }  // namespace zelk

@@ -26,7 +26,7 @@ namespace zelk {
 namespace {
 
 constexpr std::string_view entrySuffix = ".desktop";
-constexpr int deepestFolder = 8;  // links may lead round in circles
+constexpr int deepestFolder = 8;  // links may form cycles
 constexpr off_t largestEntry = 1 << 20;
 
 std::string environment(const char* variable, const char* otherwise) {
@@ -34,7 +34,7 @@ std::string environment(const char* variable, const char* otherwise) {
     return value == nullptr || *value == '\0' ? otherwise : value;
 }
 
-/// The absolute folders of a list as the environment has them.
+/// The absolute folders of a colon-separated environment variable.
 std::vector<std::string> foldersIn(std::string_view list) {
     std::vector<std::string> folders;
     while (!list.empty())
@@ -47,7 +47,7 @@ bool isProgram(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && ::access(path.c_str(), X_OK) == 0;
 }
 
-/// The path of what `word` names; absent if there is no such program.
+/// The path of the program that `word` names; absent if there is none.
 std::optional<std::string> findProgram(const std::string& word, const std::vector<std::string>& folders) {
     if (word.find('/') != std::string::npos)
         return word.starts_with('/') && isProgram(word) ? std::optional(word) : std::nullopt;
@@ -65,7 +65,8 @@ std::string_view lastComponent(std::string_view path) {
     return path.substr(path.rfind('/') + 1);
 }
 
-/// Whether the program runs what others have written, so that its running says nothing of any of them.
+/// Whether the program is an interpreter or launcher that many applications share, so that its process identifies none
+/// of them.
 bool runsManyApplications(std::string_view program) {
     constexpr std::array names{
         "bash",         "dash",  "dbus-launch", "dbus-send",   "electron",  "env",      "flatpak", "fish",
@@ -79,7 +80,7 @@ bool runsManyApplications(std::string_view program) {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// The words of the line that names a script's interpreter; empty if the file is no script.
+/// The words of a script's "#!" line; empty if the file is not a script.
 std::vector<std::string> interpreterLine(const std::string& path) {
     constexpr std::size_t longest = 256;  // the kernel's own limit
     const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
@@ -95,7 +96,7 @@ std::vector<std::string> interpreterLine(const std::string& path) {
     return words;
 }
 
-/// The words without what goes before the program in "env A=B program".
+/// Drops "env" with its options and assignments from the start of a command.
 std::vector<std::string> withoutEnv(std::vector<std::string> words) {
     if (words.empty() || lastComponent(words.front()) != "env") return words;
     const auto program = std::find_if(words.begin() + 1, words.end(), [](const std::string& word) {
@@ -105,7 +106,7 @@ std::vector<std::string> withoutEnv(std::vector<std::string> words) {
     return words;
 }
 
-/// Fills in what the application runs; nothing where it is not its own.
+/// Sets the application's program, unless it only starts a shared one.
 void findOwnProgram(InstalledApplication& application, const std::vector<std::string>& command,
                     const std::vector<std::string>& folders) {
     const std::vector<std::string> words = withoutEnv(command);
@@ -133,7 +134,7 @@ class Collection {
 public:
     explicit Collection(const ApplicationPlaces& places) : places_(places) {}
 
-    /// `prefix` is what the folder adds to the ids of what is in it.
+    /// `prefix` is what the folder's path adds to the ids of its entries.
     void addFolder(const std::string& folder, const std::string& prefix, int depth) {
         std::vector<std::string> names =
             directoryNames(Descriptor(openRootDirectory(folder))).value_or(std::vector<std::string>());
@@ -154,7 +155,8 @@ public:
 
 private:
     void addEntry(const std::string& path, const std::string& id) {
-        if (!ids_.insert(id).second) return;  // even one that hides the application stands for all that follow
+        if (!ids_.insert(id).second)
+            return;  // the first entry of an id hides all later ones, even if it is hidden itself
         const auto entry = parseDesktopEntry(readWholeFile(path).value_or(""), places_.locales);
         if (!entry || !entry->isApplication || entry->hidden || entry->noDisplay || entry->name.empty()) return;
         if (!entry->tryExec.empty() && !findProgram(entry->tryExec, places_.programs)) return;
@@ -168,7 +170,7 @@ private:
     std::vector<InstalledApplication> applications_;
 };
 
-/// An interpreter's options stand before the script.
+/// The script is the first argument that is not an option of the interpreter.
 bool runsScript(const RunningProcess& process, const InstalledApplication& application) {
     if (process.arguments.empty()) return false;
     const auto script = std::find_if(process.arguments.begin() + 1, process.arguments.end(),
@@ -182,7 +184,7 @@ bool belongsTo(const RunningProcess& process, const InstalledApplication& applic
     if (std::find(ids.begin(), ids.end(), application.id) != ids.end()) return true;
     if (application.program.empty()) return false;
     if (application.interpreter.empty()) return process.executable == application.program;
-    // A script that ends by becoming another program may hand its own path on to it as its name.
+    // A script that execs another program may pass on its own path as the process name.
     if (!process.arguments.empty() &&
         (process.arguments.front() == application.programAsNamed || process.arguments.front() == application.program))
         return true;

@@ -8,35 +8,35 @@
 
 namespace zelk {
 
-/// An application that a desktop shows in its menus.
+/// An application shown in desktop menus.
 struct InstalledApplication {
-    std::string id;    ///< of its desktop entry, "org.kde.kate" for "org.kde.kate.desktop"
+    std::string id;    ///< id of its desktop entry: "org.kde.kate" for "org.kde.kate.desktop"
     std::string name;  ///< UTF-8, in the user's language
-    /// Its own program: as the entry names it, and with links resolved. Both empty if it has none of its own, such as a
-    /// page in a browser or what a package runner starts.
+    /// Its program, as the entry names it and with links resolved. Both empty if it has no program of its own, such as
+    /// a web page in a browser or a package behind a runner.
     std::string programAsNamed;
     std::string program;
-    /// What runs the program, links resolved; empty if the program runs itself.
+    /// The program's interpreter, links resolved; empty if it needs none.
     std::string interpreter;
 };
 
-/// Where to look, in the order of precedence.
+/// Search folders in order of precedence.
 struct ApplicationPlaces {
-    std::vector<std::string> entries;   ///< the folders of desktop entries
-    std::vector<std::string> programs;  ///< the folders of programs that are named without one
-    std::vector<std::string> locales;   ///< the user's languages, the best first
+    std::vector<std::string> entries;   ///< folders of desktop entries
+    std::vector<std::string> programs;  ///< folders of programs that are named without a path
+    std::vector<std::string> locales;   ///< the user's locales, best first
 
-    /// What the environment says; `dataHome` is the user's own data folder.
+    /// Reads the environment; `dataHome` is the user's data folder.
     static ApplicationPlaces ofEnvironment(const std::string& dataHome);
 };
 
-/// Each id once: an entry of the user's own stands for the system's. What is hidden, in no menu, without a name or not
-/// really there is left out.
+/// Lists each id once; the user's entries override the system's. Omits entries that are hidden, in no menu, unnamed or
+/// not installed.
 std::vector<InstalledApplication> installedApplications(const ApplicationPlaces& places);
 
-/// The names of the applications that run, in the order of the processes, each once. A process belongs to an
-/// application if the desktop made its control group for it, or if it runs the application's own program; a bare name
-/// counts for nothing.
+/// The names of the running applications, each once, in process order. A process belongs to an application if the
+/// desktop created its control group for it or if it runs the application's own program; a process name alone proves
+/// nothing.
 std::vector<std::string> runningApplicationNames(const std::vector<InstalledApplication>& applications,
                                                  const std::vector<RunningProcess>& processes);
 

@@ -39,7 +39,7 @@ QDBusMessage showItems(const std::vector<std::string>& paths) {
 
 }  // namespace
 
-/// The questions to the file manager that are under way; they end with the workspace.
+/// The pending calls to the file manager; cancelled with the workspace.
 class LinuxWorkspace::Reveals : public QObject {};
 
 LinuxWorkspace::LinuxWorkspace(const std::string& dataHome, std::string trash)

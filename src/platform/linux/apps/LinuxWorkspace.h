@@ -14,20 +14,20 @@ class QDBusConnection;
 
 namespace zelk {
 
-/// The desktop by its common interfaces: desktop entries, the file manager on the session bus, xdg-open.
+/// The desktop through its common interfaces: desktop entries, the file manager on the session bus, xdg-open.
 class LinuxWorkspace : public Workspace {
 public:
-    /// Starts a program and comes back at once.
+    /// Starts a program and returns at once.
     using Launcher = std::function<void(std::vector<std::string> command)>;
     using Bus = std::function<QDBusConnection()>;
 
     /// `dataHome` is the user's data folder, `trash` the folder of the home trash.
     LinuxWorkspace(const std::string& dataHome, std::string trash);
-    /// Another launcher and another bus than the session's.
+    /// Replaces the launcher and the session bus, for tests.
     LinuxWorkspace(const std::string& dataHome, std::string trash, Launcher launcher, Bus bus);
     ~LinuxWorkspace() override;
 
-    /// Up to a second old: whoever asks asks once for each of many items.
+    /// Cached for one second, since callers ask once per item.
     std::vector<std::string> runningApplications() override;
     void reveal(const std::vector<std::string>& paths) override;
     void openURL(const std::string& url) override;

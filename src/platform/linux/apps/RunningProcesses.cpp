@@ -57,7 +57,7 @@ std::vector<std::string> applicationsOfUnit(std::string_view unit) {
     unit = unit.substr(0, unit.find('@'));
     const std::vector<std::string_view> parts = split(unit, '-');
     std::vector<std::string> ids;
-    // A scope ends with a number; a service may, where it has no instance.
+    // A scope ends with a number; a service without an instance may, too.
     if (!scope) ids.push_back(unescaped(parts.back(), unitEscape));
     if (parts.size() > 2 && unit.size() == whole.size()) ids.push_back(unescaped(parts[parts.size() - 2], unitEscape));
     return ids;
@@ -85,7 +85,7 @@ bool isOwn(const std::string& path) {
 RunningProcess read(const std::string& folder) {
     RunningProcess process;
     process.executable = linkTarget(folder + "/exe");
-    // An update has replaced the program since.
+    // The program was replaced by an update.
     if (std::string_view executable = process.executable; takeSuffix(executable, " (deleted)"))
         process.executable.resize(executable.size());
     process.arguments = argumentsOf(readWholeFile(folder + "/cmdline").value_or(""));

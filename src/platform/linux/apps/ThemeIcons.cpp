@@ -12,7 +12,7 @@ namespace zelk {
 
 namespace {
 
-/// Of the most telling name that is known of the file's ending; never by its content, which may lie on a slow disk.
+/// Uses the file name only, never the content, which may be on a slow disk.
 QMimeType typeOf(const std::string& path) {
     const QMimeDatabase types;
     const QString name = QString::fromStdString(path.substr(path.rfind('/') + 1));
@@ -25,7 +25,7 @@ QIcon themed(const QString& name, const QString& otherwise) {
     return icon.isNull() ? QIcon::fromTheme(otherwise) : icon;
 }
 
-/// In the middle of a square, never larger than it.
+/// Centers the icon in the square, scaled down if it is larger.
 std::optional<IconPixels> pixelsOf(const QIcon& icon, int side) {
     const QPixmap found = icon.pixmap(QSize(side, side), 1);
     if (found.isNull()) return std::nullopt;

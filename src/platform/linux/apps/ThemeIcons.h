@@ -10,15 +10,15 @@
 
 namespace zelk {
 
-/// The pictures of the desktop's icon theme, by what a file's name says of its type. Main thread.
+/// Icons of the desktop's theme by file type, which is derived from the file name. Main thread.
 class ThemeIcons {
 public:
-    /// Absent without a theme that has one, and in a program without windows.
+    /// Absent if the theme has none, and in a program without a GUI.
     std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side);
 
 private:
-    /// Many files share few pictures, and finding one in the theme reads the disk: each is looked for once, also one
-    /// that is not there.
+    /// Many files share few icons, and finding one in the theme reads the disk: look each up once, including missing
+    /// ones.
     std::map<std::pair<std::string, int>, std::optional<IconPixels>> known_;
 };
 

@@ -16,14 +16,14 @@
 namespace zelk {
 namespace {
 
-/// What the kernel (5.8) tells of a mount with a status; not in every C library's header.
+/// STATX_MNT_ID (Linux 5.8), which not every C library's header has.
 constexpr unsigned maskMountId = 0x1000;
 
 std::string processPath(const char* kind, int descriptor) {
     return std::string("/proc/thread-self/") + kind + "/" + std::to_string(descriptor);
 }
 
-/// How an older kernel tells it.
+/// Reads the mount id where statx does not return it.
 std::optional<std::uint64_t> mountFromProcess(int descriptor) {
     constexpr std::string_view key = "\nmnt_id:";
     const std::string text = readWholeFile(processPath("fdinfo", descriptor)).value_or("");
@@ -80,7 +80,7 @@ std::optional<FileStatus> fileStatus(int descriptor) {
 int openSubdirectoryOnMount(int parent, std::string_view name) {
     const std::string terminated(name);
     const int fd = openOnMount(parent, terminated.c_str());
-    // EPERM: some container filters refuse what they do not know.
+    // EPERM: some container filters refuse unknown system calls.
     return fd < 0 && (errno == ENOSYS || errno == EPERM) ? openAndCompareMounts(parent, terminated) : fd;
 }
 

@@ -22,14 +22,14 @@ namespace zelk {
 
 namespace {
 
-/// How much a call of getdents64 may deliver. An ordinary folder fits whole.
+/// The buffer size of one getdents64 call; an ordinary folder fits at once.
 constexpr std::size_t readBytes = 64 * 1024;
 
-/// What a reader keeps between folders. A folder of hundreds of thousands of entries needs far more for a moment, and
-/// that is given back, or every thread would end up holding as much.
+/// The memory that a reader keeps between folders. A folder of hundreds of thousands of entries needs far more, which
+/// is released afterwards so that not every thread ends up holding it.
 constexpr std::size_t keptBytes = 1024 * 1024;
 
-/// The kernel's record (getdents64(2)), with the name behind it.
+/// The kernel's record (getdents64(2)), followed by the name.
 struct KernelEntry {
     std::uint64_t inode;
     std::int64_t offset;
@@ -42,19 +42,19 @@ bool isDotOrDotDot(const char* name) {
     return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
 
-enum class Unanswering {
-    all,         ///< no entry of the directory may be looked at: it is unreadable as a whole
-    mountPoint,  ///< of a dead file system, or of another user's: on another device, and left out in any case
-    folder,      ///< damaged, say: an entry like any other, and found unreadable when it is opened
+enum class FailedSubfolder {
+    directoryUnreadable,  ///< no entry of the directory has a readable status
+    mountPoint,           ///< of a dead or another user's file system: omitted, being on another device
+    subfolder,            ///< for example damaged: kept as an entry, and found unreadable when opened
 };
 
-/// What it means that a subfolder of `directory` did not answer a statx. One of them must not cost the folder that
-/// holds it. For a folder `entry` is filled, but for its name.
-Unanswering unansweringFolder(int directory, int error, DirEntry& entry) {
-    if (statxEntry(directory, ".", entry) != StatxOutcome::ok) return Unanswering::all;
+/// Classifies a subfolder of `directory` whose statx failed, since one bad subfolder must not make its parent
+/// unreadable. Fills `entry` except its name for FailedSubfolder::subfolder.
+FailedSubfolder classifyFailedSubfolder(int directory, int error, DirEntry& entry) {
+    if (statxEntry(directory, ".", entry) != StatxOutcome::ok) return FailedSubfolder::directoryUnreadable;
     entry.fileID = 0;
     const bool isMount = error == EACCES || error == ENOTCONN || error == EHOSTDOWN || error == ETIMEDOUT;
-    return isMount ? Unanswering::mountPoint : Unanswering::folder;
+    return isMount ? FailedSubfolder::mountPoint : FailedSubfolder::subfolder;
 }
 
 class LinuxDirectoryReader : public DirectoryReader {
@@ -82,7 +82,7 @@ private:
         return statEntries(directory) ? &entries_ : nullptr;
     }
 
-    /// All records of the directory, one behind the other, into names_.
+    /// Reads all records of the directory into names_.
     bool readNames(int directory) {
         used_ = 0;
         while (true) {
@@ -108,8 +108,8 @@ private:
     }
 
     bool statEntries(int directory) {
-        // Exact, because a list that grows by doubling is for a moment there twice, and in a folder of hundreds of
-        // thousands of entries that is the peak of the whole scan.
+        // Reserve exactly: a list that grows by doubling briefly exists twice, which in a folder of hundreds of
+        // thousands of entries would be the peak of the whole scan.
         entries_.reserve(countRecords());
         for (std::size_t at = 0; at < used_;) {
             KernelEntry record;
@@ -124,17 +124,17 @@ private:
                     if (entry.objType == directoryObjectType) volume_.claim(directory, name, mount, entry);
                     continue;
                 case StatxOutcome::gone:
-                    break;  // deleted since it was listed: it is not there, and that is no failure
+                    break;  // deleted since it was listed, which is not a failure
                 case StatxOutcome::failed:
                     if (record.type != DT_DIR) return false;
-                    switch (unansweringFolder(directory, errno, entry)) {
-                        case Unanswering::mountPoint:
+                    switch (classifyFailedSubfolder(directory, errno, entry)) {
+                        case FailedSubfolder::mountPoint:
                             break;
-                        case Unanswering::folder:
+                        case FailedSubfolder::subfolder:
                             entry.name = name;
                             volume_.claimOwn(entry);
                             continue;
-                        case Unanswering::all:
+                        case FailedSubfolder::directoryUnreadable:
                             return false;
                     }
                     break;

@@ -19,7 +19,7 @@
 namespace zelk {
 namespace {
 
-constexpr std::uint64_t blockBytes = 512;  // the unit of st_blocks, whatever the volume's own block is
+constexpr std::uint64_t blockBytes = 512;  // the unit of st_blocks on every volume
 
 bool statusOf(const std::string& path, int flags, struct stat& status) {
     if (path.size() < PATH_MAX) return ::fstatat(AT_FDCWD, path.c_str(), &status, flags) == 0;
@@ -29,13 +29,13 @@ bool statusOf(const std::string& path, int flags, struct stat& status) {
     return folder && ::fstatat(folder.get(), path.c_str() + slash + 1, &status, flags) == 0;
 }
 
-/// What a walk still has to do below where it stands: the subdirectories of each level, the deepest level last. One
-/// list for all levels and its own stack: neither the depth nor the number of a stranger's folders may end the process.
+/// The subdirectories that a walk has yet to enter, level by level, deepest last. Replaces recursion: neither the depth
+/// nor the number of folders may crash the process.
 class PendingFolders {
 public:
     explicit PendingFolders(std::int32_t device) : device_(device) {}
 
-    /// Goes down a level and takes its folders in.
+    /// Enters a level and adds its folders.
     void enter(const DirectoryReader::Entries* entries) {
         starts_.push_back(names_.size());
         if (entries == nullptr) return;
@@ -73,8 +73,8 @@ std::uint64_t allocatedByFiles(const DirectoryReader::Entries* entries) {
 }  // namespace
 
 bool LinuxFileManager::exists(const std::string& path) {
-    // Beyond PATH_MAX every question would be an opening from the top in pieces, and a chain of folders that are each
-    // asked about could keep a classification busy for minutes. Nothing there is reached by its path in any case.
+    // Beyond PATH_MAX every call would open the path in pieces from the top, and checking each folder of a deep chain
+    // could take minutes. Nothing there is accessed by its path anyway.
     struct stat status {};
     return path.size() < PATH_MAX && ::stat(path.c_str(), &status) == 0;
 }

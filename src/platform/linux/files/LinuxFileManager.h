@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-/// Files through the system calls themselves. Paths may be longer than PATH_MAX wherever only looking is asked for.
+/// File operations by system calls. Functions that only read metadata accept paths longer than PATH_MAX.
 class LinuxFileManager : public FileManager {
 public:
     bool exists(const std::string& path) override;

@@ -36,7 +36,7 @@ std::optional<std::string> homeFromUserDatabase() {
     return found->pw_dir;
 }
 
-/// A survey that begins above the home folder comes to the Trash by the path behind all links.
+/// A survey that starts above the home folder reaches the Trash by its resolved path.
 TrashPlaces trashPlacesOf(const std::string& dataHome) {
     const std::string_view files = "Trash/files";
     std::vector<std::string> folders{pathIn(dataHome, files)};

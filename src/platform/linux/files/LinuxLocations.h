@@ -5,18 +5,17 @@
 
 namespace zelk {
 
-/// $HOME, else the user database; application support is the XDG data home ($XDG_DATA_HOME, else "~/.local/share").
-/// Values of the environment that are not absolute paths are ignored. The environment is read once, and where links
-/// lead is looked up once.
+/// The home is $HOME, else that of the user database; application support is the XDG data home ($XDG_DATA_HOME, else
+/// "~/.local/share"). Ignores relative paths. Reads the environment and resolves links once, when constructed.
 class LinuxLocations : public Locations {
 public:
-    /// With `home`, everything lies below it and the environment is not asked; empty takes the user's own.
+    /// With `home`, all folders lie below it and the environment is ignored; empty selects the user's own.
     explicit LinuxLocations(const std::string& home = {});
 
     std::string home() override { return home_; }
     std::optional<std::string> applicationSupport() override { return dataHome_; }
     std::optional<std::string> xdgDataHome() override { return dataHome_; }
-    /// The "files" of the home trash, and of this user's trash on any volume.
+    /// The "files" of the home trash and of this user's trash on any volume.
     TrashPlaces trashPlaces() override { return trashPlaces_; }
 
 private:

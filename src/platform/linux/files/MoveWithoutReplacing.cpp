@@ -14,15 +14,14 @@
 namespace zelk {
 namespace {
 
-/// Whether `place` now holds what was at another place before: some volumes report an error of a rename that they did,
-/// when an answer was lost on the way.
+/// Whether `place` now holds `item`: some volumes report an error for a rename that succeeded, when the reply was lost.
 bool holds(const Place& place, const FileStatus& item) {
     const std::optional<FileStatus> there = fileStatus(place.folder, place.name);
     return there && there->isSameFile(item);
 }
 
-/// An empty entry of our own at `to`, of the kind that a rename of `item` can replace. Creating it fails if anything is
-/// there, which is what the volume's rename cannot promise.
+/// Creates an empty entry at `to` that a rename of `item` can replace. Creation fails if anything exists there, which
+/// the volume's rename alone cannot guarantee.
 int reserve(const Place& to, const FileStatus& item) {
     if (item.isDirectory()) return ::mkdirat(to.folder, to.name.c_str(), 0700);
     const Descriptor file(uninterrupted([&] {
@@ -48,7 +47,7 @@ int moveWithoutReplacing(const Place& from, const Place& to) {
     if (!item) return errno;
     if (::renameat2(from.folder, from.name.c_str(), to.folder, to.name.c_str(), RENAME_NOREPLACE) == 0) return 0;
     const int error = errno;
-    // EINVAL: this volume cannot promise it; EPERM: some container filters refuse what they do not know.
+    // EINVAL: the volume does not support RENAME_NOREPLACE; EPERM: some container filters refuse unknown system calls.
     if (error == EINVAL || error == ENOSYS || error == EPERM) return moveOntoReservation(from, to, *item);
     return holds(to, *item) ? 0 : error;
 }

@@ -11,8 +11,8 @@ struct Place {
     std::string name;
 };
 
-/// Renames `from` to `to`, and never over anything that is there. 0, or the errno: EEXIST if something is there, EXDEV
-/// if it is another volume. On an error nothing has moved.
+/// Renames `from` to `to` without ever replacing anything. Returns 0 or the errno: EEXIST if `to` exists, EXDEV if it
+/// is on another volume. On an error nothing has moved.
 int moveWithoutReplacing(const Place& from, const Place& to);
 
 }  // namespace zelk

@@ -22,8 +22,7 @@ bool ownerMayAll(const FileStatus& status) {
 bool giveOwnerAccess(int folder) {
     const std::optional<FileStatus> before = fileStatus(folder);
     if (!before || !before->isDirectory() || before->owner != ::geteuid() || ownerMayAll(*before)) return false;
-    // Through /proc, because fchmod() refuses a descriptor that is for lookups only, and a folder that may not be read
-    // has no other.
+    // Go through /proc: fchmod() refuses O_PATH descriptors, and an unreadable folder has no other kind.
     const std::string path = "/proc/thread-self/fd/" + std::to_string(folder);
     if (::chmod(path.c_str(), (before->mode & 07777) | S_IRWXU) != 0) return false;
     const std::optional<FileStatus> after = fileStatus(folder);

@@ -15,10 +15,10 @@ namespace zelk {
 
 namespace {
 
-// Of the headers that not every system has, or not with these names.
+// Not in every system's headers, or not by these names.
 constexpr std::uint64_t btrfsMagic = 0x9123683E;
-constexpr std::uint64_t subvolumeInode = 256;  // that of every subvolume's top folder, and of nothing else
-constexpr std::uint64_t readOnlyFlag = 1;      // as it is kept on the disk
+constexpr std::uint64_t subvolumeInode = 256;  // the top folder of every subvolume, and nothing else
+constexpr std::uint64_t readOnlyFlag = 1;      // in the on-disk format
 
 bool isOnBtrfs(int descriptor) {
     struct statfs system {};
@@ -26,13 +26,13 @@ bool isOnBtrfs(int descriptor) {
     return result == 0 && static_cast<std::uint64_t>(system.f_type) == btrfsMagic;
 }
 
-/// What backup tools keep by the dozen: its bytes are those of what it was taken of, and nobody can remove them one by
-/// one. False of what cannot be asked, which is then found unreadable or counts.
+/// Backup tools keep dozens of these: they share their bytes with the original, and users cannot delete them piecemeal.
+/// False if the volume cannot be queried; the folder is then unreadable or counts.
 bool isReadOnlySnapshot(int directory, const char* name) {
     constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
     const Descriptor top(uninterrupted([&] { return ::openat(directory, name, flags); }));
     btrfs_ioctl_get_subvol_info_args told{};
-    // It gives 1, and no error, for a subvolume that lies in another one.
+    // Returns 1 without an error for a nested subvolume.
     if (!top || ::ioctl(top.get(), BTRFS_IOC_GET_SUBVOL_INFO, &told) < 0) return false;
     const bool hasParent = std::any_of(std::begin(told.parent_uuid), std::end(told.parent_uuid),
                                        [](std::uint8_t byte) { return byte != 0; });

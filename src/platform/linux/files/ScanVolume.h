@@ -9,21 +9,21 @@
 
 namespace zelk {
 
-/// What belongs to the volume of a scan root. Ordinarily that is what has its device number. On btrfs a subvolume has
-/// one of its own although it is a folder like any other: no mount is between them.
+/// Decides which folders belong to the volume of a scan root. Usually these have its device number. On btrfs,
+/// subvolumes have device numbers of their own although they are ordinary folders without a mount.
 class ScanVolume {
 public:
     ScanVolume() = default;
-    /// Of the root that `descriptor` is open on.
+    /// For the root that `descriptor` refers to.
     explicit ScanVolume(int descriptor);
 
-    /// Gives a folder of the volume the root's device number, which is how a scan knows it. `entry` is that of the
-    /// folder `name` in `directory`. Costs a system call only where a subvolume begins.
+    /// Replaces the device number of a folder on this volume by the root's, by which a scan recognizes it. `entry`
+    /// describes the folder `name` in `directory`. Costs a system call only at the top of a subvolume.
     void claim(int directory, const char* name, std::uint64_t mount, DirEntry& entry) const {
         if (mount_ && entry.deviceID != device_ && holds(directory, name, mount, entry.fileID))
             entry.deviceID = device_;
     }
-    /// The same for the folder that a reader stands in.
+    /// Like claim(), for the reader's current folder.
     void claimOwn(DirEntry& entry) const {
         if (mount_) entry.deviceID = device_;
     }
@@ -32,12 +32,12 @@ private:
     bool holds(int directory, const char* name, std::uint64_t mount, std::uint64_t inode) const;
 
     std::int32_t device_ = 0;
-    std::optional<std::uint64_t> mount_;  ///< set where there can be subvolumes
+    std::optional<std::uint64_t> mount_;  ///< set on file systems with subvolumes
 };
 
 class LinuxRoot : public PosixRoot {
 public:
-    /// Takes `descriptor` over.
+    /// Takes ownership of `descriptor`.
     explicit LinuxRoot(int descriptor) : PosixRoot(descriptor), volume(descriptor) {}
 
     const ScanVolume volume;

@@ -12,10 +12,10 @@ namespace zelk {
 
 namespace {
 
-/// What the kernel tells of a mount with a status, at no cost; not in every C library's header.
+/// STATX_MNT_ID, which costs nothing and which not every C library's header has.
 constexpr unsigned statxMountId = 0x1000;
 
-/// macOS's vnode types, which the scan speaks in.
+/// Maps to macOS's vnode types, which the scan uses.
 std::uint32_t vnodeType(std::uint16_t mode) {
     switch (mode & S_IFMT) {
         case S_IFREG:

@@ -20,7 +20,7 @@
 namespace zelk {
 namespace {
 
-/// An entry as it was when the Trash was listed. Its name may be another's by now.
+/// An entry as listed; by now its name may belong to another item.
 struct Entry {
     std::string name;
     FileStatus content;
@@ -43,8 +43,8 @@ Place infoOf(const TrashFolder& trash, const std::string& name) {
     return {trash.info.get(), name + std::string(trashInfoSuffix)};
 }
 
-/// Gives the info at `from` the name `to` too; where the volume knows no second names, instead. 0 also if there is
-/// none.
+/// Links the info at `from` to the name `to` as well, or renames it on volumes without hard links. Returns 0 also if
+/// there is no info.
 int nameInfo(const Place& from, const Place& to) {
     if (::linkat(from.folder, from.name.c_str(), to.folder, to.name.c_str(), 0) == 0) return 0;
     const bool noSecondNames = errno == EPERM || errno == ENOSYS || errno == EOPNOTSUPP || errno == EMLINK;
@@ -58,8 +58,8 @@ void takeInfoBack(const Place& from, const Place& to) {
     if (error == 0 || error == EEXIST) ::unlinkat(to.folder, to.name.c_str(), 0);
 }
 
-/// Renames an entry within `trash`, so that its content has info all the time, if it had. 0, or the errno: EEXIST if
-/// the name `to` is taken. On any error the entry is where it was, or what has its name now.
+/// Renames an entry within `trash` so that its content, if it has info, has it at every moment. Returns 0 or the errno:
+/// EEXIST if the name `to` is taken. On an error the entry, or the item that took its name, is unchanged.
 int renameEntry(const TrashFolder& trash, const Entry& entry, const std::string& to) {
     const Place content{trash.files.get(), entry.name};
     const Place newContent{trash.files.get(), to};
@@ -69,23 +69,23 @@ int renameEntry(const TrashFolder& trash, const Entry& entry, const std::string&
     int error = moveWithoutReplacing(content, newContent);
     if (error == 0 && !isAt(newContent, entry.content)) {
         error = ESTALE;
-        // Where the name is taken once more, the newcomer keeps the name that it came to, and its info there.
+        // If the name is taken again, the new item keeps the name that it came to, with its info.
         if (moveWithoutReplacing(newContent, content) != 0) return error;
     }
     if (error != 0) {
         takeInfoBack(info, newInfo);
         return error;
     }
-    // What is there by now may belong to a newcomer.
+    // The old info may belong to a new item by now.
     const std::optional<FileStatus> own = fileStatus(newInfo.folder, newInfo.name);
     if (own && isAt(info, *own)) ::unlinkat(info.folder, info.name.c_str(), 0);
     return 0;
 }
 
-/// Gives the entry a name that nobody has, and takes for anything else. Absent if it keeps its own.
+/// Renames the entry to a unique name that nobody else uses. Absent if it keeps its old name.
 std::optional<std::string> setAside(const TrashFolder& trash, const Entry& entry) {
     constexpr int maximumTries = 1000;
-    Descriptor moving;  // its info is without content for a moment, which is no orphan
+    Descriptor moving;  // its info briefly has no content without being an orphan
     if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return std::nullopt;
     for (int tried = 0; tried < maximumTries; ++tried) {
         std::string own = "emptying." + std::to_string(::getpid()) + "." + std::to_string(tried);
@@ -96,7 +96,7 @@ std::optional<std::string> setAside(const TrashFolder& trash, const Entry& entry
     return std::nullopt;
 }
 
-/// If its name has been taken it stays where it is, whole and with its info.
+/// Leaves the entry where it is, with its info, if its old name is taken.
 void putBack(const TrashFolder& trash, const std::string& own, const Entry& entry) {
     Descriptor moving;
     if (lockFolder(trash.info.get(), LOCK_SH, moving)) renameEntry(trash, {own, entry.content}, entry.name);
@@ -120,7 +120,7 @@ std::size_t emptyTrash(const TrashFolder& trash) {
         ::unlinkat(info.folder, info.name.c_str(), 0);
     }
     sweepOrphans(trash, Orphans::anybody);
-    // Sizes that other programs keep so that they need not count again.
+    // A size cache of other programs.
     if (removed > 0) ::unlinkat(trash.itself.get(), "directorysizes", 0);
     return removed;
 }

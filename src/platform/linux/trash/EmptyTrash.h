@@ -7,15 +7,15 @@
 
 namespace zelk {
 
-/// Removes for good what `trash` holds when its turn comes, and nothing that is trashed after that; info without
-/// content goes too, unless it is so young that somebody may be about to bring the content. Emptyings of one trash wait
-/// for each other, in other processes of this application as well.
+/// Permanently deletes what `trash` holds once the lock is acquired, and nothing that is trashed later. Deletes
+/// orphaned info too, unless it is so young that its content may be about to arrive. Emptyings of one trash wait for
+/// each other, also across processes of Zelk.
 ///
-/// An entry is first given a name of its own, its info with it and never without: whatever is trashed or emptied
-/// meanwhile, by other programs too, has nothing to do with that name. What is interrupted or cannot be removed has its
-/// info and can be put back as far as it is still there; if it can, it gets its old name again.
+/// First renames each entry, never separating it from its info, so that nothing that other programs trash or delete
+/// meanwhile has the same name. What is interrupted or cannot be deleted keeps its info and can be restored as far as
+/// it is left; it gets its old name back if that is free.
 ///
-/// The number of entries removed; info alone does not count.
+/// Returns the number of deleted entries, orphaned info not counted.
 std::size_t emptyTrash(const TrashFolder& trash);
 
 }  // namespace zelk

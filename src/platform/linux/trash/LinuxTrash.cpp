@@ -26,8 +26,8 @@
 namespace zelk {
 namespace {
 
-/// Whether the home trash is, or would come to be, on the volume of `folder`: that of the nearest folder above `path`
-/// that is there. Absent, with errno set, if that does not say.
+/// Whether the home trash `path`, or its nearest existing parent, is on the volume of `folder`. Absent, with errno set,
+/// if unknown.
 std::optional<bool> isOnVolumeOf(const FileStatus& folder, const std::string& path) {
     for (std::size_t end = path.size(); end != std::string::npos; end = end == 0 ? end - 1 : path.rfind('/', end - 1)) {
         const Descriptor nearest(openForLookups(end == 0 ? "/" : path.substr(0, end)));
@@ -39,15 +39,14 @@ std::optional<bool> isOnVolumeOf(const FileStatus& folder, const std::string& pa
     return std::nullopt;
 }
 
-/// The way from the folder `top` to what is below it, without a slash at the front; absent if it is not.
+/// The path of `path` relative to `top`, without a leading slash; absent if it is not below.
 std::optional<std::string> relativePath(std::string_view path, std::string_view top) {
     while (top.ends_with('/')) top.remove_suffix(1);
     if (path.size() <= top.size() + 1 || !path.starts_with(top) || path[top.size()] != '/') return std::nullopt;
     return std::string(path.substr(top.size() + 1));
 }
 
-/// Whether the way up from the folder leads through `other`, by whatever path it was reached. Absent, with errno set,
-/// if that cannot be told.
+/// Whether `other` is an ancestor of `folder`, by whatever path it was reached. Absent, with errno set, if unknown.
 std::optional<bool> isInside(int folder, const FileStatus& other) {
     std::optional<FileStatus> status = fileStatus(folder);
     Descriptor here;
@@ -61,8 +60,8 @@ std::optional<bool> isInside(int folder, const FileStatus& other) {
     return true;
 }
 
-/// Whether the nearest there is of `path`, which could not be found, is a link that leads nowhere: then what it should
-/// lead to is missing, such as a volume, and not a folder that was never made.
+/// Whether the nearest existing part of the missing `path` is a dangling link: then its target is missing, such as an
+/// unmounted volume, and not just a folder that was never created.
 bool endsInADeadLink(std::string path) {
     struct stat status {};
     while (::lstat(path.c_str(), &status) != 0 && errno == ENOENT && path.find('/') != std::string::npos)
@@ -81,7 +80,7 @@ std::string LinuxTrash::location() {
 
 std::optional<std::vector<std::string>> LinuxTrash::list() {
     Descriptor folder(openRootDirectory(location()));
-    // The folder is made by whoever trashes something first.
+    // The folder is created when something is trashed for the first time.
     if (!folder && errno == ENOENT && !endsInADeadLink(location())) return std::vector<std::string>();
     std::optional<std::vector<std::string>> entries = directoryNames(std::move(folder));
     if (entries) {
@@ -106,7 +105,7 @@ Failure LinuxTrash::move(const ItemPath& item) {
     if (!status) return systemText(errno);
     if (status->mount != above->mount) return "another volume is mounted there";
 
-    // The system cannot tell a path that is longer than it would take; then the one it was reached by has to do.
+    // The system cannot return a path longer than its limit; then use the one it was reached by.
     const std::string path = pathIn(pathOfDirectory(parent.get()).value_or(item.parent()), from.name);
     const std::vector<Mount> mounts = mountTable();
     if (status->isDirectory() && isMountedBelow(mounts, path)) return "another volume is mounted in it";
@@ -117,7 +116,7 @@ Failure LinuxTrash::move(const ItemPath& item) {
     const std::optional<bool> atHome = isOnVolumeOf(*above, location());
     if (!atHome) return systemText(errno);
     if (*atHome) {
-        // A home folder that is not there is not ours to make.
+        // Do not create a missing home folder.
         if (isInFolder(dataHome_, home_) && ::access(home_.c_str(), F_OK) != 0 && errno == ENOENT)
             return "“" + readableName(home_) + "” couldn’t be opened: " + systemText(ENOENT);
         trash = openHomeTrash(dataHome_, IfMissing::create, reason);
@@ -131,7 +130,7 @@ Failure LinuxTrash::move(const ItemPath& item) {
     if (!trash) return reason;
     const std::optional<FileStatus> itself = fileStatus(trash->itself.get());
     if (!itself || itself->isSameFile(*above)) return "it is part of the Trash itself";
-    // Moved again, it would only be known to have come from the Trash.
+    // Moving it again would lose its original path.
     const std::optional<bool> inside = isInside(parent.get(), *itself);
     if (!inside) return systemText(errno);
     if (*inside) return "it is in the Trash already";
@@ -141,7 +140,7 @@ Failure LinuxTrash::move(const ItemPath& item) {
     return moveIntoTrash(from, original, *trash, [&] { return numbers_.next(key); });
 }
 
-/// Whoever comes meanwhile waits: none of this process is then between the two steps of a move, which would put it off.
+/// Blocks other threads of this process, which could otherwise be in the middle of a move and postpone the sweep.
 void LinuxTrash::sweepAtFirst(const TrashFolder& trash, const FileStatus& itself) {
     const std::lock_guard lock(sweeping_);
     const std::pair key(itself.device, itself.inode);

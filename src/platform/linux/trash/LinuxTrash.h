@@ -15,11 +15,11 @@ namespace zelk {
 struct FileStatus;
 struct TrashFolder;
 
-/// The Trash of freedesktop.org. What lies on the volume of the home trash ("Trash" in the XDG data home) goes there,
-/// anything else to the trash at the top of its own volume. An item is only ever renamed, never copied.
+/// The freedesktop.org Trash. Items on the volume of the home trash ("Trash" in the XDG data home) go there, others to
+/// the trash at the top of their own volume. Items are only renamed, never copied.
 class LinuxTrash : public Trash {
 public:
-    /// With `home`, the trash of that home folder and not of the environment; empty takes the user's own.
+    /// With `home`, uses that home folder and ignores the environment; empty selects the user's own.
     explicit LinuxTrash(const std::string& home = {});
 
     std::string location() override;
@@ -28,8 +28,8 @@ public:
     std::size_t empty() override;
 
 private:
-    /// The numbers that items of one name have come to, so that the next one needs no search: of thousands called the
-    /// same, each would otherwise try the names of all before it.
+    /// The last number given to each name, so that the next item needs no search: thousands of items of one name would
+    /// otherwise each try all names before theirs.
     class Numbers {
     public:
         std::size_t next(const std::string& key);
@@ -40,16 +40,16 @@ private:
         std::map<std::string, std::size_t> last_;
     };
 
-    /// Once in a run and trash: what a run that was killed has left there.
+    /// Removes what a killed run left behind, once per trash and run.
     void sweepAtFirst(const TrashFolder& trash, const FileStatus& itself);
-    /// The reason for a person if it could not be moved.
+    /// Returns the reason of a failure, for display.
     Failure move(const ItemPath& item);
 
     std::string home_;
     std::string dataHome_;
     Numbers numbers_;
     std::mutex sweeping_;
-    std::set<std::pair<std::uint64_t, std::uint64_t>> swept_;  ///< the trashes by device and inode
+    std::set<std::pair<std::uint64_t, std::uint64_t>> swept_;  ///< swept trashes by device and inode
 };
 
 }  // namespace zelk

@@ -18,10 +18,10 @@ std::string reasonText(const std::string& path, std::string_view why) {
     return "“" + readableName(path) + "” " + std::string(why);
 }
 
-/// Opens folders one below the other, each a real folder of this user's.
+/// Opens nested folders, each of which must be a real folder of this user.
 class OwnFolders {
 public:
-    /// `openToAll` are the bits of a mode that keep nobody out here.
+    /// `openToAll` are write permissions of others that are acceptable here.
     OwnFolders(IfMissing ifMissing, std::string& reason, mode_t openToAll = 0)
         : ifMissing_(ifMissing), forbidden_((S_IWGRP | S_IWOTH) & ~openToAll), reason_(reason) {}
 
@@ -68,8 +68,8 @@ private:
     std::string& reason_;
 };
 
-/// The ".Trash" that an administrator made for all users of a volume: in a sticky folder nobody can take away what is
-/// another's, but for the folder's own owner.
+/// Opens the ".Trash" that an administrator created for all users of a volume. It must be sticky, so that only its
+/// owner can take away the folders of others.
 Descriptor openSharedTrash(int top) {
     Descriptor shared(openSubdirectoryOnMount(top, ".Trash"));
     if (!shared) return {};
@@ -106,13 +106,12 @@ std::optional<TrashFolder> openVolumeTrash(const std::string& top, const FileSta
         reason = reasonText(top, "couldn’t be opened: " + systemText(errno));
         return std::nullopt;
     }
-    // A part of a volume may be a volume of its own without being mounted on its own; nothing can be moved out of it.
+    // A subvolume without a mount of its own: nothing can be renamed out of it.
     if (!status->isOnVolumeOf(volume)) {
         reason = "its volume has no place for a Trash";
         return std::nullopt;
     }
-    // Some volumes keep no permissions, and whoever may change the top folder could take the whole trash from it
-    // anyway.
+    // Some volumes have no permissions, and whoever may change the top folder could replace the whole trash anyway.
     OwnFolders own(IfMissing::create, reason, (status->mode & S_ISVTX) != 0 ? 0 : status->mode);
     const std::string user = std::to_string(::geteuid());
     if (const Descriptor shared = openSharedTrash(folder.get())) {

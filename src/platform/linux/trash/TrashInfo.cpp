@@ -9,10 +9,10 @@
 namespace zelk {
 namespace {
 
-/// Longer ones are no extensions but names that happen to have a dot in them.
+/// Anything longer is a name with a dot in it, not an extension.
 constexpr std::size_t longestExtension = 32;
 
-/// With its dot; empty if there is none, as in a name that only begins with a dot.
+/// The extension with its dot; empty for names such as ".hidden".
 std::string_view extensionOf(std::string_view name) {
     const std::size_t dot = name.rfind('.');
     if (dot == std::string_view::npos || dot == 0 || name.size() - dot > longestExtension) return {};
@@ -24,7 +24,7 @@ std::string_view cutTo(std::string_view name, std::size_t bytes) {
     const auto continues = [name](std::size_t at) { return (static_cast<unsigned char>(name[at]) & 0xC0U) == 0x80; };
     std::size_t end = bytes;
     while (end > 0 && bytes - end < 3 && continues(end)) --end;
-    // What goes on for longer is no UTF-8, and may be cut anywhere.
+    // Longer sequences are not UTF-8 and may be cut anywhere.
     return name.substr(0, end == 0 || continues(end) ? bytes : end);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The texts of the freedesktop.org Trash. Pure functions.
+// The file formats of the freedesktop.org Trash. Pure functions.
 #pragma once
 
 #include <sys/types.h>
@@ -13,17 +13,16 @@ namespace zelk {
 
 inline constexpr std::string_view trashInfoSuffix = ".trashinfo";
 
-/// Set in the mode of the info files that this application writes: the sticky bit, which means nothing on a file. One
-/// that lost its content is known by it as our own, and need not be left for a while lest somebody else's is on its
-/// way.
+/// Marks the info files written by Zelk: the sticky bit, which has no meaning on a file. A marked orphan can be removed
+/// at once; another program may still be about to move the content of its own.
 inline constexpr mode_t ownInfoMark = 01000;
 
-/// The content of an info file: where an item was (bytes: absolute, or relative to the top of its volume) and when, in
-/// local time, it was trashed.
+/// The content of an info file: the item's original path (bytes; absolute, or relative to the top of its volume) and
+/// the local time of its deletion.
 std::string trashInfoText(std::string_view path, const std::tm& deleted);
 
-/// The name in the Trash of what is called `name`: the same for number 1, with the number before the extension from 2
-/// on. Shortened to `limit` bytes, the extension kept and no character cut in two.
+/// The name of an item in the Trash: `name` itself for number 1, else with the number before the extension. Shortened
+/// to `limit` bytes, keeping the extension and whole characters.
 std::string trashName(std::string_view name, std::size_t number, std::size_t limit);
 
 }  // namespace zelk

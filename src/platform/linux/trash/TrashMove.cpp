@@ -17,7 +17,7 @@
 namespace zelk {
 namespace {
 
-/// Of one name in the Trash; by then something else is wrong.
+/// Tries for one name in the Trash; with more, something else is wrong.
 constexpr int maximumTries = 1000000;
 
 std::size_t longestName(int folder) {
@@ -43,19 +43,20 @@ bool writeAll(int file, std::string_view content) {
     return true;
 }
 
-/// 0, or the errno; EEXIST if there is such a file already. On any error there is none of ours.
+/// Returns 0 or the errno: EEXIST if the file exists. Leaves no file of its own on an error.
 int createInfo(const Place& info, std::string_view content) {
     const auto create = [&info](mode_t mode) {
         constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
         return uninterrupted([&] { return ::openat(info.folder, info.name.c_str(), flags, mode); });
     };
     Descriptor file(create(0600 | ownInfoMark));
-    if (!file && (errno == EPERM || errno == EINVAL)) file = Descriptor(create(0600));  // no volume for such a mark
+    if (!file && (errno == EPERM || errno == EINVAL)) file = Descriptor(create(0600));  // the volume refuses the mark
     if (!file) return errno;
     const bool written = writeAll(file.get(), content) && uninterrupted([&] { return ::fsync(file.get()); }) == 0;
     const int error = errno;
     if (written && file.close()) {
-        // Its name too; most systems have written it with the file, and those that cannot flush a folder say so.
+        // Flush its name too. Most file systems have written it with the file, and those that cannot flush a folder
+        // return an error.
         static_cast<void>(::fsync(info.folder));
         return 0;
     }
@@ -69,7 +70,7 @@ bool isTaken(const Place& place) {
 }
 
 int moveWithInfo(const Place& item, const Place& content, const Place& info, std::string_view text) {
-    // Content that lost its info is no reason to write one and to take it back.
+    // Do not even write info for a name whose content is taken.
     if (isTaken(content)) return EEXIST;
     if (const int error = createInfo(info, text); error != 0) return error;
     const int error = moveWithoutReplacing(item, content);
@@ -91,7 +92,7 @@ std::string reasonOfMove(int error) {
 }  // namespace
 
 Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next) {
-    Descriptor moving;  // its info is without content for a moment, which is no orphan
+    Descriptor moving;  // its info briefly has no content without being an orphan
     if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return systemText(errno);
     const std::string text = trashInfoText(path, localTime());
     const std::size_t limit = longestName(trash.files.get());

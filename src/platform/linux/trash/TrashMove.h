@@ -11,12 +11,12 @@
 
 namespace zelk {
 
-/// Gives the next number, from 2 on, for a name that is taken.
+/// Returns the next number, starting at 2, for a name that is taken.
 using NextNumber = std::function<std::size_t()>;
 
-/// Moves `item` into `trash`. Its info file, which says that it was at `path`, is there first and on the disk: at no
-/// moment is something in the Trash that could not be put back. On a failure, whose reason it gives, the item is where
-/// it was and no info file is left. Nothing in the Trash is ever written over, such as content that lost its info.
+/// Moves `item` into `trash`. Writes and flushes the info file with its original `path` first, so that everything in
+/// the Trash can be restored at every moment. On failure, whose reason it returns, the item is unchanged and no info is
+/// left. Never overwrites anything in the Trash, including content without info.
 Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next);
 
 }  // namespace zelk

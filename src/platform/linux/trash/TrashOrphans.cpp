@@ -18,7 +18,7 @@
 namespace zelk {
 namespace {
 
-/// Other programs hold no lock between writing an info file and moving its content, but are not that slow.
+/// Other programs hold no lock between writing info and moving its content, but do not take this long.
 constexpr std::time_t youngSeconds = 60;
 
 bool isYoung(const struct stat& info) {
@@ -36,8 +36,7 @@ bool isMissing(const Descriptor& folder, const std::string& name) {
 bool sweepOrphans(const TrashFolder& trash, Orphans which) {
     Descriptor held;
     if (!lockFolder(trash.info.get(), LOCK_EX | LOCK_NB, held)) return false;
-    if (!held)
-        return true;  // nobody can be kept from being in the middle of it, and there will be no other time either
+    if (!held) return true;  // without locks a move may always be under way, and waiting would not help
     for (const std::string& name : directoryNames(openAnew(trash.info)).value_or(std::vector<std::string>())) {
         struct stat info {};
         if (!name.ends_with(trashInfoSuffix)) continue;
@@ -47,7 +46,7 @@ bool sweepOrphans(const TrashFolder& trash, Orphans which) {
         const std::string content = name.substr(0, name.size() - trashInfoSuffix.size());
         if (content.empty() || isMissing(trash.files, content)) ::unlinkat(trash.info.get(), name.c_str(), 0);
     }
-    // Before the descriptor goes, whose closing may fail: this thread waits for the same lock next.
+    // Unlock before closing, which may fail: this thread takes the same lock next.
     ::flock(held.get(), LOCK_UN);
     return true;
 }

@@ -5,14 +5,14 @@
 
 namespace zelk {
 
-/// Info files without content, which other programs show as something that was trashed: what is left where somebody was
-/// killed between the two.
+/// Info files without content, which other programs show as trashed items. A process that is killed between writing
+/// info and moving content leaves them.
 enum class Orphans {
-    own,     ///< written by this application, however young
-    anybody  ///< those too that others wrote, unless they are so young that the content may be about to come
+    own,     ///< written by Zelk, of any age
+    anybody  ///< also those of other programs, unless so young that their content may be about to arrive
 };
 
-/// Removes the orphans of `trash`. False if it could not look, because somebody is between the two steps right now.
+/// Removes the orphans of `trash`. False if somebody is moving an item right now, so that it could not look.
 bool sweepOrphans(const TrashFolder& trash, Orphans which);
 
 }  // namespace zelk

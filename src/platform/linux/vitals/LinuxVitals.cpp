@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t mostBytesRead = 64 * 1024;
 
-/// What makers leave in a field that they were to fill in: it names no model.
+/// Placeholders that manufacturers leave instead of a model name.
 bool isPlaceholder(const std::string& model) {
     constexpr std::array<std::string_view, 5> placeholders{"To Be Filled By O.E.M.", "To be filled by O.E.M.",
                                                            "System Product Name", "Default string", "None"};
@@ -66,7 +66,7 @@ std::optional<VolumeInfo> LinuxVitals::volume(const std::string& path) {
 }
 
 double LinuxVitals::uptime() {
-    // The file comes first: in a container it tells the container's time, as everything else there does.
+    // Prefer the file: in a container it shows the container's time, like the other files.
     if (const auto seconds = uptimeSeconds(readOrEmpty("/proc/uptime"))) return *seconds;
     timespec now{};
     if (::clock_gettime(CLOCK_BOOTTIME, &now) != 0) return 0;
@@ -78,7 +78,7 @@ std::optional<std::string> LinuxVitals::read(const std::string& path) const {
     if (!file) return std::nullopt;
     std::string text(mostBytesRead, '\0');
     std::size_t length = 0;
-    while (length < text.size()) {  // /proc may hand out a file in pieces
+    while (length < text.size()) {  // /proc may return a file in pieces
         const ssize_t count =
             uninterrupted([&] { return ::read(file.get(), text.data() + length, text.size() - length); });
         if (count < 0) return std::nullopt;
@@ -101,7 +101,7 @@ std::string LinuxVitals::computerName() const {
     if (std::string name = tidied(assignedValue(readOrEmpty("/etc/machine-info"), "PRETTY_HOSTNAME").value_or(""));
         !name.empty())
         return name;
-    // The kernel's name is the one in force; it says "(none)" for none.
+    // The kernel's name is the one in effect; it is "(none)" if unset.
     for (const char* file : {"/proc/sys/kernel/hostname", "/etc/hostname"})
         if (std::string name = tidied(readOrEmpty(file)); !name.empty() && name != "(none)") return name;
     return "This computer";

@@ -11,19 +11,18 @@
 
 namespace zelk {
 
-/// A volume by the system's record. Blocks are counted in the smallest unit of the volume, not in the size that is best
-/// for reading; what only the superuser may take is not available.
+/// Converts a statvfs record. Counts blocks in f_frsize, not the preferred I/O size, and excludes blocks reserved for
+/// the superuser.
 VolumeInfo volumeOfRecord(const struct statvfs& record);
 
-/// The vitals out of /proc, /sys and /etc. Keeps nothing between two reads. Texts are the system's bytes, which need
-/// not be UTF-8.
+/// Reads the vitals from /proc, /sys and /etc, without caching. Texts are raw bytes that need not be UTF-8.
 ///
-/// Where each comes from: the computer's name from machine-info (the one that its owner gave), else the host name; the
-/// chip from cpuinfo, else the device tree; the system from os-release, else the kernel's version; the model from DMI,
-/// else the device tree. ProcText.h says how memory is counted.
+/// Sources: the computer name from machine-info (set by the owner), else the host name; the chip from cpuinfo, else the
+/// device tree; the system from os-release, else the kernel version; the model from DMI, else the device tree.
+/// ProcText.h describes how memory is counted.
 class LinuxVitals : public Vitals {
 public:
-    /// `root` stands in front of /proc, /sys and /etc, for tests.
+    /// `root` is prepended to /proc, /sys and /etc, for tests.
     explicit LinuxVitals(std::string root = {}) : root_(std::move(root)) {}
 
     DeviceInfo device() override;
@@ -34,10 +33,10 @@ public:
     double uptime() override;
 
 private:
-    /// The start of a file, which is all that is ever needed; absent if it cannot be read.
+    /// Reads the start of a file, which is all that is needed; absent if unreadable.
     std::optional<std::string> read(const std::string& path) const;
     std::string readOrEmpty(const std::string& path) const { return read(path).value_or(std::string{}); }
-    /// Sorted, so that the first battery is the same one each time.
+    /// Sorted, so that the first battery is always the same.
     std::vector<std::string> list(const std::string& path) const;
 
     std::string computerName() const;

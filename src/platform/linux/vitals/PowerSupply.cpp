@@ -15,7 +15,7 @@ bool isBattery(const PowerSupply& supply) {
     return powersTheMachine(supply) && supply.type == "Battery" && supply.present.value_or(1) != 0;
 }
 
-/// A UPS keeps a machine running without the mains, so it says nothing of them.
+/// A UPS also powers the machine without mains, so it says nothing about them.
 bool isLine(const PowerSupply& supply) {
     return powersTheMachine(supply) && supply.type != "Battery" && supply.type != "UPS" && supply.online;
 }
@@ -37,7 +37,7 @@ std::optional<BatteryFields> machineBattery(const std::vector<PowerSupply>& supp
 
     BatteryFields fields;
     if (battery->capacity) {
-        fields.currentCapacity = battery->capacity;  // of a hundred
+        fields.currentCapacity = battery->capacity;  // in percent
     } else if (battery->energyNow && battery->energyFull) {
         fields.currentCapacity = battery->energyNow;
         fields.maxCapacity = battery->energyFull;

@@ -10,19 +10,19 @@
 
 namespace zelk {
 
-/// A folder of /sys/class/power_supply: its files, each absent if it is missing or cannot be read.
+/// The files of a folder in /sys/class/power_supply, each absent if missing or unreadable.
 struct PowerSupply {
     std::optional<std::string> type;    ///< "Battery", "Mains", "USB", "UPS", "Wireless"
-    std::optional<std::string> scope;   ///< "Device" for what powers a mouse and not the machine
-    std::optional<std::string> status;  ///< of a battery: "Charging", "Discharging", "Full", "Not charging", "Unknown"
+    std::optional<std::string> scope;   ///< "Device" for a peripheral's supply, such as a mouse's
+    std::optional<std::string> status;  ///< battery state: "Charging", "Discharging", "Full", "Not charging", "Unknown"
     std::optional<std::int64_t> present;
     std::optional<std::int64_t> online;
     std::optional<std::int64_t> capacity;  ///< percent
     std::optional<std::int64_t> chargeNow, chargeFull, energyNow, energyFull;
 };
 
-/// The machine's battery, the first of `supplies`; absent if it has none. It is on the mains if any other supply of the
-/// machine is online; where no other is known, if the battery says that it is not being drained.
+/// The first battery of the machine among `supplies`; absent if there is none. It is on AC if any other supply is
+/// online, or, without other supplies, if it is not discharging.
 std::optional<BatteryFields> machineBattery(const std::vector<PowerSupply>& supplies);
 
 }  // namespace zelk

@@ -15,7 +15,7 @@ bool isBlankOrControl(char c) {
     return static_cast<unsigned char>(c) <= ' ' || c == 0x7F;
 }
 
-/// The text behind "key:" in the first line that has such a key and a value.
+/// The first non-empty value of "key: value" lines with this key.
 std::string_view valueOf(std::string_view text, std::string_view key) {
     while (!text.empty()) {
         const std::string_view line = takeLine(text);
@@ -26,7 +26,7 @@ std::string_view valueOf(std::string_view text, std::string_view key) {
     return {};
 }
 
-/// A shell's reading of one word with quotes; what stands behind the word is not looked at.
+/// Unquotes the first word as a shell does and ignores the rest.
 std::string unquoted(std::string_view text) {
     std::string value;
     char quote = 0;
@@ -80,7 +80,7 @@ std::optional<std::string> assignedValue(std::string_view text, std::string_view
 }
 
 std::string processorName(std::string_view cpuinfo) {
-    // In turn: x86 and 32-bit ARM, LoongArch, ARM boards, MIPS, POWER.
+    // In this order: x86 and 32-bit ARM, LoongArch, ARM boards, MIPS, POWER.
     for (const std::string_view key : {"model name", "Model Name", "Hardware", "cpu model", "cpu"})
         if (std::string name = tidied(valueOf(cpuinfo, key)); !name.empty()) return name;
     return {};
@@ -143,8 +143,8 @@ std::optional<PageCounts> memoryCounts(std::string_view meminfo, std::uint64_t z
 }
 
 std::uint64_t zramMemory(std::string_view mmStat) {
-    takeWord(mmStat);  // the size of what is stored
-    takeWord(mmStat);  // its size when compressed
+    takeWord(mmStat);  // original size
+    takeWord(mmStat);  // compressed size
     const std::uint64_t used = parseNumber<std::uint64_t>(takeWord(mmStat)).value_or(0);
     return used >> 60 == 0 ? used : 0;
 }
@@ -158,7 +158,7 @@ std::optional<CPUTicks> processorTicks(std::string_view stat) {
         for (std::size_t i = 0; i < ticks.size(); ++i) {
             const auto value = parseNumber<std::uint64_t>(takeWord(line));
             if (!value && i <= idle) return std::nullopt;
-            if (!value) break;  // an older kernel tells fewer
+            if (!value) break;  // older kernels have fewer columns
             ticks[i] = static_cast<double>(*value);
         }
         return CPUTicks{ticks[user], ticks[system] + ticks[irq] + ticks[softirq] + ticks[steal],
