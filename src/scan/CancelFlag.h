@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-/// Raised once to end a scan. Safe from any thread; it guards no other data, so it needs no lock.
+/// Set once to cancel a scan. Safe from any thread; guards no other data, so it needs no lock.
 class CancelFlag {
 public:
     void set() { flag_.store(true, std::memory_order_relaxed); }

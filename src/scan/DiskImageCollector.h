@@ -9,7 +9,7 @@
 
 namespace zelk {
 
-/// The large disk images of a scan, all of them. Safe from any thread.
+/// Collects all large disk images of a scan. Safe from any thread.
 class DiskImageCollector {
 public:
     void append(LargeFile image) {
@@ -17,7 +17,7 @@ public:
         items_.push_back(std::move(image));
     }
 
-    /// In arrival order, unsorted.
+    /// In order of arrival, unsorted.
     std::vector<LargeFile> items() const {
         const std::lock_guard lock(mutex_);
         return items_;

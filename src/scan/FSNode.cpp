@@ -40,10 +40,10 @@ void FSNode::remove(FSNode& child) {
     references_.fetch_add(1, std::memory_order_relaxed);
 }
 
-// A drive may hold folders to any depth, so neither path nor release may recurse.
+// Folders may be nested to any depth, so neither paths nor release may recurse.
 
 void FSNode::fullPath(std::string& path) const {
-    // The first pass measures, the second writes from the end: one allocation at the most.
+    // Measure first, then write from the end: at most one allocation.
     const auto wantsSlash = [](const FSNode& above) { return above.nameLength_ != 0 && above.name().back() != '/'; };
     std::size_t length = nameLength_;
     for (const FSNode* node = this; node->parent_ != nullptr && node->parent_->nameLength_ != 0; node = node->parent_)
@@ -71,16 +71,17 @@ void FSNode::release(FSNode* node) {
     NodeRef keptParent;
     if (node->keepsParent_) {
         keptParent = NodeRef(node->parent_);
-        node->parent_->references_.fetch_sub(1, std::memory_order_relaxed);  // never the last: keptParent holds one
+        node->parent_->references_.fetch_sub(
+            1, std::memory_order_relaxed);  // never the last one: keptParent holds another
     }
-    // Nodes that nobody refers to any more, chained through their own parent pointers: no memory is needed to free.
+    // A list of unreferenced nodes, linked through their parent pointers, so that releasing needs no memory.
     node->parent_ = nullptr;
     while (node != nullptr) {
         FSNode* next = node->parent_;
         for (NodeRef& reference : node->children) {
             FSNode* child = std::exchange(reference.node_, nullptr);
             if (child == nullptr) continue;
-            // Whoever else still holds the child finds it without a parent from here on.
+            // Other holders of the child see it without a parent from now on.
             if (child->parent_ == node) child->parent_ = nullptr;
             if (child->references_.fetch_sub(1, std::memory_order_acq_rel) == 1) {
                 child->parent_ = next;

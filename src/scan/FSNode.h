@@ -17,7 +17,7 @@ namespace zelk {
 struct ReclaimCategory;
 class FSNode;
 
-/// Owning reference to a node. Counting is atomic: references may be taken and dropped on any thread.
+/// An owning reference to a node. Counting is atomic: references may be copied and dropped on any thread.
 class NodeRef {
 public:
     NodeRef() = default;
@@ -44,11 +44,11 @@ private:
     FSNode* node_ = nullptr;
 };
 
-/// A directory. It is written by one thread at a time: by the worker that visits it, and when the walk is over by
-/// whoever owns the tree. A node owns its children; its parent pointer does not own and is cleared when the parent
-/// goes. A reference to a node keeps what is below it but not what is above: who asks for paths while another thread
-/// may release the tree holds on to the top as well. The name stands in the node's own allocation, behind the fields: a
-/// hundred thousand of them are one survey.
+/// A directory. Written by one thread at a time: the worker that visits it, and after the walk the owner of the tree. A
+/// node owns its children; its parent pointer does not own, and is cleared when the parent is destroyed. A reference
+/// keeps the nodes below alive but not those above: to build paths while another thread may release the tree, also hold
+/// the top node. The name is stored behind the fields in the node's allocation, since a survey has a hundred thousand
+/// nodes.
 class FSNode {
 public:
     static NodeRef make(std::string_view name, TimePoint lastModified, bool isDirectory = true);
@@ -56,25 +56,25 @@ public:
     FSNode(const FSNode&) = delete;
     FSNode& operator=(const FSNode&) = delete;
 
-    /// The leaf name in bytes; the whole absolute path on a scan root; empty on the synthetic top.
+    /// The name in bytes; the whole absolute path on a scan root; empty on the synthetic top.
     std::string_view name() const;
     bool isDirectory() const { return isDirectory_; }
-    /// Nothing above: the synthetic top, or a node whose parent is gone.
+    /// Null for the synthetic top and for a node whose parent is gone.
     FSNode* parent() const { return parent_; }
 
-    /// Takes `child` in at the end of `children` and becomes its parent.
+    /// Appends `child` to `children` and becomes its parent.
     FSNode& append(NodeRef child);
-    /// Takes `child` out of `children`. Its parent pointer still holds, and from here on keeps this node alive: whoever
-    /// removed a folder may go on to name what was in it.
+    /// Removes `child` from `children`. Its parent pointer stays valid and from now on keeps this node alive, so that
+    /// paths below a removed folder can still be built.
     void remove(FSNode& child);
 
-    /// The path in bytes, built on demand: the name, behind the parent's path where there is one.
+    /// The path in bytes, built on demand: the parent's path, if any, and the name.
     std::string fullPath() const;
-    /// The same into a buffer that the caller reuses.
+    /// Like fullPath(), into a buffer that the caller reuses.
     void fullPath(std::string& path) const;
 
     std::int64_t size = 0;          ///< allocated bytes of this and everything below; 0 until the roll-up
-    std::vector<NodeRef> children;  ///< subdirectories in the order in which they were met; see append(), remove()
+    std::vector<NodeRef> children;  ///< subdirectories in order of delivery; see append(), remove()
     const ReclaimCategory* reclaimCategory = nullptr;  ///< set by the classifier; a row of the catalogue
     TimePoint lastModified;
     std::int64_t ownFileBytes = 0;  ///< allocated bytes of the files directly in it, further hard links as 0
@@ -91,7 +91,7 @@ private:
     std::atomic<std::uint32_t> references_{0};
     std::uint32_t nameLength_ : 30;
     std::uint32_t isDirectory_ : 1;
-    std::uint32_t keepsParent_ : 1;  ///< taken out of its parent's children, which it now keeps alive
+    std::uint32_t keepsParent_ : 1;  ///< removed from its parent's children; keeps the parent alive
 };
 
 }  // namespace zelk

@@ -12,7 +12,7 @@ struct ExtensionRow {
     FileType type;
 };
 
-// Every extension that is counted under a type; any other is `other`.
+// Every extension with a type; all others are `other`.
 constexpr ExtensionRow fileTypeByExtension[] = {
     {"mp4", FileType::video},
     {"mov", FileType::video},
@@ -92,12 +92,12 @@ constexpr ExtensionRow fileTypeByExtension[] = {
 };
 static_assert(std::size(fileTypeByExtension) == 75);
 
-// What may stand in the list of disk images. Not the type of that name: a virtual machine's disk counts as `other` and
-// a camera's "raw" as an image, yet a large one is worth showing here; "cdr" and "sparsebundle" are not.
+// The extensions of listed disk images. These differ from FileType::diskImage: a virtual machine's disk counts as
+// `other` and a camera's "raw" as an image, yet large ones are worth listing; "cdr" and "sparsebundle" are not.
 constexpr std::string_view diskImageExtensions[] = {"dmg", "iso", "img", "qcow2", "vmdk", "vdi", "raw", "sparseimage"};
 
-// Extensions of up to eight bytes as one integer, so that a look-up compares no text: there is one for every file of a
-// drive. Zero stands for none.
+// Packs an extension of up to eight bytes into one integer, so that the lookup for every file of a drive compares no
+// strings. Zero means none.
 constexpr std::uint64_t pack(std::string_view text) {
     std::uint64_t packed = 0;
     for (const char c : text) packed = packed << 8 | static_cast<unsigned char>(c);
@@ -109,7 +109,7 @@ struct PackedRow {
     NameClass name;
 };
 
-constexpr std::size_t tableSlots = 256;  // a third full at most, so a miss is nearly always told by the first slot
+constexpr std::size_t tableSlots = 256;  // at most a third full, so a miss usually ends at the first slot
 
 constexpr std::size_t slotOf(std::uint64_t packed) {
     return packed * 0x9E3779B97F4A7C15U >> 56;
@@ -136,7 +136,7 @@ constexpr char lowerCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// Behind the last dot, as it stands; empty where there is no extension.
+/// The part after the last dot, unchanged; empty without an extension.
 std::string_view extensionPart(std::string_view name) {
     const std::size_t dot = name.rfind('.');
     if (dot == std::string_view::npos || dot == 0) return {};
@@ -193,7 +193,7 @@ NameClass classifyName(std::string_view name) {
         packed = packed << 8 | static_cast<unsigned char>(lowerCase(part[i]));
     }
     if (!plain) {
-        // Longer than any row in lower case could be, even with a Kelvin sign for every k.
+        // Longer than any known extension, even with a three-byte Kelvin sign for every k.
         return part.size() > 36 ? NameClass{} : classifySlowly(name);
     }
     for (std::size_t slot = slotOf(packed); table[slot].extension != 0; slot = (slot + 1) % tableSlots)

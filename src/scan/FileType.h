@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The seven classes of files, told by the name alone.
+// The seven types of files, derived from the name only.
 #pragma once
 
 #include <array>
@@ -16,25 +16,25 @@ enum class FileType : std::uint8_t { video, audio, image, archive, diskImage, do
 inline constexpr std::array allFileTypes{FileType::video,     FileType::audio,    FileType::image, FileType::archive,
                                          FileType::diskImage, FileType::document, FileType::other};
 
-/// The stable name of a type, which the history stores as a key.
+/// The stable name of a type, used as a key in the history.
 std::string_view rawValue(FileType type);
-/// Absent for a text that names no type.
+/// Absent if `text` names no type.
 std::optional<FileType> fileTypeFromRawValue(std::string_view text);
 
-/// What stands behind the last dot, its ASCII letters (and the Kelvin sign, whose lower case is ASCII too) in lower
-/// case. Empty without a dot, with a dot only in front, and with a dot at the end.
+/// The part after the last dot, with ASCII letters (and the Kelvin sign, whose lower case is ASCII) in lower case.
+/// Empty without a dot, or with only a leading or trailing one.
 std::string fileExtension(std::string_view name);
 
-/// What the name alone says of a file.
+/// The classification of a file by its name.
 struct NameClass {
     FileType type = FileType::other;
-    bool canBeDiskImage = false;  ///< may enter the list of disk images; not the same set as FileType::diskImage
+    bool canBeDiskImage = false;  ///< may be listed as a disk image; a different set than FileType::diskImage
 };
 
-/// Equal to looking fileExtension(name) up in the two tables, without building a text.
+/// Equivalent to looking up fileExtension(name) in both tables, without building a string.
 NameClass classifyName(std::string_view name);
 
-/// Bytes and number of the files of one type.
+/// The bytes and count of the files of one type.
 struct TypeTally {
     std::int64_t bytes = 0;
     std::int64_t count = 0;
@@ -42,7 +42,7 @@ struct TypeTally {
     bool operator==(const TypeTally&) const = default;
 };
 
-/// A dictionary from FileType to TypeTally without the dictionary: a type with a count of 0 is not in it.
+/// A map from FileType to TypeTally as an array; a type with a count of 0 is not contained.
 class TypeTotals {
 public:
     TypeTally& operator[](FileType type) { return tallies_[static_cast<std::size_t>(type)]; }

@@ -8,10 +8,10 @@ namespace zelk {
 
 namespace {
 
-/// The folders of a tree by their names, level by level. The tree must stay as it is.
+/// Indexes the folders of a tree by name, level by level on demand. The tree must not change.
 class Levels {
 public:
-    /// Null if `folder` has none of that name.
+    /// Null if `folder` has no child of that name.
     const NodeRef* child(const FSNode& folder, std::string_view name) {
         const auto [level, isNew] = levels_.try_emplace(&folder);
         if (isNew) {

@@ -11,12 +11,12 @@
 
 namespace zelk {
 
-/// What of `path` comes behind a scan root and a slash: nothing for the root itself, absent if it does not lie there.
+/// The part of `path` relative to a scan root: empty for the root itself, absent if `path` is not in it.
 std::optional<std::string_view> behindRoot(std::string_view root, std::string_view path);
 
-/// The folders of the tree below `top` at these paths, those above others first. One path may be several folders where
-/// scan roots lie in one another. However many siblings a folder has, a path costs no more than its own length: the
-/// names of a level that is come by are put into an index, once. Reads names and children alone.
+/// Finds the folders at these paths below `top`, parents before children. A path may yield several folders if scan
+/// roots are nested. Each level on the way is indexed once, so a lookup does not depend on the number of siblings.
+/// Reads only names and children.
 std::vector<NodeRef> foldersAt(const FSNode& top, const std::set<std::string>& paths);
 
 }  // namespace zelk

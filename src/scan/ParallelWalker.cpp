@@ -11,7 +11,7 @@ namespace zelk {
 
 namespace {
 
-/// `path` with one more component.
+/// Appends a component to `path`.
 void appendComponent(std::string& path, std::string_view name) {
     if (!path.ends_with('/')) path += '/';
     path += name;
@@ -27,9 +27,9 @@ std::string joined(const std::string& path, std::string_view name) {
 
 }  // namespace
 
-/// What a thread keeps from one directory to the next.
+/// The state of one worker thread.
 struct ParallelWalker::Worker {
-    /// A directory between the one that the thread took and the one where it stands.
+    /// A directory on the way from the taken one to the current one.
     struct Level {
         FSNode* node;
         std::size_t nextChild;
@@ -38,9 +38,9 @@ struct ParallelWalker::Worker {
     };
 
     std::unique_ptr<DirectoryReader> reader;
-    std::string path;      ///< of the directory being visited
-    std::string below;     ///< the same relative to its root
-    bool inTrash = false;  ///< the directory being visited holds what was thrown away
+    std::string path;      ///< path of the directory being visited
+    std::string below;     ///< the same path relative to its root
+    bool inTrash = false;  ///< the directory being visited is in a Trash
     std::vector<Level> levels;
 };
 
@@ -64,7 +64,7 @@ void ParallelWalker::run(std::vector<Work> seeds) {
     startWorkers();
     std::unique_lock lock(mutex_);
     finished_.wait(lock, [this] { return done_; });
-    // The threads may still be on their way out, but none is in a visit: nobody touches the collectors or the tree.
+    // Threads may still be exiting, but none is visiting: nobody accesses the collectors or the tree.
 }
 
 void ParallelWalker::startWorkers() {
@@ -75,7 +75,7 @@ void ParallelWalker::startWorkers() {
                 if (const auto walker = weak.lock()) walker->workerLoop();
             });
         } catch (const std::system_error&) {
-            // No more threads to be had: those that run do the work, and without any this one does.
+            // No more threads can be started: those that run do the work, or this one if there is none.
             if (i == 0) workerLoop();
             return;
         }
@@ -88,7 +88,7 @@ void ParallelWalker::workerLoop() {
     for (bool finishedOne = false; take(work, finishedOne); finishedOne = true) visit(worker, work);
 }
 
-/// Counts the last item as finished, if there was one, and waits for the next. False when the walk is over.
+/// Marks the previous item, if any, as finished and waits for the next. False when the walk is over.
 bool ParallelWalker::take(Work& work, bool finishedOne) {
     std::unique_lock lock(mutex_);
     if (finishedOne && --outstanding_ == 0) {
@@ -108,7 +108,7 @@ bool ParallelWalker::take(Work& work, bool finishedOne) {
 }
 
 void ParallelWalker::visit(Worker& worker, const Work& work) {
-    if (cancel_->isSet()) return;  // a cancelled stack drains through here, and done_ follows from the counting
+    if (cancel_->isSet()) return;  // drains a cancelled stack; the counting then sets done_
     work.node->fullPath(worker.path);
     worker.inTrash = work.inTrash || trash_.areAt(worker.path);
     const DirectoryReader::Entries* entries = work.root ? openAt(worker, work) : nullptr;
@@ -123,7 +123,7 @@ void ParallelWalker::visit(Worker& worker, const Work& work) {
         visitInline(worker, work);
 }
 
-/// Stands at the worker's path, by the way from the root.
+/// Opens the worker's path relative to the root.
 const DirectoryReader::Entries* ParallelWalker::openAt(Worker& worker, const Work& work) {
     std::size_t start = work.rootLength;
     while (start < worker.path.size() && worker.path[start] == '/') ++start;
@@ -131,8 +131,8 @@ const DirectoryReader::Entries* ParallelWalker::openAt(Worker& worker, const Wor
     return worker.reader->open(*work.root, worker.below);
 }
 
-/// Everything below the directory of `work`, where the reader stands, on this thread. The way back is kept in a list
-/// and not on the thread's stack: how deep a drive's folders go is not for us to say.
+/// Visits everything below the directory of `work`, where the reader is, on this thread. Keeps the levels in a list
+/// instead of recursing, since folders may be nested to any depth.
 void ParallelWalker::visitInline(Worker& worker, const Work& work) {
     std::vector<Worker::Level>& levels = worker.levels;
     levels.clear();
@@ -148,8 +148,8 @@ void ParallelWalker::visitInline(Worker& worker, const Work& work) {
             continue;
         }
         if (cancel_->isSet()) return;
-        // What is still to be visited here is not unreadable because the way back to it was lost. It is listed a second
-        // time for that, which is not looked at.
+        // The way back was lost: reopen the directory, so that its remaining children are not wrongly unreadable.
+        // Ignores the second listing.
         if (std::exchange(isLost, false)) openAt(worker, work);
         FSNode& child = *level.node->children[level.nextChild++];
         appendComponent(worker.path, child.name());
@@ -174,7 +174,7 @@ void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::E
     if (directories == 0) return;
     node.children.reserve(directories);
     for (const DirEntry& entry : entries) {
-        // Another device: a mount point, which is left out as if it were not there.
+        // Another device is a mount point, which is skipped silently.
         if (entry.objType != directoryObjectType || entry.deviceID != rootDev) continue;
         node.append(FSNode::make(entry.name, entry.modTime));
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The walk of one scan: a fixed number of threads share a stack of the upper directories, and whoever takes one at the
-// lowest shared depth finishes everything below it alone.
+// The walk of one scan: a fixed number of threads share a stack of the upper directories. The thread that takes one at
+// the lowest shared depth finishes everything below it alone.
 #pragma once
 
 #include <condition_variable>
@@ -24,7 +24,7 @@
 
 namespace zelk {
 
-/// What the threads of one scan fill. Made per scan, read when the walk is over.
+/// The results that the threads of one scan collect. Created per scan, read when the walk is over.
 struct ScanCollectors {
     InodeDeduper deduper;
     ScanCounters counters;
@@ -33,31 +33,31 @@ struct ScanCollectors {
     DiskImageCollector diskImages;
 };
 
-/// Serves one scan. Held by shared_ptr: a thread that starts late finds it gone and ends.
+/// Serves one scan. Held by shared_ptr: a thread that starts late finds it gone and exits.
 class ParallelWalker : public std::enable_shared_from_this<ParallelWalker> {
 public:
-    /// Directories above this depth (a root has depth 0) go through the shared stack.
+    /// Directories above this depth (roots have depth 0) go through the shared stack.
     static constexpr std::int64_t parallelDepth = 6;
     static constexpr std::int64_t diskImageMinSize = 50'000'000;  ///< bytes allocated
     static constexpr std::size_t stackBytes = 0x800000;
 
-    /// A directory that waits for a thread. Its path is not kept here but read off the node when its turn comes: a text
-    /// per waiting directory would be the largest thing in memory under a folder with very many subfolders.
+    /// A directory waiting for a thread. Stores no path, which is built from the node when needed: a string per waiting
+    /// directory would dominate the memory in a folder with very many subfolders.
     struct Work {
         NodeRef node;
-        std::shared_ptr<const DirectoryRoot> root;  ///< null: the root could not be opened
-        std::size_t rootLength;                     ///< of the root's own path
+        std::shared_ptr<const DirectoryRoot> root;  ///< null if the root could not be opened
+        std::size_t rootLength;                     ///< length of the root's path
         std::int64_t depth;
         std::int32_t rootDev;
-        bool inTrash;  ///< a folder above it holds what was thrown away; of a root the root itself may be it
+        bool inTrash;  ///< below a Trash folder; a root may also be one itself
     };
 
-    /// What lies in `trash` is counted, but is none of the large files. `cancel` and `queue` are shared with whoever
-    /// may end the scan; the walker yields only Progress.
+    /// Counts what is in `trash` but does not list it among the large files. `cancel` and `queue` are shared with
+    /// whoever may end the scan; the walker yields only Progress.
     ParallelWalker(DirectoryService& directories, std::int64_t workerCount, ScanCollectors& collectors,
                    TrashPlaces trash, std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue);
 
-    /// Blocks until the whole walk is over. Call once.
+    /// Blocks until the walk is over. Call once.
     void run(std::vector<Work> seeds);
 
 private:
@@ -81,15 +81,15 @@ private:
     const std::shared_ptr<CancelFlag> cancel_;
     const std::shared_ptr<UpdateQueue> queue_;
 
-    // The lock guards the four fields at the end and nothing else. It is never held across the file system or another
+    // The lock guards the last four fields and nothing else. It is never held during file system access or with another
     // lock.
     std::mutex mutex_;
-    std::condition_variable cond_;      // of the workers alone, so that no signal for one of them goes elsewhere
-    std::condition_variable finished_;  // of run()
+    std::condition_variable cond_;      // waited on by workers only, so that run() never takes their signal
+    std::condition_variable finished_;  // waited on by run()
     std::vector<Work> stack_;           ///< last in, first out
-    std::int64_t outstanding_ = 0;      ///< pushed and not yet finished, those being visited included
-    std::int64_t waiting_ = 0;          ///< threads that wait for work
-    bool done_ = false;                 ///< set once, when nothing is outstanding any more
+    std::int64_t outstanding_ = 0;      ///< pushed and not finished, including those being visited
+    std::int64_t waiting_ = 0;          ///< threads waiting for work
+    bool done_ = false;                 ///< set once nothing is outstanding
 };
 
 }  // namespace zelk

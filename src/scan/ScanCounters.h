@@ -9,7 +9,7 @@ namespace zelk {
 /// The running counts of a scan. Safe from any thread.
 class ScanCounters {
 public:
-    /// Items (files, and directories as one each) between two progress updates.
+    /// Items (files and directories) between two progress updates.
     static constexpr std::int64_t emitEvery = 20'000;
 
     struct Counts {
@@ -19,7 +19,7 @@ public:
         std::int64_t blocked = 0;
     };
 
-    /// True when a progress update is due: once for a directory, however many files it has.
+    /// True when a progress update is due: at most once per directory, however many files it has.
     bool recordDirectory(std::int64_t fileCount, std::int64_t bytes) {
         const std::lock_guard lock(mutex_);
         counts_.dirs += 1;

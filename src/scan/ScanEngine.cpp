@@ -22,7 +22,7 @@ std::vector<LargeFile> largestFirst(std::vector<LargeFile> files) {
     return files;
 }
 
-/// A node and an item of work for every root that is there.
+/// Creates a node and a work item for every existing root.
 std::vector<ParallelWalker::Work> seed(DirectoryService& directories, const std::vector<std::string>& roots,
                                        const TrashPlaces& trash, const CancelFlag& cancel, FSNode& top) {
     std::vector<ParallelWalker::Work> seeds;
@@ -76,7 +76,7 @@ void ScanEngine::start(std::shared_ptr<UpdateQueue> queue, std::vector<std::stri
     try {
         startThread("zelk.scan", ParallelWalker::stackBytes, std::move(body));
     } catch (const std::system_error&) {
-        // The machine can make no more threads: a survey that found nothing, told in the usual order.
+        // No thread can be started: report an empty survey in the usual order.
         queue->yield(update::Insights{});
         queue->yield(update::Finished{FSNode::make("", clock_.now()), {.roots = std::move(named)}});
         queue->finish();
@@ -94,7 +94,7 @@ std::int64_t ScanEngine::resolveWorkerCount() {
 std::int64_t ScanEngine::workerCountFor(const char* setting, std::int64_t activeProcessors) {
     if (setting != nullptr) {
         std::string_view text = setting;
-        // from_chars takes a minus but no plus.
+        // from_chars accepts a minus but no plus.
         if (text.starts_with('+')) {
             text.remove_prefix(1);
             if (text.starts_with('-')) text = {};

@@ -15,30 +15,30 @@
 
 namespace zelk {
 
-/// Seconds that the parts of a scan took, for measuring.
+/// The seconds that the phases of a scan took, for benchmarks.
 struct ScanPhases {
     double walk = 0;
     double rollUp = 0;
 };
 
-/// Turns a list of root paths into one stream of updates. Made afresh for each scan and without state: all of a scan
-/// lives in its body, so the engine may go at once, and a cancelled scan drains while a new one runs.
+/// Turns a list of root paths into a stream of updates. Created per scan and stateless: the scan's thread owns
+/// everything it uses, so the engine may be destroyed at once, and a cancelled scan drains while a new one runs.
 class ScanEngine {
 public:
-    /// The services are used until the scan's threads have ended. What lies in `trash` is counted like all else, but
-    /// is none of the largest files.
+    /// The services must outlive the scan's threads. Counts what is in `trash` but does not list it among the largest
+    /// files.
     ScanEngine(DirectoryService& directories, Clock& clock, TrashPlaces trash = {})
         : directories_(directories), clock_(clock), trash_(std::move(trash)) {}
 
-    /// Returns at once. Ending `queue` from the reader's side cancels the scan.
+    /// Starts a scan and returns at once. Terminating `queue` from the reader's side cancels it.
     void start(std::shared_ptr<UpdateQueue> queue, std::vector<std::string> roots);
 
-    /// The same on the calling thread, which it blocks until the queue has its end.
+    /// Like start(), on the calling thread; blocks until the queue has ended.
     ScanPhases runHere(const std::shared_ptr<UpdateQueue>& queue, std::vector<std::string> roots);
 
-    /// ZELK_WORKERS where it is a whole number above 0, else one and a half per active processor and at least 4.
+    /// ZELK_WORKERS if it is a whole number above 0, else one and a half per active processor and at least 4.
     static std::int64_t resolveWorkerCount();
-    /// The rule itself. `setting` is the variable's text, or nullptr.
+    /// The rule itself; `setting` is the variable's text or nullptr.
     static std::int64_t workerCountFor(const char* setting, std::int64_t activeProcessors);
 
 private:
@@ -47,11 +47,11 @@ private:
     TrashPlaces trash_;
 };
 
-/// What a scan that has ended says of itself. `seconds` are those from its beginning to its last sum.
+/// The statistics of a finished scan. `seconds` includes the roll-up.
 ScanStats statsOf(const ScanCounters::Counts& counts, std::int64_t totalBytes, double seconds,
                   std::vector<std::string> roots, const CancelFlag& cancel);
 
-/// Sums ownFileBytes up the tree into `size`; returns the top's. Any depth.
+/// Sums ownFileBytes into `size` up the tree, which may have any depth. Returns the size of `top`.
 std::int64_t rollUpSizes(FSNode& top);
 
 }  // namespace zelk

@@ -10,7 +10,7 @@
 
 namespace zelk {
 
-/// One file worth listing.
+/// A file worth listing.
 struct LargeFile {
     std::string path;       ///< absolute, bytes
     std::int64_t size = 0;  ///< allocated bytes
@@ -20,7 +20,7 @@ struct LargeFile {
     bool operator==(const LargeFile&) const = default;
 };
 
-/// What a survey found besides the tree. Both lists are sorted by size, largest first; empty before a scan delivers.
+/// The results of a survey besides the tree. Both lists are sorted by size, largest first; empty until a scan delivers.
 struct ScanInsights {
     std::vector<LargeFile> topFiles;
     TypeTotals typeTotals;

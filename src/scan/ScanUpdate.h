@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The stream of one scan: any number of Progress, at most one Blocked, one Insights, one Finished, the end.
+// The updates of one scan: any number of Progress, at most one Blocked, one Insights, one Finished, then the end.
 #pragma once
 
 #include <cstdint>

@@ -20,14 +20,14 @@ public:
 
     TopFilesCollector() { items_.reserve(capacity + 1); }
 
-    /// A first filter without the lock. It may let a file through that offer() then refuses, and never keeps one out
-    /// that belongs in: the threshold only rises, and a stale one is too low.
+    /// A filter without locking. May accept a file that offer() then refuses, but never rejects one that belongs in the
+    /// list: the threshold only rises, and a stale one is too low.
     bool mayTake(std::int64_t size) const {
         return !full_.load(std::memory_order_acquire) || threshold_.load(std::memory_order_relaxed) < size;
     }
 
-    /// Considers a file; `pathProvider()` is called, under the lock, only if it is taken. One that merely equals the
-    /// smallest of a full list is refused; of several smallest the earliest makes room.
+    /// Offers a file. Calls `pathProvider()`, under the lock, only if the file is taken. A full list refuses a file
+    /// equal to its smallest; the earliest of several smallest makes room.
     template <class PathProvider>
     void offer(const PathProvider& pathProvider, std::int64_t size, TimePoint modified, FileType type) {
         const std::lock_guard lock(mutex_);
@@ -35,7 +35,7 @@ public:
         if (wasFull && threshold_.load(std::memory_order_relaxed) >= size) return;
         items_.push_back({pathProvider(), size, modified, type});
         if (wasFull) {
-            // Overwritten by its followers one by one, so that the arrival order of equals is kept.
+            // Erase, so that equal files keep their order of arrival.
             items_.erase(smallest());
         }
         if (items_.size() >= capacity) {
@@ -44,10 +44,10 @@ public:
         }
     }
 
-    /// The smallest size of a full list; 0 before it is full.
+    /// The smallest size in a full list; 0 until it is full.
     std::int64_t threshold() const { return threshold_.load(std::memory_order_relaxed); }
 
-    /// In arrival order, unsorted.
+    /// In order of arrival, unsorted.
     std::vector<LargeFile> items() const {
         const std::lock_guard lock(mutex_);
         return items_;

@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-/// Bytes and number of files by type over a scan. Safe from any thread; each directory hands its own sums in at once.
+/// Sums the bytes and counts of files by type. Safe from any thread; each directory adds its sums at once.
 class TypeAggregator {
 public:
     void merge(const TypeTotals& directory) {

@@ -13,7 +13,7 @@ void UpdateQueue::setTerminationHandler(std::function<void()> handler) {
             return;
         }
     }
-    if (handler) handler();  // the end came first
+    if (handler) handler();  // already ended
 }
 
 void UpdateQueue::setWakeReader(std::function<void()> wake) {

@@ -9,33 +9,34 @@
 
 namespace zelk {
 
-/// Unbounded, many writers, one reader; keeps the order of yields and never blocks a writer. Either side may end it:
-/// what is yielded afterwards is dropped. Shared by shared_ptr between both sides.
+/// An unbounded queue with many writers and one reader. Keeps the order of yields and never blocks a writer. Either
+/// side may end it; later yields are dropped. Both sides share it by shared_ptr.
 class UpdateQueue {
 public:
-    /// Runs once, on the thread that ends the queue, whichever side that is and without the lock; at once if the queue
-    /// has ended already.
+    /// Runs once, without the lock, on the thread that ends the queue, whichever side that is; at once if the queue has
+    /// already ended.
     void setTerminationHandler(std::function<void()> handler);
-    /// Called on a writer's thread, without the lock, when there is something to take (or the end has come) and the
-    /// reader was not yet woken for it: once per batch.
+    /// Called on a writer's thread, without the lock, when there are updates (or the end) for which the reader was not
+    /// yet woken: once per batch.
     void setWakeReader(std::function<void()> wake);
 
     void yield(ScanUpdate update);
-    /// The writers' end: the reader still takes what was yielded before.
+    /// Ends the queue from the writers' side: the reader still receives earlier updates.
     void finish();
-    /// The reader's end: gives back what has not been taken, and wakes nobody any more. Any number of times, also
-    /// behind finish(). What comes back may hold a whole tree: the reader chooses on which thread it is released.
+    /// Ends the queue from the reader's side: returns the remaining updates and wakes nobody from now on. May be called
+    /// repeatedly, also after finish(). The result may hold a whole tree, so the reader chooses the thread that
+    /// releases it.
     std::vector<ScanUpdate> terminate();
 
     struct Batch {
         std::vector<ScanUpdate> updates;
-        bool ended = false;  ///< nothing will come behind these
+        bool ended = false;  ///< no more updates will follow
     };
-    /// All that has come since the last call; never blocks.
+    /// The updates since the last call; never blocks.
     Batch takeAll();
 
 private:
-    // Both under the lock; what they give is called without it.
+    // Both require the lock; call the functions they return without it.
     std::function<void()> end();
     std::function<void()> wakeOnce();
 
