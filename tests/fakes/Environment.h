@@ -7,7 +7,7 @@
 
 namespace zelk::fakes {
 
-/// Another value of a variable of the environment, or none, for as long as this lives. One thread at a time.
+/// Sets or unsets an environment variable while this exists. One thread at a time.
 class EnvironmentVariable {
 public:
     EnvironmentVariable(const char* name, const std::optional<std::string>& value) : name_(name) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The main thread's event loop, run for as long as a test needs it.
+// Runs the main thread's event loop as long as a test needs it.
 #pragma once
 
 #include <QCoreApplication>
@@ -13,7 +13,7 @@ void runUntil(Condition condition) {
     while (!condition()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// What has come to the main thread by now, and nothing that has yet to come.
+/// Processes the events that have already arrived at the main thread, and no later ones.
 inline void runWhatIsThere() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A file system in memory for the walker: a test builds it, then lets a scan walk it, and may hold the walk at a chosen
+// An in-memory file system for the walker: a test builds it, lets a scan walk it, and may hold the walk at a chosen
 // directory to act in the middle of it.
 #pragma once
 
@@ -21,18 +21,18 @@
 
 namespace zelk::fakes {
 
-/// Build it before a scan starts; only hold(), waitUntilHeld(), release() and timesRead() are for the time while one
-/// runs. Paths are absolute. Threads of a scan must have ended before it goes.
+/// Build it before a scan starts; while one runs, only hold(), waitUntilHeld(), release() and timesRead() may be
+/// called. Paths are absolute. Destroy it after the scan's threads have ended.
 class FakeDirectoryService : public DirectoryService {
 public:
-    /// Makes `path` and what is missing above it; "/" is always there.
+    /// Creates `path` and its missing parents; "/" always exists.
     void directory(const std::string& path, TimePoint modified = 0) { make(path).modified = modified; }
 
     void file(const std::string& path, std::uint64_t bytes, TimePoint modified = 0) {
         newEntry(path, regularType, modified).content = newContent(bytes);
     }
 
-    /// A link: a file of its own small size, never entered below a root. As a root it leads to `target`, where given.
+    /// A link: a small file of its own, never entered below a root. As a root it leads to `target`, if given.
     void symbolicLink(const std::string& path, std::uint64_t bytes, const std::string& target = {}) {
         Node& link = newEntry(path, linkType, 0);
         link.content = newContent(bytes);
@@ -46,15 +46,15 @@ public:
         ++content->links;
     }
 
-    /// The system names the file `path` by this number, and says that it has so many links.
+    /// Sets the inode number and link count of the file `path`.
     void numbers(const std::string& path, std::uint64_t fileID, std::uint32_t links) {
         Content* content = existing(path).content;
         content->fileID = fileID;
         content->links = links;
     }
 
-    /// A chain of `depth` folders called `name`, each in the last, in `path`. Returns nothing: at such depths the path
-    /// itself would be the greater part of the work.
+    /// A chain of `depth` nested folders called `name` in `path`. Returns nothing: at such depths building the path
+    /// would dominate the test.
     void chain(const std::string& path, std::string_view name, int depth, std::uint64_t bytesInEach = 0) {
         Node* at = &make(path);
         for (int level = 0; level < depth; ++level) {
@@ -63,37 +63,37 @@ public:
         }
     }
 
-    /// It and what is made below it afterwards lie on another device, like a mount point.
+    /// Puts it and everything created below it afterwards on another device, like a mount point.
     void device(const std::string& path, std::int32_t device) { make(path).device = device; }
 
-    /// It cannot be listed, though it can be looked at from above.
+    /// Makes it unlistable, while its status stays readable.
     void unreadable(const std::string& path) { make(path).readable = false; }
-    /// A reader that comes back to it from below does not find it again, as where it was moved meanwhile.
+    /// A reader cannot return to it from below, as if it had been moved meanwhile.
     void lostOnTheWayBack(const std::string& path) { make(path).lostOnTheWayBack = true; }
-    /// It cannot even be looked at: status() gives nothing.
+    /// Makes its status unreadable: status() returns nothing.
     void invisible(const std::string& path) { make(path).visible = false; }
 
-    /// The thread that comes to list `path` waits there until release(). More than one path may be held.
+    /// Threads that list `path` wait there until release(). Several paths may be held.
     void hold(const std::string& path) {
         const std::lock_guard lock(gate_);
         held_.insert(&existing(path));
     }
 
-    /// Returns as soon as a thread waits at `path`, which must be held.
+    /// Waits until a thread waits at `path`, which must be held.
     void waitUntilHeld(const std::string& path) {
         const Node* node = &existing(path);
         std::unique_lock lock(gate_);
         gateMoved_.wait(lock, [&] { return waiting_.count(node) != 0; });
     }
 
-    /// Lets everybody through, now and later.
+    /// Releases all held threads, now and later.
     void release() {
         const std::lock_guard lock(gate_);
         held_.clear();
         gateMoved_.notify_all();
     }
 
-    /// How often `path` was listed, or tried to be.
+    /// How often listing `path` was attempted.
     int timesRead(const std::string& path) {
         const std::lock_guard lock(gate_);
         return reads_[&existing(path)];
@@ -132,12 +132,12 @@ private:
         std::int32_t device;
         TimePoint modified;
         std::uint64_t fileID;
-        Content* content = nullptr;  // of a file or link
+        Content* content = nullptr;  // of a file or a link
         const Node* target = nullptr;
         bool readable = true;
         bool visible = true;
         bool lostOnTheWayBack = false;
-        std::vector<Node*> children{};  // in the order in which they were made, which is the order of delivery
+        std::vector<Node*> children{};  // in order of creation, which is the order of delivery
         std::map<std::string, Node*, std::less<>> byName{};
     };
 
@@ -160,7 +160,7 @@ private:
             return listing();
         }
         bool ascend() override {
-            if (standing_.empty()) return false;  // where it was opened anew below what was opened first
+            if (standing_.empty()) return false;  // reopened below the directory opened first
             standing_.pop_back();
             if (!standing_.empty() && standing_.back() != nullptr && standing_.back()->lostOnTheWayBack)
                 standing_.back() = nullptr;
@@ -184,7 +184,7 @@ private:
         }
 
         FakeDirectoryService& service_;
-        std::vector<const Node*> standing_;  // nullptr: a level that is not there
+        std::vector<const Node*> standing_;  // nullptr: a level that does not exist
         Entries entries_;
     };
 
@@ -195,7 +195,7 @@ private:
         return found == node->byName.end() ? nullptr : found->second;
     }
 
-    /// Slashes at the ends and doubled ones mean nothing.
+    /// Ignores repeated, leading and trailing slashes.
     static const Node* walk(const Node* node, std::string_view below) {
         while (node != nullptr && !below.empty()) {
             const std::size_t slash = below.find('/');
@@ -245,7 +245,7 @@ private:
         waiting_.erase(node);
     }
 
-    // Flat, so that a tree of any depth is released without recursion.
+    // Flat, so that deep trees are released without recursion.
     std::deque<Node> nodes_;
     std::deque<Content> contents_;
     std::uint64_t lastFileID_ = 2;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Files in memory. Every call is written down, and any of them can be made to fail.
+// An in-memory file manager that records every call and can make any of them fail.
 #pragma once
 
 #include <algorithm>
@@ -31,13 +31,13 @@ public:
         }
     };
 
-    // What there is. Missing folders above are made too.
+    // The files. Missing parents are created too.
 
     void addFolder(const std::string& path) {
         const std::lock_guard lock(mutex_);
         makeFolders(path);
     }
-    /// `allocatedSize` is that of the content rounded up to blocks of 4096 if absent.
+    /// `allocatedSize` defaults to the content's size rounded up to blocks of 4096.
     void addFile(const std::string& path, std::string content = {},
                  std::optional<std::uint64_t> allocatedSize = std::nullopt) {
         const std::lock_guard lock(mutex_);
@@ -51,12 +51,12 @@ public:
         makeFolders(parentOf(path));
         entries_[path] = {Kind::link, std::move(target), 0};
     }
-    /// Takes away `path` and everything below it.
+    /// Removes `path` and everything below it.
     void erase(const std::string& path) {
         const std::lock_guard lock(mutex_);
         eraseBelow(path);
     }
-    /// Gives `path` and everything below it another name. Not written down as a call.
+    /// Renames `path` with everything below it. Not recorded as a call.
     void move(const std::string& path, const std::string& newPath) {
         const std::lock_guard lock(mutex_);
         Entries moved;
@@ -68,16 +68,16 @@ public:
         entries_.merge(moved);
     }
 
-    // What goes wrong.
+    // Failures.
 
-    /// The calls for which this says true fail as the operation fails. Asked with no lock held, so that a test may also
-    /// change the files at that moment; set it before other threads come.
+    /// Calls for which this returns true fail. Called without a lock, so that a test may also change the files then;
+    /// set it before other threads start.
     std::function<bool(const Call&)> failing;
 
-    /// The errors with which the opening of these paths fails; 0 is none. Set them before other threads come.
+    /// The errno values of opening these paths; 0 means success. Set them before other threads start.
     std::map<std::string, int> openErrors;
 
-    // What was asked.
+    // The record.
 
     std::vector<Call> calls() const {
         const std::lock_guard lock(mutex_);
@@ -94,7 +94,7 @@ public:
         const std::lock_guard lock(mutex_);
         calls_.clear();
     }
-    /// The content of a file as it is now; absent if there is none. Not written down as a call.
+    /// The current content of a file; absent if it does not exist. Not recorded as a call.
     std::optional<std::string> content(const std::string& path) const {
         const std::lock_guard lock(mutex_);
         const auto entry = resolve(path);
@@ -163,7 +163,7 @@ public:
         return makeFolders(path);
     }
 
-    /// EACCES where it is made to fail.
+    /// EACCES if made to fail.
     int tryOpen(const std::string& path) override {
         if (fails("tryOpen", path)) return EACCES;
         if (const auto error = openErrors.find(path); error != openErrors.end()) return error->second;
@@ -210,7 +210,7 @@ private:
         return failing && failing(call);
     }
 
-    /// False if something else than a folder is in the way.
+    /// False if something other than a folder is in the way.
     bool makeFolders(std::string path) {
         std::vector<std::string> missing;
         while (!path.empty() && !entries_.contains(path)) {

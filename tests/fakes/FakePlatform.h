@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A whole machine in memory: every service of the platform as a fake that a test fills, drives and asks what was done.
+// An in-memory platform: fakes of all services, which a test fills, controls and inspects.
 #pragma once
 
 #include <deque>
@@ -20,7 +20,7 @@
 
 namespace zelk::fakes {
 
-/// Stands still until a test moves it.
+/// A clock that only tests advance.
 class FakeClock : public Clock {
 public:
     TimePoint now() override {
@@ -43,15 +43,15 @@ private:
     double monotonic_ = 1000;
 };
 
-/// Runs every task on a thread of its own, as the real ones are, and joins it: at once, or when a test says so.
+/// Runs every task on a thread of its own, like the real service, and joins it: at once, or when a test says so.
 class FakeTasks : public BackgroundTasks {
 public:
-    /// From now on tasks wait to be told.
+    /// From now on tasks wait until released.
     void hold() {
         const std::lock_guard lock(mutex_);
         holding_ = true;
     }
-    /// Runs what waits, in order, and from now on again everything at once.
+    /// Runs the waiting tasks in order, and from now on each task at once.
     void release() {
         {
             const std::lock_guard lock(mutex_);
@@ -60,9 +60,9 @@ public:
         while (runNext()) {
         }
     }
-    /// Runs the oldest waiting task to its end; false if none waits.
+    /// Runs the oldest waiting task; false if none waits.
     bool runNext() { return runAt(0); }
-    /// The same for the task at `index`, counted from the oldest.
+    /// Runs the waiting task at `index`, counted from the oldest.
     bool runAt(std::size_t index) {
         std::function<void()> task;
         {
@@ -75,7 +75,7 @@ public:
         runOnThread(std::move(task));
         return true;
     }
-    /// The urgencies of the tasks that wait, oldest first.
+    /// The priorities of the waiting tasks, oldest first.
     std::vector<TaskPriority> waiting() const {
         const std::lock_guard lock(mutex_);
         std::vector<TaskPriority> priorities;
@@ -83,7 +83,7 @@ public:
         return priorities;
     }
 
-    /// Called on the thread that gave a task when the task has been run at once. Set before anything runs.
+    /// Called on the submitting thread after a task was run at once. Set it before anything runs.
     std::function<void()> afterOne = [] {};
 
     void run(TaskPriority priority, std::function<void()> task) override {
@@ -121,7 +121,7 @@ public:
     PowerInfo powerInfo;
     double uptimeSeconds = 3600;
 
-    /// Absent makes the volume of `path` unreadable, as it is of all paths that are not set.
+    /// Sets the volume of `path`; absent makes it unreadable, like all paths that are not set.
     void setVolume(const std::string& path, std::optional<VolumeInfo> info) {
         const std::lock_guard lock(mutex_);
         volumes_[path] = info;
@@ -164,7 +164,7 @@ public:
     TrashPlaces trashPlaces() override { return thrownAway; }
 };
 
-/// A folder "/home/me/.Trash" whose entries are in the file manager.
+/// A Trash in "/home/me/.Trash" with entries in the file manager.
 class FakeTrash : public Trash {
 public:
     explicit FakeTrash(FakeFileManager& files) : files_(files) { files_.addFolder(path); }
@@ -172,7 +172,7 @@ public:
     const std::string path = "/home/me/.Trash";
 
     void put(const std::string& name, std::uint64_t bytes) { files_.addFile(path + "/" + name, {}, bytes); }
-    /// Whether it may be looked into.
+    /// Whether it is readable.
     void setAccessible(bool accessible) {
         const std::lock_guard lock(mutex_);
         accessible_ = accessible;
@@ -190,7 +190,7 @@ public:
         return entries;
     }
 
-    /// Fails where the file manager's `failing` says so of the operation "trash".
+    /// Fails if the file manager's `failing` returns true for the operation "trash".
     Failure trash(const ItemPath& item) override {
         if (files_.failing && files_.failing({"trash", item.text()})) return item.text() + " would not go to the Trash";
         if (!files_.properties(item.text())) return item.text() + " does not exist";
@@ -205,7 +205,7 @@ public:
             if (!files_.remove(*ItemPath::from(entry))) ++removed;
         return removed;
     }
-    /// What was moved there, by the paths that it had, in order.
+    /// The original paths of the trashed items, in order.
     std::vector<std::string> trashed() const {
         const std::lock_guard lock(mutex_);
         return trashed_;
@@ -218,7 +218,7 @@ private:
     std::vector<std::string> trashed_;
 };
 
-/// Every program ends well and says nothing, until a test sets the outcome.
+/// Every program succeeds without output until a test sets the outcome.
 class FakeProcesses : public ChildProcess {
 public:
     struct Call {
@@ -228,7 +228,7 @@ public:
         bool operator==(const Call&) const = default;
     };
 
-    /// Set it before other threads come.
+    /// Set it before other threads start.
     std::function<ChildOutcome(const Call&)> outcome = [](const Call&) { return ChildOutcome{}; };
 
     std::vector<Call> calls() const {
@@ -257,9 +257,9 @@ public:
     int runningReads = 0;
     std::vector<std::vector<std::string>> revealed;
     std::vector<std::string> opened;
-    /// The desktop's pictures by path; it has none of any other.
+    /// The desktop's icons by path; other paths have none.
     std::map<std::string, IconPixels> icons;
-    /// The paths whose picture was asked for, in order.
+    /// The paths whose icon was requested, in order.
     std::vector<std::string> iconReads;
 
     std::vector<std::string> runningApplications() override {
@@ -287,7 +287,7 @@ public:
     void setFlag(const std::string& key, bool value) override { flags[key] = value; }
 };
 
-/// The services together. It goes only when the threads of all scans have ended: a walk that is still held hangs it.
+/// All services together. The destructor waits for the threads of all scans: a held walk blocks it.
 class FakePlatform {
 public:
     FakeClock clock;
@@ -307,7 +307,7 @@ public:
 
     Platform platform() { return {clock, directories, files, trash, vitals, locations, tasks, processes, workspace}; }
 
-    /// Until every thread of every scan has ended.
+    /// Waits until every thread of every scan has ended.
     static void waitForThreads() {
         while (!drainThreads(1)) {
         }

@@ -15,13 +15,13 @@
 #endif
 
 #ifdef ZELK_SANITIZERS_HEAP
-// Of the sanitizers' common interface; g++ installs no header that has it.
+// From the sanitizers' common interface, whose header g++ does not install.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace zelk::fakes {
 
-/// The bytes that the process has taken from the heap and not given back. Sanitizers keep a heap of their own.
+/// The bytes allocated on the heap. Sanitizers have a heap of their own.
 inline std::size_t heapInUse() {
 #ifdef ZELK_SANITIZERS_HEAP
     return __sanitizer_get_current_allocated_bytes();

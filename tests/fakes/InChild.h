@@ -12,8 +12,8 @@
 
 namespace zelk::fakes {
 
-/// Runs `check` in a child process, where it may change what belongs to a whole process, and gives its answer. False
-/// also if the child died.
+/// Runs `check` in a child process, where it may change process-wide state, and returns its result; false also if the
+/// child died.
 template <class Check>
 bool inChild(Check check) {
     const pid_t child = ::fork();
@@ -25,9 +25,9 @@ bool inChild(Check check) {
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-inline constexpr unsigned ordinaryUser = 65534;  ///< "nobody", whom asOrdinaryUser() makes of the superuser
+inline constexpr unsigned ordinaryUser = 65534;  ///< "nobody", which asOrdinaryUser() switches to from root
 
-/// The same as a user whom permissions bind: the superuser passes all of them, so root becomes "nobody" for it.
+/// Like inChild(), as a user who is bound by permissions: root switches to "nobody".
 template <class Check>
 bool asOrdinaryUser(Check check) {
     return inChild([&] {
@@ -39,7 +39,7 @@ bool asOrdinaryUser(Check check) {
     });
 }
 
-/// Makes `path` and all below it belong to the user that asOrdinaryUser() runs as.
+/// Gives `path` and everything below it to the user of asOrdinaryUser().
 inline void giveToOrdinaryUser(const std::string& path) {
     if (::geteuid() != 0) return;
     const auto give = [](const std::string& entry) {

@@ -17,11 +17,11 @@
 
 namespace zelk::fakes {
 
-/// Mounts that only this process sees, gone with this object and, whatever happens, with the process. Before the
+/// Mounts in a private namespace, unmounted with this object and in any case with the process. Create it before the
 /// process starts threads.
 class Mounts {
 public:
-    /// False where mounting is not allowed. A user without power over the system asks for a name space of users too.
+    /// False if mounting is not permitted. Unprivileged users get a user namespace too.
     bool allowed() {
         const std::string user = std::to_string(::geteuid());
         const std::string group = std::to_string(::getegid());
@@ -38,13 +38,13 @@ public:
         for (; !places_.empty(); places_.pop_back()) ::umount2(places_.back().c_str(), MNT_DETACH);
     }
 
-    /// A volume of its own at `place`, which is created.
+    /// Mounts a new tmpfs at `place`, which is created.
     void memory(const std::string& place, const std::string& options = "size=16m,mode=0755") {
         std::filesystem::create_directories(place);
         mounted(::mount("tmpfs", place.c_str(), "tmpfs", 0, options.c_str()), place);
     }
 
-    /// What is at `source` at `place` too, which exists.
+    /// Bind-mounts `source` at `place`, which must exist.
     void again(const std::string& source, const std::string& place) {
         mounted(::mount(source.c_str(), place.c_str(), nullptr, MS_BIND, nullptr), place);
     }

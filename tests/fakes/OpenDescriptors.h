@@ -9,15 +9,15 @@
 
 namespace zelk::fakes {
 
-/// How many descriptors the process has open, and always the same number more.
+/// The number of open descriptors of the process, plus a constant.
 inline std::ptrdiff_t openDescriptors() {
     return std::distance(std::filesystem::directory_iterator("/dev/fd"), {});
 }
 
-/// What tells one file from all others: device and inode.
+/// The identity of a file: device and inode.
 using Identity = std::pair<dev_t, ino_t>;
 
-/// Of what `descriptor` is open on; {0, 0} if it is not open.
+/// The identity of an open file; {0, 0} if `descriptor` is closed.
 inline Identity identityOf(int descriptor) {
     struct stat status {};
     return ::fstat(descriptor, &status) == 0 ? Identity{status.st_dev, status.st_ino} : Identity{};

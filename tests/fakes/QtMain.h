@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// main() of the programs that test windows.
+// main() of the test programs that show windows.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -15,7 +15,7 @@
 
 namespace zelk::fakes {
 
-/// What Qt and the QML engine complain about fails the test in which it comes.
+/// Messages of Qt and the QML engine fail the test that is running.
 class FailOnQtMessages : public testing::EmptyTestEventListener {
 public:
     void OnTestEnd(const testing::TestInfo&) override {
@@ -32,12 +32,12 @@ inline int runWindowTests(int argc, char** argv) {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QAccessible::setActive(true);
     testing::InitGoogleMock(&argc, argv);
-    // Models are asked on purpose for rows that are not there.
+    // Models are tested with invalid rows on purpose.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.core.qabstractitemmodel.checkindex=false"));
     tour::keepQtMessages();
     testing::UnitTest::GetInstance()->listeners().Append(new FailOnQtMessages);
     const int status = RUN_ALL_TESTS();
-    // What was said after the last test.
+    // Messages after the last test.
     return tour::takeQtMessages().isEmpty() ? status : EXIT_FAILURE;
 }
 

@@ -14,7 +14,7 @@
 
 namespace zelk::fakes {
 
-/// A session bus of the test's own.
+/// A private session bus.
 class SessionBus {
 public:
     SessionBus() {
@@ -26,7 +26,7 @@ public:
         std::string address = "--print-address=" + descriptor;
         std::string foreground = "--nofork";
         std::array<char*, 5> words{program.data(), options.data(), address.data(), foreground.data(), nullptr};
-        // Were this process to crash, whoever waits for its output would wait for the bus too.
+        // If this process crashed, whoever waits for its output would otherwise wait for the bus too.
         posix_spawn_file_actions_t actions;
         ::posix_spawn_file_actions_init(&actions);
         for (const int output : {1, 2}) ::posix_spawn_file_actions_addopen(&actions, output, "/dev/null", O_WRONLY, 0);

@@ -22,8 +22,8 @@
 
 namespace zelk::fakes {
 
-/// From now on, until the calling thread ends, the kernel does `action` for the system call `number`: SECCOMP_RET_ERRNO
-/// with an error fails it. Give it to a child process or a thread of its own. -1 if the kernel refuses.
+/// Until the calling thread ends, the kernel applies `action` to the system call `number`: SECCOMP_RET_ERRNO with an
+/// error makes it fail. Use it in a child process or on a separate thread. Returns -1 if the kernel refuses.
 inline long filterCalls(int number, unsigned action, unsigned flags = 0) {
     sock_filter steps[] = {
         BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
@@ -36,13 +36,13 @@ inline long filterCalls(int number, unsigned action, unsigned flags = 0) {
     return ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, flags, &program);
 }
 
-/// From now on, until the calling thread ends, the system call `number` fails with `error` unless its argument
-/// `argument` (from 0) has all `bits`. -1 if the kernel refuses. Little-endian machines only.
+/// Until the calling thread ends, the system call `number` fails with `error` unless its argument `argument` (from 0)
+/// has all `bits` set. Returns -1 if the kernel refuses. Little-endian machines only.
 inline long requireBits(int number, unsigned argument, unsigned bits, unsigned error) {
     const auto place = static_cast<unsigned>(offsetof(seccomp_data, args) + argument * sizeof(std::uint64_t));
     const sock_filter steps[] = {
         BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
-        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(number), 0, 3),  // to where all are allowed
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(number), 0, 3),  // jumps to "allow"
         BPF_STMT(BPF_LD | BPF_W | BPF_ABS, place),
         BPF_STMT(BPF_ALU | BPF_AND | BPF_K, bits),
         BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, bits, 0, 1),
@@ -54,12 +54,12 @@ inline long requireBits(int number, unsigned argument, unsigned bits, unsigned e
     return ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, 0, &program);
 }
 
-/// Asked before each gated call, on another thread than the one that calls and waits: `call` counts from 0. Gives 0 to
-/// let the call pass, or the error that it fails with.
+/// Called before each gated call, on another thread, while the caller waits; `call` counts from 0. Returns 0 to let the
+/// call pass, or the errno that it fails with.
 using SystemCallRule = std::function<int(unsigned call)>;
 
-/// Runs `body` on a thread of its own whose calls of the system call `number` meet `rule`: what a disk or another
-/// program does at a bad moment, at just that moment.
+/// Runs `body` on a thread whose system calls `number` are subject to `rule`: simulates failures of the disk and
+/// actions of other programs at an exact moment.
 inline void behindGate(int number, const SystemCallRule& rule, const std::function<void()>& body) {
     std::promise<int> listenerMade;
     std::future<int> listener = listenerMade.get_future();
@@ -76,7 +76,7 @@ inline void behindGate(int number, const SystemCallRule& rule, const std::functi
     try {
         const int fd = listener.get();
         pollfd waiting{fd, POLLIN, 0};
-        // It hangs up when the thread has ended.
+        // The listener hangs up when the thread has ended.
         for (unsigned call = 0; ::poll(&waiting, 1, -1) > 0 && (waiting.revents & POLLIN) != 0;) {
             seccomp_notif asked{};
             if (::ioctl(fd, SECCOMP_IOCTL_NOTIF_RECV, &asked) != 0) continue;

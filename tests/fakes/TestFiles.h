@@ -17,7 +17,7 @@ inline void writeFile(const std::string& path, std::string_view content) {
     if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }
 
-/// "<none>" for a file that cannot be read, which no test writes.
+/// Returns "<none>" for an unreadable file, which no test writes.
 inline std::string fileContent(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     if (!file) return "<none>";

@@ -21,7 +21,7 @@ namespace zelk::fakes {
 
 using Arguments = std::vector<std::string>;
 
-/// Runs a program with nothing on its standard error. The exit status, or -1 if a signal ended it.
+/// Runs a program without standard error. Returns the exit status, or -1 if a signal killed it.
 inline int runProgram(const Arguments& arguments) {
     const pid_t child = ::fork();
     if (child == 0) {
@@ -39,7 +39,7 @@ inline int runProgram(const Arguments& arguments) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// One call of a program: strace counts each by its name, from 1.
+/// One system call of a program: strace counts each by its name, from 1.
 struct CallPosition {
     std::string call;
     int number;
@@ -50,11 +50,11 @@ struct CallPosition {
     }
 };
 
-/// A program under strace, each of whose system calls can be made to fail or to be its last.
+/// A program run under strace, which can make each of its system calls fail or kill it.
 class TracedProgram {
 public:
-    /// `calls` as strace's "trace=" takes them; `log` is a file of its own; `begin` stands in the line of the call
-    /// after which the interesting ones come.
+    /// `calls` is in the form of strace's "trace="; `log` is a file for its output; `begin` occurs in the line of the
+    /// call after which calls are counted.
     TracedProgram(std::string calls, std::string log, std::string begin)
         : calls_(std::move(calls)), log_(std::move(log)), begin_(std::move(begin)) {}
 
@@ -66,11 +66,11 @@ public:
         return runProgram(arguments);
     }
 
-    /// What the last run was told to pretend has happened.
+    /// Whether the last run met a simulated failure or kill.
     bool injected() const { return fileContent(log_).find("(INJECTED)") != std::string::npos; }
 
-    /// The calls of the last run. None where strace cannot trace a program: that needs the package strace and the
-    /// permission to trace one's own children (ptrace).
+    /// The calls of the last run. Empty if strace cannot trace: it needs the package strace and permission to trace
+    /// child processes (ptrace).
     std::vector<CallPosition> positions() const {
         std::vector<CallPosition> found;
         std::map<std::string, int> counts;
@@ -79,7 +79,7 @@ public:
         for (std::string line; std::getline(lines, line);) {
             const std::string call = line.substr(0, line.find('('));
             const int number = ++counts[call];
-            // To a pipe the program writes nothing, but a sanitizer in it does, to see whether memory may be read.
+            // The program itself writes nothing to a pipe, but sanitizers do, to probe memory.
             const bool bySanitizer = call == "write" && line.find("<pipe:[") != std::string::npos;
             line = withoutDescriptorPaths(std::move(line));
             if (begun && !bySanitizer) found.push_back({call, number, line});

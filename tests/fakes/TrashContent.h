@@ -10,8 +10,8 @@
 
 namespace zelk::fakes {
 
-/// The path that an info file names, read as strictly as any other program may: absent if a line is missing, stands
-/// elsewhere or is not encoded.
+/// The path in an info file, parsed as strictly as any program may: absent if a line is missing, misplaced or not
+/// encoded.
 inline std::optional<std::string> pathInTrashInfo(const std::string& text) {
     const std::string head = "[Trash Info]\nPath=";
     const std::size_t end = text.find('\n', head.size());
@@ -39,8 +39,8 @@ inline std::optional<std::string> pathInTrashInfo(const std::string& text) {
     return path;
 }
 
-/// What the trash folder `trash` can put back: each entry of "files" that has info, by the path it was at. What is in
-/// one of the two folders only is not in it.
+/// The restorable entries of the trash folder `trash`: each entry of "files" with info, by its original path. Omits
+/// entries that are in only one of the two folders.
 inline std::map<std::string, std::string> restorable(const std::string& trash) {
     std::map<std::string, std::string> found;
     if (!std::filesystem::is_directory(trash + "/files")) return found;

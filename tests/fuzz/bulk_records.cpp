@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any bytes at all as the records of macOS's directory call; the first byte says how many there are said to be.
+// Decodes arbitrary bytes as records of macOS's directory call; the first byte is the claimed count.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The text of any count, read back by an oracle that shares nothing with the routine but the rule.
+// Formats arbitrary counts and parses them with an oracle that shares only the rule with the formatter.
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 namespace {
 
-__extension__ typedef __int128 Wide;  // a keyword that the standard lacks and both compilers have
+__extension__ typedef __int128 Wide;  // an extension of both compilers
 
 [[noreturn]] void fail(std::int64_t count, const std::string& text, const char* why) {
     std::fprintf(stderr, "%lld -> \"%s\": %s\n", static_cast<long long>(count), text.c_str(), why);
@@ -22,7 +22,7 @@ __extension__ typedef __int128 Wide;  // a keyword that the standard lacks and b
 }
 
 struct Reading {
-    Wide hundredths = 0;  ///< of a byte, so that two decimals of any unit stay whole
+    Wide hundredths = 0;  ///< of a byte, so that two decimals of any unit are whole
     Wide stepHundredths = 0;
     int unit = 0;
 };
@@ -87,7 +87,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::int64_t count = 0;
     std::memcpy(&count, data, sizeof count);
     const char separator = data[sizeof count] % 2 == 0 ? '.' : ',';
-    // Half of the inputs are thinned out, so that small units are met as often as exabytes.
+    // Reduce half of the inputs, so that small units occur as often as exabytes.
     if (data[sizeof count] & 2) count = static_cast<std::int64_t>(static_cast<std::uint64_t>(count) >> (count & 63));
 
     const Reading here = check(count, separator);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a desktop entry, in languages that the first line names, and as the control group of a process.
+// Parses arbitrary bytes as a desktop entry, with the locales in the first line, and as a process's control group.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -42,12 +42,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const std::string& word : entry->command) length += word.size();
         require(length <= text.size());
         require(text.find("[Desktop Entry]") != std::string_view::npos);
-        // Other languages change the name and nothing else.
+        // Other locales change only the name.
         const auto plain = zelk::parseDesktopEntry(text, {});
         require(plain && plain->command == entry->command && plain->tryExec == entry->tryExec &&
                 plain->isApplication == entry->isApplication && plain->hidden == entry->hidden &&
                 plain->noDisplay == entry->noDisplay);
-        // What follows in another group is not read.
+        // Other groups are not read.
         const auto more = zelk::parseDesktopEntry(std::string(text) + "\n[Other]\nName=Other\nHidden=true\n", locales);
         require(more && more->name == entry->name && more->hidden == entry->hidden);
     }

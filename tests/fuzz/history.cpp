@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes at all as the history file: what is taken from them is written and read again without a change, and the
-// sums over it come to an end. The same bytes as a path, and as a size and a date, keep their value too.
+// Parses arbitrary bytes as a history file: encoding the result and decoding it again changes nothing, and the sums
+// over it terminate. Paths, sizes and dates made from the same bytes keep their values too.
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>

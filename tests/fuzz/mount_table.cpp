@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any text as the table of mounts: what is taken from it are absolute paths, and every place that the kernel can write
-// is read back as it was.
+// Parses arbitrary text as a mount table: all mount points are absolute paths, and every path that the kernel can write
+// is read back unchanged.
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -17,7 +17,7 @@ void require(bool condition) {
     if (!condition) std::abort();
 }
 
-/// As the kernel writes a path.
+/// Escapes a path as the kernel does.
 std::string escaped(const std::string& path) {
     std::string text;
     for (const char c : path) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as the path of what is trashed, read back by a reader that knows only what the format promises; and any
-// bytes as its name, which must stay a name, short enough and with its extension.
+// Writes info for arbitrary paths and reads it back with a strict reader of the format; shortens arbitrary names, which
+// must stay valid, within the limit and with their extension.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -45,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checkInfo(bytes);
     const bool isName = !bytes.empty() && bytes != "." && bytes != ".." &&
                         bytes.find_first_of(std::string_view("/\0", 2)) == std::string::npos;
-    // From what encrypting file systems have to what is usual.
+    // From the limit of encrypting file systems to the usual one.
     if (isName) checkName(bytes, 1 + data[0] * std::size_t{251}, 64 + data[1] % 182);
     return 0;
 }

@@ -15,7 +15,7 @@ namespace {
 constexpr std::uint32_t regularFile = 1;
 constexpr ListedDirectory listed{.device = 77, .modified = 1234.5};
 
-// What a record says it has: everything that is asked for, or only the name.
+// The attribute sets of records: everything requested, or the name only.
 constexpr std::uint32_t allCommon = 0x8200040B;
 constexpr std::uint32_t onlyName = 0x80000001;
 constexpr std::uint32_t errorToo = 0x20000000;
@@ -36,7 +36,7 @@ public:
         std::uint32_t common = allCommon;
     };
 
-    /// Gives where the record starts.
+    /// Returns the record's offset.
     std::size_t add(const Fields& fields) {
         const std::size_t start = bytes_.size();
         const bool isDirectory = fields.type == directoryObjectType;
@@ -61,7 +61,7 @@ public:
         return start;
     }
 
-    /// What the kernel makes of an entry that it could not ask: the name, behind `fixedPart` bytes of nothing.
+    /// Adds the record of an entry with an error: only a name, after `fixedPart` zero bytes.
     std::size_t addUnasked(const std::string& name, std::size_t fixedPart, std::uint32_t common = onlyName) {
         const std::size_t start = bytes_.size();
         bytes_.resize(start + (fixedPart + name.size() + 1 + 7) / 8 * 8);
@@ -85,7 +85,7 @@ public:
     bool decodes() { return decodes(count_); }
     bool decodes(std::size_t count) {
         entries.clear();
-        // A copy of the exact size, so that the address sanitizer sees a read behind the end.
+        // Copy to the exact size, so that AddressSanitizer detects reads past the end.
         exact_.assign(bytes_.begin(), bytes_.end());
         exact_.shrink_to_fit();
         return decodeBulkRecords(exact_, count, listed, entries);
@@ -157,7 +157,7 @@ TEST(BulkRecords, acceptsUnpaddedLastRecord) {
     EXPECT_EQ(records.entries[1].name, "b");
 }
 
-/// An entry of which nothing but the name is known.
+/// An entry of which only the name is known.
 void expectUnasked(const DirEntry& entry, std::string_view name) {
     EXPECT_EQ(entry.name, name);
     EXPECT_EQ(entry.objType, directoryObjectType) << "only opening it can tell";

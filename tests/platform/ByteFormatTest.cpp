@@ -68,7 +68,7 @@ TEST(ByteFormat, dropsTrailingZerosOnly) {
     expectTexts({{1100000000, "1.1 GB"}, {1010000000, "1.01 GB"}, {20000000, "20 MB"}, {100000000000, "100 GB"}});
 }
 
-// Nobody has seen what a Mac shows here: the rule is inferred from the rows above, and may be corrected by a machine.
+// Inferred from the rows above, not checked on a Mac.
 TEST(ByteFormat, roundingToAThousandTakesTheNextUnit) {
     expectTexts({{999499, "999 KB"},
                  {999500, "1 MB"},
@@ -78,7 +78,7 @@ TEST(ByteFormat, roundingToAThousandTakesTheNextUnit) {
                  {999995000000, "1 TB"}});
 }
 
-// Inferred in the same way.
+// Also inferred.
 TEST(ByteFormat, roundsHalvesAwayFromZero) {
     expectTexts({{2500, "3 KB"}, {1250000, "1.3 MB"}, {1125000000, "1.13 GB"}});
 }

@@ -16,7 +16,7 @@
 namespace zelk {
 namespace {
 
-/// The soft limit after raising it from `soft` under `hard`; 0 if it cannot be set.
+/// Returns the soft limit after raising it from `soft` with the hard limit `hard`; 0 if these cannot be set.
 rlim_t raisedFrom(rlim_t soft, rlim_t hard) {
     rlimit limit{soft, hard};
     if (::setrlimit(RLIMIT_NOFILE, &limit) != 0) return 0;
@@ -36,7 +36,7 @@ TEST(DescriptorLimit, isNeverLowered) {
     EXPECT_TRUE(fakes::inChild([] { return raisedFrom(9000, 20000) == 9000; }));
 }
 
-// A reader holds sixteen and a few for a moment; 128 are left for all else.
+// A reader holds sixteen and briefly a few more; 128 are reserved for everything else.
 TEST(DescriptorLimit, allowsOneReaderPerTwentyDescriptorsAndAtLeastOne) {
     const std::pair<rlim_t, std::int64_t> rows[] = {{16, 1}, {128, 1}, {167, 1}, {168, 2}, {1024, 44}, {8192, 403}};
     for (const auto& [descriptors, readers] : rows) {

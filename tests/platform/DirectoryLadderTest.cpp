@@ -30,7 +30,7 @@ using fakes::openDescriptors;
 
 const Identity none{};
 
-/// A chain of folders "d" with a sibling "s" on every level, and one more tree of the same names beside it.
+/// A chain of folders "d" with a sibling "s" on every level, and a second tree with the same names.
 class DirectoryLadderTest : public testing::Test {
 protected:
     DirectoryLadderTest() : temp(zoo::TempFolder::Medium::memory) {
@@ -62,7 +62,7 @@ protected:
         for (; levels > 0; --levels) ladder.ascend();
     }
 
-    /// Goes into the sibling and back.
+    /// Enters the sibling and returns.
     Identity sibling() {
         ladder.descend("s");
         const Identity found = standing();
@@ -70,7 +70,7 @@ protected:
         return found;
     }
 
-    /// Down to the level `levels` and up again, into every sibling on both ways.
+    /// Walks down to the level `levels` and back up, entering every sibling on both ways.
     void expectWalked(std::size_t levels) {
         makeLevels(levels);
         const std::ptrdiff_t before = openDescriptors();
@@ -97,7 +97,7 @@ protected:
     const zoo::TempFolder temp;
     Descriptor top;
     std::vector<Identity> rungs;     ///< [0] is the root
-    std::vector<Identity> siblings;  ///< of the same levels
+    std::vector<Identity> siblings;  ///< the siblings on the same levels
     DirectoryLadder ladder;
 };
 
@@ -203,7 +203,7 @@ TEST_F(DirectoryLadderTest, failedDescendStillGoesDownALevel) {
     }
 }
 
-// More levels that cannot be opened than descriptors are kept: they take no place from those that can.
+// More failed levels than descriptors are kept: they must not displace open ones.
 TEST_F(DirectoryLadderTest, manyFailedDescendsKeepTheWayBack) {
     makeLevels(60);
     for (const std::size_t levels : {std::size_t{3}, DirectoryLadder::maximumOpen - 1, DirectoryLadder::maximumOpen,
@@ -261,7 +261,7 @@ TEST_F(DirectoryLadderTest, ascendsByOpenDescriptorFromAMovedFolder) {
     EXPECT_EQ(standing(), rungs[0]);
 }
 
-// Above the moved folder the way back is lost, and the folder that it has come into is never taken for it.
+// Above the moved folder the way back is lost; its new parent must not be taken for the old one.
 TEST_F(DirectoryLadderTest, ascendRejectsTheNewParentOfAMovedFolder) {
     makeLevels(60);
     ASSERT_TRUE(ladder.open(top.get(), ""));
@@ -284,7 +284,7 @@ TEST_F(DirectoryLadderTest, ascendRejectsTheNewParentOfAMovedFolder) {
     EXPECT_EQ(sibling(), siblings[0]);
 }
 
-// The new parent is a folder of the same tree, and even one that the ladder has gone through.
+// The new parent is in the same tree, and the ladder has even gone through it.
 TEST_F(DirectoryLadderTest, ascendRejectsAnotherLevelOfTheSameTree) {
     makeLevels(60);
     ASSERT_TRUE(ladder.open(top.get(), ""));
@@ -336,13 +336,13 @@ TEST_F(DirectoryLadderTest, survivesPermissionWithdrawnAbove) {
 
 TEST_F(DirectoryLadderTest, randomWalkEndsInTheExpectedFolder) {
     struct Level {
-        std::optional<std::string> path;  ///< none where it could not be opened
+        std::optional<std::string> path;  ///< absent if it could not be opened
     };
     std::vector<std::string> folders{temp / "root"};
     std::mt19937 random(7);
     const auto below = [&](std::size_t limit) { return random() % limit; };
     while (folders.size() < 400) {
-        // Mostly below the newest, so that the tree is deep.
+        // Mostly below the newest folder, to make the tree deep.
         const std::string& parent = below(8) == 0 ? folders[below(folders.size())] : folders.back();
         const std::string made = parent + "/" + std::to_string(below(3));
         if (fs::create_directory(made)) folders.push_back(made);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The disk fails, or another program changes it, between two system calls of one reading.
+// The disk fails, or another program changes it, between two system calls of a reader.
 #ifdef __linux__
 
 #include <gmock/gmock.h>
@@ -34,7 +34,7 @@ protected:
         return entries == nullptr ? unreadable : entries->size();
     }
 
-    /// As many entries as a reading gives of which every call `number` meets `rule`.
+    /// The number of entries read while every call `number` is subject to `rule`.
     std::size_t countBehind(int number, const fakes::SystemCallRule& rule) {
         std::size_t found = unreadable;
         behindGate(number, rule, [&] { found = count(); });
@@ -55,10 +55,10 @@ TEST_F(DirectoryReaderFaults, failedListingIsNeverPartial) {
     ASSERT_EQ(countBehind(SYS_getdents64, [&](unsigned) { return ++calls, 0; }), 20000u);
     ASSERT_GT(calls, 2u);
     for (unsigned failing = 0; failing < calls; ++failing) {
-        reader = service.makeReader();  // one that has read before has a larger buffer, and asks less often
+        reader = service.makeReader();  // a used reader has a larger buffer and makes fewer calls
         EXPECT_EQ(countBehind(SYS_getdents64, [&](unsigned call) { return call == failing ? EIO : 0; }), unreadable);
     }
-    EXPECT_EQ(count(), 20000u);  // and the next reading has forgotten it
+    EXPECT_EQ(count(), 20000u);  // the next reading is unaffected
 }
 
 TEST_F(DirectoryReaderFaults, failedStatusOfAFileMakesTheFolderUnreadable) {
@@ -73,7 +73,7 @@ TEST_F(DirectoryReaderFaults, failedStatusOfAFileMakesTheFolderUnreadable) {
     EXPECT_EQ(count(), 5u);
 }
 
-// A mount point whose file system is dead answers so, and the folder that holds it does answer.
+// This is how a dead mount point fails while its parent still answers.
 TEST_F(DirectoryReaderFaults, omitsDeadMountPoint) {
     zoo::makeWide(temp / "few", 0, 5);
     open(temp / "few");
@@ -84,7 +84,7 @@ TEST_F(DirectoryReaderFaults, omitsDeadMountPoint) {
     EXPECT_EQ(count(), 5u);
 }
 
-// A damaged folder is one like any other until it is opened, and is found unreadable then.
+// A damaged folder is listed, and found unreadable when opened.
 TEST_F(DirectoryReaderFaults, keepsDamagedSubfolderAsEntry) {
     zoo::makeWide(temp / "few", 0, 5);
     open(temp / "few");
@@ -105,7 +105,7 @@ TEST_F(DirectoryReaderFaults, omitsEntryRemovedAfterListing) {
             SYS_statx,
             [&](unsigned call) {
                 if (call != at) return 0;
-                // All that are not yet asked about, however they are ordered.
+                // Removes all entries not yet queried, in whatever order they come.
                 for (const std::string& name : std::set<std::string>(left)) {
                     fs::remove(folder + "/" + name);
                     left.erase(name);
@@ -122,7 +122,7 @@ TEST_F(DirectoryReaderFaults, omitsEntryRemovedAfterListing) {
     }
 }
 
-// What is there when it is asked about counts, not what was listed.
+// The state at the time of the statx counts, not the listing.
 TEST_F(DirectoryReaderFaults, reportsFolderSwappedForALinkAsLink) {
     zoo::makeFolder(temp / "root/folder");
     open(temp / "root");
@@ -150,7 +150,7 @@ TEST_F(DirectoryReaderFaults, retriesInterruptedCalls) {
     }
 }
 
-// As in containers that know too few system calls, or forbid them. In a child, since a process remembers it.
+// As in containers that lack or forbid some system calls. In a child, since the process remembers it.
 TEST_F(DirectoryReaderFaults, worksWithoutNewKernelCalls) {
     zoo::makeFolder(temp / "root/folder/below");
     fs::create_directory_symlink("folder", temp / "root/link");

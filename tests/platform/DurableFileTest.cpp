@@ -196,7 +196,7 @@ TEST(DurableFile, unwritableFolderKeepsTheOldContent) {
 TEST(DurableFile, partialWriteKeepsTheOldContent) {
     const TempFolder folder;
     writeFile(folder / "file", "old");
-    // The first write is cut short at the limit, the next one fails.
+    // The first write is truncated at the limit, the next one fails.
     EXPECT_TRUE(inChild([&] {
         ::signal(SIGXFSZ, SIG_IGN);
         const rlimit limit{5000, 5000};
@@ -211,7 +211,7 @@ TEST(DurableFile, partialWriteKeepsTheOldContent) {
 TEST(DurableFile, fullVolumeKeepsTheOldContent) {
     const TempFolder folder;
     EXPECT_TRUE(inChild([&] {
-        // A volume of 64 KiB that only this child sees.
+        // A volume of 64 KiB visible to this child only.
         const int own = CLONE_NEWNS | (::geteuid() == 0 ? 0 : CLONE_NEWUSER);
         if (::unshare(own) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
             ::mount("tmpfs", folder.path().c_str(), "tmpfs", 0, "size=64k") != 0) {
@@ -246,7 +246,7 @@ TEST(DurableFile, keepsFilesThatOnlyLookTemporary) {
         "zelk-write-0123456789abcdef",
     };
     for (const std::string& name : others) writeFile(folder / name, "");
-    ::mkdir((folder / staleName).c_str(), 0755);  // a folder is nobody's temporary file
+    ::mkdir((folder / staleName).c_str(), 0755);  // a folder is never a temporary file
     EXPECT_TRUE(replaceFileDurably(folder / "file", "content"));
     EXPECT_EQ(namesIn(folder.path()).size(), others.size() + 2);
 }
@@ -264,7 +264,7 @@ TEST(DurableFile, sweepsNothingWhileAnotherWrites) {
     EXPECT_THAT(namesIn(folder.path()), ElementsAre("file"));
 }
 
-/// Writes one letter many times over, `rounds` times, each time in another length.
+/// Writes `rounds` times, each time one letter repeated to a different length.
 bool writeOften(const std::string& path, char letter, int rounds) {
     bool all = true;
     for (int round = 0; round < rounds; ++round)

@@ -90,7 +90,7 @@ TEST_F(Processes, unreadableFieldsAreEmpty) {
     EXPECT_THAT(runningProcesses(folder / "nowhere"), IsEmpty());
 }
 
-// The first process is the superuser's.
+// Process 1 belongs to the superuser.
 TEST_F(Processes, omitsOtherUsers) {
     add(1, "/usr/bin/a", {"a"});
     ASSERT_EQ(::chmod(folder.path().c_str(), 0755), 0);

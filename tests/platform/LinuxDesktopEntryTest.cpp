@@ -102,7 +102,7 @@ TEST(DesktopEntryText, splitsAndUnquotesCommand) {
                        "\n")
                     .command,
                 ElementsAre("/opt/My App/run", "--name=a b", "", "%f"));
-    // Two backslashes in the file are one, which then keeps the quote.
+    // Two backslashes in the file mean one, which then quotes the quotation mark.
     EXPECT_THAT(parsed(R"(Exec="a\\"b" c)"
                        "\n")
                     .command,

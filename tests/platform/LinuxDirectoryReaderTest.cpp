@@ -151,7 +151,7 @@ TEST_F(LinuxDirectoryReaderTest, reportsLinkNotItsTarget) {
     zoo::makeFile(temp / "outside", 100000);
     fs::create_symlink(temp / "outside", temp / "link");
     fs::create_symlink(temp / "nowhere", temp / "dangling");
-    fs::create_symlink(std::string(200, 'x'), temp / "long");  // has a block of its own on a disk
+    fs::create_symlink(std::string(200, 'x'), temp / "long");  // takes a block of its own on a disk
     EXPECT_LT(entry(temp.path(), "link").allocSize, 100000u);
     EXPECT_EQ(entry(temp.path(), "link").allocSize, blocksOf(temp / "link"));
     EXPECT_EQ(entry(temp.path(), "dangling").objType, 5u);
@@ -165,7 +165,7 @@ TEST_F(LinuxDirectoryReaderTest, reportsAllocatedSizeNotLength) {
     EXPECT_EQ(entry(temp.path(), "byte").allocSize % 512, 0u);
     EXPECT_EQ(entry(temp.path(), "none").allocSize, 0u);
     EXPECT_EQ(entry(temp.path(), "reserved").allocSize, blocksOf(temp / "reserved"));
-    // Past what 32 bits hold, in bytes and in blocks.
+    // Beyond 32 bits, in bytes and in blocks.
     const Descriptor vast(::open((temp / "vast").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
     if (::fallocate(vast.get(), FALLOC_FL_KEEP_SIZE, 0, 5LL << 30) == 0) {
         EXPECT_GE(entry(temp.path(), "vast").allocSize, 5ULL << 30);
@@ -186,7 +186,7 @@ TEST_F(LinuxDirectoryReaderTest, reportsLinkCountOfFilesOnly) {
 TEST_F(LinuxDirectoryReaderTest, keepsFractionalAndNegativeTimes) {
     const auto withTime = [&](const char* name, timespec modified) {
         zoo::makeFile(temp / name);
-        const timespec times[2] = {{1, 2}, modified};  // the access time is another
+        const timespec times[2] = {{1, 2}, modified};  // the access time differs
         ASSERT_EQ(::utimensat(AT_FDCWD, (temp / name).c_str(), times, 0), 0);
     };
     withTime("fraction", {1700000000, 123456789});
@@ -306,7 +306,7 @@ TEST_F(LinuxDirectoryReaderTest, releasesMemoryOfALargeFolder) {
     EXPECT_LT(entries->capacity() * sizeof(DirEntry), static_cast<std::size_t>(quarter));
 }
 
-// What a walk does with the names that it is given: they lie in the memory that the next step overwrites.
+// As a walk does: the name lies in memory that the step overwrites.
 TEST_F(LinuxDirectoryReaderTest, descendAcceptsNameFromItsOwnList) {
     const std::string name(255, 'd');
     zoo::makeFile(temp / "root/" + name + "/below/file");
@@ -400,7 +400,7 @@ TEST_F(LinuxDirectoryReaderTest, statusAcceptsPathOfAnyLength) {
     EXPECT_FALSE(service.status(path + "/nowhere"));
 }
 
-// A scan tells a mount point by this: both ways of asking must name a device alike, on every device there is.
+// Scans recognize mount points by this: both queries must return the same device number, for every device.
 TEST_F(LinuxDirectoryReaderTest, rootAndEntriesHaveTheSameDevice) {
     for (const char* const path : {"/", "/proc", "/dev", "/dev/shm", "/sys"}) {
         const auto status = service.status(path);
@@ -461,7 +461,7 @@ TEST(StatxEntry, distinguishesGoneFromFailed) {
     EXPECT_TRUE(fakes::asOrdinaryUser([&] { return statxEntry(closed.get(), "file", entry) == StatxOutcome::failed; }));
 }
 
-// The one would wake what is only mounted on use, the other ask a server about every file.
+// The first flag would trigger automounts, the second would query a server for every file.
 TEST(StatxEntry, triggersNoAutomountAndNoSync) {
     const zoo::TempFolder temp;
     zoo::makeFile(temp / "folder/file");

@@ -33,7 +33,7 @@ std::uint64_t allocated(const std::string& path) {
     return static_cast<std::uint64_t>(status.st_blocks) * 512;
 }
 
-/// `depth` folders of one name, one inside the other, and a file "end" of 8192 bytes in the last; gives its path.
+/// Creates `depth` nested folders of one name with a file "end" of 8192 bytes in the last; returns that file's path.
 std::string makeChain(const std::string& top, const std::string& name, int depth) {
     std::string path = top;
     Descriptor at(::open(top.c_str(), O_RDONLY | O_DIRECTORY));
@@ -226,7 +226,7 @@ TEST(LinuxFileManager, tryOpenReturnsErrno) {
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(manager.tryOpen(folder / "file"), 0);
     EXPECT_EQ(manager.tryOpen(folder.path()), 0);
-    EXPECT_EQ(manager.tryOpen(folder / "pipe"), 0);  // without a writer to wait for
+    EXPECT_EQ(manager.tryOpen(folder / "pipe"), 0);  // does not wait for a writer
     EXPECT_EQ(manager.tryOpen(folder / "missing"), ENOENT);
     EXPECT_EQ(manager.tryOpen(folder / "file/below"), ENOTDIR);
     EXPECT_TRUE(asOrdinaryUser([&] { return manager.tryOpen(folder / "locked") == EACCES; }));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Thousands of removals that begin at once, in a process that may have few descriptors: none fails for that.
+// Thousands of concurrent removals in a process with few descriptors: none may fail because of that.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -32,7 +32,7 @@ protected:
 
     std::string pathOf(int item) const { return temp / "items/" + std::to_string(item); }
 
-    /// How many of all items fail, each in a thread of its own.
+    /// Removes each item on its own thread and returns the number of failures.
     static int failures(const std::function<Failure(int)>& take) {
         std::atomic<int> failed = 0;
         std::vector<std::thread> threads;

@@ -36,7 +36,7 @@ Failure removed(const std::string& path) {
     return LinuxFileManager().remove(ItemPath::from(path).value());
 }
 
-/// Where the kernel has no openat2, as in containers that know too few calls. In a child: it holds for good.
+/// Runs the check without openat2, as in containers that lack it. In a child, since the filter is permanent.
 template <class Check>
 bool withoutTheNewestCall(Check check) {
     return fakes::inChild([&] { return fakes::filterCalls(SYS_openat2, SECCOMP_RET_ERRNO | ENOSYS) == 0 && check(); });
@@ -44,13 +44,13 @@ bool withoutTheNewestCall(Check check) {
 
 class Remover : public testing::Test {
 protected:
-    /// Everything but `victim`, which is to be left alone.
+    /// Everything except `victim`, which must stay untouched.
     void expectOutsideUntouched() const {
         EXPECT_EQ(namesIn(outside), (std::set<std::string>{"file", "folder"}));
         EXPECT_EQ(namesIn(outside + "/folder"), (std::set<std::string>{"below"}));
     }
 
-    /// Whatever a stranger's disk may hold and its owner may remove.
+    /// The hostile zoo, as far as its owner may remove it.
     void makeTree() const {
         const std::string linked = temp / "linked";
         zoo::makeHardLinks(victim + "/hard links", linked);
@@ -299,7 +299,7 @@ TEST_F(Remover, removesEntriesAddedMeanwhile) {
     behindGate(
         SYS_unlinkat,
         [&](unsigned number) {
-            // After the only file is gone, and when the folder is to go.
+            // Refill after the only file is gone, just before the folder is removed.
             if (number == 1) zoo::makeFile(victim + "/folder/late/file");
             return 0;
         },

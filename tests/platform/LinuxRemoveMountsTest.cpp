@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Removing where other volumes are mounted, and while another thread swaps folders for links.
+// Removal with other volumes mounted below, and while another thread swaps folders for links.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <stdio.h>
@@ -90,8 +90,8 @@ TEST_F(RemoverAndMounts, removesEntriesWithinAMount) {
     EXPECT_TRUE(namesIn(elsewhere).empty());
 }
 
-// The same folder is reached by two paths, and what is mounted below one of them holds the folder under it in place for
-// both, though below the other there is no mount to be seen.
+// Two paths lead to the same folder. A mount under one of them makes the folder undeletable under both, although no
+// mount is visible under the other.
 TEST_F(RemoverAndMounts, refusesFolderWithMountUnderAnotherPath) {
     zoo::makeFolder(temp / "alias");
     mounts.again(temp.path(), temp / "alias");
@@ -119,7 +119,7 @@ TEST_F(RemoverAndMounts, refusesFileMountedUnderAnotherPath) {
     EXPECT_TRUE(fs::exists(victim + "/a/file"));
 }
 
-// Nothing of the table of mounts, and then of the newest call, is needed to stop at a mount.
+// Neither the mount table nor, in the second case, openat2 is needed to stop at a mount.
 class RemoverWithoutMountTable : public RemoverAndMounts, public testing::WithParamInterface<bool> {};
 
 TEST_P(RemoverWithoutMountTable, stopsAtAMount) {
@@ -129,7 +129,7 @@ TEST_P(RemoverWithoutMountTable, stopsAtAMount) {
         behindGate(
             SYS_openat2, [](unsigned) { return ENOSYS; },
             [&] {
-                // No link of /proc can be read by this thread, so that no path is known to look up in the table.
+                // This thread cannot read links in /proc, so it has no path to look up in the mount table.
                 ASSERT_EQ(fakes::filterCalls(SYS_readlink, SECCOMP_RET_ERRNO | ENOENT), 0);
                 failure = removedEntry(victim);
             });
@@ -163,7 +163,7 @@ TEST(RemoverAndSwaps, racingSwapsTouchNothingOutside) {
         const std::string folder = victim + "/a/b/folder";
         const std::string upper = victim + "/a/b";
         while (!done) {
-            // The folder and the link change places in one step, and the one above it too.
+            // Atomically exchanges the folder and the link, and the same for the parent.
             for (const std::string& place : {folder, upper})
                 swaps += ::renameat2(AT_FDCWD, place.c_str(), AT_FDCWD, spare.c_str(), RENAME_EXCHANGE) == 0;
         }
@@ -172,7 +172,7 @@ TEST(RemoverAndSwaps, racingSwapsTouchNothingOutside) {
     for (int run = 0; run < 1000 || swaps == 0; ++run) {
         for (const char* name : {"/a/b/folder/file", "/a/b/c/file", "/a/b/folder/a/file", "/a/b/folder/b/c/file"}) try {
                 zoo::makeFile(victim + name);
-            } catch (const std::system_error&) {  // swapped under the making; what there is will do
+            } catch (const std::system_error&) {  // swapped while being created; a partial tree is fine
             }
         complete += !removedEntry(victim);
     }

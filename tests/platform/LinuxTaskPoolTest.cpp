@@ -41,13 +41,13 @@ protected:
     std::vector<std::shared_ptr<TaskPool>> pools;
 };
 
-/// Gives `body` on a thread that can make no other.
+/// Runs `body` on a thread that cannot start others.
 void whereNoThreadCanBeMade(const std::function<void()>& body) {
     fakes::behindGate(
         SYS_clone3, [](unsigned) { return EAGAIN; }, body);
 }
 
-/// Keeps a thread of the pool until it may go.
+/// Occupies a thread of the pool until released.
 void occupy(TaskPool& pool, std::latch& begun, std::latch& mayGo) {
     pool.run(0, [&] {
         begun.count_down();
@@ -98,7 +98,7 @@ TEST_F(LinuxTaskPoolTest, idleThreadTakesTheNextTask) {
     EXPECT_EQ(different.size(), 1u);
 }
 
-// The second must not rely on the one idle thread that the first has just been given to.
+// The second task must not rely on the idle thread that was just given to the first.
 TEST_F(LinuxTaskPoolTest, oneIdleThreadDoesNotServeTwoTasks) {
     for (int round = 0; round < 100; ++round) {
         TaskPool& threads = pool(2);
@@ -193,7 +193,7 @@ TEST_F(LinuxTaskPoolTest, isDestroyedWithItsLastThread) {
     EXPECT_TRUE(seen.expired());
 }
 
-// Each task waits for the one that it gives, three times as deep as there are threads.
+// Each task waits for its subtask, three times as deep as there are threads.
 TEST_F(LinuxTaskPoolTest, taskMayAwaitItsSubtaskWhenAllThreadsAreBusy) {
     TaskPool& threads = pool(4);
     std::atomic<int> ended = 0;
@@ -228,7 +228,7 @@ TEST_F(LinuxTaskPoolTest, taskWithSubtaskIsNotDelayedByQueuedTasks) {
     EXPECT_EQ(order, "given giver queued");
 }
 
-// Whoever gives a task from the threads of another pool is not its own: nothing there waits for him.
+// A caller on another pool's thread is not this pool's task: nothing here waits for it.
 TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolIsQueued) {
     TaskPool& busy = pool(1);
     TaskPool& other = pool(1);
@@ -345,7 +345,7 @@ TEST_F(LinuxTaskPoolTest, taskOfAnotherPoolIsQueuedWhenNoThreadCanStart) {
     EXPECT_NE(runner, giver);
 }
 
-// Two callers each count on the thread that the other is about to make, and neither gets one.
+// Two callers each rely on the thread that the other is starting, and neither succeeds.
 TEST_F(LinuxTaskPoolTest, failedLastThreadLeavesNothingQueued) {
     TaskPool& threads = pool(3);
     std::latch firstAsks(1);

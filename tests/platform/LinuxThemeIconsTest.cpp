@@ -26,7 +26,7 @@ bool isAll(const std::optional<IconPixels>& icon, int side, std::uint32_t color)
            std::all_of(icon->argb.begin(), icon->argb.end(), [&](std::uint32_t pixel) { return pixel == color; });
 }
 
-/// A desktop whose icon theme has three pictures of 16 x 16.
+/// A desktop with an icon theme of three icons of 16 x 16.
 class LinuxThemeIconsTest : public testing::Test {
 protected:
     LinuxThemeIconsTest() {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Every system call of trashing and of emptying, failed and killed in turn: an item is where it was or can be put back,
-// whole, and nothing is said to be in the Trash that is not.
+// Fails and kills every system call of trashing and emptying in turn: the item is always either in place or restorable,
+// whole, and never reported in the Trash when it is not.
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -25,7 +25,7 @@ using fakes::namesIn;
 using fakes::restorable;
 using fakes::writeFile;
 
-/// What the Trash is made of; "?" passes over those that this machine does not have.
+/// The system calls of the Trash; "?" skips those that this machine lacks.
 const std::string tracedCalls =
     "?access,?faccessat,?faccessat2,?open,openat,?openat2,?mkdir,mkdirat,?stat,?lstat,?fstat,?newfstatat,?statx,"
     "?readlink,readlinkat,read,write,fsync,close,?rename,renameat,?renameat2,?unlink,unlinkat,?rmdir,flock,fcntl,"
@@ -33,7 +33,7 @@ const std::string tracedCalls =
 
 class TrashDurability : public testing::Test {
 protected:
-    /// An item, and a Trash in which its name is taken. Nothing else.
+    /// Creates an item and a Trash in which its name is taken, nothing else.
     void prepare() {
         for (const std::string& folder : {home, items}) fs::remove_all(folder);
         zoo::makeFolder(items);
@@ -44,14 +44,14 @@ protected:
         writeFile(item, "content");
     }
 
-    /// As one of this application's own, whose orphans are swept.
+    /// Marks it as written by Zelk, so that it is swept as an orphan.
     void addInfo(const std::string& name) const {
         const std::string path = trash + "/info/" + name + ".trashinfo";
         writeFile(path, "[Trash Info]\nPath=/old/" + name + "\nDeletionDate=2026-01-01T00:00:00\n");
         ASSERT_EQ(::chmod(path.c_str(), 01600), 0);
     }
 
-    /// The next run trashes one item, and has swept what the last one left by then.
+    /// Trashes one item in a new run, which first sweeps what the last one left.
     void expectNoOrphanAfterTheNextItem() const {
         const std::string next = items + "/next";
         writeFile(next, "next");
@@ -119,7 +119,7 @@ TEST_F(TrashDurability, reportsWhetherTheItemMovedOnErrorAtEverySyscall) {
             EXPECT_TRUE(status == 0 ? isInTrash() && !isInPlace() : status == 1 && isInPlace() && !isInTrash())
                 << status;
             EXPECT_TRUE(oldOnesAreThere());
-            // Each file of info has its content.
+            // Every info file has its content.
             EXPECT_EQ(namesIn(trash + "/info").size(), namesIn(trash + "/files").size());
         }
     }
@@ -152,7 +152,7 @@ TEST_F(TrashDurability, firstTrashSurvivesKillAtEverySyscall) {
         zoo::makeFolder(home);
         EXPECT_EQ(trashItem({position.injection("signal=KILL")}), -1);
         EXPECT_TRUE(isInPlace() != isInTrash());
-        // A Trash that is half made is in nobody's way.
+        // A partly created Trash does no harm.
         if (isInPlace()) {
             EXPECT_EQ(trashItem({}), 0);
         }
@@ -213,7 +213,7 @@ TEST_F(TrashDurability, survivesKillAtEverySyscall) {
         (isInPlace() ? killedInPlace : killedInTrash) = true;
         expectNoOrphanAfterTheNextItem();
         EXPECT_TRUE(isInPlace() != isInTrash());
-        // And what was left is in nobody's way.
+        // What was left does no harm either.
         if (isInPlace()) {
             EXPECT_EQ(trashItem({}), 0);
         }

@@ -42,7 +42,7 @@ protected:
         zoo::makeFolder(info);
     }
 
-    /// Info as another program wrote it a while ago.
+    /// Adds info as another program wrote it a while ago.
     void addInfo(const std::string& name) {
         const std::string path = info + "/" + name + ".trashinfo";
         writeFile(path, "[Trash Info]\nPath=/was/here\nDeletionDate=2026-01-01T00:00:00\n");
@@ -55,7 +55,7 @@ protected:
         zoo::makeFile(files + "/" + name, 10);
     }
 
-    /// A folder of the ordinary user's, with one in it that is another user's.
+    /// Adds a folder of the ordinary user that contains another user's folder.
     void addLocked() {
         zoo::makeFile(files + "/locked/theirs/file");
         addInfo("locked");
@@ -69,7 +69,7 @@ protected:
         EXPECT_EQ(LinuxTrash(home).trash(ItemPath::from(temp / "same").value()), std::nullopt);
     }
 
-    /// Where it is in the Trash; empty if it could not be put back.
+    /// Its path in the Trash; empty if it could not be restored.
     std::string newcomer() {
         const auto found = restorable(trash);
         const auto at = found.find(temp / "same");
@@ -83,7 +83,7 @@ protected:
         EXPECT_EQ(itsTrash.empty(), 1u);
     }
 
-    /// Something new of the same name is trashed just before the removal's call `at`, from 0.
+    /// Trashes a new item of the same name just before the emptying's call number `at`, from 0.
     void emptyAsANewcomerComes(unsigned at) {
         const auto rule = [&](unsigned call) {
             if (call == at) trashNewcomer();
@@ -218,7 +218,7 @@ TEST_F(EmptyingTrash, unremovableEntryYieldsItsNameToANewItem) {
     fakes::giveToOrdinaryUser(temp / "mine");
     const auto emptied = [&] {
         const auto rule = [&](unsigned call) {
-            // The entry has another name by now, and none of it could be removed yet.
+            // The entry has been renamed by now, and nothing of it could be deleted yet.
             return call == 1 && LinuxTrash(home).trash(ItemPath::from(temp / "mine/locked").value()) ? EIO : 0;
         };
         std::size_t removed = 1;
@@ -244,12 +244,12 @@ TEST_F(EmptyingTrash, concurrentTrashingKeepsContentAndInfoTogether) {
 TEST_F(EmptyingTrash, keepsInfoOfANewItemNamedLikeOrphanContent) {
     for (unsigned at = 0; at < 2; ++at) {
         zoo::makeFile(files + "/same");
-        // Content without info has its name for as long as it is there, and not a moment longer.
+        // Content without info keeps its name only until it is renamed.
         emptyAsANewcomerComes(at);
     }
 }
 
-// Another program, which waits for nobody, empties the Trash in the middle of it, and something new gets the name.
+// Another program, which takes no locks, empties the Trash meanwhile, and a new item gets the name.
 TEST_F(EmptyingTrash, keepsNewItemWithTheNameOfAListedEntry) {
     for (const long call : {SYS_statx, SYS_linkat, SYS_renameat2}) {
         unsigned calls = 0;
@@ -281,7 +281,7 @@ TEST_F(EmptyingTrash, keepsNewItemWithTheNameOfAListedEntry) {
     }
 }
 
-// Another program takes the old info, whose content has a new name by then, for an orphan.
+// Another program takes the old info, whose content has already been renamed, for an orphan.
 TEST_F(EmptyingTrash, keepsInfoOfANewItemNamedLikeARenamedEntry) {
     add("same");
     bool came = false;

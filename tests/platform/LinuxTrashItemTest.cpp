@@ -41,7 +41,7 @@ class TrashItem : public testing::Test {
 protected:
     Failure trashed(const std::string& path) { return itsTrash.trash(ItemPath::from(path).value()); }
 
-    /// Nothing has come into the Trash, and no info file is left behind.
+    /// Expects that nothing reached the Trash and that no info is left.
     void expectTrashUntouched() const {
         for (const char* folder : {"/files", "/info"}) {
             if (fs::exists(trash + folder)) {
@@ -60,7 +60,7 @@ protected:
     void SetUp() override {
         zoo::makeFolder(temp / "items");
         zoo::makeFolder(home);
-        fs::permissions(home, fs::perms::all);  // for whoever a test runs as
+        fs::permissions(home, fs::perms::all);  // for any user that a test runs as
     }
 
     const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
@@ -231,7 +231,7 @@ TEST_F(TrashItem, neverOverwritesOrphanContent) {
 }
 
 TEST_F(TrashItem, neverOverwritesContentThatAppearsMeanwhile) {
-    // With the call that promises it, and on a volume that has no such call.
+    // With RENAME_NOREPLACE, and on a volume without it.
     for (const int answer : {0, EINVAL}) {
         fs::remove_all(trash);
         writeFile(item, "content");
@@ -439,7 +439,7 @@ TEST_F(TrashItem, twoThousandEqualNamesCostLinearWork) {
     EXPECT_LE(many, 19 * few + 1900);
     EXPECT_EQ(namesIn(trash + "/files").size(), 2000u);
     EXPECT_EQ(namesIn(trash + "/info").size(), 2000u);
-    // One that has seen none of it searches once and no more.
+    // A new instance searches once only.
     LinuxTrash another(home);
     const auto lookups = [&] {
         unsigned calls = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Info files without content, which a run that was killed has left.
+// Info files without content, left behind by a killed run.
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/file.h>

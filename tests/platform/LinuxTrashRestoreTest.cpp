@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is trashed comes back byte for byte with the tools that people have for that.
+// Trashed items are restored byte for byte by the usual tools.
 #include <gmock/gmock.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
@@ -32,7 +32,7 @@ std::string longName() {
     return name + ".with.txt";
 }
 
-/// On the disk: one of the tools does not look for a Trash elsewhere.
+/// On the disk, since one of the tools looks for a Trash nowhere else.
 class RestoringTrash : public testing::Test {
 protected:
     void SetUp() override {
@@ -58,8 +58,8 @@ protected:
         EXPECT_TRUE(namesIn(home + "/.local/share/Trash/info").empty());
     }
 
-    /// Runs `line` in the shell, as the owner of the home folder, and waits for all that it has started: what a session
-    /// leaves behind writes into the home folder until its end.
+    /// Runs `line` in a shell as the owner of the home folder and waits for everything that it started, since daemons
+    /// of a session write into the home folder until they exit.
     int shell(const std::string& line) {
         ::prctl(PR_SET_CHILD_SUBREAPER, 1);
         const int status = runProgram({"env", "-u", "XDG_DATA_HOME", "-u", "DBUS_SESSION_BUS_ADDRESS", "HOME=" + home,
@@ -70,7 +70,7 @@ protected:
         return status;
     }
 
-    /// Of what was below `folder`, in the tool's own order.
+    /// The entries below `folder`, in the tool's order.
     int restoreFirstBelow(const std::string& folder, const std::string& options = "") {
         return shell("cd / && echo 0 | trash-restore " + options + " '" + folder + "' >/dev/null");
     }
@@ -80,7 +80,7 @@ protected:
     const std::string items = temp / "items";
 };
 
-// But for names that are no UTF-8: it brings those back under a name of replacement characters.
+// Except names that are not UTF-8, which it restores with replacement characters.
 TEST_F(RestoringTrash, trashRestoreRestoresEveryName) {
     const std::vector<std::string> names{"100%25 %", "new\nPath=passwd", "\x01\tü文", ".hidden", longName()};
     trashAll(names);
@@ -110,13 +110,13 @@ TEST_F(RestoringTrash, trashRestoreRestoresFromVolumeTrash) {
     ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(item).value()), std::nullopt);
     EXPECT_FALSE(fs::exists(item));
     restoreFirstBelow(temp / "stick");
-    // Newer versions of the tool look for volumes among disks alone, so they are told of this one.
+    // Newer versions only look for volumes on disks, so tell them about this one.
     const std::string own = temp / "stick/.Trash-" + std::to_string(::getuid());
     if (!fs::exists(item)) restoreFirstBelow(temp / "stick", "--trash-dir '" + own + "'");
     EXPECT_EQ(fileContent(item), "content");
 }
 
-// It restores names that are not printable under an escaped form of the name, so those are left to the other tool.
+// It restores unprintable names in an escaped form, so only the other tool is tested with those.
 TEST_F(RestoringTrash, gioRestoresListedItems) {
     const std::vector<std::string> names{"plain.txt", "a b", "100%25", "%", ".hidden", "a.b.c", std::string(250, 'n')};
     trashAll(names);

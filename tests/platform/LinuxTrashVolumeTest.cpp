@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Items of other volumes than the home folder's, and volumes that are full.
+// Items on volumes other than that of the home folder, and full volumes.
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -44,7 +44,7 @@ protected:
 
     Failure trashed(const std::string& path) { return LinuxTrash(home).trash(ItemPath::from(path).value()); }
 
-    /// The item is in the trash folder `trash` of the volume, by its path on the volume.
+    /// Expects the item in the volume's trash folder `trash`, with its path on the volume.
     void expectTrashedIn(const std::string& trash) {
         EXPECT_EQ(trashed(item), std::nullopt);
         const auto found = restorable(trash);

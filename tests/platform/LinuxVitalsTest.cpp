@@ -13,7 +13,7 @@
 namespace zelk {
 namespace {
 
-/// A made /proc, /sys and /etc.
+/// A fake /proc, /sys and /etc.
 class MadeMachine : public testing::Test {
 protected:
     MadeMachine() {
@@ -218,7 +218,7 @@ TEST_F(MadeMachine, missingVolumeIsAbsent) {
     EXPECT_FALSE(vitals().volume("").has_value());
 }
 
-/// A volume whose every field tells another story.
+/// A record whose fields all differ.
 struct statvfs volumeRecord() {
     struct statvfs record {};
     record.f_bsize = 1'048'576;

@@ -39,7 +39,7 @@ TEST(FileUri, percentEncodesPath) {
     EXPECT_EQ(fileUri("/"), "file:///");
 }
 
-/// Notes what it is asked to show.
+/// Records what it is asked to show.
 class FileManagerService : public QDBusVirtualObject {
 public:
     bool refuses = false;
@@ -132,7 +132,7 @@ TEST_F(LinuxWorkspaceTest, canBeDestroyedWhileRevealing) {
             [this] { return session.connect("zelk"); });
         brief.reveal({"/home/me/a"});
     }
-    workspace.reveal({"/home/me/b"});  // answered behind the other
+    workspace.reveal({"/home/me/b"});  // answered after the first
     runUntil([&] { return !launched.empty(); });
     EXPECT_FALSE(launchedLate);
 }
@@ -150,8 +150,8 @@ TEST_F(LinuxWorkspaceTest, accessSettingsRevealTheTrash) {
     EXPECT_THAT(launched, IsEmpty());
 }
 
-// A program of the test's own: after another test took this process into a mount namespace, the kernel may give the
-// path of its executable as seen from the former one.
+// Starts a program of its own: after another test moved this process into a mount namespace, the kernel may report the
+// path of this executable as seen from the previous one.
 TEST_F(LinuxWorkspaceTest, listsRunningApplications) {
     const zoo::TempFolder data;
     const std::string program = data / "program";
@@ -178,7 +178,7 @@ void waitForThreads() {
     }
 }
 
-/// In a process that has had none.
+/// In a process that has had no children.
 bool hasNoChild() {
     return ::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD;
 }

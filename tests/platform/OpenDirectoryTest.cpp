@@ -37,7 +37,7 @@ std::string repeated(std::size_t count, const std::string& text) {
     return all;
 }
 
-/// Opens, looks and closes again; {0, 0} and errno as the function left it where it gave -1.
+/// Returns the identity of an opened directory and closes it; {0, 0}, with errno unchanged, if it could not be opened.
 Identity root(const std::string& path) {
     const Descriptor fd(openRootDirectory(path));
     return fd ? identityOf(fd.get()) : Identity{};
@@ -67,14 +67,15 @@ protected:
         EXPECT_EQ(openDescriptors(), before);
     }
 
-    /// `levels` folders of 255-byte names below `folder`; gives the path of the lowest, relative to `folder`.
+    /// Creates `levels` nested folders with 255-byte names below `folder`; returns the path of the lowest, relative to
+    /// `folder`.
     std::string makeLong(const std::string& folder, std::size_t levels) {
         zoo::makeChain(folder, levels, 255);
         std::string path = repeated(levels, '/' + std::string(255, 'd'));
         return path.substr(1);
     }
 
-    /// Of the lowest folder of a chain, found step by step.
+    /// The identity of the lowest folder of a chain, found step by step.
     Identity lowest(std::size_t levels) {
         Descriptor at(::openat(top.get(), "long", O_RDONLY | O_DIRECTORY));
         for (; levels > 0; --levels)
@@ -127,8 +128,7 @@ TEST_F(OpenDirectory, rootAcceptsRepeatedSlashes) {
     EXPECT_EQ(root(temp / "root/a" + repeated(5000, "/../a")), identityAt(temp / "root/a"));
 }
 
-// The first name is made longer byte by byte, so that every byte of the others comes to lie where a path ends that one
-// system call takes.
+// Lengthens the first name byte by byte, so that every byte of the others comes to lie at the limit of one system call.
 TEST_F(OpenDirectory, opensPathLongerThanPathMax) {
     constexpr std::size_t levels = 34;
     const std::string below = makeLong(temp / "root/long", levels);
@@ -148,7 +148,7 @@ TEST_F(OpenDirectory, opensPathLongerThanPathMax) {
 }
 
 TEST_F(OpenDirectory, opensPathsAroundPathMax) {
-    // "x/x/x/...": both the number of names and the number of bytes grow by little.
+    // "x/x/x/...": the number of names and of bytes grows in small steps.
     zoo::makeChain(temp / "root/long", 2100, 1);
     Descriptor at(::openat(top.get(), "long", O_RDONLY | O_DIRECTORY));
     std::string below = "long";
@@ -170,7 +170,7 @@ TEST_F(OpenDirectory, followsLinksInLongRootsButNeverBeneath) {
     Descriptor at(::open((temp / "root/long").c_str(), O_RDONLY | O_DIRECTORY));
     const std::string name(255, 'd');
     for (std::size_t level = 0; level < levels; ++level) {
-        // To the very folder that stood there: nothing but the link itself is a reason to refuse.
+        // A link to the original folder: the link itself is the only reason to refuse.
         ASSERT_EQ(::renameat(at.get(), name.c_str(), at.get(), "moved"), 0);
         ASSERT_EQ(::symlinkat("moved", at.get(), name.c_str()), 0);
         EXPECT_EQ(beneath(top.get(), below), nobody) << level;
@@ -272,7 +272,7 @@ TEST_F(OpenDirectory, childProcessesInheritNoDescriptor) {
 
 #ifdef __linux__
 
-// What looks like a link to a folder in /proc is none to the file system, and leads anywhere.
+// Magic links in /proc look like links to folders, but the kernel lets them lead anywhere.
 TEST_F(OpenDirectory, refusesMagicLinks) {
     const Descriptor self(::open("/proc/self", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     for (const std::string& below : {std::string("root"), std::string("cwd"), std::string("root/tmp"),

@@ -104,7 +104,7 @@ TEST(PosixChildProcess, inheritsEnvironmentAndWorkingDirectory) {
 TEST(PosixChildProcess, childHasOnlyStandardDescriptors) {
     const zoo::TempFolder folder;
     EXPECT_EQ(shell("ls /dev/fd/ > " + (folder / "list") + " 3>&-; grep -c . " + (folder / "list")).exitStatus, 0);
-    // The list's own reading of the folder is the fourth.
+    // The fourth is that of listing the folder.
     EXPECT_EQ(fakes::fileContent(folder / "list"), "0\n1\n2\n3\n");
 }
 
@@ -117,7 +117,7 @@ TEST(PosixChildProcess, leaksNoDescriptor) {
 
 TEST(PosixChildProcess, failsWithoutFreeDescriptors) {
     EXPECT_TRUE(fakes::inChild([] {
-        shell(":");  // a sanitizer that meets a type for the first time needs descriptors to look at it
+        shell(":");  // a sanitizer needs descriptors the first time it sees a type
         while (::dup(0) >= 0) {
         }
         return shell(":").launchFailure == std::strerror(EMFILE);
@@ -150,7 +150,7 @@ TEST(PosixChildProcess, survivesSignalWhileWaiting) {
     }));
 }
 
-// The tool writes until the pipe takes no more, which it would do for ever if anybody read meanwhile.
+// The tool writes until the pipe is full, which would never happen if anybody read meanwhile.
 TEST(PosixChildProcess, readsOutputOnlyAfterExit) {
     const zoo::TempFolder folder;
     const std::string program =

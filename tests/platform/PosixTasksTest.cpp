@@ -39,7 +39,7 @@ TEST(ThreadTasks, runsEveryTaskOnce) {
     for (const std::atomic<int>& count : runs) EXPECT_EQ(count, 1);
 }
 
-// Each waits for all the others: on fewer threads it would never end.
+// Each task waits for all others: on fewer threads this would never end.
 TEST(ThreadTasks, runsTasksConcurrently) {
     ThreadTasks tasks;
     std::latch all(12);
@@ -56,7 +56,7 @@ TEST(ThreadTasks, runsTasksConcurrently) {
     EXPECT_FALSE(different.contains(std::this_thread::get_id()));
 }
 
-// The tools stall until an item has been done that was given after all of them.
+// The tools block until an item that was submitted after all of them is done.
 TEST(ThreadTasks, stalledApartTasksBlockNothing) {
     ThreadTasks tasks;
     constexpr int stalling = 150;
@@ -119,7 +119,7 @@ struct CountsCopies {
     void operator()() const {}
 };
 
-// A second copy might be the last to go, on the thread that asked: what a task is to release there is large.
+// A second copy might be destroyed last, on the submitting thread, although it may be large.
 TEST(ThreadTasks, movesTasksWithoutCopying) {
     ThreadTasks tasks;
     std::atomic<int> copies = 0;
@@ -162,18 +162,18 @@ TEST(ThreadTasks, taskMayStartOthers) {
 
 #ifdef __linux__
 
-/// The tasks of the process, but for the calling thread's own.
+/// The threads of the process except the calling one.
 std::ptrdiff_t otherThreads() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {}) - 1;
 }
 
-/// The same, once there has been a thread: with the first one a sanitizer makes one of its own, which stays.
+/// Like otherThreads(), after starting one thread: with the first one, a sanitizer starts a permanent one of its own.
 std::ptrdiff_t otherThreadsThatStay() {
     std::thread([] {}).join();
     return otherThreads();
 }
 
-// Only as many as there are threads run at the same time, and however many wait, what is urgent is not held up by them.
+// Only as many tasks as threads run concurrently, and waiting tasks do not delay urgent ones.
 TEST(ThreadTasks, tenThousandTasksUseAtMostSixtyFourThreads) {
     ThreadTasks tasks;
     static_assert(ThreadTasks::mostUrgentThreads + ThreadTasks::mostPatientThreads == 64);
@@ -206,7 +206,7 @@ TEST(ThreadTasks, userInitiatedTasksRunFirst) {
     std::mutex mutex;
     std::string order;
     for (std::size_t number = 0; number < ThreadTasks::mostUrgentThreads; ++number) {
-        // One thread goes on, and the others stay where they are.
+        // One thread continues, and the others stay blocked.
         tasks.run(TaskPriority::standard, [&, number] {
             allTaken.count_down();
             number == 0 ? mayGo.wait() : tasksEnd.wait();
@@ -245,18 +245,18 @@ TEST(ThreadTasks, nicesExactlyUtilityTasks) {
 TEST(ThreadTasks, endsItsThreadsOnDestruction) {
     const std::ptrdiff_t before = otherThreadsThatStay();
     {
-        ThreadTasks tasks(std::chrono::hours(24 * 365));  // on their own they would stay
+        ThreadTasks tasks(std::chrono::hours(24 * 365));  // idle threads would otherwise stay
         std::latch all(12);
         for (int number = 0; number < 12; ++number) tasks.run(priorities[number % 3], [&] { all.arrive_and_wait(); });
         EXPECT_TRUE(drainThreads(longEnough));
     }
     EXPECT_TRUE(drainThreads(longEnough));
-    // Counted as ended a moment before the kernel has let go of them.
+    // Threads count as ended a moment before the kernel removes them.
     while (otherThreads() > before) std::this_thread::yield();
 }
 
 TEST(ThreadTasks, runsOnTheCallerWhenNoThreadCanStart) {
-    ASSERT_TRUE(drainThreads(longEnough));  // of the tests before
+    ASSERT_TRUE(drainThreads(longEnough));  // from earlier tests
     ThreadTasks tasks;
     int runs = 0;
     unsigned refused = 0;
@@ -272,7 +272,7 @@ TEST(ThreadTasks, runsOnTheCallerWhenNoThreadCanStart) {
                 tasks.runApart(priority, task);
             }
         });
-    EXPECT_EQ(refused, 9u);  // a task apart asks for a thread of its own, and then for one of the pool's
+    EXPECT_EQ(refused, 9u);  // runApart() tries a thread of its own, then one of the pool
     EXPECT_EQ(runs, 6);
     EXPECT_EQ(held.use_count(), 1);
     EXPECT_TRUE(drainThreads(0));

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// Texts that no parser may trip over, whatever it makes of them.
+/// Hostile texts for all parsers.
 const std::vector<std::string>& hostileTexts() {
     static const std::vector<std::string> texts = [] {
         std::vector<std::string> all{"",
@@ -151,7 +151,7 @@ TEST(KernelVersionText, omitsPatchLevelZero) {
     EXPECT_EQ(kernelVersionText("six.one"), "");
 }
 
-// Captured on a machine with memory to spare: nearly all that programs use stands on the inactive anonymous list.
+// Captured on a machine with free memory: nearly all memory of programs is on the inactive anonymous list.
 constexpr std::string_view capturedMeminfo = R"(MemTotal:       24684084 kB
 MemFree:        19065944 kB
 MemAvailable:   22974184 kB

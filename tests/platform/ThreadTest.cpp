@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t stackBytes = 8 << 20;
 constexpr double drainSeconds = 1e6;
 
-/// Runs `body` on a started thread, and waits for its answer.
+/// Runs `body` on a new thread and waits for its result.
 template <class Body>
 auto onThread(const std::string& name, std::size_t stack, Body body) {
     using Answer = decltype(body());
@@ -34,7 +34,7 @@ auto onThread(const std::string& name, std::size_t stack, Body body) {
     return given;
 }
 
-/// Sets a flag when it goes, and not before it may.
+/// Waits in its destructor until released, then sets a flag.
 struct SlowToGo {
     std::latch& mayGo;
     std::atomic<bool>& gone;
@@ -106,7 +106,7 @@ TEST(Thread, isDetachedWithTheGivenStackSize) {
 
 #endif
 
-/// Writes to the end of a large frame: without the stack for it, the process dies.
+/// Writes to the end of a large stack frame, which crashes if the stack is too small.
 __attribute__((noinline)) std::size_t useStack() {
     volatile char frame[7 << 20];
     for (std::size_t at = 0; at < sizeof frame; at += 1024) frame[at] = 1;

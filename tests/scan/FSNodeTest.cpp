@@ -99,7 +99,7 @@ TEST(FSNode, releasesAndNamesFiftyThousandLevelsWithoutRecursion) {
     at->ownFileBytes = 7;
     EXPECT_EQ(rollUpSizes(*top), 7);
     EXPECT_EQ(top->children[0]->size, 7);
-    // A small stack, so that a release that recurses cannot get away with it.
+    // A small stack, which a recursive release would overflow.
     std::thread([released = std::exchange(top, nullptr)]() mutable { released = nullptr; }).join();
 }
 

@@ -58,8 +58,8 @@ TEST_F(ParallelWalkerTest, rootWithTrailingSlashGivesSingleSlashes) {
     EXPECT_EQ(scan({"/d/"}).insights.topFiles[0].path, "/d/in.dmg");
 }
 
-// A directory at depth 5 is still taken from the stack; what is below it is walked by the thread that took it. Holding
-// two siblings at once shows which: only those that go through the stack can be visited by two threads.
+// Directories at depth 5 still go through the stack; everything below is walked by the thread that took one. Holding
+// two siblings at once shows which: only those on the stack can be visited by two threads.
 TEST_F(ParallelWalkerTest, sharesDirectoriesDownToDepthFive) {
     disk.directory("/r/1/2/3/4/a");
     disk.directory("/r/1/2/3/4/b");
@@ -258,7 +258,7 @@ TEST_F(ParallelWalkerTest, reportsProgressEveryTwentyThousandItems) {
         for (int f = 0; f < 9'999; ++f) disk.file("/r/" + std::to_string(d) + "/" + std::to_string(f), 1);
     workers(1);
     const ScanResult result = scan({"/r"});
-    // 1 item for the root, then 10,000 a folder: due behind the second and the fourth.
+    // 1 item for the root, then 10,000 per folder: due after the second and the fourth.
     ASSERT_EQ(result.progress.size(), 2U);
     EXPECT_EQ(result.progress[0].scanned, 20'001);
     EXPECT_EQ(result.progress[0].bytes, 19'998);
@@ -266,7 +266,7 @@ TEST_F(ParallelWalkerTest, reportsProgressEveryTwentyThousandItems) {
     EXPECT_TRUE(result.progress[1].currentPath.starts_with("/r/")) << result.progress[1].currentPath;
 }
 
-/// Notes which threads ask for a reader.
+/// Records which threads ask for a reader.
 class NotingService : public fakes::FakeDirectoryService {
 public:
     std::unique_ptr<DirectoryReader> makeReader() override {
@@ -340,7 +340,7 @@ TEST(ParallelWalkerThreads, finishTheWalkWhenSomeCannotStart) {
     unsetenv("ZELK_WORKERS");
 }
 
-/// Notes the stacks of the threads that walk.
+/// Records the stack sizes of the walking threads.
 class StackService : public fakes::FakeDirectoryService {
 public:
     std::unique_ptr<DirectoryReader> makeReader() override {

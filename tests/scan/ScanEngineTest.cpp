@@ -23,7 +23,7 @@ TEST_F(ScanEngineTest, endsWithInsightsThenFinished) {
     EXPECT_GE(result.stats.duration, 0);
 }
 
-/// A second passes whenever it is asked for.
+/// Advances by a second whenever it is read.
 class MovingClock : public Clock {
 public:
     TimePoint now() override { return 0; }
@@ -158,7 +158,7 @@ TEST_F(ScanEngineTest, equalSizesKeepTheirOrder) {
     }
 }
 
-/// Shows a time of its own.
+/// Shows a fixed time.
 class FixedClock : public Clock {
 public:
     TimePoint now() override { return 1'234'567.5; }
@@ -189,7 +189,7 @@ TEST_F(ScanEngineTest, terminatingTheQueueCancelsTheScan) {
 
 TEST_F(ScanEngineTest, cancelStopsReadingDirectories) {
     disk.directory("/r/first");
-    disk.directory("/r/last");  // the last is taken first
+    disk.directory("/r/last");  // last in, first out
     disk.hold("/r/last");
     workers(1);
     const auto queue = std::make_shared<UpdateQueue>();
@@ -215,7 +215,7 @@ TEST_F(ScanEngineTest, cancelStopsReadingBelowSharedDirectories) {
     EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5/6/last"), 0);
 }
 
-/// Counts what is asked of the roots.
+/// Counts the calls about roots.
 class RootCounter : public fakes::FakeDirectoryService {
 public:
     std::optional<RootStatus> status(const std::string& path) override {

@@ -16,14 +16,14 @@
 
 namespace zelk {
 
-/// One finished scan, taken apart.
+/// A finished scan, split into its updates.
 struct ScanResult {
     std::vector<update::Progress> progress;
     std::optional<update::Blocked> blocked;
     ScanInsights insights;
     NodeRef top;
     ScanStats stats;
-    std::string order;  ///< one letter an update: p, b, i, f
+    std::string order;  ///< one letter per update: p, b, i, f
 
     explicit ScanResult(std::vector<ScanUpdate> updates) {
         for (ScanUpdate& update : updates) {
@@ -35,7 +35,7 @@ struct ScanResult {
     }
 };
 
-/// Walks a made-up file system with a given number of threads.
+/// Walks a fake file system with a given number of threads.
 class ScanFixture : public testing::Test {
 protected:
     ScanFixture() { workers(4); }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What was thrown away is counted, but not listed among the largest files.
+// Trashed files are counted but not listed among the largest files.
 #include "ScanFixture.h"
 
 namespace zelk {
@@ -39,7 +39,7 @@ TEST_F(TrashInSurveyTest, trashedFilesAreNotListedAsLargest) {
     EXPECT_EQ(largest(scan({"/r"})), Paths{"/r/kept.mov"});
 }
 
-// Folders so deep are walked by the thread that took one above them.
+// Folders at this depth are walked by the thread that took their ancestor.
 TEST_F(TrashInSurveyTest, deepTrashIsNotListedAsLargest) {
     disk.file("/r/1/2/3/4/5/6/.Trash-7/files/film.mov", 900);
     disk.file("/r/1/2/3/4/5/6/.Trash-7/files/a/b/film.mov", 900);

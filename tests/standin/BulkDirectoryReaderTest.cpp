@@ -30,7 +30,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t usual = 256 * 1024;
 
-/// A temporary folder, and the reader over it.
+/// A temporary folder with a reader.
 class BulkDirectoryReaderTest : public testing::TestWithParam<std::size_t> {
 protected:
     BulkDirectoryReaderTest() {
@@ -66,7 +66,7 @@ protected:
     std::unique_ptr<DirectoryReader> reader_;
 };
 
-/// What lstat says of everything in a folder, by name.
+/// The lstat results for all entries of a folder, by name.
 std::map<std::string, struct stat> statsOf(const std::string& folder) {
     std::map<std::string, struct stat> stats;
     for (const auto& item : fs::directory_iterator(folder))

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Mounts below a root, as macOS's call shows them: the folder beneath, on the device of the root.
+// Mounts below a root as macOS's call reports them: the folder beneath, on the root's device.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -25,7 +25,7 @@ protected:
             zoo::makeFile(top + file, 1);
     }
 
-    /// Whether `check` holds where it may mount things that nobody else sees. A child ends with its mounts.
+    /// Runs `check` in a child with a private mount namespace; its mounts end with it.
     void expectIn(const std::function<bool(fakes::Mounts&)>& check) {
         if (!fakes::inChild([] { return fakes::Mounts().allowed(); })) GTEST_SKIP() << "mounting is not allowed here";
         EXPECT_TRUE(fakes::inChild([&] {

@@ -57,7 +57,7 @@ std::uint32_t objectType(mode_t mode) {
     }
 }
 
-/// One record, packed as the real call does it: no padding between the fields, no file attributes on a directory.
+/// Packs one record like the real call: no padding between fields, no file attributes for directories.
 std::vector<char> packed(std::string_view name, const struct stat& status) {
     std::vector<char> record;
     const auto add = [&](auto value) {
@@ -65,7 +65,7 @@ std::vector<char> packed(std::string_view name, const struct stat& status) {
         record.insert(record.end(), bytes, bytes + sizeof value);
     };
     const bool isDirectory = S_ISDIR(status.st_mode);
-    add(std::uint32_t{0});  // the length, when it is known
+    add(std::uint32_t{0});  // placeholder for the length
     for (const std::uint32_t group : {0x8200040BU, 0U, 0U, isDirectory ? 0U : 5U, 0U}) add(group);
     const std::size_t nameStart = isDirectory ? 64 : 76;
     add(static_cast<std::int32_t>(nameStart - record.size()));
@@ -84,7 +84,7 @@ std::vector<char> packed(std::string_view name, const struct stat& status) {
     return record;
 }
 
-/// The record of an entry that could not be asked: all its fields are there and empty, but for the name.
+/// Packs the record of an entry without attributes: all fields exist but are zero, except the name.
 std::vector<char> packedUnasked(std::string_view name, bool isDirectory) {
     std::vector<char> record(isDirectory ? 64 : 76);
     const std::uint32_t returned = 0x80000001U;
@@ -98,7 +98,7 @@ std::vector<char> packedUnasked(std::string_view name, bool isDirectory) {
     return record;
 }
 
-/// Fills the buffer from where the descriptor stands and leaves it at the first entry that did not fit.
+/// Fills the buffer from the descriptor's position and leaves that at the first entry that did not fit.
 int fill(int directory, char* buffer, std::size_t size) {
     struct stat own;
     if (fstat(directory, &own) != 0) return -1;
@@ -117,7 +117,7 @@ int fill(int directory, char* buffer, std::size_t size) {
             at += entry.d_reclen;
             struct stat status;
             if (fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) != 0) return -1;
-            // The kernel looks entries up without going into mounts: it shows the folder beneath.
+            // The kernel looks entries up without crossing mounts: it reports the folder beneath.
             if (S_ISDIR(status.st_mode) && status.st_dev != own.st_dev) {
                 status = own;
                 status.st_ino = entry.d_ino;
@@ -130,7 +130,7 @@ int fill(int directory, char* buffer, std::size_t size) {
                 if (count == 0) errno = ERANGE;
                 return count == 0 ? -1 : count;
             }
-            // Rounded up to 8, but for a last one that has no room for it.
+            // Rounded up to 8, except for a last record without room for it.
             const std::size_t length = std::min((record.size() + 7) / 8 * 8, size - used);
             const auto lengthField = static_cast<std::uint32_t>(length);
             std::memset(buffer + used, 0x5A, length);

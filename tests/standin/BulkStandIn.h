@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a test can make the stand-in for getattrlistbulk do, and what it saw. One per thread.
+// Controls the stand-in for getattrlistbulk and records its calls. One per thread.
 #pragma once
 
 #include <cstddef>
@@ -20,25 +20,25 @@ struct BulkStandIn {
         std::size_t size;
         std::uint64_t options;
         int result;
-        int materialising;  ///< the thread's policy at the moment
+        int materialising;  ///< the thread's current policy
     };
 
-    /// What the call with this number (from 0) is to answer in place of the truth: -1, with errno set to it. 0 is the
-    /// failure that names no error.
+    /// The result of the call with this number (from 0) instead of the real one: -1 with errno set to this value. 0 is
+    /// a failure without an errno.
     std::function<std::optional<int>(std::size_t call)> failure;
-    /// May change what a call leaves in the buffer.
+    /// May modify the buffer after a call.
     std::function<void(std::size_t call, void* buffer, int count)> afterwards;
 
     std::vector<Call> calls;
 
-    /// The calling thread's policy for folders that are not on the disk. -1: the system knows of none.
+    /// The calling thread's policy for dataless folders. -1: unsupported by the system.
     static int& materialising();
 
-    /// The names of entries that cannot be asked, as where a call that the file system lacks is made up by the kernel:
-    /// such a record has the name and nothing else. For all threads; not to be changed while any reads.
+    /// The names of entries whose attributes are unavailable, as on file systems for which the kernel emulates the
+    /// call: such a record has only a name. For all threads; do not change it while any thread reads.
     static std::set<std::string>& unasked();
 
-    /// The calling thread's, which getattrlistbulk() looks at.
+    /// The calling thread's stand-in, which getattrlistbulk() uses.
     static BulkStandIn& here();
 };
 

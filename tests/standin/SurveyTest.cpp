@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A whole survey through macOS's reader.
+// A complete survey with macOS's reader.
 #include <gtest/gtest.h>
 
 #include <filesystem>

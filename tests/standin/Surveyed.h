@@ -13,12 +13,12 @@
 
 namespace zelk {
 
-/// How a survey of `root` ends.
+/// The final updates of a survey of `root`.
 inline update::Finished surveyed(DirectoryService& directories, const std::string& root) {
     PosixClock clock;
     const auto queue = std::make_shared<UpdateQueue>();
     ScanEngine(directories, clock).runHere(queue, {root});
-    // A worker that starts late finds that there is nothing to do, but asks the services.
+    // A late worker finds nothing to do, but still uses the services.
     EXPECT_TRUE(drainThreads(1e6));
     for (const ScanUpdate& update : queue->takeAll().updates) {
         if (const auto* finished = std::get_if<update::Finished>(&update)) return *finished;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Adds one record to the history below a home folder and ends: what the durability test runs under strace, to let each
-// of its system calls fail in turn. `history_writer HOME TOTAL`
+// history_writer HOME TOTAL: adds one record to the history below a home folder. The durability test runs it under
+// strace and makes each of its system calls fail.
 #include <unistd.h>
 
 #include <cstdlib>
@@ -16,9 +16,9 @@ int main(int argc, char** argv) {
     zelk::SurveyRecord record;
     record.totalScanned = std::atoll(argv[2]);
     record.folders = zelk::SizeByPath{{argv[1], record.totalScanned}};
-    // Where the test begins to count: what the loader and the sanitizers call before is none of its business.
+    // The test counts calls from here, excluding those of the loader and sanitizers.
     static_cast<void>(::access("/history-writer-begins", F_OK));
     zelk::SurveyHistory(files, locations).append(record);
-    // At once: leak checkers do not run under a tracer.
+    // Exit at once: leak checkers do not work under a tracer.
     ::_exit(0);
 }

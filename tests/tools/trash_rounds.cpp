@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Processes that get in each other's way at the Trash, and processes that are killed. Nothing of an item may be lost,
-// and nothing may lie in the Trash that could not be put back.
+// Processes that compete for the Trash, and processes that are killed. No item may be lost, and everything in the Trash
+// must be restorable.
 //
-//   trash_rounds race ROUNDS   two processes trash items of the same names while four empty all the time
-//   trash_rounds kill ROUNDS   a cleaning is killed at a random moment, and the next run trashes one item; so many
-//   kills
+//   trash_rounds race ROUNDS   two processes trash items of the same names while four others keep emptying
+//   trash_rounds kill ROUNDS   ROUNDS times, a clean-up is killed at a random moment, and the next run trashes one item
 //
-// Prints what happened; the status is 0 if all of it may.
+// Prints a summary; status 0 if everything was correct.
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -50,7 +49,7 @@ void require(bool holds, const std::string& what) {
     std::printf("FAULT: %s\n", what.c_str());
 }
 
-/// A place of its own for one round, gone with this.
+/// A temporary home for one round.
 class Place {
 public:
     Place() : path_((fs::temp_directory_path() / "zelk-rounds-XXXXXX").string()) {
@@ -69,7 +68,7 @@ private:
     std::string path_;
 };
 
-/// Runs `work` in a process of its own, whose status is what it gives.
+/// Runs `work` in a child process, whose status is its result.
 pid_t start(const std::function<int()>& work) {
     std::fflush(stdout);
     const pid_t child = ::fork();
@@ -85,7 +84,7 @@ int wait(pid_t child) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-/// Every other item is a folder. Each holds its own path, so that what is whose can be told.
+/// Creates items, every other one a folder. Each holds its own path, to identify it.
 void makeItem(const std::string& path, bool isFolder) {
     fs::create_directories(isFolder ? path + "/below" : fs::path(path).parent_path().string());
     if (isFolder) writeFile(path + "/file", path);
@@ -97,9 +96,9 @@ bool isWhole(const std::string& there, const std::string& path) {
     return fileContent(there + "/file") == path && fileContent(there + "/below/file") == path;
 }
 
-/// What is in the Trash can be put back, whole, and nothing is said to be in it that is not.
+/// Checks that everything in the Trash is whole and restorable, and that no info lacks content.
 void requireGoodTrash(const Place& place, const std::string& when) {
-    if (!fs::exists(place.trash() + "/files")) return;  // it was killed before it had one
+    if (!fs::exists(place.trash() + "/files")) return;  // killed before it was created
     const auto found = restorable(place.trash());
     for (const std::string& name : namesIn(place.trash() + "/files")) {
         const std::string info = place.trash() + "/info/" + name + ".trashinfo";
@@ -117,12 +116,12 @@ void requireNoOrphan(const Place& place, const std::string& when) {
     }
 }
 
-// Two that trash and four that empty.
+// Race: two trashing and four emptying processes.
 
 constexpr int raceNames = 24;
 constexpr int racePasses = 4;
 
-/// As many times as `passes` the same names, each of which another process trashes too. The number that went wrong.
+/// Trashes the same names `passes` times, while another process does too. Returns the number of errors.
 int trashTheSameNames(const Place& place, int who, int passes) {
     zelk::LinuxTrash trash(place.home());
     int wrong = 0;
@@ -161,7 +160,7 @@ void race() {
     for (const pid_t emptier : emptying) require(wait(emptier) == 0, "an emptying died");
     requireGoodTrash(place, "after the emptying");
     requireNoOrphan(place, "after the emptying");
-    // Nobody empties any more, so all that is trashed from here on is there in the end.
+    // Nobody empties from here on, so everything trashed now must be there at the end.
     const std::size_t before = namesIn(place.trash() + "/files").size();
     trashing(1);
     requireGoodTrash(place, "in the end");
@@ -170,7 +169,7 @@ void race() {
     ::munmap(shared, sizeof(std::atomic<int>));
 }
 
-// A cleaning that is killed.
+// Kill: an interrupted clean-up.
 
 constexpr int killItems = 60;
 
@@ -192,7 +191,7 @@ std::vector<zelk::Reclaimable> makeItems(const Place& place) {
     return items;
 }
 
-/// A whole run of the application's core: status 0 if all that it was to clean is in the Trash.
+/// A complete clean-up by the application's core: status 0 if all items are in the Trash.
 int clean(const Place& place, std::vector<zelk::Reclaimable> items) {
     zelk::NativePlatform native(place.home());
     std::promise<std::size_t> cleaned;
@@ -210,7 +209,7 @@ int clean(const Place& place, std::vector<zelk::Reclaimable> items) {
 
 using Clock = std::chrono::steady_clock;
 
-/// How long a cleaning takes that nobody kills.
+/// The duration of an uninterrupted clean-up.
 Clock::duration unkilled() {
     const Place place;
     std::vector<zelk::Reclaimable> items = makeItems(place);
@@ -221,11 +220,11 @@ Clock::duration unkilled() {
 
 struct Killed {
     int kills = 0;
-    int inTheMiddle = 0;  ///< with some items in the Trash, and some not
-    int orphans = 0;      ///< info that was left without content
+    int inTheMiddle = 0;  ///< kills with only some items in the Trash
+    int orphans = 0;      ///< info left without content
 };
 
-/// How many items were in the Trash at that moment.
+/// The number of items in the Trash at that moment.
 std::size_t killOnce(Clock::duration moment, Killed& killed) {
     const Place place;
     std::vector<zelk::Reclaimable> items = makeItems(place);
@@ -259,7 +258,7 @@ void kill(int kills) {
     Clock::duration whole = unkilled();
     std::mt19937 chance(std::random_device{}());
     Killed killed;
-    // Other programs make a cleaning take now longer and now shorter, and most moments should fall into it.
+    // The duration varies with the machine's load; most kills should fall within a clean-up.
     for (int tried = 0; killed.kills < kills && tried < 50 * kills; ++tried) {
         std::uniform_int_distribution<Clock::rep> moment(0, whole.count());
         const int before = killed.kills;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A tree that changes between two steps of a reader, each change at the very moment where it could do harm.
+// Changes to the tree between two steps of a reader, at the worst moments.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 using Names = std::set<std::string>;
 
-/// A reader at the root, and beside the root a canary that has the same names in it as the root.
+/// A reader at the root, and a canary beside it that contains the same names.
 class Changed : public testing::Test {
 protected:
     Changed() {
@@ -97,11 +97,11 @@ TEST_F(Changed, parentSwappedForALinkIsNotFollowed) {
     EXPECT_EQ(descended("c"), Names{"file"});
     reader->ascend();
     reader->ascend();
-    EXPECT_EQ(descended("sibling"), Names{"file"});  // in the folder that it still holds open
+    EXPECT_EQ(descended("sibling"), Names{"file"});  // in the folder that is still open
 }
 
-// Far below, not all folders above are held open. Where the one that the reader stands in is moved away meanwhile, the
-// folder above it is another one, with names of its own that may be the same.
+// At this depth not all parents are kept open. If the current folder is moved meanwhile, ".." is another folder, which
+// may contain the same names.
 TEST_F(Changed, readerDoesNotFollowAMovedFolder) {
     makeFolder(temp / "root/deep/sibling");
     makeChain(temp / "root/deep/moved", 100, 1);

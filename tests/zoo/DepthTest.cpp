@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Folders one inside the other, far deeper than a path or a stack has room for.
+// Folders nested far deeper than a path or a stack allows.
 #include <gtest/gtest.h>
 
 #include <string>

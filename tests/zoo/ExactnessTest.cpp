@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every byte right: what a scan counts is what du and find count, by the rules in which it differs from them.
+// A scan counts exactly what du and find count, apart from its documented differences.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -16,7 +16,7 @@ namespace zelk::zoo {
 
 namespace {
 
-/// As many rounds as the environment asks for; more of them find rarer races between the threads.
+/// The number of rounds from the environment; more rounds find rarer races.
 int roundsOr(int usual) {
     const char* const given = std::getenv("ZELK_ZOO_ROUNDS");
     return given != nullptr ? std::max(std::atoi(given), 1) : usual;
@@ -49,7 +49,7 @@ void expectToolsAgree(const Count& count) {
 
 }  // namespace
 
-// On a disk for its blocks, its holes and its reservations; many folders are slow to make and to remove there.
+// On a disk, for real blocks, holes and preallocation; creating many folders is slow there.
 TEST(Exactness, zooOnDiskMatchesDu) {
     const TempFolder temp;
     makeZoo(temp / "zoo", temp / "outside", 60);
@@ -80,7 +80,7 @@ TEST(Exactness, randomTreesMatchDu) {
 }
 
 TEST(Exactness, systemFilesMatchDu) {
-    // Packages come and go while tests run: what is counted the same before and after did not change in between.
+    // Packages may be installed meanwhile: compare only if the count is equal before and after.
     const std::string root = "/usr";
     Count before = countedIndependently(root);
     while (true) {
@@ -107,7 +107,7 @@ TEST(Exactness, largestFilesHaveTheirPathsAndSizes) {
     const Scan its = scan({temp / "zoo"}, 8);
     ASSERT_FALSE(its.insights.topFiles.empty());
     for (const LargeFile& file : its.insights.topFiles) {
-        if (file.path.size() >= 4096) continue;  // no single call takes it
+        if (file.path.size() >= 4096) continue;  // too long for lstat
         struct stat status;
         ASSERT_EQ(lstat(file.path.c_str(), &status), 0) << file.path;
         EXPECT_EQ(file.size, status.st_blocks * 512) << file.path;

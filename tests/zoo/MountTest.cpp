@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Mounts inside the tree, in a mount namespace of the test's own: they are gone with the process, whatever happens.
+// Mounts inside the tree, in a private mount namespace that ends with the process.
 #ifdef __linux__
 
 #include <gtest/gtest.h>

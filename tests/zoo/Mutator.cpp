@@ -41,9 +41,8 @@ int openOrThrow(const std::string& path) {
     return fd;
 }
 
-/// Works with the names d0 and d1 on whatever stands there, down to where a walker no longer keeps all the folders
-/// above it open. All steps from the root down are made one component at a time and through no link, and every act is
-/// on a name in an open folder.
+/// Works on entries named d0 and d1, down to depths at which a walker no longer keeps all parents open. Walks down one
+/// component at a time, follows no links, and acts only on names in open folders.
 template <class Shared>
 class Vandal {
 public:
@@ -77,14 +76,14 @@ public:
                 break;
         }
         close(folder);
-        // What was created must not pile up over a long run.
+        // Keep the tree small over a long run.
         if (++acts_ % 500 == 0) removeBelow(root_);
     }
 
 private:
     std::string someName() { return "d" + std::to_string(random_() % 2); }
 
-    /// A random walk from the root as far as there are folders.
+    /// Walks randomly from the root as far as there are folders.
     int somewhere() {
         int at = dup(root_);
         for (std::uint64_t depth = random_() % 48; depth > 0; --depth) {
@@ -132,7 +131,7 @@ private:
         if (fchdir(folder) == 0) removeTree(".", false);
     }
 
-    /// The folder and a link change places in one step: whoever knew the name to be a folder meets the link.
+    /// Atomically exchanges the folder with a link: whoever knew the name as a folder meets the link.
     void swapAtomically(int folder, const std::string& name) {
         if (symlinkat(canary_.c_str(), folder, "swap") != 0) return;
 #ifdef __linux__
@@ -159,8 +158,7 @@ private:
         if (unlinkat(limbo_, away.c_str(), 0) != 0) removeTreeAt(limbo_, away);
     }
 
-    /// Away now, and back at another time: for a walker that is inside meanwhile, the folder above is suddenly one that
-    /// is none of its business.
+    /// Moves a folder away, or back later: a walker inside it then has a foreign parent.
     void moveAwayOrBack(int folder, const std::string& name) {
         if (gone_.empty()) {
             const std::string away = nextAway();
@@ -188,7 +186,7 @@ private:
     Shared& done_;
     std::uint64_t acts_ = 0;
     std::uint64_t away_ = 0;
-    std::string gone_;  ///< what is away, by its name there
+    std::string gone_;  ///< parked folders, by their names in limbo
 };
 
 }  // namespace

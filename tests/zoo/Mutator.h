@@ -8,9 +8,9 @@
 
 namespace zelk::zoo {
 
-/// A process of its own that without pause creates, fills, renames, deletes and moves away the folders of `root`, and
-/// swaps them for links to `canary`. It goes through no link itself, so nothing in `canary` ever changes. `limbo` is
-/// where folders are moved to for a while; both lie outside of `root`, on the same file system.
+/// A process that constantly creates, fills, renames, deletes and moves the folders of `root`, and swaps them for links
+/// to `canary`. It follows no links itself, so `canary` never changes. Folders are parked in `limbo`. Both are outside
+/// `root`, on the same file system.
 class Mutator {
 public:
     Mutator(const std::string& root, const std::string& canary, const std::string& limbo, std::uint64_t seed);
@@ -18,7 +18,7 @@ public:
     Mutator& operator=(const Mutator&) = delete;
     ~Mutator();
 
-    /// What it has done so far, counted by the mutator itself.
+    /// The operations so far, counted by the mutator itself.
     struct Done {
         std::uint64_t created = 0;
         std::uint64_t renamed = 0;
@@ -30,7 +30,7 @@ public:
     };
     Done done() const;
 
-    /// Blocks until it has done `count` things more. False if it has died.
+    /// Blocks until it has done `count` more operations. False if it died.
     bool waitForMore(std::uint64_t count) const;
 
 private:

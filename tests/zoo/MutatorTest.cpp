@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Scans of a tree that another process changes all the time. ZELK_MUTATOR_SECONDS makes it as long as one likes.
+// Scans a tree while another process changes it. ZELK_MUTATOR_SECONDS sets the duration.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -24,8 +24,7 @@ double secondsOfMutation() {
     return given != nullptr ? std::atof(given) : 5.0;
 }
 
-/// What no scan of the root may ever see: in the folder that links lead to, where folders are moved to, and right above
-/// the root.
+/// Names that no scan of the root may see: in the folder that links lead to, in limbo, and beside the root.
 void makeCanaries(const TempFolder& temp) {
     allocateFile(temp / "canary-file.iso", canaryBytes);
     for (const char* const place : {"canary", "limbo", "."}) {
@@ -34,7 +33,7 @@ void makeCanaries(const TempFolder& temp) {
         ASSERT_TRUE(folder.ends_with("/.") ||
                     link((temp / "canary-file.iso").c_str(), (folder + "/canary-file.iso").c_str()) == 0);
         makeFile(folder + "/canary-folder/canary-inner", 1);
-        // Whoever goes on here by mistake finds the names that he looks for.
+        // A walker that strays here finds the names that it expects.
         for (const char* const name : {"/d0", "/d1"}) {
             makeFile(folder + name + "/canary-inner", 100000);
             makeFile(folder + name + "/d0/canary-inner", 100000);
@@ -51,7 +50,7 @@ void expectNothingOfTheCanary(const Scan& its, const std::string& root) {
     for (const LargeFile& file : its.insights.topFiles)
         ASSERT_EQ(file.path.find("canary"), std::string::npos) << file.path;
     ASSERT_TRUE(its.insights.diskImages.empty());
-    // All that the mutator ever makes at a time is far less than one canary.
+    // Everything that the mutator creates is far smaller than one canary.
     ASSERT_LT(its.stats.totalBytes, canaryBytes);
 }
 
@@ -92,9 +91,9 @@ TEST(Mutation, survivesTreeChangedWhileWalking) {
     EXPECT_GT(done.deleted, 0U);
     EXPECT_GT(done.swapped, 0U);
     EXPECT_GT(done.movedAway, 0U);
-    EXPECT_EQ(countedIndependently(temp / "canary"), canary);  // or the mutator was in there itself
+    EXPECT_EQ(countedIndependently(temp / "canary"), canary);  // otherwise the mutator itself was in there
 
-    // And when it is quiet again, every byte is right.
+    // After the mutator stops, the count is exact again.
     const Count count = countedIndependently(root);
     const Scan its = scan({root}, 8);
     EXPECT_EQ(its.stats.totalBytes, count.bytes);

@@ -24,7 +24,7 @@ int openFolder(int parent, const char* name) {
     return openat(parent, name, folderFlags);
 }
 
-/// Unlinks all of `folder` that is no folder, and gives the names of the folders on device `device`.
+/// Unlinks everything but folders in `folder`, and returns the names of the folders on `device`.
 bool unlinkFiles(int folder, dev_t device, std::vector<std::string>& folders) {
     struct stat own;
     if (fstat(folder, &own) == 0 && (own.st_mode & S_IRWXU) != S_IRWXU) fchmod(folder, S_IRWXU);
@@ -51,7 +51,7 @@ bool unlinkFiles(int folder, dev_t device, std::vector<std::string>& folders) {
     return clean;
 }
 
-/// One folder that is being emptied: its name in the folder above, and the folders in it that are still to be removed.
+/// A folder being emptied: its name in its parent, and its subfolders still to be removed.
 struct Level {
     std::string name;
     std::vector<std::string> pending;
@@ -59,7 +59,7 @@ struct Level {
 
 }  // namespace
 
-// One descriptor at a time and the way back through "..": neither the depth nor the length of a path has a limit.
+// Keeps one descriptor and returns through "..", so that neither depth nor path length is limited.
 bool removeTree(const std::string& folder, bool itself) {
     int at = openFolder(AT_FDCWD, folder.c_str());
     if (at < 0) return false;

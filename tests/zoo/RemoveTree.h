@@ -5,9 +5,9 @@
 
 namespace zelk::zoo {
 
-/// Removes what stands below `folder`, and `folder` too where `itself`. Paths may be longer than PATH_MAX and folders
-/// nested to any depth; folders without permissions are opened up first; links are removed and not followed; nothing on
-/// another device is touched. False if something is left (errno tells the last failure).
+/// Removes the contents of `folder`, and `folder` too if `itself`. Handles paths longer than PATH_MAX and any depth,
+/// grants itself access to folders without permissions, removes links without following them, and touches nothing on
+/// another device. False if something is left, with the last failure in errno.
 bool removeTree(const std::string& folder, bool itself = true);
 
 }  // namespace zelk::zoo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What may be given as a scan root.
+// The kinds of scan roots.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -15,7 +15,7 @@ namespace zelk::zoo {
 
 namespace {
 
-/// Two files of one block each, in a folder and in one below it.
+/// Two files of one block each, in a folder and in its subfolder.
 class Roots : public testing::Test {
 protected:
     Roots() {

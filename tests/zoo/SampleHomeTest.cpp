@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The homes that tools/sample_home makes: a survey finds in them what they were made to hold.
+// The homes that tools/sample_home creates contain what they promise to a survey.
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
@@ -32,7 +32,7 @@ using testing::Field;
 using testing::HasSubstr;
 using testing::SizeIs;
 
-/// What the program says; `status` becomes its exit status.
+/// The output of the program; `status` receives its exit status.
 std::string sampleHome(const std::string& arguments, int& status) {
     const std::string command = "'" ZELK_SOURCE_DIR "/tools/sample_home' " + arguments + " 2>&1";
     std::FILE* const pipe = popen(command.c_str(), "r");
@@ -43,7 +43,7 @@ std::string sampleHome(const std::string& arguments, int& status) {
     return said;
 }
 
-/// A small one; few of its files hold more than a block.
+/// A small home; few of its files are larger than a block.
 std::string madeIn(const TempFolder& temp, const std::string& options) {
     const std::string home = temp / "home";
     int status = -1;
@@ -128,7 +128,7 @@ TEST(SampleHome, isReproducible) {
         for (const auto& entry : std::filesystem::recursive_directory_iterator(home)) {
             struct stat status {};
             ::lstat(entry.path().c_str(), &status);
-            // A link's own date is nobody's concern, and the mark that makes the home known has its own size.
+            // Ignore the dates of links and the size of the marker file.
             if (!entry.is_symlink() && entry.path().filename() != ".sample_home.json")
                 all.emplace_back(entry.path().lexically_relative(home).string(),
                                  S_ISDIR(status.st_mode) ? 0 : status.st_size, status.st_mtime);
@@ -187,7 +187,7 @@ TEST(SampleHome, growthIsVisibleInASecondSurvey) {
         now.folders = foldersOf(scan({home}, 2));
         const auto changes = folderChanges({old, now});
         ASSERT_TRUE(changes);
-        if (round == "2") {  // in the small home of this test it was too small to be noted before
+        if (round == "2") {  // too small to be recorded before in this test's small home
             EXPECT_THAT(changes->grew, Contains(Field(&FolderChange::path, home + "/Videos")));
         }
         EXPECT_THAT(changes->appeared, Contains(Field(&FolderChange::path, home + "/Documents/Conference " + round)));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A scan by the real engine over the real file system, and the count that it is held against.
+// Scans of the real file system with the real engine, and an independent count to compare them with.
 #pragma once
 
 #include <cstdint>
@@ -12,21 +12,21 @@
 namespace zelk::zoo {
 
 struct Scan {
-    NodeRef root;  ///< the synthetic top
+    NodeRef root;  ///< synthetic top node
     ScanStats stats;
     ScanInsights insights;
 };
 
-/// Scans on this thread, with `workers` threads, and waits until those have ended.
+/// Scans on this thread with `workers` worker threads, and waits until those have ended.
 Scan scan(const std::vector<std::string>& roots, int workers);
 
-/// Fails the test where the tree contradicts itself or the figures beside it. The scan was not cancelled.
+/// Fails the test if the tree is inconsistent, disagrees with the statistics, or the scan was cancelled.
 void expectConsistent(const Scan& scan);
 
-/// All nodes below `top`, itself left out.
+/// All nodes below `top`, excluding it.
 std::vector<const FSNode*> nodesBelow(const FSNode& top);
 
-/// The same tree as counted without any of our code; duBytes and the like are what the system's own tools say.
+/// A count of the same tree without our code; duBytes and the like come from the system's tools.
 struct Count {
     std::int64_t bytes = -1;
     std::int64_t files = -1;
@@ -39,7 +39,7 @@ struct Count {
     bool operator==(const Count&) const = default;
 };
 
-/// By du_check.py. The tree must hold still, and its path have no quote in it.
+/// Runs du_check.py. The tree must not change, and its path must not contain a quote.
 Count countedIndependently(const std::string& root);
 
 }  // namespace zelk::zoo

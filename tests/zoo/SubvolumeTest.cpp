@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Subvolumes on a btrfs of the test's own, which is mounted from a file and gone with the process.
+// Subvolumes on a private btrfs volume, mounted from a file until the process ends.
 #ifdef __linux__
 
 #include <gtest/gtest.h>
@@ -52,7 +52,7 @@ protected:
         ASSERT_TRUE(runs("btrfs subvolume snapshot " + std::string(readOnly ? "-r " : "") + of + " " + path));
     }
 
-    /// What the kernel says of the file and the folder it lies in.
+    /// The kernel's status of the file and of its folder.
     static bool isOnADeviceOfItsOwn(const std::string& path) {
         struct stat own {};
         struct stat above {};
@@ -60,7 +60,7 @@ protected:
                own.st_dev != above.st_dev;
     }
 
-    /// The names of all folders below the root, in order.
+    /// The names of all folders below the root, sorted.
     static std::string names(const Scan& its) {
         std::vector<std::string> all;
         for (const FSNode* const node : nodesBelow(*its.root->children.front())) all.emplace_back(node->name());
@@ -148,11 +148,11 @@ TEST_F(Subvolumes, mountsAmongThemAreOmitted) {
     makeFolder(root + "/again");
     mounts.memory(root + "/sub/mounted");
     makeFile(root + "/sub/mounted/inside/file");
-    mounts.again(root + "/sub", root + "/again");  // on another device than the root, and another mount
+    mounts.again(root + "/sub", root + "/again");  // another device and another mount than the root's
     expectFolders(root, "before sub zulu", 2);
 }
 
-// The first statx of the scan is that of the root, each other one that of a folder.
+// The scan's first statx is that of the root, the following ones are those of folders.
 TEST_F(Subvolumes, foldersWithoutStatusAreOpened) {
     makeSubvolume(volume + "/folders/sub");
     makeFolder(volume + "/folders/sub/inside/low");

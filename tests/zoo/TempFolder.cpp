@@ -24,7 +24,7 @@ std::string placeOn(TempFolder::Medium medium) {
 
 TempFolder::TempFolder(Medium medium) : path_(placeOn(medium) + "/zelk-zoo-XXXXXX") {
     if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no folder can be made at " + path_);
-    chmod(path_.c_str(), 0755);  // tests of permissions look in as another user
+    chmod(path_.c_str(), 0755);  // tests of permissions access it as another user
 }
 
 TempFolder::~TempFolder() {

@@ -5,12 +5,12 @@
 
 namespace zelk::zoo {
 
-/// A new folder, removed with all that is in it when this goes, however deep and with whatever permissions.
+/// A temporary folder that is removed with its contents, whatever their depth and permissions.
 class TempFolder {
 public:
     enum class Medium {
         disk,    ///< $TMPDIR, or /tmp
-        memory,  ///< a file system in memory where there is one, for trees of very many folders; else as disk
+        memory,  ///< tmpfs if available, for trees with very many folders; else like disk
     };
 
     explicit TempFolder(Medium medium = Medium::disk);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Folders that may not be read, met by someone without root's powers.
+// Unreadable folders, scanned without root's privileges.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -21,10 +21,10 @@ struct Figures {
     std::int64_t files;
     std::int64_t folders;
     std::int64_t blocked;
-    std::size_t roots;  ///< those that are in the tree
+    std::size_t roots;  ///< roots in the tree
 };
 
-/// Call it before the test starts threads of its own: the scan is run in a child process.
+/// Call before the test starts threads: the scan runs in a child process.
 void expectWithoutPower(const std::vector<std::string>& roots, int workers, const Figures& expected) {
     EXPECT_TRUE(fakes::asOrdinaryUser([&] {
         const Scan its = scan(roots, workers);
@@ -33,7 +33,7 @@ void expectWithoutPower(const std::vector<std::string>& roots, int workers, cons
         EXPECT_EQ(its.stats.dirsScanned, expected.folders);
         EXPECT_EQ(its.stats.blockedPaths, expected.blocked);
         EXPECT_EQ(its.root->children.size(), expected.roots);
-        std::fflush(stdout);  // what failed is told before the child goes
+        std::fflush(stdout);  // print failures before the child exits
         return !testing::Test::HasFailure();
     }));
 }
@@ -46,7 +46,7 @@ TEST(Unreadable, foldersAreCountedOnceAndDoNotStopTheWalk) {
     makeUnreadable(root);
     makeFile(root + "/a/readable/file");
     makeFile(root + "/z/readable/file");
-    makeUnreadable(root + "/1/2/3/4/5/6/7/8");  // where folders are no longer shared between threads
+    makeUnreadable(root + "/1/2/3/4/5/6/7/8");  // below the depth that threads share
     makeFile(root + "/1/2/3/4/5/6/7/8/z/file");
     // The root, a, z, 1 to 8, two called readable, the lower z, and both empty ones.
     for (const int workers : {1, 8}) expectWithoutPower({root}, workers, {3, 16, 2 * unreadableFolders, 1});

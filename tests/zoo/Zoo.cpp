@@ -123,7 +123,7 @@ void makeNames(const std::string& folder) {
                                    "archive.tar.gz",
                                    "\xC3\xA9\xF0\x9F\x90\x98.pdf"};
     names.push_back(std::string(255, 'n'));
-#ifdef __linux__  // elsewhere the file system refuses what is no text
+#ifdef __linux__  // other file systems refuse names that are not UTF-8
     names.insert(names.end(), {"\xFF\xFE", "caf\xE9.txt", "\xC3", "\xED\xA0\x80", std::string(251, '\xA0') + ".mp4"});
 #endif
     for (const std::string& name : names) {
@@ -159,7 +159,7 @@ void makeSpecialFiles(const std::string& folder) {
 #ifdef __linux__
     if (geteuid() != 0) return;
     const auto device = [&](const char* name, mode_t kind, unsigned major, unsigned minor) {
-        // A container may forbid device files altogether.
+        // Containers may forbid device files.
         const bool made = mknod((folder + name).c_str(), kind | 0600, makedev(major, minor)) == 0;
         check(made || errno == EPERM, name);
     };
@@ -212,7 +212,7 @@ void makeZoo(const std::string& folder, const std::string& outside, std::size_t 
     makeSpecialFiles(folder + "/special");
     makeUnreadable(folder + "/unreadable");
     makeWide(folder + "/wide", 2700, 300);
-    // Hard links and names once more where folders are no longer shared between threads.
+    // Hard links and names again, below the depth that threads share.
     makeHardLinks(folder + "/1/2/3/4/5/6/7/8/hard", outside + "/deep");
     makeNames(folder + "/1/2/3/4/5/6/7/8/names");
     makeChain(folder + "/chain", chain, 200);

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Counts a tree by rules of its own, to hold a survey against; prints one JSON object.
+"""Counts a tree independently, for comparison with a survey; prints one JSON object.
 
-bytes: allocated bytes of all that is no folder, a file of several names once, folders on other devices left out with all
-that they hold. files, folders: how many, every name of a file and ROOT itself included. blocked: folders that cannot be
-read whole, which count nothing else. duBytes: what du says, less the folders' own blocks. findFiles, findFolders: what
-find says. The tree must hold still; no path is built, so its depth has no limit.
+bytes: allocated bytes of everything except folders, hard links counted once, other devices omitted. files, folders:
+their numbers, including every name of a file and ROOT itself. blocked: folders that cannot be read completely, which
+contribute nothing else. duBytes: the result of du without the folders' own blocks. findFiles, findFolders: the results
+of find. The tree must not change; no paths are built, so its depth is unlimited.
 """
 import json
 import os

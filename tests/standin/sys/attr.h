@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Stands in for the header of this name that only macOS has: as much of it as the bulk directory reader includes it
-// for. BulkStandIn.cpp serves the call from the directories of the machine that the tests run on.
+// Replaces the macOS header of this name, as far as the bulk directory reader needs it. BulkStandIn.cpp implements the
+// call on the directories of this machine.
 #pragma once
 
 #include <cstddef>

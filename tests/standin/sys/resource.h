@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The system's own header, and what macOS's has beyond it: as much as the bulk directory reader needs.
+// The system's header plus macOS's additions, as far as the bulk directory reader needs them.
 #pragma once
 #pragma GCC system_header
 
