@@ -15,13 +15,13 @@
 
 namespace zelk::bench {
 
-/// A timer of the main thread that notes how late each of its beats comes.
+/// A timer on the main thread that records how late each beat is.
 class Heart {
 public:
-    /// Called at every beat.
+    /// Called on every beat.
     std::function<void()> atBeat = [] {};
 
-    /// Beats from now on until `ended` says so, in the event loop of the main thread.
+    /// Beats in the main thread's event loop until `ended` returns true.
     template <class Ended>
     void beatUntil(Ended ended) {
         QTimer timer;
@@ -32,14 +32,14 @@ public:
         beatNow();
     }
 
-    /// Before what is measured.
+    /// Call before the measured work.
     void start() {
         whole_.start();
         sinceBeat_.start();
         processor_ = threadMilliseconds();
     }
 
-    /// The members of a JSON object.
+    /// The results as members of a JSON object.
     void print() {
         std::printf(
             "\"seconds\":%.3f,\"beats\":%zu,\"medianStallMs\":%.3f,\"p99StallMs\":%.3f,\"worstStallMs\":%.3f,"
@@ -70,7 +70,7 @@ private:
     }
 
     double seconds() const { return static_cast<double>(whole_.nsecsElapsed()) / 1e9; }
-    /// The stall that `share` of all do not exceed.
+    /// The stall that a share `share` of all beats does not exceed.
     double quantile(double share) {
         std::sort(stalls_.begin(), stalls_.end());
         return stalls_[static_cast<std::size_t>(share * static_cast<double>(stalls_.size() - 1))];

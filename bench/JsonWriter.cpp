@@ -10,7 +10,7 @@ namespace zelk::bench {
 
 namespace {
 
-/// The length of the well-formed UTF-8 sequence at the front of `bytes`; 0 if there is none.
+/// The length of the valid UTF-8 sequence at the start of `bytes`; 0 if there is none.
 std::size_t sequenceLength(std::string_view bytes) {
     const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(bytes[at]); };
     const unsigned lead = byte(0);
@@ -22,7 +22,7 @@ std::size_t sequenceLength(std::string_view bytes) {
     if (length == 0 || bytes.size() < length) return 0;
     for (std::size_t at = 1; at < length; ++at)
         if ((byte(at) & 0xC0) != 0x80) return 0;
-    // Overlong forms, surrogates and what lies past the last code point differ from good text in the second byte.
+    // Overlong forms, surrogates and values beyond U+10FFFF show in the second byte.
     if ((lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xED && byte(1) >= 0xA0)) return 0;
     if ((lead == 0xF0 && byte(1) < 0x90) || (lead == 0xF4 && byte(1) >= 0x90)) return 0;
     return length;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// JSON out of a measuring program, as text; the application itself reads and writes JSON through Qt.
+// Writes the JSON output of the measuring programs; the application itself uses Qt for JSON.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,10 @@ namespace zelk::bench {
 
 bool isUtf8(std::string_view bytes);
 
-/// Bytes as a file name in a URL has them: all but unreserved characters and '/' as %XX.
+/// Percent-encodes all bytes except unreserved characters and '/'.
 std::string percentEscaped(std::string_view bytes);
 
-/// Appends values one behind the other and puts the commas. Keys and values alternate in an object.
+/// Appends values and inserts commas. In an object, keys and values alternate.
 class JsonWriter {
 public:
     JsonWriter& open(char bracket);  ///< '{' or '['
@@ -23,7 +23,7 @@ public:
     JsonWriter& number(std::int64_t value);
     JsonWriter& number(double value);  ///< finite
     JsonWriter& boolean(bool value);
-    /// The member "path": the text where the bytes are UTF-8, else percent-escaped with "pathEscaped":true behind it.
+    /// Adds the member "path" as text if it is UTF-8, else percent-encoded, followed by "pathEscaped":true.
     JsonWriter& path(std::string_view bytes);
 
     const std::string& json() const { return json_; }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What the bubble map costs: seventeen bubbles in a window of 900 x 700, drawn by the processor alone. Prints
-// milliseconds of processor time, the mean and the worst, and the mean as a share of a sixtieth of a second.
+// Measures the bubble map: seventeen bubbles in a window of 900 x 700, rendered in software. Prints milliseconds of
+// processor time, mean and worst, and the mean as a share of a frame at 60 Hz.
 //
 //     bubbles [--rounds N]
 //
-// "pack" is the layout alone. "hover" is the pointer on another bubble, from the event to the frame on screen: the ball
-// that it left, the one that it is on, and the tip. "resize" is the same for a window one point wider: a new layout and
-// every bubble drawn anew. The labels of "long names" have 200 characters.
+// "pack" is the layout alone. "hover" moves the pointer to another bubble and is measured from the event to the frame:
+// it redraws both bubbles and the tip. "resize" widens the window by one point: a new layout with every bubble redrawn.
+// The labels of "long names" have 200 characters.
 
 #include <time.h>
 
@@ -53,7 +53,7 @@ std::vector<BubbleSlice> slices(bool longNames) {
     return all;
 }
 
-/// Milliseconds of all threads: the toolkit spreads large surfaces over several.
+/// Milliseconds of all threads, since the toolkit renders large surfaces with several.
 double now() {
     timespec time{};
     ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
@@ -90,7 +90,7 @@ public:
         costOf([this] { window_.show(); });
     }
 
-    /// Of what is done and of the frame that shows it.
+    /// Measures the action together with the frame that shows it.
     double costOf(const std::function<void()>& deed) {
         drawn_ = false;
         const double before = now();

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// floor ROOT...: the system calls of a survey and nothing else, the limit to hold the survey against.
+// floor ROOT...: makes the system calls of a survey and nothing else, as its lower bound.
 //
-// The same number of threads, the same shared stack down to the same depth, and per folder the same open, getdents64,
-// statx and close with the same buffer, mask and flags as LinuxDirectoryReader and its ladder. No tree, no tallies, no
-// names kept but those of folders that are still to be entered. Prints {"seconds":…,"entries":…}.
+// Uses the same number of threads, the same shared stack down to the same depth, and per folder the same open,
+// getdents64, statx and close with the same buffer, mask and flags as LinuxDirectoryReader and its ladder. Keeps no
+// tree, no tallies, and no names except those of folders still to be entered. Prints {"seconds":…,"entries":…}.
 #include <fcntl.h>
 #include <linux/openat2.h>
 #include <sys/resource.h>
@@ -32,7 +32,7 @@
 namespace {
 
 constexpr std::size_t readBytes = 64 * 1024;
-constexpr int parallelDepth = 6;  // folders above this depth are shared between the threads
+constexpr int parallelDepth = 6;  // folders above this depth are shared by the threads
 constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 constexpr int statFlags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC;
 constexpr unsigned statMask = STATX_TYPE | STATX_NLINK | STATX_INO | STATX_BLOCKS | STATX_MTIME;
@@ -62,7 +62,7 @@ struct Work {
     int depth;
 };
 
-/// The folders that wait for a thread: last in, first out.
+/// The folders waiting for a thread: last in, first out.
 class Stack {
 public:
     void push(std::vector<Work>& items) {
@@ -77,7 +77,7 @@ public:
         for (; wake > 0; --wake) changed_.notify_one();
     }
 
-    /// False when the walk is over. `finishedOne`: the item taken before is done with.
+    /// Takes a folder; false when the walk is over. `finishedOne`: the previous folder is finished.
     bool take(Work& work, bool finishedOne) {
         std::unique_lock lock(mutex_);
         if (finishedOne && --outstanding_ == 0) changed_.notify_all();
@@ -133,7 +133,7 @@ public:
 private:
     struct Level {
         int fd;
-        std::size_t first;  ///< where the names of its folders begin in folders_
+        std::size_t first;  ///< index of its first folder in folders_
         std::size_t next;
     };
 
@@ -145,7 +145,7 @@ private:
         return static_cast<int>(syscall(SYS_openat2, root.fd, below.c_str(), &how, sizeof how));
     }
 
-    /// All below `name`, on this thread alone.
+    /// Walks everything below `name` on this thread.
     void walkDown(int parent, const std::string& name, const Device& device) {
         enter(parent, name.c_str(), device);
         while (!levels_.empty()) {
@@ -170,7 +170,7 @@ private:
         levels_.push_back({fd, first, first});
     }
 
-    /// Lists the folder whole, then asks for each entry; appends the names of its folders to folders_.
+    /// Lists the whole folder, then calls statx for each entry; appends the names of its folders to folders_.
     void readFolder(int fd, const Device& device) {
         std::size_t used = 0;
         while (true) {
@@ -206,7 +206,7 @@ private:
     std::vector<Work> children_;
 };
 
-/// A folder inside another stays open until all below it is done, so a deep tree needs many.
+/// Folders stay open until everything below is done, so a deep tree needs many descriptors.
 void raiseDescriptorLimit() {
     rlimit limit;
     if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;

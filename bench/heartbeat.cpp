@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// How long the main thread keeps a timer waiting while the application works, in the real window, drawn by the
-// processor alone. Prints one JSON object: milliseconds by which the beats came late, when the worst of them came, and
-// the most processor time that the main thread took between two beats. The last is the window's own doing; a stall
-// beyond it is that of a busy machine, or of a wait that should not be there.
+// Measures how late the main thread's timer fires while the application works in the real window, rendered in software.
+// Prints one JSON object: by how many milliseconds beats were late, when the worst one came, and the most processor
+// time that the main thread used between two beats. That time is the window's own work; any further delay is due to a
+// busy machine or to a wait that should not be there.
 //
 //     heartbeat ROOT           a survey of ROOT
-//     heartbeat --clean COUNT  COUNT items made in a folder below $TMPDIR (or /tmp) go to a Trash there, all at once;
-//                              before them 1,000, twice, and the second time is what the COUNT are compared with
+//     heartbeat --clean COUNT  COUNT items, created in a folder below $TMPDIR (or /tmp), are trashed there at once;
+//                              before them 1,000, twice: the second time is the baseline for COUNT
 
 #include <sys/resource.h>
 
@@ -59,11 +59,11 @@ std::vector<Reclaimable> makeItems(const std::filesystem::path& folder, int coun
     return items;
 }
 
-/// What a cleaning took of the machine.
+/// The resources used by a clean-up.
 struct Cost {
     std::size_t items = 0;
     std::ptrdiff_t failed = 0;
-    std::ptrdiff_t peakThreads = 0;  // of the whole process, the window's included
+    std::ptrdiff_t peakThreads = 0;  // of the whole process, including the window's
     double processorMs = 0;          // of all threads
 
     double perItem() const { return processorMs / static_cast<double>(items); }
@@ -82,7 +82,7 @@ double processorMilliseconds() {
     return milliseconds(used.ru_utime) + milliseconds(used.ru_stime);
 }
 
-/// 0 where the system has no such list.
+/// The number of threads; 0 if unknown.
 std::ptrdiff_t threadCount() {
     std::error_code none;
     return std::distance(std::filesystem::directory_iterator("/proc/self/task", none), {});
@@ -112,11 +112,11 @@ Cost cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclai
     return cost;
 }
 
-/// Whether all went.
+/// Trashes the items; false if any failed.
 bool compareCleanings(bench::Heart& heart, const Platform& platform, const std::filesystem::path& folder, int count) {
     constexpr int few = 1000;
     bench::Heart unnoted;
-    cleanInto(unnoted, platform, makeItems(folder / "first", few));  // the first makes threads and a Trash
+    cleanInto(unnoted, platform, makeItems(folder / "first", few));  // warm-up: creates threads and the Trash
     const Cost ofFew = cleanInto(unnoted, platform, makeItems(folder / "few", few));
     const Cost ofAll = cleanInto(heart, platform, makeItems(folder / "all", count));
     std::printf("{");
@@ -153,7 +153,7 @@ int main(int argc, char** argv) {
         MainWindow window(app);
         window.show();
         while (!window.isUp()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        window.window().grabWindow();  // what a first frame costs is no part of it
+        window.window().grabWindow();  // exclude the cost of the first frame
 
         bench::Heart heart;
         if (cleans) {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// How long the list of items and that of a folder's folders keep the main thread from the press to the frame that shows
-// it, in the real window drawn by the processor alone, where there are as many of them as one home may hold. Prints
-// milliseconds, the mean and the worst.
+// Measures how long the list of items and that of a folder's subfolders block the main thread, from the press to the
+// frame that shows the result, in the real window rendered in software, with as many entries as a home may hold. Prints
+// milliseconds, mean and worst.
 //
 //     lists [--items N]
 //
-// The items are caches in folders below $TMPDIR (or /tmp), found by a real survey. Nothing of it is removed but at the
-// end, by this program.
+// The items are caches in folders below $TMPDIR (or /tmp), found by a real survey. Nothing is removed except by this
+// program at its end.
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -46,7 +46,7 @@ class Bench {
 public:
     explicit Bench(MainWindow& window) : window_(window) {}
 
-    /// `deed` so many times, each with the frame that it leads to.
+    /// Measures `deed` repeatedly, each time with the resulting frame.
     void measure(const char* what, int rounds, const std::function<void(int)>& deed) {
         double sum = 0;
         double worst = 0;
@@ -71,7 +71,7 @@ void runItems(AppModel& app, MainWindow& window) {
     app.startScan();
     tour::waitUntil([&] { return app.scanPhase() == AppModel::ScanPhase::finished; });
     app.setAudience(AppModel::Audience::developer);
-    window.window().grabWindow();  // lays out what there is to press
+    window.window().grabWindow();  // lay out the controls first
     tour::clickOn(window.window(), QStringLiteral("sidebarReclaim"));
     tour::waitUntil([&] { return tour::findControl(window.window(), QStringLiteral("itemList")) != nullptr; });
     ItemList& items = *window.reclaim().items();
@@ -94,7 +94,7 @@ void runItems(AppModel& app, MainWindow& window) {
     bench.measure("the review left", 1, [&](int) { window.reclaim().dryRun()->close(); });
 }
 
-/// All items lie in folders of their own in one.
+/// Creates each item in a folder of its own, all in one folder.
 void runFolders(MainWindow& window) {
     tour::clickOn(window.window(), QStringLiteral("sidebarLens"));
     tour::waitUntil([&] { return tour::findControl(window.window(), QStringLiteral("lensList")) != nullptr; });

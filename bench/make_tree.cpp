@@ -33,9 +33,9 @@
 
 namespace {
 
-constexpr char marker[] = ".make_tree";  // says that the content of the folder may be replaced
+constexpr char marker[] = ".make_tree";  // marks a folder whose content may be replaced
 
-/// SplitMix64: a few lines, and the same numbers with every standard library.
+/// SplitMix64: short, and with the same results on every standard library.
 class Random {
 public:
     explicit Random(std::uint64_t seed) : state_(seed) {}
@@ -61,7 +61,7 @@ private:
     std::exit(2);
 }
 
-int made = 0;  // folders, DIR among them
+int made = 0;  // folders created, including DIR
 std::int64_t written = 0;
 
 int enterFolder(int parent, const char* name) {
@@ -104,8 +104,8 @@ struct Options {
     std::uint64_t operator[](std::string_view name) const { return numbers.find(name)->second; }
 };
 
-/// Each folder hangs below a random earlier one: the mean depth is the logarithm of their number, about 11 for a
-/// hundred thousand. Of the files half are spread evenly, half crowd in one folder of ten.
+/// Each folder is created in a random earlier one: the mean depth is the logarithm of their number, about 11 for a
+/// hundred thousand. Half of the files are spread evenly, half are concentrated in a tenth of the folders.
 void makeMixedTree(int top, const Options& options) {
     Random random(options["--seed"]);
     const std::size_t folders = std::max<std::uint64_t>(options["--folders"], 1);
@@ -118,7 +118,7 @@ void makeMixedTree(int top, const Options& options) {
         ++files[file % 2 == 0 ? place : place / 10 * 10];
     }
 
-    // Depth first with the descriptors of the way down: a random tree is far from being too deep for that.
+    // Depth first with all descriptors on the way open: a random tree is never too deep for that.
     struct Level {
         int fd;
         std::uint32_t folder;
@@ -153,7 +153,7 @@ void makeWideFolder(int top, const Options& options) {
     close(folder);
 }
 
-/// The files stand in one folder after the other, a hundred each; their further names in folders of their own.
+/// Creates the files folder by folder, a hundred each; their further names in separate folders.
 void makeHardLinks(int top, const Options& options) {
     constexpr std::uint64_t perFolder = 100;
     const std::uint64_t files = options["--of"];
@@ -235,7 +235,7 @@ int main(int count, char** words_) {
     if (options["--wide"] > 0) makeWideFolder(top, options);
     if (options["--hardlinks"] > 0) makeHardLinks(top, options);
     if (options["--chain"] > 0) makeChain(top, options);
-    sync();  // what is measured next should not share the disk with this tree's own writing
+    sync();  // keep the tree's writes out of the next measurement
     close(top);
     std::printf("{\"files\":%lld,\"folders\":%d}\n", static_cast<long long>(written), made);
     return 0;

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-// measure PROGRAM ARGUMENT...: runs a program and prints, as the last line of the error output,
-// {"wall":…,"processor":…, "peak":…,"status":…} (seconds, bytes, exit status). The program's own error output is thrown
-// away.
+// measure PROGRAM ARGUMENT...: runs a program and prints {"wall":…,"processor":…, "peak":…,"status":…} (seconds, bytes,
+// exit status) as the last line of standard error. Discards the program's own standard error.
 //
-// Small on purpose: a process is charged with the memory of whoever started it, so a script that starts it itself
-// cannot see a peak below its own.
+// Deliberately small: a process's peak memory includes that of the process that started it, so a script could not
+// measure a peak below its own.
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>

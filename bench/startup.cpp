@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
-// What starting Zelk costs beside the least window that Qt Quick Controls can show: the time from the start of the
-// process to the first painted frame and to the first with all that the window holds, and the memory once the window
-// has come to rest. The real window on the real platform, without a survey and without the first run, drawn by the
-// processor to no screen.
+// Compares the start of Zelk with the smallest window of Qt Quick Controls: the time from process start to the first
+// painted frame and to the first complete one, and the memory once the window is idle. Uses the real window and
+// platform without a survey and the first-run pages, rendered in software without a screen.
 //
 //     startup [--rounds N]
 //
-// Every figure is the median of N processes of each kind, started in turn so that a busy moment falls on both. The
-// memory is what is resident, each page counted whole: a share by the number of its users, which is the other measure
-// there is, would change with whatever else on the machine has Qt loaded.
+// Every figure is the median of N processes of each kind, started alternately so that load affects both. Memory is the
+// resident set, counting each page fully: the proportional set would change with every other program that has Qt
+// loaded.
 
 #include <sys/wait.h>
 #include <time.h>
@@ -37,8 +36,8 @@
 
 namespace {
 
-constexpr double mostTimes = 1.3;  // the empty window's time
-constexpr double mostAbove = 40;   // MiB, the empty window's memory
+constexpr double mostTimes = 1.3;  // times the empty window's time
+constexpr double mostAbove = 40;   // MiB above the empty window's memory
 constexpr int restMilliseconds = 1000;
 
 struct Cost {
@@ -47,7 +46,7 @@ struct Cost {
     double mebibytes = 0;
 };
 
-/// Nanoseconds of a clock that all processes share.
+/// Nanoseconds of a clock that is shared by all processes.
 long long now() {
     timespec time{};
     ::clock_gettime(CLOCK_MONOTONIC, &time);
@@ -63,7 +62,7 @@ double residentMebibytes() {
     return std::numeric_limits<double>::quiet_NaN();
 }
 
-/// Runs the event loop until the window has painted and come to rest, and prints what it took.
+/// Runs the event loop until the window is painted and idle, and prints the results.
 void reportOf(QQuickWindow& window, long long started, const std::function<bool()>& complete) {
     long long first = 0;
     long long all = 0;
@@ -92,7 +91,7 @@ void showZelk(int argc, char** argv, long long started) {
     zelk::Shell shell(app, services);
     shell.start();
     reportOf(shell.main().window(), started, [&] { return shell.main().isUp(); });
-    std::_Exit(EXIT_SUCCESS);  // the end is not measured
+    std::_Exit(EXIT_SUCCESS);  // do not measure the exit
 }
 
 void showEmpty(int argc, char** argv, long long started) {
@@ -106,7 +105,7 @@ void showEmpty(int argc, char** argv, long long started) {
     std::_Exit(EXIT_SUCCESS);
 }
 
-/// This very program again, as the process that shows `what`.
+/// Runs this program again as the process that shows `what`.
 std::optional<Cost> costOf(const char* what) {
     int ends[2];
     if (::pipe(ends) != 0) return std::nullopt;
@@ -148,7 +147,7 @@ int compare(int rounds) {
             std::fprintf(stderr, "startup: the %s window did not come up\n", ofEmpty ? "real" : "empty");
             return 1;
         }
-        if (round < 0) continue;  // brings the files into the kernel's cache
+        if (round < 0) continue;  // warms the kernel's cache
         empty.push_back(*ofEmpty);
         zelk.push_back(*ofZelk);
     }

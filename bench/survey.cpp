@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// survey [--home DIR] ROOT...: one survey by the real engine and the real classifier, printed as one JSON object. All
-// sizes are allocated bytes, dates seconds since 1970, phases seconds. --home is the home folder that the classifier
-// goes by; ZELK_WORKERS sets the number of threads.
+// survey [--home DIR] ROOT...: runs one survey with the real engine and classifier and prints it as one JSON object.
+// Sizes are allocated bytes, dates seconds since 1970, phases seconds. --home is the home folder for the classifier;
+// ZELK_WORKERS sets the number of threads.
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -126,6 +126,6 @@ int main(int count, char** words) {
     const std::string json = jsonOf(surveyOf(native.platform(), std::move(roots)));
     const bool printed = std::fwrite(json.data(), 1, json.size(), stdout) == json.size() && std::puts("") >= 0;
     const int status = std::fflush(stdout) == 0 && printed ? 0 : 1;
-    if (!native.drain(1.0)) std::_Exit(status);  // a thread that still uses the services: they must not go
+    if (!native.drain(1.0)) std::_Exit(status);  // a thread still uses the services: do not destroy them
     return status;
 }
