@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Builds a preset of CMakePresets.json. Sourced after common.sh, from the root folder.
 
-# preset_folder PRESET: where it is built. That of CI is the release, built differently.
+# preset_folder PRESET: its build folder. The preset ci builds the release in another way, in the same folder.
 preset_folder() {
     case $1 in
         ci) echo build/release ;;
@@ -9,7 +9,7 @@ preset_folder() {
     esac
 }
 
-# build_preset PRESET [TARGET...]: configures the preset and builds these targets, or all, into build/PRESET.
+# build_preset PRESET [TARGET...]: configures the preset and builds these targets, or all, in its build folder.
 build_preset() {
     preset=$1
     shift

@@ -1,13 +1,13 @@
 # SPDX-License-Identifier: MIT
-# What the commands of this repository share: how they speak and how they give up. Sourced, from the root folder.
+# Output and error functions shared by the commands of this repository. Source it from the root folder.
 
-# One line per step, so that a person sees what happens and what it waits for.
+# Announces a step, so that the user sees what is happening.
 say() { printf '\n==> %s\n' "$*"; }
 
 # A remark under a step.
 note() { printf '    %s\n' "$*"; }
 
-# Ends the command with a sentence that says what to do.
+# Exits with an error message that says what to do.
 fail() {
     printf '\nerror: %s\n' "$*" >&2
     exit 1

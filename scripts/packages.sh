@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Installs the packages of scripts/packages.txt that are missing. Sourced after common.sh, from the root folder.
+# Installs missing packages of scripts/packages.txt. Source it after common.sh, from the root folder.
 
-# wanted COLUMN GROUP...: the entries of one column (2: apt, 3: brew) of the lines in these groups.
+# wanted COLUMN GROUP...: the entries in one column (2: apt, 3: brew) of these groups.
 wanted() {
     column=$1
     shift
@@ -9,7 +9,7 @@ wanted() {
         '!/^#/ && NF && index(groups, " " $1 " ") && $column != "-" { print $column }' scripts/packages.txt
 }
 
-# apt_present ENTRY: whether one of the entry's alternatives is there.
+# apt_present ENTRY: whether one of the entry's alternatives is installed.
 apt_present() {
     for alternative in $(echo "$1" | tr '|' ' '); do
         case $alternative in
@@ -34,10 +34,10 @@ apt_choose() {
     return 1
 }
 
-# readable ENTRY...: the same for a person: the packages' names alone.
+# readable ENTRY...: the entries for display, package names only.
 readable() { echo "$*" | sed 's/command:[^ |]*|//g; s/|/ or /g; s/^ *//'; }
 
-# Root needs no sudo; without a terminal sudo must not wait for a password that nobody can type.
+# Root needs no sudo; without a terminal, sudo must not ask for a password.
 as_root() {
     if [ "$(id -u)" = 0 ]; then
         "$@"
@@ -100,7 +100,7 @@ install_with_brew() {
     HOMEBREW_NO_INSTALL_CLEANUP=1 brew install $missing || fail "Homebrew could not install these; its reason stands above."
 }
 
-# install_packages GROUP...: what is missing of these groups.
+# install_packages GROUP...: installs the missing packages of these groups.
 install_packages() {
     say "Looking for missing packages"
     if on_mac; then

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-# Runs the tests of a preset that was built. Sourced after common.sh and build.sh, from the root folder.
+# Runs the tests of a preset that is already built. Source it after common.sh and build.sh, from the root folder.
 
-# run_tests PRESET: gives ctest's status, which has had its say; then says how many cases there were, since one process
-# may run many. Two for a core: a test waits as often as it works.
+# run_tests PRESET: runs ctest, prints the number of test cases, since one process may run many, and returns ctest's
+# status. Two processes per core, since a test waits as often as it works.
 run_tests() {
     tests_status=0
     QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software \
