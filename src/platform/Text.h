@@ -48,7 +48,7 @@ std::optional<Number> parseNumber(std::string_view digits) {
     Number value = 0;
     const char* const end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, value);
-    if (digits.empty() || error != std::errc{} || stop != end) return std::nullopt;
+    if (error != std::errc{} || stop != end) return std::nullopt;
     return value;
 }
 
