@@ -33,16 +33,16 @@ protected:
         for (const auto& pool : pools) EXPECT_EQ(pool->threadCount(), 0u);
     }
 
-    TaskPool& pool(std::size_t mostThreads, milliseconds keep = forGood, int niceness = 0) {
+    TaskPool& pool(std::size_t maxThreads, milliseconds keep = forGood, int niceness = 0) {
         return *pools.emplace_back(
-            std::make_shared<TaskPool>(TaskPool::Form{"zelk.test.pool", mostThreads, niceness, keep}));
+            std::make_shared<TaskPool>(TaskPool::Options{"zelk.test.pool", maxThreads, niceness, keep}));
     }
 
     std::vector<std::shared_ptr<TaskPool>> pools;
 };
 
 /// Runs `body` on a thread that cannot start others.
-void whereNoThreadCanBeMade(const std::function<void()>& body) {
+void withoutNewThreads(const std::function<void()>& body) {
     fakes::behindGate(
         SYS_clone3, [](unsigned) { return EAGAIN; }, body);
 }
@@ -184,7 +184,7 @@ TEST_F(LinuxTaskPoolTest, closeFinishesQueuedTasksAndEndsThreads) {
 TEST_F(LinuxTaskPoolTest, isDestroyedWithItsLastThread) {
     std::weak_ptr<TaskPool> seen;
     {
-        const auto threads = std::make_shared<TaskPool>(TaskPool::Form{"zelk.test.pool", 2, 0, forGood});
+        const auto threads = std::make_shared<TaskPool>(TaskPool::Options{"zelk.test.pool", 2, 0, forGood});
         seen = threads;
         threads->run(0, [] {});
         threads->close();
@@ -272,7 +272,7 @@ TEST_F(LinuxTaskPoolTest, runsOnTheCallerWhenNoThreadCanStart) {
     TaskPool& threads = pool(3);
     int onCaller = 0;
     const auto held = std::make_shared<int>(1);
-    whereNoThreadCanBeMade([&] {
+    withoutNewThreads([&] {
         for (int task = 0; task < 3; ++task) {
             threads.run(0, [&onCaller, held, caller = std::this_thread::get_id()] {
                 onCaller += std::this_thread::get_id() == caller ? 1 : 0;
@@ -293,7 +293,7 @@ TEST_F(LinuxTaskPoolTest, queuesForABusyThreadWhenNoOtherCanStart) {
     begun.wait();
     std::thread::id caller;
     std::thread::id runner;
-    whereNoThreadCanBeMade([&] {
+    withoutNewThreads([&] {
         caller = std::this_thread::get_id();
         threads.run(0, [&] { runner = std::this_thread::get_id(); });
         mayGo.count_down();
@@ -362,7 +362,7 @@ TEST_F(LinuxTaskPoolTest, failedLastThreadLeavesNothingQueued) {
             [&] { threads.run(0, [&] { ++runs; }); });
     });
     firstAsks.wait();
-    whereNoThreadCanBeMade([&] { threads.run(1, [&] { ++runs; }); });
+    withoutNewThreads([&] { threads.run(1, [&] { ++runs; }); });
     EXPECT_EQ(runs, 0);
     secondIsBack.count_down();
     first.join();

@@ -14,13 +14,13 @@ namespace zelk {
 namespace {
 
 /// A fake /proc, /sys and /etc.
-class MadeMachine : public testing::Test {
+class FakeMachine : public testing::Test {
 protected:
-    MadeMachine() {
+    FakeMachine() {
         std::string pattern = (std::filesystem::temp_directory_path() / "zelk-vitals-XXXXXX").string();
         root = ::mkdtemp(pattern.data());
     }
-    ~MadeMachine() override { std::filesystem::remove_all(root); }
+    ~FakeMachine() override { std::filesystem::remove_all(root); }
 
     void write(const std::string& path, std::string_view content) {
         const std::filesystem::path file = root + path;
@@ -42,7 +42,7 @@ PowerInfo battery(std::int64_t percent, bool charging, bool onAC) {
     return {true, percent, charging, onAC};
 }
 
-TEST_F(MadeMachine, missingSourcesGiveEmptyRecords) {
+TEST_F(FakeMachine, missingSourcesGiveEmptyRecords) {
     const DeviceInfo info = device();
     EXPECT_EQ(info.computerName, "This computer");
     EXPECT_EQ(info.chip, "");
@@ -53,14 +53,14 @@ TEST_F(MadeMachine, missingSourcesGiveEmptyRecords) {
     EXPECT_EQ(power(), PowerInfo{});
 }
 
-TEST_F(MadeMachine, failedMemoryReadShowsNothingUsed) {
+TEST_F(FakeMachine, failedMemoryReadShowsNothingUsed) {
     const MemoryStats stats = vitals().memory();
     EXPECT_EQ(stats.total, static_cast<std::uint64_t>(::sysconf(_SC_PHYS_PAGES)) *
                                static_cast<std::uint64_t>(::sysconf(_SC_PAGESIZE)));
     EXPECT_EQ(stats, (MemoryStats{stats.total, 0, stats.total, 0, 0}));
 }
 
-TEST_F(MadeMachine, prefersPrettyHostname) {
+TEST_F(FakeMachine, prefersPrettyHostname) {
     write("/etc/hostname", "static\n");
     EXPECT_EQ(device().computerName, "static");
     write("/proc/sys/kernel/hostname", "running\n");
@@ -69,14 +69,14 @@ TEST_F(MadeMachine, prefersPrettyHostname) {
     EXPECT_EQ(device().computerName, "Anna's laptop");
 }
 
-TEST_F(MadeMachine, skipsEmptyNames) {
+TEST_F(FakeMachine, skipsEmptyNames) {
     write("/etc/machine-info", "PRETTY_HOSTNAME=\"\"\n");
     write("/proc/sys/kernel/hostname", "(none)\n");
     write("/etc/hostname", "\n");
     EXPECT_EQ(device().computerName, "This computer");
 }
 
-TEST_F(MadeMachine, chipFallsBackToTheDeviceTree) {
+TEST_F(FakeMachine, chipFallsBackToTheDeviceTree) {
     write("/proc/device-tree/compatible", std::string_view("raspberrypi,4-model-b\0brcm,bcm2711\0", 36));
     write("/proc/cpuinfo", "processor\t: 0\nCPU part\t: 0xd08\n");
     EXPECT_EQ(device().chip, "bcm2711");
@@ -84,7 +84,7 @@ TEST_F(MadeMachine, chipFallsBackToTheDeviceTree) {
     EXPECT_EQ(device().chip, "AMD Ryzen 7");
 }
 
-TEST_F(MadeMachine, systemVersionFallsBackToTheKernel) {
+TEST_F(FakeMachine, systemVersionFallsBackToTheKernel) {
     write("/proc/sys/kernel/osrelease", "6.1.5-7-amd64\n");
     EXPECT_EQ(device().osVersion, "Linux 6.1.5");
     write("/usr/lib/os-release", "PRETTY_NAME=\"Fedora Linux 39 (Workstation Edition)\"\n");
@@ -93,7 +93,7 @@ TEST_F(MadeMachine, systemVersionFallsBackToTheKernel) {
     EXPECT_EQ(device().osVersion, "Debian GNU/Linux 12");
 }
 
-TEST_F(MadeMachine, ignoresPlaceholderModels) {
+TEST_F(FakeMachine, ignoresPlaceholderModels) {
     write("/proc/device-tree/model", std::string_view("Raspberry Pi 4 Model B\0", 23));
     EXPECT_EQ(device().modelIdentifier, "Raspberry Pi 4 Model B");
     write("/sys/class/dmi/id/product_name", "To Be Filled By O.E.M.\n");
@@ -102,7 +102,7 @@ TEST_F(MadeMachine, ignoresPlaceholderModels) {
     EXPECT_EQ(device().modelIdentifier, "20XW0026GE");
 }
 
-TEST_F(MadeMachine, memoryIncludesZram) {
+TEST_F(FakeMachine, memoryIncludesZram) {
     write(
         "/proc/meminfo",
         "MemTotal: 1000 kB\nActive(anon): 100 kB\nInactive(anon): 50 kB\nUnevictable: 20 kB\nInactive(file): 700 kB\n");
@@ -113,47 +113,47 @@ TEST_F(MadeMachine, memoryIncludesZram) {
     EXPECT_EQ(device().memoryBytes, 1000U * 1024);
 }
 
-TEST_F(MadeMachine, usedMemoryIsCappedAtTheTotal) {
+TEST_F(FakeMachine, usedMemoryIsCappedAtTheTotal) {
     write("/proc/meminfo", "MemTotal: 100 kB\nActive(anon): 90 kB\nInactive(anon): 50 kB\n");
     EXPECT_EQ(vitals().memory(), (MemoryStats{100 * 1024, 100 * 1024, 0, 0, 0}));
 }
 
-TEST_F(MadeMachine, readsTicksAndUptime) {
+TEST_F(FakeMachine, readsTicksAndUptime) {
     write("/proc/stat", "cpu  1 2 3 4 5 6 7 8 0 0\n");
     write("/proc/uptime", "3600.50 100.00\n");
     EXPECT_EQ(vitals().ticks(), (CPUTicks{1, 24, 9, 2}));
     EXPECT_DOUBLE_EQ(vitals().uptime(), 3600.5);
 }
 
-TEST_F(MadeMachine, uptimeFallsBackToTheBootClock) {
+TEST_F(FakeMachine, uptimeFallsBackToTheBootClock) {
     EXPECT_GT(vitals().uptime(), 0);
 }
 
-TEST_F(MadeMachine, desktopWithoutBatteryIsOnAC) {
+TEST_F(FakeMachine, desktopWithoutBatteryIsOnAC) {
     writeSupply("AC", {{"type", "Mains"}, {"online", "0"}});
     EXPECT_EQ(power(), PowerInfo{});
 }
 
-TEST_F(MadeMachine, laptopOnACCharges) {
+TEST_F(FakeMachine, laptopOnACCharges) {
     writeSupply("AC", {{"type", "Mains"}, {"online", "1"}});
     writeSupply("BAT0", {{"type", "Battery"}, {"present", "1"}, {"capacity", "63"}, {"status", "Charging"}});
     EXPECT_EQ(power(), battery(63, true, true));
 }
 
-TEST_F(MadeMachine, laptopOffACDischarges) {
+TEST_F(FakeMachine, laptopOffACDischarges) {
     writeSupply("AC", {{"type", "Mains"}, {"online", "0"}});
     writeSupply("BAT0", {{"type", "Battery"}, {"capacity", "63"}, {"status", "Discharging"}});
     EXPECT_EQ(power(), battery(63, false, false));
 }
 
-TEST_F(MadeMachine, fullBatteryOnUsbChargerIsOnACAndNotCharging) {
+TEST_F(FakeMachine, fullBatteryOnUsbChargerIsOnACAndNotCharging) {
     writeSupply("BAT0", {{"type", "Battery"}, {"capacity", "100"}, {"status", "Full"}});
     writeSupply("ucsi-1", {{"type", "USB"}, {"online", "0"}});
     writeSupply("ucsi-2", {{"type", "USB"}, {"online", "1"}});
     EXPECT_EQ(power(), battery(100, false, true));
 }
 
-TEST_F(MadeMachine, batteryStatusDecidesACWithoutOtherSupply) {
+TEST_F(FakeMachine, batteryStatusDecidesACWithoutOtherSupply) {
     writeSupply("BAT0", {{"type", "Battery"}, {"capacity", "50"}, {"status", "Not charging"}});
     EXPECT_EQ(power(), battery(50, false, true));
     writeSupply("BAT0", {{"status", "Discharging"}});
@@ -162,32 +162,32 @@ TEST_F(MadeMachine, batteryStatusDecidesACWithoutOtherSupply) {
     EXPECT_EQ(power(), battery(50, false, false));
 }
 
-TEST_F(MadeMachine, ignoresBatteryOfAPeripheral) {
+TEST_F(FakeMachine, ignoresBatteryOfAPeripheral) {
     writeSupply("hidpp_battery_0", {{"type", "Battery"}, {"scope", "Device"}, {"capacity", "5"}});
     EXPECT_EQ(power(), PowerInfo{});
     writeSupply("z", {{"type", "Battery"}, {"scope", "System"}, {"capacity", "40"}, {"status", "Discharging"}});
     EXPECT_EQ(power(), battery(40, false, false));
 }
 
-TEST_F(MadeMachine, ignoresUps) {
+TEST_F(FakeMachine, ignoresUps) {
     writeSupply("ups", {{"type", "UPS"}, {"online", "1"}, {"capacity", "90"}});
     EXPECT_EQ(power(), PowerInfo{});
     writeSupply("BAT0", {{"type", "Battery"}, {"capacity", "50"}, {"status", "Discharging"}});
     EXPECT_EQ(power(), battery(50, false, false));
 }
 
-TEST_F(MadeMachine, ignoresEmptyBatteryBay) {
+TEST_F(FakeMachine, ignoresEmptyBatteryBay) {
     writeSupply("BAT0", {{"type", "Battery"}, {"present", "0"}});
     EXPECT_EQ(power(), PowerInfo{});
 }
 
-TEST_F(MadeMachine, usesTheFirstOfTwoBatteries) {
+TEST_F(FakeMachine, usesTheFirstOfTwoBatteries) {
     writeSupply("BAT1", {{"type", "Battery"}, {"capacity", "10"}, {"status", "Full"}});
     writeSupply("BAT0", {{"type", "Battery"}, {"capacity", "80"}, {"status", "Full"}});
     EXPECT_EQ(power().percent, 80);
 }
 
-TEST_F(MadeMachine, percentFallsBackToEnergyOrCharge) {
+TEST_F(FakeMachine, percentFallsBackToEnergyOrCharge) {
     writeSupply("BAT0", {{"type", "Battery"}, {"energy_now", "50"}, {"energy_full", "60"}});
     EXPECT_EQ(power().percent, 83);
     writeSupply("BAT0", {{"energy_full", "0"}});
@@ -197,12 +197,12 @@ TEST_F(MadeMachine, percentFallsBackToEnergyOrCharge) {
     EXPECT_EQ(power().percent, 25);
 }
 
-TEST_F(MadeMachine, batteryWithoutValuesHasZeroPercent) {
+TEST_F(FakeMachine, batteryWithoutValuesHasZeroPercent) {
     writeSupply("BAT0", {{"type", "Battery"}, {"capacity", "many"}});
     EXPECT_EQ(power(), battery(0, false, false));
 }
 
-TEST_F(MadeMachine, volumeMatchesStatvfs) {
+TEST_F(FakeMachine, volumeMatchesStatvfs) {
     struct statvfs expected {};
     ASSERT_EQ(::statvfs(root.c_str(), &expected), 0);
     const auto volume = vitals().volume(root);
@@ -213,7 +213,7 @@ TEST_F(MadeMachine, volumeMatchesStatvfs) {
     EXPECT_EQ(volume->importantAvailable, volume->available);
 }
 
-TEST_F(MadeMachine, missingVolumeIsAbsent) {
+TEST_F(FakeMachine, missingVolumeIsAbsent) {
     EXPECT_FALSE(vitals().volume(root + "/missing").has_value());
     EXPECT_FALSE(vitals().volume("").has_value());
 }

@@ -168,7 +168,7 @@ std::ptrdiff_t otherThreads() {
 }
 
 /// Like otherThreads(), after starting one thread: with the first one, a sanitizer starts a permanent one of its own.
-std::ptrdiff_t otherThreadsThatStay() {
+std::ptrdiff_t otherPermanentThreads() {
     std::thread([] {}).join();
     return otherThreads();
 }
@@ -176,19 +176,19 @@ std::ptrdiff_t otherThreadsThatStay() {
 // Only as many tasks as threads run concurrently, and waiting tasks do not delay urgent ones.
 TEST(ThreadTasks, tenThousandTasksUseAtMostSixtyFourThreads) {
     ThreadTasks tasks;
-    static_assert(ThreadTasks::mostUrgentThreads + ThreadTasks::mostPatientThreads == 64);
-    const std::ptrdiff_t before = otherThreadsThatStay();
+    static_assert(ThreadTasks::maxUrgentThreads + ThreadTasks::maxPatientThreads == 64);
+    const std::ptrdiff_t before = otherPermanentThreads();
     std::latch mayGo(1);
-    std::latch allTaken(ThreadTasks::mostPatientThreads);
+    std::latch allTaken(ThreadTasks::maxPatientThreads);
     std::atomic<std::size_t> begun = 0;
     for (int number = 0; number < 10'000; ++number) {
         tasks.run(TaskPriority::utility, [&] {
-            if (++begun <= ThreadTasks::mostPatientThreads) allTaken.count_down();
+            if (++begun <= ThreadTasks::maxPatientThreads) allTaken.count_down();
             mayGo.wait();
         });
     }
     allTaken.wait();
-    EXPECT_EQ(begun, ThreadTasks::mostPatientThreads);
+    EXPECT_EQ(begun, ThreadTasks::maxPatientThreads);
     std::latch urgent(20);
     for (int number = 0; number < 20; ++number) tasks.run(priorities[number % 2], [&] { urgent.arrive_and_wait(); });
     urgent.wait();
@@ -200,12 +200,12 @@ TEST(ThreadTasks, tenThousandTasksUseAtMostSixtyFourThreads) {
 
 TEST(ThreadTasks, userInitiatedTasksRunFirst) {
     ThreadTasks tasks;
-    std::latch allTaken(ThreadTasks::mostUrgentThreads);
+    std::latch allTaken(ThreadTasks::maxUrgentThreads);
     std::latch mayGo(1);
     std::latch tasksEnd(1);
     std::mutex mutex;
     std::string order;
-    for (std::size_t number = 0; number < ThreadTasks::mostUrgentThreads; ++number) {
+    for (std::size_t number = 0; number < ThreadTasks::maxUrgentThreads; ++number) {
         // One thread continues, and the others stay blocked.
         tasks.run(TaskPriority::standard, [&, number] {
             allTaken.count_down();
@@ -243,7 +243,7 @@ TEST(ThreadTasks, nicesExactlyUtilityTasks) {
 }
 
 TEST(ThreadTasks, endsItsThreadsOnDestruction) {
-    const std::ptrdiff_t before = otherThreadsThatStay();
+    const std::ptrdiff_t before = otherPermanentThreads();
     {
         ThreadTasks tasks(std::chrono::hours(24 * 365));  // idle threads would otherwise stay
         std::latch all(12);

@@ -25,7 +25,7 @@ struct Figures {
 };
 
 /// Call before the test starts threads: the scan runs in a child process.
-void expectWithoutPower(const std::vector<std::string>& roots, int workers, const Figures& expected) {
+void expectAsOrdinaryUser(const std::vector<std::string>& roots, int workers, const Figures& expected) {
     EXPECT_TRUE(fakes::asOrdinaryUser([&] {
         const Scan its = scan(roots, workers);
         expectConsistent(its);
@@ -49,41 +49,41 @@ TEST(Unreadable, foldersAreCountedOnceAndDoNotStopTheWalk) {
     makeUnreadable(root + "/1/2/3/4/5/6/7/8");  // below the depth that threads share
     makeFile(root + "/1/2/3/4/5/6/7/8/z/file");
     // The root, a, z, 1 to 8, two called readable, the lower z, and both empty ones.
-    for (const int workers : {1, 8}) expectWithoutPower({root}, workers, {3, 16, 2 * unreadableFolders, 1});
+    for (const int workers : {1, 8}) expectAsOrdinaryUser({root}, workers, {3, 16, 2 * unreadableFolders, 1});
 }
 
 TEST(Unreadable, folderWithUnstatableEntryIsBlocked) {
     const TempFolder temp;
     makeFile(temp / "root/list/file", 1);
     ASSERT_EQ(chmod((temp / "root/list").c_str(), 0444), 0);
-    expectWithoutPower({temp / "root"}, 2, {0, 1, 1, 1});
+    expectAsOrdinaryUser({temp / "root"}, 2, {0, 1, 1, 1});
 }
 
 TEST(Unreadable, listableEmptyFolderIsEmpty) {
     const TempFolder temp;
     makeFolder(temp / "root/list");
     ASSERT_EQ(chmod((temp / "root/list").c_str(), 0444), 0);
-    expectWithoutPower({temp / "root"}, 2, {0, 2, 0, 1});
+    expectAsOrdinaryUser({temp / "root"}, 2, {0, 2, 0, 1});
 }
 
 TEST(Unreadable, rootIsBlockedAndKeepsItsNode) {
     const TempFolder temp;
     makeFile(temp / "root/file");
     ASSERT_EQ(chmod((temp / "root").c_str(), 0000), 0);
-    expectWithoutPower({temp / "root"}, 2, {0, 0, 1, 1});
+    expectAsOrdinaryUser({temp / "root"}, 2, {0, 0, 1, 1});
 }
 
 TEST(Unreadable, skipsRootWithoutStatus) {
     const TempFolder temp;
     makeFile(temp / "closed/root/file");
     ASSERT_EQ(chmod((temp / "closed").c_str(), 0000), 0);
-    expectWithoutPower({temp / "closed/root"}, 2, {0, 0, 0, 0});
+    expectAsOrdinaryUser({temp / "closed/root"}, 2, {0, 0, 0, 0});
 }
 
 TEST(Unreadable, scanFinishesWhenAllRootsAreBlocked) {
     const TempFolder temp;
     makeUnreadable(temp.path());
-    expectWithoutPower({temp / "none", temp / "search", temp / "list"}, 2, {0, 0, 3, 3});
+    expectAsOrdinaryUser({temp / "none", temp / "search", temp / "list"}, 2, {0, 0, 3, 3});
 }
 
 }  // namespace zelk::zoo

@@ -25,7 +25,7 @@ void runCounted(std::function<void()> task) {
 
 }  // namespace
 
-void giveWay(int niceness) {
+void raiseNiceness(int niceness) {
     if (::getpriority(PRIO_PROCESS, 0) < niceness) ::setpriority(PRIO_PROCESS, 0, niceness);
 }
 
@@ -36,7 +36,7 @@ void TaskPool::run(std::size_t rank, Task task) {
         // Move, do not copy: a copy here might be destroyed last, releasing a large tree on the caller's thread.
         const auto box = std::make_shared<Task>(std::move(task));
         try {
-            startThread(form_.threadName, stackBytes,
+            startThread(options_.threadName, stackBytes,
                         [self = shared_from_this(), box] { self->work(std::exchange(*box, nullptr)); });
             return;
         } catch (const std::system_error&) {
@@ -46,13 +46,13 @@ void TaskPool::run(std::size_t rank, Task task) {
     }
     if (way == Way::queued) return;
     runCounted(std::move(task));
-    workOffQueue();
+    drainQueue();
 }
 
 TaskPool::Way TaskPool::take(std::size_t rank, Task& task) {
     const std::lock_guard lock(mutex_);
     const bool findsIdleThread = queued_ < idle_;
-    if (!findsIdleThread && threads_ < form_.mostThreads) {
+    if (!findsIdleThread && threads_ < options_.maxThreads) {
         ++threads_;
         return Way::newThread;
     }
@@ -76,7 +76,7 @@ void TaskPool::enqueue(std::size_t rank, Task& task) {
 }
 
 /// If the last thread failed to start, other callers may have relied on it.
-void TaskPool::workOffQueue() {
+void TaskPool::drainQueue() {
     Task task;
     while (true) {
         {
@@ -88,7 +88,7 @@ void TaskPool::workOffQueue() {
 }
 
 void TaskPool::work(Task task) {
-    if (form_.niceness != 0) giveWay(form_.niceness);
+    if (options_.niceness != 0) raiseNiceness(options_.niceness);
     ownPool = this;
     endWork();  // drop the thread's own count: only its tasks count
     do runCounted(std::move(task));
@@ -99,7 +99,7 @@ void TaskPool::work(Task task) {
 bool TaskPool::next(Task& task) {
     std::unique_lock lock(mutex_);
     ++idle_;
-    given_.wait_for(lock, form_.keep, [this] { return queued_ > 0 || closed_; });
+    given_.wait_for(lock, options_.keep, [this] { return queued_ > 0 || closed_; });
     --idle_;
     if (dequeue(task)) return true;
     --threads_;

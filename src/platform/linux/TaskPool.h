@@ -14,7 +14,7 @@
 namespace zelk {
 
 /// Raises the calling thread's niceness to at least `niceness`. On Linux this is per thread and cannot be undone.
-void giveWay(int niceness);
+void raiseNiceness(int niceness);
 
 /// A thread pool that grows with its tasks up to a limit and keeps idle threads for a while. Beyond the limit tasks are
 /// queued, urgent ones first. Safe from any thread. Its threads keep it alive, so its owner calls close() instead of
@@ -24,14 +24,14 @@ public:
     static constexpr std::size_t ranks = 2;  ///< priorities; 0 runs first
     static constexpr std::size_t stackBytes = 1024 * 1024;
 
-    struct Form {
+    struct Options {
         std::string threadName;
-        std::size_t mostThreads = 1;
+        std::size_t maxThreads = 1;
         int niceness = 0;  ///< minimum niceness of its threads; 0 leaves it unchanged
         std::chrono::milliseconds keep = std::chrono::seconds(10);  ///< how long an idle thread stays
     };
 
-    explicit TaskPool(Form form) : form_(std::move(form)) {}
+    explicit TaskPool(Options options) : options_(std::move(options)) {}
 
     /// Runs `task` once on a thread of the pool. Runs it on the caller's thread if the pool has no thread and none can
     /// be started, or if the caller is a task of this pool and all threads are busy, so that a task may wait for its
@@ -56,11 +56,11 @@ private:
     Way takeWithoutThread(std::size_t rank, Task& task);
     void enqueue(std::size_t rank, Task& task);
     void work(Task task);
-    void workOffQueue();
+    void drainQueue();
     bool next(Task& task);
     bool dequeue(Task& task);
 
-    const Form form_;
+    const Options options_;
     mutable std::mutex mutex_;
     std::condition_variable given_;
     std::array<std::deque<Task>, ranks> queues_;

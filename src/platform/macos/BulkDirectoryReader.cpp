@@ -78,7 +78,7 @@ public:
 
 private:
     const Entries* read() {
-        giveBackExcess();
+        releaseExcessMemory();
         entries_.clear();
         names_.clear();
         struct stat status;
@@ -95,7 +95,7 @@ private:
             if (count < 0 || !take(static_cast<std::size_t>(count), listed)) return nullptr;
         }
         placeNames();
-        if (const CoveredFolders::Names* names = covered_->in(status)) tellMountPoints(*names);
+        if (const CoveredFolders::Names* names = covered_->in(status)) markMountPoints(*names);
         return &entries_;
     }
 
@@ -118,17 +118,17 @@ private:
 
     /// The records of mount points have the device of the folder beneath. Only whether the device differs from the
     /// root's matters, not which one it is.
-    void tellMountPoints(const CoveredFolders::Names& names) {
+    void markMountPoints(const CoveredFolders::Names& names) {
         for (DirEntry& entry : entries_)
             if (entry.objType == directoryObjectType && names.contains(entry.name)) entry.deviceID = ~entry.deviceID;
     }
 
-    void giveBackExcess() {
+    void releaseExcessMemory() {
         if (names_.capacity() > keptBytes) std::string().swap(names_);
         if (entries_.capacity() * sizeof(DirEntry) > keptBytes) Entries().swap(entries_);
     }
 
-    DatalessFoldersStay dataless_;
+    DatalessFetchGuard dataless_;
     DirectoryLadder ladder_;
     std::shared_ptr<const CoveredFolders> covered_;  ///< of the current root
     dev_t device_ = 0;                               ///< the root's

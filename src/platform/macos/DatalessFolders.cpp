@@ -11,12 +11,12 @@ constexpr int policy = IOPOL_TYPE_VFS_MATERIALIZE_DATALESS_FILES;
 
 }  // namespace
 
-DatalessFoldersStay::DatalessFoldersStay() : before_(getiopolicy_np(policy, IOPOL_SCOPE_THREAD)) {
+DatalessFetchGuard::DatalessFetchGuard() : before_(getiopolicy_np(policy, IOPOL_SCOPE_THREAD)) {
     // If the system refuses, it downloads as before, which does not harm the survey.
     setiopolicy_np(policy, IOPOL_SCOPE_THREAD, IOPOL_MATERIALIZE_DATALESS_FILES_OFF);
 }
 
-DatalessFoldersStay::~DatalessFoldersStay() {
+DatalessFetchGuard::~DatalessFetchGuard() {
     setiopolicy_np(policy, IOPOL_SCOPE_THREAD, before_ < 0 ? IOPOL_MATERIALIZE_DATALESS_FILES_DEFAULT : before_);
 }
 

@@ -7,12 +7,12 @@ namespace zelk {
 /// the disk fails with EDEADLK. Create and destroy it on one thread, whose policy it restores.
 ///
 /// Compiled for macOS and tested with a stand-in for the call; never run on a Mac.
-class DatalessFoldersStay {
+class DatalessFetchGuard {
 public:
-    DatalessFoldersStay();
-    ~DatalessFoldersStay();
-    DatalessFoldersStay(const DatalessFoldersStay&) = delete;
-    DatalessFoldersStay& operator=(const DatalessFoldersStay&) = delete;
+    DatalessFetchGuard();
+    ~DatalessFetchGuard();
+    DatalessFetchGuard(const DatalessFetchGuard&) = delete;
+    DatalessFetchGuard& operator=(const DatalessFetchGuard&) = delete;
 
 private:
     int before_;

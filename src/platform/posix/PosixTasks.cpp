@@ -45,7 +45,7 @@ void runBoxed(void* box) {
 constexpr int patientNiceness = 10;
 
 void takePriority(TaskPriority priority) {
-    if (priority == TaskPriority::utility) giveWay(patientNiceness);
+    if (priority == TaskPriority::utility) raiseNiceness(patientNiceness);
 }
 
 #endif
@@ -66,9 +66,9 @@ void ThreadTasks::run(TaskPriority priority, Task task) {
 #else
 
 ThreadTasks::ThreadTasks(std::chrono::milliseconds keep)
-    : urgent_(std::make_shared<TaskPool>(TaskPool::Form{"zelk.task", mostUrgentThreads, 0, keep})),
+    : urgent_(std::make_shared<TaskPool>(TaskPool::Options{"zelk.task", maxUrgentThreads, 0, keep})),
       patient_(
-          std::make_shared<TaskPool>(TaskPool::Form{"zelk.task.util", mostPatientThreads, patientNiceness, keep})) {}
+          std::make_shared<TaskPool>(TaskPool::Options{"zelk.task.util", maxPatientThreads, patientNiceness, keep})) {}
 
 ThreadTasks::~ThreadTasks() {
     urgent_->close();

@@ -16,8 +16,8 @@ class TaskPool;
 class ThreadTasks : public BackgroundTasks {
 public:
     /// Together 64: more than a disk can use, and few enough to leave the desktop responsive.
-    static constexpr std::size_t mostUrgentThreads = 20;
-    static constexpr std::size_t mostPatientThreads = 44;
+    static constexpr std::size_t maxUrgentThreads = 20;
+    static constexpr std::size_t maxPatientThreads = 44;
 
     /// On Linux an idle thread stays for `keep`.
     explicit ThreadTasks(std::chrono::milliseconds keep = std::chrono::seconds(10));

@@ -30,7 +30,7 @@ constexpr std::string_view what = "couldn’t be removed";
 
 /// How often a folder may change after it was listed: be refilled or swapped for something else. Then a process that
 /// keeps writing there wins.
-constexpr int maximumSurprises = 100;
+constexpr int maximumChanges = 100;
 
 bool unlinkFile(int folder, const char* name) {
     return ::unlinkat(folder, name, 0) == 0 || errno == ENOENT;
@@ -110,7 +110,8 @@ private:
                 break;
             case ENOTDIR:
             case ELOOP:  // swapped since it was listed
-                if (!unlinkFile(current(), name.c_str())) return errno == EISDIR ? surprise(error) : failOnLast(errno);
+                if (!unlinkFile(current(), name.c_str()))
+                    return errno == EISDIR ? retryOrFail(error) : failOnLast(errno);
                 break;
             default:
                 return failOnLast(error);
@@ -132,7 +133,7 @@ private:
         }
         // It stays listed, and is entered or removed as what it is now.
         const bool changed = errno == ENOTEMPTY || errno == EEXIST || errno == ENOTDIR;
-        return changed ? surprise(errno) : failOnLast(errno);
+        return changed ? retryOrFail(errno) : failOnLast(errno);
     }
 
     bool unlinkFilesHere() {
@@ -164,7 +165,7 @@ private:
         return true;
     }
 
-    bool surprise(int error) { return ++surprises_ <= maximumSurprises || failOnLast(error); }
+    bool retryOrFail(int error) { return ++changes_ <= maximumChanges || failOnLast(error); }
 
     /// Fails on the folder that was to be entered or removed.
     bool failOnLast(int error) { return fail(names_.back(), names_.size() == 1, error); }
@@ -179,7 +180,7 @@ private:
     DirectoryLadder ladder_{openSubdirectoryOnMount};
     std::vector<std::string> names_;
     std::vector<std::size_t> starts_;  ///< index in names_ of each level; the first is the parent's
-    int surprises_ = 0;
+    int changes_ = 0;
     Failure failure_;
 };
 

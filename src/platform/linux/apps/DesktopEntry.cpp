@@ -30,7 +30,7 @@ std::string withoutEscapes(std::string_view value) {
 }
 
 /// Splits a command at blanks. In double quotes, blanks are kept and a backslash quotes the next character.
-std::vector<std::string> wordsOf(std::string_view line) {
+std::vector<std::string> splitCommand(std::string_view line) {
     std::vector<std::string> words;
     bool inWord = false;
     bool quoted = false;
@@ -66,14 +66,14 @@ struct Key {
     std::optional<std::string_view> locale;
 };
 
-class Reading {
+class EntryParser {
 public:
-    explicit Reading(const std::vector<std::string>& locales) : locales_(locales), nameRank_(locales.size() + 1) {}
+    explicit EntryParser(const std::vector<std::string>& locales) : locales_(locales), nameRank_(locales.size() + 1) {}
 
     void take(const Key& key, std::string_view value) {
         if (key.name == "Name") return takeName(key.locale, value);
         if (key.locale) return;
-        if (key.name == "Exec") entry.command = wordsOf(withoutEscapes(value));
+        if (key.name == "Exec") entry.command = splitCommand(withoutEscapes(value));
         if (key.name == "TryExec") entry.tryExec = withoutEscapes(value);
         if (key.name == "Type") entry.isApplication = value == "Application";
         if (key.name == "Hidden") entry.hidden = isTrue(value);
@@ -101,7 +101,7 @@ private:
 }  // namespace
 
 std::optional<DesktopEntry> parseDesktopEntry(std::string_view text, const std::vector<std::string>& locales) {
-    Reading reading(locales);
+    EntryParser parser(locales);
     bool inGroup = false;
     while (!text.empty()) {
         const std::string_view line = trimmed(takeLine(text));
@@ -115,10 +115,10 @@ std::optional<DesktopEntry> parseDesktopEntry(std::string_view text, const std::
         if (!inGroup) return std::nullopt;
         const std::size_t equals = line.find('=');
         if (equals == std::string_view::npos) continue;
-        reading.take(Key(trimmed(line.substr(0, equals))), trimmed(line.substr(equals + 1)));
+        parser.take(Key(trimmed(line.substr(0, equals))), trimmed(line.substr(equals + 1)));
     }
     if (!inGroup) return std::nullopt;
-    return std::move(reading.entry);
+    return std::move(parser.entry);
 }
 
 std::vector<std::string> localesOf(std::string_view locale) {

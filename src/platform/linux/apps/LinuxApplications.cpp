@@ -67,7 +67,7 @@ std::string_view lastComponent(std::string_view path) {
 
 /// Whether the program is an interpreter or launcher that many applications share, so that its process identifies none
 /// of them.
-bool runsManyApplications(std::string_view program) {
+bool isSharedLauncher(std::string_view program) {
     constexpr std::array names{
         "bash",         "dash",  "dbus-launch", "dbus-send",   "electron",  "env",      "flatpak", "fish",
         "gapplication", "gjs",   "gtk-launch",  "java",        "kioclient", "kstart",   "ksh",     "lua",
@@ -81,7 +81,7 @@ bool runsManyApplications(std::string_view program) {
 }
 
 /// The words of a script's "#!" line; empty if the file is not a script.
-std::vector<std::string> interpreterLine(const std::string& path) {
+std::vector<std::string> shebangWords(const std::string& path) {
     constexpr std::size_t longest = 256;  // the kernel's own limit
     const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK); }));
     if (!file) return {};
@@ -114,7 +114,7 @@ void findOwnProgram(InstalledApplication& application, const std::vector<std::st
     const std::optional<std::string> program = findProgram(words.front(), folders);
     if (!program) return;
     const std::string real = resolved(*program);
-    if (runsManyApplications(*program) || runsManyApplications(real)) {
+    if (isSharedLauncher(*program) || isSharedLauncher(real)) {
         const auto script = std::find_if(words.begin() + 1, words.end(),
                                          [](const std::string& word) { return !word.starts_with('-'); });
         if (script == words.end() || !script->starts_with('/') || resolved(*script).empty()) return;
@@ -125,14 +125,14 @@ void findOwnProgram(InstalledApplication& application, const std::vector<std::st
     }
     application.programAsNamed = *program;
     application.program = real;
-    const std::vector<std::string> line = withoutEnv(interpreterLine(real));
+    const std::vector<std::string> line = withoutEnv(shebangWords(real));
     if (line.empty()) return;
     if (const auto interpreter = findProgram(line.front(), folders)) application.interpreter = resolved(*interpreter);
 }
 
-class Collection {
+class EntryCollector {
 public:
-    explicit Collection(const ApplicationPlaces& places) : places_(places) {}
+    explicit EntryCollector(const ApplicationPlaces& places) : places_(places) {}
 
     /// `prefix` is what the folder's path adds to the ids of its entries.
     void addFolder(const std::string& folder, const std::string& prefix, int depth) {
@@ -205,9 +205,9 @@ ApplicationPlaces ApplicationPlaces::ofEnvironment(const std::string& dataHome) 
 }
 
 std::vector<InstalledApplication> installedApplications(const ApplicationPlaces& places) {
-    Collection collection(places);
-    for (const std::string& folder : places.entries) collection.addFolder(folder, "", 0);
-    return collection.take();
+    EntryCollector collector(places);
+    for (const std::string& folder : places.entries) collector.addFolder(folder, "", 0);
+    return collector.take();
 }
 
 std::vector<std::string> runningApplicationNames(const std::vector<InstalledApplication>& applications,

@@ -76,7 +76,7 @@ public:
 private:
     const Entries* read() {
         const int directory = ladder_.current();
-        giveBackExcess();
+        releaseExcessMemory();
         entries_.clear();
         if (directory < 0 || !readNames(directory)) return nullptr;
         return statEntries(directory) ? &entries_ : nullptr;
@@ -144,7 +144,7 @@ private:
         return true;
     }
 
-    void giveBackExcess() {
+    void releaseExcessMemory() {
         if (names_.capacity() > keptBytes) std::vector<char>().swap(names_);
         if (entries_.capacity() * sizeof(DirEntry) > keptBytes) Entries().swap(entries_);
     }

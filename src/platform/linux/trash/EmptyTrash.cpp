@@ -28,7 +28,7 @@ struct Entry {
 
 std::vector<Entry> entriesOf(const TrashFolder& trash) {
     std::vector<Entry> entries;
-    for (std::string& name : directoryNames(openAnew(trash.files)).value_or(std::vector<std::string>())) {
+    for (std::string& name : directoryNames(reopenDirectory(trash.files)).value_or(std::vector<std::string>())) {
         if (const auto status = fileStatus(trash.files.get(), name)) entries.push_back({std::move(name), *status});
     }
     return entries;
@@ -53,7 +53,7 @@ int nameInfo(const Place& from, const Place& to) {
     return fileStatus(to.folder, to.name) ? EEXIST : 0;
 }
 
-void takeInfoBack(const Place& from, const Place& to) {
+void undoNameInfo(const Place& from, const Place& to) {
     const int error = moveWithoutReplacing(to, from);
     if (error == 0 || error == EEXIST) ::unlinkat(to.folder, to.name.c_str(), 0);
 }
@@ -73,7 +73,7 @@ int renameEntry(const TrashFolder& trash, const Entry& entry, const std::string&
         if (moveWithoutReplacing(newContent, content) != 0) return error;
     }
     if (error != 0) {
-        takeInfoBack(info, newInfo);
+        undoNameInfo(info, newInfo);
         return error;
     }
     // The old info may belong to a new item by now.
@@ -83,7 +83,7 @@ int renameEntry(const TrashFolder& trash, const Entry& entry, const std::string&
 }
 
 /// Renames the entry to a unique name that nobody else uses. Absent if it keeps its old name.
-std::optional<std::string> setAside(const TrashFolder& trash, const Entry& entry) {
+std::optional<std::string> renameForRemoval(const TrashFolder& trash, const Entry& entry) {
     constexpr int maximumTries = 1000;
     Descriptor moving;  // its info briefly has no content without being an orphan
     if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return std::nullopt;
@@ -109,7 +109,7 @@ std::size_t emptyTrash(const TrashFolder& trash) {
     if (!lockFolder(trash.files.get(), LOCK_EX, turn)) return 0;
     std::size_t removed = 0;
     for (const Entry& entry : entriesOf(trash)) {
-        const std::optional<std::string> own = setAside(trash, entry);
+        const std::optional<std::string> own = renameForRemoval(trash, entry);
         if (!own) continue;
         if (removeEntry(trash.files.get(), *own)) {
             putBack(trash, *own, entry);

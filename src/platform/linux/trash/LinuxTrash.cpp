@@ -62,7 +62,7 @@ std::optional<bool> isInside(int folder, const FileStatus& other) {
 
 /// Whether the nearest existing part of the missing `path` is a dangling link: then its target is missing, such as an
 /// unmounted volume, and not just a folder that was never created.
-bool endsInADeadLink(std::string path) {
+bool isBehindDanglingLink(std::string path) {
     struct stat status {};
     while (::lstat(path.c_str(), &status) != 0 && errno == ENOENT && path.find('/') != std::string::npos)
         path.resize(path.rfind('/'));
@@ -81,7 +81,7 @@ std::string LinuxTrash::location() {
 std::optional<std::vector<std::string>> LinuxTrash::list() {
     Descriptor folder(openRootDirectory(location()));
     // The folder is created when something is trashed for the first time.
-    if (!folder && errno == ENOENT && !endsInADeadLink(location())) return std::vector<std::string>();
+    if (!folder && errno == ENOENT && !isBehindDanglingLink(location())) return std::vector<std::string>();
     std::optional<std::vector<std::string>> entries = directoryNames(std::move(folder));
     if (entries) {
         for (std::string& entry : *entries) entry.insert(0, location() + "/");
@@ -135,13 +135,13 @@ Failure LinuxTrash::move(const ItemPath& item) {
     if (!inside) return systemText(errno);
     if (*inside) return "it is in the Trash already";
 
-    sweepAtFirst(*trash, *itself);
+    sweepOnce(*trash, *itself);
     const std::string key = std::to_string(itself->device) + ":" + std::to_string(itself->inode) + "/" + from.name;
     return moveIntoTrash(from, original, *trash, [&] { return numbers_.next(key); });
 }
 
 /// Blocks other threads of this process, which could otherwise be in the middle of a move and postpone the sweep.
-void LinuxTrash::sweepAtFirst(const TrashFolder& trash, const FileStatus& itself) {
+void LinuxTrash::sweepOnce(const TrashFolder& trash, const FileStatus& itself) {
     const std::lock_guard lock(sweeping_);
     const std::pair key(itself.device, itself.inode);
     if (!swept_.contains(key) && sweepOrphans(trash, Orphans::own)) swept_.insert(key);

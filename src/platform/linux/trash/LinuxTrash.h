@@ -41,7 +41,7 @@ private:
     };
 
     /// Removes what a killed run left behind, once per trash and run.
-    void sweepAtFirst(const TrashFolder& trash, const FileStatus& itself);
+    void sweepOnce(const TrashFolder& trash, const FileStatus& itself);
     /// Returns the reason of a failure, for display.
     Failure move(const ItemPath& item);
 

@@ -82,7 +82,7 @@ Descriptor openSharedTrash(int top) {
 
 }  // namespace
 
-Descriptor openAnew(const Descriptor& folder) {
+Descriptor reopenDirectory(const Descriptor& folder) {
     return Descriptor(::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 

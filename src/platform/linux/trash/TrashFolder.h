@@ -19,7 +19,7 @@ struct TrashFolder {
 };
 
 /// Opens `folder` again: a second listing through the same descriptor would continue where the first one ended.
-Descriptor openAnew(const Descriptor& folder);
+Descriptor reopenDirectory(const Descriptor& folder);
 
 enum class IfMissing { fail, create };
 

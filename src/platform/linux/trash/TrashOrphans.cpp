@@ -37,7 +37,7 @@ bool sweepOrphans(const TrashFolder& trash, Orphans which) {
     Descriptor held;
     if (!lockFolder(trash.info.get(), LOCK_EX | LOCK_NB, held)) return false;
     if (!held) return true;  // without locks a move may always be under way, and waiting would not help
-    for (const std::string& name : directoryNames(openAnew(trash.info)).value_or(std::vector<std::string>())) {
+    for (const std::string& name : directoryNames(reopenDirectory(trash.info)).value_or(std::vector<std::string>())) {
         struct stat info {};
         if (!name.ends_with(trashInfoSuffix)) continue;
         if (::fstatat(trash.info.get(), name.c_str(), &info, AT_SYMLINK_NOFOLLOW) != 0) continue;

@@ -17,7 +17,7 @@ namespace zelk {
 
 namespace {
 
-constexpr std::size_t mostBytesRead = 64 * 1024;
+constexpr std::size_t maxBytesRead = 64 * 1024;
 
 /// Placeholders that manufacturers leave instead of a model name.
 bool isPlaceholder(const std::string& model) {
@@ -76,7 +76,7 @@ double LinuxVitals::uptime() {
 std::optional<std::string> LinuxVitals::read(const std::string& path) const {
     const Descriptor file(uninterrupted([&] { return ::open((root_ + path).c_str(), O_RDONLY | O_CLOEXEC); }));
     if (!file) return std::nullopt;
-    std::string text(mostBytesRead, '\0');
+    std::string text(maxBytesRead, '\0');
     std::size_t length = 0;
     while (length < text.size()) {  // /proc may return a file in pieces
         const ssize_t count =
