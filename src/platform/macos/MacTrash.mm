@@ -11,7 +11,7 @@
 #include "platform/posix/FolderLock.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
-#include "platform/posix/RemovalTurn.h"
+#include "platform/posix/RemovalPermit.h"
 #include "platform/posix/RemoveEntry.h"
 
 namespace zelk {
@@ -25,7 +25,7 @@ std::optional<std::vector<std::string>> MacTrash::list() {
 }
 
 Failure MacTrash::trash(const ItemPath& item) {
-    const RemovalTurn turn;
+    const RemovalPermit permit;
     if (const int error = errorOnWay(item))
         return failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error));
     @autoreleasepool {

@@ -21,7 +21,7 @@
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
 #include "platform/posix/OwnerAccess.h"
-#include "platform/posix/RemovalTurn.h"
+#include "platform/posix/RemovalPermit.h"
 
 namespace zelk {
 namespace {
@@ -203,7 +203,7 @@ Failure removeEntry(int parent, const std::string& name) {
 }
 
 Failure removeItem(const ItemPath& item) {
-    const RemovalTurn turn;
+    const RemovalPermit permit;
     const Descriptor parent = openParent(item);
     if (!parent) return failureText(item.name(), what, reasonOfParent(item, errno));
     return removeEntry(parent.get(), std::string(item.name()));
@@ -215,7 +215,7 @@ std::size_t removeEntriesOf(const Descriptor& folder) {
     if (!names) return 0;
     std::size_t removed = 0;
     for (const std::string& name : *names) {
-        const RemovalTurn turn;
+        const RemovalPermit permit;
         if (!removeEntry(folder.get(), name)) ++removed;
     }
     return removed;

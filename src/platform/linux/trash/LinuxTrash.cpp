@@ -21,7 +21,7 @@
 #include "platform/posix/MountTable.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
-#include "platform/posix/RemovalTurn.h"
+#include "platform/posix/RemovalPermit.h"
 
 namespace zelk {
 namespace {
@@ -90,7 +90,7 @@ std::optional<std::vector<std::string>> LinuxTrash::list() {
 }
 
 Failure LinuxTrash::trash(const ItemPath& item) {
-    const RemovalTurn turn;
+    const RemovalPermit permit;
     const Failure reason = move(item);
     if (!reason) return std::nullopt;
     return failureText(item.name(), "couldn’t be moved to the Trash", *reason);

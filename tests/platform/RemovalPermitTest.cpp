@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/RemovalTurn.h"
+#include "platform/posix/RemovalPermit.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -14,7 +14,7 @@
 namespace zelk {
 namespace {
 
-/// In a process with `descriptors`: what `check` says.
+/// Runs `check` in a child process that may open so many descriptors.
 template <class Check>
 bool withDescriptors(rlim_t descriptors, Check check) {
     return fakes::inChild([&] {
@@ -27,8 +27,8 @@ void letOthersRun() {
     for (int times = 0; times < 1000; ++times) std::this_thread::yield();
 }
 
-/// Whether so many turns are to be had at the same time, and no more.
-bool areExactly(int wanted) {
+/// Whether exactly so many permits are granted at the same time.
+bool grantsExactly(int wanted) {
     std::latch all(wanted);
     std::latch mayGo(1);
     std::atomic<bool> oneMore = false;
@@ -37,7 +37,7 @@ bool areExactly(int wanted) {
     std::vector<std::thread> threads;
     for (int number = 0; number < wanted; ++number) {
         threads.emplace_back([&] {
-            const RemovalTurn turn;
+            const RemovalPermit permit;
             all.arrive_and_wait();
             mayGo.wait();
             leaving = true;
@@ -46,7 +46,7 @@ bool areExactly(int wanted) {
     all.wait();
     threads.emplace_back([&] {
         oneMore = true;
-        const RemovalTurn turn;
+        const RemovalPermit permit;
         tooEarly = !leaving;
     });
     while (!oneMore) std::this_thread::yield();
@@ -56,29 +56,29 @@ bool areExactly(int wanted) {
     return !tooEarly;
 }
 
-TEST(RemovalTurn, thereIsOneForEveryThirtyTwoDescriptorsAndTwoAtLeastAndSixtyFourAtMost) {
-    EXPECT_TRUE(withDescriptors(16, [] { return areExactly(2); }));
-    EXPECT_TRUE(withDescriptors(32 * 7, [] { return areExactly(7); }));
-    EXPECT_TRUE(withDescriptors(4096, [] { return areExactly(64); }));
+TEST(RemovalPermit, grantsOnePer32DescriptorsBetween2And64) {
+    EXPECT_TRUE(withDescriptors(16, [] { return grantsExactly(2); }));
+    EXPECT_TRUE(withDescriptors(32 * 7, [] { return grantsExactly(7); }));
+    EXPECT_TRUE(withDescriptors(4096, [] { return grantsExactly(64); }));
 }
 
-// Were each to wake all that wait, the threads would fall asleep again some eighty thousand times.
-TEST(RemovalTurn, thatIsGivenBackWakesOneOfThoseThatWait) {
+// If each release woke every waiter, the threads would fall asleep again some eighty thousand times.
+TEST(RemovalPermit, releaseWakesOneWaiter) {
     constexpr int waiting = 400;
     EXPECT_TRUE(withDescriptors(64, [] {
         std::latch all(waiting + 1);
         std::vector<std::thread> threads;
         {
-            const RemovalTurn one;
+            const RemovalPermit one;
             std::thread other([&] {
-                const RemovalTurn second;
+                const RemovalPermit second;
                 all.wait();
                 letOthersRun();
             });
             for (int number = 0; number < waiting; ++number) {
                 threads.emplace_back([&] {
                     all.count_down();
-                    const RemovalTurn turn;
+                    const RemovalPermit permit;
                     letOthersRun();
                 });
             }
