@@ -11,21 +11,21 @@ namespace zelk {
 
 namespace {
 
-/// What the tasks of one cleaning share.
-class Gathering {
+/// Collects the results of one cleaning from its tasks.
+class ResultCollector {
 public:
-    Gathering(std::size_t expected, std::function<void(std::vector<Cleaner::Result>)> done,
-              std::shared_ptr<Removal> removal)
+    ResultCollector(std::size_t expected, std::function<void(std::vector<Cleaner::Result>)> done,
+                    std::shared_ptr<Removal> removal)
         : expected_(expected), done_(std::move(done)), removal_(std::move(removal)) {
         results_.reserve(expected);
     }
 
-    /// Safe from any thread. The last one tells the asker.
+    /// Called once per item, on any thread. The last call delivers the results.
     void clean(const Reclaimable& item, bool hardDelete, const Platform& platform) {
         const bool skipped = removal_ != nullptr && !removal_->mayBegin();
         add(skipped ? Cleaner::Result{item.id, item, Cleaner::Skipped{"The clean-up was stopped before its turn."}}
                     : Cleaner::cleanOne(item, hardDelete, platform));
-        // Behind the result: whoever hears that the removal has ended finds all of them told.
+        // After the result, so that every result is delivered before the removal ends.
         if (removal_ != nullptr) skipped ? removal_->noteSkipped() : removal_->noteDone();
     }
 
@@ -67,16 +67,16 @@ Cleaner::Status statusOf(ChildOutcome outcome) {
 void Cleaner::cleanAll(std::vector<Reclaimable> items, bool hardDelete, const Platform& platform,
                        std::function<void(std::vector<Result>)> done, std::shared_ptr<Removal> removal) {
     if (items.empty()) return done({});
-    // The tasks are given from a task: where the machine has no more threads, an item is cleaned on the one that gives
-    // it. So many at once must not keep the window from its turn, so each is less urgent than the person who waits for
-    // all of them. A tool may stall for good, and has a thread of its own.
+    // Another task starts the tasks: if the machine has no more threads, an item is cleaned on the thread that starts
+    // it. Thousands of tasks must not starve the window, so they are less urgent than the cleaning as a whole. A tool
+    // may stall forever, so it gets its own thread.
     auto start = [items = std::move(items), hardDelete, platform, done = std::move(done),
                   removal = std::move(removal)]() mutable {
-        const auto gathering = std::make_shared<Gathering>(items.size(), std::move(done), std::move(removal));
+        const auto collector = std::make_shared<ResultCollector>(items.size(), std::move(done), std::move(removal));
         for (Reclaimable& item : items) {
             const bool mayStall = item.method.kind == ReclaimMethod::Kind::command;
-            auto task = [gathering, item = std::move(item), hardDelete, platform] {
-                gathering->clean(item, hardDelete, platform);
+            auto task = [collector, item = std::move(item), hardDelete, platform] {
+                collector->clean(item, hardDelete, platform);
             };
             if (mayStall)
                 platform.tasks.runApart(TaskPriority::utility, std::move(task));

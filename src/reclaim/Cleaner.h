@@ -16,18 +16,19 @@
 
 namespace zelk {
 
-/// Operations without state on what can be taken away. None of them decides what may be: what it is handed has been
-/// chosen from the catalogue and confirmed. All block and are safe from any thread, where nothing else is said.
+/// Removes and measures reclaimable items. Stateless, and never decides what may be removed: the caller passes items
+/// that were chosen from the catalogue and confirmed. Unless stated otherwise, every operation blocks and may be called
+/// from any thread.
 class Cleaner {
 public:
     Cleaner() = delete;
 
-    /// The tool ended well.
+    /// The tool exited with status 0.
     struct RanCommand {
-        std::string output;  ///< what it printed, UTF-8; empty if it is none
+        std::string output;  ///< what it printed; empty if that is not UTF-8
         bool operator==(const RanCommand&) const = default;
     };
-    /// Left alone: it had not begun when a stop was asked for.
+    /// Not cleaned, because a stop was requested before it began.
     struct Skipped {
         std::string reason;
         bool operator==(const Skipped&) const = default;
@@ -36,47 +37,48 @@ public:
         std::string error;  ///< for a person to read
         bool operator==(const Failed&) const = default;
     };
-    /// In the Trash, or gone for good where that was asked for.
+    /// Moved to the Trash, or removed for good by a hard delete.
     struct Trashed {
         bool operator==(const Trashed&) const = default;
     };
     using Status = std::variant<RanCommand, Skipped, Failed, Trashed>;
 
     struct Result {
-        std::string id;  ///< the item's
+        std::string id;  ///< of the item
         Reclaimable item;
         Status status;
     };
 
-    /// Cleans all items at the same time, each in a task of its own, and comes back at once. `done` is called once,
-    /// from a background thread, with a result per item in the order in which they ended; without items at once, on the
-    /// caller's thread. The services must stay until then. With a `removal` of as many items each is noted there,
-    /// behind its result; once that is to stop, what has not begun is skipped.
+    /// Cleans all items concurrently, each in its own task, and returns at once. Calls `done` once, on a background
+    /// thread, with one result per item in order of completion; without items it does so at once on the caller's
+    /// thread. The services must outlive that call. An optional `removal` of as many items counts each one after its
+    /// result is stored; once it is stopped, items that have not begun are skipped.
     static void cleanAll(std::vector<Reclaimable> items, bool hardDelete, const Platform& platform,
                          std::function<void(std::vector<Result>)> done, std::shared_ptr<Removal> removal = nullptr);
-    /// By the item's own method. `hardDelete` removes for good what would go to the Trash; a tool runs either way.
+    /// Cleans by the item's own method. `hardDelete` removes for good what would go to the Trash; a tool runs either
+    /// way.
     static Result cleanOne(const Reclaimable& item, bool hardDelete, const Platform& platform);
-    /// The item's path is not passed on: the tool finds its own data.
+    /// Does not pass the item's path: the tool finds its own data.
     static Result runTool(const std::string& tool, const std::vector<std::string>& args, const Reclaimable& item,
                           ChildProcess& processes);
 
-    /// The name of a running application that the item's path lies in, if the item is of a category that applications
-    /// own. Main thread.
+    /// The first running application whose name is a folder of the item's path; absent if the item's category is not
+    /// app-scoped. Main thread only.
     static std::optional<std::string> runningConflict(const Reclaimable& item, Workspace& workspace);
 
-    /// The bytes that `path` allocates: a folder's with everything below it but hidden entries; a link's own, never its
-    /// target's; 0 if it cannot be looked at.
+    /// Allocated bytes of `path`. A folder includes everything below it except hidden entries, a link counts itself and
+    /// never its target, and a path that cannot be read is 0.
     static std::uint64_t allocatedSize(FileManager& files, const std::string& path);
 
-    /// The bytes that the entries of the Trash allocate. A hidden entry of the Trash counts, hidden ones inside a
-    /// trashed folder do not. Absent if the Trash may not be looked into.
+    /// Allocated bytes of all entries of the Trash. Hidden entries at its top level count, those inside a trashed
+    /// folder do not. Absent if the Trash cannot be read.
     static std::optional<std::uint64_t> measureTrash(FileManager& files, Trash& trash);
-    /// Removes for good what the Trash holds, after any other emptying that is under way; the number of entries
+    /// Removes for good what the Trash holds, after any emptying that is already running. Returns the number of entries
     /// removed, which may be fewer than there were.
     static std::size_t emptyTrashContents(Trash& trash);
-    /// The same in a task, for all who have a button for it, and comes back at once. `done` is called on the task's
-    /// thread. The services must stay until then. With a `removal` of one item it is noted there, and not begun once
-    /// that is to stop.
+    /// Empties the Trash in a task, returns at once, and calls `done` on the task's thread. The services must outlive
+    /// that call. An optional `removal` of one item counts it; once that is stopped, an emptying that has not begun is
+    /// skipped.
     static void emptyTrash(const Platform& platform, std::function<void()> done,
                            std::shared_ptr<Removal> removal = nullptr);
 };

@@ -20,7 +20,7 @@ std::vector<Reclaimable> ageFiltered(const std::vector<Reclaimable>& items, std:
 
 std::vector<CleanupGroup> cleanupGroups(std::vector<Reclaimable> items) {
     std::vector<CleanupGroup> groups;
-    std::vector<std::vector<std::size_t>> members;  // of each group, as places: an item itself moves once
+    std::vector<std::vector<std::size_t>> members;  // indices of each group's items: an item is moved once
     std::unordered_map<std::string_view, std::size_t> places;
     for (std::size_t at = 0; at < items.size(); ++at) {
         const auto row = reclaimCategoryByID().find(items[at].categoryID);

@@ -10,7 +10,7 @@ namespace zelk {
 
 namespace {
 
-/// A row of a table. An empty title stands for the name of what is explained.
+/// A row of a table. An empty title stands for the last component of the path.
 struct Note {
     std::string_view key;
     std::string_view title;
@@ -31,7 +31,7 @@ constexpr std::string_view cloud =
     "Files synced with iCloud Drive. Removing local copies frees space; they stay in the cloud and re-download on "
     "demand.";
 
-// By the name itself.
+// Matched against the name.
 constexpr std::array names{
     Note{"node_modules", "",
          "Installed JavaScript packages for a project. Safe to delete — reinstall with npm/pnpm/yarn install when you "
@@ -59,7 +59,7 @@ constexpr std::array names{
          review, false},
 };
 
-// By what the lower-cased path contains.
+// Matched as a part of the lower-cased path.
 constexpr std::array places{
     Note{"/library/caches/", "App cache",
          "Temporary files an app keeps to load faster. Safe to clear — the app rebuilds what it needs.", safe, true},
@@ -95,7 +95,7 @@ constexpr std::array<std::string_view, 9> diskImageExtensions{"dmg",   "iso",  "
                                                               "qcow2", "vmdk", "vdi",         "raw"};
 constexpr std::array<std::string_view, 8> archiveExtensions{"zip", "tar", "gz", "tgz", "7z", "rar", "pkg", "xip"};
 
-// By what follows the home folder.
+// Matched against the path below the home folder.
 constexpr std::array homeFolders{
     Note{"/Downloads", "", "Files you've downloaded. Often safe to clean out, but check for anything you want to keep.",
          review, false},
@@ -121,7 +121,7 @@ std::string lowerCased(std::string_view text) {
     return lower;
 }
 
-/// The slashes at the end of a path are no part of its last component.
+/// Drops trailing slashes, which are not part of the last component.
 std::string_view lastComponent(std::string_view path) {
     const std::size_t end = path.find_last_not_of('/');
     if (end == std::string_view::npos) return path.empty() ? path : path.substr(0, 1);
@@ -130,7 +130,7 @@ std::string_view lastComponent(std::string_view path) {
     return slash == std::string_view::npos ? path : path.substr(slash + 1);
 }
 
-/// Lower-cased, without its dot; a dot in first place begins no extension.
+/// Lower-cased and without its dot. A leading dot does not begin an extension.
 std::string extensionOf(std::string_view name) {
     const std::size_t dot = name.rfind('.');
     if (dot == std::string_view::npos || dot == 0) return {};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the program knows about places on a disk, from their paths alone: no file is touched.
+// Explains what a path on a disk is, from its text alone. Nothing here touches the disk.
 #pragma once
 
 #include <string>
@@ -10,19 +10,19 @@
 namespace zelk {
 
 struct PathExplanation {
-    std::string title;  ///< a headline, or the bytes of the path's last component
+    std::string title;  ///< a headline, or the last component of the path as bytes
     std::string_view detail;
     ReclaimSafety safety = ReclaimSafety::review;
-    bool regenerates = false;  ///< said beside the grade, whatever that is
+    bool regenerates = false;  ///< shown beside the grade, independently of it
 
     bool operator==(const PathExplanation&) const = default;
 };
 
-/// A note for a person who wonders what lies at `path` (bytes). Names count before places, places before extensions,
-/// and the folders of `home` come last. Letters other than A to Z have no other case.
+/// Explains `path` (bytes). Matches the name first, then the location, then the extension, then the folders of `home`.
+/// Lower-cases A to Z only.
 PathExplanation explain(std::string_view path, std::string_view home);
 
-/// How a disk image shrinks.
+/// How to shrink a disk image.
 std::string_view diskImageAdvice(std::string_view path);
 
 }  // namespace zelk

@@ -11,7 +11,7 @@ namespace {
 
 using enum ReclaimSafety;
 
-// stopRecursion is true throughout: what lies inside something reclaimable goes with it and is no item of its own.
+// stopRecursion is true in every row: what lies inside an item is removed with it and is not an item of its own.
 constexpr std::array<ReclaimCategory, 22> catalogue{{
     {"node_modules", "node_modules", regenerates, "Rebuilds via npm/pnpm install.", true, false},
     {"derived_data", "Xcode DerivedData", safe, "Xcode rebuilds these on next build.", true, false},

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The closed table of everything that Zelk is willing to call reclaimable, and the values that go with it.
+// The closed table of everything that Zelk calls reclaimable, and the values that go with it.
 #pragma once
 
 #include <array>
@@ -64,8 +64,8 @@ struct Reclaimable {
     std::string categoryID;
     ReclaimSafety safety = ReclaimSafety::review;
     ReclaimMethod method;
-    TimePoint lastModified = 0;  ///< the date its age counts from, not always its own
-    std::size_t rootLength = 0;  ///< of the scan root at the front of `path`; 0 if it is not known
+    TimePoint lastModified = 0;  ///< the date from which its age counts, which may be that of its parent
+    std::size_t rootLength = 0;  ///< length of the scan root at the front of `path`; 0 if unknown
 
     bool operator==(const Reclaimable& other) const { return id == other.id; }
 };
@@ -75,7 +75,7 @@ std::span<const ReclaimCategory> reclaimCatalogue();
 
 using CategoryIndex = std::unordered_map<std::string_view, const ReclaimCategory*>;
 
-/// Ends the process on a repeated id: a table that contradicts itself must never decide what is removed.
+/// Aborts on a duplicate id: a contradictory table must never decide what is removed.
 CategoryIndex indexByID(std::span<const ReclaimCategory> rows);
 
 /// The catalogue by id; built on first use.

@@ -16,7 +16,7 @@ namespace zelk {
 
 namespace {
 
-/// A folder known by where it lies below the home folder, or below another that a table stands for. Its age is its own.
+/// Matches a folder by its path below the home folder, or below another base folder. Uses the folder's own date.
 struct PathRule {
     std::string_view below;
     std::string_view categoryID;
@@ -41,7 +41,7 @@ constexpr std::array pathRules{
     PathRule{"/Library/Caches/com.apple.Photos", "photos_cache"},
 };
 
-// Where Linux keeps the same, for the rows that have a place there.
+// The Linux locations of the categories that have one.
 constexpr std::array linuxPathRules{
     PathRule{"/Android/Sdk/system-images", "android_system_images"},
     PathRule{"/.cache/yarn", "yarn_cache"},
@@ -51,11 +51,11 @@ constexpr std::array xdgDataPathRules{
     PathRule{"/pnpm/store", "pnpm_store"},
 };
 
-/// Whose date tells how long something has lain unused. Every tool run rewrites a build folder, so the age of what a
-/// project holds is that of the folder around it.
+/// Which folder's date tells how long an item was unused. Every build rewrites a build folder, so the item of a project
+/// takes the date of the folder around it.
 enum class Age : std::uint8_t { own, project };
 
-/// What must hold besides the name.
+/// A condition besides the name.
 enum class Condition : std::uint8_t {
     none,
     cargoManifestBeside,
@@ -64,7 +64,7 @@ enum class Condition : std::uint8_t {
     directlyInServiceWorkerOfApplicationSupport,
 };
 
-/// A folder known by its name, anywhere. No name stands in two rules, so a condition that fails ends the chain.
+/// Matches a folder by its name, anywhere. No two rules share a name, so a failed condition ends the chain.
 struct NameRule {
     std::string_view name;
     std::string_view categoryID;
@@ -100,8 +100,8 @@ ReclaimMethod methodOf(std::string_view categoryID) {
     return ReclaimMethod::trash();
 }
 
-/// `home` without slashes at its end, so that a path rule follows it directly. "/" stays: it is the home of a user
-/// without one, whose "/Library" is the system's.
+/// `home` without trailing slashes, so that a path rule can follow it directly. Keeps "/", the home of a user without
+/// one: "/Library" is the system's and must not match.
 std::string_view trimmed(std::string_view home) {
     while (home.size() > 1 && home.ends_with('/')) home.remove_suffix(1);
     return home;
@@ -129,7 +129,7 @@ const NameRule* nameRuleFor(std::string_view name) {
     return rule == nameRules.end() ? nullptr : &*rule;
 }
 
-/// Whether the path lies where applications keep what is theirs: the conditions' "ApplicationSupport".
+/// Whether the path is inside a folder where applications keep their data: what the conditions call ApplicationSupport.
 bool isInsideApplicationData(WalkedPath& path, const ReclaimPlaces& known) {
     return path.isInsideApplicationSupport() || (known.xdgDataHome && path.isInsideConfigOrCache());
 }
@@ -154,7 +154,7 @@ ReclaimClassifier::Match match(std::string_view categoryID, TimePoint ageDate) {
     return {reclaimCategoryByID().at(categoryID), methodOf(categoryID), ageDate};
 }
 
-/// The chain. `path` stands at `node` and does so afterwards.
+/// The chain of tests. `path` is at `node`, before and after.
 std::optional<ReclaimClassifier::Match> classifyAt(const FSNode& node, WalkedPath& path, std::string_view home,
                                                    FileManager& files, const ReclaimPlaces& known) {
     if (const PathRule* rule = pathRuleFor(path.text(), home, known)) return match(rule->categoryID, node.lastModified);
@@ -185,11 +185,11 @@ void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vecto
     const std::string_view homePath = trimmed(home);
     WalkedPath path(top);
     std::size_t rootLength = 0;
-    // True if the walk is to go on into the node.
+    // True if the walk descends into the node.
     const auto visit = [&](FSNode& node) {
         const bool isRoot = !node.parent() || node.parent()->name().empty();
         if (isRoot) rootLength = path.text().size();
-        // Only where the walk begins can there be a Trash further up.
+        // Only where the walk begins can a Trash be among the ancestors.
         const bool begins = isRoot || &node == &top;
         if (begins ? places_.trash.hold(path.text()) : places_.trash.areAt(path.text())) return false;
         std::optional<Match> found = classifyAt(node, path, homePath, files_, places_);
@@ -201,7 +201,7 @@ void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vecto
         return !found->category->stopRecursion;
     };
 
-    // A list of its own stands for the stack: how deep folders go is decided by strangers.
+    // An explicit stack instead of recursion: the depth of folders is not ours to decide.
     std::vector<Standing> above;
     if (visit(top)) above.push_back({&top, 0, path.text().size()});
     while (!above.empty()) {

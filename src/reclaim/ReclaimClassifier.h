@@ -15,20 +15,19 @@ namespace zelk {
 class FileManager;
 class Locations;
 
-/// What of the machine decides where things lie that can be had again.
+/// The places of this machine that decide what is an item.
 struct ReclaimPlaces {
-    /// With one, the places that Linux has for what macOS keeps elsewhere are known beside macOS's own. Bytes, without
-    /// a slash at its end.
+    /// If present, the Linux locations are known in addition to those of macOS. Bytes, without a trailing slash.
     std::optional<std::string> xdgDataHome;
-    /// What lies in it is no item, and is not marked.
+    /// Nothing inside is an item, and nothing inside is marked.
     TrashPlaces trash;
 
     static ReclaimPlaces of(Locations& locations);
 };
 
-/// Turns a finished tree into the list of what can be reclaimed: one ordered chain of tests on a node and the home
-/// path, the first hit wins. No minimum size and no age limit: those belong to the review. Of the live file system it
-/// asks one thing, whether a Cargo.toml stands beside a folder called "target". Usable from any thread.
+/// Turns a finished tree into the list of reclaimable items. An ordered chain of tests looks at each node and the home
+/// path; the first match wins. There is no minimum size and no age limit: those belong to the review. The only question
+/// to the live file system is whether there is a Cargo.toml beside a folder called "target". Usable from any thread.
 class ReclaimClassifier {
 public:
     struct Match {
@@ -37,7 +36,7 @@ public:
         TimePoint ageDate = 0;  ///< the date from which the item's age counts
     };
 
-    /// Without `known` the places of macOS, and nothing is known as thrown away.
+    /// The default knows the locations of macOS and no Trash.
     explicit ReclaimClassifier(FileManager& files, ReclaimPlaces known = {})
         : files_(files), places_(std::move(known)) {}
 

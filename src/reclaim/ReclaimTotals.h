@@ -11,10 +11,10 @@ namespace zelk {
 
 using ReclaimTotals = std::vector<std::pair<const ReclaimCategory*, std::int64_t>>;
 
-/// Bytes of all items.
+/// The sum of the sizes of all items.
 std::int64_t totalSize(const std::vector<Reclaimable>& items);
 
-/// Bytes per category that has items, largest first. Items of a category that is not in the catalogue are left out.
+/// Bytes of each category that has items, largest first. Leaves out categories that are not in the catalogue.
 ReclaimTotals totalsByCategory(const std::vector<Reclaimable>& items);
 
 }  // namespace zelk

@@ -7,24 +7,24 @@
 
 namespace zelk {
 
-/// One removal under way, as those who carry it out see it: how many items it has, how many of them were tried, and
-/// whether another may begin. Safe from any thread.
+/// One running removal, as seen by the tasks that carry it out: the number of its items, how many of them were tried,
+/// and whether another may begin. Safe from any thread.
 class Removal {
 public:
-    /// `ended` is called once, on the thread that noted the last item; never if there is none.
+    /// Calls `ended` once, on the thread that counts the last item; never if there are no items.
     Removal(std::size_t items, std::function<void(const Removal&)> ended);
 
     std::size_t items() const { return items_; }
-    /// How many were tried, well or not.
+    /// How many items were tried, whether they succeeded or failed.
     std::size_t done() const { return done_; }
-    /// Asked before each item: false from the first stop() on. What has begun goes on to its end.
+    /// To be checked before each item: false after stop(). An item that has begun is finished.
     bool mayBegin() const { return !stopped_; }
     void stop() { stopped_ = true; }
 
-    // Once for each item, when nothing more is done to it.
+    // One of these is called once per item, when nothing more is done to it.
 
     void noteDone();
-    /// It was left alone.
+    /// The item was not tried.
     void noteSkipped();
 
 private:

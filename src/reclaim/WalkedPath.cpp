@@ -36,7 +36,7 @@ void WalkedPath::leaveTo(std::size_t length) {
 }
 
 bool WalkedPath::hasBeside(std::string_view sibling, std::string_view name, FileManager& files) {
-    if (parentLength_ == 0) return false;  // above a scan root there is no folder to look into
+    if (parentLength_ == 0) return false;  // a scan root has no parent node
     cutTo(parentLength_);
     append(sibling);
     const bool found = files.exists(text_);

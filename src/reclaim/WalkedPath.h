@@ -12,15 +12,15 @@ namespace zelk {
 
 class FileManager;
 
-/// Whether a text that grows and shrinks at its end contains another one. Each byte is looked at once between being
-/// put there and being taken away, so that a chain of folders called "Cache" costs no more than its length.
+/// Tracks whether a text that grows and shrinks at its end contains `wanted`. Searches each byte once between its being
+/// appended and cut off, so that a deep chain of folders named "Cache" costs no more than its length.
 class ContainedText {
 public:
-    /// `wanted` is not empty and outlives this.
+    /// `wanted` must not be empty and must outlive this object.
     explicit ContainedText(std::string_view wanted) : wanted_(wanted) {}
 
     bool isIn(std::string_view text);
-    /// The text has been cut to `length`. To be called on every cut.
+    /// Must be called whenever the text has been cut, with its new length.
     void cutTo(std::size_t length);
 
 private:
@@ -29,24 +29,24 @@ private:
     std::optional<std::size_t> foundEnd_;  ///< where the first occurrence ends
 };
 
-/// The path of the node at hand, in one buffer that follows a walk: a hundred thousand paths are not built anew each.
-/// It always equals the node's fullPath(). Not thread-safe.
+/// The path of the current node of a walk, in one buffer that is reused for a hundred thousand nodes. Always equals the
+/// node's fullPath(). Not thread-safe.
 class WalkedPath {
 public:
     explicit WalkedPath(const FSNode& node);
 
     const std::string& text() const { return text_; }
 
-    /// Goes down to a child of the node at hand.
+    /// Descends to a child of the current node.
     void enter(std::string_view name);
-    /// Back to the ancestor whose path has this length. It may then be entered anew, and asked nothing but its text.
+    /// Returns to the ancestor whose path has this length. Only text() and enter() may be called after that.
     void leaveTo(std::size_t length);
 
     bool isInsideApplicationSupport() { return applicationSupport_.isIn(text_); }
-    /// In a folder called ".config" or ".cache", where applications on Linux keep what is theirs.
+    /// Inside ".config" or ".cache", where applications on Linux keep their data.
     bool isInsideConfigOrCache() { return config_.isIn(text_) || cache_.isIn(text_); }
     bool isInsideUser() { return user_.isIn(text_); }
-    /// Whether something called `sibling` stands beside the node on disk. `name` is the node's own.
+    /// Whether the node's parent folder contains `sibling` on disk. `name` is the node's own.
     bool hasBeside(std::string_view sibling, std::string_view name, FileManager& files);
 
 private:

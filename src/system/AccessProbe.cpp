@@ -10,15 +10,15 @@ namespace zelk {
 
 namespace {
 
-/// The system's own record of who may what.
-constexpr const char* recordBelow = "/Library/Application Support/com.apple.TCC/TCC.db";
+/// The system's database of granted permissions, for all users and for each user.
+constexpr const char* databaseBelow = "/Library/Application Support/com.apple.TCC/TCC.db";
 constexpr const char* mailBelow = "/Library/Mail";
 
-/// What trying to open the record below `folder` says; absent if it says nothing.
-std::optional<bool> answerOfRecord(FileManager& files, const std::string& folder) {
-    const std::string record = folder + recordBelow;
-    if (!files.exists(record)) return std::nullopt;
-    const int error = files.tryOpen(record);
+/// Whether the database below `folder` can be opened; absent if it is missing or fails for another reason.
+std::optional<bool> answerOfDatabase(FileManager& files, const std::string& folder) {
+    const std::string database = folder + databaseBelow;
+    if (!files.exists(database)) return std::nullopt;
+    const int error = files.tryOpen(database);
     if (error == 0) return true;
     if (error == EACCES || error == EPERM) return false;
     return std::nullopt;
@@ -28,8 +28,8 @@ std::optional<bool> answerOfRecord(FileManager& files, const std::string& folder
 
 bool hasFullDiskAccess(FileManager& files, const std::string& home) {
     const std::string above = home == "/" ? "" : home;
-    if (const auto answer = answerOfRecord(files, above)) return *answer;
-    if (const auto answer = answerOfRecord(files, "")) return *answer;
+    if (const auto answer = answerOfDatabase(files, above)) return *answer;
+    if (const auto answer = answerOfDatabase(files, "")) return *answer;
     return !files.exists(above + mailBelow) || files.list(above + mailBelow).has_value();
 }
 

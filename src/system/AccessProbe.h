@@ -7,9 +7,9 @@ namespace zelk {
 
 class FileManager;
 
-/// Whether this process may read what the system protects. There is nobody to ask, so it tries what only a process with
-/// the grant may open. Where nothing of it exists, as on Linux, there is nothing to be granted: true. A few calls of
-/// the file system, which block. `home` without a slash at its end, but "/" for a user without one.
+/// Whether this process may read what the system protects. The system offers no query, so this tries to open files that
+/// require the permission. Where none of them exists, as on Linux, nothing is protected and the answer is true. Makes a
+/// few blocking file system calls. `home` has no trailing slash, except for "/", the home of a user without one.
 bool hasFullDiskAccess(FileManager& files, const std::string& home);
 
 }  // namespace zelk

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the Cleaner takes away, on a machine in memory.
+// Removing items with the Cleaner, on a machine in memory.
 #include <gmock/gmock.h>
 
 #include "fakes/FakePlatform.h"
@@ -44,7 +44,7 @@ protected:
         return result.status;
     }
 
-    /// With tasks that run where they are started this comes back when all has ended.
+    /// The fake runs tasks immediately, so every item is cleaned when this returns.
     Results cleanAll(std::vector<Reclaimable> items, bool hardDelete = false) {
         Results all;
         int times = 0;
@@ -63,21 +63,21 @@ protected:
 
 // One item.
 
-TEST_F(CleanerRemoval, anItemGoesToTheTrash) {
+TEST_F(CleanerRemoval, movesItemToTrash) {
     machine.files.addFile("/home/me/cache/a");
     EXPECT_EQ(clean(toTrash("/home/me/cache")), Cleaner::Status(Cleaner::Trashed{}));
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/cache"));
     EXPECT_THAT(removed(), IsEmpty());
 }
 
-TEST_F(CleanerRemoval, aHardDeleteRemovesForGoodAndSaysTheSame) {
+TEST_F(CleanerRemoval, hardDeleteRemovesAndReportsTrashed) {
     machine.files.addFile("/home/me/cache/a");
     EXPECT_EQ(clean(toTrash("/home/me/cache"), true), Cleaner::Status(Cleaner::Trashed{}));
     EXPECT_THAT(removed(), ElementsAre("/home/me/cache"));
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
 }
 
-TEST_F(CleanerRemoval, theTextOfAFailureIsTheSystemsOwn) {
+TEST_F(CleanerRemoval, failureKeepsSystemErrorText) {
     machine.files.addFile("/home/me/cache/a");
     machine.files.failing = [](const auto& call) { return call.operation == "trash" || call.operation == "remove"; };
     EXPECT_EQ(clean(toTrash("/home/me/cache")),
@@ -85,12 +85,12 @@ TEST_F(CleanerRemoval, theTextOfAFailureIsTheSystemsOwn) {
     EXPECT_EQ(clean(toTrash("/home/me/cache"), true), Cleaner::Status(Cleaner::Failed{"/home/me/cache would not go"}));
 }
 
-TEST_F(CleanerRemoval, whatIsNoLongerThereFailsLikeAnyOther) {
+TEST_F(CleanerRemoval, missingItemFails) {
     EXPECT_EQ(clean(toTrash("/home/me/gone")), Cleaner::Status(Cleaner::Failed{"/home/me/gone does not exist"}));
     EXPECT_EQ(clean(toTrash("/home/me/gone"), true), Cleaner::Status(Cleaner::Failed{"/home/me/gone does not exist"}));
 }
 
-TEST_F(CleanerRemoval, aPathThatNothingMayHaveFailsAndTouchesNothing) {
+TEST_F(CleanerRemoval, invalidPathFailsWithoutTouchingAnything) {
     for (const std::string path : {"", "/", "relative", "/home/me/../you", "/home/./me"}) {
         for (const bool hardDelete : {false, true}) {
             const Cleaner::Status status = clean(toTrash(path), hardDelete);
@@ -104,41 +104,41 @@ TEST_F(CleanerRemoval, aPathThatNothingMayHaveFailsAndTouchesNothing) {
 
 // Tools.
 
-TEST_F(CleanerRemoval, aToolRunsWithItsArgumentsAndWithoutTheItemsPath) {
+TEST_F(CleanerRemoval, runsToolWithItsArgumentsButNotTheItemPath) {
     EXPECT_EQ(clean(byTool("/home/me/project/target")), Cleaner::Status(Cleaner::RanCommand{""}));
     EXPECT_THAT(machine.processes.calls(), ElementsAre(fakes::FakeProcesses::Call{"/usr/bin/env", {"cargo", "clean"}}));
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
 }
 
-TEST_F(CleanerRemoval, aToolThatSaysNothingGivesAnEmptyOutput) {
+TEST_F(CleanerRemoval, silentToolGivesEmptyOutput) {
     EXPECT_EQ(clean(byTool("/target")), Cleaner::Status(Cleaner::RanCommand{""}));
 }
 
-TEST_F(CleanerRemoval, whatAToolSaysIsItsOutput) {
+TEST_F(CleanerRemoval, keepsToolOutput) {
     machine.processes.outcome = [](const auto&) { return ChildOutcome{std::nullopt, 0, "Removed 3 files\n"}; };
     EXPECT_EQ(clean(byTool("/target")), Cleaner::Status(Cleaner::RanCommand{"Removed 3 files\n"}));
 }
 
-TEST_F(CleanerRemoval, aHardDeleteStillRunsTheTool) {
+TEST_F(CleanerRemoval, hardDeleteStillRunsTool) {
     machine.files.addFile("/target/a");
     EXPECT_EQ(clean(byTool("/target"), true), Cleaner::Status(Cleaner::RanCommand{""}));
     EXPECT_EQ(machine.processes.calls().size(), 1U);
     EXPECT_THAT(removed(), IsEmpty());
 }
 
-TEST_F(CleanerRemoval, aToolThatEndsBadlyFailsWithItsStatusAndWhatItSaid) {
+TEST_F(CleanerRemoval, failingToolReportsStatusAndOutput) {
     machine.processes.outcome = [](const auto&) {
         return ChildOutcome{std::nullopt, 101, "error: could not find Cargo.toml"};
     };
     EXPECT_EQ(clean(byTool("/target")), Cleaner::Status(Cleaner::Failed{"exit 101: error: could not find Cargo.toml"}));
 }
 
-TEST_F(CleanerRemoval, aToolThatEndsBadlyAndSilentlyFailsWithItsStatus) {
+TEST_F(CleanerRemoval, silentFailingToolReportsStatus) {
     machine.processes.outcome = [](const auto&) { return ChildOutcome{std::nullopt, 2, ""}; };
     EXPECT_EQ(clean(byTool("/target")), Cleaner::Status(Cleaner::Failed{"exit 2: "}));
 }
 
-TEST_F(CleanerRemoval, outputThatIsNoTextIsEmpty) {
+TEST_F(CleanerRemoval, nonUtf8OutputIsEmpty) {
     int status = 0;
     machine.processes.outcome = [&](const auto&) { return ChildOutcome{std::nullopt, status, "caf\xe9"}; };
     EXPECT_EQ(clean(byTool("/target")), Cleaner::Status(Cleaner::RanCommand{""}));
@@ -146,21 +146,21 @@ TEST_F(CleanerRemoval, outputThatIsNoTextIsEmpty) {
     EXPECT_EQ(clean(byTool("/target")), Cleaner::Status(Cleaner::Failed{"exit 1: "}));
 }
 
-TEST_F(CleanerRemoval, aToolThatCannotBeLaunchedFailsWithTheSystemsText) {
+TEST_F(CleanerRemoval, unlaunchableToolReportsSystemErrorText) {
     machine.processes.outcome = [](const auto&) { return ChildOutcome{"No such file or directory", 0, ""}; };
     EXPECT_EQ(clean(byTool("/target")), Cleaner::Status(Cleaner::Failed{"No such file or directory"}));
 }
 
 // Many items.
 
-TEST_F(CleanerRemoval, noItemsGiveNoResultsAtOnce) {
+TEST_F(CleanerRemoval, emptyListFinishesImmediately) {
     machine.tasks.hold();
     EXPECT_THAT(cleanAll({}), IsEmpty());
     EXPECT_THAT(machine.tasks.waiting(), IsEmpty());
     machine.tasks.release();
 }
 
-TEST_F(CleanerRemoval, everyItemGivesOneResult) {
+TEST_F(CleanerRemoval, givesOneResultPerItem) {
     machine.files.addFile("/a/file");
     machine.files.addFile("/c/file");
     const Results results = cleanAll({toTrash("/a"), byTool("/b"), toTrash("/c"), toTrash("")});
@@ -168,7 +168,7 @@ TEST_F(CleanerRemoval, everyItemGivesOneResult) {
     EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre("/a", "/c"));
 }
 
-TEST_F(CleanerRemoval, theCallDoesNotWaitForAnyOfThem) {
+TEST_F(CleanerRemoval, returnsBeforeAnyItemIsCleaned) {
     machine.files.addFile("/a/file");
     machine.tasks.hold();
     Results all;
@@ -180,7 +180,7 @@ TEST_F(CleanerRemoval, theCallDoesNotWaitForAnyOfThem) {
     EXPECT_THAT(ids(all), ElementsAre("/a"));
 }
 
-TEST_F(CleanerRemoval, everyItemIsATaskOfItsOwn) {
+TEST_F(CleanerRemoval, cleansEachItemInItsOwnTask) {
     machine.tasks.hold();
     bool ended = false;
     Cleaner::cleanAll({toTrash("/a"), toTrash("/b"), toTrash("/c")}, false, machine.platform(),
@@ -195,7 +195,7 @@ TEST_F(CleanerRemoval, everyItemIsATaskOfItsOwn) {
     machine.tasks.release();
 }
 
-TEST_F(CleanerRemoval, resultsComeInTheOrderInWhichTheItemsEnded) {
+TEST_F(CleanerRemoval, ordersResultsByCompletion) {
     machine.files.addFile("/a/file");
     machine.files.addFile("/c/file");
     machine.tasks.hold();
@@ -210,7 +210,7 @@ TEST_F(CleanerRemoval, resultsComeInTheOrderInWhichTheItemsEnded) {
     machine.tasks.release();
 }
 
-TEST_F(CleanerRemoval, oneThatFailsLeavesTheOthersDone) {
+TEST_F(CleanerRemoval, oneFailureDoesNotStopOthers) {
     for (const char* file : {"/a/file", "/b/file", "/c/file"}) machine.files.addFile(file);
     machine.files.failing = [](const auto& call) { return call.operation == "trash" && call.path == "/b"; };
     const Results results = cleanAll({toTrash("/a"), toTrash("/b"), toTrash("/c")});
@@ -220,7 +220,7 @@ TEST_F(CleanerRemoval, oneThatFailsLeavesTheOthersDone) {
     EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre("/a", "/c"));
 }
 
-TEST_F(CleanerRemoval, anItemGivenTwiceGivesTwoResults) {
+TEST_F(CleanerRemoval, duplicateItemGivesTwoResults) {
     machine.files.addFile("/a/file");
     const Results results = cleanAll({toTrash("/a"), toTrash("/a")});
     ASSERT_EQ(results.size(), 2U);
@@ -239,36 +239,36 @@ protected:
     fakes::FakeWorkspace workspace;
 };
 
-TEST_F(CleanerConflict, isTheRunningApplicationWhoseNameThePathHolds) {
+TEST_F(CleanerConflict, findsRunningApplicationNamedInPath) {
     workspace.running = {"Finder", "Cursor"};
     EXPECT_EQ(conflict(cache), "Cursor");
 }
 
-TEST_F(CleanerConflict, isNoneWhereNoneOfThePathRuns) {
+TEST_F(CleanerConflict, ignoresApplicationsThatAreNotInPath) {
     workspace.running = {"Finder", "Curso", "ursor", "cursor", "Cursor2"};
     EXPECT_EQ(conflict(cache), std::nullopt);
     workspace.running = {};
     EXPECT_EQ(conflict(cache), std::nullopt);
 }
 
-TEST_F(CleanerConflict, isNoneForTheLastComponent) {
+TEST_F(CleanerConflict, ignoresLastPathComponent) {
     workspace.running = {"Cache"};
     EXPECT_EQ(conflict(cache), std::nullopt);
 }
 
-TEST_F(CleanerConflict, ofSeveralIsTheFirstInTheSystemsOrder) {
+TEST_F(CleanerConflict, takesFirstMatchInSystemOrder) {
     workspace.running = {"Library", "Cursor"};
     EXPECT_EQ(conflict(cache), "Library");
     workspace.running = {"Cursor", "Library"};
     EXPECT_EQ(conflict(cache), "Cursor");
 }
 
-TEST_F(CleanerConflict, anEmptyNameNeverMatches) {
+TEST_F(CleanerConflict, emptyNameNeverMatches) {
     workspace.running = {""};
     EXPECT_EQ(conflict("/Users/me//Application Support/Cursor/Cache"), std::nullopt);
 }
 
-TEST_F(CleanerConflict, categoriesThatNoApplicationOwnsHaveNoneAndAskNobody) {
+TEST_F(CleanerConflict, skipsCategoriesThatAreNotAppScoped) {
     workspace.running = {"Cursor"};
     for (const ReclaimCategory& category : reclaimCatalogue()) {
         const bool appScoped = category.appScoped;
@@ -278,7 +278,7 @@ TEST_F(CleanerConflict, categoriesThatNoApplicationOwnsHaveNoneAndAskNobody) {
     }
 }
 
-TEST_F(CleanerConflict, aCategoryThatIsNotInTheCatalogueHasNoneAndAsksNobody) {
+TEST_F(CleanerConflict, skipsUnknownCategories) {
     workspace.running = {"Cursor"};
     EXPECT_EQ(conflict(cache, "no_such_category"), std::nullopt);
     EXPECT_EQ(workspace.runningReads, 0);
@@ -286,7 +286,7 @@ TEST_F(CleanerConflict, aCategoryThatIsNotInTheCatalogueHasNoneAndAsksNobody) {
 
 // The Trash.
 
-TEST_F(CleanerRemoval, emptyingTheTrashGivesTheNumberThatWent) {
+TEST_F(CleanerRemoval, emptyingTrashReturnsNumberRemoved) {
     machine.trash.put("a", 1);
     machine.trash.put(".hidden", 1);
     machine.trash.put("folder/b", 1);
@@ -294,14 +294,14 @@ TEST_F(CleanerRemoval, emptyingTheTrashGivesTheNumberThatWent) {
     EXPECT_THAT(*machine.trash.list(), IsEmpty());
 }
 
-TEST_F(CleanerRemoval, whatCannotBeRemovedFromTheTrashStaysAndTheNextGoesOn) {
+TEST_F(CleanerRemoval, emptyingTrashContinuesAfterFailure) {
     for (const char* name : {"a", "b", "c"}) machine.trash.put(name, 1);
     machine.files.failing = [](const auto& call) { return call.operation == "remove" && call.path.ends_with("/b"); };
     EXPECT_EQ(Cleaner::emptyTrashContents(machine.trash), 2U);
     EXPECT_THAT(*machine.trash.list(), ElementsAre(machine.trash.path + "/b"));
 }
 
-TEST_F(CleanerRemoval, aTrashThatMayNotBeLookedIntoIsNotEmptied) {
+TEST_F(CleanerRemoval, doesNotEmptyInaccessibleTrash) {
     machine.trash.put("a", 1);
     machine.trash.setAccessible(false);
     EXPECT_EQ(Cleaner::emptyTrashContents(machine.trash), 0U);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A clean-up that is asked to stop in the middle.
+// Stopping a clean-up that is running.
 #include <gmock/gmock.h>
 
 #include "fakes/FakePlatform.h"
@@ -41,21 +41,21 @@ protected:
 
 }  // namespace
 
-TEST_F(CleanerStop, everyItemIsNotedAndTheEndIsBehindTheResults) {
+TEST_F(CleanerStop, countsEveryItemAndEndsAfterResults) {
     begin(3);
     EXPECT_EQ(removal->done(), 3U);
     EXPECT_EQ(skipped(), 0U);
     EXPECT_EQ(events, (std::vector<std::string>{"results", "ended"}));
 }
 
-TEST_F(CleanerStop, anItemThatFailsIsNotedToo) {
+TEST_F(CleanerStop, countsFailedItems) {
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     begin(2);
     EXPECT_EQ(removal->done(), 2U);
     EXPECT_EQ(events.size(), 2U);
 }
 
-TEST_F(CleanerStop, whatHasNotBegunIsSkippedWithAReason) {
+TEST_F(CleanerStop, skipsPendingItemsWithReason) {
     machine.tasks.hold();
     begin(3);
     machine.tasks.runNext();  // starts the others
@@ -75,7 +75,7 @@ TEST_F(CleanerStop, whatHasNotBegunIsSkippedWithAReason) {
     EXPECT_EQ(events, (std::vector<std::string>{"results", "ended"}));
 }
 
-TEST_F(CleanerStop, thousandsThatWaitTheirTurnAreSkipped) {
+TEST_F(CleanerStop, skipsThousandsOfPendingItems) {
     constexpr std::size_t many = 4'000;
     machine.tasks.hold();
     begin(many);
@@ -87,7 +87,7 @@ TEST_F(CleanerStop, thousandsThatWaitTheirTurnAreSkipped) {
     EXPECT_EQ(skipped(), many - 10);
 }
 
-TEST_F(CleanerStop, aStopBeforeTheFirstSkipsAll) {
+TEST_F(CleanerStop, stopBeforeFirstItemSkipsAll) {
     machine.tasks.hold();
     begin(3);
     removal->stop();
@@ -96,7 +96,7 @@ TEST_F(CleanerStop, aStopBeforeTheFirstSkipsAll) {
     EXPECT_EQ(skipped(), 3U);
 }
 
-TEST_F(CleanerStop, whatHasBegunGoesToItsEnd) {
+TEST_F(CleanerStop, finishesStartedItem) {
     machine.files.failing = [this](const auto& call) {
         if (call.operation == "trash") removal->stop();
         return false;
@@ -106,7 +106,7 @@ TEST_F(CleanerStop, whatHasBegunGoesToItsEnd) {
     EXPECT_EQ(skipped(), 1U);
 }
 
-TEST_F(CleanerStop, aToolThatHasNotBegunIsNotRun) {
+TEST_F(CleanerStop, doesNotRunPendingTool) {
     Reclaimable item;
     item.id = item.path = "/target";
     item.method = ReclaimMethod::command("/usr/bin/env", {"cargo", "clean"});

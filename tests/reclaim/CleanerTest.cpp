@@ -26,17 +26,17 @@ protected:
     fakes::FakeTrash trash{files};
 };
 
-TEST_F(CleanerMeasure, ofAFileIsWhatItAllocates) {
+TEST_F(CleanerMeasure, measuresAllocatedSizeOfFile) {
     files.addFile("/file", "content", 12288);
     EXPECT_EQ(Cleaner::allocatedSize(files, "/file"), 12288u);
 }
 
-TEST_F(CleanerMeasure, ofAHiddenFileIsWhatItAllocates) {
+TEST_F(CleanerMeasure, measuresHiddenFile) {
     files.addFile("/.file", "content", 12288);
     EXPECT_EQ(Cleaner::allocatedSize(files, "/.file"), 12288u);
 }
 
-TEST_F(CleanerMeasure, ofAFolderIsThatOfWhatIsBelowButHidden) {
+TEST_F(CleanerMeasure, skipsHiddenEntriesBelowFolder) {
     files.addFile("/folder/a", "", 4096);
     files.addFile("/folder/below/b", "", 8192);
     files.addFile("/folder/.hidden", "", 1 << 20);
@@ -44,36 +44,36 @@ TEST_F(CleanerMeasure, ofAFolderIsThatOfWhatIsBelowButHidden) {
     EXPECT_EQ(Cleaner::allocatedSize(files, "/folder"), 12288u);
 }
 
-TEST_F(CleanerMeasure, ofAnEmptyFolderIsNothing) {
+TEST_F(CleanerMeasure, emptyFolderIsZero) {
     files.addFolder("/folder");
     EXPECT_EQ(Cleaner::allocatedSize(files, "/folder"), 0u);
 }
 
-TEST_F(CleanerMeasure, ofALinkIsItsOwnAndNotThatOfItsTarget) {
+TEST_F(CleanerMeasure, measuresLinkNotTarget) {
     files.addFile("/folder/a", "", 1 << 20);
     files.addLink("/link", "/folder");
     EXPECT_EQ(Cleaner::allocatedSize(files, "/link"), 0u);
 }
 
-TEST_F(CleanerMeasure, ofWhatCannotBeLookedAtIsNothing) {
+TEST_F(CleanerMeasure, unreadablePathIsZero) {
     EXPECT_EQ(Cleaner::allocatedSize(files, "/missing"), 0u);
     files.addFile("/file", "", 4096);
     files.failing = [](const auto& call) { return call.operation == "properties"; };
     EXPECT_EQ(Cleaner::allocatedSize(files, "/file"), 0u);
 }
 
-TEST_F(CleanerMeasure, ofAnEmptyTrashIsZero) {
+TEST_F(CleanerMeasure, emptyTrashIsZero) {
     EXPECT_THAT(Cleaner::measureTrash(files, trash), Optional(0u));
 }
 
-TEST_F(CleanerMeasure, ofTheTrashIsTheSumOverItsEntries) {
+TEST_F(CleanerMeasure, sumsTrashEntries) {
     trash.put("file", 4096);
     trash.put("folder/a", 8192);
     trash.put("folder/below/b", 16384);
     EXPECT_THAT(Cleaner::measureTrash(files, trash), Optional(4096u + 8192u + 16384u));
 }
 
-TEST_F(CleanerMeasure, ofTheTrashCountsHiddenEntriesAtItsTopOnly) {
+TEST_F(CleanerMeasure, countsHiddenTrashEntriesAtTopLevelOnly) {
     trash.put(".hidden", 4096);
     trash.put(".folder/a", 8192);
     trash.put("folder/.hidden", 1 << 20);
@@ -81,13 +81,13 @@ TEST_F(CleanerMeasure, ofTheTrashCountsHiddenEntriesAtItsTopOnly) {
     EXPECT_THAT(Cleaner::measureTrash(files, trash), Optional(4096u + 8192u));
 }
 
-TEST_F(CleanerMeasure, ofATrashThatMayNotBeLookedIntoIsAbsent) {
+TEST_F(CleanerMeasure, inaccessibleTrashHasNoMeasure) {
     trash.put("file", 4096);
     trash.setAccessible(false);
     EXPECT_EQ(Cleaner::measureTrash(files, trash), std::nullopt);
 }
 
-TEST_F(CleanerMeasure, ofTheTrashPassesOverWhatIsGoneMeanwhile) {
+TEST_F(CleanerMeasure, ignoresEntriesThatVanishMeanwhile) {
     trash.put("file", 4096);
     trash.put("gone", 4096);
     files.failing = [&](const auto& call) {

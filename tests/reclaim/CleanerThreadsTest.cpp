@@ -79,7 +79,7 @@ std::size_t countOf(const Results& results, bool failed) {
     }));
 }
 
-TEST_F(CleanerThreads, twoThousandItemsGiveAResultEachAndOneThatFailsStopsNone) {
+TEST_F(CleanerThreads, cleansTwoThousandItemsDespiteOneFailure) {
     const std::vector<Reclaimable> items = manyItems(machine.files);
     machine.files.failing = [](const auto& call) { return call.operation == "trash" && call.path == "/cache/1000"; };
     const Results results = cleanAll(items);
@@ -92,8 +92,8 @@ TEST_F(CleanerThreads, twoThousandItemsGiveAResultEachAndOneThatFailsStopsNone) 
     EXPECT_TRUE(machine.files.exists("/cache/1000/file"));
 }
 
-// Each waits for all the others: one after the other they would never end.
-TEST_F(CleanerThreads, allItemsAreCleanedAtTheSameTime) {
+// Each item waits for all the others, so one after the other they would never end.
+TEST_F(CleanerThreads, cleansItemsConcurrently) {
     std::vector<Reclaimable> items;
     for (const char* path : {"/a", "/b", "/c", "/d", "/e", "/f", "/g", "/h", "/i", "/j", "/k", "/l"}) {
         machine.files.addFolder(path);
@@ -107,8 +107,8 @@ TEST_F(CleanerThreads, allItemsAreCleanedAtTheSameTime) {
     EXPECT_EQ(countOf(cleanAll(items), false), items.size());
 }
 
-// More tools than a pool has threads, and each stalls until the item behind them all has gone.
-TEST_F(CleanerThreads, toolsThatStallHoldUpNoOtherItem) {
+// More tools than the pool has threads, each of which stalls until the last item is in the Trash.
+TEST_F(CleanerThreads, stalledToolsDoNotBlockOtherItems) {
     constexpr std::size_t stalling = 150;
     std::vector<Reclaimable> items;
     for (std::size_t number = 0; number < stalling; ++number)
@@ -132,7 +132,7 @@ TEST_F(CleanerThreads, toolsThatStallHoldUpNoOtherItem) {
     EXPECT_EQ(countOf(ended.get_future().get(), false), stalling + 1);
 }
 
-TEST_F(CleanerThreads, theResultsComeOnABackgroundThread) {
+TEST_F(CleanerThreads, deliversResultsOnBackgroundThread) {
     machine.files.addFolder("/a");
     std::promise<std::thread::id> thread;
     Cleaner::cleanAll({itemToTrash("/a")}, false, platform(),
@@ -141,7 +141,7 @@ TEST_F(CleanerThreads, theResultsComeOnABackgroundThread) {
 }
 
 #ifdef __linux__
-TEST_F(CleanerThreads, aMachineWithoutMoreThreadsCleansEveryItemAllTheSame) {
+TEST_F(CleanerThreads, cleansEveryItemWithoutSpareThreads) {
     const std::vector<Reclaimable> items = manyItems(machine.files);
     std::size_t results = 0;
     unsigned refused = 0;
@@ -156,23 +156,23 @@ TEST_F(CleanerThreads, aMachineWithoutMoreThreadsCleansEveryItemAllTheSame) {
 
 // Real programs.
 
-TEST_F(CleanerThreads, aRealToolsOutputIsKept) {
+TEST_F(CleanerThreads, keepsOutputOfRealTool) {
     EXPECT_EQ(Cleaner::cleanOne(byShell("/target", "echo removed; echo warned >&2"), false, platform()).status,
               Cleaner::Status(Cleaner::RanCommand{"removed\nwarned\n"}));
 }
 
-TEST_F(CleanerThreads, aRealToolsFailureHasItsStatusAndItsOutput) {
+TEST_F(CleanerThreads, reportsStatusAndOutputOfFailingRealTool) {
     const Reclaimable item = byShell("/target", "printf 'error: could not find Cargo.toml'; exit 101");
     EXPECT_EQ(Cleaner::cleanOne(item, false, platform()).status,
               Cleaner::Status(Cleaner::Failed{"exit 101: error: could not find Cargo.toml"}));
 }
 
-TEST_F(CleanerThreads, aRealToolsOutputThatIsNoTextIsEmpty) {
+TEST_F(CleanerThreads, nonUtf8OutputOfRealToolIsEmpty) {
     EXPECT_EQ(Cleaner::cleanOne(byShell("/target", "printf 'caf\\351'"), false, platform()).status,
               Cleaner::Status(Cleaner::RanCommand{""}));
 }
 
-TEST_F(CleanerThreads, aToolThatIsNotInstalledFailsWithTheStatusOfEnv) {
+TEST_F(CleanerThreads, missingToolFailsWithStatusOfEnv) {
     Reclaimable item = itemToTrash("/target");
     item.method = ReclaimMethod::command("/usr/bin/env", {"zelk-has-no-such-tool", "clean"});
     const Cleaner::Status status = Cleaner::cleanOne(item, false, platform()).status;
@@ -180,15 +180,15 @@ TEST_F(CleanerThreads, aToolThatIsNotInstalledFailsWithTheStatusOfEnv) {
     EXPECT_TRUE(std::get<Cleaner::Failed>(status).error.starts_with("exit 127: "));
 }
 
-TEST_F(CleanerThreads, aToolThatDoesNotExistFailsWithTheSystemsText) {
+TEST_F(CleanerThreads, missingExecutableFailsWithSystemErrorText) {
     Reclaimable item = itemToTrash("/target");
     item.method = ReclaimMethod::command("/nowhere/tool", {});
     EXPECT_EQ(Cleaner::cleanOne(item, false, platform()).status,
               Cleaner::Status(Cleaner::Failed{std::strerror(ENOENT)}));
 }
 
-// The one writes more than the pipe holds and goes no further; the other waits for it to be there, and ends.
-TEST_F(CleanerThreads, aToolThatFillsThePipeStallsItselfAlone) {
+// One tool fills its pipe and stalls. The other waits until the first has started, and ends.
+TEST_F(CleanerThreads, toolThatFillsPipeStallsOnlyItself) {
     const zoo::TempFolder folder;
     const std::string fifo = folder / "fifo";
     ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);

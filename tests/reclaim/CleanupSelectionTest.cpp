@@ -29,7 +29,7 @@ std::optional<std::string> nobody(const Reclaimable&) {
     return std::nullopt;
 }
 
-/// The catalogue's first row of this grade.
+/// The first row of the catalogue with this grade.
 std::string idOf(ReclaimSafety safety) {
     for (const ReclaimCategory& row : reclaimCatalogue())
         if (row.safety == safety) return std::string(row.id);
@@ -42,19 +42,19 @@ const std::string reviewID = idOf(ReclaimSafety::review);
 
 }  // namespace
 
-TEST(AgeFilter, noDaysFilterNothing) {
+TEST(AgeFilter, zeroDaysKeepEverything) {
     const std::vector<Reclaimable> items{item("/new", safeID, 1, 0), item("/old", safeID, 1, 100)};
     EXPECT_THAT(paths(ageFiltered(items, 0, now)), ElementsAre("/new", "/old"));
     EXPECT_THAT(paths(ageFiltered(items, -3, now)), ElementsAre("/new", "/old"));
 }
 
-TEST(AgeFilter, anItemOfExactlyThatAgeIsTooYoung) {
+TEST(AgeFilter, excludesItemOfExactlyThatAge) {
     const std::vector<Reclaimable> items{item("/exactly", safeID, 1, 14), item("/older", safeID, 1, 14.001),
                                          item("/younger", safeID, 1, 13)};
     EXPECT_THAT(paths(ageFiltered(items, 14, now)), ElementsAre("/older"));
 }
 
-TEST(CleanupGroups, theLargestGroupComesFirstAndInItTheLargestItem) {
+TEST(CleanupGroups, sortsGroupsAndItemsBySize) {
     const auto groups = cleanupGroups({item("/a", safeID, 10), item("/b", rebuiltID, 15), item("/c", safeID, 20)});
     ASSERT_EQ(groups.size(), 2U);
     EXPECT_EQ(groups[0].category->id, safeID);
@@ -63,11 +63,11 @@ TEST(CleanupGroups, theLargestGroupComesFirstAndInItTheLargestItem) {
     EXPECT_EQ(groups[1].category->id, rebuiltID);
 }
 
-TEST(CleanupGroups, whatHasNoRowIsDropped) {
+TEST(CleanupGroups, dropsUnknownCategories) {
     EXPECT_THAT(cleanupGroups({item("/a", "no such row", 10)}), IsEmpty());
 }
 
-TEST(CleanupSelection, seedsAllButWhatNeedsALook) {
+TEST(CleanupSelection, seedsEverythingButReviewItems) {
     const std::vector<Reclaimable> items{item("/a", safeID, 1), item("/b", rebuiltID, 1), item("/c", reviewID, 1)};
     CleanupSelection selection;
     selection.seed(items, nobody);
@@ -78,7 +78,7 @@ TEST(CleanupSelection, seedsAllButWhatNeedsALook) {
     EXPECT_EQ(selection.seededFor(), 3U);
 }
 
-TEST(CleanupSelection, aListThatShrinksToNothingEmptiesIt) {
+TEST(CleanupSelection, emptyListClearsSelection) {
     CleanupSelection selection;
     selection.seed({item("/a", safeID, 1)}, [](const Reclaimable&) { return "App"; });
     selection.seed({}, nobody);
@@ -87,14 +87,14 @@ TEST(CleanupSelection, aListThatShrinksToNothingEmptiesIt) {
     EXPECT_THAT(selection.runningConflicts(), IsEmpty());
 }
 
-TEST(CleanupSelection, aListOfTheSameLengthKeepsTheOldConflictsToo) {
+TEST(CleanupSelection, sameLengthKeepsSelectionAndConflicts) {
     CleanupSelection selection;
     selection.seed({item("/a", safeID, 1)}, [](const Reclaimable&) { return "App"; });
     selection.seed({item("/b", safeID, 1)}, nobody);
     EXPECT_TRUE(selection.runningConflicts().contains("/a"));
 }
 
-TEST(CleanupSelection, whatIsInUseIsNeverToggledNorCleaned) {
+TEST(CleanupSelection, itemsInUseAreNeverToggledOrCleaned) {
     const std::vector<Reclaimable> items{item("/used", safeID, 1), item("/free", safeID, 2)};
     CleanupSelection selection;
     selection.seed(items, [](const Reclaimable& one) {
@@ -116,7 +116,7 @@ TEST(CleanupSelection, togglesOnAndOff) {
     EXPECT_FALSE(selection.contains(one));
 }
 
-TEST(CleanupSelection, aWholeGroupIsTickedAndUntickedButForWhatIsInUse) {
+TEST(CleanupSelection, setAllSkipsItemsInUse) {
     const std::vector<Reclaimable> items{item("/used", reviewID, 1), item("/b", reviewID, 1), item("/c", reviewID, 1)};
     const CleanupGroup group = cleanupGroups(items).front();
     CleanupSelection selection;
@@ -132,7 +132,7 @@ TEST(CleanupSelection, aWholeGroupIsTickedAndUntickedButForWhatIsInUse) {
     EXPECT_EQ(selection.counts(group), (CleanupSelection::Counts{0, 2}));
 }
 
-TEST(CleanupSelection, aGroupThatIsAllInUseHasNothingToSelect) {
+TEST(CleanupSelection, groupEntirelyInUseHasNothingSelectable) {
     const std::vector<Reclaimable> items{item("/a", reviewID, 1), item("/b", reviewID, 1)};
     const CleanupGroup group = cleanupGroups(items).front();
     CleanupSelection selection;
@@ -143,7 +143,7 @@ TEST(CleanupSelection, aGroupThatIsAllInUseHasNothingToSelect) {
     EXPECT_THAT(selection.selected(), IsEmpty());
 }
 
-TEST(CleanupSelection, whatTheAgeFilterHidesStaysTickedAndIsNotCleaned) {
+TEST(CleanupSelection, filteredItemsStaySelectedButAreNotCleaned) {
     const std::vector<Reclaimable> items{item("/new", safeID, 1, 1), item("/old", safeID, 1, 100)};
     CleanupSelection selection;
     selection.seed(items, nobody);
@@ -151,7 +151,7 @@ TEST(CleanupSelection, whatTheAgeFilterHidesStaysTickedAndIsNotCleaned) {
     EXPECT_TRUE(selection.contains(items[0]));
 }
 
-TEST(CleanupSelection, selectsExactlyWhatIsHandedToIt) {
+TEST(CleanupSelection, selectOnlyReplacesSelection) {
     const std::vector<Reclaimable> items{item("/a", safeID, 1), item("/b", reviewID, 1)};
     CleanupSelection selection;
     selection.seed(items, nobody);

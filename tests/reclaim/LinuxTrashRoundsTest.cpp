@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A few rounds of what zelk_trash_rounds does; by hand it is run for hundreds.
+// A few rounds of zelk_trash_rounds, which can be run by hand for hundreds.
 #include <gtest/gtest.h>
 
 #include "fakes/TracedProgram.h"
@@ -7,11 +7,11 @@
 namespace zelk {
 namespace {
 
-TEST(TrashRounds, processesThatTrashTheSameNamesAndOthersThatEmptyLoseNothing) {
+TEST(TrashRounds, concurrentTrashingAndEmptyingLosesNothing) {
     EXPECT_EQ(fakes::runProgram({ZELK_TRASH_ROUNDS, "race", "3"}), 0);
 }
 
-TEST(TrashRounds, aCleaningThatIsKilledLosesNothingAndLeavesNoOrphanForTheNextRun) {
+TEST(TrashRounds, killedCleaningLosesNothingAndLeavesNoOrphans) {
     EXPECT_EQ(fakes::runProgram({ZELK_TRASH_ROUNDS, "kill", "10"}), 0);
 }
 

@@ -29,7 +29,7 @@ constexpr auto review = ReclaimSafety::review;
 
 }  // namespace
 
-TEST(PathExplanation, tellsWhatItKnowsToTheLetter) {
+TEST(PathExplanation, explainsKnownPathsVerbatim) {
     const std::string web =
         "Build cache for a Next.js / Turbo / Vercel project. Regenerated on your next dev or build run.";
     const std::string mobile =
@@ -129,52 +129,52 @@ TEST(PathExplanation, tellsWhatItKnowsToTheLetter) {
     }
 }
 
-TEST(PathExplanation, aFolderCalledTargetIsRustOutputAnywhere) {
+TEST(PathExplanation, targetIsRustOutputAnywhere) {
     EXPECT_EQ(of("/Users/x/Documents/archery/target").title, "Rust target");
 }
 
-TEST(PathExplanation, aNameCountsBeforeItsPlace) {
+TEST(PathExplanation, nameTakesPrecedenceOverLocation) {
     EXPECT_EQ(of("/Users/x/Library/Caches/foo/node_modules").title, "node_modules");
 }
 
-TEST(PathExplanation, aPlaceCountsBeforeAnExtension) {
+TEST(PathExplanation, locationTakesPrecedenceOverExtension) {
     EXPECT_EQ(of("/Users/x/Library/Logs/old.zip").title, "Logs");
 }
 
-TEST(PathExplanation, namesHaveTheirCaseAndPlacesHaveNone) {
+TEST(PathExplanation, namesAreCaseSensitiveLocationsAreNot) {
     EXPECT_EQ(of("/Users/x/NODE_MODULES").detail, of("/a/whatever").detail);
     EXPECT_EQ(of("/LIBRARY/CACHES/X").title, "App cache");
 }
 
-TEST(PathExplanation, aDotInFirstPlaceBeginsNoExtension) {
+TEST(PathExplanation, leadingDotIsNoExtension) {
     EXPECT_EQ(of("/a/.zip").detail, of("/a/whatever").detail);
     EXPECT_EQ(of("/a/.hidden.zip").title, "Archive");
 }
 
-TEST(PathExplanation, aSlashAtTheEndIsNotTheFolderOfTheHome) {
+TEST(PathExplanation, trailingSlashDoesNotMatchHomeFolder) {
     const PathExplanation told = of("/Users/x/Downloads/");
     EXPECT_EQ(told.title, "Downloads");
     EXPECT_EQ(told.detail, of("/a/whatever").detail);
 }
 
-TEST(PathExplanation, theSameFolderOfAnotherHomeIsNotTold) {
+TEST(PathExplanation, ignoresFoldersOfOtherHomes) {
     EXPECT_EQ(of("/Users/y/Downloads").detail, of("/a/whatever").detail);
     EXPECT_EQ(of("/Users/x/sub/Downloads").detail, of("/a/whatever").detail);
 }
 
-TEST(PathExplanation, anEmptyPathIsThisItem) {
+TEST(PathExplanation, emptyPathIsThisItem) {
     EXPECT_EQ(of("").title, "This item");
 }
 
-TEST(PathExplanation, theRootHasItsName) {
+TEST(PathExplanation, explainsRoot) {
     EXPECT_EQ(of("/").title, "/");
 }
 
-TEST(PathExplanation, bytesThatAreNoTextStayAsTheyAre) {
+TEST(PathExplanation, keepsNonUtf8Bytes) {
     EXPECT_EQ(of("/a/\xff\xfe").title, "\xff\xfe");
 }
 
-TEST(DiskImageAdvice, isToldToTheLetterAndTheFirstMatchWins) {
+TEST(DiskImageAdvice, firstMatchWinsVerbatim) {
     const std::vector<std::pair<std::string, std::string>> table{
         {"/u/Library/Containers/com.docker.docker/Data/vms/0/data/Docker.raw",
          "Docker's disk. Reclaim in Docker Desktop → Settings → Resources, or run: docker system prune"},

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The places that Linux has for rows of the catalogue, and what was thrown away, on whatever system this runs.
+// The Linux locations of the catalogue, and the contents of the Trash. Runs on every system.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -15,7 +15,7 @@ namespace {
 
 class PlacesOfLinux : public testing::Test {
 protected:
-    /// Adds every folder of the absolute `path` that is missing below the root that it begins with; dated by depth.
+    /// Adds the missing folders of the absolute `path` below the root that it begins with, each dated by its depth.
     FSNode& add(const std::string& path) {
         FSNode* at = top->children.empty() ? &top->append(FSNode::make(root, 1)) : top->children[0].get();
         for (const auto& name : std::filesystem::path(path).lexically_relative(root)) at = &child(*at, name.string());
@@ -72,7 +72,7 @@ constexpr PlaceRow linuxRows[] = {
     {"/home/me/.cache/editor/User/workspaceStorage", "electron_workspace", "Trash"},
 };
 
-TEST_F(PlacesOfLinux, areItemsDatedByThemselves) {
+TEST_F(PlacesOfLinux, linuxPlacesAreItemsWithTheirOwnDate) {
     for (const PlaceRow& row : linuxRows) {
         const FSNode& node = add(row.path);
         const auto match = ReclaimClassifier(files, known).classify(node, "/home/me");
@@ -84,21 +84,21 @@ TEST_F(PlacesOfLinux, areItemsDatedByThemselves) {
     }
 }
 
-// The store of pnpm has had its place below the home in both tables from the first.
-TEST_F(PlacesOfLinux, areNoItemsOnMacOS) {
+// Both tables contain the store of pnpm below the home.
+TEST_F(PlacesOfLinux, areNotItemsOnMacOS) {
     known = {};
     for (const PlaceRow& row : linuxRows)
         EXPECT_EQ(categoryOf(row.path), std::string(row.category) == "pnpm_store" ? "pnpm_store" : "") << row.path;
 }
 
-TEST_F(PlacesOfLinux, standBesideThoseOfMacOS) {
+TEST_F(PlacesOfLinux, addToMacOSPlaces) {
     EXPECT_EQ(categoryOf("/home/me/Library/Caches/Yarn"), "yarn_cache");
     EXPECT_EQ(categoryOf("/home/me/Library/pnpm"), "pnpm_store");
     EXPECT_EQ(categoryOf("/home/me/Library/Application Support/Code/Cache"), "electron_cache");
     EXPECT_EQ(categoryOf("/home/me/Library/Application Support/Code/User/workspaceStorage"), "electron_workspace");
 }
 
-TEST_F(PlacesOfLinux, areComparedWholeAndExactly) {
+TEST_F(PlacesOfLinux, matchExactPathsOnly) {
     for (const char* path :
          {"/home/me/.cache/yarn/v6", "/home/me/.cache/Yarn", "/home/me/.cache/yarn2", "/home/me/x/.cache/yarn",
           "/home/me/Android/sdk/system-images", "/home/me/Android/Sdk", "/home/me/Android/Sdk/system-images/android-34",
@@ -109,7 +109,7 @@ TEST_F(PlacesOfLinux, areComparedWholeAndExactly) {
         EXPECT_EQ(categoryOf(path), "") << path;
 }
 
-TEST_F(PlacesOfLinux, aStoreOfPnpmLiesWhereTheDataHomeIs) {
+TEST_F(PlacesOfLinux, pnpmStoreFollowsDataHome) {
     known.xdgDataHome = "/home/me/data";
     EXPECT_EQ(categoryOf("/home/me/data/pnpm/store"), "pnpm_store");
     EXPECT_EQ(categoryOf("/home/me/.local/share/pnpm/store"), "pnpm_store");
@@ -118,20 +118,20 @@ TEST_F(PlacesOfLinux, aStoreOfPnpmLiesWhereTheDataHomeIs) {
         EXPECT_EQ(categoryOf(path), "") << path;
 }
 
-TEST_F(PlacesOfLinux, aDataHomeMayLieOutsideTheHome) {
+TEST_F(PlacesOfLinux, dataHomeMayBeOutsideHome) {
     known.xdgDataHome = "/srv/data";
     root = "/srv";
     EXPECT_EQ(categoryOf("/srv/data/pnpm/store"), "pnpm_store");
     EXPECT_EQ(categoryOf("/srv/.cache/yarn"), "");
 }
 
-TEST_F(PlacesOfLinux, ofAnApplicationMatchInAnyHome) {
+TEST_F(PlacesOfLinux, applicationCachesMatchInAnyHome) {
     root = "/backup";
     EXPECT_EQ(categoryOf("/backup/you/.config/Code/Cache"), "electron_cache");
     EXPECT_EQ(categoryOf("/backup/you/.cache/chromium/Default/Cache"), "electron_cache");
 }
 
-TEST_F(PlacesOfLinux, areForgottenWhenTheWalkLeavesThem) {
+TEST_F(PlacesOfLinux, doNotMatchAfterWalkLeftThem) {
     for (const char* path : {"/home/me/.config/a/Cache", "/home/me/b/Cache", "/home/me/.cache/c/Cache",
                              "/home/me/d/Cache", "/home/me/.config/e/GPUCache"})
         add(path);
@@ -144,7 +144,7 @@ protected:
     ThrownAway() { known.trash = TrashPlaces({"/home/me/.local/share/Trash/files"}, {"/.Trash-7/files"}); }
 };
 
-TEST_F(ThrownAway, isNoItemAndIsNotMarked) {
+TEST_F(ThrownAway, trashIsNeitherItemNorMarked) {
     const FSNode& modules = add("/home/me/.local/share/Trash/files/node_modules");
     add("/home/me/.local/share/Trash/files/app/deep/.venv");
     add("/home/me/.local/share/Trash/files/.config/Code/Cache");
@@ -154,13 +154,13 @@ TEST_F(ThrownAway, isNoItemAndIsNotMarked) {
     EXPECT_EQ(modules.reclaimCategory, nullptr);
 }
 
-TEST_F(ThrownAway, isNoItemWhenAskedAboutItAlone) {
+TEST_F(ThrownAway, classifyIgnoresTrash) {
     EXPECT_EQ(categoryOf("/home/me/.local/share/Trash/files/a/node_modules"), "");
     EXPECT_EQ(categoryOf("/home/me/media/.Trash-7/files/node_modules"), "");
     EXPECT_EQ(categoryOf("/home/me/media/.Trash-7/info/node_modules"), "node_modules");
 }
 
-TEST_F(ThrownAway, hasItemsBesideIt) {
+TEST_F(ThrownAway, siblingsOfTrashAreItems) {
     for (const char* path :
          {"/home/me/.local/share/Trash/files/a/node_modules", "/home/me/.local/share/Trash/info/node_modules",
           "/home/me/.local/share/Trash/files2/node_modules", "/home/me/files/node_modules"})
@@ -169,7 +169,7 @@ TEST_F(ThrownAway, hasItemsBesideIt) {
                                   "/home/me/.local/share/Trash/files2/node_modules", "/home/me/files/node_modules"}));
 }
 
-TEST_F(ThrownAway, isNoItemWhereARootIsOrLiesInIt) {
+TEST_F(ThrownAway, scanRootAtOrInsideTrashHasNoItems) {
     for (const char* place : {"/home/me/.local/share/Trash/files", "/home/me/.local/share/Trash/files/a"}) {
         top = FSNode::make("", 0);
         root = place;
@@ -178,20 +178,20 @@ TEST_F(ThrownAway, isNoItemWhereARootIsOrLiesInIt) {
     }
 }
 
-TEST_F(ThrownAway, isNoItemWhereTheWalkBeginsInIt) {
+TEST_F(ThrownAway, walkThatStartsInsideTrashFindsNothing) {
     add("/home/me/.local/share/Trash/files/a/b/node_modules");
     std::vector<Reclaimable> found;
     ReclaimClassifier(files, known).collect(add("/home/me/.local/share/Trash/files/a"), "/home/me", found);
     EXPECT_TRUE(found.empty());
 }
 
-TEST_F(ThrownAway, isFoundLikeAllElseWhereNoTrashIsTold) {
+TEST_F(ThrownAway, withoutKnownTrashEverythingIsFound) {
     known.trash = {};
     add("/home/me/.local/share/Trash/files/node_modules");
     EXPECT_EQ(items(), ItemPaths{"/home/me/.local/share/Trash/files/node_modules"});
 }
 
-TEST(ReclaimPlaces, areWhatThePlatformSays) {
+TEST(ReclaimPlaces, comeFromPlatformLocations) {
     fakes::FakeLocations locations;
     EXPECT_EQ(ReclaimPlaces::of(locations).xdgDataHome, std::nullopt);
     EXPECT_FALSE(ReclaimPlaces::of(locations).trash.hold("/data/Trash/files"));

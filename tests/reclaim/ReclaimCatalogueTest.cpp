@@ -43,7 +43,7 @@ constexpr std::array expectedRows{
     Row{"photos_cache", "Photos cache", "safe", "Rebuilt by Photos."},
 };
 
-TEST(ReclaimCatalogue, hasItsTwentyTwoRowsInOrder) {
+TEST(ReclaimCatalogue, hasTwentyTwoRowsInOrder) {
     const auto rows = reclaimCatalogue();
     ASSERT_EQ(rows.size(), 22U);
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -58,25 +58,25 @@ TEST(ReclaimCatalogue, everyRowStopsTheWalk) {
     for (const ReclaimCategory& row : reclaimCatalogue()) EXPECT_TRUE(row.stopRecursion) << row.id;
 }
 
-TEST(ReclaimCatalogue, onlyTheElectronRowsBelongToAnApplication) {
+TEST(ReclaimCatalogue, onlyElectronRowsAreAppScoped) {
     std::set<std::string_view> appScoped;
     for (const ReclaimCategory& row : reclaimCatalogue())
         if (row.appScoped) appScoped.insert(row.id);
     EXPECT_EQ(appScoped, (std::set<std::string_view>{"electron_cache", "electron_workspace"}));
 }
 
-TEST(ReclaimCatalogue, everyRowIsFoundByItsID) {
+TEST(ReclaimCatalogue, findsEveryRowByID) {
     EXPECT_EQ(reclaimCategoryByID().size(), 22U);
     for (const ReclaimCategory& row : reclaimCatalogue()) EXPECT_EQ(reclaimCategoryByID().at(row.id), &row);
 }
 
-TEST(ReclaimCatalogue, anUnknownIDYieldsNoRow) {
+TEST(ReclaimCatalogue, unknownIDHasNoRow) {
     EXPECT_FALSE(reclaimCategoryByID().contains("no_such_row"));
     EXPECT_FALSE(reclaimCategoryByID().contains(""));
     EXPECT_FALSE(reclaimCategoryByID().contains("Node_Modules"));
 }
 
-TEST(ReclaimCatalogueDeathTest, aRepeatedIDEndsTheProcess) {
+TEST(ReclaimCatalogueDeathTest, duplicateIDAborts) {
     const std::array rows{
         ReclaimCategory{"a", "A", ReclaimSafety::safe, "", true, false},
         ReclaimCategory{"b", "B", ReclaimSafety::safe, "", true, false},
@@ -85,7 +85,7 @@ TEST(ReclaimCatalogueDeathTest, aRepeatedIDEndsTheProcess) {
     EXPECT_DEATH(indexByID(rows), "two rows of the id \"a\"");
 }
 
-TEST(ReclaimCategory, isEqualAndHashedByIDAlone) {
+TEST(ReclaimCategory, comparesAndHashesByIDOnly) {
     const ReclaimCategory one{"a", "A", ReclaimSafety::safe, "x", true, false};
     const ReclaimCategory other{"a", "B", ReclaimSafety::review, "y", false, true};
     const ReclaimCategory stranger{"b", "A", ReclaimSafety::safe, "x", true, false};
@@ -94,7 +94,7 @@ TEST(ReclaimCategory, isEqualAndHashedByIDAlone) {
     EXPECT_EQ((std::unordered_set<ReclaimCategory>{one, other, stranger}.size()), 2U);
 }
 
-TEST(ReclaimSafety, isInOrderOfSeverityWithStableRawValues) {
+TEST(ReclaimSafety, isOrderedBySeverityWithStableRawValues) {
     std::vector<std::string_view> values;
     for (const ReclaimSafety safety : allReclaimSafeties) values.push_back(rawValue(safety));
     EXPECT_EQ(values, (std::vector<std::string_view>{"safe", "regenerates", "review"}));
@@ -102,7 +102,7 @@ TEST(ReclaimSafety, isInOrderOfSeverityWithStableRawValues) {
     EXPECT_LT(ReclaimSafety::regenerates, ReclaimSafety::review);
 }
 
-TEST(ReclaimMethod, commandsAreEqualToolByToolAndArgumentByArgument) {
+TEST(ReclaimMethod, commandsCompareToolAndArguments) {
     const auto clean = ReclaimMethod::command("/usr/bin/env", {"cargo", "clean"});
     EXPECT_EQ(clean, ReclaimMethod::command("/usr/bin/env", {"cargo", "clean"}));
     EXPECT_FALSE(clean == ReclaimMethod::command("/usr/bin/env", {"cargo"}));
@@ -116,16 +116,16 @@ TEST(MethodSummary, trashIsOneWord) {
     EXPECT_EQ(methodSummary(ReclaimMethod::trash()), "Trash");
 }
 
-TEST(MethodSummary, aCommandIsTheToolAndItsArguments) {
+TEST(MethodSummary, commandShowsToolAndArguments) {
     EXPECT_EQ(methodSummary(ReclaimMethod::command("/usr/bin/env", {"npm", "cache", "clean", "--force"})),
               "/usr/bin/env npm cache clean --force");
 }
 
-TEST(MethodSummary, aCommandWithoutArgumentsIsTheToolAlone) {
+TEST(MethodSummary, commandWithoutArgumentsShowsToolOnly) {
     EXPECT_EQ(methodSummary(ReclaimMethod::command("/usr/bin/true", {})), "/usr/bin/true");
 }
 
-TEST(Reclaimable, samePathIsTheSameItemWhateverElseDiffers) {
+TEST(Reclaimable, comparesByPathOnly) {
     Reclaimable one;
     one.id = one.path = "/a";
     one.size = 1;

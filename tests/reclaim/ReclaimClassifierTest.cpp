@@ -14,14 +14,14 @@ namespace {
 
 const std::string home = "/Users/a";
 
-/// A tree of one root, where every node on the way to `path` is dated 1, 2, 3… from the root down.
+/// A tree with one root. The nodes on the way to `path` are dated 1, 2, 3… from the root down.
 class Tree {
 public:
     explicit Tree(const std::string& root = home) : top(FSNode::make("", 0)) { top->append(FSNode::make(root, 1)); }
 
     FSNode& root() { return *top->children[0]; }
 
-    /// Adds what is missing of `below`, a path relative to the root, and gives its last node.
+    /// Adds the missing nodes of `below`, a path relative to the root, and returns the last one.
     FSNode& add(const std::string& below) {
         FSNode* at = &root();
         std::size_t start = 0;
@@ -45,7 +45,7 @@ private:
 
 class Classifier : public testing::Test {
 protected:
-    /// The category of a node at `below` under the home folder, "" for none.
+    /// The category of a node at `below` in the home folder; "" for none.
     std::string categoryAt(const std::string& below, const std::string& root = home) {
         const auto match = ReclaimClassifier(files).classify(Tree(root).add(below), home);
         return match ? std::string(match->category->id) : "";
@@ -127,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ChainRow{"Library/Application Support/Any/GPUCache", "electron_cache"},
                     ChainRow{"Library/Application Support/Any/Service Worker/CacheStorage", "electron_cache"}));
 
-TEST_F(Classifier, aPathIsComparedWholeAndExactly) {
+TEST_F(Classifier, matchesExactPathsOnly) {
     EXPECT_EQ(categoryAt("Library/Caches/Yarn/v6"), "");
     EXPECT_EQ(categoryAt("Library/Caches/yarn"), "");
     EXPECT_EQ(categoryAt("Library/Caches/Yarn2"), "");
@@ -135,32 +135,32 @@ TEST_F(Classifier, aPathIsComparedWholeAndExactly) {
     EXPECT_EQ(categoryAt("Library/Developer/Xcode"), "");
 }
 
-TEST_F(Classifier, aNameIsComparedWholeAndExactly) {
+TEST_F(Classifier, matchesExactNamesOnly) {
     for (const char* name : {"Node_modules", "node_modules2", "xnode_modules", ".Next", "venv2", "_pycache_", "Venv",
                              ".expo-share", "GPUcache"})
         EXPECT_EQ(categoryAt(std::string("p/") + name), "") << name;
 }
 
-TEST_F(Classifier, aHomeWhoseNameBeginsAlikeDoesNotMatch) {
+TEST_F(Classifier, homeWithSamePrefixDoesNotMatch) {
     EXPECT_EQ(categoryAt("Library/Caches/Yarn", "/Users/ab"), "");
     EXPECT_EQ(categoryAt("b/Library/Caches/Yarn"), "");
 }
 
-TEST_F(Classifier, aHomeWithASlashAtItsEndIsTheSameHome) {
+TEST_F(Classifier, ignoresTrailingSlashOfHome) {
     Tree tree;
     const FSNode& node = tree.add("Library/Caches/Yarn");
     EXPECT_TRUE(ReclaimClassifier(files).classify(node, home + "/").has_value());
     EXPECT_EQ(pathsOf(itemsOf(tree, home + "//")), Paths{home + "/Library/Caches/Yarn"});
 }
 
-TEST_F(Classifier, ofAUserWithoutAHomeTheSystemsOwnFoldersAreNoItems) {
+TEST_F(Classifier, rootAsHomeDoesNotMatchSystemFolders) {
     Tree tree("/");
     const FSNode& node = tree.add("Library/Caches/Yarn");
     EXPECT_FALSE(ReclaimClassifier(files).classify(node, "/").has_value());
     EXPECT_EQ(pathsOf(itemsOf(tree, "/")), Paths{});
 }
 
-TEST_F(Classifier, theWholeGradleFolderMatchesByItsNameBeforeItsCachesAreReached) {
+TEST_F(Classifier, gradleFolderMatchesByNameBeforeItsCaches) {
     Tree tree;
     tree.add(".gradle/caches");
     const auto items = itemsOf(tree);
@@ -169,7 +169,7 @@ TEST_F(Classifier, theWholeGradleFolderMatchesByItsNameBeforeItsCachesAreReached
     EXPECT_EQ(items[0].lastModified, tree.root().lastModified);
 }
 
-TEST_F(Classifier, gradleCachesMatchByPathWhenTheWalkStartsBelowTheGradleFolder) {
+TEST_F(Classifier, gradleCachesMatchByPathWhenWalkStartsInsideGradle) {
     Tree tree(home + "/.gradle");
     const FSNode& caches = tree.add("caches");
     const auto items = itemsOf(tree);
@@ -177,32 +177,32 @@ TEST_F(Classifier, gradleCachesMatchByPathWhenTheWalkStartsBelowTheGradleFolder)
     EXPECT_EQ(items[0].lastModified, caches.lastModified);
 }
 
-TEST_F(Classifier, whatLiesInsideAMatchIsNoItem) {
+TEST_F(Classifier, doesNotDescendIntoMatch) {
     Tree tree;
     tree.add("Library/Caches/Yarn/v6/node_modules");
     tree.add("p/node_modules/q/node_modules");
     EXPECT_EQ(pathsOf(itemsOf(tree)), (Paths{home + "/Library/Caches/Yarn", home + "/p/node_modules"}));
 }
 
-TEST_F(Classifier, aScanRootInsideAMatchedFolderMatchesNothing) {
+TEST_F(Classifier, scanRootInsideMatchedFolderMatchesNothing) {
     Tree tree(home + "/Library/Caches/Yarn/v6");
     tree.add("a/b");
     EXPECT_TRUE(itemsOf(tree).empty());
 }
 
-TEST_F(Classifier, aScanRootCanMatchByItsPath) {
+TEST_F(Classifier, scanRootMatchesByPath) {
     Tree tree(home + "/Library/Caches/Yarn");
     tree.add("v6");
     EXPECT_EQ(pathsOf(itemsOf(tree)), Paths{home + "/Library/Caches/Yarn"});
 }
 
-TEST_F(Classifier, aScanRootIsCalledByItsWholePathAndNotByItsLastName) {
+TEST_F(Classifier, scanRootDoesNotMatchByLastName) {
     Tree tree("/p/node_modules");
     tree.add("q/node_modules");
     EXPECT_EQ(pathsOf(itemsOf(tree)), Paths{"/p/node_modules/q/node_modules"});
 }
 
-TEST_F(Classifier, aVenvAnywhereIsForReview) {
+TEST_F(Classifier, venvAnywhereIsForReview) {
     Tree tree("/srv");
     tree.add("music/venv");
     const auto items = itemsOf(tree);
@@ -211,7 +211,7 @@ TEST_F(Classifier, aVenvAnywhereIsForReview) {
     EXPECT_EQ(items[0].safety, ReclaimSafety::review);
 }
 
-TEST_F(Classifier, aTargetWithoutACargoManifestBesideItIsGoneInto) {
+TEST_F(Classifier, descendsIntoTargetWithoutCargoManifest) {
     files.addFile(home + "/p/target/Cargo.toml");
     files.addFile(home + "/Cargo.toml");
     files.addFile(home + "/p/cargo.toml");
@@ -221,12 +221,12 @@ TEST_F(Classifier, aTargetWithoutACargoManifestBesideItIsGoneInto) {
     EXPECT_EQ(files.pathsOf("exists"), Paths{home + "/p/Cargo.toml"});
 }
 
-TEST_F(Classifier, aCargoManifestMayBeAFolderToo) {
+TEST_F(Classifier, cargoManifestMayBeFolder) {
     files.addFolder(home + "/p/Cargo.toml");
     EXPECT_EQ(categoryAt("p/target"), "rust_target");
 }
 
-TEST_F(Classifier, aTargetDirectlyBelowTheFileSystemsRootIsLookedUpWithOneSlash) {
+TEST_F(Classifier, targetBelowFileSystemRootIsLookedUpWithOneSlash) {
     files.addFile("/Cargo.toml");
     Tree tree("/");
     tree.add("target");
@@ -235,14 +235,14 @@ TEST_F(Classifier, aTargetDirectlyBelowTheFileSystemsRootIsLookedUpWithOneSlash)
     EXPECT_EQ(files.pathsOf("exists"), Paths{"/Cargo.toml"});
 }
 
-TEST_F(Classifier, aTargetWithoutAParentFolderIsNoItemAndNothingIsLookedUp) {
+TEST_F(Classifier, targetWithoutParentIsNotItemAndLooksNothingUp) {
     EXPECT_FALSE(ReclaimClassifier(files).classify(*FSNode::make("target", 1), home).has_value());
     Tree tree("target");
     EXPECT_TRUE(itemsOf(tree).empty());
     EXPECT_TRUE(files.calls().empty());
 }
 
-TEST_F(Classifier, theFileSystemIsAskedForNothingButTheManifest) {
+TEST_F(Classifier, asksFileSystemForManifestOnly) {
     files.addFile(home + "/p/Cargo.toml");
     Tree tree;
     for (const char* below : {"p/target", "p/node_modules", "Library/pnpm", "q/Cache", "q/CacheStorage"})
@@ -251,22 +251,22 @@ TEST_F(Classifier, theFileSystemIsAskedForNothingButTheManifest) {
     EXPECT_EQ(files.calls(), (std::vector<fakes::FakeFileManager::Call>{{"exists", home + "/p/Cargo.toml"}}));
 }
 
-TEST_F(Classifier, aWorkspaceStorageOutsideAUserFolderIsGoneInto) {
+TEST_F(Classifier, descendsIntoWorkspaceStorageOutsideUserFolder) {
     EXPECT_EQ(categoryAt("Library/Application Support/Code/workspaceStorage"), "");
     Tree tree;
     tree.add("Library/Application Support/Code/workspaceStorage/Cache");
     EXPECT_EQ(pathsOf(itemsOf(tree)), Paths{home + "/Library/Application Support/Code/workspaceStorage/Cache"});
 }
 
-TEST_F(Classifier, aWorkspaceStorageOutsideApplicationSupportIsNoItem) {
+TEST_F(Classifier, workspaceStorageOutsideApplicationSupportIsNotItem) {
     EXPECT_EQ(categoryAt("Code/User/workspaceStorage"), "");
 }
 
-TEST_F(Classifier, theUserFolderMayStandAboveApplicationSupport) {
+TEST_F(Classifier, userFolderMayBeAboveApplicationSupport) {
     EXPECT_EQ(categoryAt("User/Application Support/workspaceStorage"), "electron_workspace");
 }
 
-TEST_F(Classifier, aCacheOutsideApplicationSupportIsNoItem) {
+TEST_F(Classifier, cacheOutsideApplicationSupportIsNotItem) {
     EXPECT_EQ(categoryAt("Library/Cache"), "");
     EXPECT_EQ(categoryAt("Library/Application Supporters/Cache"), "");
     EXPECT_EQ(categoryAt("Library/My Application Support/Cache"), "");
@@ -274,32 +274,32 @@ TEST_F(Classifier, aCacheOutsideApplicationSupportIsNoItem) {
     EXPECT_EQ(categoryAt("Library/GPUCache"), "");
 }
 
-TEST_F(Classifier, aCacheInAnyApplicationSupportIsAnItemWhateverTheHome) {
+TEST_F(Classifier, cacheInApplicationSupportOfAnyHomeIsItem) {
     EXPECT_EQ(categoryAt("Application Support/x/y/Cache", "/Volumes/Old"), "electron_cache");
     EXPECT_EQ(categoryAt("Cache", "/Volumes/Application Support"), "electron_cache");
 }
 
-TEST_F(Classifier, applicationSupportItselfMustHaveAFolderAboveIt) {
+TEST_F(Classifier, applicationSupportNeedsParentFolder) {
     EXPECT_EQ(categoryAt("Cache", "Application Support"), "");
 }
 
-TEST_F(Classifier, aCacheStorageOfAServiceWorkerOutsideApplicationSupportIsNoItem) {
+TEST_F(Classifier, serviceWorkerCacheOutsideApplicationSupportIsNotItem) {
     EXPECT_EQ(categoryAt("x/Service Worker/CacheStorage"), "");
 }
 
-TEST_F(Classifier, aCacheStorageUnderAnyOtherParentIsNoItem) {
+TEST_F(Classifier, cacheStorageNeedsServiceWorkerParent) {
     EXPECT_EQ(categoryAt("Library/Application Support/CacheStorage"), "");
     EXPECT_EQ(categoryAt("Library/Application Support/Service Worker/x/CacheStorage"), "");
     EXPECT_EQ(categoryAt("Library/Application Support/service worker/CacheStorage"), "");
 }
 
-TEST_F(Classifier, aNodeWithoutAParentIsDatedByItself) {
+TEST_F(Classifier, nodeWithoutParentUsesItsOwnDate) {
     const auto match = ReclaimClassifier(files).classify(*FSNode::make("node_modules", 77), home);
     ASSERT_TRUE(match.has_value());
     EXPECT_EQ(match->ageDate, 77);
 }
 
-TEST_F(Classifier, aNodeWhoseParentIsGoneIsDatedByItself) {
+TEST_F(Classifier, nodeWithReleasedParentUsesItsOwnDate) {
     NodeRef orphan;
     {
         Tree tree;
@@ -311,27 +311,27 @@ TEST_F(Classifier, aNodeWhoseParentIsGoneIsDatedByItself) {
     EXPECT_EQ(match->ageDate, orphan->lastModified);
 }
 
-TEST_F(Classifier, aFileIsClassifiedLikeAFolder) {
+TEST_F(Classifier, classifiesFilesLikeFolders) {
     Tree tree;
     tree.add("p").append(FSNode::make("node_modules", 9, false));
     tree.add("Library/Caches").append(FSNode::make("Yarn", 9, false));
     EXPECT_EQ(pathsOf(itemsOf(tree)), (Paths{home + "/p/node_modules", home + "/Library/Caches/Yarn"}));
 }
 
-TEST_F(Classifier, anEmptyTreeYieldsNothing) {
+TEST_F(Classifier, emptyTreeHasNoItems) {
     std::vector<Reclaimable> items;
     ReclaimClassifier(files).collect(*FSNode::make("", 0), home, items);
     EXPECT_TRUE(items.empty());
 }
 
-TEST_F(Classifier, aTreeWithoutAMatchYieldsNothingAndMarksNothing) {
+TEST_F(Classifier, treeWithoutMatchHasNoItemsAndNoMarks) {
     Tree tree;
     const FSNode& node = tree.add("Documents/letters");
     EXPECT_TRUE(itemsOf(tree).empty());
     EXPECT_EQ(node.reclaimCategory, nullptr);
 }
 
-TEST_F(Classifier, anItemCarriesTheFiguresOfItsNode) {
+TEST_F(Classifier, itemHasFiguresOfItsNode) {
     Tree tree;
     FSNode& node = tree.add("Library/pnpm");
     node.size = 12345;
@@ -347,7 +347,7 @@ TEST_F(Classifier, anItemCarriesTheFiguresOfItsNode) {
     EXPECT_EQ(node.reclaimCategory, reclaimCategoryByID().at("pnpm_store"));
 }
 
-TEST_F(Classifier, aMatchedFolderOfZeroBytesIsAnItem) {
+TEST_F(Classifier, matchedFolderOfZeroBytesIsItem) {
     Tree tree;
     tree.add("p/node_modules");
     const auto items = itemsOf(tree);
@@ -355,7 +355,7 @@ TEST_F(Classifier, aMatchedFolderOfZeroBytesIsAnItem) {
     EXPECT_EQ(items[0].size, 0U);
 }
 
-TEST_F(Classifier, aSizeBelowZeroIsNoEnormousItem) {
+TEST_F(Classifier, negativeSizeBecomesZero) {
     Tree tree;
     tree.add("p/node_modules").size = -1;
     const auto items = itemsOf(tree);
@@ -363,7 +363,7 @@ TEST_F(Classifier, aSizeBelowZeroIsNoEnormousItem) {
     EXPECT_EQ(items[0].size, 0U);
 }
 
-TEST_F(Classifier, itemsComeInPreOrderBehindWhatTheListHeld) {
+TEST_F(Classifier, appendsItemsInPreOrder) {
     Tree tree;
     for (const char* below : {"b/node_modules", "a/x/__pycache__", "a/venv", "c/.next"}) tree.add(below);
     std::vector<Reclaimable> items(1);
@@ -372,14 +372,14 @@ TEST_F(Classifier, itemsComeInPreOrderBehindWhatTheListHeld) {
               (Paths{"", home + "/b/node_modules", home + "/a/x/__pycache__", home + "/a/venv", home + "/c/.next"}));
 }
 
-TEST_F(Classifier, severalRootsAreWalkedInTheirOrder) {
+TEST_F(Classifier, walksRootsInOrder) {
     Tree tree("/srv");
     tree.add("node_modules");
     tree.top->append(FSNode::make(home + "/Library/Caches/Yarn", 5));
     EXPECT_EQ(pathsOf(itemsOf(tree)), (Paths{"/srv/node_modules", home + "/Library/Caches/Yarn"}));
 }
 
-TEST_F(Classifier, aWalkMayStartInTheMiddleOfATree) {
+TEST_F(Classifier, walkMayStartInsideTree) {
     Tree tree;
     tree.add("Library/Application Support/x/Cache");
     std::vector<Reclaimable> items;
@@ -387,13 +387,13 @@ TEST_F(Classifier, aWalkMayStartInTheMiddleOfATree) {
     EXPECT_EQ(pathsOf(items), Paths{home + "/Library/Application Support/x/Cache"});
 }
 
-TEST_F(Classifier, namesThatAreNoTextAreCarriedAsBytes) {
+TEST_F(Classifier, keepsNonUtf8NamesAsBytes) {
     Tree tree;
     tree.add("\xFF\xFE\n/node_modules");
     EXPECT_EQ(pathsOf(itemsOf(tree)), Paths{home + "/\xFF\xFE\n/node_modules"});
 }
 
-TEST_F(Classifier, anItemKnowsHowMuchOfItsPathIsTheScanRoot) {
+TEST_F(Classifier, itemKnowsLengthOfItsScanRoot) {
     Tree tree(home);
     tree.add("a/node_modules");
     tree.top->append(FSNode::make("/data/b", 0)).append(FSNode::make("node_modules", 0));

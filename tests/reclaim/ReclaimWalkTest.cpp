@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The walk against a second classifier, written plainly and with whole paths, on random trees and on very deep ones.
+// Compares the walk with a naive classifier that builds whole paths, on random and on very deep trees.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -27,12 +27,12 @@ struct Verdict {
     bool datedByParent = false;
 };
 
-/// What is known of a machine with Linux, whose Trash is met by chance too.
+/// The places of a Linux machine, whose Trash random trees may contain.
 ReclaimPlaces ofLinux() {
     return {walkedHome + "/data", TrashPlaces({walkedHome + "/data/Trash/files"}, {"/.Trash-7/files"})};
 }
 
-/// `parent` is nullptr for a node with nothing above it.
+/// `parent` is nullptr for a node without a parent.
 Verdict plainVerdict(const std::string& path, const std::string& name, const std::string* parent,
                      const std::string& parentPath, fakes::FakeFileManager& files, bool onLinux) {
     static const std::map<std::string, std::string> byLinuxPath{
@@ -64,7 +64,7 @@ Verdict plainVerdict(const std::string& path, const std::string& name, const std
     return {};
 }
 
-/// A random tree of names that matter, and the items expected of it, found by recursion with whole paths.
+/// A random tree of relevant names, and the items expected in it, found recursively with whole paths.
 class RandomTree {
 public:
     explicit RandomTree(unsigned seed, bool onLinux = false)
@@ -81,7 +81,7 @@ public:
     fakes::FakeFileManager files;
     std::vector<Reclaimable> expected;
     std::vector<const FSNode*> all;
-    std::vector<const FSNode*> thrownAway;  ///< the tops of what is, which `all` leaves out with what is below them
+    std::vector<const FSNode*> thrownAway;  ///< Trash folders, which `all` leaves out with everything below
 
 private:
     double date() { return static_cast<double>(random_() % 1000000); }
@@ -182,7 +182,7 @@ public:
     NodeRef top;
 };
 
-/// Adds to `met` how often each category came up.
+/// Adds to `met` how often each category was found.
 void compareOnRandomTrees(bool onLinux, std::map<std::string, int>& met) {
     const ReclaimPlaces known = onLinux ? ofLinux() : ReclaimPlaces();
     for (unsigned seed = 0; seed < 120; ++seed) {
@@ -202,7 +202,7 @@ void compareOnRandomTrees(bool onLinux, std::map<std::string, int>& met) {
     }
 }
 
-TEST(ReclaimWalk, agreesWithAPlainClassifierOnRandomTrees) {
+TEST(ReclaimWalk, agreesWithNaiveClassifierOnRandomTrees) {
     std::map<std::string, int> met;
     compareOnRandomTrees(false, met);
     for (const char* category :
@@ -211,7 +211,7 @@ TEST(ReclaimWalk, agreesWithAPlainClassifierOnRandomTrees) {
         EXPECT_GT(met[category], 0) << category << " was not met: the trees do not reach it";
 }
 
-TEST(ReclaimWalk, agreesWithAPlainClassifierThatKnowsLinux) {
+TEST(ReclaimWalk, agreesWithNaiveClassifierOnLinux) {
     std::map<std::string, int> met;
     compareOnRandomTrees(true, met);
     for (const char* category :
@@ -250,15 +250,15 @@ void compareNodeByNode(bool onLinux) {
     EXPECT_EQ(thrownAway > 0, onLinux) << "the trees do not reach what was thrown away";
 }
 
-TEST(ReclaimWalk, agreesWithTheClassifierOfOneNodeForEveryNode) {
+TEST(ReclaimWalk, agreesWithClassifyForEveryNode) {
     compareNodeByNode(false);
 }
 
-TEST(ReclaimWalk, agreesWithTheClassifierOfOneNodeThatKnowsLinux) {
+TEST(ReclaimWalk, agreesWithClassifyForEveryNodeOnLinux) {
     compareNodeByNode(true);
 }
 
-/// A chain of folders, each called by `name` of its depth.
+/// A chain of folders, each named `name(depth)`.
 NodeRef chain(std::size_t depth, const std::function<std::string(std::size_t)>& name) {
     NodeRef top = FSNode::make("", 0);
     FSNode* at = &top->append(FSNode::make("/h", 1));
@@ -268,7 +268,7 @@ NodeRef chain(std::size_t depth, const std::function<std::string(std::size_t)>& 
 
 constexpr std::size_t veryDeep = 50000;
 
-TEST(ReclaimWalk, aChainOfFiftyThousandFoldersIsWalkedToItsEnd) {
+TEST(ReclaimWalk, walksFiftyThousandLevels) {
     const NodeRef top =
         chain(veryDeep, [](std::size_t i) { return i + 1 == veryDeep ? std::string("node_modules") : "d"; });
     fakes::FakeFileManager files;
@@ -278,7 +278,7 @@ TEST(ReclaimWalk, aChainOfFiftyThousandFoldersIsWalkedToItsEnd) {
     EXPECT_EQ(items[0].path.size(), walkedHome.size() + 2 * (veryDeep - 1) + std::string("/node_modules").size());
 }
 
-TEST(ReclaimWalk, aDeepChainOfNamesThatAskForTheirPathIsWalkedToItsEnd) {
+TEST(ReclaimWalk, walksDeepChainOfNamesThatNeedTheirPath) {
     const NodeRef top = chain(veryDeep, [](std::size_t i) {
         if (i + 2 == veryDeep) return "Application Support";
         return i % 2 == 0 ? "Cache" : "workspaceStorage";
@@ -289,7 +289,7 @@ TEST(ReclaimWalk, aDeepChainOfNamesThatAskForTheirPathIsWalkedToItsEnd) {
     EXPECT_TRUE(items.empty()) << "the last folder is a workspaceStorage outside any User folder";
 }
 
-TEST(ReclaimWalk, aDeepChainKnowsTheApplicationSupportAtItsTop) {
+TEST(ReclaimWalk, deepChainKnowsApplicationSupportAtTop) {
     const NodeRef top = chain(veryDeep, [](std::size_t i) {
         if (i == 0) return "Application Support";
         return i + 1 == veryDeep ? "Cache" : "workspaceStorage";
@@ -300,7 +300,7 @@ TEST(ReclaimWalk, aDeepChainKnowsTheApplicationSupportAtItsTop) {
     EXPECT_EQ(items.size(), 1U);
 }
 
-TEST(ContainedText, agreesWithAPlainSearchWhileTheTextGrowsAndShrinks) {
+TEST(ContainedText, agreesWithFullSearchWhileTextGrowsAndShrinks) {
     std::mt19937 random(7);
     int found = 0;
     for (int round = 0; round < 200; ++round) {
@@ -321,7 +321,7 @@ TEST(ContainedText, agreesWithAPlainSearchWhileTheTextGrowsAndShrinks) {
     EXPECT_GT(found, 100) << "too few of the texts hold what is looked for";
 }
 
-TEST(WalkedPath, isTheNodesFullPathAndStaysSoWhenASiblingIsLookedUp) {
+TEST(WalkedPath, equalsFullPathEvenAfterSiblingLookup) {
     const NodeRef top = chain(3, [](std::size_t i) { return std::string(1, static_cast<char>('a' + i)); });
     const FSNode& node = *top->children[0]->children[0]->children[0];
     fakes::FakeFileManager files;

@@ -42,7 +42,7 @@ protected:
     fakes::FakeFileManager files;
 };
 
-TEST_F(AccessProbe, ownRecordThatOpensIsAccessAndNothingElseIsAsked) {
+TEST_F(AccessProbe, readableUserRecordGrantsAccessWithoutFurtherCalls) {
     addRecord(own, 0);
     addRecord(shared, EACCES);
     addMail(false);
@@ -53,7 +53,7 @@ TEST_F(AccessProbe, ownRecordThatOpensIsAccessAndNothingElseIsAsked) {
     EXPECT_THAT(files.pathsOf("list"), IsEmpty());
 }
 
-TEST_F(AccessProbe, ownRecordThatIsRefusedIsNoAccessThoughTheSharedOneOpens) {
+TEST_F(AccessProbe, refusedUserRecordDeniesAccess) {
     addRecord(shared, 0);
     for (const int refusal : {EPERM, EACCES}) {
         addRecord(own, refusal);
@@ -62,7 +62,7 @@ TEST_F(AccessProbe, ownRecordThatIsRefusedIsNoAccessThoughTheSharedOneOpens) {
     EXPECT_THAT(files.pathsOf("tryOpen"), ElementsAre(own, own));
 }
 
-TEST_F(AccessProbe, sharedRecordCountsWhereTheOwnIsMissing) {
+TEST_F(AccessProbe, systemRecordDecidesWithoutUserRecord) {
     addRecord(shared, EACCES);
     EXPECT_FALSE(probe());
     addRecord(shared, EPERM);
@@ -72,7 +72,7 @@ TEST_F(AccessProbe, sharedRecordCountsWhereTheOwnIsMissing) {
     EXPECT_TRUE(probe());
 }
 
-TEST_F(AccessProbe, recordThatCannotBeOpenedForAnotherReasonLeavesItToTheNext) {
+TEST_F(AccessProbe, otherErrorOnUserRecordFallsBackToSystemRecord) {
     addRecord(own, EMFILE);
     addRecord(shared, EACCES);
     EXPECT_FALSE(probe());
@@ -80,7 +80,7 @@ TEST_F(AccessProbe, recordThatCannotBeOpenedForAnotherReasonLeavesItToTheNext) {
     EXPECT_TRUE(probe());
 }
 
-TEST_F(AccessProbe, otherErrorsOnBothRecordsLeaveItToTheMail) {
+TEST_F(AccessProbe, otherErrorsOnBothRecordsFallBackToMail) {
     addRecord(own, EIO);
     addRecord(shared, EMFILE);
     addMail(false);
@@ -89,23 +89,23 @@ TEST_F(AccessProbe, otherErrorsOnBothRecordsLeaveItToTheMail) {
     EXPECT_TRUE(probe());
 }
 
-TEST_F(AccessProbe, mailThatCannotBeListedIsNoAccess) {
+TEST_F(AccessProbe, unlistableMailDeniesAccess) {
     addMail(false);
     EXPECT_FALSE(probe());
 }
 
-TEST_F(AccessProbe, mailThatCanBeListedIsAccessEvenIfEmpty) {
+TEST_F(AccessProbe, listableMailGrantsAccessEvenIfEmpty) {
     addMail(true);
     EXPECT_TRUE(probe());
 }
 
-TEST_F(AccessProbe, whereNothingIsThereNothingIsToBeGranted) {
+TEST_F(AccessProbe, grantsAccessWhereNothingIsProtected) {
     EXPECT_TRUE(probe());
     EXPECT_THAT(files.pathsOf("tryOpen"), IsEmpty());
     EXPECT_THAT(files.pathsOf("exists"), ElementsAre(own, shared, mail));
 }
 
-TEST_F(AccessProbe, homeAtTheTopHasTheSharedRecordAsItsOwn) {
+TEST_F(AccessProbe, rootAsHomeUsesSystemRecord) {
     addRecord(shared, 0);
     files.forgetCalls();
     EXPECT_TRUE(hasFullDiskAccess(files, "/"));
