@@ -29,8 +29,8 @@
 #include "ScratchLocations.h"
 #include "platform/NativePlatform.h"
 #include "reclaim/Cleaner.h"
-#include "reclaim/MainThreadCalls.h"
 #include "state/AppModel.h"
+#include "state/MainThreadQueue.h"
 #include "ui/shell/Application.h"
 #include "ui/shell/MainWindow.h"
 
@@ -89,7 +89,7 @@ std::ptrdiff_t threadCount() {
 }
 
 Cost cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclaimable> items) {
-    MainThreadCalls calls;
+    MainThreadQueue queue;
     std::optional<std::vector<Cleaner::Result>> ended;
     Cost cost;
     int beats = 0;
@@ -98,7 +98,7 @@ Cost cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclai
     };
     heart.start();
     const double before = processorMilliseconds();
-    Cleaner::cleanAll(std::move(items), false, platform, [&, sender = calls.sender()](auto results) {
+    Cleaner::cleanAll(std::move(items), false, platform, [&, sender = queue.sender()](auto results) {
         sender.post([&ended, results = std::move(results)]() mutable { ended = std::move(results); });
     });
     heart.beatUntil([&] { return ended.has_value(); });

@@ -10,7 +10,9 @@
 //   reclaim/     ReclaimCatalogue is the closed table of what may go; ReclaimClassifier finds it in a tree; Cleaner
 //                removes it
 //   system/      what the machine knows that a scan cannot see: AccessProbe
-//   state/       AppModel is the one state that every screen shows; SurveyHistory is the one file that Zelk writes
+//   state/       AppModel is the one state that every screen shows: SurveySession runs a survey into SurveyResults,
+//                CleanupSession removes, TrashMirror shows the Trash; SurveyHistory is the one file that Zelk writes;
+//                MainThreadQueue brings results back from tasks
 //   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand them to QML; DisplayText makes of bytes what
 //                a person reads; the symbols, one SVG each, and SymbolItem, which tints them
 //   ui/controls/ the base controls: role, keyboard and focus ring are solved here

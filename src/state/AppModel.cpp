@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The model's beginning and end, and what the user chose. The survey, the Trash and the figures stand in files of their
-// own beside this one.
 #include "state/AppModel.h"
 
 #include <algorithm>
+#include <iterator>
 
+#include "platform/ByteFormat.h"
 #include "platform/FolderPath.h"
-#include "state/ScanTask.h"
+#include "state/ReleaseElsewhere.h"
+#include "state/UserLocale.h"
 
 namespace zelk {
-
-namespace {
-
-/// A tree of a hundred thousand folders takes milliseconds to go, which the main thread must not spend. Emptied by the
-/// task itself, because a closure is copied on its way and the last copy may be dropped anywhere.
-template <class T>
-void releaseOn(BackgroundTasks& tasks, T value) {
-    tasks.run(TaskPriority::utility, [held = std::make_shared<T>(std::move(value))] { *held = T(); });
-}
-
-}  // namespace
 
 AppModel::AppModel(Platform platform, QObject* parent)
     : QObject(parent),
@@ -27,31 +17,19 @@ AppModel::AppModel(Platform platform, QObject* parent)
       historyFile_(std::make_shared<SurveyHistory>(platform.files, platform.locations)),
       history_(historyFile_->load()),
       home_(platform.locations.home()),
-      device_(platform.vitals.device()) {
+      device_(platform.vitals.device()),
+      results_(platform.tasks, [this](SurveyResults::Field field) { tell(field); }),
+      trash_(platform, removals_, mainThread_.sender(), [this] { emit trashChanged(); }),
+      cleanup_(platform, results_, removals_, mainThread_.sender()) {
     scanRoots_ = {home_};
 }
 
 AppModel::~AppModel() {
-    // From here on nothing that comes back from another thread finds its way to this object.
-    calls_.close();
-    if (scanTask_ != nullptr) {
-        releaseElsewhere(scanTask_->queue->terminate());
-        if (scanTask_->before) releaseElsewhere(std::move(scanTask_->before->root));
-    }
-    releaseElsewhere(std::move(root_));
+    // From here on no other thread finds its way back to this object.
+    mainThread_.close();
 }
 
-void AppModel::releaseElsewhere(NodeRef tree) {
-    if (tree) releaseOn(platform_.tasks, std::move(tree));
-}
-
-void AppModel::releaseElsewhere(std::vector<Reclaimable> items) {
-    if (!items.empty()) releaseOn(platform_.tasks, std::move(items));
-}
-
-void AppModel::releaseElsewhere(std::vector<ScanUpdate> updates) {
-    if (!updates.empty()) releaseOn(platform_.tasks, std::move(updates));
-}
+// What the user chose.
 
 void AppModel::setAppearance(Appearance appearance) {
     assign(appearance_, appearance, &AppModel::appearanceChanged);
@@ -82,18 +60,189 @@ void AppModel::setHardDeleteEnabled(bool enabled) {
     assign(hardDeleteEnabled_, enabled, &AppModel::hardDeleteEnabledChanged);
 }
 
+// The survey. Every signal may run a handler that cancels it or starts another one, so afterwards the task is compared.
+
+void AppModel::startScan() {
+    if (scanPhase_ == ScanPhase::scanning) return;
+    const auto session = std::make_shared<SurveySession>(
+        platform_, home_, results_, mainThread_.sender(),
+        SurveySession::Events{[this] { recordSurvey(root()->size, root()); },
+                              [this](std::vector<SurveyRecord> history) { finishSurvey(std::move(history)); }});
+    scanTask_ = session;
+    scanAgain_ = false;
+    assign(scanPhase_, ScanPhase::scanning, &AppModel::scanPhaseChanged);
+    if (scanTask_ != session) return;
+    results_.begin(firstPlace());
+    setVolume(platform_.vitals.volume(firstPlace()));
+    if (scanTask_ == session) session->start(scanRoots_);
+}
+
+void AppModel::scanAnew() {
+    if (scanPhase_ == ScanPhase::scanning)
+        scanAgain_ = true;
+    else
+        startScan();
+}
+
+void AppModel::cancelScan() {
+    if (const auto session = std::exchange(scanTask_, nullptr)) {
+        session->cancel();
+        if (!session->isRecorded()) results_.withdraw();
+    }
+    assign(scanPhase_, ScanPhase::idle, &AppModel::scanPhaseChanged);
+}
+
+void AppModel::tell(SurveyResults::Field field) {
+    switch (field) {
+        case SurveyResults::Field::progress:
+            return emit progressChanged();
+        case SurveyResults::Field::tree:
+            return emit rootChanged();
+        case SurveyResults::Field::reclaimables:
+            return emit reclaimablesChanged();
+        case SurveyResults::Field::insights:
+            return emit insightsChanged();
+    }
+}
+
+/// Makes the record here and has it written in a task: reading, encoding and flushing a full history takes long enough
+/// to show as a jerk in the last frame of a survey.
+void AppModel::recordSurvey(std::int64_t total, const NodeRef& tree) {
+    SurveyRecord record;
+    record.date = platform_.clock.now();
+    record.totalScanned = total;
+    if (volume_) {
+        record.used = std::max<std::int64_t>(0, volume_->total - volume_->available);
+        record.free = volume_->available;
+    }
+    record.reclaimable = reclaimableBytes();
+    for (const FileType type : allFileTypes)
+        if (insights().typeTotals.contains(type))
+            record.types.emplace(rawValue(type), insights().typeTotals[type].bytes);
+    scanTask_->record(std::move(record), tree, historyFile_);
+}
+
+void AppModel::finishSurvey(std::vector<SurveyRecord> history) {
+    const auto session = scanTask_;
+    const bool isNew = history != history_;
+    history_ = std::move(history);
+    results_.keep();
+    if (isNew) emit historyChanged();
+    if (scanTask_ != session) return;
+    trash_.settle(*root());
+    if (scanTask_ != session) return;
+    assign(scanPhase_, ScanPhase::finished, &AppModel::scanPhaseChanged);
+    if (scanAgain_ && scanTask_ == session) startScan();
+}
+
 void AppModel::setVolume(std::optional<VolumeInfo> volume) {
     assign(volume_, volume, &AppModel::volumeChanged);
 }
 
 void AppModel::readAbsentVolume() {
     if (volume_) return;
-    auto work = [this, sender = calls_.sender(), &vitals = platform_.vitals, home = home_] {
-        sender.post([this, volume = vitals.volume(home)] {
+    auto work = [this, mainThread = mainThread_.sender(), &vitals = platform_.vitals, home = home_] {
+        mainThread.post([this, volume = vitals.volume(home)] {
             if (!volume_) setVolume(volume);
         });
     };
     platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
+}
+
+// The Trash and what goes there.
+
+void AppModel::refreshTrash() {
+    trash_.refresh();
+}
+
+void AppModel::emptyTrash() {
+    trash_.empty([this] {
+        if (const auto volume = platform_.vitals.volume(firstPlace())) setVolume(volume);
+    });
+}
+
+void AppModel::cleanSafeCaches() {
+    if (std::vector<Reclaimable> items = safeItems(); !items.empty())
+        cleanup_.clean(std::move(items), [this] { scanAnew(); });
+}
+
+void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
+                              std::function<void(const std::vector<NodeRef>&)> done) {
+    cleanup_.trashFolders(nodes, std::move(done));
+}
+
+void AppModel::trashLargeFile(const std::string& path) {
+    cleanup_.trashLargeFile(path);
+}
+
+void AppModel::removeFromTree(FSNode& node) {
+    results_.remove(node);
+}
+
+void AppModel::releaseElsewhere(NodeRef tree) {
+    if (tree) zelk::releaseElsewhere(platform_.tasks, std::move(tree));
+}
+
+// Derived values.
+
+std::int64_t AppModel::reclaimableBytes() const {
+    return totalSize(reclaimables());
+}
+
+std::vector<Reclaimable> AppModel::safeItems() const {
+    std::vector<Reclaimable> items;
+    std::copy_if(reclaimables().begin(), reclaimables().end(), std::back_inserter(items),
+                 [](const Reclaimable& item) { return item.safety == ReclaimSafety::safe; });
+    return items;
+}
+
+std::int64_t AppModel::safeBytes() const {
+    std::int64_t bytes = 0;
+    for (const Reclaimable& item : reclaimables())
+        if (item.safety == ReclaimSafety::safe) bytes += static_cast<std::int64_t>(item.size);
+    return bytes;
+}
+
+std::int64_t AppModel::freeBytes() const {
+    if (volume_) return volume_->available;
+    const std::optional<VolumeInfo> read = platform_.vitals.volume(firstPlace());
+    return read ? read->available : 0;
+}
+
+std::string AppModel::progressLine() const {
+    const QLocale locale = userLocale();
+    const std::string items = locale.toString(static_cast<qlonglong>(itemsScanned())).toStdString();
+    return items + " items · " + byteText(bytesScanned(), locale.decimalPoint().toStdString());
+}
+
+ReclaimTotals AppModel::reclaimTotals() const {
+    return totalsByCategory(reclaimables());
+}
+
+std::vector<std::pair<FileType, TypeTally>> AppModel::sortedTypeTotals() const {
+    std::vector<std::pair<FileType, TypeTally>> totals;
+    for (const FileType type : allFileTypes)
+        if (insights().typeTotals.contains(type)) totals.emplace_back(type, insights().typeTotals[type]);
+    std::stable_sort(totals.begin(), totals.end(),
+                     [](const auto& a, const auto& b) { return a.second.bytes > b.second.bytes; });
+    return totals;
+}
+
+std::vector<NodeRef> AppModel::topFolders() const {
+    if (!root()) return {};
+    const FSNode& level = root()->children.size() == 1 ? *root()->children.front() : *root();
+    std::vector<NodeRef> folders = level.children;
+    std::stable_sort(folders.begin(), folders.end(),
+                     [](const NodeRef& a, const NodeRef& b) { return a->size > b->size; });
+    return folders;
+}
+
+std::optional<std::int64_t> AppModel::daysUntilFull() const {
+    return zelk::daysUntilFull(history_);
+}
+
+std::optional<AppModel::FolderChanges> AppModel::folderChanges() const {
+    return zelk::folderChanges(history_);
 }
 
 std::string_view rawValue(AppModel::Audience audience) {

@@ -6,7 +6,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -14,49 +13,42 @@
 #include <vector>
 
 #include "platform/Platform.h"
-#include "reclaim/MainThreadCalls.h"
 #include "reclaim/ReclaimCatalogue.h"
 #include "reclaim/ReclaimTotals.h"
-#include "reclaim/RemovalsModel.h"
 #include "scan/ScanUpdate.h"
+#include "state/CleanupSession.h"
+#include "state/MainThreadQueue.h"
+#include "state/RemovalsModel.h"
 #include "state/Screen.h"
 #include "state/SurveyHistory.h"
+#include "state/SurveyResults.h"
+#include "state/SurveySession.h"
+#include "state/TrashMirror.h"
 
 namespace zelk {
 
-/// The state of the application: one instance for the whole run, shared with every screen. It starts and cancels
-/// surveys, folds their updates into plain fields, keeps what the last one found and mirrors the Trash.
+/// The state of the application: one instance for the whole run, shared by every screen. It holds what the user chose
+/// and puts four collaborators behind one face: a SurveySession runs a survey, SurveyResults hold what it found,
+/// CleanupSession removes things, and TrashMirror shows the Trash.
 ///
-/// Main thread only. Every field has a signal that is emitted after a write that changed its value. A handler of a
-/// signal may call anything here, but must not delete the model other than by deleteLater().
+/// Main thread only. Every field has a signal that is emitted after a write that changed its value. A handler may call
+/// anything here, but must not delete the model other than by deleteLater(). No operation reports an error: what
+/// cannot be read is zero, empty or absent, and what cannot be moved stays.
 class AppModel : public QObject {
     Q_OBJECT
-    Q_PROPERTY(Appearance appearance READ appearance WRITE setAppearance NOTIFY appearanceChanged)
-    Q_PROPERTY(Audience audience READ audience WRITE setAudience NOTIFY audienceChanged)
-    Q_PROPERTY(ScanPhase scanPhase READ scanPhase NOTIFY scanPhaseChanged)
-    Q_PROPERTY(qint64 itemsScanned READ itemsScanned NOTIFY itemsScannedChanged)
-    Q_PROPERTY(qint64 bytesScanned READ bytesScanned NOTIFY bytesScannedChanged)
-    Q_PROPERTY(qint64 blockedPaths READ blockedPaths NOTIFY blockedPathsChanged)
-    Q_PROPERTY(qint64 trashBytes READ trashBytes NOTIFY trashBytesChanged)
-    Q_PROPERTY(bool trashAccessible READ trashAccessible NOTIFY trashAccessibleChanged)
-    Q_PROPERTY(bool trashLoading READ trashLoading NOTIFY trashLoadingChanged)
-    Q_PROPERTY(bool emptyingTrash READ emptyingTrash NOTIFY emptyingTrashChanged)
-    Q_PROPERTY(qint64 ageFilterDays READ ageFilterDays WRITE setAgeFilterDays NOTIFY ageFilterDaysChanged)
-    Q_PROPERTY(bool hardDeleteEnabled READ hardDeleteEnabled WRITE setHardDeleteEnabled NOTIFY hardDeleteEnabledChanged)
 
 public:
     enum class ScanPhase { idle, scanning, finished };
     enum class Audience { normal, developer };
     enum class Appearance { system, light, dark };
-    Q_ENUM(ScanPhase)
-    Q_ENUM(Audience)
-    Q_ENUM(Appearance)
+    using FolderChange = zelk::FolderChange;
+    using FolderChanges = zelk::FolderChanges;
 
-    /// The services must outlive the model and, where a scan or a background task is under way when it goes, these too.
+    /// The services must outlive the model and every scan and background task that is running when the model goes.
     explicit AppModel(Platform platform, QObject* parent = nullptr);
     ~AppModel() override;
 
-    // What the user chose; back to the defaults at every launch.
+    // What the user chose. Every launch begins with the defaults.
     Appearance appearance() const { return appearance_; }
     void setAppearance(Appearance appearance);
     Audience audience() const { return audience_; }
@@ -64,7 +56,7 @@ public:
     Screen selection() const { return selection_; }
     void setSelection(Screen screen);
     const std::vector<std::string>& scanRoots() const { return scanRoots_; }
-    /// Normal folders, each once: one that is surveyed under two spellings would count twice.
+    /// Normalizes the folders and drops duplicates: a folder under two spellings would be counted twice.
     void setScanRoots(const std::vector<std::string>& roots);
     std::int64_t ageFilterDays() const { return ageFilterDays_; }
     void setAgeFilterDays(std::int64_t days);
@@ -73,32 +65,31 @@ public:
 
     // The survey.
     ScanPhase scanPhase() const { return scanPhase_; }
-    std::int64_t itemsScanned() const { return itemsScanned_; }
-    std::int64_t bytesScanned() const { return bytesScanned_; }
-    const std::string& currentPath() const { return currentPath_; }
-    std::int64_t blockedPaths() const { return blockedPaths_; }
-    const NodeRef& root() const { return root_; }
-    const std::optional<ScanStats>& stats() const { return stats_; }
-    const std::vector<Reclaimable>& reclaimables() const { return reclaimables_; }
-    const ScanInsights& insights() const { return insights_; }
+    std::int64_t itemsScanned() const { return results_.progress().items; }
+    std::int64_t bytesScanned() const { return results_.progress().bytes; }
+    const std::string& currentPath() const { return results_.progress().currentPath; }
+    std::int64_t blockedPaths() const { return results_.progress().blockedPaths; }
+    const NodeRef& root() const { return results_.root(); }
+    const std::optional<ScanStats>& stats() const { return results_.stats(); }
+    const std::vector<Reclaimable>& reclaimables() const { return results_.reclaimables(); }
+    const ScanInsights& insights() const { return results_.insights(); }
     const std::optional<VolumeInfo>& volume() const { return volume_; }
     void setVolume(std::optional<VolumeInfo> volume);
-    /// Reads that of the home folder where there is none yet, in a task: a volume that does not answer must not hold
-    /// the first frame.
+    /// Reads the volume of the home folder if there is none yet. In a task: a volume that does not answer must not
+    /// delay the first frame.
     void readAbsentVolume();
     const std::vector<SurveyRecord>& history() const { return history_; }
 
     // The Trash.
-    std::int64_t trashBytes() const { return trashBytes_; }
-    bool trashAccessible() const { return trashAccessible_; }
-    bool trashLoading() const { return trashLoading_; }
-    bool emptyingTrash() const { return emptyingTrash_; }
+    std::int64_t trashBytes() const { return trash_.bytes(); }
+    bool trashAccessible() const { return trash_.accessible(); }
+    bool trashLoading() const { return trash_.loading(); }
+    bool emptyingTrash() const { return trash_.emptying(); }
 
-    /// What is being taken away, here and by the models of screens.
+    /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
-    /// The services, for the models of screens that do things of their own.
+    /// The services, for the models of screens.
     const Platform& platform() const { return platform_; }
-    /// The desktop around the application, for screens that show things in it.
     Workspace& workspace() const { return platform_.workspace; }
     const std::string& home() const { return home_; }
     const DeviceInfo& device() const { return device_; }
@@ -114,45 +105,45 @@ public:
     ReclaimTotals reclaimTotals() const;
     /// By bytes, largest first.
     std::vector<std::pair<FileType, TypeTally>> sortedTypeTotals() const;
-    /// The first meaningful level (below the only root, or the roots), largest first; empty without a tree.
+    /// The folders below the only scan root, or the scan roots if there are several, largest first. Empty without a
+    /// tree.
     std::vector<NodeRef> topFolders() const;
     std::optional<std::int64_t> daysUntilFull() const;
     std::optional<FolderChanges> folderChanges() const;
 
-public slots:
     /// Does nothing while a survey runs.
     void startScan();
-    /// After a cleaning: a new survey, which begins when the one that runs has finished, as that one came by before. A
-    /// cancel of it ends both.
+    /// Starts a survey, or has another one follow a survey that is running, which may have passed what was cleaned.
+    /// Cancelling the latter cancels both.
     void scanAnew();
     void cancelScan();
-    /// Measures the Trash again. Measures and emptyings may overlap: the last to end is what the fields tell.
-    void refreshTrash();
-    /// Removes for good what the Trash holds, measures what is left and reads the volume again. Does nothing while it
-    /// does so already.
-    void emptyTrash();
-    /// Moves `safeItems()` to the Trash (or lets their tools run) without a review, then starts a survey.
-    void cleanSafeCaches();
 
-public:
-    /// Moves a directory to the Trash and, once it is there, takes it out of the results by removeFromTree(). If it
-    /// cannot be moved, nothing changes.
+    /// Measures the Trash again.
+    void refreshTrash();
+    /// Removes for good what the Trash holds, then measures it and reads the volume again. Does nothing while an
+    /// emptying is running.
+    void emptyTrash();
+
+    /// Cleans `safeItems()` without a review, then starts a survey.
+    void cleanSafeCaches();
+    /// Moves a directory to the Trash and, once it is there, removes it from the results as removeFromTree() does. If
+    /// it cannot be moved, nothing changes.
     void trashAndRemove(FSNode& node) { trashAndRemove({NodeRef(&node)}, {}); }
-    /// The same for several, one after the other in this order. When the last one has been tried, `done` hears which
-    /// of them are in the Trash; never, if the model has gone by then. What stands at the same path in the results at
-    /// hand goes too where that is another tree, and in those of a survey under way when it ends.
+    /// Does so for several directories, one after the other in this order. After the last was tried, `done` gets those
+    /// that are in the Trash; it is not called if the model has gone by then. A directory that the current results
+    /// contain under the same path but in another tree is removed too, as is one that a running survey reports later.
     void trashAndRemove(const std::vector<NodeRef>& nodes, std::function<void(const std::vector<NodeRef>&)> done);
-    /// Moves the file at `path`, below a root of the survey at hand, to the Trash; of a link that has taken its place
-    /// the link itself. Once it is there, every entry with that path leaves the large files, also those that a survey
-    /// under way goes on to report; all other results keep counting it. If it cannot be moved, or a link has taken the
-    /// place of a folder on the way to it, nothing changes.
+    /// Moves the file at `path`, below a root of the last survey, to the Trash; a link that has replaced it is moved
+    /// itself. Once it is there, the large files no longer contain that path, not even if a running survey reports it
+    /// later; all other results keep counting it. If it cannot be moved, or a link has replaced a folder on the way to
+    /// it, nothing changes.
     void trashLargeFile(const std::string& path);
-    /// Takes a directory out of the results after it was moved away: its size off all above it, and with it the items
-    /// and large files at and below its path. What tells of the survey as it ran stays. While the classifier reads the
-    /// tree this waits for its end. The node may be gone afterwards, unless the caller holds a reference. A node of an
-    /// older tree leaves that one, which is told by no signal.
+    /// Removes a directory from the results after it was moved away: subtracts its size from every folder above it, and
+    /// drops the items and large files at and below its path. What describes the survey as it ran stays. Waits until
+    /// the classifier no longer reads the tree. The node may be gone afterwards unless the caller holds a reference. A
+    /// node of an older tree leaves that tree, which no signal tells.
     void removeFromTree(FSNode& node);
-    /// Drops a reference on another thread: the last one to a tree takes milliseconds to go.
+    /// Drops a reference on another thread: destroying a tree takes milliseconds.
     void releaseElsewhere(NodeRef tree);
 
 signals:
@@ -163,44 +154,20 @@ signals:
     void ageFilterDaysChanged();
     void hardDeleteEnabledChanged();
     void scanPhaseChanged();
-    void itemsScannedChanged();
-    void bytesScannedChanged();
-    void currentPathChanged();
-    void blockedPathsChanged();
-    void rootChanged();  ///< another tree, or removeFromTree took something out of this one
-    void statsChanged();
+    void progressChanged();  ///< itemsScanned, bytesScanned, currentPath or blockedPaths
+    void rootChanged();      ///< another tree with its stats, or removeFromTree() took something out of this one
     void reclaimablesChanged();
     void insightsChanged();
     void volumeChanged();
     void historyChanged();
-    void trashBytesChanged();
-    void trashAccessibleChanged();
-    void trashLoadingChanged();
-    void emptyingTrashChanged();
+    void trashChanged();  ///< trashBytes, trashAccessible, trashLoading or emptyingTrash
 
 private:
-    struct ScanTask;
-
-    void consumeUpdates(const std::shared_ptr<ScanTask>& task);
-    void take(const std::shared_ptr<ScanTask>& task, ScanUpdate update);
-    void finish(const std::shared_ptr<ScanTask>& task, update::Finished finished);
-    void classify(const std::shared_ptr<ScanTask>& task);
-    void completeFinish(const std::shared_ptr<ScanTask>& task, std::vector<Reclaimable> items);
-    void removeWhatWaited(ScanTask& task);
-    void withdraw(ScanTask& task);
-    void dropLargeFile(const std::string& path);
-    ScanTask* walkUnderWay() const;  // null without one
-    std::vector<NodeRef> treesAtHand() const;
-    std::string_view rootAbove(std::string_view path) const;
-    void recordSurvey(const std::shared_ptr<ScanTask>& task, std::int64_t total, const NodeRef& tree);
-    void conclude(const std::shared_ptr<ScanTask>& task, std::vector<SurveyRecord> history);
-    void settleTrash();
-    void takeTrashMeasure(std::optional<std::uint64_t> bytes);
-    void setReclaimables(std::vector<Reclaimable> items);
-    /// The path of the first scan root: the place that the volume and the first line of progress speak of.
+    void tell(SurveyResults::Field field);
+    void recordSurvey(std::int64_t total, const NodeRef& tree);
+    void finishSurvey(std::vector<SurveyRecord> history);
+    /// The first scan root, or the home folder if there is none: the place whose volume is shown.
     const std::string& firstPlace() const { return scanRoots_.empty() ? home_ : scanRoots_.front(); }
-    void releaseElsewhere(std::vector<ScanUpdate> updates);
-    void releaseElsewhere(std::vector<Reclaimable> items);
 
     template <class T>
     void assign(T& field, std::type_identity_t<T> value, void (AppModel::*changed)()) {
@@ -216,31 +183,21 @@ private:
     Audience audience_ = Audience::normal;
     Screen selection_ = Screen::survey;
     ScanPhase scanPhase_ = ScanPhase::idle;
-    std::int64_t itemsScanned_ = 0;
-    std::int64_t bytesScanned_ = 0;
-    std::string currentPath_;
-    std::int64_t blockedPaths_ = 0;
-    NodeRef root_;
-    std::optional<ScanStats> stats_;
-    std::vector<Reclaimable> reclaimables_;
-    ScanInsights insights_;
     std::optional<VolumeInfo> volume_;
-    std::int64_t trashBytes_ = 0;
-    bool trashAccessible_ = true;
-    bool trashLoading_ = false;
-    bool emptyingTrash_ = false;
     std::vector<SurveyRecord> history_;
     std::vector<std::string> scanRoots_;
     std::int64_t ageFilterDays_ = 14;
     bool hardDeleteEnabled_ = false;
     std::string home_;
     DeviceInfo device_;
-    std::shared_ptr<ScanTask> scanTask_;  // ended or not; absent after a cancel
-    // The tops of trees that a cancel withdrew while another thread read them: not to be changed, if they are there at
-    // all.
-    std::set<const FSNode*> withdrawn_;
+
+    MainThreadQueue mainThread_;
     RemovalsModel removals_;
-    MainThreadCalls calls_;
+    SurveyResults results_;
+    TrashMirror trash_;
+    CleanupSession cleanup_;
+    std::shared_ptr<SurveySession> scanTask_;  // running or finished; absent after a cancel
+    bool scanAgain_ = false;                   // when that one has finished
 };
 
 /// "Normal", "Developer".

@@ -6,11 +6,11 @@
 
 namespace zelk {
 
-/// A path as a key of the history file, which is JSON and so holds text, while a path is bytes.
+/// Encodes a path, which is bytes, as a key of the history file, which is JSON and so holds text.
 ///
-/// A path that is text stands there as it is. Any other becomes a file URL with its bytes percent-escaped
-/// ("/a/\xFF" is "file:///a/%FF"): no absolute path begins like that, so no two paths share a key. Whatever begins like
-/// one and is none of ours is escaped again or taken as it stands, so that every path comes back as it went in.
+/// A UTF-8 path is its own key. Any other becomes a file URL with percent-escaped bytes ("/a/\xFF" is "file:///a/%FF").
+/// No absolute path begins like that, so no two paths share a key. A path that only looks like such a URL is escaped
+/// when written and taken verbatim when read, so that every path survives the round trip.
 QString historyKey(const std::string& path);
 std::string pathOfHistoryKey(const QString& key);
 

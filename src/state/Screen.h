@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-/// The closed list of the modules, in the order of the "Go" menu.
+/// The modules, in the order of the "Go" menu.
 enum class Screen {
     survey,
     reclaim,

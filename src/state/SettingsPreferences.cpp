@@ -29,7 +29,7 @@ void SettingsPreferences::setFlag(const std::string& key, bool value) {
     }
     unkept_.erase(key);
     settings_.setValue(QString::fromStdString(key), value);
-    settings_.sync();  // whatever becomes of this run
+    settings_.sync();  // at once, in case this run crashes
 }
 
 }  // namespace zelk

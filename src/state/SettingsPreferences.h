@@ -10,13 +10,13 @@
 
 namespace zelk {
 
-/// In the place where the system keeps what its users prefer: the user defaults on macOS, where the slash of a key is
-/// stored as a dot; "Zelk/Zelk.conf" in the XDG configuration home on Linux. What is set while the home folder does not
-/// exist lasts for this run only, for keeping it would make that folder.
+/// Stores flags where the system keeps preferences: in the user defaults on macOS, where the slash of a key becomes a
+/// dot, and in "Zelk/Zelk.conf" in the XDG configuration home on Linux. While the home folder does not exist, flags
+/// last for this run only, because storing them would create that folder. Main thread only; failures are silent.
 class SettingsPreferences : public Preferences {
 public:
     SettingsPreferences() : settings_(QStringLiteral("Zelk"), QStringLiteral("Zelk")) {}
-    /// In a file of its own, for programs that must not touch what the user prefers.
+    /// Uses another file, for programs that must not touch the user's preferences.
     explicit SettingsPreferences(const QString& file) : settings_(file, QSettings::IniFormat) {}
 
     bool flag(const std::string& key) override;

@@ -18,8 +18,9 @@ namespace {
 /// 2001-01-01 00:00:00 UTC, from which the file counts its seconds.
 constexpr TimePoint fileEpoch = 978307200;
 
-/// The number that the file holds for `date`. Subtracting rounds far away from the present, so of the neighbours the
-/// one is taken that is read back as `date`. A date that is no number would cost the whole file: it is written as 0.
+/// The number that the file holds for `date`. Subtraction rounds dates far from the present, so this takes the
+/// neighbour that reads back as `date`. A date that is not finite would make the whole file invalid and is written as
+/// 0.
 double fileSeconds(TimePoint date) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     if (!std::isfinite(date)) return 0;
@@ -30,8 +31,8 @@ double fileSeconds(TimePoint date) {
     return near;
 }
 
-/// "5.0" becomes "5", strings left alone. JSON knows one kind of number and other writers use it; read as a floating
-/// point number, a size above 2^53 would lose its last digits.
+/// Turns "5.0" into "5" outside strings. Other writers give integers a fraction, and read as a floating-point number a
+/// size above 2^53 would lose its last digits.
 QByteArray withoutEmptyFractions(std::string_view json) {
     QByteArray out;
     out.reserve(static_cast<qsizetype>(json.size()));
@@ -54,13 +55,13 @@ QByteArray withoutEmptyFractions(std::string_view json) {
 }
 
 std::optional<std::int64_t> integer(const QJsonValue& value) {
-    // Anything but a 64-bit integer gives the default, whichever it is.
+    // Anything but a 64-bit integer gives the default: two different defaults tell it from a number.
     const qint64 read = value.toInteger(0);
     if (!value.isDouble() || read != value.toInteger(1)) return std::nullopt;
     return read;
 }
 
-/// Takes `object[key]` over; false if it is missing or no integer.
+/// Copies `object[key]`; false if it is missing or not an integer.
 bool take(std::int64_t& field, const QJsonObject& object, QLatin1StringView key) {
     const std::optional<std::int64_t> value = integer(object.value(key));
     field = value.value_or(0);
@@ -145,8 +146,8 @@ std::optional<std::string> SurveyHistory::location() const {
     const std::optional<std::string> support = locations_.applicationSupport();
     if (!support) return std::nullopt;
     const std::string folder = *support + "/Zelk";
-    // Without the folder, reading and writing fail by themselves. A home folder that is not there (yet, on a volume
-    // that comes later) is not ours to make.
+    // Without the folder, reading and writing simply fail. Never creates the home folder: it may be on a volume that is
+    // mounted later.
     const std::string home = locations_.home();
     if (!isInFolder(folder, home) || files_.exists(home)) files_.createDirectories(folder);
     return folder + "/history.json";
@@ -158,12 +159,12 @@ std::vector<SurveyRecord> SurveyHistory::load() const {
     return json ? decodeHistory(*json).value_or(std::vector<SurveyRecord>()) : std::vector<SurveyRecord>();
 }
 
-std::vector<SurveyRecord> SurveyHistory::append(const SurveyRecord& record) {
-    return *appendIf([] { return true; }, record);
+std::vector<SurveyRecord> SurveyHistory::appendHistory(const SurveyRecord& record) {
+    return *appendHistoryIf([] { return true; }, record);
 }
 
-std::optional<std::vector<SurveyRecord>> SurveyHistory::appendIf(std::function<bool()> stillWanted,
-                                                                 const SurveyRecord& record) {
+std::optional<std::vector<SurveyRecord>> SurveyHistory::appendHistoryIf(std::function<bool()> stillWanted,
+                                                                        const SurveyRecord& record) {
     const std::lock_guard lock(writing_);
     std::vector<SurveyRecord> records = load();
     withdrawUnwanted(records);
@@ -175,7 +176,7 @@ std::optional<std::vector<SurveyRecord>> SurveyHistory::appendIf(std::function<b
     const std::string json = encodeHistory(records);
     const std::optional<std::string> path = location();
     if (!last.stillWanted()) return std::nullopt;
-    // As long as the file is not written, what is to be taken out of it is the record before this one.
+    // If the write fails, the last record of the file is still the one before.
     if (path && files_.replaceDurably(*path, json)) last_ = std::move(last);
     return records;
 }

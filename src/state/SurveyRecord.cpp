@@ -14,7 +14,7 @@ constexpr double minimumDays = 0.2;
 constexpr std::uint64_t minimumGrowth = 50'000'000;
 constexpr double int64Range = 9223372036854775808.0;  // 2^63
 
-/// What the larger is above the smaller. Unsigned, for the history file may hold any two numbers.
+/// The larger number minus the smaller. Unsigned, because the history file may hold any two numbers.
 std::uint64_t distance(std::int64_t smaller, std::int64_t larger) {
     return static_cast<std::uint64_t>(larger) - static_cast<std::uint64_t>(smaller);
 }
@@ -24,8 +24,8 @@ struct Note {
     std::size_t depth;
 };
 
-/// By the names from the first folder on in which they differ. Both lie equally deep. Climbs instead of building the
-/// paths: in a chain of thousands of folders all have one size, and their paths together would be gigabytes.
+/// Compares the paths of two nodes of equal depth. Climbs to where they differ instead of building the paths: in a
+/// chain of thousands of folders all have the same size, and their paths would take gigabytes.
 bool pathIsLess(const FSNode* a, const FSNode* b) {
     int order = 0;
     for (; a != b && a != nullptr && b != nullptr; a = a->parent(), b = b->parent()) {
@@ -34,8 +34,8 @@ bool pathIsLess(const FSNode* a, const FSNode* b) {
     return order < 0;
 }
 
-/// Larger first; of equal ones the one nearer to the top, then by path, so that the choice does not hang on the order
-/// in which a folder happens to be delivered.
+/// Orders by size, largest first, then by depth, then by path, so that the choice does not depend on the order in which
+/// the system lists a folder.
 bool goesBehind(const Note& a, const Note& b) {
     if (a.node->size != b.node->size) return a.node->size < b.node->size;
     if (a.depth != b.depth) return a.depth > b.depth;
@@ -85,12 +85,12 @@ std::optional<std::int64_t> daysUntilFull(const std::vector<SurveyRecord>& histo
     const SurveyRecord& first = history.front();
     const SurveyRecord& last = history.back();
     const double days = (last.date - first.date) / secondsPerDay;
-    // Written so that a date that is no number gives no answer either.
+    // Negated, so that a date that is not a number gives no answer either.
     if (!(days > minimumDays) || last.used <= first.used || last.free < 1) return std::nullopt;
     const double rate = static_cast<double>(distance(first.used, last.used)) / days;
     if (!(rate > 0)) return std::nullopt;
     const double left = static_cast<double>(last.free) / rate;
-    // Further off than an integer tells is as good as never.
+    // More days than an integer holds is as good as never.
     if (!(left < int64Range)) return std::nullopt;
     return static_cast<std::int64_t>(left);
 }
@@ -117,7 +117,7 @@ std::optional<FolderChanges> folderChanges(const std::vector<SurveyRecord>& hist
     for (const auto& [path, size] : *before) {
         if (!now->contains(path)) changes.gone.push_back({path, size, 0});
     }
-    // The maps give paths in order, so equal figures stay in the order of their paths.
+    // The maps are sorted by path, so a stable sort keeps equal sizes in the order of their paths.
     const auto sortBy = [](std::vector<FolderChange>& list, auto figure) {
         std::stable_sort(list.begin(), list.end(),
                          [&](const FolderChange& a, const FolderChange& b) { return figure(a) > figure(b); });

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stays of a survey when its tree is gone.
+// The record that is kept of each survey, and what can be derived from several of them.
 #pragma once
 
 #include <cstddef>
@@ -28,7 +28,7 @@ struct SurveyRecord {
     bool operator==(const SurveyRecord&) const = default;
 };
 
-/// A folder's size in two surveys; 0 where it is in one only.
+/// A folder's size in two surveys; 0 in the one that does not contain it.
 struct FolderChange {
     std::string path;
     std::int64_t oldSize = 0;
@@ -45,16 +45,16 @@ struct FolderChanges {
     bool operator==(const FolderChanges&) const = default;
 };
 
-/// The `limit` largest descendants of `tree` (the scan roots included, `tree` itself not) of at least `minSize` bytes.
-/// Ends the process if two scan roots are the same path: the settings never let that happen. A folder that is reached
-/// through two roots, one inside the other, is noted once.
+/// The `limit` largest descendants of `tree` (including the scan roots, excluding `tree` itself) of at least `minSize`
+/// bytes. A folder that is reached through two nested roots counts once. Aborts if two scan roots have the same path,
+/// which AppModel prevents.
 SizeByPath bigFolders(const FSNode& tree, std::int64_t minSize, std::size_t limit);
 
-/// When the volume will be full at the rate from the first record to the last; absent without growth, without free
-/// space, or with less than 4.8 hours between them.
+/// Days until the volume is full at the rate from the first record to the last. Absent without growth, without free
+/// space, or with 4.8 hours or less between the two.
 std::optional<std::int64_t> daysUntilFull(const std::vector<SurveyRecord>& history);
 
-/// Between the last two records that hold folders; absent if there are not two.
+/// The changes between the last two records that hold folders; absent if there are fewer than two.
 std::optional<FolderChanges> folderChanges(const std::vector<SurveyRecord>& history);
 
 }  // namespace zelk

@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-/// The user's locale. The plain C locale is nobody's language and reads as American English, with its digit groups.
+/// The user's locale. Replaces the C locale by American English, which groups digits.
 QLocale userLocale();
 
 }  // namespace zelk

@@ -52,18 +52,10 @@ std::string_view systemOf(std::string_view path) {
     return {};
 }
 
-/// Or what carries other threads' words to the models.
-bool isModel(const std::string& path) {
-    const std::string stem = std::filesystem::path(path).stem().string();
-    return stem.ends_with("Model") || stem == "MainThreadCalls";
-}
-
 /// Whether the file at this path from src/ is an algorithm or an interface of the standard library alone.
 bool isQtFree(const std::string& path) {
-    if (path.starts_with("scan/")) return true;
     if (path.starts_with("platform/")) return systemOf(path).empty();
-    if (path.starts_with("reclaim/") || path.starts_with("system/")) return !isModel(path);
-    return false;
+    return path.starts_with("scan/") || path.starts_with("reclaim/") || path.starts_with("system/");
 }
 
 bool isUpper(char c) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A cancel at every moment at which a survey can be met. Wherever it comes, nothing is left of that survey.
+// Cancels a survey in each of its states. Nothing of it must be left.
 #include "AppModelFixture.h"
 
 namespace zelk {
@@ -7,7 +7,7 @@ namespace {
 
 class AppModelCancelTest : public AppModelFixture {
 protected:
-    /// A survey before, of which every figure differs from the one that is to be cancelled.
+    /// Runs an earlier survey whose figures all differ from those of the one that is cancelled.
     void surveyBefore() {
         machine.directories.file("/before/file", 512);
         model().setScanRoots({"/before"});
@@ -30,7 +30,7 @@ protected:
         EXPECT_EQ(historyFile(), recordBefore_);
     }
 
-    /// Now, and when all that was under way has come in.
+    /// Checks now, and again when everything that was running has ended.
     void expectNothingLeftForGood() {
         expectNothingLeft();
         machine.tasks.release();
@@ -38,7 +38,7 @@ protected:
         expectNothingLeft();
     }
 
-    /// Surveys, and cancels in the first handler of `changed` for which `when` holds.
+    /// Starts a survey and cancels it in the first handler of `changed` for which `when` holds.
     template <class When>
     void cancelInHandler(void (AppModel::*changed)(), When when) {
         surveyBefore();
@@ -68,7 +68,7 @@ TEST_F(AppModelCancelTest, beforeAnythingWasRead) {
     expectNothingLeftForGood();
 }
 
-TEST_F(AppModelCancelTest, beforeTheFirstUpdate) {
+TEST_F(AppModelCancelTest, beforeFirstUpdate) {
     surveyBefore();
     machine.directories.hold(home + "/projects");
     model().startScan();
@@ -87,7 +87,7 @@ TEST_F(AppModelCancelTest, afterProgress) {
     expectNothingLeftForGood();
 }
 
-TEST_F(AppModelCancelTest, whenAllUpdatesAreThereAndNoneIsTaken) {
+TEST_F(AppModelCancelTest, withAllUpdatesQueued) {
     surveyBefore();
     model().startScan();
     machine.waitForThreads();
@@ -99,7 +99,7 @@ TEST_F(AppModelCancelTest, betweenInsightsAndFinished) {
     cancelInHandler(&AppModel::insightsChanged, [&] { return !model().insights().topFiles.empty(); });
 }
 
-TEST_F(AppModelCancelTest, whenTheTreeHasJustArrived) {
+TEST_F(AppModelCancelTest, whenTreeArrives) {
     surveyBefore();
     const NodeRef before = model().root();
     bool cancelled = false;
@@ -113,8 +113,8 @@ TEST_F(AppModelCancelTest, whenTheTreeHasJustArrived) {
     expectNothingLeftForGood();
 }
 
-TEST_F(AppModelCancelTest, whileTheFinalFiguresAreWritten) {
-    cancelInHandler(&AppModel::itemsScannedChanged, [&] { return model().itemsScanned() != 0; });
+TEST_F(AppModelCancelTest, whenFinalFiguresArrive) {
+    cancelInHandler(&AppModel::progressChanged, [&] { return model().itemsScanned() != 0; });
 }
 
 TEST_F(AppModelCancelTest, duringClassification) {
@@ -125,7 +125,7 @@ TEST_F(AppModelCancelTest, duringClassification) {
     expectNothingLeftForGood();
 }
 
-TEST_F(AppModelCancelTest, withTheClassifiersItemsOnTheirWay) {
+TEST_F(AppModelCancelTest, withClassifiedItemsQueued) {
     surveyBefore();
     surveyUpToClassification();
     machine.tasks.release();
@@ -133,11 +133,11 @@ TEST_F(AppModelCancelTest, withTheClassifiersItemsOnTheirWay) {
     expectNothingLeftForGood();
 }
 
-TEST_F(AppModelCancelTest, whenTheItemsHaveJustArrived) {
+TEST_F(AppModelCancelTest, whenClassifiedItemsArrive) {
     cancelInHandler(&AppModel::reclaimablesChanged, [&] { return !model().reclaimables().empty(); });
 }
 
-TEST_F(AppModelCancelTest, beforeTheRecordIsWritten) {
+TEST_F(AppModelCancelTest, beforeRecordIsWritten) {
     surveyBefore();
     surveyUpToClassification();
     classifyUpToTheRecord();
@@ -145,7 +145,7 @@ TEST_F(AppModelCancelTest, beforeTheRecordIsWritten) {
     expectNothingLeftForGood();
 }
 
-TEST_F(AppModelCancelTest, whileTheRecordIsBeingWritten) {
+TEST_F(AppModelCancelTest, whileRecordIsWritten) {
     surveyBefore();
     surveyUpToClassification();
     classifyUpToTheRecord();
@@ -161,7 +161,7 @@ TEST_F(AppModelCancelTest, whileTheRecordIsBeingWritten) {
     expectNothingLeft();
 }
 
-TEST_F(AppModelCancelTest, withTheHistoryOnItsWay) {
+TEST_F(AppModelCancelTest, withHistoryQueued) {
     surveyBefore();
     surveyUpToClassification();
     classifyUpToTheRecord();
@@ -172,15 +172,15 @@ TEST_F(AppModelCancelTest, withTheHistoryOnItsWay) {
     expectNothingLeft();
 }
 
-TEST_F(AppModelCancelTest, atTheVeryStart) {
+TEST_F(AppModelCancelTest, whenPhaseTurnsScanning) {
     cancelInHandler(&AppModel::scanPhaseChanged, [&] { return model().scanPhase() == Phase::scanning; });
 }
 
-TEST_F(AppModelCancelTest, whileTheFiguresAreEmptied) {
-    cancelInHandler(&AppModel::currentPathChanged, [&] { return true; });
+TEST_F(AppModelCancelTest, whenCountersAreReset) {
+    cancelInHandler(&AppModel::progressChanged, [&] { return model().currentPath() == home; });
 }
 
-TEST_F(AppModelCancelTest, onceTheRecordIsWrittenTheSurveyCounts) {
+TEST_F(AppModelCancelTest, recordedSurveyIsNotWithdrawn) {
     fillHome();
     QObject::connect(&model(), &AppModel::historyChanged, &model(), [&] { model().cancelScan(); });
     model().startScan();
@@ -191,7 +191,7 @@ TEST_F(AppModelCancelTest, onceTheRecordIsWrittenTheSurveyCounts) {
     EXPECT_EQ(model().root()->size, model().history().front().totalScanned);
 }
 
-TEST_F(AppModelCancelTest, cancelAndStartInOneHandlerGivesOneSurvey) {
+TEST_F(AppModelCancelTest, cancelAndRestartInOneHandlerRunsOneSurvey) {
     fillHome();
     bool restarted = false;
     QObject::connect(&model(), &AppModel::scanPhaseChanged, &model(), [&] {
@@ -205,7 +205,7 @@ TEST_F(AppModelCancelTest, cancelAndStartInOneHandlerGivesOneSurvey) {
     EXPECT_EQ(model().history().size(), 1U);
 }
 
-TEST_F(AppModelCancelTest, aSurveyAfterACancelIsWhole) {
+TEST_F(AppModelCancelTest, surveyAfterCancelIsComplete) {
     surveyBefore();
     surveyUpToClassification();
     model().cancelScan();
@@ -216,7 +216,7 @@ TEST_F(AppModelCancelTest, aSurveyAfterACancelIsWhole) {
     EXPECT_EQ(model().root()->size, 3'127'000'000);
 }
 
-TEST_F(AppModelCancelTest, whatNobodyTookUpIsReleasedOnATask) {
+TEST_F(AppModelCancelTest, undeliveredUpdatesAreReleasedOffMainThread) {
     fillHome();
     model().startScan();
     machine.waitForThreads();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The model while the classifier really works beside it, on a thread that nobody waits for.
+// The model while the classifier runs on a real thread.
 #include <future>
 
 #include "AppModelFixture.h"
@@ -8,15 +8,15 @@
 namespace zelk {
 namespace {
 
-/// The classifier is held in the middle of its work.
+/// Holds the classifier in the middle of its work.
 class AppModelClassifierTest : public AppModelFixture {
 protected:
-    void surveyIntoTheClassifier() {
+    void surveyUntilClassifierWorks() {
         machine.directories.directory(home + "/rust/target");
         machine.files.failing = [this](const fakes::FakeFileManager::Call& call) {
             if (call != fakes::FakeFileManager::Call{"exists", home + "/rust/Cargo.toml"}) return false;
             working_.set_value();
-            letGo_.get_future().wait();
+            resume_.get_future().wait();
             return false;
         };
         Platform platform = machine.platform();
@@ -27,47 +27,47 @@ protected:
         runUntil([&] { return static_cast<bool>(model_->root()); });
         working_.get_future().wait();
     }
-    void letTheClassifierGo() {
-        letGo_.set_value();
+    void resumeClassifier() {
+        resume_.set_value();
         machine.waitForThreads();
         runWhatIsThere();
     }
 
 private:
     std::promise<void> working_;
-    std::promise<void> letGo_;
+    std::promise<void> resume_;
     ThreadTasks tasks_;  // used by the model to its end
 
 protected:
     std::unique_ptr<AppModel> model_;
 };
 
-TEST_F(AppModelClassifierTest, theModelMayGo) {
-    surveyIntoTheClassifier();
+TEST_F(AppModelClassifierTest, modelMayBeDestroyedMeanwhile) {
+    surveyUntilClassifierWorks();
     model_.reset();
-    letTheClassifierGo();
+    resumeClassifier();
     EXPECT_FALSE(historyFile());
 }
 
-TEST_F(AppModelClassifierTest, aCancelDoesNotWaitForIt) {
-    surveyIntoTheClassifier();
+TEST_F(AppModelClassifierTest, cancelDoesNotWaitForClassifier) {
+    surveyUntilClassifierWorks();
     model_->cancelScan();
     EXPECT_EQ(model_->scanPhase(), Phase::idle);
     EXPECT_FALSE(model_->root());
     EXPECT_FALSE(model_->stats());
-    letTheClassifierGo();
+    resumeClassifier();
     EXPECT_EQ(model_->scanPhase(), Phase::idle);
     EXPECT_TRUE(model_->reclaimables().empty());
     EXPECT_FALSE(historyFile());
 }
 
-TEST_F(AppModelClassifierTest, aRemovalTouchesTheTreeOnlyAfterwards) {
+TEST_F(AppModelClassifierTest, removalIsDeferredUntilClassifierEnds) {
     machine.directories.file(home + "/films/one.mov", 9'000);
-    surveyIntoTheClassifier();
+    surveyUntilClassifierWorks();
     const NodeRef films = folderAt(model_->root(), home + "/films");
     model_->removeFromTree(*films);
     EXPECT_EQ(model_->root()->size, 9'000);
-    letTheClassifierGo();
+    resumeClassifier();
     runUntil([&] { return model_->scanPhase() == Phase::finished; });
     EXPECT_EQ(model_->root()->size, 0);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the model takes away itself: a folder that a person picked, and the safe caches in one go.
+// What the model removes without a review: picked folders, and all safe items at once.
 #include "AppModelFixture.h"
 
 namespace zelk {
@@ -9,7 +9,7 @@ using Strings = std::vector<std::string>;
 
 class AppModelCleaningTest : public AppModelFixture {
 protected:
-    /// A survey of the home of fillHome(), whose folders and files can also be moved to the Trash.
+    /// Surveys the home of fillHome(), whose folders and files can be moved to the Trash too.
     void surveyHome() {
         fillHome();
         for (const char* file : {"/Library/Caches/Yarn/v6", "/projects/app/node_modules/a.js", "/projects/film.mov",
@@ -20,13 +20,13 @@ protected:
 
     NodeRef folder(const std::string& below) { return folderAt(model().root(), home + below); }
 
-    /// Everything that was told to the main thread has arrived there.
+    /// Returns when every closure that was posted to the main thread has run.
     void trashAndRemove(FSNode& node) {
         model().trashAndRemove(node);
         runWhatIsThere();
     }
 
-    /// Neither the tree nor the items nor the large files.
+    /// Neither the tree nor the items nor the large files contain it.
     void expectResultsWithoutProjects() {
         const auto isInIt = [&](const auto& one) { return one.path.starts_with(home + "/projects/"); };
         EXPECT_FALSE(folder("/projects"));
@@ -42,9 +42,9 @@ protected:
     const std::string cache = home + "/Library/Caches/Yarn";
 };
 
-// A folder that was picked.
+// Picked folders.
 
-TEST_F(AppModelCleaningTest, theFolderGoesToTheTrashAndOutOfTheTree) {
+TEST_F(AppModelCleaningTest, movesFolderToTrashAndOutOfTree) {
     surveyHome();
     const std::int64_t before = model().root()->size;
     const std::int64_t scanned = model().bytesScanned();
@@ -60,7 +60,7 @@ TEST_F(AppModelCleaningTest, theFolderGoesToTheTrashAndOutOfTheTree) {
     EXPECT_EQ(model().insights().diskImages.size(), 1U);
 }
 
-TEST_F(AppModelCleaningTest, aFolderThatDoesNotGoToTheTrashStaysInTheTree) {
+TEST_F(AppModelCleaningTest, failedMoveKeepsFolderInTree) {
     surveyHome();
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     const std::int64_t before = model().root()->size;
@@ -71,7 +71,7 @@ TEST_F(AppModelCleaningTest, aFolderThatDoesNotGoToTheTrashStaysInTheTree) {
     EXPECT_EQ(takeSignals(), Strings());
 }
 
-TEST_F(AppModelCleaningTest, theMainThreadDoesNotWaitForTheTrash) {
+TEST_F(AppModelCleaningTest, movesFolderOffMainThread) {
     surveyHome();
     machine.tasks.hold();
     model().trashAndRemove(*folder("/projects"));
@@ -85,7 +85,7 @@ TEST_F(AppModelCleaningTest, theMainThreadDoesNotWaitForTheTrash) {
     machine.tasks.release();
 }
 
-TEST_F(AppModelCleaningTest, whatHasNoPathIsNotTouched) {
+TEST_F(AppModelCleaningTest, ignoresTopOfTree) {
     surveyHome();
     machine.tasks.hold();
     model().trashAndRemove(*model().root());
@@ -94,7 +94,7 @@ TEST_F(AppModelCleaningTest, whatHasNoPathIsNotTouched) {
     EXPECT_TRUE(model().root());
 }
 
-TEST_F(AppModelCleaningTest, theFileSystemAsARootIsNotTouched) {
+TEST_F(AppModelCleaningTest, ignoresFileSystemRoot) {
     machine.directories.directory("/data");
     model().setScanRoots({"/"});
     survey();
@@ -105,7 +105,7 @@ TEST_F(AppModelCleaningTest, theFileSystemAsARootIsNotTouched) {
     EXPECT_EQ(model().root()->children.size(), 1U);
 }
 
-TEST_F(AppModelCleaningTest, theSameFolderTwiceIsTakenOutOnce) {
+TEST_F(AppModelCleaningTest, sameFolderTwiceIsRemovedOnce) {
     surveyHome();
     const std::int64_t before = model().root()->size;
     machine.tasks.hold();
@@ -118,7 +118,7 @@ TEST_F(AppModelCleaningTest, theSameFolderTwiceIsTakenOutOnce) {
     EXPECT_EQ(model().root()->size, before - 3'070'000'000);
 }
 
-TEST_F(AppModelCleaningTest, theFolderIsHeldUntilItHasGone) {
+TEST_F(AppModelCleaningTest, folderStaysAliveUntilMoved) {
     surveyHome();
     machine.tasks.hold();
     model().trashAndRemove(*folder("/projects/app"));
@@ -129,7 +129,7 @@ TEST_F(AppModelCleaningTest, theFolderIsHeldUntilItHasGone) {
     EXPECT_FALSE(folder("/projects"));
 }
 
-TEST_F(AppModelCleaningTest, anotherSurveyMayReplaceTheTreeMeanwhile) {
+TEST_F(AppModelCleaningTest, newTreeLosesFolderToo) {
     surveyHome();
     machine.tasks.hold();
     model().trashAndRemove(*folder("/projects"));
@@ -146,9 +146,9 @@ TEST_F(AppModelCleaningTest, anotherSurveyMayReplaceTheTreeMeanwhile) {
     EXPECT_EQ(model().root()->size, size - 3'070'000'000);
 }
 
-// A survey under way may have come by before a folder went.
+// A running survey may have passed a folder before it was moved.
 
-TEST_F(AppModelCleaningTest, aSurveyThatCameByBeforeDoesNotTellOfTheFolder) {
+TEST_F(AppModelCleaningTest, runningSurveyDoesNotReportTrashedFolder) {
     machine.directories.file(home + "/projects too/film.mov", 5'000'000, 1'000);
     surveyHome();
     addWideFolder(home + "/wide");
@@ -173,7 +173,7 @@ TEST_F(AppModelCleaningTest, aSurveyThatCameByBeforeDoesNotTellOfTheFolder) {
     EXPECT_TRUE(folder("/projects"));
 }
 
-TEST_F(AppModelCleaningTest, theFolderGoesWhenNoOtherThreadReadsTheNewTree) {
+TEST_F(AppModelCleaningTest, removalFromNewTreeIsDeferredWhileItIsRead) {
     surveyHome();
     machine.tasks.hold();
     model().trashAndRemove(*folder("/projects"));
@@ -191,7 +191,7 @@ TEST_F(AppModelCleaningTest, theFolderGoesWhenNoOtherThreadReadsTheNewTree) {
     EXPECT_EQ(model().history().back().totalScanned, model().root()->size);
 }
 
-TEST_F(AppModelCleaningTest, aCancelDoesNotBringTheFolderBack) {
+TEST_F(AppModelCleaningTest, cancelDoesNotRestoreTrashedFolder) {
     surveyHome();
     const NodeRef oldest = model().root();
     survey();
@@ -210,7 +210,7 @@ TEST_F(AppModelCleaningTest, aCancelDoesNotBringTheFolderBack) {
     runWhatIsThere();
 }
 
-TEST_F(AppModelCleaningTest, aFolderOfAnOlderTreeLeavesTheResultsAtHand) {
+TEST_F(AppModelCleaningTest, folderOfOlderTreeLeavesCurrentResults) {
     surveyHome();
     const NodeRef old = model().root();
     survey();
@@ -219,7 +219,7 @@ TEST_F(AppModelCleaningTest, aFolderOfAnOlderTreeLeavesTheResultsAtHand) {
     expectResultsWithoutProjects();
 }
 
-TEST_F(AppModelCleaningTest, aFolderThatIsMadeAgainStaysInTheSurveyThatFindsIt) {
+TEST_F(AppModelCleaningTest, recreatedFolderAppearsInNextSurvey) {
     surveyHome();
     const NodeRef old = model().root();
     survey();
@@ -231,7 +231,7 @@ TEST_F(AppModelCleaningTest, aFolderThatIsMadeAgainStaysInTheSurveyThatFindsIt) 
     EXPECT_TRUE(folder("/projects"));
 }
 
-TEST_F(AppModelCleaningTest, theModelMayGoWhileAFolderIsTrashed) {
+TEST_F(AppModelCleaningTest, modelMayBeDestroyedWhileFolderIsMoved) {
     surveyHome();
     machine.tasks.hold();
     model().trashAndRemove(*folder("/projects"));
@@ -241,7 +241,7 @@ TEST_F(AppModelCleaningTest, theModelMayGoWhileAFolderIsTrashed) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
 }
 
-TEST_F(AppModelCleaningTest, theModelMayGoBeforeItHearsOfTheTrashedFolder) {
+TEST_F(AppModelCleaningTest, modelMayBeDestroyedBeforeMoveIsReported) {
     surveyHome();
     machine.tasks.hold();
     model().trashAndRemove(*folder("/projects"));
@@ -252,7 +252,7 @@ TEST_F(AppModelCleaningTest, theModelMayGoBeforeItHearsOfTheTrashedFolder) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects"});
 }
 
-TEST_F(AppModelCleaningTest, severalFoldersGoOneAfterTheOtherInOneTask) {
+TEST_F(AppModelCleaningTest, movesSeveralFoldersInOneTaskInOrder) {
     surveyHome();
     machine.tasks.hold();
     std::vector<std::string> gone;
@@ -269,7 +269,7 @@ TEST_F(AppModelCleaningTest, severalFoldersGoOneAfterTheOtherInOneTask) {
     EXPECT_EQ(model().root()->size, 7'000'000);
 }
 
-TEST_F(AppModelCleaningTest, ofSeveralFoldersOneThatFailsDoesNotKeepTheRest) {
+TEST_F(AppModelCleaningTest, oneFailedMoveDoesNotStopOthers) {
     surveyHome();
     machine.files.failing = [&](const auto& call) {
         return call.operation == "trash" && call.path == home + "/Library";
@@ -285,7 +285,7 @@ TEST_F(AppModelCleaningTest, ofSeveralFoldersOneThatFailsDoesNotKeepTheRest) {
     EXPECT_FALSE(folder("/projects"));
 }
 
-TEST_F(AppModelCleaningTest, ofNoFoldersNoneGoes) {
+TEST_F(AppModelCleaningTest, emptySelectionReportsAsynchronously) {
     surveyHome();
     bool done = false;
     model().trashAndRemove({model().root()}, [&](const std::vector<NodeRef>& nodes) { done = nodes.empty(); });
@@ -294,9 +294,9 @@ TEST_F(AppModelCleaningTest, ofNoFoldersNoneGoes) {
     EXPECT_TRUE(machine.trash.trashed().empty());
 }
 
-// The safe caches in one go.
+// Safe items.
 
-TEST_F(AppModelCleaningTest, safeCachesAloneGoToTheTrashAndASurveyFollows) {
+TEST_F(AppModelCleaningTest, cleansSafeItemsOnlyThenSurveys) {
     surveyHome();
     model().cleanSafeCaches();
     runUntil([&] { return model().scanPhase() == Phase::scanning; });
@@ -317,7 +317,7 @@ TEST_F(AppModelCleaningTest, withoutSafeItemsNothingHappens) {
     machine.tasks.release();
 }
 
-TEST_F(AppModelCleaningTest, safeCachesOfARunningApplicationAreCleanedAllTheSame) {
+TEST_F(AppModelCleaningTest, cleansSafeItemsOfRunningApplications) {
     const std::string inUse = home + "/Library/Application Support/Cursor/Cache";
     machine.directories.file(inUse + "/data", 1'000, 1'000);
     machine.files.addFile(inUse + "/data");
@@ -331,7 +331,7 @@ TEST_F(AppModelCleaningTest, safeCachesOfARunningApplicationAreCleanedAllTheSame
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(AppModelCleaningTest, theAgeFilterDoesNotKeepSafeCaches) {
+TEST_F(AppModelCleaningTest, ageFilterDoesNotApplyToSafeItems) {
     surveyHome();
     model().setAgeFilterDays(365);
     EXPECT_EQ(model().safeBytes(), 50'000'000);
@@ -341,7 +341,7 @@ TEST_F(AppModelCleaningTest, theAgeFilterDoesNotKeepSafeCaches) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(AppModelCleaningTest, safeCachesGoToTheTrashEvenIfDeletingIsPreferred) {
+TEST_F(AppModelCleaningTest, hardDeleteSettingDoesNotApplyToSafeItems) {
     surveyHome();
     model().setHardDeleteEnabled(true);
     model().cleanSafeCaches();
@@ -351,7 +351,7 @@ TEST_F(AppModelCleaningTest, safeCachesGoToTheTrashEvenIfDeletingIsPreferred) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(AppModelCleaningTest, safeCachesThatStayAreFollowedByASurveyToo) {
+TEST_F(AppModelCleaningTest, surveysEvenIfCleaningFails) {
     surveyHome();
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     model().cleanSafeCaches();
@@ -361,7 +361,7 @@ TEST_F(AppModelCleaningTest, safeCachesThatStayAreFollowedByASurveyToo) {
     EXPECT_EQ(model().safeBytes(), 50'000'000);
 }
 
-TEST_F(AppModelCleaningTest, theSurveyFollowsTheLastOfTheSafeCaches) {
+TEST_F(AppModelCleaningTest, surveyStartsAfterLastSafeItem) {
     surveyHome();
     machine.tasks.hold();
     model().cleanSafeCaches();
@@ -374,7 +374,7 @@ TEST_F(AppModelCleaningTest, theSurveyFollowsTheLastOfTheSafeCaches) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(AppModelCleaningTest, aSurveyThatRunsEndsFirstAndAnotherOneFollows) {
+TEST_F(AppModelCleaningTest, runningSurveyIsFollowedByAnother) {
     surveyHome();
     machine.tasks.hold();
     model().cleanSafeCaches();
@@ -391,7 +391,7 @@ TEST_F(AppModelCleaningTest, aSurveyThatRunsEndsFirstAndAnotherOneFollows) {
     EXPECT_EQ(model().scanPhase(), Phase::finished) << "and no other";
 }
 
-TEST_F(AppModelCleaningTest, aCancelOfTheSurveyThatRunsEndsTheOneAfterItToo) {
+TEST_F(AppModelCleaningTest, cancelAlsoDropsFollowingSurvey) {
     surveyHome();
     machine.directories.hold(home);
     model().startScan();
@@ -407,7 +407,7 @@ TEST_F(AppModelCleaningTest, aCancelOfTheSurveyThatRunsEndsTheOneAfterItToo) {
     EXPECT_EQ(machine.directories.timesRead(home), 3) << "the cancelled one is forgotten";
 }
 
-TEST_F(AppModelCleaningTest, theModelMayGoWhileSafeCachesAreCleaned) {
+TEST_F(AppModelCleaningTest, modelMayBeDestroyedWhileCleaning) {
     surveyHome();
     machine.tasks.hold();
     model().cleanSafeCaches();

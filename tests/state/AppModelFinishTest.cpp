@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The end of a survey: what is set, in which order, and what goes into the history.
+// The end of a survey: the order in which fields are set, and the record in the history.
 #include <thread>
 
 #include "AppModelFixture.h"
@@ -10,20 +10,20 @@ namespace {
 using AppModelFinishTest = AppModelFixture;
 using Strings = std::vector<std::string>;
 
-TEST_F(AppModelFinishTest, setsEverythingInItsOrderAndThePhaseLast) {
+TEST_F(AppModelFinishTest, setsFieldsInOrderAndPhaseLast) {
     fillHome();
     machine.directories.unreadable(home + "/secret");
     machine.tasks.hold();
     model().startScan();
-    EXPECT_EQ(takeSignals(), (Strings{"scanPhase", "currentPath", "volume"}));
+    EXPECT_EQ(takeSignals(), (Strings{"scanPhase", "progress", "volume"}));
     runUntil([&] { return static_cast<bool>(model().root()); });
-    EXPECT_EQ(takeSignals(), (Strings{"blockedPaths", "insights", "root", "stats", "bytesScanned", "itemsScanned"}));
+    EXPECT_EQ(takeSignals(), (Strings{"progress", "insights", "root", "progress"}));
     machine.tasks.release();
     runUntil([&] { return model().scanPhase() == Phase::finished; });
-    EXPECT_EQ(takeSignals(), (Strings{"reclaimables", "history", "trashBytes", "scanPhase"}));
+    EXPECT_EQ(takeSignals(), (Strings{"reclaimables", "history", "trash", "scanPhase"}));
 }
 
-TEST_F(AppModelFinishTest, thePhaseTurnsWhenAllThatResultsNeedIsInPlace) {
+TEST_F(AppModelFinishTest, phaseTurnsFinishedWhenResultsAreComplete) {
     fillHome();
     bool checked = false;
     QObject::connect(&model(), &AppModel::scanPhaseChanged, &model(), [&] {
@@ -39,7 +39,7 @@ TEST_F(AppModelFinishTest, thePhaseTurnsWhenAllThatResultsNeedIsInPlace) {
     EXPECT_TRUE(checked);
 }
 
-TEST_F(AppModelFinishTest, theFinalFiguresComeFromTheTreeAndTheStats) {
+TEST_F(AppModelFinishTest, finalFiguresComeFromTreeAndStats) {
     fillHome();
     survey();
     EXPECT_EQ(model().bytesScanned(), 3'127'000'000);
@@ -50,7 +50,7 @@ TEST_F(AppModelFinishTest, theFinalFiguresComeFromTheTreeAndTheStats) {
     EXPECT_EQ(model().insights().diskImages.size(), 1U);
 }
 
-TEST_F(AppModelFinishTest, theClassifierRunsOffTheMainThreadAndMarksTheTree) {
+TEST_F(AppModelFinishTest, classifierRunsOffMainThreadAndMarksTree) {
     std::thread::id asked;
     machine.directories.directory(home + "/rust/target");
     machine.files.addFile(home + "/rust/Cargo.toml");
@@ -67,7 +67,7 @@ TEST_F(AppModelFinishTest, theClassifierRunsOffTheMainThreadAndMarksTheTree) {
     EXPECT_EQ(target->reclaimCategory->id, "rust_target");
 }
 
-TEST_F(AppModelFinishTest, theTreeBeforeIsReleasedOnATask) {
+TEST_F(AppModelFinishTest, previousTreeIsReleasedInTask) {
     survey();
     surveyUpToClassification();
     classifyUpToTheRecord();
@@ -78,7 +78,7 @@ TEST_F(AppModelFinishTest, theTreeBeforeIsReleasedOnATask) {
     machine.tasks.release();
 }
 
-TEST_F(AppModelFinishTest, theRecordIsKeptOffTheMainThreadAndThePhaseWaitsForIt) {
+TEST_F(AppModelFinishTest, recordIsWrittenOffMainThreadBeforePhaseTurns) {
     surveyUpToClassification();
     classifyUpToTheRecord();
     EXPECT_FALSE(historyFile());
@@ -91,7 +91,7 @@ TEST_F(AppModelFinishTest, theRecordIsKeptOffTheMainThreadAndThePhaseWaitsForIt)
     machine.tasks.release();
 }
 
-TEST_F(AppModelFinishTest, theRecordIsDatedWhenTheClassificationHasEnded) {
+TEST_F(AppModelFinishTest, recordIsDatedAfterClassification) {
     surveyUpToClassification();
     machine.clock.advance(60);
     classifyUpToTheRecord();
@@ -104,7 +104,7 @@ TEST_F(AppModelFinishTest, theRecordIsDatedWhenTheClassificationHasEnded) {
     machine.tasks.release();
 }
 
-TEST_F(AppModelFinishTest, theRecordHoldsTheFiguresOfTheSurvey) {
+TEST_F(AppModelFinishTest, recordHoldsFiguresOfSurvey) {
     fillHome();
     machine.vitals.setVolume(home, VolumeInfo{500'000, 200'000, 300'000});
     survey();
@@ -127,14 +127,14 @@ TEST_F(AppModelFinishTest, theRecordHoldsTheFiguresOfTheSurvey) {
     EXPECT_EQ(decodeHistory(*historyFile()), model().history());
 }
 
-TEST_F(AppModelFinishTest, foldersOfTwentyMillionBytesAreRecordedAndSmallerOnesAreNot) {
+TEST_F(AppModelFinishTest, recordsFoldersFromTwentyMillionBytes) {
     machine.directories.file(home + "/enough/file", 20'000'000);
     machine.directories.file(home + "/short/file", 19'999'999);
     survey();
     EXPECT_EQ(model().history().front().folders, (SizeByPath{{home, 39'999'999}, {home + "/enough", 20'000'000}}));
 }
 
-TEST_F(AppModelFinishTest, theFourHundredLargestFoldersAreRecorded) {
+TEST_F(AppModelFinishTest, recordsFourHundredLargestFolders) {
     for (int number = 0; number < 401; ++number)
         machine.directories.file(home + "/" + std::to_string(number) + "/file",
                                  static_cast<std::uint64_t>(20'000'000 + number));
@@ -146,21 +146,21 @@ TEST_F(AppModelFinishTest, theFourHundredLargestFoldersAreRecorded) {
     EXPECT_TRUE(folders.contains(home + "/2"));
 }
 
-TEST_F(AppModelFinishTest, aVolumeThatCannotBeReadIsRecordedAsZero) {
+TEST_F(AppModelFinishTest, unreadableVolumeIsRecordedAsZero) {
     machine.vitals.setVolume(home, std::nullopt);
     survey();
     EXPECT_EQ(model().history().front().used, 0);
     EXPECT_EQ(model().history().front().free, 0);
 }
 
-TEST_F(AppModelFinishTest, aVolumeWithMoreAvailableThanItHasIsUsedByNothing) {
+TEST_F(AppModelFinishTest, usedIsNeverNegative) {
     machine.vitals.setVolume(home, VolumeInfo{100, 150, 150});
     survey();
     EXPECT_EQ(model().history().front().used, 0);
     EXPECT_EQ(model().history().front().free, 150);
 }
 
-TEST_F(AppModelFinishTest, theFileIsTheSourceOfTheHistory) {
+TEST_F(AppModelFinishTest, historyIsReadFromFileAgain) {
     survey();
     SurveyRecord other;
     other.date = 1'600'000'000;
@@ -171,14 +171,14 @@ TEST_F(AppModelFinishTest, theFileIsTheSourceOfTheHistory) {
     EXPECT_EQ(model().history().front(), other);
 }
 
-TEST_F(AppModelFinishTest, theHistoryGrowsInMemoryWhenItCannotBeWritten) {
+TEST_F(AppModelFinishTest, unwritableHistoryGrowsInMemory) {
     machine.files.failing = [](const fakes::FakeFileManager::Call& call) { return call.operation == "replaceDurably"; };
     survey();
     EXPECT_EQ(model().history().size(), 1U);
     EXPECT_FALSE(historyFile());
 }
 
-TEST_F(AppModelFinishTest, theProjectionAndTheChangesSpeakOfTheModelsHistory) {
+TEST_F(AppModelFinishTest, projectionAndChangesUseHistory) {
     EXPECT_FALSE(model().daysUntilFull());
     EXPECT_FALSE(model().folderChanges());
     machine.vitals.setVolume(home, VolumeInfo{1'000, 900, 900});

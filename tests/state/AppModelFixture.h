@@ -14,7 +14,7 @@
 
 namespace zelk {
 
-/// A model on a machine in memory, whose home is "/home/me", and a note of every signal of the model.
+/// A model on a machine in memory with the home "/home/me", and a log of the signals of the model.
 class AppModelFixture : public testing::Test {
 protected:
     using Phase = AppModel::ScanPhase;
@@ -24,7 +24,7 @@ protected:
         machine.vitals.setVolume(home, VolumeInfo{1'000, 400, 450});
     }
 
-    /// Filled before the first call.
+    /// Created at the first call: fill the machine before.
     AppModel& model() {
         if (model_ == nullptr) {
             model_ = std::make_unique<AppModel>(machine.platform());
@@ -35,8 +35,8 @@ protected:
 
     void destroyModel() { model_.reset(); }
 
-    /// Two things to reclaim (a Yarn cache of 50 MB, which is safe, and modules of 10 MB), a film, a disk image and a
-    /// Trash that holds 7 MB.
+    /// Two reclaimable items (a safe Yarn cache of 50 MB, and modules of 10 MB), a film, a disk image and 7 MB in the
+    /// Trash.
     void fillHome() {
         fakes::FakeDirectoryService& disk = machine.directories;
         disk.file(home + "/Library/Caches/Yarn/v6", 50'000'000, 1'000);
@@ -46,20 +46,20 @@ protected:
         disk.file(home + "/.Trash/old.zip", 7'000'000, 5'000);
     }
 
-    /// A folder whose reading makes an update due, and in it an empty one called "inner".
+    /// A folder with so many files that reading it reports progress, and in it an empty folder "inner".
     void addWideFolder(const std::string& path) {
         for (int file = 0; file < 20'000; ++file) machine.directories.file(path + "/" + std::to_string(file), 1'000);
         machine.directories.directory(path + "/inner");
     }
 
-    /// A whole survey; the Trash is measured too when this comes back.
+    /// Runs a whole survey, including the measurement of the Trash.
     void survey() {
         model().startScan();
         runUntil([&] { return model().scanPhase() == Phase::finished; });
         runUntil([&] { return !model().trashLoading(); });
     }
 
-    /// Up to where the classifier has been asked for its items and has not begun.
+    /// Runs a survey until the task of the classifier is queued.
     void surveyUpToClassification() {
         machine.tasks.hold();
         model().startScan();
@@ -67,13 +67,13 @@ protected:
         runUntil([&] { return !(model().root() == before); });
     }
 
-    /// From there on: the classifier has done its work, and the record is to be kept by a task that has not begun.
+    /// Continues from there until the task that writes the record is queued.
     void classifyUpToTheRecord() {
         machine.tasks.runNext();
         runUntil([&] { return !machine.tasks.waiting().empty(); });
     }
 
-    /// Everything that a cancelled scan may still send has been sent and taken up.
+    /// Waits until cancelled scans have ended and everything they sent was handled.
     void letScansDrain() {
         machine.directories.release();
         machine.waitForThreads();
@@ -104,27 +104,20 @@ private:
         note(&AppModel::ageFilterDaysChanged, "ageFilterDays");
         note(&AppModel::hardDeleteEnabledChanged, "hardDeleteEnabled");
         note(&AppModel::scanPhaseChanged, "scanPhase");
-        note(&AppModel::itemsScannedChanged, "itemsScanned");
-        note(&AppModel::bytesScannedChanged, "bytesScanned");
-        note(&AppModel::currentPathChanged, "currentPath");
-        note(&AppModel::blockedPathsChanged, "blockedPaths");
+        note(&AppModel::progressChanged, "progress");
         note(&AppModel::rootChanged, "root");
-        note(&AppModel::statsChanged, "stats");
         note(&AppModel::reclaimablesChanged, "reclaimables");
         note(&AppModel::insightsChanged, "insights");
         note(&AppModel::volumeChanged, "volume");
         note(&AppModel::historyChanged, "history");
-        note(&AppModel::trashBytesChanged, "trashBytes");
-        note(&AppModel::trashAccessibleChanged, "trashAccessible");
-        note(&AppModel::trashLoadingChanged, "trashLoading");
-        note(&AppModel::emptyingTrashChanged, "emptyingTrash");
+        note(&AppModel::trashChanged, "trash");
     }
 
     std::vector<std::string> signals_;
     std::unique_ptr<AppModel> model_;
 };
 
-/// The folder at `path` in a tree; absent if it is not there.
+/// The folder at `path` in a tree; null if there is none.
 inline NodeRef folderAt(const NodeRef& top, const std::string& path) {
     std::vector<NodeRef> pending = top->children;
     while (!pending.empty()) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the model takes away is among the removals under way, and stops between two items when it is asked to.
+// The model counts its removals, and stops between two items on request.
 #include "AppModelFixture.h"
 
 namespace zelk {
@@ -29,7 +29,7 @@ protected:
     }
 };
 
-TEST_F(AppModelRemovals, safeCachesAreUnderWayUntilTheLastHasGone) {
+TEST_F(AppModelRemovals, countsSafeItemsUntilLastIsCleaned) {
     surveyHome();
     const std::size_t safe = model().safeItems().size();
     ASSERT_EQ(safe, 2U);
@@ -41,7 +41,7 @@ TEST_F(AppModelRemovals, safeCachesAreUnderWayUntilTheLastHasGone) {
     endAll();
 }
 
-TEST_F(AppModelRemovals, safeCachesThatAreStoppedStay) {
+TEST_F(AppModelRemovals, stopKeepsPendingSafeItems) {
     surveyHome();
     model().cleanSafeCaches();
     machine.tasks.runNext();
@@ -51,7 +51,7 @@ TEST_F(AppModelRemovals, safeCachesThatAreStoppedStay) {
     EXPECT_EQ(machine.trash.trashed().size(), 1U);
 }
 
-TEST_F(AppModelRemovals, foldersAreUnderWayAndAStopIsSeenBetweenThem) {
+TEST_F(AppModelRemovals, stopTakesEffectBetweenFolders) {
     surveyHome();
     machine.files.failing = [this](const auto& call) {
         if (call.operation == "trash") removals().stop();
@@ -70,7 +70,7 @@ TEST_F(AppModelRemovals, foldersAreUnderWayAndAStopIsSeenBetweenThem) {
     runUntil([&] { return !removals().underWay(); });
 }
 
-TEST_F(AppModelRemovals, aFolderThatStaysEndsItsRemovalToo) {
+TEST_F(AppModelRemovals, failedMoveEndsRemoval) {
     surveyHome();
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     model().trashAndRemove(*folder("/projects"));
@@ -79,14 +79,14 @@ TEST_F(AppModelRemovals, aFolderThatStaysEndsItsRemovalToo) {
     EXPECT_TRUE(folder("/projects"));
 }
 
-TEST_F(AppModelRemovals, noFolderIsNoRemoval) {
+TEST_F(AppModelRemovals, noFolderStartsNoRemoval) {
     surveyHome();
     model().trashAndRemove(*model().root());
     EXPECT_FALSE(removals().underWay());
     machine.tasks.release();
 }
 
-TEST_F(AppModelRemovals, aLargeFileIsUnderWayUntilItHasGoneOrStays) {
+TEST_F(AppModelRemovals, countsLargeFileUntilMovedOrFailed) {
     surveyHome();
     for (const bool fails : {true, false}) {
         machine.tasks.hold();
@@ -98,7 +98,7 @@ TEST_F(AppModelRemovals, aLargeFileIsUnderWayUntilItHasGoneOrStays) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/film.mov"});
 }
 
-TEST_F(AppModelRemovals, aLargeFileThatIsStoppedInTimeStays) {
+TEST_F(AppModelRemovals, stopKeepsPendingLargeFile) {
     surveyHome();
     const std::size_t listed = model().insights().topFiles.size();
     model().trashLargeFile(home + "/projects/film.mov");
@@ -108,7 +108,7 @@ TEST_F(AppModelRemovals, aLargeFileThatIsStoppedInTimeStays) {
     EXPECT_EQ(model().insights().topFiles.size(), listed);
 }
 
-TEST_F(AppModelRemovals, theTrashIsUnderWayWhileItIsEmptied) {
+TEST_F(AppModelRemovals, countsEmptyingOfTrash) {
     surveyHome();
     machine.trash.put("old.zip", 7);
     model().emptyTrash();
@@ -117,7 +117,7 @@ TEST_F(AppModelRemovals, theTrashIsUnderWayWhileItIsEmptied) {
     EXPECT_EQ(machine.trash.list(), Strings());
 }
 
-TEST_F(AppModelRemovals, aTrashThatIsStoppedInTimeIsNotEmptied) {
+TEST_F(AppModelRemovals, stopKeepsTrashThatIsNotEmptiedYet) {
     surveyHome();
     machine.trash.put("old.zip", 7);
     model().emptyTrash();
@@ -127,7 +127,7 @@ TEST_F(AppModelRemovals, aTrashThatIsStoppedInTimeIsNotEmptied) {
     runUntil([&] { return !model().emptyingTrash(); });
 }
 
-TEST_F(AppModelRemovals, theModelMayGoWhileSomethingIsRemoved) {
+TEST_F(AppModelRemovals, modelMayBeDestroyedDuringRemoval) {
     surveyHome();
     model().cleanSafeCaches();
     destroyModel();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The figures that are derived at each call, and the removal of a folder from the results.
+// The derived values, and the removal of a folder from the results.
 #include <QLocale>
 
 #include "AppModelFixture.h"
@@ -34,16 +34,16 @@ protected:
     }
 };
 
-// Derived figures.
+// Derived values.
 
-TEST_F(AppModelResultsTest, reclaimableBytesAreThoseOfAllItems) {
+TEST_F(AppModelResultsTest, reclaimableBytesSumAllItems) {
     EXPECT_EQ(model().reclaimableBytes(), 0);
     fillHome();
     survey();
     EXPECT_EQ(model().reclaimableBytes(), 60'000'000);
 }
 
-TEST_F(AppModelResultsTest, safeItemsAreTheSafeOnesInTheirOrder) {
+TEST_F(AppModelResultsTest, safeItemsKeepListOrder) {
     fillHome();
     machine.directories.file(home + "/.npm/_cacache/x", 1'000);
     survey();
@@ -57,13 +57,13 @@ TEST_F(AppModelResultsTest, safeItemsAreTheSafeOnesInTheirOrder) {
     EXPECT_EQ(model().safeBytes(), 50'001'000);
 }
 
-TEST_F(AppModelResultsTest, freeBytesAreThoseOfTheVolumeAtHand) {
+TEST_F(AppModelResultsTest, freeBytesUseKnownVolume) {
     model().setVolume(VolumeInfo{100, 42, 50});
     EXPECT_EQ(model().freeBytes(), 42);
     EXPECT_EQ(machine.vitals.volumeReads(), Strings{});
 }
 
-TEST_F(AppModelResultsTest, freeBytesAreReadAfreshWithoutAVolume) {
+TEST_F(AppModelResultsTest, freeBytesReadVolumeIfAbsent) {
     machine.vitals.setVolume("/data", VolumeInfo{100, 77, 80});
     model().setScanRoots({"/data", home});
     EXPECT_EQ(model().freeBytes(), 77);
@@ -75,7 +75,7 @@ TEST_F(AppModelResultsTest, freeBytesAreReadAfreshWithoutAVolume) {
     EXPECT_EQ(machine.vitals.volumeReads(), (Strings{"/data", home, home}));
 }
 
-TEST_F(AppModelResultsTest, theProgressLineFollowsTheLocale) {
+TEST_F(AppModelResultsTest, progressLineFollowsLocale) {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     EXPECT_EQ(model().progressLine(), "0 items · 0 bytes");
@@ -90,7 +90,7 @@ TEST_F(AppModelResultsTest, theProgressLineFollowsTheLocale) {
     QLocale::setDefault(before);
 }
 
-TEST_F(AppModelResultsTest, reclaimTotalsAreSummedByCategoryLargestFirst) {
+TEST_F(AppModelResultsTest, reclaimTotalsSumCategoriesLargestFirst) {
     fillHome();
     machine.directories.file(home + "/projects/web/node_modules/b.js", 55'000'000);
     survey();
@@ -102,7 +102,7 @@ TEST_F(AppModelResultsTest, reclaimTotalsAreSummedByCategoryLargestFirst) {
     EXPECT_EQ(totals[1].second, 50'000'000);
 }
 
-TEST_F(AppModelResultsTest, aCategoryWithoutARowIsDroppedFromTheTotals) {
+TEST_F(AppModelResultsTest, reclaimTotalsDropUnknownCategories) {
     Reclaimable known;
     known.categoryID = "expo";
     known.size = 3;
@@ -114,7 +114,7 @@ TEST_F(AppModelResultsTest, aCategoryWithoutARowIsDroppedFromTheTotals) {
     EXPECT_EQ(totals[0].first->id, "expo");
 }
 
-TEST_F(AppModelResultsTest, typeTotalsAreSortedLargestFirst) {
+TEST_F(AppModelResultsTest, sortsTypeTotalsLargestFirst) {
     fillHome();
     survey();
     const auto totals = model().sortedTypeTotals();
@@ -139,7 +139,7 @@ TEST_F(AppModelResultsTest, topFoldersOfTwoRootsAreTheRoots) {
     EXPECT_EQ(names(model().topFolders()), (Strings{home + "/projects", home + "/Library"}));
 }
 
-TEST_F(AppModelResultsTest, topFoldersOfNoRootsAreNone) {
+TEST_F(AppModelResultsTest, topFoldersWithoutRootsAreEmpty) {
     model().setScanRoots({});
     survey();
     EXPECT_TRUE(model().topFolders().empty());
@@ -147,7 +147,7 @@ TEST_F(AppModelResultsTest, topFoldersOfNoRootsAreNone) {
 
 // Removal.
 
-TEST_F(AppModelResultsTest, removalTakesTheSizeOffEveryFolderAbove) {
+TEST_F(AppModelResultsTest, removalSubtractsSizeFromAncestors) {
     machine.directories.file(home + "/jobs/big/film.mov", 10'000'000'000);
     machine.directories.file(home + "/jobs/small", 5'000);
     machine.directories.file(home + "/jobs/big/disk.iso", 90'000'000);
@@ -195,7 +195,7 @@ TEST_F(AppModelResultsTest, removalMatchesWholeNamesOnly) {
     EXPECT_EQ(topFilePaths(), (Strings{"/a/bc/venv/i", "/a/node_modules2/venv/g"}));
 }
 
-TEST_F(AppModelResultsTest, removalOfARootLeavesTheOthers) {
+TEST_F(AppModelResultsTest, removalOfOneRootKeepsOthers) {
     fillHome();
     model().setScanRoots({home + "/Library", home + "/projects"});
     survey();
@@ -205,7 +205,7 @@ TEST_F(AppModelResultsTest, removalOfARootLeavesTheOthers) {
     EXPECT_EQ(reclaimablePaths(), Strings{home + "/Library/Caches/Yarn"});
 }
 
-TEST_F(AppModelResultsTest, whatHasNoParentIsNotRemoved) {
+TEST_F(AppModelResultsTest, nodeWithoutParentIsNotRemoved) {
     fillHome();
     survey();
     takeSignals();
@@ -214,7 +214,7 @@ TEST_F(AppModelResultsTest, whatHasNoParentIsNotRemoved) {
     EXPECT_EQ(model().root()->size, 3'127'000'000);
 }
 
-TEST_F(AppModelResultsTest, removingTwiceTakesTheSizeOffOnce) {
+TEST_F(AppModelResultsTest, removingTwiceSubtractsOnce) {
     fillHome();
     survey();
     const NodeRef projects = folderAt(model().root(), home + "/projects");
@@ -223,7 +223,7 @@ TEST_F(AppModelResultsTest, removingTwiceTakesTheSizeOffOnce) {
     EXPECT_EQ(model().root()->size, 57'000'000);
 }
 
-TEST_F(AppModelResultsTest, removingBelowWhatWasRemovedTakesNothingMore) {
+TEST_F(AppModelResultsTest, removingBelowRemovedFolderSubtractsNothing) {
     fillHome();
     survey();
     const NodeRef projects = folderAt(model().root(), home + "/projects");
@@ -233,7 +233,7 @@ TEST_F(AppModelResultsTest, removingBelowWhatWasRemovedTakesNothingMore) {
     EXPECT_EQ(model().root()->size, 57'000'000);
 }
 
-TEST_F(AppModelResultsTest, aRemovedNodeOutlivesItsTree) {
+TEST_F(AppModelResultsTest, removedNodeOutlivesItsTree) {
     fillHome();
     survey();
     const NodeRef projects = folderAt(model().root(), home + "/projects");
@@ -243,7 +243,7 @@ TEST_F(AppModelResultsTest, aRemovedNodeOutlivesItsTree) {
     EXPECT_EQ(projects->fullPath(), home + "/projects");
 }
 
-TEST_F(AppModelResultsTest, removalFromTheTreeBeforeWorksWhileASurveyRuns) {
+TEST_F(AppModelResultsTest, removesFromPreviousTreeDuringSurvey) {
     fillHome();
     survey();
     machine.directories.hold(home);
@@ -255,7 +255,7 @@ TEST_F(AppModelResultsTest, removalFromTheTreeBeforeWorksWhileASurveyRuns) {
     letScansDrain();
 }
 
-TEST_F(AppModelResultsTest, removalWaitsForTheClassifierToLeaveTheTree) {
+TEST_F(AppModelResultsTest, removalIsDeferredDuringClassification) {
     fillHome();
     surveyUpToClassification();
     remove(home + "/projects");
@@ -267,7 +267,7 @@ TEST_F(AppModelResultsTest, removalWaitsForTheClassifierToLeaveTheTree) {
     EXPECT_EQ(model().history().front().totalScanned, 57'000'000);
 }
 
-TEST_F(AppModelResultsTest, aNodeOfAReplacedTreeTakesItsPathsOutOfTheNewResults) {
+TEST_F(AppModelResultsTest, nodeOfReplacedTreeRemovesItsPathsFromNewResults) {
     fillHome();
     survey();
     const NodeRef old = model().root();
@@ -280,7 +280,7 @@ TEST_F(AppModelResultsTest, aNodeOfAReplacedTreeTakesItsPathsOutOfTheNewResults)
     EXPECT_EQ(takeSignals(), (Strings{"reclaimables", "insights"}));
 }
 
-TEST_F(AppModelResultsTest, aNodeOfAReplacedTreeLeavesThatTree) {
+TEST_F(AppModelResultsTest, nodeOfReplacedTreeLeavesThatTree) {
     fillHome();
     survey();
     const NodeRef old = model().root();
@@ -291,7 +291,7 @@ TEST_F(AppModelResultsTest, aNodeOfAReplacedTreeLeavesThatTree) {
     EXPECT_EQ(model().root()->size, 3'127'000'000);
 }
 
-TEST_F(AppModelResultsTest, aTreeThatACancelWithdrewIsNotChanged) {
+TEST_F(AppModelResultsTest, withdrawnTreeIsNotChanged) {
     fillHome();
     surveyUpToClassification();
     const NodeRef withdrawn = model().root();
@@ -302,7 +302,7 @@ TEST_F(AppModelResultsTest, aTreeThatACancelWithdrewIsNotChanged) {
     letScansDrain();
 }
 
-TEST_F(AppModelResultsTest, theTreeOfTheSurveyBeforeIsReleasedOnATask) {
+TEST_F(AppModelResultsTest, previousTreeIsReleasedInTask) {
     fillHome();
     survey();
     const NodeRef left = model().root()->children.front();  // tells whether what is above it is still there
@@ -313,7 +313,7 @@ TEST_F(AppModelResultsTest, theTreeOfTheSurveyBeforeIsReleasedOnATask) {
     machine.tasks.afterOne = [] {};
 }
 
-TEST_F(AppModelResultsTest, whatIsRemovedIsReleasedOnATask) {
+TEST_F(AppModelResultsTest, removedNodeIsReleasedInTask) {
     fillHome();
     survey();
     machine.tasks.hold();

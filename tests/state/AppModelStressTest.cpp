@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The model on the real system: a hundred surveys of a real tree, each cancelled at another moment.
+// The model on the real system: surveys a real tree a hundred times and cancels at random moments.
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A home folder of a few thousand entries that goes with the object.
+/// A home folder of a few thousand entries, removed with the object.
 class TemporaryHome {
 public:
     TemporaryHome() {
@@ -36,7 +36,7 @@ public:
 };
 
 #ifdef __linux__
-bool aScanThreadIsThere() {
+bool isScanThreadRunning() {
     for (const fs::directory_entry& thread : fs::directory_iterator("/proc/self/task")) {
         std::string name;
         std::getline(std::ifstream(thread.path() / "comm"), name);
@@ -46,7 +46,7 @@ bool aScanThreadIsThere() {
 }
 #endif
 
-TEST(AppModelStress, cancellingAtAHundredMomentsLeavesNothing) {
+TEST(AppModelStress, cancelAtHundredRandomMomentsLeavesNothing) {
     using Clock = std::chrono::steady_clock;
     const TemporaryHome home;
     NativePlatform native(home.path.string());
@@ -79,7 +79,7 @@ TEST(AppModelStress, cancellingAtAHundredMomentsLeavesNothing) {
         EXPECT_EQ(model.history().size(), std::min<std::size_t>(finished, SurveyHistory::maximumRecords));
     }
 
-    // What comes back from the last scan may be a record to take back, which is a task of its own.
+    // The last scan may report a record that has to be withdrawn, which takes another task.
     for (int turn = 0; turn < 2; ++turn) {
         while (!native.drain(1)) {
         }
@@ -89,12 +89,12 @@ TEST(AppModelStress, cancellingAtAHundredMomentsLeavesNothing) {
     EXPECT_EQ(SurveyHistory(native.platform().files, native.platform().locations).load().size(),
               std::min<std::size_t>(finished, SurveyHistory::maximumRecords));
 #ifdef __linux__
-    // A thread is counted out a moment before the kernel forgets it.
-    while (aScanThreadIsThere()) std::this_thread::yield();
+    // The kernel still lists a thread for a moment after it has ended.
+    while (isScanThreadRunning()) std::this_thread::yield();
 #endif
 }
 
-TEST(AppModelStress, theModelMayGoAtAnyMoment) {
+TEST(AppModelStress, modelMayBeDestroyedAtAnyMoment) {
     const TemporaryHome home;
     NativePlatform native(home.path.string());
     std::mt19937 random(7);

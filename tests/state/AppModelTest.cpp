@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The model at start-up and what the user chooses.
-#include <QMetaEnum>
-
+// The model at start-up, and the settings.
 #include "AppModelFixture.h"
 
 namespace zelk {
@@ -10,7 +8,7 @@ namespace {
 using AppModelTest = AppModelFixture;
 using Strings = std::vector<std::string>;
 
-TEST_F(AppModelTest, startsWithTheDefaults) {
+TEST_F(AppModelTest, startsWithDefaults) {
     const AppModel& fresh = model();
     EXPECT_EQ(fresh.appearance(), AppModel::Appearance::dark);
     EXPECT_EQ(fresh.audience(), AppModel::Audience::normal);
@@ -37,7 +35,7 @@ TEST_F(AppModelTest, startsWithTheDefaults) {
     EXPECT_EQ(fresh.device(), machine.vitals.deviceInfo);
 }
 
-TEST_F(AppModelTest, startsNoScanAndMeasuresNothingByItself) {
+TEST_F(AppModelTest, startsNoScanAndMeasuresNothing) {
     machine.tasks.hold();
     model();
     runWhatIsThere();
@@ -46,7 +44,7 @@ TEST_F(AppModelTest, startsNoScanAndMeasuresNothingByItself) {
     EXPECT_TRUE(machine.vitals.volumeReads().empty());
 }
 
-TEST_F(AppModelTest, loadsTheHistoryAtStart) {
+TEST_F(AppModelTest, loadsHistoryAtStart) {
     SurveyRecord record;
     record.date = 1'700'000'000;
     record.totalScanned = 77;
@@ -54,12 +52,12 @@ TEST_F(AppModelTest, loadsTheHistoryAtStart) {
     EXPECT_EQ(model().history(), std::vector{record});
 }
 
-TEST_F(AppModelTest, aCorruptHistoryIsEmpty) {
+TEST_F(AppModelTest, corruptHistoryIsEmpty) {
     machine.files.addFile("/home/me/support/Zelk/history.json", "[{\"date\":");
     EXPECT_TRUE(model().history().empty());
 }
 
-TEST_F(AppModelTest, everyChoiceIsKeptAndSignalledOnce) {
+TEST_F(AppModelTest, settersStoreAndSignalOnce) {
     model().setAppearance(AppModel::Appearance::light);
     model().setAudience(AppModel::Audience::developer);
     model().setSelection(Screen::lens);
@@ -76,7 +74,7 @@ TEST_F(AppModelTest, everyChoiceIsKeptAndSignalledOnce) {
               (Strings{"appearance", "audience", "selection", "scanRoots", "ageFilterDays", "hardDeleteEnabled"}));
 }
 
-TEST_F(AppModelTest, choosingWhatIsChosenSignalsNothing) {
+TEST_F(AppModelTest, settingSameValueSignalsNothing) {
     model().setAppearance(AppModel::Appearance::dark);
     model().setAudience(AppModel::Audience::normal);
     model().setSelection(Screen::survey);
@@ -87,17 +85,17 @@ TEST_F(AppModelTest, choosingWhatIsChosenSignalsNothing) {
     EXPECT_EQ(takeSignals(), Strings{});
 }
 
-TEST_F(AppModelTest, equalScanRootsAreTakenOnceInTheirOrder) {
+TEST_F(AppModelTest, dropsDuplicateScanRoots) {
     model().setScanRoots({"/b", "/a", "/b", "/c", "/a"});
     EXPECT_EQ(model().scanRoots(), (Strings{"/b", "/a", "/c"}));
 }
 
-TEST_F(AppModelTest, aScanRootInAnotherSpellingIsTheSameOne) {
+TEST_F(AppModelTest, normalizesScanRoots) {
     model().setScanRoots({"/a/home/", "/a/home", "/a/./home", "//a/home/.", "/caf\xe9/"});
     EXPECT_EQ(model().scanRoots(), (Strings{"/a/home", "/caf\xe9"}));
 }
 
-TEST_F(AppModelTest, theSameFolderTwiceIsSurveyedOnce) {
+TEST_F(AppModelTest, surveysDuplicateRootOnce) {
     machine.directories.file("/a/home/file", 1'000'000);
     model().setScanRoots({"/a/home/", "/a/home"});
     survey();
@@ -105,36 +103,18 @@ TEST_F(AppModelTest, theSameFolderTwiceIsSurveyedOnce) {
     EXPECT_EQ(model().stats()->roots, Strings{"/a/home"});
 }
 
-TEST_F(AppModelTest, theSelectionIsNotTouchedByAScan) {
+TEST_F(AppModelTest, scanKeepsSelection) {
     model().setSelection(Screen::clutter);
     survey();
     EXPECT_EQ(model().selection(), Screen::clutter);
 }
 
-TEST_F(AppModelTest, itsEnumerationsHaveStableTexts) {
+TEST_F(AppModelTest, rawValuesAreStable) {
     EXPECT_EQ(rawValue(AppModel::Audience::normal), "Normal");
     EXPECT_EQ(rawValue(AppModel::Audience::developer), "Developer");
     EXPECT_EQ(rawValue(AppModel::Appearance::system), "system");
     EXPECT_EQ(rawValue(AppModel::Appearance::light), "light");
     EXPECT_EQ(rawValue(AppModel::Appearance::dark), "dark");
-}
-
-TEST_F(AppModelTest, tellsQmlItsFieldsAndEnumerations) {
-    const QMetaObject* meta = model().metaObject();
-    model().setAgeFilterDays(21);
-    EXPECT_EQ(model().property("ageFilterDays").toLongLong(), 21);
-    EXPECT_TRUE(model().setProperty("hardDeleteEnabled", true));
-    EXPECT_TRUE(model().hardDeleteEnabled());
-    for (const char* name : {"appearance", "audience", "scanPhase", "itemsScanned", "bytesScanned", "blockedPaths",
-                             "trashBytes", "trashAccessible", "trashLoading", "emptyingTrash"}) {
-        const int index = meta->indexOfProperty(name);
-        ASSERT_GE(index, 0) << name;
-        EXPECT_TRUE(meta->property(index).hasNotifySignal()) << name;
-    }
-    const QMetaEnum phases = QMetaEnum::fromType<AppModel::ScanPhase>();
-    EXPECT_STREQ(phases.valueToKey(static_cast<int>(Phase::finished)), "finished");
-    EXPECT_STREQ(QMetaEnum::fromType<AppModel::Audience>().valueToKey(1), "developer");
-    EXPECT_STREQ(QMetaEnum::fromType<AppModel::Appearance>().valueToKey(0), "system");
 }
 
 }  // namespace

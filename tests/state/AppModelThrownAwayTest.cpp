@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What lies where the platform says that things were thrown away: counted, and not offered.
+// The contents of the Trash folders that the platform names: counted, but not offered.
 #include "AppModelFixture.h"
 
 namespace zelk {
@@ -31,7 +31,7 @@ protected:
     const std::vector<std::string> elsewhere{home + "/Library/Caches/Yarn", home + "/projects/app/node_modules"};
 };
 
-TEST_F(AppModelThrownAwayTest, isNotOfferedAgain) {
+TEST_F(AppModelThrownAwayTest, trashContentsAreNotOffered) {
     machine.locations.thrownAway = TrashPlaces({home + "/.Trash"}, {});
     survey();
     EXPECT_EQ(offered(), elsewhere);
@@ -41,14 +41,14 @@ TEST_F(AppModelThrownAwayTest, isNotOfferedAgain) {
     expectItCounted();
 }
 
-TEST_F(AppModelThrownAwayTest, isFoundLikeAllElseWhereThePlatformSaysNothing) {
+TEST_F(AppModelThrownAwayTest, withoutKnownTrashEverythingIsOffered) {
     survey();
     EXPECT_EQ(offered().size(), 3U);
     EXPECT_TRUE(listsTheOldArchive());
     expectItCounted();
 }
 
-TEST_F(AppModelThrownAwayTest, thePlacesOfLinuxAreOfferedWhereThereIsADataHome) {
+TEST_F(AppModelThrownAwayTest, dataHomeAddsLinuxPlaces) {
     machine.directories.file(home + "/.cache/yarn/v6", 1'000, 1'000);
     machine.directories.file(home + "/data/pnpm/store/v3", 1'000, 1'000);
     survey();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One of the largest files goes to the Trash: what the model forgets of it, and what not.
+// Moving one of the largest files to the Trash: which results drop it, and which keep it.
 #include "AppModelFixture.h"
 
 namespace zelk {
@@ -9,7 +9,7 @@ using Strings = std::vector<std::string>;
 
 class AppModelTrashFileTest : public AppModelFixture {
 protected:
-    /// A survey of the home of fillHome(), whose files can also be moved to the Trash.
+    /// Surveys the home of fillHome(), whose files can be moved to the Trash too.
     void surveyHome() {
         fillHome();
         for (const std::string& path : {film, image}) machine.files.addFile(path);
@@ -20,7 +20,7 @@ protected:
         machine.files.addFile(path);
     }
 
-    /// And everything that was told to the main thread has arrived there.
+    /// Returns when every closure that was posted to the main thread has run.
     void trash(const std::string& path) {
         model().trashLargeFile(path);
         runWhatIsThere();
@@ -35,7 +35,7 @@ protected:
     const std::string image = home + "/projects/system.iso";
 };
 
-TEST_F(AppModelTrashFileTest, itGoesToTheTrashAndOutOfTheList) {
+TEST_F(AppModelTrashFileTest, movesFileToTrashAndOutOfList) {
     surveyHome();
     ASSERT_TRUE(lists(film));
     takeSignals();
@@ -46,7 +46,7 @@ TEST_F(AppModelTrashFileTest, itGoesToTheTrashAndOutOfTheList) {
     EXPECT_EQ(takeSignals(), Strings{"insights"});
 }
 
-TEST_F(AppModelTrashFileTest, allOtherResultsKeepCountingIt) {
+TEST_F(AppModelTrashFileTest, otherResultsStillCountFile) {
     surveyHome();
     const ScanInsights before = model().insights();
     const std::int64_t size = model().root()->size;
@@ -62,7 +62,7 @@ TEST_F(AppModelTrashFileTest, allOtherResultsKeepCountingIt) {
     EXPECT_EQ(model().insights().topFiles.size(), before.topFiles.size() - 2);
 }
 
-TEST_F(AppModelTrashFileTest, thatDoesNotGoStaysInTheListInSilence) {
+TEST_F(AppModelTrashFileTest, failedMoveKeepsFileInList) {
     surveyHome();
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     const ScanInsights before = model().insights();
@@ -72,7 +72,7 @@ TEST_F(AppModelTrashFileTest, thatDoesNotGoStaysInTheListInSilence) {
     EXPECT_EQ(takeSignals(), Strings());
 }
 
-TEST_F(AppModelTrashFileTest, theMainThreadDoesNotWaitForTheTrash) {
+TEST_F(AppModelTrashFileTest, movesFileOffMainThread) {
     surveyHome();
     machine.tasks.hold();
     model().trashLargeFile(film);
@@ -85,7 +85,7 @@ TEST_F(AppModelTrashFileTest, theMainThreadDoesNotWaitForTheTrash) {
     machine.tasks.release();
 }
 
-TEST_F(AppModelTrashFileTest, theSameTwiceIsMovedOnce) {
+TEST_F(AppModelTrashFileTest, sameFileTwiceIsMovedOnce) {
     surveyHome();
     machine.tasks.hold();
     model().trashLargeFile(film);
@@ -98,7 +98,7 @@ TEST_F(AppModelTrashFileTest, theSameTwiceIsMovedOnce) {
     EXPECT_TRUE(lists(image));
 }
 
-TEST_F(AppModelTrashFileTest, whatLiesTwiceInTheListLeavesItTwice) {
+TEST_F(AppModelTrashFileTest, removesEveryEntryOfPath) {
     fillHome();
     machine.files.addFile(film);
     model().setScanRoots({home, home + "/projects"});
@@ -110,14 +110,14 @@ TEST_F(AppModelTrashFileTest, whatLiesTwiceInTheListLeavesItTwice) {
     EXPECT_FALSE(lists(film));
 }
 
-TEST_F(AppModelTrashFileTest, thatIsGoneAlreadyStaysUntilTheNextSurvey) {
+TEST_F(AppModelTrashFileTest, missingFileStaysInListUntilNextSurvey) {
     surveyHome();
     machine.files.erase(film);
     trash(film);
     EXPECT_TRUE(lists(film));
 }
 
-TEST_F(AppModelTrashFileTest, aNameMayHoldAnyBytes) {
+TEST_F(AppModelTrashFileTest, acceptsAnyBytesInName) {
     const std::string strange = home + "/a\nb\xff\xc3.mov";
     add(strange);
     fillHome();
@@ -128,7 +128,7 @@ TEST_F(AppModelTrashFileTest, aNameMayHoldAnyBytes) {
     EXPECT_FALSE(lists(strange));
 }
 
-TEST_F(AppModelTrashFileTest, whatIsNoPathOfAnItemIsNotTouched) {
+TEST_F(AppModelTrashFileTest, ignoresInvalidPaths) {
     surveyHome();
     machine.tasks.hold();
     for (const char* path : {"", "/", "film.mov", "/home/me/../you/film.mov"}) model().trashLargeFile(path);
@@ -136,7 +136,7 @@ TEST_F(AppModelTrashFileTest, whatIsNoPathOfAnItemIsNotTouched) {
     machine.tasks.release();
 }
 
-TEST_F(AppModelTrashFileTest, whatNoSurveyCameByIsNotTouched) {
+TEST_F(AppModelTrashFileTest, ignoresPathsOutsideScanRoots) {
     machine.files.addFile("/elsewhere/dear.mov");
     machine.files.addFile(home + "2/dear.mov");
     machine.tasks.hold();
@@ -148,7 +148,7 @@ TEST_F(AppModelTrashFileTest, whatNoSurveyCameByIsNotTouched) {
     EXPECT_EQ(machine.trash.trashed(), Strings());
 }
 
-TEST_F(AppModelTrashFileTest, aNeighbourWithALongerNameStays) {
+TEST_F(AppModelTrashFileTest, keepsNeighbourWithLongerName) {
     const std::string neighbour = film + ".part";
     add(neighbour);
     surveyHome();
@@ -157,9 +157,9 @@ TEST_F(AppModelTrashFileTest, aNeighbourWithALongerNameStays) {
     EXPECT_TRUE(lists(neighbour));
 }
 
-// The world changes behind the list.
+// The disk changes after the survey.
 
-TEST_F(AppModelTrashFileTest, ofALinkInItsPlaceTheLinkItselfGoes) {
+TEST_F(AppModelTrashFileTest, movesLinkThatReplacedFile) {
     surveyHome();
     machine.files.addFile("/elsewhere/dear.mov", "dear");
     machine.files.addLink(film, "/elsewhere/dear.mov");
@@ -169,7 +169,7 @@ TEST_F(AppModelTrashFileTest, ofALinkInItsPlaceTheLinkItselfGoes) {
     EXPECT_FALSE(lists(film));
 }
 
-TEST_F(AppModelTrashFileTest, ofAFolderInItsPlaceNothingIsLost) {
+TEST_F(AppModelTrashFileTest, folderThatReplacedFileStaysComplete) {
     surveyHome();
     machine.files.erase(film);
     machine.files.addFile(film + "/kept", "kept");
@@ -179,7 +179,7 @@ TEST_F(AppModelTrashFileTest, ofAFolderInItsPlaceNothingIsLost) {
     EXPECT_TRUE(lists(image));
 }
 
-TEST_F(AppModelTrashFileTest, theListOfANewerSurveyThatStillNamesItLosesIt) {
+TEST_F(AppModelTrashFileTest, removesFileFromNewerList) {
     surveyHome();
     machine.tasks.hold();
     model().trashLargeFile(film);
@@ -194,7 +194,7 @@ TEST_F(AppModelTrashFileTest, theListOfANewerSurveyThatStillNamesItLosesIt) {
     EXPECT_TRUE(lists(image));
 }
 
-TEST_F(AppModelTrashFileTest, aSurveyThatCameByBeforeDoesNotListItAfterwards) {
+TEST_F(AppModelTrashFileTest, runningSurveyDoesNotListTrashedFile) {
     surveyHome();
     addWideFolder(home + "/wide");
     machine.directories.hold(home + "/wide/inner");
@@ -214,7 +214,7 @@ TEST_F(AppModelTrashFileTest, aSurveyThatCameByBeforeDoesNotListItAfterwards) {
     EXPECT_TRUE(lists(film));
 }
 
-TEST_F(AppModelTrashFileTest, theModelMayGoMeanwhile) {
+TEST_F(AppModelTrashFileTest, modelMayBeDestroyedMeanwhile) {
     surveyHome();
     machine.tasks.hold();
     model().trashLargeFile(film);

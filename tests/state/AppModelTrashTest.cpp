@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The figure of the Trash: out of the tree where a survey passed it, measured where not.
+// The figure of the Trash: from the tree if a survey passed it, measured otherwise.
 #include "AppModelFixture.h"
 
 namespace zelk {
@@ -7,13 +7,13 @@ namespace {
 
 class AppModelTrashTest : public AppModelFixture {
 protected:
-    /// Whether the measure of the Trash was asked for.
+    /// Whether the Trash was measured.
     bool wasMeasured() const { return !machine.files.pathsOf("list").empty(); }
 };
 
 using Strings = std::vector<std::string>;
 
-TEST_F(AppModelTrashTest, isReadFromTheTreeWhenTheHomeIsARoot) {
+TEST_F(AppModelTrashTest, takesFigureFromTreeIfHomeIsRoot) {
     fillHome();
     machine.trash.put("not what the tree says", 1);
     survey();
@@ -23,7 +23,7 @@ TEST_F(AppModelTrashTest, isReadFromTheTreeWhenTheHomeIsARoot) {
     EXPECT_FALSE(wasMeasured());
 }
 
-TEST_F(AppModelTrashTest, isReadFromTheTreeWhenItIsARootItself) {
+TEST_F(AppModelTrashTest, takesFigureFromTreeIfTrashIsRoot) {
     fillHome();
     model().setScanRoots({home + "/projects", home + "/.Trash"});
     survey();
@@ -31,7 +31,7 @@ TEST_F(AppModelTrashTest, isReadFromTheTreeWhenItIsARootItself) {
     EXPECT_FALSE(wasMeasured());
 }
 
-TEST_F(AppModelTrashTest, isMeasuredWhenARootLiesHigherUp) {
+TEST_F(AppModelTrashTest, measuresIfRootIsAboveHome) {
     fillHome();
     machine.trash.put("a", 11);
     model().setScanRoots({"/home"});
@@ -40,7 +40,7 @@ TEST_F(AppModelTrashTest, isMeasuredWhenARootLiesHigherUp) {
     EXPECT_TRUE(wasMeasured());
 }
 
-TEST_F(AppModelTrashTest, isMeasuredWhenTheSurveyDoesNotContainIt) {
+TEST_F(AppModelTrashTest, measuresIfSurveyDoesNotContainTrash) {
     machine.directories.file("/data/.Trash/file", 5'000);
     machine.trash.put("a", 11);
     machine.trash.put(".hidden", 30);
@@ -49,7 +49,7 @@ TEST_F(AppModelTrashTest, isMeasuredWhenTheSurveyDoesNotContainIt) {
     EXPECT_EQ(model().trashBytes(), 41);
 }
 
-TEST_F(AppModelTrashTest, isReadFromTheTreeEvenIfItWasInaccessible) {
+TEST_F(AppModelTrashTest, figureFromTreeMakesTrashAccessible) {
     machine.trash.setAccessible(false);
     model().refreshTrash();
     runUntil([&] { return !model().trashLoading(); });
@@ -60,7 +60,7 @@ TEST_F(AppModelTrashTest, isReadFromTheTreeEvenIfItWasInaccessible) {
     EXPECT_EQ(model().trashBytes(), 7'000'000);
 }
 
-TEST_F(AppModelTrashTest, theSurveyDoesNotWaitForTheMeasure) {
+TEST_F(AppModelTrashTest, surveyDoesNotWaitForMeasurement) {
     machine.directories.directory("/data");
     model().setScanRoots({"/data"});
     machine.tasks.hold();
@@ -74,7 +74,7 @@ TEST_F(AppModelTrashTest, theSurveyDoesNotWaitForTheMeasure) {
     runUntil([&] { return !model().trashLoading(); });
 }
 
-TEST_F(AppModelTrashTest, loadsVisiblyWithoutAFigure) {
+TEST_F(AppModelTrashTest, showsLoadingWithoutFigure) {
     machine.trash.put("a", 11);
     machine.tasks.hold();
     model().refreshTrash();
@@ -83,10 +83,10 @@ TEST_F(AppModelTrashTest, loadsVisiblyWithoutAFigure) {
     machine.tasks.release();
     runUntil([&] { return !model().trashLoading(); });
     EXPECT_EQ(model().trashBytes(), 11);
-    EXPECT_EQ(takeSignals(), (Strings{"trashLoading", "trashBytes", "trashLoading"}));
+    EXPECT_EQ(takeSignals(), (Strings{"trash", "trash"}));
 }
 
-TEST_F(AppModelTrashTest, isReplacedInSilenceWithAFigure) {
+TEST_F(AppModelTrashTest, refreshWithFigureShowsNoLoading) {
     machine.trash.put("a", 11);
     model().refreshTrash();
     runUntil([&] { return model().trashBytes() == 11; });
@@ -96,10 +96,10 @@ TEST_F(AppModelTrashTest, isReplacedInSilenceWithAFigure) {
     EXPECT_FALSE(model().trashLoading());
     runUntil([&] { return model().trashBytes() != 11; });
     EXPECT_EQ(model().trashBytes(), 20);
-    EXPECT_EQ(takeSignals(), Strings{"trashBytes"});
+    EXPECT_EQ(takeSignals(), Strings{"trash"});
 }
 
-TEST_F(AppModelTrashTest, inaccessibleKeepsTheLastFigure) {
+TEST_F(AppModelTrashTest, inaccessibleTrashKeepsLastFigure) {
     machine.trash.put("a", 11);
     model().refreshTrash();
     runUntil([&] { return model().trashBytes() == 11; });
@@ -115,7 +115,7 @@ TEST_F(AppModelTrashTest, inaccessibleKeepsTheLastFigure) {
     EXPECT_EQ(model().trashBytes(), 11);
 }
 
-TEST_F(AppModelTrashTest, inaccessibleWithoutAFigureEndsTheLoading) {
+TEST_F(AppModelTrashTest, inaccessibleTrashEndsLoading) {
     machine.trash.setAccessible(false);
     model().refreshTrash();
     EXPECT_TRUE(model().trashLoading());
@@ -124,7 +124,7 @@ TEST_F(AppModelTrashTest, inaccessibleWithoutAFigureEndsTheLoading) {
     EXPECT_EQ(model().trashBytes(), 0);
 }
 
-TEST_F(AppModelTrashTest, anEmptyTrashIsZeroAndAccessible) {
+TEST_F(AppModelTrashTest, emptyTrashIsZeroAndAccessible) {
     machine.trash.put("a", 11);
     model().refreshTrash();
     runUntil([&] { return model().trashBytes() == 11; });
@@ -134,7 +134,7 @@ TEST_F(AppModelTrashTest, anEmptyTrashIsZeroAndAccessible) {
     EXPECT_TRUE(model().trashAccessible());
 }
 
-TEST_F(AppModelTrashTest, ofTwoMeasuresTheLastToEndIsShown) {
+TEST_F(AppModelTrashTest, lastMeasurementToEndWins) {
     machine.trash.put("a", 11);
     machine.tasks.hold();
     model().refreshTrash();
@@ -148,7 +148,7 @@ TEST_F(AppModelTrashTest, ofTwoMeasuresTheLastToEndIsShown) {
     EXPECT_EQ(model().trashBytes(), 20);
 }
 
-TEST_F(AppModelTrashTest, aMeasureThatEndsAfterTheSurveyOverwritesTheTreesFigure) {
+TEST_F(AppModelTrashTest, measurementThatEndsAfterSurveyWins) {
     fillHome();
     machine.trash.put("a", 11);
     machine.tasks.hold();
@@ -165,7 +165,7 @@ TEST_F(AppModelTrashTest, aMeasureThatEndsAfterTheSurveyOverwritesTheTreesFigure
     EXPECT_EQ(model().trashBytes(), 11);
 }
 
-TEST_F(AppModelTrashTest, theModelMayGoWhileTheTrashIsMeasured) {
+TEST_F(AppModelTrashTest, modelMayBeDestroyedWhileMeasuring) {
     machine.tasks.hold();
     model().refreshTrash();
     destroyModel();
@@ -176,7 +176,7 @@ TEST_F(AppModelTrashTest, theModelMayGoWhileTheTrashIsMeasured) {
 
 // Emptying.
 
-TEST_F(AppModelTrashTest, emptyingRemovesAllThatItHolds) {
+TEST_F(AppModelTrashTest, emptyingRemovesEverything) {
     machine.trash.put("a", 11);
     machine.trash.put("folder/.hidden", 30);
     machine.tasks.hold();
@@ -192,17 +192,17 @@ TEST_F(AppModelTrashTest, emptyingRemovesAllThatItHolds) {
     EXPECT_TRUE(model().trashAccessible());
 }
 
-TEST_F(AppModelTrashTest, emptyingTellsTheFigureBeforeItsEnd) {
+TEST_F(AppModelTrashTest, emptyingSignalsStartAndEnd) {
     machine.trash.put("a", 11);
     model().refreshTrash();
     runUntil([&] { return model().trashBytes() == 11; });
     takeSignals();
     model().emptyTrash();
     runUntil([&] { return !model().emptyingTrash(); });
-    EXPECT_EQ(takeSignals(), (Strings{"emptyingTrash", "trashBytes", "emptyingTrash", "volume"}));
+    EXPECT_EQ(takeSignals(), (Strings{"trash", "trash", "volume"}));
 }
 
-TEST_F(AppModelTrashTest, isEmptiedOnceAtATime) {
+TEST_F(AppModelTrashTest, emptiesOnceAtATime) {
     machine.trash.put("a", 11);
     machine.tasks.hold();
     model().emptyTrash();
@@ -216,7 +216,7 @@ TEST_F(AppModelTrashTest, isEmptiedOnceAtATime) {
     EXPECT_EQ(machine.trash.list(), Strings());
 }
 
-TEST_F(AppModelTrashTest, whatCannotBeRemovedStaysAndIsTold) {
+TEST_F(AppModelTrashTest, emptyingCountsWhatCouldNotBeRemoved) {
     machine.trash.put("a", 11);
     machine.trash.put("kept", 9);
     machine.trash.put("z", 30);
@@ -228,7 +228,7 @@ TEST_F(AppModelTrashTest, whatCannotBeRemovedStaysAndIsTold) {
     EXPECT_TRUE(model().trashAccessible());
 }
 
-TEST_F(AppModelTrashTest, emptyingWhatIsInaccessibleRemovesNothingAndKeepsTheLastFigure) {
+TEST_F(AppModelTrashTest, emptyingInaccessibleTrashKeepsLastFigure) {
     machine.trash.put("a", 11);
     model().refreshTrash();
     runUntil([&] { return model().trashBytes() == 11; });
@@ -240,7 +240,7 @@ TEST_F(AppModelTrashTest, emptyingWhatIsInaccessibleRemovesNothingAndKeepsTheLas
     EXPECT_FALSE(model().trashAccessible());
 }
 
-TEST_F(AppModelTrashTest, theVolumeIsReadAgainAfterEmptying) {
+TEST_F(AppModelTrashTest, emptyingReadsVolumeAgain) {
     survey();
     machine.vitals.setVolume(home, VolumeInfo{1'000, 800, 850});
     model().emptyTrash();
@@ -248,7 +248,7 @@ TEST_F(AppModelTrashTest, theVolumeIsReadAgainAfterEmptying) {
     EXPECT_EQ(model().volume(), (VolumeInfo{1'000, 800, 850}));
 }
 
-TEST_F(AppModelTrashTest, theVolumeReadAfterEmptyingIsThatOfTheFirstRoot) {
+TEST_F(AppModelTrashTest, emptyingReadsVolumeOfFirstRoot) {
     model().setScanRoots({"/data", home});
     machine.vitals.setVolume("/data", VolumeInfo{5'000, 1, 2});
     model().emptyTrash();
@@ -261,7 +261,7 @@ TEST_F(AppModelTrashTest, theVolumeReadAfterEmptyingIsThatOfTheFirstRoot) {
     EXPECT_EQ(machine.vitals.volumeReads(), (Strings{"/data", home}));
 }
 
-TEST_F(AppModelTrashTest, aVolumeThatCannotBeReadAfterEmptyingKeepsTheOldOne) {
+TEST_F(AppModelTrashTest, unreadableVolumeAfterEmptyingKeepsOldOne) {
     survey();
     machine.vitals.setVolume(home, std::nullopt);
     model().emptyTrash();
@@ -269,7 +269,7 @@ TEST_F(AppModelTrashTest, aVolumeThatCannotBeReadAfterEmptyingKeepsTheOldOne) {
     EXPECT_EQ(model().volume(), (VolumeInfo{1'000, 400, 450}));
 }
 
-TEST_F(AppModelTrashTest, aRefreshThatEndsAfterAnEmptyingWins) {
+TEST_F(AppModelTrashTest, refreshThatEndsAfterEmptyingWins) {
     machine.trash.put("a", 11);
     machine.tasks.hold();
     model().refreshTrash();
@@ -283,7 +283,7 @@ TEST_F(AppModelTrashTest, aRefreshThatEndsAfterAnEmptyingWins) {
     EXPECT_EQ(model().trashBytes(), 5);
 }
 
-TEST_F(AppModelTrashTest, anEmptyingThatEndsAfterARefreshWins) {
+TEST_F(AppModelTrashTest, emptyingThatEndsAfterRefreshWins) {
     machine.trash.put("a", 11);
     machine.tasks.hold();
     model().emptyTrash();
@@ -297,7 +297,7 @@ TEST_F(AppModelTrashTest, anEmptyingThatEndsAfterARefreshWins) {
     EXPECT_EQ(model().trashBytes(), 0);
 }
 
-TEST_F(AppModelTrashTest, theModelMayGoWhileTheTrashIsEmptied) {
+TEST_F(AppModelTrashTest, modelMayBeDestroyedWhileEmptying) {
     machine.trash.put("a", 11);
     machine.tasks.hold();
     model().emptyTrash();

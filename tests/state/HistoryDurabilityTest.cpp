@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every system call of adding a record, failed and killed in turn: what is left is the old or the new history, whole.
+// Fails, and kills the process at, every system call of appending a record: the old or the new history must be whole.
 #ifdef __linux__
 
 #include <gmock/gmock.h>
@@ -28,14 +28,14 @@ using testing::ElementsAre;
 using Position = fakes::CallPosition;
 using History = std::vector<SurveyRecord>;
 
-/// What reading and writing a file is made of; "?" passes over those that this machine does not have.
+/// The system calls that read and write a file; "?" ignores those that this machine does not have.
 const std::string tracedCalls =
     "?access,?faccessat,?faccessat2,?open,openat,?mkdir,mkdirat,?stat,?lstat,?fstat,?newfstatat,?statx,?readlink,"
     "readlinkat,read,write,?writev,?pwrite64,fsync,fdatasync,ftruncate,close,?rename,renameat,?renameat2,?unlink,"
     "unlinkat,"
     "fchmod,flock,fcntl,?getdents64";
 
-/// Not one of the sanitizers' own, which write into pipes to learn whether memory is there.
+/// Excludes the calls of the sanitizers, which write into pipes to probe memory.
 bool writesTheHistory(const Position& position) {
     return position.call == "write" && position.line.find("\"[{") != std::string::npos;
 }
@@ -51,19 +51,19 @@ protected:
 
     void SetUp() override { prepare(); }
 
-    /// Adds the record 3 under strace.
+    /// Appends record 3 under strace.
     int runTraced(const Arguments& injections) {
         return traced.run({ZELK_HISTORY_WRITER, home.path(), "3"}, injections);
     }
 
-    /// The calls between the beginning and the end of adding a record.
+    /// The calls that append the record.
     std::vector<Position> positions() {
         EXPECT_EQ(runTraced({}), 0);
         EXPECT_FALSE(traced.positions().empty()) << "strace cannot trace a program here";
         return traced.positions();
     }
 
-    /// The first call of the write, behind those of the reading before it.
+    /// The first call of the write, after those of the read.
     static std::size_t writeBegins(const std::vector<Position>& all) {
         const auto end = std::find_if(all.rbegin(), all.rend(), [](const Position& p) { return p.call == "read"; });
         return static_cast<std::size_t>(all.rend() - end) + 1;
@@ -87,11 +87,11 @@ protected:
     LinuxFileManager files;
     const History old{record(1), record(2)};
     const History added{record(1), record(2), record(3)};
-    /// What a history that cannot be read becomes.
+    /// The history after one that could not be read.
     const History fresh{record(3)};
 };
 
-TEST_F(HistoryDurability, anAddedRecordIsFlushedWithItsFolder) {
+TEST_F(HistoryDurability, flushesRecordAndFolder) {
     const std::vector<Position> all = positions();
     EXPECT_EQ(stored(), added);
     std::string order;
@@ -104,7 +104,7 @@ TEST_F(HistoryDurability, anAddedRecordIsFlushedWithItsFolder) {
     EXPECT_EQ(order, "write fsync rename fsync ");
 }
 
-TEST_F(HistoryDurability, anErrorOfAnyCallLeavesTheOldOrTheNewHistory) {
+TEST_F(HistoryDurability, errorAtEverySyscallLeavesOldOrNewHistory) {
     const std::vector<Position> all = positions();
     const std::size_t begin = writeBegins(all);
     for (const char* error : {"EIO", "ENOSPC"}) {
@@ -123,7 +123,7 @@ TEST_F(HistoryDurability, anErrorOfAnyCallLeavesTheOldOrTheNewHistory) {
     }
 }
 
-TEST_F(HistoryDurability, aFailedWriteOrFlushLeavesTheOldHistory) {
+TEST_F(HistoryDurability, failedWriteOrFlushLeavesOldHistory) {
     for (const Position& position : positions()) {
         const bool ofTheFile = position.line.find("zelk-write") != std::string::npos || writesTheHistory(position);
         if (!ofTheFile) continue;
@@ -135,7 +135,7 @@ TEST_F(HistoryDurability, aFailedWriteOrFlushLeavesTheOldHistory) {
     }
 }
 
-TEST_F(HistoryDurability, aKillAtAnyCallLeavesTheOldOrTheNewHistoryAndTheNextRecordCleansUp) {
+TEST_F(HistoryDurability, killAtEverySyscallLeavesOldOrNewHistory) {
     for (const Position& position : positions()) {
         SCOPED_TRACE("killed at " + position.line);
         prepare();
@@ -150,7 +150,7 @@ TEST_F(HistoryDurability, aKillAtAnyCallLeavesTheOldOrTheNewHistoryAndTheNextRec
     }
 }
 
-TEST_F(HistoryDurability, anInterruptedCallIsRepeated) {
+TEST_F(HistoryDurability, retriesInterruptedCalls) {
     int repeated = 0;
     for (const Position& position : positions()) {
         static const std::vector<std::string> interruptible{"openat", "read", "write", "fsync", "flock", "close"};
@@ -169,7 +169,7 @@ TEST_F(HistoryDurability, anInterruptedCallIsRepeated) {
     EXPECT_GE(repeated, 10);
 }
 
-TEST_F(HistoryDurability, aTemporaryFileThatCannotBeRemovedIsSweptByTheNextRecord) {
+TEST_F(HistoryDurability, nextRecordSweepsTemporaryFile) {
     for (const char* then : {"error=EIO", "signal=KILL"}) {
         SCOPED_TRACE(then);
         prepare();
@@ -187,7 +187,7 @@ TEST_F(HistoryDurability, aTemporaryFileThatCannotBeRemovedIsSweptByTheNextRecor
     }
 }
 
-TEST_F(HistoryDurability, aRefusedFlushOfTheFolderStillTellsTheNewHistory) {
+TEST_F(HistoryDurability, failedFolderFlushKeepsNewHistory) {
     std::vector<Position> all = positions();
     const auto last = std::find_if(all.rbegin(), all.rend(), [](const Position& p) { return p.call == "fsync"; });
     ASSERT_NE(last, all.rend());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The model on a real disk: what a cleaning moved to the Trash is counted by the next survey, and not offered again.
+// The model on a real disk: the next survey counts what a cleaning moved to the Trash, but does not offer it again.
 #include <algorithm>
 #include <filesystem>
 #include <memory>
@@ -53,7 +53,7 @@ protected:
     std::unique_ptr<AppModel> model;
 };
 
-TEST_F(TrashAndModel, whatACleaningMovedToTheTrashIsCountedAndNotOfferedAgain) {
+TEST_F(TrashAndModel, trashedItemsAreCountedButNotOfferedAgain) {
     model->startScan();
     untilSurveyed(1);
     ASSERT_EQ(offered(), (std::vector{home + "/lab/__pycache__", home + "/shop/node_modules"}));
@@ -81,7 +81,7 @@ TEST_F(TrashAndModel, whatACleaningMovedToTheTrashIsCountedAndNotOfferedAgain) {
     EXPECT_EQ(model->trashBytes(), folder->size);
 }
 
-TEST_F(TrashAndModel, theCachesOfADesktopAreOffered) {
+TEST_F(TrashAndModel, offersDesktopCaches) {
     std::filesystem::create_directories(home + "/.cache/yarn/v6");
     std::filesystem::create_directories(home + "/.config/Code/GPUCache");
     model->startScan();

@@ -19,23 +19,23 @@ protected:
     const zoo::TempFolder folder;
 };
 
-TEST_F(SettingsPreferencesTest, aFlagThatWasNeverSetIsFalse) {
+TEST_F(SettingsPreferencesTest, unsetFlagIsFalse) {
     EXPECT_FALSE(SettingsPreferences(file()).flag(didOnboardKey));
 }
 
-TEST_F(SettingsPreferencesTest, aFlagOutlivesTheRunThatSetIt) {
+TEST_F(SettingsPreferencesTest, flagPersistsAcrossRuns) {
     SettingsPreferences(file()).setFlag(didOnboardKey, true);
     EXPECT_TRUE(SettingsPreferences(file()).flag(didOnboardKey));
     EXPECT_FALSE(SettingsPreferences(file()).flag("zelk/another"));
 }
 
-TEST_F(SettingsPreferencesTest, aFlagIsKeptAtOnce) {
+TEST_F(SettingsPreferencesTest, flagIsWrittenImmediately) {
     SettingsPreferences setting(file());
     setting.setFlag(didOnboardKey, true);
     EXPECT_EQ(fakes::fileContent(folder / "preferences.conf"), "[zelk]\ndidOnboard=true\n");
 }
 
-TEST_F(SettingsPreferencesTest, aFlagCanBeTakenBack) {
+TEST_F(SettingsPreferencesTest, flagCanBeCleared) {
     SettingsPreferences preferences(file());
     preferences.setFlag(didOnboardKey, true);
     preferences.setFlag(didOnboardKey, false);
@@ -43,12 +43,12 @@ TEST_F(SettingsPreferencesTest, aFlagCanBeTakenBack) {
     EXPECT_FALSE(SettingsPreferences(file()).flag(didOnboardKey));
 }
 
-TEST_F(SettingsPreferencesTest, aFileThatCannotBeReadIsAnEmptyOne) {
+TEST_F(SettingsPreferencesTest, unreadableFileReadsAsEmpty) {
     fakes::writeFile(folder / "preferences.conf", "[zelk\n\xff\xfe%zz=\n");
     EXPECT_FALSE(SettingsPreferences(file()).flag(didOnboardKey));
 }
 
-TEST_F(SettingsPreferencesTest, aWriteThatFailsIsSilent) {
+TEST_F(SettingsPreferencesTest, failedWriteIsSilent) {
     fakes::writeFile(folder / "file", "in the way of a folder");
     SettingsPreferences preferences(QString::fromStdString(folder / "file/preferences.conf"));
     preferences.setFlag(didOnboardKey, true);
@@ -57,7 +57,7 @@ TEST_F(SettingsPreferencesTest, aWriteThatFailsIsSilent) {
     EXPECT_EQ(fakes::fileContent(folder / "file"), "in the way of a folder");
 }
 
-TEST_F(SettingsPreferencesTest, aHomeThatDoesNotExistIsNotMade) {
+TEST_F(SettingsPreferencesTest, doesNotCreateMissingHome) {
     const fakes::EnvironmentVariable home("HOME", folder / "home");
     const QString kept = QString::fromStdString(folder / "home/.config/preferences.conf");
     {
@@ -74,14 +74,14 @@ TEST_F(SettingsPreferencesTest, aHomeThatDoesNotExistIsNotMade) {
     EXPECT_TRUE(SettingsPreferences(kept).flag(didOnboardKey));
 }
 
-TEST_F(SettingsPreferencesTest, besideAHomeThatDoesNotExistFlagsAreKept) {
+TEST_F(SettingsPreferencesTest, keepsFlagsOutsideMissingHome) {
     const fakes::EnvironmentVariable home("HOME", folder / "home");
     SettingsPreferences(file()).setFlag(didOnboardKey, true);
     EXPECT_TRUE(SettingsPreferences(file()).flag(didOnboardKey));
 }
 
 #ifdef __linux__
-TEST_F(SettingsPreferencesTest, theUsersOwnLieInTheConfigurationFolder) {
+TEST_F(SettingsPreferencesTest, userPreferencesAreInConfigurationFolder) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(folder.path()));
     SettingsPreferences().setFlag(didOnboardKey, true);
     EXPECT_EQ(fakes::fileContent(folder / "Zelk/Zelk.conf"), "[zelk]\ndidOnboard=true\n");

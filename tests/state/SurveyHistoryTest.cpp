@@ -33,7 +33,7 @@ SurveyRecord sample() {
     return record;
 }
 
-/// One record with these fields beside or instead of the usual ones.
+/// One record with these fields added to the usual ones or replacing them.
 std::string recordWith(const std::string& fields) {
     return "[{" + fields + "}]";
 }
@@ -47,9 +47,9 @@ SurveyRecord decodeOne(const std::string& json) {
     return records && records->size() == 1 ? records->front() : SurveyRecord();
 }
 
-// The text of the file.
+// The JSON text.
 
-TEST(HistoryFile, givesBackWhatWasWritten) {
+TEST(HistoryFile, roundTrips) {
     SurveyRecord bare = sample();
     bare.folders.reset();
     bare.types.clear();
@@ -61,20 +61,20 @@ TEST(HistoryFile, givesBackWhatWasWritten) {
     EXPECT_EQ(encodeHistory({}), "[]");
 }
 
-TEST(HistoryFile, holdsTheSecondsSinceTwoThousandOne) {
+TEST(HistoryFile, datesCountSecondsSince2001) {
     SurveyRecord record;
     record.date = yearTwoThousandOne + 42.5;
     EXPECT_THAT(encodeHistory({record}), HasSubstr("\"date\":42.5"));
     EXPECT_EQ(decodeOne(recordWith(required)).date, 1753000000.25);
 }
 
-TEST(HistoryFile, leavesAbsentFoldersOut) {
+TEST(HistoryFile, omitsAbsentFolders) {
     SurveyRecord record = sample();
     record.folders.reset();
     EXPECT_THAT(encodeHistory({record}), Not(HasSubstr("folders")));
 }
 
-TEST(HistoryFile, isReadCompactAsAMacWritesIt) {
+TEST(HistoryFile, readsCompactJSONOfMac) {
     const SurveyRecord record = decodeOne(
         R"([{"folders":{"\/Users\/me\/Movies":50000000,"\/Users\/me":70000000},"used":400,"types":{"video":7},)"
         R"("totalScanned":123,"free":100,"reclaimable":0,"date":774692800}])");
@@ -87,7 +87,7 @@ TEST(HistoryFile, isReadCompactAsAMacWritesIt) {
     EXPECT_THAT(record.folders, Optional(ElementsAre(Pair("/Users/me", 70000000), Pair("/Users/me/Movies", 50000000))));
 }
 
-TEST(HistoryFile, isReadPrettyToo) {
+TEST(HistoryFile, readsPrettyJSON) {
     const SurveyRecord record = decodeOne(R"(
         [
           {
@@ -106,7 +106,7 @@ TEST(HistoryFile, isReadPrettyToo) {
     EXPECT_THAT(record.folders, Optional(IsEmpty()));
 }
 
-TEST(HistoryFile, takesIntegersWithAFractionOfZero) {
+TEST(HistoryFile, acceptsIntegersWithZeroFraction) {
     const SurveyRecord record =
         decodeOne(R"([{"date":5.0,"totalScanned":1.0,"used":2.00,"free":-3.0,"reclaimable":4e3,"types":{"a.0":5.0}}])");
     EXPECT_EQ(record.date, yearTwoThousandOne + 5);
@@ -117,12 +117,12 @@ TEST(HistoryFile, takesIntegersWithAFractionOfZero) {
     EXPECT_THAT(record.types, ElementsAre(Pair("a.0", 5)));
 }
 
-TEST(HistoryFile, keepsZerosAfterADotInsideStrings) {
+TEST(HistoryFile, keepsZeroFractionsInsideStrings) {
     const SurveyRecord record = decodeOne(recordWith(required + R"(,"folders":{"/v1.0":1,"/a\"1.0":2,"/a\\":3.0})"));
     EXPECT_THAT(record.folders, Optional(ElementsAre(Pair("/a\"1.0", 2), Pair("/a\\", 3), Pair("/v1.0", 1))));
 }
 
-TEST(HistoryFile, holdsEveryIntegerExactly) {
+TEST(HistoryFile, keepsEveryIntegerExactly) {
     for (const std::int64_t value : {std::int64_t{9007199254740993}, std::int64_t{-9007199254740993}, greatestInteger,
                                      greatestInteger - 1, leastInteger, std::int64_t{0}, std::int64_t{-1}}) {
         SurveyRecord record = sample();
@@ -138,7 +138,7 @@ TEST(HistoryFile, holdsEveryIntegerExactly) {
     }
 }
 
-TEST(HistoryFile, needsEveryKeyButFolders) {
+TEST(HistoryFile, requiresEveryKeyButFolders) {
     const std::vector<std::string> fields{R"("date":1)", R"("totalScanned":1)", R"("used":1)",
                                           R"("free":1)", R"("reclaimable":1)",  R"("types":{})"};
     for (std::size_t missing = 0; missing <= fields.size(); ++missing) {
@@ -150,7 +150,7 @@ TEST(HistoryFile, needsEveryKeyButFolders) {
     }
 }
 
-TEST(HistoryFile, needsEveryKeyWithItsType) {
+TEST(HistoryFile, requiresTypeOfEveryKey) {
     const std::vector<std::pair<std::string, std::vector<std::string>>> wrong{
         {"date", {"null", "\"1\"", "true", "[]", "{}"}},
         {"totalScanned", {"null", "\"1\"", "true", "[1]", "{}", "1.5", "1e30", "9223372036854775808"}},
@@ -169,22 +169,22 @@ TEST(HistoryFile, needsEveryKeyWithItsType) {
     }
 }
 
-TEST(HistoryFile, takesFoldersOfNullForAbsent) {
+TEST(HistoryFile, nullFoldersAreAbsent) {
     EXPECT_EQ(decodeOne(recordWith(required + R"(,"folders":null)")).folders, std::nullopt);
     EXPECT_EQ(decodeOne(recordWith(required)).folders, std::nullopt);
 }
 
-TEST(HistoryFile, passesOverKeysItDoesNotKnow) {
+TEST(HistoryFile, ignoresUnknownKeys) {
     EXPECT_EQ(decodeOne(recordWith(required + R"(,"later":{"a":[1]})")).used, 2);
 }
 
-TEST(HistoryFile, withOneBadRecordIsNone) {
+TEST(HistoryFile, rejectsFileWithOneInvalidRecord) {
     EXPECT_EQ(decodeHistory("[{" + required + "},{}]"), std::nullopt);
     EXPECT_EQ(decodeHistory("[{" + required + "},null]"), std::nullopt);
     EXPECT_EQ(decodeHistory("[{" + required + "},7]"), std::nullopt);
 }
 
-TEST(HistoryFile, thatIsNoListOfRecordsIsNone) {
+TEST(HistoryFile, rejectsAnythingButListOfRecords) {
     const std::string whole = "[{" + required + "}]";
     const std::string deep(100000, '[');
     for (const std::string& text :
@@ -198,13 +198,13 @@ TEST(HistoryFile, thatIsNoListOfRecordsIsNone) {
     EXPECT_NE(decodeHistory(whole), std::nullopt);
 }
 
-TEST(HistoryFile, withNumbersThatAreNoJSONIsNone) {
+TEST(HistoryFile, rejectsInvalidNumbers) {
     for (const char* number : {"1.0.0", "1.5.0", "01.0", "1.0e", "+1.0", "1.0-0", "1..0", "NaN", "Infinity", "1,0"}) {
         EXPECT_EQ(decodeHistory(recordWith(required + R"(,"used":)" + number)), std::nullopt) << number;
     }
 }
 
-TEST(HistoryFile, survivesDatesThatAreNone) {
+TEST(HistoryFile, survivesInvalidDates) {
     const double infinity = std::numeric_limits<double>::infinity();
     for (const double date : {std::numeric_limits<double>::quiet_NaN(), infinity, -infinity}) {
         SurveyRecord record = sample();
@@ -216,7 +216,7 @@ TEST(HistoryFile, survivesDatesThatAreNone) {
     }
 }
 
-TEST(HistoryFile, keepsEveryDateItHasReadToTheLastDigit) {
+TEST(HistoryFile, keepsEveryDigitOfDates) {
     for (const char* date :
          {"774692800.123456789", "0", "0.1", "-978307200", "-978307199.9", "1e17", "-576460752303423617",
           "1.7976931348623157e308", "-1.7976931348623157e308", "5e-324", "123456789012345678"}) {
@@ -230,9 +230,9 @@ TEST(HistoryFile, keepsEveryDateItHasReadToTheLastDigit) {
         std::nullopt);
 }
 
-// Paths in it.
+// Paths as keys.
 
-TEST(HistoryPaths, comeBackWhateverTheirBytes) {
+TEST(HistoryPaths, roundTripAnyBytes) {
     SizeByPath folders;
     std::int64_t size = 0;
     for (const char* path : {"/plain",
@@ -267,7 +267,7 @@ TEST(HistoryPaths, comeBackWhateverTheirBytes) {
     EXPECT_THAT(records, Optional(ElementsAre(record)));
 }
 
-TEST(HistoryPaths, thatAreNoTextStandAsFileURLs) {
+TEST(HistoryPaths, encodeNonUtf8AsFileURLs) {
     SurveyRecord record;
     record.folders = SizeByPath{{"/home/me/\xff \xc3\xa4", 1}, {"/home/me/\xc3\xa4", 2}};
     const std::string json = encodeHistory({record});
@@ -275,7 +275,7 @@ TEST(HistoryPaths, thatAreNoTextStandAsFileURLs) {
     EXPECT_THAT(json, HasSubstr("\"/home/me/\xc3\xa4\":2"));
 }
 
-TEST(HistoryPaths, thatOnlyLookLikeFileURLsOfOursAreTakenAsTheyStand) {
+TEST(HistoryPaths, keepLookalikeFileURLsAsTheyAre) {
     const auto folders =
         decodeOne(
             recordWith(required + R"(,"folders":{"file:///plain":1,"file:///%ff":2,"file:///%F":3,"file:///%FF":4})"))
@@ -284,7 +284,7 @@ TEST(HistoryPaths, thatOnlyLookLikeFileURLsOfOursAreTakenAsTheyStand) {
                                               Pair("file:///plain", 1))));
 }
 
-// The file itself.
+// The file.
 
 class StoredHistory : public testing::Test {
 protected:
@@ -305,42 +305,42 @@ protected:
     SurveyHistory history{files, locations};
 };
 
-TEST_F(StoredHistory, liesInTheApplicationSupportFolderWhichIsMade) {
+TEST_F(StoredHistory, createsItsFolderInApplicationSupport) {
     EXPECT_EQ(history.location(), path);
     EXPECT_TRUE(files.exists("/home/me/support/Zelk"));
 }
 
-TEST_F(StoredHistory, ofAHomeThatDoesNotExistMakesNone) {
+TEST_F(StoredHistory, doesNotCreateMissingHome) {
     files.erase("/home/me");
     EXPECT_EQ(history.location(), path);
-    EXPECT_THAT(history.append(sample()), ElementsAre(sample()));
+    EXPECT_THAT(history.appendHistory(sample()), ElementsAre(sample()));
     EXPECT_FALSE(files.exists("/home/me"));
     EXPECT_THAT(history.load(), IsEmpty());
     files.addFolder("/home/me");
-    history.append(sample());
+    history.appendHistory(sample());
     EXPECT_THAT(history.load(), ElementsAre(sample()));
 }
 
-TEST_F(StoredHistory, besideAHomeThatDoesNotExistIsKept) {
+TEST_F(StoredHistory, isKeptOutsideMissingHome) {
     files.erase("/home/me");
     locations.applicationSupportPath = "/data/support";
-    history.append(sample());
+    history.appendHistory(sample());
     EXPECT_FALSE(files.exists("/home/me"));
     EXPECT_THAT(history.load(), ElementsAre(sample()));
 }
 
-TEST_F(StoredHistory, withoutAFolderThatCanBeMadeStillHasItsPlace) {
+TEST_F(StoredHistory, hasLocationEvenIfFolderCannotBeCreated) {
     files.failing = [](const auto& call) { return call.operation == "createDirectories"; };
     EXPECT_EQ(history.location(), path);
-    EXPECT_THAT(history.append(sample()), ElementsAre(sample()));
+    EXPECT_THAT(history.appendHistory(sample()), ElementsAre(sample()));
     EXPECT_THAT(history.load(), IsEmpty());
 }
 
-TEST_F(StoredHistory, withoutAnApplicationSupportFolderNeitherLoadsNorSaves) {
+TEST_F(StoredHistory, withoutApplicationSupportNeitherLoadsNorSaves) {
     locations.applicationSupportPath.reset();
     EXPECT_EQ(history.location(), std::nullopt);
     EXPECT_THAT(history.load(), IsEmpty());
-    EXPECT_THAT(history.append(sample()), ElementsAre(sample()));
+    EXPECT_THAT(history.appendHistory(sample()), ElementsAre(sample()));
     EXPECT_THAT(files.calls(), IsEmpty());
 }
 
@@ -349,55 +349,55 @@ TEST_F(StoredHistory, isEmptyAtFirst) {
 }
 
 TEST_F(StoredHistory, growsByOneRecordEachTime) {
-    EXPECT_THAT(history.append(numbered(1)), ElementsAre(numbered(1)));
-    EXPECT_THAT(history.append(numbered(2)), ElementsAre(numbered(1), numbered(2)));
+    EXPECT_THAT(history.appendHistory(numbered(1)), ElementsAre(numbered(1)));
+    EXPECT_THAT(history.appendHistory(numbered(2)), ElementsAre(numbered(1), numbered(2)));
     EXPECT_THAT(history.load(), ElementsAre(numbered(1), numbered(2)));
 }
 
-TEST_F(StoredHistory, holdsSixtyAndDropsTheOldest) {
-    for (int i = 1; i <= 60; ++i) history.append(numbered(i));
+TEST_F(StoredHistory, keepsSixtyAndDropsOldest) {
+    for (int i = 1; i <= 60; ++i) history.appendHistory(numbered(i));
     EXPECT_EQ(history.load().size(), 60u);
-    const std::vector<SurveyRecord> returned = history.append(numbered(61));
+    const std::vector<SurveyRecord> returned = history.appendHistory(numbered(61));
     ASSERT_EQ(returned.size(), 60u);
     EXPECT_EQ(returned.front(), numbered(2));
     EXPECT_EQ(returned.back(), numbered(61));
     EXPECT_EQ(history.load(), returned);
 }
 
-TEST_F(StoredHistory, isReadWholeHoweverLongAndCutByTheNextRecord) {
+TEST_F(StoredHistory, loadsLongFileWholeAndTrimsOnAppend) {
     std::vector<SurveyRecord> many;
     for (int i = 1; i <= 100; ++i) many.push_back(numbered(i));
     files.addFile(path, encodeHistory(many));
     EXPECT_EQ(history.load(), many);
-    const std::vector<SurveyRecord> returned = history.append(numbered(101));
+    const std::vector<SurveyRecord> returned = history.appendHistory(numbered(101));
     ASSERT_EQ(returned.size(), 60u);
     EXPECT_EQ(returned.front(), numbered(42));
     EXPECT_EQ(history.load(), returned);
 }
 
-TEST_F(StoredHistory, trustsTheFileAndNotItsMemory) {
-    history.append(numbered(1));
+TEST_F(StoredHistory, appendReadsFileAgain) {
+    history.appendHistory(numbered(1));
     files.addFile(path, encodeHistory({numbered(7), numbered(8)}));
-    EXPECT_THAT(history.append(numbered(9)), ElementsAre(numbered(7), numbered(8), numbered(9)));
+    EXPECT_THAT(history.appendHistory(numbered(9)), ElementsAre(numbered(7), numbered(8), numbered(9)));
 }
 
-TEST_F(StoredHistory, thatIsDamagedIsEmptyAndReplacedByTheNextRecord) {
+TEST_F(StoredHistory, corruptFileIsEmptyAndReplacedOnAppend) {
     files.addFile(path, "[{\"date\":1");
     EXPECT_THAT(history.load(), IsEmpty());
-    EXPECT_THAT(history.append(sample()), ElementsAre(sample()));
+    EXPECT_THAT(history.appendHistory(sample()), ElementsAre(sample()));
     EXPECT_THAT(history.load(), ElementsAre(sample()));
 }
 
-TEST_F(StoredHistory, thatCannotBeReadIsEmpty) {
+TEST_F(StoredHistory, unreadableFileIsEmpty) {
     files.addFile(path, encodeHistory({sample()}));
     files.failing = [](const auto& call) { return call.operation == "read"; };
     EXPECT_THAT(history.load(), IsEmpty());
 }
 
-TEST_F(StoredHistory, thatCannotBeWrittenIsStillReturned) {
-    history.append(numbered(1));
+TEST_F(StoredHistory, appendReturnsHistoryEvenIfWriteFails) {
+    history.appendHistory(numbered(1));
     files.failing = [](const auto& call) { return call.operation == "replaceDurably"; };
-    EXPECT_THAT(history.append(numbered(2)), ElementsAre(numbered(1), numbered(2)));
+    EXPECT_THAT(history.appendHistory(numbered(2)), ElementsAre(numbered(1), numbered(2)));
     EXPECT_THAT(history.load(), ElementsAre(numbered(1)));
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Records of surveys that turn out to be unwanted, at every moment at which that can become known.
+// Records that become unwanted, in every state of their write.
 #include <gmock/gmock.h>
 
 #include "fakes/FakePlatform.h"
@@ -27,14 +27,14 @@ protected:
         return record;
     }
 
-    /// A record that stays wanted until `wanted` says otherwise.
+    /// Appends a record that is wanted for as long as `wanted` is true.
     std::optional<std::vector<SurveyRecord>> appendWhile(const bool& wanted, const SurveyRecord& record) {
-        return history.appendIf([&wanted] { return wanted; }, record);
+        return history.appendHistoryIf([&wanted] { return wanted; }, record);
     }
 
-    /// Sixty that stay, whose oldest makes room for the next.
+    /// Sixty records, the oldest of which the next one displaces.
     void fillUp() {
-        for (int i = 1; i <= 60; ++i) history.append(numbered(i));
+        for (int i = 1; i <= 60; ++i) history.appendHistory(numbered(i));
         full = history.load();
         ASSERT_EQ(full.size(), 60u);
     }
@@ -48,15 +48,15 @@ protected:
     std::vector<SurveyRecord> full;
 };
 
-TEST_F(WithdrawnRecords, areNeitherWrittenNorGivenWhenUnwantedBefore) {
-    history.append(numbered(1));
+TEST_F(WithdrawnRecords, unwantedBeforeWriteIsNeitherWrittenNorReturned) {
+    history.appendHistory(numbered(1));
     files.forgetCalls();
     EXPECT_EQ(appendWhile(no, numbered(2)), std::nullopt);
     EXPECT_THAT(files.pathsOf("replaceDurably"), IsEmpty());
     EXPECT_THAT(history.load(), ElementsAre(numbered(1)));
 }
 
-TEST_F(WithdrawnRecords, areAskedAboutAsLateAsTheWrite) {
+TEST_F(WithdrawnRecords, isAskedRightBeforeWrite) {
     bool wanted = true;
     files.failing = [&](const auto& call) {
         if (call.operation == "read") wanted = false;
@@ -66,16 +66,16 @@ TEST_F(WithdrawnRecords, areAskedAboutAsLateAsTheWrite) {
     EXPECT_EQ(files.content(path), std::nullopt);
 }
 
-TEST_F(WithdrawnRecords, areTakenOutBySettling) {
+TEST_F(WithdrawnRecords, settleRemovesUnwantedRecord) {
     bool wanted = true;
-    history.append(numbered(1));
+    history.appendHistory(numbered(1));
     EXPECT_THAT(appendWhile(wanted, numbered(2)), Optional(ElementsAre(numbered(1), numbered(2))));
     wanted = false;
     history.settle();
     EXPECT_THAT(history.load(), ElementsAre(numbered(1)));
 }
 
-TEST_F(WithdrawnRecords, areTakenOutByTheNextRecord) {
+TEST_F(WithdrawnRecords, nextAppendRemovesUnwantedRecord) {
     bool wanted = true;
     appendWhile(wanted, numbered(1));
     wanted = false;
@@ -83,7 +83,7 @@ TEST_F(WithdrawnRecords, areTakenOutByTheNextRecord) {
     EXPECT_THAT(history.load(), ElementsAre(numbered(2)));
 }
 
-TEST_F(WithdrawnRecords, leaveNothingWhenTheNextOneIsUnwantedToo) {
+TEST_F(WithdrawnRecords, secondUnwantedRecordLeavesNothing) {
     bool wanted = true;
     appendWhile(wanted, numbered(1));
     wanted = false;
@@ -92,7 +92,7 @@ TEST_F(WithdrawnRecords, leaveNothingWhenTheNextOneIsUnwantedToo) {
     EXPECT_THAT(history.load(), IsEmpty());
 }
 
-TEST_F(WithdrawnRecords, leaveNothingWhenTheNextOneBecomesUnwantedDuringItsWrite) {
+TEST_F(WithdrawnRecords, recordUnwantedDuringItsWriteLeavesNothing) {
     bool first = true;
     bool second = true;
     appendWhile(first, numbered(1));
@@ -106,7 +106,7 @@ TEST_F(WithdrawnRecords, leaveNothingWhenTheNextOneBecomesUnwantedDuringItsWrite
     EXPECT_THAT(history.load(), IsEmpty());
 }
 
-TEST_F(WithdrawnRecords, goOnceTheFileCanBeWrittenAgain) {
+TEST_F(WithdrawnRecords, retriesRemovalAfterFailedWrite) {
     bool wanted = true;
     appendWhile(wanted, numbered(1));
     wanted = false;
@@ -119,7 +119,7 @@ TEST_F(WithdrawnRecords, goOnceTheFileCanBeWrittenAgain) {
     EXPECT_THAT(history.load(), IsEmpty());
 }
 
-TEST_F(WithdrawnRecords, goOnceTheFileCanBeReadAgain) {
+TEST_F(WithdrawnRecords, retriesRemovalAfterFailedRead) {
     bool wanted = true;
     appendWhile(wanted, numbered(1));
     wanted = false;
@@ -131,7 +131,7 @@ TEST_F(WithdrawnRecords, goOnceTheFileCanBeReadAgain) {
     EXPECT_THAT(history.load(), IsEmpty());
 }
 
-TEST_F(WithdrawnRecords, putBackWhatHadMadeRoomForThem) {
+TEST_F(WithdrawnRecords, settleRestoresDroppedRecords) {
     fillUp();
     bool wanted = true;
     appendWhile(wanted, numbered(61));
@@ -143,7 +143,7 @@ TEST_F(WithdrawnRecords, putBackWhatHadMadeRoomForThem) {
     EXPECT_EQ(history.load(), full);
 }
 
-TEST_F(WithdrawnRecords, putBackWhatHadMadeRoomForThemWhenTheNextOneIsUnwantedToo) {
+TEST_F(WithdrawnRecords, settleRestoresDroppedRecordsAfterTwoUnwanted) {
     fillUp();
     bool wanted = true;
     appendWhile(wanted, numbered(61));
@@ -153,7 +153,7 @@ TEST_F(WithdrawnRecords, putBackWhatHadMadeRoomForThemWhenTheNextOneIsUnwantedTo
     EXPECT_EQ(history.load(), full);
 }
 
-TEST_F(WithdrawnRecords, givePlaceToTheNextOneWhichMakesRoomOnce) {
+TEST_F(WithdrawnRecords, nextAppendDropsOldestOnce) {
     fillUp();
     bool first = true;
     bool second = true;
@@ -167,17 +167,17 @@ TEST_F(WithdrawnRecords, givePlaceToTheNextOneWhichMakesRoomOnce) {
     EXPECT_EQ(history.load(), full);
 }
 
-TEST_F(WithdrawnRecords, takeNoEqualOneWithThem) {
+TEST_F(WithdrawnRecords, equalOlderRecordStays) {
     bool wanted = true;
-    history.append(numbered(1));
-    history.append(numbered(2));
+    history.appendHistory(numbered(1));
+    history.appendHistory(numbered(2));
     appendWhile(wanted, numbered(1));
     wanted = false;
     history.settle();
     EXPECT_THAT(history.load(), ElementsAre(numbered(1), numbered(2)));
 }
 
-TEST_F(WithdrawnRecords, leaveAFileAloneInWhichTheyAreNotAnyMore) {
+TEST_F(WithdrawnRecords, settleIgnoresFileWithoutUnwantedRecord) {
     bool wanted = true;
     fillUp();
     appendWhile(wanted, numbered(61));
@@ -189,7 +189,7 @@ TEST_F(WithdrawnRecords, leaveAFileAloneInWhichTheyAreNotAnyMore) {
     EXPECT_THAT(history.load(), ElementsAre(numbered(7)));
 }
 
-TEST_F(WithdrawnRecords, stayForGoodWhenALaterOneWasWritten) {
+TEST_F(WithdrawnRecords, laterWriteMakesRecordFinal) {
     bool wanted = true;
     appendWhile(wanted, numbered(1));
     appendWhile(yes, numbered(2));
@@ -198,7 +198,7 @@ TEST_F(WithdrawnRecords, stayForGoodWhenALaterOneWasWritten) {
     EXPECT_THAT(history.load(), ElementsAre(numbered(1), numbered(2)));
 }
 
-TEST_F(WithdrawnRecords, thatAreStillWantedAreNotTouchedBySettling) {
+TEST_F(WithdrawnRecords, settleKeepsWantedRecord) {
     appendWhile(yes, numbered(1));
     files.forgetCalls();
     history.settle();
@@ -206,7 +206,7 @@ TEST_F(WithdrawnRecords, thatAreStillWantedAreNotTouchedBySettling) {
     EXPECT_THAT(history.load(), ElementsAre(numbered(1)));
 }
 
-TEST_F(WithdrawnRecords, withoutAPlaceAreGivenAndForgotten) {
+TEST_F(WithdrawnRecords, withoutLocationRecordIsReturnedButForgotten) {
     locations.applicationSupportPath.reset();
     bool wanted = true;
     EXPECT_THAT(appendWhile(wanted, numbered(1)), Optional(ElementsAre(numbered(1))));

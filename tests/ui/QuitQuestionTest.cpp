@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/EventLoop.h"
-#include "reclaim/RemovalsModel.h"
+#include "state/RemovalsModel.h"
 
 namespace zelk {
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "reclaim/RemovalsModel.h"
+#include "state/RemovalsModel.h"
 
 namespace zelk {
 

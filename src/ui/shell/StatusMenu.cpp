@@ -24,7 +24,7 @@ StatusMenu::StatusMenu(AppModel& app, std::function<void()> openZelk, std::funct
     };
     connect(&app, &AppModel::volumeChanged, this, soon);
     connect(&app, &AppModel::scanPhaseChanged, this, soon);
-    connect(&app, &AppModel::bytesScannedChanged, this, soon);
+    connect(&app, &AppModel::progressChanged, this, soon);
     connect(&app, &AppModel::reclaimablesChanged, this, soon);
 }
 

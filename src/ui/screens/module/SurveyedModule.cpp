@@ -34,8 +34,7 @@ SurveyedModule::SurveyedModule(AppModel& app, Screen screen, ModuleTexts texts)
     timer_.setInterval(progressInterval);
     connect(&timer_, &QTimer::timeout, this, [this] { setScanDetail(displayText(app_.progressLine())); });
     connect(&app, &AppModel::scanPhaseChanged, this, &SurveyedModule::followPhase);
-    connect(&app, &AppModel::itemsScannedChanged, this, &SurveyedModule::followProgress);
-    connect(&app, &AppModel::bytesScannedChanged, this, &SurveyedModule::followProgress);
+    connect(&app, &AppModel::progressChanged, this, &SurveyedModule::followProgress);
     followPhase();
 }
 

@@ -23,14 +23,11 @@ SurveyScreenModel::SurveyScreenModel(AppModel& app, std::function<double()> now)
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &SurveyScreenModel::tick);
     connect(&app, &AppModel::scanPhaseChanged, this, &SurveyScreenModel::enterPhase);
-    connect(&app, &AppModel::itemsScannedChanged, this, &SurveyScreenModel::aimItems);
-    connect(&app, &AppModel::bytesScannedChanged, this, &SurveyScreenModel::aimBytes);
-    connect(&app, &AppModel::currentPathChanged, this, &SurveyScreenModel::followPath);
+    connect(&app, &AppModel::progressChanged, this, &SurveyScreenModel::followProgress);
     connect(&app, &AppModel::reclaimablesChanged, this, &SurveyScreenModel::aimRecoverable);
     connect(&app, &AppModel::volumeChanged, this, &SurveyScreenModel::deviceChanged);
     enterPhase();
-    aimItems();  // of a survey that is under way already
-    aimBytes();
+    followProgress();  // of a survey that is under way already
 }
 
 bool SurveyScreenModel::idle() const {
@@ -121,20 +118,11 @@ void SurveyScreenModel::enterPhase() {
     emit buttonNameChanged();
 }
 
-void SurveyScreenModel::aimItems() {
+void SurveyScreenModel::followProgress() {
     if (!scanning()) return;
     aim(items_, app_.itemsScanned(), progressDuration);
-    refreshSoon();
-}
-
-void SurveyScreenModel::aimBytes() {
-    if (!scanning()) return;
     aim(bytes_, app_.bytesScanned(), progressDuration);
     refreshSoon();
-}
-
-void SurveyScreenModel::followPath() {
-    if (scanning()) refreshSoon();
 }
 
 void SurveyScreenModel::aimRecoverable() {

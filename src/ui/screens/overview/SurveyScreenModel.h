@@ -94,10 +94,8 @@ signals:
 
 private:
     void enterPhase();
-    void aimItems();
-    void aimBytes();
+    void followProgress();
     void aimRecoverable();
-    void followPath();
     void aim(CountingFigure& figure, std::int64_t target, double duration);
     void refreshSoon();
     void startTimer();

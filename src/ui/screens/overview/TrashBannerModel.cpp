@@ -9,9 +9,7 @@ namespace zelk {
 
 TrashBannerModel::TrashBannerModel(AppModel& app, Workspace& workspace, bool showWhenEmpty, QObject* parent)
     : QObject(parent), app_(app), workspace_(workspace), showWhenEmpty_(showWhenEmpty) {
-    for (const auto field : {&AppModel::trashBytesChanged, &AppModel::trashAccessibleChanged,
-                             &AppModel::trashLoadingChanged, &AppModel::emptyingTrashChanged})
-        connect(&app, field, this, &TrashBannerModel::changed);
+    connect(&app, &AppModel::trashChanged, this, &TrashBannerModel::changed);
 }
 
 bool TrashBannerModel::shown() const {

@@ -85,7 +85,7 @@ QString DryRunModel::result() const {
     std::size_t gone = 0;
     std::size_t failed = 0;
     for (const Cleaner::Result& one : model_.lastResults()) {
-        if (tookAway(one) && one.item.size >= 1) ++gone;
+        if (wasRemoved(one) && one.item.size >= 1) ++gone;
         if (std::holds_alternative<Cleaner::Failed>(one.status)) ++failed;
     }
     QString line = byteFigure(model_.reclaimedBytes()) + QStringLiteral(" · %1 item").arg(gone);
@@ -131,7 +131,7 @@ void DryRunModel::emptyTrash() {
     if (!emptyable() || emptyingTrash_ || left_) return;
     emptyingTrash_ = true;
     emit phaseChanged();
-    auto told = [this, sender = calls_.sender()] {
+    auto told = [this, sender = mainThread_.sender()] {
         sender.post([this] {
             emptyingTrash_ = false;
             trashEmptied_ = true;

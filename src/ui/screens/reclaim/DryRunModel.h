@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "platform/Platform.h"
-#include "reclaim/DevCleanupModel.h"
-#include "reclaim/MainThreadCalls.h"
+#include "state/DevCleanupModel.h"
+#include "state/MainThreadQueue.h"
 #include "ui/screens/reclaim/DryRunRows.h"
 
 namespace zelk {
@@ -123,7 +123,7 @@ private:
     bool emptyingTrash_ = false;
     bool trashEmptied_ = false;
     bool left_ = false;  // on its way out, a sheet still takes presses
-    MainThreadCalls calls_;
+    MainThreadQueue mainThread_;
 };
 
 }  // namespace zelk

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "reclaim/DevCleanupModel.h"
+#include "state/DevCleanupModel.h"
 #include "ui/controls/EditedList.h"
 
 namespace zelk {

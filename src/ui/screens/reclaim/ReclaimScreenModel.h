@@ -4,7 +4,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <memory>
 
-#include "reclaim/DevCleanupModel.h"
+#include "state/DevCleanupModel.h"
 #include "ui/screens/module/SurveyedModule.h"
 #include "ui/screens/reclaim/CategoryList.h"
 #include "ui/screens/reclaim/DryRunModel.h"

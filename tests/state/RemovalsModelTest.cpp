@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reclaim/RemovalsModel.h"
+#include "state/RemovalsModel.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ protected:
         runWhatIsThere();
     }
 
-    /// For as long as it takes to look at the progress twice.
+    /// Waits for two ticks of the progress timer.
     void lookAgain() {
         bool later = false;
         QTimer::singleShot(1'200, &removals, [&] { later = true; });
@@ -42,13 +42,13 @@ protected:
 
 }  // namespace
 
-TEST_F(RemovalsUnderWay, noneIsAtFirst) {
+TEST_F(RemovalsUnderWay, noneAtFirst) {
     EXPECT_FALSE(removals.underWay());
     EXPECT_FALSE(removals.stopping());
     EXPECT_EQ(removals.progress(), (Progress{0, 0}));
 }
 
-TEST_F(RemovalsUnderWay, oneIsUntilEachOfItsItemsWasNoted) {
+TEST_F(RemovalsUnderWay, endsWhenEveryItemIsNoted) {
     const auto removal = removals.begin(2);
     EXPECT_TRUE(removals.underWay());
     EXPECT_EQ(turns, 1);
@@ -61,7 +61,7 @@ TEST_F(RemovalsUnderWay, oneIsUntilEachOfItsItemsWasNoted) {
     EXPECT_EQ(turns, 2);
 }
 
-TEST_F(RemovalsUnderWay, theEndComesToTheMainThread) {
+TEST_F(RemovalsUnderWay, endIsSignalledOnMainThread) {
     const auto removal = removals.begin(1);
     std::thread([&] { removal->noteDone(); }).join();
     EXPECT_TRUE(removals.underWay());
@@ -69,7 +69,7 @@ TEST_F(RemovalsUnderWay, theEndComesToTheMainThread) {
     EXPECT_FALSE(removals.underWay());
 }
 
-TEST_F(RemovalsUnderWay, severalAreUntilTheLastHasEnded) {
+TEST_F(RemovalsUnderWay, underWayUntilLastOneEnds) {
     const auto first = removals.begin(3);
     const auto second = removals.begin(1);
     noteAll(*first);
@@ -80,13 +80,13 @@ TEST_F(RemovalsUnderWay, severalAreUntilTheLastHasEnded) {
     EXPECT_EQ(turns, 2);
 }
 
-TEST_F(RemovalsUnderWay, oneOfNothingNeverIs) {
+TEST_F(RemovalsUnderWay, removalWithoutItemsIsNeverUnderWay) {
     removals.begin(0);
     EXPECT_FALSE(removals.underWay());
     EXPECT_EQ(turns, 0);
 }
 
-TEST_F(RemovalsUnderWay, theirProgressIsThatOfAllTogether) {
+TEST_F(RemovalsUnderWay, progressSumsAllRemovals) {
     const auto first = removals.begin(3);
     const auto second = removals.begin(5);
     first->noteDone();
@@ -95,7 +95,7 @@ TEST_F(RemovalsUnderWay, theirProgressIsThatOfAllTogether) {
     EXPECT_EQ(removals.progress(), (Progress{3, 8}));
 }
 
-TEST_F(RemovalsUnderWay, whatIsSkippedIsNotDone) {
+TEST_F(RemovalsUnderWay, skippedItemsAreNotDone) {
     const auto removal = removals.begin(3);
     removal->noteSkipped();
     removal->noteDone();
@@ -103,7 +103,7 @@ TEST_F(RemovalsUnderWay, whatIsSkippedIsNotDone) {
     EXPECT_EQ(removals.progress(), (Progress{1, 3}));
 }
 
-TEST_F(RemovalsUnderWay, aThousandItemsAtOnceAreToldOnce) {
+TEST_F(RemovalsUnderWay, coalescesProgressSignals) {
     const auto removal = removals.begin(2'000);
     for (int item = 0; item < 1'000; ++item) removal->noteDone();
     EXPECT_EQ(told, 0);
@@ -116,7 +116,7 @@ TEST_F(RemovalsUnderWay, aThousandItemsAtOnceAreToldOnce) {
     runUntil([&] { return told > 1; });
 }
 
-TEST_F(RemovalsUnderWay, areToldTwiceASecondAtMostHoweverManyItemsEnd) {
+TEST_F(RemovalsUnderWay, signalsProgressAtMostTwicePerSecond) {
     const std::int64_t mayBeEarly = 50;  // milliseconds, of each time: timers are no more exact than that
     QElapsedTimer clock;
     clock.start();
@@ -128,7 +128,7 @@ TEST_F(RemovalsUnderWay, areToldTwiceASecondAtMostHoweverManyItemsEnd) {
     EXPECT_GE(clock.elapsed(), 2 * (500 - mayBeEarly));
 }
 
-TEST_F(RemovalsUnderWay, theNextIsToldFromItsBeginningOn) {
+TEST_F(RemovalsUnderWay, nextRemovalSignalsItsOwnProgress) {
     for (int time = 1; time <= 2; ++time) {
         const auto removal = removals.begin(2);
         removal->noteDone();
@@ -140,7 +140,7 @@ TEST_F(RemovalsUnderWay, theNextIsToldFromItsBeginningOn) {
     EXPECT_EQ(told, 2) << "there is nothing to tell of any more";
 }
 
-TEST_F(RemovalsUnderWay, aStopLetsNoFurtherItemBegin) {
+TEST_F(RemovalsUnderWay, stopKeepsFurtherItemsFromBeginning) {
     const auto first = removals.begin(1);
     const auto second = removals.begin(1);
     EXPECT_TRUE(first->mayBegin());
@@ -151,7 +151,7 @@ TEST_F(RemovalsUnderWay, aStopLetsNoFurtherItemBegin) {
     EXPECT_TRUE(removals.underWay()) << "what has begun goes on";
 }
 
-TEST_F(RemovalsUnderWay, whatBeginsBehindAStopIsStoppedUntilAllHasEnded) {
+TEST_F(RemovalsUnderWay, stopAppliesToNewRemovalsUntilAllHaveEnded) {
     const auto first = removals.begin(1);
     removals.stop();
     const auto second = removals.begin(1);
@@ -163,13 +163,13 @@ TEST_F(RemovalsUnderWay, whatBeginsBehindAStopIsStoppedUntilAllHasEnded) {
     EXPECT_TRUE(removals.begin(1)->mayBegin());
 }
 
-TEST_F(RemovalsUnderWay, aStopOfNothingIsNotKept) {
+TEST_F(RemovalsUnderWay, stopWithoutRemovalsIsForgotten) {
     removals.stop();
     EXPECT_FALSE(removals.stopping());
     EXPECT_TRUE(removals.begin(1)->mayBegin());
 }
 
-TEST_F(RemovalsUnderWay, theListMayGoBeforeThem) {
+TEST_F(RemovalsUnderWay, modelMayBeDestroyedBeforeItsRemovals) {
     auto list = std::make_unique<RemovalsModel>();
     const auto removal = list->begin(1);
     list.reset();

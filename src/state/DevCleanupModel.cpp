@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reclaim/DevCleanupModel.h"
+#include "state/DevCleanupModel.h"
 
 #include <utility>
 
@@ -7,11 +7,11 @@ namespace zelk {
 
 namespace {
 
-/// The running applications as they were at the first question: reading them anew for each of thousands of items would
-/// take seconds and could contradict itself.
-class WorkspaceAtOnce : public Workspace {
+/// Reads the running applications once. Reading them again for each of thousands of items would take seconds and could
+/// give contradictory answers.
+class WorkspaceSnapshot : public Workspace {
 public:
-    explicit WorkspaceAtOnce(Workspace& real) : real_(real) {}
+    explicit WorkspaceSnapshot(Workspace& real) : real_(real) {}
 
     std::vector<std::string> runningApplications() override {
         if (!names_) names_ = real_.runningApplications();
@@ -53,7 +53,7 @@ DevCleanupModel::Items DevCleanupModel::shown(const Items& reclaimables) const {
     return ageFiltered(reclaimables, ageDays_, platform_.clock.now());
 }
 
-std::vector<CleanupGroup> DevCleanupModel::groups(const Items& reclaimables) const {
+std::vector<DevCleanupModel::Group> DevCleanupModel::groups(const Items& reclaimables) const {
     return cleanupGroups(shown(reclaimables));
 }
 
@@ -70,7 +70,7 @@ DevCleanupModel::Tallies DevCleanupModel::tallies(const Items& reclaimables) con
 
 void DevCleanupModel::seed(const Items& reclaimables) {
     if (reclaimables.size() == selection_.seededFor()) return;
-    WorkspaceAtOnce workspace(platform_.workspace);
+    WorkspaceSnapshot workspace(platform_.workspace);
     selection_.seed(reclaimables, [&](const Reclaimable& item) { return Cleaner::runningConflict(item, workspace); });
     emit selectionChanged();
 }
@@ -80,7 +80,7 @@ void DevCleanupModel::toggle(const Reclaimable& item) {
     emit selectionChanged();
 }
 
-void DevCleanupModel::setAll(const CleanupGroup& group, bool on) {
+void DevCleanupModel::setAll(const Group& group, bool on) {
     selection_.setAll(group, on);
     emit selectionChanged();
 }
@@ -98,7 +98,7 @@ void DevCleanupModel::clean(Items items, bool hardDelete) {
     emit isCleaningChanged();
     Cleaner::cleanAll(
         std::move(items), hardDelete, platform_,
-        [this, sender = calls_.sender()](std::vector<Cleaner::Result> results) {
+        [this, sender = mainThread_.sender()](std::vector<Cleaner::Result> results) {
             sender.post([this, results = std::move(results)]() mutable { finish(std::move(results)); });
         },
         removal);
@@ -118,11 +118,11 @@ void DevCleanupModel::finish(std::vector<Cleaner::Result> results) {
 std::int64_t DevCleanupModel::reclaimedBytes() const {
     std::int64_t bytes = 0;
     for (const Cleaner::Result& result : lastResults_)
-        if (tookAway(result)) bytes += static_cast<std::int64_t>(result.item.size);
+        if (wasRemoved(result)) bytes += static_cast<std::int64_t>(result.item.size);
     return bytes;
 }
 
-bool tookAway(const Cleaner::Result& result) {
+bool wasRemoved(const Cleaner::Result& result) {
     return std::holds_alternative<Cleaner::RanCommand>(result.status) ||
            std::holds_alternative<Cleaner::Trashed>(result.status);
 }

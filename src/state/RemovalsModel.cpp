@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reclaim/RemovalsModel.h"
+#include "state/RemovalsModel.h"
 
 #include <algorithm>
 
@@ -7,24 +7,24 @@ namespace zelk {
 
 namespace {
 
-constexpr int calmInterval = 500;  // milliseconds
+constexpr int progressInterval = 500;  // milliseconds
 
 }  // namespace
 
 RemovalsModel::RemovalsModel() {
-    timer_.setInterval(calmInterval);
+    timer_.setInterval(progressInterval);
     connect(&timer_, &QTimer::timeout, this, &RemovalsModel::tellProgress);
 }
 
 std::shared_ptr<Removal> RemovalsModel::begin(std::size_t items) {
-    auto removal = std::make_shared<Removal>(items, [this, sender = calls_.sender()](const Removal& ended) {
-        sender.post([this, &ended] { end(ended); });  // it is kept here until then
+    auto removal = std::make_shared<Removal>(items, [this, sender = mainThread_.sender()](const Removal& ended) {
+        sender.post([this, &ended] { end(ended); });  // running_ keeps it alive until then
     });
     if (stopping_) removal->stop();
     if (items == 0) return removal;
     running_.push_back(removal);
     if (running_.size() > 1) return removal;
-    told_ = {};
+    signalled_ = {};
     timer_.start();
     emit underWayChanged();
     return removal;
@@ -55,8 +55,8 @@ void RemovalsModel::end(const Removal& removal) {
 
 void RemovalsModel::tellProgress() {
     const Progress now = progress();
-    if (now == told_) return;
-    told_ = now;
+    if (now == signalled_) return;
+    signalled_ = now;
     emit progressChanged();
 }
 

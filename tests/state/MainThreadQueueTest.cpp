@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reclaim/MainThreadCalls.h"
+#include "state/MainThreadQueue.h"
 
 #include <gtest/gtest.h>
 
@@ -13,11 +13,11 @@
 namespace zelk {
 namespace {
 
-TEST(MainThreadCalls, runsOnTheMainThreadInTheOrderOfPosting) {
-    MainThreadCalls calls;
+TEST(MainThreadQueue, runsInOrderOnMainThread) {
+    MainThreadQueue queue;
     std::vector<int> ran;
     std::thread::id where;
-    std::thread([&, sender = calls.sender()] {
+    std::thread([&, sender = queue.sender()] {
         for (int number = 0; number < 100; ++number)
             sender.post([&, number] {
                 ran.push_back(number);
@@ -30,20 +30,20 @@ TEST(MainThreadCalls, runsOnTheMainThreadInTheOrderOfPosting) {
     EXPECT_EQ(where, std::this_thread::get_id());
 }
 
-TEST(MainThreadCalls, aCallMayPostAnother) {
-    MainThreadCalls calls;
+TEST(MainThreadQueue, closureMayPostAnother) {
+    MainThreadQueue queue;
     bool second = false;
-    calls.sender().post([&] { calls.sender().post([&] { second = true; }); });
+    queue.sender().post([&] { queue.sender().post([&] { second = true; }); });
     runUntil([&] { return second; });
 }
 
-TEST(MainThreadCalls, dropsWhatHasNotRunWhenItGoes) {
+TEST(MainThreadQueue, destructionDropsPendingAndLaterClosures) {
     const auto alive = std::make_shared<int>(0);
     bool ran = false;
-    std::optional<MainThreadCalls::Sender> sender;
+    std::optional<MainThreadQueue::Sender> sender;
     {
-        MainThreadCalls calls;
-        sender = calls.sender();
+        MainThreadQueue queue;
+        sender = queue.sender();
         sender->post([&ran, alive] { ran = true; });
         EXPECT_EQ(alive.use_count(), 2);
     }
@@ -54,17 +54,17 @@ TEST(MainThreadCalls, dropsWhatHasNotRunWhenItGoes) {
     EXPECT_FALSE(ran);
 }
 
-TEST(MainThreadCalls, manyThreadsMayPostWhileItGoes) {
+TEST(MainThreadQueue, threadsMayPostDuringDestruction) {
     for (int round = 0; round < 50; ++round) {
-        auto calls = std::make_unique<MainThreadCalls>();
+        auto queue = std::make_unique<MainThreadQueue>();
         int ran = 0;
         std::vector<std::thread> threads;
         for (int thread = 0; thread < 4; ++thread)
-            threads.emplace_back([&ran, sender = calls->sender()] {
+            threads.emplace_back([&ran, sender = queue->sender()] {
                 for (int number = 0; number < 50; ++number) sender.post([&ran] { ++ran; });
             });
         runUntil([&] { return ran > 0; });
-        calls.reset();
+        queue.reset();
         const int atTheEnd = ran;
         for (std::thread& thread : threads) thread.join();
         runWhatIsThere();

@@ -9,13 +9,13 @@
 #include "platform/Platform.h"
 #include "reclaim/Cleaner.h"
 #include "reclaim/CleanupSelection.h"
-#include "reclaim/MainThreadCalls.h"
-#include "reclaim/RemovalsModel.h"
+#include "state/MainThreadQueue.h"
+#include "state/RemovalsModel.h"
 
 namespace zelk {
 
-/// What a person chose to clean, and the cleaning itself. The items are those of the last survey, handed in at each
-/// call; nothing is removed but by clean(). Main thread.
+/// The selection on the Reclaim screen, and the cleaning of it. Each call passes the items of the last survey; only
+/// clean() removes anything. Owned by its screen; main thread only. A failure to clean is one of lastResults().
 class DevCleanupModel : public QObject {
     Q_OBJECT
     Q_PROPERTY(qint64 ageDays READ ageDays WRITE setAgeDays NOTIFY ageDaysChanged)
@@ -24,11 +24,12 @@ class DevCleanupModel : public QObject {
 
 public:
     using Items = std::vector<Reclaimable>;
+    using Group = CleanupGroup;
 
-    /// The services must outlive it and a cleaning that is under way when it goes; `removals` must outlive it.
+    /// The services must outlive the model and a cleaning that is running when it is destroyed; `removals` the model.
     DevCleanupModel(const Platform& platform, RemovalsModel& removals, QObject* parent = nullptr);
 
-    /// Only what was left alone for more than this many days is shown; 0 and below show all.
+    /// Only items that were not modified for more than this many days are shown; 0 and below show all.
     std::int64_t ageDays() const { return ageDays_; }
     void setAgeDays(std::int64_t days);
     bool isCleaning() const { return isCleaning_; }
@@ -37,7 +38,7 @@ public:
     void setShowDryRun(bool show);
     const CleanupSelection& selection() const { return selection_; }
 
-    /// So many items of so many bytes.
+    /// A number of items and the sum of their sizes.
     struct Tally {
         std::size_t items = 0;
         std::int64_t bytes = 0;
@@ -51,38 +52,38 @@ public:
 
     /// The items that the age filter lets through.
     Items shown(const Items& reclaimables) const;
-    std::vector<CleanupGroup> groups(const Items& reclaimables) const;
+    std::vector<Group> groups(const Items& reclaimables) const;
 
-    /// Ticks and running applications, read anew for a list of another length.
+    /// Selects anew and reads the running applications, unless the list has the same length as the last one.
     void seed(const Items& reclaimables);
     void toggle(const Reclaimable& item);
-    void setAll(const CleanupGroup& group, bool on);
+    void setAll(const Group& group, bool on);
     void selectOnly(const Items& items);
-    CleanupSelection::Counts selectionCounts(const CleanupGroup& group) const { return selection_.counts(group); }
-    /// What would be cleaned now.
+    CleanupSelection::Counts selectionCounts(const Group& group) const { return selection_.counts(group); }
+    /// The items that would be cleaned now.
     Items selectedItems(const Items& reclaimables) const { return selection_.chosen(shown(reclaimables)); }
     std::int64_t selectedBytes(const Items& reclaimables) const { return totalSize(selectedItems(reclaimables)); }
 
-    /// The same as a count, and of all that the age filter lets through.
+    /// Counts of the selected items and of all that the age filter lets through.
     struct Tallies {
         Tally shown;
         Tally selected;
     };
     Tallies tallies(const Items& reclaimables) const;
 
-    /// Comes back at once; isCleaning() until the results are there.
+    /// Returns at once; isCleaning() is true until the results have arrived. Does nothing while it is true already.
     void clean(Items items, bool hardDelete);
-    /// Of the cleaning under way, or else of the last one.
+    /// Of the running cleaning, or else of the last one.
     RemovalsModel::Progress progress() const;
     RemovalsModel& removals() const { return removals_; }
-    /// The sizes of what the last cleaning took away. A tool may have freed less than its item's size.
+    /// The sum of the sizes of what the last cleaning removed. A tool may have freed less than its item's size.
     std::int64_t reclaimedBytes() const;
 
 signals:
     void ageDaysChanged();
     void selectionChanged();
     void isCleaningChanged();
-    /// Now and then while it cleans.
+    /// At most twice a second while it cleans.
     void progressChanged();
     void lastResultsChanged();
     void showDryRunChanged();
@@ -98,10 +99,10 @@ private:
     bool isCleaning_ = false;
     std::vector<Cleaner::Result> lastResults_;
     bool showDryRun_ = false;
-    MainThreadCalls calls_;
+    MainThreadQueue mainThread_;
 };
 
-/// Whether the item is gone from where it was.
-bool tookAway(const Cleaner::Result& result);
+/// Whether the item was removed.
+bool wasRemoved(const Cleaner::Result& result);
 
 }  // namespace zelk

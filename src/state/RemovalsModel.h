@@ -7,13 +7,13 @@
 #include <memory>
 #include <vector>
 
-#include "reclaim/MainThreadCalls.h"
 #include "reclaim/Removal.h"
+#include "state/MainThreadQueue.h"
 
 namespace zelk {
 
-/// All that is being taken away at the moment, by whatever part of the application: who wants to end it asks here
-/// first, and here is where a stop is asked for. Main thread.
+/// Every removal that is running, whichever part of the application started it. Quitting asks here first, and a stop is
+/// requested here. Owned by AppModel; main thread only. Nothing fails.
 class RemovalsModel : public QObject {
     Q_OBJECT
 
@@ -26,20 +26,21 @@ public:
 
     RemovalsModel();
 
-    /// A removal of so many items, which is under way until each of them has been noted. Without items it never is.
+    /// Registers a removal of so many items, which ends when each of them was counted. Without items it is not
+    /// registered.
     std::shared_ptr<Removal> begin(std::size_t items);
     bool underWay() const { return !running_.empty(); }
-    /// Of all that is under way.
+    /// The sum over all running removals.
     Progress progress() const;
 
-    /// No further item begins: neither of what is under way nor of what is begun until all of that has ended.
+    /// No further item begins, neither of the running removals nor of one that is added before all of them have ended.
     void stop();
     bool stopping() const { return stopping_; }
 
 signals:
-    /// The first began or the last ended.
+    /// The first one began or the last one ended.
     void underWayChanged();
-    /// Items were tried since the last time. Twice a second and no more: it may be read out.
+    /// More items were tried. At most twice a second, because it may be spoken.
     void progressChanged();
 
 private:
@@ -47,10 +48,10 @@ private:
     void tellProgress();
 
     std::vector<std::shared_ptr<Removal>> running_;
-    Progress told_;
+    Progress signalled_;
     bool stopping_ = false;
     QTimer timer_;
-    MainThreadCalls calls_;
+    MainThreadQueue mainThread_;
 };
 
 }  // namespace zelk

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "reclaim/DevCleanupModel.h"
+#include "state/DevCleanupModel.h"
 
 #include <gmock/gmock.h>
 
@@ -43,7 +43,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Cleanup, beginsWithTwoWeeksAndNothingChosen) {
+TEST_F(Cleanup, startsWithFourteenDaysAndNothingSelected) {
     EXPECT_EQ(model.ageDays(), 14);
     EXPECT_THAT(model.selection().selected(), IsEmpty());
     EXPECT_FALSE(model.isCleaning());
@@ -51,7 +51,7 @@ TEST_F(Cleanup, beginsWithTwoWeeksAndNothingChosen) {
     EXPECT_EQ(model.reclaimedBytes(), 0);
 }
 
-TEST_F(Cleanup, whatIsTooYoungIsNeitherShownNorCleaned) {
+TEST_F(Cleanup, youngItemsAreNeitherShownNorCleaned) {
     const DevCleanupModel::Items items{item("/home/me/old", 10), item("/home/me/new", 20, 1)};
     model.seed(items);
     EXPECT_EQ(model.shown(items).size(), 1U);
@@ -61,7 +61,7 @@ TEST_F(Cleanup, whatIsTooYoungIsNeitherShownNorCleaned) {
     EXPECT_EQ(model.groups(items).front().items.size(), 2U);
 }
 
-TEST_F(Cleanup, runningApplicationsAreReadOncePerSeed) {
+TEST_F(Cleanup, readsRunningApplicationsOncePerSeed) {
     machine.workspace.running = {"", "Cursor"};
     const DevCleanupModel::Items items{item("/home/me/Cursor/Cache", 10), item("/home/me/Other/Cache", 20)};
     model.seed(items);
@@ -72,7 +72,7 @@ TEST_F(Cleanup, runningApplicationsAreReadOncePerSeed) {
     EXPECT_EQ(machine.workspace.runningReads, 1);
 }
 
-TEST_F(Cleanup, takesAwayWhatItIsHandedAndCountsIt) {
+TEST_F(Cleanup, cleansGivenItemsAndSumsThem) {
     const DevCleanupModel::Items items{item("/home/me/a", 10), command("/home/me/b", 20)};
     cleanAndWait(items);
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a"));
@@ -81,19 +81,19 @@ TEST_F(Cleanup, takesAwayWhatItIsHandedAndCountsIt) {
     EXPECT_EQ(model.reclaimedBytes(), 30);
 }
 
-TEST_F(Cleanup, whatFailedIsNotCounted) {
+TEST_F(Cleanup, failedItemsAreNotSummed) {
     machine.files.failing = [](const auto& call) { return call.path == "/home/me/a"; };
     cleanAndWait({item("/home/me/a", 10), item("/home/me/b", 20)});
     EXPECT_EQ(model.reclaimedBytes(), 20);
     EXPECT_EQ(model.lastResults().size(), 2U);
 }
 
-TEST_F(Cleanup, anEmptyCleaningEnds) {
+TEST_F(Cleanup, emptyCleaningEnds) {
     cleanAndWait({});
     EXPECT_THAT(model.lastResults(), IsEmpty());
 }
 
-TEST_F(Cleanup, aSecondCleaningWaitsForNobodyAndDoesNothing) {
+TEST_F(Cleanup, secondCleaningMeanwhileDoesNothing) {
     machine.tasks.hold();
     model.clean({item("/home/me/a", 10)}, false);
     model.clean({item("/home/me/b", 20)}, false);
@@ -102,7 +102,7 @@ TEST_F(Cleanup, aSecondCleaningWaitsForNobodyAndDoesNothing) {
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a"));
 }
 
-TEST_F(Cleanup, theModelMayGoWhileItCleans) {
+TEST_F(Cleanup, modelMayBeDestroyedWhileCleaning) {
     auto other = std::make_unique<DevCleanupModel>(machine.platform(), removals);
     machine.tasks.hold();
     other->clean({item("/home/me/a", 10)}, false);
@@ -112,7 +112,7 @@ TEST_F(Cleanup, theModelMayGoWhileItCleans) {
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a"));
 }
 
-TEST_F(Cleanup, isUnderWayAmongTheRemovalsWhileItCleans) {
+TEST_F(Cleanup, countsAsRemovalWhileCleaning) {
     machine.tasks.hold();
     model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
     EXPECT_TRUE(removals.underWay());
@@ -126,7 +126,7 @@ TEST_F(Cleanup, isUnderWayAmongTheRemovalsWhileItCleans) {
     EXPECT_EQ(model.progress(), (RemovalsModel::Progress{2, 2}));
 }
 
-TEST_F(Cleanup, tellsOfItsOwnProgressOnly) {
+TEST_F(Cleanup, reportsItsOwnProgressOnly) {
     int told = 0;
     QObject::connect(&model, &DevCleanupModel::progressChanged, &model, [&] { ++told; });
     int all = 0;
@@ -146,7 +146,7 @@ TEST_F(Cleanup, tellsOfItsOwnProgressOnly) {
     machine.tasks.release();
 }
 
-TEST_F(Cleanup, aStoppedOneTellsWhatStayed) {
+TEST_F(Cleanup, stoppedCleaningReportsSkippedItems) {
     machine.tasks.hold();
     model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
     machine.tasks.runNext();
