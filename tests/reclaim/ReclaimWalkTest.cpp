@@ -81,7 +81,7 @@ public:
     fakes::FakeFileManager files;
     std::vector<Reclaimable> expected;
     std::vector<const FSNode*> all;
-    std::vector<const FSNode*> thrownAway;  ///< Trash folders, which `all` leaves out with everything below
+    std::vector<const FSNode*> inTrash;  ///< Trash folders, which `all` leaves out with everything below
 
 private:
     double date() { return static_cast<double>(random_() % 1000000); }
@@ -156,7 +156,7 @@ private:
             return text == walkedHome + "/data/Trash/files" || text.ends_with("/.Trash-7/files");
         };
         if (onLinux_ && (isTrash(path) || (begins && path == walkedHome + "/data/Trash/files/app"))) {
-            thrownAway.push_back(&node);
+            inTrash.push_back(&node);
             return;
         }
         all.push_back(&node);
@@ -220,7 +220,7 @@ TEST(ReclaimWalk, agreesWithNaiveClassifierOnLinux) {
 }
 
 void compareNodeByNode(bool onLinux) {
-    std::size_t thrownAway = 0;
+    std::size_t inTrash = 0;
     for (unsigned seed = 1000; seed < 1060; ++seed) {
         RandomTree tree(seed, onLinux);
         const ReclaimClassifier classifier(tree.files, onLinux ? ofLinux() : ReclaimPlaces());
@@ -238,16 +238,16 @@ void compareNodeByNode(bool onLinux) {
             ++next;
         }
         ASSERT_EQ(next, items.size());
-        for (const FSNode* folder : tree.thrownAway) {
+        for (const FSNode* folder : tree.inTrash) {
             EXPECT_FALSE(classifier.classify(*folder, walkedHome));
             for (const NodeRef& child : folder->children) {
                 EXPECT_FALSE(classifier.classify(*child, walkedHome));
                 EXPECT_EQ(child->reclaimCategory, nullptr);
             }
         }
-        thrownAway += tree.thrownAway.size();
+        inTrash += tree.inTrash.size();
     }
-    EXPECT_EQ(thrownAway > 0, onLinux) << "the trees do not reach what was thrown away";
+    EXPECT_EQ(inTrash > 0, onLinux) << "the trees do not reach what was thrown away";
 }
 
 TEST(ReclaimWalk, agreesWithClassifyForEveryNode) {

@@ -191,6 +191,21 @@ TEST_F(AppModelCancelTest, recordedSurveyIsNotWithdrawn) {
     EXPECT_EQ(model().root()->size, model().history().front().totalScanned);
 }
 
+TEST_F(AppModelCancelTest, inHandlerOfDeferredRemovalKeepsRecordedSurvey) {
+    fillHome();
+    surveyUpToClassification();
+    classifyUpToTheRecord();
+    model().removeFromTree(*folderAt(model().root(), home + "/projects"));
+    QObject::connect(&model(), &AppModel::rootChanged, &model(), [&] { model().cancelScan(); });
+    takeSignals();
+    machine.tasks.release();
+    runUntil([&] { return model().scanPhase() == Phase::idle; });
+    runWhatIsThere();
+    EXPECT_EQ(model().history().size(), 1U);
+    EXPECT_EQ(timesSignalled("history"), 1);
+    EXPECT_EQ(model().root()->size, 57'000'000);
+}
+
 TEST_F(AppModelCancelTest, cancelAndRestartInOneHandlerRunsOneSurvey) {
     fillHome();
     bool restarted = false;

@@ -285,6 +285,18 @@ TEST_F(AppModelCleaningTest, oneFailedMoveDoesNotStopOthers) {
     EXPECT_FALSE(folder("/projects"));
 }
 
+TEST_F(AppModelCleaningTest, nestedEventLoopDuringRemovalStillReportsEveryFolder) {
+    surveyHome();
+    QObject::connect(&model(), &AppModel::rootChanged, &model(), [] { runWhatIsThere(); });
+    std::size_t gone = 0;
+    machine.tasks.hold();
+    model().trashAndRemove({folder("/projects"), folder("/Library")},
+                           [&](const std::vector<NodeRef>& nodes) { gone = nodes.size(); });
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_EQ(gone, 2U);
+}
+
 TEST_F(AppModelCleaningTest, emptySelectionReportsAsynchronously) {
     surveyHome();
     bool done = false;

@@ -8,7 +8,7 @@ namespace {
 using Progress = RemovalsModel::Progress;
 using Strings = std::vector<std::string>;
 
-class AppModelRemovals : public AppModelFixture {
+class AppModelRemovalsTest : public AppModelFixture {
 protected:
     void surveyHome() {
         fillHome();
@@ -29,7 +29,7 @@ protected:
     }
 };
 
-TEST_F(AppModelRemovals, countsSafeItemsUntilLastIsCleaned) {
+TEST_F(AppModelRemovalsTest, countsSafeItemsUntilLastIsCleaned) {
     surveyHome();
     const std::size_t safe = model().safeItems().size();
     ASSERT_EQ(safe, 2U);
@@ -41,7 +41,7 @@ TEST_F(AppModelRemovals, countsSafeItemsUntilLastIsCleaned) {
     endAll();
 }
 
-TEST_F(AppModelRemovals, stopKeepsPendingSafeItems) {
+TEST_F(AppModelRemovalsTest, stopKeepsPendingSafeItems) {
     surveyHome();
     model().cleanSafeCaches();
     machine.tasks.runNext();
@@ -51,7 +51,7 @@ TEST_F(AppModelRemovals, stopKeepsPendingSafeItems) {
     EXPECT_EQ(machine.trash.trashed().size(), 1U);
 }
 
-TEST_F(AppModelRemovals, stopTakesEffectBetweenFolders) {
+TEST_F(AppModelRemovalsTest, stopTakesEffectBetweenFolders) {
     surveyHome();
     machine.files.failing = [this](const auto& call) {
         if (call.operation == "trash") removals().stop();
@@ -70,7 +70,7 @@ TEST_F(AppModelRemovals, stopTakesEffectBetweenFolders) {
     runUntil([&] { return !removals().underWay(); });
 }
 
-TEST_F(AppModelRemovals, failedMoveEndsRemoval) {
+TEST_F(AppModelRemovalsTest, failedMoveEndsRemoval) {
     surveyHome();
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     model().trashAndRemove(*folder("/projects"));
@@ -79,14 +79,14 @@ TEST_F(AppModelRemovals, failedMoveEndsRemoval) {
     EXPECT_TRUE(folder("/projects"));
 }
 
-TEST_F(AppModelRemovals, noFolderStartsNoRemoval) {
+TEST_F(AppModelRemovalsTest, noFolderStartsNoRemoval) {
     surveyHome();
     model().trashAndRemove(*model().root());
     EXPECT_FALSE(removals().underWay());
     machine.tasks.release();
 }
 
-TEST_F(AppModelRemovals, countsLargeFileUntilMovedOrFailed) {
+TEST_F(AppModelRemovalsTest, countsLargeFileUntilMovedOrFailed) {
     surveyHome();
     for (const bool fails : {true, false}) {
         machine.tasks.hold();
@@ -98,7 +98,7 @@ TEST_F(AppModelRemovals, countsLargeFileUntilMovedOrFailed) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/projects/film.mov"});
 }
 
-TEST_F(AppModelRemovals, stopKeepsPendingLargeFile) {
+TEST_F(AppModelRemovalsTest, stopKeepsPendingLargeFile) {
     surveyHome();
     const std::size_t listed = model().insights().topFiles.size();
     model().trashLargeFile(home + "/projects/film.mov");
@@ -108,7 +108,7 @@ TEST_F(AppModelRemovals, stopKeepsPendingLargeFile) {
     EXPECT_EQ(model().insights().topFiles.size(), listed);
 }
 
-TEST_F(AppModelRemovals, countsEmptyingOfTrash) {
+TEST_F(AppModelRemovalsTest, countsEmptyingOfTrash) {
     surveyHome();
     machine.trash.put("old.zip", 7);
     model().emptyTrash();
@@ -117,7 +117,7 @@ TEST_F(AppModelRemovals, countsEmptyingOfTrash) {
     EXPECT_EQ(machine.trash.list(), Strings());
 }
 
-TEST_F(AppModelRemovals, stopKeepsTrashThatIsNotEmptiedYet) {
+TEST_F(AppModelRemovalsTest, stopKeepsTrashThatIsNotEmptiedYet) {
     surveyHome();
     machine.trash.put("old.zip", 7);
     model().emptyTrash();
@@ -127,7 +127,7 @@ TEST_F(AppModelRemovals, stopKeepsTrashThatIsNotEmptiedYet) {
     runUntil([&] { return !model().emptyingTrash(); });
 }
 
-TEST_F(AppModelRemovals, modelMayBeDestroyedDuringRemoval) {
+TEST_F(AppModelRemovalsTest, modelMayBeDestroyedDuringRemoval) {
     surveyHome();
     model().cleanSafeCaches();
     destroyModel();

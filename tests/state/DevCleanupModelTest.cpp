@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Cleanup : public testing::Test {
+class DevCleanupModelTest : public testing::Test {
 protected:
     Reclaimable item(const std::string& path, std::uint64_t size, double daysOld = 100,
                      const std::string& category = "electron_cache") {
@@ -43,7 +43,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Cleanup, startsWithFourteenDaysAndNothingSelected) {
+TEST_F(DevCleanupModelTest, startsWithFourteenDaysAndNothingSelected) {
     EXPECT_EQ(model.ageDays(), 14);
     EXPECT_THAT(model.selection().selected(), IsEmpty());
     EXPECT_FALSE(model.isCleaning());
@@ -51,7 +51,7 @@ TEST_F(Cleanup, startsWithFourteenDaysAndNothingSelected) {
     EXPECT_EQ(model.reclaimedBytes(), 0);
 }
 
-TEST_F(Cleanup, youngItemsAreNeitherShownNorCleaned) {
+TEST_F(DevCleanupModelTest, youngItemsAreNeitherShownNorCleaned) {
     const DevCleanupModel::Items items{item("/home/me/old", 10), item("/home/me/new", 20, 1)};
     model.seed(items);
     EXPECT_EQ(model.shown(items).size(), 1U);
@@ -61,7 +61,7 @@ TEST_F(Cleanup, youngItemsAreNeitherShownNorCleaned) {
     EXPECT_EQ(model.groups(items).front().items.size(), 2U);
 }
 
-TEST_F(Cleanup, readsRunningApplicationsOncePerSeed) {
+TEST_F(DevCleanupModelTest, readsRunningApplicationsOncePerSeed) {
     machine.workspace.running = {"", "Cursor"};
     const DevCleanupModel::Items items{item("/home/me/Cursor/Cache", 10), item("/home/me/Other/Cache", 20)};
     model.seed(items);
@@ -72,7 +72,7 @@ TEST_F(Cleanup, readsRunningApplicationsOncePerSeed) {
     EXPECT_EQ(machine.workspace.runningReads, 1);
 }
 
-TEST_F(Cleanup, cleansGivenItemsAndSumsThem) {
+TEST_F(DevCleanupModelTest, cleansGivenItemsAndSumsThem) {
     const DevCleanupModel::Items items{item("/home/me/a", 10), command("/home/me/b", 20)};
     cleanAndWait(items);
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a"));
@@ -81,19 +81,19 @@ TEST_F(Cleanup, cleansGivenItemsAndSumsThem) {
     EXPECT_EQ(model.reclaimedBytes(), 30);
 }
 
-TEST_F(Cleanup, failedItemsAreNotSummed) {
+TEST_F(DevCleanupModelTest, failedItemsAreNotSummed) {
     machine.files.failing = [](const auto& call) { return call.path == "/home/me/a"; };
     cleanAndWait({item("/home/me/a", 10), item("/home/me/b", 20)});
     EXPECT_EQ(model.reclaimedBytes(), 20);
     EXPECT_EQ(model.lastResults().size(), 2U);
 }
 
-TEST_F(Cleanup, emptyCleaningEnds) {
+TEST_F(DevCleanupModelTest, emptyCleaningEnds) {
     cleanAndWait({});
     EXPECT_THAT(model.lastResults(), IsEmpty());
 }
 
-TEST_F(Cleanup, secondCleaningMeanwhileDoesNothing) {
+TEST_F(DevCleanupModelTest, secondCleaningMeanwhileDoesNothing) {
     machine.tasks.hold();
     model.clean({item("/home/me/a", 10)}, false);
     model.clean({item("/home/me/b", 20)}, false);
@@ -102,7 +102,7 @@ TEST_F(Cleanup, secondCleaningMeanwhileDoesNothing) {
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a"));
 }
 
-TEST_F(Cleanup, modelMayBeDestroyedWhileCleaning) {
+TEST_F(DevCleanupModelTest, modelMayBeDestroyedWhileCleaning) {
     auto other = std::make_unique<DevCleanupModel>(machine.platform(), removals);
     machine.tasks.hold();
     other->clean({item("/home/me/a", 10)}, false);
@@ -112,7 +112,7 @@ TEST_F(Cleanup, modelMayBeDestroyedWhileCleaning) {
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a"));
 }
 
-TEST_F(Cleanup, countsAsRemovalWhileCleaning) {
+TEST_F(DevCleanupModelTest, countsAsRemovalWhileCleaning) {
     machine.tasks.hold();
     model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
     EXPECT_TRUE(removals.underWay());
@@ -126,7 +126,7 @@ TEST_F(Cleanup, countsAsRemovalWhileCleaning) {
     EXPECT_EQ(model.progress(), (RemovalsModel::Progress{2, 2}));
 }
 
-TEST_F(Cleanup, reportsItsOwnProgressOnly) {
+TEST_F(DevCleanupModelTest, reportsItsOwnProgressOnly) {
     int told = 0;
     QObject::connect(&model, &DevCleanupModel::progressChanged, &model, [&] { ++told; });
     int all = 0;
@@ -146,7 +146,7 @@ TEST_F(Cleanup, reportsItsOwnProgressOnly) {
     machine.tasks.release();
 }
 
-TEST_F(Cleanup, stoppedCleaningReportsSkippedItems) {
+TEST_F(DevCleanupModelTest, stoppedCleaningReportsSkippedItems) {
     machine.tasks.hold();
     model.clean({item("/home/me/a", 10), item("/home/me/b", 20)}, false);
     machine.tasks.runNext();

@@ -16,9 +16,9 @@ namespace {
 
 using Progress = RemovalsModel::Progress;
 
-class RemovalsUnderWay : public testing::Test {
+class RemovalsModelTest : public testing::Test {
 protected:
-    RemovalsUnderWay() {
+    RemovalsModelTest() {
         QObject::connect(&removals, &RemovalsModel::underWayChanged, &removals, [this] { ++turns; });
         QObject::connect(&removals, &RemovalsModel::progressChanged, &removals, [this] { ++told; });
     }
@@ -42,13 +42,13 @@ protected:
 
 }  // namespace
 
-TEST_F(RemovalsUnderWay, noneAtFirst) {
+TEST_F(RemovalsModelTest, noneAtFirst) {
     EXPECT_FALSE(removals.underWay());
     EXPECT_FALSE(removals.stopping());
     EXPECT_EQ(removals.progress(), (Progress{0, 0}));
 }
 
-TEST_F(RemovalsUnderWay, endsWhenEveryItemIsNoted) {
+TEST_F(RemovalsModelTest, endsWhenEveryItemIsNoted) {
     const auto removal = removals.begin(2);
     EXPECT_TRUE(removals.underWay());
     EXPECT_EQ(turns, 1);
@@ -61,7 +61,7 @@ TEST_F(RemovalsUnderWay, endsWhenEveryItemIsNoted) {
     EXPECT_EQ(turns, 2);
 }
 
-TEST_F(RemovalsUnderWay, endIsSignalledOnMainThread) {
+TEST_F(RemovalsModelTest, endIsSignalledOnMainThread) {
     const auto removal = removals.begin(1);
     std::thread([&] { removal->noteDone(); }).join();
     EXPECT_TRUE(removals.underWay());
@@ -69,7 +69,7 @@ TEST_F(RemovalsUnderWay, endIsSignalledOnMainThread) {
     EXPECT_FALSE(removals.underWay());
 }
 
-TEST_F(RemovalsUnderWay, underWayUntilLastOneEnds) {
+TEST_F(RemovalsModelTest, underWayUntilLastOneEnds) {
     const auto first = removals.begin(3);
     const auto second = removals.begin(1);
     noteAll(*first);
@@ -80,13 +80,13 @@ TEST_F(RemovalsUnderWay, underWayUntilLastOneEnds) {
     EXPECT_EQ(turns, 2);
 }
 
-TEST_F(RemovalsUnderWay, removalWithoutItemsIsNeverUnderWay) {
+TEST_F(RemovalsModelTest, removalWithoutItemsIsNeverUnderWay) {
     removals.begin(0);
     EXPECT_FALSE(removals.underWay());
     EXPECT_EQ(turns, 0);
 }
 
-TEST_F(RemovalsUnderWay, progressSumsAllRemovals) {
+TEST_F(RemovalsModelTest, progressSumsAllRemovals) {
     const auto first = removals.begin(3);
     const auto second = removals.begin(5);
     first->noteDone();
@@ -95,7 +95,7 @@ TEST_F(RemovalsUnderWay, progressSumsAllRemovals) {
     EXPECT_EQ(removals.progress(), (Progress{3, 8}));
 }
 
-TEST_F(RemovalsUnderWay, skippedItemsAreNotDone) {
+TEST_F(RemovalsModelTest, skippedItemsAreNotDone) {
     const auto removal = removals.begin(3);
     removal->noteSkipped();
     removal->noteDone();
@@ -103,7 +103,7 @@ TEST_F(RemovalsUnderWay, skippedItemsAreNotDone) {
     EXPECT_EQ(removals.progress(), (Progress{1, 3}));
 }
 
-TEST_F(RemovalsUnderWay, coalescesProgressSignals) {
+TEST_F(RemovalsModelTest, coalescesProgressSignals) {
     const auto removal = removals.begin(2'000);
     for (int item = 0; item < 1'000; ++item) removal->noteDone();
     EXPECT_EQ(told, 0);
@@ -116,7 +116,7 @@ TEST_F(RemovalsUnderWay, coalescesProgressSignals) {
     runUntil([&] { return told > 1; });
 }
 
-TEST_F(RemovalsUnderWay, signalsProgressAtMostTwicePerSecond) {
+TEST_F(RemovalsModelTest, signalsProgressAtMostTwicePerSecond) {
     const std::int64_t mayBeEarly = 50;  // milliseconds, of each time: timers are no more exact than that
     QElapsedTimer clock;
     clock.start();
@@ -128,7 +128,7 @@ TEST_F(RemovalsUnderWay, signalsProgressAtMostTwicePerSecond) {
     EXPECT_GE(clock.elapsed(), 2 * (500 - mayBeEarly));
 }
 
-TEST_F(RemovalsUnderWay, nextRemovalSignalsItsOwnProgress) {
+TEST_F(RemovalsModelTest, nextRemovalSignalsItsOwnProgress) {
     for (int time = 1; time <= 2; ++time) {
         const auto removal = removals.begin(2);
         removal->noteDone();
@@ -140,7 +140,7 @@ TEST_F(RemovalsUnderWay, nextRemovalSignalsItsOwnProgress) {
     EXPECT_EQ(told, 2) << "there is nothing to tell of any more";
 }
 
-TEST_F(RemovalsUnderWay, stopKeepsFurtherItemsFromBeginning) {
+TEST_F(RemovalsModelTest, stopKeepsFurtherItemsFromBeginning) {
     const auto first = removals.begin(1);
     const auto second = removals.begin(1);
     EXPECT_TRUE(first->mayBegin());
@@ -151,7 +151,7 @@ TEST_F(RemovalsUnderWay, stopKeepsFurtherItemsFromBeginning) {
     EXPECT_TRUE(removals.underWay()) << "what has begun goes on";
 }
 
-TEST_F(RemovalsUnderWay, stopAppliesToNewRemovalsUntilAllHaveEnded) {
+TEST_F(RemovalsModelTest, stopAppliesToNewRemovalsUntilAllHaveEnded) {
     const auto first = removals.begin(1);
     removals.stop();
     const auto second = removals.begin(1);
@@ -163,13 +163,13 @@ TEST_F(RemovalsUnderWay, stopAppliesToNewRemovalsUntilAllHaveEnded) {
     EXPECT_TRUE(removals.begin(1)->mayBegin());
 }
 
-TEST_F(RemovalsUnderWay, stopWithoutRemovalsIsForgotten) {
+TEST_F(RemovalsModelTest, stopWithoutRemovalsIsForgotten) {
     removals.stop();
     EXPECT_FALSE(removals.stopping());
     EXPECT_TRUE(removals.begin(1)->mayBegin());
 }
 
-TEST_F(RemovalsUnderWay, modelMayBeDestroyedBeforeItsRemovals) {
+TEST_F(RemovalsModelTest, modelMayBeDestroyedBeforeItsRemovals) {
     auto list = std::make_unique<RemovalsModel>();
     const auto removal = list->begin(1);
     list.reset();

@@ -5,9 +5,9 @@
 namespace zelk {
 namespace {
 
-class AppModelThrownAwayTest : public AppModelFixture {
+class AppModelTrashContentsTest : public AppModelFixture {
 protected:
-    AppModelThrownAwayTest() {
+    AppModelTrashContentsTest() {
         fillHome();
         machine.directories.file(home + "/.Trash/app/node_modules/a.js", 8'000'000, 6'000);
     }
@@ -31,7 +31,7 @@ protected:
     const std::vector<std::string> elsewhere{home + "/Library/Caches/Yarn", home + "/projects/app/node_modules"};
 };
 
-TEST_F(AppModelThrownAwayTest, trashContentsAreNotOffered) {
+TEST_F(AppModelTrashContentsTest, trashContentsAreNotOffered) {
     machine.locations.thrownAway = TrashPlaces({home + "/.Trash"}, {});
     survey();
     EXPECT_EQ(offered(), elsewhere);
@@ -41,14 +41,14 @@ TEST_F(AppModelThrownAwayTest, trashContentsAreNotOffered) {
     expectItCounted();
 }
 
-TEST_F(AppModelThrownAwayTest, withoutKnownTrashEverythingIsOffered) {
+TEST_F(AppModelTrashContentsTest, withoutKnownTrashEverythingIsOffered) {
     survey();
     EXPECT_EQ(offered().size(), 3U);
     EXPECT_TRUE(listsTheOldArchive());
     expectItCounted();
 }
 
-TEST_F(AppModelThrownAwayTest, dataHomeAddsLinuxPlaces) {
+TEST_F(AppModelTrashContentsTest, dataHomeAddsLinuxPlaces) {
     machine.directories.file(home + "/.cache/yarn/v6", 1'000, 1'000);
     machine.directories.file(home + "/data/pnpm/store/v3", 1'000, 1'000);
     survey();

@@ -13,7 +13,7 @@
 namespace zelk {
 namespace {
 
-class PlacesOfLinux : public testing::Test {
+class LinuxPlaces : public testing::Test {
 protected:
     /// Adds the missing folders of the absolute `path` below the root that it begins with, each dated by its depth.
     FSNode& add(const std::string& path) {
@@ -72,7 +72,7 @@ constexpr PlaceRow linuxRows[] = {
     {"/home/me/.cache/editor/User/workspaceStorage", "electron_workspace", "Trash"},
 };
 
-TEST_F(PlacesOfLinux, linuxPlacesAreItemsWithTheirOwnDate) {
+TEST_F(LinuxPlaces, areItemsWithTheirOwnDate) {
     for (const PlaceRow& row : linuxRows) {
         const FSNode& node = add(row.path);
         const auto match = ReclaimClassifier(files, known).classify(node, "/home/me");
@@ -85,20 +85,20 @@ TEST_F(PlacesOfLinux, linuxPlacesAreItemsWithTheirOwnDate) {
 }
 
 // Both tables contain the store of pnpm below the home.
-TEST_F(PlacesOfLinux, areNotItemsOnMacOS) {
+TEST_F(LinuxPlaces, areNotItemsOnMacOS) {
     known = {};
     for (const PlaceRow& row : linuxRows)
         EXPECT_EQ(categoryOf(row.path), std::string(row.category) == "pnpm_store" ? "pnpm_store" : "") << row.path;
 }
 
-TEST_F(PlacesOfLinux, addToMacOSPlaces) {
+TEST_F(LinuxPlaces, addToMacOSPlaces) {
     EXPECT_EQ(categoryOf("/home/me/Library/Caches/Yarn"), "yarn_cache");
     EXPECT_EQ(categoryOf("/home/me/Library/pnpm"), "pnpm_store");
     EXPECT_EQ(categoryOf("/home/me/Library/Application Support/Code/Cache"), "electron_cache");
     EXPECT_EQ(categoryOf("/home/me/Library/Application Support/Code/User/workspaceStorage"), "electron_workspace");
 }
 
-TEST_F(PlacesOfLinux, matchExactPathsOnly) {
+TEST_F(LinuxPlaces, matchExactPathsOnly) {
     for (const char* path :
          {"/home/me/.cache/yarn/v6", "/home/me/.cache/Yarn", "/home/me/.cache/yarn2", "/home/me/x/.cache/yarn",
           "/home/me/Android/sdk/system-images", "/home/me/Android/Sdk", "/home/me/Android/Sdk/system-images/android-34",
@@ -109,7 +109,7 @@ TEST_F(PlacesOfLinux, matchExactPathsOnly) {
         EXPECT_EQ(categoryOf(path), "") << path;
 }
 
-TEST_F(PlacesOfLinux, pnpmStoreFollowsDataHome) {
+TEST_F(LinuxPlaces, pnpmStoreFollowsDataHome) {
     known.xdgDataHome = "/home/me/data";
     EXPECT_EQ(categoryOf("/home/me/data/pnpm/store"), "pnpm_store");
     EXPECT_EQ(categoryOf("/home/me/.local/share/pnpm/store"), "pnpm_store");
@@ -118,20 +118,20 @@ TEST_F(PlacesOfLinux, pnpmStoreFollowsDataHome) {
         EXPECT_EQ(categoryOf(path), "") << path;
 }
 
-TEST_F(PlacesOfLinux, dataHomeMayBeOutsideHome) {
+TEST_F(LinuxPlaces, dataHomeMayBeOutsideHome) {
     known.xdgDataHome = "/srv/data";
     root = "/srv";
     EXPECT_EQ(categoryOf("/srv/data/pnpm/store"), "pnpm_store");
     EXPECT_EQ(categoryOf("/srv/.cache/yarn"), "");
 }
 
-TEST_F(PlacesOfLinux, applicationCachesMatchInAnyHome) {
+TEST_F(LinuxPlaces, applicationCachesMatchInAnyHome) {
     root = "/backup";
     EXPECT_EQ(categoryOf("/backup/you/.config/Code/Cache"), "electron_cache");
     EXPECT_EQ(categoryOf("/backup/you/.cache/chromium/Default/Cache"), "electron_cache");
 }
 
-TEST_F(PlacesOfLinux, doNotMatchAfterWalkLeftThem) {
+TEST_F(LinuxPlaces, doNotMatchAfterWalkLeftThem) {
     for (const char* path : {"/home/me/.config/a/Cache", "/home/me/b/Cache", "/home/me/.cache/c/Cache",
                              "/home/me/d/Cache", "/home/me/.config/e/GPUCache"})
         add(path);
@@ -139,12 +139,12 @@ TEST_F(PlacesOfLinux, doNotMatchAfterWalkLeftThem) {
               (ItemPaths{"/home/me/.config/a/Cache", "/home/me/.config/e/GPUCache", "/home/me/.cache/c/Cache"}));
 }
 
-class ThrownAway : public PlacesOfLinux {
+class TrashContents : public LinuxPlaces {
 protected:
-    ThrownAway() { known.trash = TrashPlaces({"/home/me/.local/share/Trash/files"}, {"/.Trash-7/files"}); }
+    TrashContents() { known.trash = TrashPlaces({"/home/me/.local/share/Trash/files"}, {"/.Trash-7/files"}); }
 };
 
-TEST_F(ThrownAway, trashIsNeitherItemNorMarked) {
+TEST_F(TrashContents, trashIsNeitherItemNorMarked) {
     const FSNode& modules = add("/home/me/.local/share/Trash/files/node_modules");
     add("/home/me/.local/share/Trash/files/app/deep/.venv");
     add("/home/me/.local/share/Trash/files/.config/Code/Cache");
@@ -154,13 +154,13 @@ TEST_F(ThrownAway, trashIsNeitherItemNorMarked) {
     EXPECT_EQ(modules.reclaimCategory, nullptr);
 }
 
-TEST_F(ThrownAway, classifyIgnoresTrash) {
+TEST_F(TrashContents, classifyIgnoresTrash) {
     EXPECT_EQ(categoryOf("/home/me/.local/share/Trash/files/a/node_modules"), "");
     EXPECT_EQ(categoryOf("/home/me/media/.Trash-7/files/node_modules"), "");
     EXPECT_EQ(categoryOf("/home/me/media/.Trash-7/info/node_modules"), "node_modules");
 }
 
-TEST_F(ThrownAway, siblingsOfTrashAreItems) {
+TEST_F(TrashContents, siblingsOfTrashAreItems) {
     for (const char* path :
          {"/home/me/.local/share/Trash/files/a/node_modules", "/home/me/.local/share/Trash/info/node_modules",
           "/home/me/.local/share/Trash/files2/node_modules", "/home/me/files/node_modules"})
@@ -169,7 +169,7 @@ TEST_F(ThrownAway, siblingsOfTrashAreItems) {
                                   "/home/me/.local/share/Trash/files2/node_modules", "/home/me/files/node_modules"}));
 }
 
-TEST_F(ThrownAway, scanRootAtOrInsideTrashHasNoItems) {
+TEST_F(TrashContents, scanRootAtOrInsideTrashHasNoItems) {
     for (const char* place : {"/home/me/.local/share/Trash/files", "/home/me/.local/share/Trash/files/a"}) {
         top = FSNode::make("", 0);
         root = place;
@@ -178,14 +178,14 @@ TEST_F(ThrownAway, scanRootAtOrInsideTrashHasNoItems) {
     }
 }
 
-TEST_F(ThrownAway, walkThatStartsInsideTrashFindsNothing) {
+TEST_F(TrashContents, walkThatStartsInsideTrashFindsNothing) {
     add("/home/me/.local/share/Trash/files/a/b/node_modules");
     std::vector<Reclaimable> found;
     ReclaimClassifier(files, known).collect(add("/home/me/.local/share/Trash/files/a"), "/home/me", found);
     EXPECT_TRUE(found.empty());
 }
 
-TEST_F(ThrownAway, withoutKnownTrashEverythingIsFound) {
+TEST_F(TrashContents, withoutKnownTrashEverythingIsFound) {
     known.trash = {};
     add("/home/me/.local/share/Trash/files/node_modules");
     EXPECT_EQ(items(), ItemPaths{"/home/me/.local/share/Trash/files/node_modules"});
