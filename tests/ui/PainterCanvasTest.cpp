@@ -43,10 +43,10 @@ TEST_F(Painted, ringLeavesItsInsideFree) {
 }
 
 TEST_F(Painted, aRingCoversEachPixelAsFarAsItLiesInIt) {
-    const QPointF middle(50.3, 49.8);
+    const QPointF ringCenter(50.3, 49.8);
     constexpr double radius = 30.4;
     const auto isIn = [&](QPointF point, double width) {
-        const QPointF away = point - middle;
+        const QPointF away = point - ringCenter;
         return std::abs(std::hypot(away.x(), away.y()) - radius) <= width / 2;
     };
     for (const double scale : {1.0, 1.25, 2.0}) {
@@ -55,7 +55,7 @@ TEST_F(Painted, aRingCoversEachPixelAsFarAsItLiesInIt) {
             drawn.fill(Qt::transparent);
             QPainter on(&drawn);
             on.scale(scale, scale);
-            PainterCanvas(on).ring(middle, radius, width, Paint::solid(Qt::red));
+            PainterCanvas(on).ring(ringCenter, radius, width, Paint::solid(Qt::red));
             on.end();
             double ink = 0;
             double wanted = 0;

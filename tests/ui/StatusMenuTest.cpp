@@ -116,7 +116,7 @@ TEST_F(Status, opensAndQuits) {
 TEST_F(Status, saysThatItChangedAFewTimesASecondAndNoMore) {
     int changes = 0;
     QObject::connect(&menu, &StatusMenu::changed, &menu, [&] { ++changes; });
-    for (int report = 0; report < 100; ++report) emit model().bytesScannedChanged();
+    for (int report = 0; report < 100; ++report) emit model().progressChanged();
     EXPECT_EQ(changes, 0) << "nothing is told in the midst of a report";
     runUntil([&] { return changes > 0; });
     runWhatIsThere();

@@ -1,0 +1,322 @@
+# SPDX-License-Identifier: MIT
+"""The way through every screen of the application, and what each of them has to show."""
+import re
+
+import bus
+from rules import DIALOGS, MENU_ITEMS, RANGED, Finding, check_focus
+from slowness import slowed
+from walker import PRESSED, TICKS, any_named, expect
+
+SCREENS = ("Overview", "Reclaim", "Privacy", "Tune", "Apps", "Clutter", "Duplicates", "Lens", "Health", "System",
+           "Tools", "Settings")
+# Those that show a survey, the one with its figures at last.
+SURVEYING = ("Reclaim", "Clutter", "Lens", "Overview")
+MENUS_OF_BAR = {"Zelk": "About Zelk", "File": "Run Survey", "Go": "Overview", "Help": "Zelk Help"}
+TITLES = frozenset({"menu", "menu item", "menu bar"})
+TABS = frozenset({"page tab", "push button"})
+FOLDERS = "Surveyed folders|Folders in .*"
+REVIEW = "Review (&|and) Clean"
+# More than there are stops on any screen.
+MOST_STOPS = 60
+# While it is slowed a survey takes about a minute, and says every few seconds how far it is.
+PROGRESS_SECONDS = 30
+SURVEY_SECONDS = 300
+CLEANING_SECONDS = 120
+
+
+def main_window():
+    """What stands beside every screen."""
+    return [expect("Zelk", "frame"), expect(".*[Mm]enu.*", "menu bar"), expect("Modules", "page tab list"),
+            *(expect(title, "menu", "menu item", among=TITLES) for title in MENUS_OF_BAR),
+            *(expect(screen, "page tab") for screen in SCREENS),
+            expect("(Collapse|Expand) sidebar", "push button", "toggle button"),
+            expect("Developer view", "check box", "switch")]
+
+
+def walk(walker, process):
+    first_run(walker)
+    menus(walker)
+    stops(walker)
+    survey(walker, process)
+    for audience in ("everyone", "developers"):
+        if audience == "developers":
+            walker.choose("Developer view", "checked", TICKS)
+        for screen in SCREENS:
+            go(walker, screen, f"{screen} for {audience}")
+            if screen in INSIDE:
+                INSIDE[screen](walker, audience)
+    walker.press("Developer view", TICKS)
+    clean_up(walker)
+    windows(walker)
+
+
+def go(walker, screen, title):
+    walker.screen = title
+    walker.choose(screen, "selected", TABS)
+    walker.look(title, *main_window())
+
+
+def first_run(walker):
+    forward = "Next|Get Started"
+    for page in range(1, 10):
+        if walker.find(forward) is None:
+            break
+        walker.look(f"Welcome, page {page}", expect(forward, "push button"), any_named(*DIALOGS),
+                    expect("Page \\d of \\d", "label", "static", "progress bar", "panel", "page tab list",
+                           among=frozenset({"unknown"})))
+        walker.press(forward)
+    else:
+        walker.fault("state", "the welcome does not end")
+    if walker.screen != f"Welcome, page {page - 1}":
+        walker.fault("missing", "there was no welcome at the first start")
+    # Where the drive may be read anyway this is not asked.
+    if walker.find("Continue without it") is not None:
+        walker.look("Access", expect("Continue without it", "push button", "link"), any_named(*DIALOGS))
+        walker.press("Continue without it")
+    walker.look("Overview at first", *main_window(), expect("Scan your whole .*", "push button"))
+
+
+def open_menu(walker, title):
+    """Through the action of its title if it has one, else by the keyboard."""
+    node = walker.find(title, TITLES)
+    if node is None or not walker.act(node):
+        walker.press_key("F10")
+        for _ in range(list(MENUS_OF_BAR).index(title)):
+            walker.press_key("Right")
+
+
+def menus(walker):
+    for title, entry in MENUS_OF_BAR.items():
+        walker.screen = f"Menu {title}"
+        open_menu(walker, title)
+        walker.look(walker.screen, expect(entry, "menu item"))
+        walker.escape()
+        if any(node.has("focused") and node.role in TITLES for node in walker.tree.walk()):
+            walker.fault("focus", "Escape leaves the keyboard in the menu bar")
+            walker.press_key("Escape")
+
+
+def stops(walker):
+    """The tab key comes to what shows and has a name, and in the end to where it began."""
+    walker.screen = "The tab key's way"
+    seen = []
+    for _ in range(MOST_STOPS):
+        walker.press_key("Tab")
+        walker.report.add(walker.screen, check_focus(walker.tree))
+        focused = [node for node in walker.tree.walk() if node.has("focused")]
+        if not focused:
+            walker.fault("focus", "the tab key leads to nothing", seen[-1] if seen else None)
+            return
+        if seen and focused[-1].path() == seen[0].path():
+            return
+        seen.append(focused[-1])
+    walker.fault("focus", "the tab key does not come back to where it began")
+
+
+def survey(walker, process):
+    """From the button to the figures, slowly enough to be told on the way how far it is."""
+    walker.screen = "Overview during a survey"
+    with slowed(process):
+        if walker.press("Scan your whole .*") is None:
+            return
+        walker.look(walker.screen, *main_window(), any_named("progress bar"))
+        told(walker)
+        walker.screen = "Tools during a survey"
+        walker.press("Tools", TABS)
+        quiet(walker)
+        for screen in SURVEYING:
+            go(walker, screen, f"{screen} during a survey")
+    # The button says then what can be taken back.
+    walker.wait(lambda: walker.find("scanning.*|Scan .*", frozenset({"push button", "progress bar"})) is None,
+                SURVEY_SECONDS)
+    walker.look("Overview after a survey", *main_window())
+    for pattern, roles in (("Empty( Trash)?", ("push button",)), ("See all", ("push button", "link")),
+                           ("What changed since last scan", ("push button",))):
+        walker.bring(pattern)
+        walker.look("Overview after a survey", expect(pattern, *roles))
+    if walker.find("Empty") is not None:
+        walker.fault("name", "does not say what it empties", walker.find("Empty"))
+
+
+def told(walker):
+    """A progress whose description changes."""
+    said = []
+    for _ in bus.moments(PROGRESS_SECONDS):
+        tree = bus.snapshot(walker.application)
+        bars = [] if tree is None else [node for node in tree.shown() if node.role == "progress bar"]
+        if tree is not None and not bars:
+            return  # which is a finding already
+        said += {bar.description for bar in bars if bar.description.strip()}.difference(said)
+        if len(said) > 2:
+            return
+    walker.fault("value", f"the progress of a survey says {len(said)} different things in {PROGRESS_SECONDS} seconds")
+
+
+def quiet(walker):
+    """What does not show keeps its name."""
+    before = walker.tree
+    for _ in bus.moments(5):
+        now = bus.snapshot(walker.application)
+        if now is None:
+            continue
+        if [node.role for node in before.walk()] == [node.role for node in now.walk()]:
+            for old, new in zip(before.walk(), now.walk()):
+                if not old.showing and not new.showing and (old.name, old.description) != (new.name, new.description):
+                    walker.report.add(walker.screen, [Finding("state", new, "does not show and changes its name or "
+                                                                            "description")])
+        before = now
+
+
+def overview(walker, _audience):
+    walker.bring("What changed since last scan")
+    if walker.press("What changed since last scan") is not None:
+        walker.look("What changed", expect("What changed", "dialog"), expect("Done", "push button"))
+        walker.close("Done")
+
+
+def menu_of(walker, pattern, title, entry):
+    """A button with a menu, the menu, and back."""
+    if walker.press(pattern) is not None:
+        walker.look(title, expect(entry, *MENU_ITEMS), any_named("menu", "popup menu"))
+        walker.escape()
+
+
+def first_row(walker, name):
+    """Of the list of this name, which has one."""
+    rows = walker.find(name, frozenset({"list"}))
+    shown = [] if rows is None else [row for row in rows.children if row.showing and row.role in PRESSED | TICKS]
+    if not shown:
+        walker.fault("missing", f"there is no row in a list named \"{name}\"", rows)
+    return shown[0] if shown else None
+
+
+def slide(walker):
+    """A slider or stepper follows a value that is set, and goes back. One without a range is a finding already."""
+    ranged = walker.find(".*", RANGED)
+    if ranged is None or ranged.value is None or not ranged.value[0] < ranged.value[2]:
+        return
+    least, now, most = ranged.value
+    for value in (most, now):
+        walker.set_value(ranged, value)
+        after = walker.find(".*", RANGED)
+        if after is None or after.value is None or abs(after.value[1] - value) > (most - least) / 100:
+            walker.fault("value", f"was set to {value:g} and is not there", after)
+
+
+def reclaim(walker, audience):
+    if audience == "everyone":
+        walker.look(walker.screen, expect("Categories", "list"))
+        menu_of(walker, "Select:.*", "Select menu of Reclaim", "Safe only")
+        walker.screen = "Reclaim for everyone"
+        row = first_row(walker, "Categories")
+        if row is not None:
+            # Some names say too what is ticked.
+            walker.toggle(re.escape(row.name.split(",")[0]) + "\\b.*", TICKS | {"list item"})
+        if walker.press(REVIEW) is not None:
+            review(walker)
+        return
+    walker.look(walker.screen, expect("Items", "list"), any_named("slider"))
+    if walker.press("What's safe to remove\\?") is not None:
+        walker.look("What is safe to remove")
+        walker.escape(DIALOGS)
+    walker.screen = "Reclaim for developers"
+    slide(walker)
+    row = first_row(walker, "Items")
+    if row is not None and walker.act(row):
+        walker.look("Reclaim for developers, unfolded")
+
+
+def review(walker):
+    walker.look("Review of a clean-up", expect("Review cleanup", "dialog"), expect("What will go", "list"),
+                expect("Delete permanently .*", *TICKS), expect("Cancel", "push button"))
+    walker.toggle("Delete permanently .*")
+    walker.close("Cancel")
+
+
+def clutter(walker, _audience):
+    walker.look(walker.screen, expect("Files", "list"), expect("Largest", "radio button"),
+                expect("Oldest", "radio button"), expect("All", "radio button"))
+    for order in ("Oldest", "Largest"):
+        walker.choose(order, "checked")
+    if first_row(walker, "Files") is not None:
+        menu_of(walker, "Actions for .*", "Menu of a file", "Move to Trash")
+
+
+def lens(walker, audience):
+    walker.look(walker.screen, expect(FOLDERS, "list"), expect("Map of .*", "list"),
+                expect("Start Over", "push button", "link"), expect("Review and Remove", "push button"))
+    menu_of(walker, "Select:.*", "Select menu of Lens", "None")
+    if walker.press("What is .*\\?") is not None:
+        walker.look("What a folder is", any_named("dialog"), expect("Done", "push button"))
+        walker.close("Done")
+    walker.screen = f"Lens for {audience}"
+    row = first_row(walker, FOLDERS)
+    if row is None:
+        return
+    tick = next((node for node in row.walk() if node.showing and node.role in TICKS), None)
+    if tick is None:
+        walker.fault("missing", "has no tick", row)
+    else:
+        walker.toggle(re.escape(tick.name), TICKS)
+        row = first_row(walker, FOLDERS)
+    if walker.act(row):
+        walker.look(f"Lens in a folder, for {audience}", expect("Back", "push button"))
+        walker.press("Start Over")
+
+
+def settings(walker, _audience):
+    title = walker.screen
+    walker.look(title, expect("Add folder.*", "push button"), expect("Theme", "panel", "grouping"),
+                *(expect(theme, "radio button") for theme in ("Light", "Dark")),
+                expect("Age filter default.*", "spin button"), expect("Delete permanently by default", *TICKS))
+    for theme in ("Light", "Dark"):
+        walker.choose(theme, "checked", frozenset({"radio button", "push button"}))
+        walker.look(f"Settings in the theme {theme}")
+    walker.screen = title
+    walker.toggle("Delete permanently by default")
+    slide(walker)
+
+
+INSIDE = {"Overview": overview, "Reclaim": reclaim, "Clutter": clutter, "Lens": lens, "Settings": settings}
+
+
+def clean_up(walker):
+    """To the end, and into the made home's own Trash."""
+    go(walker, "Reclaim", "Reclaim before a clean-up")
+    if walker.press(REVIEW) is None or walker.press("Move .* to Trash") is None:
+        return
+    walker.screen = "Result of a clean-up"
+    ended = "Keep in Trash|Done"
+    walker.wait(lambda: walker.find(ended) is not None, CLEANING_SECONDS)
+    walker.look(walker.screen, expect("Moved to the Trash", "dialog"), expect(ended, "push button"))
+    if not any(node.has("focused") and node.showing for node in walker.tree.walk()):
+        walker.fault("focus", "nothing has the keyboard, so the result is told to nobody")
+    walker.close(ended)
+
+
+def by_keys(walker, entry):
+    """Whether the entry is in the open menu, where it then was chosen."""
+    entries = [node.name for node in walker.tree.shown() if node.role in MENU_ITEMS and node.parent.role != "menu bar"]
+    place = next((place for place, name in enumerate(entries) if re.fullmatch(entry, name)), None)
+    if place is None:
+        return False
+    for _ in range(place + 1):
+        walker.press_key("Down")
+    walker.press_key("Return")
+    return True
+
+
+def windows(walker):
+    """Those beside the main one, by their entries in the menus."""
+    for title, menu, entry, shown in (("About", "Zelk", "About Zelk", expect("Zelk", "heading")),
+                                      ("Help", "Help", "Zelk Help", expect("Topics", "list")),
+                                      ("Settings", "Zelk", "Settings.*", expect("Add folder.*", "push button"))):
+        walker.screen = f"Window {title}"
+        before = len(walker.tree.children)
+        open_menu(walker, menu)
+        if walker.press(entry, MENU_ITEMS) is None and not by_keys(walker, entry):
+            walker.escape()
+            continue
+        walker.look(walker.screen, shown)
+        if len(walker.tree.children) <= before:
+            walker.fault("missing", f"the entry {entry} opens no window")
