@@ -14,13 +14,11 @@
 //                CleanupSession removes, TrashMirror shows the Trash; SurveyHistory is the one file that Zelk writes;
 //                MainThreadQueue brings results back from tasks
 //   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand them to QML; DisplayText makes of bytes
-//   what
-//                a person reads; the symbols, one SVG each, and SymbolItem, which tints them
+//                what a person reads; the symbols, one SVG each, and SymbolItem, which tints them
 //   ui/controls/ the base controls: role, keyboard and focus ring are solved here
 //   ui/charts/   what is painted: CirclePacking and the bubble map over it, ScanButton, ribbon, ring, sparkline
 //   ui/screens/  a folder per screen, a model and its view: overview is the home, module the three faces of every
-//   screen
-//                that looks for something
+//                screen that looks for something
 //   ui/shell/    Shell: the main window and those beside it; ScreenPlaces, the one table of screens; the menus
 //                (AppCommands), the sidebar, the status item, the question before an end that comes too soon
 //   app/         this file: makes the platform, the model and the shell, and nothing else

@@ -312,11 +312,14 @@ def windows(walker):
                                       ("Help", "Help", "Zelk Help", expect("Topics", "list")),
                                       ("Settings", "Zelk", "Settings.*", expect("Add folder.*", "push button"))):
         walker.screen = f"Window {title}"
-        before = len(walker.tree.children)
         open_menu(walker, menu)
         if walker.press(entry, MENU_ITEMS) is None and not by_keys(walker, entry):
             walker.escape()
             continue
-        walker.look(walker.screen, shown)
-        if len(walker.tree.children) <= before:
+        if walker.window_count() < 2:
             walker.fault("missing", f"the entry {entry} opens no window")
+            continue
+        walker.look(walker.screen, shown)
+        walker.press_key("Escape")
+        if walker.window_count() > 1:
+            walker.fault("state", "was closed and still shows", walker.tree.children[-1])

@@ -2,7 +2,6 @@
 """What a tree must be like, whatever screen it shows. Each rule takes the tree of the application and gives findings;
 none of them knows the bus. Only what is showing is judged, except where a rule says otherwise.
 """
-import re
 from dataclasses import dataclass
 
 from tree import Node
@@ -40,7 +39,7 @@ HOLDER = {
     "radio menu item": MENUS,
 }
 # A picture whose nodes are in the order of their sizes, wherever they lie.
-MAP = re.compile("Map of .*")
+MAP = "Map of "
 # What lies over the rest and has an order of its own.
 OVERLAYS = DIALOGS | MENUS | {"tool tip", "frame"}
 
@@ -145,19 +144,28 @@ def check_progress(root):
             yield Finding("value", node, "says neither in words nor as a value how far it is")
 
 
+def _window(node):
+    return next((above for above in [node, *node.above()] if above.role == "frame"), None)
+
+
 def check_focus(root):
-    """The keyboard is in one place, which shows and has a name. Qt reports what is around that place as focused too."""
-    focused = [node for node in root.walk() if node.has("focused")]
-    ends = [node for node in focused if not any(other.has("focused") for other in node.walk() if other is not node)]
-    for node in ends:
+    """In each window the keyboard is in one place, which shows and has a name. Qt reports what is around that place as
+    focused too, and leaves the place of a closed window as it was."""
+    ends = {}
+    for node in root.walk():
+        window = _window(node)
+        if not node.has("focused") or window is not None and not window.showing or \
+                any(other.has("focused") for other in node.walk() if other is not node):
+            continue
+        first = ends.setdefault(window, node)
         if not node.showing:
             yield Finding("focus", node, "has the keyboard and does not show")
         elif node.role in HOLDERS:
             yield Finding("focus", node, f"has the keyboard and is a {node.role}, where there is nothing to press")
         elif not node.name.strip():
             yield Finding("focus", node, "has the keyboard and no name")
-    for node in ends[1:]:
-        yield Finding("focus", node, f"has the keyboard as {ends[0].label()} has too")
+        if first is not node:
+            yield Finding("focus", node, f"has the keyboard as {first.label()} has too")
 
 
 def comes_before(one, other):
@@ -172,7 +180,7 @@ def comes_before(one, other):
     return top + height <= other_top and not other_left + other_width <= left
 
 
-def _in_sight(node):
+def in_sight(node):
     """Rows that are scrolled out of their list show all the same, where other things are."""
     left, top, width, height = node.rect
     for above in node.above():
@@ -192,7 +200,7 @@ def check_order(root):
             continue
         if any(child.showing and child.rect is not None for child in node.children):
             continue  # it is where its content is
-        if not _in_sight(node) or node.parent is not None and MAP.fullmatch(node.parent.name):
+        if not in_sight(node) or any(above.role == "list" and above.name.startswith(MAP) for above in node.above()):
             continue
         surface = next((above for above in node.above() if above.role in OVERLAYS), None)
         before = last.get(surface)

@@ -4,7 +4,7 @@ needs neither a bus nor a display."""
 import re
 
 from report import Report
-from rules import Expected, check_expected, comes_before, judge
+from rules import Expected, check_expected, comes_before, in_sight, judge
 from tree import Node, find
 
 SHOWN = {"enabled", "sensitive", "showing", "visible"}
@@ -187,7 +187,11 @@ RIGHT = (
     ("a row above its list", scrolled((50, 20, 100, 30), (50, 0, 100, 20), (50, 30, 100, 20))),
     ("a row beside its list", scrolled((150, 60, 20, 20), (0, 60, 50, 20))),
     ("a map", window(made("list", "Map of home", *(made("list item", name, rect=(0, top, 9, 9))
-                                                   for name, top in (("Large", 50), ("Small", 0)))))),
+                                                   for name, top in (("Large", 50), ("Small", 0))), rect=(0, 0, 99, 99)))),
+    ("the keyboard of each window", made("application", "Zelk", *(
+        made("frame", name, pressed("push button", name, states="focused")) for name in ("One", "Two")), rect=None)),
+    ("the keyboard of a closed window", made("application", "Zelk", made("frame", "One", pressed(
+        "push button", "One", states="focused -showing"), states="-showing"), rect=None)),
     ("a menu in a menu", window(made("menu bar", "Menus", pressed("menu item", "File", pressed("menu", "Recent",
                                 pressed("menu item", "One"), rect=(0, 10, 9, 9)))))),
     ("menus in menus", window(made("popup menu", "Select", pressed("menu", "Recent", pressed("menu", "Older"))))),
@@ -280,6 +284,11 @@ def _values():
         yield "a path is wrong"
     if [node.name for node in tree.walk()] != ["Zelk", "Zelk", "One", "One", "One", "One more"]:
         yield "the order of a walk is wrong"
+    for rect, shown in (((50, 40, 9, 10), False), ((50, 41, 9, 10), True), ((50, 100, 9, 10), False),
+                        ((50, 99, 9, 10), True), ((40, 60, 10, 9), False), ((41, 60, 10, 9), True),
+                        ((150, 60, 10, 9), False), ((149, 60, 10, 9), True)):
+        if in_sight(scrolled(rect).children[0].children[0].children[0]) != shown:
+            yield f"a row at {rect} is taken for {'scrolled out' if shown else 'in sight'}"
     # Half of the lower one beside the other is no row yet.
     if comes_before((0, 10, 10, 20), (20, 20, 10, 20)) or not comes_before((0, 9, 10, 20), (20, 10, 10, 20)):
         yield "rows begin elsewhere"

@@ -59,6 +59,9 @@ class Walker:
     def find(self, pattern, roles=PRESSED):
         return find(self.tree, roles, re.compile(pattern))
 
+    def window_count(self):
+        return sum(1 for window in self.tree.children if window.showing)
+
     def bring(self, pattern, roles=PRESSED):
         """Scrolls to what is out of sight, as the keyboard does: what has it is brought into sight."""
         if self.find(pattern, roles) is not None:
