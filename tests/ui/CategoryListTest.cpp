@@ -56,16 +56,6 @@ const std::vector<Row>& rows() {
 
 }  // namespace
 
-TEST_F(Categories, itsFixedTexts) {
-    EXPECT_EQ(list().selectLabel().toStdString(), "Select:");
-    EXPECT_EQ(list().allLabel().toStdString(), "All");
-    EXPECT_EQ(list().safeLabel().toStdString(), "Safe only");
-    EXPECT_EQ(list().noneLabel().toStdString(), "None");
-    EXPECT_EQ(list().reviewLabel().toStdString(), "Review & Clean");
-    EXPECT_FALSE(list().name().isEmpty());
-    EXPECT_FALSE(list().mapName().isEmpty());
-}
-
 TEST_F(Categories, areListedTheLargestFirstWhateverTheirAge) {
     surveyFor(Audience::normal);
     ASSERT_EQ(list().rowCount(), 5);

@@ -75,6 +75,14 @@ TEST_F(ClutterWindow, showsItsHeadAndEveryTextOfEveryRow) {
     EXPECT_THAT(texts, Not(Contains("Nothing heavy")));
 }
 
+TEST_F(ClutterWindow, offersToShowAFileOrToRemoveIt) {
+    open();
+    tabToTheList();
+    openMenuByKey();
+    EXPECT_EQ(find("revealFile")->property("text").toString().toStdString(), "Reveal in Finder");
+    EXPECT_EQ(find("trashFile")->property("text").toString().toStdString(), "Move to Trash");
+}
+
 TEST_F(ClutterWindow, saysThatNothingIsHeavyWhereThereIsNoFile) {
     survey();
     open();

@@ -34,15 +34,12 @@ TEST_F(Explanation, isClosedUntilItIsAskedFor) {
 
 TEST_F(Explanation, tellsWhatAPlaceIs) {
     note.open(home + "/projects/site/node_modules");
-    EXPECT_EQ(note.symbol(), QStringLiteral("questionmark.circle.fill"));
     EXPECT_EQ(note.title(), QStringLiteral("node_modules"));
     EXPECT_EQ(note.path(), QStringLiteral("/home/me/projects/site/node_modules"));
     EXPECT_EQ(note.badge(), QStringLiteral("regenerates"));
     EXPECT_TRUE(note.regenerates());
-    EXPECT_EQ(note.regeneratesLabel(), QStringLiteral("regenerates"));
     EXPECT_EQ(note.detail(), QStringLiteral("Installed JavaScript packages for a project. Safe to delete — reinstall "
                                             "with npm/pnpm/yarn install when you next work on it."));
-    EXPECT_EQ(note.doneLabel(), QStringLiteral("Done"));
 }
 
 TEST_F(Explanation, aGradeHasItsWordAndItsColourInBothThemes) {

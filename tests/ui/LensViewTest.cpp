@@ -74,6 +74,23 @@ TEST_F(LensWindow, aPlaceholderStandsWhereThereIsNothing) {
     EXPECT_THAT(seenTexts(), ElementsAre("Nothing to map"));
 }
 
+TEST_F(LensWindow, showsItsFixedTexts) {
+    openOn();
+    expectTexts({"Start Over", "Select:", "None", "Review and Remove"});
+    EXPECT_EQ(nameOf(find("lensBack")), "Back");
+    click("lensSelect");
+    EXPECT_EQ(text("lensSelectAll"), "All");
+    EXPECT_EQ(text("lensSelectNone"), "None");
+}
+
+TEST_F(LensWindow, saysWhereAFolderHasNothingToList) {
+    put("/a file", 5'000'000);
+    survey();
+    open();
+    expectTexts({"No folders that take up space",
+                 "Files that lie directly in this folder are counted with it and not listed one by one."});
+}
+
 TEST_F(LensWindow, showsTheFolderAtHand) {
     machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
     openOn();

@@ -9,8 +9,14 @@
 namespace zelk {
 
 /// The Reclaim screen over a home in memory, where what a survey finds can be cleaned too.
-class ReclaimFixture : public AppModelFixture {
+template <class Base>
+class ReclaimFixtureOn : public Base {
 protected:
+    using Base::home;
+    using Base::machine;
+    using Base::model;
+    using Base::survey;
+
     static constexpr std::uint64_t megabyte = 1'000'000;
 
     TimePoint daysAgo(double days) { return machine.clock.now() - days * secondsPerDay; }
@@ -81,5 +87,7 @@ protected:
 private:
     std::unique_ptr<ReclaimScreenModel> screen_;
 };
+
+using ReclaimFixture = ReclaimFixtureOn<AppModelFixture>;
 
 }  // namespace zelk

@@ -9,7 +9,9 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -124,6 +126,12 @@ protected:
         for (QQuickItem* item : seen())
             if (item->inherits("QQuickText")) texts.push_back(item->property("text").toString().toStdString());
         return texts;
+    }
+
+    /// Each of these texts is seen.
+    void expectTexts(std::initializer_list<const char*> wanted) {
+        const std::vector<std::string> texts = seenTexts();
+        for (const char* text : wanted) EXPECT_NE(std::find(texts.begin(), texts.end(), text), texts.end()) << text;
     }
 
     /// The item that shows this text itself; nullptr if none is seen.

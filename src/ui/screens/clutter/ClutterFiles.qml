@@ -36,7 +36,7 @@ FocusScope {
         topMargin: 8
         bottomMargin: 16
         focus: true
-        name: files.clutter.rowsName
+        name: qsTr("Files")
         model: files.clutter.rows
 
         function openMenu(row: int, at: point) {

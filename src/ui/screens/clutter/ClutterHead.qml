@@ -36,7 +36,7 @@ Item {
 
                 Words {
                     width: parent.width
-                    text: head.clutter.heading
+                    text: qsTr("Clutter")
                     size: 26
                     font.weight: Font.DemiBold
                     Accessible.role: Accessible.Heading
@@ -44,7 +44,7 @@ Item {
 
                 Words {
                     width: parent.width
-                    text: head.clutter.line
+                    text: qsTr("the heaviest files in your survey")
                     size: 11
                     soft: true
                 }
@@ -56,7 +56,7 @@ Item {
                 objectName: "orderPicker"
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                label: head.clutter.orderLabel
+                label: qsTr("Order")
                 options: head.clutter.orders
                 current: head.clutter.order
                 onPicked: index => head.clutter.sort(index)

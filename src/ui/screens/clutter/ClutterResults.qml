@@ -29,9 +29,9 @@ FocusScope {
     EmptyState {
         anchors.fill: parent
         visible: results.nothing
-        symbol: results.module?.nothingSymbol ?? ""
-        title: results.module?.nothingTitle ?? ""
-        note: results.module?.nothingNote ?? ""
+        symbol: "tray"
+        title: qsTr("Nothing heavy")
+        note: qsTr("No large files turned up in this survey.")
     }
 
     Loader {

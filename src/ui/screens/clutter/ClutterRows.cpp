@@ -52,7 +52,7 @@ QVariant ClutterRows::data(const QModelIndex& index, int role) const {
             return Spoken::joined(
                 {nameText(file.path), folderText(file.path), ageText(file.modified, now_), byteFigure(file.size)});
         case actionsRole:
-            return QStringLiteral("Actions for %1").arg(nameText(file.path));
+            return tr("Actions for %1").arg(nameText(file.path));
         default:
             return {};
     }

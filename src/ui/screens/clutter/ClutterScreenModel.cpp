@@ -12,11 +12,11 @@ namespace {
 
 ModuleTexts texts() {
     ModuleTexts texts;
-    texts.title = QStringLiteral("Clutter");
-    texts.subtitle =
-        QStringLiteral("Find your largest and oldest files — videos, downloads, disk images, forgotten archives.");
-    texts.scanLabel = QStringLiteral("Find large files");
-    texts.scanningLabel = QStringLiteral("Hunting for heavy files…");
+    texts.title = ClutterScreenModel::tr("Clutter");
+    texts.subtitle = ClutterScreenModel::tr(
+        "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.");
+    texts.scanLabel = ClutterScreenModel::tr("Find large files");
+    texts.scanningLabel = ClutterScreenModel::tr("Hunting for heavy files…");
     return texts;
 }
 
@@ -44,38 +44,8 @@ void ClutterScreenModel::setOnScreen(bool onScreen) {
     emit onScreenChanged();
 }
 
-QString ClutterScreenModel::nothingTitle() const {
-    return QStringLiteral("Nothing heavy");
-}
-QString ClutterScreenModel::nothingSymbol() const {
-    return QStringLiteral("tray");
-}
-QString ClutterScreenModel::nothingNote() const {
-    return QStringLiteral("No large files turned up in this survey.");
-}
-QString ClutterScreenModel::heading() const {
-    return QStringLiteral("Clutter");
-}
-QString ClutterScreenModel::line() const {
-    return QStringLiteral("the heaviest files in your survey");
-}
-QString ClutterScreenModel::orderLabel() const {
-    return QStringLiteral("Order");
-}
 QStringList ClutterScreenModel::orders() const {
-    return {QStringLiteral("Largest"), QStringLiteral("Oldest")};
-}
-QString ClutterScreenModel::pillsName() const {
-    return QStringLiteral("Type of files");
-}
-QString ClutterScreenModel::rowsName() const {
-    return QStringLiteral("Files");
-}
-QString ClutterScreenModel::revealLabel() const {
-    return QStringLiteral("Reveal in Finder");
-}
-QString ClutterScreenModel::trashLabel() const {
-    return QStringLiteral("Move to Trash");
+    return {tr("Largest"), tr("Oldest")};
 }
 
 void ClutterScreenModel::sort(int order) {

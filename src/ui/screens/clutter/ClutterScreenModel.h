@@ -20,20 +20,10 @@ class ClutterScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
     Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen NOTIFY onScreenChanged FINAL)
     Q_PROPERTY(bool nothing READ nothing NOTIFY nothingChanged FINAL)
-    Q_PROPERTY(QString nothingTitle READ nothingTitle CONSTANT FINAL)
-    Q_PROPERTY(QString nothingSymbol READ nothingSymbol CONSTANT FINAL)
-    Q_PROPERTY(QString nothingNote READ nothingNote CONSTANT FINAL)
-    Q_PROPERTY(QString heading READ heading CONSTANT FINAL)
-    Q_PROPERTY(QString line READ line CONSTANT FINAL)
-    Q_PROPERTY(QString orderLabel READ orderLabel CONSTANT FINAL)
     Q_PROPERTY(QStringList orders READ orders CONSTANT FINAL)
     Q_PROPERTY(int order READ order NOTIFY orderChanged FINAL)
-    Q_PROPERTY(QString pillsName READ pillsName CONSTANT FINAL)
     Q_PROPERTY(zelk::TypePills* pills READ pills CONSTANT FINAL)
     Q_PROPERTY(zelk::ClutterRows* rows READ rows CONSTANT FINAL)
-    Q_PROPERTY(QString rowsName READ rowsName CONSTANT FINAL)
-    Q_PROPERTY(QString revealLabel READ revealLabel CONSTANT FINAL)
-    Q_PROPERTY(QString trashLabel READ trashLabel CONSTANT FINAL)
 
 public:
     /// `app` must outlive it.
@@ -47,20 +37,10 @@ public:
 
     /// The survey found no large file at all. A filter that leaves none is no such thing.
     bool nothing() const { return nothing_; }
-    QString nothingTitle() const;
-    QString nothingSymbol() const;
-    QString nothingNote() const;
-    QString heading() const;
-    QString line() const;
-    QString orderLabel() const;
     QStringList orders() const;
     int order() const { return sortByAge_ ? 1 : 0; }
-    QString pillsName() const;
     TypePills* pills() { return &pills_; }
     ClutterRows* rows() { return &rows_; }
-    QString rowsName() const;
-    QString revealLabel() const;
-    QString trashLabel() const;
 
     const TypePills::Filter& typeFilter() const { return pills_.chosen(); }
     bool sortByAge() const { return sortByAge_; }

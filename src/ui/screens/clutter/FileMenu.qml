@@ -16,14 +16,14 @@ MenuPanel {
 
     MenuRow {
         objectName: "revealFile"
-        text: fileMenu.clutter.revealLabel
+        text: qsTr("Reveal in Finder")
         symbol: "folder"
         onTriggered: fileMenu.clutter.reveal()
     }
 
     MenuRow {
         objectName: "trashFile"
-        text: fileMenu.clutter.trashLabel
+        text: qsTr("Move to Trash")
         symbol: "trash"
         alarming: true
         onTriggered: fileMenu.clutter.moveToTrash()

@@ -15,7 +15,7 @@ FocusScope {
     implicitHeight: flow.implicitHeight
 
     Accessible.role: Accessible.Grouping
-    Accessible.name: choice.clutter.pillsName
+    Accessible.name: qsTr("Type of files")
 
     function choose(row: int) {
         const next = pills.itemAt(row) as T.AbstractButton;

@@ -38,7 +38,7 @@ QVariant TypePills::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
         case nameRole:
-            return type ? lookOf(*type, *theme_).name : QStringLiteral("All");
+            return type ? lookOf(*type, *theme_).name : tr("All");
         case symbolRole:
             return type ? lookOf(*type, *theme_).symbol : lookOf(Screen::clutter).symbol;
         case tintRole:

@@ -25,9 +25,6 @@ void ExplanationModel::setTheme(const ZelkTheme& theme) {
     if (std::exchange(theme_, &theme) != &theme) emit changed();
 }
 
-QString ExplanationModel::symbol() const {
-    return QStringLiteral("questionmark.circle.fill");
-}
 QString ExplanationModel::title() const {
     return displayText(explanation_.title);
 }
@@ -50,14 +47,8 @@ QColor ExplanationModel::tint() const {
     return {};
 }
 
-QString ExplanationModel::regeneratesLabel() const {
-    return QStringLiteral("regenerates");
-}
 QString ExplanationModel::detail() const {
     return displayText(explanation_.detail);
-}
-QString ExplanationModel::doneLabel() const {
-    return QStringLiteral("Done");
 }
 
 }  // namespace zelk

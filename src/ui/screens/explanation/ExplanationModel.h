@@ -18,15 +18,12 @@ class ExplanationModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Part of a screen")
     Q_PROPERTY(bool shown READ shown NOTIFY changed FINAL)
-    Q_PROPERTY(QString symbol READ symbol CONSTANT FINAL)
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
     Q_PROPERTY(QString path READ path NOTIFY changed FINAL)
     Q_PROPERTY(QString badge READ badge NOTIFY changed FINAL)
     Q_PROPERTY(QColor tint READ tint NOTIFY changed FINAL)
     Q_PROPERTY(bool regenerates READ regenerates NOTIFY changed FINAL)
-    Q_PROPERTY(QString regeneratesLabel READ regeneratesLabel CONSTANT FINAL)
     Q_PROPERTY(QString detail READ detail NOTIFY changed FINAL)
-    Q_PROPERTY(QString doneLabel READ doneLabel CONSTANT FINAL)
 
 public:
     /// `home` is the person's own folder, whose parts it knows.
@@ -37,16 +34,13 @@ public:
     void setTheme(const ZelkTheme& theme);
 
     bool shown() const { return shown_; }
-    QString symbol() const;
     QString title() const;
     QString path() const;
     QString badge() const;
     /// Of the badge: one grade has a colour of its own, the others have the theme's.
     QColor tint() const;
     bool regenerates() const { return explanation_.regenerates; }
-    QString regeneratesLabel() const;
     QString detail() const;
-    QString doneLabel() const;
 
 public slots:
     void close();

@@ -34,7 +34,7 @@ Sheet {
                     id: symbolItem
 
                     anchors.verticalCenter: parent.verticalCenter
-                    name: sheet.explanation.symbol
+                    name: "questionmark.circle.fill"
                     color: sheet.explanation.tint
                     size: Math.round(22 * TextScale.factor)
                 }
@@ -76,7 +76,7 @@ Sheet {
 
                 Tag {
                     objectName: "explanationRegenerates"
-                    text: sheet.explanation.regeneratesLabel
+                    text: qsTr("regenerates")
                     ink: Theme.inkSoft
                     visible: sheet.explanation.regenerates
                 }
@@ -104,7 +104,7 @@ Sheet {
                     horizontalPadding: 20
                     verticalPadding: 9
                     focus: true
-                    text: sheet.explanation.doneLabel
+                    text: qsTr("Done")
                     onClicked: sheet.explanation.close()
                 }
             }

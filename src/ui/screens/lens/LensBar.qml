@@ -23,7 +23,7 @@ Item {
         anchors.left: parent.left
         anchors.leftMargin: 24
         anchors.verticalCenter: parent.verticalCenter
-        text: bar.lens.startOverLabel
+        text: qsTr("Start Over")
         symbol: "arrow.counterclockwise"
         textColor: hovered ? Theme.ink : Theme.inkSoft
         onClicked: bar.lens.startOver()
@@ -48,8 +48,8 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         symbol: "chevron.left"
         tint: Theme.ink
-        text: bar.lens.backLabel
-        help: bar.lens.backLabel
+        text: qsTr("Back")
+        help: qsTr("Back")
         enabled: bar.lens.canGoBack
         onClicked: {
             const byKey = back.visualFocus;

@@ -76,7 +76,7 @@ Rectangle {
         anchors.right: parent.right
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
-        text: foot.lens.removeLabel
+        text: qsTr("Review and Remove")
         enabled: foot.lens.removable
         onClicked: {
             foot.removing(remove.visualFocus);

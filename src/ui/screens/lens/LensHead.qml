@@ -70,7 +70,7 @@ Item {
 
             Words {
                 anchors.verticalCenter: parent.verticalCenter
-                text: head.lens.selectLabel
+                text: qsTr("Select:")
                 size: 11
                 soft: true
                 mute: true
@@ -80,16 +80,16 @@ Item {
                 objectName: "lensSelect"
                 anchors.verticalCenter: parent.verticalCenter
                 text: head.lens.selectTitle
-                said: head.lens.selectLabel
+                said: qsTr("Select:")
 
                 MenuRow {
                     objectName: "lensSelectAll"
-                    text: head.lens.allLabel
+                    text: qsTr("All")
                     onTriggered: head.lens.selectAll()
                 }
                 MenuRow {
                     objectName: "lensSelectNone"
-                    text: head.lens.noneLabel
+                    text: qsTr("None")
                     onTriggered: head.lens.selectNone()
                 }
             }

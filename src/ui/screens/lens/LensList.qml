@@ -59,7 +59,7 @@ RowList {
 
     delegate: LensRow {
         ringed: list.ringed && ListView.isCurrentItem
-        help: list.lens.infoHelp
+        help: qsTr("What is this? (I)")
         onPressed: list.take(index)
         onOpened: list.lens.drill(index)
         onToggled: list.lens.toggle(index)

@@ -29,8 +29,8 @@ FocusScope {
     EmptyState {
         anchors.fill: parent
         visible: !panes.lens.mapped
-        symbol: panes.lens.emptySymbol
-        title: panes.lens.emptyTitle
+        symbol: "circle.hexagongrid"
+        title: qsTr("Nothing to map")
     }
 
     FocusScope {
@@ -116,9 +116,9 @@ FocusScope {
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 visible: panes.lens.bare
-                symbol: panes.lens.emptySymbol
-                title: panes.lens.bareTitle
-                note: panes.lens.bareNote
+                symbol: "circle.hexagongrid"
+                title: qsTr("No folders that take up space")
+                note: qsTr("Files that lie directly in this folder are counted with it and not listed one by one.")
             }
         }
 

@@ -124,9 +124,9 @@ QVariant LensRows::data(const QModelIndex& index, int role) const {
             return !node->children.empty();
         case spokenRole:
             return Spoken::joined({displayText(node->name()), byteFigure(bytes), QStringLiteral("folder"),
-                                   ticked() ? QStringLiteral("ticked") : QString()});
+                                   ticked() ? tr("ticked") : QString()});
         case infoRole:
-            return QStringLiteral("What is %1?").arg(displayText(node->name()));
+            return tr("What is %1?").arg(displayText(node->name()));
         default:
             return {};
     }

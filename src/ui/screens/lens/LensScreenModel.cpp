@@ -23,10 +23,10 @@ constexpr int bubbleIconSide = 128;
 
 ModuleTexts texts() {
     ModuleTexts texts;
-    texts.title = QStringLiteral("Lens");
-    texts.subtitle = QStringLiteral("Explore where your space went — a list and a live bubble map, side by side.");
-    texts.scanLabel = QStringLiteral("Run survey");
-    texts.scanningLabel = QStringLiteral("Surveying your drive…");
+    texts.title = LensScreenModel::tr("Lens");
+    texts.subtitle = LensScreenModel::tr("Explore where your space went — a list and a live bubble map, side by side.");
+    texts.scanLabel = LensScreenModel::tr("Run survey");
+    texts.scanningLabel = LensScreenModel::tr("Surveying your drive…");
     return texts;
 }
 

@@ -28,22 +28,12 @@ class LensScreenModel : public zelk::SurveyedModule {
     QML_UNCREATABLE("Made by the main window")
     Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
     Q_PROPERTY(bool mapped READ mapped NOTIFY placeChanged FINAL)
-    Q_PROPERTY(QString emptyTitle READ emptyTitle CONSTANT FINAL)
-    Q_PROPERTY(QString emptySymbol READ emptySymbol CONSTANT FINAL)
     Q_PROPERTY(bool bare READ bare NOTIFY placeChanged FINAL)
-    Q_PROPERTY(QString bareTitle READ bareTitle CONSTANT FINAL)
-    Q_PROPERTY(QString bareNote READ bareNote CONSTANT FINAL)
-    Q_PROPERTY(QString startOverLabel READ startOverLabel CONSTANT FINAL)
-    Q_PROPERTY(QString backLabel READ backLabel CONSTANT FINAL)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString place READ place NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString placeLine READ placeLine NOTIFY placeChanged FINAL)
     Q_PROPERTY(QVariant placeIcon READ placeIcon NOTIFY placeChanged FINAL)
-    Q_PROPERTY(QString selectLabel READ selectLabel CONSTANT FINAL)
     Q_PROPERTY(QString selectTitle READ selectTitle NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(QString allLabel READ allLabel CONSTANT FINAL)
-    Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT FINAL)
-    Q_PROPERTY(QString infoHelp READ infoHelp CONSTANT FINAL)
     Q_PROPERTY(QString listName READ listName NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString mapName READ mapName NOTIFY placeChanged FINAL)
     Q_PROPERTY(zelk::LensRows* rows READ rows CONSTANT FINAL)
@@ -53,7 +43,6 @@ class LensScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(QString volumeLine READ volumeLine NOTIFY volumeChanged FINAL)
     Q_PROPERTY(double usedShare READ usedShare NOTIFY volumeChanged FINAL)
     Q_PROPERTY(QString caption READ caption NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(QString removeLabel READ removeLabel CONSTANT FINAL)
     Q_PROPERTY(bool removable READ removable NOTIFY selectionChanged FINAL)
 
 public:
@@ -65,25 +54,15 @@ public:
     void setDark(bool dark);
 
     bool mapped() const { return static_cast<bool>(walk_.currentNode()); }
-    QString emptyTitle() const;
-    QString emptySymbol() const;
     /// There is a folder at hand, and nothing in it to list or to map.
     bool bare() const { return mapped() && rows_.rowCount() == 0; }
-    QString bareTitle() const;
-    QString bareNote() const;
-    QString startOverLabel() const;
-    QString backLabel() const;
     bool canGoBack() const { return walk_.canGoBack(); }
     /// The name of the folder at hand, or a dash.
     QString place() const;
     QString placeLine() const;
     /// A QImage; an empty one where there is no folder.
     QVariant placeIcon() const;
-    QString selectLabel() const;
     QString selectTitle() const;
-    QString allLabel() const;
-    QString noneLabel() const;
-    QString infoHelp() const;
     QString listName() const;
     QString mapName() const;
     LensRows* rows() { return &rows_; }
@@ -93,7 +72,6 @@ public:
     QString volumeLine() const;
     double usedShare() const;
     QString caption() const;
-    QString removeLabel() const;
     bool removable() const { return !walk_.selected().empty(); }
 
     const LensWalk& walk() const { return walk_; }

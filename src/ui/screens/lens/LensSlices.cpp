@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/screens/lens/LensSlices.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 #include "ui/theme/DisplayText.h"
@@ -27,7 +29,7 @@ std::vector<BubbleSlice> slicesOf(const LensRows& rows, const LensWalk& walk, co
     if (alone == rows.rowCount()) return slices;
     BubbleSlice rest;
     rest.id = foldedSlice;
-    rest.label = QStringLiteral("Other (%1)").arg(rows.rowCount() - alone);
+    rest.label = QCoreApplication::translate("LensSlices", "Other (%1)").arg(rows.rowCount() - alone);
     for (int row = alone; row < rows.rowCount(); ++row) rest.bytes += rows.node(row)->size;
     rest.color = folded;
     slices.push_back(std::move(rest));

@@ -18,25 +18,6 @@ std::int64_t usedOf(const VolumeInfo& volume) {
 
 }  // namespace
 
-QString LensScreenModel::emptyTitle() const {
-    return QStringLiteral("Nothing to map");
-}
-QString LensScreenModel::emptySymbol() const {
-    return QStringLiteral("circle.hexagongrid");
-}
-QString LensScreenModel::bareTitle() const {
-    return QStringLiteral("No folders that take up space");
-}
-QString LensScreenModel::bareNote() const {
-    return QStringLiteral("Files that lie directly in this folder are counted with it and not listed one by one.");
-}
-QString LensScreenModel::startOverLabel() const {
-    return QStringLiteral("Start Over");
-}
-QString LensScreenModel::backLabel() const {
-    return QStringLiteral("Back");
-}
-
 QString LensScreenModel::place() const {
     const NodeRef node = walk_.currentNode();
     return node ? displayText(lastComponent(node->fullPath())) : QStringLiteral("—");
@@ -46,7 +27,7 @@ QString LensScreenModel::place() const {
 QString LensScreenModel::placeLine() const {
     const NodeRef node = walk_.currentNode();
     if (!node) return {};
-    return QStringLiteral("%1 · %2 folders").arg(byteFigure(node->size)).arg(node->children.size());
+    return tr("%1 · %2 folders").arg(byteFigure(node->size)).arg(node->children.size());
 }
 
 QVariant LensScreenModel::placeIcon() const {
@@ -54,29 +35,17 @@ QVariant LensScreenModel::placeIcon() const {
     return node ? icon(node->fullPath(), placeIconSide) : QImage();
 }
 
-QString LensScreenModel::selectLabel() const {
-    return QStringLiteral("Select:");
-}
 QString LensScreenModel::selectTitle() const {
-    return removable() ? QString::number(walk_.selected().size()) : noneLabel();
-}
-QString LensScreenModel::allLabel() const {
-    return QStringLiteral("All");
-}
-QString LensScreenModel::noneLabel() const {
-    return QStringLiteral("None");
-}
-QString LensScreenModel::infoHelp() const {
-    return QStringLiteral("What is this? (I)");
+    return removable() ? QString::number(walk_.selected().size()) : tr("None");
 }
 /// What several scan roots hang in has no name of its own.
 QString LensScreenModel::listName() const {
     const QString name = place();
-    return name.isEmpty() ? QStringLiteral("Surveyed folders") : QStringLiteral("Folders in %1").arg(name);
+    return name.isEmpty() ? tr("Surveyed folders") : tr("Folders in %1").arg(name);
 }
 QString LensScreenModel::mapName() const {
     const QString name = place();
-    return name.isEmpty() ? QStringLiteral("Map of the surveyed folders") : QStringLiteral("Map of %1").arg(name);
+    return name.isEmpty() ? tr("Map of the surveyed folders") : tr("Map of %1").arg(name);
 }
 
 bool LensScreenModel::volumed() const {
@@ -85,7 +54,7 @@ bool LensScreenModel::volumed() const {
 
 QString LensScreenModel::volumeLine() const {
     if (!volumed()) return {};
-    return QStringLiteral("%1 of %2 used").arg(byteFigure(usedOf(*app_.volume())), byteFigure(app_.volume()->total));
+    return tr("%1 of %2 used").arg(byteFigure(usedOf(*app_.volume())), byteFigure(app_.volume()->total));
 }
 
 double LensScreenModel::usedShare() const {
@@ -94,12 +63,8 @@ double LensScreenModel::usedShare() const {
 }
 
 QString LensScreenModel::caption() const {
-    if (!removable()) return QStringLiteral("No items selected");
-    return QStringLiteral("%1 selected · %2").arg(walk_.selected().size()).arg(byteFigure(walk_.selectedBytes()));
-}
-
-QString LensScreenModel::removeLabel() const {
-    return QStringLiteral("Review and Remove");
+    if (!removable()) return tr("No items selected");
+    return tr("%1 selected · %2").arg(walk_.selected().size()).arg(byteFigure(walk_.selectedBytes()));
 }
 
 }  // namespace zelk

@@ -18,7 +18,7 @@ Item {
 
         x: 26
         anchors.verticalCenter: parent.verticalCenter
-        text: head.categories.selectLabel
+        text: qsTr("Select:")
         size: 11
         soft: true
     }
@@ -31,18 +31,18 @@ Item {
         anchors.leftMargin: 4
         anchors.verticalCenter: parent.verticalCenter
         text: head.categories.menuLabel
-        said: head.categories.selectLabel
+        said: qsTr("Select:")
 
         MenuRow {
-            text: head.categories.allLabel
+            text: qsTr("All")
             onTriggered: head.categories.chooseAll()
         }
         MenuRow {
-            text: head.categories.safeLabel
+            text: qsTr("Safe only")
             onTriggered: head.categories.chooseSafe()
         }
         MenuRow {
-            text: head.categories.noneLabel
+            text: qsTr("None")
             onTriggered: head.categories.chooseNone()
         }
     }

@@ -15,7 +15,7 @@ namespace zelk {
 namespace {
 
 QString countText(std::int64_t items) {
-    return QStringLiteral("%1 items").arg(items);
+    return CategoryList::tr("%1 items").arg(items);
 }
 
 }  // namespace
@@ -39,36 +39,8 @@ void CategoryList::appear() {
     chooseSafe();
 }
 
-QString CategoryList::name() const {
-    return QStringLiteral("Categories");
-}
-
-QString CategoryList::selectLabel() const {
-    return QStringLiteral("Select:");
-}
-
 QString CategoryList::menuLabel() const {
-    return chosen_.empty() ? noneLabel() : QString::number(chosen_.size());
-}
-
-QString CategoryList::allLabel() const {
-    return QStringLiteral("All");
-}
-
-QString CategoryList::safeLabel() const {
-    return QStringLiteral("Safe only");
-}
-
-QString CategoryList::noneLabel() const {
-    return QStringLiteral("None");
-}
-
-QString CategoryList::reviewLabel() const {
-    return QStringLiteral("Review & Clean");
-}
-
-QString CategoryList::mapName() const {
-    return QStringLiteral("Map of the categories");
+    return chosen_.empty() ? tr("None") : QString::number(chosen_.size());
 }
 
 int CategoryList::rowCount(const QModelIndex& parent) const {
@@ -169,7 +141,7 @@ void CategoryList::showFooter() {
         bytes += static_cast<std::int64_t>(item.size);
     }
     footer_ = chosen_.empty()
-                  ? QStringLiteral("No categories selected")
+                  ? tr("No categories selected")
                   : countText(static_cast<std::int64_t>(chosenItems_)) + QStringLiteral(" · ") + byteFigure(bytes);
     emit footerChanged();
 }

@@ -22,17 +22,10 @@ class CategoryList : public zelk::EditedList {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")
-    Q_PROPERTY(QString name READ name CONSTANT FINAL)
-    Q_PROPERTY(QString selectLabel READ selectLabel CONSTANT FINAL)
     Q_PROPERTY(QString menuLabel READ menuLabel NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(QString allLabel READ allLabel CONSTANT FINAL)
-    Q_PROPERTY(QString safeLabel READ safeLabel CONSTANT FINAL)
-    Q_PROPERTY(QString noneLabel READ noneLabel CONSTANT FINAL)
     Q_PROPERTY(QString footer READ footer NOTIFY footerChanged FINAL)
-    Q_PROPERTY(QString reviewLabel READ reviewLabel CONSTANT FINAL)
     Q_PROPERTY(bool reviewable READ reviewable NOTIFY footerChanged FINAL)
     Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
-    Q_PROPERTY(QString mapName READ mapName CONSTANT FINAL)
 
 public:
     enum Role { idRole = Qt::UserRole, nameRole, noteRole, tintRole, bytesRole, countRole, chosenRole, spokenRole };
@@ -43,18 +36,11 @@ public:
     /// The screen shows it: the first time, the safe ones are chosen.
     void appear();
 
-    QString name() const;
-    QString selectLabel() const;
     QString menuLabel() const;
-    QString allLabel() const;
-    QString safeLabel() const;
-    QString noneLabel() const;
     /// What is chosen, in items and bytes.
     const QString& footer() const { return footer_; }
-    QString reviewLabel() const;
     bool reviewable() const { return chosenItems_ > 0; }
     BubbleModel* bubbles() { return &bubbles_; }
-    QString mapName() const;
 
     const std::set<std::string, std::less<>>& chosen() const { return chosen_; }
 

@@ -44,7 +44,7 @@ FocusScope {
             topMargin: 8
             bottomMargin: 8
             focus: true
-            name: pane.categories.name
+            name: qsTr("Categories")
             model: pane.categories
 
             Keys.onSpacePressed: event => list.press(event.isAutoRepeat)
@@ -83,7 +83,7 @@ FocusScope {
         anchors.top: parent.top
         anchors.bottom: cleanFooter.top
         anchors.margins: 8
-        name: pane.categories.mapName
+        name: qsTr("Map of the categories")
         model: pane.categories.bubbles
     }
 
@@ -94,7 +94,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         line: pane.categories.footer
-        action: pane.categories.reviewLabel
+        action: qsTr("Review & Clean")
         ready: pane.categories.reviewable
         onPressed: pane.categories.review()
     }

@@ -21,7 +21,7 @@ DryRunModel::DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items,
 }
 
 QString DryRunModel::title() const {
-    return QStringLiteral("Review cleanup");
+    return tr("Review cleanup");
 }
 
 QString DryRunModel::line() const {
@@ -29,17 +29,9 @@ QString DryRunModel::line() const {
     const auto toTrash = std::count_if(items.begin(), items.end(), [](const Reclaimable& item) {
         return item.method.kind == ReclaimMethod::Kind::trash;
     });
-    return QStringLiteral("%1 to Trash · %2 via command · %3 to recover")
+    return tr("%1 to Trash · %2 via command · %3 to recover")
         .arg(QString::number(toTrash), QString::number(static_cast<std::ptrdiff_t>(items.size()) - toTrash),
              byteFigure(totalSize(items)));
-}
-
-QString DryRunModel::listName() const {
-    return QStringLiteral("What will go");
-}
-
-QString DryRunModel::permanentLabel() const {
-    return QStringLiteral("Delete permanently instead of moving to Trash — irreversible");
 }
 
 void DryRunModel::setHardDelete(bool hardDelete) {
@@ -48,17 +40,9 @@ void DryRunModel::setHardDelete(bool hardDelete) {
     emit hardDeleteChanged();
 }
 
-QString DryRunModel::cancelLabel() const {
-    return QStringLiteral("Cancel");
-}
-
 QString DryRunModel::confirmLabel() const {
-    return (hardDelete_ ? QStringLiteral("Delete %1 permanently") : QStringLiteral("Move %1 to Trash"))
+    return (hardDelete_ ? tr("Delete %1 permanently") : tr("Move %1 to Trash"))
         .arg(byteFigure(totalSize(rows_.items())));
-}
-
-QString DryRunModel::cleaningLabel() const {
-    return QStringLiteral("Cleaning…");
 }
 
 double DryRunModel::share() const {
@@ -70,7 +54,7 @@ double DryRunModel::share() const {
 QString DryRunModel::progress() const {
     if (!isCleaning()) return {};
     const RemovalsModel::Progress now = model_.progress();
-    return QStringLiteral("%1 of %2").arg(now.done).arg(now.items);
+    return tr("%1 of %2").arg(now.done).arg(now.items);
 }
 
 QColor DryRunModel::resultTint() const {
@@ -78,7 +62,7 @@ QColor DryRunModel::resultTint() const {
 }
 
 QString DryRunModel::heading() const {
-    return trashEmptied_ ? QStringLiteral("Space reclaimed") : QStringLiteral("Moved to the Trash");
+    return trashEmptied_ ? tr("Space reclaimed") : tr("Moved to the Trash");
 }
 
 QString DryRunModel::result() const {
@@ -88,29 +72,21 @@ QString DryRunModel::result() const {
         if (wasRemoved(one) && one.item.size >= 1) ++gone;
         if (std::holds_alternative<Cleaner::Failed>(one.status)) ++failed;
     }
-    QString line = byteFigure(model_.reclaimedBytes()) + QStringLiteral(" · %1 item").arg(gone);
-    if (gone != 1) line += QLatin1Char('s');
-    if (failed > 0) line += QStringLiteral(" · %1 skipped").arg(failed);
+    QString line =
+        (gone == 1 ? tr("%1 · %2 item") : tr("%1 · %2 items")).arg(byteFigure(model_.reclaimedBytes())).arg(gone);
+    if (failed > 0) line += tr(" · %1 skipped").arg(failed);
     return line;
 }
 
 QString DryRunModel::advice() const {
-    return trashEmptied_ ? QStringLiteral("The Trash was emptied. Your free space is now updated.")
-                         : QStringLiteral(
+    return trashEmptied_ ? tr("The Trash was emptied. Your free space is now updated.")
+                         : tr(
                                "Items were moved to the Trash, so they're recoverable — but your free "
                                "space won't change until the Trash is emptied.");
 }
 
-QString DryRunModel::keepLabel() const {
-    return QStringLiteral("Keep in Trash");
-}
-
 QString DryRunModel::emptyLabel() const {
-    return emptyingTrash_ ? QStringLiteral("Emptying…") : QStringLiteral("Empty Trash & free space");
-}
-
-QString DryRunModel::doneLabel() const {
-    return QStringLiteral("Done");
+    return emptyingTrash_ ? tr("Emptying…") : tr("Empty Trash & free space");
 }
 
 void DryRunModel::cancel() {

@@ -28,12 +28,8 @@ class DryRunModel : public QObject {
     Q_PROPERTY(QString title READ title CONSTANT FINAL)
     Q_PROPERTY(QString line READ line CONSTANT FINAL)
     Q_PROPERTY(zelk::DryRunRows* rows READ rows CONSTANT FINAL)
-    Q_PROPERTY(QString listName READ listName CONSTANT FINAL)
-    Q_PROPERTY(QString permanentLabel READ permanentLabel CONSTANT FINAL)
     Q_PROPERTY(bool hardDelete READ hardDelete WRITE setHardDelete NOTIFY hardDeleteChanged FINAL)
-    Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT FINAL)
     Q_PROPERTY(QString confirmLabel READ confirmLabel NOTIFY hardDeleteChanged FINAL)
-    Q_PROPERTY(QString cleaningLabel READ cleaningLabel CONSTANT FINAL)
     Q_PROPERTY(double share READ share NOTIFY progressChanged FINAL)
     Q_PROPERTY(QString progress READ progress NOTIFY progressChanged FINAL)
     Q_PROPERTY(bool confirmable READ confirmable NOTIFY phaseChanged FINAL)
@@ -43,9 +39,7 @@ class DryRunModel : public QObject {
     Q_PROPERTY(QString advice READ advice NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool emptyable READ emptyable NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool emptying READ emptyingTrash NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(QString keepLabel READ keepLabel CONSTANT FINAL)
     Q_PROPERTY(QString emptyLabel READ emptyLabel NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(QString doneLabel READ doneLabel CONSTANT FINAL)
 
 public:
     enum class Phase { review, cleaning, done };
@@ -69,14 +63,10 @@ public:
     QString title() const;
     QString line() const;
     DryRunRows* rows() { return &rows_; }
-    QString listName() const;
-    QString permanentLabel() const;
     bool hardDelete() const { return hardDelete_; }
     /// Only while it is reviewed.
     void setHardDelete(bool hardDelete);
-    QString cancelLabel() const;
     QString confirmLabel() const;
-    QString cleaningLabel() const;
     /// How much of it is done, from 0 to 1.
     double share() const;
     /// The same as a screen reader says it: "12 of 40".
@@ -91,9 +81,7 @@ public:
     bool trashEmptied() const { return trashEmptied_; }
     /// Whether the Trash is still to be kept or emptied.
     bool emptyable() const { return isDone() && !trashEmptied_; }
-    QString keepLabel() const;
     QString emptyLabel() const;
-    QString doneLabel() const;
 
 public slots:
     // None does anything once it was left.

@@ -81,7 +81,7 @@ FocusScope {
 
             objectName: "keepInTrash"
             anchors.verticalCenter: parent.verticalCenter
-            text: page.dryRun.keepLabel
+            text: qsTr("Keep in Trash")
             visible: page.dryRun.emptyable
             enabled: !page.dryRun.emptying
             focus: visible
@@ -106,7 +106,7 @@ FocusScope {
             objectName: "cleanupDone"
             horizontalPadding: 20
             verticalPadding: 10
-            text: page.dryRun.doneLabel
+            text: qsTr("Done")
             visible: !page.dryRun.emptyable
             focus: visible
             onClicked: page.dryRun.finish()

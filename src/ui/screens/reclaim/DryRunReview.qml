@@ -57,7 +57,7 @@ FocusScope {
             anchors.margins: 1
             topMargin: 6
             bottomMargin: 6
-            name: review.dryRun.listName
+            name: qsTr("What will go")
             model: review.dryRun.rows
             delegate: DryRunRow {
                 ringed: list.ringed && ListView.isCurrentItem
@@ -83,7 +83,7 @@ FocusScope {
         anchors.verticalCenter: buttons.verticalCenter
         visible: review.dryRun.cleaning
         value: review.dryRun.share
-        name: review.dryRun.cleaningLabel
+        name: qsTr("Cleaning…")
         progress: review.dryRun.progress
     }
 
@@ -102,7 +102,7 @@ FocusScope {
         SecondaryButton {
             objectName: "cancelCleanup"
             anchors.verticalCenter: parent.verticalCenter
-            text: review.dryRun.cancelLabel
+            text: qsTr("Cancel")
             enabled: !review.dryRun.cleaning
             onClicked: review.dryRun.cancel()
         }
@@ -114,7 +114,7 @@ FocusScope {
             focus: true
             horizontalPadding: 20
             verticalPadding: 10
-            text: review.dryRun.cleaning ? review.dryRun.cleaningLabel : review.dryRun.confirmLabel
+            text: review.dryRun.cleaning ? qsTr("Cleaning…") : review.dryRun.confirmLabel
             alarming: review.dryRun.hardDelete
             enabled: review.dryRun.confirmable
             onClicked: review.dryRun.confirm()

@@ -81,7 +81,7 @@ Item {
 
             Words {
                 anchors.verticalCenter: parent.verticalCenter
-                text: head.items.ageLabel
+                text: qsTr("only inactive >")
                 size: 12
                 soft: true
             }
@@ -95,7 +95,7 @@ Item {
                 to: head.items.mostAgeDays
                 stepSize: 1
                 value: head.items.ageDays
-                label: head.items.ageLabel
+                label: qsTr("only inactive >")
                 valueText: head.items.ageText
                 onMoved: head.items.ageDays = Math.round(slider.value)
             }

@@ -22,40 +22,20 @@ ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent)
     refresh();
 }
 
-QString ItemList::name() const {
-    return QStringLiteral("Items");
-}
-
 QString ItemList::footer() const {
-    return QStringLiteral("%1 items selected").arg(tallies_.selected.items);
+    return tr("%1 items selected").arg(tallies_.selected.items);
 }
 
 QString ItemList::footerBytes() const {
     return byteFigure(tallies_.selected.bytes);
 }
 
-QString ItemList::cleanLabel() const {
-    return QStringLiteral("Clean selected");
-}
-
-QString ItemList::ageLabel() const {
-    return QStringLiteral("only inactive >");
-}
-
 QString ItemList::ageText() const {
-    return ageDays() > 0 ? QStringLiteral("%1 days").arg(ageDays()) : QStringLiteral("all");
+    return ageDays() > 0 ? tr("%1 days").arg(ageDays()) : tr("all");
 }
 
 QString ItemList::shownText() const {
-    return QStringLiteral("%1 of %2 shown").arg(tallies_.shown.items).arg(app_.reclaimables().size());
-}
-
-QString ItemList::youngTitle() const {
-    return QStringLiteral("Nothing that old");
-}
-
-QString ItemList::youngNote() const {
-    return QStringLiteral("Everything found was in use more recently. Move the slider to the left to see it.");
+    return tr("%1 of %2 shown").arg(tallies_.shown.items).arg(app_.reclaimables().size());
 }
 
 int ItemList::rowCount(const QModelIndex& parent) const {
@@ -97,8 +77,7 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
             return group.open ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
         case spokenRole:
             return Spoken::joined({displayText(category.displayName), figure(), wordOf(category.safety),
-                                   group.open ? QStringLiteral("expanded") : QStringLiteral("collapsed"),
-                                   displayText(category.note)});
+                                   group.open ? tr("expanded") : tr("collapsed"), displayText(category.note)});
         default:
             return QString();
     }
@@ -144,8 +123,7 @@ QHash<int, QByteArray> ItemList::roleNames() const {
 QString ItemList::lineOf(const Reclaimable& item) const {
     if (item.method.kind == ReclaimMethod::Kind::command) return displayText(methodSummary(item.method));
     const std::string& application = cleanup_.selection().conflictOf(item);
-    return application.empty() ? QString()
-                               : QStringLiteral("quit ") + displayText(application) + QStringLiteral(" to clear");
+    return application.empty() ? QString() : tr("quit %1 to clear").arg(displayText(application));
 }
 
 QString ItemList::ageOf(const Reclaimable& item) const {

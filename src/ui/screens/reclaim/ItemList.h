@@ -23,19 +23,14 @@ class ItemList : public zelk::EditedList {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")
-    Q_PROPERTY(QString name READ name CONSTANT FINAL)
     Q_PROPERTY(QString footer READ footer NOTIFY footerChanged FINAL)
     Q_PROPERTY(QString footerBytes READ footerBytes NOTIFY footerChanged FINAL)
     Q_PROPERTY(bool cleanable READ cleanable NOTIFY footerChanged FINAL)
-    Q_PROPERTY(QString cleanLabel READ cleanLabel CONSTANT FINAL)
-    Q_PROPERTY(QString ageLabel READ ageLabel CONSTANT FINAL)
     Q_PROPERTY(int ageDays READ ageDays WRITE setAgeDays NOTIFY ageChanged FINAL)
     Q_PROPERTY(int mostAgeDays READ mostAgeDays CONSTANT FINAL)
     Q_PROPERTY(QString ageText READ ageText NOTIFY ageChanged FINAL)
     Q_PROPERTY(QString shownText READ shownText NOTIFY footerChanged FINAL)
     Q_PROPERTY(bool allYoung READ allYoung NOTIFY footerChanged FINAL)
-    Q_PROPERTY(QString youngTitle READ youngTitle CONSTANT FINAL)
-    Q_PROPERTY(QString youngNote READ youngNote CONSTANT FINAL)
 
 public:
     enum Role {
@@ -57,12 +52,9 @@ public:
     /// Both must outlive it.
     ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent = nullptr);
 
-    QString name() const;
     QString footer() const;
     QString footerBytes() const;
     bool cleanable() const { return tallies_.selected.items > 0; }
-    QString cleanLabel() const;
-    QString ageLabel() const;
     int ageDays() const { return static_cast<int>(cleanup_.ageDays()); }
     void setAgeDays(int days) { cleanup_.setAgeDays(days); }
     int mostAgeDays() const { return 180; }
@@ -70,8 +62,6 @@ public:
     QString shownText() const;
     /// Nothing is shown, for the age filter alone.
     bool allYoung() const { return tallies_.shown.items == 0; }
-    QString youngTitle() const;
-    QString youngNote() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

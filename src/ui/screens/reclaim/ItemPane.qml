@@ -34,8 +34,8 @@ FocusScope {
         width: parent.width
         visible: pane.items.allYoung
         symbol: "clock.arrow.circlepath"
-        title: pane.items.youngTitle
-        note: pane.items.youngNote
+        title: qsTr("Nothing that old")
+        note: qsTr("Everything found was in use more recently. Move the slider to the left to see it.")
     }
 
     RowList {
@@ -48,7 +48,7 @@ FocusScope {
         topMargin: 8
         bottomMargin: 8
         focus: true
-        name: pane.items.name
+        name: qsTr("Items")
         model: pane.items
 
         Keys.onSpacePressed: event => list.tick(event.isAutoRepeat)
@@ -94,7 +94,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         line: pane.items.footer
         figure: pane.items.footerBytes
-        action: pane.items.cleanLabel
+        action: qsTr("Clean selected")
         ready: pane.items.cleanable
         onPressed: pane.items.clean()
     }

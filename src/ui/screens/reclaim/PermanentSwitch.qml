@@ -18,7 +18,7 @@ Item {
 
         objectName: "permanentSwitch"
         anchors.verticalCenter: parent.verticalCenter
-        text: place.dryRun.permanentLabel
+        text: qsTr("Delete permanently instead of moving to Trash — irreversible")
         labelled: false
         checked: place.dryRun.hardDelete
         enabled: place.dryRun.review
@@ -32,7 +32,7 @@ Item {
         anchors.leftMargin: 12
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        text: place.dryRun.permanentLabel
+        text: qsTr("Delete permanently instead of moving to Trash — irreversible")
         size: 12
         color: place.dryRun.hardDelete ? Theme.alertText : Theme.ink
         opacity: toggle.enabled ? 1 : 0.45

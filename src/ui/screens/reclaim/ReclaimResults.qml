@@ -54,9 +54,9 @@ FocusScope {
     EmptyState {
         anchors.fill: parent
         visible: results.module?.nothing ?? false
-        symbol: results.module?.nothingSymbol ?? ""
-        title: results.module?.nothingTitle ?? ""
-        note: results.module?.nothingNote ?? ""
+        symbol: "checkmark.seal"
+        title: qsTr("Clean drive")
+        note: qsTr("Nothing to reclaim right now.")
     }
 
     Loader {

@@ -11,10 +11,10 @@ namespace {
 
 ModuleTexts texts() {
     ModuleTexts texts;
-    texts.title = QStringLiteral("Reclaim");
-    texts.subtitle = QStringLiteral("Clear caches, logs, and developer junk — safely, to the Trash.");
-    texts.scanLabel = QStringLiteral("Scan for junk");
-    texts.scanningLabel = QStringLiteral("Looking for reclaimable junk…");
+    texts.title = ReclaimScreenModel::tr("Reclaim");
+    texts.subtitle = ReclaimScreenModel::tr("Clear caches, logs, and developer junk — safely, to the Trash.");
+    texts.scanLabel = ReclaimScreenModel::tr("Scan for junk");
+    texts.scanningLabel = ReclaimScreenModel::tr("Looking for reclaimable junk…");
     return texts;
 }
 
@@ -46,18 +46,6 @@ bool ReclaimScreenModel::byCategory() const {
 
 bool ReclaimScreenModel::byItem() const {
     return results() && !nothing() && app_.audience() == AppModel::Audience::developer;
-}
-
-QString ReclaimScreenModel::nothingTitle() const {
-    return QStringLiteral("Clean drive");
-}
-
-QString ReclaimScreenModel::nothingSymbol() const {
-    return QStringLiteral("checkmark.seal");
-}
-
-QString ReclaimScreenModel::nothingNote() const {
-    return QStringLiteral("Nothing to reclaim right now.");
 }
 
 void ReclaimScreenModel::setOnScreen(bool onScreen) {

@@ -22,9 +22,6 @@ class ReclaimScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(bool nothing READ nothing NOTIFY faceChanged FINAL)
     Q_PROPERTY(bool byCategory READ byCategory NOTIFY faceChanged FINAL)
     Q_PROPERTY(bool byItem READ byItem NOTIFY faceChanged FINAL)
-    Q_PROPERTY(QString nothingTitle READ nothingTitle CONSTANT FINAL)
-    Q_PROPERTY(QString nothingSymbol READ nothingSymbol CONSTANT FINAL)
-    Q_PROPERTY(QString nothingNote READ nothingNote CONSTANT FINAL)
     Q_PROPERTY(zelk::CategoryList* categories READ categories CONSTANT FINAL)
     Q_PROPERTY(zelk::ItemList* items READ items CONSTANT FINAL)
     Q_PROPERTY(zelk::SafetyGuide* guide READ guide CONSTANT FINAL)
@@ -39,9 +36,6 @@ public:
     bool nothing() const;
     bool byCategory() const;
     bool byItem() const;
-    QString nothingTitle() const;
-    QString nothingSymbol() const;
-    QString nothingNote() const;
     CategoryList* categories() { return &categories_; }
     ItemList* items() { return &items_; }
     SafetyGuide* guide() { return &guide_; }

@@ -12,13 +12,13 @@ namespace {
 QString meaningOf(ReclaimSafety safety) {
     switch (safety) {
         case ReclaimSafety::safe:
-            return QStringLiteral("Pure caches and logs. Zero risk — the app simply rebuilds them as needed.");
+            return SafetyGuide::tr("Pure caches and logs. Zero risk — the app simply rebuilds them as needed.");
         case ReclaimSafety::regenerates:
-            return QStringLiteral(
+            return SafetyGuide::tr(
                 "Build output like node_modules and build caches. Safe to delete; recreated automatically on your next "
                 "build or install (the first one is slower).");
         case ReclaimSafety::review:
-            return QStringLiteral(
+            return SafetyGuide::tr(
                 "May include things you chose to keep — device backups, virtual environments, saved state. Review "
                 "before removing; left unchecked by default.");
     }
@@ -28,11 +28,11 @@ QString meaningOf(ReclaimSafety safety) {
 }  // namespace
 
 QString SafetyGuide::title() const {
-    return QStringLiteral("What's safe to remove?");
+    return tr("What's safe to remove?");
 }
 
 QString SafetyGuide::closing() const {
-    return QStringLiteral("Everything moves to the Trash, so any removal is reversible until you empty it.");
+    return tr("Everything moves to the Trash, so any removal is reversible until you empty it.");
 }
 
 QString SafetyGuide::spoken() const {
