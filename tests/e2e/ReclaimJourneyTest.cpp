@@ -175,6 +175,14 @@ TEST_F(Reclaiming, whatFailsIsCountedAsSkipped) {
     click("confirmCleanup");
     untilDone();
     EXPECT_EQ(textOf(window(), "cleanupResult"), "4 MB · 1 item · 2 skipped");
+    EXPECT_EQ(control(window(), "skippedList"), nullptr);
+    EXPECT_EQ(textOf(window(), "showSkipped"), "Show what was skipped");
+    click("showSkipped");
+    ASSERT_NE(control(window(), "skippedList"), nullptr);
+    EXPECT_EQ(control(window(), "skippedList")->property("count").toInt(), 2);
+    EXPECT_EQ(textOf(window(), "showSkipped"), "Hide what was skipped");
+    click("showSkipped");
+    EXPECT_EQ(control(window(), "skippedList"), nullptr);
     click("keepInTrash");
     untilSurveyed(2);
 }

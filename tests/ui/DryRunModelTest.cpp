@@ -255,6 +255,21 @@ TEST_F(DryRun, whatFailedIsToldAsSkipped) {
     EXPECT_EQ(sheet().result().toStdString(), "50 MB · 2 items · 1 skipped");
 }
 
+TEST_F(DryRun, tellsEachSkippedItemWithItsReason) {
+    machine.files.failing = [](const auto& call) { return call.path == "/home/me/a/yarn"; };
+    open(three());
+    EXPECT_TRUE(sheet().skipped().isEmpty());
+    cleanNow();
+    ASSERT_EQ(sheet().skipped().size(), 1);
+    const QVariantMap skipped = sheet().skipped().front().toMap();
+    EXPECT_EQ(skipped.value("name").toString().toStdString(), "/home/me/a/yarn");
+    const auto failed = std::find_if(cleanup.lastResults().begin(), cleanup.lastResults().end(), [](const auto& one) {
+        return std::holds_alternative<Cleaner::Failed>(one.status);
+    });
+    EXPECT_EQ(skipped.value("reason").toString().toStdString(), std::get<Cleaner::Failed>(failed->status).error);
+    EXPECT_FALSE(skipped.value("reason").toString().isEmpty());
+}
+
 TEST_F(DryRun, aToolThatFailsIsToldAsSkipped) {
     machine.processes.outcome = [](const auto&) {
         ChildOutcome outcome;

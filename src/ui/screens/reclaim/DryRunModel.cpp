@@ -78,11 +78,20 @@ QString DryRunModel::result() const {
     return line;
 }
 
+QVariantList DryRunModel::skipped() const {
+    QVariantList all;
+    for (const Cleaner::Result& one : model_.lastResults()) {
+        if (const auto* failed = std::get_if<Cleaner::Failed>(&one.status))
+            all.append(QVariantMap{{QStringLiteral("name"), displayText(one.item.path)},
+                                   {QStringLiteral("reason"), displayText(failed->error)}});
+    }
+    return all;
+}
+
 QString DryRunModel::advice() const {
     return trashEmptied_ ? tr("The Trash was emptied. Your free space is now updated.")
-                         : tr(
-                               "Items were moved to the Trash, so they're recoverable — but your free "
-                               "space won't change until the Trash is emptied.");
+                         : tr("Items were moved to the Trash, so they're recoverable — but your free "
+                              "space won't change until the Trash is emptied.");
 }
 
 QString DryRunModel::emptyLabel() const {

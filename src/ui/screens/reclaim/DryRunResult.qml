@@ -13,6 +13,9 @@ FocusScope {
     required property DryRunModel dryRun
     readonly property T.AbstractButton primary: page.dryRun.emptyable ? keep : done
 
+    readonly property var skipped: page.dryRun.skipped
+    property bool unfolded: false
+
     implicitHeight: column.implicitHeight + 24 + Math.max(keep.implicitHeight, empty.implicitHeight)
 
     Column {
@@ -53,6 +56,23 @@ FocusScope {
             font.weight: Font.Medium
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
+        }
+
+        LinkButton {
+            objectName: "showSkipped"
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: page.unfolded ? qsTr("Hide what was skipped") : qsTr("Show what was skipped")
+            visible: page.skipped.length > 0
+            onClicked: page.unfolded = !page.unfolded
+        }
+
+        SkippedList {
+            objectName: "skippedList"
+            width: parent.width
+            height: Math.min(contentHeight, 132)
+            skipped: page.skipped
+            visible: page.unfolded
+            enabled: visible
         }
 
         Words {
