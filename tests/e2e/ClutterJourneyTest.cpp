@@ -11,6 +11,7 @@
 #include "fakes/ClutterHome.h"
 #include "fakes/TrashContent.h"
 #include "platform/NativePlatform.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -49,6 +50,11 @@ protected:
         return figures;
     }
 };
+
+/// What the entry of a file's menu is called that shows the file in its folder.
+const char* reveal() {
+    return SystemTexts::wording(SystemTexts::RevealFile, SystemTexts::shown());
+}
 
 }  // namespace
 
@@ -163,17 +169,17 @@ TEST_F(ClutterJourney, theRightButtonOpensTheMenuWhereItIsPressed) {
         const QQuickItem* words = showing(QString::fromLatin1(name));
         const QPointF pressed = words->mapToScene(words->boundingRect().center());
         rightClickMiddle(window(), words);
-        runUntil([&] { return menuEntry(window(), "Reveal in Finder") != nullptr; });
-        const QPointF menu = menuEntry(window(), "Reveal in Finder")->mapToScene({});
+        runUntil([&] { return menuEntry(window(), reveal()) != nullptr; });
+        const QPointF menu = menuEntry(window(), reveal())->mapToScene({});
         EXPECT_NEAR(menu.x(), pressed.x(), 16) << name;
         EXPECT_NEAR(menu.y(), pressed.y(), 16) << name;
     };
-    const auto untilClosed = [&] { runUntil([&] { return menuEntry(window(), "Reveal in Finder") == nullptr; }); };
+    const auto untilClosed = [&] { runUntil([&] { return menuEntry(window(), reveal()) == nullptr; }); };
     openAt("backup.zip");
     press(Qt::Key_Escape);
     untilClosed();
     openAt("setup.iso");
-    clickMiddle(window(), menuEntry(window(), "Reveal in Finder"));
+    clickMiddle(window(), menuEntry(window(), reveal()));
     untilClosed();
     EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/media/setup.iso"}));
     openAt("backup.zip");

@@ -10,6 +10,7 @@
 #include "ShellFixture.h"
 #include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/theme/ScreenLook.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -169,7 +170,7 @@ TEST_F(StateWalk, theTrashThatMayNotBeRead) {
     shell();
     survey();
     runUntil([&] { return !model().trashAccessible(); });
-    ASSERT_TRUE(shows(QStringLiteral("Full Disk Access needed to read the Trash")));
+    ASSERT_TRUE(shows(SystemTexts::of(SystemTexts::TrashLocked)));
     inEverySize("the Trash without access", [this](const std::string& where) { scrollThrough(where); });
 }
 
@@ -186,7 +187,7 @@ TEST_F(StateWalk, theFirstRun) {
         press(Qt::Key_Return);
         runWhatIsThere();
     }
-    runUntil([&] { return find("openSettingsButton") != nullptr; });
+    runUntil([&] { return find("continueButton") != nullptr; });
     inEverySize("the panel that asks for access");
 }
 

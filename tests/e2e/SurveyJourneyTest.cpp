@@ -9,6 +9,7 @@
 #include "state/AppModelFixture.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/shell/MainWindow.h"
+#include "ui/theme/DisplayText.h"
 #include "ui/theme/Motion.h"
 
 namespace zelk {
@@ -71,7 +72,7 @@ TEST_F(Journey, aPressOnTheButtonSurveysAndEndsWithWhatIsRecoverable) {
     EXPECT_NE(findControl(window(), cancelButton), nullptr);
     machine.directories.release();
     untilFinished();
-    runUntil([&] { return screen().finishedFace().title == QStringLiteral("60 MB"); });
+    runUntil([&] { return screen().recoverable() == QStringLiteral("60 MB"); });
     EXPECT_EQ(findControl(window(), cancelButton), nullptr);
 }
 
@@ -179,7 +180,7 @@ TEST(RealJourney, aRealFolderIsSurveyedThroughTheWindow) {
         pressKey(main.window(), Qt::Key_Return);
         runUntil([&] { return model.scanPhase() == AppModel::ScanPhase::finished; });
         EXPECT_GE(model.reclaimableBytes(), 100'000);
-        runUntil([&] { return main.survey().finishedFace() == ScanFace::finished(model.reclaimableBytes()); });
+        runUntil([&] { return main.survey().recoverable() == byteFigure(model.reclaimableBytes()); });
     }
     EXPECT_TRUE(native.drain(60));
 }

@@ -36,17 +36,6 @@ FolderChanges threeKinds() {
 
 }  // namespace
 
-TEST(Changes, theFixedTextsAreExact) {
-    const ChangesModel changes;
-    const std::pair<QString, const char*> table[] = {
-        {changes.title(), "What changed"},
-        {changes.subtitle(), "since your previous survey"},
-        {changes.doneLabel(), "Done"},
-        {changes.emptyLine(), "No notable folder changes since the last survey."},
-    };
-    for (const auto& [said, expected] : table) EXPECT_EQ(said.toStdString(), expected);
-}
-
 TEST(Changes, threeSectionsInOrderEachWithItsCount) {
     ChangesModel changes;
     changes.show(threeKinds());

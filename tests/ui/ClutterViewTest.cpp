@@ -6,6 +6,7 @@
 #include "ViewFixture.h"
 #include "fakes/ClutterHome.h"
 #include "ui/screens/clutter/ClutterScreenModel.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -79,7 +80,7 @@ TEST_F(ClutterWindow, offersToShowAFileOrToRemoveIt) {
     open();
     tabToTheList();
     openMenuByKey();
-    EXPECT_EQ(find("revealFile")->property("text").toString().toStdString(), "Reveal in Finder");
+    EXPECT_EQ(find("revealFile")->property("text").toString(), SystemTexts::of(SystemTexts::RevealFile));
     EXPECT_EQ(find("trashFile")->property("text").toString().toStdString(), "Move to Trash");
 }
 
@@ -187,7 +188,7 @@ TEST_F(ClutterWindow, enterOpensTheMenuOfTheRow) {
     tabToTheList();
     press(Qt::Key_Down);
     openMenuByKey();
-    EXPECT_THAT(seenTexts(), Contains("Reveal in Finder"));
+    EXPECT_THAT(seenTexts(), Contains(SystemTexts::of(SystemTexts::RevealFile).toStdString()));
     EXPECT_THAT(seenTexts(), Contains("Move to Trash"));
     EXPECT_EQ(words("Move to Trash")->property("color").value<QColor>(), singleton<Theme>("Theme").alertText());
     press(Qt::Key_Return);

@@ -46,17 +46,6 @@ private:
 
 }  // namespace
 
-TEST_F(Findings, theFixedTextsAreExact) {
-    const std::pair<QString, const char*> table[] = {
-        {findings().heading(), "Findings"},
-        {findings().reviewLabel(), "Review  →"},
-        {findings().storageHeading(), "Scanned storage"},
-        {findings().largestHeading(), "Largest files"},
-        {findings().seeAllLabel(), "See all"},
-    };
-    for (const auto& [said, expected] : table) EXPECT_EQ(said.toStdString(), expected);
-}
-
 TEST_F(Findings, theHeadlineTellsWhatCanBeReclaimed) {
     fillHome();
     surveyOf({});

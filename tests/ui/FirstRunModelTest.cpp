@@ -210,16 +210,4 @@ TEST_F(FirstRun, theDoneSignalComesOncePerEnd) {
     EXPECT_EQ(looks, 1);
 }
 
-TEST_F(FirstRun, thePanelSaysEveryTextToTheLetter) {
-    const AccessPanelModel& panel = *model().access();
-    EXPECT_EQ(panel.symbol().toStdString(), "lock.open.display");
-    EXPECT_EQ(panel.title().toStdString(), "Zelk needs Full Disk Access");
-    ASSERT_EQ(panel.lines().size(), 2);
-    EXPECT_EQ(panel.lines()[0].toStdString(), "to survey your whole drive.");
-    EXPECT_EQ(panel.lines()[1].toStdString(), "Open Settings → drag Zelk in → come back.");
-    EXPECT_EQ(panel.settingsLabel().toStdString(), "Open Settings");
-    EXPECT_EQ(panel.waitingLine().toStdString(), "waiting for access…");
-    EXPECT_EQ(panel.continueLabel().toStdString(), "Continue without it");
-}
-
 }  // namespace zelk

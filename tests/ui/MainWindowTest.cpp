@@ -11,6 +11,7 @@
 #include "state/AppModelFixture.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
+#include "ui/theme/SystemTexts.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
@@ -70,6 +71,8 @@ protected:
         return names;
     }
 
+    /// What the scan button is called before a survey.
+    static std::string scanName() { return "Scan " + SystemTexts::of(SystemTexts::WholeComputer).toStdString(); }
     std::string focusName() {
         QAccessibleInterface* control = QAccessible::queryAccessibleInterface(window().activeFocusItem());
         return control == nullptr ? std::string() : control->text(QAccessible::Name).toStdString();
@@ -178,8 +181,8 @@ TEST_F(Window, givesTheScanButtonTheKeyboard) {
 
 TEST_F(Window, tabGoesFromTheButtonToTheFeatures) {
     shown();
-    EXPECT_EQ(tabOrder(), (std::vector<std::string>{"Scan your whole Mac", "Reclaim junk", "Find duplicates",
-                                                    "Largest files", "Visual map"}));
+    EXPECT_EQ(tabOrder(),
+              (std::vector<std::string>{scanName(), "Reclaim junk", "Find duplicates", "Largest files", "Visual map"}));
 }
 
 TEST_F(Window, tabGoesFromTheButtonToCancelDuringASurvey) {
@@ -221,7 +224,7 @@ TEST_F(Window, keepsTheKeyboardOnTheButtonWhenTheFocusedControlGoes) {
     EXPECT_EQ(focusName(), "cancel");
     pressKey(window(), Qt::Key_Space);
     EXPECT_EQ(model().scanPhase(), Phase::idle);
-    EXPECT_EQ(focusName(), "Scan your whole Mac");
+    EXPECT_EQ(focusName(), scanName());
     EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool()) << "the keyboard must stay in sight";
 }
 
@@ -233,7 +236,7 @@ TEST_F(Window, showsNoRingToWhoUsesTheMouse) {
     window().grabWindow();  // lays out what the phase brought
     ASSERT_TRUE(tour::clickOn(window(), QStringLiteral("cancelButton")));
     EXPECT_EQ(model().scanPhase(), Phase::idle);
-    EXPECT_EQ(focusName(), "Scan your whole Mac");
+    EXPECT_EQ(focusName(), scanName());
     EXPECT_FALSE(window().activeFocusItem()->property("visualFocus").toBool());
 }
 

@@ -5,6 +5,7 @@
 
 #include <QSignalSpy>
 
+#include "TextsOf.h"
 #include "state/AppModelFixture.h"
 #include "ui/screens/module/SurveyedModule.h"
 #include "ui/screens/module/UnbuiltModules.h"
@@ -57,23 +58,14 @@ TEST(ModuleScreenModel, itsButtonRunsWhatTheModuleGave) {
     ModuleTexts texts;
     texts.scanLabel = QStringLiteral("Find duplicates");
     ModuleScreenModel module(Screen::duplicates, texts, [&] { ++runs; });
-    EXPECT_TRUE(module.scannable());
     module.scan();
     EXPECT_EQ(runs, 1);
     ModuleScreenModel idle(Screen::duplicates, {});
-    EXPECT_FALSE(idle.scannable());
     idle.scan();
 }
 
-TEST(ModuleScreenModel, anEmptyDetailTakesNoPlace) {
-    ModuleScreenModel module(Screen::apps, {});
-    module.setPhase(ModulePhase::scanning);
-    EXPECT_FALSE(module.detailed());
-    module.setScanDetail(QStringLiteral("3 of 9"));
-    EXPECT_TRUE(module.detailed());
-}
-
 TEST_F(Modules, saysWhatEachIsFor) {
+    const TextsOf mac(macOS);
     const auto expect = [&](Screen screen, const char* title, const char* subtitle) {
         EXPECT_EQ(module(screen)->title().toStdString(), title);
         EXPECT_EQ(module(screen)->subtitle().toStdString(), subtitle);
@@ -95,7 +87,7 @@ TEST_F(Modules, thatAreNotThereYetSaySoAndOfferNothing) {
     for (const Screen screen :
          {Screen::privacy, Screen::tune, Screen::apps, Screen::duplicates, Screen::health, Screen::system}) {
         const auto unbuilt = module(screen);
-        EXPECT_FALSE(unbuilt->scannable());
+        EXPECT_TRUE(unbuilt->scanLabel().isEmpty());
         EXPECT_EQ(unbuilt->note(), lookOf(screen).title + QStringLiteral(" is not in this version yet."));
         unbuilt->scan();
         EXPECT_EQ(model().scanPhase(), Phase::idle);

@@ -38,16 +38,16 @@ protected:
 
 TEST_F(QuitWindow, isADialogWithItsTitleItsNoteAndItsAnswers) {
     ask();
-    const auto texts = seenTexts();
-    for (const char* text : {"Something is still being removed", "Cancel", "Stop now", "Finish first"})
-        EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
-    EXPECT_EQ(find("quitNote")->property("text").toString(), question.note());
+    EXPECT_EQ(seenTexts(), (Names{"Below", "Something is still being removed",
+                                  "Finish first, and Zelk quits by itself when everything is removed. Stop now, and "
+                                  "what has begun is finished while the rest stays where it is.",
+                                  "Cancel", "Stop now", "Finish first"}));
     QQuickItem* inside = window().activeFocusItem();
     bool dialog = false;
     for (; inside != nullptr && !dialog; inside = inside->parentItem()) {
         QAccessibleInterface* said = QAccessible::queryAccessibleInterface(inside);
-        dialog =
-            said != nullptr && said->role() == QAccessible::Dialog && said->text(QAccessible::Name) == question.title();
+        dialog = said != nullptr && said->role() == QAccessible::Dialog &&
+                 said->text(QAccessible::Name) == QStringLiteral("Something is still being removed");
     }
     EXPECT_TRUE(dialog);
     expectAllControlsNamed();

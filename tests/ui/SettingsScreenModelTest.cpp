@@ -56,23 +56,6 @@ private:
 
 }  // namespace
 
-TEST_F(SettingsScreen, saysEveryTextToTheLetter) {
-    EXPECT_EQ(settings().symbol().toStdString(), "gearshape");
-    EXPECT_EQ(settings().tint(), QColor(152, 146, 168));
-    EXPECT_EQ(settings().title().toStdString(), "Settings");
-    EXPECT_EQ(settings().subtitle().toStdString(), "");
-    EXPECT_EQ(settings().rootsTitle().toStdString(), "Scan roots");
-    EXPECT_EQ(settings().addFolderLabel().toStdString(), "Add folder…");
-    EXPECT_EQ(settings().cleanupTitle().toStdString(), "Cleanup");
-    EXPECT_EQ(settings().hardDeleteLabel().toStdString(), "Delete permanently by default");
-    EXPECT_EQ(settings().hardDeleteNote().toStdString(), "Off keeps cleanup reversible (moves to Trash).");
-    EXPECT_EQ(settings().appearanceTitle().toStdString(), "Appearance");
-    EXPECT_EQ(settings().themeLabel().toStdString(), "Theme");
-    EXPECT_EQ(settings().themes(), (QStringList{"System", "Light", "Dark"}));
-    EXPECT_EQ(settings().rescanLabel().toStdString(), "Re-scan now");
-    EXPECT_FALSE(settings().noRootsLine().isEmpty());
-}
-
 TEST_F(SettingsScreen, showsTheValuesOfAStart) {
     EXPECT_EQ(settings().roots()->rowCount(), 1);
     EXPECT_EQ(path(0), "/home/me");

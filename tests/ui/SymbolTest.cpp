@@ -10,8 +10,6 @@
 
 #include "QtMessages.h"
 #include "ViewFixture.h"
-#include "ui/charts/ScanFace.h"
-#include "ui/screens/overview/FeatureList.h"
 #include "ui/shell/Application.h"
 #include "ui/theme/SymbolItem.h"
 
@@ -20,12 +18,6 @@ namespace zelk {
 namespace {
 
 class TextSymbol : public ViewFixture {};
-
-std::vector<QString> symbolsInUse() {
-    std::vector<QString> names{ScanFace::idle().symbol, QStringLiteral("internaldrive")};
-    for (const FeatureList::Feature& feature : FeatureList::features()) names.push_back(feature.symbol);
-    return names;
-}
 
 /// The names of all drawings there are.
 std::vector<QString> drawnSymbols() {
@@ -57,11 +49,6 @@ int covered(const QImage& image) {
 }
 
 }  // namespace
-
-TEST(Symbols, existForAllThatIsShown) {
-    for (const QString& name : symbolsInUse())
-        EXPECT_FALSE(tintedSymbol(name, Qt::red, 24).isNull()) << name.toStdString();
-}
 
 TEST(Symbols, shareOneGridAndOneStrokeWidth) {
     for (const QString& name : drawnSymbols()) {

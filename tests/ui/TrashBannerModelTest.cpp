@@ -5,6 +5,7 @@
 
 #include <QSignalSpy>
 
+#include "TextsOf.h"
 #include "state/AppModelFixture.h"
 #include "ui/theme/DisplayText.h"
 
@@ -29,6 +30,7 @@ protected:
     std::string figure() { return banner().figure().toStdString(); }
     std::string action() { return banner().action().toStdString(); }
 
+    const TextsOf texts{macOS};
     /// Set before the first call.
     bool showWhenEmpty = true;
 
@@ -37,10 +39,6 @@ private:
 };
 
 }  // namespace
-
-TEST_F(TrashBanner, isNamedTrash) {
-    EXPECT_EQ(banner().title(), QStringLiteral("Trash"));
-}
 
 TEST_F(TrashBanner, readsTheTrashWhenItComesOnScreen) {
     machine.trash.put("a", 7'000'000);
@@ -121,6 +119,14 @@ TEST_F(TrashBanner, withoutAccessAtTheFirstRefreshItAsksForItWhateverIsToBeShown
         EXPECT_EQ(one.figure(), QString()) << "a Trash that cannot be read is not one of zero bytes";
         EXPECT_EQ(one.action(), QStringLiteral("Grant Access"));
     }
+}
+
+TEST_F(TrashBanner, onLinuxItSaysWhoseTheTrashMayBeAndOffersToShowIt) {
+    const TextsOf here(desktopLinux);
+    machine.trash.setAccessible(false);
+    appearAndRead();
+    EXPECT_EQ(subtitle(), "not yours to read: see who owns its folder");
+    EXPECT_EQ(action(), "Show Folder");
 }
 
 TEST_F(TrashBanner, withoutAccessAKnownSizeIsNotShown) {

@@ -70,11 +70,6 @@ private:
 
 }  // namespace
 
-TEST_F(Trends, theFixedTextsAreExact) {
-    EXPECT_EQ(trends().heading(), QStringLiteral("Trends"));
-    EXPECT_EQ(trends().changesLabel(), QStringLiteral("What changed since last scan"));
-}
-
 TEST_F(Trends, areNotShownWithoutARecord) {
     EXPECT_FALSE(trends().shown());
     EXPECT_FALSE(trends().hasChanges());

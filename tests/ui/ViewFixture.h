@@ -106,7 +106,7 @@ protected:
         return names;
     }
 
-    /// All items that are seen, from the front of the tree to its leaves.
+    /// All items that are seen, each before its children, and those in their order.
     std::vector<QQuickItem*> seen() {
         std::vector<QQuickItem*> found;
         std::vector<QQuickItem*> pending{window_->contentItem()};
@@ -115,16 +115,20 @@ protected:
             pending.pop_back();
             if (!item->isVisible() || item->opacity() == 0) continue;
             found.push_back(item);
-            for (QQuickItem* child : item->childItems()) pending.push_back(child);
+            const QList<QQuickItem*> children = item->childItems();
+            for (auto child = children.rbegin(); child != children.rend(); ++child) pending.push_back(*child);
         }
         return found;
     }
 
-    /// The texts that are seen.
+    /// The texts that are seen, figures too, in the order in which a screen reader comes to them.
     std::vector<std::string> seenTexts() {
         std::vector<std::string> texts;
-        for (QQuickItem* item : seen())
-            if (item->inherits("QQuickText")) texts.push_back(item->property("text").toString().toStdString());
+        for (QQuickItem* item : seen()) {
+            const QString text = item->property("text").toString();
+            const bool isText = item->inherits("QQuickText") || item->inherits("zelk::FigureText");
+            if (isText && !text.isEmpty()) texts.push_back(text.toStdString());
+        }
         return texts;
     }
 

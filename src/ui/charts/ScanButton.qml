@@ -9,9 +9,9 @@ import Zelk.Controls
 BaseButton {
     id: button
 
-    required property scanFace idleFace
-    required property scanFace scanningFace
-    required property scanFace finishedFace
+    // Figures with their units: what has been read by now, and what can be taken back.
+    required property string scanned
+    required property string recoverable
     required property bool idle
     required property bool scanning
     required property bool finished
@@ -87,16 +87,24 @@ BaseButton {
         }
 
         ScanButtonFace {
-            face: button.idleFace
             shown: button.idle
+            symbol: "scope"
+            title: qsTr("Scan")
+            titleSize: 20
+            caption: SystemTexts.of(SystemTexts.WholeComputer)
         }
         ScanButtonFace {
-            face: button.scanningFace
             shown: button.scanning
+            title: button.scanned
+            titleSize: 26
+            caption: qsTr("scanning…")
         }
         ScanButtonFace {
-            face: button.finishedFace
             shown: button.finished
+            title: button.recoverable
+            titleSize: 28
+            caption: qsTr("recoverable")
+            hint: qsTr("re-run")
         }
     }
 

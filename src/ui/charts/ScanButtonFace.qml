@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
-// The lines inside the scan button in one phase. It fades in place of the face before it.
+// The lines inside the scan button in one phase; an empty one takes no place. It fades in place of the face before it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Charts
 import Zelk.Controls
 
 Column {
     id: lines
 
-    required property scanFace face
     required property bool shown
+    property string symbol: ""
+    required property string title
+    required property real titleSize
+    required property string caption
+    property string hint: ""
 
     // What the disc holds across: a longer line, or a larger text, makes all of them smaller.
     readonly property real room: 152
@@ -37,26 +40,26 @@ Column {
 
     SymbolItem {
         anchors.horizontalCenter: parent.horizontalCenter
-        name: lines.face.symbol
+        name: lines.symbol
         color: Theme.accentInk
-        size: lines.face.symbolSize
+        size: 34
         visible: name !== ""
     }
 
     FigureText {
         anchors.horizontalCenter: parent.horizontalCenter
-        text: lines.face.title
+        text: lines.title
         color: Theme.accentInk
-        pixelSize: lines.face.titleSize
+        pixelSize: lines.titleSize
         bold: true
     }
 
     Text {
         anchors.horizontalCenter: parent.horizontalCenter
-        text: lines.face.caption
+        text: lines.caption
         color: Theme.accentInk
         opacity: 0.8
-        font.pixelSize: Math.round(lines.face.captionSize * TextScale.factor)
+        font.pixelSize: Math.round(11 * TextScale.factor)
         font.weight: Font.Medium
         Accessible.ignored: true
     }
@@ -64,10 +67,10 @@ Column {
     Text {
         anchors.horizontalCenter: parent.horizontalCenter
         topPadding: 8
-        text: lines.face.hint
+        text: lines.hint
         color: Theme.accentInk
         opacity: 0.7
-        font.pixelSize: Math.round(lines.face.hintSize * TextScale.factor)
+        font.pixelSize: Math.round(10 * TextScale.factor)
         font.weight: Font.DemiBold
         visible: text !== ""
         Accessible.ignored: true

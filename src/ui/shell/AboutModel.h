@@ -2,46 +2,46 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
+#include <QList>
+#include <QObject>
 #include <QString>
-#include <vector>
 
 #include "platform/Vitals.h"
 #include "ui/shell/BundleInfo.h"
 
 namespace zelk {
 
+/// A line of the About window.
+struct AboutRow {
+    Q_GADGET
+    QML_VALUE_TYPE(aboutRow)
+    Q_PROPERTY(QString label MEMBER label FINAL)
+    Q_PROPERTY(QString value MEMBER value FINAL)
+
+public:
+    QString label;
+    QString value;
+
+    bool operator==(const AboutRow&) const = default;
+};
+
 /// All that the About window says: the name, and rows of a label and a value. Main thread.
-class AboutModel : public QAbstractListModel {
+class AboutModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
     Q_PROPERTY(QString name READ name CONSTANT FINAL)
-    Q_PROPERTY(QString symbol READ symbol CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::AboutRow> rows READ rows CONSTANT FINAL)
 
 public:
-    enum Role { labelRole = Qt::UserRole, valueRole };
-
-    struct Row {
-        QString label;
-        QString value;
-
-        bool operator==(const Row&) const = default;
-    };
-
     AboutModel(const BundleInfo& bundle, const DeviceInfo& device);
 
     const QString& name() const { return name_; }
-    QString symbol() const;
-    const std::vector<Row>& rows() const { return rows_; }
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    const QList<AboutRow>& rows() const { return rows_; }
 
 private:
     QString name_;
-    std::vector<Row> rows_;
+    QList<AboutRow> rows_;
 };
 
 }  // namespace zelk

@@ -27,7 +27,7 @@ Item {
 
             SymbolItem {
                 anchors.centerIn: parent
-                name: view.about.symbol
+                name: "internaldrive"
                 color: Theme.accentInk
                 size: 36
             }
@@ -45,25 +45,24 @@ Item {
         }
 
         Repeater {
-            model: view.about
+            model: view.about.rows
 
             Row {
                 id: row
 
-                required property string label
-                required property string value
+                required property aboutRow modelData
 
                 anchors.horizontalCenter: parent?.horizontalCenter
                 bottomPadding: 4
                 spacing: 8
 
                 Words {
-                    text: row.label
+                    text: row.modelData.label
                     size: 12
                     soft: true
                 }
                 Words {
-                    text: row.value
+                    text: row.modelData.value
                     size: 12
                     font.weight: Font.Medium
                 }

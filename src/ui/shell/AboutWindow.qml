@@ -9,7 +9,7 @@ SecondaryWindow {
 
     required property AboutModel about
 
-    title: "About Zelk"
+    title: qsTr("About Zelk")
     width: view.implicitWidth
     height: view.implicitHeight
     minimumWidth: view.implicitWidth

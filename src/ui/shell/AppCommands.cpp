@@ -34,16 +34,14 @@ AppCommands::AppCommands(AppModel& app, std::function<void(WindowId)> openWindow
     const auto add = [&](const QString& title, std::vector<Command> commands) {
         menus_.push_back(std::make_unique<CommandMenu>(title, std::move(commands)));
     };
-    add(QStringLiteral("Zelk"), {{QStringLiteral("About Zelk"), {}, opens(WindowId::about), Command::Part::about},
-                                 {QStringLiteral("Settings…"), QKeySequence(QStringLiteral("Ctrl+,")),
-                                  opens(WindowId::settings), Command::Part::settings, true},
-                                 {QStringLiteral("Quit Zelk"), QKeySequence(QStringLiteral("Ctrl+Q")), std::move(quit),
-                                  Command::Part::quit, true}});
-    add(QStringLiteral("File"),
-        {{QStringLiteral("Run Survey"), QKeySequence(QStringLiteral("Ctrl+R")), [&app] { app.startScan(); }}});
-    add(QStringLiteral("Go"), goCommands(app));
-    add(QStringLiteral("Help"),
-        {{QStringLiteral("Zelk Help"), QKeySequence(QStringLiteral("Ctrl+?")), opens(WindowId::help)}});
+    add(QStringLiteral("Zelk"),
+        {{tr("About Zelk"), {}, opens(WindowId::about), Command::Part::about},
+         {tr("Settings…"), QKeySequence(QStringLiteral("Ctrl+,")), opens(WindowId::settings), Command::Part::settings,
+          true},
+         {tr("Quit Zelk"), QKeySequence(QStringLiteral("Ctrl+Q")), std::move(quit), Command::Part::quit, true}});
+    add(tr("File"), {{tr("Run Survey"), QKeySequence(QStringLiteral("Ctrl+R")), [&app] { app.startScan(); }}});
+    add(tr("Go"), goCommands(app));
+    add(tr("Help"), {{tr("Zelk Help"), QKeySequence(QStringLiteral("Ctrl+?")), opens(WindowId::help)}});
 }
 
 AppCommands::~AppCommands() = default;
@@ -82,10 +80,6 @@ std::vector<const Command*> AppCommands::withShortcut() const {
         for (const Command& command : menu->commands())
             if (!command.shortcut.isEmpty()) commands.push_back(&command);
     return commands;
-}
-
-QString AppCommands::barName() const {
-    return QStringLiteral("Menu bar");
 }
 
 }  // namespace zelk

@@ -25,7 +25,6 @@ class AppCommands : public QObject {
     QML_UNCREATABLE("Made by the main window")
     Q_PROPERTY(QVariantList menus READ menusForViews CONSTANT FINAL)
     Q_PROPERTY(QStringList shortcuts READ shortcuts CONSTANT FINAL)
-    Q_PROPERTY(QString barName READ barName CONSTANT FINAL)
 
 public:
     /// `app` must outlive it. `openWindow` brings a window forward, `quit` ends the application. While `busy`,
@@ -41,8 +40,6 @@ public:
     /// The keys of all entries that have one, as the toolkit writes them.
     QStringList shortcuts() const;
     void run(const Command& command) const;
-    /// What a screen reader says of the menu bar.
-    QString barName() const;
 
 public slots:
     /// Runs the entry that has the key at `place` in `shortcuts`.

@@ -22,7 +22,7 @@ Item {
         anchors.right: toggle.left
         anchors.rightMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        text: place.sidebar.developerLabel
+        text: qsTr("Developer view")
         size: 12
         soft: true
         mute: true
@@ -35,13 +35,13 @@ Item {
         objectName: "developerSwitch"
         x: place.sidebar.collapsed ? (place.width - width) / 2 : place.width - width - 8
         anchors.verticalCenter: parent.verticalCenter
-        text: place.sidebar.developerLabel
+        text: qsTr("Developer view")
         labelled: false
         checked: place.sidebar.developer
         onToggled: place.sidebar.developer = checked
 
         HelpTip {
-            text: place.sidebar.developerHelp
+            text: qsTr("Show developer-focused junk and per-item controls in Reclaim")
             control: toggle
         }
     }

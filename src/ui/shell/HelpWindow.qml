@@ -9,7 +9,7 @@ SecondaryWindow {
 
     required property HelpModel help
 
-    title: "Zelk Help"
+    title: qsTr("Zelk Help")
     width: 760
     height: 520
     minimumWidth: 520

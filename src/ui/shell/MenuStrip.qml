@@ -46,7 +46,7 @@ T.MenuBar {
     bottomPadding: 4
 
     Accessible.role: Accessible.MenuBar
-    Accessible.name: bar.commands.barName
+    Accessible.name: qsTr("Menu bar")
 
     delegate: MenuTitle {}
 

@@ -33,27 +33,10 @@ bool QuitQuestion::endSession(bool mayAsk) {
     return mayAsk;
 }
 
-QString QuitQuestion::title() const {
-    return QStringLiteral("Something is still being removed");
-}
-
 QString QuitQuestion::note() const {
-    return stopping() ? QStringLiteral("Nothing more begins. Zelk quits as soon as what has begun is finished.")
-                      : QStringLiteral(
-                            "Finish first, and Zelk quits by itself when everything is removed. Stop now, and what "
-                            "has begun is finished while the rest stays where it is.");
-}
-
-QString QuitQuestion::cancelLabel() const {
-    return QStringLiteral("Cancel");
-}
-
-QString QuitQuestion::stopLabel() const {
-    return QStringLiteral("Stop now");
-}
-
-QString QuitQuestion::finishLabel() const {
-    return QStringLiteral("Finish first");
+    return stopping() ? tr("Nothing more begins. Zelk quits as soon as what has begun is finished.")
+                      : tr("Finish first, and Zelk quits by itself when everything is removed. Stop now, and what "
+                           "has begun is finished while the rest stays where it is.");
 }
 
 void QuitQuestion::cancel() {

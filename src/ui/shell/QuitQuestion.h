@@ -21,11 +21,7 @@ class QuitQuestion : public QObject {
     Q_PROPERTY(bool shown READ shown NOTIFY changed FINAL)
     Q_PROPERTY(bool asking READ asking NOTIFY changed FINAL)
     Q_PROPERTY(bool stopping READ stopping NOTIFY changed FINAL)
-    Q_PROPERTY(QString title READ title CONSTANT FINAL)
     Q_PROPERTY(QString note READ note NOTIFY changed FINAL)
-    Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT FINAL)
-    Q_PROPERTY(QString stopLabel READ stopLabel CONSTANT FINAL)
-    Q_PROPERTY(QString finishLabel READ finishLabel CONSTANT FINAL)
 
 public:
     /// `removals` must outlive it; `quit` ends the application.
@@ -46,11 +42,7 @@ public:
     bool shown() const { return asking() || stopping(); }
     bool asking() const { return way_ == Way::asking; }
     bool stopping() const { return way_ == Way::stopping; }
-    QString title() const;
     QString note() const;
-    QString cancelLabel() const;
-    QString stopLabel() const;
-    QString finishLabel() const;
 
 public slots:
     // The answers. Each does nothing while nothing is asked.

@@ -11,7 +11,7 @@ Sheet {
 
     required property QuitQuestion question
 
-    title: sheet.question.title
+    title: qsTr("Something is still being removed")
     primary: finishButton
     closable: sheet.question.asking
     sheetWidth: Math.round(460 * TextScale.factor)
@@ -30,7 +30,7 @@ Sheet {
 
             Words {
                 width: parent.width
-                text: sheet.question.title
+                text: sheet.title
                 size: 17
                 font.weight: Font.DemiBold
                 wrapMode: Text.WordWrap
@@ -64,7 +64,7 @@ Sheet {
                 SecondaryButton {
                     objectName: "cancelQuit"
                     anchors.verticalCenter: parent.verticalCenter
-                    text: sheet.question.cancelLabel
+                    text: qsTr("Cancel")
                     enabled: sheet.question.asking
                     onClicked: sheet.question.cancel()
                 }
@@ -72,7 +72,7 @@ Sheet {
                 SecondaryButton {
                     objectName: "stopNow"
                     anchors.verticalCenter: parent.verticalCenter
-                    text: sheet.question.stopLabel
+                    text: qsTr("Stop now")
                     enabled: sheet.question.asking
                     onClicked: sheet.question.stopNow()
                 }
@@ -84,7 +84,7 @@ Sheet {
                     horizontalPadding: 20
                     verticalPadding: 10
                     focus: true
-                    text: sheet.question.finishLabel
+                    text: qsTr("Finish first")
                     enabled: sheet.question.asking
                     onClicked: sheet.question.finishFirst()
                 }

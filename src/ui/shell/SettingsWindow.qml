@@ -9,7 +9,7 @@ SecondaryWindow {
 
     required property SettingsScreenModel settings
 
-    title: window.settings.title
+    title: qsTr("Settings")
     width: 460
     height: 360
     minimumWidth: 460

@@ -20,7 +20,7 @@ FocusScope {
     clip: true
 
     Accessible.role: Accessible.PageTabList
-    Accessible.name: bar.sidebar.accessibleName
+    Accessible.name: qsTr("Modules")
 
     Behavior on implicitWidth {
         NumberAnimation {

@@ -36,7 +36,7 @@ Item {
         anchors.leftMargin: 10
         anchors.right: collapse.left
         anchors.verticalCenter: mark.verticalCenter
-        text: head.sidebar.appName
+        text: "Zelk"
         size: 17
         font.weight: Font.DemiBold
         visible: !head.sidebar.collapsed
@@ -48,9 +48,9 @@ Item {
         objectName: "collapseButton"
         x: head.sidebar.collapsed ? (head.width - width) / 2 : head.width - width - 12
         y: head.sidebar.collapsed ? mark.y + mark.height + 8 : mark.y + (mark.height - height) / 2
-        symbol: head.sidebar.collapseSymbol
-        text: head.sidebar.collapseHelp
-        help: head.sidebar.collapseHelp
+        symbol: "sidebar.left"
+        text: head.sidebar.collapsed ? qsTr("Expand sidebar") : qsTr("Collapse sidebar")
+        help: text
         onClicked: head.sidebar.toggleCollapsed()
     }
 }

@@ -20,31 +20,10 @@ SidebarModel::SidebarModel(AppModel& app) : app_(app), modules_(app, sidebarGrou
     connect(&app, &AppModel::audienceChanged, this, &SidebarModel::developerChanged);
 }
 
-QString SidebarModel::appName() const {
-    return QStringLiteral("Zelk");
-}
-QString SidebarModel::accessibleName() const {
-    return QStringLiteral("Modules");
-}
-
 void SidebarModel::setCollapsed(bool collapsed) {
     if (collapsed == collapsed_) return;
     collapsed_ = collapsed;
     emit collapsedChanged();
-}
-
-QString SidebarModel::collapseHelp() const {
-    return collapsed_ ? QStringLiteral("Expand sidebar") : QStringLiteral("Collapse sidebar");
-}
-QString SidebarModel::collapseSymbol() const {
-    return QStringLiteral("sidebar.left");
-}
-
-QString SidebarModel::developerLabel() const {
-    return QStringLiteral("Developer view");
-}
-QString SidebarModel::developerHelp() const {
-    return QStringLiteral("Show developer-focused junk and per-item controls in Reclaim");
 }
 
 bool SidebarModel::developer() const {

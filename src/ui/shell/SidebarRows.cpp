@@ -9,9 +9,9 @@ namespace zelk {
 const std::vector<SidebarGroup>& sidebarGroups() {
     static const std::vector<SidebarGroup> groups{
         {"", {Screen::survey}},
-        {"Clean", {Screen::reclaim, Screen::privacy, Screen::tune}},
-        {"Manage", {Screen::apps, Screen::clutter, Screen::duplicates}},
-        {"Explore", {Screen::lens, Screen::health, Screen::system}},
+        {SidebarRows::tr("Clean"), {Screen::reclaim, Screen::privacy, Screen::tune}},
+        {SidebarRows::tr("Manage"), {Screen::apps, Screen::clutter, Screen::duplicates}},
+        {SidebarRows::tr("Explore"), {Screen::lens, Screen::health, Screen::system}},
     };
     return groups;
 }

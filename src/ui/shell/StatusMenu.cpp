@@ -32,18 +32,17 @@ std::vector<StatusEntry> StatusMenu::entries() const {
     const bool scanning = app_.scanPhase() == AppModel::ScanPhase::scanning;
     const bool finished = app_.scanPhase() == AppModel::ScanPhase::finished;
     std::vector<StatusEntry> entries;
-    entries.push_back({QStringLiteral("Free space: ") + byteFigure(app_.freeBytes()), {}});
+    entries.push_back({tr("Free space: %1").arg(byteFigure(app_.freeBytes())), {}});
     entries.push_back({});
-    entries.push_back({QStringLiteral("Open Zelk"), openZelk_});
+    entries.push_back({tr("Open Zelk"), openZelk_});
     if (scanning)
-        entries.push_back({QStringLiteral("Surveying… ") + byteFigure(app_.bytesScanned()), {}});
+        entries.push_back({tr("Surveying… %1").arg(byteFigure(app_.bytesScanned())), {}});
     else
-        entries.push_back({QStringLiteral("Run survey"), [this] { runSurvey(); }});
+        entries.push_back({tr("Run survey"), [this] { runSurvey(); }});
     if (const std::int64_t safe = app_.safeBytes(); finished && safe >= 1)
-        entries.push_back(
-            {QStringLiteral("Clean safe caches (") + byteFigure(safe) + u')', [this] { app_.cleanSafeCaches(); }});
+        entries.push_back({tr("Clean safe caches (%1)").arg(byteFigure(safe)), [this] { app_.cleanSafeCaches(); }});
     entries.push_back({});
-    entries.push_back({QStringLiteral("Quit Zelk"), quit_});
+    entries.push_back({tr("Quit Zelk"), quit_});
     return entries;
 }
 

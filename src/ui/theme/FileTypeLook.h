@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QString>
 
 #include "scan/FileType.h"
@@ -11,6 +12,9 @@ namespace zelk {
 
 /// How a type of files presents itself. Only the colour of what is of no other type follows the theme.
 struct FileTypeLook {
+    Q_DECLARE_TR_FUNCTIONS(FileTypeLook)
+
+public:
     QString name;
     QColor color;
     QString symbol;

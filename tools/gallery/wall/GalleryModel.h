@@ -7,7 +7,6 @@
 
 #include "ui/charts/BubbleModel.h"
 #include "ui/charts/RibbonPicture.h"
-#include "ui/charts/ScanFace.h"
 #include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/screens/overview/DeviceFace.h"
 
@@ -27,9 +26,6 @@ class GalleryModel : public QObject {
     Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
     Q_PROPERTY(zelk::BubbleModel* plainBubbles READ plainBubbles CONSTANT FINAL)
     Q_PROPERTY(zelk::BubbleModel* noBubbles READ noBubbles CONSTANT FINAL)
-    Q_PROPERTY(zelk::ScanFace idleFace READ idleFace CONSTANT FINAL)
-    Q_PROPERTY(zelk::ScanFace scanningFace READ scanningFace CONSTANT FINAL)
-    Q_PROPERTY(zelk::ScanFace finishedFace READ finishedFace CONSTANT FINAL)
     Q_PROPERTY(zelk::ModuleScreenModel* module READ module CONSTANT FINAL)
     Q_PROPERTY(zelk::ModuleScreenModel* silentModule READ silentModule CONSTANT FINAL)
 
@@ -52,9 +48,6 @@ public:
     QList<RibbonSegment> segments() const;
     qint64 freeBytes() const { return 212'400'000'000; }
     QList<qreal> history() const { return {3, 5, 4, 7, 7.5, 10, 9, 12, 15, 14.5, 17, 19, 18.5, 22}; }
-    ScanFace idleFace() const { return ScanFace::idle(); }
-    ScanFace scanningFace() const { return ScanFace::scanning(41'860'000'000); }
-    ScanFace finishedFace() const { return ScanFace::finished(41'860'000'000); }
 
 private:
     static void toggle(BubbleModel& model, const std::string& id);

@@ -15,9 +15,8 @@ Section {
 
     component Face: ScanButton {
         text: "Scan"
-        idleFace: section.figures.idleFace
-        scanningFace: section.figures.scanningFace
-        finishedFace: section.figures.finishedFace
+        scanned: "41.86 GB"
+        recoverable: "41.86 GB"
         idle: !scanning && !finished
         scanning: false
         finished: false

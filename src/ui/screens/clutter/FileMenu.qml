@@ -16,7 +16,7 @@ MenuPanel {
 
     MenuRow {
         objectName: "revealFile"
-        text: qsTr("Reveal in Finder")
+        text: SystemTexts.of(SystemTexts.RevealFile)
         symbol: "folder"
         onTriggered: fileMenu.clutter.reveal()
     }

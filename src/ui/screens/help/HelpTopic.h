@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
+#include <QCoreApplication>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <optional>
-#include <vector>
 
 #include "state/Screen.h"
 
@@ -13,7 +15,17 @@ namespace zelk {
 
 /// One page of the manual.
 struct HelpTopic {
-    int id;  ///< its place in the list, which never changes
+    Q_GADGET
+    QML_VALUE_TYPE(helpTopic)
+    Q_DECLARE_TR_FUNCTIONS(HelpTopic)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString lead MEMBER lead FINAL)
+    Q_PROPERTY(QStringList paragraphs MEMBER paragraphs FINAL)
+    Q_PROPERTY(QString symbol READ symbol FINAL)
+    Q_PROPERTY(QColor tint READ tint FINAL)
+
+public:
+    int id = 0;  ///< its place in the list, which never changes
     QString title;
     std::optional<Screen> screen;  ///< none where it speaks of the whole application
     QString lead;
@@ -21,10 +33,12 @@ struct HelpTopic {
 
     /// Its screen's, or those of a question where it has none.
     QString symbol() const;
-    QColor color() const;
+    QColor tint() const;
+
+    bool operator==(const HelpTopic&) const = default;
 };
 
-/// The manual, in order. The texts are the same on every system.
-const std::vector<HelpTopic>& helpTopics();
+/// The manual, in order.
+QList<HelpTopic> helpTopics();
 
 }  // namespace zelk

@@ -24,7 +24,7 @@ FocusScope {
     implicitHeight: column.implicitHeight
 
     Accessible.role: Accessible.List
-    Accessible.name: list.help.listName
+    Accessible.name: qsTr("Topics")
 
     Keys.onPressed: event => {
         event.accepted = true;
@@ -63,10 +63,11 @@ FocusScope {
         Repeater {
             id: topics
 
-            model: list.help
+            model: list.help.topics
 
             TopicRow {
                 width: column.width - 2 * column.padding
+                current: index === list.help.current
                 focus: current
                 onClicked: list.help.select(index)
             }

@@ -22,8 +22,8 @@ Item {
         spacing: 12
 
         Tile {
-            symbol: page.help.symbol
-            tint: page.help.tint
+            symbol: page.help.topic.symbol
+            tint: page.help.topic.tint
             side: 40
             symbolSize: 20
         }
@@ -31,7 +31,7 @@ Item {
         Words {
             width: parent.width
             topPadding: 8
-            text: page.help.title
+            text: page.help.topic.title
             size: 20
             font.weight: Font.DemiBold
             wrapMode: Text.Wrap
@@ -41,7 +41,7 @@ Item {
         Words {
             width: parent.width
             bottomPadding: 4
-            text: page.help.lead
+            text: page.help.topic.lead
             size: 15
             soft: true
             lineHeight: 1.3
@@ -49,7 +49,7 @@ Item {
         }
 
         Repeater {
-            model: page.help.paragraphs
+            model: page.help.topic.paragraphs
 
             Words {
                 required property string modelData

@@ -3,18 +3,17 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.App
 import Zelk.Controls
 
 BaseButton {
     id: row
 
     required property int index
-    required property string symbol
-    required property color tint
-    required property string title
-    required property bool current
+    required property helpTopic modelData
+    property bool current: false
 
-    text: row.title
+    text: row.modelData.title
     // (A stop cannot cease to be one while the keyboard is still there.)
     focusPolicy: row.current || row.activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     leftPadding: 12
@@ -29,7 +28,7 @@ BaseButton {
 
     background: Rectangle {
         radius: 8
-        color: row.current ? Qt.alpha(row.tint, 0.18) : "transparent"
+        color: row.current ? Qt.alpha(row.modelData.tint, 0.18) : "transparent"
 
         Wash {
             anchors.fill: parent
@@ -56,8 +55,8 @@ BaseButton {
             id: symbolItem
 
             anchors.verticalCenter: parent.verticalCenter
-            name: row.symbol
-            color: row.tint
+            name: row.modelData.symbol
+            color: row.modelData.tint
             size: 16
         }
 
@@ -68,7 +67,7 @@ BaseButton {
             anchors.leftMargin: 12
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            text: row.title
+            text: row.modelData.title
             size: 13
             font.weight: row.current ? Font.DemiBold : Font.Medium
             wrapMode: Text.Wrap

@@ -78,7 +78,7 @@ FocusScope {
                 anchors.horizontalCenter: parent.horizontalCenter
                 objectName: "moduleScanButton"
                 text: hero.module.scanLabel
-                visible: hero.module.scannable
+                visible: text !== ""
                 focus: true
                 onClicked: hero.module.scan()
             }
@@ -89,7 +89,7 @@ FocusScope {
                 text: hero.module.note
                 size: 12
                 soft: true
-                visible: hero.module.noted
+                visible: text !== ""
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
             }

@@ -38,7 +38,7 @@ Item {
             text: progress.module.scanDetail
             color: Theme.inkSoft
             pixelSize: 12
-            visible: progress.module.detailed
+            visible: text !== ""
         }
 
         Item {

@@ -26,15 +26,12 @@ class ModuleScreenModel : public QObject {
     Q_PROPERTY(QString symbol READ symbol CONSTANT FINAL)
     Q_PROPERTY(QColor tint READ tint CONSTANT FINAL)
     Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT FINAL)
-    Q_PROPERTY(bool scannable READ scannable CONSTANT FINAL)
     Q_PROPERTY(QString scanningLabel READ scanningLabel CONSTANT FINAL)
     Q_PROPERTY(QString note READ note CONSTANT FINAL)
-    Q_PROPERTY(bool noted READ noted CONSTANT FINAL)
     Q_PROPERTY(bool idle READ idle NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool results READ results NOTIFY phaseChanged FINAL)
     Q_PROPERTY(QString scanDetail READ scanDetail NOTIFY scanDetailChanged FINAL)
-    Q_PROPERTY(bool detailed READ detailed NOTIFY scanDetailChanged FINAL)
 
 public:
     /// A text without a title takes the screen's.
@@ -47,10 +44,8 @@ public:
     QString symbol() const;
     QColor tint() const;
     QString scanLabel() const { return texts_.scanLabel; }
-    bool scannable() const { return !texts_.scanLabel.isEmpty(); }
     QString scanningLabel() const { return texts_.scanningLabel; }
     QString note() const { return texts_.note; }
-    bool noted() const { return !texts_.note.isEmpty(); }
 
     ModulePhase phase() const { return phase_; }
     bool idle() const { return phase_ == ModulePhase::idle; }
@@ -60,7 +55,6 @@ public:
 
     /// How far it is, in one line; may be empty.
     const QString& scanDetail() const { return scanDetail_; }
-    bool detailed() const { return !scanDetail_.isEmpty(); }
     void setScanDetail(const QString& detail);
 
 public slots:

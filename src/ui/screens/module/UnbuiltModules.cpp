@@ -5,6 +5,7 @@
 #include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/ScreenLook.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -15,30 +16,35 @@ ModuleTexts introduced(Screen screen, const QString& title, const QString& subti
     ModuleTexts texts;
     texts.title = title;
     texts.subtitle = subtitle;
-    texts.note = lookOf(screen).title + QStringLiteral(" is not in this version yet.");
+    texts.note = ModuleScreenModel::tr("%1 is not in this version yet.").arg(lookOf(screen).title);
     return texts;
 }
 
 ModuleTexts textsOf(const AppModel& app, Screen screen) {
     switch (screen) {
         case Screen::privacy:
-            return introduced(screen, "Privacy",
-                              "Clear browsing traces across your browsers — caches, histories, cookies. No malware "
-                              "scanner (that needs a signature database).");
+            return introduced(screen, ModuleScreenModel::tr("Privacy"),
+                              ModuleScreenModel::tr(
+                                  "Clear browsing traces across your browsers — caches, histories, cookies. No malware "
+                                  "scanner (that needs a signature database)."));
         case Screen::apps:
-            return introduced(screen, "Apps",
-                              "List installed apps by size and uninstall them cleanly — the app plus its leftover "
-                              "caches, preferences, and support files.");
+            return introduced(screen, ModuleScreenModel::tr("Apps"),
+                              ModuleScreenModel::tr(
+                                  "List installed apps by size and uninstall them cleanly — the app plus its leftover "
+                                  "caches, preferences, and support files."));
         case Screen::duplicates:
-            return introduced(screen, "Duplicates",
-                              "Find byte-identical files — duplicate downloads, copied media, repeated exports — and "
-                              "keep just one.");
+            return introduced(
+                screen, ModuleScreenModel::tr("Duplicates"),
+                ModuleScreenModel::tr(
+                    "Find byte-identical files — duplicate downloads, copied media, repeated exports — and "
+                    "keep just one."));
         case Screen::tune:
-            return introduced(screen, "Tune", "startup & memory");
+            return introduced(screen, ModuleScreenModel::tr("Tune"), ModuleScreenModel::tr("startup & memory"));
         case Screen::health:
-            return introduced(screen, "Mac health", displayText(app.device().osVersion));
+            return introduced(screen, SystemTexts::of(SystemTexts::HealthTitle), displayText(app.device().osVersion));
         case Screen::system:
-            return introduced(screen, "System & snapshots", "what the treemap can't show");
+            return introduced(screen, ModuleScreenModel::tr("System & snapshots"),
+                              ModuleScreenModel::tr("what the treemap can't show"));
         default:
             return introduced(screen, lookOf(screen).title, lookOf(screen).subtitle);
     }

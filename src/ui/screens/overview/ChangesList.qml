@@ -21,7 +21,7 @@ ListView {
     highlightFollowsCurrentItem: false
 
     Accessible.role: Accessible.List
-    Accessible.name: list.changes.title
+    Accessible.name: qsTr("What changed")
 
     Keys.onUpPressed: list.flickBy(-48)
     Keys.onDownPressed: list.flickBy(48)

@@ -36,23 +36,17 @@ void ChangesModel::setTheme(const ZelkTheme& theme) {
     if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tintRole});
 }
 
-QString ChangesModel::title() const {
-    return QStringLiteral("What changed");
-}
-QString ChangesModel::subtitle() const {
-    return QStringLiteral("since your previous survey");
-}
-QString ChangesModel::doneLabel() const {
-    return QStringLiteral("Done");
-}
-QString ChangesModel::emptyLine() const {
-    return QStringLiteral("No notable folder changes since the last survey.");
-}
-
 QString ChangesModel::heading(Kind kind) const {
-    static const QString names[] = {QStringLiteral("Grew"), QStringLiteral("Appeared"), QStringLiteral("Vanished")};
     const auto count = std::count_if(rows_.begin(), rows_.end(), [kind](const Row& row) { return row.kind == kind; });
-    return QStringLiteral("%1 (%2)").arg(names[static_cast<int>(kind)]).arg(count);
+    switch (kind) {
+        case Kind::grew:
+            return tr("Grew (%1)").arg(count);
+        case Kind::appeared:
+            return tr("Appeared (%1)").arg(count);
+        case Kind::gone:
+            return tr("Vanished (%1)").arg(count);
+    }
+    return {};
 }
 
 bool ChangesModel::isFirst(int row) const {

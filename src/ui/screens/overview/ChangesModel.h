@@ -18,10 +18,6 @@ class ChangesModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of TrendsModel")
-    Q_PROPERTY(QString title READ title CONSTANT FINAL)
-    Q_PROPERTY(QString subtitle READ subtitle CONSTANT FINAL)
-    Q_PROPERTY(QString doneLabel READ doneLabel CONSTANT FINAL)
-    Q_PROPERTY(QString emptyLine READ emptyLine CONSTANT FINAL)
     Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
 
 public:
@@ -33,10 +29,6 @@ public:
     void show(const FolderChanges& changes);
     void setTheme(const ZelkTheme& theme);
 
-    QString title() const;
-    QString subtitle() const;
-    QString doneLabel() const;
-    QString emptyLine() const;
     bool empty() const { return rows_.empty(); }
 
     int rowCount(const QModelIndex& parent = {}) const override;

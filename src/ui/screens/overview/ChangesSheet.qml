@@ -11,7 +11,7 @@ Sheet {
 
     required property TrendsModel trends
 
-    title: sheet.trends.changes.title
+    title: qsTr("What changed")
     primary: done
     sheetWidth: 560
     sheetHeight: 520
@@ -31,7 +31,7 @@ Sheet {
 
             Words {
                 width: parent.width
-                text: sheet.trends.changes.title
+                text: sheet.title
                 size: 17
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
@@ -39,7 +39,7 @@ Sheet {
 
             Words {
                 width: parent.width
-                text: sheet.trends.changes.subtitle
+                text: qsTr("since your previous survey")
                 size: 11
                 soft: true
             }
@@ -54,7 +54,7 @@ Sheet {
             horizontalPadding: 20
             verticalPadding: 9
             focus: true
-            text: sheet.trends.changes.doneLabel
+            text: qsTr("Done")
             onClicked: sheet.trends.closeChanges()
         }
 
@@ -63,7 +63,7 @@ Sheet {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             visible: sheet.trends.changes.empty
-            text: sheet.trends.changes.emptyLine
+            text: qsTr("No notable folder changes since the last survey.")
             size: 13
             soft: true
         }

@@ -8,16 +8,15 @@
 namespace zelk {
 
 DeviceFace DeviceFace::of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume, const QLocale& locale) {
-    QStringList known{displayText(device.chip), QStringLiteral("%1 cores").arg(device.cores),
+    QStringList known{displayText(device.chip), tr("%1 cores").arg(device.cores),
                       QString::fromStdString(memoryText(device.memoryBytes)), displayText(device.osVersion)};
     known.removeAll(QString());
     DeviceFace face;
     face.name = displayText(device.computerName);
     face.detail = known.join(QStringLiteral("  ·  "));
     if (volume) {
-        face.hasVolume = true;
-        face.freeText = QStringLiteral("%1 free").arg(byteFigure(volume->available, locale));
-        face.totalText = QStringLiteral("of %1").arg(byteFigure(volume->total, locale));
+        face.freeText = tr("%1 free").arg(byteFigure(volume->available, locale));
+        face.totalText = tr("of %1").arg(byteFigure(volume->total, locale));
     }
     return face;
 }

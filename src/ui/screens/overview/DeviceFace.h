@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QCoreApplication>
 #include <QLocale>
 #include <QObject>
 #include <QString>
@@ -16,17 +17,16 @@ namespace zelk {
 struct DeviceFace {
     Q_GADGET
     QML_VALUE_TYPE(deviceFace)
+    Q_DECLARE_TR_FUNCTIONS(DeviceFace)
     Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
     Q_PROPERTY(QString detail MEMBER detail CONSTANT FINAL)
-    Q_PROPERTY(bool hasVolume MEMBER hasVolume CONSTANT FINAL)
     Q_PROPERTY(QString freeText MEMBER freeText CONSTANT FINAL)
     Q_PROPERTY(QString totalText MEMBER totalText CONSTANT FINAL)
 
 public:
     QString name;
-    QString detail;          ///< what is known of chip, cores, memory and system
-    bool hasVolume = false;  ///< else the two texts are empty
-    QString freeText;
+    QString detail;    ///< what is known of chip, cores, memory and system
+    QString freeText;  ///< empty, like the next, where nothing is known of the drive
     QString totalText;
 
     static DeviceFace of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume,

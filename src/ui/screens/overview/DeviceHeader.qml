@@ -68,8 +68,8 @@ Item {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        visible: header.device.hasVolume
-        width: header.device.hasVolume ? Math.max(free.implicitWidth, total.implicitWidth) : 0
+        visible: free.text !== ""
+        width: visible ? Math.max(free.implicitWidth, total.implicitWidth) : 0
         spacing: 3
 
         CountingText {

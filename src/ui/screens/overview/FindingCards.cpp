@@ -30,14 +30,14 @@ std::int64_t purgeableBytes(const AppModel& app) {
 
 std::vector<FindingCards::Card> cardsOf(const AppModel& app) {
     return {
-        {"sparkles", "Reclaim", byteFigure(app.reclaimableBytes()),
-         QStringLiteral("%1 items of junk").arg(app.reclaimables().size()), QColor(50, 199, 123), Screen::reclaim},
-        {"tray.full", "Clutter", byteFigure(largeFileBytes(app)),
-         QStringLiteral("%1 large files").arg(app.insights().topFiles.size()), QColor(34, 195, 201), Screen::clutter},
-        {"arrow.down.circle", "Downloads", byteFigure(downloadsBytes(app)), "review what landed here",
-         QColor(86, 194, 245), Screen::clutter},
-        {"internaldrive", "System", byteFigure(purgeableBytes(app)), "purgeable & snapshots", QColor(124, 131, 255),
-         Screen::system},
+        {"sparkles", FindingCards::tr("Reclaim"), byteFigure(app.reclaimableBytes()),
+         FindingCards::tr("%1 items of junk").arg(app.reclaimables().size()), QColor(50, 199, 123), Screen::reclaim},
+        {"tray.full", FindingCards::tr("Clutter"), byteFigure(largeFileBytes(app)),
+         FindingCards::tr("%1 large files").arg(app.insights().topFiles.size()), QColor(34, 195, 201), Screen::clutter},
+        {"arrow.down.circle", FindingCards::tr("Downloads"), byteFigure(downloadsBytes(app)),
+         FindingCards::tr("review what landed here"), QColor(86, 194, 245), Screen::clutter},
+        {"internaldrive", FindingCards::tr("System"), byteFigure(purgeableBytes(app)),
+         FindingCards::tr("purgeable & snapshots"), QColor(124, 131, 255), Screen::system},
     };
 }
 

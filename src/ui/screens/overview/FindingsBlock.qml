@@ -24,7 +24,7 @@ Column {
 
     Eyebrow {
         bottomPadding: -8
-        text: block.survey.findings.heading
+        text: qsTr("Findings")
         Accessible.role: Accessible.Heading
     }
 

@@ -20,8 +20,8 @@ std::int64_t scannedBytes(const AppModel& app) {
 
 QString unreadText(std::int64_t folders) {
     if (folders < 1) return {};
-    if (folders == 1) return QStringLiteral("1 folder could not be read.");
-    return QStringLiteral("%1 folders could not be read.").arg(groupedFigure(folders));
+    if (folders == 1) return FindingsModel::tr("1 folder could not be read.");
+    return FindingsModel::tr("%1 folders could not be read.").arg(groupedFigure(folders));
 }
 
 }  // namespace
@@ -37,22 +37,6 @@ void FindingsModel::setTheme(const ZelkTheme& theme) {
     theme_ = &theme;
     largest_.setTheme(theme);
     refresh();
-}
-
-QString FindingsModel::reviewLabel() const {
-    return QStringLiteral("Review  →");
-}
-QString FindingsModel::heading() const {
-    return QStringLiteral("Findings");
-}
-QString FindingsModel::storageHeading() const {
-    return QStringLiteral("Scanned storage");
-}
-QString FindingsModel::largestHeading() const {
-    return QStringLiteral("Largest files");
-}
-QString FindingsModel::seeAllLabel() const {
-    return QStringLiteral("See all");
 }
 
 void FindingsModel::review() {
@@ -78,17 +62,18 @@ void FindingsModel::headline() {
     const std::int64_t recoverable = app_.reclaimableBytes();
     reviewable_ = recoverable >= 1;
     if (!reviewable_) {
-        title_ = QStringLiteral("Clean drive");
+        title_ = tr("Clean drive");
         figure_.clear();
-        line_ = QStringLiteral("Nothing to reclaim right now — you scanned %1.").arg(byteFigure(scannedBytes(app_)));
+        line_ = tr("Nothing to reclaim right now — you scanned %1.").arg(byteFigure(scannedBytes(app_)));
         return;
     }
-    title_ = QStringLiteral("You can reclaim");
+    title_ = tr("You can reclaim");
     figure_ = byteFigure(recoverable);
-    line_ = QStringLiteral("across %1 items").arg(app_.reclaimables().size());
     const auto types = app_.sortedTypeTotals();
-    line_ += types.empty() ? QStringLiteral(".")
-                           : QStringLiteral(" · most space: ") + lookOf(types.front().first, *theme_).name;
+    const auto items = app_.reclaimables().size();
+    line_ = types.empty()
+                ? tr("across %1 items.").arg(items)
+                : tr("across %1 items · most space: %2").arg(items).arg(lookOf(types.front().first, *theme_).name);
 }
 
 QList<RibbonSegment> FindingsModel::readSegments() const {

@@ -25,13 +25,8 @@ class FindingsModel : public QObject {
     Q_PROPERTY(QString line READ line NOTIFY changed FINAL)
     Q_PROPERTY(QString unreadLine READ unreadLine NOTIFY changed FINAL)
     Q_PROPERTY(bool reviewable READ reviewable NOTIFY changed FINAL)
-    Q_PROPERTY(QString reviewLabel READ reviewLabel CONSTANT FINAL)
-    Q_PROPERTY(QString heading READ heading CONSTANT FINAL)
-    Q_PROPERTY(QString storageHeading READ storageHeading CONSTANT FINAL)
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments NOTIFY changed FINAL)
     Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed FINAL)
-    Q_PROPERTY(QString largestHeading READ largestHeading CONSTANT FINAL)
-    Q_PROPERTY(QString seeAllLabel READ seeAllLabel CONSTANT FINAL)
     Q_PROPERTY(zelk::FindingCards* cards READ cards CONSTANT FINAL)
     Q_PROPERTY(zelk::LargestFiles* largest READ largest CONSTANT FINAL)
 
@@ -49,14 +44,9 @@ public:
     const QString& unreadLine() const { return unreadLine_; }
     /// Whether there is anything to review.
     bool reviewable() const { return reviewable_; }
-    QString reviewLabel() const;
-    QString heading() const;
-    QString storageHeading() const;
     /// By type, the largest first.
     const QList<RibbonSegment>& segments() const { return segments_; }
     qint64 freeBytes() const { return freeBytes_; }
-    QString largestHeading() const;
-    QString seeAllLabel() const;
     FindingCards* cards() { return &cards_; }
     LargestFiles* largest() { return &largest_; }
 

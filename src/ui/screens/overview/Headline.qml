@@ -64,7 +64,7 @@ Item {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         visible: headline.findings.reviewable
-        text: headline.findings.reviewLabel
+        text: qsTr("Review  →")
         onClicked: headline.findings.review()
     }
 }

@@ -26,7 +26,7 @@ Card {
                 anchors.right: all.left
                 anchors.rightMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
-                text: card.findings.largestHeading
+                text: qsTr("Largest files")
                 size: 14
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
@@ -38,7 +38,7 @@ Card {
                 objectName: "seeAllButton"
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                text: card.findings.seeAllLabel
+                text: qsTr("See all")
                 onClicked: card.findings.seeAll()
             }
         }

@@ -18,7 +18,7 @@ Card {
         spacing: 14
 
         Eyebrow {
-            text: card.findings.storageHeading
+            text: qsTr("Scanned storage")
             Accessible.role: Accessible.Heading
         }
 

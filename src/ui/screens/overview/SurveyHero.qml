@@ -56,9 +56,8 @@ FocusScope {
             objectName: "scanButton"
             focus: true
             text: hero.survey.buttonName
-            idleFace: hero.survey.idleFace
-            scanningFace: hero.survey.scanningFace
-            finishedFace: hero.survey.finishedFace
+            scanned: hero.survey.scanned
+            recoverable: hero.survey.recoverable
             idle: hero.survey.idle
             scanning: hero.survey.scanning
             finished: hero.survey.finished
@@ -78,7 +77,7 @@ FocusScope {
                 spacing: 20
 
                 HeroText {
-                    text: hero.survey.idleLine
+                    text: qsTr("Scan every corner of your drive in seconds.")
                     size: 14
                 }
 
@@ -92,9 +91,11 @@ FocusScope {
 
                         PillButton {
                             required property int index
-                            required property string label
+                            required property feature modelData
 
-                            text: label
+                            text: modelData.label
+                            symbol: modelData.symbol
+                            tint: modelData.tint
                             onClicked: hero.survey.pressFeature(index)
                         }
                     }
@@ -132,7 +133,7 @@ FocusScope {
                 PlainButton {
                     anchors.horizontalCenter: parent.horizontalCenter
                     objectName: "cancelButton"
-                    text: hero.survey.cancelLabel
+                    text: qsTr("cancel")
                     onClicked: hero.survey.cancel()
                 }
             }
@@ -144,7 +145,7 @@ FocusScope {
                 spacing: 0
 
                 HeroText {
-                    text: hero.survey.finishedLine
+                    text: qsTr("Tap to scan again · details below")
                     size: 11
                 }
             }

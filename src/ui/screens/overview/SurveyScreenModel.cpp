@@ -6,6 +6,8 @@
 
 #include "state/AppModel.h"
 #include "ui/theme/DisplayText.h"
+#include "ui/theme/ScreenLook.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -18,8 +20,22 @@ constexpr double recoverableDuration = 0.9;  // seconds
 
 }  // namespace
 
+QColor Feature::tint() const {
+    return lookOf(screen).color;
+}
+
 SurveyScreenModel::SurveyScreenModel(AppModel& app, std::function<double()> now)
-    : app_(app), findings_(app), trash_(app, app.workspace(), true), trends_(app), now_(std::move(now)) {
+    : app_(app),
+      features_{
+          {QStringLiteral("sparkles"), tr("Reclaim junk"), Screen::reclaim},
+          {QStringLiteral("doc.on.doc"), tr("Find duplicates"), Screen::duplicates},
+          {QStringLiteral("tray.full"), tr("Largest files"), Screen::clutter},
+          {QStringLiteral("circle.hexagongrid"), tr("Visual map"), Screen::lens},
+      },
+      findings_(app),
+      trash_(app, app.workspace(), true),
+      trends_(app),
+      now_(std::move(now)) {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &SurveyScreenModel::tick);
     connect(&app, &AppModel::scanPhaseChanged, this, &SurveyScreenModel::enterPhase);
@@ -41,20 +57,9 @@ bool SurveyScreenModel::finished() const {
 }
 
 QString SurveyScreenModel::buttonName() const {
-    if (scanning()) return scanningFace_.caption;
-    if (idle()) return idleFace().title + u' ' + idleFace().caption;
-    const ScanFace face = ScanFace::finished(app_.reclaimableBytes());
-    return QStringLiteral("%1 %2, %3").arg(face.title, face.caption, face.hint);
-}
-
-QString SurveyScreenModel::idleLine() const {
-    return QStringLiteral("Scan every corner of your drive in seconds.");
-}
-QString SurveyScreenModel::cancelLabel() const {
-    return QStringLiteral("cancel");
-}
-QString SurveyScreenModel::finishedLine() const {
-    return QStringLiteral("Tap to scan again · details below");
+    if (scanning()) return tr("scanning…");
+    if (idle()) return tr("Scan %1").arg(SystemTexts::of(SystemTexts::WholeComputer));
+    return tr("%1 recoverable, re-run").arg(byteFigure(app_.reclaimableBytes()));
 }
 
 DeviceFace SurveyScreenModel::device() const {
@@ -89,9 +94,7 @@ void SurveyScreenModel::cancel() {
 }
 
 void SurveyScreenModel::pressFeature(int row) {
-    const auto& features = FeatureList::features();
-    if (row < 0 || static_cast<std::size_t>(row) >= features.size()) return;
-    app_.setSelection(features[static_cast<std::size_t>(row)].screen);
+    if (row >= 0 && row < features_.size()) app_.setSelection(features_[row].screen);
 }
 
 /// A new face is complete when it appears: its texts change before the phase does. The one that fades away keeps its
@@ -158,9 +161,9 @@ void SurveyScreenModel::tick() {
 
 void SurveyScreenModel::refresh() {
     const double time = now_();
-    scanningFace_ = ScanFace::scanning(bytes_.at(time));
-    finishedFace_ = ScanFace::finished(recoverable_.at(time));
-    itemsLine_ = QStringLiteral("%1 items").arg(groupedFigure(items_.at(time)));
+    scanned_ = byteFigure(bytes_.at(time));
+    recoverableText_ = byteFigure(recoverable_.at(time));
+    itemsLine_ = tr("%1 items").arg(groupedFigure(items_.at(time)));
     stale_ = !(items_.settled(time) && bytes_.settled(time) && recoverable_.settled(time));
     emit figuresChanged();
 }

@@ -2,15 +2,16 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QColor>
+#include <QList>
 #include <QObject>
 #include <QString>
 #include <QTimer>
 #include <functional>
 
-#include "ui/charts/ScanFace.h"
+#include "state/Screen.h"
 #include "ui/screens/overview/CountingFigure.h"
 #include "ui/screens/overview/DeviceFace.h"
-#include "ui/screens/overview/FeatureList.h"
 #include "ui/screens/overview/FindingsModel.h"
 #include "ui/screens/overview/TrashBannerModel.h"
 #include "ui/screens/overview/TrendsModel.h"
@@ -19,7 +20,25 @@ namespace zelk {
 
 class AppModel;
 
-/// All that the survey screen says. It owns no data: every text is made from the AppModel. A survey reports far more
+/// What a survey leads to, as it is offered before the first one.
+struct Feature {
+    Q_GADGET
+    QML_VALUE_TYPE(feature)
+    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
+    Q_PROPERTY(QString label MEMBER label FINAL)
+    Q_PROPERTY(QColor tint READ tint FINAL)
+
+public:
+    QString symbol;
+    QString label;
+    Screen screen{};
+
+    QColor tint() const;
+
+    bool operator==(const Feature&) const = default;
+};
+
+/// The figures of the survey screen. It owns no data: every text is made from the AppModel. A survey reports far more
 /// often than anyone can read, so while one runs the texts change a dozen times a second and no more. Main thread.
 class SurveyScreenModel : public QObject {
     Q_OBJECT
@@ -28,16 +47,12 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(bool idle READ idle NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool finished READ finished NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(zelk::ScanFace idleFace READ idleFace CONSTANT FINAL)
-    Q_PROPERTY(zelk::ScanFace scanningFace READ scanningFace NOTIFY figuresChanged FINAL)
-    Q_PROPERTY(zelk::ScanFace finishedFace READ finishedFace NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(QString scanned READ scanned NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(QString recoverable READ recoverable NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString buttonName READ buttonName NOTIFY buttonNameChanged FINAL)
-    Q_PROPERTY(QString idleLine READ idleLine CONSTANT FINAL)
     Q_PROPERTY(QString itemsLine READ itemsLine NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString pathLine READ pathLine NOTIFY figuresChanged FINAL)
-    Q_PROPERTY(QString cancelLabel READ cancelLabel CONSTANT FINAL)
-    Q_PROPERTY(QString finishedLine READ finishedLine CONSTANT FINAL)
-    Q_PROPERTY(zelk::FeatureList* features READ features CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::Feature> features READ features CONSTANT FINAL)
     Q_PROPERTY(zelk::DeviceFace device READ device NOTIFY deviceChanged FINAL)
     Q_PROPERTY(zelk::FindingsModel* findings READ findings CONSTANT FINAL)
     Q_PROPERTY(zelk::TrashBannerModel* trash READ trash CONSTANT FINAL)
@@ -52,18 +67,15 @@ public:
     bool scanning() const;
     bool finished() const;
 
-    ScanFace idleFace() const { return ScanFace::idle(); }
-    const ScanFace& scanningFace() const { return scanningFace_; }
-    const ScanFace& finishedFace() const { return finishedFace_; }
+    /// The bytes of the survey under way, and those that can be taken back, with their units.
+    const QString& scanned() const { return scanned_; }
+    const QString& recoverable() const { return recoverableText_; }
     /// What a screen reader says of the scan button: the figure itself, never one on the way to it.
     QString buttonName() const;
 
-    QString idleLine() const;
     const QString& itemsLine() const { return itemsLine_; }
     const QString& pathLine() const { return pathLine_; }
-    QString cancelLabel() const;
-    QString finishedLine() const;
-    FeatureList* features() { return &features_; }
+    const QList<Feature>& features() const { return features_; }
     DeviceFace device() const;
     FindingsModel* findings() { return &findings_; }
     TrashBannerModel* trash() { return &trash_; }
@@ -104,7 +116,7 @@ private:
     static double steadySeconds();
 
     AppModel& app_;
-    FeatureList features_;
+    const QList<Feature> features_;
     FindingsModel findings_;
     TrashBannerModel trash_;
     TrendsModel trends_;
@@ -116,8 +128,8 @@ private:
     CountingFigure items_;
     CountingFigure bytes_;
     CountingFigure recoverable_;
-    ScanFace scanningFace_;
-    ScanFace finishedFace_;
+    QString scanned_;
+    QString recoverableText_;
     QString itemsLine_;
     QString pathLine_;
 };

@@ -43,7 +43,7 @@ Item {
 
         Words {
             width: parent.width
-            text: banner.trash.title
+            text: qsTr("Trash")
             size: 13
             font.weight: Font.DemiBold
         }

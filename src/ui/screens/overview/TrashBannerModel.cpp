@@ -4,6 +4,7 @@
 #include "platform/Workspace.h"
 #include "state/AppModel.h"
 #include "ui/theme/DisplayText.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -16,16 +17,12 @@ bool TrashBannerModel::shown() const {
     return showWhenEmpty_ || !app_.trashAccessible() || app_.trashBytes() != 0;
 }
 
-QString TrashBannerModel::title() const {
-    return QStringLiteral("Trash");
-}
-
 QString TrashBannerModel::subtitle() const {
-    if (app_.emptyingTrash()) return QStringLiteral("emptying the Trash…");
-    if (app_.trashLoading() && app_.trashBytes() == 0 && app_.trashAccessible()) return QStringLiteral("reading…");
-    if (!app_.trashAccessible()) return QStringLiteral("Full Disk Access needed to read the Trash");
-    if (app_.trashBytes() < 1) return QStringLiteral("empty");
-    return QStringLiteral("free it by emptying the Trash");
+    if (app_.emptyingTrash()) return tr("emptying the Trash…");
+    if (app_.trashLoading() && app_.trashBytes() == 0 && app_.trashAccessible()) return tr("reading…");
+    if (!app_.trashAccessible()) return SystemTexts::of(SystemTexts::TrashLocked);
+    if (app_.trashBytes() < 1) return tr("empty");
+    return tr("free it by emptying the Trash");
 }
 
 bool TrashBannerModel::busy() const {
@@ -38,8 +35,8 @@ QString TrashBannerModel::figure() const {
 
 QString TrashBannerModel::action() const {
     if (app_.emptyingTrash()) return {};
-    if (!app_.trashAccessible()) return QStringLiteral("Grant Access");
-    return app_.trashBytes() >= 1 ? QStringLiteral("Empty") : QString();
+    if (!app_.trashAccessible()) return SystemTexts::of(SystemTexts::UnlockTrash);
+    return app_.trashBytes() >= 1 ? tr("Empty") : QString();
 }
 
 void TrashBannerModel::appear() {

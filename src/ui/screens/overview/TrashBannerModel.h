@@ -17,7 +17,6 @@ class TrashBannerModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Part of SurveyScreenModel")
     Q_PROPERTY(bool shown READ shown NOTIFY changed FINAL)
-    Q_PROPERTY(QString title READ title CONSTANT FINAL)
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed FINAL)
     Q_PROPERTY(bool busy READ busy NOTIFY changed FINAL)
     Q_PROPERTY(QString figure READ figure NOTIFY changed FINAL)
@@ -28,7 +27,6 @@ public:
     TrashBannerModel(AppModel& app, Workspace& workspace, bool showWhenEmpty, QObject* parent = nullptr);
 
     bool shown() const;
-    QString title() const;
     QString subtitle() const;
     /// A spinner stands in the place of the figure.
     bool busy() const;

@@ -21,7 +21,7 @@ Card {
         spacing: 12
 
         Eyebrow {
-            text: card.trends.heading
+            text: qsTr("Trends")
             Accessible.role: Accessible.Heading
         }
 
@@ -82,7 +82,7 @@ Card {
             objectName: "changesButton"
             visible: card.trends.hasChanges
             symbol: "clock.arrow.circlepath"
-            text: card.trends.changesLabel
+            text: qsTr("What changed since last scan")
             onClicked: card.trends.openChanges()
         }
     }

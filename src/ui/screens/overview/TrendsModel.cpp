@@ -35,7 +35,7 @@ void TrendsModel::refresh() {
     for (const SurveyRecord& record : history) totals_.append(static_cast<qreal>(record.totalScanned));
 
     const std::optional<std::int64_t> days = app_.daysUntilFull();
-    forecast_ = days ? QStringLiteral("≈ %1 days until full at this rate").arg(*days) : QString();
+    forecast_ = days ? tr("≈ %1 days until full at this rate").arg(*days) : QString();
     forecastIsFar_ = days && *days > nearDays;
 
     const FolderChanges changes = app_.folderChanges().value_or(FolderChanges());
@@ -44,9 +44,6 @@ void TrendsModel::refresh() {
     emit changed();
 }
 
-QString TrendsModel::heading() const {
-    return QStringLiteral("Trends");
-}
 QString TrendsModel::arrow() const {
     return delta_ > 0 ? QStringLiteral("arrow.up.right") : QStringLiteral("arrow.down.right");
 }
@@ -54,20 +51,17 @@ QColor TrendsModel::arrowColor() const {
     return delta_ > 0 ? theme_->alert : shrunkColor;
 }
 QString TrendsModel::arrowName() const {
-    if (delta_ == 0) return QStringLiteral("unchanged");
-    return delta_ > 0 ? QStringLiteral("grew") : QStringLiteral("shrank");
+    if (delta_ == 0) return tr("unchanged");
+    return delta_ > 0 ? tr("grew") : tr("shrank");
 }
 QString TrendsModel::delta() const {
     return byteFigure(delta_ < 0 ? -delta_ : delta_);
 }
 QString TrendsModel::deltaLine() const {
-    return QStringLiteral("since your last scan · %1 tracked").arg(tracked_);
+    return tr("since your last scan · %1 tracked").arg(tracked_);
 }
 QColor TrendsModel::forecastColor() const {
     return forecastIsFar_ ? theme_->inkSoft : theme_->alert;
-}
-QString TrendsModel::changesLabel() const {
-    return QStringLiteral("What changed since last scan");
 }
 
 void TrendsModel::openChanges() {

@@ -19,7 +19,6 @@ class TrendsModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Part of SurveyScreenModel")
     Q_PROPERTY(bool shown READ shown NOTIFY changed FINAL)
-    Q_PROPERTY(QString heading READ heading CONSTANT FINAL)
     Q_PROPERTY(QString arrow READ arrow NOTIFY changed FINAL)
     Q_PROPERTY(QColor arrowColor READ arrowColor NOTIFY changed FINAL)
     Q_PROPERTY(QString arrowName READ arrowName NOTIFY changed FINAL)
@@ -28,7 +27,6 @@ class TrendsModel : public QObject {
     Q_PROPERTY(QList<qreal> totals READ totals NOTIFY changed FINAL)
     Q_PROPERTY(QString forecast READ forecast NOTIFY changed FINAL)
     Q_PROPERTY(QColor forecastColor READ forecastColor NOTIFY changed FINAL)
-    Q_PROPERTY(QString changesLabel READ changesLabel CONSTANT FINAL)
     Q_PROPERTY(bool hasChanges READ hasChanges NOTIFY changed FINAL)
     Q_PROPERTY(bool showChanges READ showChanges NOTIFY showChangesChanged FINAL)
     Q_PROPERTY(zelk::ChangesModel* changes READ changes CONSTANT FINAL)
@@ -40,7 +38,6 @@ public:
     void setTheme(const ZelkTheme& theme);
 
     bool shown() const { return shown_; }
-    QString heading() const;
     QString arrow() const;
     QColor arrowColor() const;
     /// What the arrow says without being seen.
@@ -52,7 +49,6 @@ public:
     /// Empty without one.
     const QString& forecast() const { return forecast_; }
     QColor forecastColor() const;
-    QString changesLabel() const;
     bool hasChanges() const { return hasChanges_; }
     /// Whether the sheet of changes is open.
     bool showChanges() const { return showChanges_; }

@@ -9,6 +9,7 @@
 #include "ui/controls/Spoken.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/SafetyLook.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -58,7 +59,7 @@ QVariant CategoryList::data(const QModelIndex& index, int role) const {
         case nameRole:
             return text(row.category->displayName);
         case noteRole:
-            return text(row.category->note);
+            return SystemTexts::worded(row.category->note);
         case tintRole:
             return colorOf(row.category->safety);
         case bytesRole:
@@ -69,7 +70,7 @@ QVariant CategoryList::data(const QModelIndex& index, int role) const {
             return isChosen(row);
         case spokenRole:
             return Spoken::joined({text(row.category->displayName), wordOf(row.category->safety), byteFigure(row.bytes),
-                                   countText(row.items), text(row.category->note)});
+                                   countText(row.items), SystemTexts::worded(row.category->note)});
         default:
             return {};
     }

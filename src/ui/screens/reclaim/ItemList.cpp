@@ -8,6 +8,7 @@
 #include "ui/controls/Spoken.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/SafetyLook.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -60,7 +61,7 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
         case nameRole:
             return displayText(category.displayName);
         case placeRole:
-            return displayText(category.note);
+            return SystemTexts::worded(category.note);
         case figureRole:
             return figure();
         case tintRole:
@@ -77,7 +78,7 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
             return group.open ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
         case spokenRole:
             return Spoken::joined({displayText(category.displayName), figure(), wordOf(category.safety),
-                                   group.open ? tr("expanded") : tr("collapsed"), displayText(category.note)});
+                                   group.open ? tr("expanded") : tr("collapsed"), SystemTexts::worded(category.note)});
         default:
             return QString();
     }

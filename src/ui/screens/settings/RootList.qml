@@ -30,7 +30,7 @@ Column {
     Words {
         width: parent.width
         visible: list.settings.roots.empty
-        text: list.settings.noRootsLine
+        text: qsTr("No folders yet. Add one, and a survey walks it.")
         size: 13
         soft: true
         wrapMode: Text.Wrap
@@ -69,7 +69,7 @@ Column {
         objectName: "addFolderButton"
         symbol: "plus"
         focus: true
-        text: list.settings.addFolderLabel
+        text: qsTr("Add folder…")
         onClicked: list.settings.addFolder()
     }
 }

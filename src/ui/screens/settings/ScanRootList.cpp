@@ -25,7 +25,7 @@ QVariant ScanRootList::data(const QModelIndex& index, int role) const {
         case pathRole:
             return path;
         case removeNameRole:
-            return QStringLiteral("Remove %1").arg(path);
+            return tr("Remove %1").arg(path);
         default:
             return {};
     }

@@ -25,10 +25,10 @@ FocusScope {
         anchors.right: parent.right
         visible: view.headed
         height: view.headed ? implicitHeight : 0
-        symbol: view.settings.symbol
-        tint: view.settings.tint
-        title: view.settings.title
-        subtitle: view.settings.subtitle
+        symbol: view.settings.look.symbol
+        tint: view.settings.look.color
+        title: view.settings.look.title
+        subtitle: view.settings.look.subtitle
     }
 
     ScrollArea {
@@ -51,7 +51,7 @@ FocusScope {
 
                 SettingsSection {
                     width: parent.width
-                    title: view.settings.rootsTitle
+                    title: qsTr("Scan roots")
 
                     RootList {
                         width: parent.width
@@ -61,7 +61,7 @@ FocusScope {
 
                 SettingsSection {
                     width: parent.width
-                    title: view.settings.cleanupTitle
+                    title: qsTr("Cleanup")
 
                     StepperField {
                         width: parent.width
@@ -83,7 +83,7 @@ FocusScope {
 
                         ToggleSwitch {
                             width: parent.width
-                            text: view.settings.hardDeleteLabel
+                            text: qsTr("Delete permanently by default")
                             size: 13
                             checked: view.settings.hardDelete
                             onToggled: view.settings.hardDelete = checked
@@ -91,7 +91,7 @@ FocusScope {
 
                         Words {
                             width: parent.width
-                            text: view.settings.hardDeleteNote
+                            text: qsTr("Off keeps cleanup reversible (moves to Trash).")
                             size: 11
                             soft: true
                             wrapMode: Text.Wrap
@@ -101,7 +101,7 @@ FocusScope {
 
                 SettingsSection {
                     width: parent.width
-                    title: view.settings.appearanceTitle
+                    title: qsTr("Appearance")
 
                     FlowRow {
                         width: parent.width
@@ -109,7 +109,7 @@ FocusScope {
 
                         Words {
                             height: picker.implicitHeight
-                            text: view.settings.themeLabel
+                            text: qsTr("Theme")
                             size: 13
                             verticalAlignment: Text.AlignVCenter
                             mute: true
@@ -118,8 +118,8 @@ FocusScope {
                         SegmentedPicker {
                             id: picker
 
-                            label: view.settings.themeLabel
-                            options: view.settings.themes
+                            label: qsTr("Theme")
+                            options: [qsTr("System"), qsTr("Light"), qsTr("Dark")]
                             current: view.settings.theme
                             onPicked: index => view.settings.theme = index
                         }
@@ -128,7 +128,7 @@ FocusScope {
 
                 SecondaryButton {
                     symbol: "arrow.clockwise"
-                    text: view.settings.rescanLabel
+                    text: qsTr("Re-scan now")
                     onClicked: view.settings.rescan()
                 }
             }

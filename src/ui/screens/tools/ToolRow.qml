@@ -3,21 +3,16 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.App
 import Zelk.Controls
 
 BaseButton {
     id: row
 
     required property int index
-    required property string symbol
-    required property color tint
-    required property string title
-    required property string detail
-    required property string cleanup
-    required property bool cleans
-    required property string spoken
+    required property toolFace modelData
 
-    text: row.spoken
+    text: row.modelData.spoken
     padding: 16
     implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
 
@@ -25,7 +20,7 @@ BaseButton {
         radius: 14
         color: Theme.surface
         border.width: 1
-        border.color: row.hovered ? Qt.alpha(row.tint, 0.5) : Theme.hairline
+        border.color: row.hovered ? Qt.alpha(row.modelData.look.color, 0.5) : Theme.hairline
         Behavior on border.color {
             ColorAnimation {
                 duration: Motion.quick
@@ -57,8 +52,8 @@ BaseButton {
             id: tile
 
             anchors.verticalCenter: parent.verticalCenter
-            symbol: row.symbol
-            tint: row.tint
+            symbol: row.modelData.look.symbol
+            tint: row.modelData.look.color
             side: 40
             symbolSize: 20
         }
@@ -75,7 +70,7 @@ BaseButton {
 
             Words {
                 width: parent.width
-                text: row.title
+                text: row.modelData.look.title
                 size: 17
                 font.weight: Font.DemiBold
                 wrapMode: Text.Wrap
@@ -84,7 +79,7 @@ BaseButton {
 
             Words {
                 width: parent.width
-                text: row.detail
+                text: row.modelData.detail
                 size: 14
                 soft: true
                 wrapMode: Text.Wrap
@@ -94,8 +89,8 @@ BaseButton {
             Words {
                 width: parent.width
                 topPadding: 4
-                visible: row.cleans
-                text: row.cleanup
+                visible: text !== ""
+                text: row.modelData.cleanup
                 size: 12
                 font.weight: Font.Medium
                 wrapMode: Text.Wrap

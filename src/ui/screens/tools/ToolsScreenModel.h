@@ -2,50 +2,52 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
-#include <QColor>
+#include <QList>
+#include <QObject>
 #include <QString>
-#include <vector>
 
 #include "state/Screen.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 
 class AppModel;
 
-/// All that the screen of the tools says: a constant list of what the application can do, each row of which leads to
-/// its module. Main thread.
-class ToolsScreenModel : public QAbstractListModel {
+/// Something that the application can do, in one of its modules.
+struct Tool {
+    Q_GADGET
+    QML_VALUE_TYPE(toolFace)
+    Q_PROPERTY(zelk::ScreenLook look READ look FINAL)
+    Q_PROPERTY(QString detail MEMBER detail FINAL)
+    Q_PROPERTY(QString cleanup MEMBER cleanup FINAL)
+    Q_PROPERTY(QString spoken READ spoken FINAL)
+
+public:
+    Screen screen{};
+    QString detail;
+    QString cleanup;  ///< empty where the tool takes nothing away
+
+    const ScreenLook& look() const { return lookOf(screen); }
+    /// What a screen reader says of a row, which is one button.
+    QString spoken() const;
+
+    bool operator==(const Tool&) const = default;
+};
+
+/// What the application can do: a fixed list, each row of which leads to its module. Main thread.
+class ToolsScreenModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
-    Q_PROPERTY(QString symbol READ symbol CONSTANT FINAL)
-    Q_PROPERTY(QColor tint READ tint CONSTANT FINAL)
-    Q_PROPERTY(QString title READ title CONSTANT FINAL)
-    Q_PROPERTY(QString subtitle READ subtitle CONSTANT FINAL)
+    Q_PROPERTY(zelk::ScreenLook look READ look CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::Tool> tools READ tools CONSTANT FINAL)
 
 public:
-    struct Tool {
-        Screen screen;
-        QString detail;
-        QString cleanup;  ///< empty where the tool takes nothing away
-    };
-
-    enum Role { symbolRole = Qt::UserRole, tintRole, titleRole, detailRole, cleanupRole, cleansRole, spokenRole };
-
     /// `app` must outlive it.
     explicit ToolsScreenModel(AppModel& app);
 
-    static const std::vector<Tool>& tools();
-
-    QString symbol() const;
-    QColor tint() const;
-    QString title() const;
-    QString subtitle() const;
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    const ScreenLook& look() const { return lookOf(Screen::tools); }
+    const QList<Tool>& tools() const { return tools_; }
 
 public slots:
     /// Goes to the module of a row.
@@ -53,6 +55,7 @@ public slots:
 
 private:
     AppModel& app_;
+    const QList<Tool> tools_;
 };
 
 }  // namespace zelk

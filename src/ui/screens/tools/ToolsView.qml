@@ -21,10 +21,10 @@ FocusScope {
 
         anchors.left: parent.left
         anchors.right: parent.right
-        symbol: view.tools.symbol
-        tint: view.tools.tint
-        title: view.tools.title
-        subtitle: view.tools.subtitle
+        symbol: view.tools.look.symbol
+        tint: view.tools.look.color
+        title: view.tools.look.title
+        subtitle: qsTr("everything Zelk can do")
     }
 
     ScrollArea {
@@ -42,7 +42,7 @@ FocusScope {
             spacing: 12
 
             Repeater {
-                model: view.tools
+                model: view.tools.tools
 
                 ToolRow {
                     width: rows.width - 2 * rows.padding

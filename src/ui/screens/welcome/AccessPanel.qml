@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
@@ -13,7 +14,9 @@ FocusScope {
 
     implicitHeight: column.implicitHeight
 
-    readonly property alias primary: primaryButton
+    // Not every system has settings for it.
+    readonly property bool grantable: settingsButton.text !== ""
+    readonly property T.AbstractButton primary: panel.grantable ? settingsButton : continueButton
 
     Column {
         id: column
@@ -24,7 +27,7 @@ FocusScope {
 
         Tile {
             anchors.horizontalCenter: parent.horizontalCenter
-            symbol: panel.access.symbol
+            symbol: "lock.open.display"
             tint: Theme.accent
             side: 88
             symbolSize: 44
@@ -37,7 +40,7 @@ FocusScope {
 
             Words {
                 width: parent.width
-                text: panel.access.title
+                text: SystemTexts.of(SystemTexts.AccessTitle)
                 size: 20
                 font.weight: Font.DemiBold
                 horizontalAlignment: Text.AlignHCenter
@@ -46,7 +49,7 @@ FocusScope {
             }
 
             Repeater {
-                model: panel.access.lines
+                model: [SystemTexts.of(SystemTexts.AccessPurpose), SystemTexts.of(SystemTexts.AccessSteps)]
 
                 Words {
                     required property string modelData
@@ -62,12 +65,13 @@ FocusScope {
         }
 
         PrimaryButton {
-            id: primaryButton
+            id: settingsButton
 
             objectName: "openSettingsButton"
             anchors.horizontalCenter: parent.horizontalCenter
-            text: panel.access.settingsLabel
-            focus: true
+            text: SystemTexts.of(SystemTexts.AccessSettings)
+            visible: panel.grantable
+            focus: panel.grantable
             onClicked: panel.access.openSettings()
         }
 
@@ -81,16 +85,19 @@ FocusScope {
 
             Words {
                 anchors.verticalCenter: parent.verticalCenter
-                text: panel.access.waitingLine
+                text: qsTr("waiting for access…")
                 size: 12
                 soft: true
             }
         }
 
         LinkButton {
+            id: continueButton
+
             objectName: "continueButton"
+            focus: !panel.grantable
             anchors.horizontalCenter: parent.horizontalCenter
-            text: panel.access.continueLabel
+            text: qsTr("Continue without it")
             textColor: Theme.inkSoft
             onClicked: panel.access.continueWithoutIt()
         }

@@ -24,25 +24,6 @@ void AccessPanelModel::setShown(bool shown) {
     emit shownChanged();
 }
 
-QString AccessPanelModel::symbol() const {
-    return QStringLiteral("lock.open.display");
-}
-QString AccessPanelModel::title() const {
-    return QStringLiteral("Zelk needs Full Disk Access");
-}
-QStringList AccessPanelModel::lines() const {
-    return {QStringLiteral("to survey your whole drive."), QStringLiteral("Open Settings → drag Zelk in → come back.")};
-}
-QString AccessPanelModel::settingsLabel() const {
-    return QStringLiteral("Open Settings");
-}
-QString AccessPanelModel::waitingLine() const {
-    return QStringLiteral("waiting for access…");
-}
-QString AccessPanelModel::continueLabel() const {
-    return QStringLiteral("Continue without it");
-}
-
 void AccessPanelModel::openSettings() {
     workspace_.openURL(accessSettingsURL);
 }

@@ -3,8 +3,6 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
-#include <QString>
-#include <QStringList>
 #include <QTimer>
 #include <chrono>
 #include <functional>
@@ -20,12 +18,6 @@ class AccessPanelModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Part of FirstRunModel")
     Q_PROPERTY(bool shown READ shown WRITE setShown NOTIFY shownChanged FINAL)
-    Q_PROPERTY(QString symbol READ symbol CONSTANT FINAL)
-    Q_PROPERTY(QString title READ title CONSTANT FINAL)
-    Q_PROPERTY(QStringList lines READ lines CONSTANT FINAL)
-    Q_PROPERTY(QString settingsLabel READ settingsLabel CONSTANT FINAL)
-    Q_PROPERTY(QString waitingLine READ waitingLine CONSTANT FINAL)
-    Q_PROPERTY(QString continueLabel READ continueLabel CONSTANT FINAL)
 
 public:
     /// Between two looks.
@@ -41,13 +33,6 @@ public:
     /// Whether it looks again.
     bool polling() const { return poll_.isActive(); }
     std::chrono::milliseconds interval() const { return poll_.intervalAsDuration(); }
-
-    QString symbol() const;
-    QString title() const;
-    QStringList lines() const;
-    QString settingsLabel() const;
-    QString waitingLine() const;
-    QString continueLabel() const;
 
 public slots:
     /// Shows where the access is granted.

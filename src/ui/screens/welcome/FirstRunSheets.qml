@@ -38,7 +38,7 @@ Item {
     Sheet {
         id: accessSheet
 
-        title: sheets.firstRun.access.title
+        title: SystemTexts.of(SystemTexts.AccessTitle)
         visible: sheets.firstRun.showOnboarding && first.gone
         sheetWidth: 460
         sheetHeight: Math.max(420, panel.implicitHeight + topPadding + bottomPadding)

@@ -2,24 +2,41 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QColor>
 #include <QEasingCurve>
+#include <QList>
+#include <QObject>
 #include <QString>
-#include <vector>
 
 namespace zelk {
 
-/// The pages that introduce the application in its first run, and which of them is shown. Main thread.
-class WelcomeModel : public QAbstractListModel {
+/// A page that introduces the application.
+struct IntroPage {
+    Q_GADGET
+    QML_VALUE_TYPE(introPage)
+    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
+    Q_PROPERTY(QColor tint MEMBER tint FINAL)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString body MEMBER body FINAL)
+
+public:
+    QString symbol;
+    QColor tint;
+    QString title;
+    QString body;
+
+    bool operator==(const IntroPage&) const = default;
+};
+
+/// The pages of the first run, and which of them is shown. Main thread.
+class WelcomeModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of FirstRunModel")
+    Q_PROPERTY(QList<zelk::IntroPage> pages READ pages CONSTANT FINAL)
     Q_PROPERTY(int page READ page NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool backShown READ backShown NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool skipShown READ skipShown NOTIFY pageChanged FINAL)
-    Q_PROPERTY(QString skipLabel READ skipLabel CONSTANT FINAL)
-    Q_PROPERTY(QString backLabel READ backLabel CONSTANT FINAL)
     Q_PROPERTY(QString primaryLabel READ primaryLabel NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString title READ title NOTIFY pageChanged FINAL)
     Q_PROPERTY(int turnTime READ turnTime CONSTANT FINAL)
@@ -27,36 +44,20 @@ class WelcomeModel : public QAbstractListModel {
     Q_PROPERTY(QString position READ position NOTIFY pageChanged FINAL)
 
 public:
-    struct Page {
-        QString symbol;
-        QColor color;
-        QString title;
-        QString body;
-    };
+    explicit WelcomeModel(QObject* parent = nullptr);
 
-    enum Role { symbolRole = Qt::UserRole, tintRole, titleRole, bodyRole, currentRole };
-
-    using QAbstractListModel::QAbstractListModel;
-
-    static const std::vector<Page>& pages();
-
+    const QList<IntroPage>& pages() const { return pages_; }
     int page() const { return page_; }
     bool backShown() const { return page_ > 0; }
     bool skipShown() const { return !onLastPage(); }
-    QString skipLabel() const;
-    QString backLabel() const;
     QString primaryLabel() const;
     /// Of the current page.
-    QString title() const;
+    QString title() const { return pages_[page_].title; }
     /// "Page 1 of 4", which the dots say to the eye.
     QString position() const;
     /// Milliseconds, and the course, of the way from one page to the next: a spring without overshoot.
     int turnTime() const;
     QEasingCurve turnEasing() const;
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
 
 public slots:
     /// To the page after this one; nothing on the last.
@@ -73,9 +74,10 @@ signals:
     void finished();
 
 private:
-    bool onLastPage() const { return page_ + 1 == rowCount(); }
+    bool onLastPage() const { return page_ + 1 == pages_.size(); }
     void show(int page);
 
+    const QList<IntroPage> pages_;
     int page_ = 0;
 };
 

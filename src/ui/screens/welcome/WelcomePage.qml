@@ -4,17 +4,15 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.App
 import Zelk.Controls
 
 Item {
     id: page
 
     required property int index
-    required property string symbol
-    required property color tint
-    required property string title
-    required property string body
-    required property bool current
+    required property introPage modelData
+    property bool current: false
 
     implicitHeight: column.implicitHeight
 
@@ -37,7 +35,7 @@ Item {
             width: 140
             height: 140
             radius: width / 2
-            color: Qt.alpha(page.tint, 0.16)
+            color: Qt.alpha(page.modelData.tint, 0.16)
 
             Rectangle {
                 anchors.centerIn: parent
@@ -47,17 +45,17 @@ Item {
                 gradient: Gradient {
                     GradientStop {
                         position: 0
-                        color: Qt.lighter(page.tint, 1.15)
+                        color: Qt.lighter(page.modelData.tint, 1.15)
                     }
                     GradientStop {
                         position: 1
-                        color: page.tint
+                        color: page.modelData.tint
                     }
                 }
 
                 SymbolItem {
                     anchors.centerIn: parent
-                    name: page.symbol
+                    name: page.modelData.symbol
                     color: "white"
                     size: 44
                 }
@@ -67,7 +65,7 @@ Item {
         Words {
             width: parent.width
             topPadding: 16
-            text: page.title
+            text: page.modelData.title
             size: 26
             font.weight: Font.Bold
             horizontalAlignment: Text.AlignHCenter
@@ -78,7 +76,7 @@ Item {
 
         Words {
             width: parent.width
-            text: page.body
+            text: page.modelData.body
             size: 14
             soft: true
             lineHeight: 1.35

@@ -59,10 +59,11 @@ FocusScope {
                 }
 
                 Repeater {
-                    model: panel.welcome
+                    model: panel.welcome.pages
 
                     WelcomePage {
                         width: stage.width
+                        current: index === panel.welcome.page
                     }
                 }
             }
@@ -75,12 +76,13 @@ FocusScope {
             Accessible.name: panel.welcome.position
 
             Repeater {
-                model: panel.welcome
+                model: panel.welcome.pages
 
                 Rectangle {
                     id: dot
 
-                    required property bool current
+                    required property int index
+                    readonly property bool current: dot.index === panel.welcome.page
 
                     width: 8
                     height: 8
@@ -106,7 +108,7 @@ FocusScope {
                 objectName: "skipButton"
                 anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
-                text: panel.welcome.skipLabel
+                text: qsTr("Skip")
                 size: 13
                 textColor: Theme.inkSoft
                 opacity: panel.welcome.skipShown ? 1 : 0
@@ -121,7 +123,7 @@ FocusScope {
                 anchors.right: primaryButton.left
                 anchors.rightMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
-                text: panel.welcome.backLabel
+                text: qsTr("Back")
                 size: 13
                 visible: panel.welcome.backShown
                 onClicked: panel.turn(panel.welcome.back)

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "ui/theme/SystemTexts.h"
+
+#include <QCoreApplication>
+#include <array>
+#include <cstddef>
+
+#include "ui/theme/DisplayText.h"
+
+namespace zelk {
+
+namespace {
+
+struct Wordings {
+    const char* macOS;
+    const char* desktopLinux;
+};
+
+// In the order of the keys.
+constexpr std::array<Wordings, SystemTexts::keyCount> table{{
+    // WholeComputer
+    {QT_TRANSLATE_NOOP("SystemTexts", "your whole Mac"), QT_TRANSLATE_NOOP("SystemTexts", "your whole computer")},
+    // ScanWholeComputer
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Scan your whole Mac and see space by type, the biggest files, and how it changes over time."),
+     QT_TRANSLATE_NOOP(
+         "SystemTexts",
+         "Scan your whole computer and see space by type, the biggest files, and how it changes over time.")},
+    // WelcomeLead
+    {QT_TRANSLATE_NOOP("SystemTexts", "A fast, private way to understand and clean your Mac."),
+     QT_TRANSLATE_NOOP("SystemTexts", "A fast, private way to understand and clean your computer.")},
+    // WelcomePrivacy
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Zelk runs entirely on your Mac. Nothing is ever uploaded, and destructive actions always ask "
+                       "first."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Zelk runs entirely on your computer. Nothing is ever uploaded, and destructive actions always "
+                       "ask first.")},
+    // HealthTitle
+    {QT_TRANSLATE_NOOP("SystemTexts", "Mac health"), QT_TRANSLATE_NOOP("SystemTexts", "Computer health")},
+    // RevealFile
+    {QT_TRANSLATE_NOOP("SystemTexts", "Reveal in Finder"), QT_TRANSLATE_NOOP("SystemTexts", "Reveal in Files")},
+    // TrashLocked
+    {QT_TRANSLATE_NOOP("SystemTexts", "Full Disk Access needed to read the Trash"),
+     QT_TRANSLATE_NOOP("SystemTexts", "not yours to read: see who owns its folder")},
+    // UnlockTrash
+    {QT_TRANSLATE_NOOP("SystemTexts", "Grant Access"), QT_TRANSLATE_NOOP("SystemTexts", "Show Folder")},
+    // AccessTitle
+    {QT_TRANSLATE_NOOP("SystemTexts", "Zelk needs Full Disk Access"),
+     QT_TRANSLATE_NOOP("SystemTexts", "Zelk may not read your whole drive")},
+    // AccessPurpose
+    {QT_TRANSLATE_NOOP("SystemTexts", "to survey your whole drive."),
+     QT_TRANSLATE_NOOP("SystemTexts", "Some folders belong to another user.")},
+    // AccessSteps
+    {QT_TRANSLATE_NOOP("SystemTexts", "Open Settings → drag Zelk in → come back."),
+     QT_TRANSLATE_NOOP("SystemTexts", "Ask their owner to share them, or go on without them.")},
+    // AccessSettings
+    {QT_TRANSLATE_NOOP("SystemTexts", "Open Settings"), ""},
+    // SimulatorNote
+    {QT_TRANSLATE_NOOP("SystemTexts", "Removes simulator runtimes macOS no longer lists."),
+     QT_TRANSLATE_NOOP("SystemTexts", "Removes simulator runtimes that nothing lists any more.")},
+    // HelpMeasuring
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Open Survey and press Run Survey. Zelk walks your home folder, measuring real allocated size "
+                       "and deduping hardlinks so the numbers match Finder."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Open Survey and press Run Survey. Zelk walks your home folder, measuring real allocated size "
+                       "and deduping hardlinks so the numbers match du.")},
+    // HelpMenuKeys
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Every module has its own scan button — nothing runs until you ask. Use the Go menu (⌘1–⌘9) or "
+                       "the sidebar to move between modules."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Every module has its own scan button — nothing runs until you ask. Use the Go menu "
+                       "(Ctrl+1–Ctrl+9) or the sidebar to move between modules.")},
+    // HelpAccess
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Grant Full Disk Access when prompted so Zelk can see your whole drive; without it, some "
+                       "protected folders are skipped (that's normal)."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Zelk reads what your user may read; folders that belong to another user or to the system are "
+                       "skipped (that's normal).")},
+    // HelpClutter
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Filter by type — video, audio, photos, archives, disk images — and sort by size or age. Reveal "
+                       "anything in Finder, or move it to the Trash."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Filter by type — video, audio, photos, archives, disk images — and sort by size or age. Reveal "
+                       "anything in Files, or move it to the Trash.")},
+    // HelpTune
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "See memory pressure, free up RAM, flush the DNS cache, and remove startup launch agents. "
+                       "Memory and DNS actions ask for administrator permission — Zelk never runs them silently."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "See memory pressure, free up RAM, flush the DNS cache, and remove autostart entries. Memory "
+                       "and DNS actions ask for administrator permission — Zelk never runs them silently.")},
+    // HelpHealth
+    {QT_TRANSLATE_NOOP("SystemTexts", "Live vitals for your Mac."),
+     QT_TRANSLATE_NOOP("SystemTexts", "Live vitals for your computer.")},
+    // HelpSnapshots
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Surfaces purgeable space and local APFS snapshots. macOS doesn't report a size per snapshot, "
+                       "only whether each is freeable — so Zelk shows the purgeable total and each snapshot's state."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Surfaces purgeable space and local snapshots, where your file system keeps any. A snapshot's "
+                       "own size is not always known — so Zelk shows the purgeable total and each snapshot's state.")},
+    // HelpThinning
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Thinning lets macOS choose what to free; deletion is offered only for freeable snapshots, "
+                       "behind an administrator prompt."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Thinning lets the system choose what to free; deletion is offered only for freeable snapshots, "
+                       "behind an administrator prompt.")},
+    // HelpPrivacy
+    {QT_TRANSLATE_NOOP("SystemTexts", "Zelk works entirely on your Mac."),
+     QT_TRANSLATE_NOOP("SystemTexts", "Zelk works entirely on your computer.")},
+    // HelpPrompts
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default "
+                       "to the Trash, and admin actions always go through the standard macOS authorization prompt."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default "
+                       "to the Trash, and admin actions always go through your desktop's authorization prompt.")},
+    // HelpSandbox
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Zelk is non-sandboxed so it can survey the whole drive; that's why it's distributed directly "
+                       "(Developer ID + notarization), not via the App Store."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Zelk is non-sandboxed so it can survey the whole drive; that's why it's distributed as a "
+                       "package, not as a sandboxed bundle.")},
+}};
+
+#ifdef Q_OS_MACOS
+SystemTexts::System shownSystem = SystemTexts::System::macOS;
+#else
+SystemTexts::System shownSystem = SystemTexts::System::desktopLinux;
+#endif
+
+}  // namespace
+
+QString SystemTexts::of(Key key) {
+    const char* text = wording(key, shownSystem);
+    return *text == '\0' ? QString() : QCoreApplication::translate("SystemTexts", text);
+}
+
+QString SystemTexts::worded(std::string_view text) {
+    for (int key = 0; key < keyCount; ++key)
+        if (text == wording(static_cast<Key>(key), System::macOS)) return of(static_cast<Key>(key));
+    return displayText(text);
+}
+
+const char* SystemTexts::wording(Key key, System system) {
+    const Wordings& row = table[static_cast<std::size_t>(key)];
+    return system == System::macOS ? row.macOS : row.desktopLinux;
+}
+
+SystemTexts::System SystemTexts::shown() {
+    return shownSystem;
+}
+
+void SystemTexts::show(System system) {
+    shownSystem = system;
+}
+
+}  // namespace zelk
+
+#include "moc_SystemTexts.cpp"

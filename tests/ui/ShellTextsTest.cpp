@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// What stands around every screen, read from the window.
+#include "TextsOf.h"
+#include "ViewFixture.h"
+#include "ui/screens/module/ModuleScreenModel.h"
+#include "ui/screens/module/UnbuiltModules.h"
+#include "ui/shell/AboutModel.h"
+#include "ui/shell/SidebarModel.h"
+
+namespace zelk {
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class ShellTexts : public ViewFixture {
+protected:
+    ~ShellTexts() override { close(); }
+};
+
+}  // namespace
+
+TEST_F(ShellTexts, ofTheSidebarAreItsGroupsAndItsFoot) {
+    SidebarModel sidebar(model());
+    show(QStringLiteral("Zelk.App"), QStringLiteral("Sidebar"), "sidebar", &sidebar, {234, 900});
+    EXPECT_EQ(seenTexts(),
+              (Texts{"Zelk", "Overview", "Clean", "Reclaim", "Privacy", "Tune", "Manage", "Apps", "Clutter",
+                     "Duplicates", "Explore", "Lens", "Health", "System", "Tools", "Settings", "Developer view"}));
+    EXPECT_NE(symbol("sidebar.left"), nullptr);
+    EXPECT_EQ(nameOf(&view()), "Modules");
+    EXPECT_EQ(nameOf(find("collapseButton")), "Collapse sidebar");
+    click("collapseButton");
+    EXPECT_EQ(nameOf(find("collapseButton")), "Expand sidebar");
+    EXPECT_EQ(seenTexts(), Texts());
+    click("collapseButton");
+    EXPECT_EQ(nameOf(find("collapseButton")), "Collapse sidebar");
+    close();
+}
+
+TEST_F(ShellTexts, theDeveloperSwitchIsExplained) {
+    SidebarModel sidebar(model());
+    show(QStringLiteral("Zelk.App"), QStringLiteral("Sidebar"), "sidebar", &sidebar, {234, 900});
+    bool explained = false;
+    for (const QObject* part : find("developerSwitch")->findChildren<QObject*>())
+        explained |= part->property("text").toString() ==
+                     QStringLiteral("Show developer-focused junk and per-item controls in Reclaim");
+    EXPECT_TRUE(explained);
+    close();
+}
+
+TEST_F(ShellTexts, ofTheAboutWindowAreTheNameAndTheRows) {
+    DeviceInfo device;
+    device.osVersion = "TestOS 1.0";
+    device.chip = "Test chip";
+    AboutModel about({"Zelk Preview", "1.2", "34"}, device);
+    show(QStringLiteral("Zelk.App"), QStringLiteral("AboutView"), "about", &about, {320, 320});
+    EXPECT_EQ(seenTexts(), (Texts{"Zelk Preview", "Version", "1.2 (34)", "System", "TestOS 1.0", "Chip", "Test chip"}));
+    EXPECT_NE(symbol("internaldrive"), nullptr);
+    close();
+}
+
+TEST_F(ShellTexts, ofAModuleThatIsNotThereYetAreWhatItIsForAndANote) {
+    const auto module = makeUnbuiltModule(model(), Screen::duplicates);
+    show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleView"), "module", module.get(), {800, 620});
+    EXPECT_EQ(seenTexts(),
+              (Texts{"Duplicates",
+                     "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just "
+                     "one.",
+                     "Duplicates is not in this version yet."}));
+    close();
+}
+
+}  // namespace zelk

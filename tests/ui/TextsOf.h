@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ui/theme/SystemTexts.h"
+
+namespace zelk {
+
+/// For as long as it lives, what is made reads the texts of this system.
+class TextsOf {
+public:
+    explicit TextsOf(SystemTexts::System system) { SystemTexts::show(system); }
+    ~TextsOf() { SystemTexts::show(before_); }
+    TextsOf(const TextsOf&) = delete;
+    TextsOf& operator=(const TextsOf&) = delete;
+
+private:
+    SystemTexts::System before_ = SystemTexts::shown();
+};
+
+inline constexpr SystemTexts::System macOS = SystemTexts::System::macOS;
+inline constexpr SystemTexts::System desktopLinux = SystemTexts::System::desktopLinux;
+
+}  // namespace zelk
