@@ -187,7 +187,6 @@ TEST_F(Categories, theMapHasASlicePerRow) {
         EXPECT_EQ(slices[row].color, rows()[row].tint);
         EXPECT_EQ(slices[row].selected, rows()[row].chosen);
         EXPECT_FALSE(slices[row].reclaimable);
-        EXPECT_FALSE(slices[row].drillable);
         EXPECT_TRUE(slices[row].icon.isNull());
     }
 }

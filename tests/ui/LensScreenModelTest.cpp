@@ -185,7 +185,7 @@ TEST_F(LensScreen, theSeventeenthFolderIsFolded) {
     EXPECT_EQ(rest.id, "__other__");
     EXPECT_EQ(rest.label, QStringLiteral("Other (1)"));
     EXPECT_EQ(rest.bytes, 1'000'000);
-    EXPECT_FALSE(rest.reclaimable || rest.drillable || rest.selected);
+    EXPECT_FALSE(rest.reclaimable || rest.selected);
     EXPECT_TRUE(rest.icon.isNull());
     EXPECT_EQ(rest.color, ZelkTheme::dark().inkSoft);
     lens().setDark(false);
@@ -214,9 +214,7 @@ TEST_F(LensScreen, aBubbleTellsOfItsFolder) {
     EXPECT_EQ(projects.bytes, 90'000'000);
     EXPECT_EQ(projects.color, QColor(124, 92, 255));
     EXPECT_FALSE(projects.reclaimable);
-    EXPECT_TRUE(projects.drillable);
     EXPECT_FALSE(projects.icon.isNull());
-    EXPECT_FALSE(slice("music").drillable);
     drill("projects");
     drill("app");
     EXPECT_TRUE(slice("node_modules").reclaimable) << "the classifier was done before the screen looked";

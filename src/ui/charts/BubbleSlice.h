@@ -16,7 +16,6 @@ struct BubbleSlice {
     std::int64_t bytes = 0;  ///< the weight; what has none gets no bubble
     QColor color;
     bool reclaimable = false;  ///< said in the tooltip
-    bool drillable = false;    ///< for the caller's own use: the chart never reads it
     QImage icon;               ///< of a file; null if there is none
     bool selected = false;     ///< ringed in white
 

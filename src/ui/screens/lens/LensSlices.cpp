@@ -21,7 +21,6 @@ std::vector<BubbleSlice> slicesOf(const LensRows& rows, const LensWalk& walk, co
         slice.bytes = node.size;
         slice.color = QColor(124, 92, 255);
         slice.reclaimable = node.reclaimCategory != nullptr;
-        slice.drillable = !node.children.empty();
         slice.icon = iconOf(slice.id);
         slice.selected = walk.isSelected(slice.id);
         slices.push_back(std::move(slice));
