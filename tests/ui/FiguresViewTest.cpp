@@ -76,8 +76,8 @@ TEST_F(FiguresWindow, aRingGaugeIs108SquareWithItsTextsInsideAndUnder) {
     ASSERT_NE(ring, nullptr);
     EXPECT_EQ(ring->size(), QSizeF(108, 108));
     EXPECT_EQ(ring->shown(), 0.5);
-    EXPECT_EQ(ring->color(), QColor(Qt::red));
-    EXPECT_EQ(ring->track(), themes("hairline"));
+    EXPECT_EQ(ring->property("color").value<QColor>(), QColor(Qt::red));
+    EXPECT_EQ(ring->property("track").value<QColor>(), themes("hairline"));
     EXPECT_EQ(sizeOf("50%"), 22);
     EXPECT_EQ(sizeOf("memory"), 10);
     EXPECT_EQ(sizeOf("8 GB of 16 GB"), 10);
@@ -165,8 +165,8 @@ TEST_F(FiguresWindow, aRibbonIs22HighOverALegendOfAllSegments) {
     const auto* bar = only<RibbonPicture>();
     ASSERT_NE(bar, nullptr);
     EXPECT_EQ(bar->size(), QSizeF(600, 22));
-    EXPECT_EQ(bar->freeBytes(), 100);
-    EXPECT_EQ(bar->freeColor(), themes("hairline"));
+    EXPECT_EQ(bar->property("freeBytes").toDouble(), 100);
+    EXPECT_EQ(bar->property("freeColor").value<QColor>(), themes("hairline"));
     for (const char* text : {"Video", "200 bytes", "Audio", "0 bytes"}) {
         ASSERT_NE(showing(text), nullptr) << text;
         EXPECT_EQ(sizeOf(text), 11);

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/RecordingCanvas.h"
+#include "Painted.h"
 #include "ui/charts/PaintedLayer.h"
 
 namespace zelk {
@@ -16,52 +16,55 @@ const QPointF center(100, 100);
 }  // namespace
 
 TEST(Orb, isADiscOver52WithAShadowBelowIt) {
-    fakes::RecordingCanvas canvas;
-    drawOrbDisc(canvas, center, lens);
-    ASSERT_GE(canvas.shapes.size(), 2U);
-    const auto& shadow = canvas.shapes[0];
-    EXPECT_EQ(shadow.center, QPointF(100, 108));
-    EXPECT_EQ(shadow.radius, 72);
-    EXPECT_NEAR(shadow.paint.stops.front().color.alphaF(), 0.5, 0.01);
-    EXPECT_EQ(shadow.paint.stops.front().color.rgb(), lens.rgb());
-    EXPECT_EQ(shadow.paint.stops.back().color.alphaF(), 0);
-    const auto& disc = canvas.shapes[1];
-    EXPECT_EQ(disc.center, center);
-    EXPECT_EQ(disc.radius * 2, 104);
-    EXPECT_EQ(disc.paint.kind, Paint::Kind::linear);
+    const QImage orb = painted({200, 200}, [](QPainter& painter) { drawOrbDisc(painter, center, lens); });
+    EXPECT_EQ(orb.pixelColor(150, 100).alpha(), 255);
+    EXPECT_LT(orb.pixelColor(153, 100).alpha(), 128);
+    EXPECT_TRUE(alike(orb.pixelColor(75, 75), QColor(226, 114, 197))) << "lighter to the upper left";
+    EXPECT_TRUE(alike(orb.pixelColor(125, 125), QColor(206, 89, 176))) << "darker to the lower right";
+    EXPECT_GT(orb.pixelColor(100, 48).green(), orb.pixelColor(100, 51).green() + 20) << "light on its upper edge";
+    EXPECT_NEAR(orb.pixelColor(100, 162).alphaF(), 0.2, 0.02) << "the shadow, 8 lower and blurred over 20";
+    EXPECT_TRUE(alike(QColor(orb.pixelColor(100, 162).rgb()), lens, 8));
+    EXPECT_LT(orb.pixelColor(100, 37).alphaF(), 0.06);
+    EXPECT_EQ(orb.pixelColor(100, 182).alpha(), 0);
 }
 
 TEST(Orb, keepsItsRingsBetweenTheDiscAndTheFrame) {
     double inner = OrbShape::discRadius;
     for (int ring = 0; ring < OrbShape::rings; ++ring) {
-        fakes::RecordingCanvas canvas;
-        drawOrbRing(canvas, center, ring, lens);
-        ASSERT_EQ(canvas.shapes.size(), 1U);
-        EXPECT_GT(canvas.shapes[0].radius, inner);
-        EXPECT_LE(canvas.shapes[0].radius + canvas.shapes[0].width / 2, OrbShape::frame / 2);
-        EXPECT_EQ(canvas.shapes[0].paint.stops.front().color.rgb() & 0xffffff, lens.rgb() & 0xffffff);
-        inner = canvas.shapes[0].radius;
+        const double radius = OrbShape::ringRadius(ring);
+        EXPECT_GT(radius, inner);
+        EXPECT_LE(radius, OrbShape::frame / 2 - 1);
+        inner = radius;
+        const QImage rings = painted(
+            {200, 200}, [&](QPainter& painter) { drawOrbRing(painter, center, ring, lens); }, 4);
+        const QColor line = rings.pixelColor(static_cast<int>(4 * (100 + radius)), 400);
+        EXPECT_NEAR(line.alphaF(), OrbShape::ringOpacity(ring), 0.02);
+        EXPECT_TRUE(alike(QColor(line.rgb()), lens, 8));
+        EXPECT_EQ(rings.pixelColor(static_cast<int>(4 * (100 + radius - 2)), 400).alpha(), 0);
+        EXPECT_EQ(rings.pixelColor(static_cast<int>(4 * (100 + radius + 2)), 400).alpha(), 0);
     }
 }
 
 TEST(ModuleGlow, fallsFromTheModulesColourToNothingAt520) {
     for (const bool dark : {true, false}) {
-        fakes::RecordingCanvas canvas;
-        drawModuleGlow(canvas, center, lens, dark);
-        ASSERT_EQ(canvas.shapes.size(), 1U);
-        EXPECT_EQ(canvas.shapes[0].radius, 520);
-        EXPECT_EQ(canvas.shapes[0].paint.radius, 520);
-        EXPECT_NEAR(canvas.shapes[0].paint.stops.front().color.alphaF(), dark ? 0.18 : 0.12, 0.001);
-        EXPECT_EQ(canvas.shapes[0].paint.stops.back().color.alphaF(), 0);
+        const double opacity = dark ? 0.18 : 0.12;
+        const QImage glow = painted({1060, 4}, [&](QPainter& painter) {
+            drawModuleGlow(painter, {530, 2}, lens, dark);
+        });
+        EXPECT_NEAR(glow.pixelColor(530, 2).alphaF(), opacity, 0.005);
+        EXPECT_NEAR(glow.pixelColor(790, 2).alphaF(), opacity / 2, 0.005);
+        EXPECT_GT(glow.pixelColor(1000, 2).alpha(), 0);
+        EXPECT_EQ(glow.pixelColor(1051, 2).alpha(), 0);
     }
 }
 
 TEST(AboutMark, isADiscOf78InsideAGlowOf96) {
-    fakes::RecordingCanvas canvas;
-    drawAboutMark(canvas, center, QColor(245, 166, 35));
-    ASSERT_EQ(canvas.shapes.size(), 2U);
-    EXPECT_EQ(canvas.shapes[0].radius * 2, 96);
-    EXPECT_EQ(canvas.shapes[1].radius * 2, 78);
+    const QImage mark =
+        painted({200, 200}, [](QPainter& painter) { drawAboutMark(painter, center, QColor(245, 166, 35)); });
+    EXPECT_EQ(mark.pixelColor(137, 100).alpha(), 255);
+    EXPECT_GT(mark.pixelColor(142, 100).alpha(), 20);
+    EXPECT_LT(mark.pixelColor(142, 100).alpha(), 128);
+    EXPECT_EQ(mark.pixelColor(149, 100).alpha(), 0);
 }
 
 TEST(PaintedLayer, isAsLargeAsWhatItShows) {
@@ -72,6 +75,16 @@ TEST(PaintedLayer, isAsLargeAsWhatItShows) {
     EXPECT_EQ(layer.implicitHeight(), 1040);
     layer.setKind(PaintedLayer::Mark);
     EXPECT_EQ(layer.implicitHeight(), 96);
+}
+
+TEST(PaintedLayer, paintsItsKindInItsColour) {
+    PaintedLayer layer;
+    layer.setProperty("color", lens);
+    layer.setKind(PaintedLayer::OrbDisc);
+    EXPECT_EQ(painted(layer, {160, 160}).pixelColor(80, 80).alpha(), 255);
+    layer.setKind(PaintedLayer::OuterRing);
+    EXPECT_EQ(painted(layer, {150, 150}).pixelColor(75, 75).alpha(), 0);
+    EXPECT_GT(painted(layer, {150, 150}).pixelColor(75, 2).alpha(), 10);
 }
 
 }  // namespace zelk

@@ -3,22 +3,21 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/RecordingCanvas.h"
+#include "Painted.h"
 
 namespace zelk {
 
 namespace {
 
-using Kind = fakes::DrawnShape::Kind;
-
-constexpr QSizeF barSize(200, 6);
-const QColor barTrack(255, 255, 255, 20);
+const QColor barTrack(20, 30, 40);
 const QColor barAmber(245, 166, 35);
 
-std::vector<fakes::DrawnShape> barAt(double seconds) {
-    fakes::RecordingCanvas canvas;
-    drawProgress(canvas, barSize, seconds, barTrack, barAmber);
-    return canvas.shapes;
+QImage barAt(double seconds) {
+    ProgressPicture bar;
+    bar.setProperty("track", barTrack);
+    bar.setProperty("color", barAmber);
+    bar.setProperty("seconds", seconds);
+    return painted(bar, {200, 6});
 }
 
 }  // namespace
@@ -41,39 +40,33 @@ TEST(ModuleProgressBar, runsThroughOnceInOneAndAHalfSeconds) {
 }
 
 TEST(ModuleProgressBar, isACapsuleOnACapsule) {
-    const auto shapes = barAt(0.75);
-    ASSERT_EQ(shapes.size(), 2U);
-    EXPECT_EQ(shapes[0].kind, Kind::bar);
-    EXPECT_EQ(shapes[0].rect, QRectF(0, 0, 200, 6));
-    EXPECT_EQ(shapes[0].paint, Paint::solid(barTrack));
-    EXPECT_EQ(shapes[1].kind, Kind::bar);
-    EXPECT_EQ(shapes[1].rect, QRectF(66, 0, 68, 6));
-    for (const auto& shape : shapes) {
-        EXPECT_EQ(shape.leftCorner, 3);
-        EXPECT_EQ(shape.rightCorner, 3);
-    }
-    EXPECT_EQ(shapes[1].paint.kind, Paint::Kind::linear);
-    EXPECT_EQ(shapes[1].paint.from, QPointF(66, 0));
-    EXPECT_EQ(shapes[1].paint.to, QPointF(134, 0));
-    for (const GradientStop& stop : shapes[1].paint.stops) EXPECT_EQ(stop.color.rgb(), barAmber.rgb());
+    const QImage bar = barAt(0.75);
+    EXPECT_LT(bar.pixelColor(0, 0).alpha(), 90) << "round";
+    EXPECT_EQ(bar.pixelColor(30, 3), barTrack);
+    EXPECT_EQ(bar.pixelColor(180, 3), barTrack);
+    EXPECT_LT(bar.pixelColor(66, 0).red(), 40) << "the sliver is round too";
+    EXPECT_TRUE(alike(bar.pixelColor(131, 3), barAmber, 8));
+    EXPECT_GT(bar.pixelColor(100, 3).red(), bar.pixelColor(72, 3).red()) << "its tail is fainter";
+    EXPECT_GT(bar.pixelColor(72, 3).red(), barTrack.red() + 50);
 }
 
 TEST(ModuleProgressBar, showsOfItsSliverWhatLiesOnTheTrack) {
-    EXPECT_EQ(barAt(0).size(), 1U) << "all of it is before the track";
-    const auto entering = barAt(0.375);
-    ASSERT_EQ(entering.size(), 2U);
-    EXPECT_DOUBLE_EQ(entering[1].rect.left(), 0);
-    EXPECT_DOUBLE_EQ(entering[1].rect.right(), 67);
-    const auto leaving = barAt(1.125);
-    ASSERT_EQ(leaving.size(), 2U);
-    EXPECT_DOUBLE_EQ(leaving[1].rect.left(), 133);
-    EXPECT_DOUBLE_EQ(leaving[1].rect.right(), 200);
+    const QImage before = barAt(0);
+    for (int x = 3; x < 197; ++x) ASSERT_EQ(before.pixelColor(x, 3), barTrack) << x;
+    EXPECT_EQ(barAt(0.375).pixelColor(72, 3), barTrack);
+    EXPECT_NE(barAt(0.375).pixelColor(60, 3), barTrack);
+    EXPECT_LT(barAt(0.375).pixelColor(0, 0).alpha(), 90) << "not beyond the track's round end";
+    EXPECT_NE(barAt(1.125).pixelColor(195, 3), barTrack);
+    EXPECT_EQ(barAt(1.125).pixelColor(130, 3), barTrack);
 }
 
-TEST(ModuleProgressBar, withoutRoomDrawsNoSliver) {
-    fakes::RecordingCanvas canvas;
-    drawProgress(canvas, {0, 6}, 0.75, barTrack, barAmber);
-    EXPECT_EQ(canvas.shapes.size(), 1U);
+TEST(ModuleProgressBar, repaintsWhenItsTimeGoesOn) {
+    ProgressPicture bar;
+    int changes = 0;
+    QObject::connect(&bar, &Drawn::changed, [&] { ++changes; });
+    bar.setProperty("seconds", 0.5);
+    bar.setProperty("seconds", 0.5);
+    EXPECT_EQ(changes, 1);
 }
 
 }  // namespace zelk

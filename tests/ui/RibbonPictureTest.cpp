@@ -3,20 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <QImage>
-#include <QPainter>
 #include <limits>
 
-#include "fakes/RecordingCanvas.h"
+#include "Painted.h"
 
 namespace zelk {
 
 namespace {
 
 using Widths = std::vector<double>;
-using Kind = fakes::DrawnShape::Kind;
 
-const QColor freeColor(255, 255, 255, 20);
+const QColor freeColor(200, 210, 220);
 const QColor segmentColors[] = {QColor(10, 20, 30), QColor(40, 50, 60), QColor(70, 80, 90)};
 
 QList<RibbonSegment> segmentsOf(const std::vector<std::int64_t>& bytes) {
@@ -26,23 +23,19 @@ QList<RibbonSegment> segmentsOf(const std::vector<std::int64_t>& bytes) {
     return segments;
 }
 
-std::vector<fakes::DrawnShape> ribbon(const std::vector<std::int64_t>& bytes, std::int64_t freeBytes) {
-    fakes::RecordingCanvas canvas;
-    drawRibbon(canvas, {400, 22}, segmentsOf(bytes), freeBytes, freeColor);
-    return canvas.shapes;
+QImage ribbon(const std::vector<std::int64_t>& bytes, double freeBytes) {
+    RibbonPicture picture;
+    picture.setProperty("segments", QVariant::fromValue(segmentsOf(bytes)));
+    picture.setProperty("freeBytes", freeBytes);
+    picture.setProperty("freeColor", freeColor);
+    return painted(picture, {400, 22});
 }
 
-/// All bars lie in the ribbon in their order, without one over another.
-void expectInOrder(const std::vector<fakes::DrawnShape>& bars) {
-    double right = 0;
-    for (const auto& bar : bars) {
-        EXPECT_EQ(bar.kind, Kind::bar);
-        EXPECT_EQ(bar.rect.top(), 0);
-        EXPECT_EQ(bar.rect.height(), 22);
-        EXPECT_GE(bar.rect.left(), right);
-        right = bar.rect.right();
-    }
-    EXPECT_LE(right, 400.0001);
+/// Whether the middle of the bar has this colour from one point to the other.
+bool isAll(const QImage& bar, int left, int right, const QColor& color) {
+    for (int x = left; x < right; ++x)
+        if (bar.pixelColor(x, 11) != color) return false;
+    return true;
 }
 
 }  // namespace
@@ -73,71 +66,53 @@ TEST(StorageRibbon, doesNotOverflowWhereTheSumHasNoRoomIn64Bits) {
 
 TEST(StorageRibbon, ofNoSegmentsIsAllFree) {
     EXPECT_EQ(ribbonWidths({}, 100, 400), Widths{400});
-    const auto bars = ribbon({}, 100);
-    ASSERT_EQ(bars.size(), 1U);
-    EXPECT_EQ(bars[0].rect, QRectF(0, 0, 400, 22));
-    EXPECT_EQ(bars[0].paint, Paint::solid(freeColor));
-    EXPECT_EQ(bars[0].leftCorner, bars[0].rightCorner);
+    EXPECT_TRUE(isAll(ribbon({}, 100), 0, 400, freeColor));
 }
 
 TEST(StorageRibbon, ofNoBytesAtAllIsAnEmptyTrack) {
     EXPECT_EQ(ribbonWidths({}, 0, 400), Widths{400});
     EXPECT_EQ(ribbonWidths({0, 0}, 0, 400), (Widths{0, 0, 400}));
     EXPECT_EQ(ribbonWidths({0, -5}, -7, 400), (Widths{0, 0, 400}));
-    const auto bars = ribbon({0, 0}, 0);
-    ASSERT_EQ(bars.size(), 1U);
-    EXPECT_EQ(bars[0].paint, Paint::solid(freeColor));
+    EXPECT_TRUE(isAll(ribbon({0, 0}, 0), 0, 400, freeColor));
 }
 
 TEST(StorageRibbon, hasASectionForEachSegmentAndLastTheFreeSpace) {
-    const auto bars = ribbon({100, 200}, 100);
-    ASSERT_EQ(bars.size(), 3U);
-    expectInOrder(bars);
-    EXPECT_EQ(bars[0].rect, QRectF(0, 0, 100, 22));
-    EXPECT_EQ(bars[1].rect, QRectF(100, 0, 200, 22));
-    EXPECT_EQ(bars[2].rect, QRectF(300, 0, 100, 22));
-    EXPECT_EQ(bars[0].paint, Paint::solid(segmentColors[0]));
-    EXPECT_EQ(bars[1].paint, Paint::solid(segmentColors[1]));
-    EXPECT_EQ(bars[2].paint, Paint::solid(freeColor));
+    const QImage bar = ribbon({100, 200}, 100);
+    EXPECT_TRUE(isAll(bar, 0, 100, segmentColors[0]));
+    EXPECT_TRUE(isAll(bar, 100, 300, segmentColors[1]));
+    EXPECT_TRUE(isAll(bar, 300, 400, freeColor));
+    EXPECT_EQ(bar.pixelColor(200, 0), segmentColors[1]);
+    EXPECT_EQ(bar.pixelColor(200, 21), segmentColors[1]);
 }
 
 TEST(StorageRibbon, isRoundAtItsOuterEnds) {
-    const auto bars = ribbon({100, 200}, 100);
-    ASSERT_EQ(bars.size(), 3U);
-    EXPECT_GT(bars[0].leftCorner, bars[0].rightCorner);
-    EXPECT_EQ(bars[1].leftCorner, bars[1].rightCorner);
-    EXPECT_EQ(bars[2].rightCorner, bars[0].leftCorner);
-    EXPECT_LT(bars[2].leftCorner, bars[2].rightCorner);
+    const QImage bar = ribbon({100, 200}, 100);
+    for (const int end : {1, 398}) {
+        EXPECT_LT(bar.pixelColor(end, 1).alpha(), 90);
+        EXPECT_LT(bar.pixelColor(end, 20).alpha(), 90);
+    }
+    for (const int inner : {97, 102, 297, 302}) EXPECT_EQ(bar.pixelColor(inner, 1).alpha(), 255) << inner;
+    for (const int edge : {99, 100, 299, 300}) EXPECT_LT(bar.pixelColor(edge, 0).alpha(), 200) << edge;
 }
 
 TEST(StorageRibbon, leavesOutWhatHasNoBytesAndRoundsItsNeighbour) {
-    const auto bars = ribbon({0, 100, 0}, 0);
-    ASSERT_EQ(bars.size(), 1U);
-    EXPECT_EQ(bars[0].rect, QRectF(0, 0, 400, 22));
-    EXPECT_EQ(bars[0].paint, Paint::solid(segmentColors[1]));
-    EXPECT_GT(bars[0].leftCorner, 2);
-    EXPECT_EQ(bars[0].leftCorner, bars[0].rightCorner);
+    const QImage bar = ribbon({0, 100, 0}, 0);
+    EXPECT_TRUE(isAll(bar, 0, 400, segmentColors[1]));
+    EXPECT_LT(bar.pixelColor(1, 1).alpha(), 90);
+    EXPECT_LT(bar.pixelColor(398, 1).alpha(), 90);
 }
 
-TEST(StorageRibbon, neverLosesAHairOfASection) {
-    const auto bars = ribbon({1, 1'000'000}, 1'000'000);
-    ASSERT_EQ(bars.size(), 3U);
-    expectInOrder(bars);
-    EXPECT_GT(bars[0].rect.width(), 0);
+TEST(StorageRibbon, keepsTinySegments) {
+    EXPECT_GT(ribbonWidths({1, 1'000'000}, 1'000'000, 400)[0], 0);
+    const QImage bar = ribbon({1, 400}, 0);
+    EXPECT_GT(alike(bar.pixelColor(0, 11), segmentColors[0], 12), alike(bar.pixelColor(1, 11), segmentColors[0], 12));
+    EXPECT_TRUE(isAll(bar, 2, 399, segmentColors[1]));
 }
 
 TEST(StorageRibbon, paintsTheFreeSpaceOfAThousandTerabytes) {
-    RibbonPicture picture;
-    picture.setSize({400, 22});
-    picture.setSegments(segmentsOf({1'000'000'000'000'000}));
-    picture.setFreeBytes(1e15);
-    picture.setFreeColor(Qt::green);
-    QImage shown(400, 22, QImage::Format_ARGB32_Premultiplied);
-    shown.fill(Qt::black);
-    QPainter painter(&shown);
-    picture.paint(&painter);
-    EXPECT_EQ(shown.pixelColor(190, 11), segmentColors[0]);
-    EXPECT_EQ(shown.pixelColor(210, 11), QColor(Qt::green));
+    const QImage bar = ribbon({1'000'000'000'000'000}, 1e15);
+    EXPECT_EQ(bar.pixelColor(190, 11), segmentColors[0]);
+    EXPECT_EQ(bar.pixelColor(210, 11), freeColor);
 }
 
 }  // namespace zelk

@@ -3,61 +3,57 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
-#include "fakes/RecordingCanvas.h"
+#include "Painted.h"
 
 namespace zelk {
 
 namespace {
 
-using Kind = fakes::DrawnShape::Kind;
-
-const QColor ringTrack(255, 255, 255, 20);
+const QColor ringTrack(20, 30, 40);
 const QColor ringAmber(245, 166, 35);
 
-double spanOf(double value) {
-    fakes::RecordingCanvas canvas;
-    drawRing(canvas, 108, value, ringTrack, ringAmber);
-    return canvas.shapes.back().span;
+QImage ringOf(double value) {
+    RingPicture ring;
+    ring.setStill(true);
+    ring.setProperty("track", ringTrack);
+    ring.setProperty("color", ringAmber);
+    ring.setValue(value);
+    return painted(ring, {108, 108});
+}
+
+/// On the middle of the line, so many degrees past noon with the clock.
+QColor at(const QImage& ring, double degrees) {
+    const double angle = degrees * std::acos(-1) / 180;
+    return ring.pixelColor(static_cast<int>(54 + 49 * std::sin(angle)), static_cast<int>(54 - 49 * std::cos(angle)));
 }
 
 }  // namespace
 
 TEST(RingGauge, isAnArcOverAFullTrackInsideItsSquare) {
-    fakes::RecordingCanvas canvas;
-    drawRing(canvas, 108, 0.25, ringTrack, ringAmber);
-    ASSERT_EQ(canvas.shapes.size(), 2U);
-    const auto& below = canvas.shapes[0];
-    EXPECT_EQ(below.kind, Kind::ring);
-    EXPECT_EQ(below.paint, Paint::solid(ringTrack));
-    const auto& arc = canvas.shapes[1];
-    EXPECT_EQ(arc.kind, Kind::roundArc);
-    EXPECT_EQ(arc.paint, Paint::solid(ringAmber));
-    for (const auto& shape : canvas.shapes) {
-        EXPECT_EQ(shape.center, QPointF(54, 54));
-        EXPECT_EQ(shape.width, 10);
-        EXPECT_EQ(shape.radius + shape.width / 2, 54);
-    }
-}
-
-TEST(RingGauge, goesFromNoonWithTheClock) {
-    fakes::RecordingCanvas canvas;
-    drawRing(canvas, 108, 0.25, ringTrack, ringAmber);
-    EXPECT_EQ(canvas.shapes.back().start, 90);
-    EXPECT_EQ(canvas.shapes.back().span, -90);
+    const QImage ring = ringOf(0.25);
+    for (const int degrees : {2, 45, 88}) EXPECT_EQ(at(ring, degrees), ringAmber) << degrees;
+    for (const int degrees : {105, 180, 270, 345}) EXPECT_TRUE(alike(at(ring, degrees), ringTrack)) << degrees;
+    EXPECT_TRUE(alike(ring.pixelColor(1, 54), ringTrack)) << "ten points wide, from the edge";
+    EXPECT_TRUE(alike(ring.pixelColor(8, 54), ringTrack));
+    EXPECT_EQ(ring.pixelColor(11, 54).alpha(), 0);
+    EXPECT_EQ(ring.pixelColor(54, 54).alpha(), 0);
+    EXPECT_EQ(at(ring, 94), ringAmber) << "its ends are round";
 }
 
 TEST(RingGauge, ofOnePointSevenIsAFullRing) {
     EXPECT_EQ(ringFraction(1.7), 1);
-    EXPECT_EQ(spanOf(1.7), -360);
-    EXPECT_EQ(spanOf(1), -360);
     EXPECT_EQ(ringFraction(std::numeric_limits<double>::infinity()), 1);
+    for (int degrees = 0; degrees < 360; degrees += 15) EXPECT_EQ(at(ringOf(1.7), degrees), ringAmber) << degrees;
 }
 
 TEST(RingGauge, ofMinusOneIsADotOfAThousandthOfATurn) {
     EXPECT_EQ(ringFraction(-1), 0.001);
-    EXPECT_DOUBLE_EQ(spanOf(-1), -0.36);
+    const QImage ring = ringOf(-1);
+    EXPECT_EQ(at(ring, 0), ringAmber);
+    for (const int degrees : {15, 90, 180, 345}) EXPECT_TRUE(alike(at(ring, degrees), ringTrack)) << degrees;
 }
 
 TEST(RingGauge, ofZeroStillShowsADot) {

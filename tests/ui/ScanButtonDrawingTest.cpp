@@ -3,130 +3,86 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/RecordingCanvas.h"
-#include "ui/theme/ZelkTheme.h"
+#include "Painted.h"
 
 namespace zelk {
 
 namespace {
 
-using fakes::DrawnShape;
-using fakes::RecordingCanvas;
-using Kind = DrawnShape::Kind;
-
 const QPointF buttonCenter(132, 132);
 const QColor accent(245, 166, 35);
 
-/// The opacity of a paint where it starts, in hundredths; -1 if it is not of the accent.
-int opacityAtStart(const Paint& paint) {
-    const QColor color = paint.stops.front().color;
-    return color.rgb() == accent.rgb() ? qRound(color.alphaF() * 100) : -1;
+template <class... Colors>
+QImage layer(void (*draw)(QPainter&, QPointF, Colors...), Colors... colors) {
+    return painted(
+        {264, 264}, [&](QPainter& painter) { draw(painter, buttonCenter, colors...); }, 4);
+}
+
+/// At so many points to the right of the middle and below it.
+QColor at(const QImage& image, double x, double y) {
+    return image.pixelColor(static_cast<int>(4 * (132 + x)), static_cast<int>(4 * (132 + y)));
+}
+
+QImage glow() {
+    return layer<const QColor&>(drawScanGlow, accent);
+}
+QImage comet() {
+    return layer<const QColor&>(drawScanComet, accent);
 }
 
 }  // namespace
 
-TEST(ScanGlow, hasThreeLayersOfTheAccent) {
-    RecordingCanvas canvas;
-    drawScanGlow(canvas, buttonCenter, accent);
-    ASSERT_EQ(canvas.shapes.size(), 3U);
-
-    const DrawnShape& near = canvas.shapes[0];
-    EXPECT_EQ(near.kind, Kind::disc);
-    EXPECT_EQ(near.center, buttonCenter);
-    EXPECT_DOUBLE_EQ(near.radius, 112);
-    EXPECT_EQ(opacityAtStart(near.paint), 55);
-
-    const DrawnShape& wide = canvas.shapes[1];
-    EXPECT_EQ(wide.kind, Kind::disc);
-    EXPECT_DOUBLE_EQ(wide.radius, 132);
-    EXPECT_EQ(opacityAtStart(wide.paint), 30);
-
-    const DrawnShape& ring = canvas.shapes[2];
-    EXPECT_EQ(ring.kind, Kind::ring);
-    EXPECT_EQ(ring.center, buttonCenter);
-    EXPECT_DOUBLE_EQ(ring.radius, 108);
-    EXPECT_DOUBLE_EQ(ring.width, 1.25);
-    EXPECT_EQ(opacityAtStart(ring.paint), 42);
+TEST(ScanGlow, isANearAWideHaloAndARingOfTheAccent) {
+    EXPECT_NEAR(at(glow(), 0, 0).alphaF(), 1 - (1 - 0.55) * (1 - 0.3), 0.01);
+    EXPECT_NEAR(at(glow(), 92, 0).alphaF(), 1 - (1 - 0.275) * (1 - 0.15), 0.01) << "half where the disc ends";
+    EXPECT_NEAR(at(glow(), 0, 115).alphaF(), 0.035, 0.01) << "the wide one alone";
+    EXPECT_NEAR(at(glow(), 108, 0).alphaF(), 1 - 0.921 * (1 - 0.42), 0.015) << "with the ring";
+    EXPECT_LT(at(glow(), 109.5, 0).alphaF(), 0.1);
+    EXPECT_TRUE(alike(QColor(at(glow(), 0, 0).rgb()), accent));
 }
 
-TEST(ScanGlow, fadesToNothingAtItsEdge) {
-    RecordingCanvas canvas;
-    drawScanGlow(canvas, buttonCenter, accent);
-    for (const std::size_t layer : {0U, 1U}) {
-        const DrawnShape& halo = canvas.shapes[layer];
-        EXPECT_EQ(halo.paint.kind, Paint::Kind::radial);
-        EXPECT_EQ(halo.paint.from, buttonCenter);
-        EXPECT_DOUBLE_EQ(halo.paint.radius, halo.radius);
-        ASSERT_EQ(halo.paint.stops.size(), 5U);
-        EXPECT_DOUBLE_EQ(halo.paint.stops.back().at, 1);
-        EXPECT_EQ(halo.paint.stops.back().color.alpha(), 0);
-        // Half as strong where the disc ends as behind it.
-        EXPECT_NEAR(halo.paint.stops[2].at, 92 / halo.radius, 1e-9);
-        EXPECT_NEAR(halo.paint.stops[2].color.alphaF(), halo.paint.stops[0].color.alphaF() / 2, 0.001);
-    }
-}
-
-TEST(ScanGlow, staysInItsFrame) {
-    RecordingCanvas canvas;
-    drawScanGlow(canvas, buttonCenter, accent);
-    for (const DrawnShape& shape : canvas.shapes)
-        EXPECT_LE(2 * (shape.radius + shape.width / 2), ScanButtonShape::frame);
+TEST(ScanGlow, fadesToNothingAtTheEdgeOfItsFrame) {
+    EXPECT_LE(at(glow(), 131.5, 0).alpha(), 1);
+    EXPECT_LE(at(glow(), 0, -131.5).alpha(), 1);
+    EXPECT_EQ(at(glow(), 100, 100).alpha(), 0);
 }
 
 TEST(ScanDisc, isFilledByTheAccentGradientFromTopLeftToBottomRight) {
-    RecordingCanvas canvas;
-    drawScanDisc(canvas, buttonCenter);
-    ASSERT_EQ(canvas.shapes.size(), 3U);
-    const DrawnShape& disc = canvas.shapes[0];
-    EXPECT_EQ(disc.kind, Kind::disc);
-    EXPECT_DOUBLE_EQ(disc.radius, 92);
-    EXPECT_EQ(disc.paint, Paint::linear({40, 40}, {224, 224}, {{0, QColor(255, 194, 75)}, {1, QColor(240, 133, 28)}}));
+    const QImage disc = layer(drawScanDisc);
+    EXPECT_TRUE(alike(at(disc, 60, 60), QColor(243, 144, 36))) << "beyond the light";
+    EXPECT_TRUE(alike(at(disc, -60, -60), QColor(253, 193, 93), 6)) << "with some of it";
+    EXPECT_EQ(at(disc, 91, 0).alpha(), 255);
+    EXPECT_EQ(at(disc, 93, 0).alpha(), 0);
 }
 
-TEST(ScanDisc, hasItsLightWithinItself) {
-    RecordingCanvas canvas;
-    drawScanDisc(canvas, buttonCenter);
-    ASSERT_EQ(canvas.shapes.size(), 3U);
-    EXPECT_EQ(canvas.shapes[1].paint.kind, Paint::Kind::radial);
-    EXPECT_DOUBLE_EQ(canvas.shapes[1].radius, 92);
-    EXPECT_EQ(canvas.shapes[2].kind, Kind::ring);
-    EXPECT_DOUBLE_EQ(canvas.shapes[2].radius + canvas.shapes[2].width / 2, 92);
+TEST(ScanDisc, hasLightOnItsUpperEdge) {
+    const QImage disc = layer(drawScanDisc);
+    EXPECT_GT(at(disc, 0, -91.5).blue(), at(disc, 0, -89).blue() + 40);
+    EXPECT_TRUE(alike(at(disc, 0, 91.2), at(disc, 0, 89), 6)) << "and none on the lower one";
 }
 
 TEST(ScanSheen, coversTheDisc) {
-    RecordingCanvas canvas;
-    drawScanSheen(canvas, buttonCenter);
-    ASSERT_EQ(canvas.shapes.size(), 1U);
-    EXPECT_DOUBLE_EQ(canvas.shapes[0].radius, 92);
+    const QImage sheen = layer(drawScanSheen);
+    EXPECT_NEAR(at(sheen, 0, 0).alphaF(), 0.12, 0.005);
+    EXPECT_NEAR(at(sheen, 91, 0).alphaF(), 0.12, 0.005);
+    EXPECT_EQ(at(sheen, 93, 0).alpha(), 0);
 }
 
 TEST(ScanComet, trailsFromNoonAgainstTheClock) {
-    RecordingCanvas canvas;
-    drawScanComet(canvas, buttonCenter, accent);
-    ASSERT_EQ(canvas.shapes.size(), 2U);
-
-    const DrawnShape& tail = canvas.shapes[0];
-    EXPECT_EQ(tail.kind, Kind::arc);
-    EXPECT_DOUBLE_EQ(tail.radius, 108);
-    EXPECT_DOUBLE_EQ(tail.width, 3);
-    EXPECT_DOUBLE_EQ(tail.start, 90);
-    EXPECT_DOUBLE_EQ(tail.span, 270);
-    EXPECT_EQ(tail.paint.kind, Paint::Kind::conical);
-    EXPECT_DOUBLE_EQ(tail.paint.angle, 90);
-    EXPECT_EQ(tail.paint.stops.front().color.alpha(), 255);
-    EXPECT_EQ(tail.paint.stops.back().color.alpha(), 0);
-
-    const DrawnShape& head = canvas.shapes[1];
-    EXPECT_EQ(head.kind, Kind::disc);
-    EXPECT_EQ(head.center, QPointF(132, 24));
-    EXPECT_DOUBLE_EQ(head.radius, 3);
+    EXPECT_EQ(at(comet(), 0, -108), accent) << "the head";
+    EXPECT_EQ(at(comet(), 2.5, -108), accent);
+    EXPECT_NEAR(at(comet(), -108, 0).alphaF(), 0.45, 0.02) << "at nine";
+    EXPECT_NEAR(at(comet(), 0, 108).alphaF(), 0.225, 0.02) << "at six";
+    EXPECT_LE(at(comet(), 107.9, 1).alpha(), 2) << "at three";
+    EXPECT_EQ(at(comet(), 76.4, -76.4).alpha(), 0);
+    EXPECT_EQ(at(comet(), -105, 0).alpha(), 0) << "three wide";
+    EXPECT_EQ(at(comet(), -111, 0).alpha(), 0);
 }
 
 TEST(ScanComet, staysInItsFrameAllTheWayRound) {
-    RecordingCanvas canvas;
-    drawScanComet(canvas, buttonCenter, accent);
-    const double reach = ScanButtonShape::ringRadius + canvas.shapes[1].radius;
-    EXPECT_LE(2 * reach, ScanButtonShape::turningFrame);
+    constexpr double reach = ScanButtonShape::turningFrame / 2;
+    for (const QPointF edge : {QPointF(0, -reach), QPointF(reach, 0), QPointF(0, reach), QPointF(-reach, 0)})
+        EXPECT_EQ(at(comet(), edge.x(), edge.y()).alpha(), 0);
 }
 
 }  // namespace zelk

@@ -3,46 +3,49 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/RecordingCanvas.h"
+#include "Painted.h"
 
 namespace zelk {
 
 namespace {
 
-const QColor shareTrack(255, 255, 255, 20);
+const QColor shareTrack(20, 30, 40);
 const QColor shareColor(167, 123, 255);
 
-std::vector<fakes::DrawnShape> barOf(double share) {
-    fakes::RecordingCanvas canvas;
-    drawShare(canvas, {200, 6}, share, shareTrack, shareColor);
-    return canvas.shapes;
+QImage barOf(double share) {
+    SharePicture bar;
+    bar.setProperty("track", shareTrack);
+    bar.setProperty("color", shareColor);
+    bar.setProperty("share", share);
+    return painted(bar, {200, 6});
+}
+
+/// How far the share reaches along the middle of the bar.
+int reachOf(double share) {
+    const QImage bar = barOf(share);
+    int reach = 0;
+    while (reach < 200 && bar.pixelColor(reach, 3).red() > 90) ++reach;
+    return reach;
 }
 
 }  // namespace
 
 TEST(ShareBar, fillsItsTrackFromTheLeft) {
-    const auto shapes = barOf(0.25);
-    ASSERT_EQ(shapes.size(), 2U);
-    EXPECT_EQ(shapes[0].rect, QRectF(0, 0, 200, 6));
-    EXPECT_EQ(shapes[0].paint, Paint::solid(shareTrack));
-    EXPECT_EQ(shapes[1].rect, QRectF(0, 0, 50, 6));
-    EXPECT_EQ(shapes[1].paint, Paint::solid(shareColor));
-    for (const auto& shape : shapes) {
-        EXPECT_EQ(shape.kind, fakes::DrawnShape::Kind::bar);
-        EXPECT_EQ(shape.leftCorner, 3);
-        EXPECT_EQ(shape.rightCorner, 3);
-    }
+    EXPECT_NEAR(reachOf(0.25), 50, 1);
+    EXPECT_NEAR(reachOf(0.5), 100, 1);
+    EXPECT_EQ(barOf(0.25).pixelColor(60, 3), shareTrack);
+    EXPECT_LT(barOf(0.25).pixelColor(49, 0).red(), 60) << "its end is round";
+    EXPECT_LT(barOf(0.25).pixelColor(0, 0).alpha(), 90) << "and so is the track's";
 }
 
 TEST(ShareBar, isBareAtNothingAndADotAtTheLeastBeginning) {
-    EXPECT_EQ(barOf(0).size(), 1U);
-    ASSERT_EQ(barOf(0.001).size(), 2U);
-    EXPECT_EQ(barOf(0.001)[1].rect, QRectF(0, 0, 6, 6));
+    EXPECT_EQ(reachOf(0), 0);
+    EXPECT_NEAR(reachOf(0.001), 6, 1);
 }
 
 TEST(ShareBar, isNeverMoreThanItsTrack) {
-    EXPECT_EQ(barOf(1)[1].rect, QRectF(0, 0, 200, 6));
-    EXPECT_EQ(barOf(1.7)[1].rect, QRectF(0, 0, 200, 6));
+    EXPECT_GE(reachOf(1), 199);
+    EXPECT_EQ(barOf(1.7), barOf(1));
 }
 
 }  // namespace zelk

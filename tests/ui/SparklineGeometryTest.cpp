@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/RecordingCanvas.h"
+#include "Painted.h"
 #include "ui/charts/SparklinePicture.h"
 
 namespace zelk {
@@ -11,10 +11,16 @@ namespace zelk {
 namespace {
 
 using Points = std::vector<QPointF>;
-using Kind = fakes::DrawnShape::Kind;
 
 constexpr QSizeF frame(120, 44);
 const QColor amber(245, 166, 35);
+
+QImage curve(const QList<qreal>& values) {
+    SparklinePicture picture;
+    picture.setProperty("values", QVariant::fromValue(values));
+    picture.setProperty("color", amber);
+    return painted(picture, frame.toSize());
+}
 
 }  // namespace
 
@@ -45,9 +51,7 @@ TEST(Sparkline, goesBelowZero) {
 TEST(Sparkline, ofASingleValueOrOfNoneIsNothing) {
     for (const std::vector<double>& values : {std::vector<double>{}, std::vector<double>{7}}) {
         EXPECT_EQ(sparklinePoints(values, frame), Points());
-        fakes::RecordingCanvas canvas;
-        drawSparkline(canvas, values, frame, amber);
-        EXPECT_TRUE(canvas.shapes.empty()) << values.size();
+        EXPECT_EQ(curve({values.begin(), values.end()}), curve({})) << values.size();
     }
     EXPECT_EQ(sparklineArea({}, 44), Points());
 }
@@ -58,27 +62,17 @@ TEST(Sparkline, standsOnTheFloorOfItsFrame) {
 }
 
 TEST(Sparkline, isAFadingAreaUnderALineOfTwo) {
-    fakes::RecordingCanvas canvas;
-    drawSparkline(canvas, {10, 30, 20}, frame, amber);
-    ASSERT_EQ(canvas.shapes.size(), 2U);
-    const auto& area = canvas.shapes[0];
-    EXPECT_EQ(area.kind, Kind::area);
-    EXPECT_EQ(area.points, (Points{{0, 44}, {0, 42}, {60, 2}, {120, 22}, {120, 44}}));
-    EXPECT_EQ(area.paint.kind, Paint::Kind::linear);
-    EXPECT_EQ(area.paint.from, QPointF(0, 0));
-    EXPECT_EQ(area.paint.to, QPointF(0, 44));
-    ASSERT_EQ(area.paint.stops.size(), 2U);
-    EXPECT_EQ(area.paint.stops[0].at, 0);
-    EXPECT_NEAR(area.paint.stops[0].color.alphaF(), 0.28, 0.001);
-    EXPECT_EQ(area.paint.stops[1].at, 1);
-    EXPECT_NEAR(area.paint.stops[1].color.alphaF(), 0.02, 0.001);
-    for (const GradientStop& stop : area.paint.stops) EXPECT_EQ(stop.color.rgb(), amber.rgb());
+    EXPECT_EQ(curve({}).pixelColor(60, 30).alpha(), 0);
+    const QImage flat = curve({7, 7, 7});
+    EXPECT_EQ(flat.pixelColor(60, 41), amber) << "on the floor, from 41 to 43";
+    EXPECT_EQ(flat.pixelColor(60, 42), amber);
+    EXPECT_EQ(flat.pixelColor(60, 40).alpha(), 0);
+    EXPECT_LT(flat.pixelColor(60, 43).alpha(), 40);
 
-    const auto& line = canvas.shapes[1];
-    EXPECT_EQ(line.kind, Kind::line);
-    EXPECT_EQ(line.points, (Points{{0, 42}, {60, 2}, {120, 22}}));
-    EXPECT_EQ(line.width, 2);
-    EXPECT_EQ(line.paint, Paint::solid(amber));
+    const QImage peak = curve({10, 30, 20});
+    EXPECT_EQ(peak.pixelColor(10, 2).alpha(), 0) << "above the curve";
+    EXPECT_NEAR(peak.pixelColor(60, 10).alphaF(), 0.218, 0.01) << "0.28 at the top";
+    EXPECT_NEAR(peak.pixelColor(60, 42).alphaF(), 0.029, 0.01) << "to 0.02 at the floor";
 }
 
 }  // namespace zelk

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/charts/BubbleDrawing.h"
 
+#include <QPainter>
 #include <algorithm>
+#include <string_view>
+#include <unordered_map>
 
+#include "ui/charts/Circles.h"
 #include "ui/charts/LabelFitting.h"
-#include "ui/controls/Canvas.h"
+#include "ui/controls/Brushes.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/ZelkTheme.h"
 
@@ -21,112 +25,119 @@ constexpr double leastForSize = 50;
 constexpr double focusOffset = 5;
 constexpr double focusWidth = 3;
 
-Shadow shadowOf(double r, bool dark) {
-    return {withOpacity(Qt::black, dark ? 0.5 : 0.22), std::max(0.16 * r, 3.0), {0, std::max(0.08 * r, 1.0)}};
+double shadowBlur(double r) {
+    return std::max(0.16 * r, 3.0);
+}
+double shadowDrop(double r) {
+    return std::max(0.08 * r, 1.0);
 }
 
-/// One bubble. Its lengths are shares of its radius, so that a ball of any size is the same ball.
-class Ball {
-public:
-    Ball(Canvas& canvas, const PackedCircle& circle, const BubbleSlice& slice, const BubbleLook& look)
-        : canvas_(canvas), slice_(slice), look_(look), center_(circle.center.x, circle.center.y), r_(circle.radius) {}
+QPointF middleOf(const PackedCircle& circle) {
+    return {circle.center.x, circle.center.y};
+}
 
-    void draw(bool hovered) const {
-        drawGlass();
-        drawEmphasis(hovered);
-        if (!slice_.icon.isNull() && r_ >= leastForIcon) {
-            drawIcon();
-        } else if (r_ >= leastForLabel) {
-            const double size = std::clamp(0.4 * r_, 9 * look_.textScale, 15 * look_.textScale);
-            drawLabel(r_ >= leastForSize ? -8 : 0, size);
-        }
-        if (r_ >= leastForSize) drawSize();
-    }
+void drawGlass(QPainter& painter, QPointF center, double r, const QColor& color, bool dark) {
+    drawDiscShadow(painter, center, r, withOpacity(Qt::black, dark ? 0.5 : 0.22), shadowBlur(r), shadowDrop(r));
+    fillDisc(painter, center, r, color);
+    fillDisc(painter, center, r,
+             radialBrush(center - QPointF(0.3 * r, 0.36 * r), 1.55 * r,
+                         {{0, mix(color, Qt::white, 0.42)}, {1, mix(color, Qt::black, 0.28)}}));
+    drawRing(painter, center, r + 1, 1.5, withOpacity(mix(color, Qt::white, 0.55), 0.7));
+    drawRing(painter, center, r, 1, withOpacity(Qt::white, 0.12));
+    if (r < leastForHighlight) return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(withOpacity(Qt::white, 0.16));
+    painter.drawEllipse(QRectF(center.x() - 0.46 * r, center.y() - 0.74 * r, 0.92 * r, 0.48 * r));
+}
 
-private:
-    QPointF below(double distance) const { return center_ + QPointF(0, distance); }
-
-    void drawGlass() const {
-        const QColor& color = slice_.color;
-        canvas_.shadowedDisc(center_, r_, Paint::solid(color), shadowOf(r_, look_.dark));
-        canvas_.disc(center_, r_,
-                     Paint::radial(center_ - QPointF(0.3 * r_, 0.36 * r_), 1.55 * r_,
-                                   {{0, mix(color, Qt::white, 0.42)}, {1, mix(color, Qt::black, 0.28)}}));
-        canvas_.ring(center_, r_ + 1, 1.5, Paint::solid(withOpacity(mix(color, Qt::white, 0.55), 0.7)));
-        canvas_.ring(center_, r_, 1, Paint::solid(withOpacity(Qt::white, 0.12)));
-        if (r_ >= leastForHighlight) {
-            canvas_.ellipse({center_.x() - 0.46 * r_, center_.y() - 0.74 * r_, 0.92 * r_, 0.48 * r_},
-                            Paint::solid(withOpacity(Qt::white, 0.16)));
-        }
-    }
-
-    void drawEmphasis(bool hovered) const {
-        if (slice_.selected)
-            canvas_.ring(center_, r_, 3, Paint::solid(Qt::white));
-        else if (hovered)
-            canvas_.ring(center_, r_, 2, Paint::solid(withOpacity(Qt::white, 0.85)));
-    }
-
-    void drawIcon() const {
-        const bool labelled = r_ >= leastForIconAndLabel;
-        const double side = (labelled ? 0.62 : 0.85) * r_;
-        const QPointF middle = below(labelled ? -0.24 * r_ : 0);
-        canvas_.image({middle.x() - side / 2, middle.y() - side / 2, side, side}, slice_.icon);
-        if (labelled) drawLabel((r_ >= leastForSize ? 0.3 : 0.42) * r_, std::min(0.26 * r_, 15 * look_.textScale));
-    }
-
-    void drawLabel(double offset, double size) const {
-        const Lettering lettering{size, Lettering::Weight::semibold, false};
-        const QString text = fittedLabel(slice_.label, widestText(), size,
-                                         [&](const QString& part) { return canvas_.textWidth(part, lettering); });
-        if (!text.isEmpty()) canvas_.text(below(offset), text, lettering, Qt::white);
-    }
-
-    void drawSize() const {
-        const Lettering lettering{std::min(0.2 * r_, 13 * look_.textScale), Lettering::Weight::medium, true};
-        const QString text = byteFigure(slice_.bytes);
-        if (canvas_.textWidth(text, lettering) <= widestText())
-            canvas_.text(below(0.52 * r_), text, lettering, withOpacity(Qt::white, 0.95));
-    }
-
-    double widestText() const { return 1.5 * r_; }
-
-    Canvas& canvas_;
-    const BubbleSlice& slice_;
-    const BubbleLook& look_;
-    QPointF center_;
-    double r_;
-};
+void drawEmphasis(QPainter& painter, QPointF center, double r, bool selected, bool hovered) {
+    if (selected)
+        drawRing(painter, center, r, 3, Qt::white);
+    else if (hovered)
+        drawRing(painter, center, r, 2, withOpacity(Qt::white, 0.85));
+}
 
 }  // namespace
 
-SlicesByID byID(const std::vector<BubbleSlice>& slices) {
-    SlicesByID found;
-    for (const BubbleSlice& slice : slices) found.emplace(slice.id, &slice);
-    return found;
+ShownSlices slicesOf(const std::vector<PackedCircle>& circles, const std::vector<BubbleSlice>& slices) {
+    std::unordered_map<std::string_view, const BubbleSlice*> byID;
+    for (const BubbleSlice& slice : slices) byID.emplace(slice.id, &slice);
+    ShownSlices shown;
+    for (const PackedCircle& circle : circles) {
+        const auto found = byID.find(circle.id);
+        shown.push_back(found == byID.end() ? nullptr : found->second);
+    }
+    return shown;
 }
 
-void drawBubbles(Canvas& canvas, const std::vector<PackedCircle>& circles, const SlicesByID& slices,
-                 const std::optional<std::string>& hoveredID, const BubbleLook& look) {
-    for (const PackedCircle& circle : circles) {
-        const auto slice = slices.find(circle.id);
-        if (slice != slices.end() && canvas.shows(bubbleBox(circle)))
-            Ball(canvas, circle, *slice->second, look).draw(circle.id == hoveredID);
+BubbleFace bubbleFace(const PackedCircle& circle, const BubbleSlice& slice, double textScale,
+                      const std::function<double(const QString&, BubbleFont, double)>& widthOf) {
+    const double r = circle.radius;
+    const double room = 1.5 * r;
+    const bool large = r >= leastForSize;
+    const auto below = [&](double distance) { return middleOf(circle) + QPointF(0, distance); };
+    const auto label = [&](double offset, double size) {
+        const auto width = [&](const QString& part) { return widthOf(part, BubbleFont::label, size); };
+        return BubbleText{fittedLabel(slice.label, room, size, width), below(offset), size};
+    };
+
+    BubbleFace face;
+    if (!slice.icon.isNull() && r >= leastForIcon) {
+        const bool labelled = r >= leastForIconAndLabel;
+        const double side = (labelled ? 0.62 : 0.85) * r;
+        const QPointF middle = below(labelled ? -0.24 * r : 0);
+        face.icon = {middle.x() - side / 2, middle.y() - side / 2, side, side};
+        if (labelled) face.label = label((large ? 0.3 : 0.42) * r, std::min(0.26 * r, 15 * textScale));
+    } else if (r >= leastForLabel) {
+        face.label = label(large ? -8 : 0, std::clamp(0.4 * r, 9 * textScale, 15 * textScale));
+    }
+    if (large) {
+        const double size = std::min(0.2 * r, 13 * textScale);
+        const QString text = byteFigure(slice.bytes);
+        if (widthOf(text, BubbleFont::size, size) <= room) face.bytes = {text, below(0.52 * r), size};
+    }
+    return face;
+}
+
+std::vector<std::size_t> paintedBubbles(const std::vector<PackedCircle>& circles, const ShownSlices& slices,
+                                        const QRectF& clip) {
+    std::vector<std::size_t> painted;
+    for (std::size_t at = 0; at < circles.size(); ++at)
+        if (slices[at] != nullptr && (clip.isNull() || clip.intersects(bubbleBox(circles[at])))) painted.push_back(at);
+    return painted;
+}
+
+void drawBubbles(QPainter& painter, const std::vector<PackedCircle>& circles, const ShownSlices& slices,
+                 const std::optional<std::string>& hoveredID, const BubbleLook& look, BubbleTexts& texts) {
+    const auto widthOf = [&](const QString& text, BubbleFont kind, double size) {
+        return texts.width(text, kind, size);
+    };
+    const QRectF clip = painter.hasClipping() ? painter.clipBoundingRect() : QRectF();
+    for (const std::size_t at : paintedBubbles(circles, slices, clip)) {
+        const PackedCircle& circle = circles[at];
+        const BubbleSlice& slice = *slices[at];
+        drawGlass(painter, middleOf(circle), circle.radius, slice.color, look.dark);
+        drawEmphasis(painter, middleOf(circle), circle.radius, slice.selected, circle.id == hoveredID);
+        const BubbleFace face = bubbleFace(circle, slice, look.textScale, widthOf);
+        if (!face.icon.isNull()) painter.drawImage(face.icon, slice.icon);
+        const auto write = [&](const BubbleText& line, BubbleFont kind, const QColor& color) {
+            if (!line.text.isEmpty()) texts.write(painter, line.middle, line.text, kind, line.size, color);
+        };
+        write(face.label, BubbleFont::label, Qt::white);
+        write(face.bytes, BubbleFont::size, withOpacity(Qt::white, 0.95));
     }
 }
 
-void drawBubbleFocus(Canvas& canvas, const PackedCircle& circle, const QColor& line, const QColor& ground) {
-    const QPointF center(circle.center.x, circle.center.y);
+void drawBubbleFocus(QPainter& painter, const PackedCircle& circle, const QColor& line, const QColor& ground) {
     const double radius = std::max(circle.radius, 0.0) + focusOffset;
-    canvas.ring(center, radius, focusWidth + 4, Paint::solid(ground));
-    canvas.ring(center, radius, focusWidth, Paint::solid(line));
+    drawRing(painter, middleOf(circle), radius, focusWidth + 4, ground);
+    drawRing(painter, middleOf(circle), radius, focusWidth, line);
 }
 
 QRectF bubbleBox(const PackedCircle& circle) {
     const double radius = std::max(circle.radius, 0.0);
-    const Shadow shadow = shadowOf(radius, true);
     // A blur fades out at one and a half times its own length.
-    const double reach = radius + std::max(1.5 * shadow.blur + shadow.offset.y(), focusOffset + focusWidth) + 2;
+    const double reach = radius + std::max(1.5 * shadowBlur(radius) + shadowDrop(radius), focusOffset + focusWidth) + 2;
     return {circle.center.x - reach, circle.center.y - reach, 2 * reach, 2 * reach};
 }
 

@@ -17,24 +17,20 @@ QString shareText(double share) {
                        : QStringLiteral("%1% of the map").arg(std::lround(percent));
 }
 
-const BubbleSlice* sliceOf(const PackedCircle& circle, const SlicesByID& slices) {
-    const auto found = slices.find(circle.id);
-    return found == slices.end() ? nullptr : found->second;
-}
-
 }  // namespace
 
-std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, const SlicesByID& slices) {
+std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, const ShownSlices& slices) {
     double all = 0;
-    for (const PackedCircle& circle : circles)
-        if (const BubbleSlice* slice = sliceOf(circle, slices)) all += static_cast<double>(slice->bytes);
+    for (const BubbleSlice* slice : slices)
+        if (slice != nullptr) all += static_cast<double>(slice->bytes);
 
     std::vector<BubbleNode> nodes;
-    for (const PackedCircle& circle : circles) {
+    for (std::size_t at = 0; at < circles.size(); ++at) {
         BubbleNode& node = nodes.emplace_back();
+        const PackedCircle& circle = circles[at];
         const double radius = std::max(circle.radius, 0.0);
         node.box = {circle.center.x - radius, circle.center.y - radius, 2 * radius, 2 * radius};
-        const BubbleSlice* slice = sliceOf(circle, slices);
+        const BubbleSlice* slice = slices[at];
         if (slice == nullptr) continue;
         const double share = all > 0 ? static_cast<double>(slice->bytes) / all : 0;
         node.name = QStringLiteral("%1, %2, %3").arg(slice->label, byteFigure(slice->bytes), shareText(share));

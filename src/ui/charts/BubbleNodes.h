@@ -22,7 +22,7 @@ struct BubbleNode {
 };
 
 /// The bubbles that are on the map, in its order.
-std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, const SlicesByID& slices);
+std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, const ShownSlices& slices);
 
 /// The same as rows: a map that is laid out anew moves them and makes none. Main thread.
 class BubbleNodes : public QAbstractListModel {

@@ -26,6 +26,7 @@ BubblePicture::BubblePicture(QQuickItem* parent) : Drawn(parent) {
     setAcceptHoverEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton);
     setActiveFocusOnTab(true);
+    connect(this, &Drawn::changed, this, &BubblePicture::retip);
 }
 
 void BubblePicture::setModel(BubbleModel* model) {
@@ -41,33 +42,13 @@ void BubblePicture::setModel(BubbleModel* model) {
     emit modelChanged();
 }
 
-void BubblePicture::setDark(bool dark) {
-    if (take(look_.dark, dark)) emit lookChanged();
-}
-
-void BubblePicture::setAccent(const QColor& accent) {
-    if (take(accent_, accent)) emit lookChanged();
-}
-
-void BubblePicture::setGround(const QColor& ground) {
-    if (take(ground_, ground)) emit lookChanged();
-}
-
-void BubblePicture::setTextScale(double scale) {
-    if (!take(look_.textScale, scale)) return;
-    retip();
-    emit lookChanged();
-}
-
 const std::vector<BubbleSlice>& BubblePicture::slices() const {
     static const std::vector<BubbleSlice> none;
     return model_ == nullptr ? none : model_->slices();
 }
 
 const BubbleSlice* BubblePicture::sliceAt(std::size_t index) const {
-    const SlicesByID found = byID(slices());
-    const auto slice = found.find(packed_.at(index).id);
-    return slice == found.end() ? nullptr : slice->second;
+    return model_ == nullptr ? nullptr : shown_.at(index);
 }
 
 const BubbleSlice* BubblePicture::currentSlice() const {
@@ -110,7 +91,8 @@ void BubblePicture::repack() {
 
 /// After whatever changes what is drawn and said.
 void BubblePicture::refresh() {
-    nodes_.show(bubbleNodes(packed_, byID(slices())));
+    shown_ = slicesOf(packed_, slices());
+    nodes_.show(bubbleNodes(packed_, shown_));
     nodes_.setCurrent(visualFocus() ? current_ : std::nullopt);
     retip();
     update();
@@ -129,9 +111,9 @@ void BubblePicture::updateBubble(const std::optional<std::size_t>& index) {
     if (index) update(bubbleBox(packed_[*index]).toAlignedRect());
 }
 
-void BubblePicture::draw(Canvas& canvas) const {
-    drawBubbles(canvas, packed_, byID(slices()), hoveredID_, look_);
-    if (visualFocus() && currentSlice() != nullptr) drawBubbleFocus(canvas, packed_[*current_], accent_, ground_);
+void BubblePicture::draw(QPainter& painter) {
+    drawBubbles(painter, packed_, shown_, hoveredID_, {dark_, textScale_}, texts_);
+    if (visualFocus() && currentSlice() != nullptr) drawBubbleFocus(painter, packed_[*current_], accent_, ground_);
 }
 
 void BubblePicture::componentComplete() {
@@ -304,7 +286,7 @@ void BubblePicture::retip() {
     BubbleTip tip;
     if (slice != nullptr) {
         const PackedPoint middle = packed_[*index].center;
-        tip = BubbleTip::of(*slice, atKeys ? QPointF(middle.x, middle.y) : hoverPoint_, size(), look_.textScale);
+        tip = BubbleTip::of(*slice, atKeys ? QPointF(middle.x, middle.y) : hoverPoint_, size(), textScale_);
     }
     if (tip == tip_) return;
     tip_ = tip;

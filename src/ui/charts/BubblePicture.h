@@ -28,10 +28,11 @@ class BubblePicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(zelk::BubbleModel* model READ model WRITE setModel NOTIFY modelChanged FINAL REQUIRED)
-    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY lookChanged FINAL)
-    Q_PROPERTY(QColor accent READ accent WRITE setAccent NOTIFY lookChanged FINAL)
-    Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY lookChanged FINAL)
-    Q_PROPERTY(double textScale READ textScale WRITE setTextScale NOTIFY lookChanged FINAL)
+    Q_PROPERTY(bool dark MEMBER dark_ NOTIFY changed FINAL)
+    // Of the line around the bubble that the keyboard is at, and of what it is set off with.
+    Q_PROPERTY(QColor accent MEMBER accent_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor ground MEMBER ground_ NOTIFY changed FINAL)
+    Q_PROPERTY(double textScale MEMBER textScale_ NOTIFY changed FINAL)
     Q_PROPERTY(bool visualFocus READ visualFocus NOTIFY visualFocusChanged FINAL)
     Q_PROPERTY(bool empty READ isEmpty NOTIFY packedChanged FINAL)
     Q_PROPERTY(QString currentName READ currentName NOTIFY currentChanged FINAL)
@@ -43,15 +44,6 @@ public:
 
     BubbleModel* model() const { return model_; }
     void setModel(BubbleModel* model);
-    bool dark() const { return look_.dark; }
-    void setDark(bool dark);
-    /// Of the line around the bubble that the keyboard is at, and of what it is set off with.
-    QColor accent() const { return accent_; }
-    void setAccent(const QColor& accent);
-    QColor ground() const { return ground_; }
-    void setGround(const QColor& ground);
-    double textScale() const { return look_.textScale; }
-    void setTextScale(double scale);
 
     const std::vector<PackedCircle>& packed() const { return packed_; }
     bool isEmpty() const { return packed_.empty(); }
@@ -73,14 +65,13 @@ public:
 
 signals:
     void modelChanged();
-    void lookChanged();
     void visualFocusChanged();
     void packedChanged();
     void currentChanged();
     void tipChanged();
 
 protected:
-    void draw(Canvas& canvas) const override;
+    void draw(QPainter& painter) override;
     void componentComplete() override;
     void geometryChange(const QRectF& now, const QRectF& before) override;
     void hoverEnterEvent(QHoverEvent* event) override;
@@ -115,11 +106,14 @@ private:
     std::optional<std::size_t> indexOf(const std::optional<std::string>& id) const;
 
     QPointer<BubbleModel> model_;
-    BubbleLook look_;
+    bool dark_ = true;
+    double textScale_ = 1;
     QColor accent_;
     QColor ground_;
     std::vector<PackedCircle> packed_;
-    std::string key_;  // of the slices
+    ShownSlices shown_;  // what packed_ shows of slices()
+    BubbleTexts texts_;  // as long as the map: with every frame it writes much the same
+    std::string key_;    // of the slices
     std::optional<std::string> hoveredID_;
     QPointF hoverPoint_;
     std::optional<QPointF> pressed_;

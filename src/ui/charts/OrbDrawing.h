@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
-// How a module's orb, the light behind it and the marks of the house look. Drawings are functions of a Canvas.
+// How a module's orb, the light behind it and the marks of the house look. Each draws with a painter that is
+// anti-aliased.
 #pragma once
 
 #include <QColor>
 #include <QPointF>
 #include <QRectF>
 
-namespace zelk {
+class QPainter;
 
-class Canvas;
+namespace zelk {
 
 /// The measures of an orb, in points. Everything shares one centre, but for the shadow.
 struct OrbShape {
@@ -25,23 +26,23 @@ struct OrbShape {
 };
 
 /// The disc in the module's colour, and its shadow.
-void drawOrbDisc(Canvas& canvas, QPointF center, const QColor& tint);
+void drawOrbDisc(QPainter& painter, QPointF center, const QColor& tint);
 
 /// One of the rings around it, counted from the inmost.
-void drawOrbRing(Canvas& canvas, QPointF center, int ring, const QColor& tint);
+void drawOrbRing(QPainter& painter, QPointF center, int ring, const QColor& tint);
 
 /// The light in the colour of the module behind its first face. Opacity of its middle by theme; in points.
 struct ModuleGlow {
     static constexpr double endRadius = 520;
     static double opacity(bool dark) { return dark ? 0.18 : 0.12; }
 };
-void drawModuleGlow(Canvas& canvas, QPointF center, const QColor& tint, bool dark);
+void drawModuleGlow(QPainter& painter, QPointF center, const QColor& tint, bool dark);
 
 /// The mark of the About window: a disc in the accent gradient inside a glow. In points.
 struct AboutMark {
     static constexpr double discRadius = 39;
     static constexpr double glowRadius = 48;
 };
-void drawAboutMark(Canvas& canvas, QPointF center, const QColor& accent);
+void drawAboutMark(QPainter& painter, QPointF center, const QColor& accent);
 
 }  // namespace zelk

@@ -3,7 +3,6 @@
 
 #include "ui/charts/HouseTile.h"
 #include "ui/charts/OrbDrawing.h"
-#include "ui/controls/PainterCanvas.h"
 
 namespace zelk {
 
@@ -31,7 +30,7 @@ double sideOf(PaintedLayer::Kind kind) {
 
 }  // namespace
 
-PaintedLayer::PaintedLayer(QQuickItem* parent) : QQuickPaintedItem(parent) {
+PaintedLayer::PaintedLayer(QQuickItem* parent) : Drawn(parent) {
     setImplicitSize(sideOf(kind_), sideOf(kind_));
 }
 
@@ -39,40 +38,24 @@ void PaintedLayer::setKind(Kind kind) {
     if (kind == kind_) return;
     kind_ = kind;
     setImplicitSize(sideOf(kind), sideOf(kind));
-    update();
-    emit kindChanged();
+    emit changed();
 }
 
-void PaintedLayer::setColor(const QColor& color) {
-    if (color == color_) return;
-    color_ = color;
-    update();
-    emit colorChanged();
-}
-
-void PaintedLayer::setDark(bool dark) {
-    if (dark == dark_) return;
-    dark_ = dark;
-    update();
-    emit darkChanged();
-}
-
-void PaintedLayer::paint(QPainter* painter) {
-    PainterCanvas canvas(*painter);
+void PaintedLayer::draw(QPainter& painter) {
     const QPointF center = boundingRect().center();
     switch (kind_) {
         case OrbDisc:
-            return drawOrbDisc(canvas, center, color_);
+            return drawOrbDisc(painter, center, color_);
         case InnerRing:
         case MiddleRing:
         case OuterRing:
-            return drawOrbRing(canvas, center, kind_ - InnerRing, color_);
+            return drawOrbRing(painter, center, kind_ - InnerRing, color_);
         case Glow:
-            return drawModuleGlow(canvas, center, color_, dark_);
+            return drawModuleGlow(painter, center, color_, dark_);
         case Mark:
-            return drawAboutMark(canvas, center, color_);
+            return drawAboutMark(painter, center, color_);
         case Tile:
-            return paintHouseTile(*painter, width());
+            return paintHouseTile(painter, width());
     }
 }
 

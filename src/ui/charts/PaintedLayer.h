@@ -3,18 +3,20 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
-#include <QQuickPaintedItem>
+
+#include "ui/controls/Drawn.h"
 
 namespace zelk {
 
 /// One picture of the navigation in the size that it needs. It is painted when its colour changes; what moves is the
 /// whole layer.
-class PaintedLayer : public QQuickPaintedItem {
+class PaintedLayer : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY kindChanged FINAL REQUIRED)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL REQUIRED)
-    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
+    Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY changed FINAL REQUIRED)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
+    // What it stands on; only the glow asks.
+    Q_PROPERTY(bool dark MEMBER dark_ NOTIFY changed FINAL)
 
 public:
     enum Kind { OrbDisc, InnerRing, MiddleRing, OuterRing, Glow, Mark, Tile };
@@ -24,18 +26,9 @@ public:
 
     Kind kind() const { return kind_; }
     void setKind(Kind kind);
-    QColor color() const { return color_; }
-    void setColor(const QColor& color);
-    /// What it stands on; only the glow asks.
-    bool dark() const { return dark_; }
-    void setDark(bool dark);
 
-    void paint(QPainter* painter) override;
-
-signals:
-    void kindChanged();
-    void colorChanged();
-    void darkChanged();
+protected:
+    void draw(QPainter& painter) override;
 
 private:
     Kind kind_ = OrbDisc;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/charts/RibbonPicture.h"
 
+#include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
-
-#include "ui/controls/Canvas.h"
 
 namespace zelk {
 
@@ -24,40 +24,36 @@ std::vector<double> ribbonWidths(const std::vector<std::int64_t>& bytes, std::in
     return widths;
 }
 
-void drawRibbon(Canvas& canvas, QSizeF size, const QList<RibbonSegment>& segments, std::int64_t freeBytes,
-                const QColor& freeColor) {
+/// A bar whose two left corners have one radius and its two right corners another, as far as there is room for them.
+static QPainterPath barPath(const QRectF& rect, double leftCorner, double rightCorner) {
+    const double most = std::min(rect.height(), rect.width()) / 2;
+    const double left = std::min(leftCorner, most);
+    const double right = std::min(rightCorner, most);
+    QPainterPath path(rect.topLeft() + QPointF(left, 0));
+    path.arcTo(QRectF(rect.right() - 2 * right, rect.top(), 2 * right, 2 * right), 90, -90);
+    path.arcTo(QRectF(rect.right() - 2 * right, rect.bottom() - 2 * right, 2 * right, 2 * right), 0, -90);
+    path.arcTo(QRectF(rect.left(), rect.bottom() - 2 * left, 2 * left, 2 * left), 270, -90);
+    path.arcTo(QRectF(rect.left(), rect.top(), 2 * left, 2 * left), 180, -90);
+    return path;
+}
+
+void RibbonPicture::draw(QPainter& painter) {
     constexpr double outerCorner = 6;
     constexpr double innerCorner = 1.5;
     std::vector<std::int64_t> bytes;
-    for (const RibbonSegment& segment : segments) bytes.push_back(segment.bytes);
-    const std::vector<double> widths = ribbonWidths(bytes, freeBytes, size.width());
+    for (const RibbonSegment& segment : segments_) bytes.push_back(segment.bytes);
+    const std::vector<double> widths = ribbonWidths(bytes, static_cast<std::int64_t>(freeBytes_), width());
 
     double left = 0;
     for (std::size_t i = 0; i < widths.size(); ++i) {
         const double right = left + widths[i];
-        const bool last = right > size.width() - 0.5;
-        const QColor& color = i < bytes.size() ? segments.at(static_cast<qsizetype>(i)).color : freeColor;
+        const bool last = right > width() - 0.5;
+        painter.setBrush(i < bytes.size() ? segments_.at(static_cast<qsizetype>(i)).color : freeColor_);
         if (widths[i] > 0)
-            canvas.bar({left, 0, widths[i], size.height()}, left == 0 ? outerCorner : innerCorner,
-                       last ? outerCorner : innerCorner, Paint::solid(color));
+            painter.drawPath(barPath({left, 0, widths[i], height()}, left == 0 ? outerCorner : innerCorner,
+                                     last ? outerCorner : innerCorner));
         left = right;
     }
-}
-
-void RibbonPicture::setSegments(const QList<RibbonSegment>& segments) {
-    if (take(segments_, segments)) emit segmentsChanged();
-}
-
-void RibbonPicture::setFreeBytes(double freeBytes) {
-    if (take(freeBytes_, freeBytes)) emit freeBytesChanged();
-}
-
-void RibbonPicture::setFreeColor(const QColor& freeColor) {
-    if (take(freeColor_, freeColor)) emit freeColorChanged();
-}
-
-void RibbonPicture::draw(Canvas& canvas) const {
-    drawRibbon(canvas, size(), segments_, static_cast<std::int64_t>(freeBytes_), freeColor_);
 }
 
 }  // namespace zelk

@@ -34,39 +34,24 @@ public:
 /// being none. Where there are no bytes at all, all is free.
 std::vector<double> ribbonWidths(const std::vector<std::int64_t>& bytes, std::int64_t freeBytes, double width);
 
-/// The sections side by side, round at the outer ends and a hair apart.
-void drawRibbon(Canvas& canvas, QSizeF size, const QList<RibbonSegment>& segments, std::int64_t freeBytes,
-                const QColor& freeColor);
-
-/// The bar of a storage ribbon. StorageRibbon is what a screen shows.
+/// The bar of a storage ribbon: its sections side by side, round at the outer ends. StorageRibbon is what a screen
+/// shows.
 class RibbonPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments WRITE setSegments NOTIFY segmentsChanged FINAL)
-    Q_PROPERTY(double freeBytes READ freeBytes WRITE setFreeBytes NOTIFY freeBytesChanged FINAL)
-    Q_PROPERTY(QColor freeColor READ freeColor WRITE setFreeColor NOTIFY freeColorChanged FINAL)
+    Q_PROPERTY(QList<zelk::RibbonSegment> segments MEMBER segments_ NOTIFY changed FINAL)
+    // A whole number; QML knows none of this size.
+    Q_PROPERTY(double freeBytes MEMBER freeBytes_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor freeColor MEMBER freeColor_ NOTIFY changed FINAL)
 
 public:
     using Drawn::Drawn;
 
-    QList<RibbonSegment> segments() const { return segments_; }
-    void setSegments(const QList<RibbonSegment>& segments);
-    /// A whole number; QML knows none of this size.
-    double freeBytes() const { return freeBytes_; }
-    void setFreeBytes(double freeBytes);
-    QColor freeColor() const { return freeColor_; }
-    void setFreeColor(const QColor& freeColor);
-
-signals:
-    void segmentsChanged();
-    void freeBytesChanged();
-    void freeColorChanged();
-
 protected:
-    void draw(Canvas& canvas) const override;
+    void draw(QPainter& painter) override;
 
 private:
-    QList<RibbonSegment> segments_;
+    QList<zelk::RibbonSegment> segments_;
     double freeBytes_ = 0;
     QColor freeColor_;
 };

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/charts/RingPicture.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
-#include "ui/controls/Canvas.h"
+#include "ui/charts/Circles.h"
 #include "ui/controls/Spring.h"
 
 namespace zelk {
@@ -12,15 +13,6 @@ namespace zelk {
 double ringFraction(double value) {
     constexpr double dot = 0.001;
     return std::isnan(value) ? dot : std::max(std::min(value, 1.0), dot);
-}
-
-void drawRing(Canvas& canvas, double side, double value, const QColor& track, const QColor& color) {
-    constexpr double lineWidth = 10;
-    constexpr double noon = 90;
-    const QPointF center(side / 2, side / 2);
-    const double radius = (side - lineWidth) / 2;
-    canvas.ring(center, radius, lineWidth, Paint::solid(track));
-    canvas.roundArc(center, radius, lineWidth, noon, -360 * ringFraction(value), Paint::solid(color));
 }
 
 RingPicture::RingPicture(QQuickItem* parent) : Drawn(parent) {
@@ -44,14 +36,6 @@ void RingPicture::setValue(double value) {
     emit valueChanged();
 }
 
-void RingPicture::setTrack(const QColor& track) {
-    if (take(track_, track)) emit trackChanged();
-}
-
-void RingPicture::setColor(const QColor& color) {
-    if (take(color_, color)) emit colorChanged();
-}
-
 void RingPicture::setStill(bool still) {
     if (still == still_) return;
     still_ = still;
@@ -63,11 +47,21 @@ void RingPicture::setStill(bool still) {
 }
 
 void RingPicture::show(double fraction) {
-    take(shown_, fraction);
+    shown_ = fraction;
+    update();
 }
 
-void RingPicture::draw(Canvas& canvas) const {
-    drawRing(canvas, std::min(width(), height()), shown_, track_, color_);
+void RingPicture::draw(QPainter& painter) {
+    constexpr double lineWidth = 10;
+    constexpr int noon = 90 * 16;
+    const double side = std::min(width(), height());
+    const double radius = (side - lineWidth) / 2;
+    const QPointF center(side / 2, side / 2);
+    drawRing(painter, center, radius, lineWidth, track_);
+    painter.setPen(QPen(color_, lineWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawArc(QRectF(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius), noon,
+                    static_cast<int>(std::lround(-360 * 16 * shown_)));
 }
 
 }  // namespace zelk

@@ -6,9 +6,9 @@
 #include <QColor>
 #include <QPointF>
 
-namespace zelk {
+class QPainter;
 
-class Canvas;
+namespace zelk {
 
 /// The measures of the button, in points. All layers share one centre.
 struct ScanButtonShape {
@@ -19,15 +19,15 @@ struct ScanButtonShape {
 };
 
 /// The light around the disc: a near halo, a wide halo and a fine ring.
-void drawScanGlow(Canvas& canvas, QPointF center, const QColor& accent);
+void drawScanGlow(QPainter& painter, QPointF center, const QColor& accent);
 
 /// The disc itself, in the accent gradient.
-void drawScanDisc(Canvas& canvas, QPointF center);
+void drawScanDisc(QPainter& painter, QPointF center);
 
 /// What brightens the disc under the pointer.
-void drawScanSheen(Canvas& canvas, QPointF center);
+void drawScanSheen(QPainter& painter, QPointF center);
 
 /// A comet on the ring, its head at twelve o'clock, made to be turned clockwise.
-void drawScanComet(Canvas& canvas, QPointF center, const QColor& accent);
+void drawScanComet(QPainter& painter, QPointF center, const QColor& accent);
 
 }  // namespace zelk

@@ -7,7 +7,6 @@
 #include <cmath>
 
 #include "ui/charts/ScanButtonDrawing.h"
-#include "ui/controls/PainterCanvas.h"
 
 namespace zelk {
 
@@ -26,16 +25,16 @@ double sideOf(ScanButtonLayer::Kind kind) {
     return 0;
 }
 
-void draw(Canvas& canvas, QPointF center, ScanButtonLayer::Kind kind, const QColor& color) {
+void draw(QPainter& painter, QPointF center, ScanButtonLayer::Kind kind, const QColor& color) {
     switch (kind) {
         case ScanButtonLayer::Glow:
-            return drawScanGlow(canvas, center, color);
+            return drawScanGlow(painter, center, color);
         case ScanButtonLayer::Disc:
-            return drawScanDisc(canvas, center);
+            return drawScanDisc(painter, center);
         case ScanButtonLayer::Sheen:
-            return drawScanSheen(canvas, center);
+            return drawScanSheen(painter, center);
         case ScanButtonLayer::Comet:
-            return drawScanComet(canvas, center, color);
+            return drawScanComet(painter, center, color);
     }
 }
 
@@ -72,8 +71,8 @@ QImage ScanButtonLayer::picture(double points, double scale) const {
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.scale(scale, scale);
-    PainterCanvas canvas(painter);
-    draw(canvas, QPointF(points, points) / 2, kind_, color_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw(painter, QPointF(points, points) / 2, kind_, color_);
     return image;
 }
 

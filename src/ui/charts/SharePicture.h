@@ -9,34 +9,19 @@
 namespace zelk {
 
 /// A track, and on it from its left as much of it as `share` says: 0 is nothing, 1 the whole. What is begun at all
-/// shows at least as a dot.
-void drawShare(Canvas& canvas, QSizeF size, double share, const QColor& track, const QColor& color);
-
-/// The bar of work whose end is known, at one moment. ShareBar is what a screen shows.
+/// shows at least as a dot. ShareBar is what a screen shows.
 class SharePicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(double share READ share WRITE setShare NOTIFY shareChanged FINAL)
-    Q_PROPERTY(QColor track READ track WRITE setTrack NOTIFY trackChanged FINAL)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    Q_PROPERTY(double share MEMBER share_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor track MEMBER track_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
 
 public:
     using Drawn::Drawn;
 
-    double share() const { return share_; }
-    void setShare(double share);
-    QColor track() const { return track_; }
-    void setTrack(const QColor& track);
-    QColor color() const { return color_; }
-    void setColor(const QColor& color);
-
-signals:
-    void shareChanged();
-    void trackChanged();
-    void colorChanged();
-
 protected:
-    void draw(Canvas& canvas) const override;
+    void draw(QPainter& painter) override;
 
 private:
     double share_ = 0;

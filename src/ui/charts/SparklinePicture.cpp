@@ -1,34 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "ui/charts/SparklinePicture.h"
 
+#include <QPainter>
+
 #include "ui/charts/SparklineGeometry.h"
-#include "ui/controls/Canvas.h"
+#include "ui/controls/Brushes.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
-void drawSparkline(Canvas& canvas, const std::vector<double>& values, QSizeF frame, const QColor& color) {
+void SparklinePicture::draw(QPainter& painter) {
     constexpr double opacityAtTop = 0.28;
     constexpr double opacityAtFloor = 0.02;
     constexpr double lineWidth = 2;
-    const std::vector<QPointF> points = sparklinePoints(values, frame);
+    const std::vector<QPointF> points = sparklinePoints({values_.begin(), values_.end()}, size());
     if (points.empty()) return;
-    canvas.area(sparklineArea(points, frame.height()),
-                Paint::linear({0, 0}, {0, frame.height()},
-                              {{0, withOpacity(color, opacityAtTop)}, {1, withOpacity(color, opacityAtFloor)}}));
-    canvas.line(points, lineWidth, Paint::solid(color));
-}
-
-void SparklinePicture::setValues(const QList<qreal>& values) {
-    if (take(values_, values)) emit valuesChanged();
-}
-
-void SparklinePicture::setColor(const QColor& color) {
-    if (take(color_, color)) emit colorChanged();
-}
-
-void SparklinePicture::draw(Canvas& canvas) const {
-    drawSparkline(canvas, {values_.begin(), values_.end()}, size(), color_);
+    const std::vector<QPointF> area = sparklineArea(points, height());
+    painter.setBrush(linearBrush({0, 0}, {0, height()},
+                                 {{0, withOpacity(color_, opacityAtTop)}, {1, withOpacity(color_, opacityAtFloor)}}));
+    painter.drawPolygon(area.data(), static_cast<int>(area.size()));
+    painter.setPen(QPen(color_, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(points.data(), static_cast<int>(points.size()));
 }
 
 }  // namespace zelk

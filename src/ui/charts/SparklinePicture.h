@@ -4,36 +4,24 @@
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QList>
-#include <vector>
 
 #include "ui/controls/Drawn.h"
 
 namespace zelk {
 
-/// The area under the curve, fading out towards the floor, and the curve over it.
-void drawSparkline(Canvas& canvas, const std::vector<double>& values, QSizeF frame, const QColor& color);
-
-/// The curve of a history in its frame. Sparkline is what a screen shows.
+/// The curve of a history in its frame, and under it an area that fades out towards the floor. Sparkline is what a
+/// screen shows.
 class SparklinePicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QList<qreal> values READ values WRITE setValues NOTIFY valuesChanged FINAL)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    Q_PROPERTY(QList<qreal> values MEMBER values_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
 
 public:
     using Drawn::Drawn;
 
-    QList<qreal> values() const { return values_; }
-    void setValues(const QList<qreal>& values);
-    QColor color() const { return color_; }
-    void setColor(const QColor& color);
-
-signals:
-    void valuesChanged();
-    void colorChanged();
-
 protected:
-    void draw(Canvas& canvas) const override;
+    void draw(QPainter& painter) override;
 
 private:
     QList<qreal> values_;

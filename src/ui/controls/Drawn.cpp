@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "ui/controls/Drawn.h"
 
-#include "ui/controls/PainterCanvas.h"
+#include <QPainter>
 
 namespace zelk {
 
 Drawn::Drawn(QQuickItem* parent) : QQuickPaintedItem(parent) {
     setAntialiasing(true);
+    connect(this, &Drawn::changed, this, [this] { update(); });
 }
 
 void Drawn::paint(QPainter* painter) {
-    PainterCanvas canvas(*painter, typesetter_);
-    draw(canvas);
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter->setPen(Qt::NoPen);
+    draw(*painter);
 }
 
 }  // namespace zelk

@@ -4,13 +4,11 @@
 #include <QtQml/qqmlregistration.h>
 #include <QQuickPaintedItem>
 
-#include "ui/controls/Typesetter.h"
+class QPainter;
 
 namespace zelk {
 
-class Canvas;
-
-/// An item that is a drawing in its own size, smooth in every renderer. Whoever changes what it draws calls update().
+/// An item that paints itself in its own size, smooth in every renderer. It repaints when a property says `changed`.
 /// (Its heirs name it with its namespace: the registrars of older toolkits know no other name of it.)
 class Drawn : public QQuickPaintedItem {
     Q_OBJECT
@@ -21,20 +19,11 @@ public:
 
     void paint(QPainter* painter) final;
 
+signals:
+    void changed();
+
 protected:
-    virtual void draw(Canvas& canvas) const = 0;
-
-    /// Takes a new value; false if it is the old one.
-    template <class T>
-    bool take(T& field, const T& value) {
-        if (field == value) return false;
-        field = value;
-        update();
-        return true;
-    }
-
-private:
-    Typesetter typesetter_;  // as long as it: with every frame it writes much the same
+    virtual void draw(QPainter& painter) = 0;
 };
 
 }  // namespace zelk

@@ -19,34 +19,20 @@ struct ProgressSliver {
 /// Where it is at a time in seconds on any clock; it runs through once in 1.5.
 ProgressSliver progressSliver(double seconds, double trackWidth);
 
-/// A track, and on it what of the sliver lies within it.
-void drawProgress(Canvas& canvas, QSizeF size, double seconds, const QColor& track, const QColor& color);
-
-/// The bar at one moment. ModuleProgressBar is what a screen shows.
+/// The bar at one moment: a track, and on it what of the sliver lies within it. ModuleProgressBar is what a screen
+/// shows.
 class ProgressPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(double seconds READ seconds WRITE setSeconds NOTIFY secondsChanged FINAL)
-    Q_PROPERTY(QColor track READ track WRITE setTrack NOTIFY trackChanged FINAL)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    Q_PROPERTY(double seconds MEMBER seconds_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor track MEMBER track_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
 
 public:
     using Drawn::Drawn;
 
-    double seconds() const { return seconds_; }
-    void setSeconds(double seconds);
-    QColor track() const { return track_; }
-    void setTrack(const QColor& track);
-    QColor color() const { return color_; }
-    void setColor(const QColor& color);
-
-signals:
-    void secondsChanged();
-    void trackChanged();
-    void colorChanged();
-
 protected:
-    void draw(Canvas& canvas) const override;
+    void draw(QPainter& painter) override;
 
 private:
     double seconds_ = 0;

@@ -1,30 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "ui/controls/SoftShadow.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
-#include "ui/controls/Canvas.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
-void drawSoftShadow(Canvas& canvas, QSizeF size, double inset, double corner, double radius, double strength) {
+void SoftShadow::draw(QPainter& painter) {
     constexpr double offset = 2;  // light falls from above
-    const int rings = std::max(1, static_cast<int>(std::lround(radius)));
-    // Growing panels over each other, each as thin as it takes to come to `strength` where all of them lie.
-    const double each = 1 - std::pow(1 - strength, 1.0 / rings);
+    const int rings = std::max(1, static_cast<int>(std::lround(radius_)));
+    // Growing panels over each other, each as thin as it takes to come to the strength where all of them lie.
+    painter.setBrush(withOpacity(Qt::black, 1 - std::pow(1 - strength_, 1.0 / rings)));
     for (int ring = 0; ring < rings; ++ring) {
-        const double grown = radius * (1 - 2.0 * (ring + 0.5) / rings);
-        const QRectF panel =
-            QRectF(QPointF(0, offset), size).adjusted(inset - grown, inset - grown, grown - inset, grown - inset);
-        const double round = std::max(0.0, corner + grown);
-        canvas.bar(panel, round, round, Paint::solid(withOpacity(Qt::black, each)));
+        const double grown = radius_ * (1 - 2.0 * (ring + 0.5) / rings);
+        const double margin = inset_ - grown;
+        const QRectF panel = boundingRect().translated(0, offset).adjusted(margin, margin, -margin, -margin);
+        const double round =
+            std::clamp(corner_ + grown, 0.0, std::max(0.0, std::min(panel.width(), panel.height()) / 2));
+        painter.drawRoundedRect(panel, round, round);
     }
-}
-
-void SoftShadow::draw(Canvas& canvas) const {
-    drawSoftShadow(canvas, size(), inset_, corner_, radius_, strength_);
 }
 
 }  // namespace zelk

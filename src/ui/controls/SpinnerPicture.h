@@ -8,30 +8,18 @@
 
 namespace zelk {
 
-/// A comet on a ring in a square of this side, its head `turn` of a turn past noon with the clock.
-void drawSpinner(Canvas& canvas, double side, double turn, const QColor& color);
-
-/// The spinner at one moment. Spinner is what a screen shows.
+/// A comet on a ring at one moment, its head `turn` of a turn past noon with the clock. Spinner is what a screen shows.
 class SpinnerPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(double turn READ turn WRITE setTurn NOTIFY turnChanged FINAL)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    Q_PROPERTY(double turn MEMBER turn_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
 
 public:
     using Drawn::Drawn;
 
-    double turn() const { return turn_; }
-    void setTurn(double turn);
-    QColor color() const { return color_; }
-    void setColor(const QColor& color);
-
-signals:
-    void turnChanged();
-    void colorChanged();
-
 protected:
-    void draw(Canvas& canvas) const override;
+    void draw(QPainter& painter) override;
 
 private:
     double turn_ = 0;

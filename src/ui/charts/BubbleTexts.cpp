@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/controls/Typesetter.h"
+#include "ui/charts/BubbleTexts.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -9,16 +9,11 @@
 
 namespace zelk {
 
-namespace {
-
-Lettering inWhole(Lettering lettering) {
-    lettering.size = std::max(1.0, std::round(lettering.size));
-    return lettering;
+BubbleTexts::Face BubbleTexts::faceOf(BubbleFont kind, double size) {
+    return {kind, static_cast<int>(std::max(1.0, std::round(size)))};
 }
 
-}  // namespace
-
-const QFont& Typesetter::fontOf(const Lettering& whole) {
+const QFont& BubbleTexts::fontOf(const Face& face) {
     if (const QFont system = QGuiApplication::font(); system != system_) {
         system_ = system;
         fonts_.clear();
@@ -26,30 +21,30 @@ const QFont& Typesetter::fontOf(const Lettering& whole) {
         shaped_.clear();
     }
     for (const auto& [known, font] : fonts_)
-        if (known == whole) return font;
+        if (known == face) return font;
 
     QFont font = system_;
 #ifdef Q_OS_MACOS
-    if (whole.rounded) font.setFamilies({QStringLiteral("SF Pro Rounded"), font.family()});
+    if (face.kind == BubbleFont::size) font.setFamilies({QStringLiteral("SF Pro Rounded"), font.family()});
 #endif
-    font.setPixelSize(static_cast<int>(whole.size));
-    font.setWeight(whole.weight == Lettering::Weight::semibold ? QFont::DemiBold : QFont::Medium);
-    return fonts_.emplace_back(whole, font).second;
+    font.setPixelSize(face.size);
+    font.setWeight(face.kind == BubbleFont::label ? QFont::DemiBold : QFont::Medium);
+    return fonts_.emplace_back(face, font).second;
 }
 
-double Typesetter::width(const QString& text, const Lettering& lettering) {
-    const Line line{text, inWhole(lettering)};
-    const QFont& font = fontOf(line.lettering);
+double BubbleTexts::width(const QString& text, BubbleFont kind, double size) {
+    const Line line{text, faceOf(kind, size)};
+    const QFont& font = fontOf(line.face);
     if (const double* known = widths_.object(line)) return *known;
     const double width = QFontMetricsF(font).horizontalAdvance(text);
     widths_.insert(line, new double(width));
     return width;
 }
 
-void Typesetter::write(QPainter& painter, QPointF center, const QString& text, const Lettering& lettering,
-                       const QColor& color) {
-    const Line line{text, inWhole(lettering)};
-    const QFont& font = fontOf(line.lettering);
+void BubbleTexts::write(QPainter& painter, QPointF center, const QString& text, BubbleFont kind, double size,
+                        const QColor& color) {
+    const Line line{text, faceOf(kind, size)};
+    const QFont& font = fontOf(line.face);
     if (!shaped_.contains(line)) {
         auto* shaped = new QStaticText(text);
         shaped->setTextFormat(Qt::PlainText);

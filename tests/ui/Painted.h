@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// What is painted, as pixels on nothing.
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <QQuickPaintedItem>
+#include <functional>
+
+namespace zelk {
+
+/// `size` is in points, `scale` pixels to the point.
+inline QImage painted(QSize size, const std::function<void(QPainter&)>& draw, int scale = 1) {
+    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    draw(painter);
+    return image;
+}
+
+inline QImage painted(QQuickPaintedItem& item, QSize size) {
+    item.setSize(size);
+    return painted(size, [&](QPainter& painter) { item.paint(&painter); });
+}
+
+/// Whether the two are the same colour to the eye.
+inline bool alike(const QColor& a, const QColor& b, int apart = 4) {
+    return std::abs(a.red() - b.red()) <= apart && std::abs(a.green() - b.green()) <= apart &&
+           std::abs(a.blue() - b.blue()) <= apart && std::abs(a.alpha() - b.alpha()) <= apart;
+}
+
+}  // namespace zelk
