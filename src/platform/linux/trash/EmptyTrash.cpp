@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/trash/EmptyTrash.h"
 
-#include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -10,8 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/files/MoveWithoutReplacing.h"
-#include "platform/linux/trash/TrashInfo.h"
+#include "platform/linux/trash/TrashEntry.h"
 #include "platform/linux/trash/TrashOrphans.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FolderLock.h"
@@ -20,86 +18,12 @@
 namespace zelk {
 namespace {
 
-/// An entry as listed; by now its name may belong to another item.
-struct Entry {
-    std::string name;
-    FileStatus content;
-};
-
-std::vector<Entry> entriesOf(const TrashFolder& trash) {
-    std::vector<Entry> entries;
+std::vector<TrashEntry> entriesOf(const TrashFolder& trash) {
+    std::vector<TrashEntry> entries;
     for (std::string& name : directoryNames(reopenDirectory(trash.files)).value_or(std::vector<std::string>())) {
         if (const auto status = fileStatus(trash.files.get(), name)) entries.push_back({std::move(name), *status});
     }
     return entries;
-}
-
-bool isAt(const Place& place, const FileStatus& file) {
-    const std::optional<FileStatus> there = fileStatus(place.folder, place.name);
-    return there && there->isSameFile(file);
-}
-
-Place infoOf(const TrashFolder& trash, const std::string& name) {
-    return {trash.info.get(), name + std::string(trashInfoSuffix)};
-}
-
-/// Links the info at `from` to the name `to` as well, or renames it on volumes without hard links. Returns 0 also if
-/// there is no info.
-int nameInfo(const Place& from, const Place& to) {
-    if (::linkat(from.folder, from.name.c_str(), to.folder, to.name.c_str(), 0) == 0) return 0;
-    const bool noSecondNames = errno == EPERM || errno == ENOSYS || errno == EOPNOTSUPP || errno == EMLINK;
-    const int error = noSecondNames ? moveWithoutReplacing(from, to) : errno;
-    if (error != ENOENT) return error;
-    return fileStatus(to.folder, to.name) ? EEXIST : 0;
-}
-
-void undoNameInfo(const Place& from, const Place& to) {
-    const int error = moveWithoutReplacing(to, from);
-    if (error == 0 || error == EEXIST) ::unlinkat(to.folder, to.name.c_str(), 0);
-}
-
-/// Renames an entry within `trash` so that its content, if it has info, has it at every moment. Returns 0 or the errno:
-/// EEXIST if the name `to` is taken. On an error the entry, or the item that took its name, is unchanged.
-int renameEntry(const TrashFolder& trash, const Entry& entry, const std::string& to) {
-    const Place content{trash.files.get(), entry.name};
-    const Place newContent{trash.files.get(), to};
-    const Place info = infoOf(trash, entry.name);
-    const Place newInfo = infoOf(trash, to);
-    if (const int error = nameInfo(info, newInfo); error != 0) return error;
-    int error = moveWithoutReplacing(content, newContent);
-    if (error == 0 && !isAt(newContent, entry.content)) {
-        error = ESTALE;
-        // If the name is taken again, the new item keeps the name that it came to, with its info.
-        if (moveWithoutReplacing(newContent, content) != 0) return error;
-    }
-    if (error != 0) {
-        undoNameInfo(info, newInfo);
-        return error;
-    }
-    // The old info may belong to a new item by now.
-    const std::optional<FileStatus> own = fileStatus(newInfo.folder, newInfo.name);
-    if (own && isAt(info, *own)) ::unlinkat(info.folder, info.name.c_str(), 0);
-    return 0;
-}
-
-/// Renames the entry to a unique name that nobody else uses. Absent if it keeps its old name.
-std::optional<std::string> renameForRemoval(const TrashFolder& trash, const Entry& entry) {
-    constexpr int maximumTries = 1000;
-    Descriptor moving;  // its info briefly has no content without being an orphan
-    if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return std::nullopt;
-    for (int tried = 0; tried < maximumTries; ++tried) {
-        std::string own = "emptying." + std::to_string(::getpid()) + "." + std::to_string(tried);
-        const int error = renameEntry(trash, entry, own);
-        if (error == 0) return own;
-        if (error != EEXIST) return std::nullopt;
-    }
-    return std::nullopt;
-}
-
-/// Leaves the entry where it is, with its info, if its old name is taken.
-void putBack(const TrashFolder& trash, const std::string& own, const Entry& entry) {
-    Descriptor moving;
-    if (lockFolder(trash.info.get(), LOCK_SH, moving)) renameEntry(trash, {own, entry.content}, entry.name);
 }
 
 }  // namespace
@@ -108,15 +32,15 @@ std::size_t emptyTrash(const TrashFolder& trash) {
     Descriptor turn;
     if (!lockFolder(trash.files.get(), LOCK_EX, turn)) return 0;
     std::size_t removed = 0;
-    for (const Entry& entry : entriesOf(trash)) {
-        const std::optional<std::string> own = renameForRemoval(trash, entry);
-        if (!own) continue;
-        if (removeEntry(trash.files.get(), *own)) {
-            putBack(trash, *own, entry);
+    for (const TrashEntry& entry : entriesOf(trash)) {
+        std::string own;
+        if (setAside(trash, entry, "emptying", own) != 0) continue;
+        if (removeEntry(trash.files.get(), own)) {
+            putBack(trash, own, entry);
             continue;
         }
         ++removed;
-        const Place info = infoOf(trash, *own);
+        const Place info = infoOf(trash, own);
         ::unlinkat(info.folder, info.name.c_str(), 0);
     }
     sweepOrphans(trash, Orphans::anybody);
