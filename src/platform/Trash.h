@@ -8,6 +8,7 @@
 
 #include "platform/Failure.h"
 #include "platform/ItemPath.h"
+#include "platform/TrashedItem.h"
 
 namespace zelk {
 
@@ -21,10 +22,14 @@ public:
     /// The paths of all trashed items, including hidden ones; absent if the folder cannot be read. A Trash that does
     /// not exist yet is empty.
     virtual std::optional<std::vector<std::string>> list() = 0;
-    /// Moves `item` to the Trash so that the system's tools can restore it; moves a link itself. On failure the item is
-    /// unchanged. On Linux, nothing that is swapped into the path meanwhile is followed. macOS takes a path, so a
-    /// folder swapped in between our check and its move is followed.
-    virtual Failure trash(const ItemPath& item) = 0;
+    /// Moves `item` to the Trash so that restore() and the system's tools can bring it back; moves a link itself. On
+    /// failure the item is unchanged. On Linux, nothing that is swapped into the path meanwhile is followed. macOS
+    /// takes a path, so a folder swapped in between our check and its move is followed.
+    virtual TrashResult trash(const ItemPath& item) = 0;
+    /// Moves `item` back to where it was. Never replaces anything, creates no folder and copies nothing. Fails, leaving
+    /// the item in the Trash, if something else is at its old path, if the folder it was in is missing or has been
+    /// replaced, if the Trash holds another item in its place, or if that folder is on another volume.
+    virtual Failure restore(const TrashedItem& item) = 0;
     /// Deletes the trashed items permanently, each on its own: continues after one that cannot be deleted. Leaves alone
     /// what is trashed meanwhile, and waits for another emptying, including that of another process of Zelk. Returns
     /// the number of deleted items.

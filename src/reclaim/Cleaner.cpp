@@ -50,7 +50,7 @@ Cleaner::Status remove(const Reclaimable& reclaimable, bool hardDelete, const Pl
     const std::string& path = reclaimable.path;
     const std::optional<ItemPath> item = ItemPath::below(path.substr(0, reclaimable.rootLength), path);
     if (!item) return Cleaner::Failed{"“" + path + "” is not the path of anything that can be removed."};
-    Failure failure = hardDelete ? platform.files.remove(*item) : platform.trash.trash(*item);
+    Failure failure = hardDelete ? platform.files.remove(*item) : platform.trash.trash(*item).failure;
     if (failure) return Cleaner::Failed{std::move(*failure)};
     return Cleaner::Trashed{};
 }

@@ -79,7 +79,7 @@ void CleanupSession::trashFolders(const Folders& folders, std::function<void(con
                 removal->noteSkipped();
                 continue;
             }
-            const bool stays = trash.trash(folder.item).has_value();
+            const bool stays = trash.trash(folder.item).failure.has_value();
             removal->noteDone();
             if (stays) continue;
             mainThread.post([this, moving, &folder] {
@@ -112,7 +112,7 @@ void CleanupSession::trashLargeFile(const std::string& path) {
     auto work = [this, mainThread = mainThread_, &trash = platform_.trash, item = *item, path,
                  removal = removals_.begin(1)] {
         if (!removal->mayBegin()) return removal->noteSkipped();
-        const bool stays = trash.trash(item).has_value();
+        const bool stays = trash.trash(item).failure.has_value();
         removal->noteDone();
         if (stays) return;
         mainThread.post([this, path] { results_.dropLargeFile(path); });

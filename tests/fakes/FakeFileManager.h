@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "platform/FileManager.h"
+#include "platform/TrashedItem.h"
 
 namespace zelk::fakes {
 
@@ -43,13 +44,13 @@ public:
         const std::lock_guard lock(mutex_);
         makeFolders(parentOf(path));
         const std::uint64_t blocks = (content.size() + 4095) / 4096 * 4096;
-        entries_[path] = {Kind::file, std::move(content), allocatedSize.value_or(blocks)};
+        entries_[path] = {Kind::file, std::move(content), allocatedSize.value_or(blocks), nextInode_++};
     }
     /// `target` is an absolute path, which need not exist.
     void addLink(const std::string& path, std::string target) {
         const std::lock_guard lock(mutex_);
         makeFolders(parentOf(path));
-        entries_[path] = {Kind::link, std::move(target), 0};
+        entries_[path] = {Kind::link, std::move(target), 0, nextInode_++};
     }
     /// Removes `path` and everything below it.
     void erase(const std::string& path) {
@@ -100,6 +101,14 @@ public:
         const auto entry = resolve(path);
         if (entry == entries_.end() || entry->second.kind != Kind::file) return std::nullopt;
         return entry->second.text;
+    }
+
+    /// The identity of the entry at `path`; absent if there is none. Not recorded as a call.
+    std::optional<FileIdentity> identity(const std::string& path) const {
+        const std::lock_guard lock(mutex_);
+        const auto entry = entries_.find(path);
+        if (entry == entries_.end()) return std::nullopt;
+        return FileIdentity{0, entry->second.inode};
     }
 
     // FileManager
@@ -153,7 +162,7 @@ public:
         if (folder == entries_.end() || folder->second.kind != Kind::folder) return false;
         const auto old = entries_.find(path);
         if (old != entries_.end() && old->second.kind == Kind::folder) return false;
-        entries_[path] = {Kind::file, std::string(content), (content.size() + 4095) / 4096 * 4096};
+        entries_[path] = {Kind::file, std::string(content), (content.size() + 4095) / 4096 * 4096, nextInode_++};
         return true;
     }
 
@@ -185,6 +194,7 @@ private:
         Kind kind = Kind::folder;
         std::string text;  ///< a file's content, a link's target
         std::uint64_t allocatedSize = 0;
+        std::uint64_t inode = 0;  ///< unique, kept when the entry is renamed
     };
     using Entries = std::map<std::string, Entry>;
 
@@ -221,7 +231,7 @@ private:
             const auto entry = resolve(path);
             if (entry == entries_.end() || entry->second.kind != Kind::folder) return false;
         }
-        for (std::string& each : missing) entries_.emplace(std::move(each), Entry{});
+        for (std::string& each : missing) entries_.emplace(std::move(each), Entry{Kind::folder, {}, 0, nextInode_++});
         return true;
     }
 
@@ -246,6 +256,7 @@ private:
 
     mutable std::mutex mutex_;
     Entries entries_{{"/", Entry{}}};
+    std::uint64_t nextInode_ = 1;
     std::vector<Call> calls_;
 };
 

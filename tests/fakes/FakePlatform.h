@@ -190,13 +190,38 @@ public:
         return entries;
     }
 
-    /// Fails if the file manager's `failing` returns true for the operation "trash".
-    Failure trash(const ItemPath& item) override {
-        if (files_.failing && files_.failing({"trash", item.text()})) return item.text() + " would not go to the Trash";
-        if (!files_.properties(item.text())) return item.text() + " does not exist";
-        files_.move(item.text(), path + "/" + std::string(item.name()));
+    /// Fails if the file manager's `failing` returns true for the operation "trash". A name that is taken gets a
+    /// number.
+    TrashResult trash(const ItemPath& item) override {
+        if (files_.failing && files_.failing({"trash", item.text()}))
+            return {item.text() + " would not go to the Trash"};
+        if (!files_.properties(item.text())) return {item.text() + " does not exist"};
         const std::lock_guard lock(mutex_);
+        std::string place = path + "/" + std::string(item.name());
+        for (int number = 2; files_.identity(place); ++number)
+            place = path + "/" + std::string(item.name()) + "." + std::to_string(number);
+        files_.move(item.text(), place);
         trashed_.push_back(item.text());
+        return {std::nullopt, TrashedItem{item,
+                                          files_.identity(item.parent()).value_or(FileIdentity()),
+                                          place,
+                                          files_.identity(place).value_or(FileIdentity()),
+                                          {}}};
+    }
+    /// Fails if `failing` returns true for the operation "restore", and where the real Trash would.
+    Failure restore(const TrashedItem& item) override {
+        const std::string& origin = item.origin.text();
+        if (files_.failing && files_.failing({"restore", origin})) return origin + " would not come back";
+        const std::lock_guard lock(mutex_);
+        const std::optional<FileIdentity> parent = files_.identity(item.origin.parent());
+        if (!parent) return origin + ": its folder is missing";
+        if (*parent != item.parent) return origin + ": its folder is another one";
+        const std::optional<FileIdentity> there = files_.identity(item.path);
+        if (!there) return origin + " is not in the Trash";
+        if (*there != item.identity) return origin + ": the Trash holds something else";
+        if (files_.identity(origin)) return origin + " is taken";
+        files_.move(item.path, origin);
+        restored_.push_back(origin);
         return std::nullopt;
     }
     std::size_t empty() override {
@@ -210,12 +235,18 @@ public:
         const std::lock_guard lock(mutex_);
         return trashed_;
     }
+    /// The paths of the restored items, in order.
+    std::vector<std::string> restored() const {
+        const std::lock_guard lock(mutex_);
+        return restored_;
+    }
 
 private:
     FakeFileManager& files_;
     mutable std::mutex mutex_;
     bool accessible_ = true;
     std::vector<std::string> trashed_;
+    std::vector<std::string> restored_;
 };
 
 /// Every program succeeds without output until a test sets the outcome.

@@ -59,7 +59,7 @@ TEST_F(ManyRemovals, allMoveToTheTrash) {
     zoo::makeFolder(home);
     EXPECT_TRUE(withFewDescriptors([&] {
         LinuxTrash trash(home);
-        return failures([&](int item) { return trash.trash(ItemPath::from(pathOf(item)).value()); }) == 0;
+        return failures([&](int item) { return trash.trash(ItemPath::from(pathOf(item)).value()).failure; }) == 0;
     }));
     EXPECT_TRUE(fs::is_empty(temp / "items"));
     EXPECT_EQ(fakes::namesIn(home + "/.local/share/Trash/files").size(), many);

@@ -66,7 +66,7 @@ protected:
 
     void trashNewcomer() {
         writeFile(temp / "same", "newcomer");
-        EXPECT_EQ(LinuxTrash(home).trash(ItemPath::from(temp / "same").value()), std::nullopt);
+        EXPECT_EQ(LinuxTrash(home).trash(ItemPath::from(temp / "same").value()).failure, std::nullopt);
     }
 
     /// Its path in the Trash; empty if it could not be restored.
@@ -219,7 +219,7 @@ TEST_F(EmptyingTrash, unremovableEntryYieldsItsNameToANewItem) {
     const auto emptied = [&] {
         const auto rule = [&](unsigned call) {
             // The entry has been renamed by now, and nothing of it could be deleted yet.
-            return call == 1 && LinuxTrash(home).trash(ItemPath::from(temp / "mine/locked").value()) ? EIO : 0;
+            return call == 1 && LinuxTrash(home).trash(ItemPath::from(temp / "mine/locked").value()).failure ? EIO : 0;
         };
         std::size_t removed = 1;
         fakes::behindGate(SYS_unlinkat, rule, [&] { removed = itsTrash.empty(); });
@@ -403,7 +403,7 @@ TEST_F(EmptyingTrash, restartsNumbering) {
     for (const char* round : {"one", "two"}) {
         for (const char* content : {"a", "b"}) {
             writeFile(temp / "item", content);
-            EXPECT_EQ(itsTrash.trash(ItemPath::from(temp / "item").value()), std::nullopt);
+            EXPECT_EQ(itsTrash.trash(ItemPath::from(temp / "item").value()).failure, std::nullopt);
         }
         EXPECT_THAT(namesIn(files), ElementsAre("item", "item.2")) << round;
         EXPECT_EQ(itsTrash.empty(), 2u);

@@ -39,7 +39,7 @@ using testing::StartsWith;
 
 class TrashItem : public testing::Test {
 protected:
-    Failure trashed(const std::string& path) { return itsTrash.trash(ItemPath::from(path).value()); }
+    Failure trashed(const std::string& path) { return itsTrash.trash(ItemPath::from(path).value()).failure; }
 
     /// Expects that nothing reached the Trash and that no info is left.
     void expectTrashUntouched() const {
@@ -86,13 +86,13 @@ TEST_F(TrashItem, usesXdgDataHomeNeverTheWorkingDirectory) {
          {std::optional<std::string>(), std::optional<std::string>(""), std::optional<std::string>("relative")}) {
         const fakes::EnvironmentVariable data("XDG_DATA_HOME", value);
         writeFile(item, "content");
-        EXPECT_EQ(LinuxTrash().trash(ItemPath::from(item).value()), std::nullopt);
+        EXPECT_EQ(LinuxTrash().trash(ItemPath::from(item).value()).failure, std::nullopt);
         expectOnlyItem(item, "content");
         fs::remove_all(trash);
     }
     const fakes::EnvironmentVariable data("XDG_DATA_HOME", temp / "data");
     writeFile(item, "content");
-    EXPECT_EQ(LinuxTrash().trash(ItemPath::from(item).value()), std::nullopt);
+    EXPECT_EQ(LinuxTrash().trash(ItemPath::from(item).value()).failure, std::nullopt);
     EXPECT_EQ(restorable(temp / "data/Trash").count(item), 1u);
 }
 
@@ -181,7 +181,7 @@ TEST_F(TrashItem, refusesParentSwappedForALink) {
     fs::remove_all(items);
     fs::create_directory_symlink(temp / "other", items);
     for (const char* path : {"/item.txt", "/deep/item.txt"}) {
-        EXPECT_THAT(itsTrash.trash(ItemPath::below(temp.path(), items + path).value()),
+        EXPECT_THAT(itsTrash.trash(ItemPath::below(temp.path(), items + path).value()).failure,
                     Optional(std::string("“item.txt” couldn’t be moved to the Trash: "
                                          "the folder that it was found in is no longer there")));
     }
@@ -194,7 +194,8 @@ TEST_F(TrashItem, followsLinkThatIsTheRoot) {
     fs::create_directory(items + "/folder");
     writeFile(items + "/folder/item.txt", "content");
     fs::create_directory_symlink(items, temp / "link");
-    EXPECT_EQ(itsTrash.trash(ItemPath::below(temp / "link", temp / "link/folder/item.txt").value()), std::nullopt);
+    EXPECT_EQ(itsTrash.trash(ItemPath::below(temp / "link", temp / "link/folder/item.txt").value()).failure,
+              std::nullopt);
     expectOnlyItem(temp / "link/folder/item.txt", "content");
 }
 
@@ -363,7 +364,7 @@ TEST_F(TrashItem, staysWhenItsFolderIsNotWritable) {
     ASSERT_EQ(::chmod((items + "/nowhere").c_str(), 0555), 0);
     ASSERT_EQ(::chmod(items.c_str(), 0555), 0);
     EXPECT_TRUE(asOrdinaryUser([&] {
-        const Failure failure = LinuxTrash(items + "/nowhere").trash(ItemPath::from(item).value());
+        const Failure failure = LinuxTrash(items + "/nowhere").trash(ItemPath::from(item).value()).failure;
         return failure && failure->starts_with("“item.txt” couldn’t be moved to the Trash: “" + items +
                                                "/nowhere/.local/share” couldn’t be created");
     }));
@@ -446,7 +447,7 @@ TEST_F(TrashItem, twoThousandEqualNamesCostLinearWork) {
         fs::create_directory(items + "/__pycache__");
         behindGate(
             SYS_faccessat2, [&](unsigned) { return ++calls, 0; },
-            [&] { EXPECT_EQ(another.trash(ItemPath::from(items + "/__pycache__").value()), std::nullopt); });
+            [&] { EXPECT_EQ(another.trash(ItemPath::from(items + "/__pycache__").value()).failure, std::nullopt); });
         return calls;
     };
     EXPECT_GE(lookups(), 2000u);

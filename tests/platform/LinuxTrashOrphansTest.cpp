@@ -42,7 +42,7 @@ protected:
 
     static Failure trashed(LinuxTrash& itsTrash, const std::string& item) {
         writeFile(item, "content");
-        return itsTrash.trash(ItemPath::from(item).value());
+        return itsTrash.trash(ItemPath::from(item).value()).failure;
     }
 
     mode_t modeOfInfo(const std::string& name) {
@@ -145,7 +145,7 @@ TEST_F(TrashOrphans, infoIsWrittenUnmarkedWhenTheMarkIsRefused) {
             bool moved = false;
             fakes::behindGate(
                 SYS_openat, [&](unsigned call) { return call == failing ? error : 0; },
-                [&] { moved = !itsTrash.trash(item); });
+                [&] { moved = !itsTrash.trash(item).failure; });
             refused = moved && modeOfInfo("item") == 0600;
             itsTrash.empty();
         }

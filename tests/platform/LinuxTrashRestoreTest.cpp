@@ -46,7 +46,7 @@ protected:
         for (const std::string& name : names) {
             const std::string path = items + "/" + name;
             writeFile(path, "content of " + name);
-            ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(path).value()), std::nullopt) << name;
+            ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(path).value()).failure, std::nullopt) << name;
         }
         ASSERT_TRUE(namesIn(items).empty());
     }
@@ -91,11 +91,11 @@ TEST_F(RestoringTrash, trashRestoreRestoresEveryName) {
 TEST_F(RestoringTrash, trashRestoreRestoresFoldersAndLinks) {
     zoo::makeNames(items + "/folder");
     const auto names = namesIn(items + "/folder");
-    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/folder").value()), std::nullopt);
+    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/folder").value()).failure, std::nullopt);
     EXPECT_EQ(restoreFirstBelow(items), 0);
     EXPECT_EQ(namesIn(items + "/folder"), names);
     fs::create_symlink("/nowhere", items + "/link");
-    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/link").value()), std::nullopt);
+    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/link").value()).failure, std::nullopt);
     EXPECT_EQ(restoreFirstBelow(items), 0);
     EXPECT_EQ(fs::read_symlink(items + "/link"), "/nowhere");
 }
@@ -107,7 +107,7 @@ TEST_F(RestoringTrash, trashRestoreRestoresFromVolumeTrash) {
     zoo::makeFolder(temp / "stick/folder");
     const std::string item = temp / "stick/folder/a %";
     writeFile(item, "content");
-    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(item).value()), std::nullopt);
+    ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(item).value()).failure, std::nullopt);
     EXPECT_FALSE(fs::exists(item));
     restoreFirstBelow(temp / "stick");
     // Newer versions only look for volumes on disks, so tell them about this one.
@@ -130,7 +130,7 @@ TEST_F(RestoringTrash, gioRestoresFolderAndLink) {
     for (const char* name : {"/folder/a", "/folder/b/c"}) zoo::makeFile(items + name);
     fs::create_symlink("/nowhere", items + "/link");
     for (const char* name : {"/folder", "/link"})
-        ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + name).value()), std::nullopt);
+        ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + name).value()).failure, std::nullopt);
     EXPECT_FALSE(fs::exists(items + "/folder"));
     EXPECT_EQ(shell("dbus-run-session -- sh -c 'gio trash --restore trash:///folder && "
                     "gio trash --restore trash:///link'"),
@@ -142,7 +142,7 @@ TEST_F(RestoringTrash, gioRestoresFolderAndLink) {
 TEST_F(RestoringTrash, gioRestoresSecondItemOfTheSameName) {
     for (const char* content : {"first", "second"}) {
         writeFile(items + "/same.txt", content);
-        ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/same.txt").value()), std::nullopt);
+        ASSERT_EQ(LinuxTrash(home).trash(ItemPath::from(items + "/same.txt").value()).failure, std::nullopt);
     }
     EXPECT_EQ(shell("dbus-run-session -- gio trash --restore trash:///same.2.txt"), 0);
     EXPECT_EQ(fileContent(items + "/same.txt"), "second");

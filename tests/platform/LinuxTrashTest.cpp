@@ -50,7 +50,7 @@ TEST(LinuxTrash, doesNotCreateMissingHome) {
     const TempFolder temp;
     zoo::makeFile(temp / "file");
     LinuxTrash trash(temp / "missing/home");
-    const Failure failure = trash.trash(*ItemPath::from(temp / "file"));
+    const Failure failure = trash.trash(*ItemPath::from(temp / "file")).failure;
     ASSERT_TRUE(failure.has_value());
     EXPECT_NE(failure->find("missing/home"), std::string::npos) << *failure;
     EXPECT_EQ(trash.empty(), 0U);
@@ -62,7 +62,7 @@ TEST(LinuxTrash, worksInDataHomeOutsideAMissingHome) {
     const EnvironmentVariable home("HOME", temp / "missing");
     const EnvironmentVariable data("XDG_DATA_HOME", temp / "data");
     zoo::makeFile(temp / "file");
-    EXPECT_EQ(LinuxTrash().trash(*ItemPath::from(temp / "file")), std::nullopt);
+    EXPECT_EQ(LinuxTrash().trash(*ItemPath::from(temp / "file")).failure, std::nullopt);
     EXPECT_EQ(fakes::namesIn(temp.path()), std::set<std::string>{"data"});
 }
 
@@ -92,7 +92,7 @@ TEST(LinuxTrash, refusesItemsAlreadyInTheTrash) {
     const std::string trash = temp / "home/.local/share/Trash";
     zoo::makeFolder(temp / "home");
     LinuxTrash itsTrash(temp / "home");
-    const auto trashed = [&](const std::string& path) { return itsTrash.trash(ItemPath::from(path).value()); };
+    const auto trashed = [&](const std::string& path) { return itsTrash.trash(ItemPath::from(path).value()).failure; };
     const std::string project = items + "/project";
     zoo::makeFolder(project + "/cache/deep");
     writeFile(project + "/cache/deep/file", "content");
@@ -136,7 +136,7 @@ TEST(LinuxTrash, refusesFoldersWritableByOthers) {
             for (const char* made : {"/files", "/info"}) zoo::makeFolder(trash + made);
             writeFile(temp / "item", "content");
             LinuxTrash itsTrash(temp / "home");
-            const auto trashed = [&] { return itsTrash.trash(ItemPath::from(temp / "item").value()); };
+            const auto trashed = [&] { return itsTrash.trash(ItemPath::from(temp / "item").value()).failure; };
             ASSERT_EQ(::chmod((trash + folder).c_str(), mode), 0);
             EXPECT_THAT(trashed(), Optional("“item” couldn’t be moved to the Trash: “" + trash + folder +
                                             "” may be changed by others"));

@@ -42,7 +42,7 @@ protected:
         writeFile(item, "content");
     }
 
-    Failure trashed(const std::string& path) { return LinuxTrash(home).trash(ItemPath::from(path).value()); }
+    Failure trashed(const std::string& path) { return LinuxTrash(home).trash(ItemPath::from(path).value()).failure; }
 
     /// Expects the item in the volume's trash folder `trash`, with its path on the volume.
     void expectTrashedIn(const std::string& trash) {
@@ -95,7 +95,7 @@ TEST_F(VolumeTrash, usesTheItemsOwnMountOfADevice) {
     mounts.again(temp / "other/sub", temp / "again");
     writeFile(temp / "again/item", "content");
     LinuxTrash itsTrash(temp / "other/home");
-    EXPECT_EQ(itsTrash.trash(ItemPath::from(temp / "again/item").value()), std::nullopt);
+    EXPECT_EQ(itsTrash.trash(ItemPath::from(temp / "again/item").value()).failure, std::nullopt);
     EXPECT_THAT(restorable(temp / ("again/.Trash-" + user)), ElementsAre(Pair("item", testing::_)));
 }
 
@@ -229,7 +229,7 @@ TEST_F(VolumeTrash, fullVolumeLeavesTheItemAndNoInfo) {
     const std::string page(4096, 'x');
     while (filling.write(page.data(), static_cast<std::streamsize>(page.size())).flush()) {
     }
-    EXPECT_THAT(LinuxTrash(full + "/home").trash(ItemPath::from(full + "/item").value()),
+    EXPECT_THAT(LinuxTrash(full + "/home").trash(ItemPath::from(full + "/item").value()).failure,
                 Optional(std::string("“item” couldn’t be moved to the Trash: No space left on device")));
     EXPECT_EQ(fileContent(full + "/item"), "content");
     EXPECT_THAT(namesIn(full + "/home/.local/share/Trash/files"), IsEmpty());

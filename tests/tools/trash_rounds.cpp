@@ -2,7 +2,8 @@
 // Processes that compete for the Trash, and processes that are killed. No item may be lost, and everything in the Trash
 // must be restorable.
 //
-//   trash_rounds race ROUNDS   two processes trash items of the same names while four others keep emptying
+//   trash_rounds race ROUNDS   two processes trash items of the same names and one restores them, while four others
+//                              keep emptying
 //   trash_rounds kill ROUNDS   ROUNDS times, a clean-up is killed at a random moment, and the next run trashes one item
 //
 // Prints a summary; status 0 if everything was correct.
@@ -116,7 +117,7 @@ void requireNoOrphan(const Place& place, const std::string& when) {
     }
 }
 
-// Race: two trashing and four emptying processes.
+// Race: two trashing processes, one that trashes and restores, and four that empty.
 
 constexpr int raceNames = 24;
 constexpr int racePasses = 4;
@@ -129,8 +130,29 @@ int trashTheSameNames(const Place& place, int who, int passes) {
         for (int number = 0; number < raceNames; ++number) {
             const std::string path = place.path() + "/" + std::to_string(who) + "/" + std::to_string(number);
             makeItem(path, number % 2 == 0);
-            const bool failed = trash.trash(zelk::ItemPath::from(path).value()).has_value();
+            const bool failed = trash.trash(zelk::ItemPath::from(path).value()).failure.has_value();
             if (failed || fs::exists(fs::symlink_status(path))) ++wrong;
+        }
+    }
+    return wrong;
+}
+
+/// Trashes and restores items of the same names. Each must come back whole, unless it was emptied meanwhile. Returns
+/// the number of errors.
+int trashAndRestoreTheSameNames(const Place& place) {
+    zelk::LinuxTrash trash(place.home());
+    int wrong = 0;
+    for (int pass = 0; pass < racePasses; ++pass) {
+        for (int number = 0; number < raceNames; ++number) {
+            const std::string path = place.path() + "/2/" + std::to_string(number);
+            makeItem(path, number % 2 == 0);
+            const zelk::TrashResult moved = trash.trash(zelk::ItemPath::from(path).value());
+            if (!moved.item) {
+                ++wrong;
+                continue;
+            }
+            const bool isBack = !trash.restore(*moved.item);
+            if (isBack ? !isWhole(path, path) : fs::exists(fs::symlink_status(path))) ++wrong;
         }
     }
     return wrong;
@@ -155,7 +177,9 @@ void race() {
         for (const int who : {0, 1}) both.push_back(start([&, who] { return trashTheSameNames(place, who, passes); }));
         for (const pid_t one : both) require(wait(one) == 0, "an item could not be trashed");
     };
+    const pid_t restoring = start([&] { return trashAndRestoreTheSameNames(place); });
     trashing(racePasses);
+    require(wait(restoring) == 0, "an item that was restored is not what it was");
     over = 1;
     for (const pid_t emptier : emptying) require(wait(emptier) == 0, "an emptying died");
     requireGoodTrash(place, "after the emptying");

@@ -86,9 +86,10 @@ public:
         }
         return real_.list();
     }
-    Failure trash(const ItemPath&) override {
-        return pretence_.pass() ? std::nullopt : Failure("It is only a picture.");
+    TrashResult trash(const ItemPath&) override {
+        return {pretence_.pass() ? std::nullopt : Failure("It is only a picture.")};
     }
+    Failure restore(const TrashedItem&) override { return "It is only a picture."; }
     std::size_t empty() override {
         pretence_.pass();
         return 0;

@@ -16,7 +16,8 @@ public:
     /// Also absent if the folder is missing: the system creates it with the account and protects it, so not finding it
     /// means no access.
     std::optional<std::vector<std::string>> list() override;
-    Failure trash(const ItemPath& item) override;
+    TrashResult trash(const ItemPath& item) override;
+    Failure restore(const TrashedItem& item) override;
     std::size_t empty() override;
 
 private:

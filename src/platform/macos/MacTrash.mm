@@ -6,15 +6,31 @@
 
 #include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
+#include "platform/macos/MacRestore.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FailureText.h"
+#include "platform/posix/FileStatus.h"
 #include "platform/posix/FolderLock.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
 #include "platform/posix/RemovalPermit.h"
 #include "platform/posix/RemoveEntry.h"
+#include "platform/posix/RestoreOrigin.h"
 
 namespace zelk {
+namespace {
+
+/// Describes the trashed item at `path`. Absent if the Trash may not be read.
+std::optional<TrashedItem> itemInTrash(const ItemPath& origin, const FileStatus& parent, const std::string& path) {
+    const std::optional<ItemPath> inTrash = ItemPath::from(path);
+    const Descriptor folder = inTrash ? openParent(*inTrash) : Descriptor();
+    const std::optional<FileStatus> status =
+        folder ? fileStatus(folder.get(), std::string(inTrash->name())) : std::nullopt;
+    if (!status) return std::nullopt;
+    return TrashedItem{origin, identityOf(parent), inTrash->text(), identityOf(*status), {}};
+}
+
+}  // namespace
 
 std::optional<std::vector<std::string>> MacTrash::list() {
     std::optional<std::vector<std::string>> entries = directoryNames(Descriptor(openRootDirectory(location_)));
@@ -24,23 +40,35 @@ std::optional<std::vector<std::string>> MacTrash::list() {
     return entries;
 }
 
-Failure MacTrash::trash(const ItemPath& item) {
+TrashResult MacTrash::trash(const ItemPath& item) {
     const RemovalPermit permit;
     if (const int error = errorOnWay(item))
-        return failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error));
+        return {failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error))};
+    const Descriptor parent = openParent(item);
+    const std::optional<FileStatus> above = parent ? fileStatus(parent.get()) : std::nullopt;
     @autoreleasepool {
         return unlessThrown(
-            [&]() -> Failure {
+            [&]() -> TrashResult {
                 NSError* error = nil;
+                NSURL* moved = nil;
                 // Never a trailing slash, so that a link itself is moved.
-                if ([[NSFileManager defaultManager] trashItemAtURL:fileURL(item.text(), false)
-                                                  resultingItemURL:nil
-                                                             error:&error])
-                    return std::nullopt;
-                return failureOf(error);
+                if (![[NSFileManager defaultManager] trashItemAtURL:fileURL(item.text(), false)
+                                                   resultingItemURL:&moved
+                                                              error:&error])
+                    return {failureOf(error)};
+                TrashResult result;
+                if (above && moved != nil) result.item = itemInTrash(item, *above, pathBytes(moved));
+                return result;
             },
-            [](NSException* exception) { return failureOf(exception); });
+            [](NSException* exception) -> TrashResult { return {failureOf(exception)}; });
     }
+}
+
+Failure MacTrash::restore(const TrashedItem& item) {
+    const RemovalPermit permit;
+    const Failure reason = moveOutOfTrash(item);
+    if (!reason) return std::nullopt;
+    return failureText(item.origin.name(), "couldn’t be put back", *reason);
 }
 
 std::size_t MacTrash::empty() {

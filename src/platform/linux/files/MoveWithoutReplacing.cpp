@@ -40,16 +40,39 @@ int moveOntoReservation(const Place& from, const Place& to, const FileStatus& it
     return error;
 }
 
-}  // namespace
+/// Moves a file with two calls. If killed in between, leaves it as one file with two names.
+int linkAndUnlink(const Place& from, const Place& to, const FileStatus& item) {
+    if (::linkat(from.folder, from.name.c_str(), to.folder, to.name.c_str(), 0) != 0) return errno;
+    if (::unlinkat(from.folder, from.name.c_str(), 0) == 0) return 0;
+    const int error = errno;
+    if (holds(to, item)) ::unlinkat(to.folder, to.name.c_str(), 0);
+    return error;
+}
 
-int moveWithoutReplacing(const Place& from, const Place& to) {
+/// Moves an item on a volume that does not support RENAME_NOREPLACE.
+using Fallback = int (*)(const Place& from, const Place& to, const FileStatus& item);
+
+int moveOr(const Place& from, const Place& to, Fallback fallback) {
     const std::optional<FileStatus> item = fileStatus(from.folder, from.name);
     if (!item) return errno;
     if (::renameat2(from.folder, from.name.c_str(), to.folder, to.name.c_str(), RENAME_NOREPLACE) == 0) return 0;
     const int error = errno;
     // EINVAL: the volume does not support RENAME_NOREPLACE; EPERM: some container filters refuse unknown system calls.
-    if (error == EINVAL || error == ENOSYS || error == EPERM) return moveOntoReservation(from, to, *item);
+    if (error == EINVAL || error == ENOSYS || error == EPERM) return fallback(from, to, *item);
     return holds(to, *item) ? 0 : error;
+}
+
+}  // namespace
+
+int moveWithoutReplacing(const Place& from, const Place& to) {
+    return moveOr(from, to, moveOntoReservation);
+}
+
+int moveAmongOthers(const Place& from, const Place& to) {
+    return moveOr(from, to, [](const Place& item, const Place& there, const FileStatus& status) {
+        // A rename replaces only an empty folder, so a reservation that somebody has filled stays.
+        return status.isDirectory() ? moveOntoReservation(item, there, status) : linkAndUnlink(item, there, status);
+    });
 }
 
 }  // namespace zelk

@@ -15,4 +15,9 @@ struct Place {
 /// is on another volume. On an error nothing has moved.
 int moveWithoutReplacing(const Place& from, const Place& to);
 
+/// Like moveWithoutReplacing(), but safe if other programs use the target folder. On volumes without RENAME_NOREPLACE
+/// the former reserves the name and renames over its reservation, which another program may have written to by then.
+/// This one links files at `to` and unlinks them at `from`, and fails on volumes without hard links.
+int moveAmongOthers(const Place& from, const Place& to);
+
 }  // namespace zelk

@@ -4,8 +4,6 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-#include <cerrno>
-#include <optional>
 #include <string>
 #include <vector>
 

@@ -15,6 +15,7 @@
 #include "platform/linux/trash/TrashFolder.h"
 #include "platform/linux/trash/TrashMove.h"
 #include "platform/linux/trash/TrashOrphans.h"
+#include "platform/linux/trash/TrashRestore.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/FileStatus.h"
@@ -22,6 +23,7 @@
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/OpenParent.h"
 #include "platform/posix/RemovalPermit.h"
+#include "platform/posix/RestoreOrigin.h"
 
 namespace zelk {
 namespace {
@@ -89,14 +91,22 @@ std::optional<std::vector<std::string>> LinuxTrash::list() {
     return entries;
 }
 
-Failure LinuxTrash::trash(const ItemPath& item) {
+TrashResult LinuxTrash::trash(const ItemPath& item) {
     const RemovalPermit permit;
-    const Failure reason = move(item);
-    if (!reason) return std::nullopt;
-    return failureText(item.name(), "couldn’t be moved to the Trash", *reason);
+    TrashResult result;
+    const Failure reason = move(item, result.item);
+    if (reason) result.failure = failureText(item.name(), "couldn’t be moved to the Trash", *reason);
+    return result;
 }
 
-Failure LinuxTrash::move(const ItemPath& item) {
+Failure LinuxTrash::restore(const TrashedItem& item) {
+    const RemovalPermit permit;
+    const Failure reason = moveBack(item);
+    if (!reason) return std::nullopt;
+    return failureText(item.origin.name(), "couldn’t be put back", *reason);
+}
+
+Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trashed) {
     const Descriptor parent = openParent(item);
     if (!parent) return reasonOfParent(item, errno);
     const Place from{parent.get(), std::string(item.name())};
@@ -137,7 +147,37 @@ Failure LinuxTrash::move(const ItemPath& item) {
 
     sweepOnce(*trash, *itself);
     const std::string key = std::to_string(itself->device) + ":" + std::to_string(itself->inode) + "/" + from.name;
-    return moveIntoTrash(from, original, *trash, [&] { return numbers_.next(key); });
+    TrashEntryName entry;
+    if (Failure failure = moveIntoTrash(
+            from, original, *trash, [&] { return numbers_.next(key); }, entry))
+        return failure;
+    // Describe what was really moved, even if something else took the item's place at the last moment.
+    const FileStatus moved = fileStatus(trash->files.get(), entry.name).value_or(*status);
+    trashed = TrashedItem{item, identityOf(*above), pathIn(trash->path, "files/" + entry.name), identityOf(moved),
+                          std::move(entry.info)};
+    return std::nullopt;
+}
+
+Failure LinuxTrash::moveBack(const TrashedItem& item) {
+    std::string reason;
+    const Descriptor parent = openOrigin(item, reason);
+    if (!parent) return reason;
+    const std::optional<FileStatus> above = fileStatus(parent.get());
+    if (!above) return systemText(errno);
+    const std::size_t slash = item.path.rfind('/');
+    const std::string name = item.path.substr(slash + 1);
+    const std::string path = item.path.substr(0, item.path.rfind('/', slash - 1));
+
+    std::optional<TrashFolder> trash;
+    if (path == pathIn(dataHome_, "Trash")) {
+        trash = openHomeTrash(dataHome_, IfMissing::fail, reason);
+    } else {
+        const std::optional<std::string> top = mountPointOf(mountTable(), above->mount);
+        if (!top) return "its volume has no place for a Trash";
+        trash = reopenVolumeTrash(*top, *above, path, reason);
+    }
+    if (!trash) return reason;
+    return restoreFromTrash(*trash, name, item, {parent.get(), std::string(item.origin.name())});
 }
 
 /// Blocks other threads of this process, which could otherwise be in the middle of a move and postpone the sweep.

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -24,7 +25,8 @@ public:
 
     std::string location() override;
     std::optional<std::vector<std::string>> list() override;
-    Failure trash(const ItemPath& item) override;
+    TrashResult trash(const ItemPath& item) override;
+    Failure restore(const TrashedItem& item) override;
     std::size_t empty() override;
 
 private:
@@ -42,8 +44,10 @@ private:
 
     /// Removes what a killed run left behind, once per trash and run.
     void sweepOnce(const TrashFolder& trash, const FileStatus& itself);
+    /// Returns the reason of a failure, for display. On success `trashed` says where the item went.
+    Failure move(const ItemPath& item, std::optional<TrashedItem>& trashed);
     /// Returns the reason of a failure, for display.
-    Failure move(const ItemPath& item);
+    Failure moveBack(const TrashedItem& item);
 
     std::string home_;
     std::string dataHome_;

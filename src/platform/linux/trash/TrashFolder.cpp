@@ -41,6 +41,7 @@ public:
     std::optional<TrashFolder> openTrash(int parent, const std::string& above, const char* name) {
         TrashFolder trash;
         const std::string path = pathIn(above, name);
+        trash.path = path;
         trash.itself = open(parent, above, name);
         if (trash.itself) trash.files = open(trash.itself.get(), path, "files");
         if (trash.files) trash.info = open(trash.itself.get(), path, "info");
@@ -68,16 +69,46 @@ private:
     std::string& reason_;
 };
 
+constexpr const char* sharedTrash = ".Trash";
+
+std::string ownTrash() {
+    return ".Trash-" + std::to_string(::geteuid());
+}
+
 /// Opens the ".Trash" that an administrator created for all users of a volume. It must be sticky, so that only its
 /// owner can take away the folders of others.
 Descriptor openSharedTrash(int top) {
-    Descriptor shared(openSubdirectoryOnMount(top, ".Trash"));
+    Descriptor shared(openSubdirectoryOnMount(top, sharedTrash));
     if (!shared) return {};
     const std::optional<FileStatus> status = fileStatus(shared.get());
     const bool trusted =
         status && (status->mode & S_ISVTX) != 0 && (status->owner == 0 || status->owner == ::geteuid());
     if (!trusted) return {};
     return shared;
+}
+
+/// The open top folder of a volume, which holds its trashes.
+struct VolumeTop {
+    Descriptor folder;
+    mode_t openToAll = 0;  ///< write permissions of others that are acceptable in a trash here
+};
+
+std::optional<VolumeTop> openTop(const std::string& top, const FileStatus& volume, std::string& reason) {
+    VolumeTop opened;
+    opened.folder = Descriptor(openForLookups(top));
+    const std::optional<FileStatus> status = opened.folder ? fileStatus(opened.folder.get()) : std::nullopt;
+    if (!status) {
+        reason = reasonText(top, "couldn’t be opened: " + systemText(errno));
+        return std::nullopt;
+    }
+    // A subvolume without a mount of its own: nothing can be renamed out of it.
+    if (!status->isOnVolumeOf(volume)) {
+        reason = "its volume has no place for a Trash";
+        return std::nullopt;
+    }
+    // Some volumes have no permissions, and whoever may change the top folder could replace the whole trash anyway.
+    opened.openToAll = (status->mode & S_ISVTX) != 0 ? 0 : status->mode;
+    return opened;
 }
 
 }  // namespace
@@ -100,24 +131,29 @@ std::optional<TrashFolder> openHomeTrash(const std::string& dataHome, IfMissing 
 }
 
 std::optional<TrashFolder> openVolumeTrash(const std::string& top, const FileStatus& volume, std::string& reason) {
-    const Descriptor folder(openForLookups(top));
-    const std::optional<FileStatus> status = folder ? fileStatus(folder.get()) : std::nullopt;
-    if (!status) {
-        reason = reasonText(top, "couldn’t be opened: " + systemText(errno));
-        return std::nullopt;
-    }
-    // A subvolume without a mount of its own: nothing can be renamed out of it.
-    if (!status->isOnVolumeOf(volume)) {
-        reason = "its volume has no place for a Trash";
-        return std::nullopt;
-    }
-    // Some volumes have no permissions, and whoever may change the top folder could replace the whole trash anyway.
-    OwnFolders own(IfMissing::create, reason, (status->mode & S_ISVTX) != 0 ? 0 : status->mode);
+    const std::optional<VolumeTop> opened = openTop(top, volume, reason);
+    if (!opened) return std::nullopt;
+    OwnFolders own(IfMissing::create, reason, opened->openToAll);
     const std::string user = std::to_string(::geteuid());
-    if (const Descriptor shared = openSharedTrash(folder.get())) {
-        if (auto trash = own.openTrash(shared.get(), pathIn(top, ".Trash"), user.c_str())) return trash;
+    if (const Descriptor shared = openSharedTrash(opened->folder.get())) {
+        if (auto trash = own.openTrash(shared.get(), pathIn(top, sharedTrash), user.c_str())) return trash;
     }
-    return own.openTrash(folder.get(), top, (".Trash-" + user).c_str());
+    return own.openTrash(opened->folder.get(), top, ownTrash().c_str());
+}
+
+std::optional<TrashFolder> reopenVolumeTrash(const std::string& top, const FileStatus& volume, const std::string& path,
+                                             std::string& reason) {
+    const std::optional<VolumeTop> opened = openTop(top, volume, reason);
+    if (!opened) return std::nullopt;
+    OwnFolders own(IfMissing::fail, reason, opened->openToAll);
+    if (path == pathIn(top, ownTrash())) return own.openTrash(opened->folder.get(), top, ownTrash().c_str());
+    const std::string aboveShared = pathIn(top, sharedTrash);
+    const std::string user = std::to_string(::geteuid());
+    const bool isShared = path == pathIn(aboveShared, user);
+    const Descriptor shared = isShared ? openSharedTrash(opened->folder.get()) : Descriptor();
+    if (shared) return own.openTrash(shared.get(), aboveShared, user.c_str());
+    reason = reasonText(path, "is no longer the Trash of its volume");
+    return std::nullopt;
 }
 
 }  // namespace zelk

@@ -13,6 +13,7 @@ namespace zelk {
 /// this user, not links, on one volume and not writable by others: nobody else can have created them or can take away
 /// their contents.
 struct TrashFolder {
+    std::string path;  ///< the path it was opened by
     Descriptor itself;
     Descriptor files;
     Descriptor info;
@@ -31,5 +32,9 @@ std::optional<TrashFolder> openHomeTrash(const std::string& dataHome, IfMissing 
 /// created a ".Trash" that is a real, sticky folder, else ".Trash-UID". If everybody may change the top folder, as on
 /// volumes without permissions, the trash may be writable by everybody too.
 std::optional<TrashFolder> openVolumeTrash(const std::string& top, const FileStatus& volume, std::string& reason);
+
+/// Opens the trash of that volume which openVolumeTrash() returned with this `path`, and no other. Creates nothing.
+std::optional<TrashFolder> reopenVolumeTrash(const std::string& top, const FileStatus& volume, const std::string& path,
+                                             std::string& reason);
 
 }  // namespace zelk

@@ -91,16 +91,17 @@ std::string reasonOfMove(int error) {
 
 }  // namespace
 
-Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next) {
+Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next,
+                      TrashEntryName& entry) {
     Descriptor moving;  // its info briefly has no content without being an orphan
     if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return systemText(errno);
-    const std::string text = trashInfoText(path, localTime());
+    entry.info = trashInfoText(path, localTime());
     const std::size_t limit = longestName(trash.files.get());
     int error = EEXIST;
     for (int tried = 0; error == EEXIST && tried < maximumTries; ++tried) {
-        const std::string name = trashName(item.name, tried == 0 ? 1 : next(), limit);
-        const Place info{trash.info.get(), name + std::string(trashInfoSuffix)};
-        error = moveWithInfo(item, {trash.files.get(), name}, info, text);
+        entry.name = trashName(item.name, tried == 0 ? 1 : next(), limit);
+        const Place info{trash.info.get(), entry.name + std::string(trashInfoSuffix)};
+        error = moveWithInfo(item, {trash.files.get(), entry.name}, info, entry.info);
     }
     if (error == 0) return std::nullopt;
     return reasonOfMove(error);
