@@ -29,6 +29,13 @@ std::string_view FSNode::name() const {
 }
 
 FSNode& FSNode::append(NodeRef child) {
+    NodeRef formerParent;
+    if (child->keepsParent_) {
+        // A removed node keeps its parent alive. As its child again, the two would keep each other alive forever.
+        formerParent = NodeRef(child->parent_);
+        child->parent_->references_.fetch_sub(1, std::memory_order_relaxed);  // formerParent holds another
+        child->keepsParent_ = false;
+    }
     child->parent_ = this;
     return *children.emplace_back(std::move(child));
 }

@@ -62,7 +62,7 @@ public:
     /// Null for the synthetic top and for a node whose parent is gone.
     FSNode* parent() const { return parent_; }
 
-    /// Appends `child` to `children` and becomes its parent.
+    /// Appends `child` to `children` and becomes its parent. A removed node may be appended again, here or elsewhere.
     FSNode& append(NodeRef child);
     /// Removes `child` from `children`. Its parent pointer stays valid and from now on keeps this node alive, so that
     /// paths below a removed folder can still be built.

@@ -82,6 +82,30 @@ TEST(FSNode, removedNodeKeepsItsPath) {
     EXPECT_EQ(child->fullPath(), "/home/a") << "it keeps the folder that it was taken from";
 }
 
+TEST(FSNode, reappendedNodeIsReleasedWithItsParent) {
+    NodeRef child;
+    {
+        Tree tree("/x");
+        child = NodeRef(&tree.root->append(FSNode::make("a", 0)));
+        tree.root->remove(*child);
+        EXPECT_EQ(tree.root->append(child).fullPath(), "/x/a");
+        EXPECT_EQ(tree.root->children.size(), 1U);
+    }
+    EXPECT_EQ(child->parent(), nullptr) << "neither keeps the other";
+}
+
+TEST(FSNode, nodeAppendedElsewhereReleasesItsFormerParent) {
+    NodeRef former = FSNode::make("former", 0);
+    const NodeRef other = FSNode::make("other", 0);
+    const NodeRef child(&former->append(FSNode::make("a", 0)));
+    const NodeRef sibling(&former->append(FSNode::make("b", 0)));
+    former->remove(*child);
+    other->append(child);
+    former = nullptr;
+    EXPECT_EQ(sibling->parent(), nullptr);
+    EXPECT_EQ(child->fullPath(), "other/a");
+}
+
 TEST(FSNode, removingAForeignNodeChangesNothing) {
     const Tree tree("/home");
     const NodeRef stranger = FSNode::make("a", 0);
