@@ -20,7 +20,8 @@ AppModel::AppModel(Platform platform, QObject* parent)
       device_(platform.vitals.device()),
       results_(platform.tasks, [this](SurveyResults::Field field) { tell(field); }),
       trash_(platform, removals_, mainThread_.sender(), [this] { emit trashChanged(); }),
-      cleanup_(platform, results_, removals_, mainThread_.sender()) {
+      removalUndo_(platform, mainThread_.sender()),
+      cleanup_(platform, results_, removals_, removalUndo_, mainThread_.sender()) {
     scanRoots_ = {home_};
 }
 
@@ -72,6 +73,7 @@ void AppModel::startScan() {
     scanAgain_ = false;
     assign(scanPhase_, ScanPhase::scanning, &AppModel::scanPhaseChanged);
     if (scanTask_ != session) return;
+    removalUndo_.forgetResults();
     results_.begin(firstPlace());
     setVolume(platform_.vitals.volume(firstPlace()));
     if (scanTask_ == session) session->start(scanRoots_);
@@ -173,6 +175,13 @@ void AppModel::trashAndRemove(const std::vector<NodeRef>& nodes,
 
 void AppModel::trashLargeFile(const std::string& path) {
     cleanup_.trashLargeFile(path);
+}
+
+void AppModel::undoLastRemoval() {
+    removalUndo_.undo([this](bool resultsAreComplete) {
+        refreshTrash();
+        if (!resultsAreComplete) scanAnew();
+    });
 }
 
 void AppModel::removeFromTree(FSNode& node) {

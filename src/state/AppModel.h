@@ -18,6 +18,7 @@
 #include "scan/ScanUpdate.h"
 #include "state/CleanupSession.h"
 #include "state/MainThreadQueue.h"
+#include "state/RemovalUndo.h"
 #include "state/RemovalsModel.h"
 #include "state/Screen.h"
 #include "state/SurveyHistory.h"
@@ -28,8 +29,8 @@
 namespace zelk {
 
 /// The state of the application: one instance for the whole run, shared by every screen. It holds what the user chose
-/// and puts four collaborators behind one face: a SurveySession runs a survey, SurveyResults hold what it found,
-/// CleanupSession removes things, and TrashMirror shows the Trash.
+/// and puts five collaborators behind one face: a SurveySession runs a survey, SurveyResults hold what it found,
+/// CleanupSession removes things, which RemovalUndo restores, and TrashMirror shows the Trash.
 ///
 /// Main thread only. Every field has a signal that is emitted after a write that changed its value. A handler may call
 /// anything here, but must not delete the model other than by deleteLater(). No operation reports an error: what
@@ -88,6 +89,8 @@ public:
 
     /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
+    /// What the last trashAndRemove() or trashLargeFile() moved to the Trash.
+    RemovalUndo& removalUndo() { return removalUndo_; }
     /// The services, for the models of screens.
     const Platform& platform() const { return platform_; }
     Workspace& workspace() const { return platform_.workspace; }
@@ -138,6 +141,10 @@ public:
     /// later; all other results keep counting it. If it cannot be moved, or a link has replaced a folder on the way to
     /// it, nothing changes.
     void trashLargeFile(const std::string& path);
+    /// Restores from the Trash what the last trashAndRemove() or trashLargeFile() moved there, as far as possible, and
+    /// reports by removalUndo(). What is back is in the results again, and the Trash is measured. If another survey has
+    /// begun since the removal, a new one is started instead, as by scanAnew().
+    void undoLastRemoval();
     /// Removes a directory from the results after it was moved away: subtracts its size from every folder above it, and
     /// drops the items and large files at and below its path. What describes the survey as it ran stays. Waits until
     /// the classifier no longer reads the tree. The node may be gone afterwards unless the caller holds a reference. A
@@ -195,6 +202,7 @@ private:
     RemovalsModel removals_;
     SurveyResults results_;
     TrashMirror trash_;
+    RemovalUndo removalUndo_;
     CleanupSession cleanup_;
     std::shared_ptr<SurveySession> scanTask_;  // running or finished; absent after a cancel
     bool scanAgain_ = false;                   // when that one has finished

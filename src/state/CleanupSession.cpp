@@ -30,8 +30,9 @@ struct FoldersToTrash {
 
     std::vector<Folder> folders;
     CleanupSession::Folders trashed;
-    std::vector<OtherTree> otherTrees;  ///< trees that contain the trashed folders too
-    CleanupSession::Folders others;     ///< the folders at those paths in the other trees
+    std::vector<RemovalUndo::Item> restorable;  ///< of the trashed folders
+    std::vector<OtherTree> otherTrees;          ///< trees that contain the trashed folders too
+    CleanupSession::Folders others;             ///< the folders at those paths in the other trees
 
     /// Leaves out what has no path of its own: the top of a tree, and "/".
     void add(const NodeRef& node) {
@@ -55,8 +56,8 @@ struct FoldersToTrash {
 }  // namespace
 
 CleanupSession::CleanupSession(const Platform& platform, SurveyResults& results, RemovalsModel& removals,
-                               MainThreadQueue::Sender mainThread)
-    : platform_(platform), results_(results), removals_(removals), mainThread_(std::move(mainThread)) {}
+                               RemovalUndo& undo, MainThreadQueue::Sender mainThread)
+    : platform_(platform), results_(results), removals_(removals), undo_(undo), mainThread_(std::move(mainThread)) {}
 
 void CleanupSession::clean(std::vector<Reclaimable> items, std::function<void()> done) {
     const std::shared_ptr<Removal> removal = removals_.begin(items.size());
@@ -79,16 +80,17 @@ void CleanupSession::trashFolders(const Folders& folders, std::function<void(con
                 removal->noteSkipped();
                 continue;
             }
-            const bool stays = trash.trash(folder.item).failure.has_value();
+            const TrashResult result = trash.trash(folder.item);
             removal->noteDone();
-            if (stays) continue;
-            mainThread.post([this, moving, &folder] {
+            if (result.failure) continue;
+            mainThread.post([this, moving, &folder, trashed = result.item] {
                 const NodeRef node = folder.node;
                 const std::string path = node->fullPath();
                 results_.noteTrashedFolder(path);
                 for (const NodeRef& tree : results_.trees())
                     if (!(tree == folder.top)) moving->noteInOtherTree(tree, path);
                 moving->trashed.push_back(node);
+                if (trashed) moving->restorable.push_back({*trashed, results_.restorerOf(node)});
                 results_.remove(*node);  // last: a handler with an event loop may run the final closure below
             });
         }
@@ -99,6 +101,7 @@ void CleanupSession::trashFolders(const Folders& folders, std::function<void(con
                 moving->others.insert(moving->others.end(), found.begin(), found.end());
             }
             for (const NodeRef& folder : moving->others) results_.remove(*folder);
+            undo_.offer(RemovalUndo::Source::folders, moving->trashed.size(), std::move(moving->restorable));
             if (done) done(moving->trashed);
             releaseElsewhere(platform_.tasks, std::exchange(*moving, FoldersToTrash()));
         });
@@ -112,10 +115,15 @@ void CleanupSession::trashLargeFile(const std::string& path) {
     auto work = [this, mainThread = mainThread_, &trash = platform_.trash, item = *item, path,
                  removal = removals_.begin(1)] {
         if (!removal->mayBegin()) return removal->noteSkipped();
-        const bool stays = trash.trash(item).failure.has_value();
+        const TrashResult result = trash.trash(item);
         removal->noteDone();
-        if (stays) return;
-        mainThread.post([this, path] { results_.dropLargeFile(path); });
+        if (result.failure) return;
+        mainThread.post([this, path, trashed = result.item] {
+            std::vector<RemovalUndo::Item> restorable;
+            if (trashed) restorable.push_back({*trashed, results_.restorerOfLargeFile(path)});
+            results_.dropLargeFile(path);
+            undo_.offer(RemovalUndo::Source::largeFile, 1, std::move(restorable));
+        });
     };
     platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
 }

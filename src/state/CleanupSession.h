@@ -9,6 +9,7 @@
 #include "platform/ItemPath.h"
 #include "platform/Platform.h"
 #include "state/MainThreadQueue.h"
+#include "state/RemovalUndo.h"
 #include "state/RemovalsModel.h"
 #include "state/SurveyResults.h"
 
@@ -18,14 +19,14 @@ namespace zelk {
 /// picked in a list or a map. Each goes to the Trash, and the results of the survey follow.
 ///
 /// Owned by AppModel and used on the main thread only; it removes in background tasks and counts each item in
-/// `removals`, where a stop can be asked for. Errors are silent: what cannot be moved stays where it is and in the
-/// results.
+/// `removals`, where a stop can be asked for. Picked folders and files are offered to `undo` once they are moved.
+/// Errors are silent: what cannot be moved stays where it is and in the results.
 class CleanupSession {
 public:
     using Folders = std::vector<NodeRef>;
 
     /// The services must outlive this object and its tasks, the others this object.
-    CleanupSession(const Platform& platform, SurveyResults& results, RemovalsModel& removals,
+    CleanupSession(const Platform& platform, SurveyResults& results, RemovalsModel& removals, RemovalUndo& undo,
                    MainThreadQueue::Sender mainThread);
 
     /// Cleans each item by its own method, all at the same time, and calls `done` after the last.
@@ -42,6 +43,7 @@ private:
     const Platform platform_;
     SurveyResults& results_;
     RemovalsModel& removals_;
+    RemovalUndo& undo_;
     const MainThreadQueue::Sender mainThread_;
 };
 

@@ -78,6 +78,15 @@ public:
     /// A large file went to the Trash.
     void dropLargeFile(const std::string& path);
 
+    /// Adds what was removed to the results again. Returns false if that is not possible, so that only a new survey
+    /// gives complete results.
+    using Restorer = std::function<bool()>;
+    /// For a folder that remove() is about to take out, with its items and large files. Valid until begin(). Null while
+    /// a survey is running, and if the folder is not in the current tree.
+    Restorer restorerOf(const NodeRef& node);
+    /// For a file that dropLargeFile() is about to drop. Likewise.
+    Restorer restorerOfLargeFile(const std::string& path);
+
 private:
     /// What the previous survey left, for withdraw().
     struct Before {
