@@ -54,6 +54,10 @@ Rectangle {
                 width: parent.width
                 figures: samples
             }
+            BarStates {
+                width: parent.width
+                longText: samples.longText
+            }
             BubbleStates {
                 width: parent.width
                 figures: samples

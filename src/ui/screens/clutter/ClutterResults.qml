@@ -27,7 +27,10 @@ FocusScope {
     Component.onCompleted: results.build()
 
     EmptyState {
-        anchors.fill: parent
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: undoBar.top
         visible: results.nothing
         symbol: "tray"
         title: qsTr("Nothing heavy")
@@ -37,10 +40,31 @@ FocusScope {
     Loader {
         id: files
 
-        anchors.fill: parent
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: undoBar.top
         visible: !results.nothing
         enabled: visible
         focus: true
         onLoaded: files.item.focus = true
+    }
+
+    UndoBar {
+        id: undoBar
+
+        readonly property UndoBarModel last: results.module?.undoBar ?? null
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        shown: undoBar.last?.shown ?? false
+        undoable: undoBar.last?.undoable ?? false
+        text: undoBar.last?.text ?? ""
+        details: undoBar.last?.details ?? ""
+        spoken: undoBar.last?.spoken ?? ""
+        onUndoPressed: undoBar.last.undo()
+        onClosePressed: undoBar.last.dismiss()
+        onGone: files.focus = true
     }
 }

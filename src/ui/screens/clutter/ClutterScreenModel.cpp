@@ -22,7 +22,8 @@ ModuleTexts texts() {
 
 }  // namespace
 
-ClutterScreenModel::ClutterScreenModel(AppModel& app) : SurveyedModule(app, Screen::clutter, texts()), app_(app) {
+ClutterScreenModel::ClutterScreenModel(AppModel& app)
+    : SurveyedModule(app, Screen::clutter, texts()), app_(app), undoBar_(app, RemovalUndo::Source::largeFile) {
     connect(&app, &AppModel::insightsChanged, this, &ClutterScreenModel::refresh);
     connect(this, &ModuleScreenModel::phaseChanged, this, &ClutterScreenModel::refresh);
     refresh();

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <string>
 
+#include "ui/controls/UndoBarModel.h"
 #include "ui/screens/clutter/ClutterRows.h"
 #include "ui/screens/clutter/TypePills.h"
 #include "ui/screens/module/SurveyedModule.h"
@@ -24,6 +25,7 @@ class ClutterScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(int order READ order NOTIFY orderChanged FINAL)
     Q_PROPERTY(zelk::TypePills* pills READ pills CONSTANT FINAL)
     Q_PROPERTY(zelk::ClutterRows* rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(zelk::UndoBarModel* undoBar READ undoBar CONSTANT FINAL)
 
 public:
     /// `app` must outlive it.
@@ -41,6 +43,7 @@ public:
     int order() const { return sortByAge_ ? 1 : 0; }
     TypePills* pills() { return &pills_; }
     ClutterRows* rows() { return &rows_; }
+    UndoBarModel* undoBar() { return &undoBar_; }
 
     const TypePills::Filter& typeFilter() const { return pills_.chosen(); }
     bool sortByAge() const { return sortByAge_; }
@@ -70,6 +73,7 @@ private:
     AppModel& app_;
     TypePills pills_;
     ClutterRows rows_;
+    UndoBarModel undoBar_;
     bool sortByAge_ = false;
     bool nothing_ = true;
     bool dark_ = true;

@@ -53,7 +53,7 @@ FocusScope {
             anchors.top: bar.bottom
             anchors.left: parent.left
             anchors.right: parent.right
-            anchors.bottom: foot.top
+            anchors.bottom: undoBar.top
 
             NumberAnimation {
                 id: coming
@@ -119,6 +119,25 @@ FocusScope {
                 symbol: "circle.hexagongrid"
                 title: qsTr("No folders that take up space")
                 note: qsTr("Files that lie directly in this folder are counted with it and not listed one by one.")
+            }
+        }
+
+        UndoBar {
+            id: undoBar
+
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: foot.top
+            shown: panes.lens.undoBar.shown
+            undoable: panes.lens.undoBar.undoable
+            text: panes.lens.undoBar.text
+            details: panes.lens.undoBar.details
+            spoken: panes.lens.undoBar.spoken
+            onUndoPressed: panes.lens.undoBar.undo()
+            onClosePressed: panes.lens.undoBar.dismiss()
+            onGone: byKey => {
+                list.byKey = byKey;
+                list.focus = true;
             }
         }
 

@@ -49,7 +49,8 @@ LensScreenModel::LensScreenModel(AppModel& app)
                     if (const NodeRef node = bubbled(slice.id)) toggle(node);
                 },
                 [this] { back(); }}),
-      explanation_(app.home()) {
+      explanation_(app.home()),
+      undoBar_(app, RemovalUndo::Source::folders) {
     // While many things leave the tree one after the other, the screen follows a few times a second.
     following_.setSingleShot(true);
     following_.setInterval(followInterval);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "ui/charts/BubbleModel.h"
+#include "ui/controls/UndoBarModel.h"
 #include "ui/screens/explanation/ExplanationModel.h"
 #include "ui/screens/lens/FileIcons.h"
 #include "ui/screens/lens/LensRows.h"
@@ -39,6 +40,7 @@ class LensScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(zelk::LensRows* rows READ rows CONSTANT FINAL)
     Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
     Q_PROPERTY(zelk::ExplanationModel* explanation READ explanation CONSTANT FINAL)
+    Q_PROPERTY(zelk::UndoBarModel* undoBar READ undoBar CONSTANT FINAL)
     Q_PROPERTY(bool volumed READ volumed NOTIFY volumeChanged FINAL)
     Q_PROPERTY(QString volumeLine READ volumeLine NOTIFY volumeChanged FINAL)
     Q_PROPERTY(double usedShare READ usedShare NOTIFY volumeChanged FINAL)
@@ -68,6 +70,7 @@ public:
     LensRows* rows() { return &rows_; }
     BubbleModel* bubbles() { return &bubbles_; }
     ExplanationModel* explanation() { return &explanation_; }
+    UndoBarModel* undoBar() { return &undoBar_; }
     bool volumed() const;
     QString volumeLine() const;
     double usedShare() const;
@@ -119,6 +122,7 @@ private:
     LensRows rows_;
     BubbleModel bubbles_;
     ExplanationModel explanation_;
+    UndoBarModel undoBar_;
     NodeRef shown_;
     QTimer following_;
     int version_ = 0;

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// A bar at the foot of a screen that moved something to the Trash, with a button to undo that. It takes no room while
+// it is not shown. When it goes while it has the keyboard, the screen takes that back on `gone`.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+FocusScope {
+    id: bar
+
+    property bool shown: false
+    property bool undoable: false
+    required property string text
+    // One line for each reason; empty without any.
+    property string details: ""
+    // All that the bar says, for a screen reader.
+    property string spoken: bar.text
+
+    signal undoPressed
+    signal closePressed
+    signal gone(byKey: bool)
+
+    // Whether it was last used by the keyboard.
+    property bool byKey: false
+    readonly property real buttonRoom: undo.visible ? dot.width + undo.width + 2 * 4 : 0
+    readonly property real textRoom: close.x - texts.x - bar.buttonRoom - 16
+
+    onShownChanged: {
+        if (bar.shown || !bar.focus)
+            return;
+        bar.focus = false;
+        bar.gone(bar.byKey);
+    }
+
+    implicitHeight: bar.shown ? Math.max(texts.height, undo.implicitHeight, close.implicitHeight) + 2 * 8 : 0
+    visible: bar.shown
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: bar.spoken
+
+    Keys.onEscapePressed: {
+        bar.byKey = true;
+        bar.closePressed();
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.surfaceHi
+    }
+
+    Divider {
+        anchors.left: parent.left
+        anchors.right: parent.right
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: parent.left
+        anchors.leftMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(bar.textRoom, Math.max(message.implicitWidth, details.visible ? details.implicitWidth : 0))
+        spacing: 2
+
+        Words {
+            id: message
+
+            width: parent.width
+            text: bar.text
+            size: 12
+            mute: true
+            wrapMode: Text.Wrap
+        }
+
+        Words {
+            id: details
+
+            width: parent.width
+            visible: bar.details !== ""
+            text: bar.details
+            size: 11
+            soft: true
+            mute: true
+            wrapMode: Text.Wrap
+        }
+    }
+
+    Words {
+        id: dot
+
+        anchors.left: texts.right
+        anchors.leftMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        visible: undo.visible
+        text: "·"
+        size: 12
+        soft: true
+        mute: true
+    }
+
+    LinkButton {
+        id: undo
+
+        objectName: "undoRemoval"
+        focus: true
+        anchors.left: dot.right
+        anchors.leftMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        visible: bar.undoable
+        text: qsTr("Undo")
+        // The button is about to go: the keyboard stays in the bar.
+        onClicked: {
+            bar.byKey = undo.visualFocus;
+            if (undo.activeFocus)
+                close.forceActiveFocus(bar.byKey ? Qt.TabFocusReason : Qt.MouseFocusReason);
+            bar.undoPressed();
+        }
+    }
+
+    IconButton {
+        id: close
+
+        objectName: "closeUndoBar"
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: "xmark"
+        size: 12
+        side: 26
+        text: qsTr("Close")
+        onClicked: {
+            bar.byKey = close.visualFocus;
+            bar.closePressed();
+        }
+    }
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <QString>
+
+#include "state/RemovalUndo.h"
+
+namespace zelk {
+
+class AppModel;
+
+/// What the bar of a screen says about the last removal of that screen: that it went to the Trash, or what an undo
+/// restored and what it did not, and why. Shown until the next removal, a survey, or dismiss(). Main thread.
+class UndoBarModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the model of a screen")
+    Q_PROPERTY(bool shown READ shown NOTIFY changed FINAL)
+    Q_PROPERTY(bool undoable READ undoable NOTIFY changed FINAL)
+    Q_PROPERTY(QString text READ text NOTIFY changed FINAL)
+    Q_PROPERTY(QString details READ details NOTIFY changed FINAL)
+    Q_PROPERTY(QString spoken READ spoken NOTIFY changed FINAL)
+
+public:
+    /// `source` is the kind of removal that the screen asks for. `app` must outlive it.
+    UndoBarModel(AppModel& app, RemovalUndo::Source source);
+
+    bool shown() const { return state_ != State::hidden; }
+    /// undo() would try to restore something.
+    bool undoable() const;
+    QString text() const { return text_; }
+    /// One line for each item that was not restored, of which there may be many; empty without any.
+    QString details() const { return details_; }
+    /// Both, as one sentence after the other.
+    QString spoken() const;
+
+public slots:
+    void undo();
+    void dismiss();
+
+signals:
+    void changed();
+
+private:
+    enum class State { hidden, offered, restoring, ended };
+
+    void show(State state, const QString& text, const QString& details = {});
+    void showOffer();
+    void showOutcome(const RemovalUndo::Outcome& outcome);
+    void hideUnlessRestoring();
+
+    AppModel& app_;
+    RemovalUndo& removal_;
+    const RemovalUndo::Source source_;
+    State state_ = State::hidden;
+    QString text_;
+    QString details_;
+    bool offeredMeanwhile_ = false;  ///< another removal ended during the undo
+};
+
+}  // namespace zelk
