@@ -25,9 +25,8 @@ QString version(const BundleInfo& bundle) {
 TEST(About, tellsTheNameTheVersionTheSystemAndTheChip) {
     const AboutModel about({"Zelk Preview", "1.2", "34"}, device("Apple M3 Pro"));
     EXPECT_EQ(about.name(), QStringLiteral("Zelk Preview"));
-    EXPECT_THAT(about.rows(),
-                ElementsAre(AboutRow{"Version", "1.2 (34)"}, AboutRow{"System", "macOS 15.4"},
-                            AboutRow{"Chip", "Apple M3 Pro"}));
+    EXPECT_THAT(about.rows(), ElementsAre(AboutRow{"Version", "1.2 (34)"}, AboutRow{"System", "macOS 15.4"},
+                                          AboutRow{"Chip", "Apple M3 Pro"}));
 }
 
 TEST(About, withoutVersionKeysHasADashOnEachSideOfTheParenthesis) {

@@ -215,9 +215,9 @@ TEST_F(HelpWindow, onlyTheTopicThatIsReadIsAStopOfTheTabKey) {
 
 TEST_F(HelpWindow, aTopicIsChosenWithTheMouse) {
     open();
-    for (QQuickItem* item : seen())
-        if (item->inherits("QQuickText") && item->property("text").toString() == QStringLiteral("Lens"))
-            tour::clickAt(window(), item->mapToScene(item->boundingRect().center()));
+    QQuickItem* lens = showing("Lens");
+    ASSERT_NE(lens, nullptr);
+    tour::clickAt(window(), lens->mapToScene(lens->boundingRect().center()));
     EXPECT_EQ(help().current(), 5);
     settle();
     EXPECT_TRUE(shows("See where your space went."));

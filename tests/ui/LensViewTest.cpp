@@ -37,7 +37,8 @@ protected:
     std::vector<std::string> rowNames() {
         std::vector<std::pair<double, std::string>> rows;
         for (QQuickItem* item : seen())
-            if (item->property("spoken").isValid()) rows.emplace_back(item->mapToScene({}).y(), nameOf(item));
+            if (item->property("spoken").isValid() && item->property("ringed").isValid())
+                rows.emplace_back(item->mapToScene({}).y(), nameOf(item));
         std::sort(rows.begin(), rows.end());
         std::vector<std::string> names;
         for (auto& [y, name] : rows) names.push_back(std::move(name));

@@ -60,7 +60,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: 16
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(bar.textRoom, Math.max(message.implicitWidth, details.visible ? details.implicitWidth : 0))
+        width: Math.min(bar.textRoom, Math.max(message.implicitWidth, reasons.visible ? reasons.implicitWidth : 0))
         spacing: 2
 
         Words {
@@ -74,7 +74,7 @@ FocusScope {
         }
 
         Words {
-            id: details
+            id: reasons
 
             width: parent.width
             visible: bar.details !== ""

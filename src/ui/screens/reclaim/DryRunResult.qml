@@ -8,12 +8,12 @@ import Zelk.App
 import Zelk.Controls
 
 FocusScope {
-    id: page
+    id: resultPage
 
     required property DryRunModel dryRun
-    readonly property T.AbstractButton primary: page.dryRun.emptyable ? keep : done
+    readonly property T.AbstractButton primary: resultPage.dryRun.emptyable ? keep : done
 
-    readonly property var skipped: page.dryRun.skipped
+    readonly property var skipped: resultPage.dryRun.skipped
     property bool unfolded: false
 
     implicitHeight: column.implicitHeight + 24 + Math.max(keep.implicitHeight, empty.implicitHeight)
@@ -29,7 +29,7 @@ FocusScope {
         SymbolItem {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "checkmark.circle.fill"
-            color: page.dryRun.resultTint
+            color: resultPage.dryRun.resultTint
             size: 56
         }
 
@@ -40,7 +40,7 @@ FocusScope {
 
         Words {
             width: parent.width
-            text: page.dryRun.heading
+            text: resultPage.dryRun.heading
             size: 20
             font.weight: Font.Bold
             horizontalAlignment: Text.AlignHCenter
@@ -51,7 +51,7 @@ FocusScope {
         Words {
             objectName: "cleanupResult"
             width: parent.width
-            text: page.dryRun.result
+            text: resultPage.dryRun.result
             size: 14
             font.weight: Font.Medium
             horizontalAlignment: Text.AlignHCenter
@@ -61,23 +61,23 @@ FocusScope {
         LinkButton {
             objectName: "showSkipped"
             anchors.horizontalCenter: parent.horizontalCenter
-            text: page.unfolded ? qsTr("Hide what was skipped") : qsTr("Show what was skipped")
-            visible: page.skipped.length > 0
-            onClicked: page.unfolded = !page.unfolded
+            text: resultPage.unfolded ? qsTr("Hide what was skipped") : qsTr("Show what was skipped")
+            visible: resultPage.skipped.length > 0
+            onClicked: resultPage.unfolded = !resultPage.unfolded
         }
 
         SkippedList {
             objectName: "skippedList"
             width: parent.width
             height: Math.min(contentHeight, 132)
-            skipped: page.skipped
-            visible: page.unfolded
+            skipped: resultPage.skipped
+            visible: resultPage.unfolded
             enabled: visible
         }
 
         Words {
             width: parent.width
-            text: page.dryRun.advice
+            text: resultPage.dryRun.advice
             size: 12
             soft: true
             horizontalAlignment: Text.AlignHCenter
@@ -93,7 +93,7 @@ FocusScope {
 
         Spinner {
             anchors.verticalCenter: parent.verticalCenter
-            visible: page.dryRun.emptying
+            visible: resultPage.dryRun.emptying
         }
 
         SecondaryButton {
@@ -102,10 +102,10 @@ FocusScope {
             objectName: "keepInTrash"
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Keep in Trash")
-            visible: page.dryRun.emptyable
-            enabled: !page.dryRun.emptying
+            visible: resultPage.dryRun.emptyable
+            enabled: !resultPage.dryRun.emptying
             focus: visible
-            onClicked: page.dryRun.finish()
+            onClicked: resultPage.dryRun.finish()
         }
 
         PrimaryButton {
@@ -114,10 +114,10 @@ FocusScope {
             objectName: "emptyTrash"
             horizontalPadding: 20
             verticalPadding: 10
-            text: page.dryRun.emptyLabel
-            visible: page.dryRun.emptyable
-            enabled: !page.dryRun.emptying
-            onClicked: page.dryRun.emptyTrash()
+            text: resultPage.dryRun.emptyLabel
+            visible: resultPage.dryRun.emptyable
+            enabled: !resultPage.dryRun.emptying
+            onClicked: resultPage.dryRun.emptyTrash()
         }
 
         PrimaryButton {
@@ -127,9 +127,9 @@ FocusScope {
             horizontalPadding: 20
             verticalPadding: 10
             text: qsTr("Done")
-            visible: !page.dryRun.emptyable
+            visible: !resultPage.dryRun.emptyable
             focus: visible
-            onClicked: page.dryRun.finish()
+            onClicked: resultPage.dryRun.finish()
         }
     }
 }
