@@ -17,7 +17,7 @@ struct Told {
     const char* desktopLinux;
 };
 
-constexpr Told table[] = {
+constexpr Told wordings[] = {
     {SystemTexts::WholeComputer, "your whole Mac", "your whole computer"},
     {SystemTexts::ScanWholeComputer,
      "Scan your whole Mac and see space by type, the biggest files, and how it changes over time.",
@@ -91,8 +91,8 @@ constexpr Told table[] = {
 }  // namespace
 
 TEST(SystemTexts, haveAWordingForEachSystemInEveryRow) {
-    ASSERT_EQ(std::size(table), static_cast<std::size_t>(SystemTexts::keyCount));
-    for (const Told& row : table) {
+    ASSERT_EQ(std::size(wordings), static_cast<std::size_t>(SystemTexts::keyCount));
+    for (const Told& row : wordings) {
         EXPECT_STREQ(SystemTexts::wording(row.key, macOS), row.macOS);
         EXPECT_STREQ(SystemTexts::wording(row.key, desktopLinux), row.desktopLinux);
     }
