@@ -191,6 +191,13 @@ TEST_F(AppModelCancelTest, recordedSurveyIsNotWithdrawn) {
     EXPECT_EQ(model().root()->size, model().history().front().totalScanned);
 }
 
+TEST_F(AppModelCancelTest, afterFinishKeepsRecordWhenNextSurveyAppends) {
+    survey();
+    model().cancelScan();
+    survey();
+    EXPECT_EQ(model().history().size(), 2U);
+}
+
 TEST_F(AppModelCancelTest, inHandlerOfDeferredRemovalKeepsRecordedSurvey) {
     fillHome();
     surveyUpToClassification();
