@@ -10,6 +10,7 @@
 #include <ctime>
 #include <string_view>
 
+#include "platform/linux/trash/TrashEntry.h"
 #include "platform/linux/trash/TrashInfo.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/FolderLock.h"
@@ -100,8 +101,7 @@ Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFol
     int error = EEXIST;
     for (int tried = 0; error == EEXIST && tried < maximumTries; ++tried) {
         entry.name = trashName(item.name, tried == 0 ? 1 : next(), limit);
-        const Place info{trash.info.get(), entry.name + std::string(trashInfoSuffix)};
-        error = moveWithInfo(item, {trash.files.get(), entry.name}, info, entry.info);
+        error = moveWithInfo(item, {trash.files.get(), entry.name}, infoOf(trash, entry.name), entry.info);
     }
     if (error == 0) return std::nullopt;
     return reasonOfMove(error);
