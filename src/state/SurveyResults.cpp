@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/FolderPath.h"
 #include "scan/FoldersAt.h"
 #include "state/ReleaseElsewhere.h"
 
@@ -42,9 +43,7 @@ const FSNode& topOf(const FSNode& node) {
 /// True if something was removed.
 template <class Item>
 bool eraseAtAndBelow(std::vector<Item>& items, const std::string& path) {
-    const std::string below = path + "/";
-    return std::erase_if(items, [&](const Item& item) { return item.path == path || item.path.starts_with(below); }) !=
-           0;
+    return std::erase_if(items, [&](const Item& item) { return isInFolder(item.path, path); }) != 0;
 }
 
 /// True if the value changed.

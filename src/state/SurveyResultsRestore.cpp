@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/FolderPath.h"
 #include "state/SurveyResults.h"
 
 namespace zelk {
@@ -18,10 +19,6 @@ bool isInTree(const FSNode* node, const FSNode* top) {
         if (std::none_of(parent->children.begin(), parent->children.end(), isNode)) return false;
     }
     return node != nullptr;
-}
-
-bool isAtOrBelow(const std::string& path, const std::string& folder) {
-    return path == folder || (path.size() > folder.size() && path[folder.size()] == '/' && path.starts_with(folder));
 }
 
 /// Largest first, and after other files of the same size.
@@ -45,10 +42,10 @@ SurveyResults::Restorer SurveyResults::restorerOf(const NodeRef& node) {
     const std::string path = node->fullPath();
     std::vector<LargeFile> files;
     for (const LargeFile& file : insights_.topFiles)
-        if (isAtOrBelow(file.path, path)) files.push_back(file);
+        if (isInFolder(file.path, path)) files.push_back(file);
     std::vector<PlacedReclaimable> items;
     for (std::size_t place = 0; place < reclaimables_.size(); ++place)
-        if (isAtOrBelow(reclaimables_[place].path, path)) items.push_back({place, reclaimables_[place]});
+        if (isInFolder(reclaimables_[place].path, path)) items.push_back({place, reclaimables_[place]});
 
     return [this, node, files = std::move(files), items = std::move(items)] {
         // The folder above it may have been removed too, and not restored.
