@@ -9,9 +9,8 @@
 
 #include "fakes/Mounts.h"
 #include "fakes/TestFiles.h"
-#include "fakes/TracedProgram.h"
 #include "fakes/TrashContent.h"
-#include "zoo/TempFolder.h"
+#include "platform/TracedTrash.h"
 #include "zoo/Zoo.h"
 
 namespace zelk {
@@ -31,8 +30,10 @@ const std::string tracedCalls =
     "?readlink,readlinkat,read,write,fsync,close,?rename,renameat,?renameat2,?unlink,unlinkat,?rmdir,flock,fcntl,"
     "?getdents64,?lseek,?statfs,?fstatfs,?link,linkat,?chmod,?fchmod";
 
-class TrashDurability : public testing::Test {
+class TrashDurability : public TracedTrash {
 protected:
+    TrashDurability() : TracedTrash(tracedCalls) {}
+
     /// Creates an item and a Trash in which its name is taken, nothing else.
     void prepare() {
         for (const std::string& folder : {home, items}) fs::remove_all(folder);
@@ -76,19 +77,6 @@ protected:
         return found.contains("/old/item.txt") && found.contains("/old/folder") &&
                fs::exists(found.at("/old/folder") + "/a/file") && fs::exists(found.at("/old/folder") + "/b/file");
     }
-
-    std::vector<CallPosition> positions() const {
-        const std::vector<CallPosition> all = program.positions();
-        EXPECT_FALSE(all.empty()) << "strace cannot trace a program here";
-        return all;
-    }
-
-    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
-    const std::string home = temp / "home";
-    const std::string trash = home + "/.local/share/Trash";
-    const std::string items = temp / "items";
-    const std::string item = items + "/item.txt";
-    const fakes::TracedProgram program{tracedCalls, temp / "log", "/trash-writer-begins"};
 };
 
 TEST_F(TrashDurability, flushesInfoBeforeMovingTheItem) {

@@ -12,9 +12,8 @@
 
 #include "fakes/Mounts.h"
 #include "fakes/TestFiles.h"
-#include "fakes/TracedProgram.h"
 #include "fakes/TrashContent.h"
-#include "zoo/TempFolder.h"
+#include "platform/TracedTrash.h"
 #include "zoo/Zoo.h"
 
 namespace zelk {
@@ -34,8 +33,10 @@ const std::string callsOfRestoring =
     "?readlink,readlinkat,read,write,fsync,close,?rename,renameat,?renameat2,?unlink,unlinkat,?rmdir,flock,fcntl,"
     "?link,linkat";
 
-class RestoreDurability : public testing::Test {
+class RestoreDurability : public TracedTrash {
 protected:
+    RestoreDurability() : TracedTrash(callsOfRestoring) {}
+
     void prepare() {
         for (const std::string& folder : {home, items}) fs::remove_all(folder);
         zoo::makeFolder(home);
@@ -57,19 +58,6 @@ protected:
         const std::set<std::string> names = namesIn(trash + "/files");
         return std::any_of(names.begin(), names.end(), isItem);
     }
-
-    std::vector<CallPosition> positions() const {
-        const std::vector<CallPosition> all = program.positions();
-        EXPECT_FALSE(all.empty()) << "strace cannot trace a program here";
-        return all;
-    }
-
-    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
-    const std::string home = temp / "home";
-    const std::string trash = home + "/.local/share/Trash";
-    const std::string items = temp / "items";
-    const std::string item = items + "/item.txt";
-    const fakes::TracedProgram program{callsOfRestoring, temp / "log", "/trash-writer-begins"};
 };
 
 TEST_F(RestoreDurability, removesInfoAfterFlushingTheItem) {
