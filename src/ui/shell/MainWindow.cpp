@@ -25,9 +25,9 @@ namespace zelk {
 namespace {
 
 template <class T>
-T* singleton(QQmlEngine& engine, const char* uri, const char* name) {
-    auto* instance = engine.singletonInstance<T*>(qmlTypeId(uri, 1, 0, name));
-    if (instance == nullptr) qFatal("QML module %s has no singleton %s", uri, name);
+T* singleton(QQmlEngine& engine, const char* name) {
+    auto* instance = engine.singletonInstance<T*>(qmlTypeId("Zelk.Controls", 1, 0, name));
+    if (instance == nullptr) qFatal("Zelk.Controls has no singleton %s", name);
     return instance;
 }
 
@@ -51,9 +51,9 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
     engine_.addImportPath(QStringLiteral("qrc:/"));
 
     // Before the first frame, so that no window ever flashes in the wrong theme.
-    singleton<Theme>(engine_, "Zelk.Controls", "Theme")->follow(app);
-    motion_ = singleton<Motion>(engine_, "Zelk.Controls", "Motion");
-    textScale_ = singleton<TextScale>(engine_, "Zelk.Controls", "TextScale");
+    singleton<Theme>(engine_, "Theme")->follow(app);
+    motion_ = singleton<Motion>(engine_, "Motion");
+    textScale_ = singleton<TextScale>(engine_, "TextScale");
 
     secondary_ = std::make_unique<SecondaryWindows>(engine_, [this](WindowId id) { return givenTo(id); });
     quitQuestion_ = std::make_unique<QuitQuestion>(app.removals(), services_.quit);
