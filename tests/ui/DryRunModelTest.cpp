@@ -259,7 +259,9 @@ TEST_F(DryRun, tellsEachSkippedItemWithItsReason) {
     machine.files.failing = [](const auto& call) { return call.path == "/home/me/a/yarn"; };
     open(three());
     EXPECT_TRUE(sheet().skipped().isEmpty());
+    EXPECT_FALSE(sheet().anySkipped());
     cleanNow();
+    EXPECT_TRUE(sheet().anySkipped());
     ASSERT_EQ(sheet().skipped().size(), 1);
     const QVariantMap skipped = sheet().skipped().front().toMap();
     EXPECT_EQ(skipped.value("name").toString().toStdString(), "/home/me/a/yarn");

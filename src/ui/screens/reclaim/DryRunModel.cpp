@@ -78,6 +78,12 @@ QString DryRunModel::result() const {
     return line;
 }
 
+bool DryRunModel::anySkipped() const {
+    const auto& results = model_.lastResults();
+    return std::any_of(results.begin(), results.end(),
+                       [](const Cleaner::Result& one) { return std::holds_alternative<Cleaner::Failed>(one.status); });
+}
+
 QVariantList DryRunModel::skipped() const {
     QVariantList all;
     for (const Cleaner::Result& one : model_.lastResults()) {

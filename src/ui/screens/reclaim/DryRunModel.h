@@ -37,7 +37,7 @@ class DryRunModel : public QObject {
     Q_PROPERTY(QColor resultTint READ resultTint CONSTANT FINAL)
     Q_PROPERTY(QString heading READ heading NOTIFY phaseChanged FINAL)
     Q_PROPERTY(QString result READ result NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(QVariantList skipped READ skipped NOTIFY phaseChanged FINAL)
+    Q_PROPERTY(bool anySkipped READ anySkipped NOTIFY phaseChanged FINAL)
     Q_PROPERTY(QString advice READ advice NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool emptyable READ emptyable NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool emptying READ emptyingTrash NOTIFY phaseChanged FINAL)
@@ -78,8 +78,10 @@ public:
     QColor resultTint() const;
     QString heading() const;
     QString result() const;
-    /// What could not be cleaned, in the order in which it failed: maps of `name` (its path) and `reason`.
-    QVariantList skipped() const;
+    bool anySkipped() const;
+    /// What could not be cleaned, in the order in which it failed: maps of `name` (its path) and `reason`. Made anew
+    /// by each call: there may be thousands.
+    Q_INVOKABLE QVariantList skipped() const;
     QString advice() const;
     bool emptyingTrash() const { return emptyingTrash_; }
     bool trashEmptied() const { return trashEmptied_; }

@@ -13,7 +13,6 @@ FocusScope {
     required property DryRunModel dryRun
     readonly property T.AbstractButton primary: resultPage.dryRun.emptyable ? keep : done
 
-    readonly property var skipped: resultPage.dryRun.skipped
     property bool unfolded: false
 
     implicitHeight: column.implicitHeight + 24 + Math.max(keep.implicitHeight, empty.implicitHeight)
@@ -62,7 +61,7 @@ FocusScope {
             objectName: "showSkipped"
             anchors.horizontalCenter: parent.horizontalCenter
             text: resultPage.unfolded ? qsTr("Hide what was skipped") : qsTr("Show what was skipped")
-            visible: resultPage.skipped.length > 0
+            visible: resultPage.dryRun.anySkipped
             onClicked: resultPage.unfolded = !resultPage.unfolded
         }
 
@@ -70,7 +69,7 @@ FocusScope {
             objectName: "skippedList"
             width: parent.width
             height: Math.min(contentHeight, 132)
-            skipped: resultPage.skipped
+            skipped: resultPage.unfolded ? resultPage.dryRun.skipped() : []
             visible: resultPage.unfolded
             enabled: visible
         }
