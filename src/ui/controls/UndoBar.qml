@@ -9,13 +9,16 @@ import Zelk.Controls
 FocusScope {
     id: bar
 
-    property bool shown: false
-    property bool undoable: false
-    required property string text
+    // Whose removal the bar tells of; null before its screen has a model.
+    property UndoBarModel removal: null
+
+    property bool shown: bar.removal?.shown ?? false
+    property bool undoable: bar.removal?.undoable ?? false
+    property string text: bar.removal?.text ?? ""
     // One line for each reason; empty without any.
-    property string details: ""
+    property string details: bar.removal?.details ?? ""
     // All that the bar says, for a screen reader.
-    property string spoken: bar.text
+    property string spoken: bar.removal?.spoken ?? bar.text
 
     signal undoPressed
     signal closePressed
@@ -26,6 +29,8 @@ FocusScope {
     readonly property real buttonRoom: undo.visible ? dot.width + undo.width + 2 * 4 : 0
     readonly property real textRoom: close.x - texts.x - bar.buttonRoom - 16
 
+    onUndoPressed: bar.removal?.undo()
+    onClosePressed: bar.removal?.dismiss()
     onShownChanged: {
         if (bar.shown || !bar.focus)
             return;

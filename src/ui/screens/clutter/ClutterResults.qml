@@ -53,18 +53,10 @@ FocusScope {
     UndoBar {
         id: undoBar
 
-        readonly property UndoBarModel last: results.module?.undoBar ?? null
-
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        shown: undoBar.last?.shown ?? false
-        undoable: undoBar.last?.undoable ?? false
-        text: undoBar.last?.text ?? ""
-        details: undoBar.last?.details ?? ""
-        spoken: undoBar.last?.spoken ?? ""
-        onUndoPressed: undoBar.last.undo()
-        onClosePressed: undoBar.last.dismiss()
+        removal: results.module?.undoBar ?? null
         onGone: files.focus = true
     }
 }

@@ -128,13 +128,7 @@ FocusScope {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: foot.top
-            shown: panes.lens.undoBar.shown
-            undoable: panes.lens.undoBar.undoable
-            text: panes.lens.undoBar.text
-            details: panes.lens.undoBar.details
-            spoken: panes.lens.undoBar.spoken
-            onUndoPressed: panes.lens.undoBar.undo()
-            onClosePressed: panes.lens.undoBar.dismiss()
+            removal: panes.lens.undoBar
             onGone: byKey => {
                 list.byKey = byKey;
                 list.focus = true;
