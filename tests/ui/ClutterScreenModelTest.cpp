@@ -317,10 +317,10 @@ TEST_F(Clutter, followsTheTheme) {
         return rows.data(rows.index(row, 0), role).value<QColor>();
     };
     EXPECT_TRUE(screen().dark());
-    const QColor row = tint(*screen().rows(), 0, ClutterRows::tintRole);
+    const QColor row = tint(*screen().rows(), 0, LargeFileRows::tintRole);
     const QColor pill = tint(*screen().pills(), 1, TypePills::tintRole);
     screen().setDark(false);
-    EXPECT_NE(tint(*screen().rows(), 0, ClutterRows::tintRole), row);
+    EXPECT_NE(tint(*screen().rows(), 0, LargeFileRows::tintRole), row);
     EXPECT_NE(tint(*screen().pills(), 1, TypePills::tintRole), pill);
 }
 

@@ -187,8 +187,16 @@ TEST_F(Findings, theLargestFilesAreTheFirstFive) {
               {"5.mov", 200'000'000},
               {"6.mov", 100'000'000}});
     ASSERT_EQ(findings().largest()->rowCount(), 5);
-    EXPECT_EQ(findings().largest()->index(0).data(LargestFiles::nameRole).toString(), QStringLiteral("1.mov"));
-    EXPECT_EQ(findings().largest()->index(4).data(LargestFiles::nameRole).toString(), QStringLiteral("5.mov"));
+    EXPECT_EQ(findings().largest()->index(0).data(LargeFileRows::nameRole).toString(), QStringLiteral("1.mov"));
+    EXPECT_EQ(findings().largest()->index(4).data(LargeFileRows::nameRole).toString(), QStringLiteral("5.mov"));
+}
+
+TEST_F(Findings, fewerLargeFilesAreAllListed) {
+    surveyOf({{"0.mov", 400'000'000}, {"1.mov", 300'000'000}, {"2.mov", 200'000'000}, {"3.mov", 100'000'000}});
+    ASSERT_EQ(findings().largest()->rowCount(), 4);
+    for (int row = 0; row < 4; ++row)
+        EXPECT_EQ(findings().largest()->index(row).data(LargeFileRows::nameRole).toString(),
+                  QStringLiteral("%1.mov").arg(row));
 }
 
 TEST_F(Findings, withoutLargeFilesThereAreNoRows) {

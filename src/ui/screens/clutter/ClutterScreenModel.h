@@ -6,7 +6,7 @@
 #include <string>
 
 #include "ui/controls/UndoBarModel.h"
-#include "ui/screens/clutter/ClutterRows.h"
+#include "ui/screens/clutter/LargeFileRows.h"
 #include "ui/screens/clutter/TypePills.h"
 #include "ui/screens/module/SurveyedModule.h"
 
@@ -24,7 +24,7 @@ class ClutterScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(QStringList orders READ orders CONSTANT FINAL)
     Q_PROPERTY(int order READ order NOTIFY orderChanged FINAL)
     Q_PROPERTY(zelk::TypePills* pills READ pills CONSTANT FINAL)
-    Q_PROPERTY(zelk::ClutterRows* rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(zelk::LargeFileRows* rows READ rows CONSTANT FINAL)
     Q_PROPERTY(zelk::UndoBarModel* undoBar READ undoBar CONSTANT FINAL)
 
 public:
@@ -42,7 +42,7 @@ public:
     QStringList orders() const;
     int order() const { return sortByAge_ ? 1 : 0; }
     TypePills* pills() { return &pills_; }
-    ClutterRows* rows() { return &rows_; }
+    LargeFileRows* rows() { return &rows_; }
     UndoBarModel* undoBar() { return &undoBar_; }
 
     const TypePills::Filter& typeFilter() const { return pills_.chosen(); }
@@ -72,7 +72,7 @@ private:
 
     AppModel& app_;
     TypePills pills_;
-    ClutterRows rows_;
+    LargeFileRows rows_;
     UndoBarModel undoBar_;
     bool sortByAge_ = false;
     bool nothing_ = true;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/screens/overview/FindingsModel.h"
 
+#include <algorithm>
+
 #include "state/AppModel.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/FileTypeLook.h"
@@ -22,6 +24,11 @@ QString unreadText(std::int64_t folders) {
     if (folders < 1) return {};
     if (folders == 1) return FindingsModel::tr("1 folder could not be read.");
     return FindingsModel::tr("%1 folders could not be read.").arg(groupedFigure(folders));
+}
+
+std::vector<LargeFile> firstFew(const std::vector<LargeFile>& files) {
+    constexpr std::size_t most = 5;
+    return {files.begin(), files.begin() + static_cast<std::ptrdiff_t>(std::min(files.size(), most))};
 }
 
 }  // namespace
@@ -54,7 +61,7 @@ void FindingsModel::refresh() {
     segments_ = readSegments();
     freeBytes_ = app_.volume() ? app_.volume()->available : 0;
     cards_.refresh();
-    largest_.show(app_.insights().topFiles);
+    largest_.show(firstFew(app_.insights().topFiles), app_.platform().clock.now());
     emit changed();
 }
 

@@ -7,8 +7,8 @@
 #include <QString>
 
 #include "ui/charts/RibbonPicture.h"
+#include "ui/screens/clutter/LargeFileRows.h"
 #include "ui/screens/overview/FindingCards.h"
-#include "ui/screens/overview/LargestFiles.h"
 
 namespace zelk {
 
@@ -28,7 +28,7 @@ class FindingsModel : public QObject {
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments NOTIFY changed FINAL)
     Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed FINAL)
     Q_PROPERTY(zelk::FindingCards* cards READ cards CONSTANT FINAL)
-    Q_PROPERTY(zelk::LargestFiles* largest READ largest CONSTANT FINAL)
+    Q_PROPERTY(zelk::LargeFileRows* largest READ largest CONSTANT FINAL)
 
 public:
     /// `app` must outlive it.
@@ -48,7 +48,8 @@ public:
     const QList<RibbonSegment>& segments() const { return segments_; }
     qint64 freeBytes() const { return freeBytes_; }
     FindingCards* cards() { return &cards_; }
-    LargestFiles* largest() { return &largest_; }
+    /// The first few of the large files.
+    LargeFileRows* largest() { return &largest_; }
 
 public slots:
     void review();
@@ -65,7 +66,7 @@ private:
     AppModel& app_;
     const ZelkTheme* theme_ = &ZelkTheme::dark();
     FindingCards cards_;
-    LargestFiles largest_;
+    LargeFileRows largest_;
     QString title_;
     QString figure_;
     QString line_;

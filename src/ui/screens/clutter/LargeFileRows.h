@@ -12,13 +12,23 @@
 namespace zelk {
 
 /// Files with what a row tells of each. Main thread.
-class ClutterRows : public zelk::EditedList {
+class LargeFileRows : public zelk::EditedList {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("Part of ClutterScreenModel")
+    QML_UNCREATABLE("Part of the screens that list large files")
 
 public:
-    enum Role { symbolRole = Qt::UserRole, tintRole, nameRole, folderRole, ageRole, sizeRole, spokenRole, actionsRole };
+    enum Role {
+        symbolRole = Qt::UserRole,
+        tintRole,
+        nameRole,
+        pathRole,
+        folderRole,
+        ageRole,
+        sizeRole,
+        spokenRole,
+        actionsRole
+    };
 
     using EditedList::EditedList;
 

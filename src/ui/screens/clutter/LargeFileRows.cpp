@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/screens/clutter/ClutterRows.h"
+#include "ui/screens/clutter/LargeFileRows.h"
 
 #include <string_view>
 #include <utility>
@@ -11,27 +11,27 @@
 
 namespace zelk {
 
-void ClutterRows::show(std::vector<LargeFile> files, TimePoint now) {
+void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
     edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
     // What stayed may have another size than in the survey before, and all have another age.
     now_ = now;
     if (!files_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {ageRole, sizeRole, spokenRole});
 }
 
-void ClutterRows::setTheme(const ZelkTheme& theme) {
+void LargeFileRows::setTheme(const ZelkTheme& theme) {
     theme_ = &theme;
     if (!files_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tintRole});
 }
 
-std::string ClutterRows::pathAt(int row) const {
+std::string LargeFileRows::pathAt(int row) const {
     return row < 0 || row >= rowCount() ? std::string() : files_[static_cast<std::size_t>(row)].path;
 }
 
-int ClutterRows::rowCount(const QModelIndex& parent) const {
+int LargeFileRows::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(files_.size());
 }
 
-QVariant ClutterRows::data(const QModelIndex& index, int role) const {
+QVariant LargeFileRows::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
     const LargeFile& file = files_[static_cast<std::size_t>(index.row())];
     switch (role) {
@@ -42,6 +42,8 @@ QVariant ClutterRows::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
         case nameRole:
             return nameText(file.path);
+        case pathRole:
+            return displayText(file.path);
         case folderRole:
             return folderText(file.path);
         case ageRole:
@@ -58,11 +60,12 @@ QVariant ClutterRows::data(const QModelIndex& index, int role) const {
     }
 }
 
-QHash<int, QByteArray> ClutterRows::roleNames() const {
-    return {{symbolRole, "symbol"}, {tintRole, "tint"}, {nameRole, "name"},     {folderRole, "folder"},
-            {ageRole, "age"},       {sizeRole, "size"}, {spokenRole, "spoken"}, {actionsRole, "actions"}};
+QHash<int, QByteArray> LargeFileRows::roleNames() const {
+    return {{symbolRole, "symbol"}, {tintRole, "tint"},     {nameRole, "name"},
+            {pathRole, "path"},     {folderRole, "folder"}, {ageRole, "age"},
+            {sizeRole, "size"},     {spokenRole, "spoken"}, {actionsRole, "actions"}};
 }
 
 }  // namespace zelk
 
-#include "moc_ClutterRows.cpp"
+#include "moc_LargeFileRows.cpp"
