@@ -22,5 +22,5 @@ failed_cases() {
     awk '/^\[ RUN      \]|^Test Passed\.$/ { output = "" }
          { output = output $0 "\n" }
          /^\[  FAILED  \] .* ms\)$/ { printf "%s", substr(output, 1, 4000); output = "" }
-         /^Test Failed\.$/ { printf "%s", length(output) > 4000 ? substr(output, length(output) - 4000) : output; output = "" }' "$1"
+         /^Test Failed\.$/ { printf "%s", substr(output, (length(output) > 4000) * (length(output) - 4000)); output = "" }' "$1"
 }
