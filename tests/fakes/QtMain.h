@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QLocale>
 #include <QLoggingCategory>
@@ -30,7 +29,6 @@ inline int runWindowTests(int argc, char** argv) {
     const QApplication application(argc, argv);
     dressApplication();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    QAccessible::setActive(true);
     testing::InitGoogleMock(&argc, argv);
     // Models are tested with invalid rows on purpose.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.core.qabstractitemmodel.checkindex=false"));

@@ -102,7 +102,7 @@ FocusScope {
         std::vector<QAccessibleInterface*> found;
         QAccessibleInterface* map = QAccessible::queryAccessibleInterface(&chart());
         for (int at = 0; at < map->childCount(); ++at)
-            if (map->child(at)->role() == QAccessible::Button) found.push_back(map->child(at));
+            if (map->child(at)->role() == QAccessible::ListItem) found.push_back(map->child(at));
         return found;
     }
     std::vector<std::string> nodeNames() {

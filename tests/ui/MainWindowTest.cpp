@@ -119,8 +119,9 @@ protected:
             const QString text = item->property("text").toString();
             QAccessibleInterface* label = QAccessible::queryAccessibleInterface(item);
             ASSERT_NE(label, nullptr) << text.toStdString();
-            EXPECT_THAT(label->role(), testing::AnyOf(QAccessible::StaticText, QAccessible::Heading))
+            EXPECT_THAT(label->role(), testing::AnyOf(QAccessible::Paragraph, QAccessible::Heading))
                 << text.toStdString();
+            EXPECT_FALSE(label->state().focusable) << text.toStdString();
             EXPECT_EQ(label->text(QAccessible::Name), text);
         }
     }

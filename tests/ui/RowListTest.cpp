@@ -2,6 +2,8 @@
 // Rows that are used again for other data.
 #include <gmock/gmock.h>
 
+#include <QAccessible>
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -95,6 +97,28 @@ TEST_F(RowListWindow, aRowThatIsUsedAgainShowsItsOwnDataAtOnce) {
     EXPECT_TRUE(std::any_of(now.begin(), now.end(), [&](QQuickItem* item) {
         return before.contains(item) && isInTheWindow(item);
     })) << "no row was used again";
+}
+
+TEST_F(RowListWindow, screenReaderMeetsRowsTopDownAfterScrolling) {
+    auto* content = find("list")->property("contentItem").value<QQuickItem*>();
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(find("list"));
+    const auto shownRows = [&] {
+        std::vector<int> numbers;
+        for (int child = 0; child < list->childCount(); ++child) {
+            const auto* row = qobject_cast<QQuickItem*>(list->child(child)->object());
+            if (row->parentItem() == content && row->isVisible()) numbers.push_back(row->property("index").toInt());
+        }
+        return numbers;
+    };
+    const auto sorted = [](const std::vector<int>& numbers) { return std::is_sorted(numbers.begin(), numbers.end()); };
+    for (const int top : {0, 90, 30, 31, 0, 60}) {
+        SCOPED_TRACE(top);
+        QMetaObject::invokeMethod(find("list"), "positionViewAtIndex", Q_ARG(int, top), Q_ARG(int, 0));
+        settle();  // moves the rows
+        settle();
+        EXPECT_GE(shownRows().size(), 10u);
+        EXPECT_TRUE(sorted(shownRows())) << testing::PrintToString(shownRows());
+    }
 }
 
 }  // namespace zelk

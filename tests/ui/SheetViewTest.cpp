@@ -19,6 +19,33 @@ TEST_F(SheetWindow, theSheetIsADialogWithItsTitle) {
     EXPECT_EQ(nameOf(inside), "Move to Trash");
 }
 
+TEST_F(SheetWindow, isOneModalNodeThatHoldsItsControls) {
+    openSheet();
+    QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window());
+    std::vector<QAccessibleInterface*> dialogs;
+    std::vector<QAccessibleInterface*> pending{root};
+    while (!pending.empty()) {
+        QAccessibleInterface* node = pending.back();
+        pending.pop_back();
+        if (node->role() == QAccessible::Dialog) dialogs.push_back(node);
+        for (int child = 0; child < node->childCount(); ++child) pending.push_back(node->child(child));
+    }
+    ASSERT_EQ(dialogs.size(), 1U);
+    QAccessibleInterface* dialog = dialogs.front();
+    EXPECT_TRUE(dialog->state().modal);
+    EXPECT_FALSE(dialog->state().invisible);
+    EXPECT_EQ(dialog->parent(), root);
+    Names held;
+    for (int child = 0; child < dialog->childCount(); ++child) {
+        held.push_back(dialog->child(child)->text(QAccessible::Name).toStdString());
+        EXPECT_EQ(dialog->child(child)->parent(), dialog) << held.back();
+        EXPECT_EQ(dialog->indexOfChild(dialog->child(child)), child);
+    }
+    EXPECT_EQ(held, (Names{"Cancel", "Move"}));
+    EXPECT_EQ(dialog->child(2), nullptr);
+    EXPECT_TRUE(dialog->rect().contains(dialog->child(1)->rect()));
+}
+
 TEST_F(SheetWindow, escapeDismissesTheSheetOnce) {
     openSheet();
     press(Qt::Key_Escape);

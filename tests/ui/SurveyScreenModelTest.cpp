@@ -93,6 +93,29 @@ TEST_F(SurveyScreen, scanningShowsItemsBytesAndThePath) {
     EXPECT_EQ(screen().buttonName(), QStringLiteral("scanning…"));
 }
 
+TEST_F(SurveyScreen, speaksItsProgressEveryThreeSecondsWhileItIsShown) {
+    EXPECT_EQ(screen().spokenProgress(), QString());
+    beginAndHold();
+    EXPECT_EQ(screen().spokenProgress(), QStringLiteral("0 bytes, 0 items"));
+    const QString now =
+        QStringLiteral("%1, %2 items").arg(byteFigure(model().bytesScanned()), groupedFigure(model().itemsScanned()));
+    time += 2.9;
+    emit model().progressChanged();
+    awaitChange();
+    EXPECT_EQ(screen().spokenProgress(), QStringLiteral("0 bytes, 0 items"));
+    time += 0.1;
+    model().setSelection(Screen::tools);
+    emit model().progressChanged();
+    awaitChange();
+    EXPECT_EQ(screen().spokenProgress(), QStringLiteral("0 bytes, 0 items"));
+    model().setSelection(Screen::survey);
+    emit model().progressChanged();
+    awaitChange();
+    EXPECT_EQ(screen().spokenProgress(), now);
+    screen().cancel();
+    EXPECT_EQ(screen().spokenProgress(), QString());
+}
+
 TEST_F(SurveyScreen, beginsWithThePathOfTheRootAndNoItems) {
     machine.directories.hold(home);
     screen().pressScan();

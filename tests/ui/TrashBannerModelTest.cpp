@@ -48,6 +48,7 @@ TEST_F(TrashBanner, readsTheTrashWhenItComesOnScreen) {
     EXPECT_FALSE(banner().busy());
     EXPECT_EQ(figure(), "7 MB");
     EXPECT_EQ(action(), "Empty");
+    EXPECT_EQ(banner().actionName(), QStringLiteral("Empty Trash"));
 }
 
 TEST_F(TrashBanner, readingForTheFirstTimeShowsASpinnerAndNoButton) {

@@ -56,6 +56,8 @@ protected:
         window_->resize(size);
         view_.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
         ASSERT_NE(view_, nullptr) << component.errorString().toStdString();
+        // This platform cannot have a screen reader, but the controls take their roles as if one were there.
+        QAccessible::setActive(true);
         view_->setParentItem(window_->contentItem());
         view_->setSize(size);
         window_->show();

@@ -7,7 +7,7 @@ from dataclasses import dataclass
 from tree import Node
 
 BUTTONS = frozenset({"push button", "toggle button", "push button menu", "link"})
-TEXTS = frozenset({"label", "heading"})
+TEXTS = frozenset({"label", "heading", "paragraph"})
 MENU_ITEMS = frozenset({"menu item", "check menu item", "radio menu item"})
 RANGED = frozenset({"slider", "spin button"})
 CHECKED = frozenset({"check box", "radio button", "switch"})

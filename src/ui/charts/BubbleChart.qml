@@ -39,7 +39,7 @@ BubblePicture {
             width: node.box.width
             height: node.box.height
 
-            Accessible.role: Accessible.Button
+            Accessible.role: Accessible.ListItem
             Accessible.name: node.name
             Accessible.description: node.note
             Accessible.selectable: true

@@ -3,11 +3,14 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.Controls
 
-BaseButton {
+T.CheckBox {
     id: box
 
+    // The name.
+    required text
     required property bool on
     property real side: 18
 
@@ -15,12 +18,25 @@ BaseButton {
     implicitHeight: implicitWidth
     opacity: box.enabled ? 1 : 0.45
 
-    Accessible.role: Accessible.CheckBox
+    checked: box.on
+    nextCheckState: () => box.on ? Qt.Checked : Qt.Unchecked
+    focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
+    Keys.forwardTo: buttonKeys
+
+    Accessible.name: box.text
     Accessible.checkable: true
-    Accessible.checked: box.on
-    Accessible.onToggleAction: {
-        if (box.enabled)
-            box.clicked();
+    Accessible.onPressAction: buttonKeys.press(false)
+    Accessible.onToggleAction: buttonKeys.press(false)
+
+    ButtonKeys {
+        id: buttonKeys
+
+        control: box
+    }
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
     }
 
     background: Item {

@@ -14,7 +14,7 @@ FigureText {
     duration: Motion.count
     color: Theme.ink
     pixelSize: 13
-    Accessible.role: Accessible.StaticText
+    Accessible.role: Accessible.Paragraph
     Accessible.name: figure.text
     Accessible.ignored: figure.mute
 }

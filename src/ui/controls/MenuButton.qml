@@ -21,7 +21,7 @@ BaseButton {
     opacity: button.enabled ? 1 : 0.45
 
     Accessible.name: Spoken.joined([button.said, button.text])
-    Accessible.role: Accessible.ButtonMenu
+    Accessible.description: qsTr("opens a menu")
 
     onClicked: panel.visible ? panel.close() : panel.popup(button, 0, button.height + 4)
     Keys.onDownPressed: button.clicked()
@@ -58,6 +58,7 @@ BaseButton {
     MenuPanel {
         id: panel
 
+        title: button.Accessible.name
         // A press on the button is the button's own: it closes what it opened.
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     }

@@ -22,6 +22,8 @@ T.Menu {
     padding: 5
     margins: 8
     overlap: 1
+    // What is read is an item of the template, which has no name of its own.
+    onAboutToShow: contentItem.parent.Accessible.name = panel.title
 
     delegate: MenuRow {}
 

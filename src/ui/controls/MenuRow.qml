@@ -19,6 +19,10 @@ T.MenuItem {
     verticalPadding: 6
     opacity: row.enabled ? 1 : 0.45
     Accessible.name: row.text
+    Accessible.onPressAction: {
+        if (row.enabled)
+            row.clicked();
+    }
 
     background: Rectangle {
         radius: 6

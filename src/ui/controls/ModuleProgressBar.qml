@@ -9,6 +9,9 @@ ProgressPicture {
     id: bar
 
     required property color tint
+    // What a screen reader says: whose work it is, and what is done.
+    property string name: ""
+    property string doing: ""
     property real barWidth: 220
 
     // Of one run of the sliver, and where it stands in the middle.
@@ -22,7 +25,9 @@ ProgressPicture {
     seconds: Motion.reduced ? bar.period / 2 : bar.clock
 
     Accessible.role: Accessible.ProgressBar
-    Accessible.ignored: true
+    Accessible.name: bar.name
+    Accessible.description: bar.doing
+    Accessible.ignored: bar.name === ""
 
     NumberAnimation on clock {
         from: 0

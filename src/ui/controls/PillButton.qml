@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A small capsule that leads to a module, or is one of a few choices.
+// A small capsule that leads to a module.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -10,12 +10,9 @@ BaseButton {
 
     required property string symbol
     required property color tint
-    // The choice that holds.
-    property bool chosen: false
-    property real least: 36
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(pill.least, implicitContentHeight + topPadding + bottomPadding)
+    implicitHeight: Math.max(36, implicitContentHeight + topPadding + bottomPadding)
     leftPadding: 14
     rightPadding: 16
     verticalPadding: 8
@@ -28,22 +25,9 @@ BaseButton {
         }
     }
 
-    background: Rectangle {
-        radius: height / 2
-        color: pill.chosen ? Qt.tint(Theme.surface, Qt.alpha(pill.tint, 0.2)) : Theme.surface
-        border.width: 1
-        border.color: pill.chosen ? Qt.alpha(pill.tint, 0.7) : Theme.hairline
-
-        Wash {
-            anchors.fill: parent
-            radius: height / 2
-            control: pill
-        }
-
-        FocusRing {
-            shown: pill.visualFocus
-            corner: pill.height / 2
-        }
+    background: PillGround {
+        control: pill
+        tint: pill.tint
     }
 
     contentItem: ButtonLabel {

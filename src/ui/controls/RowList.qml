@@ -6,6 +6,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Zelk.Controls
 
 ListView {
     id: list
@@ -80,4 +81,8 @@ ListView {
     }
 
     T.ScrollBar.vertical: ThinScrollBar {}
+
+    RowOrder {
+        content: list.contentItem
+    }
 }

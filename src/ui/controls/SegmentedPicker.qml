@@ -63,17 +63,17 @@ FocusScope {
 
             model: picker.options
 
-            BaseButton {
+            RadioButton {
                 id: segment
 
                 required property int index
                 required property string modelData
 
-                readonly property bool chosen: segment.index === picker.current
                 // Where nothing is picked yet the first one takes the keyboard.
                 readonly property bool reached: segment.chosen || (segment.index === 0 && (picker.current < 0 || picker.current >= picker.options.length))
 
                 text: segment.modelData
+                chosen: segment.index === picker.current
                 width: Math.floor(row.share * implicitWidth)
                 implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
                 implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -82,10 +82,6 @@ FocusScope {
                 focus: segment.reached
                 activeFocusOnTab: segment.reached
                 onClicked: picker.picked(segment.index)
-
-                Accessible.role: Accessible.RadioButton
-                Accessible.checkable: true
-                Accessible.checked: segment.chosen
 
                 Keys.onLeftPressed: picker.pick(segment.index - 1)
                 Keys.onUpPressed: picker.pick(segment.index - 1)

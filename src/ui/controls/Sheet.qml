@@ -40,6 +40,8 @@ T.Popup {
     closePolicy: T.Popup.NoAutoClose
 
     onAboutToShow: {
+        // The content is the dialog; the template's item around it would be another one.
+        contentItem.parent.Accessible.ignored = true;
         sheet.before = sheet.parent?.Window.activeFocusItem ?? null;
         sheet.ringed = (sheet.before as T.Control)?.visualFocus ?? false;
     }

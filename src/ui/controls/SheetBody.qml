@@ -4,11 +4,11 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Zelk.Controls
 
-FocusScope {
+DialogScope {
     id: page
 
-    required property string title
     required property Item body
     required property real bodyWidth
     required property T.AbstractButton primary
@@ -19,7 +19,6 @@ FocusScope {
 
     focus: true
     Accessible.role: Accessible.Dialog
-    Accessible.name: page.title
 
     Keys.onEscapePressed: page.escaped()
     Keys.onReturnPressed: event => page.press(event.isAutoRepeat)

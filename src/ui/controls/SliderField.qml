@@ -21,6 +21,21 @@ T.Slider {
     wheelEnabled: true
     opacity: slider.enabled ? 1 : 0.45
 
+    // By these names a screen reader asks for the range.
+    readonly property real minimumValue: slider.from
+    readonly property real maximumValue: slider.to
+
+    // Unlike `moved` it is told of a screen reader's hand too.
+    signal picked(real value)
+
+    property bool made: false
+
+    Component.onCompleted: slider.made = true
+    onValueChanged: {
+        if (slider.made)
+            slider.picked(slider.value);
+    }
+
     Accessible.name: slider.label
     Accessible.description: slider.valueText
 

@@ -31,10 +31,23 @@ T.SpinBox {
     hoverEnabled: true
     opacity: stepper.enabled ? 1 : 0.45
 
+    // By these names a screen reader asks for the range.
+    readonly property int minimumValue: stepper.from
+    readonly property int maximumValue: stepper.to
+
+    // A screen reader sets the value itself.
+    property bool made: false
+
     Accessible.name: stepper.label
-    onValueModified: stepper.moved(stepper.value)
+    onValueChanged: {
+        if (stepper.made)
+            stepper.moved(stepper.value);
+    }
     // The template makes its face a stop of its own for the Tab key, which no key works on and nobody could name.
-    Component.onCompleted: contentItem.activeFocusOnTab = false
+    Component.onCompleted: {
+        contentItem.activeFocusOnTab = false;
+        stepper.made = true;
+    }
 
     component StepFace: Item {
         id: stepButton

@@ -14,6 +14,9 @@ T.ScrollBar {
     padding: 2
     minimumSize: 0.06
     visible: bar.size < 1
+    // What it scrolls is read as a whole, and has the keys for it.
+    Accessible.ignored: true
+    Accessible.focusable: false
 
     contentItem: Rectangle {
         implicitWidth: 6

@@ -20,7 +20,8 @@ Text {
     font.pixelSize: Math.round(words.size * TextScale.factor)
     textFormat: Text.PlainText
     elide: words.wrapMode === Text.NoWrap ? Text.ElideRight : Text.ElideNone
-    Accessible.role: Accessible.StaticText
+    // (To Qt 6.4 a static text takes the keyboard, whatever it is told.)
+    Accessible.role: Accessible.Paragraph
     Accessible.name: words.text
     Accessible.ignored: words.mute
 }

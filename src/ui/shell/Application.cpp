@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "ui/charts/HouseTile.h"
+#include "ui/controls/DialogScope.h"
 #include "ui/theme/SymbolItem.h"
 #include "ui/theme/ZelkTheme.h"
 
@@ -59,6 +60,7 @@ void registerInterface() {
     qml_register_types_Zelk_Controls();
     qml_register_types_Zelk_Charts();
     qml_register_types_Zelk_App();
+    installDialogReading();
 }
 
 }  // namespace zelk

@@ -22,6 +22,10 @@ T.MenuItem {
     topPadding: entry.startsGroup ? 9 : 0
     hoverEnabled: true
     Accessible.name: entry.title
+    Accessible.onPressAction: {
+        if (entry.enabled)
+            entry.clicked();
+    }
 
     background: Item {
         Rectangle {

@@ -19,6 +19,8 @@ T.Menu {
     padding: 6
     margins: 4
     overlap: 0
+    // What is read is an item of the template, which has no name of its own.
+    onAboutToShow: contentItem.parent.Accessible.name = menuSheet.title
 
     background: Rectangle {
         radius: 10

@@ -18,6 +18,8 @@ T.MenuBarItem {
     implicitWidth: label.implicitWidth + 20
     implicitHeight: Math.max(24, label.implicitHeight + 6)
     Accessible.name: item.plainText
+    // Qt 6.4 gives it the role of a menu bar whatever it is told, so a screen reader gets its content instead.
+    Accessible.ignored: true
 
     background: Rectangle {
         radius: 6
@@ -36,6 +38,10 @@ T.MenuBarItem {
         y: item.topPadding
         width: item.availableWidth
         height: item.availableHeight
+
+        Accessible.role: Accessible.MenuItem
+        Accessible.name: item.plainText
+        Accessible.onPressAction: item.triggered()
 
         Words {
             id: label

@@ -50,18 +50,15 @@ Column {
         }
     }
 
-    BaseButton {
+    TabButton {
         id: row
 
         objectName: place.name
         text: place.title
+        chosen: place.selected
         width: parent.width
         height: Math.max(place.tight ? 32 : 36, label.implicitHeight + 12)
         onClicked: place.pressed(place.index)
-
-        Accessible.role: Accessible.PageTab
-        Accessible.selectable: true
-        Accessible.selected: place.selected
 
         Keys.onUpPressed: place.stepped(place.index, -1)
         Keys.onDownPressed: place.stepped(place.index, 1)

@@ -72,10 +72,10 @@ Section {
         }
     }
     StateRow {
-        name: "PillButton, chosen"
+        name: "PillChoice, chosen"
         longText: buttons.longText
 
-        PillButton {
+        PillChoice {
             text: "Duplicates"
             symbol: "doc.on.doc"
             tint: "#15aabf"

@@ -39,8 +39,9 @@ FocusScope {
         name: qsTr("Files")
         model: files.clutter.rows
 
-        function openMenu(row: int, at: point) {
+        function openMenu(row: int, name: string, at: point) {
             files.clutter.pick(row);
+            menu.title = name;
             menu.popup(list, at.x, at.y);
         }
 
@@ -80,7 +81,7 @@ FocusScope {
 
             ringed: list.ringed && ListView.isCurrentItem
             onTaken: list.take(index)
-            onAsked: at => list.openMenu(index, mapToItem(list, at))
+            onAsked: at => list.openMenu(index, actions, mapToItem(list, at))
 
             Connections {
                 target: list

@@ -140,6 +140,7 @@ ListRow {
         anchors.rightMargin: 22
         anchors.verticalCenter: parent.verticalCenter
         text: row.actions
+        Accessible.description: qsTr("opens a menu")
         symbol: "ellipsis.circle"
         size: 16
         focusPolicy: Qt.NoFocus

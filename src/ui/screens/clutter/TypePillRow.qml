@@ -36,7 +36,7 @@ FocusScope {
 
             model: choice.clutter.pills
 
-            PillButton {
+            PillChoice {
                 id: pill
 
                 required property int index
@@ -45,17 +45,9 @@ FocusScope {
 
                 objectName: "typePill" + pill.index
                 text: pill.name
-                least: 32
-                verticalPadding: 6
                 focus: pill.reached
                 activeFocusOnTab: pill.reached
                 onClicked: choice.clutter.filter(pill.index)
-
-                required chosen
-
-                Accessible.role: Accessible.RadioButton
-                Accessible.checkable: true
-                Accessible.checked: pill.chosen
 
                 Keys.onLeftPressed: choice.choose(pill.index - 1)
                 Keys.onUpPressed: choice.choose(pill.index - 1)

@@ -6,12 +6,11 @@ import QtQuick
 import Zelk.App
 import Zelk.Controls
 
-BaseButton {
+ItemDelegate {
     id: row
 
     required property int index
     required property helpTopic modelData
-    property bool current: false
 
     text: row.modelData.title
     // (A stop cannot cease to be one while the keyboard is still there.)
@@ -21,10 +20,6 @@ BaseButton {
     topPadding: 8
     bottomPadding: 8
     implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
-
-    Accessible.role: Accessible.ListItem
-    Accessible.selectable: true
-    Accessible.selected: row.current
 
     background: Rectangle {
         radius: 8

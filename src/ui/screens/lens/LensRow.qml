@@ -28,7 +28,7 @@ ListRow {
 
     implicitHeight: Math.max(content.implicitHeight, label.implicitHeight) + 2 * 8
 
-    Accessible.role: Accessible.Button
+    Accessible.role: Accessible.ListItem
     Accessible.name: row.spoken
     Accessible.onPressAction: row.opened()
 

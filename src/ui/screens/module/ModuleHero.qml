@@ -33,6 +33,11 @@ FocusScope {
         contentHeight: Math.max(height, column.implicitHeight + 2 * 28)
         boundsBehavior: Flickable.StopAtBounds
         clip: true
+        // Without a button the keyboard is at the page itself.
+        focus: hero.module.scanLabel === ""
+
+        Accessible.role: Accessible.Document
+        Accessible.name: hero.module.title
 
         Column {
             id: column
@@ -79,7 +84,7 @@ FocusScope {
                 objectName: "moduleScanButton"
                 text: hero.module.scanLabel
                 visible: text !== ""
-                focus: true
+                focus: visible
                 onClicked: hero.module.scan()
             }
 

@@ -50,6 +50,8 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "moduleProgressBar"
             tint: progress.module.tint
+            name: progress.module.title
+            doing: progress.module.scanningLabel
         }
     }
 

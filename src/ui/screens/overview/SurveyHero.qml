@@ -42,6 +42,18 @@ FocusScope {
         return false;
     }
 
+    // What is under way, to a screen reader: the button stays one.
+    Item {
+        x: scanButton.x
+        y: scanButton.y
+        width: scanButton.width
+        height: scanButton.height
+        visible: hero.survey.scanning
+        Accessible.role: Accessible.ProgressBar
+        Accessible.name: hero.survey.buttonName
+        Accessible.description: hero.survey.spokenProgress
+    }
+
     Column {
         id: column
 
@@ -56,6 +68,7 @@ FocusScope {
             objectName: "scanButton"
             focus: true
             text: hero.survey.buttonName
+            Accessible.description: hero.survey.spokenProgress
             scanned: hero.survey.scanned
             recoverable: hero.survey.recoverable
             idle: hero.survey.idle
@@ -113,7 +126,7 @@ FocusScope {
                     text: hero.survey.itemsLine
                     color: Theme.ink
                     pixelSize: 13
-                    Accessible.role: Accessible.StaticText
+                    Accessible.role: Accessible.Paragraph
                     Accessible.name: text
                 }
 

@@ -16,6 +16,7 @@ namespace {
 constexpr int progressInterval = 80;         // milliseconds: twelve texts a second
 constexpr int countingInterval = 33;         // milliseconds, when no survey asks for the time
 constexpr double progressDuration = 0.25;    // seconds
+constexpr double spokenInterval = 3;         // seconds
 constexpr double recoverableDuration = 0.9;  // seconds
 
 }  // namespace
@@ -112,6 +113,8 @@ void SurveyScreenModel::enterPhase() {
         aim(recoverable_, app_.reclaimableBytes(), recoverableDuration);
     }
     timer_.stop();
+    spokenAt_ = time - spokenInterval;
+    speak();
     refresh();
     if (scanning())
         refreshSoon();
@@ -156,7 +159,22 @@ void SurveyScreenModel::tick() {
     if (!stale_) return;
     pathLine_ = shortenedPath(displayText(app_.currentPath()));
     refresh();
+    speak();
     startTimer();
+}
+
+void SurveyScreenModel::speak() {
+    const double time = now_();
+    QString text;
+    if (scanning()) {
+        const bool unseen = app_.selection() != Screen::survey && !spokenProgress_.isEmpty();
+        if (unseen || time - spokenAt_ < spokenInterval) return;
+        text = tr("%1, %2 items").arg(byteFigure(bytes_.target()), groupedFigure(items_.target()));
+    }
+    spokenAt_ = time;
+    if (text == spokenProgress_) return;
+    spokenProgress_ = text;
+    emit spokenProgressChanged();
 }
 
 void SurveyScreenModel::refresh() {

@@ -50,6 +50,7 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(QString scanned READ scanned NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString recoverable READ recoverable NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString buttonName READ buttonName NOTIFY buttonNameChanged FINAL)
+    Q_PROPERTY(QString spokenProgress READ spokenProgress NOTIFY spokenProgressChanged FINAL)
     Q_PROPERTY(QString itemsLine READ itemsLine NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString pathLine READ pathLine NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QList<zelk::Feature> features READ features CONSTANT FINAL)
@@ -72,6 +73,9 @@ public:
     const QString& recoverable() const { return recoverableText_; }
     /// What a screen reader says of the scan button: the figure itself, never one on the way to it.
     QString buttonName() const;
+    /// What a screen reader says of the running survey: bytes and items, anew every few seconds while the screen is
+    /// shown. Empty when none runs.
+    const QString& spokenProgress() const { return spokenProgress_; }
 
     const QString& itemsLine() const { return itemsLine_; }
     const QString& pathLine() const { return pathLine_; }
@@ -101,6 +105,7 @@ signals:
     void phaseChanged();
     void figuresChanged();
     void buttonNameChanged();
+    void spokenProgressChanged();
     void deviceChanged();
     void darkChanged();
 
@@ -113,6 +118,7 @@ private:
     void startTimer();
     void tick();
     void refresh();
+    void speak();
     static double steadySeconds();
 
     AppModel& app_;
@@ -132,6 +138,8 @@ private:
     QString recoverableText_;
     QString itemsLine_;
     QString pathLine_;
+    QString spokenProgress_;
+    double spokenAt_ = 0;  ///< by the clock
 };
 
 }  // namespace zelk

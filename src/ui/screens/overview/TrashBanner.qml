@@ -40,8 +40,14 @@ Item {
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
+        // The keyboard waits here for what becomes of the Trash, which is read when it changes.
+        Accessible.role: Accessible.Notification
+        Accessible.name: Spoken.joined([title.text, banner.trash.subtitle])
+        Accessible.focusable: true
 
         Words {
+            id: title
+
             width: parent.width
             text: qsTr("Trash")
             size: 13
@@ -83,7 +89,12 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             visible: text !== ""
             text: banner.trash.action
+            Accessible.name: banner.trash.actionName
             onClicked: banner.trash.act()
+            onVisibleChanged: {
+                if (!visible && activeFocus && words.visible)
+                    words.forceActiveFocus();
+            }
         }
     }
 }

@@ -39,6 +39,11 @@ QString TrashBannerModel::action() const {
     return app_.trashBytes() >= 1 ? tr("Empty") : QString();
 }
 
+QString TrashBannerModel::actionName() const {
+    const QString word = action();
+    return word.isEmpty() || !app_.trashAccessible() ? word : tr("Empty Trash");
+}
+
 void TrashBannerModel::appear() {
     app_.refreshTrash();
 }

@@ -21,6 +21,7 @@ class TrashBannerModel : public QObject {
     Q_PROPERTY(bool busy READ busy NOTIFY changed FINAL)
     Q_PROPERTY(QString figure READ figure NOTIFY changed FINAL)
     Q_PROPERTY(QString action READ action NOTIFY changed FINAL)
+    Q_PROPERTY(QString actionName READ actionName NOTIFY changed FINAL)
 
 public:
     /// With `showWhenEmpty` an empty Trash has its row too. `app` and `workspace` must outlive it.
@@ -34,6 +35,8 @@ public:
     QString figure() const;
     /// The button's word; empty where there is none.
     QString action() const;
+    /// The same for somebody who does not see what stands beside it.
+    QString actionName() const;
 
 public slots:
     /// The banner comes on screen.

@@ -40,7 +40,7 @@ Card {
                     name: card.trends.arrow
                     color: card.trends.arrowColor
                     size: 13
-                    Accessible.role: Accessible.StaticText
+                    Accessible.role: Accessible.Graphic
                     Accessible.name: card.trends.arrowName
                 }
 

@@ -11,6 +11,8 @@ FocusScope {
     id: resultPage
 
     required property DryRunModel dryRun
+    // Said with the button that the keyboard comes to.
+    readonly property string spoken: Spoken.joined([resultPage.dryRun.heading, resultPage.dryRun.result])
     readonly property T.AbstractButton primary: resultPage.dryRun.emptyable ? keep : done
 
     property bool unfolded: false
@@ -101,6 +103,7 @@ FocusScope {
             objectName: "keepInTrash"
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Keep in Trash")
+            Accessible.description: resultPage.spoken
             visible: resultPage.dryRun.emptyable
             enabled: !resultPage.dryRun.emptying
             focus: visible
@@ -126,6 +129,7 @@ FocusScope {
             horizontalPadding: 20
             verticalPadding: 10
             text: qsTr("Done")
+            Accessible.description: resultPage.spoken
             visible: !resultPage.dryRun.emptyable
             focus: visible
             onClicked: resultPage.dryRun.finish()

@@ -97,7 +97,7 @@ Item {
                 value: head.items.ageDays
                 label: qsTr("only inactive >")
                 valueText: head.items.ageText
-                onMoved: head.items.ageDays = Math.round(slider.value)
+                onPicked: value => head.items.ageDays = Math.round(value)
             }
 
             Words {

@@ -17,6 +17,8 @@ T.Popup {
     margins: 8
     padding: 18
     focus: true
+    // What is read is the page, not the item of the template around it.
+    onAboutToShow: contentItem.parent.Accessible.ignored = true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
     background: Rectangle {
@@ -32,6 +34,7 @@ T.Popup {
         width: popover.availableWidth
         spacing: 12
 
+        focus: true
         Accessible.role: Accessible.Note
         Accessible.name: popover.guide.spoken
 

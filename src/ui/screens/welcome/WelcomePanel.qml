@@ -72,7 +72,7 @@ FocusScope {
         Row {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 8
-            Accessible.role: Accessible.Indicator
+            Accessible.role: Accessible.Paragraph
             Accessible.name: panel.welcome.position
 
             Repeater {

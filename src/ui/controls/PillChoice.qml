@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// A small capsule that is one of a few choices.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zelk.Controls
+
+RadioButton {
+    id: pill
+
+    required property string symbol
+    required property color tint
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(32, implicitContentHeight + topPadding + bottomPadding)
+    leftPadding: 14
+    rightPadding: 16
+    verticalPadding: 6
+
+    opacity: pill.enabled ? 1 : 0.45
+    scale: pill.down ? 0.97 : 1
+    Behavior on scale {
+        NumberAnimation {
+            duration: Motion.quick
+        }
+    }
+
+    background: PillGround {
+        control: pill
+        tint: pill.tint
+        chosen: pill.chosen
+    }
+
+    contentItem: ButtonLabel {
+        text: pill.text
+        symbol: pill.symbol
+        symbolColor: pill.tint
+        color: Theme.ink
+    }
+}
