@@ -22,7 +22,7 @@ T.CheckBox {
     nextCheckState: () => box.on ? Qt.Checked : Qt.Unchecked
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    Keys.forwardTo: buttonKeys
+    Keys.forwardTo: [buttonKeys]
 
     Accessible.name: box.text
     Accessible.checkable: true

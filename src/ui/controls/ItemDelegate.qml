@@ -14,7 +14,7 @@ T.ItemDelegate {
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    Keys.forwardTo: buttonKeys
+    Keys.forwardTo: [buttonKeys]
 
     Accessible.name: row.text
     Accessible.selectable: true

@@ -23,7 +23,7 @@ T.RadioButton {
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    Keys.forwardTo: buttonKeys
+    Keys.forwardTo: [buttonKeys]
 
     Accessible.name: choice.text
     Accessible.checkable: true

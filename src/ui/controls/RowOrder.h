@@ -8,8 +8,8 @@
 
 namespace zelk {
 
-/// Keeps the items of a list's rows in their visual order, top down. A screen reader reads siblings in item order, while
-/// a list view creates, moves and reuses rows without reordering them. Main thread.
+/// Keeps the items of a list's rows in their visual order, top down. A screen reader reads siblings in item order,
+/// while a list view creates, moves and reuses rows without reordering them. Main thread.
 class RowOrder : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -16,7 +16,7 @@ T.TabButton {
     checkable: false
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    Keys.forwardTo: buttonKeys
+    Keys.forwardTo: [buttonKeys]
 
     Accessible.name: tab.text
     Accessible.selectable: true
