@@ -15,24 +15,16 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
 
+    Keys.forwardTo: [buttonKeys]
+
     Accessible.role: Accessible.Button
     Accessible.name: button.text
-    // Also asked of a button that is not to be pressed now.
-    Accessible.onPressAction: {
-        if (button.enabled)
-            button.clicked();
-    }
+    Accessible.onPressAction: buttonKeys.press(false)
 
-    // A held key presses once: what it repeats, on some systems with releases in between, is swallowed.
-    Keys.onSpacePressed: event => event.accepted = event.isAutoRepeat
-    Keys.onReleased: event => event.accepted = event.isAutoRepeat
-    Keys.onReturnPressed: event => {
-        if (!event.isAutoRepeat)
-            button.clicked();
-    }
-    Keys.onEnterPressed: event => {
-        if (!event.isAutoRepeat)
-            button.clicked();
+    ButtonKeys {
+        id: buttonKeys
+
+        control: button
     }
 
     HoverHandler {
