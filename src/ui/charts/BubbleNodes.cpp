@@ -57,7 +57,7 @@ void BubbleNodes::show(std::vector<BubbleNode> nodes) {
         BubbleNode& next = nodes[static_cast<std::size_t>(row)];
         if (node == next) continue;
         node = std::move(next);
-        emit dataChanged(index(row), index(row), {nameRole, noteRole, boxRole, selectedRole});
+        rowChanged(row, {nameRole, noteRole, boxRole, selectedRole});
     }
 }
 
@@ -66,18 +66,11 @@ void BubbleNodes::setCurrent(std::optional<std::size_t> current) {
     const auto before = std::exchange(current_, current);
     for (const auto& row : {before, current_}) {
         if (!row || *row >= nodes_.size()) continue;
-        const QModelIndex changed = index(static_cast<int>(*row));
-        emit dataChanged(changed, changed, {currentRole});
+        rowChanged(static_cast<int>(*row), {currentRole});
     }
 }
 
-int BubbleNodes::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(nodes_.size());
-}
-
-QVariant BubbleNodes::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const auto row = static_cast<std::size_t>(index.row());
+QVariant BubbleNodes::value(std::size_t row, int role) const {
     const BubbleNode& node = nodes_[row];
     switch (role) {
         case nameRole:
@@ -93,11 +86,6 @@ QVariant BubbleNodes::data(const QModelIndex& index, int role) const {
         default:
             return {};
     }
-}
-
-QHash<int, QByteArray> BubbleNodes::roleNames() const {
-    return {
-        {nameRole, "name"}, {noteRole, "note"}, {boxRole, "box"}, {selectedRole, "selected"}, {currentRole, "current"}};
 }
 
 }  // namespace zelk

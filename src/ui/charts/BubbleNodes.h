@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QAbstractListModel>
 #include <QRectF>
 #include <QString>
 #include <optional>
 #include <vector>
 
 #include "ui/charts/BubbleDrawing.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
@@ -25,23 +25,23 @@ struct BubbleNode {
 std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, const ShownSlices& slices);
 
 /// The same as rows: a map that is laid out anew moves them and makes none. Main thread.
-class BubbleNodes : public QAbstractListModel {
+class BubbleNodes : public zelk::RowModel {
     Q_OBJECT
 
 public:
-    enum Role { nameRole = Qt::UserRole + 1, noteRole, boxRole, selectedRole, currentRole };
+    enum Role { nameRole = Qt::UserRole, noteRole, boxRole, selectedRole, currentRole };
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit BubbleNodes(QObject* parent = nullptr)
+        : RowModel({"name", "note", "box", "selected", "current"}, parent) {}
 
     void show(std::vector<BubbleNode> nodes);
     /// Where the keyboard is.
     void setCurrent(std::optional<std::size_t> current);
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 private:
+    std::size_t size() const override { return nodes_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     std::vector<BubbleNode> nodes_;
     std::optional<std::size_t> current_;
 };

@@ -6,15 +6,12 @@
 namespace zelk {
 
 CommandMenu::CommandMenu(QString title, std::vector<Command> commands)
-    : title_(std::move(title)), commands_(std::move(commands)) {}
+    : RowModel({"title", "shortcutText", "startsGroup", "name"}),
+      title_(std::move(title)),
+      commands_(std::move(commands)) {}
 
-int CommandMenu::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(commands_.size());
-}
-
-QVariant CommandMenu::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const Command& command = commands_[static_cast<std::size_t>(index.row())];
+QVariant CommandMenu::value(std::size_t row, int role) const {
+    const Command& command = commands_[row];
     switch (role) {
         case Qt::DisplayRole:
         case titleRole:
@@ -30,13 +27,8 @@ QVariant CommandMenu::data(const QModelIndex& index, int role) const {
     }
 }
 
-QHash<int, QByteArray> CommandMenu::roleNames() const {
-    return {
-        {titleRole, "title"}, {shortcutTextRole, "shortcutText"}, {startsGroupRole, "startsGroup"}, {nameRole, "name"}};
-}
-
 void CommandMenu::run(int row) {
-    if (row >= 0 && row < rowCount()) commands_[static_cast<std::size_t>(row)].run();
+    if (has(row)) commands_[static_cast<std::size_t>(row)].run();
 }
 
 }  // namespace zelk

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QKeySequence>
 #include <QString>
 #include <functional>
 #include <vector>
+
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
@@ -22,7 +23,7 @@ struct Command {
 };
 
 /// A menu of the menu bar, as a list of its entries. Main thread.
-class CommandMenu : public QAbstractListModel {
+class CommandMenu : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of AppCommands")
@@ -36,15 +37,14 @@ public:
     const QString& title() const { return title_; }
     const std::vector<Command>& commands() const { return commands_; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 public slots:
     /// A row that is not there does nothing.
     void run(int row);
 
 private:
+    std::size_t size() const override { return commands_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     QString title_;
     std::vector<Command> commands_;
 };

@@ -9,32 +9,22 @@
 namespace zelk {
 
 DetailPages::DetailPages(const ScreenContext& context)
-    : context_(context), current_(static_cast<int>(context.app.selection())) {
+    : RowModel({"view", "built", "current"}), context_(context), current_(static_cast<int>(context.app.selection())) {
     built_[static_cast<std::size_t>(current_)] = true;
     connect(&context.app, &AppModel::selectionChanged, this, &DetailPages::followSelection);
 }
 
-int DetailPages::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(allScreens.size());
-}
-
-QVariant DetailPages::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const auto row = static_cast<std::size_t>(index.row());
+QVariant DetailPages::value(std::size_t row, int role) const {
     switch (role) {
         case viewRole:
             return QUrl(QStringLiteral("qrc:/Zelk/App/%1.qml").arg(QLatin1String(placeOf(allScreens[row]).view)));
         case builtRole:
             return built_[row];
         case currentRole:
-            return index.row() == current_;
+            return row == static_cast<std::size_t>(current_);
         default:
             return {};
     }
-}
-
-QHash<int, QByteArray> DetailPages::roleNames() const {
-    return {{viewRole, "view"}, {builtRole, "built"}, {currentRole, "current"}};
 }
 
 QVariantMap DetailPages::given(int row) {
@@ -52,8 +42,8 @@ void DetailPages::followSelection() {
     const int before = std::exchange(current_, static_cast<int>(context_.app.selection()));
     built_[static_cast<std::size_t>(current_)] = true;
     // The new one is there before the old one goes.
-    emit dataChanged(index(current_), index(current_), {builtRole, currentRole});
-    emit dataChanged(index(before), index(before), {currentRole});
+    rowChanged(current_, {builtRole, currentRole});
+    rowChanged(before, {currentRole});
 }
 
 }  // namespace zelk

@@ -2,19 +2,19 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QVariantMap>
 #include <array>
 #include <memory>
 
 #include "state/Screen.h"
+#include "ui/controls/RowModel.h"
 #include "ui/shell/ScreenPlaces.h"
 
 namespace zelk {
 
 /// The screens beside the sidebar, a row for each in the order of Screen, with their models. A screen is built when it
 /// is first gone to, and kept; the current one alone is seen. Main thread.
-class DetailPages : public QAbstractListModel {
+class DetailPages : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
@@ -23,10 +23,6 @@ public:
     enum Role { viewRole = Qt::UserRole, builtRole, currentRole };
 
     explicit DetailPages(const ScreenContext& context);
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
 
     /// The required properties of the view of this row.
     Q_INVOKABLE QVariantMap given(int row);
@@ -38,6 +34,9 @@ public:
     }
 
 private:
+    std::size_t size() const override { return allScreens.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     void followSelection();
 
     QObject* modelOf(Screen screen);

@@ -16,20 +16,16 @@ const std::vector<SidebarGroup>& sidebarGroups() {
     return groups;
 }
 
-SidebarRows::SidebarRows(AppModel& app, std::span<const SidebarGroup> groups) : app_(app), selected_(app.selection()) {
+SidebarRows::SidebarRows(AppModel& app, std::span<const SidebarGroup> groups)
+    : RowModel({"heading", "title", "symbol", "tint", "selected", "name"}), app_(app), selected_(app.selection()) {
     for (const SidebarGroup& group : groups)
         for (const Screen screen : group.screens)
             rows_.push_back({screen == group.screens.front() ? group.title : QString(), screen});
     connect(&app, &AppModel::selectionChanged, this, &SidebarRows::followSelection);
 }
 
-int SidebarRows::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-QVariant SidebarRows::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+QVariant SidebarRows::value(std::size_t at, int role) const {
+    const Row& row = rows_[at];
     const ScreenLook& look = lookOf(row.screen);
     switch (role) {
         case headingRole:
@@ -50,21 +46,15 @@ QVariant SidebarRows::data(const QModelIndex& index, int role) const {
     }
 }
 
-QHash<int, QByteArray> SidebarRows::roleNames() const {
-    return {{headingRole, "heading"}, {titleRole, "title"},       {symbolRole, "symbol"},
-            {tintRole, "tint"},       {selectedRole, "selected"}, {nameRole, "name"}};
-}
-
 void SidebarRows::press(int row) {
-    if (row >= 0 && row < rowCount()) app_.setSelection(screenAt(row));
+    if (has(row)) app_.setSelection(screenAt(row));
 }
 
 /// Two rows change at most, and only they are drawn anew.
 void SidebarRows::followSelection() {
     const Screen before = std::exchange(selected_, app_.selection());
     for (int row = 0; row < rowCount(); ++row)
-        if (screenAt(row) == before || screenAt(row) == selected_)
-            emit dataChanged(index(row), index(row), {selectedRole});
+        if (screenAt(row) == before || screenAt(row) == selected_) rowChanged(row, {selectedRole});
 }
 
 }  // namespace zelk

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QString>
 #include <span>
 #include <vector>
 
 #include "state/Screen.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
@@ -23,7 +23,7 @@ struct SidebarGroup {
 const std::vector<SidebarGroup>& sidebarGroups();
 
 /// A run of rows in the sidebar, one per module. A group's title stands on its first row. Main thread.
-class SidebarRows : public QAbstractListModel {
+class SidebarRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of SidebarModel")
@@ -36,15 +36,14 @@ public:
 
     Screen screenAt(int row) const { return rows_[static_cast<std::size_t>(row)].screen; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 public slots:
     /// Goes to the module of a row; a row that is not there is no module.
     void press(int row);
 
 private:
+    std::size_t size() const override { return rows_.size(); }
+    QVariant value(std::size_t at, int role) const override;
+
     struct Row {
         QString heading;  ///< empty on all but the first row of a titled group
         Screen screen;

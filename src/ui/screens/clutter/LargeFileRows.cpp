@@ -15,25 +15,20 @@ void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
     edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
     // What stayed may have another size than in the survey before, and all have another age.
     now_ = now;
-    if (!files_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {ageRole, sizeRole, spokenRole});
+    allRowsChanged({ageRole, sizeRole, spokenRole});
 }
 
 void LargeFileRows::setTheme(const ZelkTheme& theme) {
     theme_ = &theme;
-    if (!files_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tintRole});
+    allRowsChanged({tintRole});
 }
 
 std::string LargeFileRows::pathAt(int row) const {
-    return row < 0 || row >= rowCount() ? std::string() : files_[static_cast<std::size_t>(row)].path;
+    return has(row) ? files_[static_cast<std::size_t>(row)].path : std::string();
 }
 
-int LargeFileRows::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(files_.size());
-}
-
-QVariant LargeFileRows::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const LargeFile& file = files_[static_cast<std::size_t>(index.row())];
+QVariant LargeFileRows::value(std::size_t row, int role) const {
+    const LargeFile& file = files_[row];
     switch (role) {
         case symbolRole:
             return lookOf(file.type, *theme_).symbol;
@@ -58,12 +53,6 @@ QVariant LargeFileRows::data(const QModelIndex& index, int role) const {
         default:
             return {};
     }
-}
-
-QHash<int, QByteArray> LargeFileRows::roleNames() const {
-    return {{symbolRole, "symbol"}, {tintRole, "tint"},     {nameRole, "name"},
-            {pathRole, "path"},     {folderRole, "folder"}, {ageRole, "age"},
-            {sizeRole, "size"},     {spokenRole, "spoken"}, {actionsRole, "actions"}};
 }
 
 }  // namespace zelk

@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "scan/ScanInsights.h"
-#include "ui/controls/EditedList.h"
+#include "ui/controls/RowModel.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
 /// Files with what a row tells of each. Main thread.
-class LargeFileRows : public zelk::EditedList {
+class LargeFileRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of the screens that list large files")
@@ -30,7 +30,8 @@ public:
         actionsRole
     };
 
-    using EditedList::EditedList;
+    explicit LargeFileRows(QObject* parent = nullptr)
+        : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "spoken", "actions"}, parent) {}
 
     /// From here on the rows are these, in this order, and their ages those at `now`: rows that stay are not made anew.
     void show(std::vector<LargeFile> files, TimePoint now);
@@ -39,11 +40,10 @@ public:
     /// The path of the file in this row; empty if there is no such row.
     std::string pathAt(int row) const;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 private:
+    std::size_t size() const override { return files_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     std::vector<LargeFile> files_;
     TimePoint now_ = 0;
     const ZelkTheme* theme_ = &ZelkTheme::dark();

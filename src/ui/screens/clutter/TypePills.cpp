@@ -14,26 +14,20 @@ void TypePills::show(const std::vector<FileType>& types) {
     std::vector<Filter> pills{Filter()};
     pills.insert(pills.end(), types.begin(), types.end());
     edit(pills_, std::move(pills), [](const Filter& type) { return type ? rawValue(*type) : std::string_view(); });
-    emit dataChanged(index(0), index(rowCount() - 1), {reachedRole});
+    allRowsChanged({reachedRole});
 }
 
 void TypePills::choose(Filter filter) {
     chosen_ = filter;
-    emit dataChanged(index(0), index(rowCount() - 1), {chosenRole, reachedRole});
+    allRowsChanged({chosenRole, reachedRole});
 }
 
 void TypePills::setTheme(const ZelkTheme& theme) {
     theme_ = &theme;
-    emit dataChanged(index(0), index(rowCount() - 1), {tintRole});
+    allRowsChanged({tintRole});
 }
 
-int TypePills::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(pills_.size());
-}
-
-QVariant TypePills::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const auto row = static_cast<std::size_t>(index.row());
+QVariant TypePills::value(std::size_t row, int role) const {
     const Filter& type = pills_[row];
     switch (role) {
         case Qt::DisplayRole:
@@ -55,14 +49,6 @@ QVariant TypePills::data(const QModelIndex& index, int role) const {
 bool TypePills::isReached(std::size_t row) const {
     if (pills_[row] == chosen_) return true;
     return row == 0 && std::find(pills_.begin(), pills_.end(), chosen_) == pills_.end();
-}
-
-QHash<int, QByteArray> TypePills::roleNames() const {
-    return {{nameRole, "name"},
-            {symbolRole, "symbol"},
-            {tintRole, "tint"},
-            {chosenRole, "chosen"},
-            {reachedRole, "reached"}};
 }
 
 }  // namespace zelk

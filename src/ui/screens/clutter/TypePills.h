@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "scan/FileType.h"
-#include "ui/controls/EditedList.h"
+#include "ui/controls/RowModel.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
 /// The types of files that a list can be narrowed to, after "All". Main thread.
-class TypePills : public zelk::EditedList {
+class TypePills : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ClutterScreenModel")
@@ -23,7 +23,7 @@ public:
 
     using Filter = std::optional<FileType>;  ///< none: all files
 
-    using EditedList::EditedList;
+    explicit TypePills(QObject* parent = nullptr) : RowModel({"name", "symbol", "tint", "chosen", "reached"}, parent) {}
 
     /// From here on the pills are "All" and these; pills that stay are not made anew.
     void show(const std::vector<FileType>& types);
@@ -34,11 +34,10 @@ public:
     /// What the pill in this row stands for.
     Filter filterAt(int row) const { return pills_[static_cast<std::size_t>(row)]; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 private:
+    std::size_t size() const override { return pills_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     bool isReached(std::size_t row) const;
 
     std::vector<Filter> pills_{Filter()};

@@ -18,7 +18,10 @@ constexpr int mostSteps = 64;
 
 }  // namespace
 
-LensRows::LensRows(const LensWalk& walk, IconOf iconOf) : walk_(walk), iconOf_(std::move(iconOf)) {}
+LensRows::LensRows(const LensWalk& walk, IconOf iconOf)
+    : RowModel({"name", "size", "icon", "ticked", "drillable", "spoken", "info"}),
+      walk_(walk),
+      iconOf_(std::move(iconOf)) {}
 
 void LensRows::show() {
     replaceBy(walk_.visibleChildren());
@@ -80,22 +83,20 @@ void LensRows::tellSizes() {
     for (std::size_t at = 0; at < rows_.size(); ++at) {
         Row& row = rows_[at];
         if (std::exchange(row.bytes, row.node->size) == row.node->size) continue;
-        const QModelIndex place = index(static_cast<int>(at));
-        emit dataChanged(place, place, {sizeRole, spokenRole, drillableRole});
+        rowChanged(static_cast<int>(at), {sizeRole, spokenRole, drillableRole});
     }
 }
 
 void LensRows::tellTicked(int row) {
-    const QModelIndex place = index(row);
-    if (place.isValid()) emit dataChanged(place, place, {tickedRole, spokenRole});
+    if (has(row)) rowChanged(row, {tickedRole, spokenRole});
 }
 
 void LensRows::tellAllTicked() {
-    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tickedRole, spokenRole});
+    allRowsChanged({tickedRole, spokenRole});
 }
 
 NodeRef LensRows::node(int row) const {
-    return row >= 0 && row < rowCount() ? rows_[static_cast<std::size_t>(row)].node : nullptr;
+    return has(row) ? rows_[static_cast<std::size_t>(row)].node : nullptr;
 }
 
 int LensRows::rowOf(const NodeRef& node) const {
@@ -103,13 +104,8 @@ int LensRows::rowOf(const NodeRef& node) const {
     return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
-int LensRows::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-QVariant LensRows::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const auto& [node, bytes] = rows_[static_cast<std::size_t>(index.row())];
+QVariant LensRows::value(std::size_t row, int role) const {
+    const auto& [node, bytes] = rows_[row];
     const auto ticked = [&folder = *node, this] { return walk_.isSelected(folder.fullPath()); };
     switch (role) {
         case nameRole:
@@ -130,11 +126,6 @@ QVariant LensRows::data(const QModelIndex& index, int role) const {
         default:
             return {};
     }
-}
-
-QHash<int, QByteArray> LensRows::roleNames() const {
-    return {{nameRole, "name"},           {sizeRole, "size"},     {iconRole, "icon"}, {tickedRole, "ticked"},
-            {drillableRole, "drillable"}, {spokenRole, "spoken"}, {infoRole, "info"}};
 }
 
 }  // namespace zelk

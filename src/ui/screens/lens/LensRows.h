@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -11,6 +10,7 @@
 #include <QImage>
 
 #include "scan/FSNode.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
@@ -18,7 +18,7 @@ class LensWalk;
 
 /// The folders in the folder at hand, a row for each that holds bytes, largest first. There may be tens of thousands:
 /// what a row shows is made when it is asked for, and what changes is told row by row. Main thread.
-class LensRows : public QAbstractListModel {
+class LensRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of LensScreenModel")
@@ -44,11 +44,10 @@ public:
     /// The row of a node; -1 if it has none.
     int rowOf(const NodeRef& node) const;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 private:
+    std::size_t size() const override { return rows_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     struct Row {
         NodeRef node;
         std::int64_t bytes = 0;  ///< as they are shown

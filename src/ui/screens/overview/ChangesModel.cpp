@@ -33,7 +33,7 @@ void ChangesModel::add(Kind kind, const std::vector<FolderChange>& changes) {
 
 void ChangesModel::setTheme(const ZelkTheme& theme) {
     theme_ = &theme;
-    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {tintRole});
+    allRowsChanged({tintRole});
 }
 
 QString ChangesModel::heading(Kind kind) const {
@@ -49,8 +49,7 @@ QString ChangesModel::heading(Kind kind) const {
     return {};
 }
 
-bool ChangesModel::isFirst(int row) const {
-    const auto at = static_cast<std::size_t>(row);
+bool ChangesModel::isFirst(std::size_t at) const {
     return at == 0 || rows_[at - 1].kind != rows_[at].kind;
 }
 
@@ -80,17 +79,12 @@ QString ChangesModel::sizeText(const Row& row) {
     return {};
 }
 
-int ChangesModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-QVariant ChangesModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+QVariant ChangesModel::value(std::size_t at, int role) const {
+    const Row& row = rows_[at];
     const std::string_view path = row.change.path;
     switch (role) {
         case headingRole:
-            return isFirst(index.row()) ? heading(row.kind) : QString();
+            return isFirst(at) ? heading(row.kind) : QString();
         case tintRole:
             return color(row.kind);
         case Qt::DisplayRole:
@@ -103,10 +97,6 @@ QVariant ChangesModel::data(const QModelIndex& index, int role) const {
         default:
             return {};
     }
-}
-
-QHash<int, QByteArray> ChangesModel::roleNames() const {
-    return {{headingRole, "heading"}, {tintRole, "tint"}, {nameRole, "name"}, {pathRole, "path"}, {sizeRole, "size"}};
 }
 
 }  // namespace zelk

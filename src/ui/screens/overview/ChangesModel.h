@@ -2,19 +2,19 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QColor>
 #include <QString>
 #include <vector>
 
 #include "state/SurveyRecord.h"
+#include "ui/controls/RowModel.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
 /// The folders that grew, appeared or went between the last two surveys, in three sections of which an empty one is not
 /// there. Main thread.
-class ChangesModel : public QAbstractListModel {
+class ChangesModel : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of TrendsModel")
@@ -24,21 +24,20 @@ public:
     /// The first row of a section has its heading, in the colour of its tint.
     enum Role { headingRole = Qt::UserRole, tintRole, nameRole, pathRole, sizeRole };
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit ChangesModel(QObject* parent = nullptr) : RowModel({"heading", "tint", "name", "path", "size"}, parent) {}
 
     void show(const FolderChanges& changes);
     void setTheme(const ZelkTheme& theme);
 
     bool empty() const { return rows_.empty(); }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 signals:
     void emptyChanged();
 
 private:
+    std::size_t size() const override { return rows_.size(); }
+    QVariant value(std::size_t at, int role) const override;
+
     enum class Kind { grew, appeared, gone };
     struct Row {
         Kind kind;
@@ -47,7 +46,7 @@ private:
 
     void add(Kind kind, const std::vector<FolderChange>& changes);
     QString heading(Kind kind) const;
-    bool isFirst(int row) const;
+    bool isFirst(std::size_t at) const;
     QColor color(Kind kind) const;
     static QString sizeText(const Row& row);
 

@@ -44,25 +44,19 @@ std::vector<FindingCards::Card> cardsOf(const AppModel& app) {
 }  // namespace
 
 FindingCards::FindingCards(AppModel& app, QObject* parent)
-    : QAbstractListModel(parent), app_(app), cards_(cardsOf(app)) {}
+    : RowModel({"symbol", "title", "value", "detail", "tint"}, parent), app_(app), cards_(cardsOf(app)) {}
 
 void FindingCards::refresh() {
     const std::vector<Card> now = cardsOf(app_);
     for (std::size_t row = 0; row < cards_.size(); ++row) {
         if (cards_[row] == now[row]) continue;
         cards_[row] = now[row];
-        const QModelIndex changed = index(static_cast<int>(row));
-        emit dataChanged(changed, changed);
+        rowChanged(static_cast<int>(row));
     }
 }
 
-int FindingCards::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(cards_.size());
-}
-
-QVariant FindingCards::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const Card& card = cards_[static_cast<std::size_t>(index.row())];
+QVariant FindingCards::value(std::size_t row, int role) const {
+    const Card& card = cards_[row];
     switch (role) {
         case symbolRole:
             return card.symbol;
@@ -80,14 +74,8 @@ QVariant FindingCards::data(const QModelIndex& index, int role) const {
     }
 }
 
-QHash<int, QByteArray> FindingCards::roleNames() const {
-    return {
-        {symbolRole, "symbol"}, {titleRole, "title"}, {valueRole, "value"}, {detailRole, "detail"}, {tintRole, "tint"}};
-}
-
 void FindingCards::press(int row) {
-    if (row >= 0 && static_cast<std::size_t>(row) < cards_.size())
-        app_.setSelection(cards_[static_cast<std::size_t>(row)].screen);
+    if (has(row)) app_.setSelection(cards_[static_cast<std::size_t>(row)].screen);
 }
 
 }  // namespace zelk

@@ -2,19 +2,19 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QColor>
 #include <QString>
 #include <vector>
 
 #include "state/Screen.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
 class AppModel;
 
 /// What a survey found for each of the modules that go on from it: always the same cards, in one order. Main thread.
-class FindingCards : public QAbstractListModel {
+class FindingCards : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of FindingsModel")
@@ -40,15 +40,14 @@ public:
     void refresh();
     const std::vector<Card>& cards() const { return cards_; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 public slots:
     /// Goes to the card's module.
     void press(int row);
 
 private:
+    std::size_t size() const override { return cards_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     AppModel& app_;
     std::vector<Card> cards_;
 };

@@ -22,7 +22,7 @@ QString countText(std::int64_t items) {
 }  // namespace
 
 CategoryList::CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review, QObject* parent)
-    : EditedList(parent),
+    : RowModel({"identity", "name", "note", "tint", "bytes", "itemCount", "chosen", "spoken"}, parent),
       app_(app),
       review_(std::move(review)),
       bubbles_({[this](const BubbleSlice& slice) {
@@ -44,13 +44,8 @@ QString CategoryList::menuLabel() const {
     return chosen_.empty() ? tr("None") : QString::number(chosen_.size());
 }
 
-int CategoryList::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-QVariant CategoryList::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+QVariant CategoryList::value(std::size_t at, int role) const {
+    const Row& row = rows_[at];
     const auto text = [](std::string_view bytes) { return displayText(bytes); };
     switch (role) {
         case idRole:
@@ -76,16 +71,11 @@ QVariant CategoryList::data(const QModelIndex& index, int role) const {
     }
 }
 
-QHash<int, QByteArray> CategoryList::roleNames() const {
-    return {{idRole, "identity"}, {nameRole, "name"},       {noteRole, "note"},     {tintRole, "tint"},
-            {bytesRole, "bytes"}, {countRole, "itemCount"}, {chosenRole, "chosen"}, {spokenRole, "spoken"}};
-}
-
 void CategoryList::toggle(int row) {
-    if (row < 0 || row >= rowCount()) return;
+    if (!has(row)) return;
     const std::string id(rows_[static_cast<std::size_t>(row)].category->id);
     if (!chosen_.insert(id).second) chosen_.erase(id);
-    emit dataChanged(index(row), index(row), {chosenRole});
+    rowChanged(row, {chosenRole});
     announce();
 }
 
@@ -105,7 +95,7 @@ void CategoryList::choose(const std::function<bool(const ReclaimCategory&)>& wan
     chosen_.clear();
     for (const Row& row : rows_)
         if (wanted(*row.category)) chosen_.emplace(row.category->id);
-    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1), {chosenRole});
+    allRowsChanged({chosenRole});
     announce();
 }
 
@@ -122,7 +112,7 @@ void CategoryList::refresh() {
     std::vector<Row> rows;
     for (const auto& [category, bytes] : app_.reclaimTotals()) rows.push_back({category, bytes, counts[category->id]});
     edit(rows_, std::move(rows), [](const Row& row) { return row.category->id; });
-    if (!rows_.empty()) emit dataChanged(index(0), index(rowCount() - 1));
+    allRowsChanged();
     announce();
 }
 

@@ -10,7 +10,7 @@
 
 #include "reclaim/ReclaimCatalogue.h"
 #include "ui/charts/BubbleModel.h"
-#include "ui/controls/EditedList.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
@@ -18,7 +18,7 @@ class AppModel;
 
 /// What a survey found to reclaim, by category, the largest first, and which categories a person chose: as a list and
 /// as a bubble map. At first the safe ones are chosen, once and for as long as the screen lives. Main thread.
-class CategoryList : public zelk::EditedList {
+class CategoryList : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")
@@ -44,10 +44,6 @@ public:
 
     const std::set<std::string, std::less<>>& chosen() const { return chosen_; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 public slots:
     void toggle(int row);
     void chooseAll();
@@ -61,6 +57,9 @@ signals:
     void footerChanged();
 
 private:
+    std::size_t size() const override { return rows_.size(); }
+    QVariant value(std::size_t at, int role) const override;
+
     struct Row {
         const ReclaimCategory* category;
         std::int64_t bytes;

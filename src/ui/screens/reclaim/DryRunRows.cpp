@@ -9,15 +9,10 @@
 namespace zelk {
 
 DryRunRows::DryRunRows(std::vector<Reclaimable> items, QObject* parent)
-    : QAbstractListModel(parent), items_(std::move(items)) {}
+    : RowModel({"symbol", "name", "folder", "figure", "method", "spoken"}, parent), items_(std::move(items)) {}
 
-int DryRunRows::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(items_.size());
-}
-
-QVariant DryRunRows::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const Reclaimable& item = items_[static_cast<std::size_t>(index.row())];
+QVariant DryRunRows::value(std::size_t row, int role) const {
+    const Reclaimable& item = items_[row];
     const auto size = [&] { return byteFigure(static_cast<std::int64_t>(item.size)); };
     const auto method = [&] { return displayText(methodSummary(item.method)); };
     switch (role) {
@@ -38,11 +33,6 @@ QVariant DryRunRows::data(const QModelIndex& index, int role) const {
         default:
             return {};
     }
-}
-
-QHash<int, QByteArray> DryRunRows::roleNames() const {
-    return {{symbolRole, "symbol"}, {nameRole, "name"},     {folderRole, "folder"},
-            {sizeRole, "figure"},   {methodRole, "method"}, {spokenRole, "spoken"}};
 }
 
 }  // namespace zelk

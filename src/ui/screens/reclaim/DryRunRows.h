@@ -2,15 +2,15 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <vector>
 
 #include "reclaim/ReclaimCatalogue.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
 /// What a clean-up would take, row by row: fixed when it was reviewed. Main thread.
-class DryRunRows : public QAbstractListModel {
+class DryRunRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of DryRunModel")
@@ -22,11 +22,10 @@ public:
 
     const std::vector<Reclaimable>& items() const { return items_; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 private:
+    std::size_t size() const override { return items_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     const std::vector<Reclaimable> items_;
 };
 

@@ -13,7 +13,11 @@
 namespace zelk {
 
 ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent)
-    : EditedList(parent), app_(app), cleanup_(cleanup) {
+    : RowModel({"group", "name", "place", "line", "figure", "age", "tint", "grade", "chosen", "free", "open", "symbol",
+                "spoken"},
+               parent),
+      app_(app),
+      cleanup_(cleanup) {
     connect(&app, &AppModel::reclaimablesChanged, this, &ItemList::refresh);
     connect(&cleanup, &DevCleanupModel::ageDaysChanged, this, [this] {
         emit ageChanged();
@@ -39,13 +43,8 @@ QString ItemList::shownText() const {
     return tr("%1 of %2 shown").arg(tallies_.shown.items).arg(app_.reclaimables().size());
 }
 
-int ItemList::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
-}
-
-QVariant ItemList::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+QVariant ItemList::value(std::size_t at, int role) const {
+    const Row& row = rows_[at];
     return row.item == nullptr ? dataOfGroup(*row.group, role) : dataOfItem(*row.item, role);
 }
 
@@ -114,13 +113,6 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
     }
 }
 
-QHash<int, QByteArray> ItemList::roleNames() const {
-    return {{groupRole, "group"},   {nameRole, "name"}, {placeRole, "place"}, {lineRole, "line"},
-            {figureRole, "figure"}, {ageRole, "age"},   {tintRole, "tint"},   {gradeRole, "grade"},
-            {chosenRole, "chosen"}, {freeRole, "free"}, {openRole, "open"},   {symbolRole, "symbol"},
-            {spokenRole, "spoken"}};
-}
-
 QString ItemList::lineOf(const Reclaimable& item) const {
     if (item.method.kind == ReclaimMethod::Kind::command) return displayText(methodSummary(item.method));
     const std::string& application = cleanup_.selection().conflictOf(item);
@@ -133,7 +125,7 @@ QString ItemList::ageOf(const Reclaimable& item) const {
 }
 
 void ItemList::toggle(int row) {
-    if (row < 0 || row >= rowCount()) return;
+    if (!has(row)) return;
     const auto [group, item] = rows_[static_cast<std::size_t>(row)];
     ticking_ = true;
     if (item == nullptr)
@@ -155,7 +147,7 @@ void ItemList::tickChanged(int row) {
     const int header = headerOf(group);
     if (item == nullptr) {
         count();
-        if (group->open) changed(header + 1, header + static_cast<int>(group->content.items.size()), {chosenRole});
+        if (group->open) rowsChanged(header + 1, header + static_cast<int>(group->content.items.size()), {chosenRole});
     } else {
         if (!cleanup_.selection().conflictOf(*item).empty()) return;
         // Of two surveyed folders one in the other, what the inner one holds is listed twice and ticked as one.
@@ -171,14 +163,14 @@ void ItemList::tickChanged(int row) {
             --sum.items;
             sum.bytes -= size;
         }
-        changed(row, row, {chosenRole});
+        rowChanged(row, {chosenRole});
     }
-    changed(header, header, {chosenRole});
+    rowChanged(header, {chosenRole});
     emit footerChanged();
 }
 
 void ItemList::press(int row) {
-    if (row < 0 || row >= rowCount()) return;
+    if (!has(row)) return;
     const auto [group, item] = rows_[static_cast<std::size_t>(row)];
     if (item == nullptr)
         setOpen(row, !group->open);
@@ -187,7 +179,7 @@ void ItemList::press(int row) {
 }
 
 void ItemList::setOpen(int row, bool open) {
-    if (row < 0 || row >= rowCount()) return;
+    if (!has(row)) return;
     const auto [group, item] = rows_[static_cast<std::size_t>(row)];
     if (item != nullptr || group->open == open) return;
     const std::vector<Reclaimable>& items = group->content.items;
@@ -208,11 +200,11 @@ void ItemList::setOpen(int row, bool open) {
         rows_.erase(rows_.begin() + first, rows_.begin() + last + 1);
         endRemoveRows();
     }
-    changed(row, row, {openRole, symbolRole, spokenRole});
+    rowChanged(row, {openRole, symbolRole, spokenRole});
 }
 
 int ItemList::groupRow(int row) const {
-    return row < 0 || row >= rowCount() ? -1 : headerOf(rows_[static_cast<std::size_t>(row)].group);
+    return has(row) ? headerOf(rows_[static_cast<std::size_t>(row)].group) : -1;
 }
 
 void ItemList::clean() {
@@ -222,7 +214,7 @@ void ItemList::clean() {
 void ItemList::followSelection() {
     if (ticking_) return;
     count();
-    changed(0, rowCount() - 1, {chosenRole, freeRole, lineRole, spokenRole});
+    allRowsChanged({chosenRole, freeRole, lineRole, spokenRole});
     emit footerChanged();
 }
 
@@ -231,7 +223,7 @@ void ItemList::refresh() {
     const Groups former = std::exchange(groups_, readGroups());
     count();
     edit(rows_, rowsOf(groups_), keyOf);
-    changed(0, rowCount() - 1, {});
+    allRowsChanged();
     emit footerChanged();
 }
 
@@ -267,10 +259,6 @@ void ItemList::count() {
 int ItemList::headerOf(const Group* group) const {
     const auto found = std::find_if(rows_.begin(), rows_.end(), [group](const Row& row) { return row.group == group; });
     return static_cast<int>(found - rows_.begin());
-}
-
-void ItemList::changed(int first, int last, const QList<int>& roles) {
-    if (first <= last) emit dataChanged(index(first), index(last), roles);
 }
 
 }  // namespace zelk

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "state/DevCleanupModel.h"
-#include "ui/controls/EditedList.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
@@ -19,7 +19,7 @@ class AppModel;
 /// The items of a survey for somebody who knows them: a row per category and, where that is unfolded, a row per item.
 /// Twenty thousand of them are possible: a tick changes its rows and no other, and the sums are kept up by what
 /// changed. Main thread.
-class ItemList : public zelk::EditedList {
+class ItemList : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")
@@ -63,10 +63,6 @@ public:
     /// Nothing is shown, for the age filter alone.
     bool allYoung() const { return tallies_.shown.items == 0; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 public slots:
     /// Of an item its tick, of a category those of all its items.
     void toggle(int row);
@@ -84,6 +80,9 @@ signals:
     void ageChanged();
 
 private:
+    std::size_t size() const override { return rows_.size(); }
+    QVariant value(std::size_t at, int role) const override;
+
     struct Group {
         CleanupGroup content;
         CleanupSelection::Counts counts;
@@ -108,7 +107,6 @@ private:
     void tickChanged(int row);
     static bool isTwin(const Group& group, const Reclaimable& item);
     int headerOf(const Group* group) const;
-    void changed(int first, int last, const QList<int>& roles);
 
     AppModel& app_;
     DevCleanupModel& cleanup_;

@@ -42,13 +42,8 @@ QString SafetyGuide::spoken() const {
     return Spoken::joined(texts);
 }
 
-int SafetyGuide::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(allReclaimSafeties.size());
-}
-
-QVariant SafetyGuide::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const ReclaimSafety safety = allReclaimSafeties[static_cast<std::size_t>(index.row())];
+QVariant SafetyGuide::value(std::size_t row, int role) const {
+    const ReclaimSafety safety = allReclaimSafeties[row];
     switch (role) {
         case Qt::DisplayRole:
         case gradeRole:
@@ -60,10 +55,6 @@ QVariant SafetyGuide::data(const QModelIndex& index, int role) const {
         default:
             return {};
     }
-}
-
-QHash<int, QByteArray> SafetyGuide::roleNames() const {
-    return {{gradeRole, "grade"}, {tintRole, "tint"}, {meaningRole, "meaning"}};
 }
 
 }  // namespace zelk

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
+
+#include "reclaim/ReclaimCatalogue.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
 /// What the three grades mean: a row each. Main thread.
-class SafetyGuide : public QAbstractListModel {
+class SafetyGuide : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")
@@ -18,16 +20,16 @@ class SafetyGuide : public QAbstractListModel {
 public:
     enum Role { gradeRole = Qt::UserRole, tintRole, meaningRole };
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit SafetyGuide(QObject* parent = nullptr) : RowModel({"grade", "tint", "meaning"}, parent) {}
 
     QString title() const;
     QString closing() const;
     /// All of it in one breath.
     QString spoken() const;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+private:
+    std::size_t size() const override { return allReclaimSafeties.size(); }
+    QVariant value(std::size_t row, int role) const override;
 };
 
 }  // namespace zelk

@@ -9,17 +9,12 @@
 
 namespace zelk {
 
-ScanRootList::ScanRootList(AppModel& app) : app_(app), roots_(app.scanRoots()) {
+ScanRootList::ScanRootList(AppModel& app) : RowModel({"path", "removeName"}), app_(app), roots_(app.scanRoots()) {
     connect(&app, &AppModel::scanRootsChanged, this, &ScanRootList::follow);
 }
 
-int ScanRootList::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(roots_.size());
-}
-
-QVariant ScanRootList::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-    const QString path = displayText(roots_[static_cast<std::size_t>(index.row())]);
+QVariant ScanRootList::value(std::size_t row, int role) const {
+    const QString path = displayText(roots_[row]);
     switch (role) {
         case Qt::DisplayRole:
         case pathRole:
@@ -29,10 +24,6 @@ QVariant ScanRootList::data(const QModelIndex& index, int role) const {
         default:
             return {};
     }
-}
-
-QHash<int, QByteArray> ScanRootList::roleNames() const {
-    return {{pathRole, "path"}, {removeNameRole, "removeName"}};
 }
 
 /// What both lists begin and end with keeps its rows, so that one folder more or less is one row more or less.

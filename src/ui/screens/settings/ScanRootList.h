@@ -2,9 +2,10 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <string>
 #include <vector>
+
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
@@ -12,7 +13,7 @@ class AppModel;
 
 /// The folders that a survey walks, as the AppModel has them: a row for each, in its order. Paths are bytes; what is
 /// shown is made of them and never goes back. Main thread.
-class ScanRootList : public QAbstractListModel {
+class ScanRootList : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of SettingsScreenModel")
@@ -26,14 +27,13 @@ public:
 
     bool empty() const { return roots_.empty(); }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
 signals:
     void emptyChanged();
 
 private:
+    std::size_t size() const override { return roots_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
     void follow();
 
     AppModel& app_;

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
+#include <cstddef>
+#include <initializer_list>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "ui/controls/RowEdits.h"
+
+namespace zelk {
+
+/// A list model over rows that a derived class holds as values. That class names its roles once and says what a row
+/// shows in each; indices have been checked by then. Main thread.
+class RowModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ANONYMOUS
+
+public:
+    int rowCount(const QModelIndex& parent = {}) const final;
+    QVariant data(const QModelIndex& index, int role) const final;
+    QHash<int, QByteArray> roleNames() const final { return roles_; }
+
+protected:
+    /// `roles` are the names of the derived class's roles, which are numbered in this order from Qt::UserRole.
+    explicit RowModel(std::initializer_list<const char*> roles, QObject* parent = nullptr);
+
+    virtual std::size_t size() const = 0;
+    /// `row` is less than size(). Roles that the derived class does not know give an invalid value.
+    virtual QVariant value(std::size_t row, int role) const = 0;
+
+    bool has(int row) const { return row >= 0 && row < rowCount(); }
+
+    /// Tells the views that these roles of a row have new values; all roles if none are named.
+    void rowChanged(int row, const QList<int>& roles = {}) { rowsChanged(row, row, roles); }
+    /// The same of the rows from `first` to `last`; does nothing if there are none.
+    void rowsChanged(int first, int last, const QList<int>& roles = {});
+    void allRowsChanged(const QList<int>& roles = {}) { rowsChanged(0, rowCount() - 1, roles); }
+
+    /// Turns `rows` into `next` by removing and inserting as few rows as possible, so that views keep the delegates of
+    /// the others. `keyOf` gives the text that identifies a row, as a view that lives as long as the row. Rows that
+    /// stay may have new values, which the derived class reports.
+    template <class Row, class KeyOf>
+    void edit(std::vector<Row>& rows, std::vector<Row> next, KeyOf keyOf) {
+        const auto keysOf = [&](const std::vector<Row>& list) {
+            std::vector<std::string_view> keys;
+            keys.reserve(list.size());
+            for (const Row& row : list) keys.emplace_back(keyOf(row));
+            return keys;
+        };
+        const RowEdits edits = rowEdits(keysOf(rows), keysOf(next));
+        const auto at = [](auto& list, std::size_t row) { return list.begin() + static_cast<std::ptrdiff_t>(row); };
+        for (const auto& [first, count] : edits.removals) {
+            beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
+            rows.erase(at(rows, first), at(rows, first + count));
+            endRemoveRows();
+        }
+        for (const auto& [first, count] : edits.insertions) {
+            beginInsertRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
+            rows.insert(at(rows, first), at(next, first), at(next, first + count));
+            endInsertRows();
+        }
+        rows = std::move(next);
+    }
+
+private:
+    QHash<int, QByteArray> roles_;
+};
+
+}  // namespace zelk
