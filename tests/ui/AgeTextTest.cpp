@@ -30,7 +30,7 @@ TEST(AgeText, countsWholeDaysMonthsAndYears) {
     EXPECT_EQ(ageOf(730), "2y ago");
 }
 
-TEST(AgeText, whatLiesInTheFutureIsToday) {
+TEST(AgeText, futureDatesAreToday) {
     EXPECT_EQ(ageOf(-0.5), "today");
     EXPECT_EQ(ageOf(-400), "today");
 }

@@ -14,9 +14,9 @@ namespace {
 
 using testing::ElementsAre;
 
-class Commands : public AppModelFixture {
+class AppCommandsTest : public AppModelFixture {
 protected:
-    ~Commands() override { machine.directories.release(); }
+    ~AppCommandsTest() override { machine.directories.release(); }
 
     /// "title|shortcut" of each entry.
     std::vector<std::string> entries(int menu) {
@@ -34,7 +34,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Commands, standInFourMenus) {
+TEST_F(AppCommandsTest, hasFourMenus) {
     std::vector<std::string> titles;
     for (const CommandMenu* menu : commands.menus()) titles.push_back(menu->title().toStdString());
     EXPECT_THAT(titles, ElementsAre("Zelk", "File", "Go", "Help"));
@@ -43,20 +43,20 @@ TEST_F(Commands, standInFourMenus) {
     EXPECT_THAT(entries(3), ElementsAre("Zelk Help|Ctrl+?"));
 }
 
-TEST_F(Commands, goToElevenScreensNineOfThemByADigit) {
+TEST_F(AppCommandsTest, goMenuListsAllScreensNineWithADigit) {
     EXPECT_THAT(entries(2), ElementsAre("Overview|Ctrl+1", "Reclaim|Ctrl+2", "Privacy|Ctrl+3", "Tune|Ctrl+4",
                                         "Apps|Ctrl+5", "Clutter|Ctrl+6", "Duplicates|Ctrl+7", "Lens|Ctrl+8",
                                         "Health|Ctrl+9", "System|", "Tools|"));
 }
 
-TEST_F(Commands, commandOneSelectsTheOverviewAndCommandNineTheHealth) {
+TEST_F(AppCommandsTest, digitShortcutsSelectScreens) {
     press(QStringLiteral("Ctrl+9"));
     EXPECT_EQ(model().selection(), Screen::health);
     press(QStringLiteral("Ctrl+1"));
     EXPECT_EQ(model().selection(), Screen::survey);
 }
 
-TEST_F(Commands, everyGoEntrySelectsItsScreen) {
+TEST_F(AppCommandsTest, eachGoEntrySelectsItsScreen) {
     CommandMenu& go = *commands.menus()[2];
     for (int row = go.rowCount() - 1; row >= 0; --row) {
         go.run(row);
@@ -64,13 +64,13 @@ TEST_F(Commands, everyGoEntrySelectsItsScreen) {
     }
 }
 
-TEST_F(Commands, theScreenThatIsSelectedIsNotSelectedAgain) {
+TEST_F(AppCommandsTest, reselectingTheCurrentScreenSignalsNothing) {
     takeSignals();
     press(QStringLiteral("Ctrl+1"));
     EXPECT_EQ(timesSignalled("selection"), 0);
 }
 
-TEST_F(Commands, runSurveyStartsOneAndDoesNothingDuringOne) {
+TEST_F(AppCommandsTest, runSurveyIsIgnoredDuringASurvey) {
     machine.directories.hold(home);
     press(QStringLiteral("Ctrl+R"));
     EXPECT_EQ(model().scanPhase(), Phase::scanning);
@@ -80,7 +80,7 @@ TEST_F(Commands, runSurveyStartsOneAndDoesNothingDuringOne) {
     EXPECT_TRUE(takeSignals().empty());
 }
 
-TEST_F(Commands, openTheWindowsAndQuit) {
+TEST_F(AppCommandsTest, opensWindowsAndQuits) {
     commands.menus()[0]->run(0);
     commands.menus()[0]->run(1);
     commands.menus()[3]->run(0);
@@ -90,7 +90,7 @@ TEST_F(Commands, openTheWindowsAndQuit) {
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(Commands, nothingIsThereToCutCopyPasteUndoOrRedo) {
+TEST_F(AppCommandsTest, hasNoEditingCommands) {
     for (int menu = 0; menu < commands.menus().size(); ++menu)
         for (const std::string& entry : entries(menu))
             for (const char* absent : {"Cut", "Copy", "Paste", "Undo", "Redo"})
@@ -99,7 +99,7 @@ TEST_F(Commands, nothingIsThereToCutCopyPasteUndoOrRedo) {
         EXPECT_FALSE(commands.shortcuts().contains(QKeySequence(key).toString()));
 }
 
-TEST_F(Commands, aRowThatIsNotThereDoesNothing) {
+TEST_F(AppCommandsTest, ignoresInvalidRows) {
     for (CommandMenu* menu : commands.menus()) {
         menu->run(-1);
         menu->run(menu->rowCount());
@@ -112,15 +112,15 @@ TEST_F(Commands, aRowThatIsNotThereDoesNothing) {
     EXPECT_EQ(model().selection(), Screen::survey);
 }
 
-TEST_F(Commands, theSystemsMenuBarHasTheSameEntriesWithTheirRolesSet) {
+TEST_F(AppCommandsTest, nativeMenuBarMirrorsEntriesWithExplicitRoles) {
     const std::unique_ptr<QMenuBar> bar = makeNativeMenuBar(commands);
     EXPECT_EQ(bar->parent(), nullptr);
     const QList<CommandMenu*> menus = commands.menus();
     ASSERT_EQ(bar->actions().size(), menus.size());
-    for (qsizetype place = 0; place < menus.size(); ++place) {
-        const QMenu* menu = bar->actions()[place]->menu();
-        EXPECT_EQ(menu->title(), menus[place]->title());
-        auto command = menus[place]->commands().begin();
+    for (qsizetype at = 0; at < menus.size(); ++at) {
+        const QMenu* menu = bar->actions()[at]->menu();
+        EXPECT_EQ(menu->title(), menus[at]->title());
+        auto command = menus[at]->commands().begin();
         for (QAction* action : menu->actions()) {
             if (action->isSeparator()) {
                 EXPECT_TRUE(command->startsGroup);
@@ -128,10 +128,11 @@ TEST_F(Commands, theSystemsMenuBarHasTheSameEntriesWithTheirRolesSet) {
             }
             EXPECT_EQ(action->text(), command->title);
             EXPECT_EQ(action->shortcut(), command->shortcut);
-            EXPECT_NE(action->menuRole(), QAction::TextHeuristicRole) << "the system would guess";
+            EXPECT_NE(action->menuRole(), QAction::TextHeuristicRole)
+                << "the system would guess the role from the text";
             ++command;
         }
-        EXPECT_EQ(command, menus[place]->commands().end());
+        EXPECT_EQ(command, menus[at]->commands().end());
     }
     QAction* about = bar->actions()[0]->menu()->actions()[0];
     EXPECT_EQ(about->menuRole(), QAction::AboutRole);

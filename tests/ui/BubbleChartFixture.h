@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A window with a bubble map between two buttons, of which it tells what it is asked to do.
+// Shows a bubble chart between two buttons and records the actions that it requests.
 #pragma once
 
 #include <QTest>
@@ -32,7 +32,7 @@ protected:
     BubbleChartFixture() {
         bubbles.setSlices(first);
         show();
-        tour::restPointer(window());  // a pointer that the last window left where it goes to would not move
+        tour::restPointer(window());  // so that the first move of the pointer is a real one
     }
     ~BubbleChartFixture() override { close(); }
 
@@ -77,7 +77,7 @@ FocusScope {
         return *std::find_if(all.begin(), all.end(), [&](const PackedCircle& one) { return one.id == id; });
     }
     QPoint middleOf(const std::string& id) { return QPointF(circle(id).center.x, circle(id).center.y).toPoint(); }
-    /// Where there is no bubble.
+    /// A point outside of every bubble.
     static constexpr QPoint nowhere{300, 6};
 
     void pointAt(QPoint point) {
@@ -97,7 +97,7 @@ FocusScope {
         const BubbleTip& tip = chart().tip();
         return tip.shown ? (tip.label + u'|' + tip.line).toStdString() : std::string();
     }
-    /// As a screen reader finds them, in their order.
+    /// The accessible children that stand for bubbles, in the order in which a screen reader meets them.
     std::vector<QAccessibleInterface*> nodes() {
         std::vector<QAccessibleInterface*> found;
         QAccessibleInterface* map = QAccessible::queryAccessibleInterface(&chart());
@@ -116,10 +116,10 @@ FocusScope {
         return slices;
     }
 
-    std::vector<std::string> told;
-    BubbleModel bubbles{{[this](const BubbleSlice& slice) { told.push_back("tap " + slice.id); },
-                         [this](const BubbleSlice& slice) { told.push_back("tick " + slice.id); },
-                         [this] { told.emplace_back("leave"); }}};
+    std::vector<std::string> actions;
+    BubbleModel bubbles{{[this](const BubbleSlice& slice) { actions.push_back("tap " + slice.id); },
+                         [this](const BubbleSlice& slice) { actions.push_back("tick " + slice.id); },
+                         [this] { actions.emplace_back("leave"); }}};
     const std::vector<BubbleSlice> first{sliceOf("node_modules", 1'200'000'000), sliceOf("Caches", 600'000'000),
                                          sliceOf("Logs", 200'000'000), sliceOf("empty", 0),
                                          sliceOf("crumbs", 1'000'000)};

@@ -17,31 +17,31 @@ class BubbleChart : public BubbleChartFixture {};
 
 }  // namespace
 
-// When it packs
+// Packing
 
-TEST_F(BubbleChart, packsWhenItAppears) {
+TEST_F(BubbleChart, packsOnFirstShow) {
     EXPECT_EQ(chart().packed(), pack(itemsOf(first), 600, 400));
-    EXPECT_EQ(chart().packed().size(), 4U) << "what has no bytes has no circle";
+    EXPECT_EQ(chart().packed().size(), 4U) << "an empty slice has no circle";
 }
 
-TEST_F(BubbleChart, packsWhenItsSizeChanges) {
+TEST_F(BubbleChart, repacksWhenResized) {
     view().setSize({500, 380});
     EXPECT_EQ(chart().packed(), pack(itemsOf(first), 500, 380));
     view().setX(7);
-    EXPECT_EQ(chart().packed(), pack(itemsOf(first), 500, 380)) << "a move is no change of size";
+    EXPECT_EQ(chart().packed(), pack(itemsOf(first), 500, 380)) << "a move is not a resize";
 }
 
-TEST_F(BubbleChart, packsWhenTheIdsChange) {
+TEST_F(BubbleChart, repacksWhenIdsChange) {
     auto next = first;
     next.push_back(sliceOf("more", 50'000'000));
     bubbles.setSlices(next);
     EXPECT_EQ(chart().packed(), pack(itemsOf(next), 600, 400));
     std::swap(next[0], next[1]);
     bubbles.setSlices(next);
-    EXPECT_EQ(chart().packed(), pack(itemsOf(next), 600, 400)) << "another order is another map";
+    EXPECT_EQ(chart().packed(), pack(itemsOf(next), 600, 400)) << "the order of the slices matters";
 }
 
-TEST_F(BubbleChart, newBytesAndColoursUnderTheSameIdsDoNotMoveTheBubbles) {
+TEST_F(BubbleChart, keepsPositionsWhenOnlyBytesOrColoursChange) {
     const auto before = chart().packed();
     bubbles.setSlices(slicesWith([](auto& slices) {
         slices[0].bytes = 5;
@@ -50,10 +50,10 @@ TEST_F(BubbleChart, newBytesAndColoursUnderTheSameIdsDoNotMoveTheBubbles) {
     }));
     EXPECT_EQ(chart().packed(), before);
     pointAt(middleOf("node_modules"));
-    EXPECT_EQ(tipText(), "node_modules|5 bytes") << "what is said is the new one";
+    EXPECT_EQ(tipText(), "node_modules|5 bytes") << "the tip shows the new size";
 }
 
-TEST_F(BubbleChart, packsAnewWhenItsModelIsRebuilt) {
+TEST_F(BubbleChart, repacksWhenModelIsRebuilt) {
     const auto next = slicesWith([](auto& slices) { slices[2].bytes = 2'000'000'000; });
     bubbles.setSlices(next);
     ASSERT_NE(chart().packed(), pack(itemsOf(next), 600, 400));
@@ -64,7 +64,7 @@ TEST_F(BubbleChart, packsAnewWhenItsModelIsRebuilt) {
     EXPECT_EQ(currentID(), "Logs") << "the largest";
 }
 
-TEST_F(BubbleChart, packsOnlyInMoreThanOnePoint) {
+TEST_F(BubbleChart, keepsPackingBelowMinimumSize) {
     const auto before = chart().packed();
     for (const QSizeF size : {QSizeF(1, 400), QSizeF(600, 1), QSizeF(0, 0)}) {
         view().setSize(size);
@@ -74,31 +74,31 @@ TEST_F(BubbleChart, packsOnlyInMoreThanOnePoint) {
     EXPECT_EQ(chart().packed(), pack(itemsOf(first), 1.5, 1.5));
 }
 
-TEST_F(BubbleChart, packsInLessThanItsMarginsWithoutComplaint) {
+TEST_F(BubbleChart, packsAreaSmallerThanItsMargins) {
     view().setSize({40, 30});
     ASSERT_EQ(chart().packed().size(), 4U);
     EXPECT_LT(chart().packed()[0].radius, 0);
     settle();
     clickAt({20, 15});
-    EXPECT_THAT(told, IsEmpty()) << "such a circle has no inside";
+    EXPECT_THAT(actions, IsEmpty()) << "a circle of negative radius cannot be hit";
 }
 
-TEST_F(BubbleChart, ofNothingPaintsNothingAndBearsEveryKeyAndClick) {
+TEST_F(BubbleChart, emptyChartIgnoresClicksAndKeysExceptBackspace) {
     for (const auto& none : {std::vector<BubbleSlice>(), std::vector{sliceOf("a", 0), sliceOf("b", -3)}}) {
         bubbles.setSlices(none);
         EXPECT_THAT(chart().packed(), IsEmpty());
         clickAt({300, 200});
         for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Home, Qt::Key_End, Qt::Key_Return, Qt::Key_Space}) press(key);
-        EXPECT_THAT(told, IsEmpty());
+        EXPECT_THAT(actions, IsEmpty());
         EXPECT_THAT(nodes(), IsEmpty());
     }
     press(Qt::Key_Backspace);
-    EXPECT_THAT(told, ElementsAre("leave"));
+    EXPECT_THAT(actions, ElementsAre("leave"));
 }
 
-// The pointer
+// Pointer
 
-TEST_F(BubbleChart, knowsTheBubbleUnderThePointer) {
+TEST_F(BubbleChart, tracksHoveredBubble) {
     pointAt(middleOf("Caches"));
     EXPECT_EQ(chart().hoveredID(), "Caches");
     EXPECT_EQ(chart().hoverPoint(), QPointF(middleOf("Caches")));
@@ -107,7 +107,7 @@ TEST_F(BubbleChart, knowsTheBubbleUnderThePointer) {
     EXPECT_EQ(chart().hoverPoint(), QPointF(nowhere));
 }
 
-TEST_F(BubbleChart, forgetsTheBubbleButNotThePointWhenThePointerLeaves) {
+TEST_F(BubbleChart, leavingClearsHoverButKeepsHoverPoint) {
     const QPoint point = middleOf("Caches");
     pointAt(point);
     QHoverEvent leave(QEvent::HoverLeave, QPointF(-1, -1), QPointF(-1, -1), QPointF(point), Qt::NoModifier);
@@ -117,7 +117,7 @@ TEST_F(BubbleChart, forgetsTheBubbleButNotThePointWhenThePointerLeaves) {
     EXPECT_EQ(tipText(), "");
 }
 
-TEST_F(BubbleChart, aBubbleThatIsGoneUnderThePointerIsSaidNoMore) {
+TEST_F(BubbleChart, hidesTipOfRemovedBubble) {
     pointAt(middleOf("Caches"));
     bubbles.setSlices({sliceOf("other", 5)});
     EXPECT_EQ(chart().hoveredID(), "Caches");
@@ -125,40 +125,40 @@ TEST_F(BubbleChart, aBubbleThatIsGoneUnderThePointerIsSaidNoMore) {
     settle();
 }
 
-TEST_F(BubbleChart, aClickTapsTheBubbleUnderIt) {
+TEST_F(BubbleChart, clickTapsBubbleAndTakesFocus) {
     clickAt(middleOf("Logs"));
     clickAt(nowhere);
-    EXPECT_THAT(told, ElementsAre("tap Logs"));
+    EXPECT_THAT(actions, ElementsAre("tap Logs"));
     EXPECT_EQ(currentID(), "Logs");
     EXPECT_EQ(window().activeFocusItem(), &chart());
-    EXPECT_FALSE(chart().visualFocus()) << "nobody goes by the keyboard";
+    EXPECT_FALSE(chart().visualFocus()) << "the focus did not come from the keyboard";
 }
 
-TEST_F(BubbleChart, everyClickIsATap) {
+TEST_F(BubbleChart, doubleClickTapsTwice) {
     QTest::mouseDClick(&window(), Qt::LeftButton, {}, middleOf("Logs"));
-    EXPECT_THAT(told, ElementsAre("tap Logs", "tap Logs"));
+    EXPECT_THAT(actions, ElementsAre("tap Logs", "tap Logs"));
 }
 
-TEST_F(BubbleChart, draggingAndTheOtherButtonsAreNoTaps) {
+TEST_F(BubbleChart, dragAndOtherButtonsDoNotTap) {
     const QPoint point = middleOf("node_modules");
     QTest::mousePress(&window(), Qt::LeftButton, {}, point);
     QTest::mouseMove(&window(), point + QPoint(30, 0));
     QTest::mouseRelease(&window(), Qt::LeftButton, {}, point + QPoint(30, 0));
     QTest::mouseClick(&window(), Qt::RightButton, {}, point);
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(actions, IsEmpty());
 }
 
-TEST_F(BubbleChart, aTapMayShowAnotherMap) {
+TEST_F(BubbleChart, tapMayReplaceSlices) {
     BubbleModel drilling({[&](const BubbleSlice& slice) {
                               drilling.setSlices({sliceOf(slice.id + "/inside", 7)});
-                              told.push_back("into " + slice.id);
+                              actions.push_back("into " + slice.id);
                           },
                           {},
                           {}});
     drilling.setSlices(first);
     chart().setModel(&drilling);
     clickAt(middleOf("Caches"));
-    EXPECT_THAT(told, ElementsAre("into Caches"));
+    EXPECT_THAT(actions, ElementsAre("into Caches"));
     EXPECT_EQ(currentID(), "Caches/inside");
     chart().setModel(&bubbles);
 }
@@ -175,9 +175,9 @@ TEST_F(BubbleChart, outlivesItsModel) {
     EXPECT_EQ(tipText(), "");
 }
 
-// The tip
+// Tip
 
-TEST_F(BubbleChart, theTipSaysTheLabelAndTheSize) {
+TEST_F(BubbleChart, tipShowsLabelSizeAndReclaimable) {
     auto slices = first;
     slices[1].reclaimable = true;
     bubbles.setSlices(slices);
@@ -190,24 +190,25 @@ TEST_F(BubbleChart, theTipSaysTheLabelAndTheSize) {
     EXPECT_THAT(seenTexts(), testing::IsSupersetOf({"Caches", "600 MB · reclaimable"}));
 }
 
-TEST_F(BubbleChart, theTipTakesNoClicks) {
+TEST_F(BubbleChart, tipPassesClicksThrough) {
     const QPoint point = middleOf("node_modules");
     pointAt(point);
     const QPointF corner = chart().tip().corner;
     tour::clickAt(window(), point);
     QTest::mouseClick(&window(), Qt::LeftButton, {}, corner.toPoint() + QPoint(2, 2));
-    EXPECT_EQ(told.size(), 2U);
+    EXPECT_EQ(actions.size(), 2U);
 }
 
-TEST(BubbleTip, standsBesideThePointerAndInsideTheChart) {
+TEST(BubbleTip, staysBesidePointerAndInsideChart) {
     const BubbleSlice slice = sliceOf("a", 5);
     EXPECT_EQ(BubbleTip::of(slice, {100, 50}, {600, 400}, 1).corner, QPointF(112, 62));
     EXPECT_EQ(BubbleTip::of(slice, {500, 390}, {600, 400}, 1).corner, QPointF(380, 344));
     EXPECT_EQ(BubbleTip::of(slice, {500, 390}, {200, 40}, 1).corner, QPointF(0, 0));
-    EXPECT_EQ(BubbleTip::of(slice, {500, 390}, {600, 400}, 1.5).corner, QPointF(270, 316)) << "larger texts take more";
+    EXPECT_EQ(BubbleTip::of(slice, {500, 390}, {600, 400}, 1.5).corner, QPointF(270, 316))
+        << "scaled texts need more room";
 }
 
-TEST(BubbleTip, isNeverWiderThanItsChart) {
+TEST(BubbleTip, isNeverWiderThanChart) {
     const BubbleSlice slice = sliceOf(std::string(200, 'n'), 5'000'000'000);
     for (const double width : {40.0, 275.0, 600.0}) {
         const BubbleTip tip = BubbleTip::of(slice, {width / 2, 100}, {width, 400}, 1.5);
@@ -216,7 +217,7 @@ TEST(BubbleTip, isNeverWiderThanItsChart) {
     }
 }
 
-TEST_F(BubbleChart, theTipOfALongNameStaysInTheChart) {
+TEST_F(BubbleChart, tipOfLongNameStaysInsideChart) {
     for (const double scale : {1.0, 1.5}) {
         singleton<TextScale>("TextScale").setFactor(scale);
         bubbles.setSlices({sliceOf(std::string(200, 'n'), 5'000'000'000)});

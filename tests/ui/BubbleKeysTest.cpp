@@ -18,16 +18,16 @@ class BubbleKeys : public BubbleChartFixture {};
 
 }  // namespace
 
-TEST_F(BubbleKeys, isOneStopOfTheTabKey) {
+TEST_F(BubbleKeys, isOneTabStop) {
     EXPECT_THAT(tabOrder(), ElementsAre("Before", "Map of Library", "After"));
     expectAllControlsNamed();
 }
 
-TEST_F(BubbleKeys, showsWhereTheKeyboardIs) {
+TEST_F(BubbleKeys, showsFocusRingOnCurrentBubble) {
     const QImage before = window().grabWindow();
     tabTo();
     EXPECT_TRUE(focusIsRinged());
-    EXPECT_EQ(currentID(), "node_modules") << "the largest to begin with";
+    EXPECT_EQ(currentID(), "node_modules") << "starts at the largest";
     const PackedCircle& ringed = circle("node_modules");
     const QPoint onRing = QPointF(ringed.center.x - ringed.radius - 5, ringed.center.y).toPoint();
     EXPECT_NE(window().grabWindow().pixelColor(onRing), before.pixelColor(onRing));
@@ -37,7 +37,7 @@ TEST_F(BubbleKeys, showsWhereTheKeyboardIs) {
     EXPECT_NE(window().grabWindow().pixelColor(onRing), singleton<Theme>("Theme").accent());
 }
 
-TEST_F(BubbleKeys, anEmptyMapShowsTheKeyboardToo) {
+TEST_F(BubbleKeys, emptyChartShowsFocusRing) {
     bubbles.setSlices({});
     tabTo();
     const auto rings = seen();
@@ -47,7 +47,7 @@ TEST_F(BubbleKeys, anEmptyMapShowsTheKeyboardToo) {
     }));
 }
 
-TEST_F(BubbleKeys, theArrowsGoToTheNextInTheirDirection) {
+TEST_F(BubbleKeys, arrowsMoveToNearestInDirection) {
     tabTo();
     const std::vector<std::pair<Qt::Key, WalkDirection>> keys{{Qt::Key_Left, WalkDirection::left},
                                                               {Qt::Key_Right, WalkDirection::right},
@@ -68,7 +68,7 @@ TEST_F(BubbleKeys, theArrowsGoToTheNextInTheirDirection) {
     EXPECT_GT(moved, 4);
 }
 
-TEST_F(BubbleKeys, homeGoesToTheLargestAndEndToTheSmallest) {
+TEST_F(BubbleKeys, homeAndEndGoToLargestAndSmallest) {
     tabTo();
     press(Qt::Key_End);
     EXPECT_EQ(currentID(), "crumbs");
@@ -76,16 +76,16 @@ TEST_F(BubbleKeys, homeGoesToTheLargestAndEndToTheSmallest) {
     EXPECT_EQ(currentID(), "node_modules");
 }
 
-TEST_F(BubbleKeys, enterTapsSpaceTicksAndBackspaceLeaves) {
+TEST_F(BubbleKeys, enterTapsSpaceTicksBackspaceLeaves) {
     tabTo();
     press(Qt::Key_Return);
     press(Qt::Key_Enter);
     press(Qt::Key_Space);
     press(Qt::Key_Backspace);
-    EXPECT_THAT(told, ElementsAre("tap node_modules", "tap node_modules", "tick node_modules", "leave"));
+    EXPECT_THAT(actions, ElementsAre("tap node_modules", "tap node_modules", "tick node_modules", "leave"));
 }
 
-TEST_F(BubbleKeys, aHeldKeyActsOnce) {
+TEST_F(BubbleKeys, ignoresKeyRepeat) {
     tabTo();
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Backspace}) {
         for (const bool repeated : {false, true, true}) {
@@ -93,10 +93,10 @@ TEST_F(BubbleKeys, aHeldKeyActsOnce) {
             QCoreApplication::sendEvent(&window(), &event);
         }
     }
-    EXPECT_EQ(told.size(), 3U);
+    EXPECT_EQ(actions.size(), 3U);
 }
 
-TEST_F(BubbleKeys, keysOfOthersAreLeftToThem) {
+TEST_F(BubbleKeys, leavesOtherKeysUnhandled) {
     tabTo();
     for (const auto& [key, modifier] : {std::pair{Qt::Key_A, Qt::NoModifier},
                                         {Qt::Key_Return, Qt::ControlModifier},
@@ -105,10 +105,10 @@ TEST_F(BubbleKeys, keysOfOthersAreLeftToThem) {
         QCoreApplication::sendEvent(&chart(), &event);
         EXPECT_FALSE(event.isAccepted()) << key;
     }
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(actions, IsEmpty());
 }
 
-TEST_F(BubbleKeys, theTipFollowsWhoeverMovedLast) {
+TEST_F(BubbleKeys, tipFollowsLastUsedInput) {
     pointAt(middleOf("Caches"));
     tabTo();
     EXPECT_EQ(tipText(), "node_modules|1.2 GB");
@@ -121,10 +121,10 @@ TEST_F(BubbleKeys, theTipFollowsWhoeverMovedLast) {
     press(Qt::Key_Home);
     EXPECT_EQ(tipText(), "node_modules|1.2 GB");
     press(Qt::Key_Tab);
-    EXPECT_EQ(tipText(), "Caches|600 MB") << "the pointer is still there";
+    EXPECT_EQ(tipText(), "Caches|600 MB") << "the pointer still hovers";
 }
 
-TEST_F(BubbleKeys, theKeyboardStaysAtItsBubbleWhereverThatGoes) {
+TEST_F(BubbleKeys, keepsCurrentBubbleAcrossChanges) {
     tabTo();
     press(Qt::Key_End);
     auto next = first;
@@ -134,7 +134,7 @@ TEST_F(BubbleKeys, theKeyboardStaysAtItsBubbleWhereverThatGoes) {
     EXPECT_EQ(currentID(), "crumbs");
     bubbles.setSlices(first);
     bubbles.setSlices({first[0], first[1]});
-    EXPECT_EQ(currentID(), "node_modules") << "the largest, where it is gone";
+    EXPECT_EQ(currentID(), "node_modules") << "falls back to the largest";
 }
 
 }  // namespace zelk

@@ -12,11 +12,11 @@ namespace {
 
 using testing::ElementsAre;
 
-class BubbleReading : public BubbleChartFixture {};
+class BubbleAccessibility : public BubbleChartFixture {};
 
 }  // namespace
 
-TEST_F(BubbleReading, eachBubbleIsANodeWithItsNameSizeAndShare) {
+TEST_F(BubbleAccessibility, bubblesAreNodesWithNameSizeAndShare) {
     EXPECT_THAT(nodeNames(), ElementsAre("node_modules, 1.2 GB, 60% of the map", "Caches, 600 MB, 30% of the map",
                                          "Logs, 200 MB, 10% of the map", "crumbs, 1 MB, less than 1% of the map"));
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&chart())->text(QAccessible::Name),
@@ -27,12 +27,12 @@ TEST_F(BubbleReading, eachBubbleIsANodeWithItsNameSizeAndShare) {
     EXPECT_NEAR(box.width(), 2 * there.radius, 2);
 }
 
-TEST_F(BubbleReading, aNodeIsPressedAsItsBubbleIs) {
+TEST_F(BubbleAccessibility, pressingANodeTapsItsBubble) {
     nodes()[2]->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_THAT(told, ElementsAre("tap Logs"));
+    EXPECT_THAT(actions, ElementsAre("tap Logs"));
 }
 
-TEST_F(BubbleReading, nodesFollowTheSlices) {
+TEST_F(BubbleAccessibility, nodesFollowTheSlices) {
     auto next = slicesWith([](auto& slices) {
         slices[1].selected = true;
         slices[1].reclaimable = true;
@@ -47,7 +47,7 @@ TEST_F(BubbleReading, nodesFollowTheSlices) {
     EXPECT_THAT(nodeNames(), ElementsAre("Logs, 200 MB, 100% of the map"));
 }
 
-TEST_F(BubbleReading, theNodeOfTheKeyboardsBubbleHasTheFocus) {
+TEST_F(BubbleAccessibility, currentBubbleHasFocusedState) {
     const auto focused = [&] {
         std::vector<bool> states;
         for (const QAccessibleInterface* node : nodes()) states.push_back(node->state().focused);
@@ -62,7 +62,7 @@ TEST_F(BubbleReading, theNodeOfTheKeyboardsBubbleHasTheFocus) {
               QStringLiteral("crumbs, 1 MB, less than 1% of the map"));
 }
 
-TEST(BubbleNodes, areRowsThatMoveInsteadOfBeingMadeAnew) {
+TEST(BubbleNodes, updatesRowsInPlace) {
     BubbleNodes rows;
     const QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::Fatal);
     int made = 0;

@@ -31,7 +31,7 @@ private:
 
 }  // namespace
 
-TEST(BubbleTexts, measuresInWholeSizes) {
+TEST(BubbleTexts, roundsFontToWholePixels) {
     BubbleTexts texts;
     QFont font = QGuiApplication::font();
     font.setPixelSize(20);
@@ -43,7 +43,7 @@ TEST(BubbleTexts, measuresInWholeSizes) {
     EXPECT_GT(texts.width(text, BubbleFont::label, 0.2), 0);
 }
 
-TEST(BubbleTexts, whatWasWrittenBeforeIsWrittenTheSame) {
+TEST(BubbleTexts, cachedTextMatchesFreshText) {
     BubbleTexts kept;
     for (const double scale : {1.0, 1.5, 2.0, 1.0}) {
         for (const char* text : {"Library", "<b>Library</b>", "木", ""}) {
@@ -57,18 +57,18 @@ TEST(BubbleTexts, whatWasWrittenBeforeIsWrittenTheSame) {
     }
 }
 
-TEST(BubbleTexts, aTextIsNotMarkup) {
+TEST(BubbleTexts, treatsTextAsPlain) {
     BubbleTexts texts;
     EXPECT_NE(written(texts, QStringLiteral("<b>A</b>")), written(texts, QStringLiteral("A")));
 }
 
-TEST(BubbleTexts, theWeightsAreToldApart) {
+TEST(BubbleTexts, distinguishesFontWeights) {
     BubbleTexts texts;
     const QString text = QStringLiteral("Library");
     EXPECT_NE(written(texts, text), written(texts, text, BubbleFont::size));
 }
 
-TEST_F(SystemFont, thatChangesIsFollowed) {
+TEST_F(SystemFont, changeUpdatesBubbleTexts) {
     BubbleTexts texts;
     const QString text = QStringLiteral("Library");
     const QImage before = written(texts, text);

@@ -17,7 +17,7 @@ using enum WalkDirection;
 
 constexpr std::array everyDirection{left, right, up, down};
 
-/// A middle one with one on each side.
+/// One circle in the middle and one on each side of it.
 const std::vector<PackedCircle> cross{{"middle", {100, 100}, 30},
                                       {"left", {40, 100}, 20},
                                       {"right", {170, 100}, 30},
@@ -52,50 +52,50 @@ std::set<std::size_t> reachedFrom(const std::vector<PackedCircle>& circles, std:
 
 }  // namespace
 
-TEST(BubbleWalk, goesToTheNeighbourOfEachSide) {
+TEST(BubbleWalk, goesToNeighbourOnEachSide) {
     EXPECT_EQ(nextInDirection(cross, 0, left), 1U);
     EXPECT_EQ(nextInDirection(cross, 0, right), 2U);
     EXPECT_EQ(nextInDirection(cross, 0, up), 3U);
     EXPECT_EQ(nextInDirection(cross, 0, down), 4U);
 }
 
-TEST(BubbleWalk, comesBackTheWayItWent) {
+TEST(BubbleWalk, returnsTheSameWay) {
     EXPECT_EQ(nextInDirection(cross, 1, right), 0U);
     EXPECT_EQ(nextInDirection(cross, 2, left), 0U);
     EXPECT_EQ(nextInDirection(cross, 3, down), 0U);
     EXPECT_EQ(nextInDirection(cross, 4, up), 0U);
 }
 
-TEST(BubbleWalk, endsAtTheEdge) {
+TEST(BubbleWalk, stopsAtTheEdge) {
     EXPECT_EQ(nextInDirection(cross, 1, left), std::nullopt);
     EXPECT_EQ(nextInDirection(cross, 2, right), std::nullopt);
     EXPECT_EQ(nextInDirection(cross, 3, up), std::nullopt);
     EXPECT_EQ(nextInDirection(cross, 4, down), std::nullopt);
 }
 
-TEST(BubbleWalk, aSingleBubbleHasNoNeighbour) {
+TEST(BubbleWalk, singleBubbleHasNoNeighbour) {
     for (const WalkDirection direction : everyDirection)
         EXPECT_EQ(nextInDirection({{"one", {50, 50}, 10}}, 0, direction), std::nullopt);
 }
 
-TEST(BubbleWalk, whatLiesStraightAheadComesBeforeWhatLiesAsideAndIsNearer) {
+TEST(BubbleWalk, prefersStraightAheadToNearerAside) {
     const std::vector<PackedCircle> circles{{"here", {0, 0}, 5}, {"aside", {10, 40}, 5}, {"ahead", {60, 0}, 5}};
     EXPECT_EQ(nextInDirection(circles, 0, right), 2U);
     EXPECT_EQ(nextInDirection(circles, 0, down), 1U);
 }
 
-TEST(BubbleWalk, whatIsLevelLiesInNeitherDirection) {
+TEST(BubbleWalk, levelBubbleIsNeitherUpNorDown) {
     const std::vector<PackedCircle> circles{{"here", {0, 0}, 5}, {"level", {60, 0}, 5}};
     EXPECT_EQ(nextInDirection(circles, 0, up), std::nullopt);
     EXPECT_EQ(nextInDirection(circles, 0, down), std::nullopt);
 }
 
-TEST(BubbleWalk, ofEqualOnesTheFirstIsNext) {
+TEST(BubbleWalk, firstOfEqualCandidatesWins) {
     const std::vector<PackedCircle> circles{{"here", {0, 0}, 5}, {"a", {30, 20}, 5}, {"b", {30, -20}, 5}};
     EXPECT_EQ(nextInDirection(circles, 0, right), 1U);
 }
 
-TEST(BubbleWalk, bubblesOnOneSpotAreNoNeighbours) {
+TEST(BubbleWalk, coincidentBubblesAreNotNeighbours) {
     const std::vector<PackedCircle> circles{{"here", {10, 10}, 5}, {"there", {10, 10}, 5}};
     for (const WalkDirection direction : everyDirection)
         EXPECT_EQ(nextInDirection(circles, 0, direction), std::nullopt);
@@ -109,10 +109,10 @@ TEST(BubbleWalk, reachesEveryBubbleFromTheLargest) {
     }
 }
 
-TEST(BubbleWalk, startsAtTheLargestAndEndsAtTheSmallest) {
+TEST(BubbleWalk, findsLargestAndSmallestCircle) {
     EXPECT_EQ(largestCircle({}), std::nullopt);
     EXPECT_EQ(smallestCircle({}), std::nullopt);
-    EXPECT_EQ(largestCircle(cross), 3U) << "of equal ones the first";
+    EXPECT_EQ(largestCircle(cross), 3U) << "the first of two equal ones";
     EXPECT_EQ(smallestCircle(cross), 1U);
 }
 

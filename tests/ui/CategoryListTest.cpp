@@ -56,7 +56,7 @@ const std::vector<Row>& rows() {
 
 }  // namespace
 
-TEST_F(Categories, areListedTheLargestFirstWhateverTheirAge) {
+TEST_F(Categories, listsLargestFirstWhateverTheAge) {
     surveyFor(Audience::normal);
     ASSERT_EQ(list().rowCount(), 5);
     for (int row = 0; row < 5; ++row) {
@@ -73,10 +73,10 @@ TEST_F(Categories, areListedTheLargestFirstWhateverTheirAge) {
     }
 }
 
-TEST_F(Categories, beginWithTheSafeOnesOnTheFirstAppearance) {
+TEST_F(Categories, choosesSafeOnesOnFirstShow) {
     screen();
     survey();
-    EXPECT_THAT(list().chosen(), IsEmpty());  // nobody has looked yet
+    EXPECT_THAT(list().chosen(), IsEmpty());  // the screen was not shown yet
     EXPECT_EQ(menu(), "None");
     screen().setOnScreen(true);
     EXPECT_THAT(list().chosen(), ElementsAre("electron_cache", "npm_cache", "yarn_cache"));
@@ -85,18 +85,18 @@ TEST_F(Categories, beginWithTheSafeOnesOnTheFirstAppearance) {
     EXPECT_TRUE(list().reviewable());
 }
 
-TEST_F(Categories, aDeveloperWhoComesBackFindsThemSeededOnlyThen) {
+TEST_F(Categories, developerGetsNoInitialChoice) {
     surveyFor(Audience::developer);
     EXPECT_THAT(list().chosen(), IsEmpty());
     model().setAudience(Audience::normal);
     EXPECT_EQ(list().chosen().size(), 3U);
 }
 
-TEST_F(Categories, staySeededAcrossRescansAndComings) {
+TEST_F(Categories, keepsChoiceAcrossRescansAndVisits) {
     surveyFor(Audience::normal);
     list().chooseNone();
     toggle("node_modules");
-    put(home + "/Library/Caches/CocoaPods", 60 * megabyte);  // a safe one that was not there before
+    put(home + "/Library/Caches/CocoaPods", 60 * megabyte);  // safe, and new in this survey
     survey();
     EXPECT_THAT(list().chosen(), ElementsAre("node_modules"));
     EXPECT_EQ(text(0, CategoryList::idRole), "cocoapods_cache");
@@ -108,7 +108,7 @@ TEST_F(Categories, staySeededAcrossRescansAndComings) {
     EXPECT_THAT(list().chosen(), ElementsAre("node_modules"));
 }
 
-TEST_F(Categories, keepTheirChoiceWhileASurveyHasNothingYet) {
+TEST_F(Categories, keepsChoiceWhileSurveyIsEmpty) {
     surveyFor(Audience::normal);
     model().startScan();
     EXPECT_EQ(list().rowCount(), 0);
@@ -119,7 +119,7 @@ TEST_F(Categories, keepTheirChoiceWhileASurveyHasNothingYet) {
     EXPECT_EQ(footer(), "4 items · 87 MB");
 }
 
-TEST_F(Categories, theMenuChoosesAllTheSafeOnesOrNone) {
+TEST_F(Categories, menuChoosesAllSafeOrNone) {
     surveyFor(Audience::normal);
     list().chooseAll();
     EXPECT_EQ(menu(), "5");
@@ -133,7 +133,7 @@ TEST_F(Categories, theMenuChoosesAllTheSafeOnesOrNone) {
     EXPECT_EQ(footer(), "4 items · 87 MB");
 }
 
-TEST_F(Categories, aChosenOneThatIsGoneCountsInTheMenuAndForNoItem) {
+TEST_F(Categories, vanishedChoiceCountsOnlyInMenu) {
     surveyFor(Audience::normal);
     list().chooseNone();
     toggle("yarn_cache");
@@ -144,12 +144,12 @@ TEST_F(Categories, aChosenOneThatIsGoneCountsInTheMenuAndForNoItem) {
     EXPECT_FALSE(list().reviewable());
     list().review();
     EXPECT_FALSE(screen().reviewing());
-    list().chooseAll();  // exactly those that are there
+    list().chooseAll();  // drops the one that vanished
     EXPECT_EQ(menu(), "4");
     EXPECT_EQ(footer(), "6 items · 112 MB");
 }
 
-TEST_F(Categories, aRowIsAddedAndTakenOutByATap) {
+TEST_F(Categories, tapTogglesRow) {
     surveyFor(Audience::normal);
     int footers = 0;
     QObject::connect(&list(), &CategoryList::footerChanged, &list(), [&] { ++footers; });
@@ -166,7 +166,7 @@ TEST_F(Categories, aRowIsAddedAndTakenOutByATap) {
     mirror.expectFresh();
 }
 
-TEST_F(Categories, aTapBesideTheRowsDoesNothing) {
+TEST_F(Categories, ignoresInvalidRows) {
     surveyFor(Audience::normal);
     for (const int row : {-1, 5, 100}) list().toggle(row);
     EXPECT_EQ(menu(), "3");
@@ -175,7 +175,7 @@ TEST_F(Categories, aTapBesideTheRowsDoesNothing) {
     EXPECT_EQ(list().rowCount(list().index(0)), 0);
 }
 
-TEST_F(Categories, theMapHasASlicePerRow) {
+TEST_F(Categories, chartHasOneSlicePerRow) {
     surveyFor(Audience::normal);
     const std::vector<BubbleSlice>& slices = list().bubbles()->slices();
     ASSERT_EQ(slices.size(), 5U);
@@ -191,7 +191,7 @@ TEST_F(Categories, theMapHasASlicePerRow) {
     }
 }
 
-TEST_F(Categories, aTapOnABubbleIsATapOnItsRow) {
+TEST_F(Categories, bubbleTapTogglesItsRow) {
     surveyFor(Audience::normal);
     const BubbleSlice modules = list().bubbles()->slices()[2];
     list().bubbles()->tap(modules);
@@ -203,7 +203,7 @@ TEST_F(Categories, aTapOnABubbleIsATapOnItsRow) {
     EXPECT_EQ(footer(), "4 items · 87 MB");
 }
 
-TEST_F(Categories, aBubbleThatIsGoneDoesNothing) {
+TEST_F(Categories, ignoresTapOnVanishedBubble) {
     surveyFor(Audience::normal);
     const BubbleSlice gone = list().bubbles()->slices()[0];
     loseItem(yarn);
@@ -212,10 +212,10 @@ TEST_F(Categories, aBubbleThatIsGoneDoesNothing) {
     EXPECT_THAT(list().chosen(), IsEmpty());
 }
 
-TEST_F(Categories, tellAViewOfEveryChangeRowByRow) {
+TEST_F(Categories, signalsRowLevelEdits) {
     surveyFor(Audience::normal);
     RowMirror mirror(list(), {CategoryList::idRole});
-    loseItem(webModules);  // modules fall behind npm
+    loseItem(webModules);  // node_modules moves below npm
     mirror.expectFresh();
     loseItem(npm);
     EXPECT_EQ(list().rowCount(), 4);
@@ -229,7 +229,7 @@ TEST_F(Categories, tellAViewOfEveryChangeRowByRow) {
     EXPECT_EQ(list().rowCount(), 6);
 }
 
-TEST_F(Categories, aRescanOfTheSameDiskLeavesTheSameMap) {
+TEST_F(Categories, rescanOfUnchangedDiskKeepsSlices) {
     surveyFor(Audience::normal);
     const std::vector<BubbleSlice> before = list().bubbles()->slices();
     survey();

@@ -36,14 +36,14 @@ FolderChanges threeKinds() {
 
 }  // namespace
 
-TEST(Changes, threeSectionsInOrderEachWithItsCount) {
+TEST(Changes, listsThreeSectionsInOrderWithCounts) {
     ChangesModel changes;
     changes.show(threeKinds());
     EXPECT_FALSE(changes.empty());
     EXPECT_THAT(texts(changes, "heading"), ElementsAre("Grew (2)", "", "Appeared (1)", "Vanished (1)"));
 }
 
-TEST(Changes, aSectionWithoutRowsIsNotThere) {
+TEST(Changes, omitsEmptySections) {
     ChangesModel changes;
     FolderChanges some = threeKinds();
     some.appeared.clear();
@@ -54,7 +54,7 @@ TEST(Changes, aSectionWithoutRowsIsNotThere) {
     EXPECT_THAT(texts(changes, "heading"), ElementsAre("Vanished (1)"));
 }
 
-TEST(Changes, theSectionsHaveTheirColours) {
+TEST(Changes, tintsSections) {
     ChangesModel changes;
     changes.show(threeKinds());
     EXPECT_EQ(tint(changes, 0), QColor(62, 155, 255));
@@ -65,7 +65,7 @@ TEST(Changes, theSectionsHaveTheirColours) {
     EXPECT_EQ(tint(changes, 3), ZelkTheme::light().inkSoft);
 }
 
-TEST(Changes, aRowHasTheLastComponentOverThePath) {
+TEST(Changes, rowShowsLastComponentAndPath) {
     ChangesModel changes;
     changes.show(threeKinds());
     EXPECT_THAT(texts(changes, "name"), ElementsAre("Films", "Music", "New", "Old"));
@@ -73,7 +73,7 @@ TEST(Changes, aRowHasTheLastComponentOverThePath) {
                 ElementsAre("/home/me/Films", "/home/me/Music", "/home/me/New", "/home/me/Old"));
 }
 
-TEST(Changes, theWholeDriveIsNamedByItsSlash) {
+TEST(Changes, rootIsNamedSlash) {
     ChangesModel changes;
     FolderChanges drive;
     drive.grew = {{"/", 1'000'000'000, 2'000'000'000}};
@@ -82,7 +82,7 @@ TEST(Changes, theWholeDriveIsNamedByItsSlash) {
     EXPECT_EQ(text(changes, 0, "path"), "/");
 }
 
-TEST(Changes, theSizeTextTellsTheNewSizeAndTheGrowthOrTheOneSizeThereIs) {
+TEST(Changes, showsNewSizeAndGrowthOrTheOnlySize) {
     ChangesModel changes;
     changes.show(threeKinds());
     const std::string grown = text(changes, 0, "size");
@@ -92,7 +92,7 @@ TEST(Changes, theSizeTextTellsTheNewSizeAndTheGrowthOrTheOneSizeThereIs) {
     EXPECT_EQ(text(changes, 3, "size"), "600 MB");
 }
 
-TEST(Changes, aGrowthThatNoIntegerTellsDoesNotOverflow) {
+TEST(Changes, growthSaturatesInsteadOfOverflowing) {
     constexpr auto most = std::numeric_limits<std::int64_t>::max();
     ChangesModel changes;
     FolderChanges grown;
@@ -101,7 +101,7 @@ TEST(Changes, aGrowthThatNoIntegerTellsDoesNotOverflow) {
     EXPECT_EQ(text(changes, 0, "size"), text(changes, 1, "size"));
 }
 
-TEST(Changes, withoutAnyItIsEmpty) {
+TEST(Changes, isEmptyWithoutChanges) {
     ChangesModel changes;
     EXPECT_TRUE(changes.empty());
     changes.show(threeKinds());
@@ -110,7 +110,7 @@ TEST(Changes, withoutAnyItIsEmpty) {
     EXPECT_EQ(changes.rowCount(), 0);
 }
 
-TEST(Changes, keepsTheOrderOfEachList) {
+TEST(Changes, keepsOrderOfEachList) {
     ChangesModel changes;
     FolderChanges gone;
     gone.gone = {{"/c", 3, 0}, {"/b", 2, 0}, {"/a", 1, 0}};

@@ -28,8 +28,8 @@ struct Case {
     std::vector<std::int64_t> weights;
 };
 
-/// What a person's folders look like, and what they do not: a few giants or all alike, in any order, with empty ones
-/// among them, in rectangles down to nothing.
+/// Makes weights like those of real folders and stranger ones: a few giants or all alike, sorted or not, some zero or
+/// negative, in rectangles down to an empty one.
 Case randomCase(std::mt19937_64& random) {
     const auto upTo = [&](std::uint64_t most) { return static_cast<std::int64_t>(random() % (most + 1)); };
     Case one;
@@ -51,18 +51,18 @@ double separation(const PackedCircle& a, const PackedCircle& b) {
 
 }  // namespace
 
-TEST(CirclePacking, nothingWithAWeightPacksToNothing) {
+TEST(CirclePacking, packsNothingWithoutPositiveWeight) {
     EXPECT_TRUE(pack({}, 400, 300).empty());
     EXPECT_TRUE(pack(packItemsOf({0, -1, 0}), 400, 300).empty());
 }
 
-TEST(CirclePacking, aRectangleWithoutAnAreaPacksToNothing) {
+TEST(CirclePacking, packsNothingIntoEmptyRectangle) {
     for (const auto& [width, height] : {std::pair{0.0, 300.0}, {400.0, 0.0}, {-1.0, 300.0}, {400.0, -5.0}})
         EXPECT_TRUE(pack(packItemsOf({5}), width, height).empty());
     EXPECT_TRUE(pack(packItemsOf({5}), std::nan(""), 300).empty());
 }
 
-TEST(CirclePacking, aSingleItemTouchesTheMarginOfTheTighterAxis) {
+TEST(CirclePacking, singleItemFillsShorterAxisWithinMargin) {
     const auto circles = pack(packItemsOf({1'000'000}), 500, 300);
     ASSERT_EQ(circles.size(), 1U);
     EXPECT_DOUBLE_EQ(circles[0].radius, (300 - 48) / 2.0);
@@ -70,7 +70,7 @@ TEST(CirclePacking, aSingleItemTouchesTheMarginOfTheTighterAxis) {
     EXPECT_DOUBLE_EQ(circles[0].center.y, 150);
 }
 
-TEST(CirclePacking, whatHasNoWeightIsLeftOutAndTheOrderStays) {
+TEST(CirclePacking, skipsWeightlessItemsAndKeepsOrder) {
     const auto circles = pack(packItemsOf({4, 0, 9, -2, 1}), 400, 300);
     ASSERT_EQ(circles.size(), 3U);
     EXPECT_EQ(circles[0].id, "0");
@@ -78,12 +78,12 @@ TEST(CirclePacking, whatHasNoWeightIsLeftOutAndTheOrderStays) {
     EXPECT_EQ(circles[2].id, "4");
 }
 
-TEST(CirclePacking, areasAreAsTheBytes) {
+TEST(CirclePacking, areasAreProportionalToBytes) {
     const auto circles = pack(packItemsOf({400, 100}), 400, 300);
     EXPECT_DOUBLE_EQ(circles[0].radius, 2 * circles[1].radius);
 }
 
-TEST(CirclePacking, aRectangleSmallerThanItsMarginsIsPackedWithoutComplaint) {
+TEST(CirclePacking, packsRectangleSmallerThanItsMargins) {
     const auto flat = pack(packItemsOf({4, 2}), 400, 48);
     ASSERT_EQ(flat.size(), 2U);
     EXPECT_EQ(flat[0].radius, 0);
@@ -92,21 +92,21 @@ TEST(CirclePacking, aRectangleSmallerThanItsMarginsIsPackedWithoutComplaint) {
     EXPECT_LT(less[0].radius, 0);
 }
 
-TEST(CirclePacking, theLargestWeightsThereAreStayFinite) {
+TEST(CirclePacking, largestWeightsStayFinite) {
     const auto circles = pack(packItemsOf({INT64_MAX, 1, INT64_MAX}), 400, 300);
     ASSERT_EQ(circles.size(), 3U);
     for (const PackedCircle& circle : circles) EXPECT_TRUE(std::isfinite(circle.center.x + circle.radius));
 }
 
-TEST(CirclePacking, agreesWithAnIndependentModelAndNothingOverlaps) {
+TEST(CirclePacking, matchesReferenceModelWithoutOverlaps) {
     constexpr int cases = 10'000;
     const zoo::TempFolder folder;
-    const std::string asked = folder / "cases";
-    const std::string answered = folder / "circles";
+    const std::string inputPath = folder / "cases";
+    const std::string outputPath = folder / "circles";
     std::mt19937_64 random(20'261'121);
     std::vector<Case> all;
     {
-        std::ofstream out(asked);
+        std::ofstream out(inputPath);
         out.precision(17);
         for (int at = 0; at < cases; ++at) {
             const Case& one = all.emplace_back(randomCase(random));
@@ -116,10 +116,10 @@ TEST(CirclePacking, agreesWithAnIndependentModelAndNothingOverlaps) {
         }
     }
     const std::string command =
-        "python3 '" ZELK_SOURCE_DIR "/tests/ui/pack_model.py' < '" + asked + "' > '" + answered + "'";
+        "python3 '" ZELK_SOURCE_DIR "/tests/ui/pack_model.py' < '" + inputPath + "' > '" + outputPath + "'";
     ASSERT_EQ(std::system(command.c_str()), 0);
 
-    std::ifstream in(answered);
+    std::ifstream in(outputPath);
     for (const Case& one : all) {
         const auto circles = pack(packItemsOf(one.weights), one.width, one.height);
         std::string line;
@@ -144,21 +144,21 @@ TEST(CirclePacking, agreesWithAnIndependentModelAndNothingOverlaps) {
     }
 }
 
-TEST(HitTest, aPointOutsideHitsNothing) {
+TEST(HitTest, pointOutsideHitsNothing) {
     EXPECT_EQ(hitTest({}, {1, 1}), std::nullopt);
     EXPECT_EQ(hitTest({{"a", {50, 50}, 10}}, {61, 50}), std::nullopt);
 }
 
-TEST(HitTest, theEdgeBelongsToTheCircle) {
+TEST(HitTest, edgeBelongsToCircle) {
     EXPECT_EQ(hitTest({{"a", {50, 50}, 10}}, {60, 50}), 0U);
 }
 
-TEST(HitTest, aPointInTwoCirclesHitsTheSmaller) {
+TEST(HitTest, smallerOfTwoCirclesIsHit) {
     EXPECT_EQ(hitTest({{"big", {50, 50}, 30}, {"small", {60, 50}, 10}}, {60, 50}), 1U);
     EXPECT_EQ(hitTest({{"small", {60, 50}, 10}, {"big", {50, 50}, 30}}, {60, 50}), 0U);
 }
 
-TEST(HitTest, ofEqualCirclesTheFirstStays) {
+TEST(HitTest, firstOfEqualCirclesIsHit) {
     EXPECT_EQ(hitTest({{"a", {50, 50}, 10}, {"b", {52, 50}, 10}}, {51, 50}), 0U);
 }
 

@@ -29,7 +29,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Circles, aRingCoversEachPixelAsFarAsItLiesInIt) {
+TEST_F(Circles, ringMatchesSupersampledCoverage) {
     const QPointF ringCenter(50.3, 49.8);
     constexpr double radius = 30.4;
     const auto isIn = [&](QPointF point, double width) {
@@ -45,8 +45,8 @@ TEST_F(Circles, aRingCoversEachPixelAsFarAsItLiesInIt) {
             on.scale(scale, scale);
             drawRing(on, ringCenter, radius, width, Qt::red);
             on.end();
-            double ink = 0;
-            double wanted = 0;
+            double paintedArea = 0;
+            double expectedArea = 0;
             for (int y = 0; y < drawn.height(); ++y) {
                 for (int x = 0; x < drawn.width(); ++x) {
                     constexpr int grid = 5;
@@ -57,16 +57,16 @@ TEST_F(Circles, aRingCoversEachPixelAsFarAsItLiesInIt) {
                     const double covered = static_cast<double>(inside) / (grid * grid);
                     const double alpha = drawn.pixelColor(x, y).alphaF();
                     ASSERT_NEAR(alpha, covered, 0.2) << scale << ' ' << width << ": " << x << ' ' << y;
-                    ink += alpha;
-                    wanted += covered;
+                    paintedArea += alpha;
+                    expectedArea += covered;
                 }
             }
-            EXPECT_NEAR(ink / wanted, 1, 0.03) << scale << ' ' << width;
+            EXPECT_NEAR(paintedArea / expectedArea, 1, 0.03) << scale << ' ' << width;
         }
     }
 }
 
-TEST_F(Circles, aShadowIsDarkestBelowTheDiscAndFadesOut) {
+TEST_F(Circles, shadowFallsBelowDiscAndFadesOut) {
     drawDiscShadow(painter, middle, 20, QColor(0, 0, 0, 128), 10, 6);
     fillDisc(painter, middle, 20, Qt::red);
     EXPECT_EQ(at(50, 50), QColor(Qt::red));
@@ -76,13 +76,13 @@ TEST_F(Circles, aShadowIsDarkestBelowTheDiscAndFadesOut) {
     EXPECT_GT(last, at(50, 28).alpha()) << "it falls downwards";
     for (int y = 73; y < 96; ++y) {
         EXPECT_LE(at(50, y).alpha(), last) << y;
-        EXPECT_LT(last - at(50, y).alpha(), 16) << "without an edge";
+        EXPECT_LT(last - at(50, y).alpha(), 16) << "no hard edge";
         last = at(50, y).alpha();
     }
     EXPECT_EQ(last, 0);
 }
 
-TEST_F(Circles, aShadowHasNoSeamsOnAScaledScreen) {
+TEST_F(Circles, shadowHasNoSeamsOnScaledScreen) {
     painter.scale(1.25, 1.25);
     drawDiscShadow(painter, {40, 36}, 20.3, QColor(0, 0, 0, 128), 10, 3);
     fillDisc(painter, {40, 36}, 20.3, Qt::red);
@@ -95,21 +95,21 @@ TEST_F(Circles, aShadowHasNoSeamsOnAScaledScreen) {
     }
 }
 
-TEST_F(Circles, aShadowThatIsMoreBlurredThanItsDiscIsLargeIsFaint) {
+TEST_F(Circles, shadowBlurredBeyondItsDiscIsFaint) {
     drawDiscShadow(painter, middle, 3, Qt::black, 20, 30);
     fillDisc(painter, middle, 3, Qt::red);
     EXPECT_LT(at(50, 80).alpha(), 30);
     EXPECT_GT(at(50, 80).alpha(), 0);
 }
 
-TEST_F(Circles, aLargeRingIsAsTheToolkitDrawsIt) {
+TEST_F(Circles, drawsLargeRing) {
     drawRing(painter, {-550, 50}, 600, 6, Qt::red);
     EXPECT_EQ(at(50, 50), QColor(Qt::red));
     EXPECT_EQ(at(45, 50).alpha(), 0);
     EXPECT_EQ(at(55, 50).alpha(), 0);
 }
 
-TEST_F(Circles, aHaloIsFullInsideAndFadesOut) {
+TEST_F(Circles, haloIsFullInsideAndFadesOut) {
     drawHalo(painter, middle, Qt::red, 0.5, 10, 40);
     EXPECT_NEAR(at(50, 50).alphaF(), 0.5, 0.01);
     EXPECT_NEAR(at(58, 50).alphaF(), 0.5, 0.01);
@@ -117,7 +117,7 @@ TEST_F(Circles, aHaloIsFullInsideAndFadesOut) {
     EXPECT_EQ(at(91, 50).alpha(), 0);
 }
 
-TEST_F(Circles, withoutARadiusAreNothing) {
+TEST_F(Circles, drawsNothingWithoutRadius) {
     const QImage before = image;
     for (const double radius : {0.0, -20.0}) {
         fillDisc(painter, middle, radius, Qt::red);

@@ -19,7 +19,7 @@ using testing::IsEmpty;
 
 using Strings = std::vector<std::string>;
 
-class Clutter : public AppModelFixture {
+class ClutterScreenModelTest : public AppModelFixture {
 protected:
     void surveyClutter() {
         fakes::fillWithClutter(machine, home);
@@ -39,7 +39,7 @@ protected:
     }
     Strings names() { return texts(*screen().rows()); }
     Strings pills() { return texts(*screen().pills()); }
-    /// The names of the pills that are `role`.
+    /// The names of the pills for which the flag `role` is set.
     Strings pillsThatAre(const char* role) {
         Strings found;
         const TypePills& all = *screen().pills();
@@ -68,7 +68,7 @@ constexpr int oldest = 1;
 
 }  // namespace
 
-TEST_F(Clutter, saysAllItsTexts) {
+TEST_F(ClutterScreenModelTest, exposesItsTexts) {
     const ClutterScreenModel& clutter = screen();
     const std::pair<QString, const char*> expected[] = {
         {clutter.title(), "Clutter"},
@@ -78,12 +78,12 @@ TEST_F(Clutter, saysAllItsTexts) {
         {clutter.scanningLabel(), "Hunting for heavy files…"},
         {clutter.orders().join('|'), "Largest|Oldest"},
     };
-    for (const auto& [said, text] : expected) EXPECT_EQ(said.toStdString(), text);
+    for (const auto& [actual, text] : expected) EXPECT_EQ(actual.toStdString(), text);
     EXPECT_EQ(clutter.screen(), Screen::clutter);
     EXPECT_TRUE(clutter.note().isEmpty());
 }
 
-TEST_F(Clutter, followsTheSurveyThatItsButtonBegins) {
+TEST_F(ClutterScreenModelTest, showsProgressAndResultsOfItsSurvey) {
     fakes::fillWithClutter(machine, home);
     addWideFolder(home + "/wide");
     machine.directories.hold(home + "/wide/inner");
@@ -97,28 +97,28 @@ TEST_F(Clutter, followsTheSurveyThatItsButtonBegins) {
     EXPECT_EQ(names().front(), "concert.mov");
 }
 
-TEST_F(Clutter, showsASurveyThatWasThereBefore) {
+TEST_F(ClutterScreenModelTest, showsResultsOfEarlierSurvey) {
     surveyClutter();
     EXPECT_TRUE(screen().results());
     EXPECT_FALSE(screen().nothing());
     EXPECT_EQ(names().size(), 5U);
 }
 
-TEST_F(Clutter, aSurveyWithoutAnyFileHasNothingHeavy) {
+TEST_F(ClutterScreenModelTest, isEmptyWithoutLargeFiles) {
     survey();
     EXPECT_TRUE(screen().nothing());
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_THAT(pills(), ElementsAre("All"));
 }
 
-TEST_F(Clutter, theLargestComeFirst) {
+TEST_F(ClutterScreenModelTest, sortsBySizeFirst) {
     surveyClutter();
     EXPECT_FALSE(screen().sortByAge());
     EXPECT_THAT(names(), ElementsAre("concert.mov", "setup.iso", "backup.zip", "old.mp4", "notes.pdf"));
     EXPECT_THAT(texts(*screen().rows(), "size"), ElementsAre("4 GB", "2 GB", "900 MB", "800 MB", "700 MB"));
 }
 
-TEST_F(Clutter, orTheOldest) {
+TEST_F(ClutterScreenModelTest, sortsByAge) {
     surveyClutter();
     const QSignalSpy rearranged(&screen(), &ClutterScreenModel::rearranged);
     screen().sort(oldest);
@@ -133,7 +133,7 @@ TEST_F(Clutter, orTheOldest) {
     EXPECT_EQ(names().front(), "concert.mov");
 }
 
-TEST_F(Clutter, ofTheSameAgeTheLargestComeFirst) {
+TEST_F(ClutterScreenModelTest, sortsEqualAgesBySize) {
     for (const int size : {1, 3, 2})
         machine.directories.file(home + "/" + std::to_string(size), static_cast<std::uint64_t>(size) * 1'000'000,
                                  5'000);
@@ -142,7 +142,7 @@ TEST_F(Clutter, ofTheSameAgeTheLargestComeFirst) {
     EXPECT_THAT(names(), ElementsAre("3", "2", "1"));
 }
 
-TEST_F(Clutter, aPillStandsForEveryTypeWithFilesTheLargestTotalFirst) {
+TEST_F(ClutterScreenModelTest, pillsListTypesByTotalSize) {
     surveyClutter();
     EXPECT_THAT(pills(), ElementsAre("All", "Video", "Disk images", "Archives", "Documents"));
     EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("All"));
@@ -151,7 +151,7 @@ TEST_F(Clutter, aPillStandsForEveryTypeWithFilesTheLargestTotalFirst) {
                 ElementsAre("tray.full", "film", "opticaldiscdrive", "doc.zipper", "doc.text"));
 }
 
-TEST_F(Clutter, aPillNarrowsTheListToItsType) {
+TEST_F(ClutterScreenModelTest, pillFiltersByType) {
     surveyClutter();
     const QSignalSpy rearranged(&screen(), &ClutterScreenModel::rearranged);
     filter("Video");
@@ -171,7 +171,7 @@ TEST_F(Clutter, aPillNarrowsTheListToItsType) {
     EXPECT_EQ(rearranged.size(), 4);
 }
 
-TEST_F(Clutter, agesAtTheEdgesOfTheirUnits) {
+TEST_F(ClutterScreenModelTest, showsAgesAtUnitBoundaries) {
     const TimePoint now = machine.clock.now();
     int size = 9;
     for (const double days : {30.0, 364.0, 365.0, -3.0})
@@ -181,7 +181,7 @@ TEST_F(Clutter, agesAtTheEdgesOfTheirUnits) {
     EXPECT_THAT(texts(*screen().rows(), "age"), ElementsAre("1mo ago", "12mo ago", "1y ago", "today"));
 }
 
-TEST_F(Clutter, agesAreThoseOfWhenTheScreenIsLookedAt) {
+TEST_F(ClutterScreenModelTest, refreshesAgesWhenShown) {
     surveyClutter();
     screen().setOnScreen(true);
     screen().setOnScreen(false);
@@ -190,14 +190,14 @@ TEST_F(Clutter, agesAreThoseOfWhenTheScreenIsLookedAt) {
     EXPECT_EQ(texts(*screen().rows(), "age").front(), "4d ago");
 }
 
-TEST_F(Clutter, aFileIsRevealedInItsFolder) {
+TEST_F(ClutterScreenModelTest, revealsFile) {
     surveyClutter();
     screen().pick(2);
     screen().reveal();
     EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/backup.zip"}));
 }
 
-TEST_F(Clutter, withoutARowNothingIsDone) {
+TEST_F(ClutterScreenModelTest, ignoresInvalidRows) {
     surveyClutter();
     machine.tasks.hold();
     for (const int row : {-1, 5}) {
@@ -210,14 +210,14 @@ TEST_F(Clutter, withoutARowNothingIsDone) {
     machine.tasks.release();
 }
 
-TEST_F(Clutter, aFileGoesToTheTrashWithoutAQuestion) {
+TEST_F(ClutterScreenModelTest, movesFileToTrashWithoutConfirmation) {
     surveyClutter();
     trash("setup.iso");
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/setup.iso"});
     EXPECT_THAT(names(), ElementsAre("concert.mov", "backup.zip", "old.mp4", "notes.pdf"));
 }
 
-TEST_F(Clutter, aFileThatDoesNotGoStaysInItsRowWithoutAMessage) {
+TEST_F(ClutterScreenModelTest, failedRemovalKeepsRow) {
     surveyClutter();
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     const QSignalSpy removed(screen().rows(), &QAbstractItemModel::rowsRemoved);
@@ -226,7 +226,7 @@ TEST_F(Clutter, aFileThatDoesNotGoStaysInItsRowWithoutAMessage) {
     EXPECT_EQ(removed.size(), 0);
 }
 
-TEST_F(Clutter, theTotalsGoOnCountingAFileThatWent) {
+TEST_F(ClutterScreenModelTest, totalsStillCountTrashedFiles) {
     surveyClutter();
     const auto before = model().sortedTypeTotals();
     trash("concert.mov");
@@ -235,7 +235,7 @@ TEST_F(Clutter, theTotalsGoOnCountingAFileThatWent) {
     EXPECT_THAT(pills(), ElementsAre("All", "Video", "Disk images", "Archives", "Documents"));
 }
 
-TEST_F(Clutter, theLastFileOfATypeLeavesAnEmptyListAndNotThePlaceholder) {
+TEST_F(ClutterScreenModelTest, emptyFilterShowsNoPlaceholder) {
     surveyClutter();
     filter("Archives");
     trash("backup.zip");
@@ -245,7 +245,7 @@ TEST_F(Clutter, theLastFileOfATypeLeavesAnEmptyListAndNotThePlaceholder) {
     EXPECT_EQ(names().size(), 4U);
 }
 
-TEST_F(Clutter, theLastFileOfAllLeavesThePlaceholder) {
+TEST_F(ClutterScreenModelTest, removingTheLastFileShowsPlaceholder) {
     machine.directories.file(home + "/only.mov", 1'000'000, 0);
     machine.files.addFile(home + "/only.mov");
     survey();
@@ -254,7 +254,7 @@ TEST_F(Clutter, theLastFileOfAllLeavesThePlaceholder) {
     EXPECT_TRUE(screen().nothing());
 }
 
-TEST_F(Clutter, aTypeThatTheNextSurveyDoesNotFindHasNoPillAndAllBringsTheListBack) {
+TEST_F(ClutterScreenModelTest, filterOnVanishedTypeIsResetByAll) {
     surveyClutter();
     filter("Video");
     model().setScanRoots({home + "/papers"});
@@ -268,7 +268,7 @@ TEST_F(Clutter, aTypeThatTheNextSurveyDoesNotFindHasNoPillAndAllBringsTheListBac
     EXPECT_THAT(names(), ElementsAre("notes.pdf"));
 }
 
-TEST_F(Clutter, orderAndFilterLastFromSurveyToSurvey) {
+TEST_F(ClutterScreenModelTest, keepsOrderAndFilterAcrossSurveys) {
     surveyClutter();
     screen().sort(oldest);
     filter("Video");
@@ -277,7 +277,7 @@ TEST_F(Clutter, orderAndFilterLastFromSurveyToSurvey) {
     EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("Video"));
 }
 
-TEST_F(Clutter, whatWasPickedIsMeantAlsoWhenRowsComeAndGo) {
+TEST_F(ClutterScreenModelTest, pickedFileSurvivesRowChanges) {
     surveyClutter();
     screen().pick(2);
     model().trashLargeFile(home + "/media/concert.mov");
@@ -288,7 +288,7 @@ TEST_F(Clutter, whatWasPickedIsMeantAlsoWhenRowsComeAndGo) {
     EXPECT_EQ(machine.trash.trashed(), (Strings{home + "/media/concert.mov", home + "/backup.zip"}));
 }
 
-TEST_F(Clutter, keepsItsRowsWhileAnotherSurveyRuns) {
+TEST_F(ClutterScreenModelTest, keepsRowsDuringAnotherSurvey) {
     surveyClutter();
     ASSERT_EQ(names().size(), 5U);
     addWideFolder(home + "/wide");
@@ -300,7 +300,7 @@ TEST_F(Clutter, keepsItsRowsWhileAnotherSurveyRuns) {
     runUntil([&] { return screen().results(); });
 }
 
-TEST_F(Clutter, rowsStayThroughASurveyThatFindsTheSame) {
+TEST_F(ClutterScreenModelTest, unchangedSurveyEditsNoRows) {
     surveyClutter();
     screen();
     const QSignalSpy removed(screen().rows(), &QAbstractItemModel::rowsRemoved);
@@ -310,7 +310,7 @@ TEST_F(Clutter, rowsStayThroughASurveyThatFindsTheSame) {
     EXPECT_EQ(removed.size() + inserted.size() + pillsRemoved.size(), 0);
 }
 
-TEST_F(Clutter, followsTheTheme) {
+TEST_F(ClutterScreenModelTest, updatesTintsWithTheme) {
     machine.directories.file(home + "/thing", 1'000'000, 0);
     survey();
     const auto tint = [&](const QAbstractItemModel& rows, int row, int role) {

@@ -19,9 +19,9 @@ using testing::Not;
 
 using Strings = std::vector<std::string>;
 
-class ClutterWindow : public ViewFixture {
+class ClutterViewTest : public ViewFixture {
 protected:
-    ~ClutterWindow() override { close(); }
+    ~ClutterViewTest() override { close(); }
 
     void open(QSize size = {900, 620}) {
         if (model().scanPhase() != Phase::finished) {
@@ -44,15 +44,10 @@ protected:
         press(Qt::Key_Return);
         ASSERT_TRUE(menuIsOpen());
     }
-    /// In the middle of a row that is in sight.
+    /// The middle of a visible row.
     QPoint middleOf(int row) {
         QQuickItem* button = find(("fileMenu" + std::to_string(row)).c_str());
         return button->mapToScene(QPointF(-300, button->height() / 2)).toPoint();
-    }
-    QQuickItem* words(const std::string& text) {
-        for (QQuickItem* item : seen())
-            if (item->inherits("QQuickText") && item->property("text").toString().toStdString() == text) return item;
-        return nullptr;
     }
     void largeText(double factor) {
         singleton<TextScale>("TextScale").setFactor(factor);
@@ -64,7 +59,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ClutterWindow, showsItsHeadAndEveryTextOfEveryRow) {
+TEST_F(ClutterViewTest, showsHeaderAndRowTexts) {
     open();
     const Strings texts = seenTexts();
     EXPECT_EQ(std::count(texts.begin(), texts.end(), "Clutter"), 2);
@@ -76,7 +71,7 @@ TEST_F(ClutterWindow, showsItsHeadAndEveryTextOfEveryRow) {
     EXPECT_THAT(texts, Not(Contains("Nothing heavy")));
 }
 
-TEST_F(ClutterWindow, offersToShowAFileOrToRemoveIt) {
+TEST_F(ClutterViewTest, menuOffersRevealAndTrash) {
     open();
     tabToTheList();
     openMenuByKey();
@@ -84,7 +79,7 @@ TEST_F(ClutterWindow, offersToShowAFileOrToRemoveIt) {
     EXPECT_EQ(find("trashFile")->property("text").toString().toStdString(), "Move to Trash");
 }
 
-TEST_F(ClutterWindow, saysThatNothingIsHeavyWhereThereIsNoFile) {
+TEST_F(ClutterViewTest, showsPlaceholderWithoutFiles) {
     survey();
     open();
     EXPECT_THAT(seenTexts(), Contains("Nothing heavy"));
@@ -93,17 +88,17 @@ TEST_F(ClutterWindow, saysThatNothingIsHeavyWhereThereIsNoFile) {
     expectNoTextClipped();
 }
 
-TEST_F(ClutterWindow, ageAndSizeHaveTheirColumns) {
+TEST_F(ClutterViewTest, ageAndSizeColumnsScaleWithText) {
     open();
-    EXPECT_EQ(words("1d ago")->width(), 90);
-    EXPECT_EQ(words("4 GB")->width(), 86);
+    EXPECT_EQ(showing("1d ago")->width(), 90);
+    EXPECT_EQ(showing("4 GB")->width(), 86);
     largeText(1.5);
-    EXPECT_EQ(words("1d ago")->width(), 135);
-    EXPECT_EQ(words("4 GB")->width(), 129);
+    EXPECT_EQ(showing("1d ago")->width(), 135);
+    EXPECT_EQ(showing("4 GB")->width(), 129);
     largeText(1);
 }
 
-TEST_F(ClutterWindow, clipsNoTextInLargePrintAndALittleWindow) {
+TEST_F(ClutterViewTest, clipsNoTextAtLargeScaleInSmallWindow) {
     open({726, 592});
     expectNoTextClipped();
     largeText(1.5);
@@ -111,28 +106,28 @@ TEST_F(ClutterWindow, clipsNoTextInLargePrintAndALittleWindow) {
     largeText(1);
 }
 
-TEST_F(ClutterWindow, aLongNameIsShortenedInTheMiddleAndLeavesTheColumnsAlone) {
+TEST_F(ClutterViewTest, elidesLongNameBeforeColumns) {
     machine.directories.file(home + "/" + std::string(200, 'n') + "/" + std::string(200, 'm') + ".mov", 5'000'000'000,
                              static_cast<TimePoint>(machine.clock.now() - 400 * secondsPerDay));
     open({726, 592});
-    ASSERT_NE(words("5 GB"), nullptr);
-    EXPECT_FALSE(words("5 GB")->property("truncated").toBool());
-    EXPECT_FALSE(words("1y ago")->property("truncated").toBool());
-    QQuickItem* name = words(std::string(200, 'm') + ".mov");
+    ASSERT_NE(showing("5 GB"), nullptr);
+    EXPECT_FALSE(showing("5 GB")->property("truncated").toBool());
+    EXPECT_FALSE(showing("1y ago")->property("truncated").toBool());
+    QQuickItem* name = showing((std::string(200, 'm') + ".mov").c_str());
     ASSERT_NE(name, nullptr);
     EXPECT_TRUE(name->property("truncated").toBool());
     EXPECT_EQ(name->property("lineCount").toInt(), 1);
-    EXPECT_LE(name->mapToScene(QPointF(name->width(), 0)).x(), words("1y ago")->mapToScene(QPointF()).x());
+    EXPECT_LE(name->mapToScene(QPointF(name->width(), 0)).x(), showing("1y ago")->mapToScene(QPointF()).x());
 }
 
-TEST_F(ClutterWindow, hasThreeStopsForTheTabKeyAndBeginsInTheList) {
+TEST_F(ClutterViewTest, hasThreeTabStopsStartingAtList) {
     open();
     EXPECT_TRUE(listHasKeyboard());
     const std::string row = "concert.mov, /home/me/media, 1d ago, 4 GB";
     EXPECT_THAT(tabOrder(), ElementsAre(row, "Largest", "All"));
 }
 
-TEST_F(ClutterWindow, namesAllItsControlsAndItsRows) {
+TEST_F(ClutterViewTest, namesControlsAndRows) {
     open();
     expectAllControlsNamed();
     Strings named;
@@ -142,7 +137,7 @@ TEST_F(ClutterWindow, namesAllItsControlsAndItsRows) {
         EXPECT_THAT(named, Contains(name));
 }
 
-TEST_F(ClutterWindow, theKeysGoThroughTheRows) {
+TEST_F(ClutterViewTest, navigationKeysMoveThroughRows) {
     open();
     tabToTheList();
     EXPECT_EQ(current(), 0);
@@ -157,7 +152,7 @@ TEST_F(ClutterWindow, theKeysGoThroughTheRows) {
     }
 }
 
-TEST_F(ClutterWindow, theCurrentRowStaysInSight) {
+TEST_F(ClutterViewTest, scrollsToCurrentRow) {
     for (int file = 0; file < 60; ++file)
         machine.directories.file(home + "/" + std::to_string(file) + ".bin", 1'000'000U + static_cast<unsigned>(file));
     open();
@@ -171,7 +166,7 @@ TEST_F(ClutterWindow, theCurrentRowStaysInSight) {
     EXPECT_GE(row->mapToItem(&list(), QPointF()).y(), 0);
 }
 
-TEST_F(ClutterWindow, anotherOrderBeginsAtTheTop) {
+TEST_F(ClutterViewTest, sortingScrollsToTop) {
     for (int file = 0; file < 60; ++file)
         machine.directories.file(home + "/" + std::to_string(file) + ".bin", 1'000'000U + static_cast<unsigned>(file));
     open();
@@ -183,14 +178,14 @@ TEST_F(ClutterWindow, anotherOrderBeginsAtTheTop) {
     EXPECT_TRUE(list().property("atYBeginning").toBool());
 }
 
-TEST_F(ClutterWindow, enterOpensTheMenuOfTheRow) {
+TEST_F(ClutterViewTest, returnOpensRowMenu) {
     open();
     tabToTheList();
     press(Qt::Key_Down);
     openMenuByKey();
     EXPECT_THAT(seenTexts(), Contains(SystemTexts::of(SystemTexts::RevealFile).toStdString()));
     EXPECT_THAT(seenTexts(), Contains("Move to Trash"));
-    EXPECT_EQ(words("Move to Trash")->property("color").value<QColor>(), singleton<Theme>("Theme").alertText());
+    EXPECT_EQ(showing("Move to Trash")->property("color").value<QColor>(), singleton<Theme>("Theme").alertText());
     press(Qt::Key_Return);
     EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/media/setup.iso"}));
     EXPECT_FALSE(menuIsOpen());
@@ -198,7 +193,7 @@ TEST_F(ClutterWindow, enterOpensTheMenuOfTheRow) {
     EXPECT_EQ(current(), 1);
 }
 
-TEST_F(ClutterWindow, soDoTheMenuKeyAndItsStandIn) {
+TEST_F(ClutterViewTest, menuKeyAndShiftF10OpenRowMenu) {
     open();
     tabToTheList();
     press(Qt::Key_Menu);
@@ -215,7 +210,7 @@ TEST_F(ClutterWindow, soDoTheMenuKeyAndItsStandIn) {
     EXPECT_TRUE(list().property("ringed").toBool());
 }
 
-TEST_F(ClutterWindow, theMenuMovesItsFileToTheTrashAndTheKeyboardStaysInTheList) {
+TEST_F(ClutterViewTest, trashingFromMenuKeepsFocusInList) {
     open();
     tabToTheList();
     press(Qt::Key_Down);
@@ -228,7 +223,7 @@ TEST_F(ClutterWindow, theMenuMovesItsFileToTheTrashAndTheKeyboardStaysInTheList)
     EXPECT_TRUE(list().property("ringed").toBool());
 }
 
-TEST_F(ClutterWindow, theDeleteKeyMovesTheFileToTheTrashAndGoesOnToTheNext) {
+TEST_F(ClutterViewTest, deleteKeyTrashesFileAndSelectsNext) {
     open();
     tabToTheList();
     press(Qt::Key_Down);
@@ -242,7 +237,7 @@ TEST_F(ClutterWindow, theDeleteKeyMovesTheFileToTheTrashAndGoesOnToTheNext) {
     EXPECT_TRUE(list().property("ringed").toBool());
 }
 
-TEST_F(ClutterWindow, aHeldDeleteKeyTakesOneFile) {
+TEST_F(ClutterViewTest, heldDeleteKeyTrashesOneFile) {
     open();
     tabToTheList();
     press(Qt::Key_Delete);
@@ -252,7 +247,7 @@ TEST_F(ClutterWindow, aHeldDeleteKeyTakesOneFile) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/concert.mov"});
 }
 
-TEST_F(ClutterWindow, aRowThatDoesNotGoKeepsTheKeyboard) {
+TEST_F(ClutterViewTest, failedRemovalKeepsFocusOnRow) {
     open();
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     tabToTheList();
@@ -264,7 +259,7 @@ TEST_F(ClutterWindow, aRowThatDoesNotGoKeepsTheKeyboard) {
     EXPECT_TRUE(listHasKeyboard());
 }
 
-TEST_F(ClutterWindow, theRightButtonOpensTheMenuOfTheRowUnderIt) {
+TEST_F(ClutterViewTest, rightClickOpensRowMenu) {
     open();
     QTest::mouseClick(&window(), Qt::RightButton, {}, middleOf(2));
     settle();
@@ -275,7 +270,7 @@ TEST_F(ClutterWindow, theRightButtonOpensTheMenuOfTheRowUnderIt) {
     EXPECT_FALSE(menuIsOpen());
 }
 
-TEST_F(ClutterWindow, soDoesTheButtonOfTheRow) {
+TEST_F(ClutterViewTest, rowButtonOpensMenu) {
     open();
     click("fileMenu3");
     ASSERT_TRUE(menuIsOpen());
@@ -284,7 +279,7 @@ TEST_F(ClutterWindow, soDoesTheButtonOfTheRow) {
     EXPECT_FALSE(list().property("ringed").toBool());
 }
 
-TEST_F(ClutterWindow, aPressTakesTheRow) {
+TEST_F(ClutterViewTest, clickSelectsRow) {
     open();
     tour::clickAt(window(), middleOf(3));
     settle();
@@ -296,7 +291,7 @@ TEST_F(ClutterWindow, aPressTakesTheRow) {
     EXPECT_TRUE(list().property("ringed").toBool());
 }
 
-TEST_F(ClutterWindow, theArrowsChooseAmongPillsAndOrders) {
+TEST_F(ClutterViewTest, arrowsChoosePillAndOrder) {
     open();
     for (int stop = 0; stop < 5 && focusName() != "All"; ++stop) press(Qt::Key_Tab);
     press(Qt::Key_Right);
@@ -312,7 +307,7 @@ TEST_F(ClutterWindow, theArrowsChooseAmongPillsAndOrders) {
     EXPECT_EQ(focusName(), "Oldest");
 }
 
-TEST_F(ClutterWindow, aPillIsPressed) {
+TEST_F(ClutterViewTest, clickingPillFilters) {
     open();
     click("typePill3");
     EXPECT_EQ(clutter.typeFilter(), FileType::archive);
@@ -321,7 +316,7 @@ TEST_F(ClutterWindow, aPillIsPressed) {
     EXPECT_THAT(seenTexts(), Contains("concert.mov"));
 }
 
-TEST_F(ClutterWindow, theLastFileOfATypeLeavesAnEmptyListUnderTheHead) {
+TEST_F(ClutterViewTest, emptyFilterKeepsHeaderAndIgnoresKeys) {
     open();
     click("typePill3");
     tabToTheList();
@@ -336,7 +331,7 @@ TEST_F(ClutterWindow, theLastFileOfATypeLeavesAnEmptyListUnderTheHead) {
     EXPECT_THAT(seenTexts(), Contains("concert.mov"));
 }
 
-TEST_F(ClutterWindow, theMenuClosesWhenItsListGoes) {
+TEST_F(ClutterViewTest, menuClosesWhenListDisappears) {
     open();
     click("fileMenu0");
     ASSERT_TRUE(menuIsOpen());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The controls of the house under the mouse, the keyboard and a screen reader.
+// Drives the shared controls with the mouse, the keyboard and a screen reader.
 #include <gmock/gmock.h>
 
 #include <QTest>
@@ -26,14 +26,14 @@ class ControlsWindow : public ControlsFixture {};
 
 }  // namespace
 
-TEST_F(ControlsWindow, everyButtonIsPressedWithTheMouse) {
+TEST_F(ControlsWindow, mousePressesEveryButton) {
     for (const auto& [object, name] : buttons) {
         click(object);
         EXPECT_EQ(told(), object);
     }
 }
 
-TEST_F(ControlsWindow, everyButtonIsPressedWithSpaceReturnAndEnter) {
+TEST_F(ControlsWindow, spaceReturnAndEnterPressEveryButton) {
     for (const auto& [object, name] : buttons) {
         give(object);
         for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
@@ -43,7 +43,7 @@ TEST_F(ControlsWindow, everyButtonIsPressedWithSpaceReturnAndEnter) {
     }
 }
 
-TEST_F(ControlsWindow, aKeyThatIsHeldPressesOnce) {
+TEST_F(ControlsWindow, heldKeyPressesOnce) {
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
         for (const auto& [object, name] : buttons) {
             give(object);
@@ -57,7 +57,7 @@ TEST_F(ControlsWindow, aKeyThatIsHeldPressesOnce) {
     }
 }
 
-TEST_F(ControlsWindow, everyButtonIsToldAsAButtonWithItsName) {
+TEST_F(ControlsWindow, buttonsHaveRoleAndName) {
     for (const auto& [object, name] : buttons) {
         EXPECT_EQ(roleOf(object), QAccessible::Button) << object;
         EXPECT_EQ(nameOf(find(object)), name);
@@ -66,7 +66,7 @@ TEST_F(ControlsWindow, everyButtonIsToldAsAButtonWithItsName) {
     EXPECT_EQ(icon->text(QAccessible::Description), QStringLiteral("Reads it again"));
 }
 
-TEST_F(ControlsWindow, aScreenReaderPressesEveryButtonOnce) {
+TEST_F(ControlsWindow, pressActionPressesButtonOnce) {
     for (const auto& [object, name] : buttons) {
         QAccessible::queryAccessibleInterface(find(object))
             ->actionInterface()
@@ -75,7 +75,7 @@ TEST_F(ControlsWindow, aScreenReaderPressesEveryButtonOnce) {
     }
 }
 
-TEST_F(ControlsWindow, whatIsDisabledIsNeitherReachedNorPressed) {
+TEST_F(ControlsWindow, disabledButtonsAreNotFocusableOrPressable) {
     view().setProperty("able", false);
     settle();
     const Names order = tabOrder();
@@ -91,12 +91,12 @@ TEST_F(ControlsWindow, whatIsDisabledIsNeitherReachedNorPressed) {
     }
 }
 
-TEST_F(ControlsWindow, theTabKeyComesToEachOnceInItsOrder) {
+TEST_F(ControlsWindow, tabVisitsEachControlOnceInOrder) {
     EXPECT_EQ(tabOrder(), (Names{"Start", "Clean", "Later", "Refresh", "Show all", "Large Files, 12 GB, 40 items",
                                  "Delete permanently", "Days", "Light"}));
 }
 
-TEST_F(ControlsWindow, theRingIsShownWithTheKeyboardAlone) {
+TEST_F(ControlsWindow, showsFocusRingForKeyboardOnly) {
     EXPECT_EQ(rings(), 0);
     for (const char* object : {"primary", "secondary", "icon", "link", "card", "toggle", "stepper"}) {
         click(object);
@@ -114,7 +114,7 @@ TEST_F(ControlsWindow, theRingIsShownWithTheKeyboardAlone) {
     EXPECT_EQ(rings(), 1);
 }
 
-TEST_F(ControlsWindow, aToggleIsSwitchedByMouseSpaceAndReturn) {
+TEST_F(ControlsWindow, mouseSpaceAndReturnSwitchToggle) {
     const auto isOn = [&] { return find("toggle")->property("checked").toBool(); };
     click("toggle");
     EXPECT_TRUE(isOn());
@@ -127,7 +127,7 @@ TEST_F(ControlsWindow, aToggleIsSwitchedByMouseSpaceAndReturn) {
     EXPECT_EQ(told(), "toggle");
 }
 
-TEST_F(ControlsWindow, aToggleIsToldWithItsState) {
+TEST_F(ControlsWindow, toggleHasCheckBoxRoleAndState) {
     EXPECT_EQ(roleOf("toggle"), QAccessible::CheckBox);
     EXPECT_EQ(nameOf(find("toggle")), "Delete permanently");
     EXPECT_TRUE(stateOf(find("toggle")).checkable);
@@ -136,7 +136,7 @@ TEST_F(ControlsWindow, aToggleIsToldWithItsState) {
     EXPECT_TRUE(stateOf(find("toggle")).checked);
 }
 
-TEST_F(ControlsWindow, aScreenReaderSwitchesAToggleOnce) {
+TEST_F(ControlsWindow, accessibleActionsSwitchToggleOnce) {
     QAccessibleActionInterface* toggle = QAccessible::queryAccessibleInterface(find("toggle"))->actionInterface();
     ASSERT_TRUE(toggle->actionNames().contains(QAccessibleActionInterface::toggleAction()));
     toggle->doAction(QAccessibleActionInterface::toggleAction());
@@ -150,7 +150,7 @@ TEST_F(ControlsWindow, aScreenReaderSwitchesAToggleOnce) {
     EXPECT_FALSE(find("toggle")->property("checked").toBool());
 }
 
-TEST_F(ControlsWindow, aStepperIsSteppedByTheArrowsToItsEnds) {
+TEST_F(ControlsWindow, arrowsStepWithinRange) {
     give("stepper");
     for (int step = 0; step < 3; ++step) press(Qt::Key_Up);
     EXPECT_EQ(told(), "2 3");
@@ -158,7 +158,7 @@ TEST_F(ControlsWindow, aStepperIsSteppedByTheArrowsToItsEnds) {
     EXPECT_EQ(told(), "2 1 0");
 }
 
-TEST_F(ControlsWindow, aStepperIsSteppedByTheMouse) {
+TEST_F(ControlsWindow, stepperButtonsStepWithinRange) {
     const auto indicator = [&](const char* which) {
         QObject* side = find("stepper")->property(which).value<QObject*>();
         return side->property("indicator").value<QQuickItem*>();
@@ -171,7 +171,7 @@ TEST_F(ControlsWindow, aStepperIsSteppedByTheMouse) {
     EXPECT_EQ(told(), "1 0");
 }
 
-TEST_F(ControlsWindow, aStepperIsToldWithItsName) {
+TEST_F(ControlsWindow, stepperHasSpinBoxRoleAndName) {
     EXPECT_EQ(roleOf("stepper"), QAccessible::SpinBox);
     EXPECT_EQ(nameOf(find("stepper")), "Days");
     QAccessibleInterface* stepper = QAccessible::queryAccessibleInterface(find("stepper"));
@@ -179,7 +179,7 @@ TEST_F(ControlsWindow, aStepperIsToldWithItsName) {
     EXPECT_EQ(stepper->valueInterface()->currentValue().toInt(), 1);
 }
 
-TEST_F(ControlsWindow, aPickerIsPickedByTheArrowsAndStopsAtItsEnds) {
+TEST_F(ControlsWindow, arrowsPickSegmentsAndStopAtEnds) {
     segment("Light")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Right);
     EXPECT_EQ(told(), "picked2");
@@ -196,29 +196,29 @@ TEST_F(ControlsWindow, aPickerIsPickedByTheArrowsAndStopsAtItsEnds) {
     EXPECT_EQ(told(), "picked1");
 }
 
-TEST_F(ControlsWindow, aPickerIsPickedByTheMouseAndReachedWhereItIsPicked) {
+TEST_F(ControlsWindow, tabReachesThePickedSegment) {
     clickItem(segment("Dark"));
     EXPECT_EQ(told(), "picked2");
     find("start")->forceActiveFocus();
     press(Qt::Key_Backtab);
     EXPECT_EQ(focusName(), "Dark");
     press(Qt::Key_Space);
-    EXPECT_EQ(told(), "picked2") << "what is picked stays so";
+    EXPECT_EQ(told(), "picked2") << "picking again keeps it picked";
 }
 
-TEST_F(ControlsWindow, aPickersWordsAreToldAsOneChoice) {
+TEST_F(ControlsWindow, segmentsAreRadioButtons) {
     EXPECT_EQ(roleOf("picker"), QAccessible::Grouping);
     EXPECT_EQ(nameOf(find("picker")), "Theme");
     for (const char* name : {"System", "Light", "Dark"}) {
-        QQuickItem* word = segment(name);
-        ASSERT_NE(word, nullptr) << name;
-        EXPECT_EQ(QAccessible::queryAccessibleInterface(word)->role(), QAccessible::RadioButton);
-        EXPECT_TRUE(stateOf(word).checkable) << name;
-        EXPECT_EQ(stateOf(word).checked, name == std::string("Light")) << name;
+        QQuickItem* radio = segment(name);
+        ASSERT_NE(radio, nullptr) << name;
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(radio)->role(), QAccessible::RadioButton);
+        EXPECT_TRUE(stateOf(radio).checkable) << name;
+        EXPECT_EQ(stateOf(radio).checked, name == std::string("Light")) << name;
     }
 }
 
-TEST_F(ControlsWindow, checkedSegmentFollowsThePickAndNothingElse) {
+TEST_F(ControlsWindow, checkedSegmentFollowsCurrentIndex) {
     const auto checked = [this] {
         Names names;
         for (const char* name : {"System", "Light", "Dark"})
@@ -231,8 +231,8 @@ TEST_F(ControlsWindow, checkedSegmentFollowsThePickAndNothingElse) {
     EXPECT_EQ(checked(), Names{"Dark"}) << "pressed again";
     view().setProperty("picked", 0);
     settle();
-    EXPECT_EQ(checked(), Names{"System"}) << "picked by nobody's hand";
-    // The one who is asked may refuse.
+    EXPECT_EQ(checked(), Names{"System"}) << "set by the program";
+    // A picker whose owner ignores the pick keeps its segment.
     show(QStringLiteral("import Zelk.Controls\n"
                         "SegmentedPicker { label: \"Theme\"; options: [\"System\", \"Light\", \"Dark\"]; current: 0 }"),
          {300, 60});
@@ -240,13 +240,13 @@ TEST_F(ControlsWindow, checkedSegmentFollowsThePickAndNothingElse) {
     EXPECT_EQ(checked(), Names{"System"});
 }
 
-TEST_F(ControlsWindow, screenReaderPicksASegmentOnce) {
+TEST_F(ControlsWindow, pressActionPicksSegmentOnce) {
     QAccessibleActionInterface* dark = QAccessible::queryAccessibleInterface(segment("Dark"))->actionInterface();
     dark->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(told(), "picked2");
 }
 
-TEST_F(ControlsWindow, stepperTellsItsRangeAndIsSetByAScreenReader) {
+TEST_F(ControlsWindow, stepperExposesRangeAndAcceptsValue) {
     QAccessibleValueInterface* stepper = QAccessible::queryAccessibleInterface(find("stepper"))->valueInterface();
     EXPECT_EQ(stepper->minimumValue().toInt(), 0);
     EXPECT_EQ(stepper->maximumValue().toInt(), 3);
@@ -254,14 +254,14 @@ TEST_F(ControlsWindow, stepperTellsItsRangeAndIsSetByAScreenReader) {
     EXPECT_EQ(told(), "3");
 }
 
-TEST_F(ControlsWindow, aCardIsNeverNarrowerThan140) {
+TEST_F(ControlsWindow, cardIsAtLeast140Wide) {
     EXPECT_GE(find("card")->implicitWidth(), 140);
     for (const char* text : {"title", "value", "detail"}) find("card")->setProperty(text, QStringLiteral("1"));
     settle();
     EXPECT_EQ(find("card")->implicitWidth(), 140);
 }
 
-TEST_F(ControlsWindow, aCardRisesUnderThePointer) {
+TEST_F(ControlsWindow, hoverRaisesCard) {
     QQuickItem* ground = find("card")->property("background").value<QQuickItem*>();
     const auto shadow = [&] {
         settle();

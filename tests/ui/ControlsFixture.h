@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A window with one of each control of the house and a sheet; each tells what it is asked to do.
+// Shows one of each shared control and a sheet, and records what each of them signals.
 #pragma once
 
 #include <QKeyEvent>
@@ -135,7 +135,7 @@ protected:
         find("start")->forceActiveFocus();
     }
 
-    /// What was told since the last call.
+    /// Returns what the controls signalled since the last call, separated by blanks.
     std::string told() {
         const std::string text = view().property("told").toString().trimmed().toStdString();
         view().setProperty("told", QString());
@@ -145,7 +145,7 @@ protected:
         find(object)->forceActiveFocus(Qt::TabFocusReason);
         settle();
     }
-    /// The rings that are seen.
+    /// The number of visible focus rings.
     std::ptrdiff_t rings() {
         const std::vector<QQuickItem*> items = seen();
         return std::count_if(items.begin(), items.end(), [](const QQuickItem* item) {
@@ -156,7 +156,7 @@ protected:
         QKeyEvent event(type, key, Qt::NoModifier, {}, repeated);
         QCoreApplication::sendEvent(&window(), &event);
     }
-    /// Holds a key down until it has repeated itself three times, as the system tells it.
+    /// Holds a key until it has repeated three times, with the events that a window system sends.
     void hold(Qt::Key key) {
         sendKey(QEvent::KeyPress, key, false);
         for (int repeat = 0; repeat < 3; ++repeat) {

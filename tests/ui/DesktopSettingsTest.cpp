@@ -20,28 +20,28 @@ const DesktopKey factor{gnome, QStringLiteral("text-scaling-factor")};
 
 }  // namespace
 
-TEST(DesktopSettings, readBothSettingsOfMotion) {
+TEST(DesktopSettings, readsBothMotionSettings) {
     EXPECT_EQ(reducedMotionFrom(animations, true), false);
     EXPECT_EQ(reducedMotionFrom(animations, false), true);
     EXPECT_EQ(reducedMotionFrom(reduced, 1U), true);
     EXPECT_EQ(reducedMotionFrom(reduced, 0U), false);
 }
 
-TEST(DesktopSettings, readTheScheme) {
+TEST(DesktopSettings, readsColorScheme) {
     EXPECT_EQ(schemeFrom(scheme, 0U), DesktopScheme::untold);
     EXPECT_EQ(schemeFrom(scheme, 1U), DesktopScheme::dark);
     EXPECT_EQ(schemeFrom(scheme, 2U), DesktopScheme::light);
     EXPECT_EQ(schemeFrom(scheme, 3U), DesktopScheme::untold);
 }
 
-TEST(DesktopSettings, readTheSizeOfTexts) {
+TEST(DesktopSettings, readsTextScalingFactor) {
     EXPECT_EQ(textFactorFrom(factor, 1.25), 1.25);
     EXPECT_EQ(textFactorFrom(factor, 0.0), std::nullopt);
     EXPECT_EQ(textFactorFrom(factor, -1.0), std::nullopt);
     EXPECT_EQ(textFactorFrom(factor, std::numeric_limits<double>::quiet_NaN()), std::nullopt);
 }
 
-TEST(DesktopSettings, makeNothingOfAnythingElse) {
+TEST(DesktopSettings, rejectsUnknownKeysAndTypes) {
     const DesktopKey clock{gnome, QStringLiteral("clock-format")};
     EXPECT_EQ(reducedMotionFrom(animations, "no"), std::nullopt);
     EXPECT_EQ(reducedMotionFrom(reduced, true), std::nullopt);
@@ -53,23 +53,23 @@ TEST(DesktopSettings, makeNothingOfAnythingElse) {
     EXPECT_EQ(textFactorFrom(clock, 1.5), std::nullopt);
 }
 
-TEST(DesktopSettings, wantLessMotionWhereEitherSettingSaysSo) {
+TEST(DesktopSettings, reducesMotionIfEitherSettingAsksForIt) {
     DesktopSettings desktop;
-    std::vector<bool> said;
+    std::vector<bool> reported;
     QObject::connect(&desktop, &DesktopSettings::reducedMotionChanged, &desktop,
-                     [&] { said.push_back(desktop.reducedMotion()); });
+                     [&] { reported.push_back(desktop.reducedMotion()); });
     desktop.hear(reduced, 1U);
-    EXPECT_EQ(said, (std::vector<bool>{true}));
+    EXPECT_EQ(reported, (std::vector<bool>{true}));
     desktop.hear(animations, true);
-    EXPECT_EQ(said, (std::vector<bool>{true})) << "the last answer must not win";
+    EXPECT_EQ(reported, (std::vector<bool>{true})) << "the other setting still asks for it";
     desktop.hear(animations, false);
     desktop.hear(reduced, 0U);
-    EXPECT_EQ(said, (std::vector<bool>{true}));
+    EXPECT_EQ(reported, (std::vector<bool>{true}));
     desktop.hear(animations, true);
-    EXPECT_EQ(said, (std::vector<bool>{true, false}));
+    EXPECT_EQ(reported, (std::vector<bool>{true, false}));
 }
 
-TEST(DesktopSettings, sayAChangeOnceAndToWhomItConcerns) {
+TEST(DesktopSettings, signalsEachChangeOnce) {
     DesktopSettings desktop;
     int schemes = 0;
     int factors = 0;
