@@ -20,13 +20,13 @@ DeviceFace faceOf(const DeviceInfo& device, const std::optional<VolumeInfo>& vol
 
 }  // namespace
 
-TEST(DeviceHeader, tellsChipCoresMemoryAndSystemInThisOrder) {
+TEST(DeviceHeader, listsChipCoresMemoryAndSystemInOrder) {
     const DeviceFace face = faceOf(machine());
     EXPECT_EQ(face.name, QStringLiteral("Studio"));
     EXPECT_EQ(face.detail, QStringLiteral("Quad Core 9  ·  8 cores  ·  16 GB  ·  Linux 6.1"));
 }
 
-TEST(DeviceHeader, dropsWhatIsEmptyWithItsDots) {
+TEST(DeviceHeader, omitsEmptyPartsWithTheirSeparators) {
     DeviceInfo device = machine();
     device.chip.clear();
     EXPECT_EQ(faceOf(device).detail, QStringLiteral("8 cores  ·  16 GB  ·  Linux 6.1"));
@@ -36,7 +36,7 @@ TEST(DeviceHeader, dropsWhatIsEmptyWithItsDots) {
     EXPECT_EQ(faceOf(device).detail, QStringLiteral("Quad Core 9  ·  8 cores  ·  16 GB"));
 }
 
-TEST(DeviceHeader, roundsTheMemoryToWholeGigabytesOfTwoToTheThirty) {
+TEST(DeviceHeader, roundsMemoryToWholeGibibytes) {
     DeviceInfo device{"Studio", "", 1, 0, "", ""};
     const auto detailWith = [&](std::uint64_t bytes) {
         device.memoryBytes = bytes;
@@ -48,38 +48,38 @@ TEST(DeviceHeader, roundsTheMemoryToWholeGigabytesOfTwoToTheThirty) {
     EXPECT_EQ(detailWith(0), "1 cores  ·  0 GB");
 }
 
-TEST(DeviceHeader, tellsWhatIsFreeOfTheVolume) {
+TEST(DeviceHeader, showsFreeAndTotalOfVolume) {
     const DeviceFace face = faceOf(machine(), VolumeInfo{500'000'000'000, 123'456'000'000, 200'000'000'000});
     EXPECT_EQ(face.freeText, QStringLiteral("123.46 GB free"));
     EXPECT_EQ(face.totalText, QStringLiteral("of 500 GB"));
 }
 
-TEST(DeviceHeader, withoutAVolumeSaysNothingOfOne) {
+TEST(DeviceHeader, showsNoVolumeTextsWithoutVolume) {
     const DeviceFace face = faceOf(machine());
     EXPECT_EQ(face.freeText, QString());
     EXPECT_EQ(face.freeText, QString());
     EXPECT_EQ(face.totalText, QString());
 }
 
-TEST(DeviceHeader, aFullVolumeShowsANumberAndAUnitAndNotAWord) {
+TEST(DeviceHeader, fullVolumeShowsZeroBytes) {
     EXPECT_EQ(faceOf(machine(), VolumeInfo{1000, 0, 0}).freeText, QStringLiteral("0 bytes free"));
     EXPECT_EQ(faceOf(machine(), VolumeInfo{0, -5, 0}).freeText, QStringLiteral("0 bytes free"));
 }
 
-TEST(DeviceHeader, knowsAThousandTerabytes) {
+TEST(DeviceHeader, showsPetabytes) {
     const DeviceFace face = faceOf(machine(), VolumeInfo{1'000'000'000'000'000, 999'999'999'999'999, 0});
     EXPECT_EQ(face.totalText, QStringLiteral("of 1 PB"));
     EXPECT_EQ(face.freeText, QStringLiteral("1 PB free"));
 }
 
-TEST(DeviceHeader, writesItsFiguresInTheUsersLanguage) {
+TEST(DeviceHeader, formatsNumbersInUserLocale) {
     const DeviceFace face =
         DeviceFace::of(machine(), VolumeInfo{1'500'000'000, 1'250'000'000, 0}, QLocale(QLocale::German));
     EXPECT_EQ(face.freeText, QStringLiteral("1,25 GB free"));
     EXPECT_EQ(face.totalText, QStringLiteral("of 1,5 GB"));
 }
 
-TEST(DeviceHeader, repairsANameThatIsNoText) {
+TEST(DeviceHeader, repairsInvalidComputerName) {
     DeviceInfo device = machine();
     device.computerName = "caf\xe9\n";
     EXPECT_EQ(faceOf(device).name, QString::fromUtf8("caf\xef\xbf\xbd\xe2\x90\x8a"));

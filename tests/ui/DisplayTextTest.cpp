@@ -22,7 +22,7 @@ QString letters(int count) {
 
 }  // namespace
 
-TEST(DisplayText, leavesOrdinaryNamesAlone) {
+TEST(DisplayText, keepsOrdinaryNames) {
     EXPECT_EQ(shown("/home/me/Ünïcødé 日本.txt"), "/home/me/Ünïcødé 日本.txt");
     EXPECT_EQ(shown(""), "");
 }
@@ -36,32 +36,32 @@ TEST(DisplayText, showsControlCharactersAsMarks) {
     EXPECT_EQ(shown("a\nb\tc\x1B[31m"), "a␊b␉c␛[31m");
     EXPECT_EQ(shown(std::string_view("\0", 1)), "␀");
     EXPECT_EQ(shown("\x7F"), "␡");
-    EXPECT_EQ(shown("\xC2\x85"), "\uFFFD") << "a control character beyond ASCII";
+    EXPECT_EQ(shown("\xC2\x85"), "\uFFFD") << "a C1 control character";
 }
 
-TEST(DisplayText, letsNoNameBreakItsLineOrTurnItsDirection) {
+TEST(DisplayText, replacesLineBreaksAndDirectionMarks) {
     EXPECT_EQ(shown("a\u2028b\u2029c"), "a\uFFFDb\uFFFDc");
     EXPECT_EQ(shown("gpj.\u202Etxt"), "gpj.\uFFFDtxt");
     EXPECT_EQ(shown("\u2066x\u2069\u200F"), "\uFFFDx\uFFFD\uFFFD");
 }
 
-TEST(ByteFigure, hasTheSeparatorOfTheLocale) {
+TEST(ByteFigure, usesDecimalSeparatorOfLocale) {
     EXPECT_EQ(byteFigure(12'345'678'987, american), QStringLiteral("12.35 GB"));
     EXPECT_EQ(byteFigure(12'345'678'987, german), QStringLiteral("12,35 GB"));
 }
 
-TEST(ByteFigure, ofZeroIsANumberAndAUnit) {
+TEST(ByteFigure, showsZeroAsNumberAndUnit) {
     EXPECT_EQ(byteFigure(0, american), QStringLiteral("0 bytes"));
     EXPECT_EQ(byteFigure(-5, american), QStringLiteral("0 bytes"));
 }
 
-TEST(GroupedFigure, hasTheGroupsOfTheLocale) {
+TEST(GroupedFigure, usesGroupSeparatorOfLocale) {
     EXPECT_EQ(groupedFigure(1'234'567, american), QStringLiteral("1,234,567"));
     EXPECT_EQ(groupedFigure(1'234'567, german), QStringLiteral("1.234.567"));
     EXPECT_EQ(groupedFigure(999, american), QStringLiteral("999"));
 }
 
-TEST(UserLocale, isAmericanEnglishWhereTheUserHasNone) {
+TEST(UserLocale, defaultsToAmericanEnglish) {
     const QLocale before;
     QLocale::setDefault(QLocale::c());
     EXPECT_EQ(groupedFigure(20'000), QStringLiteral("20,000"));
@@ -70,17 +70,17 @@ TEST(UserLocale, isAmericanEnglishWhereTheUserHasNone) {
     QLocale::setDefault(before);
 }
 
-TEST(ShortenedPath, of56CharactersIsWhole) {
+TEST(ShortenedPath, keeps56Characters) {
     EXPECT_EQ(shortenedPath(letters(56)), letters(56));
 }
 
-TEST(ShortenedPath, of57CharactersIsAnEllipsisAndTheLast55) {
+TEST(ShortenedPath, shortensLongerPathToEllipsisAndLast55) {
     EXPECT_EQ(shortenedPath(u'x' + letters(56)), QStringLiteral("…") + letters(55));
     const QString path = QStringLiteral("/home/somebody/") + letters(30) + QStringLiteral("/and/further/down/there");
     EXPECT_EQ(shortenedPath(path), QStringLiteral("…") + path.right(55));
 }
 
-TEST(ShortenedPath, countsWhatAReaderTakesForACharacter) {
+TEST(ShortenedPath, countsGraphemeClusters) {
     const QString family = QStringLiteral("👩‍👩‍👧");  // five code points, one character
     EXPECT_EQ(shortenedPath(family + letters(55)), family + letters(55));
     EXPECT_EQ(shortenedPath(u'x' + family + letters(55)), QStringLiteral("…") + letters(55));

@@ -17,7 +17,7 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::UnorderedElementsAre;
 
-class DryRun : public testing::Test {
+class DryRunModelTest : public testing::Test {
 protected:
     Reclaimable item(const std::string& path, std::uint64_t size) {
         machine.files.addFile(path, {}, size);
@@ -28,7 +28,7 @@ protected:
         one.method = ReclaimMethod::command("/usr/bin/env", {"npm", "cache", "clean", "--force"});
         return one;
     }
-    /// 50 MB and 30 MB to the Trash, 20 MB by a tool.
+    /// Two items for the Trash, 50 MB and 30 MB, and one of 20 MB that a command removes.
     std::vector<Reclaimable> three() {
         return {item("/home/me/a/yarn", 50'000'000), command("/home/me/.npm/_cacache", 20'000'000),
                 item("/home/me/b/pods", 30'000'000)};
@@ -66,12 +66,12 @@ private:
 
 }  // namespace
 
-TEST_F(DryRun, asksToEmptyTheTrash) {
+TEST_F(DryRunModelTest, offersToEmptyTheTrash) {
     open(three());
     EXPECT_EQ(sheet().emptyLabel().toStdString(), "Empty Trash & free space");
 }
 
-TEST_F(DryRun, tellsWhatWouldGoFromTheItemsAlone) {
+TEST_F(DryRunModelTest, summarizesItemsWithoutTouchingTheDisk) {
     const std::vector<Reclaimable> items = three();
     machine.files.forgetCalls();
     open(items);
@@ -84,7 +84,7 @@ TEST_F(DryRun, tellsWhatWouldGoFromTheItemsAlone) {
     EXPECT_TRUE(sheet().confirmable());
 }
 
-TEST_F(DryRun, aRowPerItemInTheirOrder) {
+TEST_F(DryRunModelTest, listsOneRowPerItemInOrder) {
     open(three());
     using Rows = DryRunRows;
     EXPECT_EQ(text(0, Rows::symbolRole), "trash");
@@ -102,7 +102,7 @@ TEST_F(DryRun, aRowPerItemInTheirOrder) {
     EXPECT_EQ(sheet().rows()->rowCount(sheet().rows()->index(0)), 0);
 }
 
-TEST_F(DryRun, withoutItemsItShowsItsLineAndConfirmsNothing) {
+TEST_F(DryRunModelTest, emptyReviewCannotBeConfirmed) {
     open({});
     EXPECT_EQ(sheet().line().toStdString(), "0 to Trash · 0 via command · 0 bytes to recover");
     EXPECT_EQ(sheet().confirmLabel().toStdString(), "Move 0 bytes to Trash");
@@ -114,7 +114,7 @@ TEST_F(DryRun, withoutItemsItShowsItsLineAndConfirmsNothing) {
     EXPECT_THAT(events, ElementsAre("dismiss"));
 }
 
-TEST_F(DryRun, theSwitchIsOffAtFirstAndChangesTheConfirmLabel) {
+TEST_F(DryRunModelTest, hardDeleteIsOffAndChangesConfirmLabel) {
     open(three());
     int changes = 0;
     QObject::connect(&sheet(), &DryRunModel::hardDeleteChanged, &sheet(), [&] { ++changes; });
@@ -128,7 +128,7 @@ TEST_F(DryRun, theSwitchIsOffAtFirstAndChangesTheConfirmLabel) {
     EXPECT_EQ(sheet().confirmLabel().toStdString(), "Move 100 MB to Trash");
 }
 
-TEST_F(DryRun, cancelLeavesWithNothingDone) {
+TEST_F(DryRunModelTest, cancelDismissesWithoutRemoving) {
     open(three());
     sheet().cancel();
     EXPECT_THAT(events, ElementsAre("dismiss"));
@@ -136,14 +136,14 @@ TEST_F(DryRun, cancelLeavesWithNothingDone) {
     EXPECT_THAT(machine.processes.calls(), IsEmpty());
 }
 
-TEST_F(DryRun, closingTheReviewCancelsIt) {
+TEST_F(DryRunModelTest, closingReviewCancels) {
     open(three());
     sheet().close();
     EXPECT_THAT(events, ElementsAre("dismiss"));
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
 }
 
-TEST_F(DryRun, aPressOnASheetThatWasLeftDoesNothing) {
+TEST_F(DryRunModelTest, ignoresActionsAfterDismissal) {
     open(three());
     sheet().cancel();
     sheet().confirm();
@@ -154,7 +154,7 @@ TEST_F(DryRun, aPressOnASheetThatWasLeftDoesNothing) {
     EXPECT_THAT(events, ElementsAre("dismiss"));
 }
 
-TEST_F(DryRun, theTrashIsNotEmptiedOnceItWasKept) {
+TEST_F(DryRunModelTest, emptyTrashIsIgnoredAfterFinish) {
     machine.trash.put("old.zip", 5);
     open(three());
     cleanNow();
@@ -164,7 +164,7 @@ TEST_F(DryRun, theTrashIsNotEmptiedOnceItWasKept) {
     EXPECT_THAT(machine.files.list(machine.trash.path).value(), Contains("old.zip"));
 }
 
-TEST_F(DryRun, dismissingMayEndIt) {
+TEST_F(DryRunModelTest, dismissHandlerMayDestroyModel) {
     for (const bool cleaned : {false, true}) {
         std::unique_ptr<DryRunModel> sheet;
         sheet = std::make_unique<DryRunModel>(cleanup, three(), machine.platform(),
@@ -184,7 +184,7 @@ TEST_F(DryRun, dismissingMayEndIt) {
     EXPECT_THAT(events, ElementsAre("dismiss", "dismiss", "rescan"));
 }
 
-TEST_F(DryRun, neitherEmptiesNorFinishesBeforeACleaning) {
+TEST_F(DryRunModelTest, ignoresEmptyTrashAndFinishBeforeCleaning) {
     open(three());
     EXPECT_FALSE(sheet().emptyable());
     sheet().emptyTrash();
@@ -193,7 +193,7 @@ TEST_F(DryRun, neitherEmptiesNorFinishesBeforeACleaning) {
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(DryRun, whileItCleansNothingElseCanBeDone) {
+TEST_F(DryRunModelTest, ignoresActionsWhileCleaning) {
     open(three());
     machine.tasks.hold();
     sheet().confirm();
@@ -213,11 +213,11 @@ TEST_F(DryRun, whileItCleansNothingElseCanBeDone) {
     machine.tasks.release();
     runUntil([&] { return sheet().isDone(); });
     EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre("/home/me/a/yarn", "/home/me/b/pods"));
-    EXPECT_EQ(machine.processes.calls().size(), 1U);  // once each
+    EXPECT_EQ(machine.processes.calls().size(), 1U);  // no second run
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(DryRun, tellsWhatWentAndThatTheSpaceIsNotFreeYet) {
+TEST_F(DryRunModelTest, resultAdvisesToEmptyTheTrash) {
     open(three());
     cleanNow();
     EXPECT_EQ(sheet().heading().toStdString(), "Moved to the Trash");
@@ -230,7 +230,7 @@ TEST_F(DryRun, tellsWhatWentAndThatTheSpaceIsNotFreeYet) {
     EXPECT_FALSE(sheet().confirmable());
 }
 
-TEST_F(DryRun, aSecondConfirmBehindACleaningDoesNothing) {
+TEST_F(DryRunModelTest, ignoresConfirmAfterCleaning) {
     open(three());
     cleanNow();
     sheet().confirm();
@@ -242,20 +242,20 @@ TEST_F(DryRun, aSecondConfirmBehindACleaningDoesNothing) {
     EXPECT_FALSE(sheet().hardDelete());
 }
 
-TEST_F(DryRun, oneItemIsOneItem) {
+TEST_F(DryRunModelTest, usesSingularForOneItem) {
     open({item("/home/me/a", 1'000'000)});
     cleanNow();
     EXPECT_EQ(sheet().result().toStdString(), "1 MB · 1 item");
 }
 
-TEST_F(DryRun, whatFailedIsToldAsSkipped) {
+TEST_F(DryRunModelTest, countsFailedItemsAsSkipped) {
     machine.files.failing = [](const auto& call) { return call.path == "/home/me/a/yarn"; };
     open(three());
     cleanNow();
     EXPECT_EQ(sheet().result().toStdString(), "50 MB · 2 items · 1 skipped");
 }
 
-TEST_F(DryRun, tellsEachSkippedItemWithItsReason) {
+TEST_F(DryRunModelTest, listsSkippedItemsWithReasons) {
     machine.files.failing = [](const auto& call) { return call.path == "/home/me/a/yarn"; };
     open(three());
     EXPECT_TRUE(sheet().skipped().isEmpty());
@@ -272,7 +272,7 @@ TEST_F(DryRun, tellsEachSkippedItemWithItsReason) {
     EXPECT_FALSE(skipped.value("reason").toString().isEmpty());
 }
 
-TEST_F(DryRun, aToolThatFailsIsToldAsSkipped) {
+TEST_F(DryRunModelTest, countsFailedCommandAsSkipped) {
     machine.processes.outcome = [](const auto&) {
         ChildOutcome outcome;
         outcome.exitStatus = 127;
@@ -283,7 +283,7 @@ TEST_F(DryRun, aToolThatFailsIsToldAsSkipped) {
     EXPECT_EQ(sheet().result().toStdString(), "80 MB · 2 items · 1 skipped");
 }
 
-TEST_F(DryRun, whereAllFailedItTellsOfNothingAndTheirNumber) {
+TEST_F(DryRunModelTest, reportsZeroBytesIfAllFailed) {
     machine.files.failing = [](const auto&) { return true; };
     open({item("/home/me/a", 10), item("/home/me/b", 20)});
     cleanNow();
@@ -291,21 +291,21 @@ TEST_F(DryRun, whereAllFailedItTellsOfNothingAndTheirNumber) {
     EXPECT_EQ(sheet().heading().toStdString(), "Moved to the Trash");
 }
 
-TEST_F(DryRun, itemsWithoutBytesAreNotCounted) {
+TEST_F(DryRunModelTest, doesNotCountEmptyItems) {
     open({item("/home/me/a", 0), item("/home/me/b", 1), command("/home/me/c", 0)});
     cleanNow();
     EXPECT_EQ(sheet().result().toStdString(), "1 byte · 1 item");
     EXPECT_THAT(machine.trash.trashed(), UnorderedElementsAre("/home/me/a", "/home/me/b"));
 }
 
-TEST_F(DryRun, aFailureWithoutBytesIsStillSkipped) {
+TEST_F(DryRunModelTest, countsEmptyFailedItemAsSkipped) {
     machine.files.failing = [](const auto& call) { return call.path == "/home/me/a"; };
     open({item("/home/me/a", 0), item("/home/me/b", 2'000)});
     cleanNow();
     EXPECT_EQ(sheet().result().toStdString(), "2 KB · 1 item · 1 skipped");
 }
 
-TEST_F(DryRun, permanentlyNothingGoesToTheTrashAndTheTextsStay) {
+TEST_F(DryRunModelTest, hardDeleteBypassesTrashWithSameTexts) {
     open(three());
     sheet().setHardDelete(true);
     cleanNow();
@@ -317,7 +317,7 @@ TEST_F(DryRun, permanentlyNothingGoesToTheTrashAndTheTextsStay) {
     EXPECT_THAT(sheet().advice().toStdString(), HasSubstr("Items were moved to the Trash"));
 }
 
-TEST_F(DryRun, keepingTheTrashLeavesAndRescansOnce) {
+TEST_F(DryRunModelTest, finishDismissesAndRescansOnce) {
     open(three());
     cleanNow();
     sheet().finish();
@@ -327,14 +327,14 @@ TEST_F(DryRun, keepingTheTrashLeavesAndRescansOnce) {
     EXPECT_THAT(events, ElementsAre("dismiss", "rescan"));
 }
 
-TEST_F(DryRun, closingBehindACleaningRescansToo) {
+TEST_F(DryRunModelTest, closingAfterCleaningRescans) {
     open(three());
     cleanNow();
     sheet().close();
     EXPECT_THAT(events, ElementsAre("dismiss", "rescan"));
 }
 
-TEST_F(DryRun, emptyingTheTrashFreesTheSpace) {
+TEST_F(DryRunModelTest, emptiesTheTrash) {
     open(three());
     cleanNow();
     machine.tasks.hold();
@@ -361,7 +361,7 @@ TEST_F(DryRun, emptyingTheTrashFreesTheSpace) {
     EXPECT_THAT(events, ElementsAre("dismiss", "rescan"));
 }
 
-TEST_F(DryRun, emptyingThatFailsSaysTheSame) {
+TEST_F(DryRunModelTest, failedEmptyingShowsSameResult) {
     machine.files.failing = [](const auto& call) { return call.operation == "remove"; };
     open(three());
     cleanNow();
@@ -372,7 +372,7 @@ TEST_F(DryRun, emptyingThatFailsSaysTheSame) {
     EXPECT_EQ(sheet().advice().toStdString(), "The Trash was emptied. Your free space is now updated.");
 }
 
-TEST_F(DryRun, emptyingATrashThatCannotBeReadSaysTheSame) {
+TEST_F(DryRunModelTest, emptyingUnreadableTrashShowsSameResult) {
     open(three());
     cleanNow();
     machine.trash.setAccessible(false);
@@ -381,7 +381,7 @@ TEST_F(DryRun, emptyingATrashThatCannotBeReadSaysTheSame) {
     EXPECT_FALSE(sheet().emptyable());
 }
 
-TEST_F(DryRun, theTrashIsEmptiedOnce) {
+TEST_F(DryRunModelTest, emptiesTheTrashOnlyOnce) {
     open(three());
     cleanNow();
     emptyNow();
@@ -392,21 +392,21 @@ TEST_F(DryRun, theTrashIsEmptiedOnce) {
     EXPECT_THAT(machine.files.list(machine.trash.path).value(), Contains("later"));
 }
 
-TEST_F(DryRun, everyChangeOfPhaseIsSignalled) {
+TEST_F(DryRunModelTest, signalsEveryPhaseChange) {
     open(three());
-    std::vector<std::string> seen;
+    std::vector<std::string> phases;
     QObject::connect(&sheet(), &DryRunModel::phaseChanged, &sheet(), [&] {
         std::string now = sheet().isReview() ? "review" : sheet().isCleaning() ? "cleaning" : "done";
         if (sheet().emptyingTrash()) now += " emptying";
         if (sheet().trashEmptied()) now += " emptied";
-        seen.push_back(now);
+        phases.push_back(now);
     });
     cleanNow();
     emptyNow();
-    EXPECT_THAT(seen, ElementsAre("cleaning", "done", "done emptying", "done emptied"));
+    EXPECT_THAT(phases, ElementsAre("cleaning", "done", "done emptying", "done emptied"));
 }
 
-TEST_F(DryRun, itMayGoWhileItCleans) {
+TEST_F(DryRunModelTest, mayBeDestroyedWhileCleaning) {
     open(three());
     machine.tasks.hold();
     sheet().confirm();
@@ -417,7 +417,7 @@ TEST_F(DryRun, itMayGoWhileItCleans) {
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(DryRun, aSheetThatOpensMeanwhileDoesNotTakeAnothersCleaningForItsOwn) {
+TEST_F(DryRunModelTest, ignoresCleaningOfAnotherSheet) {
     open(three());
     machine.tasks.hold();
     sheet().confirm();
@@ -430,7 +430,7 @@ TEST_F(DryRun, aSheetThatOpensMeanwhileDoesNotTakeAnothersCleaningForItsOwn) {
     EXPECT_EQ(sheet().result().toStdString(), "7 bytes · 1 item");
 }
 
-TEST_F(DryRun, itMayGoWhileTheTrashIsEmptied) {
+TEST_F(DryRunModelTest, mayBeDestroyedWhileEmptying) {
     open(three());
     cleanNow();
     machine.tasks.hold();
@@ -442,7 +442,7 @@ TEST_F(DryRun, itMayGoWhileTheTrashIsEmptied) {
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(DryRun, hostileNamesAreShownRepaired) {
+TEST_F(DryRunModelTest, showsHostileNamesRepaired) {
     open({item("/home/me/a\nb/c\xFF", 10)});
     EXPECT_THAT(text(0, DryRunRows::folderRole), Not(HasSubstr("\n")));
     EXPECT_THAT(text(0, DryRunRows::nameRole), HasSubstr("\xEF\xBF\xBD"));
@@ -450,19 +450,19 @@ TEST_F(DryRun, hostileNamesAreShownRepaired) {
     EXPECT_THAT(machine.trash.trashed(), ElementsAre("/home/me/a\nb/c\xFF"));
 }
 
-TEST_F(DryRun, tellsHowManyOfHowManyAreDone) {
+TEST_F(DryRunModelTest, reportsProgress) {
     DryRunModel& sheet = open(three());
     EXPECT_EQ(sheet.share(), 0);
     EXPECT_EQ(sheet.progress(), QString());
-    int told = 0;
-    QObject::connect(&sheet, &DryRunModel::progressChanged, &sheet, [&] { ++told; });
+    int changes = 0;
+    QObject::connect(&sheet, &DryRunModel::progressChanged, &sheet, [&] { ++changes; });
     machine.tasks.hold();
     sheet.confirm();
-    EXPECT_EQ(told, 1) << "what was told of an earlier one is over";
+    EXPECT_EQ(changes, 1) << "the progress is reset";
     EXPECT_EQ(sheet.share(), 0);
     EXPECT_EQ(sheet.progress(), QStringLiteral("0 of 3"));
     for (int run = 0; run < 3; ++run) machine.tasks.runNext();
-    runUntil([&] { return told == 2; });
+    runUntil([&] { return changes == 2; });
     EXPECT_DOUBLE_EQ(sheet.share(), 2 / 3.0);
     EXPECT_EQ(sheet.progress(), QStringLiteral("2 of 3"));
     machine.tasks.release();
@@ -470,7 +470,7 @@ TEST_F(DryRun, tellsHowManyOfHowManyAreDone) {
     EXPECT_EQ(sheet.progress(), QString());
 }
 
-TEST_F(DryRun, theTrashIsAmongTheRemovalsWhileItIsEmptied) {
+TEST_F(DryRunModelTest, emptyingIsARemovalUnderWay) {
     open(three());
     cleanNow();
     runUntil([&] { return !removals.underWay(); });
@@ -481,7 +481,7 @@ TEST_F(DryRun, theTrashIsAmongTheRemovalsWhileItIsEmptied) {
     runUntil([&] { return !removals.underWay(); });
 }
 
-TEST_F(DryRun, aTrashThatIsStoppedInTimeIsNotEmptied) {
+TEST_F(DryRunModelTest, stopBeforeEmptyingKeepsTheTrash) {
     machine.trash.put("old.zip", 7);
     open({item("/home/me/a/yarn", 5)});
     cleanNow();

@@ -19,23 +19,23 @@ bool hasDefault(int signal) {
 
 }  // namespace
 
-TEST(EndSignals, areToldOnceEachFromTheEventLoop) {
+TEST(EndSignals, callsHandlerOnceFromEventLoop) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         int asked = 0;
-        const EndSignals heard([&] { ++asked; });
+        const EndSignals endSignals([&] { ++asked; });
         ::raise(signal);
         EXPECT_EQ(asked, 0);
         runUntil([&] { return asked > 0; });
         runWhatIsThere();
         EXPECT_EQ(asked, 1);
-        EXPECT_TRUE(hasDefault(signal)) << "who asks twice means it";
+        EXPECT_TRUE(hasDefault(signal)) << "a second signal ends the process";
     }
 }
 
-TEST(EndSignals, areLeftAsTheyWereFound) {
+TEST(EndSignals, restoresDefaultHandlers) {
     const auto open = fakes::openDescriptors();
     {
-        const EndSignals heard([] {});
+        const EndSignals endSignals([] {});
         for (const int signal : {SIGTERM, SIGINT, SIGHUP}) EXPECT_FALSE(hasDefault(signal));
     }
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) EXPECT_TRUE(hasDefault(signal));

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// The note on a place as the screen has it: its texts and the colour of its grade.
 #include "ui/screens/explanation/ExplanationModel.h"
 
 #include <gtest/gtest.h>
@@ -12,14 +11,14 @@ namespace {
 
 const std::string home = "/home/me";
 
-class Explanation : public testing::Test {
+class ExplanationModelTest : public testing::Test {
 protected:
     ExplanationModel note{home};
 };
 
 }  // namespace
 
-TEST_F(Explanation, isClosedUntilItIsAskedFor) {
+TEST_F(ExplanationModelTest, isShownBetweenOpenAndClose) {
     EXPECT_FALSE(note.shown());
     QSignalSpy changed(&note, &ExplanationModel::changed);
     note.open("/x/node_modules");
@@ -27,12 +26,12 @@ TEST_F(Explanation, isClosedUntilItIsAskedFor) {
     EXPECT_EQ(changed.size(), 1);
     note.close();
     EXPECT_FALSE(note.shown());
-    EXPECT_EQ(note.title(), QStringLiteral("node_modules")) << "it is still read while the sheet goes";
+    EXPECT_EQ(note.title(), QStringLiteral("node_modules")) << "the sheet still shows it while it closes";
     note.close();
     EXPECT_EQ(changed.size(), 2);
 }
 
-TEST_F(Explanation, tellsWhatAPlaceIs) {
+TEST_F(ExplanationModelTest, explainsAPath) {
     note.open(home + "/projects/site/node_modules");
     EXPECT_EQ(note.title(), QStringLiteral("node_modules"));
     EXPECT_EQ(note.path(), QStringLiteral("/home/me/projects/site/node_modules"));
@@ -42,7 +41,7 @@ TEST_F(Explanation, tellsWhatAPlaceIs) {
                                             "with npm/pnpm/yarn install when you next work on it."));
 }
 
-TEST_F(Explanation, aGradeHasItsWordAndItsColourInBothThemes) {
+TEST_F(ExplanationModelTest, gradesHaveABadgeAndATintInBothThemes) {
     struct Case {
         const char* path;
         const char* badge;
@@ -61,7 +60,7 @@ TEST_F(Explanation, aGradeHasItsWordAndItsColourInBothThemes) {
     }
 }
 
-TEST_F(Explanation, theThemeIsToldOnce) {
+TEST_F(ExplanationModelTest, signalsThemeChangeOnce) {
     QSignalSpy changed(&note, &ExplanationModel::changed);
     note.setTheme(ZelkTheme::dark());
     EXPECT_EQ(changed.size(), 0);
@@ -69,7 +68,7 @@ TEST_F(Explanation, theThemeIsToldOnce) {
     EXPECT_EQ(changed.size(), 1);
 }
 
-TEST_F(Explanation, aSafePlaceMayRegenerateToo) {
+TEST_F(ExplanationModelTest, safePathMayAlsoRegenerate) {
     note.open("/x/__pycache__");
     EXPECT_EQ(note.title(), QStringLiteral("Python __pycache__"));
     EXPECT_TRUE(note.regenerates());
@@ -77,7 +76,7 @@ TEST_F(Explanation, aSafePlaceMayRegenerateToo) {
     EXPECT_FALSE(note.regenerates());
 }
 
-TEST_F(Explanation, knowsThePersonsOwnFolders) {
+TEST_F(ExplanationModelTest, explainsFoldersOfThisHomeOnly) {
     note.open(home + "/Downloads");
     EXPECT_EQ(note.title(), QStringLiteral("Downloads"));
     EXPECT_EQ(note.detail(), QStringLiteral("Files you've downloaded. Often safe to clean out, but check for anything "
@@ -87,13 +86,13 @@ TEST_F(Explanation, knowsThePersonsOwnFolders) {
                                             "before deleting, and prefer moving to Trash."));
 }
 
-TEST_F(Explanation, aPathThatNobodyCouldReadIsShownAllTheSame) {
+TEST_F(ExplanationModelTest, showsInvalidPathRepaired) {
     note.open("/x/odd\n\xff");
     EXPECT_EQ(note.title(), QStringLiteral("odd\u240a\ufffd"));
     EXPECT_EQ(note.path(), QStringLiteral("/x/odd\u240a\ufffd"));
 }
 
-TEST_F(Explanation, noPathIsThisItem) {
+TEST_F(ExplanationModelTest, emptyPathIsThisItem) {
     note.open("");
     EXPECT_EQ(note.title(), QStringLiteral("This item"));
     EXPECT_EQ(note.path(), QString());

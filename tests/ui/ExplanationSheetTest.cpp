@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// The sheet with the note on a place.
 #include "ViewFixture.h"
 #include "ui/screens/explanation/ExplanationModel.h"
 
@@ -7,9 +6,9 @@ namespace zelk {
 
 namespace {
 
-class ExplanationWindow : public ViewFixture {
+class ExplanationSheetTest : public ViewFixture {
 protected:
-    ~ExplanationWindow() override { close(); }
+    ~ExplanationSheetTest() override { close(); }
 
     void open(const std::string& path, QSize size = {960, 620}) {
         show(QStringLiteral("import QtQuick\nimport Zelk.App\nItem { id: top; required property "
@@ -25,7 +24,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ExplanationWindow, showsTheNote) {
+TEST_F(ExplanationSheetTest, showsNote) {
     open("/home/me/site/.next");
     EXPECT_EQ(text("explanationTitle"), ".next");
     EXPECT_EQ(text("explanationPath"), "/home/me/site/.next");
@@ -37,13 +36,13 @@ TEST_F(ExplanationWindow, showsTheNote) {
     EXPECT_EQ(text("explanationDone"), "Done");
 }
 
-TEST_F(ExplanationWindow, theSecondTagIsThereOnlyWhereSomethingComesBack) {
+TEST_F(ExplanationSheetTest, showsRegeneratesTagOnlyIfItRegenerates) {
     open("/home/me/site/.git");
     EXPECT_EQ(text("explanationBadge"), "review");
     EXPECT_EQ(find("explanationRegenerates"), nullptr);
 }
 
-TEST_F(ExplanationWindow, escapeAndDoneAndReturnClose) {
+TEST_F(ExplanationSheetTest, escapeDoneAndReturnClose) {
     open("/home/me/site/.git");
     press(Qt::Key_Escape);
     EXPECT_FALSE(note.shown());
@@ -59,7 +58,7 @@ TEST_F(ExplanationWindow, escapeAndDoneAndReturnClose) {
     EXPECT_EQ(find("explanationDone"), nullptr);
 }
 
-TEST_F(ExplanationWindow, aLongPathIsOneLineCutInTheMiddle) {
+TEST_F(ExplanationSheetTest, elidesLongPathInTheMiddle) {
     const std::string name(200, 'n');
     open("/home/me/" + name + "/" + name);
     QQuickItem* path = find("explanationPath");
@@ -72,7 +71,7 @@ TEST_F(ExplanationWindow, aLongPathIsOneLineCutInTheMiddle) {
     EXPECT_TRUE(QRectF(0, 0, 960, 620).contains(done));
 }
 
-TEST_F(ExplanationWindow, itsPartsStandTenApart) {
+TEST_F(ExplanationSheetTest, spacesPartsBy10) {
     open("/home/me/site/.next");
     const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
     EXPECT_EQ(box("explanationBadge").top() - box("explanationPath").bottom(), 10);
@@ -80,7 +79,7 @@ TEST_F(ExplanationWindow, itsPartsStandTenApart) {
     EXPECT_EQ(box("explanationDone").top() - box("explanationDetail").bottom(), 10);
 }
 
-TEST_F(ExplanationWindow, nothingIsClippedInLargeText) {
+TEST_F(ExplanationSheetTest, clipsNothingInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     open("/home/me/Library/Containers/app");
     for (const char* name : {"explanationTitle", "explanationDetail"}) {

@@ -11,10 +11,10 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Two points above two others.
+/// Two by two pixels, in rows from the top.
 const IconPixels four{2, {0xffff0000, 0xff00ff00, 0xff0000ff, 0x80808080}};
 
-TEST(FileIcons, showTheDesktopsPicturePointByPoint) {
+TEST(FileIcons, copiesIconOfTheDesktop) {
     fakes::FakeWorkspace workspace;
     workspace.icons["/a"] = four;
     FileIcons icons(workspace);
@@ -26,7 +26,7 @@ TEST(FileIcons, showTheDesktopsPicturePointByPoint) {
     EXPECT_EQ(image.pixelColor(1, 1), QColor(255, 255, 255, 128));
 }
 
-TEST(FileIcons, areOurOwnSymbolsWhereTheDesktopHasNone) {
+TEST(FileIcons, fallsBackToSymbols) {
     fakes::FakeWorkspace workspace;
     FileIcons icons(workspace);
     const ZelkTheme& dark = ZelkTheme::dark();
@@ -34,7 +34,7 @@ TEST(FileIcons, areOurOwnSymbolsWhereTheDesktopHasNone) {
     EXPECT_EQ(icons.image("/a", false, 24), tintedSymbol("doc", dark.inkSoft, 24));
 }
 
-TEST(FileIcons, followTheThemeInOurOwnSymbols) {
+TEST(FileIcons, fallbackSymbolsFollowTheme) {
     fakes::FakeWorkspace workspace;
     FileIcons icons(workspace);
     icons.image("/a", false, 24);
@@ -42,7 +42,7 @@ TEST(FileIcons, followTheThemeInOurOwnSymbols) {
     EXPECT_EQ(icons.image("/a", false, 24), tintedSymbol("doc", ZelkTheme::light().inkSoft, 24));
 }
 
-TEST(FileIcons, askTheDesktopOnceForAPathOfOneKindInOneSize) {
+TEST(FileIcons, cachesByPathKindAndSize) {
     fakes::FakeWorkspace workspace;
     workspace.icons["/a"] = four;
     FileIcons icons(workspace);

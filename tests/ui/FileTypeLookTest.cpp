@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-TEST(FileTypeLook, everyTypeHasItsNameColourAndSymbol) {
+TEST(FileTypeLook, givesEachTypeNameColourAndSymbol) {
     struct Expected {
         FileType type;
         const char* name;
@@ -29,7 +29,7 @@ TEST(FileTypeLook, everyTypeHasItsNameColourAndSymbol) {
         }
 }
 
-TEST(FileTypeLook, otherTakesTheThemesSoftInkAtHalfOpacity) {
+TEST(FileTypeLook, otherIsSoftInkAtHalfOpacity) {
     for (const ZelkTheme* theme : {&ZelkTheme::dark(), &ZelkTheme::light()}) {
         const FileTypeLook look = lookOf(FileType::other, *theme);
         EXPECT_EQ(look.name, QStringLiteral("Other"));

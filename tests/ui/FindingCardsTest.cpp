@@ -33,7 +33,7 @@ private:
 
 }  // namespace
 
-TEST_F(FindingCardsTest, alwaysTheSameFourInOneOrder) {
+TEST_F(FindingCardsTest, listsFourCardsInOrder) {
     struct Expected {
         const char* symbol;
         const char* title;
@@ -61,7 +61,7 @@ TEST_F(FindingCardsTest, alwaysTheSameFourInOneOrder) {
     }
 }
 
-TEST_F(FindingCardsTest, eachLeadsToItsModule) {
+TEST_F(FindingCardsTest, pressOpensModule) {
     const Screen expected[] = {Screen::reclaim, Screen::clutter, Screen::clutter, Screen::system};
     for (int row = 0; row < 4; ++row) {
         model().setSelection(Screen::survey);
@@ -74,14 +74,14 @@ TEST_F(FindingCardsTest, eachLeadsToItsModule) {
     EXPECT_EQ(model().selection(), Screen::survey) << "there is no fifth card";
 }
 
-TEST_F(FindingCardsTest, reclaimTellsWhatIsRecoverable) {
+TEST_F(FindingCardsTest, reclaimShowsRecoverableBytes) {
     fillHome();
     surveyAndRefresh();
     EXPECT_EQ(text(reclaim, "value"), "60 MB");
     EXPECT_EQ(text(reclaim, "detail"), "2 items of junk");
 }
 
-TEST_F(FindingCardsTest, withNothingToReclaimTheCardStaysWithZero) {
+TEST_F(FindingCardsTest, reclaimShowsZeroWithoutJunk) {
     machine.directories.file(home + "/letter.txt", 1'000'000);
     surveyAndRefresh();
     EXPECT_EQ(cards().rowCount(), 4);
@@ -90,7 +90,7 @@ TEST_F(FindingCardsTest, withNothingToReclaimTheCardStaysWithZero) {
     EXPECT_EQ(text(reclaim, "detail"), "0 items of junk");
 }
 
-TEST_F(FindingCardsTest, clutterAddsUpAllLargeFilesNotTheFirstFew) {
+TEST_F(FindingCardsTest, clutterSumsAllLargeFiles) {
     for (int file = 1; file <= 8; ++file)
         machine.directories.file(home + "/" + std::to_string(file) + ".mov",
                                  100'000'000U * static_cast<unsigned>(file));
@@ -99,7 +99,7 @@ TEST_F(FindingCardsTest, clutterAddsUpAllLargeFilesNotTheFirstFew) {
     EXPECT_EQ(text(clutter, "detail"), "8 large files");
 }
 
-TEST_F(FindingCardsTest, downloadsIsTheFolderInTheOnlyRoot) {
+TEST_F(FindingCardsTest, downloadsMeasuresFolderInOnlyRoot) {
     machine.directories.file(home + "/Downloads/a.zip", 100'000'000);
     machine.directories.file(home + "/Downloads/deeper/b.zip", 23'000'000);
     machine.directories.file(home + "/Other/c.zip", 1'000'000);
@@ -107,14 +107,14 @@ TEST_F(FindingCardsTest, downloadsIsTheFolderInTheOnlyRoot) {
     EXPECT_EQ(text(downloads, "value"), "123 MB");
 }
 
-TEST_F(FindingCardsTest, withoutDownloadsTheCardShowsZero) {
+TEST_F(FindingCardsTest, downloadsShowsZeroWithoutFolder) {
     machine.directories.file(home + "/Other/Downloads/a.zip", 100'000'000);
     machine.directories.file(home + "/downloads/b.zip", 100'000'000);
     surveyAndRefresh();
     EXPECT_EQ(text(downloads, "value"), "0 bytes");
 }
 
-TEST_F(FindingCardsTest, ofSeveralRootsTheRootsThemselvesAreTheTopLevel) {
+TEST_F(FindingCardsTest, downloadsIsNotSearchedInsideSeveralRoots) {
     machine.directories.file(home + "/Downloads/a.zip", 100'000'000);
     machine.directories.file("/data/b.zip", 1'000'000);
     model().setScanRoots({home, "/data"});
@@ -122,7 +122,7 @@ TEST_F(FindingCardsTest, ofSeveralRootsTheRootsThemselvesAreTheTopLevel) {
     EXPECT_EQ(text(downloads, "value"), "0 bytes");
 }
 
-TEST_F(FindingCardsTest, systemTellsWhatTheVolumeCouldGiveBack) {
+TEST_F(FindingCardsTest, systemShowsPurgeableBytes) {
     struct Expected {
         VolumeInfo volume;
         const char* value;
@@ -139,7 +139,7 @@ TEST_F(FindingCardsTest, systemTellsWhatTheVolumeCouldGiveBack) {
     }
 }
 
-TEST_F(FindingCardsTest, withoutAVolumeSystemShowsZero) {
+TEST_F(FindingCardsTest, systemShowsZeroWithoutVolume) {
     model().setVolume(VolumeInfo{9'000'000, 4'000'000, 4'500'000});
     cards().refresh();
     model().setVolume(std::nullopt);
@@ -147,7 +147,7 @@ TEST_F(FindingCardsTest, withoutAVolumeSystemShowsZero) {
     EXPECT_EQ(text(system, "value"), "0 bytes");
 }
 
-TEST_F(FindingCardsTest, onlyTheCardThatChangedSaysSo) {
+TEST_F(FindingCardsTest, signalsOnlyTheChangedCard) {
     cards().refresh();
     QSignalSpy changes(&cards(), &FindingCards::dataChanged);
     model().setVolume(VolumeInfo{9'000'000, 4'000'000, 4'500'000});

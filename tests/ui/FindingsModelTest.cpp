@@ -15,15 +15,15 @@ using testing::ElementsAre;
 
 const QColor red(255, 59, 48);
 
-class Findings : public AppModelFixture {
+class FindingsModelTest : public AppModelFixture {
 protected:
-    ~Findings() override { machine.directories.release(); }
+    ~FindingsModelTest() override { machine.directories.release(); }
 
     FindingsModel& findings() {
         if (!findings_) findings_ = std::make_unique<FindingsModel>(model());
         return *findings_;
     }
-    /// With what stands directly in the home folder, by name.
+    /// Surveys a home folder with these files, given by name and size.
     void surveyOf(const std::vector<std::pair<std::string, std::uint64_t>>& files) {
         for (const auto& [name, bytes] : files) machine.directories.file(home + "/" + name, bytes);
         findings();
@@ -46,7 +46,7 @@ private:
 
 }  // namespace
 
-TEST_F(Findings, theHeadlineTellsWhatCanBeReclaimed) {
+TEST_F(FindingsModelTest, headlineShowsReclaimableBytes) {
     fillHome();
     surveyOf({});
     EXPECT_EQ(findings().title(), QStringLiteral("You can reclaim"));
@@ -55,7 +55,7 @@ TEST_F(Findings, theHeadlineTellsWhatCanBeReclaimed) {
     EXPECT_TRUE(findings().reviewable());
 }
 
-TEST_F(Findings, theHeadlineNamesWhateverTypeIsTheBiggest) {
+TEST_F(FindingsModelTest, headlineNamesLargestType) {
     const std::pair<const char*, const char*> table[] = {
         {"a.mp3", "Audio"},       {"a.jpg", "Photos"},    {"a.zip", "Archives"},
         {"a.dmg", "Disk images"}, {"a.pdf", "Documents"}, {"a.unheard-of", "Other"},
@@ -69,7 +69,7 @@ TEST_F(Findings, theHeadlineNamesWhateverTypeIsTheBiggest) {
     }
 }
 
-TEST_F(Findings, aDriveWithNothingToReclaimIsCleanAndHasNoReview) {
+TEST_F(FindingsModelTest, cleanDriveHasNoReview) {
     surveyOf({{"letter.txt", 5'000'000}});
     EXPECT_EQ(findings().title(), QStringLiteral("Clean drive"));
     EXPECT_EQ(findings().figure(), QString());
@@ -78,7 +78,7 @@ TEST_F(Findings, aDriveWithNothingToReclaimIsCleanAndHasNoReview) {
     EXPECT_EQ(findings().cards()->cards().front().value, QStringLiteral("0 bytes"));
 }
 
-TEST_F(Findings, aCleanDriveOfSeveralRootsTellsThemAll) {
+TEST_F(FindingsModelTest, cleanDriveSumsSeveralRoots) {
     machine.directories.file(home + "/letter.txt", 5'000'000);
     machine.directories.file("/data/letter.txt", 2'000'000);
     model().setScanRoots({home, "/data"});
@@ -86,7 +86,7 @@ TEST_F(Findings, aCleanDriveOfSeveralRootsTellsThemAll) {
     EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 7 MB."));
 }
 
-TEST_F(Findings, aHomeThatNobodyCouldReadIsToldAsUnread) {
+TEST_F(FindingsModelTest, reportsUnreadableHome) {
     machine.directories.unreadable(home);
     surveyOf({});
     EXPECT_EQ(findings().title(), QStringLiteral("Clean drive"));
@@ -94,7 +94,7 @@ TEST_F(Findings, aHomeThatNobodyCouldReadIsToldAsUnread) {
     EXPECT_EQ(findings().unreadLine(), QStringLiteral("1 folder could not be read."));
 }
 
-TEST_F(Findings, theFoldersThatCouldNotBeReadAreCounted) {
+TEST_F(FindingsModelTest, countsUnreadFolders) {
     for (int folder = 0; folder < 1'234; ++folder) machine.directories.unreadable(home + "/" + std::to_string(folder));
     fillHome();
     surveyOf({});
@@ -102,7 +102,7 @@ TEST_F(Findings, theFoldersThatCouldNotBeReadAreCounted) {
     EXPECT_EQ(findings().unreadLine(), QStringLiteral("1,234 folders could not be read."));
 }
 
-TEST_F(Findings, nothingIsSaidOfUnreadFoldersWhereAllWereRead) {
+TEST_F(FindingsModelTest, clearsUnreadLineAfterCompleteSurvey) {
     machine.directories.unreadable(home + "/secret");
     surveyOf({{"letter.txt", 5'000'000}});
     EXPECT_NE(findings().unreadLine(), QString());
@@ -112,7 +112,7 @@ TEST_F(Findings, nothingIsSaidOfUnreadFoldersWhereAllWereRead) {
     EXPECT_EQ(findings().unreadLine(), QString());
 }
 
-TEST_F(Findings, whileAnotherSurveyRunsTheUnreadFoldersStay) {
+TEST_F(FindingsModelTest, keepsUnreadLineDuringAnotherSurvey) {
     machine.directories.unreadable(home + "/secret");
     surveyOf({});
     machine.directories.hold(home);
@@ -121,14 +121,14 @@ TEST_F(Findings, whileAnotherSurveyRunsTheUnreadFoldersStay) {
     EXPECT_EQ(findings().unreadLine(), QStringLiteral("1 folder could not be read."));
 }
 
-TEST_F(Findings, reviewLeadsToReclaimAndSeeAllToClutter) {
+TEST_F(FindingsModelTest, reviewOpensReclaimAndSeeAllOpensClutter) {
     findings().review();
     EXPECT_EQ(model().selection(), Screen::reclaim);
     findings().seeAll();
     EXPECT_EQ(model().selection(), Screen::clutter);
 }
 
-TEST_F(Findings, theSegmentsAreTheTypesLargestFirst) {
+TEST_F(FindingsModelTest, segmentsListTypesBySize) {
     surveyOf({{"a.mov", 1'000'000},
               {"b.mp3", 2'000'000},
               {"c.jpg", 7'000'000},
@@ -144,42 +144,42 @@ TEST_F(Findings, theSegmentsAreTheTypesLargestFirst) {
     EXPECT_EQ(findings().segments().front().bytesText, QStringLiteral("7 MB"));
 }
 
-TEST_F(Findings, twoTypesWithTheSameLargestBytesAreBothRed) {
+TEST_F(FindingsModelTest, largestTypesOfEqualSizeAreBothRed) {
     surveyOf({{"a.mov", 2'000'000}, {"b.mp3", 2'000'000}, {"c.jpg", 1'999'999}});
     EXPECT_THAT(labels(), testing::UnorderedElementsAre("Video", "Audio", "Photos"));
     EXPECT_THAT(colors(), ElementsAre(red, red, QColor(86, 194, 245)));
 }
 
-TEST_F(Findings, aTypeOfNoBytesHasNoSegment) {
+TEST_F(FindingsModelTest, emptyTypeHasNoSegment) {
     surveyOf({{"a.mov", 1}, {"b.mp3", 0}});
     EXPECT_THAT(labels(), ElementsAre("Video"));
 }
 
-TEST_F(Findings, whereNothingHasBytesThereAreNoSegments) {
+TEST_F(FindingsModelTest, emptySurveyHasNoSegments) {
     surveyOf({{"b.mp3", 0}});
     EXPECT_TRUE(findings().segments().isEmpty());
 }
 
-TEST_F(Findings, aSegmentFollowsTheTheme) {
+TEST_F(FindingsModelTest, segmentColoursFollowTheme) {
     surveyOf({{"a.mov", 2}, {"b.unheard-of", 1}});
     EXPECT_THAT(colors(), ElementsAre(red, withOpacity(ZelkTheme::dark().inkSoft, 0.5)));
     findings().setTheme(ZelkTheme::light());
     EXPECT_THAT(colors(), ElementsAre(red, withOpacity(ZelkTheme::light().inkSoft, 0.5)));
 }
 
-TEST_F(Findings, theFreeBytesAreWhatTheVolumeHasAvailable) {
+TEST_F(FindingsModelTest, freeBytesAreAvailableBytesOfVolume) {
     surveyOf({{"a.mov", 1}});
     EXPECT_EQ(findings().freeBytes(), 400);
 }
 
-TEST_F(Findings, withoutAVolumeThereAreNoFreeBytes) {
+TEST_F(FindingsModelTest, freeBytesAreZeroWithoutVolume) {
     surveyOf({{"a.mov", 1}});
     model().setVolume(std::nullopt);
     EXPECT_EQ(findings().freeBytes(), 0);
     EXPECT_EQ(findings().cards()->cards().back().value, QStringLiteral("0 bytes"));
 }
 
-TEST_F(Findings, theLargestFilesAreTheFirstFive) {
+TEST_F(FindingsModelTest, listsFiveLargestFiles) {
     surveyOf({{"1.mov", 600'000'000},
               {"2.mov", 500'000'000},
               {"3.mov", 400'000'000},
@@ -191,7 +191,7 @@ TEST_F(Findings, theLargestFilesAreTheFirstFive) {
     EXPECT_EQ(findings().largest()->index(4).data(LargeFileRows::nameRole).toString(), QStringLiteral("5.mov"));
 }
 
-TEST_F(Findings, fewerLargeFilesAreAllListed) {
+TEST_F(FindingsModelTest, listsAllOfFewerLargeFiles) {
     surveyOf({{"0.mov", 400'000'000}, {"1.mov", 300'000'000}, {"2.mov", 200'000'000}, {"3.mov", 100'000'000}});
     ASSERT_EQ(findings().largest()->rowCount(), 4);
     for (int row = 0; row < 4; ++row)
@@ -199,18 +199,18 @@ TEST_F(Findings, fewerLargeFilesAreAllListed) {
                   QStringLiteral("%1.mov").arg(row));
 }
 
-TEST_F(Findings, withoutLargeFilesThereAreNoRows) {
+TEST_F(FindingsModelTest, listsNoRowsWithoutLargeFiles) {
     surveyOf({});
     EXPECT_EQ(findings().largest()->rowCount(), 0);
 }
 
-TEST_F(Findings, areThereAtOnceForASurveyThatHasFinished) {
+TEST_F(FindingsModelTest, showsResultsOfFinishedSurvey) {
     fillHome();
     survey();
     EXPECT_EQ(findings().figure(), QStringLiteral("60 MB"));
 }
 
-TEST_F(Findings, keepWhatTheySaidWhileAnotherSurveyRuns) {
+TEST_F(FindingsModelTest, keepsResultsDuringAnotherSurvey) {
     fillHome();
     surveyOf({});
     machine.directories.hold(home);
@@ -221,7 +221,7 @@ TEST_F(Findings, keepWhatTheySaidWhileAnotherSurveyRuns) {
     EXPECT_GT(findings().largest()->rowCount(), 0);
 }
 
-TEST_F(Findings, followWhatIsTakenAway) {
+TEST_F(FindingsModelTest, followsRemovals) {
     fillHome();
     surveyOf({});
     QSignalSpy changes(&findings(), &FindingsModel::changed);
@@ -235,7 +235,7 @@ TEST_F(Findings, followWhatIsTakenAway) {
     EXPECT_EQ(findings().cards()->cards().front().detail, QStringLiteral("1 items of junk"));
 }
 
-TEST_F(Findings, becomeACleanDriveWhenAllIsTakenAway) {
+TEST_F(FindingsModelTest, removingAllJunkMakesADriveClean) {
     machine.directories.file(home + "/projects/app/node_modules/a.js", 10'000'000, 2'000);
     surveyOf({{"letter.txt", 5'000'000}});
     ASSERT_TRUE(findings().reviewable());

@@ -19,8 +19,8 @@ namespace {
 
 using std::chrono::milliseconds;
 
-/// Preferences that remember what was written into them, in order.
-class NotedPreferences : public fakes::FakePreferences {
+/// Records every write, in order.
+class RecordingPreferences : public fakes::FakePreferences {
 public:
     std::vector<std::pair<std::string, bool>> writes;
 
@@ -30,28 +30,28 @@ public:
     }
 };
 
-class FirstRun : public testing::Test {
+class FirstRunModelTest : public testing::Test {
 protected:
-    /// Looks as often as the event loop turns, so that no test waits.
+    /// Probes on every turn of the event loop, so that no test has to wait.
     FirstRunModel& model() {
         if (!model_) model_ = std::make_unique<FirstRunModel>(preferences, probe(), workspace, milliseconds(0));
         return *model_;
     }
     std::function<bool()> probe() {
         return [this] {
-            ++looks;
+            ++probes;
             return granted;
         };
     }
-    void startAgain() {
+    void restart() {
         model_.reset();
         model().start();
     }
 
-    NotedPreferences preferences;
+    RecordingPreferences preferences;
     fakes::FakeWorkspace workspace;
     bool granted = true;
-    int looks = 0;
+    int probes = 0;
 
 private:
     std::unique_ptr<FirstRunModel> model_;
@@ -59,71 +59,71 @@ private:
 
 }  // namespace
 
-TEST_F(FirstRun, showsNothingAndLooksAtNothingBeforeTheStart) {
+TEST_F(FirstRunModelTest, isIdleBeforeStart) {
     granted = false;
     EXPECT_FALSE(model().showWelcome());
     EXPECT_FALSE(model().showOnboarding());
     EXPECT_FALSE(model().access()->polling());
-    EXPECT_EQ(looks, 0);
+    EXPECT_EQ(probes, 0);
 }
 
-TEST_F(FirstRun, theFirstStartWelcomesAndDoesNotLookYet) {
+TEST_F(FirstRunModelTest, firstStartShowsWelcomeWithoutProbing) {
     granted = false;
     model().start();
     EXPECT_TRUE(model().showWelcome());
     EXPECT_FALSE(model().showOnboarding());
-    EXPECT_EQ(looks, 0);
+    EXPECT_EQ(probes, 0);
     EXPECT_TRUE(preferences.writes.empty());
 }
 
-TEST_F(FirstRun, theEndOfTheWelcomeIsRememberedAndThenItAsksForAccess) {
+TEST_F(FirstRunModelTest, endOfWelcomeIsStoredAndAsksForAccess) {
     granted = false;
     model().start();
     QSignalSpy changed(&model(), &FirstRunModel::changed);
     model().welcome()->skip();
     EXPECT_FALSE(model().showWelcome());
     EXPECT_TRUE(model().showOnboarding());
-    EXPECT_EQ(looks, 1);
-    EXPECT_EQ(changed.count(), 1) << "no moment in between with both or with none";
+    EXPECT_EQ(probes, 1);
+    EXPECT_EQ(changed.count(), 1) << "both flags change at once";
     EXPECT_EQ(preferences.writes, (std::vector<std::pair<std::string, bool>>{{"zelk/didOnboard", true}}));
 }
 
-TEST_F(FirstRun, theEndOfTheWelcomeShowsNoPanelWhereAccessIsThere) {
+TEST_F(FirstRunModelTest, endOfWelcomeSkipsPanelIfAccessIsGranted) {
     model().start();
     for (int press = 0; press < 4; ++press) model().welcome()->pressPrimary();
     EXPECT_FALSE(model().showWelcome());
     EXPECT_FALSE(model().showOnboarding());
-    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(probes, 1);
 }
 
-TEST_F(FirstRun, theWelcomeEndsOnce) {
+TEST_F(FirstRunModelTest, welcomeEndsOnce) {
     model().start();
     model().welcome()->skip();
     model().welcome()->skip();
     EXPECT_EQ(preferences.writes.size(), 1U);
-    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(probes, 1);
 }
 
-TEST_F(FirstRun, welcomesOnlyOnce) {
+TEST_F(FirstRunModelTest, welcomesOnlyOnce) {
     model().start();
     model().welcome()->skip();
     for (int start = 0; start < 3; ++start) {
-        startAgain();
+        restart();
         EXPECT_FALSE(model().showWelcome());
     }
-    EXPECT_EQ(preferences.writes.size(), 1U) << "set once, and never cleared";
+    EXPECT_EQ(preferences.writes.size(), 1U) << "set once and never cleared";
     EXPECT_TRUE(preferences.flags["zelk/didOnboard"]);
 }
 
-TEST_F(FirstRun, welcomesAgainWhereItWasNeverFinished) {
+TEST_F(FirstRunModelTest, unfinishedWelcomeIsShownAgain) {
     model().start();
     model().welcome()->next();
-    startAgain();
+    restart();
     EXPECT_TRUE(model().showWelcome());
     EXPECT_EQ(model().welcome()->page(), 0);
 }
 
-TEST_F(FirstRun, aWindowThatAppearsAgainDuringTheWelcomeKeepsItsPage) {
+TEST_F(FirstRunModelTest, restartDuringWelcomeKeepsPage) {
     model().start();
     model().welcome()->next();
     model().start();
@@ -131,16 +131,16 @@ TEST_F(FirstRun, aWindowThatAppearsAgainDuringTheWelcomeKeepsItsPage) {
     EXPECT_EQ(model().welcome()->page(), 1);
 }
 
-TEST_F(FirstRun, aLaterStartAsksForAccessWhereThereIsNone) {
+TEST_F(FirstRunModelTest, laterStartAsksForMissingAccess) {
     preferences.flags["zelk/didOnboard"] = true;
     granted = false;
     model().start();
     EXPECT_FALSE(model().showWelcome());
     EXPECT_TRUE(model().showOnboarding());
-    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(probes, 1);
 }
 
-TEST_F(FirstRun, aLaterStartWithAccessShowsNothing) {
+TEST_F(FirstRunModelTest, laterStartWithAccessShowsNothing) {
     preferences.flags["zelk/didOnboard"] = true;
     model().start();
     EXPECT_FALSE(model().showWelcome());
@@ -148,20 +148,20 @@ TEST_F(FirstRun, aLaterStartWithAccessShowsNothing) {
     EXPECT_TRUE(preferences.writes.empty());
 }
 
-TEST_F(FirstRun, theAccessThatComesClosesThePanelByItself) {
+TEST_F(FirstRunModelTest, grantedAccessClosesPanel) {
     preferences.flags["zelk/didOnboard"] = true;
     granted = false;
     model().start();
     model().access()->setShown(true);
     EXPECT_TRUE(model().access()->polling());
-    runUntil([&] { return looks >= 4; });
-    EXPECT_TRUE(model().showOnboarding()) << "an answer of no changes nothing";
+    runUntil([&] { return probes >= 4; });
+    EXPECT_TRUE(model().showOnboarding()) << "a denied probe changes nothing";
     granted = true;
     runUntil([&] { return !model().showOnboarding(); });
     EXPECT_FALSE(model().access()->polling());
 }
 
-TEST_F(FirstRun, afterContinueWithoutItTheNextStartAsksAgain) {
+TEST_F(FirstRunModelTest, nextStartAsksAgainAfterContinuingWithoutAccess) {
     preferences.flags["zelk/didOnboard"] = true;
     granted = false;
     model().start();
@@ -169,45 +169,45 @@ TEST_F(FirstRun, afterContinueWithoutItTheNextStartAsksAgain) {
     model().access()->continueWithoutIt();
     EXPECT_FALSE(model().showOnboarding());
     EXPECT_FALSE(model().access()->polling());
-    EXPECT_TRUE(preferences.writes.empty()) << "nothing records that it was declined";
-    startAgain();
+    EXPECT_TRUE(preferences.writes.empty()) << "the refusal is not stored";
+    restart();
     EXPECT_TRUE(model().showOnboarding());
 }
 
-TEST_F(FirstRun, looksNoMoreWhenThePanelIsGone) {
+TEST_F(FirstRunModelTest, hiddenPanelStopsPolling) {
     preferences.flags["zelk/didOnboard"] = true;
     granted = false;
     model().start();
     model().access()->setShown(true);
     model().access()->setShown(false);
     EXPECT_FALSE(model().access()->polling());
-    const int before = looks;
+    const int before = probes;
     runWhatIsThere();
-    EXPECT_EQ(looks, before);
-    EXPECT_TRUE(model().showOnboarding()) << "it comes back with its window";
+    EXPECT_EQ(probes, before);
+    EXPECT_TRUE(model().showOnboarding()) << "it reappears with its window";
     model().access()->setShown(true);
     EXPECT_TRUE(model().access()->polling());
 }
 
-TEST_F(FirstRun, looksEverySecondAndAHalf) {
+TEST_F(FirstRunModelTest, pollsEvery1500Milliseconds) {
     FirstRunModel asShipped(preferences, probe(), workspace);
     EXPECT_EQ(asShipped.access()->interval(), milliseconds(1'500));
 }
 
-TEST_F(FirstRun, opensTheSettingsWhereAccessIsGranted) {
+TEST_F(FirstRunModelTest, opensAccessSettings) {
     model().access()->openSettings();
     EXPECT_EQ(workspace.opened,
               std::vector<std::string>{"x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"});
-    EXPECT_EQ(looks, 0);
+    EXPECT_EQ(probes, 0);
 }
 
-TEST_F(FirstRun, theDoneSignalComesOncePerEnd) {
+TEST_F(FirstRunModelTest, signalsGrantedAccessOnce) {
     model().access()->setShown(true);
     QSignalSpy done(model().access(), &AccessPanelModel::granted);
     runUntil([&] { return done.count() > 0; });
     runWhatIsThere();
     EXPECT_EQ(done.count(), 1);
-    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(probes, 1);
 }
 
 }  // namespace zelk

@@ -7,9 +7,9 @@ namespace zelk {
 
 namespace {
 
-class FirstRunWindow : public ViewFixture {
+class FirstRunSheetsTest : public ViewFixture {
 protected:
-    ~FirstRunWindow() override { close(); }
+    ~FirstRunSheetsTest() override { close(); }
 
     void open(QSize size = {960, 620}) {
         show(QStringLiteral("Zelk.App"), QStringLiteral("FirstRunSheets"), "firstRun", &firstRun, size);
@@ -30,20 +30,20 @@ protected:
 
 }  // namespace
 
-TEST_F(FirstRunWindow, showsNothingWhereThereIsNothingToAsk) {
+TEST_F(FirstRunSheetsTest, showsNothingIfOnboardedWithAccess) {
     preferences.flags[didOnboardKey] = true;
     open();
     EXPECT_TRUE(seenTexts().empty());
 }
 
-TEST_F(FirstRunWindow, theFirstPageHasTheKeyboardOnNextAndNoBack) {
+TEST_F(FirstRunSheetsTest, firstPageFocusesNextAndHasNoBack) {
     open();
     EXPECT_EQ(focusName(), "Next");
     EXPECT_EQ(tabOrder(), (std::vector<std::string>{"Next", "Skip"}));
     EXPECT_EQ(find("backButton"), nullptr);
 }
 
-TEST_F(FirstRunWindow, showsThePagesOneByOneWithTheirTextsInOrder) {
+TEST_F(FirstRunSheetsTest, showsPagesWithTheirTexts) {
     const std::vector<std::vector<std::string>> pages{
         {"Welcome to Zelk", "A fast, private way to understand and clean your Mac.", "Skip", "Next"},
         {"See your storage",
@@ -65,7 +65,7 @@ TEST_F(FirstRunWindow, showsThePagesOneByOneWithTheirTextsInOrder) {
     }
 }
 
-TEST_F(FirstRunWindow, aPageHasItsSymbolOnADiscOfItsColourAndItsDotIsLit) {
+TEST_F(FirstRunSheetsTest, pageShowsTintedSymbolAndActiveDot) {
     const std::pair<const char*, QColor> pages[] = {{"internaldrive.fill", {245, 166, 35}},
                                                     {"circle.hexagongrid.fill", {232, 91, 196}},
                                                     {"sparkles", {50, 199, 123}},
@@ -89,7 +89,7 @@ TEST_F(FirstRunWindow, aPageHasItsSymbolOnADiscOfItsColourAndItsDotIsLit) {
     }
 }
 
-TEST_F(FirstRunWindow, aPageIsItsDiscItsTitleAndItsBody) {
+TEST_F(FirstRunSheetsTest, pageHasTheExpectedSizes) {
     open();
     const SymbolItem* drive = symbol("internaldrive.fill");
     ASSERT_NE(drive, nullptr);
@@ -105,7 +105,7 @@ TEST_F(FirstRunWindow, aPageIsItsDiscItsTitleAndItsBody) {
         EXPECT_EQ(showing(text)->property("horizontalAlignment").toInt(), static_cast<int>(Qt::AlignHCenter)) << text;
 }
 
-TEST_F(FirstRunWindow, theLastPageHidesSkipAndGetsStarted) {
+TEST_F(FirstRunSheetsTest, lastPageHidesSkipAndFinishes) {
     open();
     for (int page = 0; page < 3; ++page) press(Qt::Key_Return);
     EXPECT_EQ(focusName(), "Get Started");
@@ -116,7 +116,7 @@ TEST_F(FirstRunWindow, theLastPageHidesSkipAndGetsStarted) {
     EXPECT_TRUE(seenTexts().empty());
 }
 
-TEST_F(FirstRunWindow, theArrowsTurnThePages) {
+TEST_F(FirstRunSheetsTest, arrowsTurnPages) {
     open();
     press(Qt::Key_Left);
     EXPECT_EQ(firstRun.welcome()->page(), 0);
@@ -127,7 +127,7 @@ TEST_F(FirstRunWindow, theArrowsTurnThePages) {
     EXPECT_EQ(firstRun.welcome()->page(), 2);
 }
 
-TEST_F(FirstRunWindow, aButtonThatGoesWithItsPageLeavesTheKeyboardInSight) {
+TEST_F(FirstRunSheetsTest, focusMovesOnWhenItsButtonDisappears) {
     open();
     press(Qt::Key_Right);
     while (focusName() != "Back") press(Qt::Key_Tab);
@@ -141,27 +141,27 @@ TEST_F(FirstRunWindow, aButtonThatGoesWithItsPageLeavesTheKeyboardInSight) {
     EXPECT_TRUE(focusIsRinged());
 }
 
-TEST_F(FirstRunWindow, escapeSkipsTheWelcome) {
+TEST_F(FirstRunSheetsTest, escapeSkipsTheWelcome) {
     open();
     press(Qt::Key_Escape);
     EXPECT_FALSE(firstRun.showWelcome());
     EXPECT_TRUE(preferences.flags[didOnboardKey]);
 }
 
-TEST_F(FirstRunWindow, skipIsClickedAway) {
+TEST_F(FirstRunSheetsTest, clickingSkipEndsWelcome) {
     open();
     click("skipButton");
     EXPECT_FALSE(firstRun.showWelcome());
 }
 
-TEST_F(FirstRunWindow, thePageSlidesOnASpringThatEndsAtItsPlace) {
+TEST_F(FirstRunSheetsTest, pageSlidesWithoutOvershoot) {
     singleton<Motion>("Motion").setReduced(false);
     open();
     QQuickItem* pages = find("welcomePages");
     ASSERT_NE(pages, nullptr);
     const qreal stage = pages->parentItem()->width();
     firstRun.welcome()->next();
-    EXPECT_EQ(pages->x(), 0) << "it moves, and does not jump";
+    EXPECT_EQ(pages->x(), 0) << "it slides instead of jumping";
     qreal furthest = 0;
     tour::waitUntil([&] {
         furthest = std::min(furthest, pages->x());
@@ -170,7 +170,7 @@ TEST_F(FirstRunWindow, thePageSlidesOnASpringThatEndsAtItsPlace) {
     EXPECT_GE(furthest, -stage - 0.5) << "no overshoot";
 }
 
-TEST_F(FirstRunWindow, thePanelShowsItsTextsInOrder) {
+TEST_F(FirstRunSheetsTest, panelShowsTextsInOrder) {
     openAtPanel();
     EXPECT_EQ(seenTexts(), (std::vector<std::string>{"Zelk needs Full Disk Access", "to survey your whole drive.",
                                                      "Open Settings → drag Zelk in → come back.", "Open Settings",
@@ -179,7 +179,7 @@ TEST_F(FirstRunWindow, thePanelShowsItsTextsInOrder) {
     expectAllControlsNamed();
 }
 
-TEST_F(FirstRunWindow, onLinuxThePanelSpeaksOfOwnersAndHasNoSettingsToOpen) {
+TEST_F(FirstRunSheetsTest, linuxPanelHasNoSettingsButton) {
     const TextsOf here(desktopLinux);
     openAtPanel();
     EXPECT_EQ(seenTexts(),
@@ -192,7 +192,7 @@ TEST_F(FirstRunWindow, onLinuxThePanelSpeaksOfOwnersAndHasNoSettingsToOpen) {
     EXPECT_TRUE(machine.workspace.opened.empty());
 }
 
-TEST_F(FirstRunWindow, thePanelIs460By420AndInItsOrder) {
+TEST_F(FirstRunSheetsTest, panelIs460By420WithPartsInOrder) {
     openAtPanel();
     const QQuickItem* dialog = find("openSettingsButton");
     ASSERT_NE(dialog, nullptr);
@@ -209,7 +209,7 @@ TEST_F(FirstRunWindow, thePanelIs460By420AndInItsOrder) {
     }
 }
 
-TEST_F(FirstRunWindow, thePanelIsWalkedWithTheKeyboard) {
+TEST_F(FirstRunSheetsTest, panelWorksWithKeyboard) {
     openAtPanel();
     EXPECT_EQ(tabOrder(), (std::vector<std::string>{"Open Settings", "Continue without it"}));
     press(Qt::Key_Return);
@@ -222,20 +222,20 @@ TEST_F(FirstRunWindow, thePanelIsWalkedWithTheKeyboard) {
     EXPECT_TRUE(seenTexts().empty());
 }
 
-TEST_F(FirstRunWindow, escapeContinuesWithoutAccess) {
+TEST_F(FirstRunSheetsTest, escapeContinuesWithoutAccess) {
     openAtPanel();
     press(Qt::Key_Escape);
     EXPECT_FALSE(firstRun.showOnboarding());
 }
 
-TEST_F(FirstRunWindow, thePanelClosesByItselfWhenAccessComes) {
+TEST_F(FirstRunSheetsTest, panelClosesWhenAccessIsGranted) {
     openAtPanel();
     granted = true;
     runUntil([&] { return !firstRun.showOnboarding(); });
     EXPECT_FALSE(firstRun.access()->polling());
 }
 
-TEST_F(FirstRunWindow, looksNoMoreWhileTheWindowIsClosed) {
+TEST_F(FirstRunSheetsTest, pollsOnlyWhileWindowIsVisible) {
     openAtPanel();
     window().hide();
     runWhatIsThere();
@@ -244,20 +244,20 @@ TEST_F(FirstRunWindow, looksNoMoreWhileTheWindowIsClosed) {
     runUntil([&] { return firstRun.access()->polling(); });
 }
 
-TEST_F(FirstRunWindow, looksNoMoreWhenTheViewIsGone) {
+TEST_F(FirstRunSheetsTest, stopsPollingWhenViewIsDestroyed) {
     openAtPanel();
     close();
     EXPECT_FALSE(firstRun.access()->polling());
 }
 
-TEST_F(FirstRunWindow, theWelcomeIsFollowedByThePanel) {
+TEST_F(FirstRunSheetsTest, welcomeLeadsToPanel) {
     granted = false;
     open();
     press(Qt::Key_Escape);
     EXPECT_EQ(focusName(), "Open Settings");
 }
 
-TEST_F(FirstRunWindow, clipsNothingWhereTextIsLarge) {
+TEST_F(FirstRunSheetsTest, clipsNothingInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     granted = false;
     open();

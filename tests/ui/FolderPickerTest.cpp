@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The folder that a person chose, by the bytes of its name.
+// Folder names are bytes; a dialog that hands out text only must not lose them.
 #include "ui/shell/FolderPicker.h"
 
 #include <gtest/gtest.h>
@@ -24,13 +24,13 @@ using Chosen = std::optional<std::string>;
 class FolderPicker : public testing::Test {
 protected:
     Chosen chosen(const char* url) { return chosenFolder(QUrl(QString::fromUtf8(url)), files); }
-    /// What a dialog answers that knows texts only.
+    /// The answer of a dialog that hands out paths as text.
     Chosen chosenAsText(const std::string& path) {
         return chosenFolder(QUrl::fromLocalFile(QString::fromStdString(path)), files);
     }
 
-    /// What the dialog gives when it is closed without a choice.
-    Chosen refused() {
+    /// The result of a dialog that is closed without a choice.
+    Chosen cancelled() {
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         QTimer answer;
         QObject::connect(&answer, &QTimer::timeout, [&] {
@@ -44,7 +44,7 @@ protected:
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
         return folder;
     }
-    static QString placeOfSettings() {
+    static QString settingsFolder() {
         return QFileInfo(QSettings(QSettings::UserScope, QStringLiteral("Zelk")).fileName()).path();
     }
 
@@ -53,14 +53,14 @@ protected:
 
 }  // namespace
 
-TEST_F(FolderPicker, givesThePathOfTheURL) {
+TEST_F(FolderPicker, decodesPathOfURL) {
     EXPECT_EQ(chosen("file:///data/My%20films"), "/data/My films");
     EXPECT_EQ(chosen("file:///data/caf%C3%A9"), "/data/caf\xc3\xa9");
     EXPECT_EQ(chosen("file:///100%25%23%3F"), "/100%#?");
     EXPECT_EQ(chosen("file:///"), "/");
 }
 
-TEST_F(FolderPicker, keepsBytesThatAreNoText) {
+TEST_F(FolderPicker, keepsBytesThatAreNotUTF8) {
     EXPECT_EQ(chosen("file:///data/caf%E9/%FF"), "/data/caf\xe9/\xff");
 }
 
@@ -69,42 +69,42 @@ TEST_F(FolderPicker, normalisesTheFolder) {
     EXPECT_EQ(chosen("file:///data/./films//"), "/data/films");
 }
 
-TEST_F(FolderPicker, takesNothingThatIsNotOnThisMachine) {
+TEST_F(FolderPicker, rejectsURLsThatAreNotLocal) {
     for (const char* url : {"", "https:///data", "file://other/data", "data", "file:"})
         EXPECT_EQ(chosen(url), Chosen());
 }
 
-TEST_F(FolderPicker, findsTheFolderBehindARepairedName) {
+TEST_F(FolderPicker, resolvesRepairedName) {
     files.addFolder("/data/caf\xe9/\xff");
     files.addFolder("/data/caf");
     EXPECT_EQ(chosenAsText("/data/caf\xef\xbf\xbd"), "/data/caf\xe9");
     EXPECT_EQ(chosenAsText("/data/caf\xef\xbf\xbd/\xef\xbf\xbd"), "/data/caf\xe9/\xff");
 }
 
-TEST_F(FolderPicker, findsTheFolderBehindARepairedNameAtTheTop) {
+TEST_F(FolderPicker, resolvesRepairedNameBelowRoot) {
     files.addFolder("/\xff");
     EXPECT_EQ(chosenAsText("/\xef\xbf\xbd"), "/\xff");
 }
 
-TEST_F(FolderPicker, prefersTheFolderThatReallyHasTheName) {
+TEST_F(FolderPicker, prefersExactName) {
     files.addFolder("/data/\xe9");
     files.addFolder("/data/\xef\xbf\xbd");
     EXPECT_EQ(chosenAsText("/data/\xef\xbf\xbd"), "/data/\xef\xbf\xbd");
 }
 
-TEST_F(FolderPicker, takesNoneOfSeveralThatReadTheSame) {
+TEST_F(FolderPicker, rejectsAmbiguousRepairedName) {
     files.addFolder("/data/caf\xe8");
     files.addFolder("/data/caf\xe9");
     EXPECT_EQ(chosenAsText("/data/caf\xef\xbf\xbd"), Chosen());
 }
 
-TEST_F(FolderPicker, takesNoneWhenNoneReadsSo) {
+TEST_F(FolderPicker, rejectsRepairedNameWithoutMatch) {
     files.addFolder("/data/tea");
     EXPECT_EQ(chosenAsText("/data/caf\xef\xbf\xbd"), Chosen());
     EXPECT_EQ(chosenAsText("/missing/caf\xef\xbf\xbd"), Chosen());
 }
 
-TEST_F(FolderPicker, asksAndGivesTheFolder) {
+TEST_F(FolderPicker, returnsChosenFolder) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const zoo::TempFolder folder;
     QTimer answer;
@@ -120,22 +120,22 @@ TEST_F(FolderPicker, asksAndGivesTheFolder) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
 }
 
-TEST_F(FolderPicker, asksAndGivesNothingWhenRefused) {
-    EXPECT_EQ(refused(), Chosen());
+TEST_F(FolderPicker, returnsNothingWhenCancelled) {
+    EXPECT_EQ(cancelled(), Chosen());
 }
 
 #ifdef __linux__
-// The dialog keeps settings of its own there.
-TEST_F(FolderPicker, makesNoHomeThatDoesNotExist) {
+// The dialog stores its own settings there.
+TEST_F(FolderPicker, createsNoMissingHome) {
     const zoo::TempFolder folder;
-    const QString before = placeOfSettings();
+    const QString before = settingsFolder();
     for (const char* kind : {"missing", "there"}) {
         const fakes::EnvironmentVariable variable("HOME", folder / kind);
-        const QString place = QString::fromStdString(folder / kind + "/.config");
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, place);
+        const QString configFolder = QString::fromStdString(folder / kind + "/.config");
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, configFolder);
         if (kind == std::string("there")) zoo::makeFolder(folder / kind);
-        refused();
-        EXPECT_EQ(placeOfSettings(), place);
+        cancelled();
+        EXPECT_EQ(settingsFolder(), configFolder);
     }
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, before);
     EXPECT_FALSE(QFileInfo::exists(QString::fromStdString(folder / "missing")));

@@ -8,7 +8,7 @@
 
 namespace zelk {
 
-TEST(HelpModel, gettingStartedHasNoScreenAndTheGenericSymbol) {
+TEST(HelpModel, gettingStartedHasGenericSymbolAndNoScreen) {
     const HelpTopic first = helpTopics().front();
     EXPECT_EQ(first.title.toStdString(), "Getting started");
     EXPECT_FALSE(first.screen.has_value());
@@ -16,20 +16,20 @@ TEST(HelpModel, gettingStartedHasNoScreenAndTheGenericSymbol) {
     EXPECT_EQ(first.tint(), QColor(245, 166, 35));
 }
 
-TEST(HelpModel, topicsHaveIdsOfTheirOwn) {
+TEST(HelpModel, topicIdsAreUnique) {
     std::set<int> ids;
     for (const HelpTopic& topic : helpTopics()) ids.insert(topic.id);
     EXPECT_EQ(ids.size(), 12U);
 }
 
-TEST(HelpModel, withNoSelectionShowsTheFirst) {
+TEST(HelpModel, showsFirstTopicWithoutSelection) {
     const HelpModel help;
     EXPECT_FALSE(help.selection().has_value());
     EXPECT_EQ(help.current(), 0);
     EXPECT_EQ(help.topic().title.toStdString(), "Getting started");
 }
 
-TEST(HelpModel, showsTheChosenTopic) {
+TEST(HelpModel, showsSelectedTopic) {
     HelpModel help;
     QSignalSpy current(&help, &HelpModel::currentChanged);
     help.select(5);
@@ -38,7 +38,7 @@ TEST(HelpModel, showsTheChosenTopic) {
     EXPECT_EQ(current.count(), 1);
 }
 
-TEST(HelpModel, choosingWhatIsShownChangesNothingToSee) {
+TEST(HelpModel, selectingTheShownTopicSignalsNothing) {
     HelpModel help;
     QSignalSpy current(&help, &HelpModel::currentChanged);
     help.select(0);
@@ -46,7 +46,7 @@ TEST(HelpModel, choosingWhatIsShownChangesNothingToSee) {
     EXPECT_EQ(current.count(), 0);
 }
 
-TEST(HelpModel, choosesNothingWhereThereIsNoTopic) {
+TEST(HelpModel, ignoresInvalidTopics) {
     HelpModel help;
     help.select(3);
     help.select(-1);
@@ -54,7 +54,7 @@ TEST(HelpModel, choosesNothingWhereThereIsNoTopic) {
     EXPECT_EQ(help.current(), 3);
 }
 
-TEST(HelpModel, goesUpAndDownAndStaysAtTheEnds) {
+TEST(HelpModel, stepsThroughTopicsAndStopsAtEnds) {
     HelpModel help;
     help.selectPrevious();
     EXPECT_EQ(help.current(), 0);

@@ -110,9 +110,9 @@ const std::vector<Topic>& topics() {
     return all;
 }
 
-class HelpWindow : public ViewFixture {
+class HelpViewTest : public ViewFixture {
 protected:
-    ~HelpWindow() override { close(); }
+    ~HelpViewTest() override { close(); }
 
     void open(QSize size = {760, 520}) {
         show(QStringLiteral("Zelk.App"), QStringLiteral("HelpView"), "help", &help_, size);
@@ -130,13 +130,13 @@ private:
 
 }  // namespace
 
-TEST_F(HelpWindow, wantsItsSize) {
+TEST_F(HelpViewTest, hasImplicitSize) {
     open();
     EXPECT_EQ(view().implicitWidth(), 760);
     EXPECT_EQ(view().implicitHeight(), 520);
 }
 
-TEST_F(HelpWindow, showsItsTopicsAndThenTheOneThatIsRead) {
+TEST_F(HelpViewTest, showsTopicListAndCurrentTopic) {
     open();
     std::vector<std::string> titles;
     for (const Topic& topic : topics()) titles.push_back(topic.title);
@@ -152,30 +152,30 @@ TEST_F(HelpWindow, showsItsTopicsAndThenTheOneThatIsRead) {
     }
 }
 
-TEST_F(HelpWindow, aTopicHasItsSymbolInItsColourInTheListAndOnItsPage) {
+TEST_F(HelpViewTest, showsTintedSymbolInListAndOnPage) {
     open();
     for (int row = 0; row < 12; ++row) {
         const Topic& topic = topics()[static_cast<std::size_t>(row)];
         help().select(row);
         settle();
-        int inItsColour = 0;
+        int tinted = 0;
         for (QQuickItem* item : seen())
             if (const auto* symbol = qobject_cast<SymbolItem*>(item);
                 symbol != nullptr && symbol->name().toStdString() == topic.symbol && symbol->color() == topic.tint)
-                ++inItsColour;
+                ++tinted;
         const auto sharing = std::count_if(topics().begin(), topics().end(),
                                            [&](const Topic& other) { return other.symbol == topic.symbol; });
-        EXPECT_EQ(inItsColour, sharing + 1) << topic.title;
+        EXPECT_EQ(tinted, sharing + 1) << topic.title;
     }
 }
 
-TEST_F(HelpWindow, opensAtTheFirstTopicWithTheKeyboardOnIt) {
+TEST_F(HelpViewTest, opensWithFirstTopicFocused) {
     open();
     EXPECT_EQ(focusName(), "Getting started");
     EXPECT_TRUE(shows("Zelk surveys your drive, shows what's using space, and helps you reclaim it safely."));
 }
 
-TEST_F(HelpWindow, theArrowsGoFromTopicToTopic) {
+TEST_F(HelpViewTest, arrowsHomeAndEndSelectTopics) {
     open();
     press(Qt::Key_Down);
     EXPECT_EQ(focusName(), "Survey");
@@ -193,7 +193,7 @@ TEST_F(HelpWindow, theArrowsGoFromTopicToTopic) {
     EXPECT_EQ(focusName(), "Getting started");
 }
 
-TEST_F(HelpWindow, theTopicWithTheKeyboardStaysInSight) {
+TEST_F(HelpViewTest, scrollsToFocusedTopic) {
     open({760, 300});
     for (int row = 0; row < 12; ++row) {
         expectFocusInSight();
@@ -203,7 +203,7 @@ TEST_F(HelpWindow, theTopicWithTheKeyboardStaysInSight) {
     expectFocusInSight();
 }
 
-TEST_F(HelpWindow, onlyTheTopicThatIsReadIsAStopOfTheTabKey) {
+TEST_F(HelpViewTest, onlyCurrentTopicIsATabStop) {
     open();
     help().select(3);
     settle();
@@ -213,7 +213,7 @@ TEST_F(HelpWindow, onlyTheTopicThatIsReadIsAStopOfTheTabKey) {
     EXPECT_EQ(std::count(order.begin(), order.end(), "Getting started"), 0);
 }
 
-TEST_F(HelpWindow, aTopicIsChosenWithTheMouse) {
+TEST_F(HelpViewTest, clickSelectsTopic) {
     open();
     QQuickItem* lens = showing("Lens");
     ASSERT_NE(lens, nullptr);
@@ -223,7 +223,7 @@ TEST_F(HelpWindow, aTopicIsChosenWithTheMouse) {
     EXPECT_TRUE(shows("See where your space went."));
 }
 
-TEST_F(HelpWindow, theListIsAListToAScreenReader) {
+TEST_F(HelpViewTest, topicIsASelectedListItem) {
     open();
     QAccessibleInterface* row = QAccessible::queryAccessibleInterface(window().activeFocusItem());
     ASSERT_NE(row, nullptr);
@@ -232,7 +232,7 @@ TEST_F(HelpWindow, theListIsAListToAScreenReader) {
     expectAllControlsNamed();
 }
 
-TEST_F(HelpWindow, aNewTopicIsReadFromItsTop) {
+TEST_F(HelpViewTest, newTopicStartsAtTop) {
     open({760, 260});
     QQuickItem* page = find("helpPage");
     ASSERT_NE(page, nullptr);
@@ -242,7 +242,7 @@ TEST_F(HelpWindow, aNewTopicIsReadFromItsTop) {
     EXPECT_EQ(page->property("contentY").toReal(), 0);
 }
 
-TEST_F(HelpWindow, clipsNoTopicWhereTextIsLarge) {
+TEST_F(HelpViewTest, clipsNoTopicInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     open();
     for (int row = 0; row < 12; ++row) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a view is told when the items change: the rows that changed, and no others.
+// Checks the row signals of ItemList: only rows that really changed may be signalled.
 #include <gmock/gmock.h>
 
 #include "ui/ReclaimFixture.h"
@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Audience = AppModel::Audience;
 
-class ItemRows : public ReclaimFixture {
+class ItemListRowsTest : public ReclaimFixture {
 protected:
     void show() {
         surveyFor(Audience::developer);
@@ -37,7 +37,7 @@ private:
 
 }  // namespace
 
-TEST_F(ItemRows, aTickChangesItsRowAndItsHeader) {
+TEST_F(ItemListRowsTest, toggleChangesItemAndHeader) {
     fillJunk();
     show();
     unfoldAll();
@@ -48,7 +48,7 @@ TEST_F(ItemRows, aTickChangesItsRowAndItsHeader) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, anItemThatIsListedTwiceIsTickedAndCountedTwice) {
+TEST_F(ItemListRowsTest, itemListedTwiceIsToggledAndCountedTwice) {
     fillJunk();
     model().setScanRoots({home, home + "/projects"});
     show();
@@ -77,7 +77,7 @@ TEST_F(ItemRows, anItemThatIsListedTwiceIsTickedAndCountedTwice) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, aTickThatIsRefusedChangesNone) {
+TEST_F(ItemListRowsTest, refusedToggleChangesNoRow) {
     fillJunk();
     machine.workspace.running = {"Cursor"};
     show();
@@ -86,7 +86,7 @@ TEST_F(ItemRows, aTickThatIsRefusedChangesNone) {
     EXPECT_THAT(mirror().changed(), IsEmpty());
 }
 
-TEST_F(ItemRows, aCategorysTickChangesItAndItsItems) {
+TEST_F(ItemListRowsTest, categoryToggleChangesHeaderAndItems) {
     fillJunk();
     show();
     unfoldAll();
@@ -96,7 +96,7 @@ TEST_F(ItemRows, aCategorysTickChangesItAndItsItems) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, aTickOfAFoldedCategoryChangesItAlone) {
+TEST_F(ItemListRowsTest, foldedCategoryToggleChangesHeaderOnly) {
     fillJunk();
     show();
     const int header = named("node_modules");
@@ -105,7 +105,7 @@ TEST_F(ItemRows, aTickOfAFoldedCategoryChangesItAlone) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, unfoldingPutsInExactlyItsItemsAndFoldingTakesThemOut) {
+TEST_F(ItemListRowsTest, unfoldingInsertsAndFoldingRemovesItsItems) {
     fillJunk();
     show();
     const int header = named("node_modules");
@@ -115,7 +115,7 @@ TEST_F(ItemRows, unfoldingPutsInExactlyItsItemsAndFoldingTakesThemOut) {
     EXPECT_THAT(mirror().changed(), ElementsAre(header));
     mirror().expectFresh();
     mirror().forget();
-    list().setOpen(header, true);  // it is
+    list().setOpen(header, true);  // already open
     EXPECT_EQ(mirror().inserted(), 0);
     EXPECT_THAT(mirror().changed(), IsEmpty());
     list().setOpen(header, false);
@@ -125,9 +125,9 @@ TEST_F(ItemRows, unfoldingPutsInExactlyItsItemsAndFoldingTakesThemOut) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, theAgeFilterMovesNoRowThatStays) {
+TEST_F(ItemListRowsTest, ageFilterMovesNoRemainingRow) {
     fillJunk();
-    putInProject(home + "/projects/web2", "node_modules", 80 * megabyte);  // keeps the categories in their order
+    putInProject(home + "/projects/web2", "node_modules", 80 * megabyte);  // keeps the order of the categories
     show();
     unfoldAll();
     const int all = list().rowCount();
@@ -143,7 +143,7 @@ TEST_F(ItemRows, theAgeFilterMovesNoRowThatStays) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, anAgeThatHidesNothingMoreTouchesNoRowButForItsFigures) {
+TEST_F(ItemListRowsTest, ageThatHidesNothingInsertsAndRemovesNoRow) {
     fillJunk();
     show();
     unfoldAll();
@@ -152,8 +152,8 @@ TEST_F(ItemRows, anAgeThatHidesNothingMoreTouchesNoRowButForItsFigures) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, aCategoryThatFallsBehindAnotherIsStillToldOf) {
-    fillJunk();  // 35 MB of modules stand before 30 MB of npm, and 25 MB behind
+TEST_F(ItemListRowsTest, reordersCategoriesConsistently) {
+    fillJunk();  // node_modules shrinks from 35 MB to 25 MB, below the 30 MB of npm
     show();
     unfoldAll();
     list().setAgeDays(14);
@@ -164,7 +164,7 @@ TEST_F(ItemRows, aCategoryThatFallsBehindAnotherIsStillToldOf) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, aSurveyKeepsUnfoldedWhatWas) {
+TEST_F(ItemListRowsTest, surveyKeepsUnfoldedCategories) {
     fillJunk();
     show();
     list().setOpen(named("node_modules"), true);
@@ -177,7 +177,7 @@ TEST_F(ItemRows, aSurveyKeepsUnfoldedWhatWas) {
     EXPECT_FALSE(flag(list(), named("CocoaPods cache"), ItemList::openRole));
 }
 
-TEST_F(ItemRows, unfoldedStaysWhatTheFilterHidMeanwhile) {
+TEST_F(ItemListRowsTest, filterKeepsUnfoldedCategories) {
     fillJunk();
     show();
     list().setOpen(named("node_modules"), true);
@@ -189,7 +189,7 @@ TEST_F(ItemRows, unfoldedStaysWhatTheFilterHidMeanwhile) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, anItemThatIsGoneTakesItsRowAndNoOther) {
+TEST_F(ItemListRowsTest, lostItemRemovesOnlyItsRow) {
     fillJunk();
     putInProject(home + "/projects/web2", "node_modules", 80 * megabyte);
     show();
@@ -203,7 +203,7 @@ TEST_F(ItemRows, anItemThatIsGoneTakesItsRowAndNoOther) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, tellWhatASeedFindsInUse) {
+TEST_F(ItemListRowsTest, newSelectionMarksAppsInUse) {
     fillJunk();
     show();
     unfoldAll();
@@ -215,7 +215,7 @@ TEST_F(ItemRows, tellWhatASeedFindsInUse) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, followAReviewOfCategories) {
+TEST_F(ItemListRowsTest, followsReviewOfCategories) {
     fillJunk();
     show();
     unfoldAll();
@@ -227,13 +227,13 @@ TEST_F(ItemRows, followAReviewOfCategories) {
     EXPECT_EQ(list().footer().toStdString(), "1 items selected");
 }
 
-TEST_F(ItemRows, whoListensMayLookAtAnyTime) {
+TEST_F(ItemListRowsTest, rowsAreReadableInEverySignal) {
     fillJunk();
     show();
     unfoldAll();
-    int looks = 0;
+    int reads = 0;
     const auto look = [&] {
-        ++looks;
+        ++reads;
         for (int row = 0; row < list().rowCount(); ++row) {
             EXPECT_FALSE(text(list(), row, ItemList::spokenRole).empty());
             EXPECT_GE(list().groupRow(row), 0);
@@ -249,11 +249,11 @@ TEST_F(ItemRows, whoListensMayLookAtAnyTime) {
     list().setAgeDays(14);
     loseItem(yarn);
     survey();
-    EXPECT_GT(looks, 4);
+    EXPECT_GT(reads, 4);
     mirror().expectFresh();
 }
 
-TEST_F(ItemRows, amongTwentyThousandATickStillTouchesTwoRows) {
+TEST_F(ItemListRowsTest, toggleAmong20000ItemsChangesTwoRows) {
     for (int item = 0; item < 20'000; ++item)
         machine.directories.file(home + "/p/" + std::to_string(item) + "/__pycache__/m.pyc", 1'000);
     surveyFor(Audience::developer);
