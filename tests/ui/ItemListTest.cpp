@@ -14,9 +14,9 @@ using testing::HasSubstr;
 using testing::StartsWith;
 using Audience = AppModel::Audience;
 
-class Items : public ReclaimFixture {
+class ItemListTest : public ReclaimFixture {
 protected:
-    Items() { fillJunk(); }
+    ItemListTest() { fillJunk(); }
 
     ItemList& list() { return *screen().items(); }
     std::string text(int row, int role) { return ReclaimFixture::text(list(), row, role); }
@@ -43,11 +43,11 @@ protected:
 
 }  // namespace
 
-TEST_F(Items, filtersByAgeUpToHalfAYear) {
+TEST_F(ItemListTest, limitsAgeFilterTo180Days) {
     EXPECT_EQ(list().mostAgeDays(), 180);
 }
 
-TEST_F(Items, beginFoldedUpTheLargestCategoryFirstWithTwoWeeksOfRest) {
+TEST_F(ItemListTest, startsFoldedBySizeWithAgeOf14Days) {
     surveyFor(Audience::developer);
     EXPECT_EQ(list().ageDays(), 14);
     EXPECT_EQ(list().ageText().toStdString(), "14 days");
@@ -79,7 +79,7 @@ TEST_F(Items, beginFoldedUpTheLargestCategoryFirstWithTwoWeeksOfRest) {
     }
 }
 
-TEST_F(Items, everyTickButThoseOfReviewIsSetAtFirst) {
+TEST_F(ItemListTest, selectsAllButReviewItems) {
     surveyFor(Audience::developer);
     std::vector<bool> ticks;
     for (int row = 0; row < 5; ++row) ticks.push_back(flag(row, ItemList::chosenRole));
@@ -88,7 +88,7 @@ TEST_F(Items, everyTickButThoseOfReviewIsSetAtFirst) {
     EXPECT_TRUE(list().cleanable());
 }
 
-TEST_F(Items, anUnfoldedCategoryListsItsItemsTheLargestFirst) {
+TEST_F(ItemListTest, unfoldedCategoryListsItemsBySize) {
     surveyFor(Audience::developer);
     list().setAgeDays(0);
     list().setOpen(named("node_modules"), true);
@@ -108,7 +108,7 @@ TEST_F(Items, anUnfoldedCategoryListsItsItemsTheLargestFirst) {
     EXPECT_FALSE(flag(4, ItemList::groupRole));
 }
 
-TEST_F(Items, aWholeRowIsSaidToAScreenReader) {
+TEST_F(ItemListTest, accessibleTextCoversTheWholeRow) {
     surveyWhileRunning({"Cursor"});
     const std::string spoken = text(inFolder(home + "/Library/Application Support/Cursor"), ItemList::spokenRole);
     for (const char* part : {"Cache", "5 MB", "100d", "quit Cursor to clear", "/Application Support/Cursor"})
@@ -116,31 +116,31 @@ TEST_F(Items, aWholeRowIsSaidToAScreenReader) {
     EXPECT_THAT(text(inFolder(home + "/projects/py"), ItemList::spokenRole), StartsWith(".venv"));
 }
 
-TEST_F(Items, aCategorySaysWhetherItIsUnfolded) {
+TEST_F(ItemListTest, accessibleTextTellsFoldedState) {
     surveyFor(Audience::developer);
     EXPECT_THAT(text(0, ItemList::spokenRole), HasSubstr("collapsed"));
     list().setOpen(0, true);
     EXPECT_THAT(text(0, ItemList::spokenRole), HasSubstr("expanded"));
 }
 
-TEST_F(Items, whatAToolCleansNamesTheTool) {
+TEST_F(ItemListTest, showsCommandOfCommandItem) {
     surveyWhileRunning({});
     const int row = inFolder(home + "/.npm");
     EXPECT_EQ(text(row, ItemList::nameRole), "_cacache");
     EXPECT_EQ(text(row, ItemList::lineRole), "/usr/bin/env npm cache clean --force");
 }
 
-TEST_F(Items, agesAreCutOffToWholeDays) {
+TEST_F(ItemListTest, truncatesAgesToWholeDays) {
     put(home + "/Library/Caches/CocoaPods", megabyte, 19.99);
     put(home + "/Library/Caches/com.apple.Photos", megabyte, 0.99);
-    put(home + "/Library/Caches/com.apple.Music", megabyte, -3.5);  // a clock that was wrong
+    put(home + "/Library/Caches/com.apple.Music", megabyte, -3.5);  // modified in the future
     surveyWhileRunning({});
     EXPECT_EQ(text(named("CocoaPods"), ItemList::ageRole), "19d");
     EXPECT_EQ(text(named("com.apple.Photos"), ItemList::ageRole), "0d");
     EXPECT_EQ(text(named("com.apple.Music"), ItemList::ageRole), "-3d");
 }
 
-TEST_F(Items, anItemOfExactlyTheFiltersAgeIsHidden) {
+TEST_F(ItemListTest, hidesItemOfExactlyTheFilterAge) {
     put(home + "/Library/Caches/CocoaPods", megabyte, 14);
     surveyFor(Audience::developer);
     EXPECT_EQ(named("CocoaPods cache"), -1);
@@ -152,7 +152,7 @@ TEST_F(Items, anItemOfExactlyTheFiltersAgeIsHidden) {
     EXPECT_EQ(shown(), "6 of 8 shown");
 }
 
-TEST_F(Items, theSliderAtZeroShowsAllAndTheSameNumberTwice) {
+TEST_F(ItemListTest, ageOfZeroShowsAll) {
     surveyFor(Audience::developer);
     list().setAgeDays(0);
     EXPECT_EQ(list().ageText().toStdString(), "all");
@@ -162,7 +162,7 @@ TEST_F(Items, theSliderAtZeroShowsAllAndTheSameNumberTwice) {
     EXPECT_EQ(shown(), "7 of 7 shown");
 }
 
-TEST_F(Items, whereAllIsTooYoungTheListSaysSo) {
+TEST_F(ItemListTest, reportsThatAllItemsAreTooYoung) {
     surveyFor(Audience::developer);
     EXPECT_FALSE(list().allYoung());
     list().setAgeDays(180);
@@ -175,7 +175,7 @@ TEST_F(Items, whereAllIsTooYoungTheListSaysSo) {
     EXPECT_FALSE(screen().reviewing());
 }
 
-TEST_F(Items, whatTheFilterHidesStaysTickedAndIsNotCleaned) {
+TEST_F(ItemListTest, hiddenItemsStaySelectedButAreNotCleaned) {
     surveyFor(Audience::developer);
     EXPECT_EQ(footer(), "4 items selected / 110 MB");
     list().setAgeDays(0);
@@ -186,7 +186,7 @@ TEST_F(Items, whatTheFilterHidesStaysTickedAndIsNotCleaned) {
     EXPECT_EQ(screen().cleanup().selection().selected().size(), 6U);
 }
 
-TEST_F(Items, theSettingsOfTheApplicationChangeNothingHere) {
+TEST_F(ItemListTest, ignoresApplicationSettings) {
     model().setAgeFilterDays(90);
     model().setHardDeleteEnabled(true);
     surveyFor(Audience::developer);
@@ -197,7 +197,7 @@ TEST_F(Items, theSettingsOfTheApplicationChangeNothingHere) {
     EXPECT_EQ(model().ageFilterDays(), 90);
 }
 
-TEST_F(Items, aTickIsSetAndTakenAway) {
+TEST_F(ItemListTest, toggleSelectsAndDeselectsItem) {
     surveyFor(Audience::developer);
     list().setAgeDays(0);
     unfoldAll();
@@ -212,7 +212,7 @@ TEST_F(Items, aTickIsSetAndTakenAway) {
     EXPECT_EQ(footer(), "6 items selected / 122 MB");
 }
 
-TEST_F(Items, aCategoryThatIsPartlyTickedIsTickedAsAWhole) {
+TEST_F(ItemListTest, partlySelectedCategoryIsSelectedFirst) {
     surveyFor(Audience::developer);
     list().setAgeDays(0);
     unfoldAll();
@@ -228,7 +228,7 @@ TEST_F(Items, aCategoryThatIsPartlyTickedIsTickedAsAWhole) {
     EXPECT_EQ(footer(), "4 items selected / 87 MB");
 }
 
-TEST_F(Items, aCategorysTickReachesOnlyWhatTheFilterShows) {
+TEST_F(ItemListTest, categoryToggleSkipsFilteredItems) {
     surveyFor(Audience::developer);
     list().toggle(named("node_modules"));
     list().setAgeDays(0);
@@ -237,14 +237,14 @@ TEST_F(Items, aCategorysTickReachesOnlyWhatTheFilterShows) {
     EXPECT_TRUE(flag(inFolder(home + "/projects/app"), ItemList::chosenRole));
 }
 
-TEST_F(Items, aReviewItemMayBeTickedByHand) {
+TEST_F(ItemListTest, reviewItemCanBeSelected) {
     surveyFor(Audience::developer);
     list().toggle(named("Python .venv"));
     EXPECT_TRUE(flag(named("Python .venv"), ItemList::chosenRole));
     EXPECT_EQ(footer(), "5 items selected / 150 MB");
 }
 
-TEST_F(Items, whatARunningApplicationUsesCannotBeTicked) {
+TEST_F(ItemListTest, itemInUseCannotBeSelected) {
     surveyWhileRunning({"Cursor"});
     const int row = inFolder(home + "/Library/Application Support/Cursor");
     EXPECT_EQ(text(row, ItemList::lineRole), "quit Cursor to clear");
@@ -257,21 +257,21 @@ TEST_F(Items, whatARunningApplicationUsesCannotBeTicked) {
     EXPECT_EQ(footer(), "5 items selected / 117 MB");
 }
 
-TEST_F(Items, aCategorysTickSkipsWhatIsInUse) {
+TEST_F(ItemListTest, categoryToggleSkipsItemsInUse) {
     surveyWhileRunning({"Cursor"});
     const int header = named("App caches (Electron)");
-    EXPECT_TRUE(flag(header, ItemList::chosenRole));  // all of it that can be
+    EXPECT_TRUE(flag(header, ItemList::chosenRole));  // all that is not in use
     list().toggle(header);
     EXPECT_FALSE(flag(header, ItemList::chosenRole));
     EXPECT_EQ(footer(), "4 items selected / 115 MB");
-    EXPECT_TRUE(screen().cleanup().selection().selected().contains(cursorCache));  // left as it was
+    EXPECT_TRUE(screen().cleanup().selection().selected().contains(cursorCache));  // unchanged
     list().toggle(header);
     EXPECT_TRUE(flag(header, ItemList::chosenRole));
     EXPECT_FALSE(flag(inFolder(home + "/Library/Application Support/Cursor"), ItemList::chosenRole));
     EXPECT_EQ(footer(), "5 items selected / 117 MB");
 }
 
-TEST_F(Items, aCategoryThatIsAllInUseHasNothingToTick) {
+TEST_F(ItemListTest, categoryEntirelyInUseCannotBeSelected) {
     surveyWhileRunning({"Slack", "Cursor"});
     const int header = named("App caches (Electron)");
     EXPECT_FALSE(flag(header, ItemList::chosenRole));
@@ -282,7 +282,7 @@ TEST_F(Items, aCategoryThatIsAllInUseHasNothingToTick) {
     EXPECT_EQ(screen().cleanup().selection().selected(), before);
 }
 
-TEST_F(Items, theReviewHoldsWhatIsTickedShownAndNotInUse) {
+TEST_F(ItemListTest, reviewHoldsSelectedVisibleItemsNotInUse) {
     surveyWhileRunning({"Cursor"});
     list().toggle(named("Yarn cache"));
     list().clean();
@@ -292,7 +292,7 @@ TEST_F(Items, theReviewHoldsWhatIsTickedShownAndNotInUse) {
     EXPECT_THAT(ids, ElementsAre(npm, slackCache, appModules, webModules));
 }
 
-TEST_F(Items, hostileNamesAreShownRepaired) {
+TEST_F(ItemListTest, showsHostileNamesRepaired) {
     putInProject(home + "/pro\njects\xFF", "node_modules", 90 * megabyte);
     surveyFor(Audience::developer);
     list().setOpen(0, true);
@@ -302,7 +302,7 @@ TEST_F(Items, hostileNamesAreShownRepaired) {
     EXPECT_EQ(footer(), "5 items selected / 200 MB");
 }
 
-TEST_F(Items, aPressBesideTheRowsDoesNothing) {
+TEST_F(ItemListTest, ignoresInvalidRows) {
     surveyFor(Audience::developer);
     for (const int row : {-1, 5, 100}) {
         list().toggle(row);
@@ -313,12 +313,12 @@ TEST_F(Items, aPressBesideTheRowsDoesNothing) {
     EXPECT_EQ(list().rowCount(), 5);
     EXPECT_EQ(footer(), "4 items selected / 110 MB");
     list().setOpen(0, true);
-    list().setOpen(1, true);  // an item
+    list().setOpen(1, true);  // an item, not a category
     EXPECT_EQ(list().rowCount(), 6);
     EXPECT_EQ(list().rowCount(list().index(0)), 0);
 }
 
-TEST_F(Items, aPressUnfoldsACategoryAndTicksAnItem) {
+TEST_F(ItemListTest, pressTogglesFoldOfCategoryAndSelectionOfItem) {
     surveyFor(Audience::developer);
     list().press(0);
     EXPECT_EQ(list().rowCount(), 6);

@@ -15,7 +15,7 @@ namespace zelk {
 
 namespace {
 
-/// Every unit of text is one wide.
+/// A monospaced font in which a UTF-16 unit is 1 wide.
 double units(const QString& text) {
     return static_cast<double>(text.size());
 }
@@ -24,8 +24,8 @@ QString fitted(const QString& label, double room) {
     return fittedLabel(label, room, 1, units);
 }
 
-/// One after the other, from the longest.
-QString fittedPlainly(const QString& label, double room, const std::function<double(const QString&)>& widthOf) {
+/// Tries every prefix, from the longest down.
+QString fittedByLinearSearch(const QString& label, double room, const std::function<double(const QString&)>& widthOf) {
     if (label.isEmpty() || widthOf(label) <= room) return label;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, label);
     finder.toEnd();
@@ -36,32 +36,32 @@ QString fittedPlainly(const QString& label, double room, const std::function<dou
 
 }  // namespace
 
-TEST(LabelFitting, whatFitsStaysWhole) {
+TEST(LabelFitting, keepsLabelThatFits) {
     EXPECT_EQ(fitted(QStringLiteral("Caches"), 6), QStringLiteral("Caches"));
     EXPECT_EQ(fitted(QStringLiteral("Caches"), 100), QStringLiteral("Caches"));
 }
 
-TEST(LabelFitting, whatDoesNotFitEndsInAnEllipsisThatFits) {
+TEST(LabelFitting, elidesWithinRoom) {
     EXPECT_EQ(fitted(QStringLiteral("Caches"), 5.9), QStringLiteral("Cach…"));
     EXPECT_EQ(fitted(QStringLiteral("Caches"), 5), QStringLiteral("Cach…"));
     EXPECT_EQ(fitted(QStringLiteral("Caches"), 2), QStringLiteral("C…"));
 }
 
-TEST(LabelFitting, anEmptyLabelStaysEmpty) {
+TEST(LabelFitting, keepsEmptyLabel) {
     EXPECT_EQ(fitted({}, 5), QString());
     EXPECT_EQ(fitted({}, -5), QString());
 }
 
-TEST(LabelFitting, aLabelOfOneCharacterIsWholeOrNotThere) {
+TEST(LabelFitting, oneCharacterIsNotElided) {
     EXPECT_EQ(fitted(QStringLiteral("C"), 1), QStringLiteral("C"));
     EXPECT_EQ(fitted(QStringLiteral("C"), 0.5), QString());
 }
 
-TEST(LabelFitting, nothingIsLeftWhereNotEvenOneCharacterFits) {
+TEST(LabelFitting, isEmptyWithoutRoomForOneCharacter) {
     EXPECT_EQ(fitted(QStringLiteral("Caches"), 1.5), QString());
 }
 
-TEST(LabelFitting, noAccentAndNoEmojiIsCutInTwo) {
+TEST(LabelFitting, doesNotSplitGraphemeClusters) {
     const QString accent = QStringLiteral("e\u0301");             // two units
     const QString family = QStringLiteral("👨‍👩‍👧");  // eight
     EXPECT_EQ(fitted(accent + accent + accent, 4), accent + QStringLiteral("…"));
@@ -69,7 +69,7 @@ TEST(LabelFitting, noAccentAndNoEmojiIsCutInTwo) {
     EXPECT_EQ(fitted(family + family, 8), QString());
 }
 
-TEST(LabelFitting, aLongLabelIsMeasuredAFewTimesOnly) {
+TEST(LabelFitting, measuresLongLabelAFewTimes) {
     int measured = 0;
     qsizetype mostUnits = 0;
     const QString label(200, u'n');
@@ -83,12 +83,12 @@ TEST(LabelFitting, aLongLabelIsMeasuredAFewTimesOnly) {
     EXPECT_LE(mostUnits, 48);
 }
 
-TEST(LabelFitting, findsWhatTryingThemAllWouldInTheRealFace) {
+TEST(LabelFitting, matchesLinearSearchWithRealFont) {
     QFont font = QGuiApplication::font();
     font.setPixelSize(13);
     const QFontMetricsF metrics(font);
     const auto widthOf = [&](const QString& text) { return metrics.horizontalAdvance(text); };
-    // Letters that join, accents, emoji, wide and narrow ones.
+    // Ligatures, joining letters, accents, emoji, wide and narrow characters.
     const std::vector<QString> letters{QStringLiteral("i"), QStringLiteral("W"),     QStringLiteral("A"),
                                        QStringLiteral("V"), QStringLiteral("T"),     QStringLiteral("ل"),
                                        QStringLiteral("ا"), QStringLiteral("م"),     QStringLiteral("e\u0301"),
@@ -99,7 +99,8 @@ TEST(LabelFitting, findsWhatTryingThemAllWouldInTheRealFace) {
         QString label;
         for (auto count = random() % 40; count > 0; --count) label += letters[random() % letters.size()];
         const double room = static_cast<double>(random() % 2000) / 10;
-        EXPECT_EQ(fittedLabel(label, room, 13, widthOf), fittedPlainly(label, room, widthOf)) << label.toStdString();
+        EXPECT_EQ(fittedLabel(label, room, 13, widthOf), fittedByLinearSearch(label, room, widthOf))
+            << label.toStdString();
     }
 }
 

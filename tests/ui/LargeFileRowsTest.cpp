@@ -38,7 +38,7 @@ std::vector<std::string> all(const LargeFileRows& rows, const char* role) {
 
 }  // namespace
 
-TEST(LargeFileRows, aRowTellsWhatAFileIsWhereItLiesHowOldAndHowLargeItIs) {
+TEST(LargeFileRows, rowShowsSymbolNameFolderAgeAndSize) {
     LargeFileRows rows;
     rows.show({file("/home/me/a film.mov", 3'000'000'000, 400, FileType::video)}, rowsNow);
     EXPECT_EQ(text(rows, 0, "symbol"), "film");
@@ -51,7 +51,7 @@ TEST(LargeFileRows, aRowTellsWhatAFileIsWhereItLiesHowOldAndHowLargeItIs) {
     EXPECT_EQ(text(rows, 0, "actions"), "Actions for a film.mov");
 }
 
-TEST(LargeFileRows, everyTypeHasItsSymbol) {
+TEST(LargeFileRows, givesEachTypeItsSymbol) {
     LargeFileRows rows;
     std::vector<LargeFile> files;
     for (const FileType type : allFileTypes) files.push_back(file("/" + std::string(rawValue(type)), 1, 0, type));
@@ -60,7 +60,7 @@ TEST(LargeFileRows, everyTypeHasItsSymbol) {
                 ElementsAre("film", "music.note", "photo", "doc.zipper", "opticaldiscdrive", "doc.text", "doc"));
 }
 
-TEST(LargeFileRows, agesAreWholeDaysMonthsAndYears) {
+TEST(LargeFileRows, showsAgesInWholeUnits) {
     LargeFileRows rows;
     rows.show({file("/a", 1, 0.5), file("/b", 1, 1), file("/c", 1, 29.9), file("/d", 1, 30), file("/e", 1, 364),
                file("/f", 1, 365), file("/g", 1, 730)},
@@ -68,20 +68,20 @@ TEST(LargeFileRows, agesAreWholeDaysMonthsAndYears) {
     EXPECT_THAT(all(rows, "age"), ElementsAre("today", "1d ago", "29d ago", "1mo ago", "12mo ago", "1y ago", "2y ago"));
 }
 
-TEST(LargeFileRows, aFileOfTheFutureIsOfToday) {
+TEST(LargeFileRows, futureFileIsFromToday) {
     LargeFileRows rows;
     rows.show({file("/a", 1, -0.5), file("/b", 1, -1000)}, rowsNow);
     EXPECT_THAT(all(rows, "age"), ElementsAre("today", "today"));
 }
 
-TEST(LargeFileRows, theFolderOfWhatLiesAtTheTopIsTheTop) {
+TEST(LargeFileRows, folderOfTopLevelFileIsSlash) {
     LargeFileRows rows;
     rows.show({file("/swap")}, rowsNow);
     EXPECT_EQ(text(rows, 0, "name"), "swap");
     EXPECT_EQ(text(rows, 0, "folder"), "/");
 }
 
-TEST(LargeFileRows, namesThatAreNoTextAreRepairedOnScreenAloneAndStayInOneLine) {
+TEST(LargeFileRows, repairsInvalidNamesForDisplayOnly) {
     LargeFileRows rows;
     const std::string path = "/home/\xff/a\nb\xc3.mov";
     rows.show({file(path)}, rowsNow);
@@ -90,14 +90,14 @@ TEST(LargeFileRows, namesThatAreNoTextAreRepairedOnScreenAloneAndStayInOneLine) 
     EXPECT_EQ(rows.pathAt(0), path);
 }
 
-TEST(LargeFileRows, thereIsNoPathBesideTheRows) {
+TEST(LargeFileRows, pathOfInvalidRowIsEmpty) {
     LargeFileRows rows;
     rows.show({file("/a")}, rowsNow);
     EXPECT_EQ(rows.pathAt(-1), "");
     EXPECT_EQ(rows.pathAt(1), "");
 }
 
-TEST(LargeFileRows, onlyWhatIsOfNoTypeFollowsTheTheme) {
+TEST(LargeFileRows, onlyOtherTypeFollowsTheme) {
     LargeFileRows rows;
     rows.show({file("/a"), file("/b.mov", 1, 0, FileType::video)}, rowsNow);
     const auto tint = [&](int row) { return rows.data(rows.index(row), LargeFileRows::tintRole).value<QColor>(); };
@@ -107,7 +107,7 @@ TEST(LargeFileRows, onlyWhatIsOfNoTypeFollowsTheTheme) {
     EXPECT_EQ(tint(1), QColor(232, 91, 196));
 }
 
-TEST(LargeFileRows, aFileThatGoesTakesItsRowAloneWithIt) {
+TEST(LargeFileRows, removedFileRemovesOnlyItsRow) {
     LargeFileRows rows;
     rows.show({file("/a"), file("/b"), file("/c")}, rowsNow);
     const QSignalSpy removed(&rows, &QAbstractItemModel::rowsRemoved);
@@ -121,7 +121,7 @@ TEST(LargeFileRows, aFileThatGoesTakesItsRowAloneWithIt) {
     EXPECT_THAT(all(rows, "name"), ElementsAre("a", "c"));
 }
 
-TEST(LargeFileRows, anotherOrderMovesRowsAndResetsNothing) {
+TEST(LargeFileRows, reorderingDoesNotReset) {
     LargeFileRows rows;
     rows.show({file("/a"), file("/b"), file("/c"), file("/d")}, rowsNow);
     const QSignalSpy reset(&rows, &QAbstractItemModel::modelReset);
@@ -130,7 +130,7 @@ TEST(LargeFileRows, anotherOrderMovesRowsAndResetsNothing) {
     EXPECT_THAT(all(rows, "name"), ElementsAre("d", "b", "c", "a"));
 }
 
-TEST(LargeFileRows, aFileThatIsListedTwiceHasTwoRows) {
+TEST(LargeFileRows, fileListedTwiceHasTwoRows) {
     LargeFileRows rows;
     rows.show({file("/a"), file("/a"), file("/b")}, rowsNow);
     EXPECT_THAT(all(rows, "name"), ElementsAre("a", "a", "b"));
@@ -140,7 +140,7 @@ TEST(LargeFileRows, aFileThatIsListedTwiceHasTwoRows) {
     EXPECT_THAT(all(rows, "name"), ElementsAre("b"));
 }
 
-TEST(LargeFileRows, aFileThatGrewOrAgedIsToldAnew) {
+TEST(LargeFileRows, signalsChangedSizeAndAge) {
     LargeFileRows rows;
     rows.show({file("/a", 1'000'000)}, rowsNow);
     const QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
@@ -150,9 +150,9 @@ TEST(LargeFileRows, aFileThatGrewOrAgedIsToldAnew) {
     EXPECT_EQ(changed.size(), 1);
 }
 
-// As the home screen lists them: the first few of a survey, from one survey to the next.
+// The way Overview uses the model: the first few files, updated from survey to survey.
 
-TEST(LargeFileRows, showsFewerWhereThereAreFewer) {
+TEST(LargeFileRows, followsRowCount) {
     LargeFileRows list;
     EXPECT_EQ(list.rowCount(), 0);
     list.show(someFiles(4), rowsNow);
@@ -161,7 +161,7 @@ TEST(LargeFileRows, showsFewerWhereThereAreFewer) {
     EXPECT_EQ(list.rowCount(), 0);
 }
 
-TEST(LargeFileRows, aRowHasTheSymbolOfItsTypeItsNameAndItsSize) {
+TEST(LargeFileRows, rowShowsSymbolNamePathAndSize) {
     LargeFileRows list;
     list.show({file("/home/me/a film.mov", 3'000'000'000, 0, FileType::video),
                file("/home/me/disk/system.iso", 60'000'000, 0, FileType::diskImage)},
@@ -175,7 +175,7 @@ TEST(LargeFileRows, aRowHasTheSymbolOfItsTypeItsNameAndItsSize) {
     EXPECT_EQ(text(list, 1, "size"), "60 MB");
 }
 
-TEST(LargeFileRows, theTintFollowsTheTheme) {
+TEST(LargeFileRows, themeChangeUpdatesTint) {
     LargeFileRows list;
     list.show({file("/a", 1)}, rowsNow);
     const auto tint = [&] { return list.data(list.index(0), LargeFileRows::tintRole).value<QColor>(); };
@@ -186,7 +186,7 @@ TEST(LargeFileRows, theTintFollowsTheTheme) {
     EXPECT_EQ(tint(), withOpacity(ZelkTheme::light().inkSoft, 0.5));
 }
 
-TEST(LargeFileRows, aFileThatIsTakenAwayLeavesTheOtherRowsAlone) {
+TEST(LargeFileRows, replacingAFileKeepsOtherRows) {
     LargeFileRows list;
     const std::vector<LargeFile> before = someFiles(6);
     list.show({before[0], before[1], before[2], before[3], before[4]}, rowsNow);
@@ -203,7 +203,7 @@ TEST(LargeFileRows, aFileThatIsTakenAwayLeavesTheOtherRowsAlone) {
     EXPECT_TRUE(reset.isEmpty());
 }
 
-TEST(LargeFileRows, takesOverAnotherOrder) {
+TEST(LargeFileRows, followsNewOrder) {
     LargeFileRows list;
     const std::vector<LargeFile> before = someFiles(5);
     list.show(before, rowsNow);
@@ -211,7 +211,7 @@ TEST(LargeFileRows, takesOverAnotherOrder) {
     EXPECT_THAT(all(list, "name"), ElementsAre("4", "1", "0", "3", "2"));
 }
 
-TEST(LargeFileRows, twoFilesThatAreAlikeInAllAreTwoRows) {
+TEST(LargeFileRows, identicalFilesHaveTwoRows) {
     LargeFileRows list;
     list.show({file("/a", 5), file("/a", 5), file("/b", 4)}, rowsNow);
     EXPECT_THAT(all(list, "name"), ElementsAre("a", "a", "b"));
@@ -219,7 +219,7 @@ TEST(LargeFileRows, twoFilesThatAreAlikeInAllAreTwoRows) {
     EXPECT_THAT(all(list, "name"), ElementsAre("a", "b"));
 }
 
-TEST(LargeFileRows, aFileThatGrewShowsItsNewSize) {
+TEST(LargeFileRows, updatesSizeOfGrownFile) {
     LargeFileRows list;
     list.show({file("/a", 1'000'000)}, rowsNow);
     list.show({file("/a", 2'000'000)}, rowsNow);

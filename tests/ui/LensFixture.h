@@ -13,7 +13,7 @@
 
 namespace zelk {
 
-/// The screen on a machine in memory, on which everything that a survey finds can also go to the Trash.
+/// A Lens screen on an in-memory machine, where everything that a survey finds can also be moved to the Trash.
 template <class Base>
 class LensFixtureOn : public Base {
 protected:
@@ -25,19 +25,20 @@ protected:
     }
     void destroyLens() { lens_.reset(); }
 
-    /// A file that is there for the survey and for the Trash.
+    /// Adds a file that both the survey and the Trash see. The path is relative to the home folder.
     void put(const std::string& below, std::int64_t bytes) {
         this->machine.directories.file(this->home + below, bytes, 1'000);
         this->machine.files.addFile(this->home + below);
     }
-    /// "Library" (50 MB in "Caches/Yarn"), "projects" (90 MB, of which "app/node_modules" has 10 MB), "music" (8 MB).
+    /// Adds "Library" (50 MB in "Caches/Yarn"), "projects" (90 MB, 10 MB of it in "app/node_modules") and
+    /// "music" (8 MB).
     void fill() {
         put("/Library/Caches/Yarn/v6", 50'000'000);
         put("/projects/app/node_modules/a.js", 10'000'000);
         put("/projects/film.mov", 80'000'000);
         put("/music/song.flac", 8'000'000);
     }
-    /// As many folders as that, the first the largest.
+    /// Adds `count` folders, the largest first.
     void addMany(const std::string& below, int count) {
         for (int at = 0; at < count; ++at)
             put(below + "/folder " + std::to_string(at) + "/file", 1'000'000 * (count - at));
@@ -70,7 +71,7 @@ protected:
         return slices().front();
     }
 
-    /// The removal from beginning to end.
+    /// Starts the removal and waits for its end.
     void removeSelected() {
         const int before = lens().version();
         lens().removeSelected();

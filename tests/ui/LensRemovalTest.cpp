@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is ticked goes to the Trash and out of the results, and nothing else does.
+// Removal moves exactly the selected folders to the Trash and takes them out of the results.
 #include "LensFixture.h"
 
 namespace zelk {
@@ -16,7 +16,7 @@ protected:
 
 }  // namespace
 
-TEST_F(LensRemoval, whatIsTickedGoesInTheOrderOfItsPaths) {
+TEST_F(LensRemoval, removesSelectedFoldersInPathOrder) {
     fill();
     survey();
     toggle("music");
@@ -31,11 +31,11 @@ TEST_F(LensRemoval, whatIsTickedGoesInTheOrderOfItsPaths) {
     EXPECT_EQ(caption(), "No items selected");
     EXPECT_THAT(names(), IsEmpty());
     lens().back();
-    EXPECT_THAT(names(), IsEmpty()) << "what is left holds no bytes";
+    EXPECT_THAT(names(), IsEmpty()) << "the folder that is left is empty";
     EXPECT_EQ(lens().placeLine(), QStringLiteral("0 bytes · 1 folders"));
 }
 
-TEST_F(LensRemoval, theTotalsFollow) {
+TEST_F(LensRemoval, updatesTotals) {
     fill();
     survey();
     drill("projects");
@@ -44,14 +44,14 @@ TEST_F(LensRemoval, theTotalsFollow) {
     EXPECT_EQ(lens().placeLine(), QStringLiteral("80 MB · 0 folders"));
     EXPECT_EQ(model().root()->size, 138'000'000);
     EXPECT_EQ(model().topFolders().front()->size, 80'000'000);
-    EXPECT_EQ(model().bytesScanned(), 148'000'000) << "that is the survey as it ran";
+    EXPECT_EQ(model().bytesScanned(), 148'000'000) << "the figure of the survey stays";
     lens().back();
     EXPECT_EQ(lens().placeLine(), QStringLiteral("138 MB · 3 folders"));
     EXPECT_THAT(column(LensRows::sizeRole), ElementsAre("80 MB", "50 MB", "8 MB"));
     EXPECT_EQ(slices().front().bytes, 80'000'000);
 }
 
-TEST_F(LensRemoval, whatCouldNotGoStaysUnticked) {
+TEST_F(LensRemoval, keepsFailedFolderDeselected) {
     fill();
     survey();
     machine.files.failing = [&](const auto& call) { return call.operation == "trash" && call.path == home + "/music"; };
@@ -64,7 +64,7 @@ TEST_F(LensRemoval, whatCouldNotGoStaysUnticked) {
     EXPECT_EQ(lens().version(), 1);
 }
 
-TEST_F(LensRemoval, whatHasVanishedFromTheDiskStays) {
+TEST_F(LensRemoval, keepsFolderThatVanishedFromDisk) {
     fill();
     survey();
     ASSERT_FALSE(machine.files.remove(*ItemPath::from(home + "/music")));
@@ -75,7 +75,7 @@ TEST_F(LensRemoval, whatHasVanishedFromTheDiskStays) {
     EXPECT_FALSE(lens().removable());
 }
 
-TEST_F(LensRemoval, theMainThreadDoesNotWaitForTheDisk) {
+TEST_F(LensRemoval, removesOffMainThread) {
     fill();
     survey();
     lens();
@@ -84,13 +84,13 @@ TEST_F(LensRemoval, theMainThreadDoesNotWaitForTheDisk) {
     lens().removeSelected();
     EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::userInitiated});
     EXPECT_THAT(trashed(), IsEmpty());
-    EXPECT_FALSE(lens().removable()) << "it cannot be pressed twice";
+    EXPECT_FALSE(lens().removable()) << "a second press is refused";
     machine.tasks.release();
     runUntilRemoved(0);
     EXPECT_THAT(names(), IsEmpty());
 }
 
-TEST_F(LensRemoval, aFolderInsideAnotherGoesWithIt) {
+TEST_F(LensRemoval, removesNestedFolderWithItsParent) {
     fill();
     survey();
     toggle("projects");
@@ -102,7 +102,7 @@ TEST_F(LensRemoval, aFolderInsideAnotherGoesWithIt) {
     EXPECT_EQ(model().root()->size, 58'000'000);
 }
 
-TEST_F(LensRemoval, aFolderWhoseNameOnlyBeginsAlikeStays) {
+TEST_F(LensRemoval, keepsFolderWithLongerName) {
     fill();
     put("/music box/tune", 1'000);
     survey();
@@ -112,7 +112,7 @@ TEST_F(LensRemoval, aFolderWhoseNameOnlyBeginsAlikeStays) {
     EXPECT_TRUE(machine.files.exists(home + "/music box/tune"));
 }
 
-TEST_F(LensRemoval, whoStandsInAFolderThatGoesStaysThere) {
+TEST_F(LensRemoval, staysInsideRemovedFolder) {
     fill();
     survey();
     toggle("projects");
@@ -123,13 +123,13 @@ TEST_F(LensRemoval, whoStandsInAFolderThatGoesStaysThere) {
     EXPECT_EQ(lens().walk().currentNode()->fullPath(), home + "/projects");
     toggle("app");
     removeSelected();
-    EXPECT_THAT(trashed(), ElementsAre(home + "/projects")) << "it is not there any more";
+    EXPECT_THAT(trashed(), ElementsAre(home + "/projects")) << "it went with its parent";
     EXPECT_EQ(model().root()->size, 58'000'000);
     lens().back();
     EXPECT_THAT(names(), ElementsAre("Library", "music"));
 }
 
-TEST_F(LensRemoval, fromAnOlderTreeIsSeenThereAndInTheNewOne) {
+TEST_F(LensRemoval, removalFromOlderTreeUpdatesBothTrees) {
     fill();
     survey();
     drill("projects");
@@ -144,7 +144,7 @@ TEST_F(LensRemoval, fromAnOlderTreeIsSeenThereAndInTheNewOne) {
     EXPECT_EQ(model().root()->size, 138'000'000);
 }
 
-TEST_F(LensRemoval, whatWasTickedBeforeTheSurveyGoesAlsoWhereNothingElseHoldsItsTree) {
+TEST_F(LensRemoval, selectionKeepsItsOlderTreeAlive) {
     fill();
     survey();
     toggle("music");
@@ -156,7 +156,7 @@ TEST_F(LensRemoval, whatWasTickedBeforeTheSurveyGoesAlsoWhereNothingElseHoldsIts
     EXPECT_EQ(model().root()->size, 140'000'000);
 }
 
-TEST_F(LensRemoval, tensOfThousandsOfAnOlderTreeGoLikeOne) {
+TEST_F(LensRemoval, removesThousandsOfFoldersOfOlderTree) {
     constexpr int count = 20'000;
     for (int at = 0; at < count; ++at) put("/many/folder " + std::to_string(at) + "/file", 1'000 + at);
     put("/music/song.flac", 8'000'000);
@@ -171,7 +171,7 @@ TEST_F(LensRemoval, tensOfThousandsOfAnOlderTreeGoLikeOne) {
     EXPECT_THAT(names(), ElementsAre("music"));
 }
 
-TEST_F(LensRemoval, aSurveyMayBeginBeforeItHasGone) {
+TEST_F(LensRemoval, surveyMayStartDuringRemoval) {
     fill();
     survey();
     toggle("music");
@@ -187,11 +187,12 @@ TEST_F(LensRemoval, aSurveyMayBeginBeforeItHasGone) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
     EXPECT_EQ(lens().walk().root(), model().root());
     EXPECT_EQ(lens().version(), 1);
-    EXPECT_THAT(names(), ElementsAre("projects", "Library")) << "the walk may have come by before";
+    EXPECT_THAT(names(), ElementsAre("projects", "Library"))
+        << "the survey may have read the folder before it was removed";
     EXPECT_EQ(model().root()->size, 140'000'000);
 }
 
-TEST_F(LensRemoval, aSurveyMayEndBeforeItHasGone) {
+TEST_F(LensRemoval, surveyMayFinishDuringRemoval) {
     fill();
     survey();
     drill("projects");
@@ -206,15 +207,15 @@ TEST_F(LensRemoval, aSurveyMayEndBeforeItHasGone) {
     runUntil([&] { return model().scanPhase() == Phase::finished && lens().version() == 1; });
     EXPECT_THAT(trashed(), ElementsAre(home + "/projects/app"));
     EXPECT_EQ(place(), "projects");
-    EXPECT_THAT(names(), IsEmpty()) << "the folder on the screen is of the survey before";
+    EXPECT_THAT(names(), IsEmpty()) << "the screen still shows the tree of the earlier survey";
     lens().startOver();
     EXPECT_EQ(model().root()->size, 138'000'000);
     drill("projects");
-    EXPECT_EQ(place(), "me") << "there is nothing inside in the new tree either";
+    EXPECT_EQ(place(), "me") << "the new tree has no folder inside it either";
     EXPECT_EQ(model().reclaimables().size(), 1U);
 }
 
-TEST_F(LensRemoval, whatIsTickedWhileOthersGoStaysTicked) {
+TEST_F(LensRemoval, keepsSelectionMadeDuringRemoval) {
     fill();
     survey();
     machine.tasks.hold();
@@ -225,10 +226,10 @@ TEST_F(LensRemoval, whatIsTickedWhileOthersGoStaysTicked) {
     machine.tasks.release();
     runUntilRemoved(0);
     EXPECT_TRUE(ticked("Library"));
-    EXPECT_EQ(caption(), "1 selected · 50 MB") << "what has gone is not ticked";
+    EXPECT_EQ(caption(), "1 selected · 50 MB") << "the removed folder is not selected";
 }
 
-TEST_F(LensRemoval, theScreenMayGoWhileThingsLeave) {
+TEST_F(LensRemoval, screenMayBeDestroyedDuringRemoval) {
     fill();
     survey();
     toggle("music");
@@ -240,7 +241,7 @@ TEST_F(LensRemoval, theScreenMayGoWhileThingsLeave) {
     EXPECT_THAT(trashed(), ElementsAre(home + "/music"));
 }
 
-TEST_F(LensRemoval, reclaimablesInWhatHasGoneGoToo) {
+TEST_F(LensRemoval, removesReclaimablesInsideRemovedFolder) {
     fill();
     survey();
     ASSERT_EQ(model().reclaimables().size(), 2U);

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// The list of the folders in a folder, and how its changes are told.
 #include "ui/screens/lens/LensRows.h"
 
 #include <gmock/gmock.h>
@@ -15,7 +14,8 @@ namespace {
 
 using testing::ElementsAre;
 
-/// A folder "/home" with "a" of 100 bytes, "b" of 90 (with a folder in it), "c" of 80 … "z" of fewer, as many as asked.
+/// A folder "/home" whose children "a", "b", "c" … (numbered beyond 26) are each 10 bytes smaller than the one before,
+/// the last of 10 bytes.
 class LensRowsTest : public testing::Test {
 protected:
     void fill(int count) {
@@ -38,12 +38,12 @@ protected:
     std::string text(int row, int role) { return rows.index(row).data(role).toString().toStdString(); }
     bool ticked(int row) { return rows.index(row).data(LensRows::tickedRole).toBool(); }
 
-    /// What the rows tell, one letter for each time: reset, removal, move, change.
-    void listen() {
-        QObject::connect(&rows, &QAbstractItemModel::modelReset, &rows, [this] { told += '!'; });
-        QObject::connect(&rows, &QAbstractItemModel::rowsRemoved, &rows, [this] { told += '-'; });
-        QObject::connect(&rows, &QAbstractItemModel::rowsMoved, &rows, [this] { told += '>'; });
-        QObject::connect(&rows, &QAbstractItemModel::dataChanged, &rows, [this] { told += '='; });
+    /// Appends to `edits` one character per signal: '!' reset, '-' removal, '>' move, '=' change.
+    void recordEdits() {
+        QObject::connect(&rows, &QAbstractItemModel::modelReset, &rows, [this] { edits += '!'; });
+        QObject::connect(&rows, &QAbstractItemModel::rowsRemoved, &rows, [this] { edits += '-'; });
+        QObject::connect(&rows, &QAbstractItemModel::rowsMoved, &rows, [this] { edits += '>'; });
+        QObject::connect(&rows, &QAbstractItemModel::dataChanged, &rows, [this] { edits += '='; });
     }
 
     NodeRef home = FSNode::make("/home", 0);
@@ -59,12 +59,12 @@ protected:
                       return QImage(4, 4, QImage::Format_ARGB32);
                   }};
     QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
-    std::string told;
+    std::string edits;
 };
 
 }  // namespace
 
-TEST_F(LensRowsTest, aRowTellsOfItsFolder) {
+TEST_F(LensRowsTest, rowDescribesItsFolder) {
     fill(3);
     child(0)->append(FSNode::make("inside", 0));
     EXPECT_EQ(text(0, LensRows::nameRole), "a");
@@ -77,7 +77,7 @@ TEST_F(LensRowsTest, aRowTellsOfItsFolder) {
     EXPECT_FALSE(rows.index(1).data(Qt::DisplayRole).isValid());
 }
 
-TEST_F(LensRowsTest, aNameThatNobodyCouldReadIsShownAllTheSame) {
+TEST_F(LensRowsTest, showsInvalidNameRepaired) {
     NodeRef odd = FSNode::make("line\nbreak\xff", 0);
     odd->size = 5;
     home->append(odd);
@@ -87,13 +87,13 @@ TEST_F(LensRowsTest, aNameThatNobodyCouldReadIsShownAllTheSame) {
     EXPECT_TRUE(ticked(1));
 }
 
-TEST_F(LensRowsTest, aTickIsTheChangeOfOneRow) {
+TEST_F(LensRowsTest, tickChangesOneRow) {
     fill(5);
     QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
-    listen();
+    recordEdits();
     walk.select(child(2));
     rows.tellTicked(2);
-    EXPECT_EQ(told, "=");
+    EXPECT_EQ(edits, "=");
     EXPECT_EQ(changed.front()[0].toModelIndex().row(), 2);
     EXPECT_EQ(changed.front()[1].toModelIndex().row(), 2);
     EXPECT_TRUE(ticked(2));
@@ -101,10 +101,10 @@ TEST_F(LensRowsTest, aTickIsTheChangeOfOneRow) {
     EXPECT_FALSE(ticked(1));
     rows.tellTicked(-1);
     rows.tellTicked(5);
-    EXPECT_EQ(told, "=");
+    EXPECT_EQ(edits, "=");
 }
 
-TEST_F(LensRowsTest, allTicksAreOneChange) {
+TEST_F(LensRowsTest, tickingAllIsOneChange) {
     fill(5);
     QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
     rows.tellAllTicked();
@@ -114,21 +114,21 @@ TEST_F(LensRowsTest, allTicksAreOneChange) {
     walk.setRoot(nullptr);
     rows.show();
     rows.tellAllTicked();
-    EXPECT_EQ(changed.size(), 1) << "there is no row";
+    EXPECT_EQ(changed.size(), 1) << "there are no rows";
 }
 
-TEST_F(LensRowsTest, whatHasGoneIsTakenOutByItself) {
+TEST_F(LensRowsTest, removesOnlyRemovedRows) {
     fill(8);
-    listen();
+    recordEdits();
     for (const std::size_t at : {6U, 3U, 2U}) home->remove(*child(at));
     rows.follow();
     EXPECT_EQ(names(), "abefh");
-    EXPECT_EQ(told, "--") << "two rows that stand together go together";
+    EXPECT_EQ(edits, "--") << "adjacent rows are removed at once";
 }
 
-TEST_F(LensRowsTest, theFirstAndTheLastRowMayGo) {
+TEST_F(LensRowsTest, removesFirstAndLastRow) {
     fill(4);
-    listen();
+    recordEdits();
     home->remove(*child(3));
     home->remove(*child(0));
     rows.follow();
@@ -137,51 +137,51 @@ TEST_F(LensRowsTest, theFirstAndTheLastRowMayGo) {
     home->remove(*child(0));
     rows.follow();
     EXPECT_EQ(names(), "");
-    EXPECT_EQ(told, "---");
+    EXPECT_EQ(edits, "---");
 }
 
-TEST_F(LensRowsTest, whatHasBecomeSmallerMovesToItsPlace) {
+TEST_F(LensRowsTest, movesShrunkFolder) {
     fill(6);
-    listen();
+    recordEdits();
     child(1)->size = 25;
     rows.follow();
     EXPECT_EQ(names(), "acdbef");
-    EXPECT_EQ(told, ">=");
+    EXPECT_EQ(edits, ">=");
     child(0)->size = 5;
     child(2)->size = 15;
     rows.follow();
     EXPECT_EQ(names(), "dbecfa");
-    EXPECT_EQ(told.find('!'), std::string::npos);
+    EXPECT_EQ(edits.find('!'), std::string::npos);
 }
 
-TEST_F(LensRowsTest, whatHoldsNothingAnyMoreGoes) {
+TEST_F(LensRowsTest, removesEmptiedFolder) {
     fill(3);
-    listen();
+    recordEdits();
     child(1)->size = 0;
     rows.follow();
     EXPECT_EQ(names(), "ac");
-    EXPECT_EQ(told, "-");
+    EXPECT_EQ(edits, "-");
 }
 
-TEST_F(LensRowsTest, nothingNewIsNotTold) {
+TEST_F(LensRowsTest, signalsNothingWithoutChange) {
     fill(6);
-    listen();
+    recordEdits();
     rows.follow();
-    EXPECT_EQ(told, "");
+    EXPECT_EQ(edits, "");
 }
 
-TEST_F(LensRowsTest, whatNobodyTookOutIsToldAsANewList) {
+TEST_F(LensRowsTest, resetsForAddedFolder) {
     fill(3);
-    listen();
-    NodeRef come = FSNode::make("n", 0);
-    come->size = 25;
-    home->append(come);
+    recordEdits();
+    NodeRef added = FSNode::make("n", 0);
+    added->size = 25;
+    home->append(added);
     rows.follow();
     EXPECT_EQ(names(), "anbc");
-    EXPECT_EQ(told.back(), '!');
+    EXPECT_EQ(edits.back(), '!');
 }
 
-TEST_F(LensRowsTest, whatHasBecomeLargerIsFoundAllTheSame) {
+TEST_F(LensRowsTest, sortsGrownFolders) {
     fill(6);
     child(5)->size = 1'000;
     child(3)->size = 900;
@@ -189,17 +189,17 @@ TEST_F(LensRowsTest, whatHasBecomeLargerIsFoundAllTheSame) {
     EXPECT_EQ(names(), "fdabce");
 }
 
-TEST_F(LensRowsTest, aGreatChangeIsToldAsANewList) {
+TEST_F(LensRowsTest, resetsForManyChanges) {
     fill(1'000);
-    listen();
+    recordEdits();
     for (std::size_t at = 0; at < 500; ++at) home->remove(*child(at));
     rows.follow();
     EXPECT_EQ(rows.rowCount(), 500);
-    EXPECT_EQ(told.back(), '!');
+    EXPECT_EQ(edits.back(), '!');
     for (int row = 0; row < 500; ++row) EXPECT_EQ(text(row, LensRows::nameRole), std::to_string(2 * row + 1));
 }
 
-TEST_F(LensRowsTest, aFolderOfFiftyThousandMakesNothingThatIsNotAskedFor) {
+TEST_F(LensRowsTest, makesIconsOnDemand) {
     fill(50'000);
     EXPECT_EQ(rows.rowCount(), 50'000);
     EXPECT_EQ(icons, 0);
@@ -208,7 +208,7 @@ TEST_F(LensRowsTest, aFolderOfFiftyThousandMakesNothingThatIsNotAskedFor) {
     EXPECT_EQ(icons, 1);
 }
 
-TEST_F(LensRowsTest, findsTheRowOfANode) {
+TEST_F(LensRowsTest, findsRowOfNode) {
     fill(3);
     EXPECT_EQ(rows.rowOf(child(2)), 2);
     EXPECT_EQ(rows.rowOf(top), -1);

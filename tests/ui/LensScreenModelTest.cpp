@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The walk through a survey: where one is, what is ticked, and what the map is given.
+// Walking through a survey: the current folder, the selection, and the slices of the bubble chart.
 #include "ui/screens/lens/LensScreenModel.h"
 
 #include "LensFixture.h"
@@ -12,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class LensScreen : public LensFixture {
+class LensScreenModelTest : public LensFixture {
 protected:
     void tap(const std::string& label) { lens().bubbles()->tap(slice(label)); }
     void tick(const std::string& label) { lens().bubbles()->tick(slice(label)); }
@@ -20,7 +20,7 @@ protected:
 
 }  // namespace
 
-TEST_F(LensScreen, saysWhatItIs) {
+TEST_F(LensScreenModelTest, exposesItsTexts) {
     EXPECT_EQ(lens().title(), QStringLiteral("Lens"));
     EXPECT_EQ(lens().subtitle(),
               QStringLiteral("Explore where your space went — a list and a live bubble map, side by side."));
@@ -29,7 +29,7 @@ TEST_F(LensScreen, saysWhatItIs) {
     EXPECT_EQ(lens().symbol(), QStringLiteral("circle.hexagongrid"));
 }
 
-TEST_F(LensScreen, followsTheSurveyThatItsButtonBegins) {
+TEST_F(LensScreenModelTest, showsProgressAndResultsOfItsSurvey) {
     fill();
     addWideFolder(home + "/wide");
     EXPECT_TRUE(lens().idle());
@@ -43,7 +43,7 @@ TEST_F(LensScreen, followsTheSurveyThatItsButtonBegins) {
     EXPECT_EQ(place(), "me");
 }
 
-TEST_F(LensScreen, withoutATreeThereIsNothingToMap) {
+TEST_F(LensScreenModelTest, isUnmappedWithoutTree) {
     EXPECT_FALSE(lens().mapped());
     EXPECT_EQ(place(), "—");
     EXPECT_EQ(lens().placeLine(), QString());
@@ -52,14 +52,14 @@ TEST_F(LensScreen, withoutATreeThereIsNothingToMap) {
     EXPECT_THAT(slices(), IsEmpty());
 }
 
-TEST_F(LensScreen, isThereWhenTheSurveyWasBeforeIt) {
+TEST_F(LensScreenModelTest, showsEarlierSurvey) {
     fill();
     survey();
     EXPECT_TRUE(lens().mapped());
     EXPECT_THAT(names(), ElementsAre("projects", "Library", "music"));
 }
 
-TEST_F(LensScreen, aRootWithASingleChildStartsThereAndStartOverReturnsThere) {
+TEST_F(LensScreenModelTest, startsAtSingleChildAndStartOverReturnsThere) {
     fill();
     survey();
     EXPECT_EQ(place(), "me");
@@ -75,7 +75,7 @@ TEST_F(LensScreen, aRootWithASingleChildStartsThereAndStartOverReturnsThere) {
     EXPECT_FALSE(lens().removable());
 }
 
-TEST_F(LensScreen, severalRootsStandSideBySide) {
+TEST_F(LensScreenModelTest, listsSeveralRoots) {
     fill();
     model().setScanRoots({home + "/projects", home + "/music"});
     survey();
@@ -90,21 +90,21 @@ TEST_F(LensScreen, severalRootsStandSideBySide) {
     EXPECT_EQ(lens().mapName(), QStringLiteral("Map of projects"));
 }
 
-TEST_F(LensScreen, theWholeDriveIsCalledByItsSlash) {
+TEST_F(LensScreenModelTest, rootIsNamedSlash) {
     machine.directories.file("/data/file", 1'000);
     model().setScanRoots({"/"});
     survey();
     EXPECT_EQ(place(), "/");
 }
 
-TEST_F(LensScreen, theCountKeepsItsWordForOneFolder) {
+TEST_F(LensScreenModelTest, usesPluralForOneFolder) {
     fill();
     survey();
     drill("projects");
     EXPECT_EQ(lens().placeLine(), QStringLiteral("90 MB · 1 folders"));
 }
 
-TEST_F(LensScreen, backLeadsToTheRowThatOneCameFrom) {
+TEST_F(LensScreenModelTest, backReturnsToRowOfLeftFolder) {
     fill();
     survey();
     QSignalSpy arrived(&lens(), &LensScreenModel::arrived);
@@ -114,23 +114,23 @@ TEST_F(LensScreen, backLeadsToTheRowThatOneCameFrom) {
     EXPECT_EQ(place(), "me");
     EXPECT_EQ(arrived.takeFirst().front().toInt(), 1);
     lens().back();
-    EXPECT_EQ(arrived.size(), 0) << "there is nothing above";
+    EXPECT_EQ(arrived.size(), 0) << "the top has no parent";
 }
 
-TEST_F(LensScreen, aFolderWithNothingToListSaysSo) {
-    EXPECT_FALSE(lens().bare()) << "there is no folder at hand";
+TEST_F(LensScreenModelTest, reportsFolderWithoutSubfolders) {
+    EXPECT_FALSE(lens().bare()) << "no tree is shown";
     put("/a file", 5'000'000);
     survey();
     EXPECT_TRUE(lens().mapped());
     EXPECT_TRUE(lens().bare());
     fill();
-    QSignalSpy told(&lens(), &LensScreenModel::placeChanged);
+    QSignalSpy changed(&lens(), &LensScreenModel::placeChanged);
     survey();
     EXPECT_FALSE(lens().bare());
-    EXPECT_GE(told.size(), 1);
+    EXPECT_GE(changed.size(), 1);
 }
 
-TEST_F(LensScreen, aFolderWithoutFoldersIsNotEntered) {
+TEST_F(LensScreenModelTest, leafFoldersAndInvalidRowsAreNotEntered) {
     fill();
     survey();
     drill("music");
@@ -144,7 +144,7 @@ TEST_F(LensScreen, aFolderWithoutFoldersIsNotEntered) {
     EXPECT_FALSE(lens().explanation()->shown());
 }
 
-TEST_F(LensScreen, enteringTakesItsTime) {
+TEST_F(LensScreenModelTest, drillingHasADuration) {
     fill();
     survey();
     QSignalSpy drilled(&lens(), &LensScreenModel::drilled);
@@ -156,7 +156,7 @@ TEST_F(LensScreen, enteringTakesItsTime) {
     EXPECT_EQ(drilled.takeFirst().front().toInt(), 200);
 }
 
-TEST_F(LensScreen, aFolderOfEmptyFoldersShowsNothingButCountsThemAll) {
+TEST_F(LensScreenModelTest, countsEmptyFoldersWithoutListingThem) {
     machine.directories.directory(home + "/hollow/a");
     machine.directories.directory(home + "/hollow/b");
     put("/hollow/file", 1'000);
@@ -168,16 +168,16 @@ TEST_F(LensScreen, aFolderOfEmptyFoldersShowsNothingButCountsThemAll) {
     EXPECT_THAT(slices(), IsEmpty());
 }
 
-// The map.
+// Bubble chart
 
-TEST_F(LensScreen, sixteenFoldersAreSixteenBubbles) {
+TEST_F(LensScreenModelTest, showsSixteenBubbles) {
     addMany("", 16);
     survey();
     EXPECT_EQ(slices().size(), 16U);
     EXPECT_EQ(slices().back().label, QStringLiteral("folder 15"));
 }
 
-TEST_F(LensScreen, theSeventeenthFolderIsFolded) {
+TEST_F(LensScreenModelTest, foldsFoldersBeyondSixteenIntoOther) {
     addMany("", 17);
     survey();
     ASSERT_EQ(slices().size(), 17U);
@@ -190,10 +190,10 @@ TEST_F(LensScreen, theSeventeenthFolderIsFolded) {
     EXPECT_EQ(rest.color, ZelkTheme::dark().inkSoft);
     lens().setDark(false);
     EXPECT_EQ(slices().back().color, ZelkTheme::light().inkSoft);
-    EXPECT_EQ(lens().rows()->rowCount(), 17) << "the list is not folded";
+    EXPECT_EQ(lens().rows()->rowCount(), 17) << "the list shows every folder";
 }
 
-TEST_F(LensScreen, theFoldedBubbleDoesNothingAndItsFoldersAreInTheList) {
+TEST_F(LensScreenModelTest, otherBubbleIsInert) {
     addMany("", 28);
     survey();
     EXPECT_EQ(slices().back().bytes, 78'000'000);
@@ -205,7 +205,7 @@ TEST_F(LensScreen, theFoldedBubbleDoesNothingAndItsFoldersAreInTheList) {
     EXPECT_EQ(caption(), "1 selected · 1 MB");
 }
 
-TEST_F(LensScreen, aBubbleTellsOfItsFolder) {
+TEST_F(LensScreenModelTest, bubbleDescribesItsFolder) {
     fill();
     survey();
     const BubbleSlice& projects = slices().front();
@@ -217,10 +217,10 @@ TEST_F(LensScreen, aBubbleTellsOfItsFolder) {
     EXPECT_FALSE(projects.icon.isNull());
     drill("projects");
     drill("app");
-    EXPECT_TRUE(slice("node_modules").reclaimable) << "the classifier was done before the screen looked";
+    EXPECT_TRUE(slice("node_modules").reclaimable) << "classified before the screen was made";
 }
 
-TEST_F(LensScreen, aTapEntersAFolderWithFoldersAndTicksOneWithout) {
+TEST_F(LensScreenModelTest, tapEntersFolderOrSelectsLeaf) {
     fill();
     survey();
     tap("music");
@@ -234,7 +234,7 @@ TEST_F(LensScreen, aTapEntersAFolderWithFoldersAndTicksOneWithout) {
     EXPECT_EQ(place(), "me");
 }
 
-TEST_F(LensScreen, theSpaceBarTicksAnyBubble) {
+TEST_F(LensScreenModelTest, tickSelectsAnyBubble) {
     fill();
     survey();
     tick("projects");
@@ -244,7 +244,7 @@ TEST_F(LensScreen, theSpaceBarTicksAnyBubble) {
     EXPECT_FALSE(ticked("projects"));
 }
 
-TEST_F(LensScreen, whatIsTickedInTheListIsRingedOnTheMapAndTheReverse) {
+TEST_F(LensScreenModelTest, listAndChartShareSelection) {
     fill();
     survey();
     toggle("Library");
@@ -256,7 +256,7 @@ TEST_F(LensScreen, whatIsTickedInTheListIsRingedOnTheMapAndTheReverse) {
     EXPECT_FALSE(slice("Library").selected);
 }
 
-TEST_F(LensScreen, aBubbleThatIsThereNoMoreDoesNothing) {
+TEST_F(LensScreenModelTest, ignoresTapOnVanishedBubble) {
     fill();
     survey();
     const BubbleSlice gone = slice("Library");
@@ -267,9 +267,9 @@ TEST_F(LensScreen, aBubbleThatIsThereNoMoreDoesNothing) {
     EXPECT_FALSE(lens().removable());
 }
 
-// What is ticked.
+// Selection
 
-TEST_F(LensScreen, allIsAddedToWhatIsTickedElsewhere) {
+TEST_F(LensScreenModelTest, selectAllAddsToSelection) {
     fill();
     survey();
     EXPECT_EQ(lens().selectTitle(), QStringLiteral("None"));
@@ -286,7 +286,7 @@ TEST_F(LensScreen, allIsAddedToWhatIsTickedElsewhere) {
     EXPECT_FALSE(ticked("music"));
 }
 
-TEST_F(LensScreen, withNothingTickedThereIsNothingToRemove) {
+TEST_F(LensScreenModelTest, removalNeedsASelection) {
     fill();
     survey();
     EXPECT_EQ(caption(), "No items selected");
@@ -299,7 +299,7 @@ TEST_F(LensScreen, withNothingTickedThereIsNothingToRemove) {
     EXPECT_TRUE(lens().removable());
 }
 
-TEST_F(LensScreen, anotherSurveyMovesNobodyAndUnticksNothing) {
+TEST_F(LensScreenModelTest, newSurveyKeepsPlaceAndSelection) {
     fill();
     survey();
     drill("projects");
@@ -309,13 +309,13 @@ TEST_F(LensScreen, anotherSurveyMovesNobodyAndUnticksNothing) {
     EXPECT_TRUE(ticked("app"));
     EXPECT_EQ(column(LensRows::sizeRole).front(), "10 MB");
     EXPECT_EQ(lens().walk().selected().begin()->first, home + "/projects/app")
-        << "its path, though its tree is not the model's any more";
+        << "the path holds although the model has a newer tree";
     EXPECT_EQ(lens().walk().currentNode()->fullPath(), home + "/projects");
     lens().startOver();
     EXPECT_EQ(lens().walk().currentNode(), model().root()->children.front());
 }
 
-TEST_F(LensScreen, aNewSurveyIsShownWhereOneHasNotGoneAnywhere) {
+TEST_F(LensScreenModelTest, newSurveyReplacesTreeAtTheTop) {
     fill();
     survey();
     EXPECT_EQ(lens().rows()->rowCount(), 3);
@@ -325,7 +325,7 @@ TEST_F(LensScreen, aNewSurveyIsShownWhereOneHasNotGoneAnywhere) {
     EXPECT_EQ(slices().front().label, QStringLiteral("novels"));
 }
 
-TEST_F(LensScreen, whileASurveyEndsTheTreeBeforeItIsShown) {
+TEST_F(LensScreenModelTest, showsEarlierTreeUntilSurveyFinishes) {
     fill();
     survey();
     lens();
@@ -338,7 +338,7 @@ TEST_F(LensScreen, whileASurveyEndsTheTreeBeforeItIsShown) {
     EXPECT_EQ(lens().walk().root(), model().root());
 }
 
-TEST_F(LensScreen, anOldTreeIsLeftWhenNothingIsInItAnyMore) {
+TEST_F(LensScreenModelTest, releasesUnusedTreeOffMainThread) {
     fill();
     survey();
     drill("projects");
@@ -347,13 +347,13 @@ TEST_F(LensScreen, anOldTreeIsLeftWhenNothingIsInItAnyMore) {
     ASSERT_NE(old, nullptr);
     machine.tasks.hold();
     lens().back();
-    EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::utility}) << "on another thread";
+    EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::utility}) << "a background task releases it";
     machine.tasks.release();
 }
 
-// The drive.
+// Volume
 
-TEST_F(LensScreen, tellsHowFullTheDriveIs) {
+TEST_F(LensScreenModelTest, showsUsageOfVolume) {
     machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
     fill();
     EXPECT_FALSE(lens().volumed());
@@ -366,7 +366,7 @@ TEST_F(LensScreen, tellsHowFullTheDriveIs) {
     EXPECT_NEAR(lens().usedShare(), 0.7864, 0.0001);
 }
 
-TEST_F(LensScreen, aDriveOfNoSizeIsNotUsed) {
+TEST_F(LensScreenModelTest, usageIsZeroForInconsistentVolume) {
     model().setVolume(VolumeInfo{0, 0, 0});
     EXPECT_EQ(lens().usedShare(), 0);
     EXPECT_EQ(lens().volumeLine(), QStringLiteral("0 bytes of 0 bytes used"));
@@ -375,9 +375,9 @@ TEST_F(LensScreen, aDriveOfNoSizeIsNotUsed) {
     EXPECT_EQ(lens().volumeLine(), QStringLiteral("0 bytes of 100 bytes used"));
 }
 
-// What a folder is.
+// Explanation
 
-TEST_F(LensScreen, explainsTheFolderOfARow) {
+TEST_F(LensScreenModelTest, explainsFolderOfRow) {
     fill();
     survey();
     drill("projects");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The screen with its two panes: what it shows, and what the mouse and the keyboard do to it.
+// Drives the rendered screen with its two panes by mouse and keyboard.
 #include "LensFixture.h"
 #include "ViewFixture.h"
 
@@ -14,26 +14,26 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-class LensWindow : public LensFixtureOn<ViewFixture> {
+class LensViewTest : public LensFixtureOn<ViewFixture> {
 protected:
-    ~LensWindow() override { close(); }
+    ~LensViewTest() override { close(); }
 
     void open(QSize size = {1046, 800}) {
         show(QStringLiteral("Zelk.App"), QStringLiteral("LensView"), "lens", &lens(), size);
     }
-    /// Surveyed, with the keyboard on the first row.
-    void openOn() {
+    /// Surveys and opens the screen with the focus on the first row.
+    void openSurveyed() {
         fill();
         survey();
         open();
-        giveList();
+        focusList();
     }
-    void giveList() {
+    void focusList() {
         find("lensList")->forceActiveFocus(Qt::TabFocusReason);
         settle();
     }
 
-    /// The rows that exist, as they are said.
+    /// The accessible names of the instantiated rows, from top to bottom.
     std::vector<std::string> rowNames() {
         std::vector<std::pair<double, std::string>> rows;
         for (QQuickItem* item : seen())
@@ -50,7 +50,7 @@ protected:
                 return item;
         return nullptr;
     }
-    /// The part of a row with this object name.
+    /// The descendant of a row with this object name.
     QQuickItem* part(const std::string& rowName, const char* name) {
         return row(rowName)->findChild<QQuickItem*>(QString::fromLatin1(name));
     }
@@ -59,24 +59,24 @@ protected:
         settle();
     }
     std::string text(const char* name) { return find(name)->property("text").toString().toStdString(); }
-    bool keyboardIsInTheList() { return find("lensList")->hasActiveFocus(); }
+    bool listHasFocus() { return find("lensList")->hasActiveFocus(); }
 };
 
 }  // namespace
 
-TEST_F(LensWindow, introducesItselfBeforeASurvey) {
+TEST_F(LensViewTest, offersSurveyBeforeResults) {
     open();
     EXPECT_THAT(seenTexts(), Contains("Run survey"));
     EXPECT_EQ(find("lensList"), nullptr);
 }
 
-TEST_F(LensWindow, aPlaceholderStandsWhereThereIsNothing) {
+TEST_F(LensViewTest, showsPlaceholderWithoutTree) {
     show(QStringLiteral("Zelk.App"), QStringLiteral("LensPanes"), "lens", &lens(), {700, 500});
     EXPECT_THAT(seenTexts(), ElementsAre("Nothing to map"));
 }
 
-TEST_F(LensWindow, showsItsFixedTexts) {
-    openOn();
+TEST_F(LensViewTest, showsFixedTexts) {
+    openSurveyed();
     expectTexts({"Start Over", "Select:", "None", "Review and Remove"});
     EXPECT_EQ(nameOf(find("lensBack")), "Back");
     click("lensSelect");
@@ -84,7 +84,7 @@ TEST_F(LensWindow, showsItsFixedTexts) {
     EXPECT_EQ(text("lensSelectNone"), "None");
 }
 
-TEST_F(LensWindow, saysWhereAFolderHasNothingToList) {
+TEST_F(LensViewTest, explainsFolderWithoutSubfolders) {
     put("/a file", 5'000'000);
     survey();
     open();
@@ -92,9 +92,9 @@ TEST_F(LensWindow, saysWhereAFolderHasNothingToList) {
                  "Files that lie directly in this folder are counted with it and not listed one by one."});
 }
 
-TEST_F(LensWindow, showsTheFolderAtHand) {
+TEST_F(LensViewTest, showsCurrentFolder) {
     machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
-    openOn();
+    openSurveyed();
     EXPECT_EQ(text("lensPlace"), "me");
     EXPECT_EQ(text("lensName"), "me");
     EXPECT_EQ(text("lensPlaceLine"), "148 MB · 3 folders");
@@ -110,9 +110,9 @@ TEST_F(LensWindow, showsTheFolderAtHand) {
     expectAllControlsNamed();
 }
 
-TEST_F(LensWindow, theFootKeepsItsDistanceFromEveryEdge) {
+TEST_F(LensViewTest, footerKeepsMarginOf16) {
     machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
-    openOn();
+    openSurveyed();
     const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
     EXPECT_EQ(box("lensVolume").left(), 16);
     EXPECT_EQ(box("lensRemove").right(), 1046 - 16);
@@ -122,32 +122,32 @@ TEST_F(LensWindow, theFootKeepsItsDistanceFromEveryEdge) {
     EXPECT_EQ(find("lensCaption")->mapToScene({}).x(), 16);
 }
 
-TEST_F(LensWindow, withoutAVolumeTheBarIsNotThere) {
-    openOn();
+TEST_F(LensViewTest, hidesVolumeBarWithoutVolume) {
+    openSurveyed();
     model().setVolume(std::nullopt);
     settle();
     EXPECT_EQ(find("lensVolume"), nullptr);
     EXPECT_EQ(text("lensCaption"), "No items selected");
 }
 
-// The mouse.
+// Mouse
 
-TEST_F(LensWindow, aPressOnARowGoesIn) {
-    openOn();
+TEST_F(LensViewTest, clickOnRowEntersFolder) {
+    openSurveyed();
     clickItem(row("projects"));
     EXPECT_EQ(text("lensPlace"), "projects");
     clickItem(row("app"));
     EXPECT_EQ(text("lensPlace"), "app");
     clickItem(row("node_modules"));
-    EXPECT_EQ(text("lensPlace"), "app") << "there is nothing inside";
+    EXPECT_EQ(text("lensPlace"), "app") << "it has no subfolders";
     click("lensBack");
     EXPECT_EQ(text("lensPlace"), "projects");
     click("lensStartOver");
     EXPECT_EQ(text("lensPlace"), "me");
 }
 
-TEST_F(LensWindow, aPressOnTheBoxTicks) {
-    openOn();
+TEST_F(LensViewTest, clickOnCheckBoxSelects) {
+    openSurveyed();
     clickItem(part("Library", "lensTick"));
     EXPECT_EQ(text("lensPlace"), "me");
     EXPECT_EQ(text("lensCaption"), "1 selected · 50 MB");
@@ -157,8 +157,8 @@ TEST_F(LensWindow, aPressOnTheBoxTicks) {
     EXPECT_EQ(text("lensCaption"), "No items selected");
 }
 
-TEST_F(LensWindow, theMenuTicksAllAndNone) {
-    openOn();
+TEST_F(LensViewTest, menuSelectsAllAndNone) {
+    openSurveyed();
     EXPECT_EQ(nameOf(find("lensSelect")), "Select:, None");
     click("lensSelect");
     click("lensSelectAll");
@@ -169,8 +169,8 @@ TEST_F(LensWindow, theMenuTicksAllAndNone) {
     EXPECT_EQ(text("lensSelect"), "None");
 }
 
-TEST_F(LensWindow, theInfoButtonExplains) {
-    openOn();
+TEST_F(LensViewTest, infoButtonOpensExplanation) {
+    openSurveyed();
     clickItem(part("Library", "lensInfo"));
     EXPECT_EQ(text("explanationTitle"), "Library");
     EXPECT_EQ(text("lensPlace"), "me");
@@ -178,21 +178,21 @@ TEST_F(LensWindow, theInfoButtonExplains) {
     EXPECT_EQ(find("explanationDone"), nullptr);
 }
 
-TEST_F(LensWindow, whatIsRemovedLeavesTheList) {
-    openOn();
+TEST_F(LensViewTest, removedFolderLeavesList) {
+    openSurveyed();
     clickItem(part("Library", "lensTick"));
     click("lensRemove");
     runUntilRemoved(0);
     settle();
     EXPECT_THAT(rowNames(), ElementsAre("projects, 90 MB, folder", "music, 8 MB, folder"));
     EXPECT_EQ(text("lensPlaceLine"), "98 MB · 2 folders");
-    EXPECT_TRUE(keyboardIsInTheList());
+    EXPECT_TRUE(listHasFocus());
 }
 
-// The keyboard.
+// Keyboard
 
-TEST_F(LensWindow, theTabKeyGoesFromTheBarThroughTheListAndTheMapToTheFoot) {
-    openOn();
+TEST_F(LensViewTest, tabOrderIsListChartFooterToolbar) {
+    openSurveyed();
     press(Qt::Key_Return);
     press(Qt::Key_Space);
     const std::vector<std::string> order = tabOrder();
@@ -200,8 +200,8 @@ TEST_F(LensWindow, theTabKeyGoesFromTheBarThroughTheListAndTheMapToTheFoot) {
                                    "Review and Remove", "Start Over", "Back", "Select:, 1"));
 }
 
-TEST_F(LensWindow, theTabKeyGoesBackTheSameWay) {
-    openOn();
+TEST_F(LensViewTest, backtabReversesTab) {
+    openSurveyed();
     press(Qt::Key_Tab);
     EXPECT_EQ(focusName(), "What is projects?");
     press(Qt::Key_Tab);
@@ -216,8 +216,8 @@ TEST_F(LensWindow, theTabKeyGoesBackTheSameWay) {
     EXPECT_EQ(focusName(), "projects, 90 MB, folder");
 }
 
-TEST_F(LensWindow, theArrowsGoThroughTheRows) {
-    openOn();
+TEST_F(LensViewTest, arrowsHomeAndEndMoveThroughRows) {
+    openSurveyed();
     EXPECT_EQ(focusName(), "projects, 90 MB, folder");
     press(Qt::Key_Down);
     EXPECT_EQ(focusName(), "Library, 50 MB, folder");
@@ -229,8 +229,8 @@ TEST_F(LensWindow, theArrowsGoThroughTheRows) {
     EXPECT_EQ(focusName(), "projects, 90 MB, folder");
 }
 
-TEST_F(LensWindow, spaceTicksTheCurrentRow) {
-    openOn();
+TEST_F(LensViewTest, spaceSelectsCurrentRow) {
+    openSurveyed();
     press(Qt::Key_Down);
     press(Qt::Key_Space);
     EXPECT_EQ(text("lensCaption"), "1 selected · 50 MB");
@@ -239,8 +239,8 @@ TEST_F(LensWindow, spaceTicksTheCurrentRow) {
     EXPECT_EQ(text("lensCaption"), "No items selected");
 }
 
-TEST_F(LensWindow, returnAndTheArrowsGoInAndOut) {
-    openOn();
+TEST_F(LensViewTest, keysEnterAndLeaveFolders) {
+    openSurveyed();
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_EQ(text("lensPlace"), "Library");
@@ -248,19 +248,19 @@ TEST_F(LensWindow, returnAndTheArrowsGoInAndOut) {
     press(Qt::Key_Right);
     EXPECT_EQ(text("lensPlace"), "Caches");
     press(Qt::Key_Right);
-    EXPECT_EQ(text("lensPlace"), "Caches") << "there is nothing inside";
+    EXPECT_EQ(text("lensPlace"), "Caches") << "it has no subfolders";
     press(Qt::Key_Left);
     EXPECT_EQ(text("lensPlace"), "Library");
     press(Qt::Key_Backspace);
     EXPECT_EQ(text("lensPlace"), "me");
-    EXPECT_EQ(focusName(), "Library, 50 MB, folder") << "the row that one came from";
+    EXPECT_EQ(focusName(), "Library, 50 MB, folder") << "the row of the folder that was left";
     press(Qt::Key_Backspace);
     EXPECT_EQ(text("lensPlace"), "me");
-    EXPECT_TRUE(keyboardIsInTheList());
+    EXPECT_TRUE(listHasFocus());
 }
 
-TEST_F(LensWindow, theKeyboardAsksWhatAFolderIs) {
-    openOn();
+TEST_F(LensViewTest, keysOpenExplanation) {
+    openSurveyed();
     press(Qt::Key_I);
     EXPECT_EQ(text("explanationTitle"), "projects");
     press(Qt::Key_Escape);
@@ -277,8 +277,8 @@ TEST_F(LensWindow, theKeyboardAsksWhatAFolderIs) {
     EXPECT_EQ(focusName(), "Library, 50 MB, folder");
 }
 
-TEST_F(LensWindow, aButtonThatLeadsNoFurtherHandsTheKeyboardOn) {
-    openOn();
+TEST_F(LensViewTest, disabledButtonPassesFocusToList) {
+    openSurveyed();
     press(Qt::Key_Return);
     find("lensBack")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Space);
@@ -292,8 +292,8 @@ TEST_F(LensWindow, aButtonThatLeadsNoFurtherHandsTheKeyboardOn) {
     EXPECT_EQ(focusName(), "Library, 50 MB, folder");
 }
 
-TEST_F(LensWindow, theMenuWorksFromTheKeyboard) {
-    openOn();
+TEST_F(LensViewTest, menuWorksWithKeyboard) {
+    openSurveyed();
     find("lensSelect")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Space);
     press(Qt::Key_Down);
@@ -302,14 +302,14 @@ TEST_F(LensWindow, theMenuWorksFromTheKeyboard) {
     EXPECT_EQ(focusName(), "Select:, 3");
 }
 
-TEST_F(LensWindow, whereTheLastRowsHaveGoneTheKeyboardIsAtTheLastThatIsLeft) {
+TEST_F(LensViewTest, focusMovesToLastRowWhenRowsAreReset) {
     addMany("", 200);
     survey();
     open();
-    giveList();
+    focusList();
     press(Qt::Key_End);
     ASSERT_EQ(find("lensList")->property("currentIndex").toInt(), 199);
-    // Every other one: more than would be told one by one.
+    // Every other folder: too many for single row signals, so the model resets.
     const std::vector<NodeRef> folders = lens().walk().visibleChildren();
     for (std::size_t at = 0; at < folders.size(); at += 2) model().removeFromTree(*folders[at]);
     runUntil([&] { return lens().rows()->rowCount() == 100; });
@@ -320,15 +320,15 @@ TEST_F(LensWindow, whereTheLastRowsHaveGoneTheKeyboardIsAtTheLastThatIsLeft) {
     EXPECT_EQ(text("lensCaption"), "1 selected · 1 MB");
 }
 
-// Room.
+// Layout
 
-TEST_F(LensWindow, nothingIsClippedInLargeTextAndLittleRoom) {
+TEST_F(LensViewTest, clipsNothingAtLargeScaleInSmallWindow) {
     machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
     singleton<TextScale>("TextScale").setFactor(1.5);
     fill();
     survey();
     open({726, 580});
-    giveList();
+    focusList();
     EXPECT_GT(find("lensList")->width(), 340);
     lens().selectAll();
     settle();
@@ -339,13 +339,13 @@ TEST_F(LensWindow, nothingIsClippedInLargeTextAndLittleRoom) {
     }
 }
 
-TEST_F(LensWindow, aLongNameKeepsEverythingInItsPlace) {
+TEST_F(LensViewTest, longNameKeepsLayout) {
     const std::string name(200, 'w');
     put("/" + name + "/inner/file", 5'000'000);
     put("/other/file", 1'000'000);
     survey();
     open({726, 580});
-    giveList();
+    focusList();
     QQuickItem* label = nullptr;
     for (QQuickItem* item : seen()) {
         const QRectF box = item->mapRectToScene(item->boundingRect());
@@ -360,12 +360,12 @@ TEST_F(LensWindow, aLongNameKeepsEverythingInItsPlace) {
     EXPECT_LE(find("lensName")->mapRectToScene(find("lensName")->boundingRect()).right(), 340);
 }
 
-TEST_F(LensWindow, ofFiftyThousandFoldersOnlyThoseInSightAreMade) {
+TEST_F(LensViewTest, instantiatesOnlyVisibleRows) {
     for (int at = 0; at < 50'000; ++at)
         machine.directories.file(home + "/many/" + std::to_string(at) + "/file", 1'000 * (at + 1));
     survey();
     open();
-    giveList();
+    focusList();
     press(Qt::Key_Return);
     EXPECT_EQ(text("lensPlaceLine"), "1.25 TB · 50000 folders");
     EXPECT_LT(rowNames().size(), 40U);

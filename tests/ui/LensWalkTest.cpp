@@ -22,7 +22,7 @@ std::vector<std::string> namesOf(const std::vector<NodeRef>& nodes) {
     return names;
 }
 
-/// "/home/me" with "small" (1), "large" (30, which holds "inner" of 20), "empty" (0) and "middle" (5).
+/// "/home/me" with "small" (1 byte), "large" (30, of which "inner" has 20), "empty" (0) and "middle" (5).
 class LensWalkTest : public testing::Test {
 protected:
     LensWalkTest() {
@@ -44,28 +44,28 @@ protected:
 
 }  // namespace
 
-TEST_F(LensWalkTest, aRootWithASingleChildStartsInThatChild) {
+TEST_F(LensWalkTest, startsAtSingleChild) {
     EXPECT_EQ(walk.mapRoot(), home);
     EXPECT_EQ(walk.currentNode(), home);
 }
 
-TEST_F(LensWalkTest, severalScanRootsAreShownSideBySide) {
+TEST_F(LensWalkTest, listsSeveralScanRoots) {
     top->append(folder("/mnt/disk", 7));
     EXPECT_EQ(walk.mapRoot(), top);
     EXPECT_THAT(namesOf(walk.visibleChildren()), ElementsAre("/home/me", "/mnt/disk"));
 }
 
-TEST_F(LensWalkTest, withoutATreeThereIsNothing) {
+TEST_F(LensWalkTest, isEmptyWithoutTree) {
     walk.setRoot(nullptr);
     EXPECT_FALSE(walk.currentNode());
     EXPECT_THAT(walk.visibleChildren(), IsEmpty());
 }
 
-TEST_F(LensWalkTest, showsWhatHoldsBytesLargestFirst) {
+TEST_F(LensWalkTest, listsNonEmptyFoldersBySize) {
     EXPECT_THAT(namesOf(walk.visibleChildren()), ElementsAre("large", "middle", "small"));
 }
 
-TEST_F(LensWalkTest, aFolderOfEmptyFoldersShowsNothing) {
+TEST_F(LensWalkTest, hidesEmptyFolders) {
     inner->append(folder("a", 0));
     walk.enter(inner);
     EXPECT_THAT(walk.visibleChildren(), IsEmpty());
@@ -83,7 +83,7 @@ TEST_F(LensWalkTest, entersAndGoesBack) {
     EXPECT_EQ(walk.currentNode(), home);
 }
 
-TEST_F(LensWalkTest, startingOverReturnsToTheSingleChildWithNothingTicked) {
+TEST_F(LensWalkTest, startOverClearsSelectionAndReturnsToTop) {
     walk.enter(large);
     walk.enter(inner);
     walk.select(inner);
@@ -92,7 +92,7 @@ TEST_F(LensWalkTest, startingOverReturnsToTheSingleChildWithNothingTicked) {
     EXPECT_THAT(walk.selected(), IsEmpty());
 }
 
-TEST_F(LensWalkTest, theSelectionSpansFolders) {
+TEST_F(LensWalkTest, selectionSpansFolders) {
     walk.select(home->children[0]);
     walk.enter(large);
     walk.select(inner);
@@ -103,13 +103,13 @@ TEST_F(LensWalkTest, theSelectionSpansFolders) {
     EXPECT_EQ(walk.selectedBytes(), 20);
 }
 
-TEST_F(LensWalkTest, aNewTreeDoesNotMoveWhoStandsInTheOld) {
+TEST_F(LensWalkTest, newTreeKeepsCurrentNode) {
     walk.enter(large);
     walk.setRoot(folder("", 1));
     EXPECT_EQ(walk.currentNode(), large);
 }
 
-TEST_F(LensWalkTest, thePathsOfAnOldTreeHoldWhileOneStandsInIt) {
+TEST_F(LensWalkTest, keepsOldTreeWhileItIsUsed) {
     walk.enter(large);
     walk.select(home->children[0]);
     walk.setRoot(folder("", 1));
@@ -124,12 +124,12 @@ TEST_F(LensWalkTest, thePathsOfAnOldTreeHoldWhileOneStandsInIt) {
     EXPECT_THAT(walk.takeLeftTrees(), IsEmpty());
 }
 
-TEST_F(LensWalkTest, anOldTreeThatNobodyIsInIsLeftAtOnce) {
+TEST_F(LensWalkTest, releasesUnusedTreeAtOnce) {
     walk.setRoot(folder("", 1));
     EXPECT_THAT(walk.takeLeftTrees(), ElementsAre(top));
 }
 
-TEST_F(LensWalkTest, whatHasGoneIsUntickedWithAllThatWasInIt) {
+TEST_F(LensWalkTest, deselectsFolderWithItsContent) {
     home->append(folder("large one", 2));
     for (const NodeRef& node : home->children) walk.select(node);
     walk.select(inner);
@@ -140,7 +140,7 @@ TEST_F(LensWalkTest, whatHasGoneIsUntickedWithAllThatWasInIt) {
     EXPECT_TRUE(walk.isSelected("/home/me/middle"));
 }
 
-TEST_F(LensWalkTest, theLastComponentNamesAPlace) {
+TEST_F(LensWalkTest, lastComponentOfPath) {
     EXPECT_EQ(lastComponent("/home/me"), "me");
     EXPECT_EQ(lastComponent("/"), "/");
     EXPECT_EQ(lastComponent(""), "");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The desktop portal, asked and heard over a bus.
+// Talks to a fake desktop portal over a private session bus.
 #include <gtest/gtest.h>
 
 #include <QDBusConnection>
@@ -21,7 +21,7 @@ const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Setting
 const QString gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
 const QString commonGroup = QStringLiteral("org.freedesktop.appearance");
 
-/// Answers as the portal does: a value in a variant in a variant.
+/// Answers like the portal, with a value inside two variants.
 class Portal : public QDBusVirtualObject {
 public:
     std::map<QString, QVariant> settings;
@@ -44,32 +44,32 @@ protected:
         for (const char* name : {"zelk", "portal"}) QDBusConnection::disconnectFromBus(QString::fromLatin1(name));
     }
 
-    void offer() {
-        ASSERT_TRUE(theirs.isConnected());
-        ASSERT_TRUE(theirs.registerVirtualObject(portalPath, &portal));
-        ASSERT_TRUE(theirs.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
+    void registerPortal() {
+        ASSERT_TRUE(portalBus.isConnected());
+        ASSERT_TRUE(portalBus.registerVirtualObject(portalPath, &portal));
+        ASSERT_TRUE(portalBus.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
     }
-    void tell(const QString& nameSpace, const QString& key, const QVariant& value) {
+    void sendChange(const QString& nameSpace, const QString& key, const QVariant& value) {
         QDBusMessage changed =
             QDBusMessage::createSignal(portalPath, settingsInterface, QStringLiteral("SettingChanged"));
         changed << nameSpace << key << QVariant::fromValue(QDBusVariant(value));
-        theirs.send(changed);
+        portalBus.send(changed);
     }
 
     fakes::SessionBus session;
-    QDBusConnection theirs = session.connect("portal");
-    QDBusConnection ours = session.connect("zelk");
+    QDBusConnection portalBus = session.connect("portal");
+    QDBusConnection appBus = session.connect("zelk");
     Portal portal;
     DesktopSettings desktop;
 };
 
 }  // namespace
 
-TEST_F(DesktopPortal, isAskedAtTheStartAndNotWaitedFor) {
+TEST_F(DesktopPortal, readsSettingsAsynchronously) {
     portal.settings = {{"color-scheme", 1U}, {"text-scaling-factor", 1.25}, {"enable-animations", false}};
-    offer();
-    desktop.follow(ours);
-    // Nobody can have answered: the portal lives on this thread.
+    registerPortal();
+    desktop.follow(appBus);
+    // The portal runs on this thread, so it cannot have answered yet.
     EXPECT_EQ(desktop.scheme(), DesktopScheme::untold);
     EXPECT_EQ(desktop.textFactor(), 1);
     runUntil([&] {
@@ -77,18 +77,18 @@ TEST_F(DesktopPortal, isAskedAtTheStartAndNotWaitedFor) {
     });
 }
 
-TEST_F(DesktopPortal, isHeardWhenSomethingChanges) {
+TEST_F(DesktopPortal, followsSettingChanged) {
     portal.settings = {{"text-scaling-factor", 1.25}};
-    offer();
-    desktop.follow(ours);
+    registerPortal();
+    desktop.follow(appBus);
     runUntil([&] { return desktop.textFactor() == 1.25; });
-    tell(commonGroup, QStringLiteral("color-scheme"), 2U);
+    sendChange(commonGroup, QStringLiteral("color-scheme"), 2U);
     runUntil([&] { return desktop.scheme() == DesktopScheme::light; });
-    tell(gnomeGroup, QStringLiteral("text-scaling-factor"), 1.5);
+    sendChange(gnomeGroup, QStringLiteral("text-scaling-factor"), 1.5);
     runUntil([&] { return desktop.textFactor() == 1.5; });
 }
 
-TEST_F(DesktopPortal, isNotThereWhereThereIsNoBus) {
+TEST_F(DesktopPortal, keepsDefaultsWithoutBus) {
     QDBusConnection none(QStringLiteral("never connected"));
     desktop.follow(none);
     runWhatIsThere();

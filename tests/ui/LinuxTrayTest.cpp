@@ -12,7 +12,7 @@ namespace zelk {
 
 namespace {
 
-const QString announcer = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
 
 class LinuxTrayTest : public testing::Test {
 protected:
@@ -20,7 +20,7 @@ protected:
         for (const char* name : {"zelk", "panel"}) QDBusConnection::disconnectFromBus(QString::fromLatin1(name));
     }
 
-    /// A tray of the toolkit that counts how often it is asked for.
+    /// A probe for the tray support of the toolkit; counts its calls in `asked`.
     std::function<bool()> toolkit(bool usable) {
         return [this, usable] {
             ++asked;
@@ -35,44 +35,44 @@ protected:
 
 }  // namespace
 
-TEST_F(LinuxTrayTest, isThereWhereTheDesktopAnnouncesIt) {
-    ASSERT_TRUE(panel.registerService(announcer));
+TEST_F(LinuxTrayTest, isAvailableIfAWatcherIsRegistered) {
+    ASSERT_TRUE(panel.registerService(watcherService));
     LinuxTray tray(session.connect("zelk"), false, toolkit(true));
-    EXPECT_FALSE(tray.isThere()) << "nobody has looked";
+    EXPECT_FALSE(tray.isThere()) << "not looked up yet";
     EXPECT_EQ(asked, 0);
     tray.look();
     EXPECT_TRUE(tray.isThere());
 }
 
-TEST_F(LinuxTrayTest, comesAndGoesWithWhoAnnouncesIt) {
+TEST_F(LinuxTrayTest, followsTheWatcher) {
     LinuxTray tray(session.connect("zelk"), false, toolkit(true));
     QSignalSpy changes(&tray, &Tray::changed);
     tray.look();
     EXPECT_FALSE(tray.isThere());
-    EXPECT_EQ(asked, 0) << "the toolkit would remember that there is none";
-    ASSERT_TRUE(panel.registerService(announcer));
+    EXPECT_EQ(asked, 0) << "the toolkit would cache that there is no tray";
+    ASSERT_TRUE(panel.registerService(watcherService));
     runUntil([&] { return tray.isThere(); });
-    ASSERT_TRUE(panel.unregisterService(announcer));
+    ASSERT_TRUE(panel.unregisterService(watcherService));
     runUntil([&] { return !tray.isThere(); });
-    ASSERT_TRUE(panel.registerService(announcer));
+    ASSERT_TRUE(panel.registerService(watcherService));
     runUntil([&] { return tray.isThere(); });
     EXPECT_EQ(changes.size(), 3);
 }
 
-TEST_F(LinuxTrayTest, isNotThereIfTheToolkitCannotUseIt) {
-    ASSERT_TRUE(panel.registerService(announcer));
+TEST_F(LinuxTrayTest, isUnavailableIfToolkitCannotUseIt) {
+    ASSERT_TRUE(panel.registerService(watcherService));
     LinuxTray tray(session.connect("zelk"), false, toolkit(false));
     tray.look();
     EXPECT_FALSE(tray.isThere());
 }
 
-TEST_F(LinuxTrayTest, mayBeThereUnannounced) {
+TEST_F(LinuxTrayTest, isAvailableWithoutWatcherIfAllowed) {
     LinuxTray tray(session.connect("zelk"), true, toolkit(true));
     tray.look();
     EXPECT_TRUE(tray.isThere());
 }
 
-TEST_F(LinuxTrayTest, isNotThereWithoutABus) {
+TEST_F(LinuxTrayTest, isUnavailableWithoutBus) {
     LinuxTray tray(QDBusConnection(QStringLiteral("none")), false, toolkit(true));
     tray.look();
     EXPECT_FALSE(tray.isThere());
