@@ -43,7 +43,7 @@ TEST_F(AppCommandsTest, hasFourMenus) {
     EXPECT_THAT(entries(3), ElementsAre("Zelk Help|Ctrl+?"));
 }
 
-TEST_F(AppCommandsTest, goMenuListsAllScreensNineWithADigit) {
+TEST_F(AppCommandsTest, goMenuListsScreensWithDigitShortcuts) {
     EXPECT_THAT(entries(2), ElementsAre("Overview|Ctrl+1", "Reclaim|Ctrl+2", "Privacy|Ctrl+3", "Tune|Ctrl+4",
                                         "Apps|Ctrl+5", "Clutter|Ctrl+6", "Duplicates|Ctrl+7", "Lens|Ctrl+8",
                                         "Health|Ctrl+9", "System|", "Tools|"));
@@ -70,7 +70,7 @@ TEST_F(AppCommandsTest, reselectingTheCurrentScreenSignalsNothing) {
     EXPECT_EQ(timesSignalled("selection"), 0);
 }
 
-TEST_F(AppCommandsTest, runSurveyIsIgnoredDuringASurvey) {
+TEST_F(AppCommandsTest, runsOneSurveyAtATime) {
     machine.directories.hold(home);
     press(QStringLiteral("Ctrl+R"));
     EXPECT_EQ(model().scanPhase(), Phase::scanning);

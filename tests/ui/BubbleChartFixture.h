@@ -32,7 +32,7 @@ protected:
     BubbleChartFixture() {
         bubbles.setSlices(first);
         show();
-        tour::restPointer(window());  // so that the first move of the pointer is a real one
+        tour::restPointer(window());  // a pointer that is already at its target would send no move
     }
     ~BubbleChartFixture() override { close(); }
 

@@ -179,7 +179,7 @@ TEST(BubbleDrawing, omitsSizeThatDoesNotFit) {
 }
 
 TEST(BubbleDrawing, omitsLabelWithoutRoomForOneCharacter) {
-    // Only scaled texts make a circle this narrow for its label.
+    // At the normal scale every circle with a label has room for a character; scaled text may not fit.
     constexpr double larger = 2;
     EXPECT_THAT(contents(sliceOf("a", "👨‍👩‍👧"), 20, larger), IsEmpty());
     EXPECT_THAT(contents(withIcon(sliceOf("a", "👨‍👩‍👧")), 32, larger), ElementsAre(StartsWith("image")));

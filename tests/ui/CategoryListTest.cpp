@@ -19,9 +19,9 @@ const QColor safeTint(50, 199, 123);
 const QColor regeneratesTint(245, 166, 35);
 const QColor reviewTint(255, 107, 94);
 
-class Categories : public ReclaimFixture {
+class CategoryListTest : public ReclaimFixture {
 protected:
-    Categories() { fillJunk(); }
+    CategoryListTest() { fillJunk(); }
 
     CategoryList& list() { return *screen().categories(); }
     std::string text(int row, int role) { return ReclaimFixture::text(list(), row, role); }
@@ -56,7 +56,7 @@ const std::vector<Row>& rows() {
 
 }  // namespace
 
-TEST_F(Categories, listsLargestFirstWhateverTheAge) {
+TEST_F(CategoryListTest, listsLargestFirstWhateverTheAge) {
     surveyFor(Audience::normal);
     ASSERT_EQ(list().rowCount(), 5);
     for (int row = 0; row < 5; ++row) {
@@ -73,7 +73,7 @@ TEST_F(Categories, listsLargestFirstWhateverTheAge) {
     }
 }
 
-TEST_F(Categories, choosesSafeOnesOnFirstShow) {
+TEST_F(CategoryListTest, choosesSafeCategoriesOnFirstShow) {
     screen();
     survey();
     EXPECT_THAT(list().chosen(), IsEmpty());  // the screen was not shown yet
@@ -85,14 +85,14 @@ TEST_F(Categories, choosesSafeOnesOnFirstShow) {
     EXPECT_TRUE(list().reviewable());
 }
 
-TEST_F(Categories, developerGetsNoInitialChoice) {
+TEST_F(CategoryListTest, developerGetsNoInitialChoice) {
     surveyFor(Audience::developer);
     EXPECT_THAT(list().chosen(), IsEmpty());
     model().setAudience(Audience::normal);
     EXPECT_EQ(list().chosen().size(), 3U);
 }
 
-TEST_F(Categories, keepsChoiceAcrossRescansAndVisits) {
+TEST_F(CategoryListTest, keepsChoiceAcrossRescansAndVisits) {
     surveyFor(Audience::normal);
     list().chooseNone();
     toggle("node_modules");
@@ -108,7 +108,7 @@ TEST_F(Categories, keepsChoiceAcrossRescansAndVisits) {
     EXPECT_THAT(list().chosen(), ElementsAre("node_modules"));
 }
 
-TEST_F(Categories, keepsChoiceWhileSurveyIsEmpty) {
+TEST_F(CategoryListTest, keepsChoiceWhileSurveyIsEmpty) {
     surveyFor(Audience::normal);
     model().startScan();
     EXPECT_EQ(list().rowCount(), 0);
@@ -119,7 +119,7 @@ TEST_F(Categories, keepsChoiceWhileSurveyIsEmpty) {
     EXPECT_EQ(footer(), "4 items · 87 MB");
 }
 
-TEST_F(Categories, menuChoosesAllSafeOrNone) {
+TEST_F(CategoryListTest, menuChoosesAllSafeOrNone) {
     surveyFor(Audience::normal);
     list().chooseAll();
     EXPECT_EQ(menu(), "5");
@@ -133,7 +133,7 @@ TEST_F(Categories, menuChoosesAllSafeOrNone) {
     EXPECT_EQ(footer(), "4 items · 87 MB");
 }
 
-TEST_F(Categories, vanishedChoiceCountsOnlyInMenu) {
+TEST_F(CategoryListTest, vanishedChoiceCountsOnlyInMenu) {
     surveyFor(Audience::normal);
     list().chooseNone();
     toggle("yarn_cache");
@@ -149,7 +149,7 @@ TEST_F(Categories, vanishedChoiceCountsOnlyInMenu) {
     EXPECT_EQ(footer(), "6 items · 112 MB");
 }
 
-TEST_F(Categories, tapTogglesRow) {
+TEST_F(CategoryListTest, tapTogglesRow) {
     surveyFor(Audience::normal);
     int footers = 0;
     QObject::connect(&list(), &CategoryList::footerChanged, &list(), [&] { ++footers; });
@@ -166,7 +166,7 @@ TEST_F(Categories, tapTogglesRow) {
     mirror.expectFresh();
 }
 
-TEST_F(Categories, ignoresInvalidRows) {
+TEST_F(CategoryListTest, ignoresInvalidRows) {
     surveyFor(Audience::normal);
     for (const int row : {-1, 5, 100}) list().toggle(row);
     EXPECT_EQ(menu(), "3");
@@ -175,7 +175,7 @@ TEST_F(Categories, ignoresInvalidRows) {
     EXPECT_EQ(list().rowCount(list().index(0)), 0);
 }
 
-TEST_F(Categories, chartHasOneSlicePerRow) {
+TEST_F(CategoryListTest, chartHasOneSlicePerRow) {
     surveyFor(Audience::normal);
     const std::vector<BubbleSlice>& slices = list().bubbles()->slices();
     ASSERT_EQ(slices.size(), 5U);
@@ -191,7 +191,7 @@ TEST_F(Categories, chartHasOneSlicePerRow) {
     }
 }
 
-TEST_F(Categories, bubbleTapTogglesItsRow) {
+TEST_F(CategoryListTest, bubbleTapTogglesItsRow) {
     surveyFor(Audience::normal);
     const BubbleSlice modules = list().bubbles()->slices()[2];
     list().bubbles()->tap(modules);
@@ -203,7 +203,7 @@ TEST_F(Categories, bubbleTapTogglesItsRow) {
     EXPECT_EQ(footer(), "4 items · 87 MB");
 }
 
-TEST_F(Categories, ignoresTapOnVanishedBubble) {
+TEST_F(CategoryListTest, ignoresTapOnVanishedBubble) {
     surveyFor(Audience::normal);
     const BubbleSlice gone = list().bubbles()->slices()[0];
     loseItem(yarn);
@@ -212,7 +212,7 @@ TEST_F(Categories, ignoresTapOnVanishedBubble) {
     EXPECT_THAT(list().chosen(), IsEmpty());
 }
 
-TEST_F(Categories, signalsRowLevelEdits) {
+TEST_F(CategoryListTest, signalsRowLevelEdits) {
     surveyFor(Audience::normal);
     RowMirror mirror(list(), {CategoryList::idRole});
     loseItem(webModules);  // node_modules moves below npm
@@ -229,7 +229,7 @@ TEST_F(Categories, signalsRowLevelEdits) {
     EXPECT_EQ(list().rowCount(), 6);
 }
 
-TEST_F(Categories, rescanOfUnchangedDiskKeepsSlices) {
+TEST_F(CategoryListTest, rescanOfUnchangedDiskKeepsSlices) {
     surveyFor(Audience::normal);
     const std::vector<BubbleSlice> before = list().bubbles()->slices();
     survey();

@@ -111,7 +111,7 @@ TEST_F(ClutterScreenModelTest, isEmptyWithoutLargeFiles) {
     EXPECT_THAT(pills(), ElementsAre("All"));
 }
 
-TEST_F(ClutterScreenModelTest, sortsBySizeFirst) {
+TEST_F(ClutterScreenModelTest, sortsBySizeByDefault) {
     surveyClutter();
     EXPECT_FALSE(screen().sortByAge());
     EXPECT_THAT(names(), ElementsAre("concert.mov", "setup.iso", "backup.zip", "old.mp4", "notes.pdf"));

@@ -470,7 +470,7 @@ TEST_F(DryRunModelTest, reportsProgress) {
     EXPECT_EQ(sheet.progress(), QString());
 }
 
-TEST_F(DryRunModelTest, emptyingIsARemovalUnderWay) {
+TEST_F(DryRunModelTest, emptyingCountsAsRemoval) {
     open(three());
     cleanNow();
     runUntil([&] { return !removals.underWay(); });

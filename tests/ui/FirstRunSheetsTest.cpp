@@ -89,7 +89,7 @@ TEST_F(FirstRunSheetsTest, pageShowsTintedSymbolAndActiveDot) {
     }
 }
 
-TEST_F(FirstRunSheetsTest, pageHasTheExpectedSizes) {
+TEST_F(FirstRunSheetsTest, sizesDiscTitleAndBodyOfPage) {
     open();
     const SymbolItem* drive = symbol("internaldrive.fill");
     ASSERT_NE(drive, nullptr);

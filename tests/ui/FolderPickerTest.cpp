@@ -126,7 +126,7 @@ TEST_F(FolderPicker, returnsNothingWhenCancelled) {
 
 #ifdef __linux__
 // The dialog stores its own settings there.
-TEST_F(FolderPicker, createsNoMissingHome) {
+TEST_F(FolderPicker, doesNotCreateMissingHome) {
     const zoo::TempFolder folder;
     const QString before = settingsFolder();
     for (const char* kind : {"missing", "there"}) {

@@ -203,7 +203,7 @@ TEST_F(ItemListRowsTest, lostItemRemovesOnlyItsRow) {
     mirror().expectFresh();
 }
 
-TEST_F(ItemListRowsTest, newSelectionMarksAppsInUse) {
+TEST_F(ItemListRowsTest, seedingMarksItemsInUse) {
     fillJunk();
     show();
     unfoldAll();

@@ -212,7 +212,7 @@ TEST_F(ItemListTest, toggleSelectsAndDeselectsItem) {
     EXPECT_EQ(footer(), "6 items selected / 122 MB");
 }
 
-TEST_F(ItemListTest, partlySelectedCategoryIsSelectedFirst) {
+TEST_F(ItemListTest, togglingPartlySelectedCategorySelectsAll) {
     surveyFor(Audience::developer);
     list().setAgeDays(0);
     unfoldAll();

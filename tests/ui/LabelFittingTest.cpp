@@ -62,8 +62,8 @@ TEST(LabelFitting, isEmptyWithoutRoomForOneCharacter) {
 }
 
 TEST(LabelFitting, doesNotSplitGraphemeClusters) {
-    const QString accent = QStringLiteral("e\u0301");             // two units
-    const QString family = QStringLiteral("👨‍👩‍👧");  // eight
+    const QString accent = QStringLiteral("e\u0301");             // two UTF-16 units
+    const QString family = QStringLiteral("👨‍👩‍👧");  // eight UTF-16 units
     EXPECT_EQ(fitted(accent + accent + accent, 4), accent + QStringLiteral("…"));
     EXPECT_EQ(fitted(family + family, 9), family + QStringLiteral("…"));
     EXPECT_EQ(fitted(family + family, 8), QString());

@@ -9,14 +9,14 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class LensRemoval : public LensFixture {
+class LensRemovalTest : public LensFixture {
 protected:
     std::vector<std::string> trashed() const { return machine.trash.trashed(); }
 };
 
 }  // namespace
 
-TEST_F(LensRemoval, removesSelectedFoldersInPathOrder) {
+TEST_F(LensRemovalTest, removesSelectedFoldersInPathOrder) {
     fill();
     survey();
     toggle("music");
@@ -35,7 +35,7 @@ TEST_F(LensRemoval, removesSelectedFoldersInPathOrder) {
     EXPECT_EQ(lens().placeLine(), QStringLiteral("0 bytes · 1 folders"));
 }
 
-TEST_F(LensRemoval, updatesTotals) {
+TEST_F(LensRemovalTest, updatesTotals) {
     fill();
     survey();
     drill("projects");
@@ -44,14 +44,14 @@ TEST_F(LensRemoval, updatesTotals) {
     EXPECT_EQ(lens().placeLine(), QStringLiteral("80 MB · 0 folders"));
     EXPECT_EQ(model().root()->size, 138'000'000);
     EXPECT_EQ(model().topFolders().front()->size, 80'000'000);
-    EXPECT_EQ(model().bytesScanned(), 148'000'000) << "the figure of the survey stays";
+    EXPECT_EQ(model().bytesScanned(), 148'000'000) << "the count of the survey stays";
     lens().back();
     EXPECT_EQ(lens().placeLine(), QStringLiteral("138 MB · 3 folders"));
     EXPECT_THAT(column(LensRows::sizeRole), ElementsAre("80 MB", "50 MB", "8 MB"));
     EXPECT_EQ(slices().front().bytes, 80'000'000);
 }
 
-TEST_F(LensRemoval, keepsFailedFolderDeselected) {
+TEST_F(LensRemovalTest, keepsFailedFolderDeselected) {
     fill();
     survey();
     machine.files.failing = [&](const auto& call) { return call.operation == "trash" && call.path == home + "/music"; };
@@ -64,7 +64,7 @@ TEST_F(LensRemoval, keepsFailedFolderDeselected) {
     EXPECT_EQ(lens().version(), 1);
 }
 
-TEST_F(LensRemoval, keepsFolderThatVanishedFromDisk) {
+TEST_F(LensRemovalTest, keepsFolderThatVanishedFromDisk) {
     fill();
     survey();
     ASSERT_FALSE(machine.files.remove(*ItemPath::from(home + "/music")));
@@ -75,7 +75,7 @@ TEST_F(LensRemoval, keepsFolderThatVanishedFromDisk) {
     EXPECT_FALSE(lens().removable());
 }
 
-TEST_F(LensRemoval, removesOffMainThread) {
+TEST_F(LensRemovalTest, removesOffMainThread) {
     fill();
     survey();
     lens();
@@ -90,7 +90,7 @@ TEST_F(LensRemoval, removesOffMainThread) {
     EXPECT_THAT(names(), IsEmpty());
 }
 
-TEST_F(LensRemoval, removesNestedFolderWithItsParent) {
+TEST_F(LensRemovalTest, removesNestedFolderWithItsParent) {
     fill();
     survey();
     toggle("projects");
@@ -102,7 +102,7 @@ TEST_F(LensRemoval, removesNestedFolderWithItsParent) {
     EXPECT_EQ(model().root()->size, 58'000'000);
 }
 
-TEST_F(LensRemoval, keepsFolderWithLongerName) {
+TEST_F(LensRemovalTest, keepsFolderWithLongerName) {
     fill();
     put("/music box/tune", 1'000);
     survey();
@@ -112,7 +112,7 @@ TEST_F(LensRemoval, keepsFolderWithLongerName) {
     EXPECT_TRUE(machine.files.exists(home + "/music box/tune"));
 }
 
-TEST_F(LensRemoval, staysInsideRemovedFolder) {
+TEST_F(LensRemovalTest, staysInsideRemovedFolder) {
     fill();
     survey();
     toggle("projects");
@@ -129,7 +129,7 @@ TEST_F(LensRemoval, staysInsideRemovedFolder) {
     EXPECT_THAT(names(), ElementsAre("Library", "music"));
 }
 
-TEST_F(LensRemoval, removalFromOlderTreeUpdatesBothTrees) {
+TEST_F(LensRemovalTest, removalFromOlderTreeUpdatesBothTrees) {
     fill();
     survey();
     drill("projects");
@@ -144,7 +144,7 @@ TEST_F(LensRemoval, removalFromOlderTreeUpdatesBothTrees) {
     EXPECT_EQ(model().root()->size, 138'000'000);
 }
 
-TEST_F(LensRemoval, selectionKeepsItsOlderTreeAlive) {
+TEST_F(LensRemovalTest, selectionKeepsItsOlderTreeAlive) {
     fill();
     survey();
     toggle("music");
@@ -156,7 +156,7 @@ TEST_F(LensRemoval, selectionKeepsItsOlderTreeAlive) {
     EXPECT_EQ(model().root()->size, 140'000'000);
 }
 
-TEST_F(LensRemoval, removesThousandsOfFoldersOfOlderTree) {
+TEST_F(LensRemovalTest, removesThousandsOfFoldersOfOlderTree) {
     constexpr int count = 20'000;
     for (int at = 0; at < count; ++at) put("/many/folder " + std::to_string(at) + "/file", 1'000 + at);
     put("/music/song.flac", 8'000'000);
@@ -171,7 +171,7 @@ TEST_F(LensRemoval, removesThousandsOfFoldersOfOlderTree) {
     EXPECT_THAT(names(), ElementsAre("music"));
 }
 
-TEST_F(LensRemoval, surveyMayStartDuringRemoval) {
+TEST_F(LensRemovalTest, surveyMayStartDuringRemoval) {
     fill();
     survey();
     toggle("music");
@@ -192,7 +192,7 @@ TEST_F(LensRemoval, surveyMayStartDuringRemoval) {
     EXPECT_EQ(model().root()->size, 140'000'000);
 }
 
-TEST_F(LensRemoval, surveyMayFinishDuringRemoval) {
+TEST_F(LensRemovalTest, surveyMayFinishDuringRemoval) {
     fill();
     survey();
     drill("projects");
@@ -215,7 +215,7 @@ TEST_F(LensRemoval, surveyMayFinishDuringRemoval) {
     EXPECT_EQ(model().reclaimables().size(), 1U);
 }
 
-TEST_F(LensRemoval, keepsSelectionMadeDuringRemoval) {
+TEST_F(LensRemovalTest, keepsSelectionMadeDuringRemoval) {
     fill();
     survey();
     machine.tasks.hold();
@@ -229,7 +229,7 @@ TEST_F(LensRemoval, keepsSelectionMadeDuringRemoval) {
     EXPECT_EQ(caption(), "1 selected · 50 MB") << "the removed folder is not selected";
 }
 
-TEST_F(LensRemoval, screenMayBeDestroyedDuringRemoval) {
+TEST_F(LensRemovalTest, screenMayBeDestroyedDuringRemoval) {
     fill();
     survey();
     toggle("music");
@@ -241,7 +241,7 @@ TEST_F(LensRemoval, screenMayBeDestroyedDuringRemoval) {
     EXPECT_THAT(trashed(), ElementsAre(home + "/music"));
 }
 
-TEST_F(LensRemoval, removesReclaimablesInsideRemovedFolder) {
+TEST_F(LensRemovalTest, removesReclaimablesInsideRemovedFolder) {
     fill();
     survey();
     ASSERT_EQ(model().reclaimables().size(), 2U);

@@ -43,7 +43,7 @@ TEST_F(LensScreenModelTest, showsProgressAndResultsOfItsSurvey) {
     EXPECT_EQ(place(), "me");
 }
 
-TEST_F(LensScreenModelTest, isUnmappedWithoutTree) {
+TEST_F(LensScreenModelTest, hasNothingToMapWithoutTree) {
     EXPECT_FALSE(lens().mapped());
     EXPECT_EQ(place(), "—");
     EXPECT_EQ(lens().placeLine(), QString());
@@ -130,7 +130,7 @@ TEST_F(LensScreenModelTest, reportsFolderWithoutSubfolders) {
     EXPECT_GE(changed.size(), 1);
 }
 
-TEST_F(LensScreenModelTest, leafFoldersAndInvalidRowsAreNotEntered) {
+TEST_F(LensScreenModelTest, entersNoLeafFolderOrInvalidRow) {
     fill();
     survey();
     drill("music");
@@ -144,7 +144,7 @@ TEST_F(LensScreenModelTest, leafFoldersAndInvalidRowsAreNotEntered) {
     EXPECT_FALSE(lens().explanation()->shown());
 }
 
-TEST_F(LensScreenModelTest, drillingHasADuration) {
+TEST_F(LensScreenModelTest, drillingReportsItsDuration) {
     fill();
     survey();
     QSignalSpy drilled(&lens(), &LensScreenModel::drilled);

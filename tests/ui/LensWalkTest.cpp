@@ -140,7 +140,7 @@ TEST_F(LensWalkTest, deselectsFolderWithItsContent) {
     EXPECT_TRUE(walk.isSelected("/home/me/middle"));
 }
 
-TEST_F(LensWalkTest, lastComponentOfPath) {
+TEST_F(LensWalkTest, lastComponentOfRootIsSlash) {
     EXPECT_EQ(lastComponent("/home/me"), "me");
     EXPECT_EQ(lastComponent("/"), "/");
     EXPECT_EQ(lastComponent(""), "");
