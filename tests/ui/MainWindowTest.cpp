@@ -21,13 +21,13 @@ namespace {
 using tour::findControl;
 using tour::pressKey;
 
-class Window : public AppModelFixture {
+class MainWindowTest : public AppModelFixture {
 protected:
-    Window() {
+    MainWindowTest() {
         fillHome();
         addWideFolder(home + "/wide");
     }
-    ~Window() override {
+    ~MainWindowTest() override {
         machine.directories.release();
         shown_.reset();
     }
@@ -59,8 +59,7 @@ protected:
         return item != nullptr;
     }
 
-    /// The names of what the Tab key comes to beside the sidebar, in its order, from one control round to the same
-    /// again.
+    /// The accessible names outside the sidebar in Tab order, one full cycle from the focused item.
     std::vector<std::string> tabOrder() {
         std::vector<std::string> names;
         QQuickItem* first = window().activeFocusItem();
@@ -71,20 +70,20 @@ protected:
         return names;
     }
 
-    /// What the scan button is called before a survey.
+    /// The accessible name of the scan button before a survey.
     static std::string scanName() { return "Scan " + SystemTexts::of(SystemTexts::WholeComputer).toStdString(); }
     std::string focusName() {
         QAccessibleInterface* control = QAccessible::queryAccessibleInterface(window().activeFocusItem());
         return control == nullptr ? std::string() : control->text(QAccessible::Name).toStdString();
     }
 
-    /// What is shown beside the sidebar and the menus: the controls, and the texts that are no part of one.
-    struct Shown {
+    /// The visible items outside the sidebar and the menus: controls, and texts that are not part of a control.
+    struct VisibleItems {
         std::vector<QQuickItem*> controls;
         std::vector<QQuickItem*> texts;
     };
-    Shown whatIsShown() {
-        Shown found;
+    VisibleItems visibleItems() {
+        VisibleItems found;
         std::vector<QQuickItem*> pending{window().contentItem()};
         while (!pending.empty()) {
             QQuickItem* item = pending.back();
@@ -103,7 +102,7 @@ protected:
     }
 
     void expectEverythingNamed() {
-        const Shown all = whatIsShown();
+        const VisibleItems all = visibleItems();
         EXPECT_FALSE(all.controls.empty());
         EXPECT_FALSE(all.texts.empty());
         for (QQuickItem* item : all.controls) {
@@ -126,10 +125,10 @@ protected:
         }
     }
 
-    void expectEverythingInSight() {
-        window().grabWindow();  // lays out what the phase brought
+    void expectEverythingInsideWindow() {
+        window().grabWindow();  // applies the layout of the new phase
         const QRectF bounds(0, 0, window().width(), window().height());
-        const Shown all = whatIsShown();
+        const VisibleItems all = visibleItems();
         EXPECT_FALSE(all.controls.empty());
         EXPECT_FALSE(all.texts.empty());
         for (const std::vector<QQuickItem*>& items : {all.controls, all.texts})
@@ -146,7 +145,7 @@ protected:
         return *QAccessible::queryAccessibleInterface(button);
     }
 
-    /// The middle of the scan button, where its phase is written.
+    /// The centre of the scan button, which shows the phase.
     QImage face() {
         const QQuickItem* button = findControl(window(), QStringLiteral("scanButton"));
         const QRectF all = button->mapRectToScene(button->boundingRect());
@@ -160,7 +159,7 @@ private:
 
 }  // namespace
 
-TEST_F(Window, isCalledZelkAndHasItsLeastSize) {
+TEST_F(MainWindowTest, hasTitleAndMinimumSize) {
     EXPECT_EQ(shown().window().title(), QStringLiteral("Zelk"));
     EXPECT_EQ(window().minimumWidth(), 960);
     EXPECT_EQ(window().minimumHeight(), 620);
@@ -168,31 +167,31 @@ TEST_F(Window, isCalledZelkAndHasItsLeastSize) {
     EXPECT_GE(window().height(), 620);
 }
 
-TEST_F(Window, startsNoSurveyByItself) {
+TEST_F(MainWindowTest, startsNoSurvey) {
     shown();
     runWhatIsThere();
     EXPECT_EQ(model().scanPhase(), Phase::idle);
 }
 
-TEST_F(Window, givesTheScanButtonTheKeyboard) {
+TEST_F(MainWindowTest, focusesScanButtonFirst) {
     shown();
     ASSERT_NE(window().activeFocusItem(), nullptr);
     EXPECT_EQ(window().activeFocusItem()->objectName(), QStringLiteral("scanButton"));
 }
 
-TEST_F(Window, tabGoesFromTheButtonToTheFeatures) {
+TEST_F(MainWindowTest, tabVisitsFeaturesAfterScanButton) {
     shown();
     EXPECT_EQ(tabOrder(),
               (std::vector<std::string>{scanName(), "Reclaim junk", "Find duplicates", "Largest files", "Visual map"}));
 }
 
-TEST_F(Window, tabGoesFromTheButtonToCancelDuringASurvey) {
+TEST_F(MainWindowTest, tabVisitsCancelDuringSurvey) {
     shown();
     scanAndHold();
     EXPECT_EQ(tabOrder(), (std::vector<std::string>{"scanning…", "cancel"}));
 }
 
-TEST_F(Window, namesAllItsControlsAndTextsInEveryPhase) {
+TEST_F(MainWindowTest, namesAllControlsAndTextsInEveryPhase) {
     shown();
     expectEverythingNamed();
     scanAndHold();
@@ -201,7 +200,7 @@ TEST_F(Window, namesAllItsControlsAndTextsInEveryPhase) {
     expectEverythingNamed();
 }
 
-TEST_F(Window, showsWhereTheKeyboardIs) {
+TEST_F(MainWindowTest, tabShowsFocusRing) {
     shown();
     pressKey(window(), Qt::Key_Tab);
     QQuickItem* pill = window().activeFocusItem();
@@ -218,7 +217,7 @@ TEST_F(Window, showsWhereTheKeyboardIs) {
     EXPECT_TRUE(ringed);
 }
 
-TEST_F(Window, keepsTheKeyboardOnTheButtonWhenTheFocusedControlGoes) {
+TEST_F(MainWindowTest, returnsFocusToScanButtonWhenCancelDisappears) {
     shown();
     scanAndHold();
     pressKey(window(), Qt::Key_Tab);
@@ -226,22 +225,22 @@ TEST_F(Window, keepsTheKeyboardOnTheButtonWhenTheFocusedControlGoes) {
     pressKey(window(), Qt::Key_Space);
     EXPECT_EQ(model().scanPhase(), Phase::idle);
     EXPECT_EQ(focusName(), scanName());
-    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool()) << "the keyboard must stay in sight";
+    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool()) << "the focus must stay visible";
 }
 
-TEST_F(Window, showsNoRingToWhoUsesTheMouse) {
+TEST_F(MainWindowTest, mouseShowsNoFocusRing) {
     shown();
     machine.directories.hold(home + "/wide/inner");
     ASSERT_TRUE(tour::clickOn(window(), QStringLiteral("scanButton")));
     runUntil([&] { return model().itemsScanned() > 0; });
-    window().grabWindow();  // lays out what the phase brought
+    window().grabWindow();  // applies the layout of the new phase
     ASSERT_TRUE(tour::clickOn(window(), QStringLiteral("cancelButton")));
     EXPECT_EQ(model().scanPhase(), Phase::idle);
     EXPECT_EQ(focusName(), scanName());
     EXPECT_FALSE(window().activeFocusItem()->property("visualFocus").toBool());
 }
 
-TEST_F(Window, isPressedOnceByAScreenReader) {
+TEST_F(MainWindowTest, screenReaderPressesScanButtonOnce) {
     shown();
     machine.directories.hold(home);
     QSignalSpy clicks(findControl(window(), QStringLiteral("scanButton")), SIGNAL(clicked()));
@@ -254,7 +253,7 @@ TEST_F(Window, isPressedOnceByAScreenReader) {
     EXPECT_EQ(timesSignalled("scanPhase"), 1);
 }
 
-TEST_F(Window, pressesAFeatureWithTheKeyboard) {
+TEST_F(MainWindowTest, keyboardPressesFeature) {
     shown();
     pressKey(window(), Qt::Key_Tab);
     pressKey(window(), Qt::Key_Tab);
@@ -262,7 +261,7 @@ TEST_F(Window, pressesAFeatureWithTheKeyboard) {
     EXPECT_EQ(model().selection(), Screen::duplicates);
 }
 
-TEST_F(Window, hasAFaceOfItsOwnForEveryPhaseInBothThemes) {
+TEST_F(MainWindowTest, scanButtonLooksDifferentInEachPhase) {
     shown();
     for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
         model().setAppearance(appearance);
@@ -278,7 +277,7 @@ TEST_F(Window, hasAFaceOfItsOwnForEveryPhaseInBothThemes) {
     }
 }
 
-TEST_F(Window, hasTheThemesGroundBehindEverything) {
+TEST_F(MainWindowTest, paintsBackgroundOfTheme) {
     shown();
     const auto bottomRight = [&] {
         const QImage picture = window().grabWindow();
@@ -289,27 +288,27 @@ TEST_F(Window, hasTheThemesGroundBehindEverything) {
     EXPECT_NEAR(bottomRight().lightness(), ZelkTheme::light().ground.lightness(), 2);
 }
 
-TEST_F(Window, movesNothingButTheCometFromPhaseToPhase) {
+TEST_F(MainWindowTest, keepsScanButtonInPlaceWhenScanning) {
     shown();
     const QPointF before = findControl(window(), QStringLiteral("scanButton"))->mapToScene({});
     scanAndHold();
     EXPECT_EQ(findControl(window(), QStringLiteral("scanButton"))->mapToScene({}), before);
 }
 
-TEST_F(Window, keepsEverythingInSightAtItsLeastSize) {
+TEST_F(MainWindowTest, fitsEverythingAtMinimumSize) {
     shown();
     window().resize(960, 620);
     runUntil([&] { return window().contentItem()->size() == QSizeF(960, 620); });
-    expectEverythingInSight();
+    expectEverythingInsideWindow();
     scanAndHold();
     runUntil([&] { return !shown().survey().pathLine().isEmpty(); });
-    expectEverythingInSight();
+    expectEverythingInsideWindow();
 }
 
-TEST_F(Window, turnsTheCometOnlyWhereMotionIsWanted) {
+TEST_F(MainWindowTest, reducedMotionStopsComet) {
     shown();
     scanAndHold();
-    // An animator moves what is drawn and not the item: look at the top of the ring, where the comet's head rests.
+    // An animator changes the rendering, not the item: compare pixels at the top of the ring, where the comet rests.
     const QQuickItem* comet = findControl(window(), QStringLiteral("comet"));
     ASSERT_NE(comet, nullptr);
     const QRect top = comet->mapRectToScene(QRectF(comet->width() / 2 - 6, 0, 12, 14)).toRect();

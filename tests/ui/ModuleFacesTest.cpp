@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The faces that all modules share, and their rows in the sidebar: their sizes, and what stands where.
+// The views that all modules share, and their sidebar rows: sizes, colours and positions.
 #include "ViewFixture.h"
 #include "ui/screens/module/ModuleScreenModel.h"
 
@@ -27,7 +27,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ModuleFaces, theFirstIsTheOrbTheTitleTheSubtitleAndTheButton) {
+TEST_F(ModuleFaces, heroStacksOrbTitleSubtitleAndButton) {
     texts.subtitle = QString(20, u'w') + QString(QStringLiteral(" wide")).repeated(40);
     ModuleScreenModel module(Screen::lens, texts);
     show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleHero"), "module", &module, {900, 700});
@@ -57,7 +57,7 @@ TEST_F(ModuleFaces, theFirstIsTheOrbTheTitleTheSubtitleAndTheButton) {
     close();
 }
 
-TEST_F(ModuleFaces, theSecondIsTheOrbItsLabelItsDetailAndTheBar) {
+TEST_F(ModuleFaces, scanningShowsOrbAboveLabelAndDetail) {
     ModuleScreenModel module(Screen::lens, texts);
     module.setPhase(ModulePhase::scanning);
     module.setScanDetail(QStringLiteral("12 items · 3 MB"));
@@ -70,7 +70,7 @@ TEST_F(ModuleFaces, theSecondIsTheOrbItsLabelItsDetailAndTheBar) {
     close();
 }
 
-TEST_F(ModuleFaces, aHeaderIsATileBesideTheTitleOverTheSubtitle) {
+TEST_F(ModuleFaces, headerPutsTileBesideTitleAndSubtitle) {
     show(
         QStringLiteral("import QtQuick\nimport Zelk.App\nItem { ModuleHeader { width: parent.width; "
                        "symbol: 'circle.hexagongrid'; tint: '#e85bc4'; title: 'Lens'; subtitle: 'visual map'; "
@@ -90,10 +90,10 @@ TEST_F(ModuleFaces, aHeaderIsATileBesideTheTitleOverTheSubtitle) {
     EXPECT_EQ(colorOf("visual map"), theme().inkSoft());
     EXPECT_GT(showing("Lens")->mapToScene({}).x(), tile->mapToScene({38, 0}).x());
     EXPECT_LT(showing("Lens")->mapToScene({}).y(), showing("visual map")->mapToScene({}).y());
-    EXPECT_EQ(find("end")->mapToScene({60, 0}).x(), 700 - 26) << "what a module adds stands at the right";
+    EXPECT_EQ(find("end")->mapToScene({60, 0}).x(), 700 - 26) << "a module's own item is right-aligned";
 }
 
-TEST_F(ModuleFaces, aSidebarRowIsASymbolAndATitleOf14) {
+TEST_F(ModuleFaces, sidebarRowCollapsesToItsSymbol) {
     show(QStringLiteral("import QtQuick\nimport Zelk.App\nItem { SidebarRow { objectName: 'place'; width: 210; "
                         "index: 0; heading: 'Explore'; title: 'Lens'; symbol: 'circle.hexagongrid'; tint: '#e85bc4'; "
                         "selected: true; name: 'sidebarLens' } }"),

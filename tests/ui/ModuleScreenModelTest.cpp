@@ -29,7 +29,7 @@ protected:
 
 }  // namespace
 
-TEST(ModuleScreenModel, takesItsScreensTitleWhereItIsGivenNone) {
+TEST(ModuleScreenModel, titleDefaultsToThatOfTheScreen) {
     const ModuleScreenModel untitled(Screen::clutter, {});
     EXPECT_EQ(untitled.title(), QStringLiteral("Clutter"));
     ModuleTexts texts;
@@ -40,7 +40,7 @@ TEST(ModuleScreenModel, takesItsScreensTitleWhereItIsGivenNone) {
     EXPECT_EQ(titled.tint(), lookOf(Screen::health).color);
 }
 
-TEST(ModuleScreenModel, hasOneFaceAtATime) {
+TEST(ModuleScreenModel, showsOneFaceAtATime) {
     ModuleScreenModel module(Screen::apps, {});
     QSignalSpy changes(&module, &ModuleScreenModel::phaseChanged);
     const auto faces = [&] { return std::vector<bool>{module.idle(), module.scanning(), module.results()}; };
@@ -53,7 +53,7 @@ TEST(ModuleScreenModel, hasOneFaceAtATime) {
     EXPECT_EQ(changes.count(), 2);
 }
 
-TEST(ModuleScreenModel, itsButtonRunsWhatTheModuleGave) {
+TEST(ModuleScreenModel, scanRunsActionOfTheModule) {
     int runs = 0;
     ModuleTexts texts;
     texts.scanLabel = QStringLiteral("Find duplicates");
@@ -64,7 +64,7 @@ TEST(ModuleScreenModel, itsButtonRunsWhatTheModuleGave) {
     idle.scan();
 }
 
-TEST_F(Modules, saysWhatEachIsFor) {
+TEST_F(Modules, haveTitleAndSubtitle) {
     const TextsOf mac(macOS);
     const auto expect = [&](Screen screen, const char* title, const char* subtitle) {
         EXPECT_EQ(module(screen)->title().toStdString(), title);
@@ -83,7 +83,7 @@ TEST_F(Modules, saysWhatEachIsFor) {
     expect(Screen::system, "System & snapshots", "what the treemap can't show");
 }
 
-TEST_F(Modules, thatAreNotThereYetSaySoAndOfferNothing) {
+TEST_F(Modules, showNoteInsteadOfScanIfUnbuilt) {
     for (const Screen screen :
          {Screen::privacy, Screen::tune, Screen::apps, Screen::duplicates, Screen::health, Screen::system}) {
         const auto unbuilt = module(screen);
@@ -95,7 +95,7 @@ TEST_F(Modules, thatAreNotThereYetSaySoAndOfferNothing) {
     }
 }
 
-TEST_F(Modules, followTheSurveyThatTheirButtonBegins) {
+TEST_F(Modules, followSurveyStartedByTheirButton) {
     ModuleTexts texts;
     texts.scanLabel = QStringLiteral("Look");
     const auto looking = std::make_unique<SurveyedModule>(model(), Screen::lens, texts);
@@ -113,10 +113,10 @@ TEST_F(Modules, followTheSurveyThatTheirButtonBegins) {
     survey();
     EXPECT_TRUE(looking->results());
     looking->cancel();
-    EXPECT_EQ(model().scanPhase(), Phase::finished) << "there is nothing to call off";
+    EXPECT_EQ(model().scanPhase(), Phase::finished) << "there is nothing to cancel";
 }
 
-TEST_F(Modules, joinASurveyThatIsUnderWay) {
+TEST_F(Modules, joinRunningSurvey) {
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
     EXPECT_TRUE(SurveyedModule(model(), Screen::lens, {}).scanning());

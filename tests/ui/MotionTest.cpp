@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-TEST(Motion, takesNoTimeWhenReduced) {
+TEST(Motion, durationsAreZeroWhenReduced) {
     Motion motion;
     motion.setReduced(false);
     EXPECT_GT(motion.quick(), 0);
@@ -17,11 +17,11 @@ TEST(Motion, takesNoTimeWhenReduced) {
     EXPECT_EQ(motion.gentle(), 0);
 }
 
-TEST(Motion, turnsOnceIn1400Milliseconds) {
+TEST(Motion, turnTakes1400Milliseconds) {
     EXPECT_EQ(Motion().turn(), 1400);
 }
 
-TEST(Motion, tellsAChangeOnce) {
+TEST(Motion, notifiesOncePerChange) {
     Motion motion;
     motion.setReduced(false);
     int changes = 0;
@@ -31,12 +31,12 @@ TEST(Motion, tellsAChangeOnce) {
     EXPECT_EQ(changes, 1);
 }
 
-TEST(Motion, followsTheDesktopUntilToldOtherwise) {
+TEST(Motion, followsDesktopUntilSetExplicitly) {
     const DesktopKey key{QStringLiteral("org.freedesktop.appearance"), QStringLiteral("reduced-motion")};
     DesktopSettings desktop;
     desktop.hear(key, 1U);
     Motion motion(desktop);
-    EXPECT_TRUE(motion.reduced()) << "what was heard before it was there";
+    EXPECT_TRUE(motion.reduced()) << "a setting received before it was created counts";
     desktop.hear(key, 0U);
     EXPECT_FALSE(motion.reduced());
     motion.setReduced(true);

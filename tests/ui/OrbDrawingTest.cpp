@@ -15,20 +15,20 @@ const QPointF center(100, 100);
 
 }  // namespace
 
-TEST(Orb, isADiscOver52WithAShadowBelowIt) {
+TEST(Orb, paintsLitDiscWithShadow) {
     const QImage orb = painted({200, 200}, [](QPainter& painter) { drawOrbDisc(painter, center, lens); });
     EXPECT_EQ(orb.pixelColor(150, 100).alpha(), 255);
     EXPECT_LT(orb.pixelColor(153, 100).alpha(), 128);
     EXPECT_TRUE(alike(orb.pixelColor(75, 75), QColor(226, 114, 197))) << "lighter to the upper left";
     EXPECT_TRUE(alike(orb.pixelColor(125, 125), QColor(206, 89, 176))) << "darker to the lower right";
     EXPECT_GT(orb.pixelColor(100, 48).green(), orb.pixelColor(100, 51).green() + 20) << "light on its upper edge";
-    EXPECT_NEAR(orb.pixelColor(100, 162).alphaF(), 0.2, 0.02) << "the shadow, 8 lower and blurred over 20";
+    EXPECT_NEAR(orb.pixelColor(100, 162).alphaF(), 0.2, 0.02) << "the shadow is 8 lower and blurred by 20";
     EXPECT_TRUE(alike(QColor(orb.pixelColor(100, 162).rgb()), lens, 8));
     EXPECT_LT(orb.pixelColor(100, 37).alphaF(), 0.06);
     EXPECT_EQ(orb.pixelColor(100, 182).alpha(), 0);
 }
 
-TEST(Orb, keepsItsRingsBetweenTheDiscAndTheFrame) {
+TEST(Orb, keepsRingsBetweenDiscAndFrame) {
     double inner = OrbShape::discRadius;
     for (int ring = 0; ring < OrbShape::rings; ++ring) {
         const double radius = OrbShape::ringRadius(ring);
@@ -45,7 +45,7 @@ TEST(Orb, keepsItsRingsBetweenTheDiscAndTheFrame) {
     }
 }
 
-TEST(ModuleGlow, fallsFromTheModulesColourToNothingAt520) {
+TEST(ModuleGlow, fadesOutAtRadius520) {
     for (const bool dark : {true, false}) {
         const double opacity = dark ? 0.18 : 0.12;
         const QImage glow = painted({1060, 4}, [&](QPainter& painter) {
@@ -58,7 +58,7 @@ TEST(ModuleGlow, fallsFromTheModulesColourToNothingAt520) {
     }
 }
 
-TEST(AboutMark, isADiscOf78InsideAGlowOf96) {
+TEST(AboutMark, paintsDiscOf78InsideGlowOf96) {
     const QImage mark =
         painted({200, 200}, [](QPainter& painter) { drawAboutMark(painter, center, QColor(245, 166, 35)); });
     EXPECT_EQ(mark.pixelColor(137, 100).alpha(), 255);
@@ -67,7 +67,7 @@ TEST(AboutMark, isADiscOf78InsideAGlowOf96) {
     EXPECT_EQ(mark.pixelColor(149, 100).alpha(), 0);
 }
 
-TEST(PaintedLayer, isAsLargeAsWhatItShows) {
+TEST(PaintedLayer, implicitSizeDependsOnKind) {
     PaintedLayer layer;
     layer.setKind(PaintedLayer::OuterRing);
     EXPECT_EQ(layer.implicitWidth(), 150);
@@ -77,7 +77,7 @@ TEST(PaintedLayer, isAsLargeAsWhatItShows) {
     EXPECT_EQ(layer.implicitHeight(), 96);
 }
 
-TEST(PaintedLayer, paintsItsKindInItsColour) {
+TEST(PaintedLayer, paintsKindInItsColour) {
     PaintedLayer layer;
     layer.setProperty("color", lens);
     layer.setKind(PaintedLayer::OrbDisc);

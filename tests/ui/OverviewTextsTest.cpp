@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the overview says in each phase, read from the window.
+// The texts of the Overview in each phase, read from the rendered window.
 #include "TextsOf.h"
 #include "ViewFixture.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
@@ -28,7 +28,7 @@ protected:
 
 }  // namespace
 
-TEST_F(OverviewTexts, beforeASurveyInviteToScan) {
+TEST_F(OverviewTexts, inviteToScanBeforeSurvey) {
     open();
     EXPECT_EQ(seenTexts(), (Texts{"Test machine", "Test chip  ·  8 cores  ·  15 GB  ·  TestOS 1.0", "44 GB free",
                                   "of 100 GB", "Scan", "your whole Mac", "Scan every corner of your drive in seconds.",
@@ -41,7 +41,7 @@ TEST_F(OverviewTexts, beforeASurveyInviteToScan) {
         EXPECT_NE(symbol(sign), nullptr) << sign;
 }
 
-TEST_F(OverviewTexts, duringASurveyTellHowFarItIs) {
+TEST_F(OverviewTexts, showProgressDuringSurvey) {
     addWideFolder(home + "/wide");
     machine.directories.hold(home + "/wide/inner");
     open();
@@ -55,7 +55,7 @@ TEST_F(OverviewTexts, duringASurveyTellHowFarItIs) {
     EXPECT_EQ(sizeOf("scanning…"), 11);
 }
 
-TEST_F(OverviewTexts, afterASurveyTellWhatWasFound) {
+TEST_F(OverviewTexts, showResultsAfterSurvey) {
     machine.trash.put("old.zip", 7'000'000);
     fillHome();
     survey();
@@ -81,7 +81,7 @@ TEST_F(OverviewTexts, afterASurveyTellWhatWasFound) {
     EXPECT_EQ(sizeOf("re-run"), 10);
 }
 
-TEST_F(OverviewTexts, afterASurveyThatFoundNothingSaySo) {
+TEST_F(OverviewTexts, reportCleanDriveIfNothingWasFound) {
     survey();
     open();
     EXPECT_EQ(sizeOf("0 bytes"), 28) << "a figure and its unit, not a word";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is painted, as pixels on nothing.
+// Renders paint code into a transparent image, for tests that look at pixels.
 #pragma once
 
 #include <QImage>
@@ -25,7 +25,7 @@ inline QImage painted(QQuickPaintedItem& item, QSize size) {
     return painted(size, [&](QPainter& painter) { item.paint(&painter); });
 }
 
-/// Whether the two are the same colour to the eye.
+/// Whether no channel of the colours differs by more than `apart`.
 inline bool alike(const QColor& a, const QColor& b, int apart = 4) {
     return std::abs(a.red() - b.red()) <= apart && std::abs(a.green() - b.green()) <= apart &&
            std::abs(a.blue() - b.blue()) <= apart && std::abs(a.alpha() - b.alpha()) <= apart;

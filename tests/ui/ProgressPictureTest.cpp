@@ -22,24 +22,24 @@ QImage barAt(double seconds) {
 
 }  // namespace
 
-TEST(ModuleProgressBar, hasASliverOfAThirdOfItsTrack) {
+TEST(ModuleProgressBar, sliverIs34PercentOfTrack) {
     for (const double seconds : {0.0, 0.4, 1.4}) EXPECT_DOUBLE_EQ(progressSliver(seconds, 200).width, 68);
 }
 
-TEST(ModuleProgressBar, runsFromBeforeItsTrackToBehindIt) {
+TEST(ModuleProgressBar, sliverCrossesTrackFromOutsideToOutside) {
     EXPECT_DOUBLE_EQ(progressSliver(0, 200).left, -68);
     EXPECT_DOUBLE_EQ(progressSliver(0.375, 200).left, -1);
     EXPECT_DOUBLE_EQ(progressSliver(0.75, 200).left, 66);
     EXPECT_NEAR(progressSliver(1.499999, 200).left, 200, 0.01);
 }
 
-TEST(ModuleProgressBar, runsThroughOnceInOneAndAHalfSeconds) {
+TEST(ModuleProgressBar, repeatsEveryOneAndAHalfSeconds) {
     EXPECT_DOUBLE_EQ(progressSliver(1.5, 200).left, -68);
     EXPECT_DOUBLE_EQ(progressSliver(2.25, 200).left, 66);
     EXPECT_NEAR(progressSliver(1'500'000'000.75, 200).left, 66, 1e-3);
 }
 
-TEST(ModuleProgressBar, isACapsuleOnACapsule) {
+TEST(ModuleProgressBar, paintsSliverWithRoundEndsAndFadingTail) {
     const QImage bar = barAt(0.75);
     EXPECT_LT(bar.pixelColor(0, 0).alpha(), 90) << "round";
     EXPECT_EQ(bar.pixelColor(30, 3), barTrack);
@@ -50,7 +50,7 @@ TEST(ModuleProgressBar, isACapsuleOnACapsule) {
     EXPECT_GT(bar.pixelColor(72, 3).red(), barTrack.red() + 50);
 }
 
-TEST(ModuleProgressBar, showsOfItsSliverWhatLiesOnTheTrack) {
+TEST(ModuleProgressBar, clipsSliverToTrack) {
     const QImage before = barAt(0);
     for (int x = 3; x < 197; ++x) ASSERT_EQ(before.pixelColor(x, 3), barTrack) << x;
     EXPECT_EQ(barAt(0.375).pixelColor(72, 3), barTrack);
@@ -60,7 +60,7 @@ TEST(ModuleProgressBar, showsOfItsSliverWhatLiesOnTheTrack) {
     EXPECT_EQ(barAt(1.125).pixelColor(130, 3), barTrack);
 }
 
-TEST(ModuleProgressBar, repaintsWhenItsTimeGoesOn) {
+TEST(ModuleProgressBar, repaintsWhenTimeChanges) {
     ProgressPicture bar;
     int changes = 0;
     QObject::connect(&bar, &Drawn::changed, [&] { ++changes; });

@@ -22,7 +22,7 @@ std::vector<std::string> taken() {
     return texts;
 }
 
-/// Makes the object, as a file of that name would.
+/// Creates the object of this QML document, as if it were in the file Here.qml.
 void make(const char* qml) {
     QQmlEngine engine;
     QQmlComponent component(&engine);
@@ -37,17 +37,17 @@ TEST(QtMessages, keepsWarningsOnce) {
     EXPECT_THAT(taken(), IsEmpty());
 }
 
-TEST(QtMessages, nameTheFileAndLineOfABinding) {
+TEST(QtMessages, namesFileAndLineOfBinding) {
     make("import QtQml\nQtObject {\n    property var a\n    property var b: a.c\n}\n");
     EXPECT_THAT(taken(), ElementsAre(HasSubstr("Here.qml:4")));
 }
 
-TEST(QtMessages, keepWhatAScriptPrintsToo) {
+TEST(QtMessages, keepsConsoleOutput) {
     make("import QtQml\nQtObject {\n    Component.onCompleted: console.log('hello')\n}\n");
     EXPECT_THAT(taken(), ElementsAre(testing::AllOf(HasSubstr("Here.qml:3"), EndsWith("hello"))));
 }
 
-TEST(QtMessages, leaveOutWhatNobodyNeedsToMend) {
+TEST(QtMessages, ignoresDebugOutputAndHarmlessWarnings) {
     qDebug("a remark");
     qInfo("a remark");
     qWarning("This plugin does not support raise()");

@@ -10,9 +10,9 @@ namespace zelk {
 
 namespace {
 
-class Quitting : public testing::Test {
+class QuitQuestionTest : public testing::Test {
 protected:
-    /// Something is being removed, and somebody quits.
+    /// Quits while a removal is under way.
     void quitWhileRemoving() {
         removal = removals.begin(1);
         question.quit();
@@ -21,7 +21,7 @@ protected:
         removal->noteDone();
         runWhatIsThere();
     }
-    void expectNothingAsked() {
+    void expectNoQuestion() {
         EXPECT_FALSE(question.shown());
         EXPECT_FALSE(question.asking());
         EXPECT_FALSE(question.stopping());
@@ -35,14 +35,14 @@ protected:
 
 }  // namespace
 
-TEST_F(Quitting, isAtOnceWhereNothingIsRemoved) {
+TEST_F(QuitQuestionTest, quitsAtOnceWithoutRemoval) {
     question.quit();
     EXPECT_EQ(quits, 1);
-    expectNothingAsked();
+    expectNoQuestion();
     EXPECT_FALSE(question.asked());
 }
 
-TEST_F(Quitting, asksWhileSomethingIsRemoved) {
+TEST_F(QuitQuestionTest, asksDuringRemoval) {
     EXPECT_FALSE(question.holds());
     quitWhileRemoving();
     EXPECT_TRUE(question.holds());
@@ -52,31 +52,31 @@ TEST_F(Quitting, asksWhileSomethingIsRemoved) {
     EXPECT_EQ(quits, 0);
     question.quit();
     EXPECT_TRUE(question.asking());
-    EXPECT_EQ(quits, 0) << "asking twice is no answer";
+    EXPECT_EQ(quits, 0) << "quitting again is not an answer";
 }
 
-TEST_F(Quitting, theQuestionGoesByItselfWithTheRemoval) {
+TEST_F(QuitQuestionTest, closesWhenRemovalEnds) {
     quitWhileRemoving();
     endRemoval();
-    expectNothingAsked();
-    EXPECT_EQ(quits, 0) << "nobody has said how";
+    expectNoQuestion();
+    EXPECT_EQ(quits, 0) << "nobody has answered";
     question.quit();
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(Quitting, cancelGoesBackToTheRemoval) {
+TEST_F(QuitQuestionTest, cancelContinuesRemoval) {
     quitWhileRemoving();
     question.cancel();
-    expectNothingAsked();
+    expectNoQuestion();
     EXPECT_TRUE(removal->mayBegin());
     endRemoval();
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(Quitting, finishFirstEndsBehindTheRemoval) {
+TEST_F(QuitQuestionTest, finishFirstQuitsAfterRemoval) {
     quitWhileRemoving();
     question.finishFirst();
-    expectNothingAsked();
+    expectNoQuestion();
     EXPECT_TRUE(removal->mayBegin());
     EXPECT_EQ(quits, 0);
     endRemoval();
@@ -85,7 +85,7 @@ TEST_F(Quitting, finishFirstEndsBehindTheRemoval) {
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(Quitting, finishFirstWaitsForWhatBeganMeanwhile) {
+TEST_F(QuitQuestionTest, finishFirstWaitsForLaterRemovals) {
     quitWhileRemoving();
     question.finishFirst();
     const auto another = removals.begin(1);
@@ -96,7 +96,7 @@ TEST_F(Quitting, finishFirstWaitsForWhatBeganMeanwhile) {
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(Quitting, afterFinishFirstItAsksAgainAndCanBeTakenBack) {
+TEST_F(QuitQuestionTest, finishFirstCanBeCancelledByQuittingAgain) {
     quitWhileRemoving();
     question.finishFirst();
     question.quit();
@@ -106,33 +106,33 @@ TEST_F(Quitting, afterFinishFirstItAsksAgainAndCanBeTakenBack) {
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(Quitting, stopNowLetsNothingMoreBeginAndEndsBehindWhatHasBegun) {
+TEST_F(QuitQuestionTest, stopNowQuitsAfterItemsInProgress) {
     quitWhileRemoving();
     question.stopNow();
     EXPECT_FALSE(removal->mayBegin());
     EXPECT_TRUE(question.stopping());
-    EXPECT_TRUE(question.shown()) << "it stays while the last items end";
+    EXPECT_TRUE(question.shown()) << "it stays until the last items are done";
     EXPECT_FALSE(question.asking());
     EXPECT_EQ(quits, 0);
     question.quit();
     EXPECT_TRUE(question.stopping()) << "there is nothing left to ask";
     endRemoval();
     EXPECT_EQ(quits, 1);
-    expectNothingAsked();
+    expectNoQuestion();
 }
 
-TEST_F(Quitting, anAnswerWithoutAQuestionDoesNothing) {
+TEST_F(QuitQuestionTest, ignoresAnswersWithoutQuestion) {
     removal = removals.begin(1);
     question.finishFirst();
     question.stopNow();
     question.cancel();
     EXPECT_TRUE(removal->mayBegin());
-    expectNothingAsked();
+    expectNoQuestion();
     endRemoval();
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(Quitting, anAnswerIsGivenOnce) {
+TEST_F(QuitQuestionTest, ignoresFurtherAnswers) {
     quitWhileRemoving();
     question.stopNow();
     question.cancel();
@@ -140,7 +140,7 @@ TEST_F(Quitting, anAnswerIsGivenOnce) {
     EXPECT_TRUE(question.stopping());
 }
 
-TEST_F(Quitting, saysWhatEachAnswerDoes) {
+TEST_F(QuitQuestionTest, noteExplainsAnswers) {
     quitWhileRemoving();
     EXPECT_EQ(question.note(),
               QStringLiteral("Finish first, and Zelk quits by itself when everything is removed. Stop now, and what "
@@ -150,15 +150,15 @@ TEST_F(Quitting, saysWhatEachAnswerDoes) {
               QStringLiteral("Nothing more begins. Zelk quits as soon as what has begun is finished."));
 }
 
-// Where nobody can be asked.
+// Quitting without a window for the question.
 
-TEST_F(Quitting, unaskedIsAtOnceWhereNothingIsRemoved) {
+TEST_F(QuitQuestionTest, quitUnaskedQuitsAtOnceWithoutRemoval) {
     question.quitUnasked();
     EXPECT_EQ(quits, 1);
     EXPECT_FALSE(question.shown());
 }
 
-TEST_F(Quitting, unaskedStopsTheRemovalAndEndsBehindIt) {
+TEST_F(QuitQuestionTest, quitUnaskedStopsRemoval) {
     removal = removals.begin(1);
     question.quitUnasked();
     EXPECT_TRUE(question.stopping());
@@ -170,21 +170,21 @@ TEST_F(Quitting, unaskedStopsTheRemovalAndEndsBehindIt) {
 
 // The end of the session.
 
-TEST_F(Quitting, aSessionEndsFreelyWhereNothingIsRemoved) {
+TEST_F(QuitQuestionTest, sessionEndIsNotHeldWithoutRemoval) {
     EXPECT_FALSE(question.endSession(true));
     EXPECT_FALSE(question.endSession(false));
     EXPECT_FALSE(question.shown());
-    EXPECT_EQ(quits, 0) << "the desktop says when";
+    EXPECT_EQ(quits, 0) << "the desktop ends the application";
 }
 
-TEST_F(Quitting, aSessionThatMayBeHeldWaitsForTheAnswer) {
+TEST_F(QuitQuestionTest, sessionEndIsHeldUntilAnswered) {
     removal = removals.begin(1);
     EXPECT_TRUE(question.endSession(true));
     EXPECT_TRUE(question.asking());
     EXPECT_TRUE(removal->mayBegin());
 }
 
-TEST_F(Quitting, aSessionThatMayNotBeHeldStopsTheRemoval) {
+TEST_F(QuitQuestionTest, sessionEndThatCannotBeHeldStopsRemoval) {
     removal = removals.begin(1);
     EXPECT_FALSE(question.endSession(false));
     EXPECT_TRUE(question.stopping());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The question before the application ends while something is being removed.
+// The question that is asked when the application quits during a removal.
 #include "ViewFixture.h"
 #include "ui/shell/QuitQuestion.h"
 
@@ -9,11 +9,11 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class QuitWindow : public ViewFixture {
+class QuitSheetWindow : public ViewFixture {
 protected:
-    ~QuitWindow() override { close(); }
+    ~QuitSheetWindow() override { close(); }
 
-    /// A button has the keyboard when the question comes.
+    /// Asks the question while a button behind it has the focus.
     void ask() {
         show(QStringLiteral("import QtQuick\nimport Zelk.Controls\nimport Zelk.App\n"
                             "FocusScope { id: top; required property QuitQuestion quitting; focus: true\n"
@@ -36,7 +36,7 @@ protected:
 
 }  // namespace
 
-TEST_F(QuitWindow, isADialogWithItsTitleItsNoteAndItsAnswers) {
+TEST_F(QuitSheetWindow, isDialogWithTitleNoteAndAnswers) {
     ask();
     EXPECT_EQ(seenTexts(), (Names{"Below", "Something is still being removed",
                                   "Finish first, and Zelk quits by itself when everything is removed. Stop now, and "
@@ -53,7 +53,7 @@ TEST_F(QuitWindow, isADialogWithItsTitleItsNoteAndItsAnswers) {
     expectAllControlsNamed();
 }
 
-TEST_F(QuitWindow, theKeyboardIsOnFinishFirstAndGoesRound) {
+TEST_F(QuitSheetWindow, focusStartsOnFinishFirstAndStaysInside) {
     ask();
     EXPECT_EQ(focusName(), "Finish first");
     const Names order = tabOrder();
@@ -62,7 +62,7 @@ TEST_F(QuitWindow, theKeyboardIsOnFinishFirstAndGoesRound) {
     EXPECT_EQ(std::count(order.begin(), order.end(), "Below"), 0);
 }
 
-TEST_F(QuitWindow, enterFinishesFirst) {
+TEST_F(QuitSheetWindow, returnFinishesFirst) {
     ask();
     press(Qt::Key_Return);
     EXPECT_FALSE(question.shown());
@@ -72,7 +72,7 @@ TEST_F(QuitWindow, enterFinishesFirst) {
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(QuitWindow, escapeAndCancelGoBackAndGiveTheKeyboardBack) {
+TEST_F(QuitSheetWindow, escapeAndCancelRestoreFocus) {
     ask();
     press(Qt::Key_Escape);
     EXPECT_FALSE(question.shown());
@@ -88,7 +88,7 @@ TEST_F(QuitWindow, escapeAndCancelGoBackAndGiveTheKeyboardBack) {
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(QuitWindow, stopNowStaysUntilTheLastItemHasEnded) {
+TEST_F(QuitSheetWindow, staysAfterStopNowUntilRemovalEnds) {
     ask();
     click("stopNow");
     EXPECT_FALSE(removal->mayBegin());
@@ -103,7 +103,7 @@ TEST_F(QuitWindow, stopNowStaysUntilTheLastItemHasEnded) {
     EXPECT_EQ(find("finishFirst"), nullptr);
 }
 
-TEST_F(QuitWindow, goesByItselfWhenTheRemovalEnds) {
+TEST_F(QuitSheetWindow, closesWhenRemovalEnds) {
     ask();
     endRemoval();
     EXPECT_EQ(find("finishFirst"), nullptr);
@@ -111,7 +111,7 @@ TEST_F(QuitWindow, goesByItselfWhenTheRemovalEnds) {
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(QuitWindow, nothingIsClippedInLargeText) {
+TEST_F(QuitSheetWindow, clipsNothingInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     ask();
     for (const bool stopping : {false, true}) {

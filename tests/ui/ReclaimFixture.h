@@ -8,7 +8,7 @@
 
 namespace zelk {
 
-/// The Reclaim screen over a home in memory, where what a survey finds can be cleaned too.
+/// The Reclaim screen over a home folder in memory, whose items can be surveyed and cleaned.
 template <class Base>
 class ReclaimFixtureOn : public Base {
 protected:
@@ -21,13 +21,13 @@ protected:
 
     TimePoint daysAgo(double days) { return machine.clock.now() - days * secondsPerDay; }
 
-    /// A folder with one file of `bytes`.
+    /// Creates a folder with one file of `bytes`.
     void put(const std::string& folder, std::uint64_t bytes, double daysOld = 100) {
         machine.directories.directory(folder, daysAgo(daysOld));
         machine.directories.file(folder + "/data", bytes);
         machine.files.addFile(folder + "/data", {}, bytes);
     }
-    /// The same in a project, whose date is that of what a tool has left in it.
+    /// The same for build output in a project, whose age is that of the project folder.
     void putInProject(const std::string& project, const std::string& name, std::uint64_t bytes, double daysOld = 100) {
         machine.directories.directory(project, daysAgo(daysOld));
         put(project + "/" + name, bytes, 0);
@@ -60,7 +60,7 @@ protected:
     }
     void destroyScreen() { screen_.reset(); }
 
-    /// A survey that `audience` looks at from its end on.
+    /// Surveys in the background, then shows the screen to `audience`.
     void surveyFor(AppModel::Audience audience) {
         screen();
         survey();
@@ -68,7 +68,7 @@ protected:
         screen().setOnScreen(true);
     }
 
-    /// The item at `path` goes out of the results.
+    /// Removes the item at `path` from the results.
     void loseItem(const std::string& path) { model().removeFromTree(*folderAt(model().root(), path)); }
 
     static std::string text(QAbstractItemModel& list, int row, int role) {

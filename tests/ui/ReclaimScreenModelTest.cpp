@@ -18,7 +18,7 @@ class ReclaimScreen : public ReclaimFixture {
 protected:
     const CleanupSelection& selection() { return screen().cleanup().selection(); }
     DryRunModel& sheet() { return *screen().dryRun(); }
-    std::unordered_set<std::string> inSheet() {
+    std::unordered_set<std::string> idsInSheet() {
         std::unordered_set<std::string> ids;
         for (const Reclaimable& item : sheet().rows()->items()) ids.insert(item.id);
         return ids;
@@ -40,7 +40,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ReclaimScreen, itsFixedTexts) {
+TEST_F(ReclaimScreen, hasFixedTexts) {
     EXPECT_EQ(screen().title().toStdString(), "Reclaim");
     EXPECT_EQ(screen().subtitle().toStdString(), "Clear caches, logs, and developer junk — safely, to the Trash.");
     EXPECT_EQ(screen().scanLabel().toStdString(), "Scan for junk");
@@ -49,7 +49,7 @@ TEST_F(ReclaimScreen, itsFixedTexts) {
     EXPECT_EQ(screen().tint(), QColor(50, 199, 123));
 }
 
-TEST_F(ReclaimScreen, theGuideTellsTheThreeGrades) {
+TEST_F(ReclaimScreen, guideExplainsThreeGrades) {
     SafetyGuide& guide = *screen().guide();
     struct Row {
         std::string grade;
@@ -80,7 +80,7 @@ TEST_F(ReclaimScreen, theGuideTellsTheThreeGrades) {
     }
 }
 
-TEST_F(ReclaimScreen, hasOneFaceAtATime) {
+TEST_F(ReclaimScreen, showsOneFaceAtATime) {
     fillJunk();
     std::vector<std::string> faces;
     QObject::connect(&screen(), &ReclaimScreenModel::faceChanged, &screen(), [&] {
@@ -90,11 +90,11 @@ TEST_F(ReclaimScreen, hasOneFaceAtATime) {
     surveyFor(Audience::normal);
     model().setAudience(Audience::developer);
     survey();
-    // Never the empty one between two that are not.
+    // It never falls back to idle in between.
     EXPECT_THAT(faces, ElementsAre("scanning ", "byCategory ", "byItem ", "scanning ", "byItem "));
 }
 
-TEST_F(ReclaimScreen, aCleanDriveSaysSoToBothAudiences) {
+TEST_F(ReclaimScreen, reportsCleanDriveToBothAudiences) {
     machine.directories.file(home + "/letter.txt", 10);
     surveyFor(Audience::normal);
     EXPECT_EQ(face(), "nothing ");
@@ -102,7 +102,7 @@ TEST_F(ReclaimScreen, aCleanDriveSaysSoToBothAudiences) {
     EXPECT_EQ(face(), "nothing ");
 }
 
-TEST_F(ReclaimScreen, theButtonBeginsASurvey) {
+TEST_F(ReclaimScreen, buttonStartsSurvey) {
     fillJunk();
     screen().scan();
     EXPECT_EQ(model().scanPhase(), Phase::scanning);
@@ -111,7 +111,7 @@ TEST_F(ReclaimScreen, theButtonBeginsASurvey) {
     EXPECT_EQ(face(), "byCategory ");
 }
 
-TEST_F(ReclaimScreen, aCancelledSurveyLeadsBackToTheBeginning) {
+TEST_F(ReclaimScreen, cancelledSurveyReturnsToIdle) {
     fillJunk();
     surveyFor(Audience::developer);
     EXPECT_EQ(selection().selected().size(), 6U);
@@ -123,9 +123,9 @@ TEST_F(ReclaimScreen, aCancelledSurveyLeadsBackToTheBeginning) {
     EXPECT_THAT(selection().selected(), IsEmpty());
 }
 
-// Which ticks are set, and when.
+// When the selection is seeded.
 
-TEST_F(ReclaimScreen, theItemViewSeedsWhenItComesOnScreen) {
+TEST_F(ReclaimScreen, itemViewSeedsWhenShown) {
     fillJunk();
     model().setAudience(Audience::developer);
     screen();
@@ -138,17 +138,17 @@ TEST_F(ReclaimScreen, theItemViewSeedsWhenItComesOnScreen) {
     EXPECT_EQ(selection().seededFor(), 7U);
 }
 
-TEST_F(ReclaimScreen, aChangeToDevelopersSeedsTooWhileItIsShown) {
+TEST_F(ReclaimScreen, switchToDeveloperSeedsWhileShown) {
     fillJunk();
     screen();
     survey();
     screen().setOnScreen(true);
-    EXPECT_EQ(selection().seededFor(), 0U);  // the category view has not asked for it
+    EXPECT_EQ(selection().seededFor(), 0U);  // the category view does not seed
     model().setAudience(Audience::developer);
     EXPECT_EQ(selection().seededFor(), 7U);
 }
 
-TEST_F(ReclaimScreen, aChangeOfAudienceElsewhereSeedsNothing) {
+TEST_F(ReclaimScreen, audienceChangeDoesNotSeedWhileHidden) {
     fillJunk();
     screen();
     survey();
@@ -156,7 +156,7 @@ TEST_F(ReclaimScreen, aChangeOfAudienceElsewhereSeedsNothing) {
     EXPECT_EQ(selection().seededFor(), 0U);
 }
 
-TEST_F(ReclaimScreen, aSurveyThatIsWatchedSeedsForBothAudiences) {
+TEST_F(ReclaimScreen, surveySeedsForBothAudiencesWhileShown) {
     fillJunk();
     for (const Audience audience : {Audience::normal, Audience::developer}) {
         ReclaimScreenModel watched(model());
@@ -167,7 +167,7 @@ TEST_F(ReclaimScreen, aSurveyThatIsWatchedSeedsForBothAudiences) {
     }
 }
 
-TEST_F(ReclaimScreen, aSurveyThatNobodyWatchesSeedsForNeither) {
+TEST_F(ReclaimScreen, surveyDoesNotSeedWhileHidden) {
     fillJunk();
     for (const Audience audience : {Audience::normal, Audience::developer}) {
         model().setAudience(audience);
@@ -177,12 +177,12 @@ TEST_F(ReclaimScreen, aSurveyThatNobodyWatchesSeedsForNeither) {
     }
 }
 
-TEST_F(ReclaimScreen, aSurveyElsewhereWithAsManyItemsKeepsTheChoiceAndTheConflicts) {
+TEST_F(ReclaimScreen, hiddenSurveyWithSameCountKeepsSelection) {
     fillJunk();
     machine.workspace.running = {"Cursor"};
     surveyFor(Audience::developer);
     screen().items()->setAgeDays(0);
-    screen().items()->toggle(0);  // not Yarn
+    screen().items()->toggle(0);  // deselects Yarn
     screen().setOnScreen(false);
     machine.workspace.running = {"Slack"};
     survey();
@@ -192,7 +192,7 @@ TEST_F(ReclaimScreen, aSurveyElsewhereWithAsManyItemsKeepsTheChoiceAndTheConflic
     EXPECT_EQ(machine.workspace.runningReads, 1);
 }
 
-TEST_F(ReclaimScreen, aSurveyElsewhereWithOtherItemsIsSeededOnComingBack) {
+TEST_F(ReclaimScreen, hiddenSurveyWithOtherCountSeedsWhenShown) {
     fillJunk();
     surveyFor(Audience::developer);
     screen().items()->toggle(0);
@@ -205,7 +205,7 @@ TEST_F(ReclaimScreen, aSurveyElsewhereWithOtherItemsIsSeededOnComingBack) {
     EXPECT_TRUE(selection().selected().contains(yarn));
 }
 
-TEST_F(ReclaimScreen, aWatchedListThatShrinksToNothingEmptiesTheSelection) {
+TEST_F(ReclaimScreen, newSurveyClearsSelectionWhileShown) {
     fillJunk();
     surveyFor(Audience::developer);
     machine.tasks.hold();
@@ -217,7 +217,7 @@ TEST_F(ReclaimScreen, aWatchedListThatShrinksToNothingEmptiesTheSelection) {
     EXPECT_EQ(selection().selected().size(), 6U);
 }
 
-TEST_F(ReclaimScreen, anItemThatGoesWhileItIsWatchedSeedsAnewForBothAudiences) {
+TEST_F(ReclaimScreen, removedItemReseedsWhileShown) {
     fillJunk();
     surveyFor(Audience::normal);
     EXPECT_EQ(selection().seededFor(), 0U);
@@ -233,17 +233,17 @@ TEST_F(ReclaimScreen, anItemThatGoesWhileItIsWatchedSeedsAnewForBothAudiences) {
 
 // The review.
 
-TEST_F(ReclaimScreen, reviewAndCleanTakesExactlyTheChosenCategories) {
+TEST_F(ReclaimScreen, reviewTakesChosenCategories) {
     fillJunk();
     surveyFor(Audience::normal);
     screen().categories()->review();
     EXPECT_TRUE(screen().reviewing());
-    EXPECT_THAT(inSheet(), UnorderedElementsAre(npm, cursorCache, slackCache, yarn));
-    EXPECT_EQ(selection().selected(), inSheet());
+    EXPECT_THAT(idsInSheet(), UnorderedElementsAre(npm, cursorCache, slackCache, yarn));
+    EXPECT_EQ(selection().selected(), idsInSheet());
     EXPECT_EQ(sheet().line().toStdString(), "3 to Trash · 1 via command · 87 MB to recover");
 }
 
-TEST_F(ReclaimScreen, reviewAndCleanLeavesNoAgeFilterBehind) {
+TEST_F(ReclaimScreen, reviewOfCategoriesClearsAgeFilter) {
     fillJunk();
     surveyFor(Audience::normal);
     screen().categories()->review();
@@ -255,7 +255,7 @@ TEST_F(ReclaimScreen, reviewAndCleanLeavesNoAgeFilterBehind) {
     EXPECT_EQ(screen().items()->shownText().toStdString(), "7 of 7 shown");
 }
 
-TEST_F(ReclaimScreen, reviewAndCleanWithoutACategoryDoesNothing) {
+TEST_F(ReclaimScreen, reviewWithoutCategoryDoesNothing) {
     fillJunk();
     surveyFor(Audience::normal);
     screen().categories()->chooseNone();
@@ -265,29 +265,29 @@ TEST_F(ReclaimScreen, reviewAndCleanWithoutACategoryDoesNothing) {
     EXPECT_EQ(screen().cleanup().ageDays(), 14);
 }
 
-TEST_F(ReclaimScreen, theReviewOfCategoriesReadsNoConflictsOfItsOwn) {
+TEST_F(ReclaimScreen, reviewOfCategoriesDoesNotCheckRunningApplications) {
     fillJunk();
     screen();
     survey();
     machine.workspace.running = {"Cursor"};
     screen().setOnScreen(true);
     screen().categories()->review();
-    EXPECT_TRUE(inSheet().contains(cursorCache));  // nothing has looked who is running
+    EXPECT_TRUE(idsInSheet().contains(cursorCache));  // nothing has checked what is running
     EXPECT_EQ(machine.workspace.runningReads, 0);
 }
 
-TEST_F(ReclaimScreen, theReviewOfCategoriesLeavesOutWhatASeedFoundInUse) {
+TEST_F(ReclaimScreen, reviewOfCategoriesSkipsItemsInUseWhenSeeded) {
     fillJunk();
     machine.workspace.running = {"Cursor"};
     screen().setOnScreen(true);
-    survey();  // is watched
+    survey();  // seeds, as the screen is shown
     machine.workspace.running = {};
     screen().categories()->review();
-    EXPECT_THAT(inSheet(), UnorderedElementsAre(npm, slackCache, yarn));
+    EXPECT_THAT(idsInSheet(), UnorderedElementsAre(npm, slackCache, yarn));
     EXPECT_TRUE(selection().selected().contains(cursorCache));
 }
 
-TEST_F(ReclaimScreen, aReviewOfNothingButWhatIsInUseOpensEmpty) {
+TEST_F(ReclaimScreen, reviewIsEmptyIfEveryItemIsInUse) {
     fillJunk();
     machine.workspace.running = {"Cursor", "Slack"};
     screen().setOnScreen(true);
@@ -297,23 +297,23 @@ TEST_F(ReclaimScreen, aReviewOfNothingButWhatIsInUseOpensEmpty) {
     EXPECT_TRUE(screen().categories()->reviewable());
     screen().categories()->review();
     EXPECT_TRUE(screen().reviewing());
-    EXPECT_THAT(inSheet(), IsEmpty());
+    EXPECT_THAT(idsInSheet(), IsEmpty());
     EXPECT_EQ(sheet().line().toStdString(), "0 to Trash · 0 via command · 0 bytes to recover");
     EXPECT_FALSE(sheet().confirmable());
 }
 
-TEST_F(ReclaimScreen, theReviewKeepsItsItemsWhateverASurveyFindsMeanwhile) {
+TEST_F(ReclaimScreen, openReviewKeepsItemsDuringSurvey) {
     fillJunk();
     surveyFor(Audience::normal);
     screen().categories()->review();
-    const auto before = inSheet();
+    const auto before = idsInSheet();
     survey();
     loseItem(yarn);
     EXPECT_TRUE(screen().reviewing());
-    EXPECT_EQ(inSheet(), before);
+    EXPECT_EQ(idsInSheet(), before);
 }
 
-TEST_F(ReclaimScreen, aSecondReviewBeginsAnew) {
+TEST_F(ReclaimScreen, secondReviewStartsFresh) {
     fillJunk();
     surveyFor(Audience::developer);
     screen().items()->clean();
@@ -322,10 +322,10 @@ TEST_F(ReclaimScreen, aSecondReviewBeginsAnew) {
     screen().items()->toggle(0);
     screen().items()->clean();
     EXPECT_FALSE(sheet().hardDelete());
-    EXPECT_EQ(inSheet().size(), 3U);
+    EXPECT_EQ(idsInSheet().size(), 3U);
 }
 
-TEST_F(ReclaimScreen, aCleaningEndsInOneNewSurvey) {
+TEST_F(ReclaimScreen, cleanupIsFollowedByOneSurvey) {
     fillJunk();
     surveyFor(Audience::normal);
     screen().categories()->review();
@@ -340,7 +340,7 @@ TEST_F(ReclaimScreen, aCleaningEndsInOneNewSurvey) {
     EXPECT_EQ(machine.trash.trashed().size(), 3U);
 }
 
-TEST_F(ReclaimScreen, aCancelledReviewEndsInNoSurvey) {
+TEST_F(ReclaimScreen, cancelledReviewStartsNoSurvey) {
     fillJunk();
     surveyFor(Audience::normal);
     screen().categories()->review();
@@ -350,7 +350,7 @@ TEST_F(ReclaimScreen, aCancelledReviewEndsInNoSurvey) {
     EXPECT_EQ(timesSignalled("scanPhase"), 0);
 }
 
-TEST_F(ReclaimScreen, emptyingFromTheReviewLeavesTheTrashFieldsAlone) {
+TEST_F(ReclaimScreen, emptyingFromReviewKeepsTrashFieldsOfModel) {
     fillJunk();
     machine.trash.put("old.zip", 7'000'000);
     surveyFor(Audience::normal);
@@ -365,7 +365,7 @@ TEST_F(ReclaimScreen, emptyingFromTheReviewLeavesTheTrashFieldsAlone) {
     EXPECT_THAT(takeSignals(), IsEmpty());
 }
 
-TEST_F(ReclaimScreen, theOneClickPathTakesWhatTheReviewWouldNot) {
+TEST_F(ReclaimScreen, oneClickCleanupIgnoresRunningApplications) {
     put(cursorCache, 5 * megabyte, 1);
     machine.workspace.running = {"Cursor"};
     surveyFor(Audience::developer);
@@ -380,7 +380,7 @@ TEST_F(ReclaimScreen, theOneClickPathTakesWhatTheReviewWouldNot) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(ReclaimScreen, itMayGoWhileItCleans) {
+TEST_F(ReclaimScreen, mayBeDestroyedDuringCleanup) {
     fillJunk();
     surveyFor(Audience::normal);
     screen().categories()->review();

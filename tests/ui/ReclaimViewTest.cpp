@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The texts of the screen as they are rendered, for either audience, and those of the sheet before and after a
-// clean-up.
+// The rendered texts of the screen for both audiences, and of the review sheet before and after a clean-up.
 #include "ReclaimFixture.h"
 #include "ViewFixture.h"
 
@@ -20,12 +19,12 @@ protected:
 
 }  // namespace
 
-TEST_F(ReclaimWindow, introducesItselfBeforeASurvey) {
+TEST_F(ReclaimWindow, introducesItselfBeforeSurvey) {
     show(QStringLiteral("Zelk.App"), QStringLiteral("ReclaimView"), "reclaim", &screen(), {1046, 800});
     expectTexts({"Reclaim", "Clear caches, logs, and developer junk — safely, to the Trash.", "Scan for junk"});
 }
 
-TEST_F(ReclaimWindow, saysThatNothingWasFound) {
+TEST_F(ReclaimWindow, reportsCleanDrive) {
     openFor(AppModel::Audience::normal);
     expectTexts({"Clean drive", "Nothing to reclaim right now."});
 }
@@ -57,7 +56,7 @@ TEST_F(ReclaimWindow, offersItems) {
         {"Nothing that old", "Everything found was in use more recently. Move the slider to the left to see it."});
 }
 
-TEST_F(ReclaimWindow, reviewsWhatWillGoAndSaysWhatWent) {
+TEST_F(ReclaimWindow, reviewsAndReportsCleanup) {
     fillJunk();
     openFor(AppModel::Audience::normal);
     click("reviewButton");

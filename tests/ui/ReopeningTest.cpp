@@ -5,21 +5,21 @@
 
 namespace zelk {
 
-TEST(Reopening, aPressInTheDockAsksForAWindow) {
+TEST(Reopening, dockClickAsksForWindow) {
     Reopening reopening;
     EXPECT_FALSE(reopening.asksForWindow(Qt::ApplicationInactive));
     EXPECT_TRUE(reopening.asksForWindow(Qt::ApplicationActive));
-    EXPECT_TRUE(reopening.asksForWindow(Qt::ApplicationActive)) << "pressed again while it is active";
+    EXPECT_TRUE(reopening.asksForWindow(Qt::ApplicationActive)) << "clicked again while active";
 }
 
-TEST(Reopening, anActivationOfOursAsksForNone) {
+TEST(Reopening, ownActivationAsksForNoWindow) {
     Reopening reopening;
     reopening.activating(Qt::ApplicationInactive);
     EXPECT_FALSE(reopening.asksForWindow(Qt::ApplicationActive));
-    EXPECT_TRUE(reopening.asksForWindow(Qt::ApplicationActive)) << "what comes later is somebody else's";
+    EXPECT_TRUE(reopening.asksForWindow(Qt::ApplicationActive)) << "only the next activation is our own";
 }
 
-TEST(Reopening, whatIsActiveAlreadyHasNoChangeToCome) {
+TEST(Reopening, activatingWhileActiveExpectsNoChange) {
     Reopening reopening;
     reopening.activating(Qt::ApplicationActive);
     EXPECT_TRUE(reopening.asksForWindow(Qt::ApplicationActive));

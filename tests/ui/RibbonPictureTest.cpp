@@ -31,8 +31,8 @@ QImage ribbon(const std::vector<std::int64_t>& bytes, double freeBytes) {
     return painted(picture, {400, 22});
 }
 
-/// Whether the middle of the bar has this colour from one point to the other.
-bool isAll(const QImage& bar, int left, int right, const QColor& color) {
+/// Whether the bar has this colour from `left` to `right` along its middle.
+bool isFilled(const QImage& bar, int left, int right, const QColor& color) {
     for (int x = left; x < right; ++x)
         if (bar.pixelColor(x, 11) != color) return false;
     return true;
@@ -40,18 +40,18 @@ bool isAll(const QImage& bar, int left, int right, const QColor& color) {
 
 }  // namespace
 
-TEST(StorageRibbon, sharesItsWidthByTheBytesOfAllAndOfTheFreeSpace) {
+TEST(StorageRibbon, dividesWidthByBytesAndFreeSpace) {
     EXPECT_EQ(ribbonWidths({100, 200}, 100, 400), (Widths{100, 200, 100}));
     EXPECT_EQ(ribbonWidths({0, 300}, 100, 400), (Widths{0, 300, 100}));
 }
 
-TEST(StorageRibbon, takesNegativeFreeBytesForNone) {
+TEST(StorageRibbon, treatsNegativeBytesAsZero) {
     EXPECT_EQ(ribbonWidths({100, 300}, -1, 400), (Widths{100, 300, 0}));
     EXPECT_EQ(ribbonWidths({100, 300}, std::numeric_limits<std::int64_t>::min(), 400), (Widths{100, 300, 0}));
     EXPECT_EQ(ribbonWidths({-100, 300}, 100, 400), (Widths{0, 300, 100}));
 }
 
-TEST(StorageRibbon, ofAThousandTerabytesIsStillWholeAndInProportion) {
+TEST(StorageRibbon, staysProportionalWithPetabytes) {
     constexpr std::int64_t petabyte = 1'000'000'000'000'000;
     EXPECT_EQ(ribbonWidths({petabyte, 2 * petabyte}, petabyte, 400), (Widths{100, 200, 100}));
     const Widths one = ribbonWidths({1, petabyte}, 0, 400);
@@ -59,33 +59,33 @@ TEST(StorageRibbon, ofAThousandTerabytesIsStillWholeAndInProportion) {
     EXPECT_NEAR(one[0] + one[1], 400, 1e-9);
 }
 
-TEST(StorageRibbon, doesNotOverflowWhereTheSumHasNoRoomIn64Bits) {
+TEST(StorageRibbon, survivesSumsBeyond64Bits) {
     constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
     EXPECT_EQ(ribbonWidths({most, most}, most, 300), (Widths{100, 100, 100}));
 }
 
-TEST(StorageRibbon, ofNoSegmentsIsAllFree) {
+TEST(StorageRibbon, isAllFreeWithoutSegments) {
     EXPECT_EQ(ribbonWidths({}, 100, 400), Widths{400});
-    EXPECT_TRUE(isAll(ribbon({}, 100), 0, 400, freeColor));
+    EXPECT_TRUE(isFilled(ribbon({}, 100), 0, 400, freeColor));
 }
 
-TEST(StorageRibbon, ofNoBytesAtAllIsAnEmptyTrack) {
+TEST(StorageRibbon, isEmptyTrackWithoutBytes) {
     EXPECT_EQ(ribbonWidths({}, 0, 400), Widths{400});
     EXPECT_EQ(ribbonWidths({0, 0}, 0, 400), (Widths{0, 0, 400}));
     EXPECT_EQ(ribbonWidths({0, -5}, -7, 400), (Widths{0, 0, 400}));
-    EXPECT_TRUE(isAll(ribbon({0, 0}, 0), 0, 400, freeColor));
+    EXPECT_TRUE(isFilled(ribbon({0, 0}, 0), 0, 400, freeColor));
 }
 
-TEST(StorageRibbon, hasASectionForEachSegmentAndLastTheFreeSpace) {
+TEST(StorageRibbon, paintsSegmentsThenFreeSpace) {
     const QImage bar = ribbon({100, 200}, 100);
-    EXPECT_TRUE(isAll(bar, 0, 100, segmentColors[0]));
-    EXPECT_TRUE(isAll(bar, 100, 300, segmentColors[1]));
-    EXPECT_TRUE(isAll(bar, 300, 400, freeColor));
+    EXPECT_TRUE(isFilled(bar, 0, 100, segmentColors[0]));
+    EXPECT_TRUE(isFilled(bar, 100, 300, segmentColors[1]));
+    EXPECT_TRUE(isFilled(bar, 300, 400, freeColor));
     EXPECT_EQ(bar.pixelColor(200, 0), segmentColors[1]);
     EXPECT_EQ(bar.pixelColor(200, 21), segmentColors[1]);
 }
 
-TEST(StorageRibbon, isRoundAtItsOuterEnds) {
+TEST(StorageRibbon, roundsOuterEnds) {
     const QImage bar = ribbon({100, 200}, 100);
     for (const int end : {1, 398}) {
         EXPECT_LT(bar.pixelColor(end, 1).alpha(), 90);
@@ -95,9 +95,9 @@ TEST(StorageRibbon, isRoundAtItsOuterEnds) {
     for (const int edge : {99, 100, 299, 300}) EXPECT_LT(bar.pixelColor(edge, 0).alpha(), 200) << edge;
 }
 
-TEST(StorageRibbon, leavesOutWhatHasNoBytesAndRoundsItsNeighbour) {
+TEST(StorageRibbon, skipsEmptySegments) {
     const QImage bar = ribbon({0, 100, 0}, 0);
-    EXPECT_TRUE(isAll(bar, 0, 400, segmentColors[1]));
+    EXPECT_TRUE(isFilled(bar, 0, 400, segmentColors[1]));
     EXPECT_LT(bar.pixelColor(1, 1).alpha(), 90);
     EXPECT_LT(bar.pixelColor(398, 1).alpha(), 90);
 }
@@ -106,10 +106,10 @@ TEST(StorageRibbon, keepsTinySegments) {
     EXPECT_GT(ribbonWidths({1, 1'000'000}, 1'000'000, 400)[0], 0);
     const QImage bar = ribbon({1, 400}, 0);
     EXPECT_GT(alike(bar.pixelColor(0, 11), segmentColors[0], 12), alike(bar.pixelColor(1, 11), segmentColors[0], 12));
-    EXPECT_TRUE(isAll(bar, 2, 399, segmentColors[1]));
+    EXPECT_TRUE(isFilled(bar, 2, 399, segmentColors[1]));
 }
 
-TEST(StorageRibbon, paintsTheFreeSpaceOfAThousandTerabytes) {
+TEST(StorageRibbon, paintsFreeSpaceOfOnePetabyte) {
     const QImage bar = ribbon({1'000'000'000'000'000}, 1e15);
     EXPECT_EQ(bar.pixelColor(190, 11), segmentColors[0]);
     EXPECT_EQ(bar.pixelColor(210, 11), freeColor);

@@ -24,7 +24,7 @@ QImage ringOf(double value) {
     return painted(ring, {108, 108});
 }
 
-/// On the middle of the line, so many degrees past noon with the clock.
+/// The colour in the middle of the stroke, `degrees` clockwise from the top.
 QColor at(const QImage& ring, double degrees) {
     const double angle = degrees * std::acos(-1) / 180;
     return ring.pixelColor(static_cast<int>(54 + 49 * std::sin(angle)), static_cast<int>(54 - 49 * std::cos(angle)));
@@ -32,7 +32,7 @@ QColor at(const QImage& ring, double degrees) {
 
 }  // namespace
 
-TEST(RingGauge, isAnArcOverAFullTrackInsideItsSquare) {
+TEST(RingGauge, paintsArcOverFullTrack) {
     const QImage ring = ringOf(0.25);
     for (const int degrees : {2, 45, 88}) EXPECT_EQ(at(ring, degrees), ringAmber) << degrees;
     for (const int degrees : {105, 180, 270, 345}) EXPECT_TRUE(alike(at(ring, degrees), ringTrack)) << degrees;
@@ -43,30 +43,30 @@ TEST(RingGauge, isAnArcOverAFullTrackInsideItsSquare) {
     EXPECT_EQ(at(ring, 94), ringAmber) << "its ends are round";
 }
 
-TEST(RingGauge, ofOnePointSevenIsAFullRing) {
+TEST(RingGauge, clampsValuesAboveOneToFullRing) {
     EXPECT_EQ(ringFraction(1.7), 1);
     EXPECT_EQ(ringFraction(std::numeric_limits<double>::infinity()), 1);
     for (int degrees = 0; degrees < 360; degrees += 15) EXPECT_EQ(at(ringOf(1.7), degrees), ringAmber) << degrees;
 }
 
-TEST(RingGauge, ofMinusOneIsADotOfAThousandthOfATurn) {
+TEST(RingGauge, clampsNegativeValuesToDot) {
     EXPECT_EQ(ringFraction(-1), 0.001);
     const QImage ring = ringOf(-1);
     EXPECT_EQ(at(ring, 0), ringAmber);
     for (const int degrees : {15, 90, 180, 345}) EXPECT_TRUE(alike(at(ring, degrees), ringTrack)) << degrees;
 }
 
-TEST(RingGauge, ofZeroStillShowsADot) {
+TEST(RingGauge, showsDotAtZero) {
     EXPECT_EQ(ringFraction(0), 0.001);
     EXPECT_EQ(ringFraction(0.0005), 0.001);
     EXPECT_EQ(ringFraction(0.002), 0.002);
 }
 
-TEST(RingGauge, ofNoNumberIsADot) {
+TEST(RingGauge, showsDotForNaN) {
     EXPECT_EQ(ringFraction(std::numeric_limits<double>::quiet_NaN()), 0.001);
 }
 
-TEST(RingPicture, isThereAtOnceWhereItStandsStill) {
+TEST(RingPicture, showsValueAtOnceWhenStill) {
     RingPicture ring;
     EXPECT_EQ(ring.shown(), 0.001);
     ring.setStill(true);
@@ -77,20 +77,20 @@ TEST(RingPicture, isThereAtOnceWhereItStandsStill) {
     EXPECT_EQ(ring.shown(), 1);
 }
 
-TEST(RingPicture, springsFromWhereItIs) {
+TEST(RingPicture, springsToNewValue) {
     RingPicture ring;
     ring.setValue(0.6);
     EXPECT_EQ(ring.value(), 0.6);
     EXPECT_EQ(ring.shown(), 0.001);
     ring.setStill(true);
-    EXPECT_EQ(ring.shown(), 0.6) << "what stands still does not go on springing";
+    EXPECT_EQ(ring.shown(), 0.6) << "becoming still ends the spring";
 }
 
-TEST(RingPicture, startsWhereItsFirstValueIs) {
+TEST(RingPicture, showsInitialValueAtOnce) {
     RingPicture ring;
     static_cast<QQmlParserStatus&>(ring).classBegin();
     ring.setValue(0.6);
-    EXPECT_EQ(ring.shown(), 0.6) << "what is not yet on screen has nowhere to spring from";
+    EXPECT_EQ(ring.shown(), 0.6) << "it does not spring while under construction";
 }
 
 }  // namespace zelk

@@ -36,33 +36,33 @@ std::size_t touched(const RowEdits& edits) {
 
 }  // namespace
 
-TEST(RowEdits, equalListsNeedNone) {
+TEST(RowEdits, equalListsNeedNoEdits) {
     const RowEdits edits = rowEdits({"a", "b"}, {"a", "b"});
     EXPECT_THAT(edits.removals, IsEmpty());
     EXPECT_THAT(edits.insertions, IsEmpty());
 }
 
-TEST(RowEdits, whatWentIsTakenOutFromTheEnd) {
+TEST(RowEdits, removesRowsFromTheEnd) {
     EXPECT_THAT(rowEdits({"a", "b", "c", "d", "e"}, {"b", "e"}).removals, ElementsAre(RowRange{2, 2}, RowRange{0, 1}));
 }
 
-TEST(RowEdits, whatCameIsPutInFromTheFront) {
+TEST(RowEdits, insertsRowsFromTheFront) {
     EXPECT_THAT(rowEdits({"b", "e"}, {"a", "b", "c", "d", "e"}).insertions,
                 ElementsAre(RowRange{0, 1}, RowRange{2, 2}));
 }
 
-TEST(RowEdits, aRowThatMovesTouchesNoOther) {
+TEST(RowEdits, movedRowTouchesNoOther) {
     const RowEdits edits = rowEdits({"a", "b", "c", "d"}, {"d", "a", "b", "c"});
     EXPECT_THAT(edits.removals, ElementsAre(RowRange{3, 1}));
     EXPECT_THAT(edits.insertions, ElementsAre(RowRange{0, 1}));
 }
 
-TEST(RowEdits, anEmptyListIsFilledAndEmptied) {
+TEST(RowEdits, fillsAndEmptiesList) {
     EXPECT_THAT(rowEdits({}, {"a", "b"}).insertions, ElementsAre(RowRange{0, 2}));
     EXPECT_THAT(rowEdits({"a", "b"}, {}).removals, ElementsAre(RowRange{0, 2}));
 }
 
-TEST(RowEdits, anyListBecomesAnyOther) {
+TEST(RowEdits, turnsAnyListIntoAnyOther) {
     std::mt19937 random(7);
     std::vector<std::string> names;
     for (int i = 0; i < 12; ++i) names.push_back(std::to_string(i));
@@ -79,13 +79,13 @@ TEST(RowEdits, anyListBecomesAnyOther) {
     }
 }
 
-TEST(RowEdits, asManyRowsAsCanStay) {
+TEST(RowEdits, keepsAsManyRowsAsPossible) {
     std::mt19937 random(8);
     Keys rows{"a", "b", "c", "d", "e", "f"};
     Keys other = rows;
     for (int round = 0; round < 200; ++round) {
         std::shuffle(other.begin(), other.end(), random);
-        // The longest common order, by trying every set of rows.
+        // The length of the longest common subsequence, by brute force.
         std::size_t most = 0;
         for (unsigned set = 0; set < 64; ++set) {
             Keys one;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Rows that are used again for other data.
+// A list that reuses its rows for other data.
 #include <gmock/gmock.h>
 
 #include <QAccessible>
@@ -14,7 +14,7 @@ namespace zelk {
 
 namespace {
 
-/// A hundred rows with a tick, a figure that runs and their number; the first half are ticked.
+/// A hundred rows, each with a check box and an animated figure; the first fifty are checked.
 constexpr const char* listBoard = R"(
 import QtQuick
 import Zelk.Controls
@@ -51,9 +51,9 @@ protected:
         show(QString::fromUtf8(listBoard), {300, 400});
     }
 
-    /// The list keeps its current row also where that is scrolled away.
+    /// The list keeps its current row even when it is scrolled out of view.
     static bool isInTheWindow(const QQuickItem* item) { return item->mapToScene({}).y() >= 0; }
-    /// What the rows in sight show of themselves, from the top down.
+    /// The figures of the visible rows, from top to bottom.
     std::vector<std::string> figures() {
         std::map<double, std::string> byPlace;
         for (QQuickItem* item : seen())
@@ -63,8 +63,8 @@ protected:
         for (auto& [y, text] : byPlace) texts.push_back(std::move(text));
         return texts;
     }
-    /// The grounds of the ticks in sight.
-    std::set<std::string> grounds() {
+    /// The background colours of the visible check boxes.
+    std::set<std::string> checkBoxColors() {
         std::set<std::string> colors;
         for (QQuickItem* item : seen()) {
             if (item->objectName() != QStringLiteral("tick") || !isInTheWindow(item)) continue;
@@ -73,16 +73,16 @@ protected:
         }
         return colors;
     }
-    std::string themes(const char* name) {
+    std::string themeColor(const char* name) {
         return singleton<Theme>("Theme").property(name).value<QColor>().name(QColor::HexArgb).toStdString();
     }
 };
 
 }  // namespace
 
-TEST_F(RowListWindow, aRowThatIsUsedAgainShowsItsOwnDataAtOnce) {
+TEST_F(RowListWindow, reusedRowShowsItsOwnDataAtOnce) {
     ASSERT_EQ(figures().front(), "0 KB");
-    ASSERT_THAT(grounds(), testing::ElementsAre(themes("accent")));
+    ASSERT_THAT(checkBoxColors(), testing::ElementsAre(themeColor("accent")));
     std::set<QQuickItem*> before;
     for (QQuickItem* item : seen())
         if (item->objectName() == QStringLiteral("tick")) before.insert(item);
@@ -92,14 +92,14 @@ TEST_F(RowListWindow, aRowThatIsUsedAgainShowsItsOwnDataAtOnce) {
     std::vector<std::string> expected;
     for (int at = 90; at < 100; ++at) expected.push_back(std::to_string(at) + " KB");
     EXPECT_EQ(figures(), expected);
-    EXPECT_THAT(grounds(), testing::ElementsAre(themes("surfaceHi")));
+    EXPECT_THAT(checkBoxColors(), testing::ElementsAre(themeColor("surfaceHi")));
     const std::vector<QQuickItem*> now = seen();
     EXPECT_TRUE(std::any_of(now.begin(), now.end(), [&](QQuickItem* item) {
         return before.contains(item) && isInTheWindow(item);
-    })) << "no row was used again";
+    })) << "no row was reused";
 }
 
-TEST_F(RowListWindow, screenReaderMeetsRowsTopDownAfterScrolling) {
+TEST_F(RowListWindow, screenReaderVisitsRowsTopDownAfterScrolling) {
     auto* content = find("list")->property("contentItem").value<QQuickItem*>();
     QAccessibleInterface* list = QAccessible::queryAccessibleInterface(find("list"));
     const auto shownRows = [&] {

@@ -9,11 +9,11 @@
 
 namespace zelk {
 
-/// What a view knows of a list that tells it of every change, and of nothing else. It holds the list to its word: in
-/// the middle of a change too, the rows that are there are those that were told of.
+/// Mirrors a list from its signals alone, as a view does. Fails if the rows of the list differ from those that it
+/// signalled, even in the middle of a change.
 class RowMirror : public QObject {
 public:
-    /// `identity` are the roles that tell a row from any other and never change.
+    /// `identity` are the roles that identify a row and never change.
     RowMirror(QAbstractListModel& list, QList<int> identity) : list_(list), identity_(std::move(identity)) {
         for (int row = 0; row < list_.rowCount(); ++row) rows_.push_back(read(row));
         connect(&list_, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex&, int first, int last) {
@@ -33,9 +33,9 @@ public:
                     for (int row = first.row(); row <= last.row(); ++row) reread(row, roles);
                     compareRows();
                 });
-        connect(&list_, &QAbstractItemModel::modelReset, this, [] { ADD_FAILURE() << "the rows were all forgotten"; });
-        connect(&list_, &QAbstractItemModel::layoutChanged, this, [] { ADD_FAILURE() << "the rows were shuffled"; });
-        connect(&list_, &QAbstractItemModel::rowsMoved, this, [] { ADD_FAILURE() << "a row moved by itself"; });
+        connect(&list_, &QAbstractItemModel::modelReset, this, [] { ADD_FAILURE() << "the list was reset"; });
+        connect(&list_, &QAbstractItemModel::layoutChanged, this, [] { ADD_FAILURE() << "the layout changed"; });
+        connect(&list_, &QAbstractItemModel::rowsMoved, this, [] { ADD_FAILURE() << "a row was moved"; });
     }
 
     void forget() {
@@ -46,7 +46,7 @@ public:
     int removed() const { return removed_; }
     const std::set<int>& changed() const { return changed_; }
 
-    /// Every figure that a view shows is as fresh as the list's.
+    /// Expects every mirrored value to equal the current one of the list.
     void expectFresh() {
         ASSERT_EQ(static_cast<int>(rows_.size()), list_.rowCount());
         const QHash<int, QByteArray> names = list_.roleNames();

@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-TEST(ScreenLook, ofAllTwelveModules) {
+TEST(ScreenLook, coversAllTwelveScreens) {
     const auto expect = [](Screen screen, const char* title, const char* subtitle, const char* symbol, QColor color) {
         const ScreenLook& look = lookOf(screen);
         EXPECT_EQ(look.title.toStdString(), title);

@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-/// For as long as it lives, what is made reads the texts of this system.
+/// Makes objects that are created during its lifetime use the texts of this system.
 class TextsOf {
 public:
     explicit TextsOf(SystemTexts::System system) { SystemTexts::show(system); }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One view of the interface alone in a real window, for the tests of its keyboard, its names and its room.
+// Shows a single view in a real window, to test its keyboard handling, accessible names and layout.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -33,7 +33,7 @@ protected:
         engine_.addImportPath(QStringLiteral("qrc:/"));
         singleton<Theme>("Theme").follow(model());
         singleton<Motion>("Motion").setReduced(true);
-        singleton<TextScale>("TextScale").setFactor(1);  // whatever the desktop says
+        singleton<TextScale>("TextScale").setFactor(1);  // independent of the desktop
     }
     ~ViewFixture() override { close(); }
 
@@ -42,12 +42,12 @@ protected:
         return *engine_.singletonInstance<T*>(qmlTypeId("Zelk.Controls", 1, 0, name));
     }
 
-    /// Shows the view of a module that takes `model` as its `property`, filling a window of this size.
+    /// Shows this type of a QML module, with `model` as its `property`, in a window of this size.
     void show(const QString& module, const QString& type, const char* property, QObject* model, QSize size) {
         show(QStringLiteral("import QtQuick\nimport %1\n%2 { focus: true }").arg(module, type), size,
              {{QString::fromLatin1(property), QVariant::fromValue(model)}});
     }
-    /// Shows what this text tells, filling a window of this size.
+    /// Shows this QML document in a window of this size.
     void show(const QString& source, QSize size, const QVariantMap& properties = {}) {
         QQmlComponent component(&engine_);
         component.setData(source.toUtf8(), QUrl(QStringLiteral("qrc:/test.qml")));
@@ -56,7 +56,7 @@ protected:
         window_->resize(size);
         view_.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
         ASSERT_NE(view_, nullptr) << component.errorString().toStdString();
-        // This platform cannot have a screen reader, but the controls take their roles as if one were there.
+        // The offscreen platform has no screen reader; without this the controls would not set their roles.
         QAccessible::setActive(true);
         view_->setParentItem(window_->contentItem());
         view_->setSize(size);
@@ -64,7 +64,7 @@ protected:
         runUntil([&] { return window_->isExposed() && window_->isActive(); });
         settle();
     }
-    /// The view reads its model: a fixture that holds the model closes first.
+    /// Destroys the view, which reads its model: a fixture that owns the model calls this first.
     void close() {
         view_.reset();
         window_.reset();
@@ -73,7 +73,7 @@ protected:
     QQuickWindow& window() { return *window_; }
     QQuickItem& view() { return *view_; }
 
-    /// Lays out what has changed.
+    /// Runs pending events and renders a frame, which applies the layout.
     void settle() {
         runWhatIsThere();
         window_->grabWindow();
@@ -93,11 +93,11 @@ protected:
         QAccessibleInterface* control = QAccessible::queryAccessibleInterface(item);
         return control == nullptr ? std::string() : control->text(QAccessible::Name).toStdString();
     }
-    /// What has the keyboard, as a screen reader says it.
+    /// The accessible name of the focused item.
     std::string focusName() { return nameOf(window_->activeFocusItem()); }
     bool focusIsRinged() { return window_->activeFocusItem()->property("visualFocus").toBool(); }
 
-    /// The names of all that the Tab key comes to, once round, from where the keyboard is.
+    /// The accessible names in Tab order, one full cycle from the focused item.
     std::vector<std::string> tabOrder() {
         std::vector<std::string> names;
         const QQuickItem* first = window_->activeFocusItem();
@@ -108,7 +108,7 @@ protected:
         return names;
     }
 
-    /// All items that are seen, each before its children, and those in their order.
+    /// All visible items, parents before their children and siblings in order.
     std::vector<QQuickItem*> seen() {
         std::vector<QQuickItem*> found;
         std::vector<QQuickItem*> pending{window_->contentItem()};
@@ -123,7 +123,7 @@ protected:
         return found;
     }
 
-    /// The texts that are seen, figures too, in the order in which a screen reader comes to them.
+    /// The visible texts, including figures, in the order in which a screen reader visits them.
     std::vector<std::string> seenTexts() {
         std::vector<std::string> texts;
         for (QQuickItem* item : seen()) {
@@ -134,13 +134,13 @@ protected:
         return texts;
     }
 
-    /// Each of these texts is seen.
+    /// Expects each of these texts to be visible.
     void expectTexts(std::initializer_list<const char*> wanted) {
         const std::vector<std::string> texts = seenTexts();
         for (const char* text : wanted) EXPECT_NE(std::find(texts.begin(), texts.end(), text), texts.end()) << text;
     }
 
-    /// The item that shows this text itself; nullptr if none is seen.
+    /// The visible item that shows exactly this text, or nullptr.
     QQuickItem* showing(const char* text) {
         for (QQuickItem* item : seen())
             if (item->property("text").toString() == QString::fromUtf8(text) &&
@@ -148,14 +148,14 @@ protected:
                 return item;
         return nullptr;
     }
-    /// In points at the normal text size; 0 if the text is not seen.
+    /// The font size of a text in points at the normal text scale, or 0 if it is not visible.
     double sizeOf(const char* text) {
         const QQuickItem* item = showing(text);
         if (item == nullptr) return 0;
         const QVariant own = item->property("pixelSize");
         return own.isValid() ? own.toDouble() : item->property("font").value<QFont>().pixelSize();
     }
-    /// The symbol of this name that is seen; nullptr if there is none, or more than one.
+    /// The only visible symbol of this name; nullptr if there is none or more than one.
     SymbolItem* symbol(const char* name) {
         SymbolItem* found = nullptr;
         for (QQuickItem* item : seen()) {
@@ -166,7 +166,7 @@ protected:
         }
         return found;
     }
-    /// The side of a symbol that looks as large as a text of this size.
+    /// The side of a symbol that matches a text of this size.
     static int sideBesideText(double points) { return static_cast<int>(std::lround(points * 1.2)); }
 
     void expectAllControlsNamed() {
@@ -179,7 +179,7 @@ protected:
         EXPECT_GT(controls, 0);
     }
 
-    /// Every text is inside the window from left to right, shows all its lines, and keeps off every other text.
+    /// Expects every text to be inside the window horizontally, untruncated, and clear of all other texts.
     void expectNoTextClipped() {
         std::vector<std::pair<QRectF, std::string>> boxes;
         for (QQuickItem* item : seen()) {
@@ -198,7 +198,7 @@ protected:
         EXPECT_FALSE(boxes.empty());
     }
 
-    /// What has the keyboard is in sight as a whole.
+    /// Expects the focused item to be completely inside the window.
     void expectFocusInSight() {
         const QQuickItem* item = window_->activeFocusItem();
         const QRectF box = item->mapRectToScene(item->boundingRect());
