@@ -29,19 +29,19 @@ protected:
     }
     ~MainWindowTest() override {
         machine.directories.release();
-        shown_.reset();
+        mainWindow_.reset();
     }
 
-    MainWindow& shown() {
-        if (!shown_) {
-            shown_ = std::make_unique<MainWindow>(model());
-            shown_->motion().setReduced(true);
-            shown_->show();
-            runUntil([&] { return shown_->isUp(); });
+    MainWindow& showWindow() {
+        if (!mainWindow_) {
+            mainWindow_ = std::make_unique<MainWindow>(model());
+            mainWindow_->motion().setReduced(true);
+            mainWindow_->show();
+            runUntil([&] { return mainWindow_->isUp(); });
         }
-        return *shown_;
+        return *mainWindow_;
     }
-    QQuickWindow& window() { return shown_->window(); }
+    QQuickWindow& window() { return mainWindow_->window(); }
 
     void scanAndHold() {
         machine.directories.hold(home + "/wide/inner");
@@ -154,13 +154,13 @@ protected:
     }
 
 private:
-    std::unique_ptr<MainWindow> shown_;
+    std::unique_ptr<MainWindow> mainWindow_;
 };
 
 }  // namespace
 
 TEST_F(MainWindowTest, hasTitleAndMinimumSize) {
-    EXPECT_EQ(shown().window().title(), QStringLiteral("Zelk"));
+    EXPECT_EQ(showWindow().window().title(), QStringLiteral("Zelk"));
     EXPECT_EQ(window().minimumWidth(), 960);
     EXPECT_EQ(window().minimumHeight(), 620);
     EXPECT_GE(window().width(), 960);
@@ -168,31 +168,31 @@ TEST_F(MainWindowTest, hasTitleAndMinimumSize) {
 }
 
 TEST_F(MainWindowTest, startsNoSurvey) {
-    shown();
+    showWindow();
     runWhatIsThere();
     EXPECT_EQ(model().scanPhase(), Phase::idle);
 }
 
 TEST_F(MainWindowTest, focusesScanButtonFirst) {
-    shown();
+    showWindow();
     ASSERT_NE(window().activeFocusItem(), nullptr);
     EXPECT_EQ(window().activeFocusItem()->objectName(), QStringLiteral("scanButton"));
 }
 
 TEST_F(MainWindowTest, tabVisitsFeaturesAfterScanButton) {
-    shown();
+    showWindow();
     EXPECT_EQ(tabOrder(),
               (std::vector<std::string>{scanName(), "Reclaim junk", "Find duplicates", "Largest files", "Visual map"}));
 }
 
 TEST_F(MainWindowTest, tabVisitsCancelDuringSurvey) {
-    shown();
+    showWindow();
     scanAndHold();
     EXPECT_EQ(tabOrder(), (std::vector<std::string>{"scanning…", "cancel"}));
 }
 
 TEST_F(MainWindowTest, namesAllControlsAndTextsInEveryPhase) {
-    shown();
+    showWindow();
     expectEverythingNamed();
     scanAndHold();
     expectEverythingNamed();
@@ -201,7 +201,7 @@ TEST_F(MainWindowTest, namesAllControlsAndTextsInEveryPhase) {
 }
 
 TEST_F(MainWindowTest, tabShowsFocusRing) {
-    shown();
+    showWindow();
     pressKey(window(), Qt::Key_Tab);
     QQuickItem* pill = window().activeFocusItem();
     ASSERT_NE(pill, nullptr);
@@ -218,7 +218,7 @@ TEST_F(MainWindowTest, tabShowsFocusRing) {
 }
 
 TEST_F(MainWindowTest, returnsFocusToScanButtonWhenCancelDisappears) {
-    shown();
+    showWindow();
     scanAndHold();
     pressKey(window(), Qt::Key_Tab);
     EXPECT_EQ(focusName(), "cancel");
@@ -229,7 +229,7 @@ TEST_F(MainWindowTest, returnsFocusToScanButtonWhenCancelDisappears) {
 }
 
 TEST_F(MainWindowTest, mouseShowsNoFocusRing) {
-    shown();
+    showWindow();
     machine.directories.hold(home + "/wide/inner");
     ASSERT_TRUE(tour::clickOn(window(), QStringLiteral("scanButton")));
     runUntil([&] { return model().itemsScanned() > 0; });
@@ -241,7 +241,7 @@ TEST_F(MainWindowTest, mouseShowsNoFocusRing) {
 }
 
 TEST_F(MainWindowTest, screenReaderPressesScanButtonOnce) {
-    shown();
+    showWindow();
     machine.directories.hold(home);
     QSignalSpy clicks(findControl(window(), QStringLiteral("scanButton")), SIGNAL(clicked()));
     QAccessibleActionInterface* actions = scanButton().actionInterface();
@@ -254,7 +254,7 @@ TEST_F(MainWindowTest, screenReaderPressesScanButtonOnce) {
 }
 
 TEST_F(MainWindowTest, keyboardPressesFeature) {
-    shown();
+    showWindow();
     pressKey(window(), Qt::Key_Tab);
     pressKey(window(), Qt::Key_Tab);
     pressKey(window(), Qt::Key_Return);
@@ -262,7 +262,7 @@ TEST_F(MainWindowTest, keyboardPressesFeature) {
 }
 
 TEST_F(MainWindowTest, scanButtonLooksDifferentInEachPhase) {
-    shown();
+    showWindow();
     for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
         model().setAppearance(appearance);
         model().cancelScan();
@@ -278,7 +278,7 @@ TEST_F(MainWindowTest, scanButtonLooksDifferentInEachPhase) {
 }
 
 TEST_F(MainWindowTest, paintsBackgroundOfTheme) {
-    shown();
+    showWindow();
     const auto bottomRight = [&] {
         const QImage picture = window().grabWindow();
         return picture.pixelColor(picture.width() - 1, picture.height() - 1);
@@ -289,24 +289,24 @@ TEST_F(MainWindowTest, paintsBackgroundOfTheme) {
 }
 
 TEST_F(MainWindowTest, keepsScanButtonInPlaceWhenScanning) {
-    shown();
+    showWindow();
     const QPointF before = findControl(window(), QStringLiteral("scanButton"))->mapToScene({});
     scanAndHold();
     EXPECT_EQ(findControl(window(), QStringLiteral("scanButton"))->mapToScene({}), before);
 }
 
 TEST_F(MainWindowTest, fitsEverythingAtMinimumSize) {
-    shown();
+    showWindow();
     window().resize(960, 620);
     runUntil([&] { return window().contentItem()->size() == QSizeF(960, 620); });
     expectEverythingInsideWindow();
     scanAndHold();
-    runUntil([&] { return !shown().survey().pathLine().isEmpty(); });
+    runUntil([&] { return !showWindow().survey().pathLine().isEmpty(); });
     expectEverythingInsideWindow();
 }
 
 TEST_F(MainWindowTest, reducedMotionStopsComet) {
-    shown();
+    showWindow();
     scanAndHold();
     // An animator changes the rendering, not the item: compare pixels at the top of the ring, where the comet rests.
     const QQuickItem* comet = findControl(window(), QStringLiteral("comet"));
@@ -316,7 +316,7 @@ TEST_F(MainWindowTest, reducedMotionStopsComet) {
     const QImage atRest = drawn();
     runWhatIsThere();
     EXPECT_EQ(drawn(), atRest);
-    shown().motion().setReduced(false);
+    showWindow().motion().setReduced(false);
     runUntil([&] { return drawn() != atRest; });
 }
 

@@ -38,7 +38,7 @@ protected:
     void finishScan() {
         runUntil([&] { return model().scanPhase() == Phase::finished; });
     }
-    /// A survey that stands still inside the home folder.
+    /// Starts a survey that stops inside the home folder.
     void scanAndHold() {
         addWideFolder(home + "/wide");
         machine.directories.hold(home + "/wide/inner");
@@ -56,7 +56,7 @@ private:
 
 }  // namespace
 
-TEST_F(SettingsScreen, showsTheValuesOfAStart) {
+TEST_F(SettingsScreen, startsWithDefaults) {
     EXPECT_EQ(settings().roots()->rowCount(), 1);
     EXPECT_EQ(path(0), "/home/me");
     EXPECT_EQ(settings().ageFilterDays(), 14);
@@ -65,7 +65,7 @@ TEST_F(SettingsScreen, showsTheValuesOfAStart) {
     EXPECT_EQ(settings().theme(), 2);
 }
 
-TEST_F(SettingsScreen, aChosenFolderIsAddedBehindTheOthersAndSurveyedAtOnce) {
+TEST_F(SettingsScreen, addedFolderIsAppendedAndSurveyed) {
     machine.directories.directory("/data");
     choose("/data");
     EXPECT_EQ(model().scanRoots(), (Roots{home, "/data"}));
@@ -74,7 +74,7 @@ TEST_F(SettingsScreen, aChosenFolderIsAddedBehindTheOthersAndSurveyedAtOnce) {
     finishScan();
 }
 
-TEST_F(SettingsScreen, addingTheSameFolderTwiceLeavesOneRowAndSurveysOnce) {
+TEST_F(SettingsScreen, addsEachFolderOnce) {
     machine.directories.directory("/data");
     choose("/data");
     finishScan();
@@ -85,7 +85,7 @@ TEST_F(SettingsScreen, addingTheSameFolderTwiceLeavesOneRowAndSurveysOnce) {
     EXPECT_EQ(timesSignalled("scanPhase"), phases) << "no change, no survey";
 }
 
-TEST_F(SettingsScreen, addingTheSameFolderInAnotherSpellingChangesNothing) {
+TEST_F(SettingsScreen, ignoresOtherSpellingsOfAFolder) {
     machine.directories.directory("/data");
     choose("/data/");
     EXPECT_EQ(path(1), "/data");
@@ -96,7 +96,7 @@ TEST_F(SettingsScreen, addingTheSameFolderInAnotherSpellingChangesNothing) {
     EXPECT_EQ(timesSignalled("scanPhase"), phases) << "no change, no survey";
 }
 
-TEST_F(SettingsScreen, noChoiceMeansNoChange) {
+TEST_F(SettingsScreen, cancelledDialogChangesNothing) {
     for (const std::optional<std::string>& none : {std::optional<std::string>(), std::optional<std::string>("")}) {
         chosen = none;
         settings().addFolder();
@@ -106,14 +106,14 @@ TEST_F(SettingsScreen, noChoiceMeansNoChange) {
     EXPECT_EQ(questions, 2);
 }
 
-TEST_F(SettingsScreen, aChangeOfTheListWhileThePersonChoosesIsNotUndone) {
+TEST_F(SettingsScreen, keepsChangesMadeWhileDialogIsOpen) {
     duringQuestion = [this] { model().setScanRoots({home, "/other"}); };
     choose("/data");
     EXPECT_EQ(model().scanRoots(), (Roots{home, "/other", "/data"}));
     finishScan();
 }
 
-TEST_F(SettingsScreen, removingAFolderSurveysTheOthersAtOnce) {
+TEST_F(SettingsScreen, removingAFolderSurveysTheRest) {
     model().setScanRoots({home, "/data", "/more"});
     settings().removeFolder(1);
     EXPECT_EQ(model().scanRoots(), (Roots{home, "/more"}));
@@ -122,7 +122,7 @@ TEST_F(SettingsScreen, removingAFolderSurveysTheOthersAtOnce) {
     finishScan();
 }
 
-TEST_F(SettingsScreen, removingTheOnlyRootStartsAScanWithNoSeeds) {
+TEST_F(SettingsScreen, removingTheOnlyFolderSurveysNothing) {
     settings().removeFolder(0);
     EXPECT_TRUE(model().scanRoots().empty());
     EXPECT_TRUE(settings().roots()->empty());
@@ -132,14 +132,14 @@ TEST_F(SettingsScreen, removingTheOnlyRootStartsAScanWithNoSeeds) {
     EXPECT_EQ(model().stats()->filesScanned, 0);
 }
 
-TEST_F(SettingsScreen, removingWhatIsNotThereDoesNothing) {
+TEST_F(SettingsScreen, ignoresRemovalOfUnknownRow) {
     settings().removeFolder(-1);
     settings().removeFolder(1);
     EXPECT_EQ(model().scanRoots(), Roots{home});
     EXPECT_EQ(model().scanPhase(), Phase::idle);
 }
 
-TEST_F(SettingsScreen, duringASurveyAChangeChangesNothingButTheList) {
+TEST_F(SettingsScreen, changeDuringSurveyOnlyUpdatesTheList) {
     model().setScanRoots({home, "/data"});
     scanAndHold();
     const int phases = timesSignalled("scanPhase");
@@ -154,13 +154,13 @@ TEST_F(SettingsScreen, duringASurveyAChangeChangesNothingButTheList) {
     EXPECT_EQ(timesSignalled("scanPhase"), phases + 1);
 }
 
-TEST_F(SettingsScreen, rescansWhenAskedTo) {
+TEST_F(SettingsScreen, rescans) {
     settings().rescan();
     EXPECT_EQ(model().scanPhase(), Phase::scanning);
     finishScan();
 }
 
-TEST_F(SettingsScreen, aFolderMoreOrLessIsOneRowMoreOrLess) {
+TEST_F(SettingsScreen, editsTheListRowByRow) {
     model().setScanRoots({"/a", "/b", "/c"});
     ScanRootList& roots = *settings().roots();
     QSignalSpy removed(&roots, &ScanRootList::rowsRemoved);
@@ -180,7 +180,7 @@ TEST_F(SettingsScreen, aFolderMoreOrLessIsOneRowMoreOrLess) {
     finishScan();
 }
 
-TEST_F(SettingsScreen, theListIsRightAfterAnyChange) {
+TEST_F(SettingsScreen, listFollowsAnyChange) {
     const std::vector<Roots> lists{{"/a", "/b", "/c"}, {"/c", "/b", "/a"}, {}, {"/x"}, {"/y", "/x"}, {"/y"}, {"/z"}};
     for (const Roots& list : lists) {
         settings();
@@ -191,7 +191,7 @@ TEST_F(SettingsScreen, theListIsRightAfterAnyChange) {
     }
 }
 
-TEST_F(SettingsScreen, tellsWhenTheListBecomesEmptyAndWhenNoMore) {
+TEST_F(SettingsScreen, notifiesWhenListBecomesEmptyOrFilled) {
     QSignalSpy told(settings().roots(), &ScanRootList::emptyChanged);
     model().setScanRoots({});
     EXPECT_EQ(told.count(), 1);
@@ -201,7 +201,7 @@ TEST_F(SettingsScreen, tellsWhenTheListBecomesEmptyAndWhenNoMore) {
     EXPECT_EQ(told.count(), 2);
 }
 
-TEST_F(SettingsScreen, aNameThatIsNoTextIsShownRepairedAndKeptToTheByte) {
+TEST_F(SettingsScreen, repairsInvalidUtf8ForDisplayOnly) {
     const std::string folder = "/data/caf\xe9";
     machine.directories.directory(folder);
     choose(folder);
@@ -213,7 +213,7 @@ TEST_F(SettingsScreen, aNameThatIsNoTextIsShownRepairedAndKeptToTheByte) {
     finishScan();
 }
 
-TEST_F(SettingsScreen, twoNamesThatLookAlikeAreTwoRows) {
+TEST_F(SettingsScreen, distinguishesNamesThatLookTheSame) {
     model().setScanRoots({"/data/caf\xe9", "/data/caf\xe8"});
     EXPECT_EQ(settings().roots()->rowCount(), 2);
     settings().removeFolder(0);
@@ -221,12 +221,12 @@ TEST_F(SettingsScreen, twoNamesThatLookAlikeAreTwoRows) {
     finishScan();
 }
 
-TEST_F(SettingsScreen, namesTheButtonThatRemovesARow) {
+TEST_F(SettingsScreen, namesRemoveButtonAfterFolder) {
     const ScanRootList& roots = *settings().roots();
     EXPECT_EQ(roots.data(roots.index(0), ScanRootList::removeNameRole).toString().toStdString(), "Remove /home/me");
 }
 
-TEST_F(SettingsScreen, theStepperStopsAtZeroAndAtAYear) {
+TEST_F(SettingsScreen, clampsAgeFilterToOneYear) {
     EXPECT_EQ(settings().leastAge(), 0);
     EXPECT_EQ(settings().greatestAge(), 365);
     settings().setAgeFilterDays(-1);
@@ -235,7 +235,7 @@ TEST_F(SettingsScreen, theStepperStopsAtZeroAndAtAYear) {
     EXPECT_EQ(model().ageFilterDays(), 365);
 }
 
-TEST_F(SettingsScreen, noAgeReadsAllAndOneDayKeepsItsPlural) {
+TEST_F(SettingsScreen, formatsAgeFilter) {
     settings().setAgeFilterDays(0);
     EXPECT_EQ(settings().ageFilterText().toStdString(), "Age filter default: all");
     settings().setAgeFilterDays(1);
@@ -244,7 +244,7 @@ TEST_F(SettingsScreen, noAgeReadsAllAndOneDayKeepsItsPlural) {
     EXPECT_EQ(settings().ageFilterText().toStdString(), "Age filter default: 365 days");
 }
 
-TEST_F(SettingsScreen, ageAndDeletingTakeEffectAtOnceAndSurveyNothing) {
+TEST_F(SettingsScreen, cleanupDefaultsApplyWithoutSurvey) {
     QSignalSpy age(&settings(), &SettingsScreenModel::ageFilterChanged);
     QSignalSpy hard(&settings(), &SettingsScreenModel::hardDeleteChanged);
     settings().setAgeFilterDays(30);
@@ -256,7 +256,7 @@ TEST_F(SettingsScreen, ageAndDeletingTakeEffectAtOnceAndSurveyNothing) {
     EXPECT_EQ(model().scanPhase(), Phase::idle);
 }
 
-TEST_F(SettingsScreen, thePickerChoosesTheAppearance) {
+TEST_F(SettingsScreen, setsAppearance) {
     QSignalSpy told(&settings(), &SettingsScreenModel::themeChanged);
     settings().setTheme(0);
     EXPECT_EQ(model().appearance(), Appearance::system);
@@ -270,7 +270,7 @@ TEST_F(SettingsScreen, thePickerChoosesTheAppearance) {
     EXPECT_EQ(model().appearance(), Appearance::dark);
 }
 
-TEST_F(SettingsScreen, followsWhatIsChangedElsewhere) {
+TEST_F(SettingsScreen, followsModel) {
     settings();
     model().setAppearance(Appearance::light);
     model().setAgeFilterDays(7);
@@ -280,7 +280,7 @@ TEST_F(SettingsScreen, followsWhatIsChangedElsewhere) {
     EXPECT_TRUE(settings().hardDelete());
 }
 
-TEST_F(SettingsScreen, aNewStartHasTheDefaultsAgain) {
+TEST_F(SettingsScreen, newModelHasDefaultsAgain) {
     settings().setAgeFilterDays(0);
     settings().setHardDelete(true);
     settings().setTheme(1);

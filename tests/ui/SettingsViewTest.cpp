@@ -17,7 +17,7 @@ protected:
     void open(QSize size = {460, 360}) {
         show(QStringLiteral("Zelk.App"), QStringLiteral("SettingsView"), "settings", &settings, size);
     }
-    /// Goes on with the Tab key to the control of this name.
+    /// Presses Tab until the control of this name has the focus.
     void tabTo(const std::string& name) {
         for (int stop = 0; stop < 40 && focusName() != name; ++stop) press(Qt::Key_Tab);
         ASSERT_EQ(focusName(), name);
@@ -44,7 +44,7 @@ TEST_F(SettingsWindow, showsItsTextsInOrder) {
     EXPECT_EQ(symbol("gearshape")->color(), QColor(152, 146, 168));
 }
 
-TEST_F(SettingsWindow, tabGoesFromTheTopToTheBottomInBothSizes) {
+TEST_F(SettingsWindow, tabVisitsControlsFromTopToBottom) {
     open();
     const std::vector<std::string> order = tabOrder();
     const auto place = [&](const std::string& name) {
@@ -56,7 +56,7 @@ TEST_F(SettingsWindow, tabGoesFromTheTopToTheBottomInBothSizes) {
     EXPECT_LT(place("Re-scan now"), static_cast<std::ptrdiff_t>(order.size()));
 }
 
-TEST_F(SettingsWindow, scrollsToWhatHasTheKeyboard) {
+TEST_F(SettingsWindow, scrollsToFocusedControl) {
     open();
     for (int stop = 0; stop < 10; ++stop) {
         expectFocusInSight();
@@ -66,12 +66,12 @@ TEST_F(SettingsWindow, scrollsToWhatHasTheKeyboard) {
     expectFocusInSight();
 }
 
-TEST_F(SettingsWindow, namesAllItsControls) {
+TEST_F(SettingsWindow, namesAllControls) {
     open({640, 900});
     expectAllControlsNamed();
 }
 
-TEST_F(SettingsWindow, aFolderIsAddedFromTheKeyboard) {
+TEST_F(SettingsWindow, keyboardAddsFolder) {
     machine.directories.directory("/data");
     chosen = "/data";
     open();
@@ -82,7 +82,7 @@ TEST_F(SettingsWindow, aFolderIsAddedFromTheKeyboard) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(SettingsWindow, removingFromTheKeyboardLeavesItInTheList) {
+TEST_F(SettingsWindow, keyboardRemovalMovesFocusToNextRow) {
     model().setScanRoots({"/a", "/b", "/c"});
     open();
     tabTo("Remove /b");
@@ -94,11 +94,11 @@ TEST_F(SettingsWindow, removingFromTheKeyboardLeavesItInTheList) {
     EXPECT_EQ(focusName(), "Remove /a");
     press(Qt::Key_Space);
     EXPECT_EQ(focusName(), "Add folder…");
-    EXPECT_TRUE(shows("No folders yet. Add one, and a survey walks it.")) << "an empty list says so";
+    EXPECT_TRUE(shows("No folders yet. Add one, and a survey walks it.")) << "shown for an empty list";
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(SettingsWindow, theAgeIsSteppedFromTheKeyboardAndStopsAtZero) {
+TEST_F(SettingsWindow, keyboardStepsAgeDownToZero) {
     open();
     tabTo("Age filter default: 14 days");
     press(Qt::Key_Up);
@@ -109,7 +109,7 @@ TEST_F(SettingsWindow, theAgeIsSteppedFromTheKeyboardAndStopsAtZero) {
     EXPECT_TRUE(shows("Age filter default: all"));
 }
 
-TEST_F(SettingsWindow, theToggleIsSwitchedFromTheKeyboardAndFollowsTheModel) {
+TEST_F(SettingsWindow, keyboardTogglesSwitchThatFollowsModel) {
     open();
     tabTo("Delete permanently by default");
     press(Qt::Key_Space);
@@ -120,7 +120,7 @@ TEST_F(SettingsWindow, theToggleIsSwitchedFromTheKeyboardAndFollowsTheModel) {
     EXPECT_TRUE(window().activeFocusItem()->property("checked").toBool());
 }
 
-TEST_F(SettingsWindow, theThemeIsPickedFromTheKeyboard) {
+TEST_F(SettingsWindow, keyboardPicksTheme) {
     open();
     tabTo("Dark");
     press(Qt::Key_Left);
@@ -131,7 +131,7 @@ TEST_F(SettingsWindow, theThemeIsPickedFromTheKeyboard) {
     EXPECT_EQ(model().appearance(), AppModel::Appearance::light);
 }
 
-TEST_F(SettingsWindow, rescansFromTheKeyboard) {
+TEST_F(SettingsWindow, keyboardRescans) {
     open();
     tabTo("Re-scan now");
     press(Qt::Key_Return);
@@ -139,7 +139,7 @@ TEST_F(SettingsWindow, rescansFromTheKeyboard) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(SettingsWindow, aRowHasTheSymbolsOfAFolderAndOfTakingItOff) {
+TEST_F(SettingsWindow, rowShowsFolderAndRemoveSymbols) {
     open();
     const SymbolItem* folder = symbol("folder.fill");
     const SymbolItem* remove = symbol("minus.circle");
@@ -155,7 +155,7 @@ TEST_F(SettingsWindow, aRowHasTheSymbolsOfAFolderAndOfTakingItOff) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(SettingsWindow, aLongPathLosesItsMiddleAndIsToldWhole) {
+TEST_F(SettingsWindow, elidesLongPathInTheMiddleButNamesItInFull) {
     const std::string path = "/beginning/" + std::string(200, 'n') + "/end";
     model().setScanRoots({path});
     open();
@@ -167,7 +167,7 @@ TEST_F(SettingsWindow, aLongPathLosesItsMiddleAndIsToldWhole) {
     EXPECT_EQ(nameOf(find("rootPath")), path);
 }
 
-TEST_F(SettingsWindow, aNameThatIsNoTextIsRemovedLikeAnyOther) {
+TEST_F(SettingsWindow, removesFolderWithInvalidUtf8) {
     model().setScanRoots({home, "/data/caf\xe9"});
     open();
     tabTo("Remove /data/caf\xef\xbf\xbd");
@@ -176,7 +176,7 @@ TEST_F(SettingsWindow, aNameThatIsNoTextIsRemovedLikeAnyOther) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(SettingsWindow, clipsNothingWhereTextIsLarge) {
+TEST_F(SettingsWindow, clipsNothingInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     open();
     expectNoTextClipped();

@@ -33,8 +33,8 @@ bool haveRoom(const Rooms& rooms) {
 }
 
 /// The environment of a user with this home and nothing else set.
-struct Surroundings {
-    explicit Surroundings(const std::string& folder) : home("HOME", folder) {}
+struct UserEnvironment {
+    explicit UserEnvironment(const std::string& folder) : home("HOME", folder) {}
 
     EnvironmentVariable home;
     EnvironmentVariable cache{"XDG_CACHE_HOME", std::nullopt};
@@ -45,37 +45,37 @@ struct Surroundings {
 
 }  // namespace
 
-TEST(ShaderCaches, haveRoomFromSixtyFourMegabytesOn) {
+TEST(ShaderCaches, needSixtyFourMegabytes) {
     EXPECT_TRUE(haveRoom({{"/home/me", 64'000'000}}));
     EXPECT_FALSE(haveRoom({{"/home/me", 63'999'999}}));
     EXPECT_FALSE(haveRoom({{"/home/me", 0}}));
 }
 
-TEST(ShaderCaches, haveNoneWhereOneOfTheirFoldersHasNone) {
+TEST(ShaderCaches, needRoomInEveryFolder) {
     EXPECT_TRUE(haveRoom({{"/a", 64'000'000}, {"/b", 64'000'000}}));
     EXPECT_FALSE(haveRoom({{"/a", 0}, {"/b", 64'000'000}}));
     EXPECT_FALSE(haveRoom({{"/a", 64'000'000}, {"/b", 0}}));
 }
 
-TEST(ShaderCaches, haveNoneWhereTheRoomCannotBeTold) {
+TEST(ShaderCaches, needKnownRoom) {
     EXPECT_FALSE(haveRoom({{"/home/me", std::nullopt}}));
 }
 
 #ifdef __linux__
-TEST(ShaderCaches, lieInTheHomeAndItsCacheFolder) {
+TEST(ShaderCaches, lieInHomeAndItsCacheFolder) {
     const std::string home = ::getpwuid(::getuid())->pw_dir;
-    const Surroundings user(home);
+    const UserEnvironment user(home);
     EXPECT_THAT(shaderCacheFolders(), ElementsAre(home, home + "/.cache"));
 }
 
-TEST(ShaderCaches, lieAlsoInTheHomeOfTheUserDatabaseWhereTheEnvironmentNamesAnother) {
-    const Surroundings user("/home/another");
+TEST(ShaderCaches, includeHomeFromUserDatabase) {
+    const UserEnvironment user("/home/another");
     EXPECT_THAT(shaderCacheFolders(), ElementsAre("/home/another", "/home/another/.cache",
                                                   ::getpwuid(::getuid())->pw_dir + std::string("/.cache")));
 }
 
-TEST(ShaderCaches, lieWhereTheEnvironmentSays) {
-    const Surroundings user("/home/me");
+TEST(ShaderCaches, followEnvironmentVariables) {
+    const UserEnvironment user("/home/me");
     const EnvironmentVariable cache("XDG_CACHE_HOME", "/caches");
     const EnvironmentVariable mesa("MESA_SHADER_CACHE_DIR", "/mesa");
     const EnvironmentVariable oldMesa("MESA_GLSL_CACHE_DIR", "/old");
@@ -84,23 +84,23 @@ TEST(ShaderCaches, lieWhereTheEnvironmentSays) {
 }
 #endif
 
-TEST(ShaderCaches, theirRoomIsThatOfTheNearestFolderThatIsThere) {
+TEST(ShaderCaches, roomIsThatOfNearestExistingFolder) {
     const zoo::TempFolder folder;
     const std::optional<std::int64_t> room = roomForCacheIn(folder / "not/yet/there");
     ASSERT_TRUE(room.has_value());
     EXPECT_GT(*room, 0);
 }
 
-TEST(ShaderCaches, aHomeThatDoesNotExistHasNoRoomForThem) {
+TEST(ShaderCaches, areSwitchedOffWithoutHomeFolder) {
     const zoo::TempFolder folder;
-    const Surroundings user(folder / "home");
+    const UserEnvironment user(folder / "home");
     EXPECT_EQ(roomForCacheIn(folder / "home"), 0);
     EXPECT_TRUE(fakes::inChild([] { return switchOffShaderCachesWhereRoomIsShort(); }));
     EXPECT_TRUE(fakes::namesIn(folder.path()).empty());
 }
 
 #ifdef __linux__
-TEST(ShaderCaches, theirRoomIsWithoutWhatIsKeptForTheSuperuser) {
+TEST(ShaderCaches, roomExcludesBlocksReservedForRoot) {
     const zoo::TempFolder folder;
     const std::string image = folder / "image";
     const std::string volume = folder / "volume";
@@ -116,10 +116,10 @@ TEST(ShaderCaches, theirRoomIsWithoutWhatIsKeptForTheSuperuser) {
     }));
 }
 
-TEST(ShaderCaches, areSwitchedOffOnASmallVolumeAndStayOnALargerOne) {
+TEST(ShaderCaches, areSwitchedOffOnSmallVolumesOnly) {
     const zoo::TempFolder folder;
-    const Surroundings user(folder / "home");
-    const EnvironmentVariable cache("XDG_CACHE_HOME", folder / "home/.cache");  // none of this machine's own volumes
+    const UserEnvironment user(folder / "home");
+    const EnvironmentVariable cache("XDG_CACHE_HOME", folder / "home/.cache");  // not on a volume of this machine
     const auto switchedOffWith = [&](const char* options, bool expected) {
         return fakes::inChild([&] {
             fakes::Mounts mounts;
@@ -135,9 +135,9 @@ TEST(ShaderCaches, areSwitchedOffOnASmallVolumeAndStayOnALargerOne) {
 }
 #endif
 
-TEST(ShaderCaches, areSwitchedOffWithEveryDriverAndInQt) {
+TEST(ShaderCaches, areSwitchedOffForEveryDriverAndQt) {
     const zoo::TempFolder folder;
-    const Surroundings user(folder / "home");
+    const UserEnvironment user(folder / "home");
     EXPECT_TRUE(fakes::inChild([] {
         switchOffShaderCachesWhereRoomIsShort();
         return qgetenv("MESA_SHADER_CACHE_DISABLE") == "true" && qgetenv("MESA_GLSL_CACHE_DISABLE") == "true" &&

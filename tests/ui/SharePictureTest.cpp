@@ -20,8 +20,8 @@ QImage barOf(double share) {
     return painted(bar, {200, 6});
 }
 
-/// How far the share reaches along the middle of the bar.
-int reachOf(double share) {
+/// The length of the filled part along the middle of the bar.
+int filledLength(double share) {
     const QImage bar = barOf(share);
     int reach = 0;
     while (reach < 200 && bar.pixelColor(reach, 3).red() > 90) ++reach;
@@ -30,21 +30,21 @@ int reachOf(double share) {
 
 }  // namespace
 
-TEST(ShareBar, fillsItsTrackFromTheLeft) {
-    EXPECT_NEAR(reachOf(0.25), 50, 1);
-    EXPECT_NEAR(reachOf(0.5), 100, 1);
+TEST(ShareBar, fillsTrackFromTheLeft) {
+    EXPECT_NEAR(filledLength(0.25), 50, 1);
+    EXPECT_NEAR(filledLength(0.5), 100, 1);
     EXPECT_EQ(barOf(0.25).pixelColor(60, 3), shareTrack);
     EXPECT_LT(barOf(0.25).pixelColor(49, 0).red(), 60) << "its end is round";
     EXPECT_LT(barOf(0.25).pixelColor(0, 0).alpha(), 90) << "and so is the track's";
 }
 
-TEST(ShareBar, isBareAtNothingAndADotAtTheLeastBeginning) {
-    EXPECT_EQ(reachOf(0), 0);
-    EXPECT_NEAR(reachOf(0.001), 6, 1);
+TEST(ShareBar, isEmptyAtZeroAndADotAboveIt) {
+    EXPECT_EQ(filledLength(0), 0);
+    EXPECT_NEAR(filledLength(0.001), 6, 1);
 }
 
-TEST(ShareBar, isNeverMoreThanItsTrack) {
-    EXPECT_GE(reachOf(1), 199);
+TEST(ShareBar, clampsToFullTrack) {
+    EXPECT_GE(filledLength(1), 199);
     EXPECT_EQ(barOf(1.7), barOf(1));
 }
 

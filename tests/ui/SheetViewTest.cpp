@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A sheet over a window: what its keys do, and where the keyboard is.
+// A modal sheet over a window: its keys, its focus and its accessibility.
 #include "ControlsFixture.h"
 
 namespace zelk {
@@ -12,14 +12,14 @@ class SheetWindow : public ControlsFixture {};
 
 }  // namespace
 
-TEST_F(SheetWindow, theSheetIsADialogWithItsTitle) {
+TEST_F(SheetWindow, isDialogNamedByItsTitle) {
     openSheet();
     QQuickItem* inside = sheet()->property("contentItem").value<QQuickItem*>();
     EXPECT_EQ(QAccessible::queryAccessibleInterface(inside)->role(), QAccessible::Dialog);
     EXPECT_EQ(nameOf(inside), "Move to Trash");
 }
 
-TEST_F(SheetWindow, isOneModalNodeThatHoldsItsControls) {
+TEST_F(SheetWindow, isOneModalNodeThatContainsItsControls) {
     openSheet();
     QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window());
     std::vector<QAccessibleInterface*> dialogs;
@@ -46,24 +46,24 @@ TEST_F(SheetWindow, isOneModalNodeThatHoldsItsControls) {
     EXPECT_TRUE(dialog->rect().contains(dialog->child(1)->rect()));
 }
 
-TEST_F(SheetWindow, escapeDismissesTheSheetOnce) {
+TEST_F(SheetWindow, escapeEmitsDismissed) {
     openSheet();
     press(Qt::Key_Escape);
     EXPECT_EQ(told(), "dismissed");
-    EXPECT_TRUE(sheet()->property("opened").toBool()) << "who shows it decides when it goes";
+    EXPECT_TRUE(sheet()->property("opened").toBool()) << "its owner decides when it closes";
     give("cancel");
     press(Qt::Key_Escape);
     EXPECT_EQ(told(), "dismissed");
 }
 
-TEST_F(SheetWindow, escapeDoesNothingToASheetThatCannotBeClosed) {
+TEST_F(SheetWindow, escapeIsIgnoredIfNotClosable) {
     sheet()->setProperty("closable", false);
     openSheet();
     press(Qt::Key_Escape);
     EXPECT_EQ(told(), "");
 }
 
-TEST_F(SheetWindow, enterPressesTheSheetsPrimary) {
+TEST_F(SheetWindow, returnPressesPrimaryButton) {
     openSheet();
     press(Qt::Key_Return);
     EXPECT_EQ(told(), "go");
@@ -73,10 +73,10 @@ TEST_F(SheetWindow, enterPressesTheSheetsPrimary) {
     EXPECT_EQ(told(), "go");
     view().setProperty("able", false);
     press(Qt::Key_Return);
-    EXPECT_EQ(told(), "") << "it is not to be pressed";
+    EXPECT_EQ(told(), "") << "it is disabled";
 }
 
-TEST_F(SheetWindow, aButtonOfTheSheetThatHasTheKeyboardIsThePressedOne) {
+TEST_F(SheetWindow, returnPressesFocusedButton) {
     openSheet();
     give("cancel");
     press(Qt::Key_Return);
@@ -85,7 +85,7 @@ TEST_F(SheetWindow, aButtonOfTheSheetThatHasTheKeyboardIsThePressedOne) {
     EXPECT_EQ(told(), "cancel");
 }
 
-TEST_F(SheetWindow, theKeyboardStaysInsideTheSheet) {
+TEST_F(SheetWindow, focusStaysInside) {
     openSheet();
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
         Names reached;
@@ -99,7 +99,7 @@ TEST_F(SheetWindow, theKeyboardStaysInsideTheSheet) {
     }
 }
 
-TEST_F(SheetWindow, theMouseStaysInsideTheSheet) {
+TEST_F(SheetWindow, clicksOutsideAreBlocked) {
     openSheet();
     click("primary");
     EXPECT_EQ(told(), "");
@@ -108,7 +108,7 @@ TEST_F(SheetWindow, theMouseStaysInsideTheSheet) {
     EXPECT_EQ(told(), "go");
 }
 
-TEST_F(SheetWindow, theKeyboardGoesBackWhereItWas) {
+TEST_F(SheetWindow, restoresFocusOnClose) {
     give("link");
     openSheet();
     EXPECT_NE(focusName(), "Show all");
@@ -122,7 +122,7 @@ TEST_F(SheetWindow, theKeyboardGoesBackWhereItWas) {
     QMetaObject::invokeMethod(sheet(), "close");
     settle();
     EXPECT_EQ(focusName(), "Later");
-    EXPECT_EQ(rings(), 0) << "the mouse had pressed it";
+    EXPECT_EQ(rings(), 0) << "it was focused by the mouse";
 }
 
 }  // namespace zelk

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands around every screen, read from the window.
+// The texts around the screens, read from the rendered window.
 #include "TextsOf.h"
 #include "ViewFixture.h"
 #include "ui/screens/module/ModuleScreenModel.h"
@@ -20,7 +20,7 @@ protected:
 
 }  // namespace
 
-TEST_F(ShellTexts, ofTheSidebarAreItsGroupsAndItsFoot) {
+TEST_F(ShellTexts, sidebarShowsGroupsAndFoot) {
     SidebarModel sidebar(model());
     show(QStringLiteral("Zelk.App"), QStringLiteral("Sidebar"), "sidebar", &sidebar, {234, 900});
     EXPECT_EQ(seenTexts(),
@@ -37,7 +37,7 @@ TEST_F(ShellTexts, ofTheSidebarAreItsGroupsAndItsFoot) {
     close();
 }
 
-TEST_F(ShellTexts, theDeveloperSwitchIsExplained) {
+TEST_F(ShellTexts, developerSwitchHasToolTip) {
     SidebarModel sidebar(model());
     show(QStringLiteral("Zelk.App"), QStringLiteral("Sidebar"), "sidebar", &sidebar, {234, 900});
     bool explained = false;
@@ -48,7 +48,7 @@ TEST_F(ShellTexts, theDeveloperSwitchIsExplained) {
     close();
 }
 
-TEST_F(ShellTexts, ofTheAboutWindowAreTheNameAndTheRows) {
+TEST_F(ShellTexts, aboutShowsNameAndRows) {
     DeviceInfo device;
     device.osVersion = "TestOS 1.0";
     device.chip = "Test chip";
@@ -59,7 +59,7 @@ TEST_F(ShellTexts, ofTheAboutWindowAreTheNameAndTheRows) {
     close();
 }
 
-TEST_F(ShellTexts, ofAModuleThatIsNotThereYetAreWhatItIsForAndANote) {
+TEST_F(ShellTexts, unbuiltModuleShowsPurposeAndNote) {
     const auto module = makeUnbuiltModule(model(), Screen::duplicates);
     show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleView"), "module", module.get(), {800, 620});
     EXPECT_EQ(seenTexts(),

@@ -34,7 +34,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Sidebar, hasTheModulesByGroupAndTheRestAtItsFoot) {
+TEST_F(Sidebar, groupsModulesAndPutsRestAtTheFoot) {
     EXPECT_THAT(texts(*sidebar.modules(), SidebarRows::titleRole),
                 ElementsAre("Overview", "Reclaim", "Privacy", "Tune", "Apps", "Clutter", "Duplicates", "Lens", "Health",
                             "System"));
@@ -44,7 +44,7 @@ TEST_F(Sidebar, hasTheModulesByGroupAndTheRestAtItsFoot) {
     EXPECT_THAT(texts(*sidebar.foot(), SidebarRows::headingRole), ElementsAre("", ""));
 }
 
-TEST_F(Sidebar, givesEveryRowItsModulesSymbolAndColour) {
+TEST_F(Sidebar, rowsHaveSymbolAndColourOfTheirScreen) {
     for (SidebarRows* rows : {sidebar.modules(), sidebar.foot()})
         for (int row = 0; row < rows->rowCount(); ++row) {
             const ScreenLook& look = lookOf(rows->screenAt(row));
@@ -53,20 +53,20 @@ TEST_F(Sidebar, givesEveryRowItsModulesSymbolAndColour) {
         }
 }
 
-TEST_F(Sidebar, selectsTheModuleOfThePressedRow) {
+TEST_F(Sidebar, pressSelectsScreenOfTheRow) {
     sidebar.modules()->press(7);
     EXPECT_EQ(model().selection(), Screen::lens);
     sidebar.foot()->press(1);
     EXPECT_EQ(model().selection(), Screen::settings);
 }
 
-TEST_F(Sidebar, pressesNoRowThatIsNotThere) {
+TEST_F(Sidebar, ignoresPressOnUnknownRow) {
     sidebar.modules()->press(-1);
     sidebar.modules()->press(10);
     EXPECT_EQ(model().selection(), Screen::survey);
 }
 
-TEST_F(Sidebar, marksTheSelectedRowAndChangesNoOther) {
+TEST_F(Sidebar, selectionUpdatesOnlyAffectedRows) {
     EXPECT_THAT(selected(*sidebar.modules()), ElementsAre(0));
     QSignalSpy changes(sidebar.modules(), &SidebarRows::dataChanged);
     model().setSelection(Screen::apps);
@@ -77,7 +77,7 @@ TEST_F(Sidebar, marksTheSelectedRowAndChangesNoOther) {
     EXPECT_THAT(selected(*sidebar.foot()), ElementsAre(0));
 }
 
-TEST_F(Sidebar, aCollapsedSidebarKeepsAllRows) {
+TEST_F(Sidebar, keepsAllRowsWhenCollapsed) {
     const QSignalSpy rowsGone(sidebar.modules(), &SidebarRows::rowsRemoved);
     EXPECT_FALSE(sidebar.collapsed());
     EXPECT_EQ(sidebar.width(), 234);
@@ -88,7 +88,7 @@ TEST_F(Sidebar, aCollapsedSidebarKeepsAllRows) {
     EXPECT_EQ(sidebar.modules()->rowCount() + sidebar.foot()->rowCount(), 12);
 }
 
-TEST_F(Sidebar, itsSwitchIsTheAudience) {
+TEST_F(Sidebar, developerSwitchSetsAudience) {
     QSignalSpy changes(&sidebar, &SidebarModel::developerChanged);
     EXPECT_FALSE(sidebar.developer());
     sidebar.setDeveloper(true);

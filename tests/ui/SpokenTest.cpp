@@ -5,18 +5,18 @@
 
 namespace zelk {
 
-TEST(Spoken, saysTextsOneAfterTheOtherWithPauses) {
+TEST(Spoken, joinsTextsWithCommas) {
     EXPECT_EQ(Spoken::joined({QStringLiteral("Large Files"), QStringLiteral("12 GB"), QStringLiteral("40 items")}),
               QStringLiteral("Large Files, 12 GB, 40 items"));
 }
 
-TEST(Spoken, makesNoPauseForWhatIsEmpty) {
+TEST(Spoken, skipsEmptyTexts) {
     EXPECT_EQ(Spoken::joined({QStringLiteral(""), QStringLiteral("12 GB"), QString(), QStringLiteral("40 items"),
                               QStringLiteral("")}),
               QStringLiteral("12 GB, 40 items"));
 }
 
-TEST(Spoken, ofNothingSaysNothing) {
+TEST(Spoken, isEmptyWithoutTexts) {
     EXPECT_EQ(Spoken::joined({}), QString());
     EXPECT_EQ(Spoken::joined({QStringLiteral(""), QStringLiteral("")}), QString());
 }

@@ -11,12 +11,12 @@ namespace zelk {
 TEST(Spring, startsAtRest) {
     EXPECT_EQ(springWay(0, 0.5), 0);
     EXPECT_EQ(springWay(-1, 0.5), 0);
-    EXPECT_LT(springWay(0.001, 0.5), 0.001) << "it is still gathering speed";
+    EXPECT_LT(springWay(0.001, 0.5), 0.001) << "it accelerates slowly";
 }
 
-TEST(Spring, goesAsOneWithoutSwing) {
-    // The stiffness of a spring that swings once in `response` is the square of omega; critically damped, what is left
-    // obeys x'' = -2 omega x' - omega^2 x.
+TEST(Spring, isCriticallyDamped) {
+    // With omega = 2 pi / response, the remaining distance x of a critically damped spring obeys
+    // x'' = -2 omega x' - omega^2 x.
     constexpr double response = 0.5;
     constexpr double omega = 2 * std::numbers::pi / response;
     constexpr double step = 1e-4;
@@ -28,7 +28,7 @@ TEST(Spring, goesAsOneWithoutSwing) {
     }
 }
 
-TEST(Spring, neverSwingsOver) {
+TEST(Spring, neverOvershoots) {
     double last = 0;
     for (int step = 1; step <= 1000; ++step) {
         const double way = springWay(step / 500.0, 0.5);
@@ -38,19 +38,19 @@ TEST(Spring, neverSwingsOver) {
     }
 }
 
-TEST(Spring, isThereToTheEyeWhenItRests) {
+TEST(Spring, isWithinToleranceAtRest) {
     for (const double response : {0.25, 0.5, 2.0}) {
         const double way = springWay(springRest(response), response);
         EXPECT_GT(way, 1 - 1e-4);
-        EXPECT_LT(springWay(springRest(response) / 2, response), 1 - 1e-4) << "and not much earlier";
+        EXPECT_LT(springWay(springRest(response) / 2, response), 1 - 1e-4) << "but not much earlier";
     }
 }
 
-TEST(Spring, takesTwiceTheTimeWithTwiceTheResponse) {
+TEST(Spring, durationScalesWithResponse) {
     EXPECT_DOUBLE_EQ(springWay(0.2, 0.5), springWay(0.4, 1));
 }
 
-TEST(SpringEasing, isTheSpringOverItsTimeAndEndsExactlyThere) {
+TEST(SpringEasing, followsSpringAndEndsAtOne) {
     const QEasingCurve curve = springEasing();
     EXPECT_EQ(curve.valueForProgress(0), 0);
     EXPECT_DOUBLE_EQ(curve.valueForProgress(0.25), springWay(0.25 * springRest(0.5), 0.5));

@@ -16,16 +16,16 @@ namespace {
 
 using testing::ElementsAre;
 
-class Status : public AppModelFixture {
+class StatusMenuTest : public AppModelFixture {
 protected:
-    Status() {
+    StatusMenuTest() {
         machine.vitals.setVolume(home, VolumeInfo{1'000'000'000'000, 212'400'000'000, 212'400'000'000});
         fillHome();
         addWideFolder(home + "/wide");
     }
-    ~Status() override { machine.directories.release(); }
+    ~StatusMenuTest() override { machine.directories.release(); }
 
-    /// A divider is "-", a line that does nothing stands in brackets.
+    /// A divider is "-", and entries without an action are in brackets.
     std::vector<std::string> texts() {
         std::vector<std::string> texts;
         for (const StatusEntry& entry : menu.entries()) {
@@ -47,17 +47,17 @@ protected:
 
 }  // namespace
 
-TEST_F(Status, offersASurveyAtTheStart) {
+TEST_F(StatusMenuTest, offersSurveyAtFirst) {
     EXPECT_THAT(texts(), ElementsAre("[Free space: " + byteFigure(model().freeBytes()).toStdString() + "]", "-",
                                      "Open Zelk", "Run survey", "-", "Quit Zelk"));
 }
 
-TEST_F(Status, tellsTheFreeSpaceOfTheVolume) {
+TEST_F(StatusMenuTest, showsFreeSpaceOfVolume) {
     survey();
     EXPECT_EQ(texts().front(), "[Free space: 212.4 GB]");
 }
 
-TEST_F(Status, tellsHowMuchIsSurveyedInPlaceOfTheOffer) {
+TEST_F(StatusMenuTest, showsProgressInsteadOfOfferDuringSurvey) {
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
     EXPECT_EQ(texts()[3], "[Surveying… 0 bytes]");
@@ -65,7 +65,7 @@ TEST_F(Status, tellsHowMuchIsSurveyedInPlaceOfTheOffer) {
     EXPECT_EQ(texts()[3], "[Surveying… " + byteFigure(model().bytesScanned()).toStdString() + "]");
 }
 
-TEST_F(Status, offersToCleanTheSafeCachesOnlyAfterAFinishedSurvey) {
+TEST_F(StatusMenuTest, offersCleaningOnlyAfterFinishedSurvey) {
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
     EXPECT_EQ(texts().size(), 6U);
@@ -77,27 +77,28 @@ TEST_F(Status, offersToCleanTheSafeCachesOnlyAfterAFinishedSurvey) {
     EXPECT_EQ(texts().size(), 6U);
 }
 
-TEST_F(Status, offersNothingToCleanWhereNothingIsSafe) {
+TEST_F(StatusMenuTest, offersNoCleaningIfNothingIsSafe) {
     machine.directories.directory("/home/me/empty");
     model().setScanRoots({"/home/me/empty"});
     survey();
     EXPECT_EQ(texts().size(), 6U);
 }
 
-TEST_F(Status, cleansTheSafeCachesThroughTheModel) {
+TEST_F(StatusMenuTest, cleansSafeCaches) {
     machine.files.addFile(home + "/Library/Caches/Yarn/v6");
     machine.files.addFile(home + "/projects/app/node_modules/a.js");
     survey();
     const int phases = timesSignalled("scanPhase");
     press("Clean safe caches (");
-    runUntil([&] { return timesSignalled("scanPhase") > phases; });  // the survey that follows every cleaning
+    runUntil([&] { return timesSignalled("scanPhase") > phases; });  // the survey after each clean-up
     runUntil([&] { return model().scanPhase() == Phase::finished; });
-    EXPECT_THAT(machine.trash.trashed(), ElementsAre(home + "/Library/Caches/Yarn")) << "the modules are not safe";
+    EXPECT_THAT(machine.trash.trashed(), ElementsAre(home + "/Library/Caches/Yarn"))
+        << "node_modules is not graded safe";
     EXPECT_FALSE(machine.files.exists(home + "/Library/Caches/Yarn/v6"));
     EXPECT_TRUE(machine.files.exists(home + "/projects/app/node_modules/a.js"));
 }
 
-TEST_F(Status, runSurveyGoesToTheOverviewStartsOneAndOpensZelk) {
+TEST_F(StatusMenuTest, runSurveyOpensOverviewAndStartsSurvey) {
     machine.directories.hold(home);
     model().setSelection(Screen::lens);
     press("Run survey");
@@ -106,24 +107,24 @@ TEST_F(Status, runSurveyGoesToTheOverviewStartsOneAndOpensZelk) {
     EXPECT_EQ(opens, 1);
 }
 
-TEST_F(Status, opensAndQuits) {
+TEST_F(StatusMenuTest, opensAndQuits) {
     press("Open Zelk");
     EXPECT_EQ(opens, 1);
     press("Quit Zelk");
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(Status, saysThatItChangedAFewTimesASecondAndNoMore) {
+TEST_F(StatusMenuTest, coalescesChangeNotifications) {
     int changes = 0;
     QObject::connect(&menu, &StatusMenu::changed, &menu, [&] { ++changes; });
     for (int report = 0; report < 100; ++report) emit model().progressChanged();
-    EXPECT_EQ(changes, 0) << "nothing is told in the midst of a report";
+    EXPECT_EQ(changes, 0) << "changes are not signalled synchronously";
     runUntil([&] { return changes > 0; });
     runWhatIsThere();
-    EXPECT_EQ(changes, 1) << "and all of them at once";
+    EXPECT_EQ(changes, 1) << "all reports are signalled at once";
 }
 
-TEST_F(Status, isShownAsAMenuThatKeepsItsEntriesWhileTheirTextsChange) {
+TEST_F(StatusMenuTest, statusItemReusesActionsWhenTextsChange) {
     StatusItem item(menu, std::make_unique<fakes::FakeTray>());
     EXPECT_FALSE(item.present());
     const QList<QAction*> before = item.menu().actions();
@@ -139,7 +140,7 @@ TEST_F(Status, isShownAsAMenuThatKeepsItsEntriesWhileTheirTextsChange) {
     EXPECT_EQ(item.menu().actions()[4]->text(), QStringLiteral("Clean safe caches (50 MB)"));
 }
 
-TEST_F(Status, aDesktopWithoutATrayShowsNoneAndNothingBreaks) {
+TEST_F(StatusMenuTest, statusItemIsAbsentWithoutTray) {
     StatusItem item(menu, std::make_unique<fakes::FakeTray>());
     item.start();
     EXPECT_FALSE(item.present());

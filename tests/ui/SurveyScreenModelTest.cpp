@@ -29,7 +29,7 @@ protected:
         return *screen_;
     }
 
-    /// A survey that stands still behind its first report of progress.
+    /// Starts a survey that stops after its first progress report.
     void beginAndHold() {
         addWideFolder(home + "/wide");
         machine.directories.hold(home + "/wide/inner");
@@ -42,7 +42,7 @@ protected:
         runUntil([&] { return model().scanPhase() == Phase::finished; });
     }
 
-    /// Until the texts have changed once more.
+    /// Waits for the next change of the texts.
     void awaitChange() {
         bool changed = false;
         const auto connection =
@@ -51,7 +51,7 @@ protected:
         QObject::disconnect(connection);
     }
 
-    /// By which the figures run: it stands still until a test moves it.
+    /// The clock of the animated figures, which only the tests advance.
     double time = 100;
 
 private:
@@ -60,7 +60,7 @@ private:
 
 }  // namespace
 
-TEST_F(SurveyScreen, idleInvitesToScan) {
+TEST_F(SurveyScreen, invitesToScanWhenIdle) {
     EXPECT_TRUE(screen().idle());
     EXPECT_FALSE(screen().scanning());
     EXPECT_FALSE(screen().finished());
@@ -70,7 +70,7 @@ TEST_F(SurveyScreen, idleInvitesToScan) {
     EXPECT_EQ(screen().buttonName(), QStringLiteral("Scan your whole computer"));
 }
 
-TEST_F(SurveyScreen, aFeatureLeadsToItsModule) {
+TEST_F(SurveyScreen, featureSelectsItsScreen) {
     const std::array expected{Screen::reclaim, Screen::duplicates, Screen::clutter, Screen::lens};
     ASSERT_EQ(screen().features().size(), 4);
     for (int row = 0; row < 4; ++row) {
@@ -82,7 +82,7 @@ TEST_F(SurveyScreen, aFeatureLeadsToItsModule) {
     EXPECT_EQ(model().selection(), Screen::lens) << "there is no fifth feature";
 }
 
-TEST_F(SurveyScreen, scanningShowsItemsBytesAndThePath) {
+TEST_F(SurveyScreen, showsItemsBytesAndPathWhileScanning) {
     beginAndHold();
     runUntil([&] { return screen().itemsLine() != QStringLiteral("0 items"); });
     EXPECT_TRUE(screen().scanning());
@@ -93,7 +93,7 @@ TEST_F(SurveyScreen, scanningShowsItemsBytesAndThePath) {
     EXPECT_EQ(screen().buttonName(), QStringLiteral("scanning…"));
 }
 
-TEST_F(SurveyScreen, speaksItsProgressEveryThreeSecondsWhileItIsShown) {
+TEST_F(SurveyScreen, speaksProgressEveryThreeSecondsWhileShown) {
     EXPECT_EQ(screen().spokenProgress(), QString());
     beginAndHold();
     EXPECT_EQ(screen().spokenProgress(), QStringLiteral("0 bytes, 0 items"));
@@ -116,7 +116,7 @@ TEST_F(SurveyScreen, speaksItsProgressEveryThreeSecondsWhileItIsShown) {
     EXPECT_EQ(screen().spokenProgress(), QString());
 }
 
-TEST_F(SurveyScreen, beginsWithThePathOfTheRootAndNoItems) {
+TEST_F(SurveyScreen, startsWithRootPathAndNoItems) {
     machine.directories.hold(home);
     screen().pressScan();
     EXPECT_TRUE(screen().scanning());
@@ -128,7 +128,7 @@ TEST_F(SurveyScreen, beginsWithThePathOfTheRootAndNoItems) {
     EXPECT_EQ(screen().pathLine(), QStringLiteral("/home/me"));
 }
 
-TEST_F(SurveyScreen, beginsAgainAtNothingAfterASurvey) {
+TEST_F(SurveyScreen, nextSurveyStartsAtZero) {
     fillHome();
     model().setScanRoots({home + "/projects"});
     finishSurvey();
@@ -147,7 +147,7 @@ TEST_F(SurveyScreen, beginsAgainAtNothingAfterASurvey) {
     EXPECT_EQ(screen().pathLine(), QStringLiteral("/home/me"));
 }
 
-TEST_F(SurveyScreen, showsAReportWithAllThatIsInIt) {
+TEST_F(SurveyScreen, updatesAllFiguresOfAReportTogether) {
     int reports = 0;
     QObject::connect(&screen(), &SurveyScreenModel::figuresChanged, &screen(), [&] {
         if (screen().itemsLine() == QStringLiteral("0 items")) return;
@@ -159,7 +159,7 @@ TEST_F(SurveyScreen, showsAReportWithAllThatIsInIt) {
     runUntil([&] { return reports > 0; });
 }
 
-TEST_F(SurveyScreen, theFaceThatLeavesKeepsItsFigure) {
+TEST_F(SurveyScreen, keepsRecoverableFigureWhenNextSurveyStarts) {
     fillHome();
     finishSurvey();
     machine.directories.hold(home);
@@ -169,7 +169,7 @@ TEST_F(SurveyScreen, theFaceThatLeavesKeepsItsFigure) {
     EXPECT_EQ(screen().recoverable(), QStringLiteral("60 MB"));
 }
 
-TEST_F(SurveyScreen, theFaceThatIsCancelledKeepsItsFigure) {
+TEST_F(SurveyScreen, keepsScannedFigureWhenCancelled) {
     beginAndHold();
     runUntil([&] { return screen().itemsLine() != QStringLiteral("0 items"); });
     const QString title = screen().scanned();
@@ -178,7 +178,7 @@ TEST_F(SurveyScreen, theFaceThatIsCancelledKeepsItsFigure) {
     EXPECT_EQ(screen().scanned(), title);
 }
 
-TEST_F(SurveyScreen, shortensALongPathAndShowsWhatCannotBeRead) {
+TEST_F(SurveyScreen, shortensLongPathWithInvalidUtf8) {
     const std::string folder = home + "/\xFF-" + std::string(70, 'x');
     addWideFolder(folder);
     machine.directories.hold(folder + "/inner");
@@ -188,7 +188,7 @@ TEST_F(SurveyScreen, shortensALongPathAndShowsWhatCannotBeRead) {
     EXPECT_EQ(screen().pathLine(), QStringLiteral("…") + QString(55, u'x'));
 }
 
-TEST_F(SurveyScreen, finishedShowsWhatIsRecoverable) {
+TEST_F(SurveyScreen, showsRecoverableBytesWhenFinished) {
     fillHome();
     finishSurvey();
     EXPECT_TRUE(screen().finished());
@@ -196,12 +196,12 @@ TEST_F(SurveyScreen, finishedShowsWhatIsRecoverable) {
     EXPECT_EQ(screen().buttonName(), QStringLiteral("60 MB recoverable, re-run"));
 }
 
-TEST_F(SurveyScreen, finishedWithNothingToReclaimShowsZeroBytes) {
+TEST_F(SurveyScreen, showsZeroBytesIfNothingIsRecoverable) {
     finishSurvey();
     EXPECT_EQ(screen().recoverable(), QStringLiteral("0 bytes"));
 }
 
-TEST_F(SurveyScreen, countsUpToWhatIsRecoverableButNamesItAtOnce) {
+TEST_F(SurveyScreen, countsUpButNamesFinalFigureAtOnce) {
     fillHome();
     screen().setCounting(true);
     finishSurvey();
@@ -215,7 +215,7 @@ TEST_F(SurveyScreen, countsUpToWhatIsRecoverableButNamesItAtOnce) {
     EXPECT_EQ(screen().recoverable(), QStringLiteral("60 MB"));
 }
 
-TEST_F(SurveyScreen, aFigureOnItsWayIsThereWhenCountingIsSwitchedOff) {
+TEST_F(SurveyScreen, finishesCountingWhenSwitchedOff) {
     fillHome();
     screen().setCounting(true);
     finishSurvey();
@@ -226,7 +226,7 @@ TEST_F(SurveyScreen, aFigureOnItsWayIsThereWhenCountingIsSwitchedOff) {
     EXPECT_EQ(screen().recoverable(), QStringLiteral("60 MB"));
 }
 
-TEST_F(SurveyScreen, countsUpToTheItemsThatWereScanned) {
+TEST_F(SurveyScreen, countsUpToScannedItems) {
     screen().setCounting(true);
     beginAndHold();
     awaitChange();
@@ -236,7 +236,7 @@ TEST_F(SurveyScreen, countsUpToTheItemsThatWereScanned) {
     EXPECT_EQ(screen().itemsLine(), groupedFigure(model().itemsScanned()) + QStringLiteral(" items"));
 }
 
-TEST_F(SurveyScreen, followsWhatBecomesOfTheResults) {
+TEST_F(SurveyScreen, followsChangesOfTheResults) {
     fillHome();
     finishSurvey();
     const NodeRef modules = folderAt(model().root(), home + "/projects/app/node_modules");
@@ -245,19 +245,19 @@ TEST_F(SurveyScreen, followsWhatBecomesOfTheResults) {
     runUntil([&] { return screen().recoverable() == QStringLiteral("50 MB"); });
 }
 
-TEST_F(SurveyScreen, changesItsTextsAFewTimesASecondHoweverOftenASurveyReports) {
+TEST_F(SurveyScreen, limitsRateOfTextChanges) {
     for (int folder = 0; folder < 40; ++folder) addWideFolder(home + "/" + std::to_string(folder));
     int changes = 0;
     QObject::connect(&screen(), &SurveyScreenModel::figuresChanged, &screen(), [&] { ++changes; });
     QElapsedTimer clock;
     clock.start();
     finishSurvey();
-    // Two at the change of each phase, one at the first report after a rest, and then one to a tick.
+    // Two per phase change, one for the first report after a pause, and then one per tick.
     const auto allowed = 6 + clock.elapsed() / 80;
     EXPECT_LE(changes, allowed);
 }
 
-TEST_F(SurveyScreen, pressingScanDuringASurveyDoesNothing) {
+TEST_F(SurveyScreen, ignoresScanDuringSurvey) {
     beginAndHold();
     const std::int64_t items = model().itemsScanned();
     screen().pressScan();
@@ -265,14 +265,14 @@ TEST_F(SurveyScreen, pressingScanDuringASurveyDoesNothing) {
     EXPECT_EQ(model().itemsScanned(), items);
 }
 
-TEST_F(SurveyScreen, cancelGoesBackToIdle) {
+TEST_F(SurveyScreen, cancelReturnsToIdle) {
     beginAndHold();
     screen().cancel();
     EXPECT_TRUE(screen().idle());
     EXPECT_TRUE(screen().buttonName().startsWith(QStringLiteral("Scan your whole")));
 }
 
-TEST_F(SurveyScreen, shownInMidSurveyHasItsFigures) {
+TEST_F(SurveyScreen, showsFiguresWhenCreatedDuringSurvey) {
     beginAndHold();
     SurveyScreenModel late(model());
     late.setCounting(false);

@@ -19,7 +19,7 @@ namespace {
 
 class TextSymbol : public ViewFixture {};
 
-/// The names of all drawings there are.
+/// The names of all symbols in the resources.
 std::vector<QString> drawnSymbols() {
     std::vector<QString> names;
     for (QDirIterator files(QStringLiteral(":/Zelk/Controls/symbols"), {QStringLiteral("*.svg")}); files.hasNext();) {
@@ -29,7 +29,7 @@ std::vector<QString> drawnSymbols() {
     return names;
 }
 
-/// The smallest rectangle round every point that is not wholly transparent.
+/// The bounding rectangle of all pixels that are not fully transparent.
 QRect inkOf(const QImage& image) {
     QRect ink;
     for (int y = 0; y < image.height(); ++y) {
@@ -63,7 +63,7 @@ TEST(Symbols, shareOneGridAndOneStrokeWidth) {
     }
 }
 
-TEST(Symbols, areSeenAndKeepOffTheEdgeOfTheirGrid) {
+TEST(Symbols, fillTheirGridWithoutTouchingTheEdge) {
     constexpr int kScale = 20;
     const QRect inside(kScale, kScale, 22 * kScale, 22 * kScale);
     for (const QString& name : drawnSymbols()) {
@@ -77,7 +77,7 @@ TEST(Symbols, areSeenAndKeepOffTheEdgeOfTheirGrid) {
     }
 }
 
-TEST(Symbols, ofTheFilledWeightAreHeavierThanTheirOutlines) {
+TEST(Symbols, filledVariantsAreHeavier) {
     int pairs = 0;
     const std::vector<QString> names = drawnSymbols();
     for (const QString& name : names) {
@@ -90,7 +90,7 @@ TEST(Symbols, ofTheFilledWeightAreHeavierThanTheirOutlines) {
     EXPECT_GE(pairs, 6);
 }
 
-TEST(Symbols, askedForAgainAreTheSamePicture) {
+TEST(Symbols, areCached) {
     const QString name = QStringLiteral("gearshape");
     const QImage first = tintedSymbol(name, Qt::red, 33);
     EXPECT_EQ(tintedSymbol(name, Qt::red, 33).cacheKey(), first.cacheKey());
@@ -100,14 +100,14 @@ TEST(Symbols, askedForAgainAreTheSamePicture) {
     EXPECT_NE(tintedSymbol(QStringLiteral("scope"), Qt::red, 33), first);
 }
 
-TEST(Symbols, areTintedWithAColourThatIsSeenThrough) {
+TEST(Symbols, keepOpacityOfTheTint) {
     const QImage image = tintedSymbol(QStringLiteral("app"), QColor(0, 0, 255, 128), 48);
     int most = 0;
     for (int x = 0; x < image.width(); ++x) most = std::max(most, image.pixelColor(x, 24).alpha());
     EXPECT_EQ(most, 128);
 }
 
-TEST(Symbols, areTintedAllOver) {
+TEST(Symbols, areTintedCompletely) {
     const QImage image = tintedSymbol(QStringLiteral("scope"), QColor(10, 200, 30), 48);
     int covered = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -121,7 +121,7 @@ TEST(Symbols, areTintedAllOver) {
     EXPECT_GT(covered, 50);
 }
 
-TEST(Symbols, ofAnUnknownNameAreNothing) {
+TEST(Symbols, areNullForUnknownNames) {
     EXPECT_TRUE(tintedSymbol(QStringLiteral("no.such.symbol"), Qt::red, 24).isNull());
     const QStringList messages = tour::takeQtMessages();
     ASSERT_EQ(messages.size(), 1);
@@ -129,7 +129,7 @@ TEST(Symbols, ofAnUnknownNameAreNothing) {
     EXPECT_TRUE(tintedSymbol(QStringLiteral("scope"), Qt::red, 0).isNull());
 }
 
-TEST_F(TextSymbol, looksAsLargeAsTheTextBesideIt) {
+TEST_F(TextSymbol, matchesSizeOfTheTextBesideIt) {
     show(QStringLiteral("import QtQuick\nimport Zelk.Controls\n"
                         "Item { TextSymbol { objectName: 'symbol'; name: 'scope'; color: 'black'; points: 14 } }"),
          {40, 40});
@@ -142,10 +142,10 @@ TEST_F(TextSymbol, looksAsLargeAsTheTextBesideIt) {
     EXPECT_NEAR(most, 10 * 14, 20);
 }
 
-TEST(ApplicationIcon, isTheDriveOnTheAccent) {
+TEST(ApplicationIcon, hasRoundCornersAndAccentBackground) {
     const QImage icon = applicationIcon().pixmap(256, 256).toImage();
     ASSERT_FALSE(icon.isNull());
-    EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0) << "the corner is round";
+    EXPECT_EQ(icon.pixelColor(0, 0).alpha(), 0) << "round corner";
     const QColor top = icon.pixelColor(icon.width() / 2, icon.height() / 16);
     EXPECT_GT(top.red(), 200);
     EXPECT_LT(top.blue(), 120);

@@ -11,13 +11,13 @@ namespace zelk {
 
 namespace {
 
-struct Told {
+struct Wording {
     SystemTexts::Key key;
     const char* macOS;
     const char* desktopLinux;
 };
 
-constexpr Told wordings[] = {
+constexpr Wording wordings[] = {
     {SystemTexts::WholeComputer, "your whole Mac", "your whole computer"},
     {SystemTexts::ScanWholeComputer,
      "Scan your whole Mac and see space by type, the biggest files, and how it changes over time.",
@@ -90,15 +90,15 @@ constexpr Told wordings[] = {
 
 }  // namespace
 
-TEST(SystemTexts, haveAWordingForEachSystemInEveryRow) {
+TEST(SystemTexts, haveWordingForEachSystem) {
     ASSERT_EQ(std::size(wordings), static_cast<std::size_t>(SystemTexts::keyCount));
-    for (const Told& row : wordings) {
+    for (const Wording& row : wordings) {
         EXPECT_STREQ(SystemTexts::wording(row.key, macOS), row.macOS);
         EXPECT_STREQ(SystemTexts::wording(row.key, desktopLinux), row.desktopLinux);
     }
 }
 
-TEST(SystemTexts, nameNothingOfAMacOnLinux) {
+TEST(SystemTexts, doNotMentionMacOnLinux) {
     for (int key = 0; key < SystemTexts::keyCount; ++key) {
         const std::string text = SystemTexts::wording(static_cast<SystemTexts::Key>(key), desktopLinux);
         for (const char* word : {"Mac", "macOS", "Finder", "Full Disk", "⌘", "APFS", "App Store", "Developer ID"})
@@ -106,7 +106,7 @@ TEST(SystemTexts, nameNothingOfAMacOnLinux) {
     }
 }
 
-TEST(SystemTexts, areThoseOfTheSystemThatIsShown) {
+TEST(SystemTexts, followShownSystem) {
     {
         const TextsOf mac(macOS);
         EXPECT_EQ(SystemTexts::of(SystemTexts::HealthTitle).toStdString(), "Mac health");
@@ -116,7 +116,7 @@ TEST(SystemTexts, areThoseOfTheSystemThatIsShown) {
     EXPECT_EQ(SystemTexts::of(SystemTexts::AccessSettings), QString());
 }
 
-TEST(SystemTexts, areAtFirstThoseOfTheSystemThatRunsThem) {
+TEST(SystemTexts, defaultToRunningSystem) {
 #ifdef Q_OS_MACOS
     EXPECT_EQ(SystemTexts::shown(), macOS);
 #else
@@ -124,7 +124,7 @@ TEST(SystemTexts, areAtFirstThoseOfTheSystemThatRunsThem) {
 #endif
 }
 
-TEST(SystemTexts, rewordWhatComesFromBelow) {
+TEST(SystemTexts, rewordTextsOfLowerLayers) {
     const TextsOf here(desktopLinux);
     EXPECT_EQ(SystemTexts::worded("Removes simulator runtimes macOS no longer lists.").toStdString(),
               "Removes simulator runtimes that nothing lists any more.");

@@ -13,16 +13,16 @@ const DesktopKey factorKey{QStringLiteral("org.gnome.desktop.interface"), QStrin
 
 }  // namespace
 
-TEST(TextScale, isAsDrawnWhereTheDesktopSaysNothing) {
+TEST(TextScale, isOneWithoutDesktopSetting) {
     const DesktopSettings desktop;
     EXPECT_EQ(TextScale(desktop).factor(), 1);
 }
 
-TEST(TextScale, followsTheDesktopUntilToldOtherwise) {
+TEST(TextScale, followsDesktopUntilSetExplicitly) {
     DesktopSettings desktop;
     desktop.hear(factorKey, 1.25);
     TextScale text(desktop);
-    EXPECT_EQ(text.factor(), 1.25) << "what was heard before it was there";
+    EXPECT_EQ(text.factor(), 1.25) << "a setting received before it was created counts";
     desktop.hear(factorKey, 1.5);
     EXPECT_EQ(text.factor(), 1.5);
     text.setFactor(1.5);
@@ -30,7 +30,7 @@ TEST(TextScale, followsTheDesktopUntilToldOtherwise) {
     EXPECT_EQ(text.factor(), 1.5);
 }
 
-TEST(TextScale, isNoMoreThanTheLayoutsBear) {
+TEST(TextScale, isClampedToSupportedRange) {
     DesktopSettings desktop;
     TextScale text(desktop);
     desktop.hear(factorKey, 3.0);
@@ -39,7 +39,7 @@ TEST(TextScale, isNoMoreThanTheLayoutsBear) {
     EXPECT_EQ(text.factor(), TextScale::smallest);
 }
 
-TEST(TextScale, tellsAChangeOnce) {
+TEST(TextScale, notifiesOncePerChange) {
     DesktopSettings desktop;
     TextScale text(desktop);
     int changes = 0;
@@ -50,7 +50,7 @@ TEST(TextScale, tellsAChangeOnce) {
     EXPECT_EQ(changes, 1);
 }
 
-TEST(TextScale, leavesItToTheToolkitWhereThatScalesAll) {
+TEST(TextScale, detectsPlatformsWhoseToolkitScalesText) {
     EXPECT_TRUE(toolkitScalesTexts(QStringLiteral("xcb")));
     EXPECT_FALSE(toolkitScalesTexts(QStringLiteral("wayland")));
     EXPECT_FALSE(toolkitScalesTexts(QStringLiteral("offscreen")));

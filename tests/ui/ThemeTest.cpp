@@ -17,12 +17,12 @@ QPalette paletteOf(const QColor& window, const QColor& text) {
     return palette;
 }
 
-class ThemeFollowing : public AppModelFixture {
+class ThemeTest : public AppModelFixture {
 protected:
-    ThemeFollowing() {
+    ThemeTest() {
         QObject::connect(&theme, &Theme::changed, &theme, [this] { ++changes; });
     }
-    ~ThemeFollowing() override { QGuiApplication::setPalette(QPalette()); }
+    ~ThemeTest() override { QGuiApplication::setPalette(QPalette()); }
 
     static void setDesktop(const QColor& window, const QColor& text) {
         QGuiApplication::setPalette(paletteOf(window, text));
@@ -36,14 +36,14 @@ protected:
 
 }  // namespace
 
-TEST_F(ThemeFollowing, isDarkFromTheStart) {
+TEST_F(ThemeTest, isDarkByDefault) {
     EXPECT_EQ(theme.current(), ZelkTheme::dark());
     theme.follow(model());
     EXPECT_EQ(theme.current(), ZelkTheme::dark());
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(ThemeFollowing, swapsWithTheAppearance) {
+TEST_F(ThemeTest, followsAppearance) {
     theme.follow(model());
     model().setAppearance(AppModel::Appearance::light);
     EXPECT_EQ(theme.current(), ZelkTheme::light());
@@ -54,10 +54,10 @@ TEST_F(ThemeFollowing, swapsWithTheAppearance) {
 }
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
-TEST_F(ThemeFollowing, followsTheDesktopsPaletteWhereItIsToldTo) {
+TEST_F(ThemeTest, followsDesktopPaletteInSystemAppearance) {
     theme.follow(model());
     setDesktop(Qt::white, Qt::black);
-    EXPECT_EQ(theme.current(), ZelkTheme::dark()) << "not told to";
+    EXPECT_EQ(theme.current(), ZelkTheme::dark()) << "not in system appearance yet";
     model().setAppearance(AppModel::Appearance::system);
     EXPECT_EQ(theme.current(), ZelkTheme::light());
     setDesktop(Qt::black, Qt::white);
@@ -65,12 +65,12 @@ TEST_F(ThemeFollowing, followsTheDesktopsPaletteWhereItIsToldTo) {
 }
 #endif
 
-TEST_F(ThemeFollowing, believesWhatTheDesktopSaysBeforeAnyPalette) {
+TEST_F(ThemeTest, prefersDesktopSchemeToPalette) {
     const DesktopKey key{QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme")};
     theme.follow(model());
     setDesktop(Qt::white, Qt::black);
     desktop.hear(key, 2U);
-    EXPECT_EQ(theme.current(), ZelkTheme::dark()) << "not told to";
+    EXPECT_EQ(theme.current(), ZelkTheme::dark()) << "not in system appearance yet";
     desktop.hear(key, 1U);
     model().setAppearance(AppModel::Appearance::system);
     EXPECT_EQ(theme.current(), ZelkTheme::dark()) << "though the palette is light";
@@ -81,17 +81,17 @@ TEST_F(ThemeFollowing, believesWhatTheDesktopSaysBeforeAnyPalette) {
     EXPECT_EQ(theme.current(), ZelkTheme::light());
 }
 
-TEST(DesktopScheme, isBelievedWhateverThePalette) {
+TEST(DesktopScheme, overridesPalette) {
     EXPECT_TRUE(desktopIsDark(DesktopScheme::dark, paletteOf(Qt::white, Qt::black)));
     EXPECT_FALSE(desktopIsDark(DesktopScheme::light, paletteOf(Qt::black, Qt::white)));
 }
 
-TEST(DesktopScheme, isReadFromThePaletteWhereItIsNotTold) {
+TEST(DesktopScheme, fallsBackToPalette) {
     EXPECT_TRUE(desktopIsDark(DesktopScheme::untold, paletteOf(Qt::black, Qt::white)));
     EXPECT_FALSE(desktopIsDark(DesktopScheme::untold, paletteOf(Qt::white, Qt::black)));
 }
 
-TEST_F(ThemeFollowing, outlivesItsModel) {
+TEST_F(ThemeTest, outlivesItsModel) {
     theme.follow(model());
     model().setAppearance(AppModel::Appearance::light);
     destroyModel();

@@ -16,13 +16,13 @@ protected:
 
 }  // namespace
 
-TEST_F(ToolsScreen, saysAWholeRowToAScreenReader) {
+TEST_F(ToolsScreen, namesWholeRowForScreenReader) {
     EXPECT_EQ(tools.tools()[1].spoken().toStdString(),
               "Reclaim. Find caches, logs, and developer junk, grouped by safety. clear it to the Trash");
     EXPECT_EQ(tools.tools()[5].spoken().toStdString(), "Health. Live disk, memory, CPU, and battery gauges.");
 }
 
-TEST_F(ToolsScreen, selectsTheModuleOfThePressedRow) {
+TEST_F(ToolsScreen, pressSelectsScreenOfTheRow) {
     constexpr std::array screens{Screen::survey, Screen::reclaim, Screen::lens,    Screen::clutter, Screen::duplicates,
                                  Screen::health, Screen::apps,    Screen::privacy, Screen::tune,    Screen::system};
     ASSERT_EQ(tools.tools().size(), static_cast<qsizetype>(screens.size()));
@@ -33,7 +33,7 @@ TEST_F(ToolsScreen, selectsTheModuleOfThePressedRow) {
     }
 }
 
-TEST_F(ToolsScreen, selectsNothingWhereThereIsNoRow) {
+TEST_F(ToolsScreen, ignoresPressOnUnknownRow) {
     model().setSelection(Screen::tools);
     tools.press(-1);
     tools.press(10);

@@ -33,7 +33,7 @@ TEST_F(ToolsWindow, showsItsTextsInOrder) {
         seenTexts(),
         (std::vector<std::string>{
             "Tools", "everything Zelk can do",
-            // Each tool with what it does and, where it takes something away, what becomes of that.
+            // Each tool with its description and, if it removes anything, what happens to that.
             "Overview", "Scan your whole Mac and see space by type, the biggest files, and how it changes over time.",
             "Reclaim", "Find caches, logs, and developer junk, grouped by safety.", "clear it to the Trash", "Lens",
             "Explore where space went as bubbles, a drill-down list, or a treemap.", "delete folders you don't need",
@@ -48,7 +48,7 @@ TEST_F(ToolsWindow, showsItsTextsInOrder) {
     EXPECT_EQ(symbol("list.star")->color(), QColor(154, 160, 255));
 }
 
-TEST_F(ToolsWindow, aRowHasItsTileAndItsThreeTexts) {
+TEST_F(ToolsWindow, rowShowsTileAndThreeTexts) {
     open({800, 1400});
     EXPECT_EQ(sizeOf("Duplicates"), 17);
     EXPECT_EQ(sizeOf("Find byte-identical files across your folders."), 14);
@@ -66,7 +66,7 @@ TEST_F(ToolsWindow, aRowHasItsTileAndItsThreeTexts) {
     EXPECT_EQ(copies->parentItem()->property("color").value<QColor>(), soft);
 }
 
-TEST_F(ToolsWindow, tabGoesThroughAllRowsFromTheFirst) {
+TEST_F(ToolsWindow, tabVisitsAllRows) {
     open();
     EXPECT_EQ(focusName(), first);
     const std::vector<std::string> order = tabOrder();
@@ -75,7 +75,7 @@ TEST_F(ToolsWindow, tabGoesThroughAllRowsFromTheFirst) {
     EXPECT_EQ(order[9].rfind("System. ", 0), 0U) << order[9];
 }
 
-TEST_F(ToolsWindow, keepsTheRowWithTheKeyboardInSight) {
+TEST_F(ToolsWindow, scrollsToFocusedRow) {
     open();
     for (int row = 0; row < 10; ++row) {
         expectFocusInSight();
@@ -84,7 +84,7 @@ TEST_F(ToolsWindow, keepsTheRowWithTheKeyboardInSight) {
     expectFocusInSight();
 }
 
-TEST_F(ToolsWindow, aRowIsPressedFromTheKeyboard) {
+TEST_F(ToolsWindow, keyboardPressesRow) {
     open();
     model().setSelection(Screen::tools);
     press(Qt::Key_Tab);
@@ -96,7 +96,7 @@ TEST_F(ToolsWindow, aRowIsPressedFromTheKeyboard) {
     EXPECT_EQ(model().selection(), Screen::lens);
 }
 
-TEST_F(ToolsWindow, aRowIsPressedAnywhereOnIt) {
+TEST_F(ToolsWindow, wholeRowIsClickable) {
     open({800, 1400});
     for (QQuickItem* item : seen()) {
         if (!item->inherits("QQuickText") || item->property("text").toString() != QStringLiteral("Health")) continue;
@@ -111,7 +111,7 @@ TEST_F(ToolsWindow, namesEveryRow) {
     expectAllControlsNamed();
 }
 
-TEST_F(ToolsWindow, clipsNothingWhereTextIsLarge) {
+TEST_F(ToolsWindow, clipsNothingInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     open({726, 620});
     expectNoTextClipped();

@@ -17,7 +17,7 @@ constexpr double day = 86'400;
 
 class Trends : public AppModelFixture {
 protected:
-    /// Before the first call of trends().
+    /// Stores this history. Call it before the first trends().
     void remember(const std::vector<SurveyRecord>& records) {
         machine.files.addFile("/home/me/support/Zelk/history.json", encodeHistory(records));
     }
@@ -26,7 +26,7 @@ protected:
         for (const std::int64_t total : totals) records.push_back(recordOf(total));
         remember(records);
     }
-    /// Ten days in which 1,000 bytes were filled, and `free` bytes that are left: at 100 bytes a day.
+    /// Stores two surveys ten days apart between which 1,000 bytes were filled, leaving `free` bytes: 100 bytes a day.
     void rememberFilling(std::int64_t free) {
         SurveyRecord first;
         first.date = 1'700'000'000;
@@ -70,13 +70,13 @@ private:
 
 }  // namespace
 
-TEST_F(Trends, areNotShownWithoutARecord) {
+TEST_F(Trends, areHiddenWithoutRecords) {
     EXPECT_FALSE(trends().shown());
     EXPECT_FALSE(trends().hasChanges());
     EXPECT_EQ(trends().forecast(), QString());
 }
 
-TEST_F(Trends, areNotShownWithOneRecord) {
+TEST_F(Trends, areHiddenWithOneRecord) {
     rememberTotals({5'000'000});
     EXPECT_FALSE(trends().shown());
 }
@@ -86,7 +86,7 @@ TEST_F(Trends, areShownWithTwoRecords) {
     EXPECT_TRUE(trends().shown());
 }
 
-TEST_F(Trends, theSecondSurveyBringsThem) {
+TEST_F(Trends, appearAfterSecondSurvey) {
     fillHome();
     machine.files.addFolder("/home/me/support/Zelk");
     QSignalSpy changes(&trends(), &TrendsModel::changed);
@@ -99,7 +99,7 @@ TEST_F(Trends, theSecondSurveyBringsThem) {
     EXPECT_GE(changes.size(), 2);
 }
 
-TEST_F(Trends, growthPointsUpInAlert) {
+TEST_F(Trends, growthPointsUpInAlertColour) {
     rememberTotals({100'000'000, 5'000'000, 7'000'000});
     EXPECT_EQ(trends().arrow(), QStringLiteral("arrow.up.right"));
     EXPECT_EQ(trends().arrowColor(), ZelkTheme::dark().alert);
@@ -109,7 +109,7 @@ TEST_F(Trends, growthPointsUpInAlert) {
     EXPECT_EQ(trends().arrowColor(), ZelkTheme::light().alert);
 }
 
-TEST_F(Trends, lessPointsDownInGreenWithTheAbsoluteDelta) {
+TEST_F(Trends, shrinkagePointsDownInGreen) {
     rememberTotals({7'000'000, 5'000'000});
     EXPECT_EQ(trends().arrow(), QStringLiteral("arrow.down.right"));
     EXPECT_EQ(trends().arrowColor(), QColor(50, 199, 123));
@@ -117,14 +117,14 @@ TEST_F(Trends, lessPointsDownInGreenWithTheAbsoluteDelta) {
     EXPECT_EQ(trends().deltaLine(), QStringLiteral("since your last scan · 2 tracked"));
 }
 
-TEST_F(Trends, anUnchangedTotalDidNotGrow) {
+TEST_F(Trends, unchangedTotalPointsDown) {
     rememberTotals({7'000'000, 7'000'000});
     EXPECT_EQ(trends().arrow(), QStringLiteral("arrow.down.right"));
     EXPECT_EQ(trends().arrowColor(), QColor(50, 199, 123));
     EXPECT_EQ(trends().delta(), QStringLiteral("0 bytes"));
 }
 
-TEST_F(Trends, anArrowSaysInWordsWhereItPoints) {
+TEST_F(Trends, arrowNameDescribesDirection) {
     const std::pair<std::int64_t, const char*> table[] = {{8, "grew"}, {6, "shrank"}, {7, "unchanged"}};
     for (const auto& [now, expected] : table) {
         destroyModel();
@@ -133,12 +133,12 @@ TEST_F(Trends, anArrowSaysInWordsWhereItPoints) {
     }
 }
 
-TEST_F(Trends, theSparklineHasEveryTotalOldestFirst) {
+TEST_F(Trends, totalsAreOldestFirst) {
     rememberTotals({3, 1, 2});
     EXPECT_EQ(trends().totals(), (QList<qreal>{3, 1, 2}));
 }
 
-TEST_F(Trends, totalsThatNoIntegerTellsApartDoNotOverflow) {
+TEST_F(Trends, survivesDifferencesBeyond64Bits) {
     constexpr auto most = std::numeric_limits<std::int64_t>::max();
     constexpr auto least = std::numeric_limits<std::int64_t>::min();
     rememberTotals({least, most});
@@ -155,7 +155,7 @@ TEST_F(Trends, totalsThatNoIntegerTellsApartDoNotOverflow) {
     }
 }
 
-TEST_F(Trends, aForecastOf29DaysIsAlarming) {
+TEST_F(Trends, forecastOf29DaysIsAlarming) {
     rememberFilling(2'900);
     EXPECT_EQ(trends().forecast(), QStringLiteral("≈ 29 days until full at this rate"));
     EXPECT_EQ(trends().forecastColor(), ZelkTheme::dark().alert);
@@ -163,7 +163,7 @@ TEST_F(Trends, aForecastOf29DaysIsAlarming) {
     EXPECT_EQ(trends().forecastColor(), ZelkTheme::light().alert);
 }
 
-TEST_F(Trends, aForecastOf30DaysIsNot) {
+TEST_F(Trends, forecastOf30DaysIsNotAlarming) {
     rememberFilling(3'000);
     EXPECT_EQ(trends().forecast(), QStringLiteral("≈ 30 days until full at this rate"));
     EXPECT_EQ(trends().forecastColor(), ZelkTheme::dark().inkSoft);
@@ -171,32 +171,32 @@ TEST_F(Trends, aForecastOf30DaysIsNot) {
     EXPECT_EQ(trends().forecastColor(), ZelkTheme::light().inkSoft);
 }
 
-TEST_F(Trends, aForecastOfNoDaysIsTold) {
+TEST_F(Trends, showsForecastOfZeroDays) {
     rememberFilling(50);
     EXPECT_EQ(trends().forecast(), QStringLiteral("≈ 0 days until full at this rate"));
     EXPECT_EQ(trends().forecastColor(), ZelkTheme::dark().alert);
 }
 
-TEST_F(Trends, withoutAForecastThereIsNoLine) {
+TEST_F(Trends, showNoForecastOnFullVolume) {
     rememberFilling(0);
     EXPECT_TRUE(trends().shown());
     EXPECT_EQ(trends().forecast(), QString());
 }
 
-TEST_F(Trends, withoutFoldersInTheRecordsThereAreNoChanges) {
+TEST_F(Trends, haveNoChangesWithoutRecordedFolders) {
     rememberTotals({1, 2});
     EXPECT_FALSE(trends().hasChanges());
     trends().openChanges();
     EXPECT_FALSE(trends().showChanges());
 }
 
-TEST_F(Trends, equalFoldersAreNoChanges) {
+TEST_F(Trends, haveNoChangesIfFoldersAreEqual) {
     rememberFolders({{"/a", 1'000'000'000}}, {{"/a", 1'000'000'000}});
     EXPECT_FALSE(trends().hasChanges());
     EXPECT_TRUE(trends().changes()->empty());
 }
 
-TEST_F(Trends, oneEntryInAnyListIsAChange) {
+TEST_F(Trends, haveChangesIfAnyListHasAnEntry) {
     const std::tuple<SizeByPath, SizeByPath, const char*> table[] = {
         {{{"/a", 1'000'000'000}}, {{"/a", 2'000'000'000}}, "Grew (1)"},
         {{}, {{"/a", 1'000'000'000}}, "Appeared (1)"},
@@ -213,7 +213,7 @@ TEST_F(Trends, oneEntryInAnyListIsAChange) {
     }
 }
 
-TEST_F(Trends, theSheetOfChangesOpensAndCloses) {
+TEST_F(Trends, opensAndClosesChanges) {
     rememberFolders({}, {{"/a", 1'000'000'000}});
     EXPECT_FALSE(trends().showChanges());
     QSignalSpy shows(&trends(), &TrendsModel::showChangesChanged);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The card of the trends and the sheet of what has changed: their sizes, and what stands where.
+// The Trends card and the "What changed" sheet: sizes, colours and positions.
 #include "ViewFixture.h"
 #include "ui/charts/SparklinePicture.h"
 #include "ui/screens/overview/TrendsModel.h"
@@ -14,8 +14,8 @@ class TrendsWindow : public ViewFixture {
 protected:
     ~TrendsWindow() override { close(); }
 
-    /// Two surveys with ten days between: a folder has grown by 3 GB, one of 2 GB has come, one of 1 GB is gone, and
-    /// 40 GB are left.
+    /// Surveys twice, ten days apart: one folder grew by 3 GB, one of 2 GB appeared, one of 1 GB vanished, and 40 GB
+    /// are free.
     void open() {
         model().setAppearance(AppModel::Appearance::dark);
         machine.vitals.setVolume(home, VolumeInfo{100 * gigabyte, 44 * gigabyte, 44 * gigabyte});
@@ -42,7 +42,7 @@ protected:
 
 }  // namespace
 
-TEST_F(TrendsWindow, theCardHasItsFiguresItsCurveAndTheWayToTheChanges) {
+TEST_F(TrendsWindow, cardShowsFiguresCurveAndChangesButton) {
     open();
     EXPECT_EQ(find("card")->property("padding").toDouble(), 18);
     EXPECT_EQ(sizeOf("Trends"), 10);
@@ -69,7 +69,7 @@ TEST_F(TrendsWindow, theCardHasItsFiguresItsCurveAndTheWayToTheChanges) {
     EXPECT_LT(top(showing("≈ 100 days until full at this rate")), top(find("changesButton")));
 }
 
-TEST_F(TrendsWindow, theSheetHasItsHeadItsSectionsAndARowForEachFolder) {
+TEST_F(TrendsWindow, sheetListsFoldersInSections) {
     open();
     click("changesButton");
     EXPECT_EQ(sizeOf("What changed"), 17);
@@ -95,10 +95,10 @@ TEST_F(TrendsWindow, theSheetHasItsHeadItsSectionsAndARowForEachFolder) {
     EXPECT_EQ(folders, 4);
 }
 
-TEST_F(TrendsWindow, theSheetSaysWhereNothingHasChanged) {
+TEST_F(TrendsWindow, sheetReportsNoChanges) {
     open();
     click("changesButton");
-    survey();  // which finds the folders as they were
+    survey();  // finds the folders unchanged
     settle();
     EXPECT_EQ(sizeOf("No notable folder changes since the last survey."), 13);
 }

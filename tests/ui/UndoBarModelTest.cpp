@@ -54,7 +54,7 @@ protected:
     std::unique_ptr<UndoBarModel> files;
 };
 
-TEST_F(UndoBar, isHiddenBeforeARemoval) {
+TEST_F(UndoBar, isHiddenBeforeRemoval) {
     open();
     EXPECT_FALSE(folders->shown());
     EXPECT_FALSE(folders->undoable());
@@ -165,7 +165,7 @@ TEST_F(UndoBar, reportsWhatWasNotRestoredAndWhy) {
     EXPECT_FALSE(folders->undoable());
 }
 
-TEST_F(UndoBar, reportsThreeReasonsAndCountsTheOthers) {
+TEST_F(UndoBar, reportsUpToThreeReasons) {
     open();
     removeFolders({"a", "b", "c"});
     failToRestore();
@@ -189,7 +189,7 @@ TEST_F(UndoBar, countsReasonsBeyondTheThird) {
     EXPECT_TRUE(folders->details().endsWith(QStringLiteral("\nAnd 2 more.")));
 }
 
-TEST_F(UndoBar, reportsItemsOfUnknownPlace) {
+TEST_F(UndoBar, reportsItemsWithoutKnownLocation) {
     open();
     const TrashResult film = machine.trash.trash(ItemPath::from(home + "/film.mov").value());
     const RemovalUndo::Item item{film.item.value(), nullptr};
@@ -199,14 +199,14 @@ TEST_F(UndoBar, reportsItemsOfUnknownPlace) {
     EXPECT_EQ(details(), "The system did not say where 1 of them is there.");
 }
 
-TEST_F(UndoBar, cannotUndoWhatTheTrashDidNotLocate) {
+TEST_F(UndoBar, cannotUndoItemsWithoutKnownLocation) {
     open();
     model().removalUndo().offer(RemovalUndo::Source::folders, 1, {});
     EXPECT_TRUE(folders->shown());
     EXPECT_FALSE(folders->undoable());
 }
 
-TEST_F(UndoBar, outcomeOutlivesTheSurveyThatTheUndoStarts) {
+TEST_F(UndoBar, outcomeSurvivesSurveyAfterUndo) {
     open();
     const TrashResult film = machine.trash.trash(ItemPath::from(home + "/film.mov").value());
     model().removalUndo().offer(RemovalUndo::Source::folders, 1, {{film.item.value(), nullptr}});
@@ -215,7 +215,7 @@ TEST_F(UndoBar, outcomeOutlivesTheSurveyThatTheUndoStarts) {
     EXPECT_EQ(text(), "1 item was restored.");
 }
 
-TEST_F(UndoBar, removalDuringAnUndoIsOfferedAfterwards) {
+TEST_F(UndoBar, removalDuringUndoIsOfferedAfterwards) {
     open();
     removeFolders({"a"});
     machine.tasks.hold();

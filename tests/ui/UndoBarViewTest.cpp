@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The bar on the two screens that show it, with the pointer and the keyboard.
+// The undo bar on both screens that show it, with pointer and keyboard.
 #include <gmock/gmock.h>
 
 #include "LensFixture.h"
@@ -16,7 +16,7 @@ using testing::HasSubstr;
 using testing::Not;
 
 template <class Base>
-class BarWindow : public Base {
+class UndoBarWindow : public Base {
 protected:
     bool barIsShown() { return this->find("closeUndoBar") != nullptr; }
     bool canUndo() { return this->find("undoRemoval") != nullptr; }
@@ -44,7 +44,7 @@ protected:
     }
 };
 
-class LensUndo : public BarWindow<LensFixtureOn<ViewFixture>> {
+class LensUndo : public UndoBarWindow<LensFixtureOn<ViewFixture>> {
 protected:
     ~LensUndo() override { close(); }
 
@@ -53,23 +53,23 @@ protected:
         survey();
         show(QStringLiteral("Zelk.App"), QStringLiteral("LensView"), "lens", &lens(), size);
     }
-    /// Removes "music", as the pointer does.
+    /// Removes the folder `name` with the pointer.
     void remove(const std::string& name = "music") {
         toggle(name);
         settle();
         click("lensRemove");
         untilShown();
     }
-    bool listHasKeyboard() { return find("lensList")->hasActiveFocus(); }
+    bool listHasFocus() { return find("lensList")->hasActiveFocus(); }
 };
 
-TEST_F(LensUndo, showsNoBarBeforeARemoval) {
+TEST_F(LensUndo, showsNoBarBeforeRemoval) {
     open();
     EXPECT_FALSE(barIsShown());
     EXPECT_EQ(alert(), nullptr);
 }
 
-TEST_F(LensUndo, barStandsBetweenTheListAndTheFoot) {
+TEST_F(LensUndo, barLiesBetweenListAndFoot) {
     open();
     const double before = find("lensRemove")->mapToScene({}).y();
     remove();
@@ -92,7 +92,7 @@ TEST_F(LensUndo, pointerUndoesTheRemoval) {
     EXPECT_TRUE(machine.files.exists(home + "/music/song.flac"));
     click("closeUndoBar");
     EXPECT_FALSE(barIsShown());
-    EXPECT_TRUE(listHasKeyboard());
+    EXPECT_TRUE(listHasFocus());
 }
 
 TEST_F(LensUndo, keyboardUndoesTheRemoval) {
@@ -101,36 +101,36 @@ TEST_F(LensUndo, keyboardUndoesTheRemoval) {
     tabTo("undoRemoval");
     press(Qt::Key_Return);
     untilRestored(1);
-    EXPECT_EQ(window().activeFocusItem(), find("closeUndoBar")) << "the button with the keyboard has gone";
+    EXPECT_EQ(window().activeFocusItem(), find("closeUndoBar")) << "the focused button has disappeared";
     EXPECT_TRUE(focusIsRinged());
     press(Qt::Key_Space);
     EXPECT_FALSE(barIsShown());
-    EXPECT_TRUE(listHasKeyboard());
+    EXPECT_TRUE(listHasFocus());
     EXPECT_TRUE(find("lensList")->property("ringed").toBool());
 }
 
-TEST_F(LensUndo, escapeClosesTheBarThatHasTheKeyboard) {
+TEST_F(LensUndo, escapeClosesFocusedBar) {
     open();
     remove();
     find("lensList")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Escape);
-    EXPECT_TRUE(barIsShown()) << "the list has the keyboard";
+    EXPECT_TRUE(barIsShown()) << "the list has the focus";
     tabTo("undoRemoval");
     press(Qt::Key_Escape);
     EXPECT_FALSE(barIsShown());
-    EXPECT_TRUE(listHasKeyboard());
+    EXPECT_TRUE(listHasFocus());
     EXPECT_TRUE(find("lensList")->property("ringed").toBool());
     EXPECT_TRUE(machine.trash.restored().empty());
 }
 
-TEST_F(LensUndo, barGivesUpTheKeyboardWhenASurveyHidesIt) {
+TEST_F(LensUndo, listTakesFocusWhenSurveyHidesBar) {
     open();
     remove();
     tabTo("undoRemoval");
     survey();
     settle();
     EXPECT_FALSE(barIsShown());
-    EXPECT_TRUE(listHasKeyboard());
+    EXPECT_TRUE(listHasFocus());
 }
 
 TEST_F(LensUndo, showsWhatWasNotRestoredAndWhy) {
@@ -161,7 +161,7 @@ TEST_F(LensUndo, barIsAnAlertNamedAfterTheRemovalAndItsUndo) {
     EXPECT_THAT(nameOf(alert()), AllOf(HasSubstr("1 item stays in the Trash."), HasSubstr("is taken")));
 }
 
-class ClutterUndo : public BarWindow<ViewFixture> {
+class ClutterUndo : public UndoBarWindow<ViewFixture> {
 protected:
     ~ClutterUndo() override { close(); }
 
@@ -174,7 +174,7 @@ protected:
     }
     std::string first() { return clutter.rows()->pathAt(0); }
     int rows() { return clutter.rows()->rowCount(); }
-    bool listHasKeyboard() { return find("clutterList")->hasActiveFocus(); }
+    bool listHasFocus() { return find("clutterList")->hasActiveFocus(); }
 
     ClutterScreenModel clutter{model()};
 };
@@ -186,7 +186,7 @@ TEST_F(ClutterUndo, keyboardUndoesTheRemoval) {
     press(Qt::Key_Delete);
     untilShown();
     EXPECT_NE(first(), path);
-    EXPECT_TRUE(listHasKeyboard());
+    EXPECT_TRUE(listHasFocus());
     tabTo("undoRemoval");
     press(Qt::Key_Return);
     untilRestored(1);
@@ -194,7 +194,7 @@ TEST_F(ClutterUndo, keyboardUndoesTheRemoval) {
     EXPECT_THAT(seenTexts(), Contains("1 item was restored."));
     press(Qt::Key_Escape);
     EXPECT_FALSE(barIsShown());
-    EXPECT_TRUE(listHasKeyboard());
+    EXPECT_TRUE(listHasFocus());
 }
 
 TEST_F(ClutterUndo, pointerUndoesTheRemoval) {
@@ -210,7 +210,7 @@ TEST_F(ClutterUndo, pointerUndoesTheRemoval) {
     EXPECT_EQ(first(), path);
     click("closeUndoBar");
     EXPECT_FALSE(barIsShown());
-    EXPECT_TRUE(listHasKeyboard());
+    EXPECT_TRUE(listHasFocus());
 }
 
 TEST_F(ClutterUndo, canUndoTheRemovalOfTheOnlyFile) {

@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-TEST(WelcomeModel, onTheFirstPageBackIsAbsent) {
+TEST(WelcomeModel, firstPageHasNoBack) {
     const WelcomeModel welcome;
     EXPECT_EQ(welcome.page(), 0);
     EXPECT_FALSE(welcome.backShown());
@@ -17,7 +17,7 @@ TEST(WelcomeModel, onTheFirstPageBackIsAbsent) {
     EXPECT_EQ(welcome.title().toStdString(), "Welcome to Zelk");
 }
 
-TEST(WelcomeModel, onThePagesBetweenBothAreThere) {
+TEST(WelcomeModel, middlePagesHaveBackAndSkip) {
     WelcomeModel welcome;
     for (int page = 1; page < 3; ++page) {
         welcome.pressPrimary();
@@ -28,7 +28,7 @@ TEST(WelcomeModel, onThePagesBetweenBothAreThere) {
     }
 }
 
-TEST(WelcomeModel, onTheLastPageSkipIsHiddenAndThePrimaryButtonGetsStarted) {
+TEST(WelcomeModel, lastPageHasGetStartedInsteadOfSkip) {
     WelcomeModel welcome;
     for (int press = 0; press < 3; ++press) welcome.pressPrimary();
     EXPECT_EQ(welcome.page(), 3);
@@ -39,7 +39,7 @@ TEST(WelcomeModel, onTheLastPageSkipIsHiddenAndThePrimaryButtonGetsStarted) {
     EXPECT_EQ(welcome.title().toStdString(), "Private by design");
 }
 
-TEST(WelcomeModel, goesOnePageBackAndStopsAtTheFirst) {
+TEST(WelcomeModel, backStopsAtFirstPage) {
     WelcomeModel welcome;
     welcome.next();
     welcome.next();
@@ -50,7 +50,7 @@ TEST(WelcomeModel, goesOnePageBackAndStopsAtTheFirst) {
     EXPECT_EQ(welcome.page(), 0);
 }
 
-TEST(WelcomeModel, turnsNoPageBehindTheLast) {
+TEST(WelcomeModel, nextStopsAtLastPage) {
     WelcomeModel welcome;
     QSignalSpy finished(&welcome, &WelcomeModel::finished);
     for (int turn = 0; turn < 5; ++turn) welcome.next();
@@ -58,7 +58,7 @@ TEST(WelcomeModel, turnsNoPageBehindTheLast) {
     EXPECT_EQ(finished.count(), 0) << "turning pages must not end it";
 }
 
-TEST(WelcomeModel, getStartedEndsIt) {
+TEST(WelcomeModel, getStartedFinishes) {
     WelcomeModel welcome;
     QSignalSpy finished(&welcome, &WelcomeModel::finished);
     for (int press = 0; press < 3; ++press) welcome.pressPrimary();
@@ -68,7 +68,7 @@ TEST(WelcomeModel, getStartedEndsIt) {
     EXPECT_EQ(welcome.page(), 3);
 }
 
-TEST(WelcomeModel, skipEndsItFromAnyPage) {
+TEST(WelcomeModel, skipFinishesFromAnyPage) {
     WelcomeModel welcome;
     QSignalSpy finished(&welcome, &WelcomeModel::finished);
     welcome.skip();
@@ -78,7 +78,7 @@ TEST(WelcomeModel, skipEndsItFromAnyPage) {
     EXPECT_EQ(finished.count(), 2);
 }
 
-TEST(WelcomeModel, turnsOnASpringThatRespondsInHalfASecondWithoutOvershoot) {
+TEST(WelcomeModel, turnEasingIsCriticallyDampedSpring) {
     const WelcomeModel welcome;
     const QEasingCurve course = welcome.turnEasing();
     // One turn of a critically damped spring: 1 - (1 + 2 pi t / 0.5) exp(-2 pi t / 0.5), t in seconds.

@@ -9,7 +9,7 @@ namespace zelk {
 
 namespace {
 
-/// red, green, blue 0 to 255 and the opacity in hundredths
+/// Red, green and blue from 0 to 255, and the opacity in percent.
 using Shade = std::array<int, 4>;
 
 Shade shade(const QColor& color) {
@@ -18,7 +18,7 @@ Shade shade(const QColor& color) {
 
 }  // namespace
 
-TEST(ZelkTheme, darkHasItsElevenValues) {
+TEST(ZelkTheme, darkHasElevenValues) {
     const ZelkTheme& theme = ZelkTheme::dark();
     EXPECT_TRUE(theme.isDark);
     EXPECT_EQ(shade(theme.ground), (Shade{12, 11, 18, 100}));
@@ -33,7 +33,7 @@ TEST(ZelkTheme, darkHasItsElevenValues) {
     EXPECT_EQ(shade(theme.alert), (Shade{255, 90, 77, 100}));
 }
 
-TEST(ZelkTheme, lightHasItsElevenValues) {
+TEST(ZelkTheme, lightHasElevenValues) {
     const ZelkTheme& theme = ZelkTheme::light();
     EXPECT_FALSE(theme.isDark);
     EXPECT_EQ(shade(theme.ground), (Shade{239, 237, 243, 100}));
@@ -48,12 +48,12 @@ TEST(ZelkTheme, lightHasItsElevenValues) {
     EXPECT_EQ(shade(theme.alert), (Shade{216, 64, 46, 100}));
 }
 
-TEST(ZelkTheme, theAccentGradientIsTheSameInBothThemes) {
+TEST(ZelkTheme, accentGradientHasTwoColours) {
     EXPECT_EQ(shade(AccentGradient::from()), (Shade{255, 194, 75, 100}));
     EXPECT_EQ(shade(AccentGradient::to()), (Shade{240, 133, 28, 100}));
 }
 
-TEST(Mix, goesFromBaseToOther) {
+TEST(Mix, interpolatesFromBaseToOther) {
     const QColor base(100, 0, 200);
     const QColor other(200, 50, 0);
     EXPECT_EQ(shade(mix(base, other, 0)), shade(base));
@@ -61,18 +61,18 @@ TEST(Mix, goesFromBaseToOther) {
     EXPECT_EQ(shade(mix(base, other, 0.25)), (Shade{125, 13, 150, 100}));
 }
 
-TEST(Mix, ofTwoEqualsTheOtherAndOfMinusOneTheBase) {
+TEST(Mix, clampsFraction) {
     const QColor base(100, 0, 200);
     const QColor other(200, 50, 0);
     EXPECT_EQ(shade(mix(base, other, 2)), shade(other));
     EXPECT_EQ(shade(mix(base, other, -1)), shade(base));
 }
 
-TEST(Mix, losesTheOpacityOfBoth) {
+TEST(Mix, resultIsOpaque) {
     EXPECT_EQ(shade(mix(QColor(100, 100, 100, 0), QColor(200, 200, 200, 20), 0.5)), (Shade{150, 150, 150, 100}));
 }
 
-TEST(Mix, countsAnInvalidColourAsClear) {
+TEST(Mix, treatsInvalidColourAsBlack) {
     EXPECT_EQ(shade(mix(QColor(), QColor(200, 100, 50), 0.5)), (Shade{100, 50, 25, 100}));
     EXPECT_EQ(shade(mix(QColor(200, 100, 50), QColor(), 1)), (Shade{0, 0, 0, 100}));
 }
