@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person whose drive is full of heavy files, in the real window: with the mouse, then with the keyboard alone, then
-// on a real disk.
+// Removes large files in Clutter: with the mouse, with the keyboard alone, and on a real disk.
 #include <gmock/gmock.h>
 
 #include <QTemporaryDir>
@@ -28,22 +27,22 @@ protected:
         for (const char* file : {"/projects/film.mov", "/projects/system.iso"}) machine.files.addFile(home + file);
     }
 
-    void waitForTheSurvey() {
+    void waitForSurvey() {
         runUntil([&] { return model().scanPhase() == Phase::finished; });
         runUntil([&] { return !model().trashLoading(); });
         window().grabWindow();
     }
-    void clickWord(const char* word) {
-        QQuickItem* item = showing(QString::fromLatin1(word));
-        ASSERT_NE(item, nullptr) << word;
+    void clickText(const char* text) {
+        QQuickItem* item = showing(QString::fromLatin1(text));
+        ASSERT_NE(item, nullptr) << text;
         tour::clickAt(window(), item->mapToScene(item->boundingRect().center()));
     }
-    bool listHasKeyboard() {
+    bool listHasFocus() {
         const QQuickItem* list = find("clutterList");
         return list != nullptr && list->hasActiveFocus();
     }
     std::vector<std::string> names() { return texts(window(), "clutterList", "name"); }
-    std::vector<std::string> typesOnTheOverview() {
+    std::vector<std::string> typeTotals() {
         std::vector<std::string> figures;
         for (const auto& [type, tally] : model().sortedTypeTotals())
             figures.push_back(std::string(rawValue(type)) + std::to_string(tally.bytes));
@@ -51,25 +50,25 @@ protected:
     }
 };
 
-/// What the entry of a file's menu is called that shows the file in its folder.
+/// The text of the menu entry that reveals a file in the file manager.
 const char* reveal() {
     return SystemTexts::wording(SystemTexts::RevealFile, SystemTexts::shown());
 }
 
 }  // namespace
 
-TEST_F(ClutterJourney, withTheMouse) {
+TEST_F(ClutterJourney, removesFileWithMouse) {
     shell();
     click("sidebarClutter");
     EXPECT_TRUE(shows(
         QStringLiteral("Find your largest and oldest files — videos, downloads, disk images, forgotten archives.")));
     click("moduleScanButton");
-    waitForTheSurvey();
+    waitForSurvey();
     ASSERT_TRUE(shows(QStringLiteral("concert.mov")));
-    const auto types = typesOnTheOverview();
+    const auto types = typeTotals();
 
     // The oldest video.
-    clickWord("Oldest");
+    clickText("Oldest");
     click("typePill1");
     EXPECT_FALSE(shows(QStringLiteral("backup.zip")));
     click("fileMenu0");
@@ -80,31 +79,31 @@ TEST_F(ClutterJourney, withTheMouse) {
     runUntil([&] { return machine.trash.trashed().size() == 1; });
     runWhatIsThere();
     EXPECT_EQ(machine.trash.trashed().front(), machine.workspace.revealed.front().front());
-    EXPECT_EQ(typesOnTheOverview(), types);
+    EXPECT_EQ(typeTotals(), types);
 
     // Everything else is still there.
     click("typePill0");
-    clickWord("Largest");
+    clickText("Largest");
     EXPECT_TRUE(shows(QStringLiteral("backup.zip")));
     const std::string gone = machine.trash.trashed().front();
     EXPECT_FALSE(shows(QString::fromStdString(gone.substr(gone.rfind('/') + 1))));
 }
 
-TEST_F(ClutterJourney, withTheKeyboardAlone) {
+TEST_F(ClutterJourney, removesFilesWithKeyboardAlone) {
     shell();
     press(Qt::Key_6, Qt::ControlModifier);
     ASSERT_EQ(model().selection(), Screen::clutter);
     runWhatIsThere();
     window().grabWindow();
-    // To the one button of the screen, wherever the keyboard was before.
+    // The screen's only button, wherever the focus was before.
     for (int stop = 0; stop < 40 && focusName() != QStringLiteral("moduleScanButton"); ++stop) press(Qt::Key_Tab);
     ASSERT_EQ(focusName(), QStringLiteral("moduleScanButton"));
     press(Qt::Key_Return);
-    waitForTheSurvey();
-    for (int stop = 0; stop < 40 && !listHasKeyboard(); ++stop) press(Qt::Key_Tab);
-    ASSERT_TRUE(listHasKeyboard());
+    waitForSurvey();
+    for (int stop = 0; stop < 40 && !listHasFocus(); ++stop) press(Qt::Key_Tab);
+    ASSERT_TRUE(listHasFocus());
 
-    // The second row's menu, and what it does.
+    // The menu of the second row.
     const std::vector<LargeFile> files = model().insights().topFiles;
     press(Qt::Key_Home);
     press(Qt::Key_Down);
@@ -113,26 +112,26 @@ TEST_F(ClutterJourney, withTheKeyboardAlone) {
     press(Qt::Key_Return);
     EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{files[1].path}));
     runWhatIsThere();
-    ASSERT_TRUE(listHasKeyboard());
+    ASSERT_TRUE(listHasFocus());
     press(Qt::Key_Return);
     window().grabWindow();
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     runUntil([&] { return machine.trash.trashed().size() == 1; });
     runWhatIsThere();
-    ASSERT_TRUE(listHasKeyboard());
+    ASSERT_TRUE(listHasFocus());
     press(Qt::Key_Delete);
     runUntil([&] { return machine.trash.trashed().size() == 2; });
     runWhatIsThere();
     EXPECT_EQ(machine.trash.trashed(), (Strings{files[1].path, files[2].path}));
 }
 
-TEST_F(ClutterJourney, theOrderAndTheTypesWithTheKeyboardAlone) {
+TEST_F(ClutterJourney, sortsAndFiltersWithKeyboardAlone) {
     shell();
     press(Qt::Key_6, Qt::ControlModifier);
     tabTo(window(), "moduleScanButton");
     press(Qt::Key_Return);
-    waitForTheSurvey();
+    waitForSurvey();
     ASSERT_EQ(names().front(), "concert.mov");
 
     tabTo(window(), "orderPicker");
@@ -160,11 +159,11 @@ TEST_F(ClutterJourney, theOrderAndTheTypesWithTheKeyboardAlone) {
     EXPECT_THAT(names(), ElementsAre("film.mov", "old.mp4"));
 }
 
-TEST_F(ClutterJourney, theRightButtonOpensTheMenuWhereItIsPressed) {
+TEST_F(ClutterJourney, rightClickOpensMenuAtPointer) {
     shell();
     click("sidebarClutter");
     click("moduleScanButton");
-    waitForTheSurvey();
+    waitForSurvey();
     const auto openAt = [&](const char* name) {
         const QQuickItem* words = showing(QString::fromLatin1(name));
         const QPointF pressed = words->mapToScene(words->boundingRect().center());
@@ -191,7 +190,7 @@ TEST_F(ClutterJourney, theRightButtonOpensTheMenuWhereItIsPressed) {
 }
 
 #ifndef Q_OS_MACOS
-/// A home on a real disk, and a place outside of it.
+/// A home folder on a real disk, and another folder outside it.
 class RealClutterJourney : public testing::Test {
 protected:
     void put(const std::string& path, std::size_t bytes) const {
@@ -210,8 +209,8 @@ protected:
     const std::string trash = home + "/.local/share/Trash";
 };
 
-/// Between the survey and the key a folder on the way has become a link to a place outside.
-TEST_F(RealClutterJourney, movesAFileAndNothingBehindALinkOnTheWayToIt) {
+/// After the survey, a parent folder of the file is replaced by a link that leads outside.
+TEST_F(RealClutterJourney, doesNotFollowLinkInPathOfFile) {
     const std::string swapped = home + "/films/old/first.mov";
     const std::string plain = home + "/kept/second.mov";
     put(swapped, 90'000);
@@ -252,8 +251,8 @@ TEST_F(RealClutterJourney, movesAFileAndNothingBehindALinkOnTheWayToIt) {
     EXPECT_TRUE(std::filesystem::exists(home + "/aside/old/first.mov"));
 }
 
-/// Links are followed up to the root that the walk began in, also where that lies below another one.
-TEST_F(RealClutterJourney, movesAFileBelowAScanRootThatIsALinkItself) {
+/// Links in the path of a scan root are followed, even if the root lies below another one.
+TEST_F(RealClutterJourney, removesFileBelowLinkedScanRoot) {
     put(other + "/film.mov", 90'000);
     put(home + "/second.mov", 60'000);
     const std::string linked = home + "/linked";

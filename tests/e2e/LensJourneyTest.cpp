@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person takes space back in the Lens: first with the mouse, then with the keyboard alone, then on a real disk.
+// Removes folders in the Lens: with the mouse, with the keyboard alone, and on a real disk.
 #include <QTemporaryDir>
 #include <filesystem>
 
@@ -31,7 +31,7 @@ protected:
         runWhatIsThere();
         window().grabWindow();
     }
-    /// The row of the list with this name; nullptr if it is not in sight.
+    /// The visible row of this name, or nullptr.
     QQuickItem* row(const QString& name) {
         window().grabWindow();
         for (QQuickItem* item : find("lensList")->property("contentItem").value<QQuickItem*>()->childItems())
@@ -52,8 +52,8 @@ protected:
         return item == nullptr ? QString() : item->property("text").toString();
     }
     QString focusedRow() { return window().activeFocusItem()->property("name").toString(); }
-    /// A folder of so many that the map shows two of them as one: "0" of 18 MB to "17" of 1 MB.
-    void addMany() {
+    /// Adds a folder with so many subfolders that the map merges the last two: "0" of 18 MB to "17" of 1 MB.
+    void addManyFolders() {
         for (int at = 0; at < 18; ++at) {
             const std::string file = home + "/many/" + std::to_string(at) + "/file";
             machine.directories.file(file, static_cast<std::uint64_t>(18 - at) * 1'000'000, 1'000);
@@ -81,7 +81,7 @@ protected:
 
 }  // namespace
 
-TEST_F(LensJourney, withTheMouse) {
+TEST_F(LensJourney, removesFoldersWithMouse) {
     click("sidebarLens");
     EXPECT_TRUE(shows("Explore where your space went — a list and a live bubble map, side by side."));
     surveyWith([&] { click("moduleScanButton"); });
@@ -108,20 +108,20 @@ TEST_F(LensJourney, withTheMouse) {
     EXPECT_EQ(text("lensPlaceLine"), "3.09 GB · 3 folders");
     EXPECT_EQ(text("lensCaption"), "No items selected");
 
-    // The Overview tells the same.
+    // The Overview agrees.
     click("sidebarOverview");
     EXPECT_EQ(model().root()->size, 3'087'000'000);
     EXPECT_EQ(model().reclaimableBytes(), 0);
     runUntil([&] { return main().survey().recoverable() == byteFigure(0); });
 }
 
-TEST_F(LensJourney, withTheKeyboardAlone) {
+TEST_F(LensJourney, removesFoldersWithKeyboardAlone) {
     press(Qt::Key_8, Qt::ControlModifier);
     ASSERT_EQ(model().selection(), Screen::lens);
     window().grabWindow();
     surveyWith([&] { press(Qt::Key_Return); });
 
-    // The keyboard is where the button was: in the list.
+    // The focus has moved from the button to the list.
     EXPECT_EQ(focusedRow(), "projects");
     press(Qt::Key_Right);
     EXPECT_EQ(text("lensPlace"), "projects");
@@ -146,14 +146,14 @@ TEST_F(LensJourney, withTheKeyboardAlone) {
     EXPECT_TRUE(find("lensList")->hasActiveFocus());
 }
 
-TEST_F(LensJourney, throughTheMapWithTheKeyboard) {
+TEST_F(LensJourney, opensAndSelectsBubblesWithKeyboard) {
     press(Qt::Key_8, Qt::ControlModifier);
     window().grabWindow();
     surveyWith([&] { press(Qt::Key_Return); });
     press(Qt::Key_Tab);
     press(Qt::Key_Tab);
     press(Qt::Key_Return);
-    EXPECT_EQ(text("lensPlace"), "projects") << "the largest bubble is the first";
+    EXPECT_EQ(text("lensPlace"), "projects") << "the largest bubble comes first";
     press(Qt::Key_Space);
     EXPECT_EQ(text("lensCaption"), "1 selected · 10 MB");
     press(Qt::Key_Backspace);
@@ -162,7 +162,7 @@ TEST_F(LensJourney, throughTheMapWithTheKeyboard) {
     EXPECT_EQ(text("lensCaption"), "2 selected · 3.08 GB");
 }
 
-TEST_F(LensJourney, throughTheMapWithTheArrowKeys) {
+TEST_F(LensJourney, reachesBubblesWithArrowKeys) {
     press(Qt::Key_8, Qt::ControlModifier);
     window().grabWindow();
     surveyWith([&] { press(Qt::Key_Return); });
@@ -177,14 +177,14 @@ TEST_F(LensJourney, throughTheMapWithTheArrowKeys) {
     EXPECT_EQ(text("lensPlace"), "projects");
 }
 
-TEST_F(LensJourney, throughTheMapWithTheMouse) {
-    addMany();
+TEST_F(LensJourney, opensAndSelectsBubblesWithMouse) {
+    addManyFolders();
     click("sidebarLens");
     surveyWith([&] { click("moduleScanButton"); });
     clickBubble(window(), "lensMap", home + "/many");
     EXPECT_EQ(text("lensPlace"), "many");
     clickBubble(window(), "lensMap", home + "/many/0");
-    EXPECT_EQ(text("lensPlace"), "many") << "there is nothing to go into";
+    EXPECT_EQ(text("lensPlace"), "many") << "it has no subfolders";
     EXPECT_EQ(text("lensCaption"), "1 selected · 18 MB");
     EXPECT_TRUE(row("0")->property("ticked").toBool());
 
@@ -205,7 +205,7 @@ TEST_F(LensJourney, throughTheMapWithTheMouse) {
     EXPECT_EQ(text("lensPlace"), "me");
 }
 
-TEST_F(LensJourney, theMenuAndStartOverWithTheMouse) {
+TEST_F(LensJourney, selectsByMenuAndStartsOverWithMouse) {
     click("sidebarLens");
     surveyWith([&] { click("moduleScanButton"); });
     EXPECT_EQ(text("lensSelect"), "None");
@@ -219,7 +219,7 @@ TEST_F(LensJourney, theMenuAndStartOverWithTheMouse) {
     EXPECT_EQ(text("lensCaption"), "No items selected");
     EXPECT_FALSE(row("projects")->property("ticked").toBool());
 
-    // What is ticked elsewhere stays, until all begins anew.
+    // Folders selected elsewhere stay selected until Start Over.
     clickPart("Library", "lensTick");
     clickRow("projects");
     chooseInMenu("All");
@@ -232,7 +232,7 @@ TEST_F(LensJourney, theMenuAndStartOverWithTheMouse) {
     EXPECT_EQ(machine.trash.trashed(), Strings{});
 }
 
-TEST_F(LensJourney, theMenuAndStartOverWithTheKeyboardAlone) {
+TEST_F(LensJourney, selectsByMenuAndStartsOverWithKeyboardAlone) {
     press(Qt::Key_8, Qt::ControlModifier);
     window().grabWindow();
     surveyWith([&] { press(Qt::Key_Return); });
@@ -261,11 +261,11 @@ TEST_F(LensJourney, theMenuAndStartOverWithTheKeyboardAlone) {
     press(Qt::Key_Return);
     EXPECT_EQ(text("lensPlace"), "me");
     EXPECT_EQ(text("lensCaption"), "No items selected");
-    EXPECT_EQ(focusName(), "lensStartOver") << "which is still there";
+    EXPECT_EQ(focusName(), "lensStartOver") << "it keeps the focus";
     EXPECT_EQ(machine.trash.trashed(), Strings{});
 }
 
-TEST_F(LensJourney, anOpenMenuGoesWithTheScreen) {
+TEST_F(LensJourney, leavingTheScreenClosesItsMenu) {
     click("sidebarLens");
     surveyWith([&] { click("moduleScanButton"); });
     click("lensSelect");
@@ -279,7 +279,7 @@ TEST_F(LensJourney, anOpenMenuGoesWithTheScreen) {
     EXPECT_EQ(find("lensSelectAll"), nullptr);
 }
 
-TEST_F(LensJourney, whatDoesNotGoStaysUnticked) {
+TEST_F(LensJourney, failedRemovalLeavesRowUnselected) {
     machine.files.failing = [](const auto& call) { return call.operation == "trash"; };
     click("sidebarLens");
     surveyWith([&] { click("moduleScanButton"); });
@@ -296,7 +296,7 @@ TEST_F(LensJourney, whatDoesNotGoStaysUnticked) {
 #ifndef Q_OS_MACOS
 namespace {
 
-/// Every entry below a folder, by its path and what it is, without what the application keeps there itself.
+/// The relative path and kind of every entry below a folder, except for the application's own data.
 std::set<std::string> treeOf(const std::string& folder) {
     std::set<std::string> entries;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
@@ -309,9 +309,9 @@ std::set<std::string> treeOf(const std::string& folder) {
 
 }  // namespace
 
-/// Between the survey and the button the world has changed: one folder is gone, one is a link to a place outside, one
-/// is a file, and what holds another is called otherwise.
-TEST(RealLensJourney, takesWhatIsTickedFromTheDiskAndNothingElse) {
+/// The disk changes between the survey and the removal: one folder is gone, one is now a link that leads outside, one
+/// is a file, and the parent of another was renamed.
+TEST(RealLensJourney, removesOnlySelectedItems) {
     const QTemporaryDir folder;
     const QTemporaryDir outside;
     const std::string home = folder.path().toStdString();
@@ -335,7 +335,7 @@ TEST(RealLensJourney, takesWhatIsTickedFromTheDiskAndNothingElse) {
         runUntil([&] { return model.scanPhase() == AppModel::ScanPhase::finished; });
         main.window().grabWindow();
 
-        // All rows but "keep", the one inside a folder that is ticked as well, and one inside a folder that is not.
+        // Selects all rows but "keep" and "before", and also one folder inside "ticked" and one inside "before".
         QQuickItem* list = tour::findControl(main.window(), QStringLiteral("lensList"));
         ASSERT_NE(list, nullptr);
         const auto name = [&] { return main.window().activeFocusItem()->property("name").toString(); };
@@ -384,7 +384,7 @@ TEST(RealLensJourney, takesWhatIsTickedFromTheDiskAndNothingElse) {
         EXPECT_FALSE(folderAt(model.root(), home + "/filed"));
         EXPECT_TRUE(std::filesystem::exists(home + "/after/in/file"));
         for (const char* kept : {"/gone", "/before/in"})
-            EXPECT_TRUE(folderAt(model.root(), home + kept)) << "what was not there to take is still listed";
+            EXPECT_TRUE(folderAt(model.root(), home + kept)) << "folders that were not found stay listed";
     }
     EXPECT_TRUE(native.drain(60));
 }

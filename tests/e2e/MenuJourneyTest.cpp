@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person at the menus, with the mouse, with the keyboard and by their keys.
+// The menu bar, used with the mouse, with the keyboard and by shortcuts.
 #include "ShellFixture.h"
 
 namespace zelk {
@@ -13,21 +13,21 @@ protected:
 
 }  // namespace
 
-TEST_F(Menus, controlAndADigitGoToTheFirstNineScreens) {
+TEST_F(Menus, controlDigitSelectsScreen) {
     for (int place = 8; place >= 0; --place) {
         press(static_cast<Qt::Key>(Qt::Key_1 + place), Qt::ControlModifier);
         EXPECT_EQ(model().selection(), allScreens[static_cast<std::size_t>(place)]);
     }
 }
 
-TEST_F(Menus, controlRSurveysWhereverTheKeyboardIs) {
+TEST_F(Menus, controlRStartsSurveyFromAnyScreen) {
     click("sidebarTools");
     press(Qt::Key_R, Qt::ControlModifier);
     runUntil([&] { return model().scanPhase() == Phase::finished; });
     EXPECT_EQ(model().history().size(), 1U);
 }
 
-TEST_F(Menus, controlRDuringASurveyDoesNothing) {
+TEST_F(Menus, controlRIsIgnoredDuringSurvey) {
     machine.directories.hold(home + "/wide/inner");
     press(Qt::Key_R, Qt::ControlModifier);
     runUntil([&] { return model().itemsScanned() > 0; });
@@ -37,12 +37,12 @@ TEST_F(Menus, controlRDuringASurveyDoesNothing) {
     EXPECT_EQ(model().itemsScanned(), items);
 }
 
-TEST_F(Menus, controlAndAQuestionMarkOpensTheHelp) {
+TEST_F(Menus, controlQuestionMarkOpensHelp) {
     press(Qt::Key_Question, Qt::ControlModifier);
     EXPECT_NE(main().secondary().find(WindowId::help), nullptr);
 }
 
-TEST_F(Menus, controlAndACommaOpensTheSettings) {
+TEST_F(Menus, controlCommaOpensSettings) {
     press(Qt::Key_Comma, Qt::ControlModifier);
     EXPECT_NE(main().secondary().find(WindowId::settings), nullptr);
 }
@@ -52,14 +52,14 @@ TEST_F(Menus, controlQQuits) {
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(Menus, theKeysHoldInTheOtherWindowsToo) {
+TEST_F(Menus, shortcutsWorkInOtherWindows) {
     QQuickWindow& about = main().openWindow(WindowId::about);
     runUntil([&] { return about.isActive(); });
     press(about, Qt::Key_4, Qt::ControlModifier);
     EXPECT_EQ(model().selection(), Screen::tune);
 }
 
-TEST_F(Menus, theMouseOpensAMenuAndChoosesAnEntry) {
+TEST_F(Menus, mouseChoosesEntry) {
     click("menuTitleGo");
     runUntil([&] { return find("menuSystem") != nullptr; });
     click("menuSystem");
@@ -67,7 +67,7 @@ TEST_F(Menus, theMouseOpensAMenuAndChoosesAnEntry) {
     runUntil([&] { return find("menuSystem") == nullptr; });
 }
 
-TEST_F(Menus, theKeyboardAloneOpensAMenuAndChoosesAnEntry) {
+TEST_F(Menus, keyboardChoosesEntry) {
     press(Qt::Key_F10);
     runUntil([&] { return find("menuAbout Zelk") != nullptr; });
     press(Qt::Key_Right);
@@ -79,12 +79,12 @@ TEST_F(Menus, theKeyboardAloneOpensAMenuAndChoosesAnEntry) {
     EXPECT_EQ(model().selection(), Screen::reclaim);
 }
 
-TEST_F(Menus, altAndALetterOpensItsMenu) {
+TEST_F(Menus, altLetterOpensMenu) {
     press(Qt::Key_H, Qt::AltModifier);
     runUntil([&] { return find("menuZelk Help") != nullptr; });
 }
 
-TEST_F(Menus, escapeClosesAMenuAndGivesTheKeyboardBack) {
+TEST_F(Menus, escapeClosesMenuAndRestoresFocus) {
     QQuickItem* before = window().activeFocusItem();
     click("menuTitleGo");
     runUntil([&] { return find("menuSystem") != nullptr; });

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person at the sidebar.
+// Navigates between the screens with the sidebar.
 #include <gmock/gmock.h>
 
 #include <QAccessible>
@@ -21,7 +21,7 @@ protected:
 
 }  // namespace
 
-TEST_F(Navigation, aPressOnARowGoesToItsModule) {
+TEST_F(Navigation, clickSelectsScreen) {
     for (const Screen screen : allScreens) {
         click(rowOf(screen).c_str());
         EXPECT_EQ(model().selection(), screen);
@@ -30,7 +30,7 @@ TEST_F(Navigation, aPressOnARowGoesToItsModule) {
     }
 }
 
-TEST_F(Navigation, everyRowHasANameARoleAndAPlaceForTheKeyboard) {
+TEST_F(Navigation, rowsAreAccessible) {
     for (const Screen screen : allScreens) {
         QAccessibleInterface* row = QAccessible::queryAccessibleInterface(find(rowOf(screen).c_str()));
         ASSERT_NE(row, nullptr);
@@ -42,7 +42,7 @@ TEST_F(Navigation, everyRowHasANameARoleAndAPlaceForTheKeyboard) {
     }
 }
 
-TEST_F(Navigation, theArrowsGoThroughAllRowsAndStopAtTheEnds) {
+TEST_F(Navigation, arrowKeysMoveFocusAndStopAtTheEnds) {
     click("sidebarOverview");
     press(Qt::Key_Up);
     EXPECT_EQ(focusName(), QStringLiteral("sidebarOverview"));
@@ -55,10 +55,10 @@ TEST_F(Navigation, theArrowsGoThroughAllRowsAndStopAtTheEnds) {
     press(Qt::Key_Up);
     press(Qt::Key_Up);
     EXPECT_EQ(focusName(), QStringLiteral("sidebarSystem"));
-    EXPECT_EQ(model().selection(), Screen::survey) << "moving is not choosing";
+    EXPECT_EQ(model().selection(), Screen::survey) << "moving the focus does not select";
 }
 
-TEST_F(Navigation, returnAndSpaceChoose) {
+TEST_F(Navigation, returnAndSpaceSelectScreen) {
     click("sidebarOverview");
     press(Qt::Key_Down);
     press(Qt::Key_Return);
@@ -66,10 +66,10 @@ TEST_F(Navigation, returnAndSpaceChoose) {
     press(Qt::Key_Down);
     press(Qt::Key_Space);
     EXPECT_EQ(model().selection(), Screen::privacy);
-    EXPECT_EQ(focusName(), QStringLiteral("sidebarPrivacy")) << "the keyboard stays in the sidebar";
+    EXPECT_EQ(focusName(), QStringLiteral("sidebarPrivacy")) << "the focus stays in the sidebar";
 }
 
-TEST_F(Navigation, tabComesToEveryRow) {
+TEST_F(Navigation, tabVisitsEveryRow) {
     std::vector<std::string> wanted;
     for (const Screen screen : allScreens) wanted.push_back(rowOf(screen));
     std::vector<std::string> seen;
@@ -82,7 +82,7 @@ TEST_F(Navigation, tabComesToEveryRow) {
     EXPECT_EQ(seen, wanted);
 }
 
-TEST_F(Navigation, aCollapsedSidebarKeepsAllRowsWithTheirSymbolsAndNoGroupTitles) {
+TEST_F(Navigation, collapsedSidebarKeepsRowsAndHidesGroupTitles) {
     EXPECT_EQ(sidebarWidth(), 234);
     EXPECT_TRUE(shows(QStringLiteral("Explore")));
     click("collapseButton");
@@ -101,29 +101,30 @@ TEST_F(Navigation, aCollapsedSidebarKeepsAllRowsWithTheirSymbolsAndNoGroupTitles
     EXPECT_TRUE(shows(QStringLiteral("Explore")));
 }
 
-TEST_F(Navigation, theCollapseAnimatesWhereMotionIsWanted) {
+TEST_F(Navigation, collapseIsAnimatedUnlessMotionIsReduced) {
     main().motion().setReduced(false);
     click("collapseButton");
     EXPECT_GT(sidebarWidth(), 60);
     runUntil([&] { return sidebarWidth() == 60; });
 }
 
-TEST_F(Navigation, theSwitchTurnsTheDeveloperViewOnAndOff) {
+TEST_F(Navigation, switchTogglesDeveloperView) {
     click("developerSwitch");
     EXPECT_EQ(model().audience(), AppModel::Audience::developer);
     press(Qt::Key_Space);
     EXPECT_EQ(model().audience(), AppModel::Audience::normal);
 }
 
-TEST_F(Navigation, theSwitchFollowsTheModel) {
+TEST_F(Navigation, switchFollowsModel) {
     model().setAudience(AppModel::Audience::developer);
     EXPECT_TRUE(find("developerSwitch")->property("checked").toBool());
     click("developerSwitch");
     model().setAudience(AppModel::Audience::developer);
-    EXPECT_TRUE(find("developerSwitch")->property("checked").toBool()) << "a press must not cut it off from the model";
+    EXPECT_TRUE(find("developerSwitch")->property("checked").toBool())
+        << "a click must not break the binding to the model";
 }
 
-TEST_F(Navigation, aScreenIsBuiltWhenItIsGoneToAndKept) {
+TEST_F(Navigation, createsScreenOnFirstVisitAndKeepsIt) {
     EXPECT_EQ(find("moduleScanButton"), nullptr);
     click("sidebarLens");
     QQuickItem* button = find("moduleScanButton");
@@ -134,7 +135,7 @@ TEST_F(Navigation, aScreenIsBuiltWhenItIsGoneToAndKept) {
     EXPECT_EQ(find("moduleScanButton"), button);
 }
 
-TEST_F(Navigation, theSelectionOutlivesTheWindow) {
+TEST_F(Navigation, newWindowShowsSelectedScreen) {
     click("sidebarLens");
     MainWindow another(model());
     another.show();
@@ -142,7 +143,7 @@ TEST_F(Navigation, theSelectionOutlivesTheWindow) {
     EXPECT_NE(tour::findControl(another.window(), QStringLiteral("moduleScanButton")), nullptr);
 }
 
-TEST_F(Navigation, aModuleSurveysFromItsButtonAndShowsTheProgress) {
+TEST_F(Navigation, moduleStartsSurveyAndShowsProgress) {
     click("sidebarLens");
     machine.directories.hold(home + "/wide/inner");
     click("moduleScanButton");
@@ -155,10 +156,10 @@ TEST_F(Navigation, aModuleSurveysFromItsButtonAndShowsTheProgress) {
     EXPECT_NE(find("moduleScanButton"), nullptr);
 }
 
-TEST_F(Navigation, escapeCallsASurveyOffWhereItIsSeenAndNowhereElse) {
+TEST_F(Navigation, escapeCancelsSurveyOnlyWhereItIsShown) {
     machine.directories.hold(home + "/wide/inner");
     for (const char* seen : {"sidebarOverview", "sidebarReclaim", "sidebarClutter", "sidebarLens"}) {
-        // Built before, so that each has its key.
+        // Creates the screen first, with its shortcut.
         click(seen);
         for (const char* elsewhere : {"sidebarTools", "sidebarSettings", "sidebarApps"}) {
             click(elsewhere);
@@ -172,14 +173,14 @@ TEST_F(Navigation, escapeCallsASurveyOffWhereItIsSeenAndNowhereElse) {
     }
 }
 
-TEST_F(Navigation, theProgressOfAModuleIsAsLargeAsOthersOfItsSizeAndRuns) {
+TEST_F(Navigation, moduleProgressIsScaledAndAnimatedLikeOtherFigures) {
     main().textScale().setFactor(1.5);
     click("sidebarLens");
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
     runUntil([&] { return find("moduleScanDetail") != nullptr; });
     QQuickItem* detail = find("moduleScanDetail");
-    EXPECT_EQ(detail->property("pixelSize").toInt(), 12) << "it is the figure that knows how large the person reads";
+    EXPECT_EQ(detail->property("pixelSize").toInt(), 12) << "the item applies the text scale itself";
     main().motion().setReduced(false);
     EXPECT_EQ(detail->property("duration").toInt(), main().motion().count());
     main().motion().setReduced(true);
@@ -187,7 +188,7 @@ TEST_F(Navigation, theProgressOfAModuleIsAsLargeAsOthersOfItsSizeAndRuns) {
     EXPECT_LE(detail->width(), detail->parentItem()->width());
 }
 
-TEST_F(Navigation, aModuleWithoutADetailStillShowsTheOrbAndTheBar) {
+TEST_F(Navigation, moduleWithoutDetailShowsOrbAndBar) {
     click("sidebarLens");
     machine.directories.hold(home);
     model().startScan();
@@ -195,14 +196,14 @@ TEST_F(Navigation, aModuleWithoutADetailStillShowsTheOrbAndTheBar) {
     EXPECT_NE(find("orbRing"), nullptr);
 }
 
-TEST_F(Navigation, afterASurveyAModuleShowsItsHeaderAndItsResults) {
+TEST_F(Navigation, moduleShowsHeaderAndResultsAfterSurvey) {
     click("sidebarLens");
     survey();
     EXPECT_TRUE(shows(QStringLiteral("Explore where your space went — a list and a live bubble map, side by side.")));
     EXPECT_NE(find("lensList"), nullptr);
 }
 
-TEST_F(Navigation, theOrbPulsesOnlyWhereMotionIsWantedAndOnlyInSight) {
+TEST_F(Navigation, orbPulsesOnlyWhileVisibleAndMotionIsNotReduced) {
     click("sidebarLens");
     machine.directories.hold(home);
     model().startScan();

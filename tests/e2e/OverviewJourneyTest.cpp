@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person with a drive that changes: what the home screen tells of it, and what can be done from there.
+// What the Overview shows after surveys of a changing drive, and the actions that it offers.
 #include <gmock/gmock.h>
 
 #include "ShellFixture.h"
@@ -15,13 +15,13 @@ protected:
         services.pickFolder = [this] { return picked; };
     }
 
-    void surveyFromTheButton() {
+    void surveyByButton() {
         click("scanButton");
         runUntil([&] { return model().scanPhase() == Phase::finished; });
         runUntil([&] { return !model().trashLoading(); });
     }
 
-    /// A control below the fold is pressed where it stands once it has been scrolled to.
+    /// Scrolls until the control is visible, then clicks it.
     void scrollToAndClick(const char* name) {
         window().grabWindow();
         QQuickItem* item = find(name);
@@ -37,21 +37,21 @@ protected:
 
 }  // namespace
 
-TEST_F(Overview, tellsWhatASurveyFoundAndGoesToReclaim) {
+TEST_F(Overview, showsResultsAndOpensReclaim) {
     shell();
-    surveyFromTheButton();
+    surveyByButton();
     EXPECT_TRUE(shows(QStringLiteral("You can reclaim")));
     EXPECT_TRUE(shows(QStringLiteral("film.mov")));
     scrollToAndClick("reviewButton");
     EXPECT_EQ(model().selection(), Screen::reclaim);
 }
 
-TEST_F(Overview, aSecondSurveyShowsTheTrendAndTheChanges) {
+TEST_F(Overview, secondSurveyShowsTrendsAndChanges) {
     shell();
-    surveyFromTheButton();
+    surveyByButton();
     EXPECT_EQ(find("changesButton"), nullptr);
     machine.directories.file(home + "/projects/another film.mov", 2'000'000'000, 3'000);
-    surveyFromTheButton();
+    surveyByButton();
     scrollToAndClick("changesButton");
     window().grabWindow();
     EXPECT_NE(find("changesDone"), nullptr);
@@ -59,19 +59,19 @@ TEST_F(Overview, aSecondSurveyShowsTheTrendAndTheChanges) {
     press(Qt::Key_Escape);
     runUntil([&] { return find("changesDone") == nullptr; });
     EXPECT_EQ(focusName(), QStringLiteral("changesButton"));
-    // And with Enter, which presses the primary button.
+    // Return presses the primary button.
     scrollToAndClick("changesButton");
     window().grabWindow();
     press(Qt::Key_Return);
     runUntil([&] { return find("changesDone") == nullptr; });
 }
 
-TEST_F(Overview, theTabKeyReadsTheFindingsInTheirOrder) {
+TEST_F(Overview, tabVisitsFindingsInOrder) {
     machine.trash.put("old.zip", 7'000'000);
     shell();
-    surveyFromTheButton();
+    surveyByButton();
     machine.directories.file(home + "/projects/another film.mov", 2'000'000'000, 3'000);
-    surveyFromTheButton();
+    surveyByButton();
     find("scanButton")->forceActiveFocus(Qt::TabFocusReason);
     std::vector<std::string> order{"scanButton"};
     double above = 0;
@@ -80,44 +80,44 @@ TEST_F(Overview, theTabKeyReadsTheFindingsInTheirOrder) {
         window().grabWindow();
         const QQuickItem* item = window().activeFocusItem();
         order.push_back(focusName().toStdString());
-        ASSERT_TRUE(find("findings")->isAncestorOf(item)) << order.back() << ": the findings are left too early";
+        ASSERT_TRUE(find("findings")->isAncestorOf(item)) << order.back() << ": the focus left the findings too early";
         const QQuickItem* scroll = find("surveyScroll");
         EXPECT_TRUE(scroll->boundingRect().contains(item->mapRectToItem(scroll, item->boundingRect())))
             << order.back() << " is not scrolled to";
         const double bottom = item->mapToItem(find("findings"), QPointF(0, item->height())).y();
-        EXPECT_GE(bottom, above) << order.back() << " stands above what comes before it";
+        EXPECT_GE(bottom, above) << order.back() << " is above its predecessor";
         above = bottom;
     }
     EXPECT_THAT(order, testing::ElementsAre("scanButton", "reviewButton", "trashButton", "findingCard0", "findingCard1",
                                             "findingCard2", "findingCard3", "seeAllButton", "changesButton"));
 }
 
-TEST_F(Overview, foldersThatCouldNotBeReadAreToldBelowTheHeadline) {
+TEST_F(Overview, countsUnreadableFoldersBelowHeadline) {
     shell();
-    surveyFromTheButton();
+    surveyByButton();
     EXPECT_EQ(find("unreadLine"), nullptr);
     machine.directories.unreadable(home + "/projects");
-    surveyFromTheButton();
+    surveyByButton();
     window().grabWindow();
     ASSERT_NE(find("unreadLine"), nullptr);
     EXPECT_EQ(find("unreadLine")->property("text").toString(), QStringLiteral("1 folder could not be read."));
     EXPECT_GT(find("unreadLine")->height(), 0);
 }
 
-TEST_F(Overview, theTrashIsEmptiedFromItsBanner) {
+TEST_F(Overview, bannerEmptiesTrash) {
     machine.trash.put("old.zip", 7'000'000);
     shell();
-    surveyFromTheButton();
+    surveyByButton();
     ASSERT_GT(model().trashBytes(), 0);
     scrollToAndClick("trashButton");
     runUntil([&] { return !model().emptyingTrash() && model().trashBytes() == 0; });
     EXPECT_THAT(machine.trash.list(), testing::Optional(testing::IsEmpty()));
 }
 
-TEST_F(Overview, aSurveyThatBeginsTakesTheKeyboardOffTheFindingsThatGo) {
+TEST_F(Overview, startingSurveyMovesFocusOffTheFindings) {
     machine.trash.put("old.zip", 7'000'000);
     shell();
-    surveyFromTheButton();
+    surveyByButton();
     QQuickItem* empty = find("trashButton");
     ASSERT_NE(empty, nullptr);
     empty->forceActiveFocus(Qt::TabFocusReason);
@@ -127,31 +127,31 @@ TEST_F(Overview, aSurveyThatBeginsTakesTheKeyboardOffTheFindingsThatGo) {
     press(Qt::Key_Space);
     runWhatIsThere();
     EXPECT_FALSE(model().emptyingTrash());
-    EXPECT_THAT(machine.trash.list(), testing::Optional(testing::Not(testing::IsEmpty()))) << "nobody saw it go";
+    EXPECT_THAT(machine.trash.list(), testing::Optional(testing::Not(testing::IsEmpty()))) << "the button is hidden";
     EXPECT_FALSE(empty->hasActiveFocus());
     EXPECT_EQ(focusName(), QStringLiteral("scanButton"));
-    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool()) << "the person steers by the ring";
+    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool()) << "the focus must stay visible";
 }
 
-TEST_F(Overview, theLargestFilesHaveTheirHeaderWithoutAnyFile) {
+TEST_F(Overview, largestFilesKeepTheirHeaderWhenEmpty) {
     model().setScanRoots({"/data"});
     machine.directories.directory("/data");
     shell();
-    surveyFromTheButton();
+    surveyByButton();
     ASSERT_TRUE(model().insights().topFiles.empty());
     EXPECT_TRUE(shows(QStringLiteral("Largest files")));
     scrollToAndClick("seeAllButton");
     EXPECT_EQ(model().selection(), Screen::clutter);
 }
 
-TEST_F(Overview, aCardGoesToItsModule) {
+TEST_F(Overview, cardOpensItsScreen) {
     shell();
-    surveyFromTheButton();
+    surveyByButton();
     scrollToAndClick("findingCard1");
     EXPECT_EQ(model().selection(), Screen::clutter);
 }
 
-TEST_F(Overview, aFolderIsAddedAndTakenOutInTheSettings) {
+TEST_F(Overview, settingsAddAndRemoveFolder) {
     shell();
     click("sidebarSettings");
     const std::vector<std::string> before = model().scanRoots();
@@ -162,7 +162,7 @@ TEST_F(Overview, aFolderIsAddedAndTakenOutInTheSettings) {
     picked = std::nullopt;
     click("addFolderButton");
     EXPECT_EQ(model().scanRoots().size(), before.size() + 1);
-    // The last row's button, by the keyboard: it is one stop before "Add folder...".
+    // Tabs back from "Add folder..." to the button of the last row.
     find("addFolderButton")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Backtab, Qt::ShiftModifier);
     const QString stop = window().activeFocusItem()->property("text").toString();
@@ -170,7 +170,7 @@ TEST_F(Overview, aFolderIsAddedAndTakenOutInTheSettings) {
     EXPECT_EQ(model().scanRoots(), before) << stop.toStdString();
 }
 
-TEST_F(Overview, aSurveyThatEndsLeavesTheKeyboardWhereItIs) {
+TEST_F(Overview, finishedSurveyKeepsFocus) {
     shell();
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
@@ -183,7 +183,7 @@ TEST_F(Overview, aSurveyThatEndsLeavesTheKeyboardWhereItIs) {
     EXPECT_EQ(window().activeFocusItem(), before);
 }
 
-TEST_F(Overview, theThemeIsChangedInTheSettings) {
+TEST_F(Overview, settingsChangeTheme) {
     shell();
     model().setAppearance(AppModel::Appearance::dark);
     click("sidebarSettings");
@@ -195,7 +195,7 @@ TEST_F(Overview, theThemeIsChangedInTheSettings) {
     EXPECT_GT(window().grabWindow().pixelColor(600, 600).lightness(), dark.lightness() + 100);
 }
 
-TEST_F(Overview, theWelcomeIsShownOnceOnly) {
+TEST_F(Overview, showsWelcomeOnlyOnce) {
     fakes::FakePreferences preferences;
     services.preferences = &preferences;
     services.workspace = &machine.workspace;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person who quits, by every way there is, while something is being removed.
+// Quits in every possible way while something is being removed.
 #include <gmock/gmock.h>
 
 #include <QAction>
@@ -20,14 +20,14 @@ class QuitJourney : public ReclaimingFixture {
 protected:
     ~QuitJourney() override { machine.tasks.release(); }
 
-    /// Three items: the Yarn cache goes, the other two wait for their turn.
+    /// Starts a clean-up of three items and stops it after the first, the Yarn cache.
     void cleanHalfWay() {
         surveyByMouse();
         click("reviewButton");
         untilReviewed();
         machine.tasks.hold();
         click("confirmCleanup");
-        machine.tasks.runNext();  // starts the three
+        machine.tasks.runNext();  // queues the three items
         machine.tasks.runNext();
         ASSERT_EQ(machine.tasks.waiting().size(), 2U);
         ASSERT_THAT(machine.trash.trashed(), ElementsAre(yarn));
@@ -41,7 +41,7 @@ protected:
         ASSERT_EQ(entries.back()->text(), QStringLiteral("Quit Zelk"));
         entries.back()->trigger();
     }
-    /// As the desktop asks an application to end, and as the toolkit does for the entry in the dock.
+    /// Sends the event by which the desktop, or the entry in the Dock, asks an application to quit.
     static bool letsDesktopQuit() {
         QEvent event(QEvent::Quit);
         QCoreApplication::sendEvent(qApp, &event);
@@ -64,7 +64,7 @@ protected:
 
 }  // namespace
 
-TEST_F(QuitJourney, nothingIsAskedWhereNothingIsRemoved) {
+TEST_F(QuitJourney, quitsWithoutQuestionIfNothingIsRemoved) {
     surveyByMouse();
     press(Qt::Key_Q, Qt::ControlModifier);
     EXPECT_EQ(quits, 1);
@@ -80,7 +80,7 @@ TEST_F(QuitJourney, nothingIsAskedWhereNothingIsRemoved) {
     EXPECT_FALSE(main().quitQuestion().asked());
 }
 
-TEST_F(QuitJourney, everyWayOutAsksWhileACleanUpRuns) {
+TEST_F(QuitJourney, everyWayToQuitAsksDuringCleanup) {
     cleanHalfWay();
     const std::vector<std::pair<const char*, std::function<void()>>> ways{
         {"the key", [&] { press(Qt::Key_Q, Qt::ControlModifier); }},
@@ -102,10 +102,10 @@ TEST_F(QuitJourney, everyWayOutAsksWhileACleanUpRuns) {
     machine.tasks.release();
     untilDone();
     EXPECT_EQ(textOf(window(), "cleanupResult"), "59 MB · 3 items");
-    EXPECT_EQ(quits, 0) << "it was taken back each time";
+    EXPECT_EQ(quits, 0) << "it was cancelled each time";
 }
 
-TEST_F(QuitJourney, finishFirstEndsByItselfWhenAllHasGone) {
+TEST_F(QuitJourney, finishFirstQuitsAfterCleanup) {
     cleanHalfWay();
     press(Qt::Key_Q, Qt::ControlModifier);
     ASSERT_TRUE(asked());
@@ -119,23 +119,23 @@ TEST_F(QuitJourney, finishFirstEndsByItselfWhenAllHasGone) {
     EXPECT_EQ(machine.processes.calls().size(), 1U);
 }
 
-TEST_F(QuitJourney, stopNowLeavesWhatHasNotBegun) {
+TEST_F(QuitJourney, stopNowSkipsPendingItems) {
     cleanHalfWay();
     window().close();
     ASSERT_TRUE(asked());
     click("stopNow");
     EXPECT_EQ(quits, 0);
-    EXPECT_TRUE(asked()) << "it stays until what has begun has ended";
+    EXPECT_TRUE(asked()) << "it stays until running items are done";
     machine.tasks.release();
     runUntil([&] { return quits == 1; });
     EXPECT_THAT(machine.trash.trashed(), ElementsAre(yarn));
     EXPECT_THAT(machine.processes.calls(), IsEmpty());
     EXPECT_TRUE(machine.files.exists(cursor + "/data"));
     window().close();
-    EXPECT_FALSE(window().isVisible()) << "nothing holds it any more";
+    EXPECT_FALSE(window().isVisible()) << "nothing keeps it open any more";
 }
 
-TEST_F(QuitJourney, theQuestionGoesByItselfWhenTheCleanUpEnds) {
+TEST_F(QuitJourney, questionClosesWhenCleanupEnds) {
     cleanHalfWay();
     press(Qt::Key_Q, Qt::ControlModifier);
     ASSERT_TRUE(asked());
@@ -148,7 +148,7 @@ TEST_F(QuitJourney, theQuestionGoesByItselfWhenTheCleanUpEnds) {
     untilSurveyed(2);
 }
 
-TEST_F(QuitJourney, theSheetShowsHowManyOfHowManyAreDone) {
+TEST_F(QuitJourney, reviewSheetShowsProgress) {
     surveyByMouse();
     click("reviewButton");
     untilReviewed();
@@ -172,7 +172,7 @@ TEST_F(QuitJourney, theSheetShowsHowManyOfHowManyAreDone) {
     EXPECT_EQ(control(window(), "cleaningBar"), nullptr);
 }
 
-TEST_F(QuitJourney, whatLensClutterAndTheTrashTakeAwayIsAskedForToo) {
+TEST_F(QuitJourney, asksDuringOtherRemovals) {
     surveyByMouse();
     const std::vector<std::pair<const char*, std::function<void()>>> removals{
         {"Lens", [&] { model().trashAndRemove(*folderAt(model().root(), home + "/projects/app")); }},
@@ -193,7 +193,7 @@ TEST_F(QuitJourney, whatLensClutterAndTheTrashTakeAwayIsAskedForToo) {
     }
 }
 
-TEST_F(QuitJourneyWithTray, closingTheWindowEndsNothingAndAsksNothing) {
+TEST_F(QuitJourneyWithTray, closingTheWindowNeitherQuitsNorAsks) {
     cleanHalfWay();
     window().close();
     EXPECT_FALSE(window().isVisible());
@@ -201,7 +201,7 @@ TEST_F(QuitJourneyWithTray, closingTheWindowEndsNothingAndAsksNothing) {
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(QuitJourneyWithTray, theQuestionBringsAClosedWindowBack) {
+TEST_F(QuitJourneyWithTray, questionReopensClosedWindow) {
     surveyByMouse();
     machine.tasks.hold();
     model().cleanSafeCaches();  // as the status item does

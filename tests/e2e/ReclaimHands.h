@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Hands and eyes for the lists and the map of a real window.
+// Helpers that operate and inspect the lists and maps of a real window.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -18,10 +18,10 @@
 
 namespace zelk {
 
-/// The visible item that `wanted` says yes to; nullptr if there is none.
+/// A visible item that satisfies `wanted`, or nullptr.
 template <class Wanted>
 QQuickItem* findVisible(QQuickWindow& window, Wanted wanted) {
-    window.grabWindow();  // lays out what is new
+    window.grabWindow();  // applies pending layout
     std::vector<QQuickItem*> pending{window.contentItem()};
     while (!pending.empty()) {
         QQuickItem* item = pending.back();
@@ -38,7 +38,7 @@ inline void clickMiddle(QQuickWindow& window, const QQuickItem* item) {
     tour::clickAt(window, item->mapToScene(item->boundingRect().center()));
 }
 
-/// A press with the right button in the middle of an item.
+/// Right-clicks the centre of an item.
 inline void rightClickMiddle(QQuickWindow& window, const QQuickItem* item) {
     ASSERT_NE(item, nullptr);
     const QPoint point = item->mapToScene(item->boundingRect().center()).toPoint();
@@ -46,7 +46,7 @@ inline void rightClickMiddle(QQuickWindow& window, const QQuickItem* item) {
     QTest::mouseClick(&window, Qt::RightButton, {}, point);
 }
 
-/// A press on a control, once the window has laid out what is new.
+/// Applies pending layout, then clicks a control.
 inline void clickControl(QQuickWindow& window, const char* name) {
     window.grabWindow();
     EXPECT_TRUE(tour::clickOn(window, QString::fromLatin1(name))) << name;
@@ -62,14 +62,14 @@ inline std::string textOf(QQuickWindow& window, const char* name) {
     return item == nullptr ? "<none>" : item->property("text").toString().toStdString();
 }
 
-/// The entry of an open menu.
+/// The visible menu entry with this text, or nullptr.
 inline QQuickItem* menuEntry(QQuickWindow& window, const char* text) {
     return findVisible(window, [text](const QQuickItem& item) {
         return item.inherits("QQuickMenuItem") && item.property("text").toString() == QString::fromUtf8(text);
     });
 }
 
-/// What the rows of a list say of themselves under this role, those out of sight too.
+/// The values of a role in all rows of a list, including rows that are scrolled out of view.
 inline std::vector<QVariant> column(QQuickWindow& window, const char* list, const char* role) {
     std::vector<QVariant> cells;
     const QQuickItem* item = control(window, list);
@@ -89,7 +89,7 @@ inline std::vector<std::string> texts(QQuickWindow& window, const char* list, co
     return texts;
 }
 
-/// The row that says `text` under `role`; -1 if none does.
+/// The first row whose `role` is `text`, or -1.
 inline int rowOf(QQuickWindow& window, const char* list, const char* role, const std::string& text) {
     const std::vector<std::string> all = texts(window, list, role);
     const auto found = std::find(all.begin(), all.end(), text);
@@ -100,7 +100,7 @@ inline BubblePicture* chart(QQuickWindow& window, const char* map) {
     return qobject_cast<BubblePicture*>(control(window, map));
 }
 
-/// A press on a bubble by the id of its slice.
+/// Clicks the bubble of the slice with this id.
 inline void clickBubble(QQuickWindow& window, const char* map, const std::string& id) {
     const BubblePicture* chart = zelk::chart(window, map);
     ASSERT_NE(chart, nullptr);
@@ -109,7 +109,7 @@ inline void clickBubble(QQuickWindow& window, const char* map, const std::string
     FAIL() << "no bubble " << id;
 }
 
-/// In a map that has the keyboard: by the arrow keys to the bubble of this id, as somebody who sees where it lies.
+/// Moves to the bubble of this id with arrow keys that point towards it. The map must have the focus.
 inline void arrowToBubble(QQuickWindow& window, const char* map, const std::string& id) {
     const BubblePicture* chart = zelk::chart(window, map);
     ASSERT_NE(chart, nullptr);
@@ -127,17 +127,17 @@ inline void arrowToBubble(QQuickWindow& window, const char* map, const std::stri
         else
             QTest::keyClick(&window, down < 0 ? Qt::Key_Up : Qt::Key_Down);
     }
-    EXPECT_EQ(circles.at(chart->current().value()).id, id) << "the arrow keys do not come there";
+    EXPECT_EQ(circles.at(chart->current().value()).id, id) << "the arrow keys do not reach it";
 }
 
-/// Whether the keyboard is at a control, or at what a list shows.
+/// Whether the focus is on this control or inside it.
 inline bool hasKeyboard(QQuickWindow& window, const char* name) {
     for (const QQuickItem* at = window.activeFocusItem(); at != nullptr; at = at->parentItem())
         if (at->objectName() == QLatin1String(name)) return true;
     return false;
 }
 
-/// The check box of the row that says `text`.
+/// The visible check box labelled `text`, or nullptr.
 inline QQuickItem* boxOf(QQuickWindow& window, const char* text) {
     return findVisible(window, [text](const QQuickItem& item) {
         return QString::fromLatin1(item.metaObject()->className()).startsWith(QLatin1String("CheckBox")) &&
@@ -145,7 +145,7 @@ inline QQuickItem* boxOf(QQuickWindow& window, const char* text) {
     });
 }
 
-/// What a screen reader takes for the place of the keyboard, of the rows in sight.
+/// The accessible names of the visible rows that report the focus.
 inline std::vector<std::string> spokenFocus(QQuickWindow& window, const char* list) {
     std::vector<std::string> said;
     QAccessibleInterface* rows = QAccessible::queryAccessibleInterface(control(window, list));
@@ -157,17 +157,17 @@ inline std::vector<std::string> spokenFocus(QQuickWindow& window, const char* li
     return said;
 }
 
-/// Goes there by the Tab key, as somebody without a mouse would.
+/// Presses Tab until this control has the focus.
 inline void tabTo(QQuickWindow& window, const char* name) {
     window.grabWindow();
     for (int stop = 0; stop < 100; ++stop) {
         if (hasKeyboard(window, name)) return;
         QTest::keyClick(&window, Qt::Key_Tab);
     }
-    FAIL() << "the Tab key does not come to " << name;
+    FAIL() << "the Tab key does not reach " << name;
 }
 
-/// In a list that has the keyboard: from its first row down to `row`.
+/// Moves to `row` with the arrow keys. The list must have the focus.
 inline void arrowTo(QQuickWindow& window, int row) {
     ASSERT_GE(row, 0);
     QTest::keyClick(&window, Qt::Key_Home);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person who knows the items: with the mouse, and with the keyboard alone.
+// Cleans single items in the developer view, with the mouse and with the keyboard alone.
 #include <gmock/gmock.h>
 
 #include "ReclaimingFixture.h"
@@ -15,12 +15,13 @@ class ReclaimingItems : public ReclaimingFixture {};
 
 }  // namespace
 
-TEST_F(ReclaimingItems, byItemLeavesOutWhatARunningApplicationUses) {
+TEST_F(ReclaimingItems, skipsItemsInUse) {
     surveyByMouse();
     click("developerSwitch");
     EXPECT_TRUE(shows(QStringLiteral("14 days")));
     EXPECT_TRUE(shows(QStringLiteral("5 of 6 shown")));
-    EXPECT_TRUE(shows(QStringLiteral("3 items selected"))) << "not the backup, nor what is young or in use";
+    EXPECT_TRUE(shows(QStringLiteral("3 items selected")))
+        << "all but the backup and the items that are recent or in use";
 
     const int group = itemRow("App caches (Electron)");
     clickText("App caches (Electron)");
@@ -30,7 +31,7 @@ TEST_F(ReclaimingItems, byItemLeavesOutWhatARunningApplicationUses) {
     EXPECT_TRUE(shows(QStringLiteral("quit Cursor to clear")));
     clickText("quit Cursor to clear");
     clickText("Cache");
-    EXPECT_EQ(item(group + 1, "chosen"), "false") << "it cannot be ticked";
+    EXPECT_EQ(item(group + 1, "chosen"), "false") << "it cannot be selected";
     EXPECT_TRUE(shows(QStringLiteral("3 items selected")));
 
     clickText("iOS device backups");
@@ -47,7 +48,7 @@ TEST_F(ReclaimingItems, byItemLeavesOutWhatARunningApplicationUses) {
     untilSurveyed(2);
 }
 
-TEST_F(ReclaimingItems, byItemWithTheMouse) {
+TEST_F(ReclaimingItems, selectsItemsWithMouse) {
     surveyByMouse();
     click("developerSwitch");
     click("safetyInfo");
@@ -63,7 +64,7 @@ TEST_F(ReclaimingItems, byItemWithTheMouse) {
 
     clickMiddle(window(), boxOf(window(), "node_modules"));
     EXPECT_EQ(item(itemRow("node_modules"), "chosen"), "false");
-    EXPECT_EQ(item(itemRow("node_modules"), "open"), "false") << "the box ticks and does not unfold";
+    EXPECT_EQ(item(itemRow("node_modules"), "open"), "false") << "the check box does not expand the group";
     clickMiddle(window(), boxOf(window(), "node_modules"));
     EXPECT_EQ(item(itemRow("node_modules"), "chosen"), "true");
     clickText("iOS device backups");
@@ -74,7 +75,7 @@ TEST_F(ReclaimingItems, byItemWithTheMouse) {
     expectNothingHappened();
 }
 
-TEST_F(ReclaimingItems, anItemIsSaidWithItsName) {
+TEST_F(ReclaimingItems, spokenTextStartsWithName) {
     surveyByMouse();
     click("developerSwitch");
     clickText("Yarn cache");
@@ -83,7 +84,7 @@ TEST_F(ReclaimingItems, anItemIsSaidWithItsName) {
     EXPECT_THAT(spoken, testing::HasSubstr("50 MB"));
 }
 
-TEST_F(ReclaimingItems, byItemWithTheKeyboardAlone) {
+TEST_F(ReclaimingItems, cleansItemsWithKeyboardAlone) {
     surveyByKeys();
     tabTo(window(), "developerSwitch");
     press(Qt::Key_Space);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person who takes space back: with the mouse, and with the keyboard alone.
+// Cleans whole categories, with the mouse and with the keyboard alone.
 #include <gmock/gmock.h>
 
 #include <QAction>
@@ -16,15 +16,15 @@ using testing::UnorderedElementsAre;
 
 class Reclaiming : public ReclaimingFixture {};
 
-const std::vector<std::string> safeOnes{"yarn_cache", "npm_cache", "electron_cache"};
+const std::vector<std::string> safeCategories{"yarn_cache", "npm_cache", "electron_cache"};
 
 }  // namespace
 
-TEST_F(Reclaiming, byCategoryBeginsWithTheSafeOnesAndTicksByRowByBubbleAndByMenu) {
+TEST_F(Reclaiming, selectsCategoriesByRowBubbleAndMenu) {
     surveyByMouse();
     EXPECT_THAT(cells("categoryList", "identity"),
                 ElementsAre("yarn_cache", "ios_backups", "node_modules", "npm_cache", "electron_cache"));
-    EXPECT_EQ(chosen(), safeOnes);
+    EXPECT_EQ(chosen(), safeCategories);
     EXPECT_TRUE(shows(QStringLiteral("3 items · 59 MB")));
 
     clickText("node_modules");
@@ -44,10 +44,10 @@ TEST_F(Reclaiming, byCategoryBeginsWithTheSafeOnesAndTicksByRowByBubbleAndByMenu
     click("reviewButton");
     EXPECT_EQ(control(window(), "dryRunList"), nullptr) << "there is nothing to review";
     chooseInMenu("Safe only");
-    EXPECT_EQ(chosen(), safeOnes);
+    EXPECT_EQ(chosen(), safeCategories);
 }
 
-TEST_F(Reclaiming, theReviewListsWhatWasChosenAndMovesItToTheTrash) {
+TEST_F(Reclaiming, reviewListsSelectionAndMovesItToTrash) {
     surveyByMouse();
     clickText("Yarn cache");
     clickText("node_modules");
@@ -78,13 +78,13 @@ TEST_F(Reclaiming, theReviewListsWhatWasChosenAndMovesItToTheTrash) {
     EXPECT_THAT(machine.trash.list(), testing::Optional(testing::Contains(machine.trash.path + "/old.zip")));
 }
 
-TEST_F(Reclaiming, anOpenReviewStaysAsItIsThroughASurvey) {
+TEST_F(Reclaiming, openReviewSurvivesSurvey) {
     surveyByMouse();
     click("reviewButton");
     untilReviewed();
     click("permanentSwitch");
     const QQuickItem* list = control(window(), "dryRunList");
-    model().startScan();  // as the status item can
+    model().startScan();  // as from the status item
     untilSurveyed(2);
     EXPECT_EQ(control(window(), "dryRunList"), list);
     EXPECT_EQ(focusName(), QStringLiteral("permanentSwitch"));
@@ -96,12 +96,12 @@ TEST_F(Reclaiming, anOpenReviewStaysAsItIsThroughASurvey) {
     EXPECT_EQ(focusName(), QStringLiteral("reviewButton"));
 }
 
-TEST_F(Reclaiming, aCleanUpDuringASurveyIsFollowedByAnother) {
+TEST_F(Reclaiming, cleanupDuringSurveyIsFollowedByAnother) {
     surveyByMouse();
     click("reviewButton");
     untilReviewed();
     machine.directories.hold(home + "/wide/inner");
-    model().startScan();  // as the status item can
+    model().startScan();  // as from the status item
     click("confirmCleanup");
     untilDone();
     click("keepInTrash");
@@ -112,7 +112,7 @@ TEST_F(Reclaiming, aCleanUpDuringASurveyIsFollowedByAnother) {
     untilSurveyed(3);
 }
 
-TEST_F(Reclaiming, theTrashIsEmptiedFromTheResult) {
+TEST_F(Reclaiming, emptiesTrashFromResult) {
     surveyByMouse();
     click("reviewButton");
     untilReviewed();
@@ -130,12 +130,12 @@ TEST_F(Reclaiming, theTrashIsEmptiedFromTheResult) {
     untilSurveyed(2);
 }
 
-TEST_F(Reclaiming, permanentlyLeavesTheTrashAsItIs) {
+TEST_F(Reclaiming, permanentDeletionBypassesTrash) {
     surveyByMouse();
     click("reviewButton");
     untilReviewed();
     click("permanentSwitch");
-    press(Qt::Key_Return);  // the switch has the keyboard, and Enter does no more than turn it
+    press(Qt::Key_Return);  // only toggles the focused switch
     EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move 59 MB to Trash");
     press(Qt::Key_Return);
     click("confirmCleanup");
@@ -148,7 +148,7 @@ TEST_F(Reclaiming, permanentlyLeavesTheTrashAsItIs) {
     untilSurveyed(2);
 }
 
-TEST_F(Reclaiming, cancelAndEscapeLeaveEverything) {
+TEST_F(Reclaiming, cancelAndEscapeRemoveNothing) {
     surveyByMouse();
     click("reviewButton");
     untilReviewed();
@@ -156,17 +156,17 @@ TEST_F(Reclaiming, cancelAndEscapeLeaveEverything) {
     click("cancelCleanup");
     untilClosed();
     expectNothingHappened();
-    EXPECT_EQ(chosen(), safeOnes);
+    EXPECT_EQ(chosen(), safeCategories);
     click("reviewButton");
     untilReviewed();
-    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move 59 MB to Trash") << "each review begins with the Trash";
+    EXPECT_EQ(textOf(window(), "confirmCleanup"), "Move 59 MB to Trash") << "each review defaults to the Trash";
     press(Qt::Key_Escape);
     untilClosed();
     expectNothingHappened();
     EXPECT_EQ(focusName(), QStringLiteral("reviewButton"));
 }
 
-TEST_F(Reclaiming, whatFailsIsCountedAsSkipped) {
+TEST_F(Reclaiming, failedItemsAreListedAsSkipped) {
     surveyByMouse();
     machine.processes.outcome = [](const auto&) { return ChildOutcome{std::nullopt, 127, "env: npm: not found"}; };
     machine.files.failing = [this](const auto& call) { return call.operation == "trash" && call.path == yarn; };
@@ -187,7 +187,7 @@ TEST_F(Reclaiming, whatFailsIsCountedAsSkipped) {
     untilSurveyed(2);
 }
 
-TEST_F(Reclaiming, theSheetCannotBeLeftWhileItCleans) {
+TEST_F(Reclaiming, sheetCannotBeClosedWhileCleaning) {
     surveyByMouse();
     click("reviewButton");
     untilReviewed();
@@ -202,13 +202,13 @@ TEST_F(Reclaiming, theSheetCannotBeLeftWhileItCleans) {
     EXPECT_NE(control(window(), "dryRunList"), nullptr);
     machine.tasks.release();
     untilDone();
-    EXPECT_EQ(machine.trash.trashed().size(), 2U) << "once, and both";
+    EXPECT_EQ(machine.trash.trashed().size(), 2U) << "both, and once each";
     press(Qt::Key_Escape);
     untilClosed();
     untilSurveyed(2);
 }
 
-TEST_F(Reclaiming, byCategoryWithTheKeyboardAlone) {
+TEST_F(Reclaiming, cleansCategoriesWithKeyboardAlone) {
     surveyByKeys();
     tabTo(window(), "categoryList");
     arrowTo(window(), 2);
@@ -229,7 +229,7 @@ TEST_F(Reclaiming, byCategoryWithTheKeyboardAlone) {
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     runUntil([&] { return menuEntry(window(), "None") == nullptr; });
-    EXPECT_EQ(chosen(), safeOnes);
+    EXPECT_EQ(chosen(), safeCategories);
     EXPECT_EQ(focusName(), QStringLiteral("selectMenu"));
 
     tabTo(window(), "reviewButton");
@@ -247,8 +247,7 @@ TEST_F(Reclaiming, byCategoryWithTheKeyboardAlone) {
     tabTo(window(), "dryRunList");
     press(Qt::Key_End);
     press(Qt::Key_Return);
-    EXPECT_NE(control(window(), "confirmCleanup"), nullptr)
-        << "what cannot be undone is pressed on its own button only";
+    EXPECT_NE(control(window(), "confirmCleanup"), nullptr) << "only its own button starts a permanent deletion";
     expectNothingHappened();
     tabTo(window(), "permanentSwitch");
     press(Qt::Key_Space);
@@ -267,11 +266,11 @@ TEST_F(Reclaiming, byCategoryWithTheKeyboardAlone) {
     EXPECT_THAT(machine.trash.list(), testing::Optional(IsEmpty()));
 }
 
-TEST_F(Reclaiming, throughTheMapWithTheArrowKeys) {
+TEST_F(Reclaiming, reachesBubblesWithArrowKeys) {
     surveyByKeys();
     tabTo(window(), "categoryMap");
     for (const char* category : {"ios_backups", "electron_cache", "node_modules", "npm_cache", "yarn_cache"}) {
-        const bool before = std::count(safeOnes.begin(), safeOnes.end(), category) > 0;
+        const bool before = std::count(safeCategories.begin(), safeCategories.end(), category) > 0;
         arrowToBubble(window(), "categoryMap", category);
         press(Qt::Key_Space);
         EXPECT_EQ(testing::Value(chosen(), testing::Contains(category)), !before) << category;
@@ -279,7 +278,7 @@ TEST_F(Reclaiming, throughTheMapWithTheArrowKeys) {
     EXPECT_THAT(chosen(), ElementsAre("ios_backups", "node_modules"));
 }
 
-TEST_F(Reclaiming, theStatusItemCleansAllThatIsSafeAtOnceAlsoWhatIsInUse) {
+TEST_F(Reclaiming, statusItemCleansSafeItemsEvenIfInUse) {
     surveyByMouse();
     const auto isClean = [](const QAction* entry) {
         return entry->text() == QStringLiteral("Clean safe caches (59 MB)");

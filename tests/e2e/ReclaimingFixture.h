@@ -9,11 +9,11 @@
 
 namespace zelk {
 
-/// A home with something to reclaim of every kind, and the hands for the screen of it.
+/// A home folder with reclaimable items of every kind, and helpers to operate the Reclaim screen.
 class ReclaimingFixture : public ShellFixture {
 protected:
     ReclaimingFixture() {
-        // What the fixture's home holds, and more of it.
+        // Makes the items of the base fixture removable, and adds more.
         machine.files.addFile(yarn + "/v6");
         machine.files.addFile(modules + "/a.js");
         junk(backups + "/phone", 30'000'000);
@@ -47,7 +47,7 @@ protected:
     }
 
     std::vector<std::string> cells(const char* list, const char* role) { return texts(window(), list, role); }
-    /// The ids of the categories that are ticked, or the names of the items.
+    /// The values of `role` in the selected rows of a list.
     std::vector<std::string> ticked(const char* list, const char* role) {
         std::vector<std::string> chosen;
         const std::vector<std::string> names = cells(list, role);
@@ -84,7 +84,7 @@ protected:
         EXPECT_THAT(machine.trash.trashed(), testing::IsEmpty());
         EXPECT_THAT(machine.files.pathsOf("remove"), testing::IsEmpty());
         EXPECT_THAT(machine.processes.calls(), testing::IsEmpty());
-        EXPECT_EQ(model().history().size(), 1U) << "nothing was cleaned, so nothing is surveyed anew";
+        EXPECT_EQ(model().history().size(), 1U) << "there is no new survey without a clean-up";
     }
     int itemRow(const char* name) { return rowOf(window(), "itemList", "name", name); }
     std::string item(int row, const char* role) { return cells("itemList", role)[static_cast<std::size_t>(row)]; }

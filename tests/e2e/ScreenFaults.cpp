@@ -10,14 +10,14 @@ namespace zelk {
 
 namespace {
 
-// Fonts round: what is no more than this is nobody's fault.
+// Allows for rounding in font metrics.
 constexpr qreal tolerance = 1.5;
-// Fainter than this is a face on its way out, or not there yet.
+// Items that are fainter are fading in or out.
 constexpr qreal faint = 0.2;
 
 struct ShownItem {
     QQuickItem* item;
-    qreal opacity;  ///< of it and all that holds it
+    qreal opacity;  ///< including that of its ancestors
     bool tabStop;
 };
 
@@ -43,19 +43,19 @@ QString textOf(const QQuickItem& item) {
     return item.property("text").toString();
 }
 
-/// Whether it has a name or a path in it that any width may have to shorten: all that is long in the tests' homes is
-/// one of these.
+/// Whether the text contains a path or a long name, which no width is certain to fit. Matches all long names in the
+/// test data.
 bool mayBeShortened(const QString& text) {
     static const QRegularExpression longName(QStringLiteral("/|long long|(.)\\1{9}"));
     return longName.match(text).hasMatch();
 }
 
-/// Whether it is there to be pressed or written into, by the keyboard or by the mouse alone.
+/// Whether the user can operate the item with the keyboard or the mouse.
 bool isControl(const QQuickItem& item) {
     return item.inherits("QQuickAbstractButton") || item.inherits("QQuickMenuItem") || item.inherits("QQuickSlider");
 }
 
-/// Where the ink of a text is, in the window.
+/// The rectangle of a rendered text, in window coordinates.
 QRectF inkOf(const QQuickItem& item) {
     QRectF ink = item.boundingRect();
     if (item.inherits("QQuickText")) {
@@ -74,20 +74,21 @@ QRectF inkOf(const QQuickItem& item) {
     return item.mapRectToScene(ink);
 }
 
-std::string say(const QRectF& rect) {
+std::string describe(const QRectF& rect) {
     const auto number = [](qreal value) { return std::to_string(std::lround(value)); };
     return "(" + number(rect.x()) + ", " + number(rect.y()) + ", " + number(rect.width()) + " x " +
            number(rect.height()) + ")";
 }
 
-bool holds(const QRectF& outer, const QRectF& inner, bool across, bool down) {
+bool encloses(const QRectF& outer, const QRectF& inner, bool across, bool down) {
     const bool fitsAcross = inner.left() >= outer.left() - tolerance && inner.right() <= outer.right() + tolerance;
     const bool fitsDown = inner.top() >= outer.top() - tolerance && inner.bottom() <= outer.bottom() + tolerance;
     return (!across || fitsAcross) && (!down || fitsDown);
 }
 
-/// What is scrolled out of sight is no fault, so a text must fit into what scrolls it only where it cannot scroll.
-std::string sticksOut(const QQuickItem& text, const QRectF& ink) {
+/// The control or clipping ancestor that the text overflows, or an empty string. Text may be scrolled out of view, so
+/// it must fit into a flickable only in directions in which that does not scroll.
+std::string overflowedFrame(const QQuickItem& text, const QRectF& ink) {
     for (const QQuickItem* above = text.parentItem(); above != nullptr; above = above->parentItem()) {
         const bool control = above->inherits("QQuickAbstractButton");
         const bool scrolls = above->inherits("QQuickFlickable");
@@ -99,20 +100,21 @@ std::string sticksOut(const QQuickItem& text, const QRectF& ink) {
             down = above->property("contentHeight").toReal() <= above->height() + tolerance;
         }
         const QRectF frame = above->mapRectToScene(above->boundingRect());
-        if (!holds(frame, ink, across, down)) return std::string(above->metaObject()->className()) + " " + say(frame);
-        if (scrolls) return {};  // beyond it everything depends on where it is scrolled to
+        if (!encloses(frame, ink, across, down))
+            return std::string(above->metaObject()->className()) + " " + describe(frame);
+        if (scrolls) return {};  // the rest depends on the scroll position
     }
     return {};
 }
 
-/// The part of a rectangle that can be seen through all that clips it.
+/// The part of a rectangle that the clipping ancestors of the item leave visible.
 QRectF visiblePart(const QQuickItem& item, QRectF rect) {
     for (const QQuickItem* above = item.parentItem(); above != nullptr; above = above->parentItem())
         if (above->clip()) rect &= above->mapRectToScene(above->boundingRect());
     return rect;
 }
 
-/// A sheet covers what is below it on purpose.
+/// The popup that contains the item, or nullptr. A popup covers what is below it on purpose.
 const QQuickItem* popupOf(const QQuickItem& item) {
     for (const QQuickItem* above = &item; above != nullptr; above = above->parentItem())
         if (above->inherits("QQuickPopupItem")) return above;
@@ -141,9 +143,9 @@ std::vector<std::string> layoutFaults(QQuickWindow& window) {
         if (text.isEmpty() || item.width() <= 0) continue;
         const QRectF ink = inkOf(item);
         if (item.property("truncated").toBool() && !mayBeShortened(text))
-            faults.push_back("\"" + text.toStdString() + "\" is cut short at " + say(ink));
-        if (const std::string frame = sticksOut(item, ink); !frame.empty())
-            faults.push_back("\"" + text.toStdString() + "\" " + say(ink) + " sticks out of " + frame);
+            faults.push_back("\"" + text.toStdString() + "\" is truncated at " + describe(ink));
+        if (const std::string frame = overflowedFrame(item, ink); !frame.empty())
+            faults.push_back("\"" + text.toStdString() + "\" " + describe(ink) + " overflows " + frame);
         const QRectF seen = visiblePart(item, ink).intersected(whole);
         if (!seen.isEmpty()) placed.push_back({text, seen, &item, popupOf(item)});
     }
@@ -153,7 +155,7 @@ std::vector<std::string> layoutFaults(QQuickWindow& window) {
             const QRectF both = placed[one].ink & placed[other].ink;
             if (both.width() > tolerance && both.height() > 2 * tolerance)
                 faults.push_back("\"" + placed[one].text.toStdString() + "\" and \"" +
-                                 placed[other].text.toStdString() + "\" lie on each other at " + say(both));
+                                 placed[other].text.toStdString() + "\" overlap at " + describe(both));
         }
     for (const ShownItem& shown : shownItems(window)) {
         const QQuickItem& control = *shown.item;
@@ -163,8 +165,8 @@ std::vector<std::string> layoutFaults(QQuickWindow& window) {
             const QRectF both = text.ink & frame;
             if (text.popup != popupOf(control) || both.width() <= tolerance || both.height() <= 2 * tolerance) continue;
             if (isPartOf(*text.item, control) || isPartOf(control, *text.item->parentItem())) continue;
-            faults.push_back("\"" + text.text.toStdString() + "\" lies on " + control.metaObject()->className() + " " +
-                             say(frame));
+            faults.push_back("\"" + text.text.toStdString() + "\" overlaps " + control.metaObject()->className() + " " +
+                             describe(frame));
         }
     }
     return faults;
@@ -176,9 +178,9 @@ std::vector<std::string> accessibilityFaults(QQuickWindow& window) {
         if (!shown.tabStop && !(shown.item->isEnabled() && isControl(*shown.item))) continue;
         QAccessibleInterface* control = QAccessible::queryAccessibleInterface(shown.item);
         const std::string place = std::string(shown.item->metaObject()->className()) + " " +
-                                  say(shown.item->mapRectToScene(shown.item->boundingRect()));
+                                  describe(shown.item->mapRectToScene(shown.item->boundingRect()));
         if (control == nullptr) {
-            faults.push_back(place + " is nothing to a screen reader");
+            faults.push_back(place + " has no accessible interface");
             continue;
         }
         if (control->text(QAccessible::Name).isEmpty()) faults.push_back(place + " has no name");
@@ -196,9 +198,10 @@ std::vector<std::string> ringFaults(QQuickWindow& window) {
         const QQuickItem& item = *shown.item;
         if (!QString::fromLatin1(item.metaObject()->className()).startsWith(QStringLiteral("FocusRing"))) continue;
         const QRectF ring = item.mapRectToScene(item.boundingRect());
-        if (!holds(visiblePart(item, ring) & whole, ring, true, true))
-            faults.push_back("the ring " + say(ring) + " of \"" + textOf(*window.activeFocusItem()).toStdString() +
-                             "\" is cut off to " + say(visiblePart(item, ring) & whole));
+        if (!encloses(visiblePart(item, ring) & whole, ring, true, true))
+            faults.push_back("the focus ring " + describe(ring) + " of \"" +
+                             textOf(*window.activeFocusItem()).toStdString() + "\" is clipped to " +
+                             describe(visiblePart(item, ring) & whole));
     }
     return faults;
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is wrong with a screen and can be seen without eyes: looked for in the scene of a real window, whatever screen
-// it shows.
+// Finds faults in the layout and accessibility of whatever screen a window shows.
 #pragma once
 
 #include <QQuickWindow>
@@ -9,18 +8,17 @@
 
 namespace zelk {
 
-/// Texts that are cut short though no long name is in them, that stick out of the control that they stand on or out of
-/// what clips them, and texts that lie on each other or on a control that is not theirs. One line per fault.
+/// Texts that are truncated although they contain no long name, that overflow their control or a clipping ancestor, or
+/// that overlap another text or a control that they do not belong to. One line per fault.
 std::vector<std::string> layoutFaults(QQuickWindow& window);
 
-/// Controls that can be pressed or that the keyboard can come to and that have no name, no role or no size. One line
-/// per fault.
+/// Controls and tab stops without a name, a role or a size. One line per fault.
 std::vector<std::string> accessibilityFaults(QQuickWindow& window);
 
-/// Rings of the keyboard that something cuts off. One line per fault.
+/// Focus rings that are clipped. One line per fault.
 std::vector<std::string> ringFaults(QQuickWindow& window);
 
-/// The names of the controls that the Tab key comes to, in no order.
+/// The accessible names of all tab stops, in no particular order.
 std::vector<std::string> focusableNames(QQuickWindow& window);
 
 }  // namespace zelk

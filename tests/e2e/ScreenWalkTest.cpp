@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Every screen in every size, theme and text size, looked over for what is cut off, lies on something else or has no
-// name.
+// Checks every screen for layout and accessibility faults, in every window size, theme and text size.
 #include <gmock/gmock.h>
 
 #include "ScreenFaults.h"
@@ -12,14 +11,14 @@ namespace zelk {
 
 namespace {
 
-constexpr QSize leastSize(960, 620);
-constexpr QSize amplySized(1600, 1000);
+constexpr QSize minimumSize(960, 620);
+constexpr QSize largeSize(1600, 1000);
 
-/// Names and figures that need room.
+/// What the home folder contains. It is not surveyed with `none`.
 enum class Content { none, usual, longNames, hugeFigures };
 
 std::string nameOfContent(const testing::TestParamInfo<Content>& content) {
-    constexpr std::array names{"nothing", "aUsualHome", "longNames", "hugeFigures"};
+    constexpr std::array names{"noSurvey", "usualHome", "longNames", "hugeFigures"};
     return names[static_cast<std::size_t>(content.param)];
 }
 
@@ -34,7 +33,7 @@ protected:
             case Content::longNames:
                 for (const std::size_t length : {30U, 200U}) {
                     disk.file(home + "/" + std::string(length, 'n') + ".mov", 4'000'000'000, 1'000);
-                    // Words to break at, and none.
+                    // With spaces to break at, and without.
                     std::string words;
                     while (words.size() < length) words += "long ";
                     disk.file(home + "/" + words + ".iso", 3'500'000'000, 1'000);
@@ -54,7 +53,7 @@ protected:
     }
 
     void expectNoFaults(const std::string& where) {
-        window().grabWindow();  // lays out what is new
+        window().grabWindow();  // applies pending layout
         runWhatIsThere();
         window().grabWindow();
         EXPECT_THAT(layoutFaults(window()), testing::IsEmpty()) << where;
@@ -62,8 +61,8 @@ protected:
         EXPECT_FALSE(focusableNames(window()).empty()) << where;
     }
 
-    /// The walk through the folders, with the first of them ticked and inside it.
-    void walkInside(const std::string& where) {
+    /// Checks the Lens inside its first folder, with that folder selected.
+    void walkIntoFolder(const std::string& where) {
         QQuickItem* list = find("lensList");
         if (list == nullptr) return;
         list->forceActiveFocus(Qt::TabFocusReason);
@@ -81,7 +80,7 @@ protected:
             model().setSelection(screen);
             const std::string name = lookOf(screen).title.toStdString();
             expectNoFaults(state + ", " + name);
-            if (screen == Screen::lens) walkInside(state + ", " + name);
+            if (screen == Screen::lens) walkIntoFolder(state + ", " + name);
             QQuickItem* scroll = screen == Screen::survey ? find("surveyScroll") : nullptr;
             if (scroll == nullptr) continue;
             const double end = scroll->property("contentHeight").toReal() - scroll->height();
@@ -96,11 +95,11 @@ protected:
 
 }  // namespace
 
-TEST_P(ScreenWalk, showsNoFaultInAnySizeThemeAndTextSize) {
+TEST_P(ScreenWalk, hasNoFaultInAnySizeOrTheme) {
     shell();
     if (GetParam() != Content::none) survey();
     TextScale& text = main().textScale();
-    for (const QSize size : {leastSize, amplySized}) {
+    for (const QSize size : {minimumSize, largeSize}) {
         window().resize(size);
         runUntil([&] { return window().contentItem()->size() == QSizeF(size); });
         for (const double factor : {1.0, 1.5}) {

@@ -13,7 +13,7 @@
 
 namespace zelk {
 
-/// The running application on a machine in memory, driven by the mouse and the keyboard.
+/// The whole application on a machine in memory, operated with mouse and keyboard.
 class ShellFixture : public AppModelFixture {
 protected:
     ShellFixture() {
@@ -30,10 +30,10 @@ protected:
             services.quit = [this] { ++quits; };
             shell_ = std::make_unique<Shell>(model(), services);
             shell_->main().motion().setReduced(true);
-            shell_->main().textScale().setFactor(1);  // whatever the desktop says
+            shell_->main().textScale().setFactor(1);  // independent of the desktop
             shell_->start();
             runUntil([&] { return shell_->main().isUp(); });
-            // This platform cannot have a screen reader, but the controls take their roles as if one were there.
+            // The offscreen platform has no screen reader; without this the controls would not set their roles.
             QAccessible::setActive(true);
         }
         return *shell_;
@@ -46,13 +46,13 @@ protected:
         QTest::keyClick(&where, key, modifiers);
     }
     void click(const char* name) {
-        window().grabWindow();  // lays out what is new
+        window().grabWindow();  // applies pending layout
         EXPECT_TRUE(tour::clickOn(window(), QString::fromLatin1(name))) << name;
     }
     QQuickItem* find(const char* name) { return tour::findControl(window(), QString::fromLatin1(name)); }
-    /// The outermost item in sight with this text; nullptr if there is none.
+    /// The outermost visible item with this text, or nullptr.
     QQuickItem* showing(const QString& text) {
-        window().grabWindow();  // lays out what is new
+        window().grabWindow();  // applies pending layout
         std::vector<QQuickItem*> pending{window().contentItem()};
         while (!pending.empty()) {
             QQuickItem* item = pending.back();

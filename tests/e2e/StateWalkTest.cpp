@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The states that a screen comes to only when something is done: looked over, as the screens at rest are, for what is
-// cut off, lies on something else or has no name.
+// Checks for layout and accessibility faults in states that screens reach only through actions.
 #include <gmock/gmock.h>
 
 #include <set>
@@ -20,7 +19,7 @@ constexpr std::int64_t huge = 1'000'000'000'000'000;
 
 class StateWalk : public ShellFixture {
 protected:
-    /// A name of 200 characters with words to break at.
+    /// A name of 200 characters with spaces to break at.
     static std::string longName() {
         std::string name;
         while (name.size() < 200) name += "long ";
@@ -28,14 +27,14 @@ protected:
     }
 
     void expectNoFaults(QQuickWindow& where, const std::string& state) {
-        where.grabWindow();  // lays out what is new
+        where.grabWindow();  // applies pending layout
         runWhatIsThere();
         where.grabWindow();
         EXPECT_THAT(layoutFaults(where), testing::IsEmpty()) << state;
         EXPECT_THAT(accessibilityFaults(where), testing::IsEmpty()) << state;
     }
 
-    /// In the least and in an ample window, with small and large texts, in either theme: does `look` in each.
+    /// Calls `look` in a small and a large window, with normal and large text, and in both themes.
     void inEverySize(const std::string& state, const std::function<void(const std::string&)>& look) {
         for (const QSize size : {QSize(960, 620), QSize(1600, 1000)}) {
             window().resize(size);
@@ -54,7 +53,7 @@ protected:
     void inEverySize(const std::string& state) {
         inEverySize(state, [this](const std::string& where) { expectNoFaults(window(), where); });
     }
-    /// The home screen from its top to its end.
+    /// Checks the Overview from top to bottom.
     void scrollThrough(const std::string& state) {
         QQuickItem* scroll = find("surveyScroll");
         ASSERT_NE(scroll, nullptr) << state;
@@ -89,7 +88,7 @@ protected:
         shell();
         survey();
         click("sidebarReclaim");
-        // Each category with its items.
+        // Expands every category.
         ItemList& items = *main().reclaim().items();
         for (int row = 0; row < items.rowCount(); ++row) items.setOpen(row, true);
     }
@@ -102,17 +101,17 @@ protected:
 
 }  // namespace
 
-TEST_F(StateWalk, aSurveyUnderWay) {
+TEST_F(StateWalk, hasNoFaultDuringSurvey) {
     machine.directories.directory(home + "/" + longName() + "/" + longName());
     machine.directories.file(home + "/wide/inner/huge", huge);
     shell();
-    // Each is built before, so that none is met half made.
+    // Creates the screens first, so that none is checked half loaded.
     for (const Screen screen : {Screen::reclaim, Screen::lens, Screen::clutter, Screen::survey})
         model().setSelection(screen);
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
     runUntil([&] { return model().itemsScanned() > 0; });
-    inEverySize("at work", [&](const std::string& where) {
+    inEverySize("surveying", [&](const std::string& where) {
         for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::lens, Screen::clutter}) {
             model().setSelection(screen);
             runUntil([&] { return screen == Screen::survey || shows(QString::fromStdString(model().progressLine())); });
@@ -121,7 +120,7 @@ TEST_F(StateWalk, aSurveyUnderWay) {
     });
 }
 
-TEST_F(StateWalk, aSurveyOfNothing) {
+TEST_F(StateWalk, hasNoFaultAfterEmptySurvey) {
     machine.directories.directory("/nothing");
     model().setScanRoots({"/nothing"});
     shell();
@@ -137,7 +136,7 @@ TEST_F(StateWalk, aSurveyOfNothing) {
     });
 }
 
-TEST_F(StateWalk, theTrendsAndTheSheetOfChanges) {
+TEST_F(StateWalk, hasNoFaultInTrendsAndChanges) {
     model().setScanRoots({home, "/going"});
     machine.directories.file("/going/" + std::string(200, 'g') + "/old.mov", 4'000'000'000);
     shell();
@@ -156,7 +155,7 @@ TEST_F(StateWalk, theTrendsAndTheSheetOfChanges) {
     inEverySize("the changes");
 }
 
-TEST_F(StateWalk, theTrashAtItsLargest) {
+TEST_F(StateWalk, hasNoFaultWithHugeTrash) {
     machine.files.addFile(home + "/.Trash/huge", {}, static_cast<std::uint64_t>(huge));
     machine.directories.file(home + "/.Trash/huge", static_cast<std::uint64_t>(huge));
     shell();
@@ -165,7 +164,7 @@ TEST_F(StateWalk, theTrashAtItsLargest) {
     inEverySize("a full Trash", [this](const std::string& where) { scrollThrough(where); });
 }
 
-TEST_F(StateWalk, theTrashThatMayNotBeRead) {
+TEST_F(StateWalk, hasNoFaultWithUnreadableTrash) {
     machine.trash.setAccessible(false);
     shell();
     survey();
@@ -174,7 +173,7 @@ TEST_F(StateWalk, theTrashThatMayNotBeRead) {
     inEverySize("the Trash without access", [this](const std::string& where) { scrollThrough(where); });
 }
 
-TEST_F(StateWalk, theFirstRun) {
+TEST_F(StateWalk, hasNoFaultOnFirstRun) {
     fakes::FakePreferences preferences;
     services.preferences = &preferences;
     services.workspace = &machine.workspace;
@@ -191,11 +190,11 @@ TEST_F(StateWalk, theFirstRun) {
     inEverySize("the panel that asks for access");
 }
 
-TEST_F(StateWalk, theFoldedSidebar) {
+TEST_F(StateWalk, hasNoFaultWithCollapsedSidebar) {
     shell();
     click("collapseButton");
     ASSERT_TRUE(main().sidebar().collapsed());
-    inEverySize("folded", [this](const std::string& where) {
+    inEverySize("collapsed", [this](const std::string& where) {
         for (const Screen screen : allScreens) {
             model().setSelection(screen);
             expectNoFaults(window(), where + ", " + lookOf(screen).title.toStdString());
@@ -207,7 +206,7 @@ TEST_F(StateWalk, theFoldedSidebar) {
     EXPECT_GE(rows, allScreens.size()) << "a row that shows no title still has its name";
 }
 
-TEST_F(StateWalk, theRingOfTheKeyboardWhereverItComes) {
+TEST_F(StateWalk, clipsNoFocusRing) {
     shell();
     survey();
     for (const QSize size : {QSize(960, 620), QSize(1600, 1000)}) {
@@ -229,7 +228,7 @@ TEST_F(StateWalk, theRingOfTheKeyboardWhereverItComes) {
     }
 }
 
-TEST_F(StateWalk, theOtherWindows) {
+TEST_F(StateWalk, hasNoFaultInOtherWindows) {
     shell();
     for (const double factor : {1.0, 1.5}) {
         main().textScale().setFactor(factor);
@@ -242,29 +241,29 @@ TEST_F(StateWalk, theOtherWindows) {
     }
 }
 
-TEST_F(ReclaimWalk, theItems) {
+TEST_F(ReclaimWalk, hasNoFaultInItems) {
     ASSERT_NE(find("itemList"), nullptr);
     inEverySize("the items");
 }
 
-TEST_F(ReclaimWalk, whatTheGradesMean) {
+TEST_F(ReclaimWalk, hasNoFaultInSafetyGuide) {
     click("safetyInfo");
     ASSERT_TRUE(shows(main().reclaim().guide()->closing()));
-    inEverySize("what the grades mean");
+    inEverySize("the safety guide");
 }
 
-TEST_F(ReclaimWalk, theLastLookAndWhatBecameOfIt) {
+TEST_F(ReclaimWalk, hasNoFaultInReviewAndResult) {
     click("reviewButton");
     runUntil([&] { return find("confirmCleanup") != nullptr && find("confirmCleanup")->isEnabled(); });
-    inEverySize("the last look");
-    // One that does not go, for the lines of what was left.
+    inEverySize("the review");
+    // Lets one item fail, so that the result mentions what was skipped.
     machine.files.failing = [this](const auto& call) { return call.path == home + "/a/node_modules"; };
     click("confirmCleanup");
     runUntil([&] { return find("cleanupResult") != nullptr; });
-    inEverySize("what became of it");
+    inEverySize("the result");
 }
 
-TEST_F(ReclaimWalk, aCleanUpUnderWayAndTheQuestionBeforeTheEnd) {
+TEST_F(ReclaimWalk, hasNoFaultWhileCleaningAndQuitting) {
     click("reviewButton");
     runUntil([&] { return find("confirmCleanup") != nullptr && find("confirmCleanup")->isEnabled(); });
     machine.tasks.hold();
@@ -273,7 +272,7 @@ TEST_F(ReclaimWalk, aCleanUpUnderWayAndTheQuestionBeforeTheEnd) {
     machine.tasks.runNext();
     window().grabWindow();
     ASSERT_NE(find("cleaningBar"), nullptr);
-    inEverySize("at work");
+    inEverySize("cleaning");
     press(Qt::Key_Q, Qt::ControlModifier);
     runUntil([&] { return find("finishFirst") != nullptr; });
     inEverySize("the question");

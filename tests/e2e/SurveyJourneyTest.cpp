@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person at the window: the mouse and the keyboard go in, the window and the model come out.
+// Surveys through the main window, with the mouse and with the keyboard.
 #include <QTemporaryDir>
 #include <filesystem>
 
@@ -23,13 +23,13 @@ using tour::pressKey;
 const QString scanButton = QStringLiteral("scanButton");
 const QString cancelButton = QStringLiteral("cancelButton");
 
-class Journey : public AppModelFixture {
+class SurveyJourney : public AppModelFixture {
 protected:
-    Journey() {
+    SurveyJourney() {
         fillHome();
         addWideFolder(home + "/wide");
     }
-    ~Journey() override {
+    ~SurveyJourney() override {
         machine.directories.release();
         main_.reset();
     }
@@ -37,7 +37,7 @@ protected:
     QQuickWindow& window() {
         if (!main_) {
             main_ = std::make_unique<MainWindow>(model());
-            main_->motion().setReduced(true);  // a pressed button is where it was aimed at
+            main_->motion().setReduced(true);  // so that buttons do not move while they are clicked
             main_->show();
             runUntil([&] { return main_->isUp(); });
         }
@@ -50,7 +50,7 @@ protected:
         destroyModel();
     }
 
-    void holdInTheMiddle() { machine.directories.hold(home + "/wide/inner"); }
+    void holdSurvey() { machine.directories.hold(home + "/wide/inner"); }
     void untilProgress() {
         runUntil([&] { return model().itemsScanned() > 0; });
     }
@@ -64,8 +64,8 @@ private:
 
 }  // namespace
 
-TEST_F(Journey, aPressOnTheButtonSurveysAndEndsWithWhatIsRecoverable) {
-    holdInTheMiddle();
+TEST_F(SurveyJourney, buttonSurveysAndShowsRecoverableBytes) {
+    holdSurvey();
     ASSERT_TRUE(clickOn(window(), scanButton));
     EXPECT_EQ(model().scanPhase(), Phase::scanning);
     untilProgress();
@@ -76,30 +76,30 @@ TEST_F(Journey, aPressOnTheButtonSurveysAndEndsWithWhatIsRecoverable) {
     EXPECT_EQ(findControl(window(), cancelButton), nullptr);
 }
 
-TEST_F(Journey, returnPressesTheButton) {
+TEST_F(SurveyJourney, returnPressesButton) {
     pressKey(window(), Qt::Key_Return);
     untilFinished();
 }
 
-TEST_F(Journey, enterPressesTheButton) {
+TEST_F(SurveyJourney, enterPressesButton) {
     pressKey(window(), Qt::Key_Enter);
     untilFinished();
 }
 
-TEST_F(Journey, spacePressesTheButton) {
+TEST_F(SurveyJourney, spacePressesButton) {
     pressKey(window(), Qt::Key_Space);
     untilFinished();
 }
 
-TEST_F(Journey, theButtonIsRound) {
+TEST_F(SurveyJourney, ignoresClickOutsideRoundButton) {
     QQuickItem* button = findControl(window(), scanButton);
     const QPointF corner = button->mapToScene(QPointF(4, 4));
     tour::clickAt(window(), corner);
     EXPECT_EQ(model().scanPhase(), Phase::idle);
 }
 
-TEST_F(Journey, theButtonDoesNothingDuringASurvey) {
-    holdInTheMiddle();
+TEST_F(SurveyJourney, buttonIsIgnoredDuringSurvey) {
+    holdSurvey();
     clickOn(window(), scanButton);
     untilProgress();
     const std::int64_t items = model().itemsScanned();
@@ -109,34 +109,34 @@ TEST_F(Journey, theButtonDoesNothingDuringASurvey) {
     EXPECT_EQ(model().itemsScanned(), items);
 }
 
-TEST_F(Journey, cancelIsPressedWithTheMouse) {
-    holdInTheMiddle();
+TEST_F(SurveyJourney, cancelButtonCancels) {
+    holdSurvey();
     clickOn(window(), scanButton);
     untilProgress();
-    window().grabWindow();  // lays out what the phase brought
+    window().grabWindow();  // applies the layout of the new phase
     ASSERT_TRUE(clickOn(window(), cancelButton));
     EXPECT_EQ(model().scanPhase(), Phase::idle);
     EXPECT_TRUE(model().history().empty());
     EXPECT_EQ(findControl(window(), cancelButton), nullptr);
 }
 
-TEST_F(Journey, escapeCancels) {
-    holdInTheMiddle();
+TEST_F(SurveyJourney, escapeCancels) {
+    holdSurvey();
     pressKey(window(), Qt::Key_Return);
     untilProgress();
     pressKey(window(), Qt::Key_Escape);
     EXPECT_EQ(model().scanPhase(), Phase::idle);
 }
 
-TEST_F(Journey, escapeDoesNothingWhenNoSurveyRuns) {
+TEST_F(SurveyJourney, escapeIsIgnoredWithoutSurvey) {
     pressKey(window(), Qt::Key_Return);
     untilFinished();
     pressKey(window(), Qt::Key_Escape);
     EXPECT_EQ(model().scanPhase(), Phase::finished);
 }
 
-TEST_F(Journey, aSecondSurveyFollowsACancelledOne) {
-    holdInTheMiddle();
+TEST_F(SurveyJourney, surveysAgainAfterCancel) {
+    holdSurvey();
     pressKey(window(), Qt::Key_Return);
     untilProgress();
     pressKey(window(), Qt::Key_Escape);
@@ -146,7 +146,7 @@ TEST_F(Journey, aSecondSurveyFollowsACancelledOne) {
     EXPECT_EQ(model().history().size(), 1U);
 }
 
-TEST_F(Journey, theFinishedButtonSurveysAgain) {
+TEST_F(SurveyJourney, surveysAgainAfterFinishing) {
     pressKey(window(), Qt::Key_Return);
     untilFinished();
     clickOn(window(), scanButton);
@@ -155,8 +155,8 @@ TEST_F(Journey, theFinishedButtonSurveysAgain) {
     EXPECT_EQ(model().history().size(), 2U);
 }
 
-TEST_F(Journey, theWindowClosesInMidSurvey) {
-    holdInTheMiddle();
+TEST_F(SurveyJourney, windowMayCloseDuringSurvey) {
+    holdSurvey();
     pressKey(window(), Qt::Key_Return);
     untilProgress();
     closeAndDestroy();
@@ -164,7 +164,7 @@ TEST_F(Journey, theWindowClosesInMidSurvey) {
     EXPECT_EQ(historyFile(), std::nullopt);
 }
 
-TEST(RealJourney, aRealFolderIsSurveyedThroughTheWindow) {
+TEST(RealSurveyJourney, surveysRealFolder) {
     const QTemporaryDir folder;
     const std::string home = folder.path().toStdString();
     const std::string modules = home + "/project/node_modules/left-pad";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A person who takes a removal back, in the real window and on a real disk.
+// Undoes removals in the real window on a real disk.
 #include <gmock/gmock.h>
 
 #include <QTemporaryDir>
@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A home on the disk, the application on it, and its hands.
+/// The application on a home folder on disk, with helpers to operate it.
 class RealUndoJourney : public testing::Test {
 protected:
     void put(const std::string& below, char content) const {
@@ -45,19 +45,17 @@ protected:
 
     QQuickItem* find(const char* name) { return tour::findControl(main->window(), QString::fromLatin1(name)); }
     void click(const char* name) {
-        main->window().grabWindow();  // lays out what is new
+        main->window().grabWindow();  // applies pending layout
         ASSERT_TRUE(tour::clickOn(main->window(), QString::fromLatin1(name))) << name;
     }
     void press(Qt::Key key) { tour::pressKey(main->window(), key); }
-    std::string rowWithKeyboard() {
-        return main->window().activeFocusItem()->property("name").toString().toStdString();
-    }
-    /// Moves the keyboard to the row of this name.
-    void goTo(const char* list, const std::string& name) {
+    std::string focusedRow() { return main->window().activeFocusItem()->property("name").toString().toStdString(); }
+    /// Moves the focus to the row of this name.
+    void focusRow(const char* list, const std::string& name) {
         find(list)->forceActiveFocus(Qt::TabFocusReason);
         press(Qt::Key_Home);
-        for (int row = 0; row < 20 && rowWithKeyboard() != name; ++row) press(Qt::Key_Down);
-        ASSERT_EQ(rowWithKeyboard(), name);
+        for (int row = 0; row < 20 && focusedRow() != name; ++row) press(Qt::Key_Down);
+        ASSERT_EQ(focusedRow(), name);
     }
     void tabToUndo() {
         for (int stop = 0; stop < 40 && main->window().activeFocusItem() != find("undoRemoval"); ++stop)
@@ -76,7 +74,7 @@ protected:
         }
         return false;
     }
-    std::size_t inTrash() const { return fakes::restorable(home + "/.local/share/Trash").size(); }
+    std::size_t trashedCount() const { return fakes::restorable(home + "/.local/share/Trash").size(); }
     bool lists(const std::string& below) const {
         const std::vector<LargeFile>& files = model->insights().topFiles;
         return std::any_of(files.begin(), files.end(),
@@ -90,22 +88,22 @@ protected:
     std::unique_ptr<MainWindow> main;
 };
 
-TEST_F(RealUndoJourney, lensRestoresFoldersAndReportsTheTakenOne) {
+TEST_F(RealUndoJourney, lensRestoresFoldersUnlessPathIsTaken) {
     put("/free/below/file", 'f');
     put("/taken/file", 't');
     put("/kept/file", 'k');
     open(Screen::lens);
     for (const char* name : {"free", "taken"}) {
-        goTo("lensList", name);
+        focusRow("lensList", name);
         press(Qt::Key_Space);
     }
     click("lensRemove");
     runUntil([&] { return find("undoRemoval") != nullptr; });
-    EXPECT_EQ(inTrash(), 2U);
+    EXPECT_EQ(trashedCount(), 2U);
     EXPECT_FALSE(fs::exists(home + "/free"));
     EXPECT_TRUE(shows("Moved to the Trash"));
 
-    // Another program uses one of the names meanwhile.
+    // Another program takes one of the paths meanwhile.
     put("/taken/other", 'o');
     click("undoRemoval");
     runUntil([&] { return shows("1 item was restored. 1 item stays in the Trash."); });
@@ -123,14 +121,14 @@ TEST_F(RealUndoJourney, lensRestoresFoldersAndReportsTheTakenOne) {
     close();
 }
 
-TEST_F(RealUndoJourney, clutterRestoresTheFileWithTheKeyboard) {
+TEST_F(RealUndoJourney, clutterRestoresFileWithKeyboard) {
     put("/films/first.mov", '1');
     put("/films/second.mov", '2');
     open(Screen::clutter);
-    goTo("clutterList", "first.mov");
+    focusRow("clutterList", "first.mov");
     press(Qt::Key_Delete);
     runUntil([&] { return find("undoRemoval") != nullptr; });
-    EXPECT_EQ(inTrash(), 1U);
+    EXPECT_EQ(trashedCount(), 1U);
     EXPECT_FALSE(fs::exists(home + "/films/first.mov"));
     EXPECT_FALSE(lists("/films/first.mov"));
 
@@ -139,7 +137,7 @@ TEST_F(RealUndoJourney, clutterRestoresTheFileWithTheKeyboard) {
     press(Qt::Key_Return);
     runUntil([&] { return shows("1 item was restored."); });
     EXPECT_EQ(fakes::fileContent(home + "/films/first.mov"), std::string(90'000, '1'));
-    EXPECT_EQ(inTrash(), 0U);
+    EXPECT_EQ(trashedCount(), 0U);
     EXPECT_TRUE(lists("/films/first.mov"));
     press(Qt::Key_Escape);
     main->window().grabWindow();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The windows of the application: how many, how large, and what closing one does.
+// The windows of the application: their titles and sizes, and what opening and closing them does.
 #include "ReclaimHands.h"
 #include "ShellFixture.h"
 #include "fakes/FakeTray.h"
@@ -31,14 +31,14 @@ protected:
 
 }  // namespace
 
-TEST_F(Windows, theMainOneIsNeverSmallerThan960By620) {
+TEST_F(Windows, mainWindowHasMinimumSize) {
     EXPECT_EQ(window().minimumWidth(), 960);
     EXPECT_EQ(window().minimumHeight(), 620);
     EXPECT_GE(window().width(), 960);
     EXPECT_GE(window().height(), 620);
 }
 
-TEST_F(Windows, theOthersHaveTheirTitlesAndSizes) {
+TEST_F(Windows, otherWindowsHaveTitlesAndSizes) {
     QQuickWindow& about = main().openWindow(WindowId::about);
     EXPECT_EQ(about.title(), QStringLiteral("About Zelk"));
     EXPECT_EQ(about.minimumSize(), about.maximumSize());
@@ -55,7 +55,7 @@ TEST_F(Windows, theOthersHaveTheirTitlesAndSizes) {
     EXPECT_EQ(settings.maximumSize(), QSize(460, 360));
 }
 
-TEST_F(Windows, theMarkOfAboutIsTheDriveInItsMiddle) {
+TEST_F(Windows, aboutShowsDriveInCentreOfItsMark) {
     QQuickWindow& about = main().openWindow(WindowId::about);
     runUntil([&] { return about.isExposed(); });
     const QQuickItem* drive = findVisible(about, [](const QQuickItem& item) {
@@ -69,7 +69,7 @@ TEST_F(Windows, theMarkOfAboutIsTheDriveInItsMiddle) {
     EXPECT_NEAR(mark->mapToScene({48, 0}).x(), about.width() / 2.0, 1);
 }
 
-TEST_F(Windows, theSettingsSayTheirNameOnce) {
+TEST_F(Windows, settingsDoNotRepeatTheirTitle) {
     QQuickWindow& settings = main().openWindow(WindowId::settings);
     EXPECT_EQ(settings.title(), QStringLiteral("Settings"));
     settings.grabWindow();
@@ -78,12 +78,12 @@ TEST_F(Windows, theSettingsSayTheirNameOnce) {
         const QQuickItem* item = pending.back();
         pending.pop_back();
         if (!item->isVisible()) continue;
-        EXPECT_NE(item->property("text").toString(), settings.title()) << "its title bar says so";
+        EXPECT_NE(item->property("text").toString(), settings.title()) << "the title bar shows it already";
         for (QQuickItem* child : item->childItems()) pending.push_back(child);
     }
 }
 
-TEST_F(Windows, openingOneTwiceBringsTheSameForward) {
+TEST_F(Windows, openingAgainActivatesSameWindow) {
     for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) {
         QQuickWindow& first = main().openWindow(id);
         window().requestActivate();
@@ -94,7 +94,7 @@ TEST_F(Windows, openingOneTwiceBringsTheSameForward) {
     }
 }
 
-TEST_F(Windows, escapeAndControlWCloseTheOthers) {
+TEST_F(Windows, escapeAndControlWCloseOtherWindows) {
     for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) {
         QQuickWindow& other = main().openWindow(id);
         runUntil([&] { return other.isActive(); });
@@ -109,32 +109,32 @@ TEST_F(Windows, escapeAndControlWCloseTheOthers) {
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(Windows, closingTheMainOneEndsWhatCouldNotBeReachedAnyMore) {
+TEST_F(Windows, closingMainWindowQuitsWithoutTray) {
     ASSERT_FALSE(shell().statusItem().present()) << "there is no tray here";
     window().close();
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(WindowsWithTray, closingTheMainOneEndsNothing) {
+TEST_F(WindowsWithTray, closingMainWindowKeepsRunning) {
     window().close();
     runWhatIsThere();
     EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(WindowsWithTray, theMainOneComesBackWhenTheTrayGoes) {
+TEST_F(WindowsWithTray, mainWindowReappearsWhenTrayDisappears) {
     tray->come(false);
     EXPECT_TRUE(window().isVisible());
     tray->come(true);
     window().close();
     tray->come(false);
-    EXPECT_TRUE(window().isVisible()) << "nothing else leads to it any more";
+    EXPECT_TRUE(window().isVisible()) << "nothing else can open it";
     EXPECT_EQ(quits, 0);
     window().close();
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(WindowsWithTray, openZelkWithTheMainOneClosedShowsNone) {
+TEST_F(WindowsWithTray, openZelkDoesNotReopenMainWindow) {
     window().close();
     QAction* entry = shell().statusItem().menu().actions().at(2);
     ASSERT_EQ(entry->text(), QStringLiteral("Open Zelk"));
@@ -144,13 +144,13 @@ TEST_F(WindowsWithTray, openZelkWithTheMainOneClosedShowsNone) {
     EXPECT_EQ(quits, 0);
 }
 
-TEST_F(Windows, openZelkBringsEachForwardTheMainOneLast) {
+TEST_F(Windows, raisesAllWindowsWithMainWindowOnTop) {
     main().openWindow(WindowId::help);
     EXPECT_EQ(main().bringAllForward(), 2);
     runUntil([&] { return window().isActive(); });
 }
 
-TEST_F(Windows, oneSurveyShowsInEveryPartOfTheApplication) {
+TEST_F(Windows, surveyIsShownEverywhere) {
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
     EXPECT_EQ(find("cancelButton") != nullptr, true);

@@ -90,7 +90,7 @@ TEST_F(ReclaimScreen, showsOneFaceAtATime) {
     surveyFor(Audience::normal);
     model().setAudience(Audience::developer);
     survey();
-    // It never falls back to idle in between.
+    // Neither "idle" nor "nothing" appears in between.
     EXPECT_THAT(faces, ElementsAre("scanning ", "byCategory ", "byItem ", "scanning ", "byItem "));
 }
 
