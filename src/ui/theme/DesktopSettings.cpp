@@ -49,7 +49,7 @@ std::optional<DesktopScheme> schemeFrom(const DesktopKey& key, const QVariant& v
             return DesktopScheme::dark;
         case 2:
             return DesktopScheme::light;
-        default:  // no preference, or one that is yet to be thought of
+        default:  // no preference, or a value unknown to us
             return DesktopScheme::untold;
     }
 }
@@ -92,7 +92,7 @@ void DesktopSettings::start() {
 
 void DesktopSettings::follow(QDBusConnection& bus) {
     if (!bus.isConnected()) return;
-    // The slot's types are looked up by name, and nobody may have named this one before.
+    // Qt looks up the slot's argument types by name, and this one may not have been registered yet.
     qRegisterMetaType<QDBusVariant>();
     bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
@@ -113,7 +113,7 @@ void DesktopSettings::ask(const QDBusConnection& bus, const DesktopKey& key) {
 
 void DesktopSettings::settingChanged(const QString& nameSpace, const QString& key, const QDBusVariant& value) {
     QVariant content = value.variant();
-    // Reading wraps the value in one variant more than the signal does.
+    // A reply to Read wraps the value in one more variant than the signal does.
     if (content.canConvert<QDBusVariant>()) content = content.value<QDBusVariant>().variant();
     hear({nameSpace, key}, content);
 }

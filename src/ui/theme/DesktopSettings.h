@@ -13,10 +13,10 @@ class QDBusVariant;
 
 namespace zelk {
 
-/// What a desktop says of its colours; one may say nothing.
+/// The colour scheme that the desktop prefers; `untold` if it states none.
 enum class DesktopScheme { untold, light, dark };
 
-/// A setting as the desktop portal names it.
+/// The name of a setting in the desktop portal.
 struct DesktopKey {
     QString nameSpace;
     QString key;
@@ -24,29 +24,29 @@ struct DesktopKey {
     bool operator==(const DesktopKey&) const = default;
 };
 
-/// What a value of the portal means; other settings and other types mean nothing. "enable-animations" is the older
-/// setting of motion and says the opposite of "reduced-motion".
+/// Interprets a value from the portal; absent for another setting or an unexpected type. "enable-animations" is the
+/// older setting, with the opposite meaning of "reduced-motion".
 std::optional<bool> reducedMotionFrom(const DesktopKey& key, const QVariant& value);
 std::optional<DesktopScheme> schemeFrom(const DesktopKey& key, const QVariant& value);
-/// How much larger texts are wanted: 1 is as drawn.
+/// The factor by which to scale texts; 1 is their design size.
 std::optional<double> textFactorFrom(const DesktopKey& key, const QVariant& value);
 
-/// The person's wishes for the whole desktop that Qt does not tell. On Linux they come from the desktop portal, which
-/// is asked and listened to but never waited for; on macOS the one of motion from the accessibility settings, read
-/// once, while colours come by Qt and the size of texts is every application's own. A desktop that says nothing wants
-/// motion, its palette, and texts as they are drawn. Main thread.
+/// Preferences of the desktop that Qt does not expose. On Linux they come from the desktop portal, which is queried and
+/// observed asynchronously. On macOS only reduced motion is read, once, from the accessibility settings: Qt reports the
+/// colour scheme, and there is no system-wide text size. Defaults: motion, the palette's scheme, unscaled texts. Main
+/// thread.
 class DesktopSettings : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    /// Those of the application: made and asked for at the first call, and gone with the application.
+    /// The instance of the application, created and started by the first call and destroyed with the application.
     static const DesktopSettings& ofApplication();
 
     void start();
 #ifdef Q_OS_LINUX
-    /// Asks the portal on this bus, and from now on hears of every change.
+    /// Queries the settings on this bus and subscribes to their changes.
     void follow(QDBusConnection& bus);
 #endif
 
@@ -60,7 +60,7 @@ public:
         return textFactor_;
     }
 
-    /// A setting of the portal has this value.
+    /// Applies a setting that the portal reported. Unknown settings are ignored.
     void hear(const DesktopKey& key, const QVariant& value);
 
 signals:
@@ -69,7 +69,7 @@ signals:
     void textFactorChanged();
 
 private:
-    // Independent wishes for the same: either is enough.
+    // Independent settings with the same effect: either is enough.
     bool withoutAnimations_ = false;
     bool reducedMotion_ = false;
     DesktopScheme scheme_ = DesktopScheme::untold;

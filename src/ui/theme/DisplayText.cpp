@@ -57,7 +57,7 @@ QString groupedFigure(std::int64_t count, const QLocale& locale) {
 }
 
 QString shortenedPath(const QString& path) {
-    if (path.size() < wholePathLimit) return path;  // no character is shorter than one unit
+    if (path.size() < wholePathLimit) return path;  // a character has at least one code unit
 
     QList<qsizetype> starts;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, path);

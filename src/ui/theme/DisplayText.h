@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The border between what the system calls take and what a person reads. Display text never goes back to the system.
+// Converts what system calls take into text for people. Display text never goes back to the system.
 #pragma once
 
 #include <QLocale>
@@ -11,24 +11,24 @@
 
 namespace zelk {
 
-/// Names and paths for the screen: invalid UTF-8 is repaired with U+FFFD, and characters that would break a line, ring
-/// a bell or turn the direction of what follows become visible marks, so that a name cannot pretend to be another.
+/// Converts a name or path for display: repairs invalid UTF-8 with U+FFFD, and replaces control characters, line breaks
+/// and direction overrides by visible marks, so that a name cannot pretend to be another.
 QString displayText(std::string_view bytes);
 
-/// The last component of a path, for the screen.
+/// Display text of the last component of a path.
 QString nameText(std::string_view path);
 
-/// The path without its last component, for the screen: that of what lies at the top is "/".
+/// Display text of a path without its last component; "/" for an entry of the root directory.
 QString folderText(std::string_view path);
 
-/// The byte format with the decimal separator of `locale`; a count below 0 is 0.
+/// Formats bytes with the decimal separator of `locale`. A negative count is shown as 0.
 QString byteFigure(std::int64_t bytes, const QLocale& locale = userLocale());
 
-/// The count in the digit groups of `locale`.
+/// Formats the count with the digit grouping of `locale`.
 QString groupedFigure(std::int64_t count, const QLocale& locale = userLocale());
 
-/// A path for a single short line: fewer than 57 characters whole, a longer one as "…" and its last 55. A character is
-/// what a reader takes for one, so no accent and no emoji is ever cut in two.
+/// Shortens a path for a single line: below 57 characters unchanged, else "…" and the last 55. Counts grapheme
+/// clusters, so that no accent or emoji is cut in two.
 QString shortenedPath(const QString& path);
 
 }  // namespace zelk

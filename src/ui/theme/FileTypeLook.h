@@ -10,7 +10,7 @@
 
 namespace zelk {
 
-/// How a type of files presents itself. Only the colour of what is of no other type follows the theme.
+/// The name, colour and symbol of a file type. Only the colour of `other` depends on the theme.
 struct FileTypeLook {
     Q_DECLARE_TR_FUNCTIONS(FileTypeLook)
 

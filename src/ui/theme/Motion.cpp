@@ -13,7 +13,7 @@ Motion::Motion(const DesktopSettings& desktop, QObject* parent)
 }
 
 void Motion::setReduced(bool reduced) {
-    disconnect(&desktop_, nullptr, this, nullptr);  // its answer may still be on the way
+    disconnect(&desktop_, nullptr, this, nullptr);  // a reply of the portal may still arrive
     apply(reduced);
 }
 

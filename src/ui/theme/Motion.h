@@ -8,8 +8,8 @@ namespace zelk {
 
 class DesktopSettings;
 
-/// Whether things move, and for how long, as QML reads it: one per engine. With reduced motion every duration is 0 and
-/// nothing repeats. It starts with the desktop's setting and follows it until somebody says otherwise. Main thread.
+/// Durations of animations, one instance per QML engine. With reduced motion they are 0 and nothing repeats. Follows
+/// the desktop's setting until setReduced() is called. Main thread.
 class Motion : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -26,16 +26,16 @@ public:
     explicit Motion(const DesktopSettings& desktop, QObject* parent = nullptr);
 
     bool reduced() const { return reduced_; }
-    /// From now on the desktop is not asked any more.
+    /// Overrides the desktop's setting from now on.
     void setReduced(bool reduced);
 
-    /// Milliseconds. For what answers the hand: hover, press, focus.
+    /// Milliseconds, for feedback to input: hover, press, focus.
     int quick() const { return reduced_ ? 0 : 120; }
-    /// Milliseconds. For one face that takes the place of another.
+    /// Milliseconds, for a transition from one view to another.
     int gentle() const { return reduced_ ? 0 : 260; }
-    /// Milliseconds. For a figure that runs to its next value.
+    /// Milliseconds, for a number that counts to its next value.
     int count() const { return reduced_ ? 0 : 500; }
-    /// Milliseconds of one turn of the scan button's decoration, which stands still with reduced motion.
+    /// Milliseconds per revolution of the scan button's decoration, which stands still with reduced motion.
     int turn() const { return 1400; }
 
 signals:

@@ -8,7 +8,7 @@
 
 namespace zelk {
 
-/// How the three grades look wherever items are chosen; the same in both themes.
+/// The colour of a safety grade, the same in both themes.
 QColor colorOf(ReclaimSafety safety);
 
 /// "safe", "regenerates", "review".

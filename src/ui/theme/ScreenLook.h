@@ -10,7 +10,7 @@
 
 namespace zelk {
 
-/// How a module presents itself. The colour does not follow the theme.
+/// The title, subtitle, symbol and colour of a module. The colour does not depend on the theme.
 struct ScreenLook {
     Q_GADGET
     QML_VALUE_TYPE(screenLook)

@@ -12,7 +12,7 @@ namespace zelk {
 
 namespace {
 
-/// What makes one picture.
+/// The key of a cached image.
 struct Tinting {
     QString name;
     QRgb color;
@@ -27,12 +27,12 @@ size_t qHash(const Tinting& tinting, size_t seed = 0) {
 
 constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
 
-/// The pictures drawn last, so that a list whose every row has the same symbol reads its file once.
+/// Caches recent images, so that a list with the same symbol in every row reads its file once.
 class DrawnSymbols {
 public:
     template <typename Draw>
     QImage take(const Tinting& tinting, Draw draw) {
-        const QMutexLocker lock(&mutex_);  // items paint on the threads that render their windows
+        const QMutexLocker lock(&mutex_);  // items paint on the render threads of their windows
         if (const QImage* image = images_.object(tinting)) return *image;
         const QImage image = draw(tinting);
         if (!image.isNull()) images_.insert(tinting, new QImage(image), image.sizeInBytes());

@@ -9,15 +9,15 @@
 
 namespace zelk {
 
-/// The SVG resource of a symbol; it exists for every name that a screen uses.
+/// The SVG resource of a symbol; exists for every name that a screen uses.
 QString symbolFile(const QString& name);
 
-/// The symbol in `pixels` x `pixels`, every covered point in `color`; a null image if there is no such symbol. The
-/// last pictures are kept, so that asking again costs nothing. From any thread.
+/// Renders the symbol at `pixels` x `pixels` with all its shapes in `color`; null if there is no such symbol. Recent
+/// images are cached. Safe from any thread.
 QImage tintedSymbol(const QString& name, const QColor& color, int pixels);
 
-/// A symbol on screen, square, tinted here and not by a shader, so that it looks the same in every renderer. It says
-/// nothing to a screen reader: the control that it stands on does.
+/// A square symbol. Tinted on the CPU rather than by a shader, so that it looks the same with every renderer. Hidden
+/// from screen readers: the control around it has the name.
 class SymbolItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -32,7 +32,7 @@ public:
     void setName(const QString& name);
     QColor color() const { return color_; }
     void setColor(const QColor& color);
-    /// The side of its grid, of which the symbols leave a rim free.
+    /// The side length including the margin of the symbol's grid.
     qreal size() const { return size_; }
     void setSize(qreal size);
 

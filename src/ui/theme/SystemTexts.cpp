@@ -16,7 +16,7 @@ struct Wordings {
     const char* desktopLinux;
 };
 
-// In the order of the keys.
+// One row per key, in the same order.
 constexpr std::array<Wordings, SystemTexts::keyCount> table{{
     // WholeComputer
     {QT_TRANSLATE_NOOP("SystemTexts", "your whole Mac"), QT_TRANSLATE_NOOP("SystemTexts", "your whole computer")},

@@ -8,8 +8,8 @@
 
 namespace zelk {
 
-/// The texts that name the system, a part of it, or a key of its keyboard: each has a wording for macOS and one for
-/// Linux, in one table. Views ask the singleton, models the static functions. Main thread.
+/// Texts that name the operating system, a part of it or a key: one table with a wording for macOS and one for Linux.
+/// Views use the singleton, models the static functions. Main thread.
 class SystemTexts : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -28,7 +28,7 @@ public:
         AccessTitle,
         AccessPurpose,
         AccessSteps,
-        AccessSettings,  ///< empty where there are no settings for it
+        AccessSettings,  ///< empty where the system has no such settings
         SimulatorNote,
         HelpMeasuring,
         HelpMenuKeys,
@@ -49,16 +49,16 @@ public:
 
     using QObject::QObject;
 
-    /// In the wording of the system that is shown, translated.
+    /// The translated wording for the system in use, see shown().
     Q_INVOKABLE static QString of(zelk::SystemTexts::Key key);
-    /// A text from below, where nobody knows of systems: if it is a row's wording for macOS, the wording of the system
-    /// that is shown, else the text itself.
+    /// Rewords a text of a lower layer, which does not know the system: if it equals the macOS wording of a row,
+    /// returns the wording for the system in use, else the text itself.
     static QString worded(std::string_view text);
 
-    /// A cell of the table, in UTF-8.
+    /// A cell of the table, UTF-8, untranslated.
     static const char* wording(Key key, System system);
 
-    /// The system the application was built for, until a test shows another one's texts. What was read before stays.
+    /// The system in use: the one built for, unless a test calls show(). Texts that were read before do not change.
     static System shown();
     static void show(System system);
 };

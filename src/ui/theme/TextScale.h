@@ -8,13 +8,12 @@ namespace zelk {
 
 class DesktopSettings;
 
-/// Whether the toolkit on this platform ("xcb", "wayland", ...) takes the desktop's text size into the scale of all
-/// that it draws. On X11 it does: there the desktop tells it as a resolution of the screen.
+/// Whether Qt's platform plugin ("xcb", "wayland", ...) already applies the desktop's text size to its scale factor.
+/// X11 does: the desktop sets the text size through the screen's resolution.
 bool toolkitScalesTexts(const QString& platformName);
 
-/// How much larger than drawn a person wants to read, as QML reads it: one per engine. Every text of the house has its
-/// size multiplied by it (Words and FigureText do so), and the layouts follow the texts. It starts with the desktop's
-/// setting and follows it until somebody says otherwise. Main thread.
+/// The user's text size as a factor, one instance per QML engine. Words and FigureText multiply their font size by it,
+/// and layouts follow the text. Follows the desktop's setting until setFactor() is called. Main thread.
 class TextScale : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -30,7 +29,8 @@ public:
     explicit TextScale(const DesktopSettings& desktop, QObject* parent = nullptr);
 
     qreal factor() const { return factor_; }
-    /// Clamped to what the layouts bear. From now on the desktop is not asked any more.
+    /// Overrides the desktop's setting from now on. Clamped to `smallest` and `largest`, the range that layouts
+    /// support.
     void setFactor(qreal factor);
 
 signals:

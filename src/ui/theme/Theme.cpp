@@ -11,7 +11,7 @@ namespace zelk {
 
 namespace {
 
-/// What the toolkit knows of it; one that is older than 6.5 knows nothing.
+/// The colour scheme according to Qt, which knows it since 6.5.
 DesktopScheme toolkitScheme() {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     switch (QGuiApplication::styleHints()->colorScheme()) {
@@ -37,7 +37,7 @@ Theme::Theme(QObject* parent) : Theme(DesktopSettings::ofApplication(), parent) 
 
 Theme::Theme(const DesktopSettings& desktop, QObject* parent) : QObject(parent), desktop_(desktop) {
     connect(&desktop, &DesktopSettings::schemeChanged, this, &Theme::choose);
-    // The palette has no signal of its own that outlives Qt 6.0; the application gets an event.
+    // QGuiApplication's signal for the palette is deprecated since Qt 6.0; an event replaces it.
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -63,7 +63,7 @@ void Theme::show(const ZelkTheme& theme) {
 }
 
 QColor Theme::textOf(const QColor& color) const {
-    // What is hardest to read on: the darkest ground of the light theme, the lightest of the dark one.
+    // The background with the least contrast: the darkest of the light theme, the lightest of the dark one.
     return readable(color, current_->isDark ? current_->surfaceHi : current_->ground, current_->ink);
 }
 

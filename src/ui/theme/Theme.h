@@ -14,12 +14,11 @@ namespace zelk {
 
 class AppModel;
 
-/// Where the desktop says nothing, its palette still follows it: dark is where the text is lighter than what it stands
-/// on.
+/// Without a scheme, decides by the palette, which still follows the desktop: dark if text is lighter than the window.
 bool desktopIsDark(DesktopScheme scheme, const QPalette& palette);
 
-/// The theme in use, as QML reads it: one per engine. It swaps between the two fixed instances when the model's
-/// appearance changes, or the desktop's where the model says to follow it. Main thread.
+/// The current theme, one instance per QML engine. Switches between the two fixed themes when the model's appearance
+/// changes, or the desktop's if the model follows the system. Main thread.
 class Theme : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -46,10 +45,11 @@ public:
     /// `desktop` must outlive it.
     explicit Theme(const DesktopSettings& desktop, QObject* parent = nullptr);
 
-    /// From now on `model` chooses. Until then, and when it has gone, the dark instance or the last one stays.
+    /// Follows the appearance of `model` from now on. Before that the theme is dark; after the model's end it stays as
+    /// it was.
     void follow(AppModel& model);
 
-    /// For programs without a model.
+    /// Sets the theme directly, in programs without a model.
     void show(const ZelkTheme& theme);
 
     const ZelkTheme& current() const { return *current_; }
@@ -66,13 +66,13 @@ public:
     QColor accentSoft() const { return current_->accentSoft; }
     QColor alert() const { return current_->alert; }
     QColor accentInk() const { return AccentGradient::ink(); }
-    /// The accent and the alert as texts, dark enough to be read on the ground and on whatever lies on it.
+    /// The accent and alert colours adjusted for text, readable on every background of the theme.
     QColor accentText() const { return textOf(current_->accent); }
     QColor alertText() const { return textOf(current_->alert); }
-    /// What lies over a thing under the pointer, and over a pressed one.
+    /// Overlays for hovered and pressed items.
     QColor hoverWash() const { return withOpacity(current_->ink, 0.07); }
     QColor pressWash() const { return withOpacity(current_->ink, 0.13); }
-    /// Any colour as a text.
+    /// Adjusts any colour for text, see readable().
     Q_INVOKABLE QColor textOf(const QColor& color) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-/// Faces beside the application's own, as QML names them.
+/// Font families other than the application's own.
 class Typeface : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -17,7 +17,7 @@ class Typeface : public QObject {
 public:
     using QObject::QObject;
 
-    /// The system's face in which every character has one width, for figures that stand under each other.
+    /// The system's monospaced family, for columns of numbers.
     QString fixed() const;
 };
 

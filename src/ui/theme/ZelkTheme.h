@@ -5,18 +5,18 @@
 
 namespace zelk {
 
-/// The colours of everything that is not data: one of two fixed instances. sRGB, opaque but for the hairline.
+/// The colours of the interface, as two fixed instances. sRGB, opaque except for the hairline.
 struct ZelkTheme {
     bool isDark;
-    QColor ground;      ///< behind everything
+    QColor ground;      ///< the window's background
     QColor groundHi;    ///< the brighter end of the background's gradient
     QColor surface;     ///< cards
-    QColor surfaceHi;   ///< what lies on a card, and hovered things
+    QColor surfaceHi;   ///< items on a card, hovered items
     QColor ink;         ///< text
-    QColor inkSoft;     ///< text that steps back
+    QColor inkSoft;     ///< secondary text
     QColor hairline;    ///< outlines and dividers
-    QColor accent;      ///< the one colour that asks to be pressed
-    QColor accentSoft;  ///< its lighter companion
+    QColor accent;      ///< primary actions; spent sparingly
+    QColor accentSoft;  ///< a lighter variant of the accent
     QColor alert;
 
     static const ZelkTheme& dark();
@@ -25,25 +25,25 @@ struct ZelkTheme {
     bool operator==(const ZelkTheme&) const = default;
 };
 
-/// Fills every primary button from its top left to its bottom right corner, in both themes alike.
+/// The gradient of primary buttons, from top left to bottom right. The same in both themes.
 struct AccentGradient {
     static QColor from();
     static QColor to();
-    /// What is written on it. The gradient does not follow the theme, so this does not either.
+    /// The colour of text on the gradient, which is the same in both themes too.
     static QColor ink();
 };
 
-/// The colour at `t` (clamped to 0 to 1) on the way from `base` to `other`, always opaque: both lose their opacity.
-/// An invalid colour counts as clear black.
+/// Interpolates from `base` to `other` with `t` clamped to 0...1. The result is opaque; both lose their alpha. An
+/// invalid colour counts as transparent black.
 QColor mix(const QColor& base, const QColor& other, double t);
 
-/// `color` at `opacity` (0 to 1) in place of its own.
+/// `color` with its alpha replaced by `opacity`, 0 to 1.
 QColor withOpacity(const QColor& color, double opacity);
 
-/// The contrast of two opaque colours as the accessibility guidelines count it: 1 (none) to 21.
+/// The contrast ratio of two opaque colours as defined by WCAG: 1 (none) to 21.
 double contrast(const QColor& one, const QColor& other);
 
-/// `color` moved towards `ink` by no more than it takes to be read as text on `ground`: a contrast of 4.5.
+/// Moves `color` towards `ink` just far enough for text on `ground`, which needs a contrast of 4.5.
 QColor readable(const QColor& color, const QColor& ground, const QColor& ink);
 
 }  // namespace zelk
