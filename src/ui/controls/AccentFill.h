@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-/// A rounded rectangle in the accent gradient, corner to corner: what a primary button is filled with.
+/// A rounded rectangle filled with the accent gradient: the background of a primary button.
 class AccentFill : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT

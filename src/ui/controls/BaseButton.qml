@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What every button of the house is: reached and pressed from the keyboard, named to a screen reader, and with a hand
-// under the pointer. How one looks is its own affair.
+// The base of all buttons: keyboard activation, accessible name and role, hand cursor. Subtypes define the look.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +8,7 @@ import QtQuick.Templates as T
 T.AbstractButton {
     id: button
 
-    // The name; a button that shows it writes it itself.
+    // The accessible name. Subtypes with a visible label draw it themselves.
     required text
 
     focusPolicy: Qt.StrongFocus

@@ -9,7 +9,7 @@
 
 namespace zelk {
 
-/// Gradients in one expression. Points in the painter's units, stops from 0 to 1.
+/// Gradient brushes as one expression. Points are in the painter's units, stops from 0 to 1.
 inline QBrush linearBrush(QPointF from, QPointF to, const QGradientStops& stops) {
     QLinearGradient gradient(from, to);
     gradient.setStops(stops);
@@ -20,7 +20,7 @@ inline QBrush radialBrush(QPointF center, double radius, const QGradientStops& s
     gradient.setStops(stops);
     return gradient;
 }
-/// Counter-clockwise from `start` degrees, where 0 is three o'clock.
+/// Runs counter-clockwise from `start` in degrees, where 0 is three o'clock.
 inline QBrush conicalBrush(QPointF center, double start, const QGradientStops& stops) {
     QConicalGradient gradient(center, start);
     gradient.setStops(stops);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The keys of whatever is pressed: put it into `Keys.forwardTo`. Return and Enter press as Space does, and a held key
-// presses once.
+// Key handling for clickable controls, for `Keys.forwardTo`. Return and Enter click like Space, and a held key clicks
+// once.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,13 +11,13 @@ Item {
 
     required property T.AbstractButton control
 
-    // Also asked of a button that is not to be pressed now.
+    // Assistive technology may call this on a disabled control too.
     function press(again: bool) {
         if (!again && keys.control.enabled)
             keys.control.clicked();
     }
 
-    // What a held key repeats, on some systems with releases in between, is swallowed.
+    // Swallows auto-repeat, which on some systems includes releases.
     Keys.onSpacePressed: event => event.accepted = event.isAutoRepeat
     Keys.onReleased: event => event.accepted = event.isAutoRepeat
     Keys.onReturnPressed: event => keys.press(event.isAutoRepeat)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands on a button: a symbol, if there is one, and its word, in the middle and shortened where there is no room.
+// The content of a button: an optional symbol and a text, centered and elided.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A panel that holds what belongs together. One child gives it its size; several give it the room that they take.
+// A panel with padding and a border. Its height follows a single child's implicit height, or the extent of several.
 pragma ComponentBehavior: Bound
 
 import QtQuick

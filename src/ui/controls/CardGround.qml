@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A panel with a soft shadow under it, as buttons that are cards have it.
+// The background of a card that acts as a button: a panel with a soft shadow.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A tick. It shows what it is told and never more: who hears the press decides whether that changes.
+// A check box that shows `on`. A click does not toggle it: the handler of `clicked` decides whether `on` changes.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ import Zelk.Controls
 T.CheckBox {
     id: box
 
-    // The name.
+    // The accessible name; not drawn.
     required text
     required property bool on
     property real side: 18
@@ -49,7 +49,7 @@ T.CheckBox {
             border.width: box.on ? 0 : 1
             border.color: box.hovered && box.enabled ? Theme.inkSoft : Qt.alpha(Theme.inkSoft, 0.6)
 
-            // One that comes into sight, perhaps in a row that showed something else, is as it is.
+            // Sets the colour at once while hidden: a reused delegate must not animate from its previous row.
             Behavior on color {
                 enabled: box.visible
                 ColorAnimation {

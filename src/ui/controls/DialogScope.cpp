@@ -11,7 +11,7 @@ namespace zelk {
 
 namespace {
 
-/// Whether its view keeps an item from being read. Qt hands the attached object out only to its own sources.
+/// Reads `Accessible.ignored`. Qt does not export the class of the attached object.
 bool isIgnored(const QQuickItem& item) {
     const QObjectList& parts = item.children();
     return std::any_of(parts.begin(), parts.end(), [](const QObject* part) {
@@ -19,17 +19,17 @@ bool isIgnored(const QQuickItem& item) {
     });
 }
 
-/// What is read directly inside of `item`, in the order of its children.
-std::vector<QAccessibleInterface*> readIn(const QQuickItem& item) {
+/// The nearest accessible descendants of `item`, in child order.
+std::vector<QAccessibleInterface*> accessibleChildren(const QQuickItem& item) {
     std::vector<QAccessibleInterface*> found;
     const auto children = item.childItems();
     std::vector<QQuickItem*> pending(children.rbegin(), children.rend());
     while (!pending.empty()) {
         QQuickItem* next = pending.back();
         pending.pop_back();
-        QAccessibleInterface* read = isIgnored(*next) ? nullptr : QAccessible::queryAccessibleInterface(next);
-        if (read != nullptr) {
-            found.push_back(read);
+        QAccessibleInterface* accessible = isIgnored(*next) ? nullptr : QAccessible::queryAccessibleInterface(next);
+        if (accessible != nullptr) {
+            found.push_back(accessible);
             continue;
         }
         const auto inside = next->childItems();
@@ -38,22 +38,22 @@ std::vector<QAccessibleInterface*> readIn(const QQuickItem& item) {
     return found;
 }
 
-class DialogReading : public QAccessibleObject {
+class AccessibleDialog : public QAccessibleObject {
 public:
-    explicit DialogReading(DialogScope& dialog) : QAccessibleObject(&dialog) {}
+    explicit AccessibleDialog(DialogScope& dialog) : QAccessibleObject(&dialog) {}
 
     QWindow* window() const override { return dialog().window(); }
     QAccessibleInterface* parent() const override {
         return window() == nullptr ? nullptr : QAccessible::queryAccessibleInterface(dialog().window());
     }
-    int childCount() const override { return static_cast<int>(readIn(dialog()).size()); }
+    int childCount() const override { return static_cast<int>(accessibleChildren(dialog()).size()); }
     QAccessibleInterface* child(int index) const override {
-        const auto children = readIn(dialog());
+        const auto children = accessibleChildren(dialog());
         const auto at = static_cast<std::size_t>(index);
         return index >= 0 && at < children.size() ? children[at] : nullptr;
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
-        const auto children = readIn(dialog());
+        const auto children = accessibleChildren(dialog());
         const auto at = std::find(children.begin(), children.end(), child);
         return at == children.end() ? -1 : static_cast<int>(at - children.begin());
     }
@@ -78,10 +78,10 @@ private:
     DialogScope& dialog() const { return *static_cast<DialogScope*>(object()); }
 };
 
-QAccessibleInterface* readDialog(const QString& type, QObject* object) {
+QAccessibleInterface* createAccessibleDialog(const QString& type, QObject* object) {
     auto* dialog = qobject_cast<DialogScope*>(object);
     const bool ours = dialog != nullptr && type == QLatin1String(DialogScope::staticMetaObject.className());
-    return ours ? new DialogReading(*dialog) : nullptr;  // Qt owns it
+    return ours ? new AccessibleDialog(*dialog) : nullptr;  // Qt owns it
 }
 
 }  // namespace
@@ -101,7 +101,7 @@ void DialogScope::setTitle(const QString& title) {
 }
 
 void installDialogReading() {
-    QAccessible::installFactory(&readDialog);
+    QAccessible::installFactory(&createAccessibleDialog);
 }
 
 }  // namespace zelk

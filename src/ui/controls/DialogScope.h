@@ -7,8 +7,8 @@
 
 namespace zelk {
 
-/// The inside of a dialog over a window: it keeps the keyboard, and a screen reader takes it for modal, which QML has
-/// no word for. Its view gives it the role of a dialog. Main thread.
+/// The focus scope inside a dialog over the window. Reports the dialog as modal to screen readers, which QML cannot
+/// express. The view sets the role. Main thread.
 class DialogScope : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -17,7 +17,7 @@ class DialogScope : public QQuickItem {
 public:
     explicit DialogScope(QQuickItem* parent = nullptr);
 
-    /// The name of the dialog.
+    /// The accessible name.
     const QString& title() const { return title_; }
     void setTitle(const QString& title);
 
@@ -28,7 +28,7 @@ private:
     QString title_;
 };
 
-/// Tells Qt how a DialogScope is read. Once is enough.
+/// Registers the accessible interface of DialogScope with Qt. Call once per process.
 void installDialogReading();
 
 }  // namespace zelk

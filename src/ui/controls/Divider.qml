@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A hairline across, or down.
+// A hairline, horizontal unless `vertical`.
 pragma ComponentBehavior: Bound
 
 import QtQuick

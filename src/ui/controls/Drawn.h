@@ -8,8 +8,8 @@ class QPainter;
 
 namespace zelk {
 
-/// An item that paints itself in its own size, smooth in every renderer. It repaints when a property says `changed`.
-/// (Its heirs name it with its namespace: the registrars of older toolkits know no other name of it.)
+/// Base of items that paint themselves with antialiasing at their own size. Repaints on `changed`. Subclasses spell the
+/// base with its namespace, because qmltyperegistrar of older Qt versions cannot resolve it otherwise.
 class Drawn : public QQuickPaintedItem {
     Q_OBJECT
     QML_ANONYMOUS

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands where there is nothing to list: a quiet symbol, a title and a line that helps.
+// A placeholder for an empty list: a symbol, a title and an optional hint.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The heading of a section.
+// A section heading in capitals.
 pragma ComponentBehavior: Bound
 
 import QtQuick

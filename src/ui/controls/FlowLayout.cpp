@@ -25,7 +25,7 @@ FlowPlacement flowLayout(const std::vector<QSizeF>& sizes, double spacing, doubl
 }
 
 double flowIdealWidth(const std::vector<QSizeF>& sizes, double spacing) {
-    // Added up in the order of flowLayout: a row that is exactly this wide must not wrap for a rounding.
+    // Sums in the same order as flowLayout(), so that rounding cannot wrap a row of exactly this width.
     double x = 0;
     double width = 0;
     for (const QSizeF& size : sizes) {

@@ -9,17 +9,17 @@
 namespace zelk {
 
 struct FlowPlacement {
-    std::vector<QPointF> positions;  ///< of the top left corners, in the order of the sizes
+    std::vector<QPointF> positions;  ///< top left corners, in the order of the sizes
     double height = 0;
 };
 
 inline constexpr double unlimitedWidth = std::numeric_limits<double>::infinity();
 
-/// Places items in a row that wraps where the next one would not fit into `width`. An item wider than `width` wraps
-/// also when it stands first, which leaves a gap of `spacing` above it.
+/// Places items in rows, wrapping where the next item exceeds `width`. An item wider than `width` wraps even if it is
+/// the first, which leaves `spacing` above it.
 FlowPlacement flowLayout(const std::vector<QSizeF>& sizes, double spacing, double width = unlimitedWidth);
 
-/// The width of all items in a single row.
+/// The width of all items in one row.
 double flowIdealWidth(const std::vector<QSizeF>& sizes, double spacing);
 
 }  // namespace zelk

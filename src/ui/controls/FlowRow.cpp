@@ -32,7 +32,8 @@ std::vector<QQuickItem*> FlowRow::placedChildren() const {
     return placed;
 }
 
-/// The implicit size at once, so that what lies around the row is laid out in the same frame; the children at polish.
+/// Sets the implicit size at once, so that the surrounding layout settles in the same frame. Children are placed on
+/// polish.
 void FlowRow::measure() {
     if (!isComponentComplete()) return;
     const std::vector<QSizeF> sizes = sizesOf(placedChildren());

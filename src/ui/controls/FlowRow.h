@@ -7,8 +7,8 @@
 
 namespace zelk {
 
-/// A wrapping row of its visible children, each in its own size. Its implicit width is that of a single row; its
-/// implicit height follows from its width. Children without a size (a Repeater is one) take no place.
+/// A row of its visible children that wraps. The implicit width is that of one row; the implicit height follows from
+/// the width. Skips children without a size, such as a Repeater.
 class FlowRow : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

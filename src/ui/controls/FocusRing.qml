@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where the keyboard is: a line around the control, a little off it. In the colour of the text, which stands out from
-// the ground in both themes and from every control, the accent's own too.
+// The focus ring around a control. It has the text colour, which contrasts with the background and with every control
+// in both themes, accented ones included.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -10,7 +10,7 @@ Rectangle {
     id: ring
 
     required property bool shown
-    // Of the control itself; the ring's own is as much larger as it stands off.
+    // The corner radius of the control; the ring's own is larger by the offset.
     required property real corner
 
     readonly property real offset: 3

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The bubble of a line of help.
+// A tool tip. Created by HelpTip.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A line of help at a control, shown while the pointer rests on it or the keyboard is there, and only then built.
+// Shows a tool tip for a control while it is hovered or has visible focus. Creates the popup only then.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A symbol that is pressed; its name is said, and its help stands beside it under the pointer or the keyboard.
+// A button that shows only a symbol, with `text` as its accessible name and `help` as its tool tip.
 pragma ComponentBehavior: Bound
 
 import QtQuick

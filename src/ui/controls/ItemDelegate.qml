@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A row of a short list that is pressed to be read or chosen. How it looks is its own affair.
+// The base of a selectable row in a short list. Subtypes define the look.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -8,7 +8,7 @@ import QtQuick.Templates as T
 T.ItemDelegate {
     id: row
 
-    // The name.
+    // The accessible name.
     required text
     required property bool current
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A word in the accent that leads somewhere.
+// A button that looks like a link.
 pragma ComponentBehavior: Bound
 
 import QtQuick

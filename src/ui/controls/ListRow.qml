@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A row of a RowList, as wide as the list, which tells it where to show that the keyboard is at it.
+// The base of a RowList delegate, as wide as the list. The list sets `ringed` while it has visible focus.
 import QtQuick
 
 Item {
@@ -9,11 +9,11 @@ Item {
 
     width: ListView.view?.width ?? 0
 
-    // The keyboard is the list's, and what it is at is the row.
+    // The list has the active focus; screen readers are told that the current row has it.
     Accessible.focusable: true
     Accessible.focused: row.ringed
 
-    // One that waits to be used again would still be said to a screen reader.
+    // Screen readers would still find a pooled delegate.
     ListView.onPooled: row.visible = false
     ListView.onReused: row.visible = true
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A word that opens a menu under it. Its rows are its children.
+// A button that opens a menu below it. Its children become the menu's rows.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ import Zelk.Controls
 BaseButton {
     id: button
 
-    // What the word means, where it stands beside it.
+    // The label beside the button, as the first part of the accessible name.
     property string said: ""
     property real size: 11
     default property alias rows: panel.contentData
@@ -59,7 +59,7 @@ BaseButton {
         id: panel
 
         title: button.Accessible.name
-        // A press on the button is the button's own: it closes what it opened.
+        // A press on the button is left to the button, which closes the menu.
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     }
 

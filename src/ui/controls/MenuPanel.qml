@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A menu of rows.
+// A popup menu.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ import Zelk.Controls
 T.Menu {
     id: panel
 
-    // Of its rows as they would be by themselves: here they are all as wide as the menu.
+    // The largest implicit width of the rows. Their width follows the menu's.
     readonly property real widest: {
         let most = 0;
         for (let i = 0; i < panel.count; ++i)
@@ -22,7 +22,7 @@ T.Menu {
     padding: 5
     margins: 8
     overlap: 1
-    // What is read is an item of the template, which has no name of its own.
+    // Screen readers find the popup item of the template, which has no name of its own.
     onAboutToShow: contentItem.parent.Accessible.name = panel.title
 
     delegate: MenuRow {}

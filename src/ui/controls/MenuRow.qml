@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A row of a menu.
+// An item of a MenuPanel.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -10,7 +10,7 @@ T.MenuItem {
     id: row
 
     property string symbol: ""
-    // What it does takes something away.
+    // Marks an action that removes something.
     property bool alarming: false
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding

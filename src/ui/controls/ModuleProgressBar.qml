@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The bar of work whose end nobody knows. It runs while it is seen; with reduced motion it rests in the middle.
+// An indeterminate progress bar, animated while visible. With reduced motion the segment rests in the middle.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,12 +9,12 @@ ProgressPicture {
     id: bar
 
     required property color tint
-    // What a screen reader says: whose work it is, and what is done.
+    // For screen readers: whose work it is, and its progress.
     property string name: ""
     property string doing: ""
     property real barWidth: 220
 
-    // Of one run of the sliver, and where it stands in the middle.
+    // Seconds per pass; at half of it the segment is in the middle.
     readonly property real period: 1.5
     property real clock
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A small capsule that leads to a module.
+// A capsule-shaped button with a symbol that opens a module.
 pragma ComponentBehavior: Bound
 
 import QtQuick

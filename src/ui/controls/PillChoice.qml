@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A small capsule that is one of a few choices.
+// A capsule-shaped radio button with a symbol.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What lies under the words of a small capsule.
+// The background of PillButton and PillChoice.
 pragma ComponentBehavior: Bound
 
 import QtQuick

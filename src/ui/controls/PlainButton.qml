@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A button that steps back until the pointer or the keyboard comes to it.
+// A button in a subdued colour until it is hovered or has visible focus.
 pragma ComponentBehavior: Bound
 
 import QtQuick

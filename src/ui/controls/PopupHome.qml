@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where a popup belongs: it closes when its home goes out of sight, and gives its home the keyboard back.
+// Ties a popup to an item: closes it when the item is hidden, and returns the focus to the item when it closes.
 pragma ComponentBehavior: Bound
 
 import QtQml

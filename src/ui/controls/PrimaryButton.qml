@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one thing that a screen asks for, in the accent gradient.
+// The main action of a screen, filled with the accent gradient.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -8,12 +8,11 @@ import Zelk.Controls
 BaseButton {
     id: primary
 
-    // Of the text, in points.
+    // Font size in points, before TextScale.
     property real size: 13
     property string symbol: ""
-    // What it does cannot be undone.
+    // Marks an action that cannot be undone.
     property bool alarming: false
-    // What is written on it.
     property color textColor: Theme.accentInk
 
     readonly property real corner: 12
@@ -45,7 +44,7 @@ BaseButton {
             visible: primary.alarming
         }
 
-        // Light under the pointer, shade under the finger, on either theme.
+        // Lightens on hover and darkens while pressed, in both themes.
         Rectangle {
             anchors.fill: parent
             radius: primary.corner

@@ -8,19 +8,18 @@
 
 namespace zelk {
 
-/// What runs along the track of a bar that knows no end.
+/// The moving segment of an indeterminate progress bar.
 struct ProgressSliver {
-    double left;  ///< beyond the track's ends at the ends of its way
+    double left;  ///< from minus its width to the width of the track
     double width;
 
     bool operator==(const ProgressSliver&) const = default;
 };
 
-/// Where it is at a time in seconds on any clock; it runs through once in 1.5.
+/// Its geometry after `seconds` on any clock; one pass takes 1.5 seconds.
 ProgressSliver progressSliver(double seconds, double trackWidth);
 
-/// The bar at one moment: a track, and on it what of the sliver lies within it. ModuleProgressBar is what a screen
-/// shows.
+/// Paints a frame of the progress bar: the track and the part of the segment within it. Used by ModuleProgressBar.
 class ProgressPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT

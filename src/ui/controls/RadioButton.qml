@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One of a few choices. It shows what it is told and never more: who hears the press decides whether that changes.
+// A radio button that shows `chosen`. A click does not check it: the handler of `clicked` decides whether `chosen`
+// changes.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -8,13 +9,12 @@ import QtQuick.Templates as T
 T.RadioButton {
     id: choice
 
-    // The name.
+    // The accessible name.
     required text
-    // The choice that holds.
     required property bool chosen
 
     checked: choice.chosen
-    // The template checks what is pressed, and does not know who is asked.
+    // The template checks itself on a click, so the binding is restored below.
     autoExclusive: false
     onCheckedChanged: {
         if (choice.checked !== choice.chosen)

@@ -10,10 +10,10 @@ namespace {
 
 constexpr std::size_t none = static_cast<std::size_t>(-1);
 
-/// Which of `values` (`none` is left out) form the longest run that rises.
-std::vector<bool> longestRising(const std::vector<std::size_t>& values) {
-    std::vector<std::size_t> ends;                           // of the best run of each length: where it ends
-    std::vector<std::size_t> previous(values.size(), none);  // in the run that ends here
+/// Marks the longest increasing subsequence of `values`, ignoring `none`.
+std::vector<bool> longestIncreasing(const std::vector<std::size_t>& values) {
+    std::vector<std::size_t> ends;                           // the last index of the best run of each length
+    std::vector<std::size_t> previous(values.size(), none);  // the index before each one in its run
     for (std::size_t at = 0; at < values.size(); ++at) {
         if (values[at] == none) continue;
         const auto place = std::lower_bound(ends.begin(), ends.end(), values[at],
@@ -29,7 +29,7 @@ std::vector<bool> longestRising(const std::vector<std::size_t>& values) {
     return rising;
 }
 
-/// The stretches of rows that do not stay.
+/// The ranges of rows that do not stay.
 std::vector<RowRange> gaps(const std::vector<bool>& stays) {
     std::vector<RowRange> ranges;
     for (std::size_t row = 0; row < stays.size(); ++row) {
@@ -46,16 +46,16 @@ RowEdits rowEdits(const std::vector<std::string_view>& before, const std::vector
     std::unordered_map<std::string_view, std::size_t> places;
     places.reserve(after.size());
     for (std::size_t row = 0; row < after.size(); ++row) places.emplace(after[row], row);
-    std::vector<std::size_t> goesTo(before.size(), none);
+    std::vector<std::size_t> newRows(before.size(), none);
     for (std::size_t row = 0; row < before.size(); ++row)
-        if (const auto place = places.find(before[row]); place != places.end()) goesTo[row] = place->second;
+        if (const auto place = places.find(before[row]); place != places.end()) newRows[row] = place->second;
 
-    const std::vector<bool> stays = longestRising(goesTo);
-    std::vector<bool> wasThere(after.size(), false);
+    const std::vector<bool> stays = longestIncreasing(newRows);
+    std::vector<bool> kept(after.size(), false);
     for (std::size_t row = 0; row < before.size(); ++row)
-        if (stays[row]) wasThere[goesTo[row]] = true;
+        if (stays[row]) kept[newRows[row]] = true;
 
-    RowEdits edits{gaps(stays), gaps(wasThere)};
+    RowEdits edits{gaps(stays), gaps(kept)};
     std::reverse(edits.removals.begin(), edits.removals.end());
     return edits;
 }

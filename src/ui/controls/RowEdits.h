@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// From one list of rows to the next with the fewest rows touched, so that a view keeps its place and its delegates.
+// The smallest set of removals and insertions between two lists, so that a view keeps its position and delegates.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace zelk {
 
-/// `count` rows from `first` on.
+/// `count` rows starting at `first`.
 struct RowRange {
     std::size_t first = 0;
     std::size_t count = 0;
@@ -17,12 +17,12 @@ struct RowRange {
 };
 
 struct RowEdits {
-    std::vector<RowRange> removals;    ///< in rows of the old list, the last one first: to be made in this order
-    std::vector<RowRange> insertions;  ///< in rows of the new list, the first one first; after the removals
+    std::vector<RowRange> removals;    ///< rows of the old list, last range first; apply in this order
+    std::vector<RowRange> insertions;  ///< rows of the new list, first range first; apply after the removals
 };
 
-/// What makes `before` into `after`. A key names a row and is unique in its list; a row that moves is taken out and put
-/// in again. As many rows as can be stay where they are.
+/// Computes the edits from `before` to `after`. A key identifies a row and is unique in its list. A row that moves is
+/// removed and inserted; as many rows as possible stay.
 RowEdits rowEdits(const std::vector<std::string_view>& before, const std::vector<std::string_view>& after);
 
 }  // namespace zelk

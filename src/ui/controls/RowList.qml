@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A list of which only the rows in sight are made, and one stop for the Tab key: the arrows, Home, End and the page
-// keys go through its rows. What other keys do to the current row is the screen's affair. A row shows the ring where
-// `ringed` and it is the current one, and calls `take` when it is pressed.
+// A virtualized list with one stop in the focus chain. The arrows, Home, End and the page keys move the current row;
+// the screen handles other keys. A delegate draws the focus ring if `ringed` is set and it is the current item, and
+// calls `take` when pressed.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -13,7 +13,7 @@ ListView {
 
     required property string name
 
-    // Whether the keyboard goes through the rows, and not only the pointer.
+    // Whether the current row has visible focus.
     readonly property bool ringed: list.activeFocus && list.byKey
     property bool byKey: false
 
@@ -32,7 +32,7 @@ ListView {
         list.moved();
     }
 
-    // Rows that a page holds, as high as the current one is.
+    // Rows per page, estimated from the height of the current row.
     readonly property int page: Math.max(1, Math.floor(list.height / Math.max(list.currentItem?.height ?? 0, 24)) - 1)
 
     clip: true
@@ -50,7 +50,7 @@ ListView {
             list.currentIndex = 0;
     }
 
-    // A new list of rows leaves the place where it is, also where it has no row any more.
+    // Keeps the position when rows change, clamped to the last row.
     onCountChanged: {
         if (list.count > 0 && list.currentIndex >= list.count)
             list.currentIndex = list.count - 1;
@@ -74,7 +74,7 @@ ListView {
             event.accepted = false;
     }
 
-    // A list that the Tab key comes to shows where it stands.
+    // Shows the focus ring when the list was reached by Tab.
     Keys.onReleased: event => {
         if (event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab)
             list.byKey = true;

@@ -21,7 +21,7 @@ void RowOrder::watch() {
     arrangeSoon();
 }
 
-/// Runs once for all rows that move at the same time.
+/// Queues one arrange() for all rows that move in the same event.
 void RowOrder::arrangeSoon() {
     if (due_) return;
     due_ = true;

@@ -18,7 +18,7 @@ class RowOrder : public QObject {
 public:
     using QObject::QObject;
 
-    /// The item that holds the rows; not owned.
+    /// The item whose children are the rows; not owned.
     QQuickItem* content() const { return content_; }
     void setContent(QQuickItem* content);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What may be higher than its room: scrolled by wheel, bar and keys, and by the Tab key, which never leaves the sight.
-// Its children lie in the content; give them `width: parent.width`.
+// A vertically scrolling area with wheel, scroll bar and keys. Scrolls an item into view when it receives focus by the
+// keyboard. Children are placed in the content item; give them `width: parent.width`.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ import QtQuick.Templates as T
 Flickable {
     id: area
 
-    // Kept free between a control that the keyboard comes to and the edge.
+    // The minimum distance between a focused item and the edge.
     property real margin: 16
 
     contentWidth: width
@@ -34,7 +34,7 @@ Flickable {
     }
 
     onFocusedChanged: {
-        // A pressed control is in sight already, and must not slip away from under the pointer.
+        // A pressed control is visible already and must not move from under the pointer.
         const byHand = (area.focused as T.Control)?.focusReason === Qt.MouseFocusReason;
         for (let item = area.focused; item && !byHand; item = item.parent) {
             if (item === area.contentItem)

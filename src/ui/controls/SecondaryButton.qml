@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a screen offers beside the one thing that it asks for.
+// An action beside the main action of a screen.
 pragma ComponentBehavior: Bound
 
 import QtQuick

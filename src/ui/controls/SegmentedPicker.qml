@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One of a few words, side by side. The Tab key comes to the picked one; the arrow keys pick its neighbours.
+// A segmented control: one of a few options. Tab focuses the current segment; the arrow keys pick its neighbours.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ import Zelk.Controls
 FocusScope {
     id: picker
 
-    // Said of the whole.
+    // The accessible name of the group.
     required property string label
     required property var options
     required property int current
@@ -46,7 +46,7 @@ FocusScope {
     Row {
         id: row
 
-        // Side by side they share what room there is.
+        // Shrinks all segments by the same factor if they do not fit.
         readonly property real share: Math.max(0, picker.width - 2 * picker.inset) / Math.max(1, row.wanted)
         readonly property real wanted: {
             let sum = 0;
@@ -69,7 +69,7 @@ FocusScope {
                 required property int index
                 required property string modelData
 
-                // Where nothing is picked yet the first one takes the keyboard.
+                // The first segment takes the focus if none is current.
                 readonly property bool reached: segment.chosen || (segment.index === 0 && (picker.current < 0 || picker.current >= picker.options.length))
 
                 text: segment.modelData

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A dialog over the window. Who shows it decides when it goes: Escape only says `dismissed`. The keyboard stays inside
-// while it is there, and afterwards is where it was. Its one child is as wide as the sheet, and at least as high.
+// A modal dialog over the window. It does not close itself: Escape emits `dismissed`. The focus stays inside while it
+// is open and returns to the previous item afterwards. Its only child is as wide as the sheet and at least as high.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,17 +11,17 @@ T.Popup {
     id: sheet
 
     required property string title
-    // What Enter presses, wherever the keyboard is.
+    // The button that Return and Enter click, wherever the focus is.
     property T.AbstractButton primary: null
     property bool closable: true
     property real sheetWidth: 460
-    // 0: as high as the content.
+    // 0 follows the content.
     property real sheetHeight: 0
     default property Item body: null
 
     signal dismissed
 
-    // What had the keyboard before, and whether it showed it.
+    // The item that had the focus before, and whether its focus was visible.
     property Item before: null
     property bool ringed: false
 
@@ -40,7 +40,7 @@ T.Popup {
     closePolicy: T.Popup.NoAutoClose
 
     onAboutToShow: {
-        // The content is the dialog; the template's item around it would be another one.
+        // SheetBody has the dialog role; the template's popup item would be a second dialog.
         contentItem.parent.Accessible.ignored = true;
         sheet.before = sheet.parent?.Window.activeFocusItem ?? null;
         sheet.ringed = (sheet.before as T.Control)?.visualFocus ?? false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The inside of a sheet: what it shows, scrolling where it is too high, and the keys that mean something everywhere.
+// The content of a Sheet: scrolls the body if it is too high, and handles Escape, Return and Enter.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -12,7 +12,7 @@ DialogScope {
     required property Item body
     required property real bodyWidth
     required property T.AbstractButton primary
-    // The scroll bar stands in the padding, not on the content.
+    // Moves the scroll bar into the sheet's padding, off the content.
     required property real barMargin
 
     signal escaped

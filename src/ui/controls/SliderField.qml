@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A value on a line, moved by the pointer, the wheel and the arrow keys.
+// A slider with pointer, wheel and arrow key input.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ import Zelk.Controls
 T.Slider {
     id: slider
 
-    // What it sets, and its value in words.
+    // The accessible name, and the value as text.
     required property string label
     required property string valueText
 
@@ -21,11 +21,11 @@ T.Slider {
     wheelEnabled: true
     opacity: slider.enabled ? 1 : 0.45
 
-    // By these names a screen reader asks for the range.
+    // Qt's accessibility reads the range from properties with these names.
     readonly property real minimumValue: slider.from
     readonly property real maximumValue: slider.to
 
-    // Unlike `moved` it is told of a screen reader's hand too.
+    // Unlike `moved`, also emitted when assistive technology changes the value.
     signal picked(real value)
 
     property bool made: false

@@ -10,9 +10,9 @@
 namespace zelk {
 
 void SoftShadow::draw(QPainter& painter) {
-    constexpr double offset = 2;  // light falls from above
+    constexpr double offset = 2;  // as if lit from above
     const int rings = std::max(1, static_cast<int>(std::lround(radius_)));
-    // Growing panels over each other, each as thin as it takes to come to the strength where all of them lie.
+    // Stacks growing rounded rectangles, each with the opacity that adds up to `strength_` where all overlap.
     painter.setBrush(withOpacity(Qt::black, 1 - std::pow(1 - strength_, 1.0 / rings)));
     for (int ring = 0; ring < rings; ++ring) {
         const double grown = radius_ * (1 - 2.0 * (ring + 0.5) / rings);

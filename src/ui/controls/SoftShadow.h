@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-/// The blurred black shadow of a rounded panel, which lies `inset` inside the item on all sides.
+/// The blurred black shadow of a rounded panel that is inset by `inset` on all sides of the item.
 class SoftShadow : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
@@ -25,8 +25,8 @@ protected:
 private:
     double inset_ = 0;
     double corner_ = 0;
-    double radius_ = 0;    // how far it is blurred, to either side of the panel's edge
-    double strength_ = 0;  // its opacity where it is full
+    double radius_ = 0;    // blur radius, to either side of the panel's edge
+    double strength_ = 0;  // maximum opacity
 };
 
 }  // namespace zelk

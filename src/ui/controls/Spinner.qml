@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Work that will not take long. It stands still with reduced motion.
+// A busy indicator for short work. Stands still with reduced motion.
 pragma ComponentBehavior: Bound
 
 import QtQuick

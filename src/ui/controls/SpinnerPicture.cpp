@@ -17,7 +17,7 @@ void SpinnerPicture::draw(QPainter& painter) {
     const double lineWidth = std::max(1.5, side / 9);
     const double head = noon - 360 * turn_;
     const QRectF ring = QRectF(0, 0, side, side).adjusted(lineWidth / 2, lineWidth / 2, -lineWidth / 2, -lineWidth / 2);
-    // The tail ends a little before the head comes round again, so that the seam lies in the gap.
+    // Ends the tail before the head, so that the gradient's seam lies in the gap.
     const QBrush comet = conicalBrush(ring.center(), head,
                                       {{0, color_}, {span / 360, withOpacity(color_, 0)}, {1, withOpacity(color_, 0)}});
     painter.setPen(QPen(comet, lineWidth, Qt::SolidLine, Qt::FlatCap));

@@ -8,7 +8,8 @@
 
 namespace zelk {
 
-/// A comet on a ring at one moment, its head `turn` of a turn past noon with the clock. Spinner is what a screen shows.
+/// Paints a frame of the spinner: an arc with a fading tail, its head `turn` revolutions clockwise from twelve o'clock.
+/// Used by Spinner.
 class SpinnerPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT

@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-/// How texts that stand apart on screen are said in one breath to somebody who does not see them.
+/// Composes texts for screen readers.
 class Spoken : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -16,7 +16,7 @@ class Spoken : public QObject {
 public:
     using QObject::QObject;
 
-    /// With pauses between them; empty ones are left out.
+    /// Joins the non-empty texts with commas, which screen readers pause at.
     Q_INVOKABLE static QString joined(QStringList texts);
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A figure under its name.
+// A number with its label above it.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A number with its name before it and a button at either side; the arrow keys step it too.
+// A spin box with its label before it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,13 +11,13 @@ T.SpinBox {
 
     required property string label
     property alias step: stepper.stepSize
-    // How the number is written, where it is more than a number.
+    // The displayed value, for formats with a unit.
     property string valueText: stepper.displayText
     property real size: 12
 
     signal moved(int value)
 
-    // What its face measures. (An id of the face would make the template build it at once.)
+    // Measured by the content item. It has no id, because an id would disable its deferred creation.
     property real nameWidth: 0
     property real numberWidth: 0
 
@@ -31,11 +31,11 @@ T.SpinBox {
     hoverEnabled: true
     opacity: stepper.enabled ? 1 : 0.45
 
-    // By these names a screen reader asks for the range.
+    // Qt's accessibility reads the range from properties with these names.
     readonly property int minimumValue: stepper.from
     readonly property int maximumValue: stepper.to
 
-    // A screen reader sets the value itself.
+    // Suppresses `moved` for initial values. It follows `value`, which assistive technology sets directly.
     property bool made: false
 
     Accessible.name: stepper.label
@@ -43,7 +43,7 @@ T.SpinBox {
         if (stepper.made)
             stepper.moved(stepper.value);
     }
-    // The template makes its face a stop of its own for the Tab key, which no key works on and nobody could name.
+    // The template puts the content item into the focus chain, where it has neither keys nor a name.
     Component.onCompleted: {
         contentItem.activeFocusOnTab = false;
         stepper.made = true;
@@ -56,7 +56,7 @@ T.SpinBox {
         required property bool down
         required property bool hovered
 
-        // There is no further step.
+        // Dimmed at the end of the range.
         opacity: stepButton.enabled ? 1 : 0.35
 
         Rectangle {

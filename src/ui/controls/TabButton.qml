@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One of the places that a window shows, of which one is chosen. How it looks is its own affair.
+// The base of a tab, one of which is chosen. Subtypes define the look.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -8,11 +8,11 @@ import QtQuick.Templates as T
 T.TabButton {
     id: tab
 
-    // The name.
+    // The accessible name.
     required text
     required property bool chosen
 
-    // Whether it is chosen is told by the model alone.
+    // A click must not check it: only the model changes `chosen`.
     checkable: false
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A word in its colour, on a breath of the same colour.
+// A coloured text on a tint of the same colour.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A symbol that looks as large as text of a size: of its grid's 24 units the ink takes about 20.
+// A symbol sized to match text of `points`: the drawing fills about 20 of the 24 units of the symbol's grid.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A thin bar at the edge, there while there is something to scroll.
+// A thin scroll bar, visible while the content overflows.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -14,7 +14,7 @@ T.ScrollBar {
     padding: 2
     minimumSize: 0.06
     visible: bar.size < 1
-    // What it scrolls is read as a whole, and has the keys for it.
+    // Screen readers see the whole content, and the keyboard scrolls the area itself.
     Accessible.ignored: true
     Accessible.focusable: false
 

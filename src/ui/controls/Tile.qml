@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A symbol on a rounded tile of its own colour.
+// A symbol on a rounded square tinted in its colour.
 pragma ComponentBehavior: Bound
 
 import QtQuick

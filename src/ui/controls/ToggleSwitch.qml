@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A switch with its word before it.
+// A switch with its label before it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -10,12 +10,12 @@ T.Switch {
     id: toggle
 
     required text
-    // Whether the word is written beside it; it is always said.
+    // Whether the label is drawn; it is the accessible name in any case.
     property bool labelled: true
     property real size: 12
     property bool soft: false
 
-    // The word keeps the room of the indicator free at its right.
+    // The label reserves the indicator's space as padding.
     implicitWidth: (toggle.labelled ? implicitContentWidth : indicator.implicitWidth) + leftPadding + rightPadding
     implicitHeight: Math.max(indicator.implicitHeight, toggle.labelled ? implicitContentHeight : 0) + topPadding + bottomPadding
     spacing: 12
@@ -30,7 +30,7 @@ T.Switch {
     Accessible.onPressAction: toggle.flip(false)
     Accessible.onToggleAction: toggle.flip(false)
 
-    // As a finger does it, and once for a key that is held.
+    // Toggles like a click. Auto-repeat of a held key is ignored.
     function flip(again: bool) {
         if (again || !toggle.enabled)
             return;

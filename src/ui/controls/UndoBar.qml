@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A bar at the foot of a screen that moved something to the Trash, with a button to undo that. It takes no room while
-// it is not shown. When it goes while it has the keyboard, the screen takes that back on `gone`.
+// A bar at the bottom of a screen that moved something to the Trash, with an Undo button. Takes no space while hidden.
+// If it is hidden while it has the focus, it emits `gone` so that the screen takes the focus back.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,22 +9,22 @@ import Zelk.Controls
 FocusScope {
     id: bar
 
-    // Whose removal the bar tells of; null before its screen has a model.
+    // The model of the removal; null until the screen has a model.
     property UndoBarModel removal: null
 
     property bool shown: bar.removal?.shown ?? false
     property bool undoable: bar.removal?.undoable ?? false
     property string text: bar.removal?.text ?? ""
-    // One line for each reason; empty without any.
+    // One reason per line; may be empty.
     property string details: bar.removal?.details ?? ""
-    // All that the bar says, for a screen reader.
+    // The accessible name.
     property string spoken: bar.removal?.spoken ?? bar.text
 
     signal undoPressed
     signal closePressed
     signal gone(byKey: bool)
 
-    // Whether it was last used by the keyboard.
+    // Whether the keyboard used it last.
     property bool byKey: false
     readonly property real buttonRoom: undo.visible ? dot.width + undo.width + 2 * 4 : 0
     readonly property real textRoom: close.x - texts.x - bar.buttonRoom - 16
@@ -114,7 +114,7 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         visible: bar.undoable
         text: qsTr("Undo")
-        // The button is about to go: the keyboard stays in the bar.
+        // The button is about to disappear: keep the focus in the bar.
         onClicked: {
             bar.byKey = undo.visualFocus;
             if (undo.activeFocus)

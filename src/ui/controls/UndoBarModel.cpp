@@ -59,7 +59,7 @@ void UndoBarModel::show(State state, const QString& text, const QString& details
 
 void UndoBarModel::showOffer() {
     if (state_ == State::restoring) {
-        offeredMeanwhile_ = true;  // the outcome comes first
+        offeredMeanwhile_ = true;  // shown after the outcome of the undo
         return;
     }
     if (removal_.source() == source_)
@@ -76,7 +76,8 @@ void UndoBarModel::showOutcome(const RemovalUndo::Outcome& outcome) {
         showOffer();
         return emit changed();
     }
-    // English needs no translation to tell one from many; other languages have their forms in the second text.
+    // Chooses the English singular here, since English has no translation file and so no plural forms. Translations
+    // have theirs in the second text.
     const auto restored = static_cast<int>(outcome.restored);
     QStringList sentences;
     if (restored > 0)
@@ -100,7 +101,7 @@ void UndoBarModel::showOutcome(const RemovalUndo::Outcome& outcome) {
     show(State::ended, sentences.join(QLatin1Char(' ')), reasons.join(QLatin1Char('\n')));
 }
 
-/// The result of a running undo is shown in any case.
+/// Keeps the bar while an undo runs, so that its result is shown.
 void UndoBarModel::hideUnlessRestoring() {
     if (state_ == State::offered || state_ == State::ended) dismiss();
 }

@@ -11,8 +11,8 @@ namespace zelk {
 
 class AppModel;
 
-/// What the bar of a screen says about the last removal of that screen: that it went to the Trash, or what an undo
-/// restored and what it did not, and why. Shown until the next removal, a survey, or dismiss(). Main thread.
+/// Tells the undo bar of a screen about its last removal: that items went to the Trash, or what an undo restored, what
+/// it did not, and why. Shown until the next removal, a survey or dismiss(). Main thread.
 class UndoBarModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,16 +24,16 @@ class UndoBarModel : public QObject {
     Q_PROPERTY(QString spoken READ spoken NOTIFY changed FINAL)
 
 public:
-    /// `source` is the kind of removal that the screen asks for. `app` must outlive it.
+    /// `source` is the kind of removal that this screen starts. `app` must outlive the model.
     UndoBarModel(AppModel& app, RemovalUndo::Source source);
 
     bool shown() const { return state_ != State::hidden; }
-    /// undo() would try to restore something.
+    /// Whether undo() has anything to restore.
     bool undoable() const;
     QString text() const { return text_; }
-    /// One line for each item that was not restored, of which there may be many; empty without any.
+    /// Why items were not restored, a line each: the first three reasons and the number of others. May be empty.
     QString details() const { return details_; }
-    /// Both, as one sentence after the other.
+    /// text() and details() as sentences for a screen reader.
     QString spoken() const;
 
 public slots:

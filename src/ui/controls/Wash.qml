@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What lies over a control under the pointer and over a pressed one.
+// An overlay that marks a control as hovered or pressed.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one text of the house: plain, in the theme's ink, as large as the person reads. It says itself to a screen
-// reader, unless the control that it stands on does.
+// Base label: plain text in the theme's colour, scaled by TextScale. Read by screen readers unless `mute`.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,18 +8,18 @@ import Zelk.Controls
 Text {
     id: words
 
-    // In points at the normal text size.
+    // Font size in points, before scaling.
     property real size: 13
-    // Steps back behind what it explains.
+    // Secondary text.
     property bool soft: false
-    // Said by what it stands on.
+    // Hides it from screen readers, where the control around it has the text as its name.
     property bool mute: false
 
     color: words.soft ? Theme.inkSoft : Theme.ink
     font.pixelSize: Math.round(words.size * TextScale.factor)
     textFormat: Text.PlainText
     elide: words.wrapMode === Text.NoWrap ? Text.ElideRight : Text.ElideNone
-    // (To Qt 6.4 a static text takes the keyboard, whatever it is told.)
+    // Not StaticText, which Qt 6.4 reports as focusable in any case.
     Accessible.role: Accessible.Paragraph
     Accessible.name: words.text
     Accessible.ignored: words.mute
