@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The bubble map of a model: one stop for the Tab key, and for a screen reader a bubble each, with its name, size and
-// share.
+// The bubble map of a model: one stop in the focus chain, and an accessible list item per bubble with its name, size
+// and share.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -50,7 +50,7 @@ BubblePicture {
         }
     }
 
-    // With no bubble to stand at, the keyboard stands at the map.
+    // Without a current bubble the map itself shows the focus.
     FocusRing {
         anchors.margins: 4
         shown: chart.visualFocus && chart.empty

@@ -136,7 +136,7 @@ void drawBubbleFocus(QPainter& painter, const PackedCircle& circle, const QColor
 
 QRectF bubbleBox(const PackedCircle& circle) {
     const double radius = std::max(circle.radius, 0.0);
-    // A blur fades out at one and a half times its own length.
+    // A blur has faded out at one and a half times its length.
     const double reach = radius + std::max(1.5 * shadowBlur(radius) + shadowDrop(radius), focusOffset + focusWidth) + 2;
     return {circle.center.x - reach, circle.center.y - reach, 2 * reach, 2 * reach};
 }

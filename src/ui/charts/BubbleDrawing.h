@@ -17,10 +17,10 @@ class QPainter;
 
 namespace zelk {
 
-/// What each circle of a map shows, in its order; of several slices with one id the first, nullptr where there is none.
+/// The slice of each circle, by index. If several slices share an id, the first; nullptr if none has it.
 using ShownSlices = std::vector<const BubbleSlice*>;
 
-/// Both must outlive it.
+/// Both arguments must outlive the result.
 ShownSlices slicesOf(const std::vector<PackedCircle>& circles, const std::vector<BubbleSlice>& slices);
 
 struct BubbleLook {
@@ -28,7 +28,7 @@ struct BubbleLook {
     double textScale = 1;  ///< by which the largest texts are larger
 };
 
-/// A line of text in a bubble; empty if there is no room for one.
+/// A line of text in a bubble; empty if it does not fit.
 struct BubbleText {
     QString text;
     QPointF middle;
@@ -37,7 +37,7 @@ struct BubbleText {
     bool operator==(const BubbleText&) const = default;
 };
 
-/// What a bubble has on its glass, as far as there is room, in the chart's points.
+/// The contents of a bubble that fit into it, in the chart's points.
 struct BubbleFace {
     QRectF icon;  ///< null without one
     BubbleText label;
@@ -46,23 +46,23 @@ struct BubbleFace {
     bool operator==(const BubbleFace&) const = default;
 };
 
-/// `widthOf` measures a text of a kind in a size.
+/// `widthOf` measures a text in a font and size.
 BubbleFace bubbleFace(const PackedCircle& circle, const BubbleSlice& slice, double textScale,
                       const std::function<double(const QString&, BubbleFont, double)>& widthOf);
 
-/// The indices of the circles that are painted, in the order in which they are: what is neither a slice's nor seen in
-/// `clip` is left out, and a null `clip` is all there is.
+/// The indices of the circles to paint, in painting order. Skips circles without a slice and those outside `clip`; a
+/// null `clip` keeps all.
 std::vector<std::size_t> paintedBubbles(const std::vector<PackedCircle>& circles, const ShownSlices& slices,
                                         const QRectF& clip);
 
-/// The circles as glass balls, later ones on top.
+/// Paints the circles as glass balls, later ones on top.
 void drawBubbles(QPainter& painter, const std::vector<PackedCircle>& circles, const ShownSlices& slices,
                  const std::optional<std::string>& hoveredID, const BubbleLook& look, BubbleTexts& texts);
 
-/// Where the keyboard is: a line around the ball, set off from whatever lies below it.
+/// Paints the focus ring of a bubble, with an outline that separates it from the bubbles below.
 void drawBubbleFocus(QPainter& painter, const PackedCircle& circle, const QColor& line, const QColor& ground);
 
-/// What a bubble draws in, with its shadow and the line around it.
+/// The area that a bubble paints, including its shadow and focus ring.
 QRectF bubbleBox(const PackedCircle& circle);
 
 }  // namespace zelk

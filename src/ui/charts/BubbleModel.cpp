@@ -13,7 +13,7 @@ void BubbleModel::setSlices(std::vector<BubbleSlice> slices) {
     emit slicesChanged();
 }
 
-// An action may set new slices: it gets one that outlives them.
+// Copies the slice, since the action may replace slices().
 void BubbleModel::tap(const BubbleSlice& slice) const {
     if (actions_.tap) actions_.tap(BubbleSlice(slice));
 }

@@ -10,8 +10,7 @@
 
 namespace zelk {
 
-/// What a screen gives to its bubble map, and what the map does when a bubble is acted on. A slice that is handed to an
-/// action is one of slices(). Main thread.
+/// The slices of a bubble map and the actions on its bubbles. Actions receive a slice of slices(). Main thread.
 class BubbleModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -20,16 +19,16 @@ class BubbleModel : public QObject {
 public:
     struct Actions {
         std::function<void(const BubbleSlice&)> tap;   ///< a click, or Enter
-        std::function<void(const BubbleSlice&)> tick;  ///< the space bar; without it, a tap
-        std::function<void()> leave;                   ///< Backspace: to what this map is a part of
+        std::function<void(const BubbleSlice&)> tick;  ///< the space bar; falls back to `tap`
+        std::function<void()> leave;                   ///< Backspace: goes to the parent map
     };
 
     explicit BubbleModel(Actions actions, QObject* parent = nullptr);
 
     const std::vector<BubbleSlice>& slices() const { return slices_; }
-    /// The largest first, for the middle of the map.
+    /// Order by size, descending, to place the largest in the middle.
     void setSlices(std::vector<BubbleSlice> slices);
-    /// The map forgets where its bubbles lay, as a new one would.
+    /// Makes the map lay out all bubbles anew, as if it had just appeared.
     void rebuild() { emit rebuilt(); }
 
     void tap(const BubbleSlice& slice) const;

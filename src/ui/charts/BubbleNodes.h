@@ -11,17 +11,17 @@
 
 namespace zelk {
 
-/// One bubble as a screen reader finds it.
+/// A bubble as an accessible node.
 struct BubbleNode {
     QString name;  ///< its label, size and share of the map
-    QString note;  ///< what else there is to say
+    QString note;  ///< the description; may be empty
     QRectF box;    ///< in the chart's points
     bool selected = false;
 
     bool operator==(const BubbleNode&) const = default;
 };
 
-/// The bubbles that are on the map, in its order.
+/// The nodes of all circles, by index.
 std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, const ShownSlices& slices);
 
 /// The same as rows: a map that is laid out anew moves them and makes none. Main thread.
@@ -35,7 +35,7 @@ public:
         : RowModel({"name", "note", "box", "selected", "current"}, parent) {}
 
     void show(std::vector<BubbleNode> nodes);
-    /// Where the keyboard is.
+    /// The row with visible focus, if any.
     void setCurrent(std::optional<std::size_t> current);
 
 private:

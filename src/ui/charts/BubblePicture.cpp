@@ -89,7 +89,7 @@ void BubblePicture::repack() {
     emit packedChanged();
 }
 
-/// After whatever changes what is drawn and said.
+/// Updates everything that derives from slices(), packed_ and the focus.
 void BubblePicture::refresh() {
     shown_ = slicesOf(packed_, slices());
     nodes_.show(bubbleNodes(packed_, shown_));
@@ -106,7 +106,7 @@ std::optional<std::size_t> BubblePicture::indexOf(const std::optional<std::strin
     return static_cast<std::size_t>(found - packed_.begin());
 }
 
-/// One bubble of the map, with all that surrounds it: what else there is stays as it is on screen.
+/// Repaints one bubble and its surroundings, instead of the whole map.
 void BubblePicture::updateBubble(const std::optional<std::size_t>& index) {
     if (index) update(bubbleBox(packed_[*index]).toAlignedRect());
 }
@@ -127,7 +127,7 @@ void BubblePicture::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 void BubblePicture::hover(QPointF point) {
-    // The toolkit also tells where the pointer is when something has moved below it.
+    // Qt also sends hover events when items move below a resting pointer.
     if (point != std::exchange(hoverPoint_, point)) tipFollowsKeys_ = false;
     const auto hit = hitTest(packed_, {point.x(), point.y()});
     const std::optional<std::string> id = hit ? std::optional(packed_[*hit].id) : std::nullopt;
@@ -164,7 +164,7 @@ void BubblePicture::mousePressEvent(QMouseEvent* event) {
     forceActiveFocus(Qt::MouseFocusReason);
 }
 
-/// Dragging is no tap.
+/// A drag is not a tap.
 void BubblePicture::mouseMoveEvent(QMouseEvent* event) {
     if (!pressed_) return;
     const QPointF moved = event->position() - *pressed_;
@@ -217,7 +217,7 @@ void BubblePicture::walk(WalkDirection direction) {
     if (const auto next = nextInDirection(packed_, *current_, direction)) setCurrent(next);
 }
 
-/// False if it is no key of the map.
+/// Returns false for keys that the map does not handle.
 bool BubblePicture::act(int key, bool repeated) {
     const BubbleSlice* slice = currentSlice();
     switch (key) {
@@ -239,7 +239,7 @@ bool BubblePicture::act(int key, bool repeated) {
         case Qt::Key_End:
             setCurrent(smallestCircle(packed_));
             return true;
-        // A held key acts once: what it repeats is swallowed.
+        // Auto-repeat is swallowed, so that a held key acts once.
         case Qt::Key_Return:
         case Qt::Key_Enter:
             if (slice != nullptr && !repeated) model_->tap(*slice);

@@ -17,19 +17,19 @@
 
 namespace zelk {
 
-/// The bubble map of a BubbleModel: it lays the slices out, draws them, and answers to the pointer and the keys.
-/// BubbleChart is what a screen shows.
+/// The bubble map of a BubbleModel: lays out and paints the slices and handles the pointer and the keys. Used by
+/// BubbleChart.
 ///
-/// Bubbles move only when the map appears, when its size changes, when the ids of the slices change, and when the model
-/// is rebuilt; new bytes or colours under the same ids stay where they are. One bubble is the current one: the arrow
-/// keys go from it to the next in their direction, Home and End to the largest and the smallest; Enter taps it, the
-/// space bar ticks it, Backspace leaves the map. A click makes the bubble under it the current one.
+/// The layout changes only when the map appears or is resized, the ids of the slices change, or the model is rebuilt;
+/// new bytes or colours keep it. One bubble is current: the arrow keys go to the next one in their direction, Home and
+/// End to the largest and smallest; Enter taps it, the space bar ticks it, Backspace leaves the map. A click makes the
+/// bubble below the pointer current.
 class BubblePicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(zelk::BubbleModel* model READ model WRITE setModel NOTIFY modelChanged FINAL REQUIRED)
     Q_PROPERTY(bool dark MEMBER dark_ NOTIFY changed FINAL)
-    // Of the line around the bubble that the keyboard is at, and of what it is set off with.
+    // The colours of the focus ring and of its outline.
     Q_PROPERTY(QColor accent MEMBER accent_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor ground MEMBER ground_ NOTIFY changed FINAL)
     Q_PROPERTY(double textScale MEMBER textScale_ NOTIFY changed FINAL)
@@ -48,19 +48,19 @@ public:
     const std::vector<PackedCircle>& packed() const { return packed_; }
     bool isEmpty() const { return packed_.empty(); }
     const std::optional<std::string>& hoveredID() const { return hoveredID_; }
-    /// Where the pointer was last.
+    /// The last position of the pointer, in the chart's points.
     QPointF hoverPoint() const { return hoverPoint_; }
-    /// Whether the person goes by the keyboard, and it is here.
+    /// Whether the map has the focus and was last used by the keyboard.
     bool visualFocus() const { return byKey_ && hasActiveFocus(); }
-    /// The current bubble: an index of packed().
+    /// The index of the current bubble in packed().
     const std::optional<std::size_t>& current() const { return current_; }
-    /// As a screen reader says it; empty if there is none.
+    /// The accessible name of the current bubble; empty if there is none.
     QString currentName() const;
-    /// Of the bubble under the pointer, or of the current one while the person goes by the keyboard.
+    /// The tip of the bubble below the pointer, or of the current one while the keyboard is used.
     const BubbleTip& tip() const { return tip_; }
     QAbstractItemModel* nodes() { return &nodes_; }
 
-    /// A tap on a bubble by its place in the map, as a screen reader asks for it.
+    /// Taps the bubble with this index in packed(), for screen readers.
     Q_INVOKABLE void tapNode(int index);
 
 signals:
@@ -111,9 +111,9 @@ private:
     QColor accent_;
     QColor ground_;
     std::vector<PackedCircle> packed_;
-    ShownSlices shown_;  // what packed_ shows of slices()
-    BubbleTexts texts_;  // as long as the map: with every frame it writes much the same
-    std::string key_;    // of the slices
+    ShownSlices shown_;  // slices by index in packed_
+    BubbleTexts texts_;  // kept with the map, since most texts recur in every frame
+    std::string key_;    // identifies the ids of the slices
     std::optional<std::string> hoveredID_;
     QPointF hoverPoint_;
     std::optional<QPointF> pressed_;

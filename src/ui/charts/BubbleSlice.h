@@ -9,15 +9,15 @@
 
 namespace zelk {
 
-/// One weighted item of a bubble map. Identity is `id`.
+/// A weighted item of a bubble map, identified by `id`.
 struct BubbleSlice {
-    std::string id;          ///< stable from one list to the next; a path in bytes, or a name of the caller's own
+    std::string id;          ///< stable across updates: a path in bytes, or a name chosen by the caller
     QString label;           ///< display text
-    std::int64_t bytes = 0;  ///< the weight; what has none gets no bubble
+    std::int64_t bytes = 0;  ///< the weight; not shown unless positive
     QColor color;
-    bool reclaimable = false;  ///< said in the tooltip
-    QImage icon;               ///< of a file; null if there is none
-    bool selected = false;     ///< ringed in white
+    bool reclaimable = false;  ///< mentioned in the tip
+    QImage icon;               ///< icon of a file; may be null
+    bool selected = false;     ///< drawn with a white ring
 
     bool operator==(const BubbleSlice&) const = default;
 };

@@ -12,18 +12,17 @@ class QPainter;
 
 namespace zelk {
 
-/// What a bubble's text is: its label is semibold; its size is medium, in the system's face with round ends, where it
-/// has one.
+/// The font of a text: semibold for labels, medium and, where the system has one, rounded for sizes.
 enum class BubbleFont { label, size };
 
-/// Lines of text in the system's font, in whole pixel sizes: any other one would be a font of its own, and a chart that
-/// grows would make dozens a second. A text that was measured or written before is not shaped again, so whoever draws
-/// the same ones with every frame keeps one. In one thread at a time.
+/// Measures and paints texts in the system font at whole pixel sizes: every other size would create another font,
+/// dozens per second while a chart is resized. Caches shaped texts, so keep one instance for texts that recur in every
+/// frame. Not thread-safe.
 class BubbleTexts {
 public:
-    /// `size` is the nearest whole one, and at least 1.
+    /// `size` is rounded to a whole pixel size of at least 1.
     double width(const QString& text, BubbleFont kind, double size);
-    /// With its middle at `center`.
+    /// Paints the text centred on `center`.
     void write(QPainter& painter, QPointF center, const QString& text, BubbleFont kind, double size,
                const QColor& color);
 
@@ -47,9 +46,9 @@ private:
     static Face faceOf(BubbleFont kind, double size);
     const QFont& fontOf(const Face& face);
 
-    QFont system_;  // that the rest was made from
+    QFont system_;  // the font that the others derive from
     std::vector<std::pair<Face, QFont>> fonts_;
-    // A map of bubbles writes a few dozen lines; finding where a long name must end measures some for each.
+    // A map paints a few dozen texts; eliding a long name measures several more for each.
     QCache<Line, double> widths_{2'000};
     QCache<Line, QStaticText> shaped_{200};
 };

@@ -9,8 +9,8 @@ namespace zelk {
 
 BubbleTip BubbleTip::of(const BubbleSlice& slice, QPointF point, QSizeF chart, double textScale) {
     constexpr double offset = 12;     // from the pointer
-    constexpr double roomWide = 220;  // kept for it at the right edge
-    constexpr double roomHigh = 56;   // and at the bottom
+    constexpr double roomWide = 220;  // reserved between the tip and the right edge
+    constexpr double roomHigh = 56;   // reserved below
     const double width = roomWide * textScale;
     BubbleTip tip;
     tip.shown = true;

@@ -11,7 +11,7 @@
 
 namespace zelk {
 
-/// What is said of a bubble beside the pointer.
+/// The contents and position of the tool tip of a bubble.
 struct BubbleTip {
     Q_GADGET
     QML_VALUE_TYPE(bubbleTip)
@@ -23,14 +23,14 @@ struct BubbleTip {
     Q_PROPERTY(double widest MEMBER widest CONSTANT FINAL)
 
 public:
-    bool shown = false;  ///< else there is nothing in the rest
+    bool shown = false;  ///< the other fields are valid only if set
     QString label;
-    QString line;  ///< how large it is, and whether it can go
+    QString line;  ///< the size, and whether it is reclaimable
     bool reclaimable = false;
-    QPointF corner;     ///< its top left, in the chart's points
-    double widest = 0;  ///< what it has room for there
+    QPointF corner;     ///< top left corner, in the chart's points
+    double widest = 0;  ///< maximum width there
 
-    /// The tip at a point of a chart of this size, with texts this many times their normal size.
+    /// The tip at `point` in a chart of size `chart`, with texts scaled by `textScale`.
     static BubbleTip of(const BubbleSlice& slice, QPointF point, QSizeF chart, double textScale);
 
     bool operator==(const BubbleTip&) const = default;

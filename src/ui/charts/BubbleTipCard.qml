@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is said of a bubble beside the pointer. It takes no clicks, and the bubble's node says the same.
+// The tool tip of a bubble. Transparent to clicks and hidden from screen readers: the bubble's node says the same.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -8,7 +8,7 @@ namespace zelk {
 
 namespace {
 
-/// How far a point lies in a direction, and how far aside.
+/// An offset, split along a direction and across it.
 struct Bearing {
     double ahead = 0;
     double aside = 0;

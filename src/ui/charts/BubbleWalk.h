@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the arrow keys go through the bubble map: the standard library alone.
+// Arrow key navigation in the bubble map. Standard library only.
 #pragma once
 
 #include <cstddef>
@@ -12,14 +12,14 @@ namespace zelk {
 
 enum class WalkDirection { left, right, up, down };
 
-/// The index of the circle that lies next to `from` in this direction; absent if nothing lies there. It is the one
-/// whose middle is met first by a ring that starts as a point in the middle of `from` and grows in this direction only:
-/// what lies straight ahead counts by its distance, what lies aside by more, what lies behind not at all. (Walks by
-/// plain distance leave bubbles out that no key leads to.) Of equal ones the first.
+/// The index of the circle next to `from` in a direction; absent if there is none. Imagine a circle that grows in the
+/// direction while its edge stays on the centre of `from`: the first centre that it reaches is the next one. Straight
+/// ahead that is the distance; centres off to a side count as further away, those behind not at all. (With plain
+/// distance, some bubbles could not be reached by any key.) The first of equals.
 std::optional<std::size_t> nextInDirection(const std::vector<PackedCircle>& circles, std::size_t from,
                                            WalkDirection direction);
 
-/// The index of the largest circle, of the smallest; of equal ones the first. Absent if there is none.
+/// The index of the largest and the smallest circle, the first of equals; absent if there are none.
 std::optional<std::size_t> largestCircle(const std::vector<PackedCircle>& circles);
 std::optional<std::size_t> smallestCircle(const std::vector<PackedCircle>& circles);
 

@@ -8,7 +8,7 @@ namespace zelk {
 
 namespace {
 
-// Of the largest radius.
+// Shares of the largest radius.
 constexpr double gapShare = 0.012;
 constexpr double stepShare = 0.03;
 constexpr double turnPerStep = 0.25;  // radians
@@ -21,15 +21,15 @@ struct Circle {
     double radius = 0;
 };
 
-/// Whether a circle fits among those that are placed. A candidate is most often refused by a neighbour of the last
-/// place, so those are asked first; the answer does not depend on the order.
+/// Whether a circle fits between the placed ones. Tests the latest first, since a candidate usually collides with a
+/// neighbour of the previous one. The result does not depend on the order.
 bool fits(const std::vector<Circle>& placed, double x, double y, double radius, double gap) {
     return std::all_of(placed.rbegin(), placed.rend(), [&](const Circle& other) {
         return gap + radius + other.radius <= std::hypot(x - other.x, y - other.y);
     });
 }
 
-/// Along an Archimedean spiral from the middle. With no place on all of it the last candidate is taken.
+/// Tries positions along an Archimedean spiral from the middle. If none fits, takes the last one.
 Circle placeAmong(const std::vector<Circle>& placed, double radius, double gap, double step) {
     Circle circle{0, 0, radius};
     double angle = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The layout of the bubble map, apart from any drawing: the standard library alone.
+// The layout of the bubble map, without drawing. Standard library only.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace zelk {
 
 struct PackItem {
     std::string id;
-    std::int64_t bytes = 0;  ///< the weight; what has none is left out
+    std::int64_t bytes = 0;  ///< the weight; skipped unless positive
 };
 
 struct PackedPoint {
@@ -21,7 +21,7 @@ struct PackedPoint {
     bool operator==(const PackedPoint&) const = default;
 };
 
-/// In the units of the rectangle that was packed into.
+/// In the units of the rectangle given to pack().
 struct PackedCircle {
     std::string id;
     PackedPoint center;
@@ -30,13 +30,13 @@ struct PackedCircle {
     bool operator==(const PackedCircle&) const = default;
 };
 
-/// Circles whose areas are as the bytes, side by side around the first one, in the order given (a caller that wants the
-/// large ones in the middle passes them first), scaled to keep 24 off the sides of a rectangle of this width and height
-/// and centred in it. In a rectangle too small for that margin the radii are zero or negative. They do not overlap,
-/// unless one found no place on 40,000 steps of its spiral. Quadratic in the number of items: meant for a few dozen.
+/// Packs circles with areas proportional to the bytes around the first one, in the given order: pass the large ones
+/// first to have them in the middle. The result is scaled to leave a margin of 24 in a rectangle of this size and
+/// centred in it; if the rectangle is too small for the margin, radii are zero or negative. Circles do not overlap,
+/// unless one finds no place in 40,000 steps of its spiral. Quadratic in the number of items; meant for a few dozen.
 std::vector<PackedCircle> pack(const std::vector<PackItem>& items, double width, double height);
 
-/// The index of the circle at this point, of several the smallest, of equal ones the first; absent if there is none.
+/// The index of the circle at `point`: the smallest if several overlap, the first of equals; absent if there is none.
 std::optional<std::size_t> hitTest(const std::vector<PackedCircle>& circles, PackedPoint point);
 
 }  // namespace zelk

@@ -14,8 +14,8 @@ namespace zelk {
 
 namespace {
 
-/// A disc blurred by a Gauss curve, as a gradient from its middle: without a pass over pixels, so that a chart that is
-/// resized can have new ones with every frame. It reaches three deviations further than the disc.
+/// Approximates a disc under a Gaussian blur by a radial gradient. Without a pass over pixels it is cheap enough to be
+/// made anew in every frame while a chart is resized. Extends three standard deviations beyond the disc.
 class BlurredDisc {
 public:
     BlurredDisc(double radius, double blur, const QColor& color)
@@ -37,8 +37,8 @@ public:
     }
 
 private:
-    /// What is left of the colour at this distance from the middle: the curve across a straight edge, less what a
-    /// disc not much larger than the blur loses even in its middle.
+    /// The colour at this distance from the centre: the blur of a straight edge, reduced by what a disc of about the
+    /// size of the blur loses even in its centre.
     QColor covered(double distance) const {
         const double edge = 0.5 * std::erfc((distance - radius_) / (std::sqrt(2.0) * deviation_));
         const double middle = 1 - std::exp(-radius_ * radius_ / (2 * deviation_ * deviation_));
@@ -51,14 +51,14 @@ private:
     QColor color_;
 };
 
-/// A circle's line as a gradient from its middle with edges one pixel wide: the toolkit's own line takes six times as
-/// long.
+/// Strokes a circle as a radial gradient with antialiased edges one pixel wide. QPainter's own stroke takes six times
+/// as long.
 class SmoothRing {
 public:
-    /// Of the reach in pixels: a gradient has 1024 steps from its middle on, and an edge needs two of them.
+    /// The largest reach in pixels: a gradient has 1024 steps, and an edge of one pixel needs two of them.
     static constexpr double finest = 512;
 
-    /// `scale` is pixels to the point.
+    /// `scale` is pixels per point.
     SmoothRing(double radius, double width, double scale, const QColor& color)
         : radius_(radius), half_(width / 2), edge_(0.5 / scale), color_(color) {}
 
@@ -66,7 +66,7 @@ public:
     double hole() const { return std::max(0.0, radius_ - half_ - edge_); }
 
     QBrush at(QPointF center) const {
-        // A line thinner than a pixel covers a part of it.
+        // A line thinner than a pixel is drawn one pixel wide with less opacity.
         const double flat = std::abs(half_ - edge_);
         const QColor clear = withOpacity(color_, 0);
         const QColor full = withOpacity(color_, color_.alphaF() * std::min(1.0, half_ / edge_));
@@ -88,8 +88,9 @@ private:
     QColor color_;
 };
 
-/// Fills at least what lies between two circles, in bands: the gradient has faded out at both, and rectangles without
-/// smooth edges take a fraction of what circles would. On a scaled screen smooth ones would show their seams.
+/// Fills at least the area between two circles with bands of rectangles, which takes a fraction of the time of filling
+/// circles. That is invisible because the gradient fades out at both circles. Antialiasing is off, since it would show
+/// the seams between bands on a scaled screen.
 void fillBetween(QPainter& painter, QPointF center, double inner, double outer, const QBrush& brush) {
     constexpr int band = 4;
     const int bottom = static_cast<int>(std::ceil(center.y() + outer));
@@ -125,7 +126,7 @@ void fillDisc(QPainter& painter, QPointF center, double radius, const QBrush& br
 }
 
 void drawHalo(QPainter& painter, QPointF center, const QColor& color, double opacity, double inner, double outer) {
-    // Five points of the step are as smooth to the eye as the curve itself.
+    // Five stops look as smooth as the curve itself.
     QGradientStops stops;
     for (const double step : {0.0, 0.25, 0.5, 0.75, 1.0}) {
         const double fallen = step * step * (3 - 2 * step);
@@ -155,7 +156,7 @@ void drawDiscShadow(QPainter& painter, QPointF center, double radius, const QCol
     if (radius <= 0) return;
     const BlurredDisc blurred(radius, blur, color);
     const QPointF below = center + QPointF(0, drop);
-    // What the disc hides lies around its own middle, which is not the shadow's.
+    // The hidden part is centred on the disc, not on the shadow.
     const double hidden = radius - drop - 2;
     fillBetween(painter, below, std::max(0.0, hidden), blurred.reach(), blurred.at(below));
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Circles as the charts need them: halos, and lines and shadows that cost a fraction of the toolkit's own. A circle
-// without a positive radius is nothing. Lengths in the painter's units.
+// Circles for the charts: halos, and rings and shadows that cost a fraction of QPainter's own. Nothing is drawn unless
+// the radius is positive. Lengths are in the painter's units.
 #pragma once
 
 #include <QBrush>
@@ -13,17 +13,17 @@ namespace zelk {
 
 void fillDisc(QPainter& painter, QPointF center, double radius, const QBrush& brush);
 
-/// A disc that is blurred: full until `inner`, nothing from `outer` on, along a smooth step between.
+/// Fills a disc with a soft edge: opaque up to `inner`, then fading along a smoothstep to nothing at `outer`.
 void drawHalo(QPainter& painter, QPointF center, const QColor& color, double opacity, double inner, double outer);
 
-/// A circle's line, its middle at `radius`.
+/// Strokes a circle whose line is centred on `radius`.
 void drawRing(QPainter& painter, QPointF center, double radius, double width, const QColor& color);
 
-/// The same in a gradient.
+/// Like drawRing(), with any brush.
 void strokeCircle(QPainter& painter, QPointF center, double radius, double width, const QBrush& brush);
 
-/// The shadow of an opaque disc at `center`, `drop` below it and blurred over `blur` to either side of its edge. What
-/// the disc hides for certain may be left out.
+/// Paints the shadow of an opaque disc at `center`, shifted down by `drop` and blurred by `blur` to either side of its
+/// edge. The part that the disc hides may be left out.
 void drawDiscShadow(QPainter& painter, QPointF center, double radius, const QColor& color, double blur, double drop);
 
 }  // namespace zelk

@@ -5,7 +5,7 @@ class QPainter;
 
 namespace zelk {
 
-/// What the mark of the house stands on: a square of `side` with soft corners, in the accent gradient.
+/// Paints the background of the app's mark: a square of `side` with rounded corners, in the accent gradient.
 void paintHouseTile(QPainter& painter, double side);
 
 }  // namespace zelk

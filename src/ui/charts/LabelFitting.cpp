@@ -9,7 +9,7 @@ namespace zelk {
 
 namespace {
 
-/// Where each character ends.
+/// The end of each grapheme cluster.
 std::vector<qsizetype> characterEnds(const QString& text) {
     std::vector<qsizetype> ends;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
@@ -21,30 +21,30 @@ std::vector<qsizetype> characterEnds(const QString& text) {
 
 QString fittedLabel(const QString& label, double room, double slack,
                     const std::function<double(const QString&)>& widthOf) {
-    // Measuring hundreds of characters takes long, and most that many are wider already where they begin.
-    constexpr qsizetype aLot = 48;
-    const bool tooLong = label.size() > aLot && widthOf(label.left(aLot)) > room + slack;
+    // Measuring hundreds of characters is slow, and the first few usually exceed the width already.
+    constexpr qsizetype longText = 48;
+    const bool tooLong = label.size() > longText && widthOf(label.left(longText)) > room + slack;
     if (label.isEmpty() || (!tooLong && widthOf(label) <= room)) return label;
 
     const std::vector<qsizetype> ends = characterEnds(label);
-    const auto beginning = [&](std::size_t count) { return label.left(ends[count - 1]) + QStringLiteral("…"); };
-    const auto hopeless = [&](std::size_t count) { return widthOf(beginning(count)) > room + slack; };
+    const auto elided = [&](std::size_t count) { return label.left(ends[count - 1]) + QStringLiteral("…"); };
+    const auto tooWide = [&](std::size_t count) { return widthOf(elided(count)) > room + slack; };
 
-    // Between these two counts of characters lies the first that is beyond hope: found from below, where texts are
-    // short, in steps that double, and then by halves.
-    std::size_t fair = 0;
-    std::size_t far = 1;
-    while (far < ends.size() && !hopeless(far)) {
-        fair = far;
-        far *= 2;
+    // Finds the first count of characters that is certainly too wide. Doubles from below, where texts are short and
+    // quick to measure, then bisects.
+    std::size_t low = 0;
+    std::size_t high = 1;
+    while (high < ends.size() && !tooWide(high)) {
+        low = high;
+        high *= 2;
     }
-    far = std::min(far, ends.size());
-    while (far - fair > 1) {
-        const std::size_t middle = fair + (far - fair) / 2;
-        (hopeless(middle) ? far : fair) = middle;
+    high = std::min(high, ends.size());
+    while (high - low > 1) {
+        const std::size_t middle = low + (high - low) / 2;
+        (tooWide(middle) ? high : low) = middle;
     }
-    for (std::size_t count = far - 1; count > 0; --count) {
-        QString shortened = beginning(count);
+    for (std::size_t count = high - 1; count > 0; --count) {
+        QString shortened = elided(count);
         if (widthOf(shortened) <= room) return shortened;
     }
     return {};

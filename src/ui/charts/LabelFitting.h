@@ -6,10 +6,10 @@
 
 namespace zelk {
 
-/// The label if it is at most `room` wide, else as many of its first characters as are with "…" behind them; empty if
-/// not even one is. A character is what a reader takes for one, so no accent and no emoji is ever cut in two. `widthOf`
-/// measures a text. `slack` is by how much a text can be narrower than a shorter beginning of it (letters that join):
-/// a label of hundreds of characters costs a dozen measurements of short texts.
+/// Elides the label to at most `room`: whole if it fits, else the longest beginning that fits with "…" appended; empty
+/// if not even one character does. Cuts between grapheme clusters, so that no accent or emoji is split. `widthOf`
+/// measures a text. `slack` is how much narrower a text may be than a shorter beginning of it, because of ligatures.
+/// Even a label of hundreds of characters takes only a dozen measurements of short texts.
 QString fittedLabel(const QString& label, double room, double slack,
                     const std::function<double(const QString&)>& widthOf);
 

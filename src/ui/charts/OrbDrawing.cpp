@@ -34,7 +34,7 @@ void drawOrbDisc(QPainter& painter, QPointF center, const QColor& tint) {
     fillDisc(painter, center, radius,
              linearBrush(center - corner, center + corner,
                          {{0, mix(tint, Qt::white, 0.22)}, {1, mix(tint, Qt::black, 0.16)}}));
-    // Light catches its upper edge.
+    // A highlight along the upper edge.
     strokeCircle(
         painter, center, radius - 0.5, 1,
         linearBrush(

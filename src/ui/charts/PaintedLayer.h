@@ -8,14 +8,14 @@
 
 namespace zelk {
 
-/// One picture of the navigation in the size that it needs. It is painted when its colour changes; what moves is the
-/// whole layer.
+/// A painted decoration with a fixed implicit size. Repainted only when a property changes; animations transform the
+/// whole item.
 class PaintedLayer : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY changed FINAL REQUIRED)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
-    // What it stands on; only the glow asks.
+    // The theme of the background; used by the glow only.
     Q_PROPERTY(bool dark MEMBER dark_ NOTIFY changed FINAL)
 
 public:

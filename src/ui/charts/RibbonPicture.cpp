@@ -24,7 +24,7 @@ std::vector<double> ribbonWidths(const std::vector<std::int64_t>& bytes, std::in
     return widths;
 }
 
-/// A bar whose two left corners have one radius and its two right corners another, as far as there is room for them.
+/// A bar with one radius for its left corners and another for its right ones, both limited by its size.
 static QPainterPath barPath(const QRectF& rect, double leftCorner, double rightCorner) {
     const double most = std::min(rect.height(), rect.width()) / 2;
     const double left = std::min(leftCorner, most);

@@ -12,7 +12,7 @@
 
 namespace zelk {
 
-/// One section of a storage ribbon and its line in the legend.
+/// A section of a storage ribbon and its legend entry.
 struct RibbonSegment {
     Q_GADGET
     QML_VALUE_TYPE(ribbonSegment)
@@ -30,17 +30,16 @@ public:
     bool operator==(const RibbonSegment&) const = default;
 };
 
-/// The widths of the sections in their order and, last, of the free space: each its share of all bytes, a count below 0
-/// being none. Where there are no bytes at all, all is free.
+/// The widths of the sections in order, followed by that of the free space, proportional to the bytes. Negative counts
+/// are 0. If all are 0, the whole width is free.
 std::vector<double> ribbonWidths(const std::vector<std::int64_t>& bytes, std::int64_t freeBytes, double width);
 
-/// The bar of a storage ribbon: its sections side by side, round at the outer ends. StorageRibbon is what a screen
-/// shows.
+/// The bar of a storage ribbon: sections side by side, with rounded outer corners. Used by StorageRibbon.
 class RibbonPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QList<zelk::RibbonSegment> segments MEMBER segments_ NOTIFY changed FINAL)
-    // A whole number; QML knows none of this size.
+    // A double, since QML has no 64-bit integer.
     Q_PROPERTY(double freeBytes MEMBER freeBytes_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor freeColor MEMBER freeColor_ NOTIFY changed FINAL)
 

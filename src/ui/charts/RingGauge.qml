@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A share as a ring, with its figure and name inside and a line under it.
+// A ring gauge with a number and a caption inside and a detail line below.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ import Zelk.Controls
 Column {
     id: gauge
 
-    // 0 to 1, from empty to full.
+    // 0 (empty) to 1 (full).
     required property real value
     required property string center
     required property string caption
@@ -30,7 +30,7 @@ Column {
         Column {
             id: inside
 
-            // Larger texts than the ring has room for shrink to what it has.
+            // Texts too large for the ring are scaled down.
             readonly property real room: 80
 
             anchors.centerIn: parent

@@ -9,11 +9,11 @@
 
 namespace zelk {
 
-/// The part of the ring that a value fills: 0 is empty and 1 is full, and even an empty one shows a dot.
+/// The filled fraction of the ring for a value: clamped to 0...1, with a minimum that shows as a dot. NaN counts as 0.
 double ringFraction(double value);
 
-/// The ring of a gauge: a full track and, over it, an arc from noon with the clock, which springs to each new value.
-/// RingGauge is what a screen shows.
+/// The ring of a gauge: a track and an arc that runs clockwise from twelve o'clock and springs to each new value. Used
+/// by RingGauge.
 class RingPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
@@ -27,11 +27,11 @@ public:
 
     double value() const { return value_; }
     void setValue(double value);
-    /// It jumps instead of springing.
+    /// Whether the arc jumps to a new value instead of springing.
     bool still() const { return still_; }
     void setStill(bool still);
 
-    /// The fraction that is on screen now.
+    /// The fraction currently shown.
     double shown() const { return shown_; }
 
 signals:

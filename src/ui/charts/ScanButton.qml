@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one big round button. All its layers are painted once; what moves is a whole layer.
+// The large round scan button. Its layers are painted once; animations transform whole layers.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,7 +9,7 @@ import Zelk.Controls
 BaseButton {
     id: button
 
-    // Figures with their units: what has been read by now, and what can be taken back.
+    // Byte counts with units: scanned so far, and recoverable.
     required property string scanned
     required property string recoverable
     required property bool idle

@@ -39,7 +39,7 @@ void drawScanDisc(QPainter& painter, QPointF center) {
     fillDisc(painter, center, radius,
              linearBrush(center - corner, center + corner, {{0, AccentGradient::from()}, {1, AccentGradient::to()}}));
 
-    // Light falls on it from the upper left, and catches its upper edge.
+    // Lit from the upper left, with a highlight along the upper edge.
     const QPointF lit = center + QPointF(-0.32, -0.36) * radius;
     fillDisc(painter, center, radius, radialBrush(lit, 0.95 * radius, {{0, white(0.26)}, {1, white(0)}}));
     strokeCircle(painter, center, radius - 0.5, 1,

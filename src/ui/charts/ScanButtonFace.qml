@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The lines inside the scan button in one phase; an empty one takes no place. It fades in place of the face before it.
+// The texts inside the scan button in one phase. Cross-fades with the other faces; empty lines take no space.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -15,7 +15,7 @@ Column {
     required property string caption
     property string hint: ""
 
-    // What the disc holds across: a longer line, or a larger text, makes all of them smaller.
+    // The usable width of the disc. Everything is scaled down to fit it.
     readonly property real room: 152
     readonly property real fit: Math.min(1, lines.room / Math.max(1, lines.implicitWidth))
 

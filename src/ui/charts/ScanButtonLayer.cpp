@@ -20,7 +20,7 @@ double sideOf(ScanButtonLayer::Kind kind) {
             return ScanButtonShape::turningFrame;
         case ScanButtonLayer::Disc:
         case ScanButtonLayer::Sheen:
-            return 2 * ScanButtonShape::discRadius + 2;  // a point for the soft edge
+            return 2 * ScanButtonShape::discRadius + 2;  // a point for the antialiased edge
     }
     return 0;
 }

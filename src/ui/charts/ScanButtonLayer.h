@@ -8,8 +8,8 @@
 
 namespace zelk {
 
-/// One layer of the scan button, in the size of the layer. It is painted when its colour changes and at no other time;
-/// what the scene shows is the picture, filtered, so that it may be turned and scaled smoothly in every renderer.
+/// A layer of the scan button, with its implicit size. Painted only when its colour, size or scale changes, into a
+/// texture with linear filtering, so that it rotates and scales smoothly with every renderer.
 class ScanButtonLayer : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -24,14 +24,14 @@ public:
 
     Kind kind() const { return kind_; }
     void setKind(Kind kind);
-    /// The accent; the disc and the sheen do without.
+    /// The accent colour; unused by Disc and Sheen.
     QColor color() const { return color_; }
     void setColor(const QColor& color);
 
-    /// A button is pressed on its disc, not in the corners of the square around its glow.
+    /// Whether the point is on the disc: the corners of the square around the glow are not clickable.
     bool contains(const QPointF& point) const override;
 
-    /// The layer in `points` x `points`, at `scale` pixels to the point.
+    /// Renders the layer at `points` x `points` with `scale` pixels per point.
     QImage picture(double points, double scale) const;
 
 signals:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The bar of work whose end is known. It glides to each new share; with reduced motion it jumps.
+// A determinate progress bar. Animates to each new value, or jumps with reduced motion.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,9 +9,9 @@ import Zelk.Controls
 SharePicture {
     id: bar
 
-    // 0 to 1, from nothing to all of it.
+    // 0 to 1.
     required property real value
-    // What a screen reader says: what is being done, and how far it has come.
+    // For screen readers: the work, and how far it has come.
     required property string name
     required property string progress
 

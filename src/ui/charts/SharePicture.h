@@ -8,8 +8,8 @@
 
 namespace zelk {
 
-/// A track, and on it from its left as much of it as `share` says: 0 is nothing, 1 the whole. What is begun at all
-/// shows at least as a dot. ShareBar is what a screen shows.
+/// Paints a progress bar: a track, filled from the left by `share`, 0 to 1. Any positive share is visible at least as a
+/// dot. Used by ShareBar.
 class SharePicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A history as a small curve. It says nothing to a screen reader: the figures beside it do.
+// A history as a small curve. Hidden from screen readers: the numbers beside it say the same.
 pragma ComponentBehavior: Bound
 
 import QtQuick

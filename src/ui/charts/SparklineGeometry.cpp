@@ -7,7 +7,7 @@ namespace zelk {
 
 std::vector<QPointF> sparklinePoints(const std::vector<double>& values, QSizeF frame) {
     constexpr double inset = 2;
-    constexpr double smallestRange = 1;  // what is flat must not be divided by nothing
+    constexpr double smallestRange = 1;  // avoids a division by zero for constant values
     if (values.size() < 2) return {};
 
     const auto [lowest, highest] = std::ranges::minmax(values);

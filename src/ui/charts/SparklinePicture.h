@@ -9,8 +9,7 @@
 
 namespace zelk {
 
-/// The curve of a history in its frame, and under it an area that fades out towards the floor. Sparkline is what a
-/// screen shows.
+/// Paints a sparkline and, below it, an area that fades out towards the bottom. Used by Sparkline.
 class SparklinePicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a drive holds as one bar, with its legend.
+// The usage of a drive as a segmented bar with a legend.
 pragma ComponentBehavior: Bound
 
 import QtQuick

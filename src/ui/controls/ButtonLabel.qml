@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The content of a button: an optional symbol and a text, centered and elided.
+// The content of a button: an optional symbol and a text, centred and elided.
 pragma ComponentBehavior: Bound
 
 import QtQuick

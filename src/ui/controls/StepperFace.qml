@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The content of StepperField: the label at the left, and the value centered in its box at the right.
+// The content of StepperField: the label at the left, and the value centred in its box at the right.
 pragma ComponentBehavior: Bound
 
 import QtQuick
