@@ -25,7 +25,7 @@ public:
     bool operator==(const AboutRow&) const = default;
 };
 
-/// All that the About window says: the name, and rows of a label and a value. Main thread.
+/// The contents of the About window: the name, and rows of labels and values. Main thread.
 class AboutModel : public QObject {
     Q_OBJECT
     QML_ELEMENT

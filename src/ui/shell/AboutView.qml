@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The mark, the name, and what runs here on what.
+// The contents of the About window: mark, name, and version and system information.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The About window, sized to its contents.
 pragma ComponentBehavior: Bound
 
 import QtQuick

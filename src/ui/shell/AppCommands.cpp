@@ -10,13 +10,13 @@ namespace zelk {
 
 namespace {
 
-/// The digits that go with Control run out after nine.
+/// Only nine modules have a shortcut, Ctrl+1 to Ctrl+9.
 constexpr int digitKeys = 9;
 
 std::vector<Command> goCommands(AppModel& app) {
     std::vector<Command> commands;
     for (const Screen screen : allScreens) {
-        if (screen == Screen::settings) continue;  // a window of its own
+        if (screen == Screen::settings) continue;  // opens in a window
         const int place = static_cast<int>(commands.size());
         const QKeySequence shortcut =
             place < digitKeys ? QKeySequence(QStringLiteral("Ctrl+%1").arg(place + 1)) : QKeySequence();

@@ -17,8 +17,8 @@ namespace zelk {
 
 class AppModel;
 
-/// The menus of the application: what stands where, under which name and key, and what it does. There is nothing to
-/// cut, copy, paste or undo in it, and so no menu for that. Main thread.
+/// The menus of the application: their entries, shortcuts and actions. There is no Edit menu, since nothing supports
+/// cut, copy, paste or undo. Main thread.
 class AppCommands : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -27,22 +27,22 @@ class AppCommands : public QObject {
     Q_PROPERTY(QStringList shortcuts READ shortcuts CONSTANT FINAL)
 
 public:
-    /// `app` must outlive it. `openWindow` brings a window forward, `quit` ends the application. While `busy`,
-    /// something waits for an answer, and nothing but quitting is done.
+    /// `app` must outlive it. `openWindow` shows or raises a window, `quit` ends the application. While `busy` returns
+    /// true, a modal sheet is open and only quitting works.
     AppCommands(
         AppModel& app, std::function<void(WindowId)> openWindow, std::function<void()> quit,
         std::function<bool()> busy = [] { return false; });
     ~AppCommands() override;
 
-    /// From the left; owned here.
+    /// From left to right; owned by this.
     QList<CommandMenu*> menus() const;
     QVariantList menusForViews() const;
-    /// The keys of all entries that have one, as the toolkit writes them.
+    /// The shortcuts of all entries that have one, in Qt's portable format.
     QStringList shortcuts() const;
     void run(const Command& command) const;
 
 public slots:
-    /// Runs the entry that has the key at `place` in `shortcuts`.
+    /// Runs the entry at this index of `shortcuts`.
     void runShortcut(int place);
 
 private:

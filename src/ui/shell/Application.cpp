@@ -12,7 +12,7 @@
 #include "ui/theme/SymbolItem.h"
 #include "ui/theme/ZelkTheme.h"
 
-// The generated registrations. Naming them here is also what links the modules in.
+// Generated registration functions. Calling them also links the modules in.
 void qml_register_types_Zelk_Controls();
 void qml_register_types_Zelk_Charts();
 void qml_register_types_Zelk_App();
@@ -23,7 +23,7 @@ void dressApplication() {
     QGuiApplication::setApplicationName(QStringLiteral("Zelk"));
 #ifndef Q_OS_MACOS
     QFont font(QStringLiteral("Inter"));
-    font.setHintingPreference(QFont::PreferNoHinting);  // hints would pull its even spacing apart
+    font.setHintingPreference(QFont::PreferNoHinting);  // hinting would distort the even spacing
     QGuiApplication::setFont(font);
 #endif
 }
@@ -45,7 +45,7 @@ QIcon applicationIcon() {
 }
 
 QIcon statusIcon() {
-    // Light enough for a dark panel and dark enough for a light one; the system tints it where it can.
+    // A grey that is visible on dark and light panels; as a mask it is tinted where the system supports that.
     QIcon icon;
     for (const int side : {22, 44})
         icon.addPixmap(QPixmap::fromImage(tintedSymbol(QStringLiteral("internaldrive"), QColor(152, 146, 168), side)));
@@ -54,7 +54,7 @@ QIcon statusIcon() {
 }
 
 void registerInterface() {
-    // A type registered again is another type: an engine would have every singleton twice.
+    // Registering twice would create second types, and engines would have every singleton twice.
     static bool registered = false;
     if (std::exchange(registered, true)) return;
     qml_register_types_Zelk_Controls();

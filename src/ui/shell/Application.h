@@ -5,17 +5,17 @@
 
 namespace zelk {
 
-/// Names the application and gives it its one font, which every text of the interface takes up. Call once, behind the
+/// Sets the application's name and its default font, which all texts inherit. Call once, after creating the
 /// QApplication.
 void dressApplication();
 
-/// The mark of the house: a drive on the accent gradient.
+/// The application's icon: a drive on the accent gradient.
 QIcon applicationIcon();
 
-/// The drive alone, as a tray shows it.
+/// The drive alone, for the tray.
 QIcon statusIcon();
 
-/// Makes the QML modules of the interface known. May be called more than once.
+/// Registers the QML modules. May be called repeatedly.
 void registerInterface();
 
 }  // namespace zelk

@@ -6,14 +6,14 @@
 
 namespace zelk {
 
-/// What the application's bundle says of it. Whatever it does not say is absent.
+/// Information from the application bundle. Absent fields are not specified there.
 struct BundleInfo {
     std::optional<QString> name;
     std::optional<QString> version;
     std::optional<QString> build;
 };
 
-/// Of the bundle that this runs from; without one, of the build.
+/// The information of the bundle that runs, or that of the build if there is none.
 BundleInfo applicationBundle();
 
 }  // namespace zelk

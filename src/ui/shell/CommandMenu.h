@@ -11,7 +11,7 @@
 
 namespace zelk {
 
-/// One entry of a menu. What a system with a menu bar of its own wants to know about it is its part.
+/// A menu entry. `part` marks entries that a system with a global menu bar puts in its own place.
 struct Command {
     enum class Part { ordinary, about, settings, quit };
 
@@ -19,7 +19,7 @@ struct Command {
     QKeySequence shortcut;  ///< Control stands for Command on macOS; may be empty
     std::function<void()> run;
     Part part = Part::ordinary;
-    bool startsGroup = false;  ///< a divider stands before it
+    bool startsGroup = false;  ///< preceded by a divider
 };
 
 /// A menu of the menu bar, as a list of its entries. Main thread.
@@ -38,7 +38,7 @@ public:
     const std::vector<Command>& commands() const { return commands_; }
 
 public slots:
-    /// A row that is not there does nothing.
+    /// Ignores invalid rows.
     void run(int row);
 
 private:

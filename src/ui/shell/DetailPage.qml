@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The place of one screen. It is built when it is first gone to, with what it needs, and kept from then on.
+// Loads the view of a screen when it is first shown, and keeps it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -16,7 +16,7 @@ Loader {
 
     signal arrived
 
-    // While it is being made itself, not all that a build needs is there.
+    // `built` may change before all required properties are set.
     property bool made: false
 
     function build() {

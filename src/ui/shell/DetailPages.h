@@ -27,7 +27,7 @@ public:
     /// The required properties of the view of this row.
     Q_INVOKABLE QVariantMap given(int row);
 
-    /// The screen's model, made when it is first asked for. Model is the class that the table of screens makes.
+    /// The screen's model, created on first use. `Model` must be the class that the table of screens creates.
     template <class Model>
     Model& model(Screen screen) {
         return static_cast<Model&>(*modelOf(screen));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Whether the application speaks to a developer. Folded up only the switch itself is left of it.
+// The switch for the developer view. Collapsed, it shows no label.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::array endSignals{SIGTERM, SIGINT, SIGHUP};
 
-// All that a handler can reach.
+// A global, since signal handlers take no context.
 int writeEnd = -1;
 
 void noteSignal(int) {
@@ -36,7 +36,7 @@ void handleBy(void (*handler)(int), int flags) {
 
 EndSignals::EndSignals(std::function<void()> asked) {
     std::array<int, 2> ends{};
-    if (::pipe(ends.data()) != 0) return;  // then a signal ends the process, as it would without this
+    if (::pipe(ends.data()) != 0) return;  // signals keep their default effect
     for (const int end : ends) {
         ::fcntl(end, F_SETFD, FD_CLOEXEC);
         ::fcntl(end, F_SETFL, O_NONBLOCK);

@@ -7,9 +7,8 @@
 
 namespace zelk {
 
-/// Hears the signals by which a session that ends, a terminal or a person asks a process to end, and tells so on the
-/// main thread. Each is heard once: the second of a kind ends the process as if this were not there. One at a time, and
-/// main thread.
+/// Handles SIGTERM, SIGINT and SIGHUP by calling `asked` on the main thread. Each is handled once: its second
+/// occurrence has the default effect and ends the process. At most one instance; main thread.
 class EndSignals {
 public:
     explicit EndSignals(std::function<void()> asked);

@@ -19,19 +19,19 @@ namespace zelk {
 
 namespace {
 
-/// A dialog keeps settings of its own when it goes, and would make a home folder that is not there. While this lives,
-/// such settings are not kept.
-class HomeStaysAway {
+/// Keeps a file dialog from creating a missing home folder when it stores its own settings on destruction: redirects
+/// user settings for the lifetime of this object.
+class UserSettingsGuard {
 public:
-    HomeStaysAway() {
-        if (!QFileInfo::exists(QDir::homePath())) keepIn(QStringLiteral("/dev/null"));
+    UserSettingsGuard() {
+        if (!QFileInfo::exists(QDir::homePath())) redirect(QStringLiteral("/dev/null"));
     }
-    HomeStaysAway(const HomeStaysAway&) = delete;
-    HomeStaysAway& operator=(const HomeStaysAway&) = delete;
-    ~HomeStaysAway() { keepIn(folder_); }
+    UserSettingsGuard(const UserSettingsGuard&) = delete;
+    UserSettingsGuard& operator=(const UserSettingsGuard&) = delete;
+    ~UserSettingsGuard() { redirect(folder_); }
 
 private:
-    static void keepIn(const QString& folder) {
+    static void redirect(const QString& folder) {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
     }
 
@@ -40,8 +40,8 @@ private:
 
 constexpr std::string_view replacement = "\xef\xbf\xbd";  // U+FFFD
 
-/// The only entry of `folder` whose name reads as `name`; absent if there is none or more than one.
-std::optional<std::string> onlyEntryThatReads(const std::string& name, const std::string& folder, FileManager& files) {
+/// The only entry of `folder` that decodes to the text `name`; absent if there is none or more than one.
+std::optional<std::string> onlyEntryDecodingTo(const std::string& name, const std::string& folder, FileManager& files) {
     const QString wanted = QString::fromStdString(name);
     std::optional<std::string> found;
     for (std::string& entry : files.list(folder).value_or(std::vector<std::string>())) {
@@ -55,7 +55,7 @@ std::optional<std::string> onlyEntryThatReads(const std::string& name, const std
 }  // namespace
 
 std::optional<std::string> pickFolder(FileManager& files) {
-    const HomeStaysAway homeStaysAway;
+    const UserSettingsGuard settingsGuard;
     const QUrl url =
         QFileDialog::getExistingDirectoryUrl(nullptr, {}, {}, QFileDialog::ShowDirsOnly, {QStringLiteral("file")});
     return chosenFolder(url, files);
@@ -72,7 +72,7 @@ std::optional<std::string> chosenFolder(const QUrl& url, FileManager& files) {
         std::string name = path.substr(at, end - at);
         at = end + 1;
         if (name.find(replacement) != std::string::npos && !files.exists(pathIn(folder, name))) {
-            std::optional<std::string> meant = onlyEntryThatReads(name, folder, files);
+            std::optional<std::string> meant = onlyEntryDecodingTo(name, folder, files);
             if (!meant) return std::nullopt;
             name = std::move(*meant);
         }

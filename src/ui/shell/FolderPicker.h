@@ -9,13 +9,13 @@
 
 namespace zelk {
 
-/// Asks the person for one folder, modally, and gives its path in the bytes that the system has for it; absent if none
-/// was chosen. Makes no home folder that does not exist. Main thread, with a QApplication.
+/// Opens a modal folder dialog and returns the path of the chosen folder, as bytes; absent if cancelled. Does not
+/// create a missing home folder. Main thread; needs a QApplication.
 std::optional<std::string> pickFolder(FileManager& files);
 
-/// The path of the folder that a dialog answered with. A URL holds any bytes; a dialog that made it of text has put
-/// U+FFFD where the name was none, and then the folder is looked for on the disk, first by just that name. Absent if
-/// the URL is not of this machine, or if no entry has the name and several look like it.
+/// Converts the URL that a folder dialog returned. A URL can hold any bytes, but a dialog that converted the path from
+/// text has replaced undecodable bytes by U+FFFD. Such a component is looked up on disk, first literally. Absent if the
+/// URL is not local, or if no entry has the literal name and not exactly one decodes to it.
 std::optional<std::string> chosenFolder(const QUrl& url, FileManager& files);
 
 }  // namespace zelk

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The mark of the house, as the desktop shows it too.
+// The application's mark, the same as its icon.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// All that the main window holds: the menus where the system has no bar of its own, the sidebar, the chosen screen
-// beside it, and the sheets over both.
+// The contents of the main window: the menu bar if the system has no global one, the sidebar, the current screen, and
+// the sheets.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -54,7 +54,7 @@ FocusScope {
 
                 DetailPage {
                     pages: contents.pages
-                    // Where the keyboard is in a screen that goes, it follows to the one that comes.
+                    // Moves the focus along to the new screen if the old one had it.
                     onArrived: focus = true
                 }
             }

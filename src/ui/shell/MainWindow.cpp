@@ -31,7 +31,7 @@ T* singleton(QQmlEngine& engine, const char* name) {
     return instance;
 }
 
-/// The model where a view has its name for it.
+/// A view's required property `name` with this model.
 template <class T>
 QVariantMap as(const char* name, T* model) {
     return {{QString::fromLatin1(name), QVariant::fromValue(model)}};
@@ -50,7 +50,7 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
     registerInterface();
     engine_.addImportPath(QStringLiteral("qrc:/"));
 
-    // Before the first frame, so that no window ever flashes in the wrong theme.
+    // Before the first frame, so that no window shows the wrong theme.
     singleton<Theme>(engine_, "Theme")->follow(app);
     motion_ = singleton<Motion>(engine_, "Motion");
     textScale_ = singleton<TextScale>(engine_, "TextScale");
@@ -70,7 +70,7 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
                           {QStringLiteral("commands"), QVariant::fromValue(commands_.get())},
                           {QStringLiteral("quitQuestion"), QVariant::fromValue(quitQuestion_.get())},
                           {QStringLiteral("firstRun"), QVariant::fromValue(firstRun_.get())}});
-    // It may be closed or folded away while somebody quits by the status item.
+    // The window may be closed or minimized when the user quits through the status item.
     QObject::connect(quitQuestion_.get(), &QuitQuestion::changed, window_.get(), [this] {
         if (quitQuestion_->asking()) bringForward(*window_);
     });

@@ -25,8 +25,8 @@ class SidebarModel;
 class SurveyScreenModel;
 class TextScale;
 
-/// The main window of an AppModel with all that it shows and the windows beside it, not yet visible. The model and the
-/// services must outlive it; a survey may be under way when it goes. Main thread.
+/// The main window of an AppModel with its models and the secondary windows; hidden at first. The model and the
+/// services must outlive it. May be destroyed during a survey. Main thread.
 class MainWindow {
 public:
     explicit MainWindow(AppModel& app, WindowServices services = {});
@@ -34,15 +34,15 @@ public:
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
 
-    /// Shows it; the first time, the first run begins. Its contents follow its first frame.
+    /// Shows the window and, the first time, starts the first-run sheets. The contents are created after the first
+    /// frame.
     void show();
-    /// Whether it is on the screen with its contents and has the keyboard.
+    /// Whether it is visible with its contents and active.
     bool isUp() const;
-    /// What the first moments can do without: called once, when the contents have been painted.
+    /// Sets a callback for start-up work that can wait; called once, after the contents were painted.
     void whenComplete(std::function<void()> act) { whenComplete_ = std::move(act); }
 
-    /// Every window that is there comes to the front, the main one last; one that was closed stays so. Gives their
-    /// number.
+    /// Raises every open window, the main one last. Closed windows stay closed. Returns how many there are.
     int bringAllForward();
     QQuickWindow& openWindow(WindowId id) { return secondary_->open(id); }
     SecondaryWindows& secondary() { return *secondary_; }
@@ -52,7 +52,7 @@ public:
     ReclaimScreenModel& reclaim();
     SidebarModel& sidebar() { return *sidebar_; }
     AppCommands& commands() { return *commands_; }
-    /// By which every way out goes.
+    /// Every request to quit goes through this.
     QuitQuestion& quitQuestion() { return *quitQuestion_; }
     Motion& motion() { return *motion_; }
     TextScale& textScale() { return *textScale_; }
@@ -63,7 +63,7 @@ private:
 
     AppModel& app_;
     WindowServices services_;
-    // In this order: the windows read the models, and go first.
+    // Order matters: the windows read the models and are destroyed first.
     std::unique_ptr<SidebarModel> sidebar_;
     std::unique_ptr<DetailPages> pages_;
     std::unique_ptr<HelpModel> help_;
@@ -72,8 +72,8 @@ private:
     std::unique_ptr<QuitQuestion> quitQuestion_;
     std::unique_ptr<AppCommands> commands_;
     QQmlEngine engine_;
-    Motion* motion_ = nullptr;        // the engine's
-    TextScale* textScale_ = nullptr;  // the engine's
+    Motion* motion_ = nullptr;        // owned by the engine
+    TextScale* textScale_ = nullptr;  // owned by the engine
     std::unique_ptr<SecondaryWindows> secondary_;
     std::unique_ptr<QQuickWindow> window_;
     std::function<void()> whenComplete_;

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The frame of the application. It is on the screen with its grounds at once; what it holds is built behind the first
-// frame, a moment later.
+// The main window. It shows its background at once; the contents are created after the first frame.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -14,7 +13,7 @@ Window {
     required property DetailPages pages
     required property AppCommands commands
     required property QuitQuestion quitQuestion
-    // Null where nothing is asked before the first use.
+    // Null if there is no first run.
     required property FirstRunModel firstRun
 
     property bool filled: false

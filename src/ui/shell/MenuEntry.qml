@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An entry of a menu with its key at the right, and the divider over it where it starts a group.
+// A menu entry with its shortcut at the right, and a divider above if it starts a group.
 pragma ComponentBehavior: Bound
 
 import QtQuick

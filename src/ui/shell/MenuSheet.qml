@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One opened menu.
+// The popup of a menu in the menu bar.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -19,7 +19,7 @@ T.Menu {
     padding: 6
     margins: 4
     overlap: 0
-    // What is read is an item of the template, which has no name of its own.
+    // Screen readers find the popup item of the template, which has no name of its own.
     onAboutToShow: contentItem.parent.Accessible.name = menuSheet.title
 
     background: Rectangle {

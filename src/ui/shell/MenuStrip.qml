@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The menu bar of a system that has none of its own: in the window, in the theme, and with the same entries. F10 opens
-// the first menu, Alt with the first letter of one opens that.
+// The menu bar within the window, for systems without a global one. F10 opens the first menu, Alt with a menu's first
+// letter opens that menu.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -14,7 +14,7 @@ T.MenuBar {
 
     required property AppCommands commands
 
-    // What had the keyboard before the first menu opened, and how many are open.
+    // The item that had the focus before the first menu opened, and the number of open menus.
     property Item before: null
     property int opened: 0
 
@@ -23,7 +23,7 @@ T.MenuBar {
             bar.before = bar.Window.activeFocusItem;
     }
 
-    // One menu may have closed for the next.
+    // Restores the focus later, since another menu may open right after this one.
     function leave() {
         --bar.opened;
         back.restart();
@@ -81,7 +81,7 @@ T.MenuBar {
         onObjectAdded: (index, object) => bar.insertMenu(index, object as T.Menu)
     }
 
-    // The keys of the entries hold everywhere in the application, with every menu closed.
+    // Makes the shortcuts work throughout the application while all menus are closed.
     Instantiator {
         model: bar.commands.shortcuts
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The title of a menu in MenuStrip.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -8,17 +9,17 @@ import Zelk.Controls
 T.MenuBarItem {
     id: item
 
-    // The toolkit's mark for the key that goes with Alt.
+    // `text` has an ampersand for the mnemonic.
     readonly property string plainText: item.menu?.title ?? ""
 
     objectName: "menuTitle" + item.plainText
     text: "&" + item.plainText
-    // Menus have keys of their own, and leave the keyboard where it is.
+    // Menus handle the keyboard themselves, and the focus stays where it is.
     focusPolicy: Qt.NoFocus
     implicitWidth: label.implicitWidth + 20
     implicitHeight: Math.max(24, label.implicitHeight + 6)
     Accessible.name: item.plainText
-    // Qt 6.4 gives it the role of a menu bar whatever it is told, so a screen reader gets its content instead.
+    // Qt 6.4 always reports the role of a menu bar here, so the content item is accessible instead.
     Accessible.ignored: true
 
     background: Rectangle {

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// What macOS adds to every application by itself and Zelk does without, and how an application comes forward there.
-// Nothing to do elsewhere. Main thread.
+// Disables features that macOS adds to every application, and activates the application there. Does nothing on other
+// systems. Main thread.
 #pragma once
 
 namespace zelk {
 
-/// No window of ours becomes a tab of another. Before the first window.
+/// Disables window tabs. Call before creating the first window.
 void refuseWindowTabs();
 
-/// Nothing here is for another application to work on. Behind the menu bar.
+/// Removes the Services menu. Call after creating the menu bar.
 void removeServicesMenu();
 
-/// Puts this application before all others, whether or not it has a window to show. Elsewhere its windows do that.
+/// Activates the application, whether or not it has a visible window. On other systems raising its windows does that.
 void activateApplication();
 
 }  // namespace zelk

@@ -7,7 +7,7 @@ namespace zelk {
 
 namespace {
 
-/// The system moves entries of a role to its own application menu. Left alone it would guess from the words.
+/// The system moves entries with a role to its application menu. Without explicit roles Qt guesses them from the texts.
 QAction::MenuRole roleOf(Command::Part part) {
     switch (part) {
         case Command::Part::about:

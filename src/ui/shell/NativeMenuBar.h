@@ -8,8 +8,8 @@ namespace zelk {
 
 class AppCommands;
 
-/// The menus for a system that has a menu bar of its own. It belongs to no window, so it stays when the last one is
-/// closed. `commands` must outlive it. With a QApplication.
+/// Creates the global menu bar of a system that has one. It has no parent window, so that it stays when the last one is
+/// closed. `commands` must outlive it. Needs a QApplication.
 std::unique_ptr<QMenuBar> makeNativeMenuBar(AppCommands& commands);
 
 }  // namespace zelk

@@ -10,9 +10,8 @@ namespace zelk {
 
 class RemovalsModel;
 
-/// The one way out of the application: at once where nothing is being removed, and else by a question, so that nothing
-/// is left half done without a word. The question goes by itself when there is nothing to wait for any more. Main
-/// thread.
+/// Handles all requests to quit: at once if nothing is being removed, else after asking, so that a removal is not cut
+/// off silently. The question closes itself when the removal ends. Main thread.
 class QuitQuestion : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,34 +23,34 @@ class QuitQuestion : public QObject {
     Q_PROPERTY(QString note READ note NOTIFY changed FINAL)
 
 public:
-    /// `removals` must outlive it; `quit` ends the application.
+    /// `removals` must outlive it. `quit` ends the application.
     QuitQuestion(RemovalsModel& removals, std::function<void()> quit);
 
-    /// Whether something is being removed, so that ending has to wait.
+    /// Whether a removal is running, so that quitting has to wait.
     bool holds() const;
-    /// Ends the application, or asks how.
+    /// Quits, or asks how to.
     void quit();
-    /// Ends the application where nobody can be asked: nothing more begins, and what has begun ends first.
+    /// Quits without asking: starts no further item and quits when those under way have ended.
     void quitUnasked();
-    /// The session ends and takes the application along. Whether it is to be held for an answer.
+    /// Call when the session ends. Returns whether to hold the session up for an answer.
     bool endSession(bool mayAsk);
 
-    /// Whether there was ever a question.
+    /// Whether there has been a question yet.
     bool asked() const { return asked_; }
-    /// It stays while the last items end.
+    /// Whether the sheet is open: during the question, and until the last items have ended.
     bool shown() const { return asking() || stopping(); }
     bool asking() const { return way_ == Way::asking; }
     bool stopping() const { return way_ == Way::stopping; }
     QString note() const;
 
 public slots:
-    // The answers. Each does nothing while nothing is asked.
+    // The answers. Ignored unless asking().
 
-    /// Nothing is stopped, and nobody quits.
+    /// Continues the removal and does not quit.
     void cancel();
-    /// Ends the application when all is removed.
+    /// Quits when everything is removed.
     void finishFirst();
-    /// No further item begins; when those under way have ended, so does the application.
+    /// Starts no further item, and quits when those under way have ended.
     void stopNow();
 
 signals:

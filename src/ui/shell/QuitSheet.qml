@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Asked before the application ends while something is being removed. Escape goes back to it.
+// Asks how to quit while a removal is running. Escape cancels.
 pragma ComponentBehavior: Bound
 
 import QtQuick

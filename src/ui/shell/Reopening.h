@@ -6,14 +6,14 @@
 
 namespace zelk {
 
-/// Tells a press on the icon in the dock, which asks for a window, from the activation that the application asked for
-/// itself, which does not: the toolkit tells both as the same change of state. Main thread.
+/// Tells a click on the Dock icon, which asks for a window, from an activation that the application requested itself.
+/// Qt reports both as the same state change. Main thread.
 class Reopening {
 public:
-    /// The application is about to activate itself. One that is active already has no change to come.
+    /// Call before the application activates itself. If it is active already, no state change follows.
     void activating(Qt::ApplicationState now) { ours_ = now != Qt::ApplicationActive; }
 
-    /// Whether this state, which has just come, asks for a window.
+    /// Whether this new state comes from the Dock and asks for a window.
     bool asksForWindow(Qt::ApplicationState state) {
         return state == Qt::ApplicationActive && !std::exchange(ours_, false);
     }

@@ -12,14 +12,14 @@ class AppModel;
 class Motion;
 struct WindowServices;
 
-/// What a screen's model may be made of. All of it outlives the model.
+/// What the models of screens are created from. Outlives them.
 struct ScreenContext {
     AppModel& app;
     const WindowServices& services;
     const Motion& motion;
 };
 
-/// Where a screen lives: its view, which takes the model that `make` gives in a required property.
+/// Describes a screen: its view, and a factory for the model that the view takes as a required property.
 struct ScreenPlace {
     Screen screen;
     const char* view;      ///< the QML file, without its extension
@@ -27,7 +27,7 @@ struct ScreenPlace {
     std::unique_ptr<QObject> (*make)(const ScreenContext&);
 };
 
-/// The screen's line in the one table of screens.
+/// The screen's row in the table of screens.
 const ScreenPlace& placeOf(Screen screen);
 
 }  // namespace zelk

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What every window beside the main one is: in the theme, and closed by Escape or by the system's key for it.
+// The base of secondary windows: themed, closed by Escape or the standard shortcut.
 pragma ComponentBehavior: Bound
 
 import QtQuick

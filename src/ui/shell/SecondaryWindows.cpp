@@ -40,7 +40,7 @@ std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& file
 }
 
 bool isCovered(const QQuickWindow& window) {
-    // Popups lie in a layer over all else; what is drawn of one belongs to it.
+    // Popup items are children of the window's overlay, and their QObject parent is the popup.
     for (const QQuickItem* layer : window.contentItem()->childItems()) {
         if (!layer->inherits("QQuickOverlay")) continue;
         for (const QQuickItem* drawn : layer->childItems())

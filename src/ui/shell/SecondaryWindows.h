@@ -12,17 +12,16 @@
 
 namespace zelk {
 
-/// The windows beside the main one. Each is made when it is first asked for, and is the same one ever after. Main
-/// thread.
+/// The windows other than the main one. Each is created when first opened, and then kept. Main thread.
 class SecondaryWindows {
 public:
-    /// `given` makes the required properties of a window. The engine must outlive this.
+    /// `given` returns the required properties of a window. The engine must outlive this.
     SecondaryWindows(QQmlEngine& engine, std::function<QVariantMap(WindowId)> given);
     ~SecondaryWindows();
 
-    /// Shows it, or brings it forward where it is shown already.
+    /// Shows the window, or raises it if it is visible.
     QQuickWindow& open(WindowId id);
-    /// The window if it was ever opened, else nullptr.
+    /// The window if it was opened before, else nullptr.
     QQuickWindow* find(WindowId id) const;
     void closeAll();
 
@@ -32,14 +31,14 @@ private:
     std::map<WindowId, std::unique_ptr<QQuickWindow>> windows_;
 };
 
-/// A window of this file in ui/shell, in the middle of its screen and not yet shown. A file that is no window is a
-/// mistake of ours and ends the program.
+/// Creates the window of a QML file in ui/shell, centred on its screen and hidden. Aborts if the file does not define a
+/// window, which is a bug.
 std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& file, const QVariantMap& given);
 
-/// Whether a sheet lies over what the window shows, and waits for an answer.
+/// Whether a modal sheet covers the window.
 bool isCovered(const QQuickWindow& window);
 
-/// Shows it, unfolds it and gives it the keyboard.
+/// Shows, restores, raises and activates the window.
 void bringForward(QWindow& window);
 
 }  // namespace zelk

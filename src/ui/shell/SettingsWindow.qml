@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The settings window, of a fixed size.
 pragma ComponentBehavior: Bound
 
 import QtQuick

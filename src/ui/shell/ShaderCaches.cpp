@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where a driver keeps its cache instead, if the user says so.
+/// Variables by which users move a driver's cache.
 constexpr const char* folderVariables[] = {"MESA_SHADER_CACHE_DIR", "MESA_GLSL_CACHE_DIR",
                                            "__GL_SHADER_DISK_CACHE_PATH"};
 
@@ -28,7 +28,7 @@ struct Setting {
     const char* value;
 };
 
-/// Drivers under their new and their old names, and Qt's own in versions whose attribute does not reach it.
+/// Drivers by their new and old variables, and Qt itself for versions whose application attribute does not cover this.
 constexpr Setting offSettings[] = {{"MESA_SHADER_CACHE_DISABLE", "true"},
                                    {"MESA_GLSL_CACHE_DISABLE", "true"},
                                    {"__GL_SHADER_DISK_CACHE", "0"},
@@ -38,13 +38,13 @@ std::string homeFolder() {
     return QFile::encodeName(QDir::homePath()).toStdString();
 }
 
-/// The home folder by the user database, whatever $HOME says; empty if it names none.
+/// The home folder according to the user database, regardless of $HOME; empty if unknown.
 std::string registeredHome() {
     const passwd* const user = ::getpwuid(::getuid());
     return user == nullptr || user->pw_dir == nullptr ? std::string() : user->pw_dir;
 }
 
-fs::path nearestThatIsThere(fs::path folder) {
+fs::path nearestExisting(fs::path folder) {
     std::error_code ignored;
     while (folder.has_relative_path() && !fs::exists(folder, ignored)) folder = folder.parent_path();
     return folder;
@@ -56,7 +56,7 @@ std::vector<std::string> shaderCacheFolders() {
     std::vector<std::string> folders{homeFolder()};
     folders.push_back(
         QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)).toStdString());
-    // Mesa does not look at $HOME.
+    // Mesa ignores $HOME.
     if (qgetenv("XDG_CACHE_HOME").isEmpty())
         if (const std::string home = registeredHome(); !home.empty() && home != folders.front())
             folders.push_back(home + "/.cache");
@@ -77,7 +77,7 @@ std::optional<std::int64_t> roomForCacheIn(const std::string& folder) {
     const fs::path wanted = fs::absolute(folder, error);
     if (error) return std::nullopt;
     if (folder == homeFolder() && !fs::exists(wanted, error)) return 0;
-    const fs::space_info space = fs::space(nearestThatIsThere(wanted), error);
+    const fs::space_info space = fs::space(nearestExisting(wanted), error);
     if (error) return std::nullopt;
     constexpr std::uintmax_t most = std::numeric_limits<std::int64_t>::max();
     return static_cast<std::int64_t>(std::min(space.available, most));

@@ -29,16 +29,16 @@ Shell::Shell(AppModel& app, const WindowServices& services)
     });
     connect(&main_.window(), &QWindow::visibleChanged, this, &Shell::followMainWindow);
     connect(&statusItem_, &StatusItem::presentChanged, this, &Shell::followStatusItem);
-    // The first frames are the person's; to draw the icon and to ask the desktop for a tray come behind them.
+    // The icon and the query for a tray wait until the first frames are shown.
     main_.whenComplete([this] {
-#ifndef Q_OS_MACOS  // where it is the bundle's
+#ifndef Q_OS_MACOS  // its bundle has the icon
         QGuiApplication::setWindowIcon(applicationIcon());
 #endif
         statusItem_.start();
     });
 }
 
-/// The window hides once more as it is destroyed, when the parts that would be asked are gone already.
+/// The window emits visibleChanged once more on destruction, when the members used by the handler are gone.
 Shell::~Shell() {
     qGuiApp->removeEventFilter(this);
     main_.window().disconnect(this);
@@ -49,14 +49,14 @@ void Shell::start() {
     removeServicesMenu();
 }
 
-/// The application comes forward with the windows that it has: one that was closed stays so.
+/// Raises the open windows; closed ones stay closed.
 void Shell::openZelk() {
     reopening_.activating(QGuiApplication::applicationState());
     activateApplication();
     main_.bringAllForward();
 }
 
-/// A press on the icon in the dock while every window is closed.
+/// Handles a click on the Dock icon while all windows are closed.
 void Shell::followApplicationState(Qt::ApplicationState state) {
     if (reopening_.asksForWindow(state) && main_.bringAllForward() == 0) main_.show();
 }
@@ -65,8 +65,8 @@ void Shell::followMainWindow(bool visible) {
     if (!visible && !statusItem_.present()) main_.quitQuestion().quit();
 }
 
-/// What the system or the desktop wants to end, and the press that closes the main window where that is the end: held
-/// back until the person has said how.
+/// Holds back Quit events of the system, and the Close event of the main window if that would quit, until the question
+/// is answered.
 bool Shell::eventFilter(QObject* watched, QEvent* event) {
     const bool ends = event->type() == QEvent::Quit
                           ? watched == qGuiApp
@@ -77,7 +77,7 @@ bool Shell::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-/// A status item that goes leaves nobody without a way in: then the main window comes back.
+/// Shows the main window when the status item disappears, since nothing else would lead back to the application.
 void Shell::followStatusItem() {
     if (!statusItem_.present() && !main_.window().isVisible()) main_.show();
 }

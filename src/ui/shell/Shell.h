@@ -12,14 +12,14 @@
 
 namespace zelk {
 
-/// The running application: its windows, its status item, and when it ends. A window that is closed ends nothing as
-/// long as the status item is there to reach the application by; without one, the main window's end is the end. Before
-/// every end that would come while something is being removed, the main window asks. Main thread, with a QApplication.
+/// The running application: its windows, its status item and its end. Closing the windows does not quit while the
+/// status item is present; without one, closing the main window does. If a removal is running, the main window asks
+/// before quitting. Main thread; needs a QApplication.
 class Shell : public QObject {
     Q_OBJECT
 
 public:
-    /// `app` and the services must outlive it; `services.quit` ends the event loop.
+    /// `app` and the services must outlive it. `services.quit` must end the event loop.
     Shell(AppModel& app, const WindowServices& services);
     ~Shell() override;
 
@@ -41,7 +41,7 @@ private:
     MainWindow main_;
     StatusMenu statusMenu_;
     StatusItem statusItem_;
-    std::unique_ptr<QMenuBar> menuBar_;  // where the system has one of its own
+    std::unique_ptr<QMenuBar> menuBar_;  // only if the system has a global menu bar
 };
 
 }  // namespace zelk

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The modules, by group; at the foot the tools, the settings and the developer view. Folded up only the symbols stay.
+// The modules by group, and in the footer the tools, the settings and the developer switch. Collapsed, only symbols
+// show.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +12,7 @@ FocusScope {
 
     required property SidebarModel sidebar
 
-    // Little room: the rows move together before anything has to scroll.
+    // Reduces the spacing in a low window to avoid scrolling.
     readonly property bool tight: bar.height < 700
 
     objectName: "sidebar"
@@ -29,10 +30,10 @@ FocusScope {
         }
     }
 
-    // The keyboard, to a row.
+    // Gives the focus to a row.
     signal handed(place: int, reason: int)
 
-    // The rows of both lists are one column for the arrow keys.
+    // Arrow keys treat the rows of both lists as one column.
     function step(place: int, by: int) {
         bar.handed(place + by, by < 0 ? Qt.BacktabFocusReason : Qt.TabFocusReason);
     }
@@ -55,7 +56,7 @@ FocusScope {
     ScrollArea {
         id: scroll
 
-        // The rings of the first row and the last need a little more than the rows do.
+        // Space for the focus rings of the first and last row.
         readonly property real rim: 4
 
         anchors.top: head.bottom

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The mark and the name of the house, and the button that folds the sidebar up, which goes under the mark then.
+// The application's mark and name, and the button that collapses the sidebar. When collapsed, the button is below the
+// mark.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -8,8 +8,8 @@
 
 namespace zelk {
 
-/// The rows of the sidebar and its two switches. Which module is chosen is the AppModel's; whether the sidebar is
-/// folded up is its own and forgotten with the window. Main thread.
+/// The rows and switches of the sidebar. The AppModel owns the selected module; whether the sidebar is collapsed lasts
+/// as long as the window. Main thread.
 class SidebarModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -28,7 +28,7 @@ public:
     explicit SidebarModel(AppModel& app);
 
     SidebarRows* modules() { return &modules_; }
-    /// The tools and the settings, which belong to no group.
+    /// Tools and settings, which belong to no group.
     SidebarRows* foot() { return &foot_; }
 
     bool collapsed() const { return collapsed_; }

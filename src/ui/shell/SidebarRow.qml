@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One module in the sidebar, and over the first of a group the group's title. The symbol stays where it is when the
-// sidebar folds up.
+// A module in the sidebar, with its group's title above if it is the first of a group. The symbol keeps its position
+// when the sidebar collapses.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -27,7 +27,7 @@ Column {
         row.forceActiveFocus(reason);
     }
 
-    // A group stands off from the one above it, folded up too.
+    // Keeps a gap between groups, even when collapsed.
     Item {
         width: parent.width
         height: headingText.text === "" ? 0 : place.collapsed ? (place.tight ? 8 : 16) : headingText.implicitHeight

@@ -50,7 +50,7 @@ void SidebarRows::press(int row) {
     if (has(row)) app_.setSelection(screenAt(row));
 }
 
-/// Two rows change at most, and only they are drawn anew.
+/// Updates only the two rows whose selection changed.
 void SidebarRows::followSelection() {
     const Screen before = std::exchange(selected_, app_.selection());
     for (int row = 0; row < rowCount(); ++row)

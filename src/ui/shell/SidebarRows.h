@@ -13,13 +13,13 @@ namespace zelk {
 
 class AppModel;
 
-/// Modules with a title over them, which the first group has none of.
+/// Modules under a common title; the first group has none.
 struct SidebarGroup {
     QString title;
     std::vector<Screen> screens;
 };
 
-/// The modules of the sidebar in their order, without those at its foot.
+/// The modules of the sidebar in order, without those in the footer.
 const std::vector<SidebarGroup>& sidebarGroups();
 
 /// A run of rows in the sidebar, one per module. A group's title stands on its first row. Main thread.
@@ -37,7 +37,7 @@ public:
     Screen screenAt(int row) const { return rows_[static_cast<std::size_t>(row)].screen; }
 
 public slots:
-    /// Goes to the module of a row; a row that is not there is no module.
+    /// Opens the module of a row; ignores invalid rows.
     void press(int row);
 
 private:

@@ -18,7 +18,7 @@ StatusItem::~StatusItem() {
     if (icon_ != nullptr) icon_->hide();
 }
 
-/// A tray that comes back finds the icon by itself: the toolkit announces it anew.
+/// Creates the icon once: Qt shows it again when a tray comes back.
 void StatusItem::followTray() {
     if (tray_->isThere() && icon_ == nullptr) {
         icon_ = new QSystemTrayIcon(statusIcon(), this);
@@ -30,7 +30,7 @@ void StatusItem::followTray() {
     emit presentChanged();
 }
 
-/// Entries keep their place while only their texts change, so that a menu that is open does not jump.
+/// Updates entries in place if only their texts change, so that an open menu does not jump.
 void StatusItem::follow() {
     const std::vector<StatusEntry> entries = menu_.entries();
     const auto sameKind = [](const QAction& action, const StatusEntry& entry) {

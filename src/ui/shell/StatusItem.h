@@ -12,7 +12,7 @@ namespace zelk {
 
 class StatusMenu;
 
-/// Shows a StatusMenu in the desktop's tray, for as long as there is one. Main thread, with a QApplication.
+/// Shows a StatusMenu in the desktop's tray while there is one. Main thread; needs a QApplication.
 class StatusItem : public QObject {
     Q_OBJECT
 
@@ -21,12 +21,13 @@ public:
     StatusItem(StatusMenu& menu, std::unique_ptr<Tray> tray);
     ~StatusItem() override;
 
-    /// Appears, or does so as soon as a tray does. Once, behind the first frame: it asks the desktop, which takes time.
+    /// Shows the item now or as soon as a tray appears. Call once, after the first frame: it queries the desktop, which
+    /// takes time.
     void start() { tray_->look(); }
-    /// Whether the person can reach the application through it.
+    /// Whether the user can reach the application through it.
     bool present() const { return icon_ != nullptr && tray_->isThere(); }
 
-    /// The menu as it is shown.
+    /// The menu as displayed.
     QMenu& menu() { return shown_; }
 
 signals:

@@ -11,7 +11,7 @@ namespace zelk {
 
 class AppModel;
 
-/// One entry of the status item's menu: a divider has no text, a line nothing to run.
+/// An entry of the status item's menu. A divider has no text, an informational line nothing to run.
 struct StatusEntry {
     QString text;
     std::function<void()> run;
@@ -19,18 +19,18 @@ struct StatusEntry {
     bool isDivider() const { return text.isEmpty(); }
 };
 
-/// What stands in the status item's menu, made from the AppModel at each call. Main thread.
+/// The contents of the status item's menu, derived from the AppModel on each call. Main thread.
 class StatusMenu : public QObject {
     Q_OBJECT
 
 public:
-    /// `app` must outlive it. `openZelk` brings the application's windows forward, `quit` ends it.
+    /// `app` must outlive it. `openZelk` raises the application's windows, `quit` ends it.
     StatusMenu(AppModel& app, std::function<void()> openZelk, std::function<void()> quit);
 
     std::vector<StatusEntry> entries() const;
 
 signals:
-    /// The entries may have changed: a few times a second during a survey, and no more.
+    /// The entries may have changed. Throttled to a few times per second during a survey.
     void changed();
 
 private:

@@ -6,14 +6,14 @@
 
 namespace zelk {
 
-/// Where a desktop keeps the status items of its applications. Some have none, and it may come and go: with an
-/// extension that is switched, with a panel that ends. Main thread.
+/// The desktop's tray for status items. Some desktops have none, and it may appear and disappear at run time, with a
+/// panel or an extension. Main thread.
 class Tray : public QObject {
     Q_OBJECT
 
 public:
     bool isThere() const { return there_; }
-    /// Begins to look, once; asking the desktop takes time.
+    /// Starts watching for a tray, once. Querying the desktop takes time.
     virtual void look() = 0;
 
 signals:
@@ -30,7 +30,7 @@ private:
     bool there_ = false;
 };
 
-/// That of the desktop on which the application runs.
+/// The tray of the running desktop.
 std::unique_ptr<Tray> desktopTray();
 
 }  // namespace zelk

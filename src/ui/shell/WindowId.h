@@ -3,7 +3,7 @@
 
 namespace zelk {
 
-/// The windows beside the main one. There is one of each.
+/// The secondary windows, one of each.
 enum class WindowId { about, help, settings };
 
 }  // namespace zelk

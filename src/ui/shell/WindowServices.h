@@ -14,7 +14,7 @@ namespace zelk {
 class Preferences;
 class Workspace;
 
-/// What the windows ask of the system beside the AppModel. Without preferences or a desktop there is no first run.
+/// System services for the windows, besides the AppModel. The first-run sheets need preferences and a workspace.
 struct WindowServices {
     Preferences* preferences = nullptr;
     Workspace* workspace = nullptr;

@@ -26,7 +26,7 @@ void LinuxTray::follow(bool announced) {
 }
 
 std::unique_ptr<Tray> desktopTray() {
-    // X11 has a second kind of tray, which nobody announces.
+    // X11 also has trays that do not register on the bus.
     return std::make_unique<LinuxTray>(QDBusConnection::sessionBus(),
                                        QGuiApplication::platformName() == QStringLiteral("xcb"),
                                        &QSystemTrayIcon::isSystemTrayAvailable);

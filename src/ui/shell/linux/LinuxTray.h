@@ -9,9 +9,9 @@
 
 namespace zelk {
 
-/// The tray that a desktop announces on its session bus. The toolkit asks for one once and remembers the answer:
-/// `usable`, which asks it, is called when there is one to find, or at once where there may be one that nobody
-/// announces.
+/// The tray that a desktop registers on the session bus. Qt checks for one only once and caches the answer, so
+/// `usable`, which triggers that check, is called only when a tray is registered, or at once if there may be an
+/// unregistered one.
 class LinuxTray : public Tray {
 public:
     LinuxTray(const QDBusConnection& bus, bool mayBeUnannounced, std::function<bool()> usable);
