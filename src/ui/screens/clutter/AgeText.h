@@ -7,8 +7,8 @@
 
 namespace zelk {
 
-/// How long ago something was changed, in whole days, months of 30 and years of 365: "today", "29d ago", "1mo ago",
-/// "2y ago". What lies in the future is today.
+/// The time since `modified` in whole days, months of 30 days or years of 365 days: "today", "29d ago", "1mo ago", "2y
+/// ago". Future times are "today".
 QString ageText(TimePoint modified, TimePoint now);
 
 }  // namespace zelk

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The list of the heaviest files under its head, and the one menu of all its rows. Enter and the menu key open the menu
-// of the current row, the Delete key moves its file to the Trash.
+// The list of large files with its head, and the context menu that its rows share. Return and the menu key open the
+// menu of the current row, Delete moves its file to the Trash.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -45,7 +45,7 @@ FocusScope {
             menu.popup(list, at.x, at.y);
         }
 
-        // Of the row, which must be in sight for it.
+        // Asks the current row's delegate, which must be in view, to open the menu.
         signal menuOfCurrentWanted
 
         function openMenuByKey() {
@@ -67,7 +67,7 @@ FocusScope {
             if (!event.isAutoRepeat)
                 list.openMenuByKey();
         }
-        // A held key takes one file away and not all that move up.
+        // Ignores auto-repeat, which would delete one file after another as they move up.
         Keys.onDeletePressed: event => {
             if (event.isAutoRepeat)
                 return;
@@ -102,7 +102,7 @@ FocusScope {
         }
     }
 
-    // The list lets go of what it does not know.
+    // Reached by keys that the list does not handle.
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier && list.activeFocus;
         if (event.accepted)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Over the list: what it is, its order, and the types that it can be narrowed to.
+// The head of the file list: caption, sort order and type filter.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a survey found: no large file, or the list of them, which is built when there is one, and kept.
+// The results of a survey: a placeholder, or the file list, created when there are files and then kept.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +11,7 @@ FocusScope {
 
     focus: true
 
-    // Given by the scaffold.
+    // Set by ModuleScaffold.
     property ClutterScreenModel module: null
 
     readonly property bool nothing: results.module?.nothing ?? true

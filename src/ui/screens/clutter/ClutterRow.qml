@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One large file: what it is and where it lies, how old it is, how large, and the button of its menu. A press with the
-// right button opens the menu where the pointer is.
+// A large file: name, folder, age and size, and the button of its context menu. A right click opens the menu at the
+// pointer.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -19,7 +19,7 @@ ListRow {
     required property string spoken
     required property string actions
 
-    // Where the menu opens that is not asked for by the pointer.
+    // Where the menu opens unless the pointer asked for it.
     readonly property point menuPlace: Qt.point(more.x, more.y + more.height + 4)
 
     signal taken

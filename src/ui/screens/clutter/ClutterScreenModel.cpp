@@ -79,7 +79,7 @@ void ClutterScreenModel::moveToTrash() {
     if (!picked_.empty()) app_.trashLargeFile(picked_);
 }
 
-/// Of a survey under way nothing is known yet.
+/// Skipped during a survey, whose results are not known yet.
 void ClutterScreenModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
     std::vector<FileType> types;

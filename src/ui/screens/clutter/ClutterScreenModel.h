@@ -12,8 +12,8 @@
 
 namespace zelk {
 
-/// The heaviest files of the last survey: narrowed to a type, the largest or the oldest first, and what can be done to
-/// one. While another survey runs it keeps what it showed. Main thread.
+/// The large files of the last survey, filtered by type and sorted by size or age, and the actions on a file. Keeps its
+/// rows while another survey runs. Main thread.
 class ClutterScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
@@ -33,11 +33,11 @@ public:
 
     bool dark() const { return dark_; }
     void setDark(bool dark);
-    /// Whether a person looks at this screen: ages are those of the time when it came on screen.
+    /// Whether the screen is visible. Ages are computed when it becomes so.
     bool onScreen() const { return onScreen_; }
     void setOnScreen(bool onScreen);
 
-    /// The survey found no large file at all. A filter that leaves none is no such thing.
+    /// Whether the survey found no large file at all, regardless of the filter.
     bool nothing() const { return nothing_; }
     QStringList orders() const;
     int order() const { return sortByAge_ ? 1 : 0; }
@@ -49,11 +49,11 @@ public:
     bool sortByAge() const { return sortByAge_; }
 
 public slots:
-    /// Sorts by the choice of this index in `orders`.
+    /// Sorts by this index of `orders`.
     void sort(int order);
-    /// Narrows the list to what the pill in this row stands for.
+    /// Filters by the pill in this row.
     void filter(int pill);
-    /// The file in this row is what the actions are for, also when rows come and go meanwhile.
+    /// Makes the file in this row the target of the actions, even if rows change afterwards.
     void pick(int row);
     void reveal();
     void moveToTrash();
@@ -63,7 +63,7 @@ signals:
     void onScreenChanged();
     void nothingChanged();
     void orderChanged();
-    /// Another order or another filter: what was in sight means nothing any more.
+    /// The order or the filter changed, so the scroll position and current row are void.
     void rearranged();
 
 private:
@@ -78,7 +78,7 @@ private:
     bool nothing_ = true;
     bool dark_ = true;
     bool onScreen_ = false;
-    std::string picked_;  ///< a path; empty: none
+    std::string picked_;  ///< a path in bytes; empty if none
 };
 
 }  // namespace zelk

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The heaviest files. (A bound component could not be built in the scaffold.)
+// The Clutter screen: the largest files. (Not `ComponentBehavior: Bound`: ModuleScaffold could not instantiate the
+// component then.)
 import QtQuick
 import Zelk.App
 import Zelk.Controls

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What can be done to a file.
+// The context menu of a file.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -13,7 +13,7 @@ namespace zelk {
 
 void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
     edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
-    // What stayed may have another size than in the survey before, and all have another age.
+    // Rows that stay may have new sizes, and all have new ages.
     now_ = now;
     allRowsChanged({ageRole, sizeRole, spokenRole});
 }

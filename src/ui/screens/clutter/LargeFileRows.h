@@ -33,11 +33,11 @@ public:
     explicit LargeFileRows(QObject* parent = nullptr)
         : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "spoken", "actions"}, parent) {}
 
-    /// From here on the rows are these, in this order, and their ages those at `now`: rows that stay are not made anew.
+    /// Shows `files` in this order, with ages as of `now`. Delegates of rows that stay are kept.
     void show(std::vector<LargeFile> files, TimePoint now);
     void setTheme(const ZelkTheme& theme);
 
-    /// The path of the file in this row; empty if there is no such row.
+    /// The path of the file in this row, in bytes; empty for invalid rows.
     std::string pathAt(int row) const;
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One of the types of files, or all. The Tab key comes to the chosen one; the arrow keys choose its neighbours.
+// The type filter: "All" or one type. Tab focuses the chosen pill; the arrow keys choose its neighbours.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -18,20 +18,20 @@ class TypePills : public zelk::RowModel {
     QML_UNCREATABLE("Part of ClutterScreenModel")
 
 public:
-    /// `reached` is the one that the Tab key comes to: the chosen one, or the first where the chosen one has gone.
+    /// `reached` marks the pill in the focus chain: the chosen one, or the first if the chosen one is gone.
     enum Role { nameRole = Qt::UserRole, symbolRole, tintRole, chosenRole, reachedRole };
 
     using Filter = std::optional<FileType>;  ///< none: all files
 
     explicit TypePills(QObject* parent = nullptr) : RowModel({"name", "symbol", "tint", "chosen", "reached"}, parent) {}
 
-    /// From here on the pills are "All" and these; pills that stay are not made anew.
+    /// Shows "All" and `types`. Delegates of pills that stay are kept.
     void show(const std::vector<FileType>& types);
     void choose(Filter filter);
     void setTheme(const ZelkTheme& theme);
 
     const Filter& chosen() const { return chosen_; }
-    /// What the pill in this row stands for.
+    /// The filter of the pill in this row.
     Filter filterAt(int row) const { return pills_[static_cast<std::size_t>(row)]; }
 
 private:

@@ -12,7 +12,7 @@ namespace {
 
 constexpr qsizetype keptBytes = 8 * 1024 * 1024;
 
-/// As desktops paint folders; seen on either ground, and on a bubble.
+/// The usual folder colour of desktops; visible in both themes and on a bubble.
 const QColor folderColor(90, 172, 245);
 
 QImage imageOf(const IconPixels& pixels) {

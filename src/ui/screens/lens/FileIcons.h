@@ -10,17 +10,16 @@
 
 namespace zelk {
 
-/// The pictures of files and folders as the desktop shows them, or our own symbols where it has none. The last ones are
-/// kept. Main thread.
+/// The desktop's icons of files and folders, or our own symbols if it has none. Recent ones are cached. Main thread.
 class FileIcons {
 public:
-    /// Both outlive this.
+    /// Both arguments must outlive it.
     explicit FileIcons(Workspace& workspace, const ZelkTheme& theme = ZelkTheme::dark());
 
-    /// Our own symbol of a file is in a colour of `theme`, which outlives this.
+    /// Sets the theme whose colours our own symbols have. It must outlive this.
     void setTheme(const ZelkTheme& theme) { theme_ = &theme; }
 
-    /// `side` x `side` pixels, at least 1; never null.
+    /// The icon at `side` x `side` pixels, at least 1; never null.
     QImage image(const std::string& path, bool isDirectory, int side);
 
 private:
@@ -28,7 +27,7 @@ private:
 
     Workspace& workspace_;
     const ZelkTheme* theme_;
-    QCache<QByteArray, QImage> images_;  ///< a null image: the desktop has none
+    QCache<QByteArray, QImage> images_;  ///< null images for paths without a desktop icon
 };
 
 }  // namespace zelk

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where one is, and the ways back from there.
+// The current folder's name, and the buttons Start Over and Back.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +11,7 @@ Item {
 
     required property LensScreenModel lens
 
-    // The way back that was pressed leads no further.
+    // Back was pressed for the last time and is disabled now.
     signal stepped(bool byKey)
 
     implicitHeight: Math.max(52, startOver.implicitHeight + 16, nameText.implicitHeight + 16)

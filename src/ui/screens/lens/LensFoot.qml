@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How full the drive is, what is ticked, and the button that takes it away.
+// The drive's usage, the selected size, and the remove button.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +11,7 @@ Rectangle {
 
     required property LensScreenModel lens
 
-    // Before the button loses what it would remove.
+    // Emitted before the button is disabled.
     signal removing(bool byKey)
 
     implicitHeight: Math.max(volume.implicitHeight, caption.implicitHeight, remove.implicitHeight) + 2 * 16

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The folder at hand, and the ticks of all that is in it.
+// The head of the list: the current folder, and the menu to select all or none.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The folders of the folder at hand. Space ticks the current one, Return and the right arrow go into it, Backspace and
-// the left arrow leave, and I asks what it is.
+// The subfolders of the current folder. Space selects the current row, Return and Right enter it, Backspace and Left go
+// back, I explains it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -12,7 +12,7 @@ RowList {
 
     required property LensScreenModel lens
 
-    // The keyboard comes here, and is seen if it was in use.
+    // Takes the focus, visibly if the keyboard was used.
     function receive(byKeyboard: bool) {
         list.byKey = byKeyboard;
         list.forceActiveFocus(byKeyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The list at the left and the map at the right of the same folder, between what leads through the folders and what
-// takes things away.
+// The current folder as a list at the left and a bubble map at the right, with the navigation bar above and the remove
+// button below.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -15,7 +15,7 @@ FocusScope {
 
     readonly property real listWidth: Math.max(340, Math.min(Math.round(340 * TextScale.factor), Math.round(0.56 * width)))
 
-    // What had the keyboard is not to be pressed any more: it goes on where it can.
+    // Moves the focus off a button that is about to be disabled.
     function keepKeyboard(byKey: bool) {
         list.receive(byKey);
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The panes under the header of the results, built when the scaffold gives the model to them.
+// Creates the panes below the header once ModuleScaffold has set the model.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One folder. A press on it goes in, a press on its box ticks it.
+// A folder. A click enters it, a click on its check box selects it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -85,7 +85,7 @@ ListRow {
             }
         }
 
-        // Of all the rows only the current one's is a stop of the Tab key.
+        // Only the current row's button is in the focus chain.
         IconButton {
             id: ask
 
@@ -100,7 +100,7 @@ ListRow {
             text: row.info
             help: row.help
             onClicked: row.asked()
-            // The list is come to again at the row, not inside it.
+            // Makes the row, not the button, receive the focus when the list gets it back.
             onActiveFocusChanged: {
                 if (!ask.activeFocus && row.current)
                     row.focus = true;

@@ -13,7 +13,7 @@ namespace zelk {
 
 namespace {
 
-/// Told one by one, more steps than these would cost more than a new list.
+/// With more steps than this, a model reset is cheaper.
 constexpr int mostSteps = 64;
 
 }  // namespace
@@ -43,8 +43,8 @@ void LensRows::replaceBy(const std::vector<NodeRef>& nodes) {
     endResetModel();
 }
 
-/// Takes out what is not among `nodes` and moves what has become smaller to its new place. False, with the rows
-/// somewhere on the way, if that is not all that has changed, or takes too many steps.
+/// Removes rows that are not in `nodes` and moves those that became smaller. Returns false if other changes are needed
+/// or there are too many steps; the rows are then in an intermediate state.
 bool LensRows::turnInto(const std::vector<NodeRef>& nodes) {
     std::unordered_map<const FSNode*, int> places;
     places.reserve(nodes.size());

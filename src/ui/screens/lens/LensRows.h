@@ -26,22 +26,22 @@ class LensRows : public zelk::RowModel {
 public:
     enum Role { nameRole = Qt::UserRole, sizeRole, iconRole, tickedRole, drillableRole, spokenRole, infoRole };
 
-    /// The picture of a folder, by its path.
+    /// Returns the icon of a folder by its path.
     using IconOf = std::function<QImage(const std::string& path)>;
 
     /// `walk` must outlive it.
     LensRows(const LensWalk& walk, IconOf iconOf);
 
-    /// Another folder is at hand.
+    /// Shows another current folder, with a reset.
     void show();
-    /// The same folder, of which something may have gone or become smaller.
+    /// Updates the rows of the same folder after removals.
     void follow();
     void tellTicked(int row);
     void tellAllTicked();
 
-    /// The node of a row; absent if there is no such row.
+    /// The node of a row; null for invalid rows.
     NodeRef node(int row) const;
-    /// The row of a node; -1 if it has none.
+    /// The row of a node, or -1.
     int rowOf(const NodeRef& node) const;
 
 private:
@@ -50,7 +50,7 @@ private:
 
     struct Row {
         NodeRef node;
-        std::int64_t bytes = 0;  ///< as they are shown
+        std::int64_t bytes = 0;  ///< as currently displayed
     };
 
     void replaceBy(const std::vector<NodeRef>& nodes);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The texts of the screen stand in LensTexts.cpp.
+// The texts are in LensTexts.cpp.
 #include "ui/screens/lens/LensScreenModel.h"
 
 #include <QPointer>
@@ -17,7 +17,7 @@ constexpr int followInterval = 50;   // milliseconds
 constexpr int rowDuration = 180;     // milliseconds
 constexpr int bubbleDuration = 200;  // milliseconds
 
-// In pixels: twice what is drawn, for the screens that show twice as many.
+// In pixels: twice the size in points, for high-DPI screens.
 constexpr int rowIconSide = 44;
 constexpr int bubbleIconSide = 128;
 
@@ -51,7 +51,7 @@ LensScreenModel::LensScreenModel(AppModel& app)
                 [this] { back(); }}),
       explanation_(app.home()),
       undoBar_(app, RemovalUndo::Source::folders) {
-    // While many things leave the tree one after the other, the screen follows a few times a second.
+    // Coalesces many removals from the tree into a few updates per second.
     following_.setSingleShot(true);
     following_.setInterval(followInterval);
     connect(&following_, &QTimer::timeout, this, &LensScreenModel::followTree);
@@ -90,7 +90,7 @@ void LensScreenModel::followTree() {
     emit selectionChanged();
 }
 
-/// The folder at hand is another one. The keyboard belongs to the row of the one that was left for it, if it has one.
+/// Shows another folder. The current row becomes that of `from`, the folder that was left, if it has one.
 void LensScreenModel::arrive(const NodeRef& from) {
     rows_.show();
     shown_ = walk_.currentNode();
@@ -101,7 +101,7 @@ void LensScreenModel::arrive(const NodeRef& from) {
     emit arrived(std::max(0, rows_.rowOf(from)));
 }
 
-/// What the walk has left goes when nothing on the screen is in it any more.
+/// Releases trees of earlier surveys that neither the walk nor the rows refer to.
 void LensScreenModel::leaveTrees() {
     for (NodeRef& tree : walk_.takeLeftTrees()) app_.releaseElsewhere(std::move(tree));
 }
@@ -116,7 +116,7 @@ QImage LensScreenModel::icon(const std::string& path, int side) const {
     return icons_.image(path, true, side);
 }
 
-/// The node of a bubble; absent if it is the one of all the rest.
+/// The node of a bubble; null for the bubble of the rest.
 NodeRef LensScreenModel::bubbled(const std::string& path) const {
     for (int row = 0; row < static_cast<int>(LensWalk::topCount); ++row) {
         const NodeRef node = rows_.node(row);
@@ -188,11 +188,12 @@ void LensScreenModel::removeSelected() {
     if (!removable()) return;
     std::vector<NodeRef> leaving;
     for (const auto& [path, node] : walk_.selected()) leaving.push_back(node);
-    // First of all: with the last tick in an older tree goes what keeps that tree, and the paths in it.
+    // Before selectNone(): clearing the last selection of an older tree would release it, and with it the paths of its
+    // nodes.
     app_.trashAndRemove(leaving, [self = QPointer(this)](const auto& gone) {
         if (self) self->endRemoval(gone);
     });
-    // Not ticked from here on: what is pressed while they leave is another removal.
+    // Cleared at once, so that a second press is a removal of its own.
     selectNone();
 }
 

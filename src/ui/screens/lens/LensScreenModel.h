@@ -21,8 +21,8 @@ namespace zelk {
 
 class AppModel;
 
-/// The screen that walks through what a survey found, folder by folder, and takes away what is ticked. It shows the
-/// survey's tree whenever none is running: while one runs, other threads write into the tree that comes. Main thread.
+/// The Lens screen: walks through the surveyed tree by folder and removes the selected ones. Does not show the tree of
+/// a running survey, which other threads still write. Main thread.
 class LensScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
@@ -56,13 +56,13 @@ public:
     void setDark(bool dark);
 
     bool mapped() const { return static_cast<bool>(walk_.currentNode()); }
-    /// There is a folder at hand, and nothing in it to list or to map.
+    /// Whether the current folder has no subfolders to show.
     bool bare() const { return mapped() && rows_.rowCount() == 0; }
     bool canGoBack() const { return walk_.canGoBack(); }
-    /// The name of the folder at hand, or a dash.
+    /// The name of the current folder, or a dash.
     QString place() const;
     QString placeLine() const;
-    /// A QImage; an empty one where there is no folder.
+    /// A QImage; null without a current folder.
     QVariant placeIcon() const;
     QString selectTitle() const;
     QString listName() const;
@@ -78,20 +78,19 @@ public:
     bool removable() const { return !walk_.selected().empty(); }
 
     const LensWalk& walk() const { return walk_; }
-    /// How many removals have ended.
+    /// The number of removals that have ended.
     int version() const { return version_; }
 
 public slots:
     void startOver();
     void back();
-    /// A row that does not exist is passed over, here and below.
+    /// Here and below, invalid rows are ignored.
     void drill(int row);
     void toggle(int row);
     void explain(int row);
     void selectAll();
     void selectNone();
-    /// Moves what is ticked to the Trash, in the order of the paths. What does not go there stays in the tree, and is
-    /// not ticked any more either.
+    /// Moves the selected folders to the Trash, ordered by path. All are unselected; those that fail stay in the tree.
     void removeSelected();
 
 signals:
@@ -99,9 +98,9 @@ signals:
     void placeChanged();
     void selectionChanged();
     void volumeChanged();
-    /// Another folder is at hand, and this row of it is where the keyboard belongs.
+    /// The current folder changed; `row` is to become the current row.
     void arrived(int row);
-    /// Before that, where a folder was entered: how long its coming may take, in milliseconds.
+    /// Emitted before arrived() when a folder was entered, with the duration of the transition in milliseconds.
     void drilled(int duration);
 
 private:

@@ -13,11 +13,11 @@
 
 namespace zelk {
 
-/// The name of the one bubble that holds all that the map does not show by itself. No path is called so.
+/// The id of the bubble for all folders beyond the top ones. Not a possible path.
 inline constexpr std::string_view foldedSlice = "__other__";
 
-/// A slice for each of the first rows, with its path as its name, and one in the colour `folded` for the rest, if there
-/// is any. `iconOf` gives the picture of the folder at a path.
+/// Creates a slice for each of the top rows, with its path as id, and one in the colour `folded` for the rest, if any.
+/// `iconOf` returns the icon of the folder at a path.
 std::vector<BubbleSlice> slicesOf(const LensRows& rows, const LensWalk& walk, const QColor& folded,
                                   const std::function<QImage(const std::string&)>& iconOf);
 

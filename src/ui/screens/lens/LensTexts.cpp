@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the screen says.
+// The texts of LensScreenModel.
 #include <algorithm>
 
 #include "state/AppModel.h"
@@ -23,7 +23,7 @@ QString LensScreenModel::place() const {
     return node ? displayText(lastComponent(node->fullPath())) : QStringLiteral("—");
 }
 
-/// One folder is "1 folders": the word stands for the column, not for the count.
+/// "1 folders" is as intended: the word labels a count rather than agreeing with it.
 QString LensScreenModel::placeLine() const {
     const NodeRef node = walk_.currentNode();
     if (!node) return {};
@@ -38,7 +38,7 @@ QVariant LensScreenModel::placeIcon() const {
 QString LensScreenModel::selectTitle() const {
     return removable() ? QString::number(walk_.selected().size()) : tr("None");
 }
-/// What several scan roots hang in has no name of its own.
+/// The synthetic top of several scan roots has no name.
 QString LensScreenModel::listName() const {
     const QString name = place();
     return name.isEmpty() ? tr("Surveyed folders") : tr("Folders in %1").arg(name);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The module that walks through what a survey found, folder by folder. (A bound component could not be built in the
-// scaffold.)
+// The Lens screen. (Not `ComponentBehavior: Bound`: ModuleScaffold could not instantiate the component then.)
 import QtQuick
 import Zelk.App
 

@@ -36,7 +36,8 @@ NodeRef LensWalk::currentNode() const {
 std::vector<NodeRef> LensWalk::visibleChildren() const {
     const NodeRef current = currentNode();
     if (!current) return {};
-    // The sizes beside one another: of tens of thousands, no comparison should go and look for them.
+    // Copies the sizes next to each other, so that sorting tens of thousands does not dereference a node per
+    // comparison.
     std::vector<std::pair<std::int64_t, const NodeRef*>> sizes;
     sizes.reserve(current->children.size());
     for (const NodeRef& child : current->children)

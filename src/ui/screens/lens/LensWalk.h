@@ -12,42 +12,41 @@
 
 namespace zelk {
 
-/// Where a person stands in a finished tree, and what that person ticked on the way: values alone, no screen. It holds
-/// on to what it names, with the trees around it, also when another survey has finished: startOver() leaves the old
-/// tree. Main thread.
+/// The position and selection of the user within a finished tree, independent of any view. Keeps the nodes that it
+/// refers to, and their trees, alive, even after another survey: startOver() moves on to the new tree. Main thread.
 class LensWalk {
 public:
-    /// The most folders that the map shows by themselves; what comes behind them is one bubble.
+    /// The number of folders with bubbles of their own; all others share one.
     static constexpr std::size_t topCount = 16;
 
-    /// The tree to begin in; none if `root` is. What is below a folder that was entered stays as it was.
+    /// Sets the tree to start from; may be null. A folder that was entered before stays as it is.
     void setRoot(NodeRef root);
     const NodeRef& root() const { return root_; }
 
-    /// The root, or its child where it has exactly one: the level that scan roots share says nothing.
+    /// The root or, if it has exactly one child, that child: the synthetic top of a single scan root is skipped.
     NodeRef mapRoot() const;
-    /// What is shown: the last folder that was entered, or the map's root.
+    /// The last folder that was entered, else mapRoot().
     NodeRef currentNode() const;
-    /// Its children that hold bytes, largest first.
+    /// The children of the current node with a positive size, largest first.
     std::vector<NodeRef> visibleChildren() const;
 
     bool canGoBack() const { return !stack_.empty(); }
     void enter(NodeRef node) { stack_.push_back(std::move(node)); }
     void back();
-    /// To the map's root, with nothing ticked.
+    /// Returns to mapRoot() and clears the selection.
     void startOver();
 
     const std::map<std::string, NodeRef>& selected() const { return selected_; }
     bool isSelected(const std::string& path) const { return selected_.contains(path); }
     void select(NodeRef node);
     void unselect(const std::string& path) { selected_.erase(path); }
-    /// A folder that has gone, and what was in it.
+    /// Unselects a removed folder and everything below it.
     void unselectAtAndBelow(const std::string& path);
     void clearSelection() { selected_.clear(); }
     std::int64_t selectedBytes() const;
 
-    /// Trees of earlier surveys that nothing here is in any more. Whoever takes them lets go of them where that holds
-    /// up no screen.
+    /// Moves out the trees of earlier surveys that nothing here refers to any more. The caller should release them off
+    /// the main thread.
     std::vector<NodeRef> takeLeftTrees();
 
 private:
@@ -57,7 +56,7 @@ private:
     std::map<std::string, NodeRef> selected_;
 };
 
-/// The last component of a path, or all of it where that is empty.
+/// The last component of a path, or the whole path if that is empty.
 std::string_view lastComponent(std::string_view path);
 
 }  // namespace zelk

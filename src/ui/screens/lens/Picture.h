@@ -8,8 +8,7 @@
 
 namespace zelk {
 
-/// A picture that a model holds, smoothly in the item's own size. It says nothing to a screen reader: what it stands
-/// beside does.
+/// Shows a QImage of a model, scaled smoothly to the item. Hidden from screen readers: the item beside it has the name.
 class Picture : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -18,7 +17,7 @@ class Picture : public QQuickPaintedItem {
 public:
     explicit Picture(QQuickItem* parent = nullptr);
 
-    /// A QImage, for which QML has no name; anything else is an empty one.
+    /// A QImage, as a QVariant because QML has no such type; other values count as null.
     QVariant image() const { return image_; }
     void setImage(const QVariant& image);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The button that removes: in the accent while there is something to remove, and a quiet word otherwise.
+// The remove button: accented while something is selected, else subdued.
 pragma ComponentBehavior: Bound
 
 import QtQuick

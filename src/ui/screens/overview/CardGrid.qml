@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The finding cards side by side, two by two where four would be too narrow to read.
+// The finding cards in one row, or two by two in a narrow window.
 pragma ComponentBehavior: Bound
 
 import QtQuick

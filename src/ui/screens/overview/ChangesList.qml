@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The changed folders, section by section. Hundreds of them are possible, so only those in sight are made.
+// The changed folders by section. A ListView, since there may be hundreds.
 pragma ComponentBehavior: Bound
 
 import QtQuick

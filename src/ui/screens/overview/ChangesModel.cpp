@@ -10,7 +10,7 @@ namespace zelk {
 
 namespace {
 
-/// The whole drive has no name but its slash.
+/// The last component, or "/" for the root directory.
 std::string_view lastComponent(std::string_view path) {
     return path == "/" ? path : path.substr(path.rfind('/') + 1);
 }

@@ -21,7 +21,7 @@ class ChangesModel : public zelk::RowModel {
     Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
 
 public:
-    /// The first row of a section has its heading, in the colour of its tint.
+    /// Only the first row of a section has a heading; `tint` is the heading's colour.
     enum Role { headingRole = Qt::UserRole, tintRole, nameRole, pathRole, sizeRole };
 
     explicit ChangesModel(QObject* parent = nullptr) : RowModel({"heading", "tint", "name", "path", "size"}, parent) {}

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which folders grew, appeared or went since the survey before.
+// Shows which folders grew, appeared or vanished since the previous survey.
 pragma ComponentBehavior: Bound
 
 import QtQuick

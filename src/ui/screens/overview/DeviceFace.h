@@ -13,7 +13,7 @@
 
 namespace zelk {
 
-/// What is written of the machine and its drive.
+/// Texts about the computer and its drive.
 struct DeviceFace {
     Q_GADGET
     QML_VALUE_TYPE(deviceFace)
@@ -25,8 +25,8 @@ struct DeviceFace {
 
 public:
     QString name;
-    QString detail;    ///< what is known of chip, cores, memory and system
-    QString freeText;  ///< empty, like the next, where nothing is known of the drive
+    QString detail;    ///< the known ones of chip, cores, memory and system
+    QString freeText;  ///< empty, like the next, if the drive is unknown
     QString totalText;
 
     static DeviceFace of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The machine, and how full its drive is.
+// The computer and its drive's free space.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One file with its size.
+// A file with its size.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -22,7 +22,7 @@ std::int64_t downloadsBytes(const AppModel& app) {
     return 0;
 }
 
-/// What the system would give back by itself if an application asked for the space.
+/// The bytes that the system would free by itself for an application that needs space.
 std::int64_t purgeableBytes(const AppModel& app) {
     const std::optional<VolumeInfo>& volume = app.volume();
     return volume ? std::max<std::int64_t>(volume->importantAvailable - volume->available, 0) : 0;

@@ -36,12 +36,12 @@ public:
     /// `app` must outlive it.
     explicit FindingCards(AppModel& app, QObject* parent = nullptr);
 
-    /// Reads the figures anew.
+    /// Updates all values from the AppModel.
     void refresh();
     const std::vector<Card>& cards() const { return cards_; }
 
 public slots:
-    /// Goes to the card's module.
+    /// Opens the card's module.
     void press(int row);
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// All that a finished survey found. It goes at once when another survey begins, so that nothing stale can be pressed:
-// disabled too, for an item that is hidden keeps the keyboard.
+// The results of a finished survey. Hidden at once when another survey starts, so that stale results cannot be pressed,
+// and disabled too, since a hidden item keeps the focus.
 pragma ComponentBehavior: Bound
 
 import QtQuick

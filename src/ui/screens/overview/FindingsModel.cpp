@@ -13,7 +13,7 @@ namespace {
 
 const QColor largestTypeColor(255, 59, 48);
 
-/// What was surveyed as a person sees it: the folder itself where there is one alone.
+/// The surveyed bytes. With a single scan root, its own size.
 std::int64_t scannedBytes(const AppModel& app) {
     const NodeRef& root = app.root();
     if (!root) return app.bytesScanned();
@@ -53,7 +53,7 @@ void FindingsModel::seeAll() {
     app_.setSelection(Screen::clutter);
 }
 
-/// Of a survey under way nothing is known yet, and its fields change many times a second.
+/// Skipped during a survey, whose results are not known yet and whose fields change many times per second.
 void FindingsModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
     headline();

@@ -14,8 +14,8 @@ namespace zelk {
 
 class AppModel;
 
-/// What a finished survey says at once: how much could be taken back, what the bytes are, what to look at next. While
-/// another survey runs it keeps what it said. Main thread.
+/// A summary of a finished survey: the reclaimable bytes, the bytes by type, and where to continue. Keeps its values
+/// while another survey runs. Main thread.
 class FindingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -37,14 +37,14 @@ public:
     void setTheme(const ZelkTheme& theme);
 
     const QString& title() const { return title_; }
-    /// The big figure; empty where there is nothing to take back.
+    /// The reclaimable bytes as text; empty if there are none.
     const QString& figure() const { return figure_; }
     const QString& line() const { return line_; }
-    /// How many folders could not be read, so that nobody takes what is unknown for clean; empty where all could.
+    /// How many folders could not be read, lest unknown space be taken for clean; empty if there are none.
     const QString& unreadLine() const { return unreadLine_; }
     /// Whether there is anything to review.
     bool reviewable() const { return reviewable_; }
-    /// By type, the largest first.
+    /// By type, largest first.
     const QList<RibbonSegment>& segments() const { return segments_; }
     qint64 freeBytes() const { return freeBytes_; }
     FindingCards* cards() { return &cards_; }

@@ -7,8 +7,8 @@
 
 namespace zelk {
 
-/// Bytes that came between `before` and `now`; below 0 where there are fewer. The history file may hold any two
-/// numbers, so what no integer tells is cut to the furthest that has a counterpart of the other sign.
+/// The growth from `before` to `now` in bytes; negative if it shrank. Saturates, since the history file may contain any
+/// values, and so that the result can always be negated.
 inline std::int64_t growth(std::int64_t before, std::int64_t now) {
     constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
     std::int64_t grown = 0;

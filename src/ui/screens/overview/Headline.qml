@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How much could be taken back, in one figure, and the way there.
+// The reclaimable bytes in large type, and the button to review them.
 pragma ComponentBehavior: Bound
 
 import QtQuick

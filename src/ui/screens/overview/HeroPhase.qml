@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What stands under the button in one phase. The next one fades in over it and it is gone at once: a leaving control
-// must not be pressed any more.
+// The texts and controls below the scan button in one phase. Fades in, but disappears at once, because a control that
+// fades out could still be pressed.
 pragma ComponentBehavior: Bound
 
 import QtQuick

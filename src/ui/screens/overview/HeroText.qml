@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A centred line that steps back behind the button.
+// A centred line of secondary text.
 pragma ComponentBehavior: Bound
 
 import QtQuick

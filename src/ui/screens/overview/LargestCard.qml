@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The largest files, the first few of them.
+// The first few of the large files.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What one module found, as a button that leads there.
+// A card with a module's result that opens the module.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands on a module's card.
+// The content of a ModuleCard.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the surveyed bytes are, and under it what the Trash still holds.
+// The surveyed bytes by type, and below them the Trash.
 pragma ComponentBehavior: Bound
 
 import QtQuick

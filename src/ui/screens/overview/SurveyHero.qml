@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The scan button and, under it, what its phase has to say. The texts share one place, and as long as nothing has been
-// found it is as high as the highest of them, so that nothing moves when the phase does.
+// The scan button and, below it, the texts of the current phase. Before results are shown the texts occupy the height
+// of the tallest phase, so that nothing moves when the phase changes.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -13,20 +13,20 @@ FocusScope {
     id: hero
 
     required property SurveyScreenModel survey
-    // What holds the findings, which go when another survey begins.
+    // The item with the results, which are hidden when another survey starts.
     required property Item findings
 
     implicitHeight: column.implicitHeight
 
-    // A control that vanishes with its phase leaves the keyboard where the person goes on: at the button, and with the
-    // ring around it if that is what the person steers by.
+    // When a focused control disappears with its phase, moves the focus to the scan button, visibly if it was visible
+    // before.
     Connections {
         target: hero.survey
         function onPhaseChanged() {
             const focused = hero.Window.activeFocusItem;
             const ours = hero.visible && (!focused || [hero, hero.findings].some(part => hero.isIn(focused, part)) || hero.isIn(hero, focused));
             if (!ours) {
-                // Somebody is elsewhere, and stays there.
+                // The focus is elsewhere: leave it there.
                 scanButton.focus = true;
                 return;
             }
@@ -42,7 +42,7 @@ FocusScope {
         return false;
     }
 
-    // What is under way, to a screen reader: the button stays one.
+    // Reports the progress to screen readers, since the scan button keeps its role.
     Item {
         x: scanButton.x
         y: scanButton.y
@@ -80,7 +80,7 @@ FocusScope {
         Item {
             anchors.left: parent.left
             anchors.right: parent.right
-            // What was found follows close by.
+            // With results, only the height of this phase.
             implicitHeight: hero.survey.finished ? done.implicitHeight : Math.max(idleBlock.implicitHeight, progress.implicitHeight)
 
             HeroPhase {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The home screen: the machine, the hero in the middle of the room that there is and, once a survey has ended, what it
-// found. It scrolls where there is too little room.
+// The overview: the computer, the scan button centred in the remaining space and, after a survey, its results below.
+// Scrolls if there is too little space.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -89,7 +89,7 @@ FocusScope {
                 }
             }
 
-            // Built with the first results, and kept. It fades in.
+            // Created with the first results, and then kept.
             Loader {
                 id: findingsLoader
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The Trash in one row.
+// A row about the Trash, with a button to empty it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -14,7 +14,7 @@ Item {
     implicitHeight: Math.max(tile.height, words.implicitHeight, button.implicitHeight)
     visible: banner.trash.shown
 
-    // Whenever it comes on screen what it tells is read anew. One that is built in sight has no change to tell of.
+    // Reads the Trash again whenever the banner becomes visible; onCompleted covers one that is created visible.
     function appear() {
         if (banner.visible)
             banner.trash.appear();
@@ -40,7 +40,7 @@ Item {
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
-        // The keyboard waits here for what becomes of the Trash, which is read when it changes.
+        // Holds the focus when the button disappears, so that screen readers announce the new state of the Trash.
         Accessible.role: Accessible.Notification
         Accessible.name: Spoken.joined([title.text, banner.trash.subtitle])
         Accessible.focusable: true

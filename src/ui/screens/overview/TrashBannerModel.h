@@ -10,8 +10,8 @@ namespace zelk {
 class AppModel;
 class Workspace;
 
-/// What the Trash holds, told honestly: moving things there frees nothing until it is emptied, and a Trash that may not
-/// be looked into is not an empty one. Main thread.
+/// The state of the Trash: moving items there frees no space until it is emptied, and an unreadable Trash is shown as
+/// such, not as empty. Main thread.
 class TrashBannerModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,24 +24,24 @@ class TrashBannerModel : public QObject {
     Q_PROPERTY(QString actionName READ actionName NOTIFY changed FINAL)
 
 public:
-    /// With `showWhenEmpty` an empty Trash has its row too. `app` and `workspace` must outlive it.
+    /// With `showWhenEmpty` the banner is shown even for an empty Trash. `app` and `workspace` must outlive it.
     TrashBannerModel(AppModel& app, Workspace& workspace, bool showWhenEmpty, QObject* parent = nullptr);
 
     bool shown() const;
     QString subtitle() const;
-    /// A spinner stands in the place of the figure.
+    /// Whether to show a spinner instead of the size.
     bool busy() const;
-    /// Empty where it is not known.
+    /// The size; empty while unknown.
     QString figure() const;
-    /// The button's word; empty where there is none.
+    /// The button's label; empty if there is no button.
     QString action() const;
-    /// The same for somebody who does not see what stands beside it.
+    /// The button's accessible name, which makes sense without the text beside it.
     QString actionName() const;
 
 public slots:
-    /// The banner comes on screen.
+    /// Call when the banner becomes visible: reads the Trash again.
     void appear();
-    /// The button.
+    /// Runs the button's action.
     void act();
 
 signals:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How the drive changes from survey to survey.
+// The change since the last survey, with a sparkline and a forecast.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -10,7 +10,7 @@ namespace zelk {
 namespace {
 
 const QColor shrunkColor(50, 199, 123);
-// With a month or more left there is nothing to be alarmed about.
+// A forecast beyond this many days is not alarming.
 constexpr std::int64_t nearDays = 29;
 
 }  // namespace

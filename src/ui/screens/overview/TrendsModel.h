@@ -13,7 +13,7 @@ namespace zelk {
 
 class AppModel;
 
-/// How the drive changes from survey to survey, from the second record on. Main thread.
+/// The changes of the drive between surveys. Shown from the second record on. Main thread.
 class TrendsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -40,13 +40,13 @@ public:
     bool shown() const { return shown_; }
     QString arrow() const;
     QColor arrowColor() const;
-    /// What the arrow says without being seen.
+    /// The accessible name of the arrow.
     QString arrowName() const;
     QString delta() const;
     QString deltaLine() const;
     /// Bytes, oldest first.
     const QList<qreal>& totals() const { return totals_; }
-    /// Empty without one.
+    /// Empty if there is none.
     const QString& forecast() const { return forecast_; }
     QColor forecastColor() const;
     bool hasChanges() const { return hasChanges_; }
