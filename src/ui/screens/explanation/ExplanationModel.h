@@ -12,7 +12,8 @@
 
 namespace zelk {
 
-/// The note on one place of a disk, and whether it is open. What it says stays while it closes. Main thread.
+/// The explanation of a path on disk, and whether its sheet is open. The texts stay valid while the sheet closes. Main
+/// thread.
 class ExplanationModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -26,10 +27,10 @@ class ExplanationModel : public QObject {
     Q_PROPERTY(QString detail READ detail NOTIFY changed FINAL)
 
 public:
-    /// `home` is the person's own folder, whose parts it knows.
+    /// `home` is the user's home folder, whose parts have explanations.
     explicit ExplanationModel(std::string home);
 
-    /// Opens it on a path in bytes.
+    /// Opens the sheet for a path, in bytes.
     void open(const std::string& path);
     void setTheme(const ZelkTheme& theme);
 
@@ -37,7 +38,7 @@ public:
     QString title() const;
     QString path() const;
     QString badge() const;
-    /// Of the badge: one grade has a colour of its own, the others have the theme's.
+    /// The colour of the badge: fixed for one grade, else from the theme.
     QColor tint() const;
     bool regenerates() const { return explanation_.regenerates; }
     QString detail() const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a place on the disk is, before anybody removes it.
+// Explains what a path on disk is, so that the user can decide whether to remove it.
 pragma ComponentBehavior: Bound
 
 import QtQuick

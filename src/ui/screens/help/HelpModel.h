@@ -10,7 +10,7 @@
 
 namespace zelk {
 
-/// The topics of the manual and the one that is read. Main thread.
+/// The help topics and the current one. Main thread.
 class HelpModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -23,16 +23,16 @@ public:
     using QObject::QObject;
 
     const QList<HelpTopic>& topics() const { return topics_; }
-    /// The id of the topic that was chosen; none until then.
+    /// The id of the chosen topic; none before a choice.
     std::optional<int> selection() const { return selection_; }
-    /// The row of the topic that is shown: the chosen one, else the first.
+    /// The row of the shown topic: the chosen one, else the first.
     int current() const { return selection_.value_or(0); }
     const HelpTopic& topic() const { return topics_[current()]; }
 
 public slots:
-    /// Does nothing where there is no such row.
+    /// Ignores invalid rows.
     void select(int row);
-    /// The topic above or below the one that is shown; at the ends the list stays where it is.
+    /// The previous and next topic; nothing at the ends of the list.
     void selectPrevious() { select(current() - 1); }
     void selectNext() { select(current() + 1); }
     void selectFirst() { select(0); }

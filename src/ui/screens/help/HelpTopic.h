@@ -13,7 +13,7 @@
 
 namespace zelk {
 
-/// One page of the manual.
+/// A page of the manual.
 struct HelpTopic {
     Q_GADGET
     QML_VALUE_TYPE(helpTopic)
@@ -25,20 +25,20 @@ struct HelpTopic {
     Q_PROPERTY(QColor tint READ tint FINAL)
 
 public:
-    int id = 0;  ///< its place in the list, which never changes
+    int id = 0;  ///< its fixed index in the list
     QString title;
-    std::optional<Screen> screen;  ///< none where it speaks of the whole application
+    std::optional<Screen> screen;  ///< none if it is about the whole application
     QString lead;
     QStringList paragraphs;
 
-    /// Its screen's, or those of a question where it has none.
+    /// From its screen's look, or a question mark if it has no screen.
     QString symbol() const;
     QColor tint() const;
 
     bool operator==(const HelpTopic&) const = default;
 };
 
-/// The manual, in order.
+/// All topics, in order.
 QList<HelpTopic> helpTopics();
 
 }  // namespace zelk

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The manual: its topics at the left, the one that is read beside them.
+// The manual: topics at the left, the current one beside them.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -14,7 +14,7 @@ FocusScope {
     implicitWidth: 760
     implicitHeight: 520
 
-    // A topic is read from its top.
+    // Shows a newly chosen topic from the top.
     Connections {
         target: view.help
         function onCurrentChanged() {
@@ -44,7 +44,7 @@ FocusScope {
                 width: parent.width
                 help: view.help
                 focus: true
-                // The list is short and its keys are few: these two are for what is read.
+                // The short list has no pages, so Page Up and Page Down scroll the topic.
                 onPageTurned: way => page.scrollTo(page.contentY + way * page.height * 0.9)
             }
         }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The topics of the manual, one below the other. The arrow keys go from one to the next, Home and End to the ends.
+// The list of help topics. The arrow keys, Home and End change the current one.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,10 +11,10 @@ FocusScope {
 
     required property HelpModel help
 
-    // -1 up, 1 down.
+    // -1 is up, 1 is down.
     signal pageTurned(way: int)
 
-    // The row that is read was chosen with the keyboard, and it must stay in sight.
+    // Focuses the row chosen by the keyboard, visibly, which scrolls it into view.
     function followKeyboard() {
         const row = topics.itemAt(list.help.current) as T.AbstractButton;
         row.forceActiveFocus(Qt.TabFocusReason);

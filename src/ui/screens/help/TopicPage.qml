@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One topic of the manual, as wide as a line can be read.
+// A help topic, limited to a readable line length.
 pragma ComponentBehavior: Bound
 
 import QtQuick

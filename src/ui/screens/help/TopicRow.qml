@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One topic of the manual in its list. Only the one that is read is a stop of the Tab key: the arrows go from there.
+// A help topic in the list. Only the current one is in the focus chain; arrow keys move from there.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -13,7 +13,7 @@ ItemDelegate {
     required property helpTopic modelData
 
     text: row.modelData.title
-    // (A stop cannot cease to be one while the keyboard is still there.)
+    // (It stays there while it has the focus, even when another one becomes current.)
     focusPolicy: row.current || row.activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     leftPadding: 12
     rightPadding: 12

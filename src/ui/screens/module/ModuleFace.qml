@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One face of a module. It fades in where the one before it fades out, and takes no key and no click when it is not
-// shown.
+// A page of ModuleScaffold. Cross-fades with the previous one and takes no input while hidden.
 pragma ComponentBehavior: Bound
 
 import QtQuick

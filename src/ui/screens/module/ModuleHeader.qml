@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The head of a module's results: its tile, its name and what it is for, and at the right what the module puts there.
+// The header of a module's results: symbol, title and subtitle, and an optional control at the right.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The first face of a module: what it is, what it does, and the button that begins. It scrolls where there is too
-// little room.
+// The start page of a module: its title, what it does, and the button that starts it. Scrolls if there is too little
+// space.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -33,7 +33,7 @@ FocusScope {
         contentHeight: Math.max(height, column.implicitHeight + 2 * 28)
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        // Without a button the keyboard is at the page itself.
+        // Without a button, the page takes the focus.
         focus: hero.module.scanLabel === ""
 
         Accessible.role: Accessible.Document

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A module's sign: a disc of light in its colour with the symbol on it, and rings around it that breathe while the
-// module works. Nothing moves where it is not seen or where motion is not wanted.
+// A module's emblem: a glowing disc with its symbol, and rings that pulse while the module scans. Not animated while
+// hidden or with reduced motion.
 pragma ComponentBehavior: Bound
 
 import QtQuick

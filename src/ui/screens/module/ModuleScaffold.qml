@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The three faces of a module that looks for something. A module gives its model and what stands under the header of
-// its results, which has a property for the model too; that is built with the first results and kept.
+// The frame of a module that scans: start page, progress, and results. A module provides its model and a component for
+// the results, which has a `module` property. The results are created when first shown, and then kept.
 pragma ComponentBehavior: Bound
 
 import QtQuick

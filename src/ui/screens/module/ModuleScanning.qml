@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The face of a module at work.
+// The progress page of a module.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -12,11 +12,11 @@
 
 namespace zelk {
 
-/// The three faces of a module that looks for something.
+/// The states of a module that scans for something, each with a page of its own.
 enum class ModulePhase { idle, scanning, results };
 
-/// What the scaffold of a module shows: its texts, its phase and how far it is. A module sets the phase and the detail
-/// as it works, and says what its button does. Main thread.
+/// The model of ModuleScaffold: texts, phase and progress. Subclasses set the phase and detail as they work, and pass
+/// what the button does. Main thread.
 class ModuleScreenModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -34,7 +34,7 @@ class ModuleScreenModel : public QObject {
     Q_PROPERTY(QString scanDetail READ scanDetail NOTIFY scanDetailChanged FINAL)
 
 public:
-    /// A text without a title takes the screen's.
+    /// An empty title is replaced by the screen's.
     ModuleScreenModel(Screen screen, ModuleTexts texts, std::function<void()> onScan = {},
                       std::function<void()> onCancel = {});
 
@@ -53,14 +53,14 @@ public:
     bool results() const { return phase_ == ModulePhase::results; }
     void setPhase(ModulePhase phase);
 
-    /// How far it is, in one line; may be empty.
+    /// The progress as one line; may be empty.
     const QString& scanDetail() const { return scanDetail_; }
     void setScanDetail(const QString& detail);
 
 public slots:
-    /// The button of the first face.
+    /// The button of the start page.
     void scan();
-    /// The key that calls it off while it is looking.
+    /// The key that cancels a scan.
     void cancel();
 
 signals:

@@ -5,13 +5,13 @@
 
 namespace zelk {
 
-/// What a module says of itself on its three faces. A text that is empty takes no place.
+/// The texts of ModuleScaffold. Empty ones take no space.
 struct ModuleTexts {
     QString title;
     QString subtitle;
-    QString scanLabel;      ///< of the button of the first face; without one there is no button
-    QString scanningLabel;  ///< while it works
-    QString note;           ///< a quiet line under the first face
+    QString scanLabel;      ///< of the button on the start page; without it there is no button
+    QString scanningLabel;  ///< shown while it scans
+    QString note;           ///< a line of secondary text on the start page
 
     bool operator==(const ModuleTexts&) const = default;
 };

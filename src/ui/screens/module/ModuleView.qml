@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A module whose view is not in this version: its hero, which says so. It never comes to results.
+// A module without a view in this version: the start page, which says so. Never has results.
 import QtQuick
 
 ModuleScaffold {

@@ -38,7 +38,7 @@ SurveyedModule::SurveyedModule(AppModel& app, Screen screen, ModuleTexts texts)
     followPhase();
 }
 
-/// The figures of a survey are still those of the one before when its phase begins: they come with the next tick.
+/// When the phase begins, the counts are still those of the previous survey. The next tick updates them.
 void SurveyedModule::followPhase() {
     setPhase(phaseOf(app_.scanPhase()));
     followProgress();

@@ -9,8 +9,8 @@ namespace zelk {
 
 class AppModel;
 
-/// A module that lives from the survey: its phase is the survey's, its button begins one, and its detail is the
-/// survey's progress, a dozen times a second and no more. Main thread.
+/// A module based on the survey: has its phase, starts one with its button, and shows its progress, throttled to a
+/// dozen updates per second. Main thread.
 class SurveyedModule : public zelk::ModuleScreenModel {
     Q_OBJECT
     QML_ELEMENT

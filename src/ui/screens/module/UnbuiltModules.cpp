@@ -11,7 +11,7 @@ namespace zelk {
 
 namespace {
 
-/// Without a button: there is nothing yet that would look.
+/// Has no scan label and therefore no button, since there is nothing to start.
 ModuleTexts introduced(Screen screen, const QString& title, const QString& subtitle) {
     ModuleTexts texts;
     texts.title = title;

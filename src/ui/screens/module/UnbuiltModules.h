@@ -10,8 +10,8 @@ namespace zelk {
 class AppModel;
 class ModuleScreenModel;
 
-/// The screen of a module whose view is not in this version: it introduces the module and says so. `screen` is none of
-/// those that have a view.
+/// Creates the model for a module without a view in this version, which introduces the module and says so. `screen`
+/// must be such a module.
 std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen);
 
 }  // namespace zelk

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How many categories are chosen, and the menu that chooses many at once.
+// How many categories are selected, and the menu that selects several at once.
 pragma ComponentBehavior: Bound
 
 import QtQuick

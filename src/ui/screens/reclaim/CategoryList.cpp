@@ -123,7 +123,7 @@ void CategoryList::announce() {
 }
 
 void CategoryList::showFooter() {
-    // Counted by item: a category that the catalogue does not know has no row, but may have been chosen before.
+    // Counts by item, since categories unknown to the catalogue have no row but may have been selected before.
     std::int64_t bytes = 0;
     chosenItems_ = 0;
     for (const Reclaimable& item : app_.reclaimables()) {

@@ -30,14 +30,14 @@ class CategoryList : public zelk::RowModel {
 public:
     enum Role { idRole = Qt::UserRole, nameRole, noteRole, tintRole, bytesRole, countRole, chosenRole, spokenRole };
 
-    /// `app` must outlive it. `review` opens the review of these items, of which there is at least one.
+    /// `app` must outlive it. `review` opens the review of the given items, at least one.
     CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review, QObject* parent = nullptr);
 
-    /// The screen shows it: the first time, the safe ones are chosen.
+    /// Call when the screen becomes visible. Selects the safe categories the first time.
     void appear();
 
     QString menuLabel() const;
-    /// What is chosen, in items and bytes.
+    /// The number and size of the selected items.
     const QString& footer() const { return footer_; }
     bool reviewable() const { return chosenItems_ > 0; }
     BubbleModel* bubbles() { return &bubbles_; }
@@ -49,7 +49,7 @@ public slots:
     void chooseAll();
     void chooseSafe();
     void chooseNone();
-    /// Does nothing without an item.
+    /// Ignored if no item is selected.
     void review();
 
 signals:
@@ -76,7 +76,7 @@ private:
     AppModel& app_;
     std::function<void(std::vector<Reclaimable>)> review_;
     std::vector<Row> rows_;
-    std::set<std::string, std::less<>> chosen_;  // ids, also of categories that a survey no longer finds
+    std::set<std::string, std::less<>> chosen_;  // ids, including categories that the last survey did not find
     bool seeded_ = false;
     std::size_t chosenItems_ = 0;
     QString footer_;

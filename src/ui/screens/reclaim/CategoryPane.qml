@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The categories as a list, and beside it as a map of the same; either ticks them.
+// The categories as a list and as a bubble map; both select them.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A category: its tick, its grade as a dot, what it is and how much of it there is.
+// A category: check box, grade, name and size.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is chosen, and the one button that leads on.
+// The size of the selection, and the button that continues.
 pragma ComponentBehavior: Bound
 
 import QtQuick

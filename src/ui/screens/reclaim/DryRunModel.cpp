@@ -106,7 +106,7 @@ QString DryRunModel::emptyLabel() const {
 
 void DryRunModel::cancel() {
     if (!isReview() || std::exchange(left_, true)) return;
-    const Actions actions = actions_;  // dismissing may end this
+    const Actions actions = actions_;  // a copy, since dismiss() may destroy this
     actions.dismiss();
 }
 
@@ -134,7 +134,7 @@ void DryRunModel::emptyTrash() {
 
 void DryRunModel::finish() {
     if (!isDone() || emptyingTrash_ || std::exchange(left_, true)) return;
-    const Actions actions = actions_;  // dismissing may end this
+    const Actions actions = actions_;  // a copy, since dismiss() may destroy this
     actions.dismiss();
     actions.rescan();
 }

@@ -16,8 +16,8 @@
 
 namespace zelk {
 
-/// The sheet that every reviewed clean-up passes through: what would go, the going, what went. The items are fixed when
-/// it opens, and nothing is touched before the press on the confirm button. Main thread.
+/// The sheet of a reviewed clean-up: review, progress and result. The items are fixed when it opens; nothing is touched
+/// before confirm(). Main thread.
 class DryRunModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -46,32 +46,33 @@ class DryRunModel : public QObject {
 public:
     enum class Phase { review, cleaning, done };
 
-    /// What becomes of the sheet: `dismiss` takes it from the screen, `rescan` follows that where a cleaning has ended.
+    /// What the owner does: `dismiss` closes the sheet, `rescan` follows once a clean-up has finished.
     struct Actions {
         std::function<void()> dismiss;
         std::function<void()> rescan;
     };
 
-    /// `model` and the services must outlive it, and a Trash that is being emptied when it goes.
+    /// `model` and the services must outlive it, and also an emptying of the Trash that is still running when it is
+    /// destroyed.
     DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items, const Platform& platform, Actions actions);
 
     Phase phase() const { return phase_; }
     bool isReview() const { return phase_ == Phase::review; }
     bool isCleaning() const { return phase_ == Phase::cleaning; }
     bool isDone() const { return phase_ == Phase::done; }
-    /// Whether it may be left now.
+    /// Whether the sheet may be closed now.
     bool closable() const { return !isCleaning() && !emptyingTrash_; }
 
     QString title() const;
     QString line() const;
     DryRunRows* rows() { return &rows_; }
     bool hardDelete() const { return hardDelete_; }
-    /// Only while it is reviewed.
+    /// Ignored after the review.
     void setHardDelete(bool hardDelete);
     QString confirmLabel() const;
-    /// How much of it is done, from 0 to 1.
+    /// The finished share of the clean-up, 0 to 1.
     double share() const;
-    /// The same as a screen reader says it: "12 of 40".
+    /// share() for screen readers: "12 of 40".
     QString progress() const;
     bool confirmable() const { return isReview() && !rows_.items().empty(); }
 
@@ -79,32 +80,32 @@ public:
     QString heading() const;
     QString result() const;
     bool anySkipped() const;
-    /// What could not be cleaned, in the order in which it failed: maps of `name` (its path) and `reason`. Made anew
-    /// by each call: there may be thousands.
+    /// The items that could not be cleaned, in order of failure: maps with `name` (the path) and `reason`. Computed on
+    /// each call; there may be thousands.
     Q_INVOKABLE QVariantList skipped() const;
     QString advice() const;
     bool emptyingTrash() const { return emptyingTrash_; }
     bool trashEmptied() const { return trashEmptied_; }
-    /// Whether the Trash is still to be kept or emptied.
+    /// Whether to offer emptying the Trash.
     bool emptyable() const { return isDone() && !trashEmptied_; }
     QString emptyLabel() const;
 
 public slots:
-    // None does anything once it was left.
+    // All are ignored once the sheet was closed.
 
-    /// Leaves without doing anything.
+    /// Closes the sheet without a clean-up.
     void cancel();
     void confirm();
     void emptyTrash();
-    /// Leaves behind a cleaning.
+    /// Closes the sheet after a clean-up.
     void finish();
-    /// What leaves it in the phase that it is in.
+    /// cancel() or finish(), depending on the phase.
     void close();
 
 signals:
     void phaseChanged();
     void hardDeleteChanged();
-    /// At a rate that can be read out.
+    /// Throttled to a rate that screen readers can follow.
     void progressChanged();
 
 private:
@@ -116,7 +117,7 @@ private:
     bool hardDelete_ = false;
     bool emptyingTrash_ = false;
     bool trashEmptied_ = false;
-    bool left_ = false;  // on its way out, a sheet still takes presses
+    bool left_ = false;  // while it fades out, the sheet still receives presses
     MainThreadQueue mainThread_;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What went, and whether the Trash goes after it.
+// What was removed, and the choice to empty the Trash.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +11,7 @@ FocusScope {
     id: resultPage
 
     required property DryRunModel dryRun
-    // Said with the button that the keyboard comes to.
+    // Read together with the button that receives the focus.
     readonly property string spoken: Spoken.joined([resultPage.dryRun.heading, resultPage.dryRun.result])
     readonly property T.AbstractButton primary: resultPage.dryRun.emptyable ? keep : done
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What would go, item by item, and how.
+// What would be removed, item by item, and how.
 pragma ComponentBehavior: Bound
 
 import QtQuick

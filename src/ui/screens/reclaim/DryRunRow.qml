@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One item that would go.
+// An item that a clean-up would remove.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The last look before a clean-up, and what became of it.
+// The review before a clean-up, its progress, and its result.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -12,7 +12,7 @@ Sheet {
     required property DryRunModel dryRun
 
     title: sheet.dryRun.done ? sheet.dryRun.heading : sheet.dryRun.title
-    // What cannot be undone is not pressed by a key that was meant for something else.
+    // Permanent deletion has no default button, so that a stray Return does not confirm it.
     primary: sheet.dryRun.done ? result.primary : sheet.dryRun.hardDelete ? null : review.confirm
     closable: sheet.dryRun.closable
     sheetWidth: 620

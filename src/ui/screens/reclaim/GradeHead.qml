@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The three grades and what they mean, and how long an item must have been left alone to be listed.
+// The head of ItemPane: the three grades, and the minimum age of the items listed.
 pragma ComponentBehavior: Bound
 
 import QtQuick

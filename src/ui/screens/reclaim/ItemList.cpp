@@ -141,7 +141,7 @@ bool ItemList::isTwin(const Group& group, const Reclaimable& item) {
     return std::count_if(items.begin(), items.end(), [&](const Reclaimable& one) { return one.id == item.id; }) > 1;
 }
 
-/// The rows whose ticks changed by a press on this one, and the sums.
+/// Updates the rows affected by ticking this one, and the sums.
 void ItemList::tickChanged(int row) {
     const auto [group, item] = rows_[static_cast<std::size_t>(row)];
     const int header = headerOf(group);
@@ -150,7 +150,7 @@ void ItemList::tickChanged(int row) {
         if (group->open) rowsChanged(header + 1, header + static_cast<int>(group->content.items.size()), {chosenRole});
     } else {
         if (!cleanup_.selection().conflictOf(*item).empty()) return;
-        // Of two surveyed folders one in the other, what the inner one holds is listed twice and ticked as one.
+        // With one scan root inside another, items of the inner one are listed twice but selected as one.
         if (isTwin(*group, *item)) return followSelection();
         DevCleanupModel::Tally& sum = tallies_.selected;
         const auto size = static_cast<std::int64_t>(item->size);
@@ -219,7 +219,7 @@ void ItemList::followSelection() {
 }
 
 void ItemList::refresh() {
-    // The rows that go point into the groups as they were.
+    // Kept until edit() returns: the old rows point into the old groups.
     const Groups former = std::exchange(groups_, readGroups());
     count();
     edit(rows_, rowsOf(groups_), keyOf);
@@ -246,7 +246,7 @@ std::vector<ItemList::Row> ItemList::rowsOf(const Groups& groups) {
     return rows;
 }
 
-/// A path begins with a slash and the id of a category does not.
+/// Unambiguous: a path begins with a slash, the id of a category does not.
 std::string_view ItemList::keyOf(const Row& row) {
     return row.item == nullptr ? row.group->content.category->id : std::string_view(row.item->id);
 }

@@ -34,22 +34,22 @@ class ItemList : public zelk::RowModel {
 
 public:
     enum Role {
-        groupRole = Qt::UserRole,  ///< whether the row is a category's
+        groupRole = Qt::UserRole,  ///< whether the row is a category
         nameRole,
         placeRole,   ///< the note of a category, the folder of an item
-        lineRole,    ///< what cleans an item, or what keeps it; may be empty
-        figureRole,  ///< bytes, of a category behind the number of its items
+        lineRole,    ///< what cleans an item or protects it; may be empty
+        figureRole,  ///< the size; of a category, after its number of items
         ageRole,     ///< of an item
         tintRole,
         gradeRole,
         chosenRole,
         freeRole,  ///< whether it may be ticked
-        openRole,  ///< whether a category is unfolded
+        openRole,  ///< whether a category is expanded
         symbolRole,
         spokenRole
     };
 
-    /// Both must outlive it.
+    /// Both arguments must outlive it.
     ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent = nullptr);
 
     QString footer() const;
@@ -60,19 +60,19 @@ public:
     int mostAgeDays() const { return 180; }
     QString ageText() const;
     QString shownText() const;
-    /// Nothing is shown, for the age filter alone.
+    /// Whether nothing is listed because of the age filter.
     bool allYoung() const { return tallies_.shown.items == 0; }
 
 public slots:
-    /// Of an item its tick, of a category those of all its items.
+    /// Ticks or unticks an item, or all items of a category.
     void toggle(int row);
-    /// Of an item its tick; a category is unfolded or folded up.
+    /// Ticks an item, or expands or collapses a category.
     void press(int row);
-    /// Unfolds a category or folds it up; an item's row has nothing to unfold.
+    /// Expands or collapses a category; ignored for an item.
     void setOpen(int row, bool open);
     /// The row of the category that a row belongs to.
     int groupRow(int row) const;
-    /// Opens the review of what is ticked.
+    /// Opens the review of the ticked items.
     void clean();
 
 signals:
@@ -91,7 +91,7 @@ private:
     using Groups = std::vector<std::unique_ptr<Group>>;
     struct Row {
         Group* group;
-        const Reclaimable* item;  // null in a category's row
+        const Reclaimable* item;  // null for a category
     };
 
     void refresh();
@@ -112,9 +112,9 @@ private:
     DevCleanupModel& cleanup_;
     Groups groups_;
     std::vector<Row> rows_;
-    std::set<std::string, std::less<>> open_;  // category ids
+    std::set<std::string, std::less<>> open_;  // ids of the expanded categories
     DevCleanupModel::Tallies tallies_;
-    bool ticking_ = false;  // the selection changes by what happens here
+    bool ticking_ = false;  // set while a change of the selection comes from here
 };
 
 }  // namespace zelk

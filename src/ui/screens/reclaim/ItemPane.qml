@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The items, category by category, for somebody who knows them: what the grades mean, how old an item must be to be
-// shown, and the ticks.
+// The items by category, for developers: grades, age filter, and the list with check boxes.
 pragma ComponentBehavior: Bound
 
 import QtQuick

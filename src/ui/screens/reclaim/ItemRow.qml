@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A row of the item list: a category's card or one of its items. A press on a category unfolds it, one on an item ticks
-// it; the tick of either is its own.
+// A row of ItemPane: a category or an item. A click expands a category or ticks an item; both have a check box.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// For good instead of to the Trash: in the colour of a warning while it is on.
+// The switch for permanent deletion instead of the Trash. Has a warning colour while on.
 pragma ComponentBehavior: Bound
 
 import QtQuick

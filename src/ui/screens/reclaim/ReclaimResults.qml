@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a survey found: nothing, or one of the two ways to look at it, and the sheet that leads from either to a clean-up.
-// Each is built when it is first wanted, and kept.
+// The results of a survey: a placeholder, the categories or the items, and the clean-up sheet. Each is created when
+// first needed, and then kept.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +11,7 @@ import Zelk.Controls
 FocusScope {
     id: results
 
-    // Given by the scaffold.
+    // Set by ModuleScaffold.
     property ReclaimScreenModel module: null
 
     readonly property bool byCategory: results.module?.byCategory ?? false
@@ -30,7 +30,7 @@ FocusScope {
             });
     }
 
-    // A survey may begin or end under the open sheet, which stays as it is.
+    // The sheet keeps its contents if a survey starts or ends while it is open.
     function review() {
         const shown = sheet.item as T.Popup;
         if (results.reviewing) {
@@ -81,7 +81,7 @@ FocusScope {
         id: sheet
     }
 
-    // Not before it has closed, which is when it gives the keyboard back.
+    // Waits for the sheet to close, since it returns the focus then.
     Connections {
         target: sheet.item
         ignoreUnknownSignals: true

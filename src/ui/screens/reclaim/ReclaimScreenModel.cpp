@@ -56,7 +56,7 @@ void ReclaimScreenModel::setOnScreen(bool onScreen) {
     emit onScreenChanged();
 }
 
-/// What comes on screen is made ready for it.
+/// Prepares the visible list with its default selection.
 void ReclaimScreenModel::follow() {
     if (onScreen_ && byItem()) cleanup_.seed(app_.reclaimables());
     if (onScreen_ && byCategory()) categories_.appear();
@@ -64,7 +64,7 @@ void ReclaimScreenModel::follow() {
 }
 
 void ReclaimScreenModel::reviewCategories(const std::vector<Reclaimable>& items) {
-    cleanup_.setAgeDays(0);  // the filter of the other audience must hide none of them
+    cleanup_.setAgeDays(0);  // the age filter of the item list must not hide any of them
     cleanup_.selectOnly(items);
     cleanup_.setShowDryRun(true);
 }

@@ -13,8 +13,8 @@
 
 namespace zelk {
 
-/// What can be taken back, by category for everybody and by item for developers, and the review that either passes
-/// through. Main thread.
+/// What can be reclaimed, by category for most users and by item for developers, and the review that both lead to. Main
+/// thread.
 class ReclaimScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
@@ -40,12 +40,12 @@ public:
     ItemList* items() { return &items_; }
     SafetyGuide* guide() { return &guide_; }
 
-    /// Whether the sheet is shown.
+    /// Whether the review sheet is open.
     bool reviewing() const { return cleanup_.showDryRun(); }
-    /// That of the review that is shown, or of the last one; null before the first.
+    /// The model of the current or last review; null before the first.
     DryRunModel* dryRun() const { return dryRun_.get(); }
 
-    /// Whether a person looks at this screen: what is ticked follows the surveys that end meanwhile.
+    /// Whether the screen is visible. Only then does the default selection follow finished surveys.
     bool onScreen() const { return onScreen_; }
     void setOnScreen(bool onScreen);
 
@@ -69,7 +69,7 @@ private:
     SafetyGuide guide_;
     std::unique_ptr<DryRunModel> dryRun_;
     bool onScreen_ = false;
-    std::size_t lastCount_ = 0;  // of the items when they were last looked at
+    std::size_t lastCount_ = 0;  // the number of items when last checked
 };
 
 }  // namespace zelk

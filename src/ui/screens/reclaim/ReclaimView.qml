@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What can be taken back. (A bound component could not be built in the scaffold.)
+// The Reclaim screen. (Not `ComponentBehavior: Bound`: ModuleScaffold could not instantiate the component then.)
 import QtQuick
 import Zelk.App
 

@@ -24,7 +24,7 @@ public:
 
     QString title() const;
     QString closing() const;
-    /// All of it in one breath.
+    /// The whole guide as one text for screen readers.
     QString spoken() const;
 
 private:

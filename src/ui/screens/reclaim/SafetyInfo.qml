@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the grades mean, beside the button that asks.
+// A popup at the info button that explains the safety grades.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -17,7 +17,7 @@ T.Popup {
     margins: 8
     padding: 18
     focus: true
-    // What is read is the page, not the item of the template around it.
+    // The content has the accessible name; the template's popup item would be a second node.
     onAboutToShow: contentItem.parent.Accessible.ignored = true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 

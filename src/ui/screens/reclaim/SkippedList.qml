@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a clean-up skipped, each with its reason.
+// The items that a clean-up skipped, each with its reason.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The folders that a survey walks, or a word where there is none, and the button that adds one.
+// The scan roots, or a placeholder if there are none, and the button that adds one.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,11 +11,11 @@ Column {
 
     required property SettingsScreenModel settings
 
-    // The keyboard, to a row.
+    // Gives the focus to a row.
     signal handed(row: int, reason: int)
 
-    // The row that goes takes the button with it that has the keyboard: the row that follows gets it, or the button
-    // below the list.
+    // Removes a row whose button has the focus, and moves the focus to the row that takes its place, or else to the
+    // button below the list.
     function remove(row, ringed) {
         const reason = ringed ? Qt.TabFocusReason : Qt.OtherFocusReason;
         list.settings.removeFolder(row);

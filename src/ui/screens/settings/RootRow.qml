@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A folder that a survey walks, and the button that takes it off the list. A long path loses its middle: both what it
-// begins and what it ends with tell one folder from another. The whole of it stands in the help.
+// A scan root, and the button that removes it from the list. Long paths are elided in the middle, since both ends tell
+// folders apart. The tool tip has the whole path.
 pragma ComponentBehavior: Bound
 
 import QtQuick

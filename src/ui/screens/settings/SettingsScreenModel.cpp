@@ -11,7 +11,7 @@ namespace zelk {
 
 namespace {
 
-/// In the order of the view's picker.
+/// In the order of the view's options.
 constexpr std::array appearances{AppModel::Appearance::system, AppModel::Appearance::light, AppModel::Appearance::dark};
 
 }  // namespace

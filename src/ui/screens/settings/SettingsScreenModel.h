@@ -15,8 +15,8 @@ namespace zelk {
 
 class AppModel;
 
-/// What can be set. It has no state of its own: what is changed here is changed in the AppModel at once, and
-/// is back to its default at the next start. Main thread.
+/// The settings. Has no state of its own: changes go to the AppModel at once and last until the application ends. Main
+/// thread.
 class SettingsScreenModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -31,8 +31,7 @@ class SettingsScreenModel : public QObject {
     Q_PROPERTY(int theme READ theme WRITE setTheme NOTIFY themeChanged FINAL)
 
 public:
-    /// `app` must outlive it. `pickFolder` asks the person for one folder, modally, and gives its path, or nothing if
-    /// none was chosen.
+    /// `app` must outlive it. `pickFolder` opens a modal folder dialog and returns the path, or nothing if cancelled.
     SettingsScreenModel(AppModel& app, std::function<std::optional<std::string>()> pickFolder);
 
     const ScreenLook& look() const { return lookOf(Screen::settings); }
@@ -43,17 +42,17 @@ public:
     int ageFilterDays() const;
     int leastAge() const { return 0; }
     int greatestAge() const { return 365; }
-    /// Stops at both ends.
+    /// Clamped to leastAge() and greatestAge().
     void setAgeFilterDays(int days);
     bool hardDelete() const;
     void setHardDelete(bool enabled);
 
-    /// 0 is the system's, 1 light, 2 dark; another number changes nothing.
+    /// 0 follows the system, 1 is light, 2 dark. Other values are ignored.
     int theme() const;
     void setTheme(int place);
 
 public slots:
-    /// Every change of the list surveys again at once, unless a survey runs: that one goes on.
+    /// Every change of the list starts a survey, unless one is running, which continues.
     void addFolder();
     void removeFolder(int row);
     void rescan();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A heading and, on a card below it, what belongs together.
+// A heading with a card of settings below it.
 pragma ComponentBehavior: Bound
 
 import QtQuick

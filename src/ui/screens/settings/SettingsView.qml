@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The settings, as a screen with the header of a module, and without it as a small window of their own.
+// The settings, as a screen with a module header, or without one in a window.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -10,7 +10,7 @@ FocusScope {
     id: view
 
     required property SettingsScreenModel settings
-    // A window has its title already.
+    // False in a window, which has a title bar.
     property bool headed: true
 
     Rectangle {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One tool: what it is, what it does, and what it takes away, all of it one button.
+// A button with a tool's name, what it does and what it removes.
 pragma ComponentBehavior: Bound
 
 import QtQuick

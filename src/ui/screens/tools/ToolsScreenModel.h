@@ -13,7 +13,7 @@ namespace zelk {
 
 class AppModel;
 
-/// Something that the application can do, in one of its modules.
+/// A feature of the application, and the module it belongs to.
 struct Tool {
     Q_GADGET
     QML_VALUE_TYPE(toolFace)
@@ -25,16 +25,16 @@ struct Tool {
 public:
     Screen screen{};
     QString detail;
-    QString cleanup;  ///< empty where the tool takes nothing away
+    QString cleanup;  ///< empty if the tool removes nothing
 
     const ScreenLook& look() const { return lookOf(screen); }
-    /// What a screen reader says of a row, which is one button.
+    /// The accessible name of the row.
     QString spoken() const;
 
     bool operator==(const Tool&) const = default;
 };
 
-/// What the application can do: a fixed list, each row of which leads to its module. Main thread.
+/// The fixed list of features; each row opens its module. Main thread.
 class ToolsScreenModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -50,7 +50,7 @@ public:
     const QList<Tool>& tools() const { return tools_; }
 
 public slots:
-    /// Goes to the module of a row.
+    /// Opens the module of a row.
     void press(int row);
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the application can do, each row leading to where it is done.
+// The Tools screen: all features, each row opening its module.
 pragma ComponentBehavior: Bound
 
 import QtQuick

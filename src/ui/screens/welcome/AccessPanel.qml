@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Asks for access to the whole drive, and waits for it.
+// Asks for access to the whole drive and waits for it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -14,7 +14,7 @@ FocusScope {
 
     implicitHeight: column.implicitHeight
 
-    // Not every system has settings for it.
+    // Whether the system has settings for it.
     readonly property bool grantable: settingsButton.text !== ""
     readonly property T.AbstractButton primary: panel.grantable ? settingsButton : continueButton
 

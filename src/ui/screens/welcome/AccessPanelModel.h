@@ -11,8 +11,8 @@ namespace zelk {
 
 class Workspace;
 
-/// The panel that asks for access to the whole drive. For as long as it is on the screen it looks again and again
-/// whether the access has come, without a limit. Main thread; a look takes a few system calls.
+/// The sheet that asks for access to the whole drive. While it is visible, checks periodically whether access has been
+/// granted. Main thread; a check takes a few system calls.
 class AccessPanelModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -20,31 +20,31 @@ class AccessPanelModel : public QObject {
     Q_PROPERTY(bool shown READ shown WRITE setShown NOTIFY shownChanged FINAL)
 
 public:
-    /// Between two looks.
+    /// The interval between two checks.
     static constexpr std::chrono::milliseconds pollInterval{1'500};
 
-    /// `accessGranted` looks whether the access is there. `workspace` must outlive it.
+    /// `accessGranted` checks for access. `workspace` must outlive it.
     AccessPanelModel(std::function<bool()> accessGranted, Workspace& workspace,
                      std::chrono::milliseconds interval = pollInterval);
 
-    /// Whether the panel is on the screen: the view says so.
+    /// Whether the sheet is visible; set by the view.
     bool shown() const { return shown_; }
     void setShown(bool shown);
-    /// Whether it looks again.
+    /// Whether the periodic check is active.
     bool polling() const { return poll_.isActive(); }
     std::chrono::milliseconds interval() const { return poll_.intervalAsDuration(); }
 
 public slots:
-    /// Shows where the access is granted.
+    /// Opens the system settings where access is granted.
     void openSettings();
-    /// Nobody remembers it: the next start asks again.
+    /// Not stored: the next start asks again.
     void continueWithoutIt();
-    /// One look; the timer's.
+    /// Checks once; called by the timer.
     void look();
 
 signals:
     void shownChanged();
-    /// The panel is done: the access has come, or is done without.
+    /// The sheet is finished: access was granted, or the user continues without it.
     void granted();
 
 private:

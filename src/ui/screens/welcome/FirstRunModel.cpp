@@ -23,7 +23,7 @@ void FirstRunModel::start() {
         show(true, showOnboarding_);
 }
 
-/// A page that still fades away cannot end it a second time.
+/// Ignores a press on the sheet while it fades out.
 void FirstRunModel::finishWelcome() {
     if (!showWelcome_) return;
     preferences_.setFlag(didOnboardKey, true);

@@ -14,8 +14,8 @@ namespace zelk {
 class Preferences;
 class Workspace;
 
-/// What stands between a start and the main window: once in the life of an installation the welcome pages, and at
-/// every start without access to the whole drive the panel that asks for it. Never both at a time. Main thread.
+/// The sheets shown at start-up: the welcome pages once per installation, and the request for access at every start
+/// without access to the whole drive. Never both at the same time. Main thread.
 class FirstRunModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -27,15 +27,15 @@ class FirstRunModel : public QObject {
     Q_PROPERTY(zelk::AccessPanelModel* access READ access CONSTANT FINAL)
 
 public:
-    /// `preferences` and `workspace` must outlive it. `accessGranted` looks whether the whole drive may be read; it
-    /// runs here on the main thread, and never before `start`.
+    /// `preferences` and `workspace` must outlive it. `accessGranted` checks whether the whole drive can be read;
+    /// called on the main thread, and not before start().
     FirstRunModel(Preferences& preferences, std::function<bool()> accessGranted, Workspace& workspace,
                   std::chrono::milliseconds pollInterval = AccessPanelModel::pollInterval);
 
-    /// The main window has appeared.
+    /// Call when the main window is shown.
     void start();
 
-    /// Whether there has been anything to show.
+    /// Whether there has been a sheet to show.
     bool started() const { return started_; }
     bool showWelcome() const { return showWelcome_; }
     bool showOnboarding() const { return showOnboarding_; }

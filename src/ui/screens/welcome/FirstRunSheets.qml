@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the first run, and every run without access, puts over the main window. Escape goes the way out that each of the
-// two offers: nothing is closed that would not count as answered.
+// The welcome sheet and the access sheet over the main window. Escape takes the exit that each offers, so that closing
+// counts as an answer.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -15,7 +15,7 @@ Item {
     Sheet {
         id: first
 
-        // The one sheet gives the keyboard back before the other takes it.
+        // Shows the second sheet only after the first one has closed and returned the focus.
         property bool gone: true
 
         onAboutToShow: first.gone = false
@@ -53,7 +53,7 @@ Item {
         }
     }
 
-    // It is on the screen while its window is too: nobody waits behind a closed one.
+    // Visible only while its window is, so that a closed window does not keep checking.
     Binding {
         target: sheets.firstRun.access
         property: "shown"

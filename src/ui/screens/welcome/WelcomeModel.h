@@ -10,7 +10,7 @@
 
 namespace zelk {
 
-/// A page that introduces the application.
+/// A page of the welcome sheet.
 struct IntroPage {
     Q_GADGET
     QML_VALUE_TYPE(introPage)
@@ -28,7 +28,7 @@ public:
     bool operator==(const IntroPage&) const = default;
 };
 
-/// The pages of the first run, and which of them is shown. Main thread.
+/// The welcome pages and the current one. Main thread.
 class WelcomeModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -51,22 +51,22 @@ public:
     bool backShown() const { return page_ > 0; }
     bool skipShown() const { return !onLastPage(); }
     QString primaryLabel() const;
-    /// Of the current page.
+    /// The title of the current page.
     QString title() const { return pages_[page_].title; }
-    /// "Page 1 of 4", which the dots say to the eye.
+    /// "Page 1 of 4", for screen readers, which cannot see the dots.
     QString position() const;
-    /// Milliseconds, and the course, of the way from one page to the next: a spring without overshoot.
+    /// The duration in milliseconds and the easing of the transition between pages: a spring without overshoot.
     int turnTime() const;
     QEasingCurve turnEasing() const;
 
 public slots:
-    /// To the page after this one; nothing on the last.
+    /// Goes to the next page; nothing on the last.
     void next();
-    /// To the page before this one; nothing on the first.
+    /// Goes to the previous page; nothing on the first.
     void back();
-    /// The primary button: the next page, and behind the last one the end.
+    /// The primary button: goes to the next page, or finishes after the last.
     void pressPrimary();
-    /// The end, from any page.
+    /// Finishes from any page.
     void skip() { emit finished(); }
 
 signals:

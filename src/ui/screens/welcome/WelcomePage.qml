@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One page of the welcome: its disc, its title and what it says. A page beside the current one is only seen, and never
-// heard, on its way.
+// A welcome page: a disc, a title and a text. Pages other than the current one are hidden from screen readers, even
+// while they slide out.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The welcome: a page, the dots of all of them, and the buttons. Left and Right turn the pages too.
+// The welcome sheet: the current page, page dots, and buttons. The Left and Right keys change the page.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -14,8 +14,8 @@ FocusScope {
 
     readonly property alias primary: primaryButton
 
-    // A button that goes with its page leaves the keyboard at the one that is always there, and with the ring around it
-    // if that is what the person steers by.
+    // If the focused button disappears with its page, moves the focus to the primary button, visibly if it was visible
+    // before.
     function turn(page) {
         const ringed = (panel.Window.activeFocusItem as T.AbstractButton)?.visualFocus ?? false;
         page();
