@@ -24,7 +24,7 @@ struct BubbleNode {
 /// The nodes of all circles, by index.
 std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, const ShownSlices& slices);
 
-/// The same as rows: a map that is laid out anew moves them and makes none. Main thread.
+/// List model of the nodes. A new layout changes rows in place and creates only the missing ones. Main thread.
 class BubbleNodes : public zelk::RowModel {
     Q_OBJECT
 

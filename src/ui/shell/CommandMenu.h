@@ -22,7 +22,7 @@ struct Command {
     bool startsGroup = false;  ///< preceded by a divider
 };
 
-/// A menu of the menu bar, as a list of its entries. Main thread.
+/// A menu of the menu bar, as a list model of its entries. Main thread.
 class CommandMenu : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

@@ -41,7 +41,7 @@ QObject* DetailPages::modelOf(Screen screen) {
 void DetailPages::followSelection() {
     const int before = std::exchange(current_, static_cast<int>(context_.app.selection()));
     built_[static_cast<std::size_t>(current_)] = true;
-    // The new one is there before the old one goes.
+    // Shows the new page before hiding the old one.
     rowChanged(current_, {builtRole, currentRole});
     rowChanged(before, {currentRole});
 }

@@ -12,8 +12,8 @@
 
 namespace zelk {
 
-/// The screens beside the sidebar, a row for each in the order of Screen, with their models. A screen is built when it
-/// is first gone to, and kept; the current one alone is seen. Main thread.
+/// List model of the screens beside the sidebar, a row each in the order of Screen, with their models. A view is
+/// created when its screen is first shown, and then kept; only the current one is visible. Main thread.
 class DetailPages : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
@@ -24,7 +24,7 @@ public:
 
     explicit DetailPages(const ScreenContext& context);
 
-    /// The required properties of the view of this row.
+    /// The required properties of the view in this row.
     Q_INVOKABLE QVariantMap given(int row);
 
     /// The screen's model, created on first use. `Model` must be the class that the table of screens creates.

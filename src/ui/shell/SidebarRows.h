@@ -22,7 +22,7 @@ struct SidebarGroup {
 /// The modules of the sidebar in order, without those in the footer.
 const std::vector<SidebarGroup>& sidebarGroups();
 
-/// A run of rows in the sidebar, one per module. A group's title stands on its first row. Main thread.
+/// List model of a part of the sidebar, one row per module. A group's title belongs to its first row. Main thread.
 class SidebarRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

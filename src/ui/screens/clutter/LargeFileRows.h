@@ -11,7 +11,7 @@
 
 namespace zelk {
 
-/// Files with what a row tells of each. Main thread.
+/// List model of large files. Main thread.
 class LargeFileRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

@@ -11,7 +11,7 @@
 
 namespace zelk {
 
-/// The types of files that a list can be narrowed to, after "All". Main thread.
+/// List model of the filter pills: "All", then the available types. Main thread.
 class TypePills : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

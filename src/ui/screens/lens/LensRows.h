@@ -16,8 +16,8 @@ namespace zelk {
 
 class LensWalk;
 
-/// The folders in the folder at hand, a row for each that holds bytes, largest first. There may be tens of thousands:
-/// what a row shows is made when it is asked for, and what changes is told row by row. Main thread.
+/// List model of the subfolders of the current folder with a positive size, largest first. There may be tens of
+/// thousands, so values are computed on demand and changes are notified per row. Main thread.
 class LensRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

@@ -12,8 +12,8 @@
 
 namespace zelk {
 
-/// The folders that grew, appeared or went between the last two surveys, in three sections of which an empty one is not
-/// there. Main thread.
+/// List model of the folders that grew, appeared or vanished between the last two surveys, in three sections. Empty
+/// sections are left out. Main thread.
 class ChangesModel : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

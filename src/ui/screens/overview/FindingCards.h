@@ -13,7 +13,8 @@ namespace zelk {
 
 class AppModel;
 
-/// What a survey found for each of the modules that go on from it: always the same cards, in one order. Main thread.
+/// List model of the finding cards, one per module that continues from a survey. Always the same cards in the same
+/// order. Main thread.
 class FindingCards : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

@@ -16,8 +16,8 @@ namespace zelk {
 
 class AppModel;
 
-/// What a survey found to reclaim, by category, the largest first, and which categories a person chose: as a list and
-/// as a bubble map. At first the safe ones are chosen, once and for as long as the screen lives. Main thread.
+/// The reclaimable categories of a survey, largest first, and the user's selection, as a list model and as a bubble
+/// map. The safe ones are selected initially, once per screen. Main thread.
 class CategoryList : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

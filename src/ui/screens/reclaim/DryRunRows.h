@@ -9,7 +9,7 @@
 
 namespace zelk {
 
-/// What a clean-up would take, row by row: fixed when it was reviewed. Main thread.
+/// List model of the items under review; does not change after construction. Main thread.
 class DryRunRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

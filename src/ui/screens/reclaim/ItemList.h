@@ -16,9 +16,8 @@ namespace zelk {
 
 class AppModel;
 
-/// The items of a survey for somebody who knows them: a row per category and, where that is unfolded, a row per item.
-/// Twenty thousand of them are possible: a tick changes its rows and no other, and the sums are kept up by what
-/// changed. Main thread.
+/// The reclaimable items for developers: a row per category and, if it is expanded, a row per item. There may be twenty
+/// thousand, so a tick updates only its rows and adjusts the sums incrementally. Main thread.
 class ItemList : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

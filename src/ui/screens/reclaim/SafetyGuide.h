@@ -8,7 +8,7 @@
 
 namespace zelk {
 
-/// What the three grades mean: a row each. Main thread.
+/// List model that explains the three grades, one per row. Main thread.
 class SafetyGuide : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT

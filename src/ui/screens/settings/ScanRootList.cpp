@@ -26,7 +26,7 @@ QVariant ScanRootList::value(std::size_t row, int role) const {
     }
 }
 
-/// What both lists begin and end with keeps its rows, so that one folder more or less is one row more or less.
+/// Keeps the rows of the common prefix and suffix, so that adding or removing a folder affects one row.
 void ScanRootList::follow() {
     const std::vector<std::string>& now = app_.scanRoots();
     const bool wasEmpty = empty();

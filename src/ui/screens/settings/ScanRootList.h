@@ -11,8 +11,8 @@ namespace zelk {
 
 class AppModel;
 
-/// The folders that a survey walks, as the AppModel has them: a row for each, in its order. Paths are bytes; what is
-/// shown is made of them and never goes back. Main thread.
+/// List model of the AppModel's scan roots, in its order. Paths are bytes; display text is derived from them and never
+/// converted back. Main thread.
 class ScanRootList : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
