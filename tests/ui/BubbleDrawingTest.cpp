@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "Painted.h"
+#include "Readable.h"
 
 namespace zelk {
 
@@ -264,6 +265,25 @@ TEST(BubbleDrawing, drawsFocusRingOutsideBubble) {
     EXPECT_TRUE(alike(ring.pixelColor(147, 100), ground));
     EXPECT_EQ(ring.pixelColor(140, 100).alpha(), 0);
     EXPECT_TRUE(bubbleBox(circleOf("a", 40)).contains(QRectF(100 - 48.5, 100 - 48.5, 97, 97)));
+}
+
+TEST(BubbleDrawing, labelAndSizeCanBeReadOnTheBrightestBubble) {
+    constexpr int scale = 2;
+    BubbleSlice amber = sliceOf("a", "HHHH");
+    amber.color = QColor(245, 166, 35);
+    const std::vector<PackedCircle> circles{circleOf("a", 80)};
+    const std::vector<BubbleSlice> slices{amber};
+    BubbleTexts texts;
+    const QImage bubble = painted(
+        {200, 200},
+        [&](QPainter& painter) {
+            drawBubbles(painter, circles, slicesOf(circles, slices), {}, {false, 1}, texts);
+        },
+        scale);
+    // Below the highlight, which is white too.
+    const WhiteStrokes strokes = whiteStrokes(bubble, QRect(80, 170, 240, 140), 4);
+    EXPECT_GT(strokes.pixels, 100);
+    EXPECT_EQ(strokes.unreadable, 0);
 }
 
 }  // namespace zelk

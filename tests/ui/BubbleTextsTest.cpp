@@ -80,4 +80,24 @@ TEST_F(SystemFont, changeUpdatesBubbleTexts) {
     EXPECT_NE(written(texts, text), before);
 }
 
+TEST(BubbleTexts, theShadowIsThatOfTheTextAtTheScaleInUse) {
+    BubbleTexts kept;
+    const auto shaded = [](BubbleTexts& texts, const QString& text, double scale) {
+        QImage image(300, 120, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.scale(scale, scale);
+        texts.shade(painter, {60, 20}, text, BubbleFont::label, 20);
+        return image;
+    };
+    for (const double scale : {1.0, 2.0, 1.0})
+        for (const char* text : {"Library", "木"}) {
+            BubbleTexts fresh;
+            const QString line = QString::fromUtf8(text);
+            EXPECT_EQ(shaded(kept, line, scale), shaded(fresh, line, scale)) << text;
+        }
+    EXPECT_NE(shaded(kept, QStringLiteral("Library"), 1), shaded(kept, QStringLiteral("Logs"), 1));
+    EXPECT_GT(qAlpha(shaded(kept, QStringLiteral("HHHH"), 2).pixel(120, 40)), 60) << "its middle is the text's";
+}
+
 }  // namespace zelk

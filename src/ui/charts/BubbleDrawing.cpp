@@ -121,7 +121,9 @@ void drawBubbles(QPainter& painter, const std::vector<PackedCircle>& circles, co
         const BubbleFace face = bubbleFace(circle, slice, look.textScale, widthOf);
         if (!face.icon.isNull()) painter.drawImage(face.icon, slice.icon);
         const auto write = [&](const BubbleText& line, BubbleFont kind, const QColor& color) {
-            if (!line.text.isEmpty()) texts.write(painter, line.middle, line.text, kind, line.size, color);
+            if (line.text.isEmpty()) return;
+            texts.shade(painter, line.middle, line.text, kind, line.size);
+            texts.write(painter, line.middle, line.text, kind, line.size, color);
         };
         write(face.label, BubbleFont::label, Qt::white);
         write(face.bytes, BubbleFont::size, withOpacity(Qt::white, 0.95));

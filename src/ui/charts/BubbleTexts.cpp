@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ui/controls/TextShadow.h"
+
 namespace zelk {
 
 BubbleTexts::Face BubbleTexts::faceOf(BubbleFont kind, double size) {
@@ -19,6 +21,7 @@ const QFont& BubbleTexts::fontOf(const Face& face) {
         fonts_.clear();
         widths_.clear();
         shaped_.clear();
+        shadows_.clear();
     }
     for (const auto& [known, font] : fonts_)
         if (known == face) return font;
@@ -39,6 +42,19 @@ double BubbleTexts::width(const QString& text, BubbleFont kind, double size) {
     const double width = QFontMetricsF(font).horizontalAdvance(text);
     widths_.insert(line, new double(width));
     return width;
+}
+
+void BubbleTexts::shade(QPainter& painter, QPointF center, const QString& text, BubbleFont kind, double size) {
+    const Line line{text, faceOf(kind, size)};
+    const QFont& font = fontOf(line.face);
+    if (const double scale = painter.deviceTransform().m11(); scale != shadowScale_) {
+        shadowScale_ = scale;
+        shadows_.clear();
+    }
+    if (!shadows_.contains(line)) shadows_.insert(line, new QImage(textShadow(text, font, shadowScale_)));
+    const QImage& shadow = *shadows_.object(line);
+    const QSizeF points = shadow.deviceIndependentSize();
+    painter.drawImage(center - QPointF(points.width(), points.height()) / 2, shadow);
 }
 
 void BubbleTexts::write(QPainter& painter, QPointF center, const QString& text, BubbleFont kind, double size,

@@ -3,6 +3,7 @@
 
 #include <QCache>
 #include <QFont>
+#include <QImage>
 #include <QStaticText>
 #include <QString>
 #include <utility>
@@ -22,6 +23,8 @@ class BubbleTexts {
 public:
     /// `size` is rounded to a whole pixel size of at least 1.
     double width(const QString& text, BubbleFont kind, double size);
+    /// Paints the soft shadow of a text, so that white is readable on a bubble of any colour. Call it before write().
+    void shade(QPainter& painter, QPointF center, const QString& text, BubbleFont kind, double size);
     /// Paints the text centred on `center`.
     void write(QPainter& painter, QPointF center, const QString& text, BubbleFont kind, double size,
                const QColor& color);
@@ -51,6 +54,8 @@ private:
     // A map paints a few dozen texts; eliding a long name measures several more for each.
     QCache<Line, double> widths_{2'000};
     QCache<Line, QStaticText> shaped_{200};
+    QCache<Line, QImage> shadows_{200};
+    double shadowScale_ = 0;  // of shadows_: device pixels per point
 };
 
 }  // namespace zelk

@@ -43,7 +43,7 @@ Rectangle {
             size: 11
             font.weight: Font.Medium
             font.family: Typeface.fixed
-            color: card.tip.reclaimable ? Theme.accent : Theme.ink
+            color: card.tip.reclaimable ? Theme.accentText : Theme.ink
             mute: true
         }
     }

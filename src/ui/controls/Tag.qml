@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// A coloured text on a tint of the same colour.
+// A coloured text on a tint of the same colour, darkened or lightened until it is readable there.
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zelk.Controls
 
 Rectangle {
     id: tag
@@ -22,6 +23,6 @@ Rectangle {
         anchors.centerIn: parent
         text: tag.text
         size: 11
-        color: tag.ink
+        color: Theme.textOn(tag.ink, Qt.tint(Theme.textGround, tag.color))
     }
 }

@@ -62,9 +62,8 @@ void Theme::show(const ZelkTheme& theme) {
     emit changed();
 }
 
-QColor Theme::textOf(const QColor& color) const {
-    // The background with the least contrast: the darkest of the light theme, the lightest of the dark one.
-    return readable(color, current_->isDark ? current_->surfaceHi : current_->ground, current_->ink);
+QColor Theme::textOn(const QColor& color, const QColor& ground) const {
+    return readable(color, ground, current_->ink);
 }
 
 bool Theme::eventFilter(QObject* watched, QEvent* event) {

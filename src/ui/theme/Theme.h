@@ -37,6 +37,7 @@ class Theme : public QObject {
     Q_PROPERTY(QColor accentInk READ accentInk CONSTANT FINAL)
     Q_PROPERTY(QColor accentText READ accentText NOTIFY changed FINAL)
     Q_PROPERTY(QColor alertText READ alertText NOTIFY changed FINAL)
+    Q_PROPERTY(QColor textGround READ textGround NOTIFY changed FINAL)
     Q_PROPERTY(QColor hoverWash READ hoverWash NOTIFY changed FINAL)
     Q_PROPERTY(QColor pressWash READ pressWash NOTIFY changed FINAL)
 
@@ -67,13 +68,17 @@ public:
     QColor alert() const { return current_->alert; }
     QColor accentInk() const { return AccentGradient::ink(); }
     /// The accent and alert colours adjusted for text, readable on every background of the theme.
-    QColor accentText() const { return textOf(current_->accent); }
-    QColor alertText() const { return textOf(current_->alert); }
+    QColor accentText() const { return textOn(current_->accent, textGround()); }
+    QColor alertText() const { return textOn(current_->alert, textGround()); }
+    /// The background with the least contrast to coloured text: the darkest of the light theme, the lightest of the dark
+    /// one. Text that is readable on it is readable on all of them.
+    QColor textGround() const { return current_->isDark ? current_->surfaceHi : current_->ground; }
     /// Overlays for hovered and pressed items.
     QColor hoverWash() const { return withOpacity(current_->ink, 0.07); }
     QColor pressWash() const { return withOpacity(current_->ink, 0.13); }
-    /// Adjusts any colour for text, see readable().
-    Q_INVOKABLE QColor textOf(const QColor& color) const;
+    /// Adjusts a colour for small text on `ground` by moving it towards the ink until it is readable there. A binding
+    /// that passes a background of the theme is evaluated again when the theme changes.
+    Q_INVOKABLE QColor textOn(const QColor& color, const QColor& ground) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -94,11 +94,11 @@ Section {
 
         Tag {
             text: "safe"
-            ink: Theme.textOf("#32c77b")
+            ink: "#32c77b"
         }
         Tag {
             text: "review"
-            ink: Theme.textOf("#ff6b5e")
+            ink: "#ff6b5e"
         }
         Tile {
             symbol: "trash"

@@ -46,9 +46,31 @@ BaseButton {
         }
     }
 
-    contentItem: ButtonLabel {
-        text: button.text
-        size: 13
-        color: button.enabled ? "white" : Theme.inkSoft
+    contentItem: Item {
+        implicitWidth: word.implicitWidth
+        implicitHeight: word.implicitHeight
+
+        Words {
+            id: word
+
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width)
+            text: button.text
+            size: 13
+            font.weight: Font.Medium
+            color: button.enabled ? "white" : Theme.inkSoft
+            mute: true
+
+            // White alone could not be read on the bright end of the accent.
+            TextShadow {
+                objectName: "removeShadow"
+                anchors.fill: parent
+                anchors.margins: -reach
+                z: -1
+                line: word.text
+                font: word.font
+                visible: button.enabled
+            }
+        }
     }
 }

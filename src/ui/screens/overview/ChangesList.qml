@@ -51,7 +51,7 @@ ListView {
             text: place.heading
             size: 12
             font.weight: Font.DemiBold
-            color: place.tint
+            color: Theme.textOn(place.tint, Theme.textGround)
             visible: text !== ""
             Accessible.role: Accessible.Heading
         }

@@ -75,7 +75,7 @@ Card {
             visible: text !== ""
             text: card.trends.forecast
             size: 11
-            color: card.trends.forecastColor
+            color: Theme.textOn(card.trends.forecastColor, Theme.textGround)
         }
 
         SecondaryButton {

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/TextShadow.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "ui/controls/SoftBlur.h"
+
+namespace zelk {
+
+namespace {
+
+constexpr double shadowBlurRadius = 1.1;  // of one of the passes, in points
+// The strokes of small text are thin, so that their blur is faint: it is raised to be dark right beside them.
+constexpr double shadowGain = 3.2;
+constexpr double shadowStrength = 0.62;
+
+}  // namespace
+
+QImage textShadow(const QString& text, const QFont& font, double scale) {
+    if (text.isEmpty()) return {};
+    const QFontMetricsF metrics(font);
+    const double width = metrics.horizontalAdvance(text) + 2 * textShadowReach;
+    const double height = metrics.height() + 2 * textShadowReach;
+    QImage glyphs(static_cast<int>(std::ceil(width * scale)), static_cast<int>(std::ceil(height * scale)),
+                  QImage::Format_ARGB32_Premultiplied);
+    glyphs.fill(Qt::transparent);
+    {
+        QPainter painter(&glyphs);
+        painter.setRenderHint(QPainter::TextAntialiasing);
+        painter.scale(scale, scale);
+        painter.setFont(font);
+        painter.setPen(Qt::black);
+        painter.drawText(QPointF(textShadowReach, textShadowReach + metrics.ascent()), text);
+    }
+    QImage mask = glyphs.convertToFormat(QImage::Format_Alpha8);
+    blurMask(mask, std::max(1, static_cast<int>(std::lround(shadowBlurRadius * scale))));
+    QImage shadow = blackOf(mask, shadowStrength, shadowGain);
+    shadow.setDevicePixelRatio(scale);
+    return shadow;
+}
+
+void TextShadow::draw(QPainter& painter) {
+    const double room = width() - 2 * textShadowReach;
+    const QString shown = QFontMetricsF(font_).elidedText(line_, Qt::ElideRight, std::ceil(room));
+    painter.drawImage(QPointF(), textShadow(shown, font_, painter.deviceTransform().m11()));
+}
+
+}  // namespace zelk
+
+#include "moc_TextShadow.cpp"
