@@ -6,7 +6,7 @@ import QtQuick
 import Zelk.Charts
 import Zelk.Controls
 
-Rectangle {
+PanelGround {
     id: card
 
     required property bubbleTip tip
@@ -19,9 +19,8 @@ Rectangle {
     height: lines.height + 2 * lines.y
     visible: card.tip.shown
     radius: 6
+    lift: 10
     color: Qt.alpha(Theme.surfaceHi, 0.94)
-    border.width: 1
-    border.color: Theme.hairline
 
     Column {
         id: lines

@@ -34,11 +34,9 @@ T.ToolTip {
         }
     }
 
-    background: Rectangle {
+    background: PanelGround {
         radius: 8
-        color: Theme.surfaceHi
-        border.width: 1
-        border.color: Theme.hairline
+        lift: 10
     }
 
     contentItem: Words {

@@ -36,11 +36,8 @@ T.Menu {
         }
     }
 
-    background: Rectangle {
+    background: PanelGround {
         radius: 10
-        color: Theme.surfaceHi
-        border.width: 1
-        border.color: Theme.hairline
     }
 
     contentItem: ListView {

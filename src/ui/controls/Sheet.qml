@@ -78,11 +78,10 @@ T.Popup {
         color: Theme.isDark ? "#99000000" : "#59000000"
     }
 
-    background: Rectangle {
+    background: PanelGround {
         radius: 18
+        lift: 36
         color: Theme.groundHi
-        border.width: 1
-        border.color: Theme.hairline
     }
 
     contentItem: SheetBody {

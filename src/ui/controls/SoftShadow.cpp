@@ -2,26 +2,121 @@
 #include "ui/controls/SoftShadow.h"
 
 #include <QPainter>
+#include <QQuickWindow>
+#include <QSGImageNode>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
-#include "ui/theme/ZelkTheme.h"
+#include "ui/controls/SoftBlur.h"
 
 namespace zelk {
 
-void SoftShadow::draw(QPainter& painter) {
-    constexpr double offset = 2;  // as if lit from above
-    const int rings = std::max(1, static_cast<int>(std::lround(radius_)));
-    // Stacks growing rounded rectangles, each with the opacity that adds up to `strength_` where all overlap.
-    painter.setBrush(withOpacity(Qt::black, 1 - std::pow(1 - strength_, 1.0 / rings)));
-    for (int ring = 0; ring < rings; ++ring) {
-        const double grown = radius_ * (1 - 2.0 * (ring + 0.5) / rings);
-        const double margin = inset_ - grown;
-        const QRectF panel = boundingRect().translated(0, offset).adjusted(margin, margin, -margin, -margin);
-        const double round =
-            std::clamp(corner_ + grown, 0.0, std::max(0.0, std::min(panel.width(), panel.height()) / 2));
-        painter.drawRoundedRect(panel, round, round);
+namespace {
+
+/// Where a length of `whole` is cut into three: its ends are `end` long.
+std::array<double, 4> cuts(double whole, double end) {
+    return {0, end, whole - end, whole};
+}
+
+void fillPanel(QPainter& painter, const QRectF& panel, double corner) {
+    const double round = std::clamp(corner, 0.0, std::max(0.0, std::min(panel.width(), panel.height()) / 2));
+    painter.drawRoundedRect(panel, round, round);
+}
+
+}  // namespace
+
+SoftShadow::SoftShadow(QQuickItem* parent) : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+    connect(this, &SoftShadow::changed, this, [this] {
+        painted_ = false;
+        update();
+    });
+}
+
+int SoftShadow::border() const {
+    return static_cast<int>(std::ceil(inset_ + corner_ + radius_ + drop_));
+}
+
+QSize SoftShadow::pictureSize() const {
+    const int most = 2 * border() + 1;
+    return {std::min(most, static_cast<int>(std::ceil(width()))),
+            std::min(most, static_cast<int>(std::ceil(height())))};
+}
+
+QImage SoftShadow::picture() const {
+    QImage shape(pictureSize(), QImage::Format_ARGB32_Premultiplied);
+    shape.fill(Qt::transparent);
+    const QRectF panel = QRectF(shape.rect()).adjusted(inset_, inset_, -inset_, -inset_);
+    {
+        QPainter painter(&shape);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Qt::black);
+        fillPanel(painter, panel.translated(0, drop_), corner_);
     }
+    QImage mask = shape.convertToFormat(QImage::Format_Alpha8);
+    blurMask(mask, std::max(1, static_cast<int>(std::lround(radius_ / blurPasses))));
+    QImage shadow = blackOf(mask, strength_);
+    QPainter painter(&shadow);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    // The panel's own edge is soft: the shadow goes on below it.
+    fillPanel(painter, panel.adjusted(1, 1, -1, -1), corner_ - 1);
+    return shadow;
+}
+
+QSGNode* SoftShadow::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
+    const QSize size = pictureSize();
+    if (size.isEmpty() || strength_ <= 0) {
+        delete old;
+        return nullptr;
+    }
+    constexpr int parts = 9;
+    constexpr int middle = 4;  // which the panel hides
+    QSGNode* frame = old;
+    if (frame == nullptr) {
+        frame = new QSGNode;
+        for (int part = 0; part < parts; ++part) {
+            if (part == middle) continue;
+            QSGImageNode* node = window()->createImageNode();
+            node->setFiltering(QSGTexture::Linear);
+            node->setOwnsTexture(part == 0);
+            frame->appendChildNode(node);
+        }
+        painted_ = false;
+    }
+    QSGTexture* texture = nullptr;
+    if (!painted_ || size != shown_)
+        texture = window()->createTextureFromImage(picture(), QQuickWindow::TextureHasAlphaChannel);
+    painted_ = true;
+    shown_ = size;
+
+    const double across = std::min<double>(border(), size.width() / 2);
+    const double down = std::min<double>(border(), size.height() / 2);
+    const auto fromX = cuts(size.width(), across);
+    const auto fromY = cuts(size.height(), down);
+    const auto toX = cuts(width(), across);
+    const auto toY = cuts(height(), down);
+    QSGNode* child = frame->firstChild();
+    for (std::size_t part = 0; part < parts; ++part) {
+        if (part == middle) continue;
+        const std::size_t x = part % 3;
+        const std::size_t y = part / 3;
+        auto* node = static_cast<QSGImageNode*>(child);
+        if (texture != nullptr) node->setTexture(texture);
+        node->setSourceRect(QRectF(QPointF(fromX[x], fromY[y]), QPointF(fromX[x + 1], fromY[y + 1])));
+        node->setRect(QRectF(QPointF(toX[x], toY[y]), QPointF(toX[x + 1], toY[y + 1])));
+        child = child->nextSibling();
+    }
+    return frame;
+}
+
+void SoftShadow::geometryChange(const QRectF& now, const QRectF& before) {
+    QQuickItem::geometryChange(now, before);
+    if (now.size() != before.size()) update();
 }
 
 }  // namespace zelk

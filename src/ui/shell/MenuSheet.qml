@@ -22,11 +22,9 @@ T.Menu {
     // Screen readers find the popup item of the template, which has no name of its own.
     onAboutToShow: contentItem.parent.Accessible.name = menuSheet.title
 
-    background: Rectangle {
+    background: PanelGround {
         radius: 10
         color: Theme.surface
-        border.width: 1
-        border.color: Theme.hairline
     }
 
     contentItem: ListView {

@@ -21,11 +21,8 @@ T.Popup {
     onAboutToShow: contentItem.parent.Accessible.ignored = true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
-    background: Rectangle {
+    background: PanelGround {
         radius: 14
-        color: Theme.surfaceHi
-        border.width: 1
-        border.color: Theme.hairline
     }
 
     Column {
