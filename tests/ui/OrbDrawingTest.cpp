@@ -45,20 +45,7 @@ TEST(Orb, keepsRingsBetweenDiscAndFrame) {
     }
 }
 
-TEST(ModuleGlow, fadesOutAtRadius520) {
-    for (const bool dark : {true, false}) {
-        const double opacity = dark ? 0.18 : 0.12;
-        const QImage glow = painted({1060, 4}, [&](QPainter& painter) {
-            drawModuleGlow(painter, {530, 2}, lens, dark);
-        });
-        EXPECT_NEAR(glow.pixelColor(530, 2).alphaF(), opacity, 0.005);
-        EXPECT_NEAR(glow.pixelColor(790, 2).alphaF(), opacity / 2, 0.005);
-        EXPECT_GT(glow.pixelColor(1000, 2).alpha(), 0);
-        EXPECT_EQ(glow.pixelColor(1051, 2).alpha(), 0);
-    }
-}
-
-TEST(AboutMark, paintsDiscOf78InsideGlowOf96) {
+TEST(AboutMark, isADiscOf78InsideAGlowOf96) {
     const QImage mark =
         painted({200, 200}, [](QPainter& painter) { drawAboutMark(painter, center, QColor(245, 166, 35)); });
     EXPECT_EQ(mark.pixelColor(137, 100).alpha(), 255);
@@ -71,8 +58,6 @@ TEST(PaintedLayer, implicitSizeDependsOnKind) {
     PaintedLayer layer;
     layer.setKind(PaintedLayer::OuterRing);
     EXPECT_EQ(layer.implicitWidth(), 150);
-    layer.setKind(PaintedLayer::Glow);
-    EXPECT_EQ(layer.implicitHeight(), 1040);
     layer.setKind(PaintedLayer::Mark);
     EXPECT_EQ(layer.implicitHeight(), 96);
 }

@@ -46,12 +46,6 @@ void drawOrbRing(QPainter& painter, QPointF center, int ring, const QColor& tint
     drawRing(painter, center, OrbShape::ringRadius(ring), ringWidth, withOpacity(tint, OrbShape::ringOpacity(ring)));
 }
 
-void drawModuleGlow(QPainter& painter, QPointF center, const QColor& tint, bool dark) {
-    fillDisc(painter, center, ModuleGlow::endRadius,
-             radialBrush(center, ModuleGlow::endRadius,
-                         {{0, withOpacity(tint, ModuleGlow::opacity(dark))}, {1, withOpacity(tint, 0)}}));
-}
-
 void drawAboutMark(QPainter& painter, QPointF center, const QColor& accent) {
     constexpr double radius = AboutMark::discRadius;
     drawHalo(painter, center, accent, 0.55, radius - 9, AboutMark::glowRadius);

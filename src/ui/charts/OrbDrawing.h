@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Painting of a module's orb, the glow behind it and the app's mark. The painter must have antialiasing on.
+// How a module's orb and the marks of the house look. Each draws with a painter that is
+// anti-aliased.
 #pragma once
 
 #include <QColor>
@@ -30,14 +31,7 @@ void drawOrbDisc(QPainter& painter, QPointF center, const QColor& tint);
 /// Paints a ring around the disc; 0 is the innermost.
 void drawOrbRing(QPainter& painter, QPointF center, int ring, const QColor& tint);
 
-/// The glow in the module's colour behind its start page. In points; the opacity is that at the centre, by theme.
-struct ModuleGlow {
-    static constexpr double endRadius = 520;
-    static double opacity(bool dark) { return dark ? 0.18 : 0.12; }
-};
-void drawModuleGlow(QPainter& painter, QPointF center, const QColor& tint, bool dark);
-
-/// The mark of the About window: a disc in the accent gradient within a glow. In points.
+/// The mark of the About window: a disc in the accent gradient inside a glow. In points.
 struct AboutMark {
     static constexpr double discRadius = 39;
     static constexpr double glowRadius = 48;

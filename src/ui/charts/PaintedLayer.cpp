@@ -18,8 +18,6 @@ double sideOf(PaintedLayer::Kind kind) {
         case PaintedLayer::MiddleRing:
         case PaintedLayer::OuterRing:
             return OrbShape::frame;
-        case PaintedLayer::Glow:
-            return 2 * ModuleGlow::endRadius;
         case PaintedLayer::Mark:
             return 2 * AboutMark::glowRadius;
         case PaintedLayer::Tile:
@@ -50,8 +48,6 @@ void PaintedLayer::draw(QPainter& painter) {
         case MiddleRing:
         case OuterRing:
             return drawOrbRing(painter, center, kind_ - InnerRing, color_);
-        case Glow:
-            return drawModuleGlow(painter, center, color_, dark_);
         case Mark:
             return drawAboutMark(painter, center, color_);
         case Tile:

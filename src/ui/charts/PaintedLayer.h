@@ -15,11 +15,9 @@ class PaintedLayer : public zelk::Drawn {
     QML_ELEMENT
     Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY changed FINAL REQUIRED)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
-    // The theme of the background; used by the glow only.
-    Q_PROPERTY(bool dark MEMBER dark_ NOTIFY changed FINAL)
 
 public:
-    enum Kind { OrbDisc, InnerRing, MiddleRing, OuterRing, Glow, Mark, Tile };
+    enum Kind { OrbDisc, InnerRing, MiddleRing, OuterRing, Mark, Tile };
     Q_ENUM(Kind)
 
     explicit PaintedLayer(QQuickItem* parent = nullptr);
@@ -33,7 +31,6 @@ protected:
 private:
     Kind kind_ = OrbDisc;
     QColor color_;
-    bool dark_ = true;
 };
 
 }  // namespace zelk

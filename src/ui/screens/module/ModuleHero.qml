@@ -13,16 +13,13 @@ FocusScope {
 
     required property ModuleScreenModel module
 
-    Item {
+    ModuleGlow {
+        objectName: "moduleGlow"
         anchors.fill: parent
-        clip: true
-
-        PaintedLayer {
-            anchors.centerIn: parent
-            kind: PaintedLayer.Glow
-            color: hero.module.tint
-            dark: Theme.isDark
-        }
+        middle: Qt.point(width / 2, column.y + orb.y + orb.height / 2 - scroll.contentY)
+        color: hero.module.tint
+        ground: Theme.ground
+        dark: Theme.isDark
     }
 
     Flickable {
@@ -46,6 +43,8 @@ FocusScope {
             width: scroll.width - 2 * 26
 
             ModuleOrb {
+                id: orb
+
                 anchors.horizontalCenter: parent.horizontalCenter
                 symbol: hero.module.symbol
                 tint: hero.module.tint

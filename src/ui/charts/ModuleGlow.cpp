@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "ui/charts/ModuleGlow.h"
+
+#include <QQuickWindow>
+#include <QSGImageNode>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace zelk {
+
+namespace {
+
+constexpr unsigned ditherSide = 8;
+
+/// What is added to a shade before it is cut to a whole one, by the pixel's place: every value from 0 to 1 once in each
+/// square, neighbours far from each other.
+std::array<float, ditherSide * ditherSide> ditherSquare() {
+    std::array<float, ditherSide * ditherSide> square{};
+    for (unsigned y = 0; y < ditherSide; ++y)
+        for (unsigned x = 0; x < ditherSide; ++x) {
+            unsigned rank = 0;
+            for (unsigned bit = 0; bit < 3; ++bit) {
+                const unsigned across = (x >> bit) & 1U;
+                const unsigned down = (y >> bit) & 1U;
+                rank = (rank << 2U) | ((across ^ down) << 1U) | down;
+            }
+            square[y * ditherSide + x] = (static_cast<float>(rank) + 0.5F) / (ditherSide * ditherSide);
+        }
+    return square;
+}
+
+struct Channels {
+    float red;
+    float green;
+    float blue;
+};
+
+Channels channelsOf(const QColor& color) {
+    return {color.redF() * 255, color.greenF() * 255, color.blueF() * 255};
+}
+
+}  // namespace
+
+ModuleGlow::ModuleGlow(QQuickItem* parent) : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+    connect(this, &ModuleGlow::changed, this, &ModuleGlow::repaint);
+}
+
+QImage ModuleGlow::picture(double scale) const {
+    static const auto dither = ditherSquare();
+    const Channels ground = channelsOf(ground_);
+    const Channels light = channelsOf(color_);
+    const Channels way{light.red - ground.red, light.green - ground.green, light.blue - ground.blue};
+    const auto full = static_cast<float>(opacity(dark_));
+    const auto fade = static_cast<float>(full / (endRadius * scale));
+
+    QImage image(static_cast<int>(std::ceil(width() * scale)), static_cast<int>(std::ceil(height() * scale)),
+                 QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        const float* offsets = dither.data() + (static_cast<unsigned>(y) % ditherSide) * ditherSide;
+        const auto down = static_cast<float>(y + 0.5 - middle_.y() * scale);
+        for (int x = 0; x < image.width(); ++x) {
+            const auto across = static_cast<float>(x + 0.5 - middle_.x() * scale);
+            const float share = std::max(0.0F, full - fade * std::sqrt(across * across + down * down));
+            const float offset = offsets[static_cast<unsigned>(x) % ditherSide];
+            line[x] = qRgb(static_cast<int>(ground.red + share * way.red + offset),
+                           static_cast<int>(ground.green + share * way.green + offset),
+                           static_cast<int>(ground.blue + share * way.blue + offset));
+        }
+    }
+    return image;
+}
+
+void ModuleGlow::repaint() {
+    painted_ = false;
+    update();
+}
+
+QSGNode* ModuleGlow::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
+    if (width() <= 0 || height() <= 0) {
+        delete old;
+        return nullptr;
+    }
+    auto* node = static_cast<QSGImageNode*>(old);
+    if (node == nullptr) {
+        node = window()->createImageNode();
+        node->setOwnsTexture(true);
+        painted_ = false;
+    }
+    if (!painted_) {
+        const QImage image = picture(window()->effectiveDevicePixelRatio());
+        node->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureIsOpaque));
+        painted_ = true;
+    }
+    node->setRect(boundingRect());
+    return node;
+}
+
+void ModuleGlow::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemDevicePixelRatioHasChanged) repaint();
+    QQuickItem::itemChange(change, data);
+}
+
+void ModuleGlow::geometryChange(const QRectF& now, const QRectF& before) {
+    QQuickItem::geometryChange(now, before);
+    if (now.size() != before.size()) repaint();
+}
+
+}  // namespace zelk
+
+#include "moc_ModuleGlow.cpp"
