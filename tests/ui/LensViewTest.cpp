@@ -375,4 +375,12 @@ TEST_F(LensViewTest, instantiatesOnlyVisibleRows) {
     expectFocusInSight();
 }
 
+TEST_F(LensWindow, startOverIsOfSizeThirteen) {
+    openOn();
+    EXPECT_EQ(sizeOf("Start Over"), 13);
+    const SymbolItem* arrow = symbol("arrow.counterclockwise");
+    ASSERT_NE(arrow, nullptr);
+    EXPECT_EQ(arrow->size(), sideBesideText(13));
+}
+
 }  // namespace zelk

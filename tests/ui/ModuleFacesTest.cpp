@@ -115,4 +115,13 @@ TEST_F(ModuleFaces, sidebarRowCollapsesToItsSymbol) {
     EXPECT_EQ(showing("Explore"), nullptr);
 }
 
+TEST_F(ModuleFaces, theSymbolOfTheOrbIsMedium) {
+    show(QStringLiteral("import QtQuick\nimport Zelk.App\nItem { ModuleOrb { symbol: 'circle.hexagongrid'; "
+                        "tint: '#e85bc4' } }"),
+         {200, 200});
+    const SymbolItem* sign = symbol("circle.hexagongrid");
+    ASSERT_NE(sign, nullptr);
+    EXPECT_EQ(sign->weight(), QFont::Medium);
+}
+
 }  // namespace zelk

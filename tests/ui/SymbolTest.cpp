@@ -151,4 +151,23 @@ TEST(ApplicationIcon, hasRoundCornersAndAccentBackground) {
     EXPECT_LT(top.blue(), 120);
 }
 
+TEST(Symbols, haveHeavierLinesWhereTheTextHas) {
+    const QString arrow = QStringLiteral("arrow.up.right");
+    const QImage normal = tintedSymbol(arrow, Qt::black, 96);
+    const QImage medium = tintedSymbol(arrow, Qt::black, 96, QFont::Medium);
+    const QImage bold = tintedSymbol(arrow, Qt::black, 96, QFont::Bold);
+    EXPECT_EQ(tintedSymbol(arrow, Qt::black, 96, QFont::Normal), normal);
+    EXPECT_GT(covered(medium), 1.1 * covered(normal));
+    EXPECT_GT(covered(bold), 1.1 * covered(medium));
+    EXPECT_NEAR(covered(bold), covered(normal) * 2.75 / 1.75, 0.06 * covered(bold));
+    const QString filled = QStringLiteral("folder.fill");
+    EXPECT_EQ(tintedSymbol(filled, Qt::black, 96, QFont::Bold), tintedSymbol(filled, Qt::black, 96));
+}
+
+TEST(Symbols, areReadFromTheirDrawingsWhateverTheWeight) {
+    for (const QString& name : drawnSymbols())
+        for (const int weight : {QFont::Normal, QFont::Medium, QFont::Bold})
+            EXPECT_GT(covered(tintedSymbol(name, Qt::black, 24, weight)), 0) << name.toStdString() << " " << weight;
+}
+
 }  // namespace zelk

@@ -103,4 +103,11 @@ TEST_F(TrendsWindow, sheetReportsNoChanges) {
     EXPECT_EQ(sizeOf("No notable folder changes since the last survey."), 13);
 }
 
+TEST_F(TrendsWindow, theArrowOfTheCardIsBold) {
+    open();
+    const SymbolItem* arrow = symbol("arrow.up.right");
+    ASSERT_NE(arrow, nullptr);
+    EXPECT_EQ(arrow->weight(), QFont::Bold);
+}
+
 }  // namespace zelk

@@ -2,6 +2,7 @@
 #include "ui/theme/SymbolItem.h"
 
 #include <QCache>
+#include <QFile>
 #include <QHash>
 #include <QMutex>
 #include <QPainter>
@@ -17,12 +18,13 @@ struct Tinting {
     QString name;
     QRgb color;
     int pixels;
+    int weight;
 
     bool operator==(const Tinting&) const = default;
 };
 
 size_t qHash(const Tinting& tinting, size_t seed = 0) {
-    return qHashMulti(seed, tinting.name, tinting.color, tinting.pixels);
+    return qHashMulti(seed, tinting.name, tinting.color, tinting.pixels, tinting.weight);
 }
 
 constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
@@ -44,9 +46,19 @@ private:
     QCache<Tinting, QImage> images_{kKeptBytes};
 };
 
+/// The drawing with lines of this weight: from normal to bold they grow by one of its 24 units.
+QByteArray drawingOf(const QString& name, int weight) {
+    constexpr double normalStroke = 1.75;
+    QFile file(symbolFile(name));
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    const double stroke = normalStroke + static_cast<double>(weight - QFont::Normal) / (QFont::Bold - QFont::Normal);
+    const auto attribute = [](double width) { return "stroke-width=\"" + QByteArray::number(width) + '"'; };
+    return file.readAll().replace(attribute(normalStroke), attribute(stroke));
+}
+
 QImage drawTinted(const Tinting& tinting) {
     if (tinting.name.isEmpty() || tinting.pixels < 1) return {};
-    QSvgRenderer renderer(symbolFile(tinting.name));
+    QSvgRenderer renderer(drawingOf(tinting.name, tinting.weight));
     if (!renderer.isValid()) return {};
     QImage image(tinting.pixels, tinting.pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -63,9 +75,9 @@ QString symbolFile(const QString& name) {
     return QStringLiteral(":/Zelk/Controls/symbols/%1.svg").arg(name);
 }
 
-QImage tintedSymbol(const QString& name, const QColor& color, int pixels) {
+QImage tintedSymbol(const QString& name, const QColor& color, int pixels, int weight) {
     static DrawnSymbols drawn;
-    return drawn.take({name, color.rgba(), pixels}, drawTinted);
+    return drawn.take({name, color.rgba(), pixels, weight}, drawTinted);
 }
 
 SymbolItem::SymbolItem(QQuickItem* parent) : QQuickPaintedItem(parent) {}
@@ -91,10 +103,17 @@ void SymbolItem::setSize(qreal size) {
     emit sizeChanged();
 }
 
+void SymbolItem::setWeight(int weight) {
+    if (weight == weight_) return;
+    weight_ = weight;
+    update();
+    emit weightChanged();
+}
+
 void SymbolItem::paint(QPainter* painter) {
     const qreal scale = painter->deviceTransform().m11();
     const int pixels = static_cast<int>(std::lround(boundingRect().width() * scale));
-    painter->drawImage(boundingRect(), tintedSymbol(name_, color_, pixels));
+    painter->drawImage(boundingRect(), tintedSymbol(name_, color_, pixels, weight_));
 }
 
 }  // namespace zelk

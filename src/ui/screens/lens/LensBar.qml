@@ -24,6 +24,7 @@ Item {
         anchors.leftMargin: 24
         anchors.verticalCenter: parent.verticalCenter
         text: qsTr("Start Over")
+        size: 13
         symbol: "arrow.counterclockwise"
         textColor: hovered ? Theme.ink : Theme.inkSoft
         onClicked: bar.lens.startOver()

@@ -70,5 +70,6 @@ Item {
         name: orb.symbol
         color: "white"
         size: 42
+        weight: Font.Medium
     }
 }

@@ -87,7 +87,7 @@ FocusScope {
                 id: idleBlock
 
                 shown: hero.survey.idle
-                spacing: 20
+                spacing: 16
 
                 HeroText {
                     text: qsTr("Scan every corner of your drive in seconds.")

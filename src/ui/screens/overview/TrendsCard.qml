@@ -40,6 +40,7 @@ Card {
                     name: card.trends.arrow
                     color: card.trends.arrowColor
                     size: 13
+                    weight: Font.Bold
                     Accessible.role: Accessible.Graphic
                     Accessible.name: card.trends.arrowName
                 }
