@@ -129,6 +129,7 @@ ListRow {
             anchors.verticalCenter: parent.verticalCenter
             text: row.name
             size: 13
+            elide: Text.ElideMiddle
             mute: true
         }
 
