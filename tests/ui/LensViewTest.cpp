@@ -375,8 +375,8 @@ TEST_F(LensViewTest, instantiatesOnlyVisibleRows) {
     expectFocusInSight();
 }
 
-TEST_F(LensWindow, startOverIsOfSizeThirteen) {
-    openOn();
+TEST_F(LensViewTest, startOverIsOfSizeThirteen) {
+    openSurveyed();
     EXPECT_EQ(sizeOf("Start Over"), 13);
     const SymbolItem* arrow = symbol("arrow.counterclockwise");
     ASSERT_NE(arrow, nullptr);

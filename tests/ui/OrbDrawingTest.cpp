@@ -45,7 +45,7 @@ TEST(Orb, keepsRingsBetweenDiscAndFrame) {
     }
 }
 
-TEST(AboutMark, isADiscOf78InsideAGlowOf96) {
+TEST(AboutMark, paintsDiscOf78InsideGlowOf96) {
     const QImage mark =
         painted({200, 200}, [](QPainter& painter) { drawAboutMark(painter, center, QColor(245, 166, 35)); });
     EXPECT_EQ(mark.pixelColor(137, 100).alpha(), 255);

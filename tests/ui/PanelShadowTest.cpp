@@ -78,10 +78,14 @@ TEST_F(PanelShadow, isTheSameOnBothSidesAndHasNoSeams) {
                 if (QRect({99, 99}, size + QSize(2, 2)).contains(x, y)) continue;
                 const int here = image.pixelColor(x, y).red();
                 ASSERT_GE(here, ground - most) << x << " " << y << ": never darker than its strength";
-                const int mirrored = image.pixelColor(2 * 100 + size.width() - 1 - x, y).red();
-                ASSERT_NEAR(here, mirrored, 2) << x << " " << y;
+                const int opposite = 2 * 100 + size.width() - 1 - x;
+                if (opposite >= 0) {
+                    ASSERT_NEAR(here, image.pixelColor(opposite, y).red(), 2) << x << " " << y;
+                }
                 const bool nearPanel = QRect({98, 98}, size + QSize(4, 4)).contains(x + 1, y);
-                if (!nearPanel) ASSERT_NEAR(here, image.pixelColor(x + 1, y).red(), 9) << x << " " << y;
+                if (!nearPanel) {
+                    ASSERT_NEAR(here, image.pixelColor(x + 1, y).red(), 9) << x << " " << y;
+                }
             }
         const int middle = 100 + size.width() / 2;
         EXPECT_LT(image.pixelColor(middle, 100 + size.height() + 4).red(), image.pixelColor(middle, 95).red())
@@ -105,7 +109,7 @@ TEST(SoftShadow, isOnePictureForPanelsOfAllLargerSizes) {
     EXPECT_EQ(alphaAt(picture, 32, 32), 0) << "what the panel hides is left out";
     EXPECT_EQ(alphaAt(picture, 32, 0), 0) << "it ends within the item";
     EXPECT_LE(alphaAt(picture, 32, 64), 1);
-    EXPECT_NEAR(alphaAt(picture, 10, 32), 50, 16) << "beside the panel about half of its strength has faded";
+    EXPECT_NEAR(alphaAt(picture, 10, 32), 50, 16) << "a third of its strength is left beside the panel";
     EXPECT_GT(alphaAt(picture, 32, 54), alphaAt(picture, 32, 10)) << "it is lower than the panel";
     EXPECT_GT(alphaAt(picture, 32, 54), alphaAt(picture, 32, 58));
     EXPECT_LT(alphaAt(picture, 13, 13), alphaAt(picture, 32, 11)) << "its corners are round";

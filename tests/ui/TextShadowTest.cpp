@@ -107,7 +107,9 @@ TEST(TextShadow, isSoftAndEndsWithinItsReach) {
         for (int x = 0; x < shadow.width(); ++x) {
             const int alpha = qAlpha(shadow.pixel(x, y));
             const bool edge = x == 0 || y == 0 || x == shadow.width() - 1 || y == shadow.height() - 1;
-            if (edge) EXPECT_EQ(alpha, 0) << x << " " << y;
+            if (edge) {
+                EXPECT_EQ(alpha, 0) << x << " " << y;
+            }
             if (!seen[static_cast<std::size_t>(alpha)]) ++shades;
             seen[static_cast<std::size_t>(alpha)] = true;
             most = std::max(most, alpha);

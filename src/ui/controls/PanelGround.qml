@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What lies over everything else stands on this: a panel with a soft shadow around it.
+// The background of whatever lies above the window: a panel with a soft shadow around it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -8,8 +8,10 @@ import Zelk.Controls
 Rectangle {
     id: panel
 
-    // How far the shadow reaches: the higher the panel, the further.
+    // The blur radius of the shadow: the higher the panel, the larger.
     property real lift: 16
+    readonly property real drop: panel.lift / 4
+    readonly property real reach: panel.lift + panel.drop
 
     color: Theme.surfaceHi
     border.width: 1
@@ -18,12 +20,12 @@ Rectangle {
     SoftShadow {
         objectName: "panelShadow"
         anchors.fill: parent
-        anchors.margins: -inset
+        anchors.margins: -panel.reach
         z: -1
-        inset: radius + drop
+        inset: panel.reach
         corner: panel.radius
         radius: panel.lift
-        drop: panel.lift / 4
+        drop: panel.drop
         strength: Theme.isDark ? 0.6 : 0.22
     }
 }

@@ -70,8 +70,8 @@ public:
     /// The accent and alert colours adjusted for text, readable on every background of the theme.
     QColor accentText() const { return textOn(current_->accent, textGround()); }
     QColor alertText() const { return textOn(current_->alert, textGround()); }
-    /// The background with the least contrast to coloured text: the darkest of the light theme, the lightest of the dark
-    /// one. Text that is readable on it is readable on all of them.
+    /// The background with the least contrast to coloured text: the darkest of the light theme, the lightest of the
+    /// dark one. Text that is readable on it is readable on all of them.
     QColor textGround() const { return current_->isDark ? current_->surfaceHi : current_->ground; }
     /// Overlays for hovered and pressed items.
     QColor hoverWash() const { return withOpacity(current_->ink, 0.07); }
