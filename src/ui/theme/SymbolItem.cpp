@@ -50,7 +50,10 @@ private:
 QByteArray drawingOf(const QString& name, int weight) {
     constexpr double normalStroke = 1.75;
     QFile file(symbolFile(name));
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    if (!file.open(QIODevice::ReadOnly)) {
+        qWarning("there is no symbol %s", qPrintable(file.fileName()));
+        return {};
+    }
     const double stroke = normalStroke + static_cast<double>(weight - QFont::Normal) / (QFont::Bold - QFont::Normal);
     const auto attribute = [](double width) { return "stroke-width=\"" + QByteArray::number(width) + '"'; };
     return file.readAll().replace(attribute(normalStroke), attribute(stroke));
