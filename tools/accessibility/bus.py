@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""Reads trees from the accessibility bus and acts on what is in them, through the library that screen readers use.
+"""Reads trees from the accessibility bus and acts on their nodes, through the library that screen readers use.
 
-It connects when it is imported, to the buses that the environment names then.
-"""
+Connects on import, to the buses named by the environment at that time."""
 import time
 
 import gi
@@ -13,11 +12,11 @@ import pyatspi  # noqa: E402
 
 from tree import Node  # noqa: E402
 
-# A busy machine is slow to answer, and an answer that is not waited for would look like a node without a name.
+# A busy machine answers slowly, and after a timeout a node would seem to have no name.
 ANSWER_MILLISECONDS = 60_000
 Atspi.set_timeout(ANSWER_MILLISECONDS, ANSWER_MILLISECONDS)
 
-# Their symbols in X.
+# X keysyms.
 KEYS = {"Down": 0xFF54, "Escape": 0xFF1B, "F10": 0xFFC7, "Return": 0xFF0D, "Right": 0xFF53, "Tab": 0xFF09}
 
 
@@ -33,7 +32,7 @@ def _read_one(handle):
     component = _interface(handle.queryComponent)
     rect = None
     if component is not None:
-        # Relative to the screen: Qt 6.4 adds the window's place to the sizes in what is relative to the window.
+        # In screen coordinates: in window coordinates Qt 6.4 adds the window's position to the size.
         box = component.getExtents(pyatspi.DESKTOP_COORDS)
         rect = (box.x, box.y, box.width, box.height)
     ranged = _interface(handle.queryValue)
@@ -45,7 +44,7 @@ def _read_one(handle):
 
 
 def _read(handle):
-    """The tree below, or None where part of it went away meanwhile."""
+    """The whole tree; None if a part of it disappeared while reading."""
     try:
         root = _read_one(handle)
         waiting = [root]
@@ -65,7 +64,7 @@ def _read(handle):
 
 
 def application(process, seconds=120):
-    """The handle of the one application on the bus; None where its process ends or it does not come."""
+    """The handle of the only application on the bus; None if its process ends or the time is up."""
     until = time.monotonic() + seconds
     while time.monotonic() < until and process.poll() is None:
         desktop = pyatspi.Registry.getDesktop(0)
@@ -78,8 +77,8 @@ def application(process, seconds=120):
 
 
 def settled(handle, seconds=10, still=0.3):
-    """The tree once it has stayed the same for a moment: animations and lists that fill have ended. What never rests, a
-    counter say, is taken as it is after `seconds`."""
+    """The tree after it has not changed for `still` seconds, so that animations have ended and lists are filled. If it
+    keeps changing, such as a counter, the tree after `seconds`."""
     until = time.monotonic() + seconds
     before, since = None, time.monotonic()
     while True:
@@ -96,13 +95,13 @@ def settled(handle, seconds=10, still=0.3):
 
 
 def snapshot(handle):
-    """The tree of this moment."""
+    """The current tree."""
     handle.clearCache()
     return _read(handle)
 
 
 def act(node, *names):
-    """Does the first of these actions that the node has; False where it has none of them."""
+    """Runs the first of these actions that the node has; False if it has none."""
     acting = _interface(node.handle.queryAction)
     for name in names:
         for index in range(acting.nActions if acting is not None else 0):
@@ -113,7 +112,7 @@ def act(node, *names):
 
 
 def press_key(name):
-    """A key for whatever has the keyboard."""
+    """Sends a key press to whatever has the focus."""
     pyatspi.Registry.generateKeyboardEvent(KEYS[name], None, pyatspi.KEY_SYM)
 
 
@@ -122,7 +121,7 @@ def set_value(node, value):
 
 
 def moments(seconds):
-    """Again and again until the time is over; at least twice, however slow the machine is."""
+    """Yields repeatedly until the time is up, and at least twice even on a slow machine."""
     until = time.monotonic() + seconds
     yield
     while True:

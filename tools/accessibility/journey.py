@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The way through every screen of the application, and what each of them has to show."""
+"""Visits every screen of the application and lists what each has to show."""
 import re
 
 import bus
@@ -9,23 +9,23 @@ from walker import PRESSED, TICKS, any_named, expect
 
 SCREENS = ("Overview", "Reclaim", "Privacy", "Tune", "Apps", "Clutter", "Duplicates", "Lens", "Health", "System",
            "Tools", "Settings")
-# Those that show a survey, the one with its figures at last.
+# The screens that show a survey; last the one with the results.
 SURVEYING = ("Reclaim", "Clutter", "Lens", "Overview")
 MENUS_OF_BAR = {"Zelk": "About Zelk", "File": "Run Survey", "Go": "Overview", "Help": "Zelk Help"}
 TITLES = frozenset({"menu", "menu item", "menu bar"})
 TABS = frozenset({"page tab", "push button"})
 FOLDERS = "Surveyed folders|Folders in .*"
 REVIEW = "Review (&|and) Clean"
-# More than there are stops on any screen.
+# An upper limit for the length of the focus chain.
 MOST_STOPS = 60
-# While it is slowed a survey takes about a minute.
+# A slowed survey takes about a minute.
 PROGRESS_SECONDS = 30
 SURVEY_SECONDS = 300
 CLEANING_SECONDS = 120
 
 
 def main_window():
-    """What stands beside every screen."""
+    """The nodes outside the current screen."""
     return [expect("Zelk", "frame"), expect(".*[Mm]enu.*", "menu bar"), expect("Modules", "page tab list"),
             *(expect(title, "menu", "menu item", among=TITLES) for title in MENUS_OF_BAR),
             *(expect(screen, "page tab") for screen in SCREENS),
@@ -69,7 +69,7 @@ def first_run(walker):
         walker.fault("state", "the welcome does not end")
     if walker.screen != f"Welcome, page {page - 1}":
         walker.fault("missing", "there was no welcome at the first start")
-    # Where the drive may be read anyway this is not asked.
+    # Not shown if the whole drive is readable anyway.
     if walker.find("Continue without it") is not None:
         walker.look("Access", expect("Continue without it", "push button", "link"), any_named(*DIALOGS))
         walker.press("Continue without it")
@@ -77,7 +77,7 @@ def first_run(walker):
 
 
 def open_menu(walker, title):
-    """Through the action of its title if it has one, else by the keyboard."""
+    """Opens a menu through its action if it has one, else by the keyboard."""
     node = walker.find(title, TITLES)
     if node is None or not walker.act(node):
         walker.press_key("F10")
@@ -97,7 +97,7 @@ def menus(walker):
 
 
 def stops(walker):
-    """The tab key comes to what shows and has a name, and in the end to where it began."""
+    """Tab visits visible items with names only, and returns to the first one."""
     walker.screen = "The tab key's way"
     seen = []
     for _ in range(MOST_STOPS):
@@ -114,7 +114,7 @@ def stops(walker):
 
 
 def survey(walker, process):
-    """From the button to the figures, slowly enough to be told on the way how far it is."""
+    """Runs a survey, slowed down so that its progress can be observed."""
     walker.screen = "Overview during a survey"
     with slowed(process):
         if walker.press("Scan your whole .*") is None:
@@ -126,7 +126,7 @@ def survey(walker, process):
         quiet(walker)
         for screen in SURVEYING:
             go(walker, screen, f"{screen} during a survey")
-    # The button says then what can be taken back.
+    # When it has ended, the button's name is the reclaimable size.
     walker.wait(lambda: walker.find("scanning.*|Scan .*", frozenset({"push button", "progress bar"})) is None,
                 SURVEY_SECONDS)
     walker.look("Overview after a survey", *main_window())
@@ -139,18 +139,18 @@ def survey(walker, process):
 
 
 def told(walker):
-    """A progress that says in words how far it is. (The made home has fewer items than lie between two reports, so what
-    is said stays the same here.)"""
+    """A progress bar must describe its progress in words. (They do not change here: the sample home has fewer items
+    than lie between two updates.)"""
     for _ in bus.moments(PROGRESS_SECONDS):
         tree = bus.snapshot(walker.application)
         bars = [] if tree is None else [node for node in tree.shown() if node.role == "progress bar"]
         if tree is not None and not bars or any(bar.description.strip() for bar in bars):
-            return  # no bar is a finding already
+            return  # having no progress bar was reported before
     walker.fault("value", f"the progress of a survey says nothing in {PROGRESS_SECONDS} seconds")
 
 
 def quiet(walker):
-    """What does not show keeps its name."""
+    """Hidden nodes must not change their names."""
     before = walker.tree
     for _ in bus.moments(5):
         now = bus.snapshot(walker.application)
@@ -172,14 +172,14 @@ def overview(walker, _audience):
 
 
 def menu_of(walker, pattern, title, entry):
-    """A button with a menu, the menu, and back."""
+    """Opens and closes the menu of a button."""
     if walker.press(pattern) is not None:
         walker.look(title, expect(entry, *MENU_ITEMS), any_named("menu", "popup menu"))
         walker.escape()
 
 
 def first_row(walker, name):
-    """Of the list of this name, which has one."""
+    """The first visible row of the list with this name; reports an empty list."""
     rows = walker.find(name, frozenset({"list"}))
     shown = [] if rows is None else [row for row in rows.children if row.showing and row.role in PRESSED | TICKS]
     if not shown:
@@ -188,7 +188,7 @@ def first_row(walker, name):
 
 
 def slide(walker):
-    """A slider or stepper follows a value that is set, and goes back. One without a range is a finding already."""
+    """A slider or spin box must accept a value. One without a range was reported before."""
     ranged = walker.find(".*", RANGED)
     if ranged is None or ranged.value is None or not ranged.value[0] < ranged.value[2]:
         return
@@ -207,7 +207,7 @@ def reclaim(walker, audience):
         walker.screen = "Reclaim for everyone"
         row = first_row(walker, "Categories")
         if row is not None:
-            # Some names say too what is ticked.
+            # A name may change with the state.
             walker.toggle(re.escape(row.name.split(",")[0]) + "\\b.*", frozenset({row.role}))
         if walker.press(REVIEW) is not None:
             review(walker)
@@ -278,7 +278,7 @@ INSIDE = {"Overview": overview, "Reclaim": reclaim, "Clutter": clutter, "Lens": 
 
 
 def clean_up(walker):
-    """To the end, and into the made home's own Trash."""
+    """Runs a clean-up to its end, into the Trash of the sample home."""
     go(walker, "Reclaim", "Reclaim before a clean-up")
     if walker.press(REVIEW) is None or walker.press("Move .* to Trash") is None:
         return
@@ -292,7 +292,7 @@ def clean_up(walker):
 
 
 def by_keys(walker, entry):
-    """Whether the entry is in the open menu, where it then was chosen."""
+    """Chooses an entry of the open menu by the keyboard. Returns False if there is no such entry."""
     entries = [node.name for node in walker.tree.shown() if node.role in MENU_ITEMS and node.parent.role != "menu bar"]
     place = next((place for place, name in enumerate(entries) if re.fullmatch(entry, name)), None)
     if place is None:
@@ -304,7 +304,7 @@ def by_keys(walker, entry):
 
 
 def windows(walker):
-    """Those beside the main one, by their entries in the menus."""
+    """Opens the secondary windows by their menu entries."""
     for title, menu, entry, shown in (("About", "Zelk", "About Zelk", expect("Zelk", "heading")),
                                       ("Help", "Help", "Zelk Help", expect("Topics", "list")),
                                       ("Settings", "Zelk", "Settings.*", expect("Add folder.*", "push button"))):

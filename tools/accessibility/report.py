@@ -1,18 +1,19 @@
 # SPDX-License-Identifier: MIT
-"""Collects what the rules find on one screen after the other, and tells it once."""
+"""Collects the findings of all screens and reports each cause once."""
 import re
 
 from rules import OVERLAYS
 
-# What differs from screen to screen, and from one row to the next: figures, and the names of others.
+# Masks what differs between screens and rows: numbers and quoted names.
 _FIGURE = re.compile(r"\d[\d.,]*")
 _NAME = re.compile("\"[^\"]*\"")
-# What stands in one of these is one of several of its kind.
+# A node in one of these is one of several of its kind.
 _SEVERAL = frozenset({"list", "list item", "page tab list", "menu bar", "menu", "popup menu", "panel"})
 
 
 def _plain(node):
-    """Without its name, where it is one of several or opens over the rest."""
+    """A node's label without what distinguishes it from others of its kind; of repeated nodes and overlays only the
+    role."""
     if node.role in OVERLAYS - {"frame"} or node.role in ("list item", "label", "scroll bar") or \
             node.parent is not None and node.parent.role in _SEVERAL:
         return node.role
@@ -20,7 +21,7 @@ def _plain(node):
 
 
 def _kind(finding):
-    """Equal for findings of one cause: the same fault of nodes of one role in the same place."""
+    """A key that is equal for findings with the same cause: the same fault, role and ancestors."""
     text = _NAME.sub("", _FIGURE.sub("#", finding.text)) if finding.rule != "missing" else finding.text
     return finding.rule, _plain(finding.node), tuple(_plain(node) for node in finding.node.above()), text
 
@@ -31,7 +32,7 @@ class Report:
         self.screens = []
 
     def add(self, screen, findings):
-        """Gives how many of these were not known yet."""
+        """Returns the number of new kinds of findings."""
         if screen not in self.screens:
             self.screens.append(screen)
         known = len(self.kinds)

@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""What a tree must be like, whatever screen it shows. Each rule takes the tree of the application and gives findings;
-none of them knows the bus. Only what is showing is judged, except where a rule says otherwise.
-"""
+"""The rules for accessibility trees. Each takes the tree of the application and yields findings, without access to the
+bus. Only showing nodes are checked, except where a rule says otherwise."""
 from dataclasses import dataclass
 
 from tree import Node
@@ -14,23 +13,23 @@ CHECKED = frozenset({"check box", "radio button", "switch"})
 DIALOGS = frozenset({"dialog", "alert"})
 MENUS = frozenset({"menu", "popup menu"})
 
-# What a person chooses, presses or enters, and has to be told the name of.
+# Roles to choose, press or enter, which need a name.
 INTERACTIVE = BUTTONS | MENU_ITEMS | RANGED | CHECKED | {"page tab", "list item", "combo box", "entry", "menu"}
-# What is told on entering it, and texts, which are nothing else.
+# All roles that need a name: those announced on entering them, and texts.
 NAMED = INTERACTIVE | TEXTS | DIALOGS | MENUS | {"page tab list", "list", "menu bar", "progress bar", "frame", "image"}
-# Roles that tell a person nothing.
+# Roles without a meaning.
 UNTOLD = frozenset({"unknown", "invalid"})
-# What only holds others and never is where the keyboard is. A list may be: its current row is told by it.
+# Containers that must not have the focus. A list may have it, on behalf of its current row.
 HOLDERS = DIALOGS | {"panel", "filler", "frame", "page tab list", "menu bar", "application"}
 
-# What may stand directly in a container of this role, beside what is never chosen.
+# The interactive roles allowed directly in a container.
 HELD = {
-    "list": frozenset({"list item", "check box"}),  # a row may be a tick as a whole
+    "list": frozenset({"list item", "check box"}),  # a row may be a check box as a whole
     "menu bar": frozenset({"menu", "menu item"}),
     "menu": MENU_ITEMS | {"menu"},
     "popup menu": MENU_ITEMS | {"menu"},
 }
-# Where something of this role has to be found.
+# The ancestors required for a role.
 HOLDER = {
     "list item": frozenset({"list"}),
     "page tab": frozenset({"page tab list"}),
@@ -38,15 +37,15 @@ HOLDER = {
     "check menu item": MENUS,
     "radio menu item": MENUS,
 }
-# A picture whose nodes are in the order of their sizes, wherever they lie.
+# A list in the order of size, whose nodes may lie anywhere.
 MAP = "Map of "
-# What lies over the rest and has an order of its own.
+# Roles that lie over the rest and have an order of their own.
 OVERLAYS = DIALOGS | MENUS | {"tool tip", "frame"}
 
 
 @dataclass(frozen=True)
 class Finding:
-    """`rule` names the rule, `text` says what is wrong with `node`."""
+    """A violation: `rule` is the name of the rule, `text` says what is wrong with `node`."""
     rule: str
     node: Node
     text: str
@@ -61,7 +60,7 @@ def check_names(root):
 
 
 def _checkable(node):
-    """Qt 6.4 keeps the state to itself; whatever can be checked has the action on the bus."""
+    """Qt 6.4 does not report "checkable", but every checkable node has the action."""
     return node.has("checkable") or node.has("checked") or "Toggle" in node.actions
 
 
@@ -76,7 +75,7 @@ def check_roles(root):
 
 
 def check_holders(root):
-    """Rows stand in lists, tabs among tabs, entries in menus, and nothing else that is chosen stands among them."""
+    """Rows must be in lists, tabs in tab lists and entries in menus, and those contain no other interactive roles."""
     for node in root.shown():
         if node.parent is not None and node.parent.role in HELD and node.role in INTERACTIVE | {"menu bar"}:
             wanted = HELD[node.parent.role]
@@ -88,7 +87,7 @@ def check_holders(root):
 
 def check_states(root):
     for node in root.walk():
-        # Hidden bars too: a tab key that stops there stops nowhere.
+        # Includes hidden ones: they would still be a stop in the focus chain.
         if node.role == "scroll bar" and node.has("focusable"):
             yield Finding("state", node, "is a scroll bar and takes the keyboard")
     for node in root.shown():
@@ -103,7 +102,7 @@ def check_states(root):
 
 
 def check_choices(root):
-    """Of several radio buttons side by side exactly one is checked, of several tabs exactly one is selected."""
+    """Of sibling radio buttons exactly one is checked, of sibling tabs exactly one is selected."""
     for node in root.shown():
         for role, state in (("radio button", "checked"), ("page tab", "selected")):
             choices = [child for child in node.children if child.showing and child.role == role]
@@ -115,7 +114,7 @@ def check_choices(root):
 
 
 def check_actions(root):
-    """What a person presses can be pressed through the bus."""
+    """Everything clickable has an action that presses it."""
     for node in root.shown():
         if node.role in INTERACTIVE - RANGED - {"list item", "entry"} and node.has("enabled") and \
                 not {"Press", "Toggle", "ShowMenu"} & set(node.actions):
@@ -137,7 +136,7 @@ def check_ranges(root):
 
 
 def check_progress(root):
-    """A progress says how far it is, in words or as a value in a range."""
+    """A progress bar has a description or a value within a range."""
     for node in root.shown():
         if node.role == "progress bar" and not node.description.strip() and \
                 (node.value is None or not node.value[0] < node.value[2]):
@@ -149,8 +148,8 @@ def _window(node):
 
 
 def check_focus(root):
-    """In each window the keyboard is in one place, which shows and has a name. Qt reports what is around that place as
-    focused too, and leaves the place of a closed window as it was."""
+    """Each window has at most one focused node, which is showing and has a name. Qt also reports the ancestors of that
+    node as focused, and does not reset the focus of a closed window."""
     ends = {}
     for node in root.walk():
         window = _window(node)
@@ -169,19 +168,19 @@ def check_focus(root):
 
 
 def comes_before(one, other):
-    """Whether a reader who looks from the top to the bottom, and along a row from the left to the right, comes to the
-    rectangle `one` before `other`. Neither comes first where they overlap, or where `one` is the foot of a column and
-    `other` stands higher, in a column further to the right."""
+    """Whether the rectangle `one` comes before `other` in reading order, from top to bottom and from left to right
+    within a row. Neither does if they overlap, or if `one` is at the bottom of a column and `other` higher up in a
+    column to the right."""
     left, top, width, height = one
     other_left, other_top, other_width, other_height = other
     beside = min(top + height, other_top + other_height) - max(top, other_top)
-    if beside > min(height, other_height) / 2:  # a row
+    if beside > min(height, other_height) / 2:  # they share a row
         return left + width <= other_left
     return top + height <= other_top and not other_left + other_width <= left
 
 
 def in_sight(node):
-    """Rows that are scrolled out of their list show all the same, where other things are."""
+    """Rows that are scrolled out of their list still report that they are showing."""
     left, top, width, height = node.rect
     for above in node.above():
         if above.role == "list" and above.rect is not None:
@@ -192,14 +191,14 @@ def in_sight(node):
 
 
 def check_order(root):
-    """Of two texts or controls that follow each other in the document the second is not before the first. What lies over
-    the rest, a dialog say, is an order of its own."""
+    """The tree order of texts and controls must be their reading order. Overlays such as dialogs have an order of their
+    own."""
     last = {}
     for node in root.shown():
         if node.role in OVERLAYS or node.rect is None or min(node.rect[2:]) <= 0 or node.role == "scroll bar":
             continue
         if any(child.showing and child.rect is not None for child in node.children):
-            continue  # it is where its content is
+            continue  # ordered by its children
         if not in_sight(node) or any(above.role == "list" and above.name.startswith(MAP) for above in node.above()):
             continue
         surface = next((above for above in node.above() if above.role in OVERLAYS), None)
@@ -220,15 +219,15 @@ def judge(root, rules=RULES):
 
 @dataclass(frozen=True)
 class Expected:
-    """Something that a screen shows: a compiled pattern of its whole name, and the roles that it may have."""
+    """A node that a screen must show: a compiled pattern for its whole name, and its allowed roles."""
     name: object
     roles: frozenset
-    # Something of another kind may have the same name, a text beside it say.
+    # Nodes with other roles may have the same name, such as a label beside it.
     among: frozenset = INTERACTIVE | DIALOGS | {"list", "progress bar"}
 
 
 def check_expected(root, expected):
-    """A node of the wrong role, or none of this name at all."""
+    """Reports expected nodes that are missing or have a wrong role."""
     for wanted in expected:
         named = [node for node in root.shown() if wanted.name.fullmatch(node.name) and
                  node.role in wanted.among | wanted.roles]

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Shows that each rule finds what it is for, and leaves alone what is right: on trees that are made here, so that it
-needs neither a bus nor a display."""
+"""Tests that each rule finds what it should and accepts what is correct, on trees made here, without a bus or a
+display."""
 import re
 
 from report import Report
@@ -11,7 +11,7 @@ SHOWN = {"enabled", "sensitive", "showing", "visible"}
 
 
 def made(role, name="", *children, states="", rect=(0, 0, 10, 10), **more):
-    """A node that shows. `states` adds to what every such node has, `-showing` takes away."""
+    """A showing node. `states` adds to the usual ones; `-showing` removes one."""
     words = states.split()
     own = SHOWN | {word for word in words if not word.startswith("-")}
     own -= {word[1:] for word in words if word.startswith("-")}
@@ -19,7 +19,7 @@ def made(role, name="", *children, states="", rect=(0, 0, 10, 10), **more):
 
 
 def pressed(role, name="", *children, **more):
-    """One that a person presses."""
+    """A node with an action that presses it."""
     return made(role, name, *children, actions=("Press", "SetFocus"), **more)
 
 
@@ -28,7 +28,7 @@ def tick(name, states="checkable", role="check box"):
 
 
 def down(*nodes, left=0, top=0):
-    """The nodes from the top to the bottom."""
+    """Places the nodes below each other."""
     for place, node in enumerate(nodes):
         node.rect = (left, top + 20 * place, 10, 10)
     return nodes
@@ -53,12 +53,12 @@ def ranged(role, value):
 
 
 def two(second, first=(100, 100, 50, 20), role="push button"):
-    """Two controls, of which the second in the document has this place."""
+    """A window with two controls at these places, in this tree order."""
     return window(pressed("push button", "First", rect=first), pressed(role, "Second", rect=second))
 
 
 def right():
-    """One of everything, as it has to be."""
+    """A correct window with one node of each kind."""
     bar = made("menu bar", "Menus", made("menu", "File", actions=("Press",)), rect=(0, 0, 400, 20))
     rows = made("list", "Files", *down(made("list item", "One", pressed("push button", "Actions for One", rect=(50, 150, 10, 10))),
                                        made("list item", "Two"), left=50, top=150))
@@ -76,7 +76,7 @@ def right():
     return window(bar, made("scroll bar"), tabs("selected", ""), rows, *rest, dialog, menu, *hidden)
 
 
-# What a node of the role has if it is right.
+# The states that a correct node of a role has.
 OWN = {"check box": "checkable", "radio button": "checkable", "switch": "checkable", "dialog": "modal"}
 
 NAMED = ("push button", "toggle button", "push button menu", "link", "label", "heading", "menu item", "check menu item",
@@ -88,17 +88,17 @@ AROUND = {"page tab": "page tab list", "list item": "list", "menu item": "menu b
 
 
 def standing(role, node):
-    """The node where one of its role belongs."""
+    """A window with the node inside the container that its role requires."""
     return window(pressed(AROUND.get(role, "panel"), "Around", node))
 
 
 def scrolled(*rows):
-    """A list over a button, of which these rows are scrolled out."""
+    """A list above a button, with rows that are scrolled out of view."""
     return window(made("list", "Files", *(made("list item", "One", rect=row) for row in rows), rect=(50, 50, 100, 50)),
                   pressed("push button", "Done", rect=(50, 110, 100, 20)))
 
 
-# What is wrong with it, the tree, and the findings that are due: a rule's name and some of its words.
+# Description, tree, and expected findings as the rule's name and a part of the text.
 WRONG = (
     ("a button without a name", window(pressed("push button")), ["name: has no name"]),
     ("a name of blanks", window(pressed("push button", "  ")), ["name: has no name"]),
@@ -169,7 +169,7 @@ WRONG = (
      ["order: follows"]),
 )
 
-# And what is right, though it looks a little like the above.
+# Correct trees that resemble those above.
 RIGHT = (
     ("one of everything", right()),
     ("what is below", two((0, 130, 50, 20))),
@@ -218,7 +218,7 @@ def _told(finding):
 
 
 def _compare(name, found, due):
-    """The complaints about these findings."""
+    """Compares findings with the expected ones and yields the differences."""
     for words in due:
         hits = [told for told in found if words in told]
         if hits:
@@ -240,7 +240,7 @@ def _expectations():
     yield from _compare("half a name", told("Developer", "push button"), ["missing: nothing here is named \"Developer\""])
     yield from _compare("what is not there", told("Health", "page tab"), ["missing: nothing here is named \"Health\""])
     yield from _compare("a text of that name", told("Lens", "label"), [])
-    # What else has the name may be something else: a text beside it, say. A list, a progress and a dialog are not.
+    # Other roles may share the name, such as a label beside it, but not a list, a progress bar or a dialog.
     for role in ("list", "progress bar", "dialog"):
         other = window(made(role, "Files", description="1 of 2", states="modal"))
         found = [_told(finding) for finding in check_expected(other, [Expected(re.compile("Files"), frozenset({"slider"}))])]
@@ -289,13 +289,13 @@ def _values():
                         ((150, 60, 10, 9), False), ((149, 60, 10, 9), True)):
         if in_sight(scrolled(rect).children[0].children[0].children[0]) != shown:
             yield f"a row at {rect} is taken for {'scrolled out' if shown else 'in sight'}"
-    # Half of the lower one beside the other is no row yet.
+    # Rectangles that overlap by half their height do not share a row yet.
     if comes_before((0, 10, 10, 20), (20, 20, 10, 20)) or not comes_before((0, 9, 10, 20), (20, 10, 10, 20)):
         yield "rows begin elsewhere"
 
 
 def run(say):
-    """Whether all is as it should be; tells what is not."""
+    """Runs all tests, reports failures to `say`, and returns whether all passed."""
     complaints = []
     for name, tree, due in WRONG:
         complaints += _compare(name, [_told(finding) for finding in judge(tree)], due)

@@ -1,9 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""Runs the application on a made home, with a display, a session bus and an accessibility bus of its own.
+"""Runs the application on a sample home, with a display, a session bus and an accessibility bus of its own.
 
-Qt's `offscreen` platform does not connect to the accessibility bus, so the display is Xvfb and the platform `xcb`. Every
-process is a child of ours in a process group of its own, and is ended as such.
-"""
+Qt's `offscreen` platform does not connect to the accessibility bus, so the display is Xvfb and the platform `xcb`.
+Every process is a child of ours in its own process group, and is terminated with it."""
 import os
 import shutil
 import signal
@@ -15,16 +14,16 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent.parent
 LAUNCHERS = ("/usr/libexec/at-spi-bus-launcher", "/usr/lib/at-spi2-core/at-spi-bus-launcher")
-# As long as nobody waits for what will not come, on the busiest machine.
+# Long enough for the busiest machine, so that it only limits the wait for what never comes.
 START_SECONDS = 120
 
 
 class Unusable(Exception):
-    """Something of the system or of the application keeps the walk from being made."""
+    """The walk cannot run because of the system or the application."""
 
 
 class Session:
-    """Use as a context manager: the home, the display and the buses are there inside, and nothing of them afterwards."""
+    """A context manager: the home, the display and the buses exist only inside."""
 
     def __init__(self, program, scale=0.01):
         self.program = Path(program).resolve()
@@ -32,7 +31,7 @@ class Session:
         self.processes = []
 
     def __enter__(self):
-        # A timeout and a person at the keyboard both end the processes too.
+        # Terminate the processes also on a timeout or an interrupt.
         signal.signal(signal.SIGTERM, lambda *_: sys.exit(2))
         self.folder = Path(tempfile.mkdtemp(prefix="zelk-accessibility-"))
         self.log_path = self.folder / "log"
@@ -53,7 +52,7 @@ class Session:
         shutil.rmtree(self.folder, ignore_errors=True)
 
     def _end(self, process):
-        """The whole group, which may outlive its first process."""
+        """Terminates the whole process group, which may outlive its first process."""
         for sign in (signal.SIGTERM, signal.SIGKILL):
             try:
                 os.killpg(process.pid, sign)
@@ -73,7 +72,7 @@ class Session:
         return process
 
     def _spawn_announcing(self, *command):
-        """Starts a server that writes where it listens to the descriptor that stands for {}, and gives that."""
+        """Starts a server that writes its address to the descriptor given as {}, and returns the address."""
         reading, writing = os.pipe()
         try:
             process = self._spawn([word.format(writing) for word in command], pass_fds=[writing])
@@ -110,24 +109,24 @@ class Session:
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._spawn_announcing(
             "dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={}")
         self._start_accessibility()
-        # This process asks over the same buses. An address that it inherited would come first.
+        # This process uses the same buses. An inherited address would take precedence.
         os.environ.update(self.environment)
         os.environ.pop("AT_SPI_BUS_ADDRESS", None)
 
     def _start_window_manager(self):
-        """Without one no window is active, and keys go nowhere."""
+        """Without a window manager no window becomes active, and key presses go nowhere."""
         ready = self.folder / "managed"
         self._spawn(["openbox", "--sm-disable", "--startup", f"touch {ready}"])
         self._wait(ready.exists, "the window manager")
 
     def _start_accessibility(self):
         launcher = next(filter(os.path.exists, LAUNCHERS), LAUNCHERS[0])
-        # As a desktop with a screen reader has it, before the application is started.
+        # Before the application starts, as on a desktop with a screen reader.
         self._spawn([launcher, "--launch-immediately", "--a11y=1", "--screen-reader=1"])
         self._wait(self._enabled, "the accessibility bus")
 
     def _enabled(self):
-        """Whether applications are told that a screen reader is there."""
+        """Whether the bus tells applications that a screen reader is running."""
         from gi.repository import Gio, GLib
 
         flags = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
@@ -137,10 +136,10 @@ class Session:
             return bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Get", asked, None,
                                  Gio.DBusCallFlags.NO_AUTO_START, -1, None).unpack()[0]
         except GLib.Error:
-            return False  # not yet
+            return False  # not ready yet
 
     def start_application(self):
-        """Gives the process; its window is up once it is on the bus."""
+        """Starts the application and returns its process. Its window exists once it is on the bus."""
         self.environment.update(QT_QPA_PLATFORM="xcb", QT_QUICK_BACKEND="software",
                                 QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
         self.application = self._spawn([str(self.program)])

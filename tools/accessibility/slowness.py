@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Makes a survey of a small home last, so that what is told on the way can be heard: each read of a folder is delayed
-in the kernel's name, with strace. The application itself is as it is."""
+"""Slows a survey of a small home down, so that its progress can be observed: strace delays each read of a directory.
+The application itself is unchanged."""
 import contextlib
 import os
 import signal
@@ -10,7 +10,7 @@ import time
 
 from session import Unusable
 
-# On eight threads some 600 folders, each read twice, take about a minute.
+# With eight threads, some 600 folders that are each read twice take about a minute.
 DELAY_MICROSECONDS = 400_000
 
 
@@ -30,7 +30,7 @@ def slowed(process):
 
 
 def _wait_until_attached(process, tracer):
-    """All threads are traced before the first of them reads a folder."""
+    """Waits until all threads are traced, before the first one reads a folder."""
     tasks = f"/proc/{process.pid}/task"
     while tracer.poll() is None:
         traced = []

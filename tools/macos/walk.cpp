@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Surveys the given folders and prints what it counted. tools/macos_check links it against the system library alone,
-// which shows that the scan core is whole on macOS and needs nothing else.
+// Surveys the given folders and prints the counts. tools/macos_check links it with the system library only, which shows
+// that the scan core is complete on macOS and needs nothing else.
 #include <cstdio>
 #include <memory>
 #include <string>

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What is the same on every system: the person's own files, and a developer's projects."""
+"""The files that sample homes of all systems have: personal files and a developer's projects."""
 import os
 
 FIRST = "amber birch cedar delta ember fjord grove haven inlet jolly kite lumen maple north ocean pearl quill river stone " \
@@ -63,11 +63,11 @@ def documents(plan, folder):
     for level in range(30):
         deep += f"/{2000 + level % 26} {plan.random.choice(SECOND)}"
     plan.file(f"{deep}/the bottom.docx", 4, 1500)
-    # The same bytes under two names: counted once.
+    # Two names of the same file, counted once.
     plan.file(f"{folder}/Thesis/Thesis.zip", 74, 1200)
     plan.hard_link(f"{folder}/Thesis/Thesis as handed in.zip", f"{folder}/Thesis/Thesis.zip")
     plan.symbolic_link(f"{folder}/Latest thesis", "Thesis/Thesis.zip")
-    # These come and go with --grow, which works at every scale because they are never smaller.
+    # Removed and restored by --grow, which works at every scale because these are never smaller.
     plan.file(f"{folder}/Moving house/Inventory with pictures.pdf", 34, 330, least=26)
     plan.file(f"{folder}/Moving house/Contract.pdf", 2, 330)
 
@@ -92,7 +92,7 @@ def packages(plan, folder, count, megabytes, days):
 
 
 def projects(plan, folder):
-    """Everything that is told by its name alone, on every system."""
+    """Projects with everything that is recognised by its name alone, on every system."""
     shop = f"{folder}/lantern-shop"
     plan.text(f"{shop}/package.json", '{"name": "lantern-shop"}\n', 2)
     packages(plan, f"{shop}/node_modules", 70, 140, 12)
@@ -119,7 +119,7 @@ def projects(plan, folder):
     plan.many(f"{lab}/__pycache__", 6, 1, lambda n: f"module{n}.cpython-311.pyc", (60, 61))
     plan.many(f"{lab}/.venv/lib/python3.11/site-packages/numbers_kit", 20, 130, lambda n: f"part{n}.so", (60, 70))
     plan.aged(lab, 60)
-    # A "target" that no Cargo.toml stands beside is somebody's own folder.
+    # A "target" without a Cargo.toml beside it is not a build folder.
     plan.many(f"{folder}/archery/target", 5, 12, lambda n: f"score {n}.csv", (20, 300))
     plan.many(f"{folder}/tides/.git/objects/pack", 2, 24, lambda n: f"pack-{n}.pack", (20, 40))
     for path in (f"{shop}/node_modules", f"{shop}/.next", f"{shop}/.turbo", f"{old}/node_modules", f"{old}/.vercel",

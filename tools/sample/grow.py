@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What happens between two surveys: folders grow, one appears, one goes. The same at every scale."""
+"""Changes a sample home as between two surveys: folders grow, one appears, one vanishes. The same at every scale."""
 import os
 import shutil
 
@@ -7,7 +7,7 @@ from .plan import Made, Plan
 
 
 def grow(root, known, now):
-    """Changes the home once more and gives a line for each change; `known` is what its marker says."""
+    """Changes the home once more and returns a line per change. `known` is the content of its marker."""
     known["grown"] += 1
     number = known["grown"]
     films = "Movies" if known["system"] == "macos" else "Videos"
@@ -15,7 +15,7 @@ def grow(root, known, now):
     plan.file(f"{films}/New film {number}.mp4", 180 + number, 0.2)
     plan.file(f"Downloads/New installer {number}.iso", 75 + number, 0.1)
     plan.file(f"Documents/Conference {number}/Recording.m4a", 45 + number, 0.3)
-    # The walk that dates a whole home would date what was there already, so each is made by itself.
+    # Makes each file directly, since Plan.make() would also set the dates of everything else.
     made = Made()
     for path, entry in plan.entries.items():
         full = os.path.join(root, path)

@@ -1,14 +1,14 @@
 # SPDX-License-Identifier: MIT
-"""The records of earlier surveys, as the application itself would have left them."""
+"""Writes the records of earlier surveys in the application's own format."""
 import json
 import os
 import random
 
 DAY = 86_400
-EPOCH = 978_307_200  # 2001-01-01, from which the file counts
+EPOCH = 978_307_200  # 2001-01-01, the epoch of the dates in the file
 RECORDS = 14
-WITHOUT_FOLDERS = 3  # the oldest, from before folders were noted
-LEAST = 20_000_000  # bytes of a folder that is noted
+WITHOUT_FOLDERS = 3  # the oldest records, from before folders were recorded
+LEAST = 20_000_000  # the minimum bytes of a recorded folder
 MOST = 400
 
 TYPES = {
@@ -28,7 +28,8 @@ def type_of(name):
 
 
 def count(root):
-    """Allocated bytes by folder and by type, a file of several names once, folders' own blocks not at all."""
+    """Allocated bytes by folder and by type. Counts a file with several names once, and not the blocks of folders
+    themselves."""
     sizes, types, seen = {}, {}, set()
     for folder, below, files in os.walk(root, topdown=False):
         total = 0
@@ -68,7 +69,7 @@ def records(root, known, now):
     days = [0.25]
     while len(days) < RECORDS:
         days.append(days[-1] + chance.uniform(6, 15))
-    # At this rate the disk is full in about 190 days, or as soon as its use allows.
+    # At this rate the disk is full in about 190 days, or later if too little is used for that.
     rate = min(free / 190, used * 0.6 / days[-1])
     all_records = []
     for place, age in enumerate(reversed(days)):
@@ -93,7 +94,7 @@ def write(root, known, now):
     os.makedirs(folder, exist_ok=True)
     path = os.path.join(folder, "history.json")
     if os.path.exists(path):
-        os.unlink(path)  # its own bytes are not in the figures, so that they stay the same when it is written again
+        os.unlink(path)  # so that its own bytes are not counted
     written = records(root, known, now)
     with open(path, "w", encoding="utf-8") as file:
         json.dump(written, file, separators=(",", ":"), ensure_ascii=False)

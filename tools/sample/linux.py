@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
-"""The home of a Linux desktop."""
+"""The sample home of a Linux desktop."""
 import os
 import time
 from urllib.parse import quote
 
 from . import common
 
-SHARE = 0.75  # brings the megabytes below, which come to 8 GB, to about 6 GB
+SHARE = 0.75  # scales the megabytes below, which sum to 8 GB, to about 6 GB
 
 BROWSERS = (
     (".cache/mozilla/firefox/k3x9.default-release/cache2/entries", ".mozilla/firefox/k3x9.default-release",
@@ -18,7 +18,7 @@ BROWSERS = (
     (".cache/microsoft-edge/Default/Cache/Cache_Data", ".config/microsoft-edge/Default", ("History", "Cookies"), 26),
 )
 
-# What its desktop entry calls it, its own folder's name, megabytes of settings, of data and of cache.
+# The name in the desktop entry, the folder's name, and megabytes of settings, data and cache.
 APPLICATIONS = (("Inkwell", "inkwell", 2, 46, 30), ("Sonata", "sonata", 1, 24, 64), ("Tidepool", "tidepool", 1, 90, 12),
                 ("Papercrane", "papercrane", 3, 8, 5))
 
@@ -43,7 +43,7 @@ def applications(plan):
         plan.file(f".config/{folder}/settings.db", settings, 9)
         plan.many(f".local/share/{folder}", 6, data, lambda n: f"library-{n}.db", (3, 200))
         plan.many(f".cache/{folder}", 8, cache, lambda n: f"{n:04x}.cache", (1, 60))
-    # Left behind by an application that is gone.
+    # Left over from a removed application.
     plan.many(".config/gone-editor", 5, 14, lambda n: f"state{n}.db", (900, 1000))
     plan.many(".var/app/org.sample.Orrery/data", 6, 34, lambda n: f"sky-{n}.map", (20, 300))
     plan.many(".var/app/org.sample.Orrery/cache", 6, 22, lambda n: f"tile-{n}", (2, 80))
@@ -90,7 +90,7 @@ def fill(plan):
     plan.text(".config/user-dirs.dirs", 'XDG_DOWNLOAD_DIR="$HOME/Downloads"\nXDG_VIDEOS_DIR="$HOME/Videos"\n', 900)
     plan.many(".local/share/pnpm/store/v3/files", 30, 90, lambda n: f"{n:02x}/{n * 101:08x}", (2, 200))
     plan.cleanable(".local/share/pnpm/store")
-    # A package manager's store shares its bytes with the projects that use them.
+    # A package manager's store has hard links to the projects that use it.
     stored = [path for path in plan.entries if path.startswith(".local/share/pnpm/store/")][:10]
     for number, path in enumerate(stored):
         plan.hard_link(f"Projects/field-notes-app/node_modules/.pnpm/shared-{number}/index.js", path)

@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
-"""The home of a Mac."""
+"""The sample home of a Mac."""
 import plistlib
 
 from . import common
 
-SHARE = 0.6  # brings the megabytes below, which come to 10 GB, to about 6 GB
+SHARE = 0.6  # scales the megabytes below, which sum to 10 GB, to about 6 GB
 
-LIBRARY_ITEMS = (  # each one thing to reclaim: folder, files, megabytes, name, days
+LIBRARY_ITEMS = (  # each one reclaimable item: folder, files, megabytes, name, days
     ("Developer/Xcode/DerivedData", 30, 320, "Tides-{:04x}/Build/Products/part{}.o", (1, 40)),
     ("Developer/Xcode/iOS DeviceSupport", 8, 210, "iPhone15,2 17.{} ({:x})/Symbols/cache", (200, 500)),
     ("Developer/CoreSimulator/Devices", 10, 180, "{:08X}-0000/data/image{}.bin", (100, 400)),
@@ -33,7 +33,7 @@ BROWSER_FILES = (("Safari/History.db", 18), ("Safari/History.db-wal", 3), ("Safa
                  ("Application Support/Google/Chrome/Default/Cookies", 4),
                  ("Application Support/com.apple.sharedfilelist/recent.sfl2", 0.2))
 
-# Bundle size, then that of what it keeps elsewhere.
+# Megabytes of the bundle, and of its files elsewhere.
 APPLICATIONS = (("Inkwell", 140, 60), ("Sonata", 96, 110), ("Tidepool", 210, 24), ("Papercrane", 44, 6))
 
 
@@ -62,7 +62,7 @@ def browsers(plan):
 
 
 def applications(plan):
-    """Bundles in the home's own folder; what they keep lies where an uninstaller looks for it."""
+    """Application bundles in the home's Applications folder, with their files where an uninstaller looks for them."""
     for name, bundle, kept in APPLICATIONS:
         identifier = f"org.sample.{name.lower()}"
         inside = f"Applications/{name}.app/Contents"

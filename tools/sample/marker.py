@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The file by which a sample home is known again, so that nothing else is ever changed."""
+"""The file that marks a sample home, so that nothing else is ever changed."""
 import json
 import os
 

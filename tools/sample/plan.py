@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What is to be made, collected first and made then, so that its size is known before the disk is touched."""
+"""Collects what to create before creating it, so that the size is known before the disk is touched."""
 import os
 import random
 from dataclasses import dataclass, field
@@ -17,7 +17,7 @@ class Made:
 
 
 def reserve(fd, size, notes):
-    """Gives an open file its size with blocks to it, and without writing them."""
+    """Allocates the blocks of an open file without writing them."""
     try:
         os.posix_fallocate(fd, 0, size)
     except (AttributeError, OSError):
@@ -35,14 +35,14 @@ class Plan:
         self.scale = scale
         self.now = now
         self.random = random.Random(seed)
-        self.reclaimable = []  # the paths that a survey will call so, for the history
+        self.reclaimable = []  # paths that a survey will call reclaimable, for the history
         self.bytes = 0
-        self.entries = {}  # path -> what makes it, in order
+        self.entries = {}  # path -> how to make it, in order
         self.sizes = set()
-        self.ages = {}  # folder -> days, where it is not that of what it holds
+        self.ages = {}  # folder -> days, if it differs from the age of its contents
 
     def scaled(self, megabytes, least=0.0):
-        """Bytes, unlike those of every other large file: equal sizes make candidates for duplicates."""
+        """Bytes that no other large file has: equal sizes would make them candidates for duplicates."""
         size = max(int(max(megabytes * self.scale, least) * MB), 1)
         while size > MB and size in self.sizes:
             size += 512
@@ -50,13 +50,13 @@ class Plan:
         return size
 
     def file(self, path, megabytes=0.01, days=30.0, least=0.0):
-        """`least` megabytes are not scaled away."""
+        """At least `least` megabytes, at any scale."""
         size = self.scaled(megabytes, least)
         self.bytes += -(-size // BLOCK) * BLOCK
         self.entries[path] = ("file", size, days, path)
 
     def copy(self, path, of, days=30.0):
-        """The same bytes again."""
+        """A copy of another file, with the same bytes."""
         kind, size, _, head = self.entries[of]
         assert kind == "file"
         self.bytes += -(-size // BLOCK) * BLOCK
@@ -79,14 +79,14 @@ class Plan:
         self.entries[path] = ("link", target)
 
     def aged(self, path, days):
-        """The date of a folder, whatever it holds."""
+        """Sets the date of a folder, independent of its contents."""
         self.ages[path] = days
 
     def cleanable(self, path):
         self.reclaimable.append(path)
 
     def many(self, folder, count, megabytes, name, days=(2, 400)):
-        """`count` files of uneven size that come to `megabytes`; `name` makes a path of a number."""
+        """`count` files of varying size, `megabytes` in total. `name` makes a path from a number."""
         shares = [self.random.uniform(0.4, 1.6) for _ in range(count)]
         for number, share in enumerate(shares):
             self.file(f"{folder}/{name(number)}", megabytes * share / sum(shares), self.random.uniform(*days))
@@ -105,7 +105,7 @@ class Plan:
                 os.makedirs(os.path.dirname(full), exist_ok=True)
                 self.make_one(full, entry, made)
             except OSError as error:
-                # A Mac's file system refuses a name that is no text; a home without it is as good there.
+                # macOS file systems refuse names that are not UTF-8. The home works as well without them.
                 made.notes.append(f"left out {path!r}: {error.strerror}")
                 continue
             made.files += 1
@@ -127,13 +127,13 @@ class Plan:
                 os.write(fd, entry[1])
                 return
             reserve(fd, entry[1], made.notes)
-            # Two files of one size are only the same if one was made as a copy of the other.
+            # Makes files of the same size differ unless one is a copy of the other.
             os.write(fd, os.fsencode(entry[3])[:entry[1]])
         finally:
             os.close(fd)
 
     def date(self, root, dates, made):
-        """Every file its own date, every folder that of the newest thing in it."""
+        """Sets the date of every file, and of every folder that of its newest content."""
         ages = {os.path.join(root, os.fsencode(path)): days for path, days in self.ages.items()}
         newest = {}
         for folder, below, files in os.walk(root, topdown=False):

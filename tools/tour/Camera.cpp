@@ -29,7 +29,7 @@ bool isBlank(const QImage& picture) {
 }  // namespace
 
 void waitUntil(const std::function<bool()>& done) {
-    // What is awaited may change without an event. (With a time of its own the loop would not wait at all.)
+    // `done` may change without an event. (With a time limit, processEvents() would not wait at all.)
     QTimer wake;
     wake.start(20);
     while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Hands and eyes for the real window: presses as the system would send them, and pictures of what is shown.
+// Drives the real window with input events and takes pictures of it.
 #pragma once
 
 #include <QImage>
@@ -10,27 +10,27 @@
 
 namespace zelk::tour {
 
-/// Turns the event loop until `done`.
+/// Runs the event loop until `done` returns true.
 void waitUntil(const std::function<bool()>& done);
 
-/// The visible item with this object name, anywhere in the window; nullptr if there is none.
+/// The visible item with this object name anywhere in the window; nullptr if there is none.
 QQuickItem* findControl(QQuickWindow& window, const QString& name);
 
-/// Whether there is one in the next frame, which lays out what a model brings.
+/// Whether the item exists after the next frame, which lays out what models changed.
 bool appears(QQuickWindow& window, const char* name);
 
-/// A press with the mouse at a point of the window.
+/// Clicks at a point of the window.
 void clickAt(QQuickWindow& window, QPointF point);
 
-/// A press with the mouse in the middle of the control. False if it is not there.
+/// Clicks the centre of the item. False if there is none.
 bool clickOn(QQuickWindow& window, const QString& name);
 
-/// Takes the pointer off every control.
+/// Moves the pointer off all controls.
 void restPointer(QQuickWindow& window);
 
 void pressKey(QQuickWindow& window, Qt::Key key);
 
-/// Writes a PNG. False if it cannot be written or if all of it has one colour.
+/// Writes a PNG. False if that fails or if the picture has a single colour.
 bool save(const QImage& picture, const QString& file);
 
 }  // namespace zelk::tour

@@ -10,18 +10,18 @@
 
 namespace zelk::tour {
 
-/// The real file system, with a gate: the readers of a survey stand still once they have delivered a number of entries,
-/// so that there is time for a picture of a survey under way. Threads may use it until the survey's threads have ended.
+/// The real file system, with readers that pause after a number of entries, for pictures of a running survey. Threads
+/// may use it until the survey's threads have ended.
 class PausingDirectories : public DirectoryService {
 public:
     explicit PausingDirectories(DirectoryService& real) : real_(real) {}
 
-    /// From now on the readers stop when `entries` more have been delivered; those that stand at the gate go on.
+    /// Resumes paused readers, and pauses again after `entries` more.
     void pauseAfter(std::int64_t entries);
     void resume();
-    /// From now on each folder has `files` empty ones more: a small home becomes one whose survey takes its time.
+    /// Adds `files` empty files to each folder, so that a survey of a small home takes longer.
     void crowd(std::size_t files) { crowd_ = files; }
-    /// Whether a reader stands at the gate.
+    /// Whether a reader is paused.
     bool paused();
 
     std::optional<RootStatus> status(const std::string& path) override { return real_.status(path); }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a program hands to the application that presses every button and may change nothing: these say that it was done.
+// Services for a tour that presses every button but must not change anything: they only report success.
 #pragma once
 
 #include <condition_variable>
@@ -17,14 +17,14 @@
 
 namespace zelk::tour {
 
-/// What the Trash is said to hold.
+/// The contents of the Trash to report.
 enum class TrashContents { real, none, locked };
 
-/// How the pretended deeds go: they wait for as long as somebody wants a picture of them under way, and fail where one
-/// of a failure is wanted. From any thread.
+/// Controls the pretending services: they can wait, for a picture of work in progress, and can fail. Safe from any
+/// thread.
 class Pretence {
 public:
-    /// After so many more have passed.
+    /// Makes operations wait, after the next `passing` ones.
     void hold(std::size_t passing = 0) {
         const std::lock_guard lock(mutex_);
         held_ = true;
@@ -33,10 +33,10 @@ public:
     void release() { set(held_, false); }
     void fail(bool failing) { set(failing_, failing); }
     void setTrash(TrashContents contents) { set(trash_, contents); }
-    /// The clock goes back by so many days.
+    /// Sets the clock back by a number of days.
     void goBack(double days) { set(daysBack_, days); }
 
-    /// Whether the deed went well.
+    /// Called by each operation: waits while held, and returns whether it succeeds.
     bool pass() {
         std::unique_lock lock(mutex_);
         changed_.wait(lock, [this] { return !held_ || passing_ > 0; });
@@ -132,7 +132,7 @@ private:
     Pretence& pretence_;
 };
 
-/// An application runs whose caches the sample homes have. Nothing is opened from here.
+/// Reports an application as running whose caches are in the sample homes. Opens nothing.
 class PretendingWorkspace : public Workspace {
 public:
     explicit PretendingWorkspace(Workspace& real) : real_(real) {}

@@ -21,13 +21,13 @@ bool isOfQml(const QMessageLogContext& context, const QString& text) {
            text.contains(QStringLiteral("qrc:"));
 }
 
-/// The platform without a display says so of every window that is brought forward, and has no system tray.
+/// The offscreen platform warns of every window that is raised, and has no system tray.
 bool isOfPlatform(const QString& text) {
     return text.startsWith(QStringLiteral("This plugin does not support ")) ||
            text.contains(QStringLiteral("QPlatformNativeInterface::systemTrayWindowChanged"));
 }
 
-/// The engine writes the place into the text; what a script prints has it beside.
+/// The QML engine includes the location in the text, but console messages have it only in the context.
 QString withPlace(const QMessageLogContext& context, const QString& text) {
     if (context.file == nullptr || text.contains(QStringLiteral(".qml:"))) return text;
     return QStringLiteral("%1:%2: %3").arg(QString::fromUtf8(context.file)).arg(context.line).arg(text);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What Qt and the QML engine complain about. They print it and go on, so a screen may be empty without anything
-// failing: whoever drives the window for a test or a picture asks here, and fails.
+// Collects the warnings of Qt and the QML engine. They only print them, so a screen could be empty without anything
+// failing: tests and tools that drive the window check here.
 #pragma once
 
 #include <QString>
@@ -8,11 +8,11 @@
 
 namespace zelk::tour {
 
-/// From now on every warning and error of Qt, and every message of the QML engine of whatever kind, is kept as well as
-/// printed; but what the platform without a display says of itself is neither. Threads may complain at any time.
+/// From now on collects, and still prints, all warnings and errors of Qt and all messages of the QML engine. Drops
+/// those that the offscreen platform prints about itself. Messages may come from any thread.
 void keepQtMessages();
 
-/// Those kept since the last call, each beginning with the file and line it speaks of where that is known.
+/// The messages since the last call, each starting with its file and line if known.
 QStringList takeQtMessages();
 
 }  // namespace zelk::tour

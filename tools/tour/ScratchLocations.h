@@ -10,8 +10,8 @@
 
 namespace zelk::tour {
 
-/// The user's real home, and a folder of our own to write to, which is thrown away: a program that only looks leaves no
-/// survey in the user's history. With `withRecords` what the history holds is in it at the start.
+/// The user's real home, with a temporary folder for application data, so that the tour leaves no survey in the user's
+/// history. With `withRecords` the folder starts with a copy of the history.
 class ScratchLocations : public Locations {
 public:
     ScratchLocations(Locations& real, bool withRecords) : real_(real) {

@@ -21,7 +21,7 @@ namespace zelk::tour {
 
 namespace {
 
-// Behind the second report of a survey's progress, so that the picture has figures.
+// After the second progress update of a survey, so that the picture has numbers.
 constexpr std::int64_t midScanEntries = 60'000;
 // A sample home has some hundred folders.
 constexpr std::size_t crowdOfSample = 200;
@@ -31,7 +31,7 @@ constexpr QSize leastSize(960, 620);
 
 const QString scanButton = QStringLiteral("scanButton");
 
-/// As at the first start of all. What is answered is forgotten with it.
+/// As on the first start. Answers are not stored.
 class NothingAnswered : public Preferences {
 public:
     bool flag(const std::string& key) override { return flags_[key]; }
@@ -41,7 +41,7 @@ private:
     std::map<std::string, bool> flags_;
 };
 
-/// For pictures only: nothing is opened from here.
+/// Opens nothing, since only pictures are wanted.
 class QuietWorkspace : public Workspace {
 public:
     std::vector<std::string> runningApplications() override { return {}; }
@@ -54,7 +54,7 @@ public:
 Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, TourPlan plan)
     : app_(app), directories_(directories), pretence_(pretence), plan_(std::move(plan)), window_(app) {
     app_.setAppearance(plan_.dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
-    // A picture shows where things come to rest, not a moment on their way.
+    // Pictures must not show the middle of an animation.
     window_.motion().setReduced(true);
     window_.window().resize(plan_.size);
     window_.show();
@@ -78,7 +78,7 @@ bool Tour::gallery() {
     return taken;
 }
 
-/// From the results of the last survey back to the start.
+/// Returns from the results of the last survey to the initial state.
 bool Tour::idle() {
     if (!go(Screen::survey)) return false;
     app_.cancelScan();
@@ -93,8 +93,8 @@ bool Tour::heroes() {
     return go(Screen::survey);
 }
 
-/// Its beginning, a moment on the way, called off, and one to the end: in one theme by the pointer, in the other by the
-/// keyboard.
+/// Starts a survey, cancels it, and runs another to the end; with the pointer in one theme and the keyboard in the
+/// other.
 bool Tour::survey() {
     directories_.pauseAfter(0);
     if (!pressScan(plan_.dark)) return missed("the scan button");
@@ -116,7 +116,7 @@ bool Tour::pressScan(bool withKeyboard) {
     return true;
 }
 
-/// With figures, for which there must be a tree of some size.
+/// Shows numbers, for which the tree must have some size.
 bool Tour::underWay() {
     if (plan_.complete) directories_.crowd(crowdOfSample);
     directories_.pauseAfter(midScanEntries);
@@ -136,7 +136,7 @@ bool Tour::underWay() {
     return taken;
 }
 
-/// What was found, from the top to the foot.
+/// The results, from top to bottom.
 bool Tour::findings() {
     window_.survey().appear();
     waitUntil([this] { return !app_.trashLoading(); });
@@ -152,7 +152,7 @@ bool Tour::findings() {
     return true;
 }
 
-/// What the overview says of the Trash.
+/// The Trash banner in all its states.
 bool Tour::trash() {
     const auto measure = [this](TrashContents contents, const std::function<bool()>& seen) {
         pretence_.setTrash(contents);
@@ -160,7 +160,7 @@ bool Tour::trash() {
         waitUntil(seen);
     };
     measure(TrashContents::locked, [this] { return !app_.trashAccessible(); });
-    // Its row may be below the window's edge, where the keyboard brings it into sight.
+    // The banner may be out of view; focusing its button scrolls there.
     if (!appears(window_.window(), "trashButton")) return missed("the row of the Trash");
     findControl(window_.window(), QStringLiteral("trashButton"))->forceActiveFocus(Qt::OtherFocusReason);
     if (!picture(QStringLiteral("trash-locked"))) return false;
@@ -184,7 +184,7 @@ bool Tour::trash() {
     return emptying || missed("the emptying of the Trash");
 }
 
-/// The walk into the largest folder, what is ticked on the way, and what a folder is.
+/// Enters the largest folder, selects folders on the way, and opens an explanation.
 bool Tour::lens() {
     if (!go(Screen::lens) || !appears(window_.window(), "lensList")) return missed("the folders");
     QQuickWindow& window = window_.window();
@@ -209,7 +209,7 @@ bool Tour::lens() {
     return taken && clickOn(window, QStringLiteral("lensStartOver")) && lensMap() && go(Screen::survey);
 }
 
-/// Where the survey before this one found other sizes.
+/// Needs a previous survey with other sizes.
 bool Tour::changes() {
     TrendsModel& trends = *window_.survey().trends();
     if (!trends.hasChanges()) return missing("what changed since the last survey");
@@ -220,7 +220,7 @@ bool Tour::changes() {
     return taken && (!trends.showChanges() || missed("the end of the sheet"));
 }
 
-/// The heaviest files in either order, those of one type, and what can be done to one.
+/// The large files in both orders, filtered by type, and the context menu.
 bool Tour::clutter() {
     if (!go(Screen::clutter) || !appears(window_.window(), "clutterList")) return missed("the heaviest files");
     if (!picture(QStringLiteral("clutter-largest"))) return false;
@@ -244,7 +244,7 @@ bool Tour::clutter() {
            go(Screen::survey);
 }
 
-/// Several folders to survey, one with a name of some length, and none chosen.
+/// Several scan roots, one with a long name, and none.
 bool Tour::roots() {
     const std::vector<std::string> before = app_.scanRoots();
     std::vector<std::string> several = before;
@@ -323,14 +323,14 @@ bool Tour::smallAndLarge() {
     return taken && go(Screen::survey);
 }
 
-/// Where the keyboard is: around the button, which is where a ring stands out least.
+/// The focus ring around the scan button, where it is hardest to see.
 bool Tour::focus() {
     app_.cancelScan();
     findControl(window_.window(), scanButton)->forceActiveFocus(Qt::TabFocusReason);
     return picture(QStringLiteral("survey-focus"));
 }
 
-/// A survey of a folder in which there is nothing.
+/// A survey of an empty folder.
 bool Tour::nothingFound() {
     const QTemporaryDir empty;
     surveyOnly(empty.path());
@@ -351,13 +351,13 @@ bool Tour::go(Screen screen) {
     return (clickOn(window_.window(), row) && app_.selection() == screen) || missed(qPrintable(row));
 }
 
-/// Always false.
+/// Prints a message and returns false.
 bool Tour::missed(const char* what) const {
     std::fprintf(stderr, "tour: missed %s in the %s theme\n", what, plan_.dark ? "dark" : "light");
     return false;
 }
 
-/// What not every disk has: missed only where it must be there.
+/// For states that not every disk has: missed() only if the plan is complete.
 bool Tour::missing(const char* what) const {
     return !plan_.complete || missed(what);
 }

@@ -11,22 +11,22 @@
 
 namespace zelk::tour {
 
-/// Where a tour's pictures go, and what it is a tour of.
+/// Where to save the pictures, and what to show.
 struct TourPlan {
     QString folder;
     QSize size;     ///< of the window
     bool dark;      ///< the theme
-    bool complete;  ///< there is something for every state: one that does not come is missed
+    bool complete;  ///< every state must be available; otherwise those that are not are skipped
 };
 
-/// One walk through the application with its pictures. It prints each picture's path.
+/// Walks through the application once, takes pictures and prints their paths.
 class Tour {
 public:
-    /// Everything must outlive it.
+    /// All references must outlive it.
     Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, TourPlan plan);
 
-    /// Every screen, window and sheet, every phase of a survey, large text and little room, and every component. False
-    /// if something was missed or a picture could not be taken.
+    /// Shows every screen, window and sheet, every phase of a survey, large text, the smallest window, and the gallery.
+    /// False if something was missed or a picture could not be taken.
     bool run();
 
 private:

@@ -13,17 +13,17 @@ namespace zelk::tour {
 
 namespace {
 
-// The entries of the menu of the categories.
+// Entries of the category menu.
 constexpr int allOfThem = 0;
 constexpr int noneOfThem = 2;
 
-// Days, more than anything on a disk is old.
+// Days; more than the age of anything on a disk.
 constexpr double longAgo = 36'500;
 constexpr int cacheBytes = 1 << 20;
 
 }  // namespace
 
-/// Both ways to look at what can be taken back, and a clean-up of it.
+/// Both views of the reclaimable items, and a clean-up.
 bool Tour::reclaim() {
     if (!go(Screen::reclaim) || !picture(QStringLiteral("reclaim-categories"))) return false;
     if (app_.reclaimables().empty()) return missing("something to reclaim") && go(Screen::survey);
@@ -58,7 +58,7 @@ bool Tour::items() {
     return taken;
 }
 
-/// Those that are old, and a day on which none is.
+/// Items filtered by age, and a filter that leaves none.
 bool Tour::youngItems(ItemList& list) {
     const int age = list.ageDays();
     list.setAgeDays(list.mostAgeDays());
@@ -72,7 +72,7 @@ bool Tour::youngItems(ItemList& list) {
     return taken;
 }
 
-/// Caches of applications one of which runs: folders as a Mac has them.
+/// Caches of applications, one of which is running, in the folders of a Mac.
 bool Tour::keptItem() {
     const QTemporaryDir home;
     const QDir support(home.filePath(QStringLiteral("Library/Application Support")));
@@ -86,7 +86,7 @@ bool Tour::keptItem() {
     app_.setAudience(AppModel::Audience::developer);
     if (!go(Screen::reclaim) || !appears(window_.window(), "itemList")) return missed("the caches");
     ItemList& list = *window_.reclaim().items();
-    list.setAgeDays(0);  // they are new
+    list.setAgeDays(0);  // the files were just created
     list.setOpen(0, true);
     const auto isKept = [&list](int row) {
         return list.data(list.index(row), ItemList::lineRole).toString().startsWith(QStringLiteral("quit "));
@@ -99,7 +99,7 @@ bool Tour::keptItem() {
     return taken;
 }
 
-/// The sheet in all its phases: of a clean-up where everything fails, and of one where all goes well.
+/// The clean-up sheet in all phases, once with every item failing and once with success.
 bool Tour::cleanUp() {
     QQuickWindow& window = window_.window();
     const auto open = [&] {
@@ -114,7 +114,7 @@ bool Tour::cleanUp() {
     if (!clickOn(window, QStringLiteral("permanentSwitch"))) return missed("the switch");
     if (!picture(QStringLiteral("clean-up-permanent"))) return false;
     clickOn(window, QStringLiteral("permanentSwitch"));
-    // Half of it is done while the pictures are taken.
+    // Holds the clean-up half way while the pictures are taken.
     const std::size_t half = window_.reclaim().dryRun()->rows()->items().size() / 2;
     pretence_.hold(half);
     pretence_.fail(true);

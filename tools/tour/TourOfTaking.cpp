@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a map shows of the pointer and of the keyboard, and what is left of a list when something was taken from it.
+// The bubble map with hover and focus, and lists after removals.
 #include <QQuickItem>
 #include <QTest>
 
@@ -8,7 +8,7 @@
 
 namespace zelk::tour {
 
-/// The largest bubble lies in the middle.
+/// The largest bubble is in the middle.
 bool Tour::lensMap() {
     QQuickWindow& window = window_.window();
     if (!appears(window, "lensMap")) return missed("the map of the folders");
@@ -20,7 +20,7 @@ bool Tour::lensMap() {
     return picture(QStringLiteral("lens-map-focus"));
 }
 
-/// The last row of the folders, and all files of one type.
+/// Removes the last row of the folders, and all files of one type.
 bool Tour::taking() {
     QQuickWindow& window = window_.window();
     if (!go(Screen::lens) || !appears(window, "lensList")) return missed("the folders");

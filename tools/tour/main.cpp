@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 // tour --out DIR --root PATH [--home DIR] [--size WxH]: runs the real window on the real file system without a display,
-// presses its buttons, and leaves a picture of every screen and state in both themes in DIR, and of the gallery of the
-// components. Nothing is taken away: what the pressed buttons ask for is only said to be done. The history is left
-// alone: that of the tour goes to a folder that is thrown away. With --home records and Trash are those of a home made
-// by `tools/sample_home --history`. There is something for every state in it, so there the tour fails if it misses one;
-// elsewhere it passes over what the disk does not have. It fails too where Qt or the QML engine has anything to warn
-// of.
+// presses its buttons, and saves a picture of every screen and state in both themes in DIR, and of the gallery. Nothing
+// is removed: the services only report success. The tour's history goes to a temporary folder. With --home, history and
+// Trash are those of a home made by `tools/sample_home --history`, which has something for every state: the tour then
+// fails if it misses one. Otherwise it skips what the disk does not have. It also fails if Qt or the QML engine prints
+// a warning.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -35,13 +34,13 @@ QSize sizeFrom(const QString& text) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
-    // What tells where the user's things are must be in place before anything asks.
+    // Set before anything reads the user's locations.
     for (int i = 1; i + 1 < argc; ++i) {
         if (std::strcmp(argv[i], "--home") != 0) continue;
         qputenv("HOME", QDir(QString::fromLocal8Bit(argv[i + 1])).absolutePath().toLocal8Bit());
         qunsetenv("XDG_DATA_HOME");
     }
-    // Nobody is logged in where there is no display, and Qt warns of what a login brings.
+    // Without a login there is no runtime folder, and Qt warns about that.
     const QTemporaryDir runtime;
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     zelk::tour::keepQtMessages();
@@ -77,7 +76,7 @@ int main(int argc, char** argv) {
     zelk::tour::PretendingFiles files(real.files);
     zelk::tour::PretendingProcesses processes;
     zelk::tour::PretendingWorkspace workspace(real.workspace);
-    // Each theme has the records as they were found, so that its survey has the same to tell.
+    // Each theme starts with the original history, so that its survey shows the same changes.
     zelk::tour::ScratchLocations forDark(real.locations, sample);
     zelk::tour::ScratchLocations forLight(real.locations, sample);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The states of UndoBar.
 pragma ComponentBehavior: Bound
 
 import QtQuick

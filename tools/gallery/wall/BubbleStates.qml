@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The states of BubbleChart.
 pragma ComponentBehavior: Bound
 
 import QtQuick

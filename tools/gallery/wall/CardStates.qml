@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The states of all cards.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The states of switches, check boxes, sliders and the like.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -49,7 +50,7 @@ Section {
         filling: true
 
         StepperField {
-            // Where the button for more is.
+            // The position of the "+" button, as a share of the width.
             property real pointAt: 0.94
 
             label: "Days"

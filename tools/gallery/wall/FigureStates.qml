@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Headers, charts and numbers with different data.
 pragma ComponentBehavior: Bound
 
 import QtQuick

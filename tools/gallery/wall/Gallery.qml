@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The whole gallery: all sections below each other.
 pragma ComponentBehavior: Bound
 
 import QtQuick

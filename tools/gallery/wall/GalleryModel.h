@@ -12,7 +12,7 @@
 
 namespace zelk {
 
-/// What the components of the gallery show.
+/// Sample data for the controls of the gallery.
 class GalleryModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -33,17 +33,17 @@ public:
     explicit GalleryModel(QObject* parent = nullptr);
 
     BubbleModel* bubbles() { return &bubbles_; }
-    /// Without icons.
+    /// The same without icons.
     BubbleModel* plainBubbles() { return &plainBubbles_; }
     BubbleModel* noBubbles() { return &noBubbles_; }
-    /// A name as long as some are.
+    /// As long as the longest realistic names.
     QString longText() const;
     DeviceFace device() const;
     DeviceFace longDevice() const;
-    /// Without what is known of its drive.
+    /// Without information about the drive.
     DeviceFace bareDevice() const;
     ModuleScreenModel* module() { return &module_; }
-    /// With a note in the place of the button.
+    /// With a note instead of the button.
     ModuleScreenModel* silentModule() { return &silentModule_; }
     QList<RibbonSegment> segments() const;
     qint64 freeBytes() const { return 212'400'000'000; }

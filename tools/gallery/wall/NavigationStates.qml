@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The states of the sidebar and of module headers and start pages.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// Open menus, sheets and tool tips.
 pragma ComponentBehavior: Bound
 
 import QtQuick

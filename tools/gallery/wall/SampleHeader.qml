@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A header with something at its right. (What the header makes elsewhere must not be bound to this file.)
+// A ModuleHeader with a trailing control. (Not `ComponentBehavior: Bound`: the header could not instantiate the
+// component then.)
 import QtQuick
 import Zelk.App
 import Zelk.Controls

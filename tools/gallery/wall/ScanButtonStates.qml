@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The states of ScanButton.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A part of the wall: its heading, and its components one below the other.
+// A section of the gallery: a heading, and controls below each other.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Room for what opens over everything else.
+// Reserves space for a popup.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One component in its states, a column each. Only those that it cannot be given are left to the pointer and the
-// keyboard, which find them by their names.
+// A control in each state, one per column. The states that need the pointer or the focus are applied by GalleryWall,
+// which finds the items by their object names.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -10,14 +10,14 @@ import Zelk.Controls
 Item {
     id: row
 
-    // Without one it is the heads of the columns, to which nothing is done.
+    // The label. If empty, the row has the column titles, and no states are applied.
     required property string name
     default required property Component specimen
 
     property var all: ["normal", "hovered", "pressed", "focused", "disabled"]
-    // As wide as the column.
+    // Whether items fill the width of their column.
     property bool filling: false
-    // What a column more is for.
+    // Adds a column with this text, unless empty.
     property string longText: ""
 
     readonly property var shown: row.longText === "" ? row.all : row.all.concat("long text")

@@ -24,10 +24,10 @@ namespace {
 
 using tour::waitUntil;
 
-// Around what is shown: a ring stands off its control.
+// Pixels around an item that its picture includes, for the focus ring.
 constexpr int rim = 6;
 constexpr int firstHeight = 860;
-// Of the wall, where nothing is.
+// An empty spot of the wall.
 constexpr QPointF corner(1, 1);
 
 void registerGallery() {
@@ -42,7 +42,7 @@ T& singleton(QQmlEngine& engine, const char* name) {
     return *engine.singletonInstance<T*>(qmlTypeId("Zelk.Controls", 1, 0, name));
 }
 
-/// The ones that bear the name of a state, from the top down.
+/// All items whose object name is the state, from top to bottom.
 std::vector<QQuickItem*> itemsIn(QQuickItem& wall, const char* state) {
     std::vector<QQuickItem*> found;
     if (wall.objectName() == QLatin1String(state)) found.push_back(&wall);
@@ -53,7 +53,7 @@ std::vector<QQuickItem*> itemsIn(QQuickItem& wall, const char* state) {
     return found;
 }
 
-/// What of a component has the keyboard: itself or the first control in it.
+/// The item that takes the focus: `item` itself or its first focusable descendant.
 QQuickItem* controlOf(QQuickItem& item) {
     if (item.isFocusScope() || item.activeFocusOnTab()) return &item;
     for (QQuickItem* child : item.childItems())
@@ -61,7 +61,7 @@ QQuickItem* controlOf(QQuickItem& item) {
     return nullptr;
 }
 
-/// Some components have the place for the pointer elsewhere than in their middle.
+/// The point to hover or press: the centre, or where `pointAt` says.
 QPointF pointIn(const QQuickItem& item) {
     const QVariant share = item.property("pointAt");
     return item.mapToScene({item.width() * (share.isValid() ? share.toReal() : 0.5), item.height() / 2});
@@ -87,20 +87,20 @@ void GalleryWall::show() {
 
 QImage GalleryWall::photograph() {
     if (view_.rootObject() == nullptr) return {};
-    // A picture shows where things come to rest, not a moment on their way.
+    // Pictures must not show the middle of an animation.
     singleton<Motion>(*view_.engine(), "Motion").setReduced(true);
     show();
-    // Of several windows one has the keyboard.
+    // Only the active window has the focus.
     view_.requestActivate();
     waitUntil([this] { return view_.isExposed() && view_.isActive(); });
-    // The first frame lays out what the height depends on.
+    // The implicit height is known after the first frame.
     view_.grabWindow();
     QQuickItem& wall = *view_.rootObject();
     const QSize size(view_.width(), static_cast<int>(wall.implicitHeight()));
     view_.resize(size);
     waitUntil([&] { return wall.size() == QSizeF(size); });
 
-    // There is one pointer and one keyboard: each state is a piece of a grab of its own.
+    // There is only one pointer and one focus, so each state is a grab of its own, pasted into the picture.
     QImage photograph = view_.grabWindow();
     QPainter painter(&photograph);
     using Deed = bool (GalleryWall::*)(QQuickItem&, QPainter&);
@@ -134,7 +134,7 @@ bool GalleryWall::press(QQuickItem& item, QPainter& photograph) {
     point(QEvent::MouseMove, pointIn(item));
     point(QEvent::MouseButtonPress, pointIn(item), Qt::LeftButton);
     copy(item, photograph);
-    // Let go elsewhere it has not been clicked.
+    // Releasing elsewhere does not click.
     point(QEvent::MouseMove, corner, Qt::LeftButton);
     point(QEvent::MouseButtonRelease, corner);
     return true;

@@ -9,22 +9,21 @@
 
 namespace zelk {
 
-/// Every component of the interface in one theme, in a window of its own. What is done to a component of which it shows
-/// how that looks (the pointer rests on it, it is pressed, the keyboard is at it) is for whoever sits before the
-/// window; a photograph has it done already. Main thread.
+/// A window with every control in one theme. In the window, states that need the pointer or the focus are up to the
+/// user; in a photograph they are applied. Main thread.
 class GalleryWall {
 public:
-    /// `textScale`: how large the texts are. Registers the interface's types where nobody has.
+    /// `textScale` multiplies the text size. Registers the QML types unless that was done before.
     GalleryWall(const ZelkTheme& theme, double textScale);
 
     void show();
 
-    /// All of the wall, however high, every component in its state. Null, with a line on standard error, where one of
-    /// them could not be brought into its state.
+    /// A picture of the whole wall at its full height, with every control in its state. Null, with a message on
+    /// standard error, if a state could not be applied.
     QImage photograph();
 
 private:
-    // What is done to a component, with a picture of it. False if that could not be.
+    // Apply a state to an item and paste its picture. Return false if that failed.
     bool hover(QQuickItem& item, QPainter& photograph);
     bool press(QQuickItem& item, QPainter& photograph);
     bool focus(QQuickItem& item, QPainter& photograph);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The calls of AppKit that Zelk makes; see ../Foundation/Foundation.h.
+// Declares the AppKit calls that Zelk makes; see ../Foundation/Foundation.h.
 #pragma once
 
 #if __has_include(<AppKit/NSWorkspace.h>)

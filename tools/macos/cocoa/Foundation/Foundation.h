@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The calls of Cocoa that Zelk makes, declared by us so that its Objective-C++ compiles where Apple's headers are not.
-// A Mac never sees this folder. tools/macos_check holds every name, type and value here against a list of what the
-// frameworks really have. Declare here what a source needs, and no more.
+// Declares the Cocoa calls that Zelk makes, so that its Objective-C++ compiles without Apple's headers. Not used on a
+// Mac. tools/macos_check compares every name, type and value with a list of what the frameworks have. Declare only what
+// a source needs.
 #pragma once
 
 #if __has_include(<Foundation/NSObjCRuntime.h>)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Qt's headers include the system's OpenGL for its types; Zelk itself calls nothing of it.
+// The OpenGL types that Qt's headers need. Zelk itself does not call OpenGL.
 #pragma once
 
 typedef unsigned int GLenum;
