@@ -53,7 +53,7 @@ std::vector<BubbleSlice> slices(bool longNames) {
     return all;
 }
 
-/// Milliseconds of all threads, since the toolkit renders large surfaces with several.
+/// Processor time of all threads in milliseconds, since Qt renders large surfaces with several.
 double now() {
     timespec time{};
     ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
@@ -91,10 +91,10 @@ public:
     }
 
     /// Measures the action together with the frame that shows it.
-    double costOf(const std::function<void()>& deed) {
+    double costOf(const std::function<void()>& action) {
         drawn_ = false;
         const double before = now();
-        deed();
+        action();
         const double doing = now() - before;
         while (!drawn_) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         return doing + drawing_;

@@ -46,14 +46,14 @@ class Bench {
 public:
     explicit Bench(MainWindow& window) : window_(window) {}
 
-    /// Measures `deed` repeatedly, each time with the resulting frame.
-    void measure(const char* what, int rounds, const std::function<void(int)>& deed) {
+    /// Measures `action` repeatedly, each time with the resulting frame.
+    void measure(const char* what, int rounds, const std::function<void(int)>& action) {
         double sum = 0;
         double worst = 0;
         for (int round = 0; round < rounds; ++round) {
             QElapsedTimer time;
             time.start();
-            deed(round);
+            action(round);
             QCoreApplication::processEvents();
             window_.window().grabWindow();
             const double took = static_cast<double>(time.nsecsElapsed()) / 1e6;
@@ -94,7 +94,7 @@ void runItems(AppModel& app, MainWindow& window) {
     bench.measure("the review left", 1, [&](int) { window.reclaim().dryRun()->close(); });
 }
 
-/// Creates each item in a folder of its own, all in one folder.
+/// Measures the list of the folders that each contain one item, all in one folder.
 void runFolders(MainWindow& window) {
     tour::clickOn(window.window(), QStringLiteral("sidebarLens"));
     tour::waitUntil([&] { return tour::findControl(window.window(), QStringLiteral("lensList")) != nullptr; });

@@ -103,11 +103,11 @@ QImage GalleryWall::photograph() {
     // There is only one pointer and one focus, so each state is a grab of its own, pasted into the picture.
     QImage photograph = view_.grabWindow();
     QPainter painter(&photograph);
-    using Deed = bool (GalleryWall::*)(QQuickItem&, QPainter&);
-    for (const auto& [state, act] : {std::pair<const char*, Deed>("hovered", &GalleryWall::hover),
-                                     std::pair<const char*, Deed>("pressed", &GalleryWall::press),
-                                     std::pair<const char*, Deed>("focused", &GalleryWall::focus),
-                                     std::pair<const char*, Deed>("opened", &GalleryWall::open)}) {
+    using Action = bool (GalleryWall::*)(QQuickItem&, QPainter&);
+    for (const auto& [state, act] : {std::pair<const char*, Action>("hovered", &GalleryWall::hover),
+                                     std::pair<const char*, Action>("pressed", &GalleryWall::press),
+                                     std::pair<const char*, Action>("focused", &GalleryWall::focus),
+                                     std::pair<const char*, Action>("opened", &GalleryWall::open)}) {
         for (QQuickItem* item : itemsIn(wall, state)) {
             if ((this->*act)(*item, painter)) continue;
             std::fprintf(stderr, "gallery: one of type %s is not %s\n", item->metaObject()->className(), state);
