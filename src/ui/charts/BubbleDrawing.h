@@ -25,7 +25,7 @@ ShownSlices slicesOf(const std::vector<PackedCircle>& circles, const std::vector
 
 struct BubbleLook {
     bool dark = true;      ///< the theme
-    double textScale = 1;  ///< by which the largest texts are larger
+    double textScale = 1;  ///< factor of the smallest and largest font sizes
 };
 
 /// A line of text in a bubble; empty if it does not fit.

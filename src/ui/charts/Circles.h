@@ -13,7 +13,7 @@ namespace zelk {
 
 void fillDisc(QPainter& painter, QPointF center, double radius, const QBrush& brush);
 
-/// Fills a disc with a soft edge: opaque up to `inner`, then fading along a smoothstep to nothing at `outer`.
+/// Fills a disc with a soft edge: `opacity` up to `inner`, fading along a smoothstep to 0 at `outer`.
 void drawHalo(QPainter& painter, QPointF center, const QColor& color, double opacity, double inner, double outer);
 
 /// Strokes a circle whose line is centred on `radius`.

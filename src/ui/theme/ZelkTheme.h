@@ -15,7 +15,7 @@ struct ZelkTheme {
     QColor ink;         ///< text
     QColor inkSoft;     ///< secondary text
     QColor hairline;    ///< outlines and dividers
-    QColor accent;      ///< primary actions; spent sparingly
+    QColor accent;      ///< primary actions; use sparingly
     QColor accentSoft;  ///< a lighter variant of the accent
     QColor alert;
 

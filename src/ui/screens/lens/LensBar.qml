@@ -11,7 +11,7 @@ Item {
 
     required property LensScreenModel lens
 
-    // Back was pressed for the last time and is disabled now.
+    // Emitted when a press on Back has reached the top and so disabled the button.
     signal stepped(bool byKey)
 
     implicitHeight: Math.max(52, startOver.implicitHeight + 16, nameText.implicitHeight + 16)

@@ -51,7 +51,7 @@ public:
 
 private:
     NodeRef root_;
-    std::vector<NodeRef> earlier_;  // tops: a node keeps what is below it, but its path needs what is above
+    std::vector<NodeRef> earlier_;  // top nodes: a node keeps its descendants alive, but its path needs its ancestors
     std::vector<NodeRef> stack_;
     std::map<std::string, NodeRef> selected_;
 };

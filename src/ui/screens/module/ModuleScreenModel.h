@@ -58,9 +58,9 @@ public:
     void setScanDetail(const QString& detail);
 
 public slots:
-    /// The button of the start page.
+    /// Starts a scan, as the button of the start page does.
     void scan();
-    /// The key that cancels a scan.
+    /// Cancels a running scan.
     void cancel();
 
 signals:
