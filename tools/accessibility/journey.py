@@ -139,7 +139,7 @@ def survey(walker, process):
 
 
 def told(walker):
-    """A progress bar must describe its progress in words. (They do not change here: the sample home has fewer items
+    """A progress bar must describe its progress in words. (These do not change here: the sample home has fewer items
     than lie between two updates.)"""
     for _ in bus.moments(PROGRESS_SECONDS):
         tree = bus.snapshot(walker.application)
