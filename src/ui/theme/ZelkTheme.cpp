@@ -84,7 +84,7 @@ double contrast(const QColor& one, const QColor& other) {
 }
 
 QColor readable(const QColor& color, const QColor& ground, const QColor& ink) {
-    constexpr double enough = 4.5;
+    constexpr double enough = 4.56;  // 4.5 and room for the rounding of blended colours
     constexpr int steps = 32;
     for (int step = 0; step < steps; ++step) {
         const QColor moved = mix(color, ink, static_cast<double>(step) / steps);
