@@ -13,8 +13,8 @@ namespace {
 
 constexpr unsigned ditherSide = 8;
 
-/// What is added to a shade before it is cut to a whole one, by the pixel's place: every value from 0 to 1 once in each
-/// square, neighbours far from each other.
+/// Thresholds for ordered dithering, added to a channel before truncation: the values from 0 to 1 once each per square,
+/// with similar ones far apart.
 std::array<float, ditherSide * ditherSide> ditherSquare() {
     std::array<float, ditherSide * ditherSide> square{};
     for (unsigned y = 0; y < ditherSide; ++y)

@@ -9,28 +9,28 @@
 
 namespace zelk {
 
-/// The light in a module's colour behind its orb, on the ground that it stands on: an opaque picture of the item's
-/// size. Light this faint spreads a few dozen shades over hundreds of pixels, so it is blended with the ground before
-/// it is rounded to shades, and dithered: no bands are seen, and no channel is lost before the others.
+/// The glow in a module's colour behind its orb, together with the background: an opaque image of the item's size. A
+/// glow this faint spreads a few dozen shades over hundreds of pixels, so it is blended before rounding and dithered,
+/// to avoid bands and shifts of the hue.
 class ModuleGlow : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    // In the item's points.
+    // The centre, in the item's points.
     Q_PROPERTY(QPointF middle MEMBER middle_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor ground MEMBER ground_ NOTIFY changed FINAL)
-    // Whether the ground is.
+    // Whether the background is dark.
     Q_PROPERTY(bool dark MEMBER dark_ NOTIFY changed FINAL)
 
 public:
-    /// Where the light has ended, in points.
+    /// Radius at which the glow ends, in points.
     static constexpr double endRadius = 520;
-    /// Of the colour in the middle.
+    /// Opacity of the colour at the centre.
     static double opacity(bool dark) { return dark ? 0.18 : 0.12; }
 
     explicit ModuleGlow(QQuickItem* parent = nullptr);
 
-    /// The picture at `scale` pixels to the point.
+    /// Renders the image with `scale` pixels per point.
     QImage picture(double scale) const;
 
 signals:

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a module's orb and the marks of the house look. Each draws with a painter that is
-// anti-aliased.
+// Painting of a module's orb and the app's mark. The painter must have antialiasing on.
 #pragma once
 
 #include <QColor>
@@ -31,7 +30,7 @@ void drawOrbDisc(QPainter& painter, QPointF center, const QColor& tint);
 /// Paints a ring around the disc; 0 is the innermost.
 void drawOrbRing(QPainter& painter, QPointF center, int ring, const QColor& tint);
 
-/// The mark of the About window: a disc in the accent gradient inside a glow. In points.
+/// The mark of the About window: a disc in the accent gradient within a glow. In points.
 struct AboutMark {
     static constexpr double discRadius = 39;
     static constexpr double glowRadius = 48;

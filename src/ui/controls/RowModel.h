@@ -36,7 +36,7 @@ protected:
 
     /// Tells the views that these roles of a row have new values; all roles if none are named.
     void rowChanged(int row, const QList<int>& roles = {}) { rowsChanged(row, row, roles); }
-    /// The same of the rows from `first` to `last`; does nothing if there are none.
+    /// The same for the rows from `first` to `last`; does nothing if there are none.
     void rowsChanged(int first, int last, const QList<int>& roles = {});
     void allRowsChanged(const QList<int>& roles = {}) { rowsChanged(0, rowCount() - 1, roles); }
 

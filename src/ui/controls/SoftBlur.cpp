@@ -9,7 +9,7 @@ namespace zelk {
 
 namespace {
 
-/// One pass over a row or a column: `count` values that are `step` bytes apart. `before` is room for a copy.
+/// One box blur of a row or column: `count` values, `step` bytes apart. `before` is a buffer for a copy.
 void blurLine(uchar* line, int count, qsizetype step, int radius, std::vector<uchar>& before) {
     for (int at = 0; at < count; ++at) before[static_cast<std::size_t>(at)] = line[at * step];
     const int width = 2 * radius + 1;

@@ -5,15 +5,14 @@
 
 namespace zelk {
 
-/// How far the blur of a mask reaches beyond its edge, in pixels: the sum of three passes of this radius.
+/// A blur is this many box blurs, so that it extends a mask by `blurPasses` times the radius.
 inline constexpr int blurPasses = 3;
 
-/// The mask, an image of alpha alone, blurred by boxes of this radius in pixels in both directions: close to a Gauss
-/// curve, and as fast for any radius. What reaches beyond the image is lost.
+/// Blurs an alpha-only image in both directions by repeated box blurs of `radius` pixels, which approximates a Gaussian
+/// blur and takes the same time for every radius. What would extend beyond the image is lost.
 void blurMask(QImage& mask, int radius);
 
-/// The mask in black: an alpha of 255 becomes `strength` (0 to 1), and what comes to more when it is multiplied with
-/// `gain` does so too.
+/// Converts a mask to black, with its alpha multiplied by `gain`, limited to 255, and then by `strength` (0 to 1).
 QImage blackOf(const QImage& mask, double strength, double gain = 1);
 
 }  // namespace zelk

@@ -14,7 +14,7 @@ namespace zelk {
 
 namespace {
 
-/// Where a length of `whole` is cut into three: its ends are `end` long.
+/// The positions that divide `whole` into two ends of length `end` and a middle.
 std::array<double, 4> cuts(double whole, double end) {
     return {0, end, whole - end, whole};
 }
@@ -63,7 +63,7 @@ QImage SoftShadow::picture() const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-    // The panel's own edge is soft: the shadow goes on below it.
+    // Keeps the shadow below the panel's antialiased edge.
     fillPanel(painter, panel.adjusted(1, 1, -1, -1), corner_ - 1);
     return shadow;
 }
@@ -75,7 +75,7 @@ QSGNode* SoftShadow::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
         return nullptr;
     }
     constexpr int parts = 9;
-    constexpr int middle = 4;  // which the panel hides
+    constexpr int middle = 4;  // hidden by the panel
     QSGNode* frame = old;
     if (frame == nullptr) {
         frame = new QSGNode;

@@ -7,9 +7,9 @@
 
 namespace zelk {
 
-/// The blurred black shadow around a rounded panel, which lies `inset` inside the item on all sides; what the panel
-/// hides is left out, so that it may be seen through. One small picture is painted and stretched between its corners,
-/// by any renderer: a panel that grows keeps it. Lengths in points.
+/// The blurred black shadow of a rounded panel that is inset by `inset` on all sides of the item. Leaves out the area
+/// that the panel hides, so that the panel may be translucent. Painted once at a small size and drawn as a nine-patch,
+/// so that resizing the panel needs no repaint. Lengths are in points.
 class SoftShadow : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -22,7 +22,7 @@ class SoftShadow : public QQuickItem {
 public:
     explicit SoftShadow(QQuickItem* parent = nullptr);
 
-    /// The shadow of the smallest panel that has all four corners, a pixel to the point.
+    /// The shadow of the smallest panel that has all four corners, with one pixel per point.
     QImage picture() const;
 
 signals:
@@ -33,18 +33,18 @@ protected:
     void geometryChange(const QRectF& now, const QRectF& before) override;
 
 private:
-    /// In whole points: from the item's edge to where the shadow is the same all along a side.
+    /// The size of the nine-patch's corners in whole points: beyond them the shadow is constant along a side.
     int border() const;
-    /// Of the picture: the whole item where that has no room for two borders.
+    /// The size of picture(); limited to the item, which may be too small for two corners.
     QSize pictureSize() const;
 
     double inset_ = 0;
     double corner_ = 0;
-    double radius_ = 0;    // how far it is blurred, to either side of the panel's edge
-    double drop_ = 2;      // light falls from above
-    double strength_ = 0;  // its opacity where it is full
+    double radius_ = 0;    // blur radius, to either side of the panel's edge
+    double drop_ = 2;      // vertical offset, as if lit from above
+    double strength_ = 0;  // maximum opacity
     bool painted_ = false;
-    QSize shown_;  // the size of the picture that is shown
+    QSize shown_;  // size of the picture in the texture
 };
 
 }  // namespace zelk

@@ -12,8 +12,8 @@ namespace zelk {
 
 namespace {
 
-constexpr double shadowBlurRadius = 1.1;  // of one of the passes, in points
-// The strokes of small text are thin, so that their blur is faint: it is raised to be dark right beside them.
+constexpr double shadowBlurRadius = 1.1;  // of each pass, in points
+// Amplifies the blur, which would be faint around the thin strokes of small text.
 constexpr double shadowGain = 3.2;
 constexpr double shadowStrength = 0.62;
 

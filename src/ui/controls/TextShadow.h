@@ -10,14 +10,14 @@
 
 namespace zelk {
 
-/// How far the shadow of a text reaches beyond it, in points.
+/// The extent of the shadow beyond its text, in points.
 inline constexpr double textShadowReach = 5;
 
-/// The soft dark shadow of a line of text, which makes white readable on any colour. The text's box stands
-/// `textShadowReach` inside the picture on all sides. `scale` is pixels to the point, which the picture knows.
+/// Renders the soft dark shadow of a line of text, which makes white readable on any colour. The image extends
+/// `textShadowReach` beyond the text's box. `scale` is pixels per point and becomes the device pixel ratio.
 QImage textShadow(const QString& text, const QFont& font, double scale);
 
-/// The same below a text of the interface: a child of it that lies `reach` beyond it on all sides.
+/// The shadow of a Text item: place it as a child that extends `reach` beyond the text on all sides.
 class TextShadow : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
@@ -34,7 +34,7 @@ protected:
     void draw(QPainter& painter) override;
 
 private:
-    QString line_;  // shortened like the text where there is no room for it
+    QString line_;  // elided like the text itself
     QFont font_;
 };
 

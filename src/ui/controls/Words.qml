@@ -18,7 +18,7 @@ Text {
     color: words.soft ? Theme.inkSoft : Theme.ink
     font.pixelSize: Math.round(words.size * TextScale.factor)
     textFormat: Text.PlainText
-    // Told, since it would otherwise follow the script: a Hebrew name would stand at the far end, away from its icon.
+    // Set explicitly, since by default it follows the text direction: a Hebrew name would be far from its icon.
     horizontalAlignment: Text.AlignLeft
     elide: words.wrapMode === Text.NoWrap ? Text.ElideRight : Text.ElideNone
     // Not StaticText, which Qt 6.4 reports as focusable in any case.

@@ -46,7 +46,7 @@ private:
     QCache<Tinting, QImage> images_{kKeptBytes};
 };
 
-/// The drawing with lines of this weight: from normal to bold they grow by one of its 24 units.
+/// The SVG of the symbol with lines of this weight: from normal to bold they grow by one of the grid's 24 units.
 QByteArray drawingOf(const QString& name, int weight) {
     constexpr double normalStroke = 1.75;
     QFile file(symbolFile(name));

@@ -13,9 +13,8 @@ namespace zelk {
 /// The SVG resource of a symbol; exists for every name that a screen uses.
 QString symbolFile(const QString& name);
 
-/// The symbol in `pixels` x `pixels`, every covered point in `color`; a null image if there is no such symbol. Its
-/// lines are as heavy as a text of this weight is beside one of QFont::Normal; a filled symbol has none. The last
-/// pictures are kept, so that asking again costs nothing. From any thread.
+/// Renders the symbol at `pixels` x `pixels` with all its shapes in `color`; null if there is no such symbol. The line
+/// width matches text of `weight`; filled symbols have no lines. Recent images are cached. Safe from any thread.
 QImage tintedSymbol(const QString& name, const QColor& color, int pixels, int weight = QFont::Normal);
 
 /// A square symbol. Tinted on the CPU rather than by a shader, so that it looks the same with every renderer. Hidden
@@ -38,7 +37,7 @@ public:
     /// The side length including the margin of the symbol's grid.
     qreal size() const { return size_; }
     void setSize(qreal size);
-    /// Of its lines, as that of a font.
+    /// The weight of its lines, like that of a font.
     int weight() const { return weight_; }
     void setWeight(int weight);
 

@@ -61,7 +61,7 @@ BaseButton {
             color: button.enabled ? "white" : Theme.inkSoft
             mute: true
 
-            // White alone could not be read on the bright end of the accent.
+            // White alone is not readable on the bright end of the gradient.
             TextShadow {
                 objectName: "removeShadow"
                 anchors.fill: parent
