@@ -149,8 +149,10 @@ TEST_F(SurveyJourney, surveysAgainAfterCancel) {
 TEST_F(SurveyJourney, surveysAgainAfterFinishing) {
     pressKey(window(), Qt::Key_Return);
     untilFinished();
+    holdSurvey();
     clickOn(window(), scanButton);
     EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    machine.directories.release();
     untilFinished();
     EXPECT_EQ(model().history().size(), 2U);
 }

@@ -134,8 +134,10 @@ TEST_F(SettingsWindow, keyboardPicksTheme) {
 TEST_F(SettingsWindow, keyboardRescans) {
     open();
     tabTo("Re-scan now");
+    machine.directories.hold(home);
     press(Qt::Key_Return);
     EXPECT_EQ(model().scanPhase(), Phase::scanning);
+    machine.directories.release();
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
