@@ -46,7 +46,18 @@ BaseButton {
         }
     }
 
-    contentItem: Item {
+    contentItem: ShadedText {
+        text: button.text
+        shaded: button.enabled
+    }
+
+    // White text on a soft shadow, because the accent's bright end has too little contrast; without one it is subdued.
+    component ShadedText: Item {
+        id: shadedText
+
+        required property string text
+        required property bool shaded
+
         implicitWidth: word.implicitWidth
         implicitHeight: word.implicitHeight
 
@@ -55,13 +66,12 @@ BaseButton {
 
             anchors.centerIn: parent
             width: Math.min(implicitWidth, parent.width)
-            text: button.text
+            text: shadedText.text
             size: 13
             font.weight: Font.Medium
-            color: button.enabled ? "white" : Theme.inkSoft
+            color: shadedText.shaded ? "white" : Theme.inkSoft
             mute: true
 
-            // White alone is not readable on the bright end of the gradient.
             TextShadow {
                 objectName: "removeShadow"
                 anchors.fill: parent
@@ -69,7 +79,7 @@ BaseButton {
                 z: -1
                 line: word.text
                 font: word.font
-                visible: button.enabled
+                visible: shadedText.shaded
             }
         }
     }
