@@ -11,12 +11,13 @@ namespace {
 
 /// One box blur of a row or column: `count` values, `step` bytes apart. `before` is a buffer for a copy.
 void blurLine(uchar* line, int count, qsizetype step, int radius, std::vector<uchar>& before) {
-    for (int at = 0; at < count; ++at) before[static_cast<std::size_t>(at)] = line[at * step];
+    uchar* const copy = before.data();
+    for (int at = 0; at < count; ++at) copy[at] = line[at * step];
     const int width = 2 * radius + 1;
     int sum = 0;
     for (int at = -radius; at < count; ++at) {
-        if (at + radius < count) sum += before[static_cast<std::size_t>(at + radius)];
-        if (at - radius > 0) sum -= before[static_cast<std::size_t>(at - radius - 1)];
+        if (at + radius < count) sum += copy[at + radius];
+        if (at - radius > 0) sum -= copy[at - radius - 1];
         if (at >= 0) line[at * step] = static_cast<uchar>((sum + width / 2) / width);
     }
 }

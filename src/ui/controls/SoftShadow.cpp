@@ -94,8 +94,8 @@ QSGNode* SoftShadow::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
     painted_ = true;
     shown_ = size;
 
-    const double across = std::min<double>(border(), size.width() / 2);
-    const double down = std::min<double>(border(), size.height() / 2);
+    const double across = std::min<double>(border(), size.width() / 2.0);
+    const double down = std::min<double>(border(), size.height() / 2.0);
     const auto fromX = cuts(size.width(), across);
     const auto fromY = cuts(size.height(), down);
     const auto toX = cuts(width(), across);
