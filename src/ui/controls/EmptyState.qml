@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A placeholder for an empty list: a symbol, a title and an optional hint.
+// What an empty list shows instead of rows: a symbol, a title and an optional hint.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The results of a survey: a placeholder, or the file list, created when there are files and then kept.
+// The results of a survey: an empty state, or the file list, created when there are files and then kept.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The results of a survey: a placeholder, the categories or the items, and the clean-up sheet. Each is created when
+// The results of a survey: an empty state, the categories or the items, and the clean-up sheet. Each is created when
 // first needed, and then kept.
 pragma ComponentBehavior: Bound
 

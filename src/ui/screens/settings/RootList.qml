@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The scan roots, or a placeholder if there are none, and the button that adds one.
+// The scan roots, or a text if there are none, and the button that adds one.
 pragma ComponentBehavior: Bound
 
 import QtQuick
