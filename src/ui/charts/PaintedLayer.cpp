@@ -36,7 +36,8 @@ void PaintedLayer::setKind(Kind kind) {
     if (kind == kind_) return;
     kind_ = kind;
     setImplicitSize(sideOf(kind), sideOf(kind));
-    emit changed();
+    update();
+    emit kindChanged();
 }
 
 void PaintedLayer::draw(QPainter& painter) {

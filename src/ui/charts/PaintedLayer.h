@@ -13,7 +13,7 @@ namespace zelk {
 class PaintedLayer : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY changed FINAL REQUIRED)
+    Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY kindChanged FINAL REQUIRED)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
 
 public:
@@ -24,6 +24,10 @@ public:
 
     Kind kind() const { return kind_; }
     void setKind(Kind kind);
+
+signals:
+    /// Its own: moc of Qt 6.8 cannot name an enumeration of this class where the signal is inherited.
+    void kindChanged();
 
 protected:
     void draw(QPainter& painter) override;
