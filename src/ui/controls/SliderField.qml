@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A slider with pointer, wheel and arrow key input.
+// A value on a line, moved by the pointer, the wheel, the arrow keys and, in larger steps, the page keys.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -29,11 +29,35 @@ T.Slider {
     signal picked(real value)
 
     property bool made: false
+    property bool paging: false
 
     Component.onCompleted: slider.made = true
     onValueChanged: {
-        if (slider.made)
+        if (slider.made && !slider.paging)
             slider.picked(slider.value);
+    }
+
+    // A tenth of the way. It goes there by single steps, since a value that is set from here would no longer follow
+    // what it is bound to, and tells of the last one alone.
+    function turnPage(up: bool) {
+        const before = slider.value;
+        const step = slider.stepSize > 0 ? slider.stepSize : 0.1;
+        slider.paging = true;
+        for (let left = Math.max(1, Math.round((slider.to - slider.from) / 10 / step)); left > 0; --left) {
+            if (up)
+                slider.increase();
+            else
+                slider.decrease();
+        }
+        slider.paging = false;
+        if (slider.value !== before)
+            slider.picked(slider.value);
+    }
+
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown;
+        if (event.accepted)
+            slider.turnPage(event.key === Qt.Key_PageUp);
     }
 
     Accessible.name: slider.label
