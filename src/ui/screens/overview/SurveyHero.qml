@@ -30,6 +30,8 @@ FocusScope {
                 scanButton.focus = true;
                 return;
             }
+            if (focused !== scanButton && !hero.survey.scanning)
+                hero.survey.handOver();
             const ringed = (focused as T.AbstractButton)?.visualFocus ?? false;
             scanButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
         }
@@ -75,6 +77,16 @@ FocusScope {
             scanning: hero.survey.scanning
             finished: hero.survey.finished
             onClicked: hero.survey.pressScan()
+            Keys.forwardTo: [tooSoon]
+
+            // A key that was meant for "cancel", which stood here a moment ago, must not begin a survey.
+            Item {
+                id: tooSoon
+
+                Keys.onSpacePressed: event => event.accepted = !hero.survey.takesKey()
+                Keys.onReturnPressed: event => event.accepted = !hero.survey.takesKey()
+                Keys.onEnterPressed: event => event.accepted = !hero.survey.takesKey()
+            }
         }
 
         Item {

@@ -18,6 +18,7 @@ constexpr int countingInterval = 33;         // milliseconds, when no survey ask
 constexpr double progressDuration = 0.25;    // seconds
 constexpr double spokenInterval = 3;         // seconds
 constexpr double recoverableDuration = 0.9;  // seconds
+constexpr double handoverSeconds = 1;        // longer than a person needs to notice
 
 }  // namespace
 
@@ -92,6 +93,17 @@ void SurveyScreenModel::pressScan() {
 }
 void SurveyScreenModel::cancel() {
     app_.cancelScan();
+}
+
+void SurveyScreenModel::handOver() {
+    handedAt_ = now_();
+}
+
+bool SurveyScreenModel::takesKey() {
+    const double time = now_();
+    if (!handedAt_ || time - *handedAt_ >= handoverSeconds) return true;
+    handedAt_ = time;
+    return false;
 }
 
 void SurveyScreenModel::pressFeature(int row) {

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QTimer>
 #include <functional>
+#include <optional>
 
 #include "state/Screen.h"
 #include "ui/screens/overview/CountingFigure.h"
@@ -98,6 +99,12 @@ public slots:
     void cancel();
     /// Goes to the module of a feature.
     void pressFeature(int row);
+    /// The button got the keyboard from a control that is gone with its phase. What a person presses in the next moment
+    /// was meant for that one.
+    void handOver();
+    /// Whether a key may press the button. One that comes too soon after handOver() may not, nor may those that follow
+    /// it as closely.
+    bool takesKey();
     /// The screen is there: what it shows of the machine is read where nobody has yet.
     void appear();
 
@@ -139,7 +146,8 @@ private:
     QString itemsLine_;
     QString pathLine_;
     QString spokenProgress_;
-    double spokenAt_ = 0;  ///< by the clock
+    double spokenAt_ = 0;             ///< by the clock
+    std::optional<double> handedAt_;  ///< by the clock: the handover, or the last key that came too soon after it
 };
 
 }  // namespace zelk
