@@ -143,4 +143,27 @@ TEST_F(FolderPicker, doesNotCreateMissingHome) {
 }
 #endif
 
+TEST_F(FolderPicker, opensAtHomeUnderATitle) {
+    const zoo::TempFolder folder;
+    zoo::makeFolder(folder / "home");
+    const fakes::EnvironmentVariable variable("HOME", folder / "home");
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QString title;
+    QString place;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) return;
+        answer.stop();
+        title = dialog->windowTitle();
+        place = dialog->directory().path();
+        dialog->reject();
+    });
+    answer.start(0);
+    pickFolder(files);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false);
+    EXPECT_EQ(title, QStringLiteral("Choose a folder to survey"));
+    EXPECT_EQ(place.toStdString(), folder / "home");
+}
+
 }  // namespace zelk

@@ -2,6 +2,7 @@
 #include "ui/shell/FolderPicker.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -55,9 +56,11 @@ std::optional<std::string> onlyEntryDecodingTo(const std::string& name, const st
 }  // namespace
 
 std::optional<std::string> pickFolder(FileManager& files) {
-    const UserSettingsGuard settingsGuard;
+    const HomeStaysAway homeStaysAway;
+    const QString title = QCoreApplication::translate("FolderPicker", "Choose a folder to survey");
+    const QUrl home = QUrl::fromLocalFile(QDir::homePath());
     const QUrl url =
-        QFileDialog::getExistingDirectoryUrl(nullptr, {}, {}, QFileDialog::ShowDirsOnly, {QStringLiteral("file")});
+        QFileDialog::getExistingDirectoryUrl(nullptr, title, home, QFileDialog::ShowDirsOnly, {QStringLiteral("file")});
     return chosenFolder(url, files);
 }
 
