@@ -160,4 +160,39 @@ TEST_F(Windows, surveyIsShownEverywhere) {
     runUntil([&] { return menu.actions()[3]->text().startsWith(QStringLiteral("Surveying… ")); });
 }
 
+TEST_F(Windows, settingsShowAllTheyHoldWithoutScrolling) {
+    QQuickWindow& settings = main().openWindow(WindowId::settings);
+    runUntil([&] { return settings.isActive(); });
+    settings.grabWindow();
+    const QQuickItem* page =
+        findVisible(settings, [](const QQuickItem& item) { return item.inherits("QQuickFlickable"); });
+    ASSERT_NE(page, nullptr);
+    EXPECT_GT(page->property("contentHeight").toDouble(), 0.75 * page->height());
+    EXPECT_LE(page->property("contentHeight").toDouble(), page->height());
+}
+
+TEST_F(Windows, settingsOpenAtTheirTopAgain) {
+    std::vector<std::string> many;
+    for (int root = 0; root < 30; ++root) many.push_back("/root" + std::to_string(root));
+    model().setScanRoots(many);
+    QQuickWindow& settings = main().openWindow(WindowId::settings);
+    runUntil([&] { return settings.isActive(); });
+    settings.grabWindow();
+    const QQuickItem* page =
+        findVisible(settings, [](const QQuickItem& item) { return item.inherits("QQuickFlickable"); });
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(page->property("contentY").toDouble(), 0);
+    press(settings, Qt::Key_Backtab);
+    EXPECT_GT(page->property("contentY").toDouble(), 0);
+    const QQuickItem* last = settings.activeFocusItem();
+    press(settings, Qt::Key_Escape);
+    main().openWindow(WindowId::settings);
+    runUntil([&] { return settings.isActive(); });
+    settings.grabWindow();
+    EXPECT_EQ(page->property("contentY").toDouble(), 0);
+    EXPECT_NE(settings.activeFocusItem(), last);
+    press(settings, Qt::Key_Tab);
+    EXPECT_EQ(page->property("contentY").toDouble(), 0) << "the first control stands at the top";
+}
+
 }  // namespace zelk

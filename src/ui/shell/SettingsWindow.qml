@@ -18,7 +18,15 @@ SecondaryWindow {
     minimumHeight: 360
     maximumHeight: 360
 
+    // However it was left, it opens at its top.
+    onVisibleChanged: {
+        if (window.visible)
+            view.goToTop();
+    }
+
     SettingsView {
+        id: view
+
         anchors.fill: parent
         settings: window.settings
         headed: false

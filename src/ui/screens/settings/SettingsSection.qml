@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A heading with a card of settings below it.
+// A heading and below it, on a card where there is room for one, what belongs together.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -9,24 +9,26 @@ Column {
     id: section
 
     required property string title
+    required property bool carded
     default property alias content: body.data
 
-    spacing: 8
+    spacing: section.carded ? 8 : 4
 
     Eyebrow {
-        leftPadding: 4
+        leftPadding: section.carded ? 4 : 0
         text: section.title
     }
 
     Card {
         width: section.width
-        padding: 16
+        padding: section.carded ? 16 : 0
+        background.visible: section.carded
 
         Column {
             id: body
 
-            width: section.width - 2 * 16
-            spacing: 12
+            width: section.width - (section.carded ? 2 * 16 : 0)
+            spacing: section.carded ? 12 : 8
         }
     }
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The settings, as a screen with a module header, or without one in a window.
+// The settings, as a screen with the header of a module, and without it as a small window of their own. There they
+// stand close together and on no cards, so that the window shows all of them at the usual text size.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -12,6 +13,13 @@ FocusScope {
     required property SettingsScreenModel settings
     // False in a window, which has a title bar.
     property bool headed: true
+
+    readonly property int gap: view.headed ? 24 : 16
+
+    function goToTop() {
+        scroll.forceActiveFocus();
+        scroll.scrollTo(0);
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -32,11 +40,18 @@ FocusScope {
     }
 
     ScrollArea {
+        id: scroll
+
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
-        contentHeight: sections.implicitHeight + 2 * 24
+        contentHeight: sections.implicitHeight + 2 * view.gap
+        // No control has the keyboard before somebody goes to one, but its page keys work.
+        focus: true
+
+        Accessible.role: Accessible.Pane
+        Accessible.name: view.settings.look.title
 
         Item {
             width: parent.width
@@ -45,12 +60,13 @@ FocusScope {
                 id: sections
 
                 x: 24
-                y: 24
+                y: view.gap
                 width: Math.min(parent.width - 2 * 24, 640 * TextScale.factor)
-                spacing: 24
+                spacing: view.gap
 
                 SettingsSection {
                     width: parent.width
+                    carded: view.headed
                     title: qsTr("Scan roots")
 
                     RootList {
@@ -61,6 +77,7 @@ FocusScope {
 
                 SettingsSection {
                     width: parent.width
+                    carded: view.headed
                     title: qsTr("Cleanup")
 
                     StepperField {
@@ -75,6 +92,7 @@ FocusScope {
 
                     Divider {
                         width: parent.width
+                        visible: view.headed
                     }
 
                     Column {
@@ -101,6 +119,7 @@ FocusScope {
 
                 SettingsSection {
                     width: parent.width
+                    carded: view.headed
                     title: qsTr("Appearance")
 
                     FlowRow {
