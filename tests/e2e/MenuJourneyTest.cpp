@@ -93,4 +93,15 @@ TEST_F(Menus, escapeClosesMenuAndRestoresFocus) {
     EXPECT_EQ(window().activeFocusItem(), before) << focusName().toStdString();
 }
 
+TEST_F(Menus, f1OpensTheHelpInEveryWindow) {
+    press(Qt::Key_F1);
+    QQuickWindow* help = main().secondary().find(WindowId::help);
+    ASSERT_NE(help, nullptr);
+    help->close();
+    QQuickWindow& about = main().openWindow(WindowId::about);
+    runUntil([&] { return about.isActive(); });
+    press(about, Qt::Key_F1);
+    EXPECT_TRUE(help->isVisible());
+}
+
 }  // namespace zelk

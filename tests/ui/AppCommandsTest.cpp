@@ -140,4 +140,16 @@ TEST_F(AppCommandsTest, nativeMenuBarMirrorsEntriesWithExplicitRoles) {
     EXPECT_THAT(opened, ElementsAre(WindowId::about));
 }
 
+TEST_F(Commands, helpHasTwoKeys) {
+    press(QStringLiteral("Ctrl+?"));
+    press(QStringLiteral("F1"));
+    EXPECT_THAT(opened, ElementsAre(WindowId::help, WindowId::help));
+}
+
+TEST_F(Commands, systemsMenuBarKnowsBothKeysOfHelp) {
+    const std::unique_ptr<QMenuBar> bar = makeNativeMenuBar(commands);
+    const QAction* help = bar->actions().back()->menu()->actions().front();
+    EXPECT_THAT(help->shortcuts(), ElementsAre(QKeySequence(QStringLiteral("Ctrl+?")), QKeySequence(Qt::Key_F1)));
+}
+
 }  // namespace zelk

@@ -41,7 +41,8 @@ AppCommands::AppCommands(AppModel& app, std::function<void(WindowId)> openWindow
          {tr("Quit Zelk"), QKeySequence(QStringLiteral("Ctrl+Q")), std::move(quit), Command::Part::quit, true}});
     add(tr("File"), {{tr("Run Survey"), QKeySequence(QStringLiteral("Ctrl+R")), [&app] { app.startScan(); }}});
     add(tr("Go"), goCommands(app));
-    add(tr("Help"), {{tr("Zelk Help"), QKeySequence(QStringLiteral("Ctrl+?")), opens(WindowId::help)}});
+    add(tr("Help"), {{tr("Zelk Help"), QKeySequence(QStringLiteral("Ctrl+?")), opens(WindowId::help),
+                      Command::Part::ordinary, false, QKeySequence(Qt::Key_F1)}});
 }
 
 AppCommands::~AppCommands() = default;
@@ -60,7 +61,7 @@ QVariantList AppCommands::menusForViews() const {
 
 QStringList AppCommands::shortcuts() const {
     QStringList shortcuts;
-    for (const Command* command : withShortcut()) shortcuts.append(command->shortcut.toString());
+    for (const Key& key : keys()) shortcuts.append(key.keys.toString());
     return shortcuts;
 }
 
@@ -69,17 +70,18 @@ void AppCommands::run(const Command& command) const {
 }
 
 void AppCommands::runShortcut(int place) {
-    const std::vector<const Command*> commands = withShortcut();
-    if (place >= 0 && static_cast<std::size_t>(place) < commands.size())
-        run(*commands[static_cast<std::size_t>(place)]);
+    const std::vector<Key> all = keys();
+    if (place >= 0 && static_cast<std::size_t>(place) < all.size())
+        run(*all[static_cast<std::size_t>(place)].command);
 }
 
-std::vector<const Command*> AppCommands::withShortcut() const {
-    std::vector<const Command*> commands;
+std::vector<AppCommands::Key> AppCommands::keys() const {
+    std::vector<Key> keys;
     for (const auto& menu : menus_)
         for (const Command& command : menu->commands())
-            if (!command.shortcut.isEmpty()) commands.push_back(&command);
-    return commands;
+            for (const QKeySequence& sequence : {command.shortcut, command.otherShortcut})
+                if (!sequence.isEmpty()) keys.push_back({sequence, &command});
+    return keys;
 }
 
 }  // namespace zelk

@@ -37,7 +37,7 @@ public:
     /// From left to right; owned by this.
     QList<CommandMenu*> menus() const;
     QVariantList menusForViews() const;
-    /// The shortcuts of all entries that have one, in Qt's portable format.
+    /// The keys of all entries, as the toolkit writes them; an entry may have none, one or two.
     QStringList shortcuts() const;
     void run(const Command& command) const;
 
@@ -46,7 +46,11 @@ public slots:
     void runShortcut(int place);
 
 private:
-    std::vector<const Command*> withShortcut() const;
+    struct Key {
+        QKeySequence keys;
+        const Command* command;
+    };
+    std::vector<Key> keys() const;
 
     std::function<bool()> busy_;
     std::vector<std::unique_ptr<CommandMenu>> menus_;

@@ -19,7 +19,8 @@ struct Command {
     QKeySequence shortcut;  ///< Control stands for Command on macOS; may be empty
     std::function<void()> run;
     Part part = Part::ordinary;
-    bool startsGroup = false;  ///< preceded by a divider
+    bool startsGroup = false;         ///< a divider stands before it
+    QKeySequence otherShortcut = {};  ///< works too, and is not written beside the entry
 };
 
 /// A menu of the menu bar, as a list model of its entries. Main thread.

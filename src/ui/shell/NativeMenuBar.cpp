@@ -31,7 +31,9 @@ std::unique_ptr<QMenuBar> makeNativeMenuBar(AppCommands& commands) {
         for (const Command& command : menu->commands()) {
             if (command.startsGroup) shown->addSeparator();
             QAction* action = shown->addAction(command.title);
-            action->setShortcut(command.shortcut);
+            QList<QKeySequence> keys = {command.shortcut};
+            if (!command.otherShortcut.isEmpty()) keys.append(command.otherShortcut);
+            action->setShortcuts(keys);
             action->setMenuRole(roleOf(command.part));
             QObject::connect(action, &QAction::triggered, &commands, [&commands, &command] { commands.run(command); });
         }
