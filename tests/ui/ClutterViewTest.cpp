@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+#include "TextsOf.h"
 #include "ViewFixture.h"
 #include "fakes/ClutterHome.h"
 #include "ui/screens/clutter/ClutterScreenModel.h"
@@ -36,6 +37,7 @@ protected:
     std::string currentName() { return pathOf(current()); }
     std::string pathOf(int row) { return clutter.rows()->pathAt(row); }
     void tabToTheList() {
+        press(Qt::Key_Tab);
         for (int stop = 0; stop < 5 && !listHasKeyboard(); ++stop) press(Qt::Key_Tab);
         ASSERT_TRUE(listHasKeyboard());
     }
@@ -342,6 +344,76 @@ TEST_F(ClutterViewTest, menuClosesWhenListDisappears) {
     EXPECT_FALSE(menuIsOpen());
     machine.directories.release();
     runUntil([&] { return model().scanPhase() == Phase::finished; });
+}
+
+TEST_F(ClutterWindow, deleteKeyLeavesARowAloneThatNobodyWentTo) {
+    open();
+    ASSERT_TRUE(listHasKeyboard());
+    press(Qt::Key_Delete);
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+    press(Qt::Key_Home);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/concert.mov"});
+}
+
+TEST_F(ClutterWindow, deleteKeyActsOnARowThatWasPressed) {
+    open();
+    tour::clickAt(window(), middleOf(1));
+    settle();
+    press(Qt::Key_Delete);
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/setup.iso"});
+}
+
+TEST_F(ClutterWindow, deleteKeyLeavesTheRowAloneAfterTheScreenWasLeft) {
+    open();
+    tabToTheList();
+    view().setVisible(false);
+    view().setVisible(true);
+    list().forceActiveFocus(Qt::ShortcutFocusReason);
+    press(Qt::Key_Delete);
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+}
+
+TEST_F(ClutterWindow, deleteKeyLeavesTheRowsOfAnotherSurveyOrOrderAlone) {
+    open();
+    tabToTheList();
+    survey();
+    settle();
+    ASSERT_TRUE(listHasKeyboard());
+    press(Qt::Key_Delete);
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+    press(Qt::Key_End);
+    clutter.sort(1);
+    settle();
+    press(Qt::Key_Delete);
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+}
+
+TEST_F(ClutterWindow, deleteKeyActsWithNoOtherKeyHeld) {
+    const TextsOf linuxTexts(desktopLinux);
+    open();
+    tabToTheList();
+    for (const auto held : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier})
+        QTest::keyClick(&window(), Qt::Key_Delete, held);
+    for (const auto held : {Qt::NoModifier, Qt::ControlModifier}) QTest::keyClick(&window(), Qt::Key_Backspace, held);
+    settle();
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+    QTest::keyClick(&window(), Qt::Key_Delete, Qt::KeypadModifier);
+    settle();
+    EXPECT_EQ(machine.trash.trashed().size(), 1U);
+}
+
+TEST_F(ClutterWindow, commandAndDeleteMoveAFileToTheTrashOnMacOS) {
+    const TextsOf macTexts(macOS);
+    open();
+    tabToTheList();
+    for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) press(key);
+    QTest::keyClick(&window(), Qt::Key_Backspace, Qt::ControlModifier | Qt::ShiftModifier);
+    settle();
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+    QTest::keyClick(&window(), Qt::Key_Backspace, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/concert.mov"});
 }
 
 }  // namespace zelk

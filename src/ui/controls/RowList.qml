@@ -16,17 +16,22 @@ ListView {
     // Whether the current row has visible focus.
     readonly property bool ringed: list.activeFocus && list.byKey
     property bool byKey: false
+    // Whether the person went to the current row, by a key or with the pointer. Where only the screen was entered, the
+    // current row is nobody's choice, and what takes a row away must leave it alone.
+    property bool rowChosen: false
 
     signal moved
 
     function take(row: int) {
         list.byKey = false;
+        list.rowChosen = true;
         list.currentIndex = row;
         list.forceActiveFocus(Qt.MouseFocusReason);
     }
 
     function go(row: int) {
         list.byKey = true;
+        list.rowChosen = true;
         list.currentIndex = Math.min(Math.max(row, 0), list.count - 1);
         list.positionViewAtIndex(list.currentIndex, ListView.Contain);
         list.moved();
@@ -76,9 +81,14 @@ ListView {
 
     // Shows the focus ring when the list was reached by Tab.
     Keys.onReleased: event => {
-        if (event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab)
+        if (event.key === Qt.Key_Tab || event.key === Qt.Key_Backtab) {
             list.byKey = true;
+            list.rowChosen = true;
+        }
     }
+
+    onVisibleChanged: list.rowChosen = false
+    onEnabledChanged: list.rowChosen = false
 
     T.ScrollBar.vertical: ThinScrollBar {}
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The list of large files with its head, and the context menu that its rows share. Return and the menu key open the
-// menu of the current row, Delete moves its file to the Trash.
+// The list of the heaviest files under its head, and the one menu of all its rows. Enter and the menu key open the menu
+// of the current row. The key that moves a file to the Trash acts on a row that the person went to.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -67,9 +67,12 @@ FocusScope {
             if (!event.isAutoRepeat)
                 list.openMenuByKey();
         }
-        // Ignores auto-repeat, which would delete one file after another as they move up.
-        Keys.onDeletePressed: event => {
-            if (event.isAutoRepeat)
+        // A held key takes one file away and not all that move up.
+        Keys.onPressed: event => {
+            if (!files.clutter.isTrashKey(event.key, event.modifiers))
+                return;
+            event.accepted = true;
+            if (event.isAutoRepeat || !list.rowChosen)
                 return;
             list.byKey = true;
             files.clutter.pick(list.currentIndex);
@@ -96,6 +99,7 @@ FocusScope {
             target: files.clutter
             function onRearranged() {
                 list.forceLayout();
+                list.rowChosen = false;
                 list.currentIndex = Math.min(0, list.count - 1);
                 list.contentY = list.originY - list.topMargin;
             }

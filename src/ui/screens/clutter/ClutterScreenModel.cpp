@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -79,7 +80,14 @@ void ClutterScreenModel::moveToTrash() {
     if (!picked_.empty()) app_.trashLargeFile(picked_);
 }
 
-/// Skipped during a survey, whose results are not known yet.
+bool ClutterScreenModel::isTrashKey(int key, int modifiers) const {
+    const auto held = Qt::KeyboardModifiers::fromInt(modifiers) & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if (SystemTexts::shown() == SystemTexts::System::macOS)
+        return key == Qt::Key_Backspace && held == Qt::ControlModifier;
+    return key == Qt::Key_Delete && held == Qt::NoModifier;
+}
+
+/// Of a survey under way nothing is known yet.
 void ClutterScreenModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
     std::vector<FileType> types;

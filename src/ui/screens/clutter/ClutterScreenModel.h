@@ -57,6 +57,9 @@ public slots:
     void pick(int row);
     void reveal();
     void moveToTrash();
+    /// Whether this key, a Qt::Key with Qt::KeyboardModifiers, moves the current file to the Trash: Delete alone, and
+    /// on macOS its Delete key with Command, which Qt calls Backspace and Control there.
+    bool isTrashKey(int key, int modifiers) const;
 
 signals:
     void darkChanged();
