@@ -16,6 +16,7 @@ protected:
     Navigation() { shell(); }
 
     static std::string rowOf(Screen screen) { return "sidebar" + lookOf(screen).title.toStdString(); }
+    void toTheFirstRow() { find("sidebarOverview")->forceActiveFocus(Qt::TabFocusReason); }
     double sidebarWidth() { return find("sidebar")->width(); }
 };
 
@@ -42,8 +43,8 @@ TEST_F(Navigation, rowsAreAccessible) {
     }
 }
 
-TEST_F(Navigation, arrowKeysMoveFocusAndStopAtTheEnds) {
-    click("sidebarOverview");
+TEST_F(Navigation, theArrowsGoThroughAllRowsAndStopAtTheEnds) {
+    toTheFirstRow();
     press(Qt::Key_Up);
     EXPECT_EQ(focusName(), QStringLiteral("sidebarOverview"));
     for (std::size_t row = 1; row < allScreens.size(); ++row) {
@@ -58,8 +59,8 @@ TEST_F(Navigation, arrowKeysMoveFocusAndStopAtTheEnds) {
     EXPECT_EQ(model().selection(), Screen::survey) << "moving the focus does not select";
 }
 
-TEST_F(Navigation, returnAndSpaceSelectScreen) {
-    click("sidebarOverview");
+TEST_F(Navigation, returnAndSpaceChoose) {
+    toTheFirstRow();
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_EQ(model().selection(), Screen::reclaim);
@@ -218,6 +219,28 @@ TEST_F(Navigation, orbPulsesOnlyWhileVisibleAndMotionIsNotReduced) {
     main().motion().setReduced(false);
     click("sidebarOverview");
     EXPECT_EQ(ring->scale(), 1);
+}
+
+TEST_F(Navigation, clickInTheSidebarPutsTheKeyboardIntoTheScreen) {
+    click("sidebarLens");
+    EXPECT_EQ(focusName(), QStringLiteral("moduleScanButton"));
+    EXPECT_FALSE(window().activeFocusItem()->property("visualFocus").toBool()) << "the mouse needs no ring";
+    click("sidebarOverview");
+    EXPECT_EQ(focusName(), QStringLiteral("scanButton"));
+    toTheFirstRow();
+    click("sidebarOverview");
+    EXPECT_EQ(focusName(), QStringLiteral("scanButton")) << "also from a row that had the keyboard";
+}
+
+TEST_F(Navigation, clickInTheSidebarShowsNoRingInAListThatHadOne) {
+    survey();
+    click("sidebarLens");
+    press(Qt::Key_Down);
+    ASSERT_TRUE(find("lensList")->property("ringed").toBool());
+    click("sidebarOverview");
+    click("sidebarLens");
+    EXPECT_TRUE(find("lensList")->hasActiveFocus());
+    EXPECT_FALSE(find("lensList")->property("ringed").toBool());
 }
 
 }  // namespace zelk

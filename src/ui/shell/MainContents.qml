@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 
 FocusScope {
@@ -16,6 +17,24 @@ FocusScope {
     required property FirstRunModel firstRun
 
     focus: true
+
+    function enterScreen(reason: int) {
+        stage.forceActiveFocus(reason);
+        contents.showKeyboard(reason);
+    }
+
+    // What has the keyboard already is not told why it would get it.
+    function showKeyboard(reason: int) {
+        const control = contents.Window.activeFocusItem as T.Control;
+        if (control)
+            control.focusReason = reason;
+        // In a list it is the current row, and the list shows where that is.
+        for (let item = contents.Window.activeFocusItem; item; item = item.parent) {
+            const list = item as ListView;
+            if (list && list["byKey"] !== undefined)
+                list["byKey"] = reason === Qt.ShortcutFocusReason;
+        }
+    }
 
     MenuStrip {
         id: menuStrip
@@ -40,9 +59,12 @@ FocusScope {
 
             height: parent.height
             sidebar: contents.sidebar
+            onEntered: contents.enterScreen(Qt.MouseFocusReason)
         }
 
         FocusScope {
+            id: stage
+
             anchors.left: sidePanel.right
             anchors.right: parent.right
             height: parent.height

@@ -32,6 +32,8 @@ FocusScope {
 
     // Gives the focus to a row.
     signal handed(place: int, reason: int)
+    // A screen was chosen with the pointer: the keyboard belongs to it.
+    signal entered
 
     // Arrow keys treat the rows of both lists as one column.
     function step(place: int, by: int) {
@@ -87,6 +89,7 @@ FocusScope {
                     collapsed: bar.sidebar.collapsed
                     tight: bar.tight
                     onPressed: index => bar.sidebar.modules.press(index)
+                    onEntered: bar.entered()
                     onStepped: (index, by) => bar.step(index, by)
 
                     Connections {
@@ -125,6 +128,7 @@ FocusScope {
                 collapsed: bar.sidebar.collapsed
                 tight: bar.tight
                 onPressed: index => bar.sidebar.foot.press(index)
+                onEntered: bar.entered()
                 onStepped: (index, by) => bar.step(modules.count + index, by)
 
                 Connections {

@@ -21,6 +21,8 @@ Column {
     property bool tight: false
 
     signal pressed(int index)
+    // It was pressed by somebody who does not steer by the keyboard.
+    signal entered
     signal stepped(int index, int by)
 
     function takeFocus(reason: int) {
@@ -58,7 +60,19 @@ Column {
         chosen: place.selected
         width: parent.width
         height: Math.max(place.tight ? 32 : 36, label.implicitHeight + 12)
-        onClicked: place.pressed(place.index)
+        onClicked: {
+            place.pressed(place.index);
+            if (!row.visualFocus)
+                place.entered();
+        }
+
+        // The pointer's press is one where the keyboard is too.
+        PointHandler {
+            onActiveChanged: {
+                if (active)
+                    row.focusReason = Qt.MouseFocusReason;
+            }
+        }
 
         Keys.onUpPressed: place.stepped(place.index, -1)
         Keys.onDownPressed: place.stepped(place.index, 1)
