@@ -272,4 +272,22 @@ TEST_F(RealClutterJourney, removesFileBelowLinkedScanRoot) {
 }
 #endif
 
+TEST_F(ClutterJourney, keyOfTheScreenShowsTheRowAndDeleteLeavesItAlone) {
+    shell();
+    survey();
+    press(Qt::Key_6, Qt::ControlModifier);
+    window().grabWindow();
+    ASSERT_TRUE(listHasKeyboard());
+    EXPECT_TRUE(find("clutterList")->property("ringed").toBool());
+    press(Qt::Key_Delete);
+    press(Qt::Key_1, Qt::ControlModifier);
+    press(Qt::Key_6, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    runWhatIsThere();
+    EXPECT_TRUE(machine.trash.trashed().empty());
+    press(Qt::Key_Down);
+    press(Qt::Key_Delete);
+    runUntil([&] { return machine.trash.trashed().size() == 1; });
+}
+
 }  // namespace zelk

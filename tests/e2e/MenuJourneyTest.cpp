@@ -104,4 +104,34 @@ TEST_F(Menus, f1OpensTheHelpInEveryWindow) {
     EXPECT_TRUE(help->isVisible());
 }
 
+TEST_F(Menus, keyOfAScreenShowsWhereTheKeyboardIs) {
+    click("sidebarTools");
+    press(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(focusName(), QStringLiteral("scanButton"));
+    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool());
+    press(Qt::Key_6, Qt::ControlModifier);
+    EXPECT_EQ(focusName(), QStringLiteral("moduleScanButton"));
+    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool());
+}
+
+TEST_F(Menus, keyOfTheScreenInSightShowsWhereTheKeyboardIs) {
+    ASSERT_FALSE(window().activeFocusItem()->property("visualFocus").toBool());
+    press(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(focusName(), QStringLiteral("scanButton"));
+    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool());
+}
+
+TEST_F(Menus, keyOfAScreenTakesTheKeyboardOutOfTheSidebar) {
+    find("sidebarLens")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_6, Qt::ControlModifier);
+    EXPECT_EQ(focusName(), QStringLiteral("moduleScanButton"));
+}
+
+TEST_F(Menus, keyThatRunsASurveyShowsWhereTheKeyboardIs) {
+    machine.directories.hold(home + "/wide/inner");
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(focusName(), QStringLiteral("scanButton"));
+    EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool());
+}
+
 }  // namespace zelk

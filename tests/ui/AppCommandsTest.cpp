@@ -152,4 +152,34 @@ TEST_F(Commands, systemsMenuBarKnowsBothKeysOfHelp) {
     EXPECT_THAT(help->shortcuts(), ElementsAre(QKeySequence(QStringLiteral("Ctrl+?")), QKeySequence(Qt::Key_F1)));
 }
 
+TEST_F(Commands, keyTellsWhetherItLeadsToAScreen) {
+    std::vector<bool> told;
+    QObject::connect(&commands, &AppCommands::ranByKey, &commands,
+                     [&](bool leadsToScreen) { told.push_back(leadsToScreen); });
+    press(QStringLiteral("Ctrl+2"));
+    press(QStringLiteral("Ctrl+,"));
+    EXPECT_THAT(told, ElementsAre(true, false));
+    commands.menus()[2]->run(0);
+    EXPECT_EQ(told.size(), 2U) << "the mouse chose that one";
+}
+
+TEST_F(Commands, keyTellsNothingWhileAQuestionIsOpen) {
+    bool busy = true;
+    AppCommands asked(
+        model(), [](WindowId) {}, [&] { busy = true; }, [&] { return busy; });
+    int told = 0;
+    QObject::connect(&asked, &AppCommands::ranByKey, &asked, [&] { ++told; });
+    const auto run = [&](const char* key) {
+        asked.runShortcut(static_cast<int>(asked.shortcuts().indexOf(QString::fromLatin1(key))));
+    };
+    run("Ctrl+2");
+    EXPECT_EQ(model().selection(), Screen::survey);
+    busy = false;
+    run("Ctrl+Q");
+    EXPECT_EQ(told, 0) << "it came to a question";
+    busy = false;
+    run("Ctrl+2");
+    EXPECT_EQ(told, 1);
+}
+
 }  // namespace zelk

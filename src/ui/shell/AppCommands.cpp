@@ -20,7 +20,8 @@ std::vector<Command> goCommands(AppModel& app) {
         const int place = static_cast<int>(commands.size());
         const QKeySequence shortcut =
             place < digitKeys ? QKeySequence(QStringLiteral("Ctrl+%1").arg(place + 1)) : QKeySequence();
-        commands.push_back({lookOf(screen).title, shortcut, [&app, screen] { app.setSelection(screen); }});
+        commands.push_back(
+            {lookOf(screen).title, shortcut, [&app, screen] { app.setSelection(screen); }, Command::Part::screen});
     }
     return commands;
 }
@@ -69,10 +70,16 @@ void AppCommands::run(const Command& command) const {
     if (command.part == Command::Part::quit || !busy_()) command.run();
 }
 
+void AppCommands::runByKey(const Command& command) {
+    const bool asking = busy_();
+    run(command);
+    if (!asking && !busy_()) emit ranByKey(command.part == Command::Part::screen);
+}
+
 void AppCommands::runShortcut(int place) {
     const std::vector<Key> all = keys();
     if (place >= 0 && static_cast<std::size_t>(place) < all.size())
-        run(*all[static_cast<std::size_t>(place)].command);
+        runByKey(*all[static_cast<std::size_t>(place)].command);
 }
 
 std::vector<AppCommands::Key> AppCommands::keys() const {

@@ -40,10 +40,17 @@ public:
     /// The keys of all entries, as the toolkit writes them; an entry may have none, one or two.
     QStringList shortcuts() const;
     void run(const Command& command) const;
+    /// As its key does it.
+    void runByKey(const Command& command);
 
 public slots:
     /// Runs the entry at this index of `shortcuts`.
     void runShortcut(int place);
+
+signals:
+    /// Somebody who uses keys ran an entry, and no question came of it. Where it leads to a screen, the keyboard
+    /// belongs there.
+    void ranByKey(bool leadsToScreen);
 
 private:
     struct Key {

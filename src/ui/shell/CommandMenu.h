@@ -11,9 +11,10 @@
 
 namespace zelk {
 
-/// A menu entry. `part` marks entries that a system with a global menu bar puts in its own place.
+/// One entry of a menu. Its part is what a system with a menu bar of its own wants to know about it, and whether it
+/// leads to a screen.
 struct Command {
-    enum class Part { ordinary, about, settings, quit };
+    enum class Part { ordinary, about, settings, quit, screen };
 
     QString title;
     QKeySequence shortcut;  ///< Control stands for Command on macOS; may be empty

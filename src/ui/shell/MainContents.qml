@@ -36,6 +36,16 @@ FocusScope {
         }
     }
 
+    Connections {
+        target: contents.commands
+        function onRanByKey(leadsToScreen: bool) {
+            if (leadsToScreen)
+                contents.enterScreen(Qt.ShortcutFocusReason);
+            else
+                contents.showKeyboard(Qt.ShortcutFocusReason);
+        }
+    }
+
     MenuStrip {
         id: menuStrip
 

@@ -17,6 +17,7 @@ QAction::MenuRole roleOf(Command::Part part) {
         case Command::Part::quit:
             return QAction::QuitRole;
         case Command::Part::ordinary:
+        case Command::Part::screen:
             return QAction::NoRole;
     }
     return QAction::NoRole;
@@ -35,7 +36,9 @@ std::unique_ptr<QMenuBar> makeNativeMenuBar(AppCommands& commands) {
             if (!command.otherShortcut.isEmpty()) keys.append(command.otherShortcut);
             action->setShortcuts(keys);
             action->setMenuRole(roleOf(command.part));
-            QObject::connect(action, &QAction::triggered, &commands, [&commands, &command] { commands.run(command); });
+            // Whether it was a key or the mouse, the system does not say.
+            QObject::connect(action, &QAction::triggered, &commands,
+                             [&commands, &command] { commands.runByKey(command); });
         }
     }
     return bar;
