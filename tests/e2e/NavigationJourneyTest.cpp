@@ -43,7 +43,7 @@ TEST_F(Navigation, rowsAreAccessible) {
     }
 }
 
-TEST_F(Navigation, theArrowsGoThroughAllRowsAndStopAtTheEnds) {
+TEST_F(Navigation, arrowKeysMoveFocusAndStopAtTheEnds) {
     toTheFirstRow();
     press(Qt::Key_Up);
     EXPECT_EQ(focusName(), QStringLiteral("sidebarOverview"));
@@ -59,7 +59,7 @@ TEST_F(Navigation, theArrowsGoThroughAllRowsAndStopAtTheEnds) {
     EXPECT_EQ(model().selection(), Screen::survey) << "moving the focus does not select";
 }
 
-TEST_F(Navigation, returnAndSpaceChoose) {
+TEST_F(Navigation, returnAndSpaceSelectScreen) {
     toTheFirstRow();
     press(Qt::Key_Down);
     press(Qt::Key_Return);

@@ -346,7 +346,7 @@ TEST_F(ClutterViewTest, menuClosesWhenListDisappears) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(ClutterWindow, deleteKeyLeavesARowAloneThatNobodyWentTo) {
+TEST_F(ClutterViewTest, deleteKeyLeavesARowAloneThatNobodyWentTo) {
     open();
     ASSERT_TRUE(listHasKeyboard());
     press(Qt::Key_Delete);
@@ -356,7 +356,7 @@ TEST_F(ClutterWindow, deleteKeyLeavesARowAloneThatNobodyWentTo) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/concert.mov"});
 }
 
-TEST_F(ClutterWindow, deleteKeyActsOnARowThatWasPressed) {
+TEST_F(ClutterViewTest, deleteKeyActsOnARowThatWasPressed) {
     open();
     tour::clickAt(window(), middleOf(1));
     settle();
@@ -364,7 +364,7 @@ TEST_F(ClutterWindow, deleteKeyActsOnARowThatWasPressed) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/setup.iso"});
 }
 
-TEST_F(ClutterWindow, deleteKeyLeavesTheRowAloneAfterTheScreenWasLeft) {
+TEST_F(ClutterViewTest, deleteKeyLeavesTheRowAloneAfterTheScreenWasLeft) {
     open();
     tabToTheList();
     view().setVisible(false);
@@ -374,7 +374,7 @@ TEST_F(ClutterWindow, deleteKeyLeavesTheRowAloneAfterTheScreenWasLeft) {
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
 }
 
-TEST_F(ClutterWindow, deleteKeyLeavesTheRowsOfAnotherSurveyOrOrderAlone) {
+TEST_F(ClutterViewTest, deleteKeyLeavesTheRowsOfAnotherSurveyOrOrderAlone) {
     open();
     tabToTheList();
     survey();
@@ -389,7 +389,7 @@ TEST_F(ClutterWindow, deleteKeyLeavesTheRowsOfAnotherSurveyOrOrderAlone) {
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
 }
 
-TEST_F(ClutterWindow, deleteKeyActsWithNoOtherKeyHeld) {
+TEST_F(ClutterViewTest, deleteKeyActsWithNoOtherKeyHeld) {
     const TextsOf linuxTexts(desktopLinux);
     open();
     tabToTheList();
@@ -403,7 +403,7 @@ TEST_F(ClutterWindow, deleteKeyActsWithNoOtherKeyHeld) {
     EXPECT_EQ(machine.trash.trashed().size(), 1U);
 }
 
-TEST_F(ClutterWindow, commandAndDeleteMoveAFileToTheTrashOnMacOS) {
+TEST_F(ClutterViewTest, commandAndDeleteMoveAFileToTheTrashOnMacOS) {
     const TextsOf macTexts(macOS);
     open();
     tabToTheList();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A value on a line, moved by the pointer, the wheel, the arrow keys and, in larger steps, the page keys.
+// A slider with pointer, wheel, arrow key and page key input.
 pragma ComponentBehavior: Bound
 
 import QtQuick

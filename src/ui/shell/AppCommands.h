@@ -37,7 +37,7 @@ public:
     /// From left to right; owned by this.
     QList<CommandMenu*> menus() const;
     QVariantList menusForViews() const;
-    /// The keys of all entries, as the toolkit writes them; an entry may have none, one or two.
+    /// The shortcuts of all entries in Qt's portable format; an entry may have none, one or two.
     QStringList shortcuts() const;
     void run(const Command& command) const;
     /// As its key does it.

@@ -11,8 +11,8 @@
 
 namespace zelk {
 
-/// One entry of a menu. Its part is what a system with a menu bar of its own wants to know about it, and whether it
-/// leads to a screen.
+/// A menu entry. `part` marks entries that a system with a global menu bar puts in its own place, and those that lead
+/// to a screen.
 struct Command {
     enum class Part { ordinary, about, settings, quit, screen };
 
@@ -20,8 +20,8 @@ struct Command {
     QKeySequence shortcut;  ///< Control stands for Command on macOS; may be empty
     std::function<void()> run;
     Part part = Part::ordinary;
-    bool startsGroup = false;         ///< a divider stands before it
-    QKeySequence otherShortcut = {};  ///< works too, and is not written beside the entry
+    bool startsGroup = false;         ///< preceded by a divider
+    QKeySequence otherShortcut = {};  ///< an alternative that the menu does not show
 };
 
 /// A menu of the menu bar, as a list model of its entries. Main thread.

@@ -56,7 +56,7 @@ std::optional<std::string> onlyEntryDecodingTo(const std::string& name, const st
 }  // namespace
 
 std::optional<std::string> pickFolder(FileManager& files) {
-    const HomeStaysAway homeStaysAway;
+    const UserSettingsGuard settingsGuard;
     const QString title = QCoreApplication::translate("FolderPicker", "Choose a folder to survey");
     const QUrl home = QUrl::fromLocalFile(QDir::homePath());
     const QUrl url =

@@ -9,8 +9,8 @@
 
 namespace zelk {
 
-/// Asks the person for one folder, modally and from the home folder on, and gives its path in the bytes that the system
-/// has for it; absent if none was chosen. Makes no home folder that does not exist. Main thread, with a QApplication.
+/// Opens a modal folder dialog, which starts in the home folder, and returns the path of the chosen folder, as bytes;
+/// absent if cancelled. Does not create a missing home folder. Main thread; needs a QApplication.
 std::optional<std::string> pickFolder(FileManager& files);
 
 /// Converts the URL that a folder dialog returned. A URL can hold any bytes, but a dialog that converted the path from

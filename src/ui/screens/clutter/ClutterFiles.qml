@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The list of the heaviest files under its head, and the one menu of all its rows. Enter and the menu key open the menu
-// of the current row. The key that moves a file to the Trash acts on a row that the person went to.
+// The list of large files with its head, and the context menu that its rows share. Return and the menu key open the
+// menu of the current row. The Trash key moves the file of a row that the person went to.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -67,7 +67,7 @@ FocusScope {
             if (!event.isAutoRepeat)
                 list.openMenuByKey();
         }
-        // A held key takes one file away and not all that move up.
+        // Ignores auto-repeat, which would delete one file after another as they move up.
         Keys.onPressed: event => {
             if (!files.clutter.isTrashKey(event.key, event.modifiers))
                 return;

@@ -87,7 +87,7 @@ bool ClutterScreenModel::isTrashKey(int key, int modifiers) const {
     return key == Qt::Key_Delete && held == Qt::NoModifier;
 }
 
-/// Of a survey under way nothing is known yet.
+/// Skipped during a survey, whose results are not known yet.
 void ClutterScreenModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
     std::vector<FileType> types;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A heading and below it, on a card where there is room for one, what belongs together.
+// A heading and the settings below it, on a card where there is room for one.
 pragma ComponentBehavior: Bound
 
 import QtQuick

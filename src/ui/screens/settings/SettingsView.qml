@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The settings, as a screen with the header of a module, and without it as a small window of their own. There they
-// stand close together and on no cards, so that the window shows all of them at the usual text size.
+// The settings, as a screen with a module header, or without one in a small window. There they stand close together and
+// on no cards, so that the window shows all of them at the usual text size.
 pragma ComponentBehavior: Bound
 
 import QtQuick
