@@ -8,7 +8,6 @@
 #include "fakes/TrashContent.h"
 #include "platform/NativePlatform.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
-#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 
@@ -112,7 +111,7 @@ TEST_F(LensJourney, removesFoldersWithMouse) {
     click("sidebarOverview");
     EXPECT_EQ(model().root()->size, 3'087'000'000);
     EXPECT_EQ(model().reclaimableBytes(), 0);
-    runUntil([&] { return main().survey().recoverable() == byteFigure(0); });
+    runUntil([&] { return main().survey().recoverable() == 0; });
 }
 
 TEST_F(LensJourney, removesFoldersWithKeyboardAlone) {

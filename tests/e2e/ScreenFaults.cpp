@@ -36,7 +36,7 @@ std::vector<ShownItem> shownItems(QQuickWindow& window) {
 }
 
 bool isText(const QQuickItem& item) {
-    return item.inherits("QQuickText") || item.inherits("zelk::FigureText");
+    return item.inherits("QQuickText") || item.inherits("zelk::NumberItem");
 }
 
 QString textOf(const QQuickItem& item) {

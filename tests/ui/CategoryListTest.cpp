@@ -5,6 +5,7 @@
 
 #include "ui/ReclaimFixture.h"
 #include "ui/RowMirror.h"
+#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 
@@ -65,7 +66,8 @@ TEST_F(CategoryListTest, listsLargestFirstWhateverTheAge) {
         EXPECT_EQ(text(row, CategoryList::nameRole), expected.name);
         EXPECT_EQ(text(row, CategoryList::noteRole), expected.note);
         EXPECT_EQ(list().data(list().index(row), CategoryList::tintRole).value<QColor>(), expected.tint);
-        EXPECT_EQ(text(row, CategoryList::bytesRole), expected.bytes);
+        EXPECT_EQ(byteFigure(list().data(list().index(row), CategoryList::bytesRole).toLongLong()).toStdString(),
+                  expected.bytes);
         EXPECT_EQ(text(row, CategoryList::countRole), expected.count);
         EXPECT_EQ(chosen(row), expected.chosen) << expected.id;
         EXPECT_THAT(text(row, CategoryList::spokenRole), HasSubstr(expected.name));

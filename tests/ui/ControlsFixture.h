@@ -70,7 +70,7 @@ FocusScope {
             objectName: "card"
             symbol: "gearshape"
             title: "Large Files"
-            value: "12 GB"
+            value: 12e9
             detail: "40 items"
             tint: "#123456"
             enabled: board.able

@@ -47,7 +47,7 @@ protected:
 }  // namespace
 
 TEST_F(FiguresWindow, aStatBlockIsItsNameOverItsValue) {
-    showOne(QStringLiteral("StatBlock { objectName: 'one'; label: 'Files'; value: '1,234' }"));
+    showOne(QStringLiteral("StatBlock { objectName: 'one'; label: 'Files'; value: 1234; format: NumberItem.Count }"));
     ASSERT_NE(showing("Files"), nullptr);
     ASSERT_NE(showing("1,234"), nullptr);
     EXPECT_EQ(sizeOf("Files"), 11);
@@ -71,7 +71,7 @@ TEST_F(FiguresWindow, anEyebrowIsUpperCasedAndSpaced) {
 
 TEST_F(FiguresWindow, aRingGaugeIs108SquareWithItsTextsInsideAndUnder) {
     showOne(
-        QStringLiteral("RingGauge { objectName: 'one'; value: 0.5; center: '50%'; caption: 'memory'; "
+        QStringLiteral("RingGauge { objectName: 'one'; value: 0.5; center: 50; caption: 'memory'; "
                        "color: 'red'; detail: '8 GB of 16 GB' }"));
     const auto* ring = only<RingPicture>();
     ASSERT_NE(ring, nullptr);
@@ -92,7 +92,8 @@ TEST_F(FiguresWindow, aRingGaugeIs108SquareWithItsTextsInsideAndUnder) {
 TEST_F(FiguresWindow, aRingGaugeKeepsLongTextsInsideItsRing) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     showOne(
-        QStringLiteral("RingGauge { objectName: 'one'; value: 0.5; center: '123.45 GB'; caption: 'of everything'; "
+        QStringLiteral("RingGauge { objectName: 'one'; value: 0.5; center: 123.45e9; format: NumberItem.Bytes; "
+                       "caption: 'of everything'; "
                        "color: 'red'; detail: '' }"));
     const auto* ring = only<RingPicture>();
     for (const char* text : {"123.45 GB", "of everything"}) {
@@ -131,7 +132,7 @@ TEST_F(FiguresWindow, aProgressBarRunsWithMotion) {
 
 TEST_F(FiguresWindow, aModuleCardHasItsTileItsTextsAndTheWayOn) {
     showOne(
-        QStringLiteral("ModuleCard { objectName: 'one'; symbol: 'tray.full'; title: 'Clutter'; value: '3 GB'; "
+        QStringLiteral("ModuleCard { objectName: 'one'; symbol: 'tray.full'; title: 'Clutter'; value: 3e9; "
                        "detail: '12 large files'; tint: 'red' }"));
     EXPECT_GE(one().width(), 140);
     EXPECT_EQ(one().property("padding").toDouble(), 16);
@@ -155,7 +156,7 @@ TEST_F(FiguresWindow, aModuleCardHasItsTileItsTextsAndTheWayOn) {
 
 TEST_F(FiguresWindow, aModuleCardIsNeverNarrowerThan140) {
     showOne(
-        QStringLiteral("ModuleCard { objectName: 'one'; symbol: 'tray.full'; title: ''; value: '0'; detail: ''; "
+        QStringLiteral("ModuleCard { objectName: 'one'; symbol: 'tray.full'; title: ''; value: 0; detail: ''; "
                        "tint: 'red' }"));
     EXPECT_EQ(one().width(), 140);
 }

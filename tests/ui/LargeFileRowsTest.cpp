@@ -146,6 +146,7 @@ TEST(LargeFileRows, signalsChangedSizeAndAge) {
     const QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
     rows.show({file("/a", 2'000'000)}, rowsNow + 40 * secondsPerDay);
     EXPECT_EQ(text(rows, 0, "size"), "2 MB");
+    EXPECT_EQ(text(rows, 0, "bytes"), "2000000");
     EXPECT_EQ(text(rows, 0, "age"), "1mo ago");
     EXPECT_EQ(changed.size(), 1);
 }

@@ -68,7 +68,7 @@ TEST_F(LensRowsTest, rowDescribesItsFolder) {
     fill(3);
     child(0)->append(FSNode::make("inside", 0));
     EXPECT_EQ(text(0, LensRows::nameRole), "a");
-    EXPECT_EQ(text(0, LensRows::sizeRole), "30 bytes");
+    EXPECT_EQ(text(0, LensRows::sizeRole), "30");
     EXPECT_EQ(text(0, LensRows::spokenRole), "a, 30 bytes, folder");
     EXPECT_EQ(text(0, LensRows::infoRole), "What is a?");
     EXPECT_TRUE(rows.index(0).data(LensRows::drillableRole).toBool());

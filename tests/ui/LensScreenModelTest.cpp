@@ -307,7 +307,7 @@ TEST_F(LensScreenModelTest, newSurveyKeepsPlaceAndSelection) {
     survey();
     EXPECT_EQ(place(), "projects");
     EXPECT_TRUE(ticked("app"));
-    EXPECT_EQ(column(LensRows::sizeRole).front(), "10 MB");
+    EXPECT_EQ(column(LensRows::sizeRole).front(), "10000000");
     EXPECT_EQ(lens().walk().selected().begin()->first, home + "/projects/app")
         << "the path holds although the model has a newer tree";
     EXPECT_EQ(lens().walk().currentNode()->fullPath(), home + "/projects");

@@ -21,6 +21,19 @@ TEST(Motion, turnTakes1400Milliseconds) {
     EXPECT_EQ(Motion().turn(), 1400);
 }
 
+TEST(Motion, animationsOfNumbersHaveTheirDurations) {
+    Motion motion;
+    motion.setReduced(false);
+    EXPECT_EQ(motion.count(), 500);
+    EXPECT_EQ(motion.follow(), 250);
+    EXPECT_EQ(motion.reveal(), 900);
+    EXPECT_EQ(motion.readable(), 80) << "twelve texts a second";
+    motion.setReduced(true);
+    EXPECT_EQ(motion.count(), 0);
+    EXPECT_EQ(motion.follow(), 0);
+    EXPECT_EQ(motion.reveal(), 0);
+}
+
 TEST(Motion, notifiesOncePerChange) {
     Motion motion;
     motion.setReduced(false);

@@ -2,7 +2,9 @@
 // The texts of the Overview in each phase, read from the rendered window.
 #include "TextsOf.h"
 #include "ViewFixture.h"
+#include "ui/controls/NumberItem.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
+#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 
@@ -12,15 +14,21 @@ using Texts = std::vector<std::string>;
 
 class OverviewTexts : public ViewFixture {
 protected:
-    OverviewTexts() {
-        machine.vitals.setVolume(home, VolumeInfo{100'000'000'000, 44'000'000'000, 44'000'000'000});
-        screen.setCounting(false);
-    }
+    OverviewTexts() { machine.vitals.setVolume(home, VolumeInfo{100'000'000'000, 44'000'000'000, 44'000'000'000}); }
     ~OverviewTexts() override {
         machine.directories.release();
         close();
     }
     void open() { show(QStringLiteral("Zelk.App"), QStringLiteral("SurveyView"), "survey", &screen, {900, 1400}); }
+
+    /// The figure of this size that is in sight.
+    NumberItem* figure(int pixelSize) {
+        for (QQuickItem* item : seen())
+            if (auto* number = qobject_cast<NumberItem*>(item); number != nullptr && number->pixelSize() == pixelSize)
+                return number;
+        return nullptr;
+    }
+    static QVariantAnimation& animation(NumberItem& number) { return *number.findChild<QVariantAnimation*>(); }
 
     const TextsOf texts{macOS};
     SurveyScreenModel screen{model()};
@@ -46,12 +54,13 @@ TEST_F(OverviewTexts, showProgressDuringSurvey) {
     machine.directories.hold(home + "/wide/inner");
     open();
     screen.pressScan();
-    runUntil([&] { return screen.itemsLine().startsWith(QStringLiteral("20,00")); });
+    runUntil([&] { return screen.items() >= 20'000; });
     settle();
-    EXPECT_EQ(seenTexts(), (Texts{"Test machine", "Test chip  ·  8 cores  ·  15 GB  ·  TestOS 1.0", "44 GB free",
-                                  "of 100 GB", screen.scanned().toStdString(), "scanning…",
-                                  screen.itemsLine().toStdString(), "/home/me/wide", "cancel"}));
-    EXPECT_EQ(sizeOf(screen.scanned().toStdString().c_str()), 26);
+    const std::string bytes = byteFigure(screen.scanned()).toStdString();
+    EXPECT_EQ(seenTexts(),
+              (Texts{"Test machine", "Test chip  ·  8 cores  ·  15 GB  ·  TestOS 1.0", "44 GB free", "of 100 GB", bytes,
+                     "scanning…", groupedFigure(screen.items()).toStdString() + " items", "/home/me/wide", "cancel"}));
+    EXPECT_EQ(sizeOf(bytes.c_str()), 26);
     EXPECT_EQ(sizeOf("scanning…"), 11);
 }
 
@@ -79,6 +88,43 @@ TEST_F(OverviewTexts, showResultsAfterSurvey) {
                      "10 MB", "old.zip", "7 MB", "Trends", "0 bytes", "since your last scan · 2 tracked"}));
     EXPECT_EQ(sizeOf("recoverable"), 11);
     EXPECT_EQ(sizeOf("re-run"), 10);
+}
+
+TEST_F(OverviewTexts, followSurveyWithinQuarterOfASecond) {
+    singleton<Motion>("Motion").setReduced(false);
+    addWideFolder(home + "/wide");
+    machine.directories.hold(home + "/wide/inner");
+    open();
+    screen.pressScan();
+    runUntil([&] { return screen.items() >= 20'000; });
+    // In the button, where it fades in, and below.
+    for (NumberItem* number : {figure(26), qobject_cast<NumberItem*>(find("scannedItems"))}) {
+        ASSERT_NE(number, nullptr);
+        EXPECT_EQ(animation(*number).duration(), 250);
+        EXPECT_EQ(number->interval(), 80);
+        runUntil([&] { return number->shown() == number->text(); });
+    }
+    EXPECT_EQ(find("scannedItems")->property("text").toString(), groupedFigure(screen.items()) + " items");
+}
+
+TEST_F(OverviewTexts, countUpToRecoverableBytesAfterSurvey) {
+    singleton<Motion>("Motion").setReduced(false);
+    fillHome();
+    open();
+    survey();
+    runUntil([&] { return figure(28) != nullptr; });
+    NumberItem& recoverable = *figure(28);
+    EXPECT_EQ(recoverable.text(), QStringLiteral("60 MB"));
+    EXPECT_EQ(nameOf(find("scanButton")), "60 MB recoverable, re-run");
+    EXPECT_EQ(animation(recoverable).duration(), 900);
+    animation(recoverable).setCurrentTime(450);
+    EXPECT_EQ(recoverable.shown(), QStringLiteral("52.5 MB"));
+    runUntil([&] { return recoverable.shown() == recoverable.text(); });
+
+    // It counts up again after the next one, and not when the screen is only come back to.
+    view().setVisible(false);
+    view().setVisible(true);
+    EXPECT_EQ(recoverable.shown(), QStringLiteral("60 MB"));
 }
 
 TEST_F(OverviewTexts, reportCleanDriveIfNothingWasFound) {

@@ -8,7 +8,7 @@
 #include <set>
 
 #include "ViewFixture.h"
-#include "ui/controls/FigureText.h"
+#include "ui/controls/NumberItem.h"
 
 namespace zelk {
 
@@ -35,10 +35,12 @@ RowList {
             text: row.index
             on: row.index < 50
         }
-        CountingText {
+        AnimatedNumber {
             objectName: "figure"
             x: 100
-            text: row.index + " KB"
+            value: row.index
+            format: NumberItem.Count
+            phrase: "%1 KB"
         }
     }
 }
@@ -57,7 +59,7 @@ protected:
     std::vector<std::string> figures() {
         std::map<double, std::string> byPlace;
         for (QQuickItem* item : seen())
-            if (const auto* figure = qobject_cast<FigureText*>(item); figure != nullptr && isInTheWindow(item))
+            if (const auto* figure = qobject_cast<NumberItem*>(item); figure != nullptr && isInTheWindow(item))
                 byPlace.emplace(item->mapToScene({}).y(), figure->shown().toStdString());
         std::vector<std::string> texts;
         for (auto& [y, text] : byPlace) texts.push_back(std::move(text));

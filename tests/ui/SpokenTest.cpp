@@ -21,4 +21,9 @@ TEST(Spoken, isEmptyWithoutTexts) {
     EXPECT_EQ(Spoken::joined({QStringLiteral(""), QStringLiteral("")}), QString());
 }
 
+TEST(Spoken, saysBytesAsTheyAreWritten) {
+    EXPECT_EQ(Spoken::bytes(12e9), QStringLiteral("12 GB"));
+    EXPECT_EQ(Spoken::bytes(0), QStringLiteral("0 bytes"));
+}
+
 }  // namespace zelk

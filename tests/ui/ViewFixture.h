@@ -128,7 +128,7 @@ protected:
         std::vector<std::string> texts;
         for (QQuickItem* item : seen()) {
             const QString text = item->property("text").toString();
-            const bool isText = item->inherits("QQuickText") || item->inherits("zelk::FigureText");
+            const bool isText = item->inherits("QQuickText") || item->inherits("zelk::NumberItem");
             if (isText && !text.isEmpty()) texts.push_back(text.toStdString());
         }
         return texts;
@@ -144,7 +144,7 @@ protected:
     QQuickItem* showing(const char* text) {
         for (QQuickItem* item : seen())
             if (item->property("text").toString() == QString::fromUtf8(text) &&
-                (item->inherits("QQuickText") || item->inherits("zelk::FigureText")))
+                (item->inherits("QQuickText") || item->inherits("zelk::NumberItem")))
                 return item;
         return nullptr;
     }

@@ -10,6 +10,7 @@
 #include "Camera.h"
 #include "platform/Preferences.h"
 #include "platform/Workspace.h"
+#include "ui/controls/NumberItem.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/shell/SidebarModel.h"
 #include "ui/theme/Motion.h"
@@ -123,7 +124,9 @@ bool Tour::underWay() {
     waitUntil([this] { return !scanning() || (directories_.paused() && app_.itemsScanned() > 0); });
     bool taken = true;
     if (scanning()) {
-        waitUntil([this] { return window_.survey().itemsLine() != QStringLiteral("0 items"); });
+        const auto* items = qobject_cast<NumberItem*>(findControl(window_.window(), QStringLiteral("scannedItems")));
+        if (items == nullptr) return missed("the count of items");
+        waitUntil([this, items] { return window_.survey().items() > 0 && items->shown() == items->text(); });
         taken = picture(QStringLiteral("survey-scanning"));
         for (const Screen screen : {Screen::reclaim, Screen::lens, Screen::clutter})
             taken = taken && go(screen) && picture(lookOf(screen).title.toLower() + QStringLiteral("-scanning"));

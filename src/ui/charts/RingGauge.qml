@@ -11,7 +11,9 @@ Column {
 
     // 0 (empty) to 1 (full).
     required property real value
-    required property string center
+    // The number inside: a percentage, unless it is said to be something else.
+    required property real center
+    property alias format: figure.format
     required property string caption
     required property color color
     required property string detail
@@ -36,11 +38,12 @@ Column {
             anchors.centerIn: parent
             scale: Math.min(1, inside.room / Math.max(figure.implicitWidth, name.implicitWidth, 1))
 
-            CountingText {
+            AnimatedNumber {
                 id: figure
 
                 anchors.horizontalCenter: parent.horizontalCenter
-                text: gauge.center
+                value: gauge.center
+                format: NumberItem.Percent
                 pixelSize: 22
             }
 

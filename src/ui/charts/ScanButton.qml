@@ -9,9 +9,9 @@ import Zelk.Controls
 BaseButton {
     id: button
 
-    // Byte counts with units: scanned so far, and recoverable.
-    required property string scanned
-    required property string recoverable
+    // In bytes: scanned so far, and recoverable.
+    required property real scanned
+    required property real recoverable
     required property bool idle
     required property bool scanning
     required property bool finished
@@ -95,14 +95,17 @@ BaseButton {
         }
         ScanButtonFace {
             shown: button.scanning
-            title: button.scanned
+            bytes: button.scanned
             titleSize: 26
+            duration: Motion.follow
+            interval: Motion.readable
             caption: qsTr("scanning…")
         }
         ScanButtonFace {
             shown: button.finished
-            title: button.recoverable
+            bytes: button.recoverable
             titleSize: 28
+            duration: Motion.reveal
             caption: qsTr("recoverable")
             hint: qsTr("re-run")
         }

@@ -10,8 +10,13 @@ Column {
 
     required property bool shown
     property string symbol: ""
-    required property string title
+    // A word, or a number of bytes in its place.
+    property string title: ""
+    property real bytes: NaN
     required property real titleSize
+    // How a number runs, as in AnimatedNumber.
+    property int duration: 0
+    property int interval: 0
     required property string caption
     property string hint: ""
 
@@ -23,7 +28,8 @@ Column {
     spacing: 2
     opacity: lines.shown ? 1 : 0
     scale: lines.fit * (lines.shown ? 1 : 0.9)
-    visible: opacity > 0
+    // In sight from the start, so that a number that is set then is seen to run.
+    visible: lines.shown || opacity > 0
 
     Behavior on opacity {
         NumberAnimation {
@@ -46,12 +52,16 @@ Column {
         visible: name !== ""
     }
 
-    FigureText {
+    AnimatedNumber {
         anchors.horizontalCenter: parent.horizontalCenter
-        text: lines.title
+        value: lines.bytes
+        phrase: lines.title
+        duration: lines.duration
+        interval: lines.interval
         color: Theme.accentInk
         pixelSize: lines.titleSize
         bold: true
+        mute: true
     }
 
     Text {

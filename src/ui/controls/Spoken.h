@@ -18,6 +18,8 @@ public:
 
     /// Joins the non-empty texts with commas, which screen readers pause at.
     Q_INVOKABLE static QString joined(QStringList texts);
+    /// This many bytes, as they are written too.
+    Q_INVOKABLE static QString bytes(double count);
 };
 
 }  // namespace zelk

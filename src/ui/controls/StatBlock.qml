@@ -9,7 +9,8 @@ Column {
     id: block
 
     required property string label
-    required property string value
+    required property real value
+    property alias format: figure.format
     property bool accent: false
 
     spacing: 4
@@ -20,8 +21,10 @@ Column {
         soft: true
     }
 
-    CountingText {
-        text: block.value
+    AnimatedNumber {
+        id: figure
+
+        value: block.value
         pixelSize: 18
         bold: true
         color: block.accent ? Theme.accent : Theme.ink

@@ -60,7 +60,7 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
     commands_ = std::make_unique<AppCommands>(
         app, [this](WindowId id) { secondary_->open(id); }, [this] { quitQuestion_->quit(); },
         [this] { return window_ && isCovered(*window_); });
-    pages_ = std::make_unique<DetailPages>(ScreenContext{app, services_, *motion_});
+    pages_ = std::make_unique<DetailPages>(ScreenContext{app, services_});
     if (services_.preferences != nullptr && services_.workspace != nullptr)
         firstRun_ =
             std::make_unique<FirstRunModel>(*services_.preferences, services_.accessGranted, *services_.workspace);

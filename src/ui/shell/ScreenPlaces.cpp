@@ -12,7 +12,6 @@
 #include "ui/screens/settings/SettingsScreenModel.h"
 #include "ui/screens/tools/ToolsScreenModel.h"
 #include "ui/shell/WindowServices.h"
-#include "ui/theme/Motion.h"
 
 namespace zelk {
 
@@ -26,17 +25,6 @@ std::unique_ptr<QObject> make(const ScreenContext& context) {
 template <>
 std::unique_ptr<QObject> make<SettingsScreenModel>(const ScreenContext& context) {
     return std::make_unique<SettingsScreenModel>(context.app, context.services.pickFolder);
-}
-
-template <>
-std::unique_ptr<QObject> make<SurveyScreenModel>(const ScreenContext& context) {
-    auto model = std::make_unique<SurveyScreenModel>(context.app);
-    const auto followMotion = [&motion = context.motion, survey = model.get()] {
-        survey->setCounting(!motion.reduced());
-    };
-    QObject::connect(&context.motion, &Motion::changed, model.get(), followMotion);
-    followMotion();
-    return model;
 }
 
 template <Screen screen>

@@ -9,14 +9,12 @@
 namespace zelk {
 
 class AppModel;
-class Motion;
 struct WindowServices;
 
 /// What the models of screens are created from. Outlives them.
 struct ScreenContext {
     AppModel& app;
     const WindowServices& services;
-    const Motion& motion;
 };
 
 /// Describes a screen: its view, and a factory for the model that the view takes as a required property.

@@ -18,6 +18,9 @@ class Motion : public QObject {
     Q_PROPERTY(int quick READ quick NOTIFY changed FINAL)
     Q_PROPERTY(int gentle READ gentle NOTIFY changed FINAL)
     Q_PROPERTY(int count READ count NOTIFY changed FINAL)
+    Q_PROPERTY(int follow READ follow NOTIFY changed FINAL)
+    Q_PROPERTY(int reveal READ reveal NOTIFY changed FINAL)
+    Q_PROPERTY(int readable READ readable CONSTANT FINAL)
     Q_PROPERTY(int turn READ turn CONSTANT FINAL)
 
 public:
@@ -35,6 +38,12 @@ public:
     int gentle() const { return reduced_ ? 0 : 260; }
     /// Milliseconds, for a number that counts to its next value.
     int count() const { return reduced_ ? 0 : 500; }
+    /// Milliseconds, for a number that follows a survey, which changes it many times a second.
+    int follow() const { return reduced_ ? 0 : 250; }
+    /// Milliseconds, for the result of a survey, which counts up from zero.
+    int reveal() const { return reduced_ ? 0 : 900; }
+    /// Minimum milliseconds between two texts of a changing number, so that it is readable: twelve texts a second.
+    int readable() const { return 80; }
     /// Milliseconds per revolution of the scan button's decoration, which stands still with reduced motion.
     int turn() const { return 1400; }
 

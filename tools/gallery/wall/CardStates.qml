@@ -20,7 +20,7 @@ Section {
         ModuleCard {
             symbol: "sparkles"
             title: "Reclaim"
-            value: "41.86 GB"
+            value: 41.86e9
             detail: "318 items"
             tint: "#32c77b"
         }
@@ -33,7 +33,7 @@ Section {
         ModuleCard {
             symbol: "arrow.down.circle"
             title: cards.longText
-            value: "0 bytes"
+            value: 0
             detail: cards.longText
             tint: "#56c2f5"
         }

@@ -45,33 +45,34 @@ Section {
 
         RingGauge {
             value: 0.62
-            center: "62%"
+            center: 62
             caption: "memory"
             color: "#a77bff"
             detail: "22.3 of 36 GB"
         }
         RingGauge {
             value: 0
-            center: "0%"
+            center: 0
             caption: "processor"
             color: "#3e9bff"
             detail: ""
         }
         RingGauge {
             value: 1.7
-            center: "100%"
+            center: 100
             caption: "drive"
             color: "#ff6b5e"
             detail: section.figures.longText
         }
         StatBlock {
             label: "Recoverable"
-            value: "41.86 GB"
+            value: 41.86e9
             accent: true
         }
         StatBlock {
-            label: "Uptime"
-            value: "3 d 4 h"
+            label: "Files"
+            value: 318204
+            format: NumberItem.Count
         }
         Sparkline {
             values: section.figures.history
@@ -134,8 +135,8 @@ Section {
             value: 1
             progress: "40 of 40"
         }
-        CountingText {
-            text: "178.12 GB"
+        AnimatedNumber {
+            value: 178.12e9
         }
         Words {
             width: 240

@@ -16,8 +16,8 @@ Section {
 
     component Face: ScanButton {
         text: "Scan"
-        scanned: "41.86 GB"
-        recoverable: "41.86 GB"
+        scanned: 41.86e9
+        recoverable: 41.86e9
         idle: !scanning && !finished
         scanning: false
         finished: false

@@ -15,7 +15,7 @@ void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
     edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
     // Rows that stay may have new sizes, and all have new ages.
     now_ = now;
-    allRowsChanged({ageRole, sizeRole, spokenRole});
+    allRowsChanged({ageRole, sizeRole, bytesRole, spokenRole});
 }
 
 void LargeFileRows::setTheme(const ZelkTheme& theme) {
@@ -45,6 +45,8 @@ QVariant LargeFileRows::value(std::size_t row, int role) const {
             return ageText(file.modified, now_);
         case sizeRole:
             return byteFigure(file.size);
+        case bytesRole:
+            return static_cast<qint64>(file.size);
         case spokenRole:
             return Spoken::joined(
                 {nameText(file.path), folderText(file.path), ageText(file.modified, now_), byteFigure(file.size)});

@@ -26,12 +26,13 @@ public:
         folderRole,
         ageRole,
         sizeRole,
+        bytesRole,
         spokenRole,
         actionsRole
     };
 
     explicit LargeFileRows(QObject* parent = nullptr)
-        : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "spoken", "actions"}, parent) {}
+        : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "bytes", "spoken", "actions"}, parent) {}
 
     /// Shows `files` in this order, with ages as of `now`. Delegates of rows that stay are kept.
     void show(std::vector<LargeFile> files, TimePoint now);

@@ -11,7 +11,7 @@ ListRow {
 
     required property int index
     required property string name
-    required property string size
+    required property real size // bytes
     required property var icon
     required property bool ticked
     required property bool drillable
@@ -133,16 +133,16 @@ ListRow {
             mute: true
         }
 
-        FigureText {
+        AnimatedNumber {
             id: figure
 
             anchors.right: chevron.left
             anchors.rightMargin: 8
             anchors.verticalCenter: parent.verticalCenter
-            text: row.size
+            value: row.size
+            duration: 0
             pixelSize: 12
-            color: Theme.ink
-            Accessible.ignored: true
+            mute: true
         }
 
         SymbolItem {

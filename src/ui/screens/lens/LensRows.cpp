@@ -111,7 +111,7 @@ QVariant LensRows::value(std::size_t row, int role) const {
         case nameRole:
             return displayText(node->name());
         case sizeRole:
-            return byteFigure(bytes);
+            return static_cast<qint64>(bytes);
         case iconRole:
             return iconOf_(node->fullPath());
         case tickedRole:

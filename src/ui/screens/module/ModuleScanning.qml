@@ -31,11 +31,11 @@ Item {
             font.weight: Font.DemiBold
         }
 
-        CountingText {
+        AnimatedNumber {
             anchors.horizontalCenter: parent.horizontalCenter
             objectName: "moduleScanDetail"
             width: Math.min(implicitWidth, parent.width)
-            text: progress.module.scanDetail
+            phrase: progress.module.scanDetail
             color: Theme.inkSoft
             pixelSize: 12
             visible: text !== ""

@@ -99,13 +99,13 @@ ListView {
                 }
             }
 
-            CountingText {
+            AnimatedNumber {
                 id: figure
 
                 anchors.right: parent.right
                 anchors.rightMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
-                text: place.size
+                phrase: place.size
                 pixelSize: 12
                 mute: true
             }

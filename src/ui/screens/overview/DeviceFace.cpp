@@ -15,7 +15,7 @@ DeviceFace DeviceFace::of(const DeviceInfo& device, const std::optional<VolumeIn
     face.name = displayText(device.computerName);
     face.detail = known.join(QStringLiteral("  ·  "));
     if (volume) {
-        face.freeText = tr("%1 free").arg(byteFigure(volume->available, locale));
+        face.freeBytes = static_cast<double>(volume->available);
         face.totalText = tr("of %1").arg(byteFigure(volume->total, locale));
     }
     return face;

@@ -20,14 +20,14 @@ struct DeviceFace {
     Q_DECLARE_TR_FUNCTIONS(DeviceFace)
     Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
     Q_PROPERTY(QString detail MEMBER detail CONSTANT FINAL)
-    Q_PROPERTY(QString freeText MEMBER freeText CONSTANT FINAL)
+    Q_PROPERTY(double freeBytes MEMBER freeBytes CONSTANT FINAL)
     Q_PROPERTY(QString totalText MEMBER totalText CONSTANT FINAL)
 
 public:
     QString name;
-    QString detail;    ///< the known ones of chip, cores, memory and system
-    QString freeText;  ///< empty, like the next, if the drive is unknown
-    QString totalText;
+    QString detail;        ///< the known ones of chip, cores, memory and system
+    double freeBytes = 0;  ///< of the drive
+    QString totalText;     ///< empty if the drive is unknown
 
     static DeviceFace of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume,
                          const QLocale& locale = userLocale());

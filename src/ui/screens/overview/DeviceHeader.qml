@@ -68,15 +68,16 @@ Item {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        visible: free.text !== ""
+        visible: total.text !== ""
         width: visible ? Math.max(free.implicitWidth, total.implicitWidth) : 0
         spacing: 3
 
-        CountingText {
+        AnimatedNumber {
             id: free
 
             anchors.right: parent.right
-            text: header.device.freeText
+            value: header.device.freeBytes
+            phrase: qsTr("%1 free")
             pixelSize: 15
             bold: true
         }

@@ -13,14 +13,14 @@ T.Control {
     required property color tint
     required property string name
     required property string path
-    required property string size
+    required property real bytes
     required property bool divided
 
     implicitHeight: Math.max(40, label.implicitHeight + 20)
     hoverEnabled: true
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: Spoken.joined([row.name, row.size])
+    Accessible.name: Spoken.joined([row.name, Spoken.bytes(row.bytes)])
 
     background: Item {
         Divider {
@@ -59,12 +59,12 @@ T.Control {
             mute: true
         }
 
-        CountingText {
+        AnimatedNumber {
             id: figure
 
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            text: row.size
+            value: row.bytes
             pixelSize: 12
             mute: true
         }

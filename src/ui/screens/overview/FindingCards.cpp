@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "state/AppModel.h"
-#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 
@@ -30,14 +29,14 @@ std::int64_t purgeableBytes(const AppModel& app) {
 
 std::vector<FindingCards::Card> cardsOf(const AppModel& app) {
     return {
-        {"sparkles", FindingCards::tr("Reclaim"), byteFigure(app.reclaimableBytes()),
+        {"sparkles", FindingCards::tr("Reclaim"), app.reclaimableBytes(),
          FindingCards::tr("%1 items of junk").arg(app.reclaimables().size()), QColor(50, 199, 123), Screen::reclaim},
-        {"tray.full", FindingCards::tr("Clutter"), byteFigure(largeFileBytes(app)),
+        {"tray.full", FindingCards::tr("Clutter"), largeFileBytes(app),
          FindingCards::tr("%1 large files").arg(app.insights().topFiles.size()), QColor(34, 195, 201), Screen::clutter},
-        {"arrow.down.circle", FindingCards::tr("Downloads"), byteFigure(downloadsBytes(app)),
+        {"arrow.down.circle", FindingCards::tr("Downloads"), downloadsBytes(app),
          FindingCards::tr("review what landed here"), QColor(86, 194, 245), Screen::clutter},
-        {"internaldrive", FindingCards::tr("System"), byteFigure(purgeableBytes(app)),
-         FindingCards::tr("purgeable & snapshots"), QColor(124, 131, 255), Screen::system},
+        {"internaldrive", FindingCards::tr("System"), purgeableBytes(app), FindingCards::tr("purgeable & snapshots"),
+         QColor(124, 131, 255), Screen::system},
     };
 }
 

@@ -24,7 +24,7 @@ public:
     struct Card {
         QString symbol;
         QString title;
-        QString value;
+        qint64 value;  ///< bytes
         QString detail;
         QColor tint;
         Screen screen;

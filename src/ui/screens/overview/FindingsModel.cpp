@@ -66,16 +66,13 @@ void FindingsModel::refresh() {
 }
 
 void FindingsModel::headline() {
-    const std::int64_t recoverable = app_.reclaimableBytes();
-    reviewable_ = recoverable >= 1;
-    if (!reviewable_) {
+    recoverable_ = app_.reclaimableBytes();
+    if (!reviewable()) {
         title_ = tr("Clean drive");
-        figure_.clear();
         line_ = tr("Nothing to reclaim right now — you scanned %1.").arg(byteFigure(scannedBytes(app_)));
         return;
     }
     title_ = tr("You can reclaim");
-    figure_ = byteFigure(recoverable);
     const auto types = app_.sortedTypeTotals();
     const auto items = app_.reclaimables().size();
     line_ = types.empty()

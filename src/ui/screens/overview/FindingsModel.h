@@ -21,7 +21,7 @@ class FindingsModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Part of SurveyScreenModel")
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
-    Q_PROPERTY(QString figure READ figure NOTIFY changed FINAL)
+    Q_PROPERTY(double recoverable READ recoverable NOTIFY changed FINAL)
     Q_PROPERTY(QString line READ line NOTIFY changed FINAL)
     Q_PROPERTY(QString unreadLine READ unreadLine NOTIFY changed FINAL)
     Q_PROPERTY(bool reviewable READ reviewable NOTIFY changed FINAL)
@@ -37,13 +37,13 @@ public:
     void setTheme(const ZelkTheme& theme);
 
     const QString& title() const { return title_; }
-    /// The reclaimable bytes as text; empty if there are none.
-    const QString& figure() const { return figure_; }
+    /// The reclaimable bytes.
+    qint64 recoverable() const { return recoverable_; }
     const QString& line() const { return line_; }
     /// How many folders could not be read, lest unknown space be taken for clean; empty if there are none.
     const QString& unreadLine() const { return unreadLine_; }
     /// Whether there is anything to review.
-    bool reviewable() const { return reviewable_; }
+    bool reviewable() const { return recoverable_ >= 1; }
     /// By type, largest first.
     const QList<RibbonSegment>& segments() const { return segments_; }
     qint64 freeBytes() const { return freeBytes_; }
@@ -68,10 +68,9 @@ private:
     FindingCards cards_;
     LargeFileRows largest_;
     QString title_;
-    QString figure_;
+    qint64 recoverable_ = 0;
     QString line_;
     QString unreadLine_;
-    bool reviewable_ = false;
     QList<RibbonSegment> segments_;
     qint64 freeBytes_ = 0;
 };

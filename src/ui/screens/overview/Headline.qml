@@ -31,9 +31,9 @@ Item {
             Accessible.role: Accessible.Heading
         }
 
-        CountingText {
-            text: headline.findings.figure
-            visible: text !== ""
+        AnimatedNumber {
+            value: headline.findings.recoverable
+            visible: headline.findings.reviewable
             pixelSize: 34
             bold: true
         }

@@ -10,13 +10,13 @@ BaseButton {
 
     required property string symbol
     required property string title
-    required property string value
+    required property real value // bytes
     required property string detail
     required property color tint
 
     readonly property int corner: 16
 
-    text: Spoken.joined([card.title, card.value, card.detail])
+    text: Spoken.joined([card.title, Spoken.bytes(card.value), card.detail])
     implicitWidth: Math.max(140, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: 16

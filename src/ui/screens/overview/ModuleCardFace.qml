@@ -10,7 +10,7 @@ Column {
 
     required property string symbol
     required property string title
-    required property string value
+    required property real value
     required property string detail
     required property color tint
 
@@ -58,8 +58,8 @@ Column {
         height: 18
     }
 
-    CountingText {
-        text: face.value
+    AnimatedNumber {
+        value: face.value
         pixelSize: 23
         bold: true
         mute: true

@@ -133,13 +133,14 @@ FocusScope {
                 shown: hero.survey.scanning
                 spacing: 4
 
-                FigureText {
+                AnimatedNumber {
+                    objectName: "scannedItems"
                     anchors.horizontalCenter: parent.horizontalCenter
-                    text: hero.survey.itemsLine
-                    color: Theme.ink
-                    pixelSize: 13
-                    Accessible.role: Accessible.Paragraph
-                    Accessible.name: text
+                    value: hero.survey.items
+                    format: NumberItem.Count
+                    phrase: qsTr("%1 items")
+                    duration: Motion.follow
+                    interval: Motion.readable
                 }
 
                 HeroText {

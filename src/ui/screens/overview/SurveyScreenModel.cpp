@@ -13,12 +13,9 @@ namespace zelk {
 
 namespace {
 
-constexpr int progressInterval = 80;         // milliseconds: twelve texts a second
-constexpr int countingInterval = 33;         // milliseconds, when no survey asks for the time
-constexpr double progressDuration = 0.25;    // seconds
-constexpr double spokenInterval = 3;         // seconds
-constexpr double recoverableDuration = 0.9;  // seconds
-constexpr double handoverSeconds = 1;        // longer than a person needs to notice
+constexpr int refreshInterval = 80;    // milliseconds
+constexpr double spokenInterval = 3;   // seconds
+constexpr double handoverSeconds = 1;  // longer than a person needs to notice
 
 }  // namespace
 
@@ -39,13 +36,12 @@ SurveyScreenModel::SurveyScreenModel(AppModel& app, std::function<double()> now)
       trends_(app),
       now_(std::move(now)) {
     timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, &SurveyScreenModel::tick);
+    connect(&timer_, &QTimer::timeout, this, &SurveyScreenModel::refresh);
     connect(&app, &AppModel::scanPhaseChanged, this, &SurveyScreenModel::enterPhase);
-    connect(&app, &AppModel::progressChanged, this, &SurveyScreenModel::followProgress);
-    connect(&app, &AppModel::reclaimablesChanged, this, &SurveyScreenModel::aimRecoverable);
+    connect(&app, &AppModel::progressChanged, this, &SurveyScreenModel::refreshSoon);
+    connect(&app, &AppModel::reclaimablesChanged, this, &SurveyScreenModel::refreshRecoverable);
     connect(&app, &AppModel::volumeChanged, this, &SurveyScreenModel::deviceChanged);
     enterPhase();
-    followProgress();  // of a survey that is under way already
 }
 
 bool SurveyScreenModel::idle() const {
@@ -81,13 +77,6 @@ void SurveyScreenModel::appear() {
     app_.readAbsentVolume();
 }
 
-void SurveyScreenModel::setCounting(bool counting) {
-    counting_ = counting;
-    if (counting) return;
-    for (CountingFigure* figure : {&items_, &bytes_, &recoverable_}) figure->jump(figure->target());
-    if (stale_) timer_.start(0);
-}
-
 void SurveyScreenModel::pressScan() {
     app_.startScan();
 }
@@ -110,69 +99,48 @@ void SurveyScreenModel::pressFeature(int row) {
     if (row >= 0 && row < features_.size()) app_.setSelection(features_[row].screen);
 }
 
-/// A new face is complete when it appears: its texts change before the phase does. The one that fades away keeps its
+/// A new face is complete when it appears: its figures change before the phase does. The one that fades away keeps its
 /// own for as long as it can be seen.
 void SurveyScreenModel::enterPhase() {
-    const double time = now_();
-    for (CountingFigure* figure : {&items_, &bytes_, &recoverable_}) figure->stop(time);
     if (scanning()) {
         // The model still holds the figures and the path of the survey before: they change right after the phase.
-        items_.jump(0);
-        bytes_.jump(0);
+        items_ = scanned_ = 0;
         pathLine_.clear();
     } else if (finished()) {
-        recoverable_.jump(0);
-        aim(recoverable_, app_.reclaimableBytes(), recoverableDuration);
+        recoverable_ = 0;
     }
     timer_.stop();
-    spokenAt_ = time - spokenInterval;
+    spokenAt_ = now_() - spokenInterval;
     speak();
-    refresh();
-    if (scanning())
-        refreshSoon();
-    else if (stale_)
-        startTimer();
+    emit figuresChanged();
     emit phaseChanged();
     emit buttonNameChanged();
-}
-
-void SurveyScreenModel::followProgress() {
-    if (!scanning()) return;
-    aim(items_, app_.itemsScanned(), progressDuration);
-    aim(bytes_, app_.bytesScanned(), progressDuration);
     refreshSoon();
+    refreshRecoverable();
 }
 
-void SurveyScreenModel::aimRecoverable() {
-    if (!finished()) return;
-    aim(recoverable_, app_.reclaimableBytes(), recoverableDuration);
-    refreshSoon();
-    emit buttonNameChanged();
-}
-
-void SurveyScreenModel::aim(CountingFigure& figure, std::int64_t target, double duration) {
-    if (counting_)
-        figure.aim(target, now_(), duration);
-    else
-        figure.jump(target);
-}
-
-/// With the next tick, which comes at once after a rest, yet never between two signals of one report.
+/// With the next turn of the event loop after a rest, yet never between two signals of one report.
 void SurveyScreenModel::refreshSoon() {
+    if (!scanning()) return;
     stale_ = true;
     if (!timer_.isActive()) timer_.start(0);
 }
 
-void SurveyScreenModel::startTimer() {
-    timer_.start(scanning() ? progressInterval : countingInterval);
+void SurveyScreenModel::refresh() {
+    if (!std::exchange(stale_, false)) return;
+    items_ = app_.itemsScanned();
+    scanned_ = app_.bytesScanned();
+    pathLine_ = shortenedPath(displayText(app_.currentPath()));
+    emit figuresChanged();
+    speak();
+    timer_.start(refreshInterval);
 }
 
-void SurveyScreenModel::tick() {
-    if (!stale_) return;
-    pathLine_ = shortenedPath(displayText(app_.currentPath()));
-    refresh();
-    speak();
-    startTimer();
+void SurveyScreenModel::refreshRecoverable() {
+    if (!finished()) return;
+    recoverable_ = app_.reclaimableBytes();
+    emit figuresChanged();
+    emit buttonNameChanged();
 }
 
 void SurveyScreenModel::speak() {
@@ -181,21 +149,12 @@ void SurveyScreenModel::speak() {
     if (scanning()) {
         const bool unseen = app_.selection() != Screen::survey && !spokenProgress_.isEmpty();
         if (unseen || time - spokenAt_ < spokenInterval) return;
-        text = tr("%1, %2 items").arg(byteFigure(bytes_.target()), groupedFigure(items_.target()));
+        text = tr("%1, %2 items").arg(byteFigure(scanned_), groupedFigure(items_));
     }
     spokenAt_ = time;
     if (text == spokenProgress_) return;
     spokenProgress_ = text;
     emit spokenProgressChanged();
-}
-
-void SurveyScreenModel::refresh() {
-    const double time = now_();
-    scanned_ = byteFigure(bytes_.at(time));
-    recoverableText_ = byteFigure(recoverable_.at(time));
-    itemsLine_ = tr("%1 items").arg(groupedFigure(items_.at(time)));
-    stale_ = !(items_.settled(time) && bytes_.settled(time) && recoverable_.settled(time));
-    emit figuresChanged();
 }
 
 double SurveyScreenModel::steadySeconds() {

@@ -11,7 +11,6 @@
 #include <optional>
 
 #include "state/Screen.h"
-#include "ui/screens/overview/CountingFigure.h"
 #include "ui/screens/overview/DeviceFace.h"
 #include "ui/screens/overview/FindingsModel.h"
 #include "ui/screens/overview/TrashBannerModel.h"
@@ -39,8 +38,8 @@ public:
     bool operator==(const Feature&) const = default;
 };
 
-/// The figures of the survey screen. It owns no data: every text is made from the AppModel. A survey reports far more
-/// often than anyone can read, so while one runs the texts change a dozen times a second and no more. Main thread.
+/// The figures of the survey screen. It owns no data: everything is read from the AppModel. A survey reports far more
+/// often than anyone can read, so while one runs the figures change a dozen times a second and no more. Main thread.
 class SurveyScreenModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -48,11 +47,11 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(bool idle READ idle NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool finished READ finished NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(QString scanned READ scanned NOTIFY figuresChanged FINAL)
-    Q_PROPERTY(QString recoverable READ recoverable NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(double items READ items NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(double scanned READ scanned NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(double recoverable READ recoverable NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString buttonName READ buttonName NOTIFY buttonNameChanged FINAL)
     Q_PROPERTY(QString spokenProgress READ spokenProgress NOTIFY spokenProgressChanged FINAL)
-    Q_PROPERTY(QString itemsLine READ itemsLine NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString pathLine READ pathLine NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QList<zelk::Feature> features READ features CONSTANT FINAL)
     Q_PROPERTY(zelk::DeviceFace device READ device NOTIFY deviceChanged FINAL)
@@ -62,23 +61,25 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
 
 public:
-    /// `app` must outlive it. `now` is a steady clock in seconds, by which figures run.
+    /// `app` must outlive it. `now` is a steady clock in seconds, by which a screen reader is told of progress.
     explicit SurveyScreenModel(AppModel& app, std::function<double()> now = steadySeconds);
 
     bool idle() const;
     bool scanning() const;
     bool finished() const;
 
-    /// The bytes of the survey under way, and those that can be taken back, with their units.
-    const QString& scanned() const { return scanned_; }
-    const QString& recoverable() const { return recoverableText_; }
+    /// Items and bytes of the survey under way; those of the last one until the next begins, at 0.
+    qint64 items() const { return items_; }
+    qint64 scanned() const { return scanned_; }
+    /// The bytes that the last survey found to take back. They are 0 for the moment in which the phase changes to
+    /// finished, so that what shows them counts up.
+    qint64 recoverable() const { return recoverable_; }
     /// What a screen reader says of the scan button: the figure itself, never one on the way to it.
     QString buttonName() const;
     /// What a screen reader says of the running survey: bytes and items, anew every few seconds while the screen is
     /// shown. Empty when none runs.
     const QString& spokenProgress() const { return spokenProgress_; }
 
-    const QString& itemsLine() const { return itemsLine_; }
     const QString& pathLine() const { return pathLine_; }
     const QList<Feature>& features() const { return features_; }
     DeviceFace device() const;
@@ -89,9 +90,6 @@ public:
     /// Which of the two themes the colours of its figures are chosen for.
     bool dark() const { return dark_; }
     void setDark(bool dark);
-
-    /// Whether figures run to a new value or jump there, those that are on their way too. They run by default.
-    void setCounting(bool counting);
 
 public slots:
     /// The scan button: begins a survey, and does nothing while one runs.
@@ -118,13 +116,9 @@ signals:
 
 private:
     void enterPhase();
-    void followProgress();
-    void aimRecoverable();
-    void aim(CountingFigure& figure, std::int64_t target, double duration);
     void refreshSoon();
-    void startTimer();
-    void tick();
     void refresh();
+    void refreshRecoverable();
     void speak();
     static double steadySeconds();
 
@@ -136,14 +130,10 @@ private:
     bool dark_ = true;
     std::function<double()> now_;
     QTimer timer_;
-    bool counting_ = true;
-    bool stale_ = false;  ///< what is shown is not yet what is
-    CountingFigure items_;
-    CountingFigure bytes_;
-    CountingFigure recoverable_;
-    QString scanned_;
-    QString recoverableText_;
-    QString itemsLine_;
+    bool stale_ = false;  ///< something was reported since the last refresh
+    qint64 items_ = 0;
+    qint64 scanned_ = 0;
+    qint64 recoverable_ = 0;
     QString pathLine_;
     QString spokenProgress_;
     double spokenAt_ = 0;             ///< by the clock

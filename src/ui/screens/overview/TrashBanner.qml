@@ -75,10 +75,10 @@ Item {
             side: 16
         }
 
-        CountingText {
+        AnimatedNumber {
             anchors.verticalCenter: parent.verticalCenter
-            visible: text !== ""
-            text: banner.trash.figure
+            visible: banner.trash.known
+            value: banner.trash.bytes
             bold: true
         }
 

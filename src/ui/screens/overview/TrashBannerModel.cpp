@@ -3,7 +3,6 @@
 
 #include "platform/Workspace.h"
 #include "state/AppModel.h"
-#include "ui/theme/DisplayText.h"
 #include "ui/theme/SystemTexts.h"
 
 namespace zelk {
@@ -29,8 +28,12 @@ bool TrashBannerModel::busy() const {
     return app_.emptyingTrash() || app_.trashLoading();
 }
 
-QString TrashBannerModel::figure() const {
-    return busy() || !app_.trashAccessible() ? QString() : byteFigure(app_.trashBytes());
+bool TrashBannerModel::known() const {
+    return !busy() && app_.trashAccessible();
+}
+
+qint64 TrashBannerModel::bytes() const {
+    return app_.trashBytes();
 }
 
 QString TrashBannerModel::action() const {

@@ -19,7 +19,8 @@ class TrashBannerModel : public QObject {
     Q_PROPERTY(bool shown READ shown NOTIFY changed FINAL)
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed FINAL)
     Q_PROPERTY(bool busy READ busy NOTIFY changed FINAL)
-    Q_PROPERTY(QString figure READ figure NOTIFY changed FINAL)
+    Q_PROPERTY(bool known READ known NOTIFY changed FINAL)
+    Q_PROPERTY(double bytes READ bytes NOTIFY changed FINAL)
     Q_PROPERTY(QString action READ action NOTIFY changed FINAL)
     Q_PROPERTY(QString actionName READ actionName NOTIFY changed FINAL)
 
@@ -31,8 +32,9 @@ public:
     QString subtitle() const;
     /// Whether to show a spinner instead of the size.
     bool busy() const;
-    /// The size; empty while unknown.
-    QString figure() const;
+    /// Whether bytes() is the current size of the Trash.
+    bool known() const;
+    qint64 bytes() const;
     /// The button's label; empty if there is no button.
     QString action() const;
     /// The button's accessible name, which makes sense without the text beside it.

@@ -45,9 +45,9 @@ Card {
                     Accessible.name: card.trends.arrowName
                 }
 
-                CountingText {
+                AnimatedNumber {
                     anchors.verticalCenter: parent.verticalCenter
-                    text: card.trends.delta
+                    value: card.trends.delta
                     pixelSize: 20
                     bold: true
                 }

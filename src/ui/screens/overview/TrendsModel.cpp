@@ -3,7 +3,6 @@
 
 #include "state/AppModel.h"
 #include "ui/screens/overview/Growth.h"
-#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 
@@ -53,9 +52,6 @@ QColor TrendsModel::arrowColor() const {
 QString TrendsModel::arrowName() const {
     if (delta_ == 0) return tr("unchanged");
     return delta_ > 0 ? tr("grew") : tr("shrank");
-}
-QString TrendsModel::delta() const {
-    return byteFigure(delta_ < 0 ? -delta_ : delta_);
 }
 QString TrendsModel::deltaLine() const {
     return tr("since your last scan · %1 tracked").arg(tracked_);

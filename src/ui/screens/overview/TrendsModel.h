@@ -22,7 +22,7 @@ class TrendsModel : public QObject {
     Q_PROPERTY(QString arrow READ arrow NOTIFY changed FINAL)
     Q_PROPERTY(QColor arrowColor READ arrowColor NOTIFY changed FINAL)
     Q_PROPERTY(QString arrowName READ arrowName NOTIFY changed FINAL)
-    Q_PROPERTY(QString delta READ delta NOTIFY changed FINAL)
+    Q_PROPERTY(double delta READ delta NOTIFY changed FINAL)
     Q_PROPERTY(QString deltaLine READ deltaLine NOTIFY changed FINAL)
     Q_PROPERTY(QList<qreal> totals READ totals NOTIFY changed FINAL)
     Q_PROPERTY(QString forecast READ forecast NOTIFY changed FINAL)
@@ -42,7 +42,8 @@ public:
     QColor arrowColor() const;
     /// The accessible name of the arrow.
     QString arrowName() const;
-    QString delta() const;
+    /// By how many bytes the last two totals differ.
+    qint64 delta() const { return delta_ < 0 ? -delta_ : delta_; }
     QString deltaLine() const;
     /// Bytes, oldest first.
     const QList<qreal>& totals() const { return totals_; }
@@ -70,7 +71,7 @@ private:
     const ZelkTheme* theme_ = &ZelkTheme::dark();
     ChangesModel changes_;
     bool shown_ = false;
-    qint64 delta_ = 0;
+    qint64 delta_ = 0;  // with its sign
     qsizetype tracked_ = 0;
     QList<qreal> totals_;
     QString forecast_;

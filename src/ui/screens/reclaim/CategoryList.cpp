@@ -58,7 +58,7 @@ QVariant CategoryList::value(std::size_t at, int role) const {
         case tintRole:
             return colorOf(row.category->safety);
         case bytesRole:
-            return byteFigure(row.bytes);
+            return static_cast<qint64>(row.bytes);
         case countRole:
             return countText(row.items);
         case chosenRole:

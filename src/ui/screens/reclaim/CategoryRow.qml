@@ -12,7 +12,7 @@ ListRow {
     required property string name
     required property string note
     required property color tint
-    required property string bytes
+    required property real bytes
     required property string itemCount
     required property bool chosen
     required property string spoken
@@ -114,9 +114,9 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        CountingText {
+        AnimatedNumber {
             anchors.right: parent.right
-            text: row.bytes
+            value: row.bytes
             pixelSize: 12
             bold: true
             mute: true

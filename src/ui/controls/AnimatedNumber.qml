@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A figure that runs to its next value and is said as a text. The model gives the last text at once.
+// A number that runs to its next value, in the theme's ink. A screen reader hears that value from the start.
 pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.Controls
 
-FigureText {
-    id: figure
+NumberItem {
+    id: number
 
     // Said by what it stands on.
     property bool mute: false
@@ -15,6 +15,6 @@ FigureText {
     color: Theme.ink
     pixelSize: 13
     Accessible.role: Accessible.Paragraph
-    Accessible.name: figure.text
-    Accessible.ignored: figure.mute
+    Accessible.name: number.text
+    Accessible.ignored: number.mute
 }

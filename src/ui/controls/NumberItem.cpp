@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "ui/controls/NumberItem.h"
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QQmlEngine>
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/TextScale.h"
+
+namespace zelk {
+
+namespace {
+
+/// The nearest integer there is.
+std::int64_t nearestInteger(double value) {
+    constexpr double end = 0x1p63;
+    if (value >= end) return std::numeric_limits<std::int64_t>::max();
+    if (value < -end) return std::numeric_limits<std::int64_t>::min();
+    return std::llround(value);
+}
+
+}  // namespace
+
+std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    double cell = 0;
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit) cell += metrics.horizontalAdvance(QChar(digit)) / 10;
+
+    std::vector<FigurePiece> pieces;
+    double x = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        qsizetype end = at + 1;
+        const bool digit = text.at(at).isDigit();
+        while (!digit && end < text.size() && !text.at(end).isDigit()) ++end;
+        const QString piece = text.mid(at, end - at);
+        const double width = digit ? cell : metrics.horizontalAdvance(piece);
+        pieces.push_back({piece, x, width});
+        x += width;
+        at = end;
+    }
+    return pieces;
+}
+
+NumberItem::NumberItem(QQuickItem* parent) : QQuickPaintedItem(parent), run_(this) {
+    run_.setStartValue(0.0);
+    run_.setEndValue(1.0);
+    run_.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&run_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& share) { advance(share.toDouble()); });
+    layOut();
+}
+
+QString NumberItem::write(double value, Format format, const QLocale& locale) {
+    const std::int64_t number = nearestInteger(value);
+    switch (format) {
+        case Bytes:
+            return byteFigure(number, locale);
+        case Count:
+            return groupedFigure(number, locale);
+        case Percent:
+            return groupedFigure(number, locale) + QLatin1Char('%');
+    }
+    return {};
+}
+
+void NumberItem::componentComplete() {
+    QQuickPaintedItem::componentComplete();
+    QQmlEngine* engine = qmlEngine(this);
+    if (engine == nullptr) return;
+    auto* scale = engine->singletonInstance<TextScale*>(qmlTypeId("Zelk.Controls", 1, 0, "TextScale"));
+    if (scale == nullptr) return;
+    scale_ = scale;
+    connect(scale, &TextScale::factorChanged, this, &NumberItem::layOut);
+    layOut();
+}
+
+/// What comes into sight again, perhaps in a row that shows something else by then, does not run to its end there.
+void NumberItem::itemChange(ItemChange change, const ItemChangeData& value) {
+    QQuickPaintedItem::itemChange(change, value);
+    if (change == ItemVisibleHasChanged && !value.boolValue) settle();
+}
+
+bool NumberItem::canRun() const {
+    return duration_ > 0 && isComponentComplete() && isVisible() && !std::isnan(position_) && !std::isnan(value_);
+}
+
+void NumberItem::setValue(double value) {
+    if (value == value_ || (std::isnan(value) && std::isnan(value_))) return;
+    value_ = value;
+    run_.stop();
+    if (canRun()) {
+        origin_ = position_;
+        run_.setDuration(duration_);
+        run_.start();
+    } else {
+        settle();
+    }
+    reword();
+    emit valueChanged();
+}
+
+void NumberItem::setFormat(Format format) {
+    if (format == format_) return;
+    format_ = format;
+    reword();
+    emit formatChanged();
+}
+
+void NumberItem::setPhrase(const QString& phrase) {
+    if (phrase == phrase_) return;
+    phrase_ = phrase;
+    reword();
+    emit phraseChanged();
+}
+
+void NumberItem::setDuration(int duration) {
+    if (duration == duration_) return;
+    duration_ = duration;
+    if (duration == 0) settle();
+    emit durationChanged();
+}
+
+void NumberItem::setInterval(int interval) {
+    if (interval == interval_) return;
+    interval_ = interval;
+    emit intervalChanged();
+}
+
+/// The position moves with every frame also where the text does not, or a number that is aimed anew all the time would
+/// never get anywhere.
+void NumberItem::advance(double share) {
+    position_ = share < 1 ? origin_ + (value_ - origin_) * share : value_;
+    const bool tooSoon = interval_ > 0 && sinceShown_.isValid() && !sinceShown_.hasExpired(interval_);
+    if (share >= 1 || !tooSoon) show();
+}
+
+void NumberItem::settle() {
+    run_.stop();
+    position_ = value_;
+    show();
+}
+
+/// Says the value in its new words at once. A run takes them up with its next step.
+void NumberItem::reword() {
+    if (run_.state() == QAbstractAnimation::Stopped) show();
+    const QString text = lineOf(value_);
+    if (text == text_) return;
+    text_ = text;
+    emit textChanged();
+}
+
+void NumberItem::show() {
+    const QString line = lineOf(position_);
+    if (line == shown_) return;
+    shown_ = line;
+    sinceShown_.start();
+    layOut();
+}
+
+QString NumberItem::lineOf(double number) const {
+    if (std::isnan(number)) return phrase_;
+    const QString figure = write(number, format_);
+    return phrase_.isEmpty() ? figure : QString(phrase_).replace(QStringLiteral("%1"), figure);
+}
+
+void NumberItem::setColor(const QColor& color) {
+    if (color == color_) return;
+    color_ = color;
+    update();
+    emit colorChanged();
+}
+
+void NumberItem::setPixelSize(int pixelSize) {
+    if (pixelSize == pixelSize_) return;
+    pixelSize_ = pixelSize;
+    layOut();
+    emit pixelSizeChanged();
+}
+
+void NumberItem::setBold(bool bold) {
+    if (bold == bold_) return;
+    bold_ = bold;
+    layOut();
+    emit boldChanged();
+}
+
+QFont NumberItem::font() const {
+    QFont font = QGuiApplication::font();
+    const int pixels = std::max(1, static_cast<int>(std::lround(pixelSize_ * (scale_ ? scale_->factor() : 1.0))));
+    font.setPixelSize(pixels);
+    font.setWeight(bold_ ? QFont::Bold : QFont::Medium);
+    // Large and bold, the face wants its letters a little closer.
+    if (bold_) font.setLetterSpacing(QFont::AbsoluteSpacing, -0.02 * pixels);
+    return font;
+}
+
+void NumberItem::layOut() {
+    pieces_ = layOutFigure(shown_, font());
+    const double width = pieces_.empty() ? 0 : pieces_.back().x + pieces_.back().width;
+    setImplicitSize(std::ceil(width), std::ceil(QFontMetricsF(font()).height()));
+    update();
+}
+
+void NumberItem::paint(QPainter* painter) {
+    painter->setRenderHint(QPainter::TextAntialiasing);
+    painter->setFont(font());
+    painter->setPen(color_);
+    const QFontMetricsF metrics(font());
+    for (const FigurePiece& piece : pieces_) {
+        const double inset = (piece.width - metrics.horizontalAdvance(piece.text)) / 2;
+        painter->drawText(QPointF(piece.x + inset, metrics.ascent()), piece.text);
+    }
+}
+
+}  // namespace zelk
+
+#include "moc_NumberItem.cpp"
