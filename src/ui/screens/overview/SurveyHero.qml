@@ -30,8 +30,6 @@ FocusScope {
                 scanButton.focus = true;
                 return;
             }
-            if (focused !== scanButton && !hero.survey.scanning)
-                hero.survey.handOver();
             const ringed = (focused as T.AbstractButton)?.visualFocus ?? false;
             scanButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
         }
@@ -161,6 +159,9 @@ FocusScope {
                     objectName: "cancelButton"
                     text: qsTr("cancel")
                     onClicked: hero.survey.cancel()
+                    // Gone with its phase while it had the keyboard, which the scan button gets.
+                    onActiveFocusChanged: if (!activeFocus && !hero.survey.scanning)
+                        hero.survey.handOver()
                 }
             }
 
