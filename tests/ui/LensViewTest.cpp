@@ -19,7 +19,7 @@ protected:
     ~LensViewTest() override { close(); }
 
     void open(QSize size = {1046, 800}) {
-        show(QStringLiteral("Zelk.App"), QStringLiteral("LensView"), "lens", &lens(), size);
+        show(QStringLiteral("Zelk.App"), QStringLiteral("MapView"), "lens", &lens(), size);
     }
     /// Surveys and opens the screen with the focus on the first row.
     void openSurveyed() {

@@ -13,14 +13,14 @@ protected:
 
     void openFor(AppModel::Audience audience) {
         surveyFor(audience);
-        show(QStringLiteral("Zelk.App"), QStringLiteral("ReclaimView"), "reclaim", &screen(), {1046, 800});
+        show(QStringLiteral("Zelk.App"), QStringLiteral("DevCleanupView"), "reclaim", &screen(), {1046, 800});
     }
 };
 
 }  // namespace
 
 TEST_F(ReclaimWindow, introducesItselfBeforeSurvey) {
-    show(QStringLiteral("Zelk.App"), QStringLiteral("ReclaimView"), "reclaim", &screen(), {1046, 800});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("DevCleanupView"), "reclaim", &screen(), {1046, 800});
     expectTexts({"Reclaim", "Clear caches, logs, and developer junk — safely, to the Trash.", "Scan for junk"});
 }
 

@@ -20,7 +20,7 @@ TEST_F(RightToLeft, namesStayBesideTheirIcons) {
     put(std::string("/") + hebrewName + "/a", 5'000'000);
     put("/music/song.flac", 8'000'000);
     survey();
-    show(QStringLiteral("Zelk.App"), QStringLiteral("LensView"), "lens", &lens(), {1046, 800});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("MapView"), "lens", &lens(), {1046, 800});
     const QQuickItem* hebrew = showing(hebrewName);
     const QQuickItem* english = showing("music");
     ASSERT_NE(hebrew, nullptr);
@@ -36,7 +36,7 @@ TEST_F(RightToLeft, longNamesLoseTheirMiddle) {
     put("/" + name + "/a", 5'000'000);
     put("/music/song.flac", 8'000'000);
     survey();
-    show(QStringLiteral("Zelk.App"), QStringLiteral("LensView"), "lens", &lens(), {1046, 800});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("MapView"), "lens", &lens(), {1046, 800});
     const QQuickItem* folder = showing(name.c_str());
     ASSERT_NE(folder, nullptr);
     EXPECT_TRUE(folder->property("truncated").toBool());

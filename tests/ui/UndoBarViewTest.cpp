@@ -51,7 +51,7 @@ protected:
     void open(QSize size = {1046, 800}) {
         fill();
         survey();
-        show(QStringLiteral("Zelk.App"), QStringLiteral("LensView"), "lens", &lens(), size);
+        show(QStringLiteral("Zelk.App"), QStringLiteral("MapView"), "lens", &lens(), size);
     }
     /// Removes the folder `name` with the pointer.
     void remove(const std::string& name = "music") {

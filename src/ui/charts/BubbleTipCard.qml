@@ -29,14 +29,14 @@ PanelGround {
         y: 8
         spacing: 2
 
-        Words {
+        Label {
             width: Math.min(implicitWidth, card.room)
             text: card.tip.label
             size: 12
             mute: true
         }
 
-        Words {
+        Label {
             width: Math.min(implicitWidth, card.room)
             text: card.tip.line
             size: 11

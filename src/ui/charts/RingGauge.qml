@@ -47,7 +47,7 @@ Column {
                 pixelSize: 22
             }
 
-            Words {
+            Label {
                 id: name
 
                 anchors.horizontalCenter: parent.horizontalCenter
@@ -58,7 +58,7 @@ Column {
         }
     }
 
-    Words {
+    Label {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(implicitWidth, Math.max(gauge.width, 108))
         text: gauge.detail

@@ -44,12 +44,12 @@ Column {
                     color: entry.modelData.color
                 }
 
-                Words {
+                Label {
                     text: entry.modelData.label
                     size: 11
                 }
 
-                Words {
+                Label {
                     text: entry.modelData.bytesText
                     size: 11
                     soft: true

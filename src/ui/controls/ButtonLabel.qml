@@ -35,7 +35,7 @@ Item {
             points: label.size * TextScale.factor
         }
 
-        Words {
+        Label {
             id: word
 
             anchors.verticalCenter: parent.verticalCenter

@@ -57,7 +57,7 @@ T.CheckBox {
                 }
             }
 
-            Wash {
+            HoverOverlay {
                 anchors.fill: parent
                 radius: parent.radius
                 control: box

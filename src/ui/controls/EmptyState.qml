@@ -34,7 +34,7 @@ Item {
             height: 4
         }
 
-        Words {
+        Label {
             width: parent.width
             text: empty.title
             size: 15
@@ -44,7 +44,7 @@ Item {
             Accessible.role: Accessible.Heading
         }
 
-        Words {
+        Label {
             width: parent.width
             text: empty.note
             visible: text !== ""

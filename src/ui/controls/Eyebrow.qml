@@ -5,7 +5,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zelk.Controls
 
-Words {
+Label {
     size: 10
     soft: true
     font.weight: Font.DemiBold

@@ -39,7 +39,7 @@ T.ToolTip {
         lift: 10
     }
 
-    contentItem: Words {
+    contentItem: Label {
         text: tip.text
         size: 11
         wrapMode: Text.Wrap

@@ -22,7 +22,7 @@ BaseButton {
 
     Accessible.description: button.help
 
-    background: Wash {
+    background: HoverOverlay {
         radius: button.corner
         control: button
 

@@ -20,13 +20,13 @@ BaseButton {
     verticalPadding: 4
     opacity: button.enabled ? 1 : 0.45
 
-    Accessible.name: Spoken.joined([button.said, button.text])
+    Accessible.name: AccessibleText.joined([button.said, button.text])
     Accessible.description: qsTr("opens a menu")
 
     onClicked: panel.visible ? panel.close() : panel.popup(button, 0, button.height + 4)
     Keys.onDownPressed: button.clicked()
 
-    background: Wash {
+    background: HoverOverlay {
         radius: 6
         control: button
 
@@ -39,7 +39,7 @@ BaseButton {
     contentItem: Row {
         spacing: 6
 
-        Words {
+        Label {
             anchors.verticalCenter: parent.verticalCenter
             text: button.text
             size: button.size

@@ -41,7 +41,7 @@ T.MenuItem {
             size: Math.round(12 * TextScale.factor)
         }
 
-        Words {
+        Label {
             text: row.text
             color: row.alarming ? Theme.alertText : Theme.ink
             size: 12

@@ -18,7 +18,7 @@ Rectangle {
     border.width: 1
     border.color: ground.chosen ? Qt.alpha(ground.tint, 0.7) : Theme.hairline
 
-    Wash {
+    HoverOverlay {
         anchors.fill: parent
         radius: height / 2
         control: ground.control

@@ -21,7 +21,7 @@ BaseButton {
         border.width: 1
         border.color: Theme.hairline
 
-        Wash {
+        HoverOverlay {
             anchors.fill: parent
             radius: height / 2
             control: plain

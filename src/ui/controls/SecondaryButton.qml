@@ -28,7 +28,7 @@ BaseButton {
         border.width: 1
         border.color: Theme.hairline
 
-        Wash {
+        HoverOverlay {
             anchors.fill: parent
             radius: secondary.corner
             control: secondary

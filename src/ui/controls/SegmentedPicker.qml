@@ -94,7 +94,7 @@ FocusScope {
                     border.width: segment.chosen ? 1 : 0
                     border.color: Theme.hairline
 
-                    Wash {
+                    HoverOverlay {
                         anchors.fill: parent
                         radius: picker.corner
                         control: segment

@@ -15,7 +15,7 @@ Column {
 
     spacing: 4
 
-    Words {
+    Label {
         text: block.label
         size: 11
         soft: true

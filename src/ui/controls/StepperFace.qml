@@ -17,7 +17,7 @@ Item {
 
     implicitHeight: Math.max(name.implicitHeight, figure.implicitHeight)
 
-    Words {
+    Label {
         id: name
 
         anchors.verticalCenter: parent.verticalCenter
@@ -29,7 +29,7 @@ Item {
         mute: true
     }
 
-    Words {
+    Label {
         id: figure
 
         x: face.width - face.boxWidth / 2 - width / 2

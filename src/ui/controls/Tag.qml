@@ -17,7 +17,7 @@ Rectangle {
     radius: 6
     color: Qt.alpha(tag.ink, tag.tint)
 
-    Words {
+    Label {
         id: word
 
         anchors.centerIn: parent

@@ -92,7 +92,7 @@ T.Switch {
         }
     }
 
-    contentItem: Words {
+    contentItem: Label {
         rightPadding: toggle.indicator.width + toggle.spacing
         text: toggle.text
         size: toggle.size

@@ -68,7 +68,7 @@ FocusScope {
         width: Math.min(bar.textRoom, Math.max(message.implicitWidth, reasons.visible ? reasons.implicitWidth : 0))
         spacing: 2
 
-        Words {
+        Label {
             id: message
 
             width: parent.width
@@ -78,7 +78,7 @@ FocusScope {
             wrapMode: Text.Wrap
         }
 
-        Words {
+        Label {
             id: reasons
 
             width: parent.width
@@ -91,7 +91,7 @@ FocusScope {
         }
     }
 
-    Words {
+    Label {
         id: dot
 
         anchors.left: texts.right

@@ -33,7 +33,7 @@ Item {
             }
         }
 
-        Words {
+        Label {
             anchors.horizontalCenter: parent.horizontalCenter
             topPadding: 12
             bottomPadding: 16
@@ -56,12 +56,12 @@ Item {
                 bottomPadding: 4
                 spacing: 8
 
-                Words {
+                Label {
                     text: row.modelData.label
                     size: 12
                     soft: true
                 }
-                Words {
+                Label {
                     text: row.modelData.value
                     size: 12
                     font.weight: Font.Medium

@@ -14,7 +14,7 @@ Item {
 
     implicitHeight: Math.max(place.tight ? 32 : 40, label.implicitHeight + 12)
 
-    Words {
+    Label {
         id: label
 
         anchors.left: parent.left

@@ -52,7 +52,7 @@ T.MenuItem {
         width: entry.availableWidth
         height: entry.availableHeight
 
-        Words {
+        Label {
             id: label
 
             anchors.left: parent.left
@@ -65,7 +65,7 @@ T.MenuItem {
             mute: true
         }
 
-        Words {
+        Label {
             id: key
 
             anchors.right: parent.right

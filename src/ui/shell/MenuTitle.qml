@@ -44,7 +44,7 @@ T.MenuBarItem {
         Accessible.name: item.plainText
         Accessible.onPressAction: item.triggered()
 
-        Words {
+        Label {
             id: label
 
             anchors.centerIn: parent

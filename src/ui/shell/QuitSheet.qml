@@ -28,7 +28,7 @@ Sheet {
             width: parent.width
             spacing: 8
 
-            Words {
+            Label {
                 width: parent.width
                 text: sheet.title
                 size: 17
@@ -37,7 +37,7 @@ Sheet {
                 Accessible.role: Accessible.Heading
             }
 
-            Words {
+            Label {
                 objectName: "quitNote"
                 width: parent.width
                 text: sheet.question.note

@@ -34,13 +34,13 @@ std::unique_ptr<QObject> introduce(const ScreenContext& context) {
 
 constexpr ScreenPlace places[] = {
     {Screen::survey, "SurveyView", "survey", make<SurveyScreenModel>},
-    {Screen::reclaim, "ReclaimView", "reclaim", make<ReclaimScreenModel>},
+    {Screen::reclaim, "DevCleanupView", "reclaim", make<ReclaimScreenModel>},
     {Screen::privacy, "ModuleView", "module", introduce<Screen::privacy>},
     {Screen::tune, "ModuleView", "module", introduce<Screen::tune>},
     {Screen::apps, "ModuleView", "module", introduce<Screen::apps>},
     {Screen::clutter, "ClutterView", "clutter", make<ClutterScreenModel>},
     {Screen::duplicates, "ModuleView", "module", introduce<Screen::duplicates>},
-    {Screen::lens, "LensView", "lens", make<LensScreenModel>},
+    {Screen::lens, "MapView", "lens", make<LensScreenModel>},
     {Screen::health, "ModuleView", "module", introduce<Screen::health>},
     {Screen::system, "ModuleView", "module", introduce<Screen::system>},
     {Screen::tools, "ToolsView", "tools", make<ToolsScreenModel>},

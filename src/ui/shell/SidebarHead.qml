@@ -30,7 +30,7 @@ Item {
         }
     }
 
-    Words {
+    Label {
         id: name
 
         anchors.left: mark.right

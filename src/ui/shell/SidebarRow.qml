@@ -36,7 +36,7 @@ Column {
         visible: height > 0
         clip: true
 
-        Words {
+        Label {
             id: headingText
 
             width: parent.width
@@ -108,7 +108,7 @@ Column {
                 points: 14
             }
 
-            Words {
+            Label {
                 id: label
 
                 anchors.left: parent.left

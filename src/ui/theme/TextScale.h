@@ -12,7 +12,7 @@ class DesktopSettings;
 /// X11 does: the desktop sets the text size through the screen's resolution.
 bool toolkitScalesTexts(const QString& platformName);
 
-/// The user's text size as a factor, one instance per QML engine. Words and NumberItem multiply their font size by it,
+/// The user's text size as a factor, one instance per QML engine. Label and NumberItem multiply their font size by it,
 /// and layouts follow the text. Follows the desktop's setting until setFactor() is called. Main thread.
 class TextScale : public QObject {
     Q_OBJECT

@@ -16,7 +16,7 @@ Section {
         name: ""
         all: ["normal", "hovered", "pressed", "focused", "disabled", "long text"]
 
-        Words {
+        Label {
             required property string modelData
 
             text: modelData

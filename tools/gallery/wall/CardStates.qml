@@ -41,7 +41,7 @@ Section {
     Card {
         width: parent.width
 
-        Words {
+        Label {
             text: "Card"
         }
     }

@@ -138,11 +138,11 @@ Section {
         AnimatedNumber {
             value: 178.12e9
         }
-        Words {
+        Label {
             width: 240
             text: section.figures.longText
         }
-        Words {
+        Label {
             width: 240
             text: section.figures.longText
             soft: true

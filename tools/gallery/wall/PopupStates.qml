@@ -141,13 +141,13 @@ Section {
             Column {
                 spacing: 16
 
-                Words {
+                Label {
                     width: parent.width
                     text: sheet.title
                     size: 17
                     font.weight: Font.DemiBold
                 }
-                Words {
+                Label {
                     width: parent.width
                     text: "Caches come back when a program needs them. Nothing that you made is taken away."
                     soft: true

@@ -21,7 +21,7 @@ RowList {
         implicitHeight: words.implicitHeight + 16
         ringed: list.ringed && row.ListView.isCurrentItem
 
-        Words {
+        Label {
             id: words
 
             x: 12

@@ -38,7 +38,7 @@ Item {
             (item as T.AbstractButton).text = row.longText;
     }
 
-    Words {
+    Label {
         id: label
 
         width: row.nameWidth - 12

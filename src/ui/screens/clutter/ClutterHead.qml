@@ -34,7 +34,7 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: 2
 
-                Words {
+                Label {
                     width: parent.width
                     text: qsTr("Clutter")
                     size: 26
@@ -42,7 +42,7 @@ Item {
                     Accessible.role: Accessible.Heading
                 }
 
-                Words {
+                Label {
                     width: parent.width
                     text: qsTr("the heaviest files in your survey")
                     size: 11

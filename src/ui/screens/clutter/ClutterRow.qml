@@ -86,7 +86,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Words {
+        Label {
             width: parent.width
             text: row.name
             size: 13
@@ -95,7 +95,7 @@ ListRow {
             mute: true
         }
 
-        Words {
+        Label {
             width: parent.width
             text: row.folder
             size: 10
@@ -105,7 +105,7 @@ ListRow {
         }
     }
 
-    Words {
+    Label {
         id: ageText
 
         anchors.right: sizeText.left
@@ -118,7 +118,7 @@ ListRow {
         mute: true
     }
 
-    Words {
+    Label {
         id: sizeText
 
         anchors.right: more.left

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "ui/controls/Spoken.h"
+#include "ui/controls/AccessibleText.h"
 #include "ui/screens/clutter/AgeText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/FileTypeLook.h"
@@ -48,7 +48,7 @@ QVariant LargeFileRows::value(std::size_t row, int role) const {
         case bytesRole:
             return static_cast<qint64>(file.size);
         case spokenRole:
-            return Spoken::joined(
+            return AccessibleText::joined(
                 {nameText(file.path), folderText(file.path), ageText(file.modified, now_), byteFigure(file.size)});
         case actionsRole:
             return tr("Actions for %1").arg(nameText(file.path));

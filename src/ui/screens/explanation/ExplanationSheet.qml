@@ -39,7 +39,7 @@ Sheet {
                     size: Math.round(22 * TextScale.factor)
                 }
 
-                Words {
+                Label {
                     id: headline
 
                     objectName: "explanationTitle"
@@ -55,7 +55,7 @@ Sheet {
                 }
             }
 
-            Words {
+            Label {
                 objectName: "explanationPath"
                 width: parent.width
                 text: sheet.explanation.path
@@ -82,7 +82,7 @@ Sheet {
                 }
             }
 
-            Words {
+            Label {
                 objectName: "explanationDetail"
                 width: parent.width
                 text: sheet.explanation.detail

@@ -28,7 +28,7 @@ Item {
             symbolSize: 20
         }
 
-        Words {
+        Label {
             width: parent.width
             topPadding: 8
             text: page.help.topic.title
@@ -38,7 +38,7 @@ Item {
             Accessible.role: Accessible.Heading
         }
 
-        Words {
+        Label {
             width: parent.width
             bottomPadding: 4
             text: page.help.topic.lead
@@ -51,7 +51,7 @@ Item {
         Repeater {
             model: page.help.topic.paragraphs
 
-            Words {
+            Label {
                 required property string modelData
 
                 width: column.width

@@ -25,7 +25,7 @@ ItemDelegate {
         radius: 8
         color: row.current ? Qt.alpha(row.modelData.tint, 0.18) : "transparent"
 
-        Wash {
+        HoverOverlay {
             anchors.fill: parent
             radius: parent.radius
             control: row
@@ -55,7 +55,7 @@ ItemDelegate {
             size: 16
         }
 
-        Words {
+        Label {
             id: label
 
             anchors.left: symbolItem.right

@@ -71,7 +71,7 @@ Item {
         size: Math.round(12 * TextScale.factor)
     }
 
-    Words {
+    Label {
         id: nameText
 
         objectName: "lensPlace"

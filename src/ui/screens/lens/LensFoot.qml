@@ -31,7 +31,7 @@ Rectangle {
         spacing: 4
         visible: foot.lens.volumed
 
-        Words {
+        Label {
             objectName: "lensVolume"
             text: foot.lens.volumeLine
             size: 11
@@ -53,7 +53,7 @@ Rectangle {
         }
     }
 
-    Words {
+    Label {
         id: caption
 
         objectName: "lensCaption"

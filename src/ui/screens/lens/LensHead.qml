@@ -45,7 +45,7 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: 2
 
-                Words {
+                Label {
                     objectName: "lensName"
                     width: parent.width
                     text: head.lens.place
@@ -55,7 +55,7 @@ Item {
                     Accessible.role: Accessible.Heading
                 }
 
-                Words {
+                Label {
                     objectName: "lensPlaceLine"
                     width: parent.width
                     text: head.lens.placeLine
@@ -68,7 +68,7 @@ Item {
         Row {
             spacing: 0
 
-            Words {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Select:")
                 size: 11

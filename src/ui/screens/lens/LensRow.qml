@@ -119,7 +119,7 @@ ListRow {
             image: row.icon
         }
 
-        Words {
+        Label {
             id: label
 
             anchors.left: picture.right

@@ -34,7 +34,7 @@ BaseButton {
             visible: button.enabled
         }
 
-        Wash {
+        HoverOverlay {
             anchors.fill: parent
             radius: button.corner
             control: button
@@ -61,7 +61,7 @@ BaseButton {
         implicitWidth: word.implicitWidth
         implicitHeight: word.implicitHeight
 
-        Words {
+        Label {
             id: word
 
             anchors.centerIn: parent

@@ -45,14 +45,14 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Words {
+        Label {
             width: parent.width
             text: header.title
             size: 18
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
         }
-        Words {
+        Label {
             width: parent.width
             text: header.subtitle
             size: 11

@@ -50,7 +50,7 @@ FocusScope {
                 tint: hero.module.tint
             }
 
-            Words {
+            Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(implicitWidth, column.width)
                 topPadding: 16
@@ -61,7 +61,7 @@ FocusScope {
                 Accessible.role: Accessible.Heading
             }
 
-            Words {
+            Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(420, column.width)
                 topPadding: 8
@@ -87,7 +87,7 @@ FocusScope {
                 onClicked: hero.module.scan()
             }
 
-            Words {
+            Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(implicitWidth, column.width)
                 text: hero.module.note

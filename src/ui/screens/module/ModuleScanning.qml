@@ -22,7 +22,7 @@ Item {
             pulsing: true
         }
 
-        Words {
+        Label {
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(implicitWidth, parent.width)
             topPadding: 20

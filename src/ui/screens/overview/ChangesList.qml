@@ -44,7 +44,7 @@ ListView {
 
         width: ListView.view.width
 
-        Words {
+        Label {
             width: parent.width
             topPadding: 14
             bottomPadding: 6
@@ -61,7 +61,7 @@ ListView {
             implicitHeight: Math.max(44, words.implicitHeight + 14)
 
             Accessible.role: Accessible.ListItem
-            Accessible.name: Spoken.joined([place.name, place.path, place.size])
+            Accessible.name: AccessibleText.joined([place.name, place.path, place.size])
 
             TextSymbol {
                 id: icon
@@ -82,14 +82,14 @@ ListView {
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: 2
 
-                Words {
+                Label {
                     width: parent.width
                     text: place.name
                     elide: Text.ElideMiddle
                     mute: true
                 }
 
-                Words {
+                Label {
                     width: parent.width
                     text: place.path
                     size: 9

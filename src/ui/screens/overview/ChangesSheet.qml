@@ -29,7 +29,7 @@ Sheet {
             anchors.rightMargin: 16
             spacing: 2
 
-            Words {
+            Label {
                 width: parent.width
                 text: sheet.title
                 size: 17
@@ -37,7 +37,7 @@ Sheet {
                 Accessible.role: Accessible.Heading
             }
 
-            Words {
+            Label {
                 width: parent.width
                 text: qsTr("since your previous survey")
                 size: 11
@@ -58,7 +58,7 @@ Sheet {
             onClicked: sheet.trends.closeChanges()
         }
 
-        Words {
+        Label {
             anchors.centerIn: parent
             width: parent.width
             horizontalAlignment: Text.AlignHCenter

@@ -43,7 +43,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 3
 
-        Words {
+        Label {
             id: nameText
 
             width: parent.width
@@ -52,7 +52,7 @@ Item {
             font.weight: Font.DemiBold
         }
 
-        Words {
+        Label {
             id: detail
 
             width: parent.width
@@ -82,7 +82,7 @@ Item {
             bold: true
         }
 
-        Words {
+        Label {
             id: total
 
             anchors.right: parent.right

@@ -20,7 +20,7 @@ T.Control {
     hoverEnabled: true
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: Spoken.joined([row.name, Spoken.bytes(row.bytes)])
+    Accessible.name: AccessibleText.joined([row.name, AccessibleText.bytes(row.bytes)])
 
     background: Item {
         Divider {
@@ -46,7 +46,7 @@ T.Control {
             size: 16
         }
 
-        Words {
+        Label {
             id: label
 
             anchors.left: icon.right

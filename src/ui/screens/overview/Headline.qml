@@ -22,7 +22,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 4
 
-        Words {
+        Label {
             width: parent.width
             text: headline.findings.title
             size: headline.findings.reviewable ? 13 : 26
@@ -38,7 +38,7 @@ Item {
             bold: true
         }
 
-        Words {
+        Label {
             width: parent.width
             text: headline.findings.line
             size: 12
@@ -46,7 +46,7 @@ Item {
             wrapMode: Text.Wrap
         }
 
-        Words {
+        Label {
             objectName: "unreadLine"
             width: parent.width
             text: headline.findings.unreadLine

@@ -5,7 +5,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zelk.Controls
 
-Words {
+Label {
     anchors.horizontalCenter: parent?.horizontalCenter
     soft: true
     horizontalAlignment: Text.AlignHCenter

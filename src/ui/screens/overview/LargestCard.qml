@@ -19,7 +19,7 @@ Card {
             width: parent.width
             implicitHeight: Math.max(heading.implicitHeight, all.implicitHeight)
 
-            Words {
+            Label {
                 id: heading
 
                 anchors.left: parent.left

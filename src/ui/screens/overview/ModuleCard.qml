@@ -16,7 +16,7 @@ BaseButton {
 
     readonly property int corner: 16
 
-    text: Spoken.joined([card.title, Spoken.bytes(card.value), card.detail])
+    text: AccessibleText.joined([card.title, AccessibleText.bytes(card.value), card.detail])
     implicitWidth: Math.max(140, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: 16

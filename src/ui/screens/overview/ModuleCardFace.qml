@@ -27,7 +27,7 @@ Column {
             tint: face.tint
         }
 
-        Words {
+        Label {
             id: nameText
 
             anchors.left: tile.right
@@ -70,7 +70,7 @@ Column {
         height: 2
     }
 
-    Words {
+    Label {
         width: parent.width
         text: face.detail
         size: 11

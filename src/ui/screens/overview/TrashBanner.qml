@@ -42,10 +42,10 @@ Item {
         spacing: 2
         // Holds the focus when the button disappears, so that screen readers announce the new state of the Trash.
         Accessible.role: Accessible.Notification
-        Accessible.name: Spoken.joined([title.text, banner.trash.subtitle])
+        Accessible.name: AccessibleText.joined([title.text, banner.trash.subtitle])
         Accessible.focusable: true
 
-        Words {
+        Label {
             id: title
 
             width: parent.width
@@ -54,7 +54,7 @@ Item {
             font.weight: Font.DemiBold
         }
 
-        Words {
+        Label {
             width: parent.width
             text: banner.trash.subtitle
             size: 11

@@ -52,7 +52,7 @@ Card {
                     bold: true
                 }
 
-                Words {
+                Label {
                     anchors.verticalCenter: parent.verticalCenter
                     text: card.trends.deltaLine
                     size: 11
@@ -71,7 +71,7 @@ Card {
             }
         }
 
-        Words {
+        Label {
             width: parent.width
             visible: text !== ""
             text: card.trends.forecast

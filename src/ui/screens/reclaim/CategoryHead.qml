@@ -13,7 +13,7 @@ Item {
 
     implicitHeight: Math.max(40, button.implicitHeight + 8)
 
-    Words {
+    Label {
         id: label
 
         x: 26

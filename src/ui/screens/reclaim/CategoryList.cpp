@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/controls/Spoken.h"
+#include "ui/controls/AccessibleText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/SafetyLook.h"
 #include "ui/theme/SystemTexts.h"
@@ -64,8 +64,9 @@ QVariant CategoryList::value(std::size_t at, int role) const {
         case chosenRole:
             return isChosen(row);
         case spokenRole:
-            return Spoken::joined({text(row.category->displayName), wordOf(row.category->safety), byteFigure(row.bytes),
-                                   countText(row.items), SystemTexts::worded(row.category->note)});
+            return AccessibleText::joined({text(row.category->displayName), wordOf(row.category->safety),
+                                           byteFigure(row.bytes), countText(row.items),
+                                           SystemTexts::worded(row.category->note)});
         default:
             return {};
     }

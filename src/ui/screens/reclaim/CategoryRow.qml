@@ -87,7 +87,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Words {
+        Label {
             width: parent.width
             text: row.name
             size: 13
@@ -96,7 +96,7 @@ ListRow {
             mute: true
         }
 
-        Words {
+        Label {
             width: parent.width
             text: row.note
             size: 11
@@ -122,7 +122,7 @@ ListRow {
             mute: true
         }
 
-        Words {
+        Label {
             anchors.right: parent.right
             text: row.itemCount
             size: 10

@@ -36,14 +36,14 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Words {
+        Label {
             width: parent.width
             text: footer.line
             size: 13
             font.weight: Font.DemiBold
         }
 
-        Words {
+        Label {
             width: parent.width
             text: footer.figure
             size: 11

@@ -12,7 +12,7 @@ FocusScope {
 
     required property DryRunModel dryRun
     // Read together with the button that receives the focus.
-    readonly property string spoken: Spoken.joined([resultPage.dryRun.heading, resultPage.dryRun.result])
+    readonly property string spoken: AccessibleText.joined([resultPage.dryRun.heading, resultPage.dryRun.result])
     readonly property T.AbstractButton primary: resultPage.dryRun.emptyable ? keep : done
 
     property bool unfolded: false
@@ -39,7 +39,7 @@ FocusScope {
             height: 4
         }
 
-        Words {
+        Label {
             width: parent.width
             text: resultPage.dryRun.heading
             size: 20
@@ -49,7 +49,7 @@ FocusScope {
             Accessible.role: Accessible.Heading
         }
 
-        Words {
+        Label {
             objectName: "cleanupResult"
             width: parent.width
             text: resultPage.dryRun.result
@@ -76,7 +76,7 @@ FocusScope {
             enabled: visible
         }
 
-        Words {
+        Label {
             width: parent.width
             text: resultPage.dryRun.advice
             size: 12

@@ -21,7 +21,7 @@ FocusScope {
         width: parent.width
         spacing: 2
 
-        Words {
+        Label {
             width: parent.width
             text: review.dryRun.title
             size: 17
@@ -29,7 +29,7 @@ FocusScope {
             Accessible.role: Accessible.Heading
         }
 
-        Words {
+        Label {
             width: parent.width
             text: review.dryRun.line
             size: 12

@@ -52,7 +52,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 1
 
-        Words {
+        Label {
             width: parent.width
             text: row.name
             size: 13
@@ -60,7 +60,7 @@ ListRow {
             mute: true
         }
 
-        Words {
+        Label {
             width: parent.width
             text: row.folder
             size: 10
@@ -78,7 +78,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 1
 
-        Words {
+        Label {
             anchors.right: parent.right
             text: row.figure
             size: 12
@@ -86,7 +86,7 @@ ListRow {
             mute: true
         }
 
-        Words {
+        Label {
             anchors.right: parent.right
             width: Math.min(implicitWidth, row.width * 0.45)
             text: row.method

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "ui/controls/Spoken.h"
+#include "ui/controls/AccessibleText.h"
 #include "ui/theme/DisplayText.h"
 
 namespace zelk {
@@ -29,7 +29,7 @@ QVariant DryRunRows::value(std::size_t row, int role) const {
         case methodRole:
             return method();
         case spokenRole:
-            return Spoken::joined({nameText(item.path), size(), method(), folderText(item.path)});
+            return AccessibleText::joined({nameText(item.path), size(), method(), folderText(item.path)});
         default:
             return {};
     }

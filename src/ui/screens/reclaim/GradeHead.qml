@@ -46,7 +46,7 @@ Item {
                         color: gradeTag.tint
                     }
 
-                    Words {
+                    Label {
                         text: gradeTag.grade
                         size: 12
                     }
@@ -79,7 +79,7 @@ Item {
         Row {
             spacing: 10
 
-            Words {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("only inactive >")
                 size: 12
@@ -100,7 +100,7 @@ Item {
                 onPicked: value => head.items.ageDays = Math.round(value)
             }
 
-            Words {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.max(implicitWidth, 56 * TextScale.factor)
                 text: head.items.ageText
@@ -108,7 +108,7 @@ Item {
                 font.weight: Font.Medium
             }
 
-            Words {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: head.items.shownText
                 size: 12

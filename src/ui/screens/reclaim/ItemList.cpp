@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/controls/Spoken.h"
+#include "ui/controls/AccessibleText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/SafetyLook.h"
 #include "ui/theme/SystemTexts.h"
@@ -76,8 +76,9 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
         case symbolRole:
             return group.open ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
         case spokenRole:
-            return Spoken::joined({displayText(category.displayName), figure(), wordOf(category.safety),
-                                   group.open ? tr("expanded") : tr("collapsed"), SystemTexts::worded(category.note)});
+            return AccessibleText::joined({displayText(category.displayName), figure(), wordOf(category.safety),
+                                           group.open ? tr("expanded") : tr("collapsed"),
+                                           SystemTexts::worded(category.note)});
         default:
             return QString();
     }
@@ -106,8 +107,8 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
         case freeRole:
             return cleanup_.selection().conflictOf(item).empty();
         case spokenRole:
-            return Spoken::joined({nameText(item.path), byteFigure(static_cast<std::int64_t>(item.size)), ageOf(item),
-                                   lineOf(item), folderText(item.path)});
+            return AccessibleText::joined({nameText(item.path), byteFigure(static_cast<std::int64_t>(item.size)),
+                                           ageOf(item), lineOf(item), folderText(item.path)});
         default:
             return QString();
     }

@@ -109,7 +109,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
 
-        Words {
+        Label {
             width: parent.width
             text: row.name
             size: row.group ? 14 : 13
@@ -118,7 +118,7 @@ ListRow {
             mute: true
         }
 
-        Words {
+        Label {
             width: parent.width
             text: row.place
             size: row.group ? 11 : 10
@@ -128,7 +128,7 @@ ListRow {
             mute: true
         }
 
-        Words {
+        Label {
             width: parent.width
             text: row.line
             size: 10
@@ -146,7 +146,7 @@ ListRow {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 14
 
-        Words {
+        Label {
             anchors.verticalCenter: parent.verticalCenter
             text: row.age
             size: 11
@@ -155,7 +155,7 @@ ListRow {
             mute: true
         }
 
-        Words {
+        Label {
             anchors.verticalCenter: parent.verticalCenter
             width: row.group ? implicitWidth : Math.max(implicitWidth, 76 * TextScale.factor)
             horizontalAlignment: Text.AlignRight

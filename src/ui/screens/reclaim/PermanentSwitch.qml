@@ -25,7 +25,7 @@ Item {
         onToggled: place.dryRun.hardDelete = checked
     }
 
-    Words {
+    Label {
         id: label
 
         anchors.left: toggle.right

@@ -2,7 +2,7 @@
 #include "ui/screens/reclaim/SafetyGuide.h"
 
 #include "reclaim/ReclaimCatalogue.h"
-#include "ui/controls/Spoken.h"
+#include "ui/controls/AccessibleText.h"
 #include "ui/theme/SafetyLook.h"
 
 namespace zelk {
@@ -39,7 +39,7 @@ QString SafetyGuide::spoken() const {
     QStringList texts{title()};
     for (const ReclaimSafety safety : allReclaimSafeties) texts << wordOf(safety) << meaningOf(safety);
     texts << closing();
-    return Spoken::joined(texts);
+    return AccessibleText::joined(texts);
 }
 
 QVariant SafetyGuide::value(std::size_t row, int role) const {

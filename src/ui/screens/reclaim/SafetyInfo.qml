@@ -35,7 +35,7 @@ T.Popup {
         Accessible.role: Accessible.Note
         Accessible.name: popover.guide.spoken
 
-        Words {
+        Label {
             width: parent.width
             text: popover.guide.title
             size: 14
@@ -62,7 +62,7 @@ T.Popup {
                     tint: 0.22
                 }
 
-                Words {
+                Label {
                     width: parent.width
                     text: entry.meaning
                     size: 11
@@ -76,7 +76,7 @@ T.Popup {
             width: parent.width
         }
 
-        Words {
+        Label {
             width: parent.width
             text: popover.guide.closing
             size: 11

@@ -23,7 +23,7 @@ RowList {
         implicitHeight: texts.implicitHeight + 2 * 4
         ringed: list.ringed && list.currentIndex === row.index
         Accessible.role: Accessible.ListItem
-        Accessible.name: Spoken.joined([row.modelData.name, row.modelData.reason])
+        Accessible.name: AccessibleText.joined([row.modelData.name, row.modelData.reason])
 
         TapHandler {
             onTapped: list.take(row.index)
@@ -42,7 +42,7 @@ RowList {
             width: row.width - 2 * 8
             spacing: 2
 
-            Words {
+            Label {
                 width: parent.width
                 text: row.modelData.name
                 size: 12
@@ -51,7 +51,7 @@ RowList {
                 mute: true
             }
 
-            Words {
+            Label {
                 width: parent.width
                 text: row.modelData.reason
                 size: 11

@@ -27,7 +27,7 @@ Column {
 
     spacing: 12
 
-    Words {
+    Label {
         width: parent.width
         visible: list.settings.roots.empty
         text: qsTr("No folders yet. Add one, and a survey walks it.")

@@ -41,7 +41,7 @@ T.Control {
             size: 16
         }
 
-        Words {
+        Label {
             id: words
 
             objectName: "rootPath"

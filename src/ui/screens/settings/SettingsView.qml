@@ -107,7 +107,7 @@ FocusScope {
                             onToggled: view.settings.hardDelete = checked
                         }
 
-                        Words {
+                        Label {
                             width: parent.width
                             text: qsTr("Off keeps cleanup reversible (moves to Trash).")
                             size: 11
@@ -126,7 +126,7 @@ FocusScope {
                         width: parent.width
                         spacing: 12
 
-                        Words {
+                        Label {
                             height: picker.implicitHeight
                             text: qsTr("Theme")
                             size: 13

@@ -27,7 +27,7 @@ BaseButton {
             }
         }
 
-        Wash {
+        HoverOverlay {
             anchors.fill: parent
             radius: parent.radius
             control: row
@@ -68,7 +68,7 @@ BaseButton {
             anchors.verticalCenter: parent.verticalCenter
             spacing: 4
 
-            Words {
+            Label {
                 width: parent.width
                 text: row.modelData.look.title
                 size: 17
@@ -77,7 +77,7 @@ BaseButton {
                 mute: true
             }
 
-            Words {
+            Label {
                 width: parent.width
                 text: row.modelData.detail
                 size: 14
@@ -86,7 +86,7 @@ BaseButton {
                 mute: true
             }
 
-            Words {
+            Label {
                 width: parent.width
                 topPadding: 4
                 visible: text !== ""

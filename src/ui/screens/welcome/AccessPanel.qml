@@ -38,7 +38,7 @@ FocusScope {
             width: parent.width
             spacing: 8
 
-            Words {
+            Label {
                 width: parent.width
                 text: SystemTexts.of(SystemTexts.AccessTitle)
                 size: 20
@@ -51,7 +51,7 @@ FocusScope {
             Repeater {
                 model: [SystemTexts.of(SystemTexts.AccessPurpose), SystemTexts.of(SystemTexts.AccessSteps)]
 
-                Words {
+                Label {
                     required property string modelData
 
                     width: column.width
@@ -83,7 +83,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
             }
 
-            Words {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("waiting for access…")
                 size: 12

@@ -27,7 +27,7 @@ Item {
         primary: welcomePanel.primary
         onDismissed: sheets.firstRun.welcome.skip()
 
-        WelcomePanel {
+        WelcomeView {
             id: welcomePanel
 
             welcome: sheets.firstRun.welcome

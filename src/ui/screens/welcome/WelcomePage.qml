@@ -62,7 +62,7 @@ Item {
             }
         }
 
-        Words {
+        Label {
             width: parent.width
             topPadding: 16
             text: page.modelData.title
@@ -74,7 +74,7 @@ Item {
             Accessible.role: Accessible.Heading
         }
 
-        Words {
+        Label {
             width: parent.width
             text: page.modelData.body
             size: 14

@@ -8,7 +8,7 @@
 namespace zelk {
 
 /// Composes texts for screen readers.
-class Spoken : public QObject {
+class AccessibleText : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON

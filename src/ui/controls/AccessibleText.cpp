@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "ui/controls/Spoken.h"
+#include "ui/controls/AccessibleText.h"
 
 #include "ui/controls/NumberItem.h"
 
 namespace zelk {
 
-QString Spoken::joined(QStringList texts) {
+QString AccessibleText::joined(QStringList texts) {
     texts.removeAll(QString());
     return texts.join(QStringLiteral(", "));
 }
 
-QString Spoken::bytes(double count) {
+QString AccessibleText::bytes(double count) {
     return NumberItem::write(count, NumberItem::Bytes);
 }
 
 }  // namespace zelk
 
-#include "moc_Spoken.cpp"
+#include "moc_AccessibleText.cpp"
