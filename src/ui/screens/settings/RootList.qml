@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The scan roots, or a text if there are none, and the button that adds one.
+// The scan roots, each with the button that removes it from the list, or a text if there are none, and the button that
+// adds one.
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
@@ -46,17 +48,73 @@ Column {
 
             model: list.settings.roots
 
-            RootRow {
+            // Long paths are elided in the middle, since both ends tell folders apart. The tool tip has the whole path.
+            T.Control {
                 id: rootRow
 
+                required property int index
+                required property string path
+                required property string removeName
+
                 width: list.width
-                onRemoveClicked: ringed => list.remove(index, ringed)
+                implicitHeight: content.implicitHeight
+                hoverEnabled: true
+
+                Item {
+                    id: content
+
+                    x: rootRow.leftPadding
+                    y: rootRow.topPadding
+                    width: rootRow.availableWidth
+                    height: rootRow.availableHeight
+                    implicitHeight: Math.max(words.implicitHeight, removeButton.implicitHeight)
+
+                    SymbolItem {
+                        id: symbolItem
+
+                        anchors.verticalCenter: parent.verticalCenter
+                        name: "folder.fill"
+                        color: Theme.accent
+                        size: 16
+                    }
+
+                    Label {
+                        id: words
+
+                        objectName: "rootPath"
+                        anchors.left: symbolItem.right
+                        anchors.leftMargin: 12
+                        anchors.right: removeButton.left
+                        anchors.rightMargin: 12
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: rootRow.path
+                        size: 13
+                        elide: Text.ElideMiddle
+                    }
+
+                    IconButton {
+                        id: removeButton
+
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
+                        symbol: "minus.circle"
+                        size: 16
+                        text: rootRow.removeName
+                        help: rootRow.removeName
+                        onClicked: list.remove(rootRow.index, removeButton.visualFocus)
+                    }
+                }
+
+                HelpTip {
+                    text: words.truncated && !removeButton.hovered ? rootRow.path : ""
+                    control: rootRow
+                }
 
                 Connections {
                     target: list
                     function onHanded(row: int, reason: int) {
                         if (row === rootRow.index)
-                            rootRow.takeKeyboard(reason);
+                            removeButton.forceActiveFocus(reason);
                     }
                 }
             }
