@@ -98,6 +98,17 @@ TEST_F(SettingsWindow, keyboardRemovalMovesFocusToNextRow) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
+TEST_F(SettingsWindow, invitesToAddAFolderOnlyWhileThereIsNone) {
+    const char* invitation = "No folders yet. Add one, and a survey walks it.";
+    open();
+    for (const Roots& roots : {Roots{}, Roots{"/a"}, Roots{"/a", "/b"}, Roots{}}) {
+        model().setScanRoots(roots);
+        settle();
+        EXPECT_EQ(shows(invitation), roots.empty());
+        for (const std::string& root : roots) EXPECT_TRUE(shows(root)) << root;
+    }
+}
+
 TEST_F(SettingsWindow, keyboardStepsAgeDownToZero) {
     open();
     tabTo("Age filter default: 14 days");

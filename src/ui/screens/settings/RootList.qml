@@ -31,7 +31,7 @@ Column {
 
     Label {
         width: parent.width
-        visible: list.settings.roots.empty
+        visible: rows.count === 0
         text: qsTr("No folders yet. Add one, and a survey walks it.")
         size: 13
         soft: true
@@ -40,7 +40,7 @@ Column {
 
     Column {
         width: parent.width
-        visible: !list.settings.roots.empty
+        visible: rows.count > 0
         spacing: 4
 
         Repeater {

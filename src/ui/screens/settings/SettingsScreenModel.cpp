@@ -18,8 +18,10 @@ constexpr std::array appearances{AppModel::Appearance::system, AppModel::Appeara
 
 }  // namespace
 
-ScanRootList::ScanRootList(AppModel& app) : RowModel({"path", "removeName"}), app_(app), roots_(app.scanRoots()) {
-    connect(&app, &AppModel::scanRootsChanged, this, &ScanRootList::follow);
+ScanRootList::ScanRootList(AppModel& app) : RowModel({"path", "removeName"}), roots_(app.scanRoots()) {
+    connect(&app, &AppModel::scanRootsChanged, this, [this, &app] {
+        edit(roots_, app.scanRoots(), [](const std::string& root) { return std::string_view(root); });
+    });
 }
 
 QVariant ScanRootList::value(std::size_t row, int role) const {
@@ -33,12 +35,6 @@ QVariant ScanRootList::value(std::size_t row, int role) const {
         default:
             return {};
     }
-}
-
-void ScanRootList::follow() {
-    const bool wasEmpty = empty();
-    edit(roots_, app_.scanRoots(), [](const std::string& root) { return std::string_view(root); });
-    if (empty() != wasEmpty) emit emptyChanged();
 }
 
 SettingsScreenModel::SettingsScreenModel(AppModel& app, std::function<std::optional<std::string>()> pickFolder)

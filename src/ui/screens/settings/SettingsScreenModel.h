@@ -22,7 +22,6 @@ class ScanRootList : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of SettingsScreenModel")
-    Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
 
 public:
     enum Role { pathRole = Qt::UserRole, removeNameRole };
@@ -30,18 +29,10 @@ public:
     /// `app` must outlive it.
     explicit ScanRootList(AppModel& app);
 
-    bool empty() const { return roots_.empty(); }
-
-signals:
-    void emptyChanged();
-
 private:
     std::size_t size() const override { return roots_.size(); }
     QVariant value(std::size_t row, int role) const override;
 
-    void follow();
-
-    AppModel& app_;
     std::vector<std::string> roots_;
 };
 
