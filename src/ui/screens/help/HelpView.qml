@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The manual: topics at the left, the current one beside them.
+// The manual: topics at the left, the current one beside them. The arrow keys, Home and End change the current topic,
+// Page Up and Page Down scroll it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
@@ -28,7 +30,7 @@ FocusScope {
     }
 
     Rectangle {
-        id: side
+        id: sidePanel
 
         width: Math.round(Math.min(view.width * 0.45, 232 * TextScale.factor))
         height: parent.height
@@ -36,16 +38,77 @@ FocusScope {
 
         ScrollArea {
             anchors.fill: parent
-            contentHeight: topics.implicitHeight
+            contentHeight: topicList.implicitHeight
 
-            TopicList {
-                id: topics
+            FocusScope {
+                id: topicList
+
+                // The short list has no pages, so Page Up and Page Down scroll the topic. -1 is up, 1 is down.
+                function turnPage(way) {
+                    page.scrollTo(page.contentY + way * page.height * 0.9);
+                }
+
+                // Focuses the row chosen by the keyboard, visibly, which scrolls it into view.
+                function followKeyboard() {
+                    const row = topics.itemAt(view.help.current) as T.AbstractButton;
+                    row.forceActiveFocus(Qt.TabFocusReason);
+                    row.focusReason = Qt.TabFocusReason;
+                }
 
                 width: parent.width
-                help: view.help
+                implicitHeight: column.implicitHeight
                 focus: true
-                // The short list has no pages, so Page Up and Page Down scroll the topic.
-                onPageTurned: way => page.scrollTo(page.contentY + way * page.height * 0.9)
+
+                Accessible.role: Accessible.List
+                Accessible.name: qsTr("Topics")
+
+                Keys.onPressed: event => {
+                    event.accepted = true;
+                    switch (event.key) {
+                    case Qt.Key_PageUp:
+                        return topicList.turnPage(-1);
+                    case Qt.Key_PageDown:
+                        return topicList.turnPage(1);
+                    case Qt.Key_Up:
+                        view.help.selectPrevious();
+                        break;
+                    case Qt.Key_Down:
+                        view.help.selectNext();
+                        break;
+                    case Qt.Key_Home:
+                        view.help.selectFirst();
+                        break;
+                    case Qt.Key_End:
+                        view.help.selectLast();
+                        break;
+                    default:
+                        event.accepted = false;
+                        return;
+                    }
+                    topicList.followKeyboard();
+                }
+
+                Column {
+                    id: column
+
+                    anchors.left: parent.left
+                    anchors.right: parent.right
+                    padding: 12
+                    spacing: 2
+
+                    Repeater {
+                        id: topics
+
+                        model: view.help.topics
+
+                        TopicRow {
+                            width: column.width - 2 * column.padding
+                            current: index === view.help.current
+                            focus: current
+                            onClicked: view.help.select(index)
+                        }
+                    }
+                }
             }
         }
 
@@ -61,16 +124,126 @@ FocusScope {
         id: page
 
         objectName: "helpPage"
-        anchors.left: side.right
+        anchors.left: sidePanel.right
         anchors.right: parent.right
         height: parent.height
-        contentHeight: topic.implicitHeight
+        contentHeight: topic.implicitHeight + 2 * 32
 
-        TopicPage {
+        // The topic, limited to a readable line length.
+        Column {
             id: topic
 
-            width: parent.width
-            help: view.help
+            x: 32
+            y: 32
+            width: Math.min(page.width - 2 * 32, 560 * TextScale.factor)
+            spacing: 12
+
+            Tile {
+                symbol: view.help.topic.symbol
+                tint: view.help.topic.tint
+                side: 40
+                symbolSize: 20
+            }
+
+            Label {
+                width: parent.width
+                topPadding: 8
+                text: view.help.topic.title
+                size: 20
+                font.weight: Font.DemiBold
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.Heading
+            }
+
+            Label {
+                width: parent.width
+                bottomPadding: 4
+                text: view.help.topic.lead
+                size: 15
+                soft: true
+                lineHeight: 1.3
+                wrapMode: Text.Wrap
+            }
+
+            Repeater {
+                model: view.help.topic.paragraphs
+
+                Label {
+                    required property string modelData
+
+                    width: topic.width
+                    text: modelData
+                    size: 13
+                    lineHeight: 1.45
+                    wrapMode: Text.Wrap
+                }
+            }
+        }
+    }
+
+    // A topic in the list. Only the current one is in the focus chain; arrow keys move from there.
+    component TopicRow: ItemDelegate {
+        id: row
+
+        required property int index
+        required property helpTopic modelData
+
+        text: row.modelData.title
+        // (It stays there while it has the focus, even when another one becomes current.)
+        focusPolicy: row.current || row.activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+        leftPadding: 12
+        rightPadding: 12
+        topPadding: 8
+        bottomPadding: 8
+        implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
+
+        background: Rectangle {
+            radius: 8
+            color: row.current ? Qt.alpha(row.modelData.tint, 0.18) : "transparent"
+
+            HoverOverlay {
+                anchors.fill: parent
+                radius: parent.radius
+                control: row
+            }
+
+            FocusRing {
+                shown: row.visualFocus
+                corner: 8
+            }
+        }
+
+        Item {
+            id: content
+
+            x: row.leftPadding
+            y: row.topPadding
+            width: row.availableWidth
+            height: row.availableHeight
+            implicitHeight: Math.max(symbolItem.height, label.height)
+
+            SymbolItem {
+                id: symbolItem
+
+                anchors.verticalCenter: parent.verticalCenter
+                name: row.modelData.symbol
+                color: row.modelData.tint
+                size: 16
+            }
+
+            Label {
+                id: label
+
+                anchors.left: symbolItem.right
+                anchors.leftMargin: 12
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.modelData.title
+                size: 13
+                font.weight: row.current ? Font.DemiBold : Font.Medium
+                wrapMode: Text.Wrap
+                mute: true
+            }
         }
     }
 }
