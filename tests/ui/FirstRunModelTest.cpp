@@ -63,7 +63,7 @@ TEST_F(FirstRunModelTest, isIdleBeforeStart) {
     granted = false;
     EXPECT_FALSE(model().showWelcome());
     EXPECT_FALSE(model().showOnboarding());
-    EXPECT_FALSE(model().access()->polling());
+    EXPECT_FALSE(model().polling());
     EXPECT_EQ(probes, 0);
 }
 
@@ -152,23 +152,23 @@ TEST_F(FirstRunModelTest, grantedAccessClosesPanel) {
     preferences.flags["zelk/didOnboard"] = true;
     granted = false;
     model().start();
-    model().access()->setShown(true);
-    EXPECT_TRUE(model().access()->polling());
+    model().setPolling(true);
+    EXPECT_TRUE(model().polling());
     runUntil([&] { return probes >= 4; });
     EXPECT_TRUE(model().showOnboarding()) << "a denied probe changes nothing";
     granted = true;
     runUntil([&] { return !model().showOnboarding(); });
-    EXPECT_FALSE(model().access()->polling());
+    EXPECT_FALSE(model().polling());
 }
 
 TEST_F(FirstRunModelTest, nextStartAsksAgainAfterContinuingWithoutAccess) {
     preferences.flags["zelk/didOnboard"] = true;
     granted = false;
     model().start();
-    model().access()->setShown(true);
-    model().access()->continueWithoutIt();
+    model().setPolling(true);
+    model().continueWithoutAccess();
     EXPECT_FALSE(model().showOnboarding());
-    EXPECT_FALSE(model().access()->polling());
+    EXPECT_FALSE(model().polling());
     EXPECT_TRUE(preferences.writes.empty()) << "the refusal is not stored";
     restart();
     EXPECT_TRUE(model().showOnboarding());
@@ -178,36 +178,40 @@ TEST_F(FirstRunModelTest, hiddenPanelStopsPolling) {
     preferences.flags["zelk/didOnboard"] = true;
     granted = false;
     model().start();
-    model().access()->setShown(true);
-    model().access()->setShown(false);
-    EXPECT_FALSE(model().access()->polling());
+    model().setPolling(true);
+    model().setPolling(false);
+    EXPECT_FALSE(model().polling());
     const int before = probes;
     runWhatIsThere();
     EXPECT_EQ(probes, before);
     EXPECT_TRUE(model().showOnboarding()) << "it reappears with its window";
-    model().access()->setShown(true);
-    EXPECT_TRUE(model().access()->polling());
+    model().setPolling(true);
+    EXPECT_TRUE(model().polling());
 }
 
 TEST_F(FirstRunModelTest, pollsEvery1500Milliseconds) {
     FirstRunModel asShipped(preferences, probe(), workspace);
-    EXPECT_EQ(asShipped.access()->interval(), milliseconds(1'500));
+    EXPECT_EQ(asShipped.interval(), milliseconds(1'500));
 }
 
 TEST_F(FirstRunModelTest, opensAccessSettings) {
-    model().access()->openSettings();
+    model().openAccessSettings();
     EXPECT_EQ(workspace.opened,
               std::vector<std::string>{"x-apple.systempreferences:com.apple.preference.security?Privacy_AllFiles"});
     EXPECT_EQ(probes, 0);
 }
 
 TEST_F(FirstRunModelTest, signalsGrantedAccessOnce) {
-    model().access()->setShown(true);
-    QSignalSpy done(model().access(), &AccessPanelModel::granted);
-    runUntil([&] { return done.count() > 0; });
+    preferences.flags["zelk/didOnboard"] = true;
+    granted = false;
+    model().start();
+    granted = true;
+    QSignalSpy changed(&model(), &FirstRunModel::changed);
+    model().setPolling(true);
+    runUntil([&] { return changed.count() > 0; });
     runWhatIsThere();
-    EXPECT_EQ(done.count(), 1);
-    EXPECT_EQ(probes, 1);
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(probes, 2) << "at the start, and the one that found it";
 }
 
 }  // namespace zelk

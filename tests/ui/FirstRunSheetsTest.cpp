@@ -175,7 +175,7 @@ TEST_F(FirstRunSheetsTest, panelShowsTextsInOrder) {
     EXPECT_EQ(seenTexts(), (std::vector<std::string>{"Zelk needs Full Disk Access", "to survey your whole drive.",
                                                      "Open Settings → drag Zelk in → come back.", "Open Settings",
                                                      "waiting for access…", "Continue without it"}));
-    EXPECT_TRUE(firstRun.access()->polling());
+    EXPECT_TRUE(firstRun.polling());
     expectAllControlsNamed();
 }
 
@@ -218,7 +218,7 @@ TEST_F(FirstRunSheetsTest, panelWorksWithKeyboard) {
     press(Qt::Key_Tab);
     press(Qt::Key_Space);
     EXPECT_FALSE(firstRun.showOnboarding());
-    EXPECT_FALSE(firstRun.access()->polling());
+    EXPECT_FALSE(firstRun.polling());
     EXPECT_TRUE(seenTexts().empty());
 }
 
@@ -232,22 +232,22 @@ TEST_F(FirstRunSheetsTest, panelClosesWhenAccessIsGranted) {
     openAtPanel();
     granted = true;
     runUntil([&] { return !firstRun.showOnboarding(); });
-    EXPECT_FALSE(firstRun.access()->polling());
+    EXPECT_FALSE(firstRun.polling());
 }
 
 TEST_F(FirstRunSheetsTest, pollsOnlyWhileWindowIsVisible) {
     openAtPanel();
     window().hide();
     runWhatIsThere();
-    EXPECT_FALSE(firstRun.access()->polling());
+    EXPECT_FALSE(firstRun.polling());
     window().show();
-    runUntil([&] { return firstRun.access()->polling(); });
+    runUntil([&] { return firstRun.polling(); });
 }
 
 TEST_F(FirstRunSheetsTest, stopsPollingWhenViewIsDestroyed) {
     openAtPanel();
     close();
-    EXPECT_FALSE(firstRun.access()->polling());
+    EXPECT_FALSE(firstRun.polling());
 }
 
 TEST_F(FirstRunSheetsTest, welcomeLeadsToPanel) {

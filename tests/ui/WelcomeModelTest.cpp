@@ -11,30 +11,27 @@ TEST(WelcomeModel, firstPageHasNoBack) {
     const WelcomeModel welcome;
     EXPECT_EQ(welcome.page(), 0);
     EXPECT_FALSE(welcome.backShown());
-    EXPECT_TRUE(welcome.skipShown());
-    EXPECT_EQ(welcome.primaryLabel().toStdString(), "Next");
+    EXPECT_FALSE(welcome.onLastPage());
     EXPECT_EQ(welcome.position().toStdString(), "Page 1 of 4");
     EXPECT_EQ(welcome.title().toStdString(), "Welcome to Zelk");
 }
 
-TEST(WelcomeModel, middlePagesHaveBackAndSkip) {
+TEST(WelcomeModel, middlePagesHaveBackAndAreNotTheLast) {
     WelcomeModel welcome;
     for (int page = 1; page < 3; ++page) {
         welcome.pressPrimary();
         EXPECT_EQ(welcome.page(), page);
         EXPECT_TRUE(welcome.backShown());
-        EXPECT_TRUE(welcome.skipShown());
-        EXPECT_EQ(welcome.primaryLabel().toStdString(), "Next");
+        EXPECT_FALSE(welcome.onLastPage());
     }
 }
 
-TEST(WelcomeModel, lastPageHasGetStartedInsteadOfSkip) {
+TEST(WelcomeModel, knowsItsLastPage) {
     WelcomeModel welcome;
     for (int press = 0; press < 3; ++press) welcome.pressPrimary();
     EXPECT_EQ(welcome.page(), 3);
     EXPECT_TRUE(welcome.backShown());
-    EXPECT_FALSE(welcome.skipShown());
-    EXPECT_EQ(welcome.primaryLabel().toStdString(), "Get Started");
+    EXPECT_TRUE(welcome.onLastPage());
     EXPECT_EQ(welcome.position().toStdString(), "Page 4 of 4");
     EXPECT_EQ(welcome.title().toStdString(), "Private by design");
 }

@@ -4,16 +4,16 @@
 #include <utility>
 
 #include "platform/Preferences.h"
+#include "platform/Workspace.h"
 
 namespace zelk {
 
 FirstRunModel::FirstRunModel(Preferences& preferences, std::function<bool()> accessGranted, Workspace& workspace,
-                             std::chrono::milliseconds pollInterval)
-    : preferences_(preferences),
-      accessGranted_(std::move(accessGranted)),
-      access_(accessGranted_, workspace, pollInterval) {
+                             std::chrono::milliseconds interval)
+    : preferences_(preferences), accessGranted_(std::move(accessGranted)), workspace_(workspace) {
+    poll_.setInterval(interval);
+    connect(&poll_, &QTimer::timeout, this, &FirstRunModel::checkAccess);
     connect(&welcome_, &WelcomeModel::finished, this, &FirstRunModel::finishWelcome);
-    connect(&access_, &AccessPanelModel::granted, this, [this] { show(showWelcome_, false); });
 }
 
 void FirstRunModel::start() {
@@ -28,6 +28,26 @@ void FirstRunModel::finishWelcome() {
     if (!showWelcome_) return;
     preferences_.setFlag(didOnboardKey, true);
     show(false, !accessGranted_());
+}
+
+void FirstRunModel::setPolling(bool polling) {
+    if (polling)
+        poll_.start();
+    else
+        poll_.stop();
+}
+
+void FirstRunModel::openAccessSettings() {
+    workspace_.openURL(accessSettingsURL);
+}
+
+void FirstRunModel::continueWithoutAccess() {
+    poll_.stop();
+    show(showWelcome_, false);
+}
+
+void FirstRunModel::checkAccess() {
+    if (accessGranted_()) continueWithoutAccess();
 }
 
 void FirstRunModel::show(bool welcome, bool onboarding) {

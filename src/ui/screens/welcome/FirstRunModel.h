@@ -3,10 +3,10 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
+#include <QTimer>
 #include <chrono>
 #include <functional>
 
-#include "ui/screens/welcome/AccessPanelModel.h"
 #include "ui/screens/welcome/WelcomeModel.h"
 
 namespace zelk {
@@ -15,7 +15,8 @@ class Preferences;
 class Workspace;
 
 /// The sheets shown at start-up: the welcome pages once per installation, and the request for access at every start
-/// without access to the whole drive. Never both at the same time. Main thread.
+/// without access to the whole drive. Never both at the same time. While the request is visible, it checks periodically
+/// whether access has been granted, which takes a few system calls. Main thread.
 class FirstRunModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,13 +25,16 @@ class FirstRunModel : public QObject {
     Q_PROPERTY(bool showWelcome READ showWelcome NOTIFY changed FINAL)
     Q_PROPERTY(bool showOnboarding READ showOnboarding NOTIFY changed FINAL)
     Q_PROPERTY(zelk::WelcomeModel* welcome READ welcome CONSTANT FINAL)
-    Q_PROPERTY(zelk::AccessPanelModel* access READ access CONSTANT FINAL)
+    Q_PROPERTY(bool polling READ polling WRITE setPolling FINAL)
 
 public:
+    /// The interval between two checks.
+    static constexpr std::chrono::milliseconds pollInterval{1'500};
+
     /// `preferences` and `workspace` must outlive it. `accessGranted` checks whether the whole drive can be read;
     /// called on the main thread, and not before start().
     FirstRunModel(Preferences& preferences, std::function<bool()> accessGranted, Workspace& workspace,
-                  std::chrono::milliseconds pollInterval = AccessPanelModel::pollInterval);
+                  std::chrono::milliseconds interval = pollInterval);
 
     /// Call when the main window is shown.
     void start();
@@ -40,19 +44,31 @@ public:
     bool showWelcome() const { return showWelcome_; }
     bool showOnboarding() const { return showOnboarding_; }
     WelcomeModel* welcome() { return &welcome_; }
-    AccessPanelModel* access() { return &access_; }
+
+    /// Whether the periodic check is active; set by the view while the request is visible.
+    bool polling() const { return poll_.isActive(); }
+    void setPolling(bool polling);
+    std::chrono::milliseconds interval() const { return poll_.intervalAsDuration(); }
+
+public slots:
+    /// Opens the system settings where access is granted.
+    void openAccessSettings();
+    /// Not stored: the next start asks again.
+    void continueWithoutAccess();
 
 signals:
     void changed();
 
 private:
     void finishWelcome();
+    void checkAccess();
     void show(bool welcome, bool onboarding);
 
     Preferences& preferences_;
     std::function<bool()> accessGranted_;
+    Workspace& workspace_;
     WelcomeModel welcome_;
-    AccessPanelModel access_;
+    QTimer poll_;
     bool started_ = false;
     bool showWelcome_ = false;
     bool showOnboarding_ = false;

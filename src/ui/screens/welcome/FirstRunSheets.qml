@@ -35,6 +35,7 @@ Item {
         }
     }
 
+    // Asks for access to the whole drive and waits for it.
     Sheet {
         id: accessSheet
 
@@ -42,22 +43,110 @@ Item {
         visible: sheets.firstRun.showOnboarding && first.gone
         sheetWidth: 460
         sheetHeight: Math.max(420, panel.implicitHeight + topPadding + bottomPadding)
-        primary: panel.primary
-        onDismissed: sheets.firstRun.access.continueWithoutIt()
+        primary: panel.grantable ? settingsButton : continueButton
+        onDismissed: sheets.firstRun.continueWithoutAccess()
 
-        AccessPanel {
+        FocusScope {
             id: panel
 
-            access: sheets.firstRun.access
+            // Whether the system has settings for it.
+            readonly property bool grantable: settingsButton.text !== ""
+
+            implicitHeight: column.implicitHeight
             focus: true
+
+            Column {
+                id: column
+
+                anchors.verticalCenter: parent.verticalCenter
+                width: panel.width
+                spacing: 20
+
+                Tile {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    symbol: "lock.open.display"
+                    tint: Theme.accent
+                    side: 88
+                    symbolSize: 44
+                    corner: 22
+                }
+
+                Column {
+                    width: parent.width
+                    spacing: 8
+
+                    Label {
+                        width: parent.width
+                        text: SystemTexts.of(SystemTexts.AccessTitle)
+                        size: 20
+                        font.weight: Font.DemiBold
+                        horizontalAlignment: Text.AlignHCenter
+                        wrapMode: Text.Wrap
+                        Accessible.role: Accessible.Heading
+                    }
+
+                    Repeater {
+                        model: [SystemTexts.of(SystemTexts.AccessPurpose), SystemTexts.of(SystemTexts.AccessSteps)]
+
+                        Label {
+                            required property string modelData
+
+                            width: column.width
+                            text: modelData
+                            size: 13
+                            soft: true
+                            horizontalAlignment: Text.AlignHCenter
+                            wrapMode: Text.Wrap
+                        }
+                    }
+                }
+
+                PrimaryButton {
+                    id: settingsButton
+
+                    objectName: "openSettingsButton"
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: SystemTexts.of(SystemTexts.AccessSettings)
+                    visible: panel.grantable
+                    focus: panel.grantable
+                    onClicked: sheets.firstRun.openAccessSettings()
+                }
+
+                Row {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    spacing: 8
+
+                    Spinner {
+                        anchors.verticalCenter: parent.verticalCenter
+                    }
+
+                    Label {
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: qsTr("waiting for access…")
+                        size: 12
+                        soft: true
+                    }
+                }
+
+                LinkButton {
+                    id: continueButton
+
+                    objectName: "continueButton"
+                    focus: !panel.grantable
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: qsTr("Continue without it")
+                    textColor: Theme.inkSoft
+                    onClicked: sheets.firstRun.continueWithoutAccess()
+                }
+            }
         }
     }
 
-    // Visible only while its window is, so that a closed window does not keep checking.
+    // A closed window does not keep checking for access.
     Binding {
-        target: sheets.firstRun.access
-        property: "shown"
+        target: sheets.firstRun
+        property: "polling"
         value: accessSheet.visible && (sheets.Window.window?.visible ?? false)
     }
-    Component.onDestruction: sheets.firstRun.access.shown = false
+    Component.onDestruction: sheets.firstRun.polling = false
 }

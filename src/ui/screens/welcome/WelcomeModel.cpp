@@ -27,9 +27,6 @@ WelcomeModel::WelcomeModel(QObject* parent)
            SystemTexts::of(SystemTexts::WelcomePrivacy)},
       } {}
 
-QString WelcomeModel::primaryLabel() const {
-    return onLastPage() ? tr("Get Started") : tr("Next");
-}
 QString WelcomeModel::position() const {
     return tr("Page %1 of %2").arg(page_ + 1).arg(pages_.size());
 }

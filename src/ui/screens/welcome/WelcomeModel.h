@@ -36,8 +36,7 @@ class WelcomeModel : public QObject {
     Q_PROPERTY(QList<zelk::IntroPage> pages READ pages CONSTANT FINAL)
     Q_PROPERTY(int page READ page NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool backShown READ backShown NOTIFY pageChanged FINAL)
-    Q_PROPERTY(bool skipShown READ skipShown NOTIFY pageChanged FINAL)
-    Q_PROPERTY(QString primaryLabel READ primaryLabel NOTIFY pageChanged FINAL)
+    Q_PROPERTY(bool onLastPage READ onLastPage NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString title READ title NOTIFY pageChanged FINAL)
     Q_PROPERTY(int turnTime READ turnTime CONSTANT FINAL)
     Q_PROPERTY(QEasingCurve turnEasing READ turnEasing CONSTANT FINAL)
@@ -49,8 +48,7 @@ public:
     const QList<IntroPage>& pages() const { return pages_; }
     int page() const { return page_; }
     bool backShown() const { return page_ > 0; }
-    bool skipShown() const { return !onLastPage(); }
-    QString primaryLabel() const;
+    bool onLastPage() const { return page_ + 1 == pages_.size(); }
     /// The title of the current page.
     QString title() const { return pages_[page_].title; }
     /// "Page 1 of 4", for screen readers, which cannot see the dots.
@@ -74,7 +72,6 @@ signals:
     void finished();
 
 private:
-    bool onLastPage() const { return page_ + 1 == pages_.size(); }
     void show(int page);
 
     const QList<IntroPage> pages_;

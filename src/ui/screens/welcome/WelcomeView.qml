@@ -16,10 +16,10 @@ FocusScope {
 
     // If the focused button disappears with its page, moves the focus to the primary button, visibly if it was visible
     // before.
-    function turn(page) {
+    function turn(move) {
         const ringed = (panel.Window.activeFocusItem as T.AbstractButton)?.visualFocus ?? false;
-        page();
-        const stays = back.activeFocus && panel.welcome.backShown || skip.activeFocus && panel.welcome.skipShown;
+        move();
+        const stays = back.activeFocus && panel.welcome.backShown || skip.activeFocus && !panel.welcome.onLastPage;
         if (!stays)
             primaryButton.forceActiveFocus(ringed ? Qt.TabFocusReason : Qt.OtherFocusReason);
     }
@@ -61,9 +61,87 @@ FocusScope {
                 Repeater {
                     model: panel.welcome.pages
 
-                    WelcomePage {
+                    // A disc, a title and a text. Pages other than the current one are hidden from screen readers, even
+                    // while they slide out.
+                    Item {
+                        id: page
+
+                        required property int index
+                        required property introPage modelData
+                        readonly property bool current: page.index === panel.welcome.page
+
                         width: stage.width
-                        current: index === panel.welcome.page
+                        implicitHeight: body.implicitHeight
+
+                        opacity: page.current ? 1 : 0
+                        Behavior on opacity {
+                            NumberAnimation {
+                                duration: Motion.gentle
+                            }
+                        }
+
+                        Column {
+                            id: body
+
+                            anchors.horizontalCenter: parent.horizontalCenter
+                            width: page.width
+                            spacing: 12
+
+                            Rectangle {
+                                anchors.horizontalCenter: parent.horizontalCenter
+                                width: 140
+                                height: 140
+                                radius: width / 2
+                                color: Qt.alpha(page.modelData.tint, 0.16)
+
+                                Rectangle {
+                                    anchors.centerIn: parent
+                                    width: 108
+                                    height: 108
+                                    radius: width / 2
+                                    gradient: Gradient {
+                                        GradientStop {
+                                            position: 0
+                                            color: Qt.lighter(page.modelData.tint, 1.15)
+                                        }
+                                        GradientStop {
+                                            position: 1
+                                            color: page.modelData.tint
+                                        }
+                                    }
+
+                                    SymbolItem {
+                                        anchors.centerIn: parent
+                                        name: page.modelData.symbol
+                                        color: "white"
+                                        size: 44
+                                    }
+                                }
+                            }
+
+                            Label {
+                                width: parent.width
+                                topPadding: 16
+                                text: page.modelData.title
+                                size: 26
+                                font.weight: Font.Bold
+                                horizontalAlignment: Text.AlignHCenter
+                                wrapMode: Text.Wrap
+                                mute: !page.current
+                                Accessible.role: Accessible.Heading
+                            }
+
+                            Label {
+                                width: parent.width
+                                text: page.modelData.body
+                                size: 14
+                                soft: true
+                                lineHeight: 1.35
+                                horizontalAlignment: Text.AlignHCenter
+                                wrapMode: Text.Wrap
+                                mute: !page.current
+                            }
+                        }
                     }
                 }
             }
@@ -111,8 +189,8 @@ FocusScope {
                 text: qsTr("Skip")
                 size: 13
                 textColor: Theme.inkSoft
-                opacity: panel.welcome.skipShown ? 1 : 0
-                enabled: panel.welcome.skipShown
+                opacity: panel.welcome.onLastPage ? 0 : 1
+                enabled: !panel.welcome.onLastPage
                 onClicked: panel.welcome.skip()
             }
 
@@ -134,7 +212,7 @@ FocusScope {
 
                 objectName: "primaryButton"
                 anchors.right: parent.right
-                text: panel.welcome.primaryLabel
+                text: panel.welcome.onLastPage ? qsTr("Get Started") : qsTr("Next")
                 focus: true
                 onClicked: panel.turn(panel.welcome.pressPrimary)
             }
