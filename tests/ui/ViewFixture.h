@@ -47,19 +47,23 @@ protected:
         show(QStringLiteral("import QtQuick\nimport %1\n%2 { focus: true }").arg(module, type), size,
              {{QString::fromLatin1(property), QVariant::fromValue(model)}});
     }
-    /// Shows this QML document in a window of this size.
+    /// Shows this QML document, an item or a window, at this size.
     void show(const QString& source, QSize size, const QVariantMap& properties = {}) {
         QQmlComponent component(&engine_);
         component.setData(source.toUtf8(), QUrl(QStringLiteral("qrc:/test.qml")));
         ASSERT_TRUE(component.isReady()) << component.errorString().toStdString();
-        window_ = std::make_unique<QQuickWindow>();
+        QObject* made = component.createWithInitialProperties(properties);
+        ASSERT_NE(made, nullptr) << component.errorString().toStdString();
+        window_.reset(qobject_cast<QQuickWindow*>(made));
+        if (!window_) window_ = std::make_unique<QQuickWindow>();
         window_->resize(size);
-        view_.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
-        ASSERT_NE(view_, nullptr) << component.errorString().toStdString();
+        view_.reset(qobject_cast<QQuickItem*>(made));
         // The offscreen platform has no screen reader; without this the controls would not set their roles.
         QAccessible::setActive(true);
-        view_->setParentItem(window_->contentItem());
-        view_->setSize(size);
+        if (view_) {
+            view_->setParentItem(window_->contentItem());
+            view_->setSize(size);
+        }
         window_->show();
         runUntil([&] { return window_->isExposed() && window_->isActive(); });
         settle();
@@ -71,7 +75,7 @@ protected:
     }
 
     QQuickWindow& window() { return *window_; }
-    QQuickItem& view() { return *view_; }
+    QQuickItem& view() { return view_ ? *view_ : *window_->contentItem(); }
 
     /// Runs pending events and renders a frame, which applies the layout.
     void settle() {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The manual: topics at the left, the current one beside them. The arrow keys, Home and End change the current topic,
-// Page Up and Page Down scroll it.
+// The help window with the manual: topics at the left, the current one beside them. The arrow keys, Home and End change
+// the current topic, Page Up and Page Down scroll it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -8,31 +8,30 @@ import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
-FocusScope {
-    id: view
+SecondaryWindow {
+    id: window
 
     required property HelpModel help
 
-    implicitWidth: 760
-    implicitHeight: 520
+    title: qsTr("Zelk Help")
+    width: 760
+    height: 520
+    minimumWidth: 520
+    minimumHeight: 360
+    flags: Qt.Window
 
     // Shows a newly chosen topic from the top.
     Connections {
-        target: view.help
+        target: window.help
         function onCurrentChanged() {
             page.scrollTo(0);
         }
     }
 
     Rectangle {
-        anchors.fill: parent
-        color: Theme.ground
-    }
-
-    Rectangle {
         id: sidePanel
 
-        width: Math.round(Math.min(view.width * 0.45, 232 * TextScale.factor))
+        width: Math.round(Math.min(window.width * 0.45, 232 * TextScale.factor))
         height: parent.height
         color: Theme.groundHi
 
@@ -50,7 +49,7 @@ FocusScope {
 
                 // Focuses the row chosen by the keyboard, visibly, which scrolls it into view.
                 function followKeyboard() {
-                    const row = topics.itemAt(view.help.current) as T.AbstractButton;
+                    const row = topics.itemAt(window.help.current) as T.AbstractButton;
                     row.forceActiveFocus(Qt.TabFocusReason);
                     row.focusReason = Qt.TabFocusReason;
                 }
@@ -70,16 +69,16 @@ FocusScope {
                     case Qt.Key_PageDown:
                         return topicList.turnPage(1);
                     case Qt.Key_Up:
-                        view.help.selectPrevious();
+                        window.help.selectPrevious();
                         break;
                     case Qt.Key_Down:
-                        view.help.selectNext();
+                        window.help.selectNext();
                         break;
                     case Qt.Key_Home:
-                        view.help.selectFirst();
+                        window.help.selectFirst();
                         break;
                     case Qt.Key_End:
-                        view.help.selectLast();
+                        window.help.selectLast();
                         break;
                     default:
                         event.accepted = false;
@@ -99,13 +98,13 @@ FocusScope {
                     Repeater {
                         id: topics
 
-                        model: view.help.topics
+                        model: window.help.topics
 
                         TopicRow {
                             width: column.width - 2 * column.padding
-                            current: index === view.help.current
+                            current: index === window.help.current
                             focus: current
-                            onClicked: view.help.select(index)
+                            onClicked: window.help.select(index)
                         }
                     }
                 }
@@ -139,8 +138,8 @@ FocusScope {
             spacing: 12
 
             Tile {
-                symbol: view.help.topic.symbol
-                tint: view.help.topic.tint
+                symbol: window.help.topic.symbol
+                tint: window.help.topic.tint
                 side: 40
                 symbolSize: 20
             }
@@ -148,7 +147,7 @@ FocusScope {
             Label {
                 width: parent.width
                 topPadding: 8
-                text: view.help.topic.title
+                text: window.help.topic.title
                 size: 20
                 font.weight: Font.DemiBold
                 wrapMode: Text.Wrap
@@ -158,7 +157,7 @@ FocusScope {
             Label {
                 width: parent.width
                 bottomPadding: 4
-                text: view.help.topic.lead
+                text: window.help.topic.lead
                 size: 15
                 soft: true
                 lineHeight: 1.3
@@ -166,7 +165,7 @@ FocusScope {
             }
 
             Repeater {
-                model: view.help.topic.paragraphs
+                model: window.help.topic.paragraphs
 
                 Label {
                     required property string modelData

@@ -110,12 +110,13 @@ const std::vector<Topic>& topics() {
     return all;
 }
 
-class HelpViewTest : public ViewFixture {
+class HelpWindowTest : public ViewFixture {
 protected:
-    ~HelpViewTest() override { close(); }
+    ~HelpWindowTest() override { close(); }
 
     void open(QSize size = {760, 520}) {
-        show(QStringLiteral("Zelk.App"), QStringLiteral("HelpView"), "help", &help_, size);
+        show(QStringLiteral("import Zelk.App\nHelpWindow {}"), size,
+             {{QStringLiteral("help"), QVariant::fromValue(&help_)}});
     }
     HelpModel& help() { return help_; }
     bool shows(const std::string& text) {
@@ -130,13 +131,7 @@ private:
 
 }  // namespace
 
-TEST_F(HelpViewTest, hasImplicitSize) {
-    open();
-    EXPECT_EQ(view().implicitWidth(), 760);
-    EXPECT_EQ(view().implicitHeight(), 520);
-}
-
-TEST_F(HelpViewTest, showsTopicListAndCurrentTopic) {
+TEST_F(HelpWindowTest, showsTopicListAndCurrentTopic) {
     open();
     std::vector<std::string> titles;
     for (const Topic& topic : topics()) titles.push_back(topic.title);
@@ -152,7 +147,7 @@ TEST_F(HelpViewTest, showsTopicListAndCurrentTopic) {
     }
 }
 
-TEST_F(HelpViewTest, showsTintedSymbolInListAndOnPage) {
+TEST_F(HelpWindowTest, showsTintedSymbolInListAndOnPage) {
     open();
     for (int row = 0; row < 12; ++row) {
         const Topic& topic = topics()[static_cast<std::size_t>(row)];
@@ -169,13 +164,13 @@ TEST_F(HelpViewTest, showsTintedSymbolInListAndOnPage) {
     }
 }
 
-TEST_F(HelpViewTest, opensWithFirstTopicFocused) {
+TEST_F(HelpWindowTest, opensWithFirstTopicFocused) {
     open();
     EXPECT_EQ(focusName(), "Getting started");
     EXPECT_TRUE(shows("Zelk surveys your drive, shows what's using space, and helps you reclaim it safely."));
 }
 
-TEST_F(HelpViewTest, arrowsHomeAndEndSelectTopics) {
+TEST_F(HelpWindowTest, arrowsHomeAndEndSelectTopics) {
     open();
     press(Qt::Key_Down);
     EXPECT_EQ(focusName(), "Survey");
@@ -193,7 +188,7 @@ TEST_F(HelpViewTest, arrowsHomeAndEndSelectTopics) {
     EXPECT_EQ(focusName(), "Getting started");
 }
 
-TEST_F(HelpViewTest, scrollsToFocusedTopic) {
+TEST_F(HelpWindowTest, scrollsToFocusedTopic) {
     open({760, 300});
     for (int row = 0; row < 12; ++row) {
         expectFocusInSight();
@@ -203,7 +198,7 @@ TEST_F(HelpViewTest, scrollsToFocusedTopic) {
     expectFocusInSight();
 }
 
-TEST_F(HelpViewTest, onlyCurrentTopicIsATabStop) {
+TEST_F(HelpWindowTest, onlyCurrentTopicIsATabStop) {
     open();
     help().select(3);
     settle();
@@ -213,7 +208,7 @@ TEST_F(HelpViewTest, onlyCurrentTopicIsATabStop) {
     EXPECT_EQ(std::count(order.begin(), order.end(), "Getting started"), 0);
 }
 
-TEST_F(HelpViewTest, clickSelectsTopic) {
+TEST_F(HelpWindowTest, clickSelectsTopic) {
     open();
     QQuickItem* lens = showing("Lens");
     ASSERT_NE(lens, nullptr);
@@ -223,7 +218,7 @@ TEST_F(HelpViewTest, clickSelectsTopic) {
     EXPECT_TRUE(shows("See where your space went."));
 }
 
-TEST_F(HelpViewTest, topicIsASelectedListItem) {
+TEST_F(HelpWindowTest, topicIsASelectedListItem) {
     open();
     QAccessibleInterface* row = QAccessible::queryAccessibleInterface(window().activeFocusItem());
     ASSERT_NE(row, nullptr);
@@ -232,7 +227,7 @@ TEST_F(HelpViewTest, topicIsASelectedListItem) {
     expectAllControlsNamed();
 }
 
-TEST_F(HelpViewTest, newTopicStartsAtTop) {
+TEST_F(HelpWindowTest, newTopicStartsAtTop) {
     open({760, 260});
     QQuickItem* page = find("helpPage");
     ASSERT_NE(page, nullptr);
@@ -242,7 +237,7 @@ TEST_F(HelpViewTest, newTopicStartsAtTop) {
     EXPECT_EQ(page->property("contentY").toReal(), 0);
 }
 
-TEST_F(HelpViewTest, clipsNoTopicInLargeText) {
+TEST_F(HelpWindowTest, clipsNoTopicInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     open();
     for (int row = 0; row < 12; ++row) {
