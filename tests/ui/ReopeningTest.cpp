@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/shell/Reopening.h"
+#include "ui/shell/NativeApplication.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "ViewFixture.h"
 #include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/screens/module/UnbuiltModules.h"
-#include "ui/shell/AboutModel.h"
+#include "ui/shell/AboutInfo.h"
 #include "ui/shell/SidebarModel.h"
 
 namespace zelk {
@@ -52,10 +52,17 @@ TEST_F(ShellTexts, aboutShowsNameAndRows) {
     DeviceInfo device;
     device.osVersion = "TestOS 1.0";
     device.chip = "Test chip";
-    AboutModel about({"Zelk Preview", "1.2", "34"}, device);
-    show(QStringLiteral("Zelk.App"), QStringLiteral("AboutView"), "about", &about, {320, 320});
+    const auto showAbout = [&] {
+        show(QStringLiteral("import Zelk.App\nAboutWindow {}"), {320, 320},
+             {{QStringLiteral("about"), QVariant::fromValue(AboutInfo({"Zelk Preview", "1.2", "34"}, device))}});
+    };
+    showAbout();
     EXPECT_EQ(seenTexts(), (Texts{"Zelk Preview", "Version", "1.2 (34)", "System", "TestOS 1.0", "Chip", "Test chip"}));
     EXPECT_NE(symbol("internaldrive"), nullptr);
+    close();
+    device.chip.clear();
+    showAbout();
+    EXPECT_EQ(seenTexts(), (Texts{"Zelk Preview", "Version", "1.2 (34)", "System", "TestOS 1.0"}));
     close();
 }
 

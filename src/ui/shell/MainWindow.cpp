@@ -10,7 +10,7 @@
 #include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/screens/settings/SettingsScreenModel.h"
 #include "ui/screens/welcome/FirstRunModel.h"
-#include "ui/shell/AboutModel.h"
+#include "ui/shell/AboutInfo.h"
 #include "ui/shell/AppCommands.h"
 #include "ui/shell/Application.h"
 #include "ui/shell/DetailPages.h"
@@ -31,16 +31,10 @@ T* singleton(QQmlEngine& engine, const char* name) {
     return instance;
 }
 
-/// A view's required property `name` with this model.
+/// A view's required property `name` with this value.
 template <class T>
-QVariantMap as(const char* name, T* model) {
-    return {{QString::fromLatin1(name), QVariant::fromValue(model)}};
-}
-
-template <class T, class... Arguments>
-T& madeOnce(std::unique_ptr<T>& model, Arguments&&... arguments) {
-    if (!model) model = std::make_unique<T>(std::forward<Arguments>(arguments)...);
-    return *model;
+QVariantMap as(const char* name, const T& value) {
+    return {{QString::fromLatin1(name), QVariant::fromValue(value)}};
 }
 
 }  // namespace
@@ -122,9 +116,10 @@ ReclaimScreenModel& MainWindow::reclaim() {
 QVariantMap MainWindow::givenTo(WindowId id) {
     switch (id) {
         case WindowId::about:
-            return as("about", &madeOnce(about_, services_.bundle, app_.device()));
+            return as("about", AboutInfo(services_.bundle, app_.device()));
         case WindowId::help:
-            return as("help", &madeOnce(help_));
+            help_ = std::make_unique<HelpModel>();
+            return as("help", help_.get());
         case WindowId::settings:
             return as("settings", &pages_->model<SettingsScreenModel>(Screen::settings));
     }

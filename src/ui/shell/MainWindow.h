@@ -13,7 +13,6 @@
 
 namespace zelk {
 
-class AboutModel;
 class AppCommands;
 class AppModel;
 class FirstRunModel;
@@ -67,7 +66,6 @@ private:
     std::unique_ptr<SidebarModel> sidebar_;
     std::unique_ptr<DetailPages> pages_;
     std::unique_ptr<HelpModel> help_;
-    std::unique_ptr<AboutModel> about_;
     std::unique_ptr<FirstRunModel> firstRun_;
     std::unique_ptr<QuitQuestion> quitQuestion_;
     std::unique_ptr<AppCommands> commands_;

@@ -6,7 +6,6 @@
 #include <QSessionManager>
 
 #include "ui/shell/Application.h"
-#include "ui/shell/NativeApplication.h"
 #include "ui/shell/NativeMenuBar.h"
 #include "ui/shell/QuitQuestion.h"
 

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "ui/shell/MainWindow.h"
-#include "ui/shell/Reopening.h"
+#include "ui/shell/NativeApplication.h"
 #include "ui/shell/StatusItem.h"
 #include "ui/shell/StatusMenu.h"
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "ui/shell/BundleInfo.h"
+#include "ui/shell/NativeApplication.h"
 #include "ui/shell/Tray.h"
 
 namespace zelk {

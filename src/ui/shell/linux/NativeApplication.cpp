@@ -3,6 +3,10 @@
 
 namespace zelk {
 
+BundleInfo applicationBundle() {
+    return {QStringLiteral("Zelk"), QStringLiteral(ZELK_VERSION), std::nullopt};
+}
+
 void refuseWindowTabs() {}
 
 void removeServicesMenu() {}

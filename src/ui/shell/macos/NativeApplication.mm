@@ -5,6 +5,20 @@
 
 namespace zelk {
 
+namespace {
+
+std::optional<QString> bundleText(NSString* key) {
+    id value = [NSBundle.mainBundle objectForInfoDictionaryKey:key];
+    if (![value isKindOfClass:NSString.class]) return std::nullopt;
+    return QString::fromUtf8(((NSString*)value).UTF8String);
+}
+
+}  // namespace
+
+BundleInfo applicationBundle() {
+    return {bundleText(@"CFBundleName"), bundleText(@"CFBundleShortVersionString"), bundleText(@"CFBundleVersion")};
+}
+
 void refuseWindowTabs() {
     NSWindow.allowsAutomaticWindowTabbing = NO;
 }
