@@ -19,7 +19,7 @@
 //   ui/charts/   what is painted: CirclePacking and the bubble map over it, ScanButton, ribbon, ring, sparkline
 //   ui/screens/  a folder per screen, a model and its view: overview is the home, module the three faces of every
 //                screen that looks for something
-//   ui/shell/    Shell: the main window and those beside it; ScreenPlaces, the one table of screens; the menus
+//   ui/shell/    Shell: the main window and those beside it; DetailPages, the one table of screens; the menus
 //                (AppCommands), the sidebar, the status item, the question before an end that comes too soon
 //   app/         this file: makes the platform, the model and the shell, and nothing else
 //

@@ -2,11 +2,67 @@
 #include "ui/shell/DetailPages.h"
 
 #include <QUrl>
+#include <algorithm>
 #include <utility>
 
 #include "state/AppModel.h"
+#include "ui/screens/clutter/ClutterScreenModel.h"
+#include "ui/screens/lens/LensScreenModel.h"
+#include "ui/screens/module/UnbuiltModules.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
+#include "ui/screens/reclaim/ReclaimScreenModel.h"
+#include "ui/screens/settings/SettingsScreenModel.h"
+#include "ui/screens/tools/ToolsScreenModel.h"
+#include "ui/shell/WindowServices.h"
 
 namespace zelk {
+
+namespace {
+
+/// Describes a screen: its view, and a factory for the model that the view takes as a required property.
+struct ScreenPlace {
+    Screen screen;
+    const char* view;      ///< the QML file, without its extension
+    const char* property;  ///< the name of the model in the view
+    std::unique_ptr<QObject> (*make)(const ScreenContext&);
+};
+
+template <class Model>
+std::unique_ptr<QObject> make(const ScreenContext& context) {
+    return std::make_unique<Model>(context.app);
+}
+
+template <>
+std::unique_ptr<QObject> make<SettingsScreenModel>(const ScreenContext& context) {
+    return std::make_unique<SettingsScreenModel>(context.app, context.services.pickFolder);
+}
+
+template <Screen screen>
+std::unique_ptr<QObject> introduce(const ScreenContext& context) {
+    return makeUnbuiltModule(context.app, screen);
+}
+
+/// The table of screens.
+constexpr ScreenPlace places[] = {
+    {Screen::survey, "SurveyView", "survey", make<SurveyScreenModel>},
+    {Screen::reclaim, "DevCleanupView", "reclaim", make<ReclaimScreenModel>},
+    {Screen::privacy, "ModuleView", "module", introduce<Screen::privacy>},
+    {Screen::tune, "ModuleView", "module", introduce<Screen::tune>},
+    {Screen::apps, "ModuleView", "module", introduce<Screen::apps>},
+    {Screen::clutter, "ClutterView", "clutter", make<ClutterScreenModel>},
+    {Screen::duplicates, "ModuleView", "module", introduce<Screen::duplicates>},
+    {Screen::lens, "MapView", "lens", make<LensScreenModel>},
+    {Screen::health, "ModuleView", "module", introduce<Screen::health>},
+    {Screen::system, "ModuleView", "module", introduce<Screen::system>},
+    {Screen::tools, "ToolsView", "tools", make<ToolsScreenModel>},
+    {Screen::settings, "SettingsView", "settings", make<SettingsScreenModel>},
+};
+
+const ScreenPlace& placeOf(Screen screen) {
+    return *std::ranges::find(places, screen, &ScreenPlace::screen);
+}
+
+}  // namespace
 
 DetailPages::DetailPages(const ScreenContext& context)
     : RowModel({"view", "built", "current"}), context_(context), current_(static_cast<int>(context.app.selection())) {

@@ -8,9 +8,17 @@
 
 #include "state/Screen.h"
 #include "ui/controls/RowModel.h"
-#include "ui/shell/ScreenPlaces.h"
 
 namespace zelk {
+
+class AppModel;
+struct WindowServices;
+
+/// What the models of screens are created from. Outlives them.
+struct ScreenContext {
+    AppModel& app;
+    const WindowServices& services;
+};
 
 /// List model of the screens beside the sidebar, a row each in the order of Screen, with their models. A view is
 /// created when its screen is first shown, and then kept; only the current one is visible. Main thread.

@@ -84,10 +84,40 @@ FocusScope {
             Repeater {
                 model: contents.pages
 
-                DetailPage {
-                    pages: contents.pages
+                // Loads the view of a screen when it is first shown, and keeps it.
+                Loader {
+                    id: page
+
+                    required property int index
+                    required property url view
+                    required property bool built
+                    required property bool current
+
+                    // `built` may change before all required properties are set.
+                    property bool made: false
+
+                    function build() {
+                        if (page.made && page.built)
+                            page.setSource(page.view, contents.pages.given(page.index));
+                    }
+
                     // Moves the focus along to the new screen if the old one had it.
-                    onArrived: focus = true
+                    function arrive() {
+                        if (page.current)
+                            page.focus = true;
+                    }
+
+                    anchors.fill: parent
+                    visible: page.current
+
+                    Component.onCompleted: {
+                        page.made = true;
+                        page.build();
+                        page.arrive();
+                    }
+                    onBuiltChanged: page.build()
+                    onCurrentChanged: page.arrive()
+                    onLoaded: page.item.focus = true
                 }
             }
         }
