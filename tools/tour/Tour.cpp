@@ -279,9 +279,9 @@ bool Tour::windows() {
 }
 
 bool Tour::sidebarAndMenus() {
-    window_.sidebar().setCollapsed(true);
+    window_.sidebar().toggleCollapsed();
     if (!picture(QStringLiteral("sidebar-collapsed"))) return false;
-    window_.sidebar().setCollapsed(false);
+    window_.sidebar().toggleCollapsed();
     if (!clickOn(window_.window(), QStringLiteral("menuTitleGo")) || !appears(window_.window(), "menuOverview"))
         return missed("the menu");
     const bool taken = picture(QStringLiteral("menu"));

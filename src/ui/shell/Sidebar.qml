@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The modules by group, and in the footer the tools, the settings and the developer switch. Collapsed, only symbols
-// show.
+// The application's mark and name, the modules by group, and in the footer the tools, the settings and the developer
+// switch. Collapsed, only symbols show.
 pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.App
+import Zelk.Charts
 import Zelk.Controls
 
 FocusScope {
@@ -45,14 +46,64 @@ FocusScope {
         color: Theme.groundHi
     }
 
-    SidebarHead {
+    // The mark, the name and the button that collapses the sidebar, which is then below the mark.
+    Item {
         id: head
 
         anchors.top: parent.top
         anchors.left: parent.left
         anchors.right: parent.right
-        sidebar: bar.sidebar
-        tight: bar.tight
+        implicitHeight: bar.sidebar.collapsed ? collapse.y + collapse.height + 8 : Math.max(mark.y + mark.height, brand.implicitHeight) + (bar.tight ? 12 : 20)
+
+        // The application's mark, the same as its icon.
+        PaintedLayer {
+            id: mark
+
+            kind: PaintedLayer.Tile
+            color: Theme.accent
+            x: bar.sidebar.collapsed ? 16 : 20
+            y: bar.tight ? 14 : 22
+            width: 28
+            height: 28
+            Behavior on x {
+                NumberAnimation {
+                    duration: Motion.gentle
+                    easing.type: Easing.OutCubic
+                }
+            }
+
+            SymbolItem {
+                anchors.centerIn: parent
+                name: "internaldrive"
+                color: Theme.accentInk
+                size: 18
+            }
+        }
+
+        Label {
+            id: brand
+
+            anchors.left: mark.right
+            anchors.leftMargin: 10
+            anchors.right: collapse.left
+            anchors.verticalCenter: mark.verticalCenter
+            text: "Zelk"
+            size: 17
+            font.weight: Font.DemiBold
+            visible: !bar.sidebar.collapsed
+        }
+
+        IconButton {
+            id: collapse
+
+            objectName: "collapseButton"
+            x: bar.sidebar.collapsed ? (head.width - width) / 2 : head.width - width - 12
+            y: bar.sidebar.collapsed ? mark.y + mark.height + 8 : mark.y + (mark.height - height) / 2
+            symbol: "sidebar.left"
+            text: bar.sidebar.collapsed ? qsTr("Expand sidebar") : qsTr("Collapse sidebar")
+            help: text
+            onClicked: bar.sidebar.toggleCollapsed()
+        }
     }
 
     ScrollArea {
@@ -141,10 +192,43 @@ FocusScope {
             }
         }
 
-        DeveloperSwitch {
+        Item {
+            id: switchRow
+
             width: footer.width - 24
-            sidebar: bar.sidebar
-            tight: bar.tight
+            implicitHeight: Math.max(bar.tight ? 32 : 40, label.implicitHeight + 12)
+
+            Label {
+                id: label
+
+                anchors.left: parent.left
+                anchors.leftMargin: 12
+                anchors.right: toggle.left
+                anchors.rightMargin: 8
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Developer view")
+                size: 12
+                soft: true
+                mute: true
+                visible: !bar.sidebar.collapsed
+            }
+
+            ToggleSwitch {
+                id: toggle
+
+                objectName: "developerSwitch"
+                x: bar.sidebar.collapsed ? (switchRow.width - width) / 2 : switchRow.width - width - 8
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Developer view")
+                labelled: false
+                checked: bar.sidebar.developer
+                onToggled: bar.sidebar.developer = checked
+
+                HelpTip {
+                    text: qsTr("Show developer-focused junk and per-item controls in Reclaim")
+                    control: toggle
+                }
+            }
         }
     }
 
