@@ -8,7 +8,6 @@
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/NativeApplication.h"
 #include "ui/shell/StatusItem.h"
-#include "ui/shell/StatusMenu.h"
 
 namespace zelk {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/shell/StatusMenu.h"
+#include "ui/shell/StatusItem.h"
 
 #include <gmock/gmock.h>
 
@@ -7,7 +7,6 @@
 
 #include "fakes/FakeTray.h"
 #include "state/AppModelFixture.h"
-#include "ui/shell/StatusItem.h"
 #include "ui/theme/DisplayText.h"
 
 namespace zelk {
@@ -16,14 +15,14 @@ namespace {
 
 using testing::ElementsAre;
 
-class StatusMenuTest : public AppModelFixture {
+class StatusItemTest : public AppModelFixture {
 protected:
-    StatusMenuTest() {
+    StatusItemTest() {
         machine.vitals.setVolume(home, VolumeInfo{1'000'000'000'000, 212'400'000'000, 212'400'000'000});
         fillHome();
         addWideFolder(home + "/wide");
     }
-    ~StatusMenuTest() override { machine.directories.release(); }
+    ~StatusItemTest() override { machine.directories.release(); }
 
     /// A divider is "-", and entries without an action are in brackets.
     std::vector<std::string> texts() {
@@ -47,17 +46,17 @@ protected:
 
 }  // namespace
 
-TEST_F(StatusMenuTest, offersSurveyAtFirst) {
+TEST_F(StatusItemTest, offersSurveyAtFirst) {
     EXPECT_THAT(texts(), ElementsAre("[Free space: " + byteFigure(model().freeBytes()).toStdString() + "]", "-",
                                      "Open Zelk", "Run survey", "-", "Quit Zelk"));
 }
 
-TEST_F(StatusMenuTest, showsFreeSpaceOfVolume) {
+TEST_F(StatusItemTest, showsFreeSpaceOfVolume) {
     survey();
     EXPECT_EQ(texts().front(), "[Free space: 212.4 GB]");
 }
 
-TEST_F(StatusMenuTest, showsProgressInsteadOfOfferDuringSurvey) {
+TEST_F(StatusItemTest, showsProgressInsteadOfOfferDuringSurvey) {
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
     EXPECT_EQ(texts()[3], "[Surveying… 0 bytes]");
@@ -65,7 +64,7 @@ TEST_F(StatusMenuTest, showsProgressInsteadOfOfferDuringSurvey) {
     EXPECT_EQ(texts()[3], "[Surveying… " + byteFigure(model().bytesScanned()).toStdString() + "]");
 }
 
-TEST_F(StatusMenuTest, offersCleaningOnlyAfterFinishedSurvey) {
+TEST_F(StatusItemTest, offersCleaningOnlyAfterFinishedSurvey) {
     machine.directories.hold(home + "/wide/inner");
     model().startScan();
     EXPECT_EQ(texts().size(), 6U);
@@ -77,14 +76,14 @@ TEST_F(StatusMenuTest, offersCleaningOnlyAfterFinishedSurvey) {
     EXPECT_EQ(texts().size(), 6U);
 }
 
-TEST_F(StatusMenuTest, offersNoCleaningIfNothingIsSafe) {
+TEST_F(StatusItemTest, offersNoCleaningIfNothingIsSafe) {
     machine.directories.directory("/home/me/empty");
     model().setScanRoots({"/home/me/empty"});
     survey();
     EXPECT_EQ(texts().size(), 6U);
 }
 
-TEST_F(StatusMenuTest, cleansSafeCaches) {
+TEST_F(StatusItemTest, cleansSafeCaches) {
     machine.files.addFile(home + "/Library/Caches/Yarn/v6");
     machine.files.addFile(home + "/projects/app/node_modules/a.js");
     survey();
@@ -98,7 +97,7 @@ TEST_F(StatusMenuTest, cleansSafeCaches) {
     EXPECT_TRUE(machine.files.exists(home + "/projects/app/node_modules/a.js"));
 }
 
-TEST_F(StatusMenuTest, runSurveyOpensOverviewAndStartsSurvey) {
+TEST_F(StatusItemTest, runSurveyOpensOverviewAndStartsSurvey) {
     machine.directories.hold(home);
     model().setSelection(Screen::lens);
     press("Run survey");
@@ -107,14 +106,14 @@ TEST_F(StatusMenuTest, runSurveyOpensOverviewAndStartsSurvey) {
     EXPECT_EQ(opens, 1);
 }
 
-TEST_F(StatusMenuTest, opensAndQuits) {
+TEST_F(StatusItemTest, opensAndQuits) {
     press("Open Zelk");
     EXPECT_EQ(opens, 1);
     press("Quit Zelk");
     EXPECT_EQ(quits, 1);
 }
 
-TEST_F(StatusMenuTest, coalescesChangeNotifications) {
+TEST_F(StatusItemTest, coalescesChangeNotifications) {
     int changes = 0;
     QObject::connect(&menu, &StatusMenu::changed, &menu, [&] { ++changes; });
     for (int report = 0; report < 100; ++report) emit model().progressChanged();
@@ -124,7 +123,7 @@ TEST_F(StatusMenuTest, coalescesChangeNotifications) {
     EXPECT_EQ(changes, 1) << "all reports are signalled at once";
 }
 
-TEST_F(StatusMenuTest, statusItemReusesActionsWhenTextsChange) {
+TEST_F(StatusItemTest, statusItemReusesActionsWhenTextsChange) {
     StatusItem item(menu, std::make_unique<fakes::FakeTray>());
     EXPECT_FALSE(item.present());
     const QList<QAction*> before = item.menu().actions();
@@ -140,7 +139,7 @@ TEST_F(StatusMenuTest, statusItemReusesActionsWhenTextsChange) {
     EXPECT_EQ(item.menu().actions()[4]->text(), QStringLiteral("Clean safe caches (50 MB)"));
 }
 
-TEST_F(StatusMenuTest, statusItemIsAbsentWithoutTray) {
+TEST_F(StatusItemTest, statusItemIsAbsentWithoutTray) {
     StatusItem item(menu, std::make_unique<fakes::FakeTray>());
     item.start();
     EXPECT_FALSE(item.present());
