@@ -4,9 +4,10 @@
 #include <gmock/gmock.h>
 
 #include <QMenu>
+#include <QMenuBar>
 
 #include "state/AppModelFixture.h"
-#include "ui/shell/NativeMenuBar.h"
+#include "ui/shell/SecondaryWindows.h"
 
 namespace zelk {
 
@@ -113,7 +114,7 @@ TEST_F(AppCommandsTest, ignoresInvalidRows) {
 }
 
 TEST_F(AppCommandsTest, nativeMenuBarMirrorsEntriesWithExplicitRoles) {
-    const std::unique_ptr<QMenuBar> bar = makeNativeMenuBar(commands);
+    const std::unique_ptr<QMenuBar> bar = commands.makeMenuBar();
     EXPECT_EQ(bar->parent(), nullptr);
     const QList<CommandMenu*> menus = commands.menus();
     ASSERT_EQ(bar->actions().size(), menus.size());
@@ -147,7 +148,7 @@ TEST_F(AppCommandsTest, helpHasTwoKeys) {
 }
 
 TEST_F(AppCommandsTest, systemsMenuBarKnowsBothKeysOfHelp) {
-    const std::unique_ptr<QMenuBar> bar = makeNativeMenuBar(commands);
+    const std::unique_ptr<QMenuBar> bar = commands.makeMenuBar();
     const QAction* help = bar->actions().back()->menu()->actions().front();
     EXPECT_THAT(help->shortcuts(), ElementsAre(QKeySequence(QStringLiteral("Ctrl+?")), QKeySequence(Qt::Key_F1)));
 }

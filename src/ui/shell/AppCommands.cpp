@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/AppCommands.h"
 
+#include <QMenuBar>
 #include <utility>
 
 #include "state/AppModel.h"
+#include "ui/shell/SecondaryWindows.h"
 #include "ui/theme/ScreenLook.h"
 
 namespace zelk {
@@ -26,7 +28,49 @@ std::vector<Command> goCommands(AppModel& app) {
     return commands;
 }
 
+/// The system moves entries with a role to its application menu. Without explicit roles Qt guesses them from the texts.
+QAction::MenuRole roleOf(Command::Part part) {
+    switch (part) {
+        case Command::Part::about:
+            return QAction::AboutRole;
+        case Command::Part::settings:
+            return QAction::PreferencesRole;
+        case Command::Part::quit:
+            return QAction::QuitRole;
+        case Command::Part::ordinary:
+        case Command::Part::screen:
+            return QAction::NoRole;
+    }
+    return QAction::NoRole;
+}
+
 }  // namespace
+
+CommandMenu::CommandMenu(QString title, std::vector<Command> commands)
+    : RowModel({"title", "shortcutText", "startsGroup", "name"}),
+      title_(std::move(title)),
+      commands_(std::move(commands)) {}
+
+QVariant CommandMenu::value(std::size_t row, int role) const {
+    const Command& command = commands_[row];
+    switch (role) {
+        case Qt::DisplayRole:
+        case titleRole:
+            return command.title;
+        case shortcutTextRole:
+            return command.shortcut.toString(QKeySequence::NativeText);
+        case startsGroupRole:
+            return command.startsGroup;
+        case nameRole:
+            return QStringLiteral("menu") + command.title;
+        default:
+            return {};
+    }
+}
+
+void CommandMenu::run(int row) {
+    if (has(row)) commands_[static_cast<std::size_t>(row)].run();
+}
 
 AppCommands::AppCommands(AppModel& app, std::function<void(WindowId)> openWindow, std::function<void()> quit,
                          std::function<bool()> busy)
@@ -64,6 +108,24 @@ QStringList AppCommands::shortcuts() const {
     QStringList shortcuts;
     for (const Key& key : keys()) shortcuts.append(key.keys.toString());
     return shortcuts;
+}
+
+std::unique_ptr<QMenuBar> AppCommands::makeMenuBar() {
+    auto bar = std::make_unique<QMenuBar>();
+    for (const auto& menu : menus_) {
+        QMenu* shown = bar->addMenu(menu->title());
+        for (const Command& command : menu->commands()) {
+            if (command.startsGroup) shown->addSeparator();
+            QAction* action = shown->addAction(command.title);
+            QList<QKeySequence> keys = {command.shortcut};
+            if (!command.otherShortcut.isEmpty()) keys.append(command.otherShortcut);
+            action->setShortcuts(keys);
+            action->setMenuRole(roleOf(command.part));
+            // Whether it was a key or the mouse, the system does not say.
+            connect(action, &QAction::triggered, this, [this, &command] { runByKey(command); });
+        }
+    }
+    return bar;
 }
 
 void AppCommands::run(const Command& command) const {

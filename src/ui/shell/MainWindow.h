@@ -8,7 +8,6 @@
 
 #include "ui/shell/DetailPages.h"
 #include "ui/shell/SecondaryWindows.h"
-#include "ui/shell/WindowId.h"
 #include "ui/shell/WindowServices.h"
 
 namespace zelk {

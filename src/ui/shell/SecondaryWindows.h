@@ -8,9 +8,10 @@
 #include <map>
 #include <memory>
 
-#include "ui/shell/WindowId.h"
-
 namespace zelk {
+
+/// The secondary windows, one of each.
+enum class WindowId { about, help, settings };
 
 /// The windows other than the main one. Each is created when first opened, and then kept. Main thread.
 class SecondaryWindows {
@@ -31,7 +32,7 @@ private:
     std::map<WindowId, std::unique_ptr<QQuickWindow>> windows_;
 };
 
-/// Creates the window of a QML file in ui/shell, centred on its screen and hidden. Aborts if the file does not define a
+/// Creates the window of a QML file of Zelk.App, centred on its screen and hidden. Aborts if the file does not define a
 /// window, which is a bug.
 std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& file, const QVariantMap& given);
 

@@ -6,7 +6,6 @@
 #include <QSessionManager>
 
 #include "ui/shell/Application.h"
-#include "ui/shell/NativeMenuBar.h"
 #include "ui/shell/QuitQuestion.h"
 
 namespace zelk {
@@ -18,7 +17,7 @@ Shell::Shell(AppModel& app, const WindowServices& services)
       statusItem_(statusMenu_, services.tray()) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
 #ifdef Q_OS_MACOS
-    menuBar_ = makeNativeMenuBar(main_.commands());
+    menuBar_ = main_.commands().makeMenuBar();
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &Shell::followApplicationState);
 #endif
     qGuiApp->installEventFilter(this);
