@@ -140,16 +140,6 @@ TEST_F(QuitQuestionTest, ignoresFurtherAnswers) {
     EXPECT_TRUE(question.stopping());
 }
 
-TEST_F(QuitQuestionTest, noteExplainsAnswers) {
-    quitWhileRemoving();
-    EXPECT_EQ(question.note(),
-              QStringLiteral("Finish first, and Zelk quits by itself when everything is removed. Stop now, and what "
-                             "has begun is finished while the rest stays where it is."));
-    question.stopNow();
-    EXPECT_EQ(question.note(),
-              QStringLiteral("Nothing more begins. Zelk quits as soon as what has begun is finished."));
-}
-
 // Quitting without a window for the question.
 
 TEST_F(QuitQuestionTest, quitUnaskedQuitsAtOnceWithoutRemoval) {

@@ -93,7 +93,8 @@ TEST_F(QuitSheetWindow, staysAfterStopNowUntilRemovalEnds) {
     click("stopNow");
     EXPECT_FALSE(removal->mayBegin());
     for (const char* button : {"cancelQuit", "stopNow", "finishFirst"}) EXPECT_FALSE(find(button)->isEnabled());
-    EXPECT_EQ(find("quitNote")->property("text").toString(), question.note());
+    EXPECT_EQ(find("quitNote")->property("text").toString(),
+              QStringLiteral("Nothing more begins. Zelk quits as soon as what has begun is finished."));
     press(Qt::Key_Escape);
     press(Qt::Key_Return);
     EXPECT_TRUE(question.stopping());

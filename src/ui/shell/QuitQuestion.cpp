@@ -33,12 +33,6 @@ bool QuitQuestion::endSession(bool mayAsk) {
     return mayAsk;
 }
 
-QString QuitQuestion::note() const {
-    return stopping() ? tr("Nothing more begins. Zelk quits as soon as what has begun is finished.")
-                      : tr("Finish first, and Zelk quits by itself when everything is removed. Stop now, and what "
-                           "has begun is finished while the rest stays where it is.");
-}
-
 void QuitQuestion::cancel() {
     if (asking()) go(Way::none);
 }

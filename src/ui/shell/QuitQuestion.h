@@ -3,7 +3,6 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
-#include <QString>
 #include <functional>
 
 namespace zelk {
@@ -20,7 +19,6 @@ class QuitQuestion : public QObject {
     Q_PROPERTY(bool shown READ shown NOTIFY changed FINAL)
     Q_PROPERTY(bool asking READ asking NOTIFY changed FINAL)
     Q_PROPERTY(bool stopping READ stopping NOTIFY changed FINAL)
-    Q_PROPERTY(QString note READ note NOTIFY changed FINAL)
 
 public:
     /// `removals` must outlive it. `quit` ends the application.
@@ -41,7 +39,6 @@ public:
     bool shown() const { return asking() || stopping(); }
     bool asking() const { return way_ == Way::asking; }
     bool stopping() const { return way_ == Way::stopping; }
-    QString note() const;
 
 public slots:
     // The answers. Ignored unless asking().

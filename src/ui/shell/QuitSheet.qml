@@ -40,7 +40,9 @@ Sheet {
             Label {
                 objectName: "quitNote"
                 width: parent.width
-                text: sheet.question.note
+                text: sheet.question.stopping
+                    ? qsTr("Nothing more begins. Zelk quits as soon as what has begun is finished.")
+                    : qsTr("Finish first, and Zelk quits by itself when everything is removed. Stop now, and what has begun is finished while the rest stays where it is.")
                 size: 12
                 soft: true
                 wrapMode: Text.WordWrap
