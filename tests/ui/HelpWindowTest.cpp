@@ -115,10 +115,9 @@ protected:
     ~HelpWindowTest() override { close(); }
 
     void open(QSize size = {760, 520}) {
-        show(QStringLiteral("import Zelk.App\nHelpWindow {}"), size,
-             {{QStringLiteral("help"), QVariant::fromValue(&help_)}});
+        show(QStringLiteral("import Zelk.App\nHelpWindow {}"), size);
     }
-    HelpModel& help() { return help_; }
+    HelpModel& help() { return *window().property("help").value<HelpModel*>(); }
     bool shows(const std::string& text) {
         const std::vector<std::string> texts = seenTexts();
         return std::find(texts.begin(), texts.end(), text) != texts.end();
@@ -126,7 +125,6 @@ protected:
 
 private:
     const TextsOf texts_{macOS};
-    HelpModel help_;
 };
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/screens/help/HelpModel.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/screens/settings/SettingsScreenModel.h"
@@ -118,8 +117,7 @@ QVariantMap MainWindow::givenTo(WindowId id) {
         case WindowId::about:
             return as("about", AboutInfo(services_.bundle, app_.device()));
         case WindowId::help:
-            help_ = std::make_unique<HelpModel>();
-            return as("help", help_.get());
+            return {};
         case WindowId::settings:
             return as("settings", &pages_->model<SettingsScreenModel>(Screen::settings));
     }

@@ -15,7 +15,6 @@ namespace zelk {
 class AppCommands;
 class AppModel;
 class FirstRunModel;
-class HelpModel;
 class Motion;
 class QuitQuestion;
 class ReclaimScreenModel;
@@ -64,7 +63,6 @@ private:
     // Order matters: the windows read the models and are destroyed first.
     std::unique_ptr<SidebarModel> sidebar_;
     std::unique_ptr<DetailPages> pages_;
-    std::unique_ptr<HelpModel> help_;
     std::unique_ptr<FirstRunModel> firstRun_;
     std::unique_ptr<QuitQuestion> quitQuestion_;
     std::unique_ptr<AppCommands> commands_;

@@ -46,7 +46,6 @@ QList<HelpTopic> helpTopics();
 class HelpModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("Made by the shell")
     Q_PROPERTY(QList<zelk::HelpTopic> topics READ topics CONSTANT FINAL)
     Q_PROPERTY(int current READ current NOTIFY currentChanged FINAL)
     Q_PROPERTY(zelk::HelpTopic topic READ topic NOTIFY currentChanged FINAL)

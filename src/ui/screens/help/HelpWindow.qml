@@ -11,7 +11,7 @@ import Zelk.Controls
 SecondaryWindow {
     id: window
 
-    required property HelpModel help
+    readonly property HelpModel help: HelpModel {}
 
     title: qsTr("Zelk Help")
     width: 760
