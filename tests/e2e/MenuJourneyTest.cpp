@@ -39,12 +39,12 @@ TEST_F(Menus, controlRIsIgnoredDuringSurvey) {
 
 TEST_F(Menus, controlQuestionMarkOpensHelp) {
     press(Qt::Key_Question, Qt::ControlModifier);
-    EXPECT_NE(main().secondary().find(WindowId::help), nullptr);
+    EXPECT_NE(main().findWindow(WindowId::help), nullptr);
 }
 
 TEST_F(Menus, controlCommaOpensSettings) {
     press(Qt::Key_Comma, Qt::ControlModifier);
-    EXPECT_NE(main().secondary().find(WindowId::settings), nullptr);
+    EXPECT_NE(main().findWindow(WindowId::settings), nullptr);
 }
 
 TEST_F(Menus, controlQQuits) {
@@ -95,7 +95,7 @@ TEST_F(Menus, escapeClosesMenuAndRestoresFocus) {
 
 TEST_F(Menus, f1OpensTheHelpInEveryWindow) {
     press(Qt::Key_F1);
-    QQuickWindow* help = main().secondary().find(WindowId::help);
+    QQuickWindow* help = main().findWindow(WindowId::help);
     ASSERT_NE(help, nullptr);
     help->close();
     QQuickWindow& about = main().openWindow(WindowId::about);

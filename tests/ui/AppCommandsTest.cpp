@@ -7,7 +7,6 @@
 #include <QMenuBar>
 
 #include "state/AppModelFixture.h"
-#include "ui/shell/SecondaryWindows.h"
 
 namespace zelk {
 

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/shell/SecondaryWindows.h"
 #include "ui/theme/ScreenLook.h"
 
 namespace zelk {

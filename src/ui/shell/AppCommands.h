@@ -19,7 +19,9 @@ class QMenuBar;
 namespace zelk {
 
 class AppModel;
-enum class WindowId;
+
+/// The windows beside the main one, one of each.
+enum class WindowId { about, help, settings };
 
 /// A menu entry. `part` marks entries that a system with a global menu bar puts in its own place, and those that lead
 /// to a screen.

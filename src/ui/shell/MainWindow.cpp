@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/MainWindow.h"
 
-#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QScreen>
+#include <algorithm>
 #include <utility>
 
 #include "state/AppModel.h"
@@ -10,7 +13,6 @@
 #include "ui/screens/settings/SettingsScreenModel.h"
 #include "ui/screens/welcome/FirstRunModel.h"
 #include "ui/shell/AboutInfo.h"
-#include "ui/shell/AppCommands.h"
 #include "ui/shell/Application.h"
 #include "ui/shell/DetailPages.h"
 #include "ui/shell/QuitQuestion.h"
@@ -36,6 +38,43 @@ QVariantMap as(const char* name, const T& value) {
     return {{QString::fromLatin1(name), QVariant::fromValue(value)}};
 }
 
+/// Creates the window of a QML file of Zelk.App, centred on its screen and hidden. Aborts if the file does not define a
+/// window, which is a bug.
+std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& file, const QVariantMap& given) {
+    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/Zelk/App/%1.qml").arg(file)));
+    if (!component.isReady()) qFatal("%s", qPrintable(component.errorString()));
+    std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(given)));
+    if (!window) qFatal("%s is no window: %s", qPrintable(file), qPrintable(component.errorString()));
+    if (const QScreen* screen = window->screen()) {
+        const QRect room = screen->availableGeometry();
+        QRect place(QPoint(), window->size().boundedTo(room.size()).expandedTo(window->minimumSize()));
+        place.moveCenter(room.center());
+        place.moveTop(std::max(place.top(), room.top()));
+        window->setGeometry(place);
+    }
+    return window;
+}
+
+/// Whether a modal sheet covers the window.
+bool isCovered(const QQuickWindow& window) {
+    // Popup items are children of the window's overlay, and their QObject parent is the popup.
+    for (const QQuickItem* layer : window.contentItem()->childItems()) {
+        if (!layer->inherits("QQuickOverlay")) continue;
+        for (const QQuickItem* drawn : layer->childItems())
+            if (drawn->isVisible() && drawn->parent() != nullptr && drawn->parent()->property("modal").toBool())
+                return true;
+    }
+    return false;
+}
+
+/// Shows, restores, raises and activates the window.
+void bringForward(QWindow& window) {
+    if (window.windowStates() & Qt::WindowMinimized) window.showNormal();
+    window.show();
+    window.raise();
+    window.requestActivate();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(AppModel& app, WindowServices services)
@@ -48,10 +87,9 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
     motion_ = singleton<Motion>(engine_, "Motion");
     textScale_ = singleton<TextScale>(engine_, "TextScale");
 
-    secondary_ = std::make_unique<SecondaryWindows>(engine_, [this](WindowId id) { return givenTo(id); });
     quitQuestion_ = std::make_unique<QuitQuestion>(app.removals(), services_.quit);
     commands_ = std::make_unique<AppCommands>(
-        app, [this](WindowId id) { secondary_->open(id); }, [this] { quitQuestion_->quit(); },
+        app, [this](WindowId id) { openWindow(id); }, [this] { quitQuestion_->quit(); },
         [this] { return window_ && isCovered(*window_); });
     pages_ = std::make_unique<DetailPages>(ScreenContext{app, services_});
     if (services_.preferences != nullptr && services_.workspace != nullptr)
@@ -99,7 +137,7 @@ int MainWindow::bringAllForward() {
         bringForward(*window);
         ++brought;
     };
-    for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) bring(secondary_->find(id));
+    for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) bring(findWindow(id));
     bring(window_.get());
     return brought;
 }
@@ -112,16 +150,30 @@ ReclaimScreenModel& MainWindow::reclaim() {
     return pages_->model<ReclaimScreenModel>(Screen::reclaim);
 }
 
-QVariantMap MainWindow::givenTo(WindowId id) {
+QQuickWindow& MainWindow::openWindow(WindowId id) {
+    std::unique_ptr<QQuickWindow>& window = secondary_[id];
+    if (!window) window = makeSecondary(id);
+    bringForward(*window);
+    return *window;
+}
+
+QQuickWindow* MainWindow::findWindow(WindowId id) const {
+    const auto found = secondary_.find(id);
+    return found == secondary_.end() ? nullptr : found->second.get();
+}
+
+std::unique_ptr<QQuickWindow> MainWindow::makeSecondary(WindowId id) {
     switch (id) {
         case WindowId::about:
-            return as("about", AboutInfo(services_.bundle, app_.device()));
+            return makeWindow(engine_, QStringLiteral("AboutWindow"),
+                              as("about", AboutInfo(services_.bundle, app_.device())));
         case WindowId::help:
-            return {};
+            return makeWindow(engine_, QStringLiteral("HelpWindow"), {});
         case WindowId::settings:
-            return as("settings", &pages_->model<SettingsScreenModel>(Screen::settings));
+            return makeWindow(engine_, QStringLiteral("SettingsWindow"),
+                              as("settings", &pages_->model<SettingsScreenModel>(Screen::settings)));
     }
-    return {};
+    return nullptr;
 }
 
 }  // namespace zelk

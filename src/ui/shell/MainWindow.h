@@ -4,15 +4,15 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <functional>
+#include <map>
 #include <memory>
 
+#include "ui/shell/AppCommands.h"
 #include "ui/shell/DetailPages.h"
-#include "ui/shell/SecondaryWindows.h"
 #include "ui/shell/WindowServices.h"
 
 namespace zelk {
 
-class AppCommands;
 class AppModel;
 class FirstRunModel;
 class Motion;
@@ -22,7 +22,7 @@ class SidebarModel;
 class SurveyScreenModel;
 class TextScale;
 
-/// The main window of an AppModel with its models and the secondary windows; hidden at first. The model and the
+/// The main window of an AppModel with its models and the windows beside it; hidden at first. The model and the
 /// services must outlive it. May be destroyed during a survey. Main thread.
 class MainWindow {
 public:
@@ -41,8 +41,10 @@ public:
 
     /// Raises every open window, the main one last. Closed windows stay closed. Returns how many there are.
     int bringAllForward();
-    QQuickWindow& openWindow(WindowId id) { return secondary_->open(id); }
-    SecondaryWindows& secondary() { return *secondary_; }
+    /// Shows the window, or raises it if it is visible. It is created when first opened, and then kept.
+    QQuickWindow& openWindow(WindowId id);
+    /// The window if it was opened before, else nullptr.
+    QQuickWindow* findWindow(WindowId id) const;
 
     QQuickWindow& window() { return *window_; }
     SurveyScreenModel& survey();
@@ -55,7 +57,7 @@ public:
     TextScale& textScale() { return *textScale_; }
 
 private:
-    QVariantMap givenTo(WindowId id);
+    std::unique_ptr<QQuickWindow> makeSecondary(WindowId id);
     void afterNextFrame(const std::function<void()>& act);
 
     AppModel& app_;
@@ -69,7 +71,7 @@ private:
     QQmlEngine engine_;
     Motion* motion_ = nullptr;        // owned by the engine
     TextScale* textScale_ = nullptr;  // owned by the engine
-    std::unique_ptr<SecondaryWindows> secondary_;
+    std::map<WindowId, std::unique_ptr<QQuickWindow>> secondary_;
     std::unique_ptr<QQuickWindow> window_;
     std::function<void()> whenComplete_;
     bool complete_ = false;
