@@ -2,7 +2,6 @@
 #include "ui/screens/settings/SettingsScreenModel.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 
@@ -10,13 +9,6 @@
 #include "ui/theme/DisplayText.h"
 
 namespace zelk {
-
-namespace {
-
-/// In the order of the view's options.
-constexpr std::array appearances{AppModel::Appearance::system, AppModel::Appearance::light, AppModel::Appearance::dark};
-
-}  // namespace
 
 ScanRootList::ScanRootList(AppModel& app) : RowModel({"path", "removeName"}), roots_(app.scanRoots()) {
     connect(&app, &AppModel::scanRootsChanged, this, [this, &app] {
@@ -62,12 +54,11 @@ void SettingsScreenModel::setHardDelete(bool enabled) {
 }
 
 int SettingsScreenModel::theme() const {
-    const auto place = std::find(appearances.begin(), appearances.end(), app_.appearance());
-    return static_cast<int>(std::distance(appearances.begin(), place));
+    return static_cast<int>(app_.appearance());
 }
 void SettingsScreenModel::setTheme(int place) {
-    if (place < 0 || place >= static_cast<int>(appearances.size())) return;
-    app_.setAppearance(appearances[static_cast<std::size_t>(place)]);
+    if (place < 0 || place > static_cast<int>(AppModel::Appearance::dark)) return;
+    app_.setAppearance(static_cast<AppModel::Appearance>(place));
 }
 
 void SettingsScreenModel::addFolder() {
