@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/screens/welcome/WelcomeModel.h"
+#include "ui/screens/welcome/FirstRunModel.h"
 
 #include <gtest/gtest.h>
 

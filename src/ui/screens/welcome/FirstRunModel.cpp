@@ -5,8 +5,62 @@
 
 #include "platform/Preferences.h"
 #include "platform/Workspace.h"
+#include "ui/controls/Spring.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
+
+namespace {
+
+constexpr double turnResponse = 0.5;  // seconds
+
+}  // namespace
+
+WelcomeModel::WelcomeModel(QObject* parent)
+    : QObject(parent),
+      pages_{
+          {QStringLiteral("internaldrive.fill"), QColor(245, 166, 35), tr("Welcome to Zelk"),
+           SystemTexts::of(SystemTexts::WelcomeLead)},
+          {QStringLiteral("circle.hexagongrid.fill"), QColor(232, 91, 196), tr("See your storage"),
+           tr("Scan your whole drive in seconds, broken down by type and biggest files — with a live bubble map you "
+              "can drill into.")},
+          {QStringLiteral("sparkles"), QColor(50, 199, 123), tr("Reclaim space safely"),
+           tr("Clear caches, junk, duplicates, and forgotten large files. Everything goes to the Trash, so it's "
+              "always reversible.")},
+          {QStringLiteral("hand.raised.fill"), QColor(62, 155, 255), tr("Private by design"),
+           SystemTexts::of(SystemTexts::WelcomePrivacy)},
+      } {}
+
+QString WelcomeModel::position() const {
+    return tr("Page %1 of %2").arg(page_ + 1).arg(pages_.size());
+}
+
+int WelcomeModel::turnTime() const {
+    return static_cast<int>(1'000 * springRest(turnResponse));
+}
+QEasingCurve WelcomeModel::turnEasing() const {
+    return springEasing();
+}
+
+void WelcomeModel::next() {
+    if (!onLastPage()) show(page_ + 1);
+}
+
+void WelcomeModel::back() {
+    if (backShown()) show(page_ - 1);
+}
+
+void WelcomeModel::pressPrimary() {
+    if (onLastPage())
+        emit finished();
+    else
+        next();
+}
+
+void WelcomeModel::show(int page) {
+    page_ = page;
+    emit pageChanged();
+}
 
 FirstRunModel::FirstRunModel(Preferences& preferences, std::function<bool()> accessGranted, Workspace& workspace,
                              std::chrono::milliseconds interval)
