@@ -114,9 +114,7 @@ class HelpWindowTest : public ViewFixture {
 protected:
     ~HelpWindowTest() override { close(); }
 
-    void open(QSize size = {760, 520}) {
-        show(QStringLiteral("import Zelk.App\nHelpWindow {}"), size);
-    }
+    void open(QSize size = {760, 520}) { show(QStringLiteral("import Zelk.App\nHelpWindow {}"), size); }
     HelpModel& help() { return *window().property("help").value<HelpModel*>(); }
     bool shows(const std::string& text) {
         const std::vector<std::string> texts = seenTexts();

@@ -85,8 +85,8 @@ public:
     QVariantList menusForViews() const;
     /// The shortcuts of all entries in Qt's portable format; an entry may have none, one or two.
     QStringList shortcuts() const;
-    /// Creates the global menu bar of a system that has one. It has no parent window, so that it stays when the last one
-    /// is closed. This must outlive it. Needs a QApplication.
+    /// Creates the global menu bar of a system that has one. It has no parent window, so that it stays when the last
+    /// one is closed. This must outlive it. Needs a QApplication.
     std::unique_ptr<QMenuBar> makeMenuBar();
     void run(const Command& command) const;
     /// As its key does it.
