@@ -13,8 +13,7 @@
 namespace zelk {
 
 ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent)
-    : RowModel({"group", "name", "place", "line", "figure", "age", "tint", "grade", "chosen", "free", "open", "symbol",
-                "spoken"},
+    : RowModel({"group", "name", "place", "line", "figure", "age", "tint", "grade", "chosen", "free", "open", "spoken"},
                parent),
       app_(app),
       cleanup_(cleanup) {
@@ -73,8 +72,6 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
             return group.counts.selectable > 0;
         case openRole:
             return group.open;
-        case symbolRole:
-            return group.open ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
         case spokenRole:
             return AccessibleText::joined({displayText(category.displayName), figure(), wordOf(category.safety),
                                            group.open ? tr("expanded") : tr("collapsed"),
@@ -201,7 +198,7 @@ void ItemList::setOpen(int row, bool open) {
         rows_.erase(rows_.begin() + first, rows_.begin() + last + 1);
         endRemoveRows();
     }
-    rowChanged(row, {openRole, symbolRole, spokenRole});
+    rowChanged(row, {openRole, spokenRole});
 }
 
 int ItemList::groupRow(int row) const {

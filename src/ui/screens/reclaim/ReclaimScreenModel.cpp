@@ -53,7 +53,6 @@ void ReclaimScreenModel::setOnScreen(bool onScreen) {
     onScreen_ = onScreen;
     lastCount_ = app_.reclaimables().size();
     follow();
-    emit onScreenChanged();
 }
 
 /// Prepares the visible list with its default selection.
@@ -70,12 +69,10 @@ void ReclaimScreenModel::reviewCategories(const std::vector<Reclaimable>& items)
 }
 
 void ReclaimScreenModel::openOrClose() {
-    if (cleanup_.showDryRun()) {
+    if (cleanup_.showDryRun())
         dryRun_ = std::make_unique<DryRunModel>(
             cleanup_, cleanup_.selectedItems(app_.reclaimables()), app_.platform(),
             DryRunModel::Actions{[this] { cleanup_.setShowDryRun(false); }, [this] { app_.scanAnew(); }});
-        emit dryRunChanged();
-    }
     emit reviewingChanged();
 }
 
