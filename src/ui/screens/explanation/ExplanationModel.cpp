@@ -21,10 +21,6 @@ void ExplanationModel::close() {
     if (std::exchange(shown_, false)) emit changed();
 }
 
-void ExplanationModel::setTheme(const ZelkTheme& theme) {
-    if (std::exchange(theme_, &theme) != &theme) emit changed();
-}
-
 QString ExplanationModel::title() const {
     return displayText(explanation_.title);
 }
@@ -33,18 +29,6 @@ QString ExplanationModel::path() const {
 }
 QString ExplanationModel::badge() const {
     return wordOf(explanation_.safety);
-}
-
-QColor ExplanationModel::tint() const {
-    switch (explanation_.safety) {
-        case ReclaimSafety::safe:
-            return colorOf(ReclaimSafety::safe);
-        case ReclaimSafety::regenerates:
-            return theme_->accent;
-        case ReclaimSafety::review:
-            return theme_->alert;
-    }
-    return {};
 }
 
 QString ExplanationModel::detail() const {

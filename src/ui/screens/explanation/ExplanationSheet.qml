@@ -11,6 +11,12 @@ Sheet {
 
     required property ExplanationModel explanation
 
+    readonly property color tint: {
+        if (sheet.explanation.grade === ExplanationModel.Review)
+            return Theme.alert;
+        return sheet.explanation.grade === ExplanationModel.Regenerates ? Theme.accent : Theme.gradeSafe;
+    }
+
     title: sheet.explanation.title
     primary: done
     sheetWidth: Math.round(440 * TextScale.factor)
@@ -35,7 +41,7 @@ Sheet {
 
                     anchors.verticalCenter: parent.verticalCenter
                     name: "questionmark.circle.fill"
-                    color: sheet.explanation.tint
+                    color: sheet.tint
                     size: Math.round(22 * TextScale.factor)
                 }
 
@@ -71,7 +77,7 @@ Sheet {
                 Tag {
                     objectName: "explanationBadge"
                     text: sheet.explanation.badge
-                    ink: sheet.explanation.tint
+                    ink: sheet.tint
                 }
 
                 Tag {

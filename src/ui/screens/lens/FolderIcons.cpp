@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/screens/lens/FileIcons.h"
+#include "ui/screens/lens/FolderIcons.h"
 
 #include <algorithm>
 #include <cstring>
@@ -25,20 +25,17 @@ QImage imageOf(const IconPixels& pixels) {
 
 }  // namespace
 
-FileIcons::FileIcons(Workspace& workspace, const ZelkTheme& theme)
-    : workspace_(workspace), theme_(&theme), images_(keptBytes) {}
+FolderIcons::FolderIcons(Workspace& workspace) : workspace_(workspace), images_(keptBytes) {}
 
-QImage FileIcons::image(const std::string& path, bool isDirectory, int side) {
-    const QImage desktops = desktopImage(path, isDirectory, side);
-    if (!desktops.isNull()) return desktops;
-    return isDirectory ? tintedSymbol(QStringLiteral("folder.fill"), folderColor, side)
-                       : tintedSymbol(QStringLiteral("doc"), theme_->inkSoft, side);
+QImage FolderIcons::image(const std::string& path, int side) {
+    const QImage desktops = desktopImage(path, side);
+    return desktops.isNull() ? tintedSymbol(QStringLiteral("folder.fill"), folderColor, side) : desktops;
 }
 
-QImage FileIcons::desktopImage(const std::string& path, bool isDirectory, int side) {
-    QByteArray key = QByteArray::number(side) + (isDirectory ? '/' : '.') + QByteArray::fromStdString(path);
+QImage FolderIcons::desktopImage(const std::string& path, int side) {
+    QByteArray key = QByteArray::number(side) + '/' + QByteArray::fromStdString(path);
     if (const QImage* known = images_.object(key)) return *known;
-    const std::optional<IconPixels> pixels = workspace_.icon(path, isDirectory, side);
+    const std::optional<IconPixels> pixels = workspace_.icon(path, true, side);
     const QImage image = pixels ? imageOf(*pixels) : QImage();
     images_.insert(key, new QImage(image), std::max<qsizetype>(image.sizeInBytes(), key.size()));
     return image;
