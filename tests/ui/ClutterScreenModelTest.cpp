@@ -76,7 +76,6 @@ TEST_F(ClutterScreenModelTest, exposesItsTexts) {
          "Find your largest and oldest files — videos, downloads, disk images, forgotten archives."},
         {clutter.scanLabel(), "Find large files"},
         {clutter.scanningLabel(), "Hunting for heavy files…"},
-        {clutter.orders().join('|'), "Largest|Oldest"},
     };
     for (const auto& [actual, text] : expected) EXPECT_EQ(actual.toStdString(), text);
     EXPECT_EQ(clutter.screen(), Screen::clutter);

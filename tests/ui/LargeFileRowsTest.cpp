@@ -62,10 +62,12 @@ TEST(LargeFileRows, givesEachTypeItsSymbol) {
 
 TEST(LargeFileRows, showsAgesInWholeUnits) {
     LargeFileRows rows;
-    rows.show({file("/a", 1, 0.5), file("/b", 1, 1), file("/c", 1, 29.9), file("/d", 1, 30), file("/e", 1, 364),
-               file("/f", 1, 365), file("/g", 1, 730)},
-              rowsNow);
-    EXPECT_THAT(all(rows, "age"), ElementsAre("today", "1d ago", "29d ago", "1mo ago", "12mo ago", "1y ago", "2y ago"));
+    std::vector<LargeFile> files;
+    for (const double days : {0.0, 0.999, 1.0, 1.999, 29.999, 30.0, 59.0, 60.0, 364.0, 365.0, 729.0, 730.0})
+        files.push_back(file("/" + std::to_string(days), 1, days));
+    rows.show(files, rowsNow);
+    EXPECT_THAT(all(rows, "age"), ElementsAre("today", "today", "1d ago", "1d ago", "29d ago", "1mo ago", "1mo ago",
+                                              "2mo ago", "12mo ago", "1y ago", "1y ago", "2y ago"));
 }
 
 TEST(LargeFileRows, futureFileIsFromToday) {

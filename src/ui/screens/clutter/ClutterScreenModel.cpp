@@ -2,9 +2,12 @@
 #include "ui/screens/clutter/ClutterScreenModel.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "state/AppModel.h"
+#include "ui/theme/FileTypeLook.h"
+#include "ui/theme/ScreenLook.h"
 #include "ui/theme/SystemTexts.h"
 
 namespace zelk {
@@ -22,6 +25,47 @@ ModuleTexts texts() {
 }
 
 }  // namespace
+
+void TypePills::show(const std::vector<FileType>& types) {
+    std::vector<Filter> pills{Filter()};
+    pills.insert(pills.end(), types.begin(), types.end());
+    edit(pills_, std::move(pills), [](const Filter& type) { return type ? rawValue(*type) : std::string_view(); });
+    allRowsChanged({reachedRole});
+}
+
+void TypePills::choose(Filter filter) {
+    chosen_ = filter;
+    allRowsChanged({chosenRole, reachedRole});
+}
+
+void TypePills::setTheme(const ZelkTheme& theme) {
+    theme_ = &theme;
+    allRowsChanged({tintRole});
+}
+
+QVariant TypePills::value(std::size_t row, int role) const {
+    const Filter& type = pills_[row];
+    switch (role) {
+        case Qt::DisplayRole:
+        case nameRole:
+            return type ? lookOf(*type, *theme_).name : tr("All");
+        case symbolRole:
+            return type ? lookOf(*type, *theme_).symbol : lookOf(Screen::clutter).symbol;
+        case tintRole:
+            return type ? lookOf(*type, *theme_).color : lookOf(Screen::clutter).color;
+        case chosenRole:
+            return type == chosen_;
+        case reachedRole:
+            return isReached(row);
+        default:
+            return {};
+    }
+}
+
+bool TypePills::isReached(std::size_t row) const {
+    if (pills_[row] == chosen_) return true;
+    return row == 0 && std::find(pills_.begin(), pills_.end(), chosen_) == pills_.end();
+}
 
 ClutterScreenModel::ClutterScreenModel(AppModel& app)
     : SurveyedModule(app, Screen::clutter, texts()), app_(app), undoBar_(app, RemovalUndo::Source::largeFile) {
@@ -43,11 +87,6 @@ void ClutterScreenModel::setOnScreen(bool onScreen) {
     if (onScreen == onScreen_) return;
     onScreen_ = onScreen;
     if (onScreen) refresh();
-    emit onScreenChanged();
-}
-
-QStringList ClutterScreenModel::orders() const {
-    return {tr("Largest"), tr("Oldest")};
 }
 
 void ClutterScreenModel::sort(int order) {

@@ -2,15 +2,52 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QStringList>
+#include <optional>
 #include <string>
+#include <vector>
 
+#include "scan/FileType.h"
+#include "ui/controls/RowModel.h"
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/clutter/LargeFileRows.h"
-#include "ui/screens/clutter/TypePills.h"
 #include "ui/screens/module/SurveyedModule.h"
+#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
+
+/// List model of the filter pills: "All", then the available types. Main thread.
+class TypePills : public zelk::RowModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of ClutterScreenModel")
+
+public:
+    /// `reached` marks the pill in the focus chain: the chosen one, or the first if the chosen one is gone.
+    enum Role { nameRole = Qt::UserRole, symbolRole, tintRole, chosenRole, reachedRole };
+
+    using Filter = std::optional<FileType>;  ///< none: all files
+
+    TypePills() : RowModel({"name", "symbol", "tint", "chosen", "reached"}) {}
+
+    /// Shows "All" and `types`. Delegates of pills that stay are kept.
+    void show(const std::vector<FileType>& types);
+    void choose(Filter filter);
+    void setTheme(const ZelkTheme& theme);
+
+    const Filter& chosen() const { return chosen_; }
+    /// The filter of the pill in this row.
+    Filter filterAt(int row) const { return pills_[static_cast<std::size_t>(row)]; }
+
+private:
+    std::size_t size() const override { return pills_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
+    bool isReached(std::size_t row) const;
+
+    std::vector<Filter> pills_{Filter()};
+    Filter chosen_;
+    const ZelkTheme* theme_ = &ZelkTheme::dark();
+};
 
 /// The large files of the last survey, filtered by type and sorted by size or age, and the actions on a file. Keeps its
 /// rows while another survey runs. Main thread.
@@ -19,9 +56,8 @@ class ClutterScreenModel : public zelk::SurveyedModule {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
     Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
-    Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen NOTIFY onScreenChanged FINAL)
+    Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen FINAL)
     Q_PROPERTY(bool nothing READ nothing NOTIFY nothingChanged FINAL)
-    Q_PROPERTY(QStringList orders READ orders CONSTANT FINAL)
     Q_PROPERTY(int order READ order NOTIFY orderChanged FINAL)
     Q_PROPERTY(zelk::TypePills* pills READ pills CONSTANT FINAL)
     Q_PROPERTY(zelk::LargeFileRows* rows READ rows CONSTANT FINAL)
@@ -39,7 +75,7 @@ public:
 
     /// Whether the survey found no large file at all, regardless of the filter.
     bool nothing() const { return nothing_; }
-    QStringList orders() const;
+    /// 0: the largest first, 1: the oldest.
     int order() const { return sortByAge_ ? 1 : 0; }
     TypePills* pills() { return &pills_; }
     LargeFileRows* rows() { return &rows_; }
@@ -49,7 +85,6 @@ public:
     bool sortByAge() const { return sortByAge_; }
 
 public slots:
-    /// Sorts by this index of `orders`.
     void sort(int order);
     /// Filters by the pill in this row.
     void filter(int pill);
@@ -63,7 +98,6 @@ public slots:
 
 signals:
     void darkChanged();
-    void onScreenChanged();
     void nothingChanged();
     void orderChanged();
     /// The order or the filter changed, so the scroll position and current row are void.

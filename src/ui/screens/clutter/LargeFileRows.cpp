@@ -5,11 +5,26 @@
 #include <utility>
 
 #include "ui/controls/AccessibleText.h"
-#include "ui/screens/clutter/AgeText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/FileTypeLook.h"
 
 namespace zelk {
+
+namespace {
+
+/// The time since `modified` in whole days, months of 30 days or years of 365 days. Future times are "today".
+QString ageText(TimePoint modified, TimePoint now) {
+    constexpr qint64 daysPerMonth = 30;
+    constexpr qint64 daysPerYear = 365;
+    const double exact = (now - modified) / secondsPerDay;
+    if (!(exact >= 1)) return LargeFileRows::tr("today");
+    const auto days = static_cast<qint64>(exact);
+    if (days < daysPerMonth) return LargeFileRows::tr("%1d ago").arg(days);
+    if (days < daysPerYear) return LargeFileRows::tr("%1mo ago").arg(days / daysPerMonth);
+    return LargeFileRows::tr("%1y ago").arg(days / daysPerYear);
+}
+
+}  // namespace
 
 void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
     edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
