@@ -135,7 +135,6 @@ void CategoryList::showFooter() {
     footer_ = chosen_.empty()
                   ? tr("No categories selected")
                   : countText(static_cast<std::int64_t>(chosenItems_)) + QStringLiteral(" · ") + byteFigure(bytes);
-    emit footerChanged();
 }
 
 void CategoryList::showBubbles() {

@@ -23,8 +23,8 @@ class CategoryList : public zelk::RowModel {
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")
     Q_PROPERTY(QString menuLabel READ menuLabel NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(QString footer READ footer NOTIFY footerChanged FINAL)
-    Q_PROPERTY(bool reviewable READ reviewable NOTIFY footerChanged FINAL)
+    Q_PROPERTY(QString footer READ footer NOTIFY selectionChanged FINAL)
+    Q_PROPERTY(bool reviewable READ reviewable NOTIFY selectionChanged FINAL)
     Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
 
 public:
@@ -54,7 +54,6 @@ public slots:
 
 signals:
     void selectionChanged();
-    void footerChanged();
 
 private:
     std::size_t size() const override { return rows_.size(); }
