@@ -46,7 +46,6 @@ void TypePills::setTheme(const ZelkTheme& theme) {
 QVariant TypePills::value(std::size_t row, int role) const {
     const Filter& type = pills_[row];
     switch (role) {
-        case Qt::DisplayRole:
         case nameRole:
             return type ? lookOf(*type, *theme_).name : tr("All");
         case symbolRole:

@@ -49,7 +49,6 @@ QVariant LargeFileRows::value(std::size_t row, int role) const {
             return lookOf(file.type, *theme_).symbol;
         case tintRole:
             return lookOf(file.type, *theme_).color;
-        case Qt::DisplayRole:
         case nameRole:
             return nameText(file.path);
         case pathRole:

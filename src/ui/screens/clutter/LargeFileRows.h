@@ -31,8 +31,8 @@ public:
         actionsRole
     };
 
-    explicit LargeFileRows(QObject* parent = nullptr)
-        : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "bytes", "spoken", "actions"}, parent) {}
+    LargeFileRows()
+        : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "bytes", "spoken", "actions"}) {}
 
     /// Shows `files` in this order, with ages as of `now`. Delegates of rows that stay are kept.
     void show(std::vector<LargeFile> files, TimePoint now);

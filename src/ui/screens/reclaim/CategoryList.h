@@ -31,7 +31,7 @@ public:
     enum Role { idRole = Qt::UserRole, nameRole, noteRole, tintRole, bytesRole, countRole, chosenRole, spokenRole };
 
     /// `app` must outlive it. `review` opens the review of the given items, at least one.
-    CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review, QObject* parent = nullptr);
+    CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review);
 
     /// Call when the screen becomes visible. Selects the safe categories the first time.
     void appear();

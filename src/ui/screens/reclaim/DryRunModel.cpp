@@ -20,7 +20,6 @@ QVariant DryRunRows::value(std::size_t row, int role) const {
         case symbolRole:
             return item.method.kind == ReclaimMethod::Kind::command ? QStringLiteral("terminal")
                                                                     : QStringLiteral("trash");
-        case Qt::DisplayRole:
         case nameRole:
             return nameText(item.path);
         case folderRole:

@@ -12,9 +12,9 @@
 
 namespace zelk {
 
-ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent)
-    : RowModel({"group", "name", "place", "line", "figure", "age", "tint", "grade", "chosen", "free", "open", "spoken"},
-               parent),
+ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup)
+    : RowModel(
+          {"group", "name", "place", "line", "figure", "age", "tint", "grade", "chosen", "free", "open", "spoken"}),
       app_(app),
       cleanup_(cleanup) {
     connect(&app, &AppModel::reclaimablesChanged, this, &ItemList::refresh);
@@ -55,7 +55,6 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
     switch (role) {
         case groupRole:
             return true;
-        case Qt::DisplayRole:
         case nameRole:
             return displayText(category.displayName);
         case placeRole:
@@ -86,7 +85,6 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
         case groupRole:
         case openRole:
             return false;
-        case Qt::DisplayRole:
         case nameRole:
             return nameText(item.path);
         case placeRole:

@@ -47,7 +47,7 @@ public:
     };
 
     /// Both arguments must outlive it.
-    ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent = nullptr);
+    ItemList(AppModel& app, DevCleanupModel& cleanup);
 
     QString footer() const;
     QString footerBytes() const;
