@@ -309,18 +309,4 @@ TEST_F(ClutterScreenModelTest, unchangedSurveyEditsNoRows) {
     EXPECT_EQ(removed.size() + inserted.size() + pillsRemoved.size(), 0);
 }
 
-TEST_F(ClutterScreenModelTest, updatesTintsWithTheme) {
-    machine.directories.file(home + "/thing", 1'000'000, 0);
-    survey();
-    const auto tint = [&](const QAbstractItemModel& rows, int row, int role) {
-        return rows.data(rows.index(row, 0), role).value<QColor>();
-    };
-    EXPECT_TRUE(screen().dark());
-    const QColor row = tint(*screen().rows(), 0, LargeFileRows::tintRole);
-    const QColor pill = tint(*screen().pills(), 1, TypePills::tintRole);
-    screen().setDark(false);
-    EXPECT_NE(tint(*screen().rows(), 0, LargeFileRows::tintRole), row);
-    EXPECT_NE(tint(*screen().pills(), 1, TypePills::tintRole), pill);
-}
-
 }  // namespace zelk

@@ -7,6 +7,7 @@
 #include "ViewFixture.h"
 #include "fakes/ClutterHome.h"
 #include "ui/screens/clutter/ClutterScreenModel.h"
+#include "ui/theme/FileTypeLook.h"
 #include "ui/theme/SystemTexts.h"
 
 namespace zelk {
@@ -71,6 +72,18 @@ TEST_F(ClutterViewTest, showsHeaderAndRowTexts) {
         EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
     EXPECT_EQ(std::count(texts.begin(), texts.end(), "/home/me/media"), 2);
     EXPECT_THAT(texts, Not(Contains("Nothing heavy")));
+}
+
+TEST_F(ClutterViewTest, filesOfNoKnownTypeHaveTheColourOfTheTheme) {
+    machine.directories.file(home + "/thing", 5'000'000'000, 0);
+    open();
+    for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
+        model().setAppearance(appearance);
+        settle();
+        const QColor color = lookOf(FileType::other, singleton<Theme>("Theme").current()).color;
+        EXPECT_THAT(colorsOf("doc"), ElementsAre(color, color)) << "a pill and a row";
+        EXPECT_THAT(colorsOf("opticaldiscdrive"), ElementsAre(QColor(255, 107, 94), QColor(255, 107, 94)));
+    }
 }
 
 TEST_F(ClutterViewTest, menuOffersRevealAndTrash) {

@@ -10,7 +10,7 @@
 
 namespace zelk {
 
-/// The name, colour and symbol of a file type. Only the colour of `other` depends on the theme.
+/// The name, colour and symbol of a file type.
 struct FileTypeLook {
     Q_DECLARE_TR_FUNCTIONS(FileTypeLook)
 
@@ -20,6 +20,10 @@ public:
     QString symbol;
 };
 
+/// The colour of `other` is invalid, as it depends on the theme.
+FileTypeLook lookOf(FileType type);
+
+/// The same with every colour.
 FileTypeLook lookOf(FileType type, const ZelkTheme& theme);
 
 }  // namespace zelk

@@ -41,6 +41,7 @@ class Theme : public QObject {
     Q_PROPERTY(QColor gradeReview READ gradeReview CONSTANT FINAL)
     Q_PROPERTY(QColor accentText READ accentText NOTIFY changed FINAL)
     Q_PROPERTY(QColor alertText READ alertText NOTIFY changed FINAL)
+    Q_PROPERTY(QColor otherFiles READ otherFiles NOTIFY changed FINAL)
     Q_PROPERTY(QColor textGround READ textGround NOTIFY changed FINAL)
     Q_PROPERTY(QColor hoverWash READ hoverWash NOTIFY changed FINAL)
     Q_PROPERTY(QColor pressWash READ pressWash NOTIFY changed FINAL)
@@ -78,6 +79,8 @@ public:
     /// The accent and alert colours adjusted for text, readable on every background of the theme.
     QColor accentText() const { return textOn(current_->accent, textGround()); }
     QColor alertText() const { return textOn(current_->alert, textGround()); }
+    /// The colour of files of no known type, which have none of their own.
+    QColor otherFiles() const;
     /// The background with the least contrast to coloured text: the darkest of the light theme, the lightest of the
     /// dark one. Text that is readable on it is readable on all of them.
     QColor textGround() const { return current_->isDark ? current_->surfaceHi : current_->ground; }

@@ -200,7 +200,7 @@ FocusScope {
             anchors.leftMargin: 26
             anchors.verticalCenter: parent.verticalCenter
             symbol: row.symbol
-            tint: row.tint
+            tint: row.tint.valid ? row.tint : Theme.otherFiles
             side: 36
             symbolSize: 17
         }

@@ -98,10 +98,12 @@ Item {
 
                         required property int index
                         required property string name
+                        required property color color
                         required property bool reached
 
                         objectName: "typePill" + pill.index
                         text: pill.name
+                        tint: pill.color.valid ? pill.color : Theme.otherFiles
                         focus: pill.reached
                         activeFocusOnTab: pill.reached
                         onClicked: head.clutter.filter(pill.index)

@@ -38,20 +38,15 @@ void TypePills::choose(Filter filter) {
     allRowsChanged({chosenRole, reachedRole});
 }
 
-void TypePills::setTheme(const ZelkTheme& theme) {
-    theme_ = &theme;
-    allRowsChanged({tintRole});
-}
-
 QVariant TypePills::value(std::size_t row, int role) const {
     const Filter& type = pills_[row];
     switch (role) {
         case nameRole:
-            return type ? lookOf(*type, *theme_).name : tr("All");
+            return type ? lookOf(*type).name : tr("All");
         case symbolRole:
-            return type ? lookOf(*type, *theme_).symbol : lookOf(Screen::clutter).symbol;
-        case tintRole:
-            return type ? lookOf(*type, *theme_).color : lookOf(Screen::clutter).color;
+            return type ? lookOf(*type).symbol : lookOf(Screen::clutter).symbol;
+        case colorRole:
+            return type ? lookOf(*type).color : lookOf(Screen::clutter).color;
         case chosenRole:
             return type == chosen_;
         case reachedRole:
@@ -71,15 +66,6 @@ ClutterScreenModel::ClutterScreenModel(AppModel& app)
     connect(&app, &AppModel::insightsChanged, this, &ClutterScreenModel::refresh);
     connect(this, &ModuleScreenModel::phaseChanged, this, &ClutterScreenModel::refresh);
     refresh();
-}
-
-void ClutterScreenModel::setDark(bool dark) {
-    if (dark == dark_) return;
-    dark_ = dark;
-    const ZelkTheme& theme = dark ? ZelkTheme::dark() : ZelkTheme::light();
-    pills_.setTheme(theme);
-    rows_.setTheme(theme);
-    emit darkChanged();
 }
 
 void ClutterScreenModel::setOnScreen(bool onScreen) {

@@ -11,7 +11,6 @@
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/clutter/LargeFileRows.h"
 #include "ui/screens/module/SurveyedModule.h"
-#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
@@ -22,17 +21,17 @@ class TypePills : public zelk::RowModel {
     QML_UNCREATABLE("Part of ClutterScreenModel")
 
 public:
-    /// `reached` marks the pill in the focus chain: the chosen one, or the first if the chosen one is gone.
-    enum Role { nameRole = Qt::UserRole, symbolRole, tintRole, chosenRole, reachedRole };
+    /// `color` is invalid for files of no known type. `reached` marks the pill in the focus chain: the chosen one, or
+    /// the first if the chosen one is gone.
+    enum Role { nameRole = Qt::UserRole, symbolRole, colorRole, chosenRole, reachedRole };
 
     using Filter = std::optional<FileType>;  ///< none: all files
 
-    TypePills() : RowModel({"name", "symbol", "tint", "chosen", "reached"}) {}
+    TypePills() : RowModel({"name", "symbol", "color", "chosen", "reached"}) {}
 
     /// Shows "All" and `types`. Delegates of pills that stay are kept.
     void show(const std::vector<FileType>& types);
     void choose(Filter filter);
-    void setTheme(const ZelkTheme& theme);
 
     const Filter& chosen() const { return chosen_; }
     /// The filter of the pill in this row.
@@ -46,7 +45,6 @@ private:
 
     std::vector<Filter> pills_{Filter()};
     Filter chosen_;
-    const ZelkTheme* theme_ = &ZelkTheme::dark();
 };
 
 /// The large files of the last survey, filtered by type and sorted by size or age, and the actions on a file. Keeps its
@@ -55,7 +53,6 @@ class ClutterScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
-    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
     Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen FINAL)
     Q_PROPERTY(bool nothing READ nothing NOTIFY nothingChanged FINAL)
     Q_PROPERTY(int order READ order NOTIFY orderChanged FINAL)
@@ -67,8 +64,6 @@ public:
     /// `app` must outlive it.
     explicit ClutterScreenModel(AppModel& app);
 
-    bool dark() const { return dark_; }
-    void setDark(bool dark);
     /// Whether the screen is visible. Ages are computed when it becomes so.
     bool onScreen() const { return onScreen_; }
     void setOnScreen(bool onScreen);
@@ -97,7 +92,6 @@ public slots:
     bool isTrashKey(int key, int modifiers) const;
 
 signals:
-    void darkChanged();
     void nothingChanged();
     void orderChanged();
     /// The order or the filter changed, so the scroll position and current row are void.
@@ -113,7 +107,6 @@ private:
     UndoBarModel undoBar_;
     bool sortByAge_ = false;
     bool nothing_ = true;
-    bool dark_ = true;
     bool onScreen_ = false;
     std::string picked_;  ///< a path in bytes; empty if none
 };

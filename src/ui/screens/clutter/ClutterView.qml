@@ -73,10 +73,4 @@ ModuleScaffold {
         property: "onScreen"
         value: view.visible
     }
-
-    Binding {
-        target: view.clutter
-        property: "dark"
-        value: Theme.isDark
-    }
 }

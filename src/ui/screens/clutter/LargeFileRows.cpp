@@ -33,11 +33,6 @@ void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
     allRowsChanged({ageRole, sizeRole, bytesRole, spokenRole});
 }
 
-void LargeFileRows::setTheme(const ZelkTheme& theme) {
-    theme_ = &theme;
-    allRowsChanged({tintRole});
-}
-
 std::string LargeFileRows::pathAt(int row) const {
     return has(row) ? files_[static_cast<std::size_t>(row)].path : std::string();
 }
@@ -46,9 +41,9 @@ QVariant LargeFileRows::value(std::size_t row, int role) const {
     const LargeFile& file = files_[row];
     switch (role) {
         case symbolRole:
-            return lookOf(file.type, *theme_).symbol;
+            return lookOf(file.type).symbol;
         case tintRole:
-            return lookOf(file.type, *theme_).color;
+            return lookOf(file.type).color;
         case nameRole:
             return nameText(file.path);
         case pathRole:
