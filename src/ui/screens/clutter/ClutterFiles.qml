@@ -77,7 +77,7 @@ FocusScope {
             id: fileRow
 
             ringed: list.ringed && ListView.isCurrentItem
-            onTaken: list.take(index)
+            onPressed: list.take(index)
             onAsked: at => list.openMenu(index, actions, mapToItem(list, at))
 
             Connections {
@@ -145,19 +145,17 @@ FocusScope {
         required property string folder
         required property string age
         required property string size
-        required property string spoken
+        required spoken
         required property string actions
 
         // Where the menu opens unless the pointer asked for it.
         readonly property point menuPlace: Qt.point(more.x, more.y + more.height + 4)
 
-        signal taken
         signal asked(point at)
 
         implicitHeight: Math.max(tile.height, texts.implicitHeight) + 2 * 10
 
         Accessible.role: Accessible.ListItem
-        Accessible.name: row.spoken
 
         Rectangle {
             id: ground
@@ -168,7 +166,7 @@ FocusScope {
             anchors.topMargin: 1
             anchors.bottomMargin: 1
             radius: 10
-            color: hover.hovered ? Theme.hoverWash : "transparent"
+            color: row.hovered ? Theme.hoverWash : "transparent"
 
             FocusRing {
                 anchors.margins: 0
@@ -177,18 +175,10 @@ FocusScope {
             }
         }
 
-        HoverHandler {
-            id: hover
-        }
-
-        TapHandler {
-            onTapped: row.taken()
-        }
-
         TapHandler {
             acceptedButtons: Qt.RightButton
             onTapped: eventPoint => {
-                row.taken();
+                row.pressed();
                 row.asked(eventPoint.position);
             }
         }
@@ -274,7 +264,7 @@ FocusScope {
             size: 16
             focusPolicy: Qt.NoFocus
             onClicked: {
-                row.taken();
+                row.pressed();
                 row.asked(row.menuPlace);
             }
         }

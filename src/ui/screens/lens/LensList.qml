@@ -59,9 +59,15 @@ RowList {
 
     delegate: LensRow {
         ringed: list.ringed && ListView.isCurrentItem
-        onPressed: list.take(index)
+        onPressed: {
+            list.take(index);
+            list.lens.drill(index);
+        }
         onOpened: list.lens.drill(index)
-        onToggled: list.lens.toggle(index)
+        onToggled: {
+            list.take(index);
+            list.lens.toggle(index);
+        }
         onAsked: list.lens.explain(index)
     }
 
@@ -75,20 +81,19 @@ RowList {
         required property var icon
         required property bool ticked
         required property bool drillable
-        required property string spoken
+        required spoken
         required property string info
 
-        signal pressed
         signal opened
         signal toggled
         signal asked
 
         readonly property bool current: ListView.isCurrentItem
 
+        clickable: row.drillable
         implicitHeight: Math.max(content.implicitHeight, label.implicitHeight) + 2 * 8
 
         Accessible.role: Accessible.ListItem
-        Accessible.name: row.spoken
         Accessible.onPressAction: row.opened()
 
         Rectangle {
@@ -96,25 +101,12 @@ RowList {
             anchors.leftMargin: 10
             anchors.rightMargin: 10
             radius: 8
-            color: row.ticked ? Qt.alpha(Theme.accent, 0.1) : pointer.hovered && row.drillable ? Theme.hoverWash : "transparent"
+            color: row.ticked ? Qt.alpha(Theme.accent, 0.1) : row.hovered && row.drillable ? Theme.hoverWash : "transparent"
 
             FocusRing {
                 anchors.margins: 1
                 shown: row.ringed && !ask.visualFocus
                 corner: 4
-            }
-        }
-
-        HoverHandler {
-            id: pointer
-
-            cursorShape: row.drillable ? Qt.PointingHandCursor : Qt.ArrowCursor
-        }
-
-        TapHandler {
-            onTapped: {
-                row.pressed();
-                row.opened();
             }
         }
 
@@ -138,10 +130,7 @@ RowList {
                 focusPolicy: Qt.NoFocus
                 text: row.name
                 on: row.ticked
-                onClicked: {
-                    row.pressed();
-                    row.toggled();
-                }
+                onClicked: row.toggled()
             }
 
             // Only the current row's button is in the focus chain.

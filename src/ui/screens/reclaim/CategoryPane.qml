@@ -144,14 +144,12 @@ FocusScope {
         required property real bytes
         required property string itemCount
         required property bool chosen
-        required property string spoken
+        required spoken
 
-        signal pressed
-
+        clickable: true
         implicitHeight: Math.max(texts.implicitHeight, figures.implicitHeight) + 2 * 10
 
         Accessible.role: Accessible.CheckBox
-        Accessible.name: row.spoken
         Accessible.checkable: true
         Accessible.checked: row.chosen
         Accessible.onPressAction: row.pressed()
@@ -164,22 +162,12 @@ FocusScope {
             anchors.topMargin: 1
             anchors.bottomMargin: 1
             radius: 10
-            color: row.chosen ? Qt.alpha(Theme.accent, 0.1) : hover.hovered ? Theme.hoverWash : "transparent"
+            color: row.chosen ? Qt.alpha(Theme.accent, 0.1) : row.hovered ? Theme.hoverWash : "transparent"
 
             FocusRing {
                 shown: row.ringed
                 corner: 10
             }
-        }
-
-        HoverHandler {
-            id: hover
-
-            cursorShape: Qt.PointingHandCursor
-        }
-
-        TapHandler {
-            onTapped: row.pressed()
         }
 
         CheckBox {

@@ -165,18 +165,11 @@ FocusScope {
         required property string folder
         required property string figure
         required property string method
-        required property string spoken
-
-        signal pressed
+        required spoken
 
         implicitHeight: Math.max(texts.implicitHeight, trailing.implicitHeight) + 2 * 6
 
         Accessible.role: Accessible.ListItem
-        Accessible.name: row.spoken
-
-        TapHandler {
-            onTapped: row.pressed()
-        }
 
         FocusRing {
             shown: row.ringed

@@ -186,15 +186,9 @@ Sheet {
         required property int index
         required property var modelData
 
-        signal pressed
-
         implicitHeight: texts.implicitHeight + 2 * 4
+        spoken: AccessibleText.joined([row.modelData.name, row.modelData.reason])
         Accessible.role: Accessible.ListItem
-        Accessible.name: AccessibleText.joined([row.modelData.name, row.modelData.reason])
-
-        TapHandler {
-            onTapped: row.pressed()
-        }
 
         FocusRing {
             shown: row.ringed

@@ -108,16 +108,15 @@ FocusScope {
         required property bool chosen
         required property bool free
         required property bool open
-        required property string spoken
+        required spoken
 
         signal taken
-        signal pressed
         signal ticked
 
+        clickable: true
         implicitHeight: Math.max(texts.implicitHeight, box.implicitHeight) + 2 * (row.group ? 14 : 7)
 
         Accessible.role: Accessible.CheckBox
-        Accessible.name: row.spoken
         Accessible.checkable: row.free
         Accessible.checked: row.chosen
         Accessible.onPressAction: row.pressed()
@@ -139,23 +138,13 @@ FocusScope {
             Rectangle {
                 anchors.fill: parent
                 radius: parent.radius
-                color: hover.hovered ? Theme.hoverWash : "transparent"
+                color: row.hovered ? Theme.hoverWash : "transparent"
             }
 
             FocusRing {
                 shown: row.ringed
                 corner: ground.radius
             }
-        }
-
-        HoverHandler {
-            id: hover
-
-            cursorShape: Qt.PointingHandCursor
-        }
-
-        TapHandler {
-            onTapped: row.pressed()
         }
 
         CheckBox {
