@@ -322,6 +322,20 @@ TEST_F(ClutterViewTest, arrowsChoosePillAndOrder) {
     EXPECT_EQ(focusName(), "Oldest");
 }
 
+TEST_F(ClutterViewTest, firstPillIsReachedIfTheChosenOneIsGone) {
+    open();
+    click("typePill1");
+    EXPECT_EQ(clutter.typeFilter(), FileType::video);
+    EXPECT_TRUE(find("typePill1")->property("chosen").toBool());
+    model().setScanRoots({home + "/papers"});
+    survey();
+    settle();
+    EXPECT_EQ(find("typePill2"), nullptr);
+    for (const char* pill : {"typePill0", "typePill1"}) EXPECT_FALSE(find(pill)->property("chosen").toBool()) << pill;
+    EXPECT_TRUE(find("typePill0")->activeFocusOnTab());
+    EXPECT_FALSE(find("typePill1")->activeFocusOnTab());
+}
+
 TEST_F(ClutterViewTest, clickingPillFilters) {
     open();
     click("typePill3");

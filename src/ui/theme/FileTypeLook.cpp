@@ -26,3 +26,5 @@ FileTypeLook lookOf(FileType type, const ZelkTheme& theme) {
 }
 
 }  // namespace zelk
+
+#include "moc_FileTypeLook.cpp"

@@ -97,13 +97,16 @@ Item {
                         id: pill
 
                         required property int index
-                        required property string name
-                        required property color color
-                        required property bool reached
+                        required property fileTypeLook modelData
+
+                        // The pill in the focus chain: the first if the chosen one is gone.
+                        readonly property bool reached: pill.index === Math.max(0, head.clutter.pill)
 
                         objectName: "typePill" + pill.index
-                        text: pill.name
-                        tint: pill.color.valid ? pill.color : Theme.otherFiles
+                        text: pill.modelData.name
+                        symbol: pill.modelData.symbol
+                        tint: pill.modelData.color.valid ? pill.modelData.color : Theme.otherFiles
+                        chosen: pill.index === head.clutter.pill
                         focus: pill.reached
                         activeFocusOnTab: pill.reached
                         onClicked: head.clutter.filter(pill.index)

@@ -2,11 +2,9 @@
 #include "ui/screens/clutter/ClutterScreenModel.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/theme/FileTypeLook.h"
 #include "ui/theme/ScreenLook.h"
 #include "ui/theme/SystemTexts.h"
 
@@ -26,41 +24,6 @@ ModuleTexts texts() {
 
 }  // namespace
 
-void TypePills::show(const std::vector<FileType>& types) {
-    std::vector<Filter> pills{Filter()};
-    pills.insert(pills.end(), types.begin(), types.end());
-    edit(pills_, std::move(pills), [](const Filter& type) { return type ? rawValue(*type) : std::string_view(); });
-    allRowsChanged({reachedRole});
-}
-
-void TypePills::choose(Filter filter) {
-    chosen_ = filter;
-    allRowsChanged({chosenRole, reachedRole});
-}
-
-QVariant TypePills::value(std::size_t row, int role) const {
-    const Filter& type = pills_[row];
-    switch (role) {
-        case nameRole:
-            return type ? lookOf(*type).name : tr("All");
-        case symbolRole:
-            return type ? lookOf(*type).symbol : lookOf(Screen::clutter).symbol;
-        case colorRole:
-            return type ? lookOf(*type).color : lookOf(Screen::clutter).color;
-        case chosenRole:
-            return type == chosen_;
-        case reachedRole:
-            return isReached(row);
-        default:
-            return {};
-    }
-}
-
-bool TypePills::isReached(std::size_t row) const {
-    if (pills_[row] == chosen_) return true;
-    return row == 0 && std::find(pills_.begin(), pills_.end(), chosen_) == pills_.end();
-}
-
 ClutterScreenModel::ClutterScreenModel(AppModel& app)
     : SurveyedModule(app, Screen::clutter, texts()), app_(app), undoBar_(app, RemovalUndo::Source::largeFile) {
     connect(&app, &AppModel::insightsChanged, this, &ClutterScreenModel::refresh);
@@ -74,6 +37,19 @@ void ClutterScreenModel::setOnScreen(bool onScreen) {
     if (onScreen) refresh();
 }
 
+QList<FileTypeLook> ClutterScreenModel::pills() const {
+    const ScreenLook& all = lookOf(Screen::clutter);
+    QList<FileTypeLook> pills{{tr("All"), all.color, all.symbol}};
+    for (const FileType type : types_) pills.append(lookOf(type));
+    return pills;
+}
+
+int ClutterScreenModel::pill() const {
+    if (!typeFilter_) return 0;
+    const auto found = std::find(types_.begin(), types_.end(), *typeFilter_);
+    return found == types_.end() ? -1 : static_cast<int>(found - types_.begin()) + 1;
+}
+
 void ClutterScreenModel::sort(int order) {
     const bool byAge = order == 1;
     if (byAge == sortByAge_) return;
@@ -84,11 +60,11 @@ void ClutterScreenModel::sort(int order) {
 }
 
 void ClutterScreenModel::filter(int pill) {
-    if (pill < 0 || pill >= pills_.rowCount()) return;
-    const TypePills::Filter filter = pills_.filterAt(pill);
-    if (filter == typeFilter()) return;
-    pills_.choose(filter);
+    if (pill < 0 || pill > static_cast<int>(types_.size()) || pill == this->pill()) return;
+    typeFilter_.reset();
+    if (pill > 0) typeFilter_ = types_[static_cast<std::size_t>(pill - 1)];
     refresh();
+    emit pillChanged();
     emit rearranged();
 }
 
@@ -116,15 +92,17 @@ void ClutterScreenModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
     std::vector<FileType> types;
     for (const auto& [type, tally] : app_.sortedTypeTotals()) types.push_back(type);
-    pills_.show(types);
+    if (std::exchange(types_, types) != types) {
+        emit pillsChanged();
+        emit pillChanged();
+    }
     rows_.show(shownFiles(), app_.platform().clock.now());
     if (std::exchange(nothing_, app_.insights().topFiles.empty()) != nothing_) emit nothingChanged();
 }
 
 std::vector<LargeFile> ClutterScreenModel::shownFiles() const {
     std::vector<LargeFile> files = app_.insights().topFiles;
-    if (const TypePills::Filter& type = typeFilter())
-        std::erase_if(files, [&](const LargeFile& file) { return file.type != *type; });
+    if (typeFilter_) std::erase_if(files, [this](const LargeFile& file) { return file.type != *typeFilter_; });
     if (sortByAge_)
         std::stable_sort(files.begin(), files.end(),
                          [](const LargeFile& a, const LargeFile& b) { return a.modified < b.modified; });

@@ -2,50 +2,18 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QList>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "scan/FileType.h"
-#include "ui/controls/RowModel.h"
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/clutter/LargeFileRows.h"
 #include "ui/screens/module/SurveyedModule.h"
+#include "ui/theme/FileTypeLook.h"
 
 namespace zelk {
-
-/// List model of the filter pills: "All", then the available types. Main thread.
-class TypePills : public zelk::RowModel {
-    Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Part of ClutterScreenModel")
-
-public:
-    /// `color` is invalid for files of no known type. `reached` marks the pill in the focus chain: the chosen one, or
-    /// the first if the chosen one is gone.
-    enum Role { nameRole = Qt::UserRole, symbolRole, colorRole, chosenRole, reachedRole };
-
-    using Filter = std::optional<FileType>;  ///< none: all files
-
-    TypePills() : RowModel({"name", "symbol", "color", "chosen", "reached"}) {}
-
-    /// Shows "All" and `types`. Delegates of pills that stay are kept.
-    void show(const std::vector<FileType>& types);
-    void choose(Filter filter);
-
-    const Filter& chosen() const { return chosen_; }
-    /// The filter of the pill in this row.
-    Filter filterAt(int row) const { return pills_[static_cast<std::size_t>(row)]; }
-
-private:
-    std::size_t size() const override { return pills_.size(); }
-    QVariant value(std::size_t row, int role) const override;
-
-    bool isReached(std::size_t row) const;
-
-    std::vector<Filter> pills_{Filter()};
-    Filter chosen_;
-};
 
 /// The large files of the last survey, filtered by type and sorted by size or age, and the actions on a file. Keeps its
 /// rows while another survey runs. Main thread.
@@ -56,7 +24,8 @@ class ClutterScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen FINAL)
     Q_PROPERTY(bool nothing READ nothing NOTIFY nothingChanged FINAL)
     Q_PROPERTY(int order READ order NOTIFY orderChanged FINAL)
-    Q_PROPERTY(zelk::TypePills* pills READ pills CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::FileTypeLook> pills READ pills NOTIFY pillsChanged FINAL)
+    Q_PROPERTY(int pill READ pill NOTIFY pillChanged FINAL)
     Q_PROPERTY(zelk::LargeFileRows* rows READ rows CONSTANT FINAL)
     Q_PROPERTY(zelk::UndoBarModel* undoBar READ undoBar CONSTANT FINAL)
 
@@ -72,16 +41,20 @@ public:
     bool nothing() const { return nothing_; }
     /// 0: the largest first, 1: the oldest.
     int order() const { return sortByAge_ ? 1 : 0; }
-    TypePills* pills() { return &pills_; }
+    /// The filters: "All", then the types of the survey, largest first.
+    QList<FileTypeLook> pills() const;
+    /// The index of the chosen filter, or -1 if no file of its type is left.
+    int pill() const;
     LargeFileRows* rows() { return &rows_; }
     UndoBarModel* undoBar() { return &undoBar_; }
 
-    const TypePills::Filter& typeFilter() const { return pills_.chosen(); }
+    /// None: all files.
+    const std::optional<FileType>& typeFilter() const { return typeFilter_; }
     bool sortByAge() const { return sortByAge_; }
 
 public slots:
     void sort(int order);
-    /// Filters by the pill in this row.
+    /// Filters by the pill of this index.
     void filter(int pill);
     /// Makes the file in this row the target of the actions, even if rows change afterwards.
     void pick(int row);
@@ -94,6 +67,8 @@ public slots:
 signals:
     void nothingChanged();
     void orderChanged();
+    void pillsChanged();
+    void pillChanged();
     /// The order or the filter changed, so the scroll position and current row are void.
     void rearranged();
 
@@ -102,9 +77,10 @@ private:
     std::vector<LargeFile> shownFiles() const;
 
     AppModel& app_;
-    TypePills pills_;
     LargeFileRows rows_;
     UndoBarModel undoBar_;
+    std::vector<FileType> types_;
+    std::optional<FileType> typeFilter_;
     bool sortByAge_ = false;
     bool nothing_ = true;
     bool onScreen_ = false;
