@@ -2,7 +2,6 @@
 #include "ui/screens/lens/FolderIcons.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "ui/theme/SymbolItem.h"
 
@@ -16,11 +15,9 @@ constexpr qsizetype keptBytes = 8 * 1024 * 1024;
 const QColor folderColor(90, 172, 245);
 
 QImage imageOf(const IconPixels& pixels) {
-    QImage image(pixels.side, pixels.side, QImage::Format_ARGB32_Premultiplied);
-    const auto side = static_cast<std::size_t>(pixels.side);
-    for (std::size_t y = 0; y < side; ++y)
-        std::memcpy(image.scanLine(static_cast<int>(y)), &pixels.argb[y * side], side * sizeof pixels.argb[0]);
-    return image;
+    return QImage(reinterpret_cast<const uchar*>(pixels.argb.data()), pixels.side, pixels.side,
+                  QImage::Format_ARGB32_Premultiplied)
+        .copy();
 }
 
 }  // namespace

@@ -66,13 +66,9 @@ Sheet {
                     size: 56
                 }
 
-                Item {
-                    width: 1
-                    height: 4
-                }
-
                 Label {
                     width: parent.width
+                    topPadding: 12
                     text: result.heading
                     size: 20
                     font.weight: Font.Bold
