@@ -10,22 +10,16 @@
 
 namespace zelk {
 
-namespace {
-
-ModuleTexts texts() {
-    ModuleTexts texts;
-    texts.title = ClutterScreenModel::tr("Clutter");
-    texts.subtitle = ClutterScreenModel::tr(
-        "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.");
-    texts.scanLabel = ClutterScreenModel::tr("Find large files");
-    texts.scanningLabel = ClutterScreenModel::tr("Hunting for heavy files…");
-    return texts;
-}
-
-}  // namespace
-
 ClutterScreenModel::ClutterScreenModel(AppModel& app)
-    : SurveyedModule(app, Screen::clutter, texts()), app_(app), undoBar_(app, RemovalUndo::Source::largeFile) {
+    : SurveyedModule(
+          app, Screen::clutter,
+          {.title = tr("Clutter"),
+           .subtitle = tr("Find your largest and oldest files — videos, downloads, disk images, forgotten archives."),
+           .scanLabel = tr("Find large files"),
+           .scanningLabel = tr("Hunting for heavy files…"),
+           .note = {}}),
+      app_(app),
+      undoBar_(app, RemovalUndo::Source::largeFile) {
     connect(&app, &AppModel::insightsChanged, this, &ClutterScreenModel::refresh);
     connect(this, &ModuleScreenModel::phaseChanged, this, &ClutterScreenModel::refresh);
     refresh();

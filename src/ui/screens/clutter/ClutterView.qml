@@ -30,7 +30,6 @@ ModuleScaffold {
             }
 
             onNothingChanged: results.build()
-            Component.onCompleted: results.build()
 
             EmptyState {
                 anchors.left: parent.left

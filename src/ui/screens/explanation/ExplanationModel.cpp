@@ -3,9 +3,6 @@
 
 #include <utility>
 
-#include "ui/theme/DisplayText.h"
-#include "ui/theme/SafetyLook.h"
-
 namespace zelk {
 
 ExplanationModel::ExplanationModel(std::string home) : home_(std::move(home)), explanation_(explain(path_, home_)) {}
@@ -19,20 +16,6 @@ void ExplanationModel::open(const std::string& path) {
 
 void ExplanationModel::close() {
     if (std::exchange(shown_, false)) emit changed();
-}
-
-QString ExplanationModel::title() const {
-    return displayText(explanation_.title);
-}
-QString ExplanationModel::path() const {
-    return displayText(path_);
-}
-QString ExplanationModel::badge() const {
-    return wordOf(explanation_.safety);
-}
-
-QString ExplanationModel::detail() const {
-    return displayText(explanation_.detail);
 }
 
 }  // namespace zelk

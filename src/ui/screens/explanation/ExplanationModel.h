@@ -7,6 +7,8 @@
 #include <string>
 
 #include "reclaim/PathExplanation.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/SafetyLook.h"
 
 namespace zelk {
 
@@ -36,12 +38,12 @@ public:
     void open(const std::string& path);
 
     bool shown() const { return shown_; }
-    QString title() const;
-    QString path() const;
-    QString badge() const;
+    QString title() const { return displayText(explanation_.title); }
+    QString path() const { return displayText(path_); }
+    QString badge() const { return wordOf(explanation_.safety); }
     Grade grade() const { return static_cast<Grade>(explanation_.safety); }
     bool regenerates() const { return explanation_.regenerates; }
-    QString detail() const;
+    QString detail() const { return displayText(explanation_.detail); }
 
 public slots:
     void close();

@@ -26,15 +26,6 @@ constexpr const char* foldedSlice = "__other__";
 
 const QColor bubbleColor(124, 92, 255);
 
-ModuleTexts texts() {
-    ModuleTexts texts;
-    texts.title = LensScreenModel::tr("Lens");
-    texts.subtitle = LensScreenModel::tr("Explore where your space went — a list and a live bubble map, side by side.");
-    texts.scanLabel = LensScreenModel::tr("Run survey");
-    texts.scanningLabel = LensScreenModel::tr("Surveying your drive…");
-    return texts;
-}
-
 std::int64_t usedOf(const VolumeInfo& volume) {
     return std::max<std::int64_t>(volume.total - volume.available, 0);
 }
@@ -42,7 +33,12 @@ std::int64_t usedOf(const VolumeInfo& volume) {
 }  // namespace
 
 LensScreenModel::LensScreenModel(AppModel& app)
-    : SurveyedModule(app, Screen::lens, texts()),
+    : SurveyedModule(app, Screen::lens,
+                     {.title = tr("Lens"),
+                      .subtitle = tr("Explore where your space went — a list and a live bubble map, side by side."),
+                      .scanLabel = tr("Run survey"),
+                      .scanningLabel = tr("Surveying your drive…"),
+                      .note = {}}),
       app_(app),
       icons_(app.workspace()),
       rows_(walk_, [this](const std::string& path) { return icons_.image(path, rowIconSide); }),

@@ -51,10 +51,6 @@ ModuleScaffold {
             onByCategoryChanged: results.build()
             onByItemChanged: results.build()
             onReviewingChanged: results.review()
-            Component.onCompleted: {
-                results.build();
-                results.review();
-            }
 
             EmptyState {
                 anchors.fill: parent

@@ -7,21 +7,13 @@
 
 namespace zelk {
 
-namespace {
-
-ModuleTexts texts() {
-    ModuleTexts texts;
-    texts.title = ReclaimScreenModel::tr("Reclaim");
-    texts.subtitle = ReclaimScreenModel::tr("Clear caches, logs, and developer junk — safely, to the Trash.");
-    texts.scanLabel = ReclaimScreenModel::tr("Scan for junk");
-    texts.scanningLabel = ReclaimScreenModel::tr("Looking for reclaimable junk…");
-    return texts;
-}
-
-}  // namespace
-
 ReclaimScreenModel::ReclaimScreenModel(AppModel& app)
-    : SurveyedModule(app, Screen::reclaim, texts()),
+    : SurveyedModule(app, Screen::reclaim,
+                     {.title = tr("Reclaim"),
+                      .subtitle = tr("Clear caches, logs, and developer junk — safely, to the Trash."),
+                      .scanLabel = tr("Scan for junk"),
+                      .scanningLabel = tr("Looking for reclaimable junk…"),
+                      .note = {}}),
       app_(app),
       cleanup_(app.platform(), app.removals()),
       categories_(app, [this](const std::vector<Reclaimable>& items) { reviewCategories(items); }),
