@@ -100,14 +100,13 @@ FocusScope {
         }
     }
 
-    Rectangle {
+    Divider {
         id: edge
 
         anchors.left: mapSide.right
         anchors.top: parent.top
         anchors.bottom: cleanFooter.top
-        width: 1
-        color: Theme.hairline
+        vertical: true
     }
 
     BubbleChart {
