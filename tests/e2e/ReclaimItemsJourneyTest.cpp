@@ -11,7 +11,12 @@ namespace {
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 
-class ReclaimingItems : public ReclaimingFixture {};
+class ReclaimingItems : public ReclaimingFixture {
+protected:
+    /// The last sentence of the popup that explains the grades.
+    const QString closing =
+        QStringLiteral("Everything moves to the Trash, so any removal is reversible until you empty it.");
+};
 
 }  // namespace
 
@@ -52,7 +57,6 @@ TEST_F(ReclaimingItems, selectsItemsWithMouse) {
     surveyByMouse();
     click("developerSwitch");
     click("safetyInfo");
-    const QString closing = main().reclaim().guide()->closing();
     runUntil([&] { return shows(closing); });
     click("safetyInfo");
     runUntil([&] { return !shows(closing); });
@@ -88,7 +92,6 @@ TEST_F(ReclaimingItems, cleansItemsWithKeyboardAlone) {
     surveyByKeys();
     tabTo(window(), "developerSwitch");
     press(Qt::Key_Space);
-    const QString closing = main().reclaim().guide()->closing();
     EXPECT_FALSE(shows(closing));
     tabTo(window(), "safetyInfo");
     press(Qt::Key_Space);

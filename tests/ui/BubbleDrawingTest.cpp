@@ -8,6 +8,7 @@
 
 #include "Painted.h"
 #include "Readable.h"
+#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
@@ -216,6 +217,17 @@ TEST(BubbleDrawing, selectionRingTakesPrecedenceOverHover) {
     EXPECT_LT(bareBubble(40, "a").pixelColor(138, 100).red(), 120) << "2 wide";
     EXPECT_EQ(bareBubble(40, "a", true), bareBubble(40, {}, true));
     EXPECT_EQ(bareBubble(40, "b"), bareBubble(40)) << "another bubble is hovered";
+}
+
+TEST(BubbleDrawing, bubbleWithoutColourHasThatOfSecondaryText) {
+    for (const bool dark : {true, false}) {
+        BubbleSlice bare = sliceOf("a");
+        bare.color = QColor();
+        BubbleSlice soft = bare;
+        soft.color = (dark ? ZelkTheme::dark() : ZelkTheme::light()).inkSoft;
+        const std::vector<PackedCircle> circle{circleOf("a", 40)};
+        EXPECT_EQ(drawn(circle, {bare}, {}, {dark, 1}), drawn(circle, {soft}, {}, {dark, 1}));
+    }
 }
 
 TEST(BubbleDrawing, paintsLaterCirclesOnTop) {

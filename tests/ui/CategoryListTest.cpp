@@ -154,7 +154,7 @@ TEST_F(CategoryListTest, vanishedChoiceCountsOnlyInMenu) {
 TEST_F(CategoryListTest, tapTogglesRow) {
     surveyFor(Audience::normal);
     int footers = 0;
-    QObject::connect(&list(), &CategoryList::footerChanged, &list(), [&] { ++footers; });
+    QObject::connect(&list(), &CategoryList::selectionChanged, &list(), [&] { ++footers; });
     RowMirror mirror(list(), {CategoryList::idRole});
     list().toggle(2);
     EXPECT_TRUE(chosen(2));

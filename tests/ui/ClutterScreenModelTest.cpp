@@ -38,15 +38,15 @@ protected:
         return all;
     }
     Strings names() { return texts(*screen().rows()); }
-    Strings pills() { return texts(*screen().pills()); }
-    /// The names of the pills for which the flag `role` is set.
-    Strings pillsThatAre(const char* role) {
-        Strings found;
-        const TypePills& all = *screen().pills();
-        for (int row = 0; row < all.rowCount(); ++row)
-            if (all.data(all.index(row), all.roleNames().key(role)).toBool())
-                found.push_back(pills()[static_cast<std::size_t>(row)]);
-        return found;
+    Strings pills() {
+        Strings all;
+        for (const FileTypeLook& pill : screen().pills()) all.push_back(pill.name.toStdString());
+        return all;
+    }
+    /// The name of the chosen pill; empty if it is gone.
+    std::string chosenPill() {
+        const int chosen = screen().pill();
+        return chosen < 0 ? std::string() : screen().pills().at(chosen).name.toStdString();
     }
     void filter(const std::string& pill) {
         const Strings all = pills();
@@ -76,7 +76,6 @@ TEST_F(ClutterScreenModelTest, exposesItsTexts) {
          "Find your largest and oldest files — videos, downloads, disk images, forgotten archives."},
         {clutter.scanLabel(), "Find large files"},
         {clutter.scanningLabel(), "Hunting for heavy files…"},
-        {clutter.orders().join('|'), "Largest|Oldest"},
     };
     for (const auto& [actual, text] : expected) EXPECT_EQ(actual.toStdString(), text);
     EXPECT_EQ(clutter.screen(), Screen::clutter);
@@ -145,10 +144,10 @@ TEST_F(ClutterScreenModelTest, sortsEqualAgesBySize) {
 TEST_F(ClutterScreenModelTest, pillsListTypesByTotalSize) {
     surveyClutter();
     EXPECT_THAT(pills(), ElementsAre("All", "Video", "Disk images", "Archives", "Documents"));
-    EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("All"));
-    EXPECT_THAT(pillsThatAre("reached"), ElementsAre("All"));
-    EXPECT_THAT(texts(*screen().pills(), "symbol"),
-                ElementsAre("tray.full", "film", "opticaldiscdrive", "doc.zipper", "doc.text"));
+    EXPECT_EQ(chosenPill(), "All");
+    Strings symbols;
+    for (const FileTypeLook& pill : screen().pills()) symbols.push_back(pill.symbol.toStdString());
+    EXPECT_THAT(symbols, ElementsAre("tray.full", "film", "opticaldiscdrive", "doc.zipper", "doc.text"));
 }
 
 TEST_F(ClutterScreenModelTest, pillFiltersByType) {
@@ -157,7 +156,7 @@ TEST_F(ClutterScreenModelTest, pillFiltersByType) {
     filter("Video");
     EXPECT_EQ(screen().typeFilter(), FileType::video);
     EXPECT_THAT(names(), ElementsAre("concert.mov", "old.mp4"));
-    EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("Video"));
+    EXPECT_EQ(chosenPill(), "Video");
     screen().sort(oldest);
     EXPECT_THAT(names(), ElementsAre("old.mp4", "concert.mov"));
     filter("Documents");
@@ -262,8 +261,7 @@ TEST_F(ClutterScreenModelTest, filterOnVanishedTypeIsResetByAll) {
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_FALSE(screen().nothing());
     EXPECT_THAT(pills(), ElementsAre("All", "Documents"));
-    EXPECT_THAT(pillsThatAre("chosen"), IsEmpty());
-    EXPECT_THAT(pillsThatAre("reached"), ElementsAre("All"));
+    EXPECT_EQ(chosenPill(), "");
     filter("All");
     EXPECT_THAT(names(), ElementsAre("notes.pdf"));
 }
@@ -274,7 +272,7 @@ TEST_F(ClutterScreenModelTest, keepsOrderAndFilterAcrossSurveys) {
     filter("Video");
     survey();
     EXPECT_THAT(names(), ElementsAre("old.mp4", "concert.mov"));
-    EXPECT_THAT(pillsThatAre("chosen"), ElementsAre("Video"));
+    EXPECT_EQ(chosenPill(), "Video");
 }
 
 TEST_F(ClutterScreenModelTest, pickedFileSurvivesRowChanges) {
@@ -305,23 +303,9 @@ TEST_F(ClutterScreenModelTest, unchangedSurveyEditsNoRows) {
     screen();
     const QSignalSpy removed(screen().rows(), &QAbstractItemModel::rowsRemoved);
     const QSignalSpy inserted(screen().rows(), &QAbstractItemModel::rowsInserted);
-    const QSignalSpy pillsRemoved(screen().pills(), &QAbstractItemModel::rowsRemoved);
+    const QSignalSpy otherPills(&screen(), &ClutterScreenModel::pillsChanged);
     survey();
-    EXPECT_EQ(removed.size() + inserted.size() + pillsRemoved.size(), 0);
-}
-
-TEST_F(ClutterScreenModelTest, updatesTintsWithTheme) {
-    machine.directories.file(home + "/thing", 1'000'000, 0);
-    survey();
-    const auto tint = [&](const QAbstractItemModel& rows, int row, int role) {
-        return rows.data(rows.index(row, 0), role).value<QColor>();
-    };
-    EXPECT_TRUE(screen().dark());
-    const QColor row = tint(*screen().rows(), 0, LargeFileRows::tintRole);
-    const QColor pill = tint(*screen().pills(), 1, TypePills::tintRole);
-    screen().setDark(false);
-    EXPECT_NE(tint(*screen().rows(), 0, LargeFileRows::tintRole), row);
-    EXPECT_NE(tint(*screen().pills(), 1, TypePills::tintRole), pill);
+    EXPECT_EQ(removed.size() + inserted.size() + otherPills.size(), 0);
 }
 
 }  // namespace zelk

@@ -7,6 +7,7 @@
 #include "ViewFixture.h"
 #include "fakes/ClutterHome.h"
 #include "ui/screens/clutter/ClutterScreenModel.h"
+#include "ui/theme/FileTypeLook.h"
 #include "ui/theme/SystemTexts.h"
 
 namespace zelk {
@@ -71,6 +72,18 @@ TEST_F(ClutterViewTest, showsHeaderAndRowTexts) {
         EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
     EXPECT_EQ(std::count(texts.begin(), texts.end(), "/home/me/media"), 2);
     EXPECT_THAT(texts, Not(Contains("Nothing heavy")));
+}
+
+TEST_F(ClutterViewTest, filesOfNoKnownTypeHaveTheColourOfTheTheme) {
+    machine.directories.file(home + "/thing", 5'000'000'000, 0);
+    open();
+    for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
+        model().setAppearance(appearance);
+        settle();
+        const QColor color = lookOf(FileType::other, singleton<Theme>("Theme").current()).color;
+        EXPECT_THAT(colorsOf("doc"), ElementsAre(color, color)) << "a pill and a row";
+        EXPECT_THAT(colorsOf("opticaldiscdrive"), ElementsAre(QColor(255, 107, 94), QColor(255, 107, 94)));
+    }
 }
 
 TEST_F(ClutterViewTest, menuOffersRevealAndTrash) {
@@ -307,6 +320,20 @@ TEST_F(ClutterViewTest, arrowsChoosePillAndOrder) {
     press(Qt::Key_Right);
     EXPECT_TRUE(clutter.sortByAge());
     EXPECT_EQ(focusName(), "Oldest");
+}
+
+TEST_F(ClutterViewTest, firstPillIsReachedIfTheChosenOneIsGone) {
+    open();
+    click("typePill1");
+    EXPECT_EQ(clutter.typeFilter(), FileType::video);
+    EXPECT_TRUE(find("typePill1")->property("chosen").toBool());
+    model().setScanRoots({home + "/papers"});
+    survey();
+    settle();
+    EXPECT_EQ(find("typePill2"), nullptr);
+    for (const char* pill : {"typePill0", "typePill1"}) EXPECT_FALSE(find(pill)->property("chosen").toBool()) << pill;
+    EXPECT_TRUE(find("typePill0")->activeFocusOnTab());
+    EXPECT_FALSE(find("typePill1")->activeFocusOnTab());
 }
 
 TEST_F(ClutterViewTest, clickingPillFilters) {

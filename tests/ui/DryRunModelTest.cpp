@@ -66,11 +66,6 @@ private:
 
 }  // namespace
 
-TEST_F(DryRunModelTest, offersToEmptyTheTrash) {
-    open(three());
-    EXPECT_EQ(sheet().emptyLabel().toStdString(), "Empty Trash & free space");
-}
-
 TEST_F(DryRunModelTest, summarizesItemsWithoutTouchingTheDisk) {
     const std::vector<Reclaimable> items = three();
     machine.files.forgetCalls();
@@ -217,14 +212,10 @@ TEST_F(DryRunModelTest, ignoresActionsWhileCleaning) {
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(DryRunModelTest, resultAdvisesToEmptyTheTrash) {
+TEST_F(DryRunModelTest, resultOffersToEmptyTheTrash) {
     open(three());
     cleanNow();
-    EXPECT_EQ(sheet().heading().toStdString(), "Moved to the Trash");
     EXPECT_EQ(sheet().result().toStdString(), "100 MB · 3 items");
-    EXPECT_EQ(sheet().advice().toStdString(),
-              "Items were moved to the Trash, so they're recoverable — but your free space won't change until the "
-              "Trash is emptied.");
     EXPECT_TRUE(sheet().emptyable());
     EXPECT_TRUE(sheet().closable());
     EXPECT_FALSE(sheet().confirmable());
@@ -288,7 +279,7 @@ TEST_F(DryRunModelTest, reportsZeroBytesIfAllFailed) {
     open({item("/home/me/a", 10), item("/home/me/b", 20)});
     cleanNow();
     EXPECT_EQ(sheet().result().toStdString(), "0 bytes · 0 items · 2 skipped");
-    EXPECT_EQ(sheet().heading().toStdString(), "Moved to the Trash");
+    EXPECT_TRUE(sheet().emptyable());
 }
 
 TEST_F(DryRunModelTest, doesNotCountEmptyItems) {
@@ -305,7 +296,7 @@ TEST_F(DryRunModelTest, countsEmptyFailedItemAsSkipped) {
     EXPECT_EQ(sheet().result().toStdString(), "2 KB · 1 item · 1 skipped");
 }
 
-TEST_F(DryRunModelTest, hardDeleteBypassesTrashWithSameTexts) {
+TEST_F(DryRunModelTest, hardDeleteBypassesTrashWithSameResult) {
     open(three());
     sheet().setHardDelete(true);
     cleanNow();
@@ -313,8 +304,7 @@ TEST_F(DryRunModelTest, hardDeleteBypassesTrashWithSameTexts) {
     EXPECT_THAT(machine.files.pathsOf("remove"), UnorderedElementsAre("/home/me/a/yarn", "/home/me/b/pods"));
     EXPECT_EQ(machine.processes.calls().size(), 1U);
     EXPECT_EQ(sheet().result().toStdString(), "100 MB · 3 items");
-    EXPECT_EQ(sheet().heading().toStdString(), "Moved to the Trash");
-    EXPECT_THAT(sheet().advice().toStdString(), HasSubstr("Items were moved to the Trash"));
+    EXPECT_TRUE(sheet().emptyable());
 }
 
 TEST_F(DryRunModelTest, finishDismissesAndRescansOnce) {
@@ -340,9 +330,8 @@ TEST_F(DryRunModelTest, emptiesTheTrash) {
     machine.tasks.hold();
     sheet().emptyTrash();
     EXPECT_TRUE(sheet().emptyingTrash());
-    EXPECT_EQ(sheet().emptyLabel().toStdString(), "Emptying…");
     EXPECT_FALSE(sheet().closable());
-    EXPECT_EQ(sheet().heading().toStdString(), "Moved to the Trash");
+    EXPECT_TRUE(sheet().emptyable());
     sheet().emptyTrash();
     sheet().finish();
     sheet().close();
@@ -353,9 +342,7 @@ TEST_F(DryRunModelTest, emptiesTheTrash) {
     EXPECT_TRUE(sheet().trashEmptied());
     EXPECT_FALSE(sheet().emptyable());
     EXPECT_TRUE(sheet().closable());
-    EXPECT_EQ(sheet().heading().toStdString(), "Space reclaimed");
     EXPECT_EQ(sheet().result().toStdString(), "100 MB · 3 items");
-    EXPECT_EQ(sheet().advice().toStdString(), "The Trash was emptied. Your free space is now updated.");
     EXPECT_THAT(machine.files.list(machine.trash.path).value(), IsEmpty());
     sheet().finish();
     EXPECT_THAT(events, ElementsAre("dismiss", "rescan"));
@@ -368,8 +355,7 @@ TEST_F(DryRunModelTest, failedEmptyingShowsSameResult) {
     emptyNow();
     EXPECT_THAT(machine.files.list(machine.trash.path).value(), Not(IsEmpty()));
     EXPECT_TRUE(sheet().trashEmptied());
-    EXPECT_EQ(sheet().heading().toStdString(), "Space reclaimed");
-    EXPECT_EQ(sheet().advice().toStdString(), "The Trash was emptied. Your free space is now updated.");
+    EXPECT_FALSE(sheet().emptyable());
 }
 
 TEST_F(DryRunModelTest, emptyingUnreadableTrashShowsSameResult) {

@@ -41,31 +41,19 @@ TEST_F(ExplanationModelTest, explainsAPath) {
                                             "with npm/pnpm/yarn install when you next work on it."));
 }
 
-TEST_F(ExplanationModelTest, gradesHaveABadgeAndATintInBothThemes) {
+TEST_F(ExplanationModelTest, gradeHasABadge) {
     struct Case {
         const char* path;
         const char* badge;
-        QColor dark;
-        QColor light;
+        ExplanationModel::Grade grade;
     };
-    for (const auto& [path, badge, dark, light] : {Case{"/x/__pycache__", "safe", {50, 199, 123}, {50, 199, 123}},
-                                                   Case{"/x/target", "regenerates", {245, 166, 35}, {224, 133, 26}},
-                                                   Case{"/x/.git", "review", {255, 90, 77}, {216, 64, 46}}}) {
+    for (const auto& [path, badge, grade] : {Case{"/x/__pycache__", "safe", ExplanationModel::Safe},
+                                             Case{"/x/target", "regenerates", ExplanationModel::Regenerates},
+                                             Case{"/x/.git", "review", ExplanationModel::Review}}) {
         note.open(path);
         EXPECT_EQ(note.badge().toStdString(), badge);
-        note.setTheme(ZelkTheme::dark());
-        EXPECT_EQ(note.tint(), dark) << path;
-        note.setTheme(ZelkTheme::light());
-        EXPECT_EQ(note.tint(), light) << path;
+        EXPECT_EQ(note.grade(), grade) << path;
     }
-}
-
-TEST_F(ExplanationModelTest, signalsThemeChangeOnce) {
-    QSignalSpy changed(&note, &ExplanationModel::changed);
-    note.setTheme(ZelkTheme::dark());
-    EXPECT_EQ(changed.size(), 0);
-    note.setTheme(ZelkTheme::light());
-    EXPECT_EQ(changed.size(), 1);
 }
 
 TEST_F(ExplanationModelTest, safePathMayAlsoRegenerate) {

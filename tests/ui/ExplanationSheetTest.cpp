@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <utility>
+
 #include "ViewFixture.h"
 #include "ui/screens/explanation/ExplanationModel.h"
 
@@ -34,6 +36,28 @@ TEST_F(ExplanationSheetTest, showsNote) {
     EXPECT_EQ(text("explanationDetail"),
               "Build cache for a Next.js / Turbo / Vercel project. Regenerated on your next dev or build run.");
     EXPECT_EQ(text("explanationDone"), "Done");
+}
+
+TEST_F(ExplanationSheetTest, tintsBadgeAndSymbolByGradeInBothThemes) {
+    struct Case {
+        const char* path;
+        QColor dark;
+        QColor light;
+    };
+    open("");
+    for (const auto& [path, dark, light] :
+         {Case{"/x/__pycache__", {50, 199, 123}, {50, 199, 123}}, Case{"/x/target", {245, 166, 35}, {224, 133, 26}},
+          Case{"/x/.git", {255, 90, 77}, {216, 64, 46}}}) {
+        note.open(path);
+        for (const auto& [appearance, tint] :
+             {std::pair(AppModel::Appearance::dark, dark), std::pair(AppModel::Appearance::light, light)}) {
+            model().setAppearance(appearance);
+            settle();
+            EXPECT_EQ(find("explanationBadge")->property("ink").value<QColor>(), tint) << path;
+            ASSERT_NE(symbol("questionmark.circle.fill"), nullptr);
+            EXPECT_EQ(symbol("questionmark.circle.fill")->property("color").value<QColor>(), tint) << path;
+        }
+    }
 }
 
 TEST_F(ExplanationSheetTest, showsRegeneratesTagOnlyIfItRegenerates) {

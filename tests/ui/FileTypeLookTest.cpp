@@ -41,4 +41,13 @@ TEST(FileTypeLook, otherIsSoftInkAtHalfOpacity) {
     EXPECT_NE(lookOf(FileType::other, ZelkTheme::dark()).color, lookOf(FileType::other, ZelkTheme::light()).color);
 }
 
+TEST(FileTypeLook, onlyOtherNeedsTheTheme) {
+    for (const FileType type : allFileTypes) {
+        const FileTypeLook look = lookOf(type);
+        EXPECT_EQ(look.color.isValid(), type != FileType::other);
+        EXPECT_EQ(look.name, lookOf(type, ZelkTheme::dark()).name);
+        EXPECT_EQ(look.symbol, lookOf(type, ZelkTheme::dark()).symbol);
+    }
+}
+
 }  // namespace zelk

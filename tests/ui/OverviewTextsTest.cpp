@@ -5,6 +5,7 @@
 #include "ui/controls/NumberItem.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/theme/DisplayText.h"
+#include "ui/theme/FileTypeLook.h"
 
 namespace zelk {
 
@@ -88,6 +89,19 @@ TEST_F(OverviewTexts, showResultsAfterSurvey) {
                      "10 MB", "old.zip", "7 MB", "Trends", "0 bytes", "since your last scan · 2 tracked"}));
     EXPECT_EQ(sizeOf("recoverable"), 11);
     EXPECT_EQ(sizeOf("re-run"), 10);
+}
+
+TEST_F(OverviewTexts, standBesideSymbolsInTheColourOfTheType) {
+    fillHome();
+    survey();
+    open();
+    for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
+        model().setAppearance(appearance);
+        settle();
+        EXPECT_EQ(colorsOf("film"), std::vector<QColor>{QColor(232, 91, 196)});
+        const QColor other = lookOf(FileType::other, singleton<Theme>("Theme").current()).color;
+        EXPECT_EQ(colorsOf("doc"), (std::vector<QColor>{other, other})) << "v6 and a.js";
+    }
 }
 
 TEST_F(OverviewTexts, followSurveyWithinQuarterOfASecond) {

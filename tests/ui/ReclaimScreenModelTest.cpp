@@ -49,37 +49,6 @@ TEST_F(ReclaimScreen, hasFixedTexts) {
     EXPECT_EQ(screen().tint(), QColor(50, 199, 123));
 }
 
-TEST_F(ReclaimScreen, guideExplainsThreeGrades) {
-    SafetyGuide& guide = *screen().guide();
-    struct Row {
-        std::string grade;
-        QColor tint;
-        std::string meaning;
-    };
-    const std::vector<Row> rows{
-        {"safe", {50, 199, 123}, "Pure caches and logs. Zero risk — the app simply rebuilds them as needed."},
-        {"regenerates",
-         {245, 166, 35},
-         "Build output like node_modules and build caches. Safe to delete; recreated automatically on your next build "
-         "or install (the first one is slower)."},
-        {"review",
-         {255, 107, 94},
-         "May include things you chose to keep — device backups, virtual environments, saved state. Review before "
-         "removing; left unchecked by default."},
-    };
-    EXPECT_EQ(guide.title().toStdString(), "What's safe to remove?");
-    EXPECT_EQ(guide.closing().toStdString(),
-              "Everything moves to the Trash, so any removal is reversible until you empty it.");
-    ASSERT_EQ(guide.rowCount(), 3);
-    for (int row = 0; row < 3; ++row) {
-        const Row& expected = rows[static_cast<std::size_t>(row)];
-        EXPECT_EQ(text(guide, row, SafetyGuide::gradeRole), expected.grade);
-        EXPECT_EQ(guide.data(guide.index(row), SafetyGuide::tintRole).value<QColor>(), expected.tint);
-        EXPECT_EQ(text(guide, row, SafetyGuide::meaningRole), expected.meaning);
-        EXPECT_TRUE(guide.spoken().contains(QString::fromStdString(expected.meaning)));
-    }
-}
-
 TEST_F(ReclaimScreen, showsOneFaceAtATime) {
     fillJunk();
     std::vector<std::string> faces;

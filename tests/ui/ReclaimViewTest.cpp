@@ -50,10 +50,53 @@ TEST_F(ReclaimWindow, offersItems) {
     expectTexts({"only inactive >", "14 days", "Clean selected"});
     EXPECT_EQ(nameOf(find("itemList")), "Items");
     EXPECT_EQ(nameOf(find("ageSlider")), "only inactive >");
+    EXPECT_EQ(find("ageSlider")->property("to").toInt(), 180);
+    EXPECT_EQ(colorsOf("chevron.right").size(), 5U);
+    screen().items()->setOpen(0, true);
+    settle();
+    EXPECT_EQ(colorsOf("chevron.right").size(), 4U);
+    EXPECT_EQ(colorsOf("chevron.down").size(), 1U);
     screen().items()->setAgeDays(180);
     settle();
     expectTexts(
         {"Nothing that old", "Everything found was in use more recently. Move the slider to the left to see it."});
+}
+
+TEST_F(ReclaimWindow, explainsThreeGrades) {
+    fillJunk();
+    openFor(AppModel::Audience::developer);
+    EXPECT_EQ(nameOf(find("safetyInfo")), "What's safe to remove?");
+    click("safetyInfo");
+    const std::vector<std::string> parts{
+        "What's safe to remove?",
+        "safe",
+        "Pure caches and logs. Zero risk — the app simply rebuilds them as needed.",
+        "regenerates",
+        "Build output like node_modules and build caches. Safe to delete; recreated automatically on your next build "
+        "or install (the first one is slower).",
+        "review",
+        "May include things you chose to keep — device backups, virtual environments, saved state. Review before "
+        "removing; left unchecked by default.",
+        "Everything moves to the Trash, so any removal is reversible until you empty it.",
+    };
+    const std::vector<QQuickItem*> items = seen();
+    const auto guide = std::find_if(items.begin(), items.end(), [](QQuickItem* item) {
+        QAccessibleInterface* node = QAccessible::queryAccessibleInterface(item);
+        return node != nullptr && node->role() == QAccessible::Note;
+    });
+    ASSERT_NE(guide, items.end());
+    std::string spoken;
+    for (const std::string& part : parts) spoken += (spoken.empty() ? "" : ", ") + part;
+    EXPECT_EQ(nameOf(*guide), spoken);
+    std::vector<std::string> texts;
+    std::vector<QColor> inks;
+    for (QQuickItem* item : items) {
+        if (!(*guide)->isAncestorOf(item)) continue;
+        if (item->inherits("QQuickText")) texts.push_back(item->property("text").toString().toStdString());
+        if (item->property("ink").isValid()) inks.push_back(item->property("ink").value<QColor>());
+    }
+    EXPECT_EQ(texts, parts);
+    EXPECT_EQ(inks, (std::vector<QColor>{{50, 199, 123}, {245, 166, 35}, {255, 107, 94}}));
 }
 
 TEST_F(ReclaimWindow, reviewsAndReportsCleanup) {
@@ -66,11 +109,19 @@ TEST_F(ReclaimWindow, reviewsAndReportsCleanup) {
     click("confirmCleanup");
     runUntil([&] { return screen().dryRun()->isDone(); });
     settle();
-    expectTexts({"Moved to the Trash", "Keep in Trash", "Empty Trash & free space"});
+    expectTexts({"Moved to the Trash",
+                 "Items were moved to the Trash, so they're recoverable — but your free space won't change until the "
+                 "Trash is emptied.",
+                 "Keep in Trash", "Empty Trash & free space"});
+    ASSERT_NE(symbol("checkmark.circle.fill"), nullptr);
+    EXPECT_EQ(symbol("checkmark.circle.fill")->property("color").value<QColor>(), QColor(50, 199, 123));
+    machine.tasks.hold();
     click("emptyTrash");
+    expectTexts({"Moved to the Trash", "Emptying…"});
+    machine.tasks.release();
     runUntil([&] { return screen().dryRun()->trashEmptied(); });
     settle();
-    expectTexts({"Space reclaimed", "Done"});
+    expectTexts({"Space reclaimed", "The Trash was emptied. Your free space is now updated.", "Done"});
 }
 
 }  // namespace zelk

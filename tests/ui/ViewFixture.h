@@ -170,6 +170,15 @@ protected:
         }
         return found;
     }
+    /// The colours of all visible symbols of this name.
+    std::vector<QColor> colorsOf(const char* name) {
+        std::vector<QColor> colors;
+        for (QQuickItem* item : seen())
+            if (auto* symbol = qobject_cast<SymbolItem*>(item);
+                symbol != nullptr && symbol->name() == QLatin1String(name))
+                colors.push_back(symbol->color());
+        return colors;
+    }
     /// The side of a symbol that matches a text of this size.
     static int sideBesideText(double points) { return static_cast<int>(std::lround(points * 1.2)); }
 

@@ -17,7 +17,8 @@ namespace {
 constexpr int allOfThem = 0;
 constexpr int noneOfThem = 2;
 
-// Days; more than the age of anything on a disk.
+// Days: the end of the slider, and more than the age of anything on a disk.
+constexpr int mostAgeDays = 180;
 constexpr double longAgo = 36'500;
 constexpr int cacheBytes = 1 << 20;
 
@@ -61,11 +62,11 @@ bool Tour::items() {
 /// Items filtered by age, and a filter that leaves none.
 bool Tour::youngItems(ItemList& list) {
     const int age = list.ageDays();
-    list.setAgeDays(list.mostAgeDays());
+    list.setAgeDays(mostAgeDays);
     bool taken = picture(QStringLiteral("reclaim-items-old"));
     list.setAgeDays(age);
     pretence_.goBack(longAgo);
-    list.setAgeDays(list.mostAgeDays());
+    list.setAgeDays(mostAgeDays);
     taken = taken && (list.allYoung() || missed("nothing that old")) && picture(QStringLiteral("reclaim-items-young"));
     pretence_.goBack(0);
     list.setAgeDays(age);

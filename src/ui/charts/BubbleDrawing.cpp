@@ -116,14 +116,16 @@ void drawBubbles(QPainter& painter, const std::vector<PackedCircle>& circles, co
     for (const std::size_t at : paintedBubbles(circles, slices, clip)) {
         const PackedCircle& circle = circles[at];
         const BubbleSlice& slice = *slices[at];
-        drawGlass(painter, middleOf(circle), circle.radius, slice.color, look.dark);
+        const ZelkTheme& theme = look.dark ? ZelkTheme::dark() : ZelkTheme::light();
+        const QColor color = slice.color.isValid() ? slice.color : theme.inkSoft;
+        drawGlass(painter, middleOf(circle), circle.radius, color, look.dark);
         drawEmphasis(painter, middleOf(circle), circle.radius, slice.selected, circle.id == hoveredID);
         const BubbleFace face = bubbleFace(circle, slice, look.textScale, widthOf);
         if (!face.icon.isNull()) painter.drawImage(face.icon, slice.icon);
-        const auto write = [&](const BubbleText& line, BubbleFont kind, const QColor& color) {
+        const auto write = [&](const BubbleText& line, BubbleFont kind, const QColor& ink) {
             if (line.text.isEmpty()) return;
             texts.shade(painter, line.middle, line.text, kind, line.size);
-            texts.write(painter, line.middle, line.text, kind, line.size, color);
+            texts.write(painter, line.middle, line.text, kind, line.size, ink);
         };
         write(face.label, BubbleFont::label, Qt::white);
         write(face.bytes, BubbleFont::size, withOpacity(Qt::white, 0.95));

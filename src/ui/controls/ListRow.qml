@@ -1,19 +1,38 @@
 // SPDX-License-Identifier: MIT
-// The base of a RowList delegate, as wide as the list. The list sets `ringed` while it has visible focus.
+// The base of a RowList delegate, as wide as the list. The list sets `ringed` while it has visible focus. A click emits
+// `pressed`.
 import QtQuick
 
 Item {
     id: row
 
+    // The accessible name.
+    property string spoken: ""
     property bool ringed: false
+    // Whether the pointer shows that a click does something.
+    property bool clickable: false
+    readonly property alias hovered: hover.hovered
+
+    signal pressed
 
     width: ListView.view?.width ?? 0
 
     // The list has the active focus; screen readers are told that the current row has it.
     Accessible.focusable: true
     Accessible.focused: row.ringed
+    Accessible.name: row.spoken
 
     // Screen readers would still find a pooled delegate.
     ListView.onPooled: row.visible = false
     ListView.onReused: row.visible = true
+
+    HoverHandler {
+        id: hover
+
+        cursorShape: row.clickable ? Qt.PointingHandCursor : Qt.ArrowCursor
+    }
+
+    TapHandler {
+        onTapped: row.pressed()
+    }
 }

@@ -6,7 +6,7 @@
 
 namespace zelk {
 
-FileTypeLook lookOf(FileType type, const ZelkTheme& theme) {
+FileTypeLook lookOf(FileType type) {
     static const std::array<FileTypeLook, allFileTypes.size()> looks{{
         {FileTypeLook::tr("Video"), {232, 91, 196}, "film"},
         {FileTypeLook::tr("Audio"), {167, 123, 255}, "music.note"},
@@ -16,9 +16,15 @@ FileTypeLook lookOf(FileType type, const ZelkTheme& theme) {
         {FileTypeLook::tr("Documents"), {50, 199, 123}, "doc.text"},
         {FileTypeLook::tr("Other"), {}, "doc"},
     }};
-    FileTypeLook look = looks[static_cast<std::size_t>(type)];
+    return looks[static_cast<std::size_t>(type)];
+}
+
+FileTypeLook lookOf(FileType type, const ZelkTheme& theme) {
+    FileTypeLook look = lookOf(type);
     if (!look.color.isValid()) look.color = withOpacity(theme.inkSoft, 0.5);
     return look;
 }
 
 }  // namespace zelk
+
+#include "moc_FileTypeLook.cpp"

@@ -6,6 +6,7 @@
 #include <QStyleHints>
 
 #include "state/AppModel.h"
+#include "ui/theme/FileTypeLook.h"
 
 namespace zelk {
 
@@ -60,6 +61,10 @@ void Theme::show(const ZelkTheme& theme) {
     if (&theme == current_) return;
     current_ = &theme;
     emit changed();
+}
+
+QColor Theme::otherFiles() const {
+    return lookOf(FileType::other, *current_).color;
 }
 
 QColor Theme::textOn(const QColor& color, const QColor& ground) const {

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include "ui/theme/DesktopSettings.h"
+#include "ui/theme/SafetyLook.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
@@ -35,8 +36,12 @@ class Theme : public QObject {
     Q_PROPERTY(QColor accentSoft READ accentSoft NOTIFY changed FINAL)
     Q_PROPERTY(QColor alert READ alert NOTIFY changed FINAL)
     Q_PROPERTY(QColor accentInk READ accentInk CONSTANT FINAL)
+    Q_PROPERTY(QColor gradeSafe READ gradeSafe CONSTANT FINAL)
+    Q_PROPERTY(QColor gradeRegenerates READ gradeRegenerates CONSTANT FINAL)
+    Q_PROPERTY(QColor gradeReview READ gradeReview CONSTANT FINAL)
     Q_PROPERTY(QColor accentText READ accentText NOTIFY changed FINAL)
     Q_PROPERTY(QColor alertText READ alertText NOTIFY changed FINAL)
+    Q_PROPERTY(QColor otherFiles READ otherFiles NOTIFY changed FINAL)
     Q_PROPERTY(QColor textGround READ textGround NOTIFY changed FINAL)
     Q_PROPERTY(QColor hoverWash READ hoverWash NOTIFY changed FINAL)
     Q_PROPERTY(QColor pressWash READ pressWash NOTIFY changed FINAL)
@@ -67,9 +72,15 @@ public:
     QColor accentSoft() const { return current_->accentSoft; }
     QColor alert() const { return current_->alert; }
     QColor accentInk() const { return AccentGradient::ink(); }
+    /// The colours of the safety grades.
+    QColor gradeSafe() const { return colorOf(ReclaimSafety::safe); }
+    QColor gradeRegenerates() const { return colorOf(ReclaimSafety::regenerates); }
+    QColor gradeReview() const { return colorOf(ReclaimSafety::review); }
     /// The accent and alert colours adjusted for text, readable on every background of the theme.
     QColor accentText() const { return textOn(current_->accent, textGround()); }
     QColor alertText() const { return textOn(current_->alert, textGround()); }
+    /// The colour of files of no known type, which have none of their own.
+    QColor otherFiles() const;
     /// The background with the least contrast to coloured text: the darkest of the light theme, the lightest of the
     /// dark one. Text that is readable on it is readable on all of them.
     QColor textGround() const { return current_->isDark ? current_->surfaceHi : current_->ground; }

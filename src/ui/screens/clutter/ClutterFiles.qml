@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
@@ -41,32 +42,25 @@ FocusScope {
 
         function openMenu(row: int, name: string, at: point) {
             files.clutter.pick(row);
-            menu.title = name;
-            menu.popup(list, at.x, at.y);
+            fileMenu.title = name;
+            fileMenu.popup(list, at.x, at.y);
         }
 
         // Asks the current row's delegate, which must be in view, to open the menu.
         signal menuOfCurrentWanted
 
-        function openMenuByKey() {
+        function openMenuByKey(again: bool) {
+            if (again)
+                return;
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
             list.byKey = true;
             list.menuOfCurrentWanted();
-            menu.currentIndex = 0;
+            fileMenu.currentIndex = 0;
         }
 
-        Keys.onReturnPressed: event => {
-            if (!event.isAutoRepeat)
-                list.openMenuByKey();
-        }
-        Keys.onEnterPressed: event => {
-            if (!event.isAutoRepeat)
-                list.openMenuByKey();
-        }
-        Keys.onMenuPressed: event => {
-            if (!event.isAutoRepeat)
-                list.openMenuByKey();
-        }
+        Keys.onReturnPressed: event => list.openMenuByKey(event.isAutoRepeat)
+        Keys.onEnterPressed: event => list.openMenuByKey(event.isAutoRepeat)
+        Keys.onMenuPressed: event => list.openMenuByKey(event.isAutoRepeat)
         // Ignores auto-repeat, which would delete one file after another as they move up.
         Keys.onPressed: event => {
             if (!files.clutter.isTrashKey(event.key, event.modifiers))
@@ -83,7 +77,7 @@ FocusScope {
             id: fileRow
 
             ringed: list.ringed && ListView.isCurrentItem
-            onTaken: list.take(index)
+            onPressed: list.take(index)
             onAsked: at => list.openMenu(index, actions, mapToItem(list, at))
 
             Connections {
@@ -110,17 +104,169 @@ FocusScope {
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier && list.activeFocus;
         if (event.accepted)
-            list.openMenuByKey();
+            list.openMenuByKey(false);
     }
 
-    FileMenu {
-        id: menu
+    MenuPanel {
+        id: fileMenu
 
-        clutter: files.clutter
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+
+        MenuRow {
+            objectName: "revealFile"
+            text: SystemTexts.of(SystemTexts.RevealFile)
+            symbol: "folder"
+            onTriggered: files.clutter.reveal()
+        }
+
+        MenuRow {
+            objectName: "trashFile"
+            text: qsTr("Move to Trash")
+            symbol: "trash"
+            alarming: true
+            onTriggered: files.clutter.moveToTrash()
+        }
     }
 
     PopupHome {
         home: list
-        popup: menu
+        popup: fileMenu
+    }
+
+    // A large file: name, folder, age and size, and the button of its context menu. A right click opens the menu at the
+    // pointer.
+    component ClutterRow: ListRow {
+        id: row
+
+        required property int index
+        required property string symbol
+        required property color tint
+        required property string name
+        required property string folder
+        required property string age
+        required property string size
+        required spoken
+        required property string actions
+
+        // Where the menu opens unless the pointer asked for it.
+        readonly property point menuPlace: Qt.point(more.x, more.y + more.height + 4)
+
+        signal asked(point at)
+
+        implicitHeight: Math.max(tile.height, texts.implicitHeight) + 2 * 10
+
+        Accessible.role: Accessible.ListItem
+
+        Rectangle {
+            id: ground
+
+            anchors.fill: parent
+            anchors.leftMargin: 16
+            anchors.rightMargin: 16
+            anchors.topMargin: 1
+            anchors.bottomMargin: 1
+            radius: 10
+            color: row.hovered ? Theme.hoverWash : "transparent"
+
+            FocusRing {
+                anchors.margins: 0
+                shown: row.ringed
+                corner: ground.radius
+            }
+        }
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: eventPoint => {
+                row.pressed();
+                row.asked(eventPoint.position);
+            }
+        }
+
+        Tile {
+            id: tile
+
+            anchors.left: parent.left
+            anchors.leftMargin: 26
+            anchors.verticalCenter: parent.verticalCenter
+            symbol: row.symbol
+            tint: row.tint.valid ? row.tint : Theme.otherFiles
+            side: 36
+            symbolSize: 17
+        }
+
+        Column {
+            id: texts
+
+            anchors.left: tile.right
+            anchors.leftMargin: 14
+            anchors.right: ageText.left
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 2
+
+            Label {
+                width: parent.width
+                text: row.name
+                size: 13
+                font.weight: Font.Medium
+                elide: Text.ElideMiddle
+                mute: true
+            }
+
+            Label {
+                width: parent.width
+                text: row.folder
+                size: 10
+                soft: true
+                elide: Text.ElideMiddle
+                mute: true
+            }
+        }
+
+        Label {
+            id: ageText
+
+            anchors.right: sizeText.left
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.round(90 * TextScale.factor)
+            horizontalAlignment: Text.AlignRight
+            text: row.age
+            size: 11
+            soft: true
+            mute: true
+        }
+
+        Label {
+            id: sizeText
+
+            anchors.right: more.left
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.round(86 * TextScale.factor)
+            horizontalAlignment: Text.AlignRight
+            text: row.size
+            size: 13
+            font.weight: Font.DemiBold
+            mute: true
+        }
+
+        IconButton {
+            id: more
+
+            objectName: "fileMenu" + row.index
+            anchors.right: parent.right
+            anchors.rightMargin: 22
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.actions
+            Accessible.description: qsTr("opens a menu")
+            symbol: "ellipsis.circle"
+            size: 16
+            focusPolicy: Qt.NoFocus
+            onClicked: {
+                row.pressed();
+                row.asked(row.menuPlace);
+            }
+        }
     }
 }

@@ -3,6 +3,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
@@ -57,15 +58,66 @@ Item {
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 label: qsTr("Order")
-                options: head.clutter.orders
+                options: [qsTr("Largest"), qsTr("Oldest")]
                 current: head.clutter.order
                 onPicked: index => head.clutter.sort(index)
             }
         }
 
-        TypePillRow {
+        // The type filter: "All" or one type. Tab focuses the chosen pill; the arrow keys choose its neighbours.
+        FocusScope {
+            id: choice
+
             width: parent.width
-            clutter: head.clutter
+            implicitHeight: flow.implicitHeight
+
+            Accessible.role: Accessible.Grouping
+            Accessible.name: qsTr("Type of files")
+
+            function choose(row: int) {
+                const next = pills.itemAt(row) as T.AbstractButton;
+                if (!next)
+                    return;
+                next.forceActiveFocus(Qt.TabFocusReason);
+                head.clutter.filter(row);
+            }
+
+            FlowRow {
+                id: flow
+
+                width: parent.width
+                spacing: 8
+
+                Repeater {
+                    id: pills
+
+                    model: head.clutter.pills
+
+                    PillChoice {
+                        id: pill
+
+                        required property int index
+                        required property fileTypeLook modelData
+
+                        // The pill in the focus chain: the first if the chosen one is gone.
+                        readonly property bool reached: pill.index === Math.max(0, head.clutter.pill)
+
+                        objectName: "typePill" + pill.index
+                        text: pill.modelData.name
+                        symbol: pill.modelData.symbol
+                        tint: pill.modelData.color.valid ? pill.modelData.color : Theme.otherFiles
+                        chosen: pill.index === head.clutter.pill
+                        focus: pill.reached
+                        activeFocusOnTab: pill.reached
+                        onClicked: head.clutter.filter(pill.index)
+
+                        Keys.onLeftPressed: choice.choose(pill.index - 1)
+                        Keys.onUpPressed: choice.choose(pill.index - 1)
+                        Keys.onRightPressed: choice.choose(pill.index + 1)
+                        Keys.onDownPressed: choice.choose(pill.index + 1)
+                    }
+                }
+            }
         }
     }
 }

@@ -5,49 +5,43 @@
 #include <utility>
 
 #include "state/AppModel.h"
+#include "ui/theme/ScreenLook.h"
 #include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
-namespace {
-
-ModuleTexts texts() {
-    ModuleTexts texts;
-    texts.title = ClutterScreenModel::tr("Clutter");
-    texts.subtitle = ClutterScreenModel::tr(
-        "Find your largest and oldest files — videos, downloads, disk images, forgotten archives.");
-    texts.scanLabel = ClutterScreenModel::tr("Find large files");
-    texts.scanningLabel = ClutterScreenModel::tr("Hunting for heavy files…");
-    return texts;
-}
-
-}  // namespace
-
 ClutterScreenModel::ClutterScreenModel(AppModel& app)
-    : SurveyedModule(app, Screen::clutter, texts()), app_(app), undoBar_(app, RemovalUndo::Source::largeFile) {
+    : SurveyedModule(
+          app, Screen::clutter,
+          {.title = tr("Clutter"),
+           .subtitle = tr("Find your largest and oldest files — videos, downloads, disk images, forgotten archives."),
+           .scanLabel = tr("Find large files"),
+           .scanningLabel = tr("Hunting for heavy files…"),
+           .note = {}}),
+      app_(app),
+      undoBar_(app, RemovalUndo::Source::largeFile) {
     connect(&app, &AppModel::insightsChanged, this, &ClutterScreenModel::refresh);
     connect(this, &ModuleScreenModel::phaseChanged, this, &ClutterScreenModel::refresh);
     refresh();
-}
-
-void ClutterScreenModel::setDark(bool dark) {
-    if (dark == dark_) return;
-    dark_ = dark;
-    const ZelkTheme& theme = dark ? ZelkTheme::dark() : ZelkTheme::light();
-    pills_.setTheme(theme);
-    rows_.setTheme(theme);
-    emit darkChanged();
 }
 
 void ClutterScreenModel::setOnScreen(bool onScreen) {
     if (onScreen == onScreen_) return;
     onScreen_ = onScreen;
     if (onScreen) refresh();
-    emit onScreenChanged();
 }
 
-QStringList ClutterScreenModel::orders() const {
-    return {tr("Largest"), tr("Oldest")};
+QList<FileTypeLook> ClutterScreenModel::pills() const {
+    const ScreenLook& all = lookOf(Screen::clutter);
+    QList<FileTypeLook> pills{{tr("All"), all.color, all.symbol}};
+    for (const FileType type : types_) pills.append(lookOf(type));
+    return pills;
+}
+
+int ClutterScreenModel::pill() const {
+    if (!typeFilter_) return 0;
+    const auto found = std::find(types_.begin(), types_.end(), *typeFilter_);
+    return found == types_.end() ? -1 : static_cast<int>(found - types_.begin()) + 1;
 }
 
 void ClutterScreenModel::sort(int order) {
@@ -60,11 +54,11 @@ void ClutterScreenModel::sort(int order) {
 }
 
 void ClutterScreenModel::filter(int pill) {
-    if (pill < 0 || pill >= pills_.rowCount()) return;
-    const TypePills::Filter filter = pills_.filterAt(pill);
-    if (filter == typeFilter()) return;
-    pills_.choose(filter);
+    if (pill < 0 || pill > static_cast<int>(types_.size()) || pill == this->pill()) return;
+    typeFilter_.reset();
+    if (pill > 0) typeFilter_ = types_[static_cast<std::size_t>(pill - 1)];
     refresh();
+    emit pillChanged();
     emit rearranged();
 }
 
@@ -92,15 +86,17 @@ void ClutterScreenModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
     std::vector<FileType> types;
     for (const auto& [type, tally] : app_.sortedTypeTotals()) types.push_back(type);
-    pills_.show(types);
+    if (std::exchange(types_, types) != types) {
+        emit pillsChanged();
+        emit pillChanged();
+    }
     rows_.show(shownFiles(), app_.platform().clock.now());
     if (std::exchange(nothing_, app_.insights().topFiles.empty()) != nothing_) emit nothingChanged();
 }
 
 std::vector<LargeFile> ClutterScreenModel::shownFiles() const {
     std::vector<LargeFile> files = app_.insights().topFiles;
-    if (const TypePills::Filter& type = typeFilter())
-        std::erase_if(files, [&](const LargeFile& file) { return file.type != *type; });
+    if (typeFilter_) std::erase_if(files, [this](const LargeFile& file) { return file.type != *typeFilter_; });
     if (sortByAge_)
         std::stable_sort(files.begin(), files.end(),
                          [](const LargeFile& a, const LargeFile& b) { return a.modified < b.modified; });

@@ -2,13 +2,16 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QStringList>
+#include <QList>
+#include <optional>
 #include <string>
+#include <vector>
 
+#include "scan/FileType.h"
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/clutter/LargeFileRows.h"
-#include "ui/screens/clutter/TypePills.h"
 #include "ui/screens/module/SurveyedModule.h"
+#include "ui/theme/FileTypeLook.h"
 
 namespace zelk {
 
@@ -18,12 +21,11 @@ class ClutterScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
-    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
-    Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen NOTIFY onScreenChanged FINAL)
+    Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen FINAL)
     Q_PROPERTY(bool nothing READ nothing NOTIFY nothingChanged FINAL)
-    Q_PROPERTY(QStringList orders READ orders CONSTANT FINAL)
     Q_PROPERTY(int order READ order NOTIFY orderChanged FINAL)
-    Q_PROPERTY(zelk::TypePills* pills READ pills CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::FileTypeLook> pills READ pills NOTIFY pillsChanged FINAL)
+    Q_PROPERTY(int pill READ pill NOTIFY pillChanged FINAL)
     Q_PROPERTY(zelk::LargeFileRows* rows READ rows CONSTANT FINAL)
     Q_PROPERTY(zelk::UndoBarModel* undoBar READ undoBar CONSTANT FINAL)
 
@@ -31,27 +33,28 @@ public:
     /// `app` must outlive it.
     explicit ClutterScreenModel(AppModel& app);
 
-    bool dark() const { return dark_; }
-    void setDark(bool dark);
     /// Whether the screen is visible. Ages are computed when it becomes so.
     bool onScreen() const { return onScreen_; }
     void setOnScreen(bool onScreen);
 
     /// Whether the survey found no large file at all, regardless of the filter.
     bool nothing() const { return nothing_; }
-    QStringList orders() const;
+    /// 0: the largest first, 1: the oldest.
     int order() const { return sortByAge_ ? 1 : 0; }
-    TypePills* pills() { return &pills_; }
+    /// The filters: "All", then the types of the survey, largest first.
+    QList<FileTypeLook> pills() const;
+    /// The index of the chosen filter, or -1 if no file of its type is left.
+    int pill() const;
     LargeFileRows* rows() { return &rows_; }
     UndoBarModel* undoBar() { return &undoBar_; }
 
-    const TypePills::Filter& typeFilter() const { return pills_.chosen(); }
+    /// None: all files.
+    const std::optional<FileType>& typeFilter() const { return typeFilter_; }
     bool sortByAge() const { return sortByAge_; }
 
 public slots:
-    /// Sorts by this index of `orders`.
     void sort(int order);
-    /// Filters by the pill in this row.
+    /// Filters by the pill of this index.
     void filter(int pill);
     /// Makes the file in this row the target of the actions, even if rows change afterwards.
     void pick(int row);
@@ -62,10 +65,10 @@ public slots:
     bool isTrashKey(int key, int modifiers) const;
 
 signals:
-    void darkChanged();
-    void onScreenChanged();
     void nothingChanged();
     void orderChanged();
+    void pillsChanged();
+    void pillChanged();
     /// The order or the filter changed, so the scroll position and current row are void.
     void rearranged();
 
@@ -74,12 +77,12 @@ private:
     std::vector<LargeFile> shownFiles() const;
 
     AppModel& app_;
-    TypePills pills_;
     LargeFileRows rows_;
     UndoBarModel undoBar_;
+    std::vector<FileType> types_;
+    std::optional<FileType> typeFilter_;
     bool sortByAge_ = false;
     bool nothing_ = true;
-    bool dark_ = true;
     bool onScreen_ = false;
     std::string picked_;  ///< a path in bytes; empty if none
 };

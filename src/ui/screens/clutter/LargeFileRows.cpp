@@ -5,22 +5,32 @@
 #include <utility>
 
 #include "ui/controls/AccessibleText.h"
-#include "ui/screens/clutter/AgeText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/FileTypeLook.h"
 
 namespace zelk {
+
+namespace {
+
+/// The time since `modified` in whole days, months of 30 days or years of 365 days. Future times are "today".
+QString ageText(TimePoint modified, TimePoint now) {
+    constexpr qint64 daysPerMonth = 30;
+    constexpr qint64 daysPerYear = 365;
+    const double exact = (now - modified) / secondsPerDay;
+    if (!(exact >= 1)) return LargeFileRows::tr("today");
+    const auto days = static_cast<qint64>(exact);
+    if (days < daysPerMonth) return LargeFileRows::tr("%1d ago").arg(days);
+    if (days < daysPerYear) return LargeFileRows::tr("%1mo ago").arg(days / daysPerMonth);
+    return LargeFileRows::tr("%1y ago").arg(days / daysPerYear);
+}
+
+}  // namespace
 
 void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
     edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
     // Rows that stay may have new sizes, and all have new ages.
     now_ = now;
     allRowsChanged({ageRole, sizeRole, bytesRole, spokenRole});
-}
-
-void LargeFileRows::setTheme(const ZelkTheme& theme) {
-    theme_ = &theme;
-    allRowsChanged({tintRole});
 }
 
 std::string LargeFileRows::pathAt(int row) const {
@@ -31,10 +41,9 @@ QVariant LargeFileRows::value(std::size_t row, int role) const {
     const LargeFile& file = files_[row];
     switch (role) {
         case symbolRole:
-            return lookOf(file.type, *theme_).symbol;
+            return lookOf(file.type).symbol;
         case tintRole:
-            return lookOf(file.type, *theme_).color;
-        case Qt::DisplayRole:
+            return lookOf(file.type).color;
         case nameRole:
             return nameText(file.path);
         case pathRole:

@@ -7,7 +7,6 @@
 
 #include "scan/ScanInsights.h"
 #include "ui/controls/RowModel.h"
-#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
@@ -20,7 +19,7 @@ class LargeFileRows : public zelk::RowModel {
 public:
     enum Role {
         symbolRole = Qt::UserRole,
-        tintRole,
+        tintRole,  ///< invalid for a file of no known type
         nameRole,
         pathRole,
         folderRole,
@@ -31,12 +30,11 @@ public:
         actionsRole
     };
 
-    explicit LargeFileRows(QObject* parent = nullptr)
-        : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "bytes", "spoken", "actions"}, parent) {}
+    LargeFileRows()
+        : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "bytes", "spoken", "actions"}) {}
 
     /// Shows `files` in this order, with ages as of `now`. Delegates of rows that stay are kept.
     void show(std::vector<LargeFile> files, TimePoint now);
-    void setTheme(const ZelkTheme& theme);
 
     /// The path of the file in this row, in bytes; empty for invalid rows.
     std::string pathAt(int row) const;
@@ -47,7 +45,6 @@ private:
 
     std::vector<LargeFile> files_;
     TimePoint now_ = 0;
-    const ZelkTheme* theme_ = &ZelkTheme::dark();
 };
 
 }  // namespace zelk

@@ -2,13 +2,13 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QColor>
 #include <QObject>
 #include <QString>
 #include <string>
 
 #include "reclaim/PathExplanation.h"
-#include "ui/theme/ZelkTheme.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/SafetyLook.h"
 
 namespace zelk {
 
@@ -22,26 +22,28 @@ class ExplanationModel : public QObject {
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
     Q_PROPERTY(QString path READ path NOTIFY changed FINAL)
     Q_PROPERTY(QString badge READ badge NOTIFY changed FINAL)
-    Q_PROPERTY(QColor tint READ tint NOTIFY changed FINAL)
+    Q_PROPERTY(Grade grade READ grade NOTIFY changed FINAL)
     Q_PROPERTY(bool regenerates READ regenerates NOTIFY changed FINAL)
     Q_PROPERTY(QString detail READ detail NOTIFY changed FINAL)
 
 public:
+    /// ReclaimSafety, in its order.
+    enum Grade { Safe, Regenerates, Review };
+    Q_ENUM(Grade)
+
     /// `home` is the user's home folder, whose parts have explanations.
     explicit ExplanationModel(std::string home);
 
     /// Opens the sheet for a path, in bytes.
     void open(const std::string& path);
-    void setTheme(const ZelkTheme& theme);
 
     bool shown() const { return shown_; }
-    QString title() const;
-    QString path() const;
-    QString badge() const;
-    /// The colour of the badge: fixed for one grade, else from the theme.
-    QColor tint() const;
+    QString title() const { return displayText(explanation_.title); }
+    QString path() const { return displayText(path_); }
+    QString badge() const { return wordOf(explanation_.safety); }
+    Grade grade() const { return static_cast<Grade>(explanation_.safety); }
     bool regenerates() const { return explanation_.regenerates; }
-    QString detail() const;
+    QString detail() const { return displayText(explanation_.detail); }
 
 public slots:
     void close();
@@ -54,7 +56,6 @@ private:
     std::string path_;
     PathExplanation explanation_;
     bool shown_ = false;
-    const ZelkTheme* theme_ = &ZelkTheme::dark();
 };
 
 }  // namespace zelk

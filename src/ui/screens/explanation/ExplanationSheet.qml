@@ -11,103 +11,96 @@ Sheet {
 
     required property ExplanationModel explanation
 
+    readonly property color tint: {
+        if (sheet.explanation.grade === ExplanationModel.Review)
+            return Theme.alert;
+        return sheet.explanation.grade === ExplanationModel.Regenerates ? Theme.accent : Theme.gradeSafe;
+    }
+
     title: sheet.explanation.title
     primary: done
     sheetWidth: Math.round(440 * TextScale.factor)
     visible: sheet.explanation.shown
     onDismissed: sheet.explanation.close()
 
-    Item {
-        implicitHeight: note.implicitHeight
+    Column {
+        spacing: 10
 
-        Column {
-            id: note
-
+        Item {
             width: parent.width
-            spacing: 10
+            implicitHeight: Math.max(symbolItem.height, headline.implicitHeight)
 
-            Item {
-                width: parent.width
-                implicitHeight: Math.max(symbolItem.height, headline.implicitHeight)
+            SymbolItem {
+                id: symbolItem
 
-                SymbolItem {
-                    id: symbolItem
-
-                    anchors.verticalCenter: parent.verticalCenter
-                    name: "questionmark.circle.fill"
-                    color: sheet.explanation.tint
-                    size: Math.round(22 * TextScale.factor)
-                }
-
-                Label {
-                    id: headline
-
-                    objectName: "explanationTitle"
-                    anchors.left: symbolItem.right
-                    anchors.leftMargin: 10
-                    anchors.right: parent.right
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: sheet.explanation.title
-                    size: 17
-                    font.weight: Font.DemiBold
-                    wrapMode: Text.Wrap
-                    Accessible.role: Accessible.Heading
-                }
+                anchors.verticalCenter: parent.verticalCenter
+                name: "questionmark.circle.fill"
+                color: sheet.tint
+                size: Math.round(22 * TextScale.factor)
             }
 
             Label {
-                objectName: "explanationPath"
-                width: parent.width
-                text: sheet.explanation.path
-                size: 10
-                soft: true
-                maximumLineCount: 1
-                elide: Text.ElideMiddle
-            }
+                id: headline
 
-            Row {
-                spacing: 8
-
-                Tag {
-                    objectName: "explanationBadge"
-                    text: sheet.explanation.badge
-                    ink: sheet.explanation.tint
-                }
-
-                Tag {
-                    objectName: "explanationRegenerates"
-                    text: qsTr("regenerates")
-                    ink: Theme.inkSoft
-                    visible: sheet.explanation.regenerates
-                }
-            }
-
-            Label {
-                objectName: "explanationDetail"
-                width: parent.width
-                text: sheet.explanation.detail
-                size: 13
+                objectName: "explanationTitle"
+                anchors.left: symbolItem.right
+                anchors.leftMargin: 10
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                text: sheet.explanation.title
+                size: 17
+                font.weight: Font.DemiBold
                 wrapMode: Text.Wrap
-                lineHeight: 1.25
+                Accessible.role: Accessible.Heading
+            }
+        }
+
+        Label {
+            objectName: "explanationPath"
+            width: parent.width
+            text: sheet.explanation.path
+            size: 10
+            soft: true
+            maximumLineCount: 1
+            elide: Text.ElideMiddle
+        }
+
+        Row {
+            spacing: 8
+
+            Tag {
+                objectName: "explanationBadge"
+                text: sheet.explanation.badge
+                ink: sheet.tint
             }
 
-            Item {
-                width: parent.width
-                implicitHeight: done.implicitHeight
-
-                PrimaryButton {
-                    id: done
-
-                    objectName: "explanationDone"
-                    anchors.right: parent.right
-                    anchors.bottom: parent.bottom
-                    horizontalPadding: 20
-                    verticalPadding: 9
-                    focus: true
-                    text: qsTr("Done")
-                    onClicked: sheet.explanation.close()
-                }
+            Tag {
+                objectName: "explanationRegenerates"
+                text: qsTr("regenerates")
+                ink: Theme.inkSoft
+                visible: sheet.explanation.regenerates
             }
+        }
+
+        Label {
+            objectName: "explanationDetail"
+            width: parent.width
+            text: sheet.explanation.detail
+            size: 13
+            wrapMode: Text.Wrap
+            lineHeight: 1.25
+        }
+
+        PrimaryButton {
+            id: done
+
+            objectName: "explanationDone"
+            anchors.right: parent.right
+            horizontalPadding: 20
+            verticalPadding: 9
+            focus: true
+            text: qsTr("Done")
+            onClicked: sheet.explanation.close()
         }
     }
 }

@@ -15,17 +15,6 @@ FocusScope {
 
     readonly property real listWidth: Math.max(340, Math.min(Math.round(340 * TextScale.factor), Math.round(0.56 * width)))
 
-    // Moves the focus off a button that is about to be disabled.
-    function keepKeyboard(byKey: bool) {
-        list.receive(byKey);
-    }
-
-    Binding {
-        target: panes.lens
-        property: "dark"
-        value: Theme.isDark
-    }
-
     EmptyState {
         anchors.fill: parent
         visible: !panes.lens.mapped
@@ -38,13 +27,90 @@ FocusScope {
         focus: true
         visible: panes.lens.mapped
 
-        LensBar {
+        // The current folder's name, and the buttons Start Over and Back.
+        Item {
             id: bar
 
             anchors.left: parent.left
             anchors.right: parent.right
-            lens: panes.lens
-            onStepped: byKey => panes.keepKeyboard(byKey)
+            implicitHeight: Math.max(52, startOver.implicitHeight + 16, nameText.implicitHeight + 16)
+
+            LinkButton {
+                id: startOver
+
+                objectName: "lensStartOver"
+                anchors.left: parent.left
+                anchors.leftMargin: 24
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Start Over")
+                size: 13
+                symbol: "arrow.counterclockwise"
+                textColor: hovered ? Theme.ink : Theme.inkSoft
+                onClicked: panes.lens.startOver()
+            }
+
+            Divider {
+                id: barDivider
+
+                anchors.left: startOver.right
+                anchors.leftMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                height: 20
+                vertical: true
+            }
+
+            IconButton {
+                id: back
+
+                objectName: "lensBack"
+                anchors.left: barDivider.right
+                anchors.leftMargin: 8
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: "chevron.left"
+                tint: Theme.ink
+                text: qsTr("Back")
+                help: qsTr("Back")
+                enabled: panes.lens.canGoBack
+                onClicked: {
+                    const byKey = back.visualFocus;
+                    panes.lens.back();
+                    // At the top the button is disabled.
+                    if (!panes.lens.canGoBack)
+                        list.receive(byKey);
+                }
+            }
+
+            SymbolItem {
+                id: drive
+
+                anchors.left: back.right
+                anchors.leftMargin: 8
+                anchors.verticalCenter: parent.verticalCenter
+                name: "internaldrive.fill"
+                color: Theme.inkSoft
+                size: Math.round(12 * TextScale.factor)
+            }
+
+            Label {
+                id: nameText
+
+                objectName: "lensPlace"
+                anchors.left: drive.right
+                anchors.leftMargin: 8
+                anchors.right: parent.right
+                anchors.rightMargin: 26
+                anchors.verticalCenter: parent.verticalCenter
+                text: panes.lens.place
+                size: 13
+                font.weight: Font.Medium
+                elide: Text.ElideMiddle
+            }
+
+            Divider {
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+            }
         }
 
         Item {
@@ -135,14 +201,82 @@ FocusScope {
             }
         }
 
-        LensFoot {
+        // The drive's usage, the selected size, and the remove button.
+        Rectangle {
             id: foot
 
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            lens: panes.lens
-            onRemoving: byKey => panes.keepKeyboard(byKey)
+            implicitHeight: Math.max(volume.implicitHeight, caption.implicitHeight, remove.implicitHeight) + 2 * 16
+            color: Theme.groundHi
+
+            Divider {
+                anchors.left: parent.left
+                anchors.right: parent.right
+            }
+
+            Column {
+                id: volume
+
+                anchors.left: parent.left
+                anchors.leftMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 4
+                visible: panes.lens.volumed
+
+                Label {
+                    objectName: "lensVolume"
+                    text: panes.lens.volumeLine
+                    size: 11
+                    soft: true
+                }
+
+                Rectangle {
+                    width: 220
+                    height: 6
+                    radius: 3
+                    color: Theme.hairline
+
+                    AccentFill {
+                        objectName: "lensVolumeBar"
+                        width: parent.width * panes.lens.usedShare
+                        height: parent.height
+                        corner: 3
+                    }
+                }
+            }
+
+            Label {
+                id: caption
+
+                objectName: "lensCaption"
+                anchors.left: volume.visible ? volume.right : parent.left
+                anchors.leftMargin: 16
+                anchors.right: remove.left
+                anchors.rightMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                text: panes.lens.caption
+                size: 12
+                soft: true
+                horizontalAlignment: Text.AlignRight
+                wrapMode: Text.Wrap
+            }
+
+            RemoveButton {
+                id: remove
+
+                objectName: "lensRemove"
+                anchors.right: parent.right
+                anchors.rightMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Review and Remove")
+                enabled: panes.lens.removable
+                onClicked: {
+                    list.receive(remove.visualFocus);
+                    panes.lens.removeSelected();
+                }
+            }
         }
     }
 

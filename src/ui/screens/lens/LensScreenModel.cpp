@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// The texts are in LensTexts.cpp.
 #include "ui/screens/lens/LensScreenModel.h"
 
 #include <QPointer>
@@ -7,7 +6,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
-#include "ui/screens/lens/LensSlices.h"
+#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 
@@ -19,24 +18,30 @@ constexpr int bubbleDuration = 200;  // milliseconds
 
 // In pixels: twice the size in points, for high-DPI screens.
 constexpr int rowIconSide = 44;
+constexpr int placeIconSide = 68;
 constexpr int bubbleIconSide = 128;
 
-ModuleTexts texts() {
-    ModuleTexts texts;
-    texts.title = LensScreenModel::tr("Lens");
-    texts.subtitle = LensScreenModel::tr("Explore where your space went — a list and a live bubble map, side by side.");
-    texts.scanLabel = LensScreenModel::tr("Run survey");
-    texts.scanningLabel = LensScreenModel::tr("Surveying your drive…");
-    return texts;
+/// The id of the bubble for all folders beyond the top ones. Not a possible path.
+constexpr const char* foldedSlice = "__other__";
+
+const QColor bubbleColor(124, 92, 255);
+
+std::int64_t usedOf(const VolumeInfo& volume) {
+    return std::max<std::int64_t>(volume.total - volume.available, 0);
 }
 
 }  // namespace
 
 LensScreenModel::LensScreenModel(AppModel& app)
-    : SurveyedModule(app, Screen::lens, texts()),
+    : SurveyedModule(app, Screen::lens,
+                     {.title = tr("Lens"),
+                      .subtitle = tr("Explore where your space went — a list and a live bubble map, side by side."),
+                      .scanLabel = tr("Run survey"),
+                      .scanningLabel = tr("Surveying your drive…"),
+                      .note = {}}),
       app_(app),
       icons_(app.workspace()),
-      rows_(walk_, [this](const std::string& path) { return icon(path, rowIconSide); }),
+      rows_(walk_, [this](const std::string& path) { return icons_.image(path, rowIconSide); }),
       bubbles_({[this](const BubbleSlice& slice) {
                     const NodeRef node = bubbled(slice.id);
                     if (!node) return;
@@ -69,13 +74,55 @@ LensScreenModel::~LensScreenModel() {
     leaveTrees();
 }
 
-void LensScreenModel::setDark(bool dark) {
-    if (std::exchange(dark_, dark) == dark) return;
-    const ZelkTheme& theme = dark ? ZelkTheme::dark() : ZelkTheme::light();
-    icons_.setTheme(theme);
-    explanation_.setTheme(theme);
-    showSlices();
-    emit darkChanged();
+QString LensScreenModel::place() const {
+    const NodeRef node = walk_.currentNode();
+    return node ? displayText(lastComponent(node->fullPath())) : QStringLiteral("—");
+}
+
+/// "1 folders" is as intended: the word labels a count rather than agreeing with it.
+QString LensScreenModel::placeLine() const {
+    const NodeRef node = walk_.currentNode();
+    if (!node) return {};
+    return tr("%1 · %2 folders").arg(byteFigure(node->size)).arg(node->children.size());
+}
+
+QVariant LensScreenModel::placeIcon() const {
+    const NodeRef node = walk_.currentNode();
+    return node ? icons_.image(node->fullPath(), placeIconSide) : QImage();
+}
+
+QString LensScreenModel::selectTitle() const {
+    return removable() ? QString::number(walk_.selected().size()) : tr("None");
+}
+
+/// The synthetic top of several scan roots has no name.
+QString LensScreenModel::listName() const {
+    const QString name = place();
+    return name.isEmpty() ? tr("Surveyed folders") : tr("Folders in %1").arg(name);
+}
+
+QString LensScreenModel::mapName() const {
+    const QString name = place();
+    return name.isEmpty() ? tr("Map of the surveyed folders") : tr("Map of %1").arg(name);
+}
+
+bool LensScreenModel::volumed() const {
+    return app_.volume().has_value();
+}
+
+QString LensScreenModel::volumeLine() const {
+    if (!volumed()) return {};
+    return tr("%1 of %2 used").arg(byteFigure(usedOf(*app_.volume())), byteFigure(app_.volume()->total));
+}
+
+double LensScreenModel::usedShare() const {
+    if (!volumed() || app_.volume()->total < 1) return 0;
+    return static_cast<double>(usedOf(*app_.volume())) / static_cast<double>(app_.volume()->total);
+}
+
+QString LensScreenModel::caption() const {
+    if (!removable()) return tr("No items selected");
+    return tr("%1 selected · %2").arg(walk_.selected().size()).arg(byteFigure(walk_.selectedBytes()));
 }
 
 void LensScreenModel::followTree() {
@@ -106,14 +153,30 @@ void LensScreenModel::leaveTrees() {
     for (NodeRef& tree : walk_.takeLeftTrees()) app_.releaseElsewhere(std::move(tree));
 }
 
+/// A slice for each of the top rows, with its path as id, and one for the rest, if any.
 void LensScreenModel::showSlices() {
-    const ZelkTheme& theme = dark_ ? ZelkTheme::dark() : ZelkTheme::light();
-    bubbles_.setSlices(
-        slicesOf(rows_, walk_, theme.inkSoft, [this](const std::string& path) { return icon(path, bubbleIconSide); }));
-}
-
-QImage LensScreenModel::icon(const std::string& path, int side) const {
-    return icons_.image(path, true, side);
+    const int alone = std::min(rows_.rowCount(), static_cast<int>(LensWalk::topCount));
+    std::vector<BubbleSlice> slices;
+    for (int row = 0; row < alone; ++row) {
+        const FSNode& node = *rows_.node(row);
+        BubbleSlice slice;
+        slice.id = node.fullPath();
+        slice.label = displayText(node.name());
+        slice.bytes = node.size;
+        slice.color = bubbleColor;
+        slice.reclaimable = node.reclaimCategory != nullptr;
+        slice.icon = icons_.image(slice.id, bubbleIconSide);
+        slice.selected = walk_.isSelected(slice.id);
+        slices.push_back(std::move(slice));
+    }
+    if (alone < rows_.rowCount()) {
+        BubbleSlice rest;
+        rest.id = foldedSlice;
+        rest.label = tr("Other (%1)").arg(rows_.rowCount() - alone);
+        for (int row = alone; row < rows_.rowCount(); ++row) rest.bytes += rows_.node(row)->size;
+        slices.push_back(std::move(rest));
+    }
+    bubbles_.setSlices(std::move(slices));
 }
 
 /// The node of a bubble; null for the bubble of the rest.

@@ -12,7 +12,7 @@
 #include "ui/charts/BubbleModel.h"
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/explanation/ExplanationModel.h"
-#include "ui/screens/lens/FileIcons.h"
+#include "ui/screens/lens/FolderIcons.h"
 #include "ui/screens/lens/LensRows.h"
 #include "ui/screens/lens/LensWalk.h"
 #include "ui/screens/module/SurveyedModule.h"
@@ -27,7 +27,6 @@ class LensScreenModel : public zelk::SurveyedModule {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the main window")
-    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
     Q_PROPERTY(bool mapped READ mapped NOTIFY placeChanged FINAL)
     Q_PROPERTY(bool bare READ bare NOTIFY placeChanged FINAL)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY placeChanged FINAL)
@@ -51,9 +50,6 @@ public:
     /// `app` must outlive it.
     explicit LensScreenModel(AppModel& app);
     ~LensScreenModel() override;
-
-    bool dark() const { return dark_; }
-    void setDark(bool dark);
 
     bool mapped() const { return static_cast<bool>(walk_.currentNode()); }
     /// Whether the current folder has no subfolders to show.
@@ -94,7 +90,6 @@ public slots:
     void removeSelected();
 
 signals:
-    void darkChanged();
     void placeChanged();
     void selectionChanged();
     void volumeChanged();
@@ -112,11 +107,10 @@ private:
     void endRemoval(const std::vector<NodeRef>& gone);
     NodeRef bubbled(const std::string& path) const;
     void showSlices();
-    QImage icon(const std::string& path, int side) const;
     void leaveTrees();
 
     AppModel& app_;
-    mutable FileIcons icons_;
+    mutable FolderIcons icons_;
     LensWalk walk_;
     LensRows rows_;
     BubbleModel bubbles_;
@@ -125,7 +119,6 @@ private:
     NodeRef shown_;
     QTimer following_;
     int version_ = 0;
-    bool dark_ = true;
 };
 
 }  // namespace zelk

@@ -10,6 +10,17 @@ ModuleScaffold {
 
     module: view.lens
     content: Component {
-        LensResults {}
+        Loader {
+            id: panes
+
+            // Set by ModuleScaffold; the panes need it from the start.
+            property LensScreenModel module: null
+
+            focus: true
+            onModuleChanged: panes.setSource("LensPanes.qml", {
+                "lens": panes.module,
+                "focus": true
+            })
+        }
     }
 }

@@ -3,6 +3,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QImage>
+#include <QPainter>
 #include <QQuickPaintedItem>
 #include <QVariant>
 
@@ -12,22 +13,24 @@ namespace zelk {
 class Picture : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QVariant image READ image WRITE setImage NOTIFY imageChanged FINAL REQUIRED)
+    // A QImage, as a QVariant because QML has no such type; other values count as null.
+    Q_PROPERTY(QVariant image MEMBER image_ NOTIFY changed FINAL REQUIRED)
 
 public:
-    explicit Picture(QQuickItem* parent = nullptr);
+    Picture() {
+        connect(this, &Picture::changed, this, [this] { update(); });
+    }
 
-    /// A QImage, as a QVariant because QML has no such type; other values count as null.
-    QVariant image() const { return image_; }
-    void setImage(const QVariant& image);
-
-    void paint(QPainter* painter) override;
+    void paint(QPainter* painter) override {
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
+        painter->drawImage(QRectF(QPointF(), size()), image_.value<QImage>());
+    }
 
 signals:
-    void imageChanged();
+    void changed();
 
 private:
-    QImage image_;
+    QVariant image_;
 };
 
 }  // namespace zelk

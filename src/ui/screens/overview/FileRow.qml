@@ -42,7 +42,7 @@ T.Control {
 
             anchors.verticalCenter: parent.verticalCenter
             name: row.symbol
-            color: row.tint
+            color: row.tint.valid ? row.tint : Theme.otherFiles
             size: 16
         }
 

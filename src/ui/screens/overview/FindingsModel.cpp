@@ -42,7 +42,6 @@ FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), 
 
 void FindingsModel::setTheme(const ZelkTheme& theme) {
     theme_ = &theme;
-    largest_.setTheme(theme);
     refresh();
 }
 

@@ -9,6 +9,7 @@
 #include "ui/charts/RibbonPicture.h"
 #include "ui/screens/clutter/LargeFileRows.h"
 #include "ui/screens/overview/FindingCards.h"
+#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 

@@ -21,8 +21,8 @@ QString countText(std::int64_t items) {
 
 }  // namespace
 
-CategoryList::CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review, QObject* parent)
-    : RowModel({"identity", "name", "note", "tint", "bytes", "itemCount", "chosen", "spoken"}, parent),
+CategoryList::CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review)
+    : RowModel({"identity", "name", "note", "tint", "bytes", "itemCount", "chosen", "spoken"}),
       app_(app),
       review_(std::move(review)),
       bubbles_({[this](const BubbleSlice& slice) {
@@ -50,7 +50,6 @@ QVariant CategoryList::value(std::size_t at, int role) const {
     switch (role) {
         case idRole:
             return text(row.category->id);
-        case Qt::DisplayRole:
         case nameRole:
             return text(row.category->displayName);
         case noteRole:
@@ -135,7 +134,6 @@ void CategoryList::showFooter() {
     footer_ = chosen_.empty()
                   ? tr("No categories selected")
                   : countText(static_cast<std::int64_t>(chosenItems_)) + QStringLiteral(" · ") + byteFigure(bytes);
-    emit footerChanged();
 }
 
 void CategoryList::showBubbles() {

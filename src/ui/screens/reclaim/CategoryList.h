@@ -23,15 +23,15 @@ class CategoryList : public zelk::RowModel {
     QML_ELEMENT
     QML_UNCREATABLE("Part of ReclaimScreenModel")
     Q_PROPERTY(QString menuLabel READ menuLabel NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(QString footer READ footer NOTIFY footerChanged FINAL)
-    Q_PROPERTY(bool reviewable READ reviewable NOTIFY footerChanged FINAL)
+    Q_PROPERTY(QString footer READ footer NOTIFY selectionChanged FINAL)
+    Q_PROPERTY(bool reviewable READ reviewable NOTIFY selectionChanged FINAL)
     Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
 
 public:
     enum Role { idRole = Qt::UserRole, nameRole, noteRole, tintRole, bytesRole, countRole, chosenRole, spokenRole };
 
     /// `app` must outlive it. `review` opens the review of the given items, at least one.
-    CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review, QObject* parent = nullptr);
+    CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review);
 
     /// Call when the screen becomes visible. Selects the safe categories the first time.
     void appear();
@@ -54,7 +54,6 @@ public slots:
 
 signals:
     void selectionChanged();
-    void footerChanged();
 
 private:
     std::size_t size() const override { return rows_.size(); }

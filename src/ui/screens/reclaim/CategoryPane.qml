@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The categories as a list and as a bubble map; both select them.
+// The categories as a list and as a bubble map; both select them. The menu above the list selects several at once.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -20,11 +20,45 @@ FocusScope {
         anchors.bottom: cleanFooter.top
         width: Math.min(340 * TextScale.factor, pane.width * 0.6)
 
-        CategoryHead {
+        Item {
             id: head
 
             width: parent.width
-            categories: pane.categories
+            implicitHeight: Math.max(40, menuButton.implicitHeight + 8)
+
+            Label {
+                id: menuLabel
+
+                x: 26
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Select:")
+                size: 11
+                soft: true
+            }
+
+            MenuButton {
+                id: menuButton
+
+                objectName: "selectMenu"
+                anchors.left: menuLabel.right
+                anchors.leftMargin: 4
+                anchors.verticalCenter: parent.verticalCenter
+                text: pane.categories.menuLabel
+                said: qsTr("Select:")
+
+                MenuRow {
+                    text: qsTr("All")
+                    onTriggered: pane.categories.chooseAll()
+                }
+                MenuRow {
+                    text: qsTr("Safe only")
+                    onTriggered: pane.categories.chooseSafe()
+                }
+                MenuRow {
+                    text: qsTr("None")
+                    onTriggered: pane.categories.chooseNone()
+                }
+            }
         }
 
         Divider {
@@ -58,22 +92,21 @@ FocusScope {
 
             delegate: CategoryRow {
                 ringed: list.ringed && ListView.isCurrentItem
-                onPressed: row => {
-                    list.take(row);
-                    pane.categories.toggle(row);
+                onPressed: {
+                    list.take(index);
+                    pane.categories.toggle(index);
                 }
             }
         }
     }
 
-    Rectangle {
+    Divider {
         id: edge
 
         anchors.left: mapSide.right
         anchors.top: parent.top
         anchors.bottom: cleanFooter.top
-        width: 1
-        color: Theme.hairline
+        vertical: true
     }
 
     BubbleChart {
@@ -97,5 +130,121 @@ FocusScope {
         action: qsTr("Review & Clean")
         ready: pane.categories.reviewable
         onPressed: pane.categories.review()
+    }
+
+    // A category: check box, grade, name and size.
+    component CategoryRow: ListRow {
+        id: row
+
+        required property int index
+        required property string name
+        required property string note
+        required property color tint
+        required property real bytes
+        required property string itemCount
+        required property bool chosen
+        required spoken
+
+        clickable: true
+        implicitHeight: Math.max(texts.implicitHeight, figures.implicitHeight) + 2 * 10
+
+        Accessible.role: Accessible.CheckBox
+        Accessible.checkable: true
+        Accessible.checked: row.chosen
+        Accessible.onPressAction: row.pressed()
+        Accessible.onToggleAction: row.pressed()
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.leftMargin: 12
+            anchors.rightMargin: 12
+            anchors.topMargin: 1
+            anchors.bottomMargin: 1
+            radius: 10
+            color: row.chosen ? Qt.alpha(Theme.accent, 0.1) : row.hovered ? Theme.hoverWash : "transparent"
+
+            FocusRing {
+                shown: row.ringed
+                corner: 10
+            }
+        }
+
+        CheckBox {
+            id: box
+
+            x: 18
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.name
+            on: row.chosen
+            focusPolicy: Qt.NoFocus
+            Accessible.ignored: true
+            onClicked: row.pressed()
+        }
+
+        Rectangle {
+            id: dot
+
+            anchors.left: box.right
+            anchors.leftMargin: 6
+            anchors.verticalCenter: parent.verticalCenter
+            width: 8
+            height: 8
+            radius: 4
+            color: row.tint
+        }
+
+        Column {
+            id: texts
+
+            anchors.left: dot.right
+            anchors.leftMargin: 10
+            anchors.right: figures.left
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 2
+
+            Label {
+                width: parent.width
+                text: row.name
+                size: 13
+                font.weight: Font.DemiBold
+                wrapMode: Text.WordWrap
+                mute: true
+            }
+
+            Label {
+                width: parent.width
+                text: row.note
+                size: 11
+                soft: true
+                wrapMode: Text.WordWrap
+                mute: true
+            }
+        }
+
+        Column {
+            id: figures
+
+            anchors.right: parent.right
+            anchors.rightMargin: 24
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 2
+
+            AnimatedNumber {
+                anchors.right: parent.right
+                value: row.bytes
+                pixelSize: 12
+                bold: true
+                mute: true
+            }
+
+            Label {
+                anchors.right: parent.right
+                text: row.itemCount
+                size: 10
+                soft: true
+                mute: true
+            }
+        }
     }
 }

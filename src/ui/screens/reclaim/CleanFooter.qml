@@ -5,7 +5,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zelk.Controls
 
-Item {
+Rectangle {
     id: footer
 
     required property string line
@@ -15,12 +15,8 @@ Item {
 
     signal pressed
 
+    color: Theme.groundHi
     implicitHeight: Math.max(texts.implicitHeight, button.implicitHeight) + 2 * 14
-
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.groundHi
-    }
 
     Divider {
         width: parent.width

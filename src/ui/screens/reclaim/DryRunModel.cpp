@@ -4,10 +4,36 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/controls/AccessibleText.h"
 #include "ui/theme/DisplayText.h"
-#include "ui/theme/SafetyLook.h"
 
 namespace zelk {
+
+DryRunRows::DryRunRows(std::vector<Reclaimable> items)
+    : RowModel({"symbol", "name", "folder", "figure", "method", "spoken"}), items_(std::move(items)) {}
+
+QVariant DryRunRows::value(std::size_t row, int role) const {
+    const Reclaimable& item = items_[row];
+    const auto size = [&] { return byteFigure(static_cast<std::int64_t>(item.size)); };
+    const auto method = [&] { return displayText(methodSummary(item.method)); };
+    switch (role) {
+        case symbolRole:
+            return item.method.kind == ReclaimMethod::Kind::command ? QStringLiteral("terminal")
+                                                                    : QStringLiteral("trash");
+        case nameRole:
+            return nameText(item.path);
+        case folderRole:
+            return folderText(item.path);
+        case sizeRole:
+            return size();
+        case methodRole:
+            return method();
+        case spokenRole:
+            return AccessibleText::joined({nameText(item.path), size(), method(), folderText(item.path)});
+        default:
+            return {};
+    }
+}
 
 DryRunModel::DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items, const Platform& platform,
                          Actions actions)
@@ -18,10 +44,6 @@ DryRunModel::DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items,
         emit phaseChanged();
     });
     connect(&model, &DevCleanupModel::progressChanged, this, &DryRunModel::progressChanged);
-}
-
-QString DryRunModel::title() const {
-    return tr("Review cleanup");
 }
 
 QString DryRunModel::line() const {
@@ -57,14 +79,6 @@ QString DryRunModel::progress() const {
     return tr("%1 of %2").arg(now.done).arg(now.items);
 }
 
-QColor DryRunModel::resultTint() const {
-    return colorOf(ReclaimSafety::safe);
-}
-
-QString DryRunModel::heading() const {
-    return trashEmptied_ ? tr("Space reclaimed") : tr("Moved to the Trash");
-}
-
 QString DryRunModel::result() const {
     std::size_t gone = 0;
     std::size_t failed = 0;
@@ -92,16 +106,6 @@ QVariantList DryRunModel::skipped() const {
                                    {QStringLiteral("reason"), displayText(failed->error)}});
     }
     return all;
-}
-
-QString DryRunModel::advice() const {
-    return trashEmptied_ ? tr("The Trash was emptied. Your free space is now updated.")
-                         : tr("Items were moved to the Trash, so they're recoverable — but your free "
-                              "space won't change until the Trash is emptied.");
-}
-
-QString DryRunModel::emptyLabel() const {
-    return emptyingTrash_ ? tr("Emptying…") : tr("Empty Trash & free space");
 }
 
 void DryRunModel::cancel() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QColor>
 #include <QObject>
 #include <QString>
 #include <QVariantList>
@@ -12,9 +11,29 @@
 #include "platform/Platform.h"
 #include "state/DevCleanupModel.h"
 #include "state/MainThreadQueue.h"
-#include "ui/screens/reclaim/DryRunRows.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
+
+/// List model of the items under review; does not change after construction. Main thread.
+class DryRunRows : public zelk::RowModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of DryRunModel")
+
+public:
+    enum Role { symbolRole = Qt::UserRole, nameRole, folderRole, sizeRole, methodRole, spokenRole };
+
+    explicit DryRunRows(std::vector<Reclaimable> items);
+
+    const std::vector<Reclaimable>& items() const { return items_; }
+
+private:
+    std::size_t size() const override { return items_.size(); }
+    QVariant value(std::size_t row, int role) const override;
+
+    const std::vector<Reclaimable> items_;
+};
 
 /// The sheet of a reviewed clean-up: review, progress and result. The items are fixed when it opens; nothing is touched
 /// before confirm(). Main thread.
@@ -26,7 +45,6 @@ class DryRunModel : public QObject {
     Q_PROPERTY(bool cleaning READ isCleaning NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool done READ isDone NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool closable READ closable NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(QString title READ title CONSTANT FINAL)
     Q_PROPERTY(QString line READ line CONSTANT FINAL)
     Q_PROPERTY(zelk::DryRunRows* rows READ rows CONSTANT FINAL)
     Q_PROPERTY(bool hardDelete READ hardDelete WRITE setHardDelete NOTIFY hardDeleteChanged FINAL)
@@ -34,18 +52,12 @@ class DryRunModel : public QObject {
     Q_PROPERTY(double share READ share NOTIFY progressChanged FINAL)
     Q_PROPERTY(QString progress READ progress NOTIFY progressChanged FINAL)
     Q_PROPERTY(bool confirmable READ confirmable NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(QColor resultTint READ resultTint CONSTANT FINAL)
-    Q_PROPERTY(QString heading READ heading NOTIFY phaseChanged FINAL)
     Q_PROPERTY(QString result READ result NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool anySkipped READ anySkipped NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(QString advice READ advice NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool emptyable READ emptyable NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool emptying READ emptyingTrash NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(QString emptyLabel READ emptyLabel NOTIFY phaseChanged FINAL)
 
 public:
-    enum class Phase { review, cleaning, done };
-
     /// What the owner does: `dismiss` closes the sheet, `rescan` follows once a clean-up has finished.
     struct Actions {
         std::function<void()> dismiss;
@@ -56,14 +68,12 @@ public:
     /// destroyed.
     DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items, const Platform& platform, Actions actions);
 
-    Phase phase() const { return phase_; }
     bool isReview() const { return phase_ == Phase::review; }
     bool isCleaning() const { return phase_ == Phase::cleaning; }
     bool isDone() const { return phase_ == Phase::done; }
     /// Whether the sheet may be closed now.
     bool closable() const { return !isCleaning() && !emptyingTrash_; }
 
-    QString title() const;
     QString line() const;
     DryRunRows* rows() { return &rows_; }
     bool hardDelete() const { return hardDelete_; }
@@ -76,19 +86,15 @@ public:
     QString progress() const;
     bool confirmable() const { return isReview() && !rows_.items().empty(); }
 
-    QColor resultTint() const;
-    QString heading() const;
     QString result() const;
     bool anySkipped() const;
     /// The items that could not be cleaned, in order of failure: maps with `name` (the path) and `reason`. Computed on
     /// each call; there may be thousands.
     Q_INVOKABLE QVariantList skipped() const;
-    QString advice() const;
     bool emptyingTrash() const { return emptyingTrash_; }
     bool trashEmptied() const { return trashEmptied_; }
     /// Whether to offer emptying the Trash.
     bool emptyable() const { return isDone() && !trashEmptied_; }
-    QString emptyLabel() const;
 
 public slots:
     // All are ignored once the sheet was closed.
@@ -109,6 +115,8 @@ signals:
     void progressChanged();
 
 private:
+    enum class Phase { review, cleaning, done };
+
     DevCleanupModel& model_;
     Platform platform_;
     Actions actions_;

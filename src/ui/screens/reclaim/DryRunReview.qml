@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What would be removed, item by item, and how.
+// What would be removed, item by item, and how: moved to the Trash, or deleted for good.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -12,6 +12,7 @@ FocusScope {
 
     required property DryRunModel dryRun
     readonly property alias confirm: confirmButton
+    readonly property string title: qsTr("Review cleanup")
 
     implicitHeight: heading.implicitHeight + 120 + permanent.implicitHeight + buttons.implicitHeight + 3 * 14
 
@@ -23,7 +24,7 @@ FocusScope {
 
         Label {
             width: parent.width
-            text: review.dryRun.title
+            text: review.title
             size: 17
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
@@ -66,13 +67,46 @@ FocusScope {
         }
     }
 
-    PermanentSwitch {
+    // Permanent deletion instead of the Trash; has a warning colour while on.
+    Item {
         id: permanent
 
         anchors.bottom: buttons.top
         anchors.bottomMargin: 14
         width: parent.width
-        dryRun: review.dryRun
+        implicitHeight: Math.max(permanentLabel.implicitHeight, toggle.implicitHeight)
+
+        ToggleSwitch {
+            id: toggle
+
+            objectName: "permanentSwitch"
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Delete permanently instead of moving to Trash — irreversible")
+            labelled: false
+            checked: review.dryRun.hardDelete
+            enabled: review.dryRun.review
+            onToggled: review.dryRun.hardDelete = checked
+        }
+
+        Label {
+            id: permanentLabel
+
+            anchors.left: toggle.right
+            anchors.leftMargin: 12
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Delete permanently instead of moving to Trash — irreversible")
+            size: 12
+            color: review.dryRun.hardDelete ? Theme.alertText : Theme.ink
+            opacity: toggle.enabled ? 1 : 0.45
+            wrapMode: Text.WordWrap
+            mute: true
+
+            TapHandler {
+                enabled: toggle.enabled
+                onTapped: toggle.flip(false)
+            }
+        }
     }
 
     ShareBar {
@@ -118,6 +152,93 @@ FocusScope {
             alarming: review.dryRun.hardDelete
             enabled: review.dryRun.confirmable
             onClicked: review.dryRun.confirm()
+        }
+    }
+
+    // An item that a clean-up would remove.
+    component DryRunRow: ListRow {
+        id: row
+
+        required property int index
+        required property string symbol
+        required property string name
+        required property string folder
+        required property string figure
+        required property string method
+        required spoken
+
+        implicitHeight: Math.max(texts.implicitHeight, trailing.implicitHeight) + 2 * 6
+
+        Accessible.role: Accessible.ListItem
+
+        FocusRing {
+            shown: row.ringed
+            corner: 8
+        }
+
+        SymbolItem {
+            id: sign
+
+            x: 14
+            anchors.verticalCenter: parent.verticalCenter
+            name: row.symbol
+            color: Theme.inkSoft
+            size: Math.round(13 * TextScale.factor)
+        }
+
+        Column {
+            id: texts
+
+            anchors.left: sign.right
+            anchors.leftMargin: 12
+            anchors.right: trailing.left
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 1
+
+            Label {
+                width: parent.width
+                text: row.name
+                size: 13
+                elide: Text.ElideMiddle
+                mute: true
+            }
+
+            Label {
+                width: parent.width
+                text: row.folder
+                size: 10
+                soft: true
+                elide: Text.ElideMiddle
+                mute: true
+            }
+        }
+
+        Column {
+            id: trailing
+
+            anchors.right: parent.right
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 1
+
+            Label {
+                anchors.right: parent.right
+                text: row.figure
+                size: 12
+                font.weight: Font.Medium
+                mute: true
+            }
+
+            Label {
+                anchors.right: parent.right
+                width: Math.min(implicitWidth, row.width * 0.45)
+                text: row.method
+                size: 10
+                soft: true
+                elide: Text.ElideMiddle
+                mute: true
+            }
         }
     }
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The head of ItemPane: the three grades, and the minimum age of the items listed.
+// The head of ItemPane: the three grades, the popup that explains them, and the minimum age of the items listed.
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
@@ -10,7 +11,26 @@ Item {
     id: head
 
     required property ItemList items
-    required property SafetyGuide guide
+
+    readonly property var grades: [
+        {
+            word: qsTr("safe"),
+            tint: Theme.gradeSafe,
+            meaning: qsTr("Pure caches and logs. Zero risk — the app simply rebuilds them as needed.")
+        },
+        {
+            word: qsTr("regenerates"),
+            tint: Theme.gradeRegenerates,
+            meaning: qsTr("Build output like node_modules and build caches. Safe to delete; recreated automatically on your next build or install (the first one is slower).")
+        },
+        {
+            word: qsTr("review"),
+            tint: Theme.gradeReview,
+            meaning: qsTr("May include things you chose to keep — device backups, virtual environments, saved state. Review before removing; left unchecked by default.")
+        }
+    ]
+    readonly property string question: qsTr("What's safe to remove?")
+    readonly property string closing: qsTr("Everything moves to the Trash, so any removal is reversible until you empty it.")
 
     implicitHeight: flow.implicitHeight + 2 * 12
 
@@ -27,13 +47,12 @@ Item {
             spacing: 14
 
             Repeater {
-                model: head.guide
+                model: head.grades
 
                 Row {
                     id: gradeTag
 
-                    required property string grade
-                    required property color tint
+                    required property var modelData
 
                     anchors.verticalCenter: parent?.verticalCenter
                     spacing: 6
@@ -43,11 +62,11 @@ Item {
                         width: 8
                         height: 8
                         radius: 4
-                        color: gradeTag.tint
+                        color: gradeTag.modelData.tint
                     }
 
                     Label {
-                        text: gradeTag.grade
+                        text: gradeTag.modelData.word
                         size: 12
                     }
                 }
@@ -59,14 +78,82 @@ Item {
                 objectName: "safetyInfo"
                 anchors.verticalCenter: parent.verticalCenter
                 symbol: "info.circle"
-                text: head.guide.title
+                text: head.question
                 onClicked: popover.visible ? popover.close() : popover.open()
 
-                SafetyInfo {
+                T.Popup {
                     id: popover
 
-                    guide: head.guide
                     y: info.height + 6
+                    width: 360
+                    height: page.implicitHeight + topPadding + bottomPadding
+                    margins: 8
+                    padding: 18
+                    focus: true
+                    // The content has the accessible name; the template's popup item would be a second node.
+                    onAboutToShow: contentItem.parent.Accessible.ignored = true
+                    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+
+                    background: PanelGround {
+                        radius: 14
+                    }
+
+                    Column {
+                        id: page
+
+                        width: popover.availableWidth
+                        spacing: 12
+
+                        focus: true
+                        Accessible.role: Accessible.Note
+                        Accessible.name: AccessibleText.joined([head.question].concat(head.grades.flatMap(grade => [grade.word, grade.meaning]), head.closing))
+
+                        Label {
+                            width: parent.width
+                            text: head.question
+                            size: 14
+                            font.weight: Font.DemiBold
+                            wrapMode: Text.WordWrap
+                        }
+
+                        Repeater {
+                            model: head.grades
+
+                            Column {
+                                id: entry
+
+                                required property var modelData
+
+                                width: page.width
+                                spacing: 4
+
+                                Tag {
+                                    text: entry.modelData.word
+                                    ink: entry.modelData.tint
+                                    tint: 0.22
+                                }
+
+                                Label {
+                                    width: parent.width
+                                    text: entry.modelData.meaning
+                                    size: 11
+                                    soft: true
+                                    wrapMode: Text.WordWrap
+                                }
+                            }
+                        }
+
+                        Divider {
+                            width: parent.width
+                        }
+
+                        Label {
+                            width: parent.width
+                            text: head.closing
+                            size: 11
+                            wrapMode: Text.WordWrap
+                        }
+                    }
                 }
 
                 PopupHome {
@@ -87,12 +174,10 @@ Item {
             }
 
             SliderField {
-                id: slider
-
                 objectName: "ageSlider"
                 anchors.verticalCenter: parent.verticalCenter
                 from: 0
-                to: head.items.mostAgeDays
+                to: 180
                 stepSize: 1
                 value: head.items.ageDays
                 label: qsTr("only inactive >")

@@ -12,10 +12,9 @@
 
 namespace zelk {
 
-ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent)
-    : RowModel({"group", "name", "place", "line", "figure", "age", "tint", "grade", "chosen", "free", "open", "symbol",
-                "spoken"},
-               parent),
+ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup)
+    : RowModel(
+          {"group", "name", "place", "line", "figure", "age", "tint", "grade", "chosen", "free", "open", "spoken"}),
       app_(app),
       cleanup_(cleanup) {
     connect(&app, &AppModel::reclaimablesChanged, this, &ItemList::refresh);
@@ -56,7 +55,6 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
     switch (role) {
         case groupRole:
             return true;
-        case Qt::DisplayRole:
         case nameRole:
             return displayText(category.displayName);
         case placeRole:
@@ -73,8 +71,6 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
             return group.counts.selectable > 0;
         case openRole:
             return group.open;
-        case symbolRole:
-            return group.open ? QStringLiteral("chevron.down") : QStringLiteral("chevron.right");
         case spokenRole:
             return AccessibleText::joined({displayText(category.displayName), figure(), wordOf(category.safety),
                                            group.open ? tr("expanded") : tr("collapsed"),
@@ -89,7 +85,6 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
         case groupRole:
         case openRole:
             return false;
-        case Qt::DisplayRole:
         case nameRole:
             return nameText(item.path);
         case placeRole:
@@ -201,7 +196,7 @@ void ItemList::setOpen(int row, bool open) {
         rows_.erase(rows_.begin() + first, rows_.begin() + last + 1);
         endRemoveRows();
     }
-    rowChanged(row, {openRole, symbolRole, spokenRole});
+    rowChanged(row, {openRole, spokenRole});
 }
 
 int ItemList::groupRow(int row) const {

@@ -26,7 +26,6 @@ class ItemList : public zelk::RowModel {
     Q_PROPERTY(QString footerBytes READ footerBytes NOTIFY footerChanged FINAL)
     Q_PROPERTY(bool cleanable READ cleanable NOTIFY footerChanged FINAL)
     Q_PROPERTY(int ageDays READ ageDays WRITE setAgeDays NOTIFY ageChanged FINAL)
-    Q_PROPERTY(int mostAgeDays READ mostAgeDays CONSTANT FINAL)
     Q_PROPERTY(QString ageText READ ageText NOTIFY ageChanged FINAL)
     Q_PROPERTY(QString shownText READ shownText NOTIFY footerChanged FINAL)
     Q_PROPERTY(bool allYoung READ allYoung NOTIFY footerChanged FINAL)
@@ -44,19 +43,17 @@ public:
         chosenRole,
         freeRole,  ///< whether it may be ticked
         openRole,  ///< whether a category is expanded
-        symbolRole,
         spokenRole
     };
 
     /// Both arguments must outlive it.
-    ItemList(AppModel& app, DevCleanupModel& cleanup, QObject* parent = nullptr);
+    ItemList(AppModel& app, DevCleanupModel& cleanup);
 
     QString footer() const;
     QString footerBytes() const;
     bool cleanable() const { return tallies_.selected.items > 0; }
     int ageDays() const { return static_cast<int>(cleanup_.ageDays()); }
     void setAgeDays(int days) { cleanup_.setAgeDays(days); }
-    int mostAgeDays() const { return 180; }
     QString ageText() const;
     QString shownText() const;
     /// Whether nothing is listed because of the age filter.

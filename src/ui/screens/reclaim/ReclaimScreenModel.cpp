@@ -7,21 +7,13 @@
 
 namespace zelk {
 
-namespace {
-
-ModuleTexts texts() {
-    ModuleTexts texts;
-    texts.title = ReclaimScreenModel::tr("Reclaim");
-    texts.subtitle = ReclaimScreenModel::tr("Clear caches, logs, and developer junk — safely, to the Trash.");
-    texts.scanLabel = ReclaimScreenModel::tr("Scan for junk");
-    texts.scanningLabel = ReclaimScreenModel::tr("Looking for reclaimable junk…");
-    return texts;
-}
-
-}  // namespace
-
 ReclaimScreenModel::ReclaimScreenModel(AppModel& app)
-    : SurveyedModule(app, Screen::reclaim, texts()),
+    : SurveyedModule(app, Screen::reclaim,
+                     {.title = tr("Reclaim"),
+                      .subtitle = tr("Clear caches, logs, and developer junk — safely, to the Trash."),
+                      .scanLabel = tr("Scan for junk"),
+                      .scanningLabel = tr("Looking for reclaimable junk…"),
+                      .note = {}}),
       app_(app),
       cleanup_(app.platform(), app.removals()),
       categories_(app, [this](const std::vector<Reclaimable>& items) { reviewCategories(items); }),
@@ -53,7 +45,6 @@ void ReclaimScreenModel::setOnScreen(bool onScreen) {
     onScreen_ = onScreen;
     lastCount_ = app_.reclaimables().size();
     follow();
-    emit onScreenChanged();
 }
 
 /// Prepares the visible list with its default selection.
@@ -70,12 +61,10 @@ void ReclaimScreenModel::reviewCategories(const std::vector<Reclaimable>& items)
 }
 
 void ReclaimScreenModel::openOrClose() {
-    if (cleanup_.showDryRun()) {
+    if (cleanup_.showDryRun())
         dryRun_ = std::make_unique<DryRunModel>(
             cleanup_, cleanup_.selectedItems(app_.reclaimables()), app_.platform(),
             DryRunModel::Actions{[this] { cleanup_.setShowDryRun(false); }, [this] { app_.scanAnew(); }});
-        emit dryRunChanged();
-    }
     emit reviewingChanged();
 }
 

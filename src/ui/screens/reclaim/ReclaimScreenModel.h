@@ -9,7 +9,6 @@
 #include "ui/screens/reclaim/CategoryList.h"
 #include "ui/screens/reclaim/DryRunModel.h"
 #include "ui/screens/reclaim/ItemList.h"
-#include "ui/screens/reclaim/SafetyGuide.h"
 
 namespace zelk {
 
@@ -24,10 +23,9 @@ class ReclaimScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(bool byItem READ byItem NOTIFY faceChanged FINAL)
     Q_PROPERTY(zelk::CategoryList* categories READ categories CONSTANT FINAL)
     Q_PROPERTY(zelk::ItemList* items READ items CONSTANT FINAL)
-    Q_PROPERTY(zelk::SafetyGuide* guide READ guide CONSTANT FINAL)
     Q_PROPERTY(bool reviewing READ reviewing NOTIFY reviewingChanged FINAL)
-    Q_PROPERTY(zelk::DryRunModel* dryRun READ dryRun NOTIFY dryRunChanged FINAL)
-    Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen NOTIFY onScreenChanged FINAL)
+    Q_PROPERTY(zelk::DryRunModel* dryRun READ dryRun NOTIFY reviewingChanged FINAL)
+    Q_PROPERTY(bool onScreen READ onScreen WRITE setOnScreen FINAL)
 
 public:
     /// `app` must outlive it.
@@ -38,7 +36,6 @@ public:
     bool byItem() const;
     CategoryList* categories() { return &categories_; }
     ItemList* items() { return &items_; }
-    SafetyGuide* guide() { return &guide_; }
 
     /// Whether the review sheet is open.
     bool reviewing() const { return cleanup_.showDryRun(); }
@@ -54,8 +51,6 @@ public:
 signals:
     void faceChanged();
     void reviewingChanged();
-    void dryRunChanged();
-    void onScreenChanged();
 
 private:
     void follow();
@@ -66,7 +61,6 @@ private:
     DevCleanupModel cleanup_;
     CategoryList categories_;
     ItemList items_;
-    SafetyGuide guide_;
     std::unique_ptr<DryRunModel> dryRun_;
     bool onScreen_ = false;
     std::size_t lastCount_ = 0;  // the number of items when last checked

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QCache>
+#include <QImage>
+#include <string>
+
+#include "platform/Workspace.h"
+
+namespace zelk {
+
+/// The desktop's icons of folders, or our own symbol if it has none. Recent ones are cached. Main thread.
+class FolderIcons {
+public:
+    /// `workspace` must outlive it.
+    explicit FolderIcons(Workspace& workspace);
+
+    /// The icon at `side` x `side` pixels, at least 1; never null.
+    QImage image(const std::string& path, int side);
+
+private:
+    QImage desktopImage(const std::string& path, int side);
+
+    Workspace& workspace_;
+    QCache<QByteArray, QImage> images_;  ///< null images for paths without a desktop icon
+};
+
+}  // namespace zelk
