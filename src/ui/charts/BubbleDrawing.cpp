@@ -7,7 +7,6 @@
 #include <unordered_map>
 
 #include "ui/charts/Circles.h"
-#include "ui/charts/LabelFitting.h"
 #include "ui/controls/Brushes.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/ZelkTheme.h"

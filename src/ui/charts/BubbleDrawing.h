@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/charts/BubbleSlice.h"
+#include "ui/charts/BubbleModel.h"
 #include "ui/charts/BubbleTexts.h"
 #include "ui/charts/CirclePacking.h"
 

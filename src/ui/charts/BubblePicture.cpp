@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/theme/DisplayText.h"
+
 namespace zelk {
 
 namespace {
@@ -21,6 +23,23 @@ std::string keyOf(const std::vector<BubbleSlice>& slices) {
 }
 
 }  // namespace
+
+BubbleTip BubbleTip::of(const BubbleSlice& slice, QPointF point, QSizeF chart, double textScale) {
+    constexpr double offset = 12;     // from the pointer
+    constexpr double roomWide = 220;  // reserved between the tip and the right edge
+    constexpr double roomHigh = 56;   // reserved below
+    const double width = roomWide * textScale;
+    BubbleTip tip;
+    tip.shown = true;
+    tip.label = slice.label;
+    tip.line = byteFigure(slice.bytes);
+    if (slice.reclaimable) tip.line += QStringLiteral(" · reclaimable");
+    tip.reclaimable = slice.reclaimable;
+    tip.corner = {std::min(point.x() + offset, std::max(chart.width() - width, 0.0)),
+                  std::min(point.y() + offset, std::max(chart.height() - roomHigh * textScale, 0.0))};
+    tip.widest = std::min(std::max(chart.width() - tip.corner.x(), width), chart.width());
+    return tip;
+}
 
 BubblePicture::BubblePicture(QQuickItem* parent) : Drawn(parent) {
     setAcceptHoverEvents(true);

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/charts/BubbleSlice.h"
+#include "ui/charts/BubbleModel.h"
 #include "ui/screens/lens/LensRows.h"
 #include "ui/screens/lens/LensWalk.h"
 
