@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/charts/OrbDrawing.h"
+#include "ui/charts/LayerDrawing.h"
 
 #include <gtest/gtest.h>
 
@@ -30,15 +30,15 @@ TEST(Orb, paintsLitDiscWithShadow) {
 
 TEST(Orb, keepsRingsBetweenDiscAndFrame) {
     double inner = OrbShape::discRadius;
-    for (int ring = 0; ring < OrbShape::rings; ++ring) {
-        const double radius = OrbShape::ringRadius(ring);
+    for (std::size_t ring = 0; ring < OrbShape::ringRadii.size(); ++ring) {
+        const double radius = OrbShape::ringRadii.at(ring);
         EXPECT_GT(radius, inner);
         EXPECT_LE(radius, OrbShape::frame / 2 - 1);
         inner = radius;
         const QImage rings = painted(
             {200, 200}, [&](QPainter& painter) { drawOrbRing(painter, center, ring, lens); }, 4);
         const QColor line = rings.pixelColor(static_cast<int>(4 * (100 + radius)), 400);
-        EXPECT_NEAR(line.alphaF(), OrbShape::ringOpacity(ring), 0.02);
+        EXPECT_NEAR(line.alphaF(), OrbShape::ringOpacities.at(ring), 0.02);
         EXPECT_TRUE(alike(QColor(line.rgb()), lens, 8));
         EXPECT_EQ(rings.pixelColor(static_cast<int>(4 * (100 + radius - 2)), 400).alpha(), 0);
         EXPECT_EQ(rings.pixelColor(static_cast<int>(4 * (100 + radius + 2)), 400).alpha(), 0);
@@ -65,11 +65,25 @@ TEST(PaintedLayer, implicitSizeDependsOnKind) {
 TEST(PaintedLayer, paintsKindInItsColour) {
     PaintedLayer layer;
     layer.setProperty("color", lens);
-    layer.setKind(PaintedLayer::OrbDisc);
-    EXPECT_EQ(painted(layer, {160, 160}).pixelColor(80, 80).alpha(), 255);
-    layer.setKind(PaintedLayer::OuterRing);
-    EXPECT_EQ(painted(layer, {150, 150}).pixelColor(75, 75).alpha(), 0);
-    EXPECT_GT(painted(layer, {150, 150}).pixelColor(75, 2).alpha(), 10);
+    const auto alphaAt = [&](PaintedLayer::Kind kind, int x, int y) {
+        layer.setKind(kind);
+        layer.setSize({layer.implicitWidth(), layer.implicitHeight()});
+        return layer.picture(1).pixelColor(x, y).alpha();
+    };
+    EXPECT_EQ(alphaAt(PaintedLayer::OrbDisc, 80, 80), 255);
+    EXPECT_EQ(alphaAt(PaintedLayer::OuterRing, 75, 75), 0);
+    EXPECT_GT(alphaAt(PaintedLayer::OuterRing, 75, 2), 10);
+    EXPECT_EQ(layer.picture(2).size(), QSize(300, 300)) << "as sharp as the screen";
+}
+
+TEST(PaintedLayer, onlyTheDiscOfTheScanButtonIsClickable) {
+    PaintedLayer layer;
+    layer.setSize({264, 264});
+    EXPECT_TRUE(layer.contains({5, 5}));
+    layer.setKind(PaintedLayer::ScanGlow);
+    EXPECT_FALSE(layer.contains({5, 5}));
+    EXPECT_TRUE(layer.contains({132, 132 - 91}));
+    EXPECT_FALSE(layer.contains({132, 132 - 93}));
 }
 
 }  // namespace zelk

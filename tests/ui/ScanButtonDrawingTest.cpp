@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/charts/ScanButtonDrawing.h"
+#include "ui/charts/LayerDrawing.h"
 
 #include <gtest/gtest.h>
 
