@@ -178,4 +178,31 @@ FocusScope {
             }
         }
     }
+
+    // The texts and controls below the scan button in one phase. Fades in, but disappears at once, because a control
+    // that fades out could still be pressed.
+    component HeroPhase: Column {
+        id: phase
+
+        required property bool shown
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        visible: phase.shown
+        opacity: phase.shown ? 1 : 0
+
+        Behavior on opacity {
+            enabled: phase.shown
+            NumberAnimation {
+                duration: Motion.gentle
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+
+    component HeroText: Label {
+        anchors.horizontalCenter: parent?.horizontalCenter
+        soft: true
+        horizontalAlignment: Text.AlignHCenter
+    }
 }
