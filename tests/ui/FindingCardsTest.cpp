@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ui/screens/overview/FindingCards.h"
-
 #include <gmock/gmock.h>
 
 #include <QSignalSpy>
 
 #include "state/AppModelFixture.h"
+#include "ui/screens/overview/FindingsModel.h"
 
 namespace zelk {
 

@@ -114,11 +114,11 @@ FocusScope {
 
                         PillButton {
                             required property int index
-                            required property feature modelData
+                            required property screenLook modelData
 
-                            text: modelData.label
+                            text: modelData.title
                             symbol: modelData.symbol
-                            tint: modelData.tint
+                            tint: modelData.color
                             onClicked: hero.survey.pressFeature(index)
                         }
                     }
