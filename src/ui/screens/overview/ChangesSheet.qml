@@ -103,10 +103,12 @@ Sheet {
                 id: place
 
                 required property string heading
-                required property color tint
+                required property int kind
                 required property string name
                 required property string path
                 required property string size
+
+                readonly property color tint: place.kind === ChangesModel.Grew ? "#3e9bff" : place.kind === ChangesModel.Appeared ? "#32c77b" : Theme.inkSoft
 
                 width: ListView.view.width
 

@@ -82,9 +82,7 @@ DeviceFace SurveyScreenModel::device() const {
 void SurveyScreenModel::setDark(bool dark) {
     if (dark == dark_) return;
     dark_ = dark;
-    const ZelkTheme& theme = dark ? ZelkTheme::dark() : ZelkTheme::light();
-    findings_.setTheme(theme);
-    trends_.setTheme(theme);
+    findings_.setTheme(dark ? ZelkTheme::dark() : ZelkTheme::light());
     emit darkChanged();
 }
 
