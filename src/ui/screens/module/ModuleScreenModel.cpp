@@ -3,7 +3,10 @@
 
 #include <utility>
 
+#include "state/AppModel.h"
+#include "ui/theme/DisplayText.h"
 #include "ui/theme/ScreenLook.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -38,6 +41,41 @@ void ModuleScreenModel::scan() {
 
 void ModuleScreenModel::cancel() {
     if (onCancel_ && scanning()) onCancel_();
+}
+
+std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen) {
+    const ScreenLook& look = lookOf(screen);
+    // No scan label and therefore no button, since there is nothing to start.
+    ModuleTexts texts;
+    texts.subtitle = look.subtitle;
+    texts.note = ModuleScreenModel::tr("%1 is not in this version yet.").arg(look.title);
+    switch (screen) {
+        case Screen::privacy:
+            texts.subtitle = ModuleScreenModel::tr(
+                "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that "
+                "needs a signature database).");
+            break;
+        case Screen::apps:
+            texts.subtitle = ModuleScreenModel::tr(
+                "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, "
+                "preferences, and support files.");
+            break;
+        case Screen::duplicates:
+            texts.subtitle = ModuleScreenModel::tr(
+                "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.");
+            break;
+        case Screen::health:
+            texts.title = SystemTexts::of(SystemTexts::HealthTitle);
+            texts.subtitle = displayText(app.device().osVersion);
+            break;
+        case Screen::system:
+            texts.title = ModuleScreenModel::tr("System & snapshots");
+            texts.subtitle = ModuleScreenModel::tr("what the treemap can't show");
+            break;
+        default:
+            break;
+    }
+    return std::make_unique<ModuleScreenModel>(screen, texts);
 }
 
 }  // namespace zelk
