@@ -6,7 +6,12 @@
 #include <QImage>
 #include <QQuickItem>
 
+class QPainter;
+
 namespace zelk {
+
+/// Paints the background of the application's mark: a square of `side` with rounded corners, in the accent gradient.
+void paintHouseTile(QPainter& painter, double side);
 
 /// Base of items that are painted into a texture, again only when a property, the size or the scale changes.
 /// Animations that rotate, scale or fade such an item take next to no time on the main thread.
