@@ -8,7 +8,7 @@
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/clutter/LargeFileRows.h"
 #include "ui/screens/clutter/TypePills.h"
-#include "ui/screens/module/SurveyedModule.h"
+#include "ui/screens/module/ModuleScreenModel.h"
 
 namespace zelk {
 

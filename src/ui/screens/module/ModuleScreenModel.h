@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <functional>
 #include <memory>
 
@@ -87,6 +88,25 @@ private:
     std::function<void()> onCancel_;
     ModulePhase phase_ = ModulePhase::idle;
     QString scanDetail_;
+};
+
+/// A module based on the survey: has its phase, starts one with its button, and shows its progress, throttled to a
+/// dozen updates per second. Main thread.
+class SurveyedModule : public zelk::ModuleScreenModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the main window")
+
+public:
+    /// `app` must outlive it.
+    SurveyedModule(AppModel& app, Screen screen, ModuleTexts texts);
+
+private:
+    void followPhase();
+    void followProgress();
+
+    AppModel& app_;
+    QTimer timer_;
 };
 
 /// Creates the model for a module without a view in this version, which introduces the module and says so. `screen`
