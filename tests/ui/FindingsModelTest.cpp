@@ -49,10 +49,9 @@ private:
 TEST_F(FindingsModelTest, headlineShowsReclaimableBytes) {
     fillHome();
     surveyOf({});
-    EXPECT_EQ(findings().title(), QStringLiteral("You can reclaim"));
+    EXPECT_TRUE(findings().reviewable());
     EXPECT_EQ(findings().recoverable(), 60'000'000);
     EXPECT_EQ(findings().line(), QStringLiteral("across 2 items · most space: Video"));
-    EXPECT_TRUE(findings().reviewable());
 }
 
 TEST_F(FindingsModelTest, headlineNamesLargestType) {
@@ -71,10 +70,9 @@ TEST_F(FindingsModelTest, headlineNamesLargestType) {
 
 TEST_F(FindingsModelTest, cleanDriveHasNoReview) {
     surveyOf({{"letter.txt", 5'000'000}});
-    EXPECT_EQ(findings().title(), QStringLiteral("Clean drive"));
+    EXPECT_FALSE(findings().reviewable());
     EXPECT_EQ(findings().recoverable(), 0);
     EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 5 MB."));
-    EXPECT_FALSE(findings().reviewable());
     EXPECT_EQ(findings().cards()->cards().front().value, 0);
 }
 
@@ -89,7 +87,7 @@ TEST_F(FindingsModelTest, cleanDriveSumsSeveralRoots) {
 TEST_F(FindingsModelTest, reportsUnreadableHome) {
     machine.directories.unreadable(home);
     surveyOf({});
-    EXPECT_EQ(findings().title(), QStringLiteral("Clean drive"));
+    EXPECT_FALSE(findings().reviewable());
     EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 0 bytes."));
     EXPECT_EQ(findings().unreadLine(), QStringLiteral("1 folder could not be read."));
 }
@@ -98,7 +96,7 @@ TEST_F(FindingsModelTest, countsUnreadFolders) {
     for (int folder = 0; folder < 1'234; ++folder) machine.directories.unreadable(home + "/" + std::to_string(folder));
     fillHome();
     surveyOf({});
-    EXPECT_EQ(findings().title(), QStringLiteral("You can reclaim"));
+    EXPECT_TRUE(findings().reviewable());
     EXPECT_EQ(findings().unreadLine(), QStringLiteral("1,234 folders could not be read."));
 }
 
@@ -243,7 +241,6 @@ TEST_F(FindingsModelTest, removingAllJunkMakesADriveClean) {
     ASSERT_TRUE(modules);
     model().removeFromTree(*modules);
     EXPECT_FALSE(findings().reviewable());
-    EXPECT_EQ(findings().title(), QStringLiteral("Clean drive"));
     EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 5 MB."));
 }
 

@@ -36,7 +36,7 @@ Column {
 
             Label {
                 width: parent.width
-                text: block.findings.title
+                text: block.findings.reviewable ? qsTr("You can reclaim") : qsTr("Clean drive")
                 size: block.findings.reviewable ? 13 : 26
                 soft: block.findings.reviewable
                 font.weight: block.findings.reviewable ? Font.Medium : Font.Bold

@@ -134,11 +134,9 @@ void FindingsModel::refresh() {
 void FindingsModel::headline() {
     recoverable_ = app_.reclaimableBytes();
     if (!reviewable()) {
-        title_ = tr("Clean drive");
         line_ = tr("Nothing to reclaim right now — you scanned %1.").arg(byteFigure(scannedBytes(app_)));
         return;
     }
-    title_ = tr("You can reclaim");
     const auto types = app_.sortedTypeTotals();
     const auto items = app_.reclaimables().size();
     line_ = types.empty()

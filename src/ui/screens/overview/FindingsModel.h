@@ -63,7 +63,6 @@ class FindingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of SurveyScreenModel")
-    Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
     Q_PROPERTY(double recoverable READ recoverable NOTIFY changed FINAL)
     Q_PROPERTY(QString line READ line NOTIFY changed FINAL)
     Q_PROPERTY(QString unreadLine READ unreadLine NOTIFY changed FINAL)
@@ -79,7 +78,6 @@ public:
 
     void setTheme(const ZelkTheme& theme);
 
-    const QString& title() const { return title_; }
     /// The reclaimable bytes.
     qint64 recoverable() const { return recoverable_; }
     const QString& line() const { return line_; }
@@ -110,7 +108,6 @@ private:
     const ZelkTheme* theme_ = &ZelkTheme::dark();
     FindingCards cards_;
     LargeFileRows largest_;
-    QString title_;
     qint64 recoverable_ = 0;
     QString line_;
     QString unreadLine_;
