@@ -73,7 +73,7 @@ TEST_F(FindingsModelTest, cleanDriveHasNoReview) {
     EXPECT_FALSE(findings().reviewable());
     EXPECT_EQ(findings().recoverable(), 0);
     EXPECT_EQ(findings().line(), QStringLiteral("Nothing to reclaim right now — you scanned 5 MB."));
-    EXPECT_EQ(findings().cards()->cards().front().value, 0);
+    EXPECT_EQ(findings().cardBytes().front(), 0);
 }
 
 TEST_F(FindingsModelTest, cleanDriveSumsSeveralRoots) {
@@ -174,7 +174,7 @@ TEST_F(FindingsModelTest, freeBytesAreZeroWithoutVolume) {
     surveyOf({{"a.mov", 1}});
     model().setVolume(std::nullopt);
     EXPECT_EQ(findings().freeBytes(), 0);
-    EXPECT_EQ(findings().cards()->cards().back().value, 0);
+    EXPECT_EQ(findings().cardBytes().back(), 0);
 }
 
 TEST_F(FindingsModelTest, listsFiveLargestFiles) {
@@ -229,8 +229,8 @@ TEST_F(FindingsModelTest, followsRemovals) {
     EXPECT_FALSE(changes.isEmpty());
     EXPECT_EQ(findings().recoverable(), 50'000'000);
     EXPECT_EQ(findings().line(), QStringLiteral("across 1 items · most space: Video"));
-    EXPECT_EQ(findings().cards()->cards().front().value, 50'000'000);
-    EXPECT_EQ(findings().cards()->cards().front().detail, QStringLiteral("1 items of junk"));
+    EXPECT_EQ(findings().cardBytes().front(), 50'000'000);
+    EXPECT_EQ(findings().cardDetails().front(), QStringLiteral("1 items of junk"));
 }
 
 TEST_F(FindingsModelTest, removingAllJunkMakesADriveClean) {

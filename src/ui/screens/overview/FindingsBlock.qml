@@ -131,14 +131,41 @@ Column {
         columns: grid.width >= 4 * grid.readable + 3 * grid.spacing ? 4 : 2
 
         Repeater {
-            model: block.findings.cards
+            model: [
+                {
+                    symbol: "sparkles",
+                    title: qsTr("Reclaim"),
+                    tint: "#32c77b"
+                },
+                {
+                    symbol: "tray.full",
+                    title: qsTr("Clutter"),
+                    tint: "#22c3c9"
+                },
+                {
+                    symbol: "arrow.down.circle",
+                    title: qsTr("Downloads"),
+                    tint: "#56c2f5"
+                },
+                {
+                    symbol: "internaldrive",
+                    title: qsTr("System"),
+                    tint: "#7c83ff"
+                }
+            ]
 
             ModuleCard {
                 required property int index
+                required property var modelData
 
                 objectName: "findingCard" + index
                 width: grid.cell
-                onClicked: block.findings.cards.press(index)
+                symbol: modelData.symbol
+                title: modelData.title
+                tint: modelData.tint
+                value: block.findings.cardBytes[index]
+                detail: block.findings.cardDetails[index]
+                onClicked: block.findings.openCard(index)
             }
         }
     }

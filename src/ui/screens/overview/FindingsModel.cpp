@@ -2,6 +2,8 @@
 #include "ui/screens/overview/FindingsModel.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 
 #include "state/AppModel.h"
 #include "ui/theme/DisplayText.h"
@@ -49,57 +51,9 @@ std::int64_t purgeableBytes(const AppModel& app) {
     return volume ? std::max<std::int64_t>(volume->importantAvailable - volume->available, 0) : 0;
 }
 
-std::vector<FindingCards::Card> cardsOf(const AppModel& app) {
-    return {
-        {"sparkles", FindingCards::tr("Reclaim"), app.reclaimableBytes(),
-         FindingCards::tr("%1 items of junk").arg(app.reclaimables().size()), QColor(50, 199, 123), Screen::reclaim},
-        {"tray.full", FindingCards::tr("Clutter"), largeFileBytes(app),
-         FindingCards::tr("%1 large files").arg(app.insights().topFiles.size()), QColor(34, 195, 201), Screen::clutter},
-        {"arrow.down.circle", FindingCards::tr("Downloads"), downloadsBytes(app),
-         FindingCards::tr("review what landed here"), QColor(86, 194, 245), Screen::clutter},
-        {"internaldrive", FindingCards::tr("System"), purgeableBytes(app), FindingCards::tr("purgeable & snapshots"),
-         QColor(124, 131, 255), Screen::system},
-    };
-}
-
 }  // namespace
 
-FindingCards::FindingCards(AppModel& app, QObject* parent)
-    : RowModel({"symbol", "title", "value", "detail", "tint"}, parent), app_(app), cards_(cardsOf(app)) {}
-
-void FindingCards::refresh() {
-    const std::vector<Card> now = cardsOf(app_);
-    for (std::size_t row = 0; row < cards_.size(); ++row) {
-        if (cards_[row] == now[row]) continue;
-        cards_[row] = now[row];
-        rowChanged(static_cast<int>(row));
-    }
-}
-
-QVariant FindingCards::value(std::size_t row, int role) const {
-    const Card& card = cards_[row];
-    switch (role) {
-        case symbolRole:
-            return card.symbol;
-        case Qt::DisplayRole:
-        case titleRole:
-            return card.title;
-        case valueRole:
-            return card.value;
-        case detailRole:
-            return card.detail;
-        case tintRole:
-            return card.tint;
-        default:
-            return {};
-    }
-}
-
-void FindingCards::press(int row) {
-    if (has(row)) app_.setSelection(cards_[static_cast<std::size_t>(row)].screen);
-}
-
-FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app), cards_(app) {
+FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app) {
     for (const auto changedField : {&AppModel::scanPhaseChanged, &AppModel::reclaimablesChanged,
                                     &AppModel::insightsChanged, &AppModel::rootChanged, &AppModel::volumeChanged})
         connect(&app, changedField, this, &FindingsModel::refresh);
@@ -119,6 +73,11 @@ void FindingsModel::seeAll() {
     app_.setSelection(Screen::clutter);
 }
 
+void FindingsModel::openCard(int card) {
+    constexpr std::array modules{Screen::reclaim, Screen::clutter, Screen::clutter, Screen::system};
+    if (card >= 0 && card < std::ssize(modules)) app_.setSelection(modules.at(static_cast<std::size_t>(card)));
+}
+
 /// Skipped during a survey, whose results are not known yet and whose fields change many times per second.
 void FindingsModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
@@ -126,7 +85,11 @@ void FindingsModel::refresh() {
     unreadLine_ = unreadText(app_.blockedPaths());
     segments_ = readSegments();
     freeBytes_ = app_.volume() ? app_.volume()->available : 0;
-    cards_.refresh();
+    cardBytes_ = {static_cast<qreal>(app_.reclaimableBytes()), static_cast<qreal>(largeFileBytes(app_)),
+                  static_cast<qreal>(downloadsBytes(app_)), static_cast<qreal>(purgeableBytes(app_))};
+    cardDetails_ = {tr("%1 items of junk").arg(app_.reclaimables().size()),
+                    tr("%1 large files").arg(app_.insights().topFiles.size()), tr("review what landed here"),
+                    tr("purgeable & snapshots")};
     largest_.show(firstFew(app_.insights().topFiles), app_.platform().clock.now());
     emit changed();
 }

@@ -2,60 +2,17 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QColor>
 #include <QList>
 #include <QObject>
 #include <QString>
-#include <vector>
+#include <QStringList>
 
-#include "state/Screen.h"
 #include "ui/charts/RibbonPicture.h"
-#include "ui/controls/RowModel.h"
 #include "ui/screens/clutter/LargeFileRows.h"
 
 namespace zelk {
 
 class AppModel;
-
-/// List model of the finding cards, one per module that continues from a survey. Always the same cards in the same
-/// order. Main thread.
-class FindingCards : public zelk::RowModel {
-    Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Part of FindingsModel")
-
-public:
-    struct Card {
-        QString symbol;
-        QString title;
-        qint64 value;  ///< bytes
-        QString detail;
-        QColor tint;
-        Screen screen;
-
-        bool operator==(const Card&) const = default;
-    };
-
-    enum Role { symbolRole = Qt::UserRole, titleRole, valueRole, detailRole, tintRole };
-
-    /// `app` must outlive it.
-    explicit FindingCards(AppModel& app, QObject* parent = nullptr);
-
-    /// Updates all values from the AppModel.
-    void refresh();
-    const std::vector<Card>& cards() const { return cards_; }
-
-public slots:
-    /// Opens the card's module.
-    void press(int row);
-
-private:
-    std::size_t size() const override { return cards_.size(); }
-    QVariant value(std::size_t row, int role) const override;
-
-    AppModel& app_;
-    std::vector<Card> cards_;
-};
 
 /// A summary of a finished survey: the reclaimable bytes, the bytes by type, and where to continue. Keeps its values
 /// while another survey runs. Main thread.
@@ -69,7 +26,8 @@ class FindingsModel : public QObject {
     Q_PROPERTY(bool reviewable READ reviewable NOTIFY changed FINAL)
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments NOTIFY changed FINAL)
     Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed FINAL)
-    Q_PROPERTY(zelk::FindingCards* cards READ cards CONSTANT FINAL)
+    Q_PROPERTY(QList<qreal> cardBytes READ cardBytes NOTIFY changed FINAL)
+    Q_PROPERTY(QStringList cardDetails READ cardDetails NOTIFY changed FINAL)
     Q_PROPERTY(zelk::LargeFileRows* largest READ largest CONSTANT FINAL)
 
 public:
@@ -88,13 +46,17 @@ public:
     /// By type, largest first.
     const QList<RibbonSegment>& segments() const { return segments_; }
     qint64 freeBytes() const { return freeBytes_; }
-    FindingCards* cards() { return &cards_; }
+    /// The figures and lines of the cards that lead on: those of Reclaim, Clutter, the downloads and System.
+    const QList<qreal>& cardBytes() const { return cardBytes_; }
+    const QStringList& cardDetails() const { return cardDetails_; }
     /// The first few of the large files.
     LargeFileRows* largest() { return &largest_; }
 
 public slots:
     void review();
     void seeAll();
+    /// Opens the module of a card.
+    void openCard(int card);
 
 signals:
     void changed();
@@ -106,13 +68,14 @@ private:
 
     AppModel& app_;
     const ZelkTheme* theme_ = &ZelkTheme::dark();
-    FindingCards cards_;
     LargeFileRows largest_;
     qint64 recoverable_ = 0;
     QString line_;
     QString unreadLine_;
     QList<RibbonSegment> segments_;
     qint64 freeBytes_ = 0;
+    QList<qreal> cardBytes_;
+    QStringList cardDetails_;
 };
 
 }  // namespace zelk
