@@ -159,12 +159,6 @@ void BubblePicture::hover(QPointF point) {
     retip();
 }
 
-void BubblePicture::endHover() {
-    updateBubble(indexOf(hoveredID_));
-    hoveredID_.reset();
-    retip();
-}
-
 void BubblePicture::hoverEnterEvent(QHoverEvent* event) {
     hover(event->position());
 }
@@ -174,7 +168,9 @@ void BubblePicture::hoverMoveEvent(QHoverEvent* event) {
 }
 
 void BubblePicture::hoverLeaveEvent(QHoverEvent* /*event*/) {
-    endHover();
+    updateBubble(indexOf(hoveredID_));
+    hoveredID_.reset();
+    retip();
 }
 
 void BubblePicture::mousePressEvent(QMouseEvent* event) {
@@ -191,18 +187,16 @@ void BubblePicture::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BubblePicture::mouseReleaseEvent(QMouseEvent* event) {
-    if (std::exchange(pressed_, std::nullopt)) tapAt(event->position());
+    if (!std::exchange(pressed_, std::nullopt)) return;
+    const QPointF point = event->position();
+    if (const auto hit = hitTest(packed_, {point.x(), point.y()})) {
+        setCurrent(hit);
+        tapNode(static_cast<int>(*hit));
+    }
 }
 
 void BubblePicture::mouseUngrabEvent() {
     pressed_.reset();
-}
-
-void BubblePicture::tapAt(QPointF point) {
-    const auto hit = hitTest(packed_, {point.x(), point.y()});
-    if (!hit) return;
-    setCurrent(hit);
-    tapNode(static_cast<int>(*hit));
 }
 
 void BubblePicture::tapNode(int index) {
@@ -231,27 +225,23 @@ void BubblePicture::setCurrent(std::optional<std::size_t> current) {
     emit currentChanged();
 }
 
-void BubblePicture::walk(WalkDirection direction) {
-    if (!current_) return;
-    if (const auto next = nextInDirection(packed_, *current_, direction)) setCurrent(next);
-}
-
 /// Returns false for keys that the map does not handle.
 bool BubblePicture::act(int key, bool repeated) {
     const BubbleSlice* slice = currentSlice();
+    const auto walk = [&](WalkDirection direction) {
+        const auto next = current_ ? nextInDirection(packed_, *current_, direction) : std::nullopt;
+        if (next) setCurrent(next);
+        return true;
+    };
     switch (key) {
         case Qt::Key_Left:
-            walk(WalkDirection::left);
-            return true;
+            return walk(WalkDirection::left);
         case Qt::Key_Right:
-            walk(WalkDirection::right);
-            return true;
+            return walk(WalkDirection::right);
         case Qt::Key_Up:
-            walk(WalkDirection::up);
-            return true;
+            return walk(WalkDirection::up);
         case Qt::Key_Down:
-            walk(WalkDirection::down);
-            return true;
+            return walk(WalkDirection::down);
         case Qt::Key_Home:
             setCurrent(largestCircle(packed_));
             return true;

@@ -122,12 +122,9 @@ private:
     void repack();
     void refresh();
     void hover(QPointF point);
-    void endHover();
-    void tapAt(QPointF point);
     void setByKey(bool byKey);
     void setCurrent(std::optional<std::size_t> current);
     bool act(int key, bool repeated);
-    void walk(WalkDirection direction);
     void retip();
     void updateBubble(const std::optional<std::size_t>& index);
     std::optional<std::size_t> indexOf(const std::optional<std::string>& id) const;

@@ -15,43 +15,22 @@ namespace zelk {
 
 namespace {
 
-/// The dimensions of an orb, in points. All parts but the shadow share one centre.
-struct OrbShape {
-    static constexpr double frame = 150;
-    static constexpr double discRadius = 52;
-    static constexpr double shadowOpacity = 0.5;
-    static constexpr double shadowRadius = 20;  ///< extent of the blur beyond the disc
-    static constexpr double shadowDrop = 8;
-    static constexpr std::array ringRadii{58.0, 65.5, 73.0};
-    static constexpr std::array ringOpacities{0.4, 0.24, 0.12};
-    /// The square that also holds the shadow.
-    static constexpr double shadowFrame = 2 * (discRadius + shadowRadius + shadowDrop);
-};
+// In points. All layers of the orb, and of the scan button, share one centre.
+constexpr double orbFrame = 150;
+constexpr double orbRadius = 52;
+constexpr double orbBlur = 20;  // extent of the shadow beyond the disc
+constexpr double orbDrop = 8;   // by which the shadow lies lower
+constexpr std::array orbRingRadii{58.0, 65.5, 73.0};
+constexpr std::array orbRingOpacities{0.4, 0.24, 0.12};
 
-/// The dimensions of the scan button, in points. All layers share one centre.
-struct ScanButtonShape {
-    static constexpr double frame = 264;  ///< the square that holds the glow
-    static constexpr double discRadius = 92;
-    static constexpr double ringRadius = 108;
-    static constexpr double turningFrame = 228;  ///< the square that holds the rotating decoration
-};
-
-/// The dimensions of the mark of the About window, a disc in the accent gradient within a glow, in points.
-struct AboutMark {
-    static constexpr double discRadius = 39;
-    static constexpr double glowRadius = 48;
-};
-
-constexpr double orbRingWidth = 1.5;
-
-constexpr double nearOpacity = 0.55;
-constexpr double wideOpacity = 0.3;
-constexpr double scanRingOpacity = 0.42;
-constexpr double nearSpread = 20;
-constexpr double wideSpread = 40;
-constexpr double scanRingWidth = 1.25;
+constexpr double scanFrame = 264;  // holds the glow
+constexpr double scanRadius = 92;
+constexpr double scanRingRadius = 108;
+constexpr double cometFrame = 228;
 constexpr double cometWidth = 3;
-constexpr double cometSpan = 270;
+
+constexpr double markRadius = 39;
+constexpr double markGlow = 48;
 
 QColor white(double opacity) {
     return withOpacity(Qt::white, opacity);
@@ -70,82 +49,64 @@ void drawRim(QPainter& painter, QPointF center, double radius, double opacity) {
                  linearBrush(center - up, center + up, {{0, white(opacity)}, {0.45, white(0)}, {1, white(0)}}));
 }
 
+/// The disc of an orb in the module's colour, with its shadow.
 void drawOrbDisc(QPainter& painter, QPointF center, const QColor& tint) {
-    constexpr double radius = OrbShape::discRadius;
-    constexpr double blur = OrbShape::shadowRadius;
-    drawHalo(painter, center + QPointF(0, OrbShape::shadowDrop), tint, OrbShape::shadowOpacity, radius - blur,
-             radius + blur);
-
-    const QPointF corner(radius, radius);
-    fillDisc(painter, center, radius,
+    drawHalo(painter, center + QPointF(0, orbDrop), tint, 0.5, orbRadius - orbBlur, orbRadius + orbBlur);
+    const QPointF corner(orbRadius, orbRadius);
+    fillDisc(painter, center, orbRadius,
              linearBrush(center - corner, center + corner,
                          {{0, mix(tint, Qt::white, 0.22)}, {1, mix(tint, Qt::black, 0.16)}}));
-    drawRim(painter, center, radius, 0.4);
+    drawRim(painter, center, orbRadius, 0.4);
 }
 
-void drawOrbRing(QPainter& painter, QPointF center, std::size_t ring, const QColor& tint) {
-    drawRing(painter, center, OrbShape::ringRadii.at(ring), orbRingWidth,
-             withOpacity(tint, OrbShape::ringOpacities.at(ring)));
-}
-
-void drawAboutMark(QPainter& painter, QPointF center, const QColor& accent) {
-    constexpr double radius = AboutMark::discRadius;
-    drawHalo(painter, center, accent, 0.55, radius - 9, AboutMark::glowRadius);
-    fillDisc(painter, center, radius, accentBrush(center, radius));
-}
-
+/// A near halo, a wide halo and a fine ring around the scan button's disc.
 void drawScanGlow(QPainter& painter, QPointF center, const QColor& accent) {
-    constexpr double radius = ScanButtonShape::discRadius;
-    drawHalo(painter, center, accent, nearOpacity, radius - nearSpread, radius + nearSpread);
-    drawHalo(painter, center, accent, wideOpacity, radius - wideSpread, radius + wideSpread);
-    drawRing(painter, center, ScanButtonShape::ringRadius, scanRingWidth, withOpacity(accent, scanRingOpacity));
+    drawHalo(painter, center, accent, 0.55, scanRadius - 20, scanRadius + 20);
+    drawHalo(painter, center, accent, 0.3, scanRadius - 40, scanRadius + 40);
+    drawRing(painter, center, scanRingRadius, 1.25, withOpacity(accent, 0.42));
 }
 
+/// The scan button's disc, lit from the upper left.
 void drawScanDisc(QPainter& painter, QPointF center) {
-    constexpr double radius = ScanButtonShape::discRadius;
-    fillDisc(painter, center, radius, accentBrush(center, radius));
-    // Lit from the upper left.
-    const QPointF lit = center + QPointF(-0.32, -0.36) * radius;
-    fillDisc(painter, center, radius, radialBrush(lit, 0.95 * radius, {{0, white(0.26)}, {1, white(0)}}));
-    drawRim(painter, center, radius, 0.45);
+    fillDisc(painter, center, scanRadius, accentBrush(center, scanRadius));
+    const QPointF lit = center + QPointF(-0.32, -0.36) * scanRadius;
+    fillDisc(painter, center, scanRadius, radialBrush(lit, 0.95 * scanRadius, {{0, white(0.26)}, {1, white(0)}}));
+    drawRim(painter, center, scanRadius, 0.45);
 }
 
-void drawScanSheen(QPainter& painter, QPointF center) {
-    fillDisc(painter, center, ScanButtonShape::discRadius, white(0.12));
-}
-
+/// An arc with a fading tail on the scan button's ring, its head at twelve o'clock, to be rotated clockwise.
 void drawScanComet(QPainter& painter, QPointF center, const QColor& accent) {
     constexpr double noon = 90;
-    constexpr double radius = ScanButtonShape::ringRadius;
+    constexpr double span = 270;
+    const QPointF corner(scanRingRadius, scanRingRadius);
     const QColor clear = withOpacity(accent, 0);
     const QBrush tail =
         conicalBrush(center, noon, {{0, accent}, {0.25, withOpacity(accent, 0.45)}, {0.75, clear}, {1, clear}});
     painter.setPen(QPen(tail, cometWidth, Qt::SolidLine, Qt::FlatCap));
     painter.setBrush(Qt::NoBrush);
-    painter.drawArc(QRectF(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius),
-                    static_cast<int>(noon * 16), static_cast<int>(cometSpan * 16));
-    fillDisc(painter, center - QPointF(0, radius), cometWidth, accent);
+    painter.drawArc(QRectF(center - corner, center + corner), static_cast<int>(noon * 16), static_cast<int>(span * 16));
+    fillDisc(painter, center - QPointF(0, scanRingRadius), cometWidth, accent);
 }
 
 double sideOf(PaintedLayer::Kind kind) {
     switch (kind) {
         case PaintedLayer::OrbDisc:
-            return OrbShape::shadowFrame;
+            return 2 * (orbRadius + orbBlur + orbDrop);
         case PaintedLayer::InnerRing:
         case PaintedLayer::MiddleRing:
         case PaintedLayer::OuterRing:
-            return OrbShape::frame;
+            return orbFrame;
         case PaintedLayer::Mark:
-            return 2 * AboutMark::glowRadius;
+            return 2 * markGlow;
         case PaintedLayer::Tile:
             return 28;
         case PaintedLayer::ScanGlow:
-            return ScanButtonShape::frame;
+            return scanFrame;
         case PaintedLayer::ScanComet:
-            return ScanButtonShape::turningFrame;
+            return cometFrame;
         case PaintedLayer::ScanDisc:
         case PaintedLayer::ScanSheen:
-            return 2 * ScanButtonShape::discRadius + 2;  // a point for the antialiased edge
+            return 2 * scanRadius + 2;  // a point for the antialiased edge
     }
     return 0;
 }
@@ -219,7 +180,7 @@ void PaintedLayer::setKind(Kind kind) {
 bool PaintedLayer::contains(const QPointF& point) const {
     if (kind_ != ScanGlow) return PaintedOnce::contains(point);
     const QPointF away = point - boundingRect().center();
-    return std::hypot(away.x(), away.y()) <= ScanButtonShape::discRadius;
+    return std::hypot(away.x(), away.y()) <= scanRadius;
 }
 
 QImage PaintedLayer::picture(double scale) const {
@@ -235,15 +196,18 @@ QImage PaintedLayer::picture(double scale) const {
 
 void PaintedLayer::draw(QPainter& painter) const {
     const QPointF center = boundingRect().center();
+    const auto ring = static_cast<std::size_t>(kind_ - InnerRing);  // of an orb
     switch (kind_) {
         case OrbDisc:
             return drawOrbDisc(painter, center, color_);
         case InnerRing:
         case MiddleRing:
         case OuterRing:
-            return drawOrbRing(painter, center, static_cast<std::size_t>(kind_ - InnerRing), color_);
+            return drawRing(painter, center, orbRingRadii.at(ring), 1.5,
+                            withOpacity(color_, orbRingOpacities.at(ring)));
         case Mark:
-            return drawAboutMark(painter, center, color_);
+            drawHalo(painter, center, color_, 0.55, markRadius - 9, markGlow);
+            return fillDisc(painter, center, markRadius, accentBrush(center, markRadius));
         case Tile:
             return paintHouseTile(painter, width());
         case ScanGlow:
@@ -251,7 +215,7 @@ void PaintedLayer::draw(QPainter& painter) const {
         case ScanDisc:
             return drawScanDisc(painter, center);
         case ScanSheen:
-            return drawScanSheen(painter, center);
+            return fillDisc(painter, center, scanRadius, white(0.12));
         case ScanComet:
             return drawScanComet(painter, center, color_);
     }
