@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/charts/BubbleTexts.h"
+#include "ui/charts/BubbleDrawing.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/charts/BubbleWalk.h"
+#include "ui/charts/CirclePacking.h"
 
 #include <gtest/gtest.h>
 

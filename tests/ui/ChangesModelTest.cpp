@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ui/screens/overview/ChangesModel.h"
-
 #include <gmock/gmock.h>
 
 #include <limits>
 #include <string>
+
+#include "ui/screens/overview/TrendsModel.h"
 
 namespace zelk {
 
@@ -20,10 +20,6 @@ std::vector<std::string> texts(const ChangesModel& changes, const char* role) {
     std::vector<std::string> all;
     for (int row = 0; row < changes.rowCount(); ++row) all.push_back(text(changes, row, role));
     return all;
-}
-
-QColor tint(const ChangesModel& changes, int row) {
-    return changes.data(changes.index(row), ChangesModel::tintRole).value<QColor>();
 }
 
 FolderChanges threeKinds() {
@@ -54,15 +50,14 @@ TEST(Changes, omitsEmptySections) {
     EXPECT_THAT(texts(changes, "heading"), ElementsAre("Vanished (1)"));
 }
 
-TEST(Changes, tintsSections) {
+TEST(Changes, rowsKnowTheirSection) {
     ChangesModel changes;
     changes.show(threeKinds());
-    EXPECT_EQ(tint(changes, 0), QColor(62, 155, 255));
-    EXPECT_EQ(tint(changes, 2), QColor(50, 199, 123));
-    EXPECT_EQ(tint(changes, 3), ZelkTheme::dark().inkSoft);
-    changes.setTheme(ZelkTheme::light());
-    EXPECT_EQ(tint(changes, 0), QColor(62, 155, 255));
-    EXPECT_EQ(tint(changes, 3), ZelkTheme::light().inkSoft);
+    std::vector<int> kinds;
+    for (int row = 0; row < changes.rowCount(); ++row)
+        kinds.push_back(changes.data(changes.index(row), ChangesModel::kindRole).toInt());
+    EXPECT_EQ(kinds, (std::vector<int>{ChangesModel::Grew, ChangesModel::Grew, ChangesModel::Appeared,
+                                       ChangesModel::Vanished}));
 }
 
 TEST(Changes, rowShowsLastComponentAndPath) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/screens/overview/DeviceFace.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
 
 #include <gtest/gtest.h>
 

@@ -8,7 +8,7 @@
 #include "ViewFixture.h"
 #include "ui/charts/RibbonPicture.h"
 #include "ui/charts/RingPicture.h"
-#include "ui/screens/overview/DeviceFace.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
 
 namespace zelk {
 

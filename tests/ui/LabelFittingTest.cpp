@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/charts/LabelFitting.h"
+#include "ui/charts/BubbleDrawing.h"
 
 #include <gtest/gtest.h>
 

@@ -61,7 +61,7 @@ TEST_F(ModuleFaces, scanningShowsOrbAboveLabelAndDetail) {
     ModuleScreenModel module(Screen::lens, texts);
     module.setPhase(ModulePhase::scanning);
     module.setScanDetail(QStringLiteral("12 items · 3 MB"));
-    show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleScanning"), "module", &module, {900, 700});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleScaffold"), "module", &module, {900, 700});
     EXPECT_EQ(sizeOf("Surveying your drive…"), 15);
     EXPECT_EQ(sizeOf("12 items · 3 MB"), 12);
     EXPECT_EQ(colorOf("12 items · 3 MB"), theme().inkSoft());

@@ -7,8 +7,6 @@
 
 #include "TextsOf.h"
 #include "state/AppModelFixture.h"
-#include "ui/screens/module/SurveyedModule.h"
-#include "ui/screens/module/UnbuiltModules.h"
 #include "ui/theme/ScreenLook.h"
 
 namespace zelk {

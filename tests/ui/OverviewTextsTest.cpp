@@ -104,6 +104,30 @@ TEST_F(OverviewTexts, standBesideSymbolsInTheColourOfTheType) {
     }
 }
 
+TEST_F(OverviewTexts, cardsHaveTheLooksOfTheirModules) {
+    survey();
+    open();
+    const std::tuple<const char*, const char*, QColor> table[] = {
+        {"findingCard0", "sparkles", {50, 199, 123}},
+        {"findingCard1", "tray.full", {34, 195, 201}},
+        {"findingCard2", "arrow.down.circle", {86, 194, 245}},
+        {"findingCard3", "internaldrive", {124, 131, 255}},
+    };
+    std::vector<QQuickItem*> cards;
+    for (const auto& [name, sign, tint] : table) {
+        cards.push_back(find(name));
+        ASSERT_NE(cards.back(), nullptr) << name;
+        ASSERT_NE(symbol(sign), nullptr) << sign;
+        EXPECT_TRUE(cards.back()->isAncestorOf(symbol(sign)));
+        EXPECT_EQ(symbol(sign)->color(), tint);
+    }
+    model().setVolume(VolumeInfo{100'000'000'000, 44'000'000'000, 45'000'000'000});
+    settle();
+    EXPECT_NE(showing("1 GB"), nullptr);
+    for (std::size_t at = 0; at < cards.size(); ++at)
+        EXPECT_EQ(find(std::get<0>(table[at])), cards[at]) << "a card that has the focus stays";
+}
+
 TEST_F(OverviewTexts, followSurveyWithinQuarterOfASecond) {
     singleton<Motion>("Motion").setReduced(false);
     addWideFolder(home + "/wide");

@@ -3,7 +3,6 @@
 #include "TextsOf.h"
 #include "ViewFixture.h"
 #include "ui/screens/module/ModuleScreenModel.h"
-#include "ui/screens/module/UnbuiltModules.h"
 #include "ui/shell/AboutInfo.h"
 #include "ui/shell/SidebarModel.h"
 
@@ -68,7 +67,7 @@ TEST_F(ShellTexts, aboutShowsNameAndRows) {
 
 TEST_F(ShellTexts, unbuiltModuleShowsPurposeAndNote) {
     const auto module = makeUnbuiltModule(model(), Screen::duplicates);
-    show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleView"), "module", module.get(), {800, 620});
+    show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleScaffold"), "module", module.get(), {800, 620});
     EXPECT_EQ(seenTexts(),
               (Texts{"Duplicates",
                      "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just "

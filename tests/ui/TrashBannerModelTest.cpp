@@ -16,7 +16,7 @@ namespace {
 class TrashBanner : public AppModelFixture {
 protected:
     TrashBannerModel& banner() {
-        if (!banner_) banner_ = std::make_unique<TrashBannerModel>(model(), machine.workspace, showWhenEmpty);
+        if (!banner_) banner_ = std::make_unique<TrashBannerModel>(model(), showWhenEmpty);
         return *banner_;
     }
 
@@ -111,7 +111,7 @@ TEST_F(TrashBanner, oneByteIsNotEmpty) {
 TEST_F(TrashBanner, withoutAccessAtTheFirstRefreshItAsksForItWhateverIsToBeShown) {
     for (const bool whenEmpty : {true, false}) {
         machine.trash.setAccessible(false);
-        TrashBannerModel one(model(), machine.workspace, whenEmpty);
+        TrashBannerModel one(model(), whenEmpty);
         one.appear();
         runWhatIsThere();
         EXPECT_EQ(model().trashBytes(), 0);

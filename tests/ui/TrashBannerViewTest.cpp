@@ -18,7 +18,7 @@ protected:
         show(QStringLiteral("Zelk.App"), QStringLiteral("TrashBanner"), "trash", &banner, {640, 80});
     }
 
-    TrashBannerModel banner{model(), machine.workspace, true};
+    TrashBannerModel banner{model(), true};
 };
 
 }  // namespace

@@ -50,6 +50,7 @@ TEST_F(TrendsWindow, cardShowsFiguresCurveAndChangesButton) {
     ASSERT_NE(arrow, nullptr);
     EXPECT_EQ(arrow->size(), 13);
     EXPECT_EQ(arrow->color(), theme().alert());
+    EXPECT_EQ(nameOf(symbol("arrow.up.right")), "grew");
     EXPECT_EQ(sizeOf("4 GB"), 20);
     EXPECT_EQ(sizeOf("since your last scan · 2 tracked"), 11);
     EXPECT_EQ(sizeOf("≈ 100 days until full at this rate"), 11);
@@ -85,14 +86,18 @@ TEST_F(TrendsWindow, sheetListsFoldersInSections) {
     EXPECT_EQ(colorOf("Vanished (1)"), theme().inkSoft());
     EXPECT_EQ(sizeOf("/home/me/grown"), 9);
     EXPECT_GT(top(showing("/home/me/grown")), top(showing("grown")));
-    int folders = 0;
+    std::vector<QColor> folders;
     for (QQuickItem* item : seen()) {
         const auto* folder = qobject_cast<SymbolItem*>(item);
         if (folder == nullptr || folder->name() != QStringLiteral("folder.fill")) continue;
         EXPECT_EQ(folder->size(), sideBesideText(12));
-        ++folders;
+        folders.push_back(folder->color());
     }
-    EXPECT_EQ(folders, 4);
+    EXPECT_EQ(folders, (std::vector<QColor>{{62, 155, 255}, {62, 155, 255}, {50, 199, 123}, theme().inkSoft()}));
+
+    model().setAppearance(AppModel::Appearance::light);
+    settle();
+    EXPECT_EQ(colorOf("Vanished (1)"), theme().textOn(theme().inkSoft(), theme().textGround()));
 }
 
 TEST_F(TrendsWindow, sheetReportsNoChanges) {
@@ -108,6 +113,32 @@ TEST_F(TrendsWindow, theArrowOfTheCardIsBold) {
     const SymbolItem* arrow = symbol("arrow.up.right");
     ASSERT_NE(arrow, nullptr);
     EXPECT_EQ(arrow->weight(), QFont::Bold);
+}
+
+TEST_F(TrendsWindow, arrowOfShrinkagePointsDownInGreen) {
+    open();
+    machine.directories.unreadable(home + "/grown");
+    survey();
+    settle();
+    const SymbolItem* arrow = symbol("arrow.down.right");
+    ASSERT_NE(arrow, nullptr);
+    EXPECT_EQ(arrow->color(), QColor(50, 199, 123));
+    EXPECT_EQ(nameOf(symbol("arrow.down.right")), "shrank");
+}
+
+TEST_F(TrendsWindow, nearForecastIsInTheAlertColourOfTheTheme) {
+    open();
+    machine.clock.advance(10 * secondsPerDay);
+    machine.vitals.setVolume(home, VolumeInfo{100 * gigabyte, gigabyte, gigabyte});
+    survey();
+    ASSERT_TRUE(trends.alarming());
+    for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
+        model().setAppearance(appearance);
+        settle();
+        const std::string forecast = trends.forecast().toStdString();
+        ASSERT_NE(showing(forecast.c_str()), nullptr) << forecast;
+        EXPECT_EQ(colorOf(forecast.c_str()), theme().alertText());
+    }
 }
 
 }  // namespace zelk

@@ -57,7 +57,45 @@ BubblePicture {
         corner: 8
     }
 
-    BubbleTipCard {
-        tip: chart.tip
+    // The tool tip. Transparent to clicks and hidden from screen readers: the bubble's node says the same.
+    PanelGround {
+        id: card
+
+        readonly property real room: chart.tip.widest - 2 * lines.x
+
+        objectName: "bubbleTip"
+        x: chart.tip.corner.x
+        y: chart.tip.corner.y
+        width: lines.width + 2 * lines.x
+        height: lines.height + 2 * lines.y
+        visible: chart.tip.shown
+        radius: 6
+        lift: 10
+        color: Qt.alpha(Theme.surfaceHi, 0.94)
+
+        Column {
+            id: lines
+
+            x: 8
+            y: 8
+            spacing: 2
+
+            Label {
+                width: Math.min(implicitWidth, card.room)
+                text: chart.tip.label
+                size: 12
+                mute: true
+            }
+
+            Label {
+                width: Math.min(implicitWidth, card.room)
+                text: chart.tip.line
+                size: 11
+                font.weight: Font.Medium
+                font.family: Typeface.fixed
+                color: chart.tip.reclaimable ? Theme.accentText : Theme.ink
+                mute: true
+            }
+        }
     }
 }

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/theme/DisplayText.h"
+
 namespace zelk {
 
 namespace {
@@ -21,6 +23,23 @@ std::string keyOf(const std::vector<BubbleSlice>& slices) {
 }
 
 }  // namespace
+
+BubbleTip BubbleTip::of(const BubbleSlice& slice, QPointF point, QSizeF chart, double textScale) {
+    constexpr double offset = 12;     // from the pointer
+    constexpr double roomWide = 220;  // reserved between the tip and the right edge
+    constexpr double roomHigh = 56;   // reserved below
+    const double width = roomWide * textScale;
+    BubbleTip tip;
+    tip.shown = true;
+    tip.label = slice.label;
+    tip.line = byteFigure(slice.bytes);
+    if (slice.reclaimable) tip.line += QStringLiteral(" · reclaimable");
+    tip.reclaimable = slice.reclaimable;
+    tip.corner = {std::min(point.x() + offset, std::max(chart.width() - width, 0.0)),
+                  std::min(point.y() + offset, std::max(chart.height() - roomHigh * textScale, 0.0))};
+    tip.widest = std::min(std::max(chart.width() - tip.corner.x(), width), chart.width());
+    return tip;
+}
 
 BubblePicture::BubblePicture(QQuickItem* parent) : Drawn(parent) {
     setAcceptHoverEvents(true);
@@ -140,12 +159,6 @@ void BubblePicture::hover(QPointF point) {
     retip();
 }
 
-void BubblePicture::endHover() {
-    updateBubble(indexOf(hoveredID_));
-    hoveredID_.reset();
-    retip();
-}
-
 void BubblePicture::hoverEnterEvent(QHoverEvent* event) {
     hover(event->position());
 }
@@ -155,7 +168,9 @@ void BubblePicture::hoverMoveEvent(QHoverEvent* event) {
 }
 
 void BubblePicture::hoverLeaveEvent(QHoverEvent* /*event*/) {
-    endHover();
+    updateBubble(indexOf(hoveredID_));
+    hoveredID_.reset();
+    retip();
 }
 
 void BubblePicture::mousePressEvent(QMouseEvent* event) {
@@ -172,18 +187,16 @@ void BubblePicture::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BubblePicture::mouseReleaseEvent(QMouseEvent* event) {
-    if (std::exchange(pressed_, std::nullopt)) tapAt(event->position());
+    if (!std::exchange(pressed_, std::nullopt)) return;
+    const QPointF point = event->position();
+    if (const auto hit = hitTest(packed_, {point.x(), point.y()})) {
+        setCurrent(hit);
+        tapNode(static_cast<int>(*hit));
+    }
 }
 
 void BubblePicture::mouseUngrabEvent() {
     pressed_.reset();
-}
-
-void BubblePicture::tapAt(QPointF point) {
-    const auto hit = hitTest(packed_, {point.x(), point.y()});
-    if (!hit) return;
-    setCurrent(hit);
-    tapNode(static_cast<int>(*hit));
 }
 
 void BubblePicture::tapNode(int index) {
@@ -212,27 +225,23 @@ void BubblePicture::setCurrent(std::optional<std::size_t> current) {
     emit currentChanged();
 }
 
-void BubblePicture::walk(WalkDirection direction) {
-    if (!current_) return;
-    if (const auto next = nextInDirection(packed_, *current_, direction)) setCurrent(next);
-}
-
 /// Returns false for keys that the map does not handle.
 bool BubblePicture::act(int key, bool repeated) {
     const BubbleSlice* slice = currentSlice();
+    const auto walk = [&](WalkDirection direction) {
+        const auto next = current_ ? nextInDirection(packed_, *current_, direction) : std::nullopt;
+        if (next) setCurrent(next);
+        return true;
+    };
     switch (key) {
         case Qt::Key_Left:
-            walk(WalkDirection::left);
-            return true;
+            return walk(WalkDirection::left);
         case Qt::Key_Right:
-            walk(WalkDirection::right);
-            return true;
+            return walk(WalkDirection::right);
         case Qt::Key_Up:
-            walk(WalkDirection::up);
-            return true;
+            return walk(WalkDirection::up);
         case Qt::Key_Down:
-            walk(WalkDirection::down);
-            return true;
+            return walk(WalkDirection::down);
         case Qt::Key_Home:
             setCurrent(largestCircle(packed_));
             return true;

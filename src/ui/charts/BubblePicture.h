@@ -4,18 +4,45 @@
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractItemModel>
 #include <QColor>
+#include <QPointF>
 #include <QPointer>
+#include <QSizeF>
+#include <QString>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "ui/charts/BubbleModel.h"
 #include "ui/charts/BubbleNodes.h"
-#include "ui/charts/BubbleTip.h"
-#include "ui/charts/BubbleWalk.h"
+#include "ui/charts/CirclePacking.h"
 #include "ui/controls/Drawn.h"
 
 namespace zelk {
+
+/// The contents and position of the tool tip of a bubble.
+struct BubbleTip {
+    Q_GADGET
+    QML_VALUE_TYPE(bubbleTip)
+    Q_PROPERTY(bool shown MEMBER shown CONSTANT FINAL)
+    Q_PROPERTY(QString label MEMBER label CONSTANT FINAL)
+    Q_PROPERTY(QString line MEMBER line CONSTANT FINAL)
+    Q_PROPERTY(bool reclaimable MEMBER reclaimable CONSTANT FINAL)
+    Q_PROPERTY(QPointF corner MEMBER corner CONSTANT FINAL)
+    Q_PROPERTY(double widest MEMBER widest CONSTANT FINAL)
+
+public:
+    bool shown = false;  ///< the other fields are valid only if set
+    QString label;
+    QString line;  ///< the size, and whether it is reclaimable
+    bool reclaimable = false;
+    QPointF corner;     ///< top left corner, in the chart's points
+    double widest = 0;  ///< maximum width there
+
+    /// The tip at `point` in a chart of size `chart`, with texts scaled by `textScale`.
+    static BubbleTip of(const BubbleSlice& slice, QPointF point, QSizeF chart, double textScale);
+
+    bool operator==(const BubbleTip&) const = default;
+};
 
 /// The bubble map of a BubbleModel: lays out and paints the slices and handles the pointer and the keys. Used by
 /// BubbleChart.
@@ -95,12 +122,9 @@ private:
     void repack();
     void refresh();
     void hover(QPointF point);
-    void endHover();
-    void tapAt(QPointF point);
     void setByKey(bool byKey);
     void setCurrent(std::optional<std::size_t> current);
     bool act(int key, bool repeated);
-    void walk(WalkDirection direction);
     void retip();
     void updateBubble(const std::optional<std::size_t>& index);
     std::optional<std::size_t> indexOf(const std::optional<std::string>& id) const;

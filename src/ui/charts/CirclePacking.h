@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The layout of the bubble map, without drawing. Standard library only.
+// The layout of the bubble map and the way through it, without drawing. Standard library only.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -38,5 +39,18 @@ std::vector<PackedCircle> pack(const std::vector<PackItem>& items, double width,
 
 /// The index of the circle at `point`: the smallest if several overlap, the first of equals; absent if there is none.
 std::optional<std::size_t> hitTest(const std::vector<PackedCircle>& circles, PackedPoint point);
+
+enum class WalkDirection { left, right, up, down };
+
+/// The index of the circle next to `from` in a direction; absent if there is none. Imagine a circle that grows in the
+/// direction while its edge stays on the centre of `from`: the first centre that it reaches is the next one. Straight
+/// ahead that is the distance; centres off to a side count as further away, those behind not at all. (With plain
+/// distance, some bubbles could not be reached by any key.) The first of equals.
+std::optional<std::size_t> nextInDirection(const std::vector<PackedCircle>& circles, std::size_t from,
+                                           WalkDirection direction);
+
+/// The index of the largest and the smallest circle, the first of equals; absent if there are none.
+std::optional<std::size_t> largestCircle(const std::vector<PackedCircle>& circles);
+std::optional<std::size_t> smallestCircle(const std::vector<PackedCircle>& circles);
 
 }  // namespace zelk

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/charts/ModuleGlow.h"
 
-#include <QQuickWindow>
-#include <QSGImageNode>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -42,11 +40,6 @@ Channels channelsOf(const QColor& color) {
 
 }  // namespace
 
-ModuleGlow::ModuleGlow(QQuickItem* parent) : QQuickItem(parent) {
-    setFlag(ItemHasContents);
-    connect(this, &ModuleGlow::changed, this, &ModuleGlow::repaint);
-}
-
 QImage ModuleGlow::picture(double scale) const {
     static const auto dither = ditherSquare();
     const Channels ground = channelsOf(ground_);
@@ -71,41 +64,6 @@ QImage ModuleGlow::picture(double scale) const {
         }
     }
     return image;
-}
-
-void ModuleGlow::repaint() {
-    painted_ = false;
-    update();
-}
-
-QSGNode* ModuleGlow::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-    if (width() <= 0 || height() <= 0) {
-        delete old;
-        return nullptr;
-    }
-    auto* node = static_cast<QSGImageNode*>(old);
-    if (node == nullptr) {
-        node = window()->createImageNode();
-        node->setOwnsTexture(true);
-        painted_ = false;
-    }
-    if (!painted_) {
-        const QImage image = picture(window()->effectiveDevicePixelRatio());
-        node->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureIsOpaque));
-        painted_ = true;
-    }
-    node->setRect(boundingRect());
-    return node;
-}
-
-void ModuleGlow::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemDevicePixelRatioHasChanged) repaint();
-    QQuickItem::itemChange(change, data);
-}
-
-void ModuleGlow::geometryChange(const QRectF& now, const QRectF& before) {
-    QQuickItem::geometryChange(now, before);
-    if (now.size() != before.size()) repaint();
 }
 
 }  // namespace zelk

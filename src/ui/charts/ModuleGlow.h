@@ -5,14 +5,15 @@
 #include <QColor>
 #include <QImage>
 #include <QPointF>
-#include <QQuickItem>
+
+#include "ui/charts/PaintedLayer.h"
 
 namespace zelk {
 
 /// The glow in a module's colour behind its orb, together with the background: an opaque image of the item's size. A
 /// glow this faint spreads a few dozen shades over hundreds of pixels, so it is blended before rounding and dithered,
 /// to avoid bands and shifts of the hue.
-class ModuleGlow : public QQuickItem {
+class ModuleGlow : public zelk::PaintedOnce {
     Q_OBJECT
     QML_ELEMENT
     // The centre, in the item's points.
@@ -28,27 +29,15 @@ public:
     /// Opacity of the colour at the centre.
     static double opacity(bool dark) { return dark ? 0.18 : 0.12; }
 
-    explicit ModuleGlow(QQuickItem* parent = nullptr);
+    using PaintedOnce::PaintedOnce;
 
-    /// Renders the image with `scale` pixels per point.
-    QImage picture(double scale) const;
-
-signals:
-    void changed();
-
-protected:
-    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
-    void geometryChange(const QRectF& now, const QRectF& before) override;
+    QImage picture(double scale) const override;
 
 private:
-    void repaint();
-
     QPointF middle_;
     QColor color_;
     QColor ground_;
     bool dark_ = true;
-    bool painted_ = false;
 };
 
 }  // namespace zelk

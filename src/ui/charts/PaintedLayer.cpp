@@ -1,34 +1,171 @@
 // SPDX-License-Identifier: MIT
 #include "ui/charts/PaintedLayer.h"
 
-#include "ui/charts/HouseTile.h"
-#include "ui/charts/OrbDrawing.h"
+#include <QPainter>
+#include <QQuickWindow>
+#include <QSGImageNode>
+#include <array>
+#include <cmath>
+
+#include "ui/charts/Circles.h"
+#include "ui/controls/Brushes.h"
+#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
 namespace {
 
-constexpr double tileSide = 28;
+// In points. All layers of the orb, and of the scan button, share one centre.
+constexpr double orbFrame = 150;
+constexpr double orbRadius = 52;
+constexpr double orbBlur = 20;  // extent of the shadow beyond the disc
+constexpr double orbDrop = 8;   // by which the shadow lies lower
+constexpr std::array orbRingRadii{58.0, 65.5, 73.0};
+constexpr std::array orbRingOpacities{0.4, 0.24, 0.12};
+
+constexpr double scanFrame = 264;  // holds the glow
+constexpr double scanRadius = 92;
+constexpr double scanRingRadius = 108;
+constexpr double cometFrame = 228;
+constexpr double cometWidth = 3;
+
+constexpr double markRadius = 39;
+constexpr double markGlow = 48;
+
+QColor white(double opacity) {
+    return withOpacity(Qt::white, opacity);
+}
+
+/// The accent gradient across the square around a circle.
+QBrush accentBrush(QPointF center, double radius) {
+    const QPointF corner(radius, radius);
+    return linearBrush(center - corner, center + corner, {{0, AccentGradient::from()}, {1, AccentGradient::to()}});
+}
+
+/// A highlight along the upper edge of a disc.
+void drawRim(QPainter& painter, QPointF center, double radius, double opacity) {
+    const QPointF up(0, radius);
+    strokeCircle(painter, center, radius - 0.5, 1,
+                 linearBrush(center - up, center + up, {{0, white(opacity)}, {0.45, white(0)}, {1, white(0)}}));
+}
+
+/// The disc of an orb in the module's colour, with its shadow.
+void drawOrbDisc(QPainter& painter, QPointF center, const QColor& tint) {
+    drawHalo(painter, center + QPointF(0, orbDrop), tint, 0.5, orbRadius - orbBlur, orbRadius + orbBlur);
+    const QPointF corner(orbRadius, orbRadius);
+    fillDisc(painter, center, orbRadius,
+             linearBrush(center - corner, center + corner,
+                         {{0, mix(tint, Qt::white, 0.22)}, {1, mix(tint, Qt::black, 0.16)}}));
+    drawRim(painter, center, orbRadius, 0.4);
+}
+
+/// A near halo, a wide halo and a fine ring around the scan button's disc.
+void drawScanGlow(QPainter& painter, QPointF center, const QColor& accent) {
+    drawHalo(painter, center, accent, 0.55, scanRadius - 20, scanRadius + 20);
+    drawHalo(painter, center, accent, 0.3, scanRadius - 40, scanRadius + 40);
+    drawRing(painter, center, scanRingRadius, 1.25, withOpacity(accent, 0.42));
+}
+
+/// The scan button's disc, lit from the upper left.
+void drawScanDisc(QPainter& painter, QPointF center) {
+    fillDisc(painter, center, scanRadius, accentBrush(center, scanRadius));
+    const QPointF lit = center + QPointF(-0.32, -0.36) * scanRadius;
+    fillDisc(painter, center, scanRadius, radialBrush(lit, 0.95 * scanRadius, {{0, white(0.26)}, {1, white(0)}}));
+    drawRim(painter, center, scanRadius, 0.45);
+}
+
+/// An arc with a fading tail on the scan button's ring, its head at twelve o'clock, to be rotated clockwise.
+void drawScanComet(QPainter& painter, QPointF center, const QColor& accent) {
+    constexpr double noon = 90;
+    constexpr double span = 270;
+    const QPointF corner(scanRingRadius, scanRingRadius);
+    const QColor clear = withOpacity(accent, 0);
+    const QBrush tail =
+        conicalBrush(center, noon, {{0, accent}, {0.25, withOpacity(accent, 0.45)}, {0.75, clear}, {1, clear}});
+    painter.setPen(QPen(tail, cometWidth, Qt::SolidLine, Qt::FlatCap));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawArc(QRectF(center - corner, center + corner), static_cast<int>(noon * 16), static_cast<int>(span * 16));
+    fillDisc(painter, center - QPointF(0, scanRingRadius), cometWidth, accent);
+}
 
 double sideOf(PaintedLayer::Kind kind) {
     switch (kind) {
         case PaintedLayer::OrbDisc:
-            return OrbShape::shadowFrame;
+            return 2 * (orbRadius + orbBlur + orbDrop);
         case PaintedLayer::InnerRing:
         case PaintedLayer::MiddleRing:
         case PaintedLayer::OuterRing:
-            return OrbShape::frame;
+            return orbFrame;
         case PaintedLayer::Mark:
-            return 2 * AboutMark::glowRadius;
+            return 2 * markGlow;
         case PaintedLayer::Tile:
-            return tileSide;
+            return 28;
+        case PaintedLayer::ScanGlow:
+            return scanFrame;
+        case PaintedLayer::ScanComet:
+            return cometFrame;
+        case PaintedLayer::ScanDisc:
+        case PaintedLayer::ScanSheen:
+            return 2 * scanRadius + 2;  // a point for the antialiased edge
     }
     return 0;
 }
 
 }  // namespace
 
-PaintedLayer::PaintedLayer(QQuickItem* parent) : Drawn(parent) {
+void paintHouseTile(QPainter& painter, double side) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(accentBrush({side / 2, side / 2}, side / 2));
+    const double corner = side * 0.24;
+    painter.drawRoundedRect(QRectF(0, 0, side, side), corner, corner);
+}
+
+PaintedOnce::PaintedOnce(QQuickItem* parent) : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+    connect(this, &PaintedOnce::changed, this, &PaintedOnce::repaint);
+}
+
+void PaintedOnce::repaint() {
+    painted_ = false;
+    update();
+}
+
+QSGNode* PaintedOnce::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
+    if (width() <= 0 || height() <= 0) {
+        delete old;
+        return nullptr;
+    }
+    auto* node = static_cast<QSGImageNode*>(old);
+    if (node == nullptr) {
+        node = window()->createImageNode();
+        node->setOwnsTexture(true);
+        painted_ = false;
+    }
+    if (!painted_) {
+        const QImage image = picture(window()->effectiveDevicePixelRatio());
+        const bool clear = image.hasAlphaChannel();
+        // An opaque picture is neither rotated nor scaled, and smoothing would undo its dithering.
+        node->setFiltering(clear ? QSGTexture::Linear : QSGTexture::Nearest);
+        node->setTexture(window()->createTextureFromImage(
+            image, clear ? QQuickWindow::TextureHasAlphaChannel : QQuickWindow::TextureIsOpaque));
+        painted_ = true;
+    }
+    node->setRect(boundingRect());
+    return node;
+}
+
+void PaintedOnce::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemDevicePixelRatioHasChanged) repaint();
+    QQuickItem::itemChange(change, data);
+}
+
+void PaintedOnce::geometryChange(const QRectF& now, const QRectF& before) {
+    QQuickItem::geometryChange(now, before);
+    if (now.size() != before.size()) repaint();
+}
+
+PaintedLayer::PaintedLayer(QQuickItem* parent) : PaintedOnce(parent) {
     setImplicitSize(sideOf(kind_), sideOf(kind_));
 }
 
@@ -36,23 +173,51 @@ void PaintedLayer::setKind(Kind kind) {
     if (kind == kind_) return;
     kind_ = kind;
     setImplicitSize(sideOf(kind), sideOf(kind));
-    update();
+    emit changed();
     emit kindChanged();
 }
 
-void PaintedLayer::draw(QPainter& painter) {
+bool PaintedLayer::contains(const QPointF& point) const {
+    if (kind_ != ScanGlow) return PaintedOnce::contains(point);
+    const QPointF away = point - boundingRect().center();
+    return std::hypot(away.x(), away.y()) <= scanRadius;
+}
+
+QImage PaintedLayer::picture(double scale) const {
+    QImage image(static_cast<int>(std::ceil(width() * scale)), static_cast<int>(std::ceil(height() * scale)),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw(painter);
+    return image;
+}
+
+void PaintedLayer::draw(QPainter& painter) const {
     const QPointF center = boundingRect().center();
+    const auto ring = static_cast<std::size_t>(kind_ - InnerRing);  // of an orb
     switch (kind_) {
         case OrbDisc:
             return drawOrbDisc(painter, center, color_);
         case InnerRing:
         case MiddleRing:
         case OuterRing:
-            return drawOrbRing(painter, center, kind_ - InnerRing, color_);
+            return drawRing(painter, center, orbRingRadii.at(ring), 1.5,
+                            withOpacity(color_, orbRingOpacities.at(ring)));
         case Mark:
-            return drawAboutMark(painter, center, color_);
+            drawHalo(painter, center, color_, 0.55, markRadius - 9, markGlow);
+            return fillDisc(painter, center, markRadius, accentBrush(center, markRadius));
         case Tile:
             return paintHouseTile(painter, width());
+        case ScanGlow:
+            return drawScanGlow(painter, center, color_);
+        case ScanDisc:
+            return drawScanDisc(painter, center);
+        case ScanSheen:
+            return fillDisc(painter, center, scanRadius, white(0.12));
+        case ScanComet:
+            return drawScanComet(painter, center, color_);
     }
 }
 

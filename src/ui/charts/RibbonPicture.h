@@ -17,7 +17,6 @@ struct RibbonSegment {
     Q_GADGET
     QML_VALUE_TYPE(ribbonSegment)
     Q_PROPERTY(QString label MEMBER label FINAL)
-    Q_PROPERTY(qint64 bytes MEMBER bytes FINAL)
     Q_PROPERTY(QString bytesText MEMBER bytesText FINAL)
     Q_PROPERTY(QColor color MEMBER color FINAL)
 

@@ -20,11 +20,11 @@ BaseButton {
     implicitHeight: glow.implicitHeight
     containmentMask: glow
 
-    ScanButtonLayer {
+    PaintedLayer {
         id: glow
 
         anchors.centerIn: parent
-        kind: ScanButtonLayer.Glow
+        kind: PaintedLayer.ScanGlow
         color: Theme.accent
         scale: button.hovered && !button.scanning ? 1.05 : 1
         Behavior on scale {
@@ -35,12 +35,12 @@ BaseButton {
         }
     }
 
-    ScanButtonLayer {
+    PaintedLayer {
         id: comet
 
         objectName: "comet"
         anchors.centerIn: parent
-        kind: ScanButtonLayer.Comet
+        kind: PaintedLayer.ScanComet
         color: Theme.accent
         opacity: button.scanning ? 1 : 0
         visible: opacity > 0
@@ -68,16 +68,16 @@ BaseButton {
             }
         }
 
-        ScanButtonLayer {
+        PaintedLayer {
             id: disc
 
             anchors.centerIn: parent
-            kind: ScanButtonLayer.Disc
+            kind: PaintedLayer.ScanDisc
         }
 
-        ScanButtonLayer {
+        PaintedLayer {
             anchors.centerIn: parent
-            kind: ScanButtonLayer.Sheen
+            kind: PaintedLayer.ScanSheen
             opacity: button.hovered && !button.scanning ? 1 : 0
             Behavior on opacity {
                 NumberAnimation {
@@ -86,14 +86,14 @@ BaseButton {
             }
         }
 
-        ScanButtonFace {
+        Face {
             shown: button.idle
             symbol: "scope"
             title: qsTr("Scan")
             titleSize: 20
             caption: SystemTexts.of(SystemTexts.WholeComputer)
         }
-        ScanButtonFace {
+        Face {
             shown: button.scanning
             bytes: button.scanned
             titleSize: 26
@@ -101,7 +101,7 @@ BaseButton {
             interval: Motion.readable
             caption: qsTr("scanning…")
         }
-        ScanButtonFace {
+        Face {
             shown: button.finished
             bytes: button.recoverable
             titleSize: 28
@@ -119,6 +119,89 @@ BaseButton {
         FocusRing {
             shown: button.visualFocus
             corner: disc.height / 2
+        }
+    }
+
+    // The texts in one phase. They cross-fade with the other faces; empty lines take no space.
+    component Face: Column {
+        id: face
+
+        required property bool shown
+        property string symbol: ""
+        // A word, or a number of bytes in its place.
+        property string title: ""
+        property real bytes: NaN
+        required property real titleSize
+        // How a number runs, as in AnimatedNumber.
+        property int duration: 0
+        property int interval: 0
+        required property string caption
+        property string hint: ""
+
+        // The usable width of the disc. Everything is scaled down to fit it.
+        readonly property real room: 152
+        readonly property real fit: Math.min(1, face.room / Math.max(1, face.implicitWidth))
+
+        anchors.centerIn: parent
+        spacing: 2
+        opacity: face.shown ? 1 : 0
+        scale: face.fit * (face.shown ? 1 : 0.9)
+        // In sight from the start, so that a number that is set then is seen to run.
+        visible: face.shown || opacity > 0
+
+        Behavior on opacity {
+            NumberAnimation {
+                duration: Motion.gentle
+                easing.type: Easing.OutCubic
+            }
+        }
+        Behavior on scale {
+            NumberAnimation {
+                duration: Motion.gentle
+                easing.type: Easing.OutCubic
+            }
+        }
+
+        SymbolItem {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: face.symbol
+            color: Theme.accentInk
+            size: 34
+            visible: name !== ""
+        }
+
+        AnimatedNumber {
+            anchors.horizontalCenter: parent.horizontalCenter
+            value: face.bytes
+            phrase: face.title
+            duration: face.duration
+            interval: face.interval
+            color: Theme.accentInk
+            pixelSize: face.titleSize
+            bold: true
+            mute: true
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: face.caption
+            color: Theme.accentInk
+            opacity: 0.8
+            font.pixelSize: Math.round(11 * TextScale.factor)
+            font.weight: Font.Medium
+            Accessible.ignored: true
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            topPadding: 8
+            text: face.hint
+            color: Theme.accentInk
+            opacity: 0.7
+            font.pixelSize: Math.round(10 * TextScale.factor)
+            font.weight: Font.DemiBold
+            visible: text !== ""
+            Accessible.ignored: true
         }
     }
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A determinate progress bar. Animates to each new value, or jumps with reduced motion.
+// A determinate progress bar: a track, filled from the left. Any positive share is visible at least as a dot. Animates
+// to each new value, or jumps with reduced motion.
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.Charts
 import Zelk.Controls
 
-SharePicture {
+Rectangle {
     id: bar
 
     // 0 to 1.
@@ -15,11 +15,12 @@ SharePicture {
     required property string name
     required property string progress
 
+    property real share: bar.value
+
     implicitWidth: 220
     implicitHeight: 6
-    share: bar.value
-    color: Theme.accent
-    track: Theme.hairline
+    radius: bar.height / 2
+    color: Theme.hairline
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: bar.name
@@ -29,5 +30,13 @@ SharePicture {
         NumberAnimation {
             duration: Motion.quick
         }
+    }
+
+    Rectangle {
+        width: Math.min(Math.max(bar.share * bar.width, bar.height), bar.width)
+        height: bar.height
+        radius: bar.radius
+        color: Theme.accent
+        visible: bar.share > 0
     }
 }

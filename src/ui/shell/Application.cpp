@@ -7,7 +7,7 @@
 #include <QPixmap>
 #include <utility>
 
-#include "ui/charts/HouseTile.h"
+#include "ui/charts/PaintedLayer.h"
 #include "ui/controls/DialogScope.h"
 #include "ui/theme/SymbolItem.h"
 #include "ui/theme/ZelkTheme.h"

@@ -8,7 +8,7 @@
 #include "state/AppModel.h"
 #include "ui/screens/clutter/ClutterScreenModel.h"
 #include "ui/screens/lens/LensScreenModel.h"
-#include "ui/screens/module/UnbuiltModules.h"
+#include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/screens/settings/SettingsScreenModel.h"
@@ -46,14 +46,14 @@ std::unique_ptr<QObject> introduce(const ScreenContext& context) {
 constexpr ScreenPlace places[] = {
     {Screen::survey, "SurveyView", "survey", make<SurveyScreenModel>},
     {Screen::reclaim, "DevCleanupView", "reclaim", make<ReclaimScreenModel>},
-    {Screen::privacy, "ModuleView", "module", introduce<Screen::privacy>},
-    {Screen::tune, "ModuleView", "module", introduce<Screen::tune>},
-    {Screen::apps, "ModuleView", "module", introduce<Screen::apps>},
+    {Screen::privacy, "ModuleScaffold", "module", introduce<Screen::privacy>},
+    {Screen::tune, "ModuleScaffold", "module", introduce<Screen::tune>},
+    {Screen::apps, "ModuleScaffold", "module", introduce<Screen::apps>},
     {Screen::clutter, "ClutterView", "clutter", make<ClutterScreenModel>},
-    {Screen::duplicates, "ModuleView", "module", introduce<Screen::duplicates>},
+    {Screen::duplicates, "ModuleScaffold", "module", introduce<Screen::duplicates>},
     {Screen::lens, "MapView", "lens", make<LensScreenModel>},
-    {Screen::health, "ModuleView", "module", introduce<Screen::health>},
-    {Screen::system, "ModuleView", "module", introduce<Screen::system>},
+    {Screen::health, "ModuleScaffold", "module", introduce<Screen::health>},
+    {Screen::system, "ModuleScaffold", "module", introduce<Screen::system>},
     {Screen::tools, "ToolsView", "tools", make<ToolsScreenModel>},
     {Screen::settings, "SettingsView", "settings", make<SettingsScreenModel>},
 };

@@ -8,7 +8,7 @@
 #include "ui/charts/BubbleModel.h"
 #include "ui/charts/RibbonPicture.h"
 #include "ui/screens/module/ModuleScreenModel.h"
-#include "ui/screens/overview/DeviceFace.h"
+#include "ui/screens/overview/SurveyScreenModel.h"
 
 namespace zelk {
 

@@ -10,7 +10,7 @@
 #include "scan/FileType.h"
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/clutter/LargeFileRows.h"
-#include "ui/screens/module/SurveyedModule.h"
+#include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/theme/FileTypeLook.h"
 
 namespace zelk {

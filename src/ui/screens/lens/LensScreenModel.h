@@ -15,7 +15,7 @@
 #include "ui/screens/lens/FolderIcons.h"
 #include "ui/screens/lens/LensRows.h"
 #include "ui/screens/lens/LensWalk.h"
-#include "ui/screens/module/SurveyedModule.h"
+#include "ui/screens/module/ModuleScreenModel.h"
 
 namespace zelk {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The frame of a module that scans: start page, progress, and results. A module provides its model and a component for
-// the results, which has a `module` property. The results are created when first shown, and then kept.
+// the results, which has a `module` property; they are created when first shown, and then kept. Without such a component
+// it never has results.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -11,7 +12,7 @@ FocusScope {
     id: scaffold
 
     required property ModuleScreenModel module
-    required property Component content
+    property Component content: null
     property Component trailing: null
 
     Rectangle {
@@ -30,13 +31,58 @@ FocusScope {
     }
 
     ModuleFace {
-        id: progressArea
+        id: progress
 
         shown: scaffold.module.scanning
 
-        ModuleScanning {
-            anchors.fill: parent
-            module: scaffold.module
+        Column {
+            anchors.centerIn: parent
+            width: parent.width - 2 * 26
+
+            ModuleOrb {
+                anchors.horizontalCenter: parent.horizontalCenter
+                symbol: scaffold.module.symbol
+                tint: scaffold.module.tint
+                pulsing: true
+            }
+
+            Label {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, parent.width)
+                topPadding: 20
+                text: scaffold.module.scanningLabel
+                size: 15
+                font.weight: Font.DemiBold
+            }
+
+            AnimatedNumber {
+                anchors.horizontalCenter: parent.horizontalCenter
+                objectName: "moduleScanDetail"
+                width: Math.min(implicitWidth, parent.width)
+                phrase: scaffold.module.scanDetail
+                color: Theme.inkSoft
+                pixelSize: 12
+                visible: text !== ""
+            }
+
+            Item {
+                width: 1
+                height: 20
+            }
+
+            ModuleProgressBar {
+                anchors.horizontalCenter: parent.horizontalCenter
+                objectName: "moduleProgressBar"
+                tint: scaffold.module.tint
+                name: scaffold.module.title
+                doing: scaffold.module.scanningLabel
+            }
+        }
+
+        Shortcut {
+            sequence: "Escape"
+            enabled: progress.visible && scaffold.module.scanning
+            onActivated: scaffold.module.cancel()
         }
     }
 
@@ -81,6 +127,26 @@ FocusScope {
             property: "module"
             value: scaffold.module
             when: results.item
+        }
+    }
+
+    // A page. Cross-fades with the previous one and takes no input while hidden.
+    component ModuleFace: FocusScope {
+        id: face
+
+        required property bool shown
+
+        anchors.fill: parent
+        opacity: face.shown ? 1 : 0
+        visible: opacity > 0
+        enabled: face.shown
+        focus: face.shown
+
+        Behavior on opacity {
+            NumberAnimation {
+                duration: Motion.gentle
+                easing.type: Easing.OutCubic
+            }
         }
     }
 }

@@ -3,9 +3,30 @@
 
 #include <utility>
 
+#include "state/AppModel.h"
+#include "ui/theme/DisplayText.h"
 #include "ui/theme/ScreenLook.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
+
+namespace {
+
+constexpr int progressInterval = 80;  // milliseconds
+
+ModulePhase phaseOf(AppModel::ScanPhase phase) {
+    switch (phase) {
+        case AppModel::ScanPhase::idle:
+            return ModulePhase::idle;
+        case AppModel::ScanPhase::scanning:
+            return ModulePhase::scanning;
+        case AppModel::ScanPhase::finished:
+            return ModulePhase::results;
+    }
+    return ModulePhase::idle;
+}
+
+}  // namespace
 
 ModuleScreenModel::ModuleScreenModel(Screen screen, ModuleTexts texts, std::function<void()> onScan,
                                      std::function<void()> onCancel)
@@ -38,6 +59,63 @@ void ModuleScreenModel::scan() {
 
 void ModuleScreenModel::cancel() {
     if (onCancel_ && scanning()) onCancel_();
+}
+
+SurveyedModule::SurveyedModule(AppModel& app, Screen screen, ModuleTexts texts)
+    : ModuleScreenModel(
+          screen, std::move(texts), [&app] { app.startScan(); }, [&app] { app.cancelScan(); }),
+      app_(app) {
+    timer_.setSingleShot(true);
+    timer_.setInterval(progressInterval);
+    connect(&timer_, &QTimer::timeout, this, [this] { setScanDetail(displayText(app_.progressLine())); });
+    connect(&app, &AppModel::scanPhaseChanged, this, &SurveyedModule::followPhase);
+    connect(&app, &AppModel::progressChanged, this, &SurveyedModule::followProgress);
+    followPhase();
+}
+
+/// When the phase begins, the counts are still those of the previous survey. The next tick updates them.
+void SurveyedModule::followPhase() {
+    setPhase(phaseOf(app_.scanPhase()));
+    followProgress();
+}
+
+void SurveyedModule::followProgress() {
+    if (!timer_.isActive()) timer_.start();
+}
+
+std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen) {
+    const ScreenLook& look = lookOf(screen);
+    // No scan label and therefore no button, since there is nothing to start.
+    ModuleTexts texts;
+    texts.subtitle = look.subtitle;
+    texts.note = ModuleScreenModel::tr("%1 is not in this version yet.").arg(look.title);
+    switch (screen) {
+        case Screen::privacy:
+            texts.subtitle = ModuleScreenModel::tr(
+                "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that "
+                "needs a signature database).");
+            break;
+        case Screen::apps:
+            texts.subtitle = ModuleScreenModel::tr(
+                "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, "
+                "preferences, and support files.");
+            break;
+        case Screen::duplicates:
+            texts.subtitle = ModuleScreenModel::tr(
+                "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.");
+            break;
+        case Screen::health:
+            texts.title = SystemTexts::of(SystemTexts::HealthTitle);
+            texts.subtitle = displayText(app.device().osVersion);
+            break;
+        case Screen::system:
+            texts.title = ModuleScreenModel::tr("System & snapshots");
+            texts.subtitle = ModuleScreenModel::tr("what the treemap can't show");
+            break;
+        default:
+            break;
+    }
+    return std::make_unique<ModuleScreenModel>(screen, texts);
 }
 
 }  // namespace zelk

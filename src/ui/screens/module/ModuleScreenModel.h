@@ -5,12 +5,26 @@
 #include <QColor>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <functional>
+#include <memory>
 
 #include "state/Screen.h"
-#include "ui/screens/module/ModuleTexts.h"
 
 namespace zelk {
+
+class AppModel;
+
+/// The texts of ModuleScaffold. Empty ones take no space.
+struct ModuleTexts {
+    QString title;
+    QString subtitle;
+    QString scanLabel;      ///< of the button on the start page; without it there is no button
+    QString scanningLabel;  ///< shown while it scans
+    QString note;           ///< a line of secondary text on the start page
+
+    bool operator==(const ModuleTexts&) const = default;
+};
 
 /// The states of a module that scans for something, each with a page of its own.
 enum class ModulePhase { idle, scanning, results };
@@ -75,5 +89,28 @@ private:
     ModulePhase phase_ = ModulePhase::idle;
     QString scanDetail_;
 };
+
+/// A module based on the survey: has its phase, starts one with its button, and shows its progress, throttled to a
+/// dozen updates per second. Main thread.
+class SurveyedModule : public zelk::ModuleScreenModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the main window")
+
+public:
+    /// `app` must outlive it.
+    SurveyedModule(AppModel& app, Screen screen, ModuleTexts texts);
+
+private:
+    void followPhase();
+    void followProgress();
+
+    AppModel& app_;
+    QTimer timer_;
+};
+
+/// Creates the model for a module without a view in this version, which introduces the module and says so. `screen`
+/// must be such a module.
+std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen);
 
 }  // namespace zelk

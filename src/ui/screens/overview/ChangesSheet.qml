@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Shows which folders grew, appeared or vanished since the previous survey.
+// Shows which folders grew, appeared or vanished since the previous survey, by section.
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
@@ -22,7 +23,7 @@ Sheet {
         implicitHeight: 260
 
         Column {
-            id: heading
+            id: titles
 
             anchors.left: parent.left
             anchors.right: done.left
@@ -50,7 +51,7 @@ Sheet {
 
             objectName: "changesDone"
             anchors.right: parent.right
-            anchors.verticalCenter: heading.verticalCenter
+            anchors.verticalCenter: titles.verticalCenter
             horizontalPadding: 20
             verticalPadding: 9
             focus: true
@@ -68,13 +69,121 @@ Sheet {
             soft: true
         }
 
-        ChangesList {
-            anchors.top: heading.bottom
+        // A ListView, since there may be hundreds of folders.
+        ListView {
+            id: list
+
+            objectName: "changesList"
+            anchors.top: titles.bottom
             anchors.topMargin: 16
             anchors.bottom: parent.bottom
             width: parent.width
             visible: !sheet.trends.changes.empty
-            changes: sheet.trends.changes
+            model: sheet.trends.changes
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            activeFocusOnTab: true
+            currentIndex: -1
+            highlightFollowsCurrentItem: false
+
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("What changed")
+
+            Keys.onUpPressed: list.flickBy(-48)
+            Keys.onDownPressed: list.flickBy(48)
+
+            function flickBy(distance: real) {
+                const end = Math.max(list.originY, list.originY + list.contentHeight - list.height);
+                list.contentY = Math.min(Math.max(list.contentY + distance, list.originY), end);
+            }
+
+            T.ScrollBar.vertical: ThinScrollBar {}
+
+            delegate: Column {
+                id: place
+
+                required property string heading
+                required property int kind
+                required property string name
+                required property string path
+                required property string size
+
+                readonly property color tint: place.kind === ChangesModel.Grew ? "#3e9bff" : place.kind === ChangesModel.Appeared ? "#32c77b" : Theme.inkSoft
+
+                width: ListView.view.width
+
+                Label {
+                    width: parent.width
+                    topPadding: 14
+                    bottomPadding: 6
+                    text: place.heading
+                    size: 12
+                    font.weight: Font.DemiBold
+                    color: Theme.textOn(place.tint, Theme.textGround)
+                    visible: text !== ""
+                    Accessible.role: Accessible.Heading
+                }
+
+                Item {
+                    width: parent.width
+                    implicitHeight: Math.max(44, words.implicitHeight + 14)
+
+                    Accessible.role: Accessible.ListItem
+                    Accessible.name: AccessibleText.joined([place.name, place.path, place.size])
+
+                    TextSymbol {
+                        id: folder
+
+                        anchors.verticalCenter: parent.verticalCenter
+                        name: "folder.fill"
+                        color: place.tint
+                        points: 12 * TextScale.factor
+                    }
+
+                    Column {
+                        id: words
+
+                        anchors.left: folder.right
+                        anchors.leftMargin: 12
+                        anchors.right: figure.left
+                        anchors.rightMargin: 16
+                        anchors.verticalCenter: parent.verticalCenter
+                        spacing: 2
+
+                        Label {
+                            width: parent.width
+                            text: place.name
+                            elide: Text.ElideMiddle
+                            mute: true
+                        }
+
+                        Label {
+                            width: parent.width
+                            text: place.path
+                            size: 9
+                            soft: true
+                            elide: Text.ElideMiddle
+                            mute: true
+                        }
+                    }
+
+                    AnimatedNumber {
+                        id: figure
+
+                        anchors.right: parent.right
+                        anchors.rightMargin: 12
+                        anchors.verticalCenter: parent.verticalCenter
+                        phrase: place.size
+                        pixelSize: 12
+                        mute: true
+                    }
+                }
+            }
+
+            FocusRing {
+                shown: list.activeFocus
+                corner: 8
+            }
         }
     }
 }

@@ -5,6 +5,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.App
+import Zelk.Charts
 import Zelk.Controls
 
 Column {
@@ -12,14 +13,72 @@ Column {
 
     required property SurveyScreenModel survey
 
+    readonly property FindingsModel findings: block.survey.findings
+
     objectName: "findings"
     spacing: 22
     visible: block.survey.finished
     enabled: block.survey.finished
 
-    Headline {
+    // The reclaimable bytes in large type, and the button to review them.
+    Item {
         width: parent.width
-        findings: block.survey.findings
+        implicitHeight: Math.max(words.implicitHeight, review.visible ? review.implicitHeight : 0)
+
+        Column {
+            id: words
+
+            anchors.left: parent.left
+            anchors.right: review.visible ? review.left : parent.right
+            anchors.rightMargin: review.visible ? 16 : 0
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 4
+
+            Label {
+                width: parent.width
+                text: block.findings.reviewable ? qsTr("You can reclaim") : qsTr("Clean drive")
+                size: block.findings.reviewable ? 13 : 26
+                soft: block.findings.reviewable
+                font.weight: block.findings.reviewable ? Font.Medium : Font.Bold
+                Accessible.role: Accessible.Heading
+            }
+
+            AnimatedNumber {
+                value: block.findings.recoverable
+                visible: block.findings.reviewable
+                pixelSize: 34
+                bold: true
+            }
+
+            Label {
+                width: parent.width
+                text: block.findings.line
+                size: 12
+                soft: true
+                wrapMode: Text.Wrap
+            }
+
+            Label {
+                objectName: "unreadLine"
+                width: parent.width
+                text: block.findings.unreadLine
+                visible: text !== ""
+                size: 12
+                soft: true
+                wrapMode: Text.Wrap
+            }
+        }
+
+        PrimaryButton {
+            id: review
+
+            objectName: "reviewButton"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            visible: block.findings.reviewable
+            text: qsTr("Review  →")
+            onClicked: block.findings.review()
+        }
     }
 
     Eyebrow {
@@ -28,20 +87,92 @@ Column {
         Accessible.role: Accessible.Heading
     }
 
-    StorageCard {
+    // The surveyed bytes by type, and below them the Trash.
+    Card {
+        id: storage
+
         width: parent.width
-        findings: block.survey.findings
-        trash: block.survey.trash
+
+        Column {
+            width: storage.availableWidth
+            spacing: 14
+
+            Eyebrow {
+                text: qsTr("Scanned storage")
+                Accessible.role: Accessible.Heading
+            }
+
+            StorageRibbon {
+                width: parent.width
+                segments: block.findings.segments
+                freeBytes: block.findings.freeBytes
+            }
+
+            Divider {
+                width: parent.width
+            }
+
+            TrashBanner {
+                width: parent.width
+                trash: block.survey.trash
+            }
+        }
     }
 
-    CardGrid {
+    // The finding cards in one row, or two by two in a narrow window.
+    Grid {
+        id: grid
+
+        readonly property real readable: 172 * TextScale.factor
+        readonly property real cell: (grid.width - (grid.columns - 1) * grid.spacing) / grid.columns
+
         width: parent.width
-        cards: block.survey.findings.cards
+        spacing: 14
+        columns: grid.width >= 4 * grid.readable + 3 * grid.spacing ? 4 : 2
+
+        Repeater {
+            model: [
+                {
+                    symbol: "sparkles",
+                    title: qsTr("Reclaim"),
+                    tint: "#32c77b"
+                },
+                {
+                    symbol: "tray.full",
+                    title: qsTr("Clutter"),
+                    tint: "#22c3c9"
+                },
+                {
+                    symbol: "arrow.down.circle",
+                    title: qsTr("Downloads"),
+                    tint: "#56c2f5"
+                },
+                {
+                    symbol: "internaldrive",
+                    title: qsTr("System"),
+                    tint: "#7c83ff"
+                }
+            ]
+
+            ModuleCard {
+                required property int index
+                required property var modelData
+
+                objectName: "findingCard" + index
+                width: grid.cell
+                symbol: modelData.symbol
+                title: modelData.title
+                tint: modelData.tint
+                value: block.findings.cardBytes[index]
+                detail: block.findings.cardDetails[index]
+                onClicked: block.findings.openCard(index)
+            }
+        }
     }
 
     LargestCard {
         width: parent.width
-        findings: block.survey.findings
+        findings: block.findings
     }
 
     TrendsCard {

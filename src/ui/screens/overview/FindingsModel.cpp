@@ -2,6 +2,8 @@
 #include "ui/screens/overview/FindingsModel.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 
 #include "state/AppModel.h"
 #include "ui/theme/DisplayText.h"
@@ -31,9 +33,27 @@ std::vector<LargeFile> firstFew(const std::vector<LargeFile>& files) {
     return {files.begin(), files.begin() + static_cast<std::ptrdiff_t>(std::min(files.size(), most))};
 }
 
+std::int64_t largeFileBytes(const AppModel& app) {
+    std::int64_t bytes = 0;
+    for (const LargeFile& file : app.insights().topFiles) bytes += file.size;
+    return bytes;
+}
+
+std::int64_t downloadsBytes(const AppModel& app) {
+    for (const NodeRef& folder : app.topFolders())
+        if (folder->name() == "Downloads") return folder->size;
+    return 0;
+}
+
+/// The bytes that the system would free by itself for an application that needs space.
+std::int64_t purgeableBytes(const AppModel& app) {
+    const std::optional<VolumeInfo>& volume = app.volume();
+    return volume ? std::max<std::int64_t>(volume->importantAvailable - volume->available, 0) : 0;
+}
+
 }  // namespace
 
-FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app), cards_(app) {
+FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app) {
     for (const auto changedField : {&AppModel::scanPhaseChanged, &AppModel::reclaimablesChanged,
                                     &AppModel::insightsChanged, &AppModel::rootChanged, &AppModel::volumeChanged})
         connect(&app, changedField, this, &FindingsModel::refresh);
@@ -52,6 +72,11 @@ void FindingsModel::seeAll() {
     app_.setSelection(Screen::clutter);
 }
 
+void FindingsModel::openCard(int card) {
+    constexpr std::array modules{Screen::reclaim, Screen::clutter, Screen::clutter, Screen::system};
+    if (card >= 0 && card < std::ssize(modules)) app_.setSelection(modules.at(static_cast<std::size_t>(card)));
+}
+
 /// Skipped during a survey, whose results are not known yet and whose fields change many times per second.
 void FindingsModel::refresh() {
     if (app_.scanPhase() != AppModel::ScanPhase::finished) return;
@@ -59,7 +84,11 @@ void FindingsModel::refresh() {
     unreadLine_ = unreadText(app_.blockedPaths());
     segments_ = readSegments();
     freeBytes_ = app_.volume() ? app_.volume()->available : 0;
-    cards_.refresh();
+    cardBytes_ = {static_cast<qreal>(app_.reclaimableBytes()), static_cast<qreal>(largeFileBytes(app_)),
+                  static_cast<qreal>(downloadsBytes(app_)), static_cast<qreal>(purgeableBytes(app_))};
+    cardDetails_ = {tr("%1 items of junk").arg(app_.reclaimables().size()),
+                    tr("%1 large files").arg(app_.insights().topFiles.size()), tr("review what landed here"),
+                    tr("purgeable & snapshots")};
     largest_.show(firstFew(app_.insights().topFiles), app_.platform().clock.now());
     emit changed();
 }
@@ -67,11 +96,9 @@ void FindingsModel::refresh() {
 void FindingsModel::headline() {
     recoverable_ = app_.reclaimableBytes();
     if (!reviewable()) {
-        title_ = tr("Clean drive");
         line_ = tr("Nothing to reclaim right now — you scanned %1.").arg(byteFigure(scannedBytes(app_)));
         return;
     }
-    title_ = tr("You can reclaim");
     const auto types = app_.sortedTypeTotals();
     const auto items = app_.reclaimables().size();
     line_ = types.empty()

@@ -5,10 +5,10 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include "ui/charts/RibbonPicture.h"
 #include "ui/screens/clutter/LargeFileRows.h"
-#include "ui/screens/overview/FindingCards.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
@@ -21,14 +21,14 @@ class FindingsModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of SurveyScreenModel")
-    Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
     Q_PROPERTY(double recoverable READ recoverable NOTIFY changed FINAL)
     Q_PROPERTY(QString line READ line NOTIFY changed FINAL)
     Q_PROPERTY(QString unreadLine READ unreadLine NOTIFY changed FINAL)
     Q_PROPERTY(bool reviewable READ reviewable NOTIFY changed FINAL)
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments NOTIFY changed FINAL)
     Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed FINAL)
-    Q_PROPERTY(zelk::FindingCards* cards READ cards CONSTANT FINAL)
+    Q_PROPERTY(QList<qreal> cardBytes READ cardBytes NOTIFY changed FINAL)
+    Q_PROPERTY(QStringList cardDetails READ cardDetails NOTIFY changed FINAL)
     Q_PROPERTY(zelk::LargeFileRows* largest READ largest CONSTANT FINAL)
 
 public:
@@ -37,7 +37,6 @@ public:
 
     void setTheme(const ZelkTheme& theme);
 
-    const QString& title() const { return title_; }
     /// The reclaimable bytes.
     qint64 recoverable() const { return recoverable_; }
     const QString& line() const { return line_; }
@@ -48,13 +47,17 @@ public:
     /// By type, largest first.
     const QList<RibbonSegment>& segments() const { return segments_; }
     qint64 freeBytes() const { return freeBytes_; }
-    FindingCards* cards() { return &cards_; }
+    /// The figures and lines of the cards that lead on: those of Reclaim, Clutter, the downloads and System.
+    const QList<qreal>& cardBytes() const { return cardBytes_; }
+    const QStringList& cardDetails() const { return cardDetails_; }
     /// The first few of the large files.
     LargeFileRows* largest() { return &largest_; }
 
 public slots:
     void review();
     void seeAll();
+    /// Opens the module of a card.
+    void openCard(int card);
 
 signals:
     void changed();
@@ -66,14 +69,14 @@ private:
 
     AppModel& app_;
     const ZelkTheme* theme_ = &ZelkTheme::dark();
-    FindingCards cards_;
     LargeFileRows largest_;
-    QString title_;
     qint64 recoverable_ = 0;
     QString line_;
     QString unreadLine_;
     QList<RibbonSegment> segments_;
     qint64 freeBytes_ = 0;
+    QList<qreal> cardBytes_;
+    QStringList cardDetails_;
 };
 
 }  // namespace zelk

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The first few of the large files.
+// The first few of the large files, each with its size.
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.App
 import Zelk.Controls
 
@@ -46,11 +47,64 @@ Card {
         Repeater {
             model: card.findings.largest
 
-            FileRow {
+            T.Control {
+                id: row
+
                 required property int index
+                required property string symbol
+                required property color tint
+                required property string name
+                required property string path
+                required property real bytes
 
                 width: card.availableWidth
-                divided: index > 0
+                implicitHeight: Math.max(40, label.implicitHeight + 20)
+                hoverEnabled: true
+
+                Accessible.role: Accessible.ListItem
+                Accessible.name: AccessibleText.joined([row.name, AccessibleText.bytes(row.bytes)])
+
+                Divider {
+                    width: parent.width
+                    visible: row.index > 0
+                }
+
+                SymbolItem {
+                    id: sign
+
+                    anchors.verticalCenter: parent.verticalCenter
+                    name: row.symbol
+                    color: row.tint.valid ? row.tint : Theme.otherFiles
+                    size: 16
+                }
+
+                Label {
+                    id: label
+
+                    anchors.left: sign.right
+                    anchors.leftMargin: 12
+                    anchors.right: figure.left
+                    anchors.rightMargin: 16
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: row.name
+                    elide: Text.ElideMiddle
+                    mute: true
+                }
+
+                AnimatedNumber {
+                    id: figure
+
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    value: row.bytes
+                    pixelSize: 12
+                    mute: true
+                }
+
+                HelpTip {
+                    control: row
+                    text: row.path
+                }
             }
         }
     }

@@ -40,12 +40,71 @@ BaseButton {
         }
     }
 
-    contentItem: ModuleCardFace {
-        symbol: card.symbol
-        title: card.title
-        value: card.value
-        detail: card.detail
-        tint: card.tint
+    contentItem: Column {
         opacity: card.enabled ? 1 : 0.45
+
+        Item {
+            width: parent.width
+            implicitWidth: tile.width + nameText.implicitWidth + chevron.width + 20
+            implicitHeight: Math.max(tile.height, nameText.implicitHeight)
+
+            Tile {
+                id: tile
+
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: card.symbol
+                tint: card.tint
+            }
+
+            Label {
+                id: nameText
+
+                anchors.left: tile.right
+                anchors.leftMargin: 10
+                anchors.right: chevron.left
+                anchors.rightMargin: 10
+                anchors.verticalCenter: parent.verticalCenter
+                text: card.title
+                size: 11
+                font.weight: Font.Medium
+                soft: true
+                mute: true
+            }
+
+            SymbolItem {
+                id: chevron
+
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                name: "chevron.right"
+                color: Theme.inkSoft
+                size: 10
+            }
+        }
+
+        Item {
+            width: 1
+            height: 18
+        }
+
+        AnimatedNumber {
+            value: card.value
+            pixelSize: 23
+            bold: true
+            mute: true
+        }
+
+        Item {
+            width: 1
+            height: 2
+        }
+
+        Label {
+            width: parent.width
+            text: card.detail
+            size: 11
+            soft: true
+            mute: true
+        }
     }
 }

@@ -114,11 +114,11 @@ FocusScope {
 
                         PillButton {
                             required property int index
-                            required property feature modelData
+                            required property screenLook modelData
 
-                            text: modelData.label
+                            text: modelData.title
                             symbol: modelData.symbol
-                            tint: modelData.tint
+                            tint: modelData.color
                             onClicked: hero.survey.pressFeature(index)
                         }
                     }
@@ -177,5 +177,32 @@ FocusScope {
                 }
             }
         }
+    }
+
+    // The texts and controls below the scan button in one phase. Fades in, but disappears at once, because a control
+    // that fades out could still be pressed.
+    component HeroPhase: Column {
+        id: phase
+
+        required property bool shown
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        visible: phase.shown
+        opacity: phase.shown ? 1 : 0
+
+        Behavior on opacity {
+            enabled: phase.shown
+            NumberAnimation {
+                duration: Motion.gentle
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+
+    component HeroText: Label {
+        anchors.horizontalCenter: parent?.horizontalCenter
+        soft: true
+        horizontalAlignment: Text.AlignHCenter
     }
 }

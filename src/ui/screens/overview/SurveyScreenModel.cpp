@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ui/screens/overview/SurveyScreenModel.h"
 
+#include <QStringList>
+#include <array>
 #include <chrono>
 #include <utility>
 
+#include "platform/ByteFormat.h"
 #include "state/AppModel.h"
-#include "ui/theme/DisplayText.h"
-#include "ui/theme/ScreenLook.h"
 #include "ui/theme/SystemTexts.h"
 
 namespace zelk {
@@ -17,22 +18,36 @@ constexpr int refreshInterval = 80;    // milliseconds
 constexpr double spokenInterval = 3;   // seconds
 constexpr double handoverSeconds = 1;  // longer than a person needs to notice
 
+constexpr std::array featureScreens{Screen::reclaim, Screen::duplicates, Screen::clutter, Screen::lens};
+
+ScreenLook titled(Screen screen, const QString& title) {
+    ScreenLook look = lookOf(screen);
+    look.title = title;
+    return look;
+}
+
 }  // namespace
 
-QColor Feature::tint() const {
-    return lookOf(screen).color;
+DeviceFace DeviceFace::of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume, const QLocale& locale) {
+    QStringList known{displayText(device.chip), tr("%1 cores").arg(device.cores),
+                      QString::fromStdString(memoryText(device.memoryBytes)), displayText(device.osVersion)};
+    known.removeAll(QString());
+    DeviceFace face;
+    face.name = displayText(device.computerName);
+    face.detail = known.join(QStringLiteral("  ·  "));
+    if (volume) {
+        face.freeBytes = static_cast<double>(volume->available);
+        face.totalText = tr("of %1").arg(byteFigure(volume->total, locale));
+    }
+    return face;
 }
 
 SurveyScreenModel::SurveyScreenModel(AppModel& app, std::function<double()> now)
     : app_(app),
-      features_{
-          {QStringLiteral("sparkles"), tr("Reclaim junk"), Screen::reclaim},
-          {QStringLiteral("doc.on.doc"), tr("Find duplicates"), Screen::duplicates},
-          {QStringLiteral("tray.full"), tr("Largest files"), Screen::clutter},
-          {QStringLiteral("circle.hexagongrid"), tr("Visual map"), Screen::lens},
-      },
+      features_{titled(featureScreens[0], tr("Reclaim junk")), titled(featureScreens[1], tr("Find duplicates")),
+                titled(featureScreens[2], tr("Largest files")), titled(featureScreens[3], tr("Visual map"))},
       findings_(app),
-      trash_(app, app.workspace(), true),
+      trash_(app, true),
       trends_(app),
       now_(std::move(now)) {
     timer_.setSingleShot(true);
@@ -67,9 +82,7 @@ DeviceFace SurveyScreenModel::device() const {
 void SurveyScreenModel::setDark(bool dark) {
     if (dark == dark_) return;
     dark_ = dark;
-    const ZelkTheme& theme = dark ? ZelkTheme::dark() : ZelkTheme::light();
-    findings_.setTheme(theme);
-    trends_.setTheme(theme);
+    findings_.setTheme(dark ? ZelkTheme::dark() : ZelkTheme::light());
     emit darkChanged();
 }
 
@@ -96,7 +109,7 @@ bool SurveyScreenModel::takesKey() {
 }
 
 void SurveyScreenModel::pressFeature(int row) {
-    if (row >= 0 && row < features_.size()) app_.setSelection(features_[row].screen);
+    if (row >= 0 && row < features_.size()) app_.setSelection(featureScreens.at(static_cast<std::size_t>(row)));
 }
 
 /// A new face is complete when it appears: its figures change before the phase does. The one that fades away keeps its

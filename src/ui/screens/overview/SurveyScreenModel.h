@@ -2,40 +2,46 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QColor>
+#include <QCoreApplication>
 #include <QList>
+#include <QLocale>
 #include <QObject>
 #include <QString>
 #include <QTimer>
 #include <functional>
 #include <optional>
 
-#include "state/Screen.h"
-#include "ui/screens/overview/DeviceFace.h"
+#include "platform/Vitals.h"
 #include "ui/screens/overview/FindingsModel.h"
 #include "ui/screens/overview/TrashBannerModel.h"
 #include "ui/screens/overview/TrendsModel.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 
 class AppModel;
 
-/// What a survey leads to, as it is offered before the first one.
-struct Feature {
+/// Texts about the computer and its drive.
+struct DeviceFace {
     Q_GADGET
-    QML_VALUE_TYPE(feature)
-    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
-    Q_PROPERTY(QString label MEMBER label FINAL)
-    Q_PROPERTY(QColor tint READ tint FINAL)
+    QML_VALUE_TYPE(deviceFace)
+    Q_DECLARE_TR_FUNCTIONS(DeviceFace)
+    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(QString detail MEMBER detail CONSTANT FINAL)
+    Q_PROPERTY(double freeBytes MEMBER freeBytes CONSTANT FINAL)
+    Q_PROPERTY(QString totalText MEMBER totalText CONSTANT FINAL)
 
 public:
-    QString symbol;
-    QString label;
-    Screen screen{};
+    QString name;
+    QString detail;        ///< the known ones of chip, cores, memory and system
+    double freeBytes = 0;  ///< of the drive
+    QString totalText;     ///< empty if the drive is unknown
 
-    QColor tint() const;
+    static DeviceFace of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume,
+                         const QLocale& locale = userLocale());
 
-    bool operator==(const Feature&) const = default;
+    bool operator==(const DeviceFace&) const = default;
 };
 
 /// The figures of the survey screen. It owns no data: everything is read from the AppModel. A survey reports far more
@@ -53,7 +59,7 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(QString buttonName READ buttonName NOTIFY buttonNameChanged FINAL)
     Q_PROPERTY(QString spokenProgress READ spokenProgress NOTIFY spokenProgressChanged FINAL)
     Q_PROPERTY(QString pathLine READ pathLine NOTIFY figuresChanged FINAL)
-    Q_PROPERTY(QList<zelk::Feature> features READ features CONSTANT FINAL)
+    Q_PROPERTY(QList<zelk::ScreenLook> features READ features CONSTANT FINAL)
     Q_PROPERTY(zelk::DeviceFace device READ device NOTIFY deviceChanged FINAL)
     Q_PROPERTY(zelk::FindingsModel* findings READ findings CONSTANT FINAL)
     Q_PROPERTY(zelk::TrashBannerModel* trash READ trash CONSTANT FINAL)
@@ -81,7 +87,8 @@ public:
     const QString& spokenProgress() const { return spokenProgress_; }
 
     const QString& pathLine() const { return pathLine_; }
-    const QList<Feature>& features() const { return features_; }
+    /// What a survey leads to, as it is offered before the first one.
+    const QList<ScreenLook>& features() const { return features_; }
     DeviceFace device() const;
     FindingsModel* findings() { return &findings_; }
     TrashBannerModel* trash() { return &trash_; }
@@ -123,7 +130,7 @@ private:
     static double steadySeconds();
 
     AppModel& app_;
-    const QList<Feature> features_;
+    const QList<ScreenLook> features_;
     FindingsModel findings_;
     TrashBannerModel trash_;
     TrendsModel trends_;

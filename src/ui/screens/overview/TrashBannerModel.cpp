@@ -7,8 +7,8 @@
 
 namespace zelk {
 
-TrashBannerModel::TrashBannerModel(AppModel& app, Workspace& workspace, bool showWhenEmpty, QObject* parent)
-    : QObject(parent), app_(app), workspace_(workspace), showWhenEmpty_(showWhenEmpty) {
+TrashBannerModel::TrashBannerModel(AppModel& app, bool showWhenEmpty, QObject* parent)
+    : QObject(parent), app_(app), showWhenEmpty_(showWhenEmpty) {
     connect(&app, &AppModel::trashChanged, this, &TrashBannerModel::changed);
 }
 
@@ -54,7 +54,7 @@ void TrashBannerModel::appear() {
 void TrashBannerModel::act() {
     if (app_.emptyingTrash()) return;
     if (!app_.trashAccessible())
-        workspace_.openURL(accessSettingsURL);
+        app_.workspace().openURL(accessSettingsURL);
     else if (app_.trashBytes() >= 1)
         app_.emptyTrash();
 }

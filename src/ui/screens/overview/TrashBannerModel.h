@@ -8,7 +8,6 @@
 namespace zelk {
 
 class AppModel;
-class Workspace;
 
 /// The state of the Trash: moving items there frees no space until it is emptied, and an unreadable Trash is shown as
 /// such, not as empty. Main thread.
@@ -25,8 +24,8 @@ class TrashBannerModel : public QObject {
     Q_PROPERTY(QString actionName READ actionName NOTIFY changed FINAL)
 
 public:
-    /// With `showWhenEmpty` the banner is shown even for an empty Trash. `app` and `workspace` must outlive it.
-    TrashBannerModel(AppModel& app, Workspace& workspace, bool showWhenEmpty, QObject* parent = nullptr);
+    /// With `showWhenEmpty` the banner is shown even for an empty Trash. `app` must outlive it.
+    TrashBannerModel(AppModel& app, bool showWhenEmpty, QObject* parent = nullptr);
 
     bool shown() const;
     QString subtitle() const;
@@ -51,7 +50,6 @@ signals:
 
 private:
     AppModel& app_;
-    Workspace& workspace_;
     bool showWhenEmpty_;
 };
 

@@ -37,8 +37,8 @@ Card {
 
                 SymbolItem {
                     anchors.verticalCenter: parent.verticalCenter
-                    name: card.trends.arrow
-                    color: card.trends.arrowColor
+                    name: card.trends.grew ? "arrow.up.right" : "arrow.down.right"
+                    color: card.trends.grew ? Theme.alert : "#32c77b"
                     size: 13
                     weight: Font.Bold
                     Accessible.role: Accessible.Graphic
@@ -76,7 +76,7 @@ Card {
             visible: text !== ""
             text: card.trends.forecast
             size: 11
-            color: Theme.textOn(card.trends.forecastColor, Theme.textGround)
+            color: Theme.textOn(card.trends.alarming ? Theme.alert : Theme.inkSoft, Theme.textGround)
         }
 
         SecondaryButton {

@@ -1,41 +1,112 @@
 // SPDX-License-Identifier: MIT
 #include "ui/screens/overview/TrendsModel.h"
 
+#include <algorithm>
+#include <limits>
+#include <string_view>
+
 #include "state/AppModel.h"
-#include "ui/screens/overview/Growth.h"
+#include "ui/theme/DisplayText.h"
 
 namespace zelk {
 
 namespace {
 
-const QColor shrunkColor(50, 199, 123);
 // A forecast beyond this many days is not alarming.
 constexpr std::int64_t nearDays = 29;
 
+/// The growth from `before` to `now` in bytes; negative if it shrank. Saturates, since the history file may contain any
+/// values, and so that the result can always be negated.
+std::int64_t growth(std::int64_t before, std::int64_t now) {
+    constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
+    std::int64_t grown = 0;
+    if (__builtin_sub_overflow(now, before, &grown)) return now > before ? most : -most;
+    return std::max(grown, -most);
+}
+
+/// The last component, or "/" for the root directory.
+std::string_view lastComponent(std::string_view path) {
+    return path == "/" ? path : path.substr(path.rfind('/') + 1);
+}
+
 }  // namespace
+
+void ChangesModel::show(const FolderChanges& changes) {
+    beginResetModel();
+    rows_.clear();
+    add(Grew, changes.grew);
+    add(Appeared, changes.appeared);
+    add(Vanished, changes.gone);
+    endResetModel();
+    emit emptyChanged();
+}
+
+void ChangesModel::add(Kind kind, const std::vector<FolderChange>& changes) {
+    for (const FolderChange& change : changes) rows_.push_back({kind, change});
+}
+
+QString ChangesModel::heading(Kind kind) const {
+    const auto count = std::ranges::count(rows_, kind, &Row::kind);
+    switch (kind) {
+        case Grew:
+            return tr("Grew (%1)").arg(count);
+        case Appeared:
+            return tr("Appeared (%1)").arg(count);
+        case Vanished:
+            return tr("Vanished (%1)").arg(count);
+    }
+    return {};
+}
+
+QString ChangesModel::sizeText(const Row& row) {
+    const FolderChange& change = row.change;
+    switch (row.kind) {
+        case Grew:
+            return QStringLiteral("%1  +%2").arg(byteFigure(change.newSize),
+                                                 byteFigure(growth(change.oldSize, change.newSize)));
+        case Appeared:
+            return byteFigure(change.newSize);
+        case Vanished:
+            return byteFigure(change.oldSize);
+    }
+    return {};
+}
+
+QVariant ChangesModel::value(std::size_t at, int role) const {
+    const Row& row = rows_[at];
+    const std::string_view path = row.change.path;
+    switch (role) {
+        case headingRole:
+            return at == 0 || rows_[at - 1].kind != row.kind ? heading(row.kind) : QString();
+        case kindRole:
+            return static_cast<int>(row.kind);
+        case Qt::DisplayRole:
+        case nameRole:
+            return displayText(lastComponent(path));
+        case pathRole:
+            return displayText(path);
+        case sizeRole:
+            return sizeText(row);
+        default:
+            return {};
+    }
+}
 
 TrendsModel::TrendsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app) {
     connect(&app, &AppModel::historyChanged, this, &TrendsModel::refresh);
     refresh();
 }
 
-void TrendsModel::setTheme(const ZelkTheme& theme) {
-    theme_ = &theme;
-    changes_.setTheme(theme);
-    emit changed();
-}
-
 void TrendsModel::refresh() {
     const std::vector<SurveyRecord>& history = app_.history();
     shown_ = history.size() >= 2;
     delta_ = shown_ ? growth(history[history.size() - 2].totalScanned, history.back().totalScanned) : 0;
-    tracked_ = static_cast<qsizetype>(history.size());
     totals_.clear();
     for (const SurveyRecord& record : history) totals_.append(static_cast<qreal>(record.totalScanned));
 
     const std::optional<std::int64_t> days = app_.daysUntilFull();
     forecast_ = days ? tr("≈ %1 days until full at this rate").arg(*days) : QString();
-    forecastIsFar_ = days && *days > nearDays;
+    alarming_ = days && *days <= nearDays;
 
     const FolderChanges changes = app_.folderChanges().value_or(FolderChanges());
     changes_.show(changes);
@@ -43,28 +114,13 @@ void TrendsModel::refresh() {
     emit changed();
 }
 
-QString TrendsModel::arrow() const {
-    return delta_ > 0 ? QStringLiteral("arrow.up.right") : QStringLiteral("arrow.down.right");
-}
-QColor TrendsModel::arrowColor() const {
-    return delta_ > 0 ? theme_->alert : shrunkColor;
-}
 QString TrendsModel::arrowName() const {
     if (delta_ == 0) return tr("unchanged");
-    return delta_ > 0 ? tr("grew") : tr("shrank");
-}
-QString TrendsModel::deltaLine() const {
-    return tr("since your last scan · %1 tracked").arg(tracked_);
-}
-QColor TrendsModel::forecastColor() const {
-    return forecastIsFar_ ? theme_->inkSoft : theme_->alert;
+    return grew() ? tr("grew") : tr("shrank");
 }
 
-void TrendsModel::openChanges() {
-    setShowChanges(hasChanges_);
-}
-void TrendsModel::closeChanges() {
-    setShowChanges(false);
+QString TrendsModel::deltaLine() const {
+    return tr("since your last scan · %1 tracked").arg(totals_.size());
 }
 
 void TrendsModel::setShowChanges(bool show) {

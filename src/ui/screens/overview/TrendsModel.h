@@ -2,16 +2,55 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QColor>
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <vector>
 
-#include "ui/screens/overview/ChangesModel.h"
+#include "state/SurveyRecord.h"
+#include "ui/controls/RowModel.h"
 
 namespace zelk {
 
 class AppModel;
+
+/// List model of the folders that grew, appeared or vanished between the last two surveys, in three sections. Empty
+/// sections are left out. Main thread.
+class ChangesModel : public zelk::RowModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Part of TrendsModel")
+    Q_PROPERTY(bool empty READ empty NOTIFY emptyChanged FINAL)
+
+public:
+    enum Kind { Grew, Appeared, Vanished };
+    Q_ENUM(Kind)
+    /// Only the first row of a section has a heading.
+    enum Role { headingRole = Qt::UserRole, kindRole, nameRole, pathRole, sizeRole };
+
+    explicit ChangesModel(QObject* parent = nullptr) : RowModel({"heading", "kind", "name", "path", "size"}, parent) {}
+
+    void show(const FolderChanges& changes);
+
+    bool empty() const { return rows_.empty(); }
+
+signals:
+    void emptyChanged();
+
+private:
+    struct Row {
+        Kind kind;
+        FolderChange change;
+    };
+
+    std::size_t size() const override { return rows_.size(); }
+    QVariant value(std::size_t at, int role) const override;
+    void add(Kind kind, const std::vector<FolderChange>& changes);
+    QString heading(Kind kind) const;
+    static QString sizeText(const Row& row);
+
+    std::vector<Row> rows_;
+};
 
 /// The changes of the drive between surveys. Shown from the second record on. Main thread.
 class TrendsModel : public QObject {
@@ -19,14 +58,13 @@ class TrendsModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Part of SurveyScreenModel")
     Q_PROPERTY(bool shown READ shown NOTIFY changed FINAL)
-    Q_PROPERTY(QString arrow READ arrow NOTIFY changed FINAL)
-    Q_PROPERTY(QColor arrowColor READ arrowColor NOTIFY changed FINAL)
+    Q_PROPERTY(bool grew READ grew NOTIFY changed FINAL)
     Q_PROPERTY(QString arrowName READ arrowName NOTIFY changed FINAL)
     Q_PROPERTY(double delta READ delta NOTIFY changed FINAL)
     Q_PROPERTY(QString deltaLine READ deltaLine NOTIFY changed FINAL)
     Q_PROPERTY(QList<qreal> totals READ totals NOTIFY changed FINAL)
     Q_PROPERTY(QString forecast READ forecast NOTIFY changed FINAL)
-    Q_PROPERTY(QColor forecastColor READ forecastColor NOTIFY changed FINAL)
+    Q_PROPERTY(bool alarming READ alarming NOTIFY changed FINAL)
     Q_PROPERTY(bool hasChanges READ hasChanges NOTIFY changed FINAL)
     Q_PROPERTY(bool showChanges READ showChanges NOTIFY showChangesChanged FINAL)
     Q_PROPERTY(zelk::ChangesModel* changes READ changes CONSTANT FINAL)
@@ -35,11 +73,8 @@ public:
     /// `app` must outlive it.
     explicit TrendsModel(AppModel& app, QObject* parent = nullptr);
 
-    void setTheme(const ZelkTheme& theme);
-
     bool shown() const { return shown_; }
-    QString arrow() const;
-    QColor arrowColor() const;
+    bool grew() const { return delta_ > 0; }
     /// The accessible name of the arrow.
     QString arrowName() const;
     /// By how many bytes the last two totals differ.
@@ -49,15 +84,16 @@ public:
     const QList<qreal>& totals() const { return totals_; }
     /// Empty if there is none.
     const QString& forecast() const { return forecast_; }
-    QColor forecastColor() const;
+    /// Whether the forecast is near.
+    bool alarming() const { return alarming_; }
     bool hasChanges() const { return hasChanges_; }
     /// Whether the sheet of changes is open.
     bool showChanges() const { return showChanges_; }
     ChangesModel* changes() { return &changes_; }
 
 public slots:
-    void openChanges();
-    void closeChanges();
+    void openChanges() { setShowChanges(hasChanges_); }
+    void closeChanges() { setShowChanges(false); }
 
 signals:
     void changed();
@@ -68,14 +104,12 @@ private:
     void setShowChanges(bool show);
 
     AppModel& app_;
-    const ZelkTheme* theme_ = &ZelkTheme::dark();
     ChangesModel changes_;
     bool shown_ = false;
     qint64 delta_ = 0;  // with its sign
-    qsizetype tracked_ = 0;
     QList<qreal> totals_;
     QString forecast_;
-    bool forecastIsFar_ = false;
+    bool alarming_ = false;
     bool hasChanges_ = false;
     bool showChanges_ = false;
 };

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "state/DevCleanupModel.h"
-#include "ui/screens/module/SurveyedModule.h"
+#include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/screens/reclaim/CategoryList.h"
 #include "ui/screens/reclaim/DryRunModel.h"
 #include "ui/screens/reclaim/ItemList.h"

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "ui/charts/SparklineGeometry.h"
+#include "ui/charts/SparklinePicture.h"
 
 #include <gtest/gtest.h>
 
 #include "Painted.h"
-#include "ui/charts/SparklinePicture.h"
 
 namespace zelk {
 
