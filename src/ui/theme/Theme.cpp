@@ -2,6 +2,7 @@
 #include "ui/theme/Theme.h"
 
 #include <QEvent>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QStyleHints>
 
@@ -60,6 +61,10 @@ void Theme::show(const ZelkTheme& theme) {
     if (&theme == current_) return;
     current_ = &theme;
     emit changed();
+}
+
+QString Theme::fixedFont() const {
+    return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
 }
 
 QColor Theme::textOn(const QColor& color, const QColor& ground) const {
