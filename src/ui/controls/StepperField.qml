@@ -10,7 +10,6 @@ T.SpinBox {
     id: stepper
 
     required property string label
-    property alias step: stepper.stepSize
     // The displayed value, for formats with a unit.
     property string valueText: stepper.displayText
     property real size: 12
