@@ -63,8 +63,9 @@ std::string lastPart(const std::string& dotted) {
 /// Reads the line that opens a brace: an object where a type's name stands before it.
 std::optional<Object> objectOpenedBy(const std::string& before) {
     static const std::regex opening(R"((?:component\s+(\w+)\s*:\s*)?\b([A-Za-z_][\w.]*)(?:\s+on\s+[\w.]+)?\s*$)");
+    static const std::regex enumeration(R"(^\s*enum\s)");
     std::smatch found;
-    if (!std::regex_search(before, found, opening)) return std::nullopt;
+    if (std::regex_search(before, enumeration) || !std::regex_search(before, found, opening)) return std::nullopt;
     const std::string type = lastPart(found[2]);
     if (type.empty() || type[0] < 'A' || type[0] > 'Z') return std::nullopt;
     Object object;

@@ -49,6 +49,10 @@ TEST(QmlIds, acceptsIdsThatNoPropertyHas) {
     EXPECT_THAT(checkQml("Item {\n    id: view\n\n    Text {\n        id: caption\n    }\n}\n"), IsEmpty());
 }
 
+TEST(QmlIds, takesNoEnumerationForAnObject) {
+    EXPECT_THAT(checkQml("Item {\n    id: view\n\n    enum Kind {\n        First,\n        Second\n    }\n}\n"), IsEmpty());
+}
+
 TEST(QmlIds, rejectsTheNameOfAPropertyOfTheObjectsType) {
     const auto found = checkQml("Item {\n    Item {\n        id: right\n    }\n}\n");
     ASSERT_THAT(found, SizeIs(1));

@@ -28,10 +28,10 @@ class AnimatedNumber : public testing::Test {
 protected:
     /// Jumps to `from` and begins to run to `to`.
     void run(double from, double to, NumberItem::Format format = NumberItem::Bytes) {
-        item.setFormat(format);
-        item.setDuration(0);
+        item.setProperty("format", QVariant::fromValue(format));
+        item.setProperty("duration", 0);
         item.setValue(from);
-        item.setDuration(longRun);
+        item.setProperty("duration", longRun);
         item.setValue(to);
     }
     QVariantAnimation& animation() { return *item.findChild<QVariantAnimation*>(); }
@@ -109,14 +109,14 @@ TEST(AnimatedNumberText, staysInRangeForHugeNumbers) {
 }
 
 TEST_F(AnimatedNumber, hasTheSizeOfItsText) {
-    item.setPixelSize(28);
+    item.setProperty("pixelSize", 28);
     item.setValue(12.34e9);
     const double wide = item.implicitWidth();
     EXPECT_GT(wide, 80);
     EXPECT_GE(item.implicitHeight(), 28);
     item.setValue(43.21e9);
     EXPECT_DOUBLE_EQ(item.implicitWidth(), wide);
-    item.setPhrase(QStringLiteral("%1 free"));
+    item.setProperty("phrase", QStringLiteral("%1 free"));
     EXPECT_GT(item.implicitWidth(), wide);
 }
 
@@ -129,7 +129,7 @@ TEST_F(AnimatedNumber, jumpsWithoutADuration) {
 }
 
 TEST_F(AnimatedNumber, showsItsFirstValueAtOnce) {
-    item.setDuration(longRun);
+    item.setProperty("duration", longRun);
     item.setValue(900e6);
     EXPECT_EQ(shown(), "900 MB");
     EXPECT_FALSE(running());
@@ -197,31 +197,31 @@ TEST_F(AnimatedNumber, newTargetStartsFromWhatIsShown) {
 }
 
 TEST_F(AnimatedNumber, keepsThePhraseAroundIt) {
-    item.setPhrase(QStringLiteral("%1 items"));
+    item.setProperty("phrase", QStringLiteral("%1 items"));
     run(1200, 2000, NumberItem::Count);
     EXPECT_EQ(shown(), "1,200 items");
     pass(0.5);
     EXPECT_EQ(shown(), "1,900 items");
-    item.setPhrase(QStringLiteral("all %1 items"));
+    item.setProperty("phrase", QStringLiteral("all %1 items"));
     EXPECT_EQ(text(), "all 2,000 items");
     pass(0.75);
     EXPECT_EQ(shown(), "all 1,988 items");
 }
 
 TEST_F(AnimatedNumber, showsThePhraseAloneWithoutAValue) {
-    item.setPhrase(QStringLiteral("all of %1"));
+    item.setProperty("phrase", QStringLiteral("all of %1"));
     EXPECT_EQ(shown(), "all of %1");
     EXPECT_EQ(text(), "all of %1");
-    item.setPhrase(QStringLiteral("3 GB  +2 GB"));
+    item.setProperty("phrase", QStringLiteral("3 GB  +2 GB"));
     EXPECT_EQ(shown(), "3 GB  +2 GB");
-    item.setPhrase(QString());
+    item.setProperty("phrase", QString());
     EXPECT_EQ(shown(), "");
 }
 
 TEST_F(AnimatedNumber, runsNeitherFromNorToNoNumber) {
     run(noNumber, 5, NumberItem::Count);
     EXPECT_EQ(shown(), "5");
-    item.setPhrase(QStringLiteral("%1 of 9"));
+    item.setProperty("phrase", QStringLiteral("%1 of 9"));
     item.setValue(8);
     item.setValue(noNumber);
     EXPECT_EQ(shown(), "%1 of 9");
@@ -260,24 +260,24 @@ TEST_F(AnimatedNumber, thatGoesOutOfSightDoesNotRunOn) {
 TEST_F(AnimatedNumber, losingItsDurationEndsARun) {
     run(10e3, 90e3);
     pass(0.5);
-    item.setDuration(0);
+    item.setProperty("duration", 0);
     EXPECT_EQ(shown(), "90 KB");
     EXPECT_FALSE(running());
 }
 
 TEST_F(AnimatedNumber, changesItsTextNoMoreOftenThanItsInterval) {
-    item.setInterval(longRun);
+    item.setProperty("interval", longRun);
     run(0, 1000, NumberItem::Count);
     pass(0.5);
     EXPECT_EQ(shown(), "0");
     item.setValue(2000);
     pass(0.5);
     EXPECT_EQ(shown(), "0");
-    item.setInterval(0);
+    item.setProperty("interval", 0);
     pass(0.75);
     // From 875, where the number was when it was aimed anew, and not from the 0 on screen.
     EXPECT_EQ(shown(), "1,982");
-    item.setInterval(longRun);
+    item.setProperty("interval", longRun);
     pass(1);
     EXPECT_EQ(shown(), "2,000") << "the last text is not late";
 }

@@ -2,9 +2,11 @@
 // Drives the shared controls with the mouse, the keyboard and a screen reader.
 #include <gmock/gmock.h>
 
+#include <QQmlProperty>
 #include <QTest>
 
 #include "ControlsFixture.h"
+#include "ui/controls/SoftShadow.h"
 
 namespace zelk {
 
@@ -263,21 +265,22 @@ TEST_F(ControlsWindow, cardIsAtLeast140Wide) {
 
 TEST_F(ControlsWindow, hoverRaisesCard) {
     QQuickItem* ground = find("card")->property("background").value<QQuickItem*>();
+    const auto* below = ground->findChild<SoftShadow*>();
     const auto shadow = [&] {
         settle();
-        return std::pair(ground->property("shadowOpacity").toDouble(), ground->property("shadowRadius").toDouble());
+        return std::pair(below->property("strength").toDouble(), below->property("radius").toDouble());
     };
+    const auto outline = [&] { return QQmlProperty::read(ground, QStringLiteral("border.color")).value<QColor>(); };
     tour::restPointer(window());
     EXPECT_EQ(shadow(), std::pair(0.06, 6.0));
-    const QColor resting = ground->property("outline").value<QColor>();
+    const QColor resting = outline();
     QTest::mouseMove(&window(), find("card")->mapToScene({20, 20}).toPoint());
     EXPECT_EQ(shadow(), std::pair(0.25, 12.0));
-    const QColor outline = ground->property("outline").value<QColor>();
-    EXPECT_EQ(outline.rgb(), QColor(0x12, 0x34, 0x56).rgb());
-    EXPECT_NEAR(outline.alphaF(), 0.5, 0.01);
+    EXPECT_EQ(outline().rgb(), QColor(0x12, 0x34, 0x56).rgb());
+    EXPECT_NEAR(outline().alphaF(), 0.5, 0.01);
     tour::restPointer(window());
     EXPECT_EQ(shadow(), std::pair(0.06, 6.0));
-    EXPECT_EQ(ground->property("outline").value<QColor>(), resting);
+    EXPECT_EQ(outline(), resting);
 }
 
 }  // namespace zelk

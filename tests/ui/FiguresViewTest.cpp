@@ -112,7 +112,7 @@ TEST_F(FiguresWindow, aSparklineIsInTheAccentUnlessTold) {
 
 TEST_F(FiguresWindow, aProgressBarStaysPutWithReducedMotion) {
     AnimationClock clock;
-    showOne(QStringLiteral("ModuleProgressBar { objectName: 'one'; tint: 'red'; barWidth: 180 }"));
+    showOne(QStringLiteral("ModuleProgressBar { objectName: 'one'; tint: 'red'; width: 180 }"));
     EXPECT_EQ(one().width(), 180);
     EXPECT_EQ(one().property("seconds").toDouble(), 0.75) << "its sliver rests in the middle, where it is seen";
     const QImage before = window().grabWindow();

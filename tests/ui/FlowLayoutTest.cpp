@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/controls/FlowLayout.h"
+#include "ui/controls/FlowRow.h"
 
 #include <gtest/gtest.h>
 

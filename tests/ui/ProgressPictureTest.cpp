@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/controls/ProgressPicture.h"
+#include "ui/controls/BusyPictures.h"
 
 #include <gtest/gtest.h>
 

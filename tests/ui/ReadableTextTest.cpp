@@ -92,8 +92,8 @@ TEST_F(ReadableText, theTagFollowsTheTheme) {
 
 TEST_F(ReadableText, whiteIsReadableOnTheButtonThatRemoves) {
     singleton<TextScale>("TextScale").setFactor(2);
-    show(QStringLiteral("import QtQuick\nimport Zelk.App\n"
-                        "Item { RemoveButton { objectName: 'remove'; text: 'Review and Remove' } }"),
+    show(QStringLiteral("import QtQuick\nimport Zelk.Controls\n"
+                        "Item { Button { kind: Button.Removal; objectName: 'remove'; text: 'Review and Remove' } }"),
          {500, 120});
     QQuickItem* button = find("remove");
     ASSERT_NE(button, nullptr);
@@ -108,7 +108,7 @@ TEST_F(ReadableText, whiteIsReadableOnTheButtonThatRemoves) {
 
     button->setEnabled(false);
     settle();
-    EXPECT_FALSE(view().findChild<QQuickItem*>(QStringLiteral("removeShadow"))->isVisible())
+    EXPECT_FALSE(view().findChild<QQuickItem*>(QStringLiteral("textShadow"))->isVisible())
         << "a quiet word needs none";
 }
 

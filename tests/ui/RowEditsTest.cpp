@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/controls/RowEdits.h"
+#include "ui/controls/RowModel.h"
 
 #include <gmock/gmock.h>
 

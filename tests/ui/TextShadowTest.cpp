@@ -8,7 +8,7 @@
 #include <QPainter>
 
 #include "Readable.h"
-#include "ui/controls/SoftBlur.h"
+#include "ui/controls/SoftShadow.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <algorithm>
 
+#include "ui/controls/Brushes.h"
 #include "ui/controls/Drawn.h"
+#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
@@ -17,7 +20,13 @@ public:
     using Drawn::Drawn;
 
 protected:
-    void draw(QPainter& painter) override;
+    void draw(QPainter& painter) override {
+        const QRectF all = boundingRect();
+        painter.setBrush(
+            linearBrush(all.topLeft(), all.bottomRight(), {{0, AccentGradient::from()}, {1, AccentGradient::to()}}));
+        const double corner = std::min({corner_, all.width() / 2, all.height() / 2});
+        painter.drawRoundedRect(all, corner, corner);
+    }
 
 private:
     double corner_ = 0;

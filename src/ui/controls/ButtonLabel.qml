@@ -15,6 +15,8 @@ Item {
     property real size: 12
     property int weight: Font.Medium
     property bool underlined: false
+    // A soft shadow makes white text readable on the bright end of the accent gradient.
+    property bool shaded: false
 
     readonly property real symbolRoom: label.symbol === "" ? 0 : picture.width + (label.text === "" ? 0 : 8)
 
@@ -47,6 +49,16 @@ Item {
             font.underline: label.underlined
             mute: true
             visible: label.text !== ""
+
+            TextShadow {
+                objectName: "textShadow"
+                anchors.fill: parent
+                anchors.margins: -reach
+                z: -1
+                line: word.text
+                font: word.font
+                visible: label.shaded
+            }
         }
     }
 }

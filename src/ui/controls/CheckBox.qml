@@ -12,9 +12,8 @@ T.CheckBox {
     // The accessible name; not drawn.
     required text
     required property bool on
-    property real side: 18
 
-    implicitWidth: Math.round((box.side + 8) * TextScale.factor)
+    implicitWidth: Math.round(26 * TextScale.factor)
     implicitHeight: implicitWidth
     opacity: box.enabled ? 1 : 0.45
 
@@ -42,7 +41,7 @@ T.CheckBox {
     background: Item {
         Rectangle {
             anchors.centerIn: parent
-            width: Math.round(box.side * TextScale.factor)
+            width: Math.round(18 * TextScale.factor)
             height: width
             radius: 5
             color: box.on ? Theme.accent : Theme.surfaceHi

@@ -2,9 +2,8 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QPainter>
 #include <QQuickPaintedItem>
-
-class QPainter;
 
 namespace zelk {
 
@@ -15,9 +14,16 @@ class Drawn : public QQuickPaintedItem {
     QML_ANONYMOUS
 
 public:
-    explicit Drawn(QQuickItem* parent = nullptr);
+    explicit Drawn(QQuickItem* parent = nullptr) : QQuickPaintedItem(parent) {
+        setAntialiasing(true);
+        connect(this, &Drawn::changed, this, [this] { update(); });
+    }
 
-    void paint(QPainter* painter) final;
+    void paint(QPainter* painter) final {
+        painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter->setPen(Qt::NoPen);
+        draw(*painter);
+    }
 
 signals:
     void changed();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/controls/FlowRow.h"
 
-#include "ui/controls/FlowLayout.h"
+#include <algorithm>
 
 namespace zelk {
 
@@ -9,20 +9,45 @@ namespace {
 
 std::vector<QSizeF> sizesOf(const std::vector<QQuickItem*>& items) {
     std::vector<QSizeF> sizes;
-    sizes.reserve(static_cast<std::size_t>(items.size()));
+    sizes.reserve(items.size());
     for (const QQuickItem* item : items) sizes.emplace_back(item->width(), item->height());
     return sizes;
 }
 
 }  // namespace
 
-FlowRow::FlowRow(QQuickItem* parent) : QQuickItem(parent) {}
+FlowPlacement flowLayout(const std::vector<QSizeF>& sizes, double spacing, double width) {
+    FlowPlacement placement;
+    double x = 0;
+    double y = 0;
+    double rowHeight = 0;
+    for (const QSizeF& size : sizes) {
+        if (x + size.width() > width) {
+            y += rowHeight + spacing;
+            x = 0;
+            rowHeight = 0;
+        }
+        placement.positions.emplace_back(x, y);
+        x += size.width() + spacing;
+        rowHeight = std::max(rowHeight, size.height());
+    }
+    placement.height = y + rowHeight;
+    return placement;
+}
 
-void FlowRow::setSpacing(qreal spacing) {
-    if (spacing == spacing_) return;
-    spacing_ = spacing;
-    measure();
-    emit spacingChanged();
+double flowIdealWidth(const std::vector<QSizeF>& sizes, double spacing) {
+    // Sums in the same order as flowLayout(), so that rounding cannot wrap a row of exactly this width.
+    double x = 0;
+    double width = 0;
+    for (const QSizeF& size : sizes) {
+        width = x + size.width();
+        x += size.width() + spacing;
+    }
+    return width;
+}
+
+FlowRow::FlowRow(QQuickItem* parent) : QQuickItem(parent) {
+    connect(this, &FlowRow::spacingChanged, this, &FlowRow::measure);
 }
 
 std::vector<QQuickItem*> FlowRow::placedChildren() const {

@@ -2,23 +2,37 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QPointF>
 #include <QQuickItem>
+#include <QSizeF>
+#include <limits>
 #include <vector>
 
 namespace zelk {
+
+struct FlowPlacement {
+    std::vector<QPointF> positions;  ///< top left corners, in the order of the sizes
+    double height = 0;
+};
+
+inline constexpr double unlimitedWidth = std::numeric_limits<double>::infinity();
+
+/// Places items in rows, wrapping where the next item exceeds `width`. An item wider than `width` wraps even if it is
+/// the first, which leaves `spacing` above it.
+FlowPlacement flowLayout(const std::vector<QSizeF>& sizes, double spacing, double width = unlimitedWidth);
+
+/// The width of all items in one row.
+double flowIdealWidth(const std::vector<QSizeF>& sizes, double spacing);
 
 /// A row of its visible children that wraps. The implicit width is that of one row; the implicit height follows from
 /// the width. Skips children without a size, such as a Repeater.
 class FlowRow : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(qreal spacing READ spacing WRITE setSpacing NOTIFY spacingChanged FINAL)
+    Q_PROPERTY(qreal spacing MEMBER spacing_ NOTIFY spacingChanged FINAL)
 
 public:
     explicit FlowRow(QQuickItem* parent = nullptr);
-
-    qreal spacing() const { return spacing_; }
-    void setSpacing(qreal spacing);
 
 signals:
     void spacingChanged();

@@ -10,8 +10,10 @@ Rectangle {
     id: wash
 
     required property T.AbstractButton control
+    property color hoverColor: Theme.hoverWash
+    property color pressColor: Theme.pressWash
 
-    color: wash.control.down ? Theme.pressWash : wash.control.hovered && wash.control.enabled ? Theme.hoverWash : Qt.alpha(Theme.hoverWash, 0)
+    color: wash.control.down ? wash.pressColor : wash.control.hovered && wash.control.enabled ? wash.hoverColor : Qt.alpha(wash.hoverColor, 0)
     Behavior on color {
         ColorAnimation {
             duration: Motion.quick

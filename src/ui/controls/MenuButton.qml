@@ -11,7 +11,6 @@ BaseButton {
 
     // The label beside the button, as the first part of the accessible name.
     property string said: ""
-    property real size: 11
     default property alias rows: panel.contentData
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -42,7 +41,7 @@ BaseButton {
         Label {
             anchors.verticalCenter: parent.verticalCenter
             text: button.text
-            size: button.size
+            size: 11
             font.weight: Font.Medium
             mute: true
         }

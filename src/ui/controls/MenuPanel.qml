@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A popup menu.
+// A popup menu, of a button, of a row or of the menu bar.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -21,11 +21,8 @@ T.Menu {
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     padding: 5
     margins: 8
-    overlap: 1
     // Screen readers find the popup item of the template, which has no name of its own.
     onAboutToShow: contentItem.parent.Accessible.name = panel.title
-
-    delegate: MenuRow {}
 
     enter: Transition {
         NumberAnimation {

@@ -12,13 +12,12 @@ ProgressPicture {
     // For screen readers: whose work it is, and its progress.
     property string name: ""
     property string doing: ""
-    property real barWidth: 220
 
     // Seconds per pass; at half of it the segment is in the middle.
     readonly property real period: 1.5
     property real clock
 
-    implicitWidth: bar.barWidth
+    implicitWidth: 220
     implicitHeight: 6
     color: bar.tint
     track: Theme.hairline

@@ -52,6 +52,11 @@ NumberItem::NumberItem(QQuickItem* parent) : QQuickPaintedItem(parent), run_(thi
     run_.setEasingCurve(QEasingCurve::OutCubic);
     connect(&run_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& share) { advance(share.toDouble()); });
+    connect(this, &NumberItem::wordsChanged, this, &NumberItem::reword);
+    connect(this, &NumberItem::styleChanged, this, &NumberItem::layOut);
+    connect(this, &NumberItem::timingChanged, this, [this] {
+        if (duration_ == 0) settle();
+    });
     layOut();
 }
 
@@ -104,33 +109,6 @@ void NumberItem::setValue(double value) {
     emit valueChanged();
 }
 
-void NumberItem::setFormat(Format format) {
-    if (format == format_) return;
-    format_ = format;
-    reword();
-    emit formatChanged();
-}
-
-void NumberItem::setPhrase(const QString& phrase) {
-    if (phrase == phrase_) return;
-    phrase_ = phrase;
-    reword();
-    emit phraseChanged();
-}
-
-void NumberItem::setDuration(int duration) {
-    if (duration == duration_) return;
-    duration_ = duration;
-    if (duration == 0) settle();
-    emit durationChanged();
-}
-
-void NumberItem::setInterval(int interval) {
-    if (interval == interval_) return;
-    interval_ = interval;
-    emit intervalChanged();
-}
-
 /// The position moves with every frame also where the text does not, or a number that is aimed anew all the time would
 /// never get anywhere.
 void NumberItem::advance(double share) {
@@ -166,27 +144,6 @@ QString NumberItem::lineOf(double number) const {
     if (std::isnan(number)) return phrase_;
     const QString figure = write(number, format_);
     return phrase_.isEmpty() ? figure : QString(phrase_).replace(QStringLiteral("%1"), figure);
-}
-
-void NumberItem::setColor(const QColor& color) {
-    if (color == color_) return;
-    color_ = color;
-    update();
-    emit colorChanged();
-}
-
-void NumberItem::setPixelSize(int pixelSize) {
-    if (pixelSize == pixelSize_) return;
-    pixelSize_ = pixelSize;
-    layOut();
-    emit pixelSizeChanged();
-}
-
-void NumberItem::setBold(bool bold) {
-    if (bold == bold_) return;
-    bold_ = bold;
-    layOut();
-    emit boldChanged();
 }
 
 QFont NumberItem::font() const {

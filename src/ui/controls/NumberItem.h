@@ -38,14 +38,14 @@ class NumberItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged FINAL)
-    Q_PROPERTY(Format format READ format WRITE setFormat NOTIFY formatChanged FINAL)
-    Q_PROPERTY(QString phrase READ phrase WRITE setPhrase NOTIFY phraseChanged FINAL)
+    Q_PROPERTY(Format format MEMBER format_ NOTIFY wordsChanged FINAL)
+    Q_PROPERTY(QString phrase MEMBER phrase_ NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL REQUIRED)
-    Q_PROPERTY(int pixelSize READ pixelSize WRITE setPixelSize NOTIFY pixelSizeChanged FINAL REQUIRED)
-    Q_PROPERTY(bool bold READ bold WRITE setBold NOTIFY boldChanged FINAL)
-    Q_PROPERTY(int duration READ duration WRITE setDuration NOTIFY durationChanged FINAL)
-    Q_PROPERTY(int interval READ interval WRITE setInterval NOTIFY intervalChanged FINAL)
+    Q_PROPERTY(QColor color READ color MEMBER color_ NOTIFY styleChanged FINAL REQUIRED)
+    Q_PROPERTY(int pixelSize READ pixelSize MEMBER pixelSize_ NOTIFY styleChanged FINAL REQUIRED)
+    Q_PROPERTY(bool bold MEMBER bold_ NOTIFY styleChanged FINAL)
+    Q_PROPERTY(int duration MEMBER duration_ NOTIFY timingChanged FINAL)
+    Q_PROPERTY(int interval READ interval MEMBER interval_ NOTIFY timingChanged FINAL)
 
 public:
     enum Format {
@@ -62,28 +62,14 @@ public:
     /// Not a number where there is none: then the phrase stands alone, as it is.
     double value() const { return value_; }
     void setValue(double value);
-    Format format() const { return format_; }
-    void setFormat(Format format);
-    /// The text around the number, which stands in the place of "%1"; empty for the number alone. Where it has plural
-    /// forms, it is the one for the value.
-    const QString& phrase() const { return phrase_; }
-    void setPhrase(const QString& phrase);
     /// The line with its last value, from the moment at which that is set.
     const QString& text() const { return text_; }
 
     QColor color() const { return color_; }
-    void setColor(const QColor& color);
     /// At the normal text size: what is drawn is as much larger as the person reads.
     int pixelSize() const { return pixelSize_; }
-    void setPixelSize(int pixelSize);
-    bool bold() const { return bold_; }
-    void setBold(bool bold);
-    /// Milliseconds of a run; 0 makes it jump, in the middle of a run too.
-    int duration() const { return duration_; }
-    void setDuration(int duration);
     /// Milliseconds between two texts of a run, at least; 0 for a text with every frame. The last one is never late.
     int interval() const { return interval_; }
-    void setInterval(int interval);
 
     /// The line on screen now.
     const QString& shown() const { return shown_; }
@@ -92,14 +78,10 @@ public:
 
 signals:
     void valueChanged();
-    void formatChanged();
-    void phraseChanged();
+    void wordsChanged();
     void textChanged();
-    void colorChanged();
-    void pixelSizeChanged();
-    void boldChanged();
-    void durationChanged();
-    void intervalChanged();
+    void styleChanged();
+    void timingChanged();
 
 protected:
     void componentComplete() override;
@@ -117,12 +99,14 @@ private:
 
     double value_ = std::numeric_limits<double>::quiet_NaN();
     Format format_ = Bytes;
+    // The text around the number, which stands in the place of "%1"; empty for the number alone. Where it has plural
+    // forms, it is the one for the value.
     QString phrase_;
     QString text_;
     QColor color_;
     int pixelSize_ = 13;
     bool bold_ = false;
-    int duration_ = 0;
+    int duration_ = 0;  // milliseconds of a run; 0 makes it jump, in the middle of a run too
     int interval_ = 0;
     double origin_ = 0;         // where the run began
     double position_ = value_;  // where it is now

@@ -25,10 +25,22 @@ RadioButton {
         }
     }
 
-    background: PillGround {
-        control: pill
-        tint: pill.tint
-        chosen: pill.chosen
+    background: Rectangle {
+        radius: height / 2
+        color: pill.chosen ? Qt.tint(Theme.surface, Qt.alpha(pill.tint, 0.2)) : Theme.surface
+        border.width: 1
+        border.color: pill.chosen ? Qt.alpha(pill.tint, 0.7) : Theme.hairline
+
+        HoverOverlay {
+            anchors.fill: parent
+            radius: height / 2
+            control: pill
+        }
+
+        FocusRing {
+            shown: pill.visualFocus
+            corner: pill.height / 2
+        }
     }
 
     contentItem: ButtonLabel {

@@ -13,7 +13,6 @@ FocusScope {
     required property string label
     required property var options
     required property int current
-    property real size: 12
 
     signal picked(int index)
 
@@ -109,7 +108,6 @@ FocusScope {
                 contentItem: ButtonLabel {
                     text: segment.text
                     color: segment.chosen ? Theme.ink : Theme.inkSoft
-                    size: picker.size
                 }
             }
         }

@@ -40,7 +40,7 @@ T.Popup {
     closePolicy: T.Popup.NoAutoClose
 
     onAboutToShow: {
-        // SheetBody has the dialog role; the template's popup item would be a second dialog.
+        // The body has the dialog role; the template's popup item would be a second dialog.
         contentItem.parent.Accessible.ignored = true;
         sheet.before = sheet.parent?.Window.activeFocusItem ?? null;
         sheet.ringed = (sheet.before as T.Control)?.visualFocus ?? false;
@@ -84,7 +84,7 @@ T.Popup {
         color: Theme.groundHi
     }
 
-    contentItem: SheetBody {
+    contentItem: Body {
         title: sheet.title
         body: sheet.body
         bodyWidth: sheet.availableWidth
@@ -93,6 +93,60 @@ T.Popup {
         onEscaped: {
             if (sheet.closable)
                 sheet.dismissed();
+        }
+    }
+
+    // Scrolls the content if it is too high, and handles Escape, Return and Enter.
+    component Body: DialogScope {
+        id: page
+
+        required property Item body
+        required property real bodyWidth
+        required property T.AbstractButton primary
+        // Moves the scroll bar into the sheet's padding, off the content.
+        required property real barMargin
+
+        signal escaped
+
+        focus: true
+        Accessible.role: Accessible.Dialog
+
+        Keys.onEscapePressed: page.escaped()
+        Keys.onReturnPressed: event => page.press(event.isAutoRepeat)
+        Keys.onEnterPressed: event => page.press(event.isAutoRepeat)
+
+        function press(again: bool) {
+            if (!again && page.primary?.enabled)
+                page.primary.clicked();
+        }
+
+        ScrollArea {
+            anchors.fill: parent
+            anchors.rightMargin: page.barMargin
+            contentHeight: holder.height
+
+            Item {
+                id: holder
+
+                width: page.bodyWidth
+                height: Math.max(page.height, page.body?.implicitHeight ?? 0)
+            }
+        }
+
+        Binding {
+            target: page.body
+            property: "parent"
+            value: holder
+        }
+        Binding {
+            target: page.body
+            property: "width"
+            value: holder.width
+        }
+        Binding {
+            target: page.body
+            property: "height"
+            value: holder.height
         }
     }
 }

@@ -10,7 +10,6 @@ T.SpinBox {
     id: stepper
 
     required property string label
-    property alias step: stepper.stepSize
     // The displayed value, for formats with a unit.
     property string valueText: stepper.displayText
     property real size: 12
@@ -114,12 +113,50 @@ T.SpinBox {
         }
     }
 
-    contentItem: StepperFace {
+    contentItem: Face {
         label: stepper.label
         number: stepper.valueText
         size: stepper.size
         boxWidth: stepper.boxWidth
         onNameWidthChanged: stepper.nameWidth = nameWidth
         onNumberWidthChanged: stepper.numberWidth = numberWidth
+    }
+
+    // The label at the left, and the value centred in its box at the right.
+    component Face: Item {
+        id: face
+
+        required property string label
+        required property string number
+        required property real size
+        required property real boxWidth
+
+        readonly property real nameWidth: nameLabel.implicitWidth
+        readonly property real numberWidth: numberLabel.implicitWidth
+
+        implicitHeight: Math.max(nameLabel.implicitHeight, numberLabel.implicitHeight)
+
+        Label {
+            id: nameLabel
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, Math.max(0, face.width - face.boxWidth - 12))
+            text: face.label
+            size: face.size
+            wrapMode: Text.Wrap
+            elide: Text.ElideNone
+            mute: true
+        }
+
+        Label {
+            id: numberLabel
+
+            x: face.width - face.boxWidth / 2 - width / 2
+            anchors.verticalCenter: parent.verticalCenter
+            text: face.number
+            size: face.size
+            font.weight: Font.Medium
+            mute: true
+        }
     }
 }

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/controls/SoftBlur.h"
+#include "ui/controls/SoftShadow.h"
 
 namespace zelk {
 

@@ -20,8 +20,6 @@ FocusScope {
     // The accessible name.
     property string spoken: bar.removal?.spoken ?? bar.text
 
-    signal undoPressed
-    signal closePressed
     signal gone(byKey: bool)
 
     // Whether the keyboard used it last.
@@ -29,8 +27,6 @@ FocusScope {
     readonly property real buttonRoom: undo.visible ? dot.width + undo.width + 2 * 4 : 0
     readonly property real textRoom: close.x - texts.x - bar.buttonRoom - 16
 
-    onUndoPressed: bar.removal?.undo()
-    onClosePressed: bar.removal?.dismiss()
     onShownChanged: {
         if (bar.shown || !bar.focus)
             return;
@@ -46,7 +42,7 @@ FocusScope {
 
     Keys.onEscapePressed: {
         bar.byKey = true;
-        bar.closePressed();
+        bar.removal?.dismiss();
     }
 
     Rectangle {
@@ -104,9 +100,10 @@ FocusScope {
         mute: true
     }
 
-    LinkButton {
+    Button {
         id: undo
 
+        kind: Button.Link
         objectName: "undoRemoval"
         focus: true
         anchors.left: dot.right
@@ -119,7 +116,7 @@ FocusScope {
             bar.byKey = undo.visualFocus;
             if (undo.activeFocus)
                 close.forceActiveFocus(bar.byKey ? Qt.TabFocusReason : Qt.MouseFocusReason);
-            bar.undoPressed();
+            bar.removal?.undo();
         }
     }
 
@@ -136,7 +133,7 @@ FocusScope {
         text: qsTr("Close")
         onClicked: {
             bar.byKey = close.visualFocus;
-            bar.closePressed();
+            bar.removal?.dismiss();
         }
     }
 }

@@ -48,17 +48,15 @@ T.MenuBar {
     Accessible.role: Accessible.MenuBar
     Accessible.name: qsTr("Menu bar")
 
-    delegate: MenuTitle {}
+    delegate: Title {}
 
     background: Rectangle {
         color: Theme.groundHi
 
-        Rectangle {
+        Divider {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            height: 1
-            color: Theme.hairline
         }
     }
 
@@ -71,12 +69,32 @@ T.MenuBar {
     Instantiator {
         model: bar.commands.menus
 
-        delegate: MenuSheet {
+        delegate: MenuPanel {
+            id: sheet
+
             required property CommandMenu modelData
 
-            commands: modelData
+            title: sheet.modelData.title
+            width: Math.max(implicitWidth, Math.round(220 * TextScale.factor))
             onAboutToShow: bar.enter()
             onClosed: bar.leave()
+
+            Instantiator {
+                model: sheet.modelData
+
+                delegate: MenuRow {
+                    required property int index
+                    required property string title
+                    required property string name
+                    required shortcutText
+                    required startsGroup
+
+                    objectName: name
+                    text: title
+                    onTriggered: sheet.modelData.run(index)
+                }
+                onObjectAdded: (index, object) => sheet.insertItem(index, object as T.MenuItem)
+            }
         }
         onObjectAdded: (index, object) => bar.insertMenu(index, object as T.Menu)
     }
@@ -107,5 +125,56 @@ T.MenuBar {
         sequence: "F10"
         enabled: bar.enabled
         onActivated: (bar.itemAt(0) as T.MenuBarItem)?.triggered()
+    }
+
+    // The title of a menu.
+    component Title: T.MenuBarItem {
+        id: item
+
+        // `text` has an ampersand for the mnemonic.
+        readonly property string plainText: item.menu?.title ?? ""
+
+        objectName: "menuTitle" + item.plainText
+        text: "&" + item.plainText
+        // Menus handle the keyboard themselves, and the focus stays where it is.
+        focusPolicy: Qt.NoFocus
+        implicitWidth: label.implicitWidth + 20
+        implicitHeight: Math.max(24, label.implicitHeight + 6)
+        Accessible.name: item.plainText
+        // Qt 6.4 always reports the role of a menu bar here, so the content item is accessible instead.
+        Accessible.ignored: true
+
+        background: Rectangle {
+            radius: 6
+            color: item.highlighted || item.down ? Theme.surfaceHi : "transparent"
+
+            FocusRing {
+                shown: item.visualFocus
+                corner: 6
+            }
+        }
+
+        Item {
+            id: content
+
+            x: item.leftPadding
+            y: item.topPadding
+            width: item.availableWidth
+            height: item.availableHeight
+
+            Accessible.role: Accessible.MenuItem
+            Accessible.name: item.plainText
+            Accessible.onPressAction: item.triggered()
+
+            Label {
+                id: label
+
+                anchors.centerIn: parent
+                text: item.plainText
+                size: 12
+                mute: true
+                font.weight: Font.Medium
+            }
+        }
     }
 }

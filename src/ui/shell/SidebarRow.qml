@@ -4,6 +4,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Zelk.Controls
 
 Column {
@@ -52,12 +53,15 @@ Column {
         }
     }
 
-    TabButton {
+    T.TabButton {
         id: row
 
         objectName: place.name
         text: place.title
-        chosen: place.selected
+        // A click must not check it: only the model changes what is selected.
+        checkable: false
+        focusPolicy: Qt.StrongFocus
+        hoverEnabled: true
         width: parent.width
         height: Math.max(place.tight ? 32 : 36, label.implicitHeight + 12)
         onClicked: {
@@ -74,8 +78,24 @@ Column {
             }
         }
 
+        Keys.forwardTo: [buttonKeys]
         Keys.onUpPressed: place.stepped(place.index, -1)
         Keys.onDownPressed: place.stepped(place.index, 1)
+
+        Accessible.name: place.title
+        Accessible.selectable: true
+        Accessible.selected: place.selected
+        Accessible.onPressAction: buttonKeys.press(false)
+
+        ButtonKeys {
+            id: buttonKeys
+
+            control: row
+        }
+
+        HoverHandler {
+            cursorShape: Qt.PointingHandCursor
+        }
 
         background: Rectangle {
             radius: 8

@@ -83,34 +83,11 @@ QImage tintedSymbol(const QString& name, const QColor& color, int pixels, int we
     return drawn.take({name, color.rgba(), pixels, weight}, drawTinted);
 }
 
-SymbolItem::SymbolItem(QQuickItem* parent) : QQuickPaintedItem(parent) {}
-
-void SymbolItem::setName(const QString& name) {
-    if (name == name_) return;
-    name_ = name;
-    update();
-    emit nameChanged();
-}
-
-void SymbolItem::setColor(const QColor& color) {
-    if (color == color_) return;
-    color_ = color;
-    update();
-    emit colorChanged();
-}
-
-void SymbolItem::setSize(qreal size) {
-    if (size == size_) return;
-    size_ = size;
-    setImplicitSize(size, size);
-    emit sizeChanged();
-}
-
-void SymbolItem::setWeight(int weight) {
-    if (weight == weight_) return;
-    weight_ = weight;
-    update();
-    emit weightChanged();
+SymbolItem::SymbolItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    connect(this, &SymbolItem::changed, this, [this] {
+        setImplicitSize(size_, size_);
+        update();
+    });
 }
 
 void SymbolItem::paint(QPainter* painter) {

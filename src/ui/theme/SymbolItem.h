@@ -22,32 +22,25 @@ QImage tintedSymbol(const QString& name, const QColor& color, int pixels, int we
 class SymbolItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL REQUIRED)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL REQUIRED)
-    Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY sizeChanged FINAL REQUIRED)
-    Q_PROPERTY(int weight READ weight WRITE setWeight NOTIFY weightChanged FINAL)
+    Q_PROPERTY(QString name READ name MEMBER name_ NOTIFY changed FINAL REQUIRED)
+    Q_PROPERTY(QColor color READ color MEMBER color_ NOTIFY changed FINAL REQUIRED)
+    Q_PROPERTY(qreal size READ size MEMBER size_ NOTIFY changed FINAL REQUIRED)
+    Q_PROPERTY(int weight READ weight MEMBER weight_ NOTIFY changed FINAL)
 
 public:
     explicit SymbolItem(QQuickItem* parent = nullptr);
 
     QString name() const { return name_; }
-    void setName(const QString& name);
     QColor color() const { return color_; }
-    void setColor(const QColor& color);
     /// The side length including the margin of the symbol's grid.
     qreal size() const { return size_; }
-    void setSize(qreal size);
     /// The weight of its lines, like that of a font.
     int weight() const { return weight_; }
-    void setWeight(int weight);
 
     void paint(QPainter* painter) override;
 
 signals:
-    void nameChanged();
-    void colorChanged();
-    void sizeChanged();
-    void weightChanged();
+    void changed();
 
 private:
     QString name_;

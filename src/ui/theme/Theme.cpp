@@ -2,6 +2,7 @@
 #include "ui/theme/Theme.h"
 
 #include <QEvent>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QStyleHints>
 
@@ -65,6 +66,10 @@ void Theme::show(const ZelkTheme& theme) {
 
 QColor Theme::otherFiles() const {
     return lookOf(FileType::other, *current_).color;
+}
+
+QString Theme::fixedFont() const {
+    return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
 }
 
 QColor Theme::textOn(const QColor& color, const QColor& ground) const {

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPalette>
 #include <QPointer>
+#include <QString>
 
 #include "ui/theme/DesktopSettings.h"
 #include "ui/theme/SafetyLook.h"
@@ -45,6 +46,7 @@ class Theme : public QObject {
     Q_PROPERTY(QColor textGround READ textGround NOTIFY changed FINAL)
     Q_PROPERTY(QColor hoverWash READ hoverWash NOTIFY changed FINAL)
     Q_PROPERTY(QColor pressWash READ pressWash NOTIFY changed FINAL)
+    Q_PROPERTY(QString fixedFont READ fixedFont CONSTANT FINAL)
 
 public:
     explicit Theme(QObject* parent = nullptr);
@@ -87,6 +89,8 @@ public:
     /// Overlays for hovered and pressed items.
     QColor hoverWash() const { return withOpacity(current_->ink, 0.07); }
     QColor pressWash() const { return withOpacity(current_->ink, 0.13); }
+    /// The system's monospaced family, for columns of numbers.
+    QString fixedFont() const;
     /// Adjusts a colour for small text on `ground` by moving it towards the ink until it is readable there. A binding
     /// that passes a background of the theme is evaluated again when the theme changes.
     Q_INVOKABLE QColor textOn(const QColor& color, const QColor& ground) const;

@@ -25,18 +25,20 @@ Section {
         }
     }
     StateRow {
-        name: "PrimaryButton"
+        name: "Button, primary"
         longText: buttons.longText
 
-        PrimaryButton {
+        Button {
+            kind: Button.Primary
             text: "Run survey"
         }
     }
     StateRow {
-        name: "PrimaryButton, alarming"
+        name: "Button, primary, alarming"
         longText: buttons.longText
 
-        PrimaryButton {
+        Button {
+            kind: Button.Primary
             text: "Remove"
             symbol: "trash"
             alarming: true
@@ -46,30 +48,41 @@ Section {
         }
     }
     StateRow {
-        name: "SecondaryButton"
+        name: "Button, secondary"
         longText: buttons.longText
 
-        SecondaryButton {
+        Button {
             text: "Changes"
             symbol: "clock.arrow.circlepath"
         }
     }
     StateRow {
-        name: "PlainButton"
+        name: "Button, plain"
         longText: buttons.longText
 
-        PlainButton {
+        Button {
+            kind: Button.Plain
             text: "Cancel"
         }
     }
     StateRow {
-        name: "PillButton"
+        name: "Button, pill"
         longText: buttons.longText
 
-        PillButton {
+        Button {
+            kind: Button.Pill
             text: "Duplicates"
             symbol: "doc.on.doc"
             tint: "#15aabf"
+        }
+    }
+    StateRow {
+        name: "Button, removal"
+        longText: buttons.longText
+
+        Button {
+            kind: Button.Removal
+            text: "Review and Remove"
         }
     }
     StateRow {
@@ -84,10 +97,11 @@ Section {
         }
     }
     StateRow {
-        name: "LinkButton"
+        name: "Button, link"
         longText: buttons.longText
 
-        LinkButton {
+        Button {
+            kind: Button.Link
             text: "See all"
         }
     }

@@ -19,7 +19,7 @@ Section {
             id: menuStage
 
             width: 540 * TextScale.factor
-            height: 290 * TextScale.factor
+            height: 300 * TextScale.factor
             popup: menuPanel
 
             SecondaryButton {
@@ -36,6 +36,7 @@ Section {
                 MenuRow {
                     text: "Show in Folder"
                     symbol: "folder"
+                    shortcutText: "Ctrl+O"
                 }
                 MenuRow {
                     text: "Under the pointer"
@@ -59,6 +60,7 @@ Section {
                 }
                 MenuRow {
                     text: "Ticked"
+                    startsGroup: true
                     checkable: true
                     checked: true
                 }

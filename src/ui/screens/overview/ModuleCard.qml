@@ -15,6 +15,7 @@ BaseButton {
     required property color tint
 
     readonly property int corner: 16
+    readonly property bool raised: card.hovered && card.enabled
 
     text: AccessibleText.joined([card.title, AccessibleText.bytes(card.value), card.detail])
     implicitWidth: Math.max(140, implicitContentWidth + leftPadding + rightPadding)
@@ -28,11 +29,38 @@ BaseButton {
         }
     }
 
-    background: CardGround {
-        corner: card.corner
-        outline: card.hovered && card.enabled ? Qt.alpha(card.tint, 0.5) : Theme.hairline
-        shadowOpacity: card.hovered && card.enabled ? 0.25 : 0.06
-        shadowRadius: card.hovered && card.enabled ? 12 : 6
+    background: Rectangle {
+        radius: card.corner
+        color: Theme.surface
+        border.width: 1
+        border.color: card.raised ? Qt.alpha(card.tint, 0.5) : Theme.hairline
+        Behavior on border.color {
+            ColorAnimation {
+                duration: Motion.quick
+            }
+        }
+
+        SoftShadow {
+            readonly property real reach: 24
+
+            anchors.fill: parent
+            anchors.margins: -reach
+            z: -1
+            inset: reach
+            corner: card.corner
+            radius: card.raised ? 12 : 6
+            strength: card.raised ? 0.25 : 0.06
+            Behavior on radius {
+                NumberAnimation {
+                    duration: Motion.quick
+                }
+            }
+            Behavior on strength {
+                NumberAnimation {
+                    duration: Motion.quick
+                }
+            }
+        }
 
         FocusRing {
             shown: card.visualFocus

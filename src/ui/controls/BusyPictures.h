@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// The pictures of the two busy indicators: a frame each at a moment that the view gives.
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
@@ -36,6 +37,25 @@ protected:
 private:
     double seconds_ = 0;
     QColor track_;
+    QColor color_;
+};
+
+/// Paints a frame of the spinner: an arc with a fading tail, its head `turn` revolutions clockwise from twelve o'clock.
+/// Used by Spinner.
+class SpinnerPicture : public zelk::Drawn {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double turn MEMBER turn_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
+
+public:
+    using Drawn::Drawn;
+
+protected:
+    void draw(QPainter& painter) override;
+
+private:
+    double turn_ = 0;
     QColor color_;
 };
 
