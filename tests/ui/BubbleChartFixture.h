@@ -49,7 +49,7 @@ FocusScope {
 
     focus: true
 
-    SecondaryButton {
+    Button {
         objectName: "before"
         text: "Before"
         focus: true
@@ -61,7 +61,7 @@ FocusScope {
         model: board.model
         name: "Map of Library"
     }
-    SecondaryButton {
+    Button {
         anchors.right: parent.right
         text: "After"
         visible: board.height > 300

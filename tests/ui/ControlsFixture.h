@@ -40,13 +40,14 @@ FocusScope {
             Accessible.role: Accessible.Pane
             Accessible.name: "Start"
         }
-        PrimaryButton {
+        Button {
+            kind: Button.Primary
             objectName: "primary"
             text: "Clean"
             enabled: board.able
             onClicked: board.tell("primary")
         }
-        SecondaryButton {
+        Button {
             objectName: "secondary"
             text: "Later"
             enabled: board.able
@@ -60,7 +61,8 @@ FocusScope {
             enabled: board.able
             onClicked: board.tell("icon")
         }
-        LinkButton {
+        Button {
+            kind: Button.Link
             objectName: "link"
             text: "Show all"
             enabled: board.able
@@ -110,14 +112,15 @@ FocusScope {
         Column {
             spacing: 8
 
-            SecondaryButton {
+            Button {
                 objectName: "cancel"
                 text: "Cancel"
                 onClicked: board.tell("cancel")
             }
-            PrimaryButton {
+            Button {
                 id: go
 
+                kind: Button.Primary
                 objectName: "go"
                 text: "Move"
                 enabled: board.able

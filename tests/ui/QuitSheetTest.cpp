@@ -17,7 +17,7 @@ protected:
     void ask() {
         show(QStringLiteral("import QtQuick\nimport Zelk.Controls\nimport Zelk.App\n"
                             "FocusScope { id: top; required property QuitQuestion quitting; focus: true\n"
-                            "PrimaryButton { objectName: \"below\"; text: \"Below\"; focus: true }\n"
+                            "Button { kind: Button.Primary; objectName: \"below\"; text: \"Below\"; focus: true }\n"
                             "QuitSheet { question: top.quitting } }"),
              QSize(960, 620), {{QStringLiteral("quitting"), QVariant::fromValue(&question)}});
         removal = model().removals().begin(1);

@@ -92,7 +92,7 @@ BubblePicture {
                 text: chart.tip.line
                 size: 11
                 font.weight: Font.Medium
-                font.family: Typeface.fixed
+                font.family: Theme.fixedFont
                 color: chart.tip.reclaimable ? Theme.accentText : Theme.ink
                 mute: true
             }

@@ -181,11 +181,12 @@ SecondaryWindow {
     }
 
     // A topic in the list. Only the current one is in the focus chain; arrow keys move from there.
-    component TopicRow: ItemDelegate {
+    component TopicRow: T.ItemDelegate {
         id: row
 
         required property int index
         required property helpTopic modelData
+        required property bool current
 
         text: row.modelData.title
         // (It stays there while it has the focus, even when another one becomes current.)
@@ -195,6 +196,23 @@ SecondaryWindow {
         topPadding: 8
         bottomPadding: 8
         implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
+        hoverEnabled: true
+        Keys.forwardTo: [buttonKeys]
+
+        Accessible.name: row.text
+        Accessible.selectable: true
+        Accessible.selected: row.current
+        Accessible.onPressAction: buttonKeys.press(false)
+
+        ButtonKeys {
+            id: buttonKeys
+
+            control: row
+        }
+
+        HoverHandler {
+            cursorShape: Qt.PointingHandCursor
+        }
 
         background: Rectangle {
             radius: 8

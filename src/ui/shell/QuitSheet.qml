@@ -63,7 +63,7 @@ Sheet {
                     visible: sheet.question.stopping
                 }
 
-                SecondaryButton {
+                Button {
                     objectName: "cancelQuit"
                     anchors.verticalCenter: parent.verticalCenter
                     text: qsTr("Cancel")
@@ -71,7 +71,7 @@ Sheet {
                     onClicked: sheet.question.cancel()
                 }
 
-                SecondaryButton {
+                Button {
                     objectName: "stopNow"
                     anchors.verticalCenter: parent.verticalCenter
                     text: qsTr("Stop now")
@@ -79,9 +79,10 @@ Sheet {
                     onClicked: sheet.question.stopNow()
                 }
 
-                PrimaryButton {
+                Button {
                     id: finishButton
 
+                    kind: Button.Primary
                     objectName: "finishFirst"
                     horizontalPadding: 20
                     verticalPadding: 10

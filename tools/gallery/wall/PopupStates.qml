@@ -22,7 +22,7 @@ Section {
             height: 300 * TextScale.factor
             popup: menuPanel
 
-            SecondaryButton {
+            Button {
                 text: "Show a menu"
                 onClicked: menuPanel.open()
             }
@@ -120,7 +120,7 @@ Section {
         }
     }
 
-    SecondaryButton {
+    Button {
         text: "Show a sheet"
         onClicked: sheet.open()
     }
@@ -159,13 +159,15 @@ Section {
                     anchors.right: parent.right
                     spacing: 12
 
-                    PlainButton {
+                    Button {
+                        kind: Button.Plain
                         text: "Cancel"
                         onClicked: sheet.close()
                     }
-                    PrimaryButton {
+                    Button {
                         id: confirm
 
+                        kind: Button.Primary
                         text: "Clean"
                         horizontalPadding: 18
                         verticalPadding: 9

@@ -10,7 +10,7 @@ ModuleHeader {
     tint: "#22c3c9"
     title: "Clutter"
     subtitle: "The largest files, and those that nobody has opened for long."
-    trailing: SecondaryButton {
+    trailing: Button {
         text: "Look again"
     }
 }

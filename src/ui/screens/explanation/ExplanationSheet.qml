@@ -91,9 +91,10 @@ Sheet {
             lineHeight: 1.25
         }
 
-        PrimaryButton {
+        Button {
             id: done
 
+            kind: Button.Primary
             objectName: "explanationDone"
             anchors.right: parent.right
             horizontalPadding: 20

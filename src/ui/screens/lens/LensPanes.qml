@@ -35,9 +35,10 @@ FocusScope {
             anchors.right: parent.right
             implicitHeight: Math.max(52, startOver.implicitHeight + 16, nameText.implicitHeight + 16)
 
-            LinkButton {
+            Button {
                 id: startOver
 
+                kind: Button.Link
                 objectName: "lensStartOver"
                 anchors.left: parent.left
                 anchors.leftMargin: 24
@@ -263,9 +264,10 @@ FocusScope {
                 wrapMode: Text.Wrap
             }
 
-            RemoveButton {
+            Button {
                 id: remove
 
+                kind: Button.Removal
                 objectName: "lensRemove"
                 anchors.right: parent.right
                 anchors.rightMargin: 16

@@ -78,7 +78,8 @@ FocusScope {
                 height: 24
             }
 
-            PrimaryButton {
+            Button {
+                kind: Button.Primary
                 anchors.horizontalCenter: parent.horizontalCenter
                 objectName: "moduleScanButton"
                 text: hero.module.scanLabel

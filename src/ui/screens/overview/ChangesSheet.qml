@@ -46,9 +46,10 @@ Sheet {
             }
         }
 
-        PrimaryButton {
+        Button {
             id: done
 
+            kind: Button.Primary
             objectName: "changesDone"
             anchors.right: parent.right
             anchors.verticalCenter: titles.verticalCenter

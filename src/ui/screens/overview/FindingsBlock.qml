@@ -69,9 +69,10 @@ Column {
             }
         }
 
-        PrimaryButton {
+        Button {
             id: review
 
+            kind: Button.Primary
             objectName: "reviewButton"
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter

@@ -33,9 +33,10 @@ Card {
                 Accessible.role: Accessible.Heading
             }
 
-            LinkButton {
+            Button {
                 id: all
 
+                kind: Button.Link
                 objectName: "seeAllButton"
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter

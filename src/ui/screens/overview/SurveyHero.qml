@@ -112,10 +112,11 @@ FocusScope {
                     Repeater {
                         model: hero.survey.features
 
-                        PillButton {
+                        Button {
                             required property int index
                             required property screenLook modelData
 
+                            kind: Button.Pill
                             text: modelData.title
                             symbol: modelData.symbol
                             tint: modelData.color
@@ -154,7 +155,8 @@ FocusScope {
                     height: 8
                 }
 
-                PlainButton {
+                Button {
+                    kind: Button.Plain
                     anchors.horizontalCenter: parent.horizontalCenter
                     objectName: "cancelButton"
                     text: qsTr("cancel")

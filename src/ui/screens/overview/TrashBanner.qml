@@ -82,7 +82,7 @@ Item {
             bold: true
         }
 
-        SecondaryButton {
+        Button {
             id: button
 
             objectName: "trashButton"

@@ -79,7 +79,7 @@ Card {
             color: Theme.textOn(card.trends.alarming ? Theme.alert : Theme.inkSoft, Theme.textGround)
         }
 
-        SecondaryButton {
+        Button {
             objectName: "changesButton"
             visible: card.trends.hasChanges
             symbol: "clock.arrow.circlepath"

@@ -48,9 +48,10 @@ Rectangle {
         }
     }
 
-    PrimaryButton {
+    Button {
         id: button
 
+        kind: Button.Primary
         objectName: "reviewButton"
         anchors.right: parent.right
         anchors.rightMargin: 26

@@ -133,7 +133,7 @@ FocusScope {
             visible: review.dryRun.cleaning
         }
 
-        SecondaryButton {
+        Button {
             objectName: "cancelCleanup"
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Cancel")
@@ -141,9 +141,10 @@ FocusScope {
             onClicked: review.dryRun.cancel()
         }
 
-        PrimaryButton {
+        Button {
             id: confirmButton
 
+            kind: Button.Primary
             objectName: "confirmCleanup"
             focus: true
             horizontalPadding: 20

@@ -87,7 +87,8 @@ Sheet {
                     wrapMode: Text.WordWrap
                 }
 
-                LinkButton {
+                Button {
+                    kind: Button.Link
                     objectName: "showSkipped"
                     anchors.horizontalCenter: parent.horizontalCenter
                     text: result.unfolded ? qsTr("Hide what was skipped") : qsTr("Show what was skipped")
@@ -134,7 +135,7 @@ Sheet {
                     visible: sheet.dryRun.emptying
                 }
 
-                SecondaryButton {
+                Button {
                     id: keep
 
                     objectName: "keepInTrash"
@@ -147,9 +148,10 @@ Sheet {
                     onClicked: sheet.dryRun.finish()
                 }
 
-                PrimaryButton {
+                Button {
                     id: empty
 
+                    kind: Button.Primary
                     objectName: "emptyTrash"
                     horizontalPadding: 20
                     verticalPadding: 10
@@ -159,9 +161,10 @@ Sheet {
                     onClicked: sheet.dryRun.emptyTrash()
                 }
 
-                PrimaryButton {
+                Button {
                     id: done
 
+                    kind: Button.Primary
                     objectName: "cleanupDone"
                     horizontalPadding: 20
                     verticalPadding: 10

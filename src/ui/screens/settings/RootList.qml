@@ -121,7 +121,7 @@ Column {
         }
     }
 
-    SecondaryButton {
+    Button {
         id: addButton
 
         objectName: "addFolderButton"

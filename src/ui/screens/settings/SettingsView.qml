@@ -145,7 +145,7 @@ FocusScope {
                     }
                 }
 
-                SecondaryButton {
+                Button {
                     symbol: "arrow.clockwise"
                     text: qsTr("Re-scan now")
                     onClicked: view.settings.rescan()

@@ -101,9 +101,10 @@ Item {
                     }
                 }
 
-                PrimaryButton {
+                Button {
                     id: settingsButton
 
+                    kind: Button.Primary
                     objectName: "openSettingsButton"
                     anchors.horizontalCenter: parent.horizontalCenter
                     text: SystemTexts.of(SystemTexts.AccessSettings)
@@ -128,9 +129,10 @@ Item {
                     }
                 }
 
-                LinkButton {
+                Button {
                     id: continueButton
 
+                    kind: Button.Link
                     objectName: "continueButton"
                     focus: !panel.grantable
                     anchors.horizontalCenter: parent.horizontalCenter

@@ -180,9 +180,10 @@ FocusScope {
             anchors.right: parent.right
             implicitHeight: primaryButton.implicitHeight
 
-            LinkButton {
+            Button {
                 id: skip
 
+                kind: Button.Link
                 objectName: "skipButton"
                 anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
@@ -194,7 +195,7 @@ FocusScope {
                 onClicked: panel.welcome.skip()
             }
 
-            SecondaryButton {
+            Button {
                 id: back
 
                 objectName: "backButton"
@@ -207,9 +208,10 @@ FocusScope {
                 onClicked: panel.turn(panel.welcome.back)
             }
 
-            PrimaryButton {
+            Button {
                 id: primaryButton
 
+                kind: Button.Primary
                 objectName: "primaryButton"
                 anchors.right: parent.right
                 text: panel.welcome.onLastPage ? qsTr("Get Started") : qsTr("Next")

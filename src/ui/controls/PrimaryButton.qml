@@ -1,6 +1,0 @@
-// SPDX-License-Identifier: MIT
-import Zelk.Controls
-
-Button {
-    kind: Button.Primary
-}
