@@ -62,7 +62,7 @@ public:
     QImage picture(double scale) const override;
 
 signals:
-    /// Its own: moc of Qt 6.8 cannot name an enumeration of this class where the signal is inherited.
+    /// Declared here because moc of Qt 6.8 cannot handle an inherited notify signal for a nested enum.
     void kindChanged();
 
 private:

@@ -132,7 +132,7 @@ BaseButton {
         property string title: ""
         property real bytes: NaN
         required property real titleSize
-        // How a number runs, as in AnimatedNumber.
+        // How the number animates, as in AnimatedNumber.
         property int duration: 0
         property int interval: 0
         required property string caption
@@ -146,7 +146,7 @@ BaseButton {
         spacing: 2
         opacity: face.shown ? 1 : 0
         scale: face.fit * (face.shown ? 1 : 0.9)
-        // In sight from the start, so that a number that is set then is seen to run.
+        // Visible from the start, so that a number set then animates.
         visible: face.shown || opacity > 0
 
         Behavior on opacity {

@@ -120,7 +120,7 @@ std::unique_ptr<QMenuBar> AppCommands::makeMenuBar() {
             if (!command.otherShortcut.isEmpty()) keys.append(command.otherShortcut);
             action->setShortcuts(keys);
             action->setMenuRole(roleOf(command.part));
-            // Whether it was a key or the mouse, the system does not say.
+            // The system does not say whether a shortcut or the mouse triggered it.
             connect(action, &QAction::triggered, this, [this, &command] { runByKey(command); });
         }
     }

@@ -89,7 +89,7 @@ public:
     /// one is closed. This must outlive it. Needs a QApplication.
     std::unique_ptr<QMenuBar> makeMenuBar();
     void run(const Command& command) const;
-    /// As its key does it.
+    /// Runs the entry as its shortcut does.
     void runByKey(const Command& command);
 
 public slots:
@@ -97,8 +97,7 @@ public slots:
     void runShortcut(int place);
 
 signals:
-    /// Somebody who uses keys ran an entry, and no question came of it. Where it leads to a screen, the keyboard
-    /// belongs there.
+    /// An entry was run by its shortcut and opened no dialog. If it leads to a screen, the focus belongs there.
     void ranByKey(bool leadsToScreen);
 
 private:
