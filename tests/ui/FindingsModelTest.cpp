@@ -135,9 +135,8 @@ TEST_F(FindingsModelTest, segmentsListTypesBySize) {
               {"f.pdf", 6'000'000},
               {"g.unheard-of", 3'000'000}});
     EXPECT_THAT(labels(), ElementsAre("Photos", "Documents", "Disk images", "Archives", "Other", "Audio", "Video"));
-    EXPECT_THAT(colors(),
-                ElementsAre(red, QColor(50, 199, 123), QColor(255, 107, 94), QColor(245, 166, 35),
-                            withOpacity(ZelkTheme::dark().inkSoft, 0.5), QColor(167, 123, 255), QColor(232, 91, 196)));
+    EXPECT_THAT(colors(), ElementsAre(red, QColor(50, 199, 123), QColor(255, 107, 94), QColor(245, 166, 35), QColor(),
+                                      QColor(167, 123, 255), QColor(232, 91, 196)));
     EXPECT_EQ(findings().segments().front().bytes, 7'000'000);
     EXPECT_EQ(findings().segments().front().bytesText, QStringLiteral("7 MB"));
 }
@@ -158,11 +157,9 @@ TEST_F(FindingsModelTest, emptySurveyHasNoSegments) {
     EXPECT_TRUE(findings().segments().isEmpty());
 }
 
-TEST_F(FindingsModelTest, segmentColoursFollowTheme) {
+TEST_F(FindingsModelTest, otherFilesHaveTheColourOfTheTheme) {
     surveyOf({{"a.mov", 2}, {"b.unheard-of", 1}});
-    EXPECT_THAT(colors(), ElementsAre(red, withOpacity(ZelkTheme::dark().inkSoft, 0.5)));
-    findings().setTheme(ZelkTheme::light());
-    EXPECT_THAT(colors(), ElementsAre(red, withOpacity(ZelkTheme::light().inkSoft, 0.5)));
+    EXPECT_THAT(colors(), ElementsAre(red, QColor()));
 }
 
 TEST_F(FindingsModelTest, freeBytesAreAvailableBytesOfVolume) {

@@ -13,6 +13,7 @@ namespace {
 
 using Widths = std::vector<double>;
 
+const QColor otherColor(100, 110, 120);
 const QColor freeColor(200, 210, 220);
 const QColor segmentColors[] = {QColor(10, 20, 30), QColor(40, 50, 60), QColor(70, 80, 90)};
 
@@ -23,12 +24,17 @@ QList<RibbonSegment> segmentsOf(const std::vector<std::int64_t>& bytes) {
     return segments;
 }
 
-QImage ribbon(const std::vector<std::int64_t>& bytes, double freeBytes) {
+QImage ribbon(const QList<RibbonSegment>& segments, double freeBytes) {
     RibbonPicture picture;
-    picture.setProperty("segments", QVariant::fromValue(segmentsOf(bytes)));
+    picture.setProperty("segments", QVariant::fromValue(segments));
     picture.setProperty("freeBytes", freeBytes);
+    picture.setProperty("otherColor", otherColor);
     picture.setProperty("freeColor", freeColor);
     return painted(picture, {400, 22});
+}
+
+QImage ribbon(const std::vector<std::int64_t>& bytes, double freeBytes) {
+    return ribbon(segmentsOf(bytes), freeBytes);
 }
 
 /// Whether the bar has this colour from `left` to `right` along its middle.
@@ -113,6 +119,13 @@ TEST(StorageRibbon, paintsFreeSpaceOfOnePetabyte) {
     const QImage bar = ribbon({1'000'000'000'000'000}, 1e15);
     EXPECT_EQ(bar.pixelColor(190, 11), segmentColors[0]);
     EXPECT_EQ(bar.pixelColor(210, 11), freeColor);
+}
+
+TEST(StorageRibbon, paintsSegmentsWithoutColourInTheOtherColour) {
+    const QImage bar =
+        ribbon(QList<RibbonSegment>{{QStringLiteral("Other"), 100, QStringLiteral("100 bytes"), {}}}, 300);
+    EXPECT_TRUE(isFilled(bar, 10, 95, otherColor));
+    EXPECT_TRUE(isFilled(bar, 105, 390, freeColor));
 }
 
 }  // namespace zelk

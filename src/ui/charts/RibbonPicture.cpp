@@ -48,7 +48,8 @@ void RibbonPicture::draw(QPainter& painter) {
     for (std::size_t i = 0; i < widths.size(); ++i) {
         const double right = left + widths[i];
         const bool last = right > width() - 0.5;
-        painter.setBrush(i < bytes.size() ? segments_.at(static_cast<qsizetype>(i)).color : freeColor_);
+        const QColor color = i < bytes.size() ? segments_.at(static_cast<qsizetype>(i)).color : freeColor_;
+        painter.setBrush(color.isValid() ? color : otherColor_);
         if (widths[i] > 0)
             painter.drawPath(barPath({left, 0, widths[i], height()}, left == 0 ? outerCorner : innerCorner,
                                      last ? outerCorner : innerCorner));

@@ -24,7 +24,7 @@ public:
     QString label;
     qint64 bytes = 0;
     QString bytesText;
-    QColor color;
+    QColor color;  ///< if invalid, that of the picture's `otherColor`
 
     bool operator==(const RibbonSegment&) const = default;
 };
@@ -40,6 +40,7 @@ class RibbonPicture : public zelk::Drawn {
     Q_PROPERTY(QList<zelk::RibbonSegment> segments MEMBER segments_ NOTIFY changed FINAL)
     // A double, since QML has no 64-bit integer.
     Q_PROPERTY(double freeBytes MEMBER freeBytes_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor otherColor MEMBER otherColor_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor freeColor MEMBER freeColor_ NOTIFY changed FINAL)
 
 public:
@@ -51,6 +52,7 @@ protected:
 private:
     QList<zelk::RibbonSegment> segments_;
     double freeBytes_ = 0;
+    QColor otherColor_;
     QColor freeColor_;
 };
 

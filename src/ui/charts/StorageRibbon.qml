@@ -19,6 +19,7 @@ Column {
 
         width: parent.width
         height: 22
+        otherColor: Theme.otherFiles
         freeColor: Theme.hairline
     }
 
@@ -41,7 +42,7 @@ Column {
                     width: 9
                     height: 9
                     radius: 2
-                    color: entry.modelData.color
+                    color: entry.modelData.color.valid ? entry.modelData.color : Theme.otherFiles
                 }
 
                 Label {

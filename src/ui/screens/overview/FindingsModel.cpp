@@ -60,11 +60,6 @@ FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), 
     refresh();
 }
 
-void FindingsModel::setTheme(const ZelkTheme& theme) {
-    theme_ = &theme;
-    refresh();
-}
-
 void FindingsModel::review() {
     app_.setSelection(Screen::reclaim);
 }
@@ -103,7 +98,7 @@ void FindingsModel::headline() {
     const auto items = app_.reclaimables().size();
     line_ = types.empty()
                 ? tr("across %1 items.").arg(items)
-                : tr("across %1 items · most space: %2").arg(items).arg(lookOf(types.front().first, *theme_).name);
+                : tr("across %1 items · most space: %2").arg(items).arg(lookOf(types.front().first).name);
 }
 
 QList<RibbonSegment> FindingsModel::readSegments() const {
@@ -111,7 +106,7 @@ QList<RibbonSegment> FindingsModel::readSegments() const {
     const auto types = app_.sortedTypeTotals();
     for (const auto& [type, tally] : types) {
         if (tally.bytes < 1) continue;
-        const FileTypeLook look = lookOf(type, *theme_);
+        const FileTypeLook look = lookOf(type);
         const bool isLargest = tally.bytes == types.front().second.bytes;
         segments.append({look.name, tally.bytes, byteFigure(tally.bytes), isLargest ? largestTypeColor : look.color});
     }

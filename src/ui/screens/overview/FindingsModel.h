@@ -9,7 +9,6 @@
 
 #include "ui/charts/RibbonPicture.h"
 #include "ui/screens/clutter/LargeFileRows.h"
-#include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
 
@@ -34,8 +33,6 @@ class FindingsModel : public QObject {
 public:
     /// `app` must outlive it.
     explicit FindingsModel(AppModel& app, QObject* parent = nullptr);
-
-    void setTheme(const ZelkTheme& theme);
 
     /// The reclaimable bytes.
     qint64 recoverable() const { return recoverable_; }
@@ -68,7 +65,6 @@ private:
     QList<RibbonSegment> readSegments() const;
 
     AppModel& app_;
-    const ZelkTheme* theme_ = &ZelkTheme::dark();
     LargeFileRows largest_;
     qint64 recoverable_ = 0;
     QString line_;

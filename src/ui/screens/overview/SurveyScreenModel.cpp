@@ -79,13 +79,6 @@ DeviceFace SurveyScreenModel::device() const {
     return DeviceFace::of(app_.device(), app_.volume());
 }
 
-void SurveyScreenModel::setDark(bool dark) {
-    if (dark == dark_) return;
-    dark_ = dark;
-    findings_.setTheme(dark ? ZelkTheme::dark() : ZelkTheme::light());
-    emit darkChanged();
-}
-
 void SurveyScreenModel::appear() {
     app_.readAbsentVolume();
 }

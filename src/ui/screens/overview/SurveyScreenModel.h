@@ -64,7 +64,6 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(zelk::FindingsModel* findings READ findings CONSTANT FINAL)
     Q_PROPERTY(zelk::TrashBannerModel* trash READ trash CONSTANT FINAL)
     Q_PROPERTY(zelk::TrendsModel* trends READ trends CONSTANT FINAL)
-    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged FINAL)
 
 public:
     /// `app` must outlive it. `now` is a steady clock in seconds, by which a screen reader is told of progress.
@@ -95,8 +94,6 @@ public:
     TrendsModel* trends() { return &trends_; }
 
     /// Which of the two themes the colours of its figures are chosen for.
-    bool dark() const { return dark_; }
-    void setDark(bool dark);
 
 public slots:
     /// The scan button: begins a survey, and does nothing while one runs.
@@ -118,7 +115,6 @@ signals:
     void buttonNameChanged();
     void spokenProgressChanged();
     void deviceChanged();
-    void darkChanged();
 
 private:
     void enterPhase();
@@ -133,7 +129,6 @@ private:
     FindingsModel findings_;
     TrashBannerModel trash_;
     TrendsModel trends_;
-    bool dark_ = true;
     std::function<double()> now_;
     QTimer timer_;
     bool stale_ = false;  ///< something was reported since the last refresh

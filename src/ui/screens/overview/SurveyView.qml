@@ -14,12 +14,6 @@ FocusScope {
 
     Component.onCompleted: view.survey.appear()
 
-    Binding {
-        target: view.survey
-        property: "dark"
-        value: Theme.isDark
-    }
-
     Connections {
         target: view.survey
         function onPhaseChanged() {
