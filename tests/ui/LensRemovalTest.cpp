@@ -112,21 +112,62 @@ TEST_F(LensRemovalTest, keepsFolderWithLongerName) {
     EXPECT_TRUE(machine.files.exists(home + "/music box/tune"));
 }
 
-TEST_F(LensRemovalTest, staysInsideRemovedFolder) {
+TEST_F(LensRemovalTest, goesUpAfterRemovalOfCurrentFolder) {
     fill();
     survey();
     toggle("projects");
     drill("projects");
+    drill("app");
+    removeSelected();
+    EXPECT_THAT(trashed(), ElementsAre(home + "/projects"));
+    EXPECT_EQ(lens().walk().currentNode()->fullPath(), home);
+    EXPECT_THAT(names(), ElementsAre("Library", "music"));
+    EXPECT_FALSE(lens().canGoBack());
+    EXPECT_EQ(model().root()->size, 58'000'000);
+}
+
+TEST_F(LensRemovalTest, goesUpToNearestFolderThatIsLeft) {
+    fill();
+    survey();
+    drill("projects");
+    toggle("app");
+    drill("app");
     removeSelected();
     EXPECT_EQ(place(), "projects");
-    EXPECT_THAT(names(), ElementsAre("app"));
-    EXPECT_EQ(lens().walk().currentNode()->fullPath(), home + "/projects");
-    toggle("app");
-    removeSelected();
-    EXPECT_THAT(trashed(), ElementsAre(home + "/projects")) << "it went with its parent";
-    EXPECT_EQ(model().root()->size, 58'000'000);
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_EQ(lens().looseLine(), QStringLiteral("80 MB in files directly in this folder"));
     lens().back();
-    EXPECT_THAT(names(), ElementsAre("Library", "music"));
+    EXPECT_THAT(names(), ElementsAre("projects", "Library", "music"));
+}
+
+TEST_F(LensRemovalTest, staysInsideFolderWithLongerName) {
+    fill();
+    put("/music box/drawer/tune", 1'000);
+    survey();
+    toggle("music");
+    drill("music box");
+    removeSelected();
+    EXPECT_EQ(place(), "music box");
+}
+
+TEST_F(LensRemovalTest, staysInsideFolderThatCouldNotBeRemoved) {
+    fill();
+    survey();
+    machine.files.failing = [&](const auto& call) { return call.operation == "trash"; };
+    toggle("projects");
+    drill("projects");
+    removeSelected();
+    EXPECT_EQ(place(), "projects");
+}
+
+TEST_F(LensRemovalTest, goesUpFromRemovedRootToAllRoots) {
+    fill();
+    model().setScanRoots({home + "/projects", home + "/music"});
+    survey();
+    toggle(home + "/projects");
+    drill(home + "/projects");
+    removeSelected();
+    EXPECT_THAT(names(), testing::Not(testing::Contains(home + "/projects")));
 }
 
 TEST_F(LensRemovalTest, removalFromOlderTreeUpdatesBothTrees) {

@@ -78,7 +78,7 @@ TEST_F(LensScreenModelTest, listsSeveralRoots) {
     fill();
     model().setScanRoots({home + "/projects", home + "/music"});
     survey();
-    EXPECT_EQ(place(), "");
+    EXPECT_EQ(place(), "Surveyed folders");
     EXPECT_EQ(lens().listName(), QStringLiteral("Surveyed folders"));
     EXPECT_EQ(lens().mapName(), QStringLiteral("Map of the surveyed folders"));
     EXPECT_EQ(lens().placeLine(), QStringLiteral("98 MB · 2 folders"));
@@ -87,6 +87,25 @@ TEST_F(LensScreenModelTest, listsSeveralRoots) {
     EXPECT_EQ(place(), "projects");
     EXPECT_EQ(lens().listName(), QStringLiteral("Folders in projects"));
     EXPECT_EQ(lens().mapName(), QStringLiteral("Map of projects"));
+}
+
+TEST_F(LensScreenModelTest, showsBytesOfLooseFiles) {
+    fill();
+    put("/notes.txt", 3'000'000);
+    survey();
+    EXPECT_EQ(lens().looseLine(), QStringLiteral("3 MB in files directly in this folder"));
+    drill("projects");
+    EXPECT_EQ(lens().looseLine(), QStringLiteral("80 MB in files directly in this folder"));
+    drill("app");
+    EXPECT_EQ(lens().looseLine(), QString());
+}
+
+TEST_F(LensScreenModelTest, severalRootsHaveNoLooseFiles) {
+    fill();
+    model().setScanRoots({home + "/projects", home + "/music"});
+    EXPECT_EQ(lens().looseLine(), QString());
+    survey();
+    EXPECT_EQ(lens().looseLine(), QString());
 }
 
 TEST_F(LensScreenModelTest, rootIsNamedSlash) {

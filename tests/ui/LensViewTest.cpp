@@ -89,7 +89,8 @@ TEST_F(LensViewTest, explainsFolderWithoutSubfolders) {
     survey();
     open();
     expectTexts({"No folders that take up space",
-                 "Files that lie directly in this folder are counted with it and not listed one by one."});
+                 "Files that lie directly in this folder are counted with it and not listed one by one.",
+                 "5 MB in files directly in this folder"});
 }
 
 TEST_F(LensViewTest, showsCurrentFolder) {

@@ -140,6 +140,22 @@ TEST_F(LensWalkTest, deselectsFolderWithItsContent) {
     EXPECT_TRUE(walk.isSelected("/home/me/middle"));
 }
 
+TEST_F(LensWalkTest, leavesRemovedFolderForNearestAboveIt) {
+    const auto at = [&] { return walk.currentNode()->fullPath(); };
+    walk.enter(large);
+    walk.enter(inner);
+    walk.leave("/home/me/lar");
+    EXPECT_EQ(at(), "/home/me/large/inner");
+    walk.leave("/home/me/large/inner/deeper");
+    EXPECT_EQ(at(), "/home/me/large/inner");
+    walk.leave("/home/me/large/inner");
+    EXPECT_EQ(at(), "/home/me/large");
+    walk.enter(inner);
+    walk.leave("/home/me/large");
+    EXPECT_EQ(at(), "/home/me");
+    EXPECT_FALSE(walk.canGoBack());
+}
+
 TEST_F(LensWalkTest, lastComponentOfRootIsSlash) {
     EXPECT_EQ(lastComponent("/home/me"), "me");
     EXPECT_EQ(lastComponent("/"), "/");

@@ -76,7 +76,8 @@ LensScreenModel::~LensScreenModel() {
 
 QString LensScreenModel::place() const {
     const NodeRef node = walk_.currentNode();
-    return node ? displayText(lastComponent(node->fullPath())) : QStringLiteral("—");
+    if (!node) return QStringLiteral("—");
+    return isAboveRoots() ? tr("Surveyed folders") : displayText(lastComponent(node->fullPath()));
 }
 
 /// "1 folders" is as intended: the word labels a count rather than agreeing with it.
@@ -84,6 +85,14 @@ QString LensScreenModel::placeLine() const {
     const NodeRef node = walk_.currentNode();
     if (!node) return {};
     return tr("%1 · %2 folders").arg(byteFigure(node->size)).arg(node->children.size());
+}
+
+QString LensScreenModel::looseLine() const {
+    const NodeRef node = walk_.currentNode();
+    if (!node) return {};
+    std::int64_t loose = node->size;
+    for (const NodeRef& child : node->children) loose -= child->size;
+    return loose < 1 ? QString() : tr("%1 in files directly in this folder").arg(byteFigure(loose));
 }
 
 QVariant LensScreenModel::placeIcon() const {
@@ -95,15 +104,18 @@ QString LensScreenModel::selectTitle() const {
     return removable() ? QString::number(walk_.selected().size()) : tr("None");
 }
 
-/// The synthetic top of several scan roots has no name.
 QString LensScreenModel::listName() const {
-    const QString name = place();
-    return name.isEmpty() ? tr("Surveyed folders") : tr("Folders in %1").arg(name);
+    return isAboveRoots() ? place() : tr("Folders in %1").arg(place());
 }
 
 QString LensScreenModel::mapName() const {
-    const QString name = place();
-    return name.isEmpty() ? tr("Map of the surveyed folders") : tr("Map of %1").arg(name);
+    return isAboveRoots() ? tr("Map of the surveyed folders") : tr("Map of %1").arg(place());
+}
+
+/// The synthetic top of several scan roots has no path.
+bool LensScreenModel::isAboveRoots() const {
+    const NodeRef node = walk_.currentNode();
+    return node && node->fullPath().empty();
 }
 
 bool LensScreenModel::volumed() const {
@@ -261,7 +273,10 @@ void LensScreenModel::removeSelected() {
 }
 
 void LensScreenModel::endRemoval(const std::vector<NodeRef>& gone) {
-    for (const NodeRef& node : gone) walk_.unselectAtAndBelow(node->fullPath());
+    for (const NodeRef& node : gone) {
+        walk_.unselectAtAndBelow(node->fullPath());
+        walk_.leave(node->fullPath());
+    }
     ++version_;
     followTree();
     bubbles_.rebuild();

@@ -32,6 +32,7 @@ class LensScreenModel : public zelk::SurveyedModule {
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString place READ place NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString placeLine READ placeLine NOTIFY placeChanged FINAL)
+    Q_PROPERTY(QString looseLine READ looseLine NOTIFY placeChanged FINAL)
     Q_PROPERTY(QVariant placeIcon READ placeIcon NOTIFY placeChanged FINAL)
     Q_PROPERTY(QString selectTitle READ selectTitle NOTIFY selectionChanged FINAL)
     Q_PROPERTY(QString listName READ listName NOTIFY placeChanged FINAL)
@@ -55,9 +56,11 @@ public:
     /// Whether the current folder has no subfolders to show.
     bool bare() const { return mapped() && rows_.rowCount() == 0; }
     bool canGoBack() const { return walk_.canGoBack(); }
-    /// The name of the current folder, or a dash.
+    /// The name of the current folder, a heading above several scan roots, or a dash without a tree.
     QString place() const;
     QString placeLine() const;
+    /// The bytes of the files that are in no subfolder, which the list does not show; empty without such files.
+    QString looseLine() const;
     /// A QImage; null without a current folder.
     QVariant placeIcon() const;
     QString selectTitle() const;
@@ -99,6 +102,7 @@ signals:
     void drilled(int duration);
 
 private:
+    bool isAboveRoots() const;
     void followTree();
     void enter(const NodeRef& node, int duration);
     void toggle(const NodeRef& node);

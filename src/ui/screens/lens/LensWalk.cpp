@@ -53,6 +53,13 @@ void LensWalk::back() {
     if (!stack_.empty()) stack_.pop_back();
 }
 
+void LensWalk::leave(const std::string& path) {
+    const auto first = std::find_if(stack_.begin(), stack_.end(), [below = path + '/'](const NodeRef& node) {
+        return (node->fullPath() + '/').starts_with(below);
+    });
+    stack_.erase(first, stack_.end());
+}
+
 void LensWalk::startOver() {
     stack_.clear();
     selected_.clear();

@@ -33,6 +33,8 @@ public:
     bool canGoBack() const { return !stack_.empty(); }
     void enter(NodeRef node) { stack_.push_back(std::move(node)); }
     void back();
+    /// Goes up to the nearest folder that is neither at nor below this path, where something was removed.
+    void leave(const std::string& path);
     /// Returns to mapRoot() and clears the selection.
     void startOver();
 
