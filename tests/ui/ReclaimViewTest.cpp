@@ -32,7 +32,7 @@ TEST_F(ReclaimWindow, reportsCleanDrive) {
 TEST_F(ReclaimWindow, offersCategories) {
     fillJunk();
     openFor(AppModel::Audience::normal);
-    expectTexts({"Select:", "Review & Clean", "node_modules", "Yarn cache"});
+    expectTexts({"Select:", "Review & Clean", "node_modules", "Yarn cache", "regenerates"});
     EXPECT_EQ(nameOf(find("categoryList")), "Categories");
     EXPECT_EQ(nameOf(find("categoryMap")), "Map of the categories");
     click("selectMenu");

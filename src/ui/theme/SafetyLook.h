@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QString>
 
 #include "reclaim/ReclaimCatalogue.h"
@@ -21,10 +22,17 @@ inline QColor colorOf(ReclaimSafety safety) {
     return {};
 }
 
-/// "safe", "regenerates", "review".
+/// The name of a safety grade: "safe", "regenerates" or "review".
 inline QString wordOf(ReclaimSafety safety) {
-    const std::string_view word = rawValue(safety);
-    return QString::fromLatin1(word.data(), static_cast<qsizetype>(word.size()));
+    switch (safety) {
+        case ReclaimSafety::safe:
+            return QCoreApplication::translate("SafetyLook", "safe");
+        case ReclaimSafety::regenerates:
+            return QCoreApplication::translate("SafetyLook", "regenerates");
+        case ReclaimSafety::review:
+            return QCoreApplication::translate("SafetyLook", "review");
+    }
+    return {};
 }
 
 }  // namespace zelk

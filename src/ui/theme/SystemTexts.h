@@ -52,7 +52,7 @@ public:
     /// The translated wording for the system in use, see shown().
     Q_INVOKABLE static QString of(zelk::SystemTexts::Key key);
     /// Rewords a text of a lower layer, which does not know the system: if it equals the macOS wording of a row,
-    /// returns the wording for the system in use, else the text itself.
+    /// returns the wording for the system in use, else the text itself, translated.
     static QString worded(std::string_view text);
 
     /// A cell of the table, UTF-8, untranslated.

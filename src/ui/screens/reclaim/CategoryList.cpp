@@ -22,7 +22,7 @@ QString countText(std::int64_t items) {
 }  // namespace
 
 CategoryList::CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review)
-    : RowModel({"identity", "name", "note", "tint", "bytes", "itemCount", "chosen", "spoken"}),
+    : RowModel({"identity", "name", "note", "tint", "bytes", "itemCount", "grade", "chosen", "spoken"}),
       app_(app),
       review_(std::move(review)),
       bubbles_({[this](const BubbleSlice& slice) {
@@ -51,7 +51,7 @@ QVariant CategoryList::value(std::size_t at, int role) const {
         case idRole:
             return text(row.category->id);
         case nameRole:
-            return text(row.category->displayName);
+            return SystemTexts::worded(row.category->displayName);
         case noteRole:
             return SystemTexts::worded(row.category->note);
         case tintRole:
@@ -60,10 +60,12 @@ QVariant CategoryList::value(std::size_t at, int role) const {
             return static_cast<qint64>(row.bytes);
         case countRole:
             return countText(row.items);
+        case gradeRole:
+            return wordOf(row.category->safety);
         case chosenRole:
             return isChosen(row);
         case spokenRole:
-            return AccessibleText::joined({text(row.category->displayName), wordOf(row.category->safety),
+            return AccessibleText::joined({SystemTexts::worded(row.category->displayName), wordOf(row.category->safety),
                                            byteFigure(row.bytes), countText(row.items),
                                            SystemTexts::worded(row.category->note)});
         default:
@@ -141,7 +143,7 @@ void CategoryList::showBubbles() {
     for (const Row& row : rows_) {
         BubbleSlice slice;
         slice.id = row.category->id;
-        slice.label = displayText(row.category->displayName);
+        slice.label = SystemTexts::worded(row.category->displayName);
         slice.bytes = row.bytes;
         slice.color = colorOf(row.category->safety);
         slice.selected = isChosen(row);

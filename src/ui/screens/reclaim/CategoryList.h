@@ -28,7 +28,17 @@ class CategoryList : public zelk::RowModel {
     Q_PROPERTY(zelk::BubbleModel* bubbles READ bubbles CONSTANT FINAL)
 
 public:
-    enum Role { idRole = Qt::UserRole, nameRole, noteRole, tintRole, bytesRole, countRole, chosenRole, spokenRole };
+    enum Role {
+        idRole = Qt::UserRole,
+        nameRole,
+        noteRole,
+        tintRole,
+        bytesRole,
+        countRole,
+        gradeRole,
+        chosenRole,
+        spokenRole
+    };
 
     /// `app` must outlive it. `review` opens the review of the given items, at least one.
     CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review);

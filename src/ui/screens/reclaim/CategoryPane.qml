@@ -142,6 +142,7 @@ FocusScope {
         required property color tint
         required property real bytes
         required property string itemCount
+        required property string grade
         required property bool chosen
         required spoken
 
@@ -238,12 +239,24 @@ FocusScope {
                 mute: true
             }
 
-            Label {
+            Row {
                 anchors.right: parent.right
-                text: row.itemCount
-                size: 10
-                soft: true
-                mute: true
+                spacing: 8
+
+                // The dot alone would tell the grade by its colour only.
+                Label {
+                    text: row.grade
+                    size: 10
+                    color: Theme.textOn(row.tint, Theme.textGround)
+                    mute: true
+                }
+
+                Label {
+                    text: row.itemCount
+                    size: 10
+                    soft: true
+                    mute: true
+                }
             }
         }
     }

@@ -56,7 +56,7 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
         case groupRole:
             return true;
         case nameRole:
-            return displayText(category.displayName);
+            return SystemTexts::worded(category.displayName);
         case placeRole:
             return SystemTexts::worded(category.note);
         case figureRole:
@@ -72,7 +72,7 @@ QVariant ItemList::dataOfGroup(const Group& group, int role) const {
         case openRole:
             return group.open;
         case spokenRole:
-            return AccessibleText::joined({displayText(category.displayName), figure(), wordOf(category.safety),
+            return AccessibleText::joined({SystemTexts::worded(category.displayName), figure(), wordOf(category.safety),
                                            group.open ? tr("expanded") : tr("collapsed"),
                                            SystemTexts::worded(category.note)});
         default:
