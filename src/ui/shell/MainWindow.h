@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "ui/shell/AppCommands.h"
 #include "ui/shell/DetailPages.h"
@@ -41,9 +42,9 @@ public:
 
     /// Raises every open window, the main one last. Closed windows stay closed. Returns how many there are.
     int bringAllForward();
-    /// Shows the window, or raises it if it is visible. It is created when first opened, and then kept.
+    /// Shows the window, or raises it if it is visible. It lives until it is closed.
     QQuickWindow& openWindow(WindowId id);
-    /// The window if it was opened before, else nullptr.
+    /// The window if it is open, else nullptr.
     QQuickWindow* findWindow(WindowId id) const;
 
     QQuickWindow& window() { return *window_; }
@@ -58,6 +59,7 @@ public:
 
 private:
     std::unique_ptr<QQuickWindow> makeSecondary(WindowId id);
+    void releaseClosed(WindowId id);
     void afterNextFrame(const std::function<void()>& act);
 
     AppModel& app_;
@@ -72,6 +74,7 @@ private:
     Motion* motion_ = nullptr;        // owned by the engine
     TextScale* textScale_ = nullptr;  // owned by the engine
     std::map<WindowId, std::unique_ptr<QQuickWindow>> secondary_;
+    std::vector<std::unique_ptr<QQuickWindow>> closed_;  // until the next turn of the event loop
     std::unique_ptr<QQuickWindow> window_;
     std::function<void()> whenComplete_;
     bool complete_ = false;

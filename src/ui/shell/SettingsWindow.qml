@@ -18,15 +18,7 @@ SecondaryWindow {
     minimumHeight: 360
     maximumHeight: 360
 
-    // Opens at its top, wherever it was scrolled to before.
-    onVisibleChanged: {
-        if (window.visible)
-            view.goToTop();
-    }
-
     SettingsView {
-        id: view
-
         anchors.fill: parent
         settings: window.settings
         headed: false

@@ -16,11 +16,6 @@ FocusScope {
 
     readonly property int gap: view.headed ? 24 : 16
 
-    function goToTop() {
-        scroll.forceActiveFocus();
-        scroll.scrollTo(0);
-    }
-
     Rectangle {
         anchors.fill: parent
         color: Theme.ground
