@@ -367,7 +367,9 @@ bool Tour::missing(const char* what) const {
 
 bool Tour::picture(QQuickWindow& window, const QString& name) {
     restPointer(window);
-    return keep(window.grabWindow(), name);
+    const QImage picture = window.grabWindow();
+    if (plan_.inspect) plan_.inspect(window, name);
+    return keep(picture, name);
 }
 
 bool Tour::keep(const QImage& picture, const QString& name) const {

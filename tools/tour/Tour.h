@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
@@ -17,6 +18,7 @@ struct TourPlan {
     QSize size;     ///< of the window
     bool dark;      ///< the theme
     bool complete;  ///< every state must be available; otherwise those that are not are skipped
+    std::function<void(QQuickWindow&, const QString&)> inspect;  ///< called with the name of each picture; may be empty
 };
 
 /// Walks through the application once, takes pictures and prints their paths.

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// tour --out DIR --root PATH [--home DIR] [--size WxH]: runs the real window on the real file system without a display,
-// presses its buttons, and saves a picture of every screen and state in both themes in DIR, and of the gallery. Nothing
-// is removed: the services only report success. The tour's history goes to a temporary folder. With --home, history and
-// Trash are those of a home made by `tools/sample_home --history`, which has something for every state: the tour then
-// fails if it misses one. Otherwise it skips what the disk does not have. It also fails if Qt or the QML engine prints
-// a warning.
+// tour --out DIR --root PATH [--home DIR] [--size WxH] [--pseudo]: runs the real window on the real file system without
+// a display, presses its buttons, and saves a picture of every screen and state in both themes in DIR, and of the
+// gallery. Nothing is removed: the services only report success. The tour's history goes to a temporary folder. With
+// --home, history and Trash are those of a home made by `tools/sample_home --history`, which has something for every
+// state: the tour then fails if it misses one. Otherwise it skips what the disk does not have. It also fails if Qt or
+// the QML engine prints a warning. With --pseudo all texts are in a pseudo-language, in one theme, and the tour fails
+// if a text is not translated or has no room for one that is 40% longer.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -16,17 +17,33 @@
 
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
+#include "PseudoLanguage.h"
 #include "QtMessages.h"
 #include "ScratchLocations.h"
+#include "TextCheck.h"
 #include "Tour.h"
 #include "platform/NativePlatform.h"
 #include "ui/shell/Application.h"
+#include "ui/theme/DisplayText.h"
 
 namespace {
 
 QSize sizeFrom(const QString& text) {
     const QStringList sides = text.split(u'x');
     return sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+}
+
+void allowFolders(const zelk::FSNode& folder, zelk::tour::TextCheck& texts) {
+    texts.allow(zelk::displayText(folder.name()));
+    for (const zelk::NodeRef& child : folder.children) allowFolders(*child, texts);
+}
+
+/// The names of the disk and of the machine are the same in every language.
+void allowNames(const zelk::AppModel& app, zelk::tour::TextCheck& texts) {
+    texts.allow(QStringLiteral("Zelk"));
+    texts.allow(zelk::displayText(app.device().computerName));
+    if (app.root()) allowFolders(*app.root(), texts);
+    for (const zelk::LargeFile& file : app.insights().topFiles) texts.allow(zelk::nameText(file.path));
 }
 
 }  // namespace
@@ -45,6 +62,10 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     zelk::tour::keepQtMessages();
     QApplication application(argc, argv);
+    // Installed before the first table of texts is made.
+    zelk::tour::PseudoLanguage language;
+    const bool pseudo = QCoreApplication::arguments().contains(QStringLiteral("--pseudo"));
+    if (pseudo) QCoreApplication::installTranslator(&language);
     zelk::dressApplication();
 
     QCommandLineParser options;
@@ -56,6 +77,7 @@ int main(int argc, char** argv) {
         {QStringLiteral("home"), QStringLiteral("Whose records and Trash are shown."), QStringLiteral("DIR")});
     options.addOption({QStringLiteral("size"), QStringLiteral("Size of the window."), QStringLiteral("WxH"),
                        QStringLiteral("1120x720")});
+    options.addOption({QStringLiteral("pseudo"), QStringLiteral("In a pseudo-language, whose texts are checked.")});
     options.process(application);
     const QSize size = sizeFrom(options.value(QStringLiteral("size")));
     const QString folder = options.value(QStringLiteral("out"));
@@ -81,13 +103,27 @@ int main(int argc, char** argv) {
     zelk::tour::ScratchLocations forLight(real.locations, sample);
 
     bool complete = true;
+    zelk::tour::TextCheck texts;
     for (const bool dark : {true, false}) {
+        if (pseudo && !dark) break;
         const zelk::Platform platform{clock,      directories, files,    trash, real.vitals, dark ? forDark : forLight,
                                       real.tasks, processes,   workspace};
         zelk::AppModel app(platform);
         app.setScanRoots({QDir(root).absolutePath().toStdString()});
-        complete = complete && zelk::tour::Tour(app, directories, pretence, {folder, size, dark, sample}).run();
+        const std::function<void(QQuickWindow&, const QString&)> inspect = [&](QQuickWindow& window,
+                                                                               const QString& picture) {
+            allowNames(app, texts);
+            texts.look(window, picture);
+        };
+        const zelk::tour::TourPlan plan{folder, size, dark, sample,
+                                        pseudo ? inspect : std::function<void(QQuickWindow&, const QString&)>()};
+        complete = complete && zelk::tour::Tour(app, directories, pretence, plan).run();
     }
+    for (const QString& finding : texts.findings()) {
+        std::fprintf(stderr, "tour: %s\n", qPrintable(finding));
+        complete = false;
+    }
+    if (pseudo) std::printf("%lld texts in the pseudo-language\n", static_cast<long long>(texts.translated()));
     directories.resume();
     for (const QString& message : zelk::tour::takeQtMessages()) {
         std::fprintf(stderr, "tour: a message of Qt: %s\n", qPrintable(message));

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QQuickWindow>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+
+namespace zelk::tour {
+
+/// Collects, from windows in the pseudo-language, the texts that are not in it and those that are cut off. Numbers,
+/// sizes, paths and the names that are given to `allow` are the same in every language.
+class TextCheck {
+public:
+    /// A name of the user's own, or of a product.
+    void allow(const QString& name) { names_.insert(name); }
+
+    /// Looks at all texts that are visible now. `picture` names the place in the findings.
+    void look(QQuickWindow& window, const QString& picture);
+
+    /// One line per text that is wrong, with the first picture that it was seen in.
+    const QStringList& findings() const { return findings_; }
+    /// How many texts in the pseudo-language were seen.
+    qsizetype translated() const { return translated_.size(); }
+
+private:
+    void lookBelow(QQuickItem& item, const QRectF& shown, const QString& picture);
+    void lookAt(QQuickItem& item, const QRectF& shown, const QString& picture);
+    bool sameEverywhere(const QString& text) const;
+    void report(const QString& what, const QString& text, const QString& picture);
+
+    QSet<QString> names_;
+    QSet<QString> translated_;
+    QSet<QString> reported_;
+    QStringList findings_;
+};
+
+}  // namespace zelk::tour
