@@ -48,6 +48,16 @@ TEST_F(ToolsWindow, showsItsTextsInOrder) {
     EXPECT_EQ(symbol("list.star")->color(), QColor(154, 160, 255));
 }
 
+TEST_F(ToolsWindow, rowsHaveLeftLineAndGreatestWidthOfAllScreens) {
+    open({1900, 1400});
+    const QQuickItem* row = window().activeFocusItem();
+    ASSERT_EQ(nameOf(window().activeFocusItem()), first);
+    EXPECT_EQ(row->mapToScene({}).x(), 26);
+    EXPECT_EQ(row->width(), 1100);
+    open({800, 620});
+    EXPECT_EQ(window().activeFocusItem()->width(), 800 - 2 * 26);
+}
+
 TEST_F(ToolsWindow, rowShowsTileAndThreeTexts) {
     open({800, 1400});
     EXPECT_EQ(sizeOf("Duplicates"), 17);

@@ -47,6 +47,8 @@ class Theme : public QObject {
     Q_PROPERTY(QColor hoverWash READ hoverWash NOTIFY changed FINAL)
     Q_PROPERTY(QColor pressWash READ pressWash NOTIFY changed FINAL)
     Q_PROPERTY(QString fixedFont READ fixedFont CONSTANT FINAL)
+    Q_PROPERTY(int pageMargin READ pageMargin CONSTANT FINAL)
+    Q_PROPERTY(int pageWidth READ pageWidth CONSTANT FINAL)
 
 public:
     explicit Theme(QObject* parent = nullptr);
@@ -91,6 +93,10 @@ public:
     QColor pressWash() const { return withOpacity(current_->ink, 0.13); }
     /// The system's monospaced family, for columns of numbers.
     QString fixedFont() const;
+    /// Points from the sides of a screen to its content, so that all screens share one left line.
+    static int pageMargin() { return 26; }
+    /// The greatest width of a column of rows or cards in points. In wider windows lines would be too long to follow.
+    static int pageWidth() { return 1100; }
     /// Adjusts a colour for small text on `ground` by moving it towards the ink until it is readable there. A binding
     /// that passes a background of the theme is evaluated again when the theme changes.
     Q_INVOKABLE QColor textOn(const QColor& color, const QColor& ground) const;

@@ -76,6 +76,7 @@ FocusScope {
         delegate: ClutterRow {
             id: fileRow
 
+            width: Math.min(list.width, Theme.pageWidth + 2 * Theme.pageMargin)
             ringed: list.ringed && ListView.isCurrentItem
             onPressed: list.take(index)
             onAsked: at => list.openMenu(index, actions, mapToItem(list, at))

@@ -17,9 +17,9 @@ Item {
     Column {
         id: column
 
-        x: 26
+        x: Theme.pageMargin
         y: 20
-        width: head.width - 2 * 26
+        width: Math.min(head.width - 2 * Theme.pageMargin, Theme.pageWidth)
         spacing: 8
 
         Item {

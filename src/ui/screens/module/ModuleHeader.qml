@@ -20,7 +20,7 @@ Item {
         id: tile
 
         anchors.left: parent.left
-        anchors.leftMargin: 26
+        anchors.leftMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
         width: 38
         height: 38
@@ -66,7 +66,7 @@ Item {
         id: trailingView
 
         anchors.right: parent.right
-        anchors.rightMargin: 26
+        anchors.rightMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
         sourceComponent: header.trailing
     }

@@ -40,7 +40,7 @@ FocusScope {
             id: column
 
             anchors.centerIn: parent
-            width: scroll.width - 2 * 26
+            width: scroll.width - 2 * Theme.pageMargin
 
             ModuleOrb {
                 id: orb

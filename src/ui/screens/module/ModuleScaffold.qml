@@ -37,7 +37,7 @@ FocusScope {
 
         Column {
             anchors.centerIn: parent
-            width: parent.width - 2 * 26
+            width: parent.width - 2 * Theme.pageMargin
 
             ModuleOrb {
                 anchors.horizontalCenter: parent.horizontalCenter

@@ -39,7 +39,8 @@ FocusScope {
     ScrollArea {
         id: scroll
 
-        readonly property int paddingAcross: 26
+        readonly property real columnWidth: Math.min(width - 2 * Theme.pageMargin, Theme.pageWidth)
+        readonly property real columnLeft: (width - columnWidth) / 2
         readonly property int paddingDown: 28
 
         objectName: "surveyScroll"
@@ -59,18 +60,18 @@ FocusScope {
             DeviceHeader {
                 id: deviceHeader
 
-                x: scroll.paddingAcross
+                x: scroll.columnLeft
                 y: scroll.paddingDown
-                width: page.width - 2 * scroll.paddingAcross
+                width: scroll.columnWidth
                 device: view.survey.device
             }
 
             SurveyHero {
                 id: hero
 
-                x: scroll.paddingAcross
+                x: scroll.columnLeft
                 y: page.heroTop + (view.survey.finished ? 0 : Math.max(0, (page.heroRoom - hero.implicitHeight) / 2))
-                width: page.width - 2 * scroll.paddingAcross
+                width: scroll.columnWidth
                 survey: view.survey
                 findings: findingsLoader
                 focus: true
@@ -96,9 +97,9 @@ FocusScope {
                         });
                 }
 
-                x: scroll.paddingAcross
+                x: scroll.columnLeft
                 y: page.heroTop + hero.implicitHeight + 22
-                width: page.width - 2 * scroll.paddingAcross
+                width: scroll.columnWidth
                 opacity: findingsLoader.wanted ? 1 : 0
                 onWantedChanged: findingsLoader.build()
                 Component.onCompleted: findingsLoader.build()

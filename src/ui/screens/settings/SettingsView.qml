@@ -45,7 +45,7 @@ FocusScope {
         // Initially no control is focused, but the page keys scroll.
         focus: true
 
-        Accessible.role: Accessible.Pane
+        Accessible.role: Accessible.Document
         Accessible.name: view.settings.look.title
 
         Item {
@@ -54,9 +54,9 @@ FocusScope {
             Column {
                 id: sections
 
-                x: 24
+                x: Theme.pageMargin
                 y: view.gap
-                width: Math.min(parent.width - 2 * 24, 640 * TextScale.factor)
+                width: Math.min(parent.width - 2 * Theme.pageMargin, 640 * TextScale.factor)
                 spacing: view.gap
 
                 SettingsSection {

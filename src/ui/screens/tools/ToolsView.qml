@@ -38,7 +38,7 @@ FocusScope {
             id: rows
 
             width: parent.width
-            padding: 24
+            padding: Theme.pageMargin
             spacing: 12
 
             Repeater {
@@ -50,7 +50,7 @@ FocusScope {
                     required property int index
                     required property toolFace modelData
 
-                    width: rows.width - 2 * rows.padding
+                    width: Math.min(rows.width - 2 * rows.padding, Theme.pageWidth)
                     focus: row.index === 0
                     text: row.modelData.spoken
                     padding: 16
