@@ -24,7 +24,7 @@ QList<RibbonSegment> segmentsOf(const std::vector<std::int64_t>& bytes) {
     return segments;
 }
 
-QImage ribbon(const QList<RibbonSegment>& segments, double freeBytes) {
+QImage ribbonOf(const QList<RibbonSegment>& segments, double freeBytes) {
     RibbonPicture picture;
     picture.setProperty("segments", QVariant::fromValue(segments));
     picture.setProperty("freeBytes", freeBytes);
@@ -34,7 +34,7 @@ QImage ribbon(const QList<RibbonSegment>& segments, double freeBytes) {
 }
 
 QImage ribbon(const std::vector<std::int64_t>& bytes, double freeBytes) {
-    return ribbon(segmentsOf(bytes), freeBytes);
+    return ribbonOf(segmentsOf(bytes), freeBytes);
 }
 
 /// Whether the bar has this colour from `left` to `right` along its middle.
@@ -123,7 +123,7 @@ TEST(StorageRibbon, paintsFreeSpaceOfOnePetabyte) {
 
 TEST(StorageRibbon, paintsSegmentsWithoutColourInTheOtherColour) {
     const QImage bar =
-        ribbon(QList<RibbonSegment>{{QStringLiteral("Other"), 100, QStringLiteral("100 bytes"), {}}}, 300);
+        ribbonOf(QList<RibbonSegment>{{QStringLiteral("Other"), 100, QStringLiteral("100 bytes"), {}}}, 300);
     EXPECT_TRUE(isFilled(bar, 10, 95, otherColor));
     EXPECT_TRUE(isFilled(bar, 105, 390, freeColor));
 }

@@ -137,7 +137,7 @@ TEST_F(TrendsWindow, nearForecastIsInTheAlertColourOfTheTheme) {
         settle();
         const std::string forecast = trends.forecast().toStdString();
         ASSERT_NE(showing(forecast.c_str()), nullptr) << forecast;
-        EXPECT_EQ(colorOf(forecast.c_str()), theme().alertText());
+        EXPECT_EQ(colorOf(forecast.c_str()).rgba(), theme().alertText().rgba());
     }
 }
 

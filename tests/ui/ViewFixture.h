@@ -71,6 +71,8 @@ protected:
     /// Destroys the view, which reads its model: a fixture that owns the model calls this first.
     void close() {
         view_.reset();
+        // The animations of the view are stopped while the window that drives them is there.
+        if (window_) runWhatIsThere();
         window_.reset();
     }
 

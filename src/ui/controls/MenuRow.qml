@@ -38,12 +38,11 @@ T.MenuItem {
     }
 
     contentItem: Item {
-        implicitWidth: line.implicitWidth + (row.shortcutText === "" ? 0 : 16 + shortcut.implicitWidth)
-        implicitHeight: line.implicitHeight
+        // Without ids, which would make Qt create the content at once.
+        implicitWidth: children[0].implicitWidth + (row.shortcutText === "" ? 0 : 16 + children[1].implicitWidth)
+        implicitHeight: children[0].implicitHeight
 
         Row {
-            id: line
-
             spacing: 8
 
             SymbolItem {
@@ -64,8 +63,6 @@ T.MenuItem {
         }
 
         Label {
-            id: shortcut
-
             anchors.right: parent.right
             text: row.shortcutText
             size: 12

@@ -49,7 +49,7 @@ SecondaryWindow {
 
                 // Focuses the row chosen by the keyboard, visibly, which scrolls it into view.
                 function followKeyboard() {
-                    const row = topics.itemAt(window.help.current) as T.AbstractButton;
+                    const row = topicRows.itemAt(window.help.current) as T.AbstractButton;
                     row.forceActiveFocus(Qt.TabFocusReason);
                     row.focusReason = Qt.TabFocusReason;
                 }
@@ -96,7 +96,7 @@ SecondaryWindow {
                     spacing: 2
 
                     Repeater {
-                        id: topics
+                        id: topicRows
 
                         model: window.help.topics
 
@@ -126,11 +126,11 @@ SecondaryWindow {
         anchors.left: sidePanel.right
         anchors.right: parent.right
         height: parent.height
-        contentHeight: topic.implicitHeight + 2 * 32
+        contentHeight: article.implicitHeight + 2 * 32
 
         // The topic, limited to a readable line length.
         Column {
-            id: topic
+            id: article
 
             x: 32
             y: 32
@@ -170,7 +170,7 @@ SecondaryWindow {
                 Label {
                     required property string modelData
 
-                    width: topic.width
+                    width: article.width
                     text: modelData
                     size: 13
                     lineHeight: 1.45

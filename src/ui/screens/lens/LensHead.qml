@@ -62,6 +62,16 @@ Item {
                     size: 11
                     soft: true
                 }
+
+                // Keeps its height without a text, so that the list stays where it is.
+                Label {
+                    objectName: "lensLoose"
+                    width: parent.width
+                    text: head.lens.looseLine
+                    size: 11
+                    soft: true
+                    mute: text === ""
+                }
             }
         }
 

@@ -57,21 +57,6 @@ RowList {
         }
     }
 
-    footer: Label {
-        objectName: "lensLoose"
-        width: list.width
-        height: text === "" ? 0 : implicitHeight
-        leftPadding: 26
-        rightPadding: 22
-        topPadding: 8
-        bottomPadding: 8
-        text: list.lens.looseLine
-        visible: text !== ""
-        size: 11
-        soft: true
-        wrapMode: Text.Wrap
-    }
-
     delegate: LensRow {
         ringed: list.ringed && ListView.isCurrentItem
         onPressed: {

@@ -209,7 +209,7 @@ FocusScope {
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.bottom: parent.bottom
-            implicitHeight: Math.max(volume.implicitHeight, caption.implicitHeight, remove.implicitHeight) + 2 * 16
+            implicitHeight: Math.max(volume.implicitHeight, caption.implicitHeight, removeButton.implicitHeight) + 2 * 16
             color: Theme.groundHi
 
             Divider {
@@ -254,7 +254,7 @@ FocusScope {
                 objectName: "lensCaption"
                 anchors.left: volume.visible ? volume.right : parent.left
                 anchors.leftMargin: 16
-                anchors.right: remove.left
+                anchors.right: removeButton.left
                 anchors.rightMargin: 16
                 anchors.verticalCenter: parent.verticalCenter
                 text: panes.lens.caption
@@ -265,7 +265,7 @@ FocusScope {
             }
 
             Button {
-                id: remove
+                id: removeButton
 
                 kind: Button.Removal
                 objectName: "lensRemove"
@@ -275,7 +275,7 @@ FocusScope {
                 text: qsTr("Review and Remove")
                 enabled: panes.lens.removable
                 onClicked: {
-                    list.receive(remove.visualFocus);
+                    list.receive(removeButton.visualFocus);
                     panes.lens.removeSelected();
                 }
             }

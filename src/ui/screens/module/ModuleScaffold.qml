@@ -31,7 +31,7 @@ FocusScope {
     }
 
     ModuleFace {
-        id: progress
+        id: scanFace
 
         shown: scaffold.module.scanning
 
@@ -81,7 +81,7 @@ FocusScope {
 
         Shortcut {
             sequence: "Escape"
-            enabled: progress.visible && scaffold.module.scanning
+            enabled: scanFace.visible && scaffold.module.scanning
             onActivated: scaffold.module.cancel()
         }
     }

@@ -68,8 +68,24 @@ BaseButton {
         }
     }
 
-    contentItem: Column {
+    contentItem: Face {
+        symbol: card.symbol
+        title: card.title
+        value: card.value
+        detail: card.detail
+        tint: card.tint
         opacity: card.enabled ? 1 : 0.45
+    }
+
+    // A component of its own, because an id within `contentItem` would make Qt create the content at once.
+    component Face: Column {
+        id: face
+
+        required property string symbol
+        required property string title
+        required property real value
+        required property string detail
+        required property color tint
 
         Item {
             width: parent.width
@@ -80,8 +96,8 @@ BaseButton {
                 id: tile
 
                 anchors.verticalCenter: parent.verticalCenter
-                symbol: card.symbol
-                tint: card.tint
+                symbol: face.symbol
+                tint: face.tint
             }
 
             Label {
@@ -92,7 +108,7 @@ BaseButton {
                 anchors.right: chevron.left
                 anchors.rightMargin: 10
                 anchors.verticalCenter: parent.verticalCenter
-                text: card.title
+                text: face.title
                 size: 11
                 font.weight: Font.Medium
                 soft: true
@@ -116,7 +132,7 @@ BaseButton {
         }
 
         AnimatedNumber {
-            value: card.value
+            value: face.value
             pixelSize: 23
             bold: true
             mute: true
@@ -129,7 +145,7 @@ BaseButton {
 
         Label {
             width: parent.width
-            text: card.detail
+            text: face.detail
             size: 11
             soft: true
             mute: true

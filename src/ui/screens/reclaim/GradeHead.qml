@@ -30,6 +30,7 @@ Item {
         }
     ]
     readonly property string question: qsTr("What's safe to remove?")
+    readonly property var spokenGuide: [head.question, head.grades[0].word, head.grades[0].meaning, head.grades[1].word, head.grades[1].meaning, head.grades[2].word, head.grades[2].meaning, head.closing]
     readonly property string closing: qsTr("Everything moves to the Trash, so any removal is reversible until you empty it.")
 
     implicitHeight: flow.implicitHeight + 2 * 12
@@ -106,7 +107,7 @@ Item {
 
                         focus: true
                         Accessible.role: Accessible.Note
-                        Accessible.name: AccessibleText.joined([head.question].concat(head.grades.flatMap(grade => [grade.word, grade.meaning]), head.closing))
+                        Accessible.name: AccessibleText.joined(head.spokenGuide)
 
                         Label {
                             width: parent.width

@@ -149,7 +149,7 @@ FocusScope {
         }
     }
 
-    // A heading and the settings below it, on a card unless `plain`.
+    // A heading and the settings below it, on a card if `carded`.
     component SettingsSection: Column {
         id: section
 
