@@ -13,6 +13,7 @@ protected:
     ~ShareBar() override { close(); }
 
     QImage barOf(double share) {
+        close();
         show(QStringLiteral("import QtQuick\nimport Zelk.Charts\n"
                             "Item { ShareBar { width: 200; height: 6; name: 'Cleaning'; progress: ''; value: %1 } }")
                  .arg(share),
