@@ -220,8 +220,9 @@ std::int64_t AppModel::freeBytes() const {
 
 std::string AppModel::progressLine() const {
     const QLocale locale = userLocale();
-    const std::string items = locale.toString(static_cast<qlonglong>(itemsScanned())).toStdString();
-    return items + " items · " + byteText(bytesScanned(), locale.decimalPoint().toStdString());
+    const QString items = locale.toString(static_cast<qlonglong>(itemsScanned()));
+    const std::string bytes = byteText(bytesScanned(), locale.decimalPoint().toStdString());
+    return tr("%1 items · %2").arg(items, QString::fromStdString(bytes)).toStdString();
 }
 
 ReclaimTotals AppModel::reclaimTotals() const {

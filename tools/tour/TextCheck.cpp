@@ -3,10 +3,19 @@
 
 #include <QQuickItem>
 #include <QRegularExpression>
+#include <algorithm>
 
 #include "PseudoLanguage.h"
 
 namespace zelk::tour {
+
+namespace {
+
+bool isTranslated(const QString& text) {
+    return text.startsWith(PseudoLanguage::opening) && text.endsWith(PseudoLanguage::closing);
+}
+
+}  // namespace
 
 void TextCheck::look(QQuickWindow& window, const QString& picture) {
     lookBelow(*window.contentItem(), QRectF({0, 0}, window.size()), picture);
@@ -25,7 +34,7 @@ void TextCheck::lookAt(QQuickItem& item, const QRectF& shown, const QString& pic
     const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
     // What is scrolled out of sight is looked at where it is scrolled to.
     if (text.isEmpty() || !shown.intersects(place)) return;
-    if (text.startsWith(PseudoLanguage::opening) && text.endsWith(PseudoLanguage::closing))
+    if (isTranslated(text))
         translated_.insert(text);
     else if (!sameEverywhere(text))
         return report(QStringLiteral("not translated"), text, picture);
@@ -43,7 +52,11 @@ void TextCheck::lookAt(QQuickItem& item, const QRectF& shown, const QString& pic
 bool TextCheck::sameEverywhere(const QString& text) const {
     static const QRegularExpression figure(
         QStringLiteral("^[-+−×]?[\\d.,\\s]+(bytes|KB|MB|GB|TB|PB|EB|%|/s)?$|^[~/…].*$|^\\W+$"));
-    return figure.match(text).hasMatch() || names_.contains(text);
+    static const QRegularExpression divider(QStringLiteral("\\s*·\\s*"));
+    const QStringList parts = text.split(divider, Qt::SkipEmptyParts);
+    return names_.contains(text) || std::all_of(parts.begin(), parts.end(), [&](const QString& part) {
+               return isTranslated(part) || figure.match(part).hasMatch() || names_.contains(part);
+           });
 }
 
 void TextCheck::report(const QString& what, const QString& text, const QString& picture) {

@@ -12,6 +12,7 @@
 #include "platform/Workspace.h"
 #include "ui/controls/NumberItem.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
+#include "ui/shell/AppCommands.h"
 #include "ui/shell/SidebarModel.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/ScreenLook.h"
@@ -282,8 +283,10 @@ bool Tour::sidebarAndMenus() {
     window_.sidebar().toggleCollapsed();
     if (!picture(QStringLiteral("sidebar-collapsed"))) return false;
     window_.sidebar().toggleCollapsed();
-    if (!clickOn(window_.window(), QStringLiteral("menuTitleGo")) || !appears(window_.window(), "menuOverview"))
-        return missed("the menu");
+    if (!clickOn(window_.window(), QStringLiteral("menuTitle") + AppCommands::tr("Go"))) return missed("the menu");
+    window_.window().grabWindow();
+    if (findControl(window_.window(), QStringLiteral("menu") + lookOf(Screen::survey).title) == nullptr)
+        return missed("the entries of the menu");
     const bool taken = picture(QStringLiteral("menu"));
     pressKey(window_.window(), Qt::Key_Escape);
     return taken;

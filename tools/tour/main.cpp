@@ -41,7 +41,8 @@ void allowFolders(const zelk::FSNode& folder, zelk::tour::TextCheck& texts) {
 /// The names of the disk and of the machine are the same in every language.
 void allowNames(const zelk::AppModel& app, zelk::tour::TextCheck& texts) {
     texts.allow(QStringLiteral("Zelk"));
-    texts.allow(zelk::displayText(app.device().computerName));
+    for (const std::string& name : {app.device().computerName, app.device().chip, app.device().osVersion})
+        texts.allow(zelk::displayText(name));
     if (app.root()) allowFolders(*app.root(), texts);
     for (const zelk::LargeFile& file : app.insights().topFiles) texts.allow(zelk::nameText(file.path));
 }

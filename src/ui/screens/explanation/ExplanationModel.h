@@ -9,6 +9,7 @@
 #include "reclaim/PathExplanation.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/SafetyLook.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -38,12 +39,12 @@ public:
     void open(const std::string& path);
 
     bool shown() const { return shown_; }
-    QString title() const { return displayText(explanation_.title); }
+    QString title() const { return SystemTexts::worded(explanation_.title); }
     QString path() const { return displayText(path_); }
     QString badge() const { return wordOf(explanation_.safety); }
     Grade grade() const { return static_cast<Grade>(explanation_.safety); }
     bool regenerates() const { return explanation_.regenerates; }
-    QString detail() const { return displayText(explanation_.detail); }
+    QString detail() const { return SystemTexts::worded(explanation_.detail); }
 
 public slots:
     void close();

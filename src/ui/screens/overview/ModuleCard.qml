@@ -148,6 +148,7 @@ BaseButton {
             text: face.detail
             size: 11
             soft: true
+            wrapMode: Text.WordWrap
             mute: true
         }
     }

@@ -209,7 +209,7 @@ FocusScope {
                 text: row.name
                 size: 13
                 font.weight: Font.DemiBold
-                wrapMode: Text.WordWrap
+                wrapMode: Text.Wrap
                 mute: true
             }
 

@@ -15,7 +15,10 @@ DryRunRows::DryRunRows(std::vector<Reclaimable> items)
 QVariant DryRunRows::value(std::size_t row, int role) const {
     const Reclaimable& item = items_[row];
     const auto size = [&] { return byteFigure(static_cast<std::int64_t>(item.size)); };
-    const auto method = [&] { return displayText(methodSummary(item.method)); };
+    const auto method = [&] {
+        return item.method.kind == ReclaimMethod::Kind::trash ? DryRunRows::tr("Trash")
+                                                              : displayText(methodSummary(item.method));
+    };
     switch (role) {
         case symbolRole:
             return item.method.kind == ReclaimMethod::Kind::command ? QStringLiteral("terminal")

@@ -117,7 +117,7 @@ QString ItemList::lineOf(const Reclaimable& item) const {
 
 QString ItemList::ageOf(const Reclaimable& item) const {
     const double days = (app_.platform().clock.now() - item.lastModified) / secondsPerDay;
-    return QStringLiteral("%1d").arg(static_cast<qint64>(days));
+    return tr("%1d").arg(static_cast<qint64>(days));
 }
 
 void ItemList::toggle(int row) {
