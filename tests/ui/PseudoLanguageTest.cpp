@@ -45,6 +45,12 @@ TEST(PseudoLanguage, translatesWhereverItIsInstalled) {
     EXPECT_EQ(QCoreApplication::translate("Anywhere", "Lens"), QStringLiteral("Lens"));
 }
 
+TEST(PseudoLanguage, leavesTextsOfQtAlone) {
+    const PseudoLanguage language;
+    EXPECT_TRUE(language.translate("QShortcut", "Ctrl", nullptr, -1).isEmpty());
+    EXPECT_FALSE(language.translate("QuitSheet", "Quit", nullptr, -1).isEmpty());
+}
+
 class TextCheckWindow : public ViewFixture {
 protected:
     ~TextCheckWindow() override { close(); }
@@ -70,7 +76,7 @@ TEST_F(TextCheckWindow, findsTextsThatAreNotTranslated) {
 TEST_F(TextCheckWindow, acceptsFiguresPathsAndAllowedNames) {
     check.allow(QStringLiteral("Movies"));
     EXPECT_THAT(findings(R"(
-        Text { text: "Movies" } Text { text: "1,234" } Text { text: "1.2 GB" } Text { text: "62%" }
+        Text { text: "Movies" } Text { text: "1,234" } Text { text: "1.2 GB" } Text { text: "62%" } Text { text: "Ctrl+1" }
         Text { text: "/usr/lib" } Text { text: "~/Library" } Text { text: "…s/Caches" } Text { text: " " } Text { text: "·" })"),
                 IsEmpty());
 }
@@ -83,6 +89,21 @@ TEST_F(TextCheckWindow, findsFiguresWithWords) {
 TEST_F(TextCheckWindow, findsElidedTexts) {
     EXPECT_THAT(findings(R"(Text { width: 40; elide: Text.ElideRight; text: "⟦Móóvéd tóó théé Tráášh⟧" })"),
                 ElementsAre("elided: ⟦Móóvéd tóó théé Tráášh⟧, in here"));
+}
+
+TEST_F(TextCheckWindow, acceptsFiguresBetweenTranslatedTexts) {
+    check.allow(QStringLiteral("Debian"));
+    EXPECT_THAT(findings(R"(Text { text: "⟦2 íítééms~⟧ · 82 KB · Debian" } Text { text: "⟦2 íítééms~⟧ · two" })"),
+                ElementsAre("not translated: ⟦2 íítééms~⟧ · two, in here"));
+}
+
+TEST_F(TextCheckWindow, forgivesLargeTextsThatHaveNoRoom) {
+    findings(R"(Item {})");
+    show(QStringLiteral("import QtQuick\nText { text: '⟦Móóvéd⟧'; elide: Text.ElideRight }"), {30, 20});
+    check.look(window(), QStringLiteral("large"), false);
+    EXPECT_TRUE(check.findings().isEmpty());
+    check.look(window(), QStringLiteral("small"));
+    EXPECT_EQ(check.findings(), QStringList(QStringLiteral("elided: ⟦Móóvéd⟧, in small")));
 }
 
 TEST_F(TextCheckWindow, findsTextsWiderThanTheirPlace) {

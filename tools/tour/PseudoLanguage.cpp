@@ -23,7 +23,9 @@ bool isVowel(QChar letter) {
 
 }  // namespace
 
-QString PseudoLanguage::translate(const char*, const char* text, const char*, int) const {
+QString PseudoLanguage::translate(const char* context, const char* text, const char*, int) const {
+    // The texts of Qt, such as the names of keys, have translations of their own.
+    if (context[0] == 'Q' && context[1] >= 'A' && context[1] <= 'Z') return {};
     return spelled(QString::fromUtf8(text));
 }
 

@@ -16,7 +16,8 @@ public:
     void allow(const QString& name) { names_.insert(name); }
 
     /// Looks at all texts that are visible now. `picture` names the place in the findings.
-    void look(QQuickWindow& window, const QString& picture);
+    /// Where the texts are large, some may be cut off: then `roomy` is false.
+    void look(QQuickWindow& window, const QString& picture, bool roomy = true);
 
     /// One line per text that is wrong, with the first picture that it was seen in.
     const QStringList& findings() const { return findings_; }
@@ -29,6 +30,7 @@ private:
     bool sameEverywhere(const QString& text) const;
     void report(const QString& what, const QString& text, const QString& picture);
 
+    bool roomy_ = true;
     QSet<QString> names_;
     QSet<QString> translated_;
     QSet<QString> reported_;

@@ -89,8 +89,9 @@ bool Tour::keptItem() {
     ItemList& list = *window_.reclaim().items();
     list.setAgeDays(0);  // the files were just created
     list.setOpen(0, true);
+    // Here only an item in use has a line.
     const auto isKept = [&list](int row) {
-        return list.data(list.index(row), ItemList::lineRole).toString().startsWith(QStringLiteral("quit "));
+        return !list.data(list.index(row), ItemList::lineRole).toString().isEmpty();
     };
     int row = 0;
     while (row < list.rowCount() && !isKept(row)) ++row;

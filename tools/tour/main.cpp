@@ -43,6 +43,7 @@ void allowNames(const zelk::AppModel& app, zelk::tour::TextCheck& texts) {
     texts.allow(QStringLiteral("Zelk"));
     for (const std::string& name : {app.device().computerName, app.device().chip, app.device().osVersion})
         texts.allow(zelk::displayText(name));
+    for (const std::string& root : app.scanRoots()) texts.allow(zelk::nameText(root));
     if (app.root()) allowFolders(*app.root(), texts);
     for (const zelk::LargeFile& file : app.insights().topFiles) texts.allow(zelk::nameText(file.path));
 }
@@ -114,7 +115,7 @@ int main(int argc, char** argv) {
         const std::function<void(QQuickWindow&, const QString&)> inspect = [&](QQuickWindow& window,
                                                                                const QString& picture) {
             allowNames(app, texts);
-            texts.look(window, picture);
+            texts.look(window, picture, !picture.startsWith(QStringLiteral("large-text")));
         };
         const zelk::tour::TourPlan plan{folder, size, dark, sample,
                                         pseudo ? inspect : std::function<void(QQuickWindow&, const QString&)>()};

@@ -39,7 +39,7 @@ public:
     void open(const std::string& path);
 
     bool shown() const { return shown_; }
-    QString title() const { return SystemTexts::worded(explanation_.title); }
+    QString title() const { return displayText(explanation_.title); }
     QString path() const { return displayText(path_); }
     QString badge() const { return wordOf(explanation_.safety); }
     Grade grade() const { return static_cast<Grade>(explanation_.safety); }
