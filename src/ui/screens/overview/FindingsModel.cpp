@@ -96,9 +96,8 @@ void FindingsModel::headline() {
     }
     const auto types = app_.sortedTypeTotals();
     const auto items = app_.reclaimables().size();
-    line_ = types.empty()
-                ? tr("across %1 items.").arg(items)
-                : tr("across %1 items · most space: %2").arg(items).arg(lookOf(types.front().first).name);
+    line_ = types.empty() ? tr("across %1 items.").arg(items)
+                          : tr("across %1 items · most space: %2").arg(items).arg(lookOf(types.front().first).name);
 }
 
 QList<RibbonSegment> FindingsModel::readSegments() const {
