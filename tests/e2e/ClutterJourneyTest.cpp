@@ -272,7 +272,7 @@ TEST_F(RealClutterJourney, removesFileBelowLinkedScanRoot) {
 }
 #endif
 
-TEST_F(ClutterJourney, keyOfTheScreenShowsTheRowAndDeleteLeavesItAlone) {
+TEST_F(ClutterJourney, deleteAfterScreenShortcutNeedsAnotherKeyFirst) {
     shell();
     survey();
     press(Qt::Key_6, Qt::ControlModifier);

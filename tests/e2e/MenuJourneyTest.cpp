@@ -93,7 +93,7 @@ TEST_F(Menus, escapeClosesMenuAndRestoresFocus) {
     EXPECT_EQ(window().activeFocusItem(), before) << focusName().toStdString();
 }
 
-TEST_F(Menus, f1OpensTheHelpInEveryWindow) {
+TEST_F(Menus, f1OpensHelpInEveryWindow) {
     press(Qt::Key_F1);
     QQuickWindow* help = main().secondary().find(WindowId::help);
     ASSERT_NE(help, nullptr);
@@ -104,7 +104,7 @@ TEST_F(Menus, f1OpensTheHelpInEveryWindow) {
     EXPECT_TRUE(help->isVisible());
 }
 
-TEST_F(Menus, keyOfAScreenShowsWhereTheKeyboardIs) {
+TEST_F(Menus, screenShortcutShowsFocusRing) {
     click("sidebarTools");
     press(Qt::Key_1, Qt::ControlModifier);
     EXPECT_EQ(focusName(), QStringLiteral("scanButton"));
@@ -114,20 +114,20 @@ TEST_F(Menus, keyOfAScreenShowsWhereTheKeyboardIs) {
     EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool());
 }
 
-TEST_F(Menus, keyOfTheScreenInSightShowsWhereTheKeyboardIs) {
+TEST_F(Menus, shortcutOfCurrentScreenShowsFocusRing) {
     ASSERT_FALSE(window().activeFocusItem()->property("visualFocus").toBool());
     press(Qt::Key_1, Qt::ControlModifier);
     EXPECT_EQ(focusName(), QStringLiteral("scanButton"));
     EXPECT_TRUE(window().activeFocusItem()->property("visualFocus").toBool());
 }
 
-TEST_F(Menus, keyOfAScreenTakesTheKeyboardOutOfTheSidebar) {
+TEST_F(Menus, screenShortcutMovesFocusOutOfSidebar) {
     find("sidebarLens")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_6, Qt::ControlModifier);
     EXPECT_EQ(focusName(), QStringLiteral("moduleScanButton"));
 }
 
-TEST_F(Menus, keyThatRunsASurveyShowsWhereTheKeyboardIs) {
+TEST_F(Menus, surveyShortcutShowsFocusRing) {
     machine.directories.hold(home + "/wide/inner");
     press(Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(focusName(), QStringLiteral("scanButton"));

@@ -221,7 +221,7 @@ TEST_F(Navigation, orbPulsesOnlyWhileVisibleAndMotionIsNotReduced) {
     EXPECT_EQ(ring->scale(), 1);
 }
 
-TEST_F(Navigation, clickInTheSidebarPutsTheKeyboardIntoTheScreen) {
+TEST_F(Navigation, sidebarClickMovesFocusToScreen) {
     click("sidebarLens");
     EXPECT_EQ(focusName(), QStringLiteral("moduleScanButton"));
     EXPECT_FALSE(window().activeFocusItem()->property("visualFocus").toBool()) << "the mouse needs no ring";
@@ -232,7 +232,7 @@ TEST_F(Navigation, clickInTheSidebarPutsTheKeyboardIntoTheScreen) {
     EXPECT_EQ(focusName(), QStringLiteral("scanButton")) << "also from a row that had the keyboard";
 }
 
-TEST_F(Navigation, clickInTheSidebarShowsNoRingInAListThatHadOne) {
+TEST_F(Navigation, sidebarClickHidesListFocusRing) {
     survey();
     click("sidebarLens");
     press(Qt::Key_Down);

@@ -160,7 +160,7 @@ TEST_F(Windows, surveyIsShownEverywhere) {
     runUntil([&] { return menu.actions()[3]->text().startsWith(QStringLiteral("Surveying… ")); });
 }
 
-TEST_F(Windows, settingsShowAllTheyHoldWithoutScrolling) {
+TEST_F(Windows, settingsFitTheirWindow) {
     QQuickWindow& settings = main().openWindow(WindowId::settings);
     runUntil([&] { return settings.isActive(); });
     settings.grabWindow();
@@ -171,7 +171,7 @@ TEST_F(Windows, settingsShowAllTheyHoldWithoutScrolling) {
     EXPECT_LE(page->property("contentHeight").toDouble(), page->height());
 }
 
-TEST_F(Windows, settingsOpenAtTheirTopAgain) {
+TEST_F(Windows, settingsReopenAtTop) {
     std::vector<std::string> many;
     for (int root = 0; root < 30; ++root) many.push_back("/root" + std::to_string(root));
     model().setScanRoots(many);

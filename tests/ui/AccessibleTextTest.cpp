@@ -22,7 +22,7 @@ TEST(AccessibleText, isEmptyWithoutTexts) {
     EXPECT_EQ(AccessibleText::joined({QStringLiteral(""), QStringLiteral("")}), QString());
 }
 
-TEST(AccessibleText, saysBytesAsTheyAreWritten) {
+TEST(AccessibleText, bytesMatchVisibleFormat) {
     EXPECT_EQ(AccessibleText::bytes(12e9), QStringLiteral("12 GB"));
     EXPECT_EQ(AccessibleText::bytes(0), QStringLiteral("0 bytes"));
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A number as a text, on its way to the next one, and what a screen reader hears of it meanwhile.
+// The text of a number, its animation, and its accessible name meanwhile.
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
@@ -26,7 +26,7 @@ double widthOf(const QString& text) {
 /// An item outside of any window, which counts as visible.
 class AnimatedNumber : public testing::Test {
 protected:
-    /// Jumps to `from` and begins to run to `to`.
+    /// Jumps to `from` and starts animating to `to`.
     void run(double from, double to, NumberItem::Format format = NumberItem::Bytes) {
         item.setFormat(format);
         item.setDuration(0);
@@ -36,7 +36,7 @@ protected:
     }
     QVariantAnimation& animation() { return *item.findChild<QVariantAnimation*>(); }
     bool running() { return animation().state() == QAbstractAnimation::Running; }
-    /// As much of the time of a run is over. At 0.5 it has come seven eighths of its way.
+    /// Advances the animation to this share of its time. At 0.5 it has covered seven eighths of the distance.
     void pass(double share) { animation().setCurrentTime(static_cast<int>(std::lround(share * longRun))); }
     std::string shown() { return item.shown().toStdString(); }
     std::string text() { return item.text().toStdString(); }
@@ -59,7 +59,7 @@ protected:
 
 }  // namespace
 
-TEST(AnimatedNumberText, isAsWideWhateverItsDigits) {
+TEST(AnimatedNumberText, widthIsIndependentOfDigits) {
     EXPECT_DOUBLE_EQ(widthOf(QStringLiteral("111,111 items")), widthOf(QStringLiteral("888,888 items")));
     EXPECT_GT(widthOf(QStringLiteral("1,111 items")), widthOf(QStringLiteral("111 items")));
     EXPECT_DOUBLE_EQ(widthOf(QString()), 0);
@@ -108,7 +108,7 @@ TEST(AnimatedNumberText, staysInRangeForHugeNumbers) {
     EXPECT_EQ(NumberItem::write(-1e30, NumberItem::Count, american), QStringLiteral("-9,223,372,036,854,775,808"));
 }
 
-TEST_F(AnimatedNumber, hasTheSizeOfItsText) {
+TEST_F(AnimatedNumber, implicitSizeIsThatOfText) {
     item.setPixelSize(28);
     item.setValue(12.34e9);
     const double wide = item.implicitWidth();
@@ -120,7 +120,7 @@ TEST_F(AnimatedNumber, hasTheSizeOfItsText) {
     EXPECT_GT(item.implicitWidth(), wide);
 }
 
-TEST_F(AnimatedNumber, jumpsWithoutADuration) {
+TEST_F(AnimatedNumber, jumpsWithoutDuration) {
     item.setValue(900e6);
     EXPECT_EQ(shown(), "900 MB");
     item.setValue(1.2e9);
@@ -128,14 +128,14 @@ TEST_F(AnimatedNumber, jumpsWithoutADuration) {
     EXPECT_FALSE(running());
 }
 
-TEST_F(AnimatedNumber, showsItsFirstValueAtOnce) {
+TEST_F(AnimatedNumber, showsFirstValueAtOnce) {
     item.setDuration(longRun);
     item.setValue(900e6);
     EXPECT_EQ(shown(), "900 MB");
     EXPECT_FALSE(running());
 }
 
-TEST_F(AnimatedNumber, runsThroughTheUnitsToItsValue) {
+TEST_F(AnimatedNumber, animatesAcrossUnits) {
     run(900e6, 1.2e9);
     EXPECT_EQ(shown(), "900 MB");
     pass(0.1);
@@ -147,7 +147,7 @@ TEST_F(AnimatedNumber, runsThroughTheUnitsToItsValue) {
     EXPECT_FALSE(running());
 }
 
-TEST_F(AnimatedNumber, runsDown) {
+TEST_F(AnimatedNumber, animatesDownwards) {
     run(2e9, 500e3);
     pass(0.5);
     EXPECT_EQ(shown(), "250.4 MB");
@@ -155,7 +155,7 @@ TEST_F(AnimatedNumber, runsDown) {
     EXPECT_EQ(shown(), "500 KB");
 }
 
-TEST_F(AnimatedNumber, neverRunsBack) {
+TEST_F(AnimatedNumber, neverOvershootsOrReverses) {
     run(0, 1000, NumberItem::Count);
     double last = 0;
     for (int step = 1; step <= 100; ++step) {
@@ -167,7 +167,7 @@ TEST_F(AnimatedNumber, neverRunsBack) {
     EXPECT_EQ(last, 1000);
 }
 
-TEST_F(AnimatedNumber, endsExactlyAtItsValue) {
+TEST_F(AnimatedNumber, endsExactlyAtValue) {
     run(7, 9'007'199'254'740'991, NumberItem::Count);
     pass(1);
     EXPECT_EQ(shown(), "9,007,199,254,740,991");
@@ -184,7 +184,7 @@ TEST_F(AnimatedNumber, sameTargetDoesNotRestart) {
     EXPECT_EQ(shown(), "875");
 }
 
-TEST_F(AnimatedNumber, newTargetStartsFromWhatIsShown) {
+TEST_F(AnimatedNumber, newTargetStartsAtShownNumber) {
     run(0, 1000, NumberItem::Count);
     pass(0.5);
     item.setValue(75);
@@ -196,7 +196,7 @@ TEST_F(AnimatedNumber, newTargetStartsFromWhatIsShown) {
     EXPECT_EQ(shown(), "75");
 }
 
-TEST_F(AnimatedNumber, keepsThePhraseAroundIt) {
+TEST_F(AnimatedNumber, keepsSurroundingPhrase) {
     item.setPhrase(QStringLiteral("%1 items"));
     run(1200, 2000, NumberItem::Count);
     EXPECT_EQ(shown(), "1,200 items");
@@ -208,7 +208,7 @@ TEST_F(AnimatedNumber, keepsThePhraseAroundIt) {
     EXPECT_EQ(shown(), "all 1,988 items");
 }
 
-TEST_F(AnimatedNumber, showsThePhraseAloneWithoutAValue) {
+TEST_F(AnimatedNumber, showsPhraseAloneWithoutValue) {
     item.setPhrase(QStringLiteral("all of %1"));
     EXPECT_EQ(shown(), "all of %1");
     EXPECT_EQ(text(), "all of %1");
@@ -218,7 +218,7 @@ TEST_F(AnimatedNumber, showsThePhraseAloneWithoutAValue) {
     EXPECT_EQ(shown(), "");
 }
 
-TEST_F(AnimatedNumber, runsNeitherFromNorToNoNumber) {
+TEST_F(AnimatedNumber, doesNotAnimateFromOrToNoValue) {
     run(noNumber, 5, NumberItem::Count);
     EXPECT_EQ(shown(), "5");
     item.setPhrase(QStringLiteral("%1 of 9"));
@@ -231,7 +231,7 @@ TEST_F(AnimatedNumber, runsNeitherFromNorToNoNumber) {
     EXPECT_TRUE(changes.isEmpty());
 }
 
-TEST_F(AnimatedNumber, itsTextIsTheLastOneFromTheStart) {
+TEST_F(AnimatedNumber, textIsFinalFromStart) {
     run(900e6, 1e9);
     QSignalSpy changes(&item, &NumberItem::textChanged);
     item.setValue(1.2e9);
@@ -245,7 +245,7 @@ TEST_F(AnimatedNumber, itsTextIsTheLastOneFromTheStart) {
     EXPECT_EQ(changes.size(), 1) << "reads the same";
 }
 
-TEST_F(AnimatedNumber, thatGoesOutOfSightDoesNotRunOn) {
+TEST_F(AnimatedNumber, stopsWhenHidden) {
     run(10e3, 90e3);
     EXPECT_EQ(shown(), "10 KB");
     item.setVisible(false);
@@ -257,7 +257,7 @@ TEST_F(AnimatedNumber, thatGoesOutOfSightDoesNotRunOn) {
     EXPECT_FALSE(running());
 }
 
-TEST_F(AnimatedNumber, losingItsDurationEndsARun) {
+TEST_F(AnimatedNumber, clearingDurationEndsAnimation) {
     run(10e3, 90e3);
     pass(0.5);
     item.setDuration(0);
@@ -265,7 +265,7 @@ TEST_F(AnimatedNumber, losingItsDurationEndsARun) {
     EXPECT_FALSE(running());
 }
 
-TEST_F(AnimatedNumber, changesItsTextNoMoreOftenThanItsInterval) {
+TEST_F(AnimatedNumber, limitsTextChangesToInterval) {
     item.setInterval(longRun);
     run(0, 1000, NumberItem::Count);
     pass(0.5);
@@ -275,14 +275,14 @@ TEST_F(AnimatedNumber, changesItsTextNoMoreOftenThanItsInterval) {
     EXPECT_EQ(shown(), "0");
     item.setInterval(0);
     pass(0.75);
-    // From 875, where the number was when it was aimed anew, and not from the 0 on screen.
+    // From 875, where the number was when its target changed, and not from the 0 on screen.
     EXPECT_EQ(shown(), "1,982");
     item.setInterval(longRun);
     pass(1);
     EXPECT_EQ(shown(), "2,000") << "the last text is not late";
 }
 
-TEST_F(AnimatedNumberWindow, isInTheThemesInkAndRunsForHalfASecond) {
+TEST_F(AnimatedNumberWindow, usesInkAndHalfASecond) {
     open();
     EXPECT_EQ(number().color(), singleton<Theme>("Theme").ink());
     EXPECT_EQ(number().pixelSize(), 13);
@@ -303,7 +303,7 @@ TEST_F(AnimatedNumberWindow, jumpsWithReducedMotion) {
     EXPECT_EQ(number().shown(), QStringLiteral("2 MB"));
 }
 
-TEST_F(AnimatedNumberWindow, tellsAScreenReaderTheValueAndNoneOnTheWay) {
+TEST_F(AnimatedNumberWindow, accessibleNameSkipsIntermediateValues) {
     open();
     number().setValue(9e6);
     EXPECT_EQ(nameOf(&number()), "9 MB");
@@ -311,7 +311,7 @@ TEST_F(AnimatedNumberWindow, tellsAScreenReaderTheValueAndNoneOnTheWay) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&number())->role(), QAccessible::Paragraph);
 }
 
-TEST_F(AnimatedNumberWindow, jumpsWhereAnAncestorIsHidden) {
+TEST_F(AnimatedNumberWindow, jumpsBelowHiddenAncestor) {
     open();
     NumberItem& hidden = number();
     hidden.parentItem()->setVisible(false);

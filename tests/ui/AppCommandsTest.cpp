@@ -140,19 +140,19 @@ TEST_F(AppCommandsTest, nativeMenuBarMirrorsEntriesWithExplicitRoles) {
     EXPECT_THAT(opened, ElementsAre(WindowId::about));
 }
 
-TEST_F(AppCommandsTest, helpHasTwoKeys) {
+TEST_F(AppCommandsTest, helpHasTwoShortcuts) {
     press(QStringLiteral("Ctrl+?"));
     press(QStringLiteral("F1"));
     EXPECT_THAT(opened, ElementsAre(WindowId::help, WindowId::help));
 }
 
-TEST_F(AppCommandsTest, systemsMenuBarKnowsBothKeysOfHelp) {
+TEST_F(AppCommandsTest, nativeMenuBarHasBothHelpShortcuts) {
     const std::unique_ptr<QMenuBar> bar = makeNativeMenuBar(commands);
     const QAction* help = bar->actions().back()->menu()->actions().front();
     EXPECT_THAT(help->shortcuts(), ElementsAre(QKeySequence(QStringLiteral("Ctrl+?")), QKeySequence(Qt::Key_F1)));
 }
 
-TEST_F(AppCommandsTest, keyTellsWhetherItLeadsToAScreen) {
+TEST_F(AppCommandsTest, shortcutReportsWhetherItOpensScreen) {
     std::vector<bool> told;
     QObject::connect(&commands, &AppCommands::ranByKey, &commands,
                      [&](bool leadsToScreen) { told.push_back(leadsToScreen); });
@@ -163,7 +163,7 @@ TEST_F(AppCommandsTest, keyTellsWhetherItLeadsToAScreen) {
     EXPECT_EQ(told.size(), 2U) << "the mouse chose that one";
 }
 
-TEST_F(AppCommandsTest, keyTellsNothingWhileAQuestionIsOpen) {
+TEST_F(AppCommandsTest, shortcutReportsNothingWhileDialogIsOpen) {
     bool busy = true;
     AppCommands asked(
         model(), [](WindowId) {}, [&] { busy = true; }, [&] { return busy; });

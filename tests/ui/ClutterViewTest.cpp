@@ -346,7 +346,7 @@ TEST_F(ClutterViewTest, menuClosesWhenListDisappears) {
     runUntil([&] { return model().scanPhase() == Phase::finished; });
 }
 
-TEST_F(ClutterViewTest, deleteKeyLeavesARowAloneThatNobodyWentTo) {
+TEST_F(ClutterViewTest, deleteKeyIgnoresRowNobodySelected) {
     open();
     ASSERT_TRUE(listHasKeyboard());
     press(Qt::Key_Delete);
@@ -356,7 +356,7 @@ TEST_F(ClutterViewTest, deleteKeyLeavesARowAloneThatNobodyWentTo) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/concert.mov"});
 }
 
-TEST_F(ClutterViewTest, deleteKeyActsOnARowThatWasPressed) {
+TEST_F(ClutterViewTest, deleteKeyActsOnPressedRow) {
     open();
     tour::clickAt(window(), middleOf(1));
     settle();
@@ -364,7 +364,7 @@ TEST_F(ClutterViewTest, deleteKeyActsOnARowThatWasPressed) {
     EXPECT_EQ(machine.trash.trashed(), Strings{home + "/media/setup.iso"});
 }
 
-TEST_F(ClutterViewTest, deleteKeyLeavesTheRowAloneAfterTheScreenWasLeft) {
+TEST_F(ClutterViewTest, deleteKeyIgnoresRowAfterLeavingScreen) {
     open();
     tabToTheList();
     view().setVisible(false);
@@ -374,7 +374,7 @@ TEST_F(ClutterViewTest, deleteKeyLeavesTheRowAloneAfterTheScreenWasLeft) {
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
 }
 
-TEST_F(ClutterViewTest, deleteKeyLeavesTheRowsOfAnotherSurveyOrOrderAlone) {
+TEST_F(ClutterViewTest, deleteKeyIgnoresRowsAfterSurveyOrSorting) {
     open();
     tabToTheList();
     survey();
@@ -389,7 +389,7 @@ TEST_F(ClutterViewTest, deleteKeyLeavesTheRowsOfAnotherSurveyOrOrderAlone) {
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
 }
 
-TEST_F(ClutterViewTest, deleteKeyActsWithNoOtherKeyHeld) {
+TEST_F(ClutterViewTest, deleteKeyNeedsNoModifier) {
     const TextsOf linuxTexts(desktopLinux);
     open();
     tabToTheList();
@@ -403,7 +403,7 @@ TEST_F(ClutterViewTest, deleteKeyActsWithNoOtherKeyHeld) {
     EXPECT_EQ(machine.trash.trashed().size(), 1U);
 }
 
-TEST_F(ClutterViewTest, commandAndDeleteMoveAFileToTheTrashOnMacOS) {
+TEST_F(ClutterViewTest, commandDeleteMovesFileToTrashOnMacOS) {
     const TextsOf macTexts(macOS);
     open();
     tabToTheList();

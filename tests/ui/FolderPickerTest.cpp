@@ -143,7 +143,7 @@ TEST_F(FolderPicker, doesNotCreateMissingHome) {
 }
 #endif
 
-TEST_F(FolderPicker, opensAtHomeUnderATitle) {
+TEST_F(FolderPicker, opensAtHomeWithTitle) {
     const zoo::TempFolder folder;
     zoo::makeFolder(folder / "home");
     const fakes::EnvironmentVariable variable("HOME", folder / "home");

@@ -21,7 +21,7 @@ TEST(Motion, turnTakes1400Milliseconds) {
     EXPECT_EQ(Motion().turn(), 1400);
 }
 
-TEST(Motion, animationsOfNumbersHaveTheirDurations) {
+TEST(Motion, numberAnimationsHaveToldDurations) {
     Motion motion;
     motion.setReduced(false);
     EXPECT_EQ(motion.count(), 500);

@@ -21,7 +21,7 @@ protected:
     }
     void open() { show(QStringLiteral("Zelk.App"), QStringLiteral("SurveyView"), "survey", &screen, {900, 1400}); }
 
-    /// The figure of this size that is in sight.
+    /// The visible number of this size.
     NumberItem* figure(int pixelSize) {
         for (QQuickItem* item : seen())
             if (auto* number = qobject_cast<NumberItem*>(item); number != nullptr && number->pixelSize() == pixelSize)
@@ -121,7 +121,7 @@ TEST_F(OverviewTexts, countUpToRecoverableBytesAfterSurvey) {
     EXPECT_EQ(recoverable.shown(), QStringLiteral("52.5 MB"));
     runUntil([&] { return recoverable.shown() == recoverable.text(); });
 
-    // It counts up again after the next one, and not when the screen is only come back to.
+    // It counts up again after the next survey, but not when the screen is merely shown again.
     view().setVisible(false);
     view().setVisible(true);
     EXPECT_EQ(recoverable.shown(), QStringLiteral("60 MB"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A slider at the keyboard, with its value bound as a screen binds it.
+// Keyboard input of a slider whose value is bound as on a screen.
 #include "ViewFixture.h"
 
 namespace zelk {
@@ -55,7 +55,7 @@ protected:
 
 }  // namespace
 
-TEST_F(SliderWindow, pageKeysMoveByATenthOfTheRange) {
+TEST_F(SliderWindow, pageKeysMoveByTenthOfRange) {
     press(Qt::Key_PageUp);
     EXPECT_EQ(value("slider"), 32);
     press(Qt::Key_PageUp);
@@ -75,13 +75,13 @@ TEST_F(SliderWindow, pageKeysStopAtTheEnds) {
     EXPECT_EQ(value("slider"), 180);
 }
 
-TEST_F(SliderWindow, followsItsBindingAfterAPageKey) {
+TEST_F(SliderWindow, keepsBindingAfterPageKey) {
     press(Qt::Key_PageUp);
     view().setProperty("days", 90);
     EXPECT_EQ(value("slider"), 90);
 }
 
-TEST_F(SliderWindow, pageKeysMoveAShortSliderByOneStep) {
+TEST_F(SliderWindow, pageKeysMoveShortSliderByOneStep) {
     find("short")->forceActiveFocus();
     press(Qt::Key_PageUp);
     EXPECT_EQ(value("short"), 1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The survey screen at the keyboard, when the control that had the keyboard goes with its phase.
+// Keys on the survey screen when the focused control disappears with its phase.
 #include "ViewFixture.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
 
@@ -20,7 +20,7 @@ protected:
     }
 
     std::string focused() { return window().activeFocusItem()->objectName().toStdString(); }
-    /// A survey that does not come to its end before it is let go, and the keyboard at "cancel".
+    /// Starts a survey that is held, and focuses "cancel".
     void surveyWithTheKeyboardAtCancel() {
         machine.directories.hold(home + "/wide/inner");
         model().startScan();
@@ -87,7 +87,7 @@ TEST_F(SurveyKeys, heldReturnOnCancelStartsNoSurvey) {
     EXPECT_EQ(model().scanPhase(), Phase::idle);
 }
 
-TEST_F(SurveyKeys, spaceHeldOnCancelWhileTheSurveyEndsStartsNoSurvey) {
+TEST_F(SurveyKeys, spaceHeldOnCancelAtEndStartsNoSurvey) {
     surveyWithTheKeyboardAtCancel();
     QKeyEvent down(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
     QCoreApplication::sendEvent(&window(), &down);
@@ -98,7 +98,7 @@ TEST_F(SurveyKeys, spaceHeldOnCancelWhileTheSurveyEndsStartsNoSurvey) {
     EXPECT_EQ(model().scanPhase(), Phase::finished);
 }
 
-TEST_F(SurveyKeys, scanButtonThatHadTheKeyboardTakesReturnAtOnce) {
+TEST_F(SurveyKeys, focusedScanButtonTakesReturnAtOnce) {
     machine.directories.hold(home + "/wide/inner");
     press(Qt::Key_Return);
     ASSERT_EQ(model().scanPhase(), Phase::scanning);
@@ -108,7 +108,7 @@ TEST_F(SurveyKeys, scanButtonThatHadTheKeyboardTakesReturnAtOnce) {
     EXPECT_EQ(model().scanPhase(), Phase::scanning);
 }
 
-TEST_F(SurveyKeys, mouseStartsASurveyRightAfterCancel) {
+TEST_F(SurveyKeys, mouseStartsSurveyRightAfterCancel) {
     surveyWithTheKeyboardAtCancel();
     click("cancelButton");
     ASSERT_EQ(model().scanPhase(), Phase::idle);

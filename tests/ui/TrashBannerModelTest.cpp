@@ -27,7 +27,7 @@ protected:
     }
 
     std::string subtitle() { return banner().subtitle().toStdString(); }
-    /// As it is shown; empty where it is not.
+    /// The shown text; empty while hidden.
     std::string figure() { return banner().known() ? byteFigure(banner().bytes()).toStdString() : std::string(); }
     std::string action() { return banner().action().toStdString(); }
 

@@ -260,7 +260,7 @@ def _reports():
         yield f"a report knows the screens {report.screens}"
     twice = Report()
     twice.add("One", judge(window(*down(pressed("push button", "A", rect=(0, 0, 0, 0)),
-                                        *(made("label", f"Label {word}", states="focusable") for word in "ab")))))
+                                        *(made("label", f"Words {word}", states="focusable") for word in "ab")))))
     many = [line for line in twice.lines() if "is a text" in line]
     if twice.count() != 1 or "One: state:" not in many[0] or "label \"Words a\" (and 1 more like it): is a text" not in many[0]:
         yield f"a report does not count what is alike: {many}"

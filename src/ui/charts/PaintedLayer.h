@@ -26,7 +26,7 @@ public:
     void setKind(Kind kind);
 
 signals:
-    /// Its own: moc of Qt 6.8 cannot name an enumeration of this class where the signal is inherited.
+    /// Declared here because moc of Qt 6.8 cannot handle an inherited notify signal for a nested enum.
     void kindChanged();
 
 protected:

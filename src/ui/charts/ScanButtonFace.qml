@@ -14,7 +14,7 @@ Column {
     property string title: ""
     property real bytes: NaN
     required property real titleSize
-    // How a number runs, as in AnimatedNumber.
+    // How the number animates, as in AnimatedNumber.
     property int duration: 0
     property int interval: 0
     required property string caption
@@ -28,7 +28,7 @@ Column {
     spacing: 2
     opacity: lines.shown ? 1 : 0
     scale: lines.fit * (lines.shown ? 1 : 0.9)
-    // In sight from the start, so that a number that is set then is seen to run.
+    // Visible from the start, so that a number set then animates.
     visible: lines.shown || opacity > 0
 
     Behavior on opacity {

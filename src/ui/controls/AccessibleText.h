@@ -18,7 +18,7 @@ public:
 
     /// Joins the non-empty texts with commas, which screen readers pause at.
     Q_INVOKABLE static QString joined(QStringList texts);
-    /// This many bytes, as they are written too.
+    /// A number of bytes in the format of the visible texts.
     Q_INVOKABLE static QString bytes(double count);
 };
 

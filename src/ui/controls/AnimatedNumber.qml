@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A number that runs to its next value, in the theme's ink. A screen reader hears that value from the start.
+// A number in the theme's ink that animates to each new value. Its accessible name is the final value from the start.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -8,7 +8,7 @@ import Zelk.Controls
 NumberItem {
     id: number
 
-    // Said by what it stands on.
+    // The control around it has the text in its own accessible name.
     property bool mute: false
 
     duration: Motion.count

@@ -10,11 +10,13 @@ T.AbstractButton {
 
     // The accessible name. Subtypes with a visible label draw it themselves.
     required text
+    // Sees every key before the button does and may accept it instead.
+    property Item keyFilter: null
 
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
 
-    Keys.forwardTo: [buttonKeys]
+    Keys.forwardTo: button.keyFilter ? [button.keyFilter, buttonKeys] : [buttonKeys]
 
     Accessible.role: Accessible.Button
     Accessible.name: button.text

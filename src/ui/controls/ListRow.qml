@@ -15,5 +15,9 @@ Item {
 
     // Screen readers would still find a pooled delegate.
     ListView.onPooled: row.visible = false
-    ListView.onReused: row.visible = true
+    ListView.onReused: {
+        row.visible = true;
+        // Qt 6.8 sets it in the pool and leaves it there.
+        row.Accessible.ignored = false;
+    }
 }

@@ -131,8 +131,8 @@ void NumberItem::setInterval(int interval) {
     emit intervalChanged();
 }
 
-/// The position moves with every frame also where the text does not, or a number that is aimed anew all the time would
-/// never get anywhere.
+/// The position advances with every frame even where the text does not change, otherwise a target that changes all the
+/// time would never be approached.
 void NumberItem::advance(double share) {
     position_ = share < 1 ? origin_ + (value_ - origin_) * share : value_;
     const bool tooSoon = interval_ > 0 && sinceShown_.isValid() && !sinceShown_.hasExpired(interval_);
@@ -145,7 +145,7 @@ void NumberItem::settle() {
     show();
 }
 
-/// Says the value in its new words at once. A run takes them up with its next step.
+/// Applies a new format or phrase at once; a running animation uses it from its next step.
 void NumberItem::reword() {
     if (run_.state() == QAbstractAnimation::Stopped) show();
     const QString text = lineOf(value_);

@@ -18,7 +18,7 @@ namespace zelk {
 
 class TextScale;
 
-/// A piece of a figure and where it starts, in points from the left.
+/// A piece of a number's text and where it starts, in points from the left.
 struct FigurePiece {
     QString text;  ///< one digit, or a run of anything else
     double x;
@@ -27,13 +27,13 @@ struct FigurePiece {
     bool operator==(const FigurePiece&) const = default;
 };
 
-/// Cuts a text into pieces that give every digit the same width, the mean of all ten, so that a running figure stands
-/// still. (The fonts have such digits as a feature, which the older versions of the toolkit cannot switch on.)
+/// Splits a text into pieces in which every digit has the same width, the mean of all ten, so that an animated number
+/// does not jitter. (Fonts offer tabular figures as a feature, which Qt before 6.7 cannot switch on.)
 std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font);
 
-/// Paints a number in a line of text; its implicit size is that of the text. A new value in sight is run to, fast at
-/// first, from the number on screen; out of sight, or without a duration, it is there at once. AnimatedNumber.qml adds
-/// the theme and the name for a screen reader. Main thread.
+/// Paints a number in a line of text; its implicit size is that of the text. Animates to a new value from the number on
+/// screen, decelerating; jumps to it while invisible or without a duration. AnimatedNumber.qml adds the theme and the
+/// accessible name. Main thread.
 class NumberItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -59,29 +59,29 @@ public:
 
     static QString write(double value, Format format, const QLocale& locale = userLocale());
 
-    /// Not a number where there is none: then the phrase stands alone, as it is.
+    /// NaN without a value: then the phrase is shown alone, unchanged.
     double value() const { return value_; }
     void setValue(double value);
     Format format() const { return format_; }
     void setFormat(Format format);
-    /// The text around the number, which stands in the place of "%1"; empty for the number alone. Where it has plural
-    /// forms, it is the one for the value.
+    /// The text around the number, which replaces "%1"; empty for the number alone. With plural forms, the caller gives
+    /// the one for the value.
     const QString& phrase() const { return phrase_; }
     void setPhrase(const QString& phrase);
-    /// The line with its last value, from the moment at which that is set.
+    /// The line with the final value, from the moment that value is set.
     const QString& text() const { return text_; }
 
     QColor color() const { return color_; }
     void setColor(const QColor& color);
-    /// At the normal text size: what is drawn is as much larger as the person reads.
+    /// At the normal text size; drawn multiplied by TextScale.
     int pixelSize() const { return pixelSize_; }
     void setPixelSize(int pixelSize);
     bool bold() const { return bold_; }
     void setBold(bool bold);
-    /// Milliseconds of a run; 0 makes it jump, in the middle of a run too.
+    /// Milliseconds of an animation; 0 makes the number jump, also in the middle of one.
     int duration() const { return duration_; }
     void setDuration(int duration);
-    /// Milliseconds between two texts of a run, at least; 0 for a text with every frame. The last one is never late.
+    /// Minimum milliseconds between two texts of an animation; 0 for one per frame. The final text is never delayed.
     int interval() const { return interval_; }
     void setInterval(int interval);
 
@@ -124,7 +124,7 @@ private:
     bool bold_ = false;
     int duration_ = 0;
     int interval_ = 0;
-    double origin_ = 0;         // where the run began
+    double origin_ = 0;         // where the animation began
     double position_ = value_;  // where it is now
     QVariantAnimation run_;
     QString shown_;

@@ -16,8 +16,8 @@ ListView {
     // Whether the current row has visible focus.
     readonly property bool ringed: list.activeFocus && list.byKey
     property bool byKey: false
-    // Whether the person went to the current row, by a key or with the pointer. Where only the screen was entered, the
-    // current row is nobody's choice, and what takes a row away must leave it alone.
+    // Whether the user chose the current row, by a key or with the pointer. After merely entering the screen it is
+    // nobody's choice, and a key that removes a row must ignore it.
     property bool rowChosen: false
 
     signal moved

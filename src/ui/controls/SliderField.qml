@@ -37,8 +37,8 @@ T.Slider {
             slider.picked(slider.value);
     }
 
-    // A tenth of the way. It goes there by single steps, since a value that is set from here would no longer follow
-    // what it is bound to, and tells of the last one alone.
+    // A tenth of the range. Moves there in single steps, since assigning the value would break its binding, and reports
+    // only the last one.
     function turnPage(up: bool) {
         const before = slider.value;
         const step = slider.stepSize > 0 ? slider.stepSize : 0.1;

@@ -40,7 +40,7 @@ public:
     /// The shortcuts of all entries in Qt's portable format; an entry may have none, one or two.
     QStringList shortcuts() const;
     void run(const Command& command) const;
-    /// As its key does it.
+    /// Runs the entry as its shortcut does.
     void runByKey(const Command& command);
 
 public slots:
@@ -48,8 +48,7 @@ public slots:
     void runShortcut(int place);
 
 signals:
-    /// Somebody who uses keys ran an entry, and no question came of it. Where it leads to a screen, the keyboard
-    /// belongs there.
+    /// An entry was run by its shortcut and opened no dialog. If it leads to a screen, the focus belongs there.
     void ranByKey(bool leadsToScreen);
 
 private:

@@ -23,12 +23,12 @@ FocusScope {
         contents.showKeyboard(reason);
     }
 
-    // What has the keyboard already is not told why it would get it.
+    // forceActiveFocus() does not update the reason of a control that already has the focus.
     function showKeyboard(reason: int) {
         const control = contents.Window.activeFocusItem as T.Control;
         if (control)
             control.focusReason = reason;
-        // In a list it is the current row, and the list shows where that is.
+        // In a list the focus ring is on the current row.
         for (let item = contents.Window.activeFocusItem; item; item = item.parent) {
             const list = item as ListView;
             if (list && list["byKey"] !== undefined)

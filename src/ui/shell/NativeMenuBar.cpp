@@ -36,7 +36,7 @@ std::unique_ptr<QMenuBar> makeNativeMenuBar(AppCommands& commands) {
             if (!command.otherShortcut.isEmpty()) keys.append(command.otherShortcut);
             action->setShortcuts(keys);
             action->setMenuRole(roleOf(command.part));
-            // Whether it was a key or the mouse, the system does not say.
+            // The system does not say whether a shortcut or the mouse triggered it.
             QObject::connect(action, &QAction::triggered, &commands,
                              [&commands, &command] { commands.runByKey(command); });
         }

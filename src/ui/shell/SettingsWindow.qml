@@ -18,7 +18,7 @@ SecondaryWindow {
     minimumHeight: 360
     maximumHeight: 360
 
-    // However it was left, it opens at its top.
+    // Opens at its top, wherever it was scrolled to before.
     onVisibleChanged: {
         if (window.visible)
             view.goToTop();

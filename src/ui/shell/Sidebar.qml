@@ -32,7 +32,7 @@ FocusScope {
 
     // Gives the focus to a row.
     signal handed(place: int, reason: int)
-    // A screen was chosen with the pointer: the keyboard belongs to it.
+    // A screen was chosen with the pointer, so the focus belongs to it.
     signal entered
 
     // Arrow keys treat the rows of both lists as one column.

@@ -21,7 +21,7 @@ Column {
     property bool tight: false
 
     signal pressed(int index)
-    // It was pressed by somebody who does not steer by the keyboard.
+    // Clicked with the pointer rather than by key.
     signal entered
     signal stepped(int index, int by)
 
@@ -66,7 +66,7 @@ Column {
                 place.entered();
         }
 
-        // The pointer's press is one where the keyboard is too.
+        // A press with the pointer hides the focus ring of a row that has it.
         PointHandler {
             onActiveChanged: {
                 if (active)

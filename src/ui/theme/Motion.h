@@ -38,7 +38,7 @@ public:
     int gentle() const { return reduced_ ? 0 : 260; }
     /// Milliseconds, for a number that counts to its next value.
     int count() const { return reduced_ ? 0 : 500; }
-    /// Milliseconds, for a number that follows a survey, which changes it many times a second.
+    /// Milliseconds, for a number that a survey changes many times a second.
     int follow() const { return reduced_ ? 0 : 250; }
     /// Milliseconds, for the result of a survey, which counts up from zero.
     int reveal() const { return reduced_ ? 0 : 900; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The list of large files with its head, and the context menu that its rows share. Return and the menu key open the
-// menu of the current row. The Trash key moves the file of a row that the person went to.
+// menu of the current row. The Trash key moves the file of a row that the user chose.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -75,9 +75,9 @@ FocusScope {
             scanning: hero.survey.scanning
             finished: hero.survey.finished
             onClicked: hero.survey.pressScan()
-            Keys.forwardTo: [tooSoon]
+            keyFilter: tooSoon
 
-            // A key that was meant for "cancel", which stood here a moment ago, must not begin a survey.
+            // A key that was meant for "cancel", which had the focus a moment ago, must not start a survey.
             Item {
                 id: tooSoon
 
@@ -159,7 +159,7 @@ FocusScope {
                     objectName: "cancelButton"
                     text: qsTr("cancel")
                     onClicked: hero.survey.cancel()
-                    // Gone with its phase while it had the keyboard, which the scan button gets.
+                    // It disappeared with its phase while focused: the scan button gets the focus.
                     onActiveFocusChanged: if (!activeFocus && !hero.survey.scanning)
                         hero.survey.handOver()
                 }

@@ -119,7 +119,7 @@ void SurveyScreenModel::enterPhase() {
     refreshRecoverable();
 }
 
-/// With the next turn of the event loop after a rest, yet never between two signals of one report.
+/// Updates on the next turn of the event loop after a pause, but never between two signals of one report.
 void SurveyScreenModel::refreshSoon() {
     if (!scanning()) return;
     stale_ = true;

@@ -38,8 +38,8 @@ public:
     bool operator==(const Feature&) const = default;
 };
 
-/// The figures of the survey screen. It owns no data: everything is read from the AppModel. A survey reports far more
-/// often than anyone can read, so while one runs the figures change a dozen times a second and no more. Main thread.
+/// The figures of the survey screen. Owns no data: everything is read from the AppModel. A survey reports far more
+/// often than anyone can read, so its figures change at most a dozen times a second. Main thread.
 class SurveyScreenModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -68,11 +68,11 @@ public:
     bool scanning() const;
     bool finished() const;
 
-    /// Items and bytes of the survey under way; those of the last one until the next begins, at 0.
+    /// Items and bytes of the running survey, else of the last one; a new survey starts at 0.
     qint64 items() const { return items_; }
     qint64 scanned() const { return scanned_; }
-    /// The bytes that the last survey found to take back. They are 0 for the moment in which the phase changes to
-    /// finished, so that what shows them counts up.
+    /// The reclaimable bytes of the last survey. 0 at the moment the phase changes to finished, so that the number
+    /// counts up from there.
     qint64 recoverable() const { return recoverable_; }
     /// What a screen reader says of the scan button: the figure itself, never one on the way to it.
     QString buttonName() const;
@@ -97,11 +97,10 @@ public slots:
     void cancel();
     /// Goes to the module of a feature.
     void pressFeature(int row);
-    /// The button got the keyboard from a control that is gone with its phase. What a person presses in the next moment
-    /// was meant for that one.
+    /// Tells that "cancel" lost the focus to the scan button because its phase ended. A key pressed in the next second
+    /// was meant for "cancel".
     void handOver();
-    /// Whether a key may press the button. One that comes too soon after handOver() may not, nor may those that follow
-    /// it as closely.
+    /// Whether a key may press the scan button: not within a second of handOver(), nor of a key refused before.
     bool takesKey();
     /// The screen is there: what it shows of the machine is read where nobody has yet.
     void appear();

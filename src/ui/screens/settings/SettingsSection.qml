@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A heading and the settings below it, on a card where there is room for one.
+// A heading and the settings below it, on a card unless `plain`.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -47,7 +47,7 @@ FocusScope {
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
         contentHeight: sections.implicitHeight + 2 * view.gap
-        // No control has the keyboard before somebody goes to one, but its page keys work.
+        // Initially no control is focused, but the page keys scroll.
         focus: true
 
         Accessible.role: Accessible.Pane
