@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QImage>
 #include <QString>
 #include <QTimer>
 #include <cstdint>
