@@ -50,7 +50,8 @@ TEST(QmlIds, acceptsIdsThatNoPropertyHas) {
 }
 
 TEST(QmlIds, takesNoEnumerationForAnObject) {
-    EXPECT_THAT(checkQml("Item {\n    id: view\n\n    enum Kind {\n        First,\n        Second\n    }\n}\n"), IsEmpty());
+    EXPECT_THAT(checkQml("Item {\n    id: view\n\n    enum Kind {\n        First,\n        Second\n    }\n}\n"),
+                IsEmpty());
 }
 
 TEST(QmlIds, rejectsTheNameOfAPropertyOfTheObjectsType) {

@@ -108,8 +108,7 @@ TEST_F(ReadableText, whiteIsReadableOnTheButtonThatRemoves) {
 
     button->setEnabled(false);
     settle();
-    EXPECT_FALSE(view().findChild<QQuickItem*>(QStringLiteral("textShadow"))->isVisible())
-        << "a quiet word needs none";
+    EXPECT_FALSE(view().findChild<QQuickItem*>(QStringLiteral("textShadow"))->isVisible()) << "a quiet word needs none";
 }
 
 }  // namespace zelk
