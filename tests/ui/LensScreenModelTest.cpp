@@ -174,6 +174,32 @@ TEST_F(LensScreenModelTest, drillingReportsItsDuration) {
     EXPECT_EQ(drilled.takeFirst().front().toInt(), 200);
 }
 
+TEST_F(LensScreenModelTest, reportsBubbleThatIsEnteredAndLeft) {
+    addMany("", 20);
+    put("/folder 3/inner/file", 1);
+    survey();
+    QSignalSpy drilled(&lens(), &LensScreenModel::drilled);
+    QSignalSpy returned(&lens(), &LensScreenModel::returned);
+    std::vector<std::string> listed;
+    QObject::connect(&lens(), &LensScreenModel::drilled, &lens(), [&] { listed = names(); });
+    drill("folder 3");
+    EXPECT_EQ(drilled.takeFirst().at(1).toInt(), 3);
+    EXPECT_EQ(listed.size(), 20) << "the bubbles are still those of the folder above";
+    lens().back();
+    EXPECT_EQ(returned.takeFirst().front().toInt(), 3);
+    lens().back();
+    EXPECT_EQ(returned.size(), 0) << "the top has no parent";
+}
+
+TEST_F(LensScreenModelTest, folderAmongTheRestIsEnteredThroughItsBubble) {
+    addMany("", 20);
+    put("/folder 18/inner/file", 1);
+    survey();
+    QSignalSpy drilled(&lens(), &LensScreenModel::drilled);
+    drill("folder 18");
+    EXPECT_EQ(drilled.takeFirst().at(1).toInt(), 16);
+}
+
 TEST_F(LensScreenModelTest, countsEmptyFoldersWithoutListingThem) {
     machine.directories.directory(home + "/hollow/a");
     machine.directories.directory(home + "/hollow/b");

@@ -12,6 +12,37 @@ BubblePicture {
 
     required property string name
 
+    // The motion when the user went into the bubble of a slice, or came back to it. Called before the slices change in
+    // the first case, and after that in the second.
+    function growOutOf(slice: int, duration: int) {
+        chart.moveFrom(chart.zoomInto(slice), duration);
+    }
+    function shrinkInto(slice: int, duration: int) {
+        chart.moveFrom(chart.zoomOutOf(slice), duration);
+    }
+    function moveFrom(start: bubbleZoom, duration: int) {
+        scaling.origin.x = start.origin.x;
+        scaling.origin.y = start.origin.y;
+        moving.from = start.scale;
+        moving.duration = duration;
+        moving.restart();
+    }
+
+    transform: Scale {
+        id: scaling
+
+        yScale: xScale
+    }
+
+    NumberAnimation {
+        id: moving
+
+        target: scaling
+        property: "xScale"
+        to: 1
+        easing.type: Easing.OutQuad
+    }
+
     dark: Theme.isDark
     accent: Theme.accent
     ground: Theme.ground

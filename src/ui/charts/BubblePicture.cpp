@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QStyleHints>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "ui/theme/DisplayText.h"
@@ -22,6 +23,11 @@ std::string keyOf(const std::vector<BubbleSlice>& slices) {
     return key;
 }
 
+/// Scaling by s around the origin o moves a point p to o + s (p - o). Solved for the o that moves `from` to `to`.
+QPointF originThatMoves(QPointF from, QPointF to, double scale) {
+    return (to - scale * from) / (1 - scale);
+}
+
 }  // namespace
 
 BubbleTip BubbleTip::of(const BubbleSlice& slice, QPointF point, QSizeF chart, double textScale) {
@@ -33,12 +39,24 @@ BubbleTip BubbleTip::of(const BubbleSlice& slice, QPointF point, QSizeF chart, d
     tip.shown = true;
     tip.label = slice.label;
     tip.line = byteFigure(slice.bytes);
-    if (slice.reclaimable) tip.line += QStringLiteral(" · reclaimable");
+    if (slice.reclaimable) tip.line = BubblePicture::tr("%1 · reclaimable").arg(tip.line);
     tip.reclaimable = slice.reclaimable;
     tip.corner = {std::min(point.x() + offset, std::max(chart.width() - width, 0.0)),
                   std::min(point.y() + offset, std::max(chart.height() - roomHigh * textScale, 0.0))};
     tip.widest = std::min(std::max(chart.width() - tip.corner.x(), width), chart.width());
     return tip;
+}
+
+BubbleZoom BubbleZoom::into(QPointF centre, double radius, QSizeF map) {
+    const double scale = 2 * radius / std::min(map.width(), map.height());
+    if (!(scale > 0 && scale < 1)) return {};
+    return {scale, originThatMoves({map.width() / 2, map.height() / 2}, centre, scale)};
+}
+
+BubbleZoom BubbleZoom::outOf(QPointF centre, double radius, QSizeF map) {
+    const double scale = std::min(map.width(), map.height()) / (2 * radius);
+    if (!(scale > 1 && std::isfinite(scale))) return {};
+    return {scale, originThatMoves(centre, {map.width() / 2, map.height() / 2}, scale)};
 }
 
 BubblePicture::BubblePicture(QQuickItem* parent) : Drawn(parent) {
@@ -123,6 +141,24 @@ std::optional<std::size_t> BubblePicture::indexOf(const std::optional<std::strin
         std::find_if(packed_.begin(), packed_.end(), [&](const PackedCircle& circle) { return circle.id == id; });
     if (found == packed_.end()) return std::nullopt;
     return static_cast<std::size_t>(found - packed_.begin());
+}
+
+const PackedCircle* BubblePicture::circleOf(int slice) const {
+    if (slice < 0 || slice >= static_cast<int>(slices().size())) return nullptr;
+    const std::optional<std::size_t> index = indexOf(slices()[static_cast<std::size_t>(slice)].id);
+    return index ? &packed_[*index] : nullptr;
+}
+
+BubbleZoom BubblePicture::zoomInto(int slice) const {
+    const PackedCircle* circle = circleOf(slice);
+    return circle == nullptr ? BubbleZoom()
+                             : BubbleZoom::into({circle->center.x, circle->center.y}, circle->radius, size());
+}
+
+BubbleZoom BubblePicture::zoomOutOf(int slice) const {
+    const PackedCircle* circle = circleOf(slice);
+    return circle == nullptr ? BubbleZoom()
+                             : BubbleZoom::outOf({circle->center.x, circle->center.y}, circle->radius, size());
 }
 
 /// Repaints one bubble and its surroundings, instead of the whole map.

@@ -44,6 +44,26 @@ public:
     bool operator==(const BubbleTip&) const = default;
 };
 
+/// Where a map begins to move when the user goes into a bubble or comes back from it: scaled by `scale` around
+/// `origin`. It ends unscaled.
+struct BubbleZoom {
+    Q_GADGET
+    QML_VALUE_TYPE(bubbleZoom)
+    Q_PROPERTY(double scale MEMBER scale CONSTANT FINAL)
+    Q_PROPERTY(QPointF origin MEMBER origin CONSTANT FINAL)
+
+public:
+    double scale = 1;
+    QPointF origin;  ///< in the chart's points
+
+    /// The map of what is inside the circle at `centre`: it grows out of the circle until it fills a map of this size.
+    static BubbleZoom into(QPointF centre, double radius, QSizeF map);
+    /// The map that contains the circle: it shrinks from where the circle filled it.
+    static BubbleZoom outOf(QPointF centre, double radius, QSizeF map);
+
+    bool operator==(const BubbleZoom&) const = default;
+};
+
 /// The bubble map of a BubbleModel: lays out and paints the slices and handles the pointer and the keys. Used by
 /// BubbleChart.
 ///
@@ -87,6 +107,10 @@ public:
     const BubbleTip& tip() const { return tip_; }
     QAbstractItemModel* nodes() { return &nodes_; }
 
+    /// The motions into the bubble of this slice and back. Without a bubble for it the scale is 1.
+    Q_INVOKABLE zelk::BubbleZoom zoomInto(int slice) const;
+    Q_INVOKABLE zelk::BubbleZoom zoomOutOf(int slice) const;
+
     /// Taps the bubble with this index in packed(), for screen readers.
     Q_INVOKABLE void tapNode(int index);
 
@@ -127,6 +151,7 @@ private:
     bool act(int key, bool repeated);
     void retip();
     void updateBubble(const std::optional<std::size_t>& index);
+    const PackedCircle* circleOf(int slice) const;
     std::optional<std::size_t> indexOf(const std::optional<std::string>& id) const;
 
     QPointer<BubbleModel> model_;

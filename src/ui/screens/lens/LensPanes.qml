@@ -135,9 +135,13 @@ FocusScope {
             Connections {
                 target: panes.lens
 
-                function onDrilled(duration: int) {
+                function onDrilled(duration: int, bubble: int) {
                     coming.duration = Math.min(Motion.gentle, duration);
                     coming.restart();
+                    map.growOutOf(bubble, coming.duration);
+                }
+                function onReturned(bubble: int) {
+                    map.shrinkInto(bubble, Motion.gentle);
                 }
             }
 
@@ -167,15 +171,21 @@ FocusScope {
                 vertical: true
             }
 
-            BubbleChart {
-                objectName: "lensMap"
+            Item {
                 anchors.left: divider.right
                 anchors.right: parent.right
-                anchors.top: parent.top
-                anchors.bottom: parent.bottom
-                anchors.margins: 8
-                model: panes.lens.bubbles
-                name: panes.lens.mapName
+                height: parent.height
+                clip: true
+
+                BubbleChart {
+                    id: map
+
+                    objectName: "lensMap"
+                    anchors.fill: parent
+                    anchors.margins: 8
+                    model: panes.lens.bubbles
+                    name: panes.lens.mapName
+                }
             }
 
             EmptyState {

@@ -200,6 +200,11 @@ NodeRef LensScreenModel::bubbled(const std::string& path) const {
     return nullptr;
 }
 
+/// The index of a row's bubble, which may be that of the rest; -1 without a row.
+int LensScreenModel::bubbleOf(const NodeRef& node) const {
+    return std::min(rows_.rowOf(node), static_cast<int>(LensWalk::topCount));
+}
+
 void LensScreenModel::startOver() {
     walk_.startOver();
     arrive();
@@ -210,6 +215,7 @@ void LensScreenModel::back() {
     const NodeRef left = walk_.currentNode();
     walk_.back();
     arrive(left);
+    emit returned(bubbleOf(left));
 }
 
 void LensScreenModel::drill(int row) {
@@ -219,7 +225,7 @@ void LensScreenModel::drill(int row) {
 
 void LensScreenModel::enter(const NodeRef& node, int duration) {
     walk_.enter(node);
-    emit drilled(duration);
+    emit drilled(duration, bubbleOf(node));
     arrive();
 }
 

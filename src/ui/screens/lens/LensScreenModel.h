@@ -97,8 +97,11 @@ signals:
     void volumeChanged();
     /// The current folder changed; `row` is to become the current row.
     void arrived(int row);
-    /// Emitted before arrived() when a folder was entered, with the duration of the transition in milliseconds.
-    void drilled(int duration);
+    /// Emitted before arrived() when a folder is entered, with the duration of the transition in milliseconds and the
+    /// folder's bubble, while the rows and bubbles are still those of the folder that is left.
+    void drilled(int duration, int bubble);
+    /// Emitted after arrived() by back(), with the bubble of the folder that was left, or -1.
+    void returned(int bubble);
 
 private:
     bool isAboveRoots() const;
@@ -109,6 +112,7 @@ private:
     void tellSelection();
     void endRemoval(const std::vector<NodeRef>& gone);
     NodeRef bubbled(const std::string& path) const;
+    int bubbleOf(const NodeRef& node) const;
     void showSlices();
     void leaveTrees();
 
