@@ -108,6 +108,21 @@ TEST_F(Windows, closedWindowsAreDestroyed) {
     }
 }
 
+TEST_F(Windows, windowsReopenWhereTheyWereClosed) {
+    QQuickWindow& help = main().openWindow(WindowId::help);
+    runUntil([&] { return help.isActive(); });
+    help.setGeometry(40, 50, 800, 600);
+    runWhatIsThere();
+    help.close();
+    QQuickWindow& settings = main().openWindow(WindowId::settings);
+    settings.setPosition(60, 70);
+    runWhatIsThere();
+    settings.close();
+    runWhatIsThere();
+    EXPECT_EQ(main().openWindow(WindowId::help).geometry(), QRect(40, 50, 800, 600));
+    EXPECT_EQ(main().openWindow(WindowId::settings).geometry(), QRect(60, 70, 460, 360));
+}
+
 TEST_F(Windows, escapeAndControlWCloseOtherWindows) {
     for (const WindowId id : {WindowId::about, WindowId::help, WindowId::settings}) {
         QQuickWindow& other = main().openWindow(id);

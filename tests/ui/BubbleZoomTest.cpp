@@ -3,7 +3,8 @@
 #include <cmath>
 
 #include "AnimationClock.h"
-#include "BubbleChartFixture.h"
+#include "ViewFixture.h"
+#include "ui/charts/BubblePicture.h"
 
 namespace zelk {
 
@@ -21,21 +22,31 @@ bool near(QPointF one, QPointF other) {
 class BubbleZoomWindow : public ViewFixture {
 protected:
     BubbleZoomWindow() {
-        bubbles_.setSlices({sliceOf("/large", 4'000), sliceOf("/small", 1'000)});
-        show(QStringLiteral("import QtQuick\nimport Zelk.Charts\nBubbleChart { name: 'Map' }"), {500, 400},
-             {{QStringLiteral("model"), QVariant::fromValue(&bubbles_)}});
+        BubbleSlice large;
+        large.id = "/large";
+        large.bytes = 4'000;
+        BubbleSlice small;
+        small.id = "/small";
+        small.bytes = 1'000;
+        bubbles_.setSlices({large, small});
+        ViewFixture::show(QStringLiteral("import QtQuick\nimport Zelk.Charts\nBubbleChart { name: 'Map' }"),
+                          QSize(500, 400), QVariantMap{{QStringLiteral("model"), QVariant::fromValue(&bubbles_)}});
     }
     ~BubbleZoomWindow() override { close(); }
 
     void move(const char* how, int slice, int duration) {
         QMetaObject::invokeMethod(&view(), how, Q_ARG(int, slice), Q_ARG(int, duration));
+        settle();  // an animation starts with the next turn of the event loop
+    }
+    void pass(int milliseconds) {
+        clock_.pass(milliseconds);
+        settle();
     }
     /// The width of a hundred points of the chart on screen.
     double hundred() { return view().mapRectToScene(QRectF(0, 0, 100, 100)).width(); }
 
-    AnimationClock clock;
-
 private:
+    AnimationClock clock_;
     BubbleModel bubbles_{BubbleModel::Actions{}};
 };
 
@@ -54,6 +65,10 @@ TEST(BubbleZoom, shrinksFromTheMapIntoTheCircle) {
     EXPECT_TRUE(near(moved(zoom, {140, 150}), {450, 200}));
 }
 
+TEST(BubbleZoom, smallCirclesGrowSixfoldAtMost) {
+    EXPECT_DOUBLE_EQ(BubbleZoom::outOf({100, 150}, 1, {500, 400}).scale, 6);
+}
+
 TEST(BubbleZoom, doesNotMoveWithoutRoom) {
     EXPECT_EQ(BubbleZoom::into({100, 100}, 0, {500, 400}), BubbleZoom());
     EXPECT_EQ(BubbleZoom::into({250, 200}, 200, {500, 400}), BubbleZoom());
@@ -68,9 +83,9 @@ TEST_F(BubbleZoomWindow, growsUntilItFillsTheMap) {
     move("growOutOf", 1, 200);
     const double first = hundred();
     EXPECT_LT(first, 60);
-    clock.pass(100);
+    pass(100);
     EXPECT_GT(hundred(), first);
-    clock.pass(200);
+    pass(200);
     EXPECT_DOUBLE_EQ(hundred(), 100);
 }
 
@@ -79,9 +94,9 @@ TEST_F(BubbleZoomWindow, shrinksToItsSize) {
     move("shrinkInto", 1, 200);
     const double first = hundred();
     EXPECT_GT(first, 150);
-    clock.pass(100);
+    pass(100);
     EXPECT_LT(hundred(), first);
-    clock.pass(200);
+    pass(200);
     EXPECT_DOUBLE_EQ(hundred(), 100);
 }
 

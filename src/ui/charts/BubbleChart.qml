@@ -23,9 +23,9 @@ BubblePicture {
     function moveFrom(start: bubbleZoom, duration: int) {
         scaling.origin.x = start.origin.x;
         scaling.origin.y = start.origin.y;
-        moving.from = start.scale;
-        moving.duration = duration;
-        moving.restart();
+        motion.from = start.scale;
+        motion.duration = duration;
+        motion.restart();
     }
 
     transform: Scale {
@@ -35,7 +35,7 @@ BubblePicture {
     }
 
     NumberAnimation {
-        id: moving
+        id: motion
 
         target: scaling
         property: "xScale"
@@ -99,7 +99,8 @@ BubblePicture {
         y: chart.tip.corner.y
         width: lines.width + 2 * lines.x
         height: lines.height + 2 * lines.y
-        visible: chart.tip.shown
+        // It would be scaled with the map.
+        visible: chart.tip.shown && !motion.running
         radius: 6
         lift: 10
         color: Qt.alpha(Theme.surfaceHi, 0.94)

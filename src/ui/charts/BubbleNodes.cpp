@@ -34,7 +34,7 @@ std::vector<BubbleNode> bubbleNodes(const std::vector<PackedCircle>& circles, co
         if (slice == nullptr) continue;
         const double share = all > 0 ? static_cast<double>(slice->bytes) / all : 0;
         node.name = QStringLiteral("%1, %2, %3").arg(slice->label, byteFigure(slice->bytes), shareText(share));
-        if (slice->reclaimable) node.note = QStringLiteral("reclaimable");
+        if (slice->reclaimable) node.note = BubbleNodes::tr("reclaimable");
         node.selected = slice->selected;
     }
     return nodes;

@@ -5,7 +5,6 @@
 #include <QGuiApplication>
 #include <QStyleHints>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "ui/theme/DisplayText.h"
@@ -54,8 +53,10 @@ BubbleZoom BubbleZoom::into(QPointF centre, double radius, QSizeF map) {
 }
 
 BubbleZoom BubbleZoom::outOf(QPointF centre, double radius, QSizeF map) {
-    const double scale = std::min(map.width(), map.height()) / (2 * radius);
-    if (!(scale > 1 && std::isfinite(scale))) return {};
+    constexpr double greatest = 6;  // beyond it the map is only a blur
+    if (!(radius > 0)) return {};
+    const double scale = std::min(std::min(map.width(), map.height()) / (2 * radius), greatest);
+    if (!(scale > 1)) return {};
     return {scale, originThatMoves(centre, {map.width() / 2, map.height() / 2}, scale)};
 }
 

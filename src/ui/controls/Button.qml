@@ -27,6 +27,7 @@ BaseButton {
     // A table with a line per property and a column per kind. The size is that of the font in points, before TextScale.
     property real size: [12, 13, 12, 12, 12, 13][button.kind]
     property color textColor: [Theme.ink, Theme.accentInk, button.hovered || button.visualFocus ? Theme.ink : Theme.inkSoft, Theme.ink, Theme.accentText, button.enabled ? "white" : Theme.inkSoft][button.kind]
+    readonly property bool accented: button.kind === Button.Primary ? !button.alarming : button.kind === Button.Removal && button.enabled
     readonly property real corner: [10, 12, button.height / 2, button.height / 2, 4, 10][button.kind]
     readonly property real lowest: [0, 0, 32, 36, 0, 0][button.kind]
     horizontalPadding: [16, 28, 16, 14, 2, 18][button.kind]
@@ -51,9 +52,11 @@ BaseButton {
         border.color: Theme.hairline
 
         AccentFill {
-            anchors.fill: parent
+            // Qt Quick paints hidden items too, but none without a size.
+            width: button.accented ? parent.width : 0
+            height: parent.height
             corner: button.corner
-            visible: button.kind === Button.Primary ? !button.alarming : button.kind === Button.Removal && button.enabled
+            visible: button.accented
         }
 
         HoverOverlay {

@@ -52,8 +52,11 @@ Item {
 
             TextShadow {
                 objectName: "textShadow"
-                anchors.fill: parent
-                anchors.margins: -reach
+                // Qt Quick paints hidden items too, but none without a size.
+                x: -reach
+                y: -reach
+                width: label.shaded ? word.width + 2 * reach : 0
+                height: label.shaded ? word.height + 2 * reach : 0
                 z: -1
                 line: word.text
                 font: word.font

@@ -83,11 +83,13 @@ SecondaryWindow {
             text: row.label
             size: 12
             soft: true
+            mute: !row.visible
         }
         Label {
             text: row.value
             size: 12
             font.weight: Font.Medium
+            mute: !row.visible
         }
     }
 }

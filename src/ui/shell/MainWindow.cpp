@@ -4,6 +4,7 @@
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QScreen>
+#include <QThread>
 #include <algorithm>
 #include <utility>
 
@@ -160,6 +161,11 @@ QQuickWindow& MainWindow::openWindow(WindowId id) {
         QObject::connect(window.get(), &QWindow::visibleChanged, window.get(), [this, id](bool visible) {
             if (!visible) releaseClosed(id);
         });
+        // As the user left it. Windows that cannot be resized may need another size by now, for larger texts.
+        if (const auto place = places_.find(id); place != places_.end()) {
+            window->setPosition(place->second.topLeft());
+            if (window->minimumSize() != window->maximumSize()) window->resize(place->second.size());
+        }
     }
     bringForward(*window);
     return *window;
@@ -170,11 +176,17 @@ QQuickWindow* MainWindow::findWindow(WindowId id) const {
     return found == secondary_.end() ? nullptr : found->second.get();
 }
 
-/// Returns the memory of a closed window, which cannot be destroyed while it reports that it was closed.
+/// Returns the memory of a closed window, which cannot be destroyed while it reports that it was closed, nor within a
+/// dialog's event loop, where a handler of the window may still be running: then the next closed window frees it.
 void MainWindow::releaseClosed(WindowId id) {
-    closed_.push_back(std::move(secondary_.extract(id).mapped()));
-    QMetaObject::invokeMethod(
-        window_.get(), [this] { closed_.clear(); }, Qt::QueuedConnection);
+    auto closed = secondary_.extract(id);
+    if (closed.empty()) return;
+    places_[id] = closed.mapped()->geometry();
+    closed_.push_back(std::move(closed.mapped()));
+    const auto release = [this] {
+        if (QThread::currentThread()->loopLevel() <= 1) closed_.clear();
+    };
+    QMetaObject::invokeMethod(window_.get(), release, Qt::QueuedConnection);
 }
 
 std::unique_ptr<QQuickWindow> MainWindow::makeSecondary(WindowId id) {

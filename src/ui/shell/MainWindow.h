@@ -3,6 +3,7 @@
 
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QRect>
 #include <functional>
 #include <map>
 #include <memory>
@@ -74,7 +75,8 @@ private:
     Motion* motion_ = nullptr;        // owned by the engine
     TextScale* textScale_ = nullptr;  // owned by the engine
     std::map<WindowId, std::unique_ptr<QQuickWindow>> secondary_;
-    std::vector<std::unique_ptr<QQuickWindow>> closed_;  // until the next turn of the event loop
+    std::vector<std::unique_ptr<QQuickWindow>> closed_;  // until no handler of theirs runs
+    std::map<WindowId, QRect> places_;                   // of closed windows
     std::unique_ptr<QQuickWindow> window_;
     std::function<void()> whenComplete_;
     bool complete_ = false;

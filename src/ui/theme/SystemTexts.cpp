@@ -5,8 +5,6 @@
 #include <array>
 #include <cstddef>
 
-#include "ui/theme/DisplayText.h"
-
 namespace zelk {
 
 namespace {

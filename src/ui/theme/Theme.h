@@ -93,7 +93,8 @@ public:
     QColor pressWash() const { return withOpacity(current_->ink, 0.13); }
     /// The system's monospaced family, for columns of numbers.
     QString fixedFont() const;
-    /// Points from the sides of a screen to its content, so that all screens share one left line.
+    /// Points from the sides of a screen to its content: the left line of all screens. Only the overview is centred
+    /// where it could be wider.
     static int pageMargin() { return 26; }
     /// The greatest width of a column of rows or cards in points. In wider windows lines would be too long to follow.
     static int pageWidth() { return 1100; }

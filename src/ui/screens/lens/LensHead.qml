@@ -70,6 +70,7 @@ Item {
                     text: head.lens.looseLine
                     size: 11
                     soft: true
+                    wrapMode: Text.Wrap
                     mute: text === ""
                 }
             }

@@ -119,8 +119,8 @@ QVariant LensRows::value(std::size_t row, int role) const {
         case drillableRole:
             return !node->children.empty();
         case spokenRole:
-            return AccessibleText::joined({displayText(node->name()), byteFigure(bytes), QStringLiteral("folder"),
-                                           ticked() ? tr("ticked") : QString()});
+            return AccessibleText::joined(
+                {displayText(node->name()), byteFigure(bytes), tr("folder"), ticked() ? tr("ticked") : QString()});
         case infoRole:
             return tr("What is %1?").arg(displayText(node->name()));
         default:

@@ -93,8 +93,6 @@ public:
     TrashBannerModel* trash() { return &trash_; }
     TrendsModel* trends() { return &trends_; }
 
-    /// Which of the two themes the colours of its figures are chosen for.
-
 public slots:
     /// The scan button: begins a survey, and does nothing while one runs.
     void pressScan();

@@ -40,7 +40,7 @@ FocusScope {
         id: scroll
 
         readonly property real columnWidth: Math.min(width - 2 * Theme.pageMargin, Theme.pageWidth)
-        readonly property real columnLeft: (width - columnWidth) / 2
+        readonly property real columnLeft: Math.floor((width - columnWidth) / 2)
         readonly property int paddingDown: 28
 
         objectName: "surveyScroll"

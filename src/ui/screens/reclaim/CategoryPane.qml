@@ -218,7 +218,7 @@ FocusScope {
                 text: row.note
                 size: 11
                 soft: true
-                wrapMode: Text.WordWrap
+                wrapMode: Text.Wrap
                 mute: true
             }
         }

@@ -69,6 +69,7 @@ FocusScope {
         }
 
         delegate: ItemRow {
+            width: Math.min(list.width, Theme.pageWidth + 2 * Theme.pageMargin)
             ringed: list.ringed && ListView.isCurrentItem
             onTicked: pane.items.toggle(index)
             onTaken: list.take(index)

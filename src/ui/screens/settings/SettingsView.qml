@@ -15,6 +15,7 @@ FocusScope {
     property bool headed: true
 
     readonly property int gap: view.headed ? 24 : 16
+    readonly property int side: view.headed ? Theme.pageMargin : 24
 
     Rectangle {
         anchors.fill: parent
@@ -54,9 +55,9 @@ FocusScope {
             Column {
                 id: sections
 
-                x: Theme.pageMargin
+                x: view.side
                 y: view.gap
-                width: Math.min(parent.width - 2 * Theme.pageMargin, 640 * TextScale.factor)
+                width: Math.min(parent.width - 2 * view.side, 640 * TextScale.factor)
                 spacing: view.gap
 
                 SettingsSection {
