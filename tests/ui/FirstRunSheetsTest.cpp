@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TextsOf.h"
 #include "ViewFixture.h"
+#include "ui/charts/PaintedLayer.h"
 #include "ui/screens/welcome/FirstRunModel.h"
 
 namespace zelk {
@@ -96,8 +97,8 @@ TEST_F(FirstRunSheetsTest, sizesDiscTitleAndBodyOfPage) {
     EXPECT_EQ(drive->size(), 44);
     EXPECT_EQ(drive->color(), QColor(Qt::white));
     const QQuickItem* disc = drive->parentItem();
-    EXPECT_EQ(disc->size(), QSizeF(108, 108));
-    EXPECT_EQ(disc->property("radius").toDouble(), 54);
+    EXPECT_EQ(disc->size(), QSizeF(140, 140));
+    EXPECT_EQ(disc->property("kind").toInt(), static_cast<int>(PaintedLayer::IntroDisc));
     EXPECT_EQ(sizeOf("Welcome to Zelk"), 26);
     EXPECT_EQ(sizeOf("A fast, private way to understand and clean your Mac."), 14);
     EXPECT_EQ(sizeOf("Skip"), 13);

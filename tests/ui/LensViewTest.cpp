@@ -115,12 +115,12 @@ TEST_F(LensViewTest, footerKeepsMarginOf16) {
     machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
     openSurveyed();
     const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
-    EXPECT_EQ(box("lensVolume").left(), 16);
-    EXPECT_EQ(box("lensRemove").right(), 1046 - 16);
+    EXPECT_EQ(box("lensVolume").left(), 26);
+    EXPECT_EQ(box("lensRemove").right(), 1046 - 26);
     EXPECT_EQ(box("lensRemove").bottom(), 800 - 16);
     model().setVolume(std::nullopt);
     settle();
-    EXPECT_EQ(find("lensCaption")->mapToScene({}).x(), 16);
+    EXPECT_EQ(find("lensCaption")->mapToScene({}).x(), 26);
 }
 
 TEST_F(LensViewTest, hidesVolumeBarWithoutVolume) {

@@ -35,6 +35,7 @@ TEST(PaintedLayer, implicitSizeDependsOnKind) {
     const std::pair<PaintedLayer::Kind, double> table[] = {
         {PaintedLayer::OuterRing, 150}, {PaintedLayer::Mark, 96},      {PaintedLayer::Tile, 28},
         {PaintedLayer::ScanGlow, 264},  {PaintedLayer::ScanDisc, 186}, {PaintedLayer::ScanComet, 228},
+        {PaintedLayer::IntroDisc, 140},
     };
     for (const auto& [kind, side] : table) {
         layer.setKind(kind);
@@ -91,6 +92,22 @@ TEST(Orb, keepsRingsBetweenDiscAndFrame) {
         EXPECT_EQ(at(ring, radius + 1.5, 0).alpha(), 0);
         EXPECT_EQ(at(ring, 0, 0).alpha(), 0);
     }
+}
+
+TEST(IntroDisc, paintsSmoothDiscOf108OnFaintOneOf140) {
+    const QColor blue(86, 130, 200);
+    const QImage disc = pictureOf(PaintedLayer::IntroDisc, blue);
+    EXPECT_TRUE(alike(at(disc, 0, 53), blue)) << "its own colour at the bottom";
+    EXPECT_TRUE(alike(at(disc, 0, -53), blue.lighter(115))) << "lighter at the top";
+    EXPECT_NEAR(at(disc, 62, 0).alphaF(), 0.16, 0.01);
+    EXPECT_NEAR(at(disc, -69, 0).alphaF(), 0.16, 0.01);
+    EXPECT_EQ(at(disc, 50, 50).alpha(), 0);
+    bool blended = false;  // a pixel between the two on every edge is what makes it smooth
+    for (int x = 0; x < disc.width(); ++x) {
+        const int alpha = disc.pixelColor(x, disc.height() / 2).alpha();
+        blended = blended || (alpha > 60 && alpha < 250);
+    }
+    EXPECT_TRUE(blended);
 }
 
 TEST(AboutMark, paintsDiscOf78InsideGlowOf96) {

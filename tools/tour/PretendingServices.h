@@ -86,8 +86,9 @@ public:
         }
         return real_.list();
     }
-    TrashResult trash(const ItemPath&) override {
-        return {pretence_.pass() ? std::nullopt : Failure("It is only a picture.")};
+    TrashResult trash(const ItemPath& item) override {
+        if (!pretence_.pass()) return {Failure("It is only a picture.")};
+        return {std::nullopt, TrashedItem{item, {}, location() + "/" + std::string(item.name()), {}, {}}};
     }
     Failure restore(const TrashedItem&) override { return "It is only a picture."; }
     std::size_t empty() override {

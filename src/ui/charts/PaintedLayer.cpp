@@ -23,6 +23,9 @@ constexpr double orbDrop = 8;   // by which the shadow lies lower
 constexpr std::array orbRingRadii{58.0, 65.5, 73.0};
 constexpr std::array orbRingOpacities{0.4, 0.24, 0.12};
 
+constexpr double introRadius = 54;
+constexpr double introHalo = 70;
+
 constexpr double scanFrame = 264;  // holds the glow
 constexpr double scanRadius = 92;
 constexpr double scanRingRadius = 108;
@@ -57,6 +60,14 @@ void drawOrbDisc(QPainter& painter, QPointF center, const QColor& tint) {
              linearBrush(center - corner, center + corner,
                          {{0, mix(tint, Qt::white, 0.22)}, {1, mix(tint, Qt::black, 0.16)}}));
     drawRim(painter, center, orbRadius, 0.4);
+}
+
+/// The disc of a welcome page on a wider, faint one. Painted, since the software renderer does not smooth the edge of a
+/// rectangle with a gradient.
+void drawIntroDisc(QPainter& painter, QPointF center, const QColor& tint) {
+    fillDisc(painter, center, introHalo, withOpacity(tint, 0.16));
+    const QPointF up(0, introRadius);
+    fillDisc(painter, center, introRadius, linearBrush(center - up, center + up, {{0, tint.lighter(115)}, {1, tint}}));
 }
 
 /// A near halo, a wide halo and a fine ring around the scan button's disc.
@@ -96,6 +107,8 @@ double sideOf(PaintedLayer::Kind kind) {
         case PaintedLayer::MiddleRing:
         case PaintedLayer::OuterRing:
             return orbFrame;
+        case PaintedLayer::IntroDisc:
+            return 2 * introHalo;
         case PaintedLayer::Mark:
             return 2 * markGlow;
         case PaintedLayer::Tile:
@@ -205,6 +218,8 @@ void PaintedLayer::draw(QPainter& painter) const {
         case OuterRing:
             return drawRing(painter, center, orbRingRadii.at(ring), 1.5,
                             withOpacity(color_, orbRingOpacities.at(ring)));
+        case IntroDisc:
+            return drawIntroDisc(painter, center, color_);
         case Mark:
             drawHalo(painter, center, color_, 0.55, markRadius - 9, markGlow);
             return fillDisc(painter, center, markRadius, accentBrush(center, markRadius));

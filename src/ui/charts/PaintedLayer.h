@@ -39,7 +39,7 @@ private:
     bool painted_ = false;
 };
 
-/// A layer of a module's orb, of the scan button or of the application's mark, with its implicit size.
+/// A layer of a module's orb or of the scan button, the disc of a welcome page, or the application's mark, with its implicit size.
 class PaintedLayer : public zelk::PaintedOnce {
     Q_OBJECT
     QML_ELEMENT
@@ -48,7 +48,19 @@ class PaintedLayer : public zelk::PaintedOnce {
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
 
 public:
-    enum Kind { OrbDisc, InnerRing, MiddleRing, OuterRing, Mark, Tile, ScanGlow, ScanDisc, ScanSheen, ScanComet };
+    enum Kind {
+        OrbDisc,
+        InnerRing,
+        MiddleRing,
+        OuterRing,
+        IntroDisc,
+        Mark,
+        Tile,
+        ScanGlow,
+        ScanDisc,
+        ScanSheen,
+        ScanComet
+    };
     Q_ENUM(Kind)
 
     explicit PaintedLayer(QQuickItem* parent = nullptr);

@@ -59,7 +59,7 @@ FocusScope {
         id: texts
 
         anchors.left: parent.left
-        anchors.leftMargin: 16
+        anchors.leftMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(bar.textRoom, Math.max(message.implicitWidth, reasons.visible ? reasons.implicitWidth : 0))
         spacing: 2
@@ -125,7 +125,8 @@ FocusScope {
 
         objectName: "closeUndoBar"
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        // Its cross ends at the margin.
+        anchors.rightMargin: Theme.pageMargin - (close.side - close.size) / 2
         anchors.verticalCenter: parent.verticalCenter
         symbol: "xmark"
         size: 12

@@ -114,7 +114,7 @@ RowList {
             id: content
 
             anchors.left: parent.left
-            anchors.leftMargin: 22
+            anchors.leftMargin: Theme.pageMargin
             anchors.right: parent.right
             anchors.rightMargin: 22
             anchors.verticalCenter: parent.verticalCenter

@@ -231,7 +231,7 @@ FocusScope {
                 id: volume
 
                 anchors.left: parent.left
-                anchors.leftMargin: 16
+                anchors.leftMargin: Theme.pageMargin
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: 4
                 visible: panes.lens.volumed
@@ -263,7 +263,7 @@ FocusScope {
 
                 objectName: "lensCaption"
                 anchors.left: volume.visible ? volume.right : parent.left
-                anchors.leftMargin: 16
+                anchors.leftMargin: volume.visible ? 16 : Theme.pageMargin
                 anchors.right: removeButton.left
                 anchors.rightMargin: 16
                 anchors.verticalCenter: parent.verticalCenter
@@ -280,7 +280,7 @@ FocusScope {
                 kind: Button.Removal
                 objectName: "lensRemove"
                 anchors.right: parent.right
-                anchors.rightMargin: 16
+                anchors.rightMargin: Theme.pageMargin
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Review and Remove")
                 enabled: panes.lens.removable

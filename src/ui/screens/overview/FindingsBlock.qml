@@ -126,12 +126,21 @@ Column {
 
         readonly property real readable: 172 * TextScale.factor
         readonly property real cell: (grid.width - (grid.columns - 1) * grid.spacing) / grid.columns
+        // All are as high as the one whose text wraps most.
+        readonly property real tallest: {
+            let height = 0;
+            for (let index = 0; index < cards.count; ++index)
+                height = Math.max(height, cards.itemAt(index)?.implicitHeight ?? 0);
+            return height;
+        }
 
         width: parent.width
         spacing: 14
         columns: grid.width >= 4 * grid.readable + 3 * grid.spacing ? 4 : 2
 
         Repeater {
+            id: cards
+
             model: [
                 {
                     symbol: "sparkles",
@@ -161,6 +170,7 @@ Column {
 
                 objectName: "findingCard" + index
                 width: grid.cell
+                height: grid.tallest
                 symbol: modelData.symbol
                 title: modelData.title
                 tint: modelData.tint

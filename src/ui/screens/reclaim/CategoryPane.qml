@@ -173,7 +173,7 @@ FocusScope {
         CheckBox {
             id: box
 
-            x: 18
+            x: Theme.pageMargin - 4  // the box is drawn 4 inside its target
             anchors.verticalCenter: parent.verticalCenter
             text: row.name
             on: row.chosen

@@ -5,6 +5,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Zelk.App
+import Zelk.Charts
 import Zelk.Controls
 
 FocusScope {
@@ -87,35 +88,16 @@ FocusScope {
                             width: page.width
                             spacing: 12
 
-                            Rectangle {
+                            PaintedLayer {
                                 anchors.horizontalCenter: parent.horizontalCenter
-                                width: 140
-                                height: 140
-                                radius: width / 2
-                                color: Qt.alpha(page.modelData.tint, 0.16)
+                                kind: PaintedLayer.IntroDisc
+                                color: page.modelData.tint
 
-                                Rectangle {
+                                SymbolItem {
                                     anchors.centerIn: parent
-                                    width: 108
-                                    height: 108
-                                    radius: width / 2
-                                    gradient: Gradient {
-                                        GradientStop {
-                                            position: 0
-                                            color: Qt.lighter(page.modelData.tint, 1.15)
-                                        }
-                                        GradientStop {
-                                            position: 1
-                                            color: page.modelData.tint
-                                        }
-                                    }
-
-                                    SymbolItem {
-                                        anchors.centerIn: parent
-                                        name: page.modelData.symbol
-                                        color: "white"
-                                        size: 44
-                                    }
+                                    name: page.modelData.symbol
+                                    color: "white"
+                                    size: 44
                                 }
                             }
 
