@@ -39,7 +39,8 @@ private:
     bool painted_ = false;
 };
 
-/// A layer of a module's orb or of the scan button, the disc of a welcome page, or the application's mark, with its implicit size.
+/// A layer of a module's orb or of the scan button, the disc of a welcome page, or the application's mark, with its
+/// implicit size.
 class PaintedLayer : public zelk::PaintedOnce {
     Q_OBJECT
     QML_ELEMENT
