@@ -7,8 +7,6 @@
 // With a ROOT, surveys it first, so that the screens have contents. Uses the real platform, rendered in software
 // without a screen. Every step is measured after it has rested.
 
-#include <malloc.h>
-
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QQuickWindow>
@@ -17,6 +15,10 @@
 #include <fstream>
 #include <functional>
 #include <string>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
@@ -41,7 +43,9 @@ void waitFor(const std::function<bool()>& done) {
 }
 
 double residentMebibytes() {
+#ifdef __GLIBC__
     ::malloc_trim(0);  // what is free already is not in use
+#endif
     std::ifstream rollup("/proc/self/smaps_rollup");
     for (std::string word; rollup >> word;) {
         double kibibytes = 0;
