@@ -20,14 +20,13 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <functional>
-#include <limits>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "ResidentMemory.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
 #include "system/AccessProbe.h"
@@ -51,15 +50,6 @@ long long now() {
     timespec time{};
     ::clock_gettime(CLOCK_MONOTONIC, &time);
     return time.tv_sec * 1'000'000'000LL + time.tv_nsec;
-}
-
-double residentMebibytes() {
-    std::ifstream rollup("/proc/self/smaps_rollup");
-    for (std::string word; rollup >> word;) {
-        double kibibytes = 0;
-        if (word == "Rss:" && rollup >> kibibytes) return kibibytes / 1024;
-    }
-    return std::numeric_limits<double>::quiet_NaN();
 }
 
 /// Runs the event loop until the window is painted and idle, and prints the results.

@@ -12,14 +12,13 @@
 #include <QQuickWindow>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <functional>
-#include <string>
 
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
 
+#include "ResidentMemory.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
 #include "ui/shell/AppCommands.h"
@@ -42,20 +41,11 @@ void waitFor(const std::function<bool()>& done) {
     while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
 }
 
-double residentMebibytes() {
+void print(const char* moment) {
+    rest();
 #ifdef __GLIBC__
     ::malloc_trim(0);  // what is free already is not in use
 #endif
-    std::ifstream rollup("/proc/self/smaps_rollup");
-    for (std::string word; rollup >> word;) {
-        double kibibytes = 0;
-        if (word == "Rss:" && rollup >> kibibytes) return kibibytes / 1024;
-    }
-    return 0;
-}
-
-void print(const char* moment) {
-    rest();
     std::printf("%-44s %6.1f MiB\n", moment, residentMebibytes());
 }
 

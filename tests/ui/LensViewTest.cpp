@@ -111,7 +111,7 @@ TEST_F(LensViewTest, showsCurrentFolder) {
     expectAllControlsNamed();
 }
 
-TEST_F(LensViewTest, footerKeepsMarginOf16) {
+TEST_F(LensViewTest, footerKeepsMarginOfThePage) {
     machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
     openSurveyed();
     const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
