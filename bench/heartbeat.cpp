@@ -8,8 +8,6 @@
 //     heartbeat --clean COUNT  COUNT items, created in a folder below $TMPDIR (or /tmp), are trashed there at once;
 //                              before them 1,000, twice: the second time is the baseline for COUNT
 
-#include <sys/resource.h>
-
 #include <QGuiApplication>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -26,6 +24,7 @@
 #include <vector>
 
 #include "Heart.h"
+#include "ProcessorTime.h"
 #include "ScratchLocations.h"
 #include "platform/NativePlatform.h"
 #include "reclaim/Cleaner.h"
@@ -73,15 +72,6 @@ struct Cost {
     }
 };
 
-double processorMilliseconds() {
-    rusage used{};
-    ::getrusage(RUSAGE_SELF, &used);
-    const auto milliseconds = [](const timeval& time) {
-        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
-    };
-    return milliseconds(used.ru_utime) + milliseconds(used.ru_stime);
-}
-
 /// The number of threads; 0 if unknown.
 std::ptrdiff_t threadCount() {
     std::error_code none;
@@ -97,12 +87,12 @@ Cost cleanInto(bench::Heart& heart, const Platform& platform, std::vector<Reclai
         if (beats++ % 20 == 0) cost.peakThreads = std::max(cost.peakThreads, threadCount());
     };
     heart.start();
-    const double before = processorMilliseconds();
+    const double before = bench::processorMilliseconds();
     Cleaner::cleanAll(std::move(items), false, platform, [&, sender = queue.sender()](auto results) {
         sender.post([&ended, results = std::move(results)]() mutable { ended = std::move(results); });
     });
     heart.beatUntil([&] { return ended.has_value(); });
-    cost.processorMs = processorMilliseconds() - before;
+    cost.processorMs = bench::processorMilliseconds() - before;
     cost.items = ended->size();
     cost.failed = std::count_if(ended->begin(), ended->end(), [](const Cleaner::Result& result) {
         return std::holds_alternative<Cleaner::Failed>(result.status);
@@ -145,8 +135,8 @@ int main(int argc, char** argv) {
     NativePlatform native(cleans ? folder : std::string());
     const Platform& real = native.platform();
     tour::ScratchLocations locations(real.locations, false);
-    const Platform platform{real.clock, real.directories, real.files,     real.trash,    real.vitals,
-                            locations,  real.tasks,       real.processes, real.workspace};
+    const Platform platform{real.clock, real.directories, real.files,     real.trash,     real.vitals,
+                            locations,  real.tasks,       real.processes, real.workspace, real.system};
     bool done = true;
     {
         AppModel app(platform);

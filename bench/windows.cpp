@@ -7,24 +7,18 @@
 // With a ROOT, surveys it first, so that the screens have contents. Uses the real platform, rendered in software
 // without a screen. Every step is measured after it has rested.
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QQuickWindow>
 #include <cstdio>
-#include <cstdlib>
-#include <functional>
 
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
 
+#include "RealWindow.h"
 #include "ResidentMemory.h"
-#include "platform/NativePlatform.h"
-#include "state/AppModel.h"
 #include "ui/shell/AppCommands.h"
-#include "ui/shell/Application.h"
-#include "ui/shell/MainWindow.h"
-#include "ui/shell/Shell.h"
 
 namespace {
 
@@ -35,10 +29,6 @@ void rest(int milliseconds = restMilliseconds) {
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < milliseconds) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-}
-
-void waitFor(const std::function<bool()>& done) {
-    while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
 }
 
 void print(const char* moment) {
@@ -52,29 +42,17 @@ void print(const char* moment) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    ::setenv("QT_QUICK_BACKEND", "software", 1);
     if (argc > 2) {
         std::fprintf(stderr, "usage: windows [ROOT]\n");
         return 2;
     }
-    QApplication application(argc, argv);
-    zelk::dressApplication();
-    zelk::NativePlatform native;
-    zelk::AppModel app(native.platform());
-    zelk::WindowServices services;
-    services.workspace = &native.platform().workspace;
-    services.accessGranted = [] { return true; };
-    {
-        zelk::Shell shell(app, services);
-        shell.start();
-        zelk::MainWindow& main = shell.main();
-        waitFor([&] { return main.isUp(); });
+    const char* const root = argc == 2 ? argv[1] : nullptr;
+    zelk::bench::measureRealWindow(argc, argv, [root](zelk::AppModel& app, zelk::MainWindow& main) {
         print("start");
-        if (argc == 2) {
-            app.setScanRoots({argv[1]});
+        if (root != nullptr) {
+            app.setScanRoots({root});
             app.startScan();
-            waitFor([&] { return app.scanPhase() == zelk::AppModel::ScanPhase::finished; });
+            zelk::bench::waitFor([&] { return app.scanPhase() == zelk::AppModel::ScanPhase::finished; });
             print("after the survey");
         }
         for (const zelk::Screen screen : zelk::allScreens) {
@@ -96,8 +74,5 @@ int main(int argc, char** argv) {
             rest(200);
         }
         print("opened and closed ten times more");
-    }
-    native.drain(2);
-    std::fflush(stdout);
-    std::_Exit(EXIT_SUCCESS);
+    });
 }

@@ -9,10 +9,11 @@
 //                which an UpdateQueue carries to the main thread
 //   reclaim/     ReclaimCatalogue is the closed table of what may go; ReclaimClassifier finds it in a tree; Cleaner
 //                removes it
-//   system/      what the machine knows that a scan cannot see: AccessProbe
+//   system/      what the machine knows that a scan cannot see: AccessProbe, HealthScore, LocalSnapshot and its
+//                sources, BackgroundItems; and what needs an administrator: PrivilegedCommands
 //   state/       AppModel is the one state that every screen shows: SurveySession runs a survey into SurveyResults,
-//                CleanupSession removes, TrashMirror shows the Trash; SurveyHistory is the one file that Zelk writes;
-//                MainThreadQueue brings results back from tasks
+//                CleanupSession removes, TrashMirror shows the Trash; TuneModel holds the levers; SurveyHistory is the
+//                one file that Zelk writes; MainThreadQueue brings results back from tasks
 //   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand them to QML; DisplayText makes of bytes
 //                what a person reads; the symbols, one SVG each, and SymbolItem, which tints them
 //   ui/controls/ the base controls: role, keyboard and focus ring are solved here
@@ -23,12 +24,15 @@
 //                (AppCommands), the sidebar, the status item, the question before an end that comes too soon
 //   app/         this file: makes the platform, the model and the shell, and nothing else
 //
+// Apart from them stands admin/: zelk-admin, the small program that does what only root may on Linux.
+//
 // Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures.
 
 #include <QApplication>
 #include <cstdlib>
 
 #include "platform/NativePlatform.h"
+#include "platform/posix/PosixChildProcess.h"
 #include "state/AppModel.h"
 #include "state/SettingsPreferences.h"
 #include "system/AccessProbe.h"
@@ -48,6 +52,7 @@ constexpr double drainSeconds = 1.5;
 }  // namespace
 
 int main(int argc, char** argv) {
+    zelk::stopIgnoringChildren();
     zelk::switchOffShaderCachesWhereRoomIsShort();
     QApplication application(argc, argv);
     zelk::dressApplication();

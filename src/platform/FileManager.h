@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,6 +17,7 @@ namespace zelk {
 struct FileProperties {
     bool isDirectory = false;
     std::uint64_t allocatedSize = 0;  ///< bytes on disk; 0 on a directory
+    bool isLink = false;              ///< a symbolic link
 };
 
 /// File operations by path. Paths are bytes. Blocking; safe from any thread.
@@ -34,6 +36,8 @@ public:
 
     /// The whole content of a file; absent on any failure.
     virtual std::optional<std::string> read(const std::string& path) = 0;
+    /// The same for a file of at most `most` bytes; absent for a larger one, which takes no memory.
+    virtual std::optional<std::string> readSmall(const std::string& path, std::size_t most) = 0;
     /// Atomically and durably replaces `path` by `content`: after a crash or power loss either the old or the new
     /// content is there, whole. Writes a temporary file beside it, flushes, renames and flushes the folder, which must
     /// exist. On false the old content is in place and no temporary file is left.

@@ -3,7 +3,9 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "platform/BackgroundItemFolder.h"
 #include "platform/TrashPlaces.h"
 
 namespace zelk {
@@ -23,6 +25,14 @@ public:
     /// The Trash folders whose content is not offered for removal again. Empty on macOS, where the Trash is surveyed
     /// like any folder.
     virtual TrashPlaces trashPlaces() = 0;
+    /// The folders of what starts in the background, in the order in which they are read: of two folders of a kind, the
+    /// files of the first hide those of the same name in the second, but for property lists.
+    virtual std::vector<BackgroundItemFolder> backgroundItemFolders() = 0;
+    /// Where a program that is named without a path is looked for, in this order. Empty on macOS, where background
+    /// items name whole paths.
+    virtual std::vector<std::string> programFolders() = 0;
+    /// The locales in which the names in desktop entries are read, best first; empty on macOS.
+    virtual std::vector<std::string> entryLocales() = 0;
 };
 
 }  // namespace zelk

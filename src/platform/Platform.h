@@ -8,6 +8,7 @@
 #include "platform/DirectoryReader.h"
 #include "platform/FileManager.h"
 #include "platform/Locations.h"
+#include "platform/SystemKind.h"
 #include "platform/Time.h"
 #include "platform/Trash.h"
 #include "platform/Vitals.h"
@@ -26,6 +27,7 @@ struct Platform {
     BackgroundTasks& tasks;
     ChildProcess& processes;
     Workspace& workspace;
+    SystemKind system;
 };
 
 }  // namespace zelk

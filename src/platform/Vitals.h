@@ -69,7 +69,7 @@ public:
     virtual PowerInfo power() = 0;
     /// `path` may be any file or folder on the volume.
     virtual std::optional<VolumeInfo> volume(const std::string& path) = 0;
-    /// Seconds since boot.
+    /// Seconds since boot, without those that the machine slept.
     virtual double uptime() = 0;
 };
 

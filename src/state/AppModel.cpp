@@ -19,9 +19,11 @@ AppModel::AppModel(Platform platform, QObject* parent)
       home_(platform.locations.home()),
       device_(platform.vitals.device()),
       results_(platform.tasks, [this](SurveyResults::Field field) { tell(field); }),
+      admin_(platform, mainThread_.sender()),
       trash_(platform, removals_, mainThread_.sender(), [this] { emit trashChanged(); }),
       removalUndo_(platform, mainThread_.sender()),
-      cleanup_(platform, results_, removals_, removalUndo_, mainThread_.sender()) {
+      cleanup_(platform, results_, removals_, removalUndo_, mainThread_.sender()),
+      tune_(platform, admin_, removalUndo_) {
     scanRoots_ = {home_};
 }
 

@@ -16,6 +16,7 @@
 #include "reclaim/ReclaimCatalogue.h"
 #include "reclaim/ReclaimTotals.h"
 #include "scan/ScanUpdate.h"
+#include "state/AdminRunner.h"
 #include "state/CleanupSession.h"
 #include "state/MainThreadQueue.h"
 #include "state/RemovalUndo.h"
@@ -25,6 +26,7 @@
 #include "state/SurveyResults.h"
 #include "state/SurveySession.h"
 #include "state/TrashMirror.h"
+#include "state/TuneModel.h"
 
 namespace zelk {
 
@@ -89,8 +91,12 @@ public:
 
     /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
-    /// What the last trashAndRemove() or trashLargeFile() moved to the Trash.
+    /// What the last trashAndRemove(), trashLargeFile() or removal of background items moved to the Trash.
     RemovalUndo& removalUndo() { return removalUndo_; }
+    /// Memory, caches, and what starts in the background.
+    TuneModel& tune() { return tune_; }
+    /// Commands that need an administrator.
+    AdminRunner& admin() { return admin_; }
     /// The services, for the models of screens.
     const Platform& platform() const { return platform_; }
     Workspace& workspace() const { return platform_.workspace; }
@@ -141,7 +147,7 @@ public:
     /// later; all other results keep counting it. If it cannot be moved, or a link has replaced a folder on the way to
     /// it, nothing changes.
     void trashLargeFile(const std::string& path);
-    /// Restores from the Trash what the last trashAndRemove() or trashLargeFile() moved there, as far as possible, and
+    /// Restores from the Trash what the last removal that removalUndo() tells of moved there, as far as possible, and
     /// reports by removalUndo(). What is back is in the results again, and the Trash is measured. If another survey has
     /// begun since the removal, a new one is started instead, as by scanAnew().
     void undoLastRemoval();
@@ -201,9 +207,11 @@ private:
     MainThreadQueue mainThread_;
     RemovalsModel removals_;
     SurveyResults results_;
+    AdminRunner admin_;
     TrashMirror trash_;
     RemovalUndo removalUndo_;
     CleanupSession cleanup_;
+    TuneModel tune_;
     std::shared_ptr<SurveySession> scanTask_;  // running or finished; absent after a cancel
     bool scanAgain_ = false;                   // when that one has finished
 };

@@ -25,12 +25,15 @@ void RemovalUndo::offer(Source source, std::size_t moved, std::vector<Item> item
 }
 
 void RemovalUndo::forgetResults() {
-    for (std::vector<Item>* const items : {&items_, &restoring_}) {
-        std::vector<Item> kept;
-        kept.reserve(items->size());
-        for (const Item& item : *items) kept.push_back({item.trashed, nullptr});
-        release(std::exchange(*items, std::move(kept)));
-    }
+    if (isOfSurvey(source_)) forgetResultsOf(items_);
+    if (isOfSurvey(restoringSource_)) forgetResultsOf(restoring_);
+}
+
+void RemovalUndo::forgetResultsOf(std::vector<Item>& items) {
+    std::vector<Item> kept;
+    kept.reserve(items.size());
+    for (const Item& item : items) kept.push_back({item.trashed, nullptr});
+    release(std::exchange(items, std::move(kept)));
 }
 
 /// The functions hold folders of the tree, and the last reference to a large one takes milliseconds to destroy.
@@ -41,6 +44,7 @@ void RemovalUndo::release(std::vector<Item> items) {
 
 void RemovalUndo::undo(std::function<void(bool resultsAreComplete)> settle) {
     if (restorable() == 0) return;
+    restoringSource_ = source_;
     restoring_ = std::exchange(items_, {});
     std::reverse(restoring_.begin(), restoring_.end());
     const std::size_t notFound = std::exchange(moved_, 0) - restoring_.size();

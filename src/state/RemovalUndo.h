@@ -21,14 +21,17 @@ class RemovalUndo : public QObject {
 
 public:
     enum class Source {
-        folders,   ///< AppModel::trashAndRemove()
-        largeFile  ///< AppModel::trashLargeFile()
+        folders,         ///< AppModel::trashAndRemove()
+        largeFile,       ///< AppModel::trashLargeFile()
+        backgroundItems  ///< TuneModel::removeSelected()
     };
+    /// Whether what is removed there was found by a survey, so that another survey concerns its undo.
+    static bool isOfSurvey(Source source) { return source != Source::backgroundItems; }
 
     struct Item {
         TrashedItem trashed;
-        /// Adds the restored item to the results again. Returns false, as if null, if that is not possible: then only a
-        /// new survey gives complete results.
+        /// Adds the restored item to the results, or to the list that it was taken from, again. Returns false, as if
+        /// null, if that is not possible: then only a new survey gives complete results.
         std::function<bool()> putBack;
     };
 
@@ -45,7 +48,7 @@ public:
     /// A removal has ended that moved `moved` items; `items` are those that can be restored, in the order in which they
     /// were moved. Replaces the removal before, unless nothing was moved.
     void offer(Source source, std::size_t moved, std::vector<Item> items);
-    /// The results are replaced: items that were moved before can no longer be added to them.
+    /// The results of the survey are replaced: what was found by it and moved before can no longer be added to them.
     void forgetResults();
 
     /// Who asked for the last removal that moved something.
@@ -70,6 +73,7 @@ signals:
 
 private:
     void finish(std::size_t notFound, const std::vector<Failure>& failures, const std::function<void(bool)>& settle);
+    void forgetResultsOf(std::vector<Item>& items);
     void release(std::vector<Item> items);
 
     BackgroundTasks& tasks_;
@@ -79,6 +83,7 @@ private:
     std::size_t moved_ = 0;
     std::vector<Item> items_;      ///< of the last removal
     std::vector<Item> restoring_;  ///< of the running undo
+    Source restoringSource_ = Source::folders;
     bool underWay_ = false;
 };
 

@@ -5,7 +5,7 @@ namespace zelk {
 
 QLocale userLocale() {
     const QLocale locale;
-    return locale == QLocale::c() ? QLocale(QLocale::English, QLocale::UnitedStates) : locale;
+    return locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedStates) : locale;
 }
 
 }  // namespace zelk

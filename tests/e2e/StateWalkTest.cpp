@@ -7,6 +7,7 @@
 #include "ReclaimHands.h"
 #include "ScreenFaults.h"
 #include "ShellFixture.h"
+#include "fakes/SnapshotTools.h"
 #include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/theme/ScreenLook.h"
 #include "ui/theme/SystemTexts.h"
@@ -188,6 +189,86 @@ TEST_F(StateWalk, hasNoFaultOnFirstRun) {
     }
     runUntil([&] { return find("continueButton") != nullptr; });
     inEverySize("the panel that asks for access");
+}
+
+TEST_F(StateWalk, hasNoFaultInHealth) {
+    machine.vitals.powerInfo = PowerInfo{true, 100, true, true};
+    machine.vitals.deviceInfo.chip =
+        "Some Vendor(R) Processor(TM) with a long name and 128 cores @ 3.60GHz, revision 7";
+    machine.vitals.memoryStats = MemoryStats{1'000'000'000'000'000, 999'990'000'000'000, 0, 0, 0};
+    machine.vitals.setVolume(home, VolumeInfo{huge, huge / 100, 0});
+    machine.processes.outcome = [](const auto&) {
+        ChildOutcome outcome;
+        outcome.output = std::string(200, 'n') + "\r" + longName() + "\n";
+        return outcome;
+    };
+    shell();
+    click("sidebarHealth");
+    window().grabWindow();
+    QQuickItem* scroll = find("healthScroll");
+    ASSERT_NE(scroll, nullptr);
+    ASSERT_TRUE(shows(QStringLiteral("Requires Attention")));
+    const auto bothEnds = [&](const std::string& where) {
+        for (const double end : {0.0, 1.0}) {
+            window().grabWindow();
+            scroll->setProperty("contentY", end * (scroll->property("contentHeight").toReal() - scroll->height()));
+            expectNoFaults(window(), where + (end > 0 ? ", below" : ", above"));
+        }
+        scroll->setProperty("contentY", 0);
+    };
+    inEverySize("health", bothEnds);
+    click("scoreInfo");
+    ASSERT_TRUE(shows(QStringLiteral("Learn more")));
+    inEverySize("the score explained");
+    press(Qt::Key_Escape);
+    find("improveMemory")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    runUntil([&] { return find("healthOutput") != nullptr; });
+    inEverySize("health with a result", bothEnds);
+}
+
+TEST_F(StateWalk, hasNoFaultInSystem) {
+    machine.system = SystemKind::desktopLinux;
+    machine.vitals.setVolume(home, VolumeInfo{huge, huge / 100, huge / 50});
+    machine.directories.directory(home + "/locked");
+    machine.directories.unreadable(home + "/locked");
+    for (const std::string& name : {longName(), std::string(200, 'n')}) {
+        machine.directories.file(home + "/" + name + "/" + name + ".qcow2", static_cast<std::uint64_t>(huge), 0);
+        machine.directories.file(home + "/" + name + ".sparseimage", 60'000'000, 0);
+    }
+    fakes::SnapshotTools tools(machine);
+    tools.kept = {{longName(), true, 1, "pre"}, {std::string(200, 'n'), true, 2}, {"mine", false, 3, "single", ""}};
+    for (int number = 4; number < 120; ++number) tools.kept.push_back({"timeline", true, number});
+    tools.removal = {std::nullopt, 1, std::string(200, 'n') + "\r" + longName() + "\n" + std::string(300, '\n')};
+    shell();
+    survey();
+    click("sidebarSystem");
+    runUntil([&] { return find("thinSnapshots") != nullptr; });
+    QQuickItem* scroll = find("systemScroll");
+    ASSERT_NE(scroll, nullptr);
+    const auto scrollTo = [&](double share) {
+        window().grabWindow();
+        scroll->setProperty("contentY", share * (scroll->property("contentHeight").toReal() - scroll->height()));
+    };
+    const auto inParts = [&](const std::string& where) {
+        for (const double share : {0.0, 0.05, 0.1, 0.95, 1.0}) {
+            scrollTo(share);
+            expectNoFaults(window(), where + " at " + std::to_string(share));
+        }
+        scrollTo(0);
+    };
+    inEverySize("system", inParts);
+    find("deleteSnapshot1")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    runUntil([&] { return find("removeSnapshots") != nullptr; });
+    inEverySize("the question about a snapshot");
+    machine.tasks.hold();
+    click("removeSnapshots");
+    runUntil([&] { return find("snapshotSpinner") != nullptr; });
+    inEverySize("system, removing", inParts);
+    machine.tasks.release();
+    runUntil([&] { return find("snapshotOutput") != nullptr; });
+    inEverySize("system with a result", inParts);
 }
 
 TEST_F(StateWalk, hasNoFaultWithCollapsedSidebar) {

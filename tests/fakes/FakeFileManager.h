@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <mutex>
@@ -124,7 +125,8 @@ public:
         const std::lock_guard lock(mutex_);
         const auto entry = entries_.find(path);
         if (entry == entries_.end()) return std::nullopt;
-        return FileProperties{entry->second.kind == Kind::folder, entry->second.allocatedSize};
+        return FileProperties{entry->second.kind == Kind::folder, entry->second.allocatedSize,
+                              entry->second.kind == Kind::link};
     }
 
     std::optional<std::vector<std::string>> list(const std::string& path) override {
@@ -153,6 +155,13 @@ public:
     std::optional<std::string> read(const std::string& path) override {
         if (fails("read", path)) return std::nullopt;
         return content(path);
+    }
+
+    std::optional<std::string> readSmall(const std::string& path, std::size_t most) override {
+        if (fails("readSmall", path)) return std::nullopt;
+        std::optional<std::string> small = content(path);
+        if (small && small->size() > most) small.reset();
+        return small;
     }
 
     bool replaceDurably(const std::string& path, std::string_view content) override {

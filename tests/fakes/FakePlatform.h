@@ -157,11 +157,17 @@ public:
     std::optional<std::string> applicationSupportPath = "/home/me/support";
     std::optional<std::string> xdgDataHomePath;
     TrashPlaces thrownAway;
+    std::vector<BackgroundItemFolder> itemFolders;
+    std::vector<std::string> programs;
+    std::vector<std::string> locales;
 
     std::string home() override { return homePath; }
     std::optional<std::string> applicationSupport() override { return applicationSupportPath; }
     std::optional<std::string> xdgDataHome() override { return xdgDataHomePath; }
     TrashPlaces trashPlaces() override { return thrownAway; }
+    std::vector<BackgroundItemFolder> backgroundItemFolders() override { return itemFolders; }
+    std::vector<std::string> programFolders() override { return programs; }
+    std::vector<std::string> entryLocales() override { return locales; }
 };
 
 /// A Trash in "/home/me/.Trash" with entries in the file manager.
@@ -255,6 +261,7 @@ public:
     struct Call {
         std::string executable;
         std::vector<std::string> arguments;
+        ChildStreams streams = {};
 
         bool operator==(const Call&) const = default;
     };
@@ -267,8 +274,10 @@ public:
         return calls_;
     }
 
-    ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments) override {
-        const Call call{executable, arguments};
+    using ChildProcess::run;
+    ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments,
+                     const ChildStreams& streams) override {
+        const Call call{executable, arguments, streams};
         {
             const std::lock_guard lock(mutex_);
             calls_.push_back(call);
@@ -336,7 +345,12 @@ public:
     FakePlatform& operator=(const FakePlatform&) = delete;
     ~FakePlatform() { waitForThreads(); }
 
-    Platform platform() { return {clock, directories, files, trash, vitals, locations, tasks, processes, workspace}; }
+    /// Set it before platform() is called.
+    SystemKind system = SystemKind::macOS;
+
+    Platform platform() {
+        return {clock, directories, files, trash, vitals, locations, tasks, processes, workspace, system};
+    }
 
     /// Waits until every thread of every scan has ended.
     static void waitForThreads() {

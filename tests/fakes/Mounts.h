@@ -21,15 +21,16 @@ namespace zelk::fakes {
 /// process starts threads.
 class Mounts {
 public:
-    /// False if mounting is not permitted. Unprivileged users get a user namespace too.
-    bool allowed() {
+    /// False if mounting is not permitted. Unprivileged users get a user namespace too, in which they are still
+    /// themselves, or root if `asRoot` is set.
+    bool allowed(bool asRoot = false) {
         const std::string user = std::to_string(::geteuid());
         const std::string group = std::to_string(::getegid());
         if (::unshare(CLONE_NEWNS) != 0) {
             if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
             std::ofstream("/proc/self/setgroups") << "deny";
-            std::ofstream("/proc/self/uid_map") << user << " " << user << " 1";
-            std::ofstream("/proc/self/gid_map") << group << " " << group << " 1";
+            std::ofstream("/proc/self/uid_map") << (asRoot ? "0" : user) << " " << user << " 1";
+            std::ofstream("/proc/self/gid_map") << (asRoot ? "0" : group) << " " << group << " 1";
         }
         return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
     }

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/DesktopEntry.h"
 #include "platform/Utf8.h"
-#include "platform/linux/apps/DesktopEntry.h"
 #include "platform/linux/apps/RunningProcesses.h"
 
 namespace {
@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const auto plain = zelk::parseDesktopEntry(text, {});
         require(plain && plain->command == entry->command && plain->tryExec == entry->tryExec &&
                 plain->isApplication == entry->isApplication && plain->hidden == entry->hidden &&
-                plain->noDisplay == entry->noDisplay);
+                plain->noDisplay == entry->noDisplay && plain->staysOff == entry->staysOff);
         // Other groups are not read.
         const auto more = zelk::parseDesktopEntry(std::string(text) + "\n[Other]\nName=Other\nHidden=true\n", locales);
         require(more && more->name == entry->name && more->hidden == entry->hidden);

@@ -37,6 +37,11 @@ std::optional<std::size_t> roomOf(std::string_view path) {
     return static_cast<std::size_t>(found - kRooms.begin());
 }
 
+/// Whether a path from src/ lies in zelk-admin, which runs as root and stands apart from the layers.
+bool isAdmin(std::string_view path) {
+    return path.starts_with("admin/");
+}
+
 /// The path of a source from src/, or nothing for a file elsewhere.
 std::optional<std::string> inSource(const std::string& path) {
     if (!path.starts_with("src/")) return std::nullopt;
@@ -55,7 +60,7 @@ std::string_view systemOf(std::string_view path) {
 /// Whether the file at this path from src/ is an algorithm or an interface of the standard library alone.
 bool isQtFree(const std::string& path) {
     if (path.starts_with("platform/")) return systemOf(path).empty();
-    return path.starts_with("scan/") || path.starts_with("reclaim/") || path.starts_with("system/");
+    return path.starts_with("scan/") || path.starts_with("reclaim/") || path.starts_with("system/") || isAdmin(path);
 }
 
 bool isUpper(char c) {
@@ -98,9 +103,10 @@ std::optional<std::string> includeIn(std::string_view line, const std::string& p
     std::filesystem::path target(line.substr(open + 1, close - open - 1));
     target = target.lexically_normal();
     // Not from src/ and not a system header: relative to the file itself.
-    if (const auto own = inSource(path); quoted && own && !layerOf(target.string()) && !isQtHeader(target.string())) {
+    const bool isFromSource = layerOf(target.string()) || isAdmin(target.string());
+    if (const auto own = inSource(path); quoted && own && !isFromSource && !isQtHeader(target.string())) {
         const auto resolved = (std::filesystem::path(folderOf(*own)) / target).lexically_normal();
-        if (layerOf(resolved.string())) return resolved.string();
+        if (layerOf(resolved.string()) || isAdmin(resolved.string())) return resolved.string();
     }
     return target.string();
 }
@@ -163,11 +169,16 @@ std::vector<Include> includesOf(const SourceFile& file) {
 std::vector<Violation> checkLayers(const SourceFile& file) {
     const auto own = inSource(file.path);
     const auto layer = own ? layerOf(*own) : std::nullopt;
-    if (!layer) return {};
+    if (!layer && !(own && isAdmin(*own))) return {};
 
     std::vector<Violation> found;
     for (const Include& include : includesOf(file)) {
         const auto target = layerOf(include.target);
+        if (isAdmin(*own) ? target.has_value() : isAdmin(include.target)) {
+            found.push_back({file.path, include.line,
+                             "includes " + include.target + ", but admin stands apart from the rest of the house"});
+        }
+        if (!layer) continue;
         if (!target) continue;
         if (*target > *layer) {
             found.push_back(

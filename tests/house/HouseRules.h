@@ -37,7 +37,7 @@ std::vector<Include> includesOf(const SourceFile& file);
 
 /// Includes that point to the right in platform <- scan <- reclaim <- system <- state <- ui <- app, or within ui/ in
 /// theme <- controls <- charts <- screens <- shell; into one system's folder from outside platform/ and app/, or from
-/// one system's folder into the other's.
+/// one system's folder into the other's; between admin/ and anything else of the house.
 std::vector<Violation> checkLayers(const SourceFile& file);
 
 /// Qt in a file that has to do without, directly or through a header of the house that may have it; Qt Quick to the

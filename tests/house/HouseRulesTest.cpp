@@ -87,14 +87,28 @@ TEST(LayerRule, keepsTheTwoSystemsApartAndLetsThemShareTheCommonFolder) {
     EXPECT_THAT(checkLayers(including("src/platform/macos/A.mm", "\"platform/posix/B.h\"")), IsEmpty());
 }
 
+TEST(LayerRule, keepsTheProgramOfRootApart) {
+    for (const std::string layer : {"platform", "scan", "reclaim", "system", "state", "ui", "app"}) {
+        EXPECT_THAT(checkLayers(including("src/" + layer + "/A.cpp", "\"admin/AdminCommand.h\"")), SizeIs(1)) << layer;
+        EXPECT_THAT(checkLayers(including("src/" + layer + "/A.cpp", "\"../admin/AdminCommand.h\"")), SizeIs(1))
+            << layer;
+        EXPECT_THAT(checkLayers(including("src/admin/A.cpp", "\"" + layer + "/B.h\"")), SizeIs(1)) << layer;
+        EXPECT_THAT(checkLayers(including("src/admin/A.cpp", "\"../" + layer + "/B.h\"")), SizeIs(1)) << layer;
+    }
+    for (const std::string header : {"\"admin/AdminCommand.h\"", "\"AdminCommand.h\"", "<sys/stat.h>", "<string>"})
+        EXPECT_THAT(checkLayers(including("src/admin/A.cpp", header)), IsEmpty()) << header;
+    EXPECT_THAT(checkLayers(including("tests/admin/A.cpp", "\"admin/AdminCommand.h\"")), IsEmpty());
+}
+
 TEST(LayerRule, takesTheSystemsOwnHeadersForNoLayer) {
     EXPECT_THAT(checkLayers(including("src/platform/posix/A.cpp", "<linux/openat2.h>")), IsEmpty());
     EXPECT_THAT(checkLayers(including("src/scan/A.cpp", "<system_error>")), IsEmpty());
 }
 
 TEST(QtRule, rejectsEveryFormOfQtHeaderLeftOfState) {
-    for (const std::string path : {"src/scan/A.h", "src/scan/AModel.h", "src/platform/A.cpp", "src/reclaim/A.cpp",
-                                   "src/reclaim/AModel.h", "src/system/Score.h", "src/system/AModel.cpp"}) {
+    for (const std::string path :
+         {"src/scan/A.h", "src/scan/AModel.h", "src/platform/A.cpp", "src/reclaim/A.cpp", "src/reclaim/AModel.h",
+          "src/system/Score.h", "src/system/AModel.cpp", "src/admin/A.cpp"}) {
         for (const std::string header :
              {"<QString>", "<QtCore/QString>", "<QtQml/qqmlregistration.h>", "<qobject.h>", "\"QString\""}) {
             EXPECT_THAT(checkQt(including(path, header)), SizeIs(1)) << path << " includes " << header;

@@ -329,6 +329,13 @@ TEST(DurableFile, readingTooLargeFileIsAbsent) {
     EXPECT_EQ(readWholeFile(folder / "file"), std::nullopt);
 }
 
+TEST(DurableFile, readingFileAboveTheGivenSizeIsAbsent) {
+    const TempFolder folder;
+    writeFile(folder / "file", "12345");
+    EXPECT_EQ(readWholeFile(folder / "file", 5), "12345");
+    EXPECT_EQ(readWholeFile(folder / "file", 4), std::nullopt);
+}
+
 TEST(DurableFile, createsFoldersForTheUserOnly) {
     const TempFolder folder;
     EXPECT_TRUE(createDirectoryTree(folder / "a/b/c"));

@@ -277,8 +277,8 @@ TEST_F(Applications, survivesLinkLoops) {
 }
 
 TEST_F(Applications, placesComeFromTheEnvironment) {
-    const fakes::EnvironmentVariable data("XDG_DATA_DIRS", "/one:relative::/two");
-    const fakes::EnvironmentVariable path("PATH", "/bin:.:/usr/bin");
+    const fakes::EnvironmentVariable data("XDG_DATA_DIRS", "/one:relative::/two//:/one");
+    const fakes::EnvironmentVariable path("PATH", "/bin:.:/usr/bin:/bin/");
     const fakes::EnvironmentVariable all("LC_ALL", std::nullopt);
     const fakes::EnvironmentVariable messages("LC_MESSAGES", "");
     const fakes::EnvironmentVariable language("LANG", "pt_BR.UTF-8");

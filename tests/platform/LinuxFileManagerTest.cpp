@@ -60,6 +60,16 @@ TEST(LinuxFileManager, existenceFollowsLinks) {
     EXPECT_FALSE(manager.exists(""));
 }
 
+TEST(LinuxFileManager, readsSmallFilesOnly) {
+    const TempFolder folder;
+    fakes::writeFile(folder / "file", "12345");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    ASSERT_EQ(::symlink("/dev/null", (folder / "mask").c_str()), 0);
+    EXPECT_EQ(manager.readSmall(folder / "file", 5), "12345");
+    for (const char* name : {"file", "pipe", "mask", "missing"})
+        EXPECT_EQ(manager.readSmall(folder / name, 4), std::nullopt) << name;
+}
+
 TEST(LinuxFileManager, propertiesDoNotFollowLinks) {
     const TempFolder folder;
     zoo::makeFile(folder / "file", 10000);
@@ -69,17 +79,20 @@ TEST(LinuxFileManager, propertiesDoNotFollowLinks) {
     const auto file = manager.properties(folder / "file");
     ASSERT_TRUE(file);
     EXPECT_FALSE(file->isDirectory);
+    EXPECT_FALSE(file->isLink);
     EXPECT_EQ(file->allocatedSize, allocated(folder / "file"));
     EXPECT_GE(file->allocatedSize, 10000u);
 
     const auto directory = manager.properties(folder / "folder");
     ASSERT_TRUE(directory);
     EXPECT_TRUE(directory->isDirectory);
+    EXPECT_FALSE(directory->isLink);
     EXPECT_EQ(directory->allocatedSize, 0u);
 
     const auto link = manager.properties(folder / "link");
     ASSERT_TRUE(link);
     EXPECT_FALSE(link->isDirectory);
+    EXPECT_TRUE(link->isLink);
 
     EXPECT_FALSE(manager.properties(folder / "missing"));
 }

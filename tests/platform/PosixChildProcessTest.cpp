@@ -20,9 +20,14 @@
 namespace zelk {
 namespace {
 
-ChildOutcome shell(const std::string& line) {
-    return PosixChildProcess().run("/bin/sh", {"-c", line});
+ChildOutcome shell(const std::string& line, const ChildStreams& streams = {}) {
+    return PosixChildProcess().run("/bin/sh", {"-c", line}, streams);
 }
+
+constexpr ChildStreams emptyInput{false, true, false};
+constexpr ChildStreams droppedErrors{true, false, false};
+constexpr ChildStreams readMeanwhile{true, true, true};
+constexpr ChildStreams allOfThem{false, false, true};
 
 TEST(PosixChildProcess, mergesBothOutputs) {
     const ChildOutcome outcome = shell("echo out; echo error >&2; echo again");
@@ -140,6 +145,14 @@ TEST(PosixChildProcess, ignoredChildHasUnknownStatus) {
     }));
 }
 
+TEST(PosixChildProcess, statusIsKnownOnceChildrenAreNotIgnored) {
+    EXPECT_TRUE(fakes::inChild([] {
+        ::signal(SIGCHLD, SIG_IGN);
+        stopIgnoringChildren();
+        return shell("exit 7").exitStatus == 7 && shell(":").exitStatus == 0;
+    }));
+}
+
 TEST(PosixChildProcess, survivesSignalWhileWaiting) {
     EXPECT_TRUE(fakes::inChild([] {
         struct sigaction interrupting {};
@@ -166,6 +179,102 @@ TEST(PosixChildProcess, readsOutputOnlyAfterExit) {
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(std::to_string(outcome.output.size()), fakes::fileContent(folder / "written"));
     EXPECT_LE(outcome.output.size(), 1U << 16);
+}
+
+TEST(PosixChildProcess, streamsAreMergedAndInheritedUnlessToldOtherwise) {
+    EXPECT_EQ(ChildStreams{}, (ChildStreams{true, true, false}));
+    EXPECT_TRUE(fakes::inChild([] {
+        int ends[2];
+        if (::pipe(ends) != 0 || ::dup2(ends[0], STDIN_FILENO) < 0 || ::write(ends[1], "in", 2) != 2) return false;
+        ::close(ends[1]);
+        return PosixChildProcess().run("/bin/sh", {"-c", "cat; echo error >&2"}).output == "inerror\n";
+    }));
+}
+
+TEST(PosixChildProcess, inputIsEmptyIfNotInherited) {
+    EXPECT_TRUE(fakes::inChild([] {
+        int ends[2];
+        if (::pipe(ends) != 0 || ::dup2(ends[0], STDIN_FILENO) < 0 || ::write(ends[1], "in", 2) != 2) return false;
+        ::close(ends[1]);
+        const ChildOutcome outcome = shell("cat", emptyInput);
+        return outcome.exitStatus == 0 && outcome.output.empty();
+    }));
+    EXPECT_EQ(shell("test /dev/stdin -ef /dev/null; echo $?; echo error >&2", emptyInput).output, "0\nerror\n");
+}
+
+TEST(PosixChildProcess, inputIsEmptyWhereThisProcessHasNone) {
+    EXPECT_TRUE(fakes::inChild([] {
+        for (int descriptor = 0; descriptor < 3; ++descriptor) ::close(descriptor);
+        for (const ChildStreams& streams : {emptyInput, allOfThem}) {
+            const ChildOutcome outcome = shell("cat; echo out", streams);
+            if (outcome.exitStatus != 0 || outcome.output != "out\n") return false;
+        }
+        return true;
+    }));
+}
+
+TEST(PosixChildProcess, dropsErrorsAlone) {
+    for (const ChildStreams& streams : {droppedErrors, allOfThem}) {
+        const ChildOutcome outcome = shell("echo out; echo error >&2; echo again; exit 5", streams);
+        EXPECT_EQ(outcome.output, "out\nagain\n");
+        EXPECT_EQ(outcome.exitStatus, 5);
+    }
+    EXPECT_EQ(shell("test /dev/stderr -ef /dev/null; echo $?", droppedErrors).output, "0\n");
+}
+
+TEST(PosixChildProcess, dropsErrorsWhereThisProcessHasNoStreams) {
+    // The first descriptor that is closed becomes the reading end of the pipe, the next one the writing end.
+    for (const int first : {0, 1}) {
+        EXPECT_TRUE(fakes::inChild([first] {
+            for (int descriptor = first; descriptor < 3; ++descriptor) ::close(descriptor);
+            return shell("echo out; echo error >&2", droppedErrors).output == "out\n";
+        })) << first;
+    }
+}
+
+TEST(PosixChildProcess, drainsWhatAPipeDoesNotHold) {
+    constexpr std::size_t bytes = 1'000'000;  // pipes hold 64 KiB
+    const std::string program = "head -c " + std::to_string(bytes) + " /dev/zero | tr '\\0' x";
+    for (const ChildStreams& streams : {readMeanwhile, allOfThem}) {
+        const ChildOutcome outcome = shell(program + "; exit 7", streams);
+        EXPECT_EQ(outcome.output, std::string(bytes, 'x'));
+        EXPECT_EQ(outcome.exitStatus, 7);
+    }
+    EXPECT_EQ(shell("(" + program + ") >&2", readMeanwhile).output.size(), bytes);
+    EXPECT_EQ(shell("(" + program + ") >&2; echo out", allOfThem).output, "out\n");
+}
+
+TEST(PosixChildProcess, waitsForProgramThatClosedItsOutput) {
+    const ChildOutcome outcome =
+        shell("echo out; exec >&- 2>&-; i=0; while [ $i -lt 20000 ]; do i=$((i+1)); done; exit 9", readMeanwhile);
+    EXPECT_EQ(outcome.exitStatus, 9);
+    EXPECT_EQ(outcome.output, "out\n");
+}
+
+TEST(PosixChildProcess, returnsSignalNumberWhileReading) {
+    const ChildOutcome outcome = shell("echo before; kill -TERM $$", readMeanwhile);
+    EXPECT_EQ(outcome.exitStatus, SIGTERM);
+    EXPECT_EQ(outcome.output, "before\n");
+}
+
+TEST(PosixChildProcess, failsToLaunchWithAnyStreams) {
+    const std::ptrdiff_t before = fakes::openDescriptors();
+    for (const ChildStreams& streams : {emptyInput, droppedErrors, readMeanwhile, allOfThem}) {
+        const ChildOutcome outcome = PosixChildProcess().run("/nowhere/tool", {}, streams);
+        EXPECT_EQ(outcome.launchFailure, std::strerror(ENOENT));
+        EXPECT_EQ(outcome.output, "");
+    }
+    EXPECT_EQ(fakes::openDescriptors(), before);
+}
+
+TEST(PosixChildProcess, otherStreamsLeaveNoDescriptors) {
+    const std::ptrdiff_t before = fakes::openDescriptors();
+    const zoo::TempFolder folder;
+    for (const ChildStreams& streams : {emptyInput, droppedErrors, readMeanwhile, allOfThem}) {
+        shell("ls /dev/fd/ > " + (folder / "list"), streams);
+        EXPECT_EQ(fakes::fileContent(folder / "list"), "0\n1\n2\n3\n");
+    }
+    EXPECT_EQ(fakes::openDescriptors(), before);
 }
 
 TEST(PosixChildProcess, runsManyConcurrently) {

@@ -62,7 +62,6 @@ TEST(ProcText, survivesHostileTexts) {
         (void)memoryCounts(text, 0);
         EXPECT_LT(zramMemory(text), std::uint64_t{1} << 60);
         EXPECT_GE(processorTicks(text).value_or(CPUTicks{}).idle, 0);
-        EXPECT_GE(uptimeSeconds(text).value_or(0), 0);
     }
 }
 
@@ -263,13 +262,6 @@ TEST(ProcessorTicks, areAbsentWithoutTotalLine) {
     EXPECT_FALSE(processorTicks("cpu 1 2 3\n").has_value());
     EXPECT_FALSE(processorTicks("cpu 1 2 -3 4\n").has_value());
     EXPECT_FALSE(processorTicks("").has_value());
-}
-
-TEST(UptimeSeconds, parsesTheFirstNumberWithFraction) {
-    EXPECT_DOUBLE_EQ(uptimeSeconds("1540.32 2357.02\n").value(), 1540.32);
-    EXPECT_DOUBLE_EQ(uptimeSeconds("12\n").value(), 12);
-    for (const char* text : {"", "\n", "-1.5", "a", "1.x", ".5", "99999999999.0"})
-        EXPECT_FALSE(uptimeSeconds(text).has_value()) << text;
 }
 
 TEST(VolumeOfBlocks, multipliesBlocksByTheirSize) {

@@ -70,6 +70,29 @@ TEST(UserLocale, defaultsToAmericanEnglish) {
     QLocale::setDefault(before);
 }
 
+TEST(PrintedText, breaksLinesAtEveryLineEnd) {
+    EXPECT_EQ(printedText("a\rb\nc\r\nd\n\re\tf\n\n"), QStringLiteral("a\nb\nc\nd\n\ne f\n\n"));
+    EXPECT_EQ(printedText("\r\r\n\n\r"), QStringLiteral("\n\n\n\n"));
+    EXPECT_EQ(printedText(""), QString());
+}
+
+TEST(PrintedText, keepsTheBreakAtTheEnd) {
+    EXPECT_EQ(printedText("done\n"), QStringLiteral("done\n"));
+    EXPECT_EQ(printedText("done\r\n"), QStringLiteral("done\n"));
+    EXPECT_EQ(printedText("done\r"), QStringLiteral("done\n"));
+}
+
+TEST(PrintedText, showsControlCharactersAndRepairsText) {
+    EXPECT_EQ(printedText("a\x1b[31mb\nc\xff"), QStringLiteral("a␛[31mb\nc\uFFFD"));
+}
+
+TEST(PrintedText, leavesOutWhatFollows20000Bytes) {
+    const std::string most(20'000, 'x');
+    EXPECT_EQ(printedText(most), QString::fromStdString(most));
+    EXPECT_EQ(printedText(most + 'y'), QString::fromStdString(most + "\n…"));
+    EXPECT_EQ(printedText(std::string(19'999, 'x') + "ä"), QString::fromStdString(std::string(19'999, 'x') + "\n…"));
+}
+
 TEST(ShortenedPath, keeps56Characters) {
     EXPECT_EQ(shortenedPath(letters(56)), letters(56));
 }

@@ -52,6 +52,10 @@ TEST_F(ReclaimWindow, offersItems) {
     EXPECT_EQ(nameOf(find("ageSlider")), "only inactive >");
     EXPECT_EQ(find("ageSlider")->property("to").toInt(), 180);
     EXPECT_EQ(colorsOf("chevron.right").size(), 5U);
+    for (QQuickItem* item : seen()) {
+        if (!item->property("spoken").isValid()) continue;
+        EXPECT_TRUE(namesInside(item).empty()) << nameOf(item) << " has said everything";
+    }
     screen().items()->setOpen(0, true);
     settle();
     EXPECT_EQ(colorsOf("chevron.right").size(), 4U);

@@ -66,7 +66,7 @@ TEST_F(ShellTexts, aboutShowsNameAndRows) {
 }
 
 TEST_F(ShellTexts, unbuiltModuleShowsPurposeAndNote) {
-    const auto module = makeUnbuiltModule(model(), Screen::duplicates);
+    const auto module = makeUnbuiltModule(Screen::duplicates);
     show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleScaffold"), "module", module.get(), {800, 620});
     EXPECT_EQ(seenTexts(),
               (Texts{"Duplicates",

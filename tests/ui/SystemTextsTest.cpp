@@ -28,6 +28,16 @@ constexpr Wording wordings[] = {
      "Zelk runs entirely on your Mac. Nothing is ever uploaded, and destructive actions always ask first.",
      "Zelk runs entirely on your computer. Nothing is ever uploaded, and destructive actions always ask first."},
     {SystemTexts::HealthTitle, "Mac health", "Computer health"},
+    {SystemTexts::HealthCaption, "Mac Health", "Computer Health"},
+    {SystemTexts::HealthScoreTitle, "Mac Health Score", "Computer Health Score"},
+    {SystemTexts::HealthScoreMeaning,
+     "Zelk estimates your Mac's health from free disk space, memory pressure, CPU load, and battery — and watches how "
+     "it trends over time.",
+     "Zelk estimates your computer's health from free disk space, memory pressure, CPU load, and battery — and watches "
+     "how it trends over time."},
+    {SystemTexts::HealthGood, "Your Mac is in good shape.", "Your computer is in good shape."},
+    {SystemTexts::ThisComputer, "This Mac", "This computer"},
+    {SystemTexts::SystemName, "macOS", "System"},
     {SystemTexts::RevealFile, "Reveal in Finder", "Reveal in Files"},
     {SystemTexts::TrashLocked, "Full Disk Access needed to read the Trash",
      "not yours to read: see who owns its folder"},
@@ -37,6 +47,10 @@ constexpr Wording wordings[] = {
     {SystemTexts::AccessSteps, "Open Settings → drag Zelk in → come back.",
      "Ask their owner to share them, or go on without them."},
     {SystemTexts::AccessSettings, "Open Settings", ""},
+    {SystemTexts::CheckComputer, "Check this Mac", "Check this computer"},
+    {SystemTexts::FreeMemoryNote, "",
+     "Drops the caches of files. They count as free already, so the figure “used” will hardly move, and files are read "
+     "from the disk again for a while."},
     {SystemTexts::SimulatorNote, "Removes simulator runtimes macOS no longer lists.",
      "Removes simulator runtimes that nothing lists any more."},
     {SystemTexts::HelpMeasuring,
@@ -62,8 +76,8 @@ constexpr Wording wordings[] = {
     {SystemTexts::HelpTune,
      "See memory pressure, free up RAM, flush the DNS cache, and remove startup launch agents. Memory and DNS actions "
      "ask for administrator permission — Zelk never runs them silently.",
-     "See memory pressure, free up RAM, flush the DNS cache, and remove autostart entries. Memory and DNS actions ask "
-     "for administrator permission — Zelk never runs them silently."},
+     "See memory pressure, free up RAM, flush the DNS cache, and remove autostart entries. Freeing memory asks for "
+     "administrator permission — Zelk never runs it silently."},
     {SystemTexts::HelpHealth, "Live vitals for your Mac.", "Live vitals for your computer."},
     {SystemTexts::HelpSnapshots,
      "Surfaces purgeable space and local APFS snapshots. macOS doesn't report a size per snapshot, only whether each "
@@ -73,8 +87,8 @@ constexpr Wording wordings[] = {
     {SystemTexts::HelpThinning,
      "Thinning lets macOS choose what to free; deletion is offered only for freeable snapshots, behind an "
      "administrator prompt.",
-     "Thinning lets the system choose what to free; deletion is offered only for freeable snapshots, behind an "
-     "administrator prompt."},
+     "Thinning lets the system choose what to free; deletion is offered only for freeable snapshots, and always "
+     "asks first."},
     {SystemTexts::HelpPrivacy, "Zelk works entirely on your Mac.", "Zelk works entirely on your computer."},
     {SystemTexts::HelpPrompts,
      "Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default to the Trash, and "
@@ -86,6 +100,35 @@ constexpr Wording wordings[] = {
      "notarization), not via the App Store.",
      "Zelk is non-sandboxed so it can survey the whole drive; that's why it's distributed as a package, not as a "
      "sandboxed bundle."},
+    {SystemTexts::ImageOfMachine, "VM disk. Shut the VM down and compact it from your VM tool (UTM/QEMU).",
+     "VM disk. Shut the VM down, then copy it without its empty space: qemu-img convert -O qcow2 <path> <copy>"},
+    {SystemTexts::ImageThatGrows, "Sparse disk image. Compact with: hdiutil compact <path>",
+     "Sparse disk image of another system. Compact it there, or delete it if you no longer need its contents."},
+    {SystemTexts::SystemLead, "Reconcile the mystery gap — purgeable space, local snapshots, and SIP-protected areas.",
+     "Reconcile the mystery gap — purgeable space, local snapshots, and protected areas."},
+    {SystemTexts::PurgeableSpace,
+     "Purgeable space — including freeable snapshots — is reclaimed automatically by macOS under pressure. It's not "
+     "junk.",
+     "Purgeable space is what the system would free by itself under pressure. It's not junk. Snapshots are no part of "
+     "it here: each keeps its space until it is removed."},
+    {SystemTexts::SnapshotKind, "Time Machine", "Snapshot"},
+    {SystemTexts::SnapshotSizes,
+     "macOS doesn't report a size per snapshot — only whether each can be freed. The purgeable total above is the "
+     "number that matters.",
+     "The size of a snapshot is seldom known — only whether each can be freed. What it alone still holds is part of "
+     "the used space above."},
+    {SystemTexts::SnapshotsOfZfs, "",
+     "These are snapshots of ZFS. Zelk only shows them: remove them with its own tools, which know what depends on "
+     "them."},
+    {SystemTexts::SnapshotsRefused, "",
+     "Snapper keeps snapshots here, but did not show them. It answers those users whom its configuration allows."},
+    {SystemTexts::PreferThinning, "Prefer thinning — let macOS choose what to free.",
+     "Prefer thinning — let snapper choose what to free."},
+    {SystemTexts::ProtectedFolders,
+     "SIP-protected system folders stay invisible to any userspace app — Zelk can't enumerate them, and never claims "
+     "to. The gap between your survey and the volume total lives there.",
+     "Folders of the system and of other users stay invisible to your user — Zelk can't enumerate them, and never "
+     "claims to. The gap between your survey and the volume total lives there."},
 };
 
 }  // namespace
@@ -101,7 +144,8 @@ TEST(SystemTexts, haveWordingForEachSystem) {
 TEST(SystemTexts, doNotMentionMacOnLinux) {
     for (int key = 0; key < SystemTexts::keyCount; ++key) {
         const std::string text = SystemTexts::wording(static_cast<SystemTexts::Key>(key), desktopLinux);
-        for (const char* word : {"Mac", "macOS", "Finder", "Full Disk", "⌘", "APFS", "App Store", "Developer ID"})
+        for (const char* word : {"Mac", "macOS", "Finder", "Full Disk", "⌘", "APFS", "App Store", "Developer ID",
+                                 "Time Machine", "SIP", "hdiutil", "UTM"})
             EXPECT_EQ(text.find(word), std::string::npos) << text;
     }
 }

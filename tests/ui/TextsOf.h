@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+// Before the names below, which its own would shadow.
+#include "platform/SystemKind.h"
 #include "ui/theme/SystemTexts.h"
 
 namespace zelk {

@@ -111,6 +111,48 @@ TEST_F(UndoBar, newSurveyHidesIt) {
     EXPECT_FALSE(folders->shown());
 }
 
+TEST_F(UndoBar, ofBackgroundItemsOutlivesSurveysAndOtherRemovals) {
+    open();
+    UndoBarModel agents(model(), RemovalUndo::Source::backgroundItems);
+    const TrashResult film = machine.trash.trash(ItemPath::from(home + "/film.mov").value());
+    int putBack = 0;
+    const auto back = [&putBack] { return ++putBack > 0; };
+    model().removalUndo().offer(RemovalUndo::Source::backgroundItems, 1, {{film.item.value(), back}});
+    ASSERT_TRUE(agents.undoable());
+    survey();
+    EXPECT_TRUE(agents.undoable());
+    const auto removal = model().removals().begin(1);
+    EXPECT_TRUE(agents.undoable());
+    removal->noteDone();
+    agents.undo();
+    runUntil([&] { return !model().removalUndo().underWay(); });
+    EXPECT_EQ(agents.text(), QStringLiteral("1 item was restored."));
+    EXPECT_EQ(putBack, 1);
+    survey();
+    EXPECT_TRUE(agents.shown()) << "what became of it is told all the same";
+    runWhatIsThere();
+}
+
+TEST_F(UndoBar, ofBackgroundItemsGoesWithTheContentOfTheTrash) {
+    open();
+    UndoBarModel agents(model(), RemovalUndo::Source::backgroundItems);
+    model().removalUndo().offer(RemovalUndo::Source::backgroundItems, 1, {});
+    ASSERT_TRUE(agents.shown());
+    model().emptyTrash();
+    EXPECT_FALSE(agents.shown());
+    runUntil([&] { return !model().emptyingTrash(); });
+}
+
+TEST_F(UndoBar, ofBackgroundItemsGivesWayToTheNextRemoval) {
+    open();
+    UndoBarModel agents(model(), RemovalUndo::Source::backgroundItems);
+    model().removalUndo().offer(RemovalUndo::Source::backgroundItems, 1, {});
+    ASSERT_TRUE(agents.shown());
+    removeFolders({"a"});
+    EXPECT_FALSE(agents.shown());
+    EXPECT_TRUE(folders->undoable());
+}
+
 TEST_F(UndoBar, closesWhenDismissed) {
     open();
     removeFolders({"a"});

@@ -99,6 +99,20 @@ protected:
         QAccessibleInterface* control = QAccessible::queryAccessibleInterface(item);
         return control == nullptr ? std::string() : control->text(QAccessible::Name).toStdString();
     }
+    /// The names that a screen reader finds inside of an item, in its order.
+    static std::vector<std::string> namesInside(QQuickItem* item) {
+        std::vector<std::string> names;
+        std::vector<QAccessibleInterface*> pending{QAccessible::queryAccessibleInterface(item)};
+        while (!pending.empty()) {
+            QAccessibleInterface* part = pending.back();
+            pending.pop_back();
+            if (part == nullptr) continue;
+            names.push_back(part->text(QAccessible::Name).toStdString());
+            for (int child = part->childCount() - 1; child >= 0; --child) pending.push_back(part->child(child));
+        }
+        names.erase(names.begin());  // its own
+        return names;
+    }
     /// The accessible name of the focused item.
     std::string focusName() { return nameOf(window_->activeFocusItem()); }
     bool focusIsRinged() { return window_->activeFocusItem()->property("visualFocus").toBool(); }

@@ -261,6 +261,20 @@ def lens(walker, audience):
         walker.press("Start Over")
 
 
+def health(walker, _audience):
+    walker.look(walker.screen, *(expect(gauge, "image") for gauge in ("CPU", "Memory", "Disk")),
+                expect("Free up RAM", "push button"))
+    if walker.press(".* Health Score") is not None:
+        walker.look("What the score means", expect("Learn more", "push button"))
+        walker.escape(DIALOGS)
+
+
+def system(walker, _audience):
+    walker.look(walker.screen, expect("Local snapshots", "heading"), expect("Reload the local snapshots", "push button"))
+    if walker.press("Reload the local snapshots") is not None:
+        walker.look("System, reloaded")
+
+
 def settings(walker, _audience):
     title = walker.screen
     walker.look(title, expect("Add folder.*", "push button"), expect("Theme", "panel", "grouping"),
@@ -274,7 +288,21 @@ def settings(walker, _audience):
     slide(walker)
 
 
-INSIDE = {"Overview": overview, "Reclaim": reclaim, "Clutter": clutter, "Lens": lens, "Settings": settings}
+def tune(walker, audience):
+    if audience == "everyone":
+        walker.press("Check this .*")
+    title = f"Levers for {audience}"
+    walker.screen = title
+    walker.look(title, expect("Free up RAM", "push button"), expect("Flush DNS cache", "push button"),
+                expect("Refresh memory", "push button"), expect("All", "push button"), expect("None", "push button"),
+                expect("Search", "text", "entry"), expect("Background items", "list"))
+    row = first_row(walker, "Background items")
+    if row is not None and row.has("checkable"):
+        walker.toggle(re.escape(row.name), frozenset({row.role}))
+
+
+INSIDE = {"Overview": overview, "Reclaim": reclaim, "Tune": tune, "Clutter": clutter, "Lens": lens, "Health": health,
+          "System": system, "Settings": settings}
 
 
 def clean_up(walker):

@@ -40,7 +40,7 @@ HOLDER = {
 # A list in the order of size, whose nodes may lie anywhere.
 MAP = "Map of "
 # Roles that lie over the rest and have an order of their own.
-OVERLAYS = DIALOGS | MENUS | {"tool tip", "frame"}
+OVERLAYS = DIALOGS | MENUS | {"comment", "tool tip", "frame"}
 
 
 @dataclass(frozen=True)

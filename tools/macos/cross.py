@@ -24,7 +24,7 @@ OBJECTIVE_CXX = ["-fobjc-arc", "-Werror=objc-method-access", "-Werror=unguarded-
 JOINED_AT_MOST = 12
 PROGRAM = re.compile(r"^int main\(", re.MULTILINE)
 # Sources that CMake leaves out on a Mac.
-LINUX_ONLY = ("/linux/", "/bench/floor.cpp")
+LINUX_ONLY = ("/linux/", "/src/admin/", "/tests/admin/", "/bench/floor.cpp")
 
 
 def install_packages():

@@ -4,21 +4,36 @@
 
 #include <condition_variable>
 #include <cstddef>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "platform/ChildProcess.h"
 #include "platform/FileManager.h"
 #include "platform/Time.h"
 #include "platform/Trash.h"
+#include "platform/Vitals.h"
 #include "platform/Workspace.h"
 
 namespace zelk::tour {
 
 /// The contents of the Trash to report.
 enum class TrashContents { real, none, locked };
+
+/// What to report of the machine; what is absent is read.
+struct PretendedVitals {
+    std::optional<VolumeInfo> volume = std::nullopt;
+    std::optional<MemoryStats> memory = std::nullopt;
+    std::optional<PowerInfo> power = std::nullopt;
+};
+
+/// What a program answers to its arguments.
+using PretendedPrograms =
+    std::function<ChildOutcome(const std::string& executable, const std::vector<std::string>& arguments)>;
 
 /// Controls the pretending services: they can wait, for a picture of work in progress, and can fail. Safe from any
 /// thread.
@@ -33,6 +48,9 @@ public:
     void release() { set(held_, false); }
     void fail(bool failing) { set(failing_, failing); }
     void setTrash(TrashContents contents) { set(trash_, contents); }
+    void setVitals(const PretendedVitals& vitals) { set(vitals_, vitals); }
+    /// Sets what programs answer. Called on any thread.
+    void setPrograms(PretendedPrograms programs) { set(programs_, std::move(programs)); }
     /// Sets the clock back by a number of days.
     void goBack(double days) { set(daysBack_, days); }
 
@@ -44,8 +62,20 @@ public:
         return !failing_;
     }
 
+    /// Has every program print this and succeed.
+    void print(const std::string& output) {
+        setPrograms([output](const std::string&, const std::vector<std::string>&) {
+            return ChildOutcome{std::nullopt, 0, output};
+        });
+        set(output_, output);
+    }
+
     TrashContents trash() { return get(trash_); }
+    PretendedVitals vitals() { return get(vitals_); }
+    PretendedPrograms programs() { return get(programs_); }
     double daysBack() { return get(daysBack_); }
+    /// What print() was last called with.
+    std::string output() { return get(output_); }
 
 private:
     template <class T>
@@ -54,9 +84,9 @@ private:
         return what;
     }
     template <class T>
-    void set(T& what, T value) {
+    void set(T& what, std::type_identity_t<T> value) {
         const std::lock_guard lock(mutex_);
-        what = value;
+        what = std::move(value);
         changed_.notify_all();
     }
 
@@ -66,7 +96,29 @@ private:
     std::size_t passing_ = 0;
     bool failing_ = false;
     TrashContents trash_ = TrashContents::real;
+    PretendedVitals vitals_;
+    PretendedPrograms programs_ = [](const std::string&, const std::vector<std::string>&) { return ChildOutcome(); };
     double daysBack_ = 0;
+    std::string output_;
+};
+
+class PretendingVitals : public Vitals {
+public:
+    PretendingVitals(Vitals& real, Pretence& pretence) : real_(real), pretence_(pretence) {}
+
+    DeviceInfo device() override { return real_.device(); }
+    MemoryStats memory() override { return pretence_.vitals().memory.value_or(real_.memory()); }
+    std::optional<CPUTicks> ticks() override { return real_.ticks(); }
+    PowerInfo power() override { return pretence_.vitals().power.value_or(real_.power()); }
+    std::optional<VolumeInfo> volume(const std::string& path) override {
+        const std::optional<VolumeInfo> volume = pretence_.vitals().volume;
+        return volume ? volume : real_.volume(path);
+    }
+    double uptime() override { return real_.uptime(); }
+
+private:
+    Vitals& real_;
+    Pretence& pretence_;
 };
 
 class PretendingTrash : public Trash {
@@ -110,6 +162,9 @@ public:
     std::optional<std::vector<std::string>> list(const std::string& path) override { return real_.list(path); }
     std::uint64_t allocatedSizeBelow(const std::string& path) override { return real_.allocatedSizeBelow(path); }
     std::optional<std::string> read(const std::string& path) override { return real_.read(path); }
+    std::optional<std::string> readSmall(const std::string& path, std::size_t most) override {
+        return real_.readSmall(path, most);
+    }
     bool replaceDurably(const std::string& path, std::string_view content) override {
         return real_.replaceDurably(path, content);
     }
@@ -151,7 +206,19 @@ private:
 
 class PretendingProcesses : public ChildProcess {
 public:
-    ChildOutcome run(const std::string&, const std::vector<std::string>&) override { return {}; }
+    explicit PretendingProcesses(Pretence& pretence) : pretence_(pretence) {}
+
+    using ChildProcess::run;
+    ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments,
+                     const ChildStreams&) override {
+        const bool succeeds = pretence_.pass();
+        ChildOutcome outcome = pretence_.programs()(executable, arguments);
+        if (!succeeds) outcome.exitStatus = 1;
+        return outcome;
+    }
+
+private:
+    Pretence& pretence_;
 };
 
 }  // namespace zelk::tour

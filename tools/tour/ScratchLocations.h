@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <string>
+#include <vector>
 
 #include "platform/Locations.h"
 
@@ -25,8 +26,28 @@ public:
     std::optional<std::string> applicationSupport() override { return support_.path().toStdString(); }
     std::optional<std::string> xdgDataHome() override { return real_.xdgDataHome(); }
     TrashPlaces trashPlaces() override { return real_.trashPlaces(); }
+    /// A folder with as many items as a well-filled desktop has, and a few of the system's.
+    std::vector<BackgroundItemFolder> backgroundItemFolders() override {
+        const QString own = support_.filePath(QStringLiteral("autostart"));
+        const QString system = support_.filePath(QStringLiteral("system"));
+        for (int item = 1; item <= 296; ++item) put(own, item, "Companion");
+        for (int item = 1; item <= 4; ++item) put(system, item, "Scheduler");
+        return {{own.toStdString(), BackgroundItemKind::autostartEntries, true},
+                {system.toStdString(), BackgroundItemKind::autostartEntries, false}};
+    }
+    std::vector<std::string> programFolders() override { return real_.programFolders(); }
+    std::vector<std::string> entryLocales() override { return {}; }
 
 private:
+    static void put(const QString& folder, int item, const char* name) {
+        const QString words = QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(item, 3, 10, QLatin1Char('0'));
+        QDir().mkpath(folder);
+        QFile file(folder + QLatin1Char('/') + words.toLower().replace(QLatin1Char(' '), QLatin1Char('-')) +
+                   QStringLiteral(".desktop"));
+        if (file.open(QFile::WriteOnly))
+            file.write("[Desktop Entry]\nType=Application\nName=" + words.toUtf8() + "\nExec=sh\n");
+    }
+
     Locations& real_;
     QTemporaryDir support_;
 };

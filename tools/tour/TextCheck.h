@@ -13,7 +13,7 @@ namespace zelk::tour {
 class TextCheck {
 public:
     /// A name of the user's own, or of a product.
-    void allow(const QString& name) { names_.insert(name); }
+    void allow(const QString& name) { names_.insert(name.trimmed()); }
 
     /// Looks at all texts that are visible now. `picture` names the place in the findings.
     /// Where the texts are large, some may be cut off: then `roomy` is false.

@@ -65,8 +65,8 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, T
 
 bool Tour::run() {
     return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
-           clutter() && roots() && sidebarAndMenus() && windows() && firstRun() && smallAndLarge() && taking() &&
-           focus() && keptItem() && nothingFound();
+           clutter() && tune() && health() && system() && roots() && sidebarAndMenus() && windows() && firstRun() &&
+           smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
 }
 
 bool Tour::gallery() {
@@ -321,9 +321,11 @@ bool Tour::smallAndLarge() {
     };
     resize(leastSize);
     text.setFactor(largeText);
-    for (const Screen screen :
-         {Screen::survey, Screen::reclaim, Screen::clutter, Screen::lens, Screen::tools, Screen::settings})
+    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::tune, Screen::clutter, Screen::lens,
+                                Screen::tools, Screen::settings})
         taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
+    app_.setSelection(Screen::system);  // its row in the sidebar is out of sight
+    taken = taken && picture(QStringLiteral("large-text-system"));
     text.setFactor(1);
     resize(plan_.size);
     return taken && go(Screen::survey);

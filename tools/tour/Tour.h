@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 #include "PausingDirectories.h"
@@ -20,6 +21,9 @@ struct TourPlan {
     bool complete;  ///< every state must be available; otherwise those that are not are skipped
     std::function<void(QQuickWindow&, const QString&)> inspect;  ///< called with the name of each picture; may be empty
 };
+
+/// What the tour's own snapshots are called, and what its tools answer: the same in every language.
+QStringList textsOfSnapshots();
 
 /// Walks through the application once, takes pictures and prints their paths.
 class Tour {
@@ -45,6 +49,7 @@ private:
     bool taking();
     bool changes();
     bool clutter();
+    bool tune();
     bool roots();
     bool windows();
     bool sidebarAndMenus();
@@ -53,12 +58,19 @@ private:
     bool focus();
     bool nothingFound();
 
+    bool health();
+    bool healthActions(QQuickItem& scroll);
+
     bool reclaim();
     bool chooseInMenu(int entry);
     bool items();
     bool youngItems(ItemList& list);
     bool keptItem();
     bool cleanUp();
+
+    bool system();
+    bool snapshotsIn(const QString& name, const ChildOutcome& list, const ChildOutcome& removal = {});
+    bool removingSnapshots();
 
     bool go(Screen screen);
     void surveyOnly(const QString& folder);

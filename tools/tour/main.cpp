@@ -39,13 +39,21 @@ void allowFolders(const zelk::FSNode& folder, zelk::tour::TextCheck& texts) {
 }
 
 /// The names of the disk and of the machine are the same in every language.
-void allowNames(const zelk::AppModel& app, zelk::tour::TextCheck& texts) {
+void allowNames(zelk::AppModel& app, zelk::tour::TextCheck& texts) {
     texts.allow(QStringLiteral("Zelk"));
     for (const std::string& name : {app.device().computerName, app.device().chip, app.device().osVersion})
         texts.allow(zelk::displayText(name));
     for (const std::string& root : app.scanRoots()) texts.allow(zelk::nameText(root));
     if (app.root()) allowFolders(*app.root(), texts);
     for (const zelk::LargeFile& file : app.insights().topFiles) texts.allow(zelk::nameText(file.path));
+    for (const zelk::LargeFile& image : app.insights().diskImages) texts.allow(zelk::nameText(image.path));
+    for (const QString& text : zelk::tour::textsOfSnapshots()) texts.allow(text);
+    // What a command answered, or the runner's own word for one that printed nothing.
+    if (app.tune().lastOutput()) texts.allow(zelk::printedText(*app.tune().lastOutput()));
+    for (const zelk::Agent& agent : app.tune().agents()) {
+        texts.allow(zelk::displayText(agent.label));
+        texts.allow(zelk::displayText(agent.path));
+    }
 }
 
 }  // namespace
@@ -98,7 +106,8 @@ int main(int argc, char** argv) {
     zelk::tour::PretendingClock clock(real.clock, pretence);
     zelk::tour::PretendingTrash trash(real.trash, pretence);
     zelk::tour::PretendingFiles files(real.files);
-    zelk::tour::PretendingProcesses processes;
+    zelk::tour::PretendingProcesses processes(pretence);
+    zelk::tour::PretendingVitals vitals(real.vitals, pretence);
     zelk::tour::PretendingWorkspace workspace(real.workspace);
     // Each theme starts with the original history, so that its survey shows the same changes.
     zelk::tour::ScratchLocations forDark(real.locations, sample);
@@ -108,13 +117,14 @@ int main(int argc, char** argv) {
     zelk::tour::TextCheck texts;
     for (const bool dark : {true, false}) {
         if (pseudo && !dark) break;
-        const zelk::Platform platform{clock,      directories, files,    trash, real.vitals, dark ? forDark : forLight,
-                                      real.tasks, processes,   workspace};
+        const zelk::Platform platform{clock,      directories, files,     trash,      vitals, dark ? forDark : forLight,
+                                      real.tasks, processes,   workspace, real.system};
         zelk::AppModel app(platform);
         app.setScanRoots({QDir(root).absolutePath().toStdString()});
         const std::function<void(QQuickWindow&, const QString&)> inspect = [&](QQuickWindow& window,
                                                                                const QString& picture) {
             allowNames(app, texts);
+            texts.allow(zelk::printedText(pretence.output()));
             texts.look(window, picture, !picture.startsWith(QStringLiteral("large-text")));
         };
         const zelk::tour::TourPlan plan{folder, size, dark, sample,

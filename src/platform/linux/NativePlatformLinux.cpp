@@ -29,7 +29,8 @@ struct NativePlatform::Services {
     LinuxTrash trash;
     PosixChildProcess processes;
     LinuxWorkspace workspace;
-    Platform record{clock, directories, files, trash, vitals, locations, tasks, processes, workspace};
+    Platform record{clock,     directories, files,     trash,     vitals,
+                    locations, tasks,       processes, workspace, SystemKind::desktopLinux};
 };
 
 NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {

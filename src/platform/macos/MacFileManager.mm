@@ -50,11 +50,11 @@ bool MacFileManager::exists(const std::string& path) {
 std::optional<FileProperties> MacFileManager::properties(const std::string& path) {
     struct stat status;
     if (lstat(path.c_str(), &status) != 0) return std::nullopt;
-    if (S_ISDIR(status.st_mode)) return FileProperties{.isDirectory = true, .allocatedSize = 0};
+    if (S_ISDIR(status.st_mode)) return FileProperties{.isDirectory = true};
     @autoreleasepool {
         const std::uint64_t bytes = unlessThrown([&] { return allocatedSizeOf(fileURL(path, false)); },
                                                  [](NSException*) { return std::uint64_t{0}; });
-        return FileProperties{.isDirectory = false, .allocatedSize = bytes};
+        return FileProperties{.allocatedSize = bytes, .isLink = S_ISLNK(status.st_mode)};
     }
 }
 
@@ -72,6 +72,10 @@ std::uint64_t MacFileManager::allocatedSizeBelow(const std::string& path) {
 
 std::optional<std::string> MacFileManager::read(const std::string& path) {
     return readWholeFile(path);
+}
+
+std::optional<std::string> MacFileManager::readSmall(const std::string& path, std::size_t most) {
+    return readWholeFile(path, most);
 }
 
 bool MacFileManager::replaceDurably(const std::string& path, std::string_view content) {

@@ -14,6 +14,9 @@ public:
     std::optional<std::string> applicationSupport() override { return applicationSupport_; }
     std::optional<std::string> xdgDataHome() override { return std::nullopt; }
     TrashPlaces trashPlaces() override { return {}; }
+    std::vector<BackgroundItemFolder> backgroundItemFolders() override;
+    std::vector<std::string> programFolders() override { return {}; }
+    std::vector<std::string> entryLocales() override { return {}; }
 
 private:
     std::string home_;

@@ -22,4 +22,11 @@ MacLocations::MacLocations(const std::string& home) {
     }
 }
 
+std::vector<BackgroundItemFolder> MacLocations::backgroundItemFolders() {
+    constexpr BackgroundItemKind kind = BackgroundItemKind::launchdPropertyLists;
+    return {{pathIn(home_, "Library/LaunchAgents"), kind, true},
+            {"/Library/LaunchAgents", kind, false},
+            {"/Library/LaunchDaemons", kind, false}};
+}
+
 }  // namespace zelk

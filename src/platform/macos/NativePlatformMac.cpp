@@ -28,7 +28,8 @@ struct NativePlatform::Services {
     MacTrash trash;
     PosixChildProcess processes;
     MacWorkspace workspace;
-    Platform record{clock, directories, files, trash, vitals, locations, tasks, processes, workspace};
+    Platform record{clock,     directories, files,     trash,     vitals,
+                    locations, tasks,       processes, workspace, SystemKind::macOS};
 };
 
 NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {

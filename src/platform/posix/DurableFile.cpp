@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <random>
 #include <vector>
 
@@ -20,8 +21,7 @@ namespace {
 constexpr std::string_view temporaryPrefix = ".zelk-write-";
 constexpr std::string_view hexDigits = "0123456789abcdef";
 constexpr std::size_t randomDigits = 16;
-constexpr int maximumLinks = 40;  // the kernel's own limit
-constexpr off_t maximumRead = off_t{256} << 20;
+constexpr int maximumLinks = 40;                            // the kernel's own limit
 constexpr std::size_t maximumWrite = std::size_t{1} << 30;  // macOS refuses 2 GiB in one call
 
 struct ResolvedFile {
@@ -160,11 +160,12 @@ bool replaceFileDurably(const std::string& path, std::string_view content) {
     return true;
 }
 
-std::optional<std::string> readWholeFile(const std::string& path) {
+std::optional<std::string> readWholeFile(const std::string& path, std::size_t most) {
     const Descriptor file(
         uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY); }));
     struct stat status {};
-    if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > maximumRead) {
+    if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
+        static_cast<std::uintmax_t>(status.st_size) > most) {
         return std::nullopt;
     }
     std::string content;
@@ -177,7 +178,7 @@ std::optional<std::string> readWholeFile(const std::string& path) {
         if (got < 0) return std::nullopt;
         if (got == 0) break;
         length += static_cast<std::size_t>(got);
-        if (length > static_cast<std::size_t>(maximumRead)) return std::nullopt;  // the file is growing
+        if (length > most) return std::nullopt;  // the file is growing
     }
     content.resize(length);
     return content;

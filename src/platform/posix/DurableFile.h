@@ -3,6 +3,7 @@
 // Everything here blocks, and is safe from any thread and in several processes at once.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,9 +25,11 @@ namespace zelk {
 /// - With two concurrent writers the later rename wins; contents never mix.
 bool replaceFileDurably(const std::string& path, std::string_view content);
 
-/// Reads a regular file, following links; absent on any failure, and above 256 MiB: no file of Zelk is that large, and
-/// a damaged one must not exhaust memory. Never blocks on a pipe.
-std::optional<std::string> readWholeFile(const std::string& path);
+/// No file of Zelk is larger, and a damaged one must not exhaust memory.
+inline constexpr std::size_t largestWholeFile = std::size_t{256} << 20;
+
+/// Reads a regular file, following links; absent on any failure, and above `most` bytes. Never blocks on a pipe.
+std::optional<std::string> readWholeFile(const std::string& path, std::size_t most = largestWholeFile);
 
 /// Creates `path` and its missing parents for the user only (0700). True if `path` is a directory afterwards.
 bool createDirectoryTree(const std::string& path);

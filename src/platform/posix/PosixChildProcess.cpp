@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 
 #include <array>
+#include <csignal>
 #include <mutex>
 #include <system_error>
 
@@ -47,18 +48,27 @@ struct Pipe {
     Descriptor writing;
 };
 
-/// The open files of a child.
-class Outputs {
+/// How the standard streams of a child are made.
+class StreamActions {
 public:
-    explicit Outputs(int descriptor) {
+    /// `output` is where its standard output goes. Standard error comes after it: `output` may have that number, if
+    /// that stream was closed here.
+    StreamActions(const ChildStreams& streams, int output) {
         ::posix_spawn_file_actions_init(&actions_);
         ::posix_spawnattr_init(&attributes_);
 #ifdef __APPLE__
         ::posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_CLOEXEC_DEFAULT);
-        if (::fcntl(STDIN_FILENO, F_GETFD) != -1) ::posix_spawn_file_actions_addinherit_np(&actions_, STDIN_FILENO);
+        if (streams.inheritsInput && ::fcntl(STDIN_FILENO, F_GETFD) != -1)
+            ::posix_spawn_file_actions_addinherit_np(&actions_, STDIN_FILENO);
 #endif
-        ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDOUT_FILENO);
-        ::posix_spawn_file_actions_adddup2(&actions_, descriptor, STDERR_FILENO);
+        ::posix_spawn_file_actions_adddup2(&actions_, output, STDOUT_FILENO);
+        if (streams.errorsWithOutput) {
+            ::posix_spawn_file_actions_adddup2(&actions_, output, STDERR_FILENO);
+        } else {
+            ::posix_spawn_file_actions_addopen(&actions_, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+        }
+        if (!streams.inheritsInput)
+            ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
 #ifdef __GLIBC__
 #if __GLIBC_PREREQ(2, 34)
         // Ours are close-on-exec; this closes descriptors inherited from whoever started this process.
@@ -66,9 +76,9 @@ public:
 #endif
 #endif
     }
-    Outputs(const Outputs&) = delete;
-    Outputs& operator=(const Outputs&) = delete;
-    ~Outputs() {
+    StreamActions(const StreamActions&) = delete;
+    StreamActions& operator=(const StreamActions&) = delete;
+    ~StreamActions() {
         ::posix_spawnattr_destroy(&attributes_);
         ::posix_spawn_file_actions_destroy(&actions_);
     }
@@ -90,20 +100,21 @@ ChildOutcome notLaunched(int error) {
 }
 
 /// Returns 0 or the error.
-int spawn(const std::string& executable, const std::vector<std::string>& arguments, const Pipe& pipe, pid_t& child) {
+int spawn(const std::string& executable, const std::vector<std::string>& arguments, const ChildStreams& streams,
+          const Pipe& pipe, pid_t& child) {
     std::vector<char*> words{const_cast<char*>(executable.c_str())};
     for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
     words.push_back(nullptr);
-    const Outputs outputs(pipe.writing.get());
+    const StreamActions made(streams, pipe.writing.get());
 #ifdef __APPLE__
     const std::lock_guard lock(startingChildren());
 #endif
-    return ::posix_spawn(&child, executable.c_str(), outputs.actions(), outputs.attributes(), words.data(), environ);
+    return ::posix_spawn(&child, executable.c_str(), made.actions(), made.attributes(), words.data(), environ);
 }
 
 int waitForExit(pid_t child) {
     int status = 0;
-    // The parent of this process may have set SIGCHLD to ignored: then the status is unknown.
+    // Unknown where SIGCHLD is ignored, against which there is stopIgnoringChildren().
     if (uninterrupted([&] { return ::waitpid(child, &status, 0); }) < 0) return -1;
     return WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status);
 }
@@ -120,14 +131,22 @@ std::string readToEnd(const Descriptor& file) {
 
 }  // namespace
 
-ChildOutcome PosixChildProcess::run(const std::string& executable, const std::vector<std::string>& arguments) {
+ChildOutcome PosixChildProcess::run(const std::string& executable, const std::vector<std::string>& arguments,
+                                    const ChildStreams& streams) {
     Pipe pipe;
     if (pipe.error != 0) return notLaunched(pipe.error);
     pid_t child = 0;
-    if (const int error = spawn(executable, arguments, pipe, child)) return notLaunched(error);
+    if (const int error = spawn(executable, arguments, streams, pipe, child)) return notLaunched(error);
     pipe.writing.close();
-    const int status = waitForExit(child);
-    return {std::nullopt, status, readToEnd(pipe.reading)};
+    ChildOutcome outcome;
+    if (streams.readsWhileRunning) outcome.output = readToEnd(pipe.reading);
+    outcome.exitStatus = waitForExit(child);
+    if (!streams.readsWhileRunning) outcome.output = readToEnd(pipe.reading);
+    return outcome;
+}
+
+void stopIgnoringChildren() {
+    std::signal(SIGCHLD, SIG_DFL);
 }
 
 }  // namespace zelk

@@ -5,11 +5,17 @@
 
 namespace zelk {
 
-/// Starts children with posix_spawn(). They inherit the environment, working directory, standard input and signal mask,
-/// but no other descriptor: a child that kept another's pipe open would keep that one's reader waiting.
+/// Starts children with posix_spawn(). They inherit the environment, working directory and signal mask, and of the
+/// descriptors at most standard input: a child that kept another's pipe open would keep that one's reader waiting.
 class PosixChildProcess : public ChildProcess {
 public:
-    ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments) override;
+    using ChildProcess::run;
+    ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments,
+                     const ChildStreams& streams) override;
 };
+
+/// Has this process told how its children end, even if whoever started it ignores that: it inherits to ignore SIGCHLD,
+/// and then the exit status of no child is known. For the beginning of main(), before there are threads.
+void stopIgnoringChildren();
 
 }  // namespace zelk

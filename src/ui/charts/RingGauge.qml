@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A ring gauge with a number and a caption inside and a detail line below.
+// A ring gauge with a number and a caption inside and a detail line below. For screen readers it is one thing whose name
+// stays the same while its number changes, so that they tell the number only to those who ask.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -19,6 +20,10 @@ Column {
     required property string detail
 
     spacing: 8
+
+    Accessible.role: Accessible.Graphic
+    Accessible.name: gauge.caption
+    Accessible.description: AccessibleText.joined([figure.text, gauge.detail])
 
     RingPicture {
         anchors.horizontalCenter: parent.horizontalCenter
@@ -45,6 +50,9 @@ Column {
                 value: gauge.center
                 format: NumberItem.Percent
                 pixelSize: 22
+                interval: Motion.readable
+                mute: true
+                Accessible.name: ""
             }
 
             Label {
@@ -54,6 +62,8 @@ Column {
                 text: gauge.caption
                 size: 10
                 soft: true
+                mute: true
+                Accessible.name: ""
             }
         }
     }
@@ -64,6 +74,8 @@ Column {
         text: gauge.detail
         size: 10
         soft: true
+        mute: true
+        Accessible.name: ""
         visible: gauge.detail !== ""
     }
 }

@@ -15,11 +15,18 @@ double ringFraction(double value) {
     return std::isnan(value) ? dot : std::max(std::min(value, 1.0), dot);
 }
 
+namespace {
+
+constexpr double leastStep = 0.0016;  // half a point along the ring of a gauge
+
+}  // namespace
+
 RingPicture::RingPicture(QQuickItem* parent) : Drawn(parent) {
     constexpr double response = 0.5;
     spring_.setEasingCurve(springEasing());
     spring_.setDuration(static_cast<int>(1000 * springRest(response)));
-    connect(&spring_, &QVariantAnimation::valueChanged, this, [this](const QVariant& now) { show(now.toDouble()); });
+    connect(&spring_, &QVariantAnimation::valueChanged, this, [this](const QVariant& now) { move(now.toDouble()); });
+    connect(&spring_, &QVariantAnimation::finished, this, [this] { show(shown_); });
 }
 
 void RingPicture::setValue(double value) {
@@ -48,7 +55,14 @@ void RingPicture::setStill(bool still) {
 
 void RingPicture::show(double fraction) {
     shown_ = fraction;
+    painted_ = fraction;
     update();
+}
+
+/// Repaints only what can be seen: gauges move all the time, and a spring ends with many steps that are too small.
+void RingPicture::move(double fraction) {
+    shown_ = fraction;
+    if (std::abs(fraction - painted_) >= leastStep) show(fraction);
 }
 
 void RingPicture::draw(QPainter& painter) {

@@ -43,9 +43,11 @@ protected:
 
 private:
     void show(double fraction);
+    void move(double fraction);
 
     double value_ = 0;
     double shown_ = ringFraction(0);
+    double painted_ = shown_;
     QColor track_;
     QColor color_;
     bool still_ = false;

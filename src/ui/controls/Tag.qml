@@ -11,6 +11,9 @@ Rectangle {
     required property string text
     required property color ink
     property real tint: 0.2
+    property real size: 11
+    // Hides the text from screen readers, where the row around it has it in its name.
+    property bool mute: false
 
     implicitWidth: word.implicitWidth + 2 * 8
     implicitHeight: word.implicitHeight + 2 * 3
@@ -22,7 +25,8 @@ Rectangle {
 
         anchors.centerIn: parent
         text: tag.text
-        size: 11
+        size: tag.size
+        mute: tag.mute
         color: Theme.textOn(tag.ink, Qt.tint(Theme.textGround, tag.color))
     }
 }

@@ -21,6 +21,12 @@ UndoBarModel::UndoBarModel(AppModel& app, RemovalUndo::Source source)
     connect(&removal_, &RemovalUndo::offered, this, &UndoBarModel::showOffer);
     connect(&removal_, &RemovalUndo::changed, this, &UndoBarModel::changed);
     connect(&removal_, &RemovalUndo::ended, this, &UndoBarModel::showOutcome);
+    if (!RemovalUndo::isOfSurvey(source_)) {
+        connect(&app, &AppModel::trashChanged, this, [this] {
+            if (app_.emptyingTrash()) hideUnlessRestoring();
+        });
+        return;
+    }
     connect(&app.removals(), &RemovalsModel::underWayChanged, this, [this] {
         if (app_.removals().underWay()) hideUnlessRestoring();
     });

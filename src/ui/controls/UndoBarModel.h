@@ -12,7 +12,8 @@ namespace zelk {
 class AppModel;
 
 /// Tells the undo bar of a screen about its last removal: that items went to the Trash, or what an undo restored, what
-/// it did not, and why. Shown until the next removal, a survey or dismiss(). Main thread.
+/// it did not, and why. Shown until dismiss(), the next removal that can be undone or an emptying of the Trash; what a
+/// survey has found, until a survey or any other removal too. Main thread.
 class UndoBarModel : public QObject {
     Q_OBJECT
     QML_ELEMENT

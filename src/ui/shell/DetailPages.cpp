@@ -7,12 +7,15 @@
 
 #include "state/AppModel.h"
 #include "ui/screens/clutter/ClutterScreenModel.h"
+#include "ui/screens/health/HealthScreenModel.h"
 #include "ui/screens/lens/LensScreenModel.h"
 #include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/screens/settings/SettingsScreenModel.h"
+#include "ui/screens/system/SystemScreenModel.h"
 #include "ui/screens/tools/ToolsScreenModel.h"
+#include "ui/screens/tune/TuneScreenModel.h"
 #include "ui/shell/WindowServices.h"
 
 namespace zelk {
@@ -37,9 +40,14 @@ std::unique_ptr<QObject> make<SettingsScreenModel>(const ScreenContext& context)
     return std::make_unique<SettingsScreenModel>(context.app, context.services.pickFolder);
 }
 
+template <>
+std::unique_ptr<QObject> make<HealthScreenModel>(const ScreenContext& context) {
+    return std::make_unique<HealthScreenModel>(context.app, context.openHelp);
+}
+
 template <Screen screen>
-std::unique_ptr<QObject> introduce(const ScreenContext& context) {
-    return makeUnbuiltModule(context.app, screen);
+std::unique_ptr<QObject> introduce(const ScreenContext&) {
+    return makeUnbuiltModule(screen);
 }
 
 /// The table of screens.
@@ -47,13 +55,13 @@ constexpr ScreenPlace places[] = {
     {Screen::survey, "SurveyView", "survey", make<SurveyScreenModel>},
     {Screen::reclaim, "DevCleanupView", "reclaim", make<ReclaimScreenModel>},
     {Screen::privacy, "ModuleScaffold", "module", introduce<Screen::privacy>},
-    {Screen::tune, "ModuleScaffold", "module", introduce<Screen::tune>},
+    {Screen::tune, "TuneView", "tune", make<TuneScreenModel>},
     {Screen::apps, "ModuleScaffold", "module", introduce<Screen::apps>},
     {Screen::clutter, "ClutterView", "clutter", make<ClutterScreenModel>},
     {Screen::duplicates, "ModuleScaffold", "module", introduce<Screen::duplicates>},
     {Screen::lens, "MapView", "lens", make<LensScreenModel>},
-    {Screen::health, "ModuleScaffold", "module", introduce<Screen::health>},
-    {Screen::system, "ModuleScaffold", "module", introduce<Screen::system>},
+    {Screen::health, "HealthView", "health", make<HealthScreenModel>},
+    {Screen::system, "SystemView", "system", make<SystemScreenModel>},
     {Screen::tools, "ToolsView", "tools", make<ToolsScreenModel>},
     {Screen::settings, "SettingsView", "settings", make<SettingsScreenModel>},
 };

@@ -4,6 +4,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QVariantMap>
 #include <array>
+#include <functional>
 #include <memory>
 
 #include "state/Screen.h"
@@ -18,6 +19,7 @@ struct WindowServices;
 struct ScreenContext {
     AppModel& app;
     const WindowServices& services;
+    std::function<void()> openHelp = [] {};  ///< shows the manual
 };
 
 /// List model of the screens beside the sidebar, a row each in the order of Screen, with their models. A view is

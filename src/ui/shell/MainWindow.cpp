@@ -92,7 +92,7 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
     commands_ = std::make_unique<AppCommands>(
         app, [this](WindowId id) { openWindow(id); }, [this] { quitQuestion_->quit(); },
         [this] { return window_ && isCovered(*window_); });
-    pages_ = std::make_unique<DetailPages>(ScreenContext{app, services_});
+    pages_ = std::make_unique<DetailPages>(ScreenContext{app, services_, [this] { openWindow(WindowId::help); }});
     if (services_.preferences != nullptr && services_.workspace != nullptr)
         firstRun_ =
             std::make_unique<FirstRunModel>(*services_.preferences, services_.accessGranted, *services_.workspace);

@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QTextBoundaryFinder>
+#include <algorithm>
 #include <string>
 
 #include "platform/ByteFormat.h"
@@ -15,6 +16,7 @@ constexpr char16_t controlPictures = 0x2400;  // U+2400 + n is the picture of th
 constexpr char16_t deletePicture = 0x2421;
 constexpr qsizetype wholePathLimit = 57;
 constexpr qsizetype keptOfLongPath = 55;
+constexpr std::size_t mostPrinted = 20'000;
 
 bool turnsDirection(char16_t unit) {
     return unit == 0x061C || unit == 0x200E || unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
@@ -36,6 +38,26 @@ QChar visible(QChar character) {
 QString displayText(std::string_view bytes) {
     QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
     for (QChar& character : text) character = visible(character);
+    return text;
+}
+
+QString printedText(std::string_view output) {
+    std::size_t shown = std::min(output.size(), mostPrinted);
+    const bool cut = shown < output.size();
+    // Not within a character.
+    while (cut && shown > 0 && (static_cast<unsigned char>(output[shown]) & 0xC0) == 0x80) --shown;
+    output = output.substr(0, shown);
+    QString text;
+    while (!output.empty()) {
+        const std::size_t end = std::min(output.find_first_of("\r\n"), output.size());
+        std::string line(output.substr(0, end));
+        std::replace(line.begin(), line.end(), '\t', ' ');
+        text += displayText(line);
+        if (end == output.size()) break;
+        text += u'\n';
+        output.remove_prefix(end + (output.substr(end, 2) == "\r\n" ? 2 : 1));
+    }
+    if (cut) text += QStringLiteral("\n…");
     return text;
 }
 

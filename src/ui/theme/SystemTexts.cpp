@@ -36,6 +36,24 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
                        "ask first.")},
     // HealthTitle
     {QT_TRANSLATE_NOOP("SystemTexts", "Mac health"), QT_TRANSLATE_NOOP("SystemTexts", "Computer health")},
+    // HealthCaption
+    {QT_TRANSLATE_NOOP("SystemTexts", "Mac Health"), QT_TRANSLATE_NOOP("SystemTexts", "Computer Health")},
+    // HealthScoreTitle
+    {QT_TRANSLATE_NOOP("SystemTexts", "Mac Health Score"), QT_TRANSLATE_NOOP("SystemTexts", "Computer Health Score")},
+    // HealthScoreMeaning
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Zelk estimates your Mac's health from free disk space, memory pressure, CPU load, and battery "
+                       "— and watches how it trends over time."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Zelk estimates your computer's health from free disk space, memory pressure, CPU load, and "
+                       "battery — and watches how it trends over time.")},
+    // HealthGood
+    {QT_TRANSLATE_NOOP("SystemTexts", "Your Mac is in good shape."),
+     QT_TRANSLATE_NOOP("SystemTexts", "Your computer is in good shape.")},
+    // ThisComputer
+    {QT_TRANSLATE_NOOP("SystemTexts", "This Mac"), QT_TRANSLATE_NOOP("SystemTexts", "This computer")},
+    // SystemName
+    {QT_TRANSLATE_NOOP("SystemTexts", "macOS"), QT_TRANSLATE_NOOP("SystemTexts", "System")},
     // RevealFile
     {QT_TRANSLATE_NOOP("SystemTexts", "Reveal in Finder"), QT_TRANSLATE_NOOP("SystemTexts", "Reveal in Files")},
     // TrashLocked
@@ -54,6 +72,12 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
      QT_TRANSLATE_NOOP("SystemTexts", "Ask their owner to share them, or go on without them.")},
     // AccessSettings
     {QT_TRANSLATE_NOOP("SystemTexts", "Open Settings"), ""},
+    // CheckComputer
+    {QT_TRANSLATE_NOOP("SystemTexts", "Check this Mac"), QT_TRANSLATE_NOOP("SystemTexts", "Check this computer")},
+    // FreeMemoryNote
+    {"", QT_TRANSLATE_NOOP("SystemTexts",
+                           "Drops the caches of files. They count as free already, so the figure “used” will hardly "
+                           "move, and files are read from the disk again for a while.")},
     // SimulatorNote
     {QT_TRANSLATE_NOOP("SystemTexts", "Removes simulator runtimes macOS no longer lists."),
      QT_TRANSLATE_NOOP("SystemTexts", "Removes simulator runtimes that nothing lists any more.")},
@@ -90,8 +114,8 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
                        "See memory pressure, free up RAM, flush the DNS cache, and remove startup launch agents. "
                        "Memory and DNS actions ask for administrator permission — Zelk never runs them silently."),
      QT_TRANSLATE_NOOP("SystemTexts",
-                       "See memory pressure, free up RAM, flush the DNS cache, and remove autostart entries. Memory "
-                       "and DNS actions ask for administrator permission — Zelk never runs them silently.")},
+                       "See memory pressure, free up RAM, flush the DNS cache, and remove autostart entries. Freeing "
+                       "memory asks for administrator permission — Zelk never runs it silently.")},
     // HelpHealth
     {QT_TRANSLATE_NOOP("SystemTexts", "Live vitals for your Mac."),
      QT_TRANSLATE_NOOP("SystemTexts", "Live vitals for your computer.")},
@@ -108,7 +132,7 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
                        "behind an administrator prompt."),
      QT_TRANSLATE_NOOP("SystemTexts",
                        "Thinning lets the system choose what to free; deletion is offered only for freeable snapshots, "
-                       "behind an administrator prompt.")},
+                       "and always asks first.")},
     // HelpPrivacy
     {QT_TRANSLATE_NOOP("SystemTexts", "Zelk works entirely on your Mac."),
      QT_TRANSLATE_NOOP("SystemTexts", "Zelk works entirely on your computer.")},
@@ -126,6 +150,56 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
      QT_TRANSLATE_NOOP("SystemTexts",
                        "Zelk is non-sandboxed so it can survey the whole drive; that's why it's distributed as a "
                        "package, not as a sandboxed bundle.")},
+    // ImageOfMachine
+    {QT_TRANSLATE_NOOP("SystemTexts", "VM disk. Shut the VM down and compact it from your VM tool (UTM/QEMU)."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "VM disk. Shut the VM down, then copy it without its empty space: qemu-img convert -O qcow2 "
+                       "<path> <copy>")},
+    // ImageThatGrows
+    {QT_TRANSLATE_NOOP("SystemTexts", "Sparse disk image. Compact with: hdiutil compact <path>"),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Sparse disk image of another system. Compact it there, or delete it if you no longer need its "
+                       "contents.")},
+    // SystemLead
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Reconcile the mystery gap — purgeable space, local snapshots, and SIP-protected areas."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Reconcile the mystery gap — purgeable space, local snapshots, and protected areas.")},
+    // PurgeableSpace
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "Purgeable space — including freeable snapshots — is reclaimed automatically by macOS under "
+                       "pressure. It's not junk."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Purgeable space is what the system would free by itself under pressure. It's not junk. "
+                       "Snapshots are no part of it here: each keeps its space until it is removed.")},
+    // SnapshotKind
+    {QT_TRANSLATE_NOOP("SystemTexts", "Time Machine"), QT_TRANSLATE_NOOP("SystemTexts", "Snapshot")},
+    // SnapshotSizes
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "macOS doesn't report a size per snapshot — only whether each can be freed. The purgeable total "
+                       "above is the number that matters."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "The size of a snapshot is seldom known — only whether each can be freed. What it alone still "
+                       "holds is part of the used space above.")},
+    // SnapshotsOfZfs
+    {"", QT_TRANSLATE_NOOP("SystemTexts",
+                           "These are snapshots of ZFS. Zelk only shows them: remove them with its own tools, which "
+                           "know what depends on them.")},
+    // SnapshotsRefused
+    {"",
+     QT_TRANSLATE_NOOP(
+         "SystemTexts",
+         "Snapper keeps snapshots here, but did not show them. It answers those users whom its configuration allows.")},
+    // PreferThinning
+    {QT_TRANSLATE_NOOP("SystemTexts", "Prefer thinning — let macOS choose what to free."),
+     QT_TRANSLATE_NOOP("SystemTexts", "Prefer thinning — let snapper choose what to free.")},
+    // ProtectedFolders
+    {QT_TRANSLATE_NOOP("SystemTexts",
+                       "SIP-protected system folders stay invisible to any userspace app — Zelk can't enumerate them, "
+                       "and never claims to. The gap between your survey and the volume total lives there."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Folders of the system and of other users stay invisible to your user — Zelk can't enumerate "
+                       "them, and never claims to. The gap between your survey and the volume total lives there.")},
 }};
 
 #ifdef Q_OS_MACOS

@@ -22,6 +22,12 @@ public:
         WelcomeLead,
         WelcomePrivacy,
         HealthTitle,
+        HealthCaption,
+        HealthScoreTitle,
+        HealthScoreMeaning,
+        HealthGood,
+        ThisComputer,
+        SystemName,
         RevealFile,
         TrashLocked,
         UnlockTrash,
@@ -29,6 +35,8 @@ public:
         AccessPurpose,
         AccessSteps,
         AccessSettings,  ///< empty where the system has no such settings
+        CheckComputer,
+        FreeMemoryNote,  ///< empty where it needs no explanation
         SimulatorNote,
         HelpMeasuring,
         HelpMenuKeys,
@@ -41,6 +49,16 @@ public:
         HelpPrivacy,
         HelpPrompts,
         HelpSandbox,
+        ImageOfMachine,
+        ImageThatGrows,
+        SystemLead,
+        PurgeableSpace,
+        SnapshotKind,
+        SnapshotSizes,
+        SnapshotsOfZfs,    ///< empty where the system has no such file system
+        SnapshotsRefused,  ///< empty where the system shows its snapshots to everybody
+        PreferThinning,
+        ProtectedFolders,
         keyCount
     };
     Q_ENUM(Key)

@@ -106,6 +106,17 @@ Section {
         }
     }
     StateRow {
+        name: "ActionRow"
+        filling: true
+        longText: buttons.longText
+
+        ActionRow {
+            text: "Flush DNS cache"
+            symbol: "network"
+            tint: "#ff6b5e"
+        }
+    }
+    StateRow {
         name: "MenuButton"
 
         MenuButton {

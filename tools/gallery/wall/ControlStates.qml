@@ -72,6 +72,21 @@ Section {
         }
     }
     StateRow {
+        name: "SearchField"
+
+        SearchField {
+            hint: "Search"
+        }
+    }
+    StateRow {
+        name: "SearchField, with a text"
+
+        SearchField {
+            hint: "Search"
+            text: "sync"
+        }
+    }
+    StateRow {
         name: "SliderField"
         filling: true
 

@@ -15,8 +15,9 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/DesktopEntry.h"
 #include "platform/Text.h"
-#include "platform/linux/apps/DesktopEntry.h"
+#include "platform/linux/EnvironmentFolders.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/OpenDirectory.h"
@@ -32,14 +33,6 @@ constexpr off_t largestEntry = 1 << 20;
 std::string environment(const char* variable, const char* otherwise) {
     const char* value = std::getenv(variable);
     return value == nullptr || *value == '\0' ? otherwise : value;
-}
-
-/// The absolute folders of a colon-separated environment variable.
-std::vector<std::string> foldersIn(std::string_view list) {
-    std::vector<std::string> folders;
-    while (!list.empty())
-        if (const std::string_view folder = takeUntil(list, ':'); folder.starts_with('/')) folders.emplace_back(folder);
-    return folders;
 }
 
 bool isProgram(const std::string& path) {
@@ -195,10 +188,10 @@ bool belongsTo(const RunningProcess& process, const InstalledApplication& applic
 
 ApplicationPlaces ApplicationPlaces::ofEnvironment(const std::string& dataHome) {
     ApplicationPlaces places;
-    std::vector<std::string> data = foldersIn(environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"));
+    std::vector<std::string> data = foldersFromEnvironment("XDG_DATA_DIRS", usualDataFolders);
     data.insert(data.begin(), dataHome);
     for (const std::string& folder : data) places.entries.push_back(folder + "/applications");
-    places.programs = foldersIn(environment("PATH", "/usr/local/bin:/usr/bin:/bin"));
+    places.programs = foldersFromEnvironment("PATH", "/usr/local/bin:/usr/bin:/bin");
     places.locales =
         localesOf(environment("LC_ALL", environment("LC_MESSAGES", environment("LANG", "C").c_str()).c_str()));
     return places;

@@ -82,8 +82,8 @@ bool LinuxFileManager::exists(const std::string& path) {
 std::optional<FileProperties> LinuxFileManager::properties(const std::string& path) {
     struct stat status {};
     if (!statusOf(path, AT_SYMLINK_NOFOLLOW, status)) return std::nullopt;
-    if (S_ISDIR(status.st_mode)) return FileProperties{true, 0};
-    return FileProperties{false, static_cast<std::uint64_t>(status.st_blocks) * blockBytes};
+    if (S_ISDIR(status.st_mode)) return FileProperties{true, 0, false};
+    return FileProperties{false, static_cast<std::uint64_t>(status.st_blocks) * blockBytes, S_ISLNK(status.st_mode)};
 }
 
 std::optional<std::vector<std::string>> LinuxFileManager::list(const std::string& path) {
@@ -114,6 +114,10 @@ std::uint64_t LinuxFileManager::allocatedSizeBelow(const std::string& path) {
 
 std::optional<std::string> LinuxFileManager::read(const std::string& path) {
     return readWholeFile(path);
+}
+
+std::optional<std::string> LinuxFileManager::readSmall(const std::string& path, std::size_t most) {
+    return readWholeFile(path, most);
 }
 
 bool LinuxFileManager::replaceDurably(const std::string& path, std::string_view content) {

@@ -4,18 +4,29 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
 #include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
 
 #include "platform/FolderPath.h"
+#include "platform/linux/EnvironmentFolders.h"
+#include "platform/linux/apps/LinuxApplications.h"
 
 namespace zelk {
 namespace {
+
+/// Units that the administrator gives every user.
+constexpr const char* systemUserUnits = "/etc/systemd/user";
+constexpr const char* systemConfig = "/etc/xdg";
+// Below folders of configuration and, the second one, of data.
+constexpr std::string_view autostartName = "autostart";
+constexpr std::string_view userUnitsName = "systemd/user";
 
 std::optional<std::string> absolutePathFromEnvironment(const char* variable) {
     const char* value = std::getenv(variable);
@@ -47,10 +58,77 @@ TrashPlaces trashPlacesOf(const std::string& dataHome) {
     return {std::move(folders), {"/.Trash/" + user + "/files", "/.Trash-" + user + "/files"}};
 }
 
+/// Where the folders of background items are looked for, and those that theirs hide.
+struct ItemPlaces {
+    std::string configHome;
+    std::vector<std::string> config{systemConfig};  ///< of the system
+    std::string dataHome;
+    std::vector<std::string> data = foldersIn(usualDataFolders);  ///< of the system
+    std::string runtime;                                          ///< of the user's session; empty if none is known
+};
+
+std::vector<std::string> eachBelow(const std::vector<std::string>& folders, std::string_view name) {
+    std::vector<std::string> paths;
+    paths.reserve(folders.size());
+    for (const std::string& folder : folders) paths.push_back(pathIn(folder, name));
+    return paths;
+}
+
+void appendTo(std::vector<std::string>& folders, std::vector<std::string> more) {
+    folders.insert(folders.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+}
+
+/// GNOME starts what lies in folders of its own too.
+std::vector<std::string> otherAutostartFolders(const ItemPlaces& places) {
+    std::vector<std::string> folders = eachBelow(places.config, autostartName);
+    appendTo(folders, eachBelow(places.data, "gnome/autostart"));
+    return folders;
+}
+
+/// The other folders in which systemd.unit(5) looks for a user's units, but for those of single settings. Some come
+/// before the user's own: an item whose name is there too is better left alone.
+std::vector<std::string> otherUnitFolders(const ItemPlaces& places) {
+    std::vector<std::string> folders = eachBelow(places.config, userUnitsName);
+    folders.emplace_back(systemUserUnits);
+    if (!places.runtime.empty())
+        for (const char* kind : {"user", "transient", "generator.early", "generator", "generator.late"})
+            folders.push_back(pathIn(places.runtime, std::string("systemd/") + kind));
+    folders.push_back(pathIn(places.dataHome, userUnitsName));
+    appendTo(folders, eachBelow(places.data, userUnitsName));
+    appendTo(folders, {"/run/systemd/user", "/usr/local/lib/systemd/user", "/usr/local/share/systemd/user",
+                       "/usr/lib/systemd/user", "/usr/share/systemd/user"});
+    return folders;
+}
+
+/// The user's own folder. It hides the `others`, each of which counts once, and never itself.
+BackgroundItemFolder ownFolder(std::string path, BackgroundItemKind kind, const std::vector<std::string>& others) {
+    BackgroundItemFolder own{std::move(path), kind, true};
+    for (const std::string& other : others)
+        if (other != own.path && std::find(own.hides.begin(), own.hides.end(), other) == own.hides.end())
+            own.hides.push_back(other);
+    return own;
+}
+
+/// Where the user's own folder is one of the system's too, its items are the user's.
+std::vector<BackgroundItemFolder> itemFoldersOf(ItemPlaces places) {
+    std::erase(places.config, places.configHome);
+    std::vector<BackgroundItemFolder> folders{
+        ownFolder(pathIn(places.configHome, autostartName), BackgroundItemKind::autostartEntries,
+                  otherAutostartFolders(places)),
+        ownFolder(pathIn(places.configHome, userUnitsName), BackgroundItemKind::userUnits, otherUnitFolders(places))};
+    for (const std::string& folder : eachBelow(places.config, autostartName))
+        folders.push_back({folder, BackgroundItemKind::autostartEntries, false});
+    folders.push_back({systemUserUnits, BackgroundItemKind::userUnits, false});
+    folders.push_back({"/etc/systemd/system", BackgroundItemKind::systemUnits, false});
+    return folders;
+}
+
 }  // namespace
 
 LinuxLocations::LinuxLocations(const std::string& home) {
     std::optional<std::string> dataHome;
+    std::optional<std::string> configHome;
+    ItemPlaces items;
     if (!home.empty()) {
         home_ = home;
     } else {
@@ -58,10 +136,22 @@ LinuxLocations::LinuxLocations(const std::string& home) {
         if (!own) own = homeFromUserDatabase();
         home_ = own.value_or("/");
         dataHome = absolutePathFromEnvironment("XDG_DATA_HOME");
+        configHome = absolutePathFromEnvironment("XDG_CONFIG_HOME");
+        items.config = foldersFromEnvironment("XDG_CONFIG_DIRS", systemConfig);
+        items.data = foldersFromEnvironment("XDG_DATA_DIRS", usualDataFolders);
+        // The user's manager has one, even if we were started without.
+        items.runtime = normalFolder(
+            absolutePathFromEnvironment("XDG_RUNTIME_DIR").value_or("/run/user/" + std::to_string(::getuid())));
     }
     home_ = normalFolder(home_);
     dataHome_ = dataHome ? normalFolder(*dataHome) : pathIn(home_, ".local/share");
     trashPlaces_ = trashPlacesOf(dataHome_);
+    items.configHome = configHome ? normalFolder(*configHome) : pathIn(home_, ".config");
+    items.dataHome = dataHome_;
+    backgroundItemFolders_ = itemFoldersOf(std::move(items));
+    ApplicationPlaces applications = ApplicationPlaces::ofEnvironment(dataHome_);
+    programFolders_ = std::move(applications.programs);
+    entryLocales_ = std::move(applications.locales);
 }
 
 }  // namespace zelk

@@ -6,10 +6,12 @@
 namespace zelk {
 
 /// The home is $HOME, else that of the user database; application support is the XDG data home ($XDG_DATA_HOME, else
-/// "~/.local/share"). Ignores relative paths. Reads the environment and resolves links once, when constructed.
+/// "~/.local/share"). What starts in the background is described in the XDG configuration folders and in those of
+/// systemd. Ignores relative paths. Reads the environment and resolves links once, when constructed.
 class LinuxLocations : public Locations {
 public:
-    /// With `home`, all folders lie below it and the environment is ignored; empty selects the user's own.
+    /// With `home`, all folders of the user lie below it, and the environment tells only the language and where
+    /// programs are; empty selects the user's own.
     explicit LinuxLocations(const std::string& home = {});
 
     std::string home() override { return home_; }
@@ -17,11 +19,17 @@ public:
     std::optional<std::string> xdgDataHome() override { return dataHome_; }
     /// The "files" of the home trash and of this user's trash on any volume.
     TrashPlaces trashPlaces() override { return trashPlaces_; }
+    std::vector<BackgroundItemFolder> backgroundItemFolders() override { return backgroundItemFolders_; }
+    std::vector<std::string> programFolders() override { return programFolders_; }
+    std::vector<std::string> entryLocales() override { return entryLocales_; }
 
 private:
     std::string home_;
     std::string dataHome_;
     TrashPlaces trashPlaces_;
+    std::vector<BackgroundItemFolder> backgroundItemFolders_;
+    std::vector<std::string> programFolders_;
+    std::vector<std::string> entryLocales_;
 };
 
 }  // namespace zelk

@@ -66,11 +66,9 @@ std::optional<VolumeInfo> LinuxVitals::volume(const std::string& path) {
 }
 
 double LinuxVitals::uptime() {
-    // Prefer the file: in a container it shows the container's time, like the other files.
-    if (const auto seconds = uptimeSeconds(readOrEmpty("/proc/uptime"))) return *seconds;
-    timespec now{};
-    if (::clock_gettime(CLOCK_BOOTTIME, &now) != 0) return 0;
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+    timespec awake{};  // /proc/uptime and CLOCK_BOOTTIME go on while the machine sleeps
+    if (::clock_gettime(CLOCK_MONOTONIC, &awake) != 0) return 0;
+    return static_cast<double>(awake.tv_sec) + static_cast<double>(awake.tv_nsec) / 1e9;
 }
 
 std::optional<std::string> LinuxVitals::read(const std::string& path) const {

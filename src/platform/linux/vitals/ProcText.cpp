@@ -167,21 +167,6 @@ std::optional<CPUTicks> processorTicks(std::string_view stat) {
     return std::nullopt;
 }
 
-std::optional<double> uptimeSeconds(std::string_view uptime) {
-    const std::string_view word = takeWord(uptime);
-    const std::size_t point = std::min(word.find('.'), word.size());
-    const auto whole = parseNumber<std::uint32_t>(word.substr(0, point));
-    if (!whole) return std::nullopt;
-    double seconds = *whole;
-    double place = 0.1;
-    for (const char digit : word.substr(std::min(point + 1, word.size()))) {
-        if (digit < '0' || digit > '9') return std::nullopt;
-        seconds += (digit - '0') * place;
-        place /= 10;
-    }
-    return seconds;
-}
-
 VolumeInfo volumeOfBlocks(std::uint64_t blockSize, std::uint64_t blocks, std::uint64_t available) {
     VolumeInfo volume;
     volume.total = productOrLargest(blockSize, blocks);

@@ -61,9 +61,6 @@ std::uint64_t zramMemory(std::string_view mmStat);
 /// time is already part of user. Absent unless the first four columns exist.
 std::optional<CPUTicks> processorTicks(std::string_view stat);
 
-/// The seconds in /proc/uptime.
-std::optional<double> uptimeSeconds(std::string_view uptime);
-
 /// Converts block counts to bytes, saturating at the largest signed number. `available` is what an ordinary user may
 /// use; nothing on Linux frees more for important data.
 VolumeInfo volumeOfBlocks(std::uint64_t blockSize, std::uint64_t blocks, std::uint64_t available);

@@ -40,7 +40,7 @@ LensScreenModel::LensScreenModel(AppModel& app)
                       .scanningLabel = tr("Surveying your drive…"),
                       .note = {}}),
       app_(app),
-      icons_(app.workspace()),
+      icons_(app.workspace(), DesktopIcons::Of::folders),
       rows_(walk_, [this](const std::string& path) { return icons_.image(path, rowIconSide); }),
       bubbles_({[this](const BubbleSlice& slice) {
                     const NodeRef node = bubbled(slice.id);

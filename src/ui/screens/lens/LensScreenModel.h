@@ -11,10 +11,10 @@
 #include "ui/charts/BubbleModel.h"
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/explanation/ExplanationModel.h"
-#include "ui/screens/lens/FolderIcons.h"
 #include "ui/screens/lens/LensRows.h"
 #include "ui/screens/lens/LensWalk.h"
 #include "ui/screens/module/ModuleScreenModel.h"
+#include "ui/theme/DesktopIcons.h"
 
 namespace zelk {
 
@@ -117,7 +117,7 @@ private:
     void leaveTrees();
 
     AppModel& app_;
-    mutable FolderIcons icons_;
+    mutable DesktopIcons icons_;
     LensWalk walk_;
     LensRows rows_;
     BubbleModel bubbles_;

@@ -14,6 +14,9 @@ FocusScope {
     required property ModuleScreenModel module
     property Component content: null
     property Component trailing: null
+    // The header of the results.
+    property string resultsTitle: scaffold.module.title
+    property string resultsSubtitle: scaffold.module.subtitle
 
     Rectangle {
         anchors.fill: parent
@@ -96,8 +99,8 @@ FocusScope {
             anchors.right: parent.right
             symbol: scaffold.module.symbol
             tint: scaffold.module.tint
-            title: scaffold.module.title
-            subtitle: scaffold.module.subtitle
+            title: scaffold.resultsTitle
+            subtitle: scaffold.resultsSubtitle
             trailing: scaffold.trailing
         }
 

@@ -6,7 +6,6 @@
 #include "state/AppModel.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/ScreenLook.h"
-#include "ui/theme/SystemTexts.h"
 
 namespace zelk {
 
@@ -83,7 +82,7 @@ void SurveyedModule::followProgress() {
     if (!timer_.isActive()) timer_.start();
 }
 
-std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen) {
+std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(Screen screen) {
     const ScreenLook& look = lookOf(screen);
     // No scan label and therefore no button, since there is nothing to start.
     ModuleTexts texts;
@@ -103,14 +102,6 @@ std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen
         case Screen::duplicates:
             texts.subtitle = ModuleScreenModel::tr(
                 "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.");
-            break;
-        case Screen::health:
-            texts.title = SystemTexts::of(SystemTexts::HealthTitle);
-            texts.subtitle = displayText(app.device().osVersion);
-            break;
-        case Screen::system:
-            texts.title = ModuleScreenModel::tr("System & snapshots");
-            texts.subtitle = ModuleScreenModel::tr("what the treemap can't show");
             break;
         default:
             break;

@@ -111,6 +111,6 @@ private:
 
 /// Creates the model for a module without a view in this version, which introduces the module and says so. `screen`
 /// must be such a module.
-std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(const AppModel& app, Screen screen);
+std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(Screen screen);
 
 }  // namespace zelk

@@ -245,6 +245,7 @@ FocusScope {
             Tag {
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.grade
+                mute: true
                 ink: row.tint
                 tint: 0.22
                 visible: row.group

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+// A field for the text that a list is searched for. Escape and its button clear it; the screen may give it the focus
+// with `find`.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Zelk.Controls
+
+T.TextField {
+    id: field
+
+    // The hint while it is empty, and the accessible name.
+    required property string hint
+    property real points: 13
+
+    readonly property real corner: 8
+    readonly property real symbolSide: Math.round(field.points * TextScale.factor)
+
+    // The user changed the text.
+    signal searched(string words)
+
+    function find() {
+        field.forceActiveFocus(Qt.ShortcutFocusReason);
+        field.selectAll();
+    }
+
+    function clean() {
+        field.clear();
+        field.searched("");
+    }
+
+    implicitWidth: Math.round(220 * TextScale.factor)
+    implicitHeight: Math.ceil(contentHeight) + topPadding + bottomPadding
+    leftPadding: 10 + field.symbolSide + 6
+    rightPadding: 10 + cleaner.width
+    topPadding: 8
+    bottomPadding: 8
+    verticalAlignment: TextInput.AlignVCenter
+    hoverEnabled: true
+    selectByMouse: true
+    // A name is typed, not a sentence.
+    inputMethodHints: Qt.ImhNoPredictiveText
+    color: Theme.ink
+    selectionColor: Theme.accent
+    selectedTextColor: Theme.accentInk
+    font.pixelSize: Math.round(field.points * TextScale.factor)
+    opacity: field.enabled ? 1 : 0.45
+
+    Accessible.name: field.hint
+    Accessible.searchEdit: true
+
+    onTextEdited: field.searched(field.text)
+
+    Keys.onEscapePressed: event => {
+        event.accepted = field.text !== "";
+        if (event.accepted)
+            field.clean();
+    }
+
+    background: Rectangle {
+        radius: field.corner
+        color: Theme.surfaceHi
+        border.width: 1
+        border.color: field.hovered ? Qt.alpha(Theme.inkSoft, 0.6) : Theme.hairline
+
+        FocusRing {
+            shown: field.activeFocus
+            corner: field.corner
+        }
+
+        SymbolItem {
+            x: 10
+            anchors.verticalCenter: parent.verticalCenter
+            name: "magnifyingglass"
+            color: Theme.inkSoft
+            size: field.symbolSide
+        }
+
+        Label {
+            x: field.leftPadding
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.max(0, field.width - field.leftPadding - field.rightPadding)
+            visible: field.text === "" && field.preeditText === ""
+            text: field.hint
+            size: field.points
+            soft: true
+            mute: true
+        }
+    }
+
+    IconButton {
+        id: cleaner
+
+        objectName: "clearSearch"
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        visible: field.text !== ""
+        // Escape does the same.
+        focusPolicy: Qt.NoFocus
+        symbol: "xmark.circle.fill"
+        size: 13
+        side: 24
+        text: qsTr("Clear")
+        onClicked: {
+            field.clean();
+            field.forceActiveFocus(Qt.MouseFocusReason);
+        }
+    }
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "ui/theme/DesktopIcons.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "ui/theme/SymbolItem.h"
+
+namespace zelk {
+
+namespace {
+
+constexpr qsizetype keptBytes = 8 * 1024 * 1024;
+
+// Visible on the ground of both themes, and on a bubble. That of folders is usual on desktops.
+const QColor folderColor(90, 172, 245);
+const QColor programColor(139, 134, 152);
+
+QImage imageOf(const IconPixels& pixels) {
+    return QImage(reinterpret_cast<const uchar*>(pixels.argb.data()), pixels.side, pixels.side,
+                  QImage::Format_ARGB32_Premultiplied)
+        .copy();
+}
+
+}  // namespace
+
+DesktopIcons::DesktopIcons(Workspace& workspace, Of kind) : workspace_(workspace), kind_(kind), images_(keptBytes) {}
+
+QImage DesktopIcons::image(const std::string& path, int side) {
+    const QImage desktops = desktopImage(path, side);
+    if (!desktops.isNull()) return desktops;
+    return kind_ == Of::folders ? tintedSymbol(QStringLiteral("folder.fill"), folderColor, side)
+                                : tintedSymbol(QStringLiteral("gearshape"), programColor, side);
+}
+
+QImage DesktopIcons::desktopImage(const std::string& path, int side) {
+    QByteArray key = QByteArray::number(side) + '/' + QByteArray::fromStdString(path);
+    if (const QImage* known = images_.object(key)) return *known;
+    const std::optional<IconPixels> pixels = workspace_.icon(path, kind_ == Of::folders, side);
+    const QImage image = pixels ? imageOf(*pixels) : QImage();
+    images_.insert(key, new QImage(image), std::max<qsizetype>(image.sizeInBytes(), key.size()));
+    return image;
+}
+
+}  // namespace zelk
