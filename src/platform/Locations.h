@@ -10,6 +10,17 @@
 
 namespace zelk {
 
+/// The four folders in which programs keep what is the user's, by the XDG Base Directory Specification. Normalized;
+/// they need not exist.
+struct XdgHomes {
+    std::string data;
+    std::string config;
+    std::string cache;
+    std::string state;
+
+    bool operator==(const XdgHomes&) const = default;
+};
+
 /// The folders of the user who runs Zelk. Constant while it runs; safe from any thread.
 class Locations {
 public:
@@ -19,9 +30,8 @@ public:
     /// The user's application support folder ("~/Library/Application Support"; on Linux the XDG data home), which may
     /// not exist yet. Absent if the system defines none.
     virtual std::optional<std::string> applicationSupport() = 0;
-    /// The XDG data home on systems that follow the freedesktop.org layout, as Linux does, with its own places for
-    /// caches; absent on macOS.
-    virtual std::optional<std::string> xdgDataHome() = 0;
+    /// The user's folders on systems that follow the freedesktop.org layout, as Linux does; absent on macOS.
+    virtual std::optional<XdgHomes> xdgHomes() = 0;
     /// The Trash folders whose content is not offered for removal again. Empty on macOS, where the Trash is surveyed
     /// like any folder.
     virtual TrashPlaces trashPlaces() = 0;

@@ -167,7 +167,8 @@ std::optional<ReclaimClassifier::Match> classifyAt(const FSNode& node, WalkedPat
 }  // namespace
 
 ReclaimPlaces ReclaimPlaces::of(Locations& locations) {
-    return {locations.xdgDataHome(), locations.trashPlaces()};
+    const std::optional<XdgHomes> homes = locations.xdgHomes();
+    return {homes ? std::optional(homes->data) : std::nullopt, locations.trashPlaces()};
 }
 
 std::optional<ReclaimClassifier::Match> ReclaimClassifier::classify(const FSNode& node, const std::string& home) const {

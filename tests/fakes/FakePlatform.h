@@ -155,7 +155,7 @@ class FakeLocations : public Locations {
 public:
     std::string homePath = "/home/me";
     std::optional<std::string> applicationSupportPath = "/home/me/support";
-    std::optional<std::string> xdgDataHomePath;
+    std::optional<XdgHomes> xdg;
     TrashPlaces thrownAway;
     std::vector<BackgroundItemFolder> itemFolders;
     std::vector<std::string> programs;
@@ -163,7 +163,7 @@ public:
 
     std::string home() override { return homePath; }
     std::optional<std::string> applicationSupport() override { return applicationSupportPath; }
-    std::optional<std::string> xdgDataHome() override { return xdgDataHomePath; }
+    std::optional<XdgHomes> xdgHomes() override { return xdg; }
     TrashPlaces trashPlaces() override { return thrownAway; }
     std::vector<BackgroundItemFolder> backgroundItemFolders() override { return itemFolders; }
     std::vector<std::string> programFolders() override { return programs; }

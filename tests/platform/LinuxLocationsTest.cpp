@@ -82,11 +82,25 @@ TEST(LinuxLocations, givenHomeOverridesTheEnvironment) {
     EXPECT_EQ(locations.applicationSupport(), "/given/.local/share");
 }
 
-TEST(LinuxLocations, namesTheXdgDataHome) {
+TEST(LinuxLocations, xdgHomesLieBelowTheHomeWhereNoVariableNamesThem) {
     const EnvironmentVariable home("HOME", "/home/me");
-    const EnvironmentVariable data("XDG_DATA_HOME", "/else/where/");
-    EXPECT_EQ(LinuxLocations().xdgDataHome(), "/else/where");
-    EXPECT_EQ(LinuxLocations("/given").xdgDataHome(), "/given/.local/share");
+    const EnvironmentVariable data("XDG_DATA_HOME", "relative");
+    const EnvironmentVariable config("XDG_CONFIG_HOME", std::nullopt);
+    const EnvironmentVariable cache("XDG_CACHE_HOME", "");
+    const EnvironmentVariable state("XDG_STATE_HOME", std::nullopt);
+    EXPECT_EQ(LinuxLocations().xdgHomes(),
+              (XdgHomes{"/home/me/.local/share", "/home/me/.config", "/home/me/.cache", "/home/me/.local/state"}));
+}
+
+TEST(LinuxLocations, xdgHomesAreThoseOfTheirVariables) {
+    const EnvironmentVariable home("HOME", "/home/me");
+    const EnvironmentVariable data("XDG_DATA_HOME", "/else/data/");
+    const EnvironmentVariable config("XDG_CONFIG_HOME", "/else/./config");
+    const EnvironmentVariable cache("XDG_CACHE_HOME", "/else/cache");
+    const EnvironmentVariable state("XDG_STATE_HOME", "/else/state");
+    EXPECT_EQ(LinuxLocations().xdgHomes(), (XdgHomes{"/else/data", "/else/config", "/else/cache", "/else/state"}));
+    EXPECT_EQ(LinuxLocations("/given").xdgHomes(),
+              (XdgHomes{"/given/.local/share", "/given/.config", "/given/.cache", "/given/.local/state"}));
 }
 
 TEST(LinuxLocations, trashPlacesIncludeTheHomeTrash) {

@@ -195,7 +195,7 @@ TEST(ReclaimPlaces, comeFromPlatformLocations) {
     fakes::FakeLocations locations;
     EXPECT_EQ(ReclaimPlaces::of(locations).xdgDataHome, std::nullopt);
     EXPECT_FALSE(ReclaimPlaces::of(locations).trash.hold("/data/Trash/files"));
-    locations.xdgDataHomePath = "/data";
+    locations.xdg = XdgHomes{"/data", {}, {}, {}};
     locations.thrownAway = TrashPlaces({"/data/Trash/files"}, {});
     EXPECT_EQ(ReclaimPlaces::of(locations).xdgDataHome, "/data");
     EXPECT_TRUE(ReclaimPlaces::of(locations).trash.hold("/data/Trash/files"));

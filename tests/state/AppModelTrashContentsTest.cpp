@@ -53,7 +53,7 @@ TEST_F(AppModelTrashContentsTest, dataHomeAddsLinuxPlaces) {
     machine.directories.file(home + "/data/pnpm/store/v3", 1'000, 1'000);
     survey();
     EXPECT_EQ(offered().size(), 3U);
-    machine.locations.xdgDataHomePath = home + "/data";
+    machine.locations.xdg = XdgHomes{home + "/data", {}, {}, {}};
     survey();
     EXPECT_EQ(offered().size(), 5U);
 }

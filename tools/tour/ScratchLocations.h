@@ -24,7 +24,7 @@ public:
 
     std::string home() override { return real_.home(); }
     std::optional<std::string> applicationSupport() override { return support_.path().toStdString(); }
-    std::optional<std::string> xdgDataHome() override { return real_.xdgDataHome(); }
+    std::optional<XdgHomes> xdgHomes() override { return real_.xdgHomes(); }
     TrashPlaces trashPlaces() override { return real_.trashPlaces(); }
     /// A folder with as many items as a well-filled desktop has, and a few of the system's.
     std::vector<BackgroundItemFolder> backgroundItemFolders() override {

@@ -12,7 +12,7 @@ public:
 
     std::string home() override { return home_; }
     std::optional<std::string> applicationSupport() override { return applicationSupport_; }
-    std::optional<std::string> xdgDataHome() override { return std::nullopt; }
+    std::optional<XdgHomes> xdgHomes() override { return std::nullopt; }
     TrashPlaces trashPlaces() override { return {}; }
     std::vector<BackgroundItemFolder> backgroundItemFolders() override;
     std::vector<std::string> programFolders() override { return {}; }

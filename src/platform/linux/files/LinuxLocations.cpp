@@ -47,6 +47,15 @@ std::optional<std::string> homeFromUserDatabase() {
     return found->pw_dir;
 }
 
+XdgHomes xdgHomesBelow(const std::string& home, bool fromEnvironment) {
+    const auto folder = [&](const char* variable, std::string_view usual) {
+        const std::optional<std::string> own = fromEnvironment ? absolutePathFromEnvironment(variable) : std::nullopt;
+        return own ? normalFolder(*own) : pathIn(home, usual);
+    };
+    return {folder("XDG_DATA_HOME", ".local/share"), folder("XDG_CONFIG_HOME", ".config"),
+            folder("XDG_CACHE_HOME", ".cache"), folder("XDG_STATE_HOME", ".local/state")};
+}
+
 /// A survey that starts above the home folder reaches the Trash by its resolved path.
 TrashPlaces trashPlacesOf(const std::string& dataHome) {
     const std::string_view files = "Trash/files";
@@ -126,30 +135,26 @@ std::vector<BackgroundItemFolder> itemFoldersOf(ItemPlaces places) {
 }  // namespace
 
 LinuxLocations::LinuxLocations(const std::string& home) {
-    std::optional<std::string> dataHome;
-    std::optional<std::string> configHome;
     ItemPlaces items;
-    if (!home.empty()) {
-        home_ = home;
-    } else {
+    const bool fromEnvironment = home.empty();
+    if (fromEnvironment) {
         std::optional<std::string> own = absolutePathFromEnvironment("HOME");
         if (!own) own = homeFromUserDatabase();
-        home_ = own.value_or("/");
-        dataHome = absolutePathFromEnvironment("XDG_DATA_HOME");
-        configHome = absolutePathFromEnvironment("XDG_CONFIG_HOME");
+        home_ = normalFolder(own.value_or("/"));
         items.config = foldersFromEnvironment("XDG_CONFIG_DIRS", systemConfig);
         items.data = foldersFromEnvironment("XDG_DATA_DIRS", usualDataFolders);
         // The user's manager has one, even if we were started without.
         items.runtime = normalFolder(
             absolutePathFromEnvironment("XDG_RUNTIME_DIR").value_or("/run/user/" + std::to_string(::getuid())));
+    } else {
+        home_ = normalFolder(home);
     }
-    home_ = normalFolder(home_);
-    dataHome_ = dataHome ? normalFolder(*dataHome) : pathIn(home_, ".local/share");
-    trashPlaces_ = trashPlacesOf(dataHome_);
-    items.configHome = configHome ? normalFolder(*configHome) : pathIn(home_, ".config");
-    items.dataHome = dataHome_;
+    xdg_ = xdgHomesBelow(home_, fromEnvironment);
+    trashPlaces_ = trashPlacesOf(xdg_.data);
+    items.configHome = xdg_.config;
+    items.dataHome = xdg_.data;
     backgroundItemFolders_ = itemFoldersOf(std::move(items));
-    ApplicationPlaces applications = ApplicationPlaces::ofEnvironment(dataHome_);
+    ApplicationPlaces applications = ApplicationPlaces::ofEnvironment(xdg_.data);
     programFolders_ = std::move(applications.programs);
     entryLocales_ = std::move(applications.locales);
 }

@@ -5,9 +5,10 @@
 
 namespace zelk {
 
-/// The home is $HOME, else that of the user database; application support is the XDG data home ($XDG_DATA_HOME, else
-/// "~/.local/share"). What starts in the background is described in the XDG configuration folders and in those of
-/// systemd. Ignores relative paths. Reads the environment and resolves links once, when constructed.
+/// The home is $HOME, else that of the user database; application support is the XDG data home. Each XDG home is
+/// the one of its variable ($XDG_DATA_HOME and so on), else the usual one below the home. What starts in the background
+/// is described in the XDG configuration folders and in those of systemd. Ignores relative paths. Reads the environment
+/// and resolves links once, when constructed.
 class LinuxLocations : public Locations {
 public:
     /// With `home`, all folders of the user lie below it, and the environment tells only the language and where
@@ -15,8 +16,8 @@ public:
     explicit LinuxLocations(const std::string& home = {});
 
     std::string home() override { return home_; }
-    std::optional<std::string> applicationSupport() override { return dataHome_; }
-    std::optional<std::string> xdgDataHome() override { return dataHome_; }
+    std::optional<std::string> applicationSupport() override { return xdg_.data; }
+    std::optional<XdgHomes> xdgHomes() override { return xdg_; }
     /// The "files" of the home trash and of this user's trash on any volume.
     TrashPlaces trashPlaces() override { return trashPlaces_; }
     std::vector<BackgroundItemFolder> backgroundItemFolders() override { return backgroundItemFolders_; }
@@ -25,7 +26,7 @@ public:
 
 private:
     std::string home_;
-    std::string dataHome_;
+    XdgHomes xdg_;
     TrashPlaces trashPlaces_;
     std::vector<BackgroundItemFolder> backgroundItemFolders_;
     std::vector<std::string> programFolders_;
