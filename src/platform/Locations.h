@@ -10,7 +10,7 @@
 
 namespace zelk {
 
-/// The four folders in which programs keep what is the user's, by the XDG Base Directory Specification. Normalized;
+/// The four folders in which programs keep what is the user's, the XDG base directories. Normalized;
 /// they need not exist.
 struct XdgHomes {
     std::string data;

@@ -31,10 +31,10 @@ TEST_F(BubbleKeys, showsFocusRingOnCurrentBubble) {
     const PackedCircle& ringed = circle("node_modules");
     const QPoint onRing = QPointF(ringed.center.x - ringed.radius - 5, ringed.center.y).toPoint();
     EXPECT_NE(window().grabWindow().pixelColor(onRing), before.pixelColor(onRing));
-    EXPECT_EQ(window().grabWindow().pixelColor(onRing), singleton<Theme>("Theme").accent());
+    EXPECT_EQ(window().grabWindow().pixelColor(onRing), singleton<Theme>("Theme").ink());
     press(Qt::Key_Tab);
     EXPECT_FALSE(chart().visualFocus());
-    EXPECT_NE(window().grabWindow().pixelColor(onRing), singleton<Theme>("Theme").accent());
+    EXPECT_NE(window().grabWindow().pixelColor(onRing), singleton<Theme>("Theme").ink());
 }
 
 TEST_F(BubbleKeys, emptyChartShowsFocusRing) {

@@ -305,6 +305,25 @@ TEST_F(MainWindowTest, fitsEverythingAtMinimumSize) {
     expectEverythingInsideWindow();
 }
 
+TEST_F(MainWindowTest, sidebarShowsTheSelectedModuleWhateverChoseIt) {
+    showWindow();
+    showWindow().textScale().setFactor(1.5);
+    window().resize(960, 620);
+    const auto inSight = [this](const char* name) {
+        const QQuickItem* row = findControl(window(), QString::fromLatin1(name));
+        const QQuickItem* area = row;
+        while (area != nullptr && !area->inherits("QQuickFlickable")) area = area->parentItem();
+        return area != nullptr &&
+               area->mapRectToScene(area->boundingRect()).contains(row->mapRectToScene(QRectF({}, row->size())));
+    };
+    runUntil([&] { return !inSight("sidebarSystem"); });
+    model().setSelection(Screen::system);
+    runUntil([&] { return inSight("sidebarSystem"); });
+    model().setSelection(Screen::survey);
+    runUntil([&] { return inSight("sidebarOverview"); });
+    showWindow().textScale().setFactor(1);
+}
+
 TEST_F(MainWindowTest, reducedMotionStopsComet) {
     showWindow();
     scanAndHold();

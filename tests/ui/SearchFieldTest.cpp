@@ -156,6 +156,16 @@ TEST_F(SearchFieldView, clickGivesFocus) {
     EXPECT_TRUE(field().hasActiveFocus());
 }
 
+TEST_F(SearchFieldView, typesInTheFaceOfAllTexts) {
+    const QFont before = QGuiApplication::font();
+    QFont other = before;
+    other.setFamily(QStringLiteral("Some Other Face"));
+    QGuiApplication::setFont(other);
+    EXPECT_EQ(field().property("font").value<QFont>().family(), other.family());
+    QGuiApplication::setFont(before);
+    EXPECT_EQ(field().property("font").value<QFont>().family(), before.family());
+}
+
 TEST_F(SearchFieldView, growsWithTexts) {
     const QSizeF normal = field().size();
     singleton<TextScale>("TextScale").setFactor(1.5);

@@ -134,6 +134,8 @@ TEST_F(TextSymbol, matchesSizeOfTheTextBesideIt) {
                         "Item { TextSymbol { objectName: 'symbol'; name: 'scope'; color: 'black'; points: 14 } }"),
          {40, 40});
     EXPECT_EQ(find("symbol")->implicitWidth(), 17);
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    EXPECT_EQ(find("symbol")->implicitWidth(), 25);
     double most = 0;
     for (const char* name : {"scope", "sparkles", "gearshape", "tray.full", "internaldrive"}) {
         const QRect ink = inkOf(tintedSymbol(QString::fromLatin1(name), Qt::black, 10 * 17));

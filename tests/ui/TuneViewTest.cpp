@@ -110,11 +110,13 @@ TEST_F(TuneWindow, leversAreDisabledWhileBusy) {
         EXPECT_FALSE(find(lever)->isEnabled()) << lever;
     for (const char* other : {"chooseAllAgents", "chooseNoAgents", "agentSearch"})
         EXPECT_TRUE(find(other)->isEnabled()) << other;
+    EXPECT_TRUE(find("leverSpinner")->isVisible());
     machine.tasks.release();
     runUntil([this] { return !tune().busy(); });
     settle();
     for (const char* lever : {"freeMemory", "flushDNS", "refreshMemory"})
         EXPECT_TRUE(find(lever)->isEnabled()) << lever;
+    EXPECT_FALSE(find("leverSpinner")->isVisible());
     EXPECT_THAT(seenTexts(), Contains("done"));
 }
 
@@ -203,6 +205,20 @@ TEST_F(TuneWindow, typingFiltersRows) {
     press(Qt::Key_Escape);
     EXPECT_THAT(seenTexts(), Contains("Backup"));
     EXPECT_THAT(seenTexts(), Not(Contains("Nothing here.")));
+}
+
+TEST_F(TuneWindow, fieldStaysInSightWhileItsSearchTakesTheRows) {
+    addMany(60);
+    openScanned({900, 420});
+    tabTo("agentSearch");
+    const std::string words = "item 1059 of nobody";
+    for (const char letter : words) {
+        type({letter});
+        expectFocusInSight();
+    }
+    EXPECT_THAT(seenTexts(), Contains("Nothing here."));
+    press(Qt::Key_Escape);
+    expectFocusInSight();
 }
 
 TEST_F(TuneWindow, nothingHereWithoutItems) {

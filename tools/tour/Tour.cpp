@@ -324,7 +324,7 @@ bool Tour::smallAndLarge() {
     for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::tune, Screen::clutter, Screen::lens,
                                 Screen::tools, Screen::settings})
         taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
-    app_.setSelection(Screen::system);  // its row in the sidebar is out of sight
+    app_.setSelection(Screen::system);  // its row in the sidebar is out of sight until then
     taken = taken && picture(QStringLiteral("large-text-system"));
     text.setFactor(1);
     resize(plan_.size);

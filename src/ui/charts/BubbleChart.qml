@@ -44,7 +44,7 @@ BubblePicture {
     }
 
     dark: Theme.isDark
-    accent: Theme.accent
+    ring: Theme.ink
     ground: Theme.ground
     textScale: TextScale.factor
 

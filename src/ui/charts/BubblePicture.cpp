@@ -169,7 +169,7 @@ void BubblePicture::updateBubble(const std::optional<std::size_t>& index) {
 
 void BubblePicture::draw(QPainter& painter) {
     drawBubbles(painter, packed_, shown_, hoveredID_, {dark_, textScale_}, texts_);
-    if (visualFocus() && currentSlice() != nullptr) drawBubbleFocus(painter, packed_[*current_], accent_, ground_);
+    if (visualFocus() && currentSlice() != nullptr) drawBubbleFocus(painter, packed_[*current_], ring_, ground_);
 }
 
 void BubblePicture::componentComplete() {

@@ -77,7 +77,7 @@ class BubblePicture : public zelk::Drawn {
     Q_PROPERTY(zelk::BubbleModel* model READ model WRITE setModel NOTIFY modelChanged FINAL REQUIRED)
     Q_PROPERTY(bool dark MEMBER dark_ NOTIFY changed FINAL)
     // The colours of the focus ring and of its outline.
-    Q_PROPERTY(QColor accent MEMBER accent_ NOTIFY changed FINAL)
+    Q_PROPERTY(QColor ring MEMBER ring_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor ground MEMBER ground_ NOTIFY changed FINAL)
     Q_PROPERTY(double textScale MEMBER textScale_ NOTIFY changed FINAL)
     Q_PROPERTY(bool visualFocus READ visualFocus NOTIFY visualFocusChanged FINAL)
@@ -157,7 +157,7 @@ private:
     QPointer<BubbleModel> model_;
     bool dark_ = true;
     double textScale_ = 1;
-    QColor accent_;
+    QColor ring_;
     QColor ground_;
     std::vector<PackedCircle> packed_;
     ShownSlices shown_;  // slices by index in packed_

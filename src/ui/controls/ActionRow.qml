@@ -11,7 +11,9 @@ BaseButton {
     required property string symbol
     required property color tint
 
-    horizontalPadding: 8
+    // The tile is flush with what stands above and below it; the wash under the pointer is wider.
+    leftInset: -8
+    rightInset: -8
     verticalPadding: 7
     implicitHeight: content.implicitHeight + row.topPadding + row.bottomPadding
     opacity: row.enabled ? 1 : 0.45

@@ -34,7 +34,7 @@ Item {
             visible: label.symbol !== ""
             name: label.symbol
             color: label.symbolColor
-            points: label.size * TextScale.factor
+            points: label.size
         }
 
         Label {

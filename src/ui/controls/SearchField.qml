@@ -44,6 +44,8 @@ T.TextField {
     color: Theme.ink
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentInk
+    // A text field would take the style's own face.
+    font.family: Qt.application.font.family
     font.pixelSize: Math.round(field.points * TextScale.factor)
     opacity: field.enabled ? 1 : 0.45
 

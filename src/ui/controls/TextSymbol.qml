@@ -10,5 +10,5 @@ SymbolItem {
 
     required property real points
 
-    size: Math.round(symbol.points * 1.2)
+    size: Math.round(symbol.points * 1.2 * TextScale.factor)
 }

@@ -15,6 +15,7 @@ FocusScope {
 
     // Reduces the spacing in a low window to avoid scrolling.
     readonly property bool tight: bar.height < 700
+    property Item selectedRow: null
 
     objectName: "sidebar"
     implicitWidth: bar.sidebar.width
@@ -119,6 +120,11 @@ FocusScope {
         anchors.left: parent.left
         anchors.right: parent.right
         contentHeight: column.implicitHeight + 2 * scroll.rim
+        // The text or the window has another size.
+        onEndChanged: {
+            if (bar.selectedRow)
+                scroll.reveal(bar.selectedRow);
+        }
 
         Column {
             id: column
@@ -142,6 +148,10 @@ FocusScope {
                     onPressed: index => bar.sidebar.modules.press(index)
                     onEntered: bar.entered()
                     onStepped: (index, by) => bar.step(index, by)
+                    onChosen: row => {
+                        bar.selectedRow = row;
+                        scroll.reveal(row);
+                    }
 
                     Connections {
                         target: bar
@@ -153,6 +163,13 @@ FocusScope {
                 }
             }
         }
+    }
+
+    // Modules go on below the edge.
+    Divider {
+        anchors.top: footer.top
+        width: parent.width
+        opacity: scroll.contentY < scroll.end - 1 ? 1 : 0
     }
 
     Column {

@@ -25,6 +25,13 @@ Column {
     // Clicked with the pointer rather than by key.
     signal entered
     signal stepped(int index, int by)
+    // It became the selected one, wherever it was chosen.
+    signal chosen(Item row)
+
+    onSelectedChanged: {
+        if (place.selected)
+            place.chosen(row);
+    }
 
     function takeFocus(reason: int) {
         row.forceActiveFocus(reason);

@@ -14,25 +14,18 @@ Item {
     required property string subtitle
     property Component trailing: null
 
-    implicitHeight: Math.max(38, texts.implicitHeight, trailingView.implicitHeight) + 2 * 16
+    implicitHeight: Math.max(tile.height, texts.implicitHeight, trailingView.implicitHeight) + 2 * 16
 
-    Rectangle {
+    Tile {
         id: tile
 
         anchors.left: parent.left
         anchors.leftMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
-        width: 38
-        height: 38
-        radius: 10
-        color: Qt.alpha(header.tint, 0.16)
-
-        TextSymbol {
-            anchors.centerIn: parent
-            name: header.symbol
-            color: header.tint
-            points: 17
-        }
+        symbol: header.symbol
+        tint: header.tint
+        side: 38
+        symbolSize: 17
     }
 
     Column {

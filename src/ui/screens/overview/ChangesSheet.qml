@@ -138,7 +138,7 @@ Sheet {
                         anchors.verticalCenter: parent.verticalCenter
                         name: "folder.fill"
                         color: place.tint
-                        points: 12 * TextScale.factor
+                        points: 12
                     }
 
                     Column {

@@ -50,17 +50,17 @@ Card {
                 anchors.right: freeUp.left
                 anchors.rightMargin: 16
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 36
+                spacing: 24
 
-                StatBlock {
+                Figure {
                     label: qsTr("used")
                     value: memory.tune.used
                 }
-                StatBlock {
+                Figure {
                     label: qsTr("free")
                     value: memory.tune.free
                 }
-                StatBlock {
+                Figure {
                     label: qsTr("total")
                     value: memory.tune.total
                 }
@@ -91,5 +91,10 @@ Card {
             soft: true
             wrapMode: Text.Wrap
         }
+    }
+
+    // Wide enough for any figure, so that its neighbours stay while it counts up.
+    component Figure: StatBlock {
+        width: Math.max(implicitWidth, Math.round(84 * TextScale.factor))
     }
 }

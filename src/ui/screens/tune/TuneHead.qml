@@ -39,10 +39,27 @@ Item {
                 width: maintenance.availableWidth
                 spacing: 4
 
-                Eyebrow {
-                    text: qsTr("Maintenance")
-                    bottomPadding: 4
-                    Accessible.role: Accessible.Heading
+                Item {
+                    width: parent.width
+                    implicitHeight: Math.max(caption.implicitHeight, waiting.implicitHeight) + 4
+
+                    Eyebrow {
+                        id: caption
+
+                        text: qsTr("Maintenance")
+                        Accessible.role: Accessible.Heading
+                    }
+
+                    Spinner {
+                        id: waiting
+
+                        objectName: "leverSpinner"
+                        anchors.right: parent.right
+                        visible: head.tune.busy
+                        Accessible.role: Accessible.ProgressBar
+                        Accessible.name: qsTr("Running")
+                        Accessible.description: qsTr("waiting for the system…")
+                    }
                 }
 
                 ActionRow {

@@ -44,6 +44,17 @@ FocusScope {
 
     onFocusedChanged: levers.revealFocus()
 
+    // Fewer rows may end above what has the focus. Waits until the rows and the head have their new heights.
+    Timer {
+        id: settling
+
+        interval: 0
+        onTriggered: {
+            levers.scrollBy(0);
+            levers.revealFocus();
+        }
+    }
+
     // Reached by keys that neither a control nor the list handles.
     Keys.onPressed: event => {
         event.accepted = true;
@@ -104,7 +115,9 @@ FocusScope {
                 items.contentY -= items.topMargin - items.margin;
                 items.margin = items.topMargin;
                 levers.scrollBy(0);
+                settling.restart();
             }
+            onCountChanged: settling.restart()
 
             Keys.onSpacePressed: event => items.press(event.isAutoRepeat)
             Keys.onReturnPressed: event => items.press(event.isAutoRepeat)

@@ -147,7 +147,7 @@ FocusScope {
                     width: 8
                     height: 8
                     radius: 4
-                    color: dot.current ? Theme.accent : Theme.hairline
+                    color: dot.current ? Theme.accent : Qt.alpha(Theme.inkSoft, 0.5)
                     Behavior on color {
                         ColorAnimation {
                             duration: Motion.gentle
