@@ -12,6 +12,7 @@
 #include "ui/screens/overview/SurveyScreenModel.h"
 #include "ui/theme/Motion.h"
 #include "ui/theme/SystemTexts.h"
+#include "ui/theme/TextScale.h"
 #include "ui/theme/ZelkTheme.h"
 
 namespace zelk {
