@@ -17,6 +17,11 @@ T.TextField {
     readonly property real corner: 8
     readonly property real symbolSide: Math.round(field.points * TextScale.factor)
 
+    // The face of every text that names no other.
+    FontMetrics {
+        id: usual
+    }
+
     // The user changed the text.
     signal searched(string words)
 
@@ -45,7 +50,7 @@ T.TextField {
     selectionColor: Theme.accent
     selectedTextColor: Theme.accentInk
     // A text field would take the style's own face.
-    font.family: Qt.application.font.family
+    font.family: usual.font.family
     font.pixelSize: Math.round(field.points * TextScale.factor)
     opacity: field.enabled ? 1 : 0.45
 
