@@ -334,7 +334,11 @@ bool Tour::smallAndLarge() {
 /// The focus ring around the scan button, where it is hardest to see.
 bool Tour::focus() {
     app_.cancelScan();
-    findControl(window_.window(), scanButton)->forceActiveFocus(Qt::TabFocusReason);
+    // Other windows were open since.
+    window_.window().requestActivate();
+    waitUntil([this] { return window_.window().isActive(); });
+    // It may have the focus already, which is no reason to show it.
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) pressKey(window_.window(), key);
     return picture(QStringLiteral("survey-focus"));
 }
 

@@ -139,7 +139,7 @@ Column {
                 id: label
 
                 anchors.left: parent.left
-                anchors.leftMargin: 40
+                anchors.leftMargin: 10 + Math.round(30 * TextScale.factor)
                 anchors.right: parent.right
                 anchors.rightMargin: 8
                 anchors.verticalCenter: parent.verticalCenter
