@@ -117,8 +117,9 @@ int main(int argc, char** argv) {
     zelk::tour::TextCheck texts;
     for (const bool dark : {true, false}) {
         if (pseudo && !dark) break;
-        const zelk::Platform platform{clock,      directories, files,     trash,      vitals, dark ? forDark : forLight,
-                                      real.tasks, processes,   workspace, real.system};
+        const zelk::Platform platform{
+            clock,      directories, files,     real.contents, trash, vitals, dark ? forDark : forLight,
+            real.tasks, processes,   workspace, real.system};
         zelk::AppModel app(platform);
         app.setScanRoots({QDir(root).absolutePath().toStdString()});
         const std::function<void(QQuickWindow&, const QString&)> inspect = [&](QQuickWindow& window,
