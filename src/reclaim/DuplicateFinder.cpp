@@ -99,12 +99,26 @@ DuplicateFinder::DuplicateFinder(const Platform& platform)
     if (platform.system == SystemKind::desktopLinux) droppedFolder_ = pathIn(platform.locations.home(), "snap") + '/';
 }
 
-std::vector<DuplicateGroup> DuplicateFinder::find(const std::vector<std::string>& roots,
+DuplicateFinder::Candidates DuplicateFinder::list(const std::vector<std::string>& roots,
                                                   std::int64_t minimumSize) const {
     Candidates candidates;
     Folders folders(*this, minimumSize, candidates);
     for (const std::string& root : roots) folders.search(root);
     std::erase_if(candidates.bySize, [](const auto& one) { return one.second.size() < 2; });
+    return candidates;
+}
+
+std::vector<std::string> DuplicateFinder::candidates(const std::vector<std::string>& roots,
+                                                     std::int64_t minimumSize) const {
+    std::vector<std::string> paths;
+    for (const auto& [size, files] : list(roots, minimumSize).bySize)
+        for (const Candidates::File& file : files) paths.push_back(file.path);
+    return paths;
+}
+
+std::vector<DuplicateGroup> DuplicateFinder::find(const std::vector<std::string>& roots,
+                                                  std::int64_t minimumSize) const {
+    const Candidates candidates = list(roots, minimumSize);
     if (listed) listed();
     if (isAbandoned()) return {};
     std::vector<DuplicateGroup> groups = hash(candidates);

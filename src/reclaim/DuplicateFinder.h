@@ -24,6 +24,9 @@ struct HashProgress {
 /// Finds files of the same content. Decides by whole-file hashes alone, so a hard link to a file is a copy of it.
 class DuplicateFinder {
 public:
+    /// Smaller files are not worth the time to read them, in bytes.
+    static constexpr std::int64_t usualMinimum = 2'000'000;
+
     /// What a search in the application needs of `platform`, which must outlive it.
     explicit DuplicateFinder(const Platform& platform);
 
@@ -41,12 +44,15 @@ public:
     /// first, of several equal ones those of larger files, and of these the one read first. A folder that is reached in
     /// several ways is entered once, so that one file under two paths is never mistaken for two.
     std::vector<DuplicateGroup> find(const std::vector<std::string>& roots, std::int64_t minimumSize) const;
+    /// The paths of the files that find() would read, in this order.
+    std::vector<std::string> candidates(const std::vector<std::string>& roots, std::int64_t minimumSize) const;
 
 private:
     struct Candidates;
     class Folders;
 
     bool isAbandoned() const { return abandoned != nullptr && abandoned->isSet(); }
+    Candidates list(const std::vector<std::string>& roots, std::int64_t minimumSize) const;
     std::vector<DuplicateGroup> hash(const Candidates& candidates) const;
 
     FileContents& contents_;

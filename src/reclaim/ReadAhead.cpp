@@ -13,7 +13,6 @@ namespace zelk {
 
 namespace {
 
-constexpr std::int64_t requestBytes = 2 * 1024 * 1024;
 constexpr std::size_t stackBytes = 256 * 1024;
 
 }  // namespace

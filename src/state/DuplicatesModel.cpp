@@ -55,7 +55,7 @@ void DuplicatesModel::scan(const std::vector<std::string>& roots) {
                 if (search == searches_ && loading_) setProgress(progress);
             });
         };
-        mainThread.post([this, groups = finder.find(roots, minimumSize)]() mutable {
+        mainThread.post([this, groups = finder.find(roots, DuplicateFinder::usualMinimum)]() mutable {
             setGroups(std::move(groups));
             setLoading(false);
         });

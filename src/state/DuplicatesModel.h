@@ -26,9 +26,6 @@ class DuplicatesModel : public QObject {
     Q_OBJECT
 
 public:
-    /// Smaller files are not worth the time to read them, in bytes.
-    static constexpr std::int64_t minimumSize = 2'000'000;
-
     /// All must outlive it, and the services its tasks.
     DuplicatesModel(const Platform& platform, RemovalsModel& removals, RemovalUndo& undo,
                     MainThreadQueue::Sender mainThread);

@@ -222,7 +222,7 @@ TEST_F(FinderOfDuplicates, fileThatChangedJustBeforeIsNotSettled) {
     for (const char* name : {"/home/me/a", "/home/me/b", "/home/me/c", "/home/me/d"}) add(name, 'x');
     const auto now = static_cast<std::int64_t>(machine.clock.now());
     machine.contents.touch("/home/me/a", {now - 2, 0}, {now - 2, 0});
-    machine.contents.touch("/home/me/b", {now - 2, 1}, {0, 0});
+    machine.contents.touch("/home/me/b", {now - 2, 1'000'000}, {0, 0});
     machine.contents.touch("/home/me/c", {0, 0}, {now - 1, 0});
     machine.contents.touch("/home/me/d", {now + 1'000, 0}, {0, 0});
     const std::vector<DuplicateGroup> groups = find();

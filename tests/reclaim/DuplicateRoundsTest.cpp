@@ -194,7 +194,7 @@ TEST(DuplicateRoutes, twoAtOnceLeaveEveryContentOutsideTheTrash) {
 #endif
 
 TEST(DuplicateRounds, changesOfOtherProcessesLoseNothing) {
-    const zoo::TempFolder temp;
+    const zoo::TempFolder temp(zoo::TempFolder::Medium::memory);
     const std::string top = fs::canonical(temp.path()).string();
     std::size_t moved = 0;
     std::size_t kept = 0;

@@ -15,7 +15,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::int64_t request = 2 * 1024 * 1024;
+constexpr std::int64_t request = ReadAhead::requestBytes;
 
 /// Notes what is read ahead.
 class NotingContents : public FileContents {

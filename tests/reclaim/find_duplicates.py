@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Finds duplicates on its own, to check what Zelk finds: find_duplicates.py MINIMUM HOME ROOTS...
+"""Finds duplicates on its own, to check what Zelk finds: find_duplicates.py MINIMUM HOME < ROOTS
 
-Prints for each ROOTS, folders separated by colons, a line "roots", and a line for each set: its hash, and its paths in
-hexadecimal. Written for clarity; shares nothing with the program but the rules.
+Reads the folders of each search, every one ended by a zero byte and the last by two. Prints for each search a line
+"roots", and a line for each set: its hash, and its paths in hexadecimal. Written for clarity; shares nothing with the
+program but the rules.
 """
 import hashlib
 import os
@@ -64,9 +65,9 @@ def find(roots, minimum, home):
 
 def main():
     minimum, home = int(sys.argv[1]), os.fsencode(sys.argv[2])
-    for argument in sys.argv[3:]:
+    for search in sys.stdin.buffer.read().split(b"\0\0")[:-1]:
         print("roots")
-        for _, key, paths in find(os.fsencode(argument).split(b":"), minimum, home):
+        for _, key, paths in find(search.split(b"\0"), minimum, home):
             print(key, *(path.hex() for path in paths))
 
 

@@ -133,6 +133,9 @@ ListRow {
         Accessible.name: row.action
         focusPolicy: Qt.NoFocus
         onClicked: row.acted()
+        // With a handler of its own, the second click of a double click is no click: the next set has moved under the
+        // pointer by then.
+        onDoubleClicked: {}
     }
 
     Tag {
