@@ -135,7 +135,7 @@ int main(int argc, char** argv) {
     NativePlatform native(cleans ? folder : std::string());
     const Platform& real = native.platform();
     tour::ScratchLocations locations(real.locations, false);
-    const Platform platform{real.clock, real.directories, real.files,     real.trash,     real.vitals,
+    const Platform platform{real.clock, real.directories, real.files,     real.contents,  real.trash, real.vitals,
                             locations,  real.tasks,       real.processes, real.workspace, real.system};
     bool done = true;
     {

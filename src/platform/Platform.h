@@ -6,6 +6,7 @@
 #include "platform/BackgroundTasks.h"
 #include "platform/ChildProcess.h"
 #include "platform/DirectoryReader.h"
+#include "platform/FileContents.h"
 #include "platform/FileManager.h"
 #include "platform/Locations.h"
 #include "platform/SystemKind.h"
@@ -21,6 +22,7 @@ struct Platform {
     Clock& clock;
     DirectoryService& directories;
     FileManager& files;
+    FileContents& contents;
     Trash& trash;
     Vitals& vitals;
     Locations& locations;

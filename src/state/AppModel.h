@@ -18,6 +18,7 @@
 #include "scan/ScanUpdate.h"
 #include "state/AdminRunner.h"
 #include "state/CleanupSession.h"
+#include "state/DuplicatesModel.h"
 #include "state/MainThreadQueue.h"
 #include "state/RemovalUndo.h"
 #include "state/RemovalsModel.h"
@@ -91,10 +92,12 @@ public:
 
     /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
-    /// What the last trashAndRemove(), trashLargeFile() or removal of background items moved to the Trash.
+    /// What the last trashAndRemove(), trashLargeFile() or removal of background items or duplicates moved to the Trash.
     RemovalUndo& removalUndo() { return removalUndo_; }
     /// Memory, caches, and what starts in the background.
     TuneModel& tune() { return tune_; }
+    /// Files of the same content.
+    DuplicatesModel& duplicates() { return duplicates_; }
     /// Commands that need an administrator.
     AdminRunner& admin() { return admin_; }
     /// The services, for the models of screens.
@@ -212,6 +215,7 @@ private:
     RemovalUndo removalUndo_;
     CleanupSession cleanup_;
     TuneModel tune_;
+    DuplicatesModel duplicates_;
     std::shared_ptr<SurveySession> scanTask_;  // running or finished; absent after a cancel
     bool scanAgain_ = false;                   // when that one has finished
 };

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "fakes/FakeDirectoryService.h"
+#include "fakes/FakeFileContents.h"
 #include "fakes/FakeFileManager.h"
 #include "platform/Platform.h"
 #include "platform/Preferences.h"
@@ -83,6 +84,22 @@ public:
         return priorities;
     }
 
+    /// From now on each task runs beside the test, until finish().
+    void runBeside() {
+        const std::lock_guard lock(mutex_);
+        beside_ = true;
+    }
+    /// Waits for the tasks that run beside the test.
+    void finish() {
+        std::vector<std::thread> running;
+        {
+            const std::lock_guard lock(mutex_);
+            beside_ = false;
+            running.swap(running_);
+        }
+        for (std::thread& thread : running) thread.join();
+    }
+
     /// Called on the submitting thread after a task was run at once. Set it before anything runs.
     std::function<void()> afterOne = [] {};
 
@@ -91,6 +108,10 @@ public:
             const std::lock_guard lock(mutex_);
             if (holding_) {
                 waiting_.push_back({priority, std::move(task)});
+                return;
+            }
+            if (beside_) {
+                running_.emplace_back(std::move(task));
                 return;
             }
         }
@@ -109,7 +130,9 @@ private:
 
     mutable std::mutex mutex_;
     bool holding_ = false;
+    bool beside_ = false;
     std::deque<Waiting> waiting_;
+    std::vector<std::thread> running_;
 };
 
 /// Fill the fields before anything runs.
@@ -333,6 +356,7 @@ public:
     FakeClock clock;
     FakeDirectoryService directories;
     FakeFileManager files;
+    FakeFileContents contents{files};
     FakeTrash trash{files};
     FakeVitals vitals;
     FakeLocations locations;
@@ -349,7 +373,7 @@ public:
     SystemKind system = SystemKind::macOS;
 
     Platform platform() {
-        return {clock, directories, files, trash, vitals, locations, tasks, processes, workspace, system};
+        return {clock, directories, files, contents, trash, vitals, locations, tasks, processes, workspace, system};
     }
 
     /// Waits until every thread of every scan has ended.

@@ -45,8 +45,9 @@ protected:
     ~CleanerThreads() override { fakes::FakePlatform::waitForThreads(); }
 
     Platform platform() {
-        return {machine.clock, machine.directories, machine.files,     machine.trash, machine.vitals, machine.locations,
-                tasks,         processes,           machine.workspace, machine.system};
+        return {machine.clock, machine.directories, machine.files,     machine.contents,
+                machine.trash, machine.vitals,      machine.locations, tasks,
+                processes,     machine.workspace,   machine.system};
     }
 
     Results cleanAll(std::vector<Reclaimable> items) {
@@ -124,9 +125,9 @@ TEST_F(CleanerThreads, stalledToolsDoNotBlockOtherItems) {
         if (call.operation == "trash") gone.count_down();
         return false;
     };
-    const Platform stalled{machine.clock,     machine.directories, machine.files, machine.trash,
-                           machine.vitals,    machine.locations,   tasks,         machine.processes,
-                           machine.workspace, machine.system};
+    const Platform stalled{machine.clock,     machine.directories, machine.files,     machine.contents,
+                           machine.trash,     machine.vitals,      machine.locations, tasks,
+                           machine.processes, machine.workspace,   machine.system};
     std::promise<Results> ended;
     Cleaner::cleanAll(items, false, stalled, [&](Results all) { ended.set_value(std::move(all)); });
     EXPECT_EQ(countOf(ended.get_future().get(), false), stalling + 1);
@@ -198,9 +199,9 @@ TEST_F(CleanerThreads, toolThatFillsPipeStallsOnlyItself) {
         if (call.arguments.back().starts_with("cat ")) otherEnded.set_value();
         return outcome;
     };
-    Platform noting{machine.clock,     machine.directories, machine.files, machine.trash,
-                    machine.vitals,    machine.locations,   tasks,         machine.processes,
-                    machine.workspace, machine.system};
+    Platform noting{machine.clock,     machine.directories, machine.files,     machine.contents,
+                    machine.trash,     machine.vitals,      machine.locations, tasks,
+                    machine.processes, machine.workspace,   machine.system};
     const std::string stalling =
         "echo $$ > " + (folder / "process") + "; echo > " + fifo + "; exec head -c 1000000 /dev/zero";
     std::promise<Results> ended;

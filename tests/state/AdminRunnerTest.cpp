@@ -132,7 +132,7 @@ TEST_F(AdminRunnerTest, callsInFlightAreChildrenOfTheirOwn) {
 TEST_F(AdminRunnerTest, openQuestionBlocksNoOtherTask) {
     ApartTasks tasks;
     const Platform all = machine.platform();
-    AdminRunner apart({all.clock, all.directories, all.files, all.trash, all.vitals, all.locations, tasks,
+    AdminRunner apart({all.clock, all.directories, all.files, all.contents, all.trash, all.vitals, all.locations, tasks,
                        all.processes, all.workspace, all.system},
                       queue->sender());
     apart.run("line", noted());

@@ -20,9 +20,9 @@ protected:
             return false;
         };
         Platform platform = machine.platform();
-        model_ = std::make_unique<AppModel>(Platform{platform.clock, platform.directories, platform.files,
-                                                     platform.trash, platform.vitals, platform.locations, tasks_,
-                                                     platform.processes, platform.workspace, platform.system});
+        model_ = std::make_unique<AppModel>(Platform{
+            platform.clock, platform.directories, platform.files, platform.contents, platform.trash, platform.vitals,
+            platform.locations, tasks_, platform.processes, platform.workspace, platform.system});
         model_->startScan();
         runUntil([&] { return static_cast<bool>(model_->root()); });
         working_.get_future().wait();

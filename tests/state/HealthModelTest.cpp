@@ -95,7 +95,7 @@ TEST_F(Health, readsMemoryPowerAndUptimeWhenCreated) {
 TEST_F(Health, readsInOrder) {
     NotingVitals vitals;
     const Platform fake = machine.platform();
-    const Platform noting{fake.clock,     fake.directories, fake.files,     fake.trash,     vitals,
+    const Platform noting{fake.clock,     fake.directories, fake.files,     fake.contents,  fake.trash, vitals,
                           fake.locations, fake.tasks,       fake.processes, fake.workspace, fake.system};
     HealthModel noted(noting, model().admin());
     EXPECT_THAT(vitals.reads, ElementsAre("memory", "power", "uptime"));

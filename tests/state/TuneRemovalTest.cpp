@@ -108,7 +108,7 @@ TEST_F(TuneOfLinux, removalFollowsNoLinkThatTheScanDidNot) {
     const auto rootsOf = [this] {
         NotingTrash trash(machine.files);
         const Platform fake = machine.platform();
-        const Platform noting{fake.clock,     fake.directories, fake.files,     trash,          fake.vitals,
+        const Platform noting{fake.clock,     fake.directories, fake.files,     fake.contents,  trash,      fake.vitals,
                               fake.locations, fake.tasks,       fake.processes, fake.workspace, fake.system};
         TuneModel noted(noting, model().admin(), model().removalUndo());
         noted.scan();

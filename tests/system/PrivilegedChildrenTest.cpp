@@ -45,8 +45,9 @@ public:
 };
 
 Platform withProcesses(const Platform& platform, ChildProcess& processes) {
-    return {platform.clock,     platform.directories, platform.files, platform.trash,     platform.vitals,
-            platform.locations, platform.tasks,       processes,      platform.workspace, platform.system};
+    return {platform.clock, platform.directories, platform.files,     platform.contents,
+            platform.trash, platform.vitals,      platform.locations, platform.tasks,
+            processes,      platform.workspace,   platform.system};
 }
 
 class PrivilegedChildren : public testing::TestWithParam<SystemKind> {

@@ -60,6 +60,20 @@ TEST(ModuleScreenModel, scanRunsActionOfTheModule) {
     idle.scan();
 }
 
+TEST(ModuleScreenModel, tellsShareInWordsForAScreenReader) {
+    ModuleTexts texts;
+    texts.scanningLabel = QStringLiteral("Hashing…");
+    ModuleScreenModel module(Screen::apps, texts);
+    QSignalSpy changes(&module, &ModuleScreenModel::shareChanged);
+    EXPECT_LT(module.share(), 0);
+    EXPECT_EQ(module.doing(), QStringLiteral("Hashing…"));
+    module.setShare(0.25, QStringLiteral("1 MB of 4 MB"));
+    EXPECT_EQ(module.share(), 0.25);
+    EXPECT_EQ(module.doing(), QStringLiteral("Hashing…, 1 MB of 4 MB"));
+    module.setShare(0.25, QStringLiteral("1 MB of 4 MB"));
+    EXPECT_EQ(changes.count(), 1);
+}
+
 TEST_F(Modules, haveTitleAndSubtitle) {
     const auto expect = [&](Screen screen, const char* title, const char* subtitle) {
         EXPECT_EQ(module(screen)->title().toStdString(), title);
@@ -71,12 +85,10 @@ TEST_F(Modules, haveTitleAndSubtitle) {
     expect(Screen::apps, "Apps",
            "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, preferences, "
            "and support files.");
-    expect(Screen::duplicates, "Duplicates",
-           "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.");
 }
 
 TEST_F(Modules, showNoteInsteadOfScanIfUnbuilt) {
-    for (const Screen screen : {Screen::privacy, Screen::apps, Screen::duplicates}) {
+    for (const Screen screen : {Screen::privacy, Screen::apps}) {
         const auto unbuilt = module(screen);
         EXPECT_TRUE(unbuilt->scanLabel().isEmpty());
         EXPECT_EQ(unbuilt->note(), lookOf(screen).title + QStringLiteral(" is not in this version yet."));

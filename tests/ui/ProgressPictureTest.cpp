@@ -50,6 +50,24 @@ TEST(ModuleProgressBar, paintsSliverWithRoundEndsAndFadingTail) {
     EXPECT_GT(bar.pixelColor(72, 3).red(), barTrack.red() + 50);
 }
 
+TEST(ModuleProgressBar, paintsShareFromTheLeft) {
+    ProgressPicture bar;
+    bar.setProperty("track", barTrack);
+    bar.setProperty("color", barAmber);
+    bar.setProperty("seconds", 0.75);
+    const auto paintedShare = [&](double share) {
+        bar.setProperty("share", share);
+        return painted(bar, {200, 6});
+    };
+    const QImage half = paintedShare(0.5);
+    EXPECT_NE(half.pixelColor(5, 3), barTrack);
+    EXPECT_TRUE(alike(half.pixelColor(95, 3), barAmber, 16));
+    EXPECT_EQ(half.pixelColor(102, 3), barTrack);
+    for (int x = 3; x < 197; ++x) ASSERT_EQ(paintedShare(0).pixelColor(x, 3), barTrack) << x;
+    EXPECT_NE(paintedShare(1).pixelColor(194, 3), barTrack);
+    EXPECT_NE(paintedShare(1.5).pixelColor(194, 3), barTrack);
+}
+
 TEST(ModuleProgressBar, clipsSliverToTrack) {
     const QImage before = barAt(0);
     for (int x = 3; x < 197; ++x) ASSERT_EQ(before.pixelColor(x, 3), barTrack) << x;

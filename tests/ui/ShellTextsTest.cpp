@@ -66,13 +66,13 @@ TEST_F(ShellTexts, aboutShowsNameAndRows) {
 }
 
 TEST_F(ShellTexts, unbuiltModuleShowsPurposeAndNote) {
-    const auto module = makeUnbuiltModule(Screen::duplicates);
+    const auto module = makeUnbuiltModule(Screen::apps);
     show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleScaffold"), "module", module.get(), {800, 620});
     EXPECT_EQ(seenTexts(),
-              (Texts{"Duplicates",
-                     "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just "
-                     "one.",
-                     "Duplicates is not in this version yet."}));
+              (Texts{"Apps",
+                     "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, "
+                     "preferences, and support files.",
+                     "Apps is not in this version yet."}));
     close();
 }
 

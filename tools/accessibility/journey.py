@@ -22,6 +22,7 @@ MOST_STOPS = 60
 PROGRESS_SECONDS = 30
 SURVEY_SECONDS = 300
 CLEANING_SECONDS = 120
+HASHING_SECONDS = 120
 
 
 def main_window():
@@ -288,6 +289,20 @@ def settings(walker, _audience):
     slide(walker)
 
 
+def duplicates(walker, audience):
+    if audience == "everyone":
+        walker.press("Find duplicates")
+        walker.wait(lambda: walker.find("Duplicate sets", frozenset({"list"})) is not None, HASHING_SECONDS)
+    title = f"Duplicate sets for {audience}"
+    walker.screen = title
+    walker.look(title, expect("Duplicate sets", "list"), expect("Find duplicates", "push button"),
+                expect("Keep first, trash rest: .*", "push button"), expect("Reveal in .*: .*", "push button"))
+    if audience == "developers" and walker.press("Keep first, trash rest: .*") is not None:
+        walker.look("Duplicate sets, one less", expect("Undo", "push button", "link"))
+        walker.press("Undo")
+        walker.look("Duplicate sets, after an undo", expect("Duplicate sets", "list"))
+
+
 def tune(walker, audience):
     if audience == "everyone":
         walker.press("Check this .*")
@@ -301,8 +316,8 @@ def tune(walker, audience):
         walker.toggle(re.escape(row.name), frozenset({row.role}))
 
 
-INSIDE = {"Overview": overview, "Reclaim": reclaim, "Tune": tune, "Clutter": clutter, "Lens": lens, "Health": health,
-          "System": system, "Settings": settings}
+INSIDE = {"Overview": overview, "Reclaim": reclaim, "Tune": tune, "Clutter": clutter, "Duplicates": duplicates,
+          "Lens": lens, "Health": health, "System": system, "Settings": settings}
 
 
 def clean_up(walker):

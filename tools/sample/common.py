@@ -83,6 +83,22 @@ def downloads(plan, folder, installers):
     plan.file(f"{folder}/half a film.mkv.part", 45, 4)
 
 
+def copies(plan, folder):
+    """Sets of files of the same content, at any scale of a size at which they are looked for."""
+    plan.sparse(f"{folder}/Atlas/tile 00.map", 2.1, 300, least=2.1)
+    for number in range(1, 40):
+        plan.sparse(f"{folder}/Atlas/tile {number:02d}.map", 2.1, 300, head=f"{folder}/Atlas/tile 00.map")
+    plan.file(f"{folder}/Panorama.tif", 6, 150, least=4)
+    plan.clone(f"{folder}/Panorama, as sent.tif", f"{folder}/Panorama.tif", 149)
+    plan.file(f"{folder}/Interview.wav", 9, 80, least=3)
+    plan.copy(f"{folder}/Interview (1).wav", f"{folder}/Interview.wav", 79)
+    plan.copy(f"{folder}/For the radio/Interview.wav", f"{folder}/Interview.wav", 20)
+    plan.hard_link(f"{folder}/For the radio/Interview, linked.wav", f"{folder}/Interview.wav")
+    # As large, and another one.
+    plan.copy(f"{folder}/Interview, second.wav", f"{folder}/Interview.wav", 60)
+    plan.entries[f"{folder}/Interview, second.wav"] = (*plan.entries[f"{folder}/Interview, second.wav"][:3], "second")
+
+
 def packages(plan, folder, count, megabytes, days):
     """A folder of installed packages: many small files."""
     for number in range(count):

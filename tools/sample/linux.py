@@ -80,6 +80,7 @@ def fill(plan):
     common.documents(plan, "Documents")
     common.downloads(plan, "Downloads", (("linux-desktop-amd64.iso", 410, 150), ("rescue.img", 96, 700),
                                          ("inkwell_4.2_amd64.deb", 58, 33), ("sonata-2.1.AppImage", 84, 12)))
+    common.copies(plan, "Recordings")
     common.films(plan, "Videos")
     common.music(plan, "Music")
     common.pictures(plan, "Pictures")

@@ -92,6 +92,7 @@ def fill(plan):
     common.documents(plan, "Documents")
     common.downloads(plan, "Downloads", (("Inkwell 4.2.dmg", 128, 33), ("Sonata.pkg", 64, 12),
                                          ("Developer Tools.xip", 190, 400), ("Old system.iso", 220, 1100)))
+    common.copies(plan, "Recordings")
     common.films(plan, "Movies")
     common.music(plan, "Music")
     common.pictures(plan, "Pictures")

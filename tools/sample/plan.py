@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Collects what to create before creating it, so that the size is known before the disk is touched."""
+import fcntl
 import os
 import random
 from dataclasses import dataclass, field
@@ -7,6 +8,9 @@ from dataclasses import dataclass, field
 MB = 1_000_000
 DAY = 86_400
 BLOCK = 4096
+
+
+FICLONE = 0x40049409  # not in every version of the module
 
 
 @dataclass
@@ -25,6 +29,16 @@ def reserve(fd, size, notes):
         note = "this file system cannot reserve blocks: the files are sparse, and their sizes on the disk near 0"
         if note not in notes:
             notes.append(note)
+
+
+def share(fd, source):
+    """Makes the open file share the blocks of another. False if the file system cannot."""
+    try:
+        with open(source, "rb") as file:
+            fcntl.ioctl(fd, FICLONE, file.fileno())
+        return True
+    except OSError:
+        return False
 
 
 class Plan:
@@ -61,6 +75,17 @@ class Plan:
         assert kind == "file"
         self.bytes += -(-size // BLOCK) * BLOCK
         self.entries[path] = ("file", size, days, head)
+
+    def sparse(self, path, megabytes, days=30.0, least=0.0, head=None):
+        """A file that is a hole but for its beginning, which is `head` or else its own path."""
+        size = self.scaled(megabytes, least) if head is None else self.entries[head][1]
+        self.bytes += BLOCK
+        self.entries[path] = ("sparse", size, days, head or path)
+
+    def clone(self, path, of, days=30.0):
+        """A copy of another file that shares its blocks where the file system can do that."""
+        self.copy(path, of, days)
+        self.entries[path] = ("clone", *self.entries[path][1:], of)
 
     def text(self, path, content, days=30.0):
         data = content if isinstance(content, bytes) else content.encode()
@@ -109,7 +134,7 @@ class Plan:
                 made.notes.append(f"left out {path!r}: {error.strerror}")
                 continue
             made.files += 1
-            if entry[0] in ("file", "text"):
+            if entry[0] in ("file", "text", "sparse", "clone"):
                 dates[full] = self.now - entry[2] * DAY
         self.date(root, dates, made)
         return made
@@ -126,7 +151,12 @@ class Plan:
             if entry[0] == "text":
                 os.write(fd, entry[1])
                 return
-            reserve(fd, entry[1], made.notes)
+            if entry[0] == "clone" and share(fd, os.path.join(os.fsencode(self.root), os.fsencode(entry[4]))):
+                return
+            if entry[0] == "sparse":
+                os.ftruncate(fd, entry[1])
+            else:
+                reserve(fd, entry[1], made.notes)
             # Makes files of the same size differ unless one is a copy of the other.
             os.write(fd, os.fsencode(entry[3])[:entry[1]])
         finally:

@@ -14,7 +14,7 @@ constexpr DirEntry emptyFile{"empty", fileObjectType, 0, 1, 0, 0, 0};
 
 class PausingDirectories::Reader : public DirectoryReader {
 public:
-    Reader(PausingDirectories& gate, std::unique_ptr<DirectoryReader> real) : gate_(gate), real_(std::move(real)) {}
+    Reader(PausingDirectories& all, std::unique_ptr<DirectoryReader> real) : all_(all), real_(std::move(real)) {}
 
     const Entries* open(const DirectoryRoot& root, const std::string& below) override {
         return through(real_->open(root, below));
@@ -24,50 +24,22 @@ public:
 
 private:
     const Entries* through(const Entries* entries) {
-        if (const std::size_t more = gate_.crowd_; entries != nullptr && more > 0) {
+        if (const std::size_t more = all_.crowd_; entries != nullptr && more > 0) {
             crowded_ = *entries;
             crowded_.resize(entries->size() + more, emptyFile);
             entries = &crowded_;
         }
-        gate_.pass(entries == nullptr ? 0 : static_cast<std::int64_t>(entries->size()));
+        all_.gate_.pass(entries == nullptr ? 0 : static_cast<std::int64_t>(entries->size()));
         return entries;
     }
 
-    PausingDirectories& gate_;
+    PausingDirectories& all_;
     std::unique_ptr<DirectoryReader> real_;
     Entries crowded_;
 };
 
-void PausingDirectories::pauseAfter(std::int64_t entries) {
-    const std::lock_guard lock(mutex_);
-    armed_ = true;
-    left_ = entries;
-    resumed_.notify_all();
-}
-
-void PausingDirectories::resume() {
-    const std::lock_guard lock(mutex_);
-    armed_ = false;
-    resumed_.notify_all();
-}
-
-bool PausingDirectories::paused() {
-    const std::lock_guard lock(mutex_);
-    return waiting_ > 0;
-}
-
 std::unique_ptr<DirectoryReader> PausingDirectories::makeReader() {
     return std::make_unique<Reader>(*this, real_.makeReader());
-}
-
-void PausingDirectories::pass(std::int64_t entries) {
-    std::unique_lock lock(mutex_);
-    if (!armed_) return;
-    left_ -= entries;
-    if (left_ > 0) return;
-    ++waiting_;
-    resumed_.wait(lock, [this] { return !armed_ || left_ > 0; });
-    --waiting_;
 }
 
 }  // namespace zelk::tour

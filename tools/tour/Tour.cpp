@@ -53,8 +53,13 @@ public:
 
 }  // namespace
 
-Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, TourPlan plan)
-    : app_(app), directories_(directories), pretence_(pretence), plan_(std::move(plan)), window_(app) {
+Tour::Tour(AppModel& app, PausingDirectories& directories, PausingContents& contents, Pretence& pretence, TourPlan plan)
+    : app_(app),
+      directories_(directories),
+      contents_(contents),
+      pretence_(pretence),
+      plan_(std::move(plan)),
+      window_(app) {
     app_.setAppearance(plan_.dark ? AppModel::Appearance::dark : AppModel::Appearance::light);
     // Pictures must not show the middle of an animation.
     window_.motion().setReduced(true);
@@ -65,8 +70,8 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, T
 
 bool Tour::run() {
     return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
-           clutter() && tune() && health() && system() && roots() && sidebarAndMenus() && windows() && firstRun() &&
-           smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
+           clutter() && duplicates() && tune() && health() && system() && roots() && sidebarAndMenus() && windows() &&
+           firstRun() && smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
 }
 
 bool Tour::gallery() {
@@ -321,8 +326,8 @@ bool Tour::smallAndLarge() {
     };
     resize(leastSize);
     text.setFactor(largeText);
-    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::tune, Screen::clutter, Screen::lens,
-                                Screen::tools, Screen::settings})
+    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::tune, Screen::clutter, Screen::duplicates,
+                                Screen::lens, Screen::tools, Screen::settings})
         taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
     app_.setSelection(Screen::system);  // its row in the sidebar is out of sight until then
     taken = taken && picture(QStringLiteral("large-text-system"));

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <functional>
 
+#include "PausingContents.h"
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
 #include "state/AppModel.h"
@@ -29,7 +30,7 @@ QStringList textsOfSnapshots();
 class Tour {
 public:
     /// All references must outlive it.
-    Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, TourPlan plan);
+    Tour(AppModel& app, PausingDirectories& directories, PausingContents& contents, Pretence& pretence, TourPlan plan);
 
     /// Shows every screen, window and sheet, every phase of a survey, large text, the smallest window, and the gallery.
     /// False if something was missed or a picture could not be taken.
@@ -49,6 +50,8 @@ private:
     bool taking();
     bool changes();
     bool clutter();
+    bool duplicates();
+    bool hashing();
     bool tune();
     bool roots();
     bool windows();
@@ -83,6 +86,7 @@ private:
 
     AppModel& app_;
     PausingDirectories& directories_;
+    PausingContents& contents_;
     Pretence& pretence_;
     TourPlan plan_;
     MainWindow window_;

@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "PausingContents.h"
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
 #include "PseudoLanguage.h"
@@ -48,6 +49,8 @@ void allowNames(zelk::AppModel& app, zelk::tour::TextCheck& texts) {
     for (const zelk::LargeFile& file : app.insights().topFiles) texts.allow(zelk::nameText(file.path));
     for (const zelk::LargeFile& image : app.insights().diskImages) texts.allow(zelk::nameText(image.path));
     for (const QString& text : zelk::tour::textsOfSnapshots()) texts.allow(text);
+    for (const zelk::DuplicateGroup& group : app.duplicates().groups())
+        for (const std::string& path : group.paths) texts.allow(zelk::displayText(path));
     // What a command answered, or the runner's own word for one that printed nothing.
     if (app.tune().lastOutput()) texts.allow(zelk::printedText(*app.tune().lastOutput()));
     for (const zelk::Agent& agent : app.tune().agents()) {
@@ -103,6 +106,7 @@ int main(int argc, char** argv) {
     const zelk::Platform& real = native.platform();
     zelk::tour::Pretence pretence;
     zelk::tour::PausingDirectories directories(real.directories);
+    zelk::tour::PausingContents contents(real.contents);
     zelk::tour::PretendingClock clock(real.clock, pretence);
     zelk::tour::PretendingTrash trash(real.trash, pretence);
     zelk::tour::PretendingFiles files(real.files);
@@ -117,8 +121,9 @@ int main(int argc, char** argv) {
     zelk::tour::TextCheck texts;
     for (const bool dark : {true, false}) {
         if (pseudo && !dark) break;
-        const zelk::Platform platform{clock,      directories, files,     trash,      vitals, dark ? forDark : forLight,
-                                      real.tasks, processes,   workspace, real.system};
+        const zelk::Platform platform{
+            clock,      directories, files,     contents,   trash, vitals, dark ? forDark : forLight,
+            real.tasks, processes,   workspace, real.system};
         zelk::AppModel app(platform);
         app.setScanRoots({QDir(root).absolutePath().toStdString()});
         const std::function<void(QQuickWindow&, const QString&)> inspect = [&](QQuickWindow& window,
@@ -129,7 +134,7 @@ int main(int argc, char** argv) {
         };
         const zelk::tour::TourPlan plan{folder, size, dark, sample,
                                         pseudo ? inspect : std::function<void(QQuickWindow&, const QString&)>()};
-        complete = complete && zelk::tour::Tour(app, directories, pretence, plan).run();
+        complete = complete && zelk::tour::Tour(app, directories, contents, pretence, plan).run();
     }
     for (const QString& finding : texts.findings()) {
         std::fprintf(stderr, "tour: %s\n", qPrintable(finding));
@@ -137,6 +142,7 @@ int main(int argc, char** argv) {
     }
     if (pseudo) std::printf("%lld texts in the pseudo-language\n", static_cast<long long>(texts.translated()));
     directories.resume();
+    contents.gate().resume();
     for (const QString& message : zelk::tour::takeQtMessages()) {
         std::fprintf(stderr, "tour: a message of Qt: %s\n", qPrintable(message));
         complete = false;

@@ -11,6 +11,7 @@
 #include "platform/posix/DescriptorLimit.h"
 #include "platform/posix/PosixChildProcess.h"
 #include "platform/posix/PosixClock.h"
+#include "platform/posix/PosixFileContents.h"
 #include "platform/posix/PosixTasks.h"
 #include "platform/posix/ThreadCount.h"
 
@@ -24,13 +25,23 @@ struct NativePlatform::Services {
     ThreadTasks tasks;
     LinuxDirectoryService directories;
     LinuxFileManager files;
+    PosixFileContents contents;
     LinuxVitals vitals;
     LinuxLocations locations;
     LinuxTrash trash;
     PosixChildProcess processes;
     LinuxWorkspace workspace;
-    Platform record{clock,     directories, files,     trash,     vitals,
-                    locations, tasks,       processes, workspace, SystemKind::desktopLinux};
+    Platform record{clock,
+                    directories,
+                    files,
+                    contents,
+                    trash,
+                    vitals,
+                    locations,
+                    tasks,
+                    processes,
+                    workspace,
+                    SystemKind::desktopLinux};
 };
 
 NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {

@@ -11,6 +11,7 @@
 #include "platform/posix/DescriptorLimit.h"
 #include "platform/posix/PosixChildProcess.h"
 #include "platform/posix/PosixClock.h"
+#include "platform/posix/PosixFileContents.h"
 #include "platform/posix/PosixTasks.h"
 #include "platform/posix/ThreadCount.h"
 
@@ -23,13 +24,14 @@ struct NativePlatform::Services {
     ThreadTasks tasks;
     BulkDirectoryService directories;
     MacFileManager files;
+    PosixFileContents contents;
     MacVitals vitals;
     MacLocations locations;
     MacTrash trash;
     PosixChildProcess processes;
     MacWorkspace workspace;
-    Platform record{clock,     directories, files,     trash,     vitals,
-                    locations, tasks,       processes, workspace, SystemKind::macOS};
+    Platform record{clock, directories, files,     contents,         trash, vitals, locations,
+                    tasks, processes,   workspace, SystemKind::macOS};
 };
 
 NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {

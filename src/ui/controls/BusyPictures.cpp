@@ -23,7 +23,8 @@ void ProgressPicture::draw(QPainter& painter) {
     const double corner = height() / 2;
     painter.setBrush(track_);
     painter.drawRoundedRect(boundingRect(), corner, corner);
-    const ProgressSliver sliver = progressSliver(seconds_, width());
+    const ProgressSliver sliver =
+        share_ < 0 ? progressSliver(seconds_, width()) : ProgressSliver{0, std::min(share_, 1.0) * width()};
     const double right = sliver.left + sliver.width;
     const QRectF within(QPointF(std::max(0.0, sliver.left), 0), QPointF(std::min(width(), right), height()));
     if (within.width() <= 0) return;

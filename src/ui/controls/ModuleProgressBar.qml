@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// An indeterminate progress bar, animated while visible. With reduced motion the segment rests in the middle.
+// A progress bar. Without a share it is indeterminate: a segment moves while it is visible, and rests in the middle with
+// reduced motion.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -33,6 +34,6 @@ ProgressPicture {
         to: bar.period
         duration: bar.period * 1000
         loops: Animation.Infinite
-        running: bar.visible && !Motion.reduced
+        running: bar.visible && bar.share < 0 && !Motion.reduced
     }
 }

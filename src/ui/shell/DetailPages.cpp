@@ -7,6 +7,7 @@
 
 #include "state/AppModel.h"
 #include "ui/screens/clutter/ClutterScreenModel.h"
+#include "ui/screens/duplicates/DuplicatesScreenModel.h"
 #include "ui/screens/health/HealthScreenModel.h"
 #include "ui/screens/lens/LensScreenModel.h"
 #include "ui/screens/module/ModuleScreenModel.h"
@@ -58,7 +59,7 @@ constexpr ScreenPlace places[] = {
     {Screen::tune, "TuneView", "tune", make<TuneScreenModel>},
     {Screen::apps, "ModuleScaffold", "module", introduce<Screen::apps>},
     {Screen::clutter, "ClutterView", "clutter", make<ClutterScreenModel>},
-    {Screen::duplicates, "ModuleScaffold", "module", introduce<Screen::duplicates>},
+    {Screen::duplicates, "DuplicatesView", "duplicates", make<DuplicatesScreenModel>},
     {Screen::lens, "MapView", "lens", make<LensScreenModel>},
     {Screen::health, "HealthView", "health", make<HealthScreenModel>},
     {Screen::system, "SystemView", "system", make<SystemScreenModel>},

@@ -78,7 +78,8 @@ FocusScope {
                 objectName: "moduleProgressBar"
                 tint: scaffold.module.tint
                 name: scaffold.module.title
-                doing: scaffold.module.scanningLabel
+                doing: scaffold.module.doing
+                share: scaffold.module.share
             }
         }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
+#include "ui/controls/AccessibleText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/ScreenLook.h"
 
@@ -52,6 +53,17 @@ void ModuleScreenModel::setScanDetail(const QString& detail) {
     emit scanDetailChanged();
 }
 
+QString ModuleScreenModel::doing() const {
+    return AccessibleText::joined({texts_.scanningLabel, toldShare_});
+}
+
+void ModuleScreenModel::setShare(double share, const QString& told) {
+    if (share == share_ && told == toldShare_) return;
+    share_ = share;
+    toldShare_ = told;
+    emit shareChanged();
+}
+
 void ModuleScreenModel::scan() {
     if (onScan_) onScan_();
 }
@@ -98,10 +110,6 @@ std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(Screen screen) {
             texts.subtitle = ModuleScreenModel::tr(
                 "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, "
                 "preferences, and support files.");
-            break;
-        case Screen::duplicates:
-            texts.subtitle = ModuleScreenModel::tr(
-                "Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.");
             break;
         default:
             break;

@@ -46,6 +46,8 @@ class ModuleScreenModel : public QObject {
     Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool results READ results NOTIFY phaseChanged FINAL)
     Q_PROPERTY(QString scanDetail READ scanDetail NOTIFY scanDetailChanged FINAL)
+    Q_PROPERTY(double share READ share NOTIFY shareChanged FINAL)
+    Q_PROPERTY(QString doing READ doing NOTIFY shareChanged FINAL)
 
 public:
     /// An empty title is replaced by the screen's.
@@ -71,6 +73,13 @@ public:
     const QString& scanDetail() const { return scanDetail_; }
     void setScanDetail(const QString& detail);
 
+    /// How much of the scan is done, from 0 to 1; negative if that is not known.
+    double share() const { return share_; }
+    /// What it does, for a screen reader: the label and how much of it is done.
+    QString doing() const;
+    /// `told` is the share in words; may be empty.
+    void setShare(double share, const QString& told);
+
 public slots:
     /// Starts a scan, as the button of the start page does.
     void scan();
@@ -80,6 +89,7 @@ public slots:
 signals:
     void phaseChanged();
     void scanDetailChanged();
+    void shareChanged();
 
 private:
     Screen screen_;
@@ -88,6 +98,8 @@ private:
     std::function<void()> onCancel_;
     ModulePhase phase_ = ModulePhase::idle;
     QString scanDetail_;
+    double share_ = -1;
+    QString toldShare_;
 };
 
 /// A module based on the survey: has its phase, starts one with its button, and shows its progress, throttled to a
