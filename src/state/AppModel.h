@@ -17,6 +17,7 @@
 #include "reclaim/ReclaimTotals.h"
 #include "scan/ScanUpdate.h"
 #include "state/AdminRunner.h"
+#include "state/AppsModel.h"
 #include "state/CleanupSession.h"
 #include "state/MainThreadQueue.h"
 #include "state/RemovalUndo.h"
@@ -91,10 +92,13 @@ public:
 
     /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
-    /// What the last trashAndRemove(), trashLargeFile() or removal of background items moved to the Trash.
+    /// What the last trashAndRemove(), trashLargeFile(), removal of background items or of an application moved to the
+    /// Trash.
     RemovalUndo& removalUndo() { return removalUndo_; }
     /// Memory, caches, and what starts in the background.
     TuneModel& tune() { return tune_; }
+    /// The installed applications.
+    AppsModel& apps() { return apps_; }
     /// Commands that need an administrator.
     AdminRunner& admin() { return admin_; }
     /// The services, for the models of screens.
@@ -212,6 +216,7 @@ private:
     RemovalUndo removalUndo_;
     CleanupSession cleanup_;
     TuneModel tune_;
+    AppsModel apps_;
     std::shared_ptr<SurveySession> scanTask_;  // running or finished; absent after a cancel
     bool scanAgain_ = false;                   // when that one has finished
 };

@@ -21,12 +21,13 @@ class RemovalUndo : public QObject {
 
 public:
     enum class Source {
-        folders,         ///< AppModel::trashAndRemove()
-        largeFile,       ///< AppModel::trashLargeFile()
-        backgroundItems  ///< TuneModel::removeSelected()
+        folders,          ///< AppModel::trashAndRemove()
+        largeFile,        ///< AppModel::trashLargeFile()
+        backgroundItems,  ///< TuneModel::removeSelected()
+        applications      ///< AppsModel::uninstall()
     };
     /// Whether what is removed there was found by a survey, so that another survey concerns its undo.
-    static bool isOfSurvey(Source source) { return source != Source::backgroundItems; }
+    static bool isOfSurvey(Source source) { return source == Source::folders || source == Source::largeFile; }
 
     struct Item {
         TrashedItem trashed;

@@ -161,9 +161,14 @@ public:
     std::optional<FileProperties> properties(const std::string& path) override { return real_.properties(path); }
     std::optional<std::vector<std::string>> list(const std::string& path) override { return real_.list(path); }
     std::uint64_t allocatedSizeBelow(const std::string& path) override { return real_.allocatedSizeBelow(path); }
+    std::uint64_t fullSizeBelow(const std::string& path) override { return real_.fullSizeBelow(path); }
+    std::optional<std::string> realPath(const std::string& path) override { return real_.realPath(path); }
     std::optional<std::string> read(const std::string& path) override { return real_.read(path); }
     std::optional<std::string> readSmall(const std::string& path, std::size_t most) override {
         return real_.readSmall(path, most);
+    }
+    std::optional<std::string> readStart(const std::string& path, std::size_t most) override {
+        return real_.readStart(path, most);
     }
     bool replaceDurably(const std::string& path, std::string_view content) override {
         return real_.replaceDurably(path, content);
@@ -198,6 +203,9 @@ public:
     void openURL(const std::string&) override {}
     std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override {
         return real_.icon(path, isDirectory, side);
+    }
+    std::optional<IconPixels> entryIcon(const std::string& nameOrPath, int side) override {
+        return real_.entryIcon(nameOrPath, side);
     }
 
 private:
