@@ -115,7 +115,8 @@ void AppsModel::uninstall(const AppEntry& app, const std::vector<Leftover>& left
 
 AppsModel::Done AppsModel::removeAll(const Platform& platform, const AppEntry& app,
                                      const std::vector<Leftover>& leftovers, Removal& removal) {
-    Done done{.app = app, .listed = leftovers.size()};
+    Done done;
+    done.app = app;
     done.begun = removal.mayBegin();
     if (done.begun) {
         done.removal = removeApplication(platform, app);

@@ -98,8 +98,7 @@ private:
     struct Done {
         AppEntry app;
         AppRemoval removal;
-        std::size_t listed = 0;  ///< leftovers
-        std::size_t moved = 0;
+        std::size_t moved = 0;  ///< leftovers
         std::size_t stayed = 0;
         std::vector<TrashedItem> leftovers;  ///< those whose place in the Trash is known
         bool leavesList = false;

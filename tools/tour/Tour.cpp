@@ -65,7 +65,7 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, T
 
 bool Tour::run() {
     return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
-           clutter() && tune() && health() && system() && roots() && sidebarAndMenus() && windows() && firstRun() &&
+           clutter() && tune() && apps() && health() && system() && roots() && sidebarAndMenus() && windows() && firstRun() &&
            smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
 }
 

@@ -50,6 +50,9 @@ private:
     bool changes();
     bool clutter();
     bool tune();
+    bool apps();
+    bool appSheets();
+    bool appRemovals();
     bool roots();
     bool windows();
     bool sidebarAndMenus();

@@ -68,6 +68,7 @@ Sheet {
                 anchors.margins: 1
                 topMargin: 6
                 bottomMargin: 6
+                focus: true
                 name: qsTr("What will go")
                 model: sheet.removal.rows
                 delegate: PartRow {
@@ -93,7 +94,6 @@ Sheet {
             Button {
                 objectName: "cancelUninstall"
                 anchors.verticalCenter: parent.verticalCenter
-                focus: true
                 text: qsTr("Cancel")
                 onClicked: sheet.removal.cancel()
             }
