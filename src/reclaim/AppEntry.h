@@ -44,19 +44,19 @@ struct AppObstacle {
 
 /// An application. Identified by `url`.
 struct AppEntry {
-    std::string url;   ///< the path, in bytes, of its bundle, folder or file; of a package the path of its desktop entry
-    std::string name;  ///< for display; of a bundle the bytes of its folder's name
+    std::string url;  ///< the path, in bytes, of its bundle, folder or file; of a package the path of its desktop entry
+    std::string name;                     ///< for display; of a bundle the bytes of its folder's name
     std::uint64_t size = 0;               ///< bytes
     std::optional<std::string> bundleID;  ///< on Linux what its entry is called
     std::uint64_t dataTotal = 0;          ///< bytes of what it keeps elsewhere; 0 until that is known
 
     AppKind kind = AppKind::bundle;
-    std::string package;                     ///< what its tool calls it; empty if no tool removes it
-    std::string program = {};                ///< the name of its program; empty if that identifies no application
-    std::string icon = {};                   ///< for Workspace::entryIcon()
-    std::vector<std::string> entries = {};   ///< the user's desktop entries that start it, which go with it
-    bool sharesID = false;                   ///< another application has its `bundleID` too
-    bool sharesProgram = false;              ///< another application has its `program` too
+    std::string package;                    ///< what its tool calls it; empty if no tool removes it
+    std::string program = {};               ///< the name of its program; empty if that identifies no application
+    std::string icon = {};                  ///< for Workspace::entryIcon()
+    std::vector<std::string> entries = {};  ///< the user's desktop entries that start it, which go with it
+    bool sharesID = false;                  ///< another application has its `bundleID` too
+    bool sharesProgram = false;             ///< another application has its `program` too
     AppObstacle obstacle = {};
 
     bool operator==(const AppEntry&) const = default;

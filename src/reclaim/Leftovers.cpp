@@ -18,11 +18,13 @@ constexpr std::size_t shortestName = 3;
 
 // Folders that belong to the desktop or to several programs, whatever a program is called. "*" at the end stands for
 // anything.
-constexpr std::string_view sharedData[]{"applications", "backgrounds", "desktop-directories", "flatpak", "fonts",
-                           "gvfs-metadata", "icons", "keyrings", "mime", "sounds", "systemd", "themes", "Trash",
-                           "xorg"};
-constexpr std::string_view sharedConfig[]{"autostart", "dconf", "environment.d", "fontconfig", "gtk-*", "ibus",
-                             "menus", "mozilla", "pulse", "systemd"};
+constexpr std::string_view sharedData[]{"applications", "backgrounds", "desktop-directories",
+                                        "flatpak",      "fonts",       "gvfs-metadata",
+                                        "icons",        "keyrings",    "mime",
+                                        "sounds",       "systemd",     "themes",
+                                        "Trash",        "xorg"};
+constexpr std::string_view sharedConfig[]{"autostart", "dconf", "environment.d", "fontconfig", "gtk-*",
+                                          "ibus",      "menus", "mozilla",       "pulse",      "systemd"};
 constexpr std::string_view sharedCache[]{"fontconfig", "mesa_shader_cache*", "mozilla", "thumbnails"};
 
 bool matches(std::string_view name, std::string_view pattern) {

@@ -168,8 +168,7 @@ void AppsModel::offerUndo(const Done& done) {
     const bool isGone = done.begun && done.removal.outcome == AppRemoval::Outcome::gone;
     std::vector<RemovalUndo::Item> items;
     // Called by an object of the same owner, while both exist.
-    if (done.removal.trashed)
-        items.push_back({*done.removal.trashed, [this, app = done.app] { return putBack(app); }});
+    if (done.removal.trashed) items.push_back({*done.removal.trashed, [this, app = done.app] { return putBack(app); }});
     for (const TrashedItem& leftover : done.leftovers) items.push_back({leftover, [] { return true; }});
     undo_.offer(RemovalUndo::Source::applications, done.moved + (isGone ? 1 : 0), std::move(items));
 }
@@ -191,11 +190,11 @@ void AppsModel::forgetEnding() {
 }
 
 void AppsModel::prepare(const AppEntry& app, std::function<void(const Preparation&)> done) {
-    platform_.tasks.runApart(
-        TaskPriority::userInitiated, [mainThread = mainThread_, platform = platform_, app, done = std::move(done)] {
-            Preparation preparation{Leftovers(platform).of(app), obstacleNow(platform, app)};
-            mainThread.post([done, preparation = std::move(preparation)] { done(preparation); });
-        });
+    platform_.tasks.runApart(TaskPriority::userInitiated,
+                             [mainThread = mainThread_, platform = platform_, app, done = std::move(done)] {
+                                 Preparation preparation{Leftovers(platform).of(app), obstacleNow(platform, app)};
+                                 mainThread.post([done, preparation = std::move(preparation)] { done(preparation); });
+                             });
 }
 
 std::vector<std::string> AppsModel::leftoverCandidates(const AppEntry& app) const {

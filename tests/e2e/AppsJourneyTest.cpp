@@ -188,8 +188,8 @@ TEST_F(LinuxAppsJourney, hasNoFaultInAnySizeOrTheme) {
                     window().grabWindow();
                     runWhatIsThere();
                     window().grabWindow();
-                    const std::string where = state + " " + std::to_string(size.width()) + " by " +
-                                              std::to_string(factor);
+                    const std::string where =
+                        state + " " + std::to_string(size.width()) + " by " + std::to_string(factor);
                     EXPECT_THAT(layoutFaults(window()), IsEmpty()) << where;
                     EXPECT_THAT(accessibilityFaults(window()), IsEmpty()) << where;
                     EXPECT_THAT(ringFaults(window()), IsEmpty()) << where;
@@ -274,9 +274,9 @@ TEST(RealAppsJourney, removesExactlyWhatTheSheetLists) {
         const auto leftovers = model.apps().leftoversFor(tidepool);
         Strings listed;
         for (const auto& one : leftovers) listed.push_back(one.url.substr(home.size()));
-        EXPECT_THAT(listed, ElementsAre("/.local/share/applications/org.sample.Tidepool.desktop",
-                                        "/.cache/org.sample.Tidepool", "/conf/tidepool",
-                                        "/conf/autostart/org.sample.Tidepool.desktop"));
+        EXPECT_THAT(listed,
+                    ElementsAre("/.local/share/applications/org.sample.Tidepool.desktop", "/.cache/org.sample.Tidepool",
+                                "/conf/tidepool", "/conf/autostart/org.sample.Tidepool.desktop"));
         model.apps().uninstall(tidepool, leftovers);
         runUntil([&] { return !model.apps().removing(); });
         std::set<std::string> expected = before;

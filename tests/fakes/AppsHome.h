@@ -43,8 +43,8 @@ public:
     /// `machine` must outlive it.
     explicit LinuxApps(FakePlatform& machine) : machine_(machine) {
         machine.system = SystemKind::desktopLinux;
-        machine.locations.xdg = XdgHomes{home + "/.local/share", home + "/.config", home + "/.cache",
-                                         home + "/.local/state"};
+        machine.locations.xdg =
+            XdgHomes{home + "/.local/share", home + "/.config", home + "/.cache", home + "/.local/state"};
         machine.locations.programs = {"/usr/bin"};
         for (const char* tool : {"flatpak", "snap", "dpkg-query", "apt-get"})
             machine.files.addFile(std::string("/usr/bin/") + tool);

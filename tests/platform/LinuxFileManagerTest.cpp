@@ -72,14 +72,23 @@ TEST(LinuxFileManager, readsSmallFilesOnly) {
 
 TEST(LinuxFileManager, readsStartOfFiles) {
     const TempFolder folder;
-    fakes::writeFile(folder / "file", std::string("1\0""345", 5));
+    fakes::writeFile(folder / "file", std::string("1\0"
+                                                  "345",
+                                                  5));
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     ASSERT_EQ(::symlink("file", (folder / "link").c_str()), 0);
-    EXPECT_EQ(manager.readStart(folder / "file", 3), std::string("1\0""3", 3));
-    EXPECT_EQ(manager.readStart(folder / "link", 5), std::string("1\0""345", 5));
-    EXPECT_EQ(manager.readStart(folder / "file", 99), std::string("1\0""345", 5));
+    EXPECT_EQ(manager.readStart(folder / "file", 3), std::string("1\0"
+                                                                 "3",
+                                                                 3));
+    EXPECT_EQ(manager.readStart(folder / "link", 5), std::string("1\0"
+                                                                 "345",
+                                                                 5));
+    EXPECT_EQ(manager.readStart(folder / "file", 99), std::string("1\0"
+                                                                  "345",
+                                                                  5));
     EXPECT_EQ(manager.readStart(folder / "file", 0), "");
-    for (const char* name : {"pipe", "missing", "."}) EXPECT_EQ(manager.readStart(folder / name, 3), std::nullopt) << name;
+    for (const char* name : {"pipe", "missing", "."})
+        EXPECT_EQ(manager.readStart(folder / name, 3), std::nullopt) << name;
 }
 
 TEST(LinuxFileManager, realPathHasNoLinks) {

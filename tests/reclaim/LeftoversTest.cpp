@@ -53,16 +53,15 @@ protected:
 }  // namespace
 
 TEST(LeftoverCandidates, ofBundleComeByIdentifierThenByName) {
-    EXPECT_EQ(leftoverCandidates("/Users/me", "org.sample.Inkwell", "Inkwell"),
-              (Paths{"/Users/me/Library/Application Support/org.sample.Inkwell",
-                     "/Users/me/Library/Caches/org.sample.Inkwell",
-                     "/Users/me/Library/Preferences/org.sample.Inkwell.plist",
-                     "/Users/me/Library/Logs/org.sample.Inkwell",
-                     "/Users/me/Library/Saved Application State/org.sample.Inkwell.savedState",
-                     "/Users/me/Library/Containers/org.sample.Inkwell",
-                     "/Users/me/Library/HTTPStorages/org.sample.Inkwell", "/Users/me/Library/WebKit/org.sample.Inkwell",
-                     "/Users/me/Library/Application Support/Inkwell", "/Users/me/Library/Caches/Inkwell",
-                     "/Users/me/Library/Logs/Inkwell"}));
+    EXPECT_EQ(
+        leftoverCandidates("/Users/me", "org.sample.Inkwell", "Inkwell"),
+        (Paths{"/Users/me/Library/Application Support/org.sample.Inkwell",
+               "/Users/me/Library/Caches/org.sample.Inkwell", "/Users/me/Library/Preferences/org.sample.Inkwell.plist",
+               "/Users/me/Library/Logs/org.sample.Inkwell",
+               "/Users/me/Library/Saved Application State/org.sample.Inkwell.savedState",
+               "/Users/me/Library/Containers/org.sample.Inkwell", "/Users/me/Library/HTTPStorages/org.sample.Inkwell",
+               "/Users/me/Library/WebKit/org.sample.Inkwell", "/Users/me/Library/Application Support/Inkwell",
+               "/Users/me/Library/Caches/Inkwell", "/Users/me/Library/Logs/Inkwell"}));
 }
 
 TEST(LeftoverCandidates, ofBundleWithoutIdentifierComeByNameOnly) {
@@ -153,8 +152,7 @@ TEST(LeftoverCandidates, leaveOutFoldersThatManyShare) {
     expectNone("/.cache/", {"fontconfig", "mesa_shader_cache", "mesa_shader_cache_db", "mozilla", "thumbnails"});
     // Each only where it is shared, and to the letter.
     EXPECT_THAT(placesOf(packaged("x", "mozilla")), ElementsAre(leftHome + "/.local/share/mozilla"));
-    EXPECT_THAT(placesOf(packaged("x", "icons")),
-                ElementsAre(leftHome + "/.cache/icons", leftHome + "/.config/icons"));
+    EXPECT_THAT(placesOf(packaged("x", "icons")), ElementsAre(leftHome + "/.cache/icons", leftHome + "/.config/icons"));
     EXPECT_EQ(placesOf(packaged("x", "Icons")).size(), 3U);
     EXPECT_EQ(placesOf(packaged("x", "gtkx")).size(), 3U);
     EXPECT_EQ(placesOf(packaged("x", "dconf2")).size(), 3U);

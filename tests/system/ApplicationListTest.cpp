@@ -99,8 +99,8 @@ TEST_F(ApplicationListTest, tenSharedOrReservedNamesAreNeverOffered) {
     EXPECT_THAT(leftoversOf("fontconfig"), ElementsAre(home + "/.local/share/fontconfig"));
     EXPECT_THAT(leftoversOf("thumbnails"),
                 ElementsAre(home + "/.local/share/thumbnails", home + "/.config/thumbnails"));
-    EXPECT_THAT(leftoversOf("gtk-3.0"), ElementsAre(home + "/.local/share/gtk-3.0",
-                                                  home + "/.cache/gtk-3.0", home + "/.local/state/gtk-3.0"));
+    EXPECT_THAT(leftoversOf("gtk-3.0"),
+                ElementsAre(home + "/.local/share/gtk-3.0", home + "/.cache/gtk-3.0", home + "/.local/state/gtk-3.0"));
 }
 
 TEST_F(ApplicationListTest, twoEntriesOfOneApplicationShareNothing) {

@@ -115,19 +115,19 @@ TEST(DpkgStatus, readsArchitecturesInDependencies) {
 }
 
 TEST(DpkgStatus, readsOwnersOfPaths) {
-    EXPECT_THAT(parseDpkgOwners("falkon: /usr/share/applications/org.kde.falkon.desktop\n"
-                                "libx:amd64: /usr/share/applications/x.desktop\n"
-                                "one, two:i386: /usr/share/applications/both.desktop\n"
-                                "diversion by one from: /usr/share/applications/a.desktop\n"
-                                "Umleitung durch one zu: /usr/share/applications/b.desktop\n"
-                                "dpkg-query: no path found matching pattern /x\n"
-                                "local: no/slash\n\n"
-                                "vim: /usr/share/applications/with: colon.desktop\n"),
-                UnorderedElementsAre(
-                    Pair("/usr/share/applications/org.kde.falkon.desktop", UnorderedElementsAre("falkon")),
-                    Pair("/usr/share/applications/x.desktop", UnorderedElementsAre("libx")),
-                    Pair("/usr/share/applications/both.desktop", UnorderedElementsAre("one", "two")),
-                    Pair("/usr/share/applications/with: colon.desktop", UnorderedElementsAre("vim"))));
+    EXPECT_THAT(
+        parseDpkgOwners("falkon: /usr/share/applications/org.kde.falkon.desktop\n"
+                        "libx:amd64: /usr/share/applications/x.desktop\n"
+                        "one, two:i386: /usr/share/applications/both.desktop\n"
+                        "diversion by one from: /usr/share/applications/a.desktop\n"
+                        "Umleitung durch one zu: /usr/share/applications/b.desktop\n"
+                        "dpkg-query: no path found matching pattern /x\n"
+                        "local: no/slash\n\n"
+                        "vim: /usr/share/applications/with: colon.desktop\n"),
+        UnorderedElementsAre(Pair("/usr/share/applications/org.kde.falkon.desktop", UnorderedElementsAre("falkon")),
+                             Pair("/usr/share/applications/x.desktop", UnorderedElementsAre("libx")),
+                             Pair("/usr/share/applications/both.desktop", UnorderedElementsAre("one", "two")),
+                             Pair("/usr/share/applications/with: colon.desktop", UnorderedElementsAre("vim"))));
 }
 
 TEST(DpkgStatus, readsWhatAptWouldRemove) {
@@ -140,13 +140,12 @@ TEST(DpkgStatus, readsWhatAptWouldRemove) {
 }
 
 TEST(DpkgStatus, knowsNamesOfPackages) {
-    for (const std::string& name : {std::string("ab"), std::string("0ad"), std::string("g++"),
-                                    std::string("python3.11"), std::string(255, 'x')})
-        EXPECT_TRUE(isPackageName(name)) << name;
     for (const std::string& name :
-         {std::string(), std::string("a"), std::string(256, 'x'), std::string("-o"), std::string("+a"),
-          std::string("Ab"), std::string("a_b"), std::string("a b"), std::string("a:i386"), std::string("a/s"),
-          std::string("a;b"), std::string("ab\n")})
+         {std::string("ab"), std::string("0ad"), std::string("g++"), std::string("python3.11"), std::string(255, 'x')})
+        EXPECT_TRUE(isPackageName(name)) << name;
+    for (const std::string& name : {std::string(), std::string("a"), std::string(256, 'x'), std::string("-o"),
+                                    std::string("+a"), std::string("Ab"), std::string("a_b"), std::string("a b"),
+                                    std::string("a:i386"), std::string("a/s"), std::string("a;b"), std::string("ab\n")})
         EXPECT_FALSE(isPackageName(name)) << name;
 }
 

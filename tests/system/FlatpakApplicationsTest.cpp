@@ -56,11 +56,12 @@ TEST_F(FlatpakApplicationsTest, asksForSizeOfTheRightInstallation) {
     EXPECT_EQ(apps[0].size, 1'000U);
     EXPECT_EQ(apps[1].size, 2'000U);
     EXPECT_NE(apps[0].url, apps[1].url);
-    EXPECT_THAT(machine.processes.calls(),
-                ElementsAre(fakes::FakeProcesses::Call{
-                                flatpakTool, {"info", "--user", "--show-size", orrery}, {false, false, true}},
-                            fakes::FakeProcesses::Call{
-                                flatpakTool, {"info", "--system", "--show-size", orrery}, {false, false, true}}));
+    EXPECT_THAT(
+        machine.processes.calls(),
+        ElementsAre(
+            fakes::FakeProcesses::Call{flatpakTool, {"info", "--user", "--show-size", orrery}, {false, false, true}},
+            fakes::FakeProcesses::Call{
+                flatpakTool, {"info", "--system", "--show-size", orrery}, {false, false, true}}));
 }
 
 TEST_F(FlatpakApplicationsTest, walksWhereTheToolGivesNoSize) {
@@ -115,9 +116,9 @@ TEST_F(FlatpakApplicationsTest, skipsWhatIsNoFlatpakOrIsGone) {
 
 TEST(FlatpakNames, areReverseDomains) {
     for (const char* name : {"org.sample.Orrery", "a.b", "org.x_y-z.A1"}) EXPECT_TRUE(isFlatpakID(name)) << name;
-    for (const std::string& name : {std::string(), std::string("Orrery"), std::string("-a.b"), std::string(".a.b"),
-                                    std::string("a b.c"), std::string("a.b/c"), std::string("a.b;c"),
-                                    std::string("a.b\n"), "a." + std::string(254, 'x')})
+    for (const std::string& name :
+         {std::string(), std::string("Orrery"), std::string("-a.b"), std::string(".a.b"), std::string("a b.c"),
+          std::string("a.b/c"), std::string("a.b;c"), std::string("a.b\n"), "a." + std::string(254, 'x')})
         EXPECT_FALSE(isFlatpakID(name)) << name;
     EXPECT_TRUE(isFlatpakID("a." + std::string(253, 'x')));
 }

@@ -131,7 +131,8 @@ TEST_F(OwnApplicationsTest, appImageOfAnotherUserStays) {
 TEST_F(OwnApplicationsTest, findsUnpackedApplicationWithAllOfItsFolder) {
     machine.files.addFile(home + "/Tidepool/tidepool", "program", 1'000);
     machine.files.addFile(home + "/Tidepool/data/.hidden", {}, 200);
-    desktop.addOwnEntry("org.sample.Tidepool", "Tidepool", "env A=b " + home + "/Tidepool/tidepool %f", "Icon=/i.png\n");
+    desktop.addOwnEntry("org.sample.Tidepool", "Tidepool", "env A=b " + home + "/Tidepool/tidepool %f",
+                        "Icon=/i.png\n");
     AppEntry tidepool;
     tidepool.url = home + "/Tidepool";
     tidepool.name = "Tidepool";
@@ -166,10 +167,10 @@ TEST_F(OwnApplicationsTest, severalEntriesOfOneProgramGoTogether) {
 TEST_F(OwnApplicationsTest, neverTakesAFolderForOtherThings) {
     int number = 0;
     for (const char* place :
-         {"/run", "/Desktop/run", "/Documents/run", "/Downloads/run", "/Music/run", "/Pictures/run", "/Public/run",
-          "/Templates/run", "/Videos/run", "/Applications/run", "/bin/run", "/apps/run", "/Work/Tools/run",
-          "/projects/run", "/.local/opt/editor/run", "/.hidden/run", "/Editor/.hidden/run", "/snap/run",
-          "/Documents/bin/run", "/Akten/run"})
+         {"/run",          "/Desktop/run",        "/Documents/run",  "/Downloads/run",     "/Music/run",
+          "/Pictures/run", "/Public/run",         "/Templates/run",  "/Videos/run",        "/Applications/run",
+          "/bin/run",      "/apps/run",           "/Work/Tools/run", "/projects/run",      "/.local/opt/editor/run",
+          "/.hidden/run",  "/Editor/.hidden/run", "/snap/run",       "/Documents/bin/run", "/Akten/run"})
         unpack(home + place, "id" + std::to_string(number++));
     machine.files.addFile(home + "/.config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Akten\"\n");
     EXPECT_THAT(urlsOf(unpacked()), IsEmpty());
@@ -245,10 +246,9 @@ TEST(UserFolders, areThoseConfiguredAndTheUsualOnes) {
         "XDG_VIDEOS_DIR=\"$HOME/\"\nXDG_PICTURES_DIR=\"relative\"\nXDG_DESKTOP_DIR=$HOME/x\nOTHER=\"$HOME/o\"\nXDG_X\n",
         "/home/me");
     EXPECT_EQ(folders.downloads, "/home/me/My \"Loads\"");
-    EXPECT_THAT(folders.all,
-                ElementsAre("/home/me/Desktop", "/home/me/Documents", "/home/me/Downloads", "/home/me/Music",
-                            "/home/me/Pictures", "/home/me/Public", "/home/me/Templates", "/home/me/Videos",
-                            "/home/me/My \"Loads\"", "/srv/music"));
+    EXPECT_THAT(folders.all, ElementsAre("/home/me/Desktop", "/home/me/Documents", "/home/me/Downloads",
+                                         "/home/me/Music", "/home/me/Pictures", "/home/me/Public", "/home/me/Templates",
+                                         "/home/me/Videos", "/home/me/My \"Loads\"", "/srv/music"));
     EXPECT_EQ(parseUserFolders("", "/home/me").downloads, "/home/me/Downloads");
 }
 

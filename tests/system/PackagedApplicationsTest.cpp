@@ -47,11 +47,11 @@ TEST_F(PackagedApplicationsTest, asksForAllPackagesAtOnce) {
     for (const char* name : {"aa", "bb", "cc"}) desktop.addPackaged({name}, name, name);
     EXPECT_THAT(found(), SizeIs(3));
     const ChildStreams asked{false, false, true};
-    EXPECT_THAT(machine.processes.calls(),
-                ElementsAre(fakes::FakeProcesses::Call{
-                                "/usr/bin/dpkg-query", {"-S", "/usr/share/applications/*.desktop"}, asked},
-                            fakes::FakeProcesses::Call{
-                                "/usr/bin/dpkg-query", {"-W", std::string("-f=") + dpkgFormat}, asked}));
+    EXPECT_THAT(
+        machine.processes.calls(),
+        ElementsAre(
+            fakes::FakeProcesses::Call{"/usr/bin/dpkg-query", {"-S", "/usr/share/applications/*.desktop"}, asked},
+            fakes::FakeProcesses::Call{"/usr/bin/dpkg-query", {"-W", std::string("-f=") + dpkgFormat}, asked}));
 }
 
 TEST_F(PackagedApplicationsTest, listsAPackageOnceByItsMainEntry) {
@@ -135,8 +135,9 @@ TEST_F(PackagedApplicationsTest, readsEntriesInFolders) {
 TEST_F(PackagedApplicationsTest, aptSaysWhatWouldGoAlong) {
     ChildProcess& processes = machine.processes;
     EXPECT_EQ(obstacleOfRemoving(processes, "inkwell"), AppObstacle());
-    EXPECT_EQ(machine.processes.calls().at(0),
-              (fakes::FakeProcesses::Call{"/usr/bin/apt-get", {"-s", "remove", "--", "inkwell"}, {false, false, true}}));
+    EXPECT_EQ(
+        machine.processes.calls().at(0),
+        (fakes::FakeProcesses::Call{"/usr/bin/apt-get", {"-s", "remove", "--", "inkwell"}, {false, false, true}}));
     desktop.alongside = {"plugins", "desktop"};
     EXPECT_EQ(obstacleOfRemoving(processes, "inkwell"),
               (AppObstacle{AppObstacle::Reason::needed, {"plugins", "desktop"}}));

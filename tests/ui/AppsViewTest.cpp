@@ -40,11 +40,11 @@ TEST_F(MacApps, readingFaceNamesTheFolder) {
 
 TEST_F(MacApps, listShowsItsTextsInOrder) {
     openScanned();
-    EXPECT_EQ(seenTexts(), (Strings{"Apps", appsPurpose, "Apps",
-                                    "3 apps · footprint includes caches, support & containers", "Total footprint",
-                                    "App size", "Inkwell", "app 300 MB · data 1 GB", "1.3 GB", "Uninstall", "Sonata",
-                                    "org.sample.sonata", "500 MB", "Uninstall", "Tidepool",
-                                    "/Applications/Tidepool.app", "100 MB", "Uninstall"}));
+    EXPECT_EQ(seenTexts(),
+              (Strings{"Apps", appsPurpose, "Apps", "3 apps · footprint includes caches, support & containers",
+                       "Total footprint", "App size", "Inkwell", "app 300 MB · data 1 GB", "1.3 GB", "Uninstall",
+                       "Sonata", "org.sample.sonata", "500 MB", "Uninstall", "Tidepool", "/Applications/Tidepool.app",
+                       "100 MB", "Uninstall"}));
     EXPECT_EQ(sizeOf("Inkwell"), 13);
 }
 
@@ -138,9 +138,9 @@ TEST_F(MacApps, confirmingMovesAllAndTheRowGoes) {
     confirm();
     EXPECT_EQ(find("confirmUninstall"), nullptr);
     EXPECT_EQ(rowNames(), (Strings{"Sonata", "Tidepool"}));
-    EXPECT_THAT(machine.trash.trashed(), ElementsAre("/Applications/Inkwell.app",
-                                                     home + "/Library/Application Support/org.sample.inkwell",
-                                                     home + "/Library/Caches/Inkwell"));
+    EXPECT_THAT(machine.trash.trashed(),
+                ElementsAre("/Applications/Inkwell.app", home + "/Library/Application Support/org.sample.inkwell",
+                            home + "/Library/Caches/Inkwell"));
     expectTexts({"Moved to the Trash", "Undo", "2 apps · footprint includes caches, support & containers"});
     click("undoRemoval");
     runUntil([this] { return !model().removalUndo().underWay(); });
@@ -225,6 +225,8 @@ TEST_F(MacApps, othersRestWhileOneIsRemoved) {
     EXPECT_NE(find("uninstalling0"), nullptr);
     EXPECT_EQ(find("uninstall0"), nullptr);
     EXPECT_FALSE(find("uninstall1")->isEnabled());
+    EXPECT_TRUE(said(0).text(QAccessible::Name).endsWith(QStringLiteral(", being removed")));
+    EXPECT_FALSE(said(1).text(QAccessible::Name).endsWith(QStringLiteral(", being removed")));
     screen().uninstall(1);
     EXPECT_FALSE(screen().sheet()->isOpen());
     machine.tasks.release();
@@ -299,9 +301,10 @@ TEST_F(LinuxAppsWindow, sheetOfAFlatpakSaysSo) {
 TEST_F(LinuxAppsWindow, sheetOfASnapSaysWhatSnapDoes) {
     openScanned();
     ask(2);
-    expectTexts({"Removes the app through snap, for good — 303 MB. Snap removes the folder of the app too, and keeps a "
-                 "copy of what it stored for 31 days.",
-                 "chat_42.snap", "removed by snap", "chat", "3 MB"});
+    expectTexts(
+        {"Removes the app through snap, for good — 303 MB. Snap removes the folder of the app too, and keeps a "
+         "copy of what it stored for 31 days.",
+         "chat_42.snap", "removed by snap", "chat", "3 MB"});
     EXPECT_THAT(seenTexts(), Not(Contains("to the Trash")));
 }
 

@@ -72,10 +72,9 @@ public:
             if (!alongside_.empty()) text += "Remv " + alongside_ + " [1.0]\n";
             return printed(text);
         }
-        if (executable == "/usr/bin/flatpak" && arguments.front() == "info") 
+        if (executable == "/usr/bin/flatpak" && arguments.front() == "info")
             return printed(std::to_string(5'300'000 * arguments.back().size()) + "\n");
-        if (!removal_.launchFailure && removal_.exitStatus == 0)
-            files_.erase(entries_ + "org.sample.Studio.desktop");
+        if (!removal_.launchFailure && removal_.exitStatus == 0) files_.erase(entries_ + "org.sample.Studio.desktop");
         return removal_;
     }
 

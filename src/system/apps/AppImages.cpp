@@ -22,9 +22,8 @@ std::string titleOf(std::string_view path) {
     const std::string_view name = lastComponent(path);
     if (name.size() <= appImageEnding.size()) return std::string(name);
     const std::string_view ending = name.substr(name.size() - appImageEnding.size());
-    const bool matches = std::equal(ending.begin(), ending.end(), appImageEnding.begin(), [](char a, char b) {
-        return std::tolower(static_cast<unsigned char>(a)) == b;
-    });
+    const bool matches = std::equal(ending.begin(), ending.end(), appImageEnding.begin(),
+                                    [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; });
     return std::string(matches ? name.substr(0, name.size() - appImageEnding.size()) : name);
 }
 

@@ -20,7 +20,7 @@ struct AppRemoval {
     };
 
     Outcome outcome = Outcome::gone;
-    std::string words = {};                           ///< the reason as it was told; may be empty
+    std::string words = {};                             ///< the reason as it was told; may be empty
     std::optional<TrashedItem> trashed = std::nullopt;  ///< where it went, if that was the Trash and is known
 };
 
@@ -32,8 +32,8 @@ AppRemoval removeApplication(const Platform& platform, const AppEntry& app);
 /// Moves a leftover to the Trash, if it is still one that may go. Blocking.
 TrashResult trashLeftover(const Platform& platform, const std::string& path);
 
-/// What stands against removing it now. For a package this asks what would go with it; the others have the obstacle that
-/// they were listed with. Blocking.
+/// What stands against removing it now. For a package this asks what would go with it; the others have the obstacle
+/// that they were listed with. Blocking.
 AppObstacle obstacleNow(const Platform& platform, const AppEntry& app);
 
 }  // namespace zelk

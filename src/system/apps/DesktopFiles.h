@@ -26,13 +26,13 @@ struct DesktopFile {
     std::string program() const;
 };
 
-/// The entries of applications in a folder and a few levels below it, hidden ones left out, by path. `locales` are those
-/// of their names. Skips what is larger than a desktop entry ever is. Blocking.
+/// The entries of applications in a folder and a few levels below it, hidden ones left out, by path. `locales` are
+/// those of their names. Skips what is larger than a desktop entry ever is. Blocking.
 std::vector<DesktopFile> readDesktopFiles(FileManager& files, const std::string& folder,
                                           const std::vector<std::string>& locales);
 
-/// The entry that stands for an application which has several: one that is shown and is called `id`, else the first that
-/// is shown; nullptr if none is.
+/// The entry that stands for an application which has several: one that is shown and is called `id`, else the first
+/// that is shown; nullptr if none is.
 const DesktopFile* mainEntry(const std::vector<const DesktopFile*>& entries, std::string_view id);
 
 /// Which applications go by a name. What two of them go by tells neither of them.

@@ -16,8 +16,8 @@ bool isAppImage(std::string_view start);
 void findAppImages(const AppSearch& search, AppFindings& findings);
 
 /// Adds the folders in the home that an application was unpacked into: a desktop entry of the user's starts a program
-/// in it, and nothing else starts another one there. Not what lies in a hidden folder, in the home itself or in a folder
-/// for other things, nor a project under version control. After findAppImages(). Blocking.
+/// in it, and nothing else starts another one there. Not what lies in a hidden folder, in the home itself or in a
+/// folder for other things, nor a project under version control. After findAppImages(). Blocking.
 void findUnpacked(const AppSearch& search, AppFindings& findings);
 
 }  // namespace zelk

@@ -48,10 +48,10 @@ void findPackages(const AppSearch& search, AppFindings& findings) {
     const std::vector<DesktopFile> files = readDesktopFiles(search.platform.files, systemEntries, search.locales);
     if (files.empty()) return;
     ChildProcess& processes = search.platform.processes;
-    const auto owners = parseDpkgOwners(
-        answerOf(processes, dpkgQuery, {"-S", std::string(systemEntries) + "/*.desktop"}).value_or(""));
-    const auto packages = parseDpkgPackages(
-        answerOf(processes, dpkgQuery, {"-W", std::string("-f=") + dpkgFormat}).value_or(""));
+    const auto owners =
+        parseDpkgOwners(answerOf(processes, dpkgQuery, {"-S", std::string(systemEntries) + "/*.desktop"}).value_or(""));
+    const auto packages =
+        parseDpkgPackages(answerOf(processes, dpkgQuery, {"-W", std::string("-f=") + dpkgFormat}).value_or(""));
 
     std::map<std::string, std::vector<const DesktopFile*>> byPackage;
     for (const DesktopFile& file : files) {

@@ -12,8 +12,8 @@ namespace zelk {
 /// which package an entry belongs to, the entry itself is listed and cannot go. Blocking: asks dpkg-query, twice.
 void findPackages(const AppSearch& search, AppFindings& findings);
 
-/// The line that removes exactly this package, or nothing, for PrivilegedCommands::runAdmin(). Absent if a shell or dpkg
-/// could take the name for something else.
+/// The line that removes exactly this package, or nothing, for PrivilegedCommands::runAdmin(). Absent if a shell or
+/// dpkg could take the name for something else.
 std::optional<std::string> removePackageLine(const std::string& package);
 
 /// Asks apt-get what would go if this package went. The obstacle is absent if that is the package and nothing else.

@@ -18,7 +18,7 @@ namespace zelk {
 namespace {
 
 /// Folders in which people collect several things. A program that lies in one directly may be one of many.
-constexpr std::array collections{"appimages", "applications", "apps",    "bin",      "code",     "dev",  "games",
+constexpr std::array collections{"appimages", "applications", "apps",    "bin",      "code",     "dev",   "games",
                                  "local",     "opt",          "program", "programs", "projects", "repos", "scripts",
                                  "snap",      "software",     "src",     "tools",    "work"};
 
@@ -33,7 +33,8 @@ std::string parentOf(const std::string& path) {
     return path.substr(0, path.rfind('/'));
 }
 
-/// What the entry starts, as it names it: its program, or the script behind an interpreter. Empty unless that is a path.
+/// What the entry starts, as it names it: its program, or the script behind an interpreter. Empty unless that is a
+/// path.
 std::string startedFile(const DesktopFile& file) {
     const std::vector<std::string> words = withoutEnv(file.entry.command);
     if (words.empty()) return {};

@@ -53,8 +53,8 @@ QVariant AppRows::value(std::size_t row, int role) const {
         case busyRole:
             return apps_.isRemoving(app.url);
         case spokenRole:
-            return AccessibleText::joined(
-                {displayText(app.name), AppTexts::kind(app.kind), AppTexts::detail(app), total});
+            return AccessibleText::joined({displayText(app.name), AppTexts::kind(app.kind), AppTexts::detail(app),
+                                           total, apps_.isRemoving(app.url) ? tr("being removed") : QString()});
         case uninstallRole:
             return tr("Uninstall %1").arg(displayText(app.name));
         default:

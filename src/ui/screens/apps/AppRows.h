@@ -37,7 +37,7 @@ public:
 
     /// Shows these in this order. Delegates of rows that stay are kept.
     void show(std::vector<AppEntry> apps);
-    void tellBusy() { allRowsChanged({busyRole}); }
+    void tellBusy() { allRowsChanged({busyRole, spokenRole}); }
 
     /// The application in this row; nullptr for invalid rows. Valid until the next show().
     const AppEntry* at(int row) const;
