@@ -7,7 +7,7 @@
 
 namespace zelk {
 
-std::string_view lastComponent(std::string_view path) {
+std::string_view fileNameOf(std::string_view path) {
     return path.substr(path.rfind('/') + 1);
 }
 
@@ -17,7 +17,7 @@ bool isSharedLauncher(std::string_view program) {
         "gapplication", "gjs",   "gtk-launch",  "java",        "kioclient", "kstart",   "ksh",     "lua",
         "mono",         "node",  "nodejs",      "perl",        "pkexec",    "python",   "ruby",    "sh",
         "snap",         "steam", "sudo",        "systemd-run", "wine",      "xdg-open", "zsh"};
-    std::string name(lastComponent(program));
+    std::string name(fileNameOf(program));
     // "python3.11", "lua5.4", "perl5.36.0"
     while (!name.empty() && (std::isdigit(static_cast<unsigned char>(name.back())) != 0 || name.back() == '.'))
         name.pop_back();
@@ -25,7 +25,7 @@ bool isSharedLauncher(std::string_view program) {
 }
 
 std::vector<std::string> withoutEnv(std::vector<std::string> words) {
-    if (words.empty() || lastComponent(words.front()) != "env") return words;
+    if (words.empty() || fileNameOf(words.front()) != "env") return words;
     const auto program = std::find_if(words.begin() + 1, words.end(), [](const std::string& word) {
         return word != "-S" && word.find('=') == std::string::npos;
     });

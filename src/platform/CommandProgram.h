@@ -9,7 +9,7 @@
 namespace zelk {
 
 /// What stands behind the last slash; all of a text without one.
-std::string_view lastComponent(std::string_view path);
+std::string_view fileNameOf(std::string_view path);
 
 /// Whether the program is an interpreter or launcher that many applications share, so that neither its process nor its
 /// name identifies any of them. Versions in the name do not matter ("python3.11").

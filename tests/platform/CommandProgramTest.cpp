@@ -9,11 +9,11 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(CommandProgram, lastComponentIsBehindTheLastSlash) {
-    EXPECT_EQ(lastComponent("/usr/bin/vim"), "vim");
-    EXPECT_EQ(lastComponent("vim"), "vim");
-    EXPECT_EQ(lastComponent("/usr/bin/"), "");
-    EXPECT_EQ(lastComponent(""), "");
+TEST(CommandProgram, fileNameIsBehindTheLastSlash) {
+    EXPECT_EQ(fileNameOf("/usr/bin/vim"), "vim");
+    EXPECT_EQ(fileNameOf("vim"), "vim");
+    EXPECT_EQ(fileNameOf("/usr/bin/"), "");
+    EXPECT_EQ(fileNameOf(""), "");
 }
 
 TEST(CommandProgram, interpretersAndLaunchersBelongToNobody) {

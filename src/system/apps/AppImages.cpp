@@ -19,7 +19,7 @@ constexpr std::string_view appImageEnding = ".appimage";
 
 /// The name of the file, without its ending in any case.
 std::string titleOf(std::string_view path) {
-    const std::string_view name = lastComponent(path);
+    const std::string_view name = fileNameOf(path);
     if (name.size() <= appImageEnding.size()) return std::string(name);
     const std::string_view ending = name.substr(name.size() - appImageEnding.size());
     const bool matches = std::equal(ending.begin(), ending.end(), appImageEnding.begin(),
@@ -50,7 +50,7 @@ public:
         app.url = *real;
         app.size = properties->allocatedSize;
         app.kind = AppKind::appImage;
-        app.program = lastComponent(*real);
+        app.program = fileNameOf(*real);
         if (!properties->isOwn) app.obstacle = {AppObstacle::Reason::notOwn};
         addEntries(app);
         findings_.apps.push_back(std::move(app));

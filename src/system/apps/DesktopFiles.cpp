@@ -40,7 +40,7 @@ std::string DesktopFile::program() const {
 
 std::string DesktopFile::programName() const {
     const std::string word = program();
-    return isSharedLauncher(word) ? std::string() : std::string(lastComponent(word));
+    return isSharedLauncher(word) ? std::string() : std::string(fileNameOf(word));
 }
 
 std::vector<DesktopFile> readDesktopFiles(FileManager& files, const std::string& folder,

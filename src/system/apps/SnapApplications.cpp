@@ -29,7 +29,7 @@ std::optional<std::string> currentFile(FileManager& files, const std::string& na
     for (const char* mounts : snapMounts) {
         const std::optional<std::string> current = files.realPath(pathIn(mounts, name + "/current"));
         if (!current) continue;
-        std::string file = snapFile(name, lastComponent(*current));
+        std::string file = snapFile(name, fileNameOf(*current));
         if (files.exists(file)) return file;
     }
     return std::nullopt;

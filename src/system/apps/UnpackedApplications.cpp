@@ -90,14 +90,13 @@ private:
     /// The folder of the application, which may keep its program in one of its own.
     static std::string folderOf(const std::string& program) {
         std::string folder = parentOf(program);
-        if (lastComponent(folder) == "bin") folder = parentOf(folder);
+        if (fileNameOf(folder) == "bin") folder = parentOf(folder);
         return folder;
     }
 
     bool mayGo(const std::string& folder) const {
         if (folder.size() <= realHome_.size() + 1 || !isInFolder(folder, realHome_)) return false;
-        if (folder.find("/.", realHome_.size()) != std::string::npos || isCollection(lastComponent(folder)))
-            return false;
+        if (folder.find("/.", realHome_.size()) != std::string::npos || isCollection(fileNameOf(folder))) return false;
         for (const std::string& reserved : reserved_)
             if (isInFolder(reserved, folder)) return false;
         for (const AppEntry& app : findings_.apps)
@@ -109,7 +108,7 @@ private:
     }
 
     void add(const std::string& folder, const std::vector<const DesktopFile*>& entries, const std::string& program) {
-        const DesktopFile* const entry = mainEntry(entries, lastComponent(program));
+        const DesktopFile* const entry = mainEntry(entries, fileNameOf(program));
         findings_.claim(entries, folder);
         if (entry == nullptr) return;
         AppEntry app;
