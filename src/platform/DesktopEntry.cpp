@@ -79,6 +79,9 @@ public:
         if (key.name == "Hidden") entry.hidden = isTrue(value);
         if (key.name == "NoDisplay") entry.noDisplay = isTrue(value);
         if (key.name == "X-GNOME-Autostart-enabled") entry.staysOff = value == "false" || value == "0";
+        if (key.name == "Icon") entry.icon = withoutEscapes(value);
+        if (key.name == "X-Flatpak") entry.flatpak = withoutEscapes(value);
+        if (key.name == "X-AppImage-Name") entry.appImage = withoutEscapes(value);
     }
 
     DesktopEntry entry;

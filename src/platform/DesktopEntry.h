@@ -17,6 +17,9 @@ struct DesktopEntry {
     bool hidden = false;     ///< treated as deleted
     bool noDisplay = false;  ///< shown in no menu
     bool staysOff = false;   ///< "X-GNOME-Autostart-enabled=false": does not start with the session
+    std::string icon;        ///< a name in the theme, or a path; often empty
+    std::string flatpak;     ///< the application that flatpak starts; empty for any other
+    std::string appImage;    ///< what the maker of an AppImage calls it; empty for any other
 };
 
 /// Absent if `text` does not start with the group "Desktop Entry". `locales` are the preferred languages of the name,

@@ -18,6 +18,7 @@ struct FileProperties {
     bool isDirectory = false;
     std::uint64_t allocatedSize = 0;  ///< bytes on disk; 0 on a directory
     bool isLink = false;              ///< a symbolic link
+    bool isOwn = false;               ///< it belongs to the user who runs this process
 };
 
 /// File operations by path. Paths are bytes. Blocking; safe from any thread.
@@ -33,11 +34,17 @@ public:
     /// The bytes allocated below the directory `path`. Enters packages; does not follow links, enter other volumes or
     /// count hidden entries (leading dot; on macOS also the hidden flag). Unreadable folders count 0.
     virtual std::uint64_t allocatedSizeBelow(const std::string& path) = 0;
+    /// The same with hidden entries.
+    virtual std::uint64_t fullSizeBelow(const std::string& path) = 0;
+    /// The path of an existing entry without links in it; absent if it leads nowhere.
+    virtual std::optional<std::string> realPath(const std::string& path) = 0;
 
     /// The whole content of a file; absent on any failure.
     virtual std::optional<std::string> read(const std::string& path) = 0;
     /// The same for a file of at most `most` bytes; absent for a larger one, which takes no memory.
     virtual std::optional<std::string> readSmall(const std::string& path, std::size_t most) = 0;
+    /// The first `most` bytes of a file, fewer if it has no more; absent on any failure.
+    virtual std::optional<std::string> readStart(const std::string& path, std::size_t most) = 0;
     /// Atomically and durably replaces `path` by `content`: after a crash or power loss either the old or the new
     /// content is there, whole. Writes a temporary file beside it, flushes, renames and flushes the folder, which must
     /// exist. On false the old content is in place and no temporary file is left.

@@ -38,6 +38,11 @@ public:
     virtual std::optional<IconPixels> icon(const std::string& /*path*/, bool /*isDirectory*/, int /*side*/) {
         return std::nullopt;
     }
+    /// An application's icon, `side` (at least 1) pixels square: of a bundle by its path; on Linux the one that a
+    /// desktop entry names, by its name in the theme or by the path of a picture. Absent if there is none.
+    virtual std::optional<IconPixels> entryIcon(const std::string& /*nameOrPath*/, int /*side*/) {
+        return std::nullopt;
+    }
 };
 
 }  // namespace zelk

@@ -24,7 +24,8 @@ AppModel::AppModel(Platform platform, QObject* parent)
       removalUndo_(platform, mainThread_.sender()),
       cleanup_(platform, results_, removals_, removalUndo_, mainThread_.sender()),
       tune_(platform, admin_, removalUndo_),
-      duplicates_(platform, removals_, removalUndo_, mainThread_.sender()) {
+      duplicates_(platform, removals_, removalUndo_, mainThread_.sender()),
+      apps_(platform, removals_, removalUndo_, mainThread_.sender()) {
     scanRoots_ = {home_};
 }
 

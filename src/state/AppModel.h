@@ -17,6 +17,7 @@
 #include "reclaim/ReclaimTotals.h"
 #include "scan/ScanUpdate.h"
 #include "state/AdminRunner.h"
+#include "state/AppsModel.h"
 #include "state/CleanupSession.h"
 #include "state/DuplicatesModel.h"
 #include "state/MainThreadQueue.h"
@@ -92,12 +93,15 @@ public:
 
     /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
-    /// What the last trashAndRemove(), trashLargeFile() or removal of background items or duplicates moved to the Trash.
+    /// What the last trashAndRemove(), trashLargeFile() or removal of background items, duplicates or an application
+    /// moved to the Trash.
     RemovalUndo& removalUndo() { return removalUndo_; }
     /// Memory, caches, and what starts in the background.
     TuneModel& tune() { return tune_; }
     /// Files of the same content.
     DuplicatesModel& duplicates() { return duplicates_; }
+    /// The installed applications.
+    AppsModel& apps() { return apps_; }
     /// Commands that need an administrator.
     AdminRunner& admin() { return admin_; }
     /// The services, for the models of screens.
@@ -216,6 +220,7 @@ private:
     CleanupSession cleanup_;
     TuneModel tune_;
     DuplicatesModel duplicates_;
+    AppsModel apps_;
     std::shared_ptr<SurveySession> scanTask_;  // running or finished; absent after a cancel
     bool scanAgain_ = false;                   // when that one has finished
 };

@@ -24,7 +24,8 @@ public:
         folders,          ///< AppModel::trashAndRemove()
         largeFile,        ///< AppModel::trashLargeFile()
         backgroundItems,  ///< TuneModel::removeSelected()
-        duplicates        ///< DuplicatesModel::trashOthers()
+        duplicates,       ///< DuplicatesModel::trashOthers()
+        applications      ///< AppsModel::uninstall()
     };
     /// Whether what is removed there was found by a survey, so that another survey concerns its undo.
     static bool isOfSurvey(Source source) { return source == Source::folders || source == Source::largeFile; }

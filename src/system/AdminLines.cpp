@@ -20,7 +20,7 @@ constexpr std::array<AdminForm, 3> adminForms{{
     {"thin-snapshots",
      "/usr/bin/snapper -c %1 cleanup --free-space 5000000000 number; "
      "/usr/bin/snapper -c %1 cleanup --free-space 5000000000 timeline"},
-    {"remove-package", "DEBIAN_FRONTEND=noninteractive /usr/bin/apt-get -y -q --no-auto-remove remove -- %1"},
+    {"remove-package", "DEBIAN_FRONTEND=noninteractive /usr/bin/dpkg --remove %1"},
 }};
 
 std::vector<std::string_view> separatedByBlanks(std::string_view line) {

@@ -15,7 +15,7 @@ namespace zelk {
 /// - `/usr/bin/snapper -c CONFIG delete --sync NUMBER`: `delete-snapshot CONFIG NUMBER`
 /// - `/usr/bin/snapper -c CONFIG cleanup --free-space 5000000000 number; ` and the same with `timeline`, for the same
 ///   CONFIG: `thin-snapshots CONFIG`
-/// - `DEBIAN_FRONTEND=noninteractive /usr/bin/apt-get -y -q --no-auto-remove remove -- NAME`: `remove-package NAME`
+/// - `DEBIAN_FRONTEND=noninteractive /usr/bin/dpkg --remove NAME`: `remove-package NAME`
 ///
 /// CONFIG, NUMBER and NAME consist of letters, digits and "_+.-", so that a shell reads them as they are. Whether they
 /// make sense is for zelk-admin to say.

@@ -12,7 +12,7 @@ std::string readableOutput(const ChildOutcome& outcome) {
 }
 
 std::string launchFailureText(const std::string& reason) {
-    return "failed: " + reason;
+    return launchFailedAnswer + reason;
 }
 
 }  // namespace

@@ -14,6 +14,9 @@ namespace zelk {
 /// such a command said nothing, or where there was none to run.
 inline constexpr const char* refusedAnswer = "cancelled or failed: ";
 
+/// What stands before the reason for which nothing could be started.
+inline constexpr const char* launchFailedAnswer = "failed: ";
+
 /// The output, or "done" if there is none; "cancelled" for an exit status other than 0; "failed: " and the reason if
 /// nothing was started.
 std::string textOfRun(const ChildOutcome& outcome);

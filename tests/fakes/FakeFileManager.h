@@ -53,6 +53,11 @@ public:
         makeFolders(parentOf(path));
         entries_[path] = {Kind::link, std::move(target), 0, nextInode_++};
     }
+    /// Lets another user own the entry at `path`.
+    void giveAway(const std::string& path) {
+        const std::lock_guard lock(mutex_);
+        entries_[path].isOwn = false;
+    }
     /// Removes `path` and everything below it.
     void erase(const std::string& path) {
         const std::lock_guard lock(mutex_);
@@ -126,7 +131,7 @@ public:
         const auto entry = entries_.find(path);
         if (entry == entries_.end()) return std::nullopt;
         return FileProperties{entry->second.kind == Kind::folder, entry->second.allocatedSize,
-                              entry->second.kind == Kind::link};
+                              entry->second.kind == Kind::link, entry->second.isOwn};
     }
 
     std::optional<std::vector<std::string>> list(const std::string& path) override {
@@ -152,6 +157,36 @@ public:
         return size;
     }
 
+    std::uint64_t fullSizeBelow(const std::string& path) override {
+        if (fails("fullSizeBelow", path)) return 0;
+        const std::lock_guard lock(mutex_);
+        std::uint64_t size = 0;
+        forEachBelow(path, [&](std::string_view, const Entry& entry) { size += entry.allocatedSize; });
+        return size;
+    }
+
+    /// Follows links anywhere in the path.
+    std::optional<std::string> realPath(const std::string& path) override {
+        if (fails("realPath", path)) return std::nullopt;
+        const std::lock_guard lock(mutex_);
+        std::string real = path;
+        for (int hops = 0; hops < 40; ++hops) {
+            std::string link;
+            for (std::size_t end = real.find('/', 1);; end = real.find('/', end + 1)) {
+                const auto entry = entries_.find(real.substr(0, end));
+                if (entry == entries_.end()) return std::nullopt;
+                if (entry->second.kind == Kind::link) {
+                    link = entry->second.text + (end == std::string::npos ? "" : real.substr(end));
+                    break;
+                }
+                if (end == std::string::npos) break;
+            }
+            if (link.empty()) return real;
+            real = link;
+        }
+        return std::nullopt;
+    }
+
     std::optional<std::string> read(const std::string& path) override {
         if (fails("read", path)) return std::nullopt;
         return content(path);
@@ -162,6 +197,13 @@ public:
         std::optional<std::string> small = content(path);
         if (small && small->size() > most) small.reset();
         return small;
+    }
+
+    std::optional<std::string> readStart(const std::string& path, std::size_t most) override {
+        if (fails("readStart", path)) return std::nullopt;
+        std::optional<std::string> start = content(path);
+        if (start) start->resize(std::min(start->size(), most));
+        return start;
     }
 
     bool replaceDurably(const std::string& path, std::string_view content) override {
@@ -204,6 +246,7 @@ private:
         std::string text;  ///< a file's content, a link's target
         std::uint64_t allocatedSize = 0;
         std::uint64_t inode = 0;  ///< unique, kept when the entry is renamed
+        bool isOwn = true;
     };
     using Entries = std::map<std::string, Entry>;
 

@@ -336,6 +336,9 @@ public:
         const auto found = icons.find(path);
         return found == icons.end() ? std::nullopt : std::optional(found->second);
     }
+    std::optional<IconPixels> entryIcon(const std::string& nameOrPath, int side) override {
+        return icon(nameOrPath, true, side);
+    }
 };
 
 /// In memory.

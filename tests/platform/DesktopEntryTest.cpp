@@ -27,6 +27,15 @@ TEST(DesktopEntryText, parsesApplication) {
     EXPECT_FALSE(entry.noDisplay);
 }
 
+TEST(DesktopEntryText, readsIconAndWhereTheApplicationComesFrom) {
+    const DesktopEntry entry =
+        parsed("Icon=my\\sicon\nX-Flatpak=org.sample.Orrery\nX-AppImage-Name=Sonata\nIcon[de]=anders\n");
+    EXPECT_EQ(entry.icon, "my icon");
+    EXPECT_EQ(entry.flatpak, "org.sample.Orrery");
+    EXPECT_EQ(entry.appImage, "Sonata");
+    EXPECT_EQ(parsed("Name=x\n").icon + parsed("Name=x\n").flatpak + parsed("Name=x\n").appImage, "");
+}
+
 TEST(DesktopEntryText, rejectsTextBeforeItsGroup) {
     EXPECT_FALSE(parseDesktopEntry("", {}));
     EXPECT_FALSE(parseDesktopEntry("\n# only a comment\n", {}));

@@ -70,6 +70,64 @@ TEST(LinuxFileManager, readsSmallFilesOnly) {
         EXPECT_EQ(manager.readSmall(folder / name, 4), std::nullopt) << name;
 }
 
+TEST(LinuxFileManager, readsStartOfFiles) {
+    const TempFolder folder;
+    fakes::writeFile(folder / "file", std::string("1\0"
+                                                  "345",
+                                                  5));
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    ASSERT_EQ(::symlink("file", (folder / "link").c_str()), 0);
+    EXPECT_EQ(manager.readStart(folder / "file", 3), std::string("1\0"
+                                                                 "3",
+                                                                 3));
+    EXPECT_EQ(manager.readStart(folder / "link", 5), std::string("1\0"
+                                                                 "345",
+                                                                 5));
+    EXPECT_EQ(manager.readStart(folder / "file", 99), std::string("1\0"
+                                                                  "345",
+                                                                  5));
+    EXPECT_EQ(manager.readStart(folder / "file", 0), "");
+    for (const char* name : {"pipe", "missing", "."})
+        EXPECT_EQ(manager.readStart(folder / name, 3), std::nullopt) << name;
+}
+
+TEST(LinuxFileManager, realPathHasNoLinks) {
+    const TempFolder folder;
+    const std::string real = manager.realPath(folder.path()).value();
+    zoo::makeFile(folder / "file");
+    ASSERT_EQ(::mkdir((folder / "inner").c_str(), 0755), 0);
+    ASSERT_EQ(::symlink("../file", (folder / "inner/link").c_str()), 0);
+    ASSERT_EQ(::symlink("inner", (folder / "way").c_str()), 0);
+    ASSERT_EQ(::symlink("nothing", (folder / "dangling").c_str()), 0);
+    EXPECT_EQ(manager.realPath(folder / "way/link"), real + "/file");
+    EXPECT_EQ(manager.realPath(folder / "dangling"), std::nullopt);
+    EXPECT_EQ(manager.realPath(folder / "missing"), std::nullopt);
+    EXPECT_EQ(manager.realPath(""), std::nullopt);
+}
+
+TEST(LinuxFileManager, fullSizeCountsHiddenEntriesToo) {
+    const TempFolder folder;
+    ASSERT_EQ(::mkdir((folder / ".hidden").c_str(), 0755), 0);
+    ASSERT_EQ(::mkdir((folder / "plain").c_str(), 0755), 0);
+    for (const char* name : {"a", ".b", ".hidden/c", "plain/.d"}) zoo::makeFile(folder / name, 10000);
+    ASSERT_EQ(::symlink("/usr", (folder / ".link").c_str()), 0);
+    const std::uint64_t one = allocated(folder / "a");
+    EXPECT_EQ(manager.allocatedSizeBelow(folder.path()), one);
+    EXPECT_EQ(manager.fullSizeBelow(folder.path()), 4 * one + allocated(folder / ".link"));
+    EXPECT_EQ(manager.fullSizeBelow(folder / "missing"), 0U);
+}
+
+TEST(LinuxFileManager, propertiesTellTheOwner) {
+    const TempFolder folder;
+    zoo::makeFile(folder / "file");
+    EXPECT_TRUE(manager.properties(folder.path())->isOwn);
+    EXPECT_TRUE(manager.properties(folder / "file")->isOwn);
+    asOrdinaryUser([] {
+        EXPECT_FALSE(manager.properties("/etc/passwd")->isOwn);
+        EXPECT_FALSE(manager.properties("/etc")->isOwn);
+    });
+}
+
 TEST(LinuxFileManager, propertiesDoNotFollowLinks) {
     const TempFolder folder;
     zoo::makeFile(folder / "file", 10000);

@@ -95,8 +95,41 @@ TEST_F(LinuxThemeIconsTest, acceptNamesThatAreNotUtf8) {
     EXPECT_EQ(icons.icon("", false, 16), std::nullopt);
 }
 
+TEST_F(LinuxThemeIconsTest, ofEntriesAreNamedInTheTheme) {
+    EXPECT_TRUE(isAll(icons.entryIcon("folder", 16), 16, red));
+    EXPECT_TRUE(isAll(icons.entryIcon("video-mp4", 16), 16, green));
+    EXPECT_EQ(icons.entryIcon("nothing-of-this-name", 16), std::nullopt);
+    EXPECT_EQ(icons.entryIcon("", 16), std::nullopt);
+    EXPECT_EQ(icons.entryIcon("folder", 0), std::nullopt);
+}
+
+TEST_F(LinuxThemeIconsTest, ofEntriesMayBeAPicture) {
+    EXPECT_TRUE(isAll(icons.entryIcon(fileOf("folder").toStdString(), 16), 16, red));
+    EXPECT_EQ(icons.entryIcon(root.toStdString(), 16), std::nullopt);
+    EXPECT_EQ(icons.entryIcon("/not/there.png", 16), std::nullopt);
+    EXPECT_EQ(icons.entryIcon("own/16/folder.png", 16), std::nullopt) << "relative to nothing";
+}
+
+TEST_F(LinuxThemeIconsTest, ofEntriesAreNoLargePictures) {
+    const QString large = root + QStringLiteral("/large.png");
+    ASSERT_TRUE(QFile::copy(fileOf("folder"), large));
+    QFile file(large);
+    ASSERT_TRUE(file.resize((qint64{4} << 20) + 1));
+    EXPECT_EQ(icons.entryIcon(large.toStdString(), 16), std::nullopt);
+    ASSERT_TRUE(file.resize(qint64{4} << 20));
+    ThemeIcons others;
+    EXPECT_TRUE(isAll(others.entryIcon(large.toStdString(), 16), 16, red));
+}
+
+TEST_F(LinuxThemeIconsTest, ofEntriesAreLoadedOnce) {
+    ASSERT_TRUE(isAll(icons.entryIcon(fileOf("folder").toStdString(), 16), 16, red));
+    ASSERT_TRUE(QFile::remove(fileOf("folder")));
+    EXPECT_TRUE(isAll(icons.entryIcon(fileOf("folder").toStdString(), 16), 16, red));
+}
+
 TEST(LinuxThemeIconsAlone, areAbsentWithoutAGuiApplication) {
     ThemeIcons icons;
+    EXPECT_EQ(icons.entryIcon("folder", 16), std::nullopt);
     EXPECT_EQ(icons.icon("/home/me", true, 16), std::nullopt);
 }
 

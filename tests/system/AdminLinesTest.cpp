@@ -22,7 +22,7 @@ std::string lineOfThinning(const std::string& first, const std::string& second,
 }
 
 std::string lineOfRemoving(const std::string& name) {
-    return "DEBIAN_FRONTEND=noninteractive /usr/bin/apt-get -y -q --no-auto-remove remove -- " + name;
+    return "DEBIAN_FRONTEND=noninteractive /usr/bin/dpkg --remove " + name;
 }
 
 TEST(AdminLines, knowsEveryLine) {
@@ -85,7 +85,10 @@ TEST(AdminLines, knowsNothingElse) {
                                    "/usr/bin/snapper -c root delete --sync 1 ",
                                    "/usr/bin/snapper -c root delete --sync 1\n",
                                    "/usr/bin/snapper -c root cleanup --free-space 5000000000 number",
-                                   "/usr/bin/apt-get -y -q --no-auto-remove remove -- falkon",
+                                   "/usr/bin/dpkg --remove falkon",
+                                   "DEBIAN_FRONTEND=noninteractive /usr/bin/dpkg --purge falkon",
+                                   "DEBIAN_FRONTEND=noninteractive /usr/bin/apt-get -y -q --no-auto-remove remove "
+                                   "-- falkon",
                                    "apt-get remove falkon"}) {
         EXPECT_EQ(adminArguments(line), std::nullopt) << line;
     }

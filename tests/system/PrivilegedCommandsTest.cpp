@@ -119,7 +119,7 @@ TEST_F(PrivilegedCommandsTest, linuxHandsKnownLinesToTheHelper) {
     onLinux().runAdmin(
         "/usr/bin/snapper -c root cleanup --free-space 5000000000 number; "
         "/usr/bin/snapper -c root cleanup --free-space 5000000000 timeline");
-    onLinux().runAdmin("DEBIAN_FRONTEND=noninteractive /usr/bin/apt-get -y -q --no-auto-remove remove -- falkon");
+    onLinux().runAdmin("DEBIAN_FRONTEND=noninteractive /usr/bin/dpkg --remove falkon");
     const std::string helper = "/usr/libexec/zelk-admin";
     EXPECT_THAT(machine.processes.calls(),
                 ElementsAre(pkexec({helper, "free-memory"}), pkexec({helper, "delete-snapshot", "root", "12"}),

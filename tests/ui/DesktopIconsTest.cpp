@@ -34,6 +34,8 @@ TEST(DesktopIcons, fallsBackToSymbol) {
     EXPECT_EQ(icons.image("/a", 24), tintedSymbol("folder.fill", QColor(90, 172, 245), 24));
     DesktopIcons programs(workspace, Of::programs);
     EXPECT_EQ(programs.image("/a", 24), tintedSymbol("gearshape", QColor(139, 134, 152), 24));
+    DesktopIcons applications(workspace, Of::applications);
+    EXPECT_EQ(applications.image("a", 24), tintedSymbol("app", QColor(139, 134, 152), 24));
 }
 
 TEST(DesktopIcons, cachesByPathAndSize) {
@@ -58,11 +60,16 @@ TEST(DesktopIcons, asksForWhatItIsFor) {
             folders.push_back(isDirectory ? 1 : 0);
             return FakeWorkspace::icon(path, isDirectory, side);
         }
+        std::optional<IconPixels> entryIcon(const std::string& name, int side) override {
+            folders.push_back(2);
+            return FakeWorkspace::icon(name, true, side);
+        }
     };
     NotingWorkspace workspace;
     DesktopIcons(workspace, Of::folders).image("/a", 2);
     DesktopIcons(workspace, Of::programs).image("/a", 2);
-    EXPECT_THAT(workspace.folders, ElementsAre(1, 0));
+    DesktopIcons(workspace, Of::applications).image("a", 2);
+    EXPECT_THAT(workspace.folders, ElementsAre(1, 0, 2));
 }
 
 }  // namespace

@@ -82,13 +82,10 @@ TEST_F(Modules, haveTitleAndSubtitle) {
     expect(Screen::privacy, "Privacy",
            "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that needs a "
            "signature database).");
-    expect(Screen::apps, "Apps",
-           "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, preferences, "
-           "and support files.");
 }
 
 TEST_F(Modules, showNoteInsteadOfScanIfUnbuilt) {
-    for (const Screen screen : {Screen::privacy, Screen::apps}) {
+    for (const Screen screen : {Screen::privacy}) {
         const auto unbuilt = module(screen);
         EXPECT_TRUE(unbuilt->scanLabel().isEmpty());
         EXPECT_EQ(unbuilt->note(), lookOf(screen).title + QStringLiteral(" is not in this version yet."));

@@ -129,6 +129,10 @@ constexpr Wording wordings[] = {
      "to. The gap between your survey and the volume total lives there.",
      "Folders of the system and of other users stay invisible to your user — Zelk can't enumerate them, and never "
      "claims to. The gap between your survey and the volume total lives there."},
+    {SystemTexts::ReadingApplications, "Reading /Applications…", "Reading applications…"},
+    {SystemTexts::WhereAppsAre, "There is no application in the folder Applications.",
+     "There is none of flatpak, snap or the distribution, and no AppImage or unpacked application in your home "
+     "folder."},
 };
 
 }  // namespace

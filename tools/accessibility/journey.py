@@ -316,8 +316,27 @@ def tune(walker, audience):
         walker.toggle(re.escape(row.name), frozenset({row.role}))
 
 
-INSIDE = {"Overview": overview, "Reclaim": reclaim, "Tune": tune, "Clutter": clutter, "Duplicates": duplicates,
-          "Lens": lens, "Health": health, "System": system, "Settings": settings}
+def apps(walker, audience):
+    if audience == "everyone":
+        walker.press("Scan applications")
+        walker.wait(lambda: walker.find("Applications", frozenset({"list"})) is not None, CLEANING_SECONDS)
+    title = f"Applications for {audience}"
+    walker.screen = title
+    walker.look(title, expect("Applications", "list"), expect("Total footprint", "radio button"),
+                expect("App size", "radio button"), expect("Uninstall .+", "push button"))
+    for order in ("App size", "Total footprint"):
+        walker.choose(order, "checked")
+    first_row(walker, "Applications")
+    if walker.press("Uninstall Tidepool") is not None:
+        ready = "Move .* to Trash"
+        walker.wait(lambda: any(node.has("sensitive") for node in [walker.find(ready)] if node), CLEANING_SECONDS)
+        walker.look(f"Sheet of an application for {audience}", expect("Uninstall Tidepool", "dialog"),
+                    expect("What will go", "list"), expect("Cancel", "push button"), expect(ready, "push button"))
+        walker.close("Cancel")
+
+
+INSIDE = {"Overview": overview, "Reclaim": reclaim, "Tune": tune, "Apps": apps, "Clutter": clutter,
+          "Duplicates": duplicates, "Lens": lens, "Health": health, "System": system, "Settings": settings}
 
 
 def clean_up(walker):

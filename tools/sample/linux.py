@@ -4,7 +4,7 @@ import os
 import time
 from urllib.parse import quote
 
-from . import common
+from . import common, linux_apps
 
 SHARE = 0.75  # scales the megabytes below, which sum to 8 GB, to about 6 GB
 
@@ -45,8 +45,6 @@ def applications(plan):
         plan.many(f".cache/{folder}", 8, cache, lambda n: f"{n:04x}.cache", (1, 60))
     # Left over from a removed application.
     plan.many(".config/gone-editor", 5, 14, lambda n: f"state{n}.db", (900, 1000))
-    plan.many(".var/app/org.sample.Orrery/data", 6, 34, lambda n: f"sky-{n}.map", (20, 300))
-    plan.many(".var/app/org.sample.Orrery/cache", 6, 22, lambda n: f"tile-{n}", (2, 80))
     plan.many(".config/Code/CachedData", 5, 48, lambda n: f"{n}.code", (3, 30))
     plan.many(".config/Code/User/workspaceStorage", 5, 9, lambda n: f"{n:08x}/state.vscdb", (3, 300))
     plan.cleanable(".config/Code/User/workspaceStorage")
@@ -104,4 +102,5 @@ def fill(plan):
     plan.many(".cache/pip/http-v2", 12, 60, lambda n: f"{n:02x}/{n * 53:08x}.body", (10, 300))
     browsers(plan)
     applications(plan)
+    linux_apps.fill(plan)
     trash(plan)

@@ -69,6 +69,12 @@ class Plan:
         self.bytes += -(-size // BLOCK) * BLOCK
         self.entries[path] = ("file", size, days, path)
 
+    def begin(self, path, head):
+        """Makes a planned file begin with these characters, each a byte."""
+        kind, size, days, own = self.entries[path]
+        assert kind == "file"
+        self.entries[path] = (kind, max(size, len(head) + len(own)), days, head + own)
+
     def copy(self, path, of, days=30.0):
         """A copy of another file, with the same bytes."""
         kind, size, _, head = self.entries[of]

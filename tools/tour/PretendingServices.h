@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "PretendedApplications.h"
 #include "platform/ChildProcess.h"
 #include "platform/FileManager.h"
 #include "platform/Time.h"
@@ -70,6 +71,7 @@ public:
         set(output_, output);
     }
 
+    PretendedApplications& applications() { return applications_; }
     TrashContents trash() { return get(trash_); }
     PretendedVitals vitals() { return get(vitals_); }
     PretendedPrograms programs() { return get(programs_); }
@@ -100,6 +102,7 @@ private:
     PretendedPrograms programs_ = [](const std::string&, const std::vector<std::string>&) { return ChildOutcome(); };
     double daysBack_ = 0;
     std::string output_;
+    PretendedApplications applications_;
 };
 
 class PretendingVitals : public Vitals {
@@ -153,17 +156,34 @@ private:
     Pretence& pretence_;
 };
 
+/// The real files, with those of the pretended applications. Removes nothing.
 class PretendingFiles : public FileManager {
 public:
-    explicit PretendingFiles(FileManager& real) : real_(real) {}
+    PretendingFiles(FileManager& real, Pretence& pretence) : real_(real), applications_(pretence.applications()) {}
 
-    bool exists(const std::string& path) override { return real_.exists(path); }
-    std::optional<FileProperties> properties(const std::string& path) override { return real_.properties(path); }
-    std::optional<std::vector<std::string>> list(const std::string& path) override { return real_.list(path); }
-    std::uint64_t allocatedSizeBelow(const std::string& path) override { return real_.allocatedSizeBelow(path); }
+    bool exists(const std::string& path) override { return applications_.content(path) || real_.exists(path); }
+    std::optional<FileProperties> properties(const std::string& path) override {
+        if (applications_.content(path)) return FileProperties{.allocatedSize = 214'000'000};
+        return real_.properties(path);
+    }
+    std::optional<std::vector<std::string>> list(const std::string& path) override {
+        if (applications_.none()) return std::nullopt;
+        std::optional<std::vector<std::string>> names = applications_.list(path);
+        return names ? names : real_.list(path);
+    }
+    std::uint64_t allocatedSizeBelow(const std::string& path) override {
+        applications_.waitForSizes();
+        return real_.allocatedSizeBelow(path);
+    }
+    std::uint64_t fullSizeBelow(const std::string& path) override { return real_.fullSizeBelow(path); }
+    std::optional<std::string> realPath(const std::string& path) override { return real_.realPath(path); }
     std::optional<std::string> read(const std::string& path) override { return real_.read(path); }
     std::optional<std::string> readSmall(const std::string& path, std::size_t most) override {
-        return real_.readSmall(path, most);
+        std::optional<std::string> text = applications_.content(path);
+        return text ? text : real_.readSmall(path, most);
+    }
+    std::optional<std::string> readStart(const std::string& path, std::size_t most) override {
+        return real_.readStart(path, most);
     }
     bool replaceDurably(const std::string& path, std::string_view content) override {
         return real_.replaceDurably(path, content);
@@ -174,6 +194,7 @@ public:
 
 private:
     FileManager& real_;
+    PretendedApplications& applications_;
 };
 
 class PretendingClock : public Clock {
@@ -198,6 +219,9 @@ public:
     void openURL(const std::string&) override {}
     std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override {
         return real_.icon(path, isDirectory, side);
+    }
+    std::optional<IconPixels> entryIcon(const std::string& nameOrPath, int side) override {
+        return real_.entryIcon(nameOrPath, side);
     }
 
 private:

@@ -70,8 +70,8 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, PausingContents& cont
 
 bool Tour::run() {
     return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
-           clutter() && duplicates() && tune() && health() && system() && roots() && sidebarAndMenus() && windows() &&
-           firstRun() && smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
+           clutter() && duplicates() && tune() && apps() && health() && system() && roots() && sidebarAndMenus() &&
+           windows() && firstRun() && smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
 }
 
 bool Tour::gallery() {

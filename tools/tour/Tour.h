@@ -53,6 +53,9 @@ private:
     bool duplicates();
     bool hashing();
     bool tune();
+    bool apps();
+    bool appSheets();
+    bool appRemovals();
     bool roots();
     bool windows();
     bool sidebarAndMenus();

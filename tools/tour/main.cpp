@@ -53,6 +53,13 @@ void allowNames(zelk::AppModel& app, zelk::tour::TextCheck& texts) {
         for (const std::string& path : group.paths) texts.allow(zelk::displayText(path));
     // What a command answered, or the runner's own word for one that printed nothing.
     if (app.tune().lastOutput()) texts.allow(zelk::printedText(*app.tune().lastOutput()));
+    for (const zelk::AppEntry& one : app.apps().apps()) {
+        for (const std::string& text : {one.name, one.url, one.package, one.bundleID.value_or(one.url)})
+            texts.allow(zelk::displayText(text));
+        texts.allow(zelk::nameText(one.url));
+        for (const zelk::Leftover& leftover : app.apps().leftoversFor(one)) texts.allow(zelk::nameText(leftover.url));
+    }
+    if (app.apps().lastEnding()) texts.allow(zelk::displayText(app.apps().lastEnding()->removal.words));
     for (const zelk::Agent& agent : app.tune().agents()) {
         texts.allow(zelk::displayText(agent.label));
         texts.allow(zelk::displayText(agent.path));
@@ -109,7 +116,7 @@ int main(int argc, char** argv) {
     zelk::tour::PausingContents contents(real.contents);
     zelk::tour::PretendingClock clock(real.clock, pretence);
     zelk::tour::PretendingTrash trash(real.trash, pretence);
-    zelk::tour::PretendingFiles files(real.files);
+    zelk::tour::PretendingFiles files(real.files, pretence);
     zelk::tour::PretendingProcesses processes(pretence);
     zelk::tour::PretendingVitals vitals(real.vitals, pretence);
     zelk::tour::PretendingWorkspace workspace(real.workspace);

@@ -4,12 +4,14 @@
 #import <Foundation/Foundation.h>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/RealPath.h"
 #include "platform/posix/RemoveEntry.h"
 #include "platform/posix/TryOpenFile.h"
 
@@ -24,12 +26,12 @@ std::uint64_t allocatedSizeOf(NSURL* url) {
     return [bytes unsignedLongLongValue];
 }
 
-void addAllocatedSizesBelow(const std::string& path, std::uint64_t& bytes) {
+void addAllocatedSizesBelow(const std::string& path, NSDirectoryEnumerationOptions options, std::uint64_t& bytes) {
     // Without an error handler the enumerator skips what it cannot read.
     NSDirectoryEnumerator<NSURL*>* below =
         [[NSFileManager defaultManager] enumeratorAtURL:fileURL(path, true)
                              includingPropertiesForKeys:@[ NSURLTotalFileAllocatedSizeKey ]
-                                                options:NSDirectoryEnumerationSkipsHiddenFiles
+                                                options:options
                                            errorHandler:nil];
     for (bool more = true; more;) {
         @autoreleasepool {  // a folder may hold millions
@@ -38,6 +40,14 @@ void addAllocatedSizesBelow(const std::string& path, std::uint64_t& bytes) {
             if (more) bytes += allocatedSizeOf(entry);
         }
     }
+}
+
+std::uint64_t sizeBelow(const std::string& path, NSDirectoryEnumerationOptions options) {
+    std::uint64_t bytes = 0;
+    @autoreleasepool {
+        unlessThrown([&] { addAllocatedSizesBelow(path, options, bytes); }, [](NSException*) {});  // the sum so far
+    }
+    return bytes;
 }
 
 }  // namespace
@@ -50,11 +60,12 @@ bool MacFileManager::exists(const std::string& path) {
 std::optional<FileProperties> MacFileManager::properties(const std::string& path) {
     struct stat status;
     if (lstat(path.c_str(), &status) != 0) return std::nullopt;
-    if (S_ISDIR(status.st_mode)) return FileProperties{.isDirectory = true};
+    const bool isOwn = status.st_uid == geteuid();
+    if (S_ISDIR(status.st_mode)) return FileProperties{.isDirectory = true, .isOwn = isOwn};
     @autoreleasepool {
         const std::uint64_t bytes = unlessThrown([&] { return allocatedSizeOf(fileURL(path, false)); },
                                                  [](NSException*) { return std::uint64_t{0}; });
-        return FileProperties{.allocatedSize = bytes, .isLink = S_ISLNK(status.st_mode)};
+        return FileProperties{.allocatedSize = bytes, .isLink = S_ISLNK(status.st_mode), .isOwn = isOwn};
     }
 }
 
@@ -63,11 +74,15 @@ std::optional<std::vector<std::string>> MacFileManager::list(const std::string& 
 }
 
 std::uint64_t MacFileManager::allocatedSizeBelow(const std::string& path) {
-    std::uint64_t bytes = 0;
-    @autoreleasepool {
-        unlessThrown([&] { addAllocatedSizesBelow(path, bytes); }, [](NSException*) {});  // the sum so far
-    }
-    return bytes;
+    return sizeBelow(path, NSDirectoryEnumerationSkipsHiddenFiles);
+}
+
+std::uint64_t MacFileManager::fullSizeBelow(const std::string& path) {
+    return sizeBelow(path, static_cast<NSDirectoryEnumerationOptions>(0));
+}
+
+std::optional<std::string> MacFileManager::realPath(const std::string& path) {
+    return resolvedPath(path);
 }
 
 std::optional<std::string> MacFileManager::read(const std::string& path) {
@@ -76,6 +91,10 @@ std::optional<std::string> MacFileManager::read(const std::string& path) {
 
 std::optional<std::string> MacFileManager::readSmall(const std::string& path, std::size_t most) {
     return readWholeFile(path, most);
+}
+
+std::optional<std::string> MacFileManager::readStart(const std::string& path, std::size_t most) {
+    return readFileStart(path, most);
 }
 
 bool MacFileManager::replaceDurably(const std::string& path, std::string_view content) {

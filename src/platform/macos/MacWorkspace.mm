@@ -43,6 +43,10 @@ void MacWorkspace::openURL(const std::string& url) {
     }
 }
 
+std::optional<IconPixels> MacWorkspace::entryIcon(const std::string& nameOrPath, int side) {
+    return icon(nameOrPath, true, side);
+}
+
 std::optional<IconPixels> MacWorkspace::icon(const std::string& path, bool /*isDirectory*/, int side) {
     @autoreleasepool {
         NSString* text = [NSString stringWithUTF8String:path.c_str()];

@@ -132,6 +132,13 @@ bool isDirectory(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+/// Follows links, and never waits for the other end of a pipe. None for anything but a file.
+Descriptor openRegularFile(const std::string& path, struct stat& status) {
+    Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY); }));
+    if (file && (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))) return {};
+    return file;
+}
+
 }  // namespace
 
 bool replaceFileDurably(const std::string& path, std::string_view content) {
@@ -160,14 +167,26 @@ bool replaceFileDurably(const std::string& path, std::string_view content) {
     return true;
 }
 
-std::optional<std::string> readWholeFile(const std::string& path, std::size_t most) {
-    const Descriptor file(
-        uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY); }));
+std::optional<std::string> readFileStart(const std::string& path, std::size_t most) {
     struct stat status {};
-    if (!file || ::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode) ||
-        static_cast<std::uintmax_t>(status.st_size) > most) {
-        return std::nullopt;
+    const Descriptor file = openRegularFile(path, status);
+    if (!file) return std::nullopt;
+    std::string content(most, '\0');
+    std::size_t length = 0;
+    while (length < most) {
+        const ssize_t got = uninterrupted([&] { return ::read(file.get(), content.data() + length, most - length); });
+        if (got < 0) return std::nullopt;
+        if (got == 0) break;
+        length += static_cast<std::size_t>(got);
     }
+    content.resize(length);
+    return content;
+}
+
+std::optional<std::string> readWholeFile(const std::string& path, std::size_t most) {
+    struct stat status {};
+    const Descriptor file = openRegularFile(path, status);
+    if (!file || static_cast<std::uintmax_t>(status.st_size) > most) return std::nullopt;
     std::string content;
     std::size_t length = 0;
     for (;;) {

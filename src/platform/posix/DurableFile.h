@@ -31,6 +31,9 @@ inline constexpr std::size_t largestWholeFile = std::size_t{256} << 20;
 /// Reads a regular file, following links; absent on any failure, and above `most` bytes. Never blocks on a pipe.
 std::optional<std::string> readWholeFile(const std::string& path, std::size_t most = largestWholeFile);
 
+/// Reads the first `most` bytes of a regular file, following links; absent on any failure. Never blocks on a pipe.
+std::optional<std::string> readFileStart(const std::string& path, std::size_t most);
+
 /// Creates `path` and its missing parents for the user only (0700). True if `path` is a directory afterwards.
 bool createDirectoryTree(const std::string& path);
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A bar at the bottom of a screen that moved something to the Trash, with an Undo button. Takes no space while hidden.
+// A bar at the bottom of a screen that tells how a removal ended, with an Undo button if that can be undone. Takes no
+// space while hidden.
 // If it is hidden while it has the focus, it emits `gone` so that the screen takes the focus back.
 pragma ComponentBehavior: Bound
 
@@ -21,6 +22,7 @@ FocusScope {
     property string spoken: bar.removal?.spoken ?? bar.text
 
     signal gone(byKey: bool)
+    signal dismissed
 
     // Whether the keyboard used it last.
     property bool byKey: false
@@ -40,9 +42,12 @@ FocusScope {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: bar.spoken
 
-    Keys.onEscapePressed: {
-        bar.byKey = true;
+    Keys.onEscapePressed: bar.dismiss(true)
+
+    function dismiss(withKey: bool) {
+        bar.byKey = withKey;
         bar.removal?.dismiss();
+        bar.dismissed();
     }
 
     Rectangle {
@@ -132,9 +137,6 @@ FocusScope {
         size: 12
         side: 26
         text: qsTr("Close")
-        onClicked: {
-            bar.byKey = close.visualFocus;
-            bar.removal?.dismiss();
-        }
+        onClicked: bar.dismiss(close.visualFocus)
     }
 }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
+#include "ui/screens/apps/AppsScreenModel.h"
 #include "ui/screens/clutter/ClutterScreenModel.h"
 #include "ui/screens/duplicates/DuplicatesScreenModel.h"
 #include "ui/screens/health/HealthScreenModel.h"
@@ -57,7 +58,7 @@ constexpr ScreenPlace places[] = {
     {Screen::reclaim, "DevCleanupView", "reclaim", make<ReclaimScreenModel>},
     {Screen::privacy, "ModuleScaffold", "module", introduce<Screen::privacy>},
     {Screen::tune, "TuneView", "tune", make<TuneScreenModel>},
-    {Screen::apps, "ModuleScaffold", "module", introduce<Screen::apps>},
+    {Screen::apps, "AppsView", "apps", make<AppsScreenModel>},
     {Screen::clutter, "ClutterView", "clutter", make<ClutterScreenModel>},
     {Screen::duplicates, "DuplicatesView", "duplicates", make<DuplicatesScreenModel>},
     {Screen::lens, "MapView", "lens", make<LensScreenModel>},

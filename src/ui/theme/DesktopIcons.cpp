@@ -29,14 +29,23 @@ DesktopIcons::DesktopIcons(Workspace& workspace, Of kind) : workspace_(workspace
 QImage DesktopIcons::image(const std::string& path, int side) {
     const QImage desktops = desktopImage(path, side);
     if (!desktops.isNull()) return desktops;
-    return kind_ == Of::folders ? tintedSymbol(QStringLiteral("folder.fill"), folderColor, side)
-                                : tintedSymbol(QStringLiteral("gearshape"), programColor, side);
+    switch (kind_) {
+        case Of::folders:
+            return tintedSymbol(QStringLiteral("folder.fill"), folderColor, side);
+        case Of::programs:
+            return tintedSymbol(QStringLiteral("gearshape"), programColor, side);
+        case Of::applications:
+            return tintedSymbol(QStringLiteral("app"), programColor, side);
+    }
+    return {};
 }
 
 QImage DesktopIcons::desktopImage(const std::string& path, int side) {
     QByteArray key = QByteArray::number(side) + '/' + QByteArray::fromStdString(path);
     if (const QImage* known = images_.object(key)) return *known;
-    const std::optional<IconPixels> pixels = workspace_.icon(path, kind_ == Of::folders, side);
+    const std::optional<IconPixels> pixels = kind_ == Of::applications
+                                                 ? workspace_.entryIcon(path, side)
+                                                 : workspace_.icon(path, kind_ == Of::folders, side);
     const QImage image = pixels ? imageOf(*pixels) : QImage();
     images_.insert(key, new QImage(image), std::max<qsizetype>(image.sizeInBytes(), key.size()));
     return image;

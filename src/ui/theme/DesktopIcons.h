@@ -9,16 +9,17 @@
 
 namespace zelk {
 
-/// The desktop's icons of folders, or of programs and other files; our own symbol where it has none. Recent ones are
-/// cached. Main thread.
+/// The desktop's icons of folders, of programs and other files, or of applications; our own symbol where it has none.
+/// Recent ones are cached. Main thread.
 class DesktopIcons {
 public:
-    enum class Of { folders, programs };
+    enum class Of { folders, programs, applications };
 
     /// `workspace` must outlive it.
     DesktopIcons(Workspace& workspace, Of kind);
 
-    /// The icon at `side` x `side` pixels, at least 1; never null.
+    /// The icon at `side` x `side` pixels, at least 1; never null. `path` is one, or for an application what
+    /// Workspace::entryIcon() takes.
     QImage image(const std::string& path, int side);
 
 private:

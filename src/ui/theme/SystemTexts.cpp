@@ -200,6 +200,14 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
      QT_TRANSLATE_NOOP("SystemTexts",
                        "Folders of the system and of other users stay invisible to your user — Zelk can't enumerate "
                        "them, and never claims to. The gap between your survey and the volume total lives there.")},
+    // ReadingApplications
+    {QT_TRANSLATE_NOOP("SystemTexts", "Reading /Applications…"),
+     QT_TRANSLATE_NOOP("SystemTexts", "Reading applications…")},
+    // WhereAppsAre
+    {QT_TRANSLATE_NOOP("SystemTexts", "There is no application in the folder Applications."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "There is none of flatpak, snap or the distribution, and no AppImage or unpacked application in "
+                       "your home folder.")},
 }};
 
 #ifdef Q_OS_MACOS

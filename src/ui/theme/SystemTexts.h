@@ -59,6 +59,8 @@ public:
         SnapshotsRefused,  ///< empty where the system shows its snapshots to everybody
         PreferThinning,
         ProtectedFolders,
+        ReadingApplications,
+        WhereAppsAre,
         keyCount
     };
     Q_ENUM(Key)

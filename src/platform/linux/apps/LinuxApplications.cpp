@@ -6,21 +6,20 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
-#include <cctype>
 #include <cstdlib>
-#include <memory>
 #include <optional>
 #include <set>
 #include <string_view>
 #include <utility>
 
+#include "platform/CommandProgram.h"
 #include "platform/DesktopEntry.h"
 #include "platform/Text.h"
 #include "platform/linux/EnvironmentFolders.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/RealPath.h"
 
 namespace zelk {
 
@@ -50,27 +49,7 @@ std::optional<std::string> findProgram(const std::string& word, const std::vecto
 }
 
 std::string resolved(const std::string& path) {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
-    return real ? real.get() : "";
-}
-
-std::string_view lastComponent(std::string_view path) {
-    return path.substr(path.rfind('/') + 1);
-}
-
-/// Whether the program is an interpreter or launcher that many applications share, so that its process identifies none
-/// of them.
-bool isSharedLauncher(std::string_view program) {
-    constexpr std::array names{
-        "bash",         "dash",  "dbus-launch", "dbus-send",   "electron",  "env",      "flatpak", "fish",
-        "gapplication", "gjs",   "gtk-launch",  "java",        "kioclient", "kstart",   "ksh",     "lua",
-        "mono",         "node",  "nodejs",      "perl",        "pkexec",    "python",   "ruby",    "sh",
-        "snap",         "steam", "sudo",        "systemd-run", "wine",      "xdg-open", "zsh"};
-    std::string name(lastComponent(program));
-    // "python3.11", "lua5.4", "perl5.36.0"
-    while (!name.empty() && (std::isdigit(static_cast<unsigned char>(name.back())) != 0 || name.back() == '.'))
-        name.pop_back();
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return resolvedPath(path).value_or("");
 }
 
 /// The words of a script's "#!" line; empty if the file is not a script.
@@ -86,16 +65,6 @@ std::vector<std::string> shebangWords(const std::string& path) {
     rest = takeLine(rest);
     std::vector<std::string> words;
     for (std::string_view word = takeWord(rest); !word.empty(); word = takeWord(rest)) words.emplace_back(word);
-    return words;
-}
-
-/// Drops "env" with its options and assignments from the start of a command.
-std::vector<std::string> withoutEnv(std::vector<std::string> words) {
-    if (words.empty() || lastComponent(words.front()) != "env") return words;
-    const auto program = std::find_if(words.begin() + 1, words.end(), [](const std::string& word) {
-        return word != "-S" && word.find('=') == std::string::npos;
-    });
-    words.erase(words.begin(), program);
     return words;
 }
 

@@ -86,4 +86,8 @@ std::optional<IconPixels> LinuxWorkspace::icon(const std::string& path, bool isD
     return icons_.icon(path, isDirectory, side);
 }
 
+std::optional<IconPixels> LinuxWorkspace::entryIcon(const std::string& nameOrPath, int side) {
+    return icons_.entryIcon(nameOrPath, side);
+}
+
 }  // namespace zelk

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/apps/ThemeIcons.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QImage>
@@ -11,6 +13,9 @@
 namespace zelk {
 
 namespace {
+
+constexpr qint64 largestPicture = qint64{4} << 20;
+const QString unthemedPictures = QStringLiteral("/usr/share/pixmaps/");
 
 /// Uses the file name only, never the content, which may be on a slow disk.
 QMimeType typeOf(const std::string& path) {
@@ -47,10 +52,37 @@ std::optional<IconPixels> pixelsOf(const QIcon& icon, int side) {
     return pixels;
 }
 
+bool isDrawable(int side) {
+    return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr && side >= 1;
+}
+
+QIcon iconOfFile(const QString& path) {
+    const QFileInfo file(path);
+    return file.isFile() && file.size() <= largestPicture ? QIcon(path) : QIcon();
+}
+
+QIcon iconOfEntry(const QString& nameOrPath) {
+    if (nameOrPath.startsWith(u'/')) return iconOfFile(nameOrPath);
+    if (nameOrPath.isEmpty() || nameOrPath.contains(u'/')) return {};
+    if (QIcon icon = QIcon::fromTheme(nameOrPath); !icon.isNull()) return icon;
+    // Some entries name the picture with its extension, against the rules.
+    for (const char* extension : {".svg", ".png", ".xpm", ""})
+        if (QIcon icon = iconOfFile(unthemedPictures + nameOrPath + QLatin1String(extension)); !icon.isNull())
+            return icon;
+    return {};
+}
+
 }  // namespace
 
+std::optional<IconPixels> ThemeIcons::entryIcon(const std::string& nameOrPath, int side) {
+    if (!isDrawable(side)) return std::nullopt;
+    const auto [known, isNew] = entries_.try_emplace({nameOrPath, side});
+    if (isNew) known->second = pixelsOf(iconOfEntry(QFile::decodeName(QByteArray::fromStdString(nameOrPath))), side);
+    return known->second;
+}
+
 std::optional<IconPixels> ThemeIcons::icon(const std::string& path, bool isDirectory, int side) {
-    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr || side < 1) return std::nullopt;
+    if (!isDrawable(side)) return std::nullopt;
     QString name = QStringLiteral("folder");
     QString otherwise = name;
     if (!isDirectory) {

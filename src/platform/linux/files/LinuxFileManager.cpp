@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <climits>
@@ -13,6 +14,7 @@
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/RealPath.h"
 #include "platform/posix/RemoveEntry.h"
 #include "platform/posix/TryOpenFile.h"
 
@@ -33,14 +35,14 @@ bool statusOf(const std::string& path, int flags, struct stat& status) {
 /// nor the number of folders may crash the process.
 class PendingFolders {
 public:
-    explicit PendingFolders(std::int32_t device) : device_(device) {}
+    PendingFolders(std::int32_t device, bool hiddenToo) : device_(device), hiddenToo_(hiddenToo) {}
 
     /// Enters a level and adds its folders.
     void enter(const DirectoryReader::Entries* entries) {
         starts_.push_back(names_.size());
         if (entries == nullptr) return;
         for (const DirEntry& entry : *entries) {
-            if (entry.objType == directoryObjectType && entry.deviceID == device_ && !isHidden(entry))
+            if (entry.objType == directoryObjectType && entry.deviceID == device_ && counts(entry))
                 names_.emplace_back(entry.name);
         }
     }
@@ -53,19 +55,43 @@ public:
         return name;
     }
 
-    static bool isHidden(const DirEntry& entry) { return entry.name.starts_with('.'); }
+    /// The bytes of the files in a folder.
+    std::uint64_t bytesIn(const DirectoryReader::Entries* entries) const {
+        std::uint64_t bytes = 0;
+        if (entries == nullptr) return bytes;
+        for (const DirEntry& entry : *entries) {
+            if (entry.objType != directoryObjectType && counts(entry)) bytes += entry.allocSize;
+        }
+        return bytes;
+    }
 
 private:
+    bool counts(const DirEntry& entry) const { return hiddenToo_ || !entry.name.starts_with('.'); }
+
     std::int32_t device_;
+    bool hiddenToo_;
     std::vector<std::string> names_;
     std::vector<std::size_t> starts_;
 };
 
-std::uint64_t allocatedByFiles(const DirectoryReader::Entries* entries) {
-    std::uint64_t bytes = 0;
-    if (entries == nullptr) return bytes;
-    for (const DirEntry& entry : *entries) {
-        if (entry.objType != directoryObjectType && !PendingFolders::isHidden(entry)) bytes += entry.allocSize;
+std::uint64_t sizeBelow(const std::string& path, bool hiddenToo) {
+    LinuxDirectoryService service;
+    const std::optional<RootStatus> status = service.status(path);
+    const std::shared_ptr<const DirectoryRoot> root = service.openRoot(path);
+    if (!status || !root) return 0;
+    const std::unique_ptr<DirectoryReader> reader = service.makeReader();
+    PendingFolders pending(status->device, hiddenToo);
+    const DirectoryReader::Entries* entries = reader->open(*root, "");
+    std::uint64_t bytes = pending.bytesIn(entries);
+    for (pending.enter(entries); !pending.done();) {
+        if (pending.levelDone()) {
+            pending.leave();
+            reader->ascend();
+            continue;
+        }
+        entries = reader->descend(pending.take());
+        bytes += pending.bytesIn(entries);
+        pending.enter(entries);
     }
     return bytes;
 }
@@ -82,8 +108,11 @@ bool LinuxFileManager::exists(const std::string& path) {
 std::optional<FileProperties> LinuxFileManager::properties(const std::string& path) {
     struct stat status {};
     if (!statusOf(path, AT_SYMLINK_NOFOLLOW, status)) return std::nullopt;
-    if (S_ISDIR(status.st_mode)) return FileProperties{true, 0, false};
-    return FileProperties{false, static_cast<std::uint64_t>(status.st_blocks) * blockBytes, S_ISLNK(status.st_mode)};
+    const bool isOwn = status.st_uid == ::geteuid();
+    if (S_ISDIR(status.st_mode)) return FileProperties{.isDirectory = true, .isOwn = isOwn};
+    return FileProperties{.allocatedSize = static_cast<std::uint64_t>(status.st_blocks) * blockBytes,
+                          .isLink = S_ISLNK(status.st_mode),
+                          .isOwn = isOwn};
 }
 
 std::optional<std::vector<std::string>> LinuxFileManager::list(const std::string& path) {
@@ -91,25 +120,15 @@ std::optional<std::vector<std::string>> LinuxFileManager::list(const std::string
 }
 
 std::uint64_t LinuxFileManager::allocatedSizeBelow(const std::string& path) {
-    LinuxDirectoryService service;
-    const std::optional<RootStatus> status = service.status(path);
-    const std::shared_ptr<const DirectoryRoot> root = service.openRoot(path);
-    if (!status || !root) return 0;
-    const std::unique_ptr<DirectoryReader> reader = service.makeReader();
-    PendingFolders pending(status->device);
-    const DirectoryReader::Entries* entries = reader->open(*root, "");
-    std::uint64_t bytes = allocatedByFiles(entries);
-    for (pending.enter(entries); !pending.done();) {
-        if (pending.levelDone()) {
-            pending.leave();
-            reader->ascend();
-            continue;
-        }
-        entries = reader->descend(pending.take());
-        bytes += allocatedByFiles(entries);
-        pending.enter(entries);
-    }
-    return bytes;
+    return sizeBelow(path, false);
+}
+
+std::uint64_t LinuxFileManager::fullSizeBelow(const std::string& path) {
+    return sizeBelow(path, true);
+}
+
+std::optional<std::string> LinuxFileManager::realPath(const std::string& path) {
+    return resolvedPath(path);
 }
 
 std::optional<std::string> LinuxFileManager::read(const std::string& path) {
@@ -118,6 +137,10 @@ std::optional<std::string> LinuxFileManager::read(const std::string& path) {
 
 std::optional<std::string> LinuxFileManager::readSmall(const std::string& path, std::size_t most) {
     return readWholeFile(path, most);
+}
+
+std::optional<std::string> LinuxFileManager::readStart(const std::string& path, std::size_t most) {
+    return readFileStart(path, most);
 }
 
 bool LinuxFileManager::replaceDurably(const std::string& path, std::string_view content) {

@@ -106,10 +106,6 @@ std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(Screen screen) {
                 "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that "
                 "needs a signature database).");
             break;
-        case Screen::apps:
-            texts.subtitle = ModuleScreenModel::tr(
-                "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, "
-                "preferences, and support files.");
             break;
         default:
             break;

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// Which program the command of a desktop entry starts. Pure functions over bytes.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zelk {
+
+/// What stands behind the last slash; all of a text without one.
+std::string_view fileNameOf(std::string_view path);
+
+/// Whether the program is an interpreter or launcher that many applications share, so that neither its process nor its
+/// name identifies any of them. Versions in the name do not matter ("python3.11").
+bool isSharedLauncher(std::string_view program);
+
+/// Drops "env" with its options and assignments from the start of a command.
+std::vector<std::string> withoutEnv(std::vector<std::string> words);
+
+}  // namespace zelk

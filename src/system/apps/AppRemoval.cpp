@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "system/apps/AppRemoval.h"
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/Text.h"
+#include "reclaim/Leftovers.h"
+#include "system/CommandText.h"
+#include "system/PrivilegedCommands.h"
+#include "system/apps/FlatpakApplications.h"
+#include "system/apps/PackagedApplications.h"
+#include "system/apps/SnapApplications.h"
+
+namespace zelk {
+
+namespace {
+
+using Outcome = AppRemoval::Outcome;
+
+/// Nobody types into it, and what it says is read while it works.
+constexpr ChildStreams toolStreams{.inheritsInput = false, .errorsWithOutput = true, .readsWhileRunning = true};
+
+/// What a tool says last is why it failed.
+std::string lastLine(std::string_view output) {
+    std::string last;
+    while (!output.empty()) {
+        const std::string_view line = trimmed(takeLine(output));
+        if (!line.empty()) last = line;
+    }
+    return last;
+}
+
+AppRemoval byTool(const Platform& platform, const char* tool, const std::vector<std::string>& words) {
+    const ChildOutcome outcome = platform.processes.run(tool, words, toolStreams);
+    if (outcome.launchFailure) return {Outcome::notStarted, *outcome.launchFailure};
+    if (outcome.exitStatus != 0) return {Outcome::failed, lastLine(outcome.output)};
+    return {};
+}
+
+AppRemoval byAdministrator(const Platform& platform, const std::string& package) {
+    const std::optional<std::string> line = removePackageLine(package);
+    if (!line) return {Outcome::failed};
+    const std::string answer = PrivilegedCommands(platform).runAdmin(*line);
+    if (wasNotAllowed(answer)) return {Outcome::notAllowed};
+    if (answer.starts_with(launchFailedAnswer))
+        return {Outcome::notStarted, answer.substr(std::string_view(launchFailedAnswer).size())};
+    if (answer.starts_with(refusedAnswer))
+        return {Outcome::failed, lastLine(std::string_view(answer).substr(std::string_view(refusedAnswer).size()))};
+    return {};
+}
+
+AppRemoval toTrash(const Platform& platform, const std::string& root, const std::string& path) {
+    const std::optional<ItemPath> item = ItemPath::below(root, path);
+    if (!item) return {Outcome::failed};
+    TrashResult result = platform.trash.trash(*item);
+    if (result.failure) return {Outcome::failed, std::move(*result.failure)};
+    return {Outcome::gone, {}, std::move(result.item)};
+}
+
+AppRemoval byKind(const Platform& platform, const AppEntry& app) {
+    switch (app.kind) {
+        case AppKind::bundle:
+            return toTrash(platform, {}, app.url);
+        case AppKind::appImage:
+        case AppKind::unpacked:
+            return toTrash(platform, platform.locations.home(), app.url);
+        case AppKind::userFlatpak:
+        case AppKind::systemFlatpak:
+            if (!isFlatpakID(app.package)) return {Outcome::failed};
+            return byTool(platform, flatpakTool,
+                          {"uninstall", app.kind == AppKind::userFlatpak ? "--user" : "--system", "-y",
+                           "--noninteractive", app.package});
+        case AppKind::snap:
+            if (!isSnapName(app.package)) return {Outcome::failed};
+            return byTool(platform, snapTool, {"remove", app.package});
+        case AppKind::package:
+            return byAdministrator(platform, app.package);
+    }
+    return {Outcome::failed};
+}
+
+}  // namespace
+
+AppRemoval removeApplication(const Platform& platform, const AppEntry& app) {
+    if (app.obstacle.reason != AppObstacle::Reason::none) return {Outcome::failed};
+    AppRemoval removal = byKind(platform, app);
+    if (removal.outcome == Outcome::gone && app.kind != AppKind::bundle && platform.files.exists(app.url))
+        return {Outcome::stillThere};
+    return removal;
+}
+
+TrashResult trashLeftover(const Platform& platform, const std::string& path) {
+    const Leftovers leftovers(platform);
+    const std::optional<ItemPath> item = ItemPath::below(leftovers.rootOf(path), path);
+    // The list may be hours old.
+    if (!item || !leftovers.counts(path)) return {Failure(path)};
+    return platform.trash.trash(*item);
+}
+
+AppObstacle obstacleNow(const Platform& platform, const AppEntry& app) {
+    if (app.obstacle.reason != AppObstacle::Reason::none || app.kind != AppKind::package) return app.obstacle;
+    return obstacleOfRemoving(platform.processes, app.package);
+}
+
+}  // namespace zelk

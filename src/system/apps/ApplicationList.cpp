@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "system/apps/ApplicationList.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <set>
+#include <string_view>
+#include <utility>
+
+#include "platform/PropertyList.h"
+#include "system/apps/AppSearch.h"
+#include "system/apps/FlatpakApplications.h"
+#include "system/apps/OwnApplications.h"
+#include "system/apps/PackagedApplications.h"
+#include "system/apps/SnapApplications.h"
+
+namespace zelk {
+
+namespace {
+
+constexpr std::string_view bundleEnding = ".app";
+constexpr std::size_t largestDescription = std::size_t{1} << 20;
+
+void sortLargestFirst(std::vector<AppEntry>& apps) {
+    std::stable_sort(apps.begin(), apps.end(), [](const AppEntry& a, const AppEntry& b) { return a.size > b.size; });
+}
+
+}  // namespace
+
+std::vector<AppEntry> bundlesIn(const FSNode& top, FileManager& files) {
+    std::vector<AppEntry> apps;
+    if (top.children.empty()) return apps;
+    for (const NodeRef& node : top.children.front()->children) {
+        const std::string_view name = node->name();
+        if (!name.ends_with(bundleEnding)) continue;
+        AppEntry app;
+        app.url = node->fullPath();
+        app.name = name.substr(0, name.size() - bundleEnding.size());
+        app.size = static_cast<std::uint64_t>(std::max<std::int64_t>(0, node->size));
+        app.bundleID = bundleIdentifier(files, app.url);
+        app.icon = app.url;
+        apps.push_back(std::move(app));
+    }
+    sortLargestFirst(apps);
+    return apps;
+}
+
+std::optional<std::string> bundleIdentifier(FileManager& files, const std::string& bundle) {
+    const std::optional<std::string> text = files.readSmall(bundle + "/Contents/Info.plist", largestDescription);
+    const std::optional<PropertyList> description = text ? PropertyList::parse(*text) : std::nullopt;
+    return description ? description->text("CFBundleIdentifier") : std::nullopt;
+}
+
+std::vector<AppEntry> listApplications(const Platform& platform) {
+    const AppSearch search(platform);
+    AppFindings findings;
+    findFlatpaks(search, findings);
+    findSnaps(search, findings);
+    findAppImages(search, findings);
+    findUnpacked(search, findings);
+    findPackages(search, findings);
+
+    // An entry of the user's that starts none of these starts something else, or one of them under another name.
+    std::set<std::string> taken;
+    for (const AppEntry& app : findings.apps) taken.insert(app.entries.begin(), app.entries.end());
+    for (const DesktopFile& one : search.own)
+        if (!taken.contains(one.path)) findings.claim({&one}, one.path);
+
+    for (AppEntry& app : findings.apps) {
+        app.sharesID = app.bundleID && findings.claims.isShared(*app.bundleID);
+        app.sharesProgram = findings.claims.isShared(app.program);
+    }
+    sortLargestFirst(findings.apps);
+    return std::move(findings.apps);
+}
+
+}  // namespace zelk

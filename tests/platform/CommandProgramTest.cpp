@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "platform/CommandProgram.h"
+
+#include <gmock/gmock.h>
+
+namespace zelk {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(CommandProgram, fileNameIsBehindTheLastSlash) {
+    EXPECT_EQ(fileNameOf("/usr/bin/vim"), "vim");
+    EXPECT_EQ(fileNameOf("vim"), "vim");
+    EXPECT_EQ(fileNameOf("/usr/bin/"), "");
+    EXPECT_EQ(fileNameOf(""), "");
+}
+
+TEST(CommandProgram, interpretersAndLaunchersBelongToNobody) {
+    for (const char* program : {"/usr/bin/python3.11", "python3", "sh", "/bin/bash", "lua5.4", "java", "flatpak",
+                                "/snap/bin/snap", "env", "xdg-open", "steam"})
+        EXPECT_TRUE(isSharedLauncher(program)) << program;
+    for (const char* program : {"", "vim", "pythonista", "my-sh", "/opt/java/editor", "node-editor"})
+        EXPECT_FALSE(isSharedLauncher(program)) << program;
+}
+
+TEST(CommandProgram, envIsDroppedWithWhatItSets) {
+    EXPECT_THAT(withoutEnv({"env", "-S", "A=b", "vim", "C=d"}), ElementsAre("vim", "C=d"));
+    EXPECT_THAT(withoutEnv({"/usr/bin/env", "vim"}), ElementsAre("vim"));
+    EXPECT_THAT(withoutEnv({"vim", "A=b"}), ElementsAre("vim", "A=b"));
+    EXPECT_THAT(withoutEnv({"env", "A=b"}), IsEmpty());
+    EXPECT_THAT(withoutEnv({}), IsEmpty());
+}
+
+}  // namespace
+}  // namespace zelk
