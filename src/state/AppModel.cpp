@@ -23,7 +23,8 @@ AppModel::AppModel(Platform platform, QObject* parent)
       trash_(platform, removals_, mainThread_.sender(), [this] { emit trashChanged(); }),
       removalUndo_(platform, mainThread_.sender()),
       cleanup_(platform, results_, removals_, removalUndo_, mainThread_.sender()),
-      tune_(platform, admin_, removalUndo_) {
+      tune_(platform, admin_, removalUndo_),
+      privacy_(platform, removals_, removalUndo_, mainThread_.sender()) {
     scanRoots_ = {home_};
 }
 

@@ -19,6 +19,7 @@
 #include "state/AdminRunner.h"
 #include "state/CleanupSession.h"
 #include "state/MainThreadQueue.h"
+#include "state/PrivacyModel.h"
 #include "state/RemovalUndo.h"
 #include "state/RemovalsModel.h"
 #include "state/Screen.h"
@@ -91,10 +92,13 @@ public:
 
     /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
-    /// What the last trashAndRemove(), trashLargeFile() or removal of background items moved to the Trash.
+    /// What the last trashAndRemove(), trashLargeFile(), removal of background items or clearing of traces moved to the
+    /// Trash.
     RemovalUndo& removalUndo() { return removalUndo_; }
     /// Memory, caches, and what starts in the background.
     TuneModel& tune() { return tune_; }
+    /// What browsers leave on the disk.
+    PrivacyModel& privacy() { return privacy_; }
     /// Commands that need an administrator.
     AdminRunner& admin() { return admin_; }
     /// The services, for the models of screens.
@@ -212,6 +216,7 @@ private:
     RemovalUndo removalUndo_;
     CleanupSession cleanup_;
     TuneModel tune_;
+    PrivacyModel privacy_;
     std::shared_ptr<SurveySession> scanTask_;  // running or finished; absent after a cancel
     bool scanAgain_ = false;                   // when that one has finished
 };

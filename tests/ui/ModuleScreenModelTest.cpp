@@ -65,9 +65,6 @@ TEST_F(Modules, haveTitleAndSubtitle) {
         EXPECT_EQ(module(screen)->title().toStdString(), title);
         EXPECT_EQ(module(screen)->subtitle().toStdString(), subtitle);
     };
-    expect(Screen::privacy, "Privacy",
-           "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that needs a "
-           "signature database).");
     expect(Screen::apps, "Apps",
            "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, preferences, "
            "and support files.");
@@ -76,7 +73,7 @@ TEST_F(Modules, haveTitleAndSubtitle) {
 }
 
 TEST_F(Modules, showNoteInsteadOfScanIfUnbuilt) {
-    for (const Screen screen : {Screen::privacy, Screen::apps, Screen::duplicates}) {
+    for (const Screen screen : {Screen::apps, Screen::duplicates}) {
         const auto unbuilt = module(screen);
         EXPECT_TRUE(unbuilt->scanLabel().isEmpty());
         EXPECT_EQ(unbuilt->note(), lookOf(screen).title + QStringLiteral(" is not in this version yet."));

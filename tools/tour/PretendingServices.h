@@ -46,9 +46,17 @@ public:
         passing_ = passing;
     }
     void release() { set(held_, false); }
+    /// Makes the measuring of folders wait, which only tasks do.
+    void holdMeasuring(bool held) { set(measuringHeld_, held); }
+    void waitToMeasure() {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return !measuringHeld_; });
+    }
     void fail(bool failing) { set(failing_, failing); }
     void setTrash(TrashContents contents) { set(trash_, contents); }
     void setVitals(const PretendedVitals& vitals) { set(vitals_, vitals); }
+    /// Sets the names of the running applications.
+    void setRunning(std::vector<std::string> names) { set(running_, std::move(names)); }
     /// Sets what programs answer. Called on any thread.
     void setPrograms(PretendedPrograms programs) { set(programs_, std::move(programs)); }
     /// Sets the clock back by a number of days.
@@ -73,6 +81,7 @@ public:
     TrashContents trash() { return get(trash_); }
     PretendedVitals vitals() { return get(vitals_); }
     PretendedPrograms programs() { return get(programs_); }
+    std::vector<std::string> running() { return get(running_); }
     double daysBack() { return get(daysBack_); }
     /// What print() was last called with.
     std::string output() { return get(output_); }
@@ -94,9 +103,11 @@ private:
     std::condition_variable changed_;
     bool held_ = false;
     std::size_t passing_ = 0;
+    bool measuringHeld_ = false;
     bool failing_ = false;
     TrashContents trash_ = TrashContents::real;
     PretendedVitals vitals_;
+    std::vector<std::string> running_{"Code"};  // whose caches are in the sample homes
     PretendedPrograms programs_ = [](const std::string&, const std::vector<std::string>&) { return ChildOutcome(); };
     double daysBack_ = 0;
     std::string output_;
@@ -155,12 +166,17 @@ private:
 
 class PretendingFiles : public FileManager {
 public:
-    explicit PretendingFiles(FileManager& real) : real_(real) {}
+    PretendingFiles(FileManager& real, Pretence& pretence) : real_(real), pretence_(pretence) {}
 
     bool exists(const std::string& path) override { return real_.exists(path); }
     std::optional<FileProperties> properties(const std::string& path) override { return real_.properties(path); }
     std::optional<std::vector<std::string>> list(const std::string& path) override { return real_.list(path); }
-    std::uint64_t allocatedSizeBelow(const std::string& path) override { return real_.allocatedSizeBelow(path); }
+    std::uint64_t allocatedSizeBelow(const std::string& path) override {
+        pretence_.waitToMeasure();
+        return real_.allocatedSizeBelow(path);
+    }
+    std::optional<std::string> linkTarget(const std::string& path) override { return real_.linkTarget(path); }
+    bool isLocked(const std::string& path) override { return real_.isLocked(path); }
     std::optional<std::string> read(const std::string& path) override { return real_.read(path); }
     std::optional<std::string> readSmall(const std::string& path, std::size_t most) override {
         return real_.readSmall(path, most);
@@ -174,6 +190,7 @@ public:
 
 private:
     FileManager& real_;
+    Pretence& pretence_;
 };
 
 class PretendingClock : public Clock {
@@ -188,12 +205,12 @@ private:
     Pretence& pretence_;
 };
 
-/// Reports an application as running whose caches are in the sample homes. Opens nothing.
+/// Reports as running what the pretence says. Opens nothing.
 class PretendingWorkspace : public Workspace {
 public:
-    explicit PretendingWorkspace(Workspace& real) : real_(real) {}
+    PretendingWorkspace(Workspace& real, Pretence& pretence) : real_(real), pretence_(pretence) {}
 
-    std::vector<std::string> runningApplications() override { return {"Code"}; }
+    std::vector<std::string> runningApplications() override { return pretence_.running(); }
     void reveal(const std::vector<std::string>&) override {}
     void openURL(const std::string&) override {}
     std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override {
@@ -202,6 +219,7 @@ public:
 
 private:
     Workspace& real_;
+    Pretence& pretence_;
 };
 
 class PretendingProcesses : public ChildProcess {

@@ -65,7 +65,7 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, T
 
 bool Tour::run() {
     return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
-           clutter() && tune() && health() && system() && roots() && sidebarAndMenus() && windows() && firstRun() &&
+           clutter() && tune() && privacy() && health() && system() && roots() && sidebarAndMenus() && windows() && firstRun() &&
            smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
 }
 
@@ -321,8 +321,8 @@ bool Tour::smallAndLarge() {
     };
     resize(leastSize);
     text.setFactor(largeText);
-    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::tune, Screen::clutter, Screen::lens,
-                                Screen::tools, Screen::settings})
+    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::privacy, Screen::tune, Screen::clutter,
+                                Screen::lens, Screen::tools, Screen::settings})
         taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
     app_.setSelection(Screen::system);  // its row in the sidebar is out of sight
     taken = taken && picture(QStringLiteral("large-text-system"));

@@ -50,6 +50,7 @@ private:
     bool changes();
     bool clutter();
     bool tune();
+    bool privacy();
     bool roots();
     bool windows();
     bool sidebarAndMenus();

@@ -13,6 +13,8 @@ public:
     std::optional<FileProperties> properties(const std::string& path) override;
     std::optional<std::vector<std::string>> list(const std::string& path) override;
     std::uint64_t allocatedSizeBelow(const std::string& path) override;
+    std::optional<std::string> linkTarget(const std::string& path) override;
+    bool isLocked(const std::string& path) override;
     std::optional<std::string> read(const std::string& path) override;
     std::optional<std::string> readSmall(const std::string& path, std::size_t most) override;
     bool replaceDurably(const std::string& path, std::string_view content) override;

@@ -9,6 +9,7 @@
 #include "platform/macos/FoundationPaths.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
+#include "platform/posix/FileFacts.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/RemoveEntry.h"
 #include "platform/posix/TryOpenFile.h"
@@ -68,6 +69,14 @@ std::uint64_t MacFileManager::allocatedSizeBelow(const std::string& path) {
         unlessThrown([&] { addAllocatedSizesBelow(path, bytes); }, [](NSException*) {});  // the sum so far
     }
     return bytes;
+}
+
+std::optional<std::string> MacFileManager::linkTarget(const std::string& path) {
+    return textOfLink(path);
+}
+
+bool MacFileManager::isLocked(const std::string& path) {
+    return isLockedByAnother(path);
 }
 
 std::optional<std::string> MacFileManager::read(const std::string& path) {

@@ -11,6 +11,7 @@
 #include "ui/screens/lens/LensScreenModel.h"
 #include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
+#include "ui/screens/privacy/PrivacyScreenModel.h"
 #include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/screens/settings/SettingsScreenModel.h"
 #include "ui/screens/system/SystemScreenModel.h"
@@ -54,7 +55,7 @@ std::unique_ptr<QObject> introduce(const ScreenContext&) {
 constexpr ScreenPlace places[] = {
     {Screen::survey, "SurveyView", "survey", make<SurveyScreenModel>},
     {Screen::reclaim, "DevCleanupView", "reclaim", make<ReclaimScreenModel>},
-    {Screen::privacy, "ModuleScaffold", "module", introduce<Screen::privacy>},
+    {Screen::privacy, "PrivacyView", "privacy", make<PrivacyScreenModel>},
     {Screen::tune, "TuneView", "tune", make<TuneScreenModel>},
     {Screen::apps, "ModuleScaffold", "module", introduce<Screen::apps>},
     {Screen::clutter, "ClutterView", "clutter", make<ClutterScreenModel>},

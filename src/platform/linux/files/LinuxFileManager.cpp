@@ -12,6 +12,7 @@
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
+#include "platform/posix/FileFacts.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/RemoveEntry.h"
 #include "platform/posix/TryOpenFile.h"
@@ -110,6 +111,14 @@ std::uint64_t LinuxFileManager::allocatedSizeBelow(const std::string& path) {
         pending.enter(entries);
     }
     return bytes;
+}
+
+std::optional<std::string> LinuxFileManager::linkTarget(const std::string& path) {
+    return textOfLink(path);
+}
+
+bool LinuxFileManager::isLocked(const std::string& path) {
+    return isLockedByAnother(path);
 }
 
 std::optional<std::string> LinuxFileManager::read(const std::string& path) {

@@ -89,11 +89,6 @@ std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(Screen screen) {
     texts.subtitle = look.subtitle;
     texts.note = ModuleScreenModel::tr("%1 is not in this version yet.").arg(look.title);
     switch (screen) {
-        case Screen::privacy:
-            texts.subtitle = ModuleScreenModel::tr(
-                "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that "
-                "needs a signature database).");
-            break;
         case Screen::apps:
             texts.subtitle = ModuleScreenModel::tr(
                 "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, "
