@@ -8,12 +8,13 @@
 //   scan/        FSNode is the tree; ParallelWalker fills it; ScanEngine turns roots into a stream of ScanUpdates,
 //                which an UpdateQueue carries to the main thread
 //   reclaim/     ReclaimCatalogue is the closed table of what may go; ReclaimClassifier finds it in a tree; Cleaner
-//                removes it
+//                removes it; TraceTable is that of what browsers leave behind, TraceScanner finds and moves that
 //   system/      what the machine knows that a scan cannot see: AccessProbe, HealthScore, LocalSnapshot and its
 //                sources, BackgroundItems; and what needs an administrator: PrivilegedCommands
 //   state/       AppModel is the one state that every screen shows: SurveySession runs a survey into SurveyResults,
-//                CleanupSession removes, TrashMirror shows the Trash; TuneModel holds the levers; SurveyHistory is the
-//                one file that Zelk writes; MainThreadQueue brings results back from tasks
+//                CleanupSession removes, TrashMirror shows the Trash; TuneModel and PrivacyModel hold what their
+//                screens found; SurveyHistory is the one file that Zelk writes; MainThreadQueue brings results back
+//                from tasks
 //   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand them to QML; DisplayText makes of bytes
 //                what a person reads; the symbols, one SVG each, and SymbolItem, which tints them
 //   ui/controls/ the base controls: role, keyboard and focus ring are solved here

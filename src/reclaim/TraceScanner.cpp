@@ -25,9 +25,9 @@ constexpr std::size_t longestHostName = 256;
 constexpr int levelsWithProfiles = 3;
 
 bool holdsKept(FileManager& files, const std::string& folder, int levels) {
-    const std::vector<std::string> names = files.list(folder).value_or(std::vector<std::string>());
-    if (std::any_of(names.begin(), names.end(), isKept)) return true;
-    return levels > 1 && std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+    const std::vector<std::string> entries = files.list(folder).value_or(std::vector<std::string>());
+    if (std::any_of(entries.begin(), entries.end(), isKept)) return true;
+    return levels > 1 && std::any_of(entries.begin(), entries.end(), [&](const std::string& name) {
                return holdsKept(files, pathIn(folder, name), levels - 1);
            });
 }
@@ -38,17 +38,17 @@ bool mayGo(FileManager& files, const Trace& trace, const std::string& path) {
 }
 
 TracePlaces placesFor(FileManager& files, Locations& locations, SystemKind system) {
-    TracePlaces places{system, locations.home(), {}, {}};
-    if (system == SystemKind::macOS) return places;
-    places.xdg =
-        locations.xdgHomes().value_or(XdgHomes{pathIn(places.home, ".local/share"), pathIn(places.home, ".config"),
-                                               pathIn(places.home, ".cache"), pathIn(places.home, ".local/state")});
-    for (const std::string& folder : firefoxFolders(places))
+    TracePlaces homes{system, locations.home(), {}, {}};
+    if (system == SystemKind::macOS) return homes;
+    homes.xdg =
+        locations.xdgHomes().value_or(XdgHomes{pathIn(homes.home, ".local/share"), pathIn(homes.home, ".config"),
+                                               pathIn(homes.home, ".cache"), pathIn(homes.home, ".local/state")});
+    for (const std::string& folder : firefoxFolders(homes))
         for (std::string& profile : firefoxProfilesIn(files, folder))
-            if (std::find(places.firefoxProfiles.begin(), places.firefoxProfiles.end(), profile) ==
-                places.firefoxProfiles.end())
-                places.firefoxProfiles.push_back(std::move(profile));
-    return places;
+            if (std::find(homes.firefoxProfiles.begin(), homes.firefoxProfiles.end(), profile) ==
+                homes.firefoxProfiles.end())
+                homes.firefoxProfiles.push_back(std::move(profile));
+    return homes;
 }
 
 /// Whether `text` is "HOST-PID" of a process of this machine that is there. The name of a host may have a hyphen.
@@ -76,9 +76,9 @@ std::vector<std::string> companionsOf(const std::string& database) {
 }  // namespace
 
 TraceFindings findTraces(FileManager& files, Locations& locations, SystemKind system) {
-    const TracePlaces places = placesFor(files, locations, system);
+    const TracePlaces homes = placesFor(files, locations, system);
     TraceFindings found;
-    for (const Trace& row : traceTable(places)) {
+    for (const Trace& row : traceTable(homes)) {
         Trace trace = row;
         trace.paths.clear();
         const auto add = [&](const std::string& path) { trace.add(path, Cleaner::allocatedSize(files, path)); };
@@ -93,9 +93,9 @@ TraceFindings findTraces(FileManager& files, Locations& locations, SystemKind sy
     }
     std::stable_sort(found.traces.begin(), found.traces.end(),
                      [](const Trace& a, const Trace& b) { return a.size > b.size; });
-    found.locks = browserLocks(places);
+    found.locks = browserLocks(homes);
     found.firefoxHistoryStays =
-        std::any_of(places.firefoxProfiles.begin(), places.firefoxProfiles.end(),
+        std::any_of(homes.firefoxProfiles.begin(), homes.firefoxProfiles.end(),
                     [&](const std::string& profile) { return files.exists(pathIn(profile, "places.sqlite")); });
     return found;
 }

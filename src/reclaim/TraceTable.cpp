@@ -26,28 +26,39 @@ struct TraceRow {
     bool databases = false;
 };
 
-using enum TraceBase;
+constexpr TracePath inHome(std::string_view below) {
+    return {TraceBase::home, below};
+}
+constexpr TracePath inData(std::string_view below) {
+    return {TraceBase::data, below};
+}
+constexpr TracePath inConfig(std::string_view below) {
+    return {TraceBase::config, below};
+}
+constexpr TracePath inCache(std::string_view below) {
+    return {TraceBase::cache, below};
+}
 
 constexpr TraceRow macTable[] = {
     {"Safari",
      cacheKind,
-     {{{home, "Library/Caches/com.apple.Safari"}, {home, "Library/Caches/com.apple.WebKit.WebContent"}}}},
-    {"Safari", "History", {{{home, "Library/Safari/History.db"}, {home, "Library/Safari/History.db-wal"}}}},
+     {{inHome("Library/Caches/com.apple.Safari"), inHome("Library/Caches/com.apple.WebKit.WebContent")}}},
+    {"Safari", "History", {{inHome("Library/Safari/History.db"), inHome("Library/Safari/History.db-wal")}}},
     {"Chrome",
      cacheKind,
-     {{{home, "Library/Caches/Google/Chrome"}, {home, "Library/Application Support/Google/Chrome/Default/Cache"}}}},
-    {"Chrome", "History", {{{home, "Library/Application Support/Google/Chrome/Default/History"}}}},
-    {"Chrome", "Cookies", {{{home, "Library/Application Support/Google/Chrome/Default/Cookies"}}}},
+     {{inHome("Library/Caches/Google/Chrome"), inHome("Library/Application Support/Google/Chrome/Default/Cache")}}},
+    {"Chrome", "History", {{inHome("Library/Application Support/Google/Chrome/Default/History")}}},
+    {"Chrome", "Cookies", {{inHome("Library/Application Support/Google/Chrome/Default/Cookies")}}},
     {"Brave",
      cacheKind,
-     {{{home, "Library/Caches/BraveSoftware"},
-       {home, "Library/Application Support/BraveSoftware/Brave-Browser/Default/Cache"}}}},
+     {{inHome("Library/Caches/BraveSoftware"),
+       inHome("Library/Application Support/BraveSoftware/Brave-Browser/Default/Cache")}}},
     {"Edge",
      cacheKind,
-     {{{home, "Library/Caches/Microsoft Edge"}, {home, "Library/Application Support/Microsoft Edge/Default/Cache"}}}},
-    {"Arc", cacheKind, {{{home, "Library/Caches/company.thebrowser.Browser"}}}},
-    {"Firefox", cacheKind, {{{home, "Library/Caches/Firefox"}}}},
-    {"System", "Recent items", {{{home, "Library/Application Support/com.apple.sharedfilelist"}}}},
+     {{inHome("Library/Caches/Microsoft Edge"), inHome("Library/Application Support/Microsoft Edge/Default/Cache")}}},
+    {"Arc", cacheKind, {{inHome("Library/Caches/company.thebrowser.Browser")}}},
+    {"Firefox", cacheKind, {{inHome("Library/Caches/Firefox")}}},
+    {"System", "Recent items", {{inHome("Library/Application Support/com.apple.sharedfilelist")}}},
 };
 
 constexpr std::string_view firefox = "Firefox";
@@ -55,88 +66,86 @@ constexpr std::string_view firefoxCookies = "Cookies";
 
 // Firefox's history is not in it: one file holds it and the bookmarks.
 constexpr TraceRow linuxTable[] = {
-    {"GNOME Web", cacheKind, {{{cache, "epiphany"}, {home, ".var/app/org.gnome.Epiphany/cache/epiphany"}}}},
-    {"GNOME Web", "History", {{{data, "epiphany/ephy-history.db"}}}, true},
-    {"Chrome", cacheKind, {{{cache, "google-chrome"}, {home, ".var/app/com.google.Chrome/cache/google-chrome"}}}},
-    {"Chrome", "History", {{{config, "google-chrome/Default/History"}}}, true},
-    {"Chrome", "Cookies", {{{config, "google-chrome/Default/Cookies"}}}, true},
+    {"GNOME Web", cacheKind, {{inCache("epiphany"), inHome(".var/app/org.gnome.Epiphany/cache/epiphany")}}},
+    {"GNOME Web", "History", {{inData("epiphany/ephy-history.db")}}, true},
+    {"Chrome", cacheKind, {{inCache("google-chrome"), inHome(".var/app/com.google.Chrome/cache/google-chrome")}}},
+    {"Chrome", "History", {{inConfig("google-chrome/Default/History")}}, true},
+    {"Chrome", "Cookies", {{inConfig("google-chrome/Default/Cookies")}}, true},
     {"Chromium",
      cacheKind,
-     {{{cache, "chromium"},
-       {home, "snap/chromium/common/.cache/chromium"},
-       {home, ".var/app/org.chromium.Chromium/cache/chromium"}}}},
+     {{inCache("chromium"), inHome("snap/chromium/common/.cache/chromium"),
+       inHome(".var/app/org.chromium.Chromium/cache/chromium")}}},
     {"Chromium",
      "History",
-     {{{config, "chromium/Default/History"}, {home, "snap/chromium/common/chromium/Default/History"}}},
+     {{inConfig("chromium/Default/History"), inHome("snap/chromium/common/chromium/Default/History")}},
      true},
     {"Chromium",
      "Cookies",
-     {{{config, "chromium/Default/Cookies"}, {home, "snap/chromium/common/chromium/Default/Cookies"}}},
+     {{inConfig("chromium/Default/Cookies"), inHome("snap/chromium/common/chromium/Default/Cookies")}},
      true},
-    {"Brave", cacheKind, {{{cache, "BraveSoftware"}, {home, ".var/app/com.brave.Browser/cache/BraveSoftware"}}}},
-    {"Edge", cacheKind, {{{cache, "microsoft-edge"}}}},
+    {"Brave", cacheKind, {{inCache("BraveSoftware"), inHome(".var/app/com.brave.Browser/cache/BraveSoftware")}}},
+    {"Edge", cacheKind, {{inCache("microsoft-edge")}}},
     {firefox,
      cacheKind,
-     {{{cache, "mozilla/firefox"},
-       {home, "snap/firefox/common/.cache/mozilla/firefox"},
-       {home, ".var/app/org.mozilla.firefox/cache/mozilla/firefox"}}}},
+     {{inCache("mozilla/firefox"), inHome("snap/firefox/common/.cache/mozilla/firefox"),
+       inHome(".var/app/org.mozilla.firefox/cache/mozilla/firefox")}}},
     {firefox, firefoxCookies, {}, true},  // in every profile
-    {"System", "Recent items", {{{data, "recently-used.xbel"}, {data, "RecentDocuments"}}}},
-    {"System", "Thumbnails", {{{cache, "thumbnails"}}}},
+    {"System", "Recent items", {{inData("recently-used.xbel"), inData("RecentDocuments")}}},
+    {"System", "Thumbnails", {{inCache("thumbnails")}}},
 };
 
 /// New profiles are made in the first; an older folder stays in use.
 constexpr TracePath firefoxLists[] = {
-    {config, "mozilla/firefox"},
-    {home, ".mozilla/firefox"},
-    {home, "snap/firefox/common/.mozilla/firefox"},
-    {home, ".var/app/org.mozilla.firefox/.mozilla/firefox"},
-    {home, ".var/app/org.mozilla.firefox/config/mozilla/firefox"},
+    inConfig("mozilla/firefox"),
+    inHome(".mozilla/firefox"),
+    inHome("snap/firefox/common/.mozilla/firefox"),
+    inHome(".var/app/org.mozilla.firefox/.mozilla/firefox"),
+    inHome(".var/app/org.mozilla.firefox/config/mozilla/firefox"),
 };
 
 /// The links that browsers of the Chromium family make. Those in a Flatpak are left out: they tell the number that the
 /// process has inside it.
 constexpr std::pair<std::string_view, TracePath> processLinks[] = {
-    {"Chrome", {config, "google-chrome/SingletonLock"}},
-    {"Chromium", {config, "chromium/SingletonLock"}},
-    {"Chromium", {home, "snap/chromium/common/chromium/SingletonLock"}},
-    {"Brave", {config, "BraveSoftware/Brave-Browser/SingletonLock"}},
-    {"Edge", {config, "microsoft-edge/SingletonLock"}},
+    {"Chrome", inConfig("google-chrome/SingletonLock")},
+    {"Chromium", inConfig("chromium/SingletonLock")},
+    {"Chromium", inHome("snap/chromium/common/chromium/SingletonLock")},
+    {"Brave", inConfig("BraveSoftware/Brave-Browser/SingletonLock")},
+    {"Edge", inConfig("microsoft-edge/SingletonLock")},
 };
 
-std::string pathOf(const TracePath& path, const TracePlaces& places) {
+std::string pathOf(const TracePath& path, const TracePlaces& homes) {
     switch (path.base) {
         case TraceBase::home:
             break;
         case TraceBase::data:
-            return pathIn(places.xdg.data, path.below);
+            return pathIn(homes.xdg.data, path.below);
         case TraceBase::config:
-            return pathIn(places.xdg.config, path.below);
+            return pathIn(homes.xdg.config, path.below);
         case TraceBase::cache:
-            return pathIn(places.xdg.cache, path.below);
+            return pathIn(homes.xdg.cache, path.below);
     }
-    return pathIn(places.home, path.below);
+    return pathIn(homes.home, path.below);
 }
 
-Trace traceOf(const TraceRow& row, const TracePlaces& places) {
+Trace traceOf(const TraceRow& row, const TracePlaces& homes) {
     Trace trace{.app = std::string(row.app),
                 .kind = std::string(row.kind),
                 .paths = {},
                 .databases = row.databases,
-                .guarded = places.system != SystemKind::macOS && row.kind == cacheKind};
+                .guarded = homes.system != SystemKind::macOS && row.kind == cacheKind};
     for (const TracePath& path : row.paths)
-        if (!path.below.empty()) trace.paths.push_back(pathOf(path, places));
+        if (!path.below.empty()) trace.paths.push_back(pathOf(path, homes));
     if (row.app == firefox && row.kind == firefoxCookies)
-        for (const std::string& profile : places.firefoxProfiles)
+        for (const std::string& profile : homes.firefoxProfiles)
             trace.paths.push_back(pathIn(profile, "cookies.sqlite"));
     return trace;
 }
 
 template <std::size_t count>
-std::vector<Trace> tracesOf(const TraceRow (&rows)[count], const TracePlaces& places) {
+std::vector<Trace> tracesOf(const TraceRow (&rows)[count], const TracePlaces& homes) {
     std::vector<Trace> traces;
     traces.reserve(count);
-    for (const TraceRow& row : rows) traces.push_back(traceOf(row, places));
+    for (const TraceRow& row : rows) traces.push_back(traceOf(row, homes));
     return traces;
 }
 
@@ -150,22 +159,22 @@ void Trace::add(const std::string& path, std::uint64_t bytes, const std::vector<
     paths.insert(std::find_if(paths.begin(), paths.end(), later), path);
 }
 
-std::vector<Trace> traceTable(const TracePlaces& places) {
-    return places.system == SystemKind::macOS ? tracesOf(macTable, places) : tracesOf(linuxTable, places);
+std::vector<Trace> traceTable(const TracePlaces& homes) {
+    return homes.system == SystemKind::macOS ? tracesOf(macTable, homes) : tracesOf(linuxTable, homes);
 }
 
-std::vector<std::string> firefoxFolders(const TracePlaces& places) {
+std::vector<std::string> firefoxFolders(const TracePlaces& homes) {
     std::vector<std::string> folders;
-    if (places.system != SystemKind::macOS)
-        for (const TracePath& path : firefoxLists) folders.push_back(pathOf(path, places));
+    if (homes.system != SystemKind::macOS)
+        for (const TracePath& path : firefoxLists) folders.push_back(pathOf(path, homes));
     return folders;
 }
 
-std::vector<BrowserLock> browserLocks(const TracePlaces& places) {
+std::vector<BrowserLock> browserLocks(const TracePlaces& homes) {
     std::vector<BrowserLock> locks;
-    if (places.system == SystemKind::macOS) return locks;
-    for (const auto& [app, path] : processLinks) locks.push_back({std::string(app), pathOf(path, places), true});
-    for (const std::string& profile : places.firefoxProfiles)
+    if (homes.system == SystemKind::macOS) return locks;
+    for (const auto& [app, path] : processLinks) locks.push_back({std::string(app), pathOf(path, homes), true});
+    for (const std::string& profile : homes.firefoxProfiles)
         locks.push_back({std::string(firefox), pathIn(profile, ".parentlock"), false});
     return locks;
 }
@@ -175,13 +184,13 @@ std::string_view desktopIdOf(std::string_view app) {
 }
 
 bool isKept(std::string_view name) {
-    constexpr std::string_view names[] = {
+    constexpr std::string_view keptNames[] = {
         "places.sqlite",      "logins.json",    "logins.db",     "key3.db",     "key4.db",
         "cert9.db",           "profiles.ini",   "Bookmarks",     "Local State", "Preferences",
         "formhistory.sqlite", "bookmarks.gvdb", "browsedata.db", "keyrings",    "kwalletd"};
-    constexpr std::string_view starts[] = {"Login Data", "Web Data"};
-    return std::find(std::begin(names), std::end(names), name) != std::end(names) ||
-           std::any_of(std::begin(starts), std::end(starts),
+    constexpr std::string_view keptStarts[] = {"Login Data", "Web Data"};
+    return std::find(std::begin(keptNames), std::end(keptNames), name) != std::end(keptNames) ||
+           std::any_of(std::begin(keptStarts), std::end(keptStarts),
                        [&](std::string_view start) { return name.starts_with(start); });
 }
 

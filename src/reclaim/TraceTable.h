@@ -51,10 +51,10 @@ struct TracePlaces {
 };
 
 /// All rows, in the order in which they are looked for.
-std::vector<Trace> traceTable(const TracePlaces& places);
+std::vector<Trace> traceTable(const TracePlaces& homes);
 
 /// The folders in which Firefox keeps its list of profiles; none on macOS, where the table names no profile.
-std::vector<std::string> firefoxFolders(const TracePlaces& places);
+std::vector<std::string> firefoxFolders(const TracePlaces& homes);
 
 /// A file that tells whether a browser is running.
 struct BrowserLock {
@@ -66,7 +66,7 @@ struct BrowserLock {
 };
 
 /// None on macOS, where the names of running applications tell enough.
-std::vector<BrowserLock> browserLocks(const TracePlaces& places);
+std::vector<BrowserLock> browserLocks(const TracePlaces& homes);
 
 /// The id of the application's desktop entry, for one whose display name says nothing; often empty.
 std::string_view desktopIdOf(std::string_view app);

@@ -30,8 +30,7 @@ inline const std::string chromiumOfLinux = "/home/me/.config/chromium";
 inline void fillWithLinuxTraces(FakePlatform& machine) {
     machine.system = SystemKind::desktopLinux;
     const std::string home = "/home/me/";
-    machine.locations.xdg =
-        XdgHomes{home + ".local/share", home + ".config", home + ".cache", home + ".local/state"};
+    machine.locations.xdg = XdgHomes{home + ".local/share", home + ".config", home + ".cache", home + ".local/state"};
     machine.files.addFile("/proc/sys/kernel/hostname", "my-host\n");
     machine.files.addFile(home + ".cache/chromium/Default/Cache/data_0", {}, 8'000'000);
     for (const char* name : {"Local State", "Default/Bookmarks", "Default/Login Data", "Default/Preferences"})

@@ -110,10 +110,9 @@ TEST_F(TracesOfLinux, areThoseThatExistLargestFirst) {
 }
 
 TEST_F(TracesOfLinux, haveTheCookiesOfEveryProfileWithTheirCompanions) {
-    EXPECT_THAT(trace("FirefoxCookies").paths,
-                ElementsAre(fakes::firefoxOfLinux + "/a.idle/cookies.sqlite",
-                            fakes::firefoxOfLinux + "/b.used/cookies.sqlite",
-                            fakes::firefoxOfLinux + "/b.used/cookies.sqlite-wal"));
+    EXPECT_THAT(trace("FirefoxCookies").paths, ElementsAre(fakes::firefoxOfLinux + "/a.idle/cookies.sqlite",
+                                                           fakes::firefoxOfLinux + "/b.used/cookies.sqlite",
+                                                           fakes::firefoxOfLinux + "/b.used/cookies.sqlite-wal"));
     EXPECT_EQ(trace("FirefoxCookies").size, 6'000'000U);
 }
 

@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 using Strings = std::vector<std::string>;
 
-const TracePlaces mac{SystemKind::macOS, "/Users/me", {}, {}};
+const TracePlaces onMac{SystemKind::macOS, "/Users/me", {}, {}};
 
 TracePlaces onLinux() {
     return {SystemKind::desktopLinux,
@@ -29,13 +29,13 @@ struct Expected {
     Strings below;
 };
 
-void expectTable(const std::vector<Trace>& table, const std::vector<Expected>& rows, const std::string& home) {
+void expectTable(const std::vector<Trace>& table, const std::vector<Expected>& rows, const std::string& above) {
     ASSERT_EQ(table.size(), rows.size());
     for (std::size_t row = 0; row < rows.size(); ++row) {
         EXPECT_EQ(table[row].app, rows[row].app);
         EXPECT_EQ(table[row].kind, rows[row].kind);
         Strings paths;
-        for (const std::string& below : rows[row].below) paths.push_back(home + below);
+        for (const std::string& below : rows[row].below) paths.push_back(above + below);
         EXPECT_EQ(table[row].paths, paths) << rows[row].app << rows[row].kind;
         EXPECT_EQ(table[row].size, 0U);
         EXPECT_THAT(table[row].sizes, IsEmpty());
@@ -44,7 +44,7 @@ void expectTable(const std::vector<Trace>& table, const std::vector<Expected>& r
 
 TEST(TraceTable, hasTenRowsOnMacOS) {
     expectTable(
-        traceTable(mac),
+        traceTable(onMac),
         {
             {"Safari", "Caches", {"/Library/Caches/com.apple.Safari", "/Library/Caches/com.apple.WebKit.WebContent"}},
             {"Safari", "History", {"/Library/Safari/History.db", "/Library/Safari/History.db-wal"}},
@@ -65,19 +65,21 @@ TEST(TraceTable, hasTenRowsOnMacOS) {
             {"System", "Recent items", {"/Library/Application Support/com.apple.sharedfilelist"}},
         },
         "/Users/me");
-    for (const Trace& trace : traceTable(mac)) {
+    for (const Trace& trace : traceTable(onMac)) {
         EXPECT_FALSE(trace.databases) << trace.identity() << ": the table names each file";
         EXPECT_FALSE(trace.guarded) << trace.identity();
     }
-    EXPECT_THAT(browserLocks(mac), IsEmpty());
-    EXPECT_THAT(firefoxFolders(mac), IsEmpty());
+    EXPECT_THAT(browserLocks(onMac), IsEmpty());
+    EXPECT_THAT(firefoxFolders(onMac), IsEmpty());
 }
 
 TEST(TraceTable, hasTheFoldersOfLinux) {
     expectTable(
         traceTable(onLinux()),
         {
-            {"GNOME Web", "Caches", {"/home/me/.cache/epiphany", "/home/me/.var/app/org.gnome.Epiphany/cache/epiphany"}},
+            {"GNOME Web",
+             "Caches",
+             {"/home/me/.cache/epiphany", "/home/me/.var/app/org.gnome.Epiphany/cache/epiphany"}},
             {"GNOME Web", "History", {"/home/me/.local/share/epiphany/ephy-history.db"}},
             {"Chrome",
              "Caches",
@@ -134,19 +136,18 @@ TEST(TraceTable, honoursTheXdgFolders) {
 }
 
 TEST(TraceTable, identitiesAreUniqueAndJoinedWithNothingBetween) {
-    for (const TracePlaces& places : {mac, onLinux()}) {
+    for (const TracePlaces& places : {onMac, onLinux()}) {
         std::set<std::string> identities;
         for (const Trace& trace : traceTable(places)) EXPECT_TRUE(identities.insert(trace.identity()).second);
     }
-    EXPECT_EQ(traceTable(mac).front().identity(), "SafariCaches");
+    EXPECT_EQ(traceTable(onMac).front().identity(), "SafariCaches");
 }
 
 TEST(TraceTable, looksForFirefoxWhereverPackagesKeepIt) {
-    EXPECT_THAT(firefoxFolders(onLinux()),
-                ElementsAre("/home/me/.config/mozilla/firefox", "/home/me/.mozilla/firefox",
-                            "/home/me/snap/firefox/common/.mozilla/firefox",
-                            "/home/me/.var/app/org.mozilla.firefox/.mozilla/firefox",
-                            "/home/me/.var/app/org.mozilla.firefox/config/mozilla/firefox"));
+    EXPECT_THAT(firefoxFolders(onLinux()), ElementsAre("/home/me/.config/mozilla/firefox", "/home/me/.mozilla/firefox",
+                                                       "/home/me/snap/firefox/common/.mozilla/firefox",
+                                                       "/home/me/.var/app/org.mozilla.firefox/.mozilla/firefox",
+                                                       "/home/me/.var/app/org.mozilla.firefox/config/mozilla/firefox"));
 }
 
 TEST(TraceTable, knowsTheLocksOfBrowsers) {
@@ -216,11 +217,26 @@ TEST(TraceTable, namesNothingThatMustStay) {
 }
 
 TEST(TraceTable, knowsWhatMustStayByName) {
-    for (const char* name :
-         {"places.sqlite", "logins.json", "logins.db", "key4.db", "key3.db", "cert9.db", "Login Data",
-          "Login Data-journal", "Login Data For Account", "Web Data", "Web Data-journal", "Bookmarks", "Local State",
-          "Preferences", "bookmarks.gvdb", "browsedata.db", "keyrings", "kwalletd", "formhistory.sqlite",
-          "profiles.ini"})
+    for (const char* name : {"places.sqlite",
+                             "logins.json",
+                             "logins.db",
+                             "key4.db",
+                             "key3.db",
+                             "cert9.db",
+                             "Login Data",
+                             "Login Data-journal",
+                             "Login Data For Account",
+                             "Web Data",
+                             "Web Data-journal",
+                             "Bookmarks",
+                             "Local State",
+                             "Preferences",
+                             "bookmarks.gvdb",
+                             "browsedata.db",
+                             "keyrings",
+                             "kwalletd",
+                             "formhistory.sqlite",
+                             "profiles.ini"})
         EXPECT_TRUE(isKept(name)) << name;
     for (const char* name : {"", "History", "Cookies", "cookies.sqlite", "Cache", "cache2", "My Login Data",
                              "Bookmarks.desktop", "preferences", "Default"})

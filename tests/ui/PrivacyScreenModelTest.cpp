@@ -50,9 +50,10 @@ protected:
 TEST_F(PrivacyScreen, exposesItsTexts) {
     EXPECT_EQ(screen().screen(), Screen::privacy);
     EXPECT_EQ(screen().title(), QStringLiteral("Privacy"));
-    EXPECT_EQ(screen().subtitle().toStdString(),
-              "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that needs a "
-              "signature database).");
+    EXPECT_EQ(
+        screen().subtitle().toStdString(),
+        "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that needs a "
+        "signature database).");
     EXPECT_EQ(screen().scanLabel(), QStringLiteral("Scan for traces"));
     EXPECT_EQ(screen().scanningLabel().toStdString(), "Scanning browser traces…");
     EXPECT_TRUE(screen().note().isEmpty());
@@ -72,11 +73,10 @@ TEST_F(PrivacyScreenOfMac, describesRows) {
     EXPECT_FALSE(screen().nothing());
     EXPECT_THAT(column("title"), ElementsAre("Safari — Caches", "Chrome — Caches", "Safari — History",
                                              "Chrome — Cookies", "System — Recent items"));
-    EXPECT_THAT(column("place"),
-                ElementsAre(library + "Caches/com.apple.Safari", library + "Caches/Google/Chrome",
-                            library + "Safari/History.db",
-                            library + "Application Support/Google/Chrome/Default/Cookies",
-                            library + "Application Support/com.apple.sharedfilelist"));
+    EXPECT_THAT(column("place"), ElementsAre(library + "Caches/com.apple.Safari", library + "Caches/Google/Chrome",
+                                             library + "Safari/History.db",
+                                             library + "Application Support/Google/Chrome/Default/Cookies",
+                                             library + "Application Support/com.apple.sharedfilelist"));
     EXPECT_THAT(column("ticked"), ElementsAre("true", "true", "false", "false", "false"));
     EXPECT_THAT(column("running"), ElementsAre("false", "false", "false", "false", "false"));
     EXPECT_THAT(column("warning"), ElementsAre("", "", "", "", ""));

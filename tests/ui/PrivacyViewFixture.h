@@ -16,6 +16,12 @@ class PrivacyViewFixture : public ViewFixture {
 protected:
     ~PrivacyViewFixture() override { close(); }
 
+    /// Makes the machine a Linux one, which a model knows when it is made. Before the first use of the screen.
+    void fillLinux() {
+        fakes::fillWithLinuxTraces(machine);
+        destroyModel();
+        singleton<Theme>("Theme").follow(model());
+    }
     PrivacyModel& traces() { return model().privacy(); }
     PrivacyScreenModel& privacy() {
         if (!privacy_) privacy_ = std::make_unique<PrivacyScreenModel>(model());

@@ -38,25 +38,13 @@ TEST_F(PrivacyWindowOfMac, showsItsThreeFaces) {
     machine.tasks.release();
     runUntil([this] { return !traces().loading(); });
     settle();
-    EXPECT_EQ(seenTexts(), (Strings{"Privacy",
-                                    "browsing traces",
-                                    "Safari — Caches",
-                                    library + "Caches/com.apple.Safari",
-                                    "6 MB",
-                                    "Chrome — Caches",
-                                    library + "Caches/Google/Chrome",
-                                    "4 MB",
-                                    "Safari — History",
-                                    library + "Safari/History.db",
-                                    "3 MB",
-                                    "Chrome — Cookies",
-                                    library + "Application Support/Google/Chrome/Default/Cookies",
-                                    "2 MB",
-                                    "System — Recent items",
-                                    library + "Application Support/com.apple.sharedfilelist",
-                                    "1 MB",
-                                    "10 MB selected",
-                                    "Clear traces"}));
+    EXPECT_EQ(
+        seenTexts(),
+        (Strings{"Privacy", "browsing traces", "Safari — Caches", library + "Caches/com.apple.Safari", "6 MB",
+                 "Chrome — Caches", library + "Caches/Google/Chrome", "4 MB", "Safari — History",
+                 library + "Safari/History.db", "3 MB", "Chrome — Cookies",
+                 library + "Application Support/Google/Chrome/Default/Cookies", "2 MB", "System — Recent items",
+                 library + "Application Support/com.apple.sharedfilelist", "1 MB", "10 MB selected", "Clear traces"}));
     EXPECT_EQ(colorsOf("globe").size(), 5U);
     expectNoTextClipped();
 }
@@ -135,7 +123,8 @@ TEST_F(PrivacyWindowOfMac, keysTickRows) {
 TEST_F(PrivacyWindowOfMac, tabVisitsEverythingInOrder) {
     openScanned();
     tabTo("traceList");
-    EXPECT_THAT(tabOrder(), ElementsAre("Safari — Caches, " + library + "Caches/com.apple.Safari, 6 MB", "Clear traces"));
+    EXPECT_THAT(tabOrder(),
+                ElementsAre("Safari — Caches, " + library + "Caches/com.apple.Safari, 6 MB", "Clear traces"));
     expectAllControlsNamed();
 }
 
@@ -239,7 +228,7 @@ TEST_F(PrivacyWindowOfMac, noticesBrowsersWhenItAppears) {
 }
 
 TEST_F(PrivacyWindow, saysOnLinuxWhyAHistoryIsMissing) {
-    fakes::fillWithLinuxTraces(machine);
+    fillLinux();
     openScanned();
     QQuickItem* reason = showing(whyNot);
     ASSERT_NE(reason, nullptr);
@@ -266,7 +255,7 @@ TEST_F(PrivacyWindowOfMac, saysNothingOfTheKindOnMacOS) {
 }
 
 TEST_F(PrivacyWindow, largeTextHasRoomInASmallWindow) {
-    fakes::fillWithLinuxTraces(machine);
+    fillLinux();
     machine.workspace.running = {"Chromium Web Browser"};
     singleton<TextScale>("TextScale").setFactor(1.5);
     openScanned({726, 700});

@@ -65,8 +65,8 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, Pretence& pretence, T
 
 bool Tour::run() {
     return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
-           clutter() && tune() && privacy() && health() && system() && roots() && sidebarAndMenus() && windows() && firstRun() &&
-           smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
+           clutter() && tune() && privacy() && health() && system() && roots() && sidebarAndMenus() && windows() &&
+           firstRun() && smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
 }
 
 bool Tour::gallery() {

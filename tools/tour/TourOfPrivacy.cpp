@@ -6,7 +6,8 @@
 
 namespace zelk::tour {
 
-/// The traces: before, during and after a scan, while browsers run, with nothing chosen, and cleared in part and wholly.
+/// The traces: before, during and after a scan, while browsers run, with nothing chosen, and cleared in part and
+/// wholly.
 bool Tour::privacy() {
     QQuickWindow& window = window_.window();
     PrivacyModel& privacy = app_.privacy();

@@ -14,6 +14,7 @@
 
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
+#include "platform/posix/FileFacts.h"
 
 namespace zelk {
 namespace {

@@ -16,8 +16,14 @@ FocusScope {
 
     // To what there is, after what had the focus has gone.
     function moveFocus(byKey: bool) {
-        const next = pane.nothing ? scanAgain : list;
         list.byKey = byKey;
+        if (pane.nothing)
+            pane.giveFocus(scanAgain, byKey);
+        else
+            pane.giveFocus(list, byKey);
+    }
+
+    function giveFocus(next: Item, byKey: bool) {
         if (pane.activeFocus)
             next.forceActiveFocus(byKey ? Qt.TabFocusReason : Qt.MouseFocusReason);
         else
@@ -28,6 +34,7 @@ FocusScope {
     function clear() {
         const button = pane.Window.activeFocusItem as T.AbstractButton;
         const byKey = button?.visualFocus ?? false;
+        list.byKey = byKey;
         pane.privacy.clearChosen();
         pane.moveFocus(byKey);
     }
