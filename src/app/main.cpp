@@ -8,13 +8,16 @@
 //   scan/        FSNode is the tree; ParallelWalker fills it; ScanEngine turns roots into a stream of ScanUpdates,
 //                which an UpdateQueue carries to the main thread
 //   reclaim/     ReclaimCatalogue is the closed table of what may go; ReclaimClassifier finds it in a tree; Cleaner
-//                removes it; DuplicateFinder hashes files of equal sizes, and trashDuplicates() keeps one of a set
+//                removes it; DuplicateFinder hashes files of equal sizes, and trashDuplicates() keeps one of a set;
+//                Leftovers are what an application leaves behind; TraceTable that of browsers, TraceScanner finds and
+//                moves that
 //   system/      what the machine knows that a scan cannot see: AccessProbe, HealthScore, LocalSnapshot and its
-//                sources, BackgroundItems; and what needs an administrator: PrivilegedCommands
+//                sources, BackgroundItems; apps/, which applications are installed, a source per kind; and what needs
+//                an administrator: PrivilegedCommands
 //   state/       AppModel is the one state that every screen shows: SurveySession runs a survey into SurveyResults,
-//                CleanupSession removes, TrashMirror shows the Trash; TuneModel holds the levers, DuplicatesModel the
-//                sets of equal files; SurveyHistory is the one file that Zelk writes; MainThreadQueue brings results
-//                back from tasks
+//                CleanupSession removes, TrashMirror shows the Trash; TuneModel, DuplicatesModel, AppsModel and
+//                PrivacyModel hold what their screens found; SurveyHistory is the one file that Zelk writes;
+//                MainThreadQueue brings results back from tasks
 //   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand them to QML; DisplayText makes of bytes
 //                what a person reads; the symbols, one SVG each, and SymbolItem, which tints them
 //   ui/controls/ the base controls: role, keyboard and focus ring are solved here

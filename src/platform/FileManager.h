@@ -39,6 +39,12 @@ public:
     /// The path of an existing entry without links in it; absent if it leads nowhere.
     virtual std::optional<std::string> realPath(const std::string& path) = 0;
 
+    /// The text of the symbolic link at `path`, which need not lead anywhere; absent if that is no link.
+    virtual std::optional<std::string> linkTarget(const std::string& path) = 0;
+    /// Whether another process holds a lock on the file at `path`, as programs do that tell others that they are
+    /// running. Never blocks and takes no lock; false if the file cannot be read.
+    virtual bool isLocked(const std::string& path) = 0;
+
     /// The whole content of a file; absent on any failure.
     virtual std::optional<std::string> read(const std::string& path) = 0;
     /// The same for a file of at most `most` bytes; absent for a larger one, which takes no memory.

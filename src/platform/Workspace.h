@@ -28,6 +28,9 @@ public:
     /// without a name. On Linux these are the names of desktop entries whose program is running, never bare process
     /// names.
     virtual std::vector<std::string> runningApplications() = 0;
+    /// The ids of the desktop entries of the user's running applications ("org.kde.kate" for "org.kde.kate.desktop"),
+    /// in the same order; empty where the system has none, as by default.
+    virtual std::vector<std::string> runningApplicationIds() { return {}; }
     /// Shows the paths selected in the system's file manager. Returns at once and ignores failures.
     virtual void reveal(const std::vector<std::string>& paths) = 0;
     /// Opens `url` with the desktop. Returns at once and ignores failures. On Linux `accessSettingsURL`, which no

@@ -102,7 +102,7 @@ ReclaimMethod methodOf(std::string_view categoryID) {
 
 /// `home` without trailing slashes, so that a path rule can follow it directly. Keeps "/", the home of a user without
 /// one: "/Library" is the system's and must not match.
-std::string_view trimmed(std::string_view home) {
+std::string_view withoutEndingSlashes(std::string_view home) {
     while (home.size() > 1 && home.ends_with('/')) home.remove_suffix(1);
     return home;
 }
@@ -174,7 +174,7 @@ ReclaimPlaces ReclaimPlaces::of(Locations& locations) {
 std::optional<ReclaimClassifier::Match> ReclaimClassifier::classify(const FSNode& node, const std::string& home) const {
     WalkedPath path(node);
     if (places_.trash.hold(path.text())) return std::nullopt;
-    return classifyAt(node, path, trimmed(home), files_, places_);
+    return classifyAt(node, path, withoutEndingSlashes(home), files_, places_);
 }
 
 void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vector<Reclaimable>& items) const {
@@ -183,7 +183,7 @@ void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vecto
         std::size_t nextChild;
         std::size_t pathLength;
     };
-    const std::string_view homePath = trimmed(home);
+    const std::string_view homePath = withoutEndingSlashes(home);
     WalkedPath path(top);
     std::size_t rootLength = 0;
     // True if the walk descends into the node.

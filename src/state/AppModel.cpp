@@ -25,7 +25,8 @@ AppModel::AppModel(Platform platform, QObject* parent)
       cleanup_(platform, results_, removals_, removalUndo_, mainThread_.sender()),
       tune_(platform, admin_, removalUndo_),
       duplicates_(platform, removals_, removalUndo_, mainThread_.sender()),
-      apps_(platform, removals_, removalUndo_, mainThread_.sender()) {
+      apps_(platform, removals_, removalUndo_, mainThread_.sender()),
+      privacy_(platform, removals_, removalUndo_, mainThread_.sender()) {
     scanRoots_ = {home_};
 }
 

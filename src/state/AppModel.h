@@ -21,6 +21,7 @@
 #include "state/CleanupSession.h"
 #include "state/DuplicatesModel.h"
 #include "state/MainThreadQueue.h"
+#include "state/PrivacyModel.h"
 #include "state/RemovalUndo.h"
 #include "state/RemovalsModel.h"
 #include "state/Screen.h"
@@ -93,8 +94,8 @@ public:
 
     /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
-    /// What the last trashAndRemove(), trashLargeFile() or removal of background items, duplicates or an application
-    /// moved to the Trash.
+    /// What the last trashAndRemove(), trashLargeFile() or removal of background items, duplicates, an application or
+    /// traces moved to the Trash.
     RemovalUndo& removalUndo() { return removalUndo_; }
     /// Memory, caches, and what starts in the background.
     TuneModel& tune() { return tune_; }
@@ -102,6 +103,8 @@ public:
     DuplicatesModel& duplicates() { return duplicates_; }
     /// The installed applications.
     AppsModel& apps() { return apps_; }
+    /// What browsers leave on the disk.
+    PrivacyModel& privacy() { return privacy_; }
     /// Commands that need an administrator.
     AdminRunner& admin() { return admin_; }
     /// The services, for the models of screens.
@@ -221,6 +224,7 @@ private:
     TuneModel tune_;
     DuplicatesModel duplicates_;
     AppsModel apps_;
+    PrivacyModel privacy_;
     std::shared_ptr<SurveySession> scanTask_;  // running or finished; absent after a cancel
     bool scanAgain_ = false;                   // when that one has finished
 };

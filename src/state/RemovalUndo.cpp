@@ -8,6 +8,14 @@
 
 namespace zelk {
 
+namespace {
+
+Failure lonelyPart(const TrashedItem& item) {
+    return "“" + std::string(item.origin.name()) + "” belongs to something that was not restored.";
+}
+
+}  // namespace
+
 RemovalUndo::RemovalUndo(const Platform& platform, MainThreadQueue::Sender mainThread)
     : tasks_(platform.tasks), trash_(platform.trash), mainThread_(std::move(mainThread)) {}
 
@@ -32,7 +40,7 @@ void RemovalUndo::forgetResults() {
 void RemovalUndo::forgetResultsOf(std::vector<Item>& items) {
     std::vector<Item> kept;
     kept.reserve(items.size());
-    for (const Item& item : items) kept.push_back({item.trashed, nullptr});
+    for (const Item& item : items) kept.push_back({item.trashed, nullptr, item.isPart});
     release(std::exchange(items, std::move(kept)));
 }
 
@@ -49,14 +57,18 @@ void RemovalUndo::undo(std::function<void(bool resultsAreComplete)> settle) {
     std::reverse(restoring_.begin(), restoring_.end());
     const std::size_t notFound = std::exchange(moved_, 0) - restoring_.size();
     underWay_ = true;
-    std::vector<TrashedItem> items;
+    std::vector<std::pair<TrashedItem, bool>> items;  // and whether it is a part
     items.reserve(restoring_.size());
-    for (const Item& item : restoring_) items.push_back(item.trashed);
+    for (const Item& item : restoring_) items.emplace_back(item.trashed, item.isPart);
     auto work = [this, mainThread = mainThread_, &trash = trash_, notFound, items = std::move(items),
                  settle = std::move(settle)] {
         std::vector<Failure> failures;
         failures.reserve(items.size());
-        for (const TrashedItem& item : items) failures.push_back(trash.restore(item));
+        bool hasWhole = true;
+        for (const auto& [item, isPart] : items) {
+            failures.push_back(isPart && !hasWhole ? lonelyPart(item) : trash.restore(item));
+            if (!isPart) hasWhole = !failures.back();
+        }
         mainThread.post(
             [this, notFound, failures = std::move(failures), settle] { finish(notFound, failures, settle); });
     };

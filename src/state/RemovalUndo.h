@@ -25,7 +25,8 @@ public:
         largeFile,        ///< AppModel::trashLargeFile()
         backgroundItems,  ///< TuneModel::removeSelected()
         duplicates,       ///< DuplicatesModel::trashOthers()
-        applications      ///< AppsModel::uninstall()
+        applications,     ///< AppsModel::uninstall()
+        traces            ///< PrivacyModel::clearSelected()
     };
     /// Whether what is removed there was found by a survey, so that another survey concerns its undo.
     static bool isOfSurvey(Source source) { return source == Source::folders || source == Source::largeFile; }
@@ -35,6 +36,9 @@ public:
         /// Adds the restored item to the results, or to the list that it was taken from, again. Returns false, as if
         /// null, if that is not possible: then only a new survey gives complete results.
         std::function<bool()> putBack;
+        /// A part of the item that undo() restores before this one, or of the one that that is a part of: restored only
+        /// if that was. Beside something newer of the same name it would do harm.
+        bool isPart = false;
     };
 
     struct Outcome {

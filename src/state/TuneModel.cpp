@@ -7,6 +7,7 @@
 #include <iterator>
 #include <utility>
 
+#include "state/TextFinder.h"
 #include "state/UserLocale.h"
 #include "system/MaintenanceLines.h"
 
@@ -32,23 +33,6 @@ void sortByLabel(std::vector<Agent>& agents) {
     std::stable_sort(keyed.begin(), keyed.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     std::transform(keyed.begin(), keyed.end(), agents.begin(), [](auto& one) { return std::move(one.second); });
 }
-
-/// Finds a text in others, in any case: by the rules of the user's language and by those of all.
-class TextFinder {
-public:
-    explicit TextFinder(const QString& wanted)
-        : wanted_(wanted.normalized(QString::NormalizationForm_C)), lower_(locale_.toLower(wanted_)) {}
-
-    bool isIn(const std::string& bytes) const {
-        const QString text = QString::fromStdString(bytes).normalized(QString::NormalizationForm_C);
-        return text.contains(wanted_, Qt::CaseInsensitive) || locale_.toLower(text).contains(lower_);
-    }
-
-private:
-    QLocale locale_ = userLocale();
-    QString wanted_;
-    QString lower_;
-};
 
 }  // namespace
 

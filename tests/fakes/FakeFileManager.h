@@ -10,6 +10,7 @@
 #include <mutex>
 #include <optional>
 #include <ostream>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -57,6 +58,14 @@ public:
     void giveAway(const std::string& path) {
         const std::lock_guard lock(mutex_);
         entries_[path].isOwn = false;
+    }
+    /// Another process takes a lock on the file at `path`, or lets go of it.
+    void setLocked(const std::string& path, bool locked = true) {
+        const std::lock_guard lock(mutex_);
+        if (locked)
+            locked_.insert(path);
+        else
+            locked_.erase(path);
     }
     /// Removes `path` and everything below it.
     void erase(const std::string& path) {
@@ -187,6 +196,20 @@ public:
         return std::nullopt;
     }
 
+    std::optional<std::string> linkTarget(const std::string& path) override {
+        if (fails("linkTarget", path)) return std::nullopt;
+        const std::lock_guard lock(mutex_);
+        const auto entry = entries_.find(path);
+        if (entry == entries_.end() || entry->second.kind != Kind::link) return std::nullopt;
+        return entry->second.text;
+    }
+
+    bool isLocked(const std::string& path) override {
+        if (fails("isLocked", path)) return false;
+        const std::lock_guard lock(mutex_);
+        return locked_.contains(path) && resolve(path) != entries_.end();
+    }
+
     std::optional<std::string> read(const std::string& path) override {
         if (fails("read", path)) return std::nullopt;
         return content(path);
@@ -308,6 +331,7 @@ private:
 
     mutable std::mutex mutex_;
     Entries entries_{{"/", Entry{}}};
+    std::set<std::string> locked_;
     std::uint64_t nextInode_ = 1;
     std::vector<Call> calls_;
 };

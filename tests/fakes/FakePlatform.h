@@ -317,6 +317,7 @@ private:
 class FakeWorkspace : public Workspace {
 public:
     std::vector<std::string> running;
+    std::vector<std::string> runningIds;
     int runningReads = 0;
     std::vector<std::vector<std::string>> revealed;
     std::vector<std::string> opened;
@@ -329,6 +330,7 @@ public:
         ++runningReads;
         return running;
     }
+    std::vector<std::string> runningApplicationIds() override { return runningIds; }
     void reveal(const std::vector<std::string>& paths) override { revealed.push_back(paths); }
     void openURL(const std::string& url) override { opened.push_back(url); }
     std::optional<IconPixels> icon(const std::string& path, bool, int) override {

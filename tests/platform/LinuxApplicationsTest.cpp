@@ -140,7 +140,7 @@ protected:
     }
 
     Strings running(const std::vector<RunningProcess>& processes) {
-        return runningApplicationNames(installedApplications(places), processes);
+        return runningApplicationsOf(installedApplications(places), processes).names;
     }
     Strings installedNames() {
         Strings names;

@@ -19,8 +19,6 @@ protected:
         addWideFolder(home + "/wide");
     }
     ~Modules() override { machine.directories.release(); }
-
-    std::unique_ptr<ModuleScreenModel> module(Screen screen) { return makeUnbuiltModule(screen); }
 };
 
 }  // namespace
@@ -72,27 +70,6 @@ TEST(ModuleScreenModel, tellsShareInWordsForAScreenReader) {
     EXPECT_EQ(module.doing(), QStringLiteral("Hashing…, 1 MB of 4 MB"));
     module.setShare(0.25, QStringLiteral("1 MB of 4 MB"));
     EXPECT_EQ(changes.count(), 1);
-}
-
-TEST_F(Modules, haveTitleAndSubtitle) {
-    const auto expect = [&](Screen screen, const char* title, const char* subtitle) {
-        EXPECT_EQ(module(screen)->title().toStdString(), title);
-        EXPECT_EQ(module(screen)->subtitle().toStdString(), subtitle);
-    };
-    expect(Screen::privacy, "Privacy",
-           "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that needs a "
-           "signature database).");
-}
-
-TEST_F(Modules, showNoteInsteadOfScanIfUnbuilt) {
-    for (const Screen screen : {Screen::privacy}) {
-        const auto unbuilt = module(screen);
-        EXPECT_TRUE(unbuilt->scanLabel().isEmpty());
-        EXPECT_EQ(unbuilt->note(), lookOf(screen).title + QStringLiteral(" is not in this version yet."));
-        unbuilt->scan();
-        EXPECT_EQ(model().scanPhase(), Phase::idle);
-        EXPECT_TRUE(unbuilt->idle());
-    }
 }
 
 TEST_F(Modules, followSurveyStartedByTheirButton) {

@@ -2,7 +2,6 @@
 // The texts around the screens, read from the rendered window.
 #include "TextsOf.h"
 #include "ViewFixture.h"
-#include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/shell/AboutInfo.h"
 #include "ui/shell/SidebarModel.h"
 
@@ -62,17 +61,6 @@ TEST_F(ShellTexts, aboutShowsNameAndRows) {
     device.chip.clear();
     showAbout();
     EXPECT_EQ(seenTexts(), (Texts{"Zelk Preview", "Version", "1.2 (34)", "System", "TestOS 1.0"}));
-    close();
-}
-
-TEST_F(ShellTexts, unbuiltModuleShowsPurposeAndNote) {
-    const auto module = makeUnbuiltModule(Screen::apps);
-    show(QStringLiteral("Zelk.App"), QStringLiteral("ModuleScaffold"), "module", module.get(), {800, 620});
-    EXPECT_EQ(seenTexts(),
-              (Texts{"Apps",
-                     "List installed apps by size and uninstall them cleanly — the app plus its leftover caches, "
-                     "preferences, and support files.",
-                     "Apps is not in this version yet."}));
     close();
 }
 

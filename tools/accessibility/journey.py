@@ -335,7 +335,19 @@ def apps(walker, audience):
         walker.close("Cancel")
 
 
-INSIDE = {"Overview": overview, "Reclaim": reclaim, "Tune": tune, "Apps": apps, "Clutter": clutter,
+def privacy(walker, audience):
+    if audience == "everyone":
+        walker.press("Scan for traces")
+    title = f"Traces for {audience}"
+    walker.screen = title
+    walker.wait(lambda: walker.find("Clear traces") is not None, CLEANING_SECONDS)
+    walker.look(title, expect("Traces", "list"), expect("Clear traces", "push button"))
+    row = first_row(walker, "Traces")
+    if row is not None and row.has("checkable"):
+        walker.toggle(re.escape(row.name), frozenset({row.role}))
+
+
+INSIDE = {"Overview": overview, "Reclaim": reclaim, "Privacy": privacy, "Tune": tune, "Apps": apps, "Clutter": clutter,
           "Duplicates": duplicates, "Lens": lens, "Health": health, "System": system, "Settings": settings}
 
 

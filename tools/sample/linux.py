@@ -10,8 +10,9 @@ SHARE = 0.75  # scales the megabytes below, which sum to 8 GB, to about 6 GB
 
 BROWSERS = (
     (".cache/mozilla/firefox/k3x9.default-release/cache2/entries", ".mozilla/firefox/k3x9.default-release",
-     ("places.sqlite", "cookies.sqlite"), 120),
-    (".cache/google-chrome/Default/Cache/Cache_Data", ".config/google-chrome/Default", ("History", "Cookies"), 95),
+     ("places.sqlite", "places.sqlite-wal", "cookies.sqlite", "cookies.sqlite-wal"), 120),
+    (".cache/google-chrome/Default/Cache/Cache_Data", ".config/google-chrome/Default",
+     ("History", "History-journal", "Cookies", "Cookies-journal"), 95),
     (".cache/chromium/Default/Cache/Cache_Data", ".config/chromium/Default", ("History", "Cookies"), 38),
     (".cache/BraveSoftware/Brave-Browser/Default/Cache/Cache_Data", ".config/BraveSoftware/Brave-Browser/Default",
      ("History", "Cookies"), 44),
@@ -30,8 +31,21 @@ def browsers(plan):
             plan.cleanable(os.path.dirname(cache))
         for name in databases:
             plan.file(f"{profile}/{name}", 6, 1)
+        # What clearing the databases beside them must leave alone.
+        for name in ("logins.json", "key4.db") if "mozilla" in profile else ("Bookmarks", "Login Data", "Web Data"):
+            plan.file(f"{profile}/{name}", 0.1, 40)
+    # Firefox marks the profile as its default that it does not use.
     plan.text(".mozilla/firefox/profiles.ini",
-              "[Profile0]\nName=default-release\nIsRelative=1\nPath=k3x9.default-release\nDefault=1\n", 400)
+              "[Install4F96D1932A9F858E]\nDefault=k3x9.default-release\nLocked=1\n\n"
+              "[Profile1]\nName=default\nIsRelative=1\nPath=w7qd.default\nDefault=1\n\n"
+              "[Profile0]\nName=default-release\nIsRelative=1\nPath=k3x9.default-release\n", 400)
+    plan.file(".mozilla/firefox/w7qd.default/cookies.sqlite", 0.5, 400)
+    plan.many(".cache/epiphany/WebKitCache/Version 16/Records", 8, 12, lambda n: f"{n * 7919:040X}", (0, 40))
+    for ending, megabytes in (("", 4), ("-wal", 1), ("-shm", 0.1)):
+        plan.file(f".local/share/epiphany/ephy-history.db{ending}", megabytes, 2)
+    plan.file(".local/share/epiphany/bookmarks.gvdb", 0.1, 90)
+    plan.text(".local/share/RecentDocuments/Budget.xlsx.desktop",
+              "[Desktop Entry]\nType=Link\nName=Budget.xlsx\nURL[$e]=$HOME/Documents/Budget.xlsx\n", 1)
     plan.text(".local/share/recently-used.xbel", '<?xml version="1.0" encoding="UTF-8"?>\n<xbel version="1.0"/>\n', 1)
 
 

@@ -47,9 +47,17 @@ public:
         passing_ = passing;
     }
     void release() { set(held_, false); }
+    /// Makes the measuring of folders wait, which only tasks do.
+    void holdMeasuring(bool held) { set(measuringHeld_, held); }
+    void waitToMeasure() {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return !measuringHeld_; });
+    }
     void fail(bool failing) { set(failing_, failing); }
     void setTrash(TrashContents contents) { set(trash_, contents); }
     void setVitals(const PretendedVitals& vitals) { set(vitals_, vitals); }
+    /// Sets the names of the running applications.
+    void setRunning(std::vector<std::string> names) { set(running_, std::move(names)); }
     /// Sets what programs answer. Called on any thread.
     void setPrograms(PretendedPrograms programs) { set(programs_, std::move(programs)); }
     /// Sets the clock back by a number of days.
@@ -75,6 +83,7 @@ public:
     TrashContents trash() { return get(trash_); }
     PretendedVitals vitals() { return get(vitals_); }
     PretendedPrograms programs() { return get(programs_); }
+    std::vector<std::string> running() { return get(running_); }
     double daysBack() { return get(daysBack_); }
     /// What print() was last called with.
     std::string output() { return get(output_); }
@@ -96,9 +105,11 @@ private:
     std::condition_variable changed_;
     bool held_ = false;
     std::size_t passing_ = 0;
+    bool measuringHeld_ = false;
     bool failing_ = false;
     TrashContents trash_ = TrashContents::real;
     PretendedVitals vitals_;
+    std::vector<std::string> running_{"Code"};  // whose caches are in the sample homes
     PretendedPrograms programs_ = [](const std::string&, const std::vector<std::string>&) { return ChildOutcome(); };
     double daysBack_ = 0;
     std::string output_;
@@ -159,7 +170,8 @@ private:
 /// The real files, with those of the pretended applications. Removes nothing.
 class PretendingFiles : public FileManager {
 public:
-    PretendingFiles(FileManager& real, Pretence& pretence) : real_(real), applications_(pretence.applications()) {}
+    PretendingFiles(FileManager& real, Pretence& pretence)
+        : real_(real), pretence_(pretence), applications_(pretence.applications()) {}
 
     bool exists(const std::string& path) override { return applications_.content(path) || real_.exists(path); }
     std::optional<FileProperties> properties(const std::string& path) override {
@@ -173,10 +185,13 @@ public:
     }
     std::uint64_t allocatedSizeBelow(const std::string& path) override {
         applications_.waitForSizes();
+        pretence_.waitToMeasure();
         return real_.allocatedSizeBelow(path);
     }
     std::uint64_t fullSizeBelow(const std::string& path) override { return real_.fullSizeBelow(path); }
     std::optional<std::string> realPath(const std::string& path) override { return real_.realPath(path); }
+    std::optional<std::string> linkTarget(const std::string& path) override { return real_.linkTarget(path); }
+    bool isLocked(const std::string& path) override { return real_.isLocked(path); }
     std::optional<std::string> read(const std::string& path) override { return real_.read(path); }
     std::optional<std::string> readSmall(const std::string& path, std::size_t most) override {
         std::optional<std::string> text = applications_.content(path);
@@ -194,6 +209,7 @@ public:
 
 private:
     FileManager& real_;
+    Pretence& pretence_;
     PretendedApplications& applications_;
 };
 
@@ -209,12 +225,12 @@ private:
     Pretence& pretence_;
 };
 
-/// Reports an application as running whose caches are in the sample homes. Opens nothing.
+/// Reports as running what the pretence says. Opens nothing.
 class PretendingWorkspace : public Workspace {
 public:
-    explicit PretendingWorkspace(Workspace& real) : real_(real) {}
+    PretendingWorkspace(Workspace& real, Pretence& pretence) : real_(real), pretence_(pretence) {}
 
-    std::vector<std::string> runningApplications() override { return {"Code"}; }
+    std::vector<std::string> runningApplications() override { return pretence_.running(); }
     void reveal(const std::vector<std::string>&) override {}
     void openURL(const std::string&) override {}
     std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override {
@@ -226,6 +242,7 @@ public:
 
 private:
     Workspace& real_;
+    Pretence& pretence_;
 };
 
 class PretendingProcesses : public ChildProcess {

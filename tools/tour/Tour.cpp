@@ -70,8 +70,9 @@ Tour::Tour(AppModel& app, PausingDirectories& directories, PausingContents& cont
 
 bool Tour::run() {
     return gallery() && idle() && heroes() && survey() && findings() && trash() && lens() && changes() && reclaim() &&
-           clutter() && duplicates() && tune() && apps() && health() && system() && roots() && sidebarAndMenus() &&
-           windows() && firstRun() && smallAndLarge() && taking() && focus() && keptItem() && nothingFound();
+           clutter() && duplicates() && privacy() && tune() && apps() && health() && system() && roots() &&
+           sidebarAndMenus() && windows() && firstRun() && smallAndLarge() && taking() && focus() && keptItem() &&
+           nothingFound();
 }
 
 bool Tour::gallery() {
@@ -326,8 +327,8 @@ bool Tour::smallAndLarge() {
     };
     resize(leastSize);
     text.setFactor(largeText);
-    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::tune, Screen::clutter, Screen::duplicates,
-                                Screen::lens, Screen::tools, Screen::settings})
+    for (const Screen screen : {Screen::survey, Screen::reclaim, Screen::privacy, Screen::tune, Screen::clutter,
+                                Screen::duplicates, Screen::lens, Screen::tools, Screen::settings})
         taken = taken && go(screen) && picture(QStringLiteral("large-text-") + lookOf(screen).title.toLower());
     app_.setSelection(Screen::system);  // its row in the sidebar is out of sight until then
     taken = taken && picture(QStringLiteral("large-text-system"));

@@ -56,6 +56,7 @@ private:
     bool apps();
     bool appSheets();
     bool appRemovals();
+    bool privacy();
     bool roots();
     bool windows();
     bool sidebarAndMenus();

@@ -64,6 +64,8 @@ void allowNames(zelk::AppModel& app, zelk::tour::TextCheck& texts) {
         texts.allow(zelk::displayText(agent.label));
         texts.allow(zelk::displayText(agent.path));
     }
+    for (const zelk::Trace& trace : app.privacy().traces()) texts.allow(zelk::displayText(trace.paths.front()));
+    for (const std::string& name : app.workspace().runningApplications()) texts.allow(zelk::displayText(name));
 }
 
 }  // namespace
@@ -119,7 +121,7 @@ int main(int argc, char** argv) {
     zelk::tour::PretendingFiles files(real.files, pretence);
     zelk::tour::PretendingProcesses processes(pretence);
     zelk::tour::PretendingVitals vitals(real.vitals, pretence);
-    zelk::tour::PretendingWorkspace workspace(real.workspace);
+    zelk::tour::PretendingWorkspace workspace(real.workspace, pretence);
     // Each theme starts with the original history, so that its survey shows the same changes.
     zelk::tour::ScratchLocations forDark(real.locations, sample);
     zelk::tour::ScratchLocations forLight(real.locations, sample);

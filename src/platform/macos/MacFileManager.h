@@ -15,6 +15,8 @@ public:
     std::uint64_t allocatedSizeBelow(const std::string& path) override;
     std::uint64_t fullSizeBelow(const std::string& path) override;
     std::optional<std::string> realPath(const std::string& path) override;
+    std::optional<std::string> linkTarget(const std::string& path) override;
+    bool isLocked(const std::string& path) override;
     std::optional<std::string> read(const std::string& path) override;
     std::optional<std::string> readSmall(const std::string& path, std::size_t most) override;
     std::optional<std::string> readStart(const std::string& path, std::size_t most) override;

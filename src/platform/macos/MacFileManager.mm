@@ -10,6 +10,7 @@
 #include "platform/macos/FoundationPaths.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
+#include "platform/posix/FileFacts.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/RealPath.h"
 #include "platform/posix/RemoveEntry.h"
@@ -83,6 +84,14 @@ std::uint64_t MacFileManager::fullSizeBelow(const std::string& path) {
 
 std::optional<std::string> MacFileManager::realPath(const std::string& path) {
     return resolvedPath(path);
+}
+
+std::optional<std::string> MacFileManager::linkTarget(const std::string& path) {
+    return textOfLink(path);
+}
+
+bool MacFileManager::isLocked(const std::string& path) {
+    return isLockedByAnother(path);
 }
 
 std::optional<std::string> MacFileManager::read(const std::string& path) {

@@ -14,6 +14,7 @@
 
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
+#include "platform/posix/FileFacts.h"
 
 namespace zelk {
 namespace {
@@ -39,16 +40,6 @@ bool isPlainName(std::string_view name) {
     return !name.empty() && name != "." && name != "..";
 }
 
-std::optional<std::string> linkTarget(const std::string& path) {
-    std::vector<char> buffer(256);
-    for (;;) {
-        const ssize_t length = ::readlink(path.c_str(), buffer.data(), buffer.size());
-        if (length < 0) return std::nullopt;
-        if (static_cast<std::size_t>(length) < buffer.size()) return std::string(buffer.data(), length);
-        buffer.resize(buffer.size() * 2);
-    }
-}
-
 /// Resolves links at the end of `path` to the file, which need not exist.
 std::optional<ResolvedFile> resolve(std::string path) {
     for (int links = 0; links <= maximumLinks; ++links) {
@@ -56,7 +47,7 @@ std::optional<ResolvedFile> resolve(std::string path) {
         ResolvedFile place = split(path);
         if (!isPlainName(place.name)) return std::nullopt;
         if (::lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return place;
-        const std::optional<std::string> target = linkTarget(path);
+        const std::optional<std::string> target = textOfLink(path);
         if (!target) return std::nullopt;
         path = target->starts_with('/') ? *target : place.folder + *target;
     }

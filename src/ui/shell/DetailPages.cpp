@@ -11,8 +11,8 @@
 #include "ui/screens/duplicates/DuplicatesScreenModel.h"
 #include "ui/screens/health/HealthScreenModel.h"
 #include "ui/screens/lens/LensScreenModel.h"
-#include "ui/screens/module/ModuleScreenModel.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
+#include "ui/screens/privacy/PrivacyScreenModel.h"
 #include "ui/screens/reclaim/ReclaimScreenModel.h"
 #include "ui/screens/settings/SettingsScreenModel.h"
 #include "ui/screens/system/SystemScreenModel.h"
@@ -47,16 +47,11 @@ std::unique_ptr<QObject> make<HealthScreenModel>(const ScreenContext& context) {
     return std::make_unique<HealthScreenModel>(context.app, context.openHelp);
 }
 
-template <Screen screen>
-std::unique_ptr<QObject> introduce(const ScreenContext&) {
-    return makeUnbuiltModule(screen);
-}
-
 /// The table of screens.
 constexpr ScreenPlace places[] = {
     {Screen::survey, "SurveyView", "survey", make<SurveyScreenModel>},
     {Screen::reclaim, "DevCleanupView", "reclaim", make<ReclaimScreenModel>},
-    {Screen::privacy, "ModuleScaffold", "module", introduce<Screen::privacy>},
+    {Screen::privacy, "PrivacyView", "privacy", make<PrivacyScreenModel>},
     {Screen::tune, "TuneView", "tune", make<TuneScreenModel>},
     {Screen::apps, "AppsView", "apps", make<AppsScreenModel>},
     {Screen::clutter, "ClutterView", "clutter", make<ClutterScreenModel>},

@@ -172,15 +172,19 @@ std::vector<InstalledApplication> installedApplications(const ApplicationPlaces&
     return collector.take();
 }
 
-std::vector<std::string> runningApplicationNames(const std::vector<InstalledApplication>& applications,
-                                                 const std::vector<RunningProcess>& processes) {
-    std::vector<std::string> names;
+RunningApplications runningApplicationsOf(const std::vector<InstalledApplication>& applications,
+                                          const std::vector<RunningProcess>& processes) {
+    const auto addOnce = [](std::vector<std::string>& texts, const std::string& text) {
+        if (std::find(texts.begin(), texts.end(), text) == texts.end()) texts.push_back(text);
+    };
+    RunningApplications running;
     for (const RunningProcess& process : processes)
-        for (const InstalledApplication& application : applications)
-            if (belongsTo(process, application) &&
-                std::find(names.begin(), names.end(), application.name) == names.end())
-                names.push_back(application.name);
-    return names;
+        for (const InstalledApplication& application : applications) {
+            if (!belongsTo(process, application)) continue;
+            addOnce(running.names, application.name);
+            addOnce(running.ids, application.id);
+        }
+    return running;
 }
 
 }  // namespace zelk

@@ -34,10 +34,16 @@ struct ApplicationPlaces {
 /// not installed.
 std::vector<InstalledApplication> installedApplications(const ApplicationPlaces& places);
 
-/// The names of the running applications, each once, in process order. A process belongs to an application if the
+/// What runs, in process order, each name and each id once.
+struct RunningApplications {
+    std::vector<std::string> names;
+    std::vector<std::string> ids;
+};
+
+/// The running applications. A process belongs to an application if the
 /// desktop created its control group for it or if it runs the application's own program; a process name alone proves
 /// nothing.
-std::vector<std::string> runningApplicationNames(const std::vector<InstalledApplication>& applications,
-                                                 const std::vector<RunningProcess>& processes);
+RunningApplications runningApplicationsOf(const std::vector<InstalledApplication>& applications,
+                                          const std::vector<RunningProcess>& processes);
 
 }  // namespace zelk

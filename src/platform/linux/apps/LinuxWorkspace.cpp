@@ -53,13 +53,21 @@ LinuxWorkspace::LinuxWorkspace(const std::string& dataHome, std::string trash, L
 
 LinuxWorkspace::~LinuxWorkspace() = default;
 
-std::vector<std::string> LinuxWorkspace::runningApplications() {
+const RunningApplications& LinuxWorkspace::running() {
     const auto now = std::chrono::steady_clock::now();
     if (!runningSince_ || now - *runningSince_ > std::chrono::seconds(1)) {
-        running_ = runningApplicationNames(installedApplications(places_), runningProcesses());
+        running_ = runningApplicationsOf(installedApplications(places_), runningProcesses());
         runningSince_ = now;
     }
     return running_;
+}
+
+std::vector<std::string> LinuxWorkspace::runningApplications() {
+    return running().names;
+}
+
+std::vector<std::string> LinuxWorkspace::runningApplicationIds() {
+    return running().ids;
 }
 
 void LinuxWorkspace::reveal(const std::vector<std::string>& paths) {

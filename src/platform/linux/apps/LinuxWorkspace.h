@@ -27,8 +27,9 @@ public:
     LinuxWorkspace(const std::string& dataHome, std::string trash, Launcher launcher, Bus bus);
     ~LinuxWorkspace() override;
 
-    /// Cached for one second, since callers ask once per item.
+    // Both are cached for one second, since callers ask once per item.
     std::vector<std::string> runningApplications() override;
+    std::vector<std::string> runningApplicationIds() override;
     void reveal(const std::vector<std::string>& paths) override;
     void openURL(const std::string& url) override;
     std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override;
@@ -37,13 +38,16 @@ public:
 private:
     class Reveals;
 
+    /// Names and ids of the running applications.
+    const RunningApplications& running();
+
     ApplicationPlaces places_;
     std::string trash_;
     Launcher launcher_;
     Bus bus_;
     ThemeIcons icons_;
     std::unique_ptr<Reveals> reveals_;
-    std::vector<std::string> running_;
+    RunningApplications running_;
     std::optional<std::chrono::steady_clock::time_point> runningSince_;
 };
 

@@ -6,13 +6,13 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <climits>
 #include <optional>
 #include <utility>
 
 #include "platform/Text.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
+#include "platform/posix/FileFacts.h"
 #include "platform/posix/OpenDirectory.h"
 
 namespace zelk {
@@ -63,13 +63,6 @@ std::vector<std::string> applicationsOfUnit(std::string_view unit) {
     return ids;
 }
 
-std::string linkTarget(const std::string& path) {
-    std::string target(PATH_MAX, '\0');
-    const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
-    target.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
-    return target;
-}
-
 std::vector<std::string> argumentsOf(std::string_view commandLine) {
     if (commandLine.ends_with('\0')) commandLine.remove_suffix(1);
     if (commandLine.empty()) return {};
@@ -84,7 +77,7 @@ bool isOwn(const std::string& path) {
 
 RunningProcess read(const std::string& folder) {
     RunningProcess process;
-    process.executable = linkTarget(folder + "/exe");
+    process.executable = textOfLink(folder + "/exe").value_or("");
     // The program was replaced by an update.
     if (std::string_view executable = process.executable; takeSuffix(executable, " (deleted)"))
         process.executable.resize(executable.size());

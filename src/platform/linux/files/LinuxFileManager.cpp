@@ -13,6 +13,7 @@
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/DurableFile.h"
+#include "platform/posix/FileFacts.h"
 #include "platform/posix/OpenDirectory.h"
 #include "platform/posix/RealPath.h"
 #include "platform/posix/RemoveEntry.h"
@@ -129,6 +130,14 @@ std::uint64_t LinuxFileManager::fullSizeBelow(const std::string& path) {
 
 std::optional<std::string> LinuxFileManager::realPath(const std::string& path) {
     return resolvedPath(path);
+}
+
+std::optional<std::string> LinuxFileManager::linkTarget(const std::string& path) {
+    return textOfLink(path);
+}
+
+bool LinuxFileManager::isLocked(const std::string& path) {
+    return isLockedByAnother(path);
 }
 
 std::optional<std::string> LinuxFileManager::read(const std::string& path) {

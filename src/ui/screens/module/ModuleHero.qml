@@ -83,20 +83,8 @@ FocusScope {
                 anchors.horizontalCenter: parent.horizontalCenter
                 objectName: "moduleScanButton"
                 text: hero.module.scanLabel
-                visible: text !== ""
-                focus: visible
+                focus: true
                 onClicked: hero.module.scan()
-            }
-
-            Label {
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.min(implicitWidth, column.width)
-                text: hero.module.note
-                size: 12
-                soft: true
-                visible: text !== ""
-                horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.WordWrap
             }
         }
     }

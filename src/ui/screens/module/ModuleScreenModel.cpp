@@ -94,25 +94,6 @@ void SurveyedModule::followProgress() {
     if (!timer_.isActive()) timer_.start();
 }
 
-std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(Screen screen) {
-    const ScreenLook& look = lookOf(screen);
-    // No scan label and therefore no button, since there is nothing to start.
-    ModuleTexts texts;
-    texts.subtitle = look.subtitle;
-    texts.note = ModuleScreenModel::tr("%1 is not in this version yet.").arg(look.title);
-    switch (screen) {
-        case Screen::privacy:
-            texts.subtitle = ModuleScreenModel::tr(
-                "Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner (that "
-                "needs a signature database).");
-            break;
-            break;
-        default:
-            break;
-    }
-    return std::make_unique<ModuleScreenModel>(screen, texts);
-}
-
 }  // namespace zelk
 
 #include "moc_ModuleScreenModel.cpp"

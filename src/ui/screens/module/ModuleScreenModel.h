@@ -21,7 +21,6 @@ struct ModuleTexts {
     QString subtitle;
     QString scanLabel;      ///< of the button on the start page; without it there is no button
     QString scanningLabel;  ///< shown while it scans
-    QString note;           ///< a line of secondary text on the start page
 
     bool operator==(const ModuleTexts&) const = default;
 };
@@ -41,7 +40,6 @@ class ModuleScreenModel : public QObject {
     Q_PROPERTY(QColor tint READ tint CONSTANT FINAL)
     Q_PROPERTY(QString scanLabel READ scanLabel CONSTANT FINAL)
     Q_PROPERTY(QString scanningLabel READ scanningLabel CONSTANT FINAL)
-    Q_PROPERTY(QString note READ note CONSTANT FINAL)
     Q_PROPERTY(bool idle READ idle NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool results READ results NOTIFY phaseChanged FINAL)
@@ -61,7 +59,6 @@ public:
     QColor tint() const;
     QString scanLabel() const { return texts_.scanLabel; }
     QString scanningLabel() const { return texts_.scanningLabel; }
-    QString note() const { return texts_.note; }
 
     ModulePhase phase() const { return phase_; }
     bool idle() const { return phase_ == ModulePhase::idle; }
@@ -120,9 +117,5 @@ private:
     AppModel& app_;
     QTimer timer_;
 };
-
-/// Creates the model for a module without a view in this version, which introduces the module and says so. `screen`
-/// must be such a module.
-std::unique_ptr<ModuleScreenModel> makeUnbuiltModule(Screen screen);
 
 }  // namespace zelk

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "ui/screens/privacy/TraceRows.h"
+
+#include <string_view>
+#include <utility>
+
+#include "ui/controls/AccessibleText.h"
+#include "ui/theme/DisplayText.h"
+#include "ui/theme/SystemTexts.h"
+
+namespace zelk {
+
+TraceRows::TraceRows(const PrivacyModel& privacy)
+    : RowModel({"title", "place", "warning", "running", "ticked", "size", "spoken"}), privacy_(privacy) {}
+
+void TraceRows::show() {
+    std::vector<Row> rows;
+    for (const PrivacyModel::Trace& trace : privacy_.traces())
+        rows.push_back({trace, trace.identity(), privacy_.runningBrowser(trace.app)});
+    edit(rows_, std::move(rows), [](const Row& row) { return std::string_view(row.identity); });
+    allRowsChanged();
+}
+
+void TraceRows::tellRunning() {
+    for (Row& row : rows_) row.running = privacy_.runningBrowser(row.trace.app);
+    allRowsChanged({warningRole, runningRole, spokenRole});
+}
+
+std::optional<std::string> TraceRows::identityAt(int row) const {
+    return has(row) ? std::optional(rows_[static_cast<std::size_t>(row)].identity) : std::nullopt;
+}
+
+bool TraceRows::isFree(int row) const {
+    return has(row) && !rows_[static_cast<std::size_t>(row)].running;
+}
+
+QString TraceRows::warning(const Row& row) const {
+    return row.running ? tr("quit %1 to clear safely").arg(displayText(*row.running)) : QString();
+}
+
+QVariant TraceRows::value(std::size_t row, int role) const {
+    const Row& shown = rows_[row];
+    const auto title = [&] {
+        return tr("%1 — %2").arg(SystemTexts::worded(shown.trace.app), SystemTexts::worded(shown.trace.kind));
+    };
+    const auto place = [&] { return shown.running ? QString() : displayText(shown.trace.paths.front()); };
+    const auto figure = [&] { return byteFigure(static_cast<std::int64_t>(shown.trace.size)); };
+    switch (role) {
+        case titleRole:
+            return title();
+        case placeRole:
+            return place();
+        case warningRole:
+            return warning(shown);
+        case runningRole:
+            return shown.running.has_value();
+        case tickedRole:
+            return privacy_.selected().contains(shown.identity);
+        case sizeRole:
+            return figure();
+        case spokenRole:
+            return AccessibleText::joined({title(), warning(shown), place(), figure()});
+        default:
+            return {};
+    }
+}
+
+}  // namespace zelk
+
+#include "moc_TraceRows.cpp"
