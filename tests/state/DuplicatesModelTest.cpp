@@ -107,7 +107,7 @@ TEST_F(Duplicates, secondSearchBeginsEmpty) {
     heard.clear();
     duplicates().scan({home});
     EXPECT_THAT(duplicates().groups(), IsEmpty());
-    EXPECT_THAT(heard, ElementsAre("groups", "loading"));
+    EXPECT_THAT(heard, ElementsAre("groups", "progress", "loading"));
     machine.tasks.release();
     runUntil([this] { return !duplicates().loading(); });
     EXPECT_THAT(sets(), SizeIs(2));
