@@ -52,7 +52,7 @@ void DuplicatesModel::scan(const std::vector<std::string>& roots) {
             if (reported && now - *reported < secondsBetweenReports) return;
             reported = now;
             mainThread.post([this, search, progress] {
-                if (search == searches_ && loading_) setProgress(progress);
+                if (search == searches_) setProgress(progress);
             });
         };
         mainThread.post([this, groups = finder.find(roots, DuplicateFinder::usualMinimum)]() mutable {

@@ -152,8 +152,8 @@ TEST_F(DuplicatesJourney, hasNoFaultInAnySizeOrTheme) {
                 main().textScale().setFactor(factor);
                 for (const auto theme : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
                     model().setAppearance(theme);
-                    if (to != Qt::Key_unknown) press(to);
                     window().grabWindow();
+                    if (to != Qt::Key_unknown) press(to);
                     runWhatIsThere();
                     window().grabWindow();
                     const std::string where =

@@ -134,6 +134,7 @@ TEST_F(Duplicates, ofTwoSearchesTheLastToEndWins) {
     runUntil([this] { return !duplicates().groups().empty(); });
     EXPECT_EQ(sets(), (Sets{{home + "/in/a", home + "/in/b"}}));
     EXPECT_FALSE(duplicates().loading());
+    EXPECT_EQ(duplicates().progress(), HashProgress()) << "that of the later one";
 }
 
 TEST_F(Duplicates, progressIsReportedTenTimesASecond) {
