@@ -27,17 +27,16 @@ std::optional<ContentHash> ContentHasher::hash(FileReading& file, const std::fun
     ContentHash result;
     result.settled = isSettled(file.stamp(), clock_.now());
     std::int64_t length = 0;
-    std::optional<std::size_t> got;
     sha256_.start();
-    while ((got = file.read(chunk_->bytes, chunkBytes)).value_or(0) > 0) {
-        sha256_.add(chunk_->bytes, *got);
-        length += static_cast<std::int64_t>(*got);
-        if (!read(*got)) return std::nullopt;
+    while (const std::size_t got = file.read(chunk_->bytes, chunkBytes).value_or(0)) {
+        sha256_.add(chunk_->bytes, got);
+        length += static_cast<std::int64_t>(got);
+        if (!read(got)) return std::nullopt;
     }
     std::optional<std::string> digest = sha256_.finish();
     if (!digest) return std::nullopt;
     result.digest = std::move(*digest);
-    result.whole = got.has_value() && length == file.stamp().size && file.stampNow() == file.stamp();
+    result.whole = length == file.stamp().size && file.stampNow() == file.stamp();
     return result;
 }
 

@@ -56,10 +56,9 @@ private:
     void renewLinksTo(const FileIdentity& moved) {
         for (HashedFile& file : files_) {
             if (file.stamp.identity != moved) continue;
-            std::optional<FileStamp> now = platform_.contents.stamp(file.item);
-            if (!now) continue;
-            const FileTime changed = std::exchange(now->changed, file.stamp.changed);
-            if (*now == file.stamp) file.stamp.changed = changed;
+            // The rest of the stamp tells of any other change.
+            if (const std::optional<FileStamp> now = platform_.contents.stamp(file.item))
+                file.stamp.changed = now->changed;
         }
     }
 

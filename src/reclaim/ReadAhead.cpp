@@ -40,7 +40,7 @@ struct ReadAhead::Shared {
             std::optional<std::int64_t> at = waitFor(begin);
             if (!at) return;
             if (const std::unique_ptr<FileReading> reading = *at < end ? contents.open(file.item) : nullptr) {
-                for (std::int64_t place = std::max(begin, *at); place < end; place += requestBytes) {
+                for (std::int64_t place = begin; place < end; place += requestBytes) {
                     at = waitFor(place);
                     if (!at) return;
                     // What the reader has passed is read already.

@@ -52,7 +52,7 @@ void DuplicatesModel::scan(const std::vector<std::string>& roots) {
             if (reported && now - *reported < secondsBetweenReports) return;
             reported = now;
             mainThread.post([this, search, progress] {
-                if (search == searches_ && loading_) setProgress(progress);
+                if (search == searches_) setProgress(progress);
             });
         };
         mainThread.post([this, groups = finder.find(roots, DuplicateFinder::usualMinimum)]() mutable {
@@ -63,7 +63,8 @@ void DuplicatesModel::scan(const std::vector<std::string>& roots) {
     platform_.tasks.run(TaskPriority::userInitiated, std::move(work));
 }
 
-void DuplicatesModel::trashOthers(DuplicateGroup group, const std::string& keep) {
+/// Takes copies, since both arguments usually lie in the list that the group leaves.
+void DuplicatesModel::trashOthers(DuplicateGroup group, std::string keep) {
     const auto removed = std::make_shared<Removed>(Removed{std::move(group), {keep}, searches_});
     const std::vector<std::string>& paths = removed->group.paths;
     // Counted before a handler of the signal below may ask what is under way.

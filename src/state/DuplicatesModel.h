@@ -47,7 +47,7 @@ public:
     /// Moves all files of the group but that at the path `keep` to the Trash, as far as trashDuplicates() allows, and
     /// tells RemovalUndo. The group leaves the list at once, whatever is moved. What is put back is listed again, until
     /// the next search.
-    void trashOthers(DuplicateGroup group, const std::string& keep);
+    void trashOthers(DuplicateGroup group, std::string keep);
 
 signals:
     void groupsChanged();

@@ -276,6 +276,7 @@ TEST_F(FinderOfDuplicates, progressNeverExceedsWhatWasListed) {
 TEST_F(FinderOfDuplicates, abandonedSearchEndsAtTheNextChunk) {
     add("/home/me/a", 'x', 50'000'000);
     add("/home/me/b", 'x', 50'000'000);
+    add("/home/me/folder/c", 'x');
     DuplicateFinder stopping = finder();
     const auto flag = std::make_shared<CancelFlag>();
     stopping.abandoned = flag;

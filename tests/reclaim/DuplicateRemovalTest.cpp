@@ -188,7 +188,7 @@ TEST_F(RemovalOfDuplicates, stopSkipsTheRest) {
 }
 
 TEST_F(RemovalOfDuplicates, endsTheRemovalWhateverIsMoved) {
-    for (const char* keep : {"/home/me/a", "/home/me/b"}) {
+    for (const char* keep : {"/home/me/other", "/home/me/a", "/home/me/b"}) {
         const DuplicateGroup group = onlyGroup();
         if (keep == a) machine.files.erase(a);
         int ends = 0;

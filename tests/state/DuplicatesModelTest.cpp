@@ -107,7 +107,7 @@ TEST_F(Duplicates, secondSearchBeginsEmpty) {
     heard.clear();
     duplicates().scan({home});
     EXPECT_THAT(duplicates().groups(), IsEmpty());
-    EXPECT_THAT(heard, ElementsAre("groups", "loading"));
+    EXPECT_THAT(heard, ElementsAre("groups", "progress", "loading"));
     machine.tasks.release();
     runUntil([this] { return !duplicates().loading(); });
     EXPECT_THAT(sets(), SizeIs(2));
@@ -134,6 +134,7 @@ TEST_F(Duplicates, ofTwoSearchesTheLastToEndWins) {
     runUntil([this] { return !duplicates().groups().empty(); });
     EXPECT_EQ(sets(), (Sets{{home + "/in/a", home + "/in/b"}}));
     EXPECT_FALSE(duplicates().loading());
+    EXPECT_EQ(duplicates().progress(), HashProgress()) << "that of the later one";
 }
 
 TEST_F(Duplicates, progressIsReportedTenTimesASecond) {

@@ -102,8 +102,8 @@ TEST_F(DuplicatesScreen, tellsHowMuchIsHashed) {
     EXPECT_LT(screen().share(), 0) << "what there is to hash is not known yet";
     EXPECT_EQ(screen().doing(), screen().scanningLabel());
     runUntil([this] { return screen().share() >= 0; });
-    EXPECT_DOUBLE_EQ(screen().share(), 1'048'576.0 / 18'000'000);
-    EXPECT_EQ(screen().doing(), QString::fromUtf8("Hashing candidates… this can take a moment, 1 MB of 18 MB"));
+    EXPECT_DOUBLE_EQ(screen().share(), 1'048'576.0 / 16'000'000);
+    EXPECT_EQ(screen().doing(), QString::fromUtf8("Hashing candidates… this can take a moment, 1 MB of 16 MB"));
     {
         const std::lock_guard lock(mutex);
         released = true;

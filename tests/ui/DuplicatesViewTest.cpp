@@ -197,6 +197,7 @@ TEST_F(DuplicatesWindow, keysPressTheButtonOfTheRow) {
 TEST_F(DuplicatesWindow, heldKeyPressesOnce) {
     openFilled();
     tabTo("duplicateList");
+    press(Qt::Key_Home);
     for (const bool again : {false, true, true}) {
         QKeyEvent down(QEvent::KeyPress, Qt::Key_Return, {}, {}, again);
         QCoreApplication::sendEvent(&window(), &down);
@@ -216,6 +217,7 @@ TEST_F(DuplicatesWindow, keyDoesNothingToARowThatNobodyChose) {
 TEST_F(DuplicatesWindow, keyboardIsNotLostWithTheLastSet) {
     openFilled();
     tabTo("duplicateList");
+    press(Qt::Key_Home);
     press(Qt::Key_Return);
     press(Qt::Key_Return);
     settleRemovals();
@@ -226,7 +228,9 @@ TEST_F(DuplicatesWindow, keyboardIsNotLostWithTheLastSet) {
 TEST_F(DuplicatesWindow, rowsAreReadOutWithTheirButtons) {
     const TextsOf texts(desktopLinux);
     openFilled();
-    const Strings names = namesInside(&list());
+    Strings names = namesInside(&list());
+    // A button and what is in it have one name.
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     const Strings expected{"3 copies · 3 MB each, save 6 MB",  "Keep first, trash rest: film 2.mov",
                            "keep, /home/me/copies/film 2.mov", "Reveal in Files: film 2.mov",
                            "dup, /home/me/copies/film 3.mov",  "Reveal in Files: film 3.mov",
@@ -287,10 +291,6 @@ TEST_F(DuplicatesWindow, hasRoomForLargeTexts) {
                 singleton<TextScale>("TextScale").setFactor(factor);
                 settle();
                 expectNoTextClipped();
-                tabTo("duplicateList");
-                press(Qt::Key_End);
-                expectNoTextClipped();
-                press(Qt::Key_Home);
             }
             singleton<TextScale>("TextScale").setFactor(1);
         }

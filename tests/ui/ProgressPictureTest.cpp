@@ -56,7 +56,7 @@ TEST(ModuleProgressBar, paintsShareFromTheLeft) {
     bar.setProperty("color", barAmber);
     bar.setProperty("seconds", 0.75);
     const auto paintedShare = [&](double share) {
-        bar.setProperty("share", share);
+        bar.setProperty("part", share);
         return painted(bar, {200, 6});
     };
     const QImage half = paintedShare(0.5);

@@ -24,7 +24,7 @@ void ProgressPicture::draw(QPainter& painter) {
     painter.setBrush(track_);
     painter.drawRoundedRect(boundingRect(), corner, corner);
     const ProgressSliver sliver =
-        share_ < 0 ? progressSliver(seconds_, width()) : ProgressSliver{0, std::min(share_, 1.0) * width()};
+        part_ < 0 ? progressSliver(seconds_, width()) : ProgressSliver{0, std::min(part_, 1.0) * width()};
     const double right = sliver.left + sliver.width;
     const QRectF within(QPointF(std::max(0.0, sliver.left), 0), QPointF(std::min(width(), right), height()));
     if (within.width() <= 0) return;

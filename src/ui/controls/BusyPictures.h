@@ -20,13 +20,13 @@ struct ProgressSliver {
 /// Its geometry after `seconds` on any clock; one pass takes 1.5 seconds.
 ProgressSliver progressSliver(double seconds, double trackWidth);
 
-/// Paints a frame of the progress bar: the track, and on it the share that is done, from 0 to 1, or if that is negative
+/// Paints a frame of the progress bar: the track, and on it the part that is done, from 0 to 1, or if that is negative
 /// the part of the moving segment within the track. Used by ModuleProgressBar.
 class ProgressPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double seconds MEMBER seconds_ NOTIFY changed FINAL)
-    Q_PROPERTY(double share MEMBER share_ NOTIFY changed FINAL)
+    Q_PROPERTY(double part MEMBER part_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor track MEMBER track_ NOTIFY changed FINAL)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed FINAL)
 
@@ -38,7 +38,7 @@ protected:
 
 private:
     double seconds_ = 0;
-    double share_ = -1;
+    double part_ = -1;
     QColor track_;
     QColor color_;
 };

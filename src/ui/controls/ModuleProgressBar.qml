@@ -10,6 +10,9 @@ ProgressPicture {
     id: bar
 
     required property color tint
+    // How much is done, from 0 to 1; negative if that is not known. (Not the property of the picture, all of which have
+    // one signal: the animation would depend on what it changes.)
+    property real share: -1
     // For screen readers: whose work it is, and its progress.
     property string name: ""
     property string doing: ""
@@ -22,6 +25,7 @@ ProgressPicture {
     implicitHeight: 6
     color: bar.tint
     track: Theme.hairline
+    part: bar.share
     seconds: Motion.reduced ? bar.period / 2 : bar.clock
 
     Accessible.role: Accessible.ProgressBar
