@@ -188,7 +188,8 @@ bool isKept(std::string_view name) {
         "places.sqlite",      "logins.json",    "logins.db",     "key3.db",     "key4.db",
         "cert9.db",           "profiles.ini",   "Bookmarks",     "Local State", "Preferences",
         "formhistory.sqlite", "bookmarks.gvdb", "browsedata.db", "keyrings",    "kwalletd"};
-    constexpr std::string_view keptStarts[] = {"Login Data", "Web Data"};
+    constexpr std::string_view keptStarts[] = {"Login Data", "Web Data", "Account Web Data", "AccountBookmarks",
+                                               "EncryptedBookmarks"};
     return std::find(std::begin(keptNames), std::end(keptNames), name) != std::end(keptNames) ||
            std::any_of(std::begin(keptStarts), std::end(keptStarts),
                        [&](std::string_view start) { return name.starts_with(start); });

@@ -151,13 +151,13 @@ FocusScope {
 
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.bottom: footer.top
+        anchors.bottom: clearFooter.top
         removal: pane.privacy.undoBar
         onGone: byKey => pane.moveFocus(byKey)
     }
 
     CleanFooter {
-        id: footer
+        id: clearFooter
 
         anchors.left: parent.left
         anchors.right: parent.right
