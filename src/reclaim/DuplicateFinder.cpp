@@ -41,7 +41,8 @@ public:
 
     void search(const std::string& root) {
         const std::unique_ptr<FolderWalk> walk = finder_.contents_.walk(root);
-        if (!walk) return;
+        // One that has no proper path cannot be told as one either.
+        if (!walk || !ItemPath::from(pathIn(walk->root(), "x"))) return;
         found_.roots.push_back(walk->root());
         std::string path = walk->root();
         if (finder_.trash_.hold(path) || !isNew(*walk)) return;

@@ -14,8 +14,8 @@ namespace {
 
 class DuplicateMover {
 public:
-    DuplicateMover(const DuplicateGroup& group, const Platform& platform)
-        : digest_(group.digest()), files_(group.files), platform_(platform) {}
+    DuplicateMover(const DuplicateGroup& group, const Platform& platform, const Removal& removal)
+        : digest_(group.digest()), files_(group.files), platform_(platform), removal_(removal) {}
 
     std::size_t count() const { return files_.size(); }
 
@@ -26,24 +26,37 @@ public:
         if (file.settled) return platform_.contents.stamp(file.item) == file.stamp;
         const std::unique_ptr<FileReading> reading = platform_.contents.open(file.item);
         const std::optional<ContentHash> content =
-            reading ? hasher().hash(*reading, [](std::size_t) { return true; }) : std::nullopt;
+            reading ? hasher().hash(*reading, [&](std::size_t) { return removal_.mayBegin(); }) : std::nullopt;
         if (!content || !content->whole || content->digest != digest_) return false;
         file.stamp = reading->stamp();
         file.settled = content->settled;
         return true;
     }
 
-    void move(std::size_t index, MovedDuplicates& moved) {
+    bool isAsLookedAt(std::size_t index) { return platform_.contents.stamp(files_[index].item) == files_[index].stamp; }
+
+    /// Returns whether more may be moved.
+    bool move(std::size_t index, std::size_t kept, MovedDuplicates& moved) {
         const HashedFile& file = files_[index];
         TrashResult result = platform_.trash.trash(file.item);
-        if (result.failure) return;
+        if (result.failure) {
+            moved.stayed.push_back(file.item.text());
+            return true;
+        }
         // Something else was swapped in at the last moment.
         if (result.item && result.item->identity != file.stamp.identity &&
             !platform_.trash.restore(*result.item).has_value())
-            return;
+            return true;
+        renewLinksTo(file.stamp.identity);
+        // Two file systems may show one file as two, with different identities: then the kept one has gone too.
+        const bool isKept = isAsLookedAt(kept);
+        if (!isKept && result.item && !platform_.trash.restore(*result.item).has_value()) {
+            moved.stayed.push_back(file.item.text());
+            return false;
+        }
         ++moved.moved;
         if (result.item) moved.restorable.push_back({file, std::move(*result.item)});
-        renewLinksTo(file.stamp.identity);
+        return isKept;
     }
 
 private:
@@ -65,6 +78,7 @@ private:
     const std::string digest_;
     std::vector<HashedFile> files_;
     const Platform& platform_;
+    const Removal& removal_;
     std::optional<ContentHasher> hasher_;
 };
 
@@ -73,7 +87,7 @@ private:
 MovedDuplicates trashDuplicates(const DuplicateGroup& group, const std::string& keep, const Platform& platform,
                                 Removal& removal) {
     MovedDuplicates moved;
-    DuplicateMover mover(group, platform);
+    DuplicateMover mover(group, platform, removal);
     const auto kept = std::find(group.paths.begin(), group.paths.end(), keep);
     const auto keptIndex = static_cast<std::size_t>(kept - group.paths.begin());
     bool mayMove = kept != group.paths.end();
@@ -81,13 +95,14 @@ MovedDuplicates trashDuplicates(const DuplicateGroup& group, const std::string& 
         if (group.paths[index] == keep) continue;
         mayMove = mayMove && removal.mayBegin();
         if (!mayMove) {
+            moved.stayed.push_back(group.paths[index]);
             removal.noteSkipped();
             continue;
         }
-        // The kept one last: reading the other may take a while.
         const bool isIntact = mover.isIntact(index);
         mayMove = mover.isIntact(keptIndex);
-        if (isIntact && mayMove) mover.move(index, moved);
+        // Reading the kept one may have taken a while, in which the other was written.
+        if (isIntact && mayMove && mover.isAsLookedAt(index)) mayMove = mover.move(index, keptIndex, moved);
         removal.noteDone();
     }
     return moved;

@@ -25,9 +25,13 @@ constexpr std::size_t longestHostName = 256;
 constexpr int levelsWithProfiles = 3;
 
 bool holdsKept(FileManager& files, const std::string& folder, int levels) {
-    const std::vector<std::string> entries = files.list(folder).value_or(std::vector<std::string>());
-    if (std::any_of(entries.begin(), entries.end(), isKept)) return true;
-    return levels > 1 && std::any_of(entries.begin(), entries.end(), [&](const std::string& name) {
+    // What a link leads to does not go with it.
+    const std::optional<FileProperties> properties = files.properties(folder);
+    if (!properties || !properties->isDirectory) return false;
+    const std::optional<std::vector<std::string>> entries = files.list(folder);
+    if (!entries) return true;  // nobody knows
+    if (std::any_of(entries->begin(), entries->end(), isKept)) return true;
+    return levels > 1 && std::any_of(entries->begin(), entries->end(), [&](const std::string& name) {
                return holdsKept(files, pathIn(folder, name), levels - 1);
            });
 }
@@ -94,6 +98,7 @@ TraceFindings findTraces(FileManager& files, Locations& locations, SystemKind sy
     std::stable_sort(found.traces.begin(), found.traces.end(),
                      [](const Trace& a, const Trace& b) { return a.size > b.size; });
     found.locks = browserLocks(homes);
+    found.running = runningByLocks(files, found.locks);
     found.firefoxHistoryStays =
         std::any_of(homes.firefoxProfiles.begin(), homes.firefoxProfiles.end(),
                     [&](const std::string& profile) { return files.exists(pathIn(profile, "places.sqlite")); });

@@ -18,6 +18,7 @@ namespace zelk {
 struct TraceFindings {
     std::vector<Trace> traces;       ///< those that exist, largest first
     std::vector<BrowserLock> locks;  ///< which tell whether their browsers run
+    std::set<std::string> running;   ///< the browsers that held one, by their names in the table
     /// Whether Firefox has a profile whose history is not offered.
     bool firefoxHistoryStays = false;
 };

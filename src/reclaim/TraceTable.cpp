@@ -127,6 +127,12 @@ std::string pathOf(const TracePath& path, const TracePlaces& homes) {
     return pathIn(homes.home, path.below);
 }
 
+/// Whether a folder that a variable names is the home or above it. Then it is no place for the data of programs alone,
+/// and a folder in it that is called as a browser may be anything.
+bool isTooWide(const TracePath& path, const TracePlaces& homes) {
+    return path.base != TraceBase::home && isInFolder(homes.home, pathOf({path.base, {}}, homes));
+}
+
 Trace traceOf(const TraceRow& row, const TracePlaces& homes) {
     Trace trace{.app = std::string(row.app),
                 .kind = std::string(row.kind),
@@ -134,7 +140,7 @@ Trace traceOf(const TraceRow& row, const TracePlaces& homes) {
                 .databases = row.databases,
                 .guarded = homes.system != SystemKind::macOS && row.kind == cacheKind};
     for (const TracePath& path : row.paths)
-        if (!path.below.empty()) trace.paths.push_back(pathOf(path, homes));
+        if (!path.below.empty() && !isTooWide(path, homes)) trace.paths.push_back(pathOf(path, homes));
     if (row.app == firefox && row.kind == firefoxCookies)
         for (const std::string& profile : homes.firefoxProfiles)
             trace.paths.push_back(pathIn(profile, "cookies.sqlite"));

@@ -39,10 +39,12 @@ std::int64_t DuplicatesModel::totalRecoverable() const {
 
 void DuplicatesModel::scan(const std::vector<std::string>& roots) {
     const int search = ++searches_;
-    if (!std::exchange(hasScanned_, true)) emit hasScannedChanged();
+    const bool isFirst = !std::exchange(hasScanned_, true);
+    // Before anybody is told that the first was started, or that there are no groups: there are no results meanwhile.
+    setLoading(true);
+    if (isFirst) emit hasScannedChanged();
     setGroups({});
     setProgress({});
-    setLoading(true);
     auto work = [this, search, roots, platform = platform_, mainThread = mainThread_, abandoned = abandoned_] {
         DuplicateFinder finder(platform);
         finder.abandoned = abandoned;
@@ -65,16 +67,24 @@ void DuplicatesModel::scan(const std::vector<std::string>& roots) {
 
 /// Takes copies, since both arguments usually lie in the list that the group leaves.
 void DuplicatesModel::trashOthers(DuplicateGroup group, std::string keep) {
+    const auto isIt = [&](const DuplicateGroup& one) { return one.hash == group.hash; };
+    const bool leaves = std::erase_if(groups_, isIt) > 0;
+    // A removal that is under way may keep another file of it. Two at once could move both.
+    if (!removing_.insert(group.hash).second) {
+        if (leaves) emit groupsChanged();
+        return;
+    }
     const auto removed = std::make_shared<Removed>(Removed{std::move(group), {keep}, searches_});
     const std::vector<std::string>& paths = removed->group.paths;
     // Counted before a handler of the signal below may ask what is under way.
     const auto others = std::count_if(paths.begin(), paths.end(), [&](const auto& path) { return path != keep; });
     const std::shared_ptr<Removal> removal = removals_.begin(static_cast<std::size_t>(others));
-    const auto isIt = [&](const DuplicateGroup& one) { return one.hash == removed->group.hash; };
-    if (std::erase_if(groups_, isIt) > 0) emit groupsChanged();
+    if (leaves) emit groupsChanged();
     auto work = [this, removed, keep, removal, platform = platform_, mainThread = mainThread_] {
         MovedDuplicates moved = trashDuplicates(removed->group, keep, platform, *removal);
         mainThread.post([this, removed, moved = std::move(moved)] {
+            removing_.erase(removed->group.hash);
+            removed->present.insert(moved.stayed.begin(), moved.stayed.end());
             std::vector<RemovalUndo::Item> restorable;
             for (const MovedDuplicates::Item& item : moved.restorable)
                 // Called by an object of the same owner, while both exist.

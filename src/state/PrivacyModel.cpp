@@ -73,6 +73,7 @@ void PrivacyModel::finishScan(TraceFindings found) {
         for (const auto& [path, size] : restored.sizes) traceIn(traces_, restored).add(path, size, restored.paths);
     sortBySize(traces_);
     locks_ = std::move(found.locks);
+    lockedApps_ = std::move(found.running);
     firefoxHistoryStays_ = found.firefoxHistoryStays;
     std::set<std::string> caches;
     for (const Trace& trace : traces_)

@@ -80,6 +80,11 @@ TEST_F(DesktopFilesTest, mainOneIsShownAndOfTheName) {
     EXPECT_EQ(mainEntry(all, "c"), &files[2]);
     EXPECT_EQ(mainEntry(all, "a"), &files[1]) << "a is not shown";
     EXPECT_EQ(mainEntry(all, "x"), &files[1]);
+    EXPECT_EQ(mainEntry(all, "program"), &files[1]) << "the first that starts it";
+    add("d.desktop", "", "/usr/bin/other");
+    const std::vector<DesktopFile> more = read();
+    EXPECT_EQ(mainEntry({&more[1], &more[3]}, "other"), &more[3]);
+    EXPECT_EQ(mainEntry({&more[3], &more[1]}, "other"), &more[3]);
     EXPECT_EQ(mainEntry({&files[0]}, "a"), nullptr);
     EXPECT_EQ(mainEntry({}, "a"), nullptr);
 }

@@ -89,6 +89,9 @@ protected:
         machine.files.addFile(home + "/.var/app/org.sample.Orrery/sky", {}, 2'000'000);
         machine.files.addFile(home + "/.config/studio/settings", {}, 1'000'000);
         machine.files.addFile(home + "/snap/chat/42/file", {}, 3'000'000);
+        // The one before was made for a Mac.
+        destroyModel();
+        singleton<Theme>("Theme").follow(model());
     }
 
     fakes::LinuxApps desktop{machine};

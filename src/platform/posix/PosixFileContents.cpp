@@ -102,7 +102,7 @@ std::optional<FileStamp> PosixFileContents::stamp(const ItemPath& item) {
     struct stat status {};
     if (uninterrupted([&] { return ::fstatat(parent.get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW); }) != 0)
         return std::nullopt;
-    if (!S_ISREG(status.st_mode)) return std::nullopt;
+    if (!S_ISREG(status.st_mode) || isDataless(status)) return std::nullopt;
     return stampFrom(status);
 }
 

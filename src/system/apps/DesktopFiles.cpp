@@ -70,13 +70,17 @@ std::vector<DesktopFile> readDesktopFiles(FileManager& files, const std::string&
 }
 
 const DesktopFile* mainEntry(const std::vector<const DesktopFile*>& entries, std::string_view id) {
-    const DesktopFile* first = nullptr;
+    const DesktopFile* best = nullptr;
+    bool isItsProgram = false;  // of the best
     for (const DesktopFile* one : entries) {
         if (!one->isShown()) continue;
         if (one->id == id) return one;
-        if (first == nullptr) first = one;
+        const bool is = one->programName() == id;
+        if (best != nullptr && (isItsProgram || !is)) continue;
+        best = one;
+        isItsProgram = is;
     }
-    return first;
+    return best;
 }
 
 void NameClaims::claim(const std::string& name, const std::string& owner) {

@@ -21,8 +21,7 @@ FocusScope {
             id: texts
 
             x: Theme.pageMargin
-            anchors.right: order.left
-            anchors.rightMargin: 20
+            width: order.x - x - 20
             anchors.verticalCenter: parent.verticalCenter
             spacing: 2
 

@@ -29,6 +29,7 @@ AppsScreenModel::AppsScreenModel(AppModel& app)
     connect(&apps_, &AppsModel::removingChanged, &rows_, &AppRows::tellBusy);
     connect(&apps_, &AppsModel::removingChanged, this, &AppsScreenModel::removingChanged);
     connect(&apps_, &AppsModel::endingChanged, this, &AppsScreenModel::endingChanged);
+    connect(&apps_, &AppsModel::endingChanged, this, &AppsScreenModel::toldChanged);
     showApps();
     followScan();
 }

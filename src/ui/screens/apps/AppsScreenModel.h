@@ -22,7 +22,7 @@ class AppsScreenModel : public zelk::ModuleScreenModel {
     Q_PROPERTY(QString line READ line NOTIFY appsChanged FINAL)
     Q_PROPERTY(int order READ order NOTIFY orderChanged FINAL)
     Q_PROPERTY(bool removing READ removing NOTIFY removingChanged FINAL)
-    Q_PROPERTY(bool told READ told NOTIFY endingChanged FINAL)
+    Q_PROPERTY(bool told READ told NOTIFY toldChanged FINAL)
     Q_PROPERTY(QString ending READ ending NOTIFY endingChanged FINAL)
     Q_PROPERTY(QString reason READ reason NOTIFY endingChanged FINAL)
     Q_PROPERTY(zelk::AppRows* rows READ rows CONSTANT FINAL)
@@ -60,6 +60,8 @@ signals:
     void orderChanged();
     void removingChanged();
     void endingChanged();
+    /// After endingChanged(), so that what appears has its words already.
+    void toldChanged();
     /// Another order was chosen.
     void rearranged();
 
