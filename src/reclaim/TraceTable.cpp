@@ -130,7 +130,7 @@ std::string pathOf(const TracePath& path, const TracePlaces& homes) {
 /// Whether a folder that a variable names is the home or above it. Then it is no place for the data of programs alone,
 /// and a folder in it that is called as a browser may be anything.
 bool isTooWide(const TracePath& path, const TracePlaces& homes) {
-    return path.base != TraceBase::home && isInFolder(homes.home, pathOf({path.base, {}}, homes));
+    return path.base != TraceBase::home && isInFolder(homes.home, normalFolder(pathOf({path.base, {}}, homes)));
 }
 
 Trace traceOf(const TraceRow& row, const TracePlaces& homes) {

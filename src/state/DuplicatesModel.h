@@ -4,6 +4,7 @@
 #include <QObject>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -45,7 +46,8 @@ public:
     /// Starts a search below these folders. If one is running already, both deliver their groups when they end.
     void scan(const std::vector<std::string>& roots);
     /// Moves all files of the group but that at the path `keep` to the Trash, as far as trashDuplicates() allows, and
-    /// tells RemovalUndo. The group leaves the list at once, whatever is moved. What is put back is listed again, until
+    /// tells RemovalUndo. The group leaves the list at once, whatever is moved; nothing is while one with the same hash
+    /// is being removed. What is put back is listed again, until
     /// the next search.
     void trashOthers(DuplicateGroup group, std::string keep);
 
@@ -72,7 +74,8 @@ private:
     bool loading_ = false;
     bool hasScanned_ = false;
     HashProgress progress_;
-    int searches_ = 0;  ///< how many were started
+    std::set<std::string> removing_;  ///< the hashes of the groups that are being removed
+    int searches_ = 0;                ///< how many were started
 };
 
 }  // namespace zelk

@@ -14,8 +14,7 @@ AppsScreenModel::AppsScreenModel(AppModel& app)
            .subtitle = tr("List installed apps by size and uninstall them cleanly — the app plus its leftover caches, "
                           "preferences, and support files."),
            .scanLabel = tr("Scan applications"),
-           .scanningLabel = SystemTexts::of(SystemTexts::ReadingApplications),
-           .note = {}},
+           .scanningLabel = SystemTexts::of(SystemTexts::ReadingApplications)},
           [&app] { app.apps().scanApps(); }),
       apps_(app.apps()),
       rows_(apps_, app.workspace()),

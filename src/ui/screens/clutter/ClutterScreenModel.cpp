@@ -16,8 +16,7 @@ ClutterScreenModel::ClutterScreenModel(AppModel& app)
           {.title = tr("Clutter"),
            .subtitle = tr("Find your largest and oldest files — videos, downloads, disk images, forgotten archives."),
            .scanLabel = tr("Find large files"),
-           .scanningLabel = tr("Hunting for heavy files…"),
-           .note = {}}),
+           .scanningLabel = tr("Hunting for heavy files…")}),
       app_(app),
       undoBar_(app, RemovalUndo::Source::largeFile) {
     connect(&app, &AppModel::insightsChanged, this, &ClutterScreenModel::refresh);

@@ -17,8 +17,7 @@ DuplicatesScreenModel::DuplicatesScreenModel(AppModel& app)
                          .subtitle = tr("Find byte-identical files — duplicate downloads, copied media, repeated "
                                         "exports — and keep just one."),
                          .scanLabel = tr("Find duplicates"),
-                         .scanningLabel = tr("Hashing candidates… this can take a moment"),
-                         .note = {}},
+                         .scanningLabel = tr("Hashing candidates… this can take a moment")},
                         [&app] { app.duplicates().scan(app.scanRoots()); }),
       app_(app),
       duplicates_(app.duplicates()),

@@ -19,7 +19,7 @@ class AppModel;
 struct ModuleTexts {
     QString title;
     QString subtitle;
-    QString scanLabel;      ///< of the button on the start page; without it there is no button
+    QString scanLabel;      ///< of the button on the start page
     QString scanningLabel;  ///< shown while it scans
 
     bool operator==(const ModuleTexts&) const = default;

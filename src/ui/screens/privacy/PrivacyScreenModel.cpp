@@ -15,8 +15,7 @@ PrivacyScreenModel::PrivacyScreenModel(AppModel& app)
            .subtitle = tr("Clear browsing traces across your browsers — caches, histories, cookies. No malware scanner "
                           "(that needs a signature database)."),
            .scanLabel = tr("Scan for traces"),
-           .scanningLabel = tr("Scanning browser traces…"),
-           .note = {}},
+           .scanningLabel = tr("Scanning browser traces…")},
           [&app] { app.privacy().scanTraces(); }),
       privacy_(app.privacy()),
       rows_(privacy_),

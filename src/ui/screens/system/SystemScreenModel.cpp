@@ -24,8 +24,7 @@ SystemScreenModel::SystemScreenModel(AppModel& app)
                      {.title = tr("System"),
                       .subtitle = SystemTexts::of(SystemTexts::SystemLead),
                       .scanLabel = tr("Run survey"),
-                      .scanningLabel = tr("Surveying your drive…"),
-                      .note = {}}),
+                      .scanningLabel = tr("Surveying your drive…")}),
       app_(app),
       explanation_(app.home()),
       snapshots_(app) {
