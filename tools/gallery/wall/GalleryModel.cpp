@@ -53,11 +53,10 @@ std::vector<BubbleSlice> kinds() {
     };
 }
 
-ModuleTexts textsOf(const QString& scanLabel, const QString& note) {
+ModuleTexts textsOf(const QString& scanLabel) {
     ModuleTexts texts;
     texts.subtitle = QStringLiteral("What this module is for, in as many words as it takes two lines to write.");
     texts.scanLabel = scanLabel;
-    texts.note = note;
     return texts;
 }
 
@@ -75,8 +74,7 @@ GalleryModel::GalleryModel(QObject* parent)
     : QObject(parent),
       bubbles_({[this](const BubbleSlice& slice) { toggle(bubbles_, slice.id); }, {}, {}}),
       plainBubbles_({[this](const BubbleSlice& slice) { toggle(plainBubbles_, slice.id); }, {}, {}}),
-      module_(Screen::reclaim, textsOf(QStringLiteral("Look for junk"), {})),
-      silentModule_(Screen::clutter, textsOf({}, QStringLiteral("There is nothing to look at yet."))) {
+      module_(Screen::reclaim, textsOf(QStringLiteral("Look for junk"))) {
     bubbles_.setSlices(folders());
     plainBubbles_.setSlices(kinds());
 }

@@ -27,7 +27,6 @@ class GalleryModel : public QObject {
     Q_PROPERTY(zelk::BubbleModel* plainBubbles READ plainBubbles CONSTANT FINAL)
     Q_PROPERTY(zelk::BubbleModel* noBubbles READ noBubbles CONSTANT FINAL)
     Q_PROPERTY(zelk::ModuleScreenModel* module READ module CONSTANT FINAL)
-    Q_PROPERTY(zelk::ModuleScreenModel* silentModule READ silentModule CONSTANT FINAL)
 
 public:
     explicit GalleryModel(QObject* parent = nullptr);
@@ -43,8 +42,6 @@ public:
     /// Without information about the drive.
     DeviceFace bareDevice() const;
     ModuleScreenModel* module() { return &module_; }
-    /// With a note instead of the button.
-    ModuleScreenModel* silentModule() { return &silentModule_; }
     QList<RibbonSegment> segments() const;
     qint64 freeBytes() const { return 212'400'000'000; }
     QList<qreal> history() const { return {3, 5, 4, 7, 7.5, 10, 9, 12, 15, 14.5, 17, 19, 18.5, 22}; }
@@ -56,7 +53,6 @@ private:
     BubbleModel plainBubbles_;
     BubbleModel noBubbles_{{}};
     ModuleScreenModel module_;
-    ModuleScreenModel silentModule_;
 };
 
 }  // namespace zelk

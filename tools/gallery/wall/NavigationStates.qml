@@ -70,20 +70,10 @@ Section {
         subtitle: ""
     }
 
-    Row {
+    ModuleHero {
         width: parent.width
         height: 400 * TextScale.factor
-
-        ModuleHero {
-            width: parent.width / 2
-            height: parent.height
-            module: section.figures.module
-        }
-        ModuleHero {
-            width: parent.width / 2
-            height: parent.height
-            module: section.figures.silentModule
-        }
+        module: section.figures.module
     }
 
     Row {
