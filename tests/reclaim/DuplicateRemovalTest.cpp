@@ -175,6 +175,46 @@ TEST_F(RemovalOfDuplicates, whatIsSwappedInAtTheLastMomentComesBack) {
     EXPECT_EQ(moved.restorable[0].file.item.text(), c);
 }
 
+// As where a pool of disks and one of its disks are both searched.
+TEST_F(RemovalOfDuplicates, moveThatTakesTheKeptOneAlongIsUndone) {
+    const DuplicateGroup group = onlyGroup();
+    machine.files.failing = [this](const auto& call) {
+        if (call.operation == "trash") machine.files.erase(a);
+        return false;
+    };
+    const MovedDuplicates moved = trash(group, a);
+    EXPECT_TRUE(machine.files.identity(b));
+    EXPECT_THAT(machine.trash.restored(), ElementsAre(b));
+    EXPECT_EQ(moved.moved, 0U);
+    EXPECT_THAT(moved.restorable, IsEmpty());
+    EXPECT_THAT(moved.stayed, ElementsAre(b, c, d));
+}
+
+TEST_F(RemovalOfDuplicates, fileWrittenWhileTheKeptOneIsReadStays) {
+    touch(a, secondsAgo(0), secondsAgo(0));
+    const DuplicateGroup group = onlyGroup();
+    machine.contents.reading = [this](const std::string& path, std::size_t) {
+        if (path == a && machine.trash.trashed().empty()) touch(b, secondsAgo(0), secondsAgo(0));
+    };
+    trash(group, a);
+    EXPECT_THAT(machine.trash.trashed(), ElementsAre(c, d));
+}
+
+TEST_F(RemovalOfDuplicates, stopEndsTheReadingOfWhatWasJustWritten) {
+    for (const std::string& path : {a, b, c, d}) touch(path, secondsAgo(0), secondsAgo(0));
+    const DuplicateGroup group = onlyGroup();
+    Removal removal(3, [](const Removal&) {});
+    machine.contents.reading = [&](const std::string&, std::size_t) { removal.stop(); };
+    EXPECT_EQ(trashDuplicates(group, a, machine.platform(), removal).moved, 0U);
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+}
+
+TEST_F(RemovalOfDuplicates, tellsWhatStayed) {
+    const DuplicateGroup group = onlyGroup();
+    machine.files.failing = [this](const auto& call) { return call.operation == "trash" && call.path == c; };
+    EXPECT_THAT(trash(group, a).stayed, ElementsAre(c));
+}
+
 TEST_F(RemovalOfDuplicates, stopSkipsTheRest) {
     const DuplicateGroup group = onlyGroup();
     Removal removal(3, [](const Removal&) {});

@@ -57,6 +57,7 @@ TEST_F(TracesOfMac, areThoseThatExistLargestFirst) {
     EXPECT_EQ(caches.sizes.at(caches.paths[1]), 1'000'000U);
     EXPECT_FALSE(find().firefoxHistoryStays);
     EXPECT_THAT(find().locks, IsEmpty());
+    EXPECT_THAT(find().running, IsEmpty());
 }
 
 TEST_F(TracesOfMac, ofTheSameSizeKeepTheOrderOfTheTable) {
@@ -171,6 +172,18 @@ TEST_F(TracesOfLinux, areNoCachesThatHoldAProfile) {
     }
     EXPECT_THAT(identities(), testing::Contains("ChromiumCaches"));
     machine.files.addFile(home + "/.cache/chromium/a/b/c/Bookmarks");  // no profile lies that deep
+    EXPECT_THAT(identities(), testing::Contains("ChromiumCaches"));
+}
+
+TEST_F(TracesOfLinux, areNoCachesThatNobodyCanLookInto) {
+    machine.files.addFolder(home + "/.cache/chromium/Default");
+    for (const char* folder : {"/.cache/chromium", "/.cache/chromium/Default"}) {
+        machine.files.failing = [&](const auto& call) {
+            return call.operation == "list" && call.path == home + folder;
+        };
+        EXPECT_THAT(identities(), testing::Not(testing::Contains("ChromiumCaches"))) << folder;
+    }
+    machine.files.failing = [](const auto&) { return false; };
     EXPECT_THAT(identities(), testing::Contains("ChromiumCaches"));
 }
 

@@ -135,6 +135,19 @@ TEST(TraceTable, honoursTheXdgFolders) {
     EXPECT_EQ(browserLocks(places).front().path, "/c/google-chrome/SingletonLock");
 }
 
+// A folder in the home that is called "chromium" may be anything.
+TEST(TraceTable, hasNothingInAnXdgFolderThatHoldsTheHome) {
+    for (const char* wide : {"/home/me", "/home", "/"}) {
+        TracePlaces places = onLinux();
+        places.xdg.cache = wide;
+        for (const Trace& trace : traceTable(places))
+            for (const std::string& path : trace.paths)
+                EXPECT_TRUE(path.starts_with("/home/me/.") || path.starts_with("/home/me/snap/") ||
+                            path.starts_with("/data/b/"))
+                    << path;
+    }
+}
+
 TEST(TraceTable, identitiesAreUniqueAndJoinedWithNothingBetween) {
     for (const TracePlaces& places : {onMac, onLinux()}) {
         std::set<std::string> identities;

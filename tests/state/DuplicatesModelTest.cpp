@@ -86,7 +86,7 @@ TEST_F(Duplicates, searchRunsInTheBackground) {
     duplicates().scan({home});
     EXPECT_TRUE(duplicates().loading());
     EXPECT_TRUE(duplicates().hasScanned());
-    EXPECT_THAT(heard, ElementsAre("hasScanned", "loading"));
+    EXPECT_THAT(heard, ElementsAre("loading", "hasScanned"));
     EXPECT_THAT(machine.tasks.waiting(), ElementsAre(TaskPriority::userInitiated));
     machine.tasks.release();
     EXPECT_THAT(duplicates().groups(), IsEmpty()) << "the result waits for the main thread";
@@ -107,7 +107,7 @@ TEST_F(Duplicates, secondSearchBeginsEmpty) {
     heard.clear();
     duplicates().scan({home});
     EXPECT_THAT(duplicates().groups(), IsEmpty());
-    EXPECT_THAT(heard, ElementsAre("groups", "progress", "loading"));
+    EXPECT_THAT(heard, ElementsAre("loading", "groups", "progress"));
     machine.tasks.release();
     runUntil([this] { return !duplicates().loading(); });
     EXPECT_THAT(sets(), SizeIs(2));
@@ -324,6 +324,30 @@ TEST_F(Duplicates, whatDoesNotComeBackIsNotListed) {
     model().undoLastRemoval();
     runUntil([this] { return !model().removalUndo().underWay(); });
     EXPECT_EQ(sets(), (Sets{{home + "/1", home + "/2"}, {home + "/a", home + "/b"}})) << "by what they waste now";
+}
+
+TEST_F(Duplicates, whatTheTrashRefusedIsListedWithWhatComesBack) {
+    search();
+    machine.files.failing = [this](const auto& call) { return call.operation == "trash" && call.path == home + "/b"; };
+    keepFirst(0);
+    settle();
+    model().undoLastRemoval();
+    runUntil([this] { return !model().removalUndo().underWay(); });
+    EXPECT_EQ(sets(), (Sets{{home + "/a", home + "/b", home + "/c"}, {home + "/1", home + "/2"}}));
+}
+
+TEST_F(Duplicates, twoRemovalsOfASetNeverMoveAllOfIt) {
+    search();
+    const DuplicateGroup group = duplicates().groups().at(0);
+    machine.tasks.hold();
+    duplicates().trashOthers(group, home + "/a");
+    duplicates().trashOthers(group, home + "/b");
+    machine.tasks.release();
+    settle();
+    EXPECT_THAT(machine.trash.trashed(), ElementsAre(home + "/b", home + "/c"));
+    duplicates().trashOthers(group, home + "/a");
+    settle();
+    EXPECT_THAT(machine.trash.trashed(), SizeIs(2)) << "it may be removed again, but nothing is left of it";
 }
 
 TEST_F(Duplicates, restoredGroupIsReadAgainBeforeItsNextRemoval) {

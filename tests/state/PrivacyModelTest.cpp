@@ -465,6 +465,16 @@ TEST_F(PrivacyOfLinux, chromiumsNameIsNotThatOfGnomeWebOrChrome) {
     for (const char* other : {"Chrome", "GNOME Web"}) EXPECT_EQ(privacy().runningBrowser(other), std::nullopt) << other;
 }
 
+TEST_F(PrivacyOfLinux, browserThatHoldsItsLockIsKnownToRunWhenItsTracesAre) {
+    machine.files.setLocked(fakes::firefoxOfLinux + "/b.used/.parentlock");
+    std::optional<std::string> running;
+    QObject watching;
+    QObject::connect(&privacy(), &PrivacyModel::tracesChanged, &watching,
+                     [&] { running = privacy().runningBrowser("Firefox"); });
+    scan();
+    EXPECT_EQ(running, "Firefox");
+}
+
 TEST_F(PrivacyOfLinux, browserThatHoldsItsLockRunsWhateverItIsCalled) {
     machine.files.setLocked(fakes::firefoxOfLinux + "/b.used/.parentlock");
     scan();

@@ -79,7 +79,6 @@ TEST_F(ClutterScreenModelTest, exposesItsTexts) {
     };
     for (const auto& [actual, text] : expected) EXPECT_EQ(actual.toStdString(), text);
     EXPECT_EQ(clutter.screen(), Screen::clutter);
-    EXPECT_TRUE(clutter.note().isEmpty());
 }
 
 TEST_F(ClutterScreenModelTest, showsProgressAndResultsOfItsSurvey) {

@@ -50,7 +50,6 @@ TEST_F(DuplicatesScreen, hasItsTexts) {
                                 "keep just one."));
     EXPECT_EQ(screen().scanLabel(), "Find duplicates");
     EXPECT_EQ(screen().scanningLabel(), QString::fromUtf8("Hashing candidates… this can take a moment"));
-    EXPECT_EQ(screen().note(), "");
     EXPECT_TRUE(screen().idle());
 }
 
@@ -66,6 +65,17 @@ TEST_F(DuplicatesScreen, followsTheSearch) {
     EXPECT_FALSE(screen().nothing());
     EXPECT_EQ(screen().summary(), QString::fromUtf8("2 sets · 8 MB recoverable"));
     EXPECT_EQ(screen().rows()->rowCount(), 7);
+}
+
+TEST_F(DuplicatesScreen, hasNoResultsBeforeOrBetweenSearches) {
+    std::vector<ModulePhase> phases;
+    QObject watching;
+    QObject::connect(&screen(), &ModuleScreenModel::phaseChanged, &watching,
+                     [&] { phases.push_back(screen().phase()); });
+    search();
+    search();
+    EXPECT_THAT(phases,
+                ElementsAre(ModulePhase::scanning, ModulePhase::results, ModulePhase::scanning, ModulePhase::results));
 }
 
 TEST_F(DuplicatesScreen, searchesTheScanRoots) {
