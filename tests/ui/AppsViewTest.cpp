@@ -298,6 +298,16 @@ TEST_F(LinuxAppsWindow, sheetOfAFlatpakSaysSo) {
                  "org.sample.Orrery", "removed by flatpak", "to the Trash"});
 }
 
+TEST_F(LinuxAppsWindow, sheetWithoutLeftoversSaysNothingOfTheTrash) {
+    openScanned();
+    ask(5);
+    expectTexts({"Removes the app through flatpak, for good — 20 MB.", "Remove 20 MB"});
+    press(Qt::Key_Escape);
+    machine.files.erase(home + "/.config/studio");
+    ask(0);
+    expectTexts({"Removes the package for all users, for good, once an administrator agrees — 921.6 MB."});
+}
+
 TEST_F(LinuxAppsWindow, sheetOfASnapSaysWhatSnapDoes) {
     openScanned();
     ask(2);
