@@ -280,6 +280,13 @@ TEST_F(LinuxAppsWindow, applicationThatStaysHasNoButtonAndSaysWhy) {
     EXPECT_EQ(find("confirmUninstall"), nullptr);
 }
 
+TEST_F(LinuxAppsWindow, entryOfNoPackageHasNoFigure) {
+    machine.files.addFile(desktop.entryOf("handmade"), fakes::applicationEntry("Handmade", "/opt/x"));
+    openScanned();
+    expectTexts({"Handmade", "system", "Stays: nothing here says what removes it."});
+    EXPECT_THAT(seenTexts(), Not(Contains("0 bytes")));
+}
+
 TEST_F(LinuxAppsWindow, sheetOfAPackageSaysWhoRemovesWhat) {
     openScanned();
     ask(0);

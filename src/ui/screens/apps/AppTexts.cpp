@@ -19,8 +19,8 @@ QString bytesOf(std::uint64_t bytes) {
 
 }  // namespace
 
-QString AppTexts::kind(AppKind kind) {
-    switch (kind) {
+QString AppTexts::kind(const AppEntry& app) {
+    switch (app.kind) {
         case AppKind::bundle:
             return {};
         case AppKind::userFlatpak:
@@ -34,7 +34,7 @@ QString AppTexts::kind(AppKind kind) {
         case AppKind::unpacked:
             return tr("unpacked");
         case AppKind::package:
-            return tr("package");
+            return app.package.empty() ? tr("system") : tr("package");
     }
     return {};
 }
