@@ -280,6 +280,13 @@ TEST_F(LinuxAppsWindow, applicationThatStaysHasNoButtonAndSaysWhy) {
     EXPECT_EQ(find("confirmUninstall"), nullptr);
 }
 
+TEST_F(LinuxAppsWindow, entryOfNoPackageHasNoFigure) {
+    machine.files.addFile(desktop.entryOf("handmade"), fakes::applicationEntry("Handmade", "/opt/x"));
+    openScanned();
+    expectTexts({"Handmade", "system", "Stays: nothing here says what removes it."});
+    EXPECT_THAT(seenTexts(), Not(Contains("0 bytes")));
+}
+
 TEST_F(LinuxAppsWindow, sheetOfAPackageSaysWhoRemovesWhat) {
     openScanned();
     ask(0);
@@ -296,6 +303,16 @@ TEST_F(LinuxAppsWindow, sheetOfAFlatpakSaysSo) {
     ask(1);
     expectTexts({"Removes the app through flatpak, for good, and moves 1 leftover item(s) to Trash — 502 MB.",
                  "org.sample.Orrery", "removed by flatpak", "to the Trash"});
+}
+
+TEST_F(LinuxAppsWindow, sheetWithoutLeftoversSaysNothingOfTheTrash) {
+    openScanned();
+    ask(5);
+    expectTexts({"Removes the app through flatpak, for good — 20 MB.", "Remove 20 MB"});
+    press(Qt::Key_Escape);
+    machine.files.erase(home + "/.config/studio");
+    ask(0);
+    expectTexts({"Removes the package for all users, for good, once an administrator agrees — 921.6 MB."});
 }
 
 TEST_F(LinuxAppsWindow, sheetOfASnapSaysWhatSnapDoes) {

@@ -35,7 +35,7 @@ TEST(DesktopIcons, fallsBackToSymbol) {
     DesktopIcons programs(workspace, Of::programs);
     EXPECT_EQ(programs.image("/a", 24), tintedSymbol("gearshape", QColor(139, 134, 152), 24));
     DesktopIcons applications(workspace, Of::applications);
-    EXPECT_EQ(applications.image("a", 24), tintedSymbol("app", QColor(139, 134, 152), 24));
+    EXPECT_EQ(applications.image("a", 24), tintedSymbol("square.grid.2x2", QColor(167, 123, 255), 24));
 }
 
 TEST(DesktopIcons, cachesByPathAndSize) {

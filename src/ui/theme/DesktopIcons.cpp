@@ -15,6 +15,7 @@ constexpr qsizetype keptBytes = 8 * 1024 * 1024;
 // Visible on the ground of both themes, and on a bubble. That of folders is usual on desktops.
 const QColor folderColor(90, 172, 245);
 const QColor programColor(139, 134, 152);
+const QColor applicationColor(167, 123, 255);
 
 QImage imageOf(const IconPixels& pixels) {
     return QImage(reinterpret_cast<const uchar*>(pixels.argb.data()), pixels.side, pixels.side,
@@ -35,7 +36,7 @@ QImage DesktopIcons::image(const std::string& path, int side) {
         case Of::programs:
             return tintedSymbol(QStringLiteral("gearshape"), programColor, side);
         case Of::applications:
-            return tintedSymbol(QStringLiteral("app"), programColor, side);
+            return tintedSymbol(QStringLiteral("square.grid.2x2"), applicationColor, side);
     }
     return {};
 }

@@ -34,7 +34,9 @@ const AppEntry* AppRows::at(int row) const {
 
 QVariant AppRows::value(std::size_t row, int role) const {
     const AppEntry& app = rows_[row];
-    const QString total = byteFigure(static_cast<std::int64_t>(app.size + app.dataTotal));
+    // Nobody says how large an entry of no package is.
+    const bool isUnknown = app.kind == AppKind::package && app.package.empty();
+    const QString total = isUnknown ? QString() : byteFigure(static_cast<std::int64_t>(app.size + app.dataTotal));
     switch (role) {
         case iconRole:
             return icons_.image(app.icon, appIconSide);
@@ -45,7 +47,7 @@ QVariant AppRows::value(std::size_t row, int role) const {
         case reasonRole:
             return AppTexts::obstacle(app.obstacle);
         case kindRole:
-            return AppTexts::kind(app.kind);
+            return AppTexts::kind(app);
         case sizeRole:
             return total;
         case removableRole:
@@ -53,8 +55,8 @@ QVariant AppRows::value(std::size_t row, int role) const {
         case busyRole:
             return apps_.isRemoving(app.url);
         case spokenRole:
-            return AccessibleText::joined({displayText(app.name), AppTexts::kind(app.kind), AppTexts::detail(app),
-                                           total, apps_.isRemoving(app.url) ? tr("being removed") : QString()});
+            return AccessibleText::joined({displayText(app.name), AppTexts::kind(app), AppTexts::detail(app), total,
+                                           apps_.isRemoving(app.url) ? tr("being removed") : QString()});
         case uninstallRole:
             return tr("Uninstall %1").arg(displayText(app.name));
         default:

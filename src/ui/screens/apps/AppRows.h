@@ -25,7 +25,7 @@ public:
         detailRole,     ///< what it is called, or what it and its data take
         reasonRole,     ///< why it stays; empty if it may go
         kindRole,       ///< how it came here; empty where there is but one way
-        sizeRole,       ///< of it and its data, with unit
+        sizeRole,       ///< of it and its data, with unit; empty if nobody knows
         removableRole,  ///< whether it has a button
         busyRole,       ///< whether it is being removed
         spokenRole,

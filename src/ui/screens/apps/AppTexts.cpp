@@ -19,8 +19,8 @@ QString bytesOf(std::uint64_t bytes) {
 
 }  // namespace
 
-QString AppTexts::kind(AppKind kind) {
-    switch (kind) {
+QString AppTexts::kind(const AppEntry& app) {
+    switch (app.kind) {
         case AppKind::bundle:
             return {};
         case AppKind::userFlatpak:
@@ -34,7 +34,7 @@ QString AppTexts::kind(AppKind kind) {
         case AppKind::unpacked:
             return tr("unpacked");
         case AppKind::package:
-            return tr("package");
+            return app.package.empty() ? tr("system") : tr("package");
     }
     return {};
 }
@@ -106,6 +106,7 @@ QString AppTexts::question(const AppEntry& app, int leftovers, const QString& to
             return tr("Moves the app and %1 leftover item(s) to Trash — %2.").arg(leftovers).arg(total);
         case AppKind::userFlatpak:
         case AppKind::systemFlatpak:
+            if (leftovers == 0) return tr("Removes the app through flatpak, for good — %1.").arg(total);
             return tr("Removes the app through flatpak, for good, and moves %1 leftover item(s) to Trash — %2.")
                 .arg(leftovers)
                 .arg(total);
@@ -114,6 +115,8 @@ QString AppTexts::question(const AppEntry& app, int leftovers, const QString& to
                       "a copy of what it stored for 31 days.")
                 .arg(total);
         case AppKind::package:
+            if (leftovers == 0)
+                return tr("Removes the package for all users, for good, once an administrator agrees — %1.").arg(total);
             return tr("Removes the package for all users, for good, once an administrator agrees, and moves %1 "
                       "leftover item(s) to Trash — %2.")
                 .arg(leftovers)

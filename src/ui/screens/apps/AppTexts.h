@@ -15,7 +15,7 @@ class AppTexts {
 
 public:
     /// How it came here, in a word; empty for a bundle, since there is no other kind on macOS.
-    static QString kind(AppKind kind);
+    static QString kind(const AppEntry& app);
     /// What removes it, as it stands beside it; empty if that is the Trash.
     static QString fate(AppKind kind);
     /// The second line of its row: its identifier or path, and once that is known what it and its data take.

@@ -15,12 +15,14 @@ Sheet {
     title: sheet.removal.title
     primary: sheet.removal.undoable ? confirmButton : null
     sheetWidth: Math.round(500 * TextScale.factor)
-    sheetHeight: Math.round(420 * TextScale.factor)
     visible: sheet.removal.open
     onDismissed: sheet.removal.cancel()
 
     FocusScope {
-        implicitHeight: heading.implicitHeight + 140 + buttons.implicitHeight + 2 * 14
+        // As high as its rows, up to some.
+        readonly property real roomForRows: Math.min(parts.contentHeight + parts.topMargin + parts.bottomMargin + 2, Math.round(250 * TextScale.factor))
+
+        implicitHeight: heading.implicitHeight + roomForRows + buttons.implicitHeight + 14 + 20
         focus: true
 
         Column {
@@ -53,7 +55,7 @@ Sheet {
             anchors.top: heading.bottom
             anchors.topMargin: 14
             anchors.bottom: buttons.top
-            anchors.bottomMargin: 14
+            anchors.bottomMargin: 20
             width: parent.width
             radius: 12
             color: Theme.ground
