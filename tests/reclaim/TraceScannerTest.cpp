@@ -99,6 +99,13 @@ TEST_F(TracesOfMac, whoseWalIsLeftAloneGoWithoutTheirDatabase) {
     EXPECT_THAT(move(history, history.paths[1]), ElementsAre(history.paths[1]));
 }
 
+TEST_F(TracesOfMac, areMovedPathByPath) {
+    const Trace history = trace("SafariHistory");
+    EXPECT_THAT(move(history, history.paths[0]), ElementsAre(history.paths[0]));
+    EXPECT_TRUE(machine.files.identity(history.paths[1]));
+    EXPECT_TRUE(machine.files.identity(home + "/Library/Safari/History.db-shm"));
+}
+
 TEST_F(TracesOfMac, areTheSystemsEvenWhereAFolderLooksLikeAProfile) {
     machine.files.addFile(home + "/Library/Caches/Firefox/a/logins.json", {}, 10);
     const Trace caches = trace("FirefoxCaches");

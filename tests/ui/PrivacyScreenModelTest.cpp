@@ -170,6 +170,34 @@ TEST_F(PrivacyScreenOfMac, looksForBrowsersWhenItAppearsAndWhenItsWindowWakes) {
     EXPECT_EQ(readsOf(true, false), 1);
 }
 
+TEST_F(PrivacyScreenOfMac, looksAgainAsLongAsItIsSeenThatABrowserRuns) {
+    machine.workspace.running = {"Safari"};
+    scan();
+    screen().watch(false, false);
+    int& reads = machine.workspace.runningReads;
+    const auto isTimed = [&] { return screen().waitsForBrowsers(); };
+    EXPECT_FALSE(isTimed()) << "nobody sees it";
+    screen().watch(true, true);
+    EXPECT_TRUE(isTimed());
+    reads = 0;
+    machine.workspace.running.clear();
+    runUntil([&] { return reads > 0; });
+    EXPECT_THAT(column("running"), ElementsAre("false", "false", "false", "false", "false"));
+    EXPECT_EQ(column("place")[0], library + "Caches/com.apple.Safari");
+    EXPECT_FALSE(isTimed()) << "nothing runs";
+    machine.workspace.running = {"Safari"};
+    screen().watch(true, false);
+    screen().watch(true, true);
+    EXPECT_TRUE(isTimed());
+    screen().watch(false, true);
+    EXPECT_FALSE(isTimed());
+    screen().watch(true, true);
+    EXPECT_TRUE(isTimed());
+    traces().setSelected("SafariHistory", true);
+    screen().clearChosen();
+    EXPECT_FALSE(isTimed()) << "its rows are gone";
+}
+
 TEST_F(PrivacyScreen, saysOnLinuxThatAHistoryStays) {
     fakes::fillWithLinuxTraces(machine);
     EXPECT_FALSE(screen().historyStays());

@@ -8,6 +8,12 @@
 
 namespace zelk {
 
+namespace {
+
+constexpr int lookAgainInterval = 2'000;  // milliseconds
+
+}  // namespace
+
 PrivacyScreenModel::PrivacyScreenModel(AppModel& app)
     : ModuleScreenModel(
           Screen::privacy,
@@ -23,9 +29,11 @@ PrivacyScreenModel::PrivacyScreenModel(AppModel& app)
     connect(&privacy_, &PrivacyModel::tracesChanged, this, &PrivacyScreenModel::showTraces);
     connect(&privacy_, &PrivacyModel::selectionChanged, &rows_, &TraceRows::tellTicks);
     connect(&privacy_, &PrivacyModel::selectionChanged, this, &PrivacyScreenModel::selectionChanged);
-    connect(&privacy_, &PrivacyModel::runningChanged, &rows_, &TraceRows::tellRunning);
+    connect(&privacy_, &PrivacyModel::runningChanged, this, &PrivacyScreenModel::showRunning);
     connect(&privacy_, &PrivacyModel::hasScannedChanged, this, &PrivacyScreenModel::followScan);
     connect(&privacy_, &PrivacyModel::loadingChanged, this, &PrivacyScreenModel::followScan);
+    again_.setInterval(lookAgainInterval);
+    connect(&again_, &QTimer::timeout, &privacy_, &PrivacyModel::refreshRunning);
     rows_.show();
     followScan();
 }
@@ -37,8 +45,16 @@ void PrivacyScreenModel::followScan() {
 
 void PrivacyScreenModel::showTraces() {
     rows_.show();
+    showRunning();
     emit tracesChanged();
     emit selectionChanged();
+}
+
+void PrivacyScreenModel::showRunning() {
+    rows_.tellRunning();
+    const bool waits = watched_ && rows_.hasRunning();
+    if (waits == again_.isActive()) return;
+    waits ? again_.start() : again_.stop();
 }
 
 bool PrivacyScreenModel::historyStays() const {
@@ -68,6 +84,7 @@ void PrivacyScreenModel::watch(bool seen, bool active) {
     watched_ = seen;
     active_ = active;
     if (appears || (wakes && seen)) privacy_.refreshRunning();
+    showRunning();
 }
 
 }  // namespace zelk

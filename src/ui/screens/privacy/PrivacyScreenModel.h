@@ -3,6 +3,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QString>
+#include <QTimer>
 
 #include "ui/controls/UndoBarModel.h"
 #include "ui/screens/module/ModuleScreenModel.h"
@@ -37,12 +38,15 @@ public:
     QString selectedLine() const;
     bool clearable() const;
     UndoBarModel* undoBar() { return &undoBar_; }
+    /// Whether it looks again after a while.
+    bool waitsForBrowsers() const { return again_.isActive(); }
 
 public slots:
     void toggle(int row);
     void clearChosen();
     /// The view tells whether it is seen and whether its window is the active one. Looks for running browsers whenever
-    /// one of them becomes true while it is seen: people go and quit them.
+    /// one of them becomes true while it is seen: people go and quit them. A browser takes a while to end, so as long
+    /// as it is seen that one is running, it looks again every two seconds.
     void watch(bool seen, bool active);
 
 signals:
@@ -52,12 +56,14 @@ signals:
 private:
     void followScan();
     void showTraces();
+    void showRunning();
 
     PrivacyModel& privacy_;
     TraceRows rows_;
     UndoBarModel undoBar_;
     bool watched_ = false;
     bool active_ = false;
+    QTimer again_;
 };
 
 }  // namespace zelk

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/screens/privacy/TraceRows.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -22,8 +23,17 @@ void TraceRows::show() {
 }
 
 void TraceRows::tellRunning() {
-    for (Row& row : rows_) row.running = privacy_.runningBrowser(row.trace.app);
-    allRowsChanged({warningRole, runningRole, spokenRole});
+    bool changed = false;
+    for (Row& row : rows_) {
+        std::optional<std::string> running = privacy_.runningBrowser(row.trace.app);
+        changed = changed || running != row.running;
+        row.running = std::move(running);
+    }
+    if (changed) allRowsChanged({placeRole, warningRole, runningRole, spokenRole});
+}
+
+bool TraceRows::hasRunning() const {
+    return std::any_of(rows_.begin(), rows_.end(), [](const Row& row) { return row.running.has_value(); });
 }
 
 std::optional<std::string> TraceRows::identityAt(int row) const {

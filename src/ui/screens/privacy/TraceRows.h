@@ -36,6 +36,8 @@ public:
     void show();
     void tellTicks() { allRowsChanged({tickedRole}); }
     void tellRunning();
+    /// Whether a browser of any row runs.
+    bool hasRunning() const;
 
     /// Absent for invalid rows.
     std::optional<std::string> identityAt(int row) const;
