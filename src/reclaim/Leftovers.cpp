@@ -116,8 +116,8 @@ std::vector<std::string> Leftovers::candidates(const AppEntry& app) const {
 bool Leftovers::counts(const std::string& path) const {
     if (!xdg_) return files_.exists(path);
     const std::optional<FileProperties> properties = files_.properties(path);
-    if (!properties || properties->isLink || !properties->isOwn) return false;
-    // What a link on the way leads to is somebody else's, and would not be moved.
+    if (!properties || !properties->isOwn) return false;
+    // A link is no leftover, and what one on the way leads to would not be moved.
     const std::string root = rootOf(path);
     const std::optional<std::string> realRoot = files_.realPath(root);
     const std::optional<std::string> real = files_.realPath(path);

@@ -122,8 +122,8 @@ TEST(LinuxFileManager, propertiesTellTheOwner) {
     zoo::makeFile(folder / "file");
     EXPECT_TRUE(manager.properties(folder.path())->isOwn);
     EXPECT_TRUE(manager.properties(folder / "file")->isOwn);
-    EXPECT_TRUE(asOrdinaryUser(
-        [] { return !manager.properties("/etc/passwd")->isOwn && !manager.properties("/etc")->isOwn; }));
+    EXPECT_TRUE(
+        asOrdinaryUser([] { return !manager.properties("/etc/passwd")->isOwn && !manager.properties("/etc")->isOwn; }));
 }
 
 TEST(LinuxFileManager, propertiesDoNotFollowLinks) {

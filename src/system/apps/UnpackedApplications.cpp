@@ -95,8 +95,9 @@ private:
     }
 
     bool mayGo(const std::string& folder) const {
-        if (folder.size() <= realHome_.size() + 1 || !isInFolder(folder, realHome_)) return false;
+        if (!isInFolder(folder, realHome_)) return false;
         if (folder.find("/.", realHome_.size()) != std::string::npos || isCollection(fileNameOf(folder))) return false;
+        // The home itself holds them all.
         for (const std::string& reserved : reserved_)
             if (isInFolder(reserved, folder)) return false;
         for (const AppEntry& app : findings_.apps)

@@ -125,7 +125,7 @@ ListRow {
     Label {
         id: sizeText
 
-        anchors.right: corner.left
+        anchors.right: endArea.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         width: Math.round(86 * TextScale.factor)
@@ -138,7 +138,7 @@ ListRow {
 
     // As wide in every row, so that the sizes stand below each other.
     Item {
-        id: corner
+        id: endArea
 
         anchors.right: parent.right
         anchors.rightMargin: Theme.pageMargin
