@@ -92,7 +92,8 @@ public:
 
     /// Every removal that is running, whether started here or by the model of a screen.
     RemovalsModel& removals() { return removals_; }
-    /// What the last trashAndRemove(), trashLargeFile() or removal of background items or duplicates moved to the Trash.
+    /// What the last trashAndRemove(), trashLargeFile() or removal of background items or duplicates moved to the
+    /// Trash.
     RemovalUndo& removalUndo() { return removalUndo_; }
     /// Memory, caches, and what starts in the background.
     TuneModel& tune() { return tune_; }
