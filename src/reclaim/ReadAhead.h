@@ -25,7 +25,7 @@ public:
     static constexpr std::int64_t distance = 64 * 1024 * 1024;
 
     /// What it asks for at once, in bytes. A kernel may serve no more of a request than it would read ahead by itself.
-    static constexpr std::int64_t requestBytes = 256 * 1024;
+    static constexpr std::int64_t requestBytes = 2 * 1024 * 1024;
 
     /// `files` are those that will be read, in this order. `contents` must outlive this object.
     ReadAhead(FileContents& contents, std::vector<File> files);

@@ -4,7 +4,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zelk.App
 import Zelk.Controls
 
 ListRow {

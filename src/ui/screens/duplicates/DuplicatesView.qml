@@ -20,11 +20,11 @@ ModuleScaffold {
             id: again
 
             objectName: "findAgain"
-            text: view.duplicates.scanLabel
-            onClicked: view.duplicates.scan()
+            text: view.duplicates.scanLabel // qmllint disable unqualified
+            onClicked: view.duplicates.scan() // qmllint disable unqualified
 
             Connections {
-                target: view
+                target: view // qmllint disable unqualified
 
                 function onListEmptied(byKey: bool) {
                     again.forceActiveFocus(byKey ? Qt.TabFocusReason : Qt.MouseFocusReason);
@@ -81,7 +81,7 @@ ModuleScaffold {
                 ignoreUnknownSignals: true
 
                 function onEmptied(byKey: bool) {
-                    view.listEmptied(byKey);
+                    view.listEmptied(byKey); // qmllint disable unqualified
                 }
             }
 
