@@ -12,7 +12,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
-
 // Scanning.
 
 TEST_F(PrivacyOfMac, isEmptyBeforeTheFirstScan) {
