@@ -86,6 +86,8 @@ QString AppTexts::obstacle(const AppObstacle& obstacle) {
             return tr("Stays: it is installed more than once. Its own tool can remove one of them.");
         case AppObstacle::Reason::notOwn:
             return tr("Stays: it belongs to another user.");
+        case AppObstacle::Reason::changed:
+            return tr("Stays: it has changed since it was listed.");
         case AppObstacle::Reason::unknown:
             return tr("Stays: nothing here says what removes it.");
     }
