@@ -38,7 +38,8 @@ public:
     /// What has to be known before an application is removed.
     struct Preparation {
         std::vector<Leftover> leftovers;
-        AppObstacle obstacle;  ///< what stands against it now
+        AppObstacle obstacle;    ///< what stands against it now
+        std::uint64_t size = 0;  ///< of the application, in bytes
     };
     /// How a removal ended that has something to tell.
     struct Ending {
@@ -108,8 +109,8 @@ private:
     void scanBundles();
     void takeUpdates();
     void listInstalled();
-    void takeApps(std::vector<AppEntry> apps);
-    void takeFootprints(std::vector<AppEntry> apps);
+    void takeApps(int scan, std::vector<AppEntry> apps);
+    void takeFootprints(int scan, std::vector<AppEntry> apps);
     static Done removeAll(const Platform& platform, const AppEntry& app, const std::vector<Leftover>& leftovers,
                           Removal& removal);
     void finish(const Done& done);
@@ -121,6 +122,7 @@ private:
     RemovalUndo& undo_;
     const MainThreadQueue::Sender mainThread_;
     std::shared_ptr<UpdateQueue> queue_;  ///< of the running scan
+    int scan_ = 0;                        ///< how often a scan began; what an earlier one tells comes too late
     Sort sort_ = Sort::footprint;
     std::vector<AppEntry> apps_;
     bool loading_ = false;

@@ -46,6 +46,7 @@ public:
         machine.locations.xdg =
             XdgHomes{home + "/.local/share", home + "/.config", home + "/.cache", home + "/.local/state"};
         machine.locations.programs = {"/usr/bin"};
+        machine.locations.sharedData = {"/usr/local/share", "/usr/share"};
         for (const char* tool : {"flatpak", "snap", "dpkg-query", "apt-get"})
             machine.files.addFile(std::string("/usr/bin/") + tool);
         machine.files.addFolder(home);

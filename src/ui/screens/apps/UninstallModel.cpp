@@ -28,6 +28,7 @@ void UninstallModel::take(int number, const AppsModel::Preparation& preparation)
     if (number != asked_ || !open_) return;
     leftovers_ = preparation.leftovers;
     obstacle_ = preparation.obstacle;
+    app_.size = preparation.size;
     loading_ = false;
     rows_.show(app_, leftovers_);
     emit changed();
