@@ -202,6 +202,11 @@ void AppsModel::prepare(const AppEntry& app, std::function<void(const Preparatio
         });
 }
 
+std::optional<std::string> AppsModel::toldHome() const {
+    if (platform_.system == SystemKind::macOS) return std::nullopt;
+    return platform_.locations.home();
+}
+
 std::vector<std::string> AppsModel::leftoverCandidates(const AppEntry& app) const {
     return Leftovers(platform_).candidates(app);
 }

@@ -80,6 +80,9 @@ public:
     /// Finds in a task what uninstall() will need, and calls `done` on the main thread, unless this object has gone.
     void prepare(const AppEntry& app, std::function<void(const Preparation&)> done);
 
+    /// The folder below which paths are told, normalized; absent on macOS, where names tell enough.
+    std::optional<std::string> toldHome() const;
+
     // Blocking; see Leftovers.
 
     std::vector<std::string> leftoverCandidates(const AppEntry& app) const;

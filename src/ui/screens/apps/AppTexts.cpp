@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "platform/FolderPath.h"
 #include "ui/theme/DisplayText.h"
 
 namespace zelk {
@@ -54,6 +55,10 @@ QString AppTexts::fate(AppKind kind) {
             break;
     }
     return {};
+}
+
+QString AppTexts::place(const std::string& path, const std::string& home) {
+    return displayText(isInFolder(path, home) ? "~" + path.substr(home.size()) : path);
 }
 
 QString AppTexts::detail(const AppEntry& app) {
@@ -106,14 +111,18 @@ QString AppTexts::question(const AppEntry& app, int leftovers, const QString& to
         case AppKind::appImage:
         case AppKind::unpacked:
             return tr("Moves the app and %1 leftover item(s) to Trash — %2.").arg(leftovers).arg(total);
-        case AppKind::userFlatpak:
         case AppKind::systemFlatpak:
+            return tr("Removes the app through flatpak for all users, for good, and moves %1 leftover item(s) to Trash "
+                      "— %2.")
+                .arg(leftovers)
+                .arg(total);
+        case AppKind::userFlatpak:
             return tr("Removes the app through flatpak, for good, and moves %1 leftover item(s) to Trash — %2.")
                 .arg(leftovers)
                 .arg(total);
         case AppKind::snap:
-            return tr("Removes the app through snap, for good — %1. Snap removes the folder of the app too, and keeps "
-                      "a copy of what it stored for 31 days.")
+            return tr("Removes the app through snap for all users, for good — %1. Snap removes the folder of the app "
+                      "too, and may keep a copy of its data for a while.")
                 .arg(total);
         case AppKind::package:
             return tr("Removes the package for all users, for good, once an administrator agrees, and moves %1 "
