@@ -41,6 +41,9 @@ public:
     /// Where a program that is named without a path is looked for, in this order. Empty on macOS, where background
     /// items name whole paths.
     virtual std::vector<std::string> programFolders() = 0;
+    /// The folders of data that all users share, in the order in which programs look there: the XDG data directories.
+    /// Normalized; they need not exist. Empty on macOS.
+    virtual std::vector<std::string> sharedDataFolders() = 0;
     /// The locales in which the names in desktop entries are read, best first; empty on macOS.
     virtual std::vector<std::string> entryLocales() = 0;
 };

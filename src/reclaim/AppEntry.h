@@ -33,6 +33,7 @@ struct AppObstacle {
         noTool,           ///< the tool that put it here is missing
         severalVersions,  ///< the tool would have to be told which one
         notOwn,           ///< it belongs to another user
+        changed,          ///< it is no longer what was listed
         unknown           ///< nothing here says how it came, or what removes it
     };
 
@@ -51,12 +52,13 @@ struct AppEntry {
     std::uint64_t dataTotal = 0;          ///< bytes of what it keeps elsewhere; 0 until that is known
 
     AppKind kind = AppKind::bundle;
-    std::string package;                    ///< what its tool calls it; empty if no tool removes it
-    std::string program = {};               ///< the name of its program; empty if that identifies no application
-    std::string icon = {};                  ///< for Workspace::entryIcon()
-    std::vector<std::string> entries = {};  ///< the user's desktop entries that start it, which go with it
-    bool sharesID = false;                  ///< another application has its `bundleID` too
-    bool sharesProgram = false;             ///< another application has its `program` too
+    std::string package;                      ///< what its tool calls it; empty if no tool removes it
+    std::vector<std::string> alongside = {};  ///< the names of the other applications that its tool removes with it
+    std::string program = {};                 ///< the name of its program; empty if that identifies no application
+    std::string icon = {};                    ///< for Workspace::entryIcon()
+    std::vector<std::string> entries = {};    ///< the user's desktop entries that start it, which go with it
+    bool sharesID = false;                    ///< another application has its `bundleID` too
+    bool sharesProgram = false;               ///< another application has its `program` too
     AppObstacle obstacle = {};
 
     bool operator==(const AppEntry&) const = default;

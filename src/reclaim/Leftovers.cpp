@@ -38,10 +38,15 @@ bool isOneOf(std::string_view name, const Names& patterns) {
                        [name](std::string_view pattern) { return matches(name, pattern); });
 }
 
-/// Whether the name stands for one entry of a folder, and is too long to be one by accident. "." and ".." are shorter.
-bool isPlainName(std::string_view name) {
-    return name.size() >= shortestName && name.find('/') == std::string_view::npos &&
+/// Whether the name stands for one entry of a folder, and never for the folder itself or one above.
+bool isOneEntry(std::string_view name) {
+    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string_view::npos &&
            name.find('\0') == std::string_view::npos;
+}
+
+/// The same for a name that is too long to be one by accident.
+bool isPlainName(std::string_view name) {
+    return name.size() >= shortestName && isOneEntry(name);
 }
 
 class PlaceList {
@@ -64,7 +69,7 @@ std::vector<std::string> leftoverCandidates(const std::string& home, const std::
                                             const std::string& name) {
     const std::string library = pathIn(home, "Library");
     std::vector<std::string> paths;
-    if (bundleID) {
+    if (bundleID && isOneEntry(*bundleID)) {
         const std::string& id = *bundleID;
         paths = {library + "/Application Support/" + id,
                  library + "/Caches/" + id,
@@ -75,6 +80,7 @@ std::vector<std::string> leftoverCandidates(const std::string& home, const std::
                  library + "/HTTPStorages/" + id,
                  library + "/WebKit/" + id};
     }
+    if (!isOneEntry(name)) return paths;
     for (const char* folder : {"/Application Support/", "/Caches/", "/Logs/"}) paths.push_back(library + folder + name);
     return paths;
 }

@@ -20,7 +20,8 @@ struct Leftover {
     bool operator==(const Leftover&) const = default;
 };
 
-/// The places of a bundle below the user's Library, in order: by its identifier, if it has one, and by its name.
+/// The places of a bundle below the user's Library, in order: by its identifier, if it has one, and by its name. One
+/// that is no name of a single entry counts as absent.
 std::vector<std::string> leftoverCandidates(const std::string& home, const std::optional<std::string>& bundleID,
                                             const std::string& name);
 

@@ -52,6 +52,7 @@ void AppsModel::scanApps() {
     if (isFirst) emit hasScannedChanged();
     if (!begins) return;
     left_.clear();
+    ++scan_;
     emit loadingChanged();
     platform_.system == SystemKind::macOS ? scanBundles() : listInstalled();
 }
@@ -68,8 +69,9 @@ void AppsModel::takeUpdates() {
     for (ScanUpdate& one : queue_->takeAll().updates) {
         auto* finished = std::get_if<update::Finished>(&one);
         if (finished == nullptr) continue;
-        auto read = [this, mainThread = mainThread_, &files = platform_.files, tree = std::move(finished->root)] {
-            mainThread.post([this, apps = bundlesIn(*tree, files)] { takeApps(apps); });
+        auto read = [this, scan = scan_, mainThread = mainThread_, &files = platform_.files,
+                     tree = std::move(finished->root)] {
+            mainThread.post([this, scan, apps = bundlesIn(*tree, files)] { takeApps(scan, apps); });
         };
         platform_.tasks.run(TaskPriority::userInitiated, std::move(read));
     }
@@ -77,25 +79,28 @@ void AppsModel::takeUpdates() {
 
 void AppsModel::listInstalled() {
     // Apart, because a tool may stall.
-    platform_.tasks.runApart(TaskPriority::userInitiated, [this, mainThread = mainThread_, platform = platform_] {
-        mainThread.post([this, apps = listApplications(platform)] { takeApps(apps); });
-    });
+    auto list = [this, scan = scan_, mainThread = mainThread_, platform = platform_] {
+        mainThread.post([this, scan, apps = listApplications(platform)] { takeApps(scan, apps); });
+    };
+    platform_.tasks.runApart(TaskPriority::userInitiated, std::move(list));
 }
 
-void AppsModel::takeApps(std::vector<AppEntry> apps) {
+void AppsModel::takeApps(int scan, std::vector<AppEntry> apps) {
+    if (scan != scan_) return;
     apps_ = std::move(apps);
     loading_ = false;
-    auto measure = [this, mainThread = mainThread_, leftovers = Leftovers(platform_), list = apps_]() mutable {
+    auto measure = [this, scan, mainThread = mainThread_, leftovers = Leftovers(platform_), list = apps_]() mutable {
         for (AppEntry& app : list) app.dataTotal = leftovers.dataSize(app);
-        mainThread.post([this, list = std::move(list)] { takeFootprints(list); });
+        mainThread.post([this, scan, list = std::move(list)] { takeFootprints(scan, list); });
     };
     emit appsChanged();
     emit loadingChanged();
     platform_.tasks.run(TaskPriority::utility, std::move(measure));
 }
 
-/// What left the list meanwhile does not come back.
-void AppsModel::takeFootprints(std::vector<AppEntry> apps) {
+/// What left the list meanwhile does not come back, nor does a list before this one.
+void AppsModel::takeFootprints(int scan, std::vector<AppEntry> apps) {
+    if (scan != scan_) return;
     std::erase_if(apps, [this](const AppEntry& app) { return left_.contains(app.url); });
     apps_ = std::move(apps);
     emit appsChanged();
@@ -126,7 +131,7 @@ AppsModel::Done AppsModel::removeAll(const Platform& platform, const AppEntry& a
     }
     const bool isMac = platform.system == SystemKind::macOS;
     const bool isGone = done.begun && done.removal.outcome == AppRemoval::Outcome::gone;
-    done.leavesList = done.begun && (isMac || isGone || !platform.files.exists(app.url));
+    done.leavesList = done.begun && (isMac || isGone || !isInstalled(platform, app));
     for (const Leftover& leftover : leftovers) {
         if (!removal.mayBegin() || !(isGone || isMac)) {
             removal.noteSkipped();
@@ -190,11 +195,16 @@ void AppsModel::forgetEnding() {
 }
 
 void AppsModel::prepare(const AppEntry& app, std::function<void(const Preparation&)> done) {
-    platform_.tasks.runApart(TaskPriority::userInitiated,
-                             [mainThread = mainThread_, platform = platform_, app, done = std::move(done)] {
-                                 Preparation preparation{Leftovers(platform).of(app), obstacleNow(platform, app)};
-                                 mainThread.post([done, preparation = std::move(preparation)] { done(preparation); });
-                             });
+    platform_.tasks.runApart(
+        TaskPriority::userInitiated, [mainThread = mainThread_, platform = platform_, app, done = std::move(done)] {
+            Preparation preparation{Leftovers(platform).of(app), obstacleNow(platform, app), sizeNow(platform, app)};
+            mainThread.post([done, preparation = std::move(preparation)] { done(preparation); });
+        });
+}
+
+std::optional<std::string> AppsModel::toldHome() const {
+    if (platform_.system == SystemKind::macOS) return std::nullopt;
+    return platform_.locations.home();
 }
 
 std::vector<std::string> AppsModel::leftoverCandidates(const AppEntry& app) const {

@@ -38,7 +38,8 @@ public:
     /// What has to be known before an application is removed.
     struct Preparation {
         std::vector<Leftover> leftovers;
-        AppObstacle obstacle;  ///< what stands against it now
+        AppObstacle obstacle;    ///< what stands against it now
+        std::uint64_t size = 0;  ///< of the application, in bytes
     };
     /// How a removal ended that has something to tell.
     struct Ending {
@@ -79,6 +80,9 @@ public:
     /// Finds in a task what uninstall() will need, and calls `done` on the main thread, unless this object has gone.
     void prepare(const AppEntry& app, std::function<void(const Preparation&)> done);
 
+    /// The folder below which paths are told, normalized; absent on macOS, where names tell enough.
+    std::optional<std::string> toldHome() const;
+
     // Blocking; see Leftovers.
 
     std::vector<std::string> leftoverCandidates(const AppEntry& app) const;
@@ -108,8 +112,8 @@ private:
     void scanBundles();
     void takeUpdates();
     void listInstalled();
-    void takeApps(std::vector<AppEntry> apps);
-    void takeFootprints(std::vector<AppEntry> apps);
+    void takeApps(int scan, std::vector<AppEntry> apps);
+    void takeFootprints(int scan, std::vector<AppEntry> apps);
     static Done removeAll(const Platform& platform, const AppEntry& app, const std::vector<Leftover>& leftovers,
                           Removal& removal);
     void finish(const Done& done);
@@ -121,6 +125,7 @@ private:
     RemovalUndo& undo_;
     const MainThreadQueue::Sender mainThread_;
     std::shared_ptr<UpdateQueue> queue_;  ///< of the running scan
+    int scan_ = 0;                        ///< how often a scan began; what an earlier one tells comes too late
     Sort sort_ = Sort::footprint;
     std::vector<AppEntry> apps_;
     bool loading_ = false;

@@ -46,6 +46,7 @@ public:
         machine.locations.xdg =
             XdgHomes{home + "/.local/share", home + "/.config", home + "/.cache", home + "/.local/state"};
         machine.locations.programs = {"/usr/bin"};
+        machine.locations.sharedData = {"/usr/local/share", "/usr/share"};
         for (const char* tool : {"flatpak", "snap", "dpkg-query", "apt-get"})
             machine.files.addFile(std::string("/usr/bin/") + tool);
         machine.files.addFolder(home);
@@ -55,7 +56,7 @@ public:
     const std::string home = "/home/me";
 
     std::vector<Package> packages;
-    std::map<std::string, std::string> owners;  ///< packages by desktop entry
+    std::map<std::string, std::string> owners;  ///< packages by file
     /// What else apt-get would remove with any package.
     std::vector<std::string> alongside;
     /// What any removal answers; it removes nothing unless that is success.
@@ -64,10 +65,12 @@ public:
 
     std::string entryOf(const std::string& id) const { return "/usr/share/applications/" + id + ".desktop"; }
 
-    /// A package with an entry in the menus, whose program has the package's name.
+    /// A package with an entry in the menus, whose program has the package's name and is its own.
     void addPackaged(const Package& package, const std::string& name, const std::string& id) {
         packages.push_back(package);
-        addEntry(package.name, name, id, "/usr/bin/" + package.name);
+        const std::string program = "/usr/bin/" + package.name;
+        owners[program] = package.name;
+        addEntry(package.name, name, id, program);
     }
     void addEntry(const std::string& package, const std::string& name, const std::string& id, const std::string& exec,
                   const std::string& more = {}) {
@@ -153,7 +156,7 @@ private:
         }
         if (!machine_.files.exists(call.executable)) return {"No such file or directory", 0, {}};
         if (call.executable == "/usr/bin/dpkg-query")
-            return {std::nullopt, 0, call.arguments.front() == "-S" ? ownersAsTold() : packagesAsTold()};
+            return {std::nullopt, 0, call.arguments.front() == "-S" ? ownersAsTold(call.arguments) : packagesAsTold()};
         if (call.executable == "/usr/bin/apt-get") return {std::nullopt, 0, simulated(call.arguments.back())};
         if (call.executable == "/usr/bin/flatpak") {
             const auto found = flatpaks_.find({call.arguments.back(), call.arguments[1] == "--user"});
@@ -168,7 +171,8 @@ private:
     void remove(const std::string& tool, const std::string& name) {
         FakeFileManager& files = machine_.files;
         if (tool == "/usr/bin/flatpak") {
-            for (const bool isUsers : {true, false}) files.erase(flatpakFolder(isUsers) + "/app/" + name);
+            const std::string place = name.substr(0, name.find('/', name.find('/') + 1));  // "app/ID"
+            for (const bool isUsers : {true, false}) files.erase(flatpakFolder(isUsers) + "/" + place);
         } else if (tool == "/usr/bin/snap") {
             for (const std::string& file : files.list("/var/lib/snapd/snaps").value_or(std::vector<std::string>()))
                 if (file.starts_with(name + "_")) files.erase("/var/lib/snapd/snaps/" + file);
@@ -179,9 +183,18 @@ private:
         }
     }
 
-    std::string ownersAsTold() const {
+    /// Of the paths that are asked for; one of them is a pattern.
+    std::string ownersAsTold(const std::vector<std::string>& asked) const {
+        const auto isAsked = [&](const std::string& file) {
+            return std::any_of(asked.begin(), asked.end(), [&](const std::string& path) {
+                const std::size_t star = path.find('*');
+                return path == file || (star != std::string::npos && file.starts_with(path.substr(0, star)) &&
+                                        file.ends_with(path.substr(star + 1)));
+            });
+        };
         std::string text;
-        for (const auto& [entry, owner] : owners) text += owner + ": " + entry + "\n";
+        for (const auto& [file, owner] : owners)
+            if (isAsked(file)) text += owner + ": " + file + "\n";
         return text;
     }
     std::string packagesAsTold() const {

@@ -182,6 +182,7 @@ public:
     TrashPlaces thrownAway;
     std::vector<BackgroundItemFolder> itemFolders;
     std::vector<std::string> programs;
+    std::vector<std::string> sharedData;
     std::vector<std::string> locales;
 
     std::string home() override { return homePath; }
@@ -190,6 +191,7 @@ public:
     TrashPlaces trashPlaces() override { return thrownAway; }
     std::vector<BackgroundItemFolder> backgroundItemFolders() override { return itemFolders; }
     std::vector<std::string> programFolders() override { return programs; }
+    std::vector<std::string> sharedDataFolders() override { return sharedData; }
     std::vector<std::string> entryLocales() override { return locales; }
 };
 

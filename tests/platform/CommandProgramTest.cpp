@@ -24,6 +24,25 @@ TEST(CommandProgram, interpretersAndLaunchersBelongToNobody) {
         EXPECT_FALSE(isSharedLauncher(program)) << program;
 }
 
+TEST(CommandProgram, interpretersRunTheFirstFileThatTheyAreGiven) {
+    EXPECT_EQ(interpretedFile({"python3.11", "/x.py", "/y.py"}), "/x.py");
+    EXPECT_EQ(interpretedFile({"/usr/bin/java", "-jar", "/x.jar", "-v"}), "/x.jar");
+    EXPECT_EQ(interpretedFile({"sh", "x.sh"}), "x.sh");
+    for (const std::vector<std::string>& words :
+         std::initializer_list<std::vector<std::string>>{{},
+                                                         {"java"},
+                                                         {"java", "-jar"},
+                                                         {"java", "-cp", "/x.jar", "Main"},
+                                                         {"java", "-jar", "-jar"},
+                                                         {"python3", "-m", "/x.py"},
+                                                         {"python3", "-jar", "/x.py"},
+                                                         {"xdg-open", "/x.pdf"},
+                                                         {"sudo", "/x"},
+                                                         {"steam", "/x"},
+                                                         {"vim", "/x"}})
+        EXPECT_EQ(interpretedFile(words), "") << (words.empty() ? "" : words.front());
+}
+
 TEST(CommandProgram, envIsDroppedWithWhatItSets) {
     EXPECT_THAT(withoutEnv({"env", "-S", "A=b", "vim", "C=d"}), ElementsAre("vim", "C=d"));
     EXPECT_THAT(withoutEnv({"/usr/bin/env", "vim"}), ElementsAre("vim"));

@@ -222,6 +222,14 @@ TEST(LinuxLocations, hiddenFoldersHaveDefaults) {
     }
 }
 
+TEST(LinuxLocations, sharedDataFoldersAreThoseOfTheEnvironment) {
+    const EnvironmentVariable shared("XDG_DATA_DIRS", "/exports/share/:relative:/usr/share");
+    EXPECT_THAT(LinuxLocations().sharedDataFolders(), ElementsAre("/exports/share", "/usr/share"));
+    EXPECT_THAT(LinuxLocations("/given").sharedDataFolders(), ElementsAre("/usr/local/share", "/usr/share"));
+    const EnvironmentVariable none("XDG_DATA_DIRS", std::nullopt);
+    EXPECT_THAT(LinuxLocations().sharedDataFolders(), ElementsAre("/usr/local/share", "/usr/share"));
+}
+
 TEST(LinuxLocations, ownItemFolderNeverHidesItself) {
     const EnvironmentVariable home("HOME", "/home/me");
     const EnvironmentVariable config("XDG_CONFIG_HOME", "/conf");

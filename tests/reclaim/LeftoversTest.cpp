@@ -84,6 +84,19 @@ TEST(LeftoverCandidates, ofBundleKeepIdenticalPaths) {
     EXPECT_EQ(paths[3], paths[10]);
 }
 
+TEST(LeftoverCandidates, ofBundleNeverNameAFolderOfSeveral) {
+    const Paths byID = leftoverCandidates("/Users/me", "org.sample.Inkwell", "");
+    EXPECT_EQ(byID.size(), 8U);
+    const Paths byName = leftoverCandidates("/Users/me", std::nullopt, "Inkwell");
+    for (const std::string& odd : {std::string(), std::string("."), std::string(".."), std::string("a/b"),
+                                   std::string("/"), std::string("../../x"), std::string("a\0b", 3)}) {
+        EXPECT_EQ(leftoverCandidates("/Users/me", odd, "Inkwell"), byName) << odd;
+        EXPECT_EQ(leftoverCandidates("/Users/me", "org.sample.Inkwell", odd), byID) << odd;
+        EXPECT_THAT(leftoverCandidates("/Users/me", odd, odd), IsEmpty()) << odd;
+    }
+    EXPECT_EQ(leftoverCandidates("/Users/me", "x", "y").size(), 11U) << "short names are names";
+}
+
 TEST(LeftoverCandidates, ofPackageComeByEntryAndProgram) {
     EXPECT_EQ(placesOf(packaged("org.sample.Inkwell", "inkwell")),
               (Paths{leftHome + "/.local/share/org.sample.Inkwell", leftHome + "/.cache/org.sample.Inkwell",

@@ -236,6 +236,32 @@ TEST_F(Bundles, uninstalledBeforeTheFootprintsStayAway) {
     EXPECT_EQ(namesOf(apps().apps()), (AppNames{"Inkwell", "Tidepool"}));
 }
 
+TEST_F(Bundles, footprintsOfAnEarlierListComeTooLate) {
+    const auto scanHeld = [this](std::size_t held) {
+        apps().scanApps();
+        runUntil([&] { return machine.tasks.waiting().size() > held; });
+        machine.tasks.runAt(held);
+        runUntil([this] { return !apps().loading(); });
+    };
+    machine.tasks.hold();
+    scanHeld(0);
+    ASSERT_THAT(machine.tasks.waiting(), SizeIs(1)) << "its footprints";
+    for (const AppEntry& one : std::vector<AppEntry>(apps().apps())) {
+        apps().uninstall(one, {});
+        machine.tasks.runAt(1);
+        runUntil([this] { return !apps().removing(); });
+    }
+    ASSERT_THAT(apps().apps(), IsEmpty());
+    fakes::addBundle(machine, "Orrery", 700);
+    scanHeld(1);
+    ASSERT_THAT(namesOf(apps().apps()), Contains("Orrery"));
+    machine.tasks.runAt(1);
+    runWhatIsThere();
+    machine.tasks.release();
+    runWhatIsThere();
+    EXPECT_THAT(namesOf(apps().apps()), Contains("Orrery"));
+}
+
 TEST_F(Bundles, comeBackWithUndo) {
     scanWhole();
     uninstall("Sonata");
@@ -315,8 +341,8 @@ TEST_F(LinuxDesktop, readsEveryKindWithFootprints) {
 TEST_F(LinuxDesktop, flatpakGoesFirstAndThenItsFolder) {
     scanWhole();
     uninstall("Orrery");
-    EXPECT_THAT(desktop.removals(),
-                ElementsAre("/usr/bin/flatpak uninstall --user -y --noninteractive org.sample.Orrery"));
+    EXPECT_THAT(desktop.removals(), ElementsAre("/usr/bin/flatpak uninstall --user -y --noninteractive --app "
+                                                "app/org.sample.Orrery/x86_64/stable"));
     EXPECT_THAT(machine.trash.trashed(), ElementsAre(orreryData));
     EXPECT_EQ(namesOf(apps().apps()), (AppNames{"Studio", "Chat", "Sonata", "Tidepool", "Maps"}));
     ASSERT_TRUE(apps().lastEnding());
@@ -351,7 +377,7 @@ TEST_F(LinuxDesktop, toolThatHalfWorkedTakesTheRowAndLeavesTheLeftovers) {
     const AppEntry orrery = app("Orrery");
     const auto leftovers = apps().leftoversFor(orrery);
     machine.processes.outcome = [&](const auto&) {
-        machine.files.erase(orrery.url);
+        machine.files.erase(desktop.flatpakFolder(true) + "/app/org.sample.Orrery");
         return ChildOutcome{std::nullopt, 1, "error: half\n"};
     };
     apps().uninstall(orrery, leftovers);
@@ -359,6 +385,20 @@ TEST_F(LinuxDesktop, toolThatHalfWorkedTakesTheRowAndLeavesTheLeftovers) {
     EXPECT_THAT(namesOf(apps().apps()), testing::Not(Contains("Orrery")));
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
     EXPECT_EQ(apps().lastEnding()->stayed, 1U);
+}
+
+TEST_F(LinuxDesktop, failedToolTakesNoRowBecauseOfAnUpdate) {
+    scanWhole();
+    for (const char* name : {"Orrery", "Chat"}) {
+        const AppEntry one = app(name);
+        machine.processes.outcome = [&](const auto&) {
+            machine.files.move(one.url, one.kind == AppKind::snap ? desktop.snapFile("chat", "43") : one.url + "-next");
+            return ChildOutcome{std::nullopt, 1, "error: busy\n"};
+        };
+        apps().uninstall(one, {});
+        runUntil([this] { return !apps().removing(); });
+        EXPECT_THAT(namesOf(apps().apps()), Contains(name));
+    }
 }
 
 TEST_F(LinuxDesktop, unpackedTakesItsEntryAlongAndComesBack) {
@@ -415,6 +455,18 @@ TEST_F(LinuxDesktop, preparationMeasuresAndAsks) {
     runUntil([&] { return got.has_value(); });
     EXPECT_THAT(got->leftovers, ElementsAre(AppsModel::Leftover{studioConfig, 1'000}));
     EXPECT_EQ(got->obstacle, (AppObstacle{AppObstacle::Reason::needed, {"plugins"}}));
+    EXPECT_EQ(got->size, app("Studio").size);
+}
+
+TEST_F(LinuxDesktop, preparationLooksAgainAtWhatIsTheUsers) {
+    scanWhole();
+    machine.files.addFile(home + "/Tidepool/thesis", {}, 5'000'000);
+    machine.files.addFolder(home + "/Tidepool/.git");
+    std::optional<AppsModel::Preparation> got;
+    apps().prepare(app("Tidepool"), [&](const AppsModel::Preparation& preparation) { got = preparation; });
+    runUntil([&] { return got.has_value(); });
+    EXPECT_EQ(got->obstacle.reason, AppObstacle::Reason::changed);
+    EXPECT_EQ(got->size, 65'000'000U);
 }
 
 TEST_F(LinuxDesktop, modelMayGoDuringARemoval) {

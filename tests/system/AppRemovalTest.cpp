@@ -37,8 +37,10 @@ protected:
 TEST_F(AppRemovalTest, flatpaksGoByFlatpakAndNeverWithTheirData) {
     EXPECT_EQ(remove("Orrery").outcome, Outcome::gone);
     EXPECT_EQ(remove("Maps").outcome, Outcome::gone);
-    EXPECT_THAT(removals(), ElementsAre("/usr/bin/flatpak uninstall --user -y --noninteractive org.sample.Orrery",
-                                        "/usr/bin/flatpak uninstall --system -y --noninteractive org.sample.Maps"));
+    EXPECT_THAT(removals(), ElementsAre("/usr/bin/flatpak uninstall --user -y --noninteractive --app "
+                                        "app/org.sample.Orrery/x86_64/stable",
+                                        "/usr/bin/flatpak uninstall --system -y --noninteractive --app "
+                                        "app/org.sample.Maps/x86_64/stable"));
     EXPECT_THAT(machine.trash.trashed(), IsEmpty());
     EXPECT_EQ(machine.processes.calls().back().streams, (ChildStreams{false, true, true}));
 }
@@ -145,6 +147,40 @@ TEST_F(AppRemovalTest, onlyAPackageIsAskedAboutAgain) {
     AppEntry studio = app("Studio");
     studio.obstacle = {AppObstacle::Reason::partOfSystem};
     EXPECT_EQ(obstacleNow(machine.platform(), studio).reason, AppObstacle::Reason::partOfSystem);
+}
+
+TEST_F(AppRemovalTest, whatIsTheUsersIsCheckedOnceMoreBeforeItGoes) {
+    const AppEntry tidepool = app("Tidepool");
+    const AppEntry sonata = app("Sonata");
+    machine.files.addFolder(desktop.home + "/Tidepool/.git");
+    machine.files.addFile(sonata.url, "a film by now");
+    for (const AppEntry& one : {tidepool, sonata}) {
+        EXPECT_EQ(obstacleNow(machine.platform(), one).reason, AppObstacle::Reason::changed) << one.name;
+        EXPECT_EQ(removeApplication(machine.platform(), one).outcome, Outcome::failed) << one.name;
+    }
+    EXPECT_THAT(machine.trash.trashed(), IsEmpty());
+}
+
+TEST_F(AppRemovalTest, whatIsTheUsersIsMeasuredAgain) {
+    const AppEntry tidepool = app("Tidepool");
+    const AppEntry sonata = app("Sonata");
+    machine.files.addFile(desktop.home + "/Tidepool/letters/.hidden", {}, 5'000'000);
+    desktop.addAppImage(sonata.url, 95'000'000);
+    EXPECT_EQ(sizeNow(machine.platform(), tidepool), 65'000'000U);
+    EXPECT_EQ(sizeNow(machine.platform(), sonata), 95'000'000U);
+    EXPECT_EQ(sizeNow(machine.platform(), app("Orrery")), 500'000'000U);
+    EXPECT_EQ(sizeNow(machine.platform(), app("Studio")), app("Studio").size);
+}
+
+TEST_F(AppRemovalTest, updateIsNoRemoval) {
+    for (const char* name : {"Orrery", "Chat"}) {
+        const AppEntry one = app(name);
+        machine.processes.outcome = [&](const auto&) {
+            machine.files.move(one.url, one.kind == AppKind::snap ? desktop.snapFile("chat", "43") : one.url + "-next");
+            return ChildOutcome();
+        };
+        EXPECT_EQ(removeApplication(machine.platform(), one).outcome, Outcome::stillThere) << name;
+    }
 }
 
 TEST_F(AppRemovalTest, leftoverGoesOnlyWhileItIsOne) {

@@ -127,6 +127,22 @@ TEST_F(ApplicationListTest, hiddenEntriesShareTheirProgramToo) {
     EXPECT_THAT(leftoversOf("Viewer"), IsEmpty());
 }
 
+TEST_F(ApplicationListTest, entriesThatNoPackageOwnsShareTheirNamesToo) {
+    desktop.addPackaged({"inkwell"}, "Inkwell", "org.sample.Inkwell");
+    desktop.addFlatpak("org.sample.Maps", "Maps", 10, false);
+    addFoldersCalled("inkwell");
+    addFoldersCalled("org.sample.Maps");
+    machine.locations.sharedData = {"/opt/share", "/usr/local/share", "/var/lib/flatpak/exports/share", "/usr/share"};
+    EXPECT_THAT(leftoversOf("Inkwell"), testing::SizeIs(3));
+    EXPECT_THAT(leftoversOf("Maps"), testing::SizeIs(1)) << "its own entry is nobody else's";
+    for (const std::string folder : {"/usr/local/share", "/opt/share"}) {
+        const std::string entry = folder + "/applications/built.desktop";
+        machine.files.addFile(entry, fakes::applicationEntry("Built", "/usr/local/bin/inkwell"));
+        EXPECT_THAT(leftoversOf("Inkwell"), IsEmpty()) << folder;
+        machine.files.erase(entry);
+    }
+}
+
 TEST_F(ApplicationListTest, twoOfOneNameAreTwoApplications) {
     desktop.addFlatpak("org.sample.Maps", "Maps", 10);
     desktop.addPackaged({"maps"}, "Maps", "maps");

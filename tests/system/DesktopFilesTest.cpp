@@ -89,6 +89,20 @@ TEST_F(DesktopFilesTest, mainOneIsShownAndOfTheName) {
     EXPECT_EQ(mainEntry({}, "a"), nullptr);
 }
 
+TEST_F(DesktopFilesTest, othersAreShownAndNamedOnce) {
+    for (const char* file : {"a", "b", "c", "d", "e"}) add(std::string(file) + ".desktop");
+    std::vector<DesktopFile> files = read();
+    const char* const names[] = {"Main", "Zoo", "Hidden", "Main", "Zoo"};
+    std::vector<const DesktopFile*> all;
+    for (std::size_t at = 0; at < files.size(); ++at) {
+        files[at].entry.name = names[at];
+        all.push_back(&files[at]);
+    }
+    files[2].entry.noDisplay = true;
+    EXPECT_THAT(otherNames(all, files[0]), ElementsAre("Zoo"));
+    EXPECT_THAT(otherNames({&files[0]}, files[0]), IsEmpty());
+}
+
 TEST(NameClaims, areSharedByTwoOwnersAndNotByOneTwice) {
     NameClaims claims;
     claims.claim("one", "a");

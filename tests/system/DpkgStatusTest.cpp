@@ -130,13 +130,15 @@ TEST(DpkgStatus, readsOwnersOfPaths) {
                              Pair("/usr/share/applications/with: colon.desktop", UnorderedElementsAre("vim"))));
 }
 
-TEST(DpkgStatus, readsWhatAptWouldRemove) {
-    EXPECT_THAT(parseAptRemovals("NOTE: This is only a simulation!\n      apt-get needs root privileges\n"
-                                 "The following packages will be REMOVED:\n  falkon plugins\n"
-                                 "Remv plugins [22.12-1]\nRemv falkon [22.12-1] [other ]\nRemv lib:i386 [1]\n"
-                                 "Inst new (1.0)\nConf new (1.0)\n"),
-                ElementsAre("plugins", "falkon", "lib"));
-    EXPECT_THAT(parseAptRemovals(""), IsEmpty());
+TEST(DpkgStatus, readsWhatAptWouldDo) {
+    const AptChanges changes = parseAptChanges(
+        "NOTE: This is only a simulation!\n      apt-get needs root privileges\n"
+        "The following packages will be REMOVED:\n  falkon plugins\n"
+        "Remv plugins [22.12-1]\nRemv falkon [22.12-1] [other ]\nRemv lib:i386 [1]\n"
+        "Purg settings [1]\nInst new:amd64 (1.0)\nConf new (1.0)\n");
+    EXPECT_THAT(changes.removed, ElementsAre("plugins", "falkon", "lib", "settings"));
+    EXPECT_THAT(changes.installed, ElementsAre("new"));
+    EXPECT_THAT(parseAptChanges("").removed, IsEmpty());
 }
 
 TEST(DpkgStatus, knowsNamesOfPackages) {

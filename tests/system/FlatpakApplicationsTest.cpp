@@ -99,6 +99,16 @@ TEST_F(FlatpakApplicationsTest, listsAnApplicationOnceByItsMainEntry) {
                               fakes::applicationEntry(other, "/usr/bin/flatpak run x", "X-Flatpak=" + orrery + "\n"));
     ASSERT_THAT(found(), SizeIs(1));
     EXPECT_EQ(found().at(0).name, "Orrery");
+    EXPECT_THAT(found().at(0).alongside, ElementsAre("aaa", "zzz"));
+}
+
+TEST_F(FlatpakApplicationsTest, isThereWhileAnyRevisionIs) {
+    desktop.addFlatpak(orrery, "Orrery", 1'000);
+    const AppEntry app = found().at(0);
+    machine.files.move(app.url, app.url + "-next");
+    EXPECT_TRUE(isFlatpakThere(machine.files, app)) << "an update";
+    machine.files.erase(desktop.flatpakFolder(true) + "/app/" + orrery + "/x86_64/stable");
+    EXPECT_FALSE(isFlatpakThere(machine.files, app)) << "folders that are empty by now";
 }
 
 TEST_F(FlatpakApplicationsTest, skipsWhatIsNoFlatpakOrIsGone) {
@@ -121,6 +131,24 @@ TEST(FlatpakNames, areReverseDomains) {
           std::string("a.b/c"), std::string("a.b;c"), std::string("a.b\n"), "a." + std::string(254, 'x')})
         EXPECT_FALSE(isFlatpakID(name)) << name;
     EXPECT_TRUE(isFlatpakID("a." + std::string(253, 'x')));
+}
+
+TEST(FlatpakNames, refsTellInstallationsApart) {
+    AppEntry app;
+    app.package = orrery;
+    const auto refOf = [&](const std::string& url) {
+        app.url = url;
+        return flatpakRef(app);
+    };
+    const std::string place = "/home/me/app/x/.local/share/flatpak/app/" + orrery;
+    EXPECT_EQ(refOf(place + "/x86_64/stable/abc"), "app/org.sample.Orrery/x86_64/stable");
+    EXPECT_EQ(refOf(place + "/aarch64/23.08-extra_1/abc"), "app/org.sample.Orrery/aarch64/23.08-extra_1");
+    for (const char* end : {"", "/", "/x86_64", "/x86_64/stable", "/x86_64/stable/", "/x86_64/stable/abc/files",
+                            "/-y/stable/abc", "/x86_64/--all/abc", "/x86_64/../abc", "/x86_64/a b/abc", "/x86_64//abc",
+                            "/x*/stable/abc", "2/x86_64/stable/abc"})
+        EXPECT_EQ(refOf(place + end), std::nullopt) << end;
+    app.package = "--all";
+    EXPECT_EQ(refOf("/app/--all/x86_64/stable/abc"), std::nullopt);
 }
 
 TEST(FlatpakNames, sizesAreOneNumber) {

@@ -193,10 +193,54 @@ TEST_F(OwnApplicationsTest, neverTakesAFolderOfSeveralPrograms) {
     EXPECT_THAT(unpacked(), IsEmpty());
 }
 
-TEST_F(OwnApplicationsTest, takesTheInnerOfTwoFolders) {
+TEST_F(OwnApplicationsTest, takesNeitherOfTwoNestedFolders) {
     unpack(home + "/Outer/outer", "outer");
     unpack(home + "/Outer/Inner/inner", "inner");
-    EXPECT_THAT(urlsOf(unpacked()), ElementsAre(home + "/Outer/Inner"));
+    EXPECT_THAT(unpacked(), IsEmpty());
+}
+
+TEST_F(OwnApplicationsTest, takesAFolderBelowOneForMany) {
+    unpack(home + "/run", "home");
+    unpack(home + "/Tools/run", "tools");
+    unpack(home + "/Tools/Editor/editor", "editor");
+    unpack(home + "/Downloads/run", "downloads");
+    unpack(home + "/Downloads/Player/player", "player");
+    EXPECT_THAT(urlsOf(unpacked()), UnorderedElementsAre(home + "/Tools/Editor", home + "/Downloads/Player"));
+}
+
+TEST_F(OwnApplicationsTest, documentBehindALauncherIsNoProgram) {
+    machine.files.addFile(home + "/Thesis/thesis.pdf", {}, 1'000);
+    for (const char* launcher : {"xdg-open", "kioclient exec", "gtk-launch viewer", "sudo", "steam", "java -cp",
+                                 "python3 -m", "flatpak run org.sample.Viewer", "electron"}) {
+        desktop.addOwnEntry("thesis", "Thesis", std::string(launcher) + " " + home + "/Thesis/thesis.pdf");
+        EXPECT_THAT(unpacked(), IsEmpty()) << launcher;
+    }
+    machine.files.addFolder(home + "/Server/source");
+    desktop.addOwnEntry("server", "Server", "node " + home + "/Server/source");
+    EXPECT_THAT(unpacked(), IsEmpty()) << "a folder is no program";
+}
+
+TEST_F(OwnApplicationsTest, neverTakesAFolderWithSomethingThatAnotherEntryOpens) {
+    unpack(home + "/Editor/editor", "editor");
+    ASSERT_THAT(unpacked(), SizeIs(1));
+    machine.files.addFile(home + "/Editor/letters/letter.txt");
+    desktop.addOwnEntry("letter", "Letter", "xdg-open " + home + "/Editor/letters/letter.txt");
+    EXPECT_THAT(unpacked(), IsEmpty());
+}
+
+TEST_F(OwnApplicationsTest, neverTakesAFolderThatIsKeptElsewhere) {
+    for (const char* name : {"Dropbox", "Nextcloud", "ownCloud", "OneDrive", "Google Drive", "MEGA", "Sync",
+                             "Syncthing", "Backup", "Backups", "VMs", "VirtualBox VMs", "Dropbox (Work)"}) {
+        const std::string folder = home + "/" + name;
+        machine.files.addFile(folder + "/deep/Editor/editor", "program");
+        desktop.addOwnEntry("editor", "Editor", "\"" + folder + "/deep/Editor/editor\"");
+        EXPECT_THAT(unpacked(), IsEmpty()) << name;
+        machine.files.addFile(folder + "/editor", "program");
+        desktop.addOwnEntry("editor", "Editor", "\"" + folder + "/editor\"");
+        EXPECT_THAT(unpacked(), IsEmpty()) << name;
+    }
+    unpack(home + "/Editors/Sync/editor", "editor");
+    EXPECT_THAT(unpacked(), SizeIs(1)) << "only directly in the home";
 }
 
 TEST_F(OwnApplicationsTest, neverTakesAFolderWithAnAppImage) {
@@ -214,6 +258,40 @@ TEST_F(OwnApplicationsTest, neverTakesAProjectUnderVersionControl) {
         EXPECT_THAT(unpacked(), IsEmpty()) << sign;
         machine.files.erase(home + "/Editor/" + sign);
     }
+}
+
+TEST_F(OwnApplicationsTest, neverTakesAPartOfAProjectUnderVersionControl) {
+    unpack(home + "/Project/build/Editor/editor", "editor");
+    machine.files.addFolder(home + "/.git");
+    ASSERT_THAT(unpacked(), SizeIs(1)) << "settings of the home are no project";
+    for (const char* sign : {"/Project/.git", "/Project/build/.hg"}) {
+        machine.files.addFolder(home + sign);
+        EXPECT_THAT(unpacked(), IsEmpty()) << sign;
+        machine.files.erase(home + sign);
+    }
+}
+
+TEST_F(OwnApplicationsTest, areLookedAtAgainBeforeTheyGo) {
+    unpack(home + "/Editor/editor", "editor");
+    desktop.addAppImage(home + "/Applications/A.AppImage", 1'000);
+    const AppEntry editor = unpacked().at(0);
+    const AppEntry image = appImages().at(0);
+    const auto now = [this](const AppEntry& app) { return obstacleOfOwn(machine.platform(), app).reason; };
+    EXPECT_EQ(now(editor), AppObstacle::Reason::none);
+    EXPECT_EQ(now(image), AppObstacle::Reason::none);
+    EXPECT_THAT(machine.files.pathsOf("fullSizeBelow"), ElementsAre(home + "/Editor")) << "when it was listed";
+
+    machine.files.addFolder(home + "/Editor/.git");
+    EXPECT_EQ(now(editor), AppObstacle::Reason::changed);
+    machine.files.erase(home + "/Editor/.git");
+    machine.files.giveAway(home + "/Editor");
+    EXPECT_EQ(now(editor), AppObstacle::Reason::notOwn);
+    machine.files.giveAway(image.url);
+    EXPECT_EQ(now(image), AppObstacle::Reason::notOwn);
+    machine.files.addFile(image.url, "a film by now");
+    EXPECT_EQ(now(image), AppObstacle::Reason::changed);
+    machine.files.erase(image.url);
+    EXPECT_EQ(now(image), AppObstacle::Reason::changed);
 }
 
 TEST_F(OwnApplicationsTest, skipsProgramsElsewhereAndEntriesThatStartNothing) {

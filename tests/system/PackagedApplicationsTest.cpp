@@ -30,6 +30,7 @@ protected:
 
 TEST_F(PackagedApplicationsTest, findsPackageByItsEntry) {
     desktop.packages = {{"falkon", 3'000}};
+    desktop.owners["/usr/bin/falkon-bin"] = "falkon";
     desktop.addEntry("falkon", "Falkon", "org.kde.falkon", "/usr/bin/falkon-bin", "Icon=falkon\n");
     AppEntry falkon;
     falkon.url = "/usr/share/applications/org.kde.falkon.desktop";
@@ -51,7 +52,11 @@ TEST_F(PackagedApplicationsTest, asksForAllPackagesAtOnce) {
         machine.processes.calls(),
         ElementsAre(
             fakes::FakeProcesses::Call{"/usr/bin/dpkg-query", {"-S", "/usr/share/applications/*.desktop"}, asked},
-            fakes::FakeProcesses::Call{"/usr/bin/dpkg-query", {"-W", std::string("-f=") + dpkgFormat}, asked}));
+            fakes::FakeProcesses::Call{"/usr/bin/dpkg-query", {"-W", std::string("-f=") + dpkgFormat}, asked},
+            fakes::FakeProcesses::Call{
+                "/usr/bin/dpkg-query",
+                {"-S", "/usr/bin/aa", "/bin/aa", "/usr/bin/bb", "/bin/bb", "/usr/bin/cc", "/bin/cc"},
+                asked}));
 }
 
 TEST_F(PackagedApplicationsTest, listsAPackageOnceByItsMainEntry) {
@@ -61,8 +66,40 @@ TEST_F(PackagedApplicationsTest, listsAPackageOnceByItsMainEntry) {
     desktop.addEntry("suite", "Hidden", "aaa", "/usr/bin/suite --x", "NoDisplay=true\n");
     ASSERT_THAT(found(), SizeIs(1));
     EXPECT_EQ(found().at(0).name, "Suite");
+    EXPECT_THAT(found().at(0).alongside, ElementsAre("Calculator"));
     machine.files.erase(desktop.entryOf("suite"));
     EXPECT_EQ(found().at(0).name, "Calculator");
+}
+
+TEST_F(PackagedApplicationsTest, programOfAnotherPackageIsNoName) {
+    desktop.packages = {{"page"}, {"monitor"}, {"browser"}};
+    for (const char* program : {"browser", "konsole"}) {
+        machine.files.addFile(std::string("/usr/bin/") + program);
+        desktop.owners[std::string("/usr/bin/") + program] = "browser";
+    }
+    desktop.addEntry("page", "Page", "page", "browser --app=https://example.org");
+    desktop.addEntry("monitor", "Monitor", "monitor", "/usr/bin/konsole -e top");
+    desktop.addEntry("browser", "Browser", "browser", "browser");
+    for (const AppEntry& app : found()) EXPECT_EQ(app.program, app.name == "Browser" ? "browser" : "") << app.name;
+    desktop.owners.erase("/usr/bin/browser");
+    for (const AppEntry& app : found()) EXPECT_EQ(app.program, "") << app.name << ", of no package";
+}
+
+TEST_F(PackagedApplicationsTest, findsProgramByEitherSpellingOfItsFolder) {
+    desktop.packages = {{"one"}, {"two"}};
+    desktop.addEntry("one", "One", "one", "/usr/bin/one");
+    desktop.owners["/bin/one"] = "one";
+    desktop.addEntry("two", "Two", "two", "/sbin/two");
+    desktop.owners["/usr/sbin/two"] = "two";
+    for (const AppEntry& app : found()) EXPECT_EQ(app.program, app.package);
+}
+
+TEST_F(PackagedApplicationsTest, asksForNoProgramThatWouldBeAPattern) {
+    desktop.packages = {{"odd"}};
+    desktop.addEntry("odd", "Odd", "odd", "\"/usr/bin/o*\"");
+    desktop.owners["/usr/bin/o*"] = "odd";
+    EXPECT_EQ(found().at(0).program, "");
+    EXPECT_THAT(machine.processes.calls(), SizeIs(2));
 }
 
 TEST_F(PackagedApplicationsTest, skipsPackagesThatNoMenuShows) {
@@ -135,18 +172,30 @@ TEST_F(PackagedApplicationsTest, readsEntriesInFolders) {
 TEST_F(PackagedApplicationsTest, aptSaysWhatWouldGoAlong) {
     ChildProcess& processes = machine.processes;
     EXPECT_EQ(obstacleOfRemoving(processes, "inkwell"), AppObstacle());
-    EXPECT_EQ(
-        machine.processes.calls().at(0),
-        (fakes::FakeProcesses::Call{"/usr/bin/apt-get", {"-s", "remove", "--", "inkwell"}, {false, false, true}}));
+    EXPECT_EQ(machine.processes.calls().at(0),
+              (fakes::FakeProcesses::Call{
+                  "/usr/bin/apt-get",
+                  {"-s", "--no-auto-remove", "-o", "APT::Get::Purge=false", "remove", "--", "inkwell"},
+                  {false, false, true}}));
     desktop.alongside = {"plugins", "desktop"};
     EXPECT_EQ(obstacleOfRemoving(processes, "inkwell"),
               (AppObstacle{AppObstacle::Reason::needed, {"plugins", "desktop"}}));
 }
 
+TEST_F(PackagedApplicationsTest, aptThatPurgesRemovesToo) {
+    machine.processes.outcome = [](const auto&) {
+        return ChildOutcome{std::nullopt, 0, "Purg inkwell [1]\nPurg plugins [1]\n"};
+    };
+    EXPECT_EQ(obstacleOfRemoving(machine.processes, "inkwell"),
+              (AppObstacle{AppObstacle::Reason::needed, {"plugins"}}));
+}
+
 TEST_F(PackagedApplicationsTest, whatAptDoesNotSayIsNoConsent) {
     for (const ChildOutcome& outcome :
          {ChildOutcome{std::nullopt, 100, "Remv inkwell [1]\n"}, ChildOutcome{std::nullopt, 0, ""},
-          ChildOutcome{std::nullopt, 0, "Remv other [1]\n"}, ChildOutcome{"missing", 0, "Remv inkwell [1]\n"}}) {
+          ChildOutcome{std::nullopt, 0, "Remv other [1]\n"},
+          ChildOutcome{std::nullopt, 0, "Remv inkwell [1]\nInst inkwell-lite (1)\n"},
+          ChildOutcome{"missing", 0, "Remv inkwell [1]\n"}}) {
         machine.processes.outcome = [&](const auto&) { return outcome; };
         EXPECT_EQ(obstacleOfRemoving(machine.processes, "inkwell").reason, AppObstacle::Reason::unknown);
     }

@@ -66,6 +66,16 @@ TEST_F(SnapApplicationsTest, listsASnapOnceByItsMainEntry) {
                           fakes::applicationEntry("Another", "/snap/bin/chat.a"));
     ASSERT_THAT(found(), SizeIs(1));
     EXPECT_EQ(found().at(0).name, "Chat");
+    EXPECT_THAT(found().at(0).alongside, ElementsAre("Another"));
+}
+
+TEST_F(SnapApplicationsTest, isThereInAnyRevision) {
+    desktop.addSnap("chat", "Chat", "42", 300);
+    EXPECT_TRUE(isSnapThere(machine.files, "chat"));
+    machine.files.move(desktop.snapFile("chat", "42"), desktop.snapFile("chat", "x43"));
+    EXPECT_TRUE(isSnapThere(machine.files, "chat"));
+    machine.files.move(desktop.snapFile("chat", "x43"), desktop.snapFile("chat_work", "43"));
+    EXPECT_FALSE(isSnapThere(machine.files, "chat")) << "another instance is another snap";
 }
 
 TEST_F(SnapApplicationsTest, staysWithoutItsTool) {

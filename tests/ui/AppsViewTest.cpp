@@ -293,7 +293,8 @@ TEST_F(LinuxAppsWindow, sheetOfAPackageSaysWhoRemovesWhat) {
     expectTexts({"Uninstall Studio",
                  "Removes the package for all users, for good, once an administrator agrees, and moves 1 leftover "
                  "item(s) to Trash — 922.6 MB.",
-                 "studio", "removed by an administrator", "to the Trash", "1 MB", "Remove 922.6 MB"});
+                 "studio", "removed by an administrator", "~/.config/studio · to the Trash", "1 MB",
+                 "Remove 922.6 MB"});
     press(Qt::Key_Return);
     EXPECT_TRUE(screen().sheet()->isOpen()) << "a stray Return removes nothing for good";
 }
@@ -302,7 +303,35 @@ TEST_F(LinuxAppsWindow, sheetOfAFlatpakSaysSo) {
     openScanned();
     ask(1);
     expectTexts({"Removes the app through flatpak, for good, and moves 1 leftover item(s) to Trash — 502 MB.",
-                 "org.sample.Orrery", "removed by flatpak", "to the Trash"});
+                 "org.sample.Orrery", "removed by flatpak", "~/.var/app/org.sample.Orrery · to the Trash"});
+    press(Qt::Key_Escape);
+    ask(5);
+    expectTexts(
+        {"Removes the app through flatpak for all users, for good, and moves 0 leftover item(s) to Trash — "
+         "20 MB."});
+}
+
+TEST_F(LinuxAppsWindow, sheetNamesTheOtherApplicationsThatGo) {
+    desktop.addEntry("studio", "Studio Player", "org.sample.StudioPlayer", "/usr/bin/studio --play");
+    desktop.addEntry("studio", "Studio Helper", "org.sample.StudioHelper", "/usr/bin/studio --help",
+                     "NoDisplay=true\n");
+    openScanned();
+    ask(0);
+    expectTexts({"studio", "Studio Player"});
+    EXPECT_THAT(seenTexts(), Not(Contains("Studio Helper")));
+    EXPECT_EQ(std::ranges::count(seenTexts(), std::string("removed by an administrator")), 2);
+}
+
+TEST_F(LinuxAppsWindow, sheetLooksAgainAtWhatIsTheUsers) {
+    openScanned();
+    machine.files.addFile(home + "/Tidepool/thesis", {}, 5'000'000);
+    ask(4);
+    expectTexts({"Moves the app and 1 leftover item(s) to Trash — 65 MB.", "Move 65 MB to Trash"});
+    press(Qt::Key_Escape);
+    machine.files.addFolder(home + "/Tidepool/.git");
+    ask(4);
+    expectTexts({"Stays: it has changed since it was listed."});
+    EXPECT_FALSE(find("confirmUninstall")->isEnabled());
 }
 
 TEST_F(LinuxAppsWindow, sheetWithoutLeftoversSaysNothingOfTheTrash) {
@@ -319,20 +348,20 @@ TEST_F(LinuxAppsWindow, sheetOfASnapSaysWhatSnapDoes) {
     openScanned();
     ask(2);
     expectTexts(
-        {"Removes the app through snap, for good — 303 MB. Snap removes the folder of the app too, and keeps a "
-         "copy of what it stored for 31 days.",
-         "chat_42.snap", "removed by snap", "chat", "3 MB"});
-    EXPECT_THAT(seenTexts(), Not(Contains("to the Trash")));
+        {"Removes the app through snap for all users, for good — 303 MB. Snap removes the folder of the app too, and "
+         "may keep a copy of its data for a while.",
+         "chat_42.snap", "removed by snap", "chat", "3 MB", "~/snap/chat · removed by snap"});
 }
 
 TEST_F(LinuxAppsWindow, sheetOfWhatIsTheUsersHasTheToldSentence) {
     openScanned();
     ask(3);
-    expectTexts({"Moves the app and 0 leftover item(s) to Trash — 90 MB.", "Sonata.AppImage", "Move 90 MB to Trash"});
+    expectTexts({"Moves the app and 0 leftover item(s) to Trash — 90 MB.", "Sonata.AppImage",
+                 "~/Applications/Sonata.AppImage", "Move 90 MB to Trash"});
     press(Qt::Key_Escape);
     ask(4);
-    expectTexts({"Moves the app and 1 leftover item(s) to Trash — 60 MB.", "org.sample.Tidepool.desktop"});
-    EXPECT_THAT(seenTexts(), Not(Contains("to the Trash")));
+    expectTexts({"Moves the app and 1 leftover item(s) to Trash — 60 MB.", "~/Tidepool", "org.sample.Tidepool.desktop",
+                 "~/.local/share/applications/org.sample.Tidepool.desktop"});
 }
 
 TEST_F(LinuxAppsWindow, sheetOfAPackageThatTakesAnotherAlongRemovesNothing) {

@@ -93,7 +93,9 @@ private:
     }
     std::string owners() const {
         std::string text;
-        for (const Package& one : packages_) text += one.package + ": " + entries_ + one.id + ".desktop\n";
+        for (const Package& one : packages_)
+            text += one.package + ": " + entries_ + one.id + ".desktop\n" + one.package + ": /usr/bin/" + one.package +
+                    "\n";
         return text;
     }
     std::string packages() const {

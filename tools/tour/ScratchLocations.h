@@ -36,6 +36,7 @@ public:
                 {system.toStdString(), BackgroundItemKind::autostartEntries, false}};
     }
     std::vector<std::string> programFolders() override { return real_.programFolders(); }
+    std::vector<std::string> sharedDataFolders() override { return real_.sharedDataFolders(); }
     std::vector<std::string> entryLocales() override { return {}; }
 
 private:

@@ -16,6 +16,7 @@ public:
     TrashPlaces trashPlaces() override { return {}; }
     std::vector<BackgroundItemFolder> backgroundItemFolders() override;
     std::vector<std::string> programFolders() override { return {}; }
+    std::vector<std::string> sharedDataFolders() override { return {}; }
     std::vector<std::string> entryLocales() override { return {}; }
 
 private:

@@ -10,6 +10,7 @@
 #include "system/CommandText.h"
 #include "system/PrivilegedCommands.h"
 #include "system/apps/FlatpakApplications.h"
+#include "system/apps/OwnApplications.h"
 #include "system/apps/PackagedApplications.h"
 #include "system/apps/SnapApplications.h"
 
@@ -37,6 +38,15 @@ AppRemoval byTool(const Platform& platform, const char* tool, const std::vector<
     if (outcome.launchFailure) return {Outcome::notStarted, *outcome.launchFailure};
     if (outcome.exitStatus != 0) return {Outcome::failed, lastLine(outcome.output)};
     return {};
+}
+
+/// By its full name: one part of it alone is a pattern, which may fit a runtime or another branch too.
+AppRemoval byFlatpak(const Platform& platform, const AppEntry& app) {
+    const std::optional<std::string> ref = flatpakRef(app);
+    if (!ref) return {Outcome::failed};
+    return byTool(platform, flatpakTool,
+                  {"uninstall", app.kind == AppKind::userFlatpak ? "--user" : "--system", "-y", "--noninteractive",
+                   "--app", *ref});
 }
 
 AppRemoval byAdministrator(const Platform& platform, const std::string& package) {
@@ -68,10 +78,7 @@ AppRemoval byKind(const Platform& platform, const AppEntry& app) {
             return toTrash(platform, platform.locations.home(), app.url);
         case AppKind::userFlatpak:
         case AppKind::systemFlatpak:
-            if (!isFlatpakID(app.package)) return {Outcome::failed};
-            return byTool(platform, flatpakTool,
-                          {"uninstall", app.kind == AppKind::userFlatpak ? "--user" : "--system", "-y",
-                           "--noninteractive", app.package});
+            return byFlatpak(platform, app);
         case AppKind::snap:
             if (!isSnapName(app.package)) return {Outcome::failed};
             return byTool(platform, snapTool, {"remove", app.package});
@@ -81,14 +88,37 @@ AppRemoval byKind(const Platform& platform, const AppEntry& app) {
     return {Outcome::failed};
 }
 
+/// Whether it is a file or folder of the user's own on Linux.
+bool isOwn(AppKind kind) {
+    return kind == AppKind::appImage || kind == AppKind::unpacked;
+}
+
 }  // namespace
 
 AppRemoval removeApplication(const Platform& platform, const AppEntry& app) {
     if (app.obstacle.reason != AppObstacle::Reason::none) return {Outcome::failed};
+    // A package was asked about when its sheet opened, and dpkg itself refuses to break another one.
+    if (isOwn(app.kind) && obstacleOfOwn(platform, app).reason != AppObstacle::Reason::none) return {Outcome::failed};
     AppRemoval removal = byKind(platform, app);
-    if (removal.outcome == Outcome::gone && app.kind != AppKind::bundle && platform.files.exists(app.url))
+    if (removal.outcome == Outcome::gone && app.kind != AppKind::bundle && isInstalled(platform, app))
         return {Outcome::stillThere};
     return removal;
+}
+
+bool isInstalled(const Platform& platform, const AppEntry& app) {
+    switch (app.kind) {
+        case AppKind::userFlatpak:
+        case AppKind::systemFlatpak:
+            return isFlatpakThere(platform.files, app);
+        case AppKind::snap:
+            return isSnapThere(platform.files, app.package);
+        case AppKind::bundle:
+        case AppKind::appImage:
+        case AppKind::unpacked:
+        case AppKind::package:
+            break;
+    }
+    return platform.files.exists(app.url);
 }
 
 TrashResult trashLeftover(const Platform& platform, const std::string& path) {
@@ -100,8 +130,16 @@ TrashResult trashLeftover(const Platform& platform, const std::string& path) {
 }
 
 AppObstacle obstacleNow(const Platform& platform, const AppEntry& app) {
-    if (app.obstacle.reason != AppObstacle::Reason::none || app.kind != AppKind::package) return app.obstacle;
-    return obstacleOfRemoving(platform.processes, app.package);
+    if (app.obstacle.reason != AppObstacle::Reason::none) return app.obstacle;
+    if (isOwn(app.kind)) return obstacleOfOwn(platform, app);
+    return app.kind == AppKind::package ? obstacleOfRemoving(platform.processes, app.package) : AppObstacle();
+}
+
+std::uint64_t sizeNow(const Platform& platform, const AppEntry& app) {
+    const std::optional<FileProperties> properties =
+        isOwn(app.kind) ? platform.files.properties(app.url) : std::nullopt;
+    if (!properties) return app.size;
+    return properties->isDirectory ? platform.files.fullSizeBelow(app.url) : properties->allocatedSize;
 }
 
 }  // namespace zelk

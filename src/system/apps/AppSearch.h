@@ -3,6 +3,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -39,12 +40,14 @@ struct AppSearch {
 struct AppFindings {
     std::vector<AppEntry> apps;
     NameClaims claims;
+    std::set<std::string> attributed;  ///< the paths of the desktop entries whose application is known
 
     /// Notes that these entries start the application at `url`.
     void claim(const std::vector<const DesktopFile*>& entries, const std::string& url) {
         for (const DesktopFile* one : entries) {
             claims.claim(one->id, url);
             claims.claim(one->programName(), url);
+            attributed.insert(one->path);
         }
     }
 };

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <set>
 #include <string_view>
 #include <utility>
 
@@ -23,6 +22,12 @@ constexpr std::size_t largestDescription = std::size_t{1} << 20;
 
 void sortLargestFirst(std::vector<AppEntry>& apps) {
     std::stable_sort(apps.begin(), apps.end(), [](const AppEntry& a, const AppEntry& b) { return a.size > b.size; });
+}
+
+/// An entry that starts none of those found starts something else, or one of them under another name.
+void claimOthers(const std::vector<DesktopFile>& entries, AppFindings& findings) {
+    for (const DesktopFile& one : entries)
+        if (!findings.attributed.contains(one.path)) findings.claim({&one}, one.path);
 }
 
 }  // namespace
@@ -60,11 +65,9 @@ std::vector<AppEntry> listApplications(const Platform& platform) {
     findUnpacked(search, findings);
     findPackages(search, findings);
 
-    // An entry of the user's that starts none of these starts something else, or one of them under another name.
-    std::set<std::string> taken;
-    for (const AppEntry& app : findings.apps) taken.insert(app.entries.begin(), app.entries.end());
-    for (const DesktopFile& one : search.own)
-        if (!taken.contains(one.path)) findings.claim({&one}, one.path);
+    claimOthers(search.own, findings);
+    for (const std::string& folder : platform.locations.sharedDataFolders())
+        claimOthers(readDesktopFiles(platform.files, pathIn(folder, "applications"), search.locales), findings);
 
     for (AppEntry& app : findings.apps) {
         app.sharesID = app.bundleID && findings.claims.isShared(*app.bundleID);

@@ -83,6 +83,16 @@ const DesktopFile* mainEntry(const std::vector<const DesktopFile*>& entries, std
     return best;
 }
 
+std::vector<std::string> otherNames(const std::vector<const DesktopFile*>& entries, const DesktopFile& main) {
+    std::vector<std::string> names;
+    for (const DesktopFile* one : entries) {
+        const std::string& name = one->entry.name;
+        if (!one->isShown() || name == main.entry.name) continue;
+        if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+    }
+    return names;
+}
+
 void NameClaims::claim(const std::string& name, const std::string& owner) {
     if (!name.empty()) owners_[name].insert(owner);
 }

@@ -35,6 +35,9 @@ std::vector<DesktopFile> readDesktopFiles(FileManager& files, const std::string&
 /// that is shown and starts a program of that name, else the first that is shown; nullptr if none is.
 const DesktopFile* mainEntry(const std::vector<const DesktopFile*>& entries, std::string_view id);
 
+/// What else the menus show of an application, beside the entry that stands for it: each name once, in order.
+std::vector<std::string> otherNames(const std::vector<const DesktopFile*>& entries, const DesktopFile& main);
+
 /// Which applications go by a name. What two of them go by tells neither of them.
 class NameClaims {
 public:

@@ -129,15 +129,17 @@ std::map<std::string, std::set<std::string>> parseDpkgOwners(std::string_view ou
     return owners;
 }
 
-std::vector<std::string> parseAptRemovals(std::string_view output) {
-    std::vector<std::string> names;
+AptChanges parseAptChanges(std::string_view output) {
+    AptChanges changes;
     while (!output.empty()) {
         std::string_view line = takeLine(output);
-        if (takeWord(line) != "Remv") continue;
+        const std::string_view verb = takeWord(line);
+        const bool removes = verb == "Remv" || verb == "Purg";
+        if (!removes && verb != "Inst") continue;
         const std::string_view word = takeWord(line);
-        names.emplace_back(word.substr(0, word.find(':')));
+        (removes ? changes.removed : changes.installed).emplace_back(word.substr(0, word.find(':')));
     }
-    return names;
+    return changes;
 }
 
 bool isPackageName(std::string_view word) {

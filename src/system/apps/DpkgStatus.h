@@ -39,8 +39,14 @@ std::vector<std::string> packagesThatNeed(const std::map<std::string, DpkgPackag
 /// The owners of each path that `dpkg-query -S` prints, without their architectures. Skips lines of any other form.
 std::map<std::string, std::set<std::string>> parseDpkgOwners(std::string_view output);
 
-/// The packages that `apt-get -s remove` would remove, in its order.
-std::vector<std::string> parseAptRemovals(std::string_view output);
+/// Packages, in the order in which apt-get would deal with them.
+struct AptChanges {
+    std::vector<std::string> removed;  ///< with or without their settings
+    std::vector<std::string> installed;
+};
+
+/// What `apt-get -s remove` would do.
+AptChanges parseAptChanges(std::string_view output);
 
 /// Whether the word is the name of a package, and so no pattern and no option.
 bool isPackageName(std::string_view word);

@@ -2,6 +2,8 @@
 #include "system/apps/FlatpakApplications.h"
 
 #include <algorithm>
+#include <cctype>
+#include <cstddef>
 #include <map>
 #include <string>
 #include <utility>
@@ -89,7 +91,9 @@ void findFlatpaksIn(const AppSearch& search, const std::string& folder, bool isU
         findings.claims.claim(id, owner);
         const DesktopFile* const entry = mainEntry(itsEntries, id);
         std::optional<AppEntry> app = entry != nullptr ? reader.read(id, *entry) : std::nullopt;
-        if (app) findings.apps.push_back(std::move(*app));
+        if (!app) continue;
+        app->alongside = otherNames(itsEntries, *entry);
+        findings.apps.push_back(std::move(*app));
     }
 }
 
@@ -102,6 +106,30 @@ bool isFlatpakID(std::string_view word) {
     };
     return word.size() <= 255 && word.find('.') != std::string_view::npos && word.front() != '-' &&
            word.front() != '.' && std::all_of(word.begin(), word.end(), isPart);
+}
+
+std::optional<std::string> flatpakRef(const AppEntry& app) {
+    const auto isOf = [](std::string_view word, std::string_view more) {
+        return !word.empty() && word.front() != '-' && word.front() != '.' &&
+               std::all_of(word.begin(), word.end(), [&](char c) {
+                   return std::isalnum(static_cast<unsigned char>(c)) != 0 || more.find(c) != std::string_view::npos;
+               });
+    };
+    const std::string start = "/app/" + app.package + "/";
+    const std::size_t at = app.url.rfind(start);
+    if (at == std::string::npos || !isFlatpakID(app.package)) return std::nullopt;
+    std::string_view left = std::string_view(app.url).substr(at + start.size());
+    const std::string_view architecture = takeUntil(left, '/');
+    const std::string_view branch = takeUntil(left, '/');
+    const bool isDeployment = !left.empty() && left.find('/') == std::string_view::npos;
+    if (!isDeployment || !isOf(architecture, "_") || !isOf(branch, "_-.")) return std::nullopt;
+    return "app/" + app.package + "/" + std::string(architecture) + "/" + std::string(branch);
+}
+
+bool isFlatpakThere(FileManager& files, const AppEntry& app) {
+    const std::string place = "/app/" + app.package;
+    const std::size_t at = app.url.rfind(place + "/");
+    return at != std::string::npos && deploymentsOf(files, app.url.substr(0, at + place.size())) > 0;
 }
 
 std::optional<std::uint64_t> parseFlatpakSize(std::string_view output) {

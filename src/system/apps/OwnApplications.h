@@ -16,8 +16,13 @@ bool isAppImage(std::string_view start);
 void findAppImages(const AppSearch& search, AppFindings& findings);
 
 /// Adds the folders in the home that an application was unpacked into: a desktop entry of the user's starts a program
-/// in it, and nothing else starts another one there. Not what lies in a hidden folder, in the home itself or in a
-/// folder for other things, nor a project under version control. After findAppImages(). Blocking.
+/// in it, and no other entry names anything there. Not what lies in a hidden folder, in the home itself, in a folder
+/// for other things or in one that is kept the same elsewhere, nor a project under version control or a part of one; of
+/// two nested folders neither. After findAppImages(). Blocking.
 void findUnpacked(const AppSearch& search, AppFindings& findings);
+
+/// What stands against removing an AppImage or an unpacked application now: it is looked for again by the same rules,
+/// since the list may be hours old. Blocking.
+AppObstacle obstacleOfOwn(const Platform& platform, const AppEntry& app);
 
 }  // namespace zelk

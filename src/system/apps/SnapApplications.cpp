@@ -57,6 +57,10 @@ bool isSnapName(std::string_view word) {
     return !word.empty() && word.front() != '-' && std::all_of(word.begin(), word.end(), isPart);
 }
 
+bool isSnapThere(FileManager& files, const std::string& name) {
+    return newestFile(files, name).has_value();
+}
+
 void findSnaps(const AppSearch& search, AppFindings& findings) {
     FileManager& files = search.platform.files;
     const std::vector<DesktopFile> entries = readDesktopFiles(files, snapEntries, search.locales);
@@ -79,6 +83,7 @@ void findSnaps(const AppSearch& search, AppFindings& findings) {
         app.bundleID = name;
         app.kind = AppKind::snap;
         app.package = name;
+        app.alongside = otherNames(itsEntries, *entry);
         app.icon = entry->entry.icon;
         if (!files.exists(snapTool)) app.obstacle = {AppObstacle::Reason::noTool, {"snap"}};
         findings.apps.push_back(std::move(app));

@@ -22,11 +22,29 @@ constexpr std::array collections{"appimages", "applications", "apps",    "bin", 
                                  "local",     "opt",          "program", "programs", "projects", "repos", "scripts",
                                  "snap",      "software",     "src",     "tools",    "work"};
 
-bool isCollection(std::string_view name) {
+/// Folders directly in the home that are kept the same elsewhere, so that a removal would reach further than the Trash,
+/// or that hold copies and machines. Other words may follow, as in "Dropbox (Work)".
+constexpr std::array keptElsewhere{"backup",   "backups",  "dropbox", "google drive", "mega",           "nextcloud",
+                                   "onedrive", "owncloud", "sync",    "syncthing",    "virtualbox vms", "vms"};
+
+constexpr std::array signsOfVersionControl{".git", ".hg", ".svn"};
+
+std::string inLowerCase(std::string_view name) {
     std::string lower(name);
     std::transform(lower.begin(), lower.end(), lower.begin(),
                    [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
-    return std::find(collections.begin(), collections.end(), lower) != collections.end();
+    return lower;
+}
+
+bool isCollection(std::string_view name) {
+    return std::find(collections.begin(), collections.end(), inLowerCase(name)) != collections.end();
+}
+
+bool isKeptElsewhere(std::string_view name) {
+    const std::string lower = inLowerCase(name);
+    return std::any_of(keptElsewhere.begin(), keptElsewhere.end(), [&](std::string_view one) {
+        return lower.starts_with(one) && (lower.size() == one.size() || lower[one.size()] == ' ');
+    });
 }
 
 std::string parentOf(const std::string& path) {
@@ -38,10 +56,8 @@ std::string parentOf(const std::string& path) {
 std::string startedFile(const DesktopFile& file) {
     const std::vector<std::string> words = withoutEnv(file.entry.command);
     if (words.empty()) return {};
-    auto named = words.begin();
-    if (isSharedLauncher(*named))
-        named = std::find_if(words.begin() + 1, words.end(), [](const std::string& word) { return word[0] != '-'; });
-    return named != words.end() && named->starts_with('/') ? *named : std::string();
+    const std::string named = isSharedLauncher(words.front()) ? interpretedFile(words) : words.front();
+    return named.starts_with('/') ? named : std::string();
 }
 
 /// What starts something in a folder.
@@ -63,25 +79,54 @@ public:
     }
 
     void find() {
+        for (const auto& [folder, starters] : offered()) add(folder, starters);
+    }
+
+    /// What is found at this place, if it still is an application; not measured.
+    std::optional<AppEntry> findAt(const std::string& url) const {
+        const std::map<std::string, Starters> all = offered();
+        const auto found = all.find(url);
+        return found != all.end() ? entryOf(url, found->second) : std::nullopt;
+    }
+
+private:
+    /// The folders that may go, with what starts their programs.
+    std::map<std::string, Starters> offered() const {
         std::map<std::string, Starters> byFolder;
+        std::vector<std::string> others;  // that entries name without saying that they start them
         for (const DesktopFile& one : search_.own) {
             const std::string named = startedFile(one);
-            const std::optional<std::string> program = named.empty() ? std::nullopt : files_.realPath(named);
+            if (named.empty()) {
+                for (const std::string& word : one.entry.command)
+                    if (auto other = word.starts_with('/') ? files_.realPath(word) : std::nullopt)
+                        others.push_back(std::move(*other));
+                continue;
+            }
+            const std::optional<std::string> program = files_.realPath(named);
             if (!program || !isInFolder(*program, realHome_) || isFound(*program)) continue;
+            const std::optional<FileProperties> properties = files_.properties(*program);
+            if (!properties || properties->isDirectory) continue;
             Starters& starters = byFolder[folderOf(*program)];
             starters.entries.push_back(&one);
             starters.programs.insert(*program);
         }
-        for (const auto& [folder, starters] : byFolder) {
-            const bool isShared = std::any_of(byFolder.begin(), byFolder.end(), [&folder = folder](const auto& other) {
-                return other.first != folder && isInFolder(other.first, folder);
+        const auto isNested = [&](const std::string& folder) {
+            return std::any_of(byFolder.begin(), byFolder.end(), [&](const auto& other) {
+                if (other.first == folder) return false;
+                return isInFolder(other.first, folder) || (isInFolder(folder, other.first) && !isForMany(other.first));
             });
-            if (!isShared && starters.programs.size() == 1 && mayGo(folder))
-                add(folder, starters.entries, *starters.programs.begin());
+        };
+        std::map<std::string, Starters> offered;
+        for (const auto& [folder, starters] : byFolder) {
+            const bool isNamed = std::any_of(others.begin(), others.end(), [&folder = folder](const auto& other) {
+                return isInFolder(other, folder);
+            });
+            if (!isNamed && !isNested(folder) && starters.programs.size() == 1 && mayGo(folder))
+                offered.emplace(folder, starters);
         }
+        return offered;
     }
 
-private:
     bool isFound(const std::string& url) const {
         return std::any_of(findings_.apps.begin(), findings_.apps.end(),
                            [&](const AppEntry& app) { return app.url == url; });
@@ -94,35 +139,56 @@ private:
         return folder;
     }
 
+    /// Whether people keep several things in the folder, so that what lies there need not belong together.
+    bool isForMany(const std::string& folder) const {
+        if (folder.size() <= realHome_.size() + 1 || !isInFolder(folder, realHome_)) return true;
+        if (isCollection(fileNameOf(folder))) return true;
+        return std::any_of(reserved_.begin(), reserved_.end(),
+                           [&](const std::string& reserved) { return isInFolder(reserved, folder); });
+    }
+
+    /// The home itself may be under version control for the sake of its settings.
+    bool isUnderVersionControl(std::string folder) const {
+        for (; folder.size() > realHome_.size(); folder = parentOf(folder))
+            for (const char* sign : signsOfVersionControl)
+                if (files_.exists(pathIn(folder, sign))) return true;
+        return false;
+    }
+
     bool mayGo(const std::string& folder) const {
-        if (!isInFolder(folder, realHome_)) return false;
-        if (folder.find("/.", realHome_.size()) != std::string::npos || isCollection(fileNameOf(folder))) return false;
-        // The home itself holds them all.
-        for (const std::string& reserved : reserved_)
-            if (isInFolder(reserved, folder)) return false;
+        if (isForMany(folder) || folder.find("/.", realHome_.size()) != std::string::npos) return false;
+        const std::string_view below = std::string_view(folder).substr(realHome_.size() + 1);
+        if (isKeptElsewhere(below.substr(0, below.find('/')))) return false;
         for (const AppEntry& app : findings_.apps)
             if (isInFolder(app.url, folder)) return false;
-        for (const char* sign : {".git", ".hg", ".svn"})
-            if (files_.exists(pathIn(folder, sign))) return false;
+        if (isUnderVersionControl(folder)) return false;
         const std::optional<FileProperties> properties = files_.properties(folder);
         return properties && properties->isDirectory;
     }
 
-    void add(const std::string& folder, const std::vector<const DesktopFile*>& entries, const std::string& program) {
-        const DesktopFile* const entry = mainEntry(entries, fileNameOf(program));
-        findings_.claim(entries, folder);
-        if (entry == nullptr) return;
+    /// Without its size; absent if no menu shows it.
+    std::optional<AppEntry> entryOf(const std::string& folder, const Starters& starters) const {
+        const DesktopFile* const entry = mainEntry(starters.entries, fileNameOf(*starters.programs.begin()));
+        if (entry == nullptr) return std::nullopt;
         AppEntry app;
         app.url = folder;
         app.name = entry->entry.name;
-        app.size = files_.fullSizeBelow(folder);
         app.bundleID = entry->id;
         app.kind = AppKind::unpacked;
         app.program = entry->programName();
         app.icon = entry->entry.icon;
-        for (const DesktopFile* one : entries) app.entries.push_back(one->path);
-        if (!files_.properties(folder)->isOwn) app.obstacle = {AppObstacle::Reason::notOwn};
-        findings_.apps.push_back(std::move(app));
+        for (const DesktopFile* one : starters.entries) app.entries.push_back(one->path);
+        const std::optional<FileProperties> properties = files_.properties(folder);
+        if (!properties || !properties->isOwn) app.obstacle = {AppObstacle::Reason::notOwn};
+        return app;
+    }
+
+    void add(const std::string& folder, const Starters& starters) {
+        findings_.claim(starters.entries, folder);
+        std::optional<AppEntry> app = entryOf(folder, starters);
+        if (!app) return;
+        app->size = files_.fullSizeBelow(folder);
+        findings_.apps.push_back(std::move(*app));
     }
 
     const AppSearch& search_;
@@ -136,6 +202,19 @@ private:
 
 void findUnpacked(const AppSearch& search, AppFindings& findings) {
     UnpackedFinder(search, findings).find();
+}
+
+AppObstacle obstacleOfOwn(const Platform& platform, const AppEntry& app) {
+    const AppSearch search(platform);
+    AppFindings findings;
+    findAppImages(search, findings);
+    if (app.kind == AppKind::unpacked) {
+        const std::optional<AppEntry> now = UnpackedFinder(search, findings).findAt(app.url);
+        return now ? now->obstacle : AppObstacle{AppObstacle::Reason::changed};
+    }
+    const auto now = std::find_if(findings.apps.begin(), findings.apps.end(),
+                                  [&](const AppEntry& one) { return one.url == app.url; });
+    return now != findings.apps.end() ? now->obstacle : AppObstacle{AppObstacle::Reason::changed};
 }
 
 }  // namespace zelk

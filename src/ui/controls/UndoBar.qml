@@ -66,8 +66,16 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(bar.textRoom, Math.max(message.implicitWidth, reasons.visible ? reasons.implicitWidth : 0))
+        // Not by the labels' own widths, which change as they wrap.
+        width: reasons.visible ? bar.textRoom : Math.min(bar.textRoom, Math.ceil(line.advanceWidth) + 1)
         spacing: 2
+
+        TextMetrics {
+            id: line
+
+            font: message.font
+            text: bar.text
+        }
 
         Label {
             id: message

@@ -153,6 +153,7 @@ LinuxLocations::LinuxLocations(const std::string& home) {
     trashPlaces_ = trashPlacesOf(xdg_.data);
     items.configHome = xdg_.config;
     items.dataHome = xdg_.data;
+    sharedDataFolders_ = items.data;
     backgroundItemFolders_ = itemFoldersOf(std::move(items));
     ApplicationPlaces applications = ApplicationPlaces::ofEnvironment(xdg_.data);
     programFolders_ = std::move(applications.programs);

@@ -22,6 +22,7 @@ public:
     TrashPlaces trashPlaces() override { return trashPlaces_; }
     std::vector<BackgroundItemFolder> backgroundItemFolders() override { return backgroundItemFolders_; }
     std::vector<std::string> programFolders() override { return programFolders_; }
+    std::vector<std::string> sharedDataFolders() override { return sharedDataFolders_; }
     std::vector<std::string> entryLocales() override { return entryLocales_; }
 
 private:
@@ -30,6 +31,7 @@ private:
     TrashPlaces trashPlaces_;
     std::vector<BackgroundItemFolder> backgroundItemFolders_;
     std::vector<std::string> programFolders_;
+    std::vector<std::string> sharedDataFolders_;
     std::vector<std::string> entryLocales_;
 };
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "platform/FolderPath.h"
 #include "ui/theme/DisplayText.h"
 
 namespace zelk {
@@ -56,6 +57,10 @@ QString AppTexts::fate(AppKind kind) {
     return {};
 }
 
+QString AppTexts::place(const std::string& path, const std::string& home) {
+    return displayText(isInFolder(path, home) ? "~" + path.substr(home.size()) : path);
+}
+
 QString AppTexts::detail(const AppEntry& app) {
     if (app.dataTotal > 0) return tr("app %1 · data %2").arg(bytesOf(app.size), bytesOf(app.dataTotal));
     return displayText(app.bundleID.value_or(app.url));
@@ -86,6 +91,8 @@ QString AppTexts::obstacle(const AppObstacle& obstacle) {
             return tr("Stays: it is installed more than once. Its own tool can remove one of them.");
         case AppObstacle::Reason::notOwn:
             return tr("Stays: it belongs to another user.");
+        case AppObstacle::Reason::changed:
+            return tr("Stays: it has changed since it was listed.");
         case AppObstacle::Reason::unknown:
             return tr("Stays: nothing here says what removes it.");
     }
@@ -104,15 +111,20 @@ QString AppTexts::question(const AppEntry& app, int leftovers, const QString& to
         case AppKind::appImage:
         case AppKind::unpacked:
             return tr("Moves the app and %1 leftover item(s) to Trash — %2.").arg(leftovers).arg(total);
-        case AppKind::userFlatpak:
         case AppKind::systemFlatpak:
+            if (leftovers == 0) return tr("Removes the app through flatpak for all users, for good — %1.").arg(total);
+            return tr("Removes the app through flatpak for all users, for good, and moves %1 leftover item(s) to Trash "
+                      "— %2.")
+                .arg(leftovers)
+                .arg(total);
+        case AppKind::userFlatpak:
             if (leftovers == 0) return tr("Removes the app through flatpak, for good — %1.").arg(total);
             return tr("Removes the app through flatpak, for good, and moves %1 leftover item(s) to Trash — %2.")
                 .arg(leftovers)
                 .arg(total);
         case AppKind::snap:
-            return tr("Removes the app through snap, for good — %1. Snap removes the folder of the app too, and keeps "
-                      "a copy of what it stored for 31 days.")
+            return tr("Removes the app through snap for all users, for good — %1. Snap removes the folder of the app "
+                      "too, and may keep a copy of its data for a while.")
                 .arg(total);
         case AppKind::package:
             if (leftovers == 0)

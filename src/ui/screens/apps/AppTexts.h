@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <string>
 
 #include "reclaim/AppEntry.h"
 #include "state/AppsModel.h"
@@ -18,6 +19,8 @@ public:
     static QString kind(const AppEntry& app);
     /// What removes it, as it stands beside it; empty if that is the Trash.
     static QString fate(AppKind kind);
+    /// A path, with "~" for the home.
+    static QString place(const std::string& path, const std::string& home);
     /// The second line of its row: its identifier or path, and once that is known what it and its data take.
     static QString detail(const AppEntry& app);
     /// Why it stays; empty if nothing is against its removal.

@@ -16,7 +16,7 @@ void UninstallModel::ask(const AppEntry& app) {
     leftovers_.clear();
     obstacle_ = {};
     loading_ = true;
-    rows_.show(app_, leftovers_);
+    rows_.show(app_, leftovers_, apps_.toldHome());
     emit changed();
     if (!std::exchange(open_, true)) emit openChanged();
     apps_.prepare(app_, [self = QPointer<UninstallModel>(this), number = ++asked_](const auto& preparation) {
@@ -28,8 +28,9 @@ void UninstallModel::take(int number, const AppsModel::Preparation& preparation)
     if (number != asked_ || !open_) return;
     leftovers_ = preparation.leftovers;
     obstacle_ = preparation.obstacle;
+    app_.size = preparation.size;
     loading_ = false;
-    rows_.show(app_, leftovers_);
+    rows_.show(app_, leftovers_, apps_.toldHome());
     emit changed();
 }
 

@@ -3,7 +3,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QString>
-#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,7 +13,8 @@
 
 namespace zelk {
 
-/// List model of what goes with an application: first it, then its leftovers. Main thread.
+/// List model of what goes with an application: first it, then the applications that its tool cannot part from it, then
+/// its leftovers. Main thread.
 class UninstallRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
@@ -23,21 +24,21 @@ public:
     enum Role {
         symbolRole = Qt::UserRole,
         nameRole,
-        figureRole,  ///< the size, with unit
-        fateRole,    ///< what becomes of it; empty where all goes to the Trash
+        figureRole,  ///< the size, with unit; empty where that of another row includes it
+        fateRole,    ///< where it is and what becomes of it, each unless that goes without saying
         spokenRole
     };
 
     UninstallRows();
 
-    void show(const AppEntry& app, const std::vector<Leftover>& leftovers);
+    /// Without a `home` no row says where it is.
+    void show(const AppEntry& app, const std::vector<Leftover>& leftovers, const std::optional<std::string>& home);
 
 private:
     struct Row {
         bool isApp = false;
-        std::string path;  ///< identifies it
         QString name;
-        std::uint64_t bytes = 0;
+        QString figure;
         QString fate;
     };
 
