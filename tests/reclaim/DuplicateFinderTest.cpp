@@ -220,11 +220,11 @@ TEST_F(FinderOfDuplicates, fileThatChangesWhileItIsReadIsNotWhole) {
 
 TEST_F(FinderOfDuplicates, fileThatChangedJustBeforeIsNotSettled) {
     for (const char* name : {"/home/me/a", "/home/me/b", "/home/me/c", "/home/me/d"}) add(name, 'x');
-    const auto now = static_cast<std::int64_t>(machine.clock.now());
-    machine.contents.touch("/home/me/a", {now - 2, 0}, {now - 2, 0});
-    machine.contents.touch("/home/me/b", {now - 2, 1'000'000}, {0, 0});
-    machine.contents.touch("/home/me/c", {0, 0}, {now - 1, 0});
-    machine.contents.touch("/home/me/d", {now + 1'000, 0}, {0, 0});
+    const auto searched = static_cast<std::int64_t>(machine.clock.now());
+    machine.contents.touch("/home/me/a", {searched - 2, 0}, {searched - 2, 0});
+    machine.contents.touch("/home/me/b", {searched - 2, 1'000'000}, {0, 0});
+    machine.contents.touch("/home/me/c", {0, 0}, {searched - 1, 0});
+    machine.contents.touch("/home/me/d", {searched + 1'000, 0}, {0, 0});
     const std::vector<DuplicateGroup> groups = find();
     ASSERT_THAT(groups, SizeIs(1));
     std::vector<bool> settled;
