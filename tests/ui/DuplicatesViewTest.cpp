@@ -287,8 +287,8 @@ TEST_F(DuplicatesWindow, hasRoomForLargeTexts) {
         for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
             model().setAppearance(appearance);
             openFilled(size);
-            for (const double factor : {1.0, 1.5}) {
-                singleton<TextScale>("TextScale").setFactor(factor);
+            for (const double scale : {1.0, 1.5}) {
+                singleton<TextScale>("TextScale").setFactor(scale);
                 settle();
                 expectNoTextClipped();
             }
