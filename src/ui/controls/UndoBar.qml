@@ -66,7 +66,7 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(bar.textRoom, Math.max(message.implicitWidth, reasons.visible ? reasons.implicitWidth : 0))
+        width: Math.min(bar.textRoom, Math.max(message.implicitWidth, reasons.implicitWidth))
         spacing: 2
 
         Label {
