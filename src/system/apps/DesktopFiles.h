@@ -31,8 +31,8 @@ struct DesktopFile {
 std::vector<DesktopFile> readDesktopFiles(FileManager& files, const std::string& folder,
                                           const std::vector<std::string>& locales);
 
-/// The entry that stands for an application which has several: one that is shown and is called `id`, else the first that
-/// is shown and starts a program of that name, else the first that is shown; nullptr if none is.
+/// The entry that stands for an application which has several: one that is shown and is called `id`, else the first
+/// that is shown and starts a program of that name, else the first that is shown; nullptr if none is.
 const DesktopFile* mainEntry(const std::vector<const DesktopFile*>& entries, std::string_view id);
 
 /// Which applications go by a name. What two of them go by tells neither of them.
