@@ -66,16 +66,8 @@ FocusScope {
         anchors.left: parent.left
         anchors.leftMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
-        // Not by the labels' own widths, which change as they wrap.
-        width: reasons.visible ? bar.textRoom : Math.min(bar.textRoom, Math.ceil(line.advanceWidth) + 1)
+        width: Math.min(bar.textRoom, Math.max(message.implicitWidth, reasons.implicitWidth))
         spacing: 2
-
-        TextMetrics {
-            id: line
-
-            font: message.font
-            text: bar.text
-        }
 
         Label {
             id: message
