@@ -25,8 +25,7 @@ public:
             take(words_[next_++]);
         if (!asked_.refusal.empty() || asked_.action != Arguments::Action::survey) return std::move(asked_);
         if (asked_.roots.empty()) refuse("No folder is named.");
-        if (asked_.json && asked_.exportsToOutput())
-            refuse("--json and --ncdu - would both write to standard output.");
+        if (asked_.json && asked_.exportsToOutput()) refuse("--json and --ncdu - would both write to standard output.");
         return std::move(asked_);
     }
 

@@ -29,7 +29,8 @@ struct Arguments {
     bool exportsToOutput() const { return ncdu == "-"; }
 };
 
-/// Reads the words after the program's name. Everything behind "--" is a root, and so is a word that does not begin with
+/// Reads the words after the program's name. Everything behind "--" is a root, and so is a word that does not begin
+/// with
 /// "-", wherever it stands, and "-" itself. Reads up to the first mistake, "--help" or "--version". Pure.
 Arguments parseArguments(const std::vector<std::string>& words);
 

@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <signal.h>
 #include <unistd.h>
 
 #include <array>
@@ -58,8 +59,7 @@ EndRequest::EndRequest() {
     readEnd_ = ends[0];
     writeEnd = ends[1];
     received = 0;
-    // Not restarted: who waits to write must hear of it.
-    handleBy(noteSignal, SA_RESETHAND);
+    handleBy(noteSignal, SA_RESTART | SA_RESETHAND);
 }
 
 EndRequest::~EndRequest() {
@@ -83,17 +83,6 @@ void EndRequest::wait() {
     std::array<char, 256> bytes;
     while (::read(readEnd_, bytes.data(), bytes.size()) > 0) {
     }
-}
-
-EndRequest::Withheld::Withheld() {
-    sigset_t all;
-    sigemptyset(&all);
-    for (const int number : endSignals) sigaddset(&all, number);
-    pthread_sigmask(SIG_BLOCK, &all, &before_);
-}
-
-EndRequest::Withheld::~Withheld() {
-    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
 }
 
 }  // namespace zelk::cli

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <signal.h>
-
 namespace zelk::cli {
 
 /// Waits for a survey and for a signal that asks to end, whichever comes first. Handles SIGINT, SIGTERM and SIGHUP but
@@ -21,18 +19,6 @@ public:
     void wake();
     /// Returns after a wake() or a signal.
     void wait();
-
-    /// While it exists, threads that are started do not get the signals: system calls of theirs are not interrupted.
-    class Withheld {
-    public:
-        Withheld();
-        ~Withheld();
-        Withheld(const Withheld&) = delete;
-        Withheld& operator=(const Withheld&) = delete;
-
-    private:
-        sigset_t before_;
-    };
 
 private:
     int readEnd_ = -1;

@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -34,10 +35,14 @@ ExportFile::ExportFile(const std::string& path, std::function<bool()> stopped) :
         replaced_ = std::make_unique<ReplacedFile>(path, ReplacedFile::Access::usual);
         return;
     }
-    do {
-        descriptor_ = ::open(path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
-    } while (descriptor_ < 0 && errno == EINTR && !stopped_());
-    if (descriptor_ < 0) error_ = errno;
+    // A pipe that nobody reads yet is tried again, since a call that waits would not hear of a signal before it.
+    constexpr timespec pause{0, 20'000'000};
+    while (!stopped_()) {
+        descriptor_ = ::open(path.c_str(), O_WRONLY | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+        if (descriptor_ >= 0 || (errno != ENXIO && errno != EINTR)) break;
+        ::nanosleep(&pause, nullptr);
+    }
+    if (descriptor_ < 0) error_ = stopped_() ? ECANCELED : errno;
 }
 
 ExportFile::~ExportFile() {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Output.h"
 
+#include <limits.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,6 +17,8 @@ namespace {
 
 constexpr std::size_t pieceBytes = 64 * 1024;
 constexpr std::size_t mostAtOnce = std::size_t{1} << 30;  // macOS refuses 2 GiB in one call
+constexpr std::size_t pipeBytes = PIPE_BUF;               // a pipe that has room has room for these
+constexpr int lookAfterMilliseconds = 100;
 
 }  // namespace
 
@@ -44,17 +48,22 @@ void Output::handOn(std::string_view bytes) {
 }
 
 int writeAll(int descriptor, std::string_view bytes, const std::function<bool()>& stopped) {
+    struct stat status {};
+    const bool isFile = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
     while (!bytes.empty()) {
         if (stopped()) return ECANCELED;
-        const ssize_t written = ::write(descriptor, bytes.data(), std::min(bytes.size(), mostAtOnce));
-        if (written >= 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno == EAGAIN) {
+        // A call that waits for room would not hear of a signal that came the moment before it.
+        if (!isFile) {
             pollfd room{descriptor, POLLOUT, 0};
-            ::poll(&room, 1, -1);
-        } else if (errno != EINTR) {
-            return errno;
+            const int ready = ::poll(&room, 1, lookAfterMilliseconds);
+            if (ready == 0 || (ready < 0 && errno == EINTR)) continue;
         }
+        const ssize_t written =
+            ::write(descriptor, bytes.data(), std::min(bytes.size(), isFile ? mostAtOnce : pipeBytes));
+        if (written >= 0)
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        else if (errno != EINTR && errno != EAGAIN)
+            return errno;
     }
     return 0;
 }

@@ -7,8 +7,8 @@
 
 namespace zelk::cli {
 
-/// Collects bytes and hands them on in large pieces. After the first failure nothing more is handed on, so whoever writes
-/// need not ask before the end. One thread.
+/// Collects bytes and hands them on in large pieces. After the first failure nothing more is handed on, so whoever
+/// writes need not ask before the end. One thread.
 class Output {
 public:
     /// Takes a whole piece. Returns 0, or an errno.
@@ -31,7 +31,7 @@ private:
 };
 
 /// Writes everything to a descriptor, also one that does not block. Returns 0 or the errno; ECANCELED once `stopped`
-/// says so, which is asked whenever a signal interrupts the call.
+/// says so, which is asked every now and then while there is no room.
 int writeAll(int descriptor, std::string_view bytes, const std::function<bool()>& stopped);
 
 }  // namespace zelk::cli

@@ -122,7 +122,9 @@ void prepareProcess() {
     for (std::size_t stream = 0; stream < wrongWay.size(); ++stream)
         if (::fcntl(static_cast<int>(stream), F_GETFD) < 0)
             static_cast<void>(::open("/dev/null", wrongWay[stream]));  // takes the lowest number, which is this one
+    // These are failures of a call.
     ::signal(SIGPIPE, SIG_IGN);
+    ::signal(SIGXFSZ, SIG_IGN);
     if (std::setlocale(LC_CTYPE, "") == nullptr || std::string_view(::nl_langinfo(CODESET)) != "UTF-8")
         std::setlocale(LC_CTYPE, "C.UTF-8");
 }

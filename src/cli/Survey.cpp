@@ -40,7 +40,6 @@ void startWalk(const std::shared_ptr<Walk>& walk, const Storage& storage, const 
         walk->isOver = true;
         end.wake();
     };
-    const EndRequest::Withheld withheld;
     try {
         startThread("zelk.scan", ParallelWalker::stackBytes, body);
     } catch (const std::system_error&) {

@@ -50,8 +50,8 @@ using ToldProgress = std::function<void(const update::Progress&)>;
 std::optional<Survey> runSurvey(const Storage& storage, const std::vector<std::string>& roots, EndRequest& end,
                                 const ToldProgress& told);
 
-/// What changed since the last record of the same roots, which are those folders of a record that lie in no other of it.
-/// Absent if there is none.
+/// What changed since the last record of the same roots, which are those folders of a record that lie in no other of
+/// it. Absent if there is none.
 std::optional<Growth> growthSince(const std::vector<SurveyRecord>& history, const FSNode& tree);
 
 }  // namespace zelk::cli

@@ -103,7 +103,9 @@ private:
         line(text);
     }
 
-    std::size_t shownOf(std::size_t rows) const { return static_cast<std::size_t>(std::min<std::uint64_t>(top_, rows)); }
+    std::size_t shownOf(std::size_t rows) const {
+        return static_cast<std::size_t>(std::min<std::uint64_t>(top_, rows));
+    }
 
     void writeFolders() {
         const std::vector<NodeRef>& roots = survey_.tree->children;
@@ -125,7 +127,8 @@ private:
             else
                 folderLine(rows[at].bytes, rows[at].name);
         }
-        if (rows.size() > shown) folderLine(rest, "(" + grouped(static_cast<std::int64_t>(rows.size() - shown)) + " more)");
+        if (rows.size() > shown)
+            folderLine(rest, "(" + grouped(static_cast<std::int64_t>(rows.size() - shown)) + " more)");
     }
 
     void folderLine(std::int64_t bytes, const std::string& name) {
@@ -150,7 +153,8 @@ private:
         const std::size_t shown = shownOf(files.size());
         if (shown == 0) return;
         title("Largest files");
-        for (std::size_t at = 0; at < shown; ++at) line(sizeColumn(files[at].size) + "  " + visibleText(files[at].path));
+        for (std::size_t at = 0; at < shown; ++at)
+            line(sizeColumn(files[at].size) + "  " + visibleText(files[at].path));
     }
 
     void writeReclaimables() {
@@ -176,11 +180,10 @@ private:
         const std::size_t shown = shownOf(grown.size());
         for (std::size_t at = 0; at < shown; ++at) {
             const FolderChange& one = grown[at];
-            line("  " + right("+" + byteText(one.newSize - one.oldSize), changeColumns) + sizeColumn(one.newSize) + "  " +
-                 (one.oldSize == 0 ? "new  " : "     ") + visibleText(one.path));
+            line("  " + right("+" + byteText(one.newSize - one.oldSize), changeColumns) + sizeColumn(one.newSize) +
+                 "  " + (one.oldSize == 0 ? "new  " : "     ") + visibleText(one.path));
         }
-        if (shown < grown.size())
-            line("  (" + grouped(static_cast<std::int64_t>(grown.size() - shown)) + " more)");
+        if (shown < grown.size()) line("  (" + grouped(static_cast<std::int64_t>(grown.size() - shown)) + " more)");
     }
 
     Output& output_;

@@ -29,7 +29,8 @@ Character takeCharacter(std::string_view& rest) {
     Character character{rest.substr(0, length), std::nullopt};
     if (character.bytes.size() == length && isUtf8(character.bytes)) {
         char32_t point = length == 1 ? first : first & (0xFFU >> (length + 1));
-        for (const char byte : character.bytes.substr(1)) point = point << 6 | (static_cast<unsigned char>(byte) & 0x3F);
+        for (const char byte : character.bytes.substr(1))
+            point = point << 6 | (static_cast<unsigned char>(byte) & 0x3F);
         character.point = point;
     } else {
         character.bytes = rest.substr(0, 1);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// zelk-survey: a survey for the terminal. The same engine and the same catalogue as in the application, told as a table,
-// as JSON or for ncdu. It removes nothing and remembers nothing.
+// zelk-survey: a survey for the terminal. The same engine and the same catalogue as in the application, told as a
+// table, as JSON or for ncdu. It removes nothing and remembers nothing.
 #include <algorithm>
 #include <cstdlib>
 #include <string>

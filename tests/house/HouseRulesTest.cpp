@@ -161,7 +161,8 @@ TEST(CompositionRootRule, letsOnlyTheOutermostProgramsNameThePlatform) {
 
 TEST(CompositionRootRule, letsTheProgramForTheTerminalNameTheStorage) {
     const std::string use = kLicence + "\nNativeStorage storage;\n";
-    for (const std::string path : {"src/cli/main.cpp", "src/app/main.cpp", "src/platform/linux/A.cpp", "tests/cli/A.cpp"})
+    for (const std::string path :
+         {"src/cli/main.cpp", "src/app/main.cpp", "src/platform/linux/A.cpp", "tests/cli/A.cpp"})
         EXPECT_THAT(checkCompositionRoot({path, use}), IsEmpty()) << path;
     for (const std::string path : {"src/cli/Program.cpp", "src/state/A.cpp", "src/ui/A.cpp"})
         EXPECT_THAT(checkCompositionRoot({path, use}), SizeIs(1)) << path;

@@ -22,8 +22,8 @@ struct NativePlatform::Services {
     LinuxTrash trash;
     PosixChildProcess processes;
     LinuxWorkspace workspace;
-    Platform record{files.clock,     files.directories, files.files, trash,     vitals,
-                    files.locations, tasks,             processes,   workspace, SystemKind::desktopLinux};
+    Platform record{files.clock, files.directories,       files.files, trash, vitals, files.locations, tasks, processes,
+                    workspace,   SystemKind::desktopLinux};
 };
 
 NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {}

@@ -21,8 +21,8 @@ struct NativePlatform::Services {
     MacTrash trash;
     PosixChildProcess processes;
     MacWorkspace workspace;
-    Platform record{files.clock,     files.directories, files.files, trash,     vitals,
-                    files.locations, tasks,             processes,   workspace, SystemKind::macOS};
+    Platform record{files.clock, files.directories, files.files,      trash, vitals, files.locations, tasks,
+                    processes,   workspace,         SystemKind::macOS};
 };
 
 NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {}
