@@ -266,10 +266,11 @@ TEST_F(Unwritable, exportToAFullDeviceIsAFailureWithoutATable) {
 }
 
 TEST_F(Unwritable, exportWithoutRoomLeavesTheOldOne) {
-    for (int folder = 0; folder < 3000; ++folder) zoo::makeFolder(place + "/folder " + std::to_string(folder));
+    for (int folder = 0; folder < 100; ++folder)
+        zoo::makeFolder(place + "/" + std::string(200, 'n') + std::to_string(folder));
     fakes::writeFile(temp / "export", "old");
     const Ran ran = run({"--ncdu", temp / "export", place}, [] {
-        const rlimit limit{20'000, 20'000};
+        const rlimit limit{8'000, 8'000};
         ::setrlimit(RLIMIT_FSIZE, &limit);
     });
     EXPECT_EQ(ran.status, EX_IOERR);
@@ -345,7 +346,9 @@ TEST_F(Program, goesOnWhereSignalsAreIgnored) {
 /// What a terminal as the standard error of the program receives.
 class OnTerminal : public RanProgram {
 protected:
-    OnTerminal() { zoo::makeWide(place, 21'000, 0); }
+    OnTerminal() { zoo::makeWide(wide.path(), 21'000, 0); }
+
+    const zoo::TempFolder wide{zoo::TempFolder::Medium::memory};
 
     std::string seenWith(const char* terminal) {
         const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
@@ -353,7 +356,7 @@ protected:
         EXPECT_EQ(::unlockpt(master), 0);
         const std::string name = ::ptsname(master);
         const int slave = ::open(name.c_str(), O_RDWR | O_NOCTTY);
-        const Ran ran = run({place}, [&] {
+        const Ran ran = run({wide.path()}, [&] {
             ::dup2(slave, 2);
             if (terminal != nullptr) ::setenv("TERM", terminal, 1);
         });
@@ -383,7 +386,7 @@ TEST_F(OnTerminal, progressIsNotShownWhereNoLineCanBeErased) {
 }
 
 TEST_F(OnTerminal, noOtherOutputHasProgress) {
-    const Ran ran = run({place}, [] { ::setenv("TERM", "xterm", 1); });
+    const Ran ran = run({wide.path()}, [] { ::setenv("TERM", "xterm", 1); });
     EXPECT_EQ(ran.errors, "");
 }
 
