@@ -125,8 +125,8 @@ void prepareProcess() {
     // These are failures of a call.
     ::signal(SIGPIPE, SIG_IGN);
     ::signal(SIGXFSZ, SIG_IGN);
-    if (std::setlocale(LC_CTYPE, "") == nullptr || std::string_view(::nl_langinfo(CODESET)) != "UTF-8")
-        std::setlocale(LC_CTYPE, "C.UTF-8");
+    if (std::setlocale(LC_CTYPE, "") != nullptr && std::string_view(::nl_langinfo(CODESET)) == "UTF-8") return;
+    if (std::setlocale(LC_CTYPE, "C.UTF-8") == nullptr) std::setlocale(LC_CTYPE, "UTF-8");  // as macOS calls it
 }
 
 int answer(const Arguments& arguments) {

@@ -50,7 +50,8 @@ protected:
             ::unsetenv(name);
         ::setenv("HOME", home.c_str(), 1);
         ::setenv("TZ", "UTC", 1);
-        ::signal(SIGPIPE, SIG_DFL);
+        // Whoever runs the tests may ignore them, as nohup does.
+        for (const int number : {SIGPIPE, SIGINT, SIGTERM, SIGHUP}) ::signal(number, SIG_DFL);
         redirect(0, "/dev/null", O_RDONLY);
         redirect(1, output, O_WRONLY | O_CREAT);
         redirect(2, errors, O_WRONLY | O_CREAT);
@@ -65,6 +66,18 @@ protected:
         }
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, fakes::fileContent(temp / "output"),
                 fakes::fileContent(temp / "errors")};
+    }
+
+    /// Returns once `condition` holds; false if the program ends before.
+    template <class Condition>
+    static bool waitUntil(pid_t child, Condition condition) {
+        while (!condition()) {
+            siginfo_t gone{};
+            if (::waitid(P_PID, static_cast<id_t>(child), &gone, WEXITED | WNOHANG | WNOWAIT) != 0 || gone.si_pid != 0)
+                return false;
+            ::usleep(1000);
+        }
+        return true;
     }
 
     Ran run(

@@ -42,6 +42,13 @@ TEST(Roots, areResolvedOnTheDiskOnlyWhereTheyGoUp) {
     EXPECT_THAT(namedRoots({"missing/../x"}, top), ElementsAre(top + "/missing/../x"));
 }
 
+/// Whoever runs the tests may ignore signals, as a shell has it for what it runs in the background.
+struct HeardSignals {
+    HeardSignals() {
+        for (const int number : {SIGINT, SIGTERM, SIGHUP}) ::signal(number, SIG_DFL);
+    }
+};
+
 class SurveyRun : public testing::Test {
 protected:
     SurveyRun() {
@@ -70,6 +77,7 @@ protected:
     fakes::FakeFileManager files;
     fakes::FakeLocations locations;
     const Storage storage{clock, disk, files, locations};
+    const HeardSignals heard;
     EndRequest end;
     std::vector<update::Progress> told;
 };
