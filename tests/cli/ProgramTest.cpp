@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <sysexits.h>
 
+#include <array>
 #include <nlohmann/json.hpp>
 
 #include "NcduReader.h"
@@ -365,11 +366,12 @@ protected:
         EXPECT_EQ(ran.status, 0);
         EXPECT_TRUE(ran.output.starts_with("0 bytes in 21,000 files and 1 folder\n")) << ran.output;
         EXPECT_THAT(ran.output, Not(HasSubstr("\x1B")));
-        ::fcntl(master, F_SETFL, O_NONBLOCK);
-        std::string seen(4096, 0);
-        const ssize_t length = ::read(master, seen.data(), seen.size());
-        seen.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+        // The system hands it over a moment later; the end comes once nobody has the other side open.
         ::close(slave);
+        std::string seen;
+        std::array<char, 4096> buffer;
+        for (ssize_t got = 0; (got = ::read(master, buffer.data(), buffer.size())) > 0;)
+            seen.append(buffer.data(), static_cast<std::size_t>(got));
         ::close(master);
         return seen;
     }
