@@ -21,13 +21,6 @@ bool isStream(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
 }
 
-bool isStandardOutput(const std::string& path) {
-    struct stat status {};
-    struct stat output {};
-    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && ::fstat(STDOUT_FILENO, &output) == 0 &&
-           status.st_dev == output.st_dev && status.st_ino == output.st_ino;
-}
-
 }  // namespace
 
 ExportFile::ExportFile(const std::string& path, std::function<bool()> stopped) : stopped_(std::move(stopped)) {
@@ -66,9 +59,15 @@ int ExportFile::commit() {
 }
 
 int ExportFile::whyNot(const std::string& path) {
-    if (isStandardOutput(path)) return EEXIST;
     if (isStream(path)) return ::access(path.c_str(), W_OK) == 0 ? 0 : errno;
     return ReplacedFile(path, ReplacedFile::Access::usual).error();
+}
+
+bool ExportFile::isStandardOutput(const std::string& path) {
+    struct stat status {};
+    struct stat output {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && ::fstat(STDOUT_FILENO, &output) == 0 &&
+           status.st_dev == output.st_dev && status.st_ino == output.st_ino;
 }
 
 }  // namespace zelk::cli

@@ -25,9 +25,10 @@ public:
     int write(std::string_view piece);
     int commit();
 
-    /// Whether a file could be written there now: 0, or the errno. Leaves nothing behind. EEXIST for the file that is
-    /// standard output, which would replace what else is written there.
+    /// Whether a file could be written there now: 0, or the errno. Leaves nothing behind.
     static int whyNot(const std::string& path);
+    /// Whether it is the file that standard output goes to: what else is written there would be replaced.
+    static bool isStandardOutput(const std::string& path);
 
 private:
     std::function<bool()> stopped_;

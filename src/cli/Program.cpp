@@ -147,6 +147,10 @@ int answer(const Arguments& arguments) {
 
 int survey(const Storage& storage, const Arguments& arguments, EndRequest& end) {
     const bool toFile = arguments.ncdu && !arguments.exportsToOutput();
+    if (toFile && ExportFile::isStandardOutput(*arguments.ncdu)) {
+        complain(visibleText(*arguments.ncdu) + " is where standard output goes; --ncdu - writes the export there.");
+        return EX_USAGE;
+    }
     if (toFile) {
         // Not only after a survey that may have taken long.
         if (const int error = ExportFile::whyNot(*arguments.ncdu); error != 0) {

@@ -283,9 +283,10 @@ TEST_F(Unwritable, exportWithoutRoomLeavesTheOldOne) {
 
 TEST_F(Unwritable, exportIntoStandardOutputItselfIsRefused) {
     const Ran ran = run({"--ncdu", temp / "output", place});
-    EXPECT_EQ(ran.status, EX_IOERR);
+    EXPECT_EQ(ran.status, EX_USAGE);
     EXPECT_EQ(ran.output, "");
-    EXPECT_EQ(ran.errors, "zelk-survey: " + (temp / "output") + " cannot be written: File exists.\n");
+    EXPECT_EQ(ran.errors, "zelk-survey: " + (temp / "output") +
+                              " is where standard output goes; --ncdu - writes the export there.\n");
 }
 
 // Signals and terminals.
