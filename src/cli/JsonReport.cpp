@@ -89,10 +89,10 @@ void writeGrowth(JsonWriter& json, const Growth& growth) {
 }
 
 /// Every folder that could not be read, in any order.
-void writeUnreadable(JsonWriter& json, const Output& output, const FSNode& tree) {
+void writeUnreadable(JsonWriter& json, const FSNode& tree) {
     json.key("unreadable").open('[');
     std::vector<const FSNode*> pending{&tree};
-    while (!pending.empty() && !output.hasFailed()) {
+    while (!pending.empty()) {
         const FSNode& folder = *pending.back();
         pending.pop_back();
         if (folder.isUnreadable()) json.open('{').path(folder.fullPath()).close('}');
@@ -118,7 +118,7 @@ void writeJson(Output& output, const Survey& survey, std::string_view version) {
     if (survey.growth) writeGrowth(json, *survey.growth);
     // Only where there are any: looking for them takes a walk through the whole tree.
     if (survey.stats.blockedPaths > 0)
-        writeUnreadable(json, output, *survey.tree);
+        writeUnreadable(json, *survey.tree);
     else
         json.key("unreadable").open('[').close(']');
     json.key("seconds").open('{').key("walk").number(survey.phases.walk).key("rollUp").number(survey.phases.rollUp);

@@ -28,14 +28,14 @@ void openFolder(JsonWriter& json, const FSNode& folder, std::string_view name) {
     json.key("dsize").number(folder.ownFileBytes).close('}');
 }
 
-void writeFolder(JsonWriter& json, const Output& output, const FSNode& root, std::string_view name) {
+void writeFolder(JsonWriter& json, const FSNode& root, std::string_view name) {
     struct Level {
         const FSNode* folder;
         std::size_t nextChild;
     };
     openFolder(json, root, name);
     std::vector<Level> levels{{&root, 0}};
-    while (!levels.empty() && !output.hasFailed()) {
+    while (!levels.empty()) {
         Level& level = levels.back();
         if (level.nextChild == level.folder->children.size()) {
             json.close(']');
@@ -69,14 +69,14 @@ void writeNcduExport(Output& output, const Survey& survey, std::string_view vers
     json.key("progver").text(version).key("timestamp").number(static_cast<std::int64_t>(std::floor(survey.date)));
     json.close('}');
     if (roots.size() == 1) {
-        writeFolder(json, output, *roots.front(), roots.front()->name());
+        writeFolder(json, *roots.front(), roots.front()->name());
     } else {
         const std::string around = folderAround(roots);
         json.open('[').open('{').key("name").text(around).close('}');
         for (const NodeRef& root : roots) {
             std::string_view below = root->name().substr(around.size());
             while (below.starts_with('/')) below.remove_prefix(1);
-            writeFolder(json, output, *root, below.empty() ? "/" : below);
+            writeFolder(json, *root, below.empty() ? "/" : below);
         }
         json.close(']');
     }

@@ -19,8 +19,6 @@ public:
     void write(std::string_view bytes);
     /// Hands on what is left. Returns the errno of the first failure; 0 if everything was taken.
     int finish();
-    /// Whether there is no use in writing more.
-    bool hasFailed() const { return error_ != 0; }
 
 private:
     void handOn(std::string_view bytes);

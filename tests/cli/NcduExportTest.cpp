@@ -115,7 +115,7 @@ TEST(NcduExport, takesTreesOfAnyDepth) {
     EXPECT_TRUE(file.entries[2 * depth - 2].readError);
 }
 
-TEST(NcduExport, endsEarlyWhereNothingCanBeWritten) {
+TEST(NcduExport, handsOnNothingMoreAfterAFailure) {
     Survey survey = emptySurvey();
     FSNode& root = addFolder(*survey.tree, "/wide");
     for (int at = 0; at < 100'000; ++at) addFolder(root, "a rather long name of a folder");

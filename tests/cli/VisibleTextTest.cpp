@@ -16,6 +16,12 @@ TEST(VisibleText, keepsWhatCanBeSeen) {
         EXPECT_EQ(visibleText(text), text);
 }
 
+TEST(VisibleText, keepsTheFirstAndLastCharactersOfEveryLength) {
+    for (const std::string text : {" ", "~", "\u00A0", "\u07FF", "\u0800", "\u0FFF", "\u1000", "\uFFFD", "\U00010000",
+                                   "\U0003FFFF", "\U00040000", "\U0010FFFF"})
+        EXPECT_EQ(visibleText(text), text);
+}
+
 TEST(VisibleText, spellsControlCharacters) {
     EXPECT_EQ(visibleText("a\nb\tc\rd"), "a\\nb\\tc\\x0Dd");
     EXPECT_EQ(visibleText(std::string_view("\0\x1B[31m\x7F", 7)), "\\x00\\x1B[31m\\x7F");
