@@ -208,6 +208,12 @@ TEST(GrowthSince, ofTheWholeDriveComparesItsFolders) {
     const std::optional<Growth> growth = growthSince({record}, *survey.tree);
     ASSERT_TRUE(growth);
     EXPECT_EQ(growth->changes.grew.size(), 2U);
+
+    addFolder(*survey.tree->children.front(), "u", 90 * megabyte, 1);
+    settle(survey);
+    const std::optional<Growth> later = growthSince({record}, *survey.tree);
+    ASSERT_TRUE(later) << "a folder of one letter lies in the root too";
+    EXPECT_THAT(later->changes.appeared, ElementsAre(FolderChange{"/u", 0, 90 * megabyte}));
 }
 
 TEST(GrowthSince, isUnknownWhereNoFolderIsBigEnoughForARecord) {
