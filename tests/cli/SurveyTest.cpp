@@ -37,6 +37,8 @@ TEST(Roots, areResolvedOnTheDiskOnlyWhereTheyGoUp) {
     std::filesystem::create_directory_symlink(temp / "real/inner", temp / "link");
     const std::string top = std::filesystem::canonical(temp.path()).string();
     EXPECT_THAT(namedRoots({"link"}, top), ElementsAre(top + "/link"));
+    std::filesystem::create_directory_symlink(temp / "real/inner", temp / "..link");
+    EXPECT_THAT(namedRoots({"..link"}, top), ElementsAre(top + "/..link"));
     EXPECT_THAT(namedRoots({"link/.."}, top), ElementsAre(top + "/real"));
     EXPECT_THAT(namedRoots({"../real"}, top + "/other"), ElementsAre(top + "/real"));
     EXPECT_THAT(namedRoots({"missing/../x"}, top), ElementsAre(top + "/missing/../x"));
