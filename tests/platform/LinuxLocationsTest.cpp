@@ -226,7 +226,7 @@ TEST(LinuxLocations, sharedDataFoldersAreThoseOfTheEnvironment) {
     const EnvironmentVariable shared("XDG_DATA_DIRS", "/exports/share/:relative:/usr/share");
     EXPECT_THAT(LinuxLocations().sharedDataFolders(), ElementsAre("/exports/share", "/usr/share"));
     EXPECT_THAT(LinuxLocations("/given").sharedDataFolders(), ElementsAre("/usr/local/share", "/usr/share"));
-    const EnvironmentVariable none("XDG_DATA_DIRS", std::nullopt);
+    const EnvironmentVariable unset("XDG_DATA_DIRS", std::nullopt);
     EXPECT_THAT(LinuxLocations().sharedDataFolders(), ElementsAre("/usr/local/share", "/usr/share"));
 }
 
