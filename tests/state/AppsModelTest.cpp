@@ -237,26 +237,30 @@ TEST_F(Bundles, uninstalledBeforeTheFootprintsStayAway) {
 }
 
 TEST_F(Bundles, footprintsOfAnEarlierListComeTooLate) {
-    const auto scanHeld = [this](std::size_t held) {
+    // All tasks but the first ones, which wait.
+    const auto runOthersUntil = [this](std::size_t held, auto done) {
+        runUntil([&] {
+            if (done()) return true;
+            machine.tasks.runAt(held);
+            return false;
+        });
+    };
+    const auto scanHeld = [&](std::size_t held) {
         apps().scanApps();
-        runUntil([&] { return machine.tasks.waiting().size() > held; });
-        machine.tasks.runAt(held);
-        runUntil([this] { return !apps().loading(); });
+        runOthersUntil(held, [this] { return !apps().loading(); });
     };
     machine.tasks.hold();
     scanHeld(0);
     ASSERT_THAT(machine.tasks.waiting(), SizeIs(1)) << "its footprints";
     for (const AppEntry& one : std::vector<AppEntry>(apps().apps())) {
         apps().uninstall(one, {});
-        machine.tasks.runAt(1);
-        runUntil([this] { return !apps().removing(); });
+        runOthersUntil(1, [this] { return !apps().removing(); });
     }
     ASSERT_THAT(apps().apps(), IsEmpty());
     fakes::addBundle(machine, "Orrery", 700);
     scanHeld(1);
     ASSERT_THAT(namesOf(apps().apps()), Contains("Orrery"));
-    machine.tasks.runAt(1);
-    runWhatIsThere();
+    while (machine.tasks.runAt(1)) runWhatIsThere();
     machine.tasks.release();
     runWhatIsThere();
     EXPECT_THAT(namesOf(apps().apps()), Contains("Orrery"));

@@ -105,6 +105,7 @@ TEST_F(ApplicationListTest, tenSharedOrReservedNamesAreNeverOffered) {
 
 TEST_F(ApplicationListTest, twoEntriesOfOneApplicationShareNothing) {
     desktop.packages = {{"office"}};
+    desktop.owners["/usr/bin/office"] = "office";
     desktop.addEntry("office", "Office", "office", "/usr/bin/office");
     desktop.addEntry("office", "Office, safe", "office-safe", "/usr/bin/office --safe");
     addFoldersCalled("office");

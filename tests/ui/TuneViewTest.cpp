@@ -215,10 +215,12 @@ TEST_F(TuneWindow, fieldStaysInSightWhileItsSearchTakesTheRows) {
     const std::string words = "item 1059 of nobody";
     for (const char letter : words) {
         type({letter});
+        settle();  // the rows and the head have their new heights now
         expectFocusInSight();
     }
     EXPECT_THAT(seenTexts(), Contains("Nothing here."));
     press(Qt::Key_Escape);
+    settle();
     expectFocusInSight();
 }
 
