@@ -7,11 +7,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "JsonWriter.h"
+#include "cli/JsonWriter.h"
+#include "cli/Output.h"
 #include "platform/NativePlatform.h"
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 #include "reclaim/DuplicateFinder.h"
 
 namespace {
@@ -58,12 +61,17 @@ std::string jsonOf(DuplicateFinder& finder, const Options& options) {
 
     bool escaped = false;
     for (const DuplicateGroup& group : groups)
-        for (const std::string& path : group.paths) escaped = escaped || !bench::isUtf8(path);
-    bench::JsonWriter json;
+        for (const std::string& path : group.paths) escaped = escaped || !isUtf8(path);
+    std::string text;
+    cli::Output output([&text](std::string_view bytes) {
+        text += bytes;
+        return 0;
+    });
+    cli::JsonWriter json(output);
     json.open('{').key("groups").open('[');
     for (const DuplicateGroup& group : groups) {
         json.open('{').key("hash").text(group.hash).key("size").number(group.size).key("paths").open('[');
-        for (const std::string& path : group.paths) json.text(escaped ? bench::percentEscaped(path) : path);
+        for (const std::string& path : group.paths) json.text(escaped ? percentEncoded(path) : path);
         json.close(']').close('}');
     }
     json.close(']');
@@ -71,7 +79,8 @@ std::string jsonOf(DuplicateFinder& finder, const Options& options) {
     const auto seconds = [](auto from, auto to) { return std::chrono::duration<double>(to - from).count(); };
     json.key("seconds").open('{').key("list").number(seconds(start, listed));
     json.key("hash").number(seconds(listed, end)).close('}').key("bytesHashed").number(hashed).close('}');
-    return json.json() + "\n";
+    output.finish();
+    return text + "\n";
 }
 
 std::string pathsOf(const DuplicateFinder& finder, const Options& options) {

@@ -28,7 +28,8 @@
 //                (AppCommands), the sidebar, the status item, the question before an end that comes too soon
 //   app/         this file: makes the platform, the model and the shell, and nothing else
 //
-// Apart from them stands admin/: zelk-admin, the small program that does what only root may on Linux.
+// Beside ui/ stands cli/: zelk-survey, the survey for the terminal. Apart from them all stands admin/: zelk-admin, the
+// small program that does what only root may on Linux.
 //
 // Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures.
 

@@ -59,6 +59,9 @@ public:
     /// The name in bytes; the whole absolute path on a scan root; empty on the synthetic top.
     std::string_view name() const;
     bool isDirectory() const { return isDirectory_; }
+    /// Whether the walk could not read it; it then has neither files nor children. Set by the worker that visits it.
+    bool isUnreadable() const { return isUnreadable_; }
+    void setUnreadable() { isUnreadable_ = 1; }
     /// Null for the synthetic top and for a node whose parent is gone.
     FSNode* parent() const { return parent_; }
 
@@ -83,14 +86,19 @@ public:
 private:
     friend class NodeRef;
     FSNode(std::uint32_t nameLength, TimePoint modified, bool isDirectory)
-        : lastModified(modified), nameLength_(nameLength), isDirectory_(isDirectory), keepsParent_(false) {}
+        : lastModified(modified),
+          nameLength_(nameLength),
+          isDirectory_(isDirectory),
+          isUnreadable_(false),
+          keepsParent_(false) {}
     ~FSNode() = default;
     static void release(FSNode* node);
 
     FSNode* parent_ = nullptr;
     std::atomic<std::uint32_t> references_{0};
-    std::uint32_t nameLength_ : 30;
+    std::uint32_t nameLength_ : 29;
     std::uint32_t isDirectory_ : 1;
+    std::uint32_t isUnreadable_ : 1;
     std::uint32_t keepsParent_ : 1;  ///< removed from its parent's children; keeps the parent alive
 };
 

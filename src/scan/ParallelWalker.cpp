@@ -112,10 +112,7 @@ void ParallelWalker::visit(Worker& worker, const Work& work) {
     work.node->fullPath(worker.path);
     worker.inTrash = work.inTrash || trash_.areAt(worker.path);
     const DirectoryReader::Entries* entries = work.root ? openAt(worker, work) : nullptr;
-    if (entries == nullptr) {
-        collectors_.counters.recordBlocked();
-        return;
-    }
+    if (entries == nullptr) return block(*work.node);
     fill(worker, *work.node, *entries, work.rootDev);
     if (work.depth + 1 < parallelDepth)
         pushChildren(work, worker.inTrash);
@@ -158,10 +155,15 @@ void ParallelWalker::visitInline(Worker& worker, const Work& work) {
         if (entries != nullptr) {
             fill(worker, child, *entries, work.rootDev);
         } else {
-            collectors_.counters.recordBlocked();
+            block(child);
         }
         levels.push_back({&child, 0, worker.path.size(), worker.inTrash});
     }
+}
+
+void ParallelWalker::block(FSNode& node) {
+    node.setUnreadable();
+    collectors_.counters.recordBlocked();
 }
 
 void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::Entries& entries, std::int32_t rootDev) {

@@ -69,6 +69,7 @@ private:
     void visit(Worker& worker, const Work& work);
     static const DirectoryReader::Entries* openAt(Worker& worker, const Work& work);
     void visitInline(Worker& worker, const Work& work);
+    void block(FSNode& node);
     void fill(Worker& worker, FSNode& node, const DirectoryReader::Entries& entries, std::int32_t rootDev);
     void pushChildren(const Work& work, bool inTrash);
     std::pair<std::int64_t, std::int64_t> ingestFiles(const DirectoryReader::Entries& entries, const Worker& worker);

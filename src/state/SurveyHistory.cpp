@@ -17,6 +17,7 @@ namespace {
 
 /// 2001-01-01 00:00:00 UTC, from which the file counts its seconds.
 constexpr TimePoint fileEpoch = 978307200;
+constexpr std::string_view historyName = "history.json";
 
 /// The number that the file holds for `date`. Subtraction rounds dates far from the present, so this takes the
 /// neighbour that reads back as `date`. A date that is not finite would make the whole file invalid and is written as
@@ -142,20 +143,25 @@ std::string encodeHistory(const std::vector<SurveyRecord>& records) {
     return QJsonDocument(array).toJson(QJsonDocument::Compact).toStdString();
 }
 
-std::optional<std::string> SurveyHistory::location() const {
+std::optional<std::string> SurveyHistory::folder() const {
     const std::optional<std::string> support = locations_.applicationSupport();
     if (!support) return std::nullopt;
-    const std::string folder = *support + "/Zelk";
-    // Without the folder, reading and writing simply fail. Never creates the home folder: it may be on a volume that is
-    // mounted later.
+    return *support + "/Zelk";
+}
+
+std::optional<std::string> SurveyHistory::location() const {
+    const std::optional<std::string> place = folder();
+    if (!place) return std::nullopt;
+    // Without the folder, writing simply fails. Never creates the home folder: it may be on a volume that is mounted
+    // later.
     const std::string home = locations_.home();
-    if (!isInFolder(folder, home) || files_.exists(home)) files_.createDirectories(folder);
-    return folder + "/history.json";
+    if (!isInFolder(*place, home) || files_.exists(home)) files_.createDirectories(*place);
+    return pathIn(*place, historyName);
 }
 
 std::vector<SurveyRecord> SurveyHistory::load() const {
-    const std::optional<std::string> path = location();
-    const std::optional<std::string> json = path ? files_.read(*path) : std::nullopt;
+    const std::optional<std::string> place = folder();
+    const std::optional<std::string> json = place ? files_.read(pathIn(*place, historyName)) : std::nullopt;
     return json ? decodeHistory(*json).value_or(std::vector<SurveyRecord>()) : std::vector<SurveyRecord>();
 }
 

@@ -31,6 +31,7 @@ public:
     /// "Zelk/history.json" in the application support folder; absent if the system has none. Creates the folder, but
     /// never a missing home folder.
     std::optional<std::string> location() const;
+    /// Creates nothing.
     std::vector<SurveyRecord> load() const;
     /// Appends `record`, drops the oldest ones above the maximum, writes, and returns the whole list whether or not the
     /// write succeeded.
@@ -44,6 +45,9 @@ public:
     void settle();
 
 private:
+    /// The folder of the file, whether or not it is there.
+    std::optional<std::string> folder() const;
+
     struct Last {
         std::function<bool()> stillWanted;
         SurveyRecord record;

@@ -10,6 +10,8 @@
 namespace zelk {
 namespace {
 
+constexpr std::int64_t minimumFolderBytes = 20'000'000;
+constexpr std::size_t maximumFolders = 400;
 constexpr double minimumDays = 0.2;
 constexpr std::uint64_t minimumGrowth = 50'000'000;
 constexpr double int64Range = 9223372036854775808.0;  // 2^63
@@ -78,6 +80,10 @@ SizeByPath bigFolders(const FSNode& tree, std::int64_t minSize, std::size_t limi
         notes.pop_back();
     }
     return folders;
+}
+
+SizeByPath recordedFolders(const FSNode& tree) {
+    return bigFolders(tree, minimumFolderBytes, maximumFolders);
 }
 
 std::optional<std::int64_t> daysUntilFull(const std::vector<SurveyRecord>& history) {

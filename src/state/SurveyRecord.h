@@ -50,6 +50,9 @@ struct FolderChanges {
 /// which AppModel prevents.
 SizeByPath bigFolders(const FSNode& tree, std::int64_t minSize, std::size_t limit);
 
+/// The big folders as a record holds them: the 400 largest of at least 20 MB.
+SizeByPath recordedFolders(const FSNode& tree);
+
 /// Days until the volume is full at the rate from the first record to the last. Absent without growth, without free
 /// space, or with 4.8 hours or less between the two.
 std::optional<std::int64_t> daysUntilFull(const std::vector<SurveyRecord>& history);

@@ -11,14 +11,6 @@
 
 namespace zelk {
 
-namespace {
-
-// Of the folders that a record holds.
-constexpr std::int64_t minimumFolderBytes = 20'000'000;
-constexpr std::size_t maximumFolders = 400;
-
-}  // namespace
-
 SurveySession::SurveySession(const Platform& platform, std::string home, SurveyResults& results,
                              MainThreadQueue::Sender mainThread, Events events)
     : platform_(platform),
@@ -120,7 +112,7 @@ void SurveySession::takeItems(std::vector<Reclaimable> items) {
 void SurveySession::record(SurveyRecord record, const NodeRef& tree, const std::shared_ptr<SurveyHistory>& history) {
     auto work = [mainThread = mainThread_, waiting = weak_from_this(), withdrawn = withdrawn_, &tasks = platform_.tasks,
                  history, tree, record = std::move(record)]() mutable {
-        record.folders = bigFolders(*tree, minimumFolderBytes, maximumFolders);
+        record.folders = recordedFolders(*tree);
         auto records = history->appendHistoryIf([withdrawn] { return !withdrawn->isSet(); }, record);
         if (!records) return;
         // Cancelled while the file was being written, or later but before the survey counted: the record goes again.

@@ -36,18 +36,20 @@ std::string withoutComments(std::string_view text);
 std::vector<Include> includesOf(const SourceFile& file);
 
 /// Includes that point to the right in platform <- scan <- reclaim <- system <- state <- ui <- app, or within ui/ in
-/// theme <- controls <- charts <- screens <- shell; into one system's folder from outside platform/ and app/, or from
-/// one system's folder into the other's; between admin/ and anything else of the house.
+/// theme <- controls <- charts <- screens <- shell; between cli/ and ui/ or app/, beside which it stands; into one
+/// system's folder from outside platform/ and app/, or from one system's folder into the other's; between admin/ and
+/// anything else of the house.
 std::vector<Violation> checkLayers(const SourceFile& file);
 
-/// Qt in a file that has to do without, directly or through a header of the house that may have it; Qt Quick to the
-/// left of ui/.
+/// Qt in a file that has to do without, directly or through a header of the house that may have it; Qt Quick elsewhere
+/// than in ui/ and app/.
 std::vector<Violation> checkQt(const SourceFile& file);
 
-/// The composition root's class named elsewhere than in app/, bench/, tools/ and tests/ (platform/ defines it).
+/// A class of the composition root named elsewhere than in app/, bench/, tools/ and tests/ (platform/ defines it);
+/// cli/main.cpp may name the one that knows no desktop.
 std::vector<Violation> checkCompositionRoot(const SourceFile& file);
 
-/// The licence line missing, or the file too long: 500 lines, 300 for QML, 100 for main.cpp.
+/// The licence line missing, or the file too long: 500 lines, 300 for QML, 100 for the main.cpp of app/ and cli/.
 std::vector<Violation> checkForm(const SourceFile& file);
 
 /// Every source of the repository below `root`: the code, its build files and its scripts.

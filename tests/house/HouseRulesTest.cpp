@@ -47,6 +47,17 @@ TEST(LayerRule, keepsTheOrderOfTheRoomsOfTheInterface) {
     EXPECT_THAT(checkLayers(including("src/app/main.cpp", "\"ui/shell/B.h\"")), IsEmpty());
 }
 
+TEST(LayerRule, keepsTheProgramForTheTerminalBesideTheInterface) {
+    for (const std::string layer : {"platform", "scan", "reclaim", "system", "state", "cli"})
+        EXPECT_THAT(checkLayers(including("src/cli/A.cpp", "\"" + layer + "/B.h\"")), IsEmpty()) << layer;
+    for (const std::string layer : {"ui", "app", "admin"})
+        EXPECT_THAT(checkLayers(including("src/cli/A.cpp", "\"" + layer + "/B.h\"")), SizeIs(1)) << layer;
+    for (const std::string layer : {"platform", "scan", "reclaim", "system", "state", "ui", "app", "admin"})
+        EXPECT_THAT(checkLayers(including("src/" + layer + "/A.cpp", "\"cli/B.h\"")), SizeIs(1)) << layer;
+    for (const std::string header : {"\"platform/linux/A.h\"", "\"platform/posix/A.h\""})
+        EXPECT_THAT(checkLayers(including("src/cli/main.cpp", header)), SizeIs(1)) << header;
+}
+
 TEST(LayerRule, namesTheLine) {
     const auto found = checkLayers({"src/scan/A.cpp", kLicence + "\n#include \"scan/A.h\"\n#include \"ui/B.h\"\n"});
     ASSERT_THAT(found, SizeIs(1));
@@ -136,15 +147,25 @@ TEST(QtRule, allowsQtCoreInStateAndQtQuickInUiOnly) {
 
 TEST(CompositionRootRule, letsOnlyTheOutermostProgramsNameThePlatform) {
     const std::string use = kLicence + "\nNativePlatform platform;\n";
-    for (const std::string path : {"src/scan/A.cpp", "src/reclaim/A.cpp", "src/state/A.cpp", "src/ui/A.cpp"}) {
+    for (const std::string path : {"src/scan/A.cpp", "src/reclaim/A.cpp", "src/state/A.cpp", "src/ui/A.cpp",
+                                   "src/cli/A.cpp", "src/cli/main.cpp"}) {
         const auto found = checkCompositionRoot({path, use});
         ASSERT_THAT(found, SizeIs(1)) << path;
         EXPECT_EQ(found[0].line, 3);
     }
     for (const std::string path : {"src/app/main.cpp", "src/platform/NativePlatform.h", "src/platform/linux/A.cpp",
-                                   "bench/survey.cpp", "tools/tour.cpp", "tests/e2e/A.cpp"}) {
+                                   "bench/windows.cpp", "tools/tour.cpp", "tests/e2e/A.cpp"}) {
         EXPECT_THAT(checkCompositionRoot({path, use}), IsEmpty()) << path;
     }
+}
+
+TEST(CompositionRootRule, letsTheProgramForTheTerminalNameTheStorage) {
+    const std::string use = kLicence + "\nNativeStorage storage;\n";
+    for (const std::string path :
+         {"src/cli/main.cpp", "src/app/main.cpp", "src/platform/linux/A.cpp", "tests/cli/A.cpp"})
+        EXPECT_THAT(checkCompositionRoot({path, use}), IsEmpty()) << path;
+    for (const std::string path : {"src/cli/Program.cpp", "src/state/A.cpp", "src/ui/A.cpp"})
+        EXPECT_THAT(checkCompositionRoot({path, use}), SizeIs(1)) << path;
 }
 
 TEST(CompositionRootRule, looksAtWholeWordsOutsideComments) {
@@ -176,8 +197,10 @@ TEST(FormRule, countsTheLastLineWithAndWithoutItsBreak) {
     EXPECT_THAT(checkForm({"src/scan/A.cpp", lines(500) + "x"}), SizeIs(1));
     EXPECT_THAT(checkForm({"src/ui/A.qml", lines(300)}), IsEmpty());
     EXPECT_THAT(checkForm({"src/ui/A.qml", lines(301)}), SizeIs(1));
-    EXPECT_THAT(checkForm({"src/app/main.cpp", lines(100)}), IsEmpty());
-    EXPECT_THAT(checkForm({"src/app/main.cpp", lines(101)}), SizeIs(1));
+    for (const std::string program : {"src/app/main.cpp", "src/cli/main.cpp"}) {
+        EXPECT_THAT(checkForm({program, lines(100)}), IsEmpty()) << program;
+        EXPECT_THAT(checkForm({program, lines(101)}), SizeIs(1)) << program;
+    }
 }
 
 TEST(Comments, goAndLeaveLinesAndStringsInPlace) {

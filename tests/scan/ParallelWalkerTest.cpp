@@ -166,6 +166,10 @@ TEST_F(ParallelWalkerTest, unreadableDirectoryIsCountedOnceAndEmpty) {
     EXPECT_EQ(result.stats.blockedPaths, 2);
     EXPECT_EQ(result.stats.totalBytes, 12);
     EXPECT_EQ(result.stats.dirsScanned, 8) << "a blocked directory is no scanned one";
+    EXPECT_TRUE(at(result, "/r/shut")->isUnreadable());
+    EXPECT_TRUE(at(result, "/r/1/2/3/4/5/6/shut")->isUnreadable());
+    EXPECT_FALSE(at(result, "/r")->isUnreadable());
+    EXPECT_FALSE(at(result, "/r/1/2/3/4/5/6")->isUnreadable());
     const FSNode* shut = at(result, "/r/shut");
     ASSERT_NE(shut, nullptr);
     EXPECT_EQ(shut->size, 0);

@@ -310,6 +310,15 @@ TEST_F(StoredHistory, createsItsFolderInApplicationSupport) {
     EXPECT_TRUE(files.exists("/home/me/support/Zelk"));
 }
 
+TEST_F(StoredHistory, isReadWithoutCreatingAnything) {
+    EXPECT_THAT(history.load(), IsEmpty());
+    EXPECT_FALSE(files.exists("/home/me/support"));
+    history.appendHistory(sample());
+    const std::size_t before = files.calls().size();
+    EXPECT_THAT(history.load(), ElementsAre(sample()));
+    for (std::size_t at = before; at < files.calls().size(); ++at) EXPECT_EQ(files.calls()[at].operation, "read");
+}
+
 TEST_F(StoredHistory, doesNotCreateMissingHome) {
     files.erase("/home/me");
     EXPECT_EQ(history.location(), path);

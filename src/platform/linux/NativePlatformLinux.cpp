@@ -2,51 +2,34 @@
 #include <string>
 
 #include "platform/NativePlatform.h"
+#include "platform/NativeStorage.h"
 #include "platform/linux/apps/LinuxWorkspace.h"
-#include "platform/linux/files/LinuxDirectoryReader.h"
-#include "platform/linux/files/LinuxFileManager.h"
-#include "platform/linux/files/LinuxLocations.h"
 #include "platform/linux/trash/LinuxTrash.h"
 #include "platform/linux/vitals/LinuxVitals.h"
-#include "platform/posix/DescriptorLimit.h"
 #include "platform/posix/PosixChildProcess.h"
-#include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixFileContents.h"
 #include "platform/posix/PosixTasks.h"
-#include "platform/posix/ThreadCount.h"
 
 namespace zelk {
 
 struct NativePlatform::Services {
     explicit Services(const std::string& home)
-        : locations(home), trash(home), workspace(*locations.applicationSupport(), trash.location()) {}
+        : storage(home), trash(home), workspace(*files.locations.applicationSupport(), trash.location()) {}
 
-    PosixClock clock;
+    NativeStorage storage;
+    const Storage& files = storage.storage();
     ThreadTasks tasks;
-    LinuxDirectoryService directories;
-    LinuxFileManager files;
     PosixFileContents contents;
     LinuxVitals vitals;
-    LinuxLocations locations;
     LinuxTrash trash;
     PosixChildProcess processes;
     LinuxWorkspace workspace;
-    Platform record{clock,
-                    directories,
-                    files,
-                    contents,
-                    trash,
-                    vitals,
-                    locations,
-                    tasks,
-                    processes,
-                    workspace,
-                    SystemKind::desktopLinux};
+    Platform record{
+        files.clock, files.directories,       files.files, contents, trash, vitals, files.locations, tasks, processes,
+        workspace,   SystemKind::desktopLinux};
 };
 
-NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {
-    raiseDescriptorLimit();
-}
+NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {}
 
 NativePlatform::~NativePlatform() = default;
 
@@ -55,7 +38,7 @@ Platform& NativePlatform::platform() {
 }
 
 bool NativePlatform::drain(double seconds) {
-    return drainThreads(seconds);
+    return services_->storage.drain(seconds);
 }
 
 }  // namespace zelk

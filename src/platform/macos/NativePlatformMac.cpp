@@ -2,41 +2,32 @@
 #include <string>
 
 #include "platform/NativePlatform.h"
-#include "platform/macos/BulkDirectoryReader.h"
-#include "platform/macos/MacFileManager.h"
-#include "platform/macos/MacLocations.h"
+#include "platform/NativeStorage.h"
 #include "platform/macos/MacTrash.h"
 #include "platform/macos/MacVitals.h"
 #include "platform/macos/MacWorkspace.h"
-#include "platform/posix/DescriptorLimit.h"
 #include "platform/posix/PosixChildProcess.h"
-#include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixFileContents.h"
 #include "platform/posix/PosixTasks.h"
-#include "platform/posix/ThreadCount.h"
 
 namespace zelk {
 
 struct NativePlatform::Services {
-    explicit Services(const std::string& home) : locations(home), trash(locations.home()) {}
+    explicit Services(const std::string& home) : storage(home), trash(files.locations.home()) {}
 
-    PosixClock clock;
+    NativeStorage storage;
+    const Storage& files = storage.storage();
     ThreadTasks tasks;
-    BulkDirectoryService directories;
-    MacFileManager files;
     PosixFileContents contents;
     MacVitals vitals;
-    MacLocations locations;
     MacTrash trash;
     PosixChildProcess processes;
     MacWorkspace workspace;
-    Platform record{clock, directories, files,     contents,         trash, vitals, locations,
-                    tasks, processes,   workspace, SystemKind::macOS};
+    Platform record{files.clock, files.directories, files.files, contents,         trash, vitals, files.locations,
+                    tasks,       processes,         workspace,   SystemKind::macOS};
 };
 
-NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {
-    raiseDescriptorLimit();
-}
+NativePlatform::NativePlatform(const std::string& home) : services_(std::make_unique<Services>(home)) {}
 
 NativePlatform::~NativePlatform() = default;
 
@@ -45,7 +36,7 @@ Platform& NativePlatform::platform() {
 }
 
 bool NativePlatform::drain(double seconds) {
-    return drainThreads(seconds);
+    return services_->storage.drain(seconds);
 }
 
 }  // namespace zelk

@@ -10,19 +10,8 @@
 
 namespace zelk {
 
-/// Atomically replaces or creates the file at `path`; its folder must exist. At every moment the old or the new content
-/// is there, whole.
-///
-/// - Follows a symbolic link and replaces its target, since users link such files into place. A dangling link creates
-///   its target.
-/// - Replaces regular files only: a folder, pipe or device is a failure.
-/// - Creates files readable by their owner only (0600); keeps the permissions of existing ones.
-/// - False leaves the old content and no temporary file. The next write into the same folder removes the temporary file
-///   of a killed writer.
-/// - True means that readers see the new content. It is also on the disk, unless the system refuses to flush the
-///   folder; then a power loss may restore the old content, whole. That is not a failure, since false promises that the
-///   old content is in place.
-/// - With two concurrent writers the later rename wins; contents never mix.
+/// Atomically replaces or creates the file at `path`, readable by its owner only, with this content; see ReplacedFile.
+/// At every moment the old or the new content is there, whole. False leaves the old content and no temporary file.
 bool replaceFileDurably(const std::string& path, std::string_view content);
 
 /// No file of Zelk is larger, and a damaged one must not exhaust memory.
