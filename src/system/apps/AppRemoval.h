@@ -27,7 +27,8 @@ struct AppRemoval {
 
 /// Removes an application by what its kind asks for: its own tool, an administrator, or the Trash. Never its leftovers,
 /// and nothing but it: what the tool would take along makes it fail. On Linux it is gone only if it is no longer where
-/// it was, in whatever revision; macOS is believed. What is the user's own is looked for again first. Blocking, for as long as a question for an administrator stays open.
+/// it was, in whatever revision; macOS is believed. What is the user's own is looked for again first. Blocking, for as
+/// long as a question for an administrator stays open.
 AppRemoval removeApplication(const Platform& platform, const AppEntry& app);
 
 /// Whether an application of Linux is there, be it in another revision. Blocking.
