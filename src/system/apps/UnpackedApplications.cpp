@@ -118,9 +118,8 @@ private:
         };
         std::map<std::string, Starters> offered;
         for (const auto& [folder, starters] : byFolder) {
-            const bool isNamed = std::any_of(others.begin(), others.end(), [&folder = folder](const auto& other) {
-                return isInFolder(other, folder);
-            });
+            const bool isNamed = std::any_of(others.begin(), others.end(),
+                                             [&own = folder](const auto& other) { return isInFolder(other, own); });
             if (!isNamed && !isNested(folder) && starters.programs.size() == 1 && mayGo(folder))
                 offered.emplace(folder, starters);
         }

@@ -80,23 +80,21 @@ std::string DuplicateRows::hashAt(int row) const {
 }
 
 QVariant DuplicateRows::value(std::size_t row, int role) const {
-    const auto [card, place] = placeOf(row);
+    const Place at = placeOf(row);
+    const Card* const card = at.card;
+    const std::size_t place = at.row;
     const bool isHead = place == 0;
     const std::string& path = card->paths[isHead ? 0 : place - 1];
-    const auto text = [&, card = card] {
+    const auto text = [&] {
         if (!isHead) return displayText(path);
         return tr("%1 copies · %2 each").arg(QString::number(card->paths.size()), byteFigure(card->size));
     };
-    const auto gain = [&, card = card] {
-        return isHead ? tr("save %1").arg(byteFigure(card->recoverable)) : QString();
-    };
-    const auto tag = [&, place = place] {
+    const auto gain = [&] { return isHead ? tr("save %1").arg(byteFigure(card->recoverable)) : QString(); };
+    const auto tag = [&] {
         if (isHead) return QString();
         return place == 1 ? tr("keep") : tr("dup");
     };
-    const auto note = [&, card = card, place = place] {
-        return !isHead && card->linked[place - 1] ? tr("hard link") : QString();
-    };
+    const auto note = [&] { return !isHead && card->linked[place - 1] ? tr("hard link") : QString(); };
     switch (role) {
         case headRole:
             return isHead;
