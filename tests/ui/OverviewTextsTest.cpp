@@ -136,6 +136,7 @@ TEST_F(OverviewTexts, followSurveyWithinQuarterOfASecond) {
     screen.pressScan();
     runUntil([&] { return screen.items() >= 20'000; });
     // In the button, where it fades in, and below.
+    runUntil([&] { return figure(26) != nullptr; });
     for (NumberItem* number : {figure(26), qobject_cast<NumberItem*>(find("scannedItems"))}) {
         ASSERT_NE(number, nullptr);
         EXPECT_EQ(animation(*number).duration(), 250);
