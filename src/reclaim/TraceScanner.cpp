@@ -73,6 +73,7 @@ bool isHeld(FileManager& files, const BrowserLock& lock) {
 /// The paths of a database's companions, whether or not they exist.
 std::vector<std::string> companionsOf(const std::string& database) {
     std::vector<std::string> paths;
+    paths.reserve(companionEndings.size());
     for (const std::string_view ending : companionEndings) paths.push_back(database + std::string(ending));
     return paths;
 }
