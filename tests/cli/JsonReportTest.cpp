@@ -5,6 +5,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+
 #include "SampleSurvey.h"
 #include "cli/JsonWriter.h"
 

@@ -3,6 +3,7 @@
 // begins with its own object, a file is an object. Without recursion, and strict: anything else throws.
 #pragma once
 
+#include <algorithm>
 #include <cctype>
 #include <cstdint>
 #include <cstdlib>

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <sysexits.h>
 
+#include <algorithm>
 #include <array>
 #include <nlohmann/json.hpp>
 

@@ -33,6 +33,29 @@ RowList {
         list.duplicates.press(list.currentIndex);
     }
 
+    // What an undo brings back may have pushed the current row out of sight, where the keyboard would be lost.
+    function showCurrent() {
+        const row = list.currentItem;
+        if (list.currentIndex < 0)
+            return;
+        if (!row || row.y + row.height <= list.contentY || row.y >= list.contentY + list.height)
+            list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+    }
+
+    onCountChanged: revealing.restart()
+    onActiveFocusChanged: revealing.restart()
+
+    // Once the rows have their places.
+    Timer {
+        id: revealing
+
+        interval: 0
+        onTriggered: {
+            if (list.activeFocus)
+                list.showCurrent();
+        }
+    }
+
     Connections {
         target: list.duplicates
 
