@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "AppsViewFixture.h"
 
 namespace zelk {

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <QTest>
+#include <algorithm>
 #include <memory>
 
 #include "TextsOf.h"
@@ -251,6 +252,25 @@ TEST_F(DuplicatesWindow, undoBringsTheSetBack) {
     settle();
     EXPECT_THAT(seenTexts(), Contains("2 sets · 8 MB recoverable"));
     EXPECT_THAT(seenTexts(), Contains("2 items were restored."));
+}
+
+TEST_F(DuplicatesWindow, undoLeavesTheCurrentRowInSight) {
+    for (int copy = 0; copy < 40; ++copy)
+        fakes::addFilled(machine, "/home/me/c/" + std::to_string(copy), 'c', 2'950'000);
+    openFilled({900, 500});
+    list().forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Home);
+    press(Qt::Key_Return);
+    settleRemovals();
+    model().undoLastRemoval();
+    runUntil([this] { return !model().removalUndo().underWay(); });
+    settle();
+    settle();  // the rows have their places now
+    ASSERT_TRUE(list().hasActiveFocus());
+    const auto* row = list().property("currentItem").value<QQuickItem*>();
+    ASSERT_NE(row, nullptr);
+    const QRectF box = row->mapRectToItem(&list(), QRectF({}, row->size()));
+    EXPECT_TRUE(QRectF({}, list().size()).intersects(box));
 }
 
 TEST_F(DuplicatesWindow, makesOnlyTheRowsInView) {
