@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     checkPackages(text);
     checkFolders(text);
-    for (const std::string& name : zelk::parseAptRemovals(text)) require(name.find('\n') == std::string::npos);
+    for (const std::string& name : zelk::parseAptChanges(text).removed) require(name.find('\n') == std::string::npos);
     zelk::parseFlatpakSize(text);
     return 0;
 }
