@@ -46,7 +46,7 @@ bool isPlaceholder(std::string_view word) {
 }
 
 /// The words of `line` that stand for the placeholders of `form`. Absent if the line differs elsewhere, if one is no
-/// plain word, or if two stand for the same placeholder.
+/// plain word, or if two different ones stand for the same placeholder.
 std::optional<std::vector<std::string>> wordsInPlaces(std::string_view line, std::string_view form) {
     const std::vector<std::string_view> said = separatedByBlanks(line);
     const std::vector<std::string_view> expected = separatedByBlanks(form);
