@@ -12,8 +12,7 @@ namespace zelk {
 QString byteFigure(std::int64_t bytes, const QLocale& locale) {
     constexpr std::int64_t firstWithUnit = 1000;
     if (bytes == 1) return QCoreApplication::translate("Figures", "1 byte");
-    if (bytes < firstWithUnit)
-        return QCoreApplication::translate("Figures", "%n bytes", nullptr, forPlural(std::max<std::int64_t>(bytes, 0)));
+    if (bytes < firstWithUnit) return QCoreApplication::translate("Figures", "%n bytes", nullptr, forPlural(bytes));
     return QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString()));
 }
 
