@@ -722,7 +722,7 @@
     </message>
     <message>
         <source>Findings</source>
-        <translation>Gefunden</translation>
+        <translation>Ergebnisse</translation>
     </message>
     <message>
         <source>Scanned storage</source>
@@ -999,7 +999,7 @@
     </message>
     <message>
         <source>Everything moves to the Trash by default, so it&apos;s reversible. A dry-run sheet always previews exactly what will be removed before anything happens.</source>
-        <translation>Normalerweise kommt alles in den Papierkorb und lässt sich zurückholen. Bevor irgendetwas geschieht, zeigt eine Vorschau immer genau, was entfernt wird.</translation>
+        <translation>Standardmäßig kommt alles in den Papierkorb und lässt sich zurückholen. Bevor irgendetwas geschieht, zeigt eine Vorschau immer genau, was entfernt wird.</translation>
     </message>
     <message>
         <source>Clutter</source>
@@ -1692,7 +1692,7 @@
     </message>
     <message>
         <source>scanning…</source>
-        <translation>läuft&#xa0;…</translation>
+        <translation>Analyse läuft&#xa0;…</translation>
     </message>
     <message>
         <source>recoverable</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>Delete permanently by default</source>
-        <translation>Normalerweise endgültig löschen</translation>
+        <translation>Standardmäßig endgültig löschen</translation>
     </message>
     <message>
         <source>Off keeps cleanup reversible (moves to Trash).</source>
@@ -2065,7 +2065,7 @@
     </message>
     <message>
         <source>Show Folder</source>
-        <translation>Ordner zeigen</translation>
+        <translation>Ordner anzeigen</translation>
     </message>
     <message>
         <source>Zelk needs Full Disk Access</source>
@@ -2121,7 +2121,7 @@
     </message>
     <message>
         <source>Open Survey and press Run Survey. Zelk walks your home folder, measuring real allocated size and deduping hardlinks so the numbers match du.</source>
-        <translation>Öffnen Sie die Übersicht und starten Sie die Analyse. Zelk geht durch Ihren persönlichen Ordner, misst den wirklich belegten Platz und zählt Hardlinks nur einmal, damit die Zahlen mit du übereinstimmen.</translation>
+        <translation>Öffnen Sie die Übersicht und starten Sie die Analyse. Zelk geht durch Ihren persönlichen Ordner, misst den wirklich belegten Platz und zählt Hardlinks nur einmal, damit die Zahlen mit „du“ übereinstimmen.</translation>
     </message>
     <message>
         <source>Every module has its own scan button — nothing runs until you ask. Use the Go menu (⌘1–⌘9) or the sidebar to move between modules.</source>
@@ -2189,11 +2189,11 @@
     </message>
     <message>
         <source>Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default to the Trash, and admin actions always go through the standard macOS authorization prompt.</source>
-        <translation>Nichts wird irgendwohin hochgeladen – Analyse und Bereinigung geschehen nur auf Ihrem Gerät. Gelöschtes kommt normalerweise in den Papierkorb, und was einen Administrator braucht, geht immer über die übliche Nachfrage von macOS.</translation>
+        <translation>Nichts wird irgendwohin hochgeladen – Analyse und Bereinigung geschehen nur auf Ihrem Gerät. Gelöschtes kommt standardmäßig in den Papierkorb, und was einen Administrator braucht, geht immer über die übliche Nachfrage von macOS.</translation>
     </message>
     <message>
         <source>Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default to the Trash, and admin actions always go through your desktop&apos;s authorization prompt.</source>
-        <translation>Nichts wird irgendwohin hochgeladen – Analyse und Bereinigung geschehen nur auf Ihrem Gerät. Gelöschtes kommt normalerweise in den Papierkorb, und was einen Administrator braucht, geht immer über die Nachfrage Ihres Schreibtischs.</translation>
+        <translation>Nichts wird irgendwohin hochgeladen – Analyse und Bereinigung geschehen nur auf Ihrem Gerät. Gelöschtes kommt standardmäßig in den Papierkorb, und was einen Administrator braucht, geht immer über die Nachfrage Ihrer Arbeitsumgebung.</translation>
     </message>
     <message>
         <source>Zelk is non-sandboxed so it can survey the whole drive; that&apos;s why it&apos;s distributed directly (Developer ID + notarization), not via the App Store.</source>
@@ -2221,11 +2221,11 @@
     </message>
     <message>
         <source>Reconcile the mystery gap — purgeable space, local snapshots, and SIP-protected areas.</source>
-        <translation>Klärt die rätselhafte Lücke – löschbarer Platz, lokale Schnappschüsse und von SIP geschützte Bereiche.</translation>
+        <translation>Klärt die rätselhafte Lücke: löschbarer Platz, lokale Schnappschüsse und von SIP geschützte Bereiche.</translation>
     </message>
     <message>
         <source>Reconcile the mystery gap — purgeable space, local snapshots, and protected areas.</source>
-        <translation>Klärt die rätselhafte Lücke – löschbarer Platz, lokale Schnappschüsse und geschützte Bereiche.</translation>
+        <translation>Klärt die rätselhafte Lücke: löschbarer Platz, lokale Schnappschüsse und geschützte Bereiche.</translation>
     </message>
     <message>
         <source>Purgeable space — including freeable snapshots — is reclaimed automatically by macOS under pressure. It&apos;s not junk.</source>
@@ -2453,7 +2453,7 @@
     <name>zelk::AgentRows</name>
     <message>
         <source>in place of the system&apos;s own</source>
-        <translation>statt des Programms vom System</translation>
+        <translation>anstelle des systemeigenen Eintrags</translation>
     </message>
     <message>
         <source>Not removable: without it the system&apos;s own item would start.</source>
@@ -2774,15 +2774,15 @@
     <message numerus="yes">
         <source>across %1 items.</source>
         <translation>
-            <numerusform>in %1 Objekt.</numerusform>
-            <numerusform>in %1 Objekten.</numerusform>
+            <numerusform>aus %1 Objekt.</numerusform>
+            <numerusform>aus %1 Objekten.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>across %1 items · most space: %2</source>
         <translation>
-            <numerusform>in %1 Objekt · am meisten Platz: %2</numerusform>
-            <numerusform>in %1 Objekten · am meisten Platz: %2</numerusform>
+            <numerusform>aus %1 Objekt · am meisten Platz: %2</numerusform>
+            <numerusform>aus %1 Objekten · am meisten Platz: %2</numerusform>
         </translation>
     </message>
 </context>
@@ -3004,13 +3004,13 @@
     <name>zelk::SettingsScreenModel</name>
     <message>
         <source>Age filter default: all</source>
-        <translation>Altersfilter: alle</translation>
+        <translation>Vorgabe des Altersfilters: alle</translation>
     </message>
     <message numerus="yes">
         <source>Age filter default: %1 days</source>
         <translation>
-            <numerusform>Altersfilter: %1 Tag</numerusform>
-            <numerusform>Altersfilter: %1 Tage</numerusform>
+            <numerusform>Vorgabe des Altersfilters: %1 Tag</numerusform>
+            <numerusform>Vorgabe des Altersfilters: %1 Tage</numerusform>
         </translation>
     </message>
 </context>
@@ -3108,7 +3108,7 @@
     </message>
     <message>
         <source>The snapshot is gone.</source>
-        <translation>Der Schnappschuss ist entfernt.</translation>
+        <translation>Der Schnappschuss wurde entfernt.</translation>
     </message>
     <message>
         <source>No snapshot was removed.</source>
@@ -3146,7 +3146,7 @@
     </message>
     <message>
         <source>Clean safe caches (%1)</source>
-        <translation>Unbedenkliches bereinigen (%1)</translation>
+        <translation>Unbedenkliche Zwischenspeicher bereinigen (%1)</translation>
     </message>
     <message>
         <source>Quit Zelk</source>
@@ -3173,7 +3173,7 @@
     </message>
     <message>
         <source>scanning…</source>
-        <translation>läuft&#xa0;…</translation>
+        <translation>Analyse läuft&#xa0;…</translation>
     </message>
     <message>
         <source>Scan %1</source>
@@ -3350,7 +3350,7 @@
     </message>
     <message>
         <source>Check memory pressure, free up RAM, flush caches, and trim startup items.</source>
-        <translation>Prüft die Speicherauslastung, gibt Arbeitsspeicher frei, leert Zwischenspeicher und lichtet die Programme beim Anmelden.</translation>
+        <translation>Prüft die Speicherauslastung, gibt Arbeitsspeicher frei, leert Zwischenspeicher und lichtet, was beim Anmelden startet.</translation>
     </message>
     <message>
         <source>Scanning…</source>
@@ -3379,8 +3379,8 @@
     <message numerus="yes">
         <source>Remove %n selected</source>
         <translation>
-            <numerusform>%n ausgewähltes entfernen</numerusform>
-            <numerusform>%n ausgewählte entfernen</numerusform>
+            <numerusform>Auswahl entfernen (%n)</numerusform>
+            <numerusform>Auswahl entfernen (%n)</numerusform>
         </translation>
     </message>
 </context>

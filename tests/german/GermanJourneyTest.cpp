@@ -43,7 +43,7 @@ TEST_F(InGerman, namesTheScreensAndTheMenus) {
 TEST_F(InGerman, saysWhatASurveyFound) {
     surveyInGerman();
     EXPECT_TRUE(says("Sie können zurückgewinnen"));
-    EXPECT_TRUE(says("in 6 Objekten · am meisten Platz: Videos"));
+    EXPECT_TRUE(says("aus 6 Objekten · am meisten Platz: Videos"));
     EXPECT_TRUE(says("6 Objekte Datenmüll"));
     EXPECT_TRUE(says("2 große Dateien"));
     EXPECT_TRUE(says("3 GB"));

@@ -106,7 +106,7 @@ QStringList checkGermanMarks(const Message& message) {
         {QRegularExpression(QStringLiteral("\\.\\.\\.")), "an ellipsis is one character"},
         {QRegularExpression(QStringLiteral("[\\w ]…|[\\d] %(?![\\dnL])")), "before … and % stands a no-break space"},
         {QRegularExpression(QStringLiteral("(^| )& ")), "“&” is written “und”"},
-        {QRegularExpression(QStringLiteral("\\b(du|dein|deine|deinen|deinem|deiner|dir|dich)\\b")),
+        {QRegularExpression(QStringLiteral("(?<!„)\\b(du|dein|deine|deinen|deinem|deiner|dir|dich)\\b")),
          "readers are “Sie”"},
     };
     QStringList wrong;
