@@ -86,8 +86,8 @@ QStringList checkMessage(const Message& message, int forms) {
         if (translation.endsWith(u'…') != message.source.endsWith(u'…'))
             wrong += QStringLiteral("one of both ends in “…”: %1").arg(translation);
         // A sentence stays one.
-        if (translation.endsWith(u'.') && !message.source.endsWith(u'.') &&
-            !translation.endsWith(QStringLiteral("T.")) && !translation.endsWith(QStringLiteral("Min.")))
+        static const QRegularExpression stop(QStringLiteral("(?<!\\bT|\\bStd|\\bMin)\\.$"));
+        if (stop.match(translation).hasMatch() && !message.source.endsWith(u'.'))
             wrong += QStringLiteral("a full stop too many: %1").arg(translation);
         if (message.source.endsWith(u'.') && !translation.endsWith(u'.'))
             wrong += QStringLiteral("a full stop too few: %1").arg(translation);
