@@ -48,6 +48,7 @@
 #include "ui/shell/QuitQuestion.h"
 #include "ui/shell/ShaderCaches.h"
 #include "ui/shell/Shell.h"
+#include "ui/shell/Translations.h"
 
 namespace {
 
@@ -60,6 +61,7 @@ int main(int argc, char** argv) {
     zelk::stopIgnoringChildren();
     zelk::switchOffShaderCachesWhereRoomIsShort();
     QApplication application(argc, argv);
+    const zelk::Translations translations;
     zelk::dressApplication();
     zelk::refuseWindowTabs();
     zelk::NativePlatform native;

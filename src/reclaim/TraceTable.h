@@ -13,12 +13,13 @@
 
 #include "platform/Locations.h"
 #include "platform/SystemKind.h"
+#include "platform/Translation.h"
 
 namespace zelk {
 
 struct Trace {
-    std::string app;                 ///< the short name of the application that left it
-    std::string kind;                ///< what it is
+    std::string app;                 ///< the short name of the application that left it, not translated
+    std::string kind;                ///< what it is, not translated
     std::vector<std::string> paths;  ///< in the table all that there may be; in a scan's result those that exist
     std::uint64_t size = 0;          ///< allocated bytes; 0 in the table
     /// Each path of the table is a database, which is worth nothing without its companions, nor they without it.
@@ -37,7 +38,7 @@ struct Trace {
 };
 
 /// The kind that is worth least, which is ticked at first.
-inline constexpr std::string_view cacheKind = "Caches";
+inline constexpr std::string_view cacheKind = ZELK_TEXT("Reclaim", "Caches");
 
 /// What the names of the files end in that a database has beside it.
 inline constexpr std::array<std::string_view, 3> companionEndings{"-wal", "-shm", "-journal"};

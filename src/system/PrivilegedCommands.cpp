@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Translation.h"
 #include "system/AdminLines.h"
 #include "system/CommandText.h"
 #include "system/MaintenanceLines.h"
@@ -61,7 +62,7 @@ ChildOutcome flushDNSOnLinux(const Platform& platform) {
     if (!isWithoutResolver(resolved)) return resolved;
     if (platform.files.exists(nameServiceCache) && platform.files.exists(nameServiceSocket))
         return throughPkexec(platform.processes, {nameServiceCache, "-i", "hosts"});
-    return {std::nullopt, 0, "No DNS cache runs here."};
+    return {std::nullopt, 0, translated("Command", "No DNS cache runs here.")};
 }
 
 ChildOutcome privilegedOutcome(const Platform& platform, const std::string& line) {
@@ -89,7 +90,7 @@ std::string PrivilegedCommands::runAdmin(const std::string& line) {
 }
 
 bool wasNotAllowed(std::string_view answer) {
-    return answer.starts_with(std::string(refusedAnswer) + "Error executing command as another user: ");
+    return answer.starts_with(refusedAnswer() + "Error executing command as another user: ");
 }
 
 }  // namespace zelk

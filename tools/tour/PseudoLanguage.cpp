@@ -23,9 +23,12 @@ bool isVowel(QChar letter) {
 
 }  // namespace
 
+bool isOfQt(const char* context) {
+    return context[0] == 'Q' && context[1] >= 'A' && context[1] <= 'Z';
+}
+
 QString PseudoLanguage::translate(const char* context, const char* text, const char*, int) const {
-    // The texts of Qt, such as the names of keys, have translations of their own.
-    if (context[0] == 'Q' && context[1] >= 'A' && context[1] <= 'Z') return {};
+    if (isOfQt(context)) return {};
     return spelled(QString::fromUtf8(text));
 }
 

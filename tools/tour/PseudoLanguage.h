@@ -5,6 +5,9 @@
 
 namespace zelk::tour {
 
+/// Whether a context is one of Qt, whose texts, such as the names of keys, have translations of their own.
+bool isOfQt(const char* context);
+
 /// Translates every text into itself in brackets, with accents and at least 40% longer, so that a picture shows which
 /// texts cannot be translated and which have no room for another language. Placeholders are kept.
 class PseudoLanguage : public QTranslator {

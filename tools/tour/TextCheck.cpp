@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 
+#include "MarkedLanguage.h"
 #include "PseudoLanguage.h"
 
 namespace zelk::tour {
@@ -12,7 +13,8 @@ namespace zelk::tour {
 namespace {
 
 bool isTranslated(const QString& text) {
-    return text.startsWith(PseudoLanguage::opening) && text.endsWith(PseudoLanguage::closing);
+    return (text.startsWith(PseudoLanguage::opening) && text.endsWith(PseudoLanguage::closing)) ||
+           (text.startsWith(MarkedLanguage::mark) && text.endsWith(MarkedLanguage::mark));
 }
 
 }  // namespace
@@ -52,8 +54,9 @@ void TextCheck::lookAt(QQuickItem& item, const QRectF& shown, const QString& pic
 }
 
 bool TextCheck::sameEverywhere(const QString& text) const {
-    static const QRegularExpression figure(QStringLiteral(
-        "^[-+−×]?[\\d.,\\s]+(bytes|KB|MB|GB|TB|PB|EB|%|/s)?$|^[~/…].*$|^(Ctrl|Alt|Shift|Meta)\\+.+$|^\\W+$"));
+    static const QRegularExpression figure(
+        QStringLiteral("^[-+−×]?[\\d.,\\s]+(bytes|KB|MB|GB|TB|PB|EB|%|/s)?$|^[~/"
+                       "…].*$|^(Ctrl|Strg|Alt|Shift|Umschalt|Meta)\\+.+$|^\\W+$"));
     static const QRegularExpression divider(QStringLiteral("\\s*·\\s*"));
     const QStringList parts = text.split(divider, Qt::SkipEmptyParts);
     return names_.contains(text) || std::all_of(parts.begin(), parts.end(), [&](const QString& part) {

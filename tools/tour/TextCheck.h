@@ -8,7 +8,8 @@
 
 namespace zelk::tour {
 
-/// Collects, from windows in the pseudo-language, the texts that are not in it and those that are cut off. Numbers,
+/// Collects, from windows in the pseudo-language or a marked one, the texts that are not in it and those that are cut
+/// off. Numbers,
 /// sizes, paths and the names that are given to `allow` are the same in every language.
 class TextCheck {
 public:
@@ -21,7 +22,7 @@ public:
 
     /// One line per text that is wrong, with the first picture that it was seen in.
     const QStringList& findings() const { return findings_; }
-    /// How many texts in the pseudo-language were seen.
+    /// How many texts in the language were seen.
     qsizetype translated() const { return translated_.size(); }
 
 private:

@@ -68,7 +68,7 @@ QString NumberItem::write(double value, Format format, const QLocale& locale) {
         case Count:
             return groupedFigure(number, locale);
         case Percent:
-            return groupedFigure(number, locale) + QLatin1Char('%');
+            return percentFigure(number, locale);
     }
     return {};
 }

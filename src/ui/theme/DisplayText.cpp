@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/ByteFormat.h"
-
 namespace zelk {
 
 namespace {
@@ -68,14 +66,6 @@ QString nameText(std::string_view path) {
 QString folderText(std::string_view path) {
     const std::size_t slash = path.rfind('/');
     return displayText(path.substr(0, slash == 0 ? 1 : slash == std::string_view::npos ? 0 : slash));
-}
-
-QString byteFigure(std::int64_t bytes, const QLocale& locale) {
-    return QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString()));
-}
-
-QString groupedFigure(std::int64_t count, const QLocale& locale) {
-    return locale.toString(static_cast<qlonglong>(count));
 }
 
 QString shortenedPath(const QString& path) {

@@ -2,12 +2,10 @@
 // Converts what system calls take into text for people. Display text never goes back to the system.
 #pragma once
 
-#include <QLocale>
 #include <QString>
-#include <cstdint>
 #include <string_view>
 
-#include "state/UserLocale.h"
+#include "state/Figures.h"
 
 namespace zelk {
 
@@ -25,12 +23,6 @@ QString folderText(std::string_view path);
 /// text. What follows the first 20,000 bytes is left out, with "…" as the last line: laying out more holds up the
 /// window.
 QString printedText(std::string_view output);
-
-/// Formats bytes with the decimal separator of `locale`. A negative count is shown as 0.
-QString byteFigure(std::int64_t bytes, const QLocale& locale = userLocale());
-
-/// Formats the count with the digit grouping of `locale`.
-QString groupedFigure(std::int64_t count, const QLocale& locale = userLocale());
 
 /// Shortens a path for a single line: below 57 characters unchanged, else "…" and the last 55. Counts grapheme
 /// clusters, so that no accent or emoji is cut in two.

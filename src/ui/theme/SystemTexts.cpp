@@ -226,7 +226,7 @@ QString SystemTexts::of(Key key) {
 QString SystemTexts::worded(std::string_view text) {
     for (int key = 0; key < keyCount; ++key)
         if (text == wording(static_cast<Key>(key), System::macOS)) return of(static_cast<Key>(key));
-    return QCoreApplication::translate("ReclaimCatalogue", std::string(text).c_str());
+    return QCoreApplication::translate("Reclaim", std::string(text).c_str());
 }
 
 const char* SystemTexts::wording(Key key, System system) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/Translation.h"
 #include "platform/VitalsArithmetic.h"
 #include "platform/linux/vitals/ProcText.h"
 #include "platform/posix/Descriptor.h"
@@ -102,7 +103,7 @@ std::string LinuxVitals::computerName() const {
     // The kernel's name is the one in effect; it is "(none)" if unset.
     for (const char* file : {"/proc/sys/kernel/hostname", "/etc/hostname"})
         if (std::string name = tidied(readOrEmpty(file)); !name.empty() && name != "(none)") return name;
-    return "This computer";
+    return translated("SystemTexts", "This computer");
 }
 
 std::string LinuxVitals::chip() const {

@@ -74,7 +74,7 @@ QString AppTexts::named(const AppObstacle& obstacle) {
     }
     const QString list = names.join(tr(", ", "between the names of packages"));
     const std::size_t left = obstacle.who.size() - std::min(obstacle.who.size(), namedPackages);
-    return left == 0 ? list : tr("%1 and %2 more").arg(list).arg(left);
+    return left == 0 ? list : tr("%1 and %2 more", "", forPlural(static_cast<std::int64_t>(left))).arg(list).arg(left);
 }
 
 QString AppTexts::obstacle(const AppObstacle& obstacle) {
@@ -110,16 +110,18 @@ QString AppTexts::question(const AppEntry& app, int leftovers, const QString& to
         case AppKind::bundle:
         case AppKind::appImage:
         case AppKind::unpacked:
-            return tr("Moves the app and %1 leftover item(s) to Trash — %2.").arg(leftovers).arg(total);
+            return tr("Moves the app and %1 leftover item(s) to Trash — %2.", "", leftovers).arg(leftovers).arg(total);
         case AppKind::systemFlatpak:
             if (leftovers == 0) return tr("Removes the app through flatpak for all users, for good — %1.").arg(total);
             return tr("Removes the app through flatpak for all users, for good, and moves %1 leftover item(s) to Trash "
-                      "— %2.")
+                      "— %2.",
+                      "", leftovers)
                 .arg(leftovers)
                 .arg(total);
         case AppKind::userFlatpak:
             if (leftovers == 0) return tr("Removes the app through flatpak, for good — %1.").arg(total);
-            return tr("Removes the app through flatpak, for good, and moves %1 leftover item(s) to Trash — %2.")
+            return tr("Removes the app through flatpak, for good, and moves %1 leftover item(s) to Trash — %2.", "",
+                      leftovers)
                 .arg(leftovers)
                 .arg(total);
         case AppKind::snap:
@@ -130,7 +132,8 @@ QString AppTexts::question(const AppEntry& app, int leftovers, const QString& to
             if (leftovers == 0)
                 return tr("Removes the package for all users, for good, once an administrator agrees — %1.").arg(total);
             return tr("Removes the package for all users, for good, once an administrator agrees, and moves %1 "
-                      "leftover item(s) to Trash — %2.")
+                      "leftover item(s) to Trash — %2.",
+                      "", leftovers)
                 .arg(leftovers)
                 .arg(total);
     }
@@ -157,8 +160,10 @@ QString AppTexts::ending(const AppsModel::Ending& ending) {
             sentences += tr("%1 was not removed: it is still there.").arg(name);
             break;
     }
-    if (ending.moved > 0) sentences += tr("Moved to the Trash: %1 leftover item(s).").arg(ending.moved);
-    if (ending.stayed > 0) sentences += tr("Where they were: %1 leftover item(s).").arg(ending.stayed);
+    const auto moved = static_cast<int>(ending.moved);
+    const auto stayed = static_cast<int>(ending.stayed);
+    if (moved > 0) sentences += tr("Moved to the Trash: %1 leftover item(s).", "", moved).arg(moved);
+    if (stayed > 0) sentences += tr("Where they were: %1 leftover item(s).", "", stayed).arg(stayed);
     return sentences.join(QLatin1Char(' '));
 }
 

@@ -50,7 +50,8 @@ bool AppsScreenModel::nothing() const {
 }
 
 QString AppsScreenModel::line() const {
-    return tr("%1 apps · footprint includes caches, support & containers").arg(apps_.apps().size());
+    const auto count = std::ssize(apps_.apps());
+    return tr("%1 apps · footprint includes caches, support & containers", "", forPlural(count)).arg(count);
 }
 
 int AppsScreenModel::order() const {

@@ -105,7 +105,7 @@ void TrendsModel::refresh() {
     for (const SurveyRecord& record : history) totals_.append(static_cast<qreal>(record.totalScanned));
 
     const std::optional<std::int64_t> days = app_.daysUntilFull();
-    forecast_ = days ? tr("≈ %1 days until full at this rate").arg(*days) : QString();
+    forecast_ = days ? tr("≈ %1 days until full at this rate", "", forPlural(*days)).arg(*days) : QString();
     alarming_ = days && *days <= nearDays;
 
     const FolderChanges changes = app_.folderChanges().value_or(FolderChanges());
@@ -120,7 +120,7 @@ QString TrendsModel::arrowName() const {
 }
 
 QString TrendsModel::deltaLine() const {
-    return tr("since your last scan · %1 tracked").arg(totals_.size());
+    return tr("since your last scan · %1 tracked", "", static_cast<int>(totals_.size())).arg(totals_.size());
 }
 
 void TrendsModel::setShowChanges(bool show) {

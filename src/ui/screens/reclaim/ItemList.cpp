@@ -27,7 +27,8 @@ ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup)
 }
 
 QString ItemList::footer() const {
-    return tr("%1 items selected").arg(tallies_.selected.items);
+    return tr("%1 items selected", "", forPlural(static_cast<std::int64_t>(tallies_.selected.items)))
+        .arg(tallies_.selected.items);
 }
 
 QString ItemList::footerBytes() const {
@@ -35,7 +36,7 @@ QString ItemList::footerBytes() const {
 }
 
 QString ItemList::ageText() const {
-    return ageDays() > 0 ? tr("%1 days").arg(ageDays()) : tr("all");
+    return ageDays() > 0 ? tr("%1 days", "", forPlural(ageDays())).arg(ageDays()) : tr("all");
 }
 
 QString ItemList::shownText() const {
