@@ -226,8 +226,11 @@ std::int64_t AppModel::freeBytes() const {
 std::string AppModel::progressLine() const {
     const QLocale locale = userLocale();
     const QString items = locale.toString(static_cast<qlonglong>(itemsScanned()));
-    const std::string bytes = byteText(bytesScanned(), locale.decimalPoint().toStdString());
-    return tr("%1 items · %2").arg(items, QString::fromStdString(bytes)).toStdString();
+    const QString line = tr("%1 items · %2");
+    QString bytes = QString::fromStdString(byteText(bytesScanned(), locale.decimalPoint().toStdString()));
+    // Among words from right to left its unit would be moved to the wrong side.
+    if (line.isRightToLeft()) bytes = QChar(0x2068) + bytes + QChar(0x2069);
+    return line.arg(items, bytes).toStdString();
 }
 
 ReclaimTotals AppModel::reclaimTotals() const {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/ByteFormat.h"
+#include "ui/theme/ReadingDirection.h"
 
 namespace zelk {
 
@@ -17,6 +18,11 @@ constexpr char16_t deletePicture = 0x2421;
 constexpr qsizetype wholePathLimit = 57;
 constexpr qsizetype keptOfLongPath = 55;
 constexpr std::size_t mostPrinted = 20'000;
+
+constexpr char16_t leftToRightIsolate = 0x2066;
+constexpr char16_t firstStrongIsolate = 0x2068;
+constexpr char16_t endOfIsolate = 0x2069;
+constexpr char16_t rightToLeftMark = 0x200F;
 
 bool turnsDirection(char16_t unit) {
     return unit == 0x061C || unit == 0x200E || unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
@@ -33,12 +39,33 @@ QChar visible(QChar character) {
     return character;
 }
 
-}  // namespace
-
-QString displayText(std::string_view bytes) {
+QString visibleText(std::string_view bytes) {
     QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
     for (QChar& character : text) character = visible(character);
     return text;
+}
+
+bool isPath(const QString& text) {
+    return text.startsWith(u'/') || text.startsWith(QStringLiteral("~/")) || text.startsWith(u'…');
+}
+
+}  // namespace
+
+QString isolated(const QString& text) {
+    if (text.isEmpty() || !readsFromRight()) return text;
+    return QChar(isPath(text) ? leftToRightIsolate : firstStrongIsolate) + text + QChar(endOfIsolate);
+}
+
+QString withoutIsolation(QString text) {
+    return text.removeIf([](QChar character) { return character >= leftToRightIsolate && character <= endOfIsolate; });
+}
+
+QString inReadingOrder(const QString& line) {
+    return line.isEmpty() || !readsFromRight() ? line : QChar(rightToLeftMark) + line;
+}
+
+QString displayText(std::string_view bytes) {
+    return isolated(visibleText(bytes));
 }
 
 QString printedText(std::string_view output) {
@@ -52,7 +79,7 @@ QString printedText(std::string_view output) {
         const std::size_t end = std::min(output.find_first_of("\r\n"), output.size());
         std::string line(output.substr(0, end));
         std::replace(line.begin(), line.end(), '\t', ' ');
-        text += displayText(line);
+        text += visibleText(line);
         if (end == output.size()) break;
         text += u'\n';
         output.remove_prefix(end + (output.substr(end, 2) == "\r\n" ? 2 : 1));
@@ -71,21 +98,22 @@ QString folderText(std::string_view path) {
 }
 
 QString byteFigure(std::int64_t bytes, const QLocale& locale) {
-    return QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString()));
+    return isolated(QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString())));
 }
 
 QString groupedFigure(std::int64_t count, const QLocale& locale) {
-    return locale.toString(static_cast<qlonglong>(count));
+    return isolated(locale.toString(static_cast<qlonglong>(count)));
 }
 
-QString shortenedPath(const QString& path) {
-    if (path.size() < wholePathLimit) return path;  // a character has at least one code unit
+QString shortenedPath(const QString& displayed) {
+    const QString path = withoutIsolation(displayed);
+    if (path.size() < wholePathLimit) return displayed;  // a character has at least one code unit
 
     QList<qsizetype> starts;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, path);
     for (qsizetype at = 0; at >= 0 && at < path.size(); at = finder.toNextBoundary()) starts.append(at);
-    if (starts.size() < wholePathLimit) return path;
-    return QStringLiteral("…") + path.mid(starts.at(starts.size() - keptOfLongPath));
+    if (starts.size() < wholePathLimit) return displayed;
+    return isolated(QStringLiteral("…") + path.mid(starts.at(starts.size() - keptOfLongPath)));
 }
 
 }  // namespace zelk

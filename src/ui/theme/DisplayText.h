@@ -11,6 +11,18 @@
 
 namespace zelk {
 
+/// Keeps a text of its own direction together within a text from right to left, by invisible marks around it: a path
+/// always runs from left to right, anything else as its first letter does. Unchanged in an application that reads from
+/// left to right. All functions below but printedText() return their texts so.
+QString isolated(const QString& text);
+
+/// The text without such marks, for what stands alone and is cut or measured by its characters.
+QString withoutIsolation(QString text);
+
+/// A line of several isolated texts with nothing but signs between them, whose order the reader would otherwise not
+/// know. Unchanged in an application that reads from left to right.
+QString inReadingOrder(const QString& line);
+
 /// Converts a name or path for display: repairs invalid UTF-8 with U+FFFD, and replaces control characters, line breaks
 /// and direction overrides by visible marks, so that a name cannot pretend to be another.
 QString displayText(std::string_view bytes);
@@ -22,7 +34,7 @@ QString nameText(std::string_view path);
 QString folderText(std::string_view path);
 
 /// What a tool printed: CR, LF or both are a line break, also at the end, a tab is a space, and the rest is display
-/// text. What follows the first 20,000 bytes is left out, with "…" as the last line: laying out more holds up the
+/// text. It is one from left to right. What follows the first 20,000 bytes is left out, with "…" as the last line: laying out more holds up the
 /// window.
 QString printedText(std::string_view output);
 
@@ -34,6 +46,6 @@ QString groupedFigure(std::int64_t count, const QLocale& locale = userLocale());
 
 /// Shortens a path for a single line: below 57 characters unchanged, else "…" and the last 55. Counts grapheme
 /// clusters, so that no accent or emoji is cut in two.
-QString shortenedPath(const QString& path);
+QString shortenedPath(const QString& displayed);
 
 }  // namespace zelk

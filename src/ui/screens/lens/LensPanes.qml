@@ -148,6 +148,7 @@ FocusScope {
             LensHead {
                 id: head
 
+                anchors.left: parent.left
                 width: panes.listWidth
                 lens: panes.lens
             }
@@ -155,6 +156,7 @@ FocusScope {
             LensList {
                 id: list
 
+                anchors.left: parent.left
                 anchors.top: head.bottom
                 anchors.bottom: parent.bottom
                 width: panes.listWidth
@@ -238,12 +240,14 @@ FocusScope {
 
                 Label {
                     objectName: "lensVolume"
+                    anchors.left: parent.left
                     text: panes.lens.volumeLine
                     size: 11
                     soft: true
                 }
 
                 Rectangle {
+                    anchors.left: parent.left
                     width: 220
                     height: 6
                     radius: 3
@@ -251,6 +255,7 @@ FocusScope {
 
                     AccentFill {
                         objectName: "lensVolumeBar"
+                        anchors.left: parent.left
                         width: parent.width * panes.lens.usedShare
                         height: parent.height
                         corner: 3
