@@ -69,8 +69,9 @@ TEST_F(MirrorCheckWindow, findsTextsAtTheWrongSide) {
 }
 
 TEST_F(MirrorCheckWindow, findsWhatIsSeenFromOneSideOnly) {
-    EXPECT_THAT(findings(R"(Rectangle { objectName: "bar"; anchors.fill: parent; visible: ReadingDirection.mirrored })"),
-                ElementsAre("not mirrored: QQuickRectangle \"bar\" is not seen from left to right, in here"));
+    EXPECT_THAT(
+        findings(R"(Rectangle { objectName: "bar"; anchors.fill: parent; visible: ReadingDirection.mirrored })"),
+        ElementsAre("not mirrored: QQuickRectangle \"bar\" is not seen from left to right, in here"));
 }
 
 TEST_F(MirrorCheckWindow, comparesAMenuWithinItself) {

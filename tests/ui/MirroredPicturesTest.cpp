@@ -122,7 +122,8 @@ TEST(MirroredPictures, symbolsThatPointAlongTheTextAreMirrored) {
         const QImage fromRight = paintedFromRight(symbol, {48, 48});
         directed += isDirectedSymbol(name) ? 1 : 0;
         EXPECT_EQ(fromRight, isDirectedSymbol(name) ? fromLeft.mirrored(true, false) : fromLeft) << name.toStdString();
-        if (isDirectedSymbol(name)) EXPECT_NE(fromRight, fromLeft) << name.toStdString() << " looks the same either way";
+        if (isDirectedSymbol(name))
+            EXPECT_NE(fromRight, fromLeft) << name.toStdString() << " looks the same either way";
     }
     EXPECT_EQ(directed, 9);
 }
@@ -139,8 +140,7 @@ TEST(MirroredPictures, everythingThatPointsForwardOrBackIsMirrored) {
 TEST(MirroredPictures, numberStandsBeforeItsWordsFromTheRight) {
     const fakes::RightToLeft direction;
     const QFont font = QGuiApplication::font();
-    const std::vector<FigurePiece> pieces =
-        layOutFigure(byteFigure(1'500'000'000) + QStringLiteral(" פנויים"), font);
+    const std::vector<FigurePiece> pieces = layOutFigure(byteFigure(1'500'000'000) + QStringLiteral(" פנויים"), font);
     ASSERT_EQ(pieces.size(), 5U);
     EXPECT_EQ(pieces[0].text, QStringLiteral(" פנויים")) << "the words are at the left";
     EXPECT_TRUE(pieces[0].fromRight);
@@ -171,8 +171,7 @@ TEST(MirroredPictures, marksAroundNumbersTakeNoSpace) {
     const double plain = widthOf(QStringLiteral("12.5 GB"));
     const fakes::RightToLeft direction;
     EXPECT_DOUBLE_EQ(widthOf(byteFigure(12'500'000'000)), plain);
-    EXPECT_DOUBLE_EQ(widthOf(NumberItem::write(62, NumberItem::Percent)),
-                     widthOf(isolated(QStringLiteral("62%"))));
+    EXPECT_DOUBLE_EQ(widthOf(NumberItem::write(62, NumberItem::Percent)), widthOf(isolated(QStringLiteral("62%"))));
 }
 
 }  // namespace zelk

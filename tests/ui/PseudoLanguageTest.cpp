@@ -7,8 +7,8 @@
 #include <cstring>
 
 #include "TextCheck.h"
-#include "fakes/RightToLeft.h"
 #include "ViewFixture.h"
+#include "fakes/RightToLeft.h"
 
 namespace zelk::tour {
 namespace {
@@ -149,7 +149,8 @@ TEST_F(TextCheckWindow, reportsEachFindingOnce) {
 }
 
 TEST_F(TextCheckWindow, findsPartsThatAreNotIsolatedFromRightToLeft) {
-    const char* items = R"(Text { text: "⟦מחיקה 3 GB⟧" } Text { text: "⟦מחיקה \u20683 GB\u2069⟧" } Text { text: "⟦מחיקה 3⟧" })";
+    const char* items =
+        R"(Text { text: "⟦מחיקה 3 GB⟧" } Text { text: "⟦מחיקה \u20683 GB\u2069⟧" } Text { text: "⟦מחיקה 3⟧" })";
     EXPECT_THAT(findings(items), IsEmpty());
     const fakes::RightToLeft direction;
     EXPECT_THAT(findings(items), ElementsAre("not isolated: ⟦מחיקה 3 GB⟧, in here"));
@@ -164,8 +165,9 @@ TEST_F(TextCheckWindow, findsLinesOfNoDirectionFromRightToLeft) {
 
 TEST_F(TextCheckWindow, ignoresMarksAroundNames) {
     check.allow(QStringLiteral("\u2068Movies\u2069"));
-    EXPECT_THAT(findings(R"(Text { text: "\u2068Movies\u2069" } Text { text: "Movies" } Text { text: "\u20681.2 GB\u2069" })"),
-                IsEmpty());
+    EXPECT_THAT(
+        findings(R"(Text { text: "\u2068Movies\u2069" } Text { text: "Movies" } Text { text: "\u20681.2 GB\u2069" })"),
+        IsEmpty());
 }
 
 }  // namespace

@@ -87,8 +87,7 @@ std::optional<QString> faultOf(const Place& now, const Place& other) {
     const double wanted = other.frame.width - other.left - other.width;
     if (std::abs(now.width - other.width) > tolerance)
         return QStringLiteral("is %1 wide, not %2").arg(now.width).arg(other.width);
-    if (std::abs(now.left - wanted) > tolerance)
-        return QStringLiteral("is at %1, not at %2").arg(now.left).arg(wanted);
+    if (std::abs(now.left - wanted) > tolerance) return QStringLiteral("is at %1, not at %2").arg(now.left).arg(wanted);
     if (now.alignment != mirrored(other.alignment)) return QStringLiteral("has a text at the wrong side");
     return std::nullopt;
 }

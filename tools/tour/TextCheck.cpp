@@ -70,7 +70,8 @@ void TextCheck::lookAt(QQuickItem& item, const QRectF& shown, const QString& pic
     const QRectF place = item.mapRectToScene(QRectF(0, 0, item.width(), item.height()));
     // What is scrolled out of sight is looked at where it is scrolled to.
     if (text.isEmpty() || !shown.intersects(place)) return;
-    const bool isPrinted = QString::fromLatin1(item.metaObject()->className()).startsWith(QStringLiteral("PrintedText_"));
+    const bool isPrinted =
+        QString::fromLatin1(item.metaObject()->className()).startsWith(QStringLiteral("PrintedText_"));
     if (readsFromRight() && !isPrinted) lookAtOrder(written, picture);
     if (isTranslated(text))
         translated_.insert(text);

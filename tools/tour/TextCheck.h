@@ -9,9 +9,9 @@
 namespace zelk::tour {
 
 /// Collects, from windows in the pseudo-language, the texts that are not in it and those that are cut off. Numbers,
-/// sizes, paths and the names that are given to `allow` are the same in every language. Where the application reads from
-/// right to left, also the texts whose parts would be torn apart or out of order, since they are not isolated from each
-/// other.
+/// sizes, paths and the names that are given to `allow` are the same in every language. Where the application reads
+/// from right to left, also the texts whose parts would be torn apart or out of order, since they are not isolated from
+/// each other.
 class TextCheck {
 public:
     /// A name of the user's own, or of a product.

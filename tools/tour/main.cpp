@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// tour --out DIR --root PATH [--home DIR] [--size WxH] [--pseudo [--mirrored]]: runs the real window on the real file system without
-// a display, presses its buttons, and saves a picture of every screen and state in both themes in DIR, and of the
-// gallery. Nothing is removed: the services only report success. The tour's history goes to a temporary folder. With
+// tour --out DIR --root PATH [--home DIR] [--size WxH] [--pseudo [--mirrored]]: runs the real window on the real file
+// system without a display, presses its buttons, and saves a picture of every screen and state in both themes in DIR,
+// and of the gallery. Nothing is removed: the services only report success. The tour's history goes to a temporary
+// folder. With
 // --home, history and Trash are those of a home made by `tools/sample_home --history`, which has something for every
 // state: the tour then fails if it misses one. Otherwise it skips what the disk does not have. It also fails if Qt or
 // the QML engine prints a warning. With --pseudo all texts are in a pseudo-language, in one theme, and the tour fails
@@ -103,7 +104,8 @@ int main(int argc, char** argv) {
     options.addOption({QStringLiteral("size"), QStringLiteral("Size of the window."), QStringLiteral("WxH"),
                        QStringLiteral("1120x720")});
     options.addOption({QStringLiteral("pseudo"), QStringLiteral("In a pseudo-language, whose texts are checked.")});
-    options.addOption({QStringLiteral("mirrored"), QStringLiteral("In one from right to left, whose layout is checked.")});
+    options.addOption(
+        {QStringLiteral("mirrored"), QStringLiteral("In one from right to left, whose layout is checked.")});
     options.process(application);
     const QSize size = sizeFrom(options.value(QStringLiteral("size")));
     const QString folder = options.value(QStringLiteral("out"));
@@ -156,7 +158,8 @@ int main(int argc, char** argv) {
         complete = false;
     }
     if (pseudo) std::printf("%lld texts in the pseudo-language\n", static_cast<long long>(texts.translated()));
-    if (mirrored) std::printf("%lld places compared with their mirror images\n", static_cast<long long>(mirror.compared()));
+    if (mirrored)
+        std::printf("%lld places compared with their mirror images\n", static_cast<long long>(mirror.compared()));
     directories.resume();
     contents.gate().resume();
     for (const QString& message : zelk::tour::takeQtMessages()) {

@@ -34,8 +34,8 @@ QString nameText(std::string_view path);
 QString folderText(std::string_view path);
 
 /// What a tool printed: CR, LF or both are a line break, also at the end, a tab is a space, and the rest is display
-/// text. It is one from left to right. What follows the first 20,000 bytes is left out, with "…" as the last line: laying out more holds up the
-/// window.
+/// text. It is one from left to right. What follows the first 20,000 bytes is left out, with "…" as the last line:
+/// laying out more holds up the window.
 QString printedText(std::string_view output);
 
 /// Formats bytes with the decimal separator of `locale`. A negative count is shown as 0.

@@ -31,9 +31,9 @@ size_t qHash(const Tinting& tinting, size_t seed = 0) {
     return qHashMulti(seed, tinting.name, tinting.color, tinting.pixels, tinting.weight);
 }
 
-constexpr std::array directedSymbols{"arrow.down.right", "arrow.right.circle.fill", "arrow.up.right",
-                                     "chevron.left",     "chevron.right",           "doc.text",
-                                     "heart.text.square", "list.star",              "sidebar.left"};
+constexpr std::array directedSymbols{
+    "arrow.down.right", "arrow.right.circle.fill", "arrow.up.right", "chevron.left", "chevron.right",
+    "doc.text",         "heart.text.square",       "list.star",      "sidebar.left"};
 
 constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
 

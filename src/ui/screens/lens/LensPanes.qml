@@ -229,38 +229,14 @@ FocusScope {
                 anchors.right: parent.right
             }
 
-            Column {
+            LensVolume {
                 id: volume
 
                 anchors.left: parent.left
                 anchors.leftMargin: Theme.pageMargin
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 4
                 visible: panes.lens.volumed
-
-                Label {
-                    objectName: "lensVolume"
-                    anchors.left: parent.left
-                    text: panes.lens.volumeLine
-                    size: 11
-                    soft: true
-                }
-
-                Rectangle {
-                    anchors.left: parent.left
-                    width: 220
-                    height: 6
-                    radius: 3
-                    color: Theme.hairline
-
-                    AccentFill {
-                        objectName: "lensVolumeBar"
-                        anchors.left: parent.left
-                        width: parent.width * panes.lens.usedShare
-                        height: parent.height
-                        corner: 3
-                    }
-                }
+                lens: panes.lens
             }
 
             Label {
