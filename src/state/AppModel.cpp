@@ -6,6 +6,7 @@
 
 #include "platform/ByteFormat.h"
 #include "platform/FolderPath.h"
+#include "state/Isolation.h"
 #include "state/ReleaseElsewhere.h"
 #include "state/UserLocale.h"
 
@@ -226,11 +227,8 @@ std::int64_t AppModel::freeBytes() const {
 std::string AppModel::progressLine() const {
     const QLocale locale = userLocale();
     const QString items = locale.toString(static_cast<qlonglong>(itemsScanned()));
-    const QString line = tr("%1 items · %2");
-    QString bytes = QString::fromStdString(byteText(bytesScanned(), locale.decimalPoint().toStdString()));
-    // Among words from right to left its unit would be moved to the wrong side.
-    if (line.isRightToLeft()) bytes = QChar(0x2068) + bytes + QChar(0x2069);
-    return line.arg(items, bytes).toStdString();
+    const std::string bytes = byteText(bytesScanned(), locale.decimalPoint().toStdString());
+    return tr("%1 items · %2").arg(items, isolated(QString::fromStdString(bytes))).toStdString();
 }
 
 ReclaimTotals AppModel::reclaimTotals() const {

@@ -112,14 +112,7 @@ TEST(ShortenedPath, countsGraphemeClusters) {
     EXPECT_EQ(shortenedPath(u'x' + letters(1) + family + letters(54)), QStringLiteral("…") + family + letters(54));
 }
 
-TEST(Isolated, changesNothingFromLeftToRight) {
-    for (const char* text : {"", "12 GB", "/usr/lib", "מסמכים"}) {
-        EXPECT_EQ(isolated(QString::fromUtf8(text)), QString::fromUtf8(text));
-        EXPECT_EQ(inReadingOrder(QString::fromUtf8(text)), QString::fromUtf8(text));
-    }
-}
-
-TEST(Isolated, keepsNamesPathsAndFiguresTogetherFromRightToLeft) {
+TEST(DisplayText, isIsolatedFromRightToLeft) {
     const fakes::RightToLeft direction;
     EXPECT_EQ(shown("Notes"), "\u2068Notes\u2069");
     EXPECT_EQ(shown("/home/מסמכים"), "\u2066/home/מסמכים\u2069") << "a path runs from left to right";
@@ -131,29 +124,17 @@ TEST(Isolated, keepsNamesPathsAndFiguresTogetherFromRightToLeft) {
     EXPECT_EQ(isolated({}), QString()) << "nothing stays nothing";
 }
 
-TEST(Isolated, leavesOutputOfCommandsAsItIs) {
+TEST(PrintedText, isNotIsolatedFromRightToLeft) {
     const fakes::RightToLeft direction;
     EXPECT_EQ(printedText("a\nb"), QStringLiteral("a\nb"));
 }
 
-TEST(Isolated, shortenedPathIsIsolatedAnew) {
+TEST(ShortenedPath, isIsolatedAnewFromRightToLeft) {
     const QString path = u'/' + letters(70);
     const QString shortened = shortenedPath(path);
     const fakes::RightToLeft direction;
     EXPECT_EQ(shortenedPath(isolated(path)), u'\u2066' + shortened + u'\u2069');
     EXPECT_EQ(shortenedPath(isolated(letters(56))), isolated(letters(56))) << "its marks are no characters";
-}
-
-TEST(Isolated, marksCanBeTakenOff) {
-    EXPECT_EQ(withoutIsolation(QStringLiteral("\u2068a\u2069 \u2066b\u2067c\u2069")), QStringLiteral("a bc"));
-    EXPECT_EQ(withoutIsolation(QStringLiteral("a b")), QStringLiteral("a b"));
-}
-
-TEST(Isolated, lineOfFiguresBeginsAtTheRight) {
-    const fakes::RightToLeft direction;
-    EXPECT_TRUE(inReadingOrder(isolated(QStringLiteral("3")) + QStringLiteral(" · ") + isolated(QStringLiteral("4 GB")))
-                    .isRightToLeft());
-    EXPECT_EQ(inReadingOrder({}), QString());
 }
 
 }  // namespace zelk

@@ -95,11 +95,11 @@ std::optional<QString> faultOf(const Place& now, const Place& other) {
 }  // namespace
 
 void MirrorCheck::look(QQuickWindow& window, const QString& picture) {
-    const Qt::LayoutDirection before = QGuiApplication::layoutDirection();
     const Places fromLeft = placesIn(window, Qt::LeftToRight);
     const std::unordered_map<const QQuickItem*, Place> others(fromLeft.begin(), fromLeft.end());
     const Places places = placesIn(window, Qt::RightToLeft);
-    if (before != Qt::RightToLeft) placesIn(window, before);
+    // As the translation says, which is the same direction.
+    QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
     for (const auto& [item, place] : places) {
         const auto other = others.find(item);
         if (other == others.end()) {

@@ -8,9 +8,9 @@
 
 namespace zelk::tour {
 
-/// Collects, from windows that read from right to left, what does not stand where the mirror image of the same window
-/// from left to right has it, and texts that are not aligned so. Lays each window out in the other direction for a
-/// moment, and compares everything that is painted or pressed. Not compared are
+/// Collects, from windows in a translation that is written from right to left, what does not stand where the mirror
+/// image of the same window from left to right has it, and texts that are not aligned so. Lays each window out in the
+/// other direction for a moment, and compares everything that is painted or pressed. Not compared are
 ///   - the bubble map, whose circles lie around its middle in no order; its keys go where they point,
 ///   - the place of a menu, which was computed when it was opened; what is in it is compared within it,
 ///   - the alignment of what a command printed.

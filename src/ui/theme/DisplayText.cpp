@@ -7,7 +7,6 @@
 #include <string>
 
 #include "platform/ByteFormat.h"
-#include "ui/theme/ReadingDirection.h"
 
 namespace zelk {
 
@@ -18,11 +17,6 @@ constexpr char16_t deletePicture = 0x2421;
 constexpr qsizetype wholePathLimit = 57;
 constexpr qsizetype keptOfLongPath = 55;
 constexpr std::size_t mostPrinted = 20'000;
-
-constexpr char16_t leftToRightIsolate = 0x2066;
-constexpr char16_t firstStrongIsolate = 0x2068;
-constexpr char16_t endOfIsolate = 0x2069;
-constexpr char16_t rightToLeftMark = 0x200F;
 
 bool turnsDirection(char16_t unit) {
     return unit == 0x061C || unit == 0x200E || unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
@@ -45,24 +39,7 @@ QString visibleText(std::string_view bytes) {
     return text;
 }
 
-bool isPath(const QString& text) {
-    return text.startsWith(u'/') || text.startsWith(QStringLiteral("~/")) || text.startsWith(u'…');
-}
-
 }  // namespace
-
-QString isolated(const QString& text) {
-    if (text.isEmpty() || !readsFromRight()) return text;
-    return QChar(isPath(text) ? leftToRightIsolate : firstStrongIsolate) + text + QChar(endOfIsolate);
-}
-
-QString withoutIsolation(QString text) {
-    return text.removeIf([](QChar character) { return character >= leftToRightIsolate && character <= endOfIsolate; });
-}
-
-QString inReadingOrder(const QString& line) {
-    return line.isEmpty() || !readsFromRight() ? line : QChar(rightToLeftMark) + line;
-}
 
 QString displayText(std::string_view bytes) {
     return isolated(visibleText(bytes));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Converts what system calls take into text for people. Display text never goes back to the system.
+// Converts what system calls take into text for people. Display text never goes back to the system. All but printed
+// text is isolated.
 #pragma once
 
 #include <QLocale>
@@ -7,21 +8,10 @@
 #include <cstdint>
 #include <string_view>
 
+#include "state/Isolation.h"
 #include "state/UserLocale.h"
 
 namespace zelk {
-
-/// Keeps a text of its own direction together within a text from right to left, by invisible marks around it: a path
-/// always runs from left to right, anything else as its first letter does. Unchanged in an application that reads from
-/// left to right. All functions below but printedText() return their texts so.
-QString isolated(const QString& text);
-
-/// The text without such marks, for what stands alone and is cut or measured by its characters.
-QString withoutIsolation(QString text);
-
-/// A line of several isolated texts with nothing but signs between them, whose order the reader would otherwise not
-/// know. Unchanged in an application that reads from left to right.
-QString inReadingOrder(const QString& line);
 
 /// Converts a name or path for display: repairs invalid UTF-8 with U+FFFD, and replaces control characters, line breaks
 /// and direction overrides by visible marks, so that a name cannot pretend to be another.
