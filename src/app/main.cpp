@@ -18,8 +18,9 @@
 //                CleanupSession removes, TrashMirror shows the Trash; TuneModel, DuplicatesModel, AppsModel and
 //                PrivacyModel hold what their screens found; SurveyHistory is the one file that Zelk writes;
 //                MainThreadQueue brings results back from tasks
-//   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand them to QML; DisplayText makes of bytes
-//                what a person reads; the symbols, one SVG each, and SymbolItem, which tints them
+//   ui/theme/    ZelkTheme's two instances; Theme, Motion, TextScale and ReadingDirection hand to QML what holds on
+//                every screen; DisplayText makes of bytes what a person reads; the symbols, one SVG each, and
+//                SymbolItem, which tints them
 //   ui/controls/ the base controls: role, keyboard and focus ring are solved here
 //   ui/charts/   what is painted: CirclePacking and the bubble map over it, ScanButton, ribbon, ring, sparkline
 //   ui/screens/  a folder per screen, a model and its view: overview is the home, module the three faces of every

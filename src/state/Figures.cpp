@@ -6,22 +6,25 @@
 #include <limits>
 
 #include "platform/ByteFormat.h"
+#include "state/Isolation.h"
 
 namespace zelk {
 
 QString byteFigure(std::int64_t bytes, const QLocale& locale) {
     constexpr std::int64_t firstWithUnit = 1000;
-    if (bytes == 1) return QCoreApplication::translate("Figures", "1 byte");
-    if (bytes < firstWithUnit) return QCoreApplication::translate("Figures", "%n bytes", nullptr, forPlural(bytes));
-    return QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString()));
+    if (bytes == 1) return isolated(QCoreApplication::translate("Figures", "1 byte"));
+    if (bytes < firstWithUnit)
+        return isolated(QCoreApplication::translate("Figures", "%n bytes", nullptr, forPlural(bytes)));
+    return isolated(QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString())));
 }
 
 QString groupedFigure(std::int64_t count, const QLocale& locale) {
-    return locale.toString(static_cast<qlonglong>(count));
+    return isolated(locale.toString(static_cast<qlonglong>(count)));
 }
 
 QString percentFigure(std::int64_t percent, const QLocale& locale) {
-    return QCoreApplication::translate("Figures", "%1%", "a share").arg(groupedFigure(percent, locale));
+    const QString number = locale.toString(static_cast<qlonglong>(percent));
+    return isolated(QCoreApplication::translate("Figures", "%1%", "a share").arg(number));
 }
 
 int forPlural(std::int64_t count) {

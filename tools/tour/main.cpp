@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// tour --out DIR --root PATH [--home DIR] [--size WxH] [--pseudo | --language CODE]: runs the real window on the real
-// file system without a display, presses its buttons, and saves a picture of every screen and state in both themes in
-// DIR, and of the gallery. Nothing is removed: the services only report success. The tour's history goes to a temporary
-// folder. With --home, history and Trash are those of a home made by `tools/sample_home --history`, which has something
-// for every state: the tour then fails if it misses one. Otherwise it skips what the disk does not have. It also fails
-// if Qt or the QML engine prints a warning. With --pseudo all texts are in a pseudo-language, in one theme, and the tour
-// fails if a text is not translated or has no room for one that is 40% longer. With --language they are in a real one,
-// as "de", and the tour fails if a text is not translated or has no room.
+// tour --out DIR --root PATH [--home DIR] [--size WxH] [--pseudo [--mirrored] | --language CODE]: runs the real window
+// on the real file system without a display, presses its buttons, and saves a picture of every screen and state in both
+// themes in DIR, and of the gallery. Nothing is removed: the services only report success. The tour's history goes to a
+// temporary folder. With --home, history and Trash are those of a home made by `tools/sample_home --history`, which has
+// something for every state: the tour then fails if it misses one. Otherwise it skips what the disk does not have. It
+// also fails if Qt or the QML engine prints a warning. With --pseudo all texts are in a pseudo-language, in one theme,
+// and the tour fails if a text is not translated or has no room for one that is 40% longer. With --mirrored too, that
+// language is one from right to left, and the tour also fails if anything does not stand where the mirror image has it.
+// With --language they are in a real one, as "de", and the tour fails if a text is not translated or has no room.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -17,6 +18,7 @@
 #include <cstring>
 
 #include "MarkedLanguage.h"
+#include "MirrorCheck.h"
 #include "PausingContents.h"
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
@@ -100,8 +102,9 @@ int main(int argc, char** argv) {
     zelk::tour::keepQtMessages();
     QApplication application(argc, argv);
     // Installed before the first table of texts is made.
-    zelk::tour::PseudoLanguage language;
     const bool pseudo = QCoreApplication::arguments().contains(QStringLiteral("--pseudo"));
+    const bool mirrored = pseudo && QCoreApplication::arguments().contains(QStringLiteral("--mirrored"));
+    zelk::tour::PseudoLanguage language(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
     if (pseudo) QCoreApplication::installTranslator(&language);
     const QString code = valueOf(QStringLiteral("--language"));
     // Also what the layers below say, and what Qt does.
@@ -126,6 +129,8 @@ int main(int argc, char** argv) {
     options.addOption({QStringLiteral("size"), QStringLiteral("Size of the window."), QStringLiteral("WxH"),
                        QStringLiteral("1120x720")});
     options.addOption({QStringLiteral("pseudo"), QStringLiteral("In a pseudo-language, whose texts are checked.")});
+    options.addOption(
+        {QStringLiteral("mirrored"), QStringLiteral("In one from right to left, whose layout is checked.")});
     options.addOption({QStringLiteral("language"), QStringLiteral("In this language, whose texts are checked."),
                        QStringLiteral("CODE")});
     options.process(application);
@@ -153,6 +158,7 @@ int main(int argc, char** argv) {
 
     bool complete = true;
     zelk::tour::TextCheck texts;
+    zelk::tour::MirrorCheck mirror;
     for (const bool dark : {true, false}) {
         if (checked && !dark) break;
         const zelk::Platform platform{
@@ -165,12 +171,13 @@ int main(int argc, char** argv) {
             allowNames(app, texts);
             texts.allow(zelk::printedText(pretence.output()));
             texts.look(window, picture, !picture.startsWith(QStringLiteral("large-text")));
+            if (mirrored) mirror.look(window, picture);
         };
         const zelk::tour::TourPlan plan{folder, size, dark, sample,
                                         checked ? inspect : std::function<void(QQuickWindow&, const QString&)>()};
         complete = complete && zelk::tour::Tour(app, directories, contents, pretence, plan).run();
     }
-    for (const QString& finding : texts.findings()) {
+    for (const QString& finding : texts.findings() + mirror.findings()) {
         std::fprintf(stderr, "tour: %s\n", qPrintable(finding));
         complete = false;
     }
@@ -179,6 +186,8 @@ int main(int argc, char** argv) {
         complete = false;
     }
     if (checked) std::printf("%lld texts in the language\n", static_cast<long long>(texts.translated()));
+    if (mirrored)
+        std::printf("%lld places compared with their mirror images\n", static_cast<long long>(mirror.compared()));
     directories.resume();
     contents.gate().resume();
     for (const QString& message : zelk::tour::takeQtMessages()) {

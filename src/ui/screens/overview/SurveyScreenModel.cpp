@@ -30,11 +30,11 @@ ScreenLook titled(Screen screen, const QString& title) {
 
 DeviceFace DeviceFace::of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume, const QLocale& locale) {
     QStringList known{displayText(device.chip), tr("%1 cores", "", forPlural(device.cores)).arg(device.cores),
-                      QString::fromStdString(memoryText(device.memoryBytes)), displayText(device.osVersion)};
+                      isolated(QString::fromStdString(memoryText(device.memoryBytes))), displayText(device.osVersion)};
     known.removeAll(QString());
     DeviceFace face;
     face.name = displayText(device.computerName);
-    face.detail = known.join(QStringLiteral("  ·  "));
+    face.detail = inReadingOrder(known.join(QStringLiteral("  ·  ")));
     if (volume) {
         face.freeBytes = static_cast<double>(volume->available);
         face.totalText = tr("of %1").arg(byteFigure(volume->total, locale));

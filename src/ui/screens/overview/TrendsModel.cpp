@@ -62,8 +62,8 @@ QString ChangesModel::sizeText(const Row& row) {
     const FolderChange& change = row.change;
     switch (row.kind) {
         case Grew:
-            return QStringLiteral("%1  +%2").arg(byteFigure(change.newSize),
-                                                 byteFigure(growth(change.oldSize, change.newSize)));
+            return byteFigure(change.newSize) + QStringLiteral("  ") +
+                   isolated(u'+' + byteFigure(growth(change.oldSize, change.newSize)));
         case Appeared:
             return byteFigure(change.newSize);
         case Vanished:

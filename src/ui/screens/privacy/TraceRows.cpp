@@ -51,7 +51,8 @@ QString TraceRows::warning(const Row& row) const {
 QVariant TraceRows::value(std::size_t row, int role) const {
     const Row& shown = rows_[row];
     const auto title = [&] {
-        return tr("%1 — %2").arg(SystemTexts::worded(shown.trace.app), SystemTexts::worded(shown.trace.kind));
+        return inReadingOrder(
+            tr("%1 — %2").arg(isolated(SystemTexts::worded(shown.trace.app)), SystemTexts::worded(shown.trace.kind)));
     };
     const auto place = [&] { return shown.running ? QString() : displayText(shown.trace.paths.front()); };
     const auto figure = [&] { return byteFigure(static_cast<std::int64_t>(shown.trace.size)); };

@@ -51,7 +51,8 @@ QVariant ItemList::value(std::size_t at, int role) const {
 QVariant ItemList::dataOfGroup(const Group& group, int role) const {
     const ReclaimCategory& category = *group.content.category;
     const auto figure = [&] {
-        return QStringLiteral("%1 · ").arg(group.content.items.size()) + byteFigure(group.content.bytes());
+        return inReadingOrder(QStringLiteral("%1 · ").arg(group.content.items.size()) +
+                              byteFigure(group.content.bytes()));
     };
     switch (role) {
         case groupRole:
