@@ -2,9 +2,6 @@
 // What is installed fits together: the programs, and the files in which the desktop, polkit and D-Bus know them.
 #include <gmock/gmock.h>
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <algorithm>
 #include <cstdlib>
@@ -103,25 +100,6 @@ TEST_F(Installed, everyPathThatIsNamedSomewhereLeadsToAProgram) {
     for (const std::string& name :
          allOf(packagingFile("linux/" + applicationId + ".metainfo.xml"), "<binary>(.*)</binary>"))
         EXPECT_TRUE(isProgram("/usr/bin/" + name)) << name;
-}
-
-TEST_F(Installed, theListOfPartsHasEveryOtherFile) {
-    const std::string list = "/usr/share/doc/zelk/zelk.spdx.json";
-    std::set<std::string> paths = files();
-    if (!paths.contains(list)) {
-        EXPECT_NE(std::system("command -v dpkg-query >/dev/null"), 0) << "nothing but dpkg knows the parts";
-        return;
-    }
-    paths.erase(list);
-    const QJsonObject document = QJsonDocument::fromJson(QByteArray::fromStdString(contentOf(list))).object();
-    std::set<std::string> listed;
-    for (const QJsonValue file : document["files"].toArray())
-        listed.insert("/usr" + file["fileName"].toString().toStdString().substr(1));
-    EXPECT_EQ(listed, paths);
-    std::set<std::string> parts;
-    for (const QJsonValue part : document["packages"].toArray()) parts.insert(part["name"].toString().toStdString());
-    for (const std::string part : {"zelk", "libc6", "nlohmann-json3-dev", "fonts-inter", "qml6-module-qtquick"})
-        EXPECT_THAT(parts, Contains(part));
 }
 
 TEST(Package, isCalledByOneNameEverywhere) {
