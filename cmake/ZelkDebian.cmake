@@ -36,15 +36,19 @@ set(CPACK_PACKAGE_CONTACT ${ZELK_MAINTAINER})
 set(CPACK_PACKAGE_VENDOR Zelk)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "see what fills a disk and take the space back safely")
 set(CPACK_PACKAGE_DESCRIPTION "\
-Zelk surveys a home folder or a whole drive, shows what uses the space and which of it can be had again, and moves to \
-the Trash exactly what a last sheet has listed.
- .
- It finds caches, build products, duplicates, large files, applications with their leftovers, and the traces of browsers. \
-Nothing leaves the machine, and nothing is surveyed before somebody presses the button.
- .
- The package has the application zelk and zelk-survey, the same survey for the terminal.")
+Zelk surveys a home folder or a whole drive, shows what uses the space and
+which of it can be had again, and moves to the Trash exactly what a last
+sheet has listed.
+
+It finds caches, build products, duplicates, large files, applications with
+their leftovers, and the traces of browsers. Nothing leaves the machine, and
+nothing is surveyed before somebody presses the button.
+
+The package has the application zelk and zelk-survey, the same survey for
+the terminal.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/debian/strip.cmake)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE ${ZELK_PACKAGE_RELEASE})
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
