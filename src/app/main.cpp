@@ -32,7 +32,8 @@
 // Beside ui/ stands cli/: zelk-survey, the survey for the terminal. Apart from them all stands admin/: zelk-admin, the
 // small program that does what only root may on Linux.
 //
-// Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures.
+// Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures;
+// packaging/ makes what is installed.
 
 #include <QApplication>
 #include <cstdlib>

@@ -153,6 +153,10 @@ TEST(ApplicationIcon, hasRoundCornersAndAccentBackground) {
     EXPECT_LT(top.blue(), 120);
 }
 
+TEST(Application, isKnownToTheDesktopByItsEntry) {
+    EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("io.github.zelk.Zelk"));
+}
+
 TEST(Symbols, haveHeavierLinesWhereTheTextHas) {
     const QString arrow = QStringLiteral("arrow.up.right");
     const QImage normal = tintedSymbol(arrow, Qt::black, 96);

@@ -21,6 +21,8 @@ namespace zelk {
 
 void dressApplication() {
     QGuiApplication::setApplicationName(QStringLiteral("Zelk"));
+    // The desktop finds the icon of the window in the entry of this name; on Wayland there is no other way.
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.zelk.Zelk"));
 #ifndef Q_OS_MACOS
     QFont font(QStringLiteral("Inter"));
     font.setHintingPreference(QFont::PreferNoHinting);  // hinting would distort the even spacing

@@ -5,7 +5,7 @@
 
 namespace zelk {
 
-/// Sets the application's name and its default font, which all texts inherit. Call once, after creating the
+/// Sets the application's name, the name of its desktop entry and its default font, which all texts inherit. Call once, after creating the
 /// QApplication.
 void dressApplication();
 
