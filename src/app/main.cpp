@@ -48,6 +48,7 @@
 #include "ui/shell/QuitQuestion.h"
 #include "ui/shell/ShaderCaches.h"
 #include "ui/shell/Shell.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace {
 
@@ -63,6 +64,7 @@ int main(int argc, char** argv) {
     zelk::dressApplication();
     zelk::refuseWindowTabs();
     zelk::NativePlatform native;
+    if (native.platform().locations.isSandboxed()) zelk::SystemTexts::show(zelk::SystemTexts::System::flatpak);
     zelk::SettingsPreferences preferences;
 
     int status = 0;

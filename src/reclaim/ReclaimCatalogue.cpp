@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/CommandProgram.h"
+
 namespace zelk {
 
 namespace {
@@ -66,6 +68,12 @@ std::string methodSummary(const ReclaimMethod& method) {
     std::string summary = method.tool;
     for (const std::string& arg : method.args) summary += " " + arg;
     return summary;
+}
+
+std::string toolOf(const ReclaimMethod& method) {
+    std::vector<std::string> words{method.tool};
+    words.insert(words.end(), method.args.begin(), method.args.end());
+    return toolName(words);
 }
 
 std::span<const ReclaimCategory> reclaimCatalogue() {

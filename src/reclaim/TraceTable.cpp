@@ -58,7 +58,7 @@ constexpr TraceRow macTable[] = {
      {{inHome("Library/Caches/Microsoft Edge"), inHome("Library/Application Support/Microsoft Edge/Default/Cache")}}},
     {"Arc", cacheKind, {{inHome("Library/Caches/company.thebrowser.Browser")}}},
     {"Firefox", cacheKind, {{inHome("Library/Caches/Firefox")}}},
-    {"System", "Recent items", {{inHome("Library/Application Support/com.apple.sharedfilelist")}}},
+    {systemTraces, "Recent items", {{inHome("Library/Application Support/com.apple.sharedfilelist")}}},
 };
 
 constexpr std::string_view firefox = "Firefox";
@@ -90,8 +90,8 @@ constexpr TraceRow linuxTable[] = {
      {{inCache("mozilla/firefox"), inHome("snap/firefox/common/.cache/mozilla/firefox"),
        inHome(".var/app/org.mozilla.firefox/cache/mozilla/firefox")}}},
     {firefox, firefoxCookies, {}, true},  // in every profile
-    {"System", "Recent items", {{inData("recently-used.xbel"), inData("RecentDocuments")}}},
-    {"System", "Thumbnails", {{inCache("thumbnails")}}},
+    {systemTraces, "Recent items", {{inData("recently-used.xbel"), inData("RecentDocuments")}}},
+    {systemTraces, "Thumbnails", {{inCache("thumbnails")}}},
 };
 
 /// New profiles are made in the first; an older folder stays in use.
@@ -179,7 +179,8 @@ std::vector<std::string> firefoxFolders(const TracePlaces& homes) {
 std::vector<BrowserLock> browserLocks(const TracePlaces& homes) {
     std::vector<BrowserLock> locks;
     if (homes.system == SystemKind::macOS) return locks;
-    for (const auto& [app, path] : processLinks) locks.push_back({std::string(app), pathOf(path, homes), true});
+    for (const auto& [app, path] : processLinks)
+        locks.push_back({std::string(app), pathOf(path, homes), true, !homes.sandboxed});
     for (const std::string& profile : homes.firefoxProfiles)
         locks.push_back({std::string(firefox), pathIn(profile, ".parentlock"), false});
     return locks;

@@ -50,7 +50,7 @@ bool AppsScreenModel::nothing() const {
 }
 
 QString AppsScreenModel::line() const {
-    return tr("%1 apps · footprint includes caches, support & containers").arg(apps_.apps().size());
+    return SystemTexts::of(SystemTexts::AppsCounted).arg(apps_.apps().size());
 }
 
 int AppsScreenModel::order() const {
