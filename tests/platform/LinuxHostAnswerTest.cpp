@@ -37,8 +37,8 @@ public:
         return entry("/usr/share/applications/" + id + ".desktop", more);
     }
     std::string whole(const std::string& asker = "7") const {
-        const std::string none = text("") + text("");
-        return text(asker) + programs_ + none + files_ + none + entries_ + text("") + "end\n";
+        const std::string separator = text("") + text("");
+        return text(asker) + programs_ + separator + files_ + separator + entries_ + text("") + "end\n";
     }
 
 private:

@@ -103,7 +103,7 @@ TEST_F(HostQuestions, goToTheHostAndEndWithTheOneWhoAsks) {
 }
 
 TEST_F(HostQuestions, haveNoAnswerFromAShellWithoutTools) {
-    const fakes::EnvironmentVariable none("PATH", data / "nowhere");
+    const fakes::EnvironmentVariable nowhere("PATH", data / "nowhere");
     EXPECT_FALSE(ask());
 }
 
@@ -146,8 +146,8 @@ TEST_F(HostQuestions, haveNoAnswerFromAHostThatNeverStops) {
 }
 
 TEST_F(HostQuestions, haveNoAnswerWithoutTheSpawner) {
-    AbsentTools none;
-    EXPECT_FALSE(askHost(none, {}));
+    AbsentTools tools;
+    EXPECT_FALSE(askHost(tools, {}));
 }
 
 TEST(AbsentToolsOfASandbox, sayWhichIsMissing) {

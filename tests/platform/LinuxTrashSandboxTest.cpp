@@ -111,8 +111,9 @@ TEST_F(SandboxedVolumes, withoutATrashThatTheHostFindsKeepTheirItems) {
     const std::string sandboxes = place.home + "/.var/app";
     fs::create_directories(sandboxes + "/org.other.App/cache");
     mounts.again(sandboxes, sandboxes);
-    EXPECT_THAT(trashed(sandboxes + "/org.other.App/cache"),
-                Optional("“cache” couldn’t be moved to the Trash: Flatpak’s sandbox has no Trash for its folder"));
+    EXPECT_THAT(
+        trashed(sandboxes + "/org.other.App/cache"),
+        Optional(std::string("“cache” couldn’t be moved to the Trash: Flatpak’s sandbox has no Trash for its folder")));
     EXPECT_THAT(namesIn(sandboxes), ElementsAre("io.github.zelk.Zelk", "org.other.App"));
     EXPECT_THAT(namesIn(sandboxes + "/org.other.App"), ElementsAre("cache"));
 }
