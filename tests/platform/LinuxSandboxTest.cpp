@@ -79,7 +79,8 @@ TEST_F(FlatpakSandbox, ignoresAVariableThatNamesNoFolderOfTheHost) {
     EXPECT_EQ(told(std::nullopt), std::nullopt);
     for (const std::string& value :
          {std::string(), std::string("data"), std::string("./data"), std::string("~/.local/share"), std::string("/"),
-          std::string("//."), place.home + "/x/../../me/.var/app/io.github.zelk.Zelk/data", std::string("/..")})
+          std::string("//."), place.home + "/x/../data", place.home + "/x/../../me/.var/app/io.github.zelk.Zelk/data",
+          std::string("/..")})
         EXPECT_EQ(told(value), std::nullopt) << value;
 }
 
@@ -99,6 +100,12 @@ TEST_F(FlatpakSandbox, ignoresAVariableThatLeadsIntoASandboxByALink) {
     EXPECT_EQ(told(place.home + "/link/not there yet"), std::nullopt);
     fs::create_directory_symlink(place.root + "/home", place.root + "/homes");
     EXPECT_EQ(told(place.root + "/homes/me/.var/app/x"), std::nullopt);
+}
+
+TEST_F(FlatpakSandbox, ignoresAVariableThatLeadsIntoASandboxOfALinkedHome) {
+    fs::create_directory_symlink(place.root + "/home", place.root + "/homes");
+    const EnvironmentVariable host("HOST_XDG_DATA_HOME", place.home + "/.var/app/org.other.App");
+    EXPECT_EQ(place.sandbox().homeOnHost("XDG_DATA_HOME", place.root + "/homes/me"), std::nullopt);
 }
 
 TEST_F(FlatpakSandbox, ownsItsFolderAndItsRuntime) {
