@@ -51,6 +51,7 @@
 #include "ui/shell/ShaderCaches.h"
 #include "ui/shell/Shell.h"
 #include "ui/shell/Translations.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace {
 
@@ -67,6 +68,7 @@ int main(int argc, char** argv) {
     zelk::dressApplication();
     zelk::refuseWindowTabs();
     zelk::NativePlatform native;
+    if (native.platform().locations.isSandboxed()) zelk::SystemTexts::show(zelk::SystemTexts::System::flatpak);
     zelk::SettingsPreferences preferences;
 
     int status = 0;

@@ -104,6 +104,7 @@ Cleaner::Result Cleaner::runTool(const std::string& tool, const std::vector<std:
 std::optional<std::string> Cleaner::runningConflict(const Reclaimable& item, Workspace& workspace) {
     const auto category = reclaimCategoryByID().find(item.categoryID);
     if (category == reclaimCategoryByID().end() || !category->second->appScoped) return std::nullopt;
+    if (!workspace.knowsRunningApplications()) return unknownApplication;
     for (std::string& name : workspace.runningApplications())
         if (!name.empty() && item.path.find("/" + name + "/") != std::string::npos) return std::move(name);
     return std::nullopt;

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "platform/CommandProgram.h"
 #include "platform/Translation.h"
 
 namespace zelk {
@@ -84,6 +85,12 @@ std::string methodSummary(const ReclaimMethod& method) {
     std::string summary = method.tool;
     for (const std::string& arg : method.args) summary += " " + arg;
     return summary;
+}
+
+std::string toolOf(const ReclaimMethod& method) {
+    std::vector<std::string> words{method.tool};
+    words.insert(words.end(), method.args.begin(), method.args.end());
+    return toolName(words);
 }
 
 std::span<const ReclaimCategory> reclaimCatalogue() {

@@ -47,7 +47,6 @@ constexpr std::string_view brave = ZELK_TEXT("Reclaim", "Brave");
 constexpr std::string_view edge = ZELK_TEXT("Reclaim", "Edge");
 constexpr std::string_view arc = ZELK_TEXT("Reclaim", "Arc");
 constexpr std::string_view firefox = ZELK_TEXT("Reclaim", "Firefox");
-constexpr std::string_view systemItself = ZELK_TEXT("Reclaim", "System");
 constexpr std::string_view gnomeWeb = ZELK_TEXT("Reclaim", "GNOME Web");
 constexpr std::string_view chromium = ZELK_TEXT("Reclaim", "Chromium");
 constexpr std::string_view historyKind = ZELK_TEXT("Reclaim", "History");
@@ -74,7 +73,7 @@ constexpr TraceRow macTable[] = {
      {{inHome("Library/Caches/Microsoft Edge"), inHome("Library/Application Support/Microsoft Edge/Default/Cache")}}},
     {arc, cacheKind, {{inHome("Library/Caches/company.thebrowser.Browser")}}},
     {firefox, cacheKind, {{inHome("Library/Caches/Firefox")}}},
-    {systemItself, recentKind, {{inHome("Library/Application Support/com.apple.sharedfilelist")}}},
+    {systemTraces, recentKind, {{inHome("Library/Application Support/com.apple.sharedfilelist")}}},
 };
 
 // Firefox's history is not in it: one file holds it and the bookmarks.
@@ -103,8 +102,8 @@ constexpr TraceRow linuxTable[] = {
      {{inCache("mozilla/firefox"), inHome("snap/firefox/common/.cache/mozilla/firefox"),
        inHome(".var/app/org.mozilla.firefox/cache/mozilla/firefox")}}},
     {firefox, cookieKind, {}, true},  // in every profile
-    {systemItself, recentKind, {{inData("recently-used.xbel"), inData("RecentDocuments")}}},
-    {systemItself, thumbnailKind, {{inCache("thumbnails")}}},
+    {systemTraces, recentKind, {{inData("recently-used.xbel"), inData("RecentDocuments")}}},
+    {systemTraces, thumbnailKind, {{inCache("thumbnails")}}},
 };
 
 /// New profiles are made in the first; an older folder stays in use.
@@ -192,7 +191,8 @@ std::vector<std::string> firefoxFolders(const TracePlaces& homes) {
 std::vector<BrowserLock> browserLocks(const TracePlaces& homes) {
     std::vector<BrowserLock> locks;
     if (homes.system == SystemKind::macOS) return locks;
-    for (const auto& [app, path] : processLinks) locks.push_back({std::string(app), pathOf(path, homes), true});
+    for (const auto& [app, path] : processLinks)
+        locks.push_back({std::string(app), pathOf(path, homes), true, !homes.sandboxed});
     for (const std::string& profile : homes.firefoxProfiles)
         locks.push_back({std::string(firefox), pathIn(profile, ".parentlock"), false});
     return locks;

@@ -59,7 +59,8 @@ bool isWithoutResolver(const ChildOutcome& outcome) {
 /// The caches are those of systemd-resolved, which anybody may flush, and of nscd; most machines have neither.
 ChildOutcome flushDNSOnLinux(const Platform& platform) {
     const ChildOutcome resolved = platform.processes.run("/usr/bin/resolvectl", {"flush-caches"}, linuxStreams);
-    if (!isWithoutResolver(resolved)) return resolved;
+    // From a sandbox it cannot be known what runs outside.
+    if (platform.locations.isSandboxed() || !isWithoutResolver(resolved)) return resolved;
     if (platform.files.exists(nameServiceCache) && platform.files.exists(nameServiceSocket))
         return throughPkexec(platform.processes, {nameServiceCache, "-i", "hosts"});
     return {std::nullopt, 0, translated("Command", "No DNS cache runs here.")};

@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/FolderPath.h"
@@ -74,8 +75,11 @@ bool isBehindDanglingLink(std::string path) {
 
 }  // namespace
 
-LinuxTrash::LinuxTrash(const std::string& home)
-    : home_(LinuxLocations(home).home()), dataHome_(LinuxLocations(home).applicationSupport().value()) {}
+LinuxTrash::LinuxTrash(const std::string& home, Sandbox sandbox) : sandbox_(std::move(sandbox)) {
+    LinuxLocations locations(home, sandbox_);
+    home_ = locations.home();
+    dataHome_ = locations.xdgHomes().value().data;
+}
 
 std::string LinuxTrash::location() {
     return pathIn(dataHome_, "Trash/files");
@@ -120,6 +124,7 @@ Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trash
 
     // The system cannot return a path longer than its limit; then use the one it was reached by.
     const std::string path = pathIn(pathOfDirectory(parent.get()).value_or(item.parent()), from.name);
+    if (sandbox_.isPartOf(path, home_)) return translated("Failure", "it belongs to the sandbox that Zelk runs in");
     const std::vector<Mount> mounts = mountTable();
     if (status->isDirectory() && isMountedBelow(mounts, path))
         return translated("Failure", "another volume is mounted in it");
@@ -137,6 +142,8 @@ Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trash
     } else {
         const std::optional<std::string> top = mountPointOf(mounts, above->mount);
         const std::optional<std::string> relative = top ? relativePath(path, *top) : std::nullopt;
+        if (sandbox_.isInside() && !isWholeVolume(mounts, above->mount))
+            return translated("Failure", "Flatpak’s sandbox has no Trash for its folder");
         if (!relative) return noPlaceForTrash();
         original = *relative;
         trash = openVolumeTrash(*top, *above, reason);

@@ -87,6 +87,8 @@ QString AppTexts::obstacle(const AppObstacle& obstacle) {
             return tr("Stays: needed by %1.").arg(named(obstacle));
         case AppObstacle::Reason::noTool:
             return tr("Stays: only %1 can remove it, which is not installed.").arg(named(obstacle));
+        case AppObstacle::Reason::outOfReach:
+            return tr("Stays: only %1 can remove it, which Flatpak’s sandbox does not have.").arg(named(obstacle));
         case AppObstacle::Reason::severalVersions:
             return tr("Stays: it is installed more than once. Its own tool can remove one of them.");
         case AppObstacle::Reason::notOwn:

@@ -45,7 +45,9 @@ bool TraceRows::isFree(int row) const {
 }
 
 QString TraceRows::warning(const Row& row) const {
-    return row.running ? tr("quit %1 to clear safely").arg(displayText(*row.running)) : QString();
+    if (!row.running) return {};
+    return privacy_.runningKnown() ? tr("quit %1 to clear safely").arg(displayText(*row.running))
+                                   : tr("%1 may be running: quit it before clearing").arg(displayText(*row.running));
 }
 
 QVariant TraceRows::value(std::size_t row, int role) const {

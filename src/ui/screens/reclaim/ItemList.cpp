@@ -112,8 +112,12 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
 }
 
 QString ItemList::lineOf(const Reclaimable& item) const {
-    if (item.method.kind == ReclaimMethod::Kind::command) return displayText(methodSummary(item.method));
+    if (item.method.kind == ReclaimMethod::Kind::command) {
+        if (!app_.platform().locations.isSandboxed()) return displayText(methodSummary(item.method));
+        return tr("needs %1, which Flatpak’s sandbox does not have").arg(displayText(toolOf(item.method)));
+    }
     const std::string& application = cleanup_.selection().conflictOf(item);
+    if (application == Cleaner::unknownApplication) return tr("may be in use: what runs can’t be seen from here");
     return application.empty() ? QString() : tr("quit %1 to clear").arg(displayText(application));
 }
 
