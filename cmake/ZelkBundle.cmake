@@ -3,7 +3,7 @@
 # what CMake made of the template on each.
 
 set(ZELK_APPLICATION_ID io.github.zelk.Zelk)
-set(ZELK_BUILD_NUMBER "" CACHE STRING "CFBundleVersion of the bundle, one to three numbers with dots; empty: the version")
+set(ZELK_BUILD_NUMBER "" CACHE STRING "CFBundleVersion, one to three numbers with dots; empty: the version")
 set(ZELK_BUNDLE_VERSION ${PROJECT_VERSION})
 if(ZELK_BUILD_NUMBER)
   set(ZELK_BUNDLE_VERSION ${ZELK_BUILD_NUMBER})

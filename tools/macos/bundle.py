@@ -286,7 +286,8 @@ def source_faults(root: Path, facts: Facts, target: str):
     """Of what other sources say about the same things as the bundle. `target` is that of the cross-compiler."""
     faults = []
     identifier = facts.entries()["CFBundleIdentifier"]
-    organization = only(r'#ifdef Q_OS_MACOS\s+return QStringLiteral\("([^"]+)"\)', root / "src/state/SettingsPreferences.h")
+    organization = only(r'#ifdef Q_OS_MACOS\s+return QStringLiteral\("([^"]+)"\)',
+                        root / "src/state/SettingsPreferences.h")
     domain = ".".join([*reversed(organization.lower().split(".")), "Zelk"])
     if domain != identifier:
         faults.append(f"the preferences are kept for {domain}, not for {identifier}")

@@ -57,8 +57,8 @@ def right_elements():
     return {name: png(side, grown(small, 16, side)) for name, side in SIDES.items()}
 
 
-def program(kind=mach_o.PROGRAM, rpaths=(bundle.FRAMEWORKS,), libraries=("/usr/lib/libSystem.B.dylib",), minimum=(13, 0),
-            signed=True, flags=mach_o.POSITION_INDEPENDENT, platform=mach_o.MACOS):
+def program(kind=mach_o.PROGRAM, rpaths=(bundle.FRAMEWORKS,), libraries=("/usr/lib/libSystem.B.dylib",),
+            minimum=(13, 0), signed=True, flags=mach_o.POSITION_INDEPENDENT, platform=mach_o.MACOS):
     def with_text(command, head, text):
         data = text.encode() + b"\0"
         start = 8 + len(head)

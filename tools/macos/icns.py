@@ -129,7 +129,8 @@ def decoded(file):
             subprocess.run(["icns2png", "-x", "-o", folder, str(file)], check=True, capture_output=True)
         except (OSError, subprocess.CalledProcessError) as error:
             raise ValueError(f"icns2png does not read it: {error}") from error
-        return {int(path.stem.rsplit("_", 1)[1].split("x")[0]): path.read_bytes() for path in Path(folder).glob("*.png")}
+        return {int(path.stem.rsplit("_", 1)[1].split("x")[0]): path.read_bytes()
+                for path in Path(folder).glob("*.png")}
 
 
 def picture(file, found, name):
