@@ -11,6 +11,7 @@
 #include <chrono>
 #include <csignal>
 #include <mutex>
+#include <string_view>
 #include <system_error>
 
 #include "platform/posix/Descriptor.h"
@@ -98,21 +99,44 @@ private:
     posix_spawnattr_t attributes_;
 };
 
+/// The environment of a child: this process's own, but for the PATH if there is another.
+class ChildEnvironment {
+public:
+    explicit ChildEnvironment(const std::string& path) {
+        if (path.empty()) return;
+        path_ = "PATH=" + path;
+        for (char** variable = environ; *variable != nullptr; ++variable)
+            if (!std::string_view(*variable).starts_with("PATH=")) variables_.push_back(*variable);
+        variables_.push_back(path_.data());
+        variables_.push_back(nullptr);
+    }
+    ChildEnvironment(const ChildEnvironment&) = delete;
+    ChildEnvironment& operator=(const ChildEnvironment&) = delete;
+
+    char** variables() { return variables_.empty() ? environ : variables_.data(); }
+
+private:
+    std::string path_;
+    std::vector<char*> variables_;
+};
+
 ChildOutcome notLaunched(int error) {
     return {std::generic_category().message(error), 0, {}};
 }
 
 /// Returns 0 or the error.
-int spawn(const std::string& executable, const std::vector<std::string>& arguments, const ChildStreams& streams,
-          const Pipe& pipe, pid_t& child) {
+int spawn(const std::string& executable, const std::vector<std::string>& arguments, const std::string& toolPath,
+          const ChildStreams& streams, const Pipe& pipe, pid_t& child) {
     std::vector<char*> words{const_cast<char*>(executable.c_str())};
     for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
     words.push_back(nullptr);
     const StreamActions made(streams, pipe.writing.get());
+    ChildEnvironment environment(toolPath);
 #ifdef __APPLE__
     const std::lock_guard lock(startingChildren());
 #endif
-    return ::posix_spawn(&child, executable.c_str(), made.actions(), made.attributes(), words.data(), environ);
+    return ::posix_spawn(&child, executable.c_str(), made.actions(), made.attributes(), words.data(),
+                         environment.variables());
 }
 
 int waitForExit(pid_t child) {
@@ -195,7 +219,7 @@ ChildOutcome PosixChildProcess::run(const std::string& executable, const std::ve
     Pipe pipe;
     if (pipe.error != 0) return notLaunched(pipe.error);
     pid_t child = 0;
-    if (const int error = spawn(executable, arguments, streams, pipe, child)) return notLaunched(error);
+    if (const int error = spawn(executable, arguments, toolPath_, streams, pipe, child)) return notLaunched(error);
     pipe.writing.close();
     ChildOutcome outcome;
     if (streams.limit) {
