@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QIcon>
+#include <QString>
 
 namespace zelk {
+
+/// What desktops know the application by: its name on the bus and that of its desktop entry.
+QString applicationId();
 
 /// Sets the application's name and its default font, which all texts inherit. Call once, after creating the
 /// QApplication.
