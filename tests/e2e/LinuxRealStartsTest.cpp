@@ -2,6 +2,7 @@
 // Starts the application many times, kills it and stops it. Only one process may stay.
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QMap>
 #include <memory>
@@ -114,7 +115,7 @@ TEST_P(RealStartsAt, windowNeedsNoRuntimeFolder) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Starts, RealStartsAt, testing::Bool(),
-                         [](const auto& info) { return info.param ? "OnABus" : "WithoutBus"; });
+                         [](const auto& suite) { return suite.param ? "OnABus" : "WithoutBus"; });
 
 TEST_F(RealStarts, busStartsWindowAndBringsItForward) {
     const std::string services = temp / "services";

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>

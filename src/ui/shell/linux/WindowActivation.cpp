@@ -3,8 +3,12 @@
 
 #include <QGuiApplication>
 #include <cstdlib>
-#include <cstring>
 #include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "ui/shell/Activation.h"
 #include "ui/shell/linux/StartupId.h"
@@ -79,11 +83,13 @@ const QString& either(const QString& first, const QString& second) {
 }  // namespace
 
 void activateWindow(QWindow& window, const Activation& by) {
-    if (const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
+    // Off the screen there is an X11 application too, but no connection.
+    const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (xcb_connection_t* connection = native == nullptr ? nullptr : native->connection()) {
         // The toolkit would ask with the time at which the user last did something in this application, which is
         // earlier than what was done since in others.
         const std::string id = either(by.startupId, by.token).toStdString();
-        const X11 server(native->connection());
+        const X11 server(connection);
         const auto target = static_cast<xcb_window_t>(window.winId());
         server.activate(target, timeOfStart(id));
         if (!id.empty()) server.broadcast(target, endOfStartup(id));
