@@ -26,7 +26,8 @@
 //   ui/screens/  a folder per screen, a model and its view: overview is the home, module the three faces of every
 //                screen that looks for something
 //   ui/shell/    Shell: the main window and those beside it; DetailPages, the one table of screens; the menus
-//                (AppCommands), the sidebar, the status item, the question before an end that comes too soon
+//                (AppCommands), the sidebar, the status item, the question before an end that comes too soon;
+//                SingleInstance lets a second start raise the first
 //   app/         this file: makes the platform, the model and the shell, and nothing else
 //
 // Beside ui/ stands cli/: zelk-survey, the survey for the terminal. Apart from them all stands admin/: zelk-admin, the
@@ -37,6 +38,7 @@
 
 #include <QApplication>
 #include <cstdlib>
+#include <optional>
 
 #include "platform/NativePlatform.h"
 #include "platform/posix/PosixChildProcess.h"
@@ -50,6 +52,7 @@
 #include "ui/shell/QuitQuestion.h"
 #include "ui/shell/ShaderCaches.h"
 #include "ui/shell/Shell.h"
+#include "ui/shell/SingleInstance.h"
 #include "ui/shell/Translations.h"
 #include "ui/theme/SystemTexts.h"
 
@@ -63,6 +66,8 @@ constexpr double drainSeconds = 1.5;
 int main(int argc, char** argv) {
     zelk::stopIgnoringChildren();
     zelk::switchOffShaderCachesWhereRoomIsShort();
+    zelk::SingleInstance instance;
+    if (const std::optional<int> status = instance.exitStatus()) return *status;
     QApplication application(argc, argv);
     const zelk::Translations translations;
     zelk::dressApplication();
@@ -83,6 +88,7 @@ int main(int argc, char** argv) {
         services.quit = &QCoreApplication::quit;
         services.bundle = zelk::applicationBundle();
         zelk::Shell shell(model, services);
+        instance.serve(shell);
         const zelk::EndSignals endSignals([&] { shell.main().quitQuestion().quitUnasked(); });
         shell.start();
         status = QApplication::exec();
