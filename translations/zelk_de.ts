@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>Stays: nothing here says what removes it.</source>
-        <translation>Bleibt: Hier ist nicht bekannt, was die Anwendung entfernt.</translation>
+        <translation>Bleibt: Es ist nicht bekannt, womit sich die Anwendung entfernen lässt.</translation>
     </message>
     <message numerus="yes">
         <source>Moves the app and %1 leftover item(s) to Trash — %2.</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>its volume has no place for a Trash</source>
-        <translation>auf dem Datenträger ist kein Platz für einen Papierkorb</translation>
+        <translation>auf seinem Datenträger kann es keinen Papierkorb geben</translation>
     </message>
     <message>
         <source>“%1” is no longer the Trash of its volume</source>
@@ -1015,7 +1015,7 @@
     </message>
     <message>
         <source>Find byte-identical files and keep just one.</source>
-        <translation>Findet byteweise gleiche Dateien und behält nur eine davon.</translation>
+        <translation>Byteweise gleiche Dateien finden und nur eine davon behalten.</translation>
     </message>
     <message>
         <source>Only files of the same size are candidates, and only those are hashed (SHA-256), so the scan stays fast. Each set lets you keep the first copy and Trash the rest.</source>
@@ -2157,11 +2157,11 @@
     </message>
     <message>
         <source>Live vitals for your Mac.</source>
-        <translation>Laufende Messwerte Ihres Mac.</translation>
+        <translation>Aktuelle Messwerte Ihres Mac.</translation>
     </message>
     <message>
         <source>Live vitals for your computer.</source>
-        <translation>Laufende Messwerte Ihres Computers.</translation>
+        <translation>Aktuelle Messwerte Ihres Computers.</translation>
     </message>
     <message>
         <source>Surfaces purgeable space and local APFS snapshots. macOS doesn&apos;t report a size per snapshot, only whether each is freeable — so Zelk shows the purgeable total and each snapshot&apos;s state.</source>
@@ -2289,7 +2289,7 @@
     </message>
     <message>
         <source>There is none of flatpak, snap or the distribution, and no AppImage or unpacked application in your home folder.</source>
-        <translation>Es gibt keine von Flatpak, Snap oder der Distribution und kein AppImage und keine entpackte Anwendung in Ihrem persönlichen Ordner.</translation>
+        <translation>Es gibt weder Anwendungen von Flatpak, Snap oder der Distribution noch ein AppImage oder eine entpackte Anwendung in Ihrem persönlichen Ordner.</translation>
     </message>
 </context>
 <context>
@@ -2710,7 +2710,7 @@
     </message>
     <message>
         <source>Find byte-identical files — duplicate downloads, copied media, repeated exports — and keep just one.</source>
-        <translation>Findet byteweise gleiche Dateien – doppelte Downloads, kopierte Medien, wiederholte Exporte – und behält nur eine davon.</translation>
+        <translation>Byteweise gleiche Dateien finden – doppelte Downloads, kopierte Medien, wiederholte Exporte – und nur eine davon behalten.</translation>
     </message>
     <message>
         <source>Find duplicates</source>
@@ -3256,7 +3256,7 @@
     </message>
     <message>
         <source>Live disk, memory, CPU, and battery gauges.</source>
-        <translation>Laufende Anzeigen für Laufwerk, Arbeitsspeicher, CPU und Akku.</translation>
+        <translation>Aktuelle Anzeigen für Laufwerk, Arbeitsspeicher, CPU und Akku.</translation>
     </message>
     <message>
         <source>See apps by true footprint and uninstall them with all their leftovers.</source>
@@ -3272,7 +3272,7 @@
     </message>
     <message>
         <source>Local snapshots, purgeable space, and disk-image / VM bloat.</source>
-        <translation>Lokale Schnappschüsse, löschbarer Platz und aufgeblähte Abbilder und virtuelle Maschinen.</translation>
+        <translation>Lokale Schnappschüsse, löschbarer Platz sowie aufgeblähte Abbilder und virtuelle Maschinen.</translation>
     </message>
 </context>
 <context>
@@ -3350,7 +3350,7 @@
     </message>
     <message>
         <source>Check memory pressure, free up RAM, flush caches, and trim startup items.</source>
-        <translation>Prüft die Speicherauslastung, gibt Arbeitsspeicher frei, leert Zwischenspeicher und lichtet, was beim Anmelden startet.</translation>
+        <translation>Prüft den Speicherdruck, gibt Arbeitsspeicher frei, leert Zwischenspeicher und lichtet, was beim Anmelden startet.</translation>
     </message>
     <message>
         <source>Scanning…</source>
@@ -3478,7 +3478,7 @@
     </message>
     <message>
         <source>See your storage</source>
-        <translation>Sehen, was Platz belegt</translation>
+        <translation>Ihr Speicherplatz im Blick</translation>
     </message>
     <message>
         <source>Scan your whole drive in seconds, broken down by type and biggest files — with a live bubble map you can drill into.</source>
