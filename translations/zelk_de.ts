@@ -21,13 +21,6 @@
     </message>
 </context>
 <context>
-    <name>AgentRow</name>
-    <message>
-        <source>system</source>
-        <translation>System</translation>
-    </message>
-</context>
-<context>
     <name>AnswerPaper</name>
     <message>
         <source>Result</source>
@@ -204,6 +197,10 @@
             <numerusform>Am alten Ort geblieben: %1 Überrest.</numerusform>
             <numerusform>Am alten Ort geblieben: %1 Überreste.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Stays: only %1 can remove it, which Flatpak’s sandbox does not have.</source>
+        <translation>Bleibt: Nur %1 kann sie entfernen, und das gibt es in der Sandbox von Flatpak nicht.</translation>
     </message>
 </context>
 <context>
@@ -655,6 +652,18 @@
         <source>it is on another volume than the folder it was in</source>
         <translation>es liegt auf einem anderen Datenträger als der Ordner, in dem es war</translation>
     </message>
+    <message>
+        <source>Flatpak’s sandbox has no %1.</source>
+        <translation>In der Sandbox von Flatpak gibt es %1 nicht.</translation>
+    </message>
+    <message>
+        <source>it belongs to the sandbox that Zelk runs in</source>
+        <translation>es gehört zur Sandbox, in der Zelk läuft</translation>
+    </message>
+    <message>
+        <source>Flatpak’s sandbox has no Trash for its folder</source>
+        <translation>in der Sandbox von Flatpak gibt es für seinen Ordner keinen Papierkorb</translation>
+    </message>
 </context>
 <context>
     <name>Figures</name>
@@ -718,6 +727,7 @@
     </message>
     <message>
         <source>Review  →</source>
+        <extracomment>The arrow points onward: from right to left where one reads so.</extracomment>
         <translation>Prüfen  →</translation>
     </message>
     <message>
@@ -1109,6 +1119,7 @@
     </message>
     <message>
         <source>Everything found was in use more recently. Move the slider to the left to see it.</source>
+        <extracomment>Where one reads from right to left, the slider begins at the right.</extracomment>
         <translation>Alles Gefundene wurde in jüngerer Zeit benutzt. Schieben Sie den Regler nach links, um es zu sehen.</translation>
     </message>
     <message>
@@ -1222,6 +1233,13 @@
     <message>
         <source>browsing traces</source>
         <translation>Spuren im Browser</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <translation>LTR</translation>
     </message>
 </context>
 <context>
@@ -2291,6 +2309,38 @@
         <source>There is none of flatpak, snap or the distribution, and no AppImage or unpacked application in your home folder.</source>
         <translation>Es gibt weder Anwendungen von Flatpak, Snap oder der Distribution noch ein AppImage oder eine entpackte Anwendung in Ihrem persönlichen Ordner.</translation>
     </message>
+    <message>
+        <source>Only an administrator can, and nothing in Flatpak’s sandbox can ask for one.</source>
+        <translation>Das kann nur ein Administrator, und in der Sandbox von Flatpak lässt sich keiner fragen.</translation>
+    </message>
+    <message>
+        <source>See memory pressure and remove autostart entries. Freeing memory and flushing the DNS cache take tools that Flatpak&apos;s sandbox does not have.</source>
+        <translation>Zeigt die Speicherauslastung und entfernt Autostart-Einträge. Um Speicher freizugeben und den DNS-Zwischenspeicher zu leeren, fehlen in der Sandbox von Flatpak die Werkzeuge.</translation>
+    </message>
+    <message>
+        <source>Surfaces purgeable space. Snapshots cannot be seen from Flatpak&apos;s sandbox, which has none of the tools that list them.</source>
+        <translation>Zeigt löschbaren Platz. Schnappschüsse sind aus der Sandbox von Flatpak nicht zu sehen, weil dort die Werkzeuge fehlen, die sie auflisten.</translation>
+    </message>
+    <message>
+        <source>Thinning and deleting snapshots take those tools too: do it outside, or in a Zelk that is installed as a package.</source>
+        <translation>Auch zum Ausdünnen und Löschen von Schnappschüssen braucht es diese Werkzeuge: Tun Sie es außerhalb oder mit einem Zelk, das als Paket installiert ist.</translation>
+    </message>
+    <message>
+        <source>Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default to the Trash, and nothing is ever done as an administrator: no prompt reaches Flatpak&apos;s sandbox.</source>
+        <translation>Nichts wird irgendwohin übertragen – untersucht und bereinigt wird nur hier. Was entfernt wird, kommt in den Papierkorb, wenn Sie nichts anderes wählen, und nichts geschieht je als Administrator: Aus der Sandbox von Flatpak lässt sich keiner fragen.</translation>
+    </message>
+    <message>
+        <source>This Zelk runs in Flatpak&apos;s sandbox, with your files opened to it so it can survey them. Tools and packages of the system stay outside: for those, install Zelk as a package.</source>
+        <translation>Dieses Zelk läuft in der Sandbox von Flatpak, die ihm Ihre Dateien öffnet, damit es sie untersuchen kann. Werkzeuge und Pakete des Systems bleiben draußen: Für diese installieren Sie Zelk als Paket.</translation>
+    </message>
+    <message>
+        <source>Whether there are snapshots is not known: Flatpak’s sandbox has none of the tools that list them.</source>
+        <translation>Ob es Schnappschüsse gibt, ist nicht bekannt: In der Sandbox von Flatpak fehlen die Werkzeuge, die sie auflisten.</translation>
+    </message>
+    <message>
+        <source>There is no AppImage or unpacked application in your home folder. Those of flatpak, snap and the distribution can’t be seen from Flatpak’s sandbox.</source>
+        <translation>In Ihrem persönlichen Ordner gibt es weder ein AppImage noch eine entpackte Anwendung. Die von Flatpak, Snap und der Distribution sind aus der Sandbox von Flatpak nicht zu sehen.</translation>
+    </message>
 </context>
 <context>
     <name>SystemView</name>
@@ -2467,6 +2517,14 @@
         <source>system</source>
         <translation>System</translation>
     </message>
+    <message>
+        <source>not removable here</source>
+        <translation>hier nicht entfernbar</translation>
+    </message>
+    <message>
+        <source>Not removable here: what would start in its place can’t be seen.</source>
+        <translation>Hier nicht entfernbar: Was stattdessen starten würde, ist nicht zu sehen.</translation>
+    </message>
 </context>
 <context>
     <name>zelk::AppCommands</name>
@@ -2543,6 +2601,13 @@
         <translation>
             <numerusform>%1 Anwendung · mit Zwischenspeichern, Hilfsdateien und Containern</numerusform>
             <numerusform>%1 Anwendungen · mit Zwischenspeichern, Hilfsdateien und Containern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 apps · those of flatpak, snap and the distribution can’t be seen from here</source>
+        <translation>
+            <numerusform>%1 Anwendung · die von Flatpak, Snap und der Distribution sind von hier nicht zu sehen</numerusform>
+            <numerusform>%1 Anwendungen · die von Flatpak, Snap und der Distribution sind von hier nicht zu sehen</numerusform>
         </translation>
     </message>
 </context>
@@ -2836,6 +2901,14 @@
     <message>
         <source>%1d</source>
         <translation>%1 T.</translation>
+    </message>
+    <message>
+        <source>needs %1, which Flatpak’s sandbox does not have</source>
+        <translation>braucht %1, das es in der Sandbox von Flatpak nicht gibt</translation>
+    </message>
+    <message>
+        <source>may be in use: what runs can’t be seen from here</source>
+        <translation>vielleicht in Benutzung: Was läuft, ist von hier nicht zu sehen</translation>
     </message>
 </context>
 <context>
@@ -3284,6 +3357,10 @@
     <message>
         <source>%1 — %2</source>
         <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>%1 may be running: quit it before clearing</source>
+        <translation>%1 läuft vielleicht: vor dem Entfernen beenden</translation>
     </message>
 </context>
 <context>
