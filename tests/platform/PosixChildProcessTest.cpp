@@ -119,7 +119,7 @@ TEST(PosixChildProcess, findsToolsBehindEnvOnTheGivenPath) {
 }
 
 TEST(PosixChildProcess, givesChildThatInheritsNoPathTheOther) {
-    const fakes::EnvironmentVariable none("PATH", std::nullopt);
+    const fakes::EnvironmentVariable noPath("PATH", std::nullopt);
     EXPECT_THAT(PosixChildProcess("/usr/bin").run("/usr/bin/env", {}).output, testing::HasSubstr("PATH=/usr/bin\n"));
 }
 
