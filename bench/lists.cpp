@@ -8,19 +8,17 @@
 // The items are caches in folders below $TMPDIR (or /tmp), found by a real survey. Nothing is removed except by this
 // program at its end.
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <string>
 #include <string_view>
 
 #include "Camera.h"
+#include "FrameBench.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
 #include "ui/screens/lens/LensScreenModel.h"
@@ -42,31 +40,6 @@ void makeItems(const std::filesystem::path& home, int count) {
     }
 }
 
-class Bench {
-public:
-    explicit Bench(MainWindow& window) : window_(window) {}
-
-    /// Measures `action` repeatedly, each time with the resulting frame.
-    void measure(const char* what, int rounds, const std::function<void(int)>& action) {
-        double sum = 0;
-        double worst = 0;
-        for (int round = 0; round < rounds; ++round) {
-            QElapsedTimer time;
-            time.start();
-            action(round);
-            QCoreApplication::processEvents();
-            window_.window().grabWindow();
-            const double took = static_cast<double>(time.nsecsElapsed()) / 1e6;
-            sum += took;
-            worst = std::max(worst, took);
-        }
-        std::printf("%-28s %8.2f ms, at worst %8.2f ms\n", what, sum / rounds, worst);
-    }
-
-private:
-    MainWindow& window_;
-};
-
 void runItems(AppModel& app, MainWindow& window) {
     app.startScan();
     tour::waitUntil([&] { return app.scanPhase() == AppModel::ScanPhase::finished; });
@@ -79,19 +52,19 @@ void runItems(AppModel& app, MainWindow& window) {
     window.window().grabWindow();
     std::printf("%zu items\n", app.reclaimables().size());
 
-    Bench bench(window);
-    bench.measure("a frame alone", 20, [](int) {});
-    bench.measure("the age, folded up", 20, [&](int round) { items.setAgeDays(round % 2); });
+    bench::FrameBench frames(window.window());
+    frames.measure("a frame alone", 20, [](int) {});
+    frames.measure("the age, folded up", 20, [&](int round) { items.setAgeDays(round % 2); });
     items.setAgeDays(0);
-    bench.measure("a category unfolded", 1, [&](int) { items.setOpen(0, true); });
-    bench.measure("the age, unfolded", 20, [&](int round) { items.setAgeDays(round % 2); });
+    frames.measure("a category unfolded", 1, [&](int) { items.setOpen(0, true); });
+    frames.measure("the age, unfolded", 20, [&](int round) { items.setAgeDays(round % 2); });
     items.setAgeDays(0);
     const int last = items.rowCount() - 1;
-    bench.measure("an item's tick", 50, [&](int round) { items.toggle(1 + round * 37 % last); });
-    bench.measure("a category's tick", 21, [&](int) { items.toggle(0); });
-    bench.measure("a category folded", 1, [&](int) { items.setOpen(0, false); });
-    bench.measure("the review of all", 1, [&](int) { items.clean(); });
-    bench.measure("the review left", 1, [&](int) { window.reclaim().dryRun()->close(); });
+    frames.measure("an item's tick", 50, [&](int round) { items.toggle(1 + round * 37 % last); });
+    frames.measure("a category's tick", 21, [&](int) { items.toggle(0); });
+    frames.measure("a category folded", 1, [&](int) { items.setOpen(0, false); });
+    frames.measure("the review of all", 1, [&](int) { items.clean(); });
+    frames.measure("the review left", 1, [&](int) { window.reclaim().dryRun()->close(); });
 }
 
 /// Measures the list of the folders that each contain one item, all in one folder.
@@ -103,18 +76,18 @@ void runFolders(MainWindow& window) {
     lens.back();
     window.window().grabWindow();
 
-    Bench bench(window);
-    bench.measure("a folder entered", 1, [&](int) { lens.drill(0); });
+    bench::FrameBench frames(window.window());
+    frames.measure("a folder entered", 1, [&](int) { lens.drill(0); });
     std::printf("%d folders\n", lens.rows()->rowCount());
-    bench.measure("a page of it scrolled", 100,
-                  [&](int) { list->setProperty("contentY", list->property("contentY").toDouble() + list->height()); });
-    bench.measure("to its end", 1, [&](int) {
+    frames.measure("a page of it scrolled", 100,
+                   [&](int) { list->setProperty("contentY", list->property("contentY").toDouble() + list->height()); });
+    frames.measure("to its end", 1, [&](int) {
         list->setProperty("contentY", list->property("contentHeight").toDouble() - list->height());
     });
-    bench.measure("a folder's tick", 50, [&](int round) { lens.toggle(round * 37 % lens.rows()->rowCount()); });
-    bench.measure("all ticked", 1, [&](int) { lens.selectAll(); });
-    bench.measure("none ticked", 1, [&](int) { lens.selectNone(); });
-    bench.measure("the folder left", 1, [&](int) { lens.back(); });
+    frames.measure("a folder's tick", 50, [&](int round) { lens.toggle(round * 37 % lens.rows()->rowCount()); });
+    frames.measure("all ticked", 1, [&](int) { lens.selectAll(); });
+    frames.measure("none ticked", 1, [&](int) { lens.selectNone(); });
+    frames.measure("the folder left", 1, [&](int) { lens.back(); });
 }
 
 }  // namespace

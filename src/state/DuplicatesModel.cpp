@@ -25,7 +25,9 @@ struct DuplicatesModel::Removed {
 
 DuplicatesModel::DuplicatesModel(const Platform& platform, RemovalsModel& removals, RemovalUndo& undo,
                                  MainThreadQueue::Sender mainThread)
-    : platform_(platform), removals_(removals), undo_(undo), mainThread_(std::move(mainThread)) {}
+    : platform_(platform), removals_(removals), undo_(undo), mainThread_(std::move(mainThread)) {
+    connect(&undo_, &RemovalUndo::ended, this, &DuplicatesModel::listRestored);
+}
 
 DuplicatesModel::~DuplicatesModel() {
     abandoned_->set();
@@ -88,8 +90,11 @@ void DuplicatesModel::trashOthers(DuplicateGroup group, std::string keep) {
             std::vector<RemovalUndo::Item> restorable;
             for (const MovedDuplicates::Item& item : moved.restorable)
                 // Called by an object of the same owner, while both exist.
-                restorable.push_back(
-                    {item.trashed, [this, removed, path = item.file.item.text()] { return putBack(*removed, path); }});
+                restorable.push_back({item.trashed, [this, removed, path = item.file.item.text()] {
+                                          removed->present.insert(path);
+                                          restored_ = removed;
+                                          return true;
+                                      }});
             undo_.offer(RemovalUndo::Source::duplicates, moved.moved, std::move(restorable));
         });
     };
@@ -98,9 +103,10 @@ void DuplicatesModel::trashOthers(DuplicateGroup group, std::string keep) {
 
 /// Lists the group again, with the files of it that are there. Their stamps have changed on the way to the Trash and
 /// back, so they have to be read before the next move.
-bool DuplicatesModel::putBack(Removed& removed, const std::string& path) {
-    removed.present.insert(path);
-    if (removed.search != searches_ || loading_) return true;
+void DuplicatesModel::listRestored() {
+    const std::shared_ptr<Removed> restored = std::exchange(restored_, nullptr);
+    if (!restored || restored->search != searches_ || loading_) return;
+    const Removed& removed = *restored;
     DuplicateGroup group;
     group.hash = removed.group.hash;
     group.size = removed.group.size;
@@ -117,7 +123,6 @@ bool DuplicatesModel::putBack(Removed& removed, const std::string& path) {
     };
     groups.insert(std::upper_bound(groups.begin(), groups.end(), group, wastesMore), std::move(group));
     setGroups(std::move(groups));
-    return true;
 }
 
 void DuplicatesModel::setLoading(bool loading) {

@@ -47,8 +47,7 @@ public:
     void scan(const std::vector<std::string>& roots);
     /// Moves all files of the group but that at the path `keep` to the Trash, as far as trashDuplicates() allows, and
     /// tells RemovalUndo. The group leaves the list at once, whatever is moved; nothing is while one with the same hash
-    /// is being removed. What is put back is listed again, until
-    /// the next search.
+    /// is being removed. What is put back is listed again when its undo has ended, until the next search.
     void trashOthers(DuplicateGroup group, std::string keep);
 
 signals:
@@ -63,7 +62,7 @@ private:
     void setLoading(bool loading);
     void setGroups(std::vector<DuplicateGroup> groups);
     void setProgress(const HashProgress& progress);
-    bool putBack(Removed& removed, const std::string& path);
+    void listRestored();
 
     const Platform platform_;
     RemovalsModel& removals_;
@@ -74,8 +73,9 @@ private:
     bool loading_ = false;
     bool hasScanned_ = false;
     HashProgress progress_;
-    std::set<std::string> removing_;  ///< the hashes of the groups that are being removed
-    int searches_ = 0;                ///< how many were started
+    std::shared_ptr<Removed> restored_;  ///< of whose group files are back, until they are listed
+    std::set<std::string> removing_;     ///< the hashes of the groups that are being removed
+    int searches_ = 0;                   ///< how many were started
 };
 
 }  // namespace zelk

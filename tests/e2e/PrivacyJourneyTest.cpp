@@ -142,30 +142,13 @@ TEST_F(PrivacyJourney, hasNoFaultInAnySizeOrTheme) {
             click("reviewButton");
             untilCleared();
         }
-        for (const QSize size : {QSize(960, 620), QSize(1600, 1000)}) {
-            window().resize(size);
-            runUntil([&] { return window().contentItem()->size() == QSizeF(size); });
-            for (const double factor : {1.0, 1.5}) {
-                main().textScale().setFactor(factor);
-                for (const auto theme : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
-                    model().setAppearance(theme);
-                    for (const char* place : cleared ? std::vector{"scanTracesAgain", "undoRemoval"}
-                                                     : std::vector{"traceList", "reviewButton"}) {
-                        tabTo(window(), place);
-                        window().grabWindow();
-                        runWhatIsThere();
-                        window().grabWindow();
-                        const std::string where =
-                            std::to_string(size.width()) + " by " + std::to_string(factor) + " " + place;
-                        EXPECT_THAT(layoutFaults(window()), IsEmpty()) << where;
-                        EXPECT_THAT(accessibilityFaults(window()), IsEmpty()) << where;
-                        EXPECT_THAT(ringFaults(window()), IsEmpty()) << where;
-                    }
-                }
-            }
-        }
+        for (const char* place :
+             cleared ? std::vector{"scanTracesAgain", "undoRemoval"} : std::vector{"traceList", "reviewButton"})
+            inEverySize(place, [&](const std::string& state) {
+                tabTo(window(), place);
+                expectNoFaultsWithRing(state);
+            });
     }
-    main().textScale().setFactor(1);
 }
 
 #ifndef Q_OS_MACOS

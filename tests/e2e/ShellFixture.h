@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QTest>
+#include <functional>
+#include <memory>
+#include <string>
 
 #include "Camera.h"
+#include "ScreenFaults.h"
 #include "state/AppModelFixture.h"
 #include "ui/shell/Shell.h"
 #include "ui/shell/SidebarModel.h"
@@ -65,6 +71,38 @@ protected:
     }
     bool shows(const QString& text) { return showing(text) != nullptr; }
     QString focusName() { return window().activeFocusItem()->objectName(); }
+
+    void expectNoFaults(QQuickWindow& where, const std::string& state) {
+        where.grabWindow();  // applies pending layout
+        runWhatIsThere();
+        where.grabWindow();
+        EXPECT_THAT(layoutFaults(where), testing::IsEmpty()) << state;
+        EXPECT_THAT(accessibilityFaults(where), testing::IsEmpty()) << state;
+    }
+    /// Where what has the focus is in sight.
+    void expectNoFaultsWithRing(const std::string& state) {
+        expectNoFaults(window(), state);
+        EXPECT_THAT(ringFaults(window()), testing::IsEmpty()) << state;
+    }
+    /// Calls `look` in a small and a large window, with normal and large text, and in both themes.
+    void inEverySize(const std::string& state, const std::function<void(const std::string&)>& look) {
+        for (const QSize size : {QSize(960, 620), QSize(1600, 1000)}) {
+            window().resize(size);
+            runUntil([&] { return window().contentItem()->size() == QSizeF(size); });
+            for (const double factor : {1.0, 1.5}) {
+                main().textScale().setFactor(factor);
+                for (const auto theme : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
+                    model().setAppearance(theme);
+                    look(state + ", " + std::to_string(size.width()) + " wide, texts by " + std::to_string(factor) +
+                         (theme == AppModel::Appearance::dark ? ", dark" : ", light"));
+                }
+            }
+        }
+        main().textScale().setFactor(1);
+    }
+    void inEverySize(const std::string& state) {
+        inEverySize(state, [this](const std::string& where) { expectNoFaults(window(), where); });
+    }
 
     WindowServices services;
     int quits = 0;

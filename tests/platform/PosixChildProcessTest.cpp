@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/PosixChildProcess.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -98,6 +99,28 @@ TEST(PosixChildProcess, missingToolBehindEnvReturns127) {
     EXPECT_EQ(outcome.launchFailure, std::nullopt);
     EXPECT_EQ(outcome.exitStatus, 127);
     EXPECT_NE(outcome.output.find("zelk-has-no-such-tool"), std::string::npos);
+}
+
+TEST(PosixChildProcess, givesChildAnotherPath) {
+    const fakes::EnvironmentVariable inherited("PATH", "/inherited");
+    const fakes::EnvironmentVariable kept("ZELK_KEPT", "yes");
+    const std::string variables = PosixChildProcess("/nowhere:/usr/bin").run("/usr/bin/env", {}).output;
+    EXPECT_THAT(variables, testing::HasSubstr("PATH=/nowhere:/usr/bin\n"));
+    EXPECT_THAT(variables, testing::HasSubstr("ZELK_KEPT=yes\n"));
+    EXPECT_THAT(variables, testing::Not(testing::HasSubstr("/inherited")));
+}
+
+TEST(PosixChildProcess, findsToolsBehindEnvOnTheGivenPath) {
+    const zoo::TempFolder folder;
+    fakes::writeFile(folder / "zelk-tool", "#!/bin/sh\necho found\n");
+    ASSERT_EQ(::chmod((folder / "zelk-tool").c_str(), 0755), 0);
+    EXPECT_EQ(PosixChildProcess("/usr/bin:" + folder.path()).run("/usr/bin/env", {"zelk-tool"}).output, "found\n");
+    EXPECT_EQ(PosixChildProcess("/usr/bin").run("/usr/bin/env", {"zelk-tool"}).exitStatus, 127);
+}
+
+TEST(PosixChildProcess, givesChildThatInheritsNoPathTheOther) {
+    const fakes::EnvironmentVariable none("PATH", std::nullopt);
+    EXPECT_THAT(PosixChildProcess("/usr/bin").run("/usr/bin/env", {}).output, testing::HasSubstr("PATH=/usr/bin\n"));
 }
 
 TEST(PosixChildProcess, inheritsEnvironmentAndWorkingDirectory) {
@@ -274,6 +297,54 @@ TEST(PosixChildProcess, otherStreamsLeaveNoDescriptors) {
         shell("ls /dev/fd/ > " + (folder / "list"), streams);
         EXPECT_EQ(fakes::fileContent(folder / "list"), "0\n1\n2\n3\n");
     }
+    EXPECT_EQ(fakes::openDescriptors(), before);
+}
+
+ChildStreams within(double seconds, std::size_t bytes = 1 << 20) {
+    return {.limit = ChildLimit{seconds, bytes}};
+}
+
+TEST(PosixChildProcess, limitLeavesAQuickChildAlone) {
+    const ChildOutcome outcome = shell("echo out; echo error >&2; exit 7", within(600));
+    EXPECT_EQ(outcome.exitStatus, 7);
+    EXPECT_EQ(outcome.output, "out\nerror\n");
+    EXPECT_EQ(shell("head -c 100000 /dev/zero", within(600)).output.size(), 100'000U) << "more than a pipe holds";
+    EXPECT_EQ(shell("exec >&- 2>&-; i=0; while [ $i -lt 20000 ]; do i=$((i+1)); done; exit 9", within(600)).exitStatus,
+              9);
+}
+
+TEST(PosixChildProcess, limitKillsAChildThatHangs) {
+    for (const char* line :
+         {"echo out; exec sleep 600", "exec >&- 2>&-; exec sleep 600", "trap '' TERM; exec sleep 600"}) {
+        const ChildOutcome outcome = shell(line, within(0.05));
+        EXPECT_EQ(outcome.launchFailure, std::nullopt);
+        EXPECT_EQ(outcome.exitStatus, SIGKILL);
+        EXPECT_EQ(outcome.output, "") << "half of an answer is none";
+    }
+    EXPECT_EQ(shell("exec sleep 600", within(0)).exitStatus, SIGKILL);
+}
+
+// What it has started has the pipe too.
+TEST(PosixChildProcess, limitDoesNotWaitForDescendants) {
+    EXPECT_EQ(shell("sleep 3 & exit 5", within(0.05)).output, "");
+}
+
+TEST(PosixChildProcess, limitKillsAChildThatSaysTooMuch) {
+    EXPECT_EQ(shell("exec yes", within(600, 100'000)).exitStatus, SIGKILL);
+    EXPECT_EQ(shell("exec yes", within(600, 100'000)).output, "");
+    EXPECT_EQ(shell("printf 12345", within(600, 5)).output, "12345");
+    EXPECT_EQ(shell("printf 123456", within(600, 5)).output, "");
+}
+
+TEST(PosixChildProcess, limitLeavesNoDescriptorAndNoZombie) {
+    const std::ptrdiff_t before = fakes::openDescriptors();
+    EXPECT_TRUE(fakes::inChild([] {
+        shell("exec sleep 600", within(0.01));
+        shell(":", within(600));
+        return ::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD;
+    }));
+    shell("exec sleep 600", within(0.01));
+    EXPECT_EQ(PosixChildProcess().run("/nowhere/tool", {}, within(1)).launchFailure, std::strerror(ENOENT));
     EXPECT_EQ(fakes::openDescriptors(), before);
 }
 

@@ -315,6 +315,16 @@ TEST_F(Duplicates, removalIsOfferedForUndo) {
     EXPECT_EQ(model().scanPhase(), Phase::idle) << "it is no matter of a survey";
 }
 
+TEST_F(Duplicates, undoListsWhatCameBackAtOnce) {
+    search();
+    keepFirst(0);
+    settle();
+    heard.clear();
+    model().undoLastRemoval();
+    runUntil([this] { return !model().removalUndo().underWay(); });
+    EXPECT_THAT(heard, ElementsAre("groups")) << "and not once for each of thousands of copies";
+}
+
 TEST_F(Duplicates, whatDoesNotComeBackIsNotListed) {
     search();
     keepFirst(0);

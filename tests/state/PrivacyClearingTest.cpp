@@ -78,8 +78,7 @@ TEST_F(PrivacyOfMac, clearingNothingDoesNothing) {
 
 TEST_F(PrivacyOfMac, afterEverythingIsClearedAScanMeasuresAgain) {
     scan();
-    for (const std::string& one : identities()) privacy().setSelected(one, true);
-    clear();
+    clearAll();
     EXPECT_THAT(privacy().traces(), IsEmpty());
     EXPECT_TRUE(privacy().hasScanned());
     machine.files.addFile(library + "Caches/Firefox/data", {}, 9'000'000);
@@ -139,8 +138,7 @@ TEST_F(PrivacyOfMac, undoListsWhatCouldBeRestored) {
 
 TEST_F(PrivacyOfMac, whatIsRestoredDuringAScanIsListed) {
     scan();
-    for (const std::string& one : identities()) privacy().setSelected(one, true);
-    clear();
+    clearAll();
     machine.tasks.hold();
     privacy().scanTraces();
     machine.tasks.runNext();  // measures nothing; the result is on its way
@@ -154,13 +152,8 @@ TEST_F(PrivacyOfMac, whatIsRestoredDuringAScanIsListed) {
 
 TEST_F(PrivacyOfMac, scanKeepsWhatAnUndoListedBeforeItsResult) {
     scan();
-    for (const std::string& one : identities()) privacy().setSelected(one, true);
-    clear();
-    machine.tasks.hold();
-    privacy().scanTraces();
-    model().undoLastRemoval();
-    machine.tasks.runAt(1);
-    runUntil([this] { return !privacy().traces().empty(); });
+    clearAll();
+    undoWhileAScanWaits();
     EXPECT_TRUE(privacy().loading());
     for (const char* gone : {"Caches/com.apple.Safari", "Caches/Google/Chrome"}) machine.files.erase(library + gone);
     machine.tasks.release();
@@ -173,13 +166,8 @@ TEST_F(PrivacyOfMac, scanKeepsWhatAnUndoListedBeforeItsResult) {
 
 TEST_F(PrivacyOfMac, whatIsClearedDuringAScanIsMeasuredAfterwards) {
     scan();
-    for (const std::string& one : identities()) privacy().setSelected(one, true);
-    clear();
-    machine.tasks.hold();
-    privacy().scanTraces();
-    model().undoLastRemoval();
-    machine.tasks.runAt(1);
-    runUntil([this] { return !privacy().traces().empty(); });
+    clearAll();
+    undoWhileAScanWaits();
     privacy().setSelected("SafariCaches", true);
     privacy().clearSelected();
     machine.tasks.runNext();  // measures what is about to be moved
@@ -192,13 +180,8 @@ TEST_F(PrivacyOfMac, whatIsClearedDuringAScanIsMeasuredAfterwards) {
 
 TEST_F(PrivacyOfMac, onlyTheLastMeasuringCounts) {
     scan();
-    for (const std::string& one : identities()) privacy().setSelected(one, true);
-    clear();
-    machine.tasks.hold();
-    privacy().scanTraces();
-    model().undoLastRemoval();
-    machine.tasks.runAt(1);
-    runUntil([this] { return !privacy().traces().empty(); });
+    clearAll();
+    undoWhileAScanWaits();
     runWhatIsThere();
     while (machine.tasks.waiting().size() > 1) machine.tasks.runAt(1);  // what else follows the undo
     privacy().setSelected("SafariCaches", true);

@@ -37,6 +37,18 @@ protected:
         runUntil([this] { return !model().removals().underWay(); });
         runWhatIsThere();
     }
+    void clearAll() {
+        for (const std::string& one : identities()) privacy().setSelected(one, true);
+        clear();
+    }
+    /// Holds the tasks, so that the scan delivers its result after the undo.
+    void undoWhileAScanWaits() {
+        machine.tasks.hold();
+        privacy().scanTraces();
+        model().undoLastRemoval();
+        machine.tasks.runAt(1);
+        runUntil([this] { return !privacy().traces().empty(); });
+    }
     void undo() {
         model().undoLastRemoval();
         runUntil([this] { return !model().removalUndo().underWay(); });

@@ -67,6 +67,7 @@ FocusScope {
         Sidebar {
             id: sidePanel
 
+            anchors.left: parent.left
             height: parent.height
             sidebar: contents.sidebar
             onEntered: contents.enterScreen(Qt.MouseFocusReason)

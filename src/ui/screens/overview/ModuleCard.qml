@@ -95,6 +95,7 @@ BaseButton {
             Tile {
                 id: tile
 
+                anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
                 symbol: face.symbol
                 tint: face.tint
@@ -132,6 +133,7 @@ BaseButton {
         }
 
         AnimatedNumber {
+            anchors.left: parent.left
             value: face.value
             pixelSize: 23
             bold: true

@@ -27,7 +27,8 @@ ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup)
 }
 
 QString ItemList::footer() const {
-    return tr("%1 items selected").arg(tallies_.selected.items);
+    return tr("%1 items selected", "", forPlural(static_cast<std::int64_t>(tallies_.selected.items)))
+        .arg(tallies_.selected.items);
 }
 
 QString ItemList::footerBytes() const {
@@ -35,7 +36,7 @@ QString ItemList::footerBytes() const {
 }
 
 QString ItemList::ageText() const {
-    return ageDays() > 0 ? tr("%1 days").arg(ageDays()) : tr("all");
+    return ageDays() > 0 ? tr("%1 days", "", forPlural(ageDays())).arg(ageDays()) : tr("all");
 }
 
 QString ItemList::shownText() const {
@@ -50,7 +51,8 @@ QVariant ItemList::value(std::size_t at, int role) const {
 QVariant ItemList::dataOfGroup(const Group& group, int role) const {
     const ReclaimCategory& category = *group.content.category;
     const auto figure = [&] {
-        return QStringLiteral("%1 · ").arg(group.content.items.size()) + byteFigure(group.content.bytes());
+        return inReadingOrder(QStringLiteral("%1 · ").arg(group.content.items.size()) +
+                              byteFigure(group.content.bytes()));
     };
     switch (role) {
         case groupRole:
@@ -110,8 +112,12 @@ QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
 }
 
 QString ItemList::lineOf(const Reclaimable& item) const {
-    if (item.method.kind == ReclaimMethod::Kind::command) return displayText(methodSummary(item.method));
+    if (item.method.kind == ReclaimMethod::Kind::command) {
+        if (!app_.platform().locations.isSandboxed()) return displayText(methodSummary(item.method));
+        return tr("needs %1, which Flatpak’s sandbox does not have").arg(displayText(toolOf(item.method)));
+    }
     const std::string& application = cleanup_.selection().conflictOf(item);
+    if (application == Cleaner::unknownApplication) return tr("may be in use: what runs can’t be seen from here");
     return application.empty() ? QString() : tr("quit %1 to clear").arg(displayText(application));
 }
 

@@ -37,8 +37,11 @@ FocusScope {
         Column {
             id: rows
 
-            width: parent.width
-            padding: Theme.pageMargin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.pageMargin
+            width: Math.min(parent.width - 2 * Theme.pageMargin, Theme.pageWidth)
+            topPadding: Theme.pageMargin
+            bottomPadding: Theme.pageMargin
             spacing: 12
 
             Repeater {
@@ -50,7 +53,7 @@ FocusScope {
                     required property int index
                     required property toolFace modelData
 
-                    width: Math.min(rows.width - 2 * rows.padding, Theme.pageWidth)
+                    width: rows.width
                     focus: row.index === 0
                     text: row.modelData.spoken
                     padding: 16
@@ -92,6 +95,7 @@ FocusScope {
                         Tile {
                             id: tile
 
+                            anchors.left: parent.left
                             anchors.verticalCenter: parent.verticalCenter
                             symbol: row.modelData.look.symbol
                             tint: row.modelData.look.color
