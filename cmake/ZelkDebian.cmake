@@ -57,5 +57,6 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://zelk.github.io)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 list(JOIN ZELK_UNSEEN_DEPENDS ", " CPACK_DEBIAN_PACKAGE_DEPENDS)
-# Windows on Wayland, links and folders opened by the desktop, questions for an administrator.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "pkexec, qt6-wayland, xdg-utils")
+# Questions for an administrator, what Qt itself says in other languages, windows on Wayland, and links and folders opened
+# by the desktop.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "pkexec, qt6-translations-l10n, qt6-wayland, xdg-utils")

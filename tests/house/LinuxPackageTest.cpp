@@ -74,8 +74,9 @@ TEST_F(Installed, hasTheProgramsAndAllThatTheDesktopLooksFor) {
           share + "icons/hicolor/symbolic/apps/" + applicationId + "-symbolic.svg",
           share + "metainfo/" + applicationId + ".metainfo.xml",
           share + "polkit-1/actions/" + applicationId + ".policy", share + "man/man1/zelk.1.gz",
-          share + "man/man1/zelk-survey.1.gz", share + "man/man8/zelk-admin.8.gz", share + "doc/zelk/copyright", share + "doc/zelk/changelog.gz",
-          share + "doc/zelk/changelog.Debian.gz"})
+          share + "man/man1/zelk-survey.1.gz", share + "man/man8/zelk-admin.8.gz", share + "doc/zelk/copyright",
+          share + "doc/zelk/changelog.gz", share + "doc/zelk/changelog.Debian.gz",
+          share + "zelk/translations/zelk_de.qm"})
         EXPECT_THAT(files(), Contains(path));
     EXPECT_EQ(std::ranges::count_if(files(), [](const std::string& path) { return path.find("/bin/") != path.npos; }),
               2);
