@@ -26,6 +26,7 @@ public:
     /// Of another user.
     HostText& foreign(const std::string& number, const std::string& argument) {
         files_ += text("/proc/" + number + "/cmdline") + text(argument);
+        files_ += text("/proc/" + number + "/cgroup") + text("0::/app-org.sample.Maps-1.scope\n");
         return *this;
     }
     HostText& entry(const std::string& path, const Strings& lines) {
@@ -88,6 +89,7 @@ TEST(HostAnswers, leaveOutOtherUsers) {
     const auto answer = parseHostAnswer(usual().foreign("1", "/sbin/init").whole());
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->processes.size(), 1U);
+    EXPECT_THAT(runningApplicationsOf(*answer, {}).names, IsEmpty());
 }
 
 TEST(HostAnswers, thatAreCutOffAreNone) {
@@ -152,6 +154,7 @@ TEST(HostApplications, runIfTheirControlGroupSaysSo) {
 
 TEST(HostApplications, runIfAProgramIsCalledAsTheirs) {
     EXPECT_THAT(runningNames("/usr/bin/xs", {"xs"}, "xs"), ElementsAre("X"));
+    EXPECT_THAT(runningNames("/usr/bin/xs", {"a title of its own"}, "xs"), ElementsAre("X")) << "by its program";
     EXPECT_THAT(runningNames("/opt/x/xs", {"/opt/x/xs"}, "/usr/bin/xs --new %U"), ElementsAre("X")) << "behind a link";
     EXPECT_THAT(runningNames("/opt/x/x-3.2", {"/usr/bin/xs"}, "env A=1 xs"), ElementsAre("X")) << "by its argument";
     EXPECT_THAT(runningNames("", {"xs"}, "xs"), ElementsAre("X")) << "without a program";
@@ -170,6 +173,7 @@ TEST(HostApplications, runIfTheirScriptDoes) {
 TEST(HostApplications, doNotRunByALauncherOfMany) {
     EXPECT_THAT(runningNames("/usr/bin/flatpak", {"flatpak", "run", "a"}, "flatpak run b"), IsEmpty());
     EXPECT_THAT(runningNames("/usr/bin/dash", {"sh", "-c", "x"}, "sh -c 'y'"), IsEmpty());
+    EXPECT_THAT(runningNames("", {""}, "flatpak run b"), IsEmpty()) << "what has no name is not called as one";
 }
 
 TEST(HostApplications, areNamedAsInTheMenus) {

@@ -140,6 +140,15 @@ TEST_F(FlatpakSandbox, leavesAHomeInAFolderOfTheRuntimeToItsUser) {
     EXPECT_TRUE(sandbox.isPartOf(place.root + "/var/cache/x", home));
 }
 
+TEST_F(FlatpakSandbox, leavesAHomeThatIsLinkedIntoAFolderOfTheRuntimeToItsUser) {
+    const std::string home = place.root + "/tmp/me";
+    fs::create_directory(place.root + "/tmp");
+    fs::create_directory_symlink(place.home, home);
+    EXPECT_FALSE(place.sandbox().isPartOf(home + "/file", home));
+    EXPECT_FALSE(place.sandbox().isPartOf(place.home + "/file", home));
+    EXPECT_TRUE(place.sandbox().isPartOf(place.own, home));
+}
+
 TEST_F(FlatpakSandbox, knowsItsFolderByTheRealPathOfTheHomeToo) {
     fs::create_directories(place.root + "/tmp/homes/me");
     fs::remove_all(place.home);
