@@ -118,7 +118,7 @@ TEST(PosixChildProcess, findsToolsBehindEnvOnTheGivenPath) {
 }
 
 TEST(PosixChildProcess, givesChildThatInheritsNoPathTheOther) {
-    const fakes::EnvironmentVariable none("PATH", std::nullopt);
+    const fakes::EnvironmentVariable withoutPath("PATH", std::nullopt);
     EXPECT_THAT(PosixChildProcess("/usr/bin").run("/usr/bin/env", {}).output, testing::HasSubstr("PATH=/usr/bin\n"));
 }
 
