@@ -246,6 +246,30 @@ def toolkit_faults(bundle: Path, imports):
     return faults
 
 
+def deployment_faults(project: Path, facts: Facts, imports):
+    """Of what the project, configured for macOS, tells the toolkit's deploy tool, which must find the modules
+    `imports`."""
+    faults = []
+    description = project / "src/app/Zelk.app/Contents/Info.plist"
+    faults += [f"the project's Info.plist: {fault}" for fault in plist_faults(description.read_bytes(), facts)]
+    installs = (project / "packaging/macos/cmake_install.cmake").read_text()
+    scripts = [Path(name) for name in re.findall(r'include\("([^"]+/deploy_qml_app[^"]*)"\)', installs)]
+    if len(scripts) != 1:
+        return [*faults, f"cmake --install runs {len(scripts)} deploy scripts"]
+    for part in ("qt_deploy_qml_imports(TARGET zelk ", "EXECUTABLE Zelk.app"):
+        if part not in re.sub(r"qt6_", "qt_", scripts[0].read_text()):
+            faults.append(f"the deploy script says nothing of {part}")
+    if installs.count(f'-add_rpath "{FRAMEWORKS}"') != len(PROGRAMS):
+        faults.append(f"cmake --install does not give each program {FRAMEWORKS}")
+    if installs.find("zelk-survey") > installs.find(scripts[0].name):
+        faults.append("the deploy tool runs before all programs are there")
+    found = (project / "src/app/.qt_plugins/Qt6_QmlPlugins_Imports_zelk.cmake").read_text()
+    deployed = set(re.findall(r";NAME;([\w.]+);PATH;[^\n]*;PLUGIN;", found))
+    faults += [f"the toolkit's scanner finds no plugin of {module}"
+               for module in sorted(set(imports) - deployed)]
+    return faults
+
+
 def bundle_faults(bundle: Path, facts: Facts, imports=(), elements=None):
     """Of a bundle as it is installed. `imports` are the modules of the toolkit that it must have, if any."""
     contents = bundle / "Contents"

@@ -121,8 +121,8 @@ def make_bundle(folder: Path, facts, elements):
     return folder / "Zelk.app"
 
 
-def replaced(path, old, new):
-    return lambda made: write(made / path, (made / path).read_bytes().replace(old, new))
+def replaced(path, old, new, times=-1):
+    return lambda made: write(made / path, (made / path).read_bytes().replace(old, new, times))
 
 
 def put(path, data):
@@ -234,6 +234,33 @@ IN_SOURCES = {
 }
 
 
+INSTALLS, SCANNED = "packaging/macos/cmake_install.cmake", "src/app/.qt_plugins/Qt6_QmlPlugins_Imports_zelk.cmake"
+SCRIPT = ".qt/deploy_qml_app_zelk_0"
+
+
+def make_project(folder: Path, facts):
+    """What is read of the project once CMake has configured it for macOS."""
+    write(folder / "src/app/Zelk.app/Contents/Info.plist", plistlib.dumps(description(facts)))
+    write(folder / SCRIPT, "qt6_deploy_qml_imports(TARGET zelk PLUGINS_FOUND found)\nEXECUTABLE Zelk.app\n")
+    write(folder / INSTALLS, f'-add_rpath "{bundle.FRAMEWORKS}" Zelk\n-add_rpath "{bundle.FRAMEWORKS}" zelk-survey\n'
+                             f'include("{folder}/{SCRIPT}")\n')
+    write(folder / SCANNED, "".join(f'"X;NAME;{module};PATH;/qml;PLUGIN;plugin;"\n' for module in MODULES))
+    return folder
+
+
+IN_PROJECT = {
+    "another description": replaced("src/app/Zelk.app/Contents/Info.plist", b"APPL", b"BNDL"),
+    "no deploy script": replaced(INSTALLS, b"include", b"#"),
+    "a deploy script for no views": replaced(SCRIPT, b"qt6_deploy_qml_imports", b"# "),
+    "a deploy script for another bundle": replaced(SCRIPT, b"Zelk.app", b"zelk.app"),
+    "one program without a way to the libraries": replaced(INSTALLS, b"-add_rpath", b"", 1),
+    "a deploy script that comes first": lambda made: write(made / INSTALLS, b"".join(reversed(
+        (made / INSTALLS).read_bytes().splitlines(keepends=True)))),
+    "a module that is not found": replaced(SCANNED, b"QtQuick.Templates", b"QtQuick.Other"),
+    "a module without a plugin": replaced(SCANNED, b"PLUGIN;", b""),
+}
+
+
 def all_found(facts, say):
     """Says what was not found; returns whether everything was."""
     wrong, count = [], 0
@@ -276,6 +303,12 @@ def all_found(facts, say):
             expect(mistake, bundle.source_faults(make_sources(folder / "sources", **parts), facts, target))
         expect("a compiler for another system",
                bundle.source_faults(make_sources(folder / "sources"), facts, "aarch64-macos.12.0"))
+
+        project = make_project(folder / "project", facts)
+        expect("a right project", bundle.deployment_faults(project, facts, MODULES), False)
+        for mistake, make in IN_PROJECT.items():
+            make(make_project(project, facts))
+            expect(mistake, bundle.deployment_faults(project, facts, MODULES))
     for line in wrong:
         say(line)
     say("the self-test failed" if wrong else f"{count} mistakes, all found")
