@@ -3,6 +3,7 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QGuiApplication>
 #include <QFileInfo>
 #include <algorithm>
 #include <cmath>
