@@ -11,12 +11,11 @@ endif()
 
 # What the system's own panels speak follows the application's languages: English and what it is translated into.
 set(ZELK_LOCALIZATIONS "\n\t\t<string>en</string>")
-file(GLOB translations CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/../translations/*_[a-z][a-z].ts)
+file(GLOB translations CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/../translations/zelk_*.ts)
 foreach(translation ${translations})
-  string(REGEX REPLACE ".*_([a-z]+)\\.ts$" "\\1" language ${translation})
-  if(NOT language STREQUAL "en")
-    string(APPEND ZELK_LOCALIZATIONS "\n\t\t<string>${language}</string>")
-  endif()
+  string(REGEX REPLACE ".*/zelk_(.*)\\.ts$" "\\1" language ${translation})
+  string(REPLACE "_" "-" language ${language})
+  string(APPEND ZELK_LOCALIZATIONS "\n\t\t<string>${language}</string>")
 endforeach()
 
 set(ZELK_INFO_PLIST ${CMAKE_BINARY_DIR}/packaging/macos/Info.plist)

@@ -36,15 +36,15 @@ class Facts:
     """What the rest of the project says about the same things."""
     version: str
     minimum: str
-    languages: list
+    translated: list
 
     @staticmethod
     def of(root: Path):
         lists = root / "CMakeLists.txt"
-        translated = {name.stem.rpartition("_")[2] for name in (root / "translations").glob("*_[a-z][a-z].ts")}
+        translated = sorted(name.stem.removeprefix("zelk_") for name in (root / "translations").glob("zelk_*.ts"))
         return Facts(version=only(r"project\(Zelk VERSION ([0-9.]+) ", lists),
                      minimum=only(r"set\(CMAKE_OSX_DEPLOYMENT_TARGET ([0-9.]+) ", lists),
-                     languages=["en", *sorted(translated - {"en"})])
+                     translated=translated)
 
     def entries(self):
         """Every entry of the description with its value, but for the build number and the usages."""
@@ -54,7 +54,7 @@ class Facts:
                 "CFBundleIconFile": "Zelk.icns",
                 "CFBundleIdentifier": "io.github.zelk.Zelk",
                 "CFBundleInfoDictionaryVersion": "6.0",
-                "CFBundleLocalizations": self.languages,
+                "CFBundleLocalizations": ["en", *(language.replace("_", "-") for language in self.translated)],
                 "CFBundleName": "Zelk",
                 "CFBundlePackageType": "APPL",
                 "CFBundleShortVersionString": self.version,
@@ -228,13 +228,16 @@ def program_faults(path: Path, facts: Facts):
     return faults
 
 
-def toolkit_faults(bundle: Path, imports):
-    """Of what the deploy tool puts beside the programs: without any of it no window opens."""
+def toolkit_faults(bundle: Path, facts: Facts, imports):
+    """Of what is put beside the programs: without what the deploy tool puts there no window opens."""
     faults = []
     for part in ("Frameworks/QtCore.framework", "Frameworks/QtQuick.framework", "PlugIns/platforms/libqcocoa.dylib",
                  "Resources/qt.conf"):
         if not (bundle / "Contents" / part).exists():
             faults.append(f"Contents/{part} is missing")
+    for language in facts.translated:
+        if not (bundle / f"Contents/Resources/translations/zelk_{language}.qm").exists():
+            faults.append(f"the translation {language} is missing")
     for module in sorted(imports):
         description = bundle / "Contents/Resources/qml" / module.replace(".", "/") / "qmldir"
         if not description.exists():
@@ -296,7 +299,7 @@ def bundle_faults(bundle: Path, facts: Facts, imports=(), elements=None):
             except ValueError as error:
                 faults.append(f"{path.relative_to(bundle)}: {error}")
     if imports:
-        faults += toolkit_faults(bundle, imports)
+        faults += toolkit_faults(bundle, facts, imports)
     return faults
 
 

@@ -100,6 +100,8 @@ def make_bundle(folder: Path, facts, elements):
     write(contents / "Info.plist", plistlib.dumps(description(facts)))
     write(contents / "Resources/Zelk.icns", icon(elements))
     write(contents / "Resources/qt.conf", "[Paths]\n")
+    for language in facts.translated:
+        write(contents / f"Resources/translations/zelk_{language}.qm", b"words")
     core = "@rpath/QtCore.framework/Versions/A/QtCore"
     for name in bundle.PROGRAMS:
         write(contents / "MacOS" / name, program(libraries=("/usr/lib/libSystem.B.dylib", core))).chmod(0o755)
@@ -168,6 +170,7 @@ IN_BUNDLE = {
     "a module without its plugin": away("Contents/Resources/qml/QtQuick/libqtquickplugin.dylib"),
     "a plugin that is only linked": away("Contents/PlugIns/libqtquicktemplatesplugin.dylib"),
     "a link out of the bundle": link("Contents/Resources/outside", "/usr/bin/true"),
+    "no words of a language": away("Contents/Resources/translations/zelk_pt_BR.qm"),
     "no description": away("Contents/Info.plist"),
     "no icon": away("Contents/Resources/Zelk.icns"),
     "a bundle of another name": lambda made: made.rename(made.with_name("zelk-survey.app")),
@@ -264,6 +267,7 @@ IN_PROJECT = {
 def all_found(facts, say):
     """Says what was not found; returns whether everything was."""
     wrong, count = [], 0
+    facts = bundle.Facts(facts.version, facts.minimum, ["de", "pt_BR"])
 
     def expect(name, faults, any_fault=True):
         nonlocal count
