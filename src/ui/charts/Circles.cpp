@@ -137,7 +137,7 @@ void drawHalo(QPainter& painter, QPointF center, const QColor& color, double opa
 
 void drawRing(QPainter& painter, QPointF center, double radius, double width, const QColor& color) {
     if (radius <= 0) return;
-    const double scale = painter.transform().m11();
+    const double scale = std::abs(painter.transform().m11());  // negative where a picture is mirrored
     const SmoothRing soft(radius, width, scale, color);
     if (soft.reach() * scale < SmoothRing::finest)
         fillBetween(painter, center, soft.hole(), soft.reach(), soft.at(center));
