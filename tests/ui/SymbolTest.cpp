@@ -3,8 +3,8 @@
 
 #include <QDirIterator>
 #include <QFile>
-#include <QGuiApplication>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <algorithm>
 #include <cmath>
 #include <vector>
