@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QGuiApplication>
+
 #include "ViewFixture.h"
 #include "fakes/RightToLeft.h"
 
