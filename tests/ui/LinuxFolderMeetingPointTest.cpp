@@ -201,7 +201,7 @@ TEST_F(LinuxFolderMeetingPoint, hearsWithoutActivationAndWithOneTooLong) {
     std::vector<std::unique_ptr<FolderMeetingPoint>> others;
     others.push_back(point());
     ASSERT_EQ(others[0]->claim(), Claim::taken);
-    const Activation tooLong{QString(5000, QLatin1Char('x')), {}};
+    const Activation tooLong{QStringLiteral("token"), QString(5000, QLatin1Char('x'))};
     EXPECT_THAT(answersTo(others, {}), ElementsAre(Answer::heard));
     EXPECT_THAT(answersTo(others, tooLong), ElementsAre(Answer::heard));
     EXPECT_THAT(asked, ElementsAre(Activation(), Activation()));
