@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Pictures that begin at a side are mirrored where the application reads from right to left, and no others.
 #include <gtest/gtest.h>
+#include <QGuiApplication>
 
 #include <QDirIterator>
 #include <QFileInfo>
@@ -122,8 +123,9 @@ TEST(MirroredPictures, symbolsThatPointAlongTheTextAreMirrored) {
         const QImage fromRight = paintedFromRight(symbol, {48, 48});
         directed += isDirectedSymbol(name) ? 1 : 0;
         EXPECT_EQ(fromRight, isDirectedSymbol(name) ? fromLeft.mirrored(true, false) : fromLeft) << name.toStdString();
-        if (isDirectedSymbol(name))
+        if (isDirectedSymbol(name)) {
             EXPECT_NE(fromRight, fromLeft) << name.toStdString() << " looks the same either way";
+        }
     }
     EXPECT_EQ(directed, 9);
 }
