@@ -2,6 +2,7 @@
 #include "MirrorCheck.h"
 
 #include <gmock/gmock.h>
+#include <QGuiApplication>
 
 #include <QGuiApplication>
 

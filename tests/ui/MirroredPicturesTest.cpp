@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Pictures that begin at a side are mirrored where the application reads from right to left, and no others.
 #include <gtest/gtest.h>
+#include <QGuiApplication>
 
 #include <QDirIterator>
 #include <QFileInfo>
