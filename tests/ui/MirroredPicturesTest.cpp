@@ -28,9 +28,18 @@ const QColor pictureSlate(20, 30, 40);
 /// Whether the pictures differ nowhere by more than the rounding of antialiased edges.
 bool isSamePicture(const QImage& one, const QImage& other) {
     if (one.size() != other.size()) return false;
-    for (int y = 0; y < one.height(); ++y)
-        for (int x = 0; x < one.width(); ++x)
-            if (!alike(one.pixelColor(x, y), other.pixelColor(x, y), 8)) return false;
+    // As they are on the screen: the colour of a pixel that is nearly transparent is anything.
+    const auto opaque = [](const QImage& picture) {
+        QImage onBlack(picture.size(), QImage::Format_RGB32);
+        onBlack.fill(Qt::black);
+        QPainter(&onBlack).drawImage(0, 0, picture);
+        return onBlack;
+    };
+    const QImage first = opaque(one);
+    const QImage second = opaque(other);
+    for (int y = 0; y < first.height(); ++y)
+        for (int x = 0; x < first.width(); ++x)
+            if (!alike(first.pixelColor(x, y), second.pixelColor(x, y), 8)) return false;
     return true;
 }
 
