@@ -82,12 +82,12 @@ void TextCheck::lookAt(QQuickItem& item, const QRectF& shown, const QString& pic
     else
         return;
     if (!roomy_) return;
-    const double tolerance = 0.5;
+    const double slack = 0.5;
     if (item.property("truncated").toBool())
         report(QStringLiteral("elided"), text, picture);
-    else if (item.property("contentWidth").toDouble() > item.width() + tolerance)
+    else if (item.property("contentWidth").toDouble() > item.width() + slack)
         report(QStringLiteral("wider than its place"), text, picture);
-    else if (place.left() < shown.left() - tolerance || place.right() > shown.right() + tolerance)
+    else if (place.left() < shown.left() - slack || place.right() > shown.right() + slack)
         report(QStringLiteral("cut off at the side"), text, picture);
 }
 
