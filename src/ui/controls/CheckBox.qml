@@ -51,9 +51,7 @@ T.CheckBox {
             // Sets the colour at once while hidden: a reused delegate must not animate from its previous row.
             Behavior on color {
                 enabled: box.visible
-                ColorAnimation {
-                    duration: Motion.quick
-                }
+                QuickChange {}
             }
 
             HoverOverlay {
@@ -68,11 +66,6 @@ T.CheckBox {
                 color: Theme.accentInk
                 size: Math.round(11 * TextScale.factor)
                 visible: box.on
-            }
-
-            FocusRing {
-                shown: box.visualFocus
-                corner: 5
             }
         }
     }

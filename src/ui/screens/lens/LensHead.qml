@@ -108,8 +108,7 @@ Item {
     }
 
     Divider {
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         anchors.bottom: parent.bottom
     }
 }

@@ -85,7 +85,6 @@ Column {
     Eyebrow {
         bottomPadding: -8
         text: qsTr("Findings")
-        Accessible.role: Accessible.Heading
     }
 
     // The surveyed bytes by type, and below them the Trash.
@@ -100,7 +99,6 @@ Column {
 
             Eyebrow {
                 text: qsTr("Scanned storage")
-                Accessible.role: Accessible.Heading
             }
 
             StorageRibbon {

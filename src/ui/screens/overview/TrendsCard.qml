@@ -22,7 +22,6 @@ Card {
 
         Eyebrow {
             text: qsTr("Trends")
-            Accessible.role: Accessible.Heading
         }
 
         Item {

@@ -47,7 +47,6 @@ Item {
                         id: caption
 
                         text: qsTr("Maintenance")
-                        Accessible.role: Accessible.Heading
                     }
 
                     Spinner {
