@@ -27,8 +27,6 @@ size_t qHash(const Tinting& tinting, size_t seed = 0) {
     return qHashMulti(seed, tinting.name, tinting.color, tinting.pixels, tinting.weight);
 }
 
-constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
-
 /// Caches recent images, so that a list with the same symbol in every row reads its file once.
 class DrawnSymbols {
 public:
@@ -43,7 +41,7 @@ public:
 
 private:
     QMutex mutex_;
-    QCache<Tinting, QImage> images_{kKeptBytes};
+    QCache<Tinting, QImage> images_{4 * 1024 * 1024};
 };
 
 /// The SVG of the symbol with lines of this weight: from normal to bold they grow by one of the grid's 24 units.

@@ -142,20 +142,16 @@ void LensScreenModel::followTree() {
     walk_.setRoot(app_.root());
     if (!(walk_.currentNode() == shown_)) return arrive();
     rows_.follow();
-    showSlices();
-    leaveTrees();
     emit placeChanged();
-    emit selectionChanged();
+    tellSelection();
 }
 
 /// Shows another folder. The current row becomes that of `from`, the folder that was left, if it has one.
 void LensScreenModel::arrive(const NodeRef& from) {
     rows_.show();
     shown_ = walk_.currentNode();
-    showSlices();
-    leaveTrees();
     emit placeChanged();
-    emit selectionChanged();
+    tellSelection();
     emit arrived(std::max(0, rows_.rowOf(from)));
 }
 

@@ -13,8 +13,6 @@ namespace zelk {
 
 namespace {
 
-const QColor largestTypeColor(255, 59, 48);
-
 /// The surveyed bytes. With a single scan root, its own size.
 std::int64_t scannedBytes(const AppModel& app) {
     const NodeRef& root = app.root();
@@ -101,6 +99,7 @@ void FindingsModel::headline() {
 }
 
 QList<RibbonSegment> FindingsModel::readSegments() const {
+    const QColor largestTypeColor(255, 59, 48);
     QList<RibbonSegment> segments;
     const auto types = app_.sortedTypeTotals();
     for (const auto& [type, tally] : types) {
