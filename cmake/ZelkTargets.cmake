@@ -9,6 +9,22 @@ if(CCACHE_PROGRAM)
   set(CMAKE_OBJCXX_COMPILER_LAUNCHER ${launcher})
 endif()
 
+# The same objects wherever the tree lies.
+add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+
+if(ZELK_HARDENED AND NOT APPLE)
+  include(CheckPIESupported)
+  check_pie_supported()
+  add_compile_options(-fstack-protector-strong -fstack-clash-protection
+    -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3 -D_GLIBCXX_ASSERTIONS)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64|i.86")
+    add_compile_options(-fcf-protection)
+  elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "aarch64|arm64")
+    add_compile_options(-mbranch-protection=standard)
+  endif()
+  add_link_options(-Wl,-z,relro,-z,now)
+endif()
+
 if(ZELK_SANITIZE)
   add_compile_options(-fsanitize=${ZELK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${ZELK_SANITIZE})

@@ -9,6 +9,13 @@ preset_folder() {
     esac
 }
 
+# date_sources: what is built of one commit, on whatever day, is the same: Qt's resources and the package hold this date
+# of it instead of their own. A tree without a history, or a system without git, has none unless it is given.
+date_sources() {
+    [ -n "${SOURCE_DATE_EPOCH:-}" ] || SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null) || true
+    if [ -n "$SOURCE_DATE_EPOCH" ]; then export SOURCE_DATE_EPOCH; else unset SOURCE_DATE_EPOCH; fi
+}
+
 # build_preset PRESET [TARGET...]: configures the preset and builds these targets, or all, in its build folder.
 build_preset() {
     preset=$1
@@ -19,6 +26,7 @@ build_preset() {
         CMAKE_PREFIX_PATH=$(brew --prefix)${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}
         export CMAKE_PREFIX_PATH
     fi
+    date_sources
     cmake --preset "$preset" ||
         fail "configuring failed; the reason stands above. If it speaks of an old cache, remove $(preset_folder "$preset") and run this again."
     cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build failed; the first error above says where."

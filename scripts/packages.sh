@@ -89,6 +89,7 @@ install_with_apt() {
 install_with_brew() {
     missing=
     for formula in $(wanted 3 "$@"); do
+        case " ${leave_out:-} " in *" $formula "*) continue ;; esac
         [ -d "$(brew --prefix)/opt/$formula" ] || missing="$missing $formula"
     done
     if [ -z "$missing" ]; then
@@ -100,7 +101,7 @@ install_with_brew() {
     HOMEBREW_NO_INSTALL_CLEANUP=1 brew install $missing || fail "Homebrew could not install these; its reason stands above."
 }
 
-# install_packages GROUP...: installs the missing packages of these groups.
+# install_packages GROUP...: installs the missing packages of these groups; on a Mac without those in $leave_out.
 install_packages() {
     say "Looking for missing packages"
     if on_mac; then

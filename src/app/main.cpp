@@ -18,23 +18,27 @@
 //                CleanupSession removes, TrashMirror shows the Trash; TuneModel, DuplicatesModel, AppsModel and
 //                PrivacyModel hold what their screens found; SurveyHistory is the one file that Zelk writes;
 //                MainThreadQueue brings results back from tasks
-//   ui/theme/    ZelkTheme's two instances; Theme, Motion and TextScale hand them to QML; DisplayText makes of bytes
-//                what a person reads; the symbols, one SVG each, and SymbolItem, which tints them
+//   ui/theme/    ZelkTheme's two instances; Theme, Motion, TextScale and ReadingDirection hand to QML what holds on
+//                every screen; DisplayText makes of bytes what a person reads; the symbols, one SVG each, and
+//                SymbolItem, which tints them
 //   ui/controls/ the base controls: role, keyboard and focus ring are solved here
 //   ui/charts/   what is painted: CirclePacking and the bubble map over it, ScanButton, ribbon, ring, sparkline
 //   ui/screens/  a folder per screen, a model and its view: overview is the home, module the three faces of every
 //                screen that looks for something
 //   ui/shell/    Shell: the main window and those beside it; DetailPages, the one table of screens; the menus
-//                (AppCommands), the sidebar, the status item, the question before an end that comes too soon
+//                (AppCommands), the sidebar, the status item, the question before an end that comes too soon;
+//                SingleInstance lets a second start raise the first
 //   app/         this file: makes the platform, the model and the shell, and nothing else
 //
 // Beside ui/ stands cli/: zelk-survey, the survey for the terminal. Apart from them all stands admin/: zelk-admin, the
 // small program that does what only root may on Linux.
 //
-// Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures.
+// Beside src/: tests/ mirrors it and drives the real window in tests/e2e; bench/ measures; tools/ takes its pictures;
+// packaging/ makes what is installed.
 
 #include <QApplication>
 #include <cstdlib>
+#include <optional>
 
 #include "platform/NativePlatform.h"
 #include "platform/posix/PosixChildProcess.h"
@@ -48,6 +52,9 @@
 #include "ui/shell/QuitQuestion.h"
 #include "ui/shell/ShaderCaches.h"
 #include "ui/shell/Shell.h"
+#include "ui/shell/SingleInstance.h"
+#include "ui/shell/Translations.h"
+#include "ui/theme/SystemTexts.h"
 
 namespace {
 
@@ -59,10 +66,14 @@ constexpr double drainSeconds = 1.5;
 int main(int argc, char** argv) {
     zelk::stopIgnoringChildren();
     zelk::switchOffShaderCachesWhereRoomIsShort();
+    zelk::SingleInstance instance;
+    if (const std::optional<int> status = instance.exitStatus()) return *status;
     QApplication application(argc, argv);
+    const zelk::Translations translations;
     zelk::dressApplication();
     zelk::refuseWindowTabs();
     zelk::NativePlatform native;
+    if (native.platform().locations.isSandboxed()) zelk::SystemTexts::show(zelk::SystemTexts::System::flatpak);
     zelk::SettingsPreferences preferences;
 
     int status = 0;
@@ -77,6 +88,7 @@ int main(int argc, char** argv) {
         services.quit = &QCoreApplication::quit;
         services.bundle = zelk::applicationBundle();
         zelk::Shell shell(model, services);
+        instance.serve(shell);
         const zelk::EndSignals endSignals([&] { shell.main().quitQuestion().quitUnasked(); });
         shell.start();
         status = QApplication::exec();

@@ -21,6 +21,8 @@ struct BackgroundItemFolder {
     bool removable;  ///< it is the user's own
     /// Folders of the system whose files the system ignores as long as this folder has one of the same name.
     std::vector<std::string> hides = {};
+    /// There are more of those, which cannot be seen from here: whether a file hides something is not known.
+    bool hidesUnseen = false;
 
     bool operator==(const BackgroundItemFolder&) const = default;
 };

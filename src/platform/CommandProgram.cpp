@@ -51,4 +51,10 @@ std::vector<std::string> withoutEnv(std::vector<std::string> words) {
     return words;
 }
 
+std::string toolName(const std::vector<std::string>& words) {
+    const std::vector<std::string> command = withoutEnv(words);
+    const std::vector<std::string>& named = command.empty() ? words : command;
+    return named.empty() ? std::string() : std::string(fileNameOf(named.front()));
+}
+
 }  // namespace zelk

@@ -23,4 +23,7 @@ std::string interpretedFile(const std::vector<std::string>& words);
 /// Drops "env" with its options and assignments from the start of a command.
 std::vector<std::string> withoutEnv(std::vector<std::string> words);
 
+/// The name of the program that a command starts, behind "env" too; of "env" alone that. Empty for no words.
+std::string toolName(const std::vector<std::string>& words);
+
 }  // namespace zelk

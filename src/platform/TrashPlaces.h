@@ -8,7 +8,8 @@
 namespace zelk {
 
 /// The folders that hold trashed items, such as the "files" of a Trash. Their contents still use space but are not
-/// offered for removal again. Paths are bytes. A value type, safe from any thread.
+/// offered for removal again. Folders from which nothing may go count as such too. Paths are bytes. A value type, safe
+/// from any thread.
 class TrashPlaces {
 public:
     /// Matches nothing.

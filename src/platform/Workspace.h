@@ -31,6 +31,9 @@ public:
     /// The ids of the desktop entries of the user's running applications ("org.kde.kate" for "org.kde.kate.desktop"),
     /// in the same order; empty where the system has none, as by default.
     virtual std::vector<std::string> runningApplicationIds() { return {}; }
+    /// False if nobody told what runs, as may be in a sandbox: both lists are empty then, and any application may be
+    /// running. True by default.
+    virtual bool knowsRunningApplications() { return true; }
     /// Shows the paths selected in the system's file manager. Returns at once and ignores failures.
     virtual void reveal(const std::vector<std::string>& paths) = 0;
     /// Opens `url` with the desktop. Returns at once and ignores failures. On Linux `accessSettingsURL`, which no

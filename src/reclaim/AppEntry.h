@@ -31,6 +31,7 @@ struct AppObstacle {
         partOfSystem,     ///< the system counts on it
         needed,           ///< removing it would remove others
         noTool,           ///< the tool that put it here is missing
+        outOfReach,       ///< the tool that put it here cannot be run from the sandbox that Zelk is in
         severalVersions,  ///< the tool would have to be told which one
         notOwn,           ///< it belongs to another user
         changed,          ///< it is no longer what was listed

@@ -5,6 +5,7 @@
 #include <mutex>
 #include <utility>
 
+#include "platform/Translation.h"
 #include "platform/Utf8.h"
 
 namespace zelk {
@@ -49,7 +50,9 @@ private:
 Cleaner::Status remove(const Reclaimable& reclaimable, bool hardDelete, const Platform& platform) {
     const std::string& path = reclaimable.path;
     const std::optional<ItemPath> item = ItemPath::below(path.substr(0, reclaimable.rootLength), path);
-    if (!item) return Cleaner::Failed{"“" + path + "” is not the path of anything that can be removed."};
+    if (!item)
+        return Cleaner::Failed{
+            filled(translated("Cleaner", "“%1” is not the path of anything that can be removed."), {path})};
     Failure failure = hardDelete ? platform.files.remove(*item) : platform.trash.trash(*item).failure;
     if (failure) return Cleaner::Failed{std::move(*failure)};
     return Cleaner::Trashed{};
@@ -101,6 +104,7 @@ Cleaner::Result Cleaner::runTool(const std::string& tool, const std::vector<std:
 std::optional<std::string> Cleaner::runningConflict(const Reclaimable& item, Workspace& workspace) {
     const auto category = reclaimCategoryByID().find(item.categoryID);
     if (category == reclaimCategoryByID().end() || !category->second->appScoped) return std::nullopt;
+    if (!workspace.knowsRunningApplications()) return unknownApplication;
     for (std::string& name : workspace.runningApplications())
         if (!name.empty() && item.path.find("/" + name + "/") != std::string::npos) return std::move(name);
     return std::nullopt;

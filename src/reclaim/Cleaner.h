@@ -62,8 +62,12 @@ public:
     static Result runTool(const std::string& tool, const std::vector<std::string>& args, const Reclaimable& item,
                           ChildProcess& processes);
 
+    /// What stands for the running application if nobody knows which run. No name of one, since it could be no folder.
+    static constexpr const char* unknownApplication = "/";
+
     /// The first running application whose name is a folder of the item's path; absent if the item's category is not
-    /// app-scoped. Main thread only.
+    /// app-scoped. `unknownApplication` for every item of the others if the system did not say what runs. Main thread
+    /// only.
     static std::optional<std::string> runningConflict(const Reclaimable& item, Workspace& workspace);
 
     /// Allocated bytes of `path`. A folder includes everything below it except hidden entries, a link counts itself and

@@ -10,8 +10,8 @@
 namespace zelk {
 
 struct PathExplanation {
-    std::string title;  ///< a headline, or the last component of the path as bytes
-    std::string_view detail;
+    std::string title;        ///< a translated headline, or the last component of the path as bytes
+    std::string_view detail;  ///< not translated, as it may name the system
     ReclaimSafety safety = ReclaimSafety::review;
     bool regenerates = false;  ///< shown beside the grade, independently of it
 
@@ -22,7 +22,7 @@ struct PathExplanation {
 /// Lower-cases A to Z only.
 PathExplanation explain(std::string_view path, std::string_view home);
 
-/// How to shrink a disk image.
+/// How to shrink a disk image, not translated.
 std::string_view diskImageAdvice(std::string_view path);
 
 }  // namespace zelk

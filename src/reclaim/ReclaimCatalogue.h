@@ -44,6 +44,9 @@ struct ReclaimMethod {
 /// "Trash", or the tool and its arguments joined by blanks.
 std::string methodSummary(const ReclaimMethod& method);
 
+/// What a person calls the tool of a command: its name, or of "/usr/bin/env" the first argument. Empty for trash.
+std::string toolOf(const ReclaimMethod& method);
+
 /// A row of the catalogue. Equal and hashed by `id` alone.
 struct ReclaimCategory {
     std::string_view id;

@@ -44,6 +44,7 @@ bool mayGo(FileManager& files, const Trace& trace, const std::string& path) {
 TracePlaces placesFor(FileManager& files, Locations& locations, SystemKind system) {
     TracePlaces homes{system, locations.home(), {}, {}};
     if (system == SystemKind::macOS) return homes;
+    homes.sandboxed = locations.isSandboxed();
     homes.xdg =
         locations.xdgHomes().value_or(XdgHomes{pathIn(homes.home, ".local/share"), pathIn(homes.home, ".config"),
                                                pathIn(homes.home, ".cache"), pathIn(homes.home, ".local/state")});
@@ -55,19 +56,22 @@ TracePlaces placesFor(FileManager& files, Locations& locations, SystemKind syste
     return homes;
 }
 
-/// Whether `text` is "HOST-PID" of a process of this machine that is there. The name of a host may have a hyphen.
-bool namesProcess(FileManager& files, std::string_view text) {
+/// Whether `text` is "HOST-PID" of a process of this machine that is there, or may be there unseen. The name of a host
+/// may have a hyphen.
+bool namesProcess(FileManager& files, std::string_view text, bool isProcessSeen) {
     const std::size_t hyphen = text.rfind('-');
     if (hyphen == std::string_view::npos) return false;
     const std::string_view process = text.substr(hyphen + 1);
     if (!parseNumber<std::uint32_t>(process)) return false;
     const std::string file = files.readSmall(hostNameFile, longestHostName).value_or("");
     const std::string_view host = trimmed(file);
-    return !host.empty() && text.substr(0, hyphen) == host && files.exists("/proc/" + std::string(process));
+    if (host.empty() || text.substr(0, hyphen) != host) return false;
+    return !isProcessSeen || files.exists("/proc/" + std::string(process));
 }
 
 bool isHeld(FileManager& files, const BrowserLock& lock) {
-    return lock.isLink ? namesProcess(files, files.linkTarget(lock.path).value_or("")) : files.isLocked(lock.path);
+    if (!lock.isLink) return files.isLocked(lock.path);
+    return namesProcess(files, files.linkTarget(lock.path).value_or(""), lock.isProcessSeen);
 }
 
 /// The paths of a database's companions, whether or not they exist.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/FolderPath.h"
+#include "platform/Translation.h"
 
 namespace zelk {
 
@@ -39,59 +40,70 @@ constexpr TracePath inCache(std::string_view below) {
     return {TraceBase::cache, below};
 }
 
+// Shown in the language of the user.
+constexpr std::string_view safari = ZELK_TEXT("Reclaim", "Safari");
+constexpr std::string_view chrome = ZELK_TEXT("Reclaim", "Chrome");
+constexpr std::string_view brave = ZELK_TEXT("Reclaim", "Brave");
+constexpr std::string_view edge = ZELK_TEXT("Reclaim", "Edge");
+constexpr std::string_view arc = ZELK_TEXT("Reclaim", "Arc");
+constexpr std::string_view firefox = ZELK_TEXT("Reclaim", "Firefox");
+constexpr std::string_view gnomeWeb = ZELK_TEXT("Reclaim", "GNOME Web");
+constexpr std::string_view chromium = ZELK_TEXT("Reclaim", "Chromium");
+constexpr std::string_view historyKind = ZELK_TEXT("Reclaim", "History");
+constexpr std::string_view cookieKind = ZELK_TEXT("Reclaim", "Cookies");
+constexpr std::string_view recentKind = ZELK_TEXT("Reclaim", "Recent items");
+constexpr std::string_view thumbnailKind = ZELK_TEXT("Reclaim", "Thumbnails");
+
 constexpr TraceRow macTable[] = {
-    {"Safari",
+    {safari,
      cacheKind,
      {{inHome("Library/Caches/com.apple.Safari"), inHome("Library/Caches/com.apple.WebKit.WebContent")}}},
-    {"Safari", "History", {{inHome("Library/Safari/History.db"), inHome("Library/Safari/History.db-wal")}}},
-    {"Chrome",
+    {safari, historyKind, {{inHome("Library/Safari/History.db"), inHome("Library/Safari/History.db-wal")}}},
+    {chrome,
      cacheKind,
      {{inHome("Library/Caches/Google/Chrome"), inHome("Library/Application Support/Google/Chrome/Default/Cache")}}},
-    {"Chrome", "History", {{inHome("Library/Application Support/Google/Chrome/Default/History")}}},
-    {"Chrome", "Cookies", {{inHome("Library/Application Support/Google/Chrome/Default/Cookies")}}},
-    {"Brave",
+    {chrome, historyKind, {{inHome("Library/Application Support/Google/Chrome/Default/History")}}},
+    {chrome, cookieKind, {{inHome("Library/Application Support/Google/Chrome/Default/Cookies")}}},
+    {brave,
      cacheKind,
      {{inHome("Library/Caches/BraveSoftware"),
        inHome("Library/Application Support/BraveSoftware/Brave-Browser/Default/Cache")}}},
-    {"Edge",
+    {edge,
      cacheKind,
      {{inHome("Library/Caches/Microsoft Edge"), inHome("Library/Application Support/Microsoft Edge/Default/Cache")}}},
-    {"Arc", cacheKind, {{inHome("Library/Caches/company.thebrowser.Browser")}}},
-    {"Firefox", cacheKind, {{inHome("Library/Caches/Firefox")}}},
-    {"System", "Recent items", {{inHome("Library/Application Support/com.apple.sharedfilelist")}}},
+    {arc, cacheKind, {{inHome("Library/Caches/company.thebrowser.Browser")}}},
+    {firefox, cacheKind, {{inHome("Library/Caches/Firefox")}}},
+    {systemTraces, recentKind, {{inHome("Library/Application Support/com.apple.sharedfilelist")}}},
 };
-
-constexpr std::string_view firefox = "Firefox";
-constexpr std::string_view firefoxCookies = "Cookies";
 
 // Firefox's history is not in it: one file holds it and the bookmarks.
 constexpr TraceRow linuxTable[] = {
-    {"GNOME Web", cacheKind, {{inCache("epiphany"), inHome(".var/app/org.gnome.Epiphany/cache/epiphany")}}},
-    {"GNOME Web", "History", {{inData("epiphany/ephy-history.db")}}, true},
-    {"Chrome", cacheKind, {{inCache("google-chrome"), inHome(".var/app/com.google.Chrome/cache/google-chrome")}}},
-    {"Chrome", "History", {{inConfig("google-chrome/Default/History")}}, true},
-    {"Chrome", "Cookies", {{inConfig("google-chrome/Default/Cookies")}}, true},
-    {"Chromium",
+    {gnomeWeb, cacheKind, {{inCache("epiphany"), inHome(".var/app/org.gnome.Epiphany/cache/epiphany")}}},
+    {gnomeWeb, historyKind, {{inData("epiphany/ephy-history.db")}}, true},
+    {chrome, cacheKind, {{inCache("google-chrome"), inHome(".var/app/com.google.Chrome/cache/google-chrome")}}},
+    {chrome, historyKind, {{inConfig("google-chrome/Default/History")}}, true},
+    {chrome, cookieKind, {{inConfig("google-chrome/Default/Cookies")}}, true},
+    {chromium,
      cacheKind,
      {{inCache("chromium"), inHome("snap/chromium/common/.cache/chromium"),
        inHome(".var/app/org.chromium.Chromium/cache/chromium")}}},
-    {"Chromium",
-     "History",
+    {chromium,
+     historyKind,
      {{inConfig("chromium/Default/History"), inHome("snap/chromium/common/chromium/Default/History")}},
      true},
-    {"Chromium",
-     "Cookies",
+    {chromium,
+     cookieKind,
      {{inConfig("chromium/Default/Cookies"), inHome("snap/chromium/common/chromium/Default/Cookies")}},
      true},
-    {"Brave", cacheKind, {{inCache("BraveSoftware"), inHome(".var/app/com.brave.Browser/cache/BraveSoftware")}}},
-    {"Edge", cacheKind, {{inCache("microsoft-edge")}}},
+    {brave, cacheKind, {{inCache("BraveSoftware"), inHome(".var/app/com.brave.Browser/cache/BraveSoftware")}}},
+    {edge, cacheKind, {{inCache("microsoft-edge")}}},
     {firefox,
      cacheKind,
      {{inCache("mozilla/firefox"), inHome("snap/firefox/common/.cache/mozilla/firefox"),
        inHome(".var/app/org.mozilla.firefox/cache/mozilla/firefox")}}},
-    {firefox, firefoxCookies, {}, true},  // in every profile
-    {"System", "Recent items", {{inData("recently-used.xbel"), inData("RecentDocuments")}}},
-    {"System", "Thumbnails", {{inCache("thumbnails")}}},
+    {firefox, cookieKind, {}, true},  // in every profile
+    {systemTraces, recentKind, {{inData("recently-used.xbel"), inData("RecentDocuments")}}},
+    {systemTraces, thumbnailKind, {{inCache("thumbnails")}}},
 };
 
 /// New profiles are made in the first; an older folder stays in use.
@@ -106,11 +118,11 @@ constexpr TracePath firefoxLists[] = {
 /// The links that browsers of the Chromium family make. Those in a Flatpak are left out: they tell the number that the
 /// process has inside it.
 constexpr std::pair<std::string_view, TracePath> processLinks[] = {
-    {"Chrome", inConfig("google-chrome/SingletonLock")},
-    {"Chromium", inConfig("chromium/SingletonLock")},
-    {"Chromium", inHome("snap/chromium/common/chromium/SingletonLock")},
-    {"Brave", inConfig("BraveSoftware/Brave-Browser/SingletonLock")},
-    {"Edge", inConfig("microsoft-edge/SingletonLock")},
+    {chrome, inConfig("google-chrome/SingletonLock")},
+    {chromium, inConfig("chromium/SingletonLock")},
+    {chromium, inHome("snap/chromium/common/chromium/SingletonLock")},
+    {brave, inConfig("BraveSoftware/Brave-Browser/SingletonLock")},
+    {edge, inConfig("microsoft-edge/SingletonLock")},
 };
 
 std::string pathOf(const TracePath& path, const TracePlaces& homes) {
@@ -141,7 +153,7 @@ Trace traceOf(const TraceRow& row, const TracePlaces& homes) {
                 .guarded = homes.system != SystemKind::macOS && row.kind == cacheKind};
     for (const TracePath& path : row.paths)
         if (!path.below.empty() && !isTooWide(path, homes)) trace.paths.push_back(pathOf(path, homes));
-    if (row.app == firefox && row.kind == firefoxCookies)
+    if (row.app == firefox && row.kind == cookieKind)
         for (const std::string& profile : homes.firefoxProfiles)
             trace.paths.push_back(pathIn(profile, "cookies.sqlite"));
     return trace;
@@ -179,14 +191,15 @@ std::vector<std::string> firefoxFolders(const TracePlaces& homes) {
 std::vector<BrowserLock> browserLocks(const TracePlaces& homes) {
     std::vector<BrowserLock> locks;
     if (homes.system == SystemKind::macOS) return locks;
-    for (const auto& [app, path] : processLinks) locks.push_back({std::string(app), pathOf(path, homes), true});
+    for (const auto& [app, path] : processLinks)
+        locks.push_back({std::string(app), pathOf(path, homes), true, !homes.sandboxed});
     for (const std::string& profile : homes.firefoxProfiles)
         locks.push_back({std::string(firefox), pathIn(profile, ".parentlock"), false});
     return locks;
 }
 
 std::string_view desktopIdOf(std::string_view app) {
-    return app == "GNOME Web" ? "org.gnome.Epiphany" : std::string_view();
+    return app == gnomeWeb ? "org.gnome.Epiphany" : std::string_view();
 }
 
 bool isKept(std::string_view name) {

@@ -13,12 +13,13 @@
 
 #include "platform/Locations.h"
 #include "platform/SystemKind.h"
+#include "platform/Translation.h"
 
 namespace zelk {
 
 struct Trace {
-    std::string app;                 ///< the short name of the application that left it
-    std::string kind;                ///< what it is
+    std::string app;                 ///< the short name of the application that left it, not translated
+    std::string kind;                ///< what it is, not translated
     std::vector<std::string> paths;  ///< in the table all that there may be; in a scan's result those that exist
     std::uint64_t size = 0;          ///< allocated bytes; 0 in the table
     /// Each path of the table is a database, which is worth nothing without its companions, nor they without it.
@@ -37,7 +38,10 @@ struct Trace {
 };
 
 /// The kind that is worth least, which is ticked at first.
-inline constexpr std::string_view cacheKind = "Caches";
+inline constexpr std::string_view cacheKind = ZELK_TEXT("Reclaim", "Caches");
+
+/// Who left what no browser did.
+inline constexpr std::string_view systemTraces = ZELK_TEXT("Reclaim", "System");
 
 /// What the names of the files end in that a database has beside it.
 inline constexpr std::array<std::string_view, 3> companionEndings{"-wal", "-shm", "-journal"};
@@ -48,6 +52,7 @@ struct TracePlaces {
     std::string home;
     XdgHomes xdg;                              ///< on Linux
     std::vector<std::string> firefoxProfiles;  ///< on Linux: the folders of all profiles
+    bool sandboxed = false;                    ///< on Linux: the processes of browsers are not among those in /proc
 };
 
 /// All rows, in the order in which they are looked for.
@@ -61,6 +66,8 @@ struct BrowserLock {
     std::string app;  ///< as in the table
     std::string path;
     bool isLink = false;  ///< a link to "HOST-PID"; else a file that the browser locks
+    /// Whether that process can be looked for. If not, the link counts as long as it names this machine.
+    bool isProcessSeen = true;
 
     bool operator==(const BrowserLock&) const = default;
 };

@@ -4,10 +4,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "platform/ByteFormat.h"
 #include "platform/FolderPath.h"
+#include "state/Figures.h"
 #include "state/ReleaseElsewhere.h"
-#include "state/UserLocale.h"
 
 namespace zelk {
 
@@ -224,10 +223,9 @@ std::int64_t AppModel::freeBytes() const {
 }
 
 std::string AppModel::progressLine() const {
-    const QLocale locale = userLocale();
-    const QString items = locale.toString(static_cast<qlonglong>(itemsScanned()));
-    const std::string bytes = byteText(bytesScanned(), locale.decimalPoint().toStdString());
-    return tr("%1 items · %2").arg(items, QString::fromStdString(bytes)).toStdString();
+    return tr("%1 items · %2", "", forPlural(itemsScanned()))
+        .arg(groupedFigure(itemsScanned()), byteFigure(bytesScanned()))
+        .toStdString();
 }
 
 ReclaimTotals AppModel::reclaimTotals() const {

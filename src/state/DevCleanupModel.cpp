@@ -17,6 +17,10 @@ public:
         if (!names_) names_ = real_.runningApplications();
         return *names_;
     }
+    bool knowsRunningApplications() override {
+        if (!known_) known_ = real_.knowsRunningApplications();
+        return *known_;
+    }
     void reveal(const std::vector<std::string>& paths) override { real_.reveal(paths); }
     void openURL(const std::string& url) override { real_.openURL(url); }
     std::optional<IconPixels> icon(const std::string& path, bool isDirectory, int side) override {
@@ -26,6 +30,7 @@ public:
 private:
     Workspace& real_;
     std::optional<std::vector<std::string>> names_;
+    std::optional<bool> known_;
 };
 
 }  // namespace

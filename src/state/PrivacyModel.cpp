@@ -168,6 +168,7 @@ bool PrivacyModel::putBack(const Trace& origin, const std::string& path, std::ui
 }
 
 std::optional<std::string> PrivacyModel::runningBrowser(const std::string& app) const {
+    if (!runningKnown_ && app != systemTraces) return app;
     const TextFinder finder(QString::fromStdString(app));
     const auto isIt = [&](const std::string& name) { return finder.isIn(name); };
     const auto named = std::find_if(runningNames_.begin(), runningNames_.end(), isIt);
@@ -180,7 +181,9 @@ std::optional<std::string> PrivacyModel::runningBrowser(const std::string& app) 
 void PrivacyModel::refreshRunning() {
     std::vector<std::string> names = platform_.workspace.runningApplications();
     std::vector<std::string> ids = platform_.workspace.runningApplicationIds();
-    const bool changed = names != runningNames_ || ids != runningIds_;
+    const bool known = platform_.workspace.knowsRunningApplications();
+    const bool changed = names != runningNames_ || ids != runningIds_ || known != runningKnown_;
+    runningKnown_ = known;
     runningNames_ = std::move(names);
     runningIds_ = std::move(ids);
     const std::size_t read = ++lockReads_;

@@ -52,7 +52,10 @@ public:
 
     /// The name of a running application that contains `app`, in any case and by the user's language; or `app` itself,
     /// if that browser is found running in another way. As of the last refreshRunning(), or the end of the last scan.
+    /// Every browser counts as running while runningKnown() is false.
     std::optional<std::string> runningBrowser(const std::string& app) const;
+    /// Whether the system said which applications run, by then.
+    bool runningKnown() const { return runningKnown_; }
     /// Looks for running browsers: the names at once, the locks in a task.
     void refreshRunning();
 
@@ -85,6 +88,7 @@ private:
     std::size_t clearings_ = 0;  ///< under way
 
     std::vector<BrowserLock> locks_;
+    bool runningKnown_ = true;
     std::vector<std::string> runningNames_;
     std::vector<std::string> runningIds_;
     std::set<std::string> lockedApps_;

@@ -63,6 +63,7 @@ class ItemReader {
 public:
     ItemReader(FileManager& files, Locations& locations)
         : files_(files),
+          locations_(locations),
           home_(locations.home()),
           programs_(locations.programFolders()),
           locales_(locations.entryLocales()) {}
@@ -93,7 +94,8 @@ public:
         else if (!isFile(folder, agent.path) || isHidden(folder, name) || !readText(folder, agent))
             return std::nullopt;
         agent.replaces = folder.removable && hidesAnother(folder, name);
-        if (agent.replaces) agent.removable = false;
+        agent.mayReplace = folder.hidesUnseen && !agent.replaces;
+        if (agent.replaces || agent.mayReplace) agent.removable = false;
         return agent;
     }
 
@@ -159,7 +161,8 @@ private:
 
     /// The path of a program, if that file exists.
     std::optional<std::string> existing(const std::string& program) {
-        if (program.starts_with('/')) return files_.exists(program) ? std::optional(program) : std::nullopt;
+        if (program.starts_with('/'))
+            return files_.exists(locations_.pathInSandbox(program)) ? std::optional(program) : std::nullopt;
         if (program.empty() || program.find('/') != std::string::npos) return std::nullopt;
         for (const std::string& folder : programs_)
             if (std::string path = pathIn(folder, program); files_.exists(path)) return path;
@@ -167,6 +170,7 @@ private:
     }
 
     FileManager& files_;
+    Locations& locations_;
     std::string home_;
     std::vector<std::string> programs_;
     std::vector<std::string> locales_;

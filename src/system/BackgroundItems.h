@@ -17,6 +17,7 @@ struct Agent {
     std::optional<std::string> program;  ///< the executable that it names, if that file exists
     bool removable = false;              ///< it lies in the user's own folder, and removing it starts nothing else
     bool replaces = false;               ///< it is the user's, and the system would start its own if it were removed
+    bool mayReplace = false;             ///< it is the user's, and whether the system would cannot be seen from here
     std::string link = {};  ///< of the user's: the deepest link on the way from the home to its folder, if there is one
 
     bool operator==(const Agent&) const = default;

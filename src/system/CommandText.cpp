@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "system/CommandText.h"
 
+#include "platform/Translation.h"
 #include "platform/Utf8.h"
 
 namespace zelk {
@@ -12,22 +13,30 @@ std::string readableOutput(const ChildOutcome& outcome) {
 }
 
 std::string launchFailureText(const std::string& reason) {
-    return launchFailedAnswer + reason;
+    return launchFailedAnswer() + reason;
 }
 
 }  // namespace
 
+std::string refusedAnswer() {
+    return translated("Command", "cancelled or failed: ");
+}
+
+std::string launchFailedAnswer() {
+    return translated("Command", "failed: ");
+}
+
 std::string textOfRun(const ChildOutcome& outcome) {
     if (outcome.launchFailure) return launchFailureText(*outcome.launchFailure);
-    if (outcome.exitStatus != 0) return "cancelled";
+    if (outcome.exitStatus != 0) return translated("Command", "cancelled");
     const std::string output = readableOutput(outcome);
-    return output.empty() ? "done" : output;
+    return output.empty() ? translated("Command", "done") : output;
 }
 
 std::string textOfAdminRun(const ChildOutcome& outcome) {
     if (outcome.launchFailure) return launchFailureText(*outcome.launchFailure);
     const std::string output = readableOutput(outcome);
-    return outcome.exitStatus == 0 ? output : refusedAnswer + output;
+    return outcome.exitStatus == 0 ? output : refusedAnswer() + output;
 }
 
 }  // namespace zelk

@@ -12,10 +12,10 @@ namespace zelk {
 
 /// What stands before the output of an administrator's command that failed or was refused. Alone it is the answer where
 /// such a command said nothing, or where there was none to run.
-inline constexpr const char* refusedAnswer = "cancelled or failed: ";
+std::string refusedAnswer();
 
 /// What stands before the reason for which nothing could be started.
-inline constexpr const char* launchFailedAnswer = "failed: ";
+std::string launchFailedAnswer();
 
 /// The output, or "done" if there is none; "cancelled" for an exit status other than 0; "failed: " and the reason if
 /// nothing was started.

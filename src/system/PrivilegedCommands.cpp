@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Translation.h"
 #include "system/AdminLines.h"
 #include "system/CommandText.h"
 #include "system/MaintenanceLines.h"
@@ -58,10 +59,11 @@ bool isWithoutResolver(const ChildOutcome& outcome) {
 /// The caches are those of systemd-resolved, which anybody may flush, and of nscd; most machines have neither.
 ChildOutcome flushDNSOnLinux(const Platform& platform) {
     const ChildOutcome resolved = platform.processes.run("/usr/bin/resolvectl", {"flush-caches"}, linuxStreams);
-    if (!isWithoutResolver(resolved)) return resolved;
+    // From a sandbox it cannot be known what runs outside.
+    if (platform.locations.isSandboxed() || !isWithoutResolver(resolved)) return resolved;
     if (platform.files.exists(nameServiceCache) && platform.files.exists(nameServiceSocket))
         return throughPkexec(platform.processes, {nameServiceCache, "-i", "hosts"});
-    return {std::nullopt, 0, "No DNS cache runs here."};
+    return {std::nullopt, 0, translated("Command", "No DNS cache runs here.")};
 }
 
 ChildOutcome privilegedOutcome(const Platform& platform, const std::string& line) {
@@ -89,7 +91,7 @@ std::string PrivilegedCommands::runAdmin(const std::string& line) {
 }
 
 bool wasNotAllowed(std::string_view answer) {
-    return answer.starts_with(std::string(refusedAnswer) + "Error executing command as another user: ");
+    return answer.starts_with(refusedAnswer() + "Error executing command as another user: ");
 }
 
 }  // namespace zelk

@@ -77,6 +77,8 @@ std::optional<SnapshotListing> listByZfs(ChildProcess& processes, const std::str
 
 SnapshotListing listSnapshots(const Platform& platform, const std::string& mountPoint) {
     if (platform.system == SystemKind::macOS) return listOnMacOS(platform.processes, mountPoint);
+    if (platform.locations.isSandboxed())
+        return {.keeper = SnapshotKeeper::none, .snapshots = {}, .config = {}, .refused = true};
     if (std::optional<SnapshotListing> listing = listBySnapper(platform.processes, mountPoint)) return *listing;
     if (std::optional<SnapshotListing> listing = listByZfs(platform.processes, mountPoint)) return *listing;
     return {};

@@ -19,7 +19,8 @@ using testing::Pair;
 
 struct PolicyAction {
     std::string id;
-    std::map<std::string, std::string> texts;        ///< of elements without a name of their own
+    std::map<std::string, std::string> texts;        ///< of elements without a name of their own, English
+    std::map<std::string, std::string> german;       ///< the same in German
     std::map<std::string, std::string> defaults;     ///< who is asked what
     std::map<std::string, std::string> annotations;  ///< by key
 };
@@ -42,7 +43,9 @@ PolicyAction actionAt(QXmlStreamReader& xml) {
             const std::string key = xml.attributes().value(QStringLiteral("key")).toString().toStdString();
             EXPECT_TRUE(action.annotations.emplace(key, xml.readElementText().toStdString()).second) << key;
         } else {
-            action.texts[name] = xml.readElementText().toStdString();
+            const bool isGerman = xml.attributes().value(QStringLiteral("xml:lang")) == QStringLiteral("de");
+            EXPECT_TRUE(isGerman || xml.attributes().isEmpty()) << name << " in a language that nobody reviewed";
+            (isGerman ? action.german : action.texts)[name] = xml.readElementText().toStdString();
         }
     }
     return action;
@@ -96,11 +99,16 @@ TEST_F(AdminPolicy, everyQuestionSaysWhatIsAsked) {
         EXPECT_THAT(action.texts, ElementsAre(Pair("description", testing::Not("")),
                                               Pair("message", testing::StartsWith("Authentication is needed to "))))
             << action.id;
+        ASSERT_THAT(action.german,
+                    ElementsAre(Pair("description", testing::Not("")),
+                                Pair("message", testing::StartsWith("Legitimierung ist erforderlich, um "))))
+            << action.id;
         const std::string message = action.texts.at("message");
         messages.insert(message);
         // What a verb is done to is part of the question.
         const bool hasArguments = action.id != "io.github.zelk.Zelk.free-memory";
         EXPECT_EQ(message.ends_with(": $(command_line)"), hasArguments) << action.id;
+        EXPECT_EQ(action.german.at("message").ends_with(": $(command_line)"), hasArguments) << action.id;
     }
     EXPECT_EQ(messages.size(), actions.size());
 }

@@ -177,18 +177,21 @@ TEST_F(LinuxAppsJourney, hasNoFaultInAnySizeOrTheme) {
     }
     shell();
     click("sidebarApps");
-    inEverySize("idle");
+    const auto look = [this](const char* state) {
+        inEverySize(state, [this](const std::string& where) { expectNoFaultsWithRing(where); });
+    };
+    look("idle");
     click("moduleScanButton");
     finishReading();
     tabTo(window(), "appList");
-    inEverySize("list");
+    look("list");
     desktop.removal = {std::nullopt, 1, "error: " + longName + "\n"};
     click("uninstall0");
     finishAsking();
-    inEverySize("sheet");
+    look("sheet");
     click("confirmUninstall");
     finishRemoval();
-    inEverySize("failed");
+    look("failed");
 }
 
 #ifndef Q_OS_MACOS

@@ -144,32 +144,35 @@ TEST_F(DuplicatesJourney, hasNoFaultInAnySizeOrTheme) {
                              static_cast<char>('A' + set), 2'000'000);
     shell();
     click("sidebarDuplicates");
+    const auto look = [this](const char* state) {
+        inEverySize(state, [this](const std::string& where) { expectNoFaultsWithRing(where); });
+    };
     const auto after = [this](Qt::Key key, const char* state) {
         inEverySize(state, [&](const std::string& where) {
             window().grabWindow();  // applies pending layout
             press(key);
-            expectNoFaults(window(), where);
+            expectNoFaultsWithRing(where);
         });
     };
-    inEverySize("idle");
+    look("idle");
     machine.tasks.hold();
     click("moduleScanButton");
-    inEverySize("scanning");
+    look("scanning");
     machine.tasks.release();
     finishSearch();
-    inEverySize("results");
+    look("results");
     tabTo(window(), "duplicateList");
     after(Qt::Key_Home, "with the keyboard");
     after(Qt::Key_End, "at the end");
     press(Qt::Key_Home);
     press(Qt::Key_Return);
     finishRemoval();
-    inEverySize("after a removal");
+    look("after a removal");
     while (!duplicates().groups().empty()) {
         click("keepFirst0");
         finishRemoval();
     }
-    inEverySize("empty");
+    look("empty");
 }
 
 /// On a real disk, with its Trash, and with what another process does before the button is pressed.

@@ -146,7 +146,7 @@ TEST_F(PrivacyJourney, hasNoFaultInAnySizeOrTheme) {
              cleared ? std::vector{"scanTracesAgain", "undoRemoval"} : std::vector{"traceList", "reviewButton"})
             inEverySize(place, [&](const std::string& state) {
                 tabTo(window(), place);
-                expectNoFaults(window(), state);
+                expectNoFaultsWithRing(state);
             });
     }
 }

@@ -78,7 +78,11 @@ protected:
         where.grabWindow();
         EXPECT_THAT(layoutFaults(where), testing::IsEmpty()) << state;
         EXPECT_THAT(accessibilityFaults(where), testing::IsEmpty()) << state;
-        EXPECT_THAT(ringFaults(where), testing::IsEmpty()) << state;
+    }
+    /// Where what has the focus is in sight.
+    void expectNoFaultsWithRing(const std::string& state) {
+        expectNoFaults(window(), state);
+        EXPECT_THAT(ringFaults(window()), testing::IsEmpty()) << state;
     }
     /// Calls `look` in a small and a large window, with normal and large text, and in both themes.
     void inEverySize(const std::string& state, const std::function<void(const std::string&)>& look) {

@@ -156,7 +156,7 @@ TEST_F(TuneJourney, hasNoFaultInAnySizeOrTheme) {
     for (const char* place : {"freeMemory", "agentSearch", "agentList"})
         inEverySize(place, [&](const std::string& state) {
             tabTo(window(), place);
-            expectNoFaults(window(), state);
+            expectNoFaultsWithRing(state);
         });
 }
 

@@ -184,6 +184,7 @@ public:
     std::vector<std::string> programs;
     std::vector<std::string> sharedData;
     std::vector<std::string> locales;
+    bool sandboxed = false;  ///< and what others call "/usr/…" and "/etc/…" is below "/run/host"
 
     std::string home() override { return homePath; }
     std::optional<std::string> applicationSupport() override { return applicationSupportPath; }
@@ -193,6 +194,11 @@ public:
     std::vector<std::string> programFolders() override { return programs; }
     std::vector<std::string> sharedDataFolders() override { return sharedData; }
     std::vector<std::string> entryLocales() override { return locales; }
+    bool isSandboxed() override { return sandboxed; }
+    std::string pathInSandbox(const std::string& path) override {
+        const bool isSystems = sandboxed && (path.starts_with("/usr/") || path.starts_with("/etc/"));
+        return isSystems ? "/run/host" + path : path;
+    }
 };
 
 /// A Trash in "/home/me/.Trash" with entries in the file manager.
@@ -320,6 +326,7 @@ class FakeWorkspace : public Workspace {
 public:
     std::vector<std::string> running;
     std::vector<std::string> runningIds;
+    bool runningKnown = true;
     int runningReads = 0;
     std::vector<std::vector<std::string>> revealed;
     std::vector<std::string> opened;
@@ -333,6 +340,7 @@ public:
         return running;
     }
     std::vector<std::string> runningApplicationIds() override { return runningIds; }
+    bool knowsRunningApplications() override { return runningKnown; }
     void reveal(const std::vector<std::string>& paths) override { revealed.push_back(paths); }
     void openURL(const std::string& url) override { opened.push_back(url); }
     std::optional<IconPixels> icon(const std::string& path, bool, int) override {

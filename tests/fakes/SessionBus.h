@@ -17,15 +17,15 @@ namespace zelk::fakes {
 /// A private session bus.
 class SessionBus {
 public:
-    SessionBus() {
+    /// `configuration` is the option that says which one the daemon reads.
+    explicit SessionBus(std::string configuration = "--session") {
         std::array<int, 2> ends{};
         if (::pipe(ends.data()) != 0) return;
         const std::string descriptor = std::to_string(ends[1]);
         std::string program = "dbus-daemon";
-        std::string options = "--session";
         std::string address = "--print-address=" + descriptor;
         std::string foreground = "--nofork";
-        std::array<char*, 5> words{program.data(), options.data(), address.data(), foreground.data(), nullptr};
+        std::array<char*, 5> words{program.data(), configuration.data(), address.data(), foreground.data(), nullptr};
         // If this process crashed, whoever waits for its output would otherwise wait for the bus too.
         posix_spawn_file_actions_t actions;
         ::posix_spawn_file_actions_init(&actions);
@@ -44,6 +44,8 @@ public:
         ::kill(process_, SIGTERM);
         ::waitpid(process_, nullptr, 0);
     }
+
+    const std::string& address() const { return address_; }
 
     QDBusConnection connect(const char* name) const {
         return QDBusConnection::connectToBus(QString::fromStdString(address_), QString::fromLatin1(name));

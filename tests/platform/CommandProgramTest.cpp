@@ -51,5 +51,13 @@ TEST(CommandProgram, envIsDroppedWithWhatItSets) {
     EXPECT_THAT(withoutEnv({}), IsEmpty());
 }
 
+TEST(CommandProgram, toolIsNamedBehindEnvToo) {
+    EXPECT_EQ(toolName({"/usr/bin/pkexec", "x"}), "pkexec");
+    EXPECT_EQ(toolName({"/usr/bin/env", "A=1", "-S", "npm", "cache"}), "npm");
+    EXPECT_EQ(toolName({"/usr/bin/env"}), "env");
+    EXPECT_EQ(toolName({"cargo"}), "cargo");
+    EXPECT_EQ(toolName({}), "");
+}
+
 }  // namespace
 }  // namespace zelk

@@ -9,7 +9,7 @@ namespace zelk {
 namespace {
 
 TEST(FailureText, namesTheItemAndTheReason) {
-    EXPECT_EQ(failureText("notes.txt", "couldn’t be removed", "Permission denied"),
+    EXPECT_EQ(failureText("“%1” couldn’t be removed: %2", "notes.txt", "Permission denied"),
               "“notes.txt” couldn’t be removed: Permission denied");
 }
 

@@ -48,6 +48,13 @@ TEST(MountTable, acceptsUnterminatedLastLine) {
     EXPECT_THAT(parseMountTable("7 0 0:1 / /last"), ElementsAre(Mount{7, 0, "0:1", "/", "/last"}));
 }
 
+TEST(MountTable, tellsWholeVolumesFromPartsOfThem) {
+    const auto table = parseMountTable(sample);
+    EXPECT_TRUE(isWholeVolume(table, 40));
+    EXPECT_FALSE(isWholeVolume(table, 41));
+    EXPECT_FALSE(isWholeVolume(table, 39));
+}
+
 TEST(MountTable, findsMountPointById) {
     const auto table = parseMountTable(sample);
     EXPECT_THAT(mountPointOf(table, 40), Optional(std::string("/media/me/My stick")));

@@ -65,6 +65,27 @@ TEST_F(FakeMachine, failedMemoryReadShowsNothingUsed) {
     EXPECT_EQ(stats, (MemoryStats{stats.total, 0, stats.total, 0, 0}));
 }
 
+TEST_F(FakeMachine, tellsTheHostOfASandboxAndNotItsRuntime) {
+    write("/.flatpak-info", "[Application]\n");
+    write("/etc/os-release", "PRETTY_NAME=\"A runtime\"\n");
+    write("/etc/machine-info", "PRETTY_HOSTNAME=\"A runtime\"\n");
+    EXPECT_EQ(device().osVersion, "");
+    EXPECT_EQ(device().computerName, "This computer");
+    write("/run/host/os-release", "PRETTY_NAME=\"Sample OS 1\"\n");
+    EXPECT_EQ(device().osVersion, "Sample OS 1");
+    write("/run/host/usr/lib/os-release", "PRETTY_NAME=\"Sample OS 2\"\n");
+    EXPECT_EQ(device().osVersion, "Sample OS 2");
+    write("/run/host/etc/os-release", "PRETTY_NAME=\"Sample OS 3\"\n");
+    write("/run/host/etc/hostname", "static\n");
+    EXPECT_EQ(device().osVersion, "Sample OS 3");
+    EXPECT_EQ(device().computerName, "static");
+    write("/run/host/etc/machine-info", "PRETTY_HOSTNAME=\"My machine\"\n");
+    EXPECT_EQ(device().computerName, "My machine");
+    std::filesystem::remove(root + "/.flatpak-info");
+    EXPECT_EQ(device().osVersion, "A runtime");
+    EXPECT_EQ(device().computerName, "A runtime");
+}
+
 TEST_F(FakeMachine, prefersPrettyHostname) {
     write("/etc/hostname", "static\n");
     EXPECT_EQ(device().computerName, "static");

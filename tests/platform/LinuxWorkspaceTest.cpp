@@ -175,6 +175,57 @@ TEST_F(LinuxWorkspaceTest, listsRunningApplications) {
     ::waitpid(running, nullptr, 0);
 }
 
+/// A workspace of a sandbox, and how often it asked.
+class AskingWorkspace : public LinuxWorkspaceTest {
+protected:
+    std::optional<RunningApplications> answer;
+    int asked = 0;
+    LinuxWorkspace asking{"/data", "/trash", [](const Command&) {}, [this] { return session.connect("zelk"); },
+                          [this] {
+                              ++asked;
+                              return answer;
+                          }};
+};
+
+TEST_F(AskingWorkspace, takesTheAnswerForAWhile) {
+    answer = RunningApplications{{"Maps"}, {"org.sample.Maps"}};
+    EXPECT_TRUE(asking.knowsRunningApplications());
+    EXPECT_THAT(asking.runningApplications(), ElementsAre("Maps"));
+    EXPECT_THAT(asking.runningApplicationIds(), ElementsAre("org.sample.Maps"));
+    EXPECT_GE(asked, 1);
+}
+
+TEST_F(AskingWorkspace, knowsNothingWithoutAnAnswerAndDoesNotAskAgainAtOnce) {
+    EXPECT_FALSE(asking.knowsRunningApplications());
+    EXPECT_THAT(asking.runningApplications(), IsEmpty());
+    EXPECT_THAT(asking.runningApplicationIds(), IsEmpty());
+    EXPECT_EQ(asked, 1);
+}
+
+/// Answers nothing, and remembers who was to.
+class SilentHost : public ChildProcess {
+public:
+    std::vector<std::string> programs;
+
+    using ChildProcess::run;
+    ChildOutcome run(const std::string& executable, const std::vector<std::string>&, const ChildStreams&) override {
+        programs.push_back(executable);
+        return {std::nullopt, 1, {}};
+    }
+};
+
+TEST_F(LinuxWorkspaceTest, asksTheHostInASandboxAlone) {
+    const zoo::TempFolder root;
+    SilentHost host;
+    LinuxWorkspace outside("/data", "/trash", Sandbox(root.path()), host);
+    EXPECT_TRUE(outside.knowsRunningApplications());
+    EXPECT_THAT(host.programs, IsEmpty());
+    fakes::writeFile(root / ".flatpak-info", "");
+    LinuxWorkspace inside("/data", "/trash", Sandbox(root.path()), host);
+    EXPECT_FALSE(inside.knowsRunningApplications());
+    EXPECT_THAT(host.programs, ElementsAre("/usr/bin/flatpak-spawn"));
+}
+
 // Programs on their own.
 
 void waitForThreads() {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/PosixChildProcess.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -98,6 +98,28 @@ TEST(PosixChildProcess, missingToolBehindEnvReturns127) {
     EXPECT_EQ(outcome.launchFailure, std::nullopt);
     EXPECT_EQ(outcome.exitStatus, 127);
     EXPECT_NE(outcome.output.find("zelk-has-no-such-tool"), std::string::npos);
+}
+
+TEST(PosixChildProcess, givesChildAnotherPath) {
+    const fakes::EnvironmentVariable inherited("PATH", "/inherited");
+    const fakes::EnvironmentVariable kept("ZELK_KEPT", "yes");
+    const std::string variables = PosixChildProcess("/nowhere:/usr/bin").run("/usr/bin/env", {}).output;
+    EXPECT_THAT(variables, testing::HasSubstr("PATH=/nowhere:/usr/bin\n"));
+    EXPECT_THAT(variables, testing::HasSubstr("ZELK_KEPT=yes\n"));
+    EXPECT_THAT(variables, testing::Not(testing::HasSubstr("/inherited")));
+}
+
+TEST(PosixChildProcess, findsToolsBehindEnvOnTheGivenPath) {
+    const zoo::TempFolder folder;
+    fakes::writeFile(folder / "zelk-tool", "#!/bin/sh\necho found\n");
+    ASSERT_EQ(::chmod((folder / "zelk-tool").c_str(), 0755), 0);
+    EXPECT_EQ(PosixChildProcess("/usr/bin:" + folder.path()).run("/usr/bin/env", {"zelk-tool"}).output, "found\n");
+    EXPECT_EQ(PosixChildProcess("/usr/bin").run("/usr/bin/env", {"zelk-tool"}).exitStatus, 127);
+}
+
+TEST(PosixChildProcess, givesChildThatInheritsNoPathTheOther) {
+    const fakes::EnvironmentVariable withoutPath("PATH", std::nullopt);
+    EXPECT_THAT(PosixChildProcess("/usr/bin").run("/usr/bin/env", {}).output, testing::HasSubstr("PATH=/usr/bin\n"));
 }
 
 TEST(PosixChildProcess, inheritsEnvironmentAndWorkingDirectory) {

@@ -284,6 +284,16 @@ TEST_F(CleanerConflict, skipsUnknownCategories) {
     EXPECT_EQ(workspace.runningReads, 0);
 }
 
+TEST_F(CleanerConflict, takesEveryApplicationForRunningIfNobodySays) {
+    workspace.runningKnown = false;
+    for (const ReclaimCategory& category : reclaimCatalogue()) {
+        const std::optional<std::string> expected =
+            category.appScoped ? std::optional<std::string>(Cleaner::unknownApplication) : std::nullopt;
+        EXPECT_EQ(conflict(cache, std::string(category.id)), expected) << category.id;
+    }
+    EXPECT_EQ(conflict(cache, "no_such_category"), std::nullopt);
+}
+
 // The Trash.
 
 TEST_F(CleanerRemoval, emptyingTrashReturnsNumberRemoved) {

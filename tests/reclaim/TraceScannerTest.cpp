@@ -271,6 +271,27 @@ TEST_F(Locks, ofChromiumNameAProcessOfThisMachine) {
     }
 }
 
+// Its own processes have the same numbers as others of the host.
+TEST_F(Locks, ofChromiumAreHeldInASandboxIfTheyNameThisMachine) {
+    machine.locations.sandboxed = true;
+    link("my-host-4711");
+    EXPECT_THAT(running(), ElementsAre("Chromium"));
+    EXPECT_THAT(find().running, ElementsAre("Chromium"));
+    machine.files.addFolder("/proc/4711");
+    EXPECT_THAT(running(), ElementsAre("Chromium"));
+    for (const char* stale : {"other-4711", "my-host", "my-host-", "my-host-4711x", "", "my-host-sys"}) {
+        link(stale);
+        EXPECT_THAT(running(), IsEmpty()) << stale;
+    }
+}
+
+TEST_F(Locks, ofFirefoxAreHeldInASandboxAsOutside) {
+    machine.locations.sandboxed = true;
+    EXPECT_THAT(running(), IsEmpty());
+    machine.files.setLocked(fakes::firefoxOfLinux + "/b.used/.parentlock");
+    EXPECT_THAT(running(), ElementsAre("Firefox"));
+}
+
 TEST_F(Locks, tellNothingOnAMachineWithoutAName) {
     machine.files.addFolder("/proc/4711");
     for (const char* name : {"", "\n"}) {

@@ -65,6 +65,29 @@ TEST_F(ApplicationListTest, listsEveryKindLargestFirst) {
                                    AppKind::unpacked, AppKind::systemFlatpak));
 }
 
+TEST_F(ApplicationListTest, listsOnlyTheUsersOwnInASandbox) {
+    desktop.fill();
+    machine.locations.sandboxed = true;
+    std::vector<std::string> names;
+    for (const AppEntry& one : apps()) names.push_back(one.name);
+    EXPECT_THAT(names, ElementsAre("Orrery", "Sonata", "Tidepool"));
+    EXPECT_EQ(app("Sonata").obstacle, AppObstacle());
+    EXPECT_EQ(app("Tidepool").obstacle, AppObstacle());
+    EXPECT_THAT(machine.processes.calls(), IsEmpty());
+}
+
+// A package that cannot be seen may be called the same, and its data be the user's documents.
+TEST_F(ApplicationListTest, takesNoDataAlongInASandbox) {
+    desktop.fill();
+    addFoldersCalled("tidepool");
+    addFoldersCalled("org.sample.Tidepool");
+    const std::vector<std::string> outside = leftoversOf("Tidepool");
+    EXPECT_GT(outside.size(), 5U);
+    machine.locations.sandboxed = true;
+    EXPECT_THAT(leftoversOf("Tidepool"), ElementsAre(desktop.ownEntry("org.sample.Tidepool"))) << "what starts it";
+    EXPECT_TRUE(app("Sonata").sharesProgram);
+}
+
 TEST_F(ApplicationListTest, isEmptyOnAnEmptyMachine) {
     EXPECT_THAT(apps(), IsEmpty());
     EXPECT_THAT(machine.processes.calls(), IsEmpty()) << "nothing to ask about";

@@ -238,6 +238,30 @@ TEST_F(LinuxItems, ownEntryInPlaceOfTheSystemsIsListedOnceAndStays) {
     EXPECT_THAT(read(), ElementsAre(Agent{"Mine", autostart + "/a.desktop", std::nullopt, true, false}));
 }
 
+TEST_F(LinuxItems, ownItemStaysIfWhatItHidesCannotBeSeen) {
+    for (BackgroundItemFolder& folder : locations.itemFolders) folder.hidesUnseen = folder.path == units;
+    files.addFile(units + "/a.service", "[Unit]\nDescription=Mine\n");
+    Agent mine = only();
+    EXPECT_FALSE(mine.removable);
+    EXPECT_FALSE(mine.replaces);
+    EXPECT_TRUE(mine.mayReplace);
+    EXPECT_FALSE(isRemovableNow(files, locations, mine));
+    files.addFile("/usr/lib/systemd/user/a.service", "[Unit]\nDescription=Theirs\n");
+    mine = only();
+    EXPECT_TRUE(mine.replaces) << "this one can";
+    EXPECT_FALSE(mine.mayReplace);
+    EXPECT_FALSE(mine.removable);
+}
+
+TEST_F(LinuxItems, programsAreLookedForOnTheHost) {
+    locations.sandboxed = true;
+    files.addFile(autostart + "/a.desktop", entry("Exec=/usr/bin/other\n"));
+    files.addFile("/usr/bin/other");
+    EXPECT_EQ(only().program, std::nullopt) << "the runtime has it";
+    files.addFile("/run/host/usr/bin/other");
+    EXPECT_THAT(only().program, Optional(std::string("/usr/bin/other")));
+}
+
 TEST_F(LinuxItems, ownUnitInPlaceOfAPackagesStays) {
     files.addFile(units + "/a.service", "[Unit]\nDescription=Mine\n");
     files.addFile("/usr/lib/systemd/user/a.service", "[Unit]\nDescription=Theirs\n");

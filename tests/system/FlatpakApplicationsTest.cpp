@@ -81,6 +81,17 @@ TEST_F(FlatpakApplicationsTest, staysWithoutItsTool) {
     EXPECT_THAT(machine.processes.calls(), IsEmpty());
 }
 
+TEST_F(FlatpakApplicationsTest, staysOutOfReachOfASandbox) {
+    desktop.addFlatpak(orrery, "Orrery", 1'000);
+    desktop.addFlatpak("org.sample.Maps", "Maps", 5'000, false);
+    machine.locations.sandboxed = true;
+    const std::vector<AppEntry> apps = found();
+    ASSERT_THAT(apps, SizeIs(1)) << "what a sandbox has in /var/lib is not the host's";
+    EXPECT_EQ(apps[0].name, "Orrery");
+    EXPECT_EQ(apps[0].obstacle, (AppObstacle{AppObstacle::Reason::outOfReach, {"flatpak"}}));
+    EXPECT_THAT(machine.processes.calls(), IsEmpty());
+}
+
 TEST_F(FlatpakApplicationsTest, staysIfInstalledTwice) {
     desktop.addFlatpak(orrery, "Orrery", 1'000);
     EXPECT_EQ(found().at(0).obstacle, AppObstacle());

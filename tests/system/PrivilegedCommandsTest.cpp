@@ -156,6 +156,23 @@ TEST_F(PrivilegedCommandsTest, linuxSaysThatNoDNSCacheRuns) {
     EXPECT_EQ(machine.processes.calls(), std::vector<Call>(2 * withoutResolver.size(), resolvectl));
 }
 
+// It may run outside.
+TEST_F(PrivilegedCommandsTest, sandboxDoesNotSayThatNoDNSCacheRuns) {
+    machine.locations.sandboxed = true;
+    machine.files.addFile("/usr/sbin/nscd");
+    machine.files.addFile("/run/nscd/socket");
+    answer({"Flatpak’s sandbox has no resolvectl.", 0, ""});
+    EXPECT_EQ(onLinux().run(flushDNSLine(SystemKind::desktopLinux)), "failed: Flatpak’s sandbox has no resolvectl.");
+    EXPECT_THAT(machine.processes.calls(), ElementsAre(resolvectl)) << "nor is that of the runtime flushed";
+}
+
+TEST_F(PrivilegedCommandsTest, sandboxSaysThatNobodyAsksForAnAdministrator) {
+    machine.locations.sandboxed = true;
+    answer({"Flatpak’s sandbox has no pkexec.", 0, ""});
+    EXPECT_EQ(onLinux().run(freeMemoryLine(SystemKind::desktopLinux)), "failed: Flatpak’s sandbox has no pkexec.");
+    EXPECT_EQ(onLinux().runAdmin("line"), "failed: Flatpak’s sandbox has no pkexec.");
+}
+
 TEST_F(PrivilegedCommandsTest, linuxTellsAFlushThatFailed) {
     // Not even with the other cache here: this one runs, and has kept what it knows.
     machine.files.addFile("/usr/sbin/nscd");

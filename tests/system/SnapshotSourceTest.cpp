@@ -146,6 +146,15 @@ TEST_F(SnapshotSources, nothingKeepsSnapshotsWithoutBoth) {
     EXPECT_EQ(list(snapshotsOnLinux), SnapshotListing()) << "no snapshots";
 }
 
+TEST_F(SnapshotSources, sandboxCannotKnowWhetherThereAreAny) {
+    machine.locations.sandboxed = true;
+    answer(configsCall, rootConfig);
+    answer(snapperListCall, oneSnapshot);
+    EXPECT_EQ(list(snapshotsOnLinux),
+              (SnapshotListing{.keeper = SnapshotKeeper::none, .snapshots = {}, .config = {}, .refused = true}));
+    EXPECT_THAT(machine.processes.calls(), IsEmpty()) << "a tool of the runtime knows nothing of the host";
+}
+
 TEST_F(SnapshotSources, failingZfsListsNothing) {
     answer(zfsRootCall, "rpool/root\n");
     answer(zfsListCall, "rpool/root@a\t100\t5\t77\n", 1);

@@ -282,6 +282,17 @@ TEST_F(LinuxAppsWindow, applicationThatStaysHasNoButtonAndSaysWhy) {
     EXPECT_EQ(find("confirmUninstall"), nullptr);
 }
 
+TEST_F(LinuxAppsWindow, sandboxSaysWhatItCannotSeeAndRemove) {
+    const TextsOf sandbox(SystemTexts::System::flatpak);
+    machine.locations.sandboxed = true;
+    openScanned();
+    EXPECT_THAT(rowNames(), ElementsAre("Orrery", "Sonata", "Tidepool"));
+    expectTexts({"3 apps · those of flatpak, snap and the distribution can’t be seen from here",
+                 "Stays: only flatpak can remove it, which Flatpak’s sandbox does not have."});
+    EXPECT_EQ(find("uninstall0"), nullptr);
+    EXPECT_NE(find("uninstall1"), nullptr);
+}
+
 TEST_F(LinuxAppsWindow, entryOfNoPackageHasNoFigure) {
     machine.files.addFile(desktop.entryOf("handmade"), fakes::applicationEntry("Handmade", "/opt/x"));
     openScanned();

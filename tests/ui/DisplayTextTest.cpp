@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "fakes/RightToLeft.h"
+
 namespace zelk {
 
 namespace {
@@ -108,6 +110,31 @@ TEST(ShortenedPath, countsGraphemeClusters) {
     EXPECT_EQ(shortenedPath(family + letters(55)), family + letters(55));
     EXPECT_EQ(shortenedPath(u'x' + family + letters(55)), QStringLiteral("…") + letters(55));
     EXPECT_EQ(shortenedPath(u'x' + letters(1) + family + letters(54)), QStringLiteral("…") + family + letters(54));
+}
+
+TEST(DisplayText, isIsolatedFromRightToLeft) {
+    const fakes::RightToLeft direction;
+    EXPECT_EQ(shown("Notes"), "\u2068Notes\u2069");
+    EXPECT_EQ(shown("/home/מסמכים"), "\u2066/home/מסמכים\u2069") << "a path runs from left to right";
+    EXPECT_EQ(displayText("~/Music"), QStringLiteral("\u2066~/Music\u2069"));
+    EXPECT_EQ(nameText("/home/מסמכים"), QStringLiteral("\u2068מסמכים\u2069"));
+    EXPECT_EQ(folderText("/home/me"), QStringLiteral("\u2066/home\u2069"));
+    EXPECT_EQ(byteFigure(1'200'000'000, american), QStringLiteral("\u20681.2 GB\u2069"));
+    EXPECT_EQ(groupedFigure(1234, american), QStringLiteral("\u20681,234\u2069"));
+    EXPECT_EQ(isolated({}), QString()) << "nothing stays nothing";
+}
+
+TEST(PrintedText, isNotIsolatedFromRightToLeft) {
+    const fakes::RightToLeft direction;
+    EXPECT_EQ(printedText("a\nb"), QStringLiteral("a\nb"));
+}
+
+TEST(ShortenedPath, isIsolatedAnewFromRightToLeft) {
+    const QString path = u'/' + letters(70);
+    const QString shortened = shortenedPath(path);
+    const fakes::RightToLeft direction;
+    EXPECT_EQ(shortenedPath(isolated(path)), u'\u2066' + shortened + u'\u2069');
+    EXPECT_EQ(shortenedPath(isolated(letters(56))), isolated(letters(56))) << "its marks are no characters";
 }
 
 }  // namespace zelk

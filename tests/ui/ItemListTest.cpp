@@ -251,6 +251,26 @@ TEST_F(ItemListTest, itemInUseCannotBeSelected) {
     EXPECT_EQ(footer(), "5 items selected / 117 MB");
 }
 
+TEST_F(ItemListTest, itemOfAnApplicationCannotBeSelectedIfNobodySaysWhatRuns) {
+    machine.workspace.runningKnown = false;
+    surveyWhileRunning({});
+    const int row = inFolder(home + "/Library/Application Support/Cursor");
+    EXPECT_EQ(text(row, ItemList::lineRole), "may be in use: what runs can’t be seen from here");
+    EXPECT_FALSE(flag(row, ItemList::freeRole));
+    list().toggle(row);
+    EXPECT_FALSE(flag(row, ItemList::chosenRole));
+    EXPECT_TRUE(flag(inFolder(home + "/projects/web"), ItemList::freeRole)) << "no application's";
+    EXPECT_EQ(footer(), "4 items selected / 115 MB");
+}
+
+TEST_F(ItemListTest, itemOfAToolSaysThatASandboxDoesNotHaveIt) {
+    surveyWhileRunning({});
+    EXPECT_EQ(text(inFolder(home + "/.npm"), ItemList::lineRole), "/usr/bin/env npm cache clean --force");
+    machine.locations.sandboxed = true;
+    EXPECT_EQ(text(inFolder(home + "/.npm"), ItemList::lineRole), "needs npm, which Flatpak’s sandbox does not have");
+    EXPECT_EQ(text(inFolder(home + "/projects/web"), ItemList::lineRole), "");
+}
+
 TEST_F(ItemListTest, categoryToggleSkipsItemsInUse) {
     surveyWhileRunning({"Cursor"});
     const int header = named("App caches (Electron)");

@@ -95,6 +95,20 @@ TEST_F(PrivacyScreenOfMac, rowsOfRunningBrowsersSayWhatToQuit) {
     EXPECT_EQ(column("spoken")[1], "Chrome — Caches, quit Google Chrome to clear safely, 4 MB");
 }
 
+TEST_F(PrivacyScreenOfMac, everyBrowserMayRunIfNobodySaysWhatDoes) {
+    machine.workspace.runningKnown = false;
+    scan();
+    const std::string safari = "Safari may be running: quit it before clearing";
+    const std::string chrome = "Chrome may be running: quit it before clearing";
+    EXPECT_THAT(column("warning"), ElementsAre(safari, chrome, safari, chrome, ""));
+    EXPECT_THAT(column("running"), ElementsAre("true", "true", "true", "true", "false")) << "the system is no browser";
+    screen().toggle(0);
+    EXPECT_THAT(traces().selected(), ElementsAre("ChromeCaches", "SafariCaches")) << "as it was seeded";
+    machine.workspace.runningKnown = true;
+    traces().refreshRunning();
+    EXPECT_THAT(column("running"), ElementsAre("false", "false", "false", "false", "false"));
+}
+
 TEST_F(PrivacyScreenOfMac, namesThatAreNoTextAreShownAllTheSame) {
     machine.workspace.running = {"Safari\n\xff"};
     scan();

@@ -3,10 +3,12 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstring>
 
 #include "TextCheck.h"
 #include "ViewFixture.h"
+#include "fakes/RightToLeft.h"
 
 namespace zelk::tour {
 namespace {
@@ -42,13 +44,28 @@ TEST(PseudoLanguage, translatesWhereverItIsInstalled) {
     const QString text = QCoreApplication::translate("Anywhere", "%n files", nullptr, 3);
     QCoreApplication::removeTranslator(&language);
     EXPECT_TRUE(text.startsWith(QStringLiteral("⟦3 "))) << text.toStdString();
-    EXPECT_EQ(QCoreApplication::translate("Anywhere", "Lens"), QStringLiteral("Lens"));
+    EXPECT_EQ(QCoreApplication::translate("ScreenLook", "Lens"), QStringLiteral("Lens"));
 }
 
 TEST(PseudoLanguage, leavesTextsOfQtAlone) {
     const PseudoLanguage language;
     EXPECT_TRUE(language.translate("QShortcut", "Ctrl", nullptr, -1).isEmpty());
     EXPECT_FALSE(language.translate("QuitSheet", "Quit", nullptr, -1).isEmpty());
+}
+
+TEST(PseudoLanguage, isSpelledInHebrewLettersFromRightToLeft) {
+    const QString text = PseudoLanguage::spelled(QStringLiteral("Review %1 → %n"), Qt::RightToLeft);
+    EXPECT_TRUE(text.isRightToLeft()) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("%1 ← %n"))) << "an arrow points onward: " << text.toStdString();
+    EXPECT_FALSE(std::any_of(text.begin(), text.end(), [](QChar letter) { return letter.isUpper(); }));
+    EXPECT_GE(text.size() - 2, 14 * 1.2);
+    EXPECT_TRUE(PseudoLanguage::spelled({}, Qt::RightToLeft).isEmpty());
+}
+
+TEST(PseudoLanguage, saysItsDirection) {
+    EXPECT_EQ(PseudoLanguage(Qt::RightToLeft).translate("QGuiApplication", "QT_LAYOUT_DIRECTION", nullptr, -1),
+              QStringLiteral("RTL"));
+    EXPECT_TRUE(PseudoLanguage().translate("QGuiApplication", "QT_LAYOUT_DIRECTION", nullptr, -1).isEmpty());
 }
 
 class TextCheckWindow : public ViewFixture {
@@ -129,6 +146,28 @@ TEST_F(TextCheckWindow, reportsEachFindingOnce) {
     findings(R"(Text { text: "Lens" })");
     check.look(window(), QStringLiteral("there"));
     EXPECT_EQ(check.findings().size(), 1);
+}
+
+TEST_F(TextCheckWindow, findsPartsThatAreNotIsolatedFromRightToLeft) {
+    const char* items =
+        R"(Text { text: "⟦מחיקה 3 GB⟧" } Text { text: "⟦מחיקה \u20683 GB\u2069⟧" } Text { text: "⟦מחיקה 3⟧" })";
+    EXPECT_THAT(findings(items), IsEmpty());
+    const fakes::RightToLeft direction;
+    EXPECT_THAT(findings(items), ElementsAre("not isolated: ⟦מחיקה 3 GB⟧, in here"));
+}
+
+TEST_F(TextCheckWindow, findsLinesOfNoDirectionFromRightToLeft) {
+    const fakes::RightToLeft direction;
+    EXPECT_THAT(findings(R"(Text { text: "\u20683 GB\u2069 · \u20684 GB\u2069" } Text { text: "\u20683 GB\u2069" }
+                            Text { text: "\u200F\u20683 GB\u2069 · \u20685 GB\u2069" })"),
+                ElementsAre("of no direction: 3 GB · 4 GB, in here"));
+}
+
+TEST_F(TextCheckWindow, ignoresMarksAroundNames) {
+    check.allow(QStringLiteral("\u2068Movies\u2069"));
+    EXPECT_THAT(
+        findings(R"(Text { text: "\u2068Movies\u2069" } Text { text: "Movies" } Text { text: "\u20681.2 GB\u2069" })"),
+        IsEmpty());
 }
 
 }  // namespace

@@ -140,6 +140,36 @@ TEST_F(QuitQuestionTest, ignoresFurtherAnswers) {
     EXPECT_TRUE(question.stopping());
 }
 
+// Being wanted again.
+
+TEST_F(QuitQuestionTest, staysIfItWouldQuitAfterRemoval) {
+    quitWhileRemoving();
+    question.finishFirst();
+    EXPECT_TRUE(question.stay());
+    EXPECT_TRUE(removal->mayBegin());
+    endRemoval();
+    EXPECT_EQ(quits, 0);
+}
+
+TEST_F(QuitQuestionTest, stayingLeavesQuestionOpen) {
+    EXPECT_TRUE(question.stay()) << "nothing is ending";
+    quitWhileRemoving();
+    EXPECT_TRUE(question.stay());
+    EXPECT_TRUE(question.asking());
+    question.finishFirst();
+    endRemoval();
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(QuitQuestionTest, doesNotStayIfRemovalWasStopped) {
+    quitWhileRemoving();
+    question.stopNow();
+    EXPECT_FALSE(question.stay());
+    EXPECT_TRUE(question.stopping());
+    endRemoval();
+    EXPECT_EQ(quits, 1);
+}
+
 // Quitting without a window for the question.
 
 TEST_F(QuitQuestionTest, quitUnaskedQuitsAtOnceWithoutRemoval) {

@@ -67,6 +67,17 @@ TEST_F(SnapperScreenTest, adviceOnDiskImagesNamesToolsOfTheSystem) {
     EXPECT_EQ(text(1, DiskImageRows::spokenRole), "b.sparseimage, /home/me, 80 MB, " + sparseAdvice);
 }
 
+TEST_F(SnapperScreenTest, sandboxSaysThatItCannotSeeThem) {
+    const TextsOf sandbox(SystemTexts::System::flatpak);
+    machine.locations.sandboxed = true;
+    list();
+    EXPECT_FALSE(snapshots().nothing()) << "nobody knows that";
+    EXPECT_FALSE(snapshots().listed());
+    EXPECT_FALSE(snapshots().thinnable());
+    EXPECT_EQ(snapshots().note().toStdString(),
+              "Whether there are snapshots is not known: Flatpak’s sandbox has none of the tools that list them.");
+}
+
 TEST_F(SnapperScreenTest, asksBeforeDeleting) {
     remove(1);
     ASSERT_TRUE(snapshots().asking());

@@ -4,6 +4,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -151,6 +152,10 @@ TEST(ApplicationIcon, hasRoundCornersAndAccentBackground) {
     const QColor top = icon.pixelColor(icon.width() / 2, icon.height() / 16);
     EXPECT_GT(top.red(), 200);
     EXPECT_LT(top.blue(), 120);
+}
+
+TEST(Application, isKnownToTheDesktopByItsEntry) {
+    EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("io.github.zelk.Zelk"));
 }
 
 TEST(Symbols, haveHeavierLinesWhereTheTextHas) {

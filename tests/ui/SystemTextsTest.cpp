@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "TextsOf.h"
@@ -135,6 +137,37 @@ constexpr Wording wordings[] = {
      "folder."},
 };
 
+constexpr SystemTexts::System inSandbox = SystemTexts::System::flatpak;
+
+struct SandboxWording {
+    SystemTexts::Key key;
+    const char* text;
+};
+
+constexpr SandboxWording sandboxWordings[] = {
+    {SystemTexts::FreeMemoryNote, "Only an administrator can, and nothing in Flatpak’s sandbox can ask for one."},
+    {SystemTexts::HelpTune,
+     "See memory pressure and remove autostart entries. Freeing memory and flushing the DNS cache take tools that "
+     "Flatpak's sandbox does not have."},
+    {SystemTexts::HelpSnapshots,
+     "Surfaces purgeable space. Snapshots cannot be seen from Flatpak's sandbox, which has none of the tools that list "
+     "them."},
+    {SystemTexts::HelpThinning,
+     "Thinning and deleting snapshots take those tools too: do it outside, or in a Zelk that is installed as a "
+     "package."},
+    {SystemTexts::HelpPrompts,
+     "Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default to the Trash, and "
+     "nothing is ever done as an administrator: no prompt reaches Flatpak's sandbox."},
+    {SystemTexts::HelpSandbox,
+     "This Zelk runs in Flatpak's sandbox, with your files opened to it so it can survey them. Tools and packages of "
+     "the system stay outside: for those, install Zelk as a package."},
+    {SystemTexts::SnapshotsRefused,
+     "Whether there are snapshots is not known: Flatpak’s sandbox has none of the tools that list them."},
+    {SystemTexts::WhereAppsAre,
+     "There is no AppImage or unpacked application in your home folder. Those of flatpak, snap and the distribution "
+     "can’t be seen from Flatpak’s sandbox."},
+};
+
 }  // namespace
 
 TEST(SystemTexts, haveWordingForEachSystem) {
@@ -143,6 +176,21 @@ TEST(SystemTexts, haveWordingForEachSystem) {
         EXPECT_STREQ(SystemTexts::wording(row.key, macOS), row.macOS);
         EXPECT_STREQ(SystemTexts::wording(row.key, desktopLinux), row.desktopLinux);
     }
+}
+
+TEST(SystemTexts, sayWhatASandboxCannotAndElseWhatLinuxSays) {
+    for (int key = 0; key < SystemTexts::keyCount; ++key) {
+        const auto own = std::find_if(std::begin(sandboxWordings), std::end(sandboxWordings),
+                                      [key](const SandboxWording& row) { return row.key == key; });
+        EXPECT_STREQ(SystemTexts::wording(static_cast<SystemTexts::Key>(key), inSandbox),
+                     own != std::end(sandboxWordings)
+                         ? own->text
+                         : SystemTexts::wording(static_cast<SystemTexts::Key>(key), desktopLinux));
+    }
+    const TextsOf sandbox(inSandbox);
+    EXPECT_EQ(SystemTexts::of(SystemTexts::HealthTitle).toStdString(), "Computer health");
+    EXPECT_EQ(SystemTexts::worded("Removes simulator runtimes macOS no longer lists.").toStdString(),
+              "Removes simulator runtimes that nothing lists any more.");
 }
 
 TEST(SystemTexts, doNotMentionMacOnLinux) {

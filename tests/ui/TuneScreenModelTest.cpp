@@ -103,6 +103,7 @@ TEST_F(TuneScreen, describesRows) {
     EXPECT_THAT(column("removable"), ElementsAre("true", "true", "false", "true"));
     EXPECT_THAT(column("ticked"), ElementsAre("false", "false", "false", "false"));
     EXPECT_THAT(column("note"), ElementsAre("", "", "", ""));
+    EXPECT_THAT(column("mark"), ElementsAre("", "", "system", ""));
     EXPECT_THAT(column("reason"), ElementsAre("", "", "Not removable: it belongs to the system.", ""));
     EXPECT_EQ(column("spoken")[0], "Backup, " + fakes::ownAgents + "/b.plist");
     EXPECT_EQ(column("spoken")[2], "Daemon, " + fakes::systemAgents + "/d.plist, system");
@@ -118,6 +119,18 @@ TEST_F(TuneScreen, saysWhyAnOwnItemStays) {
     EXPECT_THAT(column("removable"), ElementsAre("false"));
     EXPECT_THAT(column("note"), ElementsAre("in place of the system's own"));
     EXPECT_THAT(column("reason"), ElementsAre("Not removable: without it the system's own item would start."));
+}
+
+TEST_F(TuneScreen, saysThatWhatAnOwnItemHidesCannotBeSeen) {
+    machine.locations.itemFolders = {{"/home/me/.config/autostart", BackgroundItemKind::autostartEntries, true}};
+    machine.locations.itemFolders.front().hidesUnseen = true;
+    machine.files.addFile("/home/me/.config/autostart/a.desktop", "[Desktop Entry]\nName=Applet\n");
+    screen().scan();
+    EXPECT_THAT(column("removable"), ElementsAre("false"));
+    EXPECT_THAT(column("note"), ElementsAre("not removable here"));
+    EXPECT_THAT(column("mark"), ElementsAre("")) << "it is not the system's";
+    EXPECT_THAT(column("reason"), ElementsAre("Not removable here: what would start in its place can’t be seen."));
+    EXPECT_THAT(column("spoken"), ElementsAre("Applet, /home/me/.config/autostart/a.desktop"));
 }
 
 TEST_F(TuneScreen, iconIsThatOfTheProgramOrElseOfTheList) {

@@ -5,6 +5,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "ui/theme/ReadingDirection.h"
+
 namespace zelk::tour {
 
 namespace {
@@ -62,6 +64,14 @@ void restPointer(QQuickWindow& window) {
 
 void pressKey(QQuickWindow& window, Qt::Key key) {
     QTest::keyClick(&window, key);
+}
+
+Qt::Key onwardKey() {
+    return readsFromRight() ? Qt::Key_Left : Qt::Key_Right;
+}
+
+Qt::Key backKey() {
+    return readsFromRight() ? Qt::Key_Right : Qt::Key_Left;
 }
 
 bool save(const QImage& picture, const QString& file) {

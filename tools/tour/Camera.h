@@ -30,6 +30,12 @@ void restPointer(QQuickWindow& window);
 
 void pressKey(QQuickWindow& window, Qt::Key key);
 
+/// The arrow key that leads into a row's content, and along a row of choices: to the right, or where the application
+/// reads from right to left, to the left.
+Qt::Key onwardKey();
+/// The other one.
+Qt::Key backKey();
+
 /// Writes a PNG. False if that fails or if the picture has a single colour.
 bool save(const QImage& picture, const QString& file);
 

@@ -3,12 +3,14 @@
 
 #include <QRegularExpression>
 #include <cmath>
+#include <cstring>
 
 namespace zelk::tour {
 
 namespace {
 
 constexpr double growth = 0.4;
+constexpr double growthFromRight = 0.2;
 
 QChar accented(QChar letter) {
     static const QString plain = QStringLiteral("aeiouyAEIOUYcnsz");
@@ -17,22 +19,38 @@ QChar accented(QChar letter) {
     return place < 0 ? letter : accents[place];
 }
 
+/// The letter, or an arrow that points onward, as a translator would write it from right to left.
+QChar fromRight(QChar letter) {
+    static const QString plain = QStringLiteral("abcdefghijklmnopqrstuvwxyz→←");
+    static const QString hebrew = QStringLiteral("אבצדעפגהיחקלמנופךרסטםשתזךז←→");
+    const qsizetype place = plain.indexOf(letter.toLower());
+    return place < 0 ? letter : hebrew[place];
+}
+
 bool isVowel(QChar letter) {
     return QStringLiteral("aeiouAEIOU").contains(letter);
 }
 
 }  // namespace
 
-QString PseudoLanguage::translate(const char* context, const char* text, const char*, int) const {
-    // The texts of Qt, such as the names of keys, have translations of their own.
-    if (context[0] == 'Q' && context[1] >= 'A' && context[1] <= 'Z') return {};
-    return spelled(QString::fromUtf8(text));
+bool isOfQt(const char* context) {
+    return context[0] == 'Q' && context[1] >= 'A' && context[1] <= 'Z';
 }
 
-QString PseudoLanguage::spelled(const QString& text) {
+QString PseudoLanguage::translate(const char* context, const char* text, const char*, int) const {
+    // By its translation of this text Qt knows the direction of a language.
+    if (direction_ == Qt::RightToLeft && std::strcmp(text, "QT_LAYOUT_DIRECTION") == 0) return QStringLiteral("RTL");
+    if (isOfQt(context)) return {};
+    return spelled(QString::fromUtf8(text), direction_);
+}
+
+QString PseudoLanguage::spelled(const QString& text, Qt::LayoutDirection direction) {
     if (text.isEmpty()) return {};
     static const QRegularExpression placeholder(QStringLiteral("%(L?\\d{1,2}|n)"));
-    auto missing = static_cast<qsizetype>(std::ceil(growth * static_cast<double>(text.size())));
+    const bool mirrored = direction == Qt::RightToLeft;
+    const double more = mirrored ? growthFromRight : growth;
+    const auto letter = [&](QChar plain) { return mirrored ? fromRight(plain) : accented(plain); };
+    auto missing = static_cast<qsizetype>(std::ceil(more * static_cast<double>(text.size())));
     QString spelling(1, opening);
     for (qsizetype place = 0; place < text.size();) {
         const QRegularExpressionMatch kept = placeholder.match(text, place, QRegularExpression::NormalMatch,
@@ -43,9 +61,9 @@ QString PseudoLanguage::spelled(const QString& text) {
             continue;
         }
         // Words grow inside, so that lines can break where they would in a real language.
-        spelling += accented(text[place]);
+        spelling += letter(text[place]);
         if (missing > 0 && isVowel(text[place])) {
-            spelling += accented(text[place].toLower());
+            spelling += letter(text[place].toLower());
             --missing;
         }
         ++place;

@@ -38,6 +38,8 @@ public:
     std::vector<std::string> programFolders() override { return real_.programFolders(); }
     std::vector<std::string> sharedDataFolders() override { return real_.sharedDataFolders(); }
     std::vector<std::string> entryLocales() override { return {}; }
+    bool isSandboxed() override { return real_.isSandboxed(); }
+    std::string pathInSandbox(const std::string& path) override { return real_.pathInSandbox(path); }
 
 private:
     static void put(const QString& folder, int item, const char* name) {

@@ -15,6 +15,7 @@
 #include "ui/shell/AppCommands.h"
 #include "ui/shell/SidebarModel.h"
 #include "ui/theme/Motion.h"
+#include "ui/theme/ReadingDirection.h"
 #include "ui/theme/ScreenLook.h"
 #include "ui/theme/TextScale.h"
 #include "wall/Wall.h"
@@ -207,7 +208,7 @@ bool Tour::lens() {
     folders->forceActiveFocus(Qt::TabFocusReason);
     pressAll({Qt::Key_Home, Qt::Key_Return});
     if (!picture(QStringLiteral("lens-drilled"))) return false;
-    pressAll({Qt::Key_Space, Qt::Key_Left, Qt::Key_Down, Qt::Key_Space, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space});
+    pressAll({Qt::Key_Space, backKey(), Qt::Key_Down, Qt::Key_Space, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space});
     if (!picture(QStringLiteral("lens-ticked"))) return false;
     pressKey(window, Qt::Key_I);
     if (!appears(window, "explanationDone") || !picture(QStringLiteral("lens-explanation")))
@@ -244,7 +245,8 @@ bool Tour::clutter() {
     if (!picture(QStringLiteral("clutter-focus"))) return false;
     const QQuickItem* order = findControl(window_.window(), QStringLiteral("orderPicker"));
     const auto pressOrder = [&](double share) {
-        clickAt(window_.window(), order->mapToScene(QPointF(share * order->width(), order->height() / 2)));
+        const double across = readsFromRight() ? 1 - share : share;
+        clickAt(window_.window(), order->mapToScene(QPointF(across * order->width(), order->height() / 2)));
     };
     pressOrder(0.75);
     if (!picture(QStringLiteral("clutter-oldest"))) return false;

@@ -49,7 +49,7 @@ bool Tour::items() {
     if (!appears(window, "itemList")) return missed("the items");
     if (!picture(QStringLiteral("reclaim-items"))) return false;
     findControl(window, QStringLiteral("itemList"))->forceActiveFocus(Qt::TabFocusReason);
-    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Right}) pressKey(window, key);
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Down, onwardKey()}) pressKey(window, key);
     if (!picture(QStringLiteral("reclaim-items-open"))) return false;
     if (!clickOn(window, QStringLiteral("safetyInfo"))) return missed("what the grades mean");
     if (!picture(QStringLiteral("reclaim-grades"))) return false;

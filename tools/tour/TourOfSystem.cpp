@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QGuiApplication>
 #include <QQuickItem>
 
 #include "Camera.h"
@@ -60,7 +61,8 @@ QStringList textsOfSnapshots() {
     const auto answer = [](const ChildOutcome& outcome) {
         return QStringLiteral("cancelled or failed: ") + QString::fromStdString(outcome.output);
     };
-    texts.append(answer(longAnswer()) + PseudoLanguage::spelled(QStringLiteral("The snapshot is still there.")));
+    texts.append(answer(longAnswer()) + PseudoLanguage::spelled(QStringLiteral("The snapshot is still there."),
+                                                                QGuiApplication::layoutDirection()));
     texts.append(answer(dismissed()));
     return texts;
 }

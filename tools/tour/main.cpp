@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-// tour --out DIR --root PATH [--home DIR] [--size WxH] [--pseudo]: runs the real window on the real file system without
-// a display, presses its buttons, and saves a picture of every screen and state in both themes in DIR, and of the
-// gallery. Nothing is removed: the services only report success. The tour's history goes to a temporary folder. With
-// --home, history and Trash are those of a home made by `tools/sample_home --history`, which has something for every
-// state: the tour then fails if it misses one. Otherwise it skips what the disk does not have. It also fails if Qt or
-// the QML engine prints a warning. With --pseudo all texts are in a pseudo-language, in one theme, and the tour fails
-// if a text is not translated or has no room for one that is 40% longer.
+// tour --out DIR --root PATH [--home DIR] [--size WxH] [--pseudo [--mirrored] | --language CODE]: runs the real window
+// on the real file system without a display, presses its buttons, and saves a picture of every screen and state in both
+// themes in DIR, and of the gallery. Nothing is removed: the services only report success. The tour's history goes to a
+// temporary folder. With --home, history and Trash are those of a home made by `tools/sample_home --history`, which has
+// something for every state: the tour then fails if it misses one. Otherwise it skips what the disk does not have. It
+// also fails if Qt or the QML engine prints a warning. With --pseudo all texts are in a pseudo-language, in one theme,
+// and the tour fails if a text is not translated or has no room for one that is 40% longer. With --mirrored too, that
+// language is one from right to left, and the tour also fails if anything does not stand where the mirror image has it.
+// With --language they are in a real one, as "de", and the tour fails if a text is not translated or has no room.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -15,6 +17,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "MarkedLanguage.h"
+#include "MirrorCheck.h"
 #include "PausingContents.h"
 #include "PausingDirectories.h"
 #include "PretendingServices.h"
@@ -25,6 +29,7 @@
 #include "Tour.h"
 #include "platform/NativePlatform.h"
 #include "ui/shell/Application.h"
+#include "ui/shell/Translations.h"
 #include "ui/theme/DisplayText.h"
 
 namespace {
@@ -32,6 +37,18 @@ namespace {
 QSize sizeFrom(const QString& text) {
     const QStringList sides = text.split(u'x');
     return sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+}
+
+/// The word after an option, read before there are tables of texts.
+QString valueOf(const QString& option) {
+    const QStringList words = QCoreApplication::arguments();
+    const qsizetype at = words.indexOf(option);
+    return at < 0 ? QString() : words.value(at + 1);
+}
+
+int failed(const char* why) {
+    std::fprintf(stderr, "tour: %s\n", why);
+    return EXIT_FAILURE;
 }
 
 void allowFolders(const zelk::FSNode& folder, zelk::tour::TextCheck& texts) {
@@ -85,9 +102,21 @@ int main(int argc, char** argv) {
     zelk::tour::keepQtMessages();
     QApplication application(argc, argv);
     // Installed before the first table of texts is made.
-    zelk::tour::PseudoLanguage language;
     const bool pseudo = QCoreApplication::arguments().contains(QStringLiteral("--pseudo"));
+    const bool mirrored = pseudo && QCoreApplication::arguments().contains(QStringLiteral("--mirrored"));
+    zelk::tour::PseudoLanguage language(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
     if (pseudo) QCoreApplication::installTranslator(&language);
+    const QString code = valueOf(QStringLiteral("--language"));
+    // Also what the layers below say, and what Qt does.
+    const zelk::Translations translations({code.isEmpty() ? QStringLiteral("en") : code},
+                                          {zelk::tour::builtTranslations()});
+    zelk::tour::MarkedLanguage marked(code);
+    if (!code.isEmpty()) {
+        if (!marked.isLoaded()) return failed("there is no such language");
+        QCoreApplication::installTranslator(&marked);
+        QLocale::setDefault(QLocale(code));
+    }
+    const bool checked = pseudo || !code.isEmpty();
     zelk::dressApplication();
 
     QCommandLineParser options;
@@ -100,15 +129,16 @@ int main(int argc, char** argv) {
     options.addOption({QStringLiteral("size"), QStringLiteral("Size of the window."), QStringLiteral("WxH"),
                        QStringLiteral("1120x720")});
     options.addOption({QStringLiteral("pseudo"), QStringLiteral("In a pseudo-language, whose texts are checked.")});
+    options.addOption(
+        {QStringLiteral("mirrored"), QStringLiteral("In one from right to left, whose layout is checked.")});
+    options.addOption({QStringLiteral("language"), QStringLiteral("In this language, whose texts are checked."),
+                       QStringLiteral("CODE")});
     options.process(application);
     const QSize size = sizeFrom(options.value(QStringLiteral("size")));
     const QString folder = options.value(QStringLiteral("out"));
     const QString root = options.value(QStringLiteral("root"));
     if (folder.isEmpty() || root.isEmpty() || size.isEmpty()) options.showHelp(2);
-    if (!QDir().mkpath(folder)) {
-        std::fprintf(stderr, "tour: cannot make %s\n", qPrintable(folder));
-        return EXIT_FAILURE;
-    }
+    if (!QDir().mkpath(folder)) return failed("cannot make the folder for the pictures");
 
     const bool sample = options.isSet(QStringLiteral("home"));
     zelk::NativePlatform native;
@@ -128,8 +158,9 @@ int main(int argc, char** argv) {
 
     bool complete = true;
     zelk::tour::TextCheck texts;
+    zelk::tour::MirrorCheck mirror;
     for (const bool dark : {true, false}) {
-        if (pseudo && !dark) break;
+        if (checked && !dark) break;
         const zelk::Platform platform{
             clock,      directories, files,     contents,   trash, vitals, dark ? forDark : forLight,
             real.tasks, processes,   workspace, real.system};
@@ -140,16 +171,23 @@ int main(int argc, char** argv) {
             allowNames(app, texts);
             texts.allow(zelk::printedText(pretence.output()));
             texts.look(window, picture, !picture.startsWith(QStringLiteral("large-text")));
+            if (mirrored) mirror.look(window, picture);
         };
         const zelk::tour::TourPlan plan{folder, size, dark, sample,
-                                        pseudo ? inspect : std::function<void(QQuickWindow&, const QString&)>()};
+                                        checked ? inspect : std::function<void(QQuickWindow&, const QString&)>()};
         complete = complete && zelk::tour::Tour(app, directories, contents, pretence, plan).run();
     }
-    for (const QString& finding : texts.findings()) {
+    for (const QString& finding : texts.findings() + mirror.findings()) {
         std::fprintf(stderr, "tour: %s\n", qPrintable(finding));
         complete = false;
     }
-    if (pseudo) std::printf("%lld texts in the pseudo-language\n", static_cast<long long>(texts.translated()));
+    for (const QString& missing : code.isEmpty() ? QStringList() : marked.takeMissing()) {
+        std::fprintf(stderr, "tour: no translation of %s\n", qPrintable(missing));
+        complete = false;
+    }
+    if (checked) std::printf("%lld texts in the language\n", static_cast<long long>(texts.translated()));
+    if (mirrored)
+        std::printf("%lld places compared with their mirror images\n", static_cast<long long>(mirror.compared()));
     directories.resume();
     contents.gate().resume();
     for (const QString& message : zelk::tour::takeQtMessages()) {

@@ -9,6 +9,8 @@ namespace zelk {
 
 /// What $XDG_DATA_DIRS means where it is not set.
 inline constexpr std::string_view usualDataFolders = "/usr/local/share:/usr/share";
+/// What $PATH means where it is not set.
+inline constexpr std::string_view usualProgramFolders = "/usr/local/bin:/usr/bin:/bin";
 
 /// The absolute folders of a list separated by colons: normalized, in order, each once.
 std::vector<std::string> foldersIn(std::string_view list);

@@ -3,6 +3,8 @@
 
 #include "platform/NativePlatform.h"
 #include "platform/NativeStorage.h"
+#include "platform/linux/AbsentTools.h"
+#include "platform/linux/Sandbox.h"
 #include "platform/linux/apps/LinuxWorkspace.h"
 #include "platform/linux/trash/LinuxTrash.h"
 #include "platform/linux/vitals/LinuxVitals.h"
@@ -14,15 +16,20 @@ namespace zelk {
 
 struct NativePlatform::Services {
     explicit Services(const std::string& home)
-        : storage(home), trash(home), workspace(*files.locations.applicationSupport(), trash.location()) {}
+        : storage(home),
+          trash(home, sandbox),
+          workspace(files.locations.xdgHomes()->data, trash.location(), sandbox, ownProcesses) {}
 
+    const Sandbox sandbox;
     NativeStorage storage;
     const Storage& files = storage.storage();
     ThreadTasks tasks;
     PosixFileContents contents;
     LinuxVitals vitals;
     LinuxTrash trash;
-    PosixChildProcess processes;
+    PosixChildProcess ownProcesses;
+    AbsentTools absentTools;
+    ChildProcess& processes = sandbox.isInside() ? static_cast<ChildProcess&>(absentTools) : ownProcesses;
     LinuxWorkspace workspace;
     Platform record{
         files.clock, files.directories,       files.files, contents, trash, vitals, files.locations, tasks, processes,

@@ -5,13 +5,14 @@
 #import <Foundation/Foundation.h>
 
 #include "platform/Failure.h"
+#include "platform/Translation.h"
 
 namespace zelk {
 
 /// The system's description of `error`. A missing error is a failure too.
 inline Failure failureOf(NSError* error) {
     const char* const text = [[error localizedDescription] UTF8String];
-    return text == nullptr || *text == '\0' ? "The operation couldn’t be completed." : text;
+    return text == nullptr || *text == '\0' ? translated("Failure", "The operation couldn’t be completed.") : text;
 }
 
 /// Returns `call()`, or `otherwise(exception)` if Foundation throws. It throws on what it considers programming errors,

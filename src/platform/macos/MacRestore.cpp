@@ -38,7 +38,7 @@ Failure moveOutOfTrash(const TrashedItem& item) {
     if (identityOf(*there) != item.identity) return reasonOfRestore(ESTALE);
     if (const int error = moveExclusively(trash.get(), name, folder.get(), origin)) {
         const bool isThere = fileStatus(trash.get(), name).has_value();
-        if (error == ENOENT && isThere) return originIsMissing;
+        if (error == ENOENT && isThere) return originIsMissing();
         return reasonOfRestore(error);
     }
     // Move it back to the Trash if another item took the name there at the last moment. If unknown, assume it is ours.

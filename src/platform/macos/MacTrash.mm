@@ -4,6 +4,7 @@
 #import <Foundation/Foundation.h>
 #include <sys/file.h>
 
+#include "platform/Translation.h"
 #include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
 #include "platform/macos/MacRestore.h"
@@ -43,7 +44,8 @@ std::optional<std::vector<std::string>> MacTrash::list() {
 TrashResult MacTrash::trash(const ItemPath& item) {
     const RemovalPermit permit;
     if (const int error = errorOnWay(item))
-        return {failureText(item.name(), "couldn’t be moved to the Trash", reasonOfParent(item, error))};
+        return {failureText(ZELK_TEXT("Failure", "“%1” couldn’t be moved to the Trash: %2"), item.name(),
+                            reasonOfParent(item, error))};
     const Descriptor parent = openParent(item);
     const std::optional<FileStatus> above = parent ? fileStatus(parent.get()) : std::nullopt;
     @autoreleasepool {
@@ -68,7 +70,7 @@ Failure MacTrash::restore(const TrashedItem& item) {
     const RemovalPermit permit;
     const Failure reason = moveOutOfTrash(item);
     if (!reason) return std::nullopt;
-    return failureText(item.origin.name(), "couldn’t be put back", *reason);
+    return failureText(ZELK_TEXT("Failure", "“%1” couldn’t be put back: %2"), item.origin.name(), *reason);
 }
 
 std::size_t MacTrash::empty() {

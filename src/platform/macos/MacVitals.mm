@@ -4,6 +4,7 @@
 #import <Foundation/Foundation.h>
 #import <IOKit/ps/IOPowerSources.h>
 
+#include "platform/Translation.h"
 #include "platform/VitalsArithmetic.h"
 #include "platform/macos/FoundationFailure.h"
 #include "platform/macos/FoundationPaths.h"
@@ -54,7 +55,7 @@ DeviceInfo MacVitals::device() {
     @autoreleasepool {
         NSProcessInfo* process = [NSProcessInfo processInfo];
         const NSOperatingSystemVersion version = [process operatingSystemVersion];
-        return {.computerName = text([[NSHost currentHost] localizedName]).value_or("This Mac"),
+        return {.computerName = text([[NSHost currentHost] localizedName]).value_or(translated("SystemTexts", "This Mac")),
                 .chip = sysctlText("machdep.cpu.brand_string").value_or(""),
                 .cores = static_cast<std::int64_t>([process activeProcessorCount]),
                 .memoryBytes = [process physicalMemory],

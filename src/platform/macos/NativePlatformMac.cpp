@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include <cstdlib>
 #include <string>
 
 #include "platform/NativePlatform.h"
 #include "platform/NativeStorage.h"
+#include "platform/ToolPath.h"
 #include "platform/macos/MacTrash.h"
 #include "platform/macos/MacVitals.h"
 #include "platform/macos/MacWorkspace.h"
@@ -12,8 +14,20 @@
 
 namespace zelk {
 
+namespace {
+
+const char* inheritedPath() {
+    const char* const path = std::getenv("PATH");
+    return path == nullptr ? "" : path;
+}
+
+}  // namespace
+
 struct NativePlatform::Services {
-    explicit Services(const std::string& home) : storage(home), trash(files.locations.home()) {}
+    explicit Services(const std::string& home)
+        : storage(home),
+          trash(files.locations.home()),
+          processes(toolPath(inheritedPath(), files.files, files.locations.home())) {}
 
     NativeStorage storage;
     const Storage& files = storage.storage();

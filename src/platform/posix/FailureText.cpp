@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <system_error>
 
+#include "platform/Translation.h"
+
 namespace zelk {
 namespace {
 
@@ -74,10 +76,8 @@ std::string systemText(int error) {
     return std::generic_category().message(error);
 }
 
-std::string failureText(std::string_view name, std::string_view what, std::string_view reason) {
-    std::string text = "“" + readableName(name) + "” ";
-    text.append(what).append(": ").append(reason);
-    return text;
+std::string failureText(std::string_view sentence, std::string_view name, std::string_view reason) {
+    return filled(translated("Failure", sentence), {readableName(name), reason});
 }
 
 }  // namespace zelk

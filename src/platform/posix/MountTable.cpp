@@ -65,6 +65,11 @@ std::optional<std::string> mountPointOf(const std::vector<Mount>& table, std::ui
     return found->point;
 }
 
+bool isWholeVolume(const std::vector<Mount>& table, std::uint64_t id) {
+    const Mount* const found = findMount(table, id);
+    return found != nullptr && found->root == "/";
+}
+
 bool isMountedBelow(const std::vector<Mount>& table, std::string_view path) {
     return std::any_of(table.begin(), table.end(),
                        [path](const Mount& mount) { return !pathBehind(path, mount.point).value_or("").empty(); });

@@ -26,6 +26,9 @@ std::vector<Mount> parseMountTable(std::string_view mountinfo);
 /// The mount point of the mount `id`; absent if it is not in the table.
 std::optional<std::string> mountPointOf(const std::vector<Mount>& table, std::uint64_t id);
 
+/// Whether the mount `id` shows its device from the top; false for a part of it, and if it is not in the table.
+bool isWholeVolume(const std::vector<Mount>& table, std::uint64_t id);
+
 /// Whether anything is mounted below the folder `path` (absolute, without links), not counting `path` itself.
 bool isMountedBelow(const std::vector<Mount>& table, std::string_view path);
 

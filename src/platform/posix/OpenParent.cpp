@@ -3,6 +3,7 @@
 
 #include <cerrno>
 
+#include "platform/Translation.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
 
@@ -20,7 +21,7 @@ int errorOnWay(const ItemPath& item) {
 
 std::string reasonOfParent(const ItemPath& item, int error) {
     const bool swapped = !item.way().empty() && (error == ELOOP || error == ENOTDIR);
-    return swapped ? "the folder that it was found in is no longer there" : systemText(error);
+    return swapped ? translated("Failure", "the folder that it was found in is no longer there") : systemText(error);
 }
 
 }  // namespace zelk

@@ -2,12 +2,16 @@
 #include "platform/posix/PosixChildProcess.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <array>
+#include <chrono>
 #include <csignal>
 #include <mutex>
+#include <string_view>
 #include <system_error>
 
 #include "platform/posix/Descriptor.h"
@@ -95,21 +99,44 @@ private:
     posix_spawnattr_t attributes_;
 };
 
+/// The environment of a child: this process's own, but for the PATH if there is another.
+class ChildEnvironment {
+public:
+    explicit ChildEnvironment(const std::string& path) {
+        if (path.empty()) return;
+        path_ = "PATH=" + path;
+        for (char** variable = environ; *variable != nullptr; ++variable)
+            if (!std::string_view(*variable).starts_with("PATH=")) variables_.push_back(*variable);
+        variables_.push_back(path_.data());
+        variables_.push_back(nullptr);
+    }
+    ChildEnvironment(const ChildEnvironment&) = delete;
+    ChildEnvironment& operator=(const ChildEnvironment&) = delete;
+
+    char** variables() { return variables_.empty() ? environ : variables_.data(); }
+
+private:
+    std::string path_;
+    std::vector<char*> variables_;
+};
+
 ChildOutcome notLaunched(int error) {
     return {std::generic_category().message(error), 0, {}};
 }
 
 /// Returns 0 or the error.
-int spawn(const std::string& executable, const std::vector<std::string>& arguments, const ChildStreams& streams,
-          const Pipe& pipe, pid_t& child) {
+int spawn(const std::string& executable, const std::vector<std::string>& arguments, const std::string& toolPath,
+          const ChildStreams& streams, const Pipe& pipe, pid_t& child) {
     std::vector<char*> words{const_cast<char*>(executable.c_str())};
     for (const std::string& argument : arguments) words.push_back(const_cast<char*>(argument.c_str()));
     words.push_back(nullptr);
     const StreamActions made(streams, pipe.writing.get());
+    ChildEnvironment environment(toolPath);
 #ifdef __APPLE__
     const std::lock_guard lock(startingChildren());
 #endif
-    return ::posix_spawn(&child, executable.c_str(), made.actions(), made.attributes(), words.data(), environ);
+    return ::posix_spawn(&child, executable.c_str(), made.actions(), made.attributes(), words.data(),
+                         environment.variables());
 }
 
 int waitForExit(pid_t child) {
@@ -119,14 +146,70 @@ int waitForExit(pid_t child) {
     return WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status);
 }
 
+/// Appends what is there, and waits if that is nothing; false at the end.
+bool readMore(const Descriptor& file, std::string& content) {
+    std::array<char, 64 * 1024> buffer;
+    const ssize_t got = uninterrupted([&] { return ::read(file.get(), buffer.data(), buffer.size()); });
+    if (got > 0) content.append(buffer.data(), static_cast<std::size_t>(got));
+    return got > 0;
+}
+
 std::string readToEnd(const Descriptor& file) {
     std::string content;
-    std::array<char, 64 * 1024> buffer;
-    for (;;) {
-        const ssize_t got = uninterrupted([&] { return ::read(file.get(), buffer.data(), buffer.size()); });
-        if (got <= 0) return content;
-        content.append(buffer.data(), static_cast<std::size_t>(got));
+    while (readMore(file, content)) {
     }
+    return content;
+}
+
+/// The end of a limited time, which does not move with the clock.
+class Deadline {
+public:
+    explicit Deadline(double seconds)
+        : end_(std::chrono::steady_clock::now() + std::chrono::duration_cast<std::chrono::steady_clock::duration>(
+                                                      std::chrono::duration<double>(seconds))) {}
+
+    /// At least 0.
+    int millisecondsLeft() const {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end_ - std::chrono::steady_clock::now());
+        return static_cast<int>(std::clamp<std::chrono::milliseconds::rep>(left.count(), 0, 1'000'000));
+    }
+
+private:
+    std::chrono::steady_clock::time_point end_;
+};
+
+/// False if the limit was reached before the end.
+bool readWithin(const ChildLimit& limit, const Deadline& deadline, const Descriptor& file, std::string& content) {
+    for (;;) {
+        pollfd waiting{file.get(), POLLIN, 0};
+        const int ready = uninterrupted([&] { return ::poll(&waiting, 1, deadline.millisecondsLeft()); });
+        if (ready == 0) return false;
+        if (ready < 0 || !readMore(file, content)) return true;
+        if (content.size() > limit.bytes) return false;
+    }
+}
+
+/// False if it was still running at the end of the time.
+bool hasExitedBy(const Deadline& deadline, pid_t child) {
+    constexpr int pause = 5;  // milliseconds: nothing that macOS has too wakes up for both a child and a deadline
+    for (;;) {
+        siginfo_t exited{};
+        const int looked = uninterrupted(
+            [&] { return ::waitid(P_PID, static_cast<id_t>(child), &exited, WEXITED | WNOHANG | WNOWAIT); });
+        if (looked != 0 || exited.si_pid != 0) return true;
+        const int left = deadline.millisecondsLeft();
+        if (left == 0) return false;
+        ::poll(nullptr, 0, std::min(left, pause));
+    }
+}
+
+/// Reads until the child has ended, or ends it.
+std::string outputWithin(const ChildLimit& limit, const Descriptor& file, pid_t child) {
+    const Deadline deadline(limit.seconds);
+    std::string content;
+    if (readWithin(limit, deadline, file, content) && hasExitedBy(deadline, child)) return content;
+    ::kill(child, SIGKILL);
+    return {};
 }
 
 }  // namespace
@@ -136,12 +219,16 @@ ChildOutcome PosixChildProcess::run(const std::string& executable, const std::ve
     Pipe pipe;
     if (pipe.error != 0) return notLaunched(pipe.error);
     pid_t child = 0;
-    if (const int error = spawn(executable, arguments, streams, pipe, child)) return notLaunched(error);
+    if (const int error = spawn(executable, arguments, toolPath_, streams, pipe, child)) return notLaunched(error);
     pipe.writing.close();
     ChildOutcome outcome;
-    if (streams.readsWhileRunning) outcome.output = readToEnd(pipe.reading);
+    if (streams.limit) {
+        outcome.output = outputWithin(*streams.limit, pipe.reading, child);
+    } else if (streams.readsWhileRunning) {
+        outcome.output = readToEnd(pipe.reading);
+    }
     outcome.exitStatus = waitForExit(child);
-    if (!streams.readsWhileRunning) outcome.output = readToEnd(pipe.reading);
+    if (!streams.limit && !streams.readsWhileRunning) outcome.output = readToEnd(pipe.reading);
     return outcome;
 }
 

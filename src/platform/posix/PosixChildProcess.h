@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "platform/ChildProcess.h"
 
 namespace zelk {
@@ -9,9 +12,16 @@ namespace zelk {
 /// descriptors at most standard input: a child that kept another's pipe open would keep that one's reader waiting.
 class PosixChildProcess : public ChildProcess {
 public:
+    PosixChildProcess() = default;
+    /// Children have this PATH instead of the inherited one. What is started is never looked for in either.
+    explicit PosixChildProcess(std::string toolPath) : toolPath_(std::move(toolPath)) {}
+
     using ChildProcess::run;
     ChildOutcome run(const std::string& executable, const std::vector<std::string>& arguments,
                      const ChildStreams& streams) override;
+
+private:
+    const std::string toolPath_;  // empty: the inherited one
 };
 
 /// Has this process told how its children end, even if whoever started it ignores that: it inherits to ignore SIGCHLD,

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/FolderPath.h"
+#include "platform/Translation.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/DirectoryLadder.h"
 #include "platform/posix/DirectoryNames.h"
@@ -26,7 +27,7 @@
 namespace zelk {
 namespace {
 
-constexpr std::string_view what = "couldn’t be removed";
+constexpr std::string_view notRemoved = ZELK_TEXT("Failure", "“%1” couldn’t be removed: %2");
 
 /// How often a folder may change after it was listed: be refilled or swapped for something else. Then a process that
 /// keeps writing there wins.
@@ -48,8 +49,12 @@ bool isFolderAfter(int error, int folder, const std::string& name) {
     return status && status->isDirectory();
 }
 
+std::string volumeIsThere() {
+    return translated("Failure", "another volume is mounted there");
+}
+
 std::string reasonOfRemoval(int error) {
-    return error == EXDEV ? "another volume is mounted there" : systemText(error);
+    return error == EXDEV ? volumeIsThere() : systemText(error);
 }
 
 /// Removes a tree iteratively. Keeps the folders still to be removed, level by level, deepest last. A folder stays
@@ -171,8 +176,10 @@ private:
     bool failOnLast(int error) { return fail(names_.back(), names_.size() == 1, error); }
 
     bool fail(const std::string& name, bool isItem, int error) {
-        const std::string within = isItem ? "" : "in “" + readableName(names_.front()) + "” ";
-        failure_ = failureText(name, within + std::string(what), reasonOfRemoval(error));
+        const std::string reason = reasonOfRemoval(error);
+        failure_ = isItem ? failureText(notRemoved, name, reason)
+                          : filled(translated("Failure", "“%1” in “%2” couldn’t be removed: %3"),
+                                   {readableName(name), readableName(names_.front()), reason});
         return false;
     }
 
@@ -187,25 +194,25 @@ private:
 }  // namespace
 
 Failure removeEntry(int parent, const std::string& name) {
-    const auto failed = [&](std::string_view reason) { return failureText(name, what, reason); };
+    const auto failed = [&](std::string_view reason) { return failureText(notRemoved, name, reason); };
     const std::optional<FileStatus> above = fileStatus(parent);
     const std::optional<FileStatus> item = fileStatus(parent, name);
     if (!above || !item) return failed(systemText(errno));
-    if (item->mount != above->mount) return failed("another volume is mounted there");
+    if (item->mount != above->mount) return failed(volumeIsThere());
     if (!item->isDirectory()) {
         if (::unlinkat(parent, name.c_str(), 0) == 0) return std::nullopt;
         return failed(systemText(errno));
     }
     const std::optional<std::string> folder = pathOfDirectory(parent);
     if (folder && isMountedAnywhereIn(mountTable(), item->mount, pathIn(*folder, name)))
-        return failed("another volume is mounted in it");
+        return failed(translated("Failure", "another volume is mounted in it"));
     return TreeRemover(parent, name).run();
 }
 
 Failure removeItem(const ItemPath& item) {
     const RemovalPermit permit;
     const Descriptor parent = openParent(item);
-    if (!parent) return failureText(item.name(), what, reasonOfParent(item, errno));
+    if (!parent) return failureText(notRemoved, item.name(), reasonOfParent(item, errno));
     return removeEntry(parent.get(), std::string(item.name()));
 }
 

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <optional>
 
+#include "platform/Translation.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/OpenParent.h"
 
@@ -13,11 +14,15 @@ FileIdentity identityOf(const FileStatus& status) {
     return {status.device, status.inode};
 }
 
+std::string originIsMissing() {
+    return translated("Failure", "the folder it was in is no longer there");
+}
+
 Descriptor openOrigin(const TrashedItem& item, std::string& reason) {
     Descriptor folder = openParent(item.origin);
     if (!folder) {
         const bool missing = errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
-        reason = missing ? originIsMissing : systemText(errno);
+        reason = missing ? originIsMissing() : systemText(errno);
         return {};
     }
     const std::optional<FileStatus> status = fileStatus(folder.get());
@@ -26,7 +31,7 @@ Descriptor openOrigin(const TrashedItem& item, std::string& reason) {
         return {};
     }
     if (identityOf(*status) != item.parent) {
-        reason = "another folder has taken the place of the one it was in";
+        reason = translated("Failure", "another folder has taken the place of the one it was in");
         return {};
     }
     return folder;
@@ -36,13 +41,13 @@ std::string reasonOfRestore(int error) {
     switch (error) {
         case EEXIST:
         case ENOTEMPTY:
-            return "something else is there now";
+            return translated("Failure", "something else is there now");
         case ENOENT:
-            return "it is no longer in the Trash";
+            return translated("Failure", "it is no longer in the Trash");
         case ESTALE:
-            return "the Trash holds something else in its place";
+            return translated("Failure", "the Trash holds something else in its place");
         case EXDEV:
-            return "it is on another volume than the folder it was in";
+            return translated("Failure", "it is on another volume than the folder it was in");
         default:
             return systemText(error);
     }

@@ -12,7 +12,8 @@ namespace zelk {
 
 FileIdentity identityOf(const FileStatus& status);
 
-inline constexpr const char* originIsMissing = "the folder it was in is no longer there";
+/// The reason for display where the folder of the item is gone.
+std::string originIsMissing();
 
 /// Opens the folder that `item` was in for lookups, by its original path and without following links. Returns no
 /// descriptor, and a displayable `reason`, if it is missing or has been replaced by another folder.

@@ -54,10 +54,10 @@ AppRemoval byAdministrator(const Platform& platform, const std::string& package)
     if (!line) return {Outcome::failed};
     const std::string answer = PrivilegedCommands(platform).runAdmin(*line);
     if (wasNotAllowed(answer)) return {Outcome::notAllowed};
-    if (answer.starts_with(launchFailedAnswer))
-        return {Outcome::notStarted, answer.substr(std::string_view(launchFailedAnswer).size())};
-    if (answer.starts_with(refusedAnswer))
-        return {Outcome::failed, lastLine(std::string_view(answer).substr(std::string_view(refusedAnswer).size()))};
+    if (const std::string start = launchFailedAnswer(); answer.starts_with(start))
+        return {Outcome::notStarted, answer.substr(start.size())};
+    if (const std::string start = refusedAnswer(); answer.starts_with(start))
+        return {Outcome::failed, lastLine(std::string_view(answer).substr(start.size()))};
     return {};
 }
 

@@ -59,19 +59,22 @@ std::optional<std::string> bundleIdentifier(FileManager& files, const std::strin
 std::vector<AppEntry> listApplications(const Platform& platform) {
     const AppSearch search(platform);
     AppFindings findings;
+    // What a sandbox has in the places of snaps and packages is its runtime's.
+    const bool isSandboxed = platform.locations.isSandboxed();
     findFlatpaks(search, findings);
-    findSnaps(search, findings);
+    if (!isSandboxed) findSnaps(search, findings);
     findAppImages(search, findings);
     findUnpacked(search, findings);
-    findPackages(search, findings);
+    if (!isSandboxed) findPackages(search, findings);
 
     claimOthers(search.own, findings);
     for (const std::string& folder : platform.locations.sharedDataFolders())
         claimOthers(readDesktopFiles(platform.files, pathIn(folder, "applications"), search.locales), findings);
 
     for (AppEntry& app : findings.apps) {
-        app.sharesID = app.bundleID && findings.claims.isShared(*app.bundleID);
-        app.sharesProgram = findings.claims.isShared(app.program);
+        // Those that a sandbox does not show may be called the same, and their data must not go with another's.
+        app.sharesID = app.bundleID && (isSandboxed || findings.claims.isShared(*app.bundleID));
+        app.sharesProgram = isSandboxed || findings.claims.isShared(app.program);
     }
     sortLargestFirst(findings.apps);
     return std::move(findings.apps);

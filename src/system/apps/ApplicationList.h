@@ -22,7 +22,8 @@ std::vector<AppEntry> bundlesIn(const FSNode& top, FileManager& files);
 std::optional<std::string> bundleIdentifier(FileManager& files, const std::string& bundle);
 
 /// Every application of Linux that flatpak, snap, the distribution or the user has installed, largest first. Blocking:
-/// asks the tools, and never as an administrator.
+/// asks the tools, and never as an administrator. From a sandbox only those of the user can be seen, each as if another
+/// had its name too.
 std::vector<AppEntry> listApplications(const Platform& platform);
 
 }  // namespace zelk

@@ -40,7 +40,7 @@ public:
         : platform_(search.platform),
           folder_(std::move(folder)),
           isUsers_(isUsers),
-          hasTool_(platform_.files.exists(flatpakTool)) {}
+          hasTool_(!platform_.locations.isSandboxed() && platform_.files.exists(flatpakTool)) {}
 
     std::optional<AppEntry> read(const std::string& id, const DesktopFile& entry) const {
         const std::string place = pathIn(folder_, "app/" + id);
@@ -54,7 +54,9 @@ public:
         app.kind = isUsers_ ? AppKind::userFlatpak : AppKind::systemFlatpak;
         app.package = id;
         app.icon = entry.entry.icon;
-        if (!hasTool_)
+        if (platform_.locations.isSandboxed())
+            app.obstacle = {AppObstacle::Reason::outOfReach, {"flatpak"}};
+        else if (!hasTool_)
             app.obstacle = {AppObstacle::Reason::noTool, {"flatpak"}};
         else if (deploymentsOf(platform_.files, place) != 1)
             app.obstacle = {AppObstacle::Reason::severalVersions};
@@ -138,7 +140,7 @@ std::optional<std::uint64_t> parseFlatpakSize(std::string_view output) {
 
 void findFlatpaks(const AppSearch& search, AppFindings& findings) {
     findFlatpaksIn(search, pathIn(search.xdg.data, "flatpak"), true, findings);
-    findFlatpaksIn(search, systemFlatpaks, false, findings);
+    if (!search.platform.locations.isSandboxed()) findFlatpaksIn(search, systemFlatpaks, false, findings);
 }
 
 }  // namespace zelk

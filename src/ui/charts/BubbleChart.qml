@@ -95,7 +95,7 @@ BubblePicture {
         readonly property real room: chart.tip.widest - 2 * lines.x
 
         objectName: "bubbleTip"
-        x: chart.tip.corner.x
+        x: ReadingDirection.mirrored ? chart.width - width - chart.tip.corner.x : chart.tip.corner.x
         y: chart.tip.corner.y
         width: lines.width + 2 * lines.x
         height: lines.height + 2 * lines.y
@@ -113,6 +113,7 @@ BubblePicture {
             spacing: 2
 
             Label {
+                anchors.left: parent.left
                 width: Math.min(implicitWidth, card.room)
                 text: chart.tip.label
                 size: 12
@@ -120,6 +121,7 @@ BubblePicture {
             }
 
             Label {
+                anchors.left: parent.left
                 width: Math.min(implicitWidth, card.room)
                 text: chart.tip.line
                 size: 11

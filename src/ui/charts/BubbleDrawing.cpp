@@ -183,7 +183,7 @@ BubbleFace bubbleFace(const PackedCircle& circle, const BubbleSlice& slice, doub
     const auto below = [&](double distance) { return middleOf(circle) + QPointF(0, distance); };
     const auto label = [&](double offset, double size) {
         const auto width = [&](const QString& part) { return widthOf(part, BubbleFont::label, size); };
-        return BubbleText{fittedLabel(slice.label, room, size, width), below(offset), size};
+        return BubbleText{fittedLabel(withoutIsolation(slice.label), room, size, width), below(offset), size};
     };
 
     BubbleFace face;
@@ -198,7 +198,7 @@ BubbleFace bubbleFace(const PackedCircle& circle, const BubbleSlice& slice, doub
     }
     if (large) {
         const double size = std::min(0.2 * r, 13 * textScale);
-        const QString text = byteFigure(slice.bytes);
+        const QString text = withoutIsolation(byteFigure(slice.bytes));
         if (widthOf(text, BubbleFont::size, size) <= room) face.bytes = {text, below(0.52 * r), size};
     }
     return face;

@@ -13,8 +13,8 @@ namespace {
 
 QString shareText(double share) {
     const double percent = std::max(100 * share, 0.0);
-    return percent < 1 ? QStringLiteral("less than 1% of the map")
-                       : QStringLiteral("%1% of the map").arg(std::lround(percent));
+    return percent < 1 ? BubbleNodes::tr("less than 1% of the map")
+                       : BubbleNodes::tr("%1% of the map").arg(std::lround(percent));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "ui/theme/DisplayText.h"
+#include "ui/theme/ReadingDirection.h"
 
 namespace zelk {
 
@@ -31,16 +32,17 @@ QPointF originThatMoves(QPointF from, QPointF to, double scale) {
 
 BubbleTip BubbleTip::of(const BubbleSlice& slice, QPointF point, QSizeF chart, double textScale) {
     constexpr double offset = 12;     // from the pointer
-    constexpr double roomWide = 220;  // reserved between the tip and the right edge
+    constexpr double roomWide = 220;  // reserved between the tip and the edge
     constexpr double roomHigh = 56;   // reserved below
     const double width = roomWide * textScale;
+    const double across = readsFromRight() ? chart.width() - point.x() : point.x();
     BubbleTip tip;
     tip.shown = true;
     tip.label = slice.label;
     tip.line = byteFigure(slice.bytes);
     if (slice.reclaimable) tip.line = BubblePicture::tr("%1 · reclaimable").arg(tip.line);
     tip.reclaimable = slice.reclaimable;
-    tip.corner = {std::min(point.x() + offset, std::max(chart.width() - width, 0.0)),
+    tip.corner = {std::min(across + offset, std::max(chart.width() - width, 0.0)),
                   std::min(point.y() + offset, std::max(chart.height() - roomHigh * textScale, 0.0))};
     tip.widest = std::min(std::max(chart.width() - tip.corner.x(), width), chart.width());
     return tip;

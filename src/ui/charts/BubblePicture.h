@@ -35,7 +35,7 @@ public:
     QString label;
     QString line;  ///< the size, and whether it is reclaimable
     bool reclaimable = false;
-    QPointF corner;     ///< top left corner, in the chart's points
+    QPointF corner;  ///< top left corner, in the chart's points; top right, from the right, where reading begins there
     double widest = 0;  ///< maximum width there
 
     /// The tip at `point` in a chart of size `chart`, with texts scaled by `textScale`.

@@ -117,7 +117,7 @@ void drawHalo(QPainter& painter, QPointF center, const QColor& color, double opa
 
 void drawRing(QPainter& painter, QPointF center, double radius, double width, const QColor& color) {
     if (radius <= 0) return;
-    const double scale = painter.transform().m11();
+    const double scale = std::abs(painter.transform().m11());  // negative where a picture is mirrored
     const SoftBrush soft = smoothRing(center, radius, width, scale, color);
     // A gradient has 1024 steps, and an edge of one pixel needs two of them.
     if (soft.outer * scale < 512)

@@ -33,7 +33,8 @@ public:
 /// are 0. If all are 0, the whole width is free.
 std::vector<double> ribbonWidths(const std::vector<std::int64_t>& bytes, std::int64_t freeBytes, double width);
 
-/// The bar of a storage ribbon: sections side by side, with rounded outer corners. Used by StorageRibbon.
+/// The bar of a storage ribbon: sections side by side in reading order, with rounded outer corners. Used by
+/// StorageRibbon.
 class RibbonPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
@@ -48,6 +49,7 @@ public:
 
 protected:
     void draw(QPainter& painter) override;
+    bool isDirected() const override { return true; }
 
 private:
     QList<zelk::RibbonSegment> segments_;

@@ -12,8 +12,8 @@ namespace zelk {
 /// The filled fraction of the ring for a value: clamped to 0...1, with a minimum that shows as a dot. NaN counts as 0.
 double ringFraction(double value);
 
-/// The ring of a gauge: a track and an arc that runs clockwise from twelve o'clock and springs to each new value. Used
-/// by RingGauge.
+/// The ring of a gauge: a track and an arc that runs clockwise from twelve o'clock and springs to each new value. It is
+/// a bent bar and no clock, so it runs the other way round where reading begins at the right. Used by RingGauge.
 class RingPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
@@ -40,6 +40,7 @@ signals:
 
 protected:
     void draw(QPainter& painter) override;
+    bool isDirected() const override { return true; }
 
 private:
     void show(double fraction);

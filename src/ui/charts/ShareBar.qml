@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A determinate progress bar: a track, filled from the left. Any positive share is visible at least as a dot. Animates
+// A determinate progress bar: a track, filled from where reading begins. Any positive share is visible at least as a dot. Animates
 // to each new value, or jumps with reduced motion.
 pragma ComponentBehavior: Bound
 
@@ -31,6 +31,7 @@ Rectangle {
     }
 
     Rectangle {
+        anchors.left: parent.left
         width: Math.min(Math.max(bar.share * bar.width, bar.height), bar.width)
         height: bar.height
         radius: bar.radius

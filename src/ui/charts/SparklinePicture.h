@@ -19,7 +19,8 @@ std::vector<QPointF> sparklinePoints(const std::vector<double>& values, QSizeF f
 /// The polygon between the curve and the bottom of a frame of this height.
 std::vector<QPointF> sparklineArea(const std::vector<QPointF>& points, double height);
 
-/// Paints a sparkline and, below it, an area that fades out towards the bottom. Used by Sparkline.
+/// Paints a sparkline and, below it, an area that fades out towards the bottom. Time runs as the text beside it does:
+/// the latest value is at the right, or at the left where reading begins at the right. Used by Sparkline.
 class SparklinePicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
@@ -31,6 +32,7 @@ public:
 
 protected:
     void draw(QPainter& painter) override;
+    bool isDirected() const override { return true; }
 
 private:
     QList<qreal> values_;

@@ -39,6 +39,7 @@ BaseButton {
         Tile {
             id: tile
 
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             symbol: row.symbol
             tint: row.tint

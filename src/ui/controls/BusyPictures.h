@@ -21,7 +21,7 @@ struct ProgressSliver {
 ProgressSliver progressSliver(double seconds, double trackWidth);
 
 /// Paints a frame of the progress bar: the track, and on it the part that is done, from 0 to 1, or if that is negative
-/// the part of the moving segment within the track. Used by ModuleProgressBar.
+/// the part of the moving segment within the track. Both begin where reading begins. Used by ModuleProgressBar.
 class ProgressPicture : public zelk::Drawn {
     Q_OBJECT
     QML_ELEMENT
@@ -35,6 +35,7 @@ public:
 
 protected:
     void draw(QPainter& painter) override;
+    bool isDirected() const override { return true; }
 
 private:
     double seconds_ = 0;

@@ -34,7 +34,9 @@ BaseButton {
     verticalPadding: [8, 15, 6, 8, 4, 10][button.kind]
     scale: button.down ? [1, 0.98, 1, 0.97, 1, 0.98][button.kind] : 1
 
-    rightPadding: button.kind === Button.Pill ? 16 : button.horizontalPadding
+    // Of a capsule, the end of the text is further from the edge than the symbol.
+    leftPadding: button.kind === Button.Pill && ReadingDirection.mirrored ? 16 : button.horizontalPadding
+    rightPadding: button.kind === Button.Pill && !ReadingDirection.mirrored ? 16 : button.horizontalPadding
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(button.lowest, implicitContentHeight + topPadding + bottomPadding)
     opacity: button.enabled ? (button.kind === Button.Link && button.down ? 0.7 : 1) : button.kind === Button.Removal ? 1 : 0.45

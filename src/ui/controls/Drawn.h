@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QQuickPaintedItem>
 
+#include "ui/theme/ReadingDirection.h"
+
 namespace zelk {
 
 /// Base of items that paint themselves with antialiasing at their own size. Repaints on `changed`. Subclasses spell the
@@ -22,6 +24,10 @@ public:
     void paint(QPainter* painter) final {
         painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         painter->setPen(Qt::NoPen);
+        if (isDirected() && readsFromRight()) {
+            painter->translate(width(), 0);
+            painter->scale(-1, 1);
+        }
         draw(*painter);
     }
 
@@ -30,6 +36,9 @@ signals:
 
 protected:
     virtual void draw(QPainter& painter) = 0;
+    /// Whether the picture begins at a side: it is drawn as if read from left to right, and mirrored where that is not
+    /// so. Such a picture has no texts.
+    virtual bool isDirected() const { return false; }
 };
 
 }  // namespace zelk

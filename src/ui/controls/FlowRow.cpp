@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/controls/FlowRow.h"
 
+#include <QGuiApplication>
 #include <algorithm>
+
+#include "ui/theme/ReadingDirection.h"
 
 namespace zelk {
 
@@ -48,6 +51,7 @@ double flowIdealWidth(const std::vector<QSizeF>& sizes, double spacing) {
 
 FlowRow::FlowRow(QQuickItem* parent) : QQuickItem(parent) {
     connect(this, &FlowRow::spacingChanged, this, &FlowRow::measure);
+    if (qGuiApp != nullptr) connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &FlowRow::polish);
 }
 
 std::vector<QQuickItem*> FlowRow::placedChildren() const {
@@ -93,7 +97,11 @@ void FlowRow::componentComplete() {
 void FlowRow::updatePolish() {
     const std::vector<QQuickItem*> placed = placedChildren();
     const FlowPlacement placement = flowLayout(sizesOf(placed), spacing_, width());
-    for (std::size_t i = 0; i < placed.size(); ++i) placed[i]->setPosition(placement.positions[i]);
+    for (std::size_t i = 0; i < placed.size(); ++i) {
+        QPointF place = placement.positions[i];
+        if (readsFromRight()) place.setX(width() - place.x() - placed[i]->width());
+        placed[i]->setPosition(place);
+    }
 }
 
 }  // namespace zelk

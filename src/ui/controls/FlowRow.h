@@ -24,8 +24,8 @@ FlowPlacement flowLayout(const std::vector<QSizeF>& sizes, double spacing, doubl
 /// The width of all items in one row.
 double flowIdealWidth(const std::vector<QSizeF>& sizes, double spacing);
 
-/// A row of its visible children that wraps. The implicit width is that of one row; the implicit height follows from
-/// the width. Skips children without a size, such as a Repeater.
+/// A row of its visible children that wraps, in reading order. The implicit width is that of one row; the implicit
+/// height follows from the width. Skips children without a size, such as a Repeater.
 class FlowRow : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

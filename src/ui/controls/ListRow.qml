@@ -2,6 +2,7 @@
 // The base of a RowList delegate, as wide as the list. The list sets `ringed` while it has visible focus. A click emits
 // `pressed`.
 import QtQuick
+import Zelk.Controls
 
 Item {
     id: row
@@ -16,6 +17,8 @@ Item {
     signal pressed
 
     width: ListView.view?.width ?? 0
+    // One that is narrower than the list stands where reading begins. (A list view places its rows only downwards.)
+    x: ReadingDirection.mirrored ? (ListView.view?.width ?? 0) - width : 0
 
     // The list has the active focus; screen readers are told that the current row has it.
     Accessible.focusable: true

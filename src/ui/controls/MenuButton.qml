@@ -22,7 +22,7 @@ BaseButton {
     Accessible.name: AccessibleText.joined([button.said, button.text])
     Accessible.description: qsTr("opens a menu")
 
-    onClicked: panel.visible ? panel.close() : panel.popup(button, 0, button.height + 4)
+    onClicked: panel.visible ? panel.close() : panel.popup(button, ReadingDirection.mirrored ? button.width - panel.width : 0, button.height + 4)
     Keys.onDownPressed: button.clicked()
 
     background: HoverOverlay {

@@ -43,6 +43,7 @@ T.MenuItem {
         implicitHeight: children[0].implicitHeight
 
         Row {
+            anchors.left: parent.left
             spacing: 8
 
             SymbolItem {

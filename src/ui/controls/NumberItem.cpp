@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "ui/theme/DisplayText.h"
+#include "ui/theme/ReadingDirection.h"
 #include "ui/theme/TextScale.h"
 
 namespace zelk {
@@ -25,26 +26,79 @@ std::int64_t nearestInteger(double value) {
     return std::llround(value);
 }
 
+/// A part of a text from right to left: isolated by marks, which are left out, or what is between such.
+struct TextPart {
+    QString text;
+    bool isIsolated;
+};
+
+std::vector<TextPart> partsOf(const QString& text) {
+    std::vector<TextPart> parts;
+    int depth = 0;
+    for (const QChar character : text) {
+        const QChar::Direction kind = character.direction();
+        if (kind == QChar::DirLRI || kind == QChar::DirRLI || kind == QChar::DirFSI) {
+            ++depth;
+        } else if (kind == QChar::DirPDI) {
+            depth = std::max(depth - 1, 0);
+        } else {
+            const bool isIsolated = depth > 0;
+            if (parts.empty() || parts.back().isIsolated != isIsolated) parts.push_back({{}, isIsolated});
+            parts.back().text += character;
+        }
+    }
+    return parts;
+}
+
+/// Appends pieces to the right of those that there are.
+class FigureLine {
+public:
+    explicit FigureLine(const QFont& font) : metrics_(font) {
+        for (char16_t digit = u'0'; digit <= u'9'; ++digit) cell_ += metrics_.horizontalAdvance(QChar(digit)) / 10;
+    }
+
+    void addFigure(const QString& text) {
+        for (qsizetype at = 0; at < text.size();) {
+            qsizetype end = at + 1;
+            const bool digit = text.at(at).isDigit();
+            while (!digit && end < text.size() && !text.at(end).isDigit()) ++end;
+            const QString piece = text.mid(at, end - at);
+            add(piece, digit ? cell_ : metrics_.horizontalAdvance(piece), false);
+            at = end;
+        }
+    }
+    void addWords(const QString& text) { add(text, metrics_.horizontalAdvance(text), true); }
+
+    std::vector<FigurePiece> pieces;
+
+private:
+    void add(const QString& piece, double width, bool fromRight) {
+        pieces.push_back({piece, end_, width, fromRight});
+        end_ += width;
+    }
+
+    const QFontMetricsF metrics_;
+    double cell_ = 0;
+    double end_ = 0;
+};
+
 }  // namespace
 
 std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font) {
-    const QFontMetricsF metrics(font);
-    double cell = 0;
-    for (char16_t digit = u'0'; digit <= u'9'; ++digit) cell += metrics.horizontalAdvance(QChar(digit)) / 10;
-
-    std::vector<FigurePiece> pieces;
-    double x = 0;
-    for (qsizetype at = 0; at < text.size();) {
-        qsizetype end = at + 1;
-        const bool digit = text.at(at).isDigit();
-        while (!digit && end < text.size() && !text.at(end).isDigit()) ++end;
-        const QString piece = text.mid(at, end - at);
-        const double width = digit ? cell : metrics.horizontalAdvance(piece);
-        pieces.push_back({piece, x, width});
-        x += width;
-        at = end;
+    FigureLine line(font);
+    if (!readsFromRight()) {
+        line.addFigure(text);
+        return line.pieces;
     }
-    return pieces;
+    std::vector<TextPart> parts = partsOf(text);
+    std::ranges::reverse(parts);
+    for (const TextPart& part : parts) {
+        if (part.isIsolated && !part.text.isRightToLeft())
+            line.addFigure(part.text);
+        else
+            line.addWords(part.text);
+    }
+    return line.pieces;
 }
 
 NumberItem::NumberItem(QQuickItem* parent) : QQuickPaintedItem(parent), run_(this) {
@@ -69,7 +123,7 @@ QString NumberItem::write(double value, Format format, const QLocale& locale) {
         case Count:
             return groupedFigure(number, locale);
         case Percent:
-            return groupedFigure(number, locale) + QLatin1Char('%');
+            return percentFigure(number, locale);
     }
     return {};
 }
@@ -169,6 +223,7 @@ void NumberItem::paint(QPainter* painter) {
     const QFontMetricsF metrics(font());
     for (const FigurePiece& piece : pieces_) {
         const double inset = (piece.width - metrics.horizontalAdvance(piece.text)) / 2;
+        if (readsFromRight()) painter->setLayoutDirection(piece.fromRight ? Qt::RightToLeft : Qt::LeftToRight);
         painter->drawText(QPointF(piece.x + inset, metrics.ascent()), piece.text);
     }
 }

@@ -23,12 +23,15 @@ struct FigurePiece {
     QString text;  ///< one digit, or a run of anything else
     double x;
     double width;
+    bool fromRight = false;  ///< words around a number in a text from right to left, and their figures
 
     bool operator==(const FigurePiece&) const = default;
 };
 
 /// Splits a text into pieces in which every digit has the same width, the mean of all ten, so that an animated number
-/// does not jitter. (Fonts offer tabular figures as a feature, which Qt before 6.7 cannot switch on.)
+/// does not jitter. (Fonts offer tabular figures as a feature, which Qt before 6.7 cannot switch on.) Where the
+/// application reads from right to left, the parts of the text follow each other from the right, and only isolated ones
+/// (see DisplayText.h) are split into digits. The pieces are in the order from left to right in any case.
 std::vector<FigurePiece> layOutFigure(const QString& text, const QFont& font);
 
 /// Paints a number in a line of text; its implicit size is that of the text. Animates to a new value from the number on

@@ -13,8 +13,8 @@ RadioButton {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(32, implicitContentHeight + topPadding + bottomPadding)
-    leftPadding: 14
-    rightPadding: 16
+    leftPadding: ReadingDirection.mirrored ? 16 : 14
+    rightPadding: ReadingDirection.mirrored ? 14 : 16
     verticalPadding: 6
 
     opacity: pill.enabled ? 1 : 0.45

@@ -16,6 +16,9 @@ T.TextField {
 
     readonly property real corner: 8
     readonly property real symbolSide: Math.round(field.points * TextScale.factor)
+    // For the symbol before the text, and for the button after it.
+    readonly property real startRoom: 10 + field.symbolSide + 6
+    readonly property real endRoom: 10 + cleaner.width
 
     // The face of every text that names no other.
     FontMetrics {
@@ -37,11 +40,13 @@ T.TextField {
 
     implicitWidth: Math.round(220 * TextScale.factor)
     implicitHeight: Math.ceil(contentHeight) + topPadding + bottomPadding
-    leftPadding: 10 + field.symbolSide + 6
-    rightPadding: 10 + cleaner.width
+    leftPadding: ReadingDirection.mirrored ? field.endRoom : field.startRoom
+    rightPadding: ReadingDirection.mirrored ? field.startRoom : field.endRoom
     topPadding: 8
     bottomPadding: 8
     verticalAlignment: TextInput.AlignVCenter
+    // Set explicitly, as in a label: what is typed stays beside the symbol, whatever its own direction.
+    horizontalAlignment: TextInput.AlignLeft
     hoverEnabled: true
     selectByMouse: true
     // A name is typed, not a sentence.
@@ -77,7 +82,8 @@ T.TextField {
         }
 
         SymbolItem {
-            x: 10
+            anchors.left: parent.left
+            anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             name: "magnifyingglass"
             color: Theme.inkSoft
@@ -85,7 +91,8 @@ T.TextField {
         }
 
         Label {
-            x: field.leftPadding
+            anchors.left: parent.left
+            anchors.leftMargin: field.startRoom
             anchors.verticalCenter: parent.verticalCenter
             width: Math.max(0, field.width - field.leftPadding - field.rightPadding)
             visible: field.text === "" && field.preeditText === ""

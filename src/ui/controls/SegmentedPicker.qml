@@ -54,7 +54,8 @@ FocusScope {
             return sum;
         }
 
-        x: picker.inset
+        anchors.left: parent.left
+        anchors.leftMargin: picker.inset
         y: picker.inset
 
         Repeater {
@@ -82,9 +83,9 @@ FocusScope {
                 activeFocusOnTab: segment.reached
                 onClicked: picker.picked(segment.index)
 
-                Keys.onLeftPressed: picker.pick(segment.index - 1)
+                Keys.onLeftPressed: picker.pick(segment.index - ReadingDirection.rightward)
                 Keys.onUpPressed: picker.pick(segment.index - 1)
-                Keys.onRightPressed: picker.pick(segment.index + 1)
+                Keys.onRightPressed: picker.pick(segment.index + ReadingDirection.rightward)
                 Keys.onDownPressed: picker.pick(segment.index + 1)
 
                 background: Rectangle {

@@ -127,6 +127,7 @@ T.Popup {
             Item {
                 id: holder
 
+                anchors.left: parent.left
                 width: page.bodyWidth
                 height: Math.max(page.height, page.body?.implicitHeight ?? 0)
             }

@@ -79,7 +79,8 @@ T.Slider {
             border.color: Theme.hairline
 
             Rectangle {
-                width: slider.visualPosition * parent.width
+                anchors.left: parent.left
+                width: slider.position * parent.width
                 height: parent.height
                 radius: 2
                 color: Theme.accent

@@ -16,6 +16,7 @@ Column {
     spacing: 4
 
     Label {
+        anchors.left: parent.left
         text: block.label
         size: 11
         soft: true
@@ -24,6 +25,7 @@ Column {
     AnimatedNumber {
         id: figure
 
+        anchors.left: parent.left
         value: block.value
         pixelSize: 18
         bold: true

@@ -74,7 +74,7 @@ T.SpinBox {
     }
 
     down.indicator: StepFace {
-        x: stepper.width - stepper.boxWidth
+        x: ReadingDirection.mirrored ? stepper.boxWidth - width : stepper.width - stepper.boxWidth
         y: Math.round((stepper.height - height) / 2)
         width: stepper.buttonSide
         height: stepper.buttonSide
@@ -85,7 +85,7 @@ T.SpinBox {
     }
 
     up.indicator: StepFace {
-        x: stepper.width - width
+        x: ReadingDirection.mirrored ? 0 : stepper.width - width
         y: Math.round((stepper.height - height) / 2)
         width: stepper.buttonSide
         height: stepper.buttonSide
@@ -122,7 +122,7 @@ T.SpinBox {
         onNumberWidthChanged: stepper.numberWidth = numberWidth
     }
 
-    // The label at the left, and the value centred in its box at the right.
+    // The label, and after it the value centred in its box.
     component Face: Item {
         id: face
 
@@ -139,6 +139,7 @@ T.SpinBox {
         Label {
             id: nameLabel
 
+            anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, Math.max(0, face.width - face.boxWidth - 12))
             text: face.label
@@ -151,7 +152,8 @@ T.SpinBox {
         Label {
             id: numberLabel
 
-            x: face.width - face.boxWidth / 2 - width / 2
+            anchors.right: parent.right
+            anchors.rightMargin: (face.boxWidth - width) / 2
             anchors.verticalCenter: parent.verticalCenter
             text: face.number
             size: face.size

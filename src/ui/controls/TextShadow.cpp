@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "ui/controls/SoftShadow.h"
+#include "ui/theme/ReadingDirection.h"
 
 namespace zelk {
 
@@ -27,6 +28,8 @@ QImage textShadow(const QString& text, const QFont& font, double scale) {
         painter.scale(scale, scale);
         painter.setFont(font);
         painter.setPen(Qt::black);
+        // As in a Text item, whose direction is that of its text and not the application's.
+        if (readsFromRight()) painter.setLayoutDirection(Qt::LayoutDirectionAuto);
         painter.drawText(QPointF(textShadowReach, textShadowReach + metrics.ascent()), text);
     }
     QImage mask = glyphs.convertToFormat(QImage::Format_Alpha8);

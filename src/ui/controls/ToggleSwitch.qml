@@ -49,7 +49,7 @@ T.Switch {
     }
 
     indicator: Rectangle {
-        x: toggle.width - width - toggle.rightPadding
+        x: ReadingDirection.mirrored ? toggle.leftPadding : toggle.width - width - toggle.rightPadding
         y: Math.round((toggle.height - height) / 2)
         implicitWidth: 34
         implicitHeight: 20
@@ -70,7 +70,7 @@ T.Switch {
         Rectangle {
             readonly property real inset: 3
 
-            x: toggle.checked ? parent.width - width - inset : inset
+            x: toggle.checked !== ReadingDirection.mirrored ? parent.width - width - inset : inset
             anchors.verticalCenter: parent.verticalCenter
             width: 14
             height: 14
@@ -91,7 +91,10 @@ T.Switch {
     }
 
     contentItem: Label {
-        rightPadding: toggle.indicator.width + toggle.spacing
+        readonly property real room: toggle.indicator.width + toggle.spacing
+
+        leftPadding: ReadingDirection.mirrored ? room : 0
+        rightPadding: ReadingDirection.mirrored ? 0 : room
         text: toggle.text
         size: toggle.size
         soft: toggle.soft

@@ -27,7 +27,7 @@ FocusScope {
     // Whether the keyboard used it last.
     property bool byKey: false
     readonly property real buttonRoom: undo.visible ? dot.width + undo.width + 2 * 4 : 0
-    readonly property real textRoom: close.x - texts.x - bar.buttonRoom - 16
+    readonly property real textRoom: bar.width - texts.anchors.leftMargin - bar.buttonRoom - 16 - close.width - close.anchors.rightMargin
 
     onShownChanged: {
         if (bar.shown || !bar.focus)

@@ -15,7 +15,7 @@ QString orDash(const std::optional<QString>& text) {
 
 AboutInfo::AboutInfo(const BundleInfo& bundle, const DeviceInfo& device)
     : name(bundle.name.value_or(QStringLiteral("Zelk"))),
-      version(QStringLiteral("%1 (%2)").arg(orDash(bundle.version), orDash(bundle.build))),
+      version(isolated(QStringLiteral("%1 (%2)").arg(orDash(bundle.version), orDash(bundle.build)))),
       system(displayText(device.osVersion)),
       chip(displayText(device.chip)) {}
 

@@ -19,8 +19,14 @@ void qml_register_types_Zelk_App();
 
 namespace zelk {
 
+QString applicationId() {
+    return QStringLiteral("io.github.zelk.Zelk");
+}
+
 void dressApplication() {
     QGuiApplication::setApplicationName(QStringLiteral("Zelk"));
+    // The desktop finds the icon of the window in the entry of this name; on Wayland there is no other way.
+    QGuiApplication::setDesktopFileName(applicationId());
 #ifndef Q_OS_MACOS
     QFont font(QStringLiteral("Inter"));
     font.setHintingPreference(QFont::PreferNoHinting);  // hinting would distort the even spacing

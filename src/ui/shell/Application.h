@@ -2,11 +2,15 @@
 #pragma once
 
 #include <QIcon>
+#include <QString>
 
 namespace zelk {
 
-/// Sets the application's name and its default font, which all texts inherit. Call once, after creating the
-/// QApplication.
+/// What desktops know the application by: its name on the bus and that of its desktop entry.
+QString applicationId();
+
+/// Sets the application's name, that of its desktop entry and its default font, which all texts inherit. Call once,
+/// after creating the QApplication.
 void dressApplication();
 
 /// The application's icon: a drive on the accent gradient.

@@ -31,6 +31,7 @@ SecondaryWindow {
     Rectangle {
         id: sidePanel
 
+        anchors.left: parent.left
         width: Math.round(Math.min(window.width * 0.45, 232 * TextScale.factor))
         height: parent.height
         color: Theme.groundHi
@@ -129,12 +130,14 @@ SecondaryWindow {
         Column {
             id: article
 
-            x: 32
+            anchors.left: parent.left
+            anchors.leftMargin: 32
             y: 32
             width: Math.min(page.width - 2 * 32, 560 * TextScale.factor)
             spacing: 12
 
             Tile {
+                anchors.left: parent.left
                 symbol: window.help.topic.symbol
                 tint: window.help.topic.tint
                 side: 40
@@ -229,6 +232,7 @@ SecondaryWindow {
             SymbolItem {
                 id: symbolItem
 
+                anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
                 name: row.modelData.symbol
                 color: row.modelData.tint

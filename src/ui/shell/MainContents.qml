@@ -65,6 +65,7 @@ FocusScope {
         Sidebar {
             id: sidePanel
 
+            anchors.left: parent.left
             height: parent.height
             sidebar: contents.sidebar
             onEntered: contents.enterScreen(Qt.MouseFocusReason)

@@ -68,11 +68,18 @@ bool isCovered(const QQuickWindow& window) {
     return false;
 }
 
+/// Shows, restores and raises the window. Unlike QWindow::show(), it leaves a maximized window as it is, also one that
+/// was minimized or closed meanwhile.
+void raiseShown(QWindow& window) {
+    if (const Qt::WindowStates states = window.windowStates(); states.testFlag(Qt::WindowMinimized))
+        window.setWindowStates(Qt::WindowStates(states).setFlag(Qt::WindowMinimized, false));
+    window.setVisible(true);
+    window.raise();
+}
+
 /// Shows, restores, raises and activates the window.
 void bringForward(QWindow& window) {
-    if (window.windowStates() & Qt::WindowMinimized) window.showNormal();
-    window.show();
-    window.raise();
+    raiseShown(window);
     window.requestActivate();
 }
 
@@ -130,8 +137,14 @@ void MainWindow::afterNextFrame(const std::function<void()>& act) {
 }
 
 void MainWindow::show() {
-    window_->show();
+    window_->setVisible(true);
     if (firstRun_ && !std::exchange(begun_, true)) firstRun_->start();
+}
+
+void MainWindow::comeForward(const Activation& by) {
+    show();
+    raiseShown(*window_);
+    activateWindow(*window_, by);
 }
 
 int MainWindow::bringAllForward() {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+#include "ui/shell/Activation.h"
 #include "ui/shell/AppCommands.h"
 #include "ui/shell/DetailPages.h"
 #include "ui/shell/WindowServices.h"
@@ -41,6 +42,8 @@ public:
     /// Sets a callback for start-up work that can wait; called once, after the contents were painted.
     void whenComplete(std::function<void()> act) { whenComplete_ = std::move(act); }
 
+    /// Shows the window as show() does, if need be, and gives it the focus.
+    void comeForward(const Activation& by);
     /// Raises every open window, the main one last. Closed windows stay closed. Returns how many there are.
     int bringAllForward();
     /// Shows the window, or raises it if it is visible. It lives until it is closed.

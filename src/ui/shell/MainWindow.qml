@@ -24,8 +24,11 @@ Window {
     width: 1200
     height: 780
     color: Theme.ground
+    LayoutMirroring.enabled: ReadingDirection.mirrored
+    LayoutMirroring.childrenInherit: true
 
     Rectangle {
+        anchors.left: parent.left
         width: window.sidebar.width
         height: parent.height
         color: Theme.groundHi

@@ -74,6 +74,8 @@ T.MenuBar {
             required property CommandMenu modelData
 
             title: sheet.modelData.title
+            // Below the title, which begins where reading begins.
+            x: ReadingDirection.mirrored ? (parent?.width ?? 0) - width : 0
             width: Math.max(implicitWidth, Math.round(220 * TextScale.factor))
             onAboutToShow: bar.enter()
             onClosed: bar.leave()

@@ -27,6 +27,11 @@ void QuitQuestion::quitUnasked() {
     go(Way::stopping);
 }
 
+bool QuitQuestion::stay() {
+    if (way_ == Way::finishing) go(Way::none);
+    return !stopping();
+}
+
 bool QuitQuestion::endSession(bool mayAsk) {
     if (!holds()) return false;
     mayAsk ? quit() : quitUnasked();

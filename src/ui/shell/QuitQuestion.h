@@ -30,6 +30,9 @@ public:
     void quit();
     /// Quits without asking: starts no further item and quits when those under way have ended.
     void quitUnasked();
+    /// Goes on if it would quit when the removal ends, since the application is wanted again. Returns false if it is
+    /// ending already; a question stays open.
+    bool stay();
     /// Call when the session ends. Returns whether to hold the session up for an answer.
     bool endSession(bool mayAsk);
 

@@ -10,6 +10,8 @@ Window {
 
     color: Theme.ground
     flags: Qt.Dialog
+    LayoutMirroring.enabled: ReadingDirection.mirrored
+    LayoutMirroring.childrenInherit: true
 
     Shortcut {
         sequences: ["Escape", "Ctrl+W"]

@@ -33,6 +33,7 @@ Shell::Shell(AppModel& app, const WindowServices& services)
         QGuiApplication::setWindowIcon(applicationIcon());
 #endif
         statusItem_.start();
+        emit complete();
     });
 }
 
@@ -45,6 +46,12 @@ Shell::~Shell() {
 void Shell::start() {
     main_.show();
     removeServicesMenu();
+}
+
+bool Shell::comeForward(const Activation& by) {
+    if (!main_.quitQuestion().stay()) return false;
+    main_.comeForward(by);
+    return true;
 }
 
 /// Raises the open windows; closed ones stay closed.

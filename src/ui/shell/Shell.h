@@ -5,6 +5,7 @@
 #include <QObject>
 #include <memory>
 
+#include "ui/shell/Activation.h"
 #include "ui/shell/MainWindow.h"
 #include "ui/shell/NativeApplication.h"
 #include "ui/shell/StatusItem.h"
@@ -23,9 +24,16 @@ public:
     ~Shell() override;
 
     void start();
+    /// Brings the main window to the front, even if it was closed or minimized, because it was asked for from outside;
+    /// a pending quit is dropped. Returns false, and does nothing, if the application is ending already.
+    bool comeForward(const Activation& by);
 
     MainWindow& main() { return main_; }
     StatusItem& statusItem() { return statusItem_; }
+
+signals:
+    /// The contents of the main window were painted for the first time. Emitted once.
+    void complete();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

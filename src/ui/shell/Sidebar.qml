@@ -58,11 +58,14 @@ FocusScope {
 
             kind: PaintedLayer.Tile
             color: Theme.accent
-            x: bar.sidebar.collapsed ? 16 : 20
+            property real inset: bar.sidebar.collapsed ? 16 : 20
+
+            anchors.left: parent.left
+            anchors.leftMargin: mark.inset
             y: bar.tight ? 14 : 22
             width: 28
             height: 28
-            Behavior on x {
+            Behavior on inset {
                 GentleChange {}
             }
 
@@ -91,7 +94,8 @@ FocusScope {
             id: collapse
 
             objectName: "collapseButton"
-            x: bar.sidebar.collapsed ? (head.width - width) / 2 : head.width - width - 12
+            anchors.right: parent.right
+            anchors.rightMargin: bar.sidebar.collapsed ? (head.width - width) / 2 : 12
             y: bar.sidebar.collapsed ? mark.y + mark.height + 8 : mark.y + (mark.height - height) / 2
             symbol: "sidebar.left"
             text: bar.sidebar.collapsed ? qsTr("Expand sidebar") : qsTr("Collapse sidebar")
@@ -225,7 +229,8 @@ FocusScope {
                 id: toggle
 
                 objectName: "developerSwitch"
-                x: bar.sidebar.collapsed ? (switchRow.width - width) / 2 : switchRow.width - width - 8
+                anchors.right: parent.right
+                anchors.rightMargin: bar.sidebar.collapsed ? (switchRow.width - width) / 2 : 8
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Developer view")
                 labelled: false

@@ -51,6 +51,7 @@ Column {
             topPadding: place.tight ? 8 : 20
             bottomPadding: place.tight ? 4 : 8
             leftPadding: 12
+            rightPadding: 12
             text: place.heading
             size: 10
             soft: true
@@ -124,7 +125,8 @@ Column {
             height: row.availableHeight
 
             TextSymbol {
-                x: 10
+                anchors.left: parent.left
+                anchors.leftMargin: 10
                 anchors.verticalCenter: parent.verticalCenter
                 name: place.symbol
                 color: place.selected ? place.tint : Theme.inkSoft

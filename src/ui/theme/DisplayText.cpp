@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/ByteFormat.h"
-
 namespace zelk {
 
 namespace {
@@ -33,12 +31,16 @@ QChar visible(QChar character) {
     return character;
 }
 
-}  // namespace
-
-QString displayText(std::string_view bytes) {
+QString visibleText(std::string_view bytes) {
     QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
     for (QChar& character : text) character = visible(character);
     return text;
+}
+
+}  // namespace
+
+QString displayText(std::string_view bytes) {
+    return isolated(visibleText(bytes));
 }
 
 QString printedText(std::string_view output) {
@@ -52,7 +54,7 @@ QString printedText(std::string_view output) {
         const std::size_t end = std::min(output.find_first_of("\r\n"), output.size());
         std::string line(output.substr(0, end));
         std::replace(line.begin(), line.end(), '\t', ' ');
-        text += displayText(line);
+        text += visibleText(line);
         if (end == output.size()) break;
         text += u'\n';
         output.remove_prefix(end + (output.substr(end, 2) == "\r\n" ? 2 : 1));
@@ -70,22 +72,15 @@ QString folderText(std::string_view path) {
     return displayText(path.substr(0, slash == 0 ? 1 : slash == std::string_view::npos ? 0 : slash));
 }
 
-QString byteFigure(std::int64_t bytes, const QLocale& locale) {
-    return QString::fromStdString(byteText(bytes, locale.decimalPoint().toStdString()));
-}
-
-QString groupedFigure(std::int64_t count, const QLocale& locale) {
-    return locale.toString(static_cast<qlonglong>(count));
-}
-
-QString shortenedPath(const QString& path) {
-    if (path.size() < wholePathLimit) return path;  // a character has at least one code unit
+QString shortenedPath(const QString& displayed) {
+    const QString path = withoutIsolation(displayed);
+    if (path.size() < wholePathLimit) return displayed;  // a character has at least one code unit
 
     QList<qsizetype> starts;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, path);
     for (qsizetype at = 0; at >= 0 && at < path.size(); at = finder.toNextBoundary()) starts.append(at);
-    if (starts.size() < wholePathLimit) return path;
-    return QStringLiteral("…") + path.mid(starts.at(starts.size() - keptOfLongPath));
+    if (starts.size() < wholePathLimit) return displayed;
+    return isolated(QStringLiteral("…") + path.mid(starts.at(starts.size() - keptOfLongPath)));
 }
 
 }  // namespace zelk

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Converts what system calls take into text for people. Display text never goes back to the system.
+// Converts what system calls take into text for people. Display text never goes back to the system. All but printed
+// text is isolated.
 #pragma once
 
-#include <QLocale>
 #include <QString>
-#include <cstdint>
 #include <string_view>
 
-#include "state/UserLocale.h"
+#include "state/Figures.h"
+#include "state/Isolation.h"
 
 namespace zelk {
 
@@ -22,18 +22,12 @@ QString nameText(std::string_view path);
 QString folderText(std::string_view path);
 
 /// What a tool printed: CR, LF or both are a line break, also at the end, a tab is a space, and the rest is display
-/// text. What follows the first 20,000 bytes is left out, with "…" as the last line: laying out more holds up the
-/// window.
+/// text. It is one from left to right. What follows the first 20,000 bytes is left out, with "…" as the last line:
+/// laying out more holds up the window.
 QString printedText(std::string_view output);
-
-/// Formats bytes with the decimal separator of `locale`. A negative count is shown as 0.
-QString byteFigure(std::int64_t bytes, const QLocale& locale = userLocale());
-
-/// Formats the count with the digit grouping of `locale`.
-QString groupedFigure(std::int64_t count, const QLocale& locale = userLocale());
 
 /// Shortens a path for a single line: below 57 characters unchanged, else "…" and the last 55. Counts grapheme
 /// clusters, so that no accent or emoji is cut in two.
-QString shortenedPath(const QString& path);
+QString shortenedPath(const QString& displayed);
 
 }  // namespace zelk

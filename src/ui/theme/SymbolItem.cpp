@@ -7,7 +7,11 @@
 #include <QMutex>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <algorithm>
+#include <array>
 #include <cmath>
+
+#include "ui/theme/ReadingDirection.h"
 
 namespace zelk {
 
@@ -26,6 +30,10 @@ struct Tinting {
 size_t qHash(const Tinting& tinting, size_t seed = 0) {
     return qHashMulti(seed, tinting.name, tinting.color, tinting.pixels, tinting.weight);
 }
+
+constexpr std::array directedSymbols{
+    "arrow.down.right", "arrow.right.circle.fill", "arrow.up.right", "chevron.left", "chevron.right",
+    "doc.text",         "heart.text.square",       "list.star",      "sidebar.left"};
 
 /// Caches recent images, so that a list with the same symbol in every row reads its file once.
 class DrawnSymbols {
@@ -81,6 +89,10 @@ QImage tintedSymbol(const QString& name, const QColor& color, int pixels, int we
     return drawn.take({name, color.rgba(), pixels, weight}, drawTinted);
 }
 
+bool isDirectedSymbol(const QString& name) {
+    return std::ranges::any_of(directedSymbols, [&](const char* directed) { return name == QLatin1String(directed); });
+}
+
 SymbolItem::SymbolItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
     connect(this, &SymbolItem::changed, this, [this] {
         setImplicitSize(size_, size_);
@@ -91,7 +103,9 @@ SymbolItem::SymbolItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
 void SymbolItem::paint(QPainter* painter) {
     const qreal scale = painter->deviceTransform().m11();
     const int pixels = static_cast<int>(std::lround(boundingRect().width() * scale));
-    painter->drawImage(boundingRect(), tintedSymbol(name_, color_, pixels, weight_));
+    const QImage image = tintedSymbol(name_, color_, pixels, weight_);
+    const bool turned = readsFromRight() && isDirectedSymbol(name_);
+    painter->drawImage(boundingRect(), turned ? image.mirrored(true, false) : image);
 }
 
 }  // namespace zelk

@@ -17,6 +17,10 @@ QString symbolFile(const QString& name);
 /// width matches text of `weight`; filled symbols have no lines. Recent images are cached. Safe from any thread.
 QImage tintedSymbol(const QString& name, const QColor& color, int pixels, int weight = QFont::Normal);
 
+/// Whether the symbol points along the reading direction or pictures a page of text, and so is mirrored where that
+/// begins at the right. Clocks, turning arrows, tools, logos and a terminal's prompt look the same everywhere.
+bool isDirectedSymbol(const QString& name);
+
 /// A square symbol. Tinted on the CPU rather than by a shader, so that it looks the same with every renderer. Hidden
 /// from screen readers: the control around it has the name.
 class SymbolItem : public QQuickPaintedItem {

@@ -12,6 +12,7 @@ namespace {
 struct Wordings {
     const char* macOS;
     const char* desktopLinux;
+    const char* flatpak = nullptr;  ///< in its sandbox, where that differs
 };
 
 // One row per key, in the same order.
@@ -75,9 +76,11 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
     // CheckComputer
     {QT_TRANSLATE_NOOP("SystemTexts", "Check this Mac"), QT_TRANSLATE_NOOP("SystemTexts", "Check this computer")},
     // FreeMemoryNote
-    {"", QT_TRANSLATE_NOOP("SystemTexts",
-                           "Drops the caches of files. They count as free already, so the figure “used” will hardly "
-                           "move, and files are read from the disk again for a while.")},
+    {"",
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Drops the caches of files. They count as free already, so the figure “used” will hardly "
+                       "move, and files are read from the disk again for a while."),
+     QT_TRANSLATE_NOOP("SystemTexts", "Only an administrator can, and nothing in Flatpak’s sandbox can ask for one.")},
     // SimulatorNote
     {QT_TRANSLATE_NOOP("SystemTexts", "Removes simulator runtimes macOS no longer lists."),
      QT_TRANSLATE_NOOP("SystemTexts", "Removes simulator runtimes that nothing lists any more.")},
@@ -115,7 +118,11 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
                        "Memory and DNS actions ask for administrator permission — Zelk never runs them silently."),
      QT_TRANSLATE_NOOP("SystemTexts",
                        "See memory pressure, free up RAM, flush the DNS cache, and remove autostart entries. Freeing "
-                       "memory asks for administrator permission — Zelk never runs it silently.")},
+                       "memory asks for administrator permission — Zelk never runs it silently."),
+     QT_TRANSLATE_NOOP(
+         "SystemTexts",
+         "See memory pressure and remove autostart entries. Freeing memory and flushing the DNS cache take "
+         "tools that Flatpak's sandbox does not have.")},
     // HelpHealth
     {QT_TRANSLATE_NOOP("SystemTexts", "Live vitals for your Mac."),
      QT_TRANSLATE_NOOP("SystemTexts", "Live vitals for your computer.")},
@@ -125,14 +132,21 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
                        "only whether each is freeable — so Zelk shows the purgeable total and each snapshot's state."),
      QT_TRANSLATE_NOOP("SystemTexts",
                        "Surfaces purgeable space and local snapshots, where your file system keeps any. A snapshot's "
-                       "own size is not always known — so Zelk shows the purgeable total and each snapshot's state.")},
+                       "own size is not always known — so Zelk shows the purgeable total and each snapshot's state."),
+     QT_TRANSLATE_NOOP(
+         "SystemTexts",
+         "Surfaces purgeable space. Snapshots cannot be seen from Flatpak's sandbox, which has none of the "
+         "tools that list them.")},
     // HelpThinning
     {QT_TRANSLATE_NOOP("SystemTexts",
                        "Thinning lets macOS choose what to free; deletion is offered only for freeable snapshots, "
                        "behind an administrator prompt."),
      QT_TRANSLATE_NOOP("SystemTexts",
                        "Thinning lets the system choose what to free; deletion is offered only for freeable snapshots, "
-                       "and always asks first.")},
+                       "and always asks first."),
+     QT_TRANSLATE_NOOP("SystemTexts",
+                       "Thinning and deleting snapshots take those tools too: do it outside, or in a Zelk that is "
+                       "installed as a package.")},
     // HelpPrivacy
     {QT_TRANSLATE_NOOP("SystemTexts", "Zelk works entirely on your Mac."),
      QT_TRANSLATE_NOOP("SystemTexts", "Zelk works entirely on your computer.")},
@@ -142,14 +156,22 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
                        "to the Trash, and admin actions always go through the standard macOS authorization prompt."),
      QT_TRANSLATE_NOOP("SystemTexts",
                        "Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default "
-                       "to the Trash, and admin actions always go through your desktop's authorization prompt.")},
+                       "to the Trash, and admin actions always go through your desktop's authorization prompt."),
+     QT_TRANSLATE_NOOP(
+         "SystemTexts",
+         "Nothing is uploaded anywhere — all scanning and cleaning is local. Destructive actions default "
+         "to the Trash, and nothing is ever done as an administrator: no prompt reaches Flatpak's sandbox.")},
     // HelpSandbox
     {QT_TRANSLATE_NOOP("SystemTexts",
                        "Zelk is non-sandboxed so it can survey the whole drive; that's why it's distributed directly "
                        "(Developer ID + notarization), not via the App Store."),
      QT_TRANSLATE_NOOP("SystemTexts",
                        "Zelk is non-sandboxed so it can survey the whole drive; that's why it's distributed as a "
-                       "package, not as a sandboxed bundle.")},
+                       "package, not as a sandboxed bundle."),
+     QT_TRANSLATE_NOOP(
+         "SystemTexts",
+         "This Zelk runs in Flatpak's sandbox, with your files opened to it so it can survey them. Tools and "
+         "packages of the system stay outside: for those, install Zelk as a package.")},
     // ImageOfMachine
     {QT_TRANSLATE_NOOP("SystemTexts", "VM disk. Shut the VM down and compact it from your VM tool (UTM/QEMU)."),
      QT_TRANSLATE_NOOP("SystemTexts",
@@ -189,7 +211,10 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
     {"",
      QT_TRANSLATE_NOOP(
          "SystemTexts",
-         "Snapper keeps snapshots here, but did not show them. It answers those users whom its configuration allows.")},
+         "Snapper keeps snapshots here, but did not show them. It answers those users whom its configuration allows."),
+     QT_TRANSLATE_NOOP(
+         "SystemTexts",
+         "Whether there are snapshots is not known: Flatpak’s sandbox has none of the tools that list them.")},
     // PreferThinning
     {QT_TRANSLATE_NOOP("SystemTexts", "Prefer thinning — let macOS choose what to free."),
      QT_TRANSLATE_NOOP("SystemTexts", "Prefer thinning — let snapper choose what to free.")},
@@ -207,7 +232,11 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
     {QT_TRANSLATE_NOOP("SystemTexts", "There is no application in the folder Applications."),
      QT_TRANSLATE_NOOP("SystemTexts",
                        "There is none of flatpak, snap or the distribution, and no AppImage or unpacked application in "
-                       "your home folder.")},
+                       "your home folder."),
+     QT_TRANSLATE_NOOP(
+         "SystemTexts",
+         "There is no AppImage or unpacked application in your home folder. Those of flatpak, snap and the "
+         "distribution can’t be seen from Flatpak’s sandbox.")},
 }};
 
 #ifdef Q_OS_MACOS
@@ -226,12 +255,13 @@ QString SystemTexts::of(Key key) {
 QString SystemTexts::worded(std::string_view text) {
     for (int key = 0; key < keyCount; ++key)
         if (text == wording(static_cast<Key>(key), System::macOS)) return of(static_cast<Key>(key));
-    return QCoreApplication::translate("ReclaimCatalogue", std::string(text).c_str());
+    return QCoreApplication::translate("Reclaim", std::string(text).c_str());
 }
 
 const char* SystemTexts::wording(Key key, System system) {
     const Wordings& row = table[static_cast<std::size_t>(key)];
-    return system == System::macOS ? row.macOS : row.desktopLinux;
+    if (system == System::macOS) return row.macOS;
+    return system == System::flatpak && row.flatpak != nullptr ? row.flatpak : row.desktopLinux;
 }
 
 SystemTexts::System SystemTexts::shown() {

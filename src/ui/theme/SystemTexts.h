@@ -8,7 +8,8 @@
 
 namespace zelk {
 
-/// Texts that name the operating system, a part of it or a key: one table with a wording for macOS and one for Linux.
+/// Texts that name the operating system, a part of it or a key: one table with a wording for macOS and one for Linux,
+/// which may have another in a sandbox of Flatpak, from where less can be seen and done.
 /// Views use the singleton, models the static functions. Main thread.
 class SystemTexts : public QObject {
     Q_OBJECT
@@ -65,7 +66,7 @@ public:
     };
     Q_ENUM(Key)
 
-    enum class System { macOS, desktopLinux };
+    enum class System { macOS, desktopLinux, flatpak };
 
     using QObject::QObject;
 
@@ -78,7 +79,7 @@ public:
     /// A cell of the table, UTF-8, untranslated.
     static const char* wording(Key key, System system);
 
-    /// The system in use: the one built for, unless a test calls show(). Texts that were read before do not change.
+    /// The system in use: the one built for, until somebody calls show(). Texts that were read before do not change.
     static System shown();
     static void show(System system);
 };

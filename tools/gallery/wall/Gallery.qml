@@ -12,6 +12,8 @@ Rectangle {
     implicitWidth: Math.round(1180 * TextScale.factor)
     implicitHeight: column.height + 48
     color: Theme.ground
+    LayoutMirroring.enabled: ReadingDirection.mirrored
+    LayoutMirroring.childrenInherit: true
 
     GalleryModel {
         id: samples

@@ -16,6 +16,7 @@ Card {
         spacing: 20
 
         Eyebrow {
+            anchors.left: parent.left
             text: section.title
         }
         Column {

@@ -31,7 +31,7 @@ Item {
         const state = row.shown[index];
         item.objectName = row.name === "" ? "" : state;
         item.enabled = state !== "disabled";
-        item.x = Qt.binding(() => index * row.share);
+        item.x = Qt.binding(() => ReadingDirection.mirrored ? specimens.width - index * row.share - item.width : index * row.share);
         if (row.filling || state === "long text")
             item.width = Qt.binding(() => row.share - 16);
         if (row.longText !== "" && state === "long text")
@@ -41,6 +41,7 @@ Item {
     Label {
         id: label
 
+        anchors.left: parent.left
         width: row.nameWidth - 12
         text: row.name
         size: 11
@@ -51,8 +52,9 @@ Item {
     Item {
         id: specimens
 
-        x: row.nameWidth
-        width: row.width - x
+        anchors.left: parent.left
+        anchors.leftMargin: row.nameWidth
+        width: row.width - row.nameWidth
         height: childrenRect.height
 
         Repeater {

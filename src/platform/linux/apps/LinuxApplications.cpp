@@ -160,7 +160,7 @@ ApplicationPlaces ApplicationPlaces::ofEnvironment(const std::string& dataHome) 
     std::vector<std::string> data = foldersFromEnvironment("XDG_DATA_DIRS", usualDataFolders);
     data.insert(data.begin(), dataHome);
     for (const std::string& folder : data) places.entries.push_back(folder + "/applications");
-    places.programs = foldersFromEnvironment("PATH", "/usr/local/bin:/usr/bin:/bin");
+    places.programs = foldersFromEnvironment("PATH", usualProgramFolders);
     places.locales =
         localesOf(environment("LC_ALL", environment("LC_MESSAGES", environment("LANG", "C").c_str()).c_str()));
     return places;

@@ -10,10 +10,27 @@
 
 #include "platform/linux/apps/DetachedProgram.h"
 #include "platform/linux/apps/FileUri.h"
+#include "platform/linux/apps/HostQuestion.h"
 
 namespace zelk {
 
 namespace {
+
+constexpr std::chrono::seconds knownFor{1};
+constexpr std::chrono::seconds unknownFor{60};
+
+LinuxWorkspace::Look lookAtProcesses(const std::string& dataHome) {
+    return [places = ApplicationPlaces::ofEnvironment(dataHome)] {
+        return std::optional(runningApplicationsOf(installedApplications(places), runningProcesses()));
+    };
+}
+
+LinuxWorkspace::Look lookFrom(const Sandbox& sandbox, const std::string& dataHome, ChildProcess& processes) {
+    if (!sandbox.isInside()) return lookAtProcesses(dataHome);
+    return [&processes, locales = ApplicationPlaces::ofEnvironment(dataHome).locales] {
+        return askHost(processes, locales);
+    };
+}
 
 /// Each folder once, in the order of the paths.
 std::vector<std::string> foldersOf(const std::vector<std::string>& paths) {
@@ -42,32 +59,37 @@ QDBusMessage showItems(const std::vector<std::string>& paths) {
 /// The pending calls to the file manager; cancelled with the workspace.
 class LinuxWorkspace::Reveals : public QObject {};
 
-LinuxWorkspace::LinuxWorkspace(const std::string& dataHome, std::string trash)
-    : LinuxWorkspace(dataHome, std::move(trash), startDetached, QDBusConnection::sessionBus) {}
+LinuxWorkspace::LinuxWorkspace(const std::string& dataHome, std::string trash, const Sandbox& sandbox,
+                               ChildProcess& processes)
+    : LinuxWorkspace(dataHome, std::move(trash), startDetached, QDBusConnection::sessionBus,
+                     lookFrom(sandbox, dataHome, processes)) {}
 
-LinuxWorkspace::LinuxWorkspace(const std::string& dataHome, std::string trash, Launcher launcher, Bus bus)
-    : places_(ApplicationPlaces::ofEnvironment(dataHome)),
-      trash_(std::move(trash)),
+LinuxWorkspace::LinuxWorkspace(const std::string& dataHome, std::string trash, Launcher launcher, Bus bus, Look look)
+    : trash_(std::move(trash)),
       launcher_(std::move(launcher)),
-      bus_(std::move(bus)) {}
+      bus_(std::move(bus)),
+      look_(look ? std::move(look) : lookAtProcesses(dataHome)) {}
 
 LinuxWorkspace::~LinuxWorkspace() = default;
 
-const RunningApplications& LinuxWorkspace::running() {
-    const auto now = std::chrono::steady_clock::now();
-    if (!runningSince_ || now - *runningSince_ > std::chrono::seconds(1)) {
-        running_ = runningApplicationsOf(installedApplications(places_), runningProcesses());
-        runningSince_ = now;
+const std::optional<RunningApplications>& LinuxWorkspace::running() {
+    if (!runningSince_ || std::chrono::steady_clock::now() - *runningSince_ > (running_ ? knownFor : unknownFor)) {
+        running_ = look_();
+        runningSince_ = std::chrono::steady_clock::now();
     }
     return running_;
 }
 
 std::vector<std::string> LinuxWorkspace::runningApplications() {
-    return running().names;
+    return running() ? running_->names : std::vector<std::string>();
 }
 
 std::vector<std::string> LinuxWorkspace::runningApplicationIds() {
-    return running().ids;
+    return running() ? running_->ids : std::vector<std::string>();
+}
+
+bool LinuxWorkspace::knowsRunningApplications() {
+    return running().has_value();
 }
 
 void LinuxWorkspace::reveal(const std::vector<std::string>& paths) {

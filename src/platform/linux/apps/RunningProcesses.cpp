@@ -77,16 +77,18 @@ bool isOwn(const std::string& path) {
 
 RunningProcess read(const std::string& folder) {
     RunningProcess process;
-    process.executable = textOfLink(folder + "/exe").value_or("");
-    // The program was replaced by an update.
-    if (std::string_view executable = process.executable; takeSuffix(executable, " (deleted)"))
-        process.executable.resize(executable.size());
+    process.executable = programOfLink(textOfLink(folder + "/exe").value_or(""));
     process.arguments = argumentsOf(readWholeFile(folder + "/cmdline").value_or(""));
     process.applications = applicationsOfControlGroup(readWholeFile(folder + "/cgroup").value_or(""));
     return process;
 }
 
 }  // namespace
+
+std::string programOfLink(std::string_view target) {
+    takeSuffix(target, " (deleted)");
+    return std::string(target);
+}
 
 std::vector<std::string> applicationsOfControlGroup(std::string_view text) {
     std::vector<std::string> found;

@@ -18,6 +18,9 @@ struct RunningProcess {
 /// The processes of this user, sorted by process id. `processes` is the proc file system.
 std::vector<RunningProcess> runningProcesses(const std::string& processes = "/proc");
 
+/// The path that the link "exe" of a process tells, without the mark that the program was replaced by an update.
+std::string programOfLink(std::string_view target);
+
 /// The ids of the desktop entry whose application runs in the control group `text` (/proc/PID/cgroup), in the naming of
 /// desktops and packages: "app-gnome-org.gnome.Maps-4711.scope", "app-org.kde.kate@1f3c.service",
 /// "app-flatpak-org.gimp.GIMP-12.scope", "snap.firefox.firefox-UUID.scope".

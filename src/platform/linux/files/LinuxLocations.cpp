@@ -47,9 +47,11 @@ std::optional<std::string> homeFromUserDatabase() {
     return found->pw_dir;
 }
 
-XdgHomes xdgHomesBelow(const std::string& home, bool fromEnvironment) {
+XdgHomes xdgHomesBelow(const std::string& home, bool fromEnvironment, const Sandbox& sandbox) {
     const auto folder = [&](const char* variable, std::string_view usual) {
-        const std::optional<std::string> own = fromEnvironment ? absolutePathFromEnvironment(variable) : std::nullopt;
+        std::optional<std::string> own;
+        if (fromEnvironment)
+            own = sandbox.isInside() ? sandbox.homeOnHost(variable, home) : absolutePathFromEnvironment(variable);
         return own ? normalFolder(*own) : pathIn(home, usual);
     };
     return {folder("XDG_DATA_HOME", ".local/share"), folder("XDG_CONFIG_HOME", ".config"),
@@ -57,9 +59,9 @@ XdgHomes xdgHomesBelow(const std::string& home, bool fromEnvironment) {
 }
 
 /// A survey that starts above the home folder reaches the Trash by its resolved path.
-TrashPlaces trashPlacesOf(const std::string& dataHome) {
+TrashPlaces trashPlacesOf(const std::string& dataHome, std::vector<std::string> folders) {
     const std::string_view files = "Trash/files";
-    std::vector<std::string> folders{pathIn(dataHome, files)};
+    folders.push_back(pathIn(dataHome, files));
     std::error_code error;
     const std::string real = std::filesystem::weakly_canonical(dataHome, error).string();
     if (!error && real != dataHome) folders.push_back(pathIn(real, files));
@@ -69,12 +71,18 @@ TrashPlaces trashPlacesOf(const std::string& dataHome) {
 
 /// Where the folders of background items are looked for, and those that theirs hide.
 struct ItemPlaces {
-    std::string configHome;
+    const Sandbox& sandbox;
+    std::string configHome = {};
     std::vector<std::string> config{systemConfig};  ///< of the system
-    std::string dataHome;
+    std::string dataHome = {};
     std::vector<std::string> data = foldersIn(usualDataFolders);  ///< of the system
-    std::string runtime;                                          ///< of the user's session; empty if none is known
+    std::string runtime = {};                                     ///< of the user's session; empty if none is known
 };
+
+std::vector<std::string> onHost(const Sandbox& sandbox, std::vector<std::string> folders) {
+    for (std::string& folder : folders) folder = sandbox.hostPath(folder);
+    return folders;
+}
 
 std::vector<std::string> eachBelow(const std::vector<std::string>& folders, std::string_view name) {
     std::vector<std::string> paths;
@@ -98,14 +106,15 @@ std::vector<std::string> otherAutostartFolders(const ItemPlaces& places) {
 /// before the user's own: an item whose name is there too is better left alone.
 std::vector<std::string> otherUnitFolders(const ItemPlaces& places) {
     std::vector<std::string> folders = eachBelow(places.config, userUnitsName);
-    folders.emplace_back(systemUserUnits);
+    folders.push_back(places.sandbox.hostPath(systemUserUnits));
     if (!places.runtime.empty())
         for (const char* kind : {"user", "transient", "generator.early", "generator", "generator.late"})
             folders.push_back(pathIn(places.runtime, std::string("systemd/") + kind));
     folders.push_back(pathIn(places.dataHome, userUnitsName));
     appendTo(folders, eachBelow(places.data, userUnitsName));
-    appendTo(folders, {"/run/systemd/user", "/usr/local/lib/systemd/user", "/usr/local/share/systemd/user",
-                       "/usr/lib/systemd/user", "/usr/share/systemd/user"});
+    appendTo(folders, onHost(places.sandbox,
+                             {"/run/systemd/user", "/usr/local/lib/systemd/user", "/usr/local/share/systemd/user",
+                              "/usr/lib/systemd/user", "/usr/share/systemd/user"}));
     return folders;
 }
 
@@ -118,6 +127,13 @@ BackgroundItemFolder ownFolder(std::string path, BackgroundItemKind kind, const 
     return own;
 }
 
+/// Whether the folders of the system can be seen, in which a file of the user's may hide one.
+bool showsSystem(const Sandbox& sandbox) {
+    std::error_code error;
+    return std::filesystem::is_directory(sandbox.hostPath("/etc"), error) &&
+           std::filesystem::is_directory(sandbox.hostPath("/usr"), error);
+}
+
 /// Where the user's own folder is one of the system's too, its items are the user's.
 std::vector<BackgroundItemFolder> itemFoldersOf(ItemPlaces places) {
     std::erase(places.config, places.configHome);
@@ -125,39 +141,58 @@ std::vector<BackgroundItemFolder> itemFoldersOf(ItemPlaces places) {
         ownFolder(pathIn(places.configHome, autostartName), BackgroundItemKind::autostartEntries,
                   otherAutostartFolders(places)),
         ownFolder(pathIn(places.configHome, userUnitsName), BackgroundItemKind::userUnits, otherUnitFolders(places))};
+    // The units that the session makes for itself are in its runtime folder, and no sandbox has that.
+    folders[0].hidesUnseen = places.sandbox.isInside() && !showsSystem(places.sandbox);
+    folders[1].hidesUnseen = places.sandbox.isInside();
     for (const std::string& folder : eachBelow(places.config, autostartName))
         folders.push_back({folder, BackgroundItemKind::autostartEntries, false});
-    folders.push_back({systemUserUnits, BackgroundItemKind::userUnits, false});
-    folders.push_back({"/etc/systemd/system", BackgroundItemKind::systemUnits, false});
+    folders.push_back({places.sandbox.hostPath(systemUserUnits), BackgroundItemKind::userUnits, false});
+    folders.push_back({places.sandbox.hostPath("/etc/systemd/system"), BackgroundItemKind::systemUnits, false});
     return folders;
 }
 
 }  // namespace
 
-LinuxLocations::LinuxLocations(const std::string& home) {
-    ItemPlaces items;
+LinuxLocations::LinuxLocations(const std::string& home, Sandbox sandbox) : sandbox_(std::move(sandbox)) {
+    ItemPlaces items{sandbox_};
     const bool fromEnvironment = home.empty();
+    home_ = normalFolder(home);
     if (fromEnvironment) {
         std::optional<std::string> own = absolutePathFromEnvironment("HOME");
         if (!own) own = homeFromUserDatabase();
         home_ = normalFolder(own.value_or("/"));
+    }
+    if (sandbox_.isInside()) {
+        // The variables name folders of the runtime.
+        items.config = onHost(sandbox_, std::move(items.config));
+        items.data = onHost(sandbox_, std::move(items.data));
+    } else if (fromEnvironment) {
         items.config = foldersFromEnvironment("XDG_CONFIG_DIRS", systemConfig);
         items.data = foldersFromEnvironment("XDG_DATA_DIRS", usualDataFolders);
         // The user's manager has one, even if we were started without.
         items.runtime = normalFolder(
             absolutePathFromEnvironment("XDG_RUNTIME_DIR").value_or("/run/user/" + std::to_string(::getuid())));
-    } else {
-        home_ = normalFolder(home);
     }
-    xdg_ = xdgHomesBelow(home_, fromEnvironment);
-    trashPlaces_ = trashPlacesOf(xdg_.data);
+    xdg_ = xdgHomesBelow(home_, fromEnvironment, sandbox_);
+    // What Zelk writes itself may stay in the sandbox, where Flatpak removes it together with Zelk.
+    const std::optional<std::string> own =
+        fromEnvironment ? absolutePathFromEnvironment("XDG_DATA_HOME") : std::nullopt;
+    applicationSupport_ = own ? normalFolder(*own) : xdg_.data;
+    trashPlaces_ = trashPlacesOf(xdg_.data, sandbox_.ownFolders(home_));
     items.configHome = xdg_.config;
     items.dataHome = xdg_.data;
     sharedDataFolders_ = items.data;
     backgroundItemFolders_ = itemFoldersOf(std::move(items));
     ApplicationPlaces applications = ApplicationPlaces::ofEnvironment(xdg_.data);
-    programFolders_ = std::move(applications.programs);
+    programFolders_ =
+        sandbox_.isInside() ? onHost(sandbox_, foldersIn(usualProgramFolders)) : std::move(applications.programs);
     entryLocales_ = std::move(applications.locales);
+}
+
+std::string LinuxLocations::pathInSandbox(const std::string& path) {
+    // The folders of the user are where they are, even if a distribution has them below "/var".
+    const bool isSystems = sandbox_.isInside() && sandbox_.isPartOf(path, home_) && !isInFolder(path, home_);
+    return isSystems ? sandbox_.hostPath(path) : path;
 }
 
 }  // namespace zelk

@@ -7,9 +7,11 @@
 
 #include <cerrno>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/FolderPath.h"
+#include "platform/Translation.h"
 #include "platform/linux/files/LinuxLocations.h"
 #include "platform/linux/trash/EmptyTrash.h"
 #include "platform/linux/trash/TrashFolder.h"
@@ -73,8 +75,11 @@ bool isBehindDanglingLink(std::string path) {
 
 }  // namespace
 
-LinuxTrash::LinuxTrash(const std::string& home)
-    : home_(LinuxLocations(home).home()), dataHome_(LinuxLocations(home).applicationSupport().value()) {}
+LinuxTrash::LinuxTrash(const std::string& home, Sandbox sandbox) : sandbox_(std::move(sandbox)) {
+    LinuxLocations locations(home, sandbox_);
+    home_ = locations.home();
+    dataHome_ = locations.xdgHomes().value().data;
+}
 
 std::string LinuxTrash::location() {
     return pathIn(dataHome_, "Trash/files");
@@ -95,7 +100,9 @@ TrashResult LinuxTrash::trash(const ItemPath& item) {
     const RemovalPermit permit;
     TrashResult result;
     const Failure reason = move(item, result.item);
-    if (reason) result.failure = failureText(item.name(), "couldn’t be moved to the Trash", *reason);
+    if (reason)
+        result.failure =
+            failureText(ZELK_TEXT("Failure", "“%1” couldn’t be moved to the Trash: %2"), item.name(), *reason);
     return result;
 }
 
@@ -103,7 +110,7 @@ Failure LinuxTrash::restore(const TrashedItem& item) {
     const RemovalPermit permit;
     const Failure reason = moveBack(item);
     if (!reason) return std::nullopt;
-    return failureText(item.origin.name(), "couldn’t be put back", *reason);
+    return failureText(ZELK_TEXT("Failure", "“%1” couldn’t be put back: %2"), item.origin.name(), *reason);
 }
 
 Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trashed) {
@@ -113,12 +120,14 @@ Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trash
     const std::optional<FileStatus> above = fileStatus(parent.get());
     const std::optional<FileStatus> status = above ? fileStatus(parent.get(), from.name) : std::nullopt;
     if (!status) return systemText(errno);
-    if (status->mount != above->mount) return "another volume is mounted there";
+    if (status->mount != above->mount) return translated("Failure", "another volume is mounted there");
 
     // The system cannot return a path longer than its limit; then use the one it was reached by.
     const std::string path = pathIn(pathOfDirectory(parent.get()).value_or(item.parent()), from.name);
+    if (sandbox_.isPartOf(path, home_)) return translated("Failure", "it belongs to the sandbox that Zelk runs in");
     const std::vector<Mount> mounts = mountTable();
-    if (status->isDirectory() && isMountedBelow(mounts, path)) return "another volume is mounted in it";
+    if (status->isDirectory() && isMountedBelow(mounts, path))
+        return translated("Failure", "another volume is mounted in it");
 
     std::string reason;
     std::string original = item.text();
@@ -128,22 +137,24 @@ Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trash
     if (*atHome) {
         // Do not create a missing home folder.
         if (isInFolder(dataHome_, home_) && ::access(home_.c_str(), F_OK) != 0 && errno == ENOENT)
-            return "“" + readableName(home_) + "” couldn’t be opened: " + systemText(ENOENT);
+            return failureText(ZELK_TEXT("Failure", "“%1” couldn’t be opened: %2"), home_, systemText(ENOENT));
         trash = openHomeTrash(dataHome_, IfMissing::create, reason);
     } else {
         const std::optional<std::string> top = mountPointOf(mounts, above->mount);
         const std::optional<std::string> relative = top ? relativePath(path, *top) : std::nullopt;
-        if (!relative) return "its volume has no place for a Trash";
+        if (sandbox_.isInside() && !isWholeVolume(mounts, above->mount))
+            return translated("Failure", "Flatpak’s sandbox has no Trash for its folder");
+        if (!relative) return noPlaceForTrash();
         original = *relative;
         trash = openVolumeTrash(*top, *above, reason);
     }
     if (!trash) return reason;
     const std::optional<FileStatus> itself = fileStatus(trash->itself.get());
-    if (!itself || itself->isSameFile(*above)) return "it is part of the Trash itself";
+    if (!itself || itself->isSameFile(*above)) return translated("Failure", "it is part of the Trash itself");
     // Moving it again would lose its original path.
     const std::optional<bool> inside = isInside(parent.get(), *itself);
     if (!inside) return systemText(errno);
-    if (*inside) return "it is in the Trash already";
+    if (*inside) return translated("Failure", "it is in the Trash already");
 
     sweepOnce(*trash, *itself);
     const std::string key = std::to_string(itself->device) + ":" + std::to_string(itself->inode) + "/" + from.name;
@@ -173,7 +184,7 @@ Failure LinuxTrash::moveBack(const TrashedItem& item) {
         trash = openHomeTrash(dataHome_, IfMissing::fail, reason);
     } else {
         const std::optional<std::string> top = mountPointOf(mountTable(), above->mount);
-        if (!top) return "its volume has no place for a Trash";
+        if (!top) return noPlaceForTrash();
         trash = reopenVolumeTrash(*top, *above, path, reason);
     }
     if (!trash) return reason;

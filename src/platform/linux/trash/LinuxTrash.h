@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/Trash.h"
+#include "platform/linux/Sandbox.h"
 
 namespace zelk {
 
@@ -18,10 +19,13 @@ struct TrashFolder;
 
 /// The freedesktop.org Trash. Items on the volume of the home trash ("Trash" in the XDG data home) go there, others to
 /// the trash at the top of their own volume. Items are only renamed, never copied.
+///
+/// In a sandbox of Flatpak the home trash is the host's. What is the sandbox's own does not go, nor does what would go
+/// to a trash that nobody finds outside: a folder that is mounted into the sandbox is no top of a volume there.
 class LinuxTrash : public Trash {
 public:
     /// With `home`, uses that home folder and ignores the environment; empty selects the user's own.
-    explicit LinuxTrash(const std::string& home = {});
+    explicit LinuxTrash(const std::string& home = {}, Sandbox sandbox = Sandbox());
 
     std::string location() override;
     std::optional<std::vector<std::string>> list() override;
@@ -49,6 +53,7 @@ private:
     /// Returns the reason of a failure, for display.
     Failure moveBack(const TrashedItem& item);
 
+    Sandbox sandbox_;
     std::string home_;
     std::string dataHome_;
     Numbers numbers_;

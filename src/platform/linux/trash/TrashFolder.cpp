@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/FolderPath.h"
+#include "platform/Translation.h"
 #include "platform/posix/DurableFile.h"
 #include "platform/posix/FailureText.h"
 #include "platform/posix/OpenDirectory.h"
@@ -14,9 +15,9 @@
 namespace zelk {
 namespace {
 
-std::string reasonText(const std::string& path, std::string_view why) {
-    return "“" + readableName(path) + "” " + std::string(why);
-}
+// With the path and what the system said.
+constexpr std::string_view notCreated = ZELK_TEXT("Failure", "“%1” couldn’t be created: %2");
+constexpr std::string_view notOpened = ZELK_TEXT("Failure", "“%1” couldn’t be opened: %2");
 
 /// Opens nested folders, each of which must be a real folder of this user.
 class OwnFolders {
@@ -28,13 +29,14 @@ public:
     Descriptor open(int parent, const std::string& above, const char* name) {
         const std::string path = pathIn(above, name);
         if (ifMissing_ == IfMissing::create && ::mkdirat(parent, name, 0700) != 0 && errno != EEXIST)
-            return refuse(path, "couldn’t be created: " + systemText(errno));
+            return refuse(notCreated, path, systemText(errno));
         Descriptor folder(openSubdirectoryOnMount(parent, name));
-        if (!folder) return refuse(path, whyNotOpened(parent, name));
+        if (!folder) return refuseUnopened(path, parent, name);
         const std::optional<FileStatus> status = fileStatus(folder.get());
-        if (!status) return refuse(path, "couldn’t be opened: " + systemText(errno));
-        if (status->owner != ::geteuid()) return refuse(path, "belongs to another user");
-        if ((status->mode & forbidden_) != 0) return refuse(path, "may be changed by others");
+        if (!status) return refuse(notOpened, path, systemText(errno));
+        if (status->owner != ::geteuid()) return refuse(ZELK_TEXT("Failure", "“%1” belongs to another user"), path);
+        if ((status->mode & forbidden_) != 0)
+            return refuse(ZELK_TEXT("Failure", "“%1” may be changed by others"), path);
         return folder;
     }
 
@@ -50,17 +52,17 @@ public:
     }
 
 private:
-    static std::string whyNotOpened(int parent, const char* name) {
+    Descriptor refuseUnopened(const std::string& path, int parent, const char* name) {
         const int error = errno;
         const std::optional<FileStatus> status = fileStatus(parent, name);
-        if (status && S_ISLNK(status->mode)) return "is a link";
-        if (status && !status->isDirectory()) return "is not a folder";
-        if (error == EXDEV) return "is another volume";
-        return "couldn’t be opened: " + systemText(error);
+        if (status && S_ISLNK(status->mode)) return refuse(ZELK_TEXT("Failure", "“%1” is a link"), path);
+        if (status && !status->isDirectory()) return refuse(ZELK_TEXT("Failure", "“%1” is not a folder"), path);
+        if (error == EXDEV) return refuse(ZELK_TEXT("Failure", "“%1” is another volume"), path);
+        return refuse(notOpened, path, systemText(error));
     }
 
-    Descriptor refuse(const std::string& path, std::string_view why) {
-        reason_ = reasonText(path, why);
+    Descriptor refuse(std::string_view sentence, const std::string& path, std::string_view why = {}) {
+        reason_ = failureText(sentence, path, why);
         return {};
     }
 
@@ -98,12 +100,12 @@ std::optional<VolumeTop> openTop(const std::string& top, const FileStatus& volum
     opened.folder = Descriptor(openForLookups(top));
     const std::optional<FileStatus> status = opened.folder ? fileStatus(opened.folder.get()) : std::nullopt;
     if (!status) {
-        reason = reasonText(top, "couldn’t be opened: " + systemText(errno));
+        reason = failureText(notOpened, top, systemText(errno));
         return std::nullopt;
     }
     // A subvolume without a mount of its own: nothing can be renamed out of it.
     if (!status->isOnVolumeOf(volume)) {
-        reason = "its volume has no place for a Trash";
+        reason = noPlaceForTrash();
         return std::nullopt;
     }
     // Some volumes have no permissions, and whoever may change the top folder could replace the whole trash anyway.
@@ -113,18 +115,22 @@ std::optional<VolumeTop> openTop(const std::string& top, const FileStatus& volum
 
 }  // namespace
 
+std::string noPlaceForTrash() {
+    return translated("Failure", "its volume has no place for a Trash");
+}
+
 Descriptor reopenDirectory(const Descriptor& folder) {
     return Descriptor(::openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
 std::optional<TrashFolder> openHomeTrash(const std::string& dataHome, IfMissing ifMissing, std::string& reason) {
     if (ifMissing == IfMissing::create && !createDirectoryTree(dataHome)) {
-        reason = reasonText(dataHome, "couldn’t be created: " + systemText(errno));
+        reason = failureText(notCreated, dataHome, systemText(errno));
         return std::nullopt;
     }
     const Descriptor folder(openForLookups(dataHome));
     if (!folder) {
-        reason = reasonText(dataHome, "couldn’t be opened: " + systemText(errno));
+        reason = failureText(notOpened, dataHome, systemText(errno));
         return std::nullopt;
     }
     return OwnFolders(ifMissing, reason).openTrash(folder.get(), dataHome, "Trash");
@@ -152,7 +158,7 @@ std::optional<TrashFolder> reopenVolumeTrash(const std::string& top, const FileS
     const bool isShared = path == pathIn(aboveShared, user);
     const Descriptor shared = isShared ? openSharedTrash(opened->folder.get()) : Descriptor();
     if (shared) return own.openTrash(shared.get(), aboveShared, user.c_str());
-    reason = reasonText(path, "is no longer the Trash of its volume");
+    reason = failureText(ZELK_TEXT("Failure", "“%1” is no longer the Trash of its volume"), path);
     return std::nullopt;
 }
 

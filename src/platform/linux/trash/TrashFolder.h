@@ -19,6 +19,9 @@ struct TrashFolder {
     Descriptor info;
 };
 
+/// The reason for display where a volume cannot have a Trash.
+std::string noPlaceForTrash();
+
 /// Opens `folder` again: a second listing through the same descriptor would continue where the first one ended.
 Descriptor reopenDirectory(const Descriptor& folder);
 

@@ -10,6 +10,7 @@
 #include <ctime>
 #include <string_view>
 
+#include "platform/Translation.h"
 #include "platform/linux/trash/TrashEntry.h"
 #include "platform/linux/trash/TrashInfo.h"
 #include "platform/posix/FailureText.h"
@@ -82,9 +83,9 @@ int moveWithInfo(const Place& item, const Place& content, const Place& info, std
 std::string reasonOfMove(int error) {
     switch (error) {
         case EXDEV:
-            return "it is not on the same volume as its Trash";
+            return translated("Failure", "it is not on the same volume as its Trash");
         case EINVAL:
-            return "the Trash is in it";
+            return translated("Failure", "the Trash is in it");
         default:
             return systemText(error);
     }

@@ -60,7 +60,7 @@ Failure restoreFromTrash(const TrashFolder& trash, const std::string& name, cons
     if (const int error = moveAmongOthers({trash.files.get(), own}, place)) {
         const bool isThere = fileStatus(trash.files.get(), own).has_value();
         putBack(trash, own, entry);
-        if (error == ENOENT && isThere) return originIsMissing;
+        if (error == ENOENT && isThere) return originIsMissing();
         return reasonOfRestore(error);
     }
     flushFolder(place.folder);

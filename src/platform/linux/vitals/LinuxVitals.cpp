@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/Translation.h"
 #include "platform/VitalsArithmetic.h"
 #include "platform/linux/vitals/ProcText.h"
 #include "platform/posix/Descriptor.h"
@@ -24,6 +25,22 @@ bool isPlaceholder(const std::string& model) {
     constexpr std::array<std::string_view, 5> placeholders{"To Be Filled By O.E.M.", "To be filled by O.E.M.",
                                                            "System Product Name", "Default string", "None"};
     return std::find(placeholders.begin(), placeholders.end(), model) != placeholders.end();
+}
+
+std::optional<std::string> readStart(const std::string& path) {
+    const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); }));
+    if (!file) return std::nullopt;
+    std::string text(maxBytesRead, '\0');
+    std::size_t length = 0;
+    while (length < text.size()) {  // /proc may return a file in pieces
+        const ssize_t count =
+            uninterrupted([&] { return ::read(file.get(), text.data() + length, text.size() - length); });
+        if (count < 0) return std::nullopt;
+        if (count == 0) break;
+        length += static_cast<std::size_t>(count);
+    }
+    text.resize(length);
+    return text;
 }
 
 }  // namespace
@@ -72,19 +89,11 @@ double LinuxVitals::uptime() {
 }
 
 std::optional<std::string> LinuxVitals::read(const std::string& path) const {
-    const Descriptor file(uninterrupted([&] { return ::open((root_ + path).c_str(), O_RDONLY | O_CLOEXEC); }));
-    if (!file) return std::nullopt;
-    std::string text(maxBytesRead, '\0');
-    std::size_t length = 0;
-    while (length < text.size()) {  // /proc may return a file in pieces
-        const ssize_t count =
-            uninterrupted([&] { return ::read(file.get(), text.data() + length, text.size() - length); });
-        if (count < 0) return std::nullopt;
-        if (count == 0) break;
-        length += static_cast<std::size_t>(count);
-    }
-    text.resize(length);
-    return text;
+    return readStart(root_ + path);
+}
+
+std::string LinuxVitals::textOfHost(const std::string& path) const {
+    return sandbox_.isInside() ? readStart(sandbox_.hostPath(path)).value_or("") : readOrEmpty(path);
 }
 
 std::vector<std::string> LinuxVitals::list(const std::string& path) const {
@@ -96,13 +105,13 @@ std::vector<std::string> LinuxVitals::list(const std::string& path) const {
 }
 
 std::string LinuxVitals::computerName() const {
-    if (std::string name = tidied(assignedValue(readOrEmpty("/etc/machine-info"), "PRETTY_HOSTNAME").value_or(""));
+    if (std::string name = tidied(assignedValue(textOfHost("/etc/machine-info"), "PRETTY_HOSTNAME").value_or(""));
         !name.empty())
         return name;
     // The kernel's name is the one in effect; it is "(none)" if unset.
-    for (const char* file : {"/proc/sys/kernel/hostname", "/etc/hostname"})
-        if (std::string name = tidied(readOrEmpty(file)); !name.empty() && name != "(none)") return name;
-    return "This computer";
+    for (const std::string& text : {readOrEmpty("/proc/sys/kernel/hostname"), textOfHost("/etc/hostname")})
+        if (std::string name = tidied(text); !name.empty() && name != "(none)") return name;
+    return translated("SystemTexts", "This computer");
 }
 
 std::string LinuxVitals::chip() const {
@@ -111,8 +120,9 @@ std::string LinuxVitals::chip() const {
 }
 
 std::string LinuxVitals::systemVersion() const {
-    for (const char* file : {"/etc/os-release", "/usr/lib/os-release"})
-        if (std::string name = systemName(readOrEmpty(file)); !name.empty()) return name;
+    // The last one is for a sandbox, which is always given it.
+    for (const char* file : {"/etc/os-release", "/usr/lib/os-release", "/os-release"})
+        if (std::string name = systemName(textOfHost(file)); !name.empty()) return name;
     return kernelVersionText(readOrEmpty("/proc/sys/kernel/osrelease"));
 }
 

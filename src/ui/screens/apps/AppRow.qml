@@ -78,6 +78,7 @@ ListRow {
             Label {
                 id: nameText
 
+                anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.min(implicitWidth, parent.width - (kindTag.visible ? kindTag.width + 8 : 0))
                 text: row.name

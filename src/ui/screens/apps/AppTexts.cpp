@@ -74,7 +74,7 @@ QString AppTexts::named(const AppObstacle& obstacle) {
     }
     const QString list = names.join(tr(", ", "between the names of packages"));
     const std::size_t left = obstacle.who.size() - std::min(obstacle.who.size(), namedPackages);
-    return left == 0 ? list : tr("%1 and %2 more").arg(list).arg(left);
+    return left == 0 ? list : tr("%1 and %2 more", "", forPlural(static_cast<std::int64_t>(left))).arg(list).arg(left);
 }
 
 QString AppTexts::obstacle(const AppObstacle& obstacle) {
@@ -87,6 +87,8 @@ QString AppTexts::obstacle(const AppObstacle& obstacle) {
             return tr("Stays: needed by %1.").arg(named(obstacle));
         case AppObstacle::Reason::noTool:
             return tr("Stays: only %1 can remove it, which is not installed.").arg(named(obstacle));
+        case AppObstacle::Reason::outOfReach:
+            return tr("Stays: only %1 can remove it, which Flatpak’s sandbox does not have.").arg(named(obstacle));
         case AppObstacle::Reason::severalVersions:
             return tr("Stays: it is installed more than once. Its own tool can remove one of them.");
         case AppObstacle::Reason::notOwn:
@@ -110,16 +112,18 @@ QString AppTexts::question(const AppEntry& app, int leftovers, const QString& to
         case AppKind::bundle:
         case AppKind::appImage:
         case AppKind::unpacked:
-            return tr("Moves the app and %1 leftover item(s) to Trash — %2.").arg(leftovers).arg(total);
+            return tr("Moves the app and %1 leftover item(s) to Trash — %2.", "", leftovers).arg(leftovers).arg(total);
         case AppKind::systemFlatpak:
             if (leftovers == 0) return tr("Removes the app through flatpak for all users, for good — %1.").arg(total);
             return tr("Removes the app through flatpak for all users, for good, and moves %1 leftover item(s) to Trash "
-                      "— %2.")
+                      "— %2.",
+                      "", leftovers)
                 .arg(leftovers)
                 .arg(total);
         case AppKind::userFlatpak:
             if (leftovers == 0) return tr("Removes the app through flatpak, for good — %1.").arg(total);
-            return tr("Removes the app through flatpak, for good, and moves %1 leftover item(s) to Trash — %2.")
+            return tr("Removes the app through flatpak, for good, and moves %1 leftover item(s) to Trash — %2.", "",
+                      leftovers)
                 .arg(leftovers)
                 .arg(total);
         case AppKind::snap:
@@ -130,7 +134,8 @@ QString AppTexts::question(const AppEntry& app, int leftovers, const QString& to
             if (leftovers == 0)
                 return tr("Removes the package for all users, for good, once an administrator agrees — %1.").arg(total);
             return tr("Removes the package for all users, for good, once an administrator agrees, and moves %1 "
-                      "leftover item(s) to Trash — %2.")
+                      "leftover item(s) to Trash — %2.",
+                      "", leftovers)
                 .arg(leftovers)
                 .arg(total);
     }
@@ -157,8 +162,10 @@ QString AppTexts::ending(const AppsModel::Ending& ending) {
             sentences += tr("%1 was not removed: it is still there.").arg(name);
             break;
     }
-    if (ending.moved > 0) sentences += tr("Moved to the Trash: %1 leftover item(s).").arg(ending.moved);
-    if (ending.stayed > 0) sentences += tr("Where they were: %1 leftover item(s).").arg(ending.stayed);
+    const auto moved = static_cast<int>(ending.moved);
+    const auto stayed = static_cast<int>(ending.stayed);
+    if (moved > 0) sentences += tr("Moved to the Trash: %1 leftover item(s).", "", moved).arg(moved);
+    if (stayed > 0) sentences += tr("Where they were: %1 leftover item(s).", "", stayed).arg(stayed);
     return sentences.join(QLatin1Char(' '));
 }
 

@@ -20,8 +20,10 @@ FocusScope {
         Column {
             id: texts
 
-            x: Theme.pageMargin
-            width: order.x - x - 20
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.pageMargin
+            anchors.right: order.left
+            anchors.rightMargin: 20
             anchors.verticalCenter: parent.verticalCenter
             spacing: 2
 
@@ -47,7 +49,8 @@ FocusScope {
             id: order
 
             objectName: "appsOrder"
-            x: Math.min(head.width - Theme.pageMargin, Theme.pageMargin + Theme.pageWidth) - width
+            anchors.right: parent.right
+            anchors.rightMargin: Math.max(Theme.pageMargin, head.width - Theme.pageMargin - Theme.pageWidth)
             anchors.verticalCenter: parent.verticalCenter
             label: qsTr("Order")
             options: [qsTr("Total footprint"), qsTr("App size")]

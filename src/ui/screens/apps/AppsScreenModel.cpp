@@ -50,7 +50,11 @@ bool AppsScreenModel::nothing() const {
 }
 
 QString AppsScreenModel::line() const {
-    return tr("%1 apps · footprint includes caches, support & containers").arg(apps_.apps().size());
+    const auto count = std::ssize(apps_.apps());
+    if (SystemTexts::shown() == SystemTexts::System::flatpak)
+        return tr("%1 apps · those of flatpak, snap and the distribution can’t be seen from here", "", forPlural(count))
+            .arg(count);
+    return tr("%1 apps · footprint includes caches, support & containers", "", forPlural(count)).arg(count);
 }
 
 int AppsScreenModel::order() const {

@@ -138,7 +138,8 @@ Sheet {
         SymbolItem {
             id: sign
 
-            x: 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: parent.verticalCenter
             name: part.symbol
             color: Theme.inkSoft

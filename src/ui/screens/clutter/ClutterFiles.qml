@@ -43,7 +43,7 @@ FocusScope {
         function openMenu(row: int, name: string, at: point) {
             files.clutter.pick(row);
             fileMenu.title = name;
-            fileMenu.popup(list, at.x, at.y);
+            fileMenu.popup(list, ReadingDirection.mirrored ? at.x - fileMenu.width : at.x, at.y);
         }
 
         // Asks the current row's delegate, which must be in view, to open the menu.
@@ -150,7 +150,7 @@ FocusScope {
         required property string actions
 
         // Where the menu opens unless the pointer asked for it.
-        readonly property point menuPlace: Qt.point(more.x, more.y + more.height + 4)
+        readonly property point menuPlace: Qt.point(ReadingDirection.mirrored ? more.x + more.width : more.x, more.y + more.height + 4)
 
         signal asked(point at)
 

@@ -17,7 +17,8 @@ Item {
     Column {
         id: column
 
-        x: Theme.pageMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.pageMargin
         y: 20
         width: Math.min(head.width - 2 * Theme.pageMargin, Theme.pageWidth)
         spacing: 8
@@ -100,9 +101,9 @@ Item {
                         activeFocusOnTab: pill.reached
                         onClicked: head.clutter.filter(pill.index)
 
-                        Keys.onLeftPressed: choice.choose(pill.index - 1)
+                        Keys.onLeftPressed: choice.choose(pill.index - ReadingDirection.rightward)
                         Keys.onUpPressed: choice.choose(pill.index - 1)
-                        Keys.onRightPressed: choice.choose(pill.index + 1)
+                        Keys.onRightPressed: choice.choose(pill.index + ReadingDirection.rightward)
                         Keys.onDownPressed: choice.choose(pill.index + 1)
                     }
                 }

@@ -19,9 +19,11 @@ QString ageText(TimePoint modified, TimePoint now) {
     const double exact = (now - modified) / secondsPerDay;
     if (!(exact >= 1)) return LargeFileRows::tr("today");
     const auto days = static_cast<qint64>(exact);
-    if (days < daysPerMonth) return LargeFileRows::tr("%1d ago").arg(days);
-    if (days < daysPerYear) return LargeFileRows::tr("%1mo ago").arg(days / daysPerMonth);
-    return LargeFileRows::tr("%1y ago").arg(days / daysPerYear);
+    if (days < daysPerMonth) return LargeFileRows::tr("%1d ago", "", forPlural(days)).arg(days);
+    const qint64 months = days / daysPerMonth;
+    if (days < daysPerYear) return LargeFileRows::tr("%1mo ago", "", forPlural(months)).arg(months);
+    const qint64 years = days / daysPerYear;
+    return LargeFileRows::tr("%1y ago", "", forPlural(years)).arg(years);
 }
 
 }  // namespace

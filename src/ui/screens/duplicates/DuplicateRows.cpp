@@ -87,7 +87,8 @@ QVariant DuplicateRows::value(std::size_t row, int role) const {
     const std::string& path = card->paths[isHead ? 0 : place - 1];
     const auto text = [&] {
         if (!isHead) return displayText(path);
-        return tr("%1 copies · %2 each").arg(QString::number(card->paths.size()), byteFigure(card->size));
+        return tr("%1 copies · %2 each", "", forPlural(std::ssize(card->paths)))
+            .arg(QString::number(card->paths.size()), byteFigure(card->size));
     };
     const auto gain = [&] { return isHead ? tr("save %1").arg(byteFigure(card->recoverable)) : QString(); };
     const auto tag = [&] {

@@ -41,7 +41,7 @@ bool DuplicatesScreenModel::nothing() const {
 
 QString DuplicatesScreenModel::summary() const {
     if (nothing()) return lookOf(Screen::duplicates).subtitle;
-    return tr("%1 sets · %2 recoverable")
+    return tr("%1 sets · %2 recoverable", "", forPlural(std::ssize(duplicates_.groups())))
         .arg(QString::number(duplicates_.groups().size()), byteFigure(duplicates_.totalRecoverable()));
 }
 

@@ -33,6 +33,7 @@ Sheet {
             SymbolItem {
                 id: symbolItem
 
+                anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
                 name: "questionmark.circle.fill"
                 color: sheet.tint
@@ -66,6 +67,7 @@ Sheet {
         }
 
         Row {
+            anchors.left: parent.left
             spacing: 8
 
             Tag {

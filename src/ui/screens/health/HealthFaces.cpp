@@ -53,7 +53,7 @@ QList<HealthGradeFace> HealthGradeFace::all() {
 }
 
 GaugeFace GaugeFace::ofCpu(double usage, std::int64_t cores) {
-    return loadGauge(tr("CPU"), usage, tr("%1 cores").arg(cores));
+    return loadGauge(tr("CPU"), usage, tr("%1 cores", "", forPlural(cores)).arg(cores));
 }
 
 GaugeFace GaugeFace::ofMemory(const MemoryStats& memory, const QLocale& locale) {

@@ -24,6 +24,7 @@ Card {
             Rectangle {
                 id: ring
 
+                anchors.left: parent.left
                 objectName: "gradeRing"
                 anchors.verticalCenter: parent.verticalCenter
                 width: 64
@@ -64,6 +65,7 @@ Card {
                     Label {
                         id: gradeLabel
 
+                        anchors.left: parent.left
                         anchors.verticalCenter: parent.verticalCenter
                         width: Math.min(implicitWidth, parent.width - info.width - 8)
                         text: card.health.grade.label

@@ -25,6 +25,7 @@ IconButton {
     T.Popup {
         id: popover
 
+        x: ReadingDirection.mirrored ? info.width - width : 0
         y: info.height + 6
         width: 300 * TextScale.factor
         height: page.implicitHeight + topPadding + bottomPadding
@@ -90,6 +91,7 @@ IconButton {
 
             Button {
                 objectName: "learnMore"
+                anchors.left: parent.left
                 symbol: "arrow.right.circle.fill"
                 text: qsTr("Learn more")
                 onClicked: info.health.learnMore()
@@ -119,6 +121,7 @@ IconButton {
         Rectangle {
             id: dot
 
+            anchors.left: parent.left
             objectName: "gradeDot"
             anchors.verticalCenter: parent.verticalCenter
             width: 14

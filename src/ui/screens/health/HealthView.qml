@@ -74,7 +74,8 @@ FocusScope {
         Column {
             id: sections
 
-            x: Theme.pageMargin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.pageMargin
             width: Math.min(scroll.width - 2 * Theme.pageMargin, 820)
             topPadding: 18
             bottomPadding: Theme.pageMargin
@@ -120,11 +121,10 @@ FocusScope {
 
                     width: parent.width
 
-                    Label {
+                    PrintedText {
                         width: paper.availableWidth
                         text: result.words
                         size: 10
-                        font.family: Theme.fixedFont
                         wrapMode: Text.Wrap
                         mute: true
                     }

@@ -30,6 +30,7 @@ Item {
             Picture {
                 id: iconItem
 
+                anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
                 width: 34
                 height: 34
@@ -77,6 +78,7 @@ Item {
         }
 
         Row {
+            anchors.left: parent.left
             spacing: 0
 
             Label {

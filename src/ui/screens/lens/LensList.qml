@@ -18,6 +18,14 @@ RowList {
         list.forceActiveFocus(byKeyboard ? Qt.TabFocusReason : Qt.MouseFocusReason);
     }
 
+    // Into the current row by 1, which is where its chevron points, or back by -1.
+    function turn(way: int) {
+        if (way > 0)
+            list.lens.drill(list.currentIndex);
+        else
+            list.lens.back();
+    }
+
     objectName: "lensList"
     name: list.lens.listName
     model: list.lens.rows
@@ -36,8 +44,8 @@ RowList {
         if (!event.isAutoRepeat)
             list.lens.drill(list.currentIndex);
     }
-    Keys.onRightPressed: list.lens.drill(list.currentIndex)
-    Keys.onLeftPressed: list.lens.back()
+    Keys.onRightPressed: list.turn(ReadingDirection.rightward)
+    Keys.onLeftPressed: list.turn(-ReadingDirection.rightward)
     Keys.onPressed: event => {
         if (event.key === Qt.Key_Backspace && !event.isAutoRepeat) {
             list.lens.back();

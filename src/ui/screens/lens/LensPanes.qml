@@ -144,6 +144,7 @@ FocusScope {
             LensHead {
                 id: head
 
+                anchors.left: parent.left
                 width: panes.listWidth
                 lens: panes.lens
             }
@@ -151,6 +152,7 @@ FocusScope {
             LensList {
                 id: list
 
+                anchors.left: parent.left
                 anchors.top: head.bottom
                 anchors.bottom: parent.bottom
                 width: panes.listWidth
@@ -219,35 +221,14 @@ FocusScope {
                 width: parent.width
             }
 
-            Column {
+            LensVolume {
                 id: volume
 
                 anchors.left: parent.left
                 anchors.leftMargin: Theme.pageMargin
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 4
                 visible: panes.lens.volumed
-
-                Label {
-                    objectName: "lensVolume"
-                    text: panes.lens.volumeLine
-                    size: 11
-                    soft: true
-                }
-
-                Rectangle {
-                    width: 220
-                    height: 6
-                    radius: 3
-                    color: Theme.hairline
-
-                    AccentFill {
-                        objectName: "lensVolumeBar"
-                        width: parent.width * panes.lens.usedShare
-                        height: parent.height
-                        corner: 3
-                    }
-                }
+                lens: panes.lens
             }
 
             Label {

@@ -83,7 +83,9 @@ QString LensScreenModel::place() const {
 QString LensScreenModel::placeLine() const {
     const NodeRef node = walk_.currentNode();
     if (!node) return {};
-    return tr("%1 · %2 folders").arg(byteFigure(node->size)).arg(node->children.size());
+    return tr("%1 · %2 folders", "", forPlural(std::ssize(node->children)))
+        .arg(byteFigure(node->size))
+        .arg(node->children.size());
 }
 
 QString LensScreenModel::looseLine() const {

@@ -5,7 +5,6 @@
 
 #include "state/AppModel.h"
 #include "ui/controls/AccessibleText.h"
-#include "ui/theme/DisplayText.h"
 #include "ui/theme/ScreenLook.h"
 
 namespace zelk {
@@ -78,7 +77,7 @@ SurveyedModule::SurveyedModule(AppModel& app, Screen screen, ModuleTexts texts)
       app_(app) {
     timer_.setSingleShot(true);
     timer_.setInterval(progressInterval);
-    connect(&timer_, &QTimer::timeout, this, [this] { setScanDetail(displayText(app_.progressLine())); });
+    connect(&timer_, &QTimer::timeout, this, [this] { setScanDetail(QString::fromStdString(app_.progressLine())); });
     connect(&app, &AppModel::scanPhaseChanged, this, &SurveyedModule::followPhase);
     connect(&app, &AppModel::progressChanged, this, &SurveyedModule::followProgress);
     followPhase();

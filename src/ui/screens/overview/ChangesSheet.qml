@@ -124,6 +124,7 @@ Sheet {
                     TextSymbol {
                         id: folder
 
+                        anchors.left: parent.left
                         anchors.verticalCenter: parent.verticalCenter
                         name: "folder.fill"
                         color: place.tint

@@ -17,6 +17,7 @@ Item {
     Rectangle {
         id: box
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: laptop.width + 24
         height: laptop.height + 24

@@ -44,6 +44,7 @@ Column {
             }
 
             AnimatedNumber {
+                anchors.left: parent.left
                 value: block.findings.recoverable
                 visible: block.findings.reviewable
                 pixelSize: 34
@@ -77,12 +78,14 @@ Column {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             visible: block.findings.reviewable
+            //: The arrow points onward: from right to left where one reads so.
             text: qsTr("Review  →")
             onClicked: block.findings.review()
         }
     }
 
     Eyebrow {
+        anchors.left: parent.left
         bottomPadding: -8
         text: qsTr("Findings")
     }
@@ -98,6 +101,7 @@ Column {
             spacing: 14
 
             Eyebrow {
+                anchors.left: parent.left
                 text: qsTr("Scanned storage")
             }
 

@@ -23,7 +23,7 @@ std::int64_t scannedBytes(const AppModel& app) {
 QString unreadText(std::int64_t folders) {
     if (folders < 1) return {};
     if (folders == 1) return FindingsModel::tr("1 folder could not be read.");
-    return FindingsModel::tr("%1 folders could not be read.").arg(groupedFigure(folders));
+    return FindingsModel::tr("%1 folders could not be read.", "", forPlural(folders)).arg(groupedFigure(folders));
 }
 
 std::vector<LargeFile> firstFew(const std::vector<LargeFile>& files) {
@@ -79,8 +79,10 @@ void FindingsModel::refresh() {
     freeBytes_ = app_.volume() ? app_.volume()->available : 0;
     cardBytes_ = {static_cast<qreal>(app_.reclaimableBytes()), static_cast<qreal>(largeFileBytes(app_)),
                   static_cast<qreal>(downloadsBytes(app_)), static_cast<qreal>(purgeableBytes(app_))};
-    cardDetails_ = {tr("%1 items of junk").arg(app_.reclaimables().size()),
-                    tr("%1 large files").arg(app_.insights().topFiles.size()), tr("review what landed here"),
+    const auto items = std::ssize(app_.reclaimables());
+    const auto files = std::ssize(app_.insights().topFiles);
+    cardDetails_ = {tr("%1 items of junk", "", forPlural(items)).arg(items),
+                    tr("%1 large files", "", forPlural(files)).arg(files), tr("review what landed here"),
                     tr("purgeable & snapshots")};
     largest_.show(firstFew(app_.insights().topFiles), app_.platform().clock.now());
     emit changed();
@@ -93,9 +95,11 @@ void FindingsModel::headline() {
         return;
     }
     const auto types = app_.sortedTypeTotals();
-    const auto items = app_.reclaimables().size();
-    line_ = types.empty() ? tr("across %1 items.").arg(items)
-                          : tr("across %1 items · most space: %2").arg(items).arg(lookOf(types.front().first).name);
+    const auto items = std::ssize(app_.reclaimables());
+    line_ = types.empty() ? tr("across %1 items.", "", forPlural(items)).arg(items)
+                          : tr("across %1 items · most space: %2", "", forPlural(items))
+                                .arg(items)
+                                .arg(lookOf(types.front().first).name);
 }
 
 QList<RibbonSegment> FindingsModel::readSegments() const {

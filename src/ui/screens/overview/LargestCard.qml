@@ -73,6 +73,7 @@ Card {
                 SymbolItem {
                     id: sign
 
+                    anchors.left: parent.left
                     anchors.verticalCenter: parent.verticalCenter
                     name: row.symbol
                     color: row.tint.valid ? row.tint : Theme.otherFiles

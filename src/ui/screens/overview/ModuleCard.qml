@@ -87,6 +87,7 @@ BaseButton {
             Tile {
                 id: tile
 
+                anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
                 symbol: face.symbol
                 tint: face.tint
@@ -124,6 +125,7 @@ BaseButton {
         }
 
         AnimatedNumber {
+            anchors.left: parent.left
             value: face.value
             pixelSize: 23
             bold: true

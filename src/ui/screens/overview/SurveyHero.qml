@@ -135,7 +135,7 @@ FocusScope {
                     anchors.horizontalCenter: parent.horizontalCenter
                     value: hero.survey.items
                     format: NumberItem.Count
-                    phrase: qsTr("%1 items")
+                    phrase: hero.survey.itemsPhrase
                     duration: Motion.follow
                     interval: Motion.readable
                 }

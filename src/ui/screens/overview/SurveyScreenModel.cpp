@@ -29,12 +29,12 @@ ScreenLook titled(Screen screen, const QString& title) {
 }  // namespace
 
 DeviceFace DeviceFace::of(const DeviceInfo& device, const std::optional<VolumeInfo>& volume, const QLocale& locale) {
-    QStringList known{displayText(device.chip), tr("%1 cores").arg(device.cores),
-                      QString::fromStdString(memoryText(device.memoryBytes)), displayText(device.osVersion)};
+    QStringList known{displayText(device.chip), tr("%1 cores", "", forPlural(device.cores)).arg(device.cores),
+                      isolated(QString::fromStdString(memoryText(device.memoryBytes))), displayText(device.osVersion)};
     known.removeAll(QString());
     DeviceFace face;
     face.name = displayText(device.computerName);
-    face.detail = known.join(QStringLiteral("  ·  "));
+    face.detail = inReadingOrder(known.join(QStringLiteral("  ·  ")));
     if (volume) {
         face.freeBytes = static_cast<double>(volume->available);
         face.totalText = tr("of %1").arg(byteFigure(volume->total, locale));
@@ -73,6 +73,10 @@ QString SurveyScreenModel::buttonName() const {
     if (scanning()) return tr("scanning…");
     if (idle()) return tr("Scan %1").arg(SystemTexts::of(SystemTexts::WholeComputer));
     return tr("%1 recoverable, re-run").arg(byteFigure(app_.reclaimableBytes()));
+}
+
+QString SurveyScreenModel::itemsPhrase() const {
+    return tr("%1 items", "", forPlural(items_));
 }
 
 DeviceFace SurveyScreenModel::device() const {
@@ -155,7 +159,7 @@ void SurveyScreenModel::speak() {
     if (scanning()) {
         const bool unseen = app_.selection() != Screen::survey && !spokenProgress_.isEmpty();
         if (unseen || time - spokenAt_ < spokenInterval) return;
-        text = tr("%1, %2 items").arg(byteFigure(scanned_), groupedFigure(items_));
+        text = tr("%1, %2 items", "", forPlural(items_)).arg(byteFigure(scanned_), groupedFigure(items_));
     }
     spokenAt_ = time;
     if (std::exchange(spokenProgress_, text) != text) emit spokenProgressChanged();

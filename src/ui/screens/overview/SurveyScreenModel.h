@@ -54,6 +54,7 @@ class SurveyScreenModel : public QObject {
     Q_PROPERTY(bool scanning READ scanning NOTIFY phaseChanged FINAL)
     Q_PROPERTY(bool finished READ finished NOTIFY phaseChanged FINAL)
     Q_PROPERTY(double items READ items NOTIFY figuresChanged FINAL)
+    Q_PROPERTY(QString itemsPhrase READ itemsPhrase NOTIFY figuresChanged FINAL)
     Q_PROPERTY(double scanned READ scanned NOTIFY figuresChanged FINAL)
     Q_PROPERTY(double recoverable READ recoverable NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString buttonName READ buttonName NOTIFY buttonNameChanged FINAL)
@@ -75,6 +76,8 @@ public:
 
     /// Items and bytes of the running survey, else of the last one; a new survey starts at 0.
     qint64 items() const { return items_; }
+    /// The words around that number, which stands in the place of "%1", in the plural form for it.
+    QString itemsPhrase() const;
     qint64 scanned() const { return scanned_; }
     /// The reclaimable bytes of the last survey. 0 at the moment the phase changes to finished, so that the number
     /// counts up from there.

@@ -26,6 +26,7 @@ Item {
     Tile {
         id: tile
 
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         symbol: "trash.fill"
         tint: Theme.inkSoft

@@ -21,6 +21,7 @@ Card {
         spacing: 12
 
         Eyebrow {
+            anchors.left: parent.left
             text: qsTr("Trends")
         }
 
@@ -31,6 +32,7 @@ Card {
             Row {
                 id: line
 
+                anchors.left: parent.left
                 y: card.narrow ? 0 : (parent.height - height) / 2
                 spacing: 10
 
@@ -62,7 +64,8 @@ Card {
             Sparkline {
                 id: curve
 
-                x: card.narrow ? 0 : parent.width - width
+                anchors.right: parent.right
+                anchors.rightMargin: card.narrow ? parent.width - width : 0
                 y: card.narrow ? line.implicitHeight + 12 : (parent.height - height) / 2
                 width: 200
                 height: 46
@@ -80,6 +83,7 @@ Card {
 
         Button {
             objectName: "changesButton"
+            anchors.left: parent.left
             visible: card.trends.hasChanges
             symbol: "clock.arrow.circlepath"
             text: qsTr("What changed since last scan")

@@ -57,8 +57,8 @@ QString ChangesModel::sizeText(const Row& row) {
     const FolderChange& change = row.change;
     switch (row.kind) {
         case Grew:
-            return QStringLiteral("%1  +%2").arg(byteFigure(change.newSize),
-                                                 byteFigure(growth(change.oldSize, change.newSize)));
+            return byteFigure(change.newSize) + QStringLiteral("  ") +
+                   isolated(u'+' + byteFigure(growth(change.oldSize, change.newSize)));
         case Appeared:
             return byteFigure(change.newSize);
         case Vanished:
@@ -81,7 +81,7 @@ void TrendsModel::refresh() {
     for (const SurveyRecord& record : history) totals_.append(static_cast<qreal>(record.totalScanned));
 
     const std::optional<std::int64_t> days = app_.daysUntilFull();
-    forecast_ = days ? tr("≈ %1 days until full at this rate").arg(*days) : QString();
+    forecast_ = days ? tr("≈ %1 days until full at this rate", "", forPlural(*days)).arg(*days) : QString();
     alarming_ = days && *days <= nearDays;
 
     const FolderChanges changes = app_.folderChanges().value_or(FolderChanges());
@@ -96,7 +96,7 @@ QString TrendsModel::arrowName() const {
 }
 
 QString TrendsModel::deltaLine() const {
-    return tr("since your last scan · %1 tracked").arg(totals_.size());
+    return tr("since your last scan · %1 tracked", "", static_cast<int>(totals_.size())).arg(totals_.size());
 }
 
 void TrendsModel::setShowChanges(bool show) {

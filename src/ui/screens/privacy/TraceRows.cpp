@@ -45,13 +45,16 @@ bool TraceRows::isFree(int row) const {
 }
 
 QString TraceRows::warning(const Row& row) const {
-    return row.running ? tr("quit %1 to clear safely").arg(displayText(*row.running)) : QString();
+    if (!row.running) return {};
+    return privacy_.runningKnown() ? tr("quit %1 to clear safely").arg(displayText(*row.running))
+                                   : tr("%1 may be running: quit it before clearing").arg(displayText(*row.running));
 }
 
 QVariant TraceRows::value(std::size_t row, int role) const {
     const Row& shown = rows_[row];
     const auto title = [&] {
-        return tr("%1 — %2").arg(SystemTexts::worded(shown.trace.app), SystemTexts::worded(shown.trace.kind));
+        return inReadingOrder(
+            tr("%1 — %2").arg(isolated(SystemTexts::worded(shown.trace.app)), SystemTexts::worded(shown.trace.kind)));
     };
     const auto place = [&] { return shown.running ? QString() : displayText(shown.trace.paths.front()); };
     const auto figure = [&] { return byteFigure(static_cast<std::int64_t>(shown.trace.size)); };

@@ -16,7 +16,7 @@ namespace zelk {
 namespace {
 
 QString countText(std::int64_t items) {
-    return CategoryList::tr("%1 items").arg(items);
+    return CategoryList::tr("%1 items", "", forPlural(items)).arg(items);
 }
 
 }  // namespace

@@ -29,7 +29,8 @@ FocusScope {
             Label {
                 id: menuLabel
 
-                x: 26
+                anchors.left: parent.left
+                anchors.leftMargin: 26
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Select:")
                 size: 11
@@ -171,7 +172,8 @@ FocusScope {
         CheckBox {
             id: box
 
-            x: Theme.pageMargin - 4  // the box is drawn 4 inside its target
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.pageMargin - 4  // the box is drawn 4 inside its target
             anchors.verticalCenter: parent.verticalCenter
             text: row.name
             on: row.chosen

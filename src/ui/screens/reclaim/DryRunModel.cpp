@@ -84,14 +84,15 @@ QString DryRunModel::progress() const {
 }
 
 QString DryRunModel::result() const {
-    std::size_t gone = 0;
+    int gone = 0;
     std::size_t failed = 0;
     for (const Cleaner::Result& one : model_.lastResults()) {
         if (wasRemoved(one) && one.item.size >= 1) ++gone;
         if (std::holds_alternative<Cleaner::Failed>(one.status)) ++failed;
     }
-    QString line =
-        (gone == 1 ? tr("%1 · %2 item") : tr("%1 · %2 items")).arg(byteFigure(model_.reclaimedBytes())).arg(gone);
+    QString line = (gone == 1 ? tr("%1 · %2 item") : tr("%1 · %2 items", "", gone))
+                       .arg(byteFigure(model_.reclaimedBytes()))
+                       .arg(gone);
     if (failed > 0) line += tr(" · %1 skipped").arg(failed);
     return line;
 }

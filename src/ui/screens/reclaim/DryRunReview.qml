@@ -69,6 +69,7 @@ FocusScope {
         ToggleSwitch {
             id: toggle
 
+            anchors.left: parent.left
             objectName: "permanentSwitch"
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Delete permanently instead of moving to Trash — irreversible")
@@ -170,7 +171,8 @@ FocusScope {
         SymbolItem {
             id: sign
 
-            x: 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: parent.verticalCenter
             name: row.symbol
             color: Theme.inkSoft

@@ -85,6 +85,7 @@ Item {
                 T.Popup {
                     id: popover
 
+                    x: ReadingDirection.mirrored ? info.width - width : 0
                     y: info.height + 6
                     width: 360
                     height: page.implicitHeight + topPadding + bottomPadding
@@ -129,6 +130,7 @@ Item {
                                 spacing: 4
 
                                 Tag {
+                                    anchors.left: parent.left
                                     text: entry.modelData.word
                                     ink: entry.modelData.tint
                                     tint: 0.22

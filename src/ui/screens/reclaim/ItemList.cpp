@@ -46,7 +46,8 @@ ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup)
 }
 
 QString ItemList::footer() const {
-    return tr("%1 items selected").arg(tallies_.selected.items);
+    return tr("%1 items selected", "", forPlural(static_cast<std::int64_t>(tallies_.selected.items)))
+        .arg(tallies_.selected.items);
 }
 
 QString ItemList::footerBytes() const {
@@ -54,7 +55,7 @@ QString ItemList::footerBytes() const {
 }
 
 QString ItemList::ageText() const {
-    return ageDays() > 0 ? tr("%1 days").arg(ageDays()) : tr("all");
+    return ageDays() > 0 ? tr("%1 days", "", forPlural(ageDays())).arg(ageDays()) : tr("all");
 }
 
 QString ItemList::shownText() const {
@@ -72,13 +73,18 @@ QString ItemList::placeOf(const Row& row) {
 QString ItemList::figureOf(const Row& row) {
     if (!row.isGroup()) return byteFigure(static_cast<std::int64_t>(row.item->size));
     const CleanupGroup& content = row.group->content;
-    return QStringLiteral("%1 · ").arg(content.items.size()) + byteFigure(content.bytes());
+    return inReadingOrder(QStringLiteral("%1 · ").arg(content.items.size()) + byteFigure(content.bytes()));
 }
 
 QString ItemList::lineOf(const Row& row) const {
     if (row.isGroup()) return {};
-    if (row.item->method.kind == ReclaimMethod::Kind::command) return displayText(methodSummary(row.item->method));
+    const ReclaimMethod& method = row.item->method;
+    if (method.kind == ReclaimMethod::Kind::command) {
+        if (!app_.platform().locations.isSandboxed()) return displayText(methodSummary(method));
+        return tr("needs %1, which Flatpak’s sandbox does not have").arg(displayText(toolOf(method)));
+    }
     const std::string& application = cleanup_.selection().conflictOf(*row.item);
+    if (application == Cleaner::unknownApplication) return tr("may be in use: what runs can’t be seen from here");
     return application.empty() ? QString() : tr("quit %1 to clear").arg(displayText(application));
 }
 

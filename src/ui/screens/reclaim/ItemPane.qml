@@ -32,6 +32,7 @@ FocusScope {
         visible: pane.items.allYoung
         symbol: "clock.arrow.circlepath"
         title: qsTr("Nothing that old")
+        //: Where one reads from right to left, the slider begins at the right.
         note: qsTr("Everything found was in use more recently. Move the slider to the left to see it.")
     }
 
@@ -51,8 +52,13 @@ FocusScope {
         Keys.onSpacePressed: event => list.tick(event.isAutoRepeat)
         Keys.onReturnPressed: event => list.press(event.isAutoRepeat)
         Keys.onEnterPressed: event => list.press(event.isAutoRepeat)
-        Keys.onRightPressed: pane.items.setOpen(list.currentIndex, true)
-        Keys.onLeftPressed: {
+        Keys.onRightPressed: list.turn(ReadingDirection.rightward)
+        Keys.onLeftPressed: list.turn(-ReadingDirection.rightward)
+
+        // Opens the current group by 1, which is where its chevron points, or closes it by -1.
+        function turn(way: int) {
+            if (way > 0)
+                return pane.items.setOpen(list.currentIndex, true);
             const group = pane.items.groupRow(list.currentIndex);
             pane.items.setOpen(group, false);
             list.go(group);
@@ -150,7 +156,8 @@ FocusScope {
         CheckBox {
             id: box
 
-            x: row.group ? 38 : 66
+            anchors.left: parent.left
+            anchors.leftMargin: row.group ? 38 : 66
             anchors.verticalCenter: parent.verticalCenter
             text: row.name
             on: row.chosen

@@ -72,6 +72,7 @@ Column {
                     SymbolItem {
                         id: symbolItem
 
+                        anchors.left: parent.left
                         anchors.verticalCenter: parent.verticalCenter
                         name: "folder.fill"
                         color: Theme.accent
@@ -125,6 +126,7 @@ Column {
         id: addButton
 
         objectName: "addFolderButton"
+        anchors.left: parent.left
         symbol: "plus"
         focus: true
         text: qsTr("Add folder…")

@@ -29,7 +29,7 @@ SettingsScreenModel::SettingsScreenModel(AppModel& app, std::function<std::optio
 
 QString SettingsScreenModel::ageFilterText() const {
     return ageFilterDays() == 0 ? tr("Age filter default: all")
-                                : tr("Age filter default: %1 days").arg(ageFilterDays());
+                                : tr("Age filter default: %1 days", "", ageFilterDays()).arg(ageFilterDays());
 }
 int SettingsScreenModel::ageFilterDays() const {
     return static_cast<int>(app_.ageFilterDays());

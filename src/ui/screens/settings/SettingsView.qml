@@ -51,7 +51,8 @@ FocusScope {
             Column {
                 id: sections
 
-                x: view.side
+                anchors.left: parent.left
+                anchors.leftMargin: view.side
                 y: view.gap
                 width: Math.min(parent.width - 2 * view.side, 640 * TextScale.factor)
                 spacing: view.gap
@@ -138,6 +139,7 @@ FocusScope {
                 }
 
                 Button {
+                    anchors.left: parent.left
                     symbol: "arrow.clockwise"
                     text: qsTr("Re-scan now")
                     onClicked: view.settings.rescan()
@@ -157,7 +159,8 @@ FocusScope {
         spacing: section.carded ? 8 : 4
 
         Eyebrow {
-            leftPadding: section.carded ? 4 : 0
+            anchors.left: parent.left
+            anchors.leftMargin: section.carded ? 4 : 0
             text: section.title
         }
 

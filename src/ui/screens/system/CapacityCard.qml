@@ -74,6 +74,7 @@ SystemCard {
             spacing: 4
 
             AnimatedNumber {
+                anchors.left: parent.left
                 value: figure.value
                 pixelSize: 20
                 bold: true

@@ -69,6 +69,7 @@ SystemCard {
         Tile {
             id: tile
 
+            anchors.left: parent.left
             y: 12
             symbol: "externaldrive.fill"
             tint: Theme.inkSoft

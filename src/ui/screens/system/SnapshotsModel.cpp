@@ -58,8 +58,9 @@ QString SnapshotsModel::note() const {
 QString SnapshotsModel::more() const {
     const std::size_t left = listing_.snapshots.size() - std::min(listing_.snapshots.size(), most_);
     if (left == 0) return {};
-    return left == 1 ? tr("1 more snapshot is not shown.")
-                     : tr("%1 more snapshots are not shown.").arg(groupedFigure(static_cast<std::int64_t>(left)));
+    if (left == 1) return tr("1 more snapshot is not shown.");
+    const auto count = static_cast<std::int64_t>(left);
+    return tr("%1 more snapshots are not shown.", "", forPlural(count)).arg(groupedFigure(count));
 }
 
 QString SnapshotsModel::output() const {
@@ -163,14 +164,14 @@ void SnapshotsModel::act(Action action) {
     showOutput(std::nullopt);
     const std::optional<std::string> line =
         action_.snapshot ? deleteLine(listing_.keeper, *action_.snapshot) : thinLine(listing_);
-    if (!line) return finish(refusedAnswer);
+    if (!line) return finish(refusedAnswer());
 
     // Quitting asks first: a command that is cut off has removed some of what it was to remove.
     removal_ = app_.removals().begin(1);
     if (!isUsersOwn(listing_)) return askAdministrator(*line);
     const auto runOwn = [this, mainThread = mainThread_.sender(), &processes = app_.platform().processes, line = *line,
                          removal = removal_] {
-        std::optional<std::string> own = refusedAnswer;
+        std::optional<std::string> own = refusedAnswer();
         if (removal->mayBegin()) own = runAsUser(processes, line);
         mainThread.post([this, line, answer = std::move(own)] {
             if (answer)
@@ -183,7 +184,7 @@ void SnapshotsModel::act(Action action) {
 }
 
 void SnapshotsModel::askAdministrator(const std::string& line) {
-    if (!removal_->mayBegin()) return finish(refusedAnswer);
+    if (!removal_->mayBegin()) return finish(refusedAnswer());
     app_.admin().runAdmin(line, [self = QPointer<SnapshotsModel>(this)](const std::string& answer) {
         if (self) self->finish(answer);
     });
@@ -207,7 +208,7 @@ std::string SnapshotsModel::outcomeOf(const Action& action) const {
     const SnapshotListing& before = action.before;
     std::string text = action.answer;
     if (before.keeper != SnapshotKeeper::snapper || wasNotAllowed(text)) return text;
-    if (!text.empty() && text.back() != '\n' && text != refusedAnswer) text += '\n';
+    if (!text.empty() && text.back() != '\n' && text != refusedAnswer()) text += '\n';
     const bool comparable = isUsersOwn(before) && isUsersOwn(listing_) && before.config == listing_.config;
     if (!comparable) return text + tr("What was removed is not known: the list could not be read.").toStdString();
     const std::set<std::string> now = identifiersOf(listing_.snapshots);

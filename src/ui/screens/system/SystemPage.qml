@@ -46,7 +46,8 @@ ScrollArea {
     Column {
         id: column
 
-        x: Theme.pageMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.pageMargin
         y: 24
         width: Math.min(page.width - 2 * Theme.pageMargin, page.cardWidth)
         spacing: 16
@@ -97,12 +98,11 @@ ScrollArea {
             width: parent.width
             visible: page.snapshots.output !== ""
 
-            Label {
+            PrintedText {
                 objectName: "snapshotOutput"
                 width: outputCard.availableWidth
                 text: page.snapshots.output
                 size: 12
-                font.family: Theme.fixedFont
                 wrapMode: Text.Wrap
                 Accessible.role: Accessible.AlertMessage
             }

@@ -63,7 +63,7 @@ double SystemScreenModel::purgeableBytes() const {
 
 QString SystemScreenModel::skippedLine() const {
     if (skipped_ <= 0) return {};
-    return tr("%1 folders skipped during the scan — normal.").arg(groupedFigure(skipped_));
+    return tr("%1 folders skipped during the scan — normal.", "", forPlural(skipped_)).arg(groupedFigure(skipped_));
 }
 
 void SystemScreenModel::explain(int row) {

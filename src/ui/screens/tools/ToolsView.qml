@@ -35,8 +35,11 @@ FocusScope {
         Column {
             id: rows
 
-            width: parent.width
-            padding: Theme.pageMargin
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.pageMargin
+            width: Math.min(parent.width - 2 * Theme.pageMargin, Theme.pageWidth)
+            topPadding: Theme.pageMargin
+            bottomPadding: Theme.pageMargin
             spacing: 12
 
             Repeater {
@@ -48,7 +51,7 @@ FocusScope {
                     required property int index
                     required property toolFace modelData
 
-                    width: Math.min(rows.width - 2 * rows.padding, Theme.pageWidth)
+                    width: rows.width
                     focus: row.index === 0
                     text: row.modelData.spoken
                     padding: 16
@@ -83,6 +86,7 @@ FocusScope {
                         Tile {
                             id: tile
 
+                            anchors.left: parent.left
                             anchors.verticalCenter: parent.verticalCenter
                             symbol: row.modelData.look.symbol
                             tint: row.modelData.look.color

@@ -16,6 +16,7 @@ ListRow {
     required property bool removable
     required property bool ticked
     required property string note
+    required property string mark
     required property string reason
     required spoken
 
@@ -111,7 +112,8 @@ ListRow {
 
         Tag {
             anchors.verticalCenter: parent.verticalCenter
-            text: qsTr("system")
+            visible: text !== ""
+            text: row.mark
             mute: true
             ink: Theme.inkSoft
             tint: 0.14

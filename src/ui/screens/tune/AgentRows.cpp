@@ -17,7 +17,7 @@ constexpr int iconSide = 44;  // drawn at 22 points, and still sharp on a screen
 }  // namespace
 
 AgentRows::AgentRows(const TuneModel& tune, Workspace& workspace)
-    : RowModel({"label", "place", "icon", "removable", "ticked", "note", "reason", "spoken"}),
+    : RowModel({"label", "place", "icon", "removable", "ticked", "note", "mark", "reason", "spoken"}),
       tune_(tune),
       icons_(workspace, DesktopIcons::Of::programs) {}
 
@@ -27,6 +27,10 @@ void AgentRows::show(std::vector<Agent> agents) {
 
 std::string AgentRows::pathAt(int row) const {
     return has(row) ? agents_[static_cast<std::size_t>(row)].path : std::string();
+}
+
+QString AgentRows::markOf(const Agent& agent) {
+    return agent.removable || agent.mayReplace ? QString() : tr("system");
 }
 
 QVariant AgentRows::value(std::size_t row, int role) const {
@@ -43,14 +47,17 @@ QVariant AgentRows::value(std::size_t row, int role) const {
         case tickedRole:
             return agent.removable && tune_.selected().contains(agent.path);
         case noteRole:
+            if (agent.mayReplace) return tr("not removable here");
             return agent.replaces ? tr("in place of the system's own") : QString();
+        case markRole:
+            return markOf(agent);
         case reasonRole:
             if (agent.removable) return QString();
+            if (agent.mayReplace) return tr("Not removable here: what would start in its place can’t be seen.");
             return agent.replaces ? tr("Not removable: without it the system's own item would start.")
                                   : tr("Not removable: it belongs to the system.");
         case spokenRole:
-            return AccessibleText::joined(
-                {displayText(agent.label), displayText(agent.path), agent.removable ? QString() : tr("system")});
+            return AccessibleText::joined({displayText(agent.label), displayText(agent.path), markOf(agent)});
         default:
             return {};
     }

@@ -28,6 +28,7 @@ public:
         removableRole,
         tickedRole,
         noteRole,    ///< what is special about an item that is not removable; often empty
+        markRole,    ///< whose it is, of an item of the system
         reasonRole,  ///< why it is not removable, as a sentence; empty if it is
         spokenRole
     };
@@ -45,6 +46,8 @@ public:
 private:
     std::size_t size() const override { return agents_.size(); }
     QVariant value(std::size_t row, int role) const override;
+
+    static QString markOf(const Agent& agent);
 
     const TuneModel& tune_;
     mutable DesktopIcons icons_;

@@ -34,13 +34,13 @@ Item {
         Keys.onUpPressed: area.scrollTo(area.contentY - 40)
         Keys.onDownPressed: area.scrollTo(area.contentY + 40)
 
-        Label {
+        PrintedText {
             id: lines
 
+            anchors.left: parent.left
             width: area.width - 16
             text: paper.words
             size: 11
-            font.family: Theme.fixedFont
             wrapMode: Text.WrapAnywhere
             mute: true
         }

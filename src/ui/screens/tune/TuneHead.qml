@@ -20,7 +20,8 @@ Item {
     Column {
         id: sections
 
-        x: Theme.pageMargin
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.pageMargin
         y: 20
         width: Math.min(head.width - 2 * Theme.pageMargin, Theme.pageWidth)
         spacing: 16
@@ -46,6 +47,7 @@ Item {
                     Eyebrow {
                         id: caption
 
+                        anchors.left: parent.left
                         text: qsTr("Maintenance")
                     }
 

@@ -27,8 +27,8 @@ FocusScope {
 
     implicitHeight: column.implicitHeight + 2 * 8
 
-    Keys.onLeftPressed: panel.turn(panel.welcome.back)
-    Keys.onRightPressed: panel.turn(panel.welcome.next)
+    Keys.onLeftPressed: panel.turn(ReadingDirection.mirrored ? panel.welcome.next : panel.welcome.back)
+    Keys.onRightPressed: panel.turn(ReadingDirection.mirrored ? panel.welcome.back : panel.welcome.next)
 
     Column {
         id: column
@@ -48,7 +48,8 @@ FocusScope {
                 id: pages
 
                 objectName: "welcomePages"
-                x: -panel.welcome.page * stage.width
+                // The first page is at the end where reading begins.
+                x: ReadingDirection.mirrored ? (panel.welcome.page + 1) * stage.width - pages.width : -panel.welcome.page * stage.width
 
                 Behavior on x {
                     enabled: !Motion.reduced
