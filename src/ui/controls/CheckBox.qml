@@ -34,10 +34,6 @@ T.CheckBox {
         control: box
     }
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
-
     background: Item {
         Rectangle {
             anchors.centerIn: parent

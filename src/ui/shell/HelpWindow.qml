@@ -205,10 +205,6 @@ SecondaryWindow {
             control: row
         }
 
-        HoverHandler {
-            cursorShape: Qt.PointingHandCursor
-        }
-
         background: Rectangle {
             radius: 8
             color: row.current ? Qt.alpha(row.modelData.tint, 0.18) : "transparent"

@@ -101,10 +101,6 @@ Column {
             control: row
         }
 
-        HoverHandler {
-            cursorShape: Qt.PointingHandCursor
-        }
-
         background: Rectangle {
             radius: 8
             color: place.selected ? Qt.alpha(place.tint, Theme.isDark ? 0.18 : 0.16) : row.hovered || row.down ? Theme.hairline : "transparent"

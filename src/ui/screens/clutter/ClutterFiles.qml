@@ -156,8 +156,6 @@ FocusScope {
 
         implicitHeight: Math.max(tile.height, texts.implicitHeight) + 2 * 10
 
-        Accessible.role: Accessible.ListItem
-
         Rectangle {
             id: ground
 

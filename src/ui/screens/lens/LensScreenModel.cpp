@@ -76,7 +76,7 @@ LensScreenModel::~LensScreenModel() {
 QString LensScreenModel::place() const {
     const NodeRef node = walk_.currentNode();
     if (!node) return QStringLiteral("—");
-    return isAboveRoots() ? tr("Surveyed folders") : displayText(lastComponent(node->fullPath()));
+    return isAboveRoots() ? tr("Surveyed folders") : nameText(node->fullPath());
 }
 
 /// "1 folders" is as intended: the word labels a count rather than agreeing with it.

@@ -51,7 +51,13 @@ std::int64_t purgeableBytes(const AppModel& app) {
 
 }  // namespace
 
-FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app) {
+FindingsModel::FindingsModel(AppModel& app, QObject* parent)
+    : QObject(parent),
+      app_(app),
+      cards_{lookOf(Screen::reclaim),
+             lookOf(Screen::clutter),
+             {tr("Downloads"), {}, QStringLiteral("arrow.down.circle"), QColor(86, 194, 245)},
+             lookOf(Screen::system)} {
     for (const auto changedField : {&AppModel::scanPhaseChanged, &AppModel::reclaimablesChanged,
                                     &AppModel::insightsChanged, &AppModel::rootChanged, &AppModel::volumeChanged})
         connect(&app, changedField, this, &FindingsModel::refresh);

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <string_view>
 #include <utility>
 
 #include "state/AppModel.h"
@@ -22,18 +21,13 @@ std::int64_t growth(std::int64_t before, std::int64_t now) {
     return std::max(grown, -most);
 }
 
-/// The last component, or "/" for the root directory.
-std::string_view lastComponent(std::string_view path) {
-    return path == "/" ? path : path.substr(path.rfind('/') + 1);
-}
-
 }  // namespace
 
 ChangesModel::ChangesModel(QObject* parent)
     : RowModel(rows_,
                {{"heading", [](const Row& row) { return row.heading; }},
                 {"kind", [](const Row& row) { return static_cast<int>(row.kind); }},
-                {"name", [](const Row& row) { return displayText(lastComponent(row.change.path)); }},
+                {"name", [](const Row& row) { return nameText(row.change.path); }},
                 {"path", [](const Row& row) { return displayText(row.change.path); }},
                 {"size", sizeText}},
                parent) {}

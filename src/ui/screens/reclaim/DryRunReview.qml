@@ -161,8 +161,6 @@ FocusScope {
 
         implicitHeight: Math.max(texts.implicitHeight, trailing.implicitHeight) + 2 * 6
 
-        Accessible.role: Accessible.ListItem
-
         FocusRing {
             shown: row.ringed
             corner: 8

@@ -187,7 +187,6 @@ Sheet {
 
         implicitHeight: texts.implicitHeight + 2 * 4
         spoken: AccessibleText.joined([row.modelData.name, row.modelData.reason])
-        Accessible.role: Accessible.ListItem
 
         FocusRing {
             shown: row.ringed
