@@ -104,14 +104,23 @@ TEST_P(RealStartsAt, startsWithAndWithoutBusMeet) {
     EXPECT_EQ(end(first, SIGTERM), 0);
 }
 
-TEST_P(RealStartsAt, windowNeedsNoRuntimeFolder) {
-    environment["XDG_RUNTIME_DIR"] = temp / "missing";
-    const pid_t first = start();
-    const std::string fallback = temp / "tmp/io.github.zelk.Zelk-" + std::to_string(::geteuid());
-    EXPECT_TRUE(waitUntil(first, [&] { return listens(fallback + "/socket"); })) << said();
-    EXPECT_EQ(statusOf(start()), 0);
-    EXPECT_FALSE(hasEnded(first));
-    EXPECT_EQ(end(first, SIGTERM), 0);
+TEST_P(RealStartsAt, needNoRuntimeFolder) {
+    const std::string unwritable = temp / "unwritable";
+    std::filesystem::create_directory(unwritable);
+    std::filesystem::permissions(unwritable, std::filesystem::perms::owner_read);
+    // Qt makes a missing one itself, after the first start has looked for it and before the next one does.
+    for (const std::string& runtime : {temp / "missing", unwritable, std::string("/dev/null"), std::string()}) {
+        environment["XDG_RUNTIME_DIR"] = runtime;
+        if (runtime.empty()) environment.erase("XDG_RUNTIME_DIR");
+        const pid_t first = start();
+        const std::string fallback = temp / "tmp/io.github.zelk.Zelk-" + std::to_string(::geteuid());
+        EXPECT_TRUE(waitUntil(first, [&] { return listens(fallback + "/socket"); })) << runtime << said();
+        EXPECT_EQ(statusOf(start()), 0) << runtime;
+        environment["XDG_RUNTIME_DIR"] = temp / "runtime";
+        EXPECT_EQ(statusOf(start()), 0) << runtime << ": one that has it";
+        EXPECT_FALSE(hasEnded(first)) << runtime;
+        EXPECT_EQ(end(first, SIGTERM), 0) << runtime;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Starts, RealStartsAt, testing::Bool(),

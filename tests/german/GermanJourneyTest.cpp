@@ -45,18 +45,18 @@ TEST_F(InGerman, saysWhatASurveyFound) {
     EXPECT_TRUE(says("Sie können zurückgewinnen"));
     EXPECT_TRUE(says("aus 6 Objekten · am meisten Platz: Videos"));
     EXPECT_TRUE(says("6 Objekte Datenmüll"));
-    EXPECT_TRUE(says("2 große Dateien"));
+    EXPECT_TRUE(says("250 große Dateien"));
     EXPECT_TRUE(says("3 GB"));
 }
 
 TEST_F(InGerman, cleansAndCountsInGerman) {
     surveyInGerman();
     open(Screen::reclaim);
-    EXPECT_TRUE(says("Yarn-Zwischenspeicher"));
+    EXPECT_TRUE(says("Yarn-Cache"));
     EXPECT_TRUE(says("Füllt sich beim nächsten Installieren neu."));
     EXPECT_TRUE(says("3 Objekte · 59 MB"));
-    clickText("Yarn-Zwischenspeicher");
-    clickText("npm-Zwischenspeicher");
+    clickText("Yarn-Cache");
+    clickText("npm-Cache");
     EXPECT_TRUE(says("1 Objekt · 4 MB")) << "the singular";
     click("reviewButton");
     untilReviewed();

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -95,6 +96,17 @@ TEST_F(HostQuestions, findNothingThatDoesNotRun) {
     const auto running = ask();
     ASSERT_TRUE(running);
     EXPECT_THAT(running->names, testing::Not(Contains("The program")));
+}
+
+TEST_F(HostQuestions, readEntriesAndNothingElse) {
+    start();
+    fakes::writeFile(data / "applications/notes.txt",
+                     "[Desktop Entry]\nType=Application\nName=No entry\nExec=\"" + program + "\"\n");
+    ASSERT_EQ(::mkfifo((data / "applications/pipe.desktop").c_str(), 0600), 0);
+    const auto running = ask();
+    ASSERT_TRUE(running) << "nobody ever writes to the pipe";
+    EXPECT_THAT(running->names, Contains("The program"));
+    EXPECT_THAT(running->names, testing::Not(Contains("No entry")));
 }
 
 TEST_F(HostQuestions, goToTheHostAndEndWithTheOneWhoAsks) {

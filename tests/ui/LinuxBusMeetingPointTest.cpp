@@ -175,7 +175,8 @@ TEST_F(LinuxBusMeetingPoint, isImpossibleIfBusRefusesTheName) {
     const zoo::TempFolder temp;
     fakes::writeFile(temp / "bus.conf",
                      "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen><policy context=\"default\">"
-                     "<allow send_destination=\"*\"/><allow receive_type=\"method_call\"/><deny own=\"*\"/></policy>"
+                     "<allow send_destination=\"*\" eavesdrop=\"true\"/><allow eavesdrop=\"true\"/><deny own=\"*\"/>"
+                     "</policy>"
                      "</busconfig>");
     const fakes::SessionBus strict("--config-file=" + temp / "bus.conf");
     BusMeetingPoint refused([&] { return strict.connect("first"); });

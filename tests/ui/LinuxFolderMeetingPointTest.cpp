@@ -34,7 +34,7 @@ const Activation startFromPanel{QStringLiteral("token"), QStringLiteral("id_TIME
 class LinuxFolderMeetingPoint : public testing::Test {
 protected:
     std::unique_ptr<FolderMeetingPoint> point(int patience = unlimitedSlices) const {
-        return std::make_unique<FolderMeetingPoint>(std::vector<Place>{{temp.path(), "zelk"}}, patience);
+        return std::make_unique<FolderMeetingPoint>(Place{temp.path(), "zelk"}, patience);
     }
     /// The first, which comes forward if `comes`, and notes by what.
     std::unique_ptr<FolderMeetingPoint> first(bool comes = true) {
@@ -63,15 +63,11 @@ protected:
         for (std::thread& thread : threads) thread.join();
         return answers;
     }
-    /// Which of these places, each below `temp`, is used; empty if none.
-    std::string used(const std::vector<Place>& places) const {
-        FolderMeetingPoint made(places);
-        if (made.claim() != Claim::held) return {};
-        for (const Place& place : places) {
-            FolderMeetingPoint other({place});
-            if (other.claim() == Claim::taken) return place.parent + "/" + place.name;
-        }
-        return "elsewhere";
+    static bool isUsable(const Place& place) {
+        FolderMeetingPoint made(place);
+        if (made.claim() != Claim::held) return false;
+        EXPECT_EQ(FolderMeetingPoint(place).claim(), Claim::taken);
+        return fs::is_directory(place.parent + "/" + place.name);
     }
     void makeFolder(const std::string& path, mode_t mode) const {
         ASSERT_EQ(::mkdir(path.c_str(), mode), 0);
@@ -96,7 +92,7 @@ TEST_F(LinuxFolderMeetingPoint, isFreeAfterItsHolderWasKilled) {
     const std::string place = temp.path();
     const pid_t child = ::fork();
     if (child == 0) {
-        FolderMeetingPoint held({{place, "zelk"}});
+        FolderMeetingPoint held({place, "zelk"});
         if (held.claim() != Claim::held) ::_exit(1);
         held.announce();
         ::kill(::getpid(), SIGKILL);
@@ -140,7 +136,7 @@ TEST_F(LinuxFolderMeetingPoint, leavesNoDescriptors) {
         const auto second = point(1);
         ASSERT_EQ(second->claim(), Claim::taken);
         EXPECT_EQ(second->call(startFromPanel), Answer::silent);
-        FolderMeetingPoint refused({{"/", "tmp", true}});
+        FolderMeetingPoint refused({"/", "tmp", true});
         EXPECT_EQ(refused.claim(), Claim::impossible) << "others may write to it";
     }
     EXPECT_EQ(fakes::openDescriptors(), open);
@@ -205,7 +201,7 @@ TEST_F(LinuxFolderMeetingPoint, hearsWithoutActivationAndWithOneTooLong) {
     std::vector<std::unique_ptr<FolderMeetingPoint>> others;
     others.push_back(point());
     ASSERT_EQ(others[0]->claim(), Claim::taken);
-    const Activation tooLong{QString(5000, QLatin1Char('x')), {}};
+    const Activation tooLong{QStringLiteral("token"), QString(5000, QLatin1Char('x'))};
     EXPECT_THAT(answersTo(others, {}), ElementsAre(Answer::heard));
     EXPECT_THAT(answersTo(others, tooLong), ElementsAre(Answer::heard));
     EXPECT_THAT(asked, ElementsAre(Activation(), Activation()));
@@ -214,11 +210,11 @@ TEST_F(LinuxFolderMeetingPoint, hearsWithoutActivationAndWithOneTooLong) {
 TEST_F(LinuxFolderMeetingPoint, hasRoomForLongPaths) {
     const std::string deep = temp / std::string(200, 'd');
     makeFolder(deep, 0700);
-    FolderMeetingPoint held({{deep, "zelk"}});
+    FolderMeetingPoint held({deep, "zelk"});
     ASSERT_EQ(held.claim(), Claim::held);
     held.announce();
     std::vector<std::unique_ptr<FolderMeetingPoint>> others;
-    others.push_back(std::make_unique<FolderMeetingPoint>(std::vector<Place>{{deep, "zelk"}}, unlimitedSlices));
+    others.push_back(std::make_unique<FolderMeetingPoint>(Place{deep, "zelk"}, unlimitedSlices));
     ASSERT_EQ(others[0]->claim(), Claim::taken);
     EXPECT_THAT(answersTo(others, {}), ElementsAre(Answer::heard));
 }
@@ -230,52 +226,52 @@ TEST_F(LinuxFolderMeetingPoint, isPrivate) {
     EXPECT_EQ(fs::status(temp / "zelk").permissions(), fs::perms::owner_all);
 }
 
-TEST_F(LinuxFolderMeetingPoint, usesFirstPlaceThatItCan) {
-    makeFolder(temp / "a", 0700);
-    makeFolder(temp / "b", 0700);
-    EXPECT_EQ(used({{temp / "a", "zelk"}, {temp / "b", "zelk"}}), temp / "a/zelk");
-    EXPECT_EQ(used({{temp / "missing", "zelk"}, {temp / "b", "zelk"}}), temp / "b/zelk");
-    EXPECT_EQ(used({{"", "zelk"}, {temp / "b", "zelk"}}), temp / "b/zelk");
-    EXPECT_EQ(used({{"relative", "zelk"}, {temp / "b", "zelk"}}), temp / "b/zelk");
-    EXPECT_EQ(used({{temp / "missing", "zelk"}}), "");
-    EXPECT_EQ(used({}), "");
+TEST_F(LinuxFolderMeetingPoint, needsAnAbsoluteFolderThatExists) {
+    EXPECT_TRUE(isUsable({temp.path(), "zelk"}));
+    EXPECT_TRUE(isUsable({temp.path(), "zelk"})) << "it is there already";
+    for (const std::string& parent : {temp / "missing", std::string(), std::string("relative")})
+        EXPECT_FALSE(isUsable({parent, "zelk"})) << parent;
+}
+
+TEST_F(LinuxFolderMeetingPoint, refusesRelativeFolderThatExists) {
+    const fs::path before = fs::current_path();
+    makeFolder(temp / "relative", 0700);
+    fs::current_path(temp.path());
+    EXPECT_FALSE(isUsable({"relative", "zelk"}));
+    fs::current_path(before);
 }
 
 TEST_F(LinuxFolderMeetingPoint, refusesFilesAndLinksInItsPlace) {
     fakes::writeFile(temp / "file", "");
     makeFolder(temp / "elsewhere", 0700);
     fs::create_symlink(temp / "elsewhere", temp / "link");
-    EXPECT_EQ(used({{temp.path(), "file"}}), "");
-    EXPECT_EQ(used({{temp.path(), "link"}}), "");
-    EXPECT_EQ(used({{temp / "file", "zelk"}}), "");
+    EXPECT_FALSE(isUsable({temp.path(), "file"}));
+    EXPECT_FALSE(isUsable({temp.path(), "link"}));
+    EXPECT_FALSE(isUsable({temp / "file", "zelk"}));
 }
 
 TEST_F(LinuxFolderMeetingPoint, refusesWhatOthersMayWriteTo) {
     makeFolder(temp / "group", 0720);
     makeFolder(temp / "others", 0702);
     makeFolder(temp / "readable", 0755);
-    EXPECT_EQ(used({{temp.path(), "group"}}), "");
-    EXPECT_EQ(used({{temp.path(), "others"}}), "");
-    EXPECT_EQ(used({{temp.path(), "readable"}}), temp / "readable");
+    EXPECT_FALSE(isUsable({temp.path(), "group"}));
+    EXPECT_FALSE(isUsable({temp.path(), "others"}));
+    EXPECT_TRUE(isUsable({temp.path(), "readable"}));
 }
 
 TEST_F(LinuxFolderMeetingPoint, refusesFoldersOfOthers) {
     // /tmp could be written to, and /usr is as private as it should be.
     const std::string unique = fs::path(temp.path()).filename().string() + "-of-others";
     EXPECT_TRUE(fakes::asOrdinaryUser([&] {
-        return used({{"/tmp", unique}}).empty() && used({{"/", "usr", true}}).empty() &&
-               used({{"/tmp", unique, true}}) == "/tmp/" + unique && ::rmdir(("/tmp/" + unique).c_str()) == 0;
+        return !isUsable({"/tmp", unique}) && !isUsable({"/", "usr", true}) && isUsable({"/tmp", unique, true}) &&
+               ::rmdir(("/tmp/" + unique).c_str()) == 0;
     }));
 }
 
-TEST_F(LinuxFolderMeetingPoint, usesNextPlaceIfOneCannotBeWrittenTo) {
+TEST_F(LinuxFolderMeetingPoint, refusesFolderThatCannotBeWrittenTo) {
     makeFolder(temp / "readonly", 0500);
-    makeFolder(temp / "other", 0700);
     fakes::giveToOrdinaryUser(temp.path());
-    EXPECT_TRUE(fakes::asOrdinaryUser([&] {
-        return used({{temp / "readonly", "zelk"}, {temp / "other", "zelk"}}) == temp / "other/zelk" &&
-               used({{temp / "readonly", "zelk"}}).empty();
-    }));
+    EXPECT_TRUE(fakes::asOrdinaryUser([&] { return !isUsable({temp / "readonly", "zelk"}); }));
 }
 
 TEST_F(LinuxFolderMeetingPoint, usualPlacesAreThoseOfTheEnvironment) {

@@ -2,6 +2,9 @@
 #include "MirrorCheck.h"
 
 #include <gmock/gmock.h>
+#include <QGuiApplication>
+
+#include <QGuiApplication>
 
 #include "ViewFixture.h"
 #include "fakes/RightToLeft.h"
@@ -54,7 +57,8 @@ TEST_F(MirrorCheckWindow, findsWhatStaysAtItsPlace) {
 
 TEST_F(MirrorCheckWindow, findsControlsThatPaintNothingThemselves) {
     EXPECT_THAT(findings(R"(IconButton { x: 7; width: 30; height: 30; symbol: "plus"; text: "Add" })"),
-                ElementsAre(HasSubstr("IconButton \"Add\" is at 7, not at 263"), HasSubstr("SymbolItem \"plus\"")));
+                ElementsAre(HasSubstr("IconButton \"Add\" is at 7, not at 263"), HasSubstr("HoverOverlay"),
+                            HasSubstr("SymbolItem \"plus\"")));
 }
 
 TEST_F(MirrorCheckWindow, findsWhatHasAnotherWidth) {

@@ -100,7 +100,7 @@ Window {
             anchors.horizontalCenter: parent.horizontalCenter
             text: "None"
 
-            MenuRow { objectName: "all"; text: "All of those that are there"; shortcutText: "Ctrl+1" }
+            MenuRow { objectName: "all"; text: "All those that are there"; shortcutText: "Ctrl+1" }
         }
         RowList {
             objectName: "list"
@@ -222,7 +222,7 @@ TEST_F(MirroredControls, menuOpensBelowTheRightEndOfItsButton) {
     ASSERT_NE(find("all"), nullptr);
     EXPECT_NEAR(box("all").right() + 5, box("button").right(), 1) << "within its padding";
     EXPECT_GT(box("all").width(), box("button").width());
-    EXPECT_GT(boxOf(showing("All of those that are there")).left(), boxOf(showing("Ctrl+1")).right());
+    EXPECT_GT(boxOf(showing("All those that are there")).left(), boxOf(showing("Ctrl+1")).right());
 }
 
 TEST_F(MirroredControls, narrowRowsStandAtTheRight) {

@@ -93,7 +93,7 @@ TEST_F(TextCheckWindow, findsTextsThatAreNotTranslated) {
 TEST_F(TextCheckWindow, acceptsFiguresPathsAndAllowedNames) {
     check.allow(QStringLiteral("Movies"));
     EXPECT_THAT(findings(R"(
-        Text { text: "Movies" } Text { text: "1,234" } Text { text: "1.2 GB" } Text { text: "62%" } Text { text: "Ctrl+1" }
+        Text { text: "Movies" } Text { text: "1,234" } Text { text: "1.2 GB" } Text { text: "390,7 MB  +277 MB" } Text { text: "62%" } Text { text: "Ctrl+1" }
         Text { text: "/usr/lib" } Text { text: "~/Library" } Text { text: "…s/Caches" } Text { text: " " } Text { text: "·" })"),
                 IsEmpty());
 }

@@ -43,7 +43,7 @@ class Facts:
         lists = root / "CMakeLists.txt"
         translated = sorted(name.stem.removeprefix("zelk_") for name in (root / "translations").glob("zelk_*.ts"))
         return Facts(version=only(r"project\(Zelk VERSION ([0-9.]+) ", lists),
-                     minimum=only(r"set\(CMAKE_OSX_DEPLOYMENT_TARGET ([0-9.]+) ", lists),
+                     minimum=only(r"set\(CMAKE_OSX_DEPLOYMENT_TARGET ([0-9.]+)\)", lists),
                      translated=translated)
 
     def entries(self):

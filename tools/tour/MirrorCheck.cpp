@@ -63,10 +63,15 @@ void gather(const QQuickItem& item, Frame frame, Places& places) {
     for (const QQuickItem* child : item.childItems()) gather(*child, frame, places);
 }
 
+void layOut(QQuickItem& item) {
+    item.ensurePolished();
+    for (QQuickItem* child : item.childItems()) layOut(*child);
+}
+
 Places placesIn(QQuickWindow& window, Qt::LayoutDirection direction) {
     QGuiApplication::setLayoutDirection(direction);
-    // What moves places things that others depend on, so one frame is not enough.
-    for (int frame = 0; frame < 2; ++frame) window.grabWindow();
+    // What is placed may move what others depend on, so once is not enough. A frame would do the same, but paint too.
+    for (int round = 0; round < 3; ++round) layOut(*window.contentItem());
     Places places;
     gather(*window.contentItem(), {0, static_cast<double>(window.width())}, places);
     return places;

@@ -93,9 +93,9 @@ void TextCheck::lookAt(QQuickItem& item, const QRectF& shown, const QString& pic
 
 bool TextCheck::sameEverywhere(const QString& text) const {
     static const QRegularExpression figure(
-        QStringLiteral("^[-+−×]?[\\d.,\\s]+(bytes|KB|MB|GB|TB|PB|EB|%|/s)?$|^[~/"
-                       "…].*$|^(Ctrl|Strg|Alt|Shift|Umschalt|Meta)\\+.+$|^\\W+$"));
-    static const QRegularExpression divider(QStringLiteral("\\s*·\\s*"));
+        QStringLiteral("^[-+−×]?[\\d.,\\s]+(bytes|KB|MB|GB|TB|PB|EB|%|/s)?$"
+                       "|^[~/…].*$|^(Ctrl|Strg|Alt|Shift|Umschalt|Meta)\\+.+$|^\\W+$"));
+    static const QRegularExpression divider(QStringLiteral("\\s*·\\s*|\\s{2,}"));
     const QStringList parts = text.split(divider, Qt::SkipEmptyParts);
     return names_.contains(text) || std::all_of(parts.begin(), parts.end(), [&](const QString& part) {
                return isTranslated(part) || figure.match(part).hasMatch() || names_.contains(part);

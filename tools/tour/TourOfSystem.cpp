@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <QGuiApplication>
 #include <QQuickItem>
 
 #include "Camera.h"
-#include "PseudoLanguage.h"
 #include "Tour.h"
+#include "system/CommandText.h"
+#include "ui/screens/system/SnapshotsModel.h"
 
 namespace zelk::tour {
 
@@ -59,10 +59,9 @@ QStringList textsOfSnapshots() {
     QStringList texts;
     for (const PicturedSnapshot& one : pictured) texts.append(QString::fromLatin1(one.description));
     const auto answer = [](const ChildOutcome& outcome) {
-        return QStringLiteral("cancelled or failed: ") + QString::fromStdString(outcome.output);
+        return QString::fromStdString(refusedAnswer() + outcome.output);
     };
-    texts.append(answer(longAnswer()) + PseudoLanguage::spelled(QStringLiteral("The snapshot is still there."),
-                                                                QGuiApplication::layoutDirection()));
+    texts.append(answer(longAnswer()) + SnapshotsModel::tr("The snapshot is still there."));
     texts.append(answer(dismissed()));
     return texts;
 }

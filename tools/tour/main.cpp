@@ -66,6 +66,8 @@ void allowNames(zelk::AppModel& app, zelk::tour::TextCheck& texts) {
     for (const zelk::LargeFile& file : app.insights().topFiles) texts.allow(zelk::nameText(file.path));
     for (const zelk::LargeFile& image : app.insights().diskImages) texts.allow(zelk::nameText(image.path));
     for (const QString& text : zelk::tour::textsOfSnapshots()) texts.allow(text);
+    for (const zelk::FolderChange& change : app.folderChanges().value_or(zelk::FolderChanges()).gone)
+        texts.allow(zelk::nameText(change.path));
     for (const zelk::DuplicateGroup& group : app.duplicates().groups())
         for (const std::string& path : group.paths) texts.allow(zelk::displayText(path));
     // What a command answered, or the runner's own word for one that printed nothing.

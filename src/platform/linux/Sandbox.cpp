@@ -28,7 +28,7 @@ constexpr const char* usualName = "io.github.zelk.Zelk";
 /// What a runtime brings along, and what a sandbox keeps for its processes alone. Not all of /run and /var: removable
 /// disks are in the one, and some distributions have the homes in the other.
 constexpr std::array<std::string_view, 16> runtimeFolders{
-    "/app", "/bin",     "/etc",      "/lib",       "/lib32",      "/lib64",    "/sbin",    "/tmp",
+    "/app", "/bin",   "/etc",      "/lib",       "/lib32",      "/lib64",    "/sbin",    "/tmp",
     "/usr", hostRoot, "/run/user", "/var/cache", "/var/config", "/var/data", "/var/lib", "/var/tmp"};
 
 /// The name of the application in the description of its sandbox.

@@ -87,8 +87,7 @@ Activation activationFrom(const std::string& request) {
 
 }  // namespace
 
-FolderMeetingPoint::FolderMeetingPoint(std::vector<Place> places, int patience)
-    : places_(std::move(places)), patience_(patience) {}
+FolderMeetingPoint::FolderMeetingPoint(Place place, int patience) : place_(std::move(place)), patience_(patience) {}
 
 /// The socket's file stays, as it may belong to the next holder by then.
 FolderMeetingPoint::~FolderMeetingPoint() {
@@ -109,7 +108,7 @@ std::vector<FolderMeetingPoint::Place> FolderMeetingPoint::usualPlaces() {
 }
 
 MeetingPoint::Claim FolderMeetingPoint::claim() {
-    for (std::size_t at = 0; folder_ < 0 && at < places_.size(); ++at) folder_ = openPlace(places_[at]);
+    if (folder_ < 0) folder_ = openPlace(place_);
     if (folder_ < 0) return Claim::impossible;
     int status = -1;
     do status = ::flock(folder_, LOCK_EX | LOCK_NB);

@@ -22,11 +22,12 @@ public:
             false;  ///< whether the parent belongs to everybody, as /tmp does; otherwise it must be this user's
     };
 
-    /// The first usable place counts. `patience`, in milliseconds, is how long an answer may take.
-    explicit FolderMeetingPoint(std::vector<Place> places = usualPlaces(), int patience = 5000);
+    /// `patience`, in milliseconds, is how long an answer may take.
+    explicit FolderMeetingPoint(Place place, int patience = 5000);
     ~FolderMeetingPoint() override;
 
-    /// In the runtime folder, and among the temporary files for who has none.
+    /// In the runtime folder, and among the temporary files, since not every start is told of the former: that of
+    /// another user's shell is not, and the toolkit makes a missing one after the first start has looked for it.
     static std::vector<Place> usualPlaces();
 
     Claim claim() override;
@@ -37,7 +38,7 @@ public:
 private:
     void receive() const;
 
-    std::vector<Place> places_;
+    Place place_;
     int patience_;
     int folder_ = -1;  // its descriptor has the lock
     int listening_ = -1;

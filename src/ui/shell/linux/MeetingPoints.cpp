@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <utility>
+
 #include "ui/shell/SingleInstance.h"
 #include "ui/shell/linux/BusMeetingPoint.h"
 #include "ui/shell/linux/FolderMeetingPoint.h"
@@ -12,7 +14,8 @@ Activation activationOfThisStart() {
 std::vector<std::unique_ptr<MeetingPoint>> meetingPoints() {
     std::vector<std::unique_ptr<MeetingPoint>> points;
     points.push_back(std::make_unique<BusMeetingPoint>());
-    points.push_back(std::make_unique<FolderMeetingPoint>());
+    for (FolderMeetingPoint::Place& place : FolderMeetingPoint::usualPlaces())
+        points.push_back(std::make_unique<FolderMeetingPoint>(std::move(place)));
     return points;
 }
 
