@@ -738,22 +738,6 @@
         <source>Scanned storage</source>
         <translation>Analysierter Speicherplatz</translation>
     </message>
-    <message>
-        <source>Reclaim</source>
-        <translation>Aufräumen</translation>
-    </message>
-    <message>
-        <source>Clutter</source>
-        <translation>Ballast</translation>
-    </message>
-    <message>
-        <source>Downloads</source>
-        <translation>Downloads</translation>
-    </message>
-    <message>
-        <source>System</source>
-        <translation>System</translation>
-    </message>
 </context>
 <context>
     <name>FirstRunSheets</name>
@@ -2849,6 +2833,10 @@
             <numerusform>aus %1 Objekt · am meisten Platz: %2</numerusform>
             <numerusform>aus %1 Objekten · am meisten Platz: %2</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
     </message>
 </context>
 <context>

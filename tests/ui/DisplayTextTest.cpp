@@ -112,6 +112,12 @@ TEST(ShortenedPath, countsGraphemeClusters) {
     EXPECT_EQ(shortenedPath(u'x' + letters(1) + family + letters(54)), QStringLiteral("…") + family + letters(54));
 }
 
+TEST(DisplayText, nameOfRootIsSlash) {
+    EXPECT_EQ(nameText("/home/me"), QStringLiteral("me"));
+    EXPECT_EQ(nameText("/"), QStringLiteral("/"));
+    EXPECT_EQ(nameText(""), QString());
+}
+
 TEST(DisplayText, isIsolatedFromRightToLeft) {
     const fakes::RightToLeft direction;
     EXPECT_EQ(shown("Notes"), "\u2068Notes\u2069");

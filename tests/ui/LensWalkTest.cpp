@@ -156,10 +156,4 @@ TEST_F(LensWalkTest, leavesRemovedFolderForNearestAboveIt) {
     EXPECT_FALSE(walk.canGoBack());
 }
 
-TEST_F(LensWalkTest, lastComponentOfRootIsSlash) {
-    EXPECT_EQ(lastComponent("/home/me"), "me");
-    EXPECT_EQ(lastComponent("/"), "/");
-    EXPECT_EQ(lastComponent(""), "");
-}
-
 }  // namespace zelk

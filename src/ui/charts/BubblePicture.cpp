@@ -146,22 +146,20 @@ std::optional<std::size_t> BubblePicture::indexOf(const std::optional<std::strin
     return static_cast<std::size_t>(found - packed_.begin());
 }
 
-const PackedCircle* BubblePicture::circleOf(int slice) const {
-    if (slice < 0 || slice >= static_cast<int>(slices().size())) return nullptr;
+BubbleZoom BubblePicture::zoom(int slice, BubbleZoom (*zoomOf)(QPointF, double, QSizeF)) const {
+    if (slice < 0 || slice >= static_cast<int>(slices().size())) return {};
     const std::optional<std::size_t> index = indexOf(slices()[static_cast<std::size_t>(slice)].id);
-    return index ? &packed_[*index] : nullptr;
+    if (!index) return {};
+    const PackedCircle& circle = packed_[*index];
+    return zoomOf({circle.center.x, circle.center.y}, circle.radius, size());
 }
 
 BubbleZoom BubblePicture::zoomInto(int slice) const {
-    const PackedCircle* circle = circleOf(slice);
-    return circle == nullptr ? BubbleZoom()
-                             : BubbleZoom::into({circle->center.x, circle->center.y}, circle->radius, size());
+    return zoom(slice, BubbleZoom::into);
 }
 
 BubbleZoom BubblePicture::zoomOutOf(int slice) const {
-    const PackedCircle* circle = circleOf(slice);
-    return circle == nullptr ? BubbleZoom()
-                             : BubbleZoom::outOf({circle->center.x, circle->center.y}, circle->radius, size());
+    return zoom(slice, BubbleZoom::outOf);
 }
 
 /// Repaints one bubble and its surroundings, instead of the whole map.
@@ -336,9 +334,7 @@ void BubblePicture::retip() {
         const PackedPoint middle = packed_[*index].center;
         tip = BubbleTip::of(*slice, atKeys ? QPointF(middle.x, middle.y) : hoverPoint_, size(), textScale_);
     }
-    if (tip == tip_) return;
-    tip_ = tip;
-    emit tipChanged();
+    if (std::exchange(tip_, tip) != tip) emit tipChanged();
 }
 
 }  // namespace zelk

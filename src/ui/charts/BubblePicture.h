@@ -151,7 +151,7 @@ private:
     bool act(int key, bool repeated);
     void retip();
     void updateBubble(const std::optional<std::size_t>& index);
-    const PackedCircle* circleOf(int slice) const;
+    BubbleZoom zoom(int slice, BubbleZoom (*zoomOf)(QPointF, double, QSizeF)) const;
     std::optional<std::size_t> indexOf(const std::optional<std::string>& id) const;
 
     QPointer<BubbleModel> model_;

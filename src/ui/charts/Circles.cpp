@@ -14,84 +14,64 @@ namespace zelk {
 
 namespace {
 
+/// A brush that has faded out at both circles.
+struct SoftBrush {
+    QBrush brush;
+    double inner;
+    double outer;
+};
+
 /// Approximates a disc under a Gaussian blur by a radial gradient. Without a pass over pixels it is cheap enough to be
-/// made anew in every frame while a chart is resized. Extends three standard deviations beyond the disc.
-class BlurredDisc {
-public:
-    BlurredDisc(double radius, double blur, const QColor& color)
-        : radius_(radius), deviation_(std::max(blur / 2, 0.01)), reach_(radius + 3 * deviation_), color_(color) {}
-
-    double reach() const { return reach_; }
-
-    QBrush at(QPointF center) const {
-        QRadialGradient gradient(center, reach_);
-        gradient.setColorAt(0, covered(0));
-        constexpr int steps = 16;
-        const double inner = std::max(0.0, radius_ - 3 * deviation_);
-        for (int step = 0; step <= steps; ++step) {
-            const double distance = inner + (reach_ - inner) * step / steps;
-            gradient.setColorAt(distance / reach_, covered(distance));
-        }
-        gradient.setColorAt(1, withOpacity(color_, 0));
-        return QBrush(gradient);
+/// made anew in every frame while a chart is resized. Extends three standard deviations beyond the disc. It does not
+/// fade out within `hidden`, which may be left out.
+SoftBrush blurredDisc(QPointF center, double radius, double blur, const QColor& color, double hidden) {
+    constexpr int steps = 16;
+    const double deviation = std::max(blur / 2, 0.01);
+    const double reach = radius + 3 * deviation;
+    // The blur of a straight edge, reduced by what a disc of about the size of the blur loses even in its centre.
+    const double middle = 1 - std::exp(-radius * radius / (2 * deviation * deviation));
+    const auto covered = [&](double distance) {
+        const double edge = 0.5 * std::erfc((distance - radius) / (std::sqrt(2.0) * deviation));
+        return withOpacity(color, color.alphaF() * edge * middle);
+    };
+    QRadialGradient gradient(center, reach);
+    gradient.setColorAt(0, covered(0));
+    const double flat = std::max(0.0, radius - 3 * deviation);
+    for (int step = 0; step <= steps; ++step) {
+        const double distance = flat + (reach - flat) * step / steps;
+        gradient.setColorAt(distance / reach, covered(distance));
     }
+    gradient.setColorAt(1, withOpacity(color, 0));
+    return {gradient, std::max(0.0, hidden), reach};
+}
 
-private:
-    /// The colour at this distance from the centre: the blur of a straight edge, reduced by what a disc of about the
-    /// size of the blur loses even in its centre.
-    QColor covered(double distance) const {
-        const double edge = 0.5 * std::erfc((distance - radius_) / (std::sqrt(2.0) * deviation_));
-        const double middle = 1 - std::exp(-radius_ * radius_ / (2 * deviation_ * deviation_));
-        return withOpacity(color_, color_.alphaF() * edge * middle);
-    }
-
-    double radius_;
-    double deviation_;
-    double reach_;
-    QColor color_;
-};
-
-/// Strokes a circle as a radial gradient with antialiased edges one pixel wide. QPainter's own stroke takes six times
-/// as long.
-class SmoothRing {
-public:
-    /// The largest reach in pixels: a gradient has 1024 steps, and an edge of one pixel needs two of them.
-    static constexpr double finest = 512;
-
-    /// `scale` is pixels per point.
-    SmoothRing(double radius, double width, double scale, const QColor& color)
-        : radius_(radius), half_(width / 2), edge_(0.5 / scale), color_(color) {}
-
-    double reach() const { return radius_ + half_ + edge_; }
-    double hole() const { return std::max(0.0, radius_ - half_ - edge_); }
-
-    QBrush at(QPointF center) const {
-        // A line thinner than a pixel is drawn one pixel wide with less opacity.
-        const double flat = std::abs(half_ - edge_);
-        const QColor clear = withOpacity(color_, 0);
-        const QColor full = withOpacity(color_, color_.alphaF() * std::min(1.0, half_ / edge_));
-        QRadialGradient gradient(center, reach());
-        const auto put = [&](double distance, const QColor& color) {
-            gradient.setColorAt(std::clamp(distance / reach(), 0.0, 1.0), color);
-        };
-        put(hole(), clear);
-        put(radius_ - flat, full);
-        put(radius_ + flat, full);
-        put(reach(), clear);
-        return QBrush(gradient);
-    }
-
-private:
-    double radius_;
-    double half_;
-    double edge_;
-    QColor color_;
-};
+/// A circle's line as a radial gradient with antialiased edges one pixel wide. QPainter's own stroke takes six times as
+/// long. `scale` is pixels per point.
+SoftBrush smoothRing(QPointF center, double radius, double width, double scale, const QColor& color) {
+    const double half = width / 2;
+    const double edge = 0.5 / scale;
+    const double hole = std::max(0.0, radius - half - edge);
+    const double reach = radius + half + edge;
+    // A line thinner than a pixel is drawn one pixel wide with less opacity.
+    const double flat = std::abs(half - edge);
+    const QColor clear = withOpacity(color, 0);
+    const QColor full = withOpacity(color, color.alphaF() * std::min(1.0, half / edge));
+    QRadialGradient gradient(center, reach);
+    const auto put = [&](double distance, const QColor& at) {
+        gradient.setColorAt(std::clamp(distance / reach, 0.0, 1.0), at);
+    };
+    put(hole, clear);
+    put(radius - flat, full);
+    put(radius + flat, full);
+    put(reach, clear);
+    return {gradient, hole, reach};
+}
 
 /// Fills at least the area between two circles with bands of rectangles, which takes a fraction of the time of filling
 /// circles. That is invisible because the gradient fades out at both circles. Antialiasing is off, since it would show
 /// the seams between bands on a scaled screen.
-void fillBetween(QPainter& painter, QPointF center, double inner, double outer, const QBrush& brush) {
+void fillBetween(QPainter& painter, QPointF center, const SoftBrush& soft) {
+    const auto& [brush, inner, outer] = soft;
     constexpr int band = 4;
     const int bottom = static_cast<int>(std::ceil(center.y() + outer));
     painter.setRenderHint(QPainter::Antialiasing, false);
@@ -138,9 +118,10 @@ void drawHalo(QPainter& painter, QPointF center, const QColor& color, double opa
 void drawRing(QPainter& painter, QPointF center, double radius, double width, const QColor& color) {
     if (radius <= 0) return;
     const double scale = std::abs(painter.transform().m11());  // negative where a picture is mirrored
-    const SmoothRing soft(radius, width, scale, color);
-    if (soft.reach() * scale < SmoothRing::finest)
-        fillBetween(painter, center, soft.hole(), soft.reach(), soft.at(center));
+    const SoftBrush soft = smoothRing(center, radius, width, scale, color);
+    // A gradient has 1024 steps, and an edge of one pixel needs two of them.
+    if (soft.outer * scale < 512)
+        fillBetween(painter, center, soft);
     else
         strokeCircle(painter, center, radius, width, color);
 }
@@ -154,11 +135,9 @@ void strokeCircle(QPainter& painter, QPointF center, double radius, double width
 
 void drawDiscShadow(QPainter& painter, QPointF center, double radius, const QColor& color, double blur, double drop) {
     if (radius <= 0) return;
-    const BlurredDisc blurred(radius, blur, color);
     const QPointF below = center + QPointF(0, drop);
     // The hidden part is centred on the disc, not on the shadow.
-    const double hidden = radius - drop - 2;
-    fillBetween(painter, below, std::max(0.0, hidden), blurred.reach(), blurred.at(below));
+    fillBetween(painter, below, blurredDisc(below, radius, blur, color, radius - drop - 2));
 }
 
 }  // namespace zelk

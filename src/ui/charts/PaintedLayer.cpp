@@ -6,6 +6,7 @@
 #include <QSGImageNode>
 #include <array>
 #include <cmath>
+#include <iterator>
 
 #include "ui/charts/Circles.h"
 #include "ui/controls/Brushes.h"
@@ -78,7 +79,7 @@ void drawScanGlow(QPainter& painter, QPointF center, const QColor& accent) {
 }
 
 /// The scan button's disc, lit from the upper left.
-void drawScanDisc(QPainter& painter, QPointF center) {
+void drawScanDisc(QPainter& painter, QPointF center, const QColor&) {
     fillDisc(painter, center, scanRadius, accentBrush(center, scanRadius));
     const QPointF lit = center + QPointF(-0.32, -0.36) * scanRadius;
     fillDisc(painter, center, scanRadius, radialBrush(lit, 0.95 * scanRadius, {{0, white(0.26)}, {1, white(0)}}));
@@ -99,29 +100,43 @@ void drawScanComet(QPainter& painter, QPointF center, const QColor& accent) {
     fillDisc(painter, center - QPointF(0, scanRingRadius), cometWidth, accent);
 }
 
-double sideOf(PaintedLayer::Kind kind) {
-    switch (kind) {
-        case PaintedLayer::OrbDisc:
-            return 2 * (orbRadius + orbBlur + orbDrop);
-        case PaintedLayer::InnerRing:
-        case PaintedLayer::MiddleRing:
-        case PaintedLayer::OuterRing:
-            return orbFrame;
-        case PaintedLayer::IntroDisc:
-            return 2 * introHalo;
-        case PaintedLayer::Mark:
-            return 2 * markGlow;
-        case PaintedLayer::Tile:
-            return 28;
-        case PaintedLayer::ScanGlow:
-            return scanFrame;
-        case PaintedLayer::ScanComet:
-            return cometFrame;
-        case PaintedLayer::ScanDisc:
-        case PaintedLayer::ScanSheen:
-            return 2 * scanRadius + 2;  // a point for the antialiased edge
-    }
-    return 0;
+/// A ring of the orb, so many steps from the innermost.
+template <std::size_t step>
+void drawOrbRing(QPainter& painter, QPointF center, const QColor& tint) {
+    drawRing(painter, center, orbRingRadii.at(step), 1.5, withOpacity(tint, orbRingOpacities.at(step)));
+}
+
+/// The disc of the application's mark, in its glow.
+void drawMark(QPainter& painter, QPointF center, const QColor& tint) {
+    drawHalo(painter, center, tint, 0.55, markRadius - 9, markGlow);
+    fillDisc(painter, center, markRadius, accentBrush(center, markRadius));
+}
+
+/// How large a layer is, and what paints it around the centre.
+struct Layer {
+    double side;
+    void (*draw)(QPainter& painter, QPointF center, const QColor& color);
+};
+
+const Layer& layerOf(PaintedLayer::Kind kind) {
+    constexpr double scanDisc = 2 * scanRadius + 2;  // with a point for the antialiased edge
+    // In the order of the kinds.
+    static constexpr Layer layers[] = {
+        {2 * (orbRadius + orbBlur + orbDrop), drawOrbDisc},
+        {orbFrame, drawOrbRing<0>},
+        {orbFrame, drawOrbRing<1>},
+        {orbFrame, drawOrbRing<2>},
+        {2 * introHalo, drawIntroDisc},
+        {2 * markGlow, drawMark},
+        {28, [](QPainter& painter, QPointF center, const QColor&) { paintHouseTile(painter, 2 * center.x()); }},
+        {scanFrame, drawScanGlow},
+        {scanDisc, drawScanDisc},
+        {scanDisc,
+         [](QPainter& painter, QPointF center, const QColor&) { fillDisc(painter, center, scanRadius, white(0.12)); }},
+        {cometFrame, drawScanComet},
+    };
+    static_assert(std::size(layers) == PaintedLayer::ScanComet + 1);
+    return layers[kind];
 }
 
 }  // namespace
@@ -179,13 +194,13 @@ void PaintedOnce::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 PaintedLayer::PaintedLayer(QQuickItem* parent) : PaintedOnce(parent) {
-    setImplicitSize(sideOf(kind_), sideOf(kind_));
+    setImplicitSize(layerOf(kind_).side, layerOf(kind_).side);
 }
 
 void PaintedLayer::setKind(Kind kind) {
     if (kind == kind_) return;
     kind_ = kind;
-    setImplicitSize(sideOf(kind), sideOf(kind));
+    setImplicitSize(layerOf(kind).side, layerOf(kind).side);
     emit changed();
     emit kindChanged();
 }
@@ -203,37 +218,8 @@ QImage PaintedLayer::picture(double scale) const {
     QPainter painter(&image);
     painter.scale(scale, scale);
     painter.setRenderHint(QPainter::Antialiasing);
-    draw(painter);
+    layerOf(kind_).draw(painter, boundingRect().center(), color_);
     return image;
-}
-
-void PaintedLayer::draw(QPainter& painter) const {
-    const QPointF center = boundingRect().center();
-    const auto ring = static_cast<std::size_t>(kind_ - InnerRing);  // of an orb
-    switch (kind_) {
-        case OrbDisc:
-            return drawOrbDisc(painter, center, color_);
-        case InnerRing:
-        case MiddleRing:
-        case OuterRing:
-            return drawRing(painter, center, orbRingRadii.at(ring), 1.5,
-                            withOpacity(color_, orbRingOpacities.at(ring)));
-        case IntroDisc:
-            return drawIntroDisc(painter, center, color_);
-        case Mark:
-            drawHalo(painter, center, color_, 0.55, markRadius - 9, markGlow);
-            return fillDisc(painter, center, markRadius, accentBrush(center, markRadius));
-        case Tile:
-            return paintHouseTile(painter, width());
-        case ScanGlow:
-            return drawScanGlow(painter, center, color_);
-        case ScanDisc:
-            return drawScanDisc(painter, center);
-        case ScanSheen:
-            return fillDisc(painter, center, scanRadius, white(0.12));
-        case ScanComet:
-            return drawScanComet(painter, center, color_);
-    }
 }
 
 }  // namespace zelk

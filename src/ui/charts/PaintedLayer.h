@@ -79,8 +79,6 @@ signals:
     void kindChanged();
 
 private:
-    void draw(QPainter& painter) const;
-
     Kind kind_ = OrbDisc;
     QColor color_;
 };

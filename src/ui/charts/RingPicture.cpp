@@ -15,12 +15,6 @@ double ringFraction(double value) {
     return std::isnan(value) ? dot : std::max(std::min(value, 1.0), dot);
 }
 
-namespace {
-
-constexpr double leastStep = 0.0016;  // half a point along the ring of a gauge
-
-}  // namespace
-
 RingPicture::RingPicture(QQuickItem* parent) : Drawn(parent) {
     constexpr double response = 0.5;
     spring_.setEasingCurve(springEasing());
@@ -61,6 +55,7 @@ void RingPicture::show(double fraction) {
 
 /// Repaints only what can be seen: gauges move all the time, and a spring ends with many steps that are too small.
 void RingPicture::move(double fraction) {
+    constexpr double leastStep = 0.0016;  // half a point along the ring of a gauge
     shown_ = fraction;
     if (std::abs(fraction - painted_) >= leastStep) show(fraction);
 }

@@ -28,10 +28,7 @@ BaseButton {
         color: Theme.accent
         scale: button.hovered && !button.scanning ? 1.05 : 1
         Behavior on scale {
-            NumberAnimation {
-                duration: Motion.gentle
-                easing.type: Easing.OutCubic
-            }
+            GentleChange {}
         }
     }
 
@@ -63,9 +60,7 @@ BaseButton {
         anchors.fill: parent
         scale: button.down && !button.scanning ? 0.97 : 1
         Behavior on scale {
-            NumberAnimation {
-                duration: Motion.quick
-            }
+            QuickChange {}
         }
 
         PaintedLayer {
@@ -80,9 +75,7 @@ BaseButton {
             kind: PaintedLayer.ScanSheen
             opacity: button.hovered && !button.scanning ? 1 : 0
             Behavior on opacity {
-                NumberAnimation {
-                    duration: Motion.quick
-                }
+                QuickChange {}
             }
         }
 
@@ -150,16 +143,10 @@ BaseButton {
         visible: face.shown || opacity > 0
 
         Behavior on opacity {
-            NumberAnimation {
-                duration: Motion.gentle
-                easing.type: Easing.OutCubic
-            }
+            GentleChange {}
         }
         Behavior on scale {
-            NumberAnimation {
-                duration: Motion.gentle
-                easing.type: Easing.OutCubic
-            }
+            GentleChange {}
         }
 
         SymbolItem {

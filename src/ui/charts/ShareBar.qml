@@ -27,9 +27,7 @@ Rectangle {
     Accessible.description: bar.progress
 
     Behavior on share {
-        NumberAnimation {
-            duration: Motion.quick
-        }
+        QuickChange {}
     }
 
     Rectangle {

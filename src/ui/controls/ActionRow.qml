@@ -21,11 +21,6 @@ BaseButton {
     background: HoverOverlay {
         radius: 10
         control: row
-
-        FocusRing {
-            shown: row.visualFocus
-            corner: 10
-        }
     }
 
     RingKeeper {

@@ -27,8 +27,4 @@ T.AbstractButton {
 
         control: button
     }
-
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
 }

@@ -42,9 +42,7 @@ BaseButton {
     opacity: button.enabled ? (button.kind === Button.Link && button.down ? 0.7 : 1) : button.kind === Button.Removal ? 1 : 0.45
 
     Behavior on scale {
-        NumberAnimation {
-            duration: Motion.quick
-        }
+        QuickChange {}
     }
 
     background: Rectangle {
@@ -65,15 +63,9 @@ BaseButton {
             anchors.fill: parent
             radius: button.corner
             control: button
-            visible: button.kind !== Button.Link
-            // On the accent it lightens on hover and darkens while pressed, in both themes.
-            hoverColor: button.kind === Button.Primary ? "#26ffffff" : Theme.hoverWash
-            pressColor: button.kind === Button.Primary ? "#14000000" : Theme.pressWash
-        }
-
-        FocusRing {
-            shown: button.visualFocus
-            corner: button.corner
+            // On the accent it lightens on hover and darkens while pressed, in both themes. A link is only underlined.
+            hoverColor: button.kind === Button.Primary ? "#26ffffff" : button.kind === Button.Link ? "transparent" : Theme.hoverWash
+            pressColor: button.kind === Button.Primary ? "#14000000" : button.kind === Button.Link ? "transparent" : Theme.pressWash
         }
     }
 

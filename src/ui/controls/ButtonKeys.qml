@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Key handling for clickable controls, for `Keys.forwardTo`. Return and Enter click like Space, and a held key clicks
-// once.
+// once. Over the control the pointer is a hand.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -22,4 +22,9 @@ Item {
     Keys.onReleased: event => event.accepted = event.isAutoRepeat
     Keys.onReturnPressed: event => keys.press(event.isAutoRepeat)
     Keys.onEnterPressed: event => keys.press(event.isAutoRepeat)
+
+    HoverHandler {
+        parent: keys.control
+        cursorShape: Qt.PointingHandCursor
+    }
 }

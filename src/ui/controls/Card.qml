@@ -7,8 +7,6 @@ import QtQuick.Templates as T
 import Zelk.Controls
 
 T.Pane {
-    id: card
-
     padding: 18
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: inside + topPadding + bottomPadding

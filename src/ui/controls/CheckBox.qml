@@ -34,10 +34,6 @@ T.CheckBox {
         control: box
     }
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
-
     background: Item {
         Rectangle {
             anchors.centerIn: parent
@@ -51,9 +47,7 @@ T.CheckBox {
             // Sets the colour at once while hidden: a reused delegate must not animate from its previous row.
             Behavior on color {
                 enabled: box.visible
-                ColorAnimation {
-                    duration: Motion.quick
-                }
+                QuickChange {}
             }
 
             HoverOverlay {
@@ -68,11 +62,6 @@ T.CheckBox {
                 color: Theme.accentInk
                 size: Math.round(11 * TextScale.factor)
                 visible: box.on
-            }
-
-            FocusRing {
-                shown: box.visualFocus
-                corner: 5
             }
         }
     }

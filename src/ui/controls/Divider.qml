@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
-// A hairline, horizontal unless `vertical`.
+// A hairline, as long as its place makes it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zelk.Controls
 
 Rectangle {
-    property bool vertical: false
-
     implicitWidth: 1
     implicitHeight: 1
     color: Theme.hairline

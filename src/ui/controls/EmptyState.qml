@@ -29,30 +29,19 @@ Item {
             opacity: 0.7
         }
 
-        Item {
-            width: 1
-            height: 4
-        }
-
-        Label {
+        TwoLines {
             width: parent.width
-            text: empty.title
+            topPadding: 12
+            spacing: 8
+            title: empty.title
+            note: empty.note
             size: 15
-            font.weight: Font.DemiBold
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.WordWrap
-            Accessible.role: Accessible.Heading
-        }
-
-        Label {
-            width: parent.width
-            text: empty.note
-            visible: text !== ""
-            size: 12
-            soft: true
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.WordWrap
+            noteSize: 12
+            weight: Font.DemiBold
+            wraps: true
+            alignment: Text.AlignHCenter
             lineHeight: 1.25
+            isHeading: true
         }
     }
 }

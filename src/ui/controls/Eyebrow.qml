@@ -11,4 +11,5 @@ Label {
     font.weight: Font.DemiBold
     font.letterSpacing: 1.2 * TextScale.factor
     font.capitalization: Font.AllUppercase
+    Accessible.role: Accessible.Heading
 }

@@ -26,11 +26,10 @@ T.ToolTip {
     closePolicy: T.Popup.CloseOnPressOutsideParent
 
     enter: Transition {
-        NumberAnimation {
+        QuickChange {
             property: "opacity"
             from: 0
             to: 1
-            duration: Motion.quick
         }
     }
 

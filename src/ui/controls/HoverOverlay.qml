@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// An overlay that marks a control as hovered or pressed.
+// An overlay that marks a control as hovered or pressed, with its focus ring around it.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -15,8 +15,11 @@ Rectangle {
 
     color: wash.control.down ? wash.pressColor : wash.control.hovered && wash.control.enabled ? wash.hoverColor : Qt.alpha(wash.hoverColor, 0)
     Behavior on color {
-        ColorAnimation {
-            duration: Motion.quick
-        }
+        QuickChange {}
+    }
+
+    FocusRing {
+        shown: wash.control.visualFocus
+        corner: wash.radius
     }
 }

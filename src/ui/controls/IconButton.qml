@@ -14,8 +14,6 @@ BaseButton {
     property real size: 14
     property real side: 30
 
-    readonly property real corner: 8
-
     implicitWidth: Math.round(button.side * TextScale.factor)
     implicitHeight: Math.round(button.side * TextScale.factor)
     opacity: button.enabled ? 1 : 0.45
@@ -23,13 +21,8 @@ BaseButton {
     Accessible.description: button.help
 
     background: HoverOverlay {
-        radius: button.corner
+        radius: 8
         control: button
-
-        FocusRing {
-            shown: button.visualFocus
-            corner: button.corner
-        }
     }
 
     contentItem: Item {

@@ -21,6 +21,7 @@ Item {
     x: ReadingDirection.mirrored ? (ListView.view?.width ?? 0) - width : 0
 
     // The list has the active focus; screen readers are told that the current row has it.
+    Accessible.role: Accessible.ListItem
     Accessible.focusable: true
     Accessible.focused: row.ringed
     Accessible.name: row.spoken

@@ -28,11 +28,6 @@ BaseButton {
     background: HoverOverlay {
         radius: 6
         control: button
-
-        FocusRing {
-            shown: button.visualFocus
-            corner: 6
-        }
     }
 
     contentItem: Row {

@@ -25,11 +25,10 @@ T.Menu {
     onAboutToShow: contentItem.parent.Accessible.name = panel.title
 
     enter: Transition {
-        NumberAnimation {
+        QuickChange {
             property: "opacity"
             from: 0
             to: 1
-            duration: Motion.quick
         }
     }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/ReadingDirection.h"
@@ -181,9 +182,7 @@ void NumberItem::settle() {
 void NumberItem::reword() {
     if (run_.state() == QAbstractAnimation::Stopped) show();
     const QString text = lineOf(value_);
-    if (text == text_) return;
-    text_ = text;
-    emit textChanged();
+    if (std::exchange(text_, text) != text) emit textChanged();
 }
 
 void NumberItem::show() {

@@ -20,9 +20,7 @@ RadioButton {
     opacity: pill.enabled ? 1 : 0.45
     scale: pill.down ? 0.97 : 1
     Behavior on scale {
-        NumberAnimation {
-            duration: Motion.quick
-        }
+        QuickChange {}
     }
 
     background: Rectangle {
@@ -35,11 +33,6 @@ RadioButton {
             anchors.fill: parent
             radius: height / 2
             control: pill
-        }
-
-        FocusRing {
-            shown: pill.visualFocus
-            corner: pill.height / 2
         }
     }
 

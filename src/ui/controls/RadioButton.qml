@@ -35,8 +35,4 @@ T.RadioButton {
 
         control: choice
     }
-
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
 }

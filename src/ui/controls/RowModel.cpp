@@ -74,6 +74,11 @@ QVariant RowModel::data(const QModelIndex& index, int role) const {
     return value(static_cast<std::size_t>(index.row()), role);
 }
 
+QVariant RowModel::value(std::size_t row, int role) const {
+    const auto at = static_cast<std::size_t>(role - Qt::UserRole);
+    return role >= Qt::UserRole && at < values_.size() ? values_[at](row) : QVariant();
+}
+
 void RowModel::rowsChanged(int first, int last, const QList<int>& roles) {
     if (first <= last) emit dataChanged(index(first), index(last), roles);
 }

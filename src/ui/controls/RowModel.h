@@ -4,6 +4,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 #include <cstddef>
+#include <functional>
 #include <initializer_list>
 #include <string_view>
 #include <utility>
@@ -30,7 +31,7 @@ struct RowEdits {
 RowEdits rowEdits(const std::vector<std::string_view>& before, const std::vector<std::string_view>& after);
 
 /// A list model over rows that a derived class holds as values. That class names its roles once and says what a row
-/// shows in each; indices have been checked by then. Main thread.
+/// shows in each: in a table, or by size() and value(), where that depends on more than the row. Main thread.
 class RowModel : public QAbstractListModel {
     Q_OBJECT
     QML_ANONYMOUS
@@ -41,12 +42,28 @@ public:
     QHash<int, QByteArray> roleNames() const final { return roles_; }
 
 protected:
-    /// `roles` are the names of the derived class's roles, which are numbered in this order from Qt::UserRole.
-    explicit RowModel(std::initializer_list<const char*> roles, QObject* parent = nullptr);
+    /// A role: its name in QML, and what a row shows in it.
+    template <class Row>
+    struct RoleOf {
+        const char* name;
+        std::function<QVariant(const Row&)> value;
+    };
 
-    virtual std::size_t size() const = 0;
+    /// `roles` are the roles of the derived class, or their names, numbered in this order from Qt::UserRole. `rows` is
+    /// its member.
+    explicit RowModel(std::initializer_list<const char*> roles, QObject* parent = nullptr);
+    template <class Row>
+    RowModel(const std::vector<Row>& rows, std::initializer_list<RoleOf<Row>> roles, QObject* parent = nullptr)
+        : QAbstractListModel(parent), size_([&rows] { return rows.size(); }) {
+        for (const RoleOf<Row>& role : roles) {
+            roles_.insert(Qt::UserRole + static_cast<int>(values_.size()), role.name);
+            values_.push_back([&rows, value = role.value](std::size_t row) { return value(rows[row]); });
+        }
+    }
+
+    virtual std::size_t size() const { return size_(); }
     /// `row` is less than size(). Roles that the derived class does not know give an invalid value.
-    virtual QVariant value(std::size_t row, int role) const = 0;
+    virtual QVariant value(std::size_t row, int role) const;
 
     bool has(int row) const { return row >= 0 && row < rowCount(); }
 
@@ -84,6 +101,8 @@ protected:
 
 private:
     QHash<int, QByteArray> roles_;
+    std::function<std::size_t()> size_;
+    std::vector<std::function<QVariant(std::size_t row)>> values_;  // by role
 };
 
 }  // namespace zelk

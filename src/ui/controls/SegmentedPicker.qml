@@ -99,11 +99,6 @@ FocusScope {
                         radius: picker.corner
                         control: segment
                     }
-
-                    FocusRing {
-                        shown: segment.visualFocus
-                        corner: picker.corner
-                    }
                 }
 
                 contentItem: ButtonLabel {

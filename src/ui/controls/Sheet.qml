@@ -52,11 +52,10 @@ T.Popup {
     }
 
     enter: Transition {
-        NumberAnimation {
+        QuickChange {
             property: "opacity"
             from: 0
             to: 1
-            duration: Motion.quick
         }
         NumberAnimation {
             property: "scale"

@@ -11,16 +11,10 @@
 
 namespace zelk {
 
-namespace {
-
-constexpr double shadowBlurRadius = 1.1;  // of each pass, in points
-// Amplifies the blur, which would be faint around the thin strokes of small text.
-constexpr double shadowGain = 3.2;
-constexpr double shadowStrength = 0.62;
-
-}  // namespace
-
 QImage textShadow(const QString& text, const QFont& font, double scale) {
+    constexpr double blurRadius = 1.1;  // of each pass, in points
+    constexpr double gain = 3.2;        // the blur alone would be faint around the thin strokes of small text
+    constexpr double strength = 0.62;
     if (text.isEmpty()) return {};
     const QFontMetricsF metrics(font);
     const double width = metrics.horizontalAdvance(text) + 2 * textShadowReach;
@@ -39,8 +33,8 @@ QImage textShadow(const QString& text, const QFont& font, double scale) {
         painter.drawText(QPointF(textShadowReach, textShadowReach + metrics.ascent()), text);
     }
     QImage mask = glyphs.convertToFormat(QImage::Format_Alpha8);
-    blurMask(mask, std::max(1, static_cast<int>(std::lround(shadowBlurRadius * scale))));
-    QImage shadow = blackOf(mask, shadowStrength, shadowGain);
+    blurMask(mask, std::max(1, static_cast<int>(std::lround(blurRadius * scale))));
+    QImage shadow = blackOf(mask, strength, gain);
     shadow.setDevicePixelRatio(scale);
     return shadow;
 }

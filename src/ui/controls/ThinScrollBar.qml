@@ -24,9 +24,7 @@ T.ScrollBar {
         radius: 3
         color: Qt.alpha(Theme.inkSoft, bar.pressed ? 0.8 : bar.hovered ? 0.6 : 0.35)
         Behavior on color {
-            ColorAnimation {
-                duration: Motion.quick
-            }
+            QuickChange {}
         }
     }
 }

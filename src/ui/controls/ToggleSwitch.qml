@@ -58,9 +58,7 @@ T.Switch {
         border.width: toggle.checked ? 0 : 1
         border.color: toggle.hovered ? Theme.inkSoft : Qt.alpha(Theme.inkSoft, 0.6)
         Behavior on color {
-            ColorAnimation {
-                duration: Motion.quick
-            }
+            QuickChange {}
         }
 
         Rectangle {

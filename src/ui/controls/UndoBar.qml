@@ -56,40 +56,21 @@ FocusScope {
     }
 
     Divider {
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
     }
 
-    Column {
+    TwoLines {
         id: texts
 
         anchors.left: parent.left
         anchors.leftMargin: Theme.pageMargin
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(bar.textRoom, Math.max(message.implicitWidth, reasons.implicitWidth))
-        spacing: 2
-
-        Label {
-            id: message
-
-            width: parent.width
-            text: bar.text
-            size: 12
-            mute: true
-            wrapMode: Text.Wrap
-        }
-
-        Label {
-            id: reasons
-
-            width: parent.width
-            visible: bar.details !== ""
-            text: bar.details
-            size: 11
-            soft: true
-            mute: true
-            wrapMode: Text.Wrap
-        }
+        width: Math.min(bar.textRoom, texts.wanted)
+        title: bar.text
+        note: bar.details
+        size: 12
+        wraps: true
+        mute: true
     }
 
     Label {

@@ -10,12 +10,6 @@
 
 namespace zelk {
 
-namespace {
-
-constexpr std::size_t maximumReasons = 3;
-
-}  // namespace
-
 UndoBarModel::UndoBarModel(AppModel& app, RemovalUndo::Source source)
     : app_(app), removal_(app.removalUndo()), source_(source) {
     connect(&removal_, &RemovalUndo::offered, this, &UndoBarModel::showOffer);
@@ -92,6 +86,7 @@ void UndoBarModel::showOutcome(const RemovalUndo::Outcome& outcome) {
         sentences += missing == 1 ? tr("1 item stays in the Trash.")
                                   : tr("%n items stay in the Trash.", "", static_cast<int>(missing));
     QStringList reasons;
+    constexpr std::size_t maximumReasons = 3;
     for (const std::string& failure : outcome.failures) {
         if (reasons.size() == static_cast<qsizetype>(maximumReasons)) break;
         reasons += displayText(failure);

@@ -2,6 +2,7 @@
 #include "ui/controls/VisibleWatch.h"
 
 #include <QEvent>
+#include <utility>
 
 namespace zelk {
 
@@ -41,9 +42,7 @@ bool VisibleWatch::eventFilter(QObject* watched, QEvent* event) {
 void VisibleWatch::look() {
     const bool inWindow = window_ && window_->isVisible() && window_->isExposed();
     const bool seen = inWindow && isVisible() && !(window_->windowStates() & Qt::WindowMinimized);
-    if (seen == seen_) return;
-    seen_ = seen;
-    emit seenChanged();
+    if (std::exchange(seen_, seen) != seen) emit seenChanged();
 }
 
 }  // namespace zelk

@@ -12,9 +12,8 @@ namespace zelk {
 namespace {
 
 /// Only nine modules have a shortcut, Ctrl+1 to Ctrl+9.
-constexpr int digitKeys = 9;
-
 std::vector<Command> goCommands(AppModel& app) {
+    constexpr int digitKeys = 9;
     std::vector<Command> commands;
     for (const Screen screen : allScreens) {
         if (screen == Screen::settings) continue;  // opens in a window
@@ -46,26 +45,13 @@ QAction::MenuRole roleOf(Command::Part part) {
 }  // namespace
 
 CommandMenu::CommandMenu(QString title, std::vector<Command> commands)
-    : RowModel({"title", "shortcutText", "startsGroup", "name"}),
+    : RowModel(commands_, {{"title", [](const Command& command) { return command.title; }},
+                           {"shortcutText",
+                            [](const Command& command) { return command.shortcut.toString(QKeySequence::NativeText); }},
+                           {"startsGroup", [](const Command& command) { return command.startsGroup; }},
+                           {"name", [](const Command& command) { return QStringLiteral("menu") + command.title; }}}),
       title_(std::move(title)),
       commands_(std::move(commands)) {}
-
-QVariant CommandMenu::value(std::size_t row, int role) const {
-    const Command& command = commands_[row];
-    switch (role) {
-        case Qt::DisplayRole:
-        case titleRole:
-            return command.title;
-        case shortcutTextRole:
-            return command.shortcut.toString(QKeySequence::NativeText);
-        case startsGroupRole:
-            return command.startsGroup;
-        case nameRole:
-            return QStringLiteral("menu") + command.title;
-        default:
-            return {};
-    }
-}
 
 void CommandMenu::run(int row) {
     if (has(row)) commands_[static_cast<std::size_t>(row)].run();
@@ -88,8 +74,6 @@ AppCommands::AppCommands(AppModel& app, std::function<void(WindowId)> openWindow
     add(tr("Help"), {{tr("Zelk Help"), QKeySequence(QStringLiteral("Ctrl+?")), opens(WindowId::help),
                       Command::Part::ordinary, false, QKeySequence(Qt::Key_F1)}});
 }
-
-AppCommands::~AppCommands() = default;
 
 QList<CommandMenu*> AppCommands::menus() const {
     QList<CommandMenu*> menus;

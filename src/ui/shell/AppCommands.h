@@ -56,9 +56,6 @@ public slots:
     void run(int row);
 
 private:
-    std::size_t size() const override { return commands_.size(); }
-    QVariant value(std::size_t row, int role) const override;
-
     QString title_;
     std::vector<Command> commands_;
 };
@@ -78,7 +75,6 @@ public:
     AppCommands(
         AppModel& app, std::function<void(WindowId)> openWindow, std::function<void()> quit,
         std::function<bool()> busy = [] { return false; });
-    ~AppCommands() override;
 
     /// From left to right; owned by this.
     QList<CommandMenu*> menus() const;

@@ -91,8 +91,7 @@ SecondaryWindow {
                 Column {
                     id: column
 
-                    anchors.left: parent.left
-                    anchors.right: parent.right
+                    width: parent.width
                     padding: 12
                     spacing: 2
 
@@ -112,11 +111,9 @@ SecondaryWindow {
             }
         }
 
-        Rectangle {
+        Divider {
             anchors.right: parent.right
-            width: 1
             height: parent.height
-            color: Theme.hairline
         }
     }
 
@@ -147,24 +144,19 @@ SecondaryWindow {
                 symbolSize: 20
             }
 
-            Label {
+            TwoLines {
                 width: parent.width
                 topPadding: 8
-                text: window.help.topic.title
-                size: 20
-                font.weight: Font.DemiBold
-                wrapMode: Text.Wrap
-                Accessible.role: Accessible.Heading
-            }
-
-            Label {
-                width: parent.width
                 bottomPadding: 4
-                text: window.help.topic.lead
-                size: 15
-                soft: true
+                spacing: 12
+                title: window.help.topic.title
+                note: window.help.topic.lead
+                size: 20
+                noteSize: 15
+                weight: Font.DemiBold
+                wraps: true
                 lineHeight: 1.3
-                wrapMode: Text.Wrap
+                isHeading: true
             }
 
             Repeater {
@@ -213,10 +205,6 @@ SecondaryWindow {
             control: row
         }
 
-        HoverHandler {
-            cursorShape: Qt.PointingHandCursor
-        }
-
         background: Rectangle {
             radius: 8
             color: row.current ? Qt.alpha(row.modelData.tint, 0.18) : "transparent"
@@ -225,11 +213,6 @@ SecondaryWindow {
                 anchors.fill: parent
                 radius: parent.radius
                 control: row
-            }
-
-            FocusRing {
-                shown: row.visualFocus
-                corner: 8
             }
         }
 

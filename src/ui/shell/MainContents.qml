@@ -49,8 +49,7 @@ FocusScope {
     MenuStrip {
         id: menuStrip
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         height: visible ? implicitHeight : 0
         commands: contents.commands
         visible: Qt.platform.os !== "osx"
@@ -60,8 +59,7 @@ FocusScope {
     FocusScope {
         anchors.top: menuStrip.bottom
         anchors.bottom: parent.bottom
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         focus: true
 
         Sidebar {

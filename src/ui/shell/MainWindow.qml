@@ -34,11 +34,9 @@ Window {
         color: Theme.groundHi
         visible: !window.filled
 
-        Rectangle {
+        Divider {
             anchors.right: parent.right
-            width: 1
             height: parent.height
-            color: Theme.hairline
         }
     }
 

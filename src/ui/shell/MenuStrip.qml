@@ -54,8 +54,7 @@ T.MenuBar {
         color: Theme.groundHi
 
         Divider {
-            anchors.left: parent.left
-            anchors.right: parent.right
+            width: parent.width
             anchors.bottom: parent.bottom
         }
     }
@@ -157,8 +156,6 @@ T.MenuBar {
         }
 
         Item {
-            id: content
-
             x: item.leftPadding
             y: item.topPadding
             width: item.availableWidth

@@ -47,11 +47,7 @@ Sheet {
                 soft: true
                 wrapMode: Text.WordWrap
                 lineHeight: 1.25
-            }
-
-            Item {
-                width: 1
-                height: 8
+                bottomPadding: 16
             }
 
             Row {

@@ -26,10 +26,7 @@ FocusScope {
     Accessible.name: qsTr("Modules")
 
     Behavior on implicitWidth {
-        NumberAnimation {
-            duration: Motion.gentle
-            easing.type: Easing.OutCubic
-        }
+        GentleChange {}
     }
 
     // Gives the focus to a row.
@@ -52,8 +49,7 @@ FocusScope {
         id: head
 
         anchors.top: parent.top
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         implicitHeight: bar.sidebar.collapsed ? collapse.y + collapse.height + 8 : Math.max(mark.y + mark.height, brand.implicitHeight) + (bar.tight ? 12 : 20)
 
         // The application's mark, the same as its icon.
@@ -70,10 +66,7 @@ FocusScope {
             width: 28
             height: 28
             Behavior on inset {
-                NumberAnimation {
-                    duration: Motion.gentle
-                    easing.type: Easing.OutCubic
-                }
+                GentleChange {}
             }
 
             SymbolItem {
@@ -121,8 +114,7 @@ FocusScope {
         anchors.topMargin: -scroll.rim
         anchors.bottom: footer.top
         anchors.bottomMargin: -scroll.rim
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         contentHeight: column.implicitHeight + 2 * scroll.rim
         // The text or the window has another size.
         onEndChanged: {
@@ -180,8 +172,7 @@ FocusScope {
         id: footer
 
         anchors.bottom: parent.bottom
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         leftPadding: 12
         rightPadding: 12
         topPadding: 8
@@ -254,10 +245,8 @@ FocusScope {
         }
     }
 
-    Rectangle {
+    Divider {
         anchors.right: parent.right
-        width: 1
         height: parent.height
-        color: Theme.hairline
     }
 }

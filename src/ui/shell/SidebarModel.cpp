@@ -9,33 +9,18 @@
 namespace zelk {
 
 SidebarRows::SidebarRows(AppModel& app, const std::vector<SidebarGroup>& groups)
-    : RowModel({"heading", "title", "symbol", "tint", "selected", "name"}), app_(app), selected_(app.selection()) {
+    : RowModel(rows_, {{"heading", [](const Row& row) { return row.heading; }},
+                       {"title", [](const Row& row) { return lookOf(row.screen).title; }},
+                       {"symbol", [](const Row& row) { return lookOf(row.screen).symbol; }},
+                       {"tint", [](const Row& row) { return lookOf(row.screen).color; }},
+                       {"selected", [this](const Row& row) { return row.screen == selected_; }},
+                       {"name", [](const Row& row) { return QStringLiteral("sidebar") + lookOf(row.screen).title; }}}),
+      app_(app),
+      selected_(app.selection()) {
     for (const SidebarGroup& group : groups)
         for (const Screen screen : group.screens)
             rows_.push_back({screen == group.screens.front() ? group.title : QString(), screen});
     connect(&app, &AppModel::selectionChanged, this, &SidebarRows::followSelection);
-}
-
-QVariant SidebarRows::value(std::size_t at, int role) const {
-    const Row& row = rows_[at];
-    const ScreenLook& look = lookOf(row.screen);
-    switch (role) {
-        case headingRole:
-            return row.heading;
-        case Qt::DisplayRole:
-        case titleRole:
-            return look.title;
-        case symbolRole:
-            return look.symbol;
-        case tintRole:
-            return look.color;
-        case selectedRole:
-            return row.screen == selected_;
-        case nameRole:
-            return QStringLiteral("sidebar") + look.title;
-        default:
-            return {};
-    }
 }
 
 void SidebarRows::press(int row) {

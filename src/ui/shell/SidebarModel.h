@@ -22,8 +22,7 @@ struct SidebarGroup {
 /// List model of a part of the sidebar, one row per module. A group's title belongs to its first row. Main thread.
 class SidebarRows : public zelk::RowModel {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Part of SidebarModel")
+    QML_ANONYMOUS
 
 public:
     enum Role { headingRole = Qt::UserRole, titleRole, symbolRole, tintRole, selectedRole, nameRole };
@@ -38,9 +37,6 @@ public slots:
     void press(int row);
 
 private:
-    std::size_t size() const override { return rows_.size(); }
-    QVariant value(std::size_t at, int role) const override;
-
     struct Row {
         QString heading;  ///< empty on all but the first row of a titled group
         Screen screen;

@@ -101,17 +101,11 @@ Column {
             control: row
         }
 
-        HoverHandler {
-            cursorShape: Qt.PointingHandCursor
-        }
-
         background: Rectangle {
             radius: 8
             color: place.selected ? Qt.alpha(place.tint, Theme.isDark ? 0.18 : 0.16) : row.hovered || row.down ? Theme.hairline : "transparent"
             Behavior on color {
-                ColorAnimation {
-                    duration: Motion.quick
-                }
+                QuickChange {}
             }
 
             FocusRing {
@@ -121,8 +115,6 @@ Column {
         }
 
         Item {
-            id: content
-
             x: row.leftPadding
             y: row.topPadding
             width: row.availableWidth
@@ -152,9 +144,7 @@ Column {
                 opacity: place.collapsed ? 0 : place.selected ? 1 : 0.88
                 visible: opacity > 0
                 Behavior on opacity {
-                    NumberAnimation {
-                        duration: Motion.quick
-                    }
+                    QuickChange {}
                 }
             }
         }

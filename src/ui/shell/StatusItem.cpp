@@ -9,16 +9,10 @@
 
 namespace zelk {
 
-namespace {
-
-constexpr int refreshInterval = 200;  // milliseconds
-
-}  // namespace
-
 StatusMenu::StatusMenu(AppModel& app, std::function<void()> openZelk, std::function<void()> quit)
     : app_(app), openZelk_(std::move(openZelk)), quit_(std::move(quit)) {
     timer_.setSingleShot(true);
-    timer_.setInterval(refreshInterval);
+    timer_.setInterval(200);
     connect(&timer_, &QTimer::timeout, this, &StatusMenu::changed);
     const auto soon = [this] {
         if (!timer_.isActive()) timer_.start();

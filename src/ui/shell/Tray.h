@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <memory>
+#include <utility>
 
 namespace zelk {
 
@@ -21,9 +22,7 @@ signals:
 
 protected:
     void setThere(bool there) {
-        if (there == there_) return;
-        there_ = there;
-        emit changed();
+        if (std::exchange(there_, there) != there) emit changed();
     }
 
 private:

@@ -12,10 +12,19 @@ namespace {
 
 constexpr qsizetype keptBytes = 8 * 1024 * 1024;
 
-// Visible on the ground of both themes, and on a bubble. That of folders is usual on desktops.
-const QColor folderColor(90, 172, 245);
-const QColor programColor(139, 134, 152);
-const QColor applicationColor(167, 123, 255);
+/// Our own symbol, in a colour that is visible on the ground of both themes, and on a bubble. That of folders is usual
+/// on desktops.
+QImage ownIcon(DesktopIcons::Of kind, int side) {
+    switch (kind) {
+        case DesktopIcons::Of::folders:
+            return tintedSymbol(QStringLiteral("folder.fill"), QColor(90, 172, 245), side);
+        case DesktopIcons::Of::programs:
+            return tintedSymbol(QStringLiteral("gearshape"), QColor(139, 134, 152), side);
+        case DesktopIcons::Of::applications:
+            return tintedSymbol(QStringLiteral("square.grid.2x2"), QColor(167, 123, 255), side);
+    }
+    return {};
+}
 
 QImage imageOf(const IconPixels& pixels) {
     return QImage(reinterpret_cast<const uchar*>(pixels.argb.data()), pixels.side, pixels.side,
@@ -29,16 +38,7 @@ DesktopIcons::DesktopIcons(Workspace& workspace, Of kind) : workspace_(workspace
 
 QImage DesktopIcons::image(const std::string& path, int side) {
     const QImage desktops = desktopImage(path, side);
-    if (!desktops.isNull()) return desktops;
-    switch (kind_) {
-        case Of::folders:
-            return tintedSymbol(QStringLiteral("folder.fill"), folderColor, side);
-        case Of::programs:
-            return tintedSymbol(QStringLiteral("gearshape"), programColor, side);
-        case Of::applications:
-            return tintedSymbol(QStringLiteral("square.grid.2x2"), applicationColor, side);
-    }
-    return {};
+    return desktops.isNull() ? ownIcon(kind_, side) : desktops;
 }
 
 QImage DesktopIcons::desktopImage(const std::string& path, int side) {

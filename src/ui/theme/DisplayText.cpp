@@ -64,7 +64,8 @@ QString printedText(std::string_view output) {
 }
 
 QString nameText(std::string_view path) {
-    return displayText(path.substr(path.rfind('/') + 1));
+    const std::string_view last = path.substr(path.rfind('/') + 1);
+    return displayText(last.empty() ? path : last);
 }
 
 QString folderText(std::string_view path) {

@@ -15,7 +15,7 @@ namespace zelk {
 /// and direction overrides by visible marks, so that a name cannot pretend to be another.
 QString displayText(std::string_view bytes);
 
-/// Display text of the last component of a path.
+/// Display text of the last component of a path, or of the whole path if that is empty.
 QString nameText(std::string_view path);
 
 /// Display text of a path without its last component; "/" for an entry of the root directory.

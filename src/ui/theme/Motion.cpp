@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/theme/Motion.h"
 
+#include <utility>
+
 #include "ui/theme/DesktopSettings.h"
 
 namespace zelk {
@@ -18,9 +20,7 @@ void Motion::setReduced(bool reduced) {
 }
 
 void Motion::apply(bool reduced) {
-    if (reduced == reduced_) return;
-    reduced_ = reduced;
-    emit changed();
+    if (std::exchange(reduced_, reduced) != reduced) emit changed();
 }
 
 }  // namespace zelk

@@ -35,8 +35,6 @@ constexpr std::array directedSymbols{
     "arrow.down.right", "arrow.right.circle.fill", "arrow.up.right", "chevron.left", "chevron.right",
     "doc.text",         "heart.text.square",       "list.star",      "sidebar.left"};
 
-constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
-
 /// Caches recent images, so that a list with the same symbol in every row reads its file once.
 class DrawnSymbols {
 public:
@@ -51,7 +49,7 @@ public:
 
 private:
     QMutex mutex_;
-    QCache<Tinting, QImage> images_{kKeptBytes};
+    QCache<Tinting, QImage> images_{4 * 1024 * 1024};
 };
 
 /// The SVG of the symbol with lines of this weight: from normal to bold they grow by one of the grid's 24 units.

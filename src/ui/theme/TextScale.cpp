@@ -3,6 +3,7 @@
 
 #include <QGuiApplication>
 #include <algorithm>
+#include <utility>
 
 #include "ui/theme/DesktopSettings.h"
 
@@ -27,9 +28,7 @@ void TextScale::setFactor(qreal factor) {
 
 void TextScale::apply(qreal factor) {
     const qreal clamped = std::clamp(factor, smallest, largest);
-    if (clamped == factor_) return;
-    factor_ = clamped;
-    emit factorChanged();
+    if (std::exchange(factor_, clamped) != clamped) emit factorChanged();
 }
 
 }  // namespace zelk

@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QStyleHints>
+#include <utility>
 
 #include "state/AppModel.h"
 #include "ui/theme/FileTypeLook.h"
@@ -59,9 +60,7 @@ void Theme::choose() {
 }
 
 void Theme::show(const ZelkTheme& theme) {
-    if (&theme == current_) return;
-    current_ = &theme;
-    emit changed();
+    if (std::exchange(current_, &theme) != &theme) emit changed();
 }
 
 QColor Theme::otherFiles() const {

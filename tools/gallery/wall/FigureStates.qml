@@ -113,7 +113,6 @@ Section {
             symbolSize: 17
         }
         Divider {
-            vertical: true
             height: 34
         }
         Spinner {}

@@ -28,7 +28,6 @@ ListRow {
 
     implicitHeight: Math.max(picture.height, texts.implicitHeight, button.implicitHeight) + 2 * 10
 
-    Accessible.role: Accessible.ListItem
     Accessible.description: row.reason
     Accessible.onPressAction: row.asked()
 

@@ -128,8 +128,6 @@ Sheet {
 
         implicitHeight: Math.max(texts.implicitHeight, figureText.implicitHeight) + 2 * 6
 
-        Accessible.role: Accessible.ListItem
-
         FocusRing {
             shown: part.ringed
             corner: 8

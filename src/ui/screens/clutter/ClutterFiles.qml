@@ -156,8 +156,6 @@ FocusScope {
 
         implicitHeight: Math.max(tile.height, texts.implicitHeight) + 2 * 10
 
-        Accessible.role: Accessible.ListItem
-
         Rectangle {
             id: ground
 
@@ -196,7 +194,7 @@ FocusScope {
             symbolSize: 17
         }
 
-        Column {
+        TwoLines {
             id: texts
 
             anchors.left: tile.right
@@ -204,25 +202,12 @@ FocusScope {
             anchors.right: ageText.left
             anchors.rightMargin: 16
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 2
-
-            Label {
-                width: parent.width
-                text: row.name
-                size: 13
-                font.weight: Font.Medium
-                elide: Text.ElideMiddle
-                mute: true
-            }
-
-            Label {
-                width: parent.width
-                text: row.folder
-                size: 10
-                soft: true
-                elide: Text.ElideMiddle
-                mute: true
-            }
+            title: row.name
+            note: row.folder
+            noteSize: 10
+            weight: Font.Medium
+            elide: Text.ElideMiddle
+            mute: true
         }
 
         Label {

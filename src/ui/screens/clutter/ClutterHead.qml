@@ -27,29 +27,18 @@ Item {
             width: parent.width
             implicitHeight: Math.max(texts.implicitHeight, order.implicitHeight)
 
-            Column {
+            TwoLines {
                 id: texts
 
                 anchors.left: parent.left
                 anchors.right: order.left
                 anchors.rightMargin: 20
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 2
-
-                Label {
-                    width: parent.width
-                    text: qsTr("Clutter")
-                    size: 26
-                    font.weight: Font.DemiBold
-                    Accessible.role: Accessible.Heading
-                }
-
-                Label {
-                    width: parent.width
-                    text: qsTr("the heaviest files in your survey")
-                    size: 11
-                    soft: true
-                }
+                title: qsTr("Clutter")
+                note: qsTr("the heaviest files in your survey")
+                size: 26
+                weight: Font.DemiBold
+                isHeading: true
             }
 
             SegmentedPicker {

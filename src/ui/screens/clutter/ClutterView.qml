@@ -32,8 +32,7 @@ ModuleScaffold {
             onNothingChanged: results.build()
 
             EmptyState {
-                anchors.left: parent.left
-                anchors.right: parent.right
+                width: parent.width
                 anchors.top: parent.top
                 anchors.bottom: undoBar.top
                 visible: results.nothing
@@ -45,8 +44,7 @@ ModuleScaffold {
             Loader {
                 id: files
 
-                anchors.left: parent.left
-                anchors.right: parent.right
+                width: parent.width
                 anchors.top: parent.top
                 anchors.bottom: undoBar.top
                 visible: !results.nothing
@@ -58,8 +56,7 @@ ModuleScaffold {
             UndoBar {
                 id: undoBar
 
-                anchors.left: parent.left
-                anchors.right: parent.right
+                width: parent.width
                 anchors.bottom: parent.bottom
                 removal: results.module?.undoBar ?? null
                 onGone: files.focus = true

@@ -28,6 +28,23 @@ QString ageText(TimePoint modified, TimePoint now) {
 
 }  // namespace
 
+LargeFileRows::LargeFileRows()
+    : RowModel(files_,
+               {{"symbol", [](const LargeFile& file) { return lookOf(file.type).symbol; }},
+                {"tint", [](const LargeFile& file) { return lookOf(file.type).color; }},
+                {"name", [](const LargeFile& file) { return nameText(file.path); }},
+                {"path", [](const LargeFile& file) { return displayText(file.path); }},
+                {"folder", [](const LargeFile& file) { return folderText(file.path); }},
+                {"age", [this](const LargeFile& file) { return ageText(file.modified, now_); }},
+                {"size", [](const LargeFile& file) { return byteFigure(file.size); }},
+                {"bytes", [](const LargeFile& file) { return static_cast<qint64>(file.size); }},
+                {"spoken",
+                 [this](const LargeFile& file) {
+                     return AccessibleText::joined({nameText(file.path), folderText(file.path),
+                                                    ageText(file.modified, now_), byteFigure(file.size)});
+                 }},
+                {"actions", [](const LargeFile& file) { return tr("Actions for %1").arg(nameText(file.path)); }}}) {}
+
 void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
     edit(files_, std::move(files), [](const LargeFile& file) { return std::string_view(file.path); });
     // Rows that stay may have new sizes, and all have new ages.
@@ -37,35 +54,6 @@ void LargeFileRows::show(std::vector<LargeFile> files, TimePoint now) {
 
 std::string LargeFileRows::pathAt(int row) const {
     return has(row) ? files_[static_cast<std::size_t>(row)].path : std::string();
-}
-
-QVariant LargeFileRows::value(std::size_t row, int role) const {
-    const LargeFile& file = files_[row];
-    switch (role) {
-        case symbolRole:
-            return lookOf(file.type).symbol;
-        case tintRole:
-            return lookOf(file.type).color;
-        case nameRole:
-            return nameText(file.path);
-        case pathRole:
-            return displayText(file.path);
-        case folderRole:
-            return folderText(file.path);
-        case ageRole:
-            return ageText(file.modified, now_);
-        case sizeRole:
-            return byteFigure(file.size);
-        case bytesRole:
-            return static_cast<qint64>(file.size);
-        case spokenRole:
-            return AccessibleText::joined(
-                {nameText(file.path), folderText(file.path), ageText(file.modified, now_), byteFigure(file.size)});
-        case actionsRole:
-            return tr("Actions for %1").arg(nameText(file.path));
-        default:
-            return {};
-    }
 }
 
 }  // namespace zelk

@@ -13,8 +13,7 @@ namespace zelk {
 /// List model of large files. Main thread.
 class LargeFileRows : public zelk::RowModel {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Part of the screens that list large files")
+    QML_ANONYMOUS
 
 public:
     enum Role {
@@ -30,8 +29,7 @@ public:
         actionsRole
     };
 
-    LargeFileRows()
-        : RowModel({"symbol", "tint", "name", "path", "folder", "age", "size", "bytes", "spoken", "actions"}) {}
+    LargeFileRows();
 
     /// Shows `files` in this order, with ages as of `now`. Delegates of rows that stay are kept.
     void show(std::vector<LargeFile> files, TimePoint now);
@@ -40,9 +38,6 @@ public:
     std::string pathAt(int row) const;
 
 private:
-    std::size_t size() const override { return files_.size(); }
-    QVariant value(std::size_t row, int role) const override;
-
     std::vector<LargeFile> files_;
     TimePoint now_ = 0;
 };

@@ -32,7 +32,6 @@ ListRow {
 
     implicitHeight: row.gap + row.foot + (row.head ? Math.max(34, texts.implicitHeight, keepFirst.implicitHeight) + 2 * 12 : Math.max(label.implicitHeight, mark.implicitHeight, reveal.implicitHeight) + 2 * 1)
 
-    Accessible.role: Accessible.ListItem
     Accessible.onPressAction: row.acted()
 
     // The part of the card that lies in this row: its outline continues in the rows above and below.

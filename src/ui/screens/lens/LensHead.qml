@@ -110,8 +110,7 @@ Item {
     }
 
     Divider {
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         anchors.bottom: parent.bottom
     }
 }

@@ -101,7 +101,6 @@ RowList {
         clickable: row.drillable
         implicitHeight: Math.max(content.implicitHeight, label.implicitHeight) + 2 * 8
 
-        Accessible.role: Accessible.ListItem
         Accessible.onPressAction: row.opened()
 
         Rectangle {

@@ -31,8 +31,7 @@ FocusScope {
         Item {
             id: bar
 
-            anchors.left: parent.left
-            anchors.right: parent.right
+            width: parent.width
             implicitHeight: Math.max(52, startOver.implicitHeight + 16, nameText.implicitHeight + 16)
 
             Button {
@@ -57,7 +56,6 @@ FocusScope {
                 anchors.leftMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
                 height: 20
-                vertical: true
             }
 
             IconButton {
@@ -108,8 +106,7 @@ FocusScope {
             }
 
             Divider {
-                anchors.left: parent.left
-                anchors.right: parent.right
+                width: parent.width
                 anchors.bottom: parent.bottom
             }
         }
@@ -118,8 +115,7 @@ FocusScope {
             id: stage
 
             anchors.top: bar.bottom
-            anchors.left: parent.left
-            anchors.right: parent.right
+            width: parent.width
             anchors.bottom: undoBar.top
 
             NumberAnimation {
@@ -170,7 +166,6 @@ FocusScope {
                 anchors.left: head.right
                 anchors.top: parent.top
                 anchors.bottom: parent.bottom
-                vertical: true
             }
 
             Item {
@@ -204,8 +199,7 @@ FocusScope {
         UndoBar {
             id: undoBar
 
-            anchors.left: parent.left
-            anchors.right: parent.right
+            width: parent.width
             anchors.bottom: foot.top
             removal: panes.lens.undoBar
             onGone: byKey => {
@@ -218,15 +212,13 @@ FocusScope {
         Rectangle {
             id: foot
 
-            anchors.left: parent.left
-            anchors.right: parent.right
+            width: parent.width
             anchors.bottom: parent.bottom
             implicitHeight: Math.max(volume.implicitHeight, caption.implicitHeight, removeButton.implicitHeight) + 2 * 16
             color: Theme.groundHi
 
             Divider {
-                anchors.left: parent.left
-                anchors.right: parent.right
+                width: parent.width
             }
 
             LensVolume {

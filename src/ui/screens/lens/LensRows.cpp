@@ -11,17 +11,24 @@
 
 namespace zelk {
 
-namespace {
-
-/// With more steps than this, a model reset is cheaper.
-constexpr int mostSteps = 64;
-
-}  // namespace
-
 LensRows::LensRows(const LensWalk& walk, IconOf iconOf)
-    : RowModel({"name", "size", "icon", "ticked", "drillable", "spoken", "info"}),
+    : RowModel(rows_, {{"name", [](const Row& row) { return displayText(row.node->name()); }},
+                       {"size", [](const Row& row) { return static_cast<qint64>(row.bytes); }},
+                       {"icon", [this](const Row& row) { return iconOf_(row.node->fullPath()); }},
+                       {"ticked", [this](const Row& row) { return isTicked(row); }},
+                       {"drillable", [](const Row& row) { return !row.node->children.empty(); }},
+                       {"spoken",
+                        [this](const Row& row) {
+                            return AccessibleText::joined({displayText(row.node->name()), byteFigure(row.bytes),
+                                                           tr("folder"), isTicked(row) ? tr("ticked") : QString()});
+                        }},
+                       {"info", [](const Row& row) { return tr("What is %1?").arg(displayText(row.node->name())); }}}),
       walk_(walk),
       iconOf_(std::move(iconOf)) {}
+
+bool LensRows::isTicked(const Row& row) const {
+    return walk_.isSelected(row.node->fullPath());
+}
 
 void LensRows::show() {
     replaceBy(walk_.visibleChildren());
@@ -46,6 +53,7 @@ void LensRows::replaceBy(const std::vector<NodeRef>& nodes) {
 /// Removes rows that are not in `nodes` and moves those that became smaller. Returns false if other changes are needed
 /// or there are too many steps; the rows are then in an intermediate state.
 bool LensRows::turnInto(const std::vector<NodeRef>& nodes) {
+    constexpr int mostSteps = 64;  // with more, a reset is cheaper
     std::unordered_map<const FSNode*, int> places;
     places.reserve(nodes.size());
     for (const NodeRef& node : nodes) places.emplace(node.get(), static_cast<int>(places.size()));
@@ -102,30 +110,6 @@ NodeRef LensRows::node(int row) const {
 int LensRows::rowOf(const NodeRef& node) const {
     const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const Row& row) { return row.node == node; });
     return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
-}
-
-QVariant LensRows::value(std::size_t row, int role) const {
-    const auto& [node, bytes] = rows_[row];
-    const auto ticked = [&folder = *node, this] { return walk_.isSelected(folder.fullPath()); };
-    switch (role) {
-        case nameRole:
-            return displayText(node->name());
-        case sizeRole:
-            return static_cast<qint64>(bytes);
-        case iconRole:
-            return iconOf_(node->fullPath());
-        case tickedRole:
-            return ticked();
-        case drillableRole:
-            return !node->children.empty();
-        case spokenRole:
-            return AccessibleText::joined(
-                {displayText(node->name()), byteFigure(bytes), tr("folder"), ticked() ? tr("ticked") : QString()});
-        case infoRole:
-            return tr("What is %1?").arg(displayText(node->name()));
-        default:
-            return {};
-    }
 }
 
 }  // namespace zelk

@@ -20,8 +20,7 @@ class LensWalk;
 /// thousands, so values are computed on demand and changes are notified per row. Main thread.
 class LensRows : public zelk::RowModel {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Part of LensScreenModel")
+    QML_ANONYMOUS
 
 public:
     enum Role { nameRole = Qt::UserRole, sizeRole, iconRole, tickedRole, drillableRole, spokenRole, infoRole };
@@ -45,15 +44,13 @@ public:
     int rowOf(const NodeRef& node) const;
 
 private:
-    std::size_t size() const override { return rows_.size(); }
-    QVariant value(std::size_t row, int role) const override;
-
     struct Row {
         NodeRef node;
         std::int64_t bytes = 0;  ///< as currently displayed
     };
 
     void replaceBy(const std::vector<NodeRef>& nodes);
+    bool isTicked(const Row& row) const;
     bool turnInto(const std::vector<NodeRef>& nodes);
     void tellSizes();
 

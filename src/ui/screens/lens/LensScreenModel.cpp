@@ -76,7 +76,7 @@ LensScreenModel::~LensScreenModel() {
 QString LensScreenModel::place() const {
     const NodeRef node = walk_.currentNode();
     if (!node) return QStringLiteral("—");
-    return isAboveRoots() ? tr("Surveyed folders") : displayText(lastComponent(node->fullPath()));
+    return isAboveRoots() ? tr("Surveyed folders") : nameText(node->fullPath());
 }
 
 /// "1 folders" is as intended: the word labels a count rather than agreeing with it.
@@ -144,20 +144,16 @@ void LensScreenModel::followTree() {
     walk_.setRoot(app_.root());
     if (!(walk_.currentNode() == shown_)) return arrive();
     rows_.follow();
-    showSlices();
-    leaveTrees();
     emit placeChanged();
-    emit selectionChanged();
+    tellSelection();
 }
 
 /// Shows another folder. The current row becomes that of `from`, the folder that was left, if it has one.
 void LensScreenModel::arrive(const NodeRef& from) {
     rows_.show();
     shown_ = walk_.currentNode();
-    showSlices();
-    leaveTrees();
     emit placeChanged();
-    emit selectionChanged();
+    tellSelection();
     emit arrived(std::max(0, rows_.rowOf(from)));
 }
 

@@ -95,9 +95,4 @@ std::vector<NodeRef> LensWalk::takeLeftTrees() {
     return trees;
 }
 
-std::string_view lastComponent(std::string_view path) {
-    const std::string_view last = path.substr(path.rfind('/') + 1);
-    return last.empty() ? path : last;
-}
-
 }  // namespace zelk

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <map>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "scan/FSNode.h"
@@ -57,8 +56,5 @@ private:
     std::vector<NodeRef> stack_;
     std::map<std::string, NodeRef> selected_;
 };
-
-/// The last component of a path, or the whole path if that is empty.
-std::string_view lastComponent(std::string_view path);
 
 }  // namespace zelk

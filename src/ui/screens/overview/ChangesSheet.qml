@@ -22,28 +22,17 @@ Sheet {
     Item {
         implicitHeight: 260
 
-        Column {
+        TwoLines {
             id: titles
 
             anchors.left: parent.left
             anchors.right: done.left
             anchors.rightMargin: 16
-            spacing: 2
-
-            Label {
-                width: parent.width
-                text: sheet.title
-                size: 17
-                font.weight: Font.DemiBold
-                Accessible.role: Accessible.Heading
-            }
-
-            Label {
-                width: parent.width
-                text: qsTr("since your previous survey")
-                size: 11
-                soft: true
-            }
+            title: sheet.title
+            note: qsTr("since your previous survey")
+            size: 17
+            weight: Font.DemiBold
+            isHeading: true
         }
 
         Button {
@@ -142,7 +131,7 @@ Sheet {
                         points: 12
                     }
 
-                    Column {
+                    TwoLines {
                         id: words
 
                         anchors.left: folder.right
@@ -150,23 +139,11 @@ Sheet {
                         anchors.right: figure.left
                         anchors.rightMargin: 16
                         anchors.verticalCenter: parent.verticalCenter
-                        spacing: 2
-
-                        Label {
-                            width: parent.width
-                            text: place.name
-                            elide: Text.ElideMiddle
-                            mute: true
-                        }
-
-                        Label {
-                            width: parent.width
-                            text: place.path
-                            size: 9
-                            soft: true
-                            elide: Text.ElideMiddle
-                            mute: true
-                        }
+                        title: place.name
+                        note: place.path
+                        noteSize: 9
+                        elide: Text.ElideMiddle
+                        mute: true
                     }
 
                     AnimatedNumber {

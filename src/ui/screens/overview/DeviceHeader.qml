@@ -11,7 +11,7 @@ Item {
 
     required property deviceFace device
 
-    implicitWidth: box.width + Math.max(nameText.implicitWidth, detail.implicitWidth) + volume.width + 40
+    implicitWidth: box.width + names.wanted + volume.width + 40
     implicitHeight: Math.max(box.height, names.height, volume.height)
 
     Rectangle {
@@ -34,7 +34,7 @@ Item {
         }
     }
 
-    Column {
+    TwoLines {
         id: names
 
         anchors.left: box.right
@@ -43,25 +43,11 @@ Item {
         anchors.rightMargin: 20
         anchors.verticalCenter: parent.verticalCenter
         spacing: 3
-
-        Label {
-            id: nameText
-
-            width: parent.width
-            text: header.device.name
-            size: 17
-            font.weight: Font.DemiBold
-        }
-
-        Label {
-            id: detail
-
-            width: parent.width
-            text: header.device.detail
-            size: 11
-            wrapMode: Text.Wrap
-            soft: true
-        }
+        title: header.device.name
+        note: header.device.detail
+        size: 17
+        weight: Font.DemiBold
+        noteWraps: true
     }
 
     Column {

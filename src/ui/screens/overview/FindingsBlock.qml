@@ -88,7 +88,6 @@ Column {
         anchors.left: parent.left
         bottomPadding: -8
         text: qsTr("Findings")
-        Accessible.role: Accessible.Heading
     }
 
     // The surveyed bytes by type, and below them the Trash.
@@ -104,7 +103,6 @@ Column {
             Eyebrow {
                 anchors.left: parent.left
                 text: qsTr("Scanned storage")
-                Accessible.role: Accessible.Heading
             }
 
             StorageRibbon {
@@ -145,39 +143,18 @@ Column {
         Repeater {
             id: cards
 
-            model: [
-                {
-                    symbol: "sparkles",
-                    title: qsTr("Reclaim"),
-                    tint: "#32c77b"
-                },
-                {
-                    symbol: "tray.full",
-                    title: qsTr("Clutter"),
-                    tint: "#22c3c9"
-                },
-                {
-                    symbol: "arrow.down.circle",
-                    title: qsTr("Downloads"),
-                    tint: "#56c2f5"
-                },
-                {
-                    symbol: "internaldrive",
-                    title: qsTr("System"),
-                    tint: "#7c83ff"
-                }
-            ]
+            model: block.findings.cards
 
             ModuleCard {
                 required property int index
-                required property var modelData
+                required property screenLook modelData
 
                 objectName: "findingCard" + index
                 width: grid.cell
                 height: grid.tallest
                 symbol: modelData.symbol
                 title: modelData.title
-                tint: modelData.tint
+                tint: modelData.color
                 value: block.findings.cardBytes[index]
                 detail: block.findings.cardDetails[index]
                 onClicked: block.findings.openCard(index)

@@ -13,8 +13,6 @@ namespace zelk {
 
 namespace {
 
-const QColor largestTypeColor(255, 59, 48);
-
 /// The surveyed bytes. With a single scan root, its own size.
 std::int64_t scannedBytes(const AppModel& app) {
     const NodeRef& root = app.root();
@@ -53,7 +51,13 @@ std::int64_t purgeableBytes(const AppModel& app) {
 
 }  // namespace
 
-FindingsModel::FindingsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app) {
+FindingsModel::FindingsModel(AppModel& app, QObject* parent)
+    : QObject(parent),
+      app_(app),
+      cards_{lookOf(Screen::reclaim),
+             lookOf(Screen::clutter),
+             {tr("Downloads"), {}, QStringLiteral("arrow.down.circle"), QColor(86, 194, 245)},
+             lookOf(Screen::system)} {
     for (const auto changedField : {&AppModel::scanPhaseChanged, &AppModel::reclaimablesChanged,
                                     &AppModel::insightsChanged, &AppModel::rootChanged, &AppModel::volumeChanged})
         connect(&app, changedField, this, &FindingsModel::refresh);
@@ -105,6 +109,7 @@ void FindingsModel::headline() {
 }
 
 QList<RibbonSegment> FindingsModel::readSegments() const {
+    const QColor largestTypeColor(255, 59, 48);
     QList<RibbonSegment> segments;
     const auto types = app_.sortedTypeTotals();
     for (const auto& [type, tally] : types) {

@@ -9,6 +9,7 @@
 
 #include "ui/charts/RibbonPicture.h"
 #include "ui/screens/clutter/LargeFileRows.h"
+#include "ui/theme/ScreenLook.h"
 
 namespace zelk {
 
@@ -26,6 +27,7 @@ class FindingsModel : public QObject {
     Q_PROPERTY(bool reviewable READ reviewable NOTIFY changed FINAL)
     Q_PROPERTY(QList<zelk::RibbonSegment> segments READ segments NOTIFY changed FINAL)
     Q_PROPERTY(double freeBytes READ freeBytes NOTIFY changed FINAL)
+    Q_PROPERTY(QList<zelk::ScreenLook> cards READ cards CONSTANT FINAL)
     Q_PROPERTY(QList<qreal> cardBytes READ cardBytes NOTIFY changed FINAL)
     Q_PROPERTY(QStringList cardDetails READ cardDetails NOTIFY changed FINAL)
     Q_PROPERTY(zelk::LargeFileRows* largest READ largest CONSTANT FINAL)
@@ -44,7 +46,8 @@ public:
     /// By type, largest first.
     const QList<RibbonSegment>& segments() const { return segments_; }
     qint64 freeBytes() const { return freeBytes_; }
-    /// The figures and lines of the cards that lead on: those of Reclaim, Clutter, the downloads and System.
+    /// The cards that lead on, to Reclaim, Clutter, the downloads and System, with their figures and lines.
+    const QList<ScreenLook>& cards() const { return cards_; }
     const QList<qreal>& cardBytes() const { return cardBytes_; }
     const QStringList& cardDetails() const { return cardDetails_; }
     /// The first few of the large files.
@@ -65,6 +68,7 @@ private:
     QList<RibbonSegment> readSegments() const;
 
     AppModel& app_;
+    const QList<ScreenLook> cards_;
     LargeFileRows largest_;
     qint64 recoverable_ = 0;
     QString line_;

@@ -24,9 +24,7 @@ BaseButton {
 
     scale: card.down ? 0.985 : 1
     Behavior on scale {
-        NumberAnimation {
-            duration: Motion.quick
-        }
+        QuickChange {}
     }
 
     background: Rectangle {
@@ -35,9 +33,7 @@ BaseButton {
         border.width: 1
         border.color: card.raised ? Qt.alpha(card.tint, 0.5) : Theme.hairline
         Behavior on border.color {
-            ColorAnimation {
-                duration: Motion.quick
-            }
+            QuickChange {}
         }
 
         SoftShadow {
@@ -51,14 +47,10 @@ BaseButton {
             radius: card.raised ? 12 : 6
             strength: card.raised ? 0.25 : 0.06
             Behavior on radius {
-                NumberAnimation {
-                    duration: Motion.quick
-                }
+                QuickChange {}
             }
             Behavior on strength {
-                NumberAnimation {
-                    duration: Motion.quick
-                }
+                QuickChange {}
             }
         }
 

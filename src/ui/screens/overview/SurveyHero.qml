@@ -57,8 +57,7 @@ FocusScope {
     Column {
         id: column
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         spacing: 16
 
         ScanButton {
@@ -88,8 +87,7 @@ FocusScope {
         }
 
         Item {
-            anchors.left: parent.left
-            anchors.right: parent.right
+            width: parent.width
             // With results, only the height of this phase.
             implicitHeight: hero.survey.finished ? done.implicitHeight : Math.max(idleBlock.implicitHeight, progress.implicitHeight)
 
@@ -148,11 +146,7 @@ FocusScope {
                     size: 11
                     elide: Text.ElideMiddle
                     maximumLineCount: 1
-                }
-
-                Item {
-                    width: 1
-                    height: 8
+                    bottomPadding: 12
                 }
 
                 Button {
@@ -188,17 +182,13 @@ FocusScope {
 
         required property bool shown
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         visible: phase.shown
         opacity: phase.shown ? 1 : 0
 
         Behavior on opacity {
             enabled: phase.shown
-            NumberAnimation {
-                duration: Motion.gentle
-                easing.type: Easing.OutCubic
-            }
+            GentleChange {}
         }
     }
 

@@ -162,9 +162,7 @@ void SurveyScreenModel::speak() {
         text = tr("%1, %2 items", "", forPlural(items_)).arg(byteFigure(scanned_), groupedFigure(items_));
     }
     spokenAt_ = time;
-    if (text == spokenProgress_) return;
-    spokenProgress_ = text;
-    emit spokenProgressChanged();
+    if (std::exchange(spokenProgress_, text) != text) emit spokenProgressChanged();
 }
 
 double SurveyScreenModel::steadySeconds() {

@@ -77,10 +77,7 @@ FocusScope {
                 focus: true
 
                 Behavior on y {
-                    NumberAnimation {
-                        duration: Motion.gentle
-                        easing.type: Easing.OutCubic
-                    }
+                    GentleChange {}
                 }
             }
 
@@ -106,10 +103,7 @@ FocusScope {
 
                 Behavior on opacity {
                     enabled: findingsLoader.wanted
-                    NumberAnimation {
-                        duration: Motion.gentle
-                        easing.type: Easing.OutCubic
-                    }
+                    GentleChange {}
                 }
             }
         }

@@ -32,7 +32,7 @@ Item {
         tint: Theme.inkSoft
     }
 
-    Column {
+    TwoLines {
         id: words
 
         anchors.left: tile.right
@@ -40,27 +40,13 @@ Item {
         anchors.right: trailing.left
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
         // Holds the focus when the button disappears, so that screen readers announce the new state of the Trash.
         Accessible.role: Accessible.Notification
-        Accessible.name: AccessibleText.joined([title.text, banner.trash.subtitle])
+        Accessible.name: AccessibleText.joined([words.title, banner.trash.subtitle])
         Accessible.focusable: true
-
-        Label {
-            id: title
-
-            width: parent.width
-            text: qsTr("Trash")
-            size: 13
-            font.weight: Font.DemiBold
-        }
-
-        Label {
-            width: parent.width
-            text: banner.trash.subtitle
-            size: 11
-            soft: true
-        }
+        title: qsTr("Trash")
+        note: banner.trash.subtitle
+        weight: Font.DemiBold
     }
 
     Row {

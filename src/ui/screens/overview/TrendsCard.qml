@@ -23,7 +23,6 @@ Card {
         Eyebrow {
             anchors.left: parent.left
             text: qsTr("Trends")
-            Accessible.role: Accessible.Heading
         }
 
         Item {

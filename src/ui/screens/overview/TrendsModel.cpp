@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <string_view>
+#include <utility>
 
 #include "state/AppModel.h"
 #include "ui/theme/DisplayText.h"
@@ -11,9 +11,6 @@
 namespace zelk {
 
 namespace {
-
-// A forecast beyond this many days is not alarming.
-constexpr std::int64_t nearDays = 29;
 
 /// The growth from `before` to `now` in bytes; negative if it shrank. Saturates, since the history file may contain any
 /// values, and so that the result can always be negated.
@@ -24,38 +21,30 @@ std::int64_t growth(std::int64_t before, std::int64_t now) {
     return std::max(grown, -most);
 }
 
-/// The last component, or "/" for the root directory.
-std::string_view lastComponent(std::string_view path) {
-    return path == "/" ? path : path.substr(path.rfind('/') + 1);
-}
-
 }  // namespace
+
+ChangesModel::ChangesModel(QObject* parent)
+    : RowModel(rows_,
+               {{"heading", [](const Row& row) { return row.heading; }},
+                {"kind", [](const Row& row) { return static_cast<int>(row.kind); }},
+                {"name", [](const Row& row) { return nameText(row.change.path); }},
+                {"path", [](const Row& row) { return displayText(row.change.path); }},
+                {"size", sizeText}},
+               parent) {}
 
 void ChangesModel::show(const FolderChanges& changes) {
     beginResetModel();
     rows_.clear();
-    add(Grew, changes.grew);
-    add(Appeared, changes.appeared);
-    add(Vanished, changes.gone);
+    add(Grew, changes.grew, tr("Grew (%1)"));
+    add(Appeared, changes.appeared, tr("Appeared (%1)"));
+    add(Vanished, changes.gone, tr("Vanished (%1)"));
     endResetModel();
     emit emptyChanged();
 }
 
-void ChangesModel::add(Kind kind, const std::vector<FolderChange>& changes) {
-    for (const FolderChange& change : changes) rows_.push_back({kind, change});
-}
-
-QString ChangesModel::heading(Kind kind) const {
-    const auto count = std::ranges::count(rows_, kind, &Row::kind);
-    switch (kind) {
-        case Grew:
-            return tr("Grew (%1)").arg(count);
-        case Appeared:
-            return tr("Appeared (%1)").arg(count);
-        case Vanished:
-            return tr("Vanished (%1)").arg(count);
-    }
-    return {};
+void ChangesModel::add(Kind kind, const std::vector<FolderChange>& changes, const QString& heading) {
+    for (const FolderChange& change : changes)
+        rows_.push_back({kind, change, &change == &changes.front() ? heading.arg(changes.size()) : QString()});
 }
 
 QString ChangesModel::sizeText(const Row& row) {
@@ -72,32 +61,13 @@ QString ChangesModel::sizeText(const Row& row) {
     return {};
 }
 
-QVariant ChangesModel::value(std::size_t at, int role) const {
-    const Row& row = rows_[at];
-    const std::string_view path = row.change.path;
-    switch (role) {
-        case headingRole:
-            return at == 0 || rows_[at - 1].kind != row.kind ? heading(row.kind) : QString();
-        case kindRole:
-            return static_cast<int>(row.kind);
-        case Qt::DisplayRole:
-        case nameRole:
-            return displayText(lastComponent(path));
-        case pathRole:
-            return displayText(path);
-        case sizeRole:
-            return sizeText(row);
-        default:
-            return {};
-    }
-}
-
 TrendsModel::TrendsModel(AppModel& app, QObject* parent) : QObject(parent), app_(app) {
     connect(&app, &AppModel::historyChanged, this, &TrendsModel::refresh);
     refresh();
 }
 
 void TrendsModel::refresh() {
+    constexpr std::int64_t nearDays = 29;  // a forecast beyond is not alarming
     const std::vector<SurveyRecord>& history = app_.history();
     shown_ = history.size() >= 2;
     delta_ = shown_ ? growth(history[history.size() - 2].totalScanned, history.back().totalScanned) : 0;
@@ -124,9 +94,7 @@ QString TrendsModel::deltaLine() const {
 }
 
 void TrendsModel::setShowChanges(bool show) {
-    if (show == showChanges_) return;
-    showChanges_ = show;
-    emit showChangesChanged();
+    if (std::exchange(showChanges_, show) != show) emit showChangesChanged();
 }
 
 }  // namespace zelk

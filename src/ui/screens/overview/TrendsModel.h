@@ -28,7 +28,7 @@ public:
     /// Only the first row of a section has a heading.
     enum Role { headingRole = Qt::UserRole, kindRole, nameRole, pathRole, sizeRole };
 
-    explicit ChangesModel(QObject* parent = nullptr) : RowModel({"heading", "kind", "name", "path", "size"}, parent) {}
+    explicit ChangesModel(QObject* parent = nullptr);
 
     void show(const FolderChanges& changes);
 
@@ -41,12 +41,10 @@ private:
     struct Row {
         Kind kind;
         FolderChange change;
+        QString heading;
     };
 
-    std::size_t size() const override { return rows_.size(); }
-    QVariant value(std::size_t at, int role) const override;
-    void add(Kind kind, const std::vector<FolderChange>& changes);
-    QString heading(Kind kind) const;
+    void add(Kind kind, const std::vector<FolderChange>& changes, const QString& heading);
     static QString sizeText(const Row& row);
 
     std::vector<Row> rows_;

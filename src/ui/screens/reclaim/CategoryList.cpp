@@ -22,7 +22,20 @@ QString countText(std::int64_t items) {
 }  // namespace
 
 CategoryList::CategoryList(AppModel& app, std::function<void(std::vector<Reclaimable>)> review)
-    : RowModel({"identity", "name", "note", "tint", "bytes", "itemCount", "grade", "chosen", "spoken"}),
+    : RowModel(rows_, {{"identity", [](const Row& row) { return displayText(row.category->id); }},
+                       {"name", [](const Row& row) { return SystemTexts::worded(row.category->displayName); }},
+                       {"note", [](const Row& row) { return SystemTexts::worded(row.category->note); }},
+                       {"tint", [](const Row& row) { return colorOf(row.category->safety); }},
+                       {"bytes", [](const Row& row) { return static_cast<qint64>(row.bytes); }},
+                       {"itemCount", [](const Row& row) { return countText(row.items); }},
+                       {"grade", [](const Row& row) { return wordOf(row.category->safety); }},
+                       {"chosen", [this](const Row& row) { return isChosen(row); }},
+                       {"spoken",
+                        [](const Row& row) {
+                            return AccessibleText::joined(
+                                {SystemTexts::worded(row.category->displayName), wordOf(row.category->safety),
+                                 byteFigure(row.bytes), countText(row.items), SystemTexts::worded(row.category->note)});
+                        }}}),
       app_(app),
       review_(std::move(review)),
       bubbles_({[this](const BubbleSlice& slice) {
@@ -42,35 +55,6 @@ void CategoryList::appear() {
 
 QString CategoryList::menuLabel() const {
     return chosen_.empty() ? tr("None") : QString::number(chosen_.size());
-}
-
-QVariant CategoryList::value(std::size_t at, int role) const {
-    const Row& row = rows_[at];
-    const auto text = [](std::string_view bytes) { return displayText(bytes); };
-    switch (role) {
-        case idRole:
-            return text(row.category->id);
-        case nameRole:
-            return SystemTexts::worded(row.category->displayName);
-        case noteRole:
-            return SystemTexts::worded(row.category->note);
-        case tintRole:
-            return colorOf(row.category->safety);
-        case bytesRole:
-            return static_cast<qint64>(row.bytes);
-        case countRole:
-            return countText(row.items);
-        case gradeRole:
-            return wordOf(row.category->safety);
-        case chosenRole:
-            return isChosen(row);
-        case spokenRole:
-            return AccessibleText::joined({SystemTexts::worded(row.category->displayName), wordOf(row.category->safety),
-                                           byteFigure(row.bytes), countText(row.items),
-                                           SystemTexts::worded(row.category->note)});
-        default:
-            return {};
-    }
 }
 
 void CategoryList::toggle(int row) {

@@ -66,9 +66,6 @@ signals:
     void selectionChanged();
 
 private:
-    std::size_t size() const override { return rows_.size(); }
-    QVariant value(std::size_t at, int role) const override;
-
     struct Row {
         const ReclaimCategory* category;
         std::int64_t bytes;

@@ -107,7 +107,6 @@ FocusScope {
         anchors.left: mapSide.right
         anchors.top: parent.top
         anchors.bottom: cleanFooter.top
-        vertical: true
     }
 
     BubbleChart {
@@ -124,8 +123,7 @@ FocusScope {
     CleanFooter {
         id: cleanFooter
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         anchors.bottom: parent.bottom
         line: pane.categories.footer
         action: qsTr("Review & Clean")
@@ -196,7 +194,7 @@ FocusScope {
             color: row.tint
         }
 
-        Column {
+        TwoLines {
             id: texts
 
             anchors.left: dot.right
@@ -204,25 +202,11 @@ FocusScope {
             anchors.right: figures.left
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 2
-
-            Label {
-                width: parent.width
-                text: row.name
-                size: 13
-                font.weight: Font.DemiBold
-                wrapMode: Text.Wrap
-                mute: true
-            }
-
-            Label {
-                width: parent.width
-                text: row.note
-                size: 11
-                soft: true
-                wrapMode: Text.Wrap
-                mute: true
-            }
+            title: row.name
+            note: row.note
+            weight: Font.DemiBold
+            wraps: true
+            mute: true
         }
 
         Column {

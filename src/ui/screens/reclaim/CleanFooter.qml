@@ -22,7 +22,7 @@ Rectangle {
         width: parent.width
     }
 
-    Column {
+    TwoLines {
         id: texts
 
         anchors.left: parent.left
@@ -30,22 +30,9 @@ Rectangle {
         anchors.right: button.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
-
-        Label {
-            width: parent.width
-            text: footer.line
-            size: 13
-            font.weight: Font.DemiBold
-        }
-
-        Label {
-            width: parent.width
-            text: footer.figure
-            size: 11
-            soft: true
-            visible: text !== ""
-        }
+        title: footer.line
+        note: footer.figure
+        weight: Font.DemiBold
     }
 
     Button {

@@ -9,34 +9,35 @@
 
 namespace zelk {
 
-DryRunRows::DryRunRows(std::vector<Reclaimable> items)
-    : RowModel({"symbol", "name", "folder", "figure", "method", "spoken"}), items_(std::move(items)) {}
+namespace {
 
-QVariant DryRunRows::value(std::size_t row, int role) const {
-    const Reclaimable& item = items_[row];
-    const auto size = [&] { return byteFigure(static_cast<std::int64_t>(item.size)); };
-    const auto method = [&] {
-        return item.method.kind == ReclaimMethod::Kind::trash ? DryRunRows::tr("Trash")
-                                                              : displayText(methodSummary(item.method));
-    };
-    switch (role) {
-        case symbolRole:
-            return item.method.kind == ReclaimMethod::Kind::command ? QStringLiteral("terminal")
-                                                                    : QStringLiteral("trash");
-        case nameRole:
-            return nameText(item.path);
-        case folderRole:
-            return folderText(item.path);
-        case sizeRole:
-            return size();
-        case methodRole:
-            return method();
-        case spokenRole:
-            return AccessibleText::joined({nameText(item.path), size(), method(), folderText(item.path)});
-        default:
-            return {};
-    }
+QString symbolOf(const Reclaimable& item) {
+    return item.method.kind == ReclaimMethod::Kind::command ? QStringLiteral("terminal") : QStringLiteral("trash");
 }
+
+QString sizeOf(const Reclaimable& item) {
+    return byteFigure(static_cast<std::int64_t>(item.size));
+}
+
+QString methodOf(const Reclaimable& item) {
+    return item.method.kind == ReclaimMethod::Kind::trash ? DryRunRows::tr("Trash")
+                                                          : displayText(methodSummary(item.method));
+}
+
+}  // namespace
+
+DryRunRows::DryRunRows(std::vector<Reclaimable> items)
+    : RowModel(items_, {{"symbol", symbolOf},
+                        {"name", [](const Reclaimable& item) { return nameText(item.path); }},
+                        {"folder", [](const Reclaimable& item) { return folderText(item.path); }},
+                        {"figure", sizeOf},
+                        {"method", methodOf},
+                        {"spoken",
+                         [](const Reclaimable& item) {
+                             return AccessibleText::joined(
+                                 {nameText(item.path), sizeOf(item), methodOf(item), folderText(item.path)});
+                         }}}),
+      items_(std::move(items)) {}
 
 DryRunModel::DryRunModel(DevCleanupModel& model, std::vector<Reclaimable> items, const Platform& platform,
                          Actions actions)

@@ -18,8 +18,7 @@ namespace zelk {
 /// List model of the items under review; does not change after construction. Main thread.
 class DryRunRows : public zelk::RowModel {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Part of DryRunModel")
+    QML_ANONYMOUS
 
 public:
     enum Role { symbolRole = Qt::UserRole, nameRole, folderRole, sizeRole, methodRole, spokenRole };
@@ -29,9 +28,6 @@ public:
     const std::vector<Reclaimable>& items() const { return items_; }
 
 private:
-    std::size_t size() const override { return items_.size(); }
-    QVariant value(std::size_t row, int role) const override;
-
     const std::vector<Reclaimable> items_;
 };
 

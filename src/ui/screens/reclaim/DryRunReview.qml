@@ -16,27 +16,17 @@ FocusScope {
 
     implicitHeight: heading.implicitHeight + 120 + permanent.implicitHeight + buttons.implicitHeight + 3 * 14
 
-    Column {
+    TwoLines {
         id: heading
 
         width: parent.width
-        spacing: 2
-
-        Label {
-            width: parent.width
-            text: review.title
-            size: 17
-            font.weight: Font.DemiBold
-            Accessible.role: Accessible.Heading
-        }
-
-        Label {
-            width: parent.width
-            text: review.dryRun.line
-            size: 12
-            soft: true
-            wrapMode: Text.WordWrap
-        }
+        title: review.title
+        note: review.dryRun.line
+        size: 17
+        noteSize: 12
+        weight: Font.DemiBold
+        noteWraps: true
+        isHeading: true
     }
 
     Rectangle {
@@ -171,8 +161,6 @@ FocusScope {
 
         implicitHeight: Math.max(texts.implicitHeight, trailing.implicitHeight) + 2 * 6
 
-        Accessible.role: Accessible.ListItem
-
         FocusRing {
             shown: row.ringed
             corner: 8
@@ -189,7 +177,7 @@ FocusScope {
             size: Math.round(13 * TextScale.factor)
         }
 
-        Column {
+        TwoLines {
             id: texts
 
             anchors.left: sign.right
@@ -198,23 +186,11 @@ FocusScope {
             anchors.rightMargin: 16
             anchors.verticalCenter: parent.verticalCenter
             spacing: 1
-
-            Label {
-                width: parent.width
-                text: row.name
-                size: 13
-                elide: Text.ElideMiddle
-                mute: true
-            }
-
-            Label {
-                width: parent.width
-                text: row.folder
-                size: 10
-                soft: true
-                elide: Text.ElideMiddle
-                mute: true
-            }
+            title: row.name
+            note: row.folder
+            noteSize: 10
+            elide: Text.ElideMiddle
+            mute: true
         }
 
         Column {

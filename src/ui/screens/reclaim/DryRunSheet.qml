@@ -187,38 +187,25 @@ Sheet {
 
         implicitHeight: texts.implicitHeight + 2 * 4
         spoken: AccessibleText.joined([row.modelData.name, row.modelData.reason])
-        Accessible.role: Accessible.ListItem
 
         FocusRing {
             shown: row.ringed
             corner: 6
         }
 
-        Column {
+        TwoLines {
             id: texts
 
             x: 8
             y: 4
             width: row.width - 2 * 8
-            spacing: 2
-
-            Label {
-                width: parent.width
-                text: row.modelData.name
-                size: 12
-                font.weight: Font.Medium
-                elide: Text.ElideMiddle
-                mute: true
-            }
-
-            Label {
-                width: parent.width
-                text: row.modelData.reason
-                size: 11
-                soft: true
-                wrapMode: Text.Wrap
-                mute: true
-            }
+            title: row.modelData.name
+            note: row.modelData.reason
+            size: 12
+            weight: Font.Medium
+            noteWraps: true
+            elide: Text.ElideMiddle
+            mute: true
         }
     }
 }

@@ -14,7 +14,26 @@ namespace zelk {
 
 ItemList::ItemList(AppModel& app, DevCleanupModel& cleanup)
     : RowModel(
-          {"group", "name", "place", "line", "figure", "age", "tint", "grade", "chosen", "free", "open", "spoken"}),
+          rows_,
+          {{"group", &Row::isGroup},
+           {"name", nameOf},
+           {"place", placeOf},
+           {"line", [this](const Row& row) { return lineOf(row); }},
+           {"figure", figureOf},
+           {"age", [this](const Row& row) { return ageOf(row); }},
+           {"tint", [](const Row& row) { return colorOf(row.isGroup() ? row.category().safety : row.item->safety); }},
+           {"grade", [](const Row& row) { return row.isGroup() ? wordOf(row.category().safety) : QString(); }},
+           {"chosen",
+            [this](const Row& row) {
+                return row.isGroup() ? row.group->counts.all() : cleanup_.selection().takes(*row.item);
+            }},
+           {"free",
+            [this](const Row& row) {
+                return row.isGroup() ? row.group->counts.selectable > 0
+                                     : cleanup_.selection().conflictOf(*row.item).empty();
+            }},
+           {"open", [](const Row& row) { return row.isGroup() && row.group->open; }},
+           {"spoken", [this](const Row& row) { return spokenOf(row); }}}),
       app_(app),
       cleanup_(cleanup) {
     connect(&app, &AppModel::reclaimablesChanged, this, &ItemList::refresh);
@@ -43,87 +62,43 @@ QString ItemList::shownText() const {
     return tr("%1 of %2 shown").arg(tallies_.shown.items).arg(app_.reclaimables().size());
 }
 
-QVariant ItemList::value(std::size_t at, int role) const {
-    const Row& row = rows_[at];
-    return row.item == nullptr ? dataOfGroup(*row.group, role) : dataOfItem(*row.item, role);
+QString ItemList::nameOf(const Row& row) {
+    return row.isGroup() ? SystemTexts::worded(row.category().displayName) : nameText(row.item->path);
 }
 
-QVariant ItemList::dataOfGroup(const Group& group, int role) const {
-    const ReclaimCategory& category = *group.content.category;
-    const auto figure = [&] {
-        return inReadingOrder(QStringLiteral("%1 · ").arg(group.content.items.size()) +
-                              byteFigure(group.content.bytes()));
-    };
-    switch (role) {
-        case groupRole:
-            return true;
-        case nameRole:
-            return SystemTexts::worded(category.displayName);
-        case placeRole:
-            return SystemTexts::worded(category.note);
-        case figureRole:
-            return figure();
-        case tintRole:
-            return colorOf(category.safety);
-        case gradeRole:
-            return wordOf(category.safety);
-        case chosenRole:
-            return group.counts.all();
-        case freeRole:
-            return group.counts.selectable > 0;
-        case openRole:
-            return group.open;
-        case spokenRole:
-            return AccessibleText::joined({SystemTexts::worded(category.displayName), figure(), wordOf(category.safety),
-                                           group.open ? tr("expanded") : tr("collapsed"),
-                                           SystemTexts::worded(category.note)});
-        default:
-            return QString();
-    }
+QString ItemList::placeOf(const Row& row) {
+    return row.isGroup() ? SystemTexts::worded(row.category().note) : folderText(row.item->path);
 }
 
-QVariant ItemList::dataOfItem(const Reclaimable& item, int role) const {
-    switch (role) {
-        case groupRole:
-        case openRole:
-            return false;
-        case nameRole:
-            return nameText(item.path);
-        case placeRole:
-            return folderText(item.path);
-        case lineRole:
-            return lineOf(item);
-        case figureRole:
-            return byteFigure(static_cast<std::int64_t>(item.size));
-        case ageRole:
-            return ageOf(item);
-        case tintRole:
-            return colorOf(item.safety);
-        case chosenRole:
-            return cleanup_.selection().takes(item);
-        case freeRole:
-            return cleanup_.selection().conflictOf(item).empty();
-        case spokenRole:
-            return AccessibleText::joined({nameText(item.path), byteFigure(static_cast<std::int64_t>(item.size)),
-                                           ageOf(item), lineOf(item), folderText(item.path)});
-        default:
-            return QString();
-    }
+QString ItemList::figureOf(const Row& row) {
+    if (!row.isGroup()) return byteFigure(static_cast<std::int64_t>(row.item->size));
+    const CleanupGroup& content = row.group->content;
+    return inReadingOrder(QStringLiteral("%1 · ").arg(content.items.size()) + byteFigure(content.bytes()));
 }
 
-QString ItemList::lineOf(const Reclaimable& item) const {
-    if (item.method.kind == ReclaimMethod::Kind::command) {
-        if (!app_.platform().locations.isSandboxed()) return displayText(methodSummary(item.method));
-        return tr("needs %1, which Flatpak’s sandbox does not have").arg(displayText(toolOf(item.method)));
+QString ItemList::lineOf(const Row& row) const {
+    if (row.isGroup()) return {};
+    const ReclaimMethod& method = row.item->method;
+    if (method.kind == ReclaimMethod::Kind::command) {
+        if (!app_.platform().locations.isSandboxed()) return displayText(methodSummary(method));
+        return tr("needs %1, which Flatpak’s sandbox does not have").arg(displayText(toolOf(method)));
     }
-    const std::string& application = cleanup_.selection().conflictOf(item);
+    const std::string& application = cleanup_.selection().conflictOf(*row.item);
     if (application == Cleaner::unknownApplication) return tr("may be in use: what runs can’t be seen from here");
     return application.empty() ? QString() : tr("quit %1 to clear").arg(displayText(application));
 }
 
-QString ItemList::ageOf(const Reclaimable& item) const {
-    const double days = (app_.platform().clock.now() - item.lastModified) / secondsPerDay;
+QString ItemList::ageOf(const Row& row) const {
+    if (row.isGroup()) return {};
+    const double days = (app_.platform().clock.now() - row.item->lastModified) / secondsPerDay;
     return tr("%1d").arg(static_cast<qint64>(days));
+}
+
+QString ItemList::spokenOf(const Row& row) const {
+    if (!row.isGroup())
+        return AccessibleText::joined({nameOf(row), figureOf(row), ageOf(row), lineOf(row), placeOf(row)});
+    return AccessibleText::joined({nameOf(row), figureOf(row), wordOf(row.category().safety),
+                                   row.group->open ? tr("expanded") : tr("collapsed"), placeOf(row)});
 }
 
 void ItemList::toggle(int row) {

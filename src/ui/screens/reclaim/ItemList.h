@@ -76,9 +76,6 @@ signals:
     void ageChanged();
 
 private:
-    std::size_t size() const override { return rows_.size(); }
-    QVariant value(std::size_t at, int role) const override;
-
     struct Group {
         CleanupGroup content;
         CleanupSelection::Counts counts;
@@ -88,6 +85,9 @@ private:
     struct Row {
         Group* group;
         const Reclaimable* item;  // null for a category
+
+        bool isGroup() const { return item == nullptr; }
+        const ReclaimCategory& category() const { return *group->content.category; }
     };
 
     void refresh();
@@ -96,10 +96,12 @@ private:
     Groups readGroups() const;
     static std::vector<Row> rowsOf(const Groups& groups);
     static std::string_view keyOf(const Row& row);
-    QVariant dataOfGroup(const Group& group, int role) const;
-    QVariant dataOfItem(const Reclaimable& item, int role) const;
-    QString lineOf(const Reclaimable& item) const;
-    QString ageOf(const Reclaimable& item) const;
+    static QString nameOf(const Row& row);
+    static QString placeOf(const Row& row);
+    static QString figureOf(const Row& row);
+    QString lineOf(const Row& row) const;
+    QString ageOf(const Row& row) const;
+    QString spokenOf(const Row& row) const;
     void tickChanged(int row);
     static bool isTwin(const Group& group, const Reclaimable& item);
     int headerOf(const Group* group) const;

@@ -89,8 +89,7 @@ FocusScope {
     CleanFooter {
         id: cleanFooter
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         anchors.bottom: parent.bottom
         line: pane.items.footer
         figure: pane.items.footerBytes
@@ -183,7 +182,7 @@ FocusScope {
             visible: row.group
         }
 
-        Column {
+        TwoLines {
             id: texts
 
             anchors.left: chevron.right
@@ -191,26 +190,14 @@ FocusScope {
             anchors.right: trailing.left
             anchors.rightMargin: 16
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 2
-
-            Label {
-                width: parent.width
-                text: row.name
-                size: row.group ? 14 : 13
-                font.weight: row.group ? Font.DemiBold : Font.Normal
-                elide: Text.ElideMiddle
-                mute: true
-            }
-
-            Label {
-                width: parent.width
-                text: row.place
-                size: row.group ? 11 : 10
-                soft: true
-                wrapMode: row.group ? Text.WordWrap : Text.NoWrap
-                elide: row.group ? Text.ElideNone : Text.ElideMiddle
-                mute: true
-            }
+            title: row.name
+            note: row.place
+            size: row.group ? 14 : 13
+            noteSize: row.group ? 11 : 10
+            weight: row.group ? Font.DemiBold : Font.Normal
+            noteWraps: row.group
+            elide: Text.ElideMiddle
+            mute: true
 
             Label {
                 width: parent.width

@@ -10,23 +10,14 @@
 
 namespace zelk {
 
-ScanRootList::ScanRootList(AppModel& app) : RowModel({"path", "removeName"}), roots_(app.scanRoots()) {
+ScanRootList::ScanRootList(AppModel& app)
+    : RowModel(roots_,
+               {{"path", [](const std::string& root) { return displayText(root); }},
+                {"removeName", [](const std::string& root) { return tr("Remove %1").arg(displayText(root)); }}}),
+      roots_(app.scanRoots()) {
     connect(&app, &AppModel::scanRootsChanged, this, [this, &app] {
         edit(roots_, app.scanRoots(), [](const std::string& root) { return std::string_view(root); });
     });
-}
-
-QVariant ScanRootList::value(std::size_t row, int role) const {
-    const QString path = displayText(roots_[row]);
-    switch (role) {
-        case Qt::DisplayRole:
-        case pathRole:
-            return path;
-        case removeNameRole:
-            return tr("Remove %1").arg(path);
-        default:
-            return {};
-    }
 }
 
 SettingsScreenModel::SettingsScreenModel(AppModel& app, std::function<std::optional<std::string>()> pickFolder)

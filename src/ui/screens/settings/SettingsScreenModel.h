@@ -20,8 +20,7 @@ class AppModel;
 /// converted back. Main thread.
 class ScanRootList : public zelk::RowModel {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("Part of SettingsScreenModel")
+    QML_ANONYMOUS
 
 public:
     enum Role { pathRole = Qt::UserRole, removeNameRole };
@@ -30,9 +29,6 @@ public:
     explicit ScanRootList(AppModel& app);
 
 private:
-    std::size_t size() const override { return roots_.size(); }
-    QVariant value(std::size_t row, int role) const override;
-
     std::vector<std::string> roots_;
 };
 

@@ -25,8 +25,7 @@ FocusScope {
     ModuleHeader {
         id: header
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         visible: view.headed
         height: view.headed ? implicitHeight : 0
         symbol: view.settings.look.symbol
@@ -36,10 +35,7 @@ FocusScope {
     }
 
     ScrollArea {
-        id: scroll
-
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
         contentHeight: sections.implicitHeight + 2 * view.gap

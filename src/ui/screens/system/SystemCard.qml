@@ -28,7 +28,6 @@ Card {
                 anchors.rightMargin: 12
                 anchors.verticalCenter: parent.verticalCenter
                 text: card.title
-                Accessible.role: Accessible.Heading
             }
 
             Item {

@@ -19,8 +19,7 @@ FocusScope {
     ModuleHeader {
         id: header
 
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         symbol: view.tools.look.symbol
         tint: view.tools.look.color
         title: view.tools.look.title
@@ -28,8 +27,7 @@ FocusScope {
     }
 
     ScrollArea {
-        anchors.left: parent.left
-        anchors.right: parent.right
+        width: parent.width
         anchors.top: header.bottom
         anchors.bottom: parent.bottom
         contentHeight: rows.implicitHeight
@@ -66,20 +64,13 @@ FocusScope {
                         border.width: 1
                         border.color: row.hovered ? Qt.alpha(row.modelData.look.color, 0.5) : Theme.hairline
                         Behavior on border.color {
-                            ColorAnimation {
-                                duration: Motion.quick
-                            }
+                            QuickChange {}
                         }
 
                         HoverOverlay {
                             anchors.fill: parent
                             radius: parent.radius
                             control: row
-                        }
-
-                        FocusRing {
-                            shown: row.visualFocus
-                            corner: 14
                         }
                     }
 
@@ -103,7 +94,7 @@ FocusScope {
                             symbolSize: 20
                         }
 
-                        Column {
+                        TwoLines {
                             id: words
 
                             anchors.left: tile.right
@@ -112,24 +103,13 @@ FocusScope {
                             anchors.rightMargin: 16
                             anchors.verticalCenter: parent.verticalCenter
                             spacing: 4
-
-                            Label {
-                                width: parent.width
-                                text: row.modelData.look.title
-                                size: 17
-                                font.weight: Font.DemiBold
-                                wrapMode: Text.Wrap
-                                mute: true
-                            }
-
-                            Label {
-                                width: parent.width
-                                text: row.modelData.detail
-                                size: 14
-                                soft: true
-                                wrapMode: Text.Wrap
-                                mute: true
-                            }
+                            title: row.modelData.look.title
+                            note: row.modelData.detail
+                            size: 17
+                            noteSize: 14
+                            weight: Font.DemiBold
+                            wraps: true
+                            mute: true
 
                             Label {
                                 width: parent.width

@@ -75,7 +75,7 @@ ListRow {
         image: row.icon
     }
 
-    Column {
+    TwoLines {
         id: texts
 
         anchors.left: picture.right
@@ -83,25 +83,12 @@ ListRow {
         anchors.right: marks.left
         anchors.rightMargin: marks.visible ? 16 : 0
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 2
-
-        Label {
-            width: parent.width
-            text: row.label
-            size: 13
-            font.weight: Font.Medium
-            elide: Text.ElideMiddle
-            mute: true
-        }
-
-        Label {
-            width: parent.width
-            text: row.place
-            size: 10
-            soft: true
-            elide: Text.ElideMiddle
-            mute: true
-        }
+        title: row.label
+        note: row.place
+        noteSize: 10
+        weight: Font.Medium
+        elide: Text.ElideMiddle
+        mute: true
     }
 
     Row {

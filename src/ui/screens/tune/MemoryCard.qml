@@ -25,7 +25,6 @@ Card {
                 anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Memory")
-                Accessible.role: Accessible.Heading
             }
 
             Label {

@@ -49,7 +49,6 @@ Item {
 
                         anchors.left: parent.left
                         text: qsTr("Maintenance")
-                        Accessible.role: Accessible.Heading
                     }
 
                     Spinner {

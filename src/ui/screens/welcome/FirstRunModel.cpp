@@ -10,12 +10,6 @@
 
 namespace zelk {
 
-namespace {
-
-constexpr double turnResponse = 0.5;  // seconds
-
-}  // namespace
-
 WelcomeModel::WelcomeModel(QObject* parent)
     : QObject(parent),
       pages_{
@@ -36,6 +30,7 @@ QString WelcomeModel::position() const {
 }
 
 int WelcomeModel::turnTime() const {
+    constexpr double turnResponse = 0.5;  // seconds
     return static_cast<int>(1'000 * springRest(turnResponse));
 }
 QEasingCurve WelcomeModel::turnEasing() const {

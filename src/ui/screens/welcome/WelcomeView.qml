@@ -40,8 +40,7 @@ FocusScope {
         Item {
             id: stage
 
-            anchors.left: parent.left
-            anchors.right: parent.right
+            width: parent.width
             implicitHeight: pages.implicitHeight
             clip: true
 
@@ -102,26 +101,19 @@ FocusScope {
                                 }
                             }
 
-                            Label {
+                            TwoLines {
                                 width: parent.width
                                 topPadding: 16
-                                text: page.modelData.title
+                                spacing: 12
+                                title: page.modelData.title
+                                note: page.modelData.body
                                 size: 26
-                                font.weight: Font.Bold
-                                horizontalAlignment: Text.AlignHCenter
-                                wrapMode: Text.Wrap
-                                mute: !page.current
-                                Accessible.role: Accessible.Heading
-                            }
-
-                            Label {
-                                width: parent.width
-                                text: page.modelData.body
-                                size: 14
-                                soft: true
+                                noteSize: 14
+                                weight: Font.Bold
+                                wraps: true
+                                alignment: Text.AlignHCenter
                                 lineHeight: 1.35
-                                horizontalAlignment: Text.AlignHCenter
-                                wrapMode: Text.Wrap
+                                isHeading: true
                                 mute: !page.current
                             }
                         }
@@ -159,8 +151,7 @@ FocusScope {
         }
 
         Item {
-            anchors.left: parent.left
-            anchors.right: parent.right
+            width: parent.width
             implicitHeight: primaryButton.implicitHeight
 
             Button {
