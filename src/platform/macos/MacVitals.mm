@@ -55,12 +55,13 @@ DeviceInfo MacVitals::device() {
     @autoreleasepool {
         NSProcessInfo* process = [NSProcessInfo processInfo];
         const NSOperatingSystemVersion version = [process operatingSystemVersion];
-        return {.computerName = text([[NSHost currentHost] localizedName]).value_or(translated("SystemTexts", "This Mac")),
-                .chip = sysctlText("machdep.cpu.brand_string").value_or(""),
-                .cores = static_cast<std::int64_t>([process activeProcessorCount]),
-                .memoryBytes = [process physicalMemory],
-                .osVersion = versionText("macOS", version.majorVersion, version.minorVersion, version.patchVersion),
-                .modelIdentifier = sysctlText("hw.model").value_or("")};
+        return {
+            .computerName = text([[NSHost currentHost] localizedName]).value_or(translated("SystemTexts", "This Mac")),
+            .chip = sysctlText("machdep.cpu.brand_string").value_or(""),
+            .cores = static_cast<std::int64_t>([process activeProcessorCount]),
+            .memoryBytes = [process physicalMemory],
+            .osVersion = versionText("macOS", version.majorVersion, version.minorVersion, version.patchVersion),
+            .modelIdentifier = sysctlText("hw.model").value_or("")};
     }
 }
 
