@@ -664,6 +664,10 @@
         <source>Flatpak’s sandbox has no Trash for its folder</source>
         <translation>in der Sandbox von Flatpak gibt es für seinen Ordner keinen Papierkorb</translation>
     </message>
+    <message>
+        <source>“%1” belongs to something that was not restored.</source>
+        <translation>„%1“ gehört zu etwas, das nicht wiederhergestellt wurde.</translation>
+    </message>
 </context>
 <context>
     <name>Figures</name>

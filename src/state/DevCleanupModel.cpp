@@ -14,12 +14,12 @@ public:
     explicit WorkspaceSnapshot(Workspace& real) : real_(real) {}
 
     std::vector<std::string> runningApplications() override {
-        if (!names_) names_ = real_.runningApplications();
-        return *names_;
+        look();
+        return names_;
     }
     bool knowsRunningApplications() override {
-        if (!known_) known_ = real_.knowsRunningApplications();
-        return *known_;
+        look();
+        return known_;
     }
     void reveal(const std::vector<std::string>& paths) override { real_.reveal(paths); }
     void openURL(const std::string& url) override { real_.openURL(url); }
@@ -28,9 +28,18 @@ public:
     }
 
 private:
+    /// Asked before and after: the system may look again in between, and without success, and then the names are none.
+    void look() {
+        if (std::exchange(looked_, true)) return;
+        const bool before = real_.knowsRunningApplications();
+        names_ = real_.runningApplications();
+        known_ = before && real_.knowsRunningApplications();
+    }
+
     Workspace& real_;
-    std::optional<std::vector<std::string>> names_;
-    std::optional<bool> known_;
+    bool looked_ = false;
+    bool known_ = false;
+    std::vector<std::string> names_;
 };
 
 }  // namespace

@@ -179,9 +179,11 @@ std::optional<std::string> PrivacyModel::runningBrowser(const std::string& app) 
 }
 
 void PrivacyModel::refreshRunning() {
+    // Before and after: the system may look again in between, and without success, and then the names are none.
+    const bool before = platform_.workspace.knowsRunningApplications();
     std::vector<std::string> names = platform_.workspace.runningApplications();
     std::vector<std::string> ids = platform_.workspace.runningApplicationIds();
-    const bool known = platform_.workspace.knowsRunningApplications();
+    const bool known = before && platform_.workspace.knowsRunningApplications();
     const bool changed = names != runningNames_ || ids != runningIds_ || known != runningKnown_;
     runningKnown_ = known;
     runningNames_ = std::move(names);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Translation.h"
 #include "state/ReleaseElsewhere.h"
 
 namespace zelk {
@@ -11,7 +12,7 @@ namespace zelk {
 namespace {
 
 Failure lonelyPart(const TrashedItem& item) {
-    return "“" + std::string(item.origin.name()) + "” belongs to something that was not restored.";
+    return filled(translated("Failure", "“%1” belongs to something that was not restored."), {item.origin.name()});
 }
 
 }  // namespace

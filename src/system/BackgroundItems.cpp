@@ -127,8 +127,13 @@ private:
     bool hidesAnother(const BackgroundItemFolder& folder, const std::string& name) {
         const std::string form = templateOf(name, folder);
         return std::any_of(folder.hides.begin(), folder.hides.end(), [&](const std::string& other) {
-            return files_.exists(pathIn(other, name)) || (!form.empty() && files_.exists(pathIn(other, form)));
+            return isThere(pathIn(other, name)) || (!form.empty() && isThere(pathIn(other, form)));
         });
+    }
+
+    /// A link of the host with an absolute path leads elsewhere from a sandbox, or nowhere.
+    bool isThere(const std::string& path) {
+        return files_.exists(path) || (locations_.isSandboxed() && files_.properties(path));
     }
 
     /// Reads an entry or a unit. False for what is not started.

@@ -13,17 +13,13 @@ std::string readableOutput(const ChildOutcome& outcome) {
 }
 
 std::string launchFailureText(const std::string& reason) {
-    return launchFailedAnswer() + reason;
+    return translated("Command", "failed: ") + reason;
 }
 
 }  // namespace
 
 std::string refusedAnswer() {
     return translated("Command", "cancelled or failed: ");
-}
-
-std::string launchFailedAnswer() {
-    return translated("Command", "failed: ");
 }
 
 std::string textOfRun(const ChildOutcome& outcome) {

@@ -14,9 +14,6 @@ namespace zelk {
 /// such a command said nothing, or where there was none to run.
 std::string refusedAnswer();
 
-/// What stands before the reason for which nothing could be started.
-std::string launchFailedAnswer();
-
 /// The output, or "done" if there is none; "cancelled" for an exit status other than 0; "failed: " and the reason if
 /// nothing was started.
 std::string textOfRun(const ChildOutcome& outcome);

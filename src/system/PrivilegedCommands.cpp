@@ -27,6 +27,9 @@ constexpr const char* nameServiceSocket = "/run/nscd/socket";
 constexpr std::array<const char*, 4> absentResolver{".service not found", ".service is masked",
                                                     "was not provided by any .service files", "activate remote peer"};
 
+/// What pkexec says before the reason for which it runs nothing, in every language.
+constexpr std::string_view pkexecRefusal = "Error executing command as another user: ";
+
 /// Input that must not be that of a terminal, and output read meanwhile: a program of root that waits for its pipe to
 /// be read could not even be ended.
 constexpr ChildStreams linuxStreams{false, true, true};
@@ -87,11 +90,19 @@ std::string PrivilegedCommands::run(const std::string& line) {
 }
 
 std::string PrivilegedCommands::runAdmin(const std::string& line) {
-    return textOfAdminRun(privilegedOutcome(platform_, line));
+    return textOfAdminRun(outcomeOf(line));
+}
+
+ChildOutcome PrivilegedCommands::outcomeOf(const std::string& line) {
+    return privilegedOutcome(platform_, line);
 }
 
 bool wasNotAllowed(std::string_view answer) {
-    return answer.starts_with(refusedAnswer() + "Error executing command as another user: ");
+    return answer.starts_with(refusedAnswer() + std::string(pkexecRefusal));
+}
+
+bool wasNotAllowed(const ChildOutcome& outcome) {
+    return !outcome.launchFailure && outcome.exitStatus != 0 && outcome.output.starts_with(pkexecRefusal);
 }
 
 }  // namespace zelk

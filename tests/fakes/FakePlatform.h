@@ -328,6 +328,8 @@ public:
     std::vector<std::string> runningIds;
     bool runningKnown = true;
     int runningReads = 0;
+    /// Called by every read of the running applications, before it.
+    std::function<void()> beforeRunningRead;
     std::vector<std::vector<std::string>> revealed;
     std::vector<std::string> opened;
     /// The desktop's icons by path; other paths have none.
@@ -337,6 +339,7 @@ public:
 
     std::vector<std::string> runningApplications() override {
         ++runningReads;
+        if (beforeRunningRead) beforeRunningRead();
         return running;
     }
     std::vector<std::string> runningApplicationIds() override { return runningIds; }

@@ -85,6 +85,17 @@ TEST(HostAnswers, tellProcessesAndEntries) {
     EXPECT_EQ(answer->entries[1], (HostEntry{"kde-x", "[Desktop Entry]\nName=X\n"}));
 }
 
+TEST(HostAnswers, tellProcessesThatDoNotShowTheirProgram) {
+    const auto answer = parseHostAnswer(
+        usual().process("12", "", {"/opt/x/run"}).process("13", "", {}).process("13", "/bin/y", {"y"}).whole());
+    ASSERT_TRUE(answer);
+    ASSERT_EQ(answer->processes.size(), 3U);
+    EXPECT_EQ(answer->processes[1].executable, "");
+    EXPECT_THAT(answer->processes[1].arguments, ElementsAre("/opt/x/run"));
+    EXPECT_EQ(answer->processes[2].executable, "/bin/y");
+    EXPECT_THAT(answer->processes[2].arguments, ElementsAre("y"));
+}
+
 TEST(HostAnswers, leaveOutOtherUsers) {
     const auto answer = parseHostAnswer(usual().foreign("1", "/sbin/init").whole());
     ASSERT_TRUE(answer);

@@ -2,14 +2,19 @@
 // Asks a host that is played by this machine, or by something worse.
 #include "platform/linux/apps/HostQuestion.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 
 #include "fakes/Environment.h"
@@ -29,6 +34,7 @@ class PlayedHost : public ChildProcess {
 public:
     std::optional<std::string> instead;
     std::optional<double> seconds;  ///< instead of those of the question
+    std::optional<uid_t> user;      ///< who has the shell, and asks for what is theirs; else whoever runs this
     std::vector<std::string> options;
 
     using ChildProcess::run;
@@ -42,7 +48,12 @@ public:
         ChildStreams limited = streams;
         if (seconds) limited.limit->seconds = *seconds;
         if (instead) return PosixChildProcess().run("/bin/sh", {"-c", *instead}, limited);
-        return PosixChildProcess().run(*program, {program + 1, arguments.end()}, limited);
+        std::vector<std::string> words(program, arguments.end());
+        if (user) {
+            words.back() = std::to_string(*user);
+            words.insert(words.begin(), {"/usr/bin/setpriv", "--reuid=" + words.back(), "--clear-groups"});
+        }
+        return PosixChildProcess().run(words.front(), {words.begin() + 1, words.end()}, limited);
     }
 };
 
@@ -69,6 +80,31 @@ protected:
         char* const arguments[] = {path.data(), argument.data(), nullptr};
         ASSERT_EQ(::posix_spawn(&running_, program.c_str(), nullptr, nullptr, arguments, environ), 0);
     }
+    /// Starts a process that lets nobody look into it: the kernel gives its files in /proc to root. If that is who runs
+    /// this, the process is somebody else's.
+    void startSecretive() {
+        if (::geteuid() == 0) host.user = nobody;
+        std::filesystem::permissions(data.path(), std::filesystem::perms(0755));
+        const std::string name(std::strlen(program_invocation_name), 'z');
+        fakes::writeFile(data / "applications/secretive.desktop",
+                         "[Desktop Entry]\nType=Application\nName=Secretive\nExec=" + name + "\n");
+        std::array<int, 2> ends{};
+        ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0);
+        running_ = ::fork();
+        if (running_ == 0) {
+            std::memset(program_invocation_name, 'z', name.size());  // its first argument, as others see it
+            if ((host.user && ::setuid(*host.user) != 0) || ::prctl(PR_SET_DUMPABLE, 0) != 0) ::_exit(1);
+            if (::write(ends[1], "", 1) != 1) ::_exit(1);
+            for (;;) ::pause();
+        }
+        ::close(ends[1]);
+        char byte = 0;
+        EXPECT_EQ(::read(ends[0], &byte, 1), 1);
+        ::close(ends[0]);
+        struct stat status {};
+        ASSERT_EQ(::lstat(("/proc/" + std::to_string(running_) + "/exe").c_str(), &status), 0);
+        ASSERT_EQ(status.st_uid, 0U);
+    }
     std::optional<RunningApplications> ask(const std::vector<std::string>& locales = {}) {
         return askHost(host, locales);
     }
@@ -79,6 +115,8 @@ protected:
     PlayedHost host;
 
 private:
+    static constexpr uid_t nobody = 65534;
+
     pid_t running_ = 0;
 };
 
@@ -90,6 +128,13 @@ TEST_F(HostQuestions, findWhatRunsByARealShell) {
     EXPECT_THAT(running->ids, Contains("sub-test"));
     EXPECT_THAT(running->ids, Contains("link")) << "flatpak exports links";
     EXPECT_THAT(ask({"de"})->names, Contains("Das Programm"));
+}
+
+TEST_F(HostQuestions, findWhatLetsNobodyLookIntoIt) {
+    startSecretive();
+    const auto running = ask();
+    ASSERT_TRUE(running);
+    EXPECT_THAT(running->names, Contains("Secretive"));
 }
 
 TEST_F(HostQuestions, findNothingThatDoesNotRun) {

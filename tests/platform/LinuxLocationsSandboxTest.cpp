@@ -138,6 +138,15 @@ TEST_F(SandboxedLocations, cannotSeeWhatAnEntryMayHideWithoutTheHostsSystem) {
     }
 }
 
+TEST_F(SandboxedLocations, cannotSeeWhatAnEntryMayHideBehindALinkThatLeadsNowhere) {
+    place.showHost();
+    std::filesystem::create_directory_symlink("/nowhere/static/xdg", host + "/etc/xdg");
+    EXPECT_TRUE(ownFolderOf(BackgroundItemKind::autostartEntries).hidesUnseen);
+    std::filesystem::remove(host + "/etc/xdg");
+    std::filesystem::create_directory_symlink("../usr", host + "/etc/xdg");
+    EXPECT_FALSE(ownFolderOf(BackgroundItemKind::autostartEntries).hidesUnseen) << "this link is one within it";
+}
+
 TEST_F(SandboxedLocations, lookForProgramsAndDataOfTheHost) {
     EXPECT_THAT(locations().programFolders(), ElementsAre(host + "/usr/local/bin", host + "/usr/bin", host + "/bin"));
     EXPECT_THAT(locations().sharedDataFolders(), ElementsAre(host + "/usr/local/share", host + "/usr/share"));

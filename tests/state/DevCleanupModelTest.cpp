@@ -72,6 +72,17 @@ TEST_F(DevCleanupModelTest, readsRunningApplicationsOncePerSeed) {
     EXPECT_EQ(machine.workspace.runningReads, 1);
 }
 
+TEST_F(DevCleanupModelTest, everythingMayBeInUseIfWhatRunsIsForgottenWhileItIsRead) {
+    const DevCleanupModel::Items items{item("/home/me/Cursor/Cache", 10)};
+    for (const bool known : {true, false}) {
+        machine.workspace.runningKnown = known;
+        machine.workspace.beforeRunningRead = [this, known] { machine.workspace.runningKnown = !known; };
+        DevCleanupModel another{machine.platform(), removals};
+        another.seed(items);
+        EXPECT_EQ(another.selection().conflictOf(items[0]), Cleaner::unknownApplication) << known;
+    }
+}
+
 TEST_F(DevCleanupModelTest, cleansGivenItemsAndSumsThem) {
     const DevCleanupModel::Items items{item("/home/me/a", 10), command("/home/me/b", 20)};
     cleanAndWait(items);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "PrivacyFixture.h"
+#include "platform/Translation.h"
 
 namespace zelk {
 namespace {
@@ -243,6 +244,23 @@ TEST_F(PrivacyOfLinux, companionsStayInTheTrashIfTheirBrowserMadeAnotherDatabase
     EXPECT_THAT(outcomes.front().failures,
                 ElementsAre(used + " is taken", "“cookies.sqlite-wal” belongs to something that was not restored."));
     EXPECT_THAT(trace("FirefoxCookies").paths, ElementsAre(idle));
+}
+
+TEST_F(PrivacyOfLinux, whyACompanionStaysIsSaidInTheUsersLanguage) {
+    scan();
+    selectOnly("FirefoxCookies");
+    clear();
+    machine.files.addFile(used);
+    std::vector<RemovalUndo::Outcome> outcomes;
+    QObject::connect(&model().removalUndo(), &RemovalUndo::ended, &model(),
+                     [&](const RemovalUndo::Outcome& outcome) { outcomes.push_back(outcome); });
+    setTranslation([](const char*, const char* text) {
+        return std::string(text).starts_with("“%1” belongs") ? std::string("%1: allein") : std::string(text);
+    });
+    undo();
+    setTranslation(nullptr);
+    ASSERT_EQ(outcomes.size(), 1U);
+    EXPECT_THAT(outcomes.front().failures, Contains("cookies.sqlite-wal: allein"));
 }
 
 TEST_F(PrivacyOfLinux, oneCompanionThatStaysDoesNotKeepTheOthers) {

@@ -138,6 +138,16 @@ TEST_F(PrivacyOfMac, runningBrowserIsTheFirstNameThatContainsTheApplication) {
     EXPECT_EQ(privacy().runningBrowser("Safari"), std::nullopt);
 }
 
+TEST_F(PrivacyOfMac, everyBrowserMayRunIfWhatRunsIsForgottenWhileItIsRead) {
+    for (const bool known : {true, false}) {
+        machine.workspace.runningKnown = known;
+        machine.workspace.beforeRunningRead = [this, known] { machine.workspace.runningKnown = !known; };
+        privacy().refreshRunning();
+        EXPECT_FALSE(privacy().runningKnown()) << known;
+        EXPECT_EQ(privacy().runningBrowser("Safari"), "Safari") << known;
+    }
+}
+
 TEST_F(PrivacyOfMac, runningBrowsersAreKnownWhenTheScanEnds) {
     machine.workspace.running = {"Safari"};
     scan();

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "fakes/AppsHome.h"
+#include "platform/Translation.h"
 #include "system/apps/ApplicationList.h"
 
 namespace zelk {
@@ -108,6 +109,22 @@ TEST_F(AppRemovalTest, questionThatIsDismissedIsNoFailureOfTheTool) {
     desktop.removal = {std::nullopt, 1, "dpkg: dependency problems prevent removal of studio:\n  plugins depends\n"};
     EXPECT_EQ(remove("Studio").outcome, Outcome::failed);
     EXPECT_EQ(remove("Studio").words, "plugins depends");
+}
+
+// Whatever stands before the words of a tool in the user's language, even if it is the same everywhere.
+TEST_F(AppRemovalTest, endsAreToldApartInEveryLanguage) {
+    setTranslation([](const char*, const char*) { return std::string("x"); });
+    desktop.removal = {"xyz", 0, {}};
+    EXPECT_EQ(remove("Studio").outcome, Outcome::notStarted);
+    desktop.removal = {std::nullopt, 1, "xyz\n"};
+    const AppRemoval removal = remove("Studio");
+    EXPECT_EQ(removal.outcome, Outcome::failed);
+    EXPECT_EQ(removal.words, "xyz");
+    desktop.removal = {std::nullopt, 126, "Error executing command as another user: Not authorized\n"};
+    EXPECT_EQ(remove("Studio").outcome, Outcome::notAllowed);
+    desktop.removal = {std::nullopt, 0, "xyz\n"};
+    EXPECT_EQ(remove("Studio").outcome, Outcome::gone);
+    setTranslation(nullptr);
 }
 
 TEST_F(AppRemovalTest, toolThatRemovesNothingIsFoundOut) {

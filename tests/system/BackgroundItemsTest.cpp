@@ -238,6 +238,15 @@ TEST_F(LinuxItems, ownEntryInPlaceOfTheSystemsIsListedOnceAndStays) {
     EXPECT_THAT(read(), ElementsAre(Agent{"Mine", autostart + "/a.desktop", std::nullopt, true, false}));
 }
 
+TEST_F(LinuxItems, linkThatLeadsNowhereIsHiddenInASandboxAlone) {
+    files.addFile(autostart + "/a.desktop", entry("Name=Mine\n"));
+    files.addLink("/etc/xdg/autostart/a.desktop", "/nix/store/a.desktop");
+    EXPECT_TRUE(only().removable);
+    locations.sandboxed = true;
+    EXPECT_TRUE(only().replaces) << "on the host it may lead somewhere";
+    EXPECT_FALSE(only().removable);
+}
+
 TEST_F(LinuxItems, ownItemStaysIfWhatItHidesCannotBeSeen) {
     for (BackgroundItemFolder& folder : locations.itemFolders) folder.hidesUnseen = folder.path == units;
     files.addFile(units + "/a.service", "[Unit]\nDescription=Mine\n");

@@ -255,11 +255,14 @@ TEST_F(PrivilegedCommandsTest, knowsTheRefusalsOfPkexec) {
                                "No authentication agent found.\n"}) {
         answer({std::nullopt, 126, refusal + reason});
         EXPECT_TRUE(wasNotAllowed(onLinux().runAdmin("/usr/bin/true"))) << reason;
+        EXPECT_TRUE(wasNotAllowed(onLinux().outcomeOf("/usr/bin/true"))) << reason;
     }
     answer({std::nullopt, 126, "Deleting.\n" + refusal});
     EXPECT_FALSE(wasNotAllowed(onLinux().runAdmin("/usr/bin/true"))) << "of the program that was run";
+    EXPECT_FALSE(wasNotAllowed(onLinux().outcomeOf("/usr/bin/true")));
     answer({std::nullopt, 0, refusal});
     EXPECT_FALSE(wasNotAllowed(onLinux().runAdmin("/usr/bin/true")));
+    EXPECT_FALSE(wasNotAllowed(onLinux().outcomeOf("/usr/bin/true")));
     for (const char* other : {"", "cancelled or failed: ", "cancelled or failed: No permissions.\n", "failed: why"})
         EXPECT_FALSE(wasNotAllowed(other)) << other;
 }

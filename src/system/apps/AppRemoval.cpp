@@ -7,7 +7,6 @@
 
 #include "platform/Text.h"
 #include "reclaim/Leftovers.h"
-#include "system/CommandText.h"
 #include "system/PrivilegedCommands.h"
 #include "system/apps/FlatpakApplications.h"
 #include "system/apps/OwnApplications.h"
@@ -33,11 +32,14 @@ std::string lastLine(std::string_view output) {
     return last;
 }
 
-AppRemoval byTool(const Platform& platform, const char* tool, const std::vector<std::string>& words) {
-    const ChildOutcome outcome = platform.processes.run(tool, words, toolStreams);
+AppRemoval endOf(const ChildOutcome& outcome) {
     if (outcome.launchFailure) return {Outcome::notStarted, *outcome.launchFailure};
     if (outcome.exitStatus != 0) return {Outcome::failed, lastLine(outcome.output)};
     return {};
+}
+
+AppRemoval byTool(const Platform& platform, const char* tool, const std::vector<std::string>& words) {
+    return endOf(platform.processes.run(tool, words, toolStreams));
 }
 
 /// By its full name: one part of it alone is a pattern, which may fit a runtime or another branch too.
@@ -52,13 +54,8 @@ AppRemoval byFlatpak(const Platform& platform, const AppEntry& app) {
 AppRemoval byAdministrator(const Platform& platform, const std::string& package) {
     const std::optional<std::string> line = removePackageLine(package);
     if (!line) return {Outcome::failed};
-    const std::string answer = PrivilegedCommands(platform).runAdmin(*line);
-    if (wasNotAllowed(answer)) return {Outcome::notAllowed};
-    if (const std::string start = launchFailedAnswer(); answer.starts_with(start))
-        return {Outcome::notStarted, answer.substr(start.size())};
-    if (const std::string start = refusedAnswer(); answer.starts_with(start))
-        return {Outcome::failed, lastLine(std::string_view(answer).substr(start.size()))};
-    return {};
+    const ChildOutcome outcome = PrivilegedCommands(platform).outcomeOf(*line);
+    return wasNotAllowed(outcome) ? AppRemoval{Outcome::notAllowed} : endOf(outcome);
 }
 
 AppRemoval toTrash(const Platform& platform, const std::string& root, const std::string& path) {

@@ -17,6 +17,7 @@ const char* const hostScript = R"sh(
 LC_ALL=C
 export LC_ALL
 printf '%s\0' "$$"
+find /proc/[0-9]* -maxdepth 0 -uid "$1" -printf '%p/exe\0\0' 2>/dev/null
 find /proc/[0-9]*/exe -maxdepth 0 -uid "$1" -printf '%p\0%l\0' 2>/dev/null
 printf '\0\0'
 grep -azHZs '' /proc/[0-9]*/cmdline /proc/[0-9]*/cgroup
@@ -95,6 +96,7 @@ public:
     }
 
 private:
+    /// The program of a process may be told after it was told without one.
     void readPrograms() {
         for (std::string_view path = texts_.take('\0'); texts_.whole; path = texts_.take('\0')) {
             const std::string_view program = texts_.take('\0');

@@ -28,7 +28,9 @@ struct HostAnswer {
 /// with a NUL, as nothing in it can have one, and the lines of entries with a line feed:
 ///
 /// - the number of the shell itself
-/// - "/proc/NUMBER/exe" and the program, for every process of the user
+/// - "/proc/NUMBER/exe" and nothing, for every process of the user; then again with the program, for those that show
+/// it:
+///   the files of a process that lets nobody look into it, such as a keeper of passwords, are root's
 /// - nothing and nothing
 /// - "/proc/NUMBER/cmdline" and an argument, for every one of every process; "/proc/NUMBER/cgroup" and its text
 /// - nothing and nothing

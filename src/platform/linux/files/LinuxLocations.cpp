@@ -134,6 +134,14 @@ bool showsSystem(const Sandbox& sandbox) {
            std::filesystem::is_directory(sandbox.hostPath("/usr"), error);
 }
 
+/// Whether there is a link on the way that leads nowhere from here, as those of the host with an absolute path do.
+bool leadsNowhere(std::filesystem::path path) {
+    std::error_code error;
+    for (; path.has_relative_path() && !std::filesystem::exists(path, error); path = path.parent_path())
+        if (std::filesystem::is_symlink(std::filesystem::symlink_status(path, error))) return true;
+    return false;
+}
+
 /// Where the user's own folder is one of the system's too, its items are the user's.
 std::vector<BackgroundItemFolder> itemFoldersOf(ItemPlaces places) {
     std::erase(places.config, places.configHome);
@@ -142,7 +150,9 @@ std::vector<BackgroundItemFolder> itemFoldersOf(ItemPlaces places) {
                   otherAutostartFolders(places)),
         ownFolder(pathIn(places.configHome, userUnitsName), BackgroundItemKind::userUnits, otherUnitFolders(places))};
     // The units that the session makes for itself are in its runtime folder, and no sandbox has that.
-    folders[0].hidesUnseen = places.sandbox.isInside() && !showsSystem(places.sandbox);
+    folders[0].hidesUnseen =
+        places.sandbox.isInside() &&
+        (!showsSystem(places.sandbox) || std::any_of(folders[0].hides.begin(), folders[0].hides.end(), leadsNowhere));
     folders[1].hidesUnseen = places.sandbox.isInside();
     for (const std::string& folder : eachBelow(places.config, autostartName))
         folders.push_back({folder, BackgroundItemKind::autostartEntries, false});
