@@ -170,6 +170,19 @@ TEST_F(QuitQuestionTest, doesNotStayIfRemovalWasStopped) {
     EXPECT_EQ(quits, 1);
 }
 
+TEST_F(QuitQuestionTest, doesNotStayOnceItHasQuit) {
+    question.quit();
+    EXPECT_EQ(quits, 1);
+    EXPECT_FALSE(question.stay()) << "the events that were on their way are still handled";
+}
+
+TEST_F(QuitQuestionTest, doesNotStayOnceTheRemovalHasEnded) {
+    quitWhileRemoving();
+    question.finishFirst();
+    endRemoval();
+    EXPECT_FALSE(question.stay());
+}
+
 // Quitting without a window for the question.
 
 TEST_F(QuitQuestionTest, quitUnaskedQuitsAtOnceWithoutRemoval) {

@@ -17,19 +17,19 @@ bool QuitQuestion::holds() const {
 }
 
 void QuitQuestion::quit() {
-    if (!holds()) return quit_();
+    if (!holds()) return leave();
     if (!stopping()) go(Way::asking);
 }
 
 void QuitQuestion::quitUnasked() {
-    if (!holds()) return quit_();
+    if (!holds()) return leave();
     removals_.stop();
     go(Way::stopping);
 }
 
 bool QuitQuestion::stay() {
     if (way_ == Way::finishing) go(Way::none);
-    return !stopping();
+    return !left_ && !stopping();
 }
 
 bool QuitQuestion::endSession(bool mayAsk) {
@@ -56,7 +56,12 @@ void QuitQuestion::follow() {
     if (holds()) return;
     const bool leaving = way_ == Way::finishing || stopping();
     go(Way::none);
-    if (leaving) quit_();
+    if (leaving) leave();
+}
+
+void QuitQuestion::leave() {
+    left_ = true;
+    quit_();
 }
 
 void QuitQuestion::go(Way way) {

@@ -60,12 +60,14 @@ private:
     enum class Way { none, asking, finishing, stopping };
 
     void follow();
+    void leave();
     void go(Way way);
 
     RemovalsModel& removals_;
     std::function<void()> quit_;
     Way way_ = Way::none;
     bool asked_ = false;
+    bool left_ = false;  ///< the application was told to end, which it does when its events are handled
 };
 
 }  // namespace zelk
