@@ -52,12 +52,14 @@ const QQuickItem* listOfRows(const QQuickItem& rows) {
 }
 
 /// The rows in sight from above. A list makes its rows anew when it is mirrored, keeps old ones for later, and others
-/// beyond its ends.
+/// beyond its ends. What marks the current row is moved with delay.
 QList<QQuickItem*> rowsInSight(const QQuickItem& rows, const QQuickItem& list) {
     const QRectF sight = list.mapRectToItem(&rows, QRectF(0, 0, list.width(), list.height()));
+    const auto* highlight = list.property("highlightItem").value<QQuickItem*>();
     QList<QQuickItem*> found;
     for (QQuickItem* row : rows.childItems())
-        if (row->isVisible() && row->y() < sight.bottom() && row->y() + row->height() > sight.top()) found.append(row);
+        if (row != highlight && row->isVisible() && row->y() < sight.bottom() && row->y() + row->height() > sight.top())
+            found.append(row);
     std::stable_sort(found.begin(), found.end(),
                      [](const QQuickItem* one, const QQuickItem* other) { return one->y() < other->y(); });
     return found;
@@ -118,15 +120,15 @@ public:
         for (const List& list : lists_) {
             const int atTop = 0;  // ListView.Beginning
             QMetaObject::invokeMethod(list.view, "positionViewAtIndex", Q_ARG(int, list.row), Q_ARG(int, atTop));
-            list.view->setProperty("contentY", list.view->property("contentY").toDouble() + list.below);
+            list.view->setProperty("contentY", heightOf(*list.view, list.row) + list.below);
         }
     }
 
 private:
     struct List {
         QQuickItem* view;
-        int row;       ///< at the top
-        double below;  ///< how far the top is below the row's
+        int row;       ///< at the top; -1 above the first one
+        double below;  ///< how far the top is below that of the row
     };
 
     void note(const QQuickItem& item) {
@@ -141,9 +143,14 @@ private:
         int row = -1;
         QMetaObject::invokeMethod(&list, "indexAt", Q_RETURN_ARG(int, row), Q_ARG(qreal, list.width() / 2),
                                   Q_ARG(qreal, top));
+        lists_.push_back({&list, row, top - heightOf(list, row)});
+    }
+
+    /// Where the row begins, or the first one does.
+    static double heightOf(QQuickItem& list, int row) {
         QQuickItem* item = nullptr;
         QMetaObject::invokeMethod(&list, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item), Q_ARG(int, row));
-        if (item != nullptr) lists_.push_back({&list, row, top - item->y()});
+        return item == nullptr ? list.property("originY").toDouble() : item->y();
     }
 
     std::vector<List> lists_;
