@@ -130,9 +130,9 @@ TEST(DisplayText, isIsolatedFromRightToLeft) {
     EXPECT_EQ(isolated({}), QString()) << "nothing stays nothing";
 }
 
-TEST(PrintedText, isNotIsolatedFromRightToLeft) {
+TEST(PrintedText, hasLinesOfTheirOwnDirectionFromRightToLeft) {
     const fakes::RightToLeft direction;
-    EXPECT_EQ(printedText("a\nb"), QStringLiteral("a\nb"));
+    EXPECT_EQ(printedText("a.\n\n/b\nאב.\n"), QStringLiteral("\u2068a.\u2069\n\n\u2066/b\u2069\n\u2068אב.\u2069\n"));
 }
 
 TEST(ShortenedPath, isIsolatedAnewFromRightToLeft) {

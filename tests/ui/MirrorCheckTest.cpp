@@ -4,8 +4,6 @@
 #include <gmock/gmock.h>
 #include <QGuiApplication>
 
-#include <QGuiApplication>
-
 #include "ViewFixture.h"
 #include "fakes/RightToLeft.h"
 
@@ -32,6 +30,21 @@ protected:
         std::vector<std::string> lines;
         for (const QString& line : check.findings()) lines.push_back(line.toStdString());
         return lines;
+    }
+
+    /// A list of 30 rows, five of which are in sight, with a bar in each that stands there.
+    static const char* rowsWith(const char* place) {
+        static QByteArray list;
+        list = QByteArray(R"(ListView {
+            objectName: "list"; width: 300; height: 200; topMargin: 30; model: 30; reuseItems: true; clip: true
+            delegate: Item {
+                required property int index
+                width: 300; height: 40
+                ListView.onPooled: visible = false
+                ListView.onReused: visible = true
+                Rectangle { objectName: "bar" + index; width: 20; height: 20; )") +
+               place + "} } }";
+        return list.constData();
     }
 
     const fakes::RightToLeft direction;
@@ -76,6 +89,52 @@ TEST_F(MirrorCheckWindow, findsWhatIsSeenFromOneSideOnly) {
     EXPECT_THAT(
         findings(R"(Rectangle { objectName: "bar"; anchors.fill: parent; visible: ReadingDirection.mirrored })"),
         ElementsAre("not mirrored: QQuickRectangle \"bar\" is not seen from left to right, in here"));
+}
+
+TEST_F(MirrorCheckWindow, findsWhatIsSeenFromTheOtherSideOnly) {
+    EXPECT_THAT(
+        findings(R"(Rectangle { objectName: "bar"; anchors.fill: parent; visible: !ReadingDirection.mirrored })"),
+        ElementsAre("not mirrored: QQuickRectangle \"bar\" is seen from left to right only, in here"));
+}
+
+TEST_F(MirrorCheckWindow, acceptsTextsThatFillTheirPlace) {
+    EXPECT_THAT(findings(R"(Text { anchors.left: parent.left; text: "by its letters" })"), IsEmpty());
+    EXPECT_EQ(check.compared(), 1);
+}
+
+TEST_F(MirrorCheckWindow, findsTextsOfSeveralLinesAtTheWrongSide) {
+    EXPECT_THAT(findings(R"(Text { anchors.left: parent.left; text: "by its\nletters" })"),
+                ElementsAre(HasSubstr("has a text at the wrong side")));
+}
+
+TEST_F(MirrorCheckWindow, recognisesRowsThatAListMakesAnew) {
+    EXPECT_THAT(findings(rowsWith("anchors.left: parent.left")), IsEmpty());
+    EXPECT_EQ(check.compared(), 5) << "those in sight";
+    find("list")->setProperty("currentIndex", 3);
+    settle();
+    check.look(window(), QStringLiteral("there"));
+    EXPECT_EQ(check.findings(), QStringList());
+    EXPECT_EQ(check.compared(), 10);
+}
+
+TEST_F(MirrorCheckWindow, findsWhatStaysAtItsPlaceInRows) {
+    EXPECT_THAT(findings(rowsWith("x: 7")),
+                ElementsAre(HasSubstr("\"bar0\" is at 7, not at 273"), HasSubstr("\"bar1\""), HasSubstr("\"bar2\""),
+                            HasSubstr("\"bar3\""), HasSubstr("\"bar4\"")));
+}
+
+TEST_F(MirrorCheckWindow, leavesListsScrolledAsTheyWere) {
+    findings(rowsWith("anchors.left: parent.left"));
+    QQuickItem* list = find("list");
+    for (const double place : {-30.0, 0.0, 130.0, 990.0}) {
+        list->setProperty("contentY", place);
+        settle();
+        check.look(window(), QStringLiteral("there"));
+        EXPECT_EQ(list->property("contentY").toDouble(), place);
+        EXPECT_EQ(list->property("originY").toDouble(), 0);
+    }
+    EXPECT_EQ(check.findings(), QStringList());
+    EXPECT_NE(find("bar25"), nullptr);
 }
 
 TEST_F(MirrorCheckWindow, comparesAMenuWithinItself) {

@@ -2,6 +2,7 @@
 #include <QSignalSpy>
 
 #include "SystemFixture.h"
+#include "fakes/RightToLeft.h"
 
 namespace zelk {
 
@@ -184,6 +185,13 @@ TEST_F(SystemModelTest, datesAreShortInTheUsersLocale) {
         const QString day = locale.dayName(4);
         EXPECT_FALSE(shortDate(time, locale).contains(day)) << QLocale::languageToString(language).toStdString();
     }
+}
+
+TEST_F(SystemModelTest, dateStaysTogetherFromRightToLeft) {
+    const fakes::RightToLeft direction;
+    const QString date = shortDate(1'700'000'000, QLocale(QLocale::English, QLocale::UnitedStates));
+    EXPECT_TRUE(date.startsWith(QStringLiteral("\u2068Nov ")) && date.endsWith(u'\u2069')) << date.toStdString();
+    EXPECT_EQ(date.count(u'\u2068'), 1);
 }
 
 TEST_F(SystemModelTest, noteSaysWhatIsKnownOfSizes) {

@@ -54,7 +54,7 @@ QString printedText(std::string_view output) {
         const std::size_t end = std::min(output.find_first_of("\r\n"), output.size());
         std::string line(output.substr(0, end));
         std::replace(line.begin(), line.end(), '\t', ' ');
-        text += visibleText(line);
+        text += isolated(visibleText(line));
         if (end == output.size()) break;
         text += u'\n';
         output.remove_prefix(end + (output.substr(end, 2) == "\r\n" ? 2 : 1));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Converts what system calls take into text for people. Display text never goes back to the system. All but printed
-// text is isolated.
+// Converts what system calls take into text for people. Display text never goes back to the system. All of it is
+// isolated.
 #pragma once
 
 #include <QString>
@@ -22,7 +22,7 @@ QString nameText(std::string_view path);
 QString folderText(std::string_view path);
 
 /// What a tool printed: CR, LF or both are a line break, also at the end, a tab is a space, and the rest is display
-/// text. It is one from left to right. What follows the first 20,000 bytes is left out, with "…" as the last line:
+/// text, each line of its own direction. What follows the first 20,000 bytes is left out, with "…" as the last line:
 /// laying out more holds up the window.
 QString printedText(std::string_view output);
 

@@ -45,9 +45,9 @@ QString tagOf(const LocalSnapshot& snapshot) {
 
 QString shortDate(TimePoint time, const QLocale& locale) {
     const QDateTime local = QDateTime::fromSecsSinceEpoch(static_cast<qint64>(time));
-    return SnapshotRows::tr("%1, %2", "a date and a time")
-        .arg(locale.toString(local.date(), abbreviatedDateFormat(locale)),
-             locale.toString(local.time(), QLocale::ShortFormat));
+    return isolated(SnapshotRows::tr("%1, %2", "a date and a time")
+                        .arg(locale.toString(local.date(), abbreviatedDateFormat(locale)),
+                             locale.toString(local.time(), QLocale::ShortFormat)));
 }
 
 void SnapshotRows::show(const std::vector<LocalSnapshot>& snapshots) {
