@@ -10,8 +10,10 @@ preset_folder() {
 }
 
 # date_sources: what is built of one commit, on whatever day, is the same: Qt's resources and the package hold this date
-# of it instead of their own. A tree without a history, or a system without git, has none unless it is given.
+# of it instead of their own. A tree without a history, or a system without git, has none unless it is given. And the
+# compiler of views keeps its variables in a hash table, whose order is another in each process without a fixed seed.
 date_sources() {
+    export QT_HASH_SEED=0
     [ -n "${SOURCE_DATE_EPOCH:-}" ] || SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null) || true
     if [ -n "$SOURCE_DATE_EPOCH" ]; then export SOURCE_DATE_EPOCH; else unset SOURCE_DATE_EPOCH; fi
 }
