@@ -36,7 +36,8 @@ protected:
         EXPECT_NE(number, "") << "Xvfb did not start";
         environment["DISPLAY"] = ":" + number;
         environment["QT_QPA_PLATFORM"] = "xcb";
-        // A library of X copies names by their length, which no zero byte ends: AddressSanitizer would take them for text.
+        // A library of X copies names by their length, which no zero byte ends: AddressSanitizer would take them for
+        // text.
         const char* const checks = std::getenv("ASAN_OPTIONS");
         environment["ASAN_OPTIONS"] = std::string(checks == nullptr ? "" : checks) + ":strict_string_checks=0";
         connection_ = xcb_connect((":" + number).c_str(), nullptr);
