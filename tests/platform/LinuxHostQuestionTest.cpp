@@ -110,7 +110,8 @@ protected:
     }
 
     const zoo::TempFolder data;
-    const std::string program = data / "program of tests";
+    // A name of its own, since another process of these tests may run meanwhile.
+    const std::string program = data / ("program of tests " + std::to_string(::getpid()));
     const fakes::EnvironmentVariable shared{"XDG_DATA_DIRS", "relative:" + data.path() + ":" + data.path()};
     PlayedHost host;
 
