@@ -137,14 +137,20 @@ TEST_F(MirrorCheckWindow, leavesListsScrolledAsTheyWere) {
     EXPECT_NE(find("bar25"), nullptr);
 }
 
+TEST_F(MirrorCheckWindow, toleratesRoundingOnly) {
+    EXPECT_THAT(findings(R"(Rectangle { x: 128.6; width: 41; height: 20 })"), IsEmpty()) << "1.8 beside its place";
+    EXPECT_THAT(findings(R"(Rectangle { x: 128.4; width: 41; height: 20 })"), ElementsAre(HasSubstr("is at 128.4")));
+}
+
 TEST_F(MirrorCheckWindow, comparesAMenuWithinItself) {
     EXPECT_THAT(findings(R"(
         Item { id: home; width: 10; height: 10 }
-        MenuPanel { parent: home; visible: true; x: 20; MenuRow { text: "One"; shortcutText: "Ctrl+1" } })"),
+        MenuPanel { parent: home; x: 20; Component.onCompleted: open()
+                    MenuRow { text: "One"; shortcutText: "Ctrl+1" } })"),
                 IsEmpty());
     EXPECT_THAT(findings(R"(
         Item { id: home; width: 10; height: 10 }
-        MenuPanel { parent: home; visible: true; x: 20
+        MenuPanel { parent: home; x: 20; Component.onCompleted: open()
                     MenuRow { text: "One"; Rectangle { objectName: "mark"; width: 5; height: 5 } } })"),
                 ElementsAre(HasSubstr("\"mark\" is at")));
 }

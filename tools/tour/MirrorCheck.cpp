@@ -13,8 +13,8 @@ namespace zelk::tour {
 
 namespace {
 
-// Halves of points are rounded to either side.
-constexpr double tolerance = 1.5;
+// What is in the middle of something is moved to whole points, and that may be in the middle of something too.
+constexpr double tolerance = 2;
 
 /// Where a side is what is mirrored: the window, or a menu in it.
 struct Frame {

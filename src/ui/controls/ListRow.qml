@@ -17,8 +17,10 @@ Item {
     signal pressed
 
     width: ListView.view?.width ?? 0
-    // One that is narrower than the list stands where reading begins. (A list view places its rows only downwards.)
-    x: ReadingDirection.mirrored ? (ListView.view?.width ?? 0) - width : 0
+    // One that is narrower than the list stands where reading begins. (The list view sets `x`.)
+    transform: Translate {
+        x: ReadingDirection.mirrored ? (row.ListView.view?.width ?? 0) - row.width : 0
+    }
 
     // The list has the active focus; screen readers are told that the current row has it.
     Accessible.role: Accessible.ListItem

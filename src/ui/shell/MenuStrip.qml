@@ -74,10 +74,12 @@ T.MenuBar {
             required property CommandMenu modelData
 
             title: sheet.modelData.title
-            // Below the title, which begins where reading begins.
-            x: ReadingDirection.mirrored ? (parent?.width ?? 0) - width : 0
             width: Math.max(implicitWidth, Math.round(220 * TextScale.factor))
-            onAboutToShow: bar.enter()
+            onAboutToShow: {
+                // Below the title, which begins where reading begins. (The bar sets `x` before.)
+                sheet.x = ReadingDirection.mirrored ? sheet.parent.width - sheet.width : 0;
+                bar.enter();
+            }
             onClosed: bar.leave()
 
             Instantiator {
