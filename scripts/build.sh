@@ -10,13 +10,15 @@ preset_folder() {
 }
 
 # date_sources: what is built of one commit, on whatever day, is the same: Qt's resources and the package hold this date
-# of it instead of their own. A tree without a history, or a system without git, has none unless it is given. And the
-# compiler of views keeps its variables in a hash table, whose order is another in each process without a fixed seed.
+# of it instead of their own. A tree without a history, or a system without git, has none unless it is given.
 date_sources() {
-    export QT_HASH_SEED=0
     [ -n "${SOURCE_DATE_EPOCH:-}" ] || SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null) || true
     if [ -n "$SOURCE_DATE_EPOCH" ]; then export SOURCE_DATE_EPOCH; else unset SOURCE_DATE_EPOCH; fi
 }
+
+# Runs a command at the same addresses every time, where the system lets us.
+steady=
+if setarch -R true 2>/dev/null; then steady="setarch -R"; fi
 
 # build_preset PRESET [TARGET...]: configures the preset and builds these targets, or all, in its build folder.
 build_preset() {
@@ -31,5 +33,8 @@ build_preset() {
     date_sources
     cmake --preset "$preset" ||
         fail "configuring failed; the reason stands above. If it speaks of an old cache, remove $(preset_folder "$preset") and run this again."
-    cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build failed; the first error above says where."
+    # The compiler of views writes its variables in the order of hash tables, which hangs on a seed and on addresses:
+    # without both fixed, two packages of one commit differ, and ccache knows no view again.
+    # shellcheck disable=SC2086  # a command and its option
+    QT_HASH_SEED=0 $steady cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build failed; the first error above says where."
 }
