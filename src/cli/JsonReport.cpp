@@ -25,12 +25,12 @@ void writeFolders(JsonWriter& json, std::vector<const FSNode*> folders) {
 
 void writeRoots(JsonWriter& json, const FSNode& tree) {
     json.key("roots").open('[');
-    for (const NodeRef& root : tree.children) writeFolder(json, *root);
+    for (const FSNode& root : tree.children()) writeFolder(json, root);
     json.close(']').key("folders").open('[');
-    for (const NodeRef& root : tree.children) {
+    for (const FSNode& root : tree.children()) {
         std::vector<const FSNode*> folders;
-        folders.reserve(root->children.size());
-        for (const NodeRef& folder : root->children) folders.push_back(folder.get());
+        folders.reserve(root.children().size());
+        for (const FSNode& folder : root.children()) folders.push_back(&folder);
         writeFolders(json, std::move(folders));
     }
     json.close(']');
@@ -96,7 +96,7 @@ void writeUnreadable(JsonWriter& json, const FSNode& tree) {
         const FSNode& folder = *pending.back();
         pending.pop_back();
         if (folder.isUnreadable()) json.open('{').path(folder.fullPath()).close('}');
-        for (const NodeRef& child : folder.children) pending.push_back(child.get());
+        for (const FSNode& child : folder.children()) pending.push_back(&child);
     }
     json.close(']');
 }

@@ -29,33 +29,29 @@ void openFolder(JsonWriter& json, const FSNode& folder, std::string_view name) {
 }
 
 void writeFolder(JsonWriter& json, const FSNode& root, std::string_view name) {
-    struct Level {
-        const FSNode* folder;
-        std::size_t nextChild;
-    };
     openFolder(json, root, name);
-    std::vector<Level> levels{{&root, 0}};
-    while (!levels.empty()) {
-        Level& level = levels.back();
-        if (level.nextChild == level.folder->children.size()) {
+    const FSNode* folder = &root;
+    while (true) {
+        const FSNode* next = folder->firstChild();
+        while (next == nullptr) {
             json.close(']');
-            levels.pop_back();
-            continue;
+            if (folder == &root) return;
+            next = folder->nextSibling();
+            if (next == nullptr) folder = folder->parent();
         }
-        const FSNode& child = *level.folder->children[level.nextChild++];
-        openFolder(json, child, child.name());
-        levels.push_back({&child, 0});
+        folder = next;
+        openFolder(json, *folder, folder->name());
     }
 }
 
 /// The innermost folder that all of these paths lie in, but none of them is, where there is one.
-std::string folderAround(const std::vector<NodeRef>& roots) {
-    std::string around(roots.front()->name());
+std::string folderAround(const FSNode::Children& roots) {
+    std::string around(roots.front().name());
     for (bool holdsAll = false; !holdsAll && around != "/";) {
         around.resize(std::max<std::size_t>(around.rfind('/'), 1));
         holdsAll = true;
-        for (const NodeRef& root : roots)
-            holdsAll = holdsAll && root->name() != around && isInFolder(root->name(), around);
+        for (const FSNode& root : roots)
+            holdsAll = holdsAll && root.name() != around && isInFolder(root.name(), around);
     }
     return around;
 }
@@ -63,20 +59,20 @@ std::string folderAround(const std::vector<NodeRef>& roots) {
 }  // namespace
 
 void writeNcduExport(Output& output, const Survey& survey, std::string_view version) {
-    const std::vector<NodeRef>& roots = survey.tree->children;
+    const FSNode::Children roots = survey.tree->children();
     JsonWriter json(output);
     json.open('[').number(majorVersion).number(minorVersion).open('{').key("progname").text("zelk-survey");
     json.key("progver").text(version).key("timestamp").number(static_cast<std::int64_t>(std::floor(survey.date)));
     json.close('}');
-    if (roots.size() == 1) {
-        writeFolder(json, *roots.front(), roots.front()->name());
+    if (const FSNode* const only = survey.tree->onlyChild()) {
+        writeFolder(json, *only, only->name());
     } else {
         const std::string around = folderAround(roots);
         json.open('[').open('{').key("name").text(around).close('}');
-        for (const NodeRef& root : roots) {
-            std::string_view below = root->name().substr(around.size());
+        for (const FSNode& root : roots) {
+            std::string_view below = root.name().substr(around.size());
             while (below.starts_with('/')) below.remove_prefix(1);
-            writeFolder(json, *root, below.empty() ? "/" : below);
+            writeFolder(json, root, below.empty() ? "/" : below);
         }
         json.close(']');
     }

@@ -165,7 +165,7 @@ int survey(const Storage& storage, const Arguments& arguments, EndRequest& end) 
     }
     const std::optional<Survey> found = surveyed(storage, roots, end);
     if (!found) return 128 + end.signal();
-    if (found->tree->children.size() != roots.size()) {
+    if (found->tree->children().size() != roots.size()) {
         complain("A folder that was to be surveyed is gone.");
         return EX_NOINPUT;
     }

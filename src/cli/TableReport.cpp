@@ -108,17 +108,16 @@ private:
     }
 
     void writeFolders() {
-        const std::vector<NodeRef>& roots = survey_.tree->children;
-        const bool isOne = roots.size() == 1;
-        const FSNode& level = isOne ? *roots.front() : *survey_.tree;
+        const FSNode* const root = survey_.tree->onlyChild();
+        const FSNode& level = root ? *root : *survey_.tree;
         std::vector<Row> rows;
-        for (const NodeRef& folder : level.children) rows.push_back({visibleText(folder->name()), folder->size});
+        for (const FSNode& folder : level.children()) rows.push_back({visibleText(folder.name()), folder.size});
         if (level.fileCount > 0) rows.push_back({looseFiles(level.fileCount), level.ownFileBytes});
         if (rows.empty() || top_ == 0) return;
         std::sort(rows.begin(), rows.end(),
                   [](const Row& a, const Row& b) { return a.bytes != b.bytes ? a.bytes > b.bytes : a.name < b.name; });
 
-        title(isOne ? "In " + visibleText(level.name()) : "Folders");
+        title(root ? "In " + visibleText(level.name()) : "Folders");
         const std::size_t shown = shownOf(rows.size());
         std::int64_t rest = 0;
         for (std::size_t at = 0; at < rows.size(); ++at) {

@@ -154,6 +154,11 @@ ReclaimClassifier::Match match(std::string_view categoryID, TimePoint ageDate) {
     return {reclaimCategoryByID().at(categoryID), methodOf(categoryID), ageDate};
 }
 
+/// As it is written into a node.
+std::uint8_t rowOf(const ReclaimCategory& category) {
+    return static_cast<std::uint8_t>(&category - reclaimCatalogue().data() + 1);
+}
+
 /// The chain of tests. `path` is at `node`, before and after.
 std::optional<ReclaimClassifier::Match> classifyAt(const FSNode& node, WalkedPath& path, std::string_view home,
                                                    FileManager& files, const ReclaimPlaces& known) {
@@ -171,6 +176,10 @@ ReclaimPlaces ReclaimPlaces::of(Locations& locations) {
     return {homes ? std::optional(homes->data) : std::nullopt, locations.trashPlaces()};
 }
 
+const ReclaimCategory* reclaimCategoryOf(const FSNode& node) {
+    return node.reclaimCategory == 0 ? nullptr : &reclaimCatalogue()[node.reclaimCategory - 1U];
+}
+
 std::optional<ReclaimClassifier::Match> ReclaimClassifier::classify(const FSNode& node, const std::string& home) const {
     WalkedPath path(node);
     if (places_.trash.hold(path.text())) return std::nullopt;
@@ -179,8 +188,7 @@ std::optional<ReclaimClassifier::Match> ReclaimClassifier::classify(const FSNode
 
 void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vector<Reclaimable>& items) const {
     struct Standing {
-        FSNode* node;
-        std::size_t nextChild;
+        FSNode* nextChild;  ///< null after the last one
         std::size_t pathLength;
     };
     const std::string_view homePath = withoutEndingSlashes(home);
@@ -195,7 +203,7 @@ void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vecto
         if (begins ? places_.trash.hold(path.text()) : places_.trash.areAt(path.text())) return false;
         std::optional<Match> found = classifyAt(node, path, homePath, files_, places_);
         if (!found) return true;
-        node.reclaimCategory = found->category;
+        node.reclaimCategory = rowOf(*found->category);
         items.push_back({path.text(), path.text(), static_cast<std::uint64_t>(std::max<std::int64_t>(node.size, 0)),
                          std::string(found->category->id), found->category->safety, std::move(found->method),
                          found->ageDate, rootLength});
@@ -204,17 +212,17 @@ void ReclaimClassifier::collect(FSNode& top, const std::string& home, std::vecto
 
     // An explicit stack instead of recursion: the depth of folders is not ours to decide.
     std::vector<Standing> above;
-    if (visit(top)) above.push_back({&top, 0, path.text().size()});
+    if (visit(top)) above.push_back({top.firstChild(), path.text().size()});
     while (!above.empty()) {
         Standing& at = above.back();
-        if (at.nextChild == at.node->children.size()) {
+        if (at.nextChild == nullptr) {
             above.pop_back();
             continue;
         }
-        FSNode& child = *at.node->children[at.nextChild++];
+        FSNode& child = *std::exchange(at.nextChild, at.nextChild->nextSibling());
         path.leaveTo(at.pathLength);
         path.enter(child.name());
-        if (visit(child)) above.push_back({&child, 0, path.text().size()});
+        if (visit(child)) above.push_back({child.firstChild(), path.text().size()});
     }
 }
 

@@ -25,6 +25,9 @@ struct ReclaimPlaces {
     static ReclaimPlaces of(Locations& locations);
 };
 
+/// The row of the catalogue that a classifier has marked the node with; null if there is none.
+const ReclaimCategory* reclaimCategoryOf(const FSNode& node);
+
 /// Turns a finished tree into the list of reclaimable items. An ordered chain of tests looks at each node and the home
 /// path; the first match wins. There is no minimum size and no age limit: those belong to the review. The only question
 /// to the live file system is whether there is a Cargo.toml beside a folder called "target". Usable from any thread.

@@ -2,52 +2,90 @@
 #include "scan/FSNode.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <new>
+#include <type_traits>
 
 namespace zelk {
 
-NodeRef::NodeRef(FSNode* node) : node_(node) {
-    if (node_ != nullptr) node_->references_.fetch_add(1, std::memory_order_relaxed);
+namespace {
+
+[[noreturn]] void fail(const char* why) {
+    std::fprintf(stderr, "zelk: %s\n", why);
+    std::abort();
 }
 
-NodeRef::NodeRef(const NodeRef& other) : NodeRef(other.node_) {}
+}  // namespace
+
+NodeRef::NodeRef(FSNode* node) : node_(node) {
+    if (node_ != nullptr) node_->arena().retain();
+}
 
 NodeRef::~NodeRef() {
-    if (node_ != nullptr && node_->references_.fetch_sub(1, std::memory_order_acq_rel) == 1) FSNode::release(node_);
+    if (node_ != nullptr) node_->arena().release();
 }
 
-NodeRef FSNode::make(std::string_view name, TimePoint lastModified, bool isDirectory) {
-    void* memory = ::operator new(sizeof(FSNode) + name.size());
-    auto* node = new (memory) FSNode(static_cast<std::uint32_t>(name.size()), lastModified, isDirectory);
-    if (!name.empty()) std::memcpy(static_cast<char*>(memory) + sizeof(FSNode), name.data(), name.size());
-    return NodeRef(node);
+NodeRef FSNode::make(std::string_view name, TimePoint modified, bool isDirectory) {
+    return NodeRef(&make(NodeArena::make().ownersSpace(), name, modified, isDirectory));
 }
 
-std::string_view FSNode::name() const {
-    return {reinterpret_cast<const char*>(this) + sizeof(FSNode), nameLength_};
+FSNode& FSNode::make(NodeArena::Space& space, std::string_view name, TimePoint modified, bool isDirectory) {
+    static_assert(std::is_trivially_destructible_v<TimePoint> && alignof(FSNode) == alignof(void*));
+    static_assert(sizeof(void*) != 8 || sizeof(FSNode) == 64, "a survey has a hundred thousand nodes");
+    static_assert(sizeof(FSNode) + maximumNameLength <= NodeArena::largestBytes);
+    if (name.size() > maximumNameLength) fail("a folder's name is too long");
+    void* const memory = space.allocate(sizeof(FSNode) + name.size());
+    auto* const node = new (memory) FSNode(static_cast<std::uint16_t>(name.size()), modified, isDirectory);
+    if (!name.empty()) std::memcpy(static_cast<void*>(node + 1), name.data(), name.size());
+    return *node;
 }
 
-FSNode& FSNode::append(NodeRef child) {
-    NodeRef formerParent;
-    if (child->keepsParent_) {
-        // A removed node keeps its parent alive. As its child again, the two would keep each other alive forever.
-        formerParent = NodeRef(child->parent_);
-        child->parent_->references_.fetch_sub(1, std::memory_order_relaxed);  // formerParent holds another
-        child->keepsParent_ = false;
+FSNode& FSNode::append(std::string_view name, TimePoint modified, bool isDirectory) {
+    return append(arena().ownersSpace(), name, modified, isDirectory);
+}
+
+FSNode& FSNode::append(NodeArena::Space& space, std::string_view name, TimePoint modified, bool isDirectory) {
+    FSNode& child = make(space, name, modified, isDirectory);
+    link(child);
+    return child;
+}
+
+FSNode& FSNode::append(FSNode& removed) {
+    if (!removed.isRemoved() || &removed.arena() != &arena())
+        fail("only what was removed from a tree can return to it");
+    link(removed);
+    return removed;
+}
+
+void FSNode::link(FSNode& child) {
+    child.parent_ = this;
+    if (firstChild_ == nullptr) {
+        child.previous_ = &child;
+        firstChild_ = &child;
+        return;
     }
-    child->parent_ = this;
-    return *children.emplace_back(std::move(child));
+    FSNode* const last = std::exchange(firstChild_->previous_, &child);
+    child.previous_ = last;
+    last->next_ = &child;
 }
 
 void FSNode::remove(FSNode& child) {
-    const NodeRef held(&child);
-    if (std::erase(children, held) == 0) return;
-    child.keepsParent_ = true;
-    references_.fetch_add(1, std::memory_order_relaxed);
+    if (child.parent_ != this || child.isRemoved()) return;
+    if (child.next_ != nullptr)
+        child.next_->previous_ = child.previous_;
+    else
+        firstChild_->previous_ = child.previous_;
+    if (firstChild_ == &child)
+        firstChild_ = child.next_;
+    else
+        child.previous_->next_ = child.next_;
+    child.next_ = nullptr;
+    child.previous_ = nullptr;
 }
 
-// Folders may be nested to any depth, so neither paths nor release may recurse.
+// Folders may be nested to any depth, so a path may not recurse.
 
 void FSNode::fullPath(std::string& path) const {
     // Measure first, then write from the end: at most one allocation.
@@ -72,33 +110,6 @@ std::string FSNode::fullPath() const {
     std::string path;
     fullPath(path);
     return path;
-}
-
-void FSNode::release(FSNode* node) {
-    NodeRef keptParent;
-    if (node->keepsParent_) {
-        keptParent = NodeRef(node->parent_);
-        node->parent_->references_.fetch_sub(
-            1, std::memory_order_relaxed);  // never the last one: keptParent holds another
-    }
-    // A list of unreferenced nodes, linked through their parent pointers, so that releasing needs no memory.
-    node->parent_ = nullptr;
-    while (node != nullptr) {
-        FSNode* next = node->parent_;
-        for (NodeRef& reference : node->children) {
-            FSNode* child = std::exchange(reference.node_, nullptr);
-            if (child == nullptr) continue;
-            // Other holders of the child see it without a parent from now on.
-            if (child->parent_ == node) child->parent_ = nullptr;
-            if (child->references_.fetch_sub(1, std::memory_order_acq_rel) == 1) {
-                child->parent_ = next;
-                next = child;
-            }
-        }
-        node->~FSNode();
-        ::operator delete(node);
-        node = next;
-    }
 }
 
 }  // namespace zelk

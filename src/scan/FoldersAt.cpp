@@ -12,18 +12,18 @@ namespace {
 class Levels {
 public:
     /// Null if `folder` has no child of that name.
-    const NodeRef* child(const FSNode& folder, std::string_view name) {
+    FSNode* child(const FSNode& folder, std::string_view name) {
         const auto [level, isNew] = levels_.try_emplace(&folder);
         if (isNew) {
-            level->second.reserve(folder.children.size());
-            for (const NodeRef& child : folder.children) level->second.emplace(child->name(), &child);
+            level->second.reserve(folder.children().size());
+            for (FSNode& child : folder.children()) level->second.emplace(child.name(), &child);
         }
         const auto found = level->second.find(name);
         return found == level->second.end() ? nullptr : found->second;
     }
 
 private:
-    std::unordered_map<const FSNode*, std::unordered_map<std::string_view, const NodeRef*>> levels_;
+    std::unordered_map<const FSNode*, std::unordered_map<std::string_view, FSNode*>> levels_;
 };
 
 }  // namespace
@@ -40,16 +40,16 @@ std::vector<NodeRef> foldersAt(const FSNode& top, const std::set<std::string>& p
     std::vector<NodeRef> folders;
     Levels levels;
     for (const std::string& path : paths) {
-        for (const NodeRef& root : top.children) {
-            std::optional<std::string_view> rest = behindRoot(root->name(), path);
+        for (FSNode& root : top.children()) {
+            std::optional<std::string_view> rest = behindRoot(root.name(), path);
             if (!rest) continue;
-            const NodeRef* at = &root;
+            FSNode* at = &root;
             while (at != nullptr && !rest->empty()) {
                 const std::size_t end = std::min(rest->find('/'), rest->size());
-                at = levels.child(**at, rest->substr(0, end));
+                at = levels.child(*at, rest->substr(0, end));
                 rest->remove_prefix(std::min(end + 1, rest->size()));
             }
-            if (at != nullptr) folders.push_back(*at);
+            if (at != nullptr) folders.emplace_back(at);
         }
     }
     return folders;

@@ -2,6 +2,7 @@
 #include "scan/ParallelWalker.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 #include <system_error>
 
@@ -31,16 +32,16 @@ std::string joined(const std::string& path, std::string_view name) {
 struct ParallelWalker::Worker {
     /// A directory on the way from the taken one to the current one.
     struct Level {
-        FSNode* node;
-        std::size_t nextChild;
+        FSNode* nextChild;  ///< null after the last one
         std::size_t pathLength;
         bool inTrash;
     };
 
     std::unique_ptr<DirectoryReader> reader;
-    std::string path;      ///< path of the directory being visited
-    std::string below;     ///< the same path relative to its root
-    bool inTrash = false;  ///< the directory being visited is in a Trash
+    std::optional<NodeArena::Space> space;  ///< for the nodes of what this thread reads
+    std::string path;                       ///< path of the directory being visited
+    std::string below;                      ///< the same path relative to its root
+    bool inTrash = false;                   ///< the directory being visited is in a Trash
     std::vector<Level> levels;
 };
 
@@ -83,9 +84,13 @@ void ParallelWalker::startWorkers() {
 }
 
 void ParallelWalker::workerLoop() {
-    Worker worker{directories_.makeReader(), {}, {}, false, {}};
+    Worker worker{directories_.makeReader(), {}, {}, {}, false, {}};
     Work work;
-    for (bool finishedOne = false; take(work, finishedOne); finishedOne = true) visit(worker, work);
+    for (bool finishedOne = false; take(work, finishedOne); finishedOne = true) {
+        // Not before: to a thread that starts late the tree may be gone.
+        if (!worker.space) worker.space.emplace(work.node->arena());
+        visit(worker, work);
+    }
 }
 
 /// Marks the previous item, if any, as finished and waits for the next. False when the walk is over.
@@ -133,12 +138,12 @@ const DirectoryReader::Entries* ParallelWalker::openAt(Worker& worker, const Wor
 void ParallelWalker::visitInline(Worker& worker, const Work& work) {
     std::vector<Worker::Level>& levels = worker.levels;
     levels.clear();
-    levels.push_back({work.node.get(), 0, worker.path.size(), worker.inTrash});
+    levels.push_back({work.node->firstChild(), worker.path.size(), worker.inTrash});
     bool isLost = false;
     while (true) {
         Worker::Level& level = levels.back();
         worker.path.resize(level.pathLength);
-        if (level.nextChild == level.node->children.size()) {
+        if (level.nextChild == nullptr) {
             levels.pop_back();
             if (levels.empty()) return;
             isLost = !worker.reader->ascend();
@@ -148,7 +153,7 @@ void ParallelWalker::visitInline(Worker& worker, const Work& work) {
         // The way back was lost: reopen the directory, so that its remaining children are not wrongly unreadable.
         // Ignores the second listing.
         if (std::exchange(isLost, false)) openAt(worker, work);
-        FSNode& child = *level.node->children[level.nextChild++];
+        FSNode& child = *std::exchange(level.nextChild, level.nextChild->nextSibling());
         appendComponent(worker.path, child.name());
         worker.inTrash = level.inTrash || trash_.areAt(worker.path);
         const DirectoryReader::Entries* entries = worker.reader->descend(child.name());
@@ -157,7 +162,7 @@ void ParallelWalker::visitInline(Worker& worker, const Work& work) {
         } else {
             block(child);
         }
-        levels.push_back({&child, 0, worker.path.size(), worker.inTrash});
+        levels.push_back({child.firstChild(), worker.path.size(), worker.inTrash});
     }
 }
 
@@ -172,26 +177,25 @@ void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::E
     node.fileCount = count;
     reportProgress(count, bytes, worker.path);
 
-    const std::size_t directories = entries.size() - static_cast<std::size_t>(count);
-    if (directories == 0) return;
-    node.children.reserve(directories);
+    if (entries.size() == static_cast<std::size_t>(count)) return;
     for (const DirEntry& entry : entries) {
         // Another device is a mount point, which is skipped silently.
         if (entry.objType != directoryObjectType || entry.deviceID != rootDev) continue;
-        node.append(FSNode::make(entry.name, entry.modTime));
+        node.append(*worker.space, entry.name, entry.modTime);
     }
 }
 
 void ParallelWalker::pushChildren(const Work& work, bool inTrash) {
-    const std::vector<NodeRef>& children = work.node->children;
+    const FSNode::Children children = work.node->children();
     if (children.empty()) return;
+    const auto count = static_cast<std::int64_t>(children.size());
     std::int64_t wake;
     {
         const std::lock_guard lock(mutex_);
-        for (const NodeRef& child : children)
-            stack_.push_back({child, work.root, work.rootLength, work.depth + 1, work.rootDev, inTrash});
-        outstanding_ += static_cast<std::int64_t>(children.size());
-        wake = std::min(waiting_, static_cast<std::int64_t>(children.size()));
+        for (FSNode& child : children)
+            stack_.push_back({&child, work.root, work.rootLength, work.depth + 1, work.rootDev, inTrash});
+        outstanding_ += count;
+        wake = std::min(waiting_, count);
     }
     for (; wake > 0; --wake) cond_.notify_one();
 }

@@ -44,7 +44,7 @@ public:
     /// A directory waiting for a thread. Stores no path, which is built from the node when needed: a string per waiting
     /// directory would dominate the memory in a folder with very many subfolders.
     struct Work {
-        NodeRef node;
+        FSNode* node;
         std::shared_ptr<const DirectoryRoot> root;  ///< null if the root could not be opened
         std::size_t rootLength;                     ///< length of the root's path
         std::int64_t depth;
@@ -57,7 +57,7 @@ public:
     ParallelWalker(DirectoryService& directories, std::int64_t workerCount, ScanCollectors& collectors,
                    TrashPlaces trash, std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue);
 
-    /// Blocks until the walk is over. Call once.
+    /// Blocks until the walk is over. Call once. The nodes are those of one tree, which the caller keeps.
     void run(std::vector<Work> seeds);
 
 private:

@@ -30,9 +30,8 @@ std::vector<ParallelWalker::Work> seed(DirectoryService& directories, const std:
         if (cancel.isSet()) break;
         const std::optional<RootStatus> status = directories.status(path);
         if (!status) continue;
-        const NodeRef node = FSNode::make(path, status->modified);
-        top.append(node);
-        seeds.push_back({node, directories.openRoot(path), path.size(), 0, status->device, trash.hold(path)});
+        FSNode& node = top.append(path, status->modified);
+        seeds.push_back({&node, directories.openRoot(path), path.size(), 0, status->device, trash.hold(path)});
     }
     return seeds;
 }
@@ -112,27 +111,19 @@ ScanStats statsOf(const ScanCounters::Counts& counts, std::int64_t totalBytes, d
 }
 
 std::int64_t rollUpSizes(FSNode& top) {
-    struct Level {
-        FSNode* node;
-        std::size_t nextChild;
-    };
-    std::vector<Level> levels{{&top, 0}};
-    top.size = top.ownFileBytes;
+    // Needs no list of the folders above: these are found by their links.
+    FSNode* at = &top;
+    at->size = at->ownFileBytes;
     while (true) {
-        Level& level = levels.back();
-        if (level.nextChild < level.node->children.size()) {
-            FSNode& child = *level.node->children[level.nextChild++];
-            child.size = child.ownFileBytes;
-            if (!child.children.empty())
-                levels.push_back({&child, 0});
-            else
-                level.node->size += child.size;
-            continue;
+        FSNode* next = at->firstChild();
+        while (next == nullptr) {
+            if (at == &top) return top.size;
+            at->parent()->size += at->size;
+            next = at->nextSibling();
+            if (next == nullptr) at = at->parent();
         }
-        const std::int64_t sum = level.node->size;
-        levels.pop_back();
-        if (levels.empty()) return sum;
-        levels.back().node->size += sum;
+        at = next;
+        at->size = at->ownFileBytes;
     }
 }
 

@@ -243,8 +243,9 @@ std::vector<std::pair<FileType, TypeTally>> AppModel::sortedTypeTotals() const {
 
 std::vector<NodeRef> AppModel::topFolders() const {
     if (!root()) return {};
-    const FSNode& level = root()->children.size() == 1 ? *root()->children.front() : *root();
-    std::vector<NodeRef> folders = level.children;
+    const FSNode* const only = root()->onlyChild();
+    std::vector<NodeRef> folders;
+    for (FSNode& folder : (only ? *only : *root()).children()) folders.emplace_back(&folder);
     std::stable_sort(folders.begin(), folders.end(),
                      [](const NodeRef& a, const NodeRef& b) { return a->size > b->size; });
     return folders;

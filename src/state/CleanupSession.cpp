@@ -20,7 +20,7 @@ namespace {
 struct FoldersToTrash {
     struct Folder {
         NodeRef node;
-        NodeRef top;  ///< keeps the tree that gives the node its path, though another survey may replace it meanwhile
+        const FSNode* top;  ///< of its tree, which the node keeps though another survey may replace it meanwhile
         ItemPath item;
     };
     struct OtherTree {
@@ -36,14 +36,14 @@ struct FoldersToTrash {
 
     /// Leaves out what has no path of its own: the top of a tree, and "/".
     void add(const NodeRef& node) {
-        FSNode* top = node.get();
+        const FSNode* top = node.get();
         std::string root(top->name());
-        while (FSNode* parent = top->parent()) {
+        while (const FSNode* parent = top->parent()) {
             if (!parent->name().empty()) root = parent->name();
             top = parent;
         }
         if (const std::optional<ItemPath> item = ItemPath::below(root, node->fullPath()))
-            folders.push_back({node, NodeRef(top), *item});
+            folders.push_back({node, top, *item});
     }
     void noteInOtherTree(const NodeRef& tree, const std::string& path) {
         const auto isTree = [&](const OtherTree& other) { return other.top == tree; };
@@ -132,9 +132,9 @@ void CleanupSession::trashLargeFile(const std::string& path) {
 std::optional<ItemPath> CleanupSession::itemBelowRoot(const std::string& path) const {
     if (!results_.root()) return std::nullopt;
     std::string_view nearest;
-    for (const NodeRef& root : results_.root()->children) {
-        const std::optional<std::string_view> rest = behindRoot(root->name(), path);
-        if (rest && !rest->empty() && root->name().size() > nearest.size()) nearest = root->name();
+    for (const FSNode& root : results_.root()->children()) {
+        const std::optional<std::string_view> rest = behindRoot(root.name(), path);
+        if (rest && !rest->empty() && root.name().size() > nearest.size()) nearest = root.name();
     }
     return nearest.empty() ? std::nullopt : ItemPath::below(nearest, path);
 }

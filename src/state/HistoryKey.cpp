@@ -1,32 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "state/HistoryKey.h"
 
-#include <QByteArray>
+#include <string_view>
+
+#include "platform/Text.h"
+#include "platform/Utf8.h"
 
 namespace zelk {
 namespace {
 
-constexpr const char* scheme = "file://";
-
-QString escaped(const QByteArray& bytes) {
-    return scheme + QString::fromLatin1(bytes.toPercentEncoding("/"));
-}
+constexpr std::string_view scheme = "file://";
+constexpr EscapeForm percentEscape{"%", "0123456789ABCDEF", 2};
 
 }  // namespace
 
-QString historyKey(const std::string& path) {
-    const QByteArray bytes = QByteArray::fromStdString(path);
-    const QString text = QString::fromUtf8(bytes);
-    return text.toUtf8() == bytes && !path.starts_with(scheme) ? text : escaped(bytes);
+std::string historyKey(const std::string& path) {
+    if (isUtf8(path) && !path.starts_with(scheme)) return path;
+    return std::string(scheme) + percentEncoded(path);
 }
 
-std::string pathOfHistoryKey(const QString& key) {
-    const QByteArray text = key.toUtf8();
-    if (text.startsWith(scheme)) {
-        const std::string path = QByteArray::fromPercentEncoding(text.mid(qstrlen(scheme))).toStdString();
+std::string pathOfHistoryKey(const std::string& key) {
+    if (key.starts_with(scheme)) {
+        std::string path = unescaped(std::string_view(key).substr(scheme.size()), percentEscape);
         if (historyKey(path) == key) return path;
     }
-    return text.toStdString();
+    return key;
 }
 
 }  // namespace zelk

@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "state/SurveyHistory.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <nlohmann/json.hpp>
+#include <utility>
 
 #include "platform/FolderPath.h"
 #include "state/HistoryKey.h"
 
 namespace zelk {
 namespace {
+
+using Json = nlohmann::json;
 
 /// 2001-01-01 00:00:00 UTC, from which the file counts its seconds.
 constexpr TimePoint fileEpoch = 978307200;
@@ -34,9 +35,9 @@ double fileSeconds(TimePoint date) {
 
 /// Turns "5.0" into "5" outside strings. Other writers give integers a fraction, and read as a floating-point number a
 /// size above 2^53 would lose its last digits.
-QByteArray withoutEmptyFractions(std::string_view json) {
-    QByteArray out;
-    out.reserve(static_cast<qsizetype>(json.size()));
+std::string withoutEmptyFractions(std::string_view json) {
+    std::string out;
+    out.reserve(json.size());
     bool inString = false;
     for (std::size_t at = 0; at < json.size(); ++at) {
         const char c = json[at];
@@ -45,7 +46,7 @@ QByteArray withoutEmptyFractions(std::string_view json) {
             const std::size_t end = std::min(json.find_first_not_of("0123456789.eE+-", at), json.size());
             const std::string_view fraction = json.substr(at, end - at);
             const bool empty = fraction.size() > 1 && fraction.find_first_not_of('0', 1) == std::string_view::npos;
-            if (!empty) out.append(fraction.data(), static_cast<qsizetype>(fraction.size()));
+            if (!empty) out += fraction;
             at = end - 1;
             continue;
         }
@@ -55,81 +56,91 @@ QByteArray withoutEmptyFractions(std::string_view json) {
     return out;
 }
 
-std::optional<std::int64_t> integer(const QJsonValue& value) {
-    // Anything but a 64-bit integer gives the default: two different defaults tell it from a number.
-    const qint64 read = value.toInteger(0);
-    if (!value.isDouble() || read != value.toInteger(1)) return std::nullopt;
-    return read;
+/// The member of an object; nullptr if there is none.
+const Json* member(const Json& object, const char* key) {
+    const auto found = object.find(key);
+    return found == object.end() ? nullptr : &*found;
+}
+
+/// A whole number that 64 bits hold, however it is written.
+std::optional<std::int64_t> integer(const Json& value) {
+    constexpr double range = 9223372036854775808.0;  // 2^63
+    if (const auto* number = value.get_ptr<const std::uint64_t*>())
+        return std::in_range<std::int64_t>(*number) ? std::optional(static_cast<std::int64_t>(*number)) : std::nullopt;
+    if (const auto* number = value.get_ptr<const std::int64_t*>()) return *number;
+    const auto* number = value.get_ptr<const double*>();
+    if (number == nullptr || !(*number >= -range && *number < range) || *number != std::trunc(*number))
+        return std::nullopt;
+    return static_cast<std::int64_t>(*number);
 }
 
 /// Copies `object[key]`; false if it is missing or not an integer.
-bool take(std::int64_t& field, const QJsonObject& object, QLatin1StringView key) {
-    const std::optional<std::int64_t> value = integer(object.value(key));
+bool take(std::int64_t& field, const Json& object, const char* key) {
+    const Json* const found = member(object, key);
+    const std::optional<std::int64_t> value = found == nullptr ? std::nullopt : integer(*found);
     field = value.value_or(0);
     return value.has_value();
 }
 
-std::optional<SizeByPath> sizes(const QJsonValue& value) {
-    if (!value.isObject()) return std::nullopt;
-    const QJsonObject object = value.toObject();
+std::optional<SizeByPath> sizes(const Json& value) {
+    if (!value.is_object()) return std::nullopt;
     SizeByPath map;
-    for (auto entry = object.begin(); entry != object.end(); ++entry) {
-        const std::optional<std::int64_t> size = integer(entry.value());
+    for (const auto& [key, entry] : value.items()) {
+        const std::optional<std::int64_t> size = integer(entry);
         if (!size) return std::nullopt;
-        map.emplace(pathOfHistoryKey(entry.key()), *size);
+        map.emplace(pathOfHistoryKey(key), *size);
     }
     return map;
 }
 
-QJsonObject objectOf(const SizeByPath& map) {
-    QJsonObject object;
-    for (const auto& [key, size] : map) object.insert(historyKey(key), QJsonValue(qint64{size}));
+Json objectOf(const SizeByPath& map) {
+    Json object = Json::object();
+    for (const auto& [key, size] : map) object[historyKey(key)] = size;
     return object;
 }
 
-std::optional<SurveyRecord> decodeRecord(const QJsonValue& value) {
-    const QJsonObject object = value.toObject();
+std::optional<SurveyRecord> decodeRecord(const Json& object) {
+    if (!object.is_object()) return std::nullopt;
     SurveyRecord record;
-    const QJsonValue date = object.value(QLatin1StringView("date"));
-    if (!date.isDouble()) return std::nullopt;
-    record.date = date.toDouble() + fileEpoch;
-    if (!take(record.totalScanned, object, QLatin1StringView("totalScanned")) ||
-        !take(record.used, object, QLatin1StringView("used")) ||
-        !take(record.free, object, QLatin1StringView("free")) ||
-        !take(record.reclaimable, object, QLatin1StringView("reclaimable"))) {
+    const Json* const date = member(object, "date");
+    if (date == nullptr || !date->is_number()) return std::nullopt;
+    record.date = date->get<double>() + fileEpoch;
+    if (!take(record.totalScanned, object, "totalScanned") || !take(record.used, object, "used") ||
+        !take(record.free, object, "free") || !take(record.reclaimable, object, "reclaimable")) {
         return std::nullopt;
     }
-    std::optional<SizeByPath> types = sizes(object.value(QLatin1StringView("types")));
-    if (!types) return std::nullopt;
-    record.types = std::move(*types);
-    const QJsonValue folders = object.value(QLatin1StringView("folders"));
-    if (!folders.isUndefined() && !folders.isNull()) {
-        record.folders = sizes(folders);
+    const Json* const types = member(object, "types");
+    std::optional<SizeByPath> sizeByType = types == nullptr ? std::nullopt : sizes(*types);
+    if (!sizeByType) return std::nullopt;
+    record.types = std::move(*sizeByType);
+    const Json* const folders = member(object, "folders");
+    if (folders != nullptr && !folders->is_null()) {
+        record.folders = sizes(*folders);
         if (!record.folders) return std::nullopt;
     }
     return record;
 }
 
-QJsonObject encodeRecord(const SurveyRecord& record) {
-    QJsonObject object{
+Json encodeRecord(const SurveyRecord& record) {
+    Json object{
         {"date", fileSeconds(record.date)},
-        {"totalScanned", qint64{record.totalScanned}},
-        {"used", qint64{record.used}},
-        {"free", qint64{record.free}},
-        {"reclaimable", qint64{record.reclaimable}},
+        {"totalScanned", record.totalScanned},
+        {"used", record.used},
+        {"free", record.free},
+        {"reclaimable", record.reclaimable},
         {"types", objectOf(record.types)},
     };
-    if (record.folders) object.insert("folders", objectOf(*record.folders));
+    if (record.folders) object["folders"] = objectOf(*record.folders);
     return object;
 }
 
 }  // namespace
 
 std::optional<std::vector<SurveyRecord>> decodeHistory(std::string_view json) {
-    const QJsonDocument document = QJsonDocument::fromJson(withoutEmptyFractions(json));
-    if (!document.isArray()) return std::nullopt;
+    const Json document = Json::parse(withoutEmptyFractions(json), nullptr, false);
+    if (!document.is_array()) return std::nullopt;
     std::vector<SurveyRecord> records;
-    for (const QJsonValue& value : document.array()) {
+    for (const Json& value : document) {
         std::optional<SurveyRecord> record = decodeRecord(value);
         if (!record) return std::nullopt;
         records.push_back(std::move(*record));
@@ -138,9 +149,9 @@ std::optional<std::vector<SurveyRecord>> decodeHistory(std::string_view json) {
 }
 
 std::string encodeHistory(const std::vector<SurveyRecord>& records) {
-    QJsonArray array;
-    for (const SurveyRecord& record : records) array.append(encodeRecord(record));
-    return QJsonDocument(array).toJson(QJsonDocument::Compact).toStdString();
+    Json array = Json::array();
+    for (const SurveyRecord& record : records) array.push_back(encodeRecord(record));
+    return array.dump();
 }
 
 std::optional<std::string> SurveyHistory::folder() const {

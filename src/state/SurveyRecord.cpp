@@ -44,10 +44,10 @@ bool goesBehind(const Note& a, const Note& b) {
     return pathIsLess(b.node, a.node);
 }
 
-void requireDistinct(const std::vector<NodeRef>& roots) {
+void requireDistinct(const FSNode::Children& roots) {
     std::set<std::string_view> names;
-    for (const NodeRef& root : roots) {
-        if (names.insert(root->name()).second) continue;
+    for (const FSNode& root : roots) {
+        if (names.insert(root.name()).second) continue;
         std::fputs("zelk: one folder is a scan root twice\n", stderr);
         std::abort();
     }
@@ -59,9 +59,9 @@ std::vector<Note> foldersOfAtLeast(const FSNode& tree, std::int64_t minSize) {
     while (!pending.empty()) {
         const Note folder = pending.back();
         pending.pop_back();
-        for (const NodeRef& child : folder.node->children) {
-            pending.push_back({child.get(), folder.depth + 1});
-            if (child->size >= minSize) notes.push_back(pending.back());
+        for (const FSNode& child : folder.node->children()) {
+            pending.push_back({&child, folder.depth + 1});
+            if (child.size >= minSize) notes.push_back(pending.back());
         }
     }
     return notes;
@@ -70,7 +70,7 @@ std::vector<Note> foldersOfAtLeast(const FSNode& tree, std::int64_t minSize) {
 }  // namespace
 
 SizeByPath bigFolders(const FSNode& tree, std::int64_t minSize, std::size_t limit) {
-    requireDistinct(tree.children);
+    requireDistinct(tree.children());
     std::vector<Note> notes = foldersOfAtLeast(tree, minSize);
     std::make_heap(notes.begin(), notes.end(), goesBehind);
     SizeByPath folders;

@@ -32,11 +32,7 @@ bool isBelowAny(const std::set<std::string>& folders, const std::string& path) {
 /// the top of its own tree.
 const FSNode& topOf(const FSNode& node) {
     const FSNode* top = &node;
-    while (const FSNode* parent = top->parent()) {
-        const auto isTop = [top](const NodeRef& child) { return child == top; };
-        if (std::none_of(parent->children.begin(), parent->children.end(), isTop)) break;
-        top = parent;
-    }
+    while (top->parent() != nullptr && !top->isRemoved()) top = top->parent();
     return *top;
 }
 
@@ -117,10 +113,7 @@ void SurveyResults::endReading() {
     std::move(deferred_.begin(), deferred_.end(), std::back_inserter(removals));
     deferred_.clear();
     Changes changes;
-    for (NodeRef& node : removals) {
-        takeOut(*node, topOf(*node), changes);
-        releaseElsewhere(tasks_, std::move(node));
-    }
+    for (const NodeRef& node : removals) takeOut(*node, topOf(*node), changes);
     tell(changes);
 }
 
@@ -188,13 +181,11 @@ void SurveyResults::takeOut(FSNode& node, const FSNode& top, Changes& changes) {
     // A screen may hold a node of a tree that has been replaced, and goes on to show that tree, so the node leaves it.
     // A withdrawn tree is shown nowhere, and the classifier may be reading it.
     if (&top != &node && !withdrawn_.contains(&top)) {
-        NodeRef removed(&node);
         for (FSNode* above = parent;; above = above->parent()) {
             above->size -= node.size;
             if (above == &top) break;
         }
         parent->remove(node);
-        releaseElsewhere(tasks_, std::move(removed));
         if (root_ == &top || (before_ && before_->root == &top)) changes.tree = true;
     }
     changes.reclaimables |= eraseAtAndBelow(reclaimables_, path);

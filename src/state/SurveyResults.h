@@ -69,8 +69,7 @@ public:
     void withdraw();
 
     /// Takes a folder out of the tree that it belongs to, and with it the items and large files at and below its path.
-    /// What describes the survey as it ran stays. Does nothing to a node without a parent. The node may be gone
-    /// afterwards unless the caller holds a reference.
+    /// What describes the survey as it ran stays. Does nothing to a node without a parent.
     void remove(FSNode& node);
     /// A folder went to the Trash. A survey that is running may have passed it before, so endReading() removes it
     /// again.

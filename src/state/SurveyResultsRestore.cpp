@@ -12,13 +12,8 @@ namespace {
 
 /// Whether `node` is in the tree below `top`. A removed folder keeps its parent pointer but is no longer a child.
 bool isInTree(const FSNode* node, const FSNode* top) {
-    for (; node != nullptr && node != top; node = node->parent()) {
-        const FSNode* const parent = node->parent();
-        if (parent == nullptr) return false;
-        const auto isNode = [node](const NodeRef& child) { return child == node; };
-        if (std::none_of(parent->children.begin(), parent->children.end(), isNode)) return false;
-    }
-    return node != nullptr;
+    while (node != nullptr && node != top && !node->isRemoved()) node = node->parent();
+    return node != nullptr && node == top;
 }
 
 /// Largest first, and after other files of the same size.
@@ -50,8 +45,8 @@ SurveyResults::Restorer SurveyResults::restorerOf(const NodeRef& node) {
     return [this, node, files = std::move(files), items = std::move(items)] {
         // The folder above it may have been removed too, and not restored.
         FSNode* const parent = node->parent();
-        if (!isInTree(parent, root_.get())) return false;
-        parent->append(node);
+        if (!node->isRemoved() || !isInTree(parent, root_.get())) return false;
+        parent->append(*node);
         for (FSNode* above = parent; above != nullptr; above = above->parent()) above->size += node->size;
         for (const PlacedReclaimable& one : items) {
             const auto place = static_cast<std::ptrdiff_t>(std::min(one.place, reclaimables_.size()));

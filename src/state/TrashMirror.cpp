@@ -13,15 +13,15 @@ namespace {
 /// Looks at the scan roots and the folders directly in them only, at the latter first.
 const FSNode* findOnTopLevels(const FSNode& top, const std::string& wanted) {
     std::string path;
-    const auto isWanted = [&](const NodeRef& node) {
-        node->fullPath(path);
+    const auto isWanted = [&](const FSNode& node) {
+        node.fullPath(path);
         return path == wanted;
     };
-    for (const NodeRef& root : top.children)
-        for (const NodeRef& folder : root->children)
-            if (isWanted(folder)) return folder.get();
-    for (const NodeRef& root : top.children)
-        if (isWanted(root)) return root.get();
+    for (const FSNode& root : top.children())
+        for (const FSNode& folder : root.children())
+            if (isWanted(folder)) return &folder;
+    for (const FSNode& root : top.children())
+        if (isWanted(root)) return &root;
     return nullptr;
 }
 

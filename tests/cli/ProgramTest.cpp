@@ -107,6 +107,16 @@ TEST_F(Program, leavesNoTrace) {
     EXPECT_THAT(fakes::namesIn(place), ElementsAre("file"));
 }
 
+#ifdef __linux__
+// Loading such a library takes more memory than a survey, and more time than one of a small folder.
+TEST_F(Program, loadsNoLibraryThatASurveyHasNoUseFor) {
+    const Ran ran = run({place}, [] { ::setenv("LD_TRACE_LOADED_OBJECTS", "1", 1); });
+    EXPECT_THAT(ran.output, HasSubstr("libc"));
+    for (const char* library : {"Qt", "icu", "glib", "crypto", "plist"})
+        EXPECT_THAT(ran.output, Not(HasSubstr(library)));
+}
+#endif
+
 TEST_F(Program, tellsWhatHasGrownSinceTheRecord) {
     zoo::allocateFile(place + "/grown/file", 90'112'000);
     SurveyRecord record;

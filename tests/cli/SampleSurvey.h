@@ -13,7 +13,7 @@
 namespace zelk::cli {
 
 inline FSNode& addFolder(FSNode& above, std::string_view name, std::int64_t bytes = 0, std::int64_t files = 0) {
-    FSNode& folder = above.append(FSNode::make(name, 1'750'000'000));
+    FSNode& folder = above.append(name, 1'750'000'000);
     folder.ownFileBytes = bytes;
     folder.fileCount = files;
     return folder;
@@ -24,7 +24,7 @@ inline void settle(Survey& survey) {
     survey.stats.totalBytes = rollUpSizes(*survey.tree);
     survey.stats.filesScanned = survey.stats.dirsScanned = survey.stats.blockedPaths = 0;
     survey.stats.roots.clear();
-    for (const NodeRef& root : survey.tree->children) survey.stats.roots.emplace_back(root->name());
+    for (const FSNode& root : survey.tree->children()) survey.stats.roots.emplace_back(root.name());
     std::vector<const FSNode*> pending{survey.tree.get()};
     while (!pending.empty()) {
         const FSNode& folder = *pending.back();
@@ -34,7 +34,7 @@ inline void settle(Survey& survey) {
             ++survey.stats.blockedPaths;
         else if (&folder != survey.tree.get())
             ++survey.stats.dirsScanned;
-        for (const NodeRef& child : folder.children) pending.push_back(child.get());
+        for (const FSNode& child : folder.children()) pending.push_back(&child);
     }
 }
 

@@ -211,7 +211,7 @@ TEST(GrowthSince, ofTheWholeDriveComparesItsFolders) {
     ASSERT_TRUE(growth);
     EXPECT_EQ(growth->changes.grew.size(), 2U);
 
-    addFolder(*survey.tree->children.front(), "u", 90 * megabyte, 1);
+    addFolder(survey.tree->children().front(), "u", 90 * megabyte, 1);
     settle(survey);
     const std::optional<Growth> later = growthSince({record}, *survey.tree);
     ASSERT_TRUE(later) << "a folder of one letter lies in the root too";

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Utf8.h"
 #include "state/HistoryKey.h"
 #include "state/SurveyHistory.h"
 
@@ -18,9 +19,9 @@ void require(bool condition) {
 }
 
 void checkPath(const std::string& path) {
-    const QString key = zelk::historyKey(path);
+    const std::string key = zelk::historyKey(path);
     require(zelk::pathOfHistoryKey(key) == path);
-    require(QString::fromUtf8(key.toUtf8()) == key);
+    require(zelk::isUtf8(key));
 }
 
 void checkRecord(std::string_view bytes, const std::string& path) {

@@ -23,15 +23,10 @@ protected:
         const EnvironmentVariable home("HOME", place.home);
         const EnvironmentVariable data("XDG_DATA_HOME", place.own + "/data");
         LinuxLocations locations({}, place.sandbox());
-        NodeRef top = FSNode::make("", 0);
-        NodeRef at = FSNode::make(place.root, 0);
-        top->append(at);
+        const NodeRef top = FSNode::make("", 0);
+        FSNode* at = &top->append(place.root, 0);
         std::string_view below = std::string_view(path).substr(place.root.size() + 1);
-        while (!below.empty()) {
-            NodeRef child = FSNode::make(takeUntil(below, '/'), 0);
-            at->append(child);
-            at = child;
-        }
+        while (!below.empty()) at = &at->append(takeUntil(below, '/'), 0);
         fakes::FakeFileManager files;
         std::vector<Reclaimable> items;
         ReclaimClassifier(files, ReclaimPlaces::of(locations)).collect(*top, place.home, items);
@@ -64,10 +59,8 @@ TEST_F(SandboxPlaces, offerNothingOfTheSandboxsOwn) {
 TEST_F(SandboxPlaces, offerNothingOfTheSandboxsOwnWhereTheSurveyBegins) {
     EnvironmentVariable home("HOME", place.home);
     LinuxLocations locations({}, place.sandbox());
-    NodeRef top = FSNode::make("", 0);
-    NodeRef root = FSNode::make(place.own + "/data", 0);
-    root->append(FSNode::make("node_modules", 0));
-    top->append(root);
+    const NodeRef top = FSNode::make("", 0);
+    top->append(place.own + "/data", 0).append("node_modules", 0);
     fakes::FakeFileManager files;
     std::vector<Reclaimable> items;
     ReclaimClassifier(files, ReclaimPlaces::of(locations)).collect(*top, place.home, items);

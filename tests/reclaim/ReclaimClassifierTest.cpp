@@ -17,9 +17,9 @@ const std::string home = "/Users/a";
 /// A tree with one root. The nodes on the way to `path` are dated 1, 2, 3… from the root down.
 class Tree {
 public:
-    explicit Tree(const std::string& root = home) : top(FSNode::make("", 0)) { top->append(FSNode::make(root, 1)); }
+    explicit Tree(const std::string& root = home) : top(FSNode::make("", 0)) { top->append(root, 1); }
 
-    FSNode& root() { return *top->children[0]; }
+    FSNode& root() { return top->children().front(); }
 
     /// Adds the missing nodes of `below`, a path relative to the root, and returns the last one.
     FSNode& add(const std::string& below) {
@@ -37,9 +37,9 @@ public:
 
 private:
     static FSNode& childCalled(FSNode& node, const std::string& name) {
-        for (const NodeRef& child : node.children)
-            if (child->name() == name) return *child;
-        return node.append(FSNode::make(name, node.lastModified + 1));
+        for (FSNode& child : node.children())
+            if (child.name() == name) return child;
+        return node.append(name, node.lastModified + 1);
     }
 };
 
@@ -299,22 +299,21 @@ TEST_F(Classifier, nodeWithoutParentUsesItsOwnDate) {
     EXPECT_EQ(match->ageDate, 77);
 }
 
-TEST_F(Classifier, nodeWithReleasedParentUsesItsOwnDate) {
-    NodeRef orphan;
+TEST_F(Classifier, nodeThatAloneIsHeldUsesTheDateOfItsParent) {
+    NodeRef held;
     {
         Tree tree;
-        tree.add("p/node_modules");
-        orphan = tree.root().children[0]->children[0];
+        held = NodeRef(&tree.add("p/node_modules"));
     }
-    const auto match = ReclaimClassifier(files).classify(*orphan, home);
+    const auto match = ReclaimClassifier(files).classify(*held, home);
     ASSERT_TRUE(match.has_value());
-    EXPECT_EQ(match->ageDate, orphan->lastModified);
+    EXPECT_EQ(match->ageDate, 2);
 }
 
 TEST_F(Classifier, classifiesFilesLikeFolders) {
     Tree tree;
-    tree.add("p").append(FSNode::make("node_modules", 9, false));
-    tree.add("Library/Caches").append(FSNode::make("Yarn", 9, false));
+    tree.add("p").append("node_modules", 9, false);
+    tree.add("Library/Caches").append("Yarn", 9, false);
     EXPECT_EQ(pathsOf(itemsOf(tree)), (Paths{home + "/p/node_modules", home + "/Library/Caches/Yarn"}));
 }
 
@@ -328,7 +327,7 @@ TEST_F(Classifier, treeWithoutMatchHasNoItemsAndNoMarks) {
     Tree tree;
     const FSNode& node = tree.add("Documents/letters");
     EXPECT_TRUE(itemsOf(tree).empty());
-    EXPECT_EQ(node.reclaimCategory, nullptr);
+    EXPECT_EQ(reclaimCategoryOf(node), nullptr);
 }
 
 TEST_F(Classifier, itemHasFiguresOfItsNode) {
@@ -344,7 +343,7 @@ TEST_F(Classifier, itemHasFiguresOfItsNode) {
     EXPECT_EQ(items[0].safety, ReclaimSafety::safe);
     EXPECT_EQ(items[0].method, ReclaimMethod::command("/usr/bin/env", {"pnpm", "store", "prune"}));
     EXPECT_EQ(items[0].lastModified, node.lastModified);
-    EXPECT_EQ(node.reclaimCategory, reclaimCategoryByID().at("pnpm_store"));
+    EXPECT_EQ(reclaimCategoryOf(node), reclaimCategoryByID().at("pnpm_store"));
 }
 
 TEST_F(Classifier, matchedFolderOfZeroBytesIsItem) {
@@ -375,7 +374,7 @@ TEST_F(Classifier, appendsItemsInPreOrder) {
 TEST_F(Classifier, walksRootsInOrder) {
     Tree tree("/srv");
     tree.add("node_modules");
-    tree.top->append(FSNode::make(home + "/Library/Caches/Yarn", 5));
+    tree.top->append(home + "/Library/Caches/Yarn", 5);
     EXPECT_EQ(pathsOf(itemsOf(tree)), (Paths{"/srv/node_modules", home + "/Library/Caches/Yarn"}));
 }
 
@@ -396,8 +395,8 @@ TEST_F(Classifier, keepsNonUtf8NamesAsBytes) {
 TEST_F(Classifier, itemKnowsLengthOfItsScanRoot) {
     Tree tree(home);
     tree.add("a/node_modules");
-    tree.top->append(FSNode::make("/data/b", 0)).append(FSNode::make("node_modules", 0));
-    tree.top->append(FSNode::make(home + "/.npm/_cacache", 0));
+    tree.top->append("/data/b", 0).append("node_modules", 0);
+    tree.top->append(home + "/.npm/_cacache", 0);
     std::vector<std::string> roots;
     for (const Reclaimable& item : itemsOf(tree)) roots.push_back(item.path.substr(0, item.rootLength));
     EXPECT_EQ(roots, (std::vector<std::string>{home, "/data/b", home + "/.npm/_cacache"}));

@@ -17,7 +17,7 @@ class LinuxPlaces : public testing::Test {
 protected:
     /// Adds the missing folders of the absolute `path` below the root that it begins with, each dated by its depth.
     FSNode& add(const std::string& path) {
-        FSNode* at = top->children.empty() ? &top->append(FSNode::make(root, 1)) : top->children[0].get();
+        FSNode* at = top->children().empty() ? &top->append(root, 1) : &top->children().front();
         for (const auto& name : std::filesystem::path(path).lexically_relative(root)) at = &child(*at, name.string());
         return *at;
     }
@@ -42,9 +42,9 @@ protected:
 
 private:
     static FSNode& child(FSNode& node, const std::string& name) {
-        for (const NodeRef& each : node.children)
-            if (each->name() == name) return *each;
-        return node.append(FSNode::make(name, node.lastModified + 1));
+        for (FSNode& each : node.children())
+            if (each.name() == name) return each;
+        return node.append(name, node.lastModified + 1);
     }
 };
 
@@ -151,7 +151,7 @@ TEST_F(TrashContents, trashIsNeitherItemNorMarked) {
     add("/home/me/media/.Trash-7/files/a/__pycache__");
     add("/home/me/app/node_modules");
     EXPECT_EQ(items(), ItemPaths{"/home/me/app/node_modules"});
-    EXPECT_EQ(modules.reclaimCategory, nullptr);
+    EXPECT_EQ(reclaimCategoryOf(modules), nullptr);
 }
 
 TEST_F(TrashContents, classifyIgnoresTrash) {

@@ -73,7 +73,7 @@ public:
         if (onLinux) roots.insert(roots.end(), {"/x/.config", "/y/.Trash-7/files", "/h/data/Trash/files/app"});
         for (const std::string& root : roots) {
             if (random_() % 2 != 0) continue;
-            grow(top->append(FSNode::make(root, date())), root, 0);
+            grow(top->append(root, date()), root, 0);
         }
         expect(*top, "", nullptr, "");
     }
@@ -133,7 +133,7 @@ private:
         for (unsigned i = 0; i < count; ++i) {
             const std::vector<std::string>& from = onLinux_ && random_() % 3 == 0 ? linuxNames : names;
             const std::string& name = from[random_() % from.size()];
-            FSNode& child = node.append(FSNode::make(name, date()));
+            FSNode& child = node.append(name, date());
             child.size = static_cast<std::int64_t>(random_() % 1000);
             grow(child, path == "/" ? path + name : path + "/" + name, depth + 1);
         }
@@ -142,7 +142,7 @@ private:
     void plant(FSNode& node, const std::string& below) {
         FSNode* at = &node;
         std::istringstream names(below);
-        for (std::string name; std::getline(names, name, '/');) at = &at->append(FSNode::make(name, date()));
+        for (std::string name; std::getline(names, name, '/');) at = &at->append(name, date());
     }
 
     void expect(FSNode& node, const std::string& above, const FSNode* parent, const std::string& parentPath) {
@@ -171,8 +171,8 @@ private:
                                 verdict.datedByParent && parent ? parent->lastModified : node.lastModified});
             return;
         }
-        for (const NodeRef& child : node.children)
-            expect(*child, path.empty() || path.back() == '/' ? path : path + "/", &node, path);
+        for (FSNode& child : node.children())
+            expect(child, path.empty() || path.back() == '/' ? path : path + "/", &node, path);
     }
 
     bool onLinux_;
@@ -229,7 +229,7 @@ void compareNodeByNode(bool onLinux) {
         std::size_t next = 0;
         for (const FSNode* node : tree.all) {
             const auto match = classifier.classify(*node, walkedHome + "/");
-            ASSERT_EQ(match ? match->category : nullptr, node->reclaimCategory) << node->fullPath();
+            ASSERT_EQ(match ? match->category : nullptr, reclaimCategoryOf(*node)) << node->fullPath();
             if (!match) continue;
             ASSERT_LT(next, items.size());
             ASSERT_EQ(items[next].path, node->fullPath());
@@ -240,9 +240,9 @@ void compareNodeByNode(bool onLinux) {
         ASSERT_EQ(next, items.size());
         for (const FSNode* folder : tree.inTrash) {
             EXPECT_FALSE(classifier.classify(*folder, walkedHome));
-            for (const NodeRef& child : folder->children) {
-                EXPECT_FALSE(classifier.classify(*child, walkedHome));
-                EXPECT_EQ(child->reclaimCategory, nullptr);
+            for (const FSNode& child : folder->children()) {
+                EXPECT_FALSE(classifier.classify(child, walkedHome));
+                EXPECT_EQ(reclaimCategoryOf(child), nullptr);
             }
         }
         inTrash += tree.inTrash.size();
@@ -261,8 +261,8 @@ TEST(ReclaimWalk, agreesWithClassifyForEveryNodeOnLinux) {
 /// A chain of folders, each named `name(depth)`.
 NodeRef chain(std::size_t depth, const std::function<std::string(std::size_t)>& name) {
     NodeRef top = FSNode::make("", 0);
-    FSNode* at = &top->append(FSNode::make("/h", 1));
-    for (std::size_t i = 0; i < depth; ++i) at = &at->append(FSNode::make(name(i), 1));
+    FSNode* at = &top->append("/h", 1);
+    for (std::size_t i = 0; i < depth; ++i) at = &at->append(name(i), 1);
     return top;
 }
 
@@ -323,7 +323,7 @@ TEST(ContainedText, agreesWithFullSearchWhileTextGrowsAndShrinks) {
 
 TEST(WalkedPath, equalsFullPathEvenAfterSiblingLookup) {
     const NodeRef top = chain(3, [](std::size_t i) { return std::string(1, static_cast<char>('a' + i)); });
-    const FSNode& node = *top->children[0]->children[0]->children[0];
+    const FSNode& node = top->children().front().children().front().children().front();
     fakes::FakeFileManager files;
     files.addFile("/h/a/sibling");
     WalkedPath path(node);

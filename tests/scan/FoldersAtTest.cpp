@@ -10,10 +10,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-NodeRef folder(std::string_view name) {
-    return FSNode::make(name, 0);
-}
-
 std::vector<std::string> pathsOf(const std::vector<NodeRef>& nodes) {
     std::vector<std::string> paths;
     for (const NodeRef& node : nodes) paths.push_back(node->fullPath());
@@ -23,11 +19,11 @@ std::vector<std::string> pathsOf(const std::vector<NodeRef>& nodes) {
 }  // namespace
 
 TEST(FoldersAt, findsFoldersBelowTheirScanRoot) {
-    const NodeRef top = folder("");
-    FSNode& home = top->append(folder("/home/me"));
-    FSNode& large = home.append(folder("large"));
-    FSNode& inner = large.append(folder("inner"));
-    FSNode& like = home.append(folder("lar"));
+    const NodeRef top = FSNode::make("", 0);
+    FSNode& home = top->append("/home/me", 0);
+    FSNode& large = home.append("large", 0);
+    FSNode& inner = large.append("inner", 0);
+    FSNode& like = home.append("lar", 0);
     EXPECT_THAT(foldersAt(*top, {"/home/me"}), ElementsAre(NodeRef(&home)));
     EXPECT_THAT(foldersAt(*top, {"/home/me/large/inner"}), ElementsAre(NodeRef(&inner)));
     EXPECT_THAT(foldersAt(*top, {"/home/me/lar", "/home/me/large"}), ElementsAre(NodeRef(&like), NodeRef(&large)));
@@ -36,29 +32,29 @@ TEST(FoldersAt, findsFoldersBelowTheirScanRoot) {
 }
 
 TEST(FoldersAt, findsFoldersBelowTheWholeDrive) {
-    const NodeRef top = folder("");
-    FSNode& drive = top->append(folder("/"));
-    FSNode& data = drive.append(folder("data"));
+    const NodeRef top = FSNode::make("", 0);
+    FSNode& drive = top->append("/", 0);
+    FSNode& data = drive.append("data", 0);
     EXPECT_THAT(foldersAt(*top, {"/"}), ElementsAre(NodeRef(&drive)));
     EXPECT_THAT(foldersAt(*top, {"/data"}), ElementsAre(NodeRef(&data)));
 }
 
 TEST(FoldersAt, findsFolderInEveryScanRootThatHoldsIt) {
-    const NodeRef top = folder("");
-    FSNode& inHome = top->append(folder("/home/me")).append(folder("projects"));
-    FSNode& itself = top->append(folder("/home/me/projects"));
-    inHome.append(folder("app"));
-    itself.append(folder("app"));
+    const NodeRef top = FSNode::make("", 0);
+    FSNode& inHome = top->append("/home/me", 0).append("projects", 0);
+    FSNode& itself = top->append("/home/me/projects", 0);
+    inHome.append("app", 0);
+    itself.append("app", 0);
     EXPECT_THAT(foldersAt(*top, {"/home/me/projects"}), ElementsAre(NodeRef(&inHome), NodeRef(&itself)));
     EXPECT_EQ(foldersAt(*top, {"/home/me/projects/app"}).size(), 2U);
 }
 
 TEST(FoldersAt, findsFoldersAmongManySiblingsWithoutScanning) {
-    const NodeRef top = folder("");
-    FSNode& home = top->append(folder("/home/me"));
+    const NodeRef top = FSNode::make("", 0);
+    FSNode& home = top->append("/home/me", 0);
     std::set<std::string> paths;
     for (int at = 0; at < 50'000; ++at) {
-        home.append(folder("folder " + std::to_string(at)));
+        home.append("folder " + std::to_string(at), 0);
         paths.insert("/home/me/folder " + std::to_string(at));
     }
     const std::vector<std::string> found = pathsOf(foldersAt(*top, paths));

@@ -43,7 +43,7 @@ TEST_F(ParallelWalkerTest, keepsChildrenInOrderOfDelivery) {
     for (const char* name : {"m", "a", "z", "b"}) disk.directory(std::string("/r/") + name);
     const ScanResult result = scan({"/r"});
     std::string names;
-    for (const NodeRef& child : at(result, "/r")->children) names += child->name();
+    for (const FSNode& child : at(result, "/r")->children()) names += child.name();
     EXPECT_EQ(names, "mazb");
 }
 
@@ -143,7 +143,7 @@ TEST_F(ParallelWalkerTest, omitsMountPoint) {
     EXPECT_EQ(result.stats.totalBytes, 5);
     EXPECT_EQ(result.stats.dirsScanned, 1);
     EXPECT_EQ(result.stats.blockedPaths, 0);
-    EXPECT_TRUE(at(result, "/r")->children.empty());
+    EXPECT_TRUE(at(result, "/r")->children().empty());
     EXPECT_EQ(disk.timesRead("/r/mount"), 0);
 }
 
@@ -174,7 +174,7 @@ TEST_F(ParallelWalkerTest, unreadableDirectoryIsCountedOnceAndEmpty) {
     ASSERT_NE(shut, nullptr);
     EXPECT_EQ(shut->size, 0);
     EXPECT_EQ(shut->fileCount, 0);
-    EXPECT_TRUE(shut->children.empty());
+    EXPECT_TRUE(shut->children().empty());
 }
 
 TEST_F(ParallelWalkerTest, endsWhenAllSeedsAreUnreadable) {
@@ -185,8 +185,8 @@ TEST_F(ParallelWalkerTest, endsWhenAllSeedsAreUnreadable) {
     const ScanResult result = scan({"/a", "/b"});
     EXPECT_EQ(result.stats.blockedPaths, 2);
     EXPECT_EQ(result.stats.dirsScanned, 0);
-    ASSERT_EQ(result.top->children.size(), 2U);
-    EXPECT_TRUE(result.top->children[0]->children.empty());
+    ASSERT_EQ(result.top->children().size(), 2U);
+    EXPECT_TRUE(result.top->children().front().children().empty());
 }
 
 TEST_F(ParallelWalkerTest, oneWorkerFindsTheSameAsMany) {
@@ -268,6 +268,43 @@ TEST_F(ParallelWalkerTest, reportsProgressEveryTwentyThousandItems) {
     EXPECT_EQ(result.progress[0].bytes, 19'998);
     EXPECT_EQ(result.progress[1].scanned, 40'001);
     EXPECT_TRUE(result.progress[1].currentPath.starts_with("/r/")) << result.progress[1].currentPath;
+}
+
+TEST_F(ParallelWalkerTest, nodesTakeNinetyBytesEachWhateverIsInThem) {
+    std::size_t before = 0;
+    for (const int files : {0, 5}) {
+        fakes::FakeDirectoryService own;
+        constexpr int folders = 20'000;
+        for (int d = 0; d < folders; ++d) {
+            const std::string path = "/r/" + std::to_string(d % 10) + "/" + std::to_string(d % 97) +
+                                     "/1/2/3/4/folder_" + std::to_string(10'000 + d);
+            own.directory(path);
+            for (int f = 0; f < files; ++f) own.file(path + "/" + std::to_string(f), 1);
+        }
+        const auto queue = std::make_shared<UpdateQueue>();
+        ScanEngine(own, clock).runHere(queue, {"/r"});
+        const ScanResult result(queue->takeAll().updates);
+        ASSERT_TRUE(drainThreads(60));
+        ASSERT_GT(result.stats.dirsScanned, folders);
+        ASSERT_EQ(result.stats.filesScanned, folders * files);
+        const std::size_t bytes = result.top->arena().usedBytes();
+        EXPECT_LE(bytes, 90U * static_cast<std::size_t>(result.stats.dirsScanned + 1));
+        if (files > 0) {
+            EXPECT_EQ(bytes, before);
+        }
+        before = bytes;
+    }
+}
+
+TEST_F(ParallelWalkerTest, aNodeOutlivesEverythingElseOfItsScan) {
+    NodeRef deep;
+    {
+        for (const char* name : {"/a", "/b/c/d/e/f/g/h/i", "/z"}) disk.file(std::string("/r") + name + "/file", 10);
+        deep = NodeRef(at(scan({"/r"}), "/r/b/c/d/e/f/g"));
+    }
+    EXPECT_EQ(deep->fullPath(), "/r/b/c/d/e/f/g");
+    EXPECT_EQ(deep->firstChild()->firstChild()->size, 10);
+    EXPECT_EQ(deep->arena().references(), 1U);
 }
 
 /// Records which threads ask for a reader.

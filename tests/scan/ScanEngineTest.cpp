@@ -74,7 +74,7 @@ TEST_F(ScanEngineTest, noRootsFinishEmpty) {
     EXPECT_EQ(result.order, "if");
     EXPECT_EQ(result.stats.totalBytes, 0);
     EXPECT_TRUE(result.stats.roots.empty());
-    EXPECT_TRUE(result.top->children.empty());
+    EXPECT_TRUE(result.top->children().empty());
     EXPECT_TRUE(result.insights.typeTotals.empty());
 }
 
@@ -84,7 +84,7 @@ TEST_F(ScanEngineTest, skipsMissingRootButNamesIt) {
     EXPECT_EQ(result.stats.roots, (std::vector<std::string>{"/missing", "/r"}));
     EXPECT_EQ(result.stats.blockedPaths, 0);
     EXPECT_EQ(result.stats.totalBytes, 3);
-    EXPECT_EQ(result.top->children.size(), 1U);
+    EXPECT_EQ(result.top->children().size(), 1U);
 }
 
 TEST_F(ScanEngineTest, finishesEmptyWhenAllRootsAreMissing) {
@@ -107,7 +107,7 @@ TEST_F(ScanEngineTest, followsLinkedRootAndKeepsItsName) {
     disk.symbolicLink("/link", 1, "/real");
     const ScanResult result = scan({"/link"});
     EXPECT_EQ(result.stats.totalBytes, 8);
-    EXPECT_EQ(result.top->children[0]->name(), "/link");
+    EXPECT_EQ(result.top->children().front().name(), "/link");
     EXPECT_EQ(result.insights.topFiles[0].path, "/link/f");
 }
 
@@ -125,12 +125,12 @@ TEST_F(ScanEngineTest, walksDuplicateRootTwice) {
     disk.file("/r/f", 10);
     const ScanResult result = scan({"/r", "/r"});
     EXPECT_EQ(result.stats.totalBytes, 20);
-    EXPECT_EQ(result.top->children.size(), 2U);
+    EXPECT_EQ(result.top->children().size(), 2U);
 }
 
 TEST_F(ScanEngineTest, rootDateIsInWholeSeconds) {
     disk.directory("/r", 1234.75);
-    EXPECT_EQ(scan({"/r"}).top->children[0]->lastModified, 1234.0);
+    EXPECT_EQ(scan({"/r"}).top->children().front().lastModified, 1234.0);
 }
 
 TEST_F(ScanEngineTest, sortsLargestFilesFirst) {
@@ -290,7 +290,7 @@ TEST_F(ScanEngineTest, failureToStartTheScanThreadFinishesEmpty) {
     EXPECT_EQ(result.order, "if");
     EXPECT_EQ(result.stats.roots, std::vector<std::string>{"/r"});
     EXPECT_EQ(result.stats.filesScanned, 0);
-    EXPECT_TRUE(result.top->children.empty());
+    EXPECT_TRUE(result.top->children().empty());
     EXPECT_EQ(result.top->lastModified, 1'234'567.5);
     EXPECT_EQ(disk.timesRead("/r"), 0);
 }

@@ -61,7 +61,7 @@ protected:
             FSNode* node = open.back();
             open.pop_back();
             if (node->fullPath() == path) return node;
-            for (const NodeRef& child : node->children) open.push_back(child.get());
+            for (FSNode& child : node->children()) open.push_back(&child);
         }
         return nullptr;
     }

@@ -99,10 +99,10 @@ TEST_F(AppModelCleaningTest, ignoresFileSystemRoot) {
     model().setScanRoots({"/"});
     survey();
     machine.tasks.hold();
-    model().trashAndRemove(*model().root()->children.front());
+    model().trashAndRemove(model().root()->children().front());
     EXPECT_TRUE(machine.tasks.waiting().empty());
     machine.tasks.release();
-    EXPECT_EQ(model().root()->children.size(), 1U);
+    EXPECT_EQ(model().root()->children().size(), 1U);
 }
 
 TEST_F(AppModelCleaningTest, sameFolderTwiceIsRemovedOnce) {

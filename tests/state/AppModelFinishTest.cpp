@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "AppModelFixture.h"
+#include "reclaim/ReclaimClassifier.h"
 
 namespace zelk {
 namespace {
@@ -63,8 +64,8 @@ TEST_F(AppModelFinishTest, classifierRunsOffMainThreadAndMarksTree) {
     EXPECT_NE(asked, std::this_thread::get_id());
     ASSERT_EQ(model().reclaimables().size(), 1U);
     const NodeRef target = folderAt(model().root(), home + "/rust/target");
-    ASSERT_TRUE(target && target->reclaimCategory != nullptr);
-    EXPECT_EQ(target->reclaimCategory->id, "rust_target");
+    ASSERT_TRUE(target && reclaimCategoryOf(*target) != nullptr);
+    EXPECT_EQ(reclaimCategoryOf(*target)->id, "rust_target");
 }
 
 TEST_F(AppModelFinishTest, previousTreeIsReleasedInTask) {

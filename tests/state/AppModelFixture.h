@@ -119,12 +119,12 @@ private:
 
 /// The folder at `path` in a tree; null if there is none.
 inline NodeRef folderAt(const NodeRef& top, const std::string& path) {
-    std::vector<NodeRef> pending = top->children;
+    std::vector<FSNode*> pending{top.get()};
     while (!pending.empty()) {
-        const NodeRef node = pending.back();
+        FSNode* const node = pending.back();
         pending.pop_back();
-        if (node->fullPath() == path) return node;
-        pending.insert(pending.end(), node->children.begin(), node->children.end());
+        if (node != top.get() && node->fullPath() == path) return NodeRef(node);
+        for (FSNode& child : node->children()) pending.push_back(&child);
     }
     return nullptr;
 }

@@ -163,9 +163,9 @@ TEST_F(AppModelResultsTest, removalSubtractsSizeFromAncestors) {
 
     remove(home + "/jobs/big");
     EXPECT_EQ(model().root()->size, 5'000);
-    EXPECT_EQ(model().root()->children.front()->size, 5'000);
+    EXPECT_EQ(model().root()->children().front().size, 5'000);
     EXPECT_EQ(work->size, 5'000);
-    EXPECT_TRUE(work->children.empty());
+    EXPECT_TRUE(work->children().empty());
     EXPECT_EQ(reclaimablePaths(), Strings{});
     EXPECT_EQ(topFilePaths(), Strings{home + "/jobs/small"});
     EXPECT_EQ(takeSignals(), (Strings{"root", "reclaimables", "insights"}));
@@ -201,7 +201,8 @@ TEST_F(AppModelResultsTest, removalOfOneRootKeepsOthers) {
     survey();
     remove(home + "/projects");
     EXPECT_EQ(model().root()->size, 50'000'000);
-    EXPECT_EQ(names(model().root()->children), Strings{home + "/Library"});
+    ASSERT_NE(model().root()->onlyChild(), nullptr);
+    EXPECT_EQ(model().root()->onlyChild()->name(), home + "/Library");
     EXPECT_EQ(reclaimablePaths(), Strings{home + "/Library/Caches/Yarn"});
 }
 
@@ -305,21 +306,24 @@ TEST_F(AppModelResultsTest, withdrawnTreeIsNotChanged) {
 TEST_F(AppModelResultsTest, previousTreeIsReleasedInTask) {
     fillHome();
     survey();
-    const NodeRef left = model().root()->children.front();  // tells whether what is above it is still there
+    const NodeRef left(model().root()->firstChild());  // tells whether others still hold the tree
     bool gone = false;
-    machine.tasks.afterOne = [&] { gone = left->parent() == nullptr; };
+    machine.tasks.afterOne = [&] { gone = left->arena().references() == 1; };
     survey();
     EXPECT_TRUE(gone) << "the main thread held on to it, and was the last to";
     machine.tasks.afterOne = [] {};
 }
 
-TEST_F(AppModelResultsTest, removedNodeIsReleasedInTask) {
+TEST_F(AppModelResultsTest, removedNodeStaysWithItsTree) {
     fillHome();
     survey();
+    const FSNode& projects = *folderAt(model().root(), home + "/projects");
     machine.tasks.hold();
-    remove(home + "/projects");
-    EXPECT_EQ(machine.tasks.waiting(), std::vector{TaskPriority::utility});
+    model().removeFromTree(*folderAt(model().root(), home + "/projects"));
+    EXPECT_TRUE(machine.tasks.waiting().empty()) << "there is nothing to release";
     machine.tasks.release();
+    EXPECT_EQ(projects.fullPath(), home + "/projects");
+    EXPECT_TRUE(projects.isRemoved());
 }
 
 }  // namespace

@@ -123,7 +123,7 @@ TEST_F(AppModelScanTest, withoutRootsFinishesWithEmptyTreeAndVolumeOfHome) {
     model().startScan();
     EXPECT_EQ(model().currentPath(), home);
     runUntil([&] { return model().scanPhase() == Phase::finished; });
-    EXPECT_TRUE(model().root()->children.empty());
+    EXPECT_TRUE(model().root()->children().empty());
     EXPECT_EQ(model().root()->size, 0);
     EXPECT_EQ(model().stats()->roots, Strings{});
     EXPECT_EQ(model().itemsScanned(), 0);

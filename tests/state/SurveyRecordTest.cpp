@@ -19,7 +19,7 @@ constexpr std::int64_t leastNumber = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t greatestNumber = std::numeric_limits<std::int64_t>::max();
 
 FSNode& add(FSNode& parent, std::string_view name, std::int64_t size) {
-    FSNode& node = parent.append(FSNode::make(name, 0));
+    FSNode& node = parent.append(name, 0);
     node.size = size;
     return node;
 }

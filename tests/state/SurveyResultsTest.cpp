@@ -17,12 +17,12 @@ protected:
     /// A tree "/home" of 10 bytes, of which 4 are in "cache".
     static NodeRef makeTree() {
         const NodeRef top = FSNode::make("", 0);
-        FSNode& root = top->append(FSNode::make("/home", 0));
-        root.append(FSNode::make("cache", 0)).size = 4;
+        FSNode& root = top->append("/home", 0);
+        root.append("cache", 0).size = 4;
         top->size = root.size = 10;
         return top;
     }
-    static FSNode& cacheOf(const NodeRef& top) { return *top->children.front()->children.front(); }
+    static FSNode& cacheOf(const NodeRef& top) { return top->children().front().children().front(); }
 
     /// A survey up to its items, with one item and one large file in "cache".
     void surveyUpToItems() {
@@ -120,6 +120,20 @@ TEST_F(SurveyResultsTest, withdrawKeepsTreeThatWasReadUntouched) {
     EXPECT_EQ(withdrawn->size, 10);
     results.remove(cacheOf(withdrawn));
     EXPECT_EQ(withdrawn->size, 10);
+}
+
+TEST_F(SurveyResultsTest, restoringTwiceAddsTheFolderOnce) {
+    surveyUpToItems();
+    results.keep();
+    const NodeRef cache(&cacheOf(results.root()));
+    const SurveyResults::Restorer restore = results.restorerOf(cache);
+    EXPECT_FALSE(restore()) << "it is still there";
+    results.remove(*cache);
+    EXPECT_EQ(results.root()->size, 6);
+    EXPECT_TRUE(restore());
+    EXPECT_FALSE(restore());
+    EXPECT_EQ(results.root()->size, 10);
+    EXPECT_EQ(results.root()->children().front().onlyChild(), cache.get());
 }
 
 TEST_F(SurveyResultsTest, keepReleasesPreviousTree) {

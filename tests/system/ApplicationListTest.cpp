@@ -38,13 +38,8 @@ protected:
 
 NodeRef bundlesTree(const std::vector<std::pair<std::string, std::int64_t>>& names) {
     NodeRef top = FSNode::make("", 0);
-    NodeRef folder = FSNode::make("/Applications", 0);
-    for (const auto& [name, size] : names) {
-        NodeRef node = FSNode::make(name, 0);
-        node->size = size;
-        folder->append(node);
-    }
-    top->append(folder);
+    FSNode& folder = top->append("/Applications", 0);
+    for (const auto& [name, size] : names) folder.append(name, 0).size = size;
     return top;
 }
 
@@ -181,7 +176,7 @@ TEST(BundleList, takesBundlesDirectlyInTheFolderLargestFirst) {
                           "<string>org.sample.Small</string></dict></plist>");
     machine.files.addFile("/Applications/Odd.app/Contents/Info.plist", "no property list");
     const NodeRef top = bundlesTree({{"Small.app", 10}, {"Utilities", 5'000}, {"Big.app", 300}, {"Odd.app", 20}});
-    top->children.front()->children[1]->append(FSNode::make("Inner.app", 0));
+    top->children().front().firstChild()->nextSibling()->append("Inner.app", 0);
     const std::vector<AppEntry> apps = bundlesIn(*top, machine.files);
     ASSERT_EQ(apps.size(), 3U);
     EXPECT_EQ(apps[0].name, "Big");

@@ -20,15 +20,14 @@ class LensRowsTest : public testing::Test {
 protected:
     void fill(int count) {
         for (int at = 0; at < count; ++at) {
-            NodeRef node =
-                FSNode::make(count <= 26 ? std::string(1, static_cast<char>('a' + at)) : std::to_string(at), 0);
-            node->size = count * 10 - at * 10;
-            home->append(node);
+            FSNode& node =
+                home->append(count <= 26 ? std::string(1, static_cast<char>('a' + at)) : std::to_string(at), 0);
+            node.size = count * 10 - at * 10;
         }
         walk.setRoot(top);
         rows.show();
     }
-    NodeRef child(std::size_t at) { return home->children[at]; }
+    NodeRef child(std::ptrdiff_t at) { return NodeRef(&*std::next(home->children().begin(), at)); }
 
     std::string names() {
         std::string all;
@@ -46,12 +45,8 @@ protected:
         QObject::connect(&rows, &QAbstractItemModel::dataChanged, &rows, [this] { edits += '='; });
     }
 
-    NodeRef home = FSNode::make("/home", 0);
-    NodeRef top = [this] {
-        NodeRef node = FSNode::make("", 0);
-        node->append(home);
-        return node;
-    }();
+    NodeRef top = FSNode::make("", 0);
+    NodeRef home{&top->append("/home", 0)};
     LensWalk walk;
     int icons = 0;
     LensRows rows{walk, [this](const std::string&) {
@@ -66,7 +61,7 @@ protected:
 
 TEST_F(LensRowsTest, rowDescribesItsFolder) {
     fill(3);
-    child(0)->append(FSNode::make("inside", 0));
+    child(0)->append("inside", 0);
     EXPECT_EQ(text(0, LensRows::nameRole), "a");
     EXPECT_EQ(text(0, LensRows::sizeRole), "30");
     EXPECT_EQ(text(0, LensRows::spokenRole), "a, 30 bytes, folder");
@@ -78,12 +73,11 @@ TEST_F(LensRowsTest, rowDescribesItsFolder) {
 }
 
 TEST_F(LensRowsTest, showsInvalidNameRepaired) {
-    NodeRef odd = FSNode::make("line\nbreak\xff", 0);
-    odd->size = 5;
-    home->append(odd);
+    FSNode& odd = home->append("line\nbreak\xff", 0);
+    odd.size = 5;
     fill(1);
     EXPECT_EQ(rows.index(1).data(LensRows::nameRole).toString(), QStringLiteral("line\u240abreak\ufffd"));
-    walk.select(odd);
+    walk.select(NodeRef(&odd));
     EXPECT_TRUE(ticked(1));
 }
 
@@ -120,7 +114,7 @@ TEST_F(LensRowsTest, tickingAllIsOneChange) {
 TEST_F(LensRowsTest, removesOnlyRemovedRows) {
     fill(8);
     recordEdits();
-    for (const std::size_t at : {6U, 3U, 2U}) home->remove(*child(at));
+    for (const int at : {6, 3, 2}) home->remove(*child(at));
     rows.follow();
     EXPECT_EQ(names(), "abefh");
     EXPECT_EQ(edits, "--") << "adjacent rows are removed at once";
@@ -173,9 +167,7 @@ TEST_F(LensRowsTest, signalsNothingWithoutChange) {
 TEST_F(LensRowsTest, resetsForAddedFolder) {
     fill(3);
     recordEdits();
-    NodeRef added = FSNode::make("n", 0);
-    added->size = 25;
-    home->append(added);
+    home->append("n", 0).size = 25;
     rows.follow();
     EXPECT_EQ(names(), "anbc");
     EXPECT_EQ(edits.back(), '!');
@@ -192,7 +184,7 @@ TEST_F(LensRowsTest, sortsGrownFolders) {
 TEST_F(LensRowsTest, resetsForManyChanges) {
     fill(1'000);
     recordEdits();
-    for (std::size_t at = 0; at < 500; ++at) home->remove(*child(at));
+    for (int at = 0; at < 500; ++at) home->remove(*child(at));
     rows.follow();
     EXPECT_EQ(rows.rowCount(), 500);
     EXPECT_EQ(edits.back(), '!');

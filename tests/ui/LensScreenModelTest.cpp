@@ -354,7 +354,7 @@ TEST_F(LensScreenModelTest, newSurveyKeepsPlaceAndSelection) {
         << "the path holds although the model has a newer tree";
     EXPECT_EQ(lens().walk().currentNode()->fullPath(), home + "/projects");
     lens().startOver();
-    EXPECT_EQ(lens().walk().currentNode(), model().root()->children.front());
+    EXPECT_EQ(lens().walk().currentNode(), &model().root()->children().front());
 }
 
 TEST_F(LensScreenModelTest, newSurveyReplacesTreeAtTheTop) {

@@ -10,10 +10,16 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-NodeRef folder(std::string_view name, std::int64_t size) {
-    NodeRef node = FSNode::make(name, 0);
+NodeRef topOf(std::int64_t size) {
+    NodeRef node = FSNode::make("", 0);
     node->size = size;
     return node;
+}
+
+NodeRef add(const NodeRef& above, std::string_view name, std::int64_t size) {
+    FSNode& node = above->append(name, 0);
+    node.size = size;
+    return NodeRef(&node);
 }
 
 std::vector<std::string> namesOf(const std::vector<NodeRef>& nodes) {
@@ -26,19 +32,16 @@ std::vector<std::string> namesOf(const std::vector<NodeRef>& nodes) {
 class LensWalkTest : public testing::Test {
 protected:
     LensWalkTest() {
-        home->append(folder("small", 1));
-        home->append(large);
-        home->append(folder("empty", 0));
-        home->append(folder("middle", 5));
-        large->append(inner);
-        top->append(home);
+        add(home, "empty", 0);
+        add(home, "middle", 5);
         walk.setRoot(top);
     }
 
-    NodeRef top = folder("", 36);
-    NodeRef home = folder("/home/me", 36);
-    NodeRef large = folder("large", 30);
-    NodeRef inner = folder("inner", 20);
+    NodeRef top = topOf(36);
+    NodeRef home = add(top, "/home/me", 36);
+    NodeRef small = add(home, "small", 1);
+    NodeRef large = add(home, "large", 30);
+    NodeRef inner = add(large, "inner", 20);
     LensWalk walk;
 };
 
@@ -50,7 +53,7 @@ TEST_F(LensWalkTest, startsAtSingleChild) {
 }
 
 TEST_F(LensWalkTest, listsSeveralScanRoots) {
-    top->append(folder("/mnt/disk", 7));
+    add(top, "/mnt/disk", 7);
     EXPECT_EQ(walk.mapRoot(), top);
     EXPECT_THAT(namesOf(walk.visibleChildren()), ElementsAre("/home/me", "/mnt/disk"));
 }
@@ -66,10 +69,10 @@ TEST_F(LensWalkTest, listsNonEmptyFoldersBySize) {
 }
 
 TEST_F(LensWalkTest, hidesEmptyFolders) {
-    inner->append(folder("a", 0));
+    add(inner, "a", 0);
     walk.enter(inner);
     EXPECT_THAT(walk.visibleChildren(), IsEmpty());
-    EXPECT_EQ(walk.currentNode()->children.size(), 1U);
+    EXPECT_EQ(walk.currentNode()->children().size(), 1U);
 }
 
 TEST_F(LensWalkTest, entersAndGoesBack) {
@@ -93,7 +96,7 @@ TEST_F(LensWalkTest, startOverClearsSelectionAndReturnsToTop) {
 }
 
 TEST_F(LensWalkTest, selectionSpansFolders) {
-    walk.select(home->children[0]);
+    walk.select(small);
     walk.enter(large);
     walk.select(inner);
     EXPECT_TRUE(walk.isSelected("/home/me/small"));
@@ -105,15 +108,15 @@ TEST_F(LensWalkTest, selectionSpansFolders) {
 
 TEST_F(LensWalkTest, newTreeKeepsCurrentNode) {
     walk.enter(large);
-    walk.setRoot(folder("", 1));
+    walk.setRoot(topOf(1));
     EXPECT_EQ(walk.currentNode(), large);
 }
 
 TEST_F(LensWalkTest, keepsOldTreeWhileItIsUsed) {
     walk.enter(large);
-    walk.select(home->children[0]);
-    walk.setRoot(folder("", 1));
-    large = inner = home = top = nullptr;
+    walk.select(small);
+    walk.setRoot(topOf(1));
+    small = large = inner = home = top = nullptr;
     EXPECT_EQ(walk.currentNode()->fullPath(), "/home/me/large");
     EXPECT_THAT(walk.takeLeftTrees(), IsEmpty());
     walk.back();
@@ -125,13 +128,13 @@ TEST_F(LensWalkTest, keepsOldTreeWhileItIsUsed) {
 }
 
 TEST_F(LensWalkTest, releasesUnusedTreeAtOnce) {
-    walk.setRoot(folder("", 1));
+    walk.setRoot(topOf(1));
     EXPECT_THAT(walk.takeLeftTrees(), ElementsAre(top));
 }
 
 TEST_F(LensWalkTest, deselectsFolderWithItsContent) {
-    home->append(folder("large one", 2));
-    for (const NodeRef& node : home->children) walk.select(node);
+    add(home, "large one", 2);
+    for (FSNode& node : home->children()) walk.select(NodeRef(&node));
     walk.select(inner);
     walk.unselectAtAndBelow("/home/me/large");
     EXPECT_FALSE(walk.isSelected("/home/me/large"));

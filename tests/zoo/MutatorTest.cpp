@@ -75,7 +75,7 @@ TEST(Mutation, survivesTreeChangedWhileWalking) {
             const Scan its = scan({root}, rounds % 3 == 0 ? 1 : rounds % 3 == 1 ? 2 : 8);
             expectConsistent(its);
             expectNothingOfTheCanary(its, root);
-            ASSERT_EQ(its.root->children.size(), 1U);
+            ASSERT_EQ(its.root->children().size(), 1U);
             ASSERT_GE(its.stats.dirsScanned, 1);
             if (HasFailure()) return;
             files += its.stats.filesScanned;

@@ -39,28 +39,28 @@ protected:
 
 TEST_F(Roots, skipsMissingRoot) {
     const Scan its = scanned({temp / "missing"});
-    EXPECT_TRUE(its.root->children.empty());
+    EXPECT_TRUE(its.root->children().empty());
     EXPECT_EQ(its.stats.blockedPaths, 0);
     EXPECT_EQ(its.stats.dirsScanned, 0);
 }
 
 TEST_F(Roots, walksOtherRootsBesideAMissingOne) {
     const Scan its = scanned({temp / "missing", root, ""});
-    ASSERT_EQ(its.root->children.size(), 1U);
+    ASSERT_EQ(its.root->children().size(), 1U);
     EXPECT_EQ(its.stats.filesScanned, 2);
 }
 
 TEST_F(Roots, noRootsGiveAnEmptyTree) {
     const Scan its = scanned({});
-    EXPECT_TRUE(its.root->children.empty());
+    EXPECT_TRUE(its.root->children().empty());
     EXPECT_EQ(its.stats.totalBytes, 0);
     EXPECT_TRUE(its.insights.typeTotals.empty());
 }
 
 TEST_F(Roots, fileIsBlocked) {
     const Scan its = scanned({root + "/one"});
-    ASSERT_EQ(its.root->children.size(), 1U);
-    EXPECT_EQ(its.root->children[0]->name(), root + "/one");
+    ASSERT_EQ(its.root->children().size(), 1U);
+    EXPECT_EQ(its.root->children().front().name(), root + "/one");
     EXPECT_EQ(its.stats.blockedPaths, 1);
     EXPECT_EQ(its.stats.filesScanned, 0);
     EXPECT_EQ(its.stats.totalBytes, 0);
@@ -85,8 +85,8 @@ TEST_F(Roots, deviceIsBlocked) {
 TEST_F(Roots, followsLinkAndKeepsItsName) {
     ASSERT_EQ(symlink("root", (temp / "link").c_str()), 0);
     const Scan its = scanned({temp / "link"});
-    ASSERT_EQ(its.root->children.size(), 1U);
-    EXPECT_EQ(its.root->children[0]->name(), temp / "link");
+    ASSERT_EQ(its.root->children().size(), 1U);
+    EXPECT_EQ(its.root->children().front().name(), temp / "link");
     EXPECT_EQ(its.stats.filesScanned, 2);
     EXPECT_EQ(its.stats.dirsScanned, 2);
     EXPECT_EQ(its.stats.totalBytes, countedIndependently(root).bytes);
@@ -95,13 +95,13 @@ TEST_F(Roots, followsLinkAndKeepsItsName) {
 TEST_F(Roots, skipsDanglingLink) {
     ASSERT_EQ(symlink("nowhere", (temp / "link").c_str()), 0);
     const Scan its = scanned({temp / "link"});
-    EXPECT_TRUE(its.root->children.empty());
+    EXPECT_TRUE(its.root->children().empty());
     EXPECT_EQ(its.stats.blockedPaths, 0);
 }
 
 TEST_F(Roots, walksDuplicateRootTwice) {
     const Scan its = scanned({root, root});
-    ASSERT_EQ(its.root->children.size(), 2U);
+    ASSERT_EQ(its.root->children().size(), 2U);
     EXPECT_EQ(its.stats.filesScanned, 4);
     EXPECT_EQ(its.stats.dirsScanned, 4);
     EXPECT_EQ(its.stats.totalBytes, 2 * countedIndependently(root).bytes);
@@ -110,7 +110,7 @@ TEST_F(Roots, walksDuplicateRootTwice) {
 TEST_F(Roots, countsNestedRootTwiceExceptHardLinks) {
     ASSERT_EQ(link((root + "/below/two").c_str(), (root + "/below/three").c_str()), 0);
     const Scan its = scanned({root, root + "/below"});
-    ASSERT_EQ(its.root->children.size(), 2U);
+    ASSERT_EQ(its.root->children().size(), 2U);
     EXPECT_EQ(its.stats.filesScanned, 5);
     EXPECT_EQ(its.stats.dirsScanned, 3);
     EXPECT_EQ(its.stats.totalBytes, countedIndependently(root).bytes);

@@ -40,7 +40,7 @@ Scan scan(const std::vector<std::string>& roots, int workers) {
 std::vector<const FSNode*> nodesBelow(const FSNode& top) {
     std::vector<const FSNode*> nodes{&top};
     for (std::size_t at = 0; at < nodes.size(); ++at)
-        for (const NodeRef& child : nodes[at]->children) nodes.push_back(child.get());
+        for (const FSNode& child : nodes[at]->children()) nodes.push_back(&child);
     nodes.erase(nodes.begin());
     return nodes;
 }
@@ -51,9 +51,9 @@ void expectConsistent(const Scan& scan) {
     std::int64_t files = 0;
     for (const FSNode* const node : nodes) {
         std::int64_t size = node->ownFileBytes;
-        for (const NodeRef& child : node->children) {
-            size += child->size;
-            ASSERT_EQ(child->parent(), node);
+        for (const FSNode& child : node->children()) {
+            size += child.size;
+            ASSERT_EQ(child.parent(), node);
         }
         ASSERT_EQ(node->size, size);
         ASSERT_GE(node->ownFileBytes, 0);

@@ -63,7 +63,7 @@ protected:
     /// The names of all folders below the root, sorted.
     static std::string names(const Scan& its) {
         std::vector<std::string> all;
-        for (const FSNode* const node : nodesBelow(*its.root->children.front())) all.emplace_back(node->name());
+        for (const FSNode* const node : nodesBelow(its.root->children().front())) all.emplace_back(node->name());
         std::sort(all.begin(), all.end());
         std::string text;
         for (const std::string& name : all) text += (text.empty() ? "" : " ") + name;

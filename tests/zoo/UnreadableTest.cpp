@@ -32,7 +32,7 @@ void expectAsOrdinaryUser(const std::vector<std::string>& roots, int workers, co
         EXPECT_EQ(its.stats.filesScanned, expected.files);
         EXPECT_EQ(its.stats.dirsScanned, expected.folders);
         EXPECT_EQ(its.stats.blockedPaths, expected.blocked);
-        EXPECT_EQ(its.root->children.size(), expected.roots);
+        EXPECT_EQ(its.root->children().size(), expected.roots);
         std::fflush(stdout);  // print failures before the child exits
         return !testing::Test::HasFailure();
     }));

@@ -53,7 +53,7 @@ int failed(const char* why) {
 
 void allowFolders(const zelk::FSNode& folder, zelk::tour::TextCheck& texts) {
     texts.allow(zelk::displayText(folder.name()));
-    for (const zelk::NodeRef& child : folder.children) allowFolders(*child, texts);
+    for (const zelk::FSNode& child : folder.children()) allowFolders(child, texts);
 }
 
 /// The names of the disk and of the machine are the same in every language.

@@ -34,14 +34,14 @@ void claimOthers(const std::vector<DesktopFile>& entries, AppFindings& findings)
 
 std::vector<AppEntry> bundlesIn(const FSNode& top, FileManager& files) {
     std::vector<AppEntry> apps;
-    if (top.children.empty()) return apps;
-    for (const NodeRef& node : top.children.front()->children) {
-        const std::string_view name = node->name();
+    if (top.children().empty()) return apps;
+    for (const FSNode& node : top.children().front().children()) {
+        const std::string_view name = node.name();
         if (!name.ends_with(bundleEnding)) continue;
         AppEntry app;
-        app.url = node->fullPath();
+        app.url = node.fullPath();
         app.name = name.substr(0, name.size() - bundleEnding.size());
-        app.size = static_cast<std::uint64_t>(std::max<std::int64_t>(0, node->size));
+        app.size = static_cast<std::uint64_t>(std::max<std::int64_t>(0, node.size));
         app.bundleID = bundleIdentifier(files, app.url);
         app.icon = app.url;
         apps.push_back(std::move(app));

@@ -16,7 +16,7 @@ LensRows::LensRows(const LensWalk& walk, IconOf iconOf)
                        {"size", [](const Row& row) { return static_cast<qint64>(row.bytes); }},
                        {"icon", [this](const Row& row) { return iconOf_(row.node->fullPath()); }},
                        {"ticked", [this](const Row& row) { return isTicked(row); }},
-                       {"drillable", [](const Row& row) { return !row.node->children.empty(); }},
+                       {"drillable", [](const Row& row) { return !row.node->children().empty(); }},
                        {"spoken",
                         [this](const Row& row) {
                             return AccessibleText::joined({displayText(row.node->name()), byteFigure(row.bytes),

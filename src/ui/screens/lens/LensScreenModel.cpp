@@ -44,7 +44,7 @@ LensScreenModel::LensScreenModel(AppModel& app)
       bubbles_({[this](const BubbleSlice& slice) {
                     const NodeRef node = bubbled(slice.id);
                     if (!node) return;
-                    if (node->children.empty())
+                    if (node->children().empty())
                         toggle(node);
                     else
                         enter(node, bubbleDuration);
@@ -83,16 +83,15 @@ QString LensScreenModel::place() const {
 QString LensScreenModel::placeLine() const {
     const NodeRef node = walk_.currentNode();
     if (!node) return {};
-    return tr("%1 · %2 folders", "", forPlural(std::ssize(node->children)))
-        .arg(byteFigure(node->size))
-        .arg(node->children.size());
+    const auto folders = static_cast<qint64>(node->children().size());
+    return tr("%1 · %2 folders", "", forPlural(folders)).arg(byteFigure(node->size)).arg(folders);
 }
 
 QString LensScreenModel::looseLine() const {
     const NodeRef node = walk_.currentNode();
     if (!node) return {};
     std::int64_t loose = node->size;
-    for (const NodeRef& child : node->children) loose -= child->size;
+    for (const FSNode& child : node->children()) loose -= child.size;
     return loose < 1 ? QString() : tr("%1 in files directly in this folder").arg(byteFigure(loose));
 }
 
@@ -173,7 +172,7 @@ void LensScreenModel::showSlices() {
         slice.label = displayText(node.name());
         slice.bytes = node.size;
         slice.color = bubbleColor;
-        slice.reclaimable = node.reclaimCategory != nullptr;
+        slice.reclaimable = node.reclaimCategory != 0;
         slice.icon = icons_.image(slice.id, bubbleIconSide);
         slice.selected = walk_.isSelected(slice.id);
         slices.push_back(std::move(slice));
@@ -217,7 +216,7 @@ void LensScreenModel::back() {
 
 void LensScreenModel::drill(int row) {
     const NodeRef node = rows_.node(row);
-    if (node && !node->children.empty()) enter(node, rowDuration);
+    if (node && !node->children().empty()) enter(node, rowDuration);
 }
 
 void LensScreenModel::enter(const NodeRef& node, int duration) {
@@ -266,8 +265,6 @@ void LensScreenModel::removeSelected() {
     if (!removable()) return;
     std::vector<NodeRef> leaving;
     for (const auto& [path, node] : walk_.selected()) leaving.push_back(node);
-    // Before selectNone(): clearing the last selection of an older tree would release it, and with it the paths of its
-    // nodes.
     app_.trashAndRemove(leaving, [self = QPointer(this)](const auto& gone) {
         if (self) self->endRemoval(gone);
     });

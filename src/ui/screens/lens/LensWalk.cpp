@@ -25,8 +25,8 @@ void LensWalk::setRoot(NodeRef root) {
 }
 
 NodeRef LensWalk::mapRoot() const {
-    const bool single = root_ && root_->children.size() == 1;
-    return single ? root_->children.front() : root_;
+    FSNode* const only = root_ ? root_->onlyChild() : nullptr;
+    return only ? NodeRef(only) : root_;
 }
 
 NodeRef LensWalk::currentNode() const {
@@ -38,14 +38,14 @@ std::vector<NodeRef> LensWalk::visibleChildren() const {
     if (!current) return {};
     // Copies the sizes next to each other, so that sorting tens of thousands does not dereference a node per
     // comparison.
-    std::vector<std::pair<std::int64_t, const NodeRef*>> sizes;
-    sizes.reserve(current->children.size());
-    for (const NodeRef& child : current->children)
-        if (child->size > 0) sizes.emplace_back(child->size, &child);
+    std::vector<std::pair<std::int64_t, FSNode*>> sizes;
+    sizes.reserve(current->children().size());
+    for (FSNode& child : current->children())
+        if (child.size > 0) sizes.emplace_back(child.size, &child);
     std::stable_sort(sizes.begin(), sizes.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
     std::vector<NodeRef> children;
     children.reserve(sizes.size());
-    for (const auto& [size, child] : sizes) children.push_back(*child);
+    for (const auto& [size, child] : sizes) children.emplace_back(child);
     return children;
 }
 

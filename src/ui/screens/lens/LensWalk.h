@@ -52,7 +52,7 @@ public:
 
 private:
     NodeRef root_;
-    std::vector<NodeRef> earlier_;  // top nodes: a node keeps its descendants alive, but its path needs its ancestors
+    std::vector<NodeRef> earlier_;  // top nodes, so that the trees outlast what refers to them here
     std::vector<NodeRef> stack_;
     std::map<std::string, NodeRef> selected_;
 };

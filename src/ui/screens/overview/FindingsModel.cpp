@@ -17,7 +17,8 @@ namespace {
 std::int64_t scannedBytes(const AppModel& app) {
     const NodeRef& root = app.root();
     if (!root) return app.bytesScanned();
-    return root->children.size() == 1 ? root->children.front()->size : root->size;
+    const FSNode* const only = root->onlyChild();
+    return only ? only->size : root->size;
 }
 
 QString unreadText(std::int64_t folders) {
