@@ -48,7 +48,7 @@ ParallelWalker::ParallelWalker(DirectoryService& directories, std::int64_t worke
                                TrashPlaces trash, std::shared_ptr<CancelFlag> cancel,
                                std::shared_ptr<UpdateQueue> queue)
     : directories_(directories),
-      workerCount_(workerCount),
+      workerCount_(std::min(workerCount, directories.maximumReaders())),
       collectors_(collectors),
       trash_(std::move(trash)),
       cancel_(std::move(cancel)),
@@ -68,8 +68,7 @@ void ParallelWalker::run(std::vector<Work> seeds) {
 }
 
 void ParallelWalker::startWorkers() {
-    const std::int64_t count = std::min(workerCount_, directories_.maximumReaders());
-    for (std::int64_t i = 0; i < count; ++i) {
+    for (std::int64_t i = 0; i < workerCount_; ++i) {
         try {
             startThread("zelk.scan.worker." + std::to_string(i), stackBytes, [weak = weak_from_this()] {
                 if (const auto walker = weak.lock()) walker->workerLoop();
@@ -84,6 +83,7 @@ void ParallelWalker::startWorkers() {
 
 void ParallelWalker::workerLoop() {
     Worker worker{directories_.makeReader(), {}, {}, false, {}};
+    if (workerCount_ > 1) worker.reader->setHelpers(this);
     Work work;
     for (bool finishedOne = false; take(work, finishedOne); finishedOne = true) visit(worker, work);
 }
@@ -97,6 +97,10 @@ bool ParallelWalker::take(Work& work, bool finishedOne) {
         finished_.notify_all();
     }
     while (stack_.empty() && !done_) {
+        if (!offers_.empty()) {
+            help(lock);
+            continue;
+        }
         ++waiting_;
         cond_.wait(lock);
         --waiting_;
@@ -105,6 +109,38 @@ bool ParallelWalker::take(Work& work, bool finishedOne) {
     work = std::move(stack_.back());
     stack_.pop_back();
     return true;
+}
+
+/// Does the work of one worker with those that wait for a directory.
+bool ParallelWalker::run(SharedWork& work) {
+    OfferedWork offer(work);
+    std::int64_t count;
+    {
+        const std::lock_guard lock(mutex_);
+        offers_.push_back(&offer);
+        count = std::min(waiting_, static_cast<std::int64_t>(offer.parts()) - 1);
+    }
+    wake(count);
+    offer.join(*cancel_);
+    std::unique_lock lock(mutex_);
+    std::erase(offers_, &offer);
+    helped_.wait(lock, [&offer] { return offer.helpers == 0; });
+    return offer.isBegun();
+}
+
+/// Joins another worker's work until nothing of it is left to begin. Releases the lock meanwhile.
+void ParallelWalker::help(std::unique_lock<std::mutex>& lock) {
+    OfferedWork& offer = *offers_.back();
+    ++offer.helpers;
+    lock.unlock();
+    offer.join(*cancel_);
+    lock.lock();
+    std::erase(offers_, &offer);
+    if (--offer.helpers == 0) helped_.notify_all();
+}
+
+void ParallelWalker::wake(std::int64_t count) {
+    for (; count > 0; --count) cond_.notify_one();
 }
 
 void ParallelWalker::visit(Worker& worker, const Work& work) {
@@ -162,6 +198,7 @@ void ParallelWalker::visitInline(Worker& worker, const Work& work) {
 }
 
 void ParallelWalker::block(FSNode& node) {
+    if (cancel_->isSet()) return;  // the reader may have stopped for this reason alone
     node.setUnreadable();
     collectors_.counters.recordBlocked();
 }
@@ -185,15 +222,15 @@ void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::E
 void ParallelWalker::pushChildren(const Work& work, bool inTrash) {
     const std::vector<NodeRef>& children = work.node->children;
     if (children.empty()) return;
-    std::int64_t wake;
+    std::int64_t count;
     {
         const std::lock_guard lock(mutex_);
         for (const NodeRef& child : children)
             stack_.push_back({child, work.root, work.rootLength, work.depth + 1, work.rootDev, inTrash});
         outstanding_ += static_cast<std::int64_t>(children.size());
-        wake = std::min(waiting_, static_cast<std::int64_t>(children.size()));
+        count = std::min(waiting_, static_cast<std::int64_t>(children.size()));
     }
-    for (; wake > 0; --wake) cond_.notify_one();
+    wake(count);
 }
 
 std::pair<std::int64_t, std::int64_t> ParallelWalker::ingestFiles(const DirectoryReader::Entries& entries,

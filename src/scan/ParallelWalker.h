@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The walk of one scan: a fixed number of threads share a stack of the upper directories. The thread that takes one at
-// the lowest shared depth finishes everything below it alone.
+// the lowest shared depth finishes everything below it alone, except that a large directory, wherever it is, is read
+// with whoever has nothing else to do.
 #pragma once
 
 #include <condition_variable>
@@ -17,6 +18,7 @@
 #include "scan/DiskImageCollector.h"
 #include "scan/FSNode.h"
 #include "scan/InodeDeduper.h"
+#include "scan/OfferedWork.h"
 #include "scan/ScanCounters.h"
 #include "scan/TopFilesCollector.h"
 #include "scan/TypeAggregator.h"
@@ -34,7 +36,7 @@ struct ScanCollectors {
 };
 
 /// Serves one scan. Held by shared_ptr: a thread that starts late finds it gone and exits.
-class ParallelWalker : public std::enable_shared_from_this<ParallelWalker> {
+class ParallelWalker : public std::enable_shared_from_this<ParallelWalker>, private Helpers {
 public:
     /// Directories above this depth (roots have depth 0) go through the shared stack.
     static constexpr std::int64_t parallelDepth = 6;
@@ -66,6 +68,9 @@ private:
     void startWorkers();
     void workerLoop();
     bool take(Work& work, bool finishedOne);
+    bool run(SharedWork& work) override;
+    void help(std::unique_lock<std::mutex>& lock);
+    void wake(std::int64_t count);
     void visit(Worker& worker, const Work& work);
     static const DirectoryReader::Entries* openAt(Worker& worker, const Work& work);
     void visitInline(Worker& worker, const Work& work);
@@ -82,12 +87,14 @@ private:
     const std::shared_ptr<CancelFlag> cancel_;
     const std::shared_ptr<UpdateQueue> queue_;
 
-    // The lock guards the last four fields and nothing else. It is never held during file system access or with another
-    // lock.
+    // The lock guards the last five fields, what they hold, and nothing else. It is never held during file system
+    // access or with another lock.
     std::mutex mutex_;
     std::condition_variable cond_;      // waited on by workers only, so that run() never takes their signal
     std::condition_variable finished_;  // waited on by run()
+    std::condition_variable helped_;    // waited on by workers whose own work others are still at
     std::vector<Work> stack_;           ///< last in, first out
+    std::vector<OfferedWork*> offers_;  ///< of which parts may be left; each belongs to a thread that is at it
     std::int64_t outstanding_ = 0;      ///< pushed and not finished, including those being visited
     std::int64_t waiting_ = 0;          ///< threads waiting for work
     bool done_ = false;                 ///< set once nothing is outstanding
