@@ -78,6 +78,10 @@ public:
     /// are cancelled. A reader that gets everything about an entry along with its name has nothing to share, and
     /// ignores them.
     virtual void setHelpers(Helpers* /*helpers*/) {}
+
+    /// How often the calling thread, to which the reader belongs, has slept since it began, be it for the disk or for
+    /// another thread; always 0 where that cannot be found out.
+    virtual std::int64_t timesSlept() const { return 0; }
 };
 
 /// Creates roots and readers. Safe from any thread.

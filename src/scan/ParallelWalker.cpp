@@ -42,13 +42,20 @@ struct ParallelWalker::Worker {
     std::string below;     ///< the same path relative to its root
     bool inTrash = false;  ///< the directory being visited is in a Trash
     std::vector<Level> levels;
+
+    bool isExtra = false;          ///< came because others waited for the disk
+    bool isWaiting = true;         ///< for the disk, as far as it is known
+    std::int64_t parked = 0;       ///< how often it slept for want of work
+    std::int64_t slept = 0;        ///< how often for anything else, when it last looked
+    std::int64_t sinceLooked = 0;  ///< directories read
 };
 
-ParallelWalker::ParallelWalker(DirectoryService& directories, std::int64_t workerCount, ScanCollectors& collectors,
+ParallelWalker::ParallelWalker(DirectoryService& directories, WorkerLimits workers, ScanCollectors& collectors,
                                TrashPlaces trash, std::shared_ptr<CancelFlag> cancel,
                                std::shared_ptr<UpdateQueue> queue)
     : directories_(directories),
-      workerCount_(std::min(workerCount, directories.maximumReaders())),
+      workers_{std::min(workers.usual, directories.maximumReaders()),
+               std::min(workers.most, directories.maximumReaders())},
       collectors_(collectors),
       trash_(std::move(trash)),
       cancel_(std::move(cancel)),
@@ -68,33 +75,70 @@ void ParallelWalker::run(std::vector<Work> seeds) {
 }
 
 void ParallelWalker::startWorkers() {
-    for (std::int64_t i = 0; i < workerCount_; ++i) {
+    running_ = started_ = workers_.usual;
+    for (std::int64_t i = 0; i < workers_.usual; ++i) {
         try {
-            startThread("zelk.scan.worker." + std::to_string(i), stackBytes, [weak = weak_from_this()] {
-                if (const auto walker = weak.lock()) walker->workerLoop();
-            });
+            startWorker(i, false);
         } catch (const std::system_error&) {
             // No more threads can be started: those that run do the work, or this one if there is none.
-            if (i == 0) workerLoop();
+            if (i == 0) workerLoop(false);
             return;
         }
     }
 }
 
-void ParallelWalker::workerLoop() {
+void ParallelWalker::startWorker(std::int64_t number, bool isExtra) {
+    startThread("zelk.scan.worker." + std::to_string(number), stackBytes, [weak = weak_from_this(), isExtra] {
+        if (const auto walker = weak.lock()) walker->workerLoop(isExtra);
+    });
+}
+
+void ParallelWalker::workerLoop(bool isExtra) {
     Worker worker{directories_.makeReader(), {}, {}, false, {}};
-    if (workerCount_ > 1) worker.reader->setHelpers(this);
+    worker.isExtra = isExtra;
+    worker.slept = worker.reader->timesSlept();
+    if (workers_.most > 1) worker.reader->setHelpers(this);
     Work work;
-    for (bool finishedOne = false; take(work, finishedOne); finishedOne = true) visit(worker, work);
+    for (bool finishedOne = false; take(worker, work, finishedOne); finishedOne = true) visit(worker, work);
+}
+
+/// Counts a directory that was read, and now and then sees whether the disk was waited for.
+void ParallelWalker::watchWaiting(Worker& worker) {
+    if (workers_.most == workers_.usual || ++worker.sinceLooked < watchedDirectories) return;
+    worker.sinceLooked = 0;
+    const std::int64_t before = std::exchange(worker.slept, worker.reader->timesSlept() - worker.parked);
+    worker.isWaiting = worker.slept - before >= waitingDirectories;
+    if (worker.isWaiting) addWorker();
+}
+
+/// Starts another thread if there is something left for it to do.
+void ParallelWalker::addWorker() {
+    std::int64_t number;
+    {
+        const std::lock_guard lock(mutex_);
+        if (running_ >= workers_.most || stack_.empty() || waiting_ > 0) return;
+        ++running_;
+        number = started_++;
+    }
+    try {
+        startWorker(number, true);
+    } catch (const std::system_error&) {
+        const std::lock_guard lock(mutex_);
+        --running_;
+    }
 }
 
 /// Marks the previous item, if any, as finished and waits for the next. False when the walk is over.
-bool ParallelWalker::take(Work& work, bool finishedOne) {
+bool ParallelWalker::take(Worker& worker, Work& work, bool finishedOne) {
     std::unique_lock lock(mutex_);
     if (finishedOne && --outstanding_ == 0) {
         done_ = true;
         cond_.notify_all();
         finished_.notify_all();
+    }
+    if (worker.isExtra && !worker.isWaiting) {
+        --running_;
+        return false;
     }
     while (stack_.empty() && !done_) {
         if (!offers_.empty()) {
@@ -102,6 +146,7 @@ bool ParallelWalker::take(Work& work, bool finishedOne) {
             continue;
         }
         ++waiting_;
+        ++worker.parked;
         cond_.wait(lock);
         --waiting_;
     }
@@ -204,6 +249,7 @@ void ParallelWalker::block(FSNode& node) {
 }
 
 void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::Entries& entries, std::int32_t rootDev) {
+    watchWaiting(worker);
     const auto [bytes, count] = ingestFiles(entries, worker);
     node.ownFileBytes = bytes;
     node.fileCount = count;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The walk of one scan: a fixed number of threads share a stack of the upper directories. The thread that takes one at
+// The walk of one scan: some threads share a stack of the upper directories. The thread that takes one at
 // the lowest shared depth finishes everything below it alone, except that a large directory, wherever it is, is read
-// with whoever has nothing else to do.
+// with whoever has nothing else to do. Threads that find themselves waiting for the disk get company, so that it has
+// more requests to choose from; who came so and no longer waits leaves.
 #pragma once
 
 #include <condition_variable>
@@ -35,6 +36,12 @@ struct ScanCollectors {
     DiskImageCollector diskImages;
 };
 
+/// How many threads walk.
+struct WorkerLimits {
+    std::int64_t usual;  ///< from the beginning to the end
+    std::int64_t most;   ///< while they wait for the disk; at least as many
+};
+
 /// Serves one scan. Held by shared_ptr: a thread that starts late finds it gone and exits.
 class ParallelWalker : public std::enable_shared_from_this<ParallelWalker>, private Helpers {
 public:
@@ -42,6 +49,10 @@ public:
     static constexpr std::int64_t parallelDepth = 6;
     static constexpr std::int64_t diskImageMinSize = 50'000'000;  ///< bytes allocated
     static constexpr std::size_t stackBytes = 0x800000;
+    /// After so many directories a thread looks how often it has waited for the disk. It counts as waiting if that was
+    /// once in four or more often: with everything in memory it is once in a few hundred.
+    static constexpr std::int64_t watchedDirectories = 32;
+    static constexpr std::int64_t waitingDirectories = watchedDirectories / 4;
 
     /// A directory waiting for a thread. Stores no path, which is built from the node when needed: a string per waiting
     /// directory would dominate the memory in a folder with very many subfolders.
@@ -56,8 +67,8 @@ public:
 
     /// Counts what is in `trash` but does not list it among the large files. `cancel` and `queue` are shared with
     /// whoever may end the scan; the walker yields only Progress.
-    ParallelWalker(DirectoryService& directories, std::int64_t workerCount, ScanCollectors& collectors,
-                   TrashPlaces trash, std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue);
+    ParallelWalker(DirectoryService& directories, WorkerLimits workers, ScanCollectors& collectors, TrashPlaces trash,
+                   std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue);
 
     /// Blocks until the walk is over. Call once.
     void run(std::vector<Work> seeds);
@@ -66,8 +77,11 @@ private:
     struct Worker;
 
     void startWorkers();
-    void workerLoop();
-    bool take(Work& work, bool finishedOne);
+    void startWorker(std::int64_t number, bool isExtra);
+    void workerLoop(bool isExtra);
+    void watchWaiting(Worker& worker);
+    void addWorker();
+    bool take(Worker& worker, Work& work, bool finishedOne);
     bool run(SharedWork& work) override;
     void help(std::unique_lock<std::mutex>& lock);
     void wake(std::int64_t count);
@@ -81,13 +95,13 @@ private:
     void reportProgress(std::int64_t count, std::int64_t bytes, const std::string& path);
 
     DirectoryService& directories_;
-    const std::int64_t workerCount_;
+    const WorkerLimits workers_;
     ScanCollectors& collectors_;
     const TrashPlaces trash_;
     const std::shared_ptr<CancelFlag> cancel_;
     const std::shared_ptr<UpdateQueue> queue_;
 
-    // The lock guards the last five fields, what they hold, and nothing else. It is never held during file system
+    // The lock guards the last seven fields, what they hold, and nothing else. It is never held during file system
     // access or with another lock.
     std::mutex mutex_;
     std::condition_variable cond_;      // waited on by workers only, so that run() never takes their signal
@@ -97,6 +111,8 @@ private:
     std::vector<OfferedWork*> offers_;  ///< of which parts may be left; each belongs to a thread that is at it
     std::int64_t outstanding_ = 0;      ///< pushed and not finished, including those being visited
     std::int64_t waiting_ = 0;          ///< threads waiting for work
+    std::int64_t running_ = 0;          ///< threads that have not left
+    std::int64_t started_ = 0;          ///< those and those that have
     bool done_ = false;                 ///< set once nothing is outstanding
 };
 

@@ -77,6 +77,9 @@ public:
     /// Makes its status unreadable: status() returns nothing.
     void invisible(const std::string& path) { make(path).visible = false; }
 
+    /// How often the thread that reads a folder sleeps in it from now on, as it does for a disk.
+    void sleepsPerFolder(std::int64_t times) { sleeps_ = times; }
+
     /// Readers share folders of `entries` entries or more, in parts of `each`. Without this they share none.
     void shareFrom(std::size_t entries, std::size_t each) {
         sharedFrom_ = entries;
@@ -215,6 +218,7 @@ private:
             return listing();
         }
         void setHelpers(Helpers* helpers) override { helpers_ = helpers; }
+        std::int64_t timesSlept() const override { return slept_; }
         bool ascend() override {
             if (standing_.empty()) return false;  // reopened below the directory opened first
             standing_.pop_back();
@@ -229,6 +233,7 @@ private:
             const Node* node = standing_.back();
             if (node == nullptr) return nullptr;
             service_.arriveAt(node);
+            slept_ += service_.sleeps_;
             if (node->type != directoryObjectType || !node->readable) return nullptr;
             const std::vector<Node*>& children = node->children;
             if (helpers_ != nullptr && children.size() >= service_.sharedFrom_) return shared(children);
@@ -246,6 +251,7 @@ private:
         std::vector<const Node*> standing_;  // nullptr: a level that does not exist
         Entries entries_;
         Helpers* helpers_ = nullptr;
+        std::int64_t slept_ = 0;
     };
 
     static const Node* followed(const Node* node) { return node->target != nullptr ? node->target : node; }
@@ -326,6 +332,7 @@ private:
     std::set<const Node*> held_;
     std::set<const Node*> heldEntries_;
     std::map<const Node*, std::string> entryReaders_;
+    std::atomic<std::int64_t> sleeps_ = 0;
     std::size_t sharedFrom_ = std::numeric_limits<std::size_t>::max();
     std::size_t partEntries_ = 1;
     std::multiset<const Node*> waiting_;

@@ -177,8 +177,8 @@ protected:
         const NodeRef top = FSNode::make("", 0);
         node = FSNode::make("/r", 0);
         top->append(node);
-        const auto walker = std::make_shared<ParallelWalker>(disk, workerCount, collectors, trash, cancel,
-                                                             std::make_shared<UpdateQueue>());
+        const auto walker = std::make_shared<ParallelWalker>(disk, WorkerLimits{workerCount, workerCount}, collectors,
+                                                             trash, cancel, std::make_shared<UpdateQueue>());
         walker->run({{node, disk.openRoot("/r"), 2, 0, 1, false}});
     }
 

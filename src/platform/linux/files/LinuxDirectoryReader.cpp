@@ -2,6 +2,7 @@
 #include "platform/linux/files/LinuxDirectoryReader.h"
 
 #include <dirent.h>
+#include <sys/resource.h>
 
 #include <algorithm>
 #include <atomic>
@@ -62,6 +63,11 @@ public:
     bool ascend() override { return ladder_.ascend(); }
 
     void setHelpers(Helpers* helpers) override { helpers_ = helpers; }
+
+    std::int64_t timesSlept() const override {
+        rusage usage;
+        return ::getrusage(RUSAGE_THREAD, &usage) == 0 ? usage.ru_nvcsw : 0;
+    }
 
 private:
     /// The entries of a large directory, one part for every place in its list of names. Each part has the room for its
