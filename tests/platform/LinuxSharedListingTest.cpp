@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -287,6 +288,20 @@ TEST_F(LinuxSharedListing, takesTheMemoryOfOneList) {
     root = service.openRoot(memory / "small");
     EXPECT_EQ(read().size(), 1U);
     EXPECT_LT(heap() - between, 256 * 1024) << "kept for small folders";
+}
+
+TEST(LinuxDirectoryReaderSleep, isCountedForTheThreadThatAsks) {
+    LinuxDirectoryService service;
+    const auto reader = service.makeReader();
+    const auto sleepTwentyTimes = [] {
+        for (int i = 0; i < 20; ++i) std::this_thread::sleep_for(std::chrono::microseconds(1));
+    };
+    const std::int64_t before = reader->timesSlept();
+    sleepTwentyTimes();
+    const std::int64_t after = reader->timesSlept();
+    EXPECT_GE(after - before, 20);
+    std::thread(sleepTwentyTimes).join();
+    EXPECT_LT(reader->timesSlept() - after, 10);
 }
 
 }  // namespace
