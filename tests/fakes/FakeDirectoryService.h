@@ -112,6 +112,13 @@ public:
         gateMoved_.wait(lock, [&] { return waiting_.count(node) != 0; });
     }
 
+    /// Releases the threads that are held at folders, but not those at entries.
+    void releaseFolders() {
+        const std::lock_guard lock(gate_);
+        held_.clear();
+        gateMoved_.notify_all();
+    }
+
     /// Releases all held threads, now and later.
     void release() {
         const std::lock_guard lock(gate_);

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
@@ -46,6 +49,38 @@ TEST_F(SharedFolder, isReadByThoseWhoWait) {
     for (int i = 0; i < 8; i += 2) readers.insert(disk.entryReader("/r/" + std::to_string(i) + ".txt"));
     EXPECT_EQ(readers.size(), 4U);
 }
+
+#ifdef __linux__
+
+/// How many workers are asleep.
+int sleepingWorkers() {
+    int count = 0;
+    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream file(task.path() / "stat");
+        std::string line;
+        std::getline(file, line);
+        count += line.find("(zelk.scan.worke) S") != std::string::npos ? 1 : 0;
+    }
+    return count;
+}
+
+TEST_F(SharedFolder, wakesThoseWhoWait) {
+    files("/r");
+    workers(3);
+    disk.hold("/r");
+    for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt"}) disk.holdEntry(name);
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r");
+    while (sleepingWorkers() < 3) std::this_thread::yield();
+    disk.releaseFolders();
+    for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt"}) disk.waitUntilHeld(name);
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 80);
+}
+
+#endif
 
 TEST_F(SharedFolder, isReadByNobodyElseWithOneWorker) {
     files("/r");
