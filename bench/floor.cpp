@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // floor ROOT...: makes the system calls of a survey and nothing else, as its lower bound.
 //
-// Uses the same number of threads, the same shared stack down to the same depth, and per folder the same open,
-// getdents64, statx and close with the same buffer, mask and flags as LinuxDirectoryReader and its ladder. Keeps no
-// tree, no tallies, and no names except those of folders still to be entered. Prints {"seconds":…,"entries":…}.
+// Uses the same number of threads, the same shared stack down to the same depth, the same sharing of a large folder,
+// and per folder the same open, getdents64, statx and close with the same buffer, mask and flags as
+// LinuxDirectoryReader and its ladder. Keeps no tree, no tallies, and no names except those of folders still to be
+// entered. Prints {"seconds":…,"entries":…}.
 #include <fcntl.h>
 #include <linux/openat2.h>
 #include <sys/resource.h>
@@ -32,7 +33,9 @@
 namespace {
 
 constexpr std::size_t readBytes = 64 * 1024;
-constexpr int parallelDepth = 6;  // folders above this depth are shared by the threads
+constexpr int parallelDepth = 6;             // folders above this depth are shared by the threads
+constexpr std::size_t partEntries = 128;     // of a large folder, taken at once by one thread
+constexpr std::size_t sharedEntries = 1024;  // of a folder that is large
 constexpr int folderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 constexpr int statFlags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC;
 constexpr unsigned statMask = STATX_TYPE | STATX_NLINK | STATX_INO | STATX_BLOCKS | STATX_MTIME;
@@ -44,6 +47,7 @@ struct KernelEntry {
     std::uint8_t type;
 };
 constexpr std::size_t nameOffset = offsetof(KernelEntry, type) + 1;
+constexpr std::size_t minimumRecord = 24;
 
 struct Device {
     std::uint32_t major;
@@ -60,6 +64,57 @@ struct Work {
     const Root* root;
     std::string below;
     int depth;
+};
+
+/// What was found in a folder.
+struct Found {
+    std::uint64_t entries = 0;
+    std::vector<char> folders;  // the names of those to be entered, each with a NUL
+};
+
+/// Calls statx for each entry in `records` of the folder `fd`.
+void query(int fd, const Device& device, std::string_view records, Found& found) {
+    while (!records.empty()) {
+        KernelEntry record;
+        std::memcpy(&record, records.data(), sizeof record);
+        const char* const name = records.data() + nameOffset;
+        records.remove_prefix(record.length);
+        if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'))) continue;
+        struct statx status;
+        if (statx(fd, name, statFlags, statMask, &status) != 0) continue;
+        ++found.entries;
+        if (S_ISDIR(status.stx_mode) && Device{status.stx_dev_major, status.stx_dev_minor} == device)
+            found.folders.insert(found.folders.end(), name, name + std::strlen(name) + 1);
+    }
+}
+
+/// The parts of `records`, each of as many entries.
+std::vector<std::string_view> partsOf(std::string_view records) {
+    std::vector<std::string_view> parts;
+    std::size_t count = 0;
+    for (std::size_t at = 0; at < records.size(); ++count) {
+        std::uint16_t length;
+        std::memcpy(&length, records.data() + at + offsetof(KernelEntry, length), sizeof length);
+        if (count % partEntries == 0) parts.push_back(records.substr(at, 0));
+        at += length;
+        parts.back() = {parts.back().data(), static_cast<std::size_t>(records.data() + at - parts.back().data())};
+    }
+    return parts;
+}
+
+/// A large folder whose parts are queried by several threads.
+struct Offer {
+    int fd;
+    const Device& device;
+    const std::vector<std::string_view>& parts;
+    Found& found;             // by the helpers; guarded by the stack's lock, as is the next
+    std::size_t helpers = 0;  // threads at it besides its owner
+    std::atomic<std::size_t> next{0};
+
+    void join(Found& its) {
+        for (std::size_t part; (part = next.fetch_add(1, std::memory_order_relaxed)) < parts.size();)
+            query(fd, device, parts[part], its);
+    }
 };
 
 /// The folders waiting for a thread: last in, first out.
@@ -82,6 +137,10 @@ public:
         std::unique_lock lock(mutex_);
         if (finishedOne && --outstanding_ == 0) changed_.notify_all();
         while (work_.empty() && outstanding_ > 0) {
+            if (!offers_.empty()) {
+                help(lock);
+                continue;
+            }
             ++waiting_;
             changed_.wait(lock);
             --waiting_;
@@ -92,9 +151,46 @@ public:
         return true;
     }
 
+    /// Queries a large folder with the threads that wait.
+    void share(int fd, const Device& device, const std::vector<std::string_view>& parts, Found& found) {
+        Found others;
+        Offer offer{fd, device, parts, others};
+        std::size_t wake;
+        {
+            const std::lock_guard lock(mutex_);
+            offers_.push_back(&offer);
+            wake = std::min(waiting_, parts.size() - 1);
+        }
+        for (; wake > 0; --wake) changed_.notify_one();
+        offer.join(found);
+        std::unique_lock lock(mutex_);
+        std::erase(offers_, &offer);
+        helped_.wait(lock, [&] { return offer.helpers == 0; });
+        add(others, found);
+    }
+
 private:
+    static void add(const Found& some, Found& all) {
+        all.entries += some.entries;
+        all.folders.insert(all.folders.end(), some.folders.begin(), some.folders.end());
+    }
+
+    void help(std::unique_lock<std::mutex>& lock) {
+        Offer& offer = *offers_.back();
+        ++offer.helpers;
+        lock.unlock();
+        Found found;
+        offer.join(found);
+        lock.lock();
+        std::erase(offers_, &offer);
+        add(found, offer.found);
+        if (--offer.helpers == 0) helped_.notify_all();
+    }
+
     std::mutex mutex_;
     std::condition_variable changed_;
+    std::condition_variable helped_;
+    std::vector<Offer*> offers_;
     std::vector<Work> work_;
     std::size_t outstanding_ = 0;
     std::size_t waiting_ = 0;
@@ -102,12 +198,13 @@ private:
 
 class Reader {
 public:
-    explicit Reader(Stack& stack) : stack_(stack), buffer_(static_cast<char*>(std::malloc(readBytes))) {}
+    Reader(Stack& stack, bool sharesWork)
+        : stack_(stack), buffer_(static_cast<char*>(std::malloc(readBytes))), sharesWork_(sharesWork) {}
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
     ~Reader() { std::free(buffer_); }
 
-    std::uint64_t entries() const { return entries_; }
+    std::uint64_t entries() const { return found_.entries; }
 
     void visit(const Work& work) {
         const int fd = openBelow(*work.root, work.below);
@@ -183,25 +280,20 @@ private:
             if (got == 0) break;
             used += static_cast<std::size_t>(got);
         }
-        for (std::size_t at = 0; at < used;) {
-            KernelEntry record;
-            std::memcpy(&record, buffer_ + at, sizeof record);
-            const char* const name = buffer_ + at + nameOffset;
-            at += record.length;
-            if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'))) continue;
-            struct statx status;
-            if (statx(fd, name, statFlags, statMask, &status) != 0) continue;
-            ++entries_;
-            if (S_ISDIR(status.stx_mode) && Device{status.stx_dev_major, status.stx_dev_minor} == device)
-                folders_.insert(folders_.end(), name, name + std::strlen(name) + 1);
+        const std::string_view records(buffer_, used);
+        if (used >= sharedEntries * minimumRecord && sharesWork_) {
+            const std::vector<std::string_view> parts = partsOf(records);
+            if (parts.size() >= sharedEntries / partEntries) return stack_.share(fd, device, parts, found_);
         }
+        query(fd, device, records, found_);
     }
 
     Stack& stack_;
     char* buffer_;
     std::size_t capacity_ = readBytes;
-    std::uint64_t entries_ = 0;
-    std::vector<char> folders_;
+    const bool sharesWork_;
+    Found found_;
+    std::vector<char>& folders_ = found_.folders;
     std::vector<Level> levels_;
     std::vector<Work> children_;
 };
@@ -239,9 +331,10 @@ int main(int count, char** words) {
 
     std::atomic<std::uint64_t> entries{0};
     std::vector<std::thread> threads;
-    for (std::int64_t worker = roots.empty() ? 0 : zelk::ScanEngine::resolveWorkerCount(); worker > 0; --worker) {
+    const std::int64_t workers = zelk::ScanEngine::resolveWorkerCount();
+    for (std::int64_t worker = roots.empty() ? 0 : workers; worker > 0; --worker) {
         threads.emplace_back([&] {
-            Reader reader(stack);
+            Reader reader(stack, workers > 1);
             Work work;
             for (bool finishedOne = false; stack.take(work, finishedOne); finishedOne = true) reader.visit(work);
             entries += reader.entries();

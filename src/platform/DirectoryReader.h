@@ -15,7 +15,9 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/SharedWork.h"
 #include "platform/Time.h"
+#include "platform/UnfilledAllocator.h"
 
 namespace zelk {
 
@@ -54,7 +56,7 @@ public:
 /// is valid until its next step.
 class DirectoryReader {
 public:
-    using Entries = std::vector<DirEntry>;
+    using Entries = std::vector<DirEntry, UnfilledAllocator<DirEntry>>;
 
     virtual ~DirectoryReader() = default;
 
@@ -70,6 +72,16 @@ public:
     /// one that was opened last, or where the way back is lost because the tree changed. Every descend() then returns
     /// nullptr until open() finds a place by its path.
     virtual bool ascend() = 0;
+
+    /// Lets the steps that read share a large directory with `helpers`, which must stay until nullptr, or another,
+    /// takes their place; at first there are none. What a step returns is the same with them, except nullptr once they
+    /// are cancelled. A reader that gets everything about an entry along with its name has nothing to share, and
+    /// ignores them.
+    virtual void setHelpers(Helpers* /*helpers*/) {}
+
+    /// How often the calling thread, to which the reader belongs, has slept since it began, be it for the disk or for
+    /// another thread; always 0 where that cannot be found out.
+    virtual std::int64_t timesSlept() const { return 0; }
 };
 
 /// Creates roots and readers. Safe from any thread.

@@ -43,13 +43,20 @@ struct ParallelWalker::Worker {
     std::string below;                      ///< the same path relative to its root
     bool inTrash = false;                   ///< the directory being visited is in a Trash
     std::vector<Level> levels;
+
+    bool isExtra = false;          ///< came because others waited for the disk
+    bool isWaiting = true;         ///< for the disk, as far as it is known
+    std::int64_t parked = 0;       ///< how often it slept for want of work
+    std::int64_t slept = 0;        ///< how often for anything else, when it last looked
+    std::int64_t sinceLooked = 0;  ///< directories read
 };
 
-ParallelWalker::ParallelWalker(DirectoryService& directories, std::int64_t workerCount, ScanCollectors& collectors,
+ParallelWalker::ParallelWalker(DirectoryService& directories, WorkerLimits workers, ScanCollectors& collectors,
                                TrashPlaces trash, std::shared_ptr<CancelFlag> cancel,
                                std::shared_ptr<UpdateQueue> queue)
     : directories_(directories),
-      workerCount_(workerCount),
+      workers_{std::min(workers.usual, directories.maximumReaders()),
+               std::min(workers.most, directories.maximumReaders())},
       collectors_(collectors),
       trash_(std::move(trash)),
       cancel_(std::move(cancel)),
@@ -69,40 +76,82 @@ void ParallelWalker::run(std::vector<Work> seeds) {
 }
 
 void ParallelWalker::startWorkers() {
-    const std::int64_t count = std::min(workerCount_, directories_.maximumReaders());
-    for (std::int64_t i = 0; i < count; ++i) {
+    running_ = started_ = workers_.usual;
+    for (std::int64_t i = 0; i < workers_.usual; ++i) {
         try {
-            startThread("zelk.scan.worker." + std::to_string(i), stackBytes, [weak = weak_from_this()] {
-                if (const auto walker = weak.lock()) walker->workerLoop();
-            });
+            startWorker(i, false);
         } catch (const std::system_error&) {
             // No more threads can be started: those that run do the work, or this one if there is none.
-            if (i == 0) workerLoop();
+            if (i == 0) workerLoop(false);
             return;
         }
     }
 }
 
-void ParallelWalker::workerLoop() {
+void ParallelWalker::startWorker(std::int64_t number, bool isExtra) {
+    startThread("zelk.scan.worker." + std::to_string(number), stackBytes, [weak = weak_from_this(), isExtra] {
+        if (const auto walker = weak.lock()) walker->workerLoop(isExtra);
+    });
+}
+
+void ParallelWalker::workerLoop(bool isExtra) {
     Worker worker{directories_.makeReader(), {}, {}, {}, false, {}};
+    worker.isExtra = isExtra;
+    worker.slept = worker.reader->timesSlept();
+    if (workers_.most > 1) worker.reader->setHelpers(this);
     Work work;
-    for (bool finishedOne = false; take(work, finishedOne); finishedOne = true) {
+    for (bool finishedOne = false; take(worker, work, finishedOne); finishedOne = true) {
         // Not before: to a thread that starts late the tree may be gone.
         if (!worker.space) worker.space.emplace(work.node->arena());
         visit(worker, work);
     }
 }
 
+/// Counts a directory that was read, and now and then sees whether the disk was waited for.
+void ParallelWalker::watchWaiting(Worker& worker) {
+    if (workers_.most == workers_.usual || ++worker.sinceLooked < watchedDirectories) return;
+    worker.sinceLooked = 0;
+    const std::int64_t before = std::exchange(worker.slept, worker.reader->timesSlept() - worker.parked);
+    worker.isWaiting = worker.slept - before >= waitingDirectories;
+    if (worker.isWaiting) addWorker();
+}
+
+/// Starts another thread if there is something left for it to do.
+void ParallelWalker::addWorker() {
+    std::int64_t number;
+    {
+        const std::lock_guard lock(mutex_);
+        if (running_ >= workers_.most || stack_.empty() || waiting_ > 0) return;
+        ++running_;
+        number = started_++;
+    }
+    try {
+        startWorker(number, true);
+    } catch (const std::system_error&) {
+        const std::lock_guard lock(mutex_);
+        --running_;
+    }
+}
+
 /// Marks the previous item, if any, as finished and waits for the next. False when the walk is over.
-bool ParallelWalker::take(Work& work, bool finishedOne) {
+bool ParallelWalker::take(Worker& worker, Work& work, bool finishedOne) {
     std::unique_lock lock(mutex_);
     if (finishedOne && --outstanding_ == 0) {
         done_ = true;
         cond_.notify_all();
         finished_.notify_all();
     }
+    if (worker.isExtra && !worker.isWaiting) {
+        --running_;
+        return false;
+    }
     while (stack_.empty() && !done_) {
+        if (!offers_.empty()) {
+            help(lock);
+            continue;
+        }
         ++waiting_;
+        ++worker.parked;
         cond_.wait(lock);
         --waiting_;
     }
@@ -110,6 +159,38 @@ bool ParallelWalker::take(Work& work, bool finishedOne) {
     work = std::move(stack_.back());
     stack_.pop_back();
     return true;
+}
+
+/// Does the work of one worker with those that wait for a directory.
+bool ParallelWalker::run(SharedWork& work) {
+    OfferedWork offer(work);
+    std::int64_t count;
+    {
+        const std::lock_guard lock(mutex_);
+        offers_.push_back(&offer);
+        count = std::min(waiting_, static_cast<std::int64_t>(offer.parts()) - 1);
+    }
+    wake(count);
+    offer.join(*cancel_);
+    std::unique_lock lock(mutex_);
+    std::erase(offers_, &offer);
+    helped_.wait(lock, [&offer] { return offer.helpers == 0; });
+    return offer.isBegun();
+}
+
+/// Joins another worker's work until nothing of it is left to begin. Releases the lock meanwhile.
+void ParallelWalker::help(std::unique_lock<std::mutex>& lock) {
+    OfferedWork& offer = *offers_.back();
+    ++offer.helpers;
+    lock.unlock();
+    offer.join(*cancel_);
+    lock.lock();
+    std::erase(offers_, &offer);
+    if (--offer.helpers == 0) helped_.notify_all();
+}
+
+void ParallelWalker::wake(std::int64_t count) {
+    for (; count > 0; --count) cond_.notify_one();
 }
 
 void ParallelWalker::visit(Worker& worker, const Work& work) {
@@ -167,11 +248,13 @@ void ParallelWalker::visitInline(Worker& worker, const Work& work) {
 }
 
 void ParallelWalker::block(FSNode& node) {
+    if (cancel_->isSet()) return;  // the reader may have stopped for this reason alone
     node.setUnreadable();
     collectors_.counters.recordBlocked();
 }
 
 void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::Entries& entries, std::int32_t rootDev) {
+    watchWaiting(worker);
     const auto [bytes, count] = ingestFiles(entries, worker);
     node.ownFileBytes = bytes;
     node.fileCount = count;
@@ -188,16 +271,16 @@ void ParallelWalker::fill(Worker& worker, FSNode& node, const DirectoryReader::E
 void ParallelWalker::pushChildren(const Work& work, bool inTrash) {
     const FSNode::Children children = work.node->children();
     if (children.empty()) return;
-    const auto count = static_cast<std::int64_t>(children.size());
-    std::int64_t wake;
+    const auto pushed = static_cast<std::int64_t>(children.size());
+    std::int64_t count;
     {
         const std::lock_guard lock(mutex_);
         for (FSNode& child : children)
             stack_.push_back({&child, work.root, work.rootLength, work.depth + 1, work.rootDev, inTrash});
-        outstanding_ += count;
-        wake = std::min(waiting_, count);
+        outstanding_ += pushed;
+        count = std::min(waiting_, pushed);
     }
-    for (; wake > 0; --wake) cond_.notify_one();
+    wake(count);
 }
 
 std::pair<std::int64_t, std::int64_t> ParallelWalker::ingestFiles(const DirectoryReader::Entries& entries,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The walk of one scan: a fixed number of threads share a stack of the upper directories. The thread that takes one at
-// the lowest shared depth finishes everything below it alone.
+// The walk of one scan: some threads share a stack of the upper directories. The thread that takes one at
+// the lowest shared depth finishes everything below it alone, except that a large directory, wherever it is, is read
+// with whoever has nothing else to do. Threads that find themselves waiting for the disk get company, so that it has
+// more requests to choose from; who came so and no longer waits leaves.
 #pragma once
 
 #include <condition_variable>
@@ -17,6 +19,7 @@
 #include "scan/DiskImageCollector.h"
 #include "scan/FSNode.h"
 #include "scan/InodeDeduper.h"
+#include "scan/OfferedWork.h"
 #include "scan/ScanCounters.h"
 #include "scan/TopFilesCollector.h"
 #include "scan/TypeAggregator.h"
@@ -33,13 +36,23 @@ struct ScanCollectors {
     DiskImageCollector diskImages;
 };
 
+/// How many threads walk.
+struct WorkerLimits {
+    std::int64_t usual;  ///< from the beginning to the end
+    std::int64_t most;   ///< while they wait for the disk; at least as many
+};
+
 /// Serves one scan. Held by shared_ptr: a thread that starts late finds it gone and exits.
-class ParallelWalker : public std::enable_shared_from_this<ParallelWalker> {
+class ParallelWalker : public std::enable_shared_from_this<ParallelWalker>, private Helpers {
 public:
     /// Directories above this depth (roots have depth 0) go through the shared stack.
     static constexpr std::int64_t parallelDepth = 6;
     static constexpr std::int64_t diskImageMinSize = 50'000'000;  ///< bytes allocated
     static constexpr std::size_t stackBytes = 0x800000;
+    /// After so many directories a thread looks how often it has waited for the disk. It counts as waiting if that was
+    /// once in four or more often: with everything in memory it is once in a few hundred.
+    static constexpr std::int64_t watchedDirectories = 32;
+    static constexpr std::int64_t waitingDirectories = watchedDirectories / 4;
 
     /// A directory waiting for a thread. Stores no path, which is built from the node when needed: a string per waiting
     /// directory would dominate the memory in a folder with very many subfolders.
@@ -54,8 +67,8 @@ public:
 
     /// Counts what is in `trash` but does not list it among the large files. `cancel` and `queue` are shared with
     /// whoever may end the scan; the walker yields only Progress.
-    ParallelWalker(DirectoryService& directories, std::int64_t workerCount, ScanCollectors& collectors,
-                   TrashPlaces trash, std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue);
+    ParallelWalker(DirectoryService& directories, WorkerLimits workers, ScanCollectors& collectors, TrashPlaces trash,
+                   std::shared_ptr<CancelFlag> cancel, std::shared_ptr<UpdateQueue> queue);
 
     /// Blocks until the walk is over. Call once. The nodes are those of one tree, which the caller keeps.
     void run(std::vector<Work> seeds);
@@ -64,8 +77,14 @@ private:
     struct Worker;
 
     void startWorkers();
-    void workerLoop();
-    bool take(Work& work, bool finishedOne);
+    void startWorker(std::int64_t number, bool isExtra);
+    void workerLoop(bool isExtra);
+    void watchWaiting(Worker& worker);
+    void addWorker();
+    bool take(Worker& worker, Work& work, bool finishedOne);
+    bool run(SharedWork& work) override;
+    void help(std::unique_lock<std::mutex>& lock);
+    void wake(std::int64_t count);
     void visit(Worker& worker, const Work& work);
     static const DirectoryReader::Entries* openAt(Worker& worker, const Work& work);
     void visitInline(Worker& worker, const Work& work);
@@ -76,20 +95,24 @@ private:
     void reportProgress(std::int64_t count, std::int64_t bytes, const std::string& path);
 
     DirectoryService& directories_;
-    const std::int64_t workerCount_;
+    const WorkerLimits workers_;
     ScanCollectors& collectors_;
     const TrashPlaces trash_;
     const std::shared_ptr<CancelFlag> cancel_;
     const std::shared_ptr<UpdateQueue> queue_;
 
-    // The lock guards the last four fields and nothing else. It is never held during file system access or with another
-    // lock.
+    // The lock guards the last seven fields, what they hold, and nothing else. It is never held during file system
+    // access or with another lock.
     std::mutex mutex_;
     std::condition_variable cond_;      // waited on by workers only, so that run() never takes their signal
     std::condition_variable finished_;  // waited on by run()
+    std::condition_variable helped_;    // waited on by workers whose own work others are still at
     std::vector<Work> stack_;           ///< last in, first out
+    std::vector<OfferedWork*> offers_;  ///< of which parts may be left; each belongs to a thread that is at it
     std::int64_t outstanding_ = 0;      ///< pushed and not finished, including those being visited
     std::int64_t waiting_ = 0;          ///< threads waiting for work
+    std::int64_t running_ = 0;          ///< threads that have not left
+    std::int64_t started_ = 0;          ///< those and those that have
     bool done_ = false;                 ///< set once nothing is outstanding
 };
 

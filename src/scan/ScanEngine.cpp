@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "platform/Thread.h"
-#include "scan/ParallelWalker.h"
 
 namespace zelk {
 
@@ -36,14 +35,19 @@ std::vector<ParallelWalker::Work> seed(DirectoryService& directories, const std:
     return seeds;
 }
 
+WorkerLimits resolveWorkers() {
+    return ScanEngine::workerLimitsFor(std::getenv("ZELK_WORKERS"),
+                                       static_cast<std::int64_t>(std::thread::hardware_concurrency()));
+}
+
 ScanPhases scanBody(DirectoryService& directories, Clock& clock, const TrashPlaces& trash,
                     const std::shared_ptr<CancelFlag>& cancel, const std::shared_ptr<UpdateQueue>& queue,
                     std::vector<std::string> roots) {
     const double start = clock.monotonic();
     ScanCollectors collectors;
     const NodeRef top = FSNode::make("", clock.now());
-    const auto walker = std::make_shared<ParallelWalker>(directories, ScanEngine::resolveWorkerCount(), collectors,
-                                                         trash, cancel, queue);
+    const auto walker =
+        std::make_shared<ParallelWalker>(directories, resolveWorkers(), collectors, trash, cancel, queue);
     walker->run(seed(directories, roots, trash, *cancel, *top));
     const double walked = clock.monotonic();
     rollUpSizes(*top);
@@ -87,10 +91,14 @@ ScanPhases ScanEngine::runHere(const std::shared_ptr<UpdateQueue>& queue, std::v
 }
 
 std::int64_t ScanEngine::resolveWorkerCount() {
-    return workerCountFor(std::getenv("ZELK_WORKERS"), static_cast<std::int64_t>(std::thread::hardware_concurrency()));
+    return resolveWorkers().usual;
 }
 
 std::int64_t ScanEngine::workerCountFor(const char* setting, std::int64_t activeProcessors) {
+    return workerLimitsFor(setting, activeProcessors).usual;
+}
+
+WorkerLimits ScanEngine::workerLimitsFor(const char* setting, std::int64_t activeProcessors) {
     if (setting != nullptr) {
         std::string_view text = setting;
         // from_chars accepts a minus but no plus.
@@ -100,9 +108,13 @@ std::int64_t ScanEngine::workerCountFor(const char* setting, std::int64_t active
         }
         std::int64_t wanted = 0;
         const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), wanted);
-        if (error == std::errc() && end == text.data() + text.size() && wanted > 0) return wanted;
+        if (error == std::errc() && end == text.data() + text.size() && wanted > 0) return {wanted, wanted};
     }
-    return std::max<std::int64_t>(4, static_cast<std::int64_t>(static_cast<double>(activeProcessors) * 1.5));
+    // What is enough to keep the processors busy is too little for a disk, which orders what it is asked for.
+    constexpr std::int64_t enoughForADisk = 32;
+    const auto usual =
+        std::max<std::int64_t>(4, static_cast<std::int64_t>(static_cast<double>(activeProcessors) * 1.5));
+    return {usual, std::max(usual, std::min(usual * 4, enoughForADisk))};
 }
 
 ScanStats statsOf(const ScanCounters::Counts& counts, std::int64_t totalBytes, double seconds,

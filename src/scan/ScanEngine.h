@@ -10,6 +10,7 @@
 #include "platform/DirectoryReader.h"
 #include "platform/TrashPlaces.h"
 #include "scan/CancelFlag.h"
+#include "scan/ParallelWalker.h"
 #include "scan/ScanCounters.h"
 #include "scan/UpdateQueue.h"
 
@@ -40,6 +41,8 @@ public:
     static std::int64_t resolveWorkerCount();
     /// The rule itself; `setting` is the variable's text or nullptr.
     static std::int64_t workerCountFor(const char* setting, std::int64_t activeProcessors);
+    /// As many, and four times as many while the disk is waited for, but then at most 32; with ZELK_WORKERS no more.
+    static WorkerLimits workerLimitsFor(const char* setting, std::int64_t activeProcessors);
 
 private:
     DirectoryService& directories_;

@@ -3,9 +3,12 @@
 // directory to act in the middle of it.
 #pragma once
 
+#include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
+#include <limits>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -18,6 +21,7 @@
 #include <vector>
 
 #include "platform/DirectoryReader.h"
+#include "platform/Thread.h"
 
 namespace zelk::fakes {
 
@@ -73,6 +77,28 @@ public:
     /// Makes its status unreadable: status() returns nothing.
     void invisible(const std::string& path) { make(path).visible = false; }
 
+    /// How often the thread that reads a folder sleeps in it from now on, as it does for a disk.
+    void sleepsPerFolder(std::int64_t times) { sleeps_ = times; }
+
+    /// Readers share folders of `entries` entries or more, in parts of `each`. Without this they share none.
+    void shareFrom(std::size_t entries, std::size_t each) {
+        sharedFrom_ = entries;
+        partEntries_ = each;
+    }
+    /// A shared folder with it cannot be read.
+    void damaged(const std::string& path) { existing(path).damaged = true; }
+    /// Threads that come to the entry `path` of a shared folder wait there until release().
+    void holdEntry(const std::string& path) {
+        const std::lock_guard lock(gate_);
+        heldEntries_.insert(&existing(path));
+    }
+    /// The name of the thread that read the entry `path` of a shared folder; empty if none did.
+    std::string entryReader(const std::string& path) {
+        const std::lock_guard lock(gate_);
+        const auto found = entryReaders_.find(&existing(path));
+        return found == entryReaders_.end() ? std::string() : found->second;
+    }
+
     /// Threads that list `path` wait there until release(). Several paths may be held.
     void hold(const std::string& path) {
         const std::lock_guard lock(gate_);
@@ -86,10 +112,18 @@ public:
         gateMoved_.wait(lock, [&] { return waiting_.count(node) != 0; });
     }
 
+    /// Releases the threads that are held at folders, but not those at entries.
+    void releaseFolders() {
+        const std::lock_guard lock(gate_);
+        held_.clear();
+        gateMoved_.notify_all();
+    }
+
     /// Releases all held threads, now and later.
     void release() {
         const std::lock_guard lock(gate_);
         held_.clear();
+        heldEntries_.clear();
         gateMoved_.notify_all();
     }
 
@@ -137,6 +171,7 @@ private:
         bool readable = true;
         bool visible = true;
         bool lostOnTheWayBack = false;
+        bool damaged = false;
         std::vector<Node*> children{};  // in order of creation, which is the order of delivery
         std::map<std::string, Node*, std::less<>> byName{};
     };
@@ -144,6 +179,36 @@ private:
     struct Root : DirectoryRoot {
         explicit Root(const Node* top) : node(top) {}
         const Node* node;
+    };
+
+    static DirEntry entryOf(const Node* node) {
+        const Content* content = node->content;
+        return {node->name,
+                node->type,
+                content != nullptr ? content->fileID : node->fileID,
+                content != nullptr ? content->links : 0,
+                content != nullptr ? content->bytes : 0,
+                node->device,
+                node->modified};
+    }
+
+    /// The entries of a shared folder.
+    struct Parts : SharedWork {
+        Parts(FakeDirectoryService& its, const std::vector<Node*>& in, DirectoryReader::Entries& list)
+            : service(its), children(in), entries(list) {}
+        std::size_t parts() const override { return (children.size() + each - 1) / each; }
+        void run(std::size_t index) override {
+            for (std::size_t i = index * each; i < std::min(children.size(), (index + 1) * each); ++i) {
+                service.arriveAtEntry(children[i]);
+                if (children[i]->damaged) isDamaged = true;
+                entries[i] = entryOf(children[i]);
+            }
+        }
+        FakeDirectoryService& service;
+        const std::vector<Node*>& children;
+        DirectoryReader::Entries& entries;
+        const std::size_t each = service.partEntries_;
+        std::atomic<bool> isDamaged = false;
     };
 
     class Reader : public DirectoryReader {
@@ -159,6 +224,8 @@ private:
             standing_.push_back(from == nullptr ? nullptr : service_.child(from, name));
             return listing();
         }
+        void setHelpers(Helpers* helpers) override { helpers_ = helpers; }
+        std::int64_t timesSlept() const override { return slept_; }
         bool ascend() override {
             if (standing_.empty()) return false;  // reopened below the directory opened first
             standing_.pop_back();
@@ -173,19 +240,25 @@ private:
             const Node* node = standing_.back();
             if (node == nullptr) return nullptr;
             service_.arriveAt(node);
+            slept_ += service_.sleeps_;
             if (node->type != directoryObjectType || !node->readable) return nullptr;
-            for (const Node* child : node->children) {
-                const Content* content = child->content;
-                entries_.push_back({child->name, child->type, content != nullptr ? content->fileID : child->fileID,
-                                    content != nullptr ? content->links : 0, content != nullptr ? content->bytes : 0,
-                                    child->device, child->modified});
-            }
+            const std::vector<Node*>& children = node->children;
+            if (helpers_ != nullptr && children.size() >= service_.sharedFrom_) return shared(children);
+            for (const Node* child : children) entries_.push_back(entryOf(child));
             return &entries_;
+        }
+
+        const Entries* shared(const std::vector<Node*>& children) {
+            entries_.resize(children.size());
+            Parts parts(service_, children, entries_);
+            return helpers_->run(parts) && !parts.isDamaged ? &entries_ : nullptr;
         }
 
         FakeDirectoryService& service_;
         std::vector<const Node*> standing_;  // nullptr: a level that does not exist
         Entries entries_;
+        Helpers* helpers_ = nullptr;
+        std::int64_t slept_ = 0;
     };
 
     static const Node* followed(const Node* node) { return node->target != nullptr ? node->target : node; }
@@ -238,10 +311,20 @@ private:
     void arriveAt(const Node* node) {
         std::unique_lock lock(gate_);
         ++reads_[node];
-        if (held_.count(node) == 0) return;
+        waitAt(node, held_, lock);
+    }
+
+    void arriveAtEntry(const Node* node) {
+        std::unique_lock lock(gate_);
+        entryReaders_[node] = currentThreadName();
+        waitAt(node, heldEntries_, lock);
+    }
+
+    void waitAt(const Node* node, const std::set<const Node*>& held, std::unique_lock<std::mutex>& lock) {
+        if (held.count(node) == 0) return;
         waiting_.insert(node);
         gateMoved_.notify_all();
-        gateMoved_.wait(lock, [&] { return held_.count(node) == 0; });
+        gateMoved_.wait(lock, [&] { return held.count(node) == 0; });
         waiting_.erase(node);
     }
 
@@ -254,6 +337,11 @@ private:
     std::mutex gate_;
     std::condition_variable gateMoved_;
     std::set<const Node*> held_;
+    std::set<const Node*> heldEntries_;
+    std::map<const Node*, std::string> entryReaders_;
+    std::atomic<std::int64_t> sleeps_ = 0;
+    std::size_t sharedFrom_ = std::numeric_limits<std::size_t>::max();
+    std::size_t partEntries_ = 1;
     std::multiset<const Node*> waiting_;
     std::map<const Node*, int> reads_;
 };

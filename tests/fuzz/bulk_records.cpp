@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) return 0;
     const std::size_t count = data[0];
     const std::span<const std::byte> buffer(reinterpret_cast<const std::byte*>(data + 1), size - 1);
-    std::vector<zelk::DirEntry> entries;
+    zelk::DirectoryReader::Entries entries;
     constexpr zelk::ListedDirectory listed{.device = 77, .modified = 1};
     const bool whole = zelk::decodeBulkRecords(buffer, count, listed, entries);
     require(entries.size() <= count);

@@ -91,7 +91,7 @@ public:
         return decodeBulkRecords(exact_, count, listed, entries);
     }
 
-    std::vector<DirEntry> entries;
+    DirectoryReader::Entries entries;
 
 private:
     std::vector<std::byte> bytes_;
@@ -331,7 +331,7 @@ TEST(BulkRecords, appendsInOrderOfDelivery) {
     EXPECT_EQ(records.entries[1].name, "a");
     EXPECT_EQ(records.entries[2].name, "m");
 
-    std::vector<DirEntry> entries{records.entries[2]};
+    DirectoryReader::Entries entries{records.entries[2]};
     EXPECT_TRUE(decodeBulkRecords({}, 0, listed, entries));
     EXPECT_EQ(entries.size(), 1U);
 }

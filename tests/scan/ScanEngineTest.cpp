@@ -269,6 +269,18 @@ TEST(WorkerCount, defaultsToOneAndAHalfPerProcessorAndAtLeastFour) {
         EXPECT_EQ(ScanEngine::workerCountFor(nullptr, processors), expected) << processors;
 }
 
+TEST(WorkerCount, isExactIfItIsSet) {
+    EXPECT_EQ(ScanEngine::workerLimitsFor("1", 8).most, 1);
+    EXPECT_EQ(ScanEngine::workerLimitsFor("5", 8).most, 5);
+    EXPECT_EQ(ScanEngine::workerLimitsFor("9223372036854775807", 2).most, 9223372036854775807);
+}
+
+TEST(WorkerCount, isFourTimesAsHighForASlowDiskUpToThirtyTwo) {
+    for (const auto& [processors, most] : std::vector<std::pair<std::int64_t, std::int64_t>>{
+             {0, 16}, {1, 16}, {2, 16}, {4, 24}, {5, 28}, {6, 32}, {8, 32}, {16, 32}, {24, 36}, {64, 96}})
+        EXPECT_EQ(ScanEngine::workerLimitsFor(nullptr, processors).most, most) << processors;
+}
+
 TEST(WorkerCount, readsTheEnvironmentAtEachScan) {
     setenv("ZELK_WORKERS", "17", 1);
     EXPECT_EQ(ScanEngine::resolveWorkerCount(), 17);

@@ -321,6 +321,23 @@ TEST_F(BulkDirectoryReaderOnceTest, releasesMemoryOfALargeFolder) {
     EXPECT_LT(entries->capacity() * sizeof(DirEntry), static_cast<std::size_t>(quarter));
 }
 
+// It has everything about an entry with its name.
+TEST_F(BulkDirectoryReaderOnceTest, hasNothingToShare) {
+    struct Unasked : Helpers {
+        bool run(SharedWork& work) override {
+            ADD_FAILURE() << work.parts() << " parts";
+            return false;
+        }
+    } helpers;
+    makeFiles(3000);
+    ASSERT_EQ(read()->size(), 3000U);
+    reader_->setHelpers(&helpers);
+    const DirectoryReader::Entries* const entries = reader_->open(*root_, "");
+    ASSERT_NE(entries, nullptr);
+    EXPECT_EQ(entries->size(), 3000U);
+    EXPECT_EQ(reader_->timesSlept(), 0);
+}
+
 TEST_F(BulkDirectoryReaderOnceTest, descendsAndAscendsWithoutFollowingLinks) {
     fs::create_directories(path("a/b/c"));
     makeFile("a/b/file", 10);

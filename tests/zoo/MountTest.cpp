@@ -83,6 +83,18 @@ TEST_F(Mounts, omitsAnotherDeviceDeepDown) {
     expectAsCounted(root);
 }
 
+TEST_F(Mounts, omitsAnotherDeviceInAFolderThatThreadsShare) {
+    makeWide(root, 3000, 40);
+    for (const char* const place : {"/folder0", "/folder20", "/folder39"}) {
+        mountMemory(root + place);
+        makeFile(root + place + "/file", 5000);
+    }
+    const Scan its = scan({root}, 8);
+    EXPECT_EQ(its.stats.filesScanned, 3002);
+    EXPECT_EQ(its.stats.dirsScanned, 41);
+    expectAsCounted(root);
+}
+
 TEST_F(Mounts, walksRootOnAnotherDevice) {
     mountMemory(root + "/mounted");
     makeFile(root + "/mounted/inside/file", 5000);

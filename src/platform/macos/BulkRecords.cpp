@@ -118,7 +118,7 @@ std::optional<DirEntry> entryOf(std::span<const std::byte> record, std::string_v
 }  // namespace
 
 bool decodeBulkRecords(std::span<const std::byte> buffer, std::size_t count, const ListedDirectory& listed,
-                       std::vector<DirEntry>& entries) {
+                       DirectoryReader::Entries& entries) {
     for (; count > 0; --count) {
         const auto record = firstRecord(buffer);
         if (!record) return false;

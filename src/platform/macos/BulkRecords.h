@@ -26,6 +26,6 @@ struct ListedDirectory {
 /// directory with the device and date of `listed`, since only opening it can tell what it is, and what cannot be opened
 /// counts as unreadable. A file without a size gets size 0 and no links.
 [[nodiscard]] bool decodeBulkRecords(std::span<const std::byte> buffer, std::size_t count,
-                                     const ListedDirectory& listed, std::vector<DirEntry>& entries);
+                                     const ListedDirectory& listed, DirectoryReader::Entries& entries);
 
 }  // namespace zelk

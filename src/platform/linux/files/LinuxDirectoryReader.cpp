@@ -2,15 +2,17 @@
 #include "platform/linux/files/LinuxDirectoryReader.h"
 
 #include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <sys/syscall.h>
-#include <unistd.h>
+#include <sys/resource.h>
 
+#include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstddef>
-#include <cstring>
+#include <cstdint>
+#include <optional>
+#include <vector>
 
+#include "platform/linux/files/EntryNames.h"
 #include "platform/linux/files/ScanVolume.h"
 #include "platform/linux/files/StatxEntry.h"
 #include "platform/posix/DescriptorLimit.h"
@@ -22,25 +24,12 @@ namespace zelk {
 
 namespace {
 
-/// The buffer size of one getdents64 call; an ordinary folder fits at once.
-constexpr std::size_t readBytes = 64 * 1024;
-
-/// The memory that a reader keeps between folders. A folder of hundreds of thousands of entries needs far more, which
-/// is released afterwards so that not every thread ends up holding it.
+/// The memory that a reader keeps between folders for their entries. A folder of hundreds of thousands needs far more,
+/// which is released afterwards so that not every thread ends up holding it.
 constexpr std::size_t keptBytes = 1024 * 1024;
 
-/// The kernel's record (getdents64(2)), followed by the name.
-struct KernelEntry {
-    std::uint64_t inode;
-    std::int64_t offset;
-    std::uint16_t length;
-    std::uint8_t type;
-};
-constexpr std::size_t nameOffset = offsetof(KernelEntry, type) + 1;
-
-bool isDotOrDotDot(const char* name) {
-    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
-}
+/// Folders from this many entries on are shared. Below, waking a thread takes as long as what it would do.
+constexpr std::size_t sharedFrom = 8 * EntryNames::stride;
 
 enum class FailedSubfolder {
     directoryUnreadable,  ///< no entry of the directory has a readable status
@@ -73,87 +62,116 @@ public:
 
     bool ascend() override { return ladder_.ascend(); }
 
+    void setHelpers(Helpers* helpers) override { helpers_ = helpers; }
+
+    std::int64_t timesSlept() const override {
+        rusage usage;
+        return ::getrusage(RUSAGE_THREAD, &usage) == 0 ? usage.ru_nvcsw : 0;
+    }
+
 private:
+    /// The entries of a large directory, one part for every place in its list of names. Each part has the room for its
+    /// own in the list of entries, so that they come in the order of their names whoever reads them.
+    class StatusWork : public SharedWork {
+    public:
+        StatusWork(LinuxDirectoryReader& reader, int directory)
+            : reader_(reader), directory_(directory), found_(reader.names_.places()) {}
+
+        std::size_t parts() const override { return found_.size(); }
+
+        void run(std::size_t part) override {
+            if (failed_.load(std::memory_order_relaxed)) return;
+            const std::size_t first = part * EntryNames::stride;
+            const std::size_t count = std::min(EntryNames::stride, reader_.names_.count() - first);
+            if (const auto found = reader_.readStatus(directory_, part, count))
+                found_[part] = static_cast<std::uint32_t>(*found);
+            else
+                failed_.store(true, std::memory_order_relaxed);
+        }
+
+        bool failed() const { return failed_.load(std::memory_order_relaxed); }
+
+        /// Closes the gaps that entries left which are gone by now, and returns how many are there.
+        std::size_t closeGaps(Entries& entries) const {
+            const auto at = [&](std::size_t index) { return entries.begin() + static_cast<std::ptrdiff_t>(index); };
+            std::size_t end = 0;
+            for (std::size_t part = 0; part < found_.size(); end += found_[part++]) {
+                const std::size_t first = part * EntryNames::stride;
+                if (first != end) std::copy(at(first), at(first + found_[part]), at(end));
+            }
+            return end;
+        }
+
+    private:
+        LinuxDirectoryReader& reader_;
+        const int directory_;
+        std::vector<std::uint32_t> found_;
+        std::atomic<bool> failed_ = false;
+    };
+
     const Entries* read() {
         const int directory = ladder_.current();
-        releaseExcessMemory();
+        if (entries_.capacity() * sizeof(DirEntry) > keptBytes) Entries().swap(entries_);
         entries_.clear();
-        if (directory < 0 || !readNames(directory)) return nullptr;
-        return statEntries(directory) ? &entries_ : nullptr;
-    }
-
-    /// Reads all records of the directory into names_.
-    bool readNames(int directory) {
-        used_ = 0;
-        while (true) {
-            if (names_.size() < used_ + readBytes) names_.resize(used_ == 0 ? readBytes : used_ * 2 + readBytes);
-            const long got = syscall(SYS_getdents64, directory, names_.data() + used_, names_.size() - used_);
-            if (got == 0) return true;
-            if (got < 0) {
-                if (errno == EINTR) continue;
-                return false;
-            }
-            used_ += static_cast<std::size_t>(got);
-        }
-    }
-
-    std::size_t countRecords() const {
-        std::size_t count = 0;
-        for (std::size_t at = 0; at < used_; ++count) {
-            std::uint16_t length;
-            std::memcpy(&length, names_.data() + at + offsetof(KernelEntry, length), sizeof length);
-            at += length;
-        }
-        return count;
-    }
-
-    bool statEntries(int directory) {
-        // Reserve exactly: a list that grows by doubling briefly exists twice, which in a folder of hundreds of
+        if (directory < 0 || !names_.read(directory)) return nullptr;
+        // Make room exactly: a list that grows by doubling briefly exists twice, which in a folder of hundreds of
         // thousands of entries would be the peak of the whole scan.
-        entries_.reserve(countRecords());
-        for (std::size_t at = 0; at < used_;) {
-            KernelEntry record;
-            std::memcpy(&record, names_.data() + at, sizeof record);
-            const char* name = names_.data() + at + nameOffset;
-            at += record.length;
-            if (isDotOrDotDot(name)) continue;
-            DirEntry& entry = entries_.emplace_back();
+        entries_.resize(names_.count());
+        const std::optional<std::size_t> found = helpers_ != nullptr && names_.count() >= sharedFrom
+                                                     ? shareStatus(directory)
+                                                     : readStatus(directory, 0, names_.count());
+        if (!found) return nullptr;
+        entries_.resize(*found);
+        return &entries_;
+    }
+
+    std::optional<std::size_t> shareStatus(int directory) {
+        StatusWork work(*this, directory);
+        if (!helpers_->run(work) || work.failed()) return std::nullopt;
+        return work.closeGaps(entries_);
+    }
+
+    /// Reads the status of `count` entries from place `from` on into their room in the list. Returns how many of them
+    /// still exist, one after the other; nothing if the directory counts as unreadable. Several threads may read at
+    /// once, each from another place.
+    std::optional<std::size_t> readStatus(int directory, std::size_t from, std::size_t count) {
+        DirEntry* const first = entries_.data() + from * EntryNames::stride;
+        DirEntry* next = first;
+        const bool isReadable = names_.forEach(from, count, [&](const char* name, std::uint8_t type) {
             std::uint64_t mount = 0;
-            switch (statxEntry(directory, name, entry, &mount)) {
+            switch (statxEntry(directory, name, *next, &mount)) {
                 case StatxOutcome::ok:
-                    if (entry.objType == directoryObjectType) volume_.claim(directory, name, mount, entry);
-                    continue;
+                    if (next->objType == directoryObjectType) volume_.claim(directory, name, mount, *next);
+                    ++next;
+                    return true;
                 case StatxOutcome::gone:
-                    break;  // deleted since it was listed, which is not a failure
+                    return true;  // deleted since it was listed, which is not a failure
                 case StatxOutcome::failed:
-                    if (record.type != DT_DIR) return false;
-                    switch (classifyFailedSubfolder(directory, errno, entry)) {
-                        case FailedSubfolder::mountPoint:
-                            break;
-                        case FailedSubfolder::subfolder:
-                            entry.name = name;
-                            volume_.claimOwn(entry);
-                            continue;
-                        case FailedSubfolder::directoryUnreadable:
-                            return false;
-                    }
                     break;
             }
-            entries_.pop_back();
-        }
-        return true;
-    }
-
-    void releaseExcessMemory() {
-        if (names_.capacity() > keptBytes) std::vector<char>().swap(names_);
-        if (entries_.capacity() * sizeof(DirEntry) > keptBytes) Entries().swap(entries_);
+            if (type != DT_DIR) return false;
+            switch (classifyFailedSubfolder(directory, errno, *next)) {
+                case FailedSubfolder::mountPoint:
+                    return true;
+                case FailedSubfolder::subfolder:
+                    next->name = name;
+                    volume_.claimOwn(*next);
+                    ++next;
+                    return true;
+                case FailedSubfolder::directoryUnreadable:
+                    break;
+            }
+            return false;
+        });
+        if (!isReadable) return std::nullopt;
+        return static_cast<std::size_t>(next - first);
     }
 
     DirectoryLadder ladder_;
     ScanVolume volume_;
-    std::vector<char> names_;
-    std::size_t used_ = 0;
+    EntryNames names_;
     Entries entries_;
+    Helpers* helpers_ = nullptr;
 };
 
 }  // namespace

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+// Large folders, which workers that wait for a folder read together. Entries that are held at the same time show that
+// as many threads are in one folder.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "ScanFixture.h"
+#include "platform/Thread.h"
+#include "scan/ParallelWalker.h"
+
+namespace zelk {
+namespace {
+
+/// Every folder with eight entries or more is shared, in parts of two.
+class SharedFolder : public ScanFixture {
+protected:
+    SharedFolder() { disk.shareFrom(8, 2); }
+
+    void files(const std::string& folder, int count = 8) {
+        for (int i = 0; i < count; ++i) disk.file(folder + "/" + std::to_string(i) + ".txt", 10);
+    }
+
+    /// Scans "/r" and, once a thread waits at each of `entries`, lets it go on to its end.
+    ScanResult scanHolding(const std::vector<std::string>& entries) {
+        for (const std::string& entry : entries) disk.holdEntry(entry);
+        const auto queue = std::make_shared<UpdateQueue>();
+        ScanEngine(disk, clock, trash).start(queue, {"/r"});
+        for (const std::string& entry : entries) disk.waitUntilHeld(entry);
+        disk.release();
+        EXPECT_TRUE(drainThreads(60));
+        return ScanResult(queue->takeAll().updates);
+    }
+};
+
+TEST_F(SharedFolder, isReadByThoseWhoWait) {
+    files("/r");
+    workers(4);
+    const ScanResult result = scanHolding({"/r/0.txt", "/r/2.txt", "/r/4.txt", "/r/6.txt"});
+    EXPECT_EQ(result.stats.totalBytes, 80);
+    EXPECT_EQ(result.stats.filesScanned, 8);
+    std::set<std::string> readers;
+    for (int i = 0; i < 8; i += 2) readers.insert(disk.entryReader("/r/" + std::to_string(i) + ".txt"));
+    EXPECT_EQ(readers.size(), 4U);
+}
+
+#ifdef __linux__
+
+/// How many workers are asleep.
+int sleepingWorkers() {
+    int count = 0;
+    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream file(task.path() / "stat");
+        std::string line;
+        std::getline(file, line);
+        count += line.find("(zelk.scan.worke) S") != std::string::npos ? 1 : 0;
+    }
+    return count;
+}
+
+TEST_F(SharedFolder, wakesThoseWhoWait) {
+    files("/r");
+    workers(3);
+    disk.hold("/r");
+    for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt"}) disk.holdEntry(name);
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r");
+    while (sleepingWorkers() < 3) std::this_thread::yield();
+    disk.releaseFolders();
+    for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt"}) disk.waitUntilHeld(name);
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 80);
+}
+
+#endif
+
+TEST_F(SharedFolder, isReadByNobodyElseWithOneWorker) {
+    files("/r");
+    workers(1);
+    EXPECT_EQ(scan({"/r"}).stats.totalBytes, 80);
+    EXPECT_EQ(disk.entryReader("/r/0.txt"), "") << "it was shared";
+}
+
+TEST_F(SharedFolder, isReadByNobodyElseWithOneReader) {
+    class OneReader : public fakes::FakeDirectoryService {
+    public:
+        std::int64_t maximumReaders() override { return 1; }
+    } one;
+    one.shareFrom(1, 1);
+    one.file("/r/f", 10);
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(one, clock).runHere(queue, {"/r"});
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 10);
+    EXPECT_EQ(one.entryReader("/r/f"), "") << "it was shared";
+}
+
+TEST_F(SharedFolder, isCompleteWhoeverEndsLast) {
+    files("/r/d", 200);
+    workers(3);
+    for (const int late : {0, 1, 100, 198, 199}) {
+        const ScanResult result = scanHolding({"/r/d/" + std::to_string(late) + ".txt"});
+        EXPECT_EQ(result.stats.totalBytes, 2000) << late;
+        EXPECT_EQ(result.insights.typeTotals[FileType::document], (TypeTally{2000, 200})) << late;
+    }
+}
+
+TEST_F(SharedFolder, keepsItsOrderWithAnyNumberOfWorkers) {
+    std::string wanted;
+    for (int i = 0; i < 300; ++i) {
+        const std::string name = std::to_string(i * 7919 % 1000);
+        if (i % 3 != 0) {
+            disk.file("/r/f" + name + ".mp3", static_cast<std::uint64_t>(i));
+            if (i % 5 == 0) disk.hardLink("/r/l" + name + ".iso", "/r/f" + name + ".mp3");
+            continue;
+        }
+        disk.file("/r/" + name + "/inside", 1);
+        wanted += name + " ";
+    }
+    std::vector<LargeFile> largest;
+    for (const int count : {1, 2, 8}) {
+        SCOPED_TRACE(count);
+        workers(count);
+        const ScanResult result = scan({"/r"});
+        std::string names;
+        for (const NodeRef& child : at(result, "/r")->children) names += std::string(child->name()) + " ";
+        EXPECT_EQ(names, wanted);
+        std::int64_t bytes = 100;
+        for (int i = 0; i < 300; ++i) bytes += i % 3 != 0 ? i : 0;
+        EXPECT_EQ(result.stats.totalBytes, bytes);
+        EXPECT_EQ(result.stats.dirsScanned, 101);
+        EXPECT_EQ(at(result, "/r")->ownFileBytes, bytes - 100);
+        if (largest.empty()) largest = result.insights.topFiles;
+        EXPECT_EQ(result.insights.topFiles.size(), 250U);
+        for (std::size_t i = 0; i < 150; ++i) EXPECT_EQ(result.insights.topFiles[i], largest[i]) << i;
+        EXPECT_EQ(result.insights.typeTotals[FileType::diskImage].bytes, 0) << "counted by its first name";
+    }
+}
+
+TEST_F(SharedFolder, omitsMountPointsInIt) {
+    files("/r", 20);
+    disk.device("/r/mounted", 2);
+    disk.file("/r/mounted/f", 100);
+    disk.file("/r/own/f", 1);
+    workers(8);
+    const ScanResult result = scan({"/r"});
+    EXPECT_EQ(result.stats.totalBytes, 201);
+    EXPECT_EQ(result.stats.dirsScanned, 2);
+    EXPECT_EQ(disk.timesRead("/r/mounted"), 0);
+}
+
+TEST_F(SharedFolder, isUnreadableIfAnyPartOfItIs) {
+    files("/r/good");
+    files("/r/bad");
+    disk.damaged("/r/bad/7.txt");
+    workers(4);
+    const ScanResult result = scanHolding({"/r/bad/0.txt", "/r/bad/6.txt"});
+    EXPECT_EQ(result.stats.blockedPaths, 1);
+    EXPECT_EQ(result.stats.totalBytes, 80);
+    EXPECT_EQ(result.stats.filesScanned, 8);
+    EXPECT_TRUE(at(result, "/r/bad")->isUnreadable());
+    EXPECT_EQ(at(result, "/r/bad")->fileCount, 0);
+    EXPECT_EQ(result.insights.typeTotals[FileType::document], (TypeTally{80, 8}));
+    for (const LargeFile& file : result.insights.topFiles) EXPECT_TRUE(file.path.starts_with("/r/good/")) << file.path;
+}
+
+TEST_F(SharedFolder, isOneOfTwoAtOnce) {
+    files("/r/a");
+    files("/r/b");
+    workers(4);
+    const ScanResult result = scanHolding({"/r/a/0.txt", "/r/a/2.txt", "/r/b/0.txt", "/r/b/2.txt"});
+    EXPECT_EQ(result.stats.totalBytes, 160);
+}
+
+TEST_F(SharedFolder, isSharedBelowTheSharedDepthToo) {
+    const std::string deep = "/r/1/2/3/4/5/6/7";
+    files(deep);
+    disk.file(deep + "/after/f", 1);
+    workers(3);
+    const ScanResult result = scanHolding({deep + "/0.txt", deep + "/2.txt", deep + "/4.txt"});
+    EXPECT_EQ(result.stats.totalBytes, 81);
+    EXPECT_EQ(result.stats.dirsScanned, 9);
+}
+
+TEST_F(SharedFolder, lendsItsReadersNoLongerThanItTakes) {
+    files("/r");
+    disk.directory("/r/a");
+    disk.directory("/r/b");
+    workers(2);
+    disk.hold("/r/a");
+    disk.hold("/r/b");
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r/a");
+    disk.waitUntilHeld("/r/b");
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 3);
+}
+
+/// Runs a walk of its own, to see what one that was cancelled leaves.
+class CancelledFolder : public SharedFolder {
+protected:
+    void walk(std::int64_t workerCount) {
+        const NodeRef top = FSNode::make("", 0);
+        node = FSNode::make("/r", 0);
+        top->append(node);
+        const auto walker = std::make_shared<ParallelWalker>(disk, WorkerLimits{workerCount, workerCount}, collectors,
+                                                             trash, cancel, std::make_shared<UpdateQueue>());
+        walker->run({{node, disk.openRoot("/r"), 2, 0, 1, false}});
+    }
+
+    ScanCollectors collectors;
+    NodeRef node;
+    const std::shared_ptr<CancelFlag> cancel = std::make_shared<CancelFlag>();
+};
+
+TEST_F(CancelledFolder, isLeftBetweenTwoParts) {
+    files("/r", 100);
+    disk.holdEntry("/r/0.txt");
+    disk.holdEntry("/r/2.txt");
+    std::thread walking([&] { walk(2); });
+    disk.waitUntilHeld("/r/0.txt");
+    disk.waitUntilHeld("/r/2.txt");
+    cancel->set();
+    disk.release();
+    walking.join();
+    EXPECT_NE(disk.entryReader("/r/1.txt"), "");
+    for (int i = 4; i < 100; ++i) EXPECT_EQ(disk.entryReader("/r/" + std::to_string(i) + ".txt"), "") << i;
+}
+
+TEST_F(CancelledFolder, isNeitherUnreadableNorHalfCounted) {
+    files("/r", 100);
+    disk.holdEntry("/r/0.txt");
+    disk.holdEntry("/r/2.txt");
+    std::thread walking([&] { walk(2); });
+    disk.waitUntilHeld("/r/0.txt");
+    disk.waitUntilHeld("/r/2.txt");
+    cancel->set();
+    disk.release();
+    walking.join();
+    EXPECT_FALSE(node->isUnreadable());
+    EXPECT_EQ(node->fileCount, 0);
+    const ScanCounters::Counts counts = collectors.counters.counts();
+    EXPECT_EQ(counts.blocked, 0);
+    EXPECT_EQ(counts.files, 0);
+    EXPECT_TRUE(collectors.topFiles.items().empty());
+}
+
+TEST_F(CancelledFolder, countsIfItWasComplete) {
+    files("/r", 8);
+    for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt", "/r/6.txt"}) disk.holdEntry(name);
+    std::thread walking([&] { walk(4); });
+    for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt", "/r/6.txt"}) disk.waitUntilHeld(name);
+    cancel->set();
+    disk.release();
+    walking.join();
+    EXPECT_EQ(node->fileCount, 8);
+}
+
+}  // namespace
+}  // namespace zelk
