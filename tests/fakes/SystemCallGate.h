@@ -58,9 +58,13 @@ inline long requireBits(int number, unsigned argument, unsigned bits, unsigned e
 /// call pass, or the errno that it fails with.
 using SystemCallRule = std::function<int(unsigned call)>;
 
+/// The same, knowing the kernel's number of the calling thread.
+using ThreadCallRule = std::function<int(unsigned call, pid_t thread)>;
+
 /// Runs `body` on a thread whose system calls `number` are subject to `rule`: simulates failures of the disk and
-/// actions of other programs at an exact moment.
-inline void behindGate(int number, const SystemCallRule& rule, const std::function<void()>& body) {
+/// actions of other programs at an exact moment. The threads that it starts are subject to it too, and must have ended
+/// soon after.
+inline void behindGate(int number, const ThreadCallRule& rule, const std::function<void()>& body) {
     std::promise<int> listenerMade;
     std::future<int> listener = listenerMade.get_future();
     std::thread gated([&] {
@@ -82,7 +86,7 @@ inline void behindGate(int number, const SystemCallRule& rule, const std::functi
             if (::ioctl(fd, SECCOMP_IOCTL_NOTIF_RECV, &asked) != 0) continue;
             seccomp_notif_resp answer{};
             answer.id = asked.id;
-            answer.error = -rule(call++);
+            answer.error = -rule(call++, static_cast<pid_t>(asked.pid));
             if (answer.error == 0) answer.flags = SECCOMP_USER_NOTIF_FLAG_CONTINUE;
             ::ioctl(fd, SECCOMP_IOCTL_NOTIF_SEND, &answer);
         }
@@ -92,6 +96,10 @@ inline void behindGate(int number, const SystemCallRule& rule, const std::functi
         gated.join();
         throw;
     }
+}
+
+inline void behindGate(int number, const SystemCallRule& rule, const std::function<void()>& body) {
+    behindGate(number, ThreadCallRule([&rule](unsigned call, pid_t) { return rule(call); }), body);
 }
 
 }  // namespace zelk::fakes

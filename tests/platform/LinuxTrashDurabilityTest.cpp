@@ -28,7 +28,8 @@ using fakes::writeFile;
 const std::string tracedCalls =
     "?access,?faccessat,?faccessat2,?open,openat,?openat2,?mkdir,mkdirat,?stat,?lstat,?fstat,?newfstatat,?statx,"
     "?readlink,readlinkat,read,write,fsync,close,?rename,renameat,?renameat2,?unlink,unlinkat,?rmdir,flock,fcntl,"
-    "?getdents64,?lseek,?statfs,?fstatfs,?link,linkat,?chmod,?fchmod";
+    "?getdents64,?lseek,?statfs,?fstatfs,?link,linkat,?chmod,?fchmod,"
+    "?sync_file_range";
 
 class TrashDurability : public TracedTrash {
 protected:

@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/file.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -11,10 +12,13 @@
 #include <filesystem>
 #include <future>
 #include <mutex>
+#include <set>
+#include <string>
 #include <thread>
 #include <utility>
 
 #include "fakes/InChild.h"
+#include "fakes/Mounts.h"
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
@@ -195,6 +199,82 @@ TEST_F(EmptyingTrash, keepsInfoOfUnremovableEntryAndContinues) {
     EXPECT_THAT(namesIn(files), ElementsAre("locked"));
     EXPECT_THAT(namesIn(info), ElementsAre("locked.trashinfo"));
     EXPECT_TRUE(fs::exists(files + "/locked/theirs/file"));
+}
+
+// So many that several threads share them.
+TEST_F(EmptyingTrash, removesManyEntries) {
+    constexpr int many = 500;
+    for (int number = 0; number < many; ++number) {
+        const std::string name = std::to_string(number);
+        if (number % 5 != 0) addInfo(name);
+        zoo::makeFile(files + "/" + name + (number % 2 == 0 ? "/below/file" : ""));
+    }
+    EXPECT_EQ(itsTrash.empty(), std::size_t{many});
+    EXPECT_THAT(namesIn(files), IsEmpty());
+    EXPECT_THAT(namesIn(info), IsEmpty());
+}
+
+TEST_F(EmptyingTrash, keepsUnremovableEntriesAmongMany) {
+    constexpr int many = 300;
+    std::set<std::string> kept;
+    for (int number = 0; number < many; ++number) {
+        const std::string name = std::to_string(number);
+        zoo::makeFile(files + "/" + name + "/theirs/file");
+        addInfo(name);
+        if (number % 7 == 0) kept.insert(name);
+    }
+    fakes::giveToOrdinaryUser(home);
+    if (::geteuid() != 0) GTEST_SKIP() << "only the superuser can be two users";
+    for (const std::string& name : kept) ASSERT_EQ(::chown((files + "/" + name + "/theirs").c_str(), 0, 0), 0);
+    EXPECT_TRUE(asOrdinaryUser([&] { return itsTrash.empty() == many - kept.size(); }));
+    EXPECT_EQ(namesIn(files), kept);
+    EXPECT_EQ(namesIn(info).size(), kept.size());
+    for (const std::string& name : kept) EXPECT_TRUE(fs::exists(info + "/" + name + ".trashinfo"));
+}
+
+TEST_F(EmptyingTrash, leavesEntriesWithAMountAsTheyAre) {
+    fakes::Mounts mounts;
+    if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
+    zoo::makeFile(temp / "elsewhere/kept");
+    for (int number = 0; number < 100; ++number) {
+        zoo::makeFile(files + "/" + std::to_string(number) + "/file");
+        addInfo(std::to_string(number));
+    }
+    for (const char* name : {"7", "42"}) {
+        zoo::makeFolder(files + "/" + name + "/mounted");
+        mounts.again(temp / "elsewhere", files + "/" + name + "/mounted");
+    }
+    EXPECT_EQ(itsTrash.empty(), 98u);
+    EXPECT_THAT(namesIn(files), ElementsAre("42", "7"));
+    EXPECT_THAT(namesIn(info), ElementsAre("42.trashinfo", "7.trashinfo"));
+    for (const char* name : {"7", "42"}) EXPECT_TRUE(fs::exists(files + "/" + name + "/file"));
+    EXPECT_TRUE(fs::exists(temp / "elsewhere/kept"));
+}
+
+// Its table of mounts was read before; what is mounted since then is noticed on the way.
+TEST_F(EmptyingTrash, doesNotCrossAMountMadeMeanwhile) {
+    fakes::Mounts mounts;
+    if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
+    zoo::makeFile(temp / "elsewhere/kept");
+    for (const char* name : {"a", "b"}) {
+        zoo::makeFile(files + "/" + name + "/mounted/file");
+        addInfo(name);
+    }
+    bool mounted = false;
+    fakes::behindGate(
+        SYS_unlinkat,
+        [&](unsigned) {
+            if (std::exchange(mounted, true)) return 0;
+            // One entry is under way; the other has still its name.
+            for (const std::string& name : namesIn(files))
+                mounts.again(temp / "elsewhere", files + "/" + name + "/mounted");
+            return 0;
+        },
+        [&] { EXPECT_EQ(itsTrash.empty(), 0u); });
+    // One of them has moved with the entry that holds it.
+    for (const char* name : {"a", "b"}) ::umount2((files + "/" + name + "/mounted").c_str(), MNT_DETACH);
+    EXPECT_TRUE(fs::exists(temp / "elsewhere/kept"));
+    EXPECT_THAT(namesIn(files), ElementsAre("a", "b"));
 }
 
 TEST_F(EmptyingTrash, keepsUnremovableEntryWithoutHardLinks) {

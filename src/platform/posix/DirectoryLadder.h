@@ -39,6 +39,10 @@ public:
     bool ascend();
     /// The current directory, owned by the ladder; -1 if it could not be opened.
     int current() const { return rungs_.empty() ? -1 : rungs_.back().fd; }
+    /// The directory on `level`, counted from 0 at the start; -1 if it is closed or could not be opened.
+    int at(std::size_t level) const { return rungs_.at(level).fd; }
+    /// The highest level that may be open; those above it are closed.
+    std::size_t highestOpen() const { return firstOpen_; }
 
 private:
     struct Rung {

@@ -14,12 +14,12 @@ namespace {
 
 /// As many as keep a disk busy, or fewer if the limit on descriptors is low: a removal deep in a tree holds some
 /// twenty, and the rest of the process needs its share.
-std::ptrdiff_t permitCount() {
+std::ptrdiff_t permitCount(rlim_t fewest) {
     constexpr rlim_t descriptorsEach = 32;
     constexpr rlim_t most = 64;
     rlimit limit;
-    if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return 2;
-    return static_cast<std::ptrdiff_t>(std::clamp<rlim_t>(limit.rlim_cur / descriptorsEach, 2, most));
+    const rlim_t count = getrlimit(RLIMIT_NOFILE, &limit) == 0 ? limit.rlim_cur / descriptorsEach : 0;
+    return static_cast<std::ptrdiff_t>(std::clamp(count, fewest, most));
 }
 
 // Not std::counting_semaphore: that of g++ wakes every waiter on each release, so thousands of items would cost their
@@ -41,8 +41,18 @@ RemovalPermit::RemovalPermit() {
     Permits& all = permits();
     std::unique_lock lock(all.mutex);
     // Reads the limit each time, because it may have changed.
-    all.free.wait(lock, [&] { return all.taken < permitCount(); });
+    all.free.wait(lock, [&] { return all.taken < permitCount(2); });
     ++all.taken;
+}
+
+std::unique_ptr<RemovalPermit> RemovalPermit::ifFree() {
+    Permits& all = permits();
+    {
+        const std::lock_guard lock(all.mutex);
+        if (all.taken >= permitCount(0)) return nullptr;
+        ++all.taken;
+    }
+    return std::unique_ptr<RemovalPermit>(new RemovalPermit(Taken{}));
 }
 
 RemovalPermit::~RemovalPermit() {

@@ -4,6 +4,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,9 @@
 #include "platform/linux/trash/TrashOrphans.h"
 #include "platform/posix/DirectoryNames.h"
 #include "platform/posix/FolderLock.h"
+#include "platform/posix/FolderMounts.h"
+#include "platform/posix/RemovalHelpers.h"
+#include "platform/posix/RemovalPermit.h"
 #include "platform/posix/RemoveEntry.h"
 
 namespace zelk {
@@ -24,23 +28,37 @@ std::vector<TrashEntry> entriesOf(const TrashFolder& trash) {
     return entries;
 }
 
+/// False if the entry, or what is left of it, is still there.
+bool removeTrashed(const TrashFolder& trash, const TrashEntry& entry, FolderMounts& mounts,
+                   std::atomic<unsigned>& next) {
+    // Look under its old name: the table may have been read when it still had it.
+    if (entry.content.isDirectory() && mounts.areIn(entry.name, entry.content.mount)) return false;
+    std::string own;
+    if (setAside(trash, entry, "emptying", next, own) != 0) return false;
+    if (removeEntry(trash.files.get(), own, MountsInside::none)) {
+        putBack(trash, own, entry);
+        return false;
+    }
+    const Place info = infoOf(trash, own);
+    ::unlinkat(info.folder, info.name.c_str(), 0);
+    return true;
+}
+
 }  // namespace
 
 std::size_t emptyTrash(const TrashFolder& trash) {
     Descriptor turn;
     if (!lockFolder(trash.files.get(), LOCK_EX, turn)) return 0;
-    std::size_t removed = 0;
-    for (const TrashEntry& entry : entriesOf(trash)) {
-        std::string own;
-        if (setAside(trash, entry, "emptying", own) != 0) continue;
-        if (removeEntry(trash.files.get(), own)) {
-            putBack(trash, own, entry);
-            continue;
+    const std::vector<TrashEntry> entries = entriesOf(trash);
+    std::atomic<unsigned> next{0};
+    std::atomic<std::size_t> removed{0};
+    removeInRanges(entries.size(), [&](std::size_t first, std::size_t end) {
+        FolderMounts mounts(trash.files.get());
+        for (std::size_t number = first; number < end; ++number) {
+            const RemovalPermit permit;
+            if (removeTrashed(trash, entries[number], mounts, next)) ++removed;
         }
-        ++removed;
-        const Place info = infoOf(trash, own);
-        ::unlinkat(info.folder, info.name.c_str(), 0);
-    }
+    });
     sweepOrphans(trash, Orphans::anybody);
     // A size cache of other programs.
     if (removed > 0) ::unlinkat(trash.itself.get(), "directorysizes", 0);

@@ -11,9 +11,10 @@ namespace zelk {
 /// orphaned info too, unless it is so young that its content may be about to arrive. Emptyings of one trash wait for
 /// each other, also across processes of Zelk.
 ///
-/// First renames each entry, never separating it from its info, so that nothing that other programs trash or delete
-/// meanwhile has the same name. What is interrupted or cannot be deleted keeps its info and can be restored as far as
-/// it is left; it gets its old name back if that is free.
+/// Deletes several entries at the same time where there are many. First renames each entry, never separating it from
+/// its info, so that nothing that other programs trash or delete meanwhile has the same name. What is interrupted or
+/// cannot be deleted keeps its info and can be restored as far as it is left; it gets its old name back if that is
+/// free.
 ///
 /// Returns the number of deleted entries, orphaned info not counted.
 std::size_t emptyTrash(const TrashFolder& trash);

@@ -125,8 +125,7 @@ Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trash
     // The system cannot return a path longer than its limit; then use the one it was reached by.
     const std::string path = pathIn(pathOfDirectory(parent.get()).value_or(item.parent()), from.name);
     if (sandbox_.isPartOf(path, home_)) return translated("Failure", "it belongs to the sandbox that Zelk runs in");
-    const std::vector<Mount> mounts = mountTable();
-    if (status->isDirectory() && isMountedBelow(mounts, path))
+    if (status->isDirectory() && isMountedBelow(mountTable(), path))
         return translated("Failure", "another volume is mounted in it");
 
     std::string reason;
@@ -140,6 +139,7 @@ Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trash
             return failureText(ZELK_TEXT("Failure", "“%1” couldn’t be opened: %2"), home_, systemText(ENOENT));
         trash = openHomeTrash(dataHome_, IfMissing::create, reason);
     } else {
+        const std::vector<Mount> mounts = mountTable();
         const std::optional<std::string> top = mountPointOf(mounts, above->mount);
         const std::optional<std::string> relative = top ? relativePath(path, *top) : std::nullopt;
         if (sandbox_.isInside() && !isWholeVolume(mounts, above->mount))
@@ -160,7 +160,7 @@ Failure LinuxTrash::move(const ItemPath& item, std::optional<TrashedItem>& trash
     const std::string key = std::to_string(itself->device) + ":" + std::to_string(itself->inode) + "/" + from.name;
     TrashEntryName entry;
     if (Failure failure = moveIntoTrash(
-            from, original, *trash, [&] { return numbers_.next(key); }, entry))
+            from, original, *trash, [&] { return numbers_.next(key); }, flush_, entry))
         return failure;
     // Describe what was really moved, even if something else took the item's place at the last moment.
     const FileStatus moved = fileStatus(trash->files.get(), entry.name).value_or(*status);

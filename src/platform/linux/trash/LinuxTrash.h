@@ -11,6 +11,7 @@
 
 #include "platform/Trash.h"
 #include "platform/linux/Sandbox.h"
+#include "platform/linux/trash/SharedFlush.h"
 
 namespace zelk {
 
@@ -57,6 +58,7 @@ private:
     std::string home_;
     std::string dataHome_;
     Numbers numbers_;
+    SharedFlush flush_;
     std::mutex sweeping_;
     std::set<std::pair<std::uint64_t, std::uint64_t>> swept_;  ///< swept trashes by device and inode
 };

@@ -63,13 +63,14 @@ Place infoOf(const TrashFolder& trash, const std::string& name) {
     return {trash.info.get(), name + std::string(trashInfoSuffix)};
 }
 
-int setAside(const TrashFolder& trash, const TrashEntry& entry, const std::string& why, std::string& own) {
+int setAside(const TrashFolder& trash, const TrashEntry& entry, const std::string& why, std::atomic<unsigned>& next,
+             std::string& own) {
     constexpr int maximumTries = 1000;
     Descriptor moving;  // its info briefly has no content without being an orphan
     if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return errno;
     int error = EEXIST;
     for (int tried = 0; error == EEXIST && tried < maximumTries; ++tried) {
-        own = why + "." + std::to_string(::getpid()) + "." + std::to_string(tried);
+        own = why + "." + std::to_string(::getpid()) + "." + std::to_string(next++);
         error = renameEntry(trash, entry, own);
     }
     return error;

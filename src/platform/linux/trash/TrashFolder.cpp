@@ -28,9 +28,12 @@ public:
 
     Descriptor open(int parent, const std::string& above, const char* name) {
         const std::string path = pathIn(above, name);
-        if (ifMissing_ == IfMissing::create && ::mkdirat(parent, name, 0700) != 0 && errno != EEXIST)
-            return refuse(notCreated, path, systemText(errno));
         Descriptor folder(openSubdirectoryOnMount(parent, name));
+        if (!folder && errno == ENOENT && ifMissing_ == IfMissing::create) {
+            if (::mkdirat(parent, name, 0700) != 0 && errno != EEXIST)
+                return refuse(notCreated, path, systemText(errno));
+            folder = Descriptor(openSubdirectoryOnMount(parent, name));
+        }
         if (!folder) return refuseUnopened(path, parent, name);
         const std::optional<FileStatus> status = fileStatus(folder.get());
         if (!status) return refuse(notOpened, path, systemText(errno));

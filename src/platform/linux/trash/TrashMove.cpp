@@ -45,8 +45,19 @@ bool writeAll(int file, std::string_view content) {
     return true;
 }
 
+/// Has the content and the name of a new file written to the disk. The file's own flush is what counts, and it comes
+/// last: in a journal the shared one of the folder has usually written what the file still needs, so that it does not
+/// take a transaction for each file.
+bool flushInfo(const Descriptor& file, int folder, SharedFlush& names) {
+    // Without the content, that transaction would lack where it is. Only a hint: what fails here fails below.
+    constexpr unsigned now = SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER;
+    static_cast<void>(::sync_file_range(file.get(), 0, 0, now));
+    names.flush(folder);
+    return uninterrupted([&] { return ::fsync(file.get()); }) == 0;
+}
+
 /// Returns 0 or the errno: EEXIST if the file exists. Leaves no file of its own on an error.
-int createInfo(const Place& info, std::string_view content) {
+int createInfo(const Place& info, std::string_view content, SharedFlush& names) {
     const auto create = [&info](mode_t mode) {
         constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
         return uninterrupted([&] { return ::openat(info.folder, info.name.c_str(), flags, mode); });
@@ -54,14 +65,9 @@ int createInfo(const Place& info, std::string_view content) {
     Descriptor file(create(0600 | ownInfoMark));
     if (!file && (errno == EPERM || errno == EINVAL)) file = Descriptor(create(0600));  // the volume refuses the mark
     if (!file) return errno;
-    const bool written = writeAll(file.get(), content) && uninterrupted([&] { return ::fsync(file.get()); }) == 0;
+    const bool written = writeAll(file.get(), content) && flushInfo(file, info.folder, names);
     const int error = errno;
-    if (written && file.close()) {
-        // Flush its name too. Most file systems have written it with the file, and those that cannot flush a folder
-        // return an error.
-        static_cast<void>(::fsync(info.folder));
-        return 0;
-    }
+    if (written && file.close()) return 0;
     const int closing = written ? errno : error;
     ::unlinkat(info.folder, info.name.c_str(), 0);
     return closing == 0 ? EIO : closing;
@@ -71,10 +77,11 @@ bool isTaken(const Place& place) {
     return ::faccessat(place.folder, place.name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
-int moveWithInfo(const Place& item, const Place& content, const Place& info, std::string_view text) {
+int moveWithInfo(const Place& item, const Place& content, const Place& info, std::string_view text,
+                 SharedFlush& names) {
     // Do not even write info for a name whose content is taken.
     if (isTaken(content)) return EEXIST;
-    if (const int error = createInfo(info, text); error != 0) return error;
+    if (const int error = createInfo(info, text, names); error != 0) return error;
     const int error = moveWithoutReplacing(item, content);
     if (error != 0) ::unlinkat(info.folder, info.name.c_str(), 0);
     return error;
@@ -94,7 +101,7 @@ std::string reasonOfMove(int error) {
 }  // namespace
 
 Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next,
-                      TrashEntryName& entry) {
+                      SharedFlush& names, TrashEntryName& entry) {
     Descriptor moving;  // its info briefly has no content without being an orphan
     if (!lockFolder(trash.info.get(), LOCK_SH, moving)) return systemText(errno);
     entry.info = trashInfoText(path, localTime());
@@ -102,7 +109,7 @@ Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFol
     int error = EEXIST;
     for (int tried = 0; error == EEXIST && tried < maximumTries; ++tried) {
         entry.name = trashName(item.name, tried == 0 ? 1 : next(), limit);
-        error = moveWithInfo(item, {trash.files.get(), entry.name}, infoOf(trash, entry.name), entry.info);
+        error = moveWithInfo(item, {trash.files.get(), entry.name}, infoOf(trash, entry.name), entry.info, names);
     }
     if (error == 0) return std::nullopt;
     return reasonOfMove(error);

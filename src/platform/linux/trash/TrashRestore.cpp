@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <cstddef>
 #include <optional>
@@ -47,7 +48,8 @@ int takeAside(const TrashFolder& trash, const std::string& name, const TrashedIt
     // Check early so that the usual failure does not touch the entry. The move finds what comes later.
     if (fileStatus(place.folder, place.name)) return EEXIST;
     entry = {name, *content};
-    return setAside(trash, entry, "restoring", own);
+    std::atomic<unsigned> next{0};
+    return setAside(trash, entry, "restoring", next, own);
 }
 
 }  // namespace
