@@ -77,10 +77,17 @@ T.MenuBar {
             // Below the title, which begins where reading begins.
             x: ReadingDirection.mirrored ? (parent?.width ?? 0) - width : 0
             width: Math.max(implicitWidth, Math.round(220 * TextScale.factor))
-            onAboutToShow: bar.enter()
+            onAboutToShow: {
+                rows.active = true;
+                bar.enter();
+            }
             onClosed: bar.leave()
 
+            // Created when the menu is first opened, and then kept.
             Instantiator {
+                id: rows
+
+                active: false
                 model: sheet.modelData
 
                 delegate: MenuRow {
