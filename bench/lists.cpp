@@ -12,13 +12,11 @@
 #include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
 #include <string_view>
 
 #include "Camera.h"
 #include "FrameBench.h"
+#include "SampleFiles.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
 #include "ui/screens/lens/LensScreenModel.h"
@@ -31,14 +29,6 @@
 namespace {
 
 using namespace zelk;
-
-void makeItems(const std::filesystem::path& home, int count) {
-    for (int number = 0; number < count; ++number) {
-        const std::filesystem::path item = home / "work" / ("project " + std::to_string(number)) / "__pycache__";
-        std::filesystem::create_directories(item);
-        std::ofstream(item / "a.pyc") << std::string(1000, 'x');
-    }
-}
 
 void runItems(AppModel& app, MainWindow& window) {
     app.startScan();
@@ -105,7 +95,7 @@ int main(int argc, char** argv) {
     dressApplication();
 
     const QTemporaryDir home;
-    makeItems(home.path().toStdString(), count);
+    bench::makeItems(home.path().toStdString(), count);
     NativePlatform native(home.path().toStdString());
     {
         AppModel app(native.platform());

@@ -13,13 +13,11 @@
 #include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
 #include <string_view>
 
 #include "Camera.h"
 #include "FrameBench.h"
+#include "SampleFiles.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
 #include "state/AppsModel.h"
@@ -39,33 +37,6 @@ struct Counts {
     int sets = 5'000;
     int apps = 500;
 };
-
-void makeFile(const std::filesystem::path& file, const std::string& start, std::uintmax_t size) {
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << start;
-    std::filesystem::resize_file(file, size);
-}
-
-void makeSets(const std::filesystem::path& home, int count) {
-    for (int number = 0; number < count; ++number) {
-        const std::string name = "film " + std::to_string(number);
-        for (const char* folder : {"films", "films to sort"})
-            makeFile(home / folder / name, name, 2'000'000 + static_cast<std::uintmax_t>(number));
-    }
-}
-
-void makeApps(const std::filesystem::path& home, int count) {
-    const std::filesystem::path entries = home / ".local/share/applications";
-    std::filesystem::create_directories(entries);
-    for (int number = 0; number < count; ++number) {
-        const std::string name = "Program " + std::to_string(number);
-        const std::filesystem::path image = home / "Applications" / (name + ".AppImage");
-        makeFile(image, std::string("\177ELF\2\1\1\0AI\2", 11), 100'000);
-        std::filesystem::permissions(image, std::filesystem::perms::owner_all);
-        std::ofstream(entries / (name + ".desktop")) << "[Desktop Entry]\nType=Application\nName=" << name
-                                                     << "\nExec=\"" << image.string() << "\"\nIcon=text-editor\n";
-    }
-}
 
 void openModule(MainWindow& window, const char* sidebarRow) {
     tour::clickOn(window.window(), QString::fromLatin1(sidebarRow));
@@ -148,8 +119,8 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     dressApplication();
 
-    makeSets(home.path().toStdString(), counts.sets);
-    makeApps(home.path().toStdString(), counts.apps);
+    bench::makeSets(home.path().toStdString(), counts.sets);
+    bench::makeApps(home.path().toStdString(), counts.apps);
     NativePlatform native(home.path().toStdString());
     {
         AppModel app(native.platform());

@@ -9,15 +9,12 @@
 // resident set, counting each page fully: the proportional set would change with every other program that has Qt
 // loaded.
 
-#include <sys/wait.h>
 #include <time.h>
-#include <unistd.h>
 
 #include <QApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QTimer>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -26,6 +23,8 @@
 #include <utility>
 #include <vector>
 
+#include "Median.h"
+#include "OwnProcess.h"
 #include "ResidentMemory.h"
 #include "platform/NativePlatform.h"
 #include "state/AppModel.h"
@@ -97,34 +96,17 @@ void showEmpty(int argc, char** argv, long long started) {
 
 /// Runs this program again as the process that shows `what`.
 std::optional<Cost> costOf(const char* what) {
-    int ends[2];
-    if (::pipe(ends) != 0) return std::nullopt;
-    const std::string started = std::to_string(now());
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::dup2(ends[1], STDOUT_FILENO);
-        ::close(ends[0]);
-        ::close(ends[1]);
-        ::execl("/proc/self/exe", "startup", "--child", what, started.c_str(), nullptr);
-        ::_exit(127);
-    }
-    ::close(ends[1]);
-    std::FILE* said = ::fdopen(ends[0], "r");
+    const std::optional<std::string> said = zelk::bench::outputOfOwn({"--child", what, std::to_string(now())});
     Cost cost;
-    const bool complete =
-        std::fscanf(said, "%lf %lf %lf", &cost.milliseconds, &cost.millisecondsToAll, &cost.mebibytes) == 3;
-    std::fclose(said);
-    int status = 0;
-    if (child < 0 || ::waitpid(child, &status, 0) != child || status != 0 || !complete) return std::nullopt;
-    return cost;
+    const bool complete = said && std::sscanf(said->c_str(), "%lf %lf %lf", &cost.milliseconds, &cost.millisecondsToAll,
+                                              &cost.mebibytes) == 3;
+    return complete ? std::optional(cost) : std::nullopt;
 }
 
 double median(const std::vector<Cost>& costs, double Cost::*figure) {
     std::vector<double> figures;
     for (const Cost& cost : costs) figures.push_back(cost.*figure);
-    std::sort(figures.begin(), figures.end());
-    const std::size_t half = figures.size() / 2;
-    return figures.size() % 2 == 1 ? figures[half] : (figures[half - 1] + figures[half]) / 2;
+    return zelk::bench::medianOf(figures);
 }
 
 int compare(int rounds) {

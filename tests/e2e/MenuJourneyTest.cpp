@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The menu bar, used with the mouse, with the keyboard and by shortcuts.
+#include <QQmlListReference>
+
 #include "ShellFixture.h"
 
 namespace zelk {
@@ -12,6 +14,19 @@ protected:
 };
 
 }  // namespace
+
+TEST_F(Menus, hasItsRowsOnceItIsOpened) {
+    const QQmlListReference menus(find("menus"), "menus");
+    ASSERT_GT(menus.size(), 0);
+    for (qsizetype at = 0; at < menus.size(); ++at) EXPECT_EQ(menus.at(at)->property("count").toInt(), 0);
+    QObject* const first = menus.at(0);
+    click(("menuTitle" + first->property("title").toString().toStdString()).c_str());
+    const int rows = first->property("count").toInt();
+    EXPECT_GT(rows, 0);
+    press(Qt::Key_Escape);
+    click(("menuTitle" + first->property("title").toString().toStdString()).c_str());
+    EXPECT_EQ(first->property("count").toInt(), rows) << "it keeps them";
+}
 
 TEST_F(Menus, controlDigitSelectsScreen) {
     for (int place = 8; place >= 0; --place) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <QAccessible>
+#include <algorithm>
 
 #include "ShellFixture.h"
 #include "ui/theme/ScreenLook.h"
@@ -18,6 +19,15 @@ protected:
     static std::string rowOf(Screen screen) { return "sidebar" + lookOf(screen).title.toStdString(); }
     void toTheFirstRow() { find("sidebarOverview")->forceActiveFocus(Qt::TabFocusReason); }
     double sidebarWidth() { return find("sidebar")->width(); }
+    /// Whether there is an item of this name, visible or not.
+    bool isMade(const char* name) { return isMade(*window().contentItem(), QString::fromLatin1(name)); }
+
+private:
+    static bool isMade(const QQuickItem& item, const QString& name) {
+        const QList<QQuickItem*> children = item.childItems();
+        return item.objectName() == name ||
+               std::ranges::any_of(children, [&](const QQuickItem* child) { return isMade(*child, name); });
+    }
 };
 
 }  // namespace
@@ -202,6 +212,25 @@ TEST_F(Navigation, moduleShowsHeaderAndResultsAfterSurvey) {
     survey();
     EXPECT_TRUE(shows(QStringLiteral("Explore where your space went — a list and a live bubble map, side by side.")));
     EXPECT_NE(find("lensList"), nullptr);
+}
+
+TEST_F(Navigation, moduleCreatesOnlyThePageThatItShows) {
+    click("sidebarLens");
+    EXPECT_TRUE(isMade("moduleGlow"));
+    EXPECT_FALSE(isMade("moduleProgressBar"));
+    EXPECT_FALSE(isMade("lensList"));
+    survey();
+    EXPECT_TRUE(isMade("moduleProgressBar")) << "it was shown";
+    EXPECT_TRUE(isMade("moduleGlow")) << "it is kept";
+    EXPECT_TRUE(isMade("lensList"));
+}
+
+TEST_F(Navigation, startPageIsNotCreatedForResults) {
+    survey();
+    click("sidebarLens");
+    EXPECT_TRUE(isMade("lensList"));
+    EXPECT_FALSE(isMade("moduleGlow"));
+    EXPECT_FALSE(isMade("moduleProgressBar"));
 }
 
 TEST_F(Navigation, orbPulsesOnlyWhileVisibleAndMotionIsNotReduced) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QQuickWindow>
+
 #include "Painted.h"
 
 namespace zelk {
@@ -26,6 +28,21 @@ QColor at(const QImage& image, double x, double y) {
     return image.pixelColor(static_cast<int>(image.width() / 2 + perPoint * x),
                             static_cast<int>(image.height() / 2 + perPoint * y));
 }
+
+/// Knows how often it was painted and what is left of that.
+class CountedPicture : public PaintedOnce {
+public:
+    QImage picture(double /*scale*/) const override {
+        ++painted;
+        return QImage(20, 20, QImage::Format_RGB32);
+    }
+    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override {
+        return node = PaintedOnce::updatePaintNode(old, data);
+    }
+
+    mutable int painted = 0;
+    QSGNode* node = nullptr;
+};
 
 }  // namespace
 
@@ -180,6 +197,44 @@ TEST(ScanComet, staysInsideFrameWhileTurning) {
     constexpr double edge = 113.5;
     for (const QPointF end : {QPointF(0, -edge), QPointF(edge, 0), QPointF(0, edge), QPointF(-edge, 0)})
         EXPECT_EQ(at(comet, end.x(), end.y()).alpha(), 0);
+}
+
+TEST(PaintedOnce, isPaintedAgainOnlyForAChange) {
+    QQuickWindow window;
+    CountedPicture item;
+    item.setParentItem(window.contentItem());
+    item.setSize({20, 20});
+    window.show();
+    for (int frame = 0; frame < 3; ++frame) window.grabWindow();
+    EXPECT_EQ(item.painted, 1);
+    emit item.changed();
+    window.grabWindow();
+    EXPECT_EQ(item.painted, 2);
+}
+
+TEST(PaintedOnce, holdsNoPictureWhileItIsHidden) {
+    QQuickWindow window;
+    QQuickItem page;
+    page.setParentItem(window.contentItem());
+    page.setVisible(false);
+    CountedPicture item;
+    item.setParentItem(&page);
+    item.setSize({20, 20});
+    window.show();
+    window.grabWindow();
+    EXPECT_EQ(item.painted, 0) << "nobody sees it";
+    page.setVisible(true);
+    window.grabWindow();
+    EXPECT_EQ(item.painted, 1);
+    EXPECT_NE(item.node, nullptr);
+    page.setVisible(false);
+    emit item.changed();
+    window.grabWindow();
+    EXPECT_EQ(item.node, nullptr);
+    EXPECT_EQ(item.painted, 1);
+    page.setVisible(true);
+    window.grabWindow();
+    EXPECT_EQ(item.painted, 2);
 }
 
 }  // namespace zelk

@@ -50,17 +50,23 @@ QImage ModuleGlow::picture(double scale) const {
 
     QImage image(static_cast<int>(std::ceil(width() * scale)), static_cast<int>(std::ceil(height() * scale)),
                  QImage::Format_RGB32);
+    const double middle = middle_.x() * scale;
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         const float* offsets = dither.data() + (static_cast<unsigned>(y) % ditherSide) * ditherSide;
         const auto down = static_cast<float>(y + 0.5 - middle_.y() * scale);
-        for (int x = 0; x < image.width(); ++x) {
-            const auto across = static_cast<float>(x + 0.5 - middle_.x() * scale);
-            const float share = std::max(0.0F, full - fade * std::sqrt(across * across + down * down));
-            const float offset = offsets[static_cast<unsigned>(x) % ditherSide];
-            line[x] = qRgb(static_cast<int>(ground.red + share * way.red + offset),
-                           static_cast<int>(ground.green + share * way.green + offset),
-                           static_cast<int>(ground.blue + share * way.blue + offset));
+        // In steps of the square's side, which the compiler turns into vector instructions.
+        for (int left = 0; left < image.width(); left += ditherSide) {
+            const auto first = static_cast<float>(left + 0.5 - middle);
+            std::array<QRgb, ditherSide> shades;
+            for (unsigned x = 0; x < ditherSide; ++x) {
+                const float across = first + static_cast<float>(x);
+                const float share = std::max(0.0F, full - fade * std::sqrt(across * across + down * down));
+                shades[x] = qRgb(static_cast<int>(ground.red + share * way.red + offsets[x]),
+                                 static_cast<int>(ground.green + share * way.green + offsets[x]),
+                                 static_cast<int>(ground.blue + share * way.blue + offsets[x]));
+            }
+            std::copy_n(shades.begin(), std::min<int>(ditherSide, image.width() - left), line + left);
         }
     }
     return image;

@@ -160,7 +160,7 @@ void PaintedOnce::repaint() {
 }
 
 QSGNode* PaintedOnce::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-    if (width() <= 0 || height() <= 0) {
+    if (width() <= 0 || height() <= 0 || !isVisible()) {
         delete old;
         return nullptr;
     }
@@ -185,6 +185,8 @@ QSGNode* PaintedOnce::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
 
 void PaintedOnce::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemDevicePixelRatioHasChanged) repaint();
+    // Qt Quick asks hidden items for their contents too, and would keep them.
+    if (change == ItemVisibleHasChanged) update();
     QQuickItem::itemChange(change, data);
 }
 

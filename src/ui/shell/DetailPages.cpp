@@ -93,6 +93,10 @@ QVariantMap DetailPages::given(int row) {
     return {{QString::fromLatin1(placeOf(screen).property), QVariant::fromValue(modelOf(screen))}};
 }
 
+QString DetailPages::currentView() const {
+    return QString::fromLatin1(placeOf(allScreens[static_cast<std::size_t>(current_)]).view);
+}
+
 QObject* DetailPages::modelOf(Screen screen) {
     std::unique_ptr<QObject>& model = models_[static_cast<std::size_t>(screen)];
     if (!model) model = placeOf(screen).make(context_);

@@ -37,6 +37,8 @@ public:
     /// The required properties of the view in this row.
     Q_INVOKABLE QVariantMap given(int row);
 
+    /// The view of the current screen: its file's name without the extension.
+    QString currentView() const;
     /// The screen's model, created on first use. `Model` must be the class that the table of screens creates.
     template <class Model>
     Model& model(Screen screen) {

@@ -1,12 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ui/shell/MainWindow.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFontDatabase>
+#include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QScreen>
 #include <QThread>
+#include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <utility>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "state/AppModel.h"
 #include "ui/screens/overview/SurveyScreenModel.h"
@@ -25,6 +35,9 @@
 namespace zelk {
 
 namespace {
+
+/// After the contents were painted, before the other views are prepared.
+constexpr std::chrono::milliseconds restAfterStart{300};
 
 template <class T>
 T* singleton(QQmlEngine& engine, const char* name) {
@@ -54,6 +67,19 @@ std::unique_ptr<QQuickWindow> makeWindow(QQmlEngine& engine, const QString& file
         window->setGeometry(place);
     }
     return window;
+}
+
+/// Draws the window now, instead of after the pause that platforms put before an update.
+void drawAtOnce(QQuickWindow& window) {
+    QEvent update(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&window, &update);
+}
+
+/// Gives memory that is free already back to the system.
+void trimMemory() {
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
 }
 
 /// Whether a modal sheet covers the window.
@@ -88,6 +114,10 @@ void bringForward(QWindow& window) {
 MainWindow::MainWindow(AppModel& app, WindowServices services)
     : app_(app), services_(std::move(services)), sidebar_(std::make_unique<SidebarModel>(app)) {
     registerInterface();
+    // Looking for the system's fonts takes longer than shaping the first texts. The first frame has none, so that the
+    // two go on side by side.
+    background_.start(
+        [family = QGuiApplication::font().family()] { static_cast<void>(QFontDatabase::hasFamily(family)); });
     engine_.addImportPath(QStringLiteral("qrc:/"));
 
     // Before the first frame, so that no window shows the wrong theme.
@@ -109,6 +139,7 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
                           {QStringLiteral("commands"), QVariant::fromValue(commands_.get())},
                           {QStringLiteral("quitQuestion"), QVariant::fromValue(quitQuestion_.get())},
                           {QStringLiteral("firstRun"), QVariant::fromValue(firstRun_.get())}});
+    views_.loadSoon({QStringLiteral("MainContents"), pages_->currentView()});  // while the first frame is drawn
     // The window may be closed or minimized when the user quits through the status item.
     QObject::connect(quitQuestion_.get(), &QuitQuestion::changed, window_.get(), [this] {
         if (quitQuestion_->asking()) bringForward(*window_);
@@ -118,7 +149,9 @@ MainWindow::MainWindow(AppModel& app, WindowServices services)
         afterNextFrame([this] {
             complete_ = true;
             if (whenComplete_) std::exchange(whenComplete_, {})();
+            QTimer::singleShot(restAfterStart, window_.get(), [this] { views_.loadAll(); });
         });
+        drawAtOnce(*window_);
     });
 }
 
@@ -197,7 +230,10 @@ void MainWindow::releaseClosed(WindowId id) {
     places_[id] = closed.mapped()->geometry();
     closed_.push_back(std::move(closed.mapped()));
     const auto release = [this] {
-        if (QThread::currentThread()->loopLevel() <= 1) closed_.clear();
+        if (QThread::currentThread()->loopLevel() > 1) return;
+        closed_.clear();
+        engine_.collectGarbage();
+        trimMemory();
     };
     QMetaObject::invokeMethod(window_.get(), release, Qt::QueuedConnection);
 }

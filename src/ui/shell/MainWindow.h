@@ -4,6 +4,7 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QRect>
+#include <QThreadPool>
 #include <functional>
 #include <map>
 #include <memory>
@@ -12,6 +13,7 @@
 #include "ui/shell/Activation.h"
 #include "ui/shell/AppCommands.h"
 #include "ui/shell/DetailPages.h"
+#include "ui/shell/ViewTypes.h"
 #include "ui/shell/WindowServices.h"
 
 namespace zelk {
@@ -75,6 +77,8 @@ private:
     std::unique_ptr<QuitQuestion> quitQuestion_;
     std::unique_ptr<AppCommands> commands_;
     QQmlEngine engine_;
+    ViewTypes views_{engine_};
+    QThreadPool background_;          // waits for its work when it goes
     Motion* motion_ = nullptr;        // owned by the engine
     TextScale* textScale_ = nullptr;  // owned by the engine
     std::map<WindowId, std::unique_ptr<QQuickWindow>> secondary_;

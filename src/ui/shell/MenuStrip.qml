@@ -76,13 +76,18 @@ T.MenuBar {
             title: sheet.modelData.title
             width: Math.max(implicitWidth, Math.round(220 * TextScale.factor))
             onAboutToShow: {
+                rows.active = true;
                 // Below the title, which begins where reading begins. (The bar sets `x` before.)
                 sheet.x = ReadingDirection.mirrored ? sheet.parent.width - sheet.width : 0;
                 bar.enter();
             }
             onClosed: bar.leave()
 
+            // Created when the menu is first opened, and then kept.
             Instantiator {
+                id: rows
+
+                active: false
                 model: sheet.modelData
 
                 delegate: MenuRow {

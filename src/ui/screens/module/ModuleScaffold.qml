@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The frame of a module that scans: start page, progress, and results. A module provides its model and a component for
-// the results, which has a `module` property; they are created when first shown, and then kept. Without such a component
-// it never has results.
+// the results, which has a `module` property. Each of the three is created when first shown, and then kept. Without
+// such a component it never has results.
 pragma ComponentBehavior: Bound
 
 import QtQuick
@@ -26,10 +26,10 @@ FocusScope {
     ModuleFace {
         shown: scaffold.module.idle
 
-        ModuleHero {
-            anchors.fill: parent
+        FacePage {
+            file: "ModuleHero.qml"
             module: scaffold.module
-            focus: true
+            wanted: scaffold.module.idle
         }
     }
 
@@ -38,49 +38,10 @@ FocusScope {
 
         shown: scaffold.module.scanning
 
-        Column {
-            anchors.centerIn: parent
-            width: parent.width - 2 * Theme.pageMargin
-
-            ModuleOrb {
-                anchors.horizontalCenter: parent.horizontalCenter
-                symbol: scaffold.module.symbol
-                tint: scaffold.module.tint
-                pulsing: true
-            }
-
-            Label {
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: Math.min(implicitWidth, parent.width)
-                topPadding: 20
-                text: scaffold.module.scanningLabel
-                size: 15
-                font.weight: Font.DemiBold
-            }
-
-            AnimatedNumber {
-                anchors.horizontalCenter: parent.horizontalCenter
-                objectName: "moduleScanDetail"
-                width: Math.min(implicitWidth, parent.width)
-                phrase: scaffold.module.scanDetail
-                color: Theme.inkSoft
-                pixelSize: 12
-                visible: text !== ""
-            }
-
-            Item {
-                width: 1
-                height: 20
-            }
-
-            ModuleProgressBar {
-                anchors.horizontalCenter: parent.horizontalCenter
-                objectName: "moduleProgressBar"
-                tint: scaffold.module.tint
-                name: scaffold.module.title
-                doing: scaffold.module.doing
-                share: scaffold.module.share
-            }
+        FacePage {
+            file: "ModuleScan.qml"
+            module: scaffold.module
+            wanted: scaffold.module.scanning
         }
 
         Shortcut {
@@ -151,6 +112,34 @@ FocusScope {
                 duration: Motion.gentle
                 easing.type: Easing.OutCubic
             }
+        }
+    }
+
+    // The page of a face, created when it is first shown, and then kept.
+    component FacePage: Loader {
+        id: page
+
+        required property string file
+        required property ModuleScreenModel module
+        required property bool wanted
+
+        // `wanted` may change before all required properties are set.
+        property bool made: false
+
+        function build() {
+            if (page.made && page.wanted && page.status === Loader.Null)
+                page.setSource(page.file, {
+                    "module": page.module
+                });
+        }
+
+        anchors.fill: parent
+        focus: true
+        onWantedChanged: page.build()
+        onLoaded: page.item.focus = true
+        Component.onCompleted: {
+            page.made = true;
+            page.build();
         }
     }
 }
