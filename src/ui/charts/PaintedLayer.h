@@ -14,7 +14,8 @@ namespace zelk {
 void paintHouseTile(QPainter& painter, double side);
 
 /// Base of items that are painted into a texture, again only when a property, the size or the scale changes, or after
-/// they were hidden: a hidden item holds no texture, since that of a page is megabytes, and every visited screen is kept.
+/// they were hidden: a hidden item holds no texture, since that of a page is megabytes and every visited screen is
+/// kept.
 /// Animations that rotate, scale or fade such an item take next to no time on the main thread.
 class PaintedOnce : public QQuickItem {
     Q_OBJECT
