@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// growth FOLDERS: surveys a simulated tree of so many folders, with four files in each, and prints how long the walk and
-// the roll-up took and how many bytes of the heap the finished tree holds per folder, as a line of JSON. The listings are
-// computed where they are asked for, so that only the walk itself is measured, and the tree may be larger than any that
-// is at hand.
+// growth FOLDERS: surveys a simulated tree of so many folders, with four files in each, and prints how long the walk
+// and the roll-up took and how many bytes of the heap the finished tree holds per folder, as a line of JSON. The
+// listings are computed where they are asked for, so that only the walk itself is measured, and the tree may be larger
+// than any that is at hand.
 
 #include <cstddef>
 #include <cstdint>
@@ -22,11 +22,12 @@
 
 namespace {
 
-using zelk::DirEntry;
 using zelk::DirectoryReader;
+using zelk::DirEntry;
 
 constexpr std::uint64_t filesInEach = 4;
-constexpr std::uint64_t subfoldersInEach = 8;  // ten million folders are then nested eight levels deep, like those of a home
+constexpr std::uint64_t subfoldersInEach =
+    8;  // ten million folders are then nested eight levels deep, like those of a home
 constexpr std::int32_t device = 1;
 constexpr std::uint32_t regularType = 1;
 
