@@ -130,7 +130,7 @@ TEST_F(SharedFolder, keepsItsOrderWithAnyNumberOfWorkers) {
         workers(count);
         const ScanResult result = scan({"/r"});
         std::string names;
-        for (const NodeRef& child : at(result, "/r")->children) names += std::string(child->name()) + " ";
+        for (const FSNode& child : at(result, "/r")->children()) names += std::string(child.name()) + " ";
         EXPECT_EQ(names, wanted);
         std::int64_t bytes = 100;
         for (int i = 0; i < 300; ++i) bytes += i % 3 != 0 ? i : 0;
@@ -210,11 +210,10 @@ class CancelledFolder : public SharedFolder {
 protected:
     void walk(std::int64_t workerCount) {
         const NodeRef top = FSNode::make("", 0);
-        node = FSNode::make("/r", 0);
-        top->append(node);
+        node = NodeRef(&top->append("/r", 0));
         const auto walker = std::make_shared<ParallelWalker>(disk, WorkerLimits{workerCount, workerCount}, collectors,
                                                              trash, cancel, std::make_shared<UpdateQueue>());
-        walker->run({{node, disk.openRoot("/r"), 2, 0, 1, false}});
+        walker->run({{node.get(), disk.openRoot("/r"), 2, 0, 1, false}});
     }
 
     ScanCollectors collectors;

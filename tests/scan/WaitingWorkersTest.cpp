@@ -94,11 +94,10 @@ protected:
     void walk(WorkerLimits limits) { walk(limits, disk); }
     void walk(WorkerLimits limits, CountingDisk& on) {
         const NodeRef top = FSNode::make("", 0);
-        const NodeRef node = FSNode::make("/r", 0);
-        top->append(node);
+        FSNode& node = top->append("/r", 0);
         const auto walker = std::make_shared<ParallelWalker>(on, limits, collectors, TrashPlaces(), cancel,
                                                              std::make_shared<UpdateQueue>());
-        walker->run({{node, on.openRoot("/r"), 2, 0, 1, false}});
+        walker->run({{&node, on.openRoot("/r"), 2, 0, 1, false}});
     }
 
     CountingDisk disk;

@@ -21,7 +21,7 @@ std::vector<std::string> childrenOf(const Scan& its, std::string_view name) {
     std::vector<std::string> names;
     for (const FSNode* const node : nodesBelow(*its.root)) {
         if (node->name() != name && !node->name().ends_with('/' + std::string(name))) continue;
-        for (const NodeRef& child : node->children) names.emplace_back(child->name());
+        for (const FSNode& child : node->children()) names.emplace_back(child.name());
     }
     return names;
 }
