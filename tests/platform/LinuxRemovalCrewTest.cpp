@@ -189,6 +189,22 @@ TEST_F(Crew, removesFoldersWithoutOwnerPermission) {
     }
 }
 
+// As it looks to one of two that meet the same closed folder: refused, and then there is nothing left to grant.
+TEST_F(Crew, triesAgainWhereAFellowHasGrantedAccessMeanwhile) {
+    for (const int number : {SYS_unlinkat, SYS_openat2}) {
+        for (unsigned refused = 1; refused < 6; ++refused) {
+            makeTree(2, 2, victim);
+            Failure failure;
+            behindGate(
+                number, [&](unsigned call) { return call == refused ? EACCES : 0; },
+                [&] { failure = removed(oneThread); });
+            EXPECT_EQ(failure, std::nullopt) << number << " " << refused;
+            EXPECT_FALSE(fs::exists(victim));
+            fs::remove_all(victim);
+        }
+    }
+}
+
 // The folders that cannot be removed are another user's, somewhere in the tree. Of two equal trees one thread removes
 // one and the crew the other.
 TEST_F(Crew, removesWhatOneThreadWouldAndReportsItsFailure) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -10,9 +11,9 @@
 
 namespace zelk {
 
-/// What is mounted in the entries of one folder, by a table that is read once, at the first question: for some entries
-/// in a row. What is mounted after that, or moved here with a mount in it, is not in the table. So this saves from
-/// removing half of an item; what keeps a removal out of other mounts is how it opens folders.
+/// What is mounted in the entries of one folder, by a table that is read for some entries in a row, and again when it
+/// is a second old. What is mounted after that, or moved here with a mount in it, is not in the table. So this saves
+/// from removing half of an item; what keeps a removal out of other mounts is how it opens folders.
 class FolderMounts {
 public:
     /// `folder` must stay open. If its path is unknown, no mount is known.
@@ -23,7 +24,7 @@ public:
 
 private:
     const int folder_;
-    bool read_ = false;
+    std::optional<std::chrono::steady_clock::time_point> read_;
     std::optional<std::string> path_;
     std::vector<Mount> table_;
 };

@@ -37,8 +37,7 @@ private:
 };
 
 /// Calls `body` with ranges, from the first number up to the one after the last, that together are the numbers below
-/// `count`: on this thread and, if there are several, on helpers. A range is so small that what is looked up once for
-/// it is not old at its end. Returns when all calls have returned.
+/// `count`: on this thread and, if there are several, on helpers. Returns when all calls have returned.
 void removeInRanges(std::size_t count, const std::function<void(std::size_t first, std::size_t end)>& body);
 
 }  // namespace zelk

@@ -79,16 +79,18 @@ bool TreeRemover::descend(const std::string& name) {
 template <class Call>
 bool TreeRemover::inFolder(Call call) {
     if (call()) return true;
-    const int error = errno;
-    if (error == EACCES && isInItem() && giveOwnerAccess(current())) return call();
-    errno = error;
-    return false;
+    if (errno != EACCES || !isInItem()) return false;
+    // Again also if there was nothing to grant: a fellow in the same folder may just have done it.
+    static_cast<void>(giveOwnerAccess(current()));
+    return call();
 }
 
 /// After entering `name` failed: grants access. True if entering may succeed now.
 bool TreeRemover::openToOwner(const std::string& name) {
     const bool here = isInItem() && giveOwnerAccess(current());
-    return giveOwnerAccess(current(), name) || here;
+    if (giveOwnerAccess(current(), name) || here) return true;
+    // A fellow in the same folder may just have granted it.
+    return static_cast<bool>(Descriptor(openSubdirectoryOnMount(current(), name)));
 }
 
 bool TreeRemover::enterLast() {

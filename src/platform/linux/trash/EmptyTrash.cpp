@@ -6,8 +6,10 @@
 
 #include <atomic>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "platform/Text.h"
 #include "platform/linux/trash/TrashEntry.h"
 #include "platform/linux/trash/TrashOrphans.h"
 #include "platform/posix/DirectoryNames.h"
@@ -26,6 +28,19 @@ std::vector<TrashEntry> entriesOf(const TrashFolder& trash) {
         if (const auto status = fileStatus(trash.files.get(), name)) entries.push_back({std::move(name), *status});
     }
     return entries;
+}
+
+/// A number above those that a killed emptying of the same process id left: no entry may come to the name of one that
+/// another thread is setting aside.
+unsigned firstNumber(const std::vector<TrashEntry>& entries) {
+    const std::string own = "emptying." + std::to_string(::getpid()) + ".";
+    unsigned first = 0;
+    for (const TrashEntry& entry : entries) {
+        if (!entry.name.starts_with(own)) continue;
+        const auto number = parseNumber<unsigned>(std::string_view(entry.name).substr(own.size()));
+        if (number && *number >= first) first = *number + 1;
+    }
+    return first;
 }
 
 /// False if the entry, or what is left of it, is still there.
@@ -50,7 +65,7 @@ std::size_t emptyTrash(const TrashFolder& trash) {
     Descriptor turn;
     if (!lockFolder(trash.files.get(), LOCK_EX, turn)) return 0;
     const std::vector<TrashEntry> entries = entriesOf(trash);
-    std::atomic<unsigned> next{0};
+    std::atomic<unsigned> next{firstNumber(entries)};
     std::atomic<std::size_t> removed{0};
     removeInRanges(entries.size(), [&](std::size_t first, std::size_t end) {
         FolderMounts mounts(trash.files.get());
