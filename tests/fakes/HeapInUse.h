@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#ifdef __APPLE__
+#include <malloc/malloc.h>
+#else
 #include <malloc.h>
+#endif
 
 #include <cstddef>
 
@@ -25,6 +29,8 @@ namespace zelk::fakes {
 inline std::size_t heapInUse() {
 #ifdef ZELK_SANITIZERS_HEAP
     return __sanitizer_get_current_allocated_bytes();
+#elif defined(__APPLE__)
+    return ::mstats().bytes_used;
 #else
     const struct mallinfo2 heap = ::mallinfo2();
     return heap.uordblks + heap.hblkhd;
