@@ -37,7 +37,6 @@
 // packaging/ makes what is installed.
 
 #include <QApplication>
-#include <clocale>
 #include <cstdlib>
 #include <optional>
 
@@ -70,8 +69,6 @@ int main(int argc, char** argv) {
     zelk::SingleInstance instance;
     if (const std::optional<int> status = instance.exitStatus()) return *status;
     QApplication application(argc, argv);
-    // Qt has set the user's locale for the C library too, by which the parser of JSON would read a fraction.
-    std::setlocale(LC_NUMERIC, "C");
     const zelk::Translations translations;
     zelk::dressApplication();
     zelk::refuseWindowTabs();

@@ -479,21 +479,6 @@ TEST_F(EmptyingTrash, removesLeftoversOfAKilledEmptying) {
     EXPECT_THAT(namesIn(info), IsEmpty());
 }
 
-// Another thread may be setting such a leftover aside, and would take the info of what comes to its name.
-TEST_F(EmptyingTrash, neverTakesTheNameOfALeftover) {
-    const std::string own = "emptying." + std::to_string(::getpid()) + ".";
-    for (const char* number : {"2", "7", "70x"}) zoo::makeFile(files + "/" + own + number);
-    add("file");
-    std::set<std::string> seen;
-    const auto rule = [&](unsigned) {
-        for (const std::string& name : namesIn(files)) seen.insert(name);
-        return 0;
-    };
-    fakes::behindGate(SYS_unlinkat, rule, [&] { EXPECT_EQ(itsTrash.empty(), 4u); });
-    for (const char* number : {"2", "7", "70x", "file"}) seen.erase(number[0] == 'f' ? number : own + number);
-    EXPECT_THAT(seen, ElementsAre(own + "10", own + "11", own + "8", own + "9"));
-}
-
 TEST_F(EmptyingTrash, restartsNumbering) {
     for (const char* round : {"one", "two"}) {
         for (const char* content : {"a", "b"}) {

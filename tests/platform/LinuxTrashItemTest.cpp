@@ -358,31 +358,6 @@ TEST_F(TrashItem, staysWhenInfoCannotBeWritten) {
     expectTrashUntouched();
 }
 
-// The kernel tells of a failed write once: the flush after this call would succeed.
-TEST_F(TrashItem, staysWhenInfoIsNotOnTheDisk) {
-    zoo::makeFolder(trash + "/files");
-    zoo::makeFolder(trash + "/info");
-    for (const int error : {EIO, ENOSPC, EDQUOT}) {
-        writeFile(item, "content");
-        Failure failure;
-        fakes::behindGate(
-            SYS_sync_file_range, [error](unsigned) { return error; }, [&] { failure = trashed(item); });
-        EXPECT_THAT(failure, Optional(StartsWith("“item.txt” couldn’t be moved to the Trash: "))) << error;
-        EXPECT_EQ(fileContent(item), "content");
-        expectTrashUntouched();
-    }
-}
-
-TEST_F(TrashItem, movesWithoutACallToWriteEarly) {
-    for (const int error : {ENOSYS, EPERM, EINVAL, ESPIPE}) {
-        writeFile(item, "content");
-        Failure failure;
-        fakes::behindGate(
-            SYS_sync_file_range, [error](unsigned) { return error; }, [&] { failure = trashed(item); });
-        EXPECT_EQ(failure, std::nullopt) << error;
-    }
-}
-
 TEST_F(TrashItem, staysWhenItsFolderIsNotWritable) {
     writeFile(item, "content");
     zoo::makeFolder(items + "/nowhere");

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
+#include <clocale>
 #include <utility>
 
 #include "ui/charts/PaintedLayer.h"
@@ -24,6 +25,8 @@ QString applicationId() {
 }
 
 void dressApplication() {
+    // Qt has set the user's locale for the C library too, by which the parser of JSON would read a fraction.
+    std::setlocale(LC_NUMERIC, "C");
     QGuiApplication::setApplicationName(QStringLiteral("Zelk"));
     // The desktop finds the icon of the window in the entry of this name; on Wayland there is no other way.
     QGuiApplication::setDesktopFileName(applicationId());
