@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // growth FOLDERS: surveys a simulated tree of so many folders, with four files in each, and prints how long the walk
-// and the roll-up took and how many bytes of the heap the finished tree holds per folder, as a line of JSON. The
-// listings are computed where they are asked for, so that only the walk itself is measured, and the tree may be larger
-// than any that is at hand.
+// and the roll-up took and how many bytes the finished tree takes per folder, as a line of JSON. The listings are
+// computed where they are asked for, so that only the walk itself is measured, and the tree may be larger than any that
+// is at hand.
 
 #include <cstddef>
 #include <cstdint>
@@ -15,7 +15,6 @@
 #include <variant>
 #include <vector>
 
-#include "fakes/HeapInUse.h"
 #include "platform/Text.h"
 #include "platform/posix/PosixClock.h"
 #include "scan/ScanEngine.h"
@@ -130,14 +129,13 @@ int main(int count, char** words) {
         return 2;
     }
     SimulatedTree simulated(static_cast<std::uint64_t>(*folders));
-    const std::size_t before = zelk::fakes::heapInUse();
     const Scan scan = scanned(simulated);
     if (!scan.tree || scan.folders != *folders) {
         std::fprintf(stderr, "growth: %lld folders of %lld were found\n", static_cast<long long>(scan.folders),
                      static_cast<long long>(*folders));
         return 1;
     }
-    const auto held = static_cast<double>(zelk::fakes::heapInUse() - before);
+    const auto held = static_cast<double>(scan.tree->arena().usedBytes());
     std::printf("{\"folders\":%lld,\"seconds\":%.6f,\"bytesPerFolder\":%.1f}\n", static_cast<long long>(scan.folders),
                 scan.seconds, held / static_cast<double>(scan.folders));
     return 0;
