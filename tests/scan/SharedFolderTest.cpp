@@ -216,35 +216,32 @@ protected:
         walker->run({{node.get(), disk.openRoot("/r"), 2, 0, 1, false}});
     }
 
+    /// Cancels a walk of two workers in a folder of a hundred files while each is at its first part.
+    void cancelWithTwoPartsUnderWay() {
+        files("/r", 100);
+        disk.holdEntry("/r/0.txt");
+        disk.holdEntry("/r/2.txt");
+        std::thread walking([&] { walk(2); });
+        disk.waitUntilHeld("/r/0.txt");
+        disk.waitUntilHeld("/r/2.txt");
+        cancel->set();
+        disk.release();
+        walking.join();
+    }
+
     ScanCollectors collectors;
     NodeRef node;
     const std::shared_ptr<CancelFlag> cancel = std::make_shared<CancelFlag>();
 };
 
 TEST_F(CancelledFolder, isLeftBetweenTwoParts) {
-    files("/r", 100);
-    disk.holdEntry("/r/0.txt");
-    disk.holdEntry("/r/2.txt");
-    std::thread walking([&] { walk(2); });
-    disk.waitUntilHeld("/r/0.txt");
-    disk.waitUntilHeld("/r/2.txt");
-    cancel->set();
-    disk.release();
-    walking.join();
+    cancelWithTwoPartsUnderWay();
     EXPECT_NE(disk.entryReader("/r/1.txt"), "");
     for (int i = 4; i < 100; ++i) EXPECT_EQ(disk.entryReader("/r/" + std::to_string(i) + ".txt"), "") << i;
 }
 
 TEST_F(CancelledFolder, isNeitherUnreadableNorHalfCounted) {
-    files("/r", 100);
-    disk.holdEntry("/r/0.txt");
-    disk.holdEntry("/r/2.txt");
-    std::thread walking([&] { walk(2); });
-    disk.waitUntilHeld("/r/0.txt");
-    disk.waitUntilHeld("/r/2.txt");
-    cancel->set();
-    disk.release();
-    walking.join();
+    cancelWithTwoPartsUnderWay();
     EXPECT_FALSE(node->isUnreadable());
     EXPECT_EQ(node->fileCount, 0);
     const ScanCounters::Counts counts = collectors.counters.counts();

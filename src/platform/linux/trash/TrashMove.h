@@ -23,8 +23,8 @@ struct TrashEntryName {
 
 /// Moves `item` into `trash` and fills in `entry`. Writes and flushes the info file with its original `path` first, so
 /// that everything in the Trash can be restored at every moment; `names` flushes for all moves of this process that are
-/// under way. On failure, whose reason it returns, the item is
-/// unchanged and no info is left. Never overwrites anything in the Trash, including content without info.
+/// under way. On failure, whose reason it returns, the item is unchanged and no info is left. Never overwrites anything
+/// in the Trash, including content without info.
 Failure moveIntoTrash(const Place& item, const std::string& path, const TrashFolder& trash, const NextNumber& next,
                       SharedFlush& names, TrashEntryName& entry);
 
