@@ -6,6 +6,7 @@
 #include <cstddef>
 
 #include "platform/FolderPath.h"
+#include "state/Figures.h"
 #include "ui/theme/DisplayText.h"
 
 namespace zelk {

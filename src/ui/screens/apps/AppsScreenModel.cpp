@@ -2,6 +2,7 @@
 #include "ui/screens/apps/AppsScreenModel.h"
 
 #include "state/AppModel.h"
+#include "state/Figures.h"
 #include "ui/screens/apps/AppTexts.h"
 #include "ui/theme/SystemTexts.h"
 

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "state/Figures.h"
 #include "ui/controls/AccessibleText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/FileTypeLook.h"

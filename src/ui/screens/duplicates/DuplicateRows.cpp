@@ -7,6 +7,7 @@
 #include <set>
 #include <utility>
 
+#include "state/Figures.h"
 #include "ui/controls/AccessibleText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/SafetyLook.h"

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "state/AppModel.h"
+#include "state/Figures.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/ScreenLook.h"
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "state/Figures.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/SystemTexts.h"
 

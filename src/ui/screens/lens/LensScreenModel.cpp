@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
+#include "state/Figures.h"
 #include "ui/theme/DisplayText.h"
 
 namespace zelk {

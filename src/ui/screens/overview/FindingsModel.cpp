@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "state/AppModel.h"
+#include "state/Figures.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/FileTypeLook.h"
 

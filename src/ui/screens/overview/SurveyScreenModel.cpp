@@ -8,6 +8,7 @@
 
 #include "platform/ByteFormat.h"
 #include "state/AppModel.h"
+#include "state/Figures.h"
 #include "ui/theme/SystemTexts.h"
 
 namespace zelk {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
+#include "state/Figures.h"
 #include "ui/controls/AccessibleText.h"
 #include "ui/theme/DisplayText.h"
 #include "ui/theme/SafetyLook.h"

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "state/AppModel.h"
+#include "state/Figures.h"
 #include "system/CommandText.h"
 #include "system/PrivilegedCommands.h"
 #include "system/SnapshotCommands.h"
