@@ -1,14 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Builds a preset of CMakePresets.json. Sourced after common.sh, from the root folder.
 
-# preset_folder PRESET: its build folder. The preset ci builds the release in another way, in the same folder.
-preset_folder() {
-    case $1 in
-        ci) echo build/release ;;
-        *) echo "build/$1" ;;
-    esac
-}
-
 # date_sources: what is built of one commit, on whatever day, is the same: Qt's resources and the package hold this date
 # of it instead of their own. A tree without a history, or a system without git, has none unless it is given.
 date_sources() {
@@ -25,14 +17,14 @@ build_preset() {
     preset=$1
     shift
     have cmake || fail "cmake is missing; scripts/packages.txt names all that is needed."
-    say "Building ($preset, into $(preset_folder "$preset"))"
+    say "Building ($preset, into build/$preset)"
     if on_mac && have brew; then
         CMAKE_PREFIX_PATH=$(brew --prefix)${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}
         export CMAKE_PREFIX_PATH
     fi
     date_sources
     cmake --preset "$preset" ||
-        fail "configuring failed; the reason stands above. If it speaks of an old cache, remove $(preset_folder "$preset") and run this again."
+        fail "configuring failed; the reason stands above. If it speaks of an old cache, remove build/$preset and run this again."
     # The compiler of views writes its variables in the order of hash tables, which hangs on a seed and on addresses:
     # without both fixed, two packages of one commit differ, and ccache knows no view again.
     # shellcheck disable=SC2086  # a command and its option

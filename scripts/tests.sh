@@ -8,7 +8,7 @@ run_tests() {
     QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software \
         ctest --preset "$1" -j "$((2 * $(getconf _NPROCESSORS_ONLN)))" --test-output-size-passed 10000000 \
         --test-output-size-failed 10000000 || tests_status=$?
-    log=$(preset_folder "$1")/Testing/Temporary/LastTest.log
+    log=build/$1/Testing/Temporary/LastTest.log
     [ $tests_status -eq 0 ] || failed_cases "$log"
     note "$(sed -n 's/^\[==========\] \([0-9]*\) tests\{0,1\} from .* ran\..*/\1/p' "$log" | awk '{ n += $1 } END { print n + 0 }')" \
         "test cases ran, $(grep -c '^\[  SKIPPED \] .* ms)$' "$log") of them skipped."
