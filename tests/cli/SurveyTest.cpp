@@ -3,13 +3,21 @@
 
 #include <gmock/gmock.h>
 #include <signal.h>
+#include <sys/syscall.h>
+#include <sysexits.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
+#include <set>
 #include <thread>
+#include <utility>
 
 #include "SampleSurvey.h"
+#include "cli/Program.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/InChild.h"
+#include "fakes/SystemCallGate.h"
 #include "platform/posix/ThreadCount.h"
 #include "state/SurveyHistory.h"
 #include "zoo/TempFolder.h"
@@ -145,11 +153,97 @@ TEST_F(SurveyRun, endsAtASignal) {
     disk.release();
 }
 
+TEST_F(SurveyRun, readsNoFurtherFolderAfterASignal) {
+    for (const char* name : {"/a/first", "/a/second", "/a/held"}) disk.directory(name);
+    disk.hold("/a/held");
+    ::setenv("ZELK_WORKERS", "1", 1);
+    std::thread interrupter([&] {
+        disk.waitUntilHeld("/a/held");  // the last is read first
+        ::kill(::getpid(), SIGINT);
+    });
+    EXPECT_FALSE(run({"/a"}));
+    interrupter.join();
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(disk.timesRead("/a/first"), 0);
+    EXPECT_EQ(disk.timesRead("/a/second"), 0);
+}
+
+/// Sends a signal when the thread that made it first asks for the time, which it does once the walk is over.
+class SignallingClock : public fakes::FakeClock {
+public:
+    double monotonic() override {
+        if (std::this_thread::get_id() == maker_ && !std::exchange(hasSent_, true)) ::raise(SIGTERM);
+        return fakes::FakeClock::monotonic();
+    }
+
+private:
+    const std::thread::id maker_ = std::this_thread::get_id();
+    bool hasSent_ = false;
+};
+
+TEST_F(SurveyRun, endsAtASignalAfterTheWalk) {
+    disk.file("/a/b", 1);
+    SignallingClock signalling;
+    const Storage own{signalling, disk, files, locations};
+    EXPECT_FALSE(runSurvey(own, {"/a"}, end, [](const update::Progress&) {}));
+    EXPECT_EQ(end.signal(), SIGTERM);
+    EXPECT_EQ(disk.timesRead("/a"), 1);
+}
+
+#ifdef __linux__
+TEST_F(SurveyRun, goesOnHereWhereNoThreadCanStart) {
+    disk.file("/a/b/c", 100);
+    std::optional<Survey> survey;
+    fakes::behindGate(
+        SYS_clone3, [](unsigned) { return EAGAIN; }, [&] { survey = run({"/a"}); });
+    ASSERT_TRUE(survey);
+    EXPECT_EQ(survey->stats.totalBytes, 100);
+    EXPECT_EQ(disk.timesRead("/a/b"), 1);
+    EXPECT_EQ(disk.lister("/a/b"), "") << "on a thread that was started";
+}
+#endif
+
+/// Forgets its folders once it was asked for the status of each.
+class ForgetfulDisk : public fakes::FakeDirectoryService {
+public:
+    std::optional<RootStatus> status(const std::string& path) override {
+        return asked_.insert(path).second ? fakes::FakeDirectoryService::status(path) : std::nullopt;
+    }
+
+private:
+    std::set<std::string> asked_;
+};
+
+TEST_F(SurveyRun, isAFailureIfARootIsGoneByThen) {
+    ForgetfulDisk forgetful;
+    forgetful.file("/a/b", 1);
+    const Storage own{clock, forgetful, files, locations};
+    Arguments arguments;
+    arguments.roots = {"/a"};
+    EXPECT_EQ(survey(own, arguments, end), EX_NOINPUT);
+    ASSERT_TRUE(drainThreads(60));
+}
+
 TEST_F(SurveyRun, remembersTheFirstSignal) {
     ::raise(SIGTERM);
     ::raise(SIGINT);
     EXPECT_EQ(end.signal(), SIGTERM);
     EXPECT_FALSE(run({"/a"}));
+}
+
+TEST(EndRequestItself, letsTheSecondOfASignalEndTheProcess) {
+    const HeardSignals heard;
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        for (const int times : {1, 2}) {
+            const bool survived = fakes::inChild([&] {
+                const EndRequest request;
+                for (int time = 0; time < times; ++time) ::raise(number);
+                return request.signal() == number;
+            });
+            EXPECT_EQ(survived, times == 1) << number;
+        }
+    }
 }
 
 TEST_F(SurveyRun, refusesARootThatIsNoFolder) {

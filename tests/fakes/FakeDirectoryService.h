@@ -25,8 +25,8 @@
 
 namespace zelk::fakes {
 
-/// Build it before a scan starts; while one runs, only hold(), waitUntilHeld(), release() and timesRead() may be
-/// called. Paths are absolute. Destroy it after the scan's threads have ended.
+/// Build it before a scan starts; while one runs, only sleepsPerFolder(), hold(), waitUntilHeld(), release() and what
+/// tells who read what may be called. Paths are absolute. Destroy it after the scan's threads have ended.
 class FakeDirectoryService : public DirectoryService {
 public:
     /// Creates `path` and its missing parents; "/" always exists.
@@ -112,10 +112,11 @@ public:
         gateMoved_.wait(lock, [&] { return waiting_.count(node) != 0; });
     }
 
-    /// Releases the threads that are held at folders, but not those at entries.
-    void releaseFolders() {
+    /// Releases the threads that are held at the folder or the entry `path`, now and later.
+    void release(const std::string& path) {
         const std::lock_guard lock(gate_);
-        held_.clear();
+        held_.erase(&existing(path));
+        heldEntries_.erase(&existing(path));
         gateMoved_.notify_all();
     }
 
@@ -125,6 +126,13 @@ public:
         held_.clear();
         heldEntries_.clear();
         gateMoved_.notify_all();
+    }
+
+    /// The name of the thread that listed `path` last; empty if none did.
+    std::string lister(const std::string& path) {
+        const std::lock_guard lock(gate_);
+        const auto found = listers_.find(&existing(path));
+        return found == listers_.end() ? std::string() : found->second;
     }
 
     /// How often listing `path` was attempted.
@@ -311,6 +319,7 @@ private:
     void arriveAt(const Node* node) {
         std::unique_lock lock(gate_);
         ++reads_[node];
+        listers_[node] = currentThreadName();
         waitAt(node, held_, lock);
     }
 
@@ -339,6 +348,7 @@ private:
     std::set<const Node*> held_;
     std::set<const Node*> heldEntries_;
     std::map<const Node*, std::string> entryReaders_;
+    std::map<const Node*, std::string> listers_;
     std::atomic<std::int64_t> sleeps_ = 0;
     std::size_t sharedFrom_ = std::numeric_limits<std::size_t>::max();
     std::size_t partEntries_ = 1;

@@ -257,6 +257,18 @@ TEST_F(ParallelWalkerTest, reopensFromTheRootWhenTheWayBackIsLost) {
     }
 }
 
+TEST_F(ParallelWalkerTest, reopensOnlyWhereSomethingIsLeft) {
+    const std::string deep = "/r/1/2/3/4/5/6";
+    for (const char* name : {"/a/below/below", "/b/below/below", "/c/below"}) disk.directory(deep + name);
+    disk.lostOnTheWayBack(deep);
+    workers(1);
+    EXPECT_EQ(scan({"/r"}).stats.dirsScanned, 15);
+    EXPECT_EQ(disk.timesRead(deep), 3) << "again before the second folder in it and before the third";
+    for (const char* name : {"/a", "/a/below", "/a/below/below", "/b", "/b/below", "/b/below/below", "/c", "/c/below"})
+        EXPECT_EQ(disk.timesRead(deep + name), 1) << name;
+    EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5"), 1);
+}
+
 TEST_F(ParallelWalkerTest, reportsProgressEveryTwentyThousandItems) {
     for (int d = 0; d < 5; ++d)
         for (int f = 0; f < 9'999; ++f) disk.file("/r/" + std::to_string(d) + "/" + std::to_string(f), 1);
@@ -363,6 +375,23 @@ TEST(ParallelWalkerThreads, areNamedByTheirNumber) {
 }
 
 #ifdef __linux__
+
+TEST_F(ParallelWalkerTest, wakesAsManyAsThereAreFolders) {
+    const std::vector<std::string> folders{"/r/a", "/r/b", "/r/c", "/r/d"};
+    for (const std::string& folder : folders) disk.directory(folder);
+    for (const std::string& folder : folders) disk.hold(folder);
+    disk.hold("/r");
+    workers(4);
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r");
+    waitForSleepingWorkers(4);
+    disk.release("/r");
+    for (const std::string& folder : folders) disk.waitUntilHeld(folder);
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 5);
+}
 
 TEST(ParallelWalkerThreads, finishTheWalkWhenSomeCannotStart) {
     setenv("ZELK_WORKERS", "3", 1);

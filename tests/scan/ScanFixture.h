@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "fakes/FakeDirectoryService.h"
@@ -34,6 +37,24 @@ struct ScanResult {
         }
     }
 };
+
+#ifdef __linux__
+/// How many workers are asleep, be it for want of work or because a test holds them.
+inline int sleepingWorkers() {
+    int count = 0;
+    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream file(task.path() / "stat");
+        std::string line;
+        std::getline(file, line);
+        count += line.find("(zelk.scan.worke) S") != std::string::npos ? 1 : 0;
+    }
+    return count;
+}
+
+inline void waitForSleepingWorkers(int count) {
+    while (sleepingWorkers() < count) std::this_thread::yield();
+}
+#endif
 
 /// Walks a fake file system with a given number of threads.
 class ScanFixture : public testing::Test {

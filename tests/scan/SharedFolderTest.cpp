@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <set>
 #include <string>
 #include <thread>
@@ -52,32 +50,57 @@ TEST_F(SharedFolder, isReadByThoseWhoWait) {
 
 #ifdef __linux__
 
-/// How many workers are asleep.
-int sleepingWorkers() {
-    int count = 0;
-    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
-        std::ifstream file(task.path() / "stat");
-        std::string line;
-        std::getline(file, line);
-        count += line.find("(zelk.scan.worke) S") != std::string::npos ? 1 : 0;
-    }
-    return count;
-}
-
 TEST_F(SharedFolder, wakesThoseWhoWait) {
+    const std::vector<std::string> firstOfEachPart{"/r/0.txt", "/r/2.txt", "/r/4.txt", "/r/6.txt"};
     files("/r");
-    workers(3);
+    workers(4);
     disk.hold("/r");
-    for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt"}) disk.holdEntry(name);
+    for (const std::string& name : firstOfEachPart) disk.holdEntry(name);
     const auto queue = std::make_shared<UpdateQueue>();
     ScanEngine(disk, clock).start(queue, {"/r"});
     disk.waitUntilHeld("/r");
-    while (sleepingWorkers() < 3) std::this_thread::yield();
-    disk.releaseFolders();
-    for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt"}) disk.waitUntilHeld(name);
+    waitForSleepingWorkers(4);
+    disk.release("/r");
+    for (const std::string& name : firstOfEachPart) disk.waitUntilHeld(name);
     disk.release();
     ASSERT_TRUE(drainThreads(60));
     EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 80);
+}
+
+TEST_F(SharedFolder, letsThoseSleepWhoHaveNothingLeftToBegin) {
+    files("/r", 40);
+    workers(3);
+    disk.holdEntry("/r/0.txt");
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    disk.waitUntilHeld("/r/0.txt");
+    waitForSleepingWorkers(3);
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 400);
+}
+
+// Both owners sleep, the one of "a" for longer, when those end who help in "b".
+TEST_F(SharedFolder, wakesItsOwnerAmongOthersThatWait) {
+    const std::vector<std::string> entries{"/r/a/0.txt", "/r/a/2.txt", "/r/b/0.txt", "/r/b/2.txt"};
+    files("/r/a");
+    files("/r/b");
+    workers(6);
+    for (const std::string& entry : entries) disk.holdEntry(entry);
+    const auto queue = std::make_shared<UpdateQueue>();
+    ScanEngine(disk, clock).start(queue, {"/r"});
+    for (const std::string& entry : entries) disk.waitUntilHeld(entry);
+    for (const char* const folder : {"/r/a", "/r/b"}) {
+        for (const std::string& entry : entries)
+            if (disk.entryReader(entry) == disk.lister(folder)) disk.release(entry);
+        waitForSleepingWorkers(6);
+    }
+    disk.release("/r/b/0.txt");
+    disk.release("/r/b/2.txt");
+    waitForSleepingWorkers(6);
+    disk.release();
+    ASSERT_TRUE(drainThreads(60));
+    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 160);
 }
 
 #endif
@@ -174,7 +197,7 @@ TEST_F(SharedFolder, isUnreadableIfAnyPartOfItIs) {
 TEST_F(SharedFolder, isOneOfTwoAtOnce) {
     files("/r/a");
     files("/r/b");
-    workers(4);
+    workers(6);  // two in each, and its owner if those two came before it
     const ScanResult result = scanHolding({"/r/a/0.txt", "/r/a/2.txt", "/r/b/0.txt", "/r/b/2.txt"});
     EXPECT_EQ(result.stats.totalBytes, 160);
 }
@@ -248,6 +271,18 @@ TEST_F(CancelledFolder, isNeitherUnreadableNorHalfCounted) {
     EXPECT_EQ(counts.blocked, 0);
     EXPECT_EQ(counts.files, 0);
     EXPECT_TRUE(collectors.topFiles.items().empty());
+}
+
+TEST_F(CancelledFolder, endsWhateverItsWorkersAreAt) {
+    for (int folder = 0; folder < 12; ++folder) files("/r/" + std::to_string(folder), 30);
+    for (int round = 0; round < 200; ++round) {
+        const auto queue = std::make_shared<UpdateQueue>();
+        workers(1 + round % 5);
+        ScanEngine(disk, clock).start(queue, {"/r"});
+        for (int step = 0; step < round * 7; ++step) std::this_thread::yield();
+        queue->terminate();
+        ASSERT_TRUE(drainThreads(60));
+    }
 }
 
 TEST_F(CancelledFolder, countsIfItWasComplete) {

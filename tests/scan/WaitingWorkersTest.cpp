@@ -42,6 +42,8 @@ public:
         const std::lock_guard lock(mutex_);
         return most_;
     }
+    /// How often every thread has slept before it came.
+    std::int64_t sleptBefore = 0;
     /// Called after each folder, on the thread that read it.
     std::function<void()> afterEach = [] {};
     /// Waits until `made` readers were made of which `present` are left.
@@ -62,7 +64,7 @@ private:
         const Entries* descend(std::string_view name) override { return its->descend(name); }
         bool ascend() override { return its->ascend(); }
         void setHelpers(Helpers* helpers) override { its->setHelpers(helpers); }
-        std::int64_t timesSlept() const override { return its->timesSlept(); }
+        std::int64_t timesSlept() const override { return all.sleptBefore + its->timesSlept(); }
         CountingDisk& all;
         std::unique_ptr<DirectoryReader> its;
     };
@@ -132,6 +134,21 @@ TEST_F(WaitingWorkers, areJoinedByNoneWhileTheyWaitForNothing) {
     EXPECT_LE(disk.made(), 2);
 }
 
+TEST_F(WaitingWorkers, areJoinedByNoneForWhatTheySleptBeforeTheyCame) {
+    folders("other", static_cast<int>(watched) * 4);
+    disk.sleptBefore = 1000;
+    walk({1, 5});
+    EXPECT_EQ(disk.made(), 1);
+}
+
+// Below the shared depth, where whoever came would find nothing to do.
+TEST_F(WaitingWorkers, areJoinedByNoneIfNothingIsLeftToTake) {
+    disk.chain("/r", "d", static_cast<int>(watched) * 10);
+    disk.sleepsPerFolder(1);
+    walk({1, 5});
+    EXPECT_EQ(disk.made(), 1);
+}
+
 TEST_F(WaitingWorkers, areJoinedByNoneIfTheNumberIsExact) {
     folders("other", static_cast<int>(watched) * 40);
     disk.sleepsPerFolder(10);
@@ -169,6 +186,13 @@ TEST_F(WaitingWorkers, waitIfTheySleepOnceInFourDirectories) {
     }
 }
 
+TEST_F(WaitingWorkers, shareLargeFoldersWithThoseWhoMayCome) {
+    disk.shareFrom(1, 1);
+    folders("other", 1);
+    walk({1, 2});
+    EXPECT_NE(disk.entryReader("/r/other0/f"), "");
+}
+
 TEST_F(WaitingWorkers, areLeftByThoseWhoCameWhenTheyWaitNoLonger) {
     folders("other", static_cast<int>(watched) * 20);
     disk.sleepsPerFolder(1);
@@ -184,6 +208,76 @@ TEST_F(WaitingWorkers, areLeftByThoseWhoCameWhenTheyWaitNoLonger) {
 }
 
 #ifdef __linux__
+
+// One reads the root while the other finds nothing to do, and then stands still while the other reads the rest. That
+// one sleeps once less for the disk than it would have to.
+TEST_F(WaitingWorkers, areNotThoseWhoHaveNothingToDo) {
+    folders("other", static_cast<int>(watched) * 4);
+    std::atomic<bool> isRead = false;  // the root
+    std::string reader;                // of the root
+    std::atomic<bool> isOver = false;
+    std::int64_t read = 0;
+    disk.afterEach = [&] {
+        if (!isRead) {
+            reader = currentThreadName();
+            disk.sleepsPerFolder(1);
+            isRead = true;
+        } else if (currentThreadName() == reader) {
+            isOver.wait(false);
+        } else if (++read == enough) {
+            disk.sleepsPerFolder(0);
+        } else if (read == 2 * watched) {
+            isOver = true;
+            isOver.notify_all();
+        }
+    };
+    disk.hold("/r");
+    std::thread walking([&] { walk({2, 3}); });
+    disk.waitUntilHeld("/r");
+    waitForSleepingWorkers(2);
+    disk.release();
+    walking.join();
+    EXPECT_EQ(disk.made(), 2);
+}
+
+TEST_F(WaitingWorkers, areJoinedAgainWhenTheyWaitAgain) {
+    folders("other", static_cast<int>(watched) * 20);
+    disk.sleepsPerFolder(1);
+    std::atomic<unsigned> started = 0;
+    std::int64_t read = 0;
+    std::vector<unsigned> startedAt;
+    disk.afterEach = [&] {
+        if (currentThreadName() == "zelk.scan.worker.1") disk.sleepsPerFolder(0);
+        if (currentThreadName() != "zelk.scan.worker.0" || ++read % watched != 1 || read == 1) return;
+        startedAt.push_back(started);
+        if (startedAt.size() == 1) disk.waitUntil(2, 1);
+        if (startedAt.size() == 2) disk.sleepsPerFolder(1);
+    };
+    fakes::behindGate(
+        SYS_clone3, [&](unsigned call) { return started = call + 1, 0; },
+        [&] {
+            walk({1, 2});
+            EXPECT_TRUE(drainThreads(60));
+        });
+    ASSERT_GE(startedAt.size(), 3U);
+    EXPECT_EQ(startedAt[0], 2U);
+    EXPECT_EQ(startedAt[1], 2U) << "what it waited before counts no more";
+    EXPECT_EQ(startedAt[2], 3U);
+}
+
+TEST_F(WaitingWorkers, areJoinedOnceAnotherCanStart) {
+    folders("other", static_cast<int>(watched) * 10);
+    disk.sleepsPerFolder(1);
+    unsigned asked = 0;
+    fakes::behindGate(
+        SYS_clone3, [&](unsigned call) { return asked = call + 1, call == 1 ? EAGAIN : 0; },
+        [&] {
+            walk({1, 2});
+            EXPECT_TRUE(drainThreads(60));
+        });
+    EXPECT_EQ(asked, 3U);
+    EXPECT_EQ(collectors.counters.counts().files, watched * 10);
+}
 
 TEST_F(WaitingWorkers, goOnAloneIfNoOtherCanStart) {
     folders("other", static_cast<int>(watched) * 10);
