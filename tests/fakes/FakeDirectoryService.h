@@ -112,6 +112,13 @@ public:
         gateMoved_.wait(lock, [&] { return waiting_.count(node) != 0; });
     }
 
+    /// Releases the threads that are held at this folder.
+    void release(const std::string& path) {
+        const std::lock_guard lock(gate_);
+        held_.erase(&existing(path));
+        gateMoved_.notify_all();
+    }
+
     /// Releases the threads that are held at folders, but not those at entries.
     void releaseFolders() {
         const std::lock_guard lock(gate_);

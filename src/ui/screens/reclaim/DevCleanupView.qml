@@ -17,6 +17,8 @@ ModuleScaffold {
         FocusScope {
             id: results
 
+            focus: true
+
             // Set by ModuleScaffold.
             property ReclaimScreenModel module: null
 
@@ -67,6 +69,7 @@ ModuleScaffold {
                 visible: results.byCategory
                 enabled: visible
                 focus: visible
+                onLoaded: categories.item.focus = true
             }
 
             Loader {
@@ -76,6 +79,7 @@ ModuleScaffold {
                 visible: results.byItem
                 enabled: visible
                 focus: visible
+                onLoaded: items.item.focus = true
             }
 
             Loader {
