@@ -22,6 +22,8 @@ ListRow {
 
     // The colour of the head's symbol.
     required property color tile
+    // The least width of the tag.
+    required property real tagWidth
 
     signal acted
 
@@ -142,7 +144,7 @@ ListRow {
         anchors.left: ground.left
         anchors.leftMargin: 10
         anchors.verticalCenter: ground.verticalCenter
-        width: Math.max(implicitWidth, Math.round(44 * TextScale.factor))
+        width: Math.max(implicitWidth, row.tagWidth, Math.round(44 * TextScale.factor))
         visible: !row.head
         text: row.tag
         mute: true

@@ -12,6 +12,9 @@ RowList {
 
     required property DuplicatesScreenModel duplicates
 
+    // Either tag has this width, so that the paths begin at one place.
+    readonly property real tagWidth: Math.ceil(Math.max(keptTag.advanceWidth, otherTag.advanceWidth)) + 2 * 8
+
     // The list had the keyboard, and its last set has left.
     signal emptied(bool byKey)
 
@@ -56,6 +59,20 @@ RowList {
         }
     }
 
+    TextMetrics {
+        id: keptTag
+
+        font.pixelSize: Math.round(10 * TextScale.factor)
+        text: list.duplicates.rows.tags[0]
+    }
+
+    TextMetrics {
+        id: otherTag
+
+        font.pixelSize: keptTag.font.pixelSize
+        text: list.duplicates.rows.tags[1]
+    }
+
     Connections {
         target: list.duplicates
 
@@ -68,6 +85,7 @@ RowList {
     delegate: DuplicateRow {
         width: Math.min(list.width, Theme.pageWidth + 2 * Theme.pageMargin)
         tile: list.duplicates.tint
+        tagWidth: list.tagWidth
         ringed: list.ringed && ListView.isCurrentItem
         onPressed: list.take(index)
         onActed: {
