@@ -123,6 +123,18 @@ TEST_F(LensViewTest, footerKeepsMarginOfThePage) {
     EXPECT_EQ(find("lensCaption")->mapToScene({}).x(), 26);
 }
 
+TEST_F(LensViewTest, iconOfTheFolderIsCentredOnItsLines) {
+    openSurveyed();
+    const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
+    EXPECT_NEAR(box("lensPlaceIcon").center().y(), box("lensName").united(box("lensPlaceLine")).center().y(), 1);
+    clickItem(row("projects"));
+    ASSERT_FALSE(text("lensLoose").empty());
+    EXPECT_NEAR(box("lensPlaceIcon").center().y(), box("lensName").united(box("lensPlaceLine")).center().y(), 1);
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    settle();
+    EXPECT_NEAR(box("lensPlaceIcon").center().y(), box("lensName").united(box("lensPlaceLine")).center().y(), 1);
+}
+
 TEST_F(LensViewTest, hidesVolumeBarWithoutVolume) {
     openSurveyed();
     model().setVolume(std::nullopt);
