@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <set>
 
 #include "Readable.h"
 #include "TextsOf.h"
@@ -225,6 +226,24 @@ TEST_F(SystemViewTest, pinnedSnapshotCannotBeDeleted) {
     EXPECT_THAT(tools.removals(), IsEmpty());
     EXPECT_EQ(showing("pinned")->parentItem()->property("ink").value<QColor>(), singleton<Theme>("Theme").inkSoft());
     EXPECT_EQ(showing("freeable")->parentItem()->property("ink").value<QColor>(), QColor(50, 199, 123));
+}
+
+TEST_F(SystemViewTest, headingsStandEquallyFarBelowTheTopOfTheirCards) {
+    open();
+    std::set<double> distances;
+    for (const char* heading : {"Capacity", "Local snapshots", "Protected areas"}) {
+        const QQuickItem* card = showing(heading);
+        const double top = card->mapToScene({}).y();
+        while (!card->inherits("QQuickPane")) card = card->parentItem();
+        distances.insert(top - card->mapToScene({}).y());
+    }
+    EXPECT_THAT(distances, testing::SizeIs(1));
+}
+
+TEST_F(SystemViewTest, arrowThatReloadsEndsAtTheMargin) {
+    open();
+    const auto rightOf = [](const QQuickItem* item) { return item->mapRectToScene(item->boundingRect()).right(); };
+    EXPECT_EQ(rightOf(symbol("arrow.clockwise")), rightOf(find("deleteSnapshot1")));
 }
 
 TEST_F(SystemViewTest, deletesWithTheMouseAndShowsTheAnswer) {
