@@ -91,6 +91,16 @@ TEST_F(OverviewTexts, showResultsAfterSurvey) {
     EXPECT_EQ(sizeOf("re-run"), 10);
 }
 
+TEST_F(OverviewTexts, endTogetherInTheCardOfTheLargestFiles) {
+    fillHome();
+    survey();
+    open();
+    const auto rightOf = [this](const char* text) {
+        return showing(text)->mapRectToScene(showing(text)->boundingRect()).right();
+    };
+    EXPECT_NEAR(rightOf("See all"), rightOf("50 MB"), 0.5) << "the size of v6, which no other card shows";
+}
+
 TEST_F(OverviewTexts, standBesideSymbolsInTheColourOfTheType) {
     fillHome();
     survey();

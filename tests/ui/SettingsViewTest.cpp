@@ -161,6 +161,7 @@ TEST_F(SettingsWindow, rowShowsFolderAndRemoveSymbols) {
     const QQuickItem* path = find("rootPath");
     EXPECT_LT(folder->mapToScene({}).x(), path->mapToScene({}).x());
     EXPECT_GE(remove->mapToScene({}).x(), path->mapToScene({path->width(), 0}).x());
+    EXPECT_EQ(remove->mapToScene({remove->width(), 0}).x(), 460 - 24) << "where the controls below it end";
     tour::clickAt(window(), remove->mapToScene(remove->boundingRect().center()));
     settle();
     EXPECT_EQ(model().scanRoots(), Roots{});

@@ -93,7 +93,8 @@ FocusScope {
         objectName: "undoRemoval"
         focus: true
         anchors.left: dot.right
-        anchors.leftMargin: 4
+        // Its text is as far from the dot as the one before.
+        anchors.leftMargin: 4 - undo.horizontalPadding
         anchors.verticalCenter: parent.verticalCenter
         visible: bar.undoable
         text: qsTr("Undo")

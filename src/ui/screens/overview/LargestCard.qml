@@ -39,6 +39,8 @@ Card {
                 kind: Button.Link
                 objectName: "seeAllButton"
                 anchors.right: parent.right
+                // Its text ends where the figures below it do.
+                anchors.rightMargin: -all.horizontalPadding
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("See all")
                 onClicked: card.findings.seeAll()

@@ -97,6 +97,8 @@ Column {
                         id: removeButton
 
                         anchors.right: parent.right
+                        // Its circle ends where the controls below it do.
+                        anchors.rightMargin: (removeButton.size - removeButton.side) / 2
                         anchors.verticalCenter: parent.verticalCenter
                         symbol: "minus.circle"
                         size: 16
