@@ -109,6 +109,7 @@ TEST_F(OverviewTexts, standBesideSymbolsInTheColourOfTheType) {
         model().setAppearance(appearance);
         settle();
         EXPECT_EQ(colorsOf("film"), std::vector<QColor>{QColor(232, 91, 196)});
+        EXPECT_EQ(symbol("film")->size(), sideBesideText(13));
         const QColor other = lookOf(FileType::other, singleton<Theme>("Theme").current()).color;
         EXPECT_EQ(colorsOf("doc"), (std::vector<QColor>{other, other})) << "v6 and a.js";
     }

@@ -72,14 +72,14 @@ Card {
                     visible: row.index > 0
                 }
 
-                SymbolItem {
+                TextSymbol {
                     id: sign
 
                     anchors.left: parent.left
                     anchors.verticalCenter: parent.verticalCenter
                     name: row.symbol
                     color: row.tint.valid ? row.tint : Theme.otherFiles
-                    size: 16
+                    points: 13
                 }
 
                 Label {

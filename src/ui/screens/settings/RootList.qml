@@ -69,14 +69,14 @@ Column {
                     height: rootRow.availableHeight
                     implicitHeight: Math.max(words.implicitHeight, removeButton.implicitHeight)
 
-                    SymbolItem {
+                    TextSymbol {
                         id: symbolItem
 
                         anchors.left: parent.left
                         anchors.verticalCenter: parent.verticalCenter
                         name: "folder.fill"
                         color: Theme.accent
-                        size: 16
+                        points: 13
                     }
 
                     Label {
