@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <ctime>
 
 #include "fakes/Mounts.h"
 #include "fakes/SystemCallGate.h"
@@ -127,6 +128,36 @@ TEST_F(TrashOrphans, emptyingRemovesOwnYoungOrphans) {
     addInfo("others", 0600, info);
     EXPECT_EQ(LinuxTrash(home).empty(), 0u);
     EXPECT_THAT(namesIn(info), UnorderedElementsAre("others.trashinfo"));
+}
+
+// The clock of a file server may be ahead of ours.
+TEST_F(TrashOrphans, emptyingKeepsOthersOfTheLastAndTheNextMinute) {
+    const std::time_t now = ::time(nullptr);
+    for (const std::time_t age : {30, 90, -30, -90, -86400}) {
+        const std::string name = std::to_string(age);
+        addInfo(name, 0600, info);
+        const timespec written[2] = {{now - age, 0}, {now - age, 0}};
+        ASSERT_EQ(::utimensat(AT_FDCWD, (info + "/" + name + ".trashinfo").c_str(), written, 0), 0);
+    }
+    EXPECT_EQ(LinuxTrash(home).empty(), 0u);
+    EXPECT_THAT(namesIn(info), UnorderedElementsAre("30.trashinfo", "-30.trashinfo"));
+}
+
+TEST_F(TrashOrphans, infoStaysWhereItsContentCannotBeLookedAt) {
+    unsigned calls = 1;
+    for (unsigned failing = 0; failing < calls; ++failing) {
+        for (const std::string& folder : {trash + "/files", info})
+            for (const std::string& name : namesIn(folder)) ::unlink((folder + "/" + name).c_str());
+        addOwnInfo("kept");
+        fakes::writeFile(trash + "/files/kept", "content");
+        LinuxTrash itsTrash(home);
+        calls = 0;
+        fakes::behindGate(
+            SYS_newfstatat, [&](unsigned call) { return ++calls, call == failing ? EIO : 0; },
+            [&] { static_cast<void>(trashed(itsTrash, temp / "item")); });
+        EXPECT_TRUE(namesIn(info).contains("kept.trashinfo")) << failing;
+    }
+    EXPECT_GE(calls, 2u) << "of the info and of its content";
 }
 
 TEST_F(TrashOrphans, infoFilesCarryTheOwnMark) {
