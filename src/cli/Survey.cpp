@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <memory>
 #include <system_error>
 #include <utility>
@@ -95,8 +96,9 @@ std::vector<std::string> namedRoots(const std::vector<std::string>& roots, const
 
 std::optional<std::string> whyNot(const Storage& storage, const std::vector<std::string>& roots) {
     for (const std::string& root : roots) {
-        if (storage.directories.status(root) && storage.directories.openRoot(root)) continue;
-        const int error = storage.files.tryOpen(root);
+        const bool isTooLong = root.size() > FSNode::maximumNameLength;
+        if (!isTooLong && storage.directories.status(root) && storage.directories.openRoot(root)) continue;
+        const int error = isTooLong ? ENAMETOOLONG : storage.files.tryOpen(root);
         return visibleText(root) +
                (error != 0 ? " cannot be surveyed: " + std::generic_category().message(error) + "." : " is no folder.");
     }

@@ -64,7 +64,10 @@ std::string_view nameOf(FileType type) {
     return "Other";
 }
 
+/// The history may hold any number.
 std::string dateText(TimePoint date) {
+    constexpr double longest = 1e15;  // seconds; far more has no year
+    if (!(std::abs(date) < longest)) return "an unknown date";
     const auto seconds = static_cast<std::time_t>(std::floor(date));
     std::tm local{};
     std::array<char, 64> text{};
@@ -168,19 +171,19 @@ private:
     void writeGrowth() {
         if (!survey_.growth) return;
         const Growth& growth = *survey_.growth;
-        const std::int64_t change = survey_.stats.totalBytes - growth.totalBefore;
+        const std::int64_t change = sizeGrowth(growth.totalBefore, survey_.stats.totalBytes);
         title("Since " + dateText(growth.since) + ": " +
               (change == 0 ? "as much" : byteText(std::abs(change)) + (change > 0 ? " more" : " less")));
         std::vector<FolderChange> grown = growth.changes.grew;
         grown.insert(grown.end(), growth.changes.appeared.begin(), growth.changes.appeared.end());
         std::stable_sort(grown.begin(), grown.end(), [](const FolderChange& a, const FolderChange& b) {
-            return a.newSize - a.oldSize > b.newSize - b.oldSize;
+            return sizeGrowth(a.oldSize, a.newSize) > sizeGrowth(b.oldSize, b.newSize);
         });
         const std::size_t shown = shownOf(grown.size());
         for (std::size_t at = 0; at < shown; ++at) {
             const FolderChange& one = grown[at];
-            line("  " + right("+" + byteText(one.newSize - one.oldSize), changeColumns) + sizeColumn(one.newSize) +
-                 "  " + (one.oldSize == 0 ? "new  " : "     ") + visibleText(one.path));
+            line("  " + right("+" + byteText(sizeGrowth(one.oldSize, one.newSize)), changeColumns) +
+                 sizeColumn(one.newSize) + "  " + (one.oldSize == 0 ? "new  " : "     ") + visibleText(one.path));
         }
         if (shown < grown.size()) line("  (" + grouped(static_cast<std::int64_t>(grown.size() - shown)) + " more)");
     }

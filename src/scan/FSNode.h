@@ -92,7 +92,8 @@ public:
 
     NodeArena& arena() const { return NodeArena::of(this); }
 
-    static constexpr std::size_t maximumNameLength = 0xFFFF;  ///< bytes; no system delivers longer names or paths
+    /// Bytes. No folder's name is longer; a root whose path is longer is not surveyed.
+    static constexpr std::size_t maximumNameLength = 0xFFFF;
 
 private:
     FSNode(std::uint16_t nameLength, TimePoint modified, bool isDirectory)

@@ -27,6 +27,7 @@ std::vector<ParallelWalker::Work> seed(DirectoryService& directories, const std:
     std::vector<ParallelWalker::Work> seeds;
     for (const std::string& path : roots) {
         if (cancel.isSet()) break;
+        if (path.size() > FSNode::maximumNameLength) continue;  // as for a path that the system finds too long
         const std::optional<RootStatus> status = directories.status(path);
         if (!status) continue;
         FSNode& node = top.append(path, status->modified);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <set>
 #include <string_view>
 
@@ -68,6 +69,13 @@ std::vector<Note> foldersOfAtLeast(const FSNode& tree, std::int64_t minSize) {
 }
 
 }  // namespace
+
+std::int64_t sizeGrowth(std::int64_t before, std::int64_t now) {
+    constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
+    std::int64_t grown = 0;
+    if (__builtin_sub_overflow(now, before, &grown)) return now > before ? most : -most;
+    return std::max(grown, -most);
+}
 
 SizeByPath bigFolders(const FSNode& tree, std::int64_t minSize, std::size_t limit) {
     requireDistinct(tree.children());

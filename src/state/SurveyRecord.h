@@ -45,6 +45,10 @@ struct FolderChanges {
     bool operator==(const FolderChanges&) const = default;
 };
 
+/// The growth from `before` to `now` in bytes; negative if it shrank. Saturates, since the history file may contain any
+/// values, and so that the result can always be negated.
+std::int64_t sizeGrowth(std::int64_t before, std::int64_t now);
+
 /// The `limit` largest descendants of `tree` (including the scan roots, excluding `tree` itself) of at least `minSize`
 /// bytes. A folder that is reached through two nested roots counts once. Aborts if two scan roots have the same path,
 /// which AppModel prevents.

@@ -126,6 +126,13 @@ TEST(JsonReport, escapesPathsThatAreNoText) {
     }
 }
 
+TEST(JsonReport, hasAnEmptyListIfEveryFolderWasRead) {
+    Survey survey = emptySurvey();
+    addFolder(*survey.tree, "/a", 1, 1);
+    settle(survey);
+    EXPECT_EQ(reported(survey).at("unreadable"), json::array());
+}
+
 TEST(JsonReport, findsUnreadableFoldersInTreesOfAnyDepth) {
     Survey survey = emptySurvey();
     FSNode* folder = &addFolder(*survey.tree, "/deep");

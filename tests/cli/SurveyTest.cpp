@@ -159,6 +159,12 @@ TEST_F(SurveyRun, refusesARootThatIsNoFolder) {
     EXPECT_EQ(whyNot(storage, {"/a"}), std::nullopt);
     EXPECT_EQ(whyNot(storage, {"/a", "/a/file"}), "/a/file is no folder.");
     EXPECT_EQ(whyNot(storage, {"/a/\x1B"}), "/a/\\x1B cannot be surveyed: No such file or directory.");
+    const std::string longest = "/" + std::string(FSNode::maximumNameLength - 1, 'x');
+    disk.directory(longest);
+    disk.directory(longest + "x");
+    files.addFolder(longest + "x");
+    EXPECT_EQ(whyNot(storage, {longest}), std::nullopt);
+    EXPECT_EQ(whyNot(storage, {longest + "x"}), longest + "x cannot be surveyed: File name too long.");
 }
 
 TEST_F(SurveyRun, tellsWhatHasGrownSinceTheLastRecordOfTheSameRoots) {

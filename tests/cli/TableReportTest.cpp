@@ -4,9 +4,12 @@
 #include <gmock/gmock.h>
 #include <time.h>
 
+#include <cstdint>
+
 #include "SampleSurvey.h"
 #include "cli/Figures.h"
 #include "fakes/Environment.h"
+#include "platform/ByteFormat.h"
 
 namespace zelk::cli {
 namespace {
@@ -71,6 +74,21 @@ TEST(Table, saysWhatALimitLeavesOut) {
     EXPECT_THAT(text, HasSubstr("   +70 bytes   70 bytes  new  /a\n   +60 bytes   61 bytes       /b\n  (1 more)\n"));
     EXPECT_THAT(table(survey, 3), Not(HasSubstr("(1 more)\n\n  ")));
     EXPECT_THAT(table(survey, 4), Not(HasSubstr("more)")));
+}
+
+// The history is a file that anybody may have written.
+TEST(Table, tellsGrowthOfAnyNumbers) {
+    Survey survey = smallSurvey();
+    survey.growth = Growth{1e300, INT64_MIN, {{{"/small", 0, 5}, {"/b", INT64_MIN, 7}}, {}, {}}};
+    const std::string least = table(survey);
+    EXPECT_THAT(least, HasSubstr("\nSince an unknown date: " + byteText(INT64_MAX) + " more\n"));
+    const std::size_t first = least.find("+" + byteText(INT64_MAX));
+    EXPECT_LT(first, least.find("/b\n"));
+    EXPECT_LT(least.find("/b\n"), least.find("/small\n"));
+    survey.growth = Growth{-1e300, INT64_MAX, {}};
+    EXPECT_THAT(table(survey), HasSubstr("Since an unknown date: " + byteText(INT64_MAX - 10'000'000) + " less\n"));
+    survey.stats.totalBytes = -2;
+    EXPECT_THAT(table(survey), HasSubstr(": " + byteText(INT64_MAX) + " less\n"));
 }
 
 TEST(Table, ofNoRowsHasTotalsOnly) {

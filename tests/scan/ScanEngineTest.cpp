@@ -87,6 +87,18 @@ TEST_F(ScanEngineTest, skipsMissingRootButNamesIt) {
     EXPECT_EQ(result.top->children().size(), 1U);
 }
 
+TEST_F(ScanEngineTest, skipsRootWhoseNameNoNodeHoldsButNamesIt) {
+    const std::string longest = "/" + std::string(FSNode::maximumNameLength - 1, 'x');
+    disk.file(longest + "/f", 3);
+    disk.file(longest + "x/f", 100);
+    const ScanResult result = scan({longest + "x", longest});
+    EXPECT_EQ(result.stats.roots, (std::vector<std::string>{longest + "x", longest}));
+    EXPECT_EQ(result.stats.totalBytes, 3);
+    EXPECT_EQ(result.stats.blockedPaths, 0);
+    ASSERT_EQ(result.top->children().size(), 1U);
+    EXPECT_EQ(result.insights.topFiles[0].path, longest + "/f");
+}
+
 TEST_F(ScanEngineTest, finishesEmptyWhenAllRootsAreMissing) {
     const ScanResult result = scan({"/no", "/nor"});
     EXPECT_EQ(result.stats.roots.size(), 2U);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/screens/overview/TrendsModel.h"
 
-#include <algorithm>
-#include <limits>
 #include <utility>
 
 #include "state/AppModel.h"
@@ -10,19 +8,6 @@
 #include "ui/theme/DisplayText.h"
 
 namespace zelk {
-
-namespace {
-
-/// The growth from `before` to `now` in bytes; negative if it shrank. Saturates, since the history file may contain any
-/// values, and so that the result can always be negated.
-std::int64_t growth(std::int64_t before, std::int64_t now) {
-    constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
-    std::int64_t grown = 0;
-    if (__builtin_sub_overflow(now, before, &grown)) return now > before ? most : -most;
-    return std::max(grown, -most);
-}
-
-}  // namespace
 
 ChangesModel::ChangesModel(QObject* parent)
     : RowModel(rows_,
@@ -53,7 +38,7 @@ QString ChangesModel::sizeText(const Row& row) {
     switch (row.kind) {
         case Grew:
             return inReadingOrder(byteFigure(change.newSize) + QStringLiteral("  ") +
-                                  isolated(u'+' + byteFigure(growth(change.oldSize, change.newSize))));
+                                  isolated(u'+' + byteFigure(sizeGrowth(change.oldSize, change.newSize))));
         case Appeared:
             return byteFigure(change.newSize);
         case Vanished:
@@ -71,7 +56,7 @@ void TrendsModel::refresh() {
     constexpr std::int64_t nearDays = 29;  // a forecast beyond is not alarming
     const std::vector<SurveyRecord>& history = app_.history();
     shown_ = history.size() >= 2;
-    delta_ = shown_ ? growth(history[history.size() - 2].totalScanned, history.back().totalScanned) : 0;
+    delta_ = shown_ ? sizeGrowth(history[history.size() - 2].totalScanned, history.back().totalScanned) : 0;
     totals_.clear();
     for (const SurveyRecord& record : history) totals_.append(static_cast<qreal>(record.totalScanned));
 
