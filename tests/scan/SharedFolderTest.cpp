@@ -174,7 +174,7 @@ TEST_F(SharedFolder, isUnreadableIfAnyPartOfItIs) {
 TEST_F(SharedFolder, isOneOfTwoAtOnce) {
     files("/r/a");
     files("/r/b");
-    workers(4);
+    workers(6);  // two in each, and its owner if those two came before it
     const ScanResult result = scanHolding({"/r/a/0.txt", "/r/a/2.txt", "/r/b/0.txt", "/r/b/2.txt"});
     EXPECT_EQ(result.stats.totalBytes, 160);
 }

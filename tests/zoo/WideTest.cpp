@@ -91,14 +91,13 @@ TEST(WideFolder, losesOnlyWhatVanishes) {
     makeWide(temp / "root", 10'000, 1'000);
     for (int file = 0; file < vanishing; ++file) makeFile(temp / "root/vanishing" + std::to_string(file));
     std::atomic<int> removed = 0;
-    std::atomic<bool> begin = false;
+    std::atomic<int> rounds = 0;
     std::thread remover([&] {
-        while (!begin) std::this_thread::yield();
-        for (; removed < vanishing; ++removed)
+        for (; removed < vanishing; ++removed) {
+            while (removed == vanishing / 2 && rounds == 0) std::this_thread::yield();
             std::filesystem::remove(temp / "root/vanishing" + std::to_string(removed));
+        }
     });
-    int rounds = 0;
-    begin = true;
     do {
         const int before = removed;
         const Scan its = scan({temp / "root"}, rounds % 2 == 0 ? 2 : 8);
@@ -112,7 +111,7 @@ TEST(WideFolder, losesOnlyWhatVanishes) {
         ++rounds;
     } while (removed < vanishing);
     remover.join();
-    EXPECT_GT(rounds, 1);
+    EXPECT_GT(rounds.load(), 1);
     EXPECT_EQ(scan({temp / "root"}, 8).stats.filesScanned, 10'000);
 }
 
