@@ -15,8 +15,8 @@
 #include "fakes/InChild.h"
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
+#include "platform/HomeTrash.h"
 #include "platform/linux/trash/LinuxTrash.h"
-#include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 
 namespace zelk {
@@ -33,21 +33,11 @@ using testing::IsEmpty;
 using testing::Optional;
 using testing::StartsWith;
 
-class FaultyTrash : public testing::Test {
+class FaultyTrash : public HomeTrash {
 protected:
-    FaultyTrash() {
-        zoo::makeFolder(files);
-        zoo::makeFolder(info);
-    }
-
     Failure trashed() { return itsTrash.trash(ItemPath::from(item).value()).failure; }
 
-    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
-    const std::string home = temp / "home";
-    const std::string files = home + "/.local/share/Trash/files";
-    const std::string info = home + "/.local/share/Trash/info";
     const std::string item = temp / "item.txt";
-    LinuxTrash itsTrash{home};
 };
 
 // The kernel tells of a failed write once: the flush after this call would succeed.

@@ -14,9 +14,9 @@
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
+#include "platform/HomeTrash.h"
 #include "platform/linux/trash/LinuxTrash.h"
 #include "platform/posix/Descriptor.h"
-#include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 
 namespace zelk {
@@ -26,19 +26,13 @@ using fakes::behindGate;
 using fakes::namesIn;
 using fakes::restorable;
 
-class LockedTrash : public testing::Test {
+class LockedTrash : public HomeTrash {
 protected:
-    void SetUp() override {
-        zoo::makeFolder(files);
-        zoo::makeFolder(info);
-    }
-
     /// Adds an item, of another program or marked as Zelk's own.
     void add(const std::string& name, mode_t mode = 0600) {
-        zoo::makeFile(files + "/" + name + "/below/file");
-        const std::string path = info + "/" + name + ".trashinfo";
-        fakes::writeFile(path, "[Trash Info]\nPath=/was/here/" + name + "\nDeletionDate=2026-01-01T00:00:00\n");
-        ASSERT_EQ(::chmod(path.c_str(), mode), 0);
+        zoo::makeFile(contentOf(name) + "/below/file");
+        addYoungInfo(name);
+        ASSERT_EQ(::chmod(infoOf(name).c_str(), mode), 0);
     }
 
     /// Whether another process could take this lock of `folder` now.
@@ -46,13 +40,6 @@ protected:
         const Descriptor others(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         return ::flock(others.get(), operation | LOCK_NB) == 0 || errno != EWOULDBLOCK;
     }
-
-    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
-    const std::string home = temp / "home";
-    const std::string trash = home + "/.local/share/Trash";
-    const std::string files = trash + "/files";
-    const std::string info = trash + "/info";
-    LinuxTrash itsTrash{home};
 };
 
 TEST_F(LockedTrash, isEmptiedByOneProcessAlone) {
@@ -91,7 +78,7 @@ TEST_F(LockedTrash, isNotSweptWhileAnEntryIsRenamed) {
         // Set aside and put back again.
         return renames == 2 && !free;
     }));
-    EXPECT_EQ(restorable(trash).count("/was/here/theirs"), 1u);
+    EXPECT_EQ(restorable(trash).count("/was/theirs"), 1u);
 }
 
 TEST_F(LockedTrash, isNotSweptWhileAnItemIsMoved) {

@@ -17,8 +17,8 @@
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
+#include "platform/HomeTrash.h"
 #include "platform/linux/trash/LinuxTrash.h"
-#include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 
 namespace zelk {
@@ -30,24 +30,9 @@ using fakes::behindGate;
 using fakes::namesIn;
 using fakes::restorable;
 
-class FullTrash : public testing::Test {
+class FullTrash : public HomeTrash {
 protected:
     static constexpr std::size_t many = 320;
-
-    void SetUp() override {
-        zoo::makeFolder(files);
-        zoo::makeFolder(info);
-    }
-
-    std::string contentOf(const std::string& name) const { return files + "/" + name; }
-
-    /// Adds info as another program wrote it a while ago.
-    void addInfo(const std::string& name) const {
-        const std::string path = info + "/" + name + ".trashinfo";
-        fakes::writeFile(path, "[Trash Info]\nPath=/was/" + name + "\nDeletionDate=2026-01-01T00:00:00\n");
-        const timespec old[2] = {{1000000000, 0}, {1000000000, 0}};
-        ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), old, 0), 0);
-    }
 
     void addFolders() const {
         for (std::size_t number = 0; number < many; ++number) {
@@ -56,13 +41,6 @@ protected:
             addInfo(name);
         }
     }
-
-    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
-    const std::string home = temp / "home";
-    const std::string trash = home + "/.local/share/Trash";
-    const std::string files = trash + "/files";
-    const std::string info = trash + "/info";
-    LinuxTrash itsTrash{home};
 };
 
 // The table of mounts is looked up by the path of the folder, which is read from a link.
