@@ -119,13 +119,6 @@ public:
         gateMoved_.notify_all();
     }
 
-    /// Releases the threads that are held at folders, but not those at entries.
-    void releaseFolders() {
-        const std::lock_guard lock(gate_);
-        held_.clear();
-        gateMoved_.notify_all();
-    }
-
     /// Releases all held threads, now and later.
     void release() {
         const std::lock_guard lock(gate_);

@@ -73,7 +73,7 @@ TEST_F(SharedFolder, wakesThoseWhoWait) {
     ScanEngine(disk, clock).start(queue, {"/r"});
     disk.waitUntilHeld("/r");
     while (sleepingWorkers() < 3) std::this_thread::yield();
-    disk.releaseFolders();
+    disk.release("/r");
     for (const char* const name : {"/r/0.txt", "/r/2.txt", "/r/4.txt"}) disk.waitUntilHeld(name);
     disk.release();
     ASSERT_TRUE(drainThreads(60));
