@@ -24,7 +24,11 @@ DuplicateRows::Card::Card(const DuplicateGroup& group)
 }
 
 QStringList DuplicateRows::tags() const {
-    return {tr("keep"), tr("dup")};
+    return {tagOf(true), tagOf(false)};
+}
+
+QString DuplicateRows::tagOf(bool kept) {
+    return kept ? tr("keep") : tr("dup");
 }
 
 void DuplicateRows::show(const std::vector<DuplicateGroup>& groups) {
@@ -96,7 +100,7 @@ QVariant DuplicateRows::value(std::size_t row, int role) const {
             .arg(QString::number(card->paths.size()), byteFigure(card->size));
     };
     const auto gain = [&] { return isHead ? tr("save %1").arg(byteFigure(card->recoverable)) : QString(); };
-    const auto tag = [&] { return isHead ? QString() : tags().at(place == 1 ? 0 : 1); };
+    const auto tag = [&] { return isHead ? QString() : tagOf(place == 1); };
     const auto note = [&] { return !isHead && card->linked[place - 1] ? tr("hard link") : QString(); };
     switch (role) {
         case headRole:

@@ -49,6 +49,8 @@ public:
     std::string hashAt(int row) const;
 
 private:
+    static QString tagOf(bool kept);
+
     struct Card {
         std::string hash;
         std::int64_t size;

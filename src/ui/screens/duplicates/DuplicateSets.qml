@@ -13,7 +13,7 @@ RowList {
     required property DuplicatesScreenModel duplicates
 
     // Either tag has this width, so that the paths begin at one place.
-    readonly property real tagWidth: Math.ceil(Math.max(keptTag.advanceWidth, otherTag.advanceWidth)) + 2 * 8
+    readonly property real tagWidth: Math.max(Math.round(44 * TextScale.factor), keptTag.implicitWidth, otherTag.implicitWidth)
 
     // The list had the keyboard, and its last set has left.
     signal emptied(bool byKey)
@@ -59,17 +59,17 @@ RowList {
         }
     }
 
-    TextMetrics {
+    PathTag {
         id: keptTag
 
-        font.pixelSize: Math.round(10 * TextScale.factor)
+        visible: false
         text: list.duplicates.rows.tags[0]
     }
 
-    TextMetrics {
+    PathTag {
         id: otherTag
 
-        font.pixelSize: keptTag.font.pixelSize
+        visible: false
         text: list.duplicates.rows.tags[1]
     }
 
