@@ -30,7 +30,12 @@ TEST_F(SystemLooks, headingsStandEquallyFarBelowTheTopOfTheirCards) {
 TEST_F(SystemLooks, arrowThatReloadsEndsAtTheMargin) {
     open();
     const auto rightOf = [](const QQuickItem* item) { return item->mapRectToScene(item->boundingRect()).right(); };
-    EXPECT_EQ(rightOf(symbol("arrow.clockwise")), rightOf(find("deleteSnapshot1")));
+    for (const double factor : {1.0, 1.5}) {
+        singleton<TextScale>("TextScale").setFactor(factor);
+        settle();
+        EXPECT_EQ(rightOf(symbol("arrow.clockwise")), rightOf(find("deleteSnapshot1"))) << factor;
+    }
+    singleton<TextScale>("TextScale").setFactor(1);
 }
 
 TEST_F(SystemLooks, cardsHaveTheirGreatestWidth) {

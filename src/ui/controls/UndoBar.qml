@@ -113,7 +113,7 @@ FocusScope {
         objectName: "closeUndoBar"
         anchors.right: parent.right
         // Its cross ends at the margin.
-        anchors.rightMargin: Theme.pageMargin - (close.side - close.size) / 2
+        anchors.rightMargin: Theme.pageMargin - close.overhang
         anchors.verticalCenter: parent.verticalCenter
         symbol: "xmark"
         size: 12

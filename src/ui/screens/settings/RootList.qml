@@ -98,7 +98,7 @@ Column {
 
                         anchors.right: parent.right
                         // Its circle ends where the controls below it do.
-                        anchors.rightMargin: (removeButton.size - removeButton.side) / 2
+                        anchors.rightMargin: -removeButton.overhang
                         anchors.verticalCenter: parent.verticalCenter
                         symbol: "minus.circle"
                         size: 16

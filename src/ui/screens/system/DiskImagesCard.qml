@@ -145,7 +145,7 @@ SystemCard {
             objectName: "revealImage" + row.index
             anchors.right: parent.right
             // Its glass ends at the margin.
-            anchors.rightMargin: (revealButton.size - revealButton.side) / 2
+            anchors.rightMargin: -revealButton.overhang
             anchors.verticalCenter: parent.verticalCenter
             symbol: "magnifyingglass"
             text: row.revealName

@@ -14,7 +14,7 @@ SystemCard {
 
     title: qsTr("Local snapshots")
     // The arrow ends at the margin.
-    overhang: (reloadButton.side - reloadButton.size) / 2
+    overhang: reloadButton.overhang
     trailing: Row {
         spacing: 12
 
