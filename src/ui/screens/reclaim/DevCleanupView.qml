@@ -17,8 +17,6 @@ ModuleScaffold {
         FocusScope {
             id: results
 
-            focus: true
-
             // Set by ModuleScaffold.
             property ReclaimScreenModel module: null
 
