@@ -40,10 +40,12 @@ if(ZELK_UNITY)
   set(CMAKE_UNITY_BUILD_BATCH_SIZE 12)
   # It looks for one class of the same name in two sources; these are one source here. Of g++ alone.
   add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
-  # The largest of them takes 1.6 GB to compile: no more at once than there is memory for.
+  # So early, g++ would only find that nothing is garbage yet, for a tenth of its time.
+  add_compile_options($<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-heapsize=500000>)
+  # The largest of them takes 1.8 GB to compile: no more at once than there is memory for.
   cmake_host_system_information(RESULT memory QUERY TOTAL_PHYSICAL_MEMORY)  # in MiB
   cmake_host_system_information(RESULT cores QUERY NUMBER_OF_LOGICAL_CORES)
-  math(EXPR jobs "${memory} / 1600")
+  math(EXPR jobs "${memory} / 1800")
   if(jobs LESS 1)
     set(jobs 1)
   endif()

@@ -2294,7 +2294,7 @@
         <translation>Im Ordner „Programme“ liegt keine Anwendung.</translation>
     </message>
     <message>
-        <source>There is none of flatpak, snap or the distribution, and no AppImage or unpacked application in your home folder.</source>
+        <source>There is no application of flatpak, snap or the distribution, and no AppImage or unpacked application in your home folder.</source>
         <translation>Es gibt weder Anwendungen von Flatpak, Snap oder der Distribution noch ein AppImage oder eine entpackte Anwendung in Ihrem persönlichen Ordner.</translation>
     </message>
     <message>

@@ -88,6 +88,14 @@ TEST_F(ReclaimingItems, spokenTextStartsWithName) {
     EXPECT_THAT(spoken, testing::HasSubstr("50 MB"));
 }
 
+TEST_F(ReclaimingItems, entersWithFocusInTheList) {
+    surveyByMouse();
+    click("developerSwitch");
+    press(Qt::Key_1, Qt::ControlModifier);
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(find("itemList")->hasActiveFocus());
+}
+
 TEST_F(ReclaimingItems, cleansItemsWithKeyboardAlone) {
     surveyByKeys();
     tabTo(window(), "developerSwitch");

@@ -208,6 +208,16 @@ TEST_F(Reclaiming, sheetCannotBeClosedWhileCleaning) {
     untilSurveyed(2);
 }
 
+TEST_F(Reclaiming, entersWithFocusInTheList) {
+    surveyByMouse();
+    EXPECT_TRUE(find("categoryList")->hasActiveFocus());
+    EXPECT_FALSE(find("categoryList")->property("ringed").toBool()) << "the mouse needs no ring";
+    press(Qt::Key_1, Qt::ControlModifier);
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_TRUE(find("categoryList")->hasActiveFocus());
+    EXPECT_TRUE(find("categoryList")->property("ringed").toBool());
+}
+
 TEST_F(Reclaiming, cleansCategoriesWithKeyboardAlone) {
     surveyByKeys();
     tabTo(window(), "categoryList");

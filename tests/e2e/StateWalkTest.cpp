@@ -157,6 +157,12 @@ TEST_F(StateWalk, hasNoFaultOnFirstRun) {
         window().grabWindow();
         ASSERT_NE(find("primaryButton"), nullptr) << page;
         inEverySize(page);
+        for (int control = 0; control < 3; ++control) {
+            press(Qt::Key_Tab);
+            window().grabWindow();
+            EXPECT_THAT(ringFaults(window()), testing::IsEmpty()) << page << ", " << focusName().toStdString();
+        }
+        find("primaryButton")->forceActiveFocus(Qt::TabFocusReason);
         press(Qt::Key_Return);
         runWhatIsThere();
     }

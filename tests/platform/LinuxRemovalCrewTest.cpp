@@ -14,10 +14,12 @@
 #include <atomic>
 #include <cerrno>
 #include <filesystem>
+#include <optional>
 #include <random>
 #include <set>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "fakes/InChild.h"
@@ -27,6 +29,7 @@
 #include "fakes/TestFiles.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/OpenDirectory.h"
+#include "platform/posix/RemoveEntry.h"
 #include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 
@@ -269,6 +272,110 @@ TEST_F(Crew, stopsOthersAfterAFailure) {
         [&] { failure = removed(); });
     EXPECT_TRUE(failure);
     EXPECT_GT(pathsBelow(victim).size(), 0u);
+}
+
+// The threads of the two are refused, so that one does the shares of all, in an order that can be compared.
+TEST_F(Crew, doesItsSharesInTheOrderOfOneThread) {
+    const std::string copy = temp / "copy";
+    for (const int number : {SYS_unlinkat, SYS_openat2, SYS_getdents64}) {
+        bool failed = true;
+        for (unsigned failing = 0; failed; ++failing) {
+            for (const std::string& parent : {temp.path(), copy}) {
+                fs::remove_all(parent + "/victim");
+                makeTree(2, 4, parent + "/victim");
+            }
+            const auto rule = [failing](unsigned call) { return call == failing ? EIO : 0; };
+            Failure ofOne;
+            behindGate(number, rule, [&] { ofOne = removedBy(oneThread, copy, "victim"); });
+            Failure ofShares;
+            behindGate(number, rule, [&] {
+                ASSERT_EQ(fakes::filterCalls(SYS_clone3, SECCOMP_RET_ERRNO | EAGAIN), 0);
+                ofShares = removed();
+            });
+            EXPECT_EQ(ofShares, ofOne) << number << " " << failing;
+            EXPECT_EQ(pathsBelow(victim), pathsBelow(copy + "/victim")) << number << " " << failing;
+            failed = ofOne.has_value();
+        }
+        EXPECT_FALSE(fs::exists(victim));
+    }
+}
+
+TEST_F(Crew, doesNothingTwice) {
+    makeTree(3, 6, victim);
+    const std::size_t entries = pathsBelow(victim).size() + 1;
+    const std::size_t folders = entries / 2;  // there is a file in each
+    for (int run = 0; run < 5; ++run) {
+        for (const auto& [number, expected] : {std::pair(SYS_unlinkat, entries), std::pair(SYS_openat2, folders)}) {
+            if (!fs::exists(victim)) makeTree(3, 6, victim);
+            std::size_t calls = 0;
+            behindGate(
+                number, [&](unsigned) { return ++calls, 0; }, [&] { EXPECT_EQ(removed(), std::nullopt); });
+            EXPECT_EQ(calls, expected) << number;
+        }
+    }
+}
+
+// The item's own remover fails while a fellow is at work, which learns of it in the middle of a folder.
+class CrewWithAFailure : public Crew {
+protected:
+    /// Removes trees until the remover has failed in one of its first calls, with a fellow at work. From then on the
+    /// fellow's calls fail with `late`.
+    void failAmongTwo(int late) {
+        for (bool failed = false; !failed;) {
+            fs::remove_all(victim);
+            makeTree(2, 30, victim);
+            std::optional<pid_t> first;
+            unsigned calls = 0;
+            bool helped = false;
+            behindGate(
+                SYS_unlinkat,
+                [&](unsigned, pid_t thread) {
+                    if (!first) first = thread;
+                    if (thread == *first) {
+                        callsAfterFailure += failed ? 1U : 0U;
+                        failed = failed || (helped && calls < 60);
+                        ++calls;
+                        return failed ? EROFS : 0;
+                    }
+                    helped = true;
+                    if (!failed) return 0;
+                    for (int times = 0; times < 1000; ++times) std::this_thread::yield();  // until it has been told
+                    return late;
+                },
+                [&] {
+                    failure = removed(RemovalCrew::Size{1, 0});
+                });
+            EXPECT_EQ(failure.has_value(), failed);
+        }
+    }
+
+    Failure failure;
+    unsigned callsAfterFailure = 0;
+};
+
+TEST_F(CrewWithAFailure, reportsTheOneThatOneThreadWouldMeet) {
+    for (int run = 0; run < 5; ++run) {
+        failAmongTwo(EIO);
+        EXPECT_THAT(failure, Optional(testing::EndsWith("couldn’t be removed: Read-only file system")));
+    }
+}
+
+TEST_F(CrewWithAFailure, takesNothingOnAfterIt) {
+    for (int run = 0; run < 5; ++run) failAmongTwo(0);
+    EXPECT_EQ(callsAfterFailure, 0u);
+}
+
+TEST_F(Crew, comesToLargeItemsOnly) {
+    if (RemovalHelpers::usualMost() == 0) return;  // with one processor there are no helpers
+    for (const auto& [width, expected] : {std::pair(15, false), std::pair(30, true)}) {
+        makeTree(2, width, victim);
+        bool started = false;
+        const Descriptor parent(openForLookups(temp.path()));
+        behindGate(
+            SYS_clone3, [&](unsigned) { return started = true, 0; },
+            [&] { EXPECT_EQ(removeEntry(parent.get(), "victim"), std::nullopt); });
+        EXPECT_EQ(started, expected) << width;
+    }
 }
 
 TEST_F(Crew, givesUpOnFoldersThatKeepRefilling) {

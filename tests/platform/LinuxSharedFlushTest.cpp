@@ -10,6 +10,8 @@
 #include <thread>
 #include <vector>
 
+#include "fakes/Mounts.h"
+#include "fakes/OpenDescriptors.h"
 #include "fakes/SystemCallGate.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/OpenDirectory.h"
@@ -102,6 +104,25 @@ TEST_F(FlushingTogether, anotherFolderDoesNotWait) {
     itself = &shared;
     shared.flush(folder.get());
     EXPECT_EQ(flushed, (std::vector<int>{other.get(), folder.get()}));
+}
+
+// Two volumes number their files alike.
+TEST_F(FlushingTogether, folderOfAnotherVolumeHasItsOwnFlush) {
+    fakes::Mounts mounts;
+    if (!mounts.allowed()) GTEST_SKIP() << "mounting is not allowed here";
+    for (const char* name : {"one", "two"}) mounts.memory(temp / name);
+    const Descriptor one(openRootDirectory(temp / "one"));
+    const Descriptor two(openRootDirectory(temp / "two"));
+    ASSERT_EQ(fakes::identityOf(one.get()).second, fakes::identityOf(two.get()).second);
+    std::vector<int> flushed;
+    SharedFlush* itself = nullptr;
+    SharedFlush shared([&](int which) {
+        if (which == one.get()) std::thread([&] { itself->flush(two.get()); }).join();
+        flushed.push_back(which);
+    });
+    itself = &shared;
+    shared.flush(one.get());
+    EXPECT_EQ(flushed, (std::vector<int>{two.get(), one.get()}));
 }
 
 TEST_F(FlushingTogether, returnsWhereFoldersCannotBeFlushed) {

@@ -22,9 +22,9 @@
 #include "fakes/SystemCallGate.h"
 #include "fakes/TestFiles.h"
 #include "fakes/TrashContent.h"
+#include "platform/HomeTrash.h"
 #include "platform/linux/trash/LinuxTrash.h"
 #include "platform/posix/Descriptor.h"
-#include "zoo/TempFolder.h"
 #include "zoo/Zoo.h"
 
 namespace zelk {
@@ -39,24 +39,11 @@ using fakes::writeFile;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class EmptyingTrash : public testing::Test {
+class EmptyingTrash : public HomeTrash {
 protected:
-    void SetUp() override {
-        zoo::makeFolder(files);
-        zoo::makeFolder(info);
-    }
-
-    /// Adds info as another program wrote it a while ago.
-    void addInfo(const std::string& name) {
-        const std::string path = info + "/" + name + ".trashinfo";
-        writeFile(path, "[Trash Info]\nPath=/was/here\nDeletionDate=2026-01-01T00:00:00\n");
-        const timespec old[2] = {{1000000000, 0}, {1000000000, 0}};
-        ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), old, 0), 0);
-    }
-
     void add(const std::string& name) {
         addInfo(name);
-        zoo::makeFile(files + "/" + name, 10);
+        zoo::makeFile(contentOf(name), 10);
     }
 
     /// Adds a folder of the ordinary user that contains another user's folder.
@@ -96,13 +83,6 @@ protected:
         fakes::behindGate(SYS_unlinkat, rule, [&] { EXPECT_EQ(itsTrash.empty(), 1u); });
         expectNewcomerAlone();
     }
-
-    const zoo::TempFolder temp{zoo::TempFolder::Medium::memory};
-    const std::string home = temp / "home";
-    const std::string trash = home + "/.local/share/Trash";
-    const std::string files = trash + "/files";
-    const std::string info = trash + "/info";
-    LinuxTrash itsTrash{home};
 };
 
 TEST_F(EmptyingTrash, removesContentAndInfo) {
@@ -310,8 +290,8 @@ TEST_F(EmptyingTrash, unremovableEntryYieldsItsNameToANewItem) {
     EXPECT_EQ(found.size(), namesIn(files).size());
     ASSERT_EQ(found.count(temp / "mine/locked"), 1u);
     EXPECT_EQ(fakes::fileContent(found.at(temp / "mine/locked")), "newcomer");
-    ASSERT_EQ(found.count("/was/here"), 1u);
-    EXPECT_TRUE(fs::exists(found.at("/was/here") + "/theirs/file"));
+    ASSERT_EQ(found.count("/was/locked"), 1u);
+    EXPECT_TRUE(fs::exists(found.at("/was/locked") + "/theirs/file"));
 }
 
 TEST_F(EmptyingTrash, concurrentTrashingKeepsContentAndInfoTogether) {

@@ -82,6 +82,18 @@ TEST(RemoveInRanges, takesEachNumberOnce) {
     }
 }
 
+TEST(RemoveInRanges, givesAwayAsManyAtOnceAsAreWorthIt) {
+    for (const std::size_t count : {31U, 32U, 33U, 100U}) {
+        std::atomic<std::size_t> ranges{0};
+        removeInRanges(count, [&](std::size_t first, std::size_t end) {
+            ++ranges;
+            EXPECT_EQ(first % 32, 0u);
+            EXPECT_TRUE(end - first == 32 || end == count);
+        });
+        EXPECT_EQ(ranges, (count + 31) / 32);
+    }
+}
+
 TEST(RemoveInRanges, staysOnThisThreadForFew) {
     const std::thread::id here = std::this_thread::get_id();
     removeInRanges(32, [&](std::size_t, std::size_t) { EXPECT_EQ(std::this_thread::get_id(), here); });

@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <latch>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -60,6 +61,38 @@ TEST(RemovalPermit, grantsOnePer32DescriptorsBetween2And64) {
     EXPECT_TRUE(withDescriptors(16, [] { return grantsExactly(2); }));
     EXPECT_TRUE(withDescriptors(32 * 7, [] { return grantsExactly(7); }));
     EXPECT_TRUE(withDescriptors(4096, [] { return grantsExactly(64); }));
+}
+
+TEST(RemovalPermit, isFreeWithoutWaitingWhereThereAreDescriptorsForIt) {
+    EXPECT_TRUE(withDescriptors(31, [] { return RemovalPermit::ifFree() == nullptr; }));
+    EXPECT_TRUE(withDescriptors(32 * 3, [] {
+        std::vector<std::unique_ptr<RemovalPermit>> all;
+        for (int permit = 0; permit < 3; ++permit) all.push_back(RemovalPermit::ifFree());
+        if (all.back() == nullptr || RemovalPermit::ifFree() != nullptr) return false;
+        all.pop_back();
+        return RemovalPermit::ifFree() != nullptr;
+    }));
+}
+
+TEST(RemovalPermit, oneThatWasFreeLetsAWaiterGoOn) {
+    EXPECT_TRUE(withDescriptors(64, [] {
+        std::unique_ptr<RemovalPermit> first = RemovalPermit::ifFree();
+        const std::unique_ptr<RemovalPermit> second = RemovalPermit::ifFree();
+        std::latch waits(1);
+        std::atomic<bool> released = false;
+        bool early = false;
+        std::thread waiting([&] {
+            waits.count_down();
+            const RemovalPermit permit;
+            early = !released;
+        });
+        waits.wait();
+        letOthersRun();
+        released = true;
+        first.reset();
+        waiting.join();
+        return second != nullptr && !early;
+    }));
 }
 
 // If each release woke every waiter, the threads would fall asleep again some eighty thousand times.

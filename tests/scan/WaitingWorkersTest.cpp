@@ -110,14 +110,19 @@ protected:
 TEST_F(WaitingWorkers, areJoinedByMore) {
     folders("held", 5);
     folders("other", static_cast<int>(watched) * 40);
+    folders("first", 2);
     disk.sleepsPerFolder(1);
     for (int i = 0; i < 5; ++i) disk.hold("/r/held" + std::to_string(i));
+    for (int i = 0; i < 2; ++i) disk.hold("/r/first" + std::to_string(i));
     std::thread walking([&] { walk({2, 5}); });
+    // Until both have come, the one that is there sees the other wait for work and calls nobody.
+    for (int i = 0; i < 2; ++i) disk.waitUntilHeld("/r/first" + std::to_string(i));
+    for (int i = 0; i < 2; ++i) disk.release("/r/first" + std::to_string(i));
     for (int i = 0; i < 5; ++i) disk.waitUntilHeld("/r/held" + std::to_string(i));
     disk.release();
     walking.join();
     EXPECT_EQ(disk.most(), 5);
-    EXPECT_EQ(collectors.counters.counts().files, watched * 40 + 5);
+    EXPECT_EQ(collectors.counters.counts().files, watched * 40 + 7);
 }
 
 TEST_F(WaitingWorkers, areJoinedByNoneBeyondTheLimit) {

@@ -4,6 +4,7 @@
 #include <limits>
 #include <string>
 
+#include "fakes/RightToLeft.h"
 #include "ui/screens/overview/TrendsModel.h"
 
 namespace zelk {
@@ -85,6 +86,15 @@ TEST(Changes, showsNewSizeAndGrowthOrTheOnlySize) {
     EXPECT_THAT(grown, testing::EndsWith("+2 GB"));
     EXPECT_EQ(text(changes, 2, "size"), "400 MB");
     EXPECT_EQ(text(changes, 3, "size"), "600 MB");
+}
+
+TEST(Changes, sizeGoesBeforeGrowthFromRightToLeft) {
+    const fakes::RightToLeft direction;
+    ChangesModel changes;
+    changes.show(threeKinds());
+    EXPECT_THAT(text(changes, 0, "size"), testing::StartsWith("\u200F\u20683 GB\u2069"))
+        << "the mark tells their order";
+    EXPECT_EQ(text(changes, 2, "size"), "\u2068400 MB\u2069");
 }
 
 TEST(Changes, growthSaturatesInsteadOfOverflowing) {

@@ -4,7 +4,9 @@
 #include <QTest>
 #include <algorithm>
 #include <memory>
+#include <set>
 
+#include "PseudoLanguage.h"
 #include "TextsOf.h"
 #include "ViewFixture.h"
 #include "fakes/DuplicatesHome.h"
@@ -129,6 +131,22 @@ TEST_F(DuplicatesWindow, tagsLieOnTintsOfTheirColours) {
     green.setAlpha(255);
     EXPECT_EQ(green, QColor(50, 199, 123));
     EXPECT_NE(groundOf("dup").rgb(), groundOf("keep").rgb());
+}
+
+TEST_F(DuplicatesWindow, pathsBeginAtOnePlace) {
+    // In a language whose words for the tags are wider than their column, and not equally wide.
+    tour::PseudoLanguage language;
+    QCoreApplication::installTranslator(&language);
+    openFilled();
+    std::set<double> starts;
+    for (const char* path : {"/home/me/copies/film 2.mov", "/home/me/copies/film 3.mov", "/home/me/papers/b.pdf"})
+        starts.insert(showing(path)->mapToScene({}).x());
+    EXPECT_THAT(starts, testing::SizeIs(1));
+    for (const QString& tag : duplicates().rows()->tags()) {
+        const QQuickItem* word = showing(tag.toUtf8().constData());
+        ASSERT_NE(word, nullptr) << tag.toStdString();
+        EXPECT_GE(word->parentItem()->width(), word->implicitWidth() + 2 * 8);
+    }
 }
 
 TEST_F(DuplicatesWindow, buttonsActOnTheirRow) {

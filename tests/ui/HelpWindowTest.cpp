@@ -160,6 +160,15 @@ TEST_F(HelpWindowTest, showsTintedSymbolInListAndOnPage) {
     }
 }
 
+TEST_F(HelpWindowTest, symbolsOfTheListGrowWithItsTexts) {
+    open();
+    ASSERT_NE(symbol("speedometer"), nullptr);
+    EXPECT_EQ(symbol("speedometer")->size(), sideBesideText(14)) << "as in the sidebar";
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    settle();
+    EXPECT_EQ(symbol("speedometer")->size(), sideBesideText(1.5 * 14));
+}
+
 TEST_F(HelpWindowTest, opensWithFirstTopicFocused) {
     open();
     EXPECT_EQ(focusName(), "Getting started");

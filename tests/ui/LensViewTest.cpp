@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Drives the rendered screen with its two panes by mouse and keyboard.
 #include "LensFixture.h"
+#include "PseudoLanguage.h"
 #include "ViewFixture.h"
 
 namespace zelk {
@@ -121,6 +122,36 @@ TEST_F(LensViewTest, footerKeepsMarginOfThePage) {
     model().setVolume(std::nullopt);
     settle();
     EXPECT_EQ(find("lensCaption")->mapToScene({}).x(), 26);
+}
+
+TEST_F(LensViewTest, iconOfTheFolderIsCentredOnItsLines) {
+    openSurveyed();
+    const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
+    EXPECT_NEAR(box("lensPlaceIcon").center().y(), box("lensName").united(box("lensPlaceLine")).center().y(), 1);
+    clickItem(row("projects"));
+    ASSERT_FALSE(text("lensLoose").empty());
+    EXPECT_NEAR(box("lensPlaceIcon").center().y(), box("lensName").united(box("lensPlaceLine")).center().y(), 1);
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    settle();
+    EXPECT_NEAR(box("lensPlaceIcon").center().y(), box("lensName").united(box("lensPlaceLine")).center().y(), 1);
+}
+
+TEST_F(LensViewTest, footerStaysLowInALongerLanguage) {
+    tour::PseudoLanguage language;
+    QCoreApplication::installTranslator(&language);
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    machine.vitals.setVolume(home, VolumeInfo{994'660'000'000, 212'460'000'000, 0});
+    fill();
+    survey();
+    open({760, 585});
+    const auto box = [&](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
+    EXPECT_LE(find("lensCaption")->property("lineCount").toInt(), 2);
+    EXPECT_GE(box("lensCaption").top(), box("lensVolumeBar").bottom());
+    EXPECT_EQ(box("lensCaption").left(), 26);
+    for (const char* text : {"lensVolume", "lensCaption"})
+        EXPECT_LE(box(text).right(), box("lensRemove").left()) << text;
+    EXPECT_LE(box("lensCaption").bottom(), 585 - 16);
+    EXPECT_GT(find("lensList")->height(), 150) << "the list has room";
 }
 
 TEST_F(LensViewTest, hidesVolumeBarWithoutVolume) {

@@ -91,6 +91,16 @@ TEST_F(OverviewTexts, showResultsAfterSurvey) {
     EXPECT_EQ(sizeOf("re-run"), 10);
 }
 
+TEST_F(OverviewTexts, endTogetherInTheCardOfTheLargestFiles) {
+    fillHome();
+    survey();
+    open();
+    const auto rightOf = [this](const char* text) {
+        return showing(text)->mapRectToScene(showing(text)->boundingRect()).right();
+    };
+    EXPECT_NEAR(rightOf("See all"), rightOf("50 MB"), 0.5) << "the size of v6, which no other card shows";
+}
+
 TEST_F(OverviewTexts, standBesideSymbolsInTheColourOfTheType) {
     fillHome();
     survey();
@@ -99,6 +109,7 @@ TEST_F(OverviewTexts, standBesideSymbolsInTheColourOfTheType) {
         model().setAppearance(appearance);
         settle();
         EXPECT_EQ(colorsOf("film"), std::vector<QColor>{QColor(232, 91, 196)});
+        EXPECT_EQ(symbol("film")->size(), sideBesideText(13));
         const QColor other = lookOf(FileType::other, singleton<Theme>("Theme").current()).color;
         EXPECT_EQ(colorsOf("doc"), (std::vector<QColor>{other, other})) << "v6 and a.js";
     }

@@ -112,6 +112,21 @@ TEST_F(QuitSheetWindow, closesWhenRemovalEnds) {
     EXPECT_EQ(quits, 0);
 }
 
+TEST_F(QuitSheetWindow, spinnerHasRoomBesideLongAnswers) {
+    ask();
+    EXPECT_EQ(find("quitSpinner"), nullptr);
+    click("stopNow");
+    // As wide as the sheet, as they are in some languages.
+    for (const char* name : {"cancelQuit", "stopNow", "finishFirst"})
+        find(name)->setProperty("text", QString(12, QLatin1Char('m')));
+    settle();
+    const auto box = [this](const char* name) { return find(name)->mapRectToScene(find(name)->boundingRect()); };
+    const QRectF spinner = box("quitSpinner");
+    EXPECT_GE(spinner.left(), box("quitNote").left());
+    EXPECT_LE(spinner.right(), box("finishFirst").right());
+    EXPECT_LE(spinner.bottom(), box("finishFirst").top());
+}
+
 TEST_F(QuitSheetWindow, clipsNothingInLargeText) {
     singleton<TextScale>("TextScale").setFactor(1.5);
     ask();

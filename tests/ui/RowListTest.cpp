@@ -122,4 +122,20 @@ TEST_F(RowListWindow, screenReaderVisitsRowsTopDownAfterScrolling) {
     }
 }
 
+TEST_F(RowListWindow, lastRowBringsTheMarginBelowIt) {
+    QQuickItem* list = find("list");
+    const auto y = [list] { return list->property("contentY").toReal(); };
+    list->setProperty("bottomMargin", 20);
+    list->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_End);
+    EXPECT_EQ(y(), 100 * 40 + 20 - 400);
+    press(Qt::Key_Up);
+    EXPECT_EQ(y(), 100 * 40 + 20 - 400) << "it is in sight";
+    press(Qt::Key_Home);
+    EXPECT_EQ(y(), 0);
+    list->setProperty("model", 3);
+    press(Qt::Key_End);
+    EXPECT_EQ(y(), 0) << "all rows are in sight";
+}
+
 }  // namespace zelk

@@ -161,6 +161,13 @@ TEST_F(SettingsWindow, rowShowsFolderAndRemoveSymbols) {
     const QQuickItem* path = find("rootPath");
     EXPECT_LT(folder->mapToScene({}).x(), path->mapToScene({}).x());
     EXPECT_GE(remove->mapToScene({}).x(), path->mapToScene({path->width(), 0}).x());
+    EXPECT_EQ(remove->mapToScene({remove->width(), 0}).x(), 460 - 26 - 16) << "where the controls below it end";
+    EXPECT_EQ(folder->size(), sideBesideText(13));
+    singleton<TextScale>("TextScale").setFactor(1.5);
+    settle();
+    EXPECT_EQ(folder->size(), sideBesideText(1.5 * 13)) << "it grows with the path";
+    singleton<TextScale>("TextScale").setFactor(1);
+    settle();
     tour::clickAt(window(), remove->mapToScene(remove->boundingRect().center()));
     settle();
     EXPECT_EQ(model().scanRoots(), Roots{});

@@ -133,8 +133,8 @@ constexpr Wording wordings[] = {
      "claims to. The gap between your survey and the volume total lives there."},
     {SystemTexts::ReadingApplications, "Reading /Applications…", "Reading applications…"},
     {SystemTexts::WhereAppsAre, "There is no application in the folder Applications.",
-     "There is none of flatpak, snap or the distribution, and no AppImage or unpacked application in your home "
-     "folder."},
+     "There is no application of flatpak, snap or the distribution, and no AppImage or unpacked application in your "
+     "home folder."},
 };
 
 constexpr SystemTexts::System inSandbox = SystemTexts::System::flatpak;

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include <memory>
+#include <string>
+#include <vector>
 
-#include "Readable.h"
-#include "TextsOf.h"
-#include "ViewFixture.h"
-#include "fakes/SnapshotTools.h"
-#include "ui/screens/system/SystemScreenModel.h"
-#include "ui/theme/ScreenLook.h"
+#include "SystemViewFixture.h"
 
 namespace zelk {
 
@@ -21,66 +17,7 @@ using testing::Not;
 
 using Texts = std::vector<std::string>;
 
-class SystemViewTest : public ViewFixture {
-protected:
-    SystemViewTest() {
-        tools.kept = {{"com.apple.os.update-1", false, 1}, {"NewRoot", true, 2}, {"OldRoot", true, 3}};
-        machine.vitals.setVolume(home, VolumeInfo{500'000'000'000, 120'000'000'000, 150'000'000'000});
-    }
-    ~SystemViewTest() override { close(); }
-
-    void onLinux() {
-        // The model reads it when it is made.
-        destroyModel();
-        machine.system = SystemKind::desktopLinux;
-        for (fakes::SnapshotTools::Kept& one : tools.kept) one.date.clear();  // names of buttons say it
-        singleton<Theme>("Theme").follow(model());
-        linuxTexts_ = std::make_unique<TextsOf>(desktopLinux);
-    }
-    /// Shows the results of a survey.
-    void open(QSize size = {900, 1200}) {
-        survey();
-        show(size);
-    }
-    void show(QSize size = {900, 1200}) {
-        screen_ = std::make_unique<SystemScreenModel>(model());
-        ViewFixture::show(QStringLiteral("Zelk.App"), QStringLiteral("SystemView"), "system", screen_.get(), size);
-        settle();
-    }
-    void close() {
-        ViewFixture::close();
-        screen_.reset();
-    }
-    SnapshotsModel& snapshots() { return *screen_->snapshots(); }
-    int count(const char* text) {
-        const Texts texts = seenTexts();
-        return static_cast<int>(std::count(texts.begin(), texts.end(), text));
-    }
-    void answer(const std::string& text, int status = 0) { tools.removal = {std::nullopt, status, text}; }
-    static double shownOpacity(const QQuickItem* item) {
-        double opacity = 1;
-        for (; item != nullptr; item = item->parentItem()) opacity *= item->opacity();
-        return opacity;
-    }
-    static QAccessible::Role roleOf(QQuickItem* item) {
-        const QAccessibleInterface* control = QAccessible::queryAccessibleInterface(item);
-        return control == nullptr ? QAccessible::NoRole : control->role();
-    }
-    /// The names of the visible items of this role, from top to bottom.
-    Texts spoken(QAccessible::Role role) {
-        Texts names;
-        for (QQuickItem* item : seen())
-            if (item->property("spoken").isValid() && roleOf(item) == role) names.push_back(nameOf(item));
-        return names;
-    }
-
-    fakes::SnapshotTools tools{machine};
-
-private:
-    const TextsOf texts_{macOS};
-    std::unique_ptr<TextsOf> linuxTexts_;
-    std::unique_ptr<SystemScreenModel> screen_;
-};
+class SystemViewTest : public SystemViewFixture {};
 
 }  // namespace
 
@@ -445,50 +382,6 @@ TEST_F(SystemViewTest, returningToTheScreenListsAgainAndKeepsTheKeyboardSomewher
     EXPECT_THAT(tools.removals(), IsEmpty()) << "the button is hidden";
     machine.tasks.release();
     settle();
-}
-
-TEST_F(SystemViewTest, cardsHaveTheirGreatestWidth) {
-    open({1600, 1200});
-    const QQuickItem* card = find("snapshotList");
-    ASSERT_NE(card, nullptr);
-    EXPECT_EQ(card->width(), 760 - 2 * 18);
-    EXPECT_EQ(card->mapToScene({}).x(), 26 + 18);
-}
-
-TEST_F(SystemViewTest, clipsNoTextAtLargeScaleInSmallWindow) {
-    machine.directories.file(home + "/win.vdi", 60'000'000'000, 0);
-    open({726, 592});
-    expectNoTextClipped();
-    singleton<TextScale>("TextScale").setFactor(1.5);
-    settle();
-    expectNoTextClipped();
-    singleton<TextScale>("TextScale").setFactor(1);
-}
-
-TEST_F(SystemViewTest, textsAreReadableInBothThemes) {
-    machine.directories.file(home + "/win.vdi", 60'000'000'000, 0);
-    open();
-    answer("done");
-    click("thinSnapshots");
-    settle();
-    for (const auto appearance : {AppModel::Appearance::dark, AppModel::Appearance::light}) {
-        model().setAppearance(appearance);
-        settle();
-        const ZelkTheme& theme = singleton<Theme>("Theme").current();
-        int texts = 0;
-        for (QQuickItem* item : seen()) {
-            if (!item->inherits("QQuickText") || item->property("text").toString().isEmpty()) continue;
-            if (shownOpacity(item) < 1) continue;  // of a button that rests
-            const auto color = item->property("color").value<QColor>();
-            const QVariant fill = item->parentItem()->property("ink");  // of a tag
-            QColor ground = theme.surface;
-            if (fill.isValid()) ground = laidOn(ground, item->parentItem()->property("color").value<QColor>());
-            EXPECT_GE(contrastBetween(color, ground), readableContrast - 0.001)
-                << item->property("text").toString().toStdString();
-            ++texts;
-        }
-        EXPECT_GT(texts, 20);
-    }
 }
 
 }  // namespace zelk

@@ -81,6 +81,13 @@ TEST_F(LensUndo, barLiesBetweenListAndFoot) {
     expectNoTextClipped();
 }
 
+TEST_F(LensUndo, dotStandsInTheMiddleBetweenTheTexts) {
+    open();
+    remove();
+    const auto box = [this](const char* text) { return showing(text)->mapRectToScene(showing(text)->boundingRect()); };
+    EXPECT_NEAR(box("·").left() - box("Moved to the Trash").right(), box("Undo").left() - box("·").right(), 0.5);
+}
+
 TEST_F(LensUndo, pointerUndoesTheRemoval) {
     open();
     remove();

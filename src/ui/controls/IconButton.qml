@@ -13,6 +13,10 @@ BaseButton {
     property color tint: Theme.inkSoft
     property real size: 14
     property real side: 30
+    // From an edge of the button to its symbol. As a negative margin it puts the symbol at the edge of what is around.
+    readonly property real overhang: (button.implicitWidth - button.symbolSize) / 2
+    // As drawn.
+    readonly property real symbolSize: Math.round(button.size * TextScale.factor)
 
     implicitWidth: Math.round(button.side * TextScale.factor)
     implicitHeight: Math.round(button.side * TextScale.factor)
@@ -30,7 +34,7 @@ BaseButton {
             anchors.centerIn: parent
             name: button.symbol
             color: button.hovered && button.enabled ? Theme.ink : button.tint
-            size: Math.round(button.size * TextScale.factor)
+            size: button.symbolSize
         }
     }
 

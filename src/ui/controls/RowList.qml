@@ -34,6 +34,10 @@ ListView {
         list.rowChosen = true;
         list.currentIndex = Math.min(Math.max(row, 0), list.count - 1);
         list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+        // The margin below the last row comes with it.
+        const bottom = (list.currentItem?.y ?? 0) + (list.currentItem?.height ?? 0) + list.bottomMargin;
+        if (list.currentIndex === list.count - 1)
+            list.contentY = Math.max(list.contentY, bottom - list.height);
         list.moved();
     }
 

@@ -119,8 +119,10 @@ T.Popup {
                 page.primary.clicked();
         }
 
+        // As far into the padding at both sides, so that it cuts no focus ring there.
         ScrollArea {
             anchors.fill: parent
+            anchors.leftMargin: page.barMargin
             anchors.rightMargin: page.barMargin
             contentHeight: holder.height
 
@@ -128,6 +130,7 @@ T.Popup {
                 id: holder
 
                 anchors.left: parent.left
+                anchors.leftMargin: -page.barMargin
                 width: page.bodyWidth
                 height: Math.max(page.height, page.body?.implicitHeight ?? 0)
             }

@@ -93,7 +93,8 @@ FocusScope {
         objectName: "undoRemoval"
         focus: true
         anchors.left: dot.right
-        anchors.leftMargin: 4
+        // Its text is as far from the dot as the one before.
+        anchors.leftMargin: 4 - undo.horizontalPadding
         anchors.verticalCenter: parent.verticalCenter
         visible: bar.undoable
         text: qsTr("Undo")
@@ -112,7 +113,7 @@ FocusScope {
         objectName: "closeUndoBar"
         anchors.right: parent.right
         // Its cross ends at the margin.
-        anchors.rightMargin: Theme.pageMargin - (close.side - close.size) / 2
+        anchors.rightMargin: Theme.pageMargin - close.overhang
         anchors.verticalCenter: parent.verticalCenter
         symbol: "xmark"
         size: 12

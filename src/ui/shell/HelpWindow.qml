@@ -225,14 +225,14 @@ SecondaryWindow {
             height: row.availableHeight
             implicitHeight: Math.max(symbolItem.height, label.height)
 
-            SymbolItem {
+            TextSymbol {
                 id: symbolItem
 
                 anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
                 name: row.modelData.symbol
                 color: row.modelData.tint
-                size: 16
+                points: 14
             }
 
             Label {

@@ -28,13 +28,32 @@ Sheet {
             width: parent.width
             spacing: 8
 
-            Label {
+            // The spinner stands here, as the answers take the whole width below in some languages.
+            Item {
                 width: parent.width
-                text: sheet.title
-                size: 17
-                font.weight: Font.DemiBold
-                wrapMode: Text.WordWrap
-                Accessible.role: Accessible.Heading
+                implicitHeight: heading.implicitHeight
+
+                Label {
+                    id: heading
+
+                    anchors.left: parent.left
+                    anchors.right: spinner.left
+                    anchors.rightMargin: 10
+                    text: sheet.title
+                    size: 17
+                    font.weight: Font.DemiBold
+                    wrapMode: Text.WordWrap
+                    Accessible.role: Accessible.Heading
+                }
+
+                Spinner {
+                    id: spinner
+
+                    objectName: "quitSpinner"
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: sheet.question.stopping
+                }
             }
 
             Label {
@@ -53,11 +72,6 @@ Sheet {
             Row {
                 anchors.right: parent.right
                 spacing: 10
-
-                Spinner {
-                    anchors.verticalCenter: parent.verticalCenter
-                    visible: sheet.question.stopping
-                }
 
                 Button {
                     objectName: "cancelQuit"

@@ -216,8 +216,8 @@ constexpr std::array<Wordings, SystemTexts::keyCount> table{{
      QT_TRANSLATE_NOOP("SystemTexts", "Reading applications…")},
     {Texts::WhereAppsAre, QT_TRANSLATE_NOOP("SystemTexts", "There is no application in the folder Applications."),
      QT_TRANSLATE_NOOP("SystemTexts",
-                       "There is none of flatpak, snap or the distribution, and no AppImage or unpacked application in "
-                       "your home folder."),
+                       "There is no application of flatpak, snap or the distribution, and no AppImage or unpacked "
+                       "application in your home folder."),
      QT_TRANSLATE_NOOP(
          "SystemTexts",
          "There is no AppImage or unpacked application in your home folder. Those of flatpak, snap and the "

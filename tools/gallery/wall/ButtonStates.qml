@@ -42,7 +42,6 @@ Section {
             text: "Remove"
             symbol: "trash"
             alarming: true
-            textColor: "white"
             horizontalPadding: 18
             verticalPadding: 10
         }
@@ -82,7 +81,7 @@ Section {
 
         Button {
             kind: Button.Removal
-            text: "Review and Remove"
+            text: "Remove selected"
         }
     }
     StateRow {

@@ -73,6 +73,7 @@ Section {
     }
     StateRow {
         name: "SearchField"
+        filling: true
 
         SearchField {
             hint: "Search"
@@ -80,6 +81,7 @@ Section {
     }
     StateRow {
         name: "SearchField, with a text"
+        filling: true
 
         SearchField {
             hint: "Search"

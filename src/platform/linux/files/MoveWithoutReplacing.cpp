@@ -14,12 +14,6 @@
 namespace zelk {
 namespace {
 
-/// Whether `place` now holds `item`: some volumes report an error for a rename that succeeded, when the reply was lost.
-bool holds(const Place& place, const FileStatus& item) {
-    const std::optional<FileStatus> there = fileStatus(place.folder, place.name);
-    return there && there->isSameFile(item);
-}
-
 /// Creates an empty entry at `to` that a rename of `item` can replace. Creation fails if anything exists there, which
 /// the volume's rename alone cannot guarantee.
 int reserve(const Place& to, const FileStatus& item) {
@@ -35,7 +29,7 @@ int moveOntoReservation(const Place& from, const Place& to, const FileStatus& it
     const std::optional<FileStatus> reserved = fileStatus(to.folder, to.name);
     if (::renameat(from.folder, from.name.c_str(), to.folder, to.name.c_str()) == 0) return 0;
     const int error = errno;
-    if (holds(to, item)) return 0;
+    if (holds(to, item)) return 0;  // as in moveOr()
     if (reserved && holds(to, *reserved)) ::unlinkat(to.folder, to.name.c_str(), item.isDirectory() ? AT_REMOVEDIR : 0);
     return error;
 }
@@ -59,10 +53,16 @@ int moveOr(const Place& from, const Place& to, Fallback fallback) {
     const int error = errno;
     // EINVAL: the volume does not support RENAME_NOREPLACE; EPERM: some container filters refuse unknown system calls.
     if (error == EINVAL || error == ENOSYS || error == EPERM) return fallback(from, to, *item);
+    // Some volumes report an error for a rename that succeeded, when the reply was lost.
     return holds(to, *item) ? 0 : error;
 }
 
 }  // namespace
+
+bool holds(const Place& place, const FileStatus& file) {
+    const std::optional<FileStatus> there = fileStatus(place.folder, place.name);
+    return there && there->isSameFile(file);
+}
 
 int moveWithoutReplacing(const Place& from, const Place& to) {
     return moveOr(from, to, moveOntoReservation);

@@ -5,11 +5,16 @@
 
 namespace zelk {
 
+struct FileStatus;
+
 /// A name in an open directory.
 struct Place {
     int folder = -1;
     std::string name;
 };
+
+/// Whether `place` holds this very file now.
+bool holds(const Place& place, const FileStatus& file);
 
 /// Renames `from` to `to` without ever replacing anything. Returns 0 or the errno: EEXIST if `to` exists, EXDEV if it
 /// is on another volume. On an error nothing has moved.

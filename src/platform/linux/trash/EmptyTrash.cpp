@@ -5,6 +5,9 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
+#include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,13 +37,26 @@ std::vector<TrashEntry> entriesOf(const TrashFolder& trash) {
 /// another thread is setting aside.
 unsigned firstNumber(const std::vector<TrashEntry>& entries) {
     const std::string own = "emptying." + std::to_string(::getpid()) + ".";
+    // No emptying counts so far, and beyond it counting would begin again.
+    constexpr unsigned most = std::numeric_limits<unsigned>::max() / 2;
     unsigned first = 0;
     for (const TrashEntry& entry : entries) {
         if (!entry.name.starts_with(own)) continue;
         const auto number = parseNumber<unsigned>(std::string_view(entry.name).substr(own.size()));
-        if (number && *number >= first) first = *number + 1;
+        if (number && *number >= first && *number < most) first = *number + 1;
     }
     return first;
+}
+
+/// Removes the entry under its own name.
+bool removeInPlace(const TrashFolder& trash, const TrashEntry& entry) {
+    const Place info = infoOf(trash, entry.name);
+    const std::optional<FileStatus> itsInfo = fileStatus(info.folder, info.name);
+    if (!holds({trash.files.get(), entry.name}, entry.content)) return false;
+    if (removeEntry(trash.files.get(), entry.name, MountsInside::none)) return false;
+    // Its name is free by now, and the info there may be that of a new item.
+    if (itsInfo && holds(info, *itsInfo)) ::unlinkat(info.folder, info.name.c_str(), 0);
+    return true;
 }
 
 /// False if the entry, or what is left of it, is still there.
@@ -49,7 +65,10 @@ bool removeTrashed(const TrashFolder& trash, const TrashEntry& entry, FolderMoun
     // Look under its old name: the table may have been read when it still had it.
     if (entry.content.isDirectory() && mounts.areIn(entry.name, entry.content.mount)) return false;
     std::string own;
-    if (setAside(trash, entry, "emptying", next, own) != 0) return false;
+    const int error = setAside(trash, entry, "emptying", next, own);
+    // A full volume may have no room for another name, and emptying is how it gets room.
+    if (error == ENOSPC || error == EDQUOT) return removeInPlace(trash, entry);
+    if (error != 0) return false;
     if (removeEntry(trash.files.get(), own, MountsInside::none)) {
         putBack(trash, own, entry);
         return false;

@@ -13,18 +13,15 @@
 namespace zelk {
 namespace {
 
-bool isAt(const Place& place, const FileStatus& file) {
-    const std::optional<FileStatus> there = fileStatus(place.folder, place.name);
-    return there && there->isSameFile(file);
-}
-
 /// Links the info at `from` to the name `to` as well, or renames it on volumes without hard links. Returns 0 also if
 /// there is no info.
 int nameInfo(const Place& from, const Place& to) {
     if (::linkat(from.folder, from.name.c_str(), to.folder, to.name.c_str(), 0) == 0) return 0;
     const bool noSecondNames = errno == EPERM || errno == ENOSYS || errno == EOPNOTSUPP || errno == EMLINK;
     const int error = noSecondNames ? moveWithoutReplacing(from, to) : errno;
-    if (error != ENOENT) return error;
+    // Content with a name that is too long for info has none.
+    const bool hasNone = error == ENOENT || (error == ENAMETOOLONG && !fileStatus(from.folder, from.name));
+    if (!hasNone) return error;
     return fileStatus(to.folder, to.name) ? EEXIST : 0;
 }
 
@@ -42,7 +39,7 @@ int renameEntry(const TrashFolder& trash, const TrashEntry& entry, const std::st
     const Place newInfo = infoOf(trash, to);
     if (const int error = nameInfo(info, newInfo); error != 0) return error;
     int error = moveWithoutReplacing(content, newContent);
-    if (error == 0 && !isAt(newContent, entry.content)) {
+    if (error == 0 && !holds(newContent, entry.content)) {
         error = ESTALE;
         // If the name is taken again, the new item keeps the name that it came to, with its info.
         if (moveWithoutReplacing(newContent, content) != 0) return error;
@@ -53,7 +50,7 @@ int renameEntry(const TrashFolder& trash, const TrashEntry& entry, const std::st
     }
     // The old info may belong to a new item by now.
     const std::optional<FileStatus> own = fileStatus(newInfo.folder, newInfo.name);
-    if (own && isAt(info, *own)) ::unlinkat(info.folder, info.name.c_str(), 0);
+    if (own && holds(info, *own)) ::unlinkat(info.folder, info.name.c_str(), 0);
     return 0;
 }
 

@@ -53,7 +53,7 @@ bool flushInfo(const Descriptor& file, int folder, SharedFlush& names) {
     // open file, so the flush below would succeed without the content. Where the call is missing or forbidden, that
     // flush does it all.
     constexpr unsigned now = SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER;
-    const bool isWritten = ::sync_file_range(file.get(), 0, 0, now) == 0;
+    const bool isWritten = uninterrupted([&] { return ::sync_file_range(file.get(), 0, 0, now); }) == 0;
     if (!isWritten && errno != ENOSYS && errno != EPERM && errno != EINVAL && errno != ESPIPE) return false;
     names.flush(folder);
     return uninterrupted([&] { return ::fsync(file.get()); }) == 0;

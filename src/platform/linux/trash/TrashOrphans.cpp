@@ -21,9 +21,10 @@ namespace {
 /// Other programs hold no lock between writing info and moving its content, but do not take this long.
 constexpr std::time_t youngSeconds = 60;
 
+/// Also if the clock of the server that holds the volume is somewhat ahead.
 bool isYoung(const struct stat& info) {
     const std::time_t now = ::time(nullptr);
-    return info.st_mtime > now - youngSeconds && info.st_mtime <= now;
+    return info.st_mtime > now - youngSeconds && info.st_mtime < now + youngSeconds;
 }
 
 bool isMissing(const Descriptor& folder, const std::string& name) {

@@ -16,8 +16,6 @@ ModuleScaffold {
         FocusScope {
             id: results
 
-            focus: true
-
             // Set by ModuleScaffold.
             property AppsScreenModel module: null
 

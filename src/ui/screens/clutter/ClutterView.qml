@@ -15,8 +15,6 @@ ModuleScaffold {
         FocusScope {
             id: results
 
-            focus: true
-
             // Set by ModuleScaffold.
             property ClutterScreenModel module: null
 

@@ -22,6 +22,8 @@ ListRow {
 
     // The colour of the head's symbol.
     required property color tile
+    // The least width of the tag.
+    required property real tagWidth
 
     signal acted
 
@@ -136,19 +138,16 @@ ListRow {
         onDoubleClicked: {}
     }
 
-    Tag {
+    PathTag {
         id: mark
 
         anchors.left: ground.left
         anchors.leftMargin: 10
         anchors.verticalCenter: ground.verticalCenter
-        width: Math.max(implicitWidth, Math.round(44 * TextScale.factor))
+        width: row.tagWidth
         visible: !row.head
         text: row.tag
-        mute: true
         ink: row.tint.valid ? row.tint : Theme.inkSoft
-        tint: 0.22
-        size: 10
     }
 
     Label {

@@ -23,6 +23,14 @@ DuplicateRows::Card::Card(const DuplicateGroup& group)
     linked.resize(paths.size());
 }
 
+QStringList DuplicateRows::tags() const {
+    return {tagOf(true), tagOf(false)};
+}
+
+QString DuplicateRows::tagOf(bool kept) {
+    return kept ? tr("keep") : tr("dup");
+}
+
 void DuplicateRows::show(const std::vector<DuplicateGroup>& groups) {
     const auto isShown = [](const Card& card, const DuplicateGroup& group) { return card.shows(group); };
     const auto [before, first] = std::mismatch(cards_.begin(), cards_.end(), groups.begin(), groups.end(), isShown);
@@ -92,10 +100,7 @@ QVariant DuplicateRows::value(std::size_t row, int role) const {
             .arg(QString::number(card->paths.size()), byteFigure(card->size));
     };
     const auto gain = [&] { return isHead ? tr("save %1").arg(byteFigure(card->recoverable)) : QString(); };
-    const auto tag = [&] {
-        if (isHead) return QString();
-        return place == 1 ? tr("keep") : tr("dup");
-    };
+    const auto tag = [&] { return isHead ? QString() : tagOf(place == 1); };
     const auto note = [&] { return !isHead && card->linked[place - 1] ? tr("hard link") : QString(); };
     switch (role) {
         case headRole:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QStringList>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -18,6 +19,7 @@ class DuplicateRows : public zelk::RowModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Part of the model of the screen")
+    Q_PROPERTY(QStringList tags READ tags CONSTANT FINAL)
 
 public:
     enum Role {
@@ -34,6 +36,9 @@ public:
 
     DuplicateRows() : RowModel({"head", "last", "text", "gain", "tag", "tint", "note", "spoken", "action"}) {}
 
+    /// Every tag that a path may have: that of the kept one, and that of the others.
+    QStringList tags() const;
+
     /// Shows these sets. Delegates are kept of all but the sets between the first and the last one that changed.
     void show(const std::vector<DuplicateGroup>& groups);
 
@@ -44,6 +49,8 @@ public:
     std::string hashAt(int row) const;
 
 private:
+    static QString tagOf(bool kept);
+
     struct Card {
         std::string hash;
         std::int64_t size;

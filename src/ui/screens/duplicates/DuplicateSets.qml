@@ -12,6 +12,9 @@ RowList {
 
     required property DuplicatesScreenModel duplicates
 
+    // Either tag has this width, so that the paths begin at one place.
+    readonly property real tagWidth: Math.max(Math.round(44 * TextScale.factor), keptTag.implicitWidth, otherTag.implicitWidth)
+
     // The list had the keyboard, and its last set has left.
     signal emptied(bool byKey)
 
@@ -56,6 +59,20 @@ RowList {
         }
     }
 
+    PathTag {
+        id: keptTag
+
+        visible: false
+        text: list.duplicates.rows.tags[0]
+    }
+
+    PathTag {
+        id: otherTag
+
+        visible: false
+        text: list.duplicates.rows.tags[1]
+    }
+
     Connections {
         target: list.duplicates
 
@@ -68,6 +85,7 @@ RowList {
     delegate: DuplicateRow {
         width: Math.min(list.width, Theme.pageWidth + 2 * Theme.pageMargin)
         tile: list.duplicates.tint
+        tagWidth: list.tagWidth
         ringed: list.ringed && ListView.isCurrentItem
         onPressed: list.take(index)
         onActed: {

@@ -36,8 +36,6 @@ ModuleScaffold {
         FocusScope {
             id: results
 
-            focus: true
-
             // Set by ModuleScaffold.
             property DuplicatesScreenModel module: null
 

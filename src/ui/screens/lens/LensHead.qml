@@ -30,8 +30,9 @@ Item {
             Picture {
                 id: iconItem
 
+                objectName: "lensPlaceIcon"
                 anchors.left: parent.left
-                anchors.verticalCenter: parent.verticalCenter
+                y: Math.max(0, Math.round((lines.height - height) / 2))
                 width: 34
                 height: 34
                 image: head.lens.placeIcon
@@ -43,25 +44,32 @@ Item {
                 anchors.left: iconItem.right
                 anchors.leftMargin: 12
                 anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
                 spacing: 2
 
-                Label {
-                    objectName: "lensName"
-                    width: parent.width
-                    text: head.lens.place
-                    size: 15
-                    font.weight: Font.DemiBold
-                    elide: Text.ElideMiddle
-                    Accessible.role: Accessible.Heading
-                }
+                // The icon is centred on these, whether the line below them has a text or not.
+                Column {
+                    id: lines
 
-                Label {
-                    objectName: "lensPlaceLine"
                     width: parent.width
-                    text: head.lens.placeLine
-                    size: 11
-                    soft: true
+                    spacing: 2
+
+                    Label {
+                        objectName: "lensName"
+                        width: parent.width
+                        text: head.lens.place
+                        size: 15
+                        font.weight: Font.DemiBold
+                        elide: Text.ElideMiddle
+                        Accessible.role: Accessible.Heading
+                    }
+
+                    Label {
+                        objectName: "lensPlaceLine"
+                        width: parent.width
+                        text: head.lens.placeLine
+                        size: 11
+                        soft: true
+                    }
                 }
 
                 // Keeps its height without a text, so that the list stays where it is.

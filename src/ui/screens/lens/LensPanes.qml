@@ -212,9 +212,14 @@ FocusScope {
         Rectangle {
             id: foot
 
+            // The room between volume and button. Without enough for a line the caption stands below the volume.
+            readonly property real between: foot.width - 2 * Theme.pageMargin - volume.width - removeButton.width - 2 * 16
+            readonly property bool stacked: volume.visible && foot.between < 90 * TextScale.factor
+            readonly property real texts: foot.stacked ? volume.height + 6 + caption.height : Math.max(volume.height, caption.height)
+
             width: parent.width
             anchors.bottom: parent.bottom
-            implicitHeight: Math.max(volume.implicitHeight, caption.implicitHeight, removeButton.implicitHeight) + 2 * 16
+            implicitHeight: Math.max(foot.texts, removeButton.implicitHeight) + 2 * 16
             color: Theme.groundHi
 
             Divider {
@@ -226,7 +231,7 @@ FocusScope {
 
                 anchors.left: parent.left
                 anchors.leftMargin: Theme.pageMargin
-                anchors.verticalCenter: parent.verticalCenter
+                y: (parent.height - (foot.stacked ? foot.texts : height)) / 2
                 visible: panes.lens.volumed
                 lens: panes.lens
             }
@@ -235,15 +240,15 @@ FocusScope {
                 id: caption
 
                 objectName: "lensCaption"
-                anchors.left: volume.visible ? volume.right : parent.left
-                anchors.leftMargin: volume.visible ? 16 : Theme.pageMargin
+                anchors.left: volume.visible && !foot.stacked ? volume.right : parent.left
+                anchors.leftMargin: volume.visible && !foot.stacked ? 16 : Theme.pageMargin
                 anchors.right: removeButton.left
                 anchors.rightMargin: 16
-                anchors.verticalCenter: parent.verticalCenter
+                y: foot.stacked ? volume.y + volume.height + 6 : (parent.height - height) / 2
                 text: panes.lens.caption
                 size: 12
                 soft: true
-                horizontalAlignment: Text.AlignRight
+                horizontalAlignment: foot.stacked ? Text.AlignLeft : Text.AlignRight
                 wrapMode: Text.Wrap
             }
 

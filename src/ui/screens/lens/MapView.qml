@@ -16,7 +16,6 @@ ModuleScaffold {
             // Set by ModuleScaffold; the panes need it from the start.
             property LensScreenModel module: null
 
-            focus: true
             onModuleChanged: panes.setSource("LensPanes.qml", {
                 "lens": panes.module,
                 "focus": true

@@ -84,6 +84,7 @@ FocusScope {
             sourceComponent: scaffold.content
             focus: true
             onWantedChanged: results.keep()
+            onLoaded: results.item.focus = true
             Component.onCompleted: results.keep()
         }
 

@@ -39,6 +39,8 @@ Card {
                 kind: Button.Link
                 objectName: "seeAllButton"
                 anchors.right: parent.right
+                // Its text ends where the figures below it do.
+                anchors.rightMargin: -all.horizontalPadding
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("See all")
                 onClicked: card.findings.seeAll()
@@ -70,14 +72,14 @@ Card {
                     visible: row.index > 0
                 }
 
-                SymbolItem {
+                TextSymbol {
                     id: sign
 
                     anchors.left: parent.left
                     anchors.verticalCenter: parent.verticalCenter
                     name: row.symbol
                     color: row.tint.valid ? row.tint : Theme.otherFiles
-                    size: 16
+                    points: 13
                 }
 
                 Label {

@@ -40,7 +40,7 @@ Card {
                     anchors.verticalCenter: parent.verticalCenter
                     name: card.trends.grew ? "arrow.up.right" : "arrow.down.right"
                     color: card.trends.grew ? Theme.alert : "#32c77b"
-                    size: 13
+                    size: Math.round(13 * TextScale.factor)
                     weight: Font.Bold
                     Accessible.role: Accessible.Graphic
                     Accessible.name: card.trends.arrowName

@@ -37,8 +37,8 @@ QString ChangesModel::sizeText(const Row& row) {
     const FolderChange& change = row.change;
     switch (row.kind) {
         case Grew:
-            return byteFigure(change.newSize) + QStringLiteral("  ") +
-                   isolated(u'+' + byteFigure(sizeGrowth(change.oldSize, change.newSize)));
+            return inReadingOrder(byteFigure(change.newSize) + QStringLiteral("  ") +
+                                  isolated(u'+' + byteFigure(sizeGrowth(change.oldSize, change.newSize))));
         case Appeared:
             return byteFigure(change.newSize);
         case Vanished:

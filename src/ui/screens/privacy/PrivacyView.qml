@@ -26,8 +26,6 @@ ModuleScaffold {
         FocusScope {
             id: results
 
-            focus: true
-
             // Set by ModuleScaffold.
             property PrivacyScreenModel module: null
 

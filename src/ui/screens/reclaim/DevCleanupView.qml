@@ -67,6 +67,7 @@ ModuleScaffold {
                 visible: results.byCategory
                 enabled: visible
                 focus: visible
+                onLoaded: categories.item.focus = true
             }
 
             Loader {
@@ -76,6 +77,7 @@ ModuleScaffold {
                 visible: results.byItem
                 enabled: visible
                 focus: visible
+                onLoaded: items.item.focus = true
             }
 
             Loader {

@@ -69,14 +69,14 @@ Column {
                     height: rootRow.availableHeight
                     implicitHeight: Math.max(words.implicitHeight, removeButton.implicitHeight)
 
-                    SymbolItem {
+                    TextSymbol {
                         id: symbolItem
 
                         anchors.left: parent.left
                         anchors.verticalCenter: parent.verticalCenter
                         name: "folder.fill"
                         color: Theme.accent
-                        size: 16
+                        points: 13
                     }
 
                     Label {
@@ -97,6 +97,8 @@ Column {
                         id: removeButton
 
                         anchors.right: parent.right
+                        // Its circle ends where the controls below it do.
+                        anchors.rightMargin: -removeButton.overhang
                         anchors.verticalCenter: parent.verticalCenter
                         symbol: "minus.circle"
                         size: 16

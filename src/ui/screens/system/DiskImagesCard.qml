@@ -144,6 +144,8 @@ SystemCard {
 
             objectName: "revealImage" + row.index
             anchors.right: parent.right
+            // Its glass ends at the margin.
+            anchors.rightMargin: -revealButton.overhang
             anchors.verticalCenter: parent.verticalCenter
             symbol: "magnifyingglass"
             text: row.revealName

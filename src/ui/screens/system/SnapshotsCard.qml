@@ -13,6 +13,8 @@ SystemCard {
     required property SnapshotsModel snapshots
 
     title: qsTr("Local snapshots")
+    // The arrow ends at the margin.
+    overhang: reloadButton.overhang
     trailing: Row {
         spacing: 12
 

@@ -10,6 +10,8 @@ Card {
 
     required property string title
     property alias trailing: corner.data
+    // How far the control reaches into the margin beside it.
+    property real overhang: 0
     default property alias content: body.data
 
     Column {
@@ -18,7 +20,8 @@ Card {
 
         Item {
             width: parent.width
-            implicitHeight: Math.max(heading.implicitHeight, corner.childrenRect.height)
+            // The control reaches into the margins: all headings stand equally far below the top of their cards.
+            implicitHeight: heading.implicitHeight
 
             Eyebrow {
                 id: heading
@@ -34,6 +37,7 @@ Card {
                 id: corner
 
                 anchors.right: parent.right
+                anchors.rightMargin: -card.overhang
                 anchors.verticalCenter: parent.verticalCenter
                 width: childrenRect.width
                 height: childrenRect.height

@@ -26,7 +26,6 @@ ModuleScaffold {
                     });
             }
 
-            focus: true
             onModuleChanged: results.build()
             onLoaded: results.item.focus = true
         }
