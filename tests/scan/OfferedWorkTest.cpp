@@ -19,22 +19,17 @@ public:
     std::size_t parts() const override { return times.size(); }
     void run(std::size_t index) override {
         ++times.at(index);
-        afterEach();
+        afterEach(index);
     }
 
     std::vector<std::atomic<int>> times;
-    std::function<void()> afterEach = [] {};
+    std::function<void(std::size_t index)> afterEach = [](std::size_t) {};
 };
 
 TEST(OfferedWork, isDoneInOrderByOneAlone) {
     std::vector<std::size_t> order;
-    class NotedWork : public SharedWork {
-    public:
-        explicit NotedWork(std::vector<std::size_t>& into) : noted(into) {}
-        std::size_t parts() const override { return 5; }
-        void run(std::size_t index) override { noted.push_back(index); }
-        std::vector<std::size_t>& noted;
-    } work(order);
+    CountedWork work(5);
+    work.afterEach = [&](std::size_t index) { order.push_back(index); };
     OfferedWork offer(work);
     EXPECT_EQ(offer.parts(), 5U);
     EXPECT_FALSE(offer.isBegun());
@@ -71,7 +66,7 @@ TEST(OfferedWork, isLeftAfterThePartInWhichItIsCancelled) {
         CountedWork work(3);
         OfferedWork offer(work);
         CancelFlag cancel;
-        work.afterEach = [&, left = cancelledIn]() mutable {
+        work.afterEach = [&, left = cancelledIn](std::size_t) mutable {
             if (--left == 0) cancel.set();
         };
         offer.join(cancel);

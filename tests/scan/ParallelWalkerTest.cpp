@@ -65,27 +65,23 @@ TEST_F(ParallelWalkerTest, sharesDirectoriesDownToDepthFive) {
     disk.directory("/r/1/2/3/4/b");
     disk.hold("/r/1/2/3/4/a");
     disk.hold("/r/1/2/3/4/b");
-    const auto queue = std::make_shared<UpdateQueue>();
-    ScanEngine(disk, clock).start(queue, {"/r"});
-    disk.waitUntilHeld("/r/1/2/3/4/a");
-    disk.waitUntilHeld("/r/1/2/3/4/b");
-    disk.release();
-    ASSERT_TRUE(drainThreads(60));
-    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 7);
+    const ScanResult result = scanWhile([&] {
+        disk.waitUntilHeld("/r/1/2/3/4/a");
+        disk.waitUntilHeld("/r/1/2/3/4/b");
+    });
+    EXPECT_EQ(result.stats.dirsScanned, 7);
 }
 
 TEST_F(ParallelWalkerTest, walksFromDepthSixOnOneThread) {
     disk.directory("/r/1/2/3/4/5/a");
     disk.directory("/r/1/2/3/4/5/b/c");
     disk.hold("/r/1/2/3/4/5/a");
-    const auto queue = std::make_shared<UpdateQueue>();
-    ScanEngine(disk, clock).start(queue, {"/r"});
-    disk.waitUntilHeld("/r/1/2/3/4/5/a");
-    EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5"), 1);
-    EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5/b"), 0);
-    disk.release();
-    ASSERT_TRUE(drainThreads(60));
-    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 9);
+    const ScanResult result = scanWhile([&] {
+        disk.waitUntilHeld("/r/1/2/3/4/5/a");
+        EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5"), 1);
+        EXPECT_EQ(disk.timesRead("/r/1/2/3/4/5/b"), 0);
+    });
+    EXPECT_EQ(result.stats.dirsScanned, 9);
 }
 
 TEST_F(ParallelWalkerTest, countsHardLinkBytesOnceAndEveryName) {
@@ -380,17 +376,7 @@ TEST_F(ParallelWalkerTest, wakesAsManyAsThereAreFolders) {
     const std::vector<std::string> folders{"/r/a", "/r/b", "/r/c", "/r/d"};
     for (const std::string& folder : folders) disk.directory(folder);
     for (const std::string& folder : folders) disk.hold(folder);
-    disk.hold("/r");
-    workers(4);
-    const auto queue = std::make_shared<UpdateQueue>();
-    ScanEngine(disk, clock).start(queue, {"/r"});
-    disk.waitUntilHeld("/r");
-    waitForSleepingWorkers(4);
-    disk.release("/r");
-    for (const std::string& folder : folders) disk.waitUntilHeld(folder);
-    disk.release();
-    ASSERT_TRUE(drainThreads(60));
-    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 5);
+    EXPECT_EQ(scanWaking(folders).stats.dirsScanned, 5);
 }
 
 TEST(ParallelWalkerThreads, finishTheWalkWhenSomeCannotStart) {

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -74,6 +75,32 @@ protected:
         EXPECT_TRUE(batch.ended);
         return ScanResult(std::move(batch.updates));
     }
+
+    /// Scans "/r" on threads of its own. Once `meanwhile` returns, those that the file system holds go on to the end.
+    ScanResult scanWhile(const std::function<void()>& meanwhile) {
+        const auto queue = std::make_shared<UpdateQueue>();
+        ScanEngine(disk, clock, trash).start(queue, {"/r"});
+        meanwhile();
+        disk.release();
+        EXPECT_TRUE(drainThreads(60));
+        return ScanResult(queue->takeAll().updates);
+    }
+
+#ifdef __linux__
+    /// Scans "/r" with a worker for each of `places`, which must be held. One worker reads "/r" once the others have
+    /// fallen asleep for want of work; the scan goes on to its end once one waits at each of the places.
+    ScanResult scanWaking(const std::vector<std::string>& places) {
+        const int count = static_cast<int>(places.size());
+        workers(count);
+        disk.hold("/r");
+        return scanWhile([&] {
+            disk.waitUntilHeld("/r");
+            waitForSleepingWorkers(count);
+            disk.release("/r");
+            for (const std::string& place : places) disk.waitUntilHeld(place);
+        });
+    }
+#endif
 
     /// The node at a path below the only root; null if it is not in the tree.
     static FSNode* at(const ScanResult& result, const std::string& path) {

@@ -28,12 +28,9 @@ protected:
     /// Scans "/r" and, once a thread waits at each of `entries`, lets it go on to its end.
     ScanResult scanHolding(const std::vector<std::string>& entries) {
         for (const std::string& entry : entries) disk.holdEntry(entry);
-        const auto queue = std::make_shared<UpdateQueue>();
-        ScanEngine(disk, clock, trash).start(queue, {"/r"});
-        for (const std::string& entry : entries) disk.waitUntilHeld(entry);
-        disk.release();
-        EXPECT_TRUE(drainThreads(60));
-        return ScanResult(queue->takeAll().updates);
+        return scanWhile([&] {
+            for (const std::string& entry : entries) disk.waitUntilHeld(entry);
+        });
     }
 };
 
@@ -53,31 +50,19 @@ TEST_F(SharedFolder, isReadByThoseWhoWait) {
 TEST_F(SharedFolder, wakesThoseWhoWait) {
     const std::vector<std::string> firstOfEachPart{"/r/0.txt", "/r/2.txt", "/r/4.txt", "/r/6.txt"};
     files("/r");
-    workers(4);
-    disk.hold("/r");
     for (const std::string& name : firstOfEachPart) disk.holdEntry(name);
-    const auto queue = std::make_shared<UpdateQueue>();
-    ScanEngine(disk, clock).start(queue, {"/r"});
-    disk.waitUntilHeld("/r");
-    waitForSleepingWorkers(4);
-    disk.release("/r");
-    for (const std::string& name : firstOfEachPart) disk.waitUntilHeld(name);
-    disk.release();
-    ASSERT_TRUE(drainThreads(60));
-    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 80);
+    EXPECT_EQ(scanWaking(firstOfEachPart).stats.totalBytes, 80);
 }
 
 TEST_F(SharedFolder, letsThoseSleepWhoHaveNothingLeftToBegin) {
     files("/r", 40);
     workers(3);
     disk.holdEntry("/r/0.txt");
-    const auto queue = std::make_shared<UpdateQueue>();
-    ScanEngine(disk, clock).start(queue, {"/r"});
-    disk.waitUntilHeld("/r/0.txt");
-    waitForSleepingWorkers(3);
-    disk.release();
-    ASSERT_TRUE(drainThreads(60));
-    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 400);
+    const ScanResult result = scanWhile([&] {
+        disk.waitUntilHeld("/r/0.txt");
+        waitForSleepingWorkers(3);
+    });
+    EXPECT_EQ(result.stats.totalBytes, 400);
 }
 
 // Both owners sleep, the one of "a" for longer, when those end who help in "b".
@@ -87,20 +72,18 @@ TEST_F(SharedFolder, wakesItsOwnerAmongOthersThatWait) {
     files("/r/b");
     workers(6);
     for (const std::string& entry : entries) disk.holdEntry(entry);
-    const auto queue = std::make_shared<UpdateQueue>();
-    ScanEngine(disk, clock).start(queue, {"/r"});
-    for (const std::string& entry : entries) disk.waitUntilHeld(entry);
-    for (const char* const folder : {"/r/a", "/r/b"}) {
-        for (const std::string& entry : entries)
-            if (disk.entryReader(entry) == disk.lister(folder)) disk.release(entry);
+    const ScanResult result = scanWhile([&] {
+        for (const std::string& entry : entries) disk.waitUntilHeld(entry);
+        for (const char* const folder : {"/r/a", "/r/b"}) {
+            for (const std::string& entry : entries)
+                if (disk.entryReader(entry) == disk.lister(folder)) disk.release(entry);
+            waitForSleepingWorkers(6);
+        }
+        disk.release("/r/b/0.txt");
+        disk.release("/r/b/2.txt");
         waitForSleepingWorkers(6);
-    }
-    disk.release("/r/b/0.txt");
-    disk.release("/r/b/2.txt");
-    waitForSleepingWorkers(6);
-    disk.release();
-    ASSERT_TRUE(drainThreads(60));
-    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.totalBytes, 160);
+    });
+    EXPECT_EQ(result.stats.totalBytes, 160);
 }
 
 #endif
@@ -219,13 +202,11 @@ TEST_F(SharedFolder, lendsItsReadersNoLongerThanItTakes) {
     workers(2);
     disk.hold("/r/a");
     disk.hold("/r/b");
-    const auto queue = std::make_shared<UpdateQueue>();
-    ScanEngine(disk, clock).start(queue, {"/r"});
-    disk.waitUntilHeld("/r/a");
-    disk.waitUntilHeld("/r/b");
-    disk.release();
-    ASSERT_TRUE(drainThreads(60));
-    EXPECT_EQ(ScanResult(queue->takeAll().updates).stats.dirsScanned, 3);
+    const ScanResult result = scanWhile([&] {
+        disk.waitUntilHeld("/r/a");
+        disk.waitUntilHeld("/r/b");
+    });
+    EXPECT_EQ(result.stats.dirsScanned, 3);
 }
 
 /// Runs a walk of its own, to see what one that was cancelled leaves.
