@@ -251,12 +251,19 @@ TEST_F(WaitingWorkers, areJoinedAgainWhenTheyWaitAgain) {
     std::atomic<unsigned> started = 0;
     std::int64_t read = 0;
     std::vector<unsigned> startedAt;
+    std::atomic<bool> isSeen = false;  // that a third was started
     disk.afterEach = [&] {
         if (currentThreadName() == "zelk.scan.worker.1") disk.sleepsPerFolder(0);
+        // Otherwise the third might read all that is left before the first comes to look.
+        if (currentThreadName() == "zelk.scan.worker.2") isSeen.wait(false);
         if (currentThreadName() != "zelk.scan.worker.0" || ++read % watched != 1 || read == 1) return;
         startedAt.push_back(started);
         if (startedAt.size() == 1) disk.waitUntil(2, 1);
         if (startedAt.size() == 2) disk.sleepsPerFolder(1);
+        if (startedAt.size() == 3) {
+            isSeen = true;
+            isSeen.notify_all();
+        }
     };
     fakes::behindGate(
         SYS_clone3, [&](unsigned call) { return started = call + 1, 0; },
