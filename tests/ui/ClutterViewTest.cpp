@@ -294,6 +294,21 @@ TEST_F(ClutterViewTest, rowButtonOpensMenu) {
     EXPECT_FALSE(list().property("ringed").toBool());
 }
 
+// The symbol of the button ends where the page does, and a long name ends before the age.
+TEST_F(ClutterViewTest, rowsReachTheMarginAndNameAndAgeDoNotTouch) {
+    open();
+    for (const double factor : {1.0, 1.5}) {
+        largeText(factor);
+        const auto box = [](const QQuickItem& item) { return item.mapRectToScene({QPointF(), item.size()}); };
+        const QQuickItem& button = *find("fileMenu0");
+        const QQuickItem& symbol = *button.childItems().at(1);
+        const double end = box(*button.parentItem()).right() - Theme::pageMargin();
+        EXPECT_EQ(box(symbol).right(), end) << factor;
+        const QQuickItem& age = *showing("1d ago");
+        EXPECT_EQ(box(*showing("concert.mov")).right(), box(age).left() - 16) << factor;
+    }
+}
+
 TEST_F(ClutterViewTest, clickSelectsRow) {
     open();
     tour::clickAt(window(), middleOf(3));

@@ -130,4 +130,13 @@ Section {
             symbol: "arrow.clockwise"
         }
     }
+    StateRow {
+        name: "RowButton"
+        all: ["normal", "hovered", "pressed"]
+
+        RowButton {
+            text: "Actions"
+            symbol: "ellipsis.circle"
+        }
+    }
 }

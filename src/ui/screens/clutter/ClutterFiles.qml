@@ -199,8 +199,8 @@ FocusScope {
 
             anchors.left: tile.right
             anchors.leftMargin: 14
-            anchors.right: ageText.left
-            anchors.rightMargin: 16
+            // Anchored at one end only: with a width that is known from the start, the lines are laid out once.
+            width: row.width - (26 + tile.width + 14) - (16 + ageText.width + sizeText.width + 12 + more.width + more.anchors.rightMargin)
             anchors.verticalCenter: parent.verticalCenter
             title: row.name
             note: row.folder
@@ -237,18 +237,16 @@ FocusScope {
             mute: true
         }
 
-        IconButton {
+        RowButton {
             id: more
 
             objectName: "fileMenu" + row.index
             anchors.right: parent.right
-            anchors.rightMargin: 22
+            anchors.rightMargin: Theme.pageMargin - more.overhang
             anchors.verticalCenter: parent.verticalCenter
             text: row.actions
             Accessible.description: qsTr("opens a menu")
             symbol: "ellipsis.circle"
-            size: 16
-            focusPolicy: Qt.NoFocus
             onClicked: {
                 row.pressed();
                 row.asked(row.menuPlace);
