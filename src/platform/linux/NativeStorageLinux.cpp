@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/NativeStorage.h"
 
+#include "platform/linux/SharedHeap.h"
 #include "platform/linux/files/LinuxDirectoryReader.h"
 #include "platform/linux/files/LinuxFileManager.h"
 #include "platform/linux/files/LinuxLocations.h"
@@ -22,6 +23,7 @@ struct NativeStorage::Services {
 
 NativeStorage::NativeStorage(const std::string& home) : services_(std::make_unique<Services>(home)) {
     raiseDescriptorLimit();
+    shareHeapAmongThreads();
 }
 
 NativeStorage::~NativeStorage() = default;

@@ -14,10 +14,6 @@ namespace {
 /// The room for one getdents64 call; an ordinary folder fits at once.
 constexpr std::size_t readBytes = 64 * 1024;
 
-/// The memory that is kept between folders. A folder of hundreds of thousands of entries needs far more, which is
-/// released afterwards so that not every thread ends up holding it.
-constexpr std::size_t keptBytes = 1024 * 1024;
-
 }  // namespace
 
 bool EntryNames::read(int directory) {

@@ -16,6 +16,9 @@ class EntryNames {
 public:
     /// Names between two places that forEach() can begin at.
     static constexpr std::size_t stride = 128;
+    /// The memory that is kept between directories. One of hundreds of thousands of entries needs far more, which is
+    /// released afterwards so that not every thread ends up holding it.
+    static constexpr std::size_t keptBytes = 1024 * 1024;
 
     /// Reads all names of `directory`; those of the one before are gone. False if not all can be read.
     bool read(int directory);

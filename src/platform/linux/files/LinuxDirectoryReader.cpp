@@ -24,10 +24,6 @@ namespace zelk {
 
 namespace {
 
-/// The memory that a reader keeps between folders for their entries. A folder of hundreds of thousands needs far more,
-/// which is released afterwards so that not every thread ends up holding it.
-constexpr std::size_t keptBytes = 1024 * 1024;
-
 /// Folders from this many entries on are shared. Below, waking a thread takes as long as what it would do.
 constexpr std::size_t sharedFrom = 8 * EntryNames::stride;
 
@@ -111,7 +107,7 @@ private:
 
     const Entries* read() {
         const int directory = ladder_.current();
-        if (entries_.capacity() * sizeof(DirEntry) > keptBytes) Entries().swap(entries_);
+        if (entries_.capacity() * sizeof(DirEntry) > EntryNames::keptBytes) Entries().swap(entries_);
         entries_.clear();
         if (directory < 0 || !names_.read(directory)) return nullptr;
         // Make room exactly: a list that grows by doubling briefly exists twice, which in a folder of hundreds of
