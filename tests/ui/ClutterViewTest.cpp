@@ -294,6 +294,18 @@ TEST_F(ClutterViewTest, rowButtonOpensMenu) {
     EXPECT_FALSE(list().property("ringed").toBool());
 }
 
+TEST_F(ClutterViewTest, menuOfRowButtonHasTheKeyboard) {
+    open();
+    click("fileMenu3");
+    ASSERT_TRUE(menuIsOpen());
+    EXPECT_FALSE(listHasKeyboard());
+    EXPECT_EQ(current(), 3);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_THAT(machine.workspace.revealed, ElementsAre(Strings{home + "/old.mp4"}));
+    EXPECT_TRUE(listHasKeyboard());
+}
+
 // The symbol of the button ends where the page does, and a long name ends before the age.
 TEST_F(ClutterViewTest, rowsReachTheMarginAndNameAndAgeDoNotTouch) {
     open();
