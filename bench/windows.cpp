@@ -5,7 +5,7 @@
 //     windows [ROOT]
 //
 // With a ROOT, surveys it first, so that the screens have contents. Uses the real platform, rendered in software
-// without a screen. Every step is measured after it has rested.
+// without a screen unless the environment says otherwise. Every step is measured after it has rested.
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
